@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kinalyx {
+
+/// The few calls by which a save reaches the disk, so that a test can make each of them fail in turn.
+/// Results as the system calls have them: negative is a failure.
+class IDisk {
+ public:
+  virtual ~IDisk() = default;
+  virtual int Open(const std::string& path) = 0;                      ///< new file, for writing
+  virtual long Write(int file, const void* bytes, std::size_t count) = 0;
+  virtual int Flush(int file) = 0;
+  virtual int Close(int file) = 0;
+  virtual int Rename(const std::string& from, const std::string& to) = 0;
+  virtual int FlushFolder(const std::string& folder) = 0;
+  virtual int Remove(const std::string& path) = 0;
+};
+
+/// The disk of this machine.
+IDisk& RealDisk();
+
+/// Replaces a whole file: writes beside it, flushes, renames over it. The file holds either the old
+/// or the new bytes, whatever happens. On failure nothing is left behind, the old file stands, and
+/// `error` (may be null) gets the reason in the system's words. A file with read-only permission, or
+/// one that is a link, is treated as an editor would: the link's target is replaced, read-only is refused.
+bool WriteWholeFile(const std::string& path, std::span<const std::uint8_t> bytes, std::string* error = nullptr,
+                    IDisk& disk = RealDisk());
+bool WriteWholeFile(const std::string& path, std::string_view text, std::string* error = nullptr,
+                    IDisk& disk = RealDisk());
+
+/// All bytes of a file of at most `limit` bytes; nothing when it cannot be read or is larger.
+std::optional<std::vector<std::uint8_t>> ReadWholeFile(const std::string& path, std::int64_t limit = 64 << 20);
+/// The same as text, UTF-8 as it stands and anything else taken as Windows-1252.
+std::optional<std::string> ReadTextFile(const std::string& path, std::int64_t limit = 64 << 20);
+
+}  // namespace kinalyx

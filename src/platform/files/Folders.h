@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kinalyx {
+
+/// The user's documents folder: XDG_DOCUMENTS_DIR as the desktop has set it, else Documents in the
+/// home folder. Made when missing.
+std::string DocumentsFolder();
+
+/// The folder of the running program, without a trailing slash.
+std::string ProgramFolder();
+
+bool FileExists(const std::string& path);
+/// True when the path exists and is a folder.
+bool dirExists(const std::string& path);
+/// Makes a folder and those above it; true when it is there afterwards.
+bool MakeFolder(const std::string& path);
+/// Deletes a file; false when it is still there afterwards.
+bool KillFile(const std::string& path);
+/// Bytes, or nothing when the file cannot be read.
+std::optional<std::int64_t> FileSize(const std::string& path);
+/// Free bytes of the drive that holds `path` (or the nearest folder above it that exists); -1 unknown.
+std::int64_t FreeBytes(const std::string& path);
+
+/// Names of the subfolders, hidden ones left out, sorted as a reader would sort them (letters without
+/// regard to case, runs of digits by value). An unreadable folder gives an empty list.
+std::vector<std::string> ListFolders(const std::string& folder);
+/// Names of the files that end in `extension` (".avi"; either case), sorted likewise.
+std::vector<std::string> ListFiles(const std::string& folder, std::string_view extension);
+
+/// Puts a slash between two parts of a path, unless one is there.
+std::string JoinPath(std::string_view folder, std::string_view name);
+/// The last name of a path.
+std::string LastName(std::string_view path);
+
+}  // namespace kinalyx

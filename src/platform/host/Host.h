@@ -1,0 +1,94 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace kinalyx {
+
+enum class MessageKind { Information, Warning, Critical };
+
+/// What a file dialog is asked for. `filter` has the form "Name (*.a;*.b)|*.a; *.b".
+struct FileDialog {
+  std::string title;
+  std::string folder;
+  std::string filter;
+};
+
+/// What the machine tells of itself, for the system test and the window layouts.
+struct SystemInfo {
+  int screenWidth = 0;       ///< pixels
+  int screenHeight = 0;      ///< pixels
+  int bitsPerPixel = 0;
+  int processorMHz = 0;      ///< 0 when the system does not tell
+  std::int64_t ramKilobytes = 0;
+};
+
+/// Everything that reaches the logic from outside: clock, timers, event pump, messages, questions,
+/// dialogs, sounds and child processes. The program passes one over Qt; tests pass one whose clock
+/// they turn by hand and whose questions they answer.
+class IHost {
+ public:
+  using TimerId = int;  ///< 0 is no timer
+
+  virtual ~IHost() = default;
+
+  /// Milliseconds of a clock that never goes back; its zero is arbitrary.
+  virtual std::int64_t timeGetTime() = 0;
+
+  /// Calls `action` on the user-interface thread after `milliseconds` (0: at the next turn of the
+  /// event loop), again and again when `repeat`. Timers also run while a message box is open.
+  virtual TimerId StartTimer(int milliseconds, bool repeat, std::function<void()> action) = 0;
+  /// Unknown and finished timers are ignored; safe inside the timer's own action.
+  virtual void StopTimer(TimerId timer) = 0;
+
+  /// Lets queued window events, timers and repaints run, and returns.
+  virtual void DoEvents() = 0;
+
+  /// Shows a message and waits until it is read.
+  virtual void Message(MessageKind kind, const std::string& title, const std::string& text) = 0;
+  /// Asks a question with the buttons yes and no; true for yes.
+  virtual bool Question(const std::string& title, const std::string& text) = 0;
+  /// The path of an existing file, or nothing when the user cancels.
+  virtual std::optional<std::string> PickFile(const FileDialog& dialog) = 0;
+  /// The path of an existing folder, or nothing when the user cancels.
+  virtual std::optional<std::string> PickFolder(const std::string& title, const std::string& folder) = 0;
+
+  /// Starts a program that outlives this one; false when it cannot be started.
+  virtual bool StartDetached(const std::string& program, const std::vector<std::string>& arguments) = 0;
+
+  virtual SystemInfo System() = 0;
+};
+
+/// A timer that stops when it goes out of scope. Movable, not copyable.
+class HostTimer {
+ public:
+  HostTimer() = default;
+  HostTimer(IHost& host, int milliseconds, bool repeat, std::function<void()> action)
+      : host_(&host), id_(host.StartTimer(milliseconds, repeat, std::move(action))) {}
+  HostTimer(HostTimer&& other) noexcept : host_(other.host_), id_(std::exchange(other.id_, 0)) {}
+  HostTimer& operator=(HostTimer&& other) noexcept {
+    if (this != &other) {
+      Stop();
+      host_ = other.host_;
+      id_ = std::exchange(other.id_, 0);
+    }
+    return *this;
+  }
+  ~HostTimer() { Stop(); }
+
+  void Stop() {
+    if (host_ && id_) host_->StopTimer(std::exchange(id_, 0));
+  }
+  bool Running() const { return id_ != 0; }
+
+ private:
+  IHost* host_ = nullptr;
+  IHost::TimerId id_ = 0;
+};
+
+}  // namespace kinalyx
