@@ -1,0 +1,153 @@
+#include "platform/host/QtHost.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QProcess>
+#include <QScreen>
+#include <QTimerEvent>
+#include <chrono>
+#include <fstream>
+#include <map>
+
+#include <sys/sysinfo.h>
+
+namespace kinalyx {
+namespace {
+
+QString Text(const std::string& text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
+
+/// "All Pictures (*.bmp;*.jpg)|*.bmp; *.jpg" in the form that Qt's dialogs read.
+QString DialogFilter(const std::string& filter) {
+  QString label = Text(filter).section('|', 0, 0);
+  QString patterns = Text(filter).section('|', 1).replace(';', ' ');
+  if (patterns.isEmpty()) return label;
+  return label.section('(', 0, 0).trimmed() + " (" + patterns.simplified() + ")";
+}
+
+int ProcessorMHz() {
+  std::ifstream info("/proc/cpuinfo");
+  for (std::string line; std::getline(info, line);) {
+    if (line.rfind("cpu MHz", 0) != 0) continue;
+    const auto colon = line.find(':');
+    if (colon != std::string::npos) return static_cast<int>(std::strtod(line.c_str() + colon + 1, nullptr));
+  }
+  return 0;
+}
+
+class QtHost final : public QObject, public IHost {
+ public:
+  std::int64_t timeGetTime() override {
+    using namespace std::chrono;
+    return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
+  }
+
+  TimerId StartTimer(int milliseconds, bool repeat, std::function<void()> action) override {
+    const int qtId = startTimer(std::max(0, milliseconds), Qt::PreciseTimer);
+    const TimerId id = ++lastTimer_;
+    timers_[id] = {qtId, repeat, std::move(action)};
+    running_[qtId] = id;
+    return id;
+  }
+
+  void StopTimer(TimerId timer) override {
+    const auto found = timers_.find(timer);
+    if (found == timers_.end()) return;
+    killTimer(found->second.qtId);
+    running_.erase(found->second.qtId);
+    timers_.erase(found);
+  }
+
+  void DoEvents() override { QCoreApplication::processEvents(); }
+
+  void Message(MessageKind kind, const std::string& title, const std::string& text) override {
+    QMessageBox box(IconOf(kind), Title(title), Text(text), QMessageBox::Ok, QApplication::activeWindow());
+    box.setObjectName("MessageBox");
+    box.exec();
+  }
+
+  bool Question(const std::string& title, const std::string& text) override {
+    QMessageBox box(QMessageBox::Question, Title(title), Text(text), QMessageBox::Yes | QMessageBox::No,
+                    QApplication::activeWindow());
+    box.setObjectName("QuestionBox");
+    box.setDefaultButton(QMessageBox::No);
+    box.setEscapeButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
+  }
+
+  std::optional<std::string> PickFile(const FileDialog& dialog) override {
+    return Picked(QFileDialog::getOpenFileName(QApplication::activeWindow(), Title(dialog.title), Text(dialog.folder),
+                                               DialogFilter(dialog.filter)));
+  }
+
+  std::optional<std::string> PickFolder(const std::string& title, const std::string& folder) override {
+    return Picked(QFileDialog::getExistingDirectory(QApplication::activeWindow(), Title(title), Text(folder)));
+  }
+
+  bool StartDetached(const std::string& program, const std::vector<std::string>& arguments) override {
+    QStringList list;
+    for (const auto& argument : arguments) list << Text(argument);
+    return QProcess::startDetached(Text(program), list);
+  }
+
+  SystemInfo System() override {
+    SystemInfo info;
+    if (const QScreen* screen = QGuiApplication::primaryScreen()) {
+      const QSizeF pixels = QSizeF(screen->size()) * screen->devicePixelRatio();
+      info.screenWidth = qRound(pixels.width());
+      info.screenHeight = qRound(pixels.height());
+      info.bitsPerPixel = screen->depth();
+    }
+    struct sysinfo memory {};
+    if (sysinfo(&memory) == 0)
+      info.ramKilobytes = static_cast<std::int64_t>(memory.totalram) * memory.mem_unit / 1024;
+    info.processorMHz = ProcessorMHz();
+    return info;
+  }
+
+ protected:
+  void timerEvent(QTimerEvent* event) override {
+    const auto running = running_.find(event->timerId());
+    if (running == running_.end()) return;
+    const TimerId id = running->second;
+    // The action may stop its own timer or start others: hold a copy, and drop a one-shot first.
+    const auto action = timers_[id].action;
+    if (!timers_[id].repeat) StopTimer(id);
+    action();
+  }
+
+ private:
+  struct Entry {
+    int qtId = 0;
+    bool repeat = false;
+    std::function<void()> action;
+  };
+
+  static QMessageBox::Icon IconOf(MessageKind kind) {
+    switch (kind) {
+      case MessageKind::Warning: return QMessageBox::Warning;
+      case MessageKind::Critical: return QMessageBox::Critical;
+      default: return QMessageBox::Information;
+    }
+  }
+
+  static QString Title(const std::string& title) {
+    return title.empty() ? QCoreApplication::applicationName() : Text(title);
+  }
+
+  static std::optional<std::string> Picked(const QString& path) {
+    if (path.isEmpty()) return std::nullopt;
+    return path.toStdString();
+  }
+
+  // Qt gives the number of a finished timer to the next one; ours are never used twice.
+  TimerId lastTimer_ = 0;
+  std::map<TimerId, Entry> timers_;
+  std::map<int, TimerId> running_;
+};
+
+}  // namespace
+
+std::unique_ptr<IHost> MakeQtHost() { return std::make_unique<QtHost>(); }
+
+}  // namespace kinalyx

@@ -1,0 +1,60 @@
+#include "video/FramePipeline.h"
+
+#include <cstddef>
+#include <cstring>
+
+namespace kinalyx {
+namespace {
+
+std::uint8_t* Row(std::uint8_t* rows, int rowBytes, int row) {
+  return rows + static_cast<std::ptrdiff_t>(row) * rowBytes;
+}
+
+void MeanOfRows(const std::uint8_t* below, const std::uint8_t* above, std::uint8_t* target, int count) {
+  for (int c = 0; c < count; ++c) target[c] = static_cast<std::uint8_t>((below[c] + above[c] + 1) >> 1);
+}
+
+}  // namespace
+
+int ScanLineBytes(int width, int bitCount) {
+  switch (bitCount) {
+    case 1: return (width / 8 + 3) & ~3;
+    case 2: return (width / 4 + 3) & ~3;
+    case 4: return (width / 2 + 3) & ~3;
+    case 8: return (width + 3) & ~3;
+    case 16: return (2 * width + 3) & ~3;
+    case 24: return (3 * width + 3) & ~3;
+    case 32: return 4 * width;
+    default: return 0;
+  }
+}
+
+void CopyField(const std::uint8_t* frame, int rowBytes, int height, bool currentField, std::uint8_t* target) {
+  for (int row = currentField ? 0 : 1; row <= height - 1; row += 2) {
+    const auto offset = static_cast<std::ptrdiff_t>(row) * rowBytes;
+    std::memcpy(target + offset, frame + offset, static_cast<std::size_t>(rowBytes));
+  }
+}
+
+void smooth(std::uint8_t* rows, int rowBytes, int firstRow, int lastColumn, int lastRow) {
+  for (int row = firstRow; row <= lastRow; row += 2)
+    MeanOfRows(Row(rows, rowBytes, row - 1), Row(rows, rowBytes, row + 1), Row(rows, rowBytes, row), lastColumn + 1);
+}
+
+void SoftenField(std::uint8_t* rows, int rowBytes, int height, bool currentField) {
+  const int lastRow = height - 1;
+  const int missing = currentField ? 1 : 0;  // the lowest row that was not copied
+  if (height < 2) return;
+  // The rule proper begins at row 3 or 2. Row 1 (or 0) would keep an older picture for good, and so
+  // would a missing row at the top: they are taken from the written rows beside them.
+  if (missing == 1 && height > 2) {
+    smooth(rows, rowBytes, 1, rowBytes - 1, 1);
+  } else {
+    std::memcpy(Row(rows, rowBytes, missing), Row(rows, rowBytes, 1 - missing), static_cast<std::size_t>(rowBytes));
+  }
+  smooth(rows, rowBytes, missing + 2, rowBytes - 1, lastRow - 1);
+  if (lastRow >= 2 && lastRow % 2 == missing)
+    std::memcpy(Row(rows, rowBytes, lastRow), Row(rows, rowBytes, lastRow - 1), static_cast<std::size_t>(rowBytes));
+}
+
+}  // namespace kinalyx
