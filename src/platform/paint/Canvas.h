@@ -16,16 +16,21 @@ enum class Rop2 {
   MaskPen, NotXorPen, Nop, MergeNotPen, CopyPen, MergePenNot, MergePen, White
 };
 
+class IFigureRecorder;
+
 struct Pen {
   Colour colour = 0;
-  int width = 1;  ///< pixels, at least 1
-  int style = 0;  ///< 0 solid, 1 dash, 2 dot, 3 dash dot, 4 dash dot dot, 5 none
+  int width = 1;  ///< pixels, 1 to 1000; other values count as the nearest
+  int style = 0;  ///< 0 solid, 1 dash, 2 dot, 3 dash dot, 4 dash dot dot, 5 none; others are solid
 };
 
 /// Draws lines and figures on a surface that it does not own and that must outlive it. In copy mode
-/// strokes are antialiased with round ends and joints; every other raster mode touches whole pixels.
-/// Coordinates are pixels, clipped to the surface. Each figure returns false when it could not be
-/// drawn (an empty surface); too few points draw nothing and count as drawn.
+/// strokes are antialiased with round ends and joints; every other raster mode touches whole pixels,
+/// each at most once per figure. A point means the middle of its pixel; a line of even width lies one
+/// half pixel up and left of it, so that upright lines stay crisp. Coordinates are pixels, any 32-bit
+/// value, clipped to the surface. Each figure returns false when it could not be drawn (an empty
+/// surface); too few points draw nothing and count as drawn. The surface may be read, written and
+/// given another size between two figures.
 class Canvas {
  public:
   explicit Canvas(Surface& surface);
@@ -40,18 +45,26 @@ class Canvas {
   /// The colour that fills polygons and ellipses; none leaves them hollow.
   void SetBrush(std::optional<Colour> brush);
 
+  /// One stroke, however often it crosses itself. Points that all coincide draw a dot.
   bool Polyline(std::span<const POINTAPI> points);
+  /// The last point is joined to the first; where the outline crosses itself the filling alternates.
   bool Polygon(std::span<const POINTAPI> points);
-  /// The ellipse inside the box of two opposite corners, in any order.
+  /// The ellipse inside the box of two opposite corners, in any order; a flat box gives a line, one
+  /// without any extent a dot.
   bool Ellipse(POINTAPI corner, POINTAPI opposite);
   bool Line(POINTAPI from, POINTAPI to);
-  /// One line of text whose box has its top left corner at `at`; `height` in pixels.
+  /// One line of text in the pen's colour whose box has its top left corner at `at`; `height` in
+  /// pixels, 1 to 1000. False also when the program has no fonts (it runs without a graphical application).
   bool Text(POINTAPI at, int height, const std::string& text);
 
   Surface& Target();
 
  private:
+  friend class Layer;
   struct Engine;
+  /// For drawings that are kept: `surface` begins and stays transparent where nothing is drawn.
+  Canvas(Surface& surface, IFigureRecorder& recorder);
+
   std::unique_ptr<Engine> engine_;
 };
 

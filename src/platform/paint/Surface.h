@@ -13,7 +13,7 @@ namespace kinalyx {
 class Surface {
  public:
   Surface() = default;
-  /// Black. Sizes below 1 give an empty surface.
+  /// Black. A side below 1 or above 32767, or more than 2^28 pixels, give an empty surface.
   Surface(int width, int height);
 
   int Width() const { return width_; }
@@ -23,6 +23,7 @@ class Surface {
   int Stride() const { return width_ * 4; }
   std::uint8_t* Row(int y) { return pixels_.data() + static_cast<std::size_t>(y) * Stride(); }
   const std::uint8_t* Row(int y) const { return pixels_.data() + static_cast<std::size_t>(y) * Stride(); }
+  /// Black outside the surface.
   Colour Pixel(int x, int y) const;
   void Clear(Colour colour);
 

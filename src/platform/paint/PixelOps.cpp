@@ -1,0 +1,62 @@
+#include "platform/paint/PixelOps.h"
+
+#include <libyuv/convert_argb.h>
+#include <libyuv/planar_functions.h>
+#include <libyuv/scale_argb.h>
+
+#include <cstdlib>
+#include <cstring>
+
+namespace kinalyx {
+namespace {
+
+libyuv::FilterMode FilterFor(const PixelRows& rows, const Surface& target) {
+  const bool quarter = rows.width >= target.Width() * 4 && rows.height >= target.Height() * 4;
+  return quarter ? libyuv::kFilterBox : libyuv::kFilterBilinear;
+}
+
+void FillFourth(Surface& target) {
+  for (int y = 0; y < target.Height(); ++y) {
+    std::uint8_t* row = target.Row(y);
+    for (int x = 0; x < target.Width(); ++x) row[x * 4 + 3] = 255;
+  }
+}
+
+bool Scale(const std::uint8_t* from, int stride, const PixelRows& rows, bool bottomUp, Surface& target) {
+  return libyuv::ARGBScale(from, stride, rows.width, bottomUp ? -rows.height : rows.height, target.Row(0),
+                           target.Stride(), target.Width(), target.Height(), FilterFor(rows, target)) == 0;
+}
+
+}  // namespace
+
+bool StretchRows(const PixelRows& rows, Surface& target, ScaleScratch& scratch) {
+  if (!rows.bits || rows.width < 1 || rows.height < 1 || target.Empty()) return false;
+  if (rows.bitCount != 24 && rows.bitCount != 32) return false;
+  if (rows.rowBytes < static_cast<std::int64_t>(rows.width) * (rows.bitCount / 8)) return false;
+  const int height = rows.bottomUp ? -rows.height : rows.height;
+  const bool sameSize = rows.width == target.Width() && rows.height == target.Height();
+  if (rows.bitCount == 24) {
+    if (sameSize)
+      return libyuv::RGB24ToARGB(rows.bits, rows.rowBytes, target.Row(0), target.Stride(), rows.width, height) == 0;
+    const int stride = rows.width * 4;
+    std::uint8_t* wide = scratch.Take(static_cast<std::size_t>(stride) * rows.height);
+    return libyuv::RGB24ToARGB(rows.bits, rows.rowBytes, wide, stride, rows.width, height) == 0 &&
+           Scale(wide, stride, rows, false, target);
+  }
+  const bool done = sameSize ? libyuv::ARGBCopy(rows.bits, rows.rowBytes, target.Row(0), target.Stride(), rows.width,
+                                                height) == 0
+                             : Scale(rows.bits, rows.rowBytes, rows, rows.bottomUp, target);
+  if (done) FillFourth(target);
+  return done;
+}
+
+void MirrorHorizontal(Surface& surface, Surface& scratch) {
+  if (surface.Empty()) return;
+  if (scratch.Width() != surface.Width() || scratch.Height() != surface.Height())
+    scratch = Surface(surface.Width(), surface.Height());
+  libyuv::ARGBMirror(surface.Row(0), surface.Stride(), scratch.Row(0), scratch.Stride(), surface.Width(),
+                     surface.Height());
+  std::swap(surface, scratch);
+}
+
+}  // namespace kinalyx
