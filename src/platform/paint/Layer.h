@@ -10,9 +10,11 @@
 
 namespace kinalyx {
 
-/// A drawing kept ready to be laid over any number of frames: what a painter drew in copy mode, boiled
-/// down to the pixels that it touched. Laying it gives the picture that painting directly would give
-/// (antialiased edges within one step per byte), at a small part of the price. A value; cheap to move.
+/// A drawing kept ready to be laid over any number of frames: what a painter drew, boiled down to the
+/// pixels that it touched, coat upon coat where raster modes change. Laying it gives the picture that
+/// painting directly would give, at a small part of the price: exact in every raster mode but copy,
+/// whose antialiased edges agree within one step per byte (two where many edges cross). A value; cheap
+/// to move.
 class Layer {
  public:
   Layer();
@@ -20,7 +22,8 @@ class Layer {
   Layer& operator=(Layer&&) noexcept;
   ~Layer();
 
-  /// Runs `paint` on a transparent canvas of this size and keeps what it drew.
+  /// Runs `paint` on a transparent canvas of this size and keeps what it drew. The canvas is as any
+  /// other, in all raster modes, but the pixels of its target say nothing of the frames to come.
   static Layer Record(int width, int height, const std::function<void(Canvas&)>& paint);
   /// Keeps a filled polygon that is merged (bitwise or) into the picture.
   static Layer RecordMerge(int width, int height, std::span<const POINTAPI> polygon, Colour colour);
