@@ -13,6 +13,7 @@
 
 #include "platform/paint/FigureClip.h"
 #include "platform/paint/Fonts.h"
+#include "platform/paint/QtFonts.h"
 #include "platform/paint/RasterModes.h"
 
 namespace kinalyx {
@@ -78,7 +79,6 @@ struct Canvas::Engine {
   LinePieces pieces;
 
   Engine(Surface& target, IFigureRecorder* follower) : surface(&target), recorder(follower) {}
-  ~Engine() { painter.end(); }
 
   bool HasPen() const { return pen.style != 5; }
 
@@ -100,7 +100,7 @@ struct Canvas::Engine {
     if (painter.isActive() && image.constBits() == bits && image.width() == surface->Width() &&
         image.height() == surface->Height())
       return;
-    painter.end();
+    if (painter.isActive()) painter.end();
     image = QImage(bits, surface->Width(), surface->Height(), surface->Stride(),
                    recorder ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
     painter.begin(&image);
@@ -159,10 +159,14 @@ struct Canvas::Engine {
   bool Dot(RealPoint at) {
     if (!HasPen() || !Band().Holds(at)) return !surface->Empty();
     return Paint(Reach({at.x, at.y, at.x, at.y}), [&](QPainter& on) {
-      QPen round = on.pen();
-      const QPen before = round;
-      round.setStyle(Qt::SolidLine);
-      round.setCapStyle(Qt::RoundCap);
+      if (pen.width <= 2) {
+        // A disc this small would come out as a shadow of a pixel, or not at all.
+        const double middle = mode == Rop2::CopyPen ? pen.width / 2.0 : pen.width / 2;
+        on.fillRect(QRectF(at.x - middle, at.y - middle, pen.width, pen.width), ToQt(pen.colour));
+        return;
+      }
+      const QPen before = on.pen();
+      QPen round(ToQt(pen.colour), pen.width, Qt::SolidLine, Qt::RoundCap);
       on.setPen(round);
       on.drawPoint(QPointF(at.x, at.y));
       on.setPen(before);
@@ -269,11 +273,10 @@ bool Canvas::Polygon(std::span<const POINTAPI> points) {
 bool Canvas::Ellipse(POINTAPI corner, POINTAPI opposite) {
   if (corner.x == opposite.x || corner.y == opposite.y) return Line(corner, opposite);
   if (engine_->surface->Empty()) return false;
-  const auto [left, right] = std::minmax(static_cast<double>(corner.x), static_cast<double>(opposite.x));
-  const auto [top, bottom] = std::minmax(static_cast<double>(corner.y), static_cast<double>(opposite.y));
-  const RealBox box{left, top, right, bottom};
+  const RealPoint corners[] = {ToReal(corner), ToReal(opposite)};
+  const RealBox box = BoundsOf(corners);
   const RealBox band = engine_->Band();
-  if (band.Holds({left, top}) && band.Holds({right, bottom})) {
+  if (band.Holds({box.left, box.top}) && band.Holds({box.right, box.bottom})) {
     return engine_->Paint(engine_->Reach(box), [&](QPainter& on) {
       on.drawEllipse(QRectF(box.left, box.top, box.right - box.left, box.bottom - box.top));
     });

@@ -12,9 +12,9 @@ namespace kinalyx {
 
 /// A drawing kept ready to be laid over any number of frames: what a painter drew, boiled down to the
 /// pixels that it touched, coat upon coat where raster modes change. Laying it gives the picture that
-/// painting directly would give, at a small part of the price: exact in every raster mode but copy,
-/// whose antialiased edges agree within one step per byte (two where many edges cross). A value; cheap
-/// to move.
+/// painting directly would give, at a small part of the price: the same pixels in every raster mode but
+/// copy, whose antialiased edges agree within one step per byte (two where many edges cross). A value;
+/// cheap to move.
 class Layer {
  public:
   Layer();

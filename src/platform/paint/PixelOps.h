@@ -32,11 +32,15 @@ class ScaleScratch {
   std::vector<std::uint8_t> bytes_;
 };
 
-/// Stretches `rows` over the whole of `target`, bilinear. Other bit counts than 24 and 32 and empty
-/// pictures leave the target alone and return false.
+/// A surface's own pixels as rows, good until the surface changes its size or goes.
+PixelRows RowsOf(const Surface& surface);
+
+/// Stretches `rows` over the whole of `target`, bilinear. `rows` must not be the target's own. Other bit
+/// counts than 24 and 32 and empty pictures leave the target alone and return false.
 bool StretchRows(const PixelRows& rows, Surface& target, ScaleScratch& scratch);
 
-/// Mirrors a surface left to right; `scratch` is given the surface's size when it has another.
+/// Mirrors a surface left to right. `scratch` is given the surface's size when it has another, and the
+/// two exchange their memory.
 void MirrorHorizontal(Surface& surface, Surface& scratch);
 
 }  // namespace kinalyx

@@ -1,0 +1,132 @@
+#include "platform/paint/Layer.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <random>
+#include <vector>
+
+#include "PaintSupport.h"
+
+namespace kinalyx {
+namespace {
+
+/// Lines, polygons and ellipses as an instructor draws them, each with a black rim beneath.
+void PaintShapes(Canvas& canvas, unsigned seed, int count) {
+  std::mt19937 random(seed);
+  const int width = canvas.Target().Width();
+  const int height = canvas.Target().Height();
+  const auto below = [&](int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); };
+  for (int i = 0; i < count; ++i) {
+    std::array<POINTAPI, 4> points;
+    for (POINTAPI& point : points) point = {below(width + 60) - 30, below(height + 60) - 30};
+    const int line = 1 + below(4);
+    for (const bool rim : {true, false}) {
+      canvas.SetPen({rim ? 0 : below(0x1000000), rim ? line + 2 : line, 0});
+      if (i % 3 == 0) canvas.Polyline(points);
+      if (i % 3 == 1) canvas.Polygon(points);
+      if (i % 3 == 2) canvas.Ellipse(points[0], points[1]);
+    }
+  }
+}
+
+void ExpectSameAsDirect(int width, int height, int tolerance, const std::function<void(Canvas&)>& paint) {
+  SCOPED_TRACE(testing::Message() << width << " x " << height);
+  Surface direct = Noise(width, height, 11);
+  Surface laid = direct;
+  Canvas canvas(direct);
+  paint(canvas);
+  const Layer layer = Layer::Record(width, height, paint);
+  layer.LayOver(laid);
+  EXPECT_LE(LargestDifference(direct, laid), tolerance);
+  EXPECT_TRUE(IsOpaque(laid));
+  EXPECT_NE(LargestDifference(laid, Noise(width, height, 11)), 0) << "something was drawn";
+}
+
+TEST(Layer, GivesThePictureThatPaintingWouldGive) {
+  // Sizes whose pixel count leaves no, one, two and three pixels after the last four, and tiny ones.
+  for (const auto& [width, height] : {std::pair{640, 480}, {137, 125}, {139, 126}, {141, 127}, {3, 1}, {1, 1}})
+    ExpectSameAsDirect(width, height, 1, [](Canvas& canvas) { PaintShapes(canvas, 3, 6); });
+}
+
+TEST(Layer, CrowdedSoftEdgesStayWithinTwoSteps) {
+  for (unsigned seed = 1; seed <= 5; ++seed)
+    ExpectSameAsDirect(200, 150, 2, [&](Canvas& canvas) { PaintShapes(canvas, seed, 200); });
+}
+
+TEST(Layer, KeepsTheOrderOfRasterModesAndStrokes) {
+  const std::array<POINTAPI, 3> triangle = {{{20, 10}, {150, 90}, {5, 110}}};
+  // Upright lines have no soft edges, so every pixel must agree.
+  const auto cross = [](Canvas& canvas, Colour colour) {
+    canvas.SetPen({colour, 6, 0});
+    canvas.Line({-20, 60}, {180, 60});
+    canvas.Line({80, -20}, {80, 140});
+  };
+  for (int mode = 1; mode <= 16; ++mode) {
+    if (mode == 13) continue;
+    SCOPED_TRACE(mode);
+    ExpectSameAsDirect(160, 120, 0, [&](Canvas& canvas) {
+      cross(canvas, Rgb(77, 200, 13));
+      canvas.SetROP2(static_cast<Rop2>(mode));
+      canvas.SetPen({Rgb(10, 200, 90), 5, 0});
+      canvas.SetBrush(Rgb(90, 10, 200));
+      canvas.Polygon(triangle);
+      canvas.SetBrush(std::nullopt);
+      canvas.Line({0, 119}, {159, 0});
+      canvas.SetROP2(Rop2::CopyPen);
+      canvas.SetPen({Rgb(1, 2, 3), 2, 0});
+      canvas.Line({-20, 90}, {180, 90});
+    });
+  }
+}
+
+TEST(Layer, AMergedZoneTouchesThePixelsOfAPolygon) {
+  const std::vector<std::vector<POINTAPI>> zones = {{{30, 20}, {200, 100}, {10, 140}},
+                                                    {{-500, -20}, {90, 3000}, {400, 50}},
+                                                    {{5, 5}, {100, 5}, {5, 5}},
+                                                    {{20, 20}, {180, 140}, {180, 20}, {20, 140}}};
+  const Colour colour = Rgb(0, 96, 32);
+  for (const auto& zone : zones) {
+    Surface direct = Noise(211, 160, 2);
+    Surface laid = direct;
+    Canvas canvas(direct);
+    canvas.SetROP2(Rop2::MergePen);
+    canvas.SetPen({colour, 1, 0});
+    canvas.SetBrush(colour);
+    canvas.Polygon(zone);
+    const Layer layer = Layer::RecordMerge(211, 160, zone, colour);
+    EXPECT_FALSE(layer.Empty());
+    layer.LayOver(laid);
+    EXPECT_EQ(LargestDifference(direct, laid), 0);
+  }
+}
+
+TEST(Layer, IsEmptyWhenNothingWasTouched) {
+  Surface picture = Noise(50, 40, 9);
+  const Surface before = picture;
+  const std::array<POINTAPI, 3> outside = {{{-100, -100}, {-50, -80}, {-70, -20}}};
+  const Layer layers[] = {Layer(), Layer::Record(50, 40, [](Canvas&) {}),
+                          Layer::Record(50, 40, [](Canvas& canvas) { canvas.Line({-9, -9}, {-20, 30}); }),
+                          Layer::RecordMerge(50, 40, outside, 255), Layer::RecordMerge(50, 40, {}, 255),
+                          Layer::Record(0, 40, [](Canvas& canvas) { canvas.Line({0, 0}, {9, 9}); })};
+  for (const Layer& layer : layers) {
+    EXPECT_TRUE(layer.Empty());
+    EXPECT_EQ(layer.Bytes(), 0u);
+    layer.LayOver(picture);
+  }
+  EXPECT_EQ(LargestDifference(picture, before), 0);
+}
+
+TEST(Layer, LeavesAPictureOfAnotherSizeAlone) {
+  const Layer layer = Layer::Record(50, 40, [](Canvas& canvas) { PaintShapes(canvas, 1, 10); });
+  EXPECT_GT(layer.Bytes(), 0u);
+  for (const auto& [width, height] : {std::pair{40, 50}, {50, 39}, {0, 0}}) {
+    Surface other = Noise(width, height, 9);
+    const Surface before = other;
+    layer.LayOver(other);
+    EXPECT_EQ(LargestDifference(other, before), 0);
+  }
+}
+
+}  // namespace
+}  // namespace kinalyx
