@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QPushButton>
+#include <QString>
+
+namespace kinalyx {
+
+/// How a button looks; see StyleSheetOf.
+enum class Look {
+  Filled,   ///< the actions of a group
+  Quiet,    ///< choices and lesser actions on a panel
+  Flat,     ///< tools in a strip
+  Stage,    ///< tools on the dark stage
+  Section,  ///< a row of a list of sections, caption to the left
+};
+
+/// A push button whose icon follows the theme. With an empty caption it is a square of the button
+/// height. `name` becomes the objectName.
+class Button : public QPushButton {
+ public:
+  Button(const QString& name, const QString& caption, const QString& icon = {}, Look look = Look::Filled,
+         QWidget* parent = nullptr);
+
+  /// Another icon of the family; empty for none.
+  void SetIcon(const QString& icon);
+  QString IconName() const { return icon_; }
+
+ protected:
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void Tint();
+
+  QString icon_;
+  Look look_;
+};
+
+/// A square button with an icon and a tip, which also is its name for screen readers.
+Button* IconButton(const QString& name, const QString& icon, const QString& tip, Look look = Look::Filled,
+                   QWidget* parent = nullptr);
+
+/// A large button with the icon above its words: an entry of the rail, or a tile on the menu picture.
+class TileButton : public QPushButton {
+ public:
+  enum class Place { Rail, Picture };
+
+  TileButton(const QString& name, const QString& caption, const QString& icon, Place place, QWidget* parent = nullptr);
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent*) override;
+
+ private:
+  QString icon_;
+  Place place_;
+};
+
+/// For what is not built yet: disables a control and says "coming" in its tip.
+void Coming(QWidget* widget);
+
+}  // namespace kinalyx

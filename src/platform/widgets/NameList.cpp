@@ -1,0 +1,87 @@
+#include "platform/widgets/NameList.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QSignalBlocker>
+
+#include "platform/widgets/Figures.h"
+#include "platform/widgets/Theme.h"
+
+namespace kinalyx {
+
+void NameDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
+  const Theme theme = CurrentTheme();
+  const bool chosen = option.state & QStyle::State_Selected;
+  const bool enabled = option.state & QStyle::State_Enabled;
+  painter->save();
+  QColor ink = enabled ? theme.text : theme.faint;
+  if (chosen) {
+    painter->fillRect(option.rect, enabled ? theme.accent : theme.faint);
+    ink = enabled ? theme.accentText : theme.field;
+  } else if (option.state & QStyle::State_MouseOver && enabled) {
+    painter->fillRect(option.rect, theme.selection);
+  }
+  // The row that the keys move carries a ring, so that one sees which list listens.
+  if (option.state & QStyle::State_HasFocus && enabled) {
+    painter->setPen(chosen ? Mix(theme.accentText, theme.accent, 0.45) : theme.accent);
+    painter->drawRect(option.rect.adjusted(1, 1, -2, -2));
+  }
+  QRect room = option.rect.adjusted(kGap, 0, -kGap, 0);
+  const QString count = index.data(kCountRole).toString();
+  if (!count.isEmpty()) {
+    painter->setFont(UiFont(kCaptionPixels));
+    painter->setPen(chosen ? Mix(theme.accentText, theme.accent, 0.25) : theme.muted);
+    DrawFigures(*painter, room, Qt::AlignRight | Qt::AlignVCenter, count);
+    room.setRight(room.right() - FiguresWidth(painter->fontMetrics(), count) - 8);
+  }
+  painter->setFont(option.font);
+  painter->setPen(ink);
+  const QString name = painter->fontMetrics().elidedText(index.data().toString(), Qt::ElideRight, room.width());
+  painter->drawText(room, Qt::AlignLeft | Qt::AlignVCenter, name);
+  painter->restore();
+}
+
+QSize NameDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+  return QSize(QStyledItemDelegate::sizeHint(option, index).width(), kRowHeight);
+}
+
+NameList::NameList(const QString& name, QWidget* parent) : QListWidget(parent) {
+  setObjectName(name);
+  setItemDelegate(new NameDelegate(this));
+  setUniformItemSizes(true);
+  setMouseTracking(true);
+  setFrameShape(QFrame::NoFrame);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setEditTriggers(QAbstractItemView::NoEditTriggers);
+  setTabKeyNavigation(false);
+}
+
+void NameList::SetHint(const QString& hint) {
+  hint_ = hint;
+  viewport()->update();
+}
+
+void NameList::Fill(const QStringList& names, int current) {
+  const QSignalBlocker quiet(this);
+  clear();
+  addItems(names);
+  for (int row = 0; row < count(); ++row) item(row)->setToolTip(names[row]);
+  setCurrentRow(current);
+}
+
+void NameList::SetCount(int row, int count) {
+  if (QListWidgetItem* entry = item(row)) {
+    entry->setData(NameDelegate::kCountRole, count < 0 ? QVariant() : QVariant(QString::number(count)));
+  }
+}
+
+void NameList::paintEvent(QPaintEvent* event) {
+  QListWidget::paintEvent(event);
+  if (count() || hint_.isEmpty()) return;
+  QPainter painter(viewport());
+  painter.setPen(CurrentTheme().muted);
+  painter.drawText(viewport()->rect().adjusted(16, 16, -16, -16), Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap,
+                   hint_);
+}
+
+}  // namespace kinalyx

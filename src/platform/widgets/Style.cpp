@@ -1,0 +1,149 @@
+#include "platform/widgets/Style.h"
+
+#include <QAbstractItemView>
+#include <QAbstractSpinBox>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QPainter>
+#include <QPainterPath>
+#include <QProxyStyle>
+#include <QStyleFactory>
+#include <QStyleOption>
+
+#include "platform/widgets/Theme.h"
+
+namespace kinalyx {
+
+namespace {
+
+constexpr int kIndicator = 18;
+
+class Style : public QProxyStyle {
+ public:
+  Style() : QProxyStyle(QStyleFactory::create("Fusion")) {}
+
+  int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+    switch (metric) {
+      case PM_IndicatorWidth:
+      case PM_IndicatorHeight:
+      case PM_ExclusiveIndicatorWidth:
+      case PM_ExclusiveIndicatorHeight: return kIndicator;
+      case PM_CheckBoxLabelSpacing:
+      case PM_RadioButtonLabelSpacing: return 8;
+      case PM_LayoutHorizontalSpacing:
+      case PM_LayoutVerticalSpacing: return kGap;
+      case PM_SmallIconSize:
+      case PM_ButtonIconSize: return 20;
+      default: return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+  }
+
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* data) const override {
+    switch (hint) {
+      case SH_ComboBox_Popup: return 0;
+      case SH_Slider_AbsoluteSetButtons: return Qt::LeftButton;
+      case SH_ToolTip_WakeUpDelay: return 500;
+      case SH_DialogButtonBox_ButtonsHaveIcons: return 0;
+      case SH_EtchDisabledText: return 0;
+      default: return QProxyStyle::styleHint(hint, option, widget, data);
+    }
+  }
+
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+    switch (element) {
+      case PE_IndicatorCheckBox: DrawIndicator(*option, *painter, false); return;
+      case PE_IndicatorRadioButton: DrawIndicator(*option, *painter, true); return;
+      case PE_FrameFocusRect: return;
+      default: QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+  }
+
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                          const QWidget* widget) const override {
+    if (control == CC_ComboBox) {
+      DrawCombo(*option, *painter);
+    } else {
+      QProxyStyle::drawComplexControl(control, option, painter, widget);
+    }
+  }
+
+  QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                       const QWidget* widget) const override {
+    if (control == CC_ComboBox && part == SC_ComboBoxEditField) return option->rect.adjusted(10, 1, -28, -1);
+    return QProxyStyle::subControlRect(control, option, part, widget);
+  }
+
+  QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                         const QWidget* widget) const override {
+    QSize result = QProxyStyle::sizeFromContents(type, option, size, widget);
+    if (type == CT_ComboBox) result = QSize(result.width() + 16, kButtonHeight);
+    if (type == CT_CheckBox || type == CT_RadioButton) result.setHeight(qMax(result.height(), 26));
+    return result;
+  }
+
+ private:
+  static void DrawIndicator(const QStyleOption& option, QPainter& painter, bool round) {
+    const Theme theme = CurrentTheme();
+    const bool on = option.state & State_On;
+    const bool enabled = option.state & State_Enabled;
+    const QRectF box = QRectF(option.rect).adjusted(1, 1, -1, -1);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor filled = enabled ? theme.accent : theme.faint;
+    QColor border = on ? filled : (enabled ? Mix(theme.line, theme.text, 0.35) : theme.line);
+    if (option.state & State_MouseOver && enabled) border = theme.accent;
+    painter.setPen(QPen(border, 1.4));
+    painter.setBrush(on ? filled : theme.field);
+    if (round) {
+      painter.drawEllipse(box);
+    } else {
+      painter.drawRoundedRect(box, 4, 4);
+    }
+    if (on && round) {
+      painter.setPen(Qt::NoPen);
+      painter.setBrush(enabled ? theme.accentText : theme.field);
+      painter.drawEllipse(box.center(), 3.4, 3.4);
+    } else if (on) {
+      QPainterPath mark;
+      mark.moveTo(box.left() + box.width() * 0.24, box.top() + box.height() * 0.53);
+      mark.lineTo(box.left() + box.width() * 0.43, box.top() + box.height() * 0.72);
+      mark.lineTo(box.left() + box.width() * 0.77, box.top() + box.height() * 0.31);
+      painter.setBrush(Qt::NoBrush);
+      painter.setPen(QPen(enabled ? theme.accentText : theme.field, 1.9, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+      painter.drawPath(mark);
+    }
+    if (option.state & State_HasFocus && option.state & State_KeyboardFocusChange) {
+      painter.setBrush(Qt::NoBrush);
+      painter.setPen(QPen(Mix(theme.accent, theme.panel, 0.45), 1.5));
+      const QRectF ring = box.adjusted(-2, -2, 2, 2);
+      round ? painter.drawEllipse(ring) : painter.drawRoundedRect(ring, 6, 6);
+    }
+    painter.restore();
+  }
+
+  static void DrawCombo(const QStyleOptionComplex& option, QPainter& painter) {
+    const Theme theme = CurrentTheme();
+    const bool enabled = option.state & State_Enabled;
+    const bool focus = option.state & State_HasFocus;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    const double width = focus ? 2 : 1;
+    const QRectF box = QRectF(option.rect).adjusted(width / 2, width / 2, -width / 2, -width / 2);
+    const bool hover = option.state & State_MouseOver && enabled;
+    painter.setPen(QPen(focus ? theme.accent : hover ? Mix(theme.line, theme.accent, 0.5) : theme.line, width));
+    painter.setBrush(enabled ? theme.field : theme.panel);
+    painter.drawRoundedRect(box, 6, 6);
+    const QPointF middle(option.rect.right() - 15, option.rect.center().y() + 1.0);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(enabled ? theme.heading : theme.faint, 1.7, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPolyline(QPolygonF{middle + QPointF(-4.5, -2.2), middle + QPointF(0, 2.3), middle + QPointF(4.5, -2.2)});
+    painter.restore();
+  }
+};
+
+}  // namespace
+
+QStyle* MakeStyle() { return new Style; }
+
+}  // namespace kinalyx

@@ -1,0 +1,178 @@
+#include <QStringList>
+
+#include "platform/widgets/Style.h"
+#include "platform/widgets/Theme.h"
+
+namespace kinalyx {
+
+namespace {
+
+const char* const kButtons = R"(
+QPushButton { background: @accent; color: @accentText; border: 2px solid @accent; border-radius: 8px;
+  padding: 0 12px; min-height: 30px; max-height: 30px; font-weight: 600; }
+QPushButton:hover { background: @accentHover; border-color: @accentHover; }
+QPushButton:pressed { background: @accentPressed; border-color: @accentPressed; }
+QPushButton:checked { background: @accentPressed; border-color: @accentPressed; }
+QPushButton:focus { border-color: @focus; }
+QPushButton:disabled { background: @disabledFill; border-color: @disabledFill; color: @faint; }
+QPushButton[square="true"] { padding: 0; min-width: 30px; max-width: 30px; }
+
+QPushButton[look="quiet"] { background: @field; color: @heading; border: 1px solid @line; min-height: 32px;
+  max-height: 32px; }
+QPushButton[look="quiet"]:hover { background: @selection; border-color: @lineStrong; }
+QPushButton[look="quiet"]:pressed { background: @panel; }
+QPushButton[look="quiet"]:checked { background: @accent; color: @accentText; border-color: @accent; }
+QPushButton[look="quiet"]:focus { border: 2px solid @accent; min-height: 30px; max-height: 30px; padding: 0 11px; }
+QPushButton[look="quiet"]:checked:focus { border-color: @focus; }
+QPushButton[look="quiet"]:disabled { background: @panel; color: @faint; border-color: @panel; }
+QPushButton[look="quiet"][square="true"] { padding: 0; min-width: 32px; max-width: 32px; }
+QPushButton[look="quiet"][square="true"]:focus { padding: 0; min-width: 30px; max-width: 30px; }
+
+QPushButton[look="flat"] { background: transparent; color: @heading; border: 2px solid transparent; }
+QPushButton[look="flat"]:hover { background: @flatHover; border-color: @flatHover; }
+QPushButton[look="flat"]:pressed { background: @line; border-color: @line; }
+QPushButton[look="flat"]:checked { background: @accent; color: @accentText; border-color: @accent; }
+QPushButton[look="flat"]:focus { border-color: @accentSoft; }
+QPushButton[look="flat"]:disabled { background: transparent; color: @faint; border-color: transparent; }
+
+QPushButton[look="stage"] { background: transparent; color: @stageText; border: 2px solid transparent; }
+QPushButton[look="stage"]:hover { background: #262d35; border-color: #262d35; }
+QPushButton[look="stage"]:pressed { background: #323b45; border-color: #323b45; }
+QPushButton[look="stage"]:checked { background: @stageAccent; border-color: @stageAccent; }
+QPushButton[look="stage"]:disabled { color: #59636d; }
+
+QPushButton[look="section"] { background: transparent; color: @heading; border: 2px solid transparent;
+  border-radius: 6px; text-align: left; padding: 0 12px; }
+QPushButton[look="section"]:hover { background: @selection; border-color: @selection; }
+QPushButton[look="section"]:checked { background: @accent; color: @accentText; border-color: @accent; }
+QPushButton[look="section"]:focus { border-color: @accentSoft; }
+QPushButton[look="section"]:disabled { color: @faint; }
+
+QPushButton[look="tile"] { background: transparent; border: none; padding: 0; min-height: 0; max-height: 1000px; }
+
+QToolButton { background: transparent; border: 2px solid transparent; border-radius: 8px; padding: 4px; color: @heading; }
+QToolButton:hover { background: @flatHover; border-color: @flatHover; }
+QToolButton:pressed { background: @line; }
+QToolButton:checked { background: @accent; border-color: @accent; color: @accentText; }
+QToolButton:focus { border-color: @accentSoft; }
+)";
+
+const char* const kFields = R"(
+QLineEdit, QPlainTextEdit, QTextEdit, QAbstractSpinBox { background: @field; color: @text; border: 1px solid @line;
+  border-radius: 6px; padding: 0 9px; selection-background-color: @accent; selection-color: @accentText; }
+QLineEdit, QAbstractSpinBox { min-height: 32px; max-height: 32px; }
+QLineEdit[compact="true"] { min-height: 26px; max-height: 26px; padding: 0 7px; }
+QPlainTextEdit, QTextEdit { padding: 6px; }
+QLineEdit:hover, QPlainTextEdit:hover, QAbstractSpinBox:hover { border-color: @lineStrong; }
+QLineEdit:focus, QPlainTextEdit:focus, QTextEdit:focus, QAbstractSpinBox:focus { border: 2px solid @accent;
+  padding: 0 8px; }
+QLineEdit:focus, QAbstractSpinBox:focus { min-height: 30px; max-height: 30px; }
+QLineEdit[compact="true"]:focus { min-height: 24px; max-height: 24px; padding: 0 6px; }
+QPlainTextEdit:focus, QTextEdit:focus { padding: 5px; }
+QLineEdit:disabled, QPlainTextEdit:disabled, QAbstractSpinBox:disabled { background: @panel; color: @faint; }
+QLineEdit:read-only { background: @panel; }
+QAbstractSpinBox { padding-right: 6px; }
+QSpinBox::up-button, QSpinBox::down-button { width: 0; border: none; }
+QTextBrowser { background: @field; border: none; border-radius: 0; padding: 0; }
+QTextBrowser:focus { border: none; padding: 0; }
+QComboBox QAbstractItemView { background: @field; color: @text; border: 1px solid @lineStrong; outline: 0;
+  selection-background-color: @accent; selection-color: @accentText; padding: 4px; }
+QComboBox QAbstractItemView::item { min-height: 30px; padding: 0 8px; border-radius: 5px; }
+QListView { background: @field; color: @text; border: none; outline: 0; }
+QCheckBox, QRadioButton { color: @text; background: transparent; }
+QCheckBox:disabled, QRadioButton:disabled { color: @faint; }
+QSlider { min-height: 24px; }
+QSlider::groove:horizontal { height: 4px; border-radius: 2px; background: @line; }
+QSlider::sub-page:horizontal { height: 4px; border-radius: 2px; background: @accent; }
+QSlider::handle:horizontal { width: 16px; height: 16px; margin: -7px 0; border-radius: 9px; background: @accent;
+  border: 1px solid @field; }
+QSlider::handle:horizontal:hover { background: @accentHover; }
+QSlider::handle:horizontal:focus { border: 2px solid @accentSoft; width: 14px; }
+QSlider::sub-page:horizontal:disabled, QSlider::handle:horizontal:disabled { background: @faint; }
+QScrollBar:vertical { background: transparent; width: 12px; margin: 0; border: none; }
+QScrollBar:horizontal { background: transparent; height: 12px; margin: 0; border: none; }
+QScrollBar::handle { background: @line; border-radius: 4px; margin: 2px; }
+QScrollBar::handle:vertical { min-height: 32px; }
+QScrollBar::handle:horizontal { min-width: 32px; }
+QScrollBar::handle:hover { background: @lineStrong; }
+QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; border: none; }
+QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
+QAbstractScrollArea::corner { background: transparent; border: none; }
+QProgressBar { background: @panel; border: 1px solid @line; border-radius: 6px; text-align: center; color: @text;
+  min-height: 16px; max-height: 16px; }
+QProgressBar::chunk { background: @accent; border-radius: 5px; }
+)";
+
+const char* const kFrames = R"(
+QWidget { color: @text; }
+QMainWindow, QDialog { background: @backdrop; }
+QScrollArea, QScrollArea > QWidget > QWidget[look="clear"] { background: transparent; border: none; }
+QFrame[look="panel"] { background: @field; border: 1px solid @line; border-radius: 8px; }
+QFrame[look="panelHead"] { background: @panel; border: none; border-bottom: 1px solid @line;
+  border-top-left-radius: 7px; border-top-right-radius: 7px; }
+QFrame[look="panelFoot"] { background: transparent; border: none; border-top: 1px solid @line; }
+QFrame[look="header"] { background: @accent; border: none; }
+QFrame[look="rail"] { background: @panel; border: none; border-right: 1px solid @line; }
+QFrame[look="strip"] { background: @panel; border: none; border-bottom: 1px solid @line; }
+QFrame[look="status"] { background: @panel; border: none; border-radius: 6px; }
+QFrame[look="stage"] { background: #12161b; border: none; }
+QFrame[look="divider"] { background: @line; border: none; }
+QLabel { background: transparent; border: none; }
+QLabel:disabled { color: @faint; }
+QLabel[look="caption"] { color: @muted; font-size: 11px; }
+QLabel[look="muted"] { color: @muted; }
+QLabel[look="heading"] { color: @heading; font-weight: 600; }
+QLabel[look="title"] { color: @heading; font-size: 18px; font-weight: 600; }
+QLabel[look="brand"] { color: @accentText; font-weight: 700; }
+QLabel[look="pageTitle"] { color: @accentTextSoft; }
+QLabel[look="mark"] { background: @accent; color: @accentText; border-radius: 10px; padding: 0 10px;
+  min-height: 20px; max-height: 20px; font-size: 12px; }
+QLabel[look="markOff"] { background: @panel; color: #808080; border-radius: 10px; padding: 0 10px;
+  min-height: 20px; max-height: 20px; font-size: 12px; }
+QToolTip { background: @text; color: @field; border: 1px solid @text; padding: 5px 7px; font-size: 12px; }
+QMenuBar { background: @panel; color: @text; border: none; border-bottom: 1px solid @line; padding: 0 8px; }
+QMenuBar::item { background: transparent; padding: 5px 10px; border-radius: 5px; }
+QMenuBar::item:selected { background: @flatHover; }
+QMenuBar::item:pressed { background: @accent; color: @accentText; }
+QMenu { background: @field; color: @text; border: 1px solid @lineStrong; padding: 5px; }
+QMenu::item { padding: 6px 28px 6px 12px; border-radius: 5px; }
+QMenu::item:selected { background: @accent; color: @accentText; }
+QMenu::item:disabled { color: @faint; background: transparent; }
+QMenu::separator { height: 1px; background: @line; margin: 5px 8px; }
+QMenu::icon { padding-left: 8px; }
+QSplitter::handle { background: transparent; }
+)";
+
+}  // namespace
+
+QString StyleSheetOf(const Theme& t) {
+  const std::pair<const char*, QColor> colours[] = {
+      // Longer names first where one begins another.
+      {"@accentTextSoft", Mix(t.accentText, t.accent, 0.15)},
+      {"@accentText", t.accentText},
+      {"@accentHover", t.accentHover},
+      {"@accentPressed", t.accentPressed},
+      {"@accentSoft", Mix(t.accent, t.panel, 0.45)},
+      {"@accent", t.accent},
+      {"@stageAccent", Mix(t.stageFrame, t.stage, 0.5)},
+      {"@stageText", t.stageText},
+      {"@disabledFill", Mix(t.panel, t.line, 0.35)},
+      {"@focus", Mix(t.accentText, t.accent, 0.35)},
+      {"@flatHover", Mix(t.panel, t.line, 0.6)},
+      {"@selection", t.selection},
+      {"@panel", t.panel},
+      {"@backdrop", t.backdrop},
+      {"@field", t.field},
+      {"@heading", t.heading},
+      {"@lineStrong", Mix(t.line, t.text, 0.3)},
+      {"@line", t.line},
+      {"@muted", t.muted},
+      {"@faint", t.faint},
+      {"@text", t.text},
+  };
+  QString sheet = QString::fromLatin1(kFrames) + QString::fromLatin1(kButtons) + QString::fromLatin1(kFields);
+  for (const auto& [name, colour] : colours) sheet.replace(QLatin1String(name), colour.name());
+  return sheet;
+}
+
+}  // namespace kinalyx
