@@ -1,0 +1,111 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/host/Host.h"
+
+namespace kinalyx::test {
+
+/// A host whose clock is turned by hand and whose questions are answered beforehand. Timers run when the
+/// clock passes them, in the order in which they fall due; DoEvents runs what is due and stands still.
+class TestHost final : public IHost {
+ public:
+  std::int64_t now = 1000;
+  SystemInfo system{1920, 1080, 32, 2400, 8 << 20};
+
+  std::vector<std::string> messages;  ///< texts of all message boxes, in order
+  std::vector<std::string> titles;    ///< their titles
+  std::vector<std::string> questions;
+  std::deque<bool> answers;           ///< taken from the front; without one the answer is no
+  std::deque<std::optional<std::string>> files;
+  std::deque<std::optional<std::string>> folders;
+  std::vector<std::vector<std::string>> started;  ///< program and arguments
+  std::function<void()> onDoEvents;   ///< what the user does while the program lets events run
+
+  /// Turns the clock on, running every timer at its own moment.
+  void Advance(std::int64_t milliseconds) {
+    const std::int64_t end = now + milliseconds;
+    while (RunNext(end)) {
+    }
+    now = end;
+  }
+  std::size_t TimerCount() const { return timers_.size(); }
+
+  std::int64_t timeGetTime() override { return now; }
+
+  TimerId StartTimer(int milliseconds, bool repeat, std::function<void()> action) override {
+    const TimerId id = ++last_;
+    timers_[id] = {now + std::max(0, milliseconds), std::max(1, milliseconds), repeat, std::move(action)};
+    return id;
+  }
+  void StopTimer(TimerId timer) override { timers_.erase(timer); }
+
+  void DoEvents() override {
+    while (RunNext(now)) {
+    }
+    if (onDoEvents) onDoEvents();
+  }
+
+  void Message(MessageKind, const std::string& title, const std::string& text) override {
+    titles.push_back(title);
+    messages.push_back(text);
+  }
+  bool Question(const std::string& title, const std::string& text) override {
+    titles.push_back(title);
+    questions.push_back(text);
+    return Take(answers).value_or(false);
+  }
+  std::optional<std::string> PickFile(const FileDialog&) override { return Take(files).value_or(std::nullopt); }
+  std::optional<std::string> PickFolder(const std::string&, const std::string&) override {
+    return Take(folders).value_or(std::nullopt);
+  }
+  bool StartDetached(const std::string& program, const std::vector<std::string>& arguments) override {
+    started.push_back({program});
+    started.back().insert(started.back().end(), arguments.begin(), arguments.end());
+    return true;
+  }
+  SystemInfo System() override { return system; }
+
+ private:
+  struct Timer {
+    std::int64_t due = 0;
+    std::int64_t interval = 1;
+    bool repeat = false;
+    std::function<void()> action;
+  };
+
+  template <typename T>
+  static std::optional<T> Take(std::deque<T>& queue) {
+    if (queue.empty()) return std::nullopt;
+    T front = std::move(queue.front());
+    queue.pop_front();
+    return front;
+  }
+
+  bool RunNext(std::int64_t end) {
+    auto next = timers_.end();
+    for (auto timer = timers_.begin(); timer != timers_.end(); ++timer)
+      if (timer->second.due <= end && (next == timers_.end() || timer->second.due < next->second.due)) next = timer;
+    if (next == timers_.end()) return false;
+    now = std::max(now, next->second.due);
+    const auto action = next->second.action;  // the action may stop its own timer
+    if (next->second.repeat) {
+      next->second.due += next->second.interval;
+    } else {
+      timers_.erase(next);
+    }
+    action();
+    return true;
+  }
+
+  TimerId last_ = 0;
+  std::map<TimerId, Timer> timers_;
+};
+
+}  // namespace kinalyx::test
