@@ -1,0 +1,325 @@
+#include "platform/media/Demuxer.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <cmath>
+#include <cstdio>
+#include <cstring>
+
+namespace kinalyx {
+namespace {
+
+// Containers of moving pictures. The library could open much more, among it texts that name other files
+// or addresses; a file out of a student's mail shall not make it do that.
+constexpr char kContainers[] =
+    "avi,mov,matroska,mpegts,mpeg,mpegvideo,asf,flv,dv,mjpeg,mxf,ogg,nut,rm,ivf,h264,hevc,m4v,gif,wtv,yuv4mpegpipe";
+constexpr std::int64_t kMostPackets = 1 << 25;
+/// Larger pictures than this many pixels are taken for a damaged header.
+constexpr std::int64_t kMostPixels = 1 << 26;
+
+/// Codecs that show nothing of the packets before the first key packet.
+bool WaitsForKey(AVCodecID codec) {
+  return codec == AV_CODEC_ID_H264 || codec == AV_CODEC_ID_HEVC || codec == AV_CODEC_ID_VP8 ||
+         codec == AV_CODEC_ID_VP9 || codec == AV_CODEC_ID_AV1;
+}
+
+bool OneOf(const char* list, const char* name) { return av_match_name(name, list) != 0; }
+
+std::string FourCC(const AVCodecParameters& codec) {
+  std::string text;
+  for (int shift = 0; shift < 32; shift += 8) {
+    const auto c = static_cast<unsigned char>(codec.codec_tag >> shift);
+    if (c < 32 || c > 126) return avcodec_get_name(codec.codec_id);
+    text += static_cast<char>(c);
+  }
+  return text;
+}
+
+}  // namespace
+
+std::unique_ptr<Demuxer> Demuxer::Open(const std::string& path, OpenFault& fault, std::string& message) {
+  std::unique_ptr<Demuxer> demuxer(new Demuxer);
+  fault = demuxer->OpenStream(path, message);
+  if (fault != OpenFault::None) return nullptr;
+  if (!demuxer->IndexFromContainer()) demuxer->IndexByReading();
+  if (demuxer->index_.FrameCount() < 1) {
+    fault = OpenFault::NoFrames;
+    message = "the video stream holds no picture";
+    return nullptr;
+  }
+  return demuxer;
+}
+
+OpenFault Demuxer::OpenStream(const std::string& path, std::string& message) {
+  struct stat status {};
+  if (stat(path.c_str(), &status) != 0 || access(path.c_str(), R_OK) != 0) {
+    message = std::strerror(errno);
+    return OpenFault::NotFound;
+  }
+  // A pipe or a device would be waited for without end.
+  if (!S_ISREG(status.st_mode)) {
+    message = "not a file";
+    return OpenFault::NotFound;
+  }
+  fileBytes_ = status.st_size;
+  if (fileBytes_ == 0) {
+    message = "the file is empty";
+    return OpenFault::NoFrames;
+  }
+  path_ = path;
+
+  AVDictionary* options = nullptr;
+  av_dict_set(&options, "format_whitelist", kContainers, 0);
+  av_dict_set(&options, "protocol_whitelist", "file", 0);
+  AVFormatContext* context = nullptr;
+  const int result = avformat_open_input(&context, ("file:" + path).c_str(), nullptr, &options);
+  av_dict_free(&options);
+  if (result < 0) {
+    message = AvError(result);
+    return OpenFault::NoMedia;
+  }
+  input_.reset(context);
+  isAvi_ = OneOf("avi", input_->iformat->name);
+
+  const auto findStream = [&] {
+    for (unsigned i = 0; i < input_->nb_streams; ++i) {
+      AVStream* stream = input_->streams[i];
+      const bool picture = stream->codecpar->codec_type == AVMEDIA_TYPE_VIDEO;
+      if (picture && !(stream->disposition & AV_DISPOSITION_ATTACHED_PIC) && !stream_) stream_ = stream;
+      if (stream->codecpar->codec_type == AVMEDIA_TYPE_AUDIO) hasSound_ = true;
+    }
+    return stream_ != nullptr;
+  };
+  const auto known = [&] {
+    // The headers of these two containers say all that a codec without memory needs.
+    if (!isAvi_ && !OneOf("mov", input_->iformat->name)) return false;
+    const AVCodecDescriptor* descriptor = avcodec_descriptor_get(stream_->codecpar->codec_id);
+    return descriptor && (descriptor->props & AV_CODEC_PROP_INTRA_ONLY) && stream_->codecpar->width > 0 &&
+           stream_->codecpar->height > 0;
+  };
+  const bool found = findStream();
+  DiscardOthers();
+  if (!found || !known()) {
+    if (const int probed = avformat_find_stream_info(input_.get(), nullptr); probed < 0) message = AvError(probed);
+    if (!findStream()) {
+      message = "no video stream";
+      return OpenFault::NoMedia;
+    }
+    DiscardOthers();
+  }
+  const AVCodecParameters& codec = *stream_->codecpar;
+  if (!avcodec_find_decoder(codec.codec_id)) {
+    message = "no decoder for " + FourCC(codec);
+    return OpenFault::NoMedia;
+  }
+  if (codec.width < 0 || codec.height < 0 || static_cast<std::int64_t>(codec.width) * codec.height > kMostPixels) {
+    message = "absurd picture size";
+    return OpenFault::NoMedia;
+  }
+  tellsShowTimes_ = !isAvi_ && !(input_->iformat->flags & AVFMT_NOTIMESTAMPS);
+  return OpenFault::None;
+}
+
+void Demuxer::DiscardOthers() {
+  for (unsigned i = 0; i < input_->nb_streams; ++i) {
+    AVStream* stream = input_->streams[i];
+    if (stream != stream_ && stream_) stream->discard = AVDISCARD_ALL;
+  }
+}
+
+bool Demuxer::IndexFromContainer() {
+  const bool isMov = OneOf("mov", input_->iformat->name);
+  const int entries = avformat_index_get_entries_count(stream_);
+  if ((!isAvi_ && !isMov) || entries == 0) return false;
+
+  PictureIndex index;
+  std::int64_t afterLast = 0;
+  for (int i = 0; i < entries; ++i) {
+    const AVIndexEntry* entry = avformat_index_get_entry(stream_, i);
+    // A file cut short keeps an index that was written in front.
+    if (entry->pos >= fileBytes_) continue;
+    if (isAvi_ && (entry->timestamp < 0 || entry->timestamp > kMostPackets)) return false;
+    index.Add(entry->timestamp, entry->flags & AVINDEX_KEYFRAME, entry->flags & AVINDEX_DISCARD_FRAME);
+    if (isAvi_) index.PlaceLast(static_cast<int>(entry->timestamp));
+    afterLast = std::max(afterLast, entry->pos + 8 + entry->size + entry->size % 2);
+  }
+  if (index.PacketCount() == 0 || !index.TimesGrow()) return false;
+
+  int frames = 0;
+  if (isAvi_) {
+    const int trailing = CountTrailingRepeats(afterLast);
+    if (trailing < 0) return false;
+    frames = static_cast<int>(index.Time(index.PacketCount() - 1)) + 1 + trailing;
+  }
+  index.Finish(frames, WaitsForKey(stream_->codecpar->codec_id));
+  index_ = std::move(index);
+  if (isMov && !LastIndexedIsLast()) return false;
+  return KnowsFirstPacket();
+}
+
+/// A film in fragments has an index of the first ones only: what follows shows when it is read.
+bool Demuxer::LastIndexedIsLast() {
+  const std::int64_t last = index_.Time(index_.PacketCount() - 1);
+  if (av_seek_frame(input_.get(), stream_->index, last, AVSEEK_FLAG_ANY) < 0) return false;
+  const PacketHandle packet = NewPacket();
+  bool isLast = true;
+  while (isLast && av_read_frame(input_.get(), packet.get()) >= 0) {
+    if (packet->stream_index == stream_->index && packet->dts > last) isLast = false;
+    av_packet_unref(packet.get());
+  }
+  return Rewind() && isLast;
+}
+
+/// Looks at what an AVI file holds behind its last indexed packet, which the demuxer does not tell:
+/// the number of empty chunks of our stream, or -1 when there are packets that the index lacks.
+int Demuxer::CountTrailingRepeats(std::int64_t afterLast) const {
+  const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path_.c_str(), "rb"), &std::fclose);
+  if (!file) return 0;
+  int repeats = 0;
+  std::int64_t at = afterLast;
+  for (int chunks = 0; chunks < 100000; ++chunks) {
+    std::array<unsigned char, 8> head{};
+    if (fseeko(file.get(), at, SEEK_SET) != 0 || std::fread(head.data(), 1, head.size(), file.get()) != head.size()) break;
+    const std::uint32_t size = head[4] | head[5] << 8 | head[6] << 16 | static_cast<std::uint32_t>(head[7]) << 24;
+    const bool numbered = std::isdigit(head[0]) && std::isdigit(head[1]);
+    if (numbered && (head[0] - '0') * 10 + head[1] - '0' == stream_->index) {
+      const bool palette = head[2] == 'p' && head[3] == 'c';
+      if (size > 0 && !palette) return -1;
+      if (size == 0) ++repeats;
+    } else if (std::memcmp(head.data(), "LIST", 4) == 0) {
+      at += 12;  // step into it: clusters of chunks
+      continue;
+    } else if (!numbered && std::memcmp(head.data(), "JUNK", 4) != 0 && std::memcmp(head.data(), "ix", 2) != 0) {
+      break;  // the index, another part of the file, or the end
+    }
+    at += 8 + static_cast<std::int64_t>(size) + size % 2;
+  }
+  return repeats;
+}
+
+void Demuxer::IndexByReading() {
+  Rewind();
+  index_ = {};
+  const PacketHandle packet = NewPacket();
+  bool timed = true;
+  std::int64_t previous = 0;
+  while (index_.PacketCount() < kMostPackets && av_read_frame(input_.get(), packet.get()) >= 0) {
+    if (packet->stream_index == stream_->index && packet->size > 0) {
+      std::int64_t time = packet->dts != AV_NOPTS_VALUE ? packet->dts : packet->pts;
+      if (time == AV_NOPTS_VALUE || (index_.PacketCount() > 0 && time <= previous)) timed = false;
+      if (!timed) time = index_.PacketCount() ? previous : 0;
+      index_.Add(time, packet->flags & AV_PKT_FLAG_KEY, packet->flags & AV_PKT_FLAG_DISCARD);
+      if (isAvi_ && timed && time >= 0 && time < kMostPackets) index_.PlaceLast(static_cast<int>(time));
+      previous = time;
+    }
+    av_packet_unref(packet.get());
+  }
+  index_.Finish(0, WaitsForKey(stream_->codecpar->codec_id));
+  Rewind();
+}
+
+bool Demuxer::KnowsFirstPacket() {
+  const PacketHandle packet = NewPacket();
+  bool known = false;
+  while (av_read_frame(input_.get(), packet.get()) >= 0) {
+    const bool ours = packet->stream_index == stream_->index;
+    if (ours) known = index_.FindPacket(packet->dts) == 0;
+    av_packet_unref(packet.get());
+    if (ours) break;
+  }
+  return Rewind() && known;
+}
+
+VideoInfo Demuxer::Describe() const {
+  VideoInfo info;
+  info.width = stream_->codecpar->width;
+  info.height = stream_->codecpar->height;
+  info.frameCount = index_.FrameCount();
+  // An AVI file counts time in frames; others may show each for as long as they like.
+  AVRational rate = isAvi_ ? av_inv_q(stream_->time_base) : stream_->avg_frame_rate;
+  if (rate.num <= 0 || rate.den <= 0) rate = stream_->r_frame_rate;
+  if (rate.num > 0 && rate.den > 0) {
+    info.rate = rate.num;
+    info.scale = rate.den;
+  }
+  info.durationMs = FrameTime(index_.FrameCount());
+  info.compressor = FourCC(*stream_->codecpar);
+  info.hasSound = hasSound_;
+  info.everyFrameIsKey = index_.EveryPacketIsKey();
+  info.fileBytes = fileBytes_;
+  return info;
+}
+
+double Demuxer::FrameTime(int frame) const {
+  const int frames = index_.FrameCount();
+  frame = std::clamp(frame, 0, frames);
+  const double unitMs = av_q2d(stream_->time_base) * 1000;
+  if (isAvi_) return frame * unitMs;
+  if (!index_.TimesGrow()) {
+    const double rate = av_q2d(stream_->avg_frame_rate.num > 0 ? stream_->avg_frame_rate : stream_->r_frame_rate);
+    return rate > 0 ? frame * 1000 / rate : 0;
+  }
+  // Decoding times run ahead of the times of showing by a fixed delay, and in step with them.
+  const std::int64_t first = index_.Time(index_.PacketOfOrder(0));
+  if (frame < frames) return static_cast<double>(index_.Time(index_.PacketOfOrder(frame)) - first) * unitMs;
+  const int last = index_.PacketOfOrder(frames - 1);
+  std::int64_t length = last > 0 ? index_.Time(last) - index_.Time(last - 1) : 0;
+  const int packets = index_.PacketCount();
+  if (stream_->duration > 0 && last == packets - 1) {
+    const std::int64_t all = stream_->duration - (index_.Time(last) - index_.Time(0));
+    // The last picture's own length, unless an edit of the film makes nonsense of it.
+    if (all > 0 && all < 100 * std::max<std::int64_t>(length, 1)) length = all;
+  }
+  return static_cast<double>(index_.Time(last) - first + length) * unitMs;
+}
+
+bool Demuxer::Rewind() {
+  next_ = 0;
+  synced_ = !index_.TimesGrow();
+  const std::int64_t first = index_.PacketCount() > 0 ? index_.Time(0) : 0;
+  if (av_seek_frame(input_.get(), stream_->index, first, AVSEEK_FLAG_BACKWARD) >= 0 && index_.TimesGrow()) return true;
+  if (avformat_seek_file(input_.get(), -1, INT64_MIN, 0, 0, AVSEEK_FLAG_BYTE) >= 0) return true;
+  return avformat_seek_file(input_.get(), stream_->index, INT64_MIN, first, first, 0) >= 0;
+}
+
+bool Demuxer::Seek(int packet) {
+  // Packets without a time of their own are counted from the start of the file.
+  if (!index_.TimesGrow() || packet == 0) return Rewind();
+  for (int chunk = index_.ChunkOfPacket(packet); chunk > 0; chunk /= 2) {
+    const int start = index_.ChunkStart(chunk);
+    if (av_seek_frame(input_.get(), stream_->index, index_.Time(start), AVSEEK_FLAG_BACKWARD) < 0) continue;
+    synced_ = false;
+    next_ = start;
+    return true;
+  }
+  return Rewind();
+}
+
+int Demuxer::Read(AVPacket& packet) {
+  while (next_ < index_.PacketCount() && av_read_frame(input_.get(), &packet) >= 0) {
+    if (packet.stream_index != stream_->index || packet.size == 0) {
+      av_packet_unref(&packet);
+      continue;
+    }
+    if (index_.TimesGrow()) {
+      const std::int64_t time = packet.dts != AV_NOPTS_VALUE ? packet.dts : packet.pts;
+      if (!synced_ || index_.Time(next_) != time) {
+        const std::optional<int> found = index_.FindPacket(time);
+        if (!found) {
+          av_packet_unref(&packet);
+          continue;
+        }
+        next_ = *found;
+        synced_ = true;
+      }
+    }
+    return next_++;
+  }
+  return -1;
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "platform/media/AvHandles.h"
+#include "platform/media/PictureIndex.h"
+#include "platform/media/VideoFile.h"
+
+namespace kinalyx {
+
+/// The packets of a file's first video stream, each with its number in the index. All other streams
+/// are passed over unread where the container allows it.
+class Demuxer {
+ public:
+  /// Opens a file and indexes it; null on a fault, which `fault` and `message` then tell.
+  static std::unique_ptr<Demuxer> Open(const std::string& path, OpenFault& fault, std::string& message);
+
+  const PictureIndex& Index() const { return index_; }
+  const AVCodecParameters& Codec() const { return *stream_->codecpar; }
+  /// What the file tells of itself; width and height as its header has them.
+  VideoInfo Describe() const;
+  /// Milliseconds from the start of the first frame to the start of this one; the frame count gives the end.
+  double FrameTime(int frame) const;
+  /// True when the container itself says when each packet's picture is shown.
+  bool TellsShowTimes() const { return tellsShowTimes_; }
+
+  /// Goes to a packet, or to one before it where the file cannot be entered there.
+  bool Seek(int packet);
+  /// Reads the next packet of the stream and tells its number; -1 at the end of what can be read.
+  int Read(AVPacket& packet);
+  /// The packet that Read would give; a guess right after Seek.
+  int NextPacket() const { return next_; }
+
+ private:
+  Demuxer() = default;
+  OpenFault OpenStream(const std::string& path, std::string& message);
+  void DiscardOthers();
+  bool IndexFromContainer();
+  bool LastIndexedIsLast();
+  int CountTrailingRepeats(std::int64_t afterLast) const;
+  void IndexByReading();
+  bool Rewind();
+  bool KnowsFirstPacket();
+
+  std::string path_;
+  InputHandle input_;
+  AVStream* stream_ = nullptr;
+  bool isAvi_ = false;
+  bool tellsShowTimes_ = false;
+  bool hasSound_ = false;
+  std::int64_t fileBytes_ = 0;
+  PictureIndex index_;
+  int next_ = 0;
+  bool synced_ = true;  ///< false after a seek, until a packet has been recognised
+};
+
+}  // namespace kinalyx
