@@ -1,0 +1,26 @@
+#pragma once
+
+namespace kinalyx {
+
+/// Key codes as the key tables of the workspace name them.
+enum KeyCode : int {
+  kKeyCtrl = 17,
+  kKeyEscape = 27,
+  kKeyPageUp = 33,
+  kKeyPageDown = 34,
+  kKeyEnd = 35,
+  kKeyHome = 36,
+  kKeyLeft = 37,
+  kKeyUp = 38,
+  kKeyRight = 39,
+  kKeyDown = 40,
+  kKeyDelete = 46,
+  kKey0 = 48,
+  kKey9 = 57,
+  kKeyNumpad0 = 96,
+  kKeyNumpad9 = 105,
+  kKeyF1 = 112,
+  kKeyF12 = 123,
+};
+
+}  // namespace kinalyx
