@@ -1,0 +1,159 @@
+#include "platform/files/FileStore.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <system_error>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "platform/files/TextEncoding.h"
+
+namespace kinalyx {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+class SystemDisk final : public IDisk {
+ public:
+  // A file left here by a program that was killed is written over; a link laid here is not followed.
+  int Open(const std::string& path) override {
+    return ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW | O_CLOEXEC, 0666);
+  }
+  long Write(int file, const void* bytes, std::size_t count) override {
+    long written = -1;
+    do {
+      written = static_cast<long>(::write(file, bytes, count));
+    } while (written < 0 && errno == EINTR);
+    return written;
+  }
+  int Flush(int file) override { return ::fsync(file); }
+  int Close(int file) override { return ::close(file); }
+  int Rename(const std::string& from, const std::string& to) override { return std::rename(from.c_str(), to.c_str()); }
+  int FlushFolder(const std::string& folder) override {
+    const int handle = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (handle < 0) return -1;
+    const int result = ::fsync(handle);
+    ::close(handle);
+    return result;
+  }
+  int Remove(const std::string& path) override { return ::unlink(path.c_str()); }
+};
+
+/// Where a save to `path` really goes: the end of a chain of links.
+fs::path TargetOf(const std::string& path) {
+  fs::path target = path;
+  std::error_code failed;
+  for (int link = 0; link < 16 && fs::is_symlink(target, failed); ++link) {
+    const fs::path next = fs::read_symlink(target, failed);
+    if (failed) break;
+    target = next.is_absolute() ? next : target.parent_path() / next;
+  }
+  return target;
+}
+
+/// Hidden, so that no listing shows it; short enough for every file system; always the same for a file,
+/// so that a killed save leaves at most one behind.
+fs::path NameBeside(const fs::path& target) {
+  const std::string name = target.filename().string();
+  return target.parent_path() / ("." + std::string(CutUtf8(name, 200)) + ".new");
+}
+
+bool WriteAll(IDisk& disk, int file, std::span<const std::uint8_t> bytes) {
+  while (!bytes.empty()) {
+    const long written = disk.Write(file, bytes.data(), bytes.size());
+    if (written <= 0) {
+      if (written == 0) errno = ENOSPC;
+      return false;
+    }
+    bytes = bytes.subspan(static_cast<std::size_t>(written));
+  }
+  return true;
+}
+
+}  // namespace
+
+IDisk& RealDisk() {
+  static SystemDisk disk;  // holds no state
+  return disk;
+}
+
+bool WriteWholeFile(const std::string& path, std::span<const std::uint8_t> bytes, std::string* error, IDisk& disk) {
+  const auto refuse = [error](int reason) {
+    if (error) *error = std::strerror(reason);
+    return false;
+  };
+  const fs::path target = TargetOf(path);
+  std::error_code failed;
+  const fs::file_status old = fs::status(target, failed);
+  const bool exists = fs::exists(old);
+  if (exists && !fs::is_regular_file(old)) return refuse(fs::is_directory(old) ? EISDIR : EACCES);
+  // A rename needs no right to the file itself, so read-only must be asked for.
+  constexpr auto kAnyWrite = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+  if (exists && ((old.permissions() & kAnyWrite) == fs::perms::none || ::access(target.c_str(), W_OK) != 0))
+    return refuse(EACCES);
+
+  const fs::path beside = NameBeside(target);
+  const int file = disk.Open(beside.string());
+  if (file < 0) return refuse(errno);
+  bool good = WriteAll(disk, file, bytes) && disk.Flush(file) >= 0;
+  int reason = good ? 0 : errno;
+  if (disk.Close(file) < 0 && good) {
+    good = false;
+    reason = errno;
+  }
+  if (good && exists) fs::permissions(beside, old.permissions(), failed);
+  if (good && disk.Rename(beside.string(), target.string()) < 0) {
+    good = false;
+    reason = errno;
+  }
+  if (!good) {
+    disk.Remove(beside.string());
+    return refuse(reason);
+  }
+  // The new file is in place. Some network drives cannot flush a folder, and nothing can be taken back
+  // now, so a refusal here is no failure of the save.
+  const fs::path folder = target.parent_path();
+  disk.FlushFolder(folder.empty() ? "." : folder.string());
+  return true;
+}
+
+bool WriteWholeFile(const std::string& path, std::string_view text, std::string* error, IDisk& disk) {
+  return WriteWholeFile(path, std::span(reinterpret_cast<const std::uint8_t*>(text.data()), text.size()), error, disk);
+}
+
+std::optional<std::vector<std::uint8_t>> ReadWholeFile(const std::string& path, std::int64_t limit) {
+  // Not waiting at a pipe that somebody has put in the file's place.
+  const int file = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+  if (file < 0) return std::nullopt;
+  std::optional<std::vector<std::uint8_t>> result;
+  struct stat info {};
+  if (::fstat(file, &info) == 0 && S_ISREG(info.st_mode) && info.st_size <= limit) {
+    std::vector<std::uint8_t> bytes(static_cast<std::size_t>(info.st_size));
+    std::size_t have = 0;
+    ssize_t got = 1;
+    while (have < bytes.size() && got > 0) {
+      got = ::read(file, bytes.data() + have, bytes.size() - have);
+      if (got < 0 && errno == EINTR) got = 1;
+      else if (got > 0) have += static_cast<std::size_t>(got);
+    }
+    if (got >= 0) {
+      bytes.resize(have);  // somebody may have cut it meanwhile
+      result = std::move(bytes);
+    }
+  }
+  ::close(file);
+  return result;
+}
+
+std::optional<std::string> ReadTextFile(const std::string& path, std::int64_t limit) {
+  const auto bytes = ReadWholeFile(path, limit);
+  if (!bytes) return std::nullopt;
+  return AsUtf8(std::string_view(reinterpret_cast<const char*>(bytes->data()), bytes->size()));
+}
+
+}  // namespace kinalyx

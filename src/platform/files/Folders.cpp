@@ -1,0 +1,191 @@
+#include "platform/files/Folders.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <memory>
+#include <system_error>
+#include <utility>
+
+#include <dirent.h>
+#include <sys/stat.h>
+
+#include "platform/files/FileStore.h"
+#include "platform/files/TextEncoding.h"
+
+namespace kinalyx {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string FromEnvironment(const char* name) {
+  const char* value = std::getenv(name);
+  return value ? value : "";
+}
+
+/// The documents folder as the desktop's own list of folders names it; empty when it does not.
+std::string DesktopDocuments(const std::string& home) {
+  std::string config = FromEnvironment("XDG_CONFIG_HOME");
+  if (config.empty()) config = JoinPath(home, ".config");
+  const auto list = ReadTextFile(JoinPath(config, "user-dirs.dirs"));
+  if (!list) return {};
+  constexpr std::string_view kKey = "XDG_DOCUMENTS_DIR=\"";
+  for (std::size_t line = 0; line < list->size();) {
+    std::size_t end = list->find('\n', line);
+    if (end == std::string::npos) end = list->size();
+    std::string_view text(list->data() + line, end - line);
+    line = end + 1;
+    text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
+    if (!text.starts_with(kKey)) continue;
+    text.remove_prefix(kKey.size());
+    text = text.substr(0, text.find('"'));
+    constexpr std::string_view kHome = "$HOME";
+    if (text.starts_with(kHome)) return home + std::string(text.substr(kHome.size()));
+    if (text.starts_with('/')) return std::string(text);
+  }
+  return {};
+}
+
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+/// A text that sorts byte by byte as a reader sorts names: case folded, and each run of digits written
+/// as its length and its digits, so that (9) comes before (10).
+std::string SortKey(const std::string& name) {
+  const std::string folded = FoldCase(name);
+  std::string key;
+  key.reserve(folded.size() + 4);
+  for (std::size_t at = 0; at < folded.size();) {
+    if (!IsDigit(folded[at])) {
+      key += folded[at++];
+      continue;
+    }
+    while (at + 1 < folded.size() && folded[at] == '0' && IsDigit(folded[at + 1])) ++at;
+    std::size_t end = at;
+    while (end < folded.size() && IsDigit(folded[end])) ++end;
+    key += '0';  // among other characters a number stands where digits stand
+    key += static_cast<char>(std::min<std::size_t>(end - at, 255));
+    key.append(folded, at, end - at);
+    at = end;
+  }
+  return key;
+}
+
+void SortNames(std::vector<std::string>& names) {
+  std::vector<std::pair<std::string, std::string>> keyed;
+  keyed.reserve(names.size());
+  for (auto& name : names) keyed.emplace_back(SortKey(name), std::move(name));
+  std::sort(keyed.begin(), keyed.end());
+  for (std::size_t i = 0; i < names.size(); ++i) names[i] = std::move(keyed[i].second);
+}
+
+enum class Entry { Folder, File };
+
+/// Reads a folder once. Only where the file system does not tell what an entry is, or it is a link,
+/// the entry itself is asked.
+template <typename Wanted>
+std::vector<std::string> List(const std::string& folder, Entry kind, Wanted wanted) {
+  std::vector<std::string> names;
+  const std::unique_ptr<DIR, int (*)(DIR*)> open(::opendir(folder.c_str()), &::closedir);
+  if (!open) return names;
+  while (const dirent* entry = ::readdir(open.get())) {
+    const std::string_view name = entry->d_name;
+    if (name.starts_with('.') || !wanted(name)) continue;
+    bool isFolder = entry->d_type == DT_DIR;
+    bool isFile = entry->d_type == DT_REG;
+    if (entry->d_type == DT_UNKNOWN || entry->d_type == DT_LNK) {
+      struct stat info {};
+      if (::stat(JoinPath(folder, name).c_str(), &info) != 0) continue;
+      isFolder = S_ISDIR(info.st_mode);
+      isFile = S_ISREG(info.st_mode);
+    }
+    if (kind == Entry::Folder ? isFolder : isFile) names.emplace_back(name);
+  }
+  SortNames(names);
+  return names;
+}
+
+}  // namespace
+
+std::string DocumentsFolder() {
+  std::string home = FromEnvironment("HOME");
+  if (home.empty()) home = "/";
+  std::string documents = DesktopDocuments(home);
+  while (documents.size() > 1 && documents.back() == '/') documents.pop_back();
+  if (documents.empty() || !MakeFolder(documents)) {
+    documents = JoinPath(home, "Documents");
+    MakeFolder(documents);
+  }
+  return documents;
+}
+
+std::string ProgramFolder() {
+  std::error_code failed;
+  const fs::path program = fs::read_symlink("/proc/self/exe", failed);
+  return failed ? std::string(".") : program.parent_path().string();
+}
+
+bool FileExists(const std::string& path) {
+  std::error_code failed;
+  const fs::file_status status = fs::status(path, failed);
+  return fs::exists(status) && !fs::is_directory(status);
+}
+
+bool dirExists(const std::string& path) {
+  std::error_code failed;
+  return fs::is_directory(path, failed);
+}
+
+bool MakeFolder(const std::string& path) {
+  std::error_code failed;
+  fs::create_directories(path, failed);
+  return dirExists(path);
+}
+
+bool KillFile(const std::string& path) {
+  std::error_code failed;
+  if (!fs::is_directory(fs::symlink_status(path, failed))) fs::remove(path, failed);
+  return !fs::exists(fs::symlink_status(path, failed));
+}
+
+std::optional<std::int64_t> FileSize(const std::string& path) {
+  std::error_code failed;
+  const auto size = fs::file_size(path, failed);
+  if (failed) return std::nullopt;
+  return static_cast<std::int64_t>(size);
+}
+
+std::int64_t FreeBytes(const std::string& path) {
+  std::error_code failed;
+  fs::path place = fs::absolute(path, failed);
+  while (!fs::exists(place, failed) && place.has_relative_path()) place = place.parent_path();
+  const fs::space_info space = fs::space(place, failed);
+  return failed ? -1 : static_cast<std::int64_t>(space.available);
+}
+
+std::vector<std::string> ListFolders(const std::string& folder) {
+  return List(folder, Entry::Folder, [](std::string_view) { return true; });
+}
+
+std::vector<std::string> ListFiles(const std::string& folder, std::string_view extension) {
+  const std::string wanted = FoldCase(extension);
+  return List(folder, Entry::File, [&wanted](std::string_view name) {
+    return name.size() > wanted.size() && FoldCase(name.substr(name.size() - wanted.size())) == wanted;
+  });
+}
+
+std::string JoinPath(std::string_view folder, std::string_view name) {
+  std::string path(folder);
+  const bool slash = path.ends_with('/') || name.starts_with('/');
+  if (!path.empty() && !slash) path += '/';
+  if (path.ends_with('/') && name.starts_with('/')) name.remove_prefix(1);
+  return path.append(name);
+}
+
+std::string LastName(std::string_view path) {
+  while (path.size() > 1 && path.ends_with('/')) path.remove_suffix(1);
+  const std::size_t slash = path.rfind('/');
+  return std::string(slash == std::string_view::npos || path.size() == 1 ? path : path.substr(slash + 1));
+}
+
+}  // namespace kinalyx
