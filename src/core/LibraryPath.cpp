@@ -1,0 +1,61 @@
+#include "core/LibraryPath.h"
+
+#include <filesystem>
+#include <utility>
+
+#include <sys/stat.h>
+
+#include "platform/files/Folders.h"
+
+namespace kinalyx {
+
+namespace {
+
+/// True for the folder by which a drive is entered: where its neighbours above lie on another drive.
+bool IsDriveRoot(const std::string& folder) {
+  struct stat here {};
+  struct stat above {};
+  if (::stat(folder.c_str(), &here) != 0 || ::stat((folder + "/..").c_str(), &above) != 0) return false;
+  return here.st_dev != above.st_dev || here.st_ino == above.st_ino;
+}
+
+}  // namespace
+
+std::string LocalLibraryPath(const Settings& settings) { return JoinPath(settings.DataPath, "Video Library"); }
+
+bool SwitchNetworkOn(IHost& host, Settings& settings) {
+  if (!host.Question("Network Path Change",
+                     "Warning! If the network path is invalid at any time, the program will not function. "
+                     "Are you sure you want to continue?"))
+    return false;
+  const auto folder = host.PickFolder("Select the path to store your videos.", settings.LibraryPath);
+  if (!folder || folder->empty()) {
+    settings.Set(settings.UseNetwork, false);
+    return false;
+  }
+  if (TakeLibraryFolder(settings, *folder)) return true;
+  host.Message(MessageKind::Warning, "Network Path Change", "The folder " + *folder + " cannot be used for videos.");
+  return false;
+}
+
+bool TakeLibraryFolder(Settings& settings, std::string folder) {
+  folder = folder.substr(0, folder.find('\0'));
+  while (folder.size() > 1 && folder.ends_with('/')) folder.pop_back();
+  if (folder.empty()) return false;
+  if (IsDriveRoot(folder)) folder = JoinPath(folder, "Video Library");
+  if (!dirExists(folder)) {
+    if (!MakeFolder(folder)) return false;
+    MakeFolder(JoinPath(folder, "Amateurs"));
+    MakeFolder(JoinPath(folder, "Models"));
+  }
+  settings.Set(settings.UseNetwork, true);
+  settings.Set(settings.LibraryPath, std::move(folder));
+  return true;
+}
+
+void SwitchNetworkOff(Settings& settings) {
+  settings.Set(settings.LibraryPath, LocalLibraryPath(settings));
+  settings.Set(settings.UseNetwork, false);
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,59 @@
+#include "core/MenuPicture.h"
+
+#include <fmt/format.h>
+
+#include "platform/files/Folders.h"
+
+namespace kinalyx {
+
+namespace {
+
+constexpr const char* kPictureFilter =
+    "All Picture Files (*.bmp;*.jpg;*.gif;*.ico)|*.bmp; *.jpg; *.gif; *.ico";
+constexpr std::int32_t kPlaces = 10;
+constexpr std::int32_t kPlacesInRow = 5;
+
+bool Choose(IHost& host, Settings& settings, const char* title, std::string& setting) {
+  const auto picture = host.PickFile({title, JoinPath(settings.AppPath, "pictures/backgrounds"), kPictureFilter});
+  if (!picture) return false;
+  settings.Set(setting, *picture);
+  return true;
+}
+
+}  // namespace
+
+std::string DefaultBackground(const Settings& settings) {
+  return JoinPath(settings.AppPath, "pictures/backgrounds/bio-guy blue.jpg");
+}
+
+std::string CheckBackground(IHost& host, Settings& settings) {
+  if (FileExists(settings.BackgroundPic)) return settings.BackgroundPic;
+  const std::string standard = DefaultBackground(settings);
+  // Nothing is gained by resetting the default to itself.
+  if (settings.BackgroundPic != standard) {
+    host.Message(MessageKind::Warning, "",
+                 fmt::format("Unable to locate the background picture named {}. The default picture will be reset.",
+                             settings.BackgroundPic));
+    settings.Set(settings.BackgroundPic, standard);
+  }
+  return FileExists(standard) ? standard : std::string();
+}
+
+bool ChooseBackground(IHost& host, Settings& settings) {
+  return Choose(host, settings, "Background Picture", settings.BackgroundPic);
+}
+
+bool ChooseLogo(IHost& host, Settings& settings) { return Choose(host, settings, "Logo", settings.LogoName); }
+
+void NextCaptionPosition(Settings& settings) {
+  const std::int32_t next = settings.CaptionPosition + 1;
+  settings.Set(settings.CaptionPosition, next < 1 || next > kPlaces ? 1 : next);
+}
+
+CaptionPlace PlaceOfCaption(std::int32_t position) {
+  const std::int32_t place = position < 1 || position > kPlaces ? 0 : position - 1;
+  return {static_cast<double>(place % kPlacesInRow) / (kPlacesInRow - 1),
+          static_cast<double>(place / kPlacesInRow) / (kPlaces / kPlacesInRow - 1)};
+}
+
+}  // namespace kinalyx

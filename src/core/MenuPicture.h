@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string>
+
+#include "core/Settings.h"
+#include "platform/host/Host.h"
+
+namespace kinalyx {
+
+/// The picture and the heading lines of the main menu page.
+
+/// The picture that comes with the program.
+std::string DefaultBackground(const Settings& settings);
+
+/// The picture to show. One that has gone is reported and replaced by the default, which is written. Empty
+/// when that is missing too: the page then shows a ground in the scheme's colours.
+std::string CheckBackground(IHost& host, Settings& settings);
+
+/// Lets the user choose another picture and writes it; false when the dialog was cancelled.
+bool ChooseBackground(IHost& host, Settings& settings);
+/// The same for the logo of printouts.
+bool ChooseLogo(IHost& host, Settings& settings);
+
+/// Moves the heading lines to the next of the ten places, from the last to the first, and writes it.
+void NextCaptionPosition(Settings& settings);
+
+/// Where a place stands on the page: two rows of five. Parts of the free width and height, 0 the left or
+/// upper edge, 1 the right or lower. A position outside 1 to 10 counts as 1.
+struct CaptionPlace {
+  double across = 0;
+  double down = 0;
+};
+CaptionPlace PlaceOfCaption(std::int32_t position);
+
+}  // namespace kinalyx

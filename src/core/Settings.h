@@ -1,0 +1,186 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <variant>
+#include <vector>
+
+namespace kinalyx {
+
+class IHost;
+
+/// All lasting settings of the workstation. Two plain INI files in the data folder hold them; one loader
+/// reads every key once, at start-up, into the members below, which carry the keys' own names. From then
+/// on the program works on the members, and every change is written through at once, key by key. Make one
+/// and hand it to those who need it.
+class Settings {
+ public:
+  /// @param dataPath  the per-user data folder, made when something is first written into it
+  /// @param appPath   the folder of the program file
+  Settings(IHost& host, std::string dataPath, std::string appPath);
+  Settings(const Settings&) = delete;
+  Settings& operator=(const Settings&) = delete;
+
+  /// The data folder of the user who runs the program.
+  static std::string UserDataPath();
+
+  const std::string DataPath;
+  const std::string AppPath;
+  /// While true, controls are being filled and their change handlers write nothing.
+  bool Loading = false;
+
+  // --- [General]
+  std::string WindowMode;   ///< "1" full screen, "2" large, "3" medium, "4" small window
+  std::string ScreenMode;   ///< number of the analysis layout opened by default
+  std::string UserName;     ///< the instructor
+  std::string CompanyName;
+  bool UseNetwork = false;  ///< the library lies in a folder of the user's choice
+  std::string LibraryPath;  ///< root of the video library
+  bool Logo = false;        ///< print the logo
+  std::string LogoName;     ///< its picture file
+  std::string BackgroundPic;          ///< picture of the main menu page
+  std::int32_t CaptionPosition = 0;   ///< 1 to 10, where the heading lines stand on it
+  std::array<std::string, 6> Heading; ///< lines 1 to 5; element 0 is not used
+  std::string Exporter;
+  std::string CDBurner;
+  std::string UpdateCheck;
+  std::int32_t RestartOption = 0;     ///< page to reopen after a self-restart; 1 the setup page
+
+  // --- [VidCap]
+  bool ImportCaptureMode = false;
+  std::int32_t VideoInSource = 0;
+  bool DVMode = false;
+  std::int32_t NameMode = 0;
+  std::string ImportFolder;
+  std::string AutoImportFolder;
+  std::int32_t CapMode = 0;
+  std::int32_t BeepPausetime = 0;  ///< seconds
+  std::int32_t BeepCapTime = 0;    ///< seconds
+  std::int32_t BeepCycles = 0;
+  bool OneCam = false;
+  std::string TriggerLevel;
+  std::string SoundLevel;
+  std::array<std::string, 2> TriggerTime;
+  std::string OneClickTime;
+  std::int32_t CameraSelect = 0;
+  std::string CamExt;
+  bool ReverseFields = false;
+  bool SplitFields = false;
+  bool Recompress = false;
+  bool HDReverseFields = false;
+  bool HDSplitFields = false;
+  bool HDRecompress = false;
+  bool AutoReverseFields = false;
+  bool AutoSplitFields = false;
+  bool AutoRecompress = false;
+  bool AnalogResize = false;
+  bool HDResize = false;
+  bool AutoResize = false;
+  std::int32_t RealFR = 0;      ///< pictures per second
+  std::int32_t HDRealFR = 0;
+  std::int32_t AutoRealFR = 0;
+
+  // --- [Analysis]
+  std::int16_t GridSize = 0;
+  std::int16_t SlomoSpeed = 0;     ///< percent, 1 to 100
+  std::int32_t CadWidth = 0;       ///< line width of drawings in pixels
+  bool CadOutline = false;
+  std::int32_t RandomColor = 0;    ///< 0 single colours, 1 randomized
+  std::array<std::int32_t, 13> NewColors{};  ///< keys NewColor0 to NewColor12: colour of each tool
+  std::int32_t StrobeStep = 0;
+  std::int32_t OpenDlgChoice = 0;  ///< open panel: 0 right, 1 left, 2 middle
+
+  // --- [Ruler]
+  std::int32_t CalibNumber = 0;    ///< measured pixels
+  float CalibNumberOut = 0;        ///< the real length that they stand for
+  std::int32_t CalibInput = 0;
+  std::int32_t CalibOutput = 0;
+  std::string NTSCorPAL;           ///< "0" NTSC, 60 fields a second; "1" PAL, 50
+
+  // --- [Layout]
+  std::string Design;                       ///< colour scheme, "0" to "7"
+  std::array<std::string, 3> PrimaryName;   ///< "Student", "student", "students"
+  std::array<std::int32_t, 4> WindowInfo{}; ///< top, left, width, height of the main form in twips
+
+  // --- capture.ini, [General]
+  std::array<std::string, 2> Camera;        ///< keys Camera1 and Camera2
+  std::array<std::string, 2> CameraSize;
+  std::array<std::string, 2> CameraInput;
+  std::array<std::string, 2> CameraFormat;
+  std::string SoundCardSource;
+  std::string SoundCardInput;
+  std::array<std::string, 2> CurrentCamera; ///< the pair that the capture code compares with
+
+  /// Number of the analysis layout that `ScreenMode` names.
+  std::int16_t ScreenModeNumber() const;
+  /// Colour of the path-down tool: chosen on the setup page, kept while the program runs.
+  std::int32_t PathDownColor = 0xFFFF;
+
+  /// Makes `config10.ini` with its first-run values when it is missing, and reads every key. A key that is
+  /// missing from the file reads as the path of the file, a number thereby as 0; a Boolean that cannot be
+  /// read keeps its first-run value, and the user is told which it is, once in a run.
+  /// False when the file was missing and could not be made: the first-run values then hold for this run,
+  /// and the user has been told.
+  bool LoadSettings();
+  /// Takes name, company, network flag and library path over from the old `config.ini`, if there is one.
+  void MigrateOldConfig();
+  /// Writes one key. When the file has gone it is made anew with its first-run values instead, and
+  /// everything is loaded again: the value is dropped, and the result is false. It is false too when the
+  /// disk refuses; the variable then holds the value for this run.
+  bool WriteConfigKey(const std::string& section, const std::string& key, const std::string& value);
+
+  /// What the lists of the setup page show at the moment at which `capture.ini` is first made.
+  struct CaptureLists {
+    std::array<std::string, 2> size{"-1", "-1"};
+    std::array<std::string, 2> input{"-1", "-1"};
+    std::array<std::string, 2> format{"-1", "-1"};
+    std::string soundSource;
+    std::string soundInput = "-1";
+  };
+  CaptureLists captureLists;
+  /// The same for `capture.ini`.
+  bool LoadCaptureSettings();
+  bool WriteCaptureKey(const std::string& section, const std::string& key, const std::string& value);
+
+  /// Stores a value in one of the members above and writes its key: `settings.Set(settings.CadWidth, 7)`.
+  /// Result as WriteConfigKey. A member that is no setting is only stored.
+  template <typename T>
+  bool Set(T& setting, std::type_identity_t<T> value) {
+    setting = std::move(value);
+    return WriteMember(&setting);
+  }
+  /// Stores and writes the colour of a tool button: 0 to 12, or 17, the path-down tool.
+  bool SetNewColor(int index, std::int32_t colour);
+  /// Keeps the place of the main form, in twips.
+  void StoreWindowPlace(std::int32_t top, std::int32_t left, std::int32_t width, std::int32_t height);
+
+  std::string ConfigFile() const;
+  std::string CaptureFile() const;
+
+ private:
+  using Member = std::variant<std::string*, bool*, std::int16_t*, std::int32_t*, float*>;
+  /// One key of a file: where it stands, what a first run writes, and the member that holds it.
+  struct Key {
+    std::string section;
+    std::string name;
+    std::string firstRun;
+    Member member;
+  };
+
+  std::vector<Key> ConfigKeys();
+  std::vector<Key> CaptureKeys();
+  bool MakeFile(const std::vector<Key>& keys, const std::string& path);
+  void ReadKeys(const std::vector<Key>& keys, const std::string& path);
+  static bool Take(const Key& key, const std::string& text);
+  bool WriteMember(const Member& member);
+  void TellBadBooleans(const std::vector<const Key*>& bad, const std::string& path);
+
+  IHost& host_;
+  std::vector<std::string> toldKeys_;
+  bool toldUnwritable_ = false;
+};
+
+}  // namespace kinalyx

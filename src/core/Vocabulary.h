@@ -1,0 +1,48 @@
+#pragma once
+
+#include <string>
+
+#include "core/Settings.h"
+
+namespace kinalyx {
+
+/// All texts in which the word for the person under analysis stands. The word is the user's: Student,
+/// Golfer, Client, Patient. Texts are built afresh at every call, so that they follow a change at once.
+class Vocabulary {
+ public:
+  explicit Vocabulary(const Settings& settings) : settings_(settings) {}
+
+  const std::string& Noun() const { return settings_.PrimaryName[0]; }   ///< "Student"
+  const std::string& noun() const { return settings_.PrimaryName[1]; }   ///< "student"
+  const std::string& nouns() const { return settings_.PrimaryName[2]; }  ///< "students"
+  std::string Nouns() const;                                            ///< "Students", heading of lists
+
+  std::string Profiles() const;             ///< "Student Profiles"
+  std::string Profile() const;              ///< "Student Profile"
+  std::string Tools() const;                ///< "Student Tools"
+  std::string Notes() const;                ///< "Student Notes"
+  std::string Name() const;                 ///< "Student Name"
+  std::string Select() const;               ///< "Select Student"
+  std::string Current() const;              ///< "Current Student"
+  std::string AddNew() const;               ///< "Add New Student"
+  std::string Rename() const;               ///< "Rename Student"
+  std::string MoveThis() const;             ///< "Move this student"
+  std::string DeleteThis() const;           ///< "Delete this student"
+  std::string SendLessonsTo() const;        ///< "Send Lessons to Students"
+  std::string ProfilesEditUtility() const;  ///< "Student Profiles Edit Utility"
+  std::string UseThe() const;               ///< "Use the student"
+  std::string MustSelect() const;           ///< "You must select a student first."
+
+  /// Button and title of a page, by the index of `MainCmd`: 0 to 8.
+  std::string PageButton(int index) const;
+  std::string PageTitle(int index) const;
+
+ private:
+  const Settings& settings_;
+};
+
+/// Takes a new word for the person under analysis: lower case and plural follow from it (with an s, without
+/// exceptions), and all three are written. False, and nothing changed, when it is the present word.
+bool SetPrimaryName(Settings& settings, const std::string& text);
+
+}  // namespace kinalyx

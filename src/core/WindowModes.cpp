@@ -1,0 +1,58 @@
+#include "core/WindowModes.h"
+
+namespace kinalyx {
+
+namespace {
+
+constexpr std::int32_t kTwips = 15;  // to a pixel
+
+constexpr WindowModeItem kItems[] = {
+    {"1", "Full Screen Mode (Recommended)"},
+    {"2", "Large (Windowed 1280x800)"},
+    {"3", "Medium (Windowed 1024x768)"},
+};
+
+/// A window's size, and how far its corner stands from the middle of the screen, in twips.
+struct Window {
+  std::string_view mode;
+  std::int32_t width, height;
+  std::int32_t fromMiddleX, fromMiddleY;
+};
+
+constexpr Window kWindows[] = {
+    {"2", 1280 * kTwips, 800 * kTwips, 9600, 6000},
+    // 7860 is not half of the width: the window has always stood a little to the left.
+    {"3", 1024 * kTwips, 768 * kTwips, 7860, 5760},
+    {"4", 800 * kTwips, 600 * kTwips, 6000, 4500},
+};
+
+}  // namespace
+
+std::span<const WindowModeItem> WindowModeItems() { return kItems; }
+
+WindowPlace PlaceForMode(std::string_view mode, int screenWidth, int screenHeight) {
+  const std::int32_t width = screenWidth * kTwips;
+  const std::int32_t height = screenHeight * kTwips;
+  for (const Window& window : kWindows) {
+    if (window.mode == mode)
+      return {height / 2 - window.fromMiddleY, width / 2 - window.fromMiddleX, window.width, window.height, false};
+  }
+  return {0, 0, width, height, true};
+}
+
+int ScreenClass(std::int32_t formWidth) { return formWidth / kTwips < 1025 ? 1 : 2; }
+
+bool ChooseWindowMode(Settings& settings, std::string_view mode) {
+  if (settings.WindowMode == mode) return false;
+  settings.Set(settings.WindowMode, std::string(mode));
+  settings.Set(settings.RestartOption, 1);
+  return true;
+}
+
+bool TakeRestartRequest(Settings& settings) {
+  const bool setupPage = settings.RestartOption == 1;
+  if (settings.RestartOption != 0) settings.Set(settings.RestartOption, 0);
+  return setupPage;
+}
+
+}  // namespace kinalyx
