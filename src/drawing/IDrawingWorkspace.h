@@ -1,0 +1,61 @@
+#pragma once
+
+#include <string>
+
+#include "drawing/Shape.h"
+#include "platform/paint/Geometry.h"
+
+namespace kinalyx {
+
+/// What the drawing tools need of the workspace whose windows they draw in. Windows count from 1.
+class IDrawingWorkspace {
+ public:
+  virtual ~IDrawingWorkspace() = default;
+
+  // --- windows and players
+  virtual int ActiveWindow() = 0;
+  /// Makes a window the active one, frame and all.
+  virtual void SetActiveWindow(int window) = 0;
+  virtual bool HasVideo(int window) = 0;
+  /// Size of the window's picture in pixels; 0 when it has none.
+  virtual int PictureWidth(int window) = 0;
+  virtual int PictureHeight(int window) = 0;
+  virtual bool IsPlaying(int window) = 0;
+  /// Ends a play by a click in `window`: the active player stops, `window` becomes active, the loop
+  /// button comes up, running timers of held buttons end.
+  virtual void StopClick(int window) = 0;
+  virtual void ReleaseLoopButton() = 0;
+  /// Composes the window's frame again; the tools' PreDrawFrame runs inside.
+  virtual void Refresh(int window) = 0;
+  /// The window's player stands on its last position.
+  virtual bool OnLastFrame(int window) = 0;
+  /// Moves the window's player one position on, and its partner when the two are locked together and the
+  /// partner is not on its last; overlays follow.
+  virtual void AdvanceFrame(int window) = 0;
+
+  // --- display
+  /// The line of the play bar; empty brings the position back.
+  virtual void DisplayData(const std::string& text) = 0;
+  /// "Drawing a Line in Color", beside the play bar, while a tool is active.
+  virtual void ShowToolCaption(const std::string& caption) = 0;
+  /// The colour beside the caption, and the button that ends the tool.
+  virtual void ShowVectorColor(Colour colour) = 0;
+  virtual void HideVectorColor() = 0;
+  /// Presses one of the twelve colour buttons, -1 none. Must not come back as ColorChoiceBtn_Click.
+  virtual void SetColorButton(int index) = 0;
+  /// A figure could not be drawn; shown once for each drawing, not on each frame.
+  virtual void ShowDrawError(const std::string& text) = 0;
+
+  // --- what other parts of the workspace do with drawings
+  /// The grid button follows the window's grid.
+  virtual void ShowGridButton(bool) {}
+  /// A shape was finished or deleted: a mix, carve, lesson or film strip of the window is made anew.
+  virtual void DrawingsChanged(int) {}
+  /// Offers a finished square to a waiting zoom or carve; true takes it, and it is no drawing then.
+  virtual bool TakeSquare(int, const Shape&) { return false; }
+  virtual bool CalibrationShown() { return false; }
+  /// The length of the measuring line, "123.4pts".
+  virtual void ShowCalibrationLength(const std::string&) {}
+};
+
+}  // namespace kinalyx

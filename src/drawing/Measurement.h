@@ -1,0 +1,44 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "drawing/Shape.h"
+
+namespace kinalyx {
+
+/// Units of a typed or shown length.
+enum LengthUnit { kInches, kFeet, kCentimetres, kMetres };
+
+/// How pixels become lengths; the settings of the section "Ruler".
+struct Calibration {
+  int CalibNumber = 0;       ///< the measured length in pixels; 0: not calibrated
+  float CalibNumberOut = 0;  ///< pixels per inch
+  int CalibOutput = kFeet;   ///< unit of the display
+  bool pal = false;          ///< 50 fields a second instead of 60
+};
+
+enum class AngleMode {
+  Opening = 0,       ///< between P0 and P2, at P1
+  ToHorizontal = 1,  ///< between a point left of P1 and P2
+  ToVertical = 2,    ///< between a point above P1 and P2
+};
+
+/// Whole degrees, rounded down, by the law of cosines; 0 when two of the points coincide or the points
+/// stand in one line.
+float GetAngle(POINTAPI P0, POINTAPI P1, POINTAPI P2, AngleMode Mode);
+
+/// Length of a line in pixels, cut to one decimal.
+double LineLength(POINTAPI from, POINTAPI to);
+/// A number as the captions show it: seven figures, no zeros at the end, no zero before the point.
+std::string NumberText(double value);
+/// A length of so many pixels in the unit of the display with its mark, five characters of figures.
+std::string LengthText(double pixels, const Calibration& calibration);
+
+/// What a shape measures, for the display; nothing for kinds and counts that measure nothing.
+std::optional<std::string> ShapeCaption(const Shape& shape, const Calibration& calibration);
+
+/// Pixels per inch from a line of `pixels` and the length typed for it; nothing for a length that is 0.
+std::optional<float> PixelsPerInch(int pixels, double typed, LengthUnit unit);
+
+}  // namespace kinalyx

@@ -1,0 +1,116 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "platform/paint/Geometry.h"
+
+namespace kinalyx {
+
+/// The kinds of shape, in the order of the table and of the drawing files.
+enum ShapeKind : std::int16_t {
+  kFreehand, kFlag, kSquare, kLine, kEllipse, kAngle, kSwingPath, kParallelogram, kZone, kClock, kArrow, kStickMan
+};
+
+/// One kind of shape.
+struct ShapeInf {
+  std::string_view Name;
+  std::int16_t NumPoints = 0;    ///< points that complete the shape; kOpenPoints: any number
+  bool Drawable = true;          ///< false: never painted
+  std::string_view ToolCaption;  ///< as the tool is announced; empty for a kind without a tool
+};
+
+constexpr std::int16_t kOpenPoints = 999;
+constexpr int kShapeKinds = 12;
+
+inline constexpr std::array<ShapeInf, kShapeKinds> ShapeInfs{{
+    {"Freehand", kOpenPoints, true, "Freehand"},
+    {"Flag", 1, true, "a Plus Sign"},
+    {"Square", 2, true, "a Square"},
+    {"Line", 2, true, "a Line"},
+    {"Ellipse", 2, true, "a Circle"},
+    {"Angle", 3, true, "a Angle"},
+    {"Swing path", kOpenPoints, true, "a Path Trace"},
+    {"Parallelogram", 3, true, "a Parallelogram"},
+    {"Shaft & path", 3, true, "a Zone"},
+    {"Clock", 2, true, "a Clock Grid"},
+    {"Arrow", 2, true, "a Arrow"},
+    {"Stick man", 13, true, ""},
+}};
+
+/// The row of a kind. Numbers outside the table (they can come from a file) give a nameless kind that
+/// is never painted.
+const ShapeInf& InfOf(int Kind);
+
+/// One drawn object. Points are pixels of the window's picture, y downward.
+struct Shape {
+  std::int16_t NumBound = 0;  ///< points that the user has fixed
+  std::int16_t NumPts = 0;    ///< points that exist: the fixed ones and at most one that follows the mouse
+  std::int16_t Kind = 0;
+  bool Locked = false;  ///< finished: takes no more points; only now it can be moved, turned and scaled
+  /// One slot more than a fixed kind needs; a clock keeps its rotation in degrees in the spare slot's x.
+  std::vector<POINTAPI> Pts;
+  /// The copy from which a running rotation or scaling computes.
+  std::vector<POINTAPI> SavedPts;
+  kinalyx::Colour Colour = 0;
+
+  friend bool operator==(const Shape&, const Shape&) = default;
+};
+
+/// The points that exist, also when the counts of a damaged file promise more.
+std::span<const POINTAPI> PointsOf(const Shape& shape);
+/// The fixed points, likewise.
+std::span<POINTAPI> BoundPoints(Shape& shape);
+std::span<const POINTAPI> BoundPoints(const Shape& shape);
+/// Degrees by which a clock is turned; 0 for one that never was.
+int ClockRotation(const Shape& shape);
+
+/// The shapes of one video window.
+struct ShapeList {
+  std::vector<Shape> Shapes;    ///< may hold one stale shape behind the last
+  std::int16_t NumShapes = 0;   ///< shapes that count
+  bool Adding = false;          ///< the last shape is under construction
+  std::int16_t CurShape = -1;   ///< the selected shape; below 0: none
+  bool GridOn = false;
+  /// Size of the window when something was last drawn, in twips (15 to a pixel of the picture); 0: unknown.
+  std::int32_t CanvasWidth = 0;
+  std::int32_t CanvasHeight = 0;
+
+  friend bool operator==(const ShapeList&, const ShapeList&) = default;
+};
+
+constexpr int kTwipsPerPixel = 15;
+
+/// The shapes that count.
+std::span<Shape> ShapesOf(ShapeList& list);
+std::span<const Shape> ShapesOf(const ShapeList& list);
+/// The last shape, null when there is none; good until the list changes.
+Shape* LastShape(ShapeList& list);
+/// The selected shape, null when none is.
+Shape* SelectedShape(ShapeList& list);
+const Shape* SelectedShape(const ShapeList& list);
+
+/// The eight lists of the workspace; windows count from 1.
+class ShapeLists {
+ public:
+  static constexpr int kWindows = 8;
+  /// Numbers outside 1 to 8 are a fault of the caller; they give the nearest window.
+  ShapeList& operator()(int window);
+  const ShapeList& operator()(int window) const;
+
+ private:
+  std::array<ShapeList, kWindows> lists_;
+};
+
+/// Mirrors all fixed points in a picture of this width (pixels): x becomes width - x.
+void FlipShapes(ShapeList& list, int width);
+/// Multiplies all points, rounded; a clock's rotation stays.
+void StretchShapes(ShapeList& list, double ScaleX, double ScaleY);
+/// Fits the shapes of a picture of the old size to one of the new size. A side of 0 or less on either
+/// hand, as of a window that is not shown, changes nothing.
+void StretchShapes(ShapeList& list, int oldWidth, int oldHeight, int newWidth, int newHeight);
+
+}  // namespace kinalyx
