@@ -1,0 +1,216 @@
+#include <algorithm>
+
+#include "core/ColorSchemes.h"
+#include "core/LibraryPath.h"
+#include "core/MailSettings.h"
+#include "core/MenuPicture.h"
+#include "core/StartUp.h"
+#include "core/SystemTests.h"
+#include "core/Vocabulary.h"
+#include "core/WindowModes.h"
+#include "platform/files/Folders.h"
+#include "platform/files/IniFile.h"
+#include "support/TempFolder.h"
+#include "support/TestHost.h"
+
+namespace kinalyx::test {
+namespace {
+
+struct Desk {
+  TempFolder folder;
+  TestHost host;
+  Settings settings{host, folder.Path("data"), folder.Path("program")};
+
+  Desk() { settings.LoadSettings(); }
+  std::optional<std::string> OnDisk(const char* section, const char* key) {
+    return ReadProfileValue(section, key, settings.ConfigFile());
+  }
+};
+
+TEST(StartUp, ComesUpInOrderAndAsksOnlyOnce) {
+  TempFolder folder;
+  TestHost host;
+  for (const bool first : {true, false}) {
+    Settings settings(host, folder.Path("data"), folder.Path("program"));
+    MailSettings mail(settings.DataPath);
+    ColorSchemes schemes;
+    std::string order;
+    const auto step = [&order](const char* name) { return [&order, name] { order += name; }; };
+    const StartUpSteps steps{[&] { order += "scheme " + std::to_string(schemes.Design()) + ", "; }, step("fields, "),
+                             step("splash, "), step("main, "), step("first form, "), step("close")};
+    EXPECT_EQ(StartUp(settings, mail, schemes, steps), first);
+    EXPECT_EQ(order, first ? "scheme 0, fields, splash, main, first form, close"
+                           : "scheme 7, fields, splash, main, close");
+    EXPECT_EQ(mail.Subject, first ? "Video Analysis from " : "Video Analysis from Links");
+    settings.Set(settings.Design, "7");
+    mail.TakeSender("Erica Sample", "Links");
+  }
+  MailSettings mail(folder.Path("data"));
+  mail.LoadMailSettings();
+  EXPECT_EQ(mail.SenderName, "Erica Sample");
+}
+
+TEST(ColorSchemes, UnknownDesignsChangeNothing) {
+  ColorSchemes schemes;
+  EXPECT_TRUE(schemes.ApplyDesign("7"));
+  EXPECT_EQ(schemes.SchemeColors(0), 0);
+  EXPECT_EQ(schemes.SchemeColors(3), 16777215);
+  for (const char* bad : {"", "8", "-1", "07", "x"}) EXPECT_FALSE(schemes.ApplyDesign(bad));
+  EXPECT_EQ(schemes.Design(), 7);
+  EXPECT_EQ(ColorSchemes::All()[7].caption, "Outdoor Mode");
+}
+
+TEST(Vocabulary, TheNounStandsInAllTexts) {
+  Desk desk;
+  const Vocabulary words(desk.settings);
+  EXPECT_EQ(words.PageTitle(1), "Student Profiles");
+  EXPECT_FALSE(SetPrimaryName(desk.settings, "Student"));
+  EXPECT_TRUE(SetPrimaryName(desk.settings, "Class"));
+  EXPECT_EQ(desk.settings.PrimaryName[1], "class");
+  EXPECT_EQ(desk.settings.PrimaryName[2], "classs");
+  EXPECT_EQ(desk.OnDisk("Layout", "PrimaryName2"), "classs");
+  EXPECT_EQ(words.PageButton(1), "Class Profiles");
+  EXPECT_EQ(words.MoveThis(), "Move this class");
+  EXPECT_EQ(words.MustSelect(), "You must select a class first.");
+  EXPECT_EQ(words.PageTitle(7), "Help Menu");
+  EXPECT_EQ(words.PageTitle(0), "Main Menu");
+}
+
+TEST(WindowModes, StandWhereTheyAlwaysStood) {
+  EXPECT_EQ(PlaceForMode("1", 1920, 1080), (WindowPlace{0, 0, 28800, 16200, true}));
+  EXPECT_EQ(PlaceForMode("2", 1920, 1080), (WindowPlace{2100, 4800, 19200, 12000, false}));
+  EXPECT_EQ(PlaceForMode("3", 1920, 1080), (WindowPlace{2340, 6540, 15360, 11520, false}));
+  EXPECT_EQ(PlaceForMode("4", 1920, 1080), (WindowPlace{3600, 8400, 12000, 9000, false}));
+  EXPECT_TRUE(PlaceForMode("nonsense", 800, 600).fullScreen);
+  EXPECT_EQ(ScreenClass(1024 * 15), 1);
+  EXPECT_EQ(ScreenClass(1024 * 15 + 14), 1);
+  EXPECT_EQ(ScreenClass(1025 * 15), 2);
+  EXPECT_EQ(WindowModeItems().size(), 3u);
+}
+
+TEST(WindowModes, ANewModeRestartsOnTheSetupPage) {
+  Desk desk;
+  EXPECT_FALSE(ChooseWindowMode(desk.settings, "1"));
+  EXPECT_EQ(desk.OnDisk("General", "RestartOption"), "0");
+  EXPECT_TRUE(ChooseWindowMode(desk.settings, "3"));
+  EXPECT_EQ(desk.OnDisk("General", "WindowMode"), "3");
+
+  Settings next(desk.host, desk.settings.DataPath, desk.settings.AppPath);
+  next.LoadSettings();
+  EXPECT_TRUE(TakeRestartRequest(next));
+  EXPECT_EQ(desk.OnDisk("General", "RestartOption"), "0");
+  EXPECT_FALSE(TakeRestartRequest(next));
+
+  next.RestartOption = 2;
+  EXPECT_FALSE(TakeRestartRequest(next));
+  EXPECT_EQ(next.RestartOption, 0);
+}
+
+TEST(SystemTests, RateEachFigureAtItsBounds) {
+  const auto rate = [](int bits, int megabytes, int width, int height, int megahertz, int kilobytes) {
+    MachineFigures figures;
+    figures.system = {width, height, bits, megahertz, kilobytes};
+    figures.freeBytes = megabytes * 1024LL * 1024;
+    std::string text;
+    for (const SystemTestRow& row : RateMachine(figures))
+      text += (row.colour == kGaugeGreen ? "green " : "red ") + std::to_string(row.percent) + " " + row.text + "; ";
+    return text;
+  };
+  EXPECT_EQ(rate(8, 499, 1023, 768, 349, 128000),
+            "red 25 8 Bit; red 25 499 MB; red 25 1023x768; red 25 349; red 25 128000K; ");
+  EXPECT_EQ(rate(16, 500, 1024, 768, 350, 128001),
+            "green 75 16 Bit; green 50 500 MB; green 100 1024x768; green 25 350; green 75 128001K; ");
+  EXPECT_EQ(rate(24, 1000, 1024, 767, 351, 255999),
+            "green 100 24 Bit; green 75 1000 MB; red 25 1024x767; green 50 351; green 75 255999K; ");
+  EXPECT_EQ(rate(32, 2000, 1920, 1080, 501, 256000),
+            "green 100 32 Bit; green 75 2000 MB; green 100 1920x1080; green 75 501; green 100 256000K; ");
+  EXPECT_EQ(rate(32, 2001, 1920, 1080, 701, 256000),
+            "green 100 32 Bit; green 100 2001 MB; green 100 1920x1080; green 100 701; green 100 256000K; ");
+
+  MachineFigures unknown;
+  EXPECT_EQ(RateMachine(unknown)[1].text, "Unknown");
+  EXPECT_EQ(RateMachine(unknown)[3].percent, 0);
+}
+
+TEST(SystemTests, TheScreenMustHoldTheChosenWindow) {
+  Desk desk;
+  desk.host.system.screenWidth = 1024;
+  desk.host.system.screenHeight = 768;
+  EXPECT_EQ(SystemTests(desk.host, desk.settings)[2].percent, 100);
+  desk.settings.WindowMode = "2";
+  EXPECT_EQ(SystemTests(desk.host, desk.settings)[2].percent, 25);
+}
+
+TEST(LibraryPath, GoesToAFolderOfTheUsersChoiceAndBack) {
+  Desk desk;
+  Settings& s = desk.settings;
+  const std::string local = s.LibraryPath;
+
+  desk.host.answers = {false};
+  EXPECT_FALSE(SwitchNetworkOn(desk.host, s));
+  EXPECT_EQ(desk.host.titles.back(), "Network Path Change");
+  EXPECT_EQ(s.LibraryPath, local);
+
+  desk.host.answers = {true};
+  desk.host.folders = {std::nullopt};
+  EXPECT_FALSE(SwitchNetworkOn(desk.host, s));
+  EXPECT_FALSE(s.UseNetwork);
+
+  desk.host.answers = {true};
+  desk.host.folders = {desk.folder.Path("server") + "/"};
+  EXPECT_TRUE(SwitchNetworkOn(desk.host, s));
+  EXPECT_EQ(s.LibraryPath, desk.folder.Path("server"));
+  EXPECT_EQ(desk.OnDisk("General", "UseNetwork"), "True");
+  EXPECT_EQ(ListFolders(s.LibraryPath), (std::vector<std::string>{"Amateurs", "Models"}));
+
+  desk.folder.Put("file", "");
+  desk.host.answers = {true};
+  desk.host.folders = {desk.folder.Path("file/below")};
+  EXPECT_FALSE(SwitchNetworkOn(desk.host, s));
+  EXPECT_EQ(desk.host.messages.size(), 1u);
+  EXPECT_EQ(s.LibraryPath, desk.folder.Path("server")) << "a refused folder leaves the present one";
+
+  SwitchNetworkOff(s);
+  EXPECT_EQ(desk.OnDisk("General", "LibraryPath"), local);
+  EXPECT_EQ(desk.OnDisk("General", "UseNetwork"), "False");
+}
+
+TEST(MenuPicture, AMissingPictureIsReportedOnce) {
+  Desk desk;
+  Settings& s = desk.settings;
+  s.Set(s.BackgroundPic, "/gone/course.jpg");
+  EXPECT_EQ(CheckBackground(desk.host, s), "") << "not even the default is there";
+  ASSERT_EQ(desk.host.messages.size(), 1u);
+  EXPECT_EQ(desk.host.messages[0],
+            "Unable to locate the background picture named /gone/course.jpg. The default picture will be reset.");
+  EXPECT_EQ(desk.OnDisk("General", "BackgroundPic"), DefaultBackground(s));
+  CheckBackground(desk.host, s);
+  EXPECT_EQ(desk.host.messages.size(), 1u);
+
+  const std::string picture = desk.folder.Put("mine.jpg", "x");
+  desk.host.files = {std::nullopt, picture};
+  EXPECT_FALSE(ChooseBackground(desk.host, s));
+  EXPECT_TRUE(ChooseBackground(desk.host, s));
+  EXPECT_EQ(CheckBackground(desk.host, s), picture);
+  EXPECT_EQ(desk.OnDisk("General", "BackgroundPic"), picture);
+}
+
+TEST(MenuPicture, TheHeadingGoesRoundTenPlaces) {
+  Desk desk;
+  std::vector<std::pair<double, double>> places;
+  for (int i = 0; i < 10; ++i) {
+    const CaptionPlace place = PlaceOfCaption(desk.settings.CaptionPosition);
+    places.emplace_back(place.across, place.down);
+    NextCaptionPosition(desk.settings);
+  }
+  EXPECT_EQ(desk.settings.CaptionPosition, 1);
+  EXPECT_EQ(desk.OnDisk("General", "CaptionPosition"), "1");
+  std::sort(places.begin(), places.end());
+  EXPECT_EQ(std::unique(places.begin(), places.end()), places.end());
+  EXPECT_EQ(places.front(), std::pair(0.0, 0.0));
+  EXPECT_EQ(places.back(), std::pair(1.0, 1.0));
+  EXPECT_EQ(PlaceOfCaption(99).across, 0);
+}
+
+}  // namespace
+}  // namespace kinalyx::test

@@ -1,0 +1,109 @@
+#include "platform/files/FileStore.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <sys/stat.h>
+
+#include "support/TempFolder.h"
+
+namespace kinalyx::test {
+namespace {
+
+/// The real disk, on which one chosen call fails. Writes take at most a few bytes at a time, as a disk may.
+class FailingDisk final : public IDisk {
+ public:
+  int failAt = 0;  ///< number of the call that fails, from 1; 0 none
+  int calls = 0;
+  bool renamed = false;
+
+  int Open(const std::string& path) override { return Fails() ? -1 : RealDisk().Open(path); }
+  long Write(int file, const void* bytes, std::size_t count) override {
+    return Fails() ? -1 : RealDisk().Write(file, bytes, std::min<std::size_t>(count, 4));
+  }
+  int Flush(int file) override { return Fails() ? -1 : RealDisk().Flush(file); }
+  int Close(int file) override {
+    const int result = RealDisk().Close(file);  // a failing close still gives the handle back
+    return Fails() ? -1 : result;
+  }
+  int Rename(const std::string& from, const std::string& to) override {
+    if (Fails()) return -1;
+    renamed = true;
+    return RealDisk().Rename(from, to);
+  }
+  int FlushFolder(const std::string& folder) override { return Fails() ? -1 : RealDisk().FlushFolder(folder); }
+  int Remove(const std::string& path) override { return RealDisk().Remove(path); }
+
+ private:
+  bool Fails() {
+    if (++calls != failAt) return false;
+    errno = ENOSPC;
+    return true;
+  }
+};
+
+TEST(FileStore, EachFailureLeavesTheOldFileOrTheNewOne) {
+  int last = 0;
+  for (int failAt = 1;; ++failAt) {
+    TempFolder folder;
+    const std::string path = folder.Put("profile.prf", "the old bytes");
+    FailingDisk disk;
+    disk.failAt = failAt;
+    std::string error;
+    const bool saved = WriteWholeFile(path, std::string_view("the new bytes"), &error, disk);
+    EXPECT_EQ(saved, disk.renamed) << "call " << failAt;
+    EXPECT_EQ(folder.Get("profile.prf"), saved ? "the new bytes" : "the old bytes") << "call " << failAt;
+    EXPECT_EQ(error.empty(), saved);
+    EXPECT_EQ(folder.FileCount(), 1u) << "call " << failAt;
+    if (disk.calls < failAt) break;
+    last = failAt;
+  }
+  EXPECT_EQ(last, 9);  // open, four writes, flush, close, rename, flush of the folder
+}
+
+TEST(FileStore, TreatsOddTargetsAsAnEditorWould) {
+  TempFolder folder;
+  std::string error;
+
+  const std::string kept = folder.Put("read-only", "kept");
+  ::chmod(kept.c_str(), 0444);
+  EXPECT_FALSE(WriteWholeFile(kept, std::string_view("new"), &error));
+  EXPECT_FALSE(error.empty());
+  EXPECT_EQ(folder.Get("read-only"), "kept");
+
+  const std::string secret = folder.Put("private", "old");
+  ::chmod(secret.c_str(), 0600);
+  EXPECT_TRUE(WriteWholeFile(secret, std::string_view("new")));
+  struct stat info {};
+  ::stat(secret.c_str(), &info);
+  EXPECT_EQ(info.st_mode & 0777, 0600u);
+
+  std::filesystem::create_directory(folder.Path("sub"));
+  folder.Put("sub/target", "old");
+  std::filesystem::create_symlink("sub/target", folder.Path("link"));
+  EXPECT_TRUE(WriteWholeFile(folder.Path("link"), std::string_view("through the link")));
+  EXPECT_TRUE(std::filesystem::is_symlink(folder.Path("link")));
+  EXPECT_EQ(folder.Get("sub/target"), "through the link");
+
+  EXPECT_FALSE(WriteWholeFile(folder.Path("sub"), std::string_view("x"), &error));
+  EXPECT_FALSE(WriteWholeFile(folder.Path("none/file"), std::string_view("x"), &error));
+  EXPECT_TRUE(WriteWholeFile(folder.Path(std::string(250, 'n')), std::string_view("long name")));
+  EXPECT_TRUE(WriteWholeFile(folder.Path("empty"), std::string_view()));
+  EXPECT_EQ(std::filesystem::file_size(folder.Path("empty")), 0u);
+}
+
+TEST(FileStore, ReadsOnlyOrdinaryFilesOfBearableSize) {
+  TempFolder folder;
+  folder.Put("ten", "0123456789");
+  EXPECT_EQ(ReadWholeFile(folder.Path("ten"))->size(), 10u);
+  EXPECT_TRUE(ReadWholeFile(folder.Path("ten"), 10));
+  EXPECT_FALSE(ReadWholeFile(folder.Path("ten"), 9));
+  EXPECT_FALSE(ReadWholeFile(folder.Path("none")));
+  EXPECT_FALSE(ReadWholeFile(folder.Path()));
+  ASSERT_EQ(::mkfifo(folder.Path("pipe").c_str(), 0600), 0);
+  EXPECT_FALSE(ReadWholeFile(folder.Path("pipe"))) << "must neither wait nor read";
+  folder.Put("old", "Gr\xFC\xDF" "e");
+  EXPECT_EQ(ReadTextFile(folder.Path("old")), "Gr\xC3\xBC\xC3\x9F" "e");
+}
+
+}  // namespace
+}  // namespace kinalyx::test

@@ -1,0 +1,135 @@
+#include "platform/files/IniFile.h"
+
+#include "support/TempFolder.h"
+
+namespace kinalyx::test {
+namespace {
+
+TEST(IniFile, ReadsAsTheUserWroteIt) {
+  TempFolder folder;
+  const std::string path = folder.Put("a.ini",
+                                      "Lost=outside\r\n"
+                                      "; Name=in a comment\r\n"
+                                      "[ General ]\r\n"
+                                      "  User Name = Erica = Sample \r\n"
+                                      "Empty=\r\n"
+                                      "Quoted=\"as it stands\"\r\n"
+                                      "no key here\r\n"
+                                      "[other]\r\n"
+                                      "Empty=other\r\n"
+                                      "[GENERAL]\r\n"
+                                      "Late=second part of the section\r\n");
+  EXPECT_EQ(ReadProfileValue("general", "USER name", path), "Erica = Sample");
+  EXPECT_EQ(ReadProfileValue("General", "Empty", path), "");
+  EXPECT_EQ(ReadProfileValue("General", "Quoted", path), "\"as it stands\"");
+  EXPECT_EQ(ReadProfileValue("Other", "empty", path), "other");
+  EXPECT_EQ(ReadProfileValue("General", "Late", path), "second part of the section");
+  EXPECT_EQ(ReadProfileValue("General", "Name", path), std::nullopt);
+  EXPECT_EQ(ReadProfileValue("General", "Lost", path), std::nullopt);
+  EXPECT_EQ(ReadProfileValue("General", "no key here", path), std::nullopt);
+  EXPECT_EQ(ReadProfileValue("Missing", "Empty", path), std::nullopt);
+  EXPECT_EQ(ReadProfileValue("General", "Empty", folder.Path("none.ini")), std::nullopt);
+}
+
+TEST(IniFile, CutsByCharactersAndFallsBack) {
+  TempFolder folder;
+  const std::string umlauts = "\xC3\xA4\xC3\xB6\xC3\xBC";
+  const std::string path = folder.Put("a.ini", std::string("[A]\nWord=").append(umlauts).append("xyz\n"));
+  EXPECT_EQ(GetPrivateProfileString("A", "Word", "", 4, path), umlauts);
+  EXPECT_EQ(GetPrivateProfileString("A", "Word", "", 3, path), "\xC3\xA4\xC3\xB6");
+  EXPECT_EQ(GetPrivateProfileString("A", "Word", "", 50, path), umlauts + "xyz");
+  EXPECT_EQ(GetPrivateProfileString("A", "None", path, 6, path), path.substr(0, 5));
+  EXPECT_EQ(GetPrivateProfileString("A", "Word", "", 0, path), "");
+}
+
+TEST(IniFile, OldFilesOfAnotherEncodingBecomeUtf8) {
+  TempFolder folder;
+  const std::string path = folder.Put("old.ini", "[Profil]\nGr\xF6\xDF" "e=1,80 m\nPreis=20 \x80\n");
+  EXPECT_EQ(ReadProfileValue("Profil", "GR\xC3\x96\xC3\x9F" "E", path), "1,80 m");
+  ASSERT_TRUE(WritePrivateProfileString("Profil", "Ort", "M\xC3\xBCnchen", path));
+  EXPECT_EQ(folder.Get("old.ini"), "[Profil]\nGr\xC3\xB6\xC3\x9F" "e=1,80 m\nPreis=20 \xE2\x82\xAC\nOrt=M\xC3\xBCnchen\n");
+
+  const std::string marked = folder.Put("marked.ini", "\xEF\xBB\xBF[A]\nKey=1\n");
+  EXPECT_EQ(ReadProfileValue("A", "Key", marked), "1");
+}
+
+TEST(IniFile, WritesInPlaceAndKeepsEverythingElse) {
+  TempFolder folder;
+  const std::string before =
+      "; by hand\n"
+      "[One]\n"
+      "a=1\n"
+      "; between\n"
+      "B = 2\n"
+      "\n"
+      "strange line\n"
+      "\n"
+      "[Two]\n"
+      "c=3";
+  const std::string path = folder.Put("a.ini", before);
+  ASSERT_TRUE(WritePrivateProfileString("one", "b", "changed", path));
+  ASSERT_TRUE(WritePrivateProfileString("One", "New", "added", path));
+  ASSERT_TRUE(WritePrivateProfileString("TWO", "d", "two\r\nlines", path));
+  ASSERT_TRUE(WritePrivateProfileString("Three", "e", "", path));
+  EXPECT_EQ(folder.Get("a.ini"),
+            "; by hand\n"
+            "[One]\n"
+            "a=1\n"
+            "; between\n"
+            "b=changed\n"
+            "\n"
+            "strange line\n"
+            "New=added\n"
+            "\n"
+            "[Two]\n"
+            "c=3\n"
+            "d=two  lines\n"
+            "\n"
+            "[Three]\n"
+            "e=\n");
+  EXPECT_TRUE(DeleteProfileKey("Two", "C", path));
+  EXPECT_TRUE(DeleteProfileKey("Two", "never", path));
+  EXPECT_EQ(ReadProfileValue("Two", "c", path), std::nullopt);
+  EXPECT_EQ(folder.FileCount(), 1u) << "nothing may be left beside the file";
+}
+
+TEST(IniFile, KeepsCarriageReturnsAndMakesMissingFiles) {
+  TempFolder folder;
+  const std::string dos = folder.Put("dos.ini", "[A]\r\nx=1\r\n");
+  ASSERT_TRUE(WritePrivateProfileString("A", "y", "2", dos));
+  EXPECT_EQ(folder.Get("dos.ini"), "[A]\r\nx=1\r\ny=2\r\n");
+
+  const std::string fresh = folder.Path("fresh.ini");
+  ASSERT_TRUE(WriteProfileEntries({{"A", "x", "1"}, {"B", "y", "2"}, {"a", "z", "3"}}, fresh));
+  EXPECT_EQ(folder.Get("fresh.ini"), "[A]\nx=1\nz=3\n\n[B]\ny=2\n");
+}
+
+TEST(IniFile, RefusesWhatItCouldNotFindAgain) {
+  TempFolder folder;
+  const std::string path = folder.Put("a.ini", "[A]\nx=1\n");
+  for (const char* key : {"", "  ", "a=b", ";a", "[a", "two\nlines"})
+    EXPECT_FALSE(WritePrivateProfileString("A", key, "v", path)) << key;
+  EXPECT_FALSE(WritePrivateProfileString("A]", "k", "v", path));
+  EXPECT_FALSE(WriteProfileEntries({{"A", "x", "2"}, {"A", "", "3"}}, path));
+  EXPECT_FALSE(WritePrivateProfileString("A", "k", "v", folder.Path("no/such/folder.ini")));
+  // A file too large to be one of ours is not thrown away.
+  folder.Put("huge.ini", "");
+  std::filesystem::resize_file(folder.Path("huge.ini"), 80 << 20);
+  EXPECT_FALSE(WritePrivateProfileString("A", "k", "v", folder.Path("huge.ini")));
+  EXPECT_EQ(folder.Get("a.ini"), "[A]\nx=1\n");
+}
+
+TEST(IniFile, OneLookReadsManyKeys) {
+  TempFolder folder;
+  const std::string path = folder.Put("a.ini", "[A]\nx=1\ny=22\n");
+  const ProfileReader reader(path);
+  folder.Put("a.ini", "[A]\nx=changed\n");
+  EXPECT_TRUE(reader.Open());
+  EXPECT_EQ(reader.Value("a", "X"), "1");
+  EXPECT_EQ(reader.String("A", "y", "", 2), "2");
+  EXPECT_EQ(reader.String("A", "none", "fallback", 5), "fall");
+  EXPECT_FALSE(ProfileReader(folder.Path("none.ini")).Open());
+}
+
+}  // namespace
+}  // namespace kinalyx::test

@@ -1,0 +1,44 @@
+#include "platform/files/TextEncoding.h"
+
+namespace kinalyx::test {
+namespace {
+
+TEST(TextEncoding, EveryByteOfTheOldEncodingComesBack) {
+  std::string all;
+  for (int byte = 1; byte < 256; ++byte) all += static_cast<char>(byte);
+  const std::string text = FromWindows1252(all);
+  EXPECT_TRUE(IsValidUtf8(text));
+  EXPECT_EQ(ToWindows1252(text), all);
+  EXPECT_EQ(FromWindows1252("\x80\x9F\xFC\x81"), "\xE2\x82\xAC\xC5\xB8\xC3\xBC\xC2\x81");
+}
+
+TEST(TextEncoding, WhatDoesNotFitBecomesAQuestionMark) {
+  EXPECT_EQ(ToWindows1252("a\xC4\x8D\xE2\x86\x92\xF0\x9F\x8F\x8C" "b"), "a???b");
+  EXPECT_EQ(ToWindows1252("cut \xE2\x82"), "cut ??");
+}
+
+TEST(TextEncoding, RefusesWhatIsNoUtf8) {
+  for (const char* bad : {"\xC3", "\x80", "\xC0\x80", "\xE0\x80\x80", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xF8\x88\x80\x80\x80", "a\xFF"})
+    EXPECT_FALSE(IsValidUtf8(bad)) << bad;
+  EXPECT_TRUE(IsValidUtf8("plain, \xC3\xBC, \xE2\x82\xAC, \xF0\x9F\x8F\x8C"));
+  EXPECT_EQ(AsUtf8("\xFC"), "\xC3\xBC");
+  EXPECT_EQ(AsUtf8("\xC3\xBC"), "\xC3\xBC");
+}
+
+TEST(TextEncoding, ComparesWithoutRegardToCase) {
+  EXPECT_EQ(FoldCase("GROSSE \xC3\x84PFEL \xC5\xA0koda \xC5\xB8 \xC3\x97"), "grosse \xC3\xA4pfel \xC5\xA1koda \xC3\xBF \xC3\x97");
+  EXPECT_EQ(FoldCase("\xC5\x81\xC3\xB3" "d\xC5\xB9"), "\xC5\x82\xC3\xB3" "d\xC5\xBA");
+  EXPECT_EQ(FoldCase("raw \xFF byte"), "raw \xFF byte");
+}
+
+TEST(TextEncoding, NeverCutsACharacterInTwo) {
+  const std::string text = "a\xE2\x82\xAC" "b";
+  EXPECT_EQ(CutUtf8(text, 1), "a");
+  EXPECT_EQ(CutUtf8(text, 3), "a");
+  EXPECT_EQ(CutUtf8(text, 4), "a\xE2\x82\xAC");
+  EXPECT_EQ(CutUtf8(text, 99), text);
+  EXPECT_EQ(CutUtf8(text, 0), "");
+}
+
+}  // namespace
+}  // namespace kinalyx::test
