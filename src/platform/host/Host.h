@@ -41,7 +41,8 @@ class IHost {
   virtual std::int64_t timeGetTime() = 0;
 
   /// Calls `action` on the user-interface thread after `milliseconds` (0: at the next turn of the
-  /// event loop), again and again when `repeat`. Timers also run while a message box is open.
+  /// event loop), again and again when `repeat`. Timers also run while a message box is open, but a timer
+  /// whose own action is still running is passed over.
   virtual TimerId StartTimer(int milliseconds, bool repeat, std::function<void()> action) = 0;
   /// Unknown and finished timers are ignored; safe inside the timer's own action.
   virtual void StopTimer(TimerId timer) = 0;

@@ -6,7 +6,9 @@
 #include <QProcess>
 #include <QScreen>
 #include <QTimerEvent>
+#include <algorithm>
 #include <chrono>
+#include <cstdlib>
 #include <fstream>
 #include <map>
 
@@ -26,13 +28,17 @@ QString DialogFilter(const std::string& filter) {
 }
 
 int ProcessorMHz() {
+  // The rated speed where the kernel tells it: a resting processor runs far below.
+  std::ifstream rated("/sys/devices/system/cpu/cpu0/cpufreq/cpuinfo_max_freq");
+  if (long kilohertz = 0; rated >> kilohertz) return static_cast<int>(kilohertz / 1000);
+  int fastest = 0;
   std::ifstream info("/proc/cpuinfo");
   for (std::string line; std::getline(info, line);) {
-    if (line.rfind("cpu MHz", 0) != 0) continue;
     const auto colon = line.find(':');
-    if (colon != std::string::npos) return static_cast<int>(std::strtod(line.c_str() + colon + 1, nullptr));
+    if (line.rfind("cpu MHz", 0) != 0 || colon == std::string::npos) continue;
+    fastest = std::max(fastest, static_cast<int>(std::strtod(line.c_str() + colon + 1, nullptr)));
   }
-  return 0;
+  return fastest;
 }
 
 class QtHost final : public QObject, public IHost {
@@ -45,7 +51,7 @@ class QtHost final : public QObject, public IHost {
   TimerId StartTimer(int milliseconds, bool repeat, std::function<void()> action) override {
     const int qtId = startTimer(std::max(0, milliseconds), Qt::PreciseTimer);
     const TimerId id = ++lastTimer_;
-    timers_[id] = {qtId, repeat, std::move(action)};
+    timers_[id] = {qtId, repeat, false, std::move(action)};
     running_[qtId] = id;
     return id;
   }
@@ -63,6 +69,7 @@ class QtHost final : public QObject, public IHost {
   void Message(MessageKind kind, const std::string& title, const std::string& text) override {
     QMessageBox box(IconOf(kind), Title(title), Text(text), QMessageBox::Ok, QApplication::activeWindow());
     box.setObjectName("MessageBox");
+    box.setTextFormat(Qt::PlainText);
     box.exec();
   }
 
@@ -70,6 +77,7 @@ class QtHost final : public QObject, public IHost {
     QMessageBox box(QMessageBox::Question, Title(title), Text(text), QMessageBox::Yes | QMessageBox::No,
                     QApplication::activeWindow());
     box.setObjectName("QuestionBox");
+    box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(QMessageBox::No);
     box.setEscapeButton(QMessageBox::No);
     return box.exec() == QMessageBox::Yes;
@@ -110,16 +118,23 @@ class QtHost final : public QObject, public IHost {
     const auto running = running_.find(event->timerId());
     if (running == running_.end()) return;
     const TimerId id = running->second;
+    Entry& entry = timers_[id];
+    // An action that shows a message is still running while the message waits: without this, a repeating
+    // timer would pile up one message on the other.
+    if (entry.busy) return;
     // The action may stop its own timer or start others: hold a copy, and drop a one-shot first.
-    const auto action = timers_[id].action;
-    if (!timers_[id].repeat) StopTimer(id);
+    const auto action = entry.action;
+    entry.busy = true;
+    if (!entry.repeat) StopTimer(id);
     action();
+    if (const auto still = timers_.find(id); still != timers_.end()) still->second.busy = false;
   }
 
  private:
   struct Entry {
     int qtId = 0;
     bool repeat = false;
+    bool busy = false;  ///< its action is running
     std::function<void()> action;
   };
 

@@ -1,0 +1,125 @@
+#include "platform/host/QtHost.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "platform/files/Folders.h"
+#include "support/TempFolder.h"
+
+namespace kinalyx::test {
+namespace {
+
+class QtHostTest : public ::testing::Test {
+ protected:
+  static void SetUpTestSuite() {
+    static int argc = 1;
+    static char name[] = "test";
+    static char* argv[] = {name, nullptr};
+    application = std::make_unique<QApplication>(argc, argv);
+  }
+  static void TearDownTestSuite() { application.reset(); }
+
+  static inline std::unique_ptr<QApplication> application;
+  std::unique_ptr<IHost> host = MakeQtHost();
+
+  /// Lets events run until `done`, or for far longer than any of these tests needs.
+  template <typename Done>
+  bool Until(Done done) {
+    const auto end = host->timeGetTime() + 20000;
+    while (!done() && host->timeGetTime() < end) host->DoEvents();
+    return done();
+  }
+};
+
+TEST_F(QtHostTest, TimersRunOnceAgainOrNotAtAll) {
+  int once = 0, often = 0, stopped = 0, late = 0;
+  host->StartTimer(0, false, [&] { ++once; });
+  const auto never = host->StartTimer(0, true, [&] { ++stopped; });
+  host->StopTimer(never);
+  host->StopTimer(never);
+  host->StopTimer(12345);
+  IHost::TimerId self = 0;
+  self = host->StartTimer(1, true, [&] {
+    if (++often < 3) return;
+    host->StopTimer(self);
+    host->StartTimer(0, false, [&] { ++late; });
+  });
+  ASSERT_TRUE(Until([&] { return late == 1; }));
+  EXPECT_EQ(once, 1);
+  EXPECT_EQ(often, 3);
+  EXPECT_EQ(stopped, 0);
+
+  int scoped = 0;
+  {
+    HostTimer timer(*host, 0, true, [&] { ++scoped; });
+    HostTimer moved = std::move(timer);
+    EXPECT_FALSE(timer.Running());
+    ASSERT_TRUE(Until([&] { return scoped > 0; }));
+  }
+  const int seen = scoped;
+  bool done = false;
+  host->StartTimer(5, false, [&] { done = true; });
+  ASSERT_TRUE(Until([&] { return done; }));
+  EXPECT_EQ(scoped, seen);
+}
+
+TEST_F(QtHostTest, MessagesWaitWhileTimersGoOn) {
+  int boxes = 0, beats = 0;
+  QString text;
+  const HostTimer beat(*host, 1, true, [&] {
+    ++beats;
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (box && beats > 3) {
+      text = box->text();
+      box->button(QMessageBox::Ok)->click();
+    }
+  });
+  // Its action is inside the message until that is answered: it must not open another one meanwhile.
+  IHost::TimerId asking = 0;
+  asking = host->StartTimer(1, true, [&] {
+    ++boxes;
+    host->Message(MessageKind::Warning, "", "Tom <b>Sample</b> & son");
+    host->StopTimer(asking);
+  });
+  ASSERT_TRUE(Until([&] { return !text.isEmpty() && !QApplication::activeModalWidget(); }));
+  EXPECT_EQ(boxes, 1);
+  EXPECT_EQ(text, "Tom <b>Sample</b> & son");
+}
+
+TEST_F(QtHostTest, QuestionsAreAnsweredWithYesOrElseNo) {
+  const auto answer = [&](QMessageBox::StandardButton button) {
+    const HostTimer click(*host, 1, true, [&] {
+      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      if (!box) return;
+      if (button == QMessageBox::NoButton) {
+        box->close();
+      } else {
+        box->button(button)->click();
+      }
+    });
+    return host->Question("Delete", "Really?");
+  };
+  EXPECT_TRUE(answer(QMessageBox::Yes));
+  EXPECT_FALSE(answer(QMessageBox::No));
+  EXPECT_FALSE(answer(QMessageBox::NoButton)) << "closing the box is no";
+}
+
+TEST_F(QtHostTest, ProgramsAreStartedWithTheirArguments) {
+  TempFolder folder;
+  const std::string mark = folder.Path("made by the child");
+  EXPECT_TRUE(host->StartDetached("/bin/sh", {"-c", "echo done > \"$0\"", mark}));
+  EXPECT_TRUE(Until([&] { return FileExists(mark); }));
+  EXPECT_FALSE(host->StartDetached(folder.Path("no such program"), {}));
+}
+
+TEST_F(QtHostTest, TellsOfTheMachine) {
+  const SystemInfo info = host->System();
+  EXPECT_GT(info.screenWidth, 0);
+  EXPECT_GT(info.screenHeight, 0);
+  EXPECT_GE(info.bitsPerPixel, 16);
+  EXPECT_GT(info.ramKilobytes, 100000);
+}
+
+}  // namespace
+}  // namespace kinalyx::test
