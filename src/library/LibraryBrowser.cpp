@@ -1,0 +1,143 @@
+#include "library/LibraryBrowser.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/files/Folders.h"
+
+namespace kinalyx {
+
+namespace {
+
+int RowOf(const std::vector<std::string>& names, std::string_view name) {
+  const auto found = std::ranges::find(names, name);
+  return found == names.end() ? -1 : static_cast<int>(found - names.begin());
+}
+
+std::string At(const std::vector<std::string>& names, int row) {
+  return row < 0 ? std::string() : names[static_cast<std::size_t>(row)];
+}
+
+int Checked(const std::vector<std::string>& names, int row) {
+  return row >= 0 && row < static_cast<int>(names.size()) ? row : -1;
+}
+
+}  // namespace
+
+LibraryBrowser::LibraryBrowser(const Settings& settings, LastStudentInfo& remembered, Kind kind)
+    : tree_(settings), LastStudent_(remembered), kind_(kind) {}
+
+void LibraryBrowser::CapfolderSetup(bool keepInstructor) {
+  const std::string wanted = keepInstructor && instructor_ >= 0 ? Instructor() : LastStudent_[0];
+  instructors_ = tree_.Instructors();
+  // A remembered instructor whose folder has gone gives way to the library itself.
+  InstructorList_Click(std::max(0, RowOf(instructors_, wanted)));
+}
+
+void LibraryBrowser::Refresh() {
+  const std::string instructor = Instructor();
+  const std::string student = Student();
+  const std::string video = Video();
+  instructors_ = tree_.Instructors();
+  instructor_ = std::max(0, RowOf(instructors_, instructor));
+  Folderbox_Change();
+  student_ = RowOf(students_, student);
+  ReadVideos();
+  if (const int row = RowOf(videos_, video); row >= 0) video_ = row;
+  Remember();
+}
+
+void LibraryBrowser::InstructorList_Click(int row) {
+  instructor_ = Checked(instructors_, row);
+  Folderbox_Change();
+  if (IsGeneralFolder()) {
+    LastStudent_[0].clear();
+    LastStudent_[1].clear();
+  }
+  StudentList_Click(LastStudent_[1].empty() ? -1 : RowOf(students_, LastStudent_[1]));
+}
+
+void LibraryBrowser::StudentList_Click(int row) {
+  student_ = Checked(students_, row);
+  ReadVideos();
+  Remember();
+}
+
+void LibraryBrowser::VideoList_Click(int row) { video_ = Checked(videos_, row); }
+
+bool LibraryBrowser::SelectInstructor(std::string_view name) {
+  const int row = RowOf(instructors_, name);
+  if (row >= 0) InstructorList_Click(row);
+  return row >= 0;
+}
+
+bool LibraryBrowser::SelectStudent(std::string_view name) {
+  const int row = RowOf(students_, name);
+  if (row >= 0) StudentList_Click(row);
+  return row >= 0;
+}
+
+bool LibraryBrowser::SelectVideo(std::string_view name) {
+  const int row = RowOf(videos_, name);
+  if (row >= 0) VideoList_Click(row);
+  return row >= 0;
+}
+
+bool LibraryBrowser::IsQuickLaunch() const { return Instructor() == kQuickLaunch; }
+
+std::string LibraryBrowser::Instructor() const { return At(instructors_, instructor_); }
+std::string LibraryBrowser::Student() const { return At(students_, student_); }
+std::string LibraryBrowser::Video() const { return At(videos_, video_); }
+
+std::string LibraryBrowser::Folder() const { return tree_.StudentFolder(Instructor(), Student()); }
+
+std::string LibraryBrowser::VideoPath() const { return VideoPathAt(video_); }
+
+std::string LibraryBrowser::VideoPathAt(int row) const {
+  row = Checked(files_, row);
+  return row < 0 ? std::string() : JoinPath(Folder(), files_[static_cast<std::size_t>(row)]);
+}
+
+void LibraryBrowser::Folderbox_Change() {
+  student_ = -1;
+  students_ = tree_.Students(Instructor());
+}
+
+void LibraryBrowser::ReadVideos() {
+  files_ = tree_.VideoFiles(Instructor(), Student());
+  videos_.clear();
+  videos_.reserve(files_.size());
+  for (const std::string& file : files_) videos_.push_back(VideoName(file));
+  video_ = videos_.empty() ? -1 : 0;
+}
+
+void LibraryBrowser::Remember() {
+  if (!HasStudent()) return;
+  const std::string student = Student();
+  if (student == kProfessionals || (kind_ == Kind::OpenVideo && student == kModelSwings)) return;
+  LastStudent_ = {Instructor(), student, Folder()};
+}
+
+std::vector<std::string> ShortGameFamily(const std::string& folder, std::string_view videoName) {
+  struct Family {
+    std::string_view word;
+    std::vector<std::string_view> files;
+  };
+  static const Family kFamilies[] = {
+      {"Distance", {"Distance Wedge Day 1.avi", "Distance Wedge Day 3.avi"}},
+      {"Chip", {"Chip Shot Day 1.avi"}},
+      {"Bunker", {"Bunker Shot Day 1.avi", "Bunker Shot Day 3.avi"}},
+      {"Putting", {"Putting Face On.avi", "Putting Down The Line.avi"}},
+  };
+  const auto family = std::ranges::find_if(
+      kFamilies, [&](const Family& one) { return videoName.find(one.word) != std::string_view::npos; });
+  if (family == std::end(kFamilies)) return {};
+  const std::vector<std::string> present = ListFiles(folder, ".avi");
+  std::vector<std::string> paths;
+  for (const std::string_view file : family->files) {
+    if (std::ranges::find(present, file) != present.end()) paths.push_back(JoinPath(folder, file));
+  }
+  return paths;
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,57 @@
+#include "library/LibraryTree.h"
+
+#include <algorithm>
+
+#include "core/Settings.h"
+#include "platform/files/Folders.h"
+
+namespace kinalyx {
+
+bool IsValidName(std::string_view text) {
+  constexpr std::string_view kForbidden = "\\/:*?\"<>|!@#$%^&+={}[]~`;'";
+  if (text.empty() || text.front() == '.') return false;
+  return std::ranges::none_of(text, [&](char c) {
+    return kForbidden.find(c) != std::string_view::npos || static_cast<unsigned char>(c) < ' ' || c == '\x7F';
+  });
+}
+
+bool IsBlank(std::string_view text) {
+  return std::ranges::all_of(text, [](char c) { return c == ' '; });
+}
+
+const std::string& LibraryTree::Root() const { return settings_.LibraryPath; }
+
+std::vector<std::string> LibraryTree::Instructors() const {
+  std::vector<std::string> names = ListFolders(Root());
+  names.insert(names.begin(), std::string(kGeneralFolder));
+  return names;
+}
+
+std::vector<std::string> LibraryTree::Students(std::string_view instructor) const {
+  if (instructor.empty() || instructor == kGeneralFolder) return {};
+  return ListFolders(InstructorFolder(instructor));
+}
+
+std::vector<std::string> LibraryTree::VideoFiles(std::string_view instructor, std::string_view student) const {
+  if (instructor.empty()) return {};
+  return ListFiles(StudentFolder(instructor, student), ".avi");
+}
+
+std::string LibraryTree::InstructorFolder(std::string_view instructor) const {
+  if (instructor.empty() || instructor == kGeneralFolder) return Root();
+  return JoinPath(Root(), instructor);
+}
+
+std::string LibraryTree::StudentFolder(std::string_view instructor, std::string_view student) const {
+  const std::string folder = InstructorFolder(instructor);
+  if (student.empty() || instructor == kGeneralFolder) return folder;
+  return JoinPath(folder, student);
+}
+
+std::string LibraryTree::QuickLaunchFolder() const { return JoinPath(Root(), kQuickLaunch); }
+
+std::string VideoName(std::string_view file) {
+  return std::string(file.substr(0, file.size() > 4 ? file.size() - 4 : 0));
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kinalyx {
+
+class Settings;
+
+/// The library is a folder tree and nothing else: instructors (or databases) under the root, students
+/// under an instructor, videos in a student's folder. Every list is read from the disk when it is shown.
+
+inline constexpr std::string_view kGeneralFolder = "General Folder";  ///< no folder: the root itself
+inline constexpr std::string_view kQuickLaunch = "Quick Launch";      ///< videos lie directly in it
+inline constexpr std::string_view kProfessionals = "Professionals";
+inline constexpr std::string_view kModelSwings = "Model Swings";
+inline constexpr std::string_view kConvertedVideos = "Converted Videos";
+inline constexpr std::string_view kLessons = "lessons";
+
+/// The one rule for names of folders and videos: not empty, and none of \ / : * ? " < > | ! @ # $ % ^ & +
+/// = { } [ ] ~ ` ; ' in it. Refused too are control characters and a dot at the beginning, which would
+/// hide the folder from every list. A name of blanks passes; see IsBlank.
+bool IsValidName(std::string_view text);
+/// True for text of nothing but blanks, and for the empty text.
+bool IsBlank(std::string_view text);
+
+/// The selection that one list remembers for another: instructor, student, and the folder at that time.
+using LastStudentInfo = std::array<std::string, 3>;
+
+/// Answers where things lie in the library of the settings.
+class LibraryTree {
+ public:
+  explicit LibraryTree(const Settings& settings) : settings_(settings) {}
+
+  const std::string& Root() const;
+  /// "General Folder", then the folders under the root.
+  std::vector<std::string> Instructors() const;
+  /// None for "General Folder".
+  std::vector<std::string> Students(std::string_view instructor) const;
+  /// File names with their extension (.avi in either case). Without a student those that lie directly
+  /// in the instructor's folder, or in the root for "General Folder".
+  std::vector<std::string> VideoFiles(std::string_view instructor, std::string_view student) const;
+
+  std::string InstructorFolder(std::string_view instructor) const;
+  std::string StudentFolder(std::string_view instructor, std::string_view student) const;
+  /// Where "Quick Launch" keeps its videos; the folder is made by the first copy to it.
+  std::string QuickLaunchFolder() const;
+
+ private:
+  const Settings& settings_;
+};
+
+/// A file name as the lists show it: without its last four characters.
+std::string VideoName(std::string_view file);
+
+}  // namespace kinalyx

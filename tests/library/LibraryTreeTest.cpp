@@ -1,0 +1,185 @@
+#include "library/LibraryTree.h"
+
+#include "library/LibraryBrowser.h"
+#include "library/TodayText.h"
+#include "library/VideoStats.h"
+#include "library/TempLibrary.h"
+
+namespace kinalyx {
+namespace {
+
+using test::TempLibrary;
+using Names = std::vector<std::string>;
+
+TEST(IsValidName, TakesWhatAFolderOnEveryMachineCanHave) {
+  for (const char* name : {"Smith, Jr.", "a.b", "Müller-Lüdenscheid", "(001) DTL driver", "x_1 2", "   "})
+    EXPECT_TRUE(IsValidName(name)) << name;
+  for (const char* name : {"", "O'Brien", "A&B", "50%", "../x", "a\tb", ".hidden", ".."}) EXPECT_FALSE(IsValidName(name)) << name;
+  for (const char forbidden : std::string("\\/:*?\"<>|!@#$%^&+={}[]~`;'"))
+    EXPECT_FALSE(IsValidName(std::string("a") + forbidden)) << forbidden;
+  EXPECT_TRUE(IsBlank("   "));
+  EXPECT_FALSE(IsBlank(" x "));
+}
+
+TEST(LibraryBrowser, ShowsEveryVideoUnderItsOwnFolderOnly) {
+  TempLibrary library;
+  library.File("loose.avi");
+  library.File("notes.txt");
+  library.File("Demo/stray.avi");
+  library.File("Demo/Sample, Erica/a.b.avi");
+  library.File("Demo/Sample, Erica/(10) FO.AVI");
+  library.File("Demo/Sample, Erica/(9) FO.avi");
+  library.File("Demo/Sample, Erica/(9) FO.ved");
+  library.File("Quick Launch/fast.avi");
+  LastStudentInfo remembered;
+  LibraryBrowser browser(library.settings, remembered, LibraryBrowser::Kind::Profiles);
+
+  browser.CapfolderSetup();
+  EXPECT_EQ(browser.InstructorList(), (Names{"General Folder", "Demo", "Quick Launch"}));
+  EXPECT_TRUE(browser.IsGeneralFolder());
+  EXPECT_TRUE(browser.StudentList().empty());
+  EXPECT_EQ(browser.VideoList(), Names{"loose"});
+  EXPECT_EQ(browser.VideoPath(), library.Path("loose.avi"));
+  EXPECT_FALSE(browser.HasStudent());
+
+  browser.InstructorList_Click(1);
+  EXPECT_EQ(browser.StudentList(), Names{"Sample, Erica"});
+  EXPECT_EQ(browser.StudentIndex(), -1);
+  EXPECT_TRUE(browser.SelectStudent("Sample, Erica"));
+  EXPECT_EQ(browser.VideoList(), (Names{"(9) FO", "(10) FO", "a.b"}));
+  EXPECT_EQ(browser.VideoIndex(), 0);
+  EXPECT_TRUE(browser.SelectVideo("(10) FO"));
+  EXPECT_EQ(browser.VideoPath(), library.Path("Demo/Sample, Erica/(10) FO.AVI"));
+
+  browser.InstructorList_Click(2);
+  EXPECT_TRUE(browser.IsQuickLaunch());
+  EXPECT_EQ(browser.VideoPath(), library.Path("Quick Launch/fast.avi"));
+
+  browser.InstructorList_Click(99);
+  EXPECT_EQ(browser.VideoPath(), "");
+  EXPECT_TRUE(browser.VideoList().empty());
+}
+
+TEST(LibraryBrowser, OneListRestoresWhatAnotherChose) {
+  TempLibrary library;
+  library.File("Demo/Tom/one.avi");
+  library.Folder("Demo/Model Swings");
+  library.Folder("Demo/Professionals");
+  LastStudentInfo remembered;
+  LibraryBrowser page(library.settings, remembered, LibraryBrowser::Kind::Profiles);
+  LibraryBrowser open(library.settings, remembered, LibraryBrowser::Kind::OpenVideo);
+  page.CapfolderSetup();
+  page.SelectInstructor("Demo");
+  page.SelectStudent("Tom");
+  EXPECT_EQ(remembered, (LastStudentInfo{"Demo", "Tom", library.Path("Demo/Tom")}));
+
+  open.CapfolderSetup();
+  EXPECT_EQ(open.Student(), "Tom");
+  EXPECT_EQ(open.Video(), "one");
+  for (const char* passing : {"Professionals", "Model Swings"}) {
+    EXPECT_TRUE(open.SelectStudent(passing));
+    EXPECT_EQ(remembered[1], "Tom") << passing;
+  }
+  page.SelectStudent("Professionals");
+  EXPECT_EQ(remembered[1], "Tom");
+  page.SelectStudent("Model Swings");
+  EXPECT_EQ(remembered[1], "Model Swings");
+
+  page.SelectInstructor("General Folder");
+  EXPECT_EQ(remembered[0], "");
+  EXPECT_EQ(remembered[1], "");
+  open.CapfolderSetup();
+  EXPECT_TRUE(open.IsGeneralFolder());
+}
+
+TEST(LibraryBrowser, KeepsItsPlaceWhenTheFoldersChange) {
+  TempLibrary library;
+  library.File("Demo/Tom/one.avi");
+  library.File("Demo/Tom/two.avi");
+  LastStudentInfo remembered;
+  LibraryBrowser browser(library.settings, remembered, LibraryBrowser::Kind::Profiles);
+  browser.CapfolderSetup();
+  browser.SelectInstructor("Demo");
+  browser.SelectStudent("Tom");
+  browser.SelectVideo("two");
+
+  library.File("Anna/Bob/x.avi");
+  library.File("Demo/Tom/new.avi");
+  browser.Refresh();
+  EXPECT_EQ(browser.InstructorIndex(), 2);
+  EXPECT_EQ(browser.Video(), "two");
+
+  std::filesystem::remove(library.Path("Demo/Tom/two.avi"));
+  browser.Refresh();
+  EXPECT_EQ(browser.Video(), "new");
+  std::filesystem::remove_all(library.Path("Demo/Tom"));
+  browser.Refresh();
+  EXPECT_EQ(browser.Instructor(), "Demo");
+  EXPECT_FALSE(browser.HasStudent());
+  std::filesystem::remove_all(library.Path("Demo"));
+  browser.CapfolderSetup();
+  EXPECT_TRUE(browser.IsGeneralFolder());
+
+  // An instructor can be held while a student is added to it.
+  browser.SelectInstructor("Anna");
+  browser.CapfolderSetup(true);
+  EXPECT_EQ(browser.Instructor(), "Anna");
+}
+
+TEST(LibraryBrowser, AnUnreadableLibraryListsNothing) {
+  TempLibrary library;
+  library.settings.LibraryPath = "/nowhere/at/all";
+  LastStudentInfo remembered{"Demo", "Tom", ""};
+  LibraryBrowser browser(library.settings, remembered, LibraryBrowser::Kind::Profiles);
+  browser.CapfolderSetup();
+  EXPECT_EQ(browser.InstructorList(), Names{"General Folder"});
+  EXPECT_TRUE(browser.VideoList().empty());
+}
+
+TEST(ShortGame, OpensTheFilesOfAFamilyThatAreThere) {
+  TempLibrary library;
+  library.File("D/S/Distance Wedge Day 1.avi");
+  library.File("D/S/Distance Wedge Day 3.avi");
+  library.File("D/S/Putting Down The Line.avi");
+  library.File("D/S/Chip.avi");
+  const std::string folder = library.Path("D/S");
+  EXPECT_EQ(ShortGameFamily(folder, "Distance Wedge Day 3"),
+            (Names{folder + "/Distance Wedge Day 1.avi", folder + "/Distance Wedge Day 3.avi"}));
+  EXPECT_EQ(ShortGameFamily(folder, "Putting Face On"), Names{folder + "/Putting Down The Line.avi"});
+  EXPECT_TRUE(ShortGameFamily(folder, "Chip").empty());
+  EXPECT_TRUE(ShortGameFamily(folder, "FO driver").empty());
+}
+
+TEST(TodayText, IsAlwaysMonthFirst) {
+  using namespace std::chrono;
+  const year_month_day day = year(2025) / 3 / 9;
+  EXPECT_EQ(DateText(day, "%m/%d/%Y"), "03/09/2025");
+  EXPECT_EQ(DateText(day, "%m/%d/%y"), "03/09/25");
+  EXPECT_EQ(DateText(day, "%d.%m.%Y"), "03/09/25");
+}
+
+TEST(VideoStats, ReadsLikeASentence) {
+  VideoInfo video;
+  video.compressor = "dvsd";
+  video.width = 720;
+  video.height = 480;
+  video.rate = 30000;
+  video.scale = 1001;
+  video.frameCount = 90;
+  video.durationMs = 3003;
+  video.fileBytes = 11'534'336;
+  EXPECT_EQ(StatsOf(video, 24), (VideoStats{"dvsd", "720", "480", "29.97 FPS", "90 Frames", "3 Seconds", "11.0 MB",
+                                            "24 BPP", "No sound"}));
+  EXPECT_EQ(StatsOf({}, 0)[3], "0 FPS");
+}
+
+TEST(VideoStats, FileSizesTakeTheUnitThatReadsBest) {
+  const std::pair<std::int64_t, const char*> sizes[] = {
+      {-1, "0 bytes"},           {0, "0 bytes"},         {1023, "1023 bytes"},      {1024, "1.00 KB"},
+      {10'000, "9.77 KB"},       {10'239, "10.0 KB"},    {1'048'575, "1.00 MB"},    {1'500'000'000, "1.40 GB"},
+      {std::int64_t(1) << 40, "1.00 TB"}, {std::int64_t(1) << 52, "4096.0 TB"}};
+  for (const auto& [bytes, text] : sizes) EXPECT_EQ(FormatFileSize(bytes), text);
+}
+
+}  // namespace
+}  // namespace kinalyx
