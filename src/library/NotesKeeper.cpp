@@ -1,0 +1,46 @@
+#include "library/NotesKeeper.h"
+
+#include <iterator>
+#include <utility>
+
+#include "library/Profile.h"
+#include "platform/files/Folders.h"
+
+namespace kinalyx {
+
+namespace {
+
+/// True when a student's folder has gone although the folder above it is there: the student was
+/// deleted, and the notes go with him. When both are gone, a drive has been taken away.
+bool WasDeleted(const std::string& folder) {
+  return !dirExists(folder) && dirExists(folder.substr(0, folder.rfind('/')));
+}
+
+}  // namespace
+
+const std::string& NotesKeeper::Open(const std::string& studentFolder) {
+  folder_ = studentFolder;
+  text_.clear();
+  readable_ = true;
+  if (folder_.empty()) return text_;
+  if (const auto unsaved = unsaved_.find(folder_); unsaved != unsaved_.end()) return unsaved->second;
+  const auto notes = LoadNotes(folder_);
+  readable_ = notes.has_value();
+  text_ = notes.value_or("");
+  return text_;
+}
+
+bool NotesKeeper::Keep(std::string_view text, std::string* error) {
+  if (!folder_.empty() && readable_) {
+    std::string lines = WithLineEnds(text);
+    if (lines != text_ || unsaved_.contains(folder_)) unsaved_[folder_] = std::move(lines);
+  }
+  for (auto notes = unsaved_.begin(); notes != unsaved_.end();) {
+    const bool settled = WasDeleted(notes->first) || SaveNotes(notes->first, notes->second, error);
+    if (settled && notes->first == folder_) text_ = notes->second;
+    notes = settled ? unsaved_.erase(notes) : std::next(notes);
+  }
+  return unsaved_.empty();
+}
+
+}  // namespace kinalyx

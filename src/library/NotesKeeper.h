@@ -1,0 +1,33 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <string_view>
+
+namespace kinalyx {
+
+/// The notes of the student who is shown, from the moment at which they are read until they are safely
+/// on the disk. Notes that could not be saved are kept in memory, shown again when the student comes
+/// back, and tried again with every save.
+class NotesKeeper {
+ public:
+  /// The notes of a student's folder; "" closes. What stood open before must have been handed to Keep.
+  /// @return the text to show, lines ended by CR LF
+  const std::string& Open(const std::string& studentFolder);
+  /// False when the file is there but cannot be read: nothing may then be typed over it.
+  bool Readable() const { return readable_; }
+  const std::string& StudentFolder() const { return folder_; }
+
+  /// Stores the text of the open student when it differs from what was read. False when it, or an
+  /// earlier text of another student, could not be stored; `error` then tells why.
+  bool Keep(std::string_view text, std::string* error);
+  bool HasUnsaved() const { return !unsaved_.empty(); }
+
+ private:
+  std::string folder_;
+  std::string text_;  ///< what the file holds
+  bool readable_ = true;
+  std::map<std::string, std::string> unsaved_;  ///< by student's folder
+};
+
+}  // namespace kinalyx

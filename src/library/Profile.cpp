@@ -1,0 +1,212 @@
+#include "library/Profile.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "library/LibraryTree.h"
+#include "platform/files/FileStore.h"
+#include "platform/files/Folders.h"
+#include "platform/files/IniFile.h"
+#include "platform/files/TextEncoding.h"
+
+namespace kinalyx {
+
+namespace {
+
+constexpr const char* kFirstRunCaptions[kProfileFields] = {
+    "Name",          "Address",          "City, State, Zip", "Phone #",         "E-Mail Address",
+    "Years in Sport", "Age",             "Height",           "R/L Handed",      "Videos on File",
+    "Strengths",     "Weaknesses",       "Short term Goals", "Long term Goals", "Practice per Month",
+    "Play per Month", "Tournaments",     "Past Injuries",    "Current Injuries", "Physical Restrictions"};
+
+constexpr const char* kOldNameKeys[] = {"Student Name", "Client Name", "Golfer Name", "Bowler Name", "Patient Name"};
+
+constexpr const char* kFieldsSection = "Fields";
+constexpr const char* kProfileSection = "Profile";
+constexpr const char* kEmailKey = "E-Mail Address";
+
+std::size_t Index(int field) { return static_cast<std::size_t>(field); }
+
+/// One blank stands for an empty value, so that the key can be seen in the file.
+std::string Stored(const std::string& value) { return value.empty() ? " " : value; }
+
+std::vector<ProfileEntry> Entries(const std::string& studentFolder, const FieldTexts& captions,
+                                  const FieldTexts& values) {
+  std::vector<ProfileEntry> entries{{kProfileSection, "Name", LastName(studentFolder)}};
+  for (int field = 1; field < kProfileFields; ++field) {
+    if (captions[Index(field)].empty()) continue;
+    entries.push_back(
+        {kProfileSection, captions[Index(field)], field == kVideosOnFileField ? " " : Stored(values[Index(field)])});
+  }
+  return entries;
+}
+
+bool MakeProfile(const std::string& studentFolder, const FieldTexts& captions, const FieldTexts& values) {
+  std::vector<ProfileEntry> entries = Entries(studentFolder, captions, values);
+  entries.push_back({kProfileSection, "Start", "Notes"});
+  return WriteProfileEntries(entries, ProfilePath(studentFolder));
+}
+
+/// Brings the name to its present key and makes it that of the folder, which is the authority.
+void MendName(const std::string& studentFolder) {
+  const std::string path = ProfilePath(studentFolder);
+  const ProfileReader reader(path);
+  std::string name = reader.Value(kProfileSection, "Name").value_or("");
+  if (name.empty()) {
+    for (const char* key : kOldNameKeys) {
+      if (!reader.Value(kProfileSection, key)) continue;
+      name = reader.String(kProfileSection, key, "", kMaxFieldText + 1);
+      DeleteProfileKey(kProfileSection, key, path);
+      WritePrivateProfileString(kProfileSection, "Name", name, path);
+      break;
+    }
+  }
+  if (name != LastName(studentFolder))
+    WritePrivateProfileString(kProfileSection, "Name", LastName(studentFolder), path);
+}
+
+/// What a key of an INI file can hold: no line ends and no "=", nothing at the beginning that opens a
+/// section or a comment, no blanks around it.
+std::string AsKey(std::string_view caption) {
+  std::string key;
+  for (const char c : caption) {
+    if (c != '=') key += static_cast<unsigned char>(c) < ' ' ? ' ' : c;
+  }
+  key.erase(0, std::min(key.find_first_not_of(" [;"), key.size()));
+  key.erase(key.find_last_not_of(' ') + 1);
+  return key;
+}
+
+}  // namespace
+
+// ---------------------------------------------------------------- captions
+
+void ProfileFields::EnsureFile() {
+  if (FileExists(path_)) {
+    WritePrivateProfileString(kFieldsSection, "0", kFirstRunCaptions[0], path_);
+    return;
+  }
+  std::vector<ProfileEntry> entries;
+  for (int field = 0; field < kProfileFields; ++field)
+    entries.push_back({kFieldsSection, std::to_string(field), kFirstRunCaptions[field]});
+  WriteProfileEntries(entries, path_);
+}
+
+void ProfileFields::SetupFields() {
+  const ProfileReader reader(path_);
+  for (int field = 0; field < kProfileFields; ++field) {
+    // Without the file at all there is nothing to mend by hand: the first-run captions serve.
+    const std::string fallback = reader.Open() ? path_ : std::string(kFirstRunCaptions[field]);
+    captions_[Index(field)] = AsKey(reader.String(kFieldsSection, std::to_string(field), fallback, kMaxFieldText + 1));
+  }
+}
+
+Outcome ProfileFields::SetCaption(int field, std::string_view caption) {
+  std::string key = field == kNameField ? std::string() : AsKey(caption);
+  if (key.empty()) key = kFirstRunCaptions[field];
+  for (int other = 0; other < kProfileFields; ++other) {
+    if (other != field && FoldCase(captions_[Index(other)]) == FoldCase(key))
+      return {false, "Another field has the name \"" + key + "\" already."};
+  }
+  const bool stored = WritePrivateProfileString(kFieldsSection, std::to_string(field), key, path_);
+  SetupFields();
+  return {stored, stored ? "" : "The file " + path_ + " cannot be written."};
+}
+
+// ---------------------------------------------------------------- profiles
+
+std::string ProfilePath(const std::string& studentFolder) { return JoinPath(studentFolder, "profile.prf"); }
+
+Profile OpenProfile(const std::string& studentFolder, const FieldTexts& captions) {
+  const std::string path = ProfilePath(studentFolder);
+  if (!FileExists(path)) MakeProfile(studentFolder, captions, {});
+  MendName(studentFolder);
+  const ProfileReader reader(path);
+  Profile profile;
+  if (!reader.Open()) {
+    profile.values[kNameField] = LastName(studentFolder);
+    return profile;
+  }
+  for (int field = 0; field < kProfileFields; ++field) {
+    if (captions[Index(field)].empty()) continue;
+    profile.missing[Index(field)] = !reader.Value(kProfileSection, captions[Index(field)]);
+    profile.values[Index(field)] = reader.String(kProfileSection, captions[Index(field)], path, kMaxFieldText + 1);
+  }
+  return profile;
+}
+
+bool SaveProfile(const std::string& studentFolder, const FieldTexts& captions, const FieldTexts& values) {
+  return WriteProfileEntries(Entries(studentFolder, captions, values), ProfilePath(studentFolder));
+}
+
+std::optional<std::string> GetEmailAddress(const std::string& studentFolder) {
+  auto address = ReadProfileValue(kProfileSection, kEmailKey, ProfilePath(studentFolder));
+  if (!address || address->empty()) return std::nullopt;
+  return GetPrivateProfileString(kProfileSection, kEmailKey, "", kMaxFieldText + 1, ProfilePath(studentFolder));
+}
+
+// ---------------------------------------------------------------- notes
+
+namespace {
+
+std::string NotesPath(const std::string& studentFolder) { return JoinPath(studentFolder, "profile.txt"); }
+
+}  // namespace
+
+std::string WithLineEnds(std::string_view text) {
+  std::string lines;
+  lines.reserve(text.size() + 2);
+  while (!text.empty()) {
+    const std::size_t end = std::min(text.find_first_of("\r\n"), text.size());
+    lines.append(text.substr(0, end)).append("\r\n");
+    const std::size_t skip = text.substr(end).starts_with("\r\n") ? 2 : 1;
+    text.remove_prefix(std::min(end + skip, text.size()));
+  }
+  return lines;
+}
+
+std::optional<std::string> LoadNotes(const std::string& studentFolder) {
+  const std::string path = NotesPath(studentFolder);
+  if (!FileExists(path)) {
+    WriteWholeFile(path, std::string_view());
+    return std::string();
+  }
+  const auto text = ReadTextFile(path);
+  if (!text) return std::nullopt;
+  return WithLineEnds(*text);
+}
+
+bool SaveNotes(const std::string& studentFolder, std::string_view notes, std::string* error) {
+  const std::string path = NotesPath(studentFolder);
+  if (!notes.empty()) return WriteWholeFile(path, std::string_view(WithLineEnds(notes)), error);
+  if (KillFile(path)) return true;
+  if (error) *error = "The file " + path + " cannot be deleted.";
+  return false;
+}
+
+// ---------------------------------------------------------------- new entries
+
+Outcome AddStudent(const std::string& instructorFolder, const FieldTexts& captions, const FieldTexts& values,
+                   std::string_view noun) {
+  const std::string& name = values[kNameField];
+  const std::string person(noun);
+  if (IsBlank(name)) return {false, "You must enter a name for the new " + person + "."};
+  const std::string folder = JoinPath(instructorFolder, name);
+  if (name.find('/') == std::string::npos && dirExists(folder))
+    return {false, "The " + person + " name that you have chosen already exists on the system."};
+  if (!IsValidName(name)) return {false, "Invalid character in name."};
+  if (!MakeFolder(folder) || !MakeProfile(folder, captions, values))
+    return {false, "An error has occurred while creating the profile"};
+  return {true, "New " + person + " successfully created."};
+}
+
+Outcome AddInstructor(const std::string& root, std::string_view name) {
+  if (!IsValidName(name)) return {false, "Invalid character in Name"};
+  if (IsBlank(name)) return {false, "You must type a name!"};
+  const std::string folder = JoinPath(root, name);
+  if (name == kGeneralFolder || dirExists(folder)) return {false, std::string(name) + " already exists."};
+  if (!MakeFolder(folder)) return {false, "The folder " + folder + " cannot be made."};
+  return {true, std::string(name) + " successfully added!"};
+}
+
+}  // namespace kinalyx

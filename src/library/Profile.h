@@ -1,0 +1,88 @@
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace kinalyx {
+
+inline constexpr int kProfileFields = 20;
+inline constexpr int kNameField = 0;          ///< always "Name": the student's folder
+inline constexpr int kVideosOnFileField = 9;  ///< filled by the program
+inline constexpr int kMaxFieldText = 49;      ///< characters of a value or a caption
+
+using FieldTexts = std::array<std::string, kProfileFields>;
+
+/// What an operation tells the user.
+struct Outcome {
+  bool done = false;
+  std::string message;
+};
+
+/// The captions of the profile fields, the same for the whole workstation, kept in `fields.ini`. They are
+/// also the keys of every profile: renaming one makes its old values unreachable until it is named back.
+class ProfileFields {
+ public:
+  /// `path` is that of fields.ini.
+  explicit ProfileFields(std::string path) : path_(std::move(path)) {}
+
+  /// At start: makes the file with all first-run captions, or sets field 0 of an existing one.
+  void EnsureFile();
+  /// Reads the captions.
+  void SetupFields();
+  const FieldTexts& Captions() const { return captions_; }
+  const std::string& Caption(int field) const { return captions_[static_cast<std::size_t>(field)]; }
+  /// Renames a field and stores it. What an INI key cannot hold is left out, an empty caption gives the
+  /// first-run one back, field 0 stays "Name". Refused, with a message, when another field has the
+  /// caption already, for both would then share one value, and when the disk refuses.
+  Outcome SetCaption(int field, std::string_view caption);
+
+ private:
+  std::string path_;
+  FieldTexts captions_;
+};
+
+/// The values of one student.
+struct Profile {
+  FieldTexts values;
+  /// The key is not in the file, and `values` shows the file's path: the field was renamed after the
+  /// profile was made. An editor starts such a field empty.
+  std::array<bool, kProfileFields> missing{};
+};
+
+/// `profile.prf` of a student's folder.
+std::string ProfilePath(const std::string& studentFolder);
+
+/// Reads a profile, and mends it on the way: a folder without one gains one, the name moves to its
+/// present key from the old ones, and is that of the folder. Values are cut at 49 characters. Where
+/// nothing can be read or made, the name is all there is.
+Profile OpenProfile(const std::string& studentFolder, const FieldTexts& captions);
+
+/// Writes all values; an empty one is stored as one blank. Name and count of videos are the program's:
+/// the folder's name and a blank stand for them. False when the disk refuses.
+bool SaveProfile(const std::string& studentFolder, const FieldTexts& captions, const FieldTexts& values);
+
+/// The notes of a student, UTF-8, each line ended by CR LF. A missing file is made, empty. Nothing when
+/// there is a file that cannot be read: it must not be written over.
+std::optional<std::string> LoadNotes(const std::string& studentFolder);
+/// The lines of a text, each ended by CR LF, however they were ended before.
+std::string WithLineEnds(std::string_view text);
+/// Stores the notes; empty notes remove the file. False with the reason when the disk refuses.
+bool SaveNotes(const std::string& studentFolder, std::string_view notes, std::string* error = nullptr);
+
+/// The address in a student's profile; nothing when there is none.
+std::optional<std::string> GetEmailAddress(const std::string& studentFolder);
+
+// --- new entries
+
+/// Makes a student's folder and profile under an instructor's folder. The student's name is field 0.
+/// @param noun  `PrimaryName1`, as the messages use it
+Outcome AddStudent(const std::string& instructorFolder, const FieldTexts& captions, const FieldTexts& values,
+                   std::string_view noun);
+
+/// Makes the folder of an instructor or database under the library root.
+Outcome AddInstructor(const std::string& root, std::string_view name);
+
+}  // namespace kinalyx
