@@ -1,0 +1,279 @@
+#include "library/Sidecar.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <fstream>
+#include <limits>
+#include <optional>
+#include <vector>
+
+#include "core/Numbers.h"
+#include "core/Settings.h"
+#include "drawing/ShapeFile.h"
+#include "platform/files/TextEncoding.h"
+
+namespace kinalyx {
+
+namespace {
+
+using Bytes = std::vector<std::uint8_t>;
+
+constexpr std::size_t kReserved = 20;
+constexpr std::size_t kColourBytes = 4;
+constexpr int kLargest16 = 32767;
+
+// ---------------------------------------------------------------- reading
+
+/// Takes values off the front of a file. Past its end numbers read as zero and text as blanks.
+class Reader {
+ public:
+  /// @param padding  bytes at the end of `bytes` that do not belong to the file
+  explicit Reader(std::span<const std::uint8_t> bytes, std::size_t padding = 0) : bytes_(bytes), padding_(padding) {}
+
+  char Character() {
+    const char c = AtEnd() ? ' ' : static_cast<char>(bytes_.front());
+    Skip(1);
+    return c;
+  }
+  bool Flag(char set) { return Character() == set; }
+  void Skip(std::size_t count) { bytes_ = bytes_.subspan(std::min(count, bytes_.size())); }
+  bool AtEnd() const { return Left() == 0; }
+
+  /// 16 bits. The largest texts and windows need all of them, and nothing here is ever negative.
+  int Unsigned16() {
+    int value = 0;
+    for (int shift = 0; shift <= 8 && !AtEnd(); shift += 8) {
+      value |= bytes_.front() << shift;
+      Skip(1);
+    }
+    return value;
+  }
+
+  /// A length and as many bytes.
+  std::string Text() {
+    const auto length = static_cast<std::size_t>(Unsigned16());
+    const auto present = bytes_.first(std::min(length, Left()));
+    std::string text(present.begin(), present.end());
+    text.resize(length, ' ');
+    Skip(length);
+    return text;
+  }
+
+  Shape ShapeRecord() { return ReadShapeBody(bytes_); }
+
+  /// A record of the old layout is the present one without the colour at its end, so that what was read
+  /// as the colour belongs to what follows. Needs padding of that size behind the last record.
+  Shape OldShapeRecord(std::span<const Colour> toolColours) {
+    const auto before = bytes_;
+    Shape shape = ReadShapeBody(bytes_);
+    const std::size_t taken = before.size() - bytes_.size();
+    bytes_ = before.subspan(taken - std::min(taken, kColourBytes));
+    const auto kind = static_cast<std::size_t>(std::max<int>(shape.Kind, 0));
+    shape.Colour = kind < toolColours.size() ? toolColours[kind] : Rgb(255, 255, 255);
+    return shape;
+  }
+
+ private:
+  std::size_t Left() const { return bytes_.size() - std::min(padding_, bytes_.size()); }
+
+  std::span<const std::uint8_t> bytes_;
+  std::size_t padding_;
+};
+
+bool IsCompressor(const VideoInfo& video, std::string_view name) { return FoldCase(video.compressor) == FoldCase(name); }
+
+/// How the fields of a video are shown that has no sidecar to say it; nothing for most kinds.
+struct FieldOptions {
+  bool ReverseFields = false;
+  bool SplitFields = false;
+};
+std::optional<FieldOptions> DefaultFields(const VideoInfo& video) {
+  const bool dvSize = video.width == 720 && (video.height == 480 || video.height == 576);
+  if (IsCompressor(video, "dvsd") && dvSize) return FieldOptions{true, true};
+  const bool fast = video.scale > 0 && video.rate >= 32 * video.scale;
+  if (IsCompressor(video, "IV50") && video.height == 480 && fast) return FieldOptions{false, true};
+  return std::nullopt;
+}
+
+/// Windows are measured in twips in the file.
+int PixelsOfTwips(int twips) { return (twips + kTwipsPerPixel / 2) / kTwipsPerPixel; }
+
+template <typename Read>
+void ReadShapes(Reader& reader, SlotData& data, Read readRecord) {
+  data.PictureWidth = PixelsOfTwips(reader.Unsigned16());
+  data.PictureHeight = PixelsOfTwips(reader.Unsigned16());
+  const int count = std::min(reader.Unsigned16(), kLargest16);
+  data.NextShape = reader.Unsigned16();
+  for (int i = 0; i < count && !reader.AtEnd(); ++i) data.Shapes.Shapes.push_back(readRecord());
+  data.Shapes.NumShapes = static_cast<std::int16_t>(data.Shapes.Shapes.size());
+}
+
+SlotData ReadPresentFormat(Reader& reader) {
+  SlotData data;
+  data.Wide = reader.Flag('W');
+  data.ReverseFields = reader.Flag('R');
+  data.SplitFields = reader.Flag('S');
+  const bool shapes = reader.Flag('S');
+  const bool notes = reader.Flag('N');
+  const bool value = reader.Flag('C');
+  const bool rate = reader.Flag('F');
+  reader.Skip(kReserved);
+  if (shapes) ReadShapes(reader, data, [&] { return reader.ShapeRecord(); });
+  if (notes) data.Notes = FromWindows1252(reader.Text());
+  if (value) data.CValue = static_cast<float>(ReadNumber(reader.Text()));
+  if (rate) data.RealFrameRate = ReadInt32(reader.Text());
+  return data;
+}
+
+SlotData ReadOldFormat(Reader& reader, const VideoInfo& video, std::span<const Colour> toolColours) {
+  SlotData data;
+  const bool reverse = reader.Flag('R');
+  const bool split = reader.Flag('X');
+  const FieldOptions fields = DefaultFields(video).value_or(FieldOptions{reverse, split});
+  data.ReverseFields = fields.ReverseFields;
+  data.SplitFields = fields.SplitFields;
+  const bool shapes = reader.Flag('S');
+  const bool notes = reader.Flag('N');
+  if (shapes) ReadShapes(reader, data, [&] { return reader.OldShapeRecord(toolColours); });
+  if (notes) data.Notes = FromWindows1252(reader.Text());
+  return data;
+}
+
+// ---------------------------------------------------------------- writing
+
+void Put16(Bytes& bytes, int value) {
+  bytes.push_back(static_cast<std::uint8_t>(value & 0xFF));
+  bytes.push_back(static_cast<std::uint8_t>((value >> 8) & 0xFF));
+}
+
+void PutText(Bytes& bytes, std::string_view text) {
+  Put16(bytes, static_cast<int>(text.size()));
+  bytes.insert(bytes.end(), text.begin(), text.end());
+}
+
+Bytes Head(bool wide, bool reverseFields, bool splitFields) {
+  return {'1', static_cast<std::uint8_t>(wide ? 'W' : 'X'), static_cast<std::uint8_t>(reverseFields ? 'R' : 'X'),
+          static_cast<std::uint8_t>(splitFields ? 'S' : 'X')};
+}
+
+void PutShapes(Bytes& bytes, const SlotData& data) {
+  ShapeList stretched;
+  const ShapeList* list = &data.Shapes;
+  int width = data.PictureWidth * kTwipsPerPixel;
+  int height = data.PictureHeight * kTwipsPerPixel;
+  // Other programs read the sizes as signed numbers. Drawings of a window too large for that are stored
+  // as those of a smaller one.
+  if (const int larger = std::max(width, height); larger > kLargest16) {
+    const double scale = static_cast<double>(kLargest16 / kTwipsPerPixel * kTwipsPerPixel) / larger;
+    const auto smaller = [&](int pixels) { return std::max(1, static_cast<int>(std::lround(pixels * scale))); };
+    width = smaller(data.PictureWidth) * kTwipsPerPixel;
+    height = smaller(data.PictureHeight) * kTwipsPerPixel;
+    stretched = data.Shapes;
+    StretchShapes(stretched, data.PictureWidth, data.PictureHeight, width / kTwipsPerPixel, height / kTwipsPerPixel);
+    list = &stretched;
+  }
+  const auto shapes = ShapesOf(*list);
+  Put16(bytes, width);
+  Put16(bytes, height);
+  Put16(bytes, static_cast<int>(shapes.size()));
+  Put16(bytes, std::clamp(data.NextShape, 0, kLargest16));
+  for (const Shape& shape : shapes) WriteShapeBody(shape, bytes);
+}
+
+/// The bytes of the notes, as many as their length can tell of.
+std::string NotesBytes(const SlotData& data, std::string* error) {
+  std::string notes = ToWindows1252(data.Notes);
+  if (notes.size() <= kMaxNotes) return notes;
+  notes.resize(kMaxNotes);
+  if (notes.ends_with('\r')) notes.pop_back();
+  if (error) *error = fmt::format("The notes are longer than {} characters. What follows was not saved.", kMaxNotes);
+  return notes;
+}
+
+Bytes BytesOf(const SlotData& data, std::string* error) {
+  const std::string notes = NotesBytes(data, error);
+  const bool shapes = !ShapesOf(data.Shapes).empty();
+  Bytes bytes = Head(data.Wide, data.ReverseFields, data.SplitFields);
+  bytes.push_back(shapes ? 'S' : 'X');
+  bytes.push_back(notes.empty() ? 'X' : 'N');
+  bytes.push_back(data.CValue != 0 ? 'C' : 'X');
+  bytes.push_back(data.RealFrameRate != 0 ? 'F' : 'X');
+  bytes.insert(bytes.end(), kReserved, 'X');
+  if (shapes) PutShapes(bytes, data);
+  if (!notes.empty()) PutText(bytes, notes);
+  const std::string value = fmt::format("{}", data.CValue);
+  if (data.CValue != 0) PutText(bytes, value);
+  // The block of the rate has always carried the text of the other value, and files rest on it.
+  if (data.RealFrameRate != 0) PutText(bytes, value);
+  return bytes;
+}
+
+bool WriteFlags(const std::string& path, bool wide, bool reverseFields, bool splitFields) {
+  Bytes bytes = Head(wide, reverseFields, splitFields);
+  bytes.insert(bytes.end(), 4, 'X');
+  return WriteWholeFile(path, bytes);
+}
+
+}  // namespace
+
+std::string SidecarPath(std::string_view videoPath) {
+  return std::string(videoPath.substr(0, videoPath.size() - std::min<std::size_t>(3, videoPath.size()))) + "ved";
+}
+
+SlotData ReadVideoData(const std::string& path, const VideoInfo& video, std::span<const Colour> toolColours) {
+  Bytes bytes = ReadWholeFile(path).value_or(Bytes());
+  bytes.insert(bytes.end(), kColourBytes, 0);
+  Reader reader(bytes, kColourBytes);
+  switch (reader.Character()) {
+    case '1': return ReadPresentFormat(reader);
+    case 'V': {
+      SlotData data = ReadOldFormat(reader, video, toolColours);
+      // When this cannot be written the old file stands, and is converted the next time.
+      WriteVideoData(path, data);
+      return data;
+    }
+    default: break;
+  }
+  SlotData data;
+  const FieldOptions fields = DefaultFields(video).value_or(FieldOptions{});
+  data.ReverseFields = fields.ReverseFields;
+  data.SplitFields = fields.SplitFields;
+  return data;
+}
+
+bool WriteVideoData(const std::string& path, const SlotData& data, std::string* error, IDisk& disk) {
+  if (error) error->clear();
+  std::string notice;
+  const Bytes bytes = BytesOf(data, &notice);
+  if (!WriteWholeFile(path, bytes, error, disk)) return false;
+  if (error) *error = notice;
+  return true;
+}
+
+bool WriteCaptureVideoData(const std::string& path, bool fromCamera, bool wide, const Settings& settings) {
+  return fromCamera ? WriteFlags(path, wide, settings.ReverseFields, settings.SplitFields)
+                    : WriteFlags(path, wide, settings.HDReverseFields, settings.HDSplitFields);
+}
+
+bool WriteImportedVideoData(const std::string& path, const VideoInfo& video, bool reverseFields) {
+  const bool wide = video.height > 0 && 2 * video.width > 3 * video.height;
+  const bool dv = IsCompressor(video, "dvsd");
+  return WriteFlags(path, wide, dv || reverseFields, dv);
+}
+
+SidecarMarks ReadSidecarMarks(const std::string& path) {
+  SidecarMarks marks;
+  std::ifstream file;
+  file.rdbuf()->pubsetbuf(nullptr, 0);  // two bytes are wanted, so two are read
+  file.open(path, std::ios::binary);
+  char bytes[2];
+  file.seekg(4);
+  if (file.get(bytes[0])) marks.First = bytes[0];
+  if (file.get(bytes[1])) marks.Second = bytes[1];
+  return marks;
+}
+
+}  // namespace kinalyx

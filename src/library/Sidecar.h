@@ -1,0 +1,79 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "drawing/Shape.h"
+#include "platform/files/FileStore.h"
+#include "platform/media/VideoFile.h"
+#include "platform/paint/Geometry.h"
+
+namespace kinalyx {
+
+class Settings;
+
+/// What the analysis section knows of one video, beside the video itself: how its fields are shown, the
+/// drawings on it and the instructor's notes. It lives in the sidecar file, `X.ved` next to `X.avi`.
+struct SlotData {
+  bool Wide = false;
+  bool ReverseFields = false;
+  bool SplitFields = false;
+  std::string Notes;                 ///< UTF-8; line ends as they stand in the notes box
+  float CValue = 0;
+  std::int32_t RealFrameRate = 0;    ///< pictures per second; 0 means the rate stored in the video
+
+  /// The drawings, in pixels of a window of `PictureWidth` x `PictureHeight`. Who shows them in a window
+  /// of another size stretches them.
+  ShapeList Shapes;
+  int NextShape = 0;                 ///< the slot's running shape counter
+  int PictureWidth = 0;              ///< pixels; 0 when no shapes were stored
+  int PictureHeight = 0;             ///< pixels
+};
+
+/// Longest notes that a sidecar holds, in characters: their length is stored in 16 bits. The notes box
+/// accepts no more; WriteVideoData cuts what is longer and says so.
+inline constexpr std::size_t kMaxNotes = 65535;
+
+/// The sidecar of a video: its path with the last three characters replaced by "ved".
+std::string SidecarPath(std::string_view videoPath);
+
+/// Reads a sidecar. Never fails:
+/// - a missing, empty or foreign file gives the defaults of the video: both field options for dvsd of
+///   720 x 480 or 720 x 576, split fields alone for IV50 of height 480 at 32 pictures a second or more;
+/// - a file cut short gives what it holds, then blanks in its texts, zeros in its numbers, and no
+///   drawings past its end;
+/// - a file of the old format `V` is converted and written back in the present one.
+/// Reading never makes a file. `path` is the sidecar's.
+/// @param toolColours  colours for the drawings of an old file, by kind of shape: the settings' NewColors
+SlotData ReadVideoData(const std::string& path, const VideoInfo& video, std::span<const Colour> toolColours);
+
+/// Replaces the sidecar; the file is the old or the new one, whole, whatever happens. False when the
+/// disk refuses. `error` (may be null) gets the reason, or, with a result of true, what had to be left
+/// out (notes past kMaxNotes); else it is emptied.
+bool WriteVideoData(const std::string& path, const SlotData& data, std::string* error = nullptr,
+                    IDisk& disk = RealDisk());
+
+/// The first sidecar of a video that has just been captured or saved: 8 bytes, flags alone. The fields
+/// come from the settings for camera captures, or, without `fromCamera`, for high definition imports.
+bool WriteCaptureVideoData(const std::string& path, bool fromCamera, bool wide, const Settings& settings);
+
+/// The first sidecar of an imported video, likewise 8 bytes. Wide when width / height is above 1.5;
+/// dvsd turns both field options on, any other video takes `reverseFields` as the user chose.
+bool WriteImportedVideoData(const std::string& path, const VideoInfo& video, bool reverseFields);
+
+/// What the browsers show of a sidecar: the two flag characters of its drawings and its notes.
+struct SidecarMarks {
+  char First = ' ';
+  char Second = ' ';
+
+  bool HasDrawings() const { return First == 'S'; }
+  bool HasNotes() const { return Second == 'N'; }
+};
+
+/// Reads those two bytes and no more; blanks where there are none.
+SidecarMarks ReadSidecarMarks(const std::string& path);
+
+}  // namespace kinalyx

@@ -1,0 +1,251 @@
+#include "library/Sidecar.h"
+
+#include <array>
+
+#include "library/TempLibrary.h"
+
+namespace kinalyx {
+namespace {
+
+using test::TempLibrary;
+
+constexpr std::array<Colour, 13> kToolColours{1, 2, 3, 0x0000FF, 5, 6, 7, 8, 9, 10, 11, 12, 13};
+const std::string kReserved(20, 'X');
+
+std::string Int16(int value) { return {static_cast<char>(value & 0xFF), static_cast<char>((value >> 8) & 0xFF)}; }
+std::string Int32(int value) { return Int16(value & 0xFFFF) + Int16((value >> 16) & 0xFFFF); }
+
+/// A finished line from (1, 2) to (300, -4) as other programs store it, without its colour.
+std::string LineRecord() {
+  return Int16(2) + Int16(2) + Int16(3) + Int16(-1)                                          // counts, kind, locked
+         + Int16(1) + Int32(3) + Int32(0) + Int32(1) + Int32(2) + Int32(300) + Int32(-4) + Int32(0) + Int32(0)  // Pts
+         + Int16(0);                                                                         // SavedPts
+}
+
+Shape Line() {
+  Shape line;
+  line.NumBound = line.NumPts = 2;
+  line.Kind = kLine;
+  line.Locked = true;
+  line.Pts = {{1, 2}, {300, -4}, {0, 0}};
+  line.Colour = 0xFF;
+  return line;
+}
+
+VideoInfo Video(const char* compressor, int width, int height, int rate) {
+  VideoInfo video;
+  video.compressor = compressor;
+  video.width = width;
+  video.height = height;
+  video.rate = rate * 1000;
+  video.scale = 1000;
+  return video;
+}
+
+class SidecarTest : public ::testing::Test {
+ protected:
+  SlotData Read(const std::string& bytes, const VideoInfo& video = Video("MJPG", 640, 480, 30)) {
+    library.File("x.ved", bytes);
+    return ReadVideoData(path, video, kToolColours);
+  }
+  std::string Written(const SlotData& data) {
+    std::string error = "left from before";
+    EXPECT_TRUE(WriteVideoData(path, data, &error));
+    EXPECT_EQ(error, "");
+    return TempLibrary::Read(path);
+  }
+
+  TempLibrary library;
+  const std::string path = library.Path("x.ved");
+};
+
+TEST_F(SidecarTest, LiesBesideItsVideo) {
+  EXPECT_EQ(SidecarPath("/a/b.c/My swing.AVI"), "/a/b.c/My swing.ved");
+}
+
+TEST_F(SidecarTest, ReadsAndWritesEveryBlockByteForByte) {
+  const std::string bytes = "1WRSSNCF" + kReserved + Int16(9600) + Int16(7200) + Int16(1) + Int16(7) + LineRecord() +
+                            Int32(0xFF) + Int16(11) + "Gr\xFC\xDF" "e\r\n50\x80" "!" + Int16(4) + "29.5" + Int16(4) + "29.5";
+  const SlotData data = Read(bytes);
+  EXPECT_TRUE(data.Wide && data.ReverseFields && data.SplitFields);
+  EXPECT_EQ(data.PictureWidth, 640);
+  EXPECT_EQ(data.PictureHeight, 480);
+  EXPECT_EQ(data.NextShape, 7);
+  ASSERT_EQ(data.Shapes.NumShapes, 1);
+  EXPECT_EQ(data.Shapes.Shapes[0], Line());
+  EXPECT_EQ(data.Notes, "Grüße\r\n50€!");
+  EXPECT_EQ(data.CValue, 29.5f);
+  EXPECT_EQ(data.RealFrameRate, 30);  // the rate's block holds the other value, rounded to even
+  EXPECT_EQ(Written(data), bytes);
+}
+
+TEST_F(SidecarTest, BlocksThatAreNotThereTakeNoRoom) {
+  SlotData data;
+  EXPECT_EQ(Written(data), "1XXXXXXX" + kReserved);
+  data.Notes = "only notes";
+  EXPECT_EQ(Written(data), "1XXXXNXX" + kReserved + Int16(10) + "only notes");
+  data.Shapes.Shapes = {Line()};
+  data.Shapes.NumShapes = 1;
+  EXPECT_EQ(Written(data)[4], 'S');
+  data.Shapes.NumShapes = 0;  // the last one deleted; its stale slot stays in memory
+  EXPECT_EQ(Written(data)[4], 'X');
+  data = {};
+  data.RealFrameRate = 60;
+  EXPECT_EQ(Written(data), "1XXXXXXF" + kReserved + Int16(1) + "0");
+}
+
+TEST_F(SidecarTest, WithoutOneTheVideoDecidesHowItsFieldsAreShown) {
+  const struct {
+    VideoInfo video;
+    bool reverse, split;
+  } kinds[] = {
+      {Video("dvsd", 720, 480, 30), true, true},  {Video("DVSD", 720, 576, 25), true, true},
+      {Video("dvsd", 640, 480, 30), false, false}, {Video("IV50", 640, 480, 32), false, true},
+      {Video("IV50", 640, 480, 31), false, false}, {Video("MJPG", 720, 480, 60), false, false},
+  };
+  for (const auto& kind : kinds) {
+    for (const char* foreign : {"", "2WRS", "RIFFxxxx"}) {
+      const SlotData data = Read(foreign, kind.video);
+      EXPECT_EQ(data.ReverseFields, kind.reverse) << kind.video.compressor << foreign;
+      EXPECT_EQ(data.SplitFields, kind.split) << kind.video.compressor << foreign;
+      EXPECT_FALSE(data.Wide);
+    }
+  }
+  std::filesystem::remove(path);
+  EXPECT_TRUE(ReadVideoData(path, Video("dvsd", 720, 480, 30), kToolColours).SplitFields);
+  EXPECT_FALSE(std::filesystem::exists(path));
+}
+
+TEST_F(SidecarTest, ConvertsOldFilesOnSight) {
+  const std::string old = "VRXSN" + Int16(4800) + Int16(3600) + Int16(2) + Int16(5) + LineRecord() + LineRecord() +
+                          Int16(3) + "old";
+  const SlotData data = Read(old);
+  EXPECT_TRUE(data.ReverseFields && data.SplitFields);
+  EXPECT_EQ(data.PictureWidth, 320);
+  ASSERT_EQ(data.Shapes.NumShapes, 2);
+  EXPECT_EQ(data.Shapes.Shapes[1], Line());  // the colour is the line tool's
+  EXPECT_EQ(data.Notes, "old");
+
+  const std::string now = TempLibrary::Read(path);
+  EXPECT_EQ(now, "1XRSSNXX" + kReserved + Int16(4800) + Int16(3600) + Int16(2) + Int16(5) + LineRecord() + Int32(0xFF) +
+                     LineRecord() + Int32(0xFF) + Int16(3) + "old");
+  EXPECT_EQ(ReadVideoData(path, {}, kToolColours).Shapes, data.Shapes);
+
+  // What the picture demands goes before what the file says; the last record may end the file.
+  const SlotData dv = Read("V--SX" + Int16(0) + Int16(0) + Int16(1) + Int16(1) + LineRecord(), Video("dvsd", 720, 480, 30));
+  EXPECT_TRUE(dv.ReverseFields && dv.SplitFields);
+  EXPECT_EQ(dv.Shapes.Shapes[0], Line());
+}
+
+TEST_F(SidecarTest, AFileCutShortGivesWhatItHoldsAndNothingInvented) {
+  const std::string whole = "1XXXSNXX" + kReserved + Int16(9600) + Int16(7200) + Int16(2) + Int16(2) + LineRecord() +
+                            Int32(0xFF) + LineRecord() + Int32(0xFF) + Int16(5) + "notes";
+  for (std::size_t length = 0; length <= whole.size(); ++length) {
+    const SlotData data = Read(whole.substr(0, length));
+    EXPECT_LE(data.Shapes.NumShapes, 2);
+    for (const Shape& shape : ShapesOf(data.Shapes)) EXPECT_LE(static_cast<std::size_t>(shape.NumPts), shape.Pts.size());
+  }
+  EXPECT_EQ(Read(whole.substr(0, whole.size() - 2)).Notes, "not  ");
+  EXPECT_EQ(Read(whole.substr(0, whole.size() - 7)).Notes, "");
+  EXPECT_EQ(Read("1XXXSXXX" + kReserved + Int16(1) + Int16(1) + Int16(-1)).Shapes.NumShapes, 0);
+  const SlotData capture = Read("1WXSXXXX");
+  EXPECT_TRUE(capture.Wide && capture.SplitFields && !capture.ReverseFields);
+  EXPECT_EQ(capture.Notes, "");
+}
+
+TEST_F(SidecarTest, LongNotesAndLargeWindowsNeverBreakTheFile) {
+  SlotData data;
+  for (int i = 0; i < 8000; ++i) data.Notes += "Füße\r\n";  // 48000 characters: more than a signed length
+  data.CValue = 1.25f;
+  std::string error;
+  EXPECT_TRUE(WriteVideoData(path, data, &error));
+  EXPECT_EQ(error, "");
+  SlotData back = ReadVideoData(path, {}, kToolColours);
+  EXPECT_EQ(back.Notes, data.Notes);
+  EXPECT_EQ(back.CValue, 1.25f);
+
+  data.Notes = std::string(kMaxNotes - 1, 'x') + "\r\nlost";
+  EXPECT_TRUE(WriteVideoData(path, data, &error));
+  EXPECT_NE(error, "");
+  back = ReadVideoData(path, {}, kToolColours);
+  EXPECT_EQ(back.Notes, std::string(kMaxNotes - 1, 'x'));
+  EXPECT_EQ(back.CValue, 1.25f);
+
+  data.Shapes.Shapes = {Line()};
+  data.Shapes.Shapes[0].Pts[1] = {3839, 2159};
+  data.Shapes.NumShapes = 1;
+  data.PictureWidth = 3840;
+  data.PictureHeight = 2160;
+  EXPECT_TRUE(WriteVideoData(path, data, &error));
+  back = ReadVideoData(path, {}, kToolColours);
+  EXPECT_LE(back.PictureWidth * kTwipsPerPixel, 32767);
+  EXPECT_NEAR(back.Shapes.Shapes[0].Pts[1].x * 3840.0 / back.PictureWidth, 3839, 1);
+  EXPECT_NEAR(back.Shapes.Shapes[0].Pts[1].y * 2160.0 / back.PictureHeight, 2159, 1);
+}
+
+TEST_F(SidecarTest, ASaveThatFailsLeavesTheOldFileAndTellsWhy) {
+  class FullDisk final : public IDisk {
+   public:
+    int Open(const std::string& at) override { return RealDisk().Open(at); }
+    long Write(int, const void*, std::size_t) override {
+      errno = ENOSPC;
+      return -1;
+    }
+    int Flush(int file) override { return RealDisk().Flush(file); }
+    int Close(int file) override { return RealDisk().Close(file); }
+    int Rename(const std::string& from, const std::string& to) override { return RealDisk().Rename(from, to); }
+    int FlushFolder(const std::string& folder) override { return RealDisk().FlushFolder(folder); }
+    int Remove(const std::string& at) override { return RealDisk().Remove(at); }
+  } disk;
+  library.File("x.ved", "1WRSXXXX");
+  std::string error;
+  EXPECT_FALSE(WriteVideoData(path, {}, &error, disk));
+  EXPECT_NE(error, "");
+  EXPECT_EQ(TempLibrary::Read(path), "1WRSXXXX");
+  EXPECT_FALSE(WriteVideoData("/nowhere/x.ved", {}, &error));
+}
+
+TEST_F(SidecarTest, FirstSidecarsAreEightBytes) {
+  library.settings.ReverseFields = false;
+  library.settings.SplitFields = true;
+  library.settings.HDReverseFields = true;
+  library.settings.HDSplitFields = false;
+  EXPECT_TRUE(WriteCaptureVideoData(path, true, true, library.settings));
+  EXPECT_EQ(TempLibrary::Read(path), "1WXSXXXX");
+  EXPECT_TRUE(WriteCaptureVideoData(path, false, false, library.settings));
+  EXPECT_EQ(TempLibrary::Read(path), "1XRXXXXX");
+
+  const struct {
+    VideoInfo video;
+    bool ticked;
+    const char* bytes;
+  } imports[] = {
+      {Video("MJPG", 640, 480, 30), false, "1XXXXXXX"},
+      {Video("MJPG", 640, 480, 30), true, "1XRXXXXX"},
+      {Video("MJPG", 720, 480, 30), false, "1XXXXXXX"},  // exactly 1.5
+      {Video("H264", 1280, 720, 60), false, "1WXXXXXX"},
+      {Video("DVSD", 720, 480, 30), false, "1XRSXXXX"},
+      {VideoInfo(), false, "1XXXXXXX"},
+  };
+  for (const auto& import : imports) {
+    EXPECT_TRUE(WriteImportedVideoData(path, import.video, import.ticked));
+    EXPECT_EQ(TempLibrary::Read(path), import.bytes);
+  }
+}
+
+TEST_F(SidecarTest, BrowsersReadTheTwoMarks) {
+  const auto marks = [&](const std::string& bytes) {
+    library.File("x.ved", bytes);
+    const SidecarMarks found = ReadSidecarMarks(path);
+    return std::pair(found.HasDrawings(), found.HasNotes());
+  };
+  EXPECT_EQ(marks("1XXXSNXX"), std::pair(true, true));
+  EXPECT_EQ(marks("1XXXXNXX"), std::pair(false, true));
+  EXPECT_EQ(marks("1XXXS"), std::pair(true, false));
+  EXPECT_EQ(marks(""), std::pair(false, false));
+  std::filesystem::remove(path);
+  EXPECT_EQ(ReadSidecarMarks(path).First, ' ');
+}
+
+}  // namespace
+}  // namespace kinalyx
