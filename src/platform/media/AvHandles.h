@@ -39,6 +39,9 @@ using ScalerHandle = AvHandle<SwsContext>;
 inline FrameHandle NewFrame() { return FrameHandle(av_frame_alloc()); }
 inline PacketHandle NewPacket() { return PacketHandle(av_packet_alloc()); }
 
+/// The library prints its remarks on the console, unless it is told once that nobody reads them there.
+inline void SilenceLibrary() { av_log_set_level(AV_LOG_QUIET); }
+
 /// The library's own words for an error code.
 inline std::string AvError(int code) {
   char text[AV_ERROR_MAX_STRING_SIZE] = {};

@@ -42,11 +42,12 @@ std::string FourCC(const AVCodecParameters& codec) {
 }  // namespace
 
 std::unique_ptr<Demuxer> Demuxer::Open(const std::string& path, OpenFault& fault, std::string& message) {
+  SilenceLibrary();
   std::unique_ptr<Demuxer> demuxer(new Demuxer);
   fault = demuxer->OpenStream(path, message);
   if (fault != OpenFault::None) return nullptr;
   if (!demuxer->IndexFromContainer()) demuxer->IndexByReading();
-  if (demuxer->index_.FrameCount() < 1) {
+  if (demuxer->index_->FrameCount() < 1) {
     fault = OpenFault::NoFrames;
     message = "the video stream holds no picture";
     return nullptr;
@@ -54,7 +55,15 @@ std::unique_ptr<Demuxer> Demuxer::Open(const std::string& path, OpenFault& fault
   return demuxer;
 }
 
-OpenFault Demuxer::OpenStream(const std::string& path, std::string& message) {
+std::unique_ptr<Demuxer> Demuxer::Again() const {
+  std::unique_ptr<Demuxer> demuxer(new Demuxer);
+  std::string ignored;
+  if (demuxer->OpenStream(path_, ignored, stream_) != OpenFault::None) return nullptr;
+  demuxer->index_ = index_;
+  return demuxer->Rewind() ? std::move(demuxer) : nullptr;
+}
+
+OpenFault Demuxer::OpenStream(const std::string& path, std::string& message, const AVStream* known) {
   struct stat status {};
   if (stat(path.c_str(), &status) != 0 || access(path.c_str(), R_OK) != 0) {
     message = std::strerror(errno);
@@ -94,7 +103,7 @@ OpenFault Demuxer::OpenStream(const std::string& path, std::string& message) {
     }
     return stream_ != nullptr;
   };
-  const auto known = [&] {
+  const auto saysEnough = [&] {
     // The headers of these two containers say all that a codec without memory needs.
     if (!isAvi_ && !OneOf("mov", input_->iformat->name)) return false;
     const AVCodecDescriptor* descriptor = avcodec_descriptor_get(stream_->codecpar->codec_id);
@@ -103,7 +112,9 @@ OpenFault Demuxer::OpenStream(const std::string& path, std::string& message) {
   };
   const bool found = findStream();
   DiscardOthers();
-  if (!found || !known()) {
+  if (found && known && stream_->index == known->index) {
+    if (avcodec_parameters_copy(stream_->codecpar, known->codecpar) < 0) return OpenFault::NoMedia;
+  } else if (!found || !saysEnough()) {
     if (const int probed = avformat_find_stream_info(input_.get(), nullptr); probed < 0) message = AvError(probed);
     if (!findStream()) {
       message = "no video stream";
@@ -156,14 +167,14 @@ bool Demuxer::IndexFromContainer() {
     frames = static_cast<int>(index.Time(index.PacketCount() - 1)) + 1 + trailing;
   }
   index.Finish(frames, WaitsForKey(stream_->codecpar->codec_id));
-  index_ = std::move(index);
+  index_ = std::make_shared<PictureIndex>(std::move(index));
   if (isMov && !LastIndexedIsLast()) return false;
   return KnowsFirstPacket();
 }
 
 /// A film in fragments has an index of the first ones only: what follows shows when it is read.
 bool Demuxer::LastIndexedIsLast() {
-  const std::int64_t last = index_.Time(index_.PacketCount() - 1);
+  const std::int64_t last = index_->Time(index_->PacketCount() - 1);
   if (av_seek_frame(input_.get(), stream_->index, last, AVSEEK_FLAG_ANY) < 0) return false;
   const PacketHandle packet = NewPacket();
   bool isLast = true;
@@ -203,22 +214,23 @@ int Demuxer::CountTrailingRepeats(std::int64_t afterLast) const {
 
 void Demuxer::IndexByReading() {
   Rewind();
-  index_ = {};
+  PictureIndex index;
   const PacketHandle packet = NewPacket();
   bool timed = true;
   std::int64_t previous = 0;
-  while (index_.PacketCount() < kMostPackets && av_read_frame(input_.get(), packet.get()) >= 0) {
+  while (index.PacketCount() < kMostPackets && av_read_frame(input_.get(), packet.get()) >= 0) {
     if (packet->stream_index == stream_->index && packet->size > 0) {
       std::int64_t time = packet->dts != AV_NOPTS_VALUE ? packet->dts : packet->pts;
-      if (time == AV_NOPTS_VALUE || (index_.PacketCount() > 0 && time <= previous)) timed = false;
-      if (!timed) time = index_.PacketCount() ? previous : 0;
-      index_.Add(time, packet->flags & AV_PKT_FLAG_KEY, packet->flags & AV_PKT_FLAG_DISCARD);
-      if (isAvi_ && timed && time >= 0 && time < kMostPackets) index_.PlaceLast(static_cast<int>(time));
+      if (time == AV_NOPTS_VALUE || (index.PacketCount() > 0 && time <= previous)) timed = false;
+      if (!timed) time = index.PacketCount() ? previous : 0;
+      index.Add(time, packet->flags & AV_PKT_FLAG_KEY, packet->flags & AV_PKT_FLAG_DISCARD);
+      if (isAvi_ && timed && time >= 0 && time < kMostPackets) index.PlaceLast(static_cast<int>(time));
       previous = time;
     }
     av_packet_unref(packet.get());
   }
-  index_.Finish(0, WaitsForKey(stream_->codecpar->codec_id));
+  index.Finish(0, WaitsForKey(stream_->codecpar->codec_id));
+  index_ = std::make_shared<PictureIndex>(std::move(index));
   Rewind();
 }
 
@@ -227,7 +239,7 @@ bool Demuxer::KnowsFirstPacket() {
   bool known = false;
   while (av_read_frame(input_.get(), packet.get()) >= 0) {
     const bool ours = packet->stream_index == stream_->index;
-    if (ours) known = index_.FindPacket(packet->dts) == 0;
+    if (ours) known = index_->FindPacket(packet->dts) == 0;
     av_packet_unref(packet.get());
     if (ours) break;
   }
@@ -238,7 +250,7 @@ VideoInfo Demuxer::Describe() const {
   VideoInfo info;
   info.width = stream_->codecpar->width;
   info.height = stream_->codecpar->height;
-  info.frameCount = index_.FrameCount();
+  info.frameCount = index_->FrameCount();
   // An AVI file counts time in frames; others may show each for as long as they like.
   AVRational rate = isAvi_ ? av_inv_q(stream_->time_base) : stream_->avg_frame_rate;
   if (rate.num <= 0 || rate.den <= 0) rate = stream_->r_frame_rate;
@@ -246,52 +258,58 @@ VideoInfo Demuxer::Describe() const {
     info.rate = rate.num;
     info.scale = rate.den;
   }
-  info.durationMs = FrameTime(index_.FrameCount());
+  info.durationMs = Times().Of(index_->FrameCount(), *index_);
   info.compressor = FourCC(*stream_->codecpar);
   info.hasSound = hasSound_;
-  info.everyFrameIsKey = index_.EveryPacketIsKey();
+  info.everyFrameIsKey = index_->EveryPacketIsKey();
   info.fileBytes = fileBytes_;
   return info;
 }
 
-double Demuxer::FrameTime(int frame) const {
-  const int frames = index_.FrameCount();
+FrameTimes Demuxer::Times() const {
+  FrameTimes times;
+  times.unitMs = av_q2d(stream_->time_base) * 1000;
+  times.unitIsFrame = isAvi_;
+  const AVRational rate = stream_->avg_frame_rate.num > 0 ? stream_->avg_frame_rate : stream_->r_frame_rate;
+  if (rate.num > 0 && rate.den > 0) times.meanMs = 1000 / av_q2d(rate);
+  times.duration = stream_->duration;
+  return times;
+}
+
+double FrameTimes::Of(int frame, const PictureIndex& index) const {
+  const int frames = index.FrameCount();
   frame = std::clamp(frame, 0, frames);
-  const double unitMs = av_q2d(stream_->time_base) * 1000;
-  if (isAvi_) return frame * unitMs;
-  if (!index_.TimesGrow()) {
-    const double rate = av_q2d(stream_->avg_frame_rate.num > 0 ? stream_->avg_frame_rate : stream_->r_frame_rate);
-    return rate > 0 ? frame * 1000 / rate : 0;
-  }
+  if (unitIsFrame) return frame * unitMs;
+  if (!index.TimesGrow()) return frame * meanMs;
   // Decoding times run ahead of the times of showing by a fixed delay, and in step with them.
-  const std::int64_t first = index_.Time(index_.PacketOfOrder(0));
-  if (frame < frames) return static_cast<double>(index_.Time(index_.PacketOfOrder(frame)) - first) * unitMs;
-  const int last = index_.PacketOfOrder(frames - 1);
-  std::int64_t length = last > 0 ? index_.Time(last) - index_.Time(last - 1) : 0;
-  const int packets = index_.PacketCount();
-  if (stream_->duration > 0 && last == packets - 1) {
-    const std::int64_t all = stream_->duration - (index_.Time(last) - index_.Time(0));
+  const std::int64_t first = index.Time(index.PacketOfOrder(0));
+  if (frame < frames) return static_cast<double>(index.Time(index.PacketOfOrder(frame)) - first) * unitMs;
+  const int last = index.PacketOfOrder(frames - 1);
+  std::int64_t length = last > 0 ? index.Time(last) - index.Time(last - 1) : 0;
+  if (duration > 0 && last == index.PacketCount() - 1) {
+    const std::int64_t all = duration - (index.Time(last) - index.Time(0));
     // The last picture's own length, unless an edit of the film makes nonsense of it.
     if (all > 0 && all < 100 * std::max<std::int64_t>(length, 1)) length = all;
   }
-  return static_cast<double>(index_.Time(last) - first + length) * unitMs;
+  return static_cast<double>(index.Time(last) - first + length) * unitMs;
 }
 
 bool Demuxer::Rewind() {
   next_ = 0;
-  synced_ = !index_.TimesGrow();
-  const std::int64_t first = index_.PacketCount() > 0 ? index_.Time(0) : 0;
-  if (av_seek_frame(input_.get(), stream_->index, first, AVSEEK_FLAG_BACKWARD) >= 0 && index_.TimesGrow()) return true;
+  const bool timed = index_ && index_->TimesGrow();
+  synced_ = !timed;
+  const std::int64_t first = index_ && index_->PacketCount() > 0 ? index_->Time(0) : 0;
+  if (av_seek_frame(input_.get(), stream_->index, first, AVSEEK_FLAG_BACKWARD) >= 0 && timed) return true;
   if (avformat_seek_file(input_.get(), -1, INT64_MIN, 0, 0, AVSEEK_FLAG_BYTE) >= 0) return true;
   return avformat_seek_file(input_.get(), stream_->index, INT64_MIN, first, first, 0) >= 0;
 }
 
 bool Demuxer::Seek(int packet) {
   // Packets without a time of their own are counted from the start of the file.
-  if (!index_.TimesGrow() || packet == 0) return Rewind();
-  for (int chunk = index_.ChunkOfPacket(packet); chunk > 0; chunk /= 2) {
-    const int start = index_.ChunkStart(chunk);
-    if (av_seek_frame(input_.get(), stream_->index, index_.Time(start), AVSEEK_FLAG_BACKWARD) < 0) continue;
+  if (!index_->TimesGrow() || packet == 0) return Rewind();
+  for (int chunk = index_->ChunkOfPacket(packet); chunk > 0; chunk /= 2) {
+    const int start = index_->ChunkStart(chunk);
+    if (av_seek_frame(input_.get(), stream_->index, index_->Time(start), AVSEEK_FLAG_BACKWARD) < 0) continue;
     synced_ = false;
     next_ = start;
     return true;
@@ -300,15 +318,15 @@ bool Demuxer::Seek(int packet) {
 }
 
 int Demuxer::Read(AVPacket& packet) {
-  while (next_ < index_.PacketCount() && av_read_frame(input_.get(), &packet) >= 0) {
+  while (next_ < index_->PacketCount() && av_read_frame(input_.get(), &packet) >= 0) {
     if (packet.stream_index != stream_->index || packet.size == 0) {
       av_packet_unref(&packet);
       continue;
     }
-    if (index_.TimesGrow()) {
+    if (index_->TimesGrow()) {
       const std::int64_t time = packet.dts != AV_NOPTS_VALUE ? packet.dts : packet.pts;
-      if (!synced_ || index_.Time(next_) != time) {
-        const std::optional<int> found = index_.FindPacket(time);
+      if (!synced_ || index_->Time(next_) != time) {
+        const std::optional<int> found = index_->FindPacket(time);
         if (!found) {
           av_packet_unref(&packet);
           continue;

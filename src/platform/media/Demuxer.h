@@ -9,6 +9,17 @@
 
 namespace kinalyx {
 
+/// What the container says about when frames are shown.
+struct FrameTimes {
+  double unitMs = 0;          ///< of the times in the index
+  bool unitIsFrame = false;   ///< frames follow one another in units
+  double meanMs = 0;          ///< from frame to frame, where the packets have no times
+  std::int64_t duration = 0;  ///< units; 0 or less when it is not told
+
+  /// Milliseconds from the start of the first frame to the start of this one; the frame count gives the end.
+  double Of(int frame, const PictureIndex& index) const;
+};
+
 /// The packets of a file's first video stream, each with its number in the index. All other streams
 /// are passed over unread where the container allows it.
 class Demuxer {
@@ -16,12 +27,15 @@ class Demuxer {
   /// Opens a file and indexes it; null on a fault, which `fault` and `message` then tell.
   static std::unique_ptr<Demuxer> Open(const std::string& path, OpenFault& fault, std::string& message);
 
-  const PictureIndex& Index() const { return index_; }
+  /// A second reader of the same file, at its beginning; it shares the index and asks the file for little
+  /// else. Null when the file has gone.
+  std::unique_ptr<Demuxer> Again() const;
+
+  const PictureIndex& Index() const { return *index_; }
   const AVCodecParameters& Codec() const { return *stream_->codecpar; }
   /// What the file tells of itself; width and height as its header has them.
   VideoInfo Describe() const;
-  /// Milliseconds from the start of the first frame to the start of this one; the frame count gives the end.
-  double FrameTime(int frame) const;
+  FrameTimes Times() const;
   /// True when the container itself says when each packet's picture is shown.
   bool TellsShowTimes() const { return tellsShowTimes_; }
 
@@ -34,7 +48,8 @@ class Demuxer {
 
  private:
   Demuxer() = default;
-  OpenFault OpenStream(const std::string& path, std::string& message);
+  /// `known` is the stream as an earlier reader of the file found it; null looks for it.
+  OpenFault OpenStream(const std::string& path, std::string& message, const AVStream* known = nullptr);
   void DiscardOthers();
   bool IndexFromContainer();
   bool LastIndexedIsLast();
@@ -50,7 +65,7 @@ class Demuxer {
   bool tellsShowTimes_ = false;
   bool hasSound_ = false;
   std::int64_t fileBytes_ = 0;
-  PictureIndex index_;
+  std::shared_ptr<const PictureIndex> index_;
   int next_ = 0;
   bool synced_ = true;  ///< false after a seek, until a packet has been recognised
 };

@@ -1,0 +1,175 @@
+#include "platform/media/PictureDecoder.h"
+
+#include <algorithm>
+#include <thread>
+#include <utility>
+
+namespace kinalyx {
+namespace {
+
+constexpr int kMostThreads = 4;
+/// Packets between a picture's own and the one that pushes it out, at the utmost: it may be stored and
+/// shown sixteen places apart, and the decoder holds sixteen back.
+constexpr int kReorderLag = 32;
+
+bool Has(const AVCodecDescriptor* descriptor, int property) { return descriptor && (descriptor->props & property); }
+
+}  // namespace
+
+std::unique_ptr<PictureDecoder> PictureDecoder::Open(std::unique_ptr<Demuxer> demuxer, std::string& message) {
+  std::unique_ptr<PictureDecoder> decoder(new PictureDecoder);
+  decoder->demuxer_ = std::move(demuxer);
+  const Demuxer& source = *decoder->demuxer_;
+  decoder->order_ = std::make_unique<ShowOrder>(source.Index(), source.Codec(), source.TellsShowTimes());
+  decoder->readableEnd_ = source.Index().PictureCount();
+  if (!decoder->OpenCodec(message)) return nullptr;
+  return decoder;
+}
+
+bool PictureDecoder::OpenCodec(std::string& message) {
+  const AVCodecParameters& parameters = demuxer_->Codec();
+  const AVCodecDescriptor* descriptor = avcodec_descriptor_get(parameters.codec_id);
+  const AVCodec* codec = avcodec_find_decoder(parameters.codec_id);
+  CodecHandle context(codec ? avcodec_alloc_context3(codec) : nullptr);
+  if (!context || avcodec_parameters_to_context(context.get(), &parameters) < 0) {
+    message = "no decoder";
+    return false;
+  }
+  const bool alone = Has(descriptor, AV_CODEC_PROP_INTRA_ONLY);
+  // Pictures that stand for themselves come fast enough, and a thread would only delay them.
+  const int threads = std::clamp(static_cast<int>(std::thread::hardware_concurrency()), 1, kMostThreads);
+  context->thread_count = alone ? 1 : threads;
+  // Without a word in the stream about its order the decoder must expect the worst, or it drops pictures.
+  context->strict_std_compliance = FF_COMPLIANCE_STRICT;
+  if (const int result = avcodec_open2(context.get(), codec, nullptr); result < 0) {
+    message = AvError(result);
+    return false;
+  }
+  lag_ = Has(descriptor, AV_CODEC_PROP_REORDER) ? kReorderLag : 0;
+  if (context->active_thread_type & FF_THREAD_FRAME && context->thread_count > 1) lag_ += context->thread_count;
+  if (lag_ == 0 && codec->capabilities & AV_CODEC_CAP_DELAY) lag_ = 1;
+  codec_ = std::move(context);
+
+  if (parameters.codec_id == AV_CODEC_ID_MPEG4 && !demuxer_->TellsShowTimes()) {
+    AVBSFContext* filter = nullptr;
+    const AVBitStreamFilter* unpack = av_bsf_get_by_name("mpeg4_unpack_bframes");
+    if (unpack && av_bsf_alloc(unpack, &filter) >= 0) {
+      filter_.reset(filter);
+      if (avcodec_parameters_copy(filter->par_in, &parameters) < 0 || av_bsf_init(filter) < 0) filter_.reset();
+    }
+  }
+  return true;
+}
+
+bool PictureDecoder::Start(int chunk) {
+  running_ = false;
+  std::string ignored;
+  if (!codec_ && !OpenCodec(ignored)) return false;
+  if (!demuxer_->Seek(Index().ChunkStart(chunk))) return false;
+  avcodec_flush_buffers(codec_.get());
+  if (filter_) av_bsf_flush(filter_.get());
+  order_->Reset();
+  pictureOfPacket_.clear();
+  // Entered in the middle, a stream need not say that it is whole again: the index knows.
+  codec_->flags2 = chunk > 0 ? codec_->flags2 | AV_CODEC_FLAG2_SHOW_ALL : codec_->flags2 & ~AV_CODEC_FLAG2_SHOW_ALL;
+  chunk_ = chunk;
+  next_ = Index().ChunkStart(chunk);
+  firstPicture_ = settled_ = Index().ChunkFirstPicture(chunk);
+  wholeFrom_ = 0;
+  cameOut_.assign(static_cast<std::size_t>(Index().PictureCount()), false);
+  drained_ = false;
+  running_ = true;
+  return true;
+}
+
+void PictureDecoder::Stop() {
+  running_ = false;
+  order_->Reset();
+  codec_.reset();
+}
+
+bool PictureDecoder::Filter(AVPacket& packet) {
+  return !filter_ || (av_bsf_send_packet(filter_.get(), &packet) >= 0 && av_bsf_receive_packet(filter_.get(), &packet) >= 0);
+}
+
+std::optional<PlacedPacket> PictureDecoder::NextPlaced() {
+  for (;;) {
+    if (auto placed = order_->Pop()) return placed;
+    PacketHandle packet = NewPacket();
+    const int number = demuxer_->Read(*packet);
+    if (number < 0) {
+      order_->Finish();
+      return order_->Pop();
+    }
+    if (number >= Index().ChunkStart(chunk_) && Filter(*packet)) order_->Push(number, std::move(packet));
+  }
+}
+
+void PictureDecoder::Step(int wholeFrom, const Sink& sink) {
+  if (!running_ || drained_) return;
+  wholeFrom_ = std::max(wholeFrom_, wholeFrom);
+  auto placed = NextPlaced();
+  if (!placed) {
+    avcodec_send_packet(codec_.get(), nullptr);
+    Receive(sink);
+    drained_ = true;
+    if (next_ < Index().PacketCount()) readableEnd_ = std::min(readableEnd_, Index().PicturesBefore(next_));
+    Settle();
+    return;
+  }
+  if (chunk_ > 0 && placed->number == Index().ChunkStart(chunk_) && placed->picture > firstPicture_) {
+    keyPictureOfChunk_[chunk_] = firstPicture_ = placed->picture;
+  }
+  next_ = placed->number + 1;
+  const bool unwanted = placed->picture >= 0 && placed->picture < wholeFrom;
+  if (unwanted && IsImmediate()) {
+    Settle();
+    return;
+  }
+  codec_->skip_frame = unwanted ? AVDISCARD_NONREF : AVDISCARD_DEFAULT;
+  // The number travels through the decoder as the time.
+  placed->packet->pts = placed->packet->dts = placed->number;
+  pictureOfPacket_[placed->number] = placed->picture;
+  avcodec_send_packet(codec_.get(), placed->packet.get());
+  Receive(sink);
+  while (!pictureOfPacket_.empty() && pictureOfPacket_.begin()->first < next_ - 2 * (lag_ + 1))
+    pictureOfPacket_.erase(pictureOfPacket_.begin());
+  Settle();
+}
+
+void PictureDecoder::Receive(const Sink& sink) {
+  for (;;) {
+    FrameHandle frame = NewFrame();
+    if (avcodec_receive_frame(codec_.get(), frame.get()) < 0) return;
+    const auto number = static_cast<int>(frame->pts != AV_NOPTS_VALUE ? frame->pts : next_ - 1);
+    const auto found = pictureOfPacket_.find(number);
+    if (found == pictureOfPacket_.end()) continue;
+    const int picture = found->second;
+    // A packet makes one picture; what a decoder gives twice or conceals before the run began is none.
+    pictureOfPacket_.erase(found);
+    if (picture < firstPicture_) continue;
+    cameOut_[picture] = true;
+    sink(picture, std::move(frame));
+  }
+}
+
+void PictureDecoder::Settle() {
+  settled_ = drained_ ? Index().PictureCount() : Index().PicturesBefore(std::max(0, next_ - lag_));
+}
+
+bool PictureDecoder::Reaches(int picture) const {
+  return running_ && !drained_ && picture >= firstPicture_ && picture >= wholeFrom_ && picture >= settled_ &&
+         !cameOut_[picture];
+}
+
+bool PictureDecoder::Lost(int picture) const {
+  return running_ && picture >= firstPicture_ && picture >= wholeFrom_ && picture < settled_ && !cameOut_[picture];
+}
+
+int PictureDecoder::StartChunkFor(int picture) const {
+  const int chunk = Index().ChunkOfPicture(picture);
+  const auto key = keyPictureOfChunk_.find(chunk);
+  return key != keyPictureOfChunk_.end() && picture < key->second ? chunk - 1 : chunk;
+}
+
+}  // namespace kinalyx
