@@ -2,10 +2,14 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <string>
+#include <vector>
 
 #include "core/Settings.h"
 #include "drawing/IDrawingWorkspace.h"
+#include "drawing/Measurement.h"
+#include "drawing/ShapeHistory.h"
 #include "drawing/ShapeStore.h"
 #include "drawing/WindowPainter.h"
 
@@ -13,8 +17,8 @@ namespace kinalyx {
 
 /// The back colours of the twelve colour buttons `ColorChoiceBtn`, in their order.
 inline constexpr std::array<Colour, 12> kColorChoices{
-    Rgb(255, 0, 0),   Rgb(255, 255, 0), Rgb(0, 0, 255),   Rgb(0, 255, 0),   Rgb(255, 0, 255), Rgb(0, 192, 192),
-    Rgb(255, 128, 0), Rgb(0, 128, 0),   Rgb(0, 255, 255), Rgb(255, 255, 255), Rgb(0, 0, 128), Rgb(255, 128, 192)};
+    Rgb(255, 0, 0),   Rgb(255, 255, 0), Rgb(0, 0, 255),   Rgb(0, 255, 0),     Rgb(255, 0, 255), Rgb(0, 192, 192),
+    Rgb(255, 128, 0), Rgb(0, 128, 0),   Rgb(0, 255, 255), Rgb(255, 255, 255), Rgb(0, 0, 128),   Rgb(255, 128, 192)};
 
 /// What the edit bar adds to painting and clicks.
 class IEditMarks {
@@ -28,12 +32,14 @@ class IEditMarks {
 /// Turns the mouse in a video window into shapes, and knows the commands that begin and clear them.
 ///
 /// Idle -> CmdMakeShape_Click -> armed -> first mouse down -> building -> the shape is finished -> idle.
-/// A path steps the video one frame per click. A tool that is put down, or another one taken up, ends
-/// what is under construction: a line of free points is finished as far as it goes, any other goes.
+/// A path steps the video one frame per click. Putting a tool down ends what is under construction: an
+/// open line is finished as far as it goes, any other shape is given up.
 class DrawingTools final : public IShapeLocked {
  public:
   DrawingTools(ShapeEngine& engine, Settings& settings, IDrawingWorkspace& workspace);
   ~DrawingTools() override;
+  DrawingTools(const DrawingTools&) = delete;
+  DrawingTools& operator=(const DrawingTools&) = delete;
 
   /// The edit bar, once there is one; not owned, null for none.
   void AttachEditBar(IEditMarks* bar) { bar_ = bar; }
@@ -84,7 +90,25 @@ class DrawingTools final : public IShapeLocked {
   void CopyShapes(int FromWindow, int ToWindow);
   /// Which list the selection, its measure and its deletion belong to.
   void SetDrawWindow(int window) { DrawWindow_ = window; }
+  /// Shows what the selected shape measures.
   void SetShapeCaption();
+  Calibration CurrentCalibration() const;
+
+  // --- a window's drawings and their past
+  /// Hands a window the drawings of the video that has just been opened, or none when it was closed; their
+  /// past begins here. The window's grid stays.
+  void SetShapes(int window, ShapeList list);
+  /// The window's picture changed its size (pixels): its drawings, and their past, are stretched.
+  void StretchShapes(int window, int oldWidth, int oldHeight, int newWidth, int newHeight);
+  /// The window's picture was mirrored.
+  void FlipShapes(int window);
+  /// Closes a step that can be undone; whoever changes a list by other roads says so. Nothing happens when
+  /// the drawings are what they were.
+  void NoteChange(int window);
+  bool CanUndo(int window) const { return History(window).CanUndo(); }
+  bool CanRedo(int window) const { return History(window).CanRedo(); }
+  void Undo(int window);
+  void Redo(int window);
 
   // --- from the store
   /// Kinds 0 to 10 announce a tool and choose its colour; 25 ends the announcement and steps the random colour.
@@ -95,19 +119,30 @@ class DrawingTools final : public IShapeLocked {
  private:
   static constexpr int HitRadius = 100;  ///< pixels within which a click selects a shape
 
-  int Resolve(int window);
-  void EndConstruction();
+  int Resolve(int window) { return window == -1 ? workspace_.ActiveWindow() : window; }
+  ShapeHistory& History(int window) { return histories_[static_cast<std::size_t>(window - 1)]; }
+  const ShapeHistory& History(int window) const { return histories_[static_cast<std::size_t>(window - 1)]; }
+  void PutDown();
+  void EndAnnouncement();
+  bool EndConstruction();
   void FinishOpenShape(ShapeList& list);
-  void Finished(int window);
+  void BindPoint(ShapeList& list, POINTAPI point, int window);
+  void ShapeFinished(int window);
+  void StraightTool(int kind);
   void Select(int window, POINTAPI point);
   void SetEditBar();
+  void StepHistory(int window, bool (ShapeHistory::*step)(ShapeList&));
+  void ChooseColours(const ShapeList& list);
+  void TellFailure(int window, const Shape* failed);
 
   ShapeEngine& engine_;
   Settings& settings_;
   IDrawingWorkspace& workspace_;
   IEditMarks* bar_ = nullptr;
   std::array<WindowPainter, ShapeLists::kWindows> painters_;
-  std::array<const Shape*, ShapeLists::kWindows> failed_{};
+  std::array<ShapeHistory, ShapeLists::kWindows> histories_;
+  std::array<std::string, ShapeLists::kWindows> failures_;  // what the user was told last
+  std::vector<Colour> colours_;
 
   bool Drawing_ = false;
   bool NewShapePending_ = false;

@@ -43,7 +43,8 @@ class IDrawingWorkspace {
   virtual void HideVectorColor() = 0;
   /// Presses one of the twelve colour buttons, -1 none. Must not come back as ColorChoiceBtn_Click.
   virtual void SetColorButton(int index) = 0;
-  /// A figure could not be drawn; shown once for each drawing, not on each frame.
+  /// A figure could not be drawn. Told once, not on each frame; comes while a frame is composed, so a
+  /// message box must wait until that is over.
   virtual void ShowDrawError(const std::string& text) = 0;
 
   // --- what other parts of the workspace do with drawings

@@ -24,18 +24,19 @@ enum class AngleMode {
   ToVertical = 2,    ///< between a point above P1 and P2
 };
 
-/// Whole degrees, rounded down, by the law of cosines; 0 when two of the points coincide or the points
-/// stand in one line.
+/// Whole degrees, 0 to 180, rounded down, by the law of cosines; 0 when two of the points coincide.
 float GetAngle(POINTAPI P0, POINTAPI P1, POINTAPI P2, AngleMode Mode);
 
 /// Length of a line in pixels, cut to one decimal.
 double LineLength(POINTAPI from, POINTAPI to);
-/// A number as the captions show it: seven figures, no zeros at the end, no zero before the point.
+/// A number as the captions show it: up to six decimals, no zeros at the end.
 std::string NumberText(double value);
-/// A length of so many pixels in the unit of the display with its mark, five characters of figures.
+/// A length of so many pixels in the unit of the display with its mark; the figures are cut, not rounded,
+/// to five characters. Needs a calibration.
 std::string LengthText(double pixels, const Calibration& calibration);
 
-/// What a shape measures, for the display; nothing for kinds and counts that measure nothing.
+/// What a shape measures, for the display: the angles and length of a line, the opening of an angle, the
+/// speed along a path from its last click to the mouse. Nothing for all else, and for an uncalibrated path.
 std::optional<std::string> ShapeCaption(const Shape& shape, const Calibration& calibration);
 
 /// Pixels per inch from a line of `pixels` and the length typed for it; nothing for a length that is 0.

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
 #include <vector>
 
 #include "drawing/Shape.h"
@@ -19,49 +22,56 @@ struct GridLook {
   friend bool operator==(const GridLook&, const GridLook&) = default;
 };
 
-/// Paints the drawings of one window over every frame that it shows. What has not changed since the last
-/// frame is kept as layers and only laid over; what has changed is found by comparing content, so nobody
+/// Paints the drawings of one window over every frame that it shows. A shape that has not changed since
+/// the last frame is kept as a layer and only laid over; change is found by comparing content, so nobody
 /// needs to tell. A shape that follows the mouse is painted directly until it comes to rest.
 class WindowPainter {
  public:
-  /// Paints the grid and the shapes, first to last, with `colours[i]` for shape i. The canvas's pen and
-  /// mode are left as they were. Returns the first shape that could not be drawn, null when all were;
-  /// an empty surface takes nothing and is no error.
-  const Shape* Paint(Canvas& canvas, const ShapeList& list, std::span<const Colour> colours, const GridLook& grid,
-                     const ShapeLook& look, const ShapeRules& rules);
+  /// Paints the grid and the shapes, first to last, with `colours[i]` for shape i. The canvas's pen is
+  /// left as it was. Returns the index of the first shape that could not be drawn; an empty surface takes
+  /// nothing and is no error.
+  std::optional<std::size_t> Paint(Canvas& canvas, std::span<const Shape> shapes, std::span<const Colour> colours,
+                                   const GridLook& grid, const ShapeLook& look, const ShapeRules& rules);
   /// Bytes held for the next frames.
-  std::size_t Bytes() const;
+  std::size_t Bytes() const { return bytes_; }
 
  private:
-  /// What a kept layer shows.
+  /// What a shape looks like, all of it: two that are equal give the same pixels.
   struct Content {
-    std::int16_t Kind = 0;
-    bool Locked = false;
+    std::int16_t kind = 0;
+    bool locked = false;
     Colour colour = 0;
     int rotation = 0;
     std::vector<POINTAPI> points;
 
-    bool Shows(const Shape& shape, Colour colour) const;
-    void Take(const Shape& shape, Colour colour);
+    bool Shows(const Shape& shape, Colour ink) const;
+    void Take(const Shape& shape, Colour ink);
   };
   struct Entry {
     Content content;
     Layer layer;
     bool kept = false;
   };
+  /// What all shapes of a frame share; another one makes every layer stale.
+  struct Frame {
+    int width = 0;
+    int height = 0;
+    int penWidth = 0;
+    int penStyle = 0;
+    bool fromCentre = false;
+    ShapeLook look;
 
-  void Forget();
+    friend bool operator==(const Frame&, const Frame&) = default;
+  };
+
   void Align(std::span<const Shape> shapes, std::span<const Colour> colours);
+  void PaintGrid(Canvas& canvas, const GridLook& grid);
 
+  Frame frame_;
   std::vector<Entry> entries_;
-  Layer grid_;
+  std::vector<Entry> spare_;
   GridLook gridLook_;
-  bool gridKept_ = false;
-  int width_ = 0;
-  int height_ = 0;
-  Pen pen_;
-  ShapeLook look_;
-  bool fromCentre_ = false;
+  Layer grid_;
   std::size_t bytes_ = 0;
 };
 

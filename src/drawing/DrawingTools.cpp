@@ -1,0 +1,457 @@
+#include "drawing/DrawingTools.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "drawing/ShapeGeometry.h"
+
+namespace kinalyx {
+namespace {
+
+constexpr int kEndOfTool = 25;   // to VectorColorUpdate: no tool is announced any more
+constexpr int kGridEntry = 11;   // of the Draw menu and of the tool colours
+constexpr int kLeftButton = 1;
+constexpr Colour kSelected = 65280;  // green
+constexpr Colour kOthers = 255;      // red, while one shape is selected
+
+}  // namespace
+
+DrawingTools::DrawingTools(ShapeEngine& engine, Settings& settings, IDrawingWorkspace& workspace)
+    : engine_(engine), settings_(settings), workspace_(workspace) {
+  engine_.SetLockListener(this);
+}
+
+DrawingTools::~DrawingTools() { engine_.SetLockListener(nullptr); }
+
+bool DrawingTools::HasShapes(int window) const { return engine_.ShapeLists(window).NumShapes > 0; }
+
+// ---------------------------------------------------------------- commands
+
+void DrawingTools::CmdMakeShape_Click(int Index) {
+  if (InfOf(Index).ToolCaption.empty() || !workspace_.HasVideo(workspace_.ActiveWindow())) return;
+  if (Drawing_ && Index == DrawKind_) {
+    PutDown();
+    return;
+  }
+  EndConstruction();
+  workspace_.ReleaseLoopButton();
+  Drawing_ = true;
+  NewShapePending_ = true;
+  DrawKind_ = Index;
+  CaptionKept_ = false;
+  VectorColorUpdate(Index);
+  if (Index != kLine && Index != kArrow) engine_.StraightMode = false;
+}
+
+void DrawingTools::MenuDraw_Click(int Index) {
+  if (Index == kGridEntry) {
+    SetGridMode(!List(workspace_.ActiveWindow()).GridOn);
+  } else {
+    CmdMakeShape_Click(Index);
+  }
+}
+
+void DrawingTools::DDSL_Click() { StraightTool(kLine); }
+void DrawingTools::DDSA_Click() { StraightTool(kArrow); }
+
+void DrawingTools::StraightTool(int kind) {
+  // The free line in hand gives way to the straight one instead of being put down by the same kind.
+  if (Drawing_ && DrawKind_ == kind && !engine_.StraightMode) PutDown();
+  CmdMakeShape_Click(kind);
+  if (Drawing_ && DrawKind_ == kind) engine_.StraightMode = true;
+}
+
+void DrawingTools::DrawOffBtn_Click() {
+  if (Drawing_) CmdMakeShape_Click(DrawKind_);
+}
+
+void DrawingTools::Lastcadoff_Click() {
+  const int window = workspace_.ActiveWindow();
+  if (!workspace_.HasVideo(window)) return;
+  DeleteLastCAD(window);
+  RedrawCanvas(window);
+  workspace_.DrawingsChanged(window);
+}
+
+void DrawingTools::Cadoffbutton_Click() {
+  const int window = workspace_.ActiveWindow();
+  if (!workspace_.HasVideo(window)) return;
+  DeleteAllCAD(window);
+  RedrawCanvas(window);
+  workspace_.DrawingsChanged(window);
+}
+
+void DrawingTools::ColorChoiceBtn_Click(int Index) {
+  if (Index < 0 || Index >= static_cast<int>(kColorChoices.size())) return;
+  engine_.CadColor = kColorChoices[static_cast<std::size_t>(Index)];
+  workspace_.SetColorButton(Index);
+  if (Drawing_) workspace_.ShowVectorColor(engine_.CadColor);
+}
+
+void DrawingTools::SetGridMode(bool Value) {
+  const int window = workspace_.ActiveWindow();
+  List(window).GridOn = Value;
+  workspace_.ShowGridButton(Value);
+  workspace_.Refresh(window);
+}
+
+void DrawingTools::VectorColorUpdate(int Kind) {
+  if (Kind == kEndOfTool) {
+    RandomColorIndex_ = (RandomColorIndex_ + 1) % static_cast<int>(kColorChoices.size());
+    EndAnnouncement();
+    return;
+  }
+  workspace_.ShowToolCaption("                 Drawing " + std::string(InfOf(Kind).ToolCaption) + " in Color       ");
+  int button = RandomColorIndex_;
+  if (settings_.RandomColor == 1 && Kind != kSwingPath && Kind != kZone) {
+    engine_.CadColor = kColorChoices[static_cast<std::size_t>(button)];
+  } else {
+    engine_.CadColor = settings_.NewColors[static_cast<std::size_t>(Kind)];
+    const auto found = std::ranges::find(kColorChoices, engine_.CadColor);
+    button = found == kColorChoices.end() ? -1 : static_cast<int>(found - kColorChoices.begin());
+  }
+  workspace_.SetColorButton(button);
+  workspace_.ShowVectorColor(engine_.CadColor);
+}
+
+void DrawingTools::EndAnnouncement() {
+  workspace_.HideVectorColor();
+  workspace_.ShowToolCaption("");
+  workspace_.DisplayData("");
+  workspace_.SetColorButton(-1);
+}
+
+void DrawingTools::DrawingOff() {
+  Drawing_ = false;
+  NewShapePending_ = false;
+}
+
+void DrawingTools::PutDown() {
+  const bool announced = !EndConstruction();
+  DrawingOff();
+  DrawKind_ = 0;
+  engine_.StraightMode = false;
+  engine_.StraightAnchor.Set = false;
+  if (announced) VectorColorUpdate(kEndOfTool);
+}
+
+/// Ends what is under construction in any window. True when a shape was finished by it, which has ended
+/// the tool's announcement.
+bool DrawingTools::EndConstruction() {
+  bool finished = false;
+  for (int window = 1; window <= ShapeLists::kWindows; ++window) {
+    ShapeList& list = List(window);
+    if (!list.Adding) continue;
+    const Shape* shape = LastShape(list);
+    if (shape && LOPShape(shape->Kind) && shape->NumBound > 1) {
+      FinishOpenShape(list);
+      finished = true;
+    } else {
+      if (shape) KillShape(list, list.NumShapes - 1, engine_.Rules());
+      list.Adding = false;
+      engine_.StraightAnchor.Set = false;
+    }
+    ShapeFinished(window);
+  }
+  return finished;
+}
+
+/// Finishes a freehand line or a path; one of a single point shows nothing and is not kept.
+void DrawingTools::FinishOpenShape(ShapeList& list) {
+  Shape& shape = *LastShape(list);
+  engine_.LockShape(shape);
+  list.Adding = false;
+  if (shape.NumBound < 2) KillShape(list, list.NumShapes - 1, engine_.Rules());
+}
+
+// ---------------------------------------------------------------- mouse
+
+bool DrawingTools::MouseDown(int Button, int /*Shift*/, float X, float Y, int Window) {
+  if (workspace_.IsPlaying(workspace_.ActiveWindow())) {
+    workspace_.StopClick(Window);
+    EndConstruction();
+    DrawingOff();
+    EndAnnouncement();
+    return true;
+  }
+  if (!Drawing_ || !workspace_.HasVideo(Window)) return false;
+  if (Window != workspace_.ActiveWindow()) workspace_.SetActiveWindow(Window);
+  const POINTAPI point{Round(X), Round(Y)};
+  ShapeList& list = List(Window);
+  const bool begins = NewShapePending_;
+  if (begins) {
+    NewShapePending_ = false;
+    if (!engine_.AddShape(list, DrawKind_, 0)) {
+      PutDown();
+      return true;
+    }
+  }
+  if (!begins && point == LastDown_) return true;
+  if (list.Adding) {
+    Shape& shape = *LastShape(list);
+    if (Button == kLeftButton) {
+      if (engine_.AddPoint(shape, engine_.ConstrainPoint(point), false)) list.Adding = false;
+    } else if (LOPShape(shape.Kind, engine_.Rules()) && shape.NumPts > 1) {
+      FinishOpenShape(list);
+      ShapeFinished(Window);
+    }
+  }
+  LastDown_ = point;
+  DrawWindow_ = Window;
+  SetEditBar();
+  return true;
+}
+
+bool DrawingTools::MouseMove(int /*Button*/, int /*Shift*/, float X, float Y, int Window) {
+  if (!Drawing_ || Window != DrawWindow_) return false;
+  ShapeList& list = List(DrawWindow_);
+  if (!list.Adding) return false;
+  Shape& shape = *LastShape(list);
+  const POINTAPI point = engine_.ConstrainPoint({Round(X), Round(Y)});
+  if (engine_.AddPoint(shape, point, shape.Kind == kFreehand)) {
+    list.Adding = false;
+    SetEditBar();
+  }
+  list.CurShape = static_cast<std::int16_t>(list.NumShapes - 1);
+  workspace_.Refresh(DrawWindow_);
+  SetShapeCaption();
+  return true;
+}
+
+bool DrawingTools::MouseUp(int Button, int /*Shift*/, float X, float Y, int Window) {
+  const POINTAPI point{Round(X), Round(Y)};
+  if (!Drawing_) {
+    if (!bar_ || !bar_->Shown()) return false;
+    if (Window != workspace_.ActiveWindow()) {
+      workspace_.SetActiveWindow(Window);
+    } else if (Button == kLeftButton) {
+      Select(Window, point);
+    }
+    return true;
+  }
+  if (!workspace_.HasVideo(Window)) return false;
+
+  ShapeList& list = List(Window);
+  workspace_.ShowGridButton(list.GridOn);
+  list.CanvasWidth = workspace_.PictureWidth(Window) * kTwipsPerPixel;
+  list.CanvasHeight = workspace_.PictureHeight(Window) * kTwipsPerPixel;
+  if (const Shape* last = LastShape(list);
+      last && ((last->Kind == kAngle && last->NumPts >= 2) || (last->Kind == kLine && last->NumPts >= 1))) {
+    workspace_.HideVectorColor();
+    if (last->Kind == kAngle) CaptionKept_ = true;
+  }
+  if (Button == kLeftButton && list.Adding) BindPoint(list, point, Window);
+  if (!list.Adding) ShapeFinished(Window);
+  return true;
+}
+
+void DrawingTools::BindPoint(ShapeList& list, POINTAPI point, int window) {
+  Shape& shape = *LastShape(list);
+  list.CurShape = static_cast<std::int16_t>(list.NumShapes - 1);
+  if (engine_.AddPoint(shape, engine_.ConstrainPoint(point), true)) list.Adding = false;
+  if (shape.Kind == kLine || shape.Kind == kAngle) CaptionKept_ = true;
+  if (shape.Kind == kFreehand) {
+    // One stroke is one shape.
+    FinishOpenShape(list);
+  } else if (shape.Kind == kSwingPath) {
+    if (workspace_.OnLastFrame(window)) {
+      FinishOpenShape(list);
+    } else {
+      workspace_.AdvanceFrame(window);
+    }
+  } else if (shape.Kind == kSquare && !list.Adding && workspace_.TakeSquare(window, shape)) {
+    KillShape(list, list.NumShapes - 1, engine_.Rules());
+  }
+}
+
+/// What follows when a window's list takes no more points: the picture shows it, and it can be undone.
+void DrawingTools::ShapeFinished(int window) {
+  ShapeList& list = List(window);
+  list.CurShape = std::min<std::int16_t>(list.CurShape, static_cast<std::int16_t>(list.NumShapes - 1));
+  NoteChange(window);
+  SetEditBar();
+  workspace_.Refresh(window);
+  workspace_.DrawingsChanged(window);
+  // The measure outlives the tool, whose end has cleared the display.
+  if (CaptionKept_ && window == DrawWindow_) SetShapeCaption();
+}
+
+void DrawingTools::Select(int window, POINTAPI point) {
+  ShapeList& list = List(window);
+  DrawWindow_ = window;
+  int nearest = -1;
+  std::int32_t least = HitRadius + 1;
+  int index = 0;
+  for (const Shape& shape : ShapesOf(list)) {
+    const std::int32_t distance = Round(Distance(GetMid(shape, engine_.Rules()), point));
+    if (distance < least) {
+      least = distance;
+      nearest = index;
+    }
+    ++index;
+  }
+  list.CurShape = static_cast<std::int16_t>(nearest);
+  workspace_.Refresh(window);
+  SetEditBar();
+}
+
+void DrawingTools::SetEditBar() {
+  if (bar_) bar_->SetEditBar();
+}
+
+// ---------------------------------------------------------------- frame
+
+void DrawingTools::ChooseColours(const ShapeList& list) {
+  const bool marks = bar_ && bar_->Shown();
+  const bool all = marks && bar_->MultiEdit();
+  colours_.clear();
+  int index = 0;
+  for (const Shape& shape : ShapesOf(list)) {
+    const bool selected = all || index == list.CurShape;
+    colours_.push_back(!marks || !shape.Locked ? shape.Colour : selected ? kSelected : kOthers);
+    ++index;
+  }
+}
+
+void DrawingTools::PreDrawFrame(Canvas& hDC, int Window) {
+  const ShapeList& list = List(Window);
+  const auto shapes = ShapesOf(list);
+  ChooseColours(list);
+  const GridLook grid{list.GridOn, settings_.GridSize, settings_.NewColors[kGridEntry]};
+  const ShapeLook look{settings_.CadWidth, settings_.CadOutline, engine_.PathHighlight};
+  const auto failed =
+      painters_[static_cast<std::size_t>(Window - 1)].Paint(hDC, shapes, colours_, grid, look, engine_.Rules());
+  TellFailure(Window, failed ? &shapes[*failed] : nullptr);
+
+  const auto finishedPath = [](const Shape& shape) {
+    return shape.Kind == kSwingPath && shape.Locked && shape.NumPts >= 2;
+  };
+  if (!engine_.PathHighlight) engine_.PathHighlight = std::ranges::any_of(shapes, finishedPath);
+  // A tool that has only been taken up announces itself; the measure comes with its first point.
+  const bool measures = (bar_ && bar_->Shown()) || (Drawing_ && !NewShapePending_);
+  if (Window == DrawWindow_ && measures && std::ranges::any_of(shapes, &Shape::Locked)) SetShapeCaption();
+}
+
+void DrawingTools::TellFailure(int window, const Shape* failed) {
+  std::string& told = failures_[static_cast<std::size_t>(window - 1)];
+  if (!failed) {
+    told.clear();
+    return;
+  }
+  std::string text = DrawShapeError(*failed, engine_.Rules());
+  if (text == told) return;
+  told = std::move(text);
+  workspace_.ShowDrawError(told);
+}
+
+Calibration DrawingTools::CurrentCalibration() const {
+  return {settings_.CalibNumber, settings_.CalibNumberOut, settings_.CalibOutput, settings_.NTSCorPAL != "0"};
+}
+
+void DrawingTools::SetShapeCaption() {
+  const Shape* shape = SelectedShape(List(DrawWindow_));
+  const auto text = shape ? ShapeCaption(*shape, CurrentCalibration()) : std::nullopt;
+  if (!text) {
+    if (!Drawing_) workspace_.DisplayData("");
+    return;
+  }
+  const auto points = PointsOf(*shape);
+  if (shape->Kind == kLine && workspace_.CalibrationShown())
+    workspace_.ShowCalibrationLength(NumberText(LineLength(points[0], points[1])) + "pts");
+  workspace_.DisplayData(*text);
+  if (shape->Kind != kSwingPath) CaptionKept_ = true;
+}
+
+// ---------------------------------------------------------------- shapes of a window
+
+void DrawingTools::DeleteCurShape() {
+  ShapeList& list = List(DrawWindow_);
+  if (list.NumShapes <= 0 || list.CurShape < 0) return;
+  if (list.CurShape == list.NumShapes - 1 && list.Adding) {
+    list.Adding = false;
+    NewShapePending_ = Drawing_;
+  }
+  KillShape(list, list.CurShape, engine_.Rules());
+  if (list.CurShape >= list.NumShapes) --list.CurShape;
+  NoteChange(DrawWindow_);
+}
+
+void DrawingTools::DeleteLastCAD(int Window) {
+  ShapeList& list = List(Resolve(Window));
+  if (list.NumShapes != 0) {
+    // The shape under construction goes; the tool stays in hand for another one.
+    if (list.Adding) NewShapePending_ = Drawing_;
+    list.Adding = false;
+    KillShape(list, list.NumShapes - 1, engine_.Rules());
+  }
+  // Goes below -1 on an empty list, which selects as little as -1 does.
+  if (list.CurShape > -kShapeKinds) --list.CurShape;
+  NoteChange(Resolve(Window));
+  SetEditBar();
+}
+
+void DrawingTools::DeleteAllCAD(int Window) {
+  ShapeList& list = List(Resolve(Window));
+  if (list.NumShapes <= 0) return;
+  if (list.Adding) NewShapePending_ = Drawing_;
+  list.CurShape = -1;
+  list.Adding = false;
+  list.NumShapes = 0;
+  list.Shapes.clear();
+  NoteChange(Resolve(Window));
+  SetEditBar();
+}
+
+void DrawingTools::RedrawCanvas(int Window) { workspace_.Refresh(Resolve(Window)); }
+
+void DrawingTools::CopyShapes(int FromWindow, int ToWindow) {
+  if (FromWindow == ToWindow || !HasShapes(FromWindow)) return;
+  EndConstruction();
+  const ShapeList& source = List(FromWindow);
+  ShapeList& target = List(ToWindow);
+  target.Shapes.clear();
+  target.NumShapes = 0;
+  target.CurShape = -1;
+  for (int i = 0; i < source.NumShapes; ++i) engine_.CopyShapeInto(source, target, i);
+  target.CanvasWidth = workspace_.PictureWidth(ToWindow) * kTwipsPerPixel;
+  target.CanvasHeight = workspace_.PictureHeight(ToWindow) * kTwipsPerPixel;
+  NoteChange(ToWindow);
+  workspace_.Refresh(ToWindow);
+}
+
+void DrawingTools::SetShapes(int window, ShapeList list) {
+  if (List(window).Adding) NewShapePending_ = Drawing_;
+  list.Adding = false;
+  list.CurShape = -1;
+  list.GridOn = List(window).GridOn;
+  List(window) = std::move(list);
+  History(window).Reset(List(window));
+}
+
+void DrawingTools::StretchShapes(int window, int oldWidth, int oldHeight, int newWidth, int newHeight) {
+  const auto stretch = [&](ShapeList& list) { kinalyx::StretchShapes(list, oldWidth, oldHeight, newWidth, newHeight); };
+  stretch(List(window));
+  History(window).Apply(stretch);
+}
+
+void DrawingTools::FlipShapes(int window) {
+  const int width = workspace_.PictureWidth(window);
+  const auto flip = [&](ShapeList& list) { kinalyx::FlipShapes(list, width); };
+  flip(List(window));
+  History(window).Apply(flip);
+}
+
+void DrawingTools::NoteChange(int window) { History(window).Note(List(window)); }
+
+void DrawingTools::Undo(int window) { StepHistory(window, &ShapeHistory::Undo); }
+void DrawingTools::Redo(int window) { StepHistory(window, &ShapeHistory::Redo); }
+
+void DrawingTools::StepHistory(int window, bool (ShapeHistory::*step)(ShapeList&)) {
+  if (Drawing_ && List(window).Adding) PutDown();
+  if (!(History(window).*step)(List(window))) return;
+  SetEditBar();
+  workspace_.Refresh(window);
+  workspace_.DrawingsChanged(window);
+}
+
+}  // namespace kinalyx
