@@ -1,0 +1,324 @@
+#include "workspace/DualLock.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace kinalyx {
+namespace {
+
+constexpr int kPairOneTwo = 0;
+constexpr int kPairThreeFour = 1;
+constexpr int kAllFour = 2;
+constexpr int kLockable = 4;  // slots that a lock can hold
+constexpr int kFastest = 1000;
+
+/// Milliseconds that a position of a player lasts at full speed.
+double PositionTime(const AVIControl& player) {
+  const VideoInfo* info = player.Info();
+  return info && player.VideoLength() > 0 ? info->durationMs / player.VideoLength() : 0;
+}
+
+}  // namespace
+
+/// The common play. Counts the distance from the lowest positions; every video shows its own lowest
+/// position plus that one distance, so no two can drift apart. Distance d falls due at base + d * interval.
+class LockedVideos::Run final : public IPlayRun {
+ public:
+  Run(PlayScheduler& scheduler, LockedVideos& videos) : scheduler_(scheduler), videos_(videos) {}
+
+  bool Running() const { return !slots_.empty(); }
+  const std::vector<int>& Slots() const { return slots_; }
+
+  void Begin(std::vector<int> slots, int distance, int last, double interval) {
+    slots_ = std::move(slots);
+    last_ = last;
+    interval_ = std::max(interval, 1.0);
+    Restart(distance);
+  }
+
+  void End() {
+    slots_.clear();
+    ++play_;
+    scheduler_.Remove(*this);
+  }
+
+  /// Goes on from the distance that is shown.
+  void SetInterval(double interval) {
+    interval_ = std::max(interval, 1.0);
+    base_ = static_cast<double>(videos_.host_.timeGetTime()) - interval_ * distance_;
+    scheduler_.Add(*this, DueNext());
+  }
+
+  std::int64_t Tick(std::int64_t now) override {
+    if (wrap_) {
+      Restart(0);
+    } else if (const int due = DistanceAt(now); due > distance_) {
+      distance_ = due;
+      ShowAll();
+    }
+    return DueNext();
+  }
+
+ private:
+  int DistanceAt(std::int64_t now) const {
+    constexpr double kRounding = 1e-6;  // a distance that is due on the millisecond counts as due
+    return static_cast<int>(std::min((static_cast<double>(now) - base_) / interval_ + kRounding, last_ + 1.0));
+  }
+
+  std::int64_t DueNext() const {
+    return static_cast<std::int64_t>(std::ceil(base_ + (std::min(distance_, last_) + 1) * interval_));
+  }
+
+  void Restart(int distance) {
+    wrap_ = false;
+    distance_ = distance;
+    base_ = static_cast<double>(videos_.host_.timeGetTime()) - interval_ * distance;
+    scheduler_.Add(*this, DueNext());
+    ShowAll();
+  }
+
+  /// Draws all videos at the present distance. What they call may end this play or begin the next.
+  void ShowAll() {
+    const int play = ++play_;
+    const bool atEnd = distance_ >= last_;
+    distance_ = std::min(distance_, last_);
+    const std::vector<int> slots = slots_;
+    for (const int slot : slots) {
+      // A video that was set going by a control of its own ends what they do together.
+      if (videos_.workspace_.MP(slot).IsPlaying()) return videos_.StopTogether();
+      videos_.workspace_.MP(slot).DrawFrame(videos_.Lowest(slot) + distance_);
+      if (play != play_) return;
+    }
+    if (!atEnd) return;
+    wrap_ = videos_.repeat_ && last_ > 0;
+    if (!wrap_) videos_.StopTogether();
+  }
+
+  PlayScheduler& scheduler_;
+  LockedVideos& videos_;
+  std::vector<int> slots_;
+  double base_ = 0;
+  double interval_ = 1;
+  int distance_ = 0;
+  int last_ = 0;
+  int play_ = 0;
+  bool wrap_ = false;
+};
+
+LockedVideos::LockedVideos(IHost& host, PlayScheduler& scheduler, Workspace& workspace)
+    : host_(host), workspace_(workspace), run_(std::make_unique<Run>(scheduler, *this)) {}
+
+LockedVideos::~LockedVideos() { run_->End(); }
+
+// ---------------------------------------------------------------- locking
+
+std::vector<int> LockedVideos::SlotsOf(int lock) const {
+  switch (lock) {
+    case kPairOneTwo: return {1, 2};
+    case kPairThreeFour: return {3, 4};
+    case kAllFour: return {1, 2, 3, 4};
+    default: return {};
+  }
+}
+
+int LockedVideos::LockOf(int slot) const {
+  if (slot < 1 || slot > kLockable) return -1;
+  if (DualLocked[kAllFour]) return kAllFour;
+  const int pair = slot <= 2 ? kPairOneTwo : kPairThreeFour;
+  return DualLocked[static_cast<std::size_t>(pair)] ? pair : -1;
+}
+
+bool LockedVideos::IsLocked(int slot) const { return LockOf(slot) >= 0; }
+
+bool LockedVideos::DualLock(int Which) {
+  const int lock = Which == 1 ? kPairOneTwo : Which == 2 ? kPairThreeFour : kAllFour;
+  const std::vector<int> slots = SlotsOf(lock);
+  if (!std::ranges::all_of(slots, [this](int slot) { return workspace_.HasVideo(slot); })) return false;
+  StopTogether();
+  for (const int slot : slots) {
+    workspace_.MP(slot).StopPlay();
+    Clear(LockOf(slot));
+  }
+  SetRanges(slots);
+  DualLocked[static_cast<std::size_t>(lock)] = true;
+  Tell();
+  return true;
+}
+
+void LockedVideos::SetRanges(const std::vector<int>& slots) {
+  int before = workspace_.MP(slots.front()).Position();
+  int after = workspace_.MP(slots.front()).VideoLength() - before - 1;
+  for (const int slot : slots) {
+    const AVIControl& player = workspace_.MP(slot);
+    before = std::min(before, player.Position());
+    after = std::min(after, player.VideoLength() - player.Position() - 1);
+  }
+  for (const int slot : slots) {
+    const AVIControl& player = workspace_.MP(slot);
+    std::array<int, 4>& range = slot <= 2 ? LockRangeA : LockRangeB;
+    const auto first = static_cast<std::size_t>((slot - 1) % 2 * 2);
+    range[first] = player.Position() - before;
+    range[first + 1] = player.Position() + after - 1;
+    lengths_[static_cast<std::size_t>(slot - 1)] = player.VideoLength();
+  }
+}
+
+void LockedVideos::Clear(int lock) {
+  if (lock >= 0) DualLocked[static_cast<std::size_t>(lock)] = false;
+}
+
+void LockedVideos::DualUnlock(int slot) {
+  const int lock = LockOf(slot);
+  if (lock < 0) return;
+  if (std::ranges::find(run_->Slots(), slot) != run_->Slots().end()) StopTogether();
+  Clear(lock);
+  Tell();
+}
+
+bool LockedVideos::CanLock() const {
+  const int slot = workspace_.CurrentWindow;
+  if (IsLocked(slot)) return true;
+  if (slot > kLockable || workspace_.SlotsShown() < 2) return false;
+  const int partner = (slot - 1) / 2 * 2 + (slot % 2 == 1 ? 2 : 1);
+  return workspace_.HasVideo(slot) && workspace_.HasVideo(partner);
+}
+
+bool LockedVideos::cmdDualPlay() {
+  if (!CanLock()) return false;
+  const int slot = workspace_.CurrentWindow;
+  if (IsLocked(slot)) {
+    DualUnlock(slot);
+    return true;
+  }
+  return DualLock(slot <= 2 ? 1 : 2);
+}
+
+bool LockedVideos::LockAll() {
+  if (!DualLocked[kAllFour]) return DualLock(0);
+  DualUnlock(1);
+  return true;
+}
+
+void LockedVideos::StateChanged() {
+  for (int lock = 0; lock <= kAllFour; ++lock) {
+    if (!DualLocked[static_cast<std::size_t>(lock)]) continue;
+    const std::vector<int> slots = SlotsOf(lock);
+    const bool same = std::ranges::all_of(slots, [this](int slot) {
+      return workspace_.MP(slot).VideoLength() == lengths_[static_cast<std::size_t>(slot - 1)];
+    });
+    if (same) continue;
+    if (run_->Running()) StopTogether();
+    SetRanges(slots);
+    Tell();
+  }
+}
+
+int LockedVideos::Lowest(int slot) const {
+  return (slot <= 2 ? LockRangeA : LockRangeB)[static_cast<std::size_t>((slot - 1) % 2 * 2)];
+}
+
+int LockedVideos::Highest(int slot) const {
+  return (slot <= 2 ? LockRangeA : LockRangeB)[static_cast<std::size_t>((slot - 1) % 2 * 2 + 1)];
+}
+
+std::optional<LockedVideos::Bounds> LockedVideos::BoundsOf(int slot) const {
+  if (!IsLocked(slot)) return std::nullopt;
+  return Bounds{Lowest(slot), Highest(slot)};
+}
+
+std::vector<int> LockedVideos::LockedWith(int slot) const {
+  std::vector<int> slots = SlotsOf(LockOf(slot));
+  const auto first = std::ranges::find(slots, slot);
+  if (first != slots.end()) std::rotate(slots.begin(), first, first + 1);
+  return slots;
+}
+
+void LockedVideos::Tell() {
+  if (Changed) Changed();
+}
+
+// ---------------------------------------------------------------- moving
+
+void LockedVideos::Show(int slot, int position) {
+  AVIControl& player = workspace_.MP(slot);
+  player.StopPlay();
+  player.Play(std::clamp(position, 0, player.VideoLength() - 1));
+}
+
+void LockedVideos::DualControl_Click(int Index) {
+  if (Index == 0 || Index == 1) DualControlStep(Index == 1);
+  if (Index == 2) DualControlRewind();
+  host_.DoEvents();
+}
+
+void LockedVideos::DualControlStep(bool Forward) {
+  StopTogether();
+  const int move = Forward ? 1 : -1;
+  const std::vector<int> slots = LockedWith(workspace_.CurrentWindow);
+  if (slots.empty()) {
+    const int slot = workspace_.CurrentWindow;
+    if (!workspace_.HasVideo(slot)) return;
+    const int position = workspace_.MP(slot).CurrentFrame();
+    if (position != (Forward ? workspace_.MP(slot).VideoLength() - 1 : 0)) Show(slot, position + move);
+    return;
+  }
+  for (const int slot : slots) {
+    const int position = workspace_.MP(slot).Position();
+    if (Forward ? position >= Highest(slot) : position <= Lowest(slot)) return;
+  }
+  for (const int slot : slots) Show(slot, workspace_.MP(slot).Position() + move);
+}
+
+void LockedVideos::DualControlRewind() {
+  StopTogether();
+  for (const int slot : SlotsOf(LockOf(workspace_.CurrentWindow))) Show(slot, Lowest(slot));
+}
+
+void LockedVideos::DualControlScroll(int slot, int Position) {
+  StopTogether();
+  const std::vector<int> slots = LockedWith(slot);
+  if (slots.empty()) return;
+  const int lowest = Lowest(slot);
+  const int distance = std::clamp(Position - lowest, 0, std::max(0, Highest(slot) - lowest));
+  for (const int each : slots) Show(each, Lowest(each) + distance);
+}
+
+void LockedVideos::AdvancePartner(int slot) {
+  const int lock = LockOf(slot);
+  if (lock != kPairOneTwo && lock != kPairThreeFour) return;
+  const int partner = slot % 2 == 1 ? slot + 1 : slot - 1;
+  const AVIControl& player = workspace_.MP(partner);
+  if (player.Position() < player.VideoLength() - 1) Show(partner, player.Position() + 1);
+}
+
+// ---------------------------------------------------------------- playing together
+
+bool LockedVideos::PlayingTogether() const { return run_->Running(); }
+
+void LockedVideos::PlayTogether() {
+  if (run_->Running()) return StopTogether();
+  std::vector<int> slots = LockedWith(workspace_.CurrentWindow);
+  if (slots.empty()) return;
+  for (const int slot : slots) workspace_.MP(slot).StopPlay();
+  const int lead = slots.front();
+  const int last = std::max(0, Highest(lead) - Lowest(lead));
+  int distance = std::clamp(workspace_.MP(lead).Position() - Lowest(lead), 0, last);
+  if (distance >= last - 1) distance = 0;
+  run_->Begin(std::move(slots), distance, last, PositionTime(workspace_.MP(lead)) * 100 / speed_);
+  Tell();
+}
+
+void LockedVideos::StopTogether() {
+  if (!run_->Running()) return;
+  run_->End();
+  Tell();
+}
+
+bool LockedVideos::setTogetherSpeed(int percent) {
+  if (percent < 1 || percent > kFastest) return false;
+  speed_ = percent;
+  if (run_->Running()) run_->SetInterval(PositionTime(workspace_.MP(run_->Slots().front())) * 100 / speed_);
+  return true;
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,121 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "platform/host/Host.h"
+#include "video/PlayScheduler.h"
+#include "workspace/Workspace.h"
+
+namespace kinalyx {
+
+/// Holds videos together from the positions at which they stand: slots 1 and 2, slots 3 and 4, or all
+/// four. The distance between the positions is the synchronisation that the user chose; whatever moves
+/// locked videos together keeps it to the frame.
+class LockedVideos {
+ public:
+  LockedVideos(IHost& host, PlayScheduler& scheduler, Workspace& workspace);
+  ~LockedVideos();
+
+  // --- locking
+
+  /// Slots that a lock holds: element 0 slots 1 and 2, element 1 slots 3 and 4, element 2 all four.
+  std::array<bool, 3> DualLocked{};
+  /// Lowest and highest position of slot 1, lowest and highest of slot 2.
+  std::array<int, 4> LockRangeA{};
+  /// The same of slots 3 and 4.
+  std::array<int, 4> LockRangeB{};
+
+  /// Locks slots 1 and 2 (1), slots 3 and 4 (2) or all four (any other value), in place of a lock that
+  /// holds one of them. False, with nothing changed, when one of the slots is empty.
+  bool DualLock(int Which);
+  /// Ends the lock that holds a slot; a slot without one is ignored.
+  void DualUnlock(int slot);
+  /// Locks the pair of the current window, or unlocks what holds it. False when it has no pair, one of
+  /// the two is empty, or the layout shows a single window.
+  bool cmdDualPlay();
+  /// The same for all four.
+  bool LockAll();
+  /// Whether cmdDualPlay would do something.
+  bool CanLock() const;
+
+  /// While true the transport's own commands are refused for the slot.
+  bool IsLocked(int slot) const;
+  /// Some lock is in force.
+  bool DualPlaying() const { return DualLocked[0] || DualLocked[1] || DualLocked[2]; }
+
+  struct Bounds {
+    int lowest = 0;
+    int highest = 0;  ///< below `lowest` when the videos cannot move at all
+  };
+  /// Where a slot may move under its lock; nothing without one. The ends of the shared scroll bar.
+  std::optional<Bounds> BoundsOf(int slot) const;
+
+  // --- moving
+
+  /// 0 back one frame, 1 forward one frame, 2 rewind.
+  void DualControl_Click(int Index);
+  /// Moves the videos locked with the current window one position. At an end of the lock nothing moves.
+  /// A current window without a lock steps alone.
+  void DualControlStep(bool Forward);
+  /// Shows the lowest position of each video locked with the current window.
+  void DualControlRewind();
+  /// Brings a slot's video to a position inside its bounds, and those locked with it along.
+  void DualControlScroll(int slot, int Position);
+  /// Moves the partner of a slot locked in pairs one position on, unless it is on its last.
+  void AdvancePartner(int slot);
+
+  // --- playing together
+
+  /// Plays the videos locked with the current window by one clock, or pauses them. From the last
+  /// position, or the one before, they start at the first. Late positions are skipped for all alike; the
+  /// last is always drawn.
+  void PlayTogether();
+  void StopTogether();
+  bool PlayingTogether() const;
+  /// Percent of the current window's own speed, 1 to 1000; others are refused with false. A play goes on
+  /// at the new speed.
+  bool setTogetherSpeed(int percent);
+  int TogetherSpeed() const { return speed_; }
+  /// Begins anew at the end, until it is stopped.
+  void setTogetherRepeat(bool on) { repeat_ = on; }
+  bool TogetherRepeat() const { return repeat_; }
+
+  // --- from the workspace
+
+  /// A video leaves its slot.
+  void VideoClosing(int slot) { DualUnlock(slot); }
+  /// A locked video may count its positions in another way now (fields split or joined): the lock then
+  /// holds from where the videos stand.
+  void StateChanged();
+
+  /// A lock was made or ended, its bounds moved, or a common play began, ended or paused.
+  std::function<void()> Changed;
+
+ private:
+  class Run;
+
+  /// The lock that holds a slot, as an index of DualLocked; -1 for none.
+  int LockOf(int slot) const;
+  std::vector<int> SlotsOf(int lock) const;
+  /// The slots locked with this one, it first; empty without a lock.
+  std::vector<int> LockedWith(int slot) const;
+  int Lowest(int slot) const;
+  int Highest(int slot) const;
+  void SetRanges(const std::vector<int>& slots);
+  void Show(int slot, int position);
+  void Clear(int lock);
+  void Tell();
+
+  IHost& host_;
+  Workspace& workspace_;
+  std::unique_ptr<Run> run_;
+  std::array<int, 4> lengths_{};  ///< of the locked videos when their ranges were set
+  int speed_ = 100;
+  bool repeat_ = false;
+};
+
+}  // namespace kinalyx

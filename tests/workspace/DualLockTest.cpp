@@ -1,0 +1,191 @@
+#include "workspace/DualLock.h"
+
+#include <gtest/gtest.h>
+
+#include "CompareStage.h"
+
+namespace kinalyx {
+namespace {
+
+using test::CompareStage;
+using test::RawVideo;
+
+class DualLockTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    stage_.closing = [this](int slot) { lock_.VideoClosing(slot); };
+    stage_.stateChanged = [this] { lock_.StateChanged(); };
+    lock_.Changed = [this] { ++changes_; };
+  }
+  /// Puts videos of these lengths at these positions into slots 1, 2 and so on.
+  void Open(const std::vector<std::pair<int, int>>& videos) {
+    int slot = 0;
+    for (const auto& [frames, position] : videos) ASSERT_TRUE(stage_.Open(++slot, RawVideo(frames), position));
+  }
+  std::vector<int> Positions(int slots) {
+    std::vector<int> positions;
+    for (int slot = 1; slot <= slots; ++slot) positions.push_back(stage_.At(slot));
+    return positions;
+  }
+
+  CompareStage stage_{"4"};
+  LockedVideos lock_{stage_.host, stage_.scheduler, stage_.workspace};
+  int changes_ = 0;
+};
+
+TEST_F(DualLockTest, RangesReachAsFarAsTheShortestSide) {
+  const struct {
+    int frames1, at1, frames2, at2;
+    std::array<int, 4> range;
+  } cases[] = {
+      {100, 20, 50, 30, {0, 38, 10, 48}},
+      {100, 0, 50, 30, {0, 18, 30, 48}},   // nothing before slot 1: neither can go back
+      {30, 29, 30, 10, {19, 28, 0, 9}},    // nothing after slot 1: the highest lies below where it stands
+      {30, 12, 30, 12, {0, 28, 0, 28}},
+  };
+  for (const auto& pair : cases) {
+    Open({{pair.frames1, pair.at1}, {pair.frames2, pair.at2}});
+    ASSERT_TRUE(lock_.DualLock(1));
+    EXPECT_EQ(lock_.LockRangeA, pair.range);
+    lock_.DualUnlock(1);
+  }
+}
+
+TEST_F(DualLockTest, PairStepsUpToItsBoundsAndNoFurther) {
+  Open({{100, 2}, {50, 40}});
+  stage_.workspace.CurrentWindow = 2;
+  ASSERT_TRUE(lock_.cmdDualPlay());
+  EXPECT_TRUE(lock_.IsLocked(1));
+  EXPECT_FALSE(lock_.IsLocked(3));
+  for (int step = 0; step < 5; ++step) lock_.DualControl_Click(0);
+  EXPECT_EQ(Positions(2), (std::vector{0, 38}));
+  for (int step = 0; step < 20; ++step) lock_.DualControl_Click(1);
+  EXPECT_EQ(Positions(2), (std::vector{10, 48}));  // one short of the last picture of slot 2
+  lock_.DualControl_Click(2);
+  EXPECT_EQ(Positions(2), (std::vector{0, 38}));
+
+  // The shared bar takes both along and stops at the bounds.
+  lock_.DualControlScroll(2, 44);
+  EXPECT_EQ(Positions(2), (std::vector{6, 44}));
+  lock_.DualControlScroll(2, 1000);
+  EXPECT_EQ(Positions(2), (std::vector{10, 48}));
+  EXPECT_EQ(lock_.BoundsOf(2)->lowest, 38);
+  EXPECT_EQ(lock_.BoundsOf(2)->highest, 48);
+  EXPECT_FALSE(lock_.BoundsOf(5));
+
+  lock_.AdvancePartner(2);
+  EXPECT_EQ(Positions(2), (std::vector{11, 48}));
+}
+
+TEST_F(DualLockTest, PairLockMovesOnlyFromItsOwnWindows) {
+  Open({{20, 5}, {20, 6}, {20, 7}, {20, 8}});
+  ASSERT_TRUE(lock_.DualLock(1));
+  stage_.workspace.CurrentWindow = 3;
+  lock_.DualControlStep(true);  // slot 3 alone
+  EXPECT_EQ(Positions(4), (std::vector{5, 6, 8, 8}));
+  ASSERT_TRUE(lock_.DualLock(2));
+  EXPECT_TRUE(lock_.DualLocked[0] && lock_.DualLocked[1]);
+  lock_.DualControlStep(false);
+  EXPECT_EQ(Positions(4), (std::vector{5, 6, 7, 7}));
+  lock_.DualUnlock(3);
+  EXPECT_TRUE(lock_.DualPlaying());
+  lock_.DualUnlock(2);
+  EXPECT_FALSE(lock_.DualPlaying());
+}
+
+TEST_F(DualLockTest, GroupHoldsAllFourAndReplacesThePairs) {
+  Open({{20, 5}, {20, 6}, {20, 2}});
+  EXPECT_FALSE(lock_.LockAll());  // slot 4 is empty
+  EXPECT_FALSE(lock_.DualLock(2));
+  EXPECT_FALSE(lock_.DualPlaying());
+  ASSERT_TRUE(stage_.Open(4, RawVideo(30), 16));
+  ASSERT_TRUE(lock_.DualLock(1));
+  ASSERT_TRUE(lock_.LockAll());
+  EXPECT_EQ(lock_.DualLocked, (std::array{false, false, true}));
+  EXPECT_EQ(lock_.LockRangeA, (std::array{3, 17, 4, 18}));
+  EXPECT_EQ(lock_.LockRangeB, (std::array{0, 14, 14, 28}));
+  stage_.workspace.CurrentWindow = 4;
+  std::vector<int> order;
+  stage_.signalled = [&](int slot) { order.push_back(slot); };
+  lock_.DualControlStep(true);
+  EXPECT_EQ(order, (std::vector{4, 1, 2, 3}));  // the current window first
+  EXPECT_EQ(Positions(4), (std::vector{6, 7, 3, 17}));
+}
+
+TEST_F(DualLockTest, LockIsRefusedOrEndsWithItsVideos) {
+  Open({{20, 5}});
+  EXPECT_FALSE(lock_.CanLock());
+  EXPECT_FALSE(lock_.cmdDualPlay());
+  EXPECT_EQ(changes_, 0);
+  ASSERT_TRUE(stage_.Open(2, RawVideo(20), 5));
+  stage_.workspace.SetScreen(1);
+  EXPECT_FALSE(lock_.CanLock());  // one window shows no pair
+  stage_.workspace.SetScreen(2);
+  ASSERT_TRUE(lock_.cmdDualPlay());
+  lock_.PlayTogether();
+  ASSERT_TRUE(stage_.workspace.CloseVideo(2));
+  EXPECT_FALSE(lock_.IsLocked(1));
+  EXPECT_FALSE(lock_.PlayingTogether());
+  stage_.host.Advance(1000);  // nothing of the play is left behind
+  EXPECT_EQ(stage_.At(1), 5);
+}
+
+TEST_F(DualLockTest, SplittingFieldsKeepsTheLockWhereTheVideosStand) {
+  Open({{20, 5}, {20, 6}});
+  ASSERT_TRUE(lock_.cmdDualPlay());
+  stage_.workspace.CurrentWindow = 2;
+  stage_.workspace.ToggleSplitFields();
+  EXPECT_EQ(Positions(2), (std::vector{5, 12}));
+  EXPECT_EQ(lock_.LockRangeA, (std::array{0, 18, 7, 25}));
+}
+
+TEST_F(DualLockTest, PlayTogetherKeepsTheOffsetAtEverySpeed) {
+  Open({{60, 10}, {60, 25}});
+  ASSERT_TRUE(lock_.cmdDualPlay());
+  for (const int percent : {100, 30, 250}) {
+    lock_.DualControlRewind();
+    ASSERT_TRUE(lock_.setTogetherSpeed(percent));
+    int drawn = 0;
+    int widest = 0;
+    stage_.signalled = [&](int slot) {
+      ++drawn;
+      if (slot == 2) widest = std::max(widest, std::abs(stage_.At(2) - stage_.At(1) - 15));
+    };
+    lock_.PlayTogether();
+    stage_.host.Advance(200);
+    const int wanted = 200 * 30 * percent / 100 / 1000;  // 30 pictures a second
+    EXPECT_EQ(stage_.At(1), wanted) << percent << " percent";
+    EXPECT_EQ(stage_.At(2), wanted + 15);
+    EXPECT_EQ(drawn % 2, 0);
+    EXPECT_EQ(widest, 0);
+    lock_.StopTogether();
+    stage_.host.Advance(500);
+    EXPECT_EQ(stage_.At(1), wanted);
+  }
+  EXPECT_FALSE(lock_.setTogetherSpeed(0));
+}
+
+TEST_F(DualLockTest, PlayTogetherEndsOnTheLastOrBeginsAnew) {
+  Open({{30, 0}, {24, 0}});
+  ASSERT_TRUE(lock_.cmdDualPlay());  // 0 to 22 both
+  lock_.PlayTogether();
+  stage_.host.now += 500;  // a slow machine skips, but shows the last
+  stage_.host.Advance(5000);
+  EXPECT_EQ(Positions(2), (std::vector{22, 22}));
+  EXPECT_FALSE(lock_.PlayingTogether());
+
+  lock_.setTogetherRepeat(true);
+  lock_.PlayTogether();  // from the end it starts at the first
+  EXPECT_EQ(Positions(2), (std::vector{0, 0}));
+  stage_.host.Advance(1010);
+  EXPECT_TRUE(lock_.PlayingTogether());
+  EXPECT_EQ(Positions(2), (std::vector{7, 7}));  // 23 positions, then seven more
+
+  stage_.MP(2).Play(0, 20);  // a video set going by its own control ends the common play
+  stage_.host.Advance(100);
+  EXPECT_FALSE(lock_.PlayingTogether());
+  EXPECT_TRUE(stage_.MP(2).IsPlaying());
+}
+
+}  // namespace
+}  // namespace kinalyx
