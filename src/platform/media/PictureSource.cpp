@@ -71,11 +71,10 @@ void PictureSource::MoveFocus(int picture) {
   if (delta > kStepForward || delta < -kStepBack) {
     step_ = 1;
     stretch_.reset();
-  } else if (delta < 0) {
-    step_ = -1;
   } else {
     // Pictures that a fast play passes over are not worth decoding, where that can be helped.
-    step_ = immediate_ && delta == lastDelta_ ? delta : 1;
+    const int single = delta < 0 ? -1 : 1;
+    step_ = immediate_ && delta == lastDelta_ ? delta : single;
   }
   lastDelta_ = delta;
 }
@@ -122,29 +121,32 @@ void PictureSource::TakeShare() {
 std::optional<PictureSource::Task> PictureSource::Choose() {
   if (wanted_ >= 0 && !IsKnown(wanted_)) {
     const bool onTheWay = stretch_ && wanted_ >= stretch_->next && wanted_ < stretch_->end;
-    if (!onTheWay && (step_ > 0 || thorough_)) return Task{false, wanted_, thorough_ ? 0 : wanted_};
+    if (!onTheWay && (immediate_ || step_ > 0 || thorough_)) return Task{false, wanted_, thorough_ ? 0 : wanted_};
     if (!onTheWay) stretch_ = StretchBelow(wanted_ + 1);
     return NextOfStretch();
   }
-  if (step_ > 0) {
+  if (immediate_ || step_ > 0) {
     if (const auto ahead = NextAhead()) return Task{false, *ahead, *ahead};
   }
-  if (!stretch_ && !WantsStretch()) return std::nullopt;
+  if (immediate_ || (!stretch_ && !WantsStretch())) return std::nullopt;
   return NextOfStretch();
 }
 
-/// The next picture to be decoded ahead; nothing while there are enough.
+/// The next picture to be decoded ahead, in the direction of the steps; nothing while there are enough.
 std::optional<int> PictureSource::NextAhead() {
   const int window = std::clamp(store_.Fitting(share_, kLeastPictures) / 3, 1, kAhead);
   for (int i = 1; i <= window; ++i) {
     const int picture = focus_ + i * step_;
-    if (picture >= readableEnd_) break;
+    if (picture < 0 || picture >= readableEnd_) break;
     if (IsKnown(picture)) continue;
     // Waking for every single picture costs more than it brings.
     if (i <= window / 2 + 1) fillingAhead_ = true;
     return fillingAhead_ ? std::optional(picture) : std::nullopt;
   }
   fillingAhead_ = false;
+  // Where a jump led, the first step may go back.
+  const int behind = focus_ - (step_ > 0 ? 1 : -1);
+  if (immediate_ && behind >= 0 && behind < readableEnd_ && !IsKnown(behind)) return behind;
   return std::nullopt;
 }
 
