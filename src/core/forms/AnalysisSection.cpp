@@ -1,0 +1,172 @@
+#include "core/forms/AnalysisSection.h"
+
+#include <QBoxLayout>
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QColorDialog>
+#include <QGridLayout>
+#include <QSlider>
+
+#include "core/forms/Choices.h"
+#include "platform/widgets/Buttons.h"
+#include "platform/widgets/Panel.h"
+#include "platform/widgets/Theme.h"
+
+namespace kinalyx {
+
+namespace {
+
+struct LayoutChoice {
+  int mode;
+  const char* icon;
+  const char* tip;
+};
+
+constexpr LayoutChoice kLayouts[] = {
+    {1, "single", "Single"}, {2, "double", "Double"}, {3, "triple-triangular", "Triple"}, {4, "quad", "Quad"},
+    {5, "triple", "Triple, side by side"},  {6, "six", "Six"},       {8, "eight", "Eight"},
+};
+
+struct Tool {
+  int index;
+  const char* caption;
+};
+
+constexpr int kPathDown = 17;
+constexpr Tool kTools[] = {
+    {0, "Freehand"},       {1, "Plus Sign"},  {2, "Square"},     {3, "Line"},   {4, "Circle"}, {5, "Angle"},
+    {6, "Path Trace"},     {kPathDown, "PathDown"}, {7, "Parallelogram"}, {8, "Shade Zone"}, {9, "Clock Grid"},
+    {10, "Arrow"},         {11, "Grid"},
+};
+
+constexpr int kWidest = 10;  // pixels that a line can be chosen to have
+constexpr int kFewestCells = 2;
+constexpr int kMostCells = 100;
+
+std::optional<QColor> AskColour(QWidget* parent, const QColor& present, const QString& title) {
+  const QColor chosen = QColorDialog::getColor(present, parent, title, QColorDialog::DontUseNativeDialog);
+  return chosen.isValid() ? std::optional(chosen) : std::nullopt;
+}
+
+}  // namespace
+
+AnalysisSection::AnalysisSection(Settings& settings, QWidget* parent)
+    : SetupSection("AnalysisSection", settings, parent) {
+  pickColour = [this](const QColor& present, const QString& title) { return AskColour(this, present, title); };
+  AddLayouts();
+  AddPlaying();
+  AddDrawing();
+  AddColours();
+  Finish();
+}
+
+void AnalysisSection::AddLayouts() {
+  QVBoxLayout* rows = AddPanel(0, "Opening");
+  rows->addWidget(MakeLabel({}, "Windows at the start", "caption"));
+  auto* strip = new QHBoxLayout;
+  strip->setSpacing(6);
+  layouts_ = new QButtonGroup(this);
+  for (const LayoutChoice& choice : kLayouts) {
+    Button* button = IconButton(QString("ScreenOpt%1").arg(choice.mode), choice.icon, choice.tip, Look::Quiet);
+    button->setCheckable(true);
+    layouts_->addButton(button, choice.mode);
+    strip->addWidget(button);
+  }
+  strip->addStretch(1);
+  rows->addLayout(strip);
+  rows->addSpacing(6);
+  rows->addWidget(MakeLabel({}, "List of videos to open", "caption"));
+  sides_ = AddRadios(*rows, "ODSetupOpt", {"On the right side", "On the left side", "Classic window in the middle"});
+  connect(layouts_, &QButtonGroup::idClicked, this,
+          [this](int mode) { StoreAndTell(settings_.ScreenMode, std::to_string(mode)); });
+  connect(sides_, &QButtonGroup::idClicked, this, [this](int side) { StoreAndTell(settings_.OpenDlgChoice, side); });
+}
+
+void AnalysisSection::AddPlaying() {
+  QVBoxLayout* rows = AddPanel(0, "Slow Motion and Grid");
+  slomo_ = AddSlider(
+      *rows, "Slomoscroll", "Slow motion speed", 1, 100, " %",
+      [this](int value) {
+        if (!settings_.Loading) settings_.SlomoSpeed = static_cast<std::int16_t>(value);
+      },
+      [this](int value) { StoreAndTell(settings_.SlomoSpeed, static_cast<std::int16_t>(value)); });
+  grid_ = AddSlider(
+      *rows, "GridSizeScroll", "Columns of the grid over the picture", kFewestCells, kMostCells, {},
+      [this](int value) {
+        if (!settings_.Loading) settings_.GridSize = static_cast<std::int16_t>(value);
+      },
+      [this](int value) { StoreAndTell(settings_.GridSize, static_cast<std::int16_t>(value)); });
+}
+
+void AnalysisSection::AddDrawing() {
+  QVBoxLayout* rows = AddPanel(0, "Lines");
+  rows->addWidget(MakeLabel({}, "Width of drawings", "caption"));
+  auto* grid = new QGridLayout;
+  grid->setSpacing(6);
+  widths_ = new QButtonGroup(this);
+  for (int width = 1; width <= kWidest; ++width) {
+    auto* button = new WidthButton(QString("Check1_%1").arg(width), width);
+    widths_->addButton(button, width);
+    grid->addWidget(button, (width - 1) / 5, (width - 1) % 5);
+  }
+  rows->addLayout(grid);
+  rows->addSpacing(4);
+  outline_ = new QCheckBox("Dark outline around drawings");
+  outline_->setObjectName("CadOutlineCheck");
+  rows->addWidget(outline_);
+  connect(widths_, &QButtonGroup::idClicked, this, [this](int width) { StoreAndTell(settings_.CadWidth, width); });
+  connect(outline_, &QCheckBox::toggled, this, [this](bool on) { StoreAndTell(settings_.CadOutline, on); });
+}
+
+void AnalysisSection::AddColours() {
+  QVBoxLayout* rows = AddPanel(1, "Colors of the Drawing Tools");
+  colouring_ = AddRadios(*rows, "DCSetupOpt", {"Each tool has its own color", "Random colors, one after the other"});
+  rows->addSpacing(6);
+  auto* grid = new QGridLayout;
+  grid->setSpacing(8);
+  int place = 0;
+  for (const Tool& tool : kTools) {
+    const QString title = QString("Change %1 Color").arg(tool.caption);
+    auto* button = new ColourButton(QString("NewColor%1").arg(tool.index), tool.caption);
+    button->setToolTip(title);
+    connect(button, &QAbstractButton::clicked, this, [this, index = tool.index, title] { NewColor_Click(index, title); });
+    grid->addWidget(button, place / 2, place % 2);
+    colours_[tool.index] = button;
+    ++place;
+  }
+  rows->addLayout(grid);
+  connect(colouring_, &QButtonGroup::idClicked, this, [this](int mode) { StoreAndTell(settings_.RandomColor, mode); });
+}
+
+void AnalysisSection::SetupProgram() {
+  // A number that no button stands for leaves a group without a choice.
+  const auto choose = [](QButtonGroup* group, int id) {
+    group->setExclusive(false);
+    for (QAbstractButton* button : group->buttons()) button->setChecked(group->id(button) == id);
+    group->setExclusive(true);
+  };
+  choose(layouts_, settings_.ScreenModeNumber());
+  choose(sides_, settings_.OpenDlgChoice);
+  choose(widths_, settings_.CadWidth);
+  choose(colouring_, settings_.RandomColor);
+  slomo_->setValue(settings_.SlomoSpeed);
+  grid_->setValue(settings_.GridSize);
+  outline_->setChecked(settings_.CadOutline);
+  for (const auto& [index, button] : colours_) {
+    const std::int32_t colour =
+        index == kPathDown ? settings_.PathDownColor : settings_.NewColors[static_cast<std::size_t>(index)];
+    button->SetColour(ColorOf(colour));
+  }
+}
+
+void AnalysisSection::NewColor_Click(int index, const QString& title) {
+  if (settings_.Loading) return;
+  const auto chosen = pickColour(colours_[index]->Colour(), title);
+  if (!chosen) return;
+  const std::int32_t colour = ColourOf(*chosen);
+  settings_.SetNewColor(index, colour);
+  colours_[index]->SetColour(*chosen);
+  emit AnalysisChanged();
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QColor>
+#include <functional>
+#include <map>
+#include <optional>
+
+#include "core/forms/SetupSection.h"
+
+class QButtonGroup;
+class QCheckBox;
+
+namespace kinalyx {
+
+class ColourButton;
+
+/// How the analysis section opens, plays and draws.
+class AnalysisSection : public SetupSection {
+  Q_OBJECT
+
+ public:
+  explicit AnalysisSection(Settings& settings, QWidget* parent = nullptr);
+
+  void SetupProgram() override;
+
+  /// Asks for a colour; the dialog of the program unless it is set otherwise.
+  std::function<std::optional<QColor>(const QColor& present, const QString& title)> pickColour;
+
+ signals:
+  /// A setting of the analysis section has changed.
+  void AnalysisChanged();
+
+ private:
+  void AddLayouts();
+  void AddPlaying();
+  void AddDrawing();
+  void AddColours();
+  void NewColor_Click(int index, const QString& title);
+
+  template <typename T>
+  void StoreAndTell(T& setting, std::type_identity_t<T> value) {
+    if (Store(setting, value)) emit AnalysisChanged();
+  }
+
+  QButtonGroup* layouts_ = nullptr;
+  QButtonGroup* sides_ = nullptr;
+  QButtonGroup* widths_ = nullptr;
+  QButtonGroup* colouring_ = nullptr;
+  QSlider* slomo_ = nullptr;
+  QSlider* grid_ = nullptr;
+  QCheckBox* outline_ = nullptr;
+  std::map<int, ColourButton*> colours_;
+};
+
+}  // namespace kinalyx

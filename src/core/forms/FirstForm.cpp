@@ -1,0 +1,96 @@
+#include "core/forms/FirstForm.h"
+
+#include <QBoxLayout>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScreen>
+
+#include "core/MailSettings.h"
+#include "core/Settings.h"
+#include "platform/widgets/Buttons.h"
+#include "platform/widgets/Panel.h"
+#include "platform/widgets/Theme.h"
+
+namespace kinalyx {
+
+namespace {
+
+/// What the settings hold before anybody has given a company.
+constexpr const char* kNoCompany = "Company Name";
+
+QLineEdit* AddBox(QVBoxLayout& rows, const QString& name, const QString& words) {
+  QLabel* label = MakeLabel(name + "Lbl", words, "caption");
+  auto* box = new QLineEdit;
+  box->setObjectName(name);
+  box->setMaxLength(149);
+  label->setBuddy(box);
+  rows.addWidget(label);
+  rows.addWidget(box);
+  rows.addSpacing(6);
+  return box;
+}
+
+}  // namespace
+
+FirstForm::FirstForm(Settings& settings, MailSettings& mail, QWidget* over)
+    : QDialog(over), settings_(settings), mail_(mail) {
+  setObjectName("FirstForm");
+  setWindowTitle("Kinalyx Initial Setup");
+  setModal(true);
+  setFixedWidth(440);
+
+  auto* rows = new QVBoxLayout(this);
+  rows->setContentsMargins(28, 26, 28, 24);
+  rows->setSpacing(5);
+  rows->addWidget(MakeLabel("TitleLbl", "Welcome to Kinalyx", "title"));
+  QLabel* words = MakeLabel("IntroLbl", "Both appear on printouts and in your mails. They can be changed at any time "
+                                        "under Program Setup.", "muted");
+  words->setWordWrap(true);
+  rows->addWidget(words);
+  rows->addSpacing(12);
+  name_ = AddBox(*rows, "UserInfo0", "Enter Your Name Here");
+  company_ = AddBox(*rows, "UserInfo1", "Enter Your Company Name Here");
+  rows->addSpacing(10);
+  auto* actions = new QHBoxLayout;
+  actions->addStretch(1);
+  auto* finished = new Button("SSCommand1", "Finished");
+  finished->setDefault(true);
+  actions->addWidget(finished);
+  rows->addLayout(actions);
+
+  // Known already when the settings of an older version were taken over.
+  if (!settings_.UserName.empty()) {
+    name_->setText(QString::fromStdString(settings_.UserName));
+    settings_.Set(settings_.UserName, settings_.UserName);
+  }
+  if (!settings_.CompanyName.empty() && settings_.CompanyName != kNoCompany) {
+    company_->setText(QString::fromStdString(settings_.CompanyName));
+    settings_.Set(settings_.CompanyName, settings_.CompanyName);
+  }
+
+  connect(name_, &QLineEdit::textChanged, this,
+          [this](const QString& text) { settings_.Set(settings_.UserName, text.toStdString()); });
+  connect(company_, &QLineEdit::textChanged, this, [this](const QString& text) {
+    settings_.Set(settings_.CompanyName, text.toStdString());
+    emit CompanyChanged(text);
+  });
+  connect(finished, &QPushButton::clicked, this, &FirstForm::Finish);
+}
+
+void FirstForm::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  adjustSize();
+  const QWidget* over = parentWidget() ? parentWidget()->window() : nullptr;
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  const QRect middle = over ? over->frameGeometry() : screen ? screen->geometry() : rect();
+  move(middle.center() - rect().center());
+  name_->setFocus();
+}
+
+void FirstForm::Finish() {
+  mail_.TakeSender(settings_.UserName, settings_.CompanyName);
+  accept();
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QDialog>
+
+class QLineEdit;
+
+namespace kinalyx {
+
+class MailSettings;
+class Settings;
+
+/// Asks a new user for name and company, on the very first start. Every change is kept at once; "Finished"
+/// also makes them the sender and the subject of mails.
+class FirstForm : public QDialog {
+  Q_OBJECT
+
+ public:
+  /// @param over  the window in whose middle the form stands
+  FirstForm(Settings& settings, MailSettings& mail, QWidget* over = nullptr);
+
+ signals:
+  void CompanyChanged(const QString& company);
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  void Finish();
+
+  Settings& settings_;
+  MailSettings& mail_;
+  QLineEdit* name_ = nullptr;
+  QLineEdit* company_ = nullptr;
+};
+
+}  // namespace kinalyx

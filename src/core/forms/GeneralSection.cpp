@@ -1,0 +1,187 @@
+#include "core/forms/GeneralSection.h"
+
+#include <QBoxLayout>
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+
+#include "core/ColorSchemes.h"
+#include "core/LibraryPath.h"
+#include "core/SystemTests.h"
+#include "core/Vocabulary.h"
+#include "core/WindowModes.h"
+#include "core/forms/Choices.h"
+#include "platform/host/Host.h"
+#include "platform/widgets/Buttons.h"
+#include "platform/widgets/Figures.h"
+#include "platform/widgets/Panel.h"
+#include "platform/widgets/Theme.h"
+
+namespace kinalyx {
+
+namespace {
+
+QString Text(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
+
+/// Shows a text without moving the cursor of somebody who is typing the same.
+void ShowText(QLineEdit* box, const std::string& text) {
+  if (box->text() != Text(text)) box->setText(Text(text));
+}
+
+}  // namespace
+
+GeneralSection::GeneralSection(IHost& host, Settings& settings, ColorSchemes& schemes, QWidget* parent)
+    : SetupSection("GeneralSection", settings, parent), host_(host), schemes_(schemes) {
+  AddWho();
+  AddWindow();
+  AddLibrary();
+  AddColours();
+  AddSystemTest();
+  Finish();
+}
+
+void GeneralSection::AddWho() {
+  QVBoxLayout* rows = AddPanel(0, "You and Your Company");
+  name_ = AddText(*rows, "UserNameBox", "Your name");
+  company_ = AddText(*rows, "CompanyNameBox", "Company name");
+  noun_ = AddText(*rows, "Text3", "The people you work with are called, one of them");
+  noun_->setPlaceholderText("Student");
+  connect(name_, &QLineEdit::textChanged, this,
+          [this](const QString& text) { Store(settings_.UserName, text.toStdString()); });
+  connect(company_, &QLineEdit::textChanged, this, [this](const QString& text) {
+    if (Store(settings_.CompanyName, text.toStdString())) emit CompanyChanged(text);
+  });
+  connect(noun_, &QLineEdit::editingFinished, this, &GeneralSection::Text3_LostFocus);
+}
+
+void GeneralSection::AddWindow() {
+  QVBoxLayout* rows = AddPanel(0, "Window");
+  resolution_ = new QComboBox;
+  resolution_->setObjectName("cboResolution");
+  resolution_->setAccessibleName("Window mode");
+  for (const WindowModeItem& item : WindowModeItems()) resolution_->addItem(Text(item.text), Text(item.mode));
+  rows->addWidget(resolution_);
+  QLabel* note = MakeLabel({}, "Kinalyx starts anew to change its window.", "caption");
+  rows->addWidget(note);
+  connect(resolution_, &QComboBox::currentIndexChanged, this, &GeneralSection::cboResolution_Click);
+}
+
+void GeneralSection::AddColours() {
+  QVBoxLayout* rows = AddPanel(1, "Colors");
+  auto* grid = new QGridLayout;
+  grid->setSpacing(8);
+  designs_ = new QButtonGroup(this);
+  int index = 0;
+  for (const ColorScheme& scheme : ColorSchemes::All()) {
+    std::array<QColor, 4> colours;
+    for (std::size_t i = 0; i < colours.size(); ++i) colours[i] = ColorOf(scheme.colours[i]);
+    auto* choice = new SchemeButton(QString("optLayout%1").arg(index), Text(scheme.caption), colours);
+    choice->setCheckable(true);
+    designs_->addButton(choice, index);
+    grid->addWidget(choice, index / 2, index % 2);
+    ++index;
+  }
+  rows->addLayout(grid);
+  connect(designs_, &QButtonGroup::idClicked, this, &GeneralSection::optLayout_Click);
+}
+
+void GeneralSection::AddLibrary() {
+  QVBoxLayout* rows = AddPanel(0, "Video Library");
+  network_ = new QCheckBox("Network Server Enabled");
+  network_->setObjectName("SSCheck4");
+  network_->setToolTip("Keep the videos in a folder of your choice, for example on a server");
+  rows->addWidget(network_);
+  path_ = AddText(*rows, "Networktext", "Folder of the videos");
+  path_->setReadOnly(true);
+  connect(network_, &QCheckBox::clicked, this, &GeneralSection::SSCheck4_Click);
+}
+
+void GeneralSection::AddSystemTest() {
+  QVBoxLayout* rows = AddPanel(1, "System Test");
+  auto* run = new Button("SystemTestBtn", "Run System Test", "check");
+  auto* row = new QHBoxLayout;
+  row->addWidget(run);
+  row->addStretch(1);
+  rows->addLayout(row);
+  results_ = new QWidget;
+  auto* grid = new QGridLayout(results_);
+  grid->setContentsMargins(0, 8, 0, 0);
+  grid->setHorizontalSpacing(kGap);
+  grid->setVerticalSpacing(10);
+  grid->setColumnStretch(2, 1);
+  for (int i = 0; i < 5; ++i) {
+    titles_[i] = MakeLabel({}, {}, "muted");
+    texts_[i] = new FigureLabel(QString("Label1_%1").arg(i));
+    texts_[i]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    gauges_[i] = new Gauge(QString("FloodPanel%1").arg(i));
+    grid->addWidget(titles_[i], i, 0);
+    grid->addWidget(texts_[i], i, 1);
+    grid->addWidget(gauges_[i], i, 2);
+  }
+  results_->hide();
+  rows->addWidget(results_);
+  connect(run, &QPushButton::clicked, this, &GeneralSection::RunSystemTest);
+}
+
+void GeneralSection::SetupProgram() {
+  ShowText(name_, settings_.UserName);
+  ShowText(company_, settings_.CompanyName);
+  ShowText(noun_, settings_.PrimaryName[0]);
+  // A mode that the list does not offer leaves it without a choice.
+  resolution_->setCurrentIndex(resolution_->findData(Text(settings_.WindowMode)));
+  if (QAbstractButton* design = designs_->button(schemes_.Design())) design->setChecked(true);
+  network_->setChecked(settings_.UseNetwork);
+  path_->setText(Text(settings_.LibraryPath));
+  path_->setCursorPosition(0);
+  path_->setToolTip(path_->text());
+}
+
+void GeneralSection::Text3_LostFocus() {
+  if (settings_.Loading) return;
+  const QString text = noun_->text().trimmed();
+  if (text.isEmpty()) {
+    noun_->setText(Text(settings_.PrimaryName[0]));  // no page could be named without a word
+  } else if (SetPrimaryName(settings_, text.toStdString())) {
+    emit VocabularyChanged();
+  }
+}
+
+void GeneralSection::cboResolution_Click(int row) {
+  if (settings_.Loading || row < 0) return;
+  if (ChooseWindowMode(settings_, resolution_->itemData(row).toString().toStdString())) emit RestartWanted();
+}
+
+void GeneralSection::optLayout_Click(int index) {
+  if (!Store(settings_.Design, std::to_string(index))) return;
+  schemes_.ApplyDesign(settings_.Design);
+  emit DesignChanged();
+}
+
+void GeneralSection::SSCheck4_Click(bool on) {
+  if (settings_.Loading) return;
+  const std::string before = settings_.LibraryPath;
+  if (on) {
+    SwitchNetworkOn(host_, settings_);
+  } else {
+    SwitchNetworkOff(settings_);
+  }
+  network_->setChecked(settings_.UseNetwork);
+  path_->setText(Text(settings_.LibraryPath));
+  path_->setToolTip(path_->text());
+  if (settings_.LibraryPath != before) emit LibraryChanged();
+}
+
+void GeneralSection::RunSystemTest() {
+  const auto rows = SystemTests(host_, settings_);
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    titles_[i]->setText(Text(rows[i].title));
+    texts_[i]->setText(Text(rows[i].text));
+    gauges_[i]->Show(ColorOf(rows[i].colour), rows[i].percent);
+  }
+  results_->show();
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,154 @@
+#include "core/forms/MenuCanvas.h"
+
+#include <QFontMetricsF>
+#include <QImageReader>
+#include <QPainter>
+#include <QPainterPath>
+#include <algorithm>
+
+#include "core/MenuPicture.h"
+#include "platform/widgets/Theme.h"
+
+namespace kinalyx {
+
+namespace {
+
+// The second line carries the name, and the others lead to it.
+constexpr int kNameLine = 1;
+constexpr int kLongestSide = 4096;
+
+QFont HeadingFont(int line, double pixels) {
+  QFont font = UiFont(12, line == kNameLine ? 700 : 300);
+  font.setPixelSize(std::max(1, qRound(pixels)));
+  return font;
+}
+
+double WidestLine(const QStringList& lines, double pixels) {
+  double widest = 0;
+  for (int i = 0; i < lines.size(); ++i)
+    widest = std::max(widest, QFontMetricsF(HeadingFont(i, pixels)).horizontalAdvance(lines[i]));
+  return widest;
+}
+
+QPixmap ReadPicture(const QString& file) {
+  QImageReader reader(file);
+  reader.setAutoTransform(true);
+  reader.setDecideFormatFromContent(true);
+  const QSize size = reader.size();
+  if (std::max(size.width(), size.height()) > kLongestSide)
+    reader.setScaledSize(size.scaled(kLongestSide, kLongestSide, Qt::KeepAspectRatio));
+  return QPixmap::fromImage(reader.read());
+}
+
+}  // namespace
+
+MenuCanvas::MenuCanvas(const QString& name, QWidget* parent) : QWidget(parent) {
+  setObjectName(name);
+  setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void MenuCanvas::SetupMenu(IHost& host, Settings& settings) {
+  const QString file = QString::fromStdString(CheckBackground(host, settings));
+  if (file != file_ || picture_.isNull()) {
+    file_ = file;
+    picture_ = file.isEmpty() ? QPixmap() : ReadPicture(file);
+    scaled_ = QPixmap();
+  }
+  SetupCaptionLabels(settings);
+}
+
+void MenuCanvas::SetupCaptionLabels(const Settings& settings) {
+  lines_.clear();
+  for (std::size_t i = 1; i <= 5; ++i) lines_ << QString::fromStdString(settings.Heading[i]).trimmed();
+  position_ = settings.CaptionPosition;
+  setAccessibleName(lines_.join(' ').simplified());
+  update();
+}
+
+void MenuCanvas::SetSample(bool on) {
+  sample_ = on;
+  update();
+}
+
+int MenuCanvas::SideMargin() const { return qRound(width() * (width() < 1000 ? 0.025 : 0.055)); }
+
+void MenuCanvas::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  if (picture_.isNull()) {
+    PaintGround(painter);
+  } else {
+    // Filling the page and cut at the edges: a face must not grow wide with the window.
+    const qreal ratio = devicePixelRatioF();
+    const QSize wanted = size() * ratio;
+    const QSize filled = picture_.size().scaled(wanted, Qt::KeepAspectRatioByExpanding);
+    if (scaled_.size() != filled) scaled_ = picture_.scaled(filled, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const QPoint corner((filled.width() - wanted.width()) / 2, (filled.height() - wanted.height()) / 2);
+    painter.drawPixmap(rect(), scaled_, QRect(corner, wanted));
+  }
+  PaintHeading(painter);
+  if (sample_) PaintSample(painter);
+}
+
+void MenuCanvas::PaintGround(QPainter& painter) const {
+  const Theme theme = CurrentTheme();
+  QLinearGradient ground(rect().topLeft(), rect().bottomRight());
+  ground.setColorAt(0, Mix(theme.accent, Qt::black, 0.45));
+  ground.setColorAt(0.5, theme.accent);
+  ground.setColorAt(1, Mix(theme.accent, theme.panel, 0.45));
+  painter.fillRect(rect(), ground);
+  const QPointF pivot(width() * 0.72, height() * 0.72);
+  for (int i = 0; i < 3; ++i) {
+    const double radius = height() * (0.32 + 0.09 * i);
+    QColor ink = theme.panel;
+    ink.setAlphaF(0.45 - 0.12 * i);
+    painter.setPen(QPen(ink, height() / 260.0 * (i == 1 ? 1.4 : 0.8), Qt::SolidLine, Qt::RoundCap));
+    painter.drawArc(QRectF(pivot.x() - radius, pivot.y() - radius, 2 * radius, 2 * radius), (34 - 4 * i) * 16, 146 * 16);
+  }
+}
+
+void MenuCanvas::PaintHeading(QPainter& painter) const {
+  const int count = static_cast<int>(lines_.size());
+  const double side = SideMargin();
+  const QRectF room(side, height() * 0.09, width() - 2 * side, height() * (1 - 0.09 - kButtonRoom - 0.05));
+  double pixels = std::min(height() * 0.053, 72.0);
+  const double widest = WidestLine(lines_, pixels);
+  if (widest > room.width()) pixels *= room.width() / widest;
+
+  const CaptionPlace place = PlaceOfCaption(position_);
+  const double lineHeight = pixels * 1.25;
+  const double blockWidth = WidestLine(lines_, pixels);
+  const double left = room.left() + place.across * (room.width() - blockWidth);
+  const double top = room.top() + place.down * (room.height() - lineHeight * count);
+  const Qt::Alignment side3 =
+      place.across < 0.4 ? Qt::AlignLeft : place.across > 0.6 ? Qt::AlignRight : Qt::AlignHCenter;
+  for (int i = 0; i < count; ++i) {
+    painter.setFont(HeadingFont(i, pixels));
+    const QRectF line(left - 2, top + i * lineHeight, blockWidth + 4, lineHeight);
+    const auto flags = static_cast<int>(side3 | Qt::AlignVCenter | Qt::TextDontClip | Qt::TextSingleLine);
+    // Any picture may lie beneath: a soft shadow keeps white letters apart from a bright sky.
+    for (const double away : {0.07, 0.035}) {
+      painter.setPen(QColor(0, 0, 0, 55));
+      painter.drawText(line.translated(pixels * away / 2, pixels * away), flags, lines_[i]);
+    }
+    painter.setPen(Qt::white);
+    painter.drawText(line, flags, lines_[i]);
+  }
+}
+
+void MenuCanvas::PaintSample(QPainter& painter) const {
+  QColor fill = CurrentTheme().panel;
+  fill.setAlphaF(0.85);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(fill);
+  constexpr int kButtons = 7;
+  const double side = width() * 0.055;
+  const double gap = width() * 0.011;
+  const double box = (width() - 2 * side - (kButtons - 1) * gap) / kButtons;
+  for (int i = 0; i < kButtons; ++i) {
+    painter.drawRoundedRect(QRectF(side + i * (box + gap), height() * 0.76, box, height() * 0.17), 3, 3);
+  }
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QPixmap>
+#include <QStringList>
+#include <QWidget>
+
+#include "core/Settings.h"
+
+namespace kinalyx {
+
+class IHost;
+
+/// The picture of the main menu with the heading lines over it, at any size: the ground of the menu page,
+/// and small on the setup page.
+class MenuCanvas : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit MenuCanvas(const QString& name, QWidget* parent = nullptr);
+
+  /// Takes picture, lines and their place from the settings. A picture that has gone is reported and reset;
+  /// one that cannot be read gives a ground in the scheme's colours.
+  void SetupMenu(IHost& host, Settings& settings);
+  /// Only the lines and their place.
+  void SetupCaptionLabels(const Settings& settings);
+
+  /// Draws pale boxes where the page has its buttons.
+  void SetSample(bool on);
+  /// Height, in parts of the whole, that is kept free at the bottom for the buttons.
+  static constexpr double kButtonRoom = 0.25;
+  /// Blank to the left and right in logical pixels.
+  int SideMargin() const;
+
+  QSize sizeHint() const override { return QSize(360, 225); }
+
+ protected:
+  void paintEvent(QPaintEvent*) override;
+
+ private:
+  void PaintGround(QPainter& painter) const;
+  void PaintHeading(QPainter& painter) const;
+  void PaintSample(QPainter& painter) const;
+
+  QString file_;
+  QPixmap picture_;
+  QPixmap scaled_;  ///< the picture at the widget's present size
+  QStringList lines_;
+  int position_ = 1;
+  bool sample_ = false;
+};
+
+}  // namespace kinalyx

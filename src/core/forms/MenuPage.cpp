@@ -1,0 +1,82 @@
+#include "core/forms/MenuPage.h"
+
+#include <QBoxLayout>
+#include <QMenu>
+
+#include "core/MenuPicture.h"
+#include "core/Vocabulary.h"
+#include "core/forms/MenuCanvas.h"
+#include "platform/widgets/Buttons.h"
+
+namespace kinalyx {
+
+namespace {
+
+constexpr std::array<const char*, 8> kIcons = {"",     "students",      "camera", "analyze",
+                                               "send", "import-export", "setup",  "help"};
+constexpr int kWidestTile = 220;
+
+}  // namespace
+
+MenuPage::MenuPage(IHost& host, Settings& settings, QWidget* parent)
+    : QWidget(parent), host_(host), settings_(settings) {
+  setObjectName("MenuPage");
+  auto* whole = new QVBoxLayout(this);
+  whole->setContentsMargins(0, 0, 0, 0);
+  canvas_ = new MenuCanvas("MenuImage", this);
+  whole->addWidget(canvas_);
+
+  auto* rows = new QVBoxLayout(canvas_);
+  rows->setContentsMargins(0, 10, 12, 0);
+  setup_ = IconButton("MenuSetupBtn", "palette", "Change the picture or move the heading", Look::Stage);
+  rows->addWidget(setup_, 0, Qt::AlignRight);
+  rows->addStretch(1);
+  row_ = new QHBoxLayout;
+  for (int i = 1; i < static_cast<int>(tiles_.size()); ++i) {
+    auto* tile = new TileButton(QString("MainCmd%1").arg(i), {}, kIcons[static_cast<std::size_t>(i)],
+                                TileButton::Place::Picture);
+    tile->setMaximumWidth(kWidestTile);
+    connect(tile, &QPushButton::clicked, this, [this, i] { emit PageWanted(i); });
+    row_->addWidget(tile, 1);
+    tiles_[static_cast<std::size_t>(i)] = tile;
+  }
+  rows->addLayout(row_);
+  connect(setup_, &QPushButton::clicked, this, &MenuPage::ShowSetupMenu);
+  SetupVocabulary();
+  SetupMenuImage();
+}
+
+void MenuPage::SetupVocabulary() {
+  const Vocabulary words(settings_);
+  for (std::size_t i = 1; i < tiles_.size(); ++i)
+    tiles_[i]->setText(QString::fromStdString(words.PageButton(static_cast<int>(i))));
+}
+
+void MenuPage::SetupMenuImage() { canvas_->SetupMenu(host_, settings_); }
+
+void MenuPage::SetSectionComing(int index) { Coming(tiles_.at(static_cast<std::size_t>(index))); }
+
+void MenuPage::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  const int side = width() < 1000 ? 20 : qRound(width() * 0.055);
+  row_->setSpacing(width() < 1000 ? 8 : 14);
+  row_->setContentsMargins(side, 0, side - 12, qRound(height() * 0.073));
+}
+
+void MenuPage::ShowSetupMenu() {
+  QMenu menu(this);
+  menu.setObjectName("MenuSetup");
+  menu.addAction("Choose Picture...", this, [this] {
+    if (!ChooseBackground(host_, settings_)) return;
+    SetupMenuImage();
+    emit MenuChanged();
+  });
+  menu.addAction("Move Heading", this, [this] {
+    NextCaptionPosition(settings_);
+    canvas_->SetupCaptionLabels(settings_);
+    emit MenuChanged();
+  });
+  menu.exec(setup_->mapToGlobal(setup_->rect().bottomRight() - QPoint(menu.sizeHint().width(), 0)));
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,129 @@
+#include "core/forms/SetupPage.h"
+
+#include <QBoxLayout>
+#include <QButtonGroup>
+#include <QStackedWidget>
+
+#include "core/Vocabulary.h"
+#include "core/forms/AnalysisSection.h"
+#include "core/forms/GeneralSection.h"
+#include "core/forms/MenuSection.h"
+#include "platform/widgets/Buttons.h"
+#include "platform/widgets/Panel.h"
+#include "platform/widgets/Theme.h"
+
+namespace kinalyx {
+
+namespace {
+
+struct SectionButton {
+  const char* caption;
+  const char* icon;
+};
+
+constexpr SectionButton kSections[] = {
+    {"Main Menu", "home"},    {"Student Profiles", "students"}, {"Capture", "camera"},
+    {"Analysis", "analyze"},  {"General", "setup"},             {"Internet", "network"},
+};
+
+}  // namespace
+
+SetupPage::SetupPage(IHost& host, Settings& settings, ColorSchemes& schemes, QWidget* parent)
+    : QWidget(parent), host_(host), settings_(settings) {
+  setObjectName("SetupPage");
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(14, 14, 14, 14);
+  row->setSpacing(kGap);
+  row->addWidget(MakeSections());
+  stack_ = new QStackedWidget;
+  row->addWidget(stack_, 1);
+
+  menu_ = new MenuSection(host, settings);
+  analysis_ = new AnalysisSection(settings);
+  general_ = new GeneralSection(host, settings, schemes);
+  pages_[kMainMenu] = menu_;
+  pages_[kAnalysis] = analysis_;
+  pages_[kGeneral] = general_;
+  for (QWidget* page : pages_) {
+    if (page) stack_->addWidget(page);
+  }
+  for (SetupSection* section : {static_cast<SetupSection*>(menu_), static_cast<SetupSection*>(analysis_),
+                                static_cast<SetupSection*>(general_)})
+    connect(section, &SetupSection::Reloaded, this, &SetupPage::SetupProgram);
+  connect(menu_, &MenuSection::MenuChanged, this, &SetupPage::MenuChanged);
+  connect(analysis_, &AnalysisSection::AnalysisChanged, this, &SetupPage::AnalysisChanged);
+  connect(general_, &GeneralSection::DesignChanged, this, &SetupPage::DesignChanged);
+  connect(general_, &GeneralSection::CompanyChanged, this, &SetupPage::CompanyChanged);
+  connect(general_, &GeneralSection::LibraryChanged, this, &SetupPage::LibraryChanged);
+  connect(general_, &GeneralSection::VocabularyChanged, this, [this] {
+    SetupVocabulary();
+    emit VocabularyChanged();
+  });
+  connect(general_, &GeneralSection::RestartWanted, this, [this] {
+    RestartTimer_ = HostTimer(host_, 0, false, [this] { RestartTimer_Timer(); });
+  });
+
+  SetupProgram();
+  SetupVocabulary();
+  PSCmd_Click(kGeneral);
+}
+
+QWidget* SetupPage::MakeSections() {
+  auto* panel = new Panel("SetupSections", "Program Setup");
+  panel->setFixedWidth(184);
+  auto* rows = new QVBoxLayout;
+  rows->setContentsMargins(8, 8, 8, 8);
+  rows->setSpacing(4);
+  panel->Body()->addLayout(rows);
+  buttons_ = new QButtonGroup(this);
+  int index = 0;
+  for (const SectionButton& section : kSections) {
+    auto* button = new Button(QString("PSCmd%1").arg(index), section.caption, section.icon, Look::Section);
+    button->setCheckable(true);
+    buttons_->addButton(button, index);
+    rows->addWidget(button);
+    if (index == kCapture || index == kInternet || index == kProfiles) Coming(button);
+    ++index;
+  }
+  rows->addStretch(1);
+  connect(buttons_, &QButtonGroup::idClicked, this, &SetupPage::PSCmd_Click);
+  return panel;
+}
+
+void SetupPage::SetupProgram() {
+  const bool before = std::exchange(settings_.Loading, true);
+  menu_->SetupProgram();
+  analysis_->SetupProgram();
+  general_->SetupProgram();
+  settings_.Loading = before;
+}
+
+void SetupPage::SetupVocabulary() {
+  buttons_->button(kProfiles)->setText(QString::fromStdString(Vocabulary(settings_).Profiles()));
+}
+
+bool SetupPage::PSCmd_Click(int index) {
+  if (index < 0 || index >= static_cast<int>(pages_.size()) || !pages_[static_cast<std::size_t>(index)]) return false;
+  current_ = index;
+  buttons_->button(index)->setChecked(true);
+  stack_->setCurrentWidget(pages_[static_cast<std::size_t>(index)]);
+  emit SectionOpened(index);
+  return true;
+}
+
+void SetupPage::SetFieldEditor(QWidget* editor) {
+  QWidget*& page = pages_[kProfiles];
+  if (page) {
+    stack_->removeWidget(page);
+    delete page;
+  }
+  page = editor;
+  stack_->addWidget(editor);
+  QAbstractButton* button = buttons_->button(kProfiles);
+  button->setEnabled(true);
+  button->setToolTip({});
+}
+
+void SetupPage::RestartTimer_Timer() { emit RestartWanted(); }
+
+}  // namespace kinalyx

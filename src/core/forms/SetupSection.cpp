@@ -1,0 +1,112 @@
+#include "core/forms/SetupSection.h"
+
+#include <QBoxLayout>
+#include <QButtonGroup>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QSlider>
+
+#include "platform/widgets/Figures.h"
+#include "platform/widgets/Panel.h"
+#include "platform/widgets/Theme.h"
+
+namespace kinalyx {
+
+namespace {
+constexpr int kWidestSection = 1240;
+}
+
+SetupSection::SetupSection(const QString& name, Settings& settings, QWidget* parent)
+    : QScrollArea(parent), settings_(settings) {
+  setObjectName(name);
+  setFrameShape(QFrame::NoFrame);
+  setWidgetResizable(true);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  auto* ground = new QWidget;
+  ground->setProperty("look", "clear");
+  auto* row = new QHBoxLayout(ground);
+  row->setContentsMargins(0, 0, 6, 0);
+  row->setSpacing(0);
+  auto* content = new QWidget;
+  content->setMaximumWidth(kWidestSection);
+  auto* columns = new QHBoxLayout(content);
+  columns->setContentsMargins(0, 0, 0, 0);
+  columns->setSpacing(kGap);
+  for (auto& column : columns_) {
+    column = new QVBoxLayout;
+    column->setSpacing(kGap);
+    columns->addLayout(column, 1);
+  }
+  row->addWidget(content, 1);
+  setWidget(ground);
+  viewport()->setAutoFillBackground(false);
+}
+
+QVBoxLayout* SetupSection::AddPanel(int column, const QString& title) {
+  auto* panel = new kinalyx::Panel({}, title);  // QFrame has a Panel of its own
+  panel->setMinimumWidth(300);
+  auto* rows = new QVBoxLayout;
+  rows->setContentsMargins(kGap, 10, kGap, 14);
+  rows->setSpacing(6);
+  panel->Body()->addLayout(rows);
+  columns_[column]->addWidget(panel);
+  return rows;
+}
+
+void SetupSection::Finish() {
+  for (auto* column : columns_) column->addStretch(1);
+}
+
+QLineEdit* SetupSection::AddText(QVBoxLayout& rows, const QString& name, const QString& caption) {
+  QLabel* label = MakeLabel({}, caption, "caption");
+  auto* box = new QLineEdit;
+  box->setObjectName(name);
+  box->setMaxLength(149);  // what is read back
+  label->setBuddy(box);
+  rows.addWidget(label);
+  rows.addWidget(box);
+  return box;
+}
+
+QSlider* SetupSection::AddSlider(QVBoxLayout& rows, const QString& name, const QString& caption, int low, int high,
+                                 const QString& unit, std::function<void(int)> moved,
+                                 std::function<void(int)> changed) {
+  rows.addWidget(MakeLabel({}, caption, "caption"));
+  auto* slider = new QSlider(Qt::Horizontal);
+  slider->setObjectName(name);
+  slider->setAccessibleName(caption);
+  slider->setRange(low, high);
+  auto* value = new FigureLabel(name + "Lbl");
+  value->setMinimumWidth(52);
+  value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  auto* row = new QHBoxLayout;
+  row->addWidget(slider, 1);
+  row->addWidget(value);
+  rows.addLayout(row);
+  const auto show = [value, unit](int number) { value->setText(QString::number(number) + unit); };
+  show(slider->value());
+  connect(slider, &QSlider::valueChanged, slider, [slider, show, moved, changed](int number) {
+    show(number);
+    moved(number);
+    if (!slider->isSliderDown()) changed(number);
+  });
+  connect(slider, &QSlider::sliderReleased, slider, [slider, changed] { changed(slider->value()); });
+  return slider;
+}
+
+QButtonGroup* SetupSection::AddRadios(QVBoxLayout& rows, const QString& name,
+                                      std::initializer_list<const char*> captions) {
+  QButtonGroup* group = nullptr;
+  int index = 0;
+  for (const char* caption : captions) {
+    auto* radio = new QRadioButton(caption);
+    radio->setObjectName(name + QString::number(index));
+    if (!group) group = new QButtonGroup(radio);
+    group->addButton(radio, index++);
+    rows.addWidget(radio);
+  }
+  return group;
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QScrollArea>
+#include <functional>
+#include <initializer_list>
+#include <type_traits>
+
+#include "core/Settings.h"
+
+class QButtonGroup;
+class QHBoxLayout;
+class QLineEdit;
+class QSlider;
+class QVBoxLayout;
+
+namespace kinalyx {
+
+/// One section of the setup page: two columns of panels that scroll together. Its controls write their key
+/// as soon as they change; there is nothing to confirm.
+class SetupSection : public QScrollArea {
+  Q_OBJECT
+
+ public:
+  SetupSection(const QString& name, Settings& settings, QWidget* parent = nullptr);
+
+  /// Shows what the settings hold. Called with `Loading` set.
+  virtual void SetupProgram() = 0;
+
+ signals:
+  /// The settings file had gone, and everything was loaded again: all sections must be filled anew.
+  void Reloaded();
+
+ protected:
+  /// Keeps a setting and writes its key, unless controls are being filled. False when it did not.
+  template <typename T>
+  bool Store(T& setting, std::type_identity_t<T> value) {
+    if (settings_.Loading) return false;
+    setting = value;
+    if (!settings_.Set(setting, value) && setting != value) emit Reloaded();
+    return true;
+  }
+
+  /// A panel with a heading in column 0 or 1; the layout is its body, with margins.
+  QVBoxLayout* AddPanel(int column, const QString& title);
+  /// Ends the columns; call it last.
+  void Finish();
+
+  /// A caption over a box for text.
+  static QLineEdit* AddText(QVBoxLayout& rows, const QString& name, const QString& caption);
+  /// A slider with its value beside it. `changed` is called when the user lets go or steps; `moved` also
+  /// while it is dragged.
+  static QSlider* AddSlider(QVBoxLayout& rows, const QString& name, const QString& caption, int low, int high,
+                            const QString& unit, std::function<void(int)> moved, std::function<void(int)> changed);
+  /// Radio buttons named `name` and the number.
+  static QButtonGroup* AddRadios(QVBoxLayout& rows, const QString& name, std::initializer_list<const char*> captions);
+
+  Settings& settings_;
+
+ private:
+  QVBoxLayout* columns_[2] = {nullptr, nullptr};
+};
+
+}  // namespace kinalyx

@@ -1,0 +1,87 @@
+#include "core/forms/SplashForm.h"
+
+#include <QBoxLayout>
+#include <QEventLoop>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QPainter>
+#include <QPainterPath>
+#include <QScreen>
+
+#include "platform/host/Host.h"
+#include "platform/widgets/Panel.h"
+#include "platform/widgets/Theme.h"
+
+namespace kinalyx {
+
+SplashForm::SplashForm(const QString& version, QWidget* parent)
+    : QWidget(parent, Qt::SplashScreen | Qt::FramelessWindowHint) {
+  setObjectName("SplashForm");
+  setFixedSize(560, 320);
+  setAttribute(Qt::WA_TranslucentBackground);
+
+  const Theme theme = CurrentTheme();
+  auto* rows = new QVBoxLayout(this);
+  rows->setContentsMargins(44, 40, 44, 34);
+  rows->setSpacing(2);
+  const auto add = [&](const char* name, const QString& text, int pixels, int weight, const QColor& ink) {
+    QLabel* label = MakeLabel(name, text);
+    label->setFont(UiFont(pixels, weight));
+    label->setStyleSheet(QString("color: %1; font-size: %2px; font-weight: %3;").arg(ink.name()).arg(pixels).arg(weight));
+    rows->addWidget(label);
+  };
+  const QColor soft = Readable(Mix(theme.accentText, theme.accent, 0.2), theme.accent);
+  rows->addStretch(1);
+  add("ProductLbl", "Kinalyx", 46, 700, theme.accentText);
+  add("SubtitleLbl", "Motion Analysis", 20, 300, soft);
+  rows->addStretch(2);
+  add("Label1", "Software Version " + version, 12, 400, soft);
+}
+
+void SplashForm::Stay(IHost& host, int milliseconds) {
+  if (const QScreen* screen = QGuiApplication::primaryScreen()) {
+    move(screen->geometry().center() - rect().center());
+  }
+  show();
+  raise();
+  const auto end = host.timeGetTime() + milliseconds;
+  while (host.timeGetTime() < end) {
+    QEventLoop turn;
+    const HostTimer wake(host, static_cast<int>(end - host.timeGetTime()) + 1, false, [&turn] { turn.quit(); });
+    turn.exec(QEventLoop::ExcludeUserInputEvents);
+  }
+}
+
+void SplashForm::paintEvent(QPaintEvent*) {
+  const Theme theme = CurrentTheme();
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  QPainterPath outline;
+  outline.addRoundedRect(QRectF(rect()), 14, 14);
+  painter.setClipPath(outline);
+
+  QLinearGradient ground(rect().topLeft(), rect().bottomRight());
+  ground.setColorAt(0, Mix(theme.accent, Qt::black, 0.35));
+  ground.setColorAt(0.55, theme.accent);
+  ground.setColorAt(1, Mix(theme.accent, theme.panel, 0.3));
+  painter.fillRect(rect(), ground);
+
+  // The trace of a swing: the same arc again and again, each a moment later.
+  const QPointF pivot(420, 214);
+  for (int i = 0; i < 9; ++i) {
+    QColor ink = theme.panel;
+    ink.setAlphaF(0.08 + 0.055 * i);
+    const double radius = 168 - i * 3.5;
+    const QRectF circle(pivot.x() - radius, pivot.y() - radius, 2 * radius, 2 * radius);
+    painter.setPen(QPen(ink, 1.4, Qt::SolidLine, Qt::RoundCap));
+    painter.drawArc(circle, (40 + i * 9) * 16, (150 - i * 13) * 16);
+    const QLineF club = QLineF::fromPolar(radius, 40 + i * 18).translated(pivot);
+    painter.drawLine(club.pointAt(0.3), club.p2());
+    painter.setBrush(ink);
+    painter.setPen(Qt::NoPen);
+    painter.drawEllipse(club.p2(), 3.2, 3.2);
+    painter.setBrush(Qt::NoBrush);
+  }
+}
+
+}  // namespace kinalyx
