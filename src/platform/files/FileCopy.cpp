@@ -1,0 +1,523 @@
+#include "platform/files/FileCopy.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <map>
+#include <memory>
+#include <random>
+#include <string_view>
+#include <utility>
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "platform/files/Folders.h"
+#include "platform/files/TextEncoding.h"
+
+namespace kinalyx {
+
+namespace {
+
+/// Deeper folders than this are taken for a loop.
+constexpr int kMostDepth = 64;
+/// Bytes at a time where the system cannot copy by itself.
+constexpr std::size_t kBuffer = 1 << 20;
+
+template <typename Call>
+auto Again(Call call) {
+  decltype(call()) result;
+  do {
+    result = call();
+  } while (result < 0 && errno == EINTR);
+  return result;
+}
+
+class SystemCopyDisk final : public ICopyDisk {
+ public:
+  int OpenSource(const std::string& path, bool followLink) override {
+    // Not waiting at a pipe that somebody has put in the file's place.
+    return ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | (followLink ? 0 : O_NOFOLLOW));
+  }
+  int OpenNew(const std::string& path) override {
+    return ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
+  }
+  long Transfer(int from, int to, std::size_t count) override {
+    const ssize_t moved = Again([&] { return ::copy_file_range(from, nullptr, to, nullptr, count, 0); });
+    if (moved > 0) return moved;
+    // Two file systems, or one without this call; some say "nothing left" where there is something.
+    if (moved < 0 && errno != EXDEV && errno != EINVAL && errno != ENOSYS && errno != EOPNOTSUPP) return -1;
+    const std::size_t wanted = std::min(count, kBuffer);
+    const std::unique_ptr<char[]> buffer = std::make_unique_for_overwrite<char[]>(wanted);
+    const ssize_t got = Again([&] { return ::read(from, buffer.get(), wanted); });
+    for (ssize_t done = 0; done < got;) {
+      const ssize_t written =
+          Again([&] { return ::write(to, buffer.get() + done, static_cast<std::size_t>(got - done)); });
+      if (written == 0) errno = ENOSPC;
+      if (written <= 0) return -1;
+      done += written;
+    }
+    return got;
+  }
+  int Flush(int file) override { return ::fsync(file); }
+  int Close(int file) override { return ::close(file); }
+  int RenameNew(const std::string& from, const std::string& to) override {
+    if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) return 0;
+    if (errno != EINVAL && errno != ENOSYS) return -1;
+    // A file system without that call. The moment between the question and the answer stays open here.
+    if (EntryExists(to)) {
+      errno = EEXIST;
+      return -1;
+    }
+    return std::rename(from.c_str(), to.c_str());
+  }
+  int MakeFolder(const std::string& path) override { return ::mkdir(path.c_str(), 0777); }
+  int MakeLink(const std::string& target, const std::string& path) override {
+    return ::symlink(target.c_str(), path.c_str());
+  }
+  int FlushFolder(const std::string& path) override {
+    const int folder = ::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (folder < 0) return -1;
+    const int result = ::fsync(folder);
+    ::close(folder);
+    return result;
+  }
+  int Remove(const std::string& path) override { return ::unlink(path.c_str()); }
+  int RemoveFolder(const std::string& path) override { return ::rmdir(path.c_str()); }
+};
+
+std::string FolderOf(const std::string& path) {
+  const std::size_t slash = path.rfind('/');
+  if (slash == std::string::npos) return ".";
+  return slash == 0 ? "/" : path.substr(0, slash);
+}
+
+/// A name that no list shows and nobody else uses, not even another workstation at the same folder.
+std::string HiddenNameBeside(const std::string& path) {
+  static thread_local std::mt19937_64 dice{std::random_device{}()};
+  std::array<char, 24> number{};
+  std::snprintf(number.data(), number.size(), ".%016llx.part", static_cast<unsigned long long>(dice()));
+  return JoinPath(FolderOf(path), "." + std::string(CutUtf8(LastName(path), 200)) + number.data());
+}
+
+bool SameEntry(const struct stat& a, const struct stat& b) { return a.st_dev == b.st_dev && a.st_ino == b.st_ino; }
+
+std::string LinkTarget(const std::string& path) {
+  std::array<char, 4096> text{};
+  const ssize_t length = ::readlink(path.c_str(), text.data(), text.size());
+  return length > 0 ? std::string(text.data(), static_cast<std::size_t>(length)) : std::string();
+}
+
+/// All names in a folder, hidden ones too; false when it cannot be read to its end.
+bool NamesIn(const std::string& folder, std::vector<std::string>& names) {
+  const std::unique_ptr<DIR, int (*)(DIR*)> open(::opendir(folder.c_str()), &::closedir);
+  if (!open) return false;
+  errno = 0;
+  while (const dirent* entry = ::readdir(open.get())) {
+    const std::string_view name = entry->d_name;
+    if (name != "." && name != "..") names.emplace_back(name);
+    errno = 0;
+  }
+  std::ranges::sort(names);
+  return errno == 0;
+}
+
+std::string Quoted(const std::string& path) { return "\"" + LastName(path) + "\""; }
+
+}  // namespace
+
+ICopyDisk& RealCopyDisk() {
+  static SystemCopyDisk disk;  // holds no state
+  return disk;
+}
+
+bool EntryExists(const std::string& path) {
+  struct stat info {};
+  return ::lstat(path.c_str(), &info) == 0;
+}
+
+// ---------------------------------------------------------------- looking at the sources
+
+CopyJob::CopyJob(Kind kind, std::vector<CopyUnit> units, ICopyDisk& disk)
+    : kind_(kind), wanted_(std::move(units)), disk_(disk) {
+  progress_.unitsTotal = static_cast<int>(wanted_.size());
+}
+
+CopyJob::~CopyJob() { Cancel(); }
+
+bool CopyJob::Refuse(const std::string& text) {
+  error_ = text;
+  state_ = State::Failed;
+  return false;
+}
+
+CopyJob::State CopyJob::Fail(const std::string& name, int reason) {
+  RollBack();
+  nameTaken_ = reason == EEXIST || reason == ENOTEMPTY;
+  const char* verb = kind_ == Kind::Copy ? " could not be copied: " : " could not be moved: ";
+  error_ = Quoted(name) + verb + (nameTaken_ ? "there is already something of that name." : std::strerror(reason));
+  state_ = State::Failed;
+  return state_;
+}
+
+bool CopyJob::Measure() {
+  for (const CopyUnit& wanted : wanted_) {
+    Unit& unit = units_.emplace_back();
+    for (const CopyEntry& one : wanted) {
+      Entry& entry = unit.entries.emplace_back();
+      entry.from = one.from;
+      entry.to = one.to;
+      entry.keep = one.keep || kind_ == Kind::Copy;
+      if (!MeasureEntry(entry)) return false;
+    }
+  }
+  return EnoughRoom();
+}
+
+bool CopyJob::MeasureEntry(Entry& entry) {
+  struct stat info {};
+  if (::lstat(entry.from.c_str(), &info) != 0) {
+    Fail(entry.from, errno);
+    return false;
+  }
+  const bool isLink = S_ISLNK(info.st_mode);
+  if (isLink && ::stat(entry.from.c_str(), &info) != 0) {
+    Fail(entry.from, errno);
+    return false;
+  }
+  // A folder that is only linked belongs to somebody else, and the link would break in its new place.
+  if (isLink && S_ISDIR(info.st_mode)) return Refuse(Quoted(entry.from) + " is a link to another folder.");
+  if ((entry.to + "/").starts_with(entry.from + "/") && S_ISDIR(info.st_mode))
+    return Refuse(Quoted(entry.from) + " cannot go into itself.");
+
+  std::string folder = FolderOf(entry.to);
+  struct stat target {};
+  while (::stat(folder.c_str(), &target) != 0 && folder != "/" && folder != ".") folder = FolderOf(folder);
+  if (!S_ISDIR(info.st_mode) && !S_ISREG(info.st_mode)) return Refuse(Quoted(entry.from) + " is no file.");
+  entry.byRename = !entry.keep && !isLink && target.st_dev == info.st_dev;
+  if (!entry.byRename) return StageCopy(entry);
+  entry.staged = entry.from;
+  return true;
+}
+
+bool CopyJob::StageCopy(Entry& entry) {
+  entry.byRename = false;
+  entry.nodes.clear();
+  entry.staged = HiddenNameBeside(entry.to);
+  struct stat info {};
+  // A video may be a link to a file elsewhere: whoever copies it wants the video.
+  if (::stat(entry.from.c_str(), &info) != 0) {
+    Fail(entry.from, errno);
+    return false;
+  }
+  if (S_ISDIR(info.st_mode)) return MeasureFolder(entry, entry.from, entry.staged, 0);
+  entry.nodes.push_back({NodeKind::File, entry.from, entry.staged, {}, info.st_size, info.st_atim, info.st_mtim, true});
+  progress_.bytesTotal += info.st_size;
+  return true;
+}
+
+bool CopyJob::MeasureFolder(Entry& entry, const std::string& from, const std::string& to, int depth) {
+  struct stat info {};
+  std::vector<std::string> names;
+  if (::lstat(from.c_str(), &info) != 0 || !NamesIn(from, names)) {
+    Fail(from, errno);
+    return false;
+  }
+  if (depth > kMostDepth) return Refuse(Quoted(from) + " lies too deep in its folders.");
+  entry.nodes.push_back({NodeKind::Folder, from, to, {}, 0, info.st_atim, info.st_mtim});
+  for (const std::string& name : names) {
+    const std::string inFrom = JoinPath(from, name);
+    const std::string inTo = JoinPath(to, name);
+    if (::lstat(inFrom.c_str(), &info) != 0) {
+      Fail(inFrom, errno);
+      return false;
+    }
+    if (S_ISDIR(info.st_mode)) {
+      if (!MeasureFolder(entry, inFrom, inTo, depth + 1)) return false;
+    } else if (S_ISLNK(info.st_mode)) {
+      entry.nodes.push_back({NodeKind::Link, inFrom, inTo, LinkTarget(inFrom)});
+    } else if (S_ISREG(info.st_mode)) {
+      entry.nodes.push_back({NodeKind::File, inFrom, inTo, {}, info.st_size, info.st_atim, info.st_mtim});
+      progress_.bytesTotal += info.st_size;
+    } else {
+      return Refuse(Quoted(inFrom) + " is no file.");
+    }
+  }
+  return true;
+}
+
+bool CopyJob::EnoughRoom() {
+  std::map<std::string, std::int64_t> needed;
+  for (const Unit& unit : units_) {
+    for (const Entry& entry : unit.entries) {
+      std::int64_t& bytes = needed[FolderOf(entry.to)];
+      for (const Node& node : entry.nodes) bytes += node.size;
+    }
+  }
+  // Folders on one drive share its room.
+  std::map<dev_t, std::pair<std::int64_t, std::string>> byDrive;
+  for (const auto& [folder, bytes] : needed) {
+    std::string existing = folder;
+    struct stat info {};
+    while (::stat(existing.c_str(), &info) != 0 && existing != "/" && existing != ".") existing = FolderOf(existing);
+    auto& drive = byDrive[info.st_dev];
+    drive.first += bytes;
+    drive.second = existing;
+  }
+  for (const auto& [id, drive] : byDrive) {
+    const std::int64_t free = FreeBytes(drive.second);
+    if (free < 0 || drive.first <= free) continue;
+    constexpr std::int64_t kMegabyte = 1 << 20;
+    return Refuse("There is not enough room: " + std::to_string((drive.first + kMegabyte - 1) / kMegabyte) +
+                  " MB are needed, and " + std::to_string(free / kMegabyte) + " MB are free.");
+  }
+  return true;
+}
+
+// ---------------------------------------------------------------- the work
+
+CopyJob::State CopyJob::Step(std::int64_t maxBytes) {
+  if (state_ != State::Running) return state_;
+  if (!measured_) {
+    measured_ = true;
+    Measure();
+    return state_;
+  }
+  if (unit_ == units_.size()) return state_ = State::Done;
+  if (!begun_) {
+    BeginUnit();
+    return state_;
+  }
+
+  Unit& unit = units_[unit_];
+  while (maxBytes > 0 && entry_ < unit.entries.size()) {
+    Entry& entry = unit.entries[entry_];
+    if (node_ == entry.nodes.size()) {
+      ++entry_;
+      node_ = 0;
+      continue;
+    }
+    const Node& node = entry.nodes[node_];
+    if (source_ < 0) {
+      if (!BeginNode(node)) return Fail(node.from, errno);
+      if (node.kind != NodeKind::File) {
+        ++node_;
+        maxBytes -= 4096;
+        continue;
+      }
+    }
+    const long moved = disk_.Transfer(source_, target_, static_cast<std::size_t>(maxBytes));
+    if (moved < 0) return Fail(node.from, errno);
+    progress_.bytesDone += moved;
+    maxBytes -= std::max<long>(moved, 4096);
+    if (moved == 0) {
+      if (!FinishFile(node)) return Fail(node.from, errno);
+      ++node_;
+    }
+  }
+  if (entry_ == unit.entries.size() && CommitUnit() && unit_ == units_.size()) state_ = State::Done;
+  return state_;
+}
+
+bool CopyJob::MakeParents(const std::string& path) {
+  const std::string folder = FolderOf(path);
+  if (dirExists(folder)) return true;
+  if (!MakeParents(folder)) return false;
+  if (disk_.MakeFolder(folder) == 0) {
+    madeFolders_.push_back(folder);
+    return true;
+  }
+  // Another workstation may have been quicker.
+  return errno == EEXIST && dirExists(folder);
+}
+
+bool CopyJob::BeginUnit() {
+  Unit& unit = units_[unit_];
+  entry_ = node_ = 0;
+  madeFolders_.clear();
+  begun_ = true;
+  for (const Entry& entry : unit.entries) {
+    // Told now rather than after all bytes have been copied; what appears meanwhile is noticed in the end.
+    if (EntryExists(entry.to)) {
+      Fail(entry.to, EEXIST);
+      return false;
+    }
+    if (!MakeParents(entry.to)) {
+      Fail(entry.from, errno);
+      return false;
+    }
+  }
+  if (!unit.entries.empty()) progress_.current = LastName(unit.entries.front().from);
+  return true;
+}
+
+bool CopyJob::BeginNode(const Node& node) {
+  switch (node.kind) {
+    case NodeKind::Folder: return disk_.MakeFolder(node.to) == 0;
+    case NodeKind::Link: return disk_.MakeLink(node.target, node.to) == 0;
+    case NodeKind::File: break;
+  }
+  source_ = disk_.OpenSource(node.from, node.followLink);
+  if (source_ < 0) return false;
+  target_ = disk_.OpenNew(node.to);
+  return target_ >= 0;
+}
+
+bool CopyJob::FinishFile(const Node& node) {
+  struct stat old {};
+  struct stat copy {};
+  // Private files stay private, but what comes from a read-only disc can be written to in the library. A
+  // file system without rights or times refuses, and nothing is lost by that.
+  if (::fstat(source_, &old) == 0 && ::fstat(target_, &copy) == 0)
+    (void)::fchmod(target_, (old.st_mode & copy.st_mode & 0777) | S_IRUSR | S_IWUSR);
+  const timespec times[] = {node.accessed, node.modified};
+  (void)::futimens(target_, times);
+  const bool moves = !units_[unit_].entries[entry_].keep;
+  // The source of a move is removed next: its copy must have reached the disk by then.
+  if (moves && disk_.Flush(target_) < 0) return false;
+  ::close(std::exchange(source_, -1));
+  return disk_.Close(std::exchange(target_, -1)) >= 0;
+}
+
+bool CopyJob::CommitUnit() {
+  Unit& unit = units_[unit_];
+  for (Entry& entry : unit.entries) {
+    if (disk_.RenameNew(entry.staged, entry.to) < 0) {
+      const int reason = errno;
+      if (entry.byRename && reason == EXDEV) {
+        // Two places of one device that still do not take renames from each other: copy this unit.
+        RollBack();
+        for (Entry& again : unit.entries) {
+          if (!StageCopy(again)) return false;
+        }
+        if (!EnoughRoom()) return false;
+        begun_ = false;
+        return true;
+      }
+      Fail(entry.from, reason);
+      return false;
+    }
+    entry.committed = true;
+  }
+  // Folder times last, for every name made in a folder changes them.
+  for (const Entry& entry : unit.entries) {
+    for (const Node& node : entry.nodes) {
+      if (node.kind != NodeKind::Folder) continue;
+      const timespec times[] = {node.accessed, node.modified};
+      const std::string place = entry.to + node.to.substr(entry.staged.size());
+      (void)::utimensat(AT_FDCWD, place.c_str(), times, AT_SYMLINK_NOFOLLOW);
+    }
+  }
+  RemoveSources(unit);
+  progress_.filesDone += static_cast<int>(unit.entries.size());
+  ++progress_.unitsDone;
+  ++unit_;
+  begun_ = false;
+  return true;
+}
+
+void CopyJob::RemoveSources(Unit& unit) {
+  const bool copied = std::ranges::any_of(unit.entries, [](const Entry& e) { return !e.keep && !e.byRename; });
+  if (!copied) return;
+  for (const Entry& entry : unit.entries) disk_.FlushFolder(FolderOf(entry.to));
+  for (const Entry& entry : unit.entries) {
+    std::string reason;
+    if (entry.keep || entry.byRename || RemoveTree(entry.from, &reason, disk_)) continue;
+    // Everything has arrived, so nothing is taken back; but the user must know that the old one is there.
+    if (error_.empty()) error_ = Quoted(entry.from) + " could not be removed from its old place: " + reason;
+  }
+}
+
+void CopyJob::RollBack() {
+  if (source_ >= 0) ::close(std::exchange(source_, -1));
+  if (target_ >= 0) disk_.Close(std::exchange(target_, -1));
+  if (unit_ >= units_.size()) return;
+  Unit& unit = units_[unit_];
+  for (auto entry = unit.entries.rbegin(); entry != unit.entries.rend(); ++entry) {
+    if (entry->committed) {
+      entry->committed = false;
+      // What cannot be renamed back is whole in its new place and stays there.
+      if (disk_.RenameNew(entry->to, entry->staged) < 0) continue;
+    }
+    if (!entry->byRename && begun_) RemoveTree(entry->staged, nullptr, disk_);
+  }
+  for (auto folder = madeFolders_.rbegin(); folder != madeFolders_.rend(); ++folder) disk_.RemoveFolder(*folder);
+  madeFolders_.clear();
+}
+
+void CopyJob::Cancel() {
+  if (state_ != State::Running) return;
+  RollBack();
+  state_ = State::Cancelled;
+}
+
+CopyJob::State RunToEnd(CopyJob& job) {
+  while (job.Step() == CopyJob::State::Running) {
+  }
+  return job.Status();
+}
+
+// ---------------------------------------------------------------- removing and renaming
+
+namespace {
+
+bool RemoveBelow(const std::string& path, int depth, int& reason, ICopyDisk& disk) {
+  struct stat info {};
+  if (::lstat(path.c_str(), &info) != 0) {
+    if (errno == ENOENT) return true;
+    reason = reason ? reason : errno;
+    return false;
+  }
+  bool gone = true;
+  if (!S_ISDIR(info.st_mode)) {
+    gone = disk.Remove(path) >= 0 || errno == ENOENT;
+  } else if (depth > kMostDepth) {
+    errno = ELOOP;
+    gone = false;
+  } else {
+    std::vector<std::string> names;
+    bool empty = NamesIn(path, names);
+    if (!empty) reason = reason ? reason : errno;
+    for (const std::string& name : names) empty = RemoveBelow(JoinPath(path, name), depth + 1, reason, disk) && empty;
+    if (!empty) return false;
+    gone = disk.RemoveFolder(path) >= 0 || errno == ENOENT;
+  }
+  if (!gone) reason = reason ? reason : errno;
+  return gone;
+}
+
+}  // namespace
+
+bool RemoveTree(const std::string& path, std::string* error, ICopyDisk& disk) {
+  int reason = 0;
+  if (RemoveBelow(path, 0, reason, disk)) return true;
+  if (error) *error = std::strerror(reason);
+  return false;
+}
+
+bool RenameEntry(const std::string& from, const std::string& to, std::string* error, ICopyDisk& disk) {
+  const auto refuse = [error](int reason) {
+    if (error) *error = std::strerror(reason);
+    return false;
+  };
+  if (from == to) return true;
+  struct stat old {};
+  struct stat taken {};
+  if (::lstat(from.c_str(), &old) != 0) return refuse(errno);
+  if (::lstat(to.c_str(), &taken) != 0) return disk.RenameNew(from, to) < 0 ? refuse(errno) : true;
+  if (!SameEntry(old, taken) || FoldCase(from) != FoldCase(to)) return refuse(EEXIST);
+  // The disk takes both for one name, unless they are two links to one file. Over a third name the new
+  // spelling is taken by every disk.
+  const std::string between = HiddenNameBeside(from);
+  if (disk.RenameNew(from, between) < 0) return refuse(errno);
+  if (disk.RenameNew(between, to) >= 0) return true;
+  const int reason = errno;
+  disk.RenameNew(between, from);
+  return refuse(reason);
+}
+
+}  // namespace kinalyx

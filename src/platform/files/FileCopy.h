@@ -1,0 +1,161 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <ctime>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <sys/types.h>
+
+namespace kinalyx {
+
+/// The calls by which a copy changes the disk, so that a test can make each of them fail in turn.
+/// Results as the system calls have them: negative is a failure, with the reason in errno.
+class ICopyDisk {
+ public:
+  virtual ~ICopyDisk() = default;
+  virtual int OpenSource(const std::string& path, bool followLink) = 0;
+  virtual int OpenNew(const std::string& path) = 0;  ///< fails when there is something of that name
+  /// Copies the next bytes, at most `count`; 0 at the end of the source.
+  virtual long Transfer(int from, int to, std::size_t count) = 0;
+  virtual int Flush(int file) = 0;
+  virtual int Close(int file) = 0;
+  virtual int RenameNew(const std::string& from, const std::string& to) = 0;  ///< never replaces anything
+  virtual int MakeFolder(const std::string& path) = 0;
+  virtual int MakeLink(const std::string& target, const std::string& path) = 0;
+  virtual int FlushFolder(const std::string& path) = 0;
+  virtual int Remove(const std::string& path) = 0;        ///< a file or a link
+  virtual int RemoveFolder(const std::string& path) = 0;  ///< an empty folder
+};
+
+/// The disk of this machine.
+ICopyDisk& RealCopyDisk();
+
+/// A file or a whole folder, and the full path that it shall have.
+struct CopyEntry {
+  std::string from;
+  std::string to;
+  bool keep = false;  ///< stays where it is although its unit moves: others need it
+};
+/// What belongs together, as a video and its sidecar: all of it arrives, or nothing does.
+using CopyUnit = std::vector<CopyEntry>;
+
+struct CopyProgress {
+  int unitsDone = 0;
+  int unitsTotal = 0;
+  int filesDone = 0;  ///< entries that stand under their final names
+  std::int64_t bytesDone = 0;
+  std::int64_t bytesTotal = 0;  ///< 0 until the first step has looked at the sources
+  std::string current;          ///< name of the entry under way
+};
+
+/// Copies or moves units one after the other, a slice at each step, so that whoever drives it can show
+/// progress and stop it between two slices.
+///
+/// - Everything is written under hidden names beside the final ones and renamed when its unit is whole;
+///   a final name never stands for half a file, and never replaces one that is already there.
+/// - Room is asked for before the first byte is written.
+/// - Within a file system a move is a rename; across two it is a copy, flushed, and then a removal.
+/// - Times are kept. Links inside a folder are copied as links and never followed.
+/// - After a failure or a cancel, units that are done stay done and the one under way leaves no trace.
+class CopyJob {
+ public:
+  enum class Kind { Copy, Move };
+  enum class State { Running, Done, Cancelled, Failed };
+
+  CopyJob(Kind kind, std::vector<CopyUnit> units, ICopyDisk& disk = RealCopyDisk());
+  CopyJob(const CopyJob&) = delete;
+  CopyJob& operator=(const CopyJob&) = delete;
+  /// A job under way is cancelled.
+  ~CopyJob();
+
+  /// Goes on for about `maxBytes` bytes or one small piece of other work.
+  State Step(std::int64_t maxBytes = 4 << 20);
+  /// Stops and takes back the unit under way. Nothing when the job is over.
+  void Cancel();
+
+  State Status() const { return state_; }
+  const CopyProgress& Progress() const { return progress_; }
+  /// Why it failed, in words for the user; or, when done, what could not be removed after a move.
+  const std::string& Error() const { return error_; }
+  /// True when it failed because there is something of the same name at the target.
+  bool NameTaken() const { return nameTaken_; }
+
+ private:
+  enum class NodeKind { File, Folder, Link };
+  /// One thing on the disk, as it is found below an entry.
+  struct Node {
+    NodeKind kind = NodeKind::File;
+    std::string from;
+    std::string to;       ///< under the hidden name of its entry
+    std::string target;   ///< of a link
+    std::int64_t size = 0;
+    timespec accessed{};
+    timespec modified{};
+    bool followLink = false;
+  };
+  struct Entry {
+    std::string from;
+    std::string to;
+    std::string staged;      ///< what is renamed to `to`: the hidden copy, or the source itself
+    bool byRename = false;
+    bool keep = false;
+    bool committed = false;
+    std::vector<Node> nodes;  ///< folders before what is in them; empty when byRename
+  };
+  struct Unit {
+    std::vector<Entry> entries;
+  };
+
+  bool Measure();
+  bool MeasureEntry(Entry& entry);
+  bool StageCopy(Entry& entry);
+  bool MeasureFolder(Entry& entry, const std::string& from, const std::string& to, int depth);
+  bool EnoughRoom();
+  bool BeginUnit();
+  bool BeginNode(const Node& node);
+  bool FinishFile(const Node& node);
+  bool CommitUnit();
+  void RemoveSources(Unit& unit);
+  void RollBack();
+  bool MakeParents(const std::string& path);
+  State Fail(const std::string& name, int reason);
+  bool Refuse(const std::string& text);
+
+  Kind kind_;
+  std::vector<CopyUnit> wanted_;
+  ICopyDisk& disk_;
+  State state_ = State::Running;
+  CopyProgress progress_;
+  std::string error_;
+  bool nameTaken_ = false;
+
+  std::vector<Unit> units_;
+  std::size_t unit_ = 0;
+  std::size_t entry_ = 0;
+  std::size_t node_ = 0;
+  bool measured_ = false;
+  bool begun_ = false;                     ///< the unit under way has made its folders
+  std::vector<std::string> madeFolders_;   ///< by the unit under way, above its entries
+  int source_ = -1;
+  int target_ = -1;
+};
+
+/// Runs a job to its end; for short work and for workers.
+CopyJob::State RunToEnd(CopyJob& job);
+
+/// Removes a file or a folder with all that is in it. Links are removed, never followed. On failure as
+/// much as possible is gone; false, with the first reason in `error` (may be null).
+bool RemoveTree(const std::string& path, std::string* error = nullptr, ICopyDisk& disk = RealCopyDisk());
+
+/// Gives a file or folder another name, which must be free; within one file system. Names that differ in
+/// case alone are no obstacle on a disk that does not tell them apart.
+bool RenameEntry(const std::string& from, const std::string& to, std::string* error = nullptr,
+                 ICopyDisk& disk = RealCopyDisk());
+
+/// True when there is something at the path, a dangling link included.
+bool EntryExists(const std::string& path);
+
+}  // namespace kinalyx

@@ -1,0 +1,310 @@
+#include "platform/files/FileCopy.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <filesystem>
+#include <map>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "support/TempFolder.h"
+
+namespace kinalyx {
+namespace {
+
+namespace fs = std::filesystem;
+using test::TempFolder;
+
+/// Fails one call, counted from 0, and from then on works again.
+class FailingDisk final : public ICopyDisk {
+ public:
+  explicit FailingDisk(int failing) : left_(failing) {}
+  bool Failed() const { return left_ < 0; }
+
+  int OpenSource(const std::string& path, bool follow) override { return Bad() ? -1 : real_.OpenSource(path, follow); }
+  int OpenNew(const std::string& path) override { return Bad() ? -1 : real_.OpenNew(path); }
+  long Transfer(int from, int to, std::size_t count) override {
+    if (!Bad()) return real_.Transfer(from, to, count);
+    real_.Transfer(from, to, count / 2);  // a disk that fills up takes a part first
+    errno = ENOSPC;
+    return -1;
+  }
+  int Flush(int file) override { return Bad() ? -1 : real_.Flush(file); }
+  int Close(int file) override {
+    const int result = real_.Close(file);
+    return Bad() ? -1 : result;
+  }
+  int RenameNew(const std::string& from, const std::string& to) override {
+    return Bad() ? -1 : real_.RenameNew(from, to);
+  }
+  int MakeFolder(const std::string& path) override { return Bad() ? -1 : real_.MakeFolder(path); }
+  int MakeLink(const std::string& target, const std::string& path) override {
+    return Bad() ? -1 : real_.MakeLink(target, path);
+  }
+  int FlushFolder(const std::string& path) override { return real_.FlushFolder(path); }
+  int Remove(const std::string& path) override { return Bad() ? -1 : real_.Remove(path); }
+  int RemoveFolder(const std::string& path) override { return Bad() ? -1 : real_.RemoveFolder(path); }
+
+ private:
+  bool Bad() {
+    if (left_-- != 0) return false;
+    errno = EIO;
+    return true;
+  }
+
+  ICopyDisk& real_ = RealCopyDisk();
+  int left_;
+};
+
+/// A disk on which nothing can be renamed from one place to another, as between two drives.
+class TwoDrives final : public ICopyDisk {
+ public:
+  explicit TwoDrives(ICopyDisk& disk) : disk_(disk) {}
+  int OpenSource(const std::string& path, bool follow) override { return disk_.OpenSource(path, follow); }
+  int OpenNew(const std::string& path) override { return disk_.OpenNew(path); }
+  long Transfer(int from, int to, std::size_t count) override { return disk_.Transfer(from, to, count); }
+  int Flush(int file) override { return disk_.Flush(file); }
+  int Close(int file) override { return disk_.Close(file); }
+  int RenameNew(const std::string& from, const std::string& to) override {
+    if (fs::path(from).parent_path() == fs::path(to).parent_path()) return disk_.RenameNew(from, to);
+    errno = EXDEV;
+    return -1;
+  }
+  int MakeFolder(const std::string& path) override { return disk_.MakeFolder(path); }
+  int MakeLink(const std::string& target, const std::string& path) override { return disk_.MakeLink(target, path); }
+  int FlushFolder(const std::string& path) override { return disk_.FlushFolder(path); }
+  int Remove(const std::string& path) override { return disk_.Remove(path); }
+  int RemoveFolder(const std::string& path) override { return disk_.RemoveFolder(path); }
+
+ private:
+  ICopyDisk& disk_;
+};
+
+/// A readable stand-in for the bytes of a file.
+std::string Digest(const std::string& bytes) {
+  return bytes.size() < 40 ? bytes : std::to_string(bytes.size()) + " bytes, " + std::to_string(std::hash<std::string>{}(bytes));
+}
+
+/// All that is in a folder: relative path and digest, "/" for folders, "-> target" for links.
+std::map<std::string, std::string> Contents(const TempFolder& folder) {
+  std::map<std::string, std::string> all;
+  for (const auto& entry : fs::recursive_directory_iterator(folder.Path())) {
+    const std::string name = entry.path().lexically_relative(folder.Path()).string();
+    if (entry.is_symlink()) all[name] = "-> " + fs::read_symlink(entry.path()).string();
+    else if (entry.is_directory()) all[name] = "/";
+    else all[name] = Digest(folder.Get(name));
+  }
+  return all;
+}
+
+const std::string kVideo(300000, 'v');
+
+/// A student with a video, its sidecar, a lesson and a link; and a place to go to.
+void MakeStudent(const TempFolder& folder) {
+  fs::create_directories(folder.Path("Ann/Smith, Jr./lessons"));
+  fs::create_directories(folder.Path("Bob"));
+  folder.Put("Ann/Smith, Jr./(001) DL.avi", kVideo);
+  folder.Put("Ann/Smith, Jr./(001) DL.ved", "1XXXXXXX");
+  folder.Put("Ann/Smith, Jr./lessons/One.avi", "lesson");
+  fs::create_symlink("/etc", folder.Path("Ann/Smith, Jr./elsewhere"));
+}
+
+std::vector<CopyUnit> OneVideo(const TempFolder& folder) {
+  return {{{folder.Path("Ann/Smith, Jr./(001) DL.avi"), folder.Path("Bob/New/(001) DL.avi")},
+           {folder.Path("Ann/Smith, Jr./(001) DL.ved"), folder.Path("Bob/New/(001) DL.ved")}}};
+}
+
+std::vector<CopyUnit> WholeStudent(const TempFolder& folder) {
+  return {{{folder.Path("Ann/Smith, Jr."), folder.Path("Bob/Smith, Jr.")}}};
+}
+
+TEST(CopyJob, CopiesAVideoAndItsSidecarWithTheirTimesIntoANewFolder) {
+  TempFolder folder;
+  MakeStudent(folder);
+  const timespec old[] = {{1000, 0}, {1234567, 0}};
+  ASSERT_EQ(::utimensat(AT_FDCWD, folder.Path("Ann/Smith, Jr./(001) DL.avi").c_str(), old, 0), 0);
+  fs::permissions(folder.Path("Ann/Smith, Jr./(001) DL.ved"), fs::perms::owner_read);
+
+  CopyJob job(CopyJob::Kind::Copy, OneVideo(folder));
+  int steps = 1;
+  while (job.Step(100000) == CopyJob::State::Running) ++steps;
+  ASSERT_EQ(job.Status(), CopyJob::State::Done) << job.Error();
+  EXPECT_GT(steps, 4);  // in slices
+  EXPECT_EQ(Digest(folder.Get("Bob/New/(001) DL.avi")), Digest(kVideo));
+  EXPECT_EQ(folder.Get("Bob/New/(001) DL.ved"), "1XXXXXXX");
+  EXPECT_EQ(job.Progress().bytesDone, job.Progress().bytesTotal);
+  EXPECT_EQ(job.Progress().filesDone, 2);
+  struct stat copy {};
+  ASSERT_EQ(::stat(folder.Path("Bob/New/(001) DL.avi").c_str(), &copy), 0);
+  EXPECT_EQ(copy.st_mtim.tv_sec, 1234567);
+  // What was read-only on a disc can be worked on in the library.
+  ASSERT_EQ(::stat(folder.Path("Bob/New/(001) DL.ved").c_str(), &copy), 0);
+  EXPECT_TRUE(copy.st_mode & S_IWUSR);
+}
+
+TEST(CopyJob, MovesAStudentWithinADriveAndBetweenTwo) {
+  for (const bool twoDrives : {false, true}) {
+    SCOPED_TRACE(twoDrives);
+    TempFolder folder;
+    MakeStudent(folder);
+    TwoDrives drives(RealCopyDisk());
+    CopyJob job(CopyJob::Kind::Move, WholeStudent(folder), twoDrives ? drives : RealCopyDisk());
+    ASSERT_EQ(RunToEnd(job), CopyJob::State::Done) << job.Error();
+    const std::map<std::string, std::string> wanted = {
+        {"Ann", "/"}, {"Bob", "/"}, {"Bob/Smith, Jr.", "/"}, {"Bob/Smith, Jr./(001) DL.avi", Digest(kVideo)},
+        {"Bob/Smith, Jr./(001) DL.ved", "1XXXXXXX"}, {"Bob/Smith, Jr./elsewhere", "-> /etc"},
+        {"Bob/Smith, Jr./lessons", "/"}, {"Bob/Smith, Jr./lessons/One.avi", "lesson"}};
+    EXPECT_EQ(Contents(folder), wanted);
+    EXPECT_EQ(job.Error(), "");
+  }
+}
+
+TEST(CopyJob, ACancelTakesBackTheUnitUnderWayAndKeepsThoseThatAreDone) {
+  TempFolder folder;
+  MakeStudent(folder);
+  std::vector<CopyUnit> units = OneVideo(folder);
+  units.push_back({{folder.Path("Ann/Smith, Jr./(001) DL.avi"), folder.Path("Bob/Other/b.avi")}});
+  CopyJob job(CopyJob::Kind::Copy, units);
+  while (job.Progress().unitsDone < 1) ASSERT_EQ(job.Step(1 << 20), CopyJob::State::Running);
+  job.Step(1000);
+  job.Step(1000);
+  ASSERT_GT(job.Progress().bytesDone, static_cast<std::int64_t>(kVideo.size() + 8));
+  job.Cancel();
+  EXPECT_EQ(job.Step(), CopyJob::State::Cancelled);
+  EXPECT_EQ(Digest(folder.Get("Bob/New/(001) DL.avi")), Digest(kVideo));
+  EXPECT_FALSE(EntryExists(folder.Path("Bob/Other")));
+  EXPECT_EQ(std::distance(fs::directory_iterator(folder.Path("Bob/New")), {}), 2);
+}
+
+TEST(CopyJob, NeverReplacesAndNeverFollowsLinks) {
+  TempFolder folder;
+  MakeStudent(folder);
+  fs::create_directories(folder.Path("Bob/Smith, Jr."));
+  folder.Put("Bob/Smith, Jr./keep.txt", "kept");
+  const auto before = Contents(folder);
+  {
+    CopyJob taken(CopyJob::Kind::Move, WholeStudent(folder));
+    EXPECT_EQ(RunToEnd(taken), CopyJob::State::Failed);
+    EXPECT_TRUE(taken.NameTaken());
+    EXPECT_NE(taken.Error().find("Smith, Jr."), std::string::npos);
+  }
+  {
+    CopyJob intoItself(CopyJob::Kind::Copy, {{{folder.Path("Ann"), folder.Path("Ann/Smith, Jr./Ann")}}});
+    EXPECT_EQ(RunToEnd(intoItself), CopyJob::State::Failed);
+  }
+  {
+    CopyJob linked(CopyJob::Kind::Copy, {{{folder.Path("Ann/Smith, Jr./elsewhere"), folder.Path("Bob/etc")}}});
+    EXPECT_EQ(RunToEnd(linked), CopyJob::State::Failed);
+  }
+  EXPECT_EQ(Contents(folder), before);
+  // A name that another workstation takes at the last moment.
+  CopyJob late(CopyJob::Kind::Copy, OneVideo(folder));
+  while (late.Progress().bytesDone == 0) late.Step(1000);
+  folder.Put("Bob/New/(001) DL.ved", "theirs");
+  EXPECT_EQ(RunToEnd(late), CopyJob::State::Failed);
+  EXPECT_TRUE(late.NameTaken());
+  EXPECT_EQ(folder.Get("Bob/New/(001) DL.ved"), "theirs");
+  EXPECT_FALSE(EntryExists(folder.Path("Bob/New/(001) DL.avi")));
+}
+
+TEST(CopyJob, AsksForRoomBeforeTheFirstByte) {
+  TempFolder folder;
+  fs::create_directories(folder.Path("Bob"));
+  folder.Put("huge.avi", "");
+  std::error_code failed;
+  fs::resize_file(folder.Path("huge.avi"), std::uintmax_t{1} << 42, failed);  // a hole: takes no room itself
+  if (failed) GTEST_SKIP() << "no file of this size here";
+  CopyJob job(CopyJob::Kind::Copy, {{{folder.Path("huge.avi"), folder.Path("Bob/huge.avi")}}});
+  EXPECT_EQ(RunToEnd(job), CopyJob::State::Failed);
+  EXPECT_NE(job.Error().find("There is not enough room: 4194304 MB are needed"), std::string::npos) << job.Error();
+  EXPECT_TRUE(fs::is_empty(folder.Path("Bob")));
+}
+
+// Whatever call fails, every byte of the source is somewhere under its own name, and no final name stands
+// for a part of something.
+TEST(CopyJob, LosesNothingWhicheverCallFails) {
+  struct Case {
+    const char* name;
+    CopyJob::Kind kind;
+    bool student;
+    bool twoDrives;
+  };
+  const Case cases[] = {{"copy a video", CopyJob::Kind::Copy, false, false},
+                        {"move a video", CopyJob::Kind::Move, false, false},
+                        {"move a video to another drive", CopyJob::Kind::Move, false, true},
+                        {"copy a student", CopyJob::Kind::Copy, true, false},
+                        {"move a student", CopyJob::Kind::Move, true, false},
+                        {"move a student to another drive", CopyJob::Kind::Move, true, true}};
+  for (const Case& one : cases) {
+    int call = 0;
+    for (bool failed = true; failed && call < 200; ++call) {
+      SCOPED_TRACE(one.name + std::string(", call ") + std::to_string(call));
+      TempFolder folder;
+      MakeStudent(folder);
+      const auto before = Contents(folder);
+      const std::vector<CopyUnit> units = one.student ? WholeStudent(folder) : OneVideo(folder);
+      FailingDisk disk(call);
+      TwoDrives drives(disk);
+      CopyJob job(one.kind, units, one.twoDrives ? static_cast<ICopyDisk&>(drives) : disk);
+      RunToEnd(job);
+      failed = disk.Failed();
+      for (const CopyEntry& entry : units[0]) {
+        for (const auto& [name, bytes] : before) {
+          const std::string path = folder.Path(name);
+          if (path != entry.from && !path.starts_with(entry.from + "/")) continue;
+          const std::string moved = fs::path(entry.to + path.substr(entry.from.size())).lexically_relative(folder.Path()).string();
+          const auto after = Contents(folder);
+          const bool old = after.contains(name) && after.at(name) == bytes;
+          const bool arrived = after.contains(moved) && after.at(moved) == bytes;
+          EXPECT_TRUE(old || arrived) << name;
+          EXPECT_TRUE(!after.contains(moved) || after.at(moved) == bytes) << moved;
+          const bool done = job.Status() == CopyJob::State::Done;
+          EXPECT_TRUE(old || (done && one.kind == CopyJob::Kind::Move)) << name << ": " << job.Error();
+          EXPECT_TRUE(arrived || !done) << name;
+        }
+      }
+      if (job.Status() == CopyJob::State::Failed) {
+        EXPECT_NE(job.Error(), "");
+        EXPECT_EQ(Contents(folder), before) << job.Error();
+      }
+    }
+    EXPECT_GE(call, 2) << one.name;
+    EXPECT_LT(call, 200) << one.name;
+  }
+}
+
+TEST(RenameEntry, TakesAFreeNameOnly) {
+  TempFolder folder;
+  folder.Put("a.avi", "a");
+  folder.Put("b.avi", "b");
+  std::string error;
+  EXPECT_FALSE(RenameEntry(folder.Path("a.avi"), folder.Path("b.avi"), &error));
+  EXPECT_NE(error, "");
+  EXPECT_EQ(folder.Get("b.avi"), "b");
+  EXPECT_TRUE(RenameEntry(folder.Path("a.avi"), folder.Path("A.avi")));
+  EXPECT_EQ(folder.Get("A.avi"), "a");
+  EXPECT_FALSE(RenameEntry(folder.Path("gone.avi"), folder.Path("c.avi")));
+  // Two links to one file are two names, whatever their case.
+  fs::create_hard_link(folder.Path("b.avi"), folder.Path("c.avi"));
+  EXPECT_FALSE(RenameEntry(folder.Path("b.avi"), folder.Path("c.avi")));
+  EXPECT_TRUE(EntryExists(folder.Path("b.avi")));
+}
+
+TEST(RemoveTree, RemovesLinksAndNotWhatTheyPointAt) {
+  TempFolder folder;
+  fs::create_directories(folder.Path("out"));
+  folder.Put("out/keep.avi", "kept");
+  fs::create_directories(folder.Path("Ann/lessons"));
+  folder.Put("Ann/lessons/.hidden", "");
+  fs::create_directory_symlink(folder.Path("out"), folder.Path("Ann/link"));
+  EXPECT_TRUE(RemoveTree(folder.Path("Ann")));
+  EXPECT_FALSE(EntryExists(folder.Path("Ann")));
+  EXPECT_EQ(folder.Get("out/keep.avi"), "kept");
+  EXPECT_TRUE(RemoveTree(folder.Path("Ann")));  // gone already
+}
+
+}  // namespace
+}  // namespace kinalyx
