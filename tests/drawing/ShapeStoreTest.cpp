@@ -1,0 +1,174 @@
+#include <filesystem>
+#include <fstream>
+
+#include "DrawingSupport.h"
+#include "drawing/ShapeGeometry.h"
+#include "drawing/ShapeHistory.h"
+
+namespace kinalyx::test {
+namespace {
+
+struct Listener final : IShapeLocked {
+  std::vector<int> updates;
+  int off = 0;
+  void VectorColorUpdate(int Kind) override { updates.push_back(Kind); }
+  void DrawingOff() override { ++off; }
+};
+
+TEST(ShapeStore, AnAngleIsFinishedByItsThirdPoint) {
+  ShapeEngine engine;
+  Listener listener;
+  engine.SetLockListener(&listener);
+  engine.CadColor = 77;
+  ShapeList list;
+  Shape& angle = *engine.AddShape(list, kAngle, 0);
+  EXPECT_EQ(angle.Colour, 77) << "no colour means the current one";
+  EXPECT_EQ(angle.Pts.size(), 4u);
+  EXPECT_TRUE(list.Adding);
+
+  EXPECT_FALSE(engine.AddPoint(angle, {10, 10}, false));
+  EXPECT_FALSE(engine.AddPoint(angle, {11, 10}, true));
+  EXPECT_FALSE(engine.AddPoint(angle, {50, 10}, false));
+  EXPECT_EQ(angle.NumPts, 2);
+  EXPECT_FALSE(engine.AddPoint(angle, {11, 10}, false)) << "back on the last fixed point";
+  EXPECT_EQ(angle.Pts[1], (POINTAPI{50, 10})) << "the floating point stays where it was";
+  EXPECT_FALSE(engine.AddPoint(angle, {60, 10}, true));
+  EXPECT_TRUE(listener.updates.empty());
+  EXPECT_TRUE(engine.AddPoint(angle, {60, 90}, true));
+  EXPECT_TRUE(angle.Locked);
+  EXPECT_EQ(angle.NumPts, 3);
+  EXPECT_EQ(listener.updates, std::vector{25});
+  EXPECT_EQ(listener.off, 1);
+  EXPECT_FALSE(engine.AddPoint(angle, {1, 1}, true)) << "locked";
+  EXPECT_EQ(angle.NumBound, 3);
+}
+
+TEST(ShapeStore, AnOpenLineGrowsAndDropsItsFloatingPoint) {
+  ShapeEngine engine;
+  ShapeList list;
+  Shape& path = *engine.AddShape(list, kSwingPath, 1);
+  for (int i = 0; i < 5; ++i) engine.AddPoint(path, {i, i}, true);
+  engine.AddPoint(path, {99, 99}, false);
+  EXPECT_EQ(path.NumPts, 6);
+  engine.LockShape(path);
+  EXPECT_EQ(path.NumPts, 5);
+  EXPECT_TRUE(path.Locked);
+
+  // The counts are 16 bits wide: a stroke without end stops taking points.
+  Shape& stroke = *engine.AddShape(list, kFreehand, 1);
+  for (int i = 0; i < 40000; ++i) engine.AddPoint(stroke, {i, 0}, true);
+  EXPECT_EQ(stroke.NumBound, 32767);
+}
+
+TEST(ShapeStore, RemovedShapesCloseTheirGap) {
+  ShapeList list;
+  for (int i = 0; i < 3; ++i) Add(list, Finished(kFlag, {{i, i}}));
+  KillShape(list, 0);
+  ASSERT_EQ(list.NumShapes, 2);
+  EXPECT_EQ(list.Shapes[0].Pts[0].x, 1);
+  KillShape(list, 1);
+  KillShape(list, 0);
+  EXPECT_EQ(list.NumShapes, 0);
+  EXPECT_EQ(list.Shapes.size(), 1u) << "one stale slot";
+  EXPECT_TRUE(ShapesOf(list).empty());
+  KillShape(list, 0);
+  EXPECT_EQ(list.NumShapes, 0);
+  EXPECT_EQ(ShapeEngine().AddShape(list, kLine, 5), &list.Shapes[0]);
+  EXPECT_EQ(list.NumShapes, 1);
+}
+
+TEST(ShapeStore, ACopyIsFinishedLikeAnyShape) {
+  ShapeEngine engine;
+  Listener listener;
+  engine.SetLockListener(&listener);
+  ShapeList source;
+  Add(source, Finished(kClock, {{0, 0}, {100, 100}}, 9));
+  source.Shapes[0].Pts[2].x = 15;
+  source.Shapes[0].SavedPts.resize(3);
+  Add(source, Finished(kFreehand, {{0, 0}, {5, 5}, {0, 0}}, 9));
+  ShapeList target;
+  engine.CopyShapeInto(source, target, 0);
+  engine.CopyShapeInto(source, target, 1);
+  engine.CopyShapeInto(source, target, 2);
+  ASSERT_EQ(target.NumShapes, 2);
+  EXPECT_FALSE(target.Adding);
+  EXPECT_EQ(ClockRotation(target.Shapes[0]), 0);
+  EXPECT_TRUE(target.Shapes[0].SavedPts.empty());
+  EXPECT_EQ(target.Shapes[1].NumBound, 3);
+  EXPECT_EQ(listener.updates.size(), 3u) << "a full kind by its last point and again, an open one once";
+}
+
+TEST(ShapeStore, StraightModeHoldsPointsLevelOrUpright) {
+  ShapeEngine engine;
+  EXPECT_EQ(engine.ConstrainPoint({3, 4}), (POINTAPI{3, 4}));
+  engine.StraightMode = true;
+  EXPECT_EQ(engine.ConstrainPoint({100, 100}), (POINTAPI{100, 100}));
+  EXPECT_EQ(engine.ConstrainPoint({150, 120}), (POINTAPI{150, 100}));
+  EXPECT_EQ(engine.ConstrainPoint({90, 180}), (POINTAPI{100, 180}));
+  EXPECT_EQ(engine.ConstrainPoint({140, 60}), (POINTAPI{100, 60})) << "a tie is upright";
+}
+
+TEST(ShapeStore, TheLogWritesOnlyWhenItIsOn) {
+  const auto folder = std::filesystem::temp_directory_path() / "kinalyx-shape-log";
+  std::filesystem::remove_all(folder);
+  std::filesystem::create_directories(folder);
+  ShapeEngine engine;
+  engine.Log.path = (folder / "Kinalyx_Log.txt").string();
+  ShapeList list;
+  engine.AddShape(list, kLine, 1);
+  EXPECT_FALSE(std::filesystem::exists(engine.Log.path));
+  engine.Log.LogEnabled = true;
+  engine.AddPoint(list.Shapes[0], {7, -8}, true);
+  std::ifstream file(engine.Log.path);
+  std::string line;
+  std::getline(file, line);
+  ASSERT_EQ(line.size(), std::string("HH:MM:SS - DD/MM/YYYY - ").size() + std::string("Calling AddPoint((7, -8), True)").size());
+  EXPECT_EQ(line.substr(24), "Calling AddPoint((7, -8), True)");
+  EXPECT_EQ(line[2], ':');
+  EXPECT_EQ(line[13], '/');
+  std::filesystem::remove_all(folder);
+}
+
+TEST(ShapeStore, ListsStretchAndFlip) {
+  ShapeList list;
+  Add(list, Finished(kClock, {{10, 20}, {31, 41}}));
+  list.Shapes[0].Pts[2].x = 12;
+  StretchShapes(list, 640, 480, 320, 240);
+  EXPECT_EQ(list.Shapes[0].Pts[0], (POINTAPI{5, 10}));
+  EXPECT_EQ(list.Shapes[0].Pts[1], (POINTAPI{16, 20})) << "15.5 and 20.5 go to the even neighbour";
+  EXPECT_EQ(list.Shapes[0].Pts[2].x, 12) << "a rotation is no place";
+  FlipShapes(list, 320);
+  EXPECT_EQ(list.Shapes[0].Pts[0], (POINTAPI{315, 10}));
+  const ShapeList before = list;
+  StretchShapes(list, 320, 240, 0, 0);
+  StretchShapes(list, 0, 0, 320, 240);
+  EXPECT_EQ(list, before) << "a window that is not shown has no size";
+}
+
+TEST(ShapeHistory, FiftyChangesCanBeTakenBack) {
+  ShapeHistory history;
+  ShapeList list;
+  history.Reset(list);
+  for (int i = 0; i < 60; ++i) {
+    Add(list, Finished(kFlag, {{i, i}}));
+    history.Note(list);
+    history.Note(list);
+  }
+  int steps = 0;
+  while (history.Undo(list)) ++steps;
+  EXPECT_EQ(steps, 50);
+  EXPECT_EQ(list.NumShapes, 10);
+  EXPECT_TRUE(history.Redo(list));
+  EXPECT_EQ(list.NumShapes, 11);
+
+  // The window shrinks: the steps on either side shrink with it.
+  history.Apply([](ShapeList& past) { StretchShapes(past, 0.5, 0.5); });
+  EXPECT_TRUE(history.Redo(list));
+  EXPECT_EQ(list.Shapes[10].Pts[0].x, 5);
+  KillShape(list, 0);
+  history.Note(list);
+  EXPECT_FALSE(history.CanRedo()) << "a new change drops what was taken back";
+}
+
+}  // namespace
+}  // namespace kinalyx::test
