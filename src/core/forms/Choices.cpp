@@ -47,9 +47,6 @@ void SampleButton::paintEvent(QPaintEvent*) {
   PaintSample(painter, sample);
   painter.restore();
   if (text().isEmpty()) return;
-  QFont font = this->font();
-  if (isChecked()) font.setWeight(QFont::DemiBold);
-  painter.setFont(font);
   painter.setPen(isEnabled() ? theme.text : theme.faint);
   const QRect words = rect().adjusted(kSide + SampleWidth() + kBetween, 0, -4, 0);
   painter.drawText(words, Qt::AlignLeft | Qt::AlignVCenter,
@@ -79,7 +76,7 @@ void SchemeButton::PaintSample(QPainter& painter, const QRectF& room) {
   outline.addRoundedRect(page, 4, 4);
   painter.setClipPath(outline);
   painter.fillRect(page, colours_[3]);
-  painter.fillRect(QRectF(page.left(), page.top(), 13, page.height()), colours_[1]);
+  painter.fillRect(QRectF(page.left(), page.top(), 11, page.height()), colours_[1]);
   painter.fillRect(QRectF(page.left(), page.top(), page.width(), 6), colours_[0]);
   painter.setClipping(false);
   painter.setPen(QPen(Mix(colours_[3], colours_[0], 0.45), 1));

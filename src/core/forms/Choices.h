@@ -46,7 +46,7 @@ class SchemeButton : public SampleButton {
 
  protected:
   void PaintSample(QPainter& painter, const QRectF& room) override;
-  int SampleWidth() const override { return 44; }
+  int SampleWidth() const override { return 36; }
 
  private:
   std::array<QColor, 4> colours_;
@@ -71,6 +71,7 @@ class Gauge : public QProgressBar {
   void Show(const QColor& colour, int percent);
   QColor Colour() const { return colour_; }
   QSize sizeHint() const override { return QSize(120, 14); }
+  QSize minimumSizeHint() const override { return QSize(60, 14); }
 
  protected:
   void paintEvent(QPaintEvent*) override;

@@ -47,7 +47,7 @@ void GeneralSection::AddWho() {
   QVBoxLayout* rows = AddPanel(0, "You and Your Company");
   name_ = AddText(*rows, "UserNameBox", "Your name");
   company_ = AddText(*rows, "CompanyNameBox", "Company name");
-  noun_ = AddText(*rows, "Text3", "The people you work with are called, one of them");
+  noun_ = AddText(*rows, "Text3", "What you call one person: Student, Golfer, Client ...");
   noun_->setPlaceholderText("Student");
   connect(name_, &QLineEdit::textChanged, this,
           [this](const QString& text) { Store(settings_.UserName, text.toStdString()); });
@@ -116,6 +116,7 @@ void GeneralSection::AddSystemTest() {
     titles_[i] = MakeLabel({}, {}, "muted");
     texts_[i] = new FigureLabel(QString("Label1_%1").arg(i));
     texts_[i]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    texts_[i]->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
     gauges_[i] = new Gauge(QString("FloodPanel%1").arg(i));
     grid->addWidget(titles_[i], i, 0);
     grid->addWidget(texts_[i], i, 1);

@@ -25,7 +25,7 @@ class Reader : public QTextBrowser {
  protected:
   void resizeEvent(QResizeEvent* event) override {
     const int side = std::max(28, (width() - kReadingWidth) / 2);
-    if (viewportMargins().left() != side) setViewportMargins(side, 18, 28, 18);
+    if (viewportMargins().left() != side) setViewportMargins(side, 18, side, 18);
     QTextBrowser::resizeEvent(event);
   }
 };
@@ -48,6 +48,7 @@ HelpPage::HelpPage(const QString& folder, QWidget* parent) : QWidget(parent), fo
   browser_ = new Reader;
   browser_->setObjectName("wcIE");
   browser_->setOpenLinks(false);
+  panel->Body()->setContentsMargins(2, 0, 2, 8);  // clear of the rounded corners
   panel->Body()->addWidget(browser_);
   rows->addWidget(panel);
 

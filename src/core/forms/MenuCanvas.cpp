@@ -16,6 +16,9 @@ namespace {
 // The second line carries the name, and the others lead to it.
 constexpr int kNameLine = 1;
 constexpr int kLongestSide = 4096;
+constexpr double kSideMargin = 0.055;  // in parts of the width
+constexpr int kNarrow = 1000;
+constexpr int kNarrowMargin = 20;
 
 QFont HeadingFont(int line, double pixels) {
   QFont font = UiFont(12, line == kNameLine ? 700 : 300);
@@ -70,7 +73,10 @@ void MenuCanvas::SetSample(bool on) {
   update();
 }
 
-int MenuCanvas::SideMargin() const { return qRound(width() * (width() < 1000 ? 0.025 : 0.055)); }
+int MenuCanvas::SideMargin(int width) {
+  const bool narrow = width > kNarrow / 2 && width < kNarrow;  // the small window; below that it is a sample
+  return narrow ? kNarrowMargin : qRound(width * kSideMargin);
+}
 
 void MenuCanvas::paintEvent(QPaintEvent*) {
   QPainter painter(this);
@@ -110,7 +116,7 @@ void MenuCanvas::PaintGround(QPainter& painter) const {
 
 void MenuCanvas::PaintHeading(QPainter& painter) const {
   const int count = static_cast<int>(lines_.size());
-  const double side = SideMargin();
+  const double side = SideMargin(width());
   const QRectF room(side, height() * 0.09, width() - 2 * side, height() * (1 - 0.09 - kButtonRoom - 0.05));
   double pixels = std::min(height() * 0.053, 72.0);
   const double widest = WidestLine(lines_, pixels);
@@ -143,7 +149,7 @@ void MenuCanvas::PaintSample(QPainter& painter) const {
   painter.setPen(Qt::NoPen);
   painter.setBrush(fill);
   constexpr int kButtons = 7;
-  const double side = width() * 0.055;
+  const double side = SideMargin(width());
   const double gap = width() * 0.011;
   const double box = (width() - 2 * side - (kButtons - 1) * gap) / kButtons;
   for (int i = 0; i < kButtons; ++i) {

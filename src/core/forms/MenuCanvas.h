@@ -28,8 +28,8 @@ class MenuCanvas : public QWidget {
   void SetSample(bool on);
   /// Height, in parts of the whole, that is kept free at the bottom for the buttons.
   static constexpr double kButtonRoom = 0.25;
-  /// Blank to the left and right in logical pixels.
-  int SideMargin() const;
+  /// Blank to the left and right of a page of this width, logical pixels.
+  static int SideMargin(int width);
 
   QSize sizeHint() const override { return QSize(360, 225); }
 

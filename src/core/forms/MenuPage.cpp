@@ -14,7 +14,6 @@ namespace {
 
 constexpr std::array<const char*, 8> kIcons = {"",     "students",      "camera", "analyze",
                                                "send", "import-export", "setup",  "help"};
-constexpr int kWidestTile = 220;
 
 }  // namespace
 
@@ -35,7 +34,6 @@ MenuPage::MenuPage(IHost& host, Settings& settings, QWidget* parent)
   for (int i = 1; i < static_cast<int>(tiles_.size()); ++i) {
     auto* tile = new TileButton(QString("MainCmd%1").arg(i), {}, kIcons[static_cast<std::size_t>(i)],
                                 TileButton::Place::Picture);
-    tile->setMaximumWidth(kWidestTile);
     connect(tile, &QPushButton::clicked, this, [this, i] { emit PageWanted(i); });
     row_->addWidget(tile, 1);
     tiles_[static_cast<std::size_t>(i)] = tile;
@@ -58,7 +56,7 @@ void MenuPage::SetSectionComing(int index) { Coming(tiles_.at(static_cast<std::s
 
 void MenuPage::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
-  const int side = width() < 1000 ? 20 : qRound(width() * 0.055);
+  const int side = MenuCanvas::SideMargin(width());
   row_->setSpacing(width() < 1000 ? 8 : 14);
   row_->setContentsMargins(side, 0, side - 12, qRound(height() * 0.073));
 }
@@ -66,7 +64,7 @@ void MenuPage::resizeEvent(QResizeEvent* event) {
 void MenuPage::ShowSetupMenu() {
   QMenu menu(this);
   menu.setObjectName("MenuSetup");
-  menu.addAction("Choose Picture...", this, [this] {
+  menu.addAction("Choose Picture", this, [this] {
     if (!ChooseBackground(host_, settings_)) return;
     SetupMenuImage();
     emit MenuChanged();

@@ -51,8 +51,8 @@ MenuSection::MenuSection(IHost& host, Settings& settings, QWidget* parent)
   picture->addSpacing(4);
   auto* actions = new QHBoxLayout;
   actions->setSpacing(8);
-  auto* choose = new Button("MenuSetupBtn0", "Choose Picture...", "open");
-  auto* move = new Button("MenuSetupBtn1", "Move Heading", "move", Look::Quiet);
+  auto* choose = new Button("MenuSetupBtn0", "Choose Picture", "open");
+  auto* move = new Button("MenuSetupBtn1", "Move Heading", "chevron-right", Look::Quiet);
   move->setToolTip("To the next of ten places");
   actions->addWidget(choose);
   actions->addWidget(move);

@@ -38,7 +38,8 @@ SetupSection::SetupSection(const QString& name, Settings& settings, QWidget* par
     column->setSpacing(kGap);
     columns->addLayout(column, 1);
   }
-  row->addWidget(content, 1);
+  row->addWidget(content, 1000);
+  row->addStretch(1);  // on a very wide page the columns stay beside the sections
   setWidget(ground);
   viewport()->setAutoFillBackground(false);
 }

@@ -5,7 +5,6 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QPainter>
-#include <QPainterPath>
 #include <QScreen>
 
 #include "platform/host/Host.h"
@@ -18,7 +17,6 @@ SplashForm::SplashForm(const QString& version, QWidget* parent)
     : QWidget(parent, Qt::SplashScreen | Qt::FramelessWindowHint) {
   setObjectName("SplashForm");
   setFixedSize(560, 320);
-  setAttribute(Qt::WA_TranslucentBackground);
 
   const Theme theme = CurrentTheme();
   auto* rows = new QVBoxLayout(this);
@@ -56,10 +54,6 @@ void SplashForm::paintEvent(QPaintEvent*) {
   const Theme theme = CurrentTheme();
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  QPainterPath outline;
-  outline.addRoundedRect(QRectF(rect()), 14, 14);
-  painter.setClipPath(outline);
-
   QLinearGradient ground(rect().topLeft(), rect().bottomRight());
   ground.setColorAt(0, Mix(theme.accent, Qt::black, 0.35));
   ground.setColorAt(0.55, theme.accent);

@@ -1,0 +1,177 @@
+#include <QAction>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTextBrowser>
+#include <QTimer>
+
+#include "FormsSupport.h"
+#include "core/MailSettings.h"
+#include "core/Vocabulary.h"
+#include "core/forms/FirstForm.h"
+#include "core/forms/HelpPage.h"
+#include "core/forms/MenuPage.h"
+#include "core/forms/SplashForm.h"
+#include "platform/files/IniFile.h"
+#include "support/TempFolder.h"
+#include "support/TestHost.h"
+
+namespace kinalyx::test {
+namespace {
+
+struct Desk : UsesApplication {
+  TempFolder folder;
+  TestHost host;
+  Settings settings{host, folder.Path("data"), folder.Path("program")};
+  MailSettings mail{settings.DataPath};
+
+  Desk() {
+    settings.LoadSettings();
+    mail.LoadMailSettings();
+  }
+  std::string OnDisk(const char* key) {
+    return ReadProfileValue("General", key, settings.ConfigFile()).value_or("missing");
+  }
+};
+
+template <typename Widget>
+Widget* Find(QWidget& form, const char* name) {
+  Widget* widget = form.findChild<Widget*>(name);
+  EXPECT_TRUE(widget) << name;
+  return widget;
+}
+
+TEST(FirstForm, KeepsEachChangeAndMakesTheSender) {
+  Desk desk;
+  FirstForm form(desk.settings, desk.mail);
+  QSignalSpy company(&form, &FirstForm::CompanyChanged);
+  EXPECT_EQ(Find<QLineEdit>(form, "UserInfo0")->text(), "");
+  EXPECT_EQ(Find<QLineEdit>(form, "UserInfo1")->text(), "") << "the first-run name of the company is no name";
+  Find<QLineEdit>(form, "UserInfo0")->setText("Erica Sample");
+  EXPECT_EQ(desk.OnDisk("UserName"), "Erica Sample");
+  Find<QLineEdit>(form, "UserInfo1")->setText("Links");
+  EXPECT_EQ(desk.OnDisk("CompanyName"), "Links");
+  EXPECT_EQ(company.count(), 1);
+  EXPECT_EQ(ReadProfileValue("General", "SenderName", desk.mail.File()), "");
+
+  form.show();
+  Find<QPushButton>(form, "SSCommand1")->click();
+  EXPECT_FALSE(form.isVisible());
+  EXPECT_EQ(ReadProfileValue("General", "SenderName", desk.mail.File()), "Erica Sample");
+  EXPECT_EQ(ReadProfileValue("General", "Subject", desk.mail.File()), "Video Analysis from Links");
+  EXPECT_EQ(desk.mail.Subject, "Video Analysis from Links");
+}
+
+TEST(FirstForm, ShowsWhatAnOlderVersionKnew) {
+  Desk desk;
+  desk.settings.UserName = "Old Coach";
+  desk.settings.CompanyName = "Old Links";
+  FirstForm form(desk.settings, desk.mail);
+  EXPECT_EQ(Find<QLineEdit>(form, "UserInfo0")->text(), "Old Coach");
+  EXPECT_EQ(Find<QLineEdit>(form, "UserInfo1")->text(), "Old Links");
+  EXPECT_EQ(desk.OnDisk("UserName"), "Old Coach");
+  EXPECT_EQ(desk.OnDisk("CompanyName"), "Old Links");
+}
+
+TEST(SplashForm, NamesTheVersionAndStaysItsTime) {
+  Desk desk;
+  SplashForm form("1.2.3");
+  EXPECT_EQ(Find<QLabel>(form, "Label1")->text(), "Software Version 1.2.3");
+  // The hand-turned clock moves with every turn of the event loop, so the wait can be seen to end by it.
+  int turns = 0;
+  QTimer turn;
+  QObject::connect(&turn, &QTimer::timeout, [&] {
+    ++turns;
+    desk.host.Advance(250);
+  });
+  turn.start(0);
+  form.Stay(desk.host, 1000);
+  EXPECT_GE(turns, 4);
+  EXPECT_TRUE(form.isVisible());
+}
+
+TEST(MenuPage, TilesLeadToPagesAndCarryTheNoun) {
+  Desk desk;
+  MenuPage page(desk.host, desk.settings);
+  QSignalSpy wanted(&page, &MenuPage::PageWanted);
+  page.SetSectionComing(2);
+  for (const char* tile : {"MainCmd1", "MainCmd2", "MainCmd7"}) Find<QPushButton>(page, tile)->click();
+  ASSERT_EQ(wanted.count(), 2);
+  EXPECT_EQ(wanted[0][0], 1);
+  EXPECT_EQ(wanted[1][0], 7);
+  EXPECT_EQ(Find<QPushButton>(page, "MainCmd2")->toolTip(), "coming");
+  EXPECT_EQ(Find<QPushButton>(page, "MainCmd1")->text(), "Student Profiles");
+  SetPrimaryName(desk.settings, "Patient");
+  page.SetupVocabulary();
+  EXPECT_EQ(Find<QPushButton>(page, "MainCmd1")->text(), "Patient Profiles");
+}
+
+TEST(MenuPage, ItsButtonChoosesThePictureAndMovesTheHeading) {
+  Desk desk;
+  MenuPage page(desk.host, desk.settings);
+  page.resize(1024, 700);
+  page.show();
+  QSignalSpy changed(&page, &MenuPage::MenuChanged);
+  const auto choose = [&](int row) {
+    QTimer::singleShot(0, [row] {
+      auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+      ASSERT_TRUE(menu);
+      menu->actions().at(row)->trigger();
+      menu->close();
+    });
+    Find<QPushButton>(page, "MenuSetupBtn")->click();
+  };
+  const auto pixelAt = [&](int x, int y) { return page.grab().toImage().pixelColor(x, y); };
+
+  QImage red(64, 40, QImage::Format_RGB32);
+  red.fill(QColor(200, 10, 10));
+  const std::string picture = desk.folder.Path("red.png");
+  ASSERT_TRUE(red.save(QString::fromStdString(picture)));
+  EXPECT_NE(pixelAt(600, 350), QColor(200, 10, 10));
+  desk.host.files = {picture};
+  choose(0);
+  EXPECT_EQ(desk.OnDisk("BackgroundPic"), picture);
+  EXPECT_EQ(pixelAt(600, 350), QColor(200, 10, 10));
+
+  // The heading leaves the left upper corner when it is moved on four places.
+  const auto letters = [&](const QRect& area) {
+    const QImage image = page.grab(area).toImage();
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y)
+      for (int x = 0; x < image.width(); ++x) count += image.pixelColor(x, y) == Qt::white;
+    return count;
+  };
+  const QRect left(0, 60, 400, 300), right(624, 60, 400, 300);
+  EXPECT_GT(letters(left), 100);
+  EXPECT_EQ(letters(right), 0);
+  for (int i = 0; i < 4; ++i) choose(1);
+  EXPECT_EQ(desk.OnDisk("CaptionPosition"), "5");
+  EXPECT_EQ(letters(left), 0);
+  EXPECT_GT(letters(right), 100);
+  EXPECT_EQ(changed.count(), 5);
+}
+
+TEST(HelpPage, FollowsLinksAndComesBack) {
+  UsesApplication application;
+  TempFolder folder;
+  folder.Put("index.htm", "<html><head><title>Welcome</title></head><body><a href=\"keys.htm\">Keys</a></body></html>");
+  folder.Put("keys.htm", "<html><head><title>Keys</title></head><body>All keys</body></html>");
+  HelpPage page(QString::fromStdString(folder.Path()));
+  page.Navigate("index.htm");
+  auto* browser = Find<QTextBrowser>(page, "wcIE");
+  EXPECT_EQ(Find<QLabel>(page, "HelpTitle")->text(), "Welcome");
+  EXPECT_FALSE(Find<QPushButton>(page, "HelpBackBtn")->isEnabled());
+  emit browser->anchorClicked(browser->source().resolved(QUrl("keys.htm")));
+  EXPECT_EQ(browser->toPlainText(), "All keys");
+  Find<QPushButton>(page, "HelpBackBtn")->click();
+  EXPECT_EQ(Find<QLabel>(page, "HelpTitle")->text(), "Welcome");
+
+  HelpPage empty("/nowhere");
+  empty.Navigate("index.htm");
+  EXPECT_TRUE(Find<QTextBrowser>(empty, "wcIE")->toPlainText().contains("/nowhere"));
+}
+
+}  // namespace
+}  // namespace kinalyx::test
