@@ -31,6 +31,7 @@ class AVIControl::Run final : public IPlayRun {
   }
 
   std::int64_t Tick(std::int64_t now) override {
+    const Watch watch(control_);
     if (wrap_) {
       counter_ = 0;
       Restart(now);
@@ -38,6 +39,7 @@ class AVIControl::Run final : public IPlayRun {
       counter_ = due;
       Show();
     }
+    if (watch.Gone()) return now;  // and this run with it
     return wrap_ ? now + interval_ : base_ + static_cast<std::int64_t>(counter_ + 1) * interval_;
   }
 
@@ -63,8 +65,10 @@ class AVIControl::Run final : public IPlayRun {
     const int play = play_;
     const bool atEnd = counter_ >= control_.PlayEnd_;
     counter_ = std::min(counter_, control_.PlayEnd_);
-    control_.DrawFrame(counter_);
-    if (!atEnd || play != play_ || !control_.IsPlaying_) return;
+    const Watch watch(control_);
+    control_.SetPosition(counter_);
+    control_.RenderCurrent();
+    if (watch.Gone() || !atEnd || play != play_ || !control_.IsPlaying_) return;
     wrap_ = control_.Repeat_;
     if (!wrap_) control_.FinishPlay();
   }
@@ -77,25 +81,33 @@ class AVIControl::Run final : public IPlayRun {
   bool wrap_ = false;
 };
 
-AVIControl::AVIControl(PlayerServices& services, IPlayerView* view) : services_(services), view_(view), run_(std::make_unique<Run>(*this)) {
-  UpdatePenBrush();
+AVIControl::AVIControl(PlayerServices& services, IPlayerView* view)
+    : services_(services), view_(view), run_(std::make_unique<Run>(*this)) {
+  setForecolor(Forecolor_);
 }
 
-AVIControl::~AVIControl() { services_.scheduler.Remove(*run_); }
+AVIControl::~AVIControl() {
+  services_.scheduler.Remove(*run_);
+  if (strobe_) services_.scheduler.Remove(*strobe_);
+}
 
 // ---------------------------------------------------------------- opening
 
 bool AVIControl::Load(const std::string& FileName, bool SplitFields, bool ReverseFields) {
-  if (IsPlaying_) StopPlay();
   const std::string path = FileName.empty() ? filename_ : FileName;
+  const Watch watch(*this);
+  StopStrobe();
+  if (IsPlaying_) StopPlay();
+  // Whoever was told of the end may have opened another file already: that one wins.
+  if (watch.Changed()) return false;
   CloseStream();
   ResetState();
   filename_ = path;
 
   auto opened = VideoFile::Open(path);
   if (!opened.file) {
-    Unload();
     setBackColor(opened.fault == OpenFault::NoFrames ? kRed : kYellow);
+    Unload();
     return false;
   }
   VideoStream_ = std::move(opened.file);
@@ -110,16 +122,20 @@ bool AVIControl::Load(const std::string& FileName, bool SplitFields, bool Revers
   ReverseFields_ = ReverseFields;
   MeasureTime();
   if (!OpenFrameDecoder() || !ReadFirstFrame()) {
-    Unload();
     setBackColor(kYellow);
+    Unload();
     return false;
   }
   CreateSurfaces();
+  UpdatePenBrush();
   return true;
 }
 
 void AVIControl::Unload() {
-  if (IsPlaying_) StopPlay();
+  const Watch watch(*this);
+  StopStrobe();
+  if (!watch.Gone() && IsPlaying_) StopPlay();
+  if (watch.Changed()) return;
   CloseStream();
   ResetState();
   filename_.clear();
@@ -128,9 +144,13 @@ void AVIControl::Unload() {
 }
 
 void AVIControl::CloseStream() {
+  ++*life_;
   VideoStream_.reset();
-  FrameBuffer_.clear();
-  FrameBuffer_.shrink_to_fit();
+  FrameBuffer_ = {};
+  softened_ = false;
+  composed_.reset();
+  Kept_ = {};
+  isKept_ = false;
 }
 
 void AVIControl::ResetState() {
@@ -169,7 +189,6 @@ bool AVIControl::ReadFirstFrame() {
   FormatHeader_.width = rows.width;
   FormatHeader_.height = rows.height;
   FormatHeader_.imageSize = static_cast<std::int64_t>(rows.rowBytes) * rows.height;
-  FrameBuffer_.assign(static_cast<std::size_t>(FormatHeader_.imageSize), 0);
   return true;
 }
 
@@ -189,6 +208,9 @@ void AVIControl::CreateSurfaces() {
   FrameGraphics_.reset();
   MainSurface_ = Surface(ControlWidthPixels_, ControlHeightPixels_);
   ScratchSurface_ = Surface();
+  composed_.reset();
+  Kept_ = {};
+  isKept_ = false;
   UpdatePenBrush();
 }
 
@@ -216,14 +238,21 @@ void AVIControl::setDrawWidth(int width) {
   UpdatePenBrush();
 }
 
-void AVIControl::setForecolor(Colour colour) {
-  pen_.colour = colour;
+bool AVIControl::setForecolor(Colour colour) {
+  const auto shown = TranslateColour(colour);
+  if (!shown) return false;
+  Forecolor_ = colour;
+  pen_.colour = *shown;
   UpdatePenBrush();
+  return true;
 }
 
-void AVIControl::setBackColor(Colour colour) {
+bool AVIControl::setBackColor(Colour colour) {
+  const auto shown = TranslateColour(colour);
+  if (!shown) return false;
   BackColor_ = colour;
-  if (view_) view_->SetBackColor(colour);
+  if (view_) view_->SetBackColor(*shown);
+  return true;
 }
 
 bool AVIControl::setForceDisplayFormat(int code) {
@@ -283,34 +312,62 @@ void AVIControl::setSplitFields(bool on) {
 // ---------------------------------------------------------------- drawing
 
 void AVIControl::DrawFrame(int Position) {
+  const Watch watch(*this);
+  StopStrobe();
+  if (watch.Changed()) return;
   SetPosition(Position);
   RenderCurrent();
 }
 
 void AVIControl::Refresh() {
-  if (VideoStream_) RenderCurrent();
+  if (!VideoStream_) return;
+  if (!strobe_) return RenderCurrent();
+  // While a strobe runs its picture is the current one.
+  ComposeFrameBuffer();
+  PresentFrame();
 }
 
 void AVIControl::RenderCurrent() {
   if (!VideoStream_ || MainSurface_.Empty()) return;
-  const FrameRows rows = VideoStream_->Frame(CurrentRawFrame_, FormatHeader_.bitCount);
-  // A picture that cannot be had any more (the file has gone) leaves the last one standing.
-  if (rows && rows.width == FormatHeader_.width && rows.height == FormatHeader_.height) {
-    // A whole frame is shown from the decoder's own rows; only a field needs a buffer to be rebuilt in.
-    PixelRows picture{rows.bits, rows.width, rows.height, rows.rowBytes, rows.bitCount, true};
-    if (SplitFields_) {
-      CopyField(rows.bits, rows.rowBytes, rows.height, CurrentField_, FrameBuffer_.data());
-      if (rows.bitCount == 24) SoftenField(FrameBuffer_.data(), rows.rowBytes, rows.height, CurrentField_);
-      picture.bits = FrameBuffer_.data();
-    }
-    StretchRows(picture, MainSurface_, scratch_);
-    if (FlipHorizontal_) MirrorHorizontal(MainSurface_, ScratchSurface_);
+  const Composition wanted{CurrentRawFrame_, SplitFields_, CurrentField_, FlipHorizontal_};
+  if (composed_ == wanted && isKept_) {
+    std::copy_n(Kept_.Row(0), static_cast<std::size_t>(Kept_.Stride()) * Kept_.Height(), MainSurface_.Row(0));
+  } else if (ComposeCurrent()) {
+    // A picture that is wanted twice will be wanted again: somebody draws on it.
+    isKept_ = composed_ == wanted;
+    if (isKept_) Kept_ = MainSurface_;
+    composed_ = wanted;
   }
   PresentFrame();
 }
 
+/// Brings the current frame or field on the main surface. A picture that cannot be had any more (the
+/// file has gone) leaves the last one standing, with false.
+bool AVIControl::ComposeCurrent() {
+  if (SplitFields_) {
+    if (!CopyFieldOf(CurrentRawFrame_, FrameBuffer_)) return false;
+    SoftenFrameBuffer();
+    Compose({FrameBuffer_.data(), FormatHeader_.width, FormatHeader_.height,
+             ScanLineBytes(FormatHeader_.width, FormatHeader_.bitCount), FormatHeader_.bitCount, true});
+    return true;
+  }
+  // A whole frame is shown from the decoder's own rows, and 32 bits of each pixel are scaled fastest;
+  // only a field needs a buffer to be rebuilt in.
+  const FrameRows rows = VideoStream_->Frame(CurrentRawFrame_, 32);
+  if (!rows) return false;
+  Compose({rows.bits, rows.width, rows.height, rows.rowBytes, rows.bitCount, true});
+  return true;
+}
+
+void AVIControl::Compose(const PixelRows& picture) {
+  StretchRows(picture, MainSurface_, scratch_);
+  if (FlipHorizontal_) MirrorHorizontal(MainSurface_, ScratchSurface_);
+}
+
 void AVIControl::PresentFrame() {
+  const Watch watch(*this);
   if (sink_) sink_->PreDrawFrame(*FrameGraphics_, ID_);
+  if (watch.Changed()) return;
   if (view_) view_->Present(MainSurface_);
   if (sink_) sink_->Signal(GetPosition(), ID_);
 }
@@ -319,19 +376,18 @@ void AVIControl::PresentFrame() {
 
 void AVIControl::Play(int Start, int End) {
   if (filename_.empty() || !VideoStream_) return;
-  if (IsPlaying_) {
-    StopPlay();
-    return;
-  }
-  if (Start >= 0 && End < 0) {
-    DrawFrame(Start);
-    return;
-  }
+  if (IsPlaying_) return StopPlay();
+  if (Start >= 0 && End < 0) return DrawFrame(Start);
+  const Watch watch(*this);
+  StopStrobe();
+  if (watch.Changed() || IsPlaying_) return;
+  // A new speed that waited for the end of another play holds for this one.
+  if (std::exchange(RestartPending_, false)) Speed_ = RestartSpeed_;
+  playEndArgument_.reset();
   if (Start >= 0) {
-    PlayEnd_ = End;
+    playEndArgument_ = PlayEnd_ = End;
     CurrentRawFrame_ = Start;
   }
-  setSpeed(Speed_);
   IsPlaying_ = true;
   // The raw frame doubles as the play's first position, also where no start was given.
   run_->Begin(CurrentRawFrame_);
@@ -344,7 +400,6 @@ void AVIControl::LoopPlay() {
 
 void AVIControl::StopPlay() {
   if (!IsPlaying_) return;
-  Repeat_ = false;
   FinishPlay();
 }
 
@@ -354,8 +409,10 @@ void AVIControl::FinishPlay() {
   IsPlaying_ = false;
   Repeat_ = false;
   // A play without arguments takes up this end; with fields it has always been stored as a frame.
-  if (SplitFields_) PlayEnd_ /= 2;
+  if (playEndArgument_) PlayEnd_ = SplitFields_ ? *playEndArgument_ / 2 : *playEndArgument_;
+  const Watch watch(*this);
   if (sink_) sink_->Notify(CurrentRawFrame_, ID_);
+  if (watch.Changed()) return;
   if (RestartPending_ && !IsPlaying_) setSpeed(RestartSpeed_);
 }
 

@@ -1,5 +1,7 @@
 #include "video/FramePipeline.h"
 
+#include <array>
+#include <cmath>
 #include <cstddef>
 #include <cstring>
 
@@ -12,6 +14,13 @@ std::uint8_t* Row(std::uint8_t* rows, int rowBytes, int row) {
 
 void MeanOfRows(const std::uint8_t* below, const std::uint8_t* above, std::uint8_t* target, int count) {
   for (int c = 0; c < count; ++c) target[c] = static_cast<std::uint8_t>((below[c] + above[c] + 1) >> 1);
+}
+
+std::uint8_t Enhanced(int value, double highAmount, double lowAmount) {
+  const double pushed = value > 128 ? value + highAmount : value - lowAmount;
+  const bool inRange = value > 128 ? pushed < 256 : pushed > 0;
+  const double rounded = std::nearbyint(pushed);
+  return static_cast<std::uint8_t>(inRange && rounded >= 0 && rounded <= 255 ? rounded : value);
 }
 
 }  // namespace
@@ -55,6 +64,18 @@ void SoftenField(std::uint8_t* rows, int rowBytes, int height, bool currentField
   smooth(rows, rowBytes, missing + 2, rowBytes - 1, lastRow - 1);
   if (lastRow >= 2 && lastRow % 2 == missing)
     std::memcpy(Row(rows, rowBytes, lastRow), Row(rows, rowBytes, lastRow - 1), static_cast<std::size_t>(rowBytes));
+}
+
+void EnhanceField(std::uint8_t* rows, int rowBytes, int height, bool currentField, double highAmount,
+                  double lowAmount) {
+  std::array<std::uint8_t, 256> table;
+  for (int value = 0; value < 256; ++value) table[static_cast<std::size_t>(value)] = Enhanced(value, highAmount, lowAmount);
+  const int first = currentField ? 2 : 1;
+  const int last = height - 1 - (currentField ? 2 : 1) - 2;
+  for (int row = first; row <= last; row += 2) {
+    std::uint8_t* bytes = Row(rows, rowBytes, row);
+    for (int c = 3; c < rowBytes; ++c) bytes[c] = table[bytes[c]];
+  }
 }
 
 }  // namespace kinalyx

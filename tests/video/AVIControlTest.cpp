@@ -1,0 +1,207 @@
+#include "video/AVIControl.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "Player.h"
+
+namespace kinalyx::test {
+namespace {
+
+using std::string;
+using std::vector;
+
+TEST(AVIControl, OpensAVideo) {
+  Player player;
+  ASSERT_TRUE(player.Load(H264Video(40)));
+  EXPECT_EQ(player.view.colours.back(), 0);
+  EXPECT_EQ(player->filename(), MakeTestVideo(H264Video(40)));
+  EXPECT_EQ(player->VideoWidth(), 320);
+  EXPECT_EQ(player->VideoHeight(), 240);
+  EXPECT_EQ(player->VideoLength(), 40);
+  EXPECT_EQ(player->CurFormatBits(), 24);
+  EXPECT_EQ(player->CurFormatCmp(), 0);
+  EXPECT_EQ(player.services.VideoFrameRate, 30);
+  EXPECT_EQ(player->Position(), 0);
+  EXPECT_EQ(player.view.presented, 0) << "opening shows nothing by itself";
+
+  // An empty name opens the last one again.
+  player->DrawFrame(17);
+  EXPECT_EQ(player.Shown(), 17);
+  ASSERT_TRUE(player->Load("", true, false));
+  EXPECT_EQ(player->VideoLength(), 80);
+  EXPECT_EQ(player->Position(), 0);
+
+  player->Unload();
+  EXPECT_TRUE(player.view.empty);
+  EXPECT_EQ(player->filename(), "");
+  EXPECT_EQ(player->VideoLength(), 0);
+  EXPECT_FALSE(player->Load("", false, false));
+}
+
+TEST(AVIControl, RoundsOnlyTapeRatesUp) {
+  Player player;
+  ASSERT_TRUE(player.Load(DvVideo(3)));
+  EXPECT_EQ(player.services.VideoFrameRate, 30);
+  for (const int rate : {25, 60, 240}) {
+    TestVideo video = MjpegVideo(4);
+    video.format.rate = rate;
+    ASSERT_TRUE(player.Load(video));
+    EXPECT_EQ(player.services.VideoFrameRate, rate);
+  }
+}
+
+TEST(AVIControl, SaysByItsColourWhyNothingOpens) {
+  Player player;
+  const string text = TestPath("letter.avi");
+  std::ofstream(text) << "Dear coach, here is my swing.";
+  const string empty = TestPath("empty.avi");
+  std::ofstream(empty).flush();
+  struct Case {
+    string path;
+    Colour colour;
+  };
+  for (const auto& [path, colour] : {Case{TestPath("missing.avi"), 65535}, Case{text, 65535}, Case{empty, 255}}) {
+    ASSERT_TRUE(player.Load(MjpegVideo(60)));
+    EXPECT_FALSE(player->Load(path, false, false));
+    EXPECT_EQ(player->BackColor(), colour) << path;
+    EXPECT_EQ(player.view.colours.back(), colour);
+    EXPECT_EQ(player->filename(), "");
+    EXPECT_TRUE(player.view.empty);
+    player->Refresh();
+    player->DrawFrame(3);
+    player->Play(0, 10);
+    EXPECT_FALSE(player->IsPlaying());
+  }
+}
+
+TEST(AVIControl, WithoutAFirstPictureBeginsAtTheThird) {
+  const string path = TestPath("first-lost.avi");
+  std::filesystem::copy_file(MakeTestVideo(MjpegVideo(60)), path, std::filesystem::copy_options::overwrite_existing);
+  std::fstream file(path, std::ios::binary | std::ios::in | std::ios::out);
+  string bytes((std::istreambuf_iterator<char>(file)), {});
+  const auto packet = bytes.find("00dc", bytes.find("movi"));
+  std::uint32_t size = 0;
+  bytes.copy(reinterpret_cast<char*>(&size), 4, packet + 4);
+  file.clear();
+  file.seekp(static_cast<std::streamoff>(packet) + 8);
+  file << string(size, '\0');
+  file.close();
+
+  Player player;
+  ASSERT_TRUE(player->Load(path, false, false));
+  EXPECT_EQ(player->Position(), 2);
+  player->Refresh();
+  EXPECT_EQ(player.Shown(), 2);
+}
+
+TEST(AVIControl, CountsFieldsBothWaysRound) {
+  Player player;
+  ASSERT_TRUE(player.Load(DvVideo(6), true, false));
+  EXPECT_EQ(player->VideoLength(), 12);
+  // Field 0 of a frame lies in the rows 1, 3, 5 from the bottom, which are 0, 2, 4 from the top.
+  for (const int position : {2, 3, 11, 0, 1}) {
+    player->DrawFrame(position);
+    EXPECT_EQ(player->Position(), position);
+    EXPECT_EQ(player.Shown(), position);
+  }
+  ASSERT_TRUE(player.Load(DvVideo(6), true, true));
+  for (const int position : {2, 3, 11, 0, 1}) {
+    player->DrawFrame(position);
+    EXPECT_EQ(player->Position(), position);
+    EXPECT_EQ(player.Shown(), position ^ 1);
+  }
+  player->DrawFrame(7);
+  player->setSplitFields(false);
+  EXPECT_EQ(player->VideoLength(), 6);
+  EXPECT_EQ(player->Position(), 3) << "the position stays on its frame";
+  for (const int position : {-5, 99}) {
+    player->DrawFrame(position);
+    EXPECT_EQ(player->Position(), position < 0 ? 0 : 5);
+  }
+}
+
+TEST(AVIControl, CallsItsSinkInOrder) {
+  Player player;
+  ASSERT_TRUE(player.Load(MjpegVideo(60)));
+  player.sink.onDraw = [&](Canvas&) { EXPECT_EQ(player.view.presented, 0) << "drawn before it is shown"; };
+  player.sink.onSignal = [&](int) { EXPECT_EQ(player.view.presented, 1) << "told after it is shown"; };
+  player->DrawFrame(9);
+  EXPECT_EQ(player.sink.calls, (vector<string>{"draw 4", "signal 9 4"}));
+
+  EXPECT_FALSE(player->SetFrameInterface(nullptr));
+  EXPECT_TRUE(player->ReleaseFrameInterface());
+  EXPECT_TRUE(player->ReleaseFrameInterface());
+  EXPECT_FALSE(player->SetMouseKeyboardInterface(nullptr));
+  EXPECT_EQ(player->InputSink(), nullptr);
+  player->DrawFrame(10);
+  EXPECT_EQ(player.Shown(), 10);
+  EXPECT_EQ(player.sink.calls.size(), 2u);
+}
+
+TEST(AVIControl, MirrorsThePictureButNotWhatIsDrawnOnIt) {
+  Player player;
+  ASSERT_TRUE(player.Load(MjpegVideo(60)));
+  player->DrawFrame(5);
+  const Surface plain = player.view.shown;
+  player->setFlipHorizontal(true);
+  player.sink.onDraw = [](Canvas& canvas) {
+    canvas.SetPen({Rgb(255, 0, 0), 1, 0});
+    canvas.Line({3, 10}, {3, 20});
+  };
+  for (int i = 0; i < 4; ++i) {  // also when the composed picture is taken out of the store
+    player->Refresh();
+    EXPECT_EQ(player.view.shown.Pixel(3, 15), Rgb(255, 0, 0));
+    for (const int x : {0, 50, 120, 190}) EXPECT_EQ(player.view.shown.Pixel(199 - x, 70), plain.Pixel(x, 70));
+  }
+  player.sink.onDraw = nullptr;
+  player->setFlipHorizontal(false);
+  player->Refresh();
+  EXPECT_EQ(player.Shown(), 5);
+  EXPECT_EQ(player.view.shown.Pixel(3, 15), plain.Pixel(3, 15)) << "nothing of a drawing stays";
+}
+
+TEST(AVIControl, FollowsItsSize) {
+  Player player;
+  ASSERT_TRUE(player.Load(MjpegVideo(60)));
+  player->DrawFrame(5);
+  player->Resize(300, 100);
+  EXPECT_EQ(player.view.shown.Width(), 300);
+  EXPECT_EQ(player.view.shown.Height(), 100);
+  EXPECT_EQ(player.Shown(), 5);
+  player->Resize(0, 0);
+  player->DrawFrame(6);
+  player->Resize(200, 150);
+  EXPECT_EQ(player.Shown(), 6);
+}
+
+TEST(AVIControl, KeepsItsSettingsInABag) {
+  Player player;
+  player->ReadProperties({});
+  const PropertyBag defaults{{"Loop", 0},          {"DrawStyle", 0},          {"DrawMode", 13},  {"DrawWidth", 1},
+                             {"ForeColor", 0x80000012}, {"BackColor", 0x8000000F}, {"KeyColor", 0},   {"FlipH", 0},
+                             {"SplitFields", 0},   {"ForceFormat", 3},        {"Speed", 100},    {"ID", 0},
+                             {"Soften", 0},        {"CompSpeed", 1}};
+  EXPECT_EQ(player->WriteProperties(), defaults);
+  const PropertyBag others{{"Loop", -1},     {"DrawStyle", 2},    {"DrawMode", 7}, {"DrawWidth", 3}, {"ForeColor", 255},
+                           {"BackColor", 5}, {"KeyColor", 77},    {"FlipH", -1},   {"SplitFields", -1},
+                           {"ForceFormat", 4}, {"Speed", 25},     {"ID", 8},       {"Soften", -1},   {"CompSpeed", 9}};
+  player->ReadProperties(others);
+  EXPECT_EQ(player->WriteProperties(), others);
+
+  EXPECT_FALSE(player->setDrawMode(0));
+  EXPECT_FALSE(player->setDrawMode(17));
+  EXPECT_FALSE(player->setForceDisplayFormat(5));
+  EXPECT_FALSE(player->setForceDisplayFormat(-1));
+  EXPECT_FALSE(player->setSpeed(0));
+  EXPECT_FALSE(player->setForecolor(static_cast<Colour>(0x80000019)));
+  EXPECT_FALSE(player->setBackColor(0x01000000));
+  EXPECT_EQ(player->WriteProperties(), others);
+  player->ReadProperties({{"DrawMode", 40}, {"ForceFormat", 9}, {"Speed", -1}, {"ForeColor", 0x90000000}});
+  EXPECT_EQ(player->WriteProperties(), defaults);
+}
+
+}  // namespace
+}  // namespace kinalyx::test

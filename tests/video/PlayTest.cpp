@@ -1,0 +1,241 @@
+#include <gtest/gtest.h>
+
+#include <numeric>
+
+#include "Player.h"
+
+namespace kinalyx::test {
+namespace {
+
+using std::vector;
+
+vector<int> Range(int from, int to) {
+  vector<int> numbers(static_cast<std::size_t>(to - from + 1));
+  std::iota(numbers.begin(), numbers.end(), from);
+  return numbers;
+}
+
+/// 40 ms for each frame.
+TestVideo Video25(int frames) {
+  TestVideo video = MjpegVideo(frames);
+  video.format.rate = 25;
+  return video;
+}
+
+TEST(Play, ShowsEveryPositionWhenItFallsDueAndTellsItsEnd) {
+  Player player;
+  ASSERT_TRUE(player.Load(Video25(30)));
+  player->Play(5, 20);
+  EXPECT_TRUE(player->IsPlaying());
+  EXPECT_EQ(player.Shown(), 5) << "the first at once";
+  player.host.Advance(39);
+  EXPECT_EQ(player.Shown(), 5);
+  player.host.Advance(1);
+  EXPECT_EQ(player.Shown(), 6);
+  player.host.Advance(10 * 40);
+  EXPECT_EQ(player->Position(), 16);
+  player.host.Advance(1000);
+  EXPECT_FALSE(player->IsPlaying());
+  EXPECT_EQ(player.Shown(), 20);
+  EXPECT_EQ(player.sink.signalled, Range(5, 20));
+  EXPECT_EQ(player.sink.notified, vector<int>{20});
+  EXPECT_EQ(player.sink.calls.back(), "notify 20 4");
+  EXPECT_EQ(player.host.TimerCount(), 0u) << "an idle player costs nothing";
+
+  // Without arguments the last end stands.
+  player->DrawFrame(18);
+  player->Play();
+  player.host.Advance(1000);
+  EXPECT_EQ(player->Position(), 20);
+  EXPECT_EQ(player.sink.notified.size(), 2u);
+}
+
+TEST(Play, WithAStartAloneShowsOnePosition) {
+  Player player;
+  player->Play(5);
+  player->Play(0, 3);
+  EXPECT_TRUE(player.sink.calls.empty()) << "nothing is open";
+  ASSERT_TRUE(player.Load(Video25(30)));
+  player->Play(5);
+  EXPECT_FALSE(player->IsPlaying());
+  EXPECT_EQ(player.Shown(), 5);
+  EXPECT_TRUE(player.sink.notified.empty());
+}
+
+TEST(Play, SkipsLatePositionsAndDrawsTheLast) {
+  Player player;
+  ASSERT_TRUE(player.Load(Video25(30)));
+  // A drawing takes 100 ms.
+  player.sink.onDraw = [&](Canvas&) { player.host.now += 100; };
+  player->Play(0, 24);
+  const auto start = player.host.now;
+  player.host.Advance(2000);
+  ASSERT_GT(player.sink.signalled.size(), 5u);
+  EXPECT_LT(player.sink.signalled.size(), 14u);
+  EXPECT_EQ(player.sink.signalled.back(), 24);
+  EXPECT_EQ(player.sink.notified, vector<int>{24});
+  EXPECT_LT(player.host.now - start, 2200);
+}
+
+TEST(Play, IsAPauseWhilePlaying) {
+  Player player;
+  ASSERT_TRUE(player.Load(Video25(30)));
+  player->setRepeat(true);
+  player->Play(0, 29);
+  player.host.Advance(200);
+  player->Play(0, 29);
+  EXPECT_FALSE(player->IsPlaying());
+  EXPECT_FALSE(player->Repeat()) << "a stop ends the repeat";
+  EXPECT_EQ(player->Position(), 5);
+  EXPECT_EQ(player.sink.notified, vector<int>{5});
+  player.host.Advance(1000);
+  EXPECT_EQ(player->Position(), 5);
+}
+
+TEST(Play, RepeatsFromTheStart) {
+  Player player;
+  ASSERT_TRUE(player.Load(Video25(30)));
+  player->setRepeat(true);
+  player->Play(0, 4);
+  player.host.Advance(40 * 12);
+  EXPECT_EQ(player.sink.signalled, (vector<int>{0, 1, 2, 3, 4, 0, 1, 2, 3, 4, 0, 1, 2}));
+  EXPECT_TRUE(player.sink.notified.empty());
+  player->StopPlay();
+  EXPECT_EQ(player.sink.notified.size(), 1u);
+
+  player->DrawFrame(3);
+  player->LoopPlay();
+  EXPECT_TRUE(player->Repeat());
+  player.host.Advance(40 * 3);
+  EXPECT_EQ(player->Position(), 1);
+}
+
+TEST(Play, GoesOnToTheEndAtANewSpeed) {
+  Player player;
+  ASSERT_TRUE(player.Load(Video25(30)));
+  player->setRepeat(true);
+  player->Play(0, 8);
+  player.host.Advance(160);
+  EXPECT_TRUE(player->setSpeed(50));
+  EXPECT_TRUE(player->IsPlaying());
+  EXPECT_TRUE(player->Repeat()) << "the repeat survives a change of speed";
+  EXPECT_EQ(player->Speed(), 50);
+  EXPECT_EQ(player->Position(), 4);
+  player.host.Advance(80);
+  EXPECT_EQ(player->Position(), 5);
+  player.host.Advance(80 * 24);
+  EXPECT_EQ(player->Position(), 29) << "past the old end";
+  EXPECT_TRUE(player->IsPlaying());
+
+  player->StopPlay();
+  player->setSpeed(200);
+  EXPECT_FALSE(player->IsPlaying());
+  player->Play(0, 29);
+  player.host.Advance(20 * 10);
+  EXPECT_EQ(player->Position(), 10);
+}
+
+TEST(Play, OfFieldsTakesHalfTheTimeForEach) {
+  Player player;
+  TestVideo video = DvVideo(12);
+  ASSERT_TRUE(player.Load(video, true, false));
+  player->Play(0, 23);
+  player.host.Advance(17 * 5);
+  EXPECT_EQ(player.Shown(), 5);
+  player.host.Advance(1000);
+  EXPECT_EQ(player->Position(), 23);
+  EXPECT_EQ(player.sink.notified, vector<int>{11}) << "the raw frame";
+  // A play without arguments begins at the raw frame and ends at half the end.
+  player->Play();
+  EXPECT_EQ(player->Position(), 11);
+  EXPECT_FALSE(player->IsPlaying());
+  player->DrawFrame(4);
+  player->Play();
+  player.host.Advance(1000);
+  EXPECT_EQ(player->Position(), 11) << "and so does the next";
+}
+
+TEST(Play, At240PicturesASecondMovesOn) {
+  Player player;
+  TestVideo video = MjpegVideo(240);
+  video.format.rate = 240;
+  ASSERT_TRUE(player.Load(video));
+  player->Play(0, 239);
+  player.host.Advance(400);
+  EXPECT_EQ(player->Position(), 100);
+  player->setSpeed(1000);  // 0.4 ms: faster than the clock
+  player.host.Advance(20);
+  EXPECT_EQ(player->Position(), 120);
+  player.host.Advance(1000);
+  EXPECT_FALSE(player->IsPlaying());
+  EXPECT_EQ(player.Shown(), 239);
+}
+
+TEST(Play, EightPlayersKeepTimeTogether) {
+  TestHost host;
+  PlayScheduler scheduler(host);
+  PlayerServices services{host, scheduler};
+  vector<RecordingSink> sinks(8);
+  vector<std::unique_ptr<AVIControl>> players;
+  for (int i = 0; i < 8; ++i) {
+    players.push_back(std::make_unique<AVIControl>(services, nullptr));
+    players.back()->Resize(60, 40);
+    players.back()->SetFrameInterface(&sinks[static_cast<std::size_t>(i)]);
+    ASSERT_TRUE(players.back()->Load(MakeTestVideo(i % 2 ? Video25(30) : MjpegVideo(60)), false, false));
+  }
+  for (auto& player : players) player->Play(0, player->VideoLength() - 1);
+  host.Advance(800);
+  for (int i = 0; i < 8; ++i) EXPECT_EQ(players[static_cast<std::size_t>(i)]->Position(), i % 2 ? 20 : 24);
+  // One that goes, and one that is stopped by another's picture, leave the rest alone.
+  players[0].reset();
+  sinks[1].onSignal = [&](int) { players[2]->StopPlay(); };
+  host.Advance(400);
+  EXPECT_FALSE(players[2]->IsPlaying());
+  EXPECT_EQ(players[4]->Position(), 36);
+  host.Advance(5000);
+  for (int i = 1; i < 8; ++i) EXPECT_EQ(sinks[static_cast<std::size_t>(i)].notified.size(), 1u) << i;
+  EXPECT_EQ(host.TimerCount(), 0u);
+}
+
+TEST(Play, AllowsAnythingInsideItsCallbacks) {
+  using Deed = void (*)(Player&);
+  const Deed deeds[] = {
+      [](Player& player) { player->StopPlay(); },
+      [](Player& player) { player->Unload(); },
+      [](Player& player) { player->Load(MakeTestVideo(RawVideo(10)), true, false); },
+      [](Player& player) { player->setSpeed(player->Speed() == 100 ? 50 : 100); },
+      [](Player& player) { player->Play(3, 9); },
+      [](Player& player) { player->DrawFrame(2); },
+      [](Player& player) { player->Refresh(); },
+      [](Player& player) { player->Strobeframes(0, 20, 2); },
+      [](Player& player) { player.control.reset(); },
+  };
+  for (std::size_t deed = 0; deed < std::size(deeds); ++deed) {
+    for (int place = 0; place < 4; ++place) {
+      SCOPED_TRACE(testing::Message() << "deed " << deed << " in callback " << place);
+      Player player;
+      ASSERT_TRUE(player.Load(Video25(30)));
+      int calls = 0;
+      const auto act = [&] {
+        if (++calls == 3 || (place == 2 && calls == 1)) deeds[deed](player);
+      };
+      if (place == 0) player.sink.onDraw = [&](Canvas&) { act(); };
+      if (place == 1) player.sink.onSignal = [&](int) { act(); };
+      if (place == 2) player.sink.onNotify = act;
+      if (place == 3) player.view.shown = Surface();
+      player->Play(0, 12);
+      player.host.Advance(170);
+      if (place == 3) deeds[deed](player);
+      player.host.Advance(8000);
+      EXPECT_GE(calls, place == 3 ? 0 : 1);
+      if (player.control) {
+        EXPECT_FALSE(player->IsPlaying());
+        player->StopPlay();
+      }
+      EXPECT_EQ(player.host.TimerCount(), 0u);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace kinalyx::test
