@@ -1,0 +1,70 @@
+#include "platform/media/AviOutput.h"
+
+#include <fcntl.h>
+#include <fmt/format.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+#include "platform/files/FileCopy.h"
+#include "platform/files/Folders.h"
+#include "platform/files/TextEncoding.h"
+
+namespace kinalyx {
+
+AviOutput::~AviOutput() {
+  output_.reset();
+  if (!partial_.empty()) std::remove(partial_.c_str());
+}
+
+int AviOutput::Open() {
+  AVFormatContext* context = nullptr;
+  if (const int result = avformat_alloc_output_context2(&context, nullptr, "avi", nullptr); result < 0) return result;
+  output_.reset(context);
+  const std::size_t slash = path_.rfind('/');
+  const std::string folder = slash == std::string::npos ? std::string() : path_.substr(0, slash + 1);
+  const std::string partial = fmt::format("{}.{}.{:x}.part", folder, CutUtf8(LastName(path_), 200), getpid());
+  const int result = avio_open(&context->pb, ("file:" + partial).c_str(), AVIO_FLAG_WRITE);
+  if (result >= 0) partial_ = partial;
+  return result;
+}
+
+AVStream* AviOutput::AddStream() { return avformat_new_stream(output_.get(), nullptr); }
+
+int AviOutput::Start() { return avformat_write_header(output_.get(), nullptr); }
+
+int AviOutput::Write(AVPacket& packet, const AVStream& stream, AVRational unit) {
+  packet.stream_index = stream.index;
+  packet.pos = -1;
+  av_packet_rescale_ts(&packet, unit, stream.time_base);
+  return av_interleaved_write_frame(output_.get(), &packet);
+}
+
+bool AviOutput::Finish(bool replace, std::string& message) {
+  const auto fail = [&](const std::string& reason) {
+    message = reason;
+    return false;
+  };
+  int result = av_write_trailer(output_.get());
+  const int closed = avio_closep(&output_->pb);
+  output_.reset();
+  if (result >= 0) result = closed;
+  if (result < 0) return fail(AvError(result));
+  if (replace) {
+    // What it replaces is gone for good: first this one must be safe.
+    const int file = ::open(partial_.c_str(), O_RDONLY | O_CLOEXEC);
+    const bool flushed = file >= 0 && ::fsync(file) == 0;
+    const int reason = errno;
+    if (file >= 0) ::close(file);
+    if (!flushed) return fail(std::strerror(reason));
+    if (std::rename(partial_.c_str(), path_.c_str()) != 0) return fail(std::strerror(errno));
+  } else if (RealCopyDisk().RenameNew(partial_, path_) < 0) {
+    return fail(std::strerror(errno));
+  }
+  partial_.clear();
+  return true;
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,342 @@
+#include "platform/media/VideoTrim.h"
+
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <initializer_list>
+#include <memory>
+#include <optional>
+#include <system_error>
+#include <utility>
+
+#include "platform/files/FileCopy.h"
+#include "platform/files/Folders.h"
+#include "platform/media/AviOutput.h"
+#include "platform/media/Demuxer.h"
+#include "platform/media/PictureDecoder.h"
+#include "platform/media/PictureSource.h"
+#include "platform/media/SoundCut.h"
+
+namespace kinalyx {
+namespace {
+
+namespace fs = std::filesystem;
+
+struct ParametersDeleter {
+  void operator()(AVCodecParameters* parameters) const { avcodec_parameters_free(&parameters); }
+};
+using ParametersHandle = std::unique_ptr<AVCodecParameters, ParametersDeleter>;
+
+/// Gives pictures of any kind the format and size that an encoder wants.
+class PictureFitter {
+ public:
+  PictureFitter(AVPixelFormat format, int width, int height) : format_(format), width_(width), height_(height) {}
+
+  /// The picture itself where it fits, else a changed one, good until the next call; null without memory.
+  const AVFrame* Fit(const AVFrame& picture) {
+    if (picture.format == format_ && picture.width == width_ && picture.height == height_) return &picture;
+    // Pictures may change in mid-stream; the library keeps its context while they do not.
+    scaler_.reset(sws_getCachedContext(scaler_.release(), picture.width, picture.height,
+                                       static_cast<AVPixelFormat>(picture.format), width_, height_, format_,
+                                       SWS_BICUBIC | SWS_ACCURATE_RND | SWS_FULL_CHR_H_INT, nullptr, nullptr, nullptr));
+    fitted_ = NewFrame();
+    fitted_->format = format_;
+    fitted_->width = width_;
+    fitted_->height = height_;
+    if (!scaler_ || av_frame_get_buffer(fitted_.get(), 0) < 0) return nullptr;
+    sws_scale(scaler_.get(), picture.data, picture.linesize, 0, picture.height, fitted_->data, fitted_->linesize);
+    fitted_->interlaced_frame = picture.interlaced_frame;
+    fitted_->top_field_first = picture.top_field_first;
+    return fitted_.get();
+  }
+
+ private:
+  AVPixelFormat format_;
+  int width_;
+  int height_;
+  ScalerHandle scaler_;
+  FrameHandle fitted_;
+};
+
+/// The encoders to try for a source, the one nearest to it first.
+std::initializer_list<const char*> EncodersFor(AVCodecID source) {
+  static constexpr std::initializer_list<const char*> kDv = {"dvvideo", "mjpeg"};
+  static constexpr std::initializer_list<const char*> kFilm = {"libx264", "mjpeg"};
+  static constexpr std::initializer_list<const char*> kStills = {"mjpeg"};
+  switch (source) {
+    case AV_CODEC_ID_DVVIDEO: return kDv;
+    case AV_CODEC_ID_H264:
+    case AV_CODEC_ID_HEVC:
+    case AV_CODEC_ID_MPEG1VIDEO:
+    case AV_CODEC_ID_MPEG2VIDEO:
+    case AV_CODEC_ID_MPEG4:
+    case AV_CODEC_ID_VP8:
+    case AV_CODEC_ID_VP9:
+    case AV_CODEC_ID_AV1: return kFilm;
+    default: return kStills;
+  }
+}
+
+CodecHandle OpenEncoder(const char* name, const AVFrame& picture, AVRational rate, AVRational pixelShape) {
+  const AVCodec* encoder = avcodec_find_encoder_by_name(name);
+  if (!encoder) return nullptr;
+  CodecHandle codec(avcodec_alloc_context3(encoder));
+  codec->width = picture.width;
+  codec->height = picture.height;
+  codec->time_base = av_inv_q(rate);
+  codec->framerate = rate;
+  codec->sample_aspect_ratio = pixelShape;
+  codec->color_range = picture.color_range;
+  codec->colorspace = picture.colorspace;
+  const auto wanted = static_cast<AVPixelFormat>(picture.format);
+  codec->pix_fmt = encoder->pix_fmts ? avcodec_find_best_pix_fmt_of_list(encoder->pix_fmts, wanted, 0, nullptr) : wanted;
+  AVDictionary* options = nullptr;
+  switch (encoder->id) {
+    case AV_CODEC_ID_DVVIDEO:
+      codec->flags |= AV_CODEC_FLAG_INTERLACED_DCT;
+      codec->codec_tag = MKTAG('d', 'v', 's', 'd');
+      break;
+    case AV_CODEC_ID_MJPEG:
+      codec->flags |= AV_CODEC_FLAG_QSCALE;
+      codec->global_quality = FF_QP2LAMBDA * 2;
+      codec->color_range = AVCOL_RANGE_JPEG;
+      break;
+    default:
+      // Made to be stepped through, and to be looked at closely.
+      codec->gop_size = 12;
+      codec->max_b_frames = 0;
+      av_dict_set(&options, "crf", "16", 0);
+      av_dict_set(&options, "preset", "fast", 0);
+      break;
+  }
+  const int opened = avcodec_open2(codec.get(), encoder, &options);
+  av_dict_free(&options);
+  return opened < 0 ? nullptr : std::move(codec);
+}
+
+/// One cut under way.
+class Trimmer {
+ public:
+  Trimmer(const TrimRequest& request, const std::function<bool(double)>& progress)
+      : request_(request), progress_(progress) {}
+
+  TrimResult Run();
+
+ private:
+  bool ChooseFrames();
+  bool ChooseTarget();
+  bool CopyWholeFile();
+  bool CanCopyPictures() const { return index_->EveryPacketIsKey() && index_->TimesGrow(); }
+  bool CopyPictures();
+  bool CodePictures();
+  bool OpenStreams(const AVCodecParameters& parameters);
+  bool WritePicture(AVPacket& packet, std::int64_t frame);
+  bool Encode(AVCodecContext& codec, const AVFrame* picture);
+  bool Fail(const std::string& message) {
+    result_.message = message;
+    return false;
+  }
+  bool Fail(int error) { return Fail(AvError(error)); }
+  bool GoOn(int framesDone) {
+    if (!progress_ || progress_(static_cast<double>(framesDone) / count_)) return true;
+    result_.cancelled = true;
+    return false;
+  }
+
+  const TrimRequest& request_;
+  const std::function<bool(double)>& progress_;
+  TrimResult result_;
+  std::unique_ptr<Demuxer> demuxer_;
+  const PictureIndex* index_ = nullptr;
+  VideoInfo info_;
+  AVRational rate_{30, 1};  ///< pictures per second
+  int first_ = 0;
+  int count_ = 0;
+  bool whole_ = false;
+  bool replaces_ = false;
+  std::string target_;
+  std::unique_ptr<AviOutput> output_;
+  std::unique_ptr<SoundCut> sound_;
+  AVStream* pictures_ = nullptr;
+};
+
+TrimResult Trimmer::Run() {
+  OpenFault fault = OpenFault::None;
+  demuxer_ = Demuxer::Open(request_.source, fault, result_.message);
+  if (!demuxer_) return result_;
+  index_ = &demuxer_->Index();
+  info_ = demuxer_->Describe();
+  if (!ChooseFrames() || !ChooseTarget()) return result_;
+
+  const bool copy = request_.mode == TrimRequest::Mode::Copy;
+  if (copy && whole_ && CopyWholeFile()) return result_;
+  if (result_.cancelled || !result_.message.empty()) return result_;
+  output_ = std::make_unique<AviOutput>(target_);
+  if (const int opened = output_->Open(); opened < 0) {
+    Fail(opened);
+    return result_;
+  }
+  result_.copied = copy && CanCopyPictures();
+  if (!(result_.copied ? CopyPictures() : CodePictures())) return result_;
+  struct stat old {};
+  const bool keepRights = replaces_ && ::stat(target_.c_str(), &old) == 0;
+  if (!output_->Finish(replaces_, result_.message)) return result_;
+  if (keepRights) ::chmod(target_.c_str(), old.st_mode & 0777);
+  result_.done = true;
+  result_.frames = count_;
+  return result_;
+}
+
+bool Trimmer::ChooseFrames() {
+  const int last = request_.lastFrame == 0 ? info_.frameCount - 1 : std::min(request_.lastFrame, info_.frameCount - 1);
+  first_ = request_.firstFrame;
+  if (first_ < 0 || first_ > last) return Fail("the last frame lies before the first");
+  count_ = last - first_ + 1;
+  whole_ = count_ == info_.frameCount;
+  if (info_.rate > 0) rate_ = {static_cast<int>(info_.rate), static_cast<int>(info_.scale)};
+  else if (request_.rate > 0) rate_ = {request_.rate, 1};
+  return true;
+}
+
+bool Trimmer::ChooseTarget() {
+  std::error_code failed;
+  replaces_ = fs::equivalent(request_.source, request_.destination, failed);
+  // In place of a link the file behind it is replaced.
+  target_ = replaces_ ? fs::canonical(request_.source, failed).string() : request_.destination;
+  if (!replaces_ && EntryExists(target_)) return Fail("there is already a file of that name");
+  const std::int64_t free = FreeBytes(target_);
+  const double expected = static_cast<double>(info_.fileBytes) * count_ / info_.frameCount;
+  if (free >= 0 && expected > static_cast<double>(free)) return Fail("there is not enough room on the disk");
+  return true;
+}
+
+bool Trimmer::CopyWholeFile() {
+  AVFormatContext* context = nullptr;
+  // Only an AVI file may stand under the name of one.
+  if (avformat_open_input(&context, ("file:" + request_.source).c_str(), av_find_input_format("avi"), nullptr) < 0)
+    return false;
+  avformat_close_input(&context);
+  result_.copied = true;
+  result_.frames = count_;
+  if (replaces_) {
+    result_.done = true;
+    return true;
+  }
+  CopyJob job(CopyJob::Kind::Copy, {{{request_.source, target_}}});
+  while (job.Step() == CopyJob::State::Running) {
+    const CopyProgress& done = job.Progress();
+    const double part = done.bytesTotal > 0 ? static_cast<double>(done.bytesDone) / static_cast<double>(done.bytesTotal) : 0;
+    if (!progress_ || progress_(part)) continue;
+    job.Cancel();
+    result_.cancelled = true;
+  }
+  result_.done = job.Status() == CopyJob::State::Done;
+  result_.message = job.Error();
+  return true;
+}
+
+bool Trimmer::OpenStreams(const AVCodecParameters& parameters) {
+  pictures_ = output_->AddStream();
+  if (!pictures_ || avcodec_parameters_copy(pictures_->codecpar, &parameters) < 0) return Fail("out of memory");
+  pictures_->time_base = av_inv_q(rate_);
+  pictures_->avg_frame_rate = rate_;
+  pictures_->sample_aspect_ratio = parameters.sample_aspect_ratio;
+  if (info_.hasSound) {
+    const FrameTimes times = demuxer_->Times();
+    const double start = times.Of(first_, *index_) / 1000;
+    const double end = times.Of(first_ + count_, *index_) / 1000;
+    sound_ = SoundCut::Open(request_.source, start, end, *output_);
+  }
+  const int started = output_->Start();
+  return started >= 0 || Fail(started);
+}
+
+bool Trimmer::WritePicture(AVPacket& packet, std::int64_t frame) {
+  // The sound of a frame goes before its successor.
+  int result = sound_ ? sound_->WriteUntil(static_cast<double>(frame + 1) * rate_.den / rate_.num) : 0;
+  if (result >= 0) {
+    packet.pts = packet.dts = frame;
+    packet.duration = 1;
+    result = output_->Write(packet, *pictures_, av_inv_q(rate_));
+  }
+  return result >= 0 || Fail(result);
+}
+
+bool Trimmer::CopyPictures() {
+  if (!OpenStreams(demuxer_->Codec())) return false;
+  const int firstPacket = index_->PacketOfOrder(index_->PictureOfFrame(first_));
+  const int lastPacket = index_->PacketOfOrder(index_->PictureOfFrame(first_ + count_ - 1));
+  if (!demuxer_->Seek(firstPacket)) return Fail("the file cannot be read there");
+  const PacketHandle packet = NewPacket();
+  std::int64_t frame = -1;
+  for (int number = -1; number < lastPacket;) {
+    number = demuxer_->Read(*packet);
+    if (number < 0) return Fail("the file cannot be read to the end of the cut");
+    if (number < firstPacket || index_->IsHidden(number)) {
+      av_packet_unref(packet.get());
+      continue;
+    }
+    frame = std::max(0, index_->FrameOfPicture(index_->PicturesBefore(number)) - first_);
+    if (!WritePicture(*packet, frame) || !GoOn(static_cast<int>(frame))) return false;
+  }
+  // Frames that repeat the last picture: one empty packet at the end makes the file count them all.
+  if (frame < count_ - 1) {
+    av_packet_unref(packet.get());
+    if (!WritePicture(*packet, count_ - 1)) return false;
+  }
+  return true;
+}
+
+bool Trimmer::CodePictures() {
+  const AVCodecID id = demuxer_->Codec().codec_id;
+  const AVRational pixelShape = demuxer_->Codec().sample_aspect_ratio;
+  auto reader = demuxer_->Again();
+  auto decoder = reader ? PictureDecoder::Open(std::move(reader), result_.message) : nullptr;
+  if (!decoder) return Fail(result_.message.empty() ? "the file has gone" : result_.message);
+  PictureSource source(std::move(decoder));
+  CodecHandle codec;
+  std::optional<PictureFitter> fitter;
+  for (int frame = 0; frame < count_; ++frame) {
+    const FrameHandle picture = source.Picture(index_->PictureOfFrame(first_ + frame));
+    if (!picture) return Fail("a picture cannot be decoded");
+    if (!codec) {
+      for (const char* name : EncodersFor(id)) {
+        if (!codec) codec = OpenEncoder(name, *picture, rate_, pixelShape);
+      }
+      const ParametersHandle parameters(avcodec_parameters_alloc());
+      if (!codec || avcodec_parameters_from_context(parameters.get(), codec.get()) < 0)
+        return Fail("no encoder takes these pictures");
+      parameters->codec_tag = codec->codec_tag;
+      if (!OpenStreams(*parameters)) return false;
+      fitter.emplace(codec->pix_fmt, codec->width, codec->height);
+    }
+    const AVFrame* fitted = fitter->Fit(*picture);
+    const FrameHandle coded(fitted ? av_frame_clone(fitted) : nullptr);
+    if (!coded) return Fail("out of memory");
+    coded->pts = frame;
+    coded->pict_type = AV_PICTURE_TYPE_NONE;
+    if (codec->flags & AV_CODEC_FLAG_QSCALE) coded->quality = codec->global_quality;
+    if (!Encode(*codec, coded.get()) || !GoOn(frame)) return false;
+  }
+  return Encode(*codec, nullptr);
+}
+
+bool Trimmer::Encode(AVCodecContext& codec, const AVFrame* picture) {
+  int result = avcodec_send_frame(&codec, picture);
+  const PacketHandle packet = NewPacket();
+  while (result >= 0) {
+    result = avcodec_receive_packet(&codec, packet.get());
+    if (result == AVERROR(EAGAIN) || result == AVERROR_EOF) return true;
+    if (result >= 0 && !WritePicture(*packet, packet->pts)) return false;
+  }
+  return Fail(result);
+}
+
+}  // namespace
+
+TrimResult TrimVideo(const TrimRequest& request, const std::function<bool(double)>& progress) {
+  return Trimmer(request, progress).Run();
+}
+
+}  // namespace kinalyx

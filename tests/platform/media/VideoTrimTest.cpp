@@ -1,0 +1,252 @@
+#include "platform/media/VideoTrim.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+
+#include "platform/media/TrimCommand.h"
+#include "platform/media/VideoFile.h"
+#include "support/TempFolder.h"
+#include "support/TestVideos.h"
+
+namespace kinalyx::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kSamplesPerFrame = 441;  // 25 frames a second
+constexpr int kSoundRate = 25 * kSamplesPerFrame;
+
+std::string Number(std::uint32_t value, int bytes = 4) {
+  std::string text;
+  for (int i = 0; i < bytes; ++i) text += static_cast<char>(value >> 8 * i);
+  return text;
+}
+
+std::string Chunk(const char* name, const std::string& content) {
+  return name + Number(static_cast<std::uint32_t>(content.size())) + content + std::string(content.size() % 2, '\0');
+}
+
+std::string StreamHeader(const char* kind, int scale, int rate, int length, int sampleBytes) {
+  return Chunk("strh", std::string(kind) + Number(0) + Number(0) + Number(0) + Number(0) + Number(scale) +
+                           Number(rate) + Number(0) + Number(length) + Number(1 << 16) + Number(0) +
+                           Number(sampleBytes) + Number(0) + Number(0));
+}
+
+/// Sample n of the sound, so that each tells where it belongs.
+std::int16_t Sample(int n) { return static_cast<std::int16_t>(n * 7 % 30011); }
+
+/// A video of plain pixels with sound, written byte by byte. Frames for which `left` is true have no
+/// picture of their own: the file holds an empty chunk, and the picture before stays.
+std::string VideoWithSound(const TempFolder& folder, int frames, const std::function<bool(int)>& left) {
+  TestVideo video = RawVideo(frames);
+  const int width = video.format.width;
+  const int height = video.format.height;
+  const int rowBytes = (width * 3 + 3) / 4 * 4;
+  std::string movi = "movi";
+  std::string index;
+  const auto add = [&](const char* name, const std::string& content) {
+    index += name + Number(0x10) + Number(static_cast<std::uint32_t>(movi.size())) +
+             Number(static_cast<std::uint32_t>(content.size()));
+    movi += Chunk(name, content);
+  };
+  std::vector<std::uint8_t> pixels;
+  for (int n = 0; n < frames; ++n) {
+    std::string picture;
+    if (!left(n)) {
+      PaintTestPicture(video, n, pixels);
+      picture.assign(static_cast<std::size_t>(rowBytes * height), '\0');
+      for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x)
+          std::memcpy(&picture[(height - 1 - y) * rowBytes + x * 3], &pixels[(y * width + x) * 4], 3);
+      }
+    }
+    add("00db", picture);
+    std::string sound;
+    for (int i = 0; i < kSamplesPerFrame; ++i)
+      sound += Number(static_cast<std::uint16_t>(Sample(n * kSamplesPerFrame + i)), 2);
+    add("01wb", sound);
+  }
+  const std::string picture = Chunk("strf", Number(40) + Number(width) + Number(height) + Number(1, 2) + Number(24, 2) +
+                                                Number(0) + Number(rowBytes * height) + std::string(16, '\0'));
+  const std::string sound = Chunk("strf", Number(1, 2) + Number(1, 2) + Number(kSoundRate) + Number(2 * kSoundRate) +
+                                              Number(2, 2) + Number(16, 2));
+  const std::string main = Chunk("avih", Number(40000) + Number(0) + Number(0) + Number(0x10) + Number(frames) +
+                                             Number(0) + Number(2) + Number(0) + Number(width) + Number(height) +
+                                             std::string(16, '\0'));
+  const std::string header = Chunk(
+      "LIST", "hdrl" + main + Chunk("LIST", "strl" + StreamHeader("vids", 1, 25, frames, 0) + picture) +
+                  Chunk("LIST", "strl" + StreamHeader("auds", 1, kSoundRate, frames * kSamplesPerFrame, 2) + sound));
+  return folder.Put("sound.avi", Chunk("RIFF", "AVI " + header + Chunk("LIST", movi) + Chunk("idx1", index)));
+}
+
+/// All sound of an AVI file.
+std::vector<std::int16_t> SoundOf(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  const std::string avi{std::istreambuf_iterator<char>(file), {}};
+  std::vector<std::int16_t> samples;
+  for (std::size_t at = avi.find("movi") + 4; at + 8 <= avi.size();) {
+    std::uint32_t size = 0;
+    std::memcpy(&size, avi.data() + at + 4, 4);
+    if (avi.compare(at, 4, "idx1") == 0) break;
+    if (avi.compare(at, 4, "01wb") == 0) {
+      const std::size_t before = samples.size();
+      samples.resize(before + size / 2);
+      std::memcpy(samples.data() + before, avi.data() + at + 8, size);
+    }
+    at += 8 + size + size % 2;
+  }
+  return samples;
+}
+
+/// The numbers that the pictures of a video carry; -1 for one that cannot be read.
+std::vector<int> NumbersOf(const std::string& path, int field = -1) {
+  std::vector<int> numbers;
+  const auto file = VideoFile::Open(path).file;
+  for (int n = 0; file && n < file->Info().frameCount; ++n)
+    numbers.push_back(ReadNumber(file->Frame(n, 24), field).value_or(-1));
+  return numbers;
+}
+
+std::vector<int> Numbers(int first, int last, int step = 1) {
+  std::vector<int> numbers;
+  for (int n = first; n <= last; n += step) numbers.push_back(n);
+  return numbers;
+}
+
+TEST(VideoTrim, CutsEveryKindOfVideoExactly) {
+  TempFolder folder;
+  struct Case {
+    TestVideo video;
+    bool copies;
+  };
+  const Case cases[] = {{DvVideo(24), true}, {MjpegVideo(60), true}, {RawVideo(40), true}, {H264Video(300), false}};
+  for (const Case& one : cases) {
+    const std::string source = MakeTestVideo(one.video);
+    for (const auto mode : {TrimRequest::Mode::Copy, TrimRequest::Mode::Recompress}) {
+      for (const auto& [first, last] : {std::pair{7, 19}, {0, 11}, {13, 0}}) {
+        SCOPED_TRACE(source + " " + std::to_string(first) + " to " + std::to_string(last));
+        const std::string target = folder.Path("cut.avi");
+        const TrimResult result = TrimVideo({source, target, first, last, 30, mode});
+        ASSERT_TRUE(result.done) << result.message;
+        EXPECT_EQ(result.copied, one.copies && mode == TrimRequest::Mode::Copy);
+        const int end = last == 0 ? one.video.frames - 1 : last;
+        EXPECT_EQ(result.frames, end - first + 1);
+        if (one.video.fieldsDiffer) {
+          EXPECT_EQ(NumbersOf(target, 0), Numbers(2 * first, 2 * end, 2));
+          EXPECT_EQ(NumbersOf(target, 1), Numbers(2 * first + 1, 2 * end + 1, 2));
+        } else {
+          EXPECT_EQ(NumbersOf(target), Numbers(first, end));
+        }
+        const auto before = ReadVideoInfo(source);
+        const auto after = ReadVideoInfo(target);
+        ASSERT_TRUE(after);
+        EXPECT_EQ(after->rate * before->scale, before->rate * after->scale);
+        const bool sameCodec = result.copied || one.video.fieldsDiffer;
+        EXPECT_TRUE(!sameCodec || after->compressor == before->compressor) << after->compressor;
+        fs::remove(target);
+      }
+    }
+  }
+  EXPECT_TRUE(fs::is_empty(folder.Path()));  // nothing is left beside
+}
+
+TEST(VideoTrim, KeepsTheSoundInStepAndFramesThatRepeat) {
+  TempFolder folder;
+  // Frames 3, 4 and 17 to 19 show what stood before them.
+  const auto left = [](int n) { return n == 3 || n == 4 || n >= 17; };
+  const std::string source = VideoWithSound(folder, 20, left);
+  ASSERT_EQ(NumbersOf(source).size(), 20u);
+  struct Case {
+    int first;
+    int last;
+    std::vector<int> numbers;
+  };
+  const Case cases[] = {{2, 8, {2, 2, 2, 5, 6, 7, 8}}, {4, 6, {2, 5, 6}}, {15, 0, {15, 16, 16, 16, 16}}};
+  for (const Case& one : cases) {
+    for (const auto mode : {TrimRequest::Mode::Copy, TrimRequest::Mode::Recompress}) {
+      SCOPED_TRACE(std::to_string(one.first) + (mode == TrimRequest::Mode::Copy ? " copied" : " coded"));
+      const std::string target = folder.Path("cut.avi");
+      const TrimResult result = TrimVideo({source, target, one.first, one.last, 30, mode});
+      ASSERT_TRUE(result.done) << result.message;
+      EXPECT_EQ(NumbersOf(target), one.numbers);
+      const std::vector<std::int16_t> sound = SoundOf(target);
+      ASSERT_EQ(sound.size(), one.numbers.size() * kSamplesPerFrame);
+      int wrong = 0;
+      for (std::size_t i = 0; i < sound.size(); ++i)
+        wrong += sound[i] != Sample(one.first * kSamplesPerFrame + static_cast<int>(i));
+      EXPECT_EQ(wrong, 0);
+      fs::remove(target);
+    }
+  }
+}
+
+TEST(VideoTrim, ReplacesItsOwnSourceAndNothingElse) {
+  TempFolder folder;
+  const std::string own = folder.Path("own.avi");
+  fs::copy_file(MakeTestVideo(MjpegVideo(60)), own);
+  ASSERT_TRUE(TrimVideo({own, own, 5, 9}).done);
+  EXPECT_EQ(NumbersOf(own), Numbers(5, 9));
+
+  const std::string other = folder.Put("other.avi", "other");
+  EXPECT_FALSE(TrimVideo({own, other, 0, 0}).done);
+  EXPECT_FALSE(TrimVideo({own, other, 1, 2}).done);
+  EXPECT_EQ(folder.Get("other.avi"), "other");
+
+  EXPECT_FALSE(TrimVideo({own, folder.Path("x.avi"), 3, 2}).done);
+  EXPECT_FALSE(TrimVideo({own, folder.Path("x.avi"), 5, 0}).done);
+  EXPECT_FALSE(TrimVideo({folder.Path("none.avi"), folder.Path("x.avi"), 0, 0}).done);
+  EXPECT_FALSE(TrimVideo({own, folder.Path("nowhere/x.avi"), 1, 2}).done);
+  EXPECT_EQ(folder.FileCount(), 2u);
+
+  // The whole of a video is a copy of the file, whatever its codec.
+  const std::string film = MakeTestVideo(H264Video(300));
+  const TrimResult whole = TrimVideo({film, folder.Path("film.avi"), 0, 299});
+  EXPECT_TRUE(whole.done && whole.copied);
+  EXPECT_EQ(fs::file_size(folder.Path("film.avi")), fs::file_size(film));
+}
+
+TEST(VideoTrim, ACancelLeavesTheOldVideo) {
+  TempFolder folder;
+  const std::string own = folder.Path("own.avi");
+  for (const auto mode : {TrimRequest::Mode::Copy, TrimRequest::Mode::Recompress}) {
+    fs::copy_file(MakeTestVideo(MjpegVideo(60)), own, fs::copy_options::overwrite_existing);
+    double last = 0;
+    const TrimResult result = TrimVideo({own, own, 10, 50, 30, mode}, [&last](double part) {
+      EXPECT_GE(part, last);
+      last = part;
+      return part < 0.5;
+    });
+    EXPECT_TRUE(result.cancelled);
+    EXPECT_FALSE(result.done);
+    EXPECT_EQ(NumbersOf(own).size(), 60u);
+    EXPECT_EQ(folder.FileCount(), 1u);
+  }
+}
+
+TEST(TrimCommand, IsOneTextOfSixFields) {
+  const TrimRequest request{"/lib/Ann/(001) DL.avi", "/lib/Bob/cut.avi", 12, 87, 30, TrimRequest::Mode::Recompress};
+  const std::string text = FormatTrimCommand(request);
+  EXPECT_EQ(text, "/lib/Ann/(001) DL.avi*/lib/Bob/cut.avi*12*87*30*2*");
+  const auto back = ParseTrimCommand(text);
+  ASSERT_TRUE(back);
+  EXPECT_EQ(FormatTrimCommand(*back), text);
+  EXPECT_EQ(ParseTrimCommand("a.avi*b.avi* 1 * 2 *30*0*")->lastFrame, 2);
+  for (const char* bad : {"", "*", "a*b*1*2*30*0", "a*b*1*2*30*1*", "a*b*-1*2*30*0*", "a*b*x*2*30*0*", "a*1*2*30*0*", "*b*1*2*30*0*",
+                          "a**1*2*30*0*", "a*b*1*99999999999*30*0*"})
+    EXPECT_FALSE(ParseTrimCommand(bad)) << bad;
+  // A star in a folder's name.
+  TempFolder folder;
+  fs::create_directories(folder.Path("a*b"));
+  const std::string source = folder.Put("a*b/x.avi", "");
+  const auto starred = ParseTrimCommand(source + "*" + folder.Path("a*b/y.avi") + "*0*0*30*0*");
+  ASSERT_TRUE(starred);
+  EXPECT_EQ(starred->source, source);
+  EXPECT_EQ(starred->destination, folder.Path("a*b/y.avi"));
+}
+
+}  // namespace
+}  // namespace kinalyx::test
