@@ -3,10 +3,10 @@
 #include <array>
 #include <functional>
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
+#include "AnalysisStage.h"
 #include "core/Settings.h"
 #include "support/TestHost.h"
 #include "support/TestVideos.h"
@@ -14,11 +14,13 @@
 
 namespace kinalyx::test {
 
-/// A workspace with eight real players on a stage of 1200 by 600 pixels and no window.
-class CompareStage : private IWorkspaceView, private IFrameInterface {
+/// A workspace with eight real players on a stage of 1200 by 600 pixels over a window that only remembers.
+class CompareStage : private IFrameInterface {
  public:
   explicit CompareStage(const std::string& layout = "2")
-      : settings(host, TestPath("data"), TestPath("program")), workspace(host, settings, *this) {
+      : settings(host, TestPath("data"), TestPath("program")), workspace(host, settings, window) {
+    window.width = 1200;
+    window.height = 600;
     workspace.PlayerResized = [](int) {};
     workspace.PictureFlipped = [](int) {};
     workspace.VideoOpened = [](int) {};
@@ -36,6 +38,7 @@ class CompareStage : private IWorkspaceView, private IFrameInterface {
     for (int slot = 1; slot <= kSlots; ++slot) {
       auto& player = players_[static_cast<std::size_t>(slot - 1)];
       player = std::make_unique<AVIControl>(services, nullptr);
+      window.players[static_cast<std::size_t>(slot)] = player.get();
       workspace.AttachPlayer(slot, *player);
       player->SetFrameInterface(this);
     }
@@ -55,9 +58,8 @@ class CompareStage : private IWorkspaceView, private IFrameInterface {
   Settings settings;
   PlayScheduler scheduler{host};
   PlayerServices services{host, scheduler};
+  FakeWindow window;
   Workspace workspace;
-  int panelWidth = 1200;   ///< pixels
-  int panelHeight = 600;
 
   std::function<void(int slot)> closing;
   std::function<void()> stateChanged;
@@ -66,39 +68,6 @@ class CompareStage : private IWorkspaceView, private IFrameInterface {
   std::function<void(Canvas&, int slot)> painted;
 
  private:
-  int MainPanelWidth() override { return panelWidth * kTwipsPerPixel; }
-  int MainPanelHeight() override { return panelHeight * kTwipsPerPixel; }
-  void PlaceCell(int, const TwipRect&, const TwipRect&) override {}
-  void HideCell(int) override {}
-  void PlacePlayer(int slot, const TwipRect& place, bool shown) override {
-    if (shown) workspace.MP(slot).Resize(place.Width / kTwipsPerPixel, place.Height / kTwipsPerPixel);
-  }
-  void PaintBorder(int, bool) override {}
-  void SetCellTitle(int, const std::string&) override {}
-  void SetCellPosition(int, int, int, const std::string&) override {}
-  void PlacePlayBar(const TwipRect&) override {}
-  void SetScrollRange(int) override {}
-  void SetScrollValue(int) override {}
-  void SetPlayPicture(bool) override {}
-  void SetSlomoButton(bool) override {}
-  void SetLoopButton(bool) override {}
-  void SetDisplayLine(const std::string&, const std::string&) override {}
-  void SetMarks(const std::vector<int>&) override {}
-  void SetDisplayText(const std::string&) override {}
-  void ShowVectorColor(Colour) override {}
-  void HideVectorColor() override {}
-  void SetColorButton(int) override {}
-  void ShowNotesPnl(const TwipRect&, const std::string&) override {}
-  void HideNotesPnl() override {}
-  void ShowVideoTimer(bool) override {}
-  void SetVideoTimer(const std::string&, bool, const std::string&) override {}
-  void ShowCalibration(bool) override {}
-  void SetCalibrationLength(const std::string&) override {}
-  void ShowNotesform() override {}
-  void ShowOpenPanel() override {}
-  void CommandsChanged() override {}
-  void FocusKeyBox() override {}
-
   void PreDrawFrame(Canvas& hDC, int ID) override {
     if (painted) painted(hDC, ID);
   }

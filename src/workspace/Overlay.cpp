@@ -1,0 +1,280 @@
+#include "workspace/Overlay.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+#include "workspace/PlayerPlace.h"
+
+namespace kinalyx {
+namespace {
+
+constexpr int kDouble = 2;           // number of the layout that shows windows 1 and 2 side by side
+constexpr int kWalkStep = 15;        // of the slider on its way to a preset
+constexpr int kWalkInterval = 20;    // milliseconds between two steps
+constexpr int kDissolveInterval = 45;
+constexpr int kHalf = 128;
+constexpr int kFull = 255;
+
+int Pixels(double twips) { return static_cast<int>(std::floor(twips / kTwipsPerPixel)); }
+
+}  // namespace
+
+Overlay::Overlay(IHost& host, Settings& settings, Workspace& workspace, LockedVideos& locks, IOverlayView& view)
+    : host_(host), settings_(settings), workspace_(workspace), locks_(locks), view_(view) {}
+
+AVIControl* Overlay::Player(int window) { return workspace_.HasVideo(window) ? &workspace_.MP(window) : nullptr; }
+
+// ---------------------------------------------------------------- entering and leaving
+
+bool Overlay::CanShow() const { return on_ || (workspace_.HasVideo(1) && workspace_.HasVideo(2)); }
+
+void Overlay::STM_Click() {
+  if (on_) {
+    Closetrans_Click();
+  } else if (CanShow()) {
+    Enter();
+  }
+}
+
+void Overlay::Enter() {
+  if (workspace_.Maximized()) workspace_.TMAX_Click();
+  const ScreenMode* layout = FindScreenMode(workspace_.ScreenLayout);
+  layoutBefore_ = layout ? layout->Mode : kDouble;
+  on_ = true;
+  view_.ShowTransparency(true);
+  workspace_.SetScreen(kDouble);
+  if (workspace_.CurrentWindow > 2) workspace_.SelectWindow(1);
+  SetOption(ShowOption::Transparency);
+  mix_ = TransTarget_ = kHalf;
+  guard_ = true;
+  view_.SetTransScroll(mix_, true);
+  guard_ = false;
+  ShowControls();
+  CMDDISAct();
+}
+
+void Overlay::Closetrans_Click() {
+  if (!on_) return;
+  on_ = false;
+  walk_.Stop();
+  refresh_.Stop();
+  dissolveTimer_.Stop();
+  before_ = Surface();
+  view_.ShowTransparency(false);
+  // A layout that the user chose meanwhile stays.
+  if (workspace_.ScreenLayout == FindScreenMode(kDouble)->Code) workspace_.SetScreen(layoutBefore_);
+}
+
+void Overlay::Resize(int width, int height) {
+  if (width == TransPanel_.Width() && height == TransPanel_.Height()) return;
+  TransPanel_ = Surface(width, height);
+  dissolveTimer_.Stop();
+  before_ = Surface();
+  Refresh();
+}
+
+// ---------------------------------------------------------------- the picture
+
+/// In the mix a picture stands as in its cell, with the middle of the cell in the middle of the panel.
+PlacedPicture Overlay::Placed(int window) {
+  if (!workspace_.HasVideo(window)) return {none_};
+  const Slot& slot = workspace_.At(window);
+  const Surface& picture = workspace_.MP(window).Picture();
+  return {picture, (TransPanel_.Width() - picture.Width()) / 2 + Pixels(slot.PanX * slot.VideoZoom),
+          (TransPanel_.Height() - picture.Height()) / 2 + Pixels(slot.PanY * slot.VideoZoom)};
+}
+
+void Overlay::ComposeMix() { MixPictures(Placed(1), Placed(2), mix_, TransPanel_); }
+
+/// The middle half of each cell, side by side around the middle of the panel: with two cells side by side
+/// an eighth and five eighths of the stage are where the halves begin.
+void Overlay::ComposeSplit() {
+  TransPanel_.Clear(0);
+  for (const int window : {1, 2}) {
+    if (!workspace_.HasVideo(window)) continue;
+    const Slot& slot = workspace_.At(window);
+    const Surface& picture = workspace_.MP(window).Picture();
+    const int half = Pixels(slot.cell.Width) / 2;
+    const int fromX = Pixels(slot.cell.Width / 4.0 - slot.panel.Left - PlayerPlace(slot).Left);
+    const int toX = TransPanel_.Width() / 2 - (window == 1 ? half : 0);
+    CopyPart(picture, fromX, 0, half, picture.Height(), TransPanel_, toX, Placed(window).top);
+  }
+}
+
+void Overlay::CMDDISAct() {
+  refresh_.Stop();
+  if (!on_ || TransPanel_.Empty()) return;
+  if (option_ == ShowOption::SplitScreen) {
+    ComposeSplit();
+  } else {
+    ComposeMix();
+  }
+  if (dissolveTimer_.Running()) DissolveOver(before_, createDissolveBrush(dissolve_), TransPanel_);
+  view_.PresentMix(TransPanel_);
+}
+
+void Overlay::Refresh() {
+  if (!on_ || refresh_.Running()) return;
+  refresh_ = HostTimer(host_, 0, false, [this] { CMDDISAct(); });
+}
+
+// ---------------------------------------------------------------- slider and presets
+
+void Overlay::SetOption(ShowOption option) {
+  option_ = option;
+  guard_ = true;
+  view_.SelectOptShow(option);
+  guard_ = false;
+}
+
+void Overlay::TransScroll_Scroll(int value) {
+  if (guard_ || option_ == ShowOption::SplitScreen) return;
+  walk_.Stop();
+  mix_ = TransTarget_ = std::clamp(value, 0, kFull);
+  SetOption(mix_ == 0       ? ShowOption::VideoWindow1
+            : mix_ == kFull ? ShowOption::VideoWindow2
+                            : ShowOption::Transparency);
+  Refresh();
+}
+
+void Overlay::TransScroll_Change(int value) {
+  if (value != mix_) TransScroll_Scroll(value);
+}
+
+void Overlay::OptShow_Click(int Index) {
+  if (guard_ || Index < 0 || Index > 3) return;
+  const auto option = static_cast<ShowOption>(Index);
+  const bool wasSplit = option_ == ShowOption::SplitScreen;
+  const bool split = option == ShowOption::SplitScreen;
+  if (split != wasSplit) BeginDissolve();
+  SetOption(option);
+  walk_.Stop();
+  guard_ = true;
+  view_.SetTransScroll(mix_, !split);
+  guard_ = false;
+  if (split) return CMDDISAct();
+  TransTarget_ = option == ShowOption::VideoWindow1 ? 0 : option == ShowOption::VideoWindow2 ? kFull : kHalf;
+  if (mix_ != TransTarget_) walk_ = HostTimer(host_, kWalkInterval, true, [this] { Walk(); });
+  CMDDISAct();
+}
+
+/// One step of the slide.
+void Overlay::Walk() {
+  mix_ += std::clamp(TransTarget_ - mix_, -kWalkStep, kWalkStep);
+  if (mix_ == TransTarget_) walk_.Stop();
+  guard_ = true;
+  view_.SetTransScroll(mix_, true);
+  guard_ = false;
+  CMDDISAct();
+}
+
+/// What is shown now gives way to what comes in a pattern that thins out.
+void Overlay::BeginDissolve() {
+  if (!on_ || TransPanel_.Empty()) return;
+  before_ = TransPanel_;
+  dissolve_ = 1;
+  dissolveTimer_ = HostTimer(host_, kDissolveInterval, true, [this] {
+    if (++dissolve_ >= kDissolveLevels) {
+      dissolveTimer_.Stop();
+      before_ = Surface();
+    }
+    CMDDISAct();
+  });
+}
+
+// ---------------------------------------------------------------- each video by itself
+
+void Overlay::Control(int window, int Index) {
+  AVIControl* player = Player(window);
+  if (!player) return;
+  locks_.StopTogether();
+  const bool wasPlaying = player->IsPlaying();
+  const int last = player->VideoLength() - 1;
+  switch (static_cast<VideoControl>(Index)) {
+    case VideoControl::Rewind:
+      player->StopPlay();
+      player->Play(0);
+      break;
+    case VideoControl::Back:
+      player->StopPlay();
+      if (player->Position() > 0) player->Play(player->Position() - 1);
+      break;
+    case VideoControl::Play:
+      if (wasPlaying) {
+        player->StopPlay();
+      } else {
+        player->Play(player->Position() >= last - 1 ? 0 : player->Position(), last);
+      }
+      break;
+    case VideoControl::Forward:
+      player->StopPlay();
+      if (player->Position() < last) player->Play(player->Position() + 1);
+      break;
+    case VideoControl::Loop: {
+      const bool on = !player->Repeat();
+      player->StopPlay();
+      player->setRepeat(on);
+      if (on) player->Play(player->Position() >= last ? 0 : player->Position(), last);
+      break;
+    }
+    case VideoControl::Slow:
+      player->setSpeed(player->Speed() == 100 ? std::clamp<int>(settings_.SlomoSpeed, 1, 100) : 100);
+      break;
+  }
+  ShowControls();
+  Refresh();
+}
+
+void Overlay::Seek(int window, int value) {
+  AVIControl* player = Player(window);
+  if (guard_ || !player || value == player->Position()) return;
+  if (locks_.IsLocked(window)) {
+    locks_.DualControlScroll(window, value);
+  } else {
+    player->StopPlay();
+    player->Play(std::clamp(value, 0, player->VideoLength() - 1));
+  }
+}
+
+void Overlay::ShowControls() {
+  if (!on_) return;
+  guard_ = true;
+  for (const int window : {1, 2}) {
+    const AVIControl* player = Player(window);
+    if (!player) {
+      view_.SetVideoScroll(window, 0, 0, 0);
+      view_.SetVideoButtons(window, false, false, false);
+      continue;
+    }
+    const auto bounds = locks_.BoundsOf(window);
+    const int lowest = bounds ? bounds->lowest : 0;
+    const int highest = bounds ? std::max(bounds->lowest, bounds->highest) : player->VideoLength() - 1;
+    view_.SetVideoScroll(window, lowest, highest, player->Position());
+    view_.SetVideoButtons(window, player->IsPlaying(), player->Repeat(), player->Speed() != 100);
+  }
+  guard_ = false;
+}
+
+// ---------------------------------------------------------------- from outside
+
+void Overlay::Signal(int slot) {
+  if (!on_ || slot > 2) return;
+  ShowControls();
+  Refresh();
+}
+
+void Overlay::Notify(int slot) {
+  if (slot <= 2) ShowControls();
+}
+
+void Overlay::PlayerResized(int slot) {
+  if (slot <= 2) Refresh();
+}
+
+void Overlay::StateChanged() {
+  ShowControls();
+  Refresh();
+}
+
+}  // namespace kinalyx

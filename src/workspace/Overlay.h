@@ -1,0 +1,121 @@
+#pragma once
+
+#include <array>
+#include <functional>
+
+#include "platform/host/Host.h"
+#include "platform/paint/Blend.h"
+#include "platform/paint/Surface.h"
+#include "workspace/DualLock.h"
+#include "workspace/Workspace.h"
+
+namespace kinalyx {
+
+/// The presets of the mix, by the index of their option buttons.
+enum class ShowOption { Transparency = 0, SplitScreen = 1, VideoWindow1 = 2, VideoWindow2 = 3 };
+
+/// The buttons of one video in transparency mode, by their index in `VidCtlBtn` and `VidCtlBtn2`.
+enum class VideoControl { Rewind = 0, Back = 1, Play = 2, Forward = 3, Loop = 4, Slow = 5 };
+
+/// What transparency mode asks of the window that shows it. Windows here are 1 and 2.
+class IOverlayView {
+ public:
+  virtual ~IOverlayView() = default;
+  /// Shows or hides `TransPanel` over the stage, and `TransFrame`.
+  virtual void ShowTransparency(bool shown) = 0;
+  /// The picture of `TransPanel`; good for the call only.
+  virtual void PresentMix(const Surface& picture) = 0;
+  virtual void SetTransScroll(int value, bool enabled) = 0;
+  virtual void SelectOptShow(ShowOption option) = 0;
+  /// `HScroll1` or `HScroll2`: its ends and where it stands; equal ends for an empty window.
+  virtual void SetVideoScroll(int window, int lowest, int highest, int value) = 0;
+  virtual void SetVideoButtons(int window, bool playing, bool looping, bool slow) = 0;
+};
+
+/// Transparency mode: lays the video of window 2 over that of window 1, mixed as the slider says, or
+/// shows half of each side by side. What is drawn on the videos is in their pictures, and so in the mix.
+/// Each video stands in the mix as its own zoom and pan place it, so that two players can be brought to
+/// lie on each other.
+class Overlay {
+ public:
+  Overlay(IHost& host, Settings& settings, Workspace& workspace, LockedVideos& locks, IOverlayView& view);
+
+  /// Enters or leaves the mode. It shows windows 1 and 2 side by side underneath, and brings the layout
+  /// from before back when it is left.
+  void STM_Click();
+  void Closetrans_Click();
+  bool TransparencyOn() const { return on_; }
+  /// There is something to mix: both windows hold a video, or the mode is up.
+  bool CanShow() const;
+
+  /// `TransPanel` has this size, in pixels.
+  void Resize(int width, int height);
+  /// Makes the mix anew and shows it, at once. Nothing while the mode is not up.
+  void CMDDISAct();
+  /// A video was moved without a word from its player.
+  void MPManualSignal() { Refresh(); }
+
+  // --- the mix
+  /// 0 all of video 1 to 255 all of video 2.
+  int TransScroll() const { return mix_; }
+  /// The target of the slide.
+  int TransTarget() const { return TransTarget_; }
+  /// The user moves the slider: a slide ends, and the option buttons follow.
+  void TransScroll_Scroll(int value);
+  /// The slider has another value; what it set itself is no news.
+  void TransScroll_Change(int value);
+  /// Slides to a preset, or dissolves into the split screen and back.
+  void OptShow_Click(int Index);
+  ShowOption Shown() const { return option_; }
+
+  // --- each video by itself
+  void VidCtlBtn_Click(int Index) { Control(1, Index); }
+  void VidCtlBtn2_Click(int Index) { Control(2, Index); }
+  /// Seeks a window's video; locked videos come along.
+  void HScroll1_Scroll(int value) { Seek(1, value); }
+  void HScroll2_Scroll(int value) { Seek(2, value); }
+
+  // --- from the players and the workspace
+  /// A picture of a slot was shown. The mix follows at the next turn of the event loop, once for both
+  /// videos of a pair that moves together.
+  void Signal(int slot);
+  void Notify(int slot);
+  void PlayerResized(int slot);
+  /// A video came or went, or counts in another way; a lock was made or ended.
+  void StateChanged();
+
+ private:
+  AVIControl* Player(int window);
+  PlacedPicture Placed(int window);
+  void ComposeMix();
+  void ComposeSplit();
+  void Refresh();
+  void Walk();
+  void BeginDissolve();
+  void SetOption(ShowOption option);
+  void ShowControls();
+  void Control(int window, int Index);
+  void Seek(int window, int value);
+  void Enter();
+
+  IHost& host_;
+  Settings& settings_;
+  Workspace& workspace_;
+  LockedVideos& locks_;
+  IOverlayView& view_;
+  bool on_ = false;
+  int layoutBefore_ = 0;  ///< number of the layout to go back to; 0 none
+  Surface TransPanel_;
+  Surface before_;        ///< what dissolves
+  const Surface none_;    ///< stands for the picture of an empty window
+  int dissolve_ = 0;      ///< level of the pattern that `before_` still has
+  ShowOption option_ = ShowOption::Transparency;
+  int mix_ = 128;
+  int TransTarget_ = 128;
+  bool guard_ = false;    ///< the controls are being set; what they say is no command
+  HostTimer refresh_;
+  HostTimer walk_;
+  HostTimer dissolveTimer_;
+};
+
+}  // namespace kinalyx
