@@ -1,0 +1,230 @@
+#include "workspace/MultiPicture.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+#include "platform/paint/Blend.h"
+#include "workspace/PictureExport.h"
+#include "workspace/PlayerPlace.h"
+
+namespace kinalyx {
+namespace {
+
+constexpr const char* kState = "MF";  // value of ScreenLayout while the mode is up
+constexpr double kPlainShape = 1.33333;
+constexpr double kWideShape = 1.7778;
+constexpr double kPictureShape = kPlainShape / 3;  // a third of a 4:3 video: room for one person upright
+constexpr int kSmallestSquare = 8;                 // pixels; less is a slip of the hand
+
+int Pixels(double twips) { return static_cast<int>(twips / kTwipsPerPixel); }
+
+}  // namespace
+
+MultiPicture::MultiPicture(IHost& host, Workspace& workspace, IMultiPictureView& view)
+    : host_(host), workspace_(workspace), view_(view) {}
+
+TwipRect MultiPicture::Cell(int panelWidth, int panelHeight, bool wide) {
+  const int height = std::min(panelHeight, static_cast<int>(panelWidth * 480.0 / 640.0));
+  const int width = std::min(panelWidth, static_cast<int>(height * (wide ? kWideShape : kPlainShape)));
+  return {(panelWidth - width) / 2, kStripHeight, width, std::max(height - kStripHeight, kTwipsPerPixel)};
+}
+
+// ---------------------------------------------------------------- entering and leaving
+
+bool MultiPicture::CanShow() const { return shown_ || workspace_.HasVideo(workspace_.CurrentWindow); }
+
+void MultiPicture::smbar_Click() {
+  if (shown_) {
+    Close(true);
+  } else if (CanShow()) {
+    Enter();
+  }
+}
+
+void MultiPicture::Enter() {
+  if (workspace_.Maximized()) workspace_.TMAX_Click();
+  const ScreenMode* layout = FindScreenMode(workspace_.ScreenLayout);
+  layoutBefore_ = layout ? layout->Mode : 1;
+  windowBefore_ = workspace_.CurrentWindow;
+  slot_ = workspace_.CurrentWindow;
+  shown_ = true;
+  waiting_ = false;
+  from_ = last_ = -1;
+  MultiFrameMode_ = true;  // what the new layout draws is no picture of the strip
+  workspace_.ScreenLayout = kState;
+  view_.ShowMultiPicture(true);
+  workspace_.FormReset();
+  ChooseMiddle();
+  MakeStrip();
+  InitialMF();
+}
+
+void MultiPicture::Close(bool restore) {
+  shown_ = waiting_ = MultiFrameMode_ = false;
+  rebuild_.Stop();
+  strip_ = Surface();
+  view_.ShowMultiPicture(false);
+  if (!restore) return;
+  workspace_.CurrentWindow = windowBefore_;
+  workspace_.SetScreen(layoutBefore_, true);
+}
+
+void MultiPicture::LayoutChanged() {
+  if (shown_ && workspace_.ScreenLayout != kState) Close(false);
+}
+
+void MultiPicture::VideoClosing(int slot) {
+  if (shown_ && slot == slot_) Close(true);
+}
+
+// ---------------------------------------------------------------- the source
+
+int MultiPicture::SourceLeft() const {
+  const Slot& slot = workspace_.At(slot_);
+  const double middle = Pixels(slot.panel.Width) / 2.0;
+  return static_cast<int>(std::lround(middle + part_.left * Pixels(slot.panel.Height))) - PlayerCorner(slot).x;
+}
+
+int MultiPicture::SourceTop() const {
+  const Slot& slot = workspace_.At(slot_);
+  const double middle = Pixels(slot.panel.Height) / 2.0;
+  return static_cast<int>(std::lround(middle + part_.top * Pixels(slot.panel.Height))) - PlayerCorner(slot).y;
+}
+
+/// A third of the video in its middle, as high as the cell; an upright video gives more of its width.
+void MultiPicture::ChooseMiddle() {
+  const Slot& slot = workspace_.At(slot_);
+  const double cell = static_cast<double>(slot.panel.Width) / std::max(1, slot.panel.Height);
+  const double shape = slot.data.Wide ? 16.0 / 9.0
+                                      : static_cast<double>(slot.MP->VideoWidth()) / std::max(1, slot.MP->VideoHeight());
+  const double seen = std::min(cell, shape);
+  const double width = std::max(seen / 3, std::min(seen, kPictureShape));
+  part_ = {-width / 2, -0.5, width, 1.0};
+}
+
+void MultiPicture::MakeStrip() {
+  const int height = Pixels(workspace_.At(slot_).panel.Height);
+  PictureWidth_ = std::max(1, static_cast<int>(part_.width * height));
+  PictureHeight_ = std::max(1, static_cast<int>(part_.height * height));
+  const double shownWidth = static_cast<double>(PictureWidth_) * kStripPixels / PictureHeight_;
+  PictureCount_ = std::clamp(static_cast<int>(view_.StripWidth() / shownWidth), 1, kMostPictures);
+  strip_ = Surface(PictureWidth_ * PictureCount_, PictureHeight_);
+}
+
+void MultiPicture::setSkipBox(const std::string& text) {
+  const int skip = std::max(1, Val(text));
+  if (skip == skip_) return;
+  skip_ = skip;
+  if (shown_) InitialMF();
+}
+
+void MultiPicture::MPicBtn_Click(int Index) {
+  if (!shown_) return;
+  if (Index == 1) return Close(true);
+  if (Index != 0) return;
+  waiting_ = true;
+  host_.Message(MessageKind::Information, "",
+                "\"New Carve\" Active. Click on the video to draw a square around the area that you want to create a "
+                "MultiPicture.");
+}
+
+bool MultiPicture::TakeSquare(int slot, POINTAPI corner, POINTAPI opposite) {
+  if (!waiting_ || slot != slot_) return false;
+  waiting_ = false;
+  const int width = std::abs(opposite.x - corner.x);
+  const int height = std::abs(opposite.y - corner.y);
+  if (width < kSmallestSquare || height < kSmallestSquare) return true;
+  const POINTAPI player = PlayerCorner(workspace_.At(slot_));
+  const TwipRect& cell = workspace_.At(slot_).panel;
+  const double cellWidth = Pixels(cell.Width);
+  const double cellHeight = Pixels(cell.Height);
+  part_ = {(player.x + std::min(corner.x, opposite.x) - cellWidth / 2) / cellHeight,
+           (player.y + std::min(corner.y, opposite.y) - cellHeight / 2) / cellHeight, width / cellHeight,
+           height / cellHeight};
+  MakeStrip();
+  InitialMF();
+  return true;
+}
+
+// ---------------------------------------------------------------- the strip
+
+void MultiPicture::Show(int position) {
+  workspace_.MP(slot_).Play(position);
+  MFNextFrame();
+}
+
+void MultiPicture::InitialMF() {
+  if (!shown_ || !workspace_.HasVideo(slot_)) return;
+  AVIControl& player = workspace_.MP(slot_);
+  player.StopPlay();
+  MultiFrameMode_ = true;
+  strip_.Clear(0);
+  // The strip left the video on its own last picture: made anew, it is that of the same moment.
+  const int p = from_ >= 0 && player.Position() == last_ ? from_ : player.Position();
+  const int end = player.VideoLength() - 1;
+  const int reach = PictureCount_ * skip_;
+  if (p >= reach) {
+    for (int f = p - reach; f <= p; f += skip_) Show(f);
+  } else if (end - p <= reach) {
+    // A video shorter than the strip leaves its first pictures black.
+    for (int f = end - reach; f <= end; f += skip_)
+      if (f >= 0) Show(f);
+  } else {
+    for (int n = 0; n < PictureCount_; ++n) Show(n * skip_);
+  }
+  from_ = p;
+  MultiFrameMode_ = false;
+  view_.PresentStrip(strip_, PictureCount_);
+}
+
+void MultiPicture::MFNextFrame() {
+  ShiftLeft(strip_, PictureWidth_);
+  last_ = workspace_.MP(slot_).Position();
+  TakeFrame();
+}
+
+/// The current frame becomes the last picture of the strip.
+void MultiPicture::TakeFrame() {
+  const int column = (PictureCount_ - 1) * PictureWidth_;
+  for (int y = 0; y < strip_.Height(); ++y)
+    std::fill_n(strip_.Row(y) + static_cast<std::ptrdiff_t>(column) * 4, PictureWidth_ * 4, std::uint8_t{0});
+  CopyPart(workspace_.MP(slot_).Picture(), SourceLeft(), SourceTop(), PictureWidth_, PictureHeight_, strip_, column, 0);
+  if (!MultiFrameMode_) view_.PresentStrip(strip_, PictureCount_);
+}
+
+ImageResult MultiPicture::SavePicture(const std::string& path) const { return ExportPicture(strip_, path); }
+
+// ---------------------------------------------------------------- from outside
+
+void MultiPicture::Signal(int slot) {
+  LayoutChanged();
+  if (!shown_ || MultiFrameMode_ || slot != slot_) return;
+  const int position = workspace_.MP(slot_).Position();
+  if (position == last_) {
+    TakeFrame();  // something was drawn on it
+  } else if (std::abs(position - last_) >= skip_) {
+    MFNextFrame();
+  }
+}
+
+void MultiPicture::PlayerMoved(int slot) {
+  LayoutChanged();
+  if (!shown_ || slot != slot_ || rebuild_.Running()) return;
+  rebuild_ = HostTimer(host_, 0, false, [this] { Rebuild(); });
+}
+
+void MultiPicture::Rebuild() {
+  rebuild_.Stop();
+  const int width = PictureWidth_;
+  const int height = PictureHeight_;
+  const int count = PictureCount_;
+  const bool playing = workspace_.MP(slot_).IsPlaying();
+  Surface before = std::move(strip_);
+  MakeStrip();
+  if (!playing) return InitialMF();
+  // A running video fills its strip by itself; only one of another size begins empty.
+  if (width == PictureWidth_ && height == PictureHeight_ && count == PictureCount_) strip_ = std::move(before);
+}
+
+}  // namespace kinalyx

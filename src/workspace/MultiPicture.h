@@ -1,0 +1,127 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "platform/host/Host.h"
+#include "platform/paint/ImageFiles.h"
+#include "platform/paint/Surface.h"
+#include "workspace/Workspace.h"
+
+namespace kinalyx {
+
+/// What multi-picture mode asks of the window that shows it.
+class IMultiPictureView {
+ public:
+  virtual ~IMultiPictureView() = default;
+  /// Shows or hides `MFPanel`, the strip over the current video, and the panel of its buttons.
+  virtual void ShowMultiPicture(bool shown) = 0;
+  /// Pixels that the strip has for its pictures, side by side.
+  virtual int StripWidth() = 0;
+  /// The strip as it stands, `pictures` side by side; good for the call only.
+  virtual void PresentStrip(const Surface& strip, int pictures) = 0;
+};
+
+/// Multi-picture mode: lays a row of pictures of one video out as a film strip that runs with it.
+/// A picture of the strip is a part of what the video's cell shows, at the cell's own size: zoom and pan
+/// choose what is in it. The strip is kept at that full size; the window shows it scaled to its place.
+class MultiPicture {
+ public:
+  static constexpr int kMostPictures = 9;
+  /// Twips that the strip takes off the top of the stage, and the pixels of them that its pictures fill.
+  static constexpr int kStripHeight = 2655;
+  static constexpr int kStripPixels = 165;
+
+  /// The place of the video's cell on a stage of this size, in twips: that of a 4:3 picture, or of a
+  /// 16:9 one for a wide video, less the strip above it.
+  static TwipRect Cell(int panelWidth, int panelHeight, bool wide);
+
+  MultiPicture(IHost& host, Workspace& workspace, IMultiPictureView& view);
+
+  /// Enters or leaves the mode. An empty current window is refused.
+  void smbar_Click();
+  bool Shown() const { return shown_; }
+  bool CanShow() const;
+  /// The strip is being filled: pictures come from InitialMF and not from the running video.
+  bool MultiFrameMode() const { return MultiFrameMode_; }
+
+  /// Size of one picture of the strip, in pixels.
+  int PictureWidth() const { return PictureWidth_; }
+  int PictureHeight() const { return PictureHeight_; }
+  /// Corner of the pictures' part in the video's surface, in pixels; may lie outside it.
+  int SourceLeft() const;
+  int SourceTop() const;
+  /// Pictures in the strip, 1 to 9.
+  int PictureCount() const { return PictureCount_; }
+  /// Frames between two pictures, as its box has it; below 1 counts as 1. The strip is made anew.
+  void setSkipBox(const std::string& text);
+  int Skip() const { return skip_; }
+
+  /// 0 "Carve new MultiPicture": waits for a square on the video. 1 "Close MultiPicture".
+  void MPicBtn_Click(int Index);
+  bool WaitingForSquare() const { return waiting_; }
+  /// Offers a finished square, two opposite corners in pixels of the slot's picture. True when it was
+  /// waited for: its area is what the strip now holds.
+  bool TakeSquare(int slot, POINTAPI corner, POINTAPI opposite);
+
+  /// Fills the strip up to the position of the current video. With too few frames before it the strip
+  /// begins at the first frame or, near the end of the video, ends at the last one. The video is left on
+  /// the last picture of the strip.
+  void InitialMF();
+  /// Moves the strip on by one picture and takes the current frame as its last.
+  void MFNextFrame();
+
+  const Surface& Strip() const { return strip_; }
+  /// Writes the strip as a picture; the name's ending chooses JPEG (.jpg, .jpeg) or else PNG.
+  ImageResult SavePicture(const std::string& path) const;
+
+  // --- from the players and the workspace
+  /// A picture of a slot was shown: the strip runs with it.
+  void Signal(int slot);
+  /// A video was zoomed, panned or has another size: its strip is made anew.
+  void PlayerMoved(int slot);
+  void VideoClosing(int slot);
+  /// The layout may have changed: the mode ends with its own.
+  void LayoutChanged();
+
+ private:
+  /// The part that the pictures show, seen from the middle of the cell and in heights of the cell, so
+  /// that it stays on its subject when the window has another size.
+  struct Part {
+    double left = 0;
+    double top = 0;
+    double width = 0;
+    double height = 0;
+  };
+
+  void Enter();
+  /// Leaves the mode; with `restore` the layout from before comes back.
+  void Close(bool restore);
+  void ChooseMiddle();
+  /// Works out the pictures' size from the part and the cell, and makes an empty strip for them.
+  void MakeStrip();
+  void TakeFrame();
+  void Show(int position);
+  void Rebuild();
+
+  IHost& host_;
+  Workspace& workspace_;
+  IMultiPictureView& view_;
+  bool shown_ = false;
+  bool waiting_ = false;
+  bool MultiFrameMode_ = false;
+  int slot_ = 0;          ///< whose video the strip shows
+  int layoutBefore_ = 1;  ///< number of the layout to go back to
+  int windowBefore_ = 1;
+  Part part_;
+  int PictureWidth_ = 0;
+  int PictureHeight_ = 0;
+  int PictureCount_ = kMostPictures;
+  int skip_ = 5;
+  int from_ = -1;         ///< where the video stood when the strip was filled
+  int last_ = -1;         ///< position of the last picture in the strip
+  Surface strip_;
+  HostTimer rebuild_;
+};
+
+}  // namespace kinalyx

@@ -1,0 +1,160 @@
+#include "workspace/MultiPicture.h"
+
+#include <gtest/gtest.h>
+
+#include "CompareStage.h"
+
+namespace kinalyx {
+namespace {
+
+using test::CompareStage;
+using test::RawVideo;
+using test::TestPath;
+
+class FakeStripView final : public IMultiPictureView {
+ public:
+  void ShowMultiPicture(bool on) override { shown = on; }
+  int StripWidth() override { return width; }
+  void PresentStrip(const Surface&, int) override { ++presented; }
+
+  bool shown = false;
+  int width = 1200;
+  int presented = 0;
+};
+
+class MultiPictureTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    stage_.signalled = [this](int slot) { strip_.Signal(slot); };
+    // Every picture is one colour that tells its position.
+    stage_.painted = [this](Canvas& canvas, int slot) { Fill(canvas, Rgb(stage_.At(slot) + 1, 100, 200)); };
+    stage_.closing = [this](int slot) { strip_.VideoClosing(slot); };
+  }
+  static void Fill(Canvas& canvas, Colour colour) {
+    canvas.SetBrush(colour);
+    const POINTAPI box[] = {{-9, -9}, {4000, -9}, {4000, 4000}, {-9, 4000}};
+    canvas.Polygon(box);
+  }
+  void Enter(int frames, int position, const std::string& skip) {
+    ASSERT_TRUE(stage_.Open(1, RawVideo(frames), position));
+    strip_.setSkipBox(skip);
+    strip_.smbar_Click();
+    ASSERT_TRUE(strip_.Shown());
+    ASSERT_EQ(strip_.PictureCount(), 9);
+    stage_.host.Advance(0);
+  }
+  /// The positions whose pictures the strip holds; -1 for black.
+  std::vector<int> Pictures() const {
+    std::vector<int> found;
+    for (int k = 0; k < strip_.PictureCount(); ++k)
+      found.push_back(Red(strip_.Strip().Pixel(k * strip_.PictureWidth() + 2, strip_.PictureHeight() / 2)) - 1);
+    return found;
+  }
+
+  CompareStage stage_{"2"};
+  FakeStripView view_;
+  MultiPicture strip_{stage_.host, stage_.workspace, view_};
+};
+
+TEST_F(MultiPictureTest, StripComesFromWhereverThereAreFramesEnough) {
+  const struct {
+    int frames, position;
+    const char* skip;
+    std::vector<int> pictures;
+    int stands;
+  } cases[] = {
+      {40, 30, "3", {6, 9, 12, 15, 18, 21, 24, 27, 30}, 30},          // enough before the position
+      {40, 18, "3 ", {15, 18, 21, 24, 27, 30, 33, 36, 39}, 39},       // too few before and after: ends at the end
+      {60, 10, "3", {0, 3, 6, 9, 12, 15, 18, 21, 24}, 24},            // too few before: begins at the first
+      {12, 5, "3", {-1, -1, -1, -1, -1, 2, 5, 8, 11}, 11},            // too short: what there is
+      {40, 30, "none", {22, 23, 24, 25, 26, 27, 28, 29, 30}, 30},     // no number counts as one
+  };
+  for (const auto& wish : cases) {
+    Enter(wish.frames, wish.position, wish.skip);
+    EXPECT_EQ(Pictures(), wish.pictures) << wish.frames << " frames at " << wish.position;
+    EXPECT_EQ(stage_.At(1), wish.stands);
+    EXPECT_FALSE(strip_.MultiFrameMode());
+    strip_.MPicBtn_Click(1);
+    EXPECT_FALSE(view_.shown);
+    EXPECT_EQ(stage_.workspace.ScreenLayout, "2");
+  }
+}
+
+TEST_F(MultiPictureTest, StripRunsWithItsVideo) {
+  Enter(40, 30, "2");
+  stage_.MP(1).DrawFrame(31);  // one frame on: not yet the next picture
+  EXPECT_EQ(Pictures().back(), 30);
+  stage_.MP(1).DrawFrame(32);
+  EXPECT_EQ(Pictures(), (std::vector{16, 18, 20, 22, 24, 26, 28, 30, 32}));
+  // A drawing on the frame comes into its picture and moves nothing.
+  stage_.painted = [](Canvas& canvas, int) { Fill(canvas, Rgb(9, 8, 7)); };
+  stage_.MP(1).Refresh();
+  const int last = 8 * strip_.PictureWidth();
+  EXPECT_EQ(strip_.Strip().Pixel(last + 3, 40), Rgb(9, 8, 7));
+  EXPECT_NE(strip_.Strip().Pixel(last - 3, 40), Rgb(9, 8, 7));
+}
+
+TEST_F(MultiPictureTest, PicturesShowTheMiddleOrTheCarvedSquare) {
+  Enter(40, 30, "3");
+  const Surface& picture = stage_.MP(1).Picture();
+  EXPECT_NEAR(strip_.SourceLeft() + strip_.PictureWidth() / 2.0, picture.Width() / 2.0, 2);
+  EXPECT_NEAR(strip_.SourceTop() + strip_.PictureHeight() / 2.0, picture.Height() / 2.0, 2);
+  EXPECT_FALSE(strip_.TakeSquare(1, {10, 10}, {100, 100}));  // nobody asked
+  strip_.MPicBtn_Click(0);
+  ASSERT_EQ(stage_.host.messages.size(), 1u);
+  EXPECT_EQ(stage_.host.messages[0],
+            "\"New Carve\" Active. Click on the video to draw a square around the area that you want to create a "
+            "MultiPicture.");
+  EXPECT_TRUE(strip_.TakeSquare(1, {160, 90}, {60, 190}));
+  EXPECT_NEAR(strip_.SourceLeft(), 60, 1);
+  EXPECT_NEAR(strip_.SourceTop(), 90, 1);
+  EXPECT_NEAR(strip_.PictureWidth(), 100, 1);
+  EXPECT_NEAR(strip_.PictureHeight(), 100, 1);
+  EXPECT_EQ(strip_.PictureCount(), 7);  // as many as fit 1200 pixels at 165 each
+  EXPECT_EQ(Pictures(), (std::vector{12, 15, 18, 21, 24, 27, 30}));
+}
+
+TEST_F(MultiPictureTest, ZoomAndPanMakeTheStripAnew) {
+  Enter(60, 10, "3");
+  stage_.workspace.PlayerResized = [this](int slot) { strip_.PlayerMoved(slot); };
+  const int left = strip_.SourceLeft();
+  stage_.workspace.CurrentWindow = 1;
+  stage_.workspace.At(1).VideoZoom = 2;
+  stage_.MP(1).Resize(stage_.MP(1).ControlWidthPixels() * 2, stage_.MP(1).ControlHeightPixels() * 2);
+  strip_.PlayerMoved(1);
+  stage_.host.Advance(0);
+  EXPECT_GT(strip_.SourceLeft(), left);
+  // Still the strip of the same moment, although the video stands at the strip's end by now.
+  EXPECT_EQ(Pictures(), (std::vector{0, 3, 6, 9, 12, 15, 18, 21, 24}));
+}
+
+TEST_F(MultiPictureTest, ModeEndsWithItsVideoOrItsLayout) {
+  strip_.smbar_Click();
+  EXPECT_FALSE(strip_.Shown());  // an empty window
+  Enter(40, 30, "3");
+  ASSERT_TRUE(stage_.workspace.CloseVideo(1));
+  EXPECT_FALSE(strip_.Shown());
+  EXPECT_EQ(stage_.workspace.ScreenLayout, "2");
+  Enter(40, 30, "3");
+  const std::string path = TestPath("strip.PNG");
+  EXPECT_TRUE(strip_.SavePicture(path));
+  Surface saved;
+  ASSERT_TRUE(LoadImageFile(path, saved));
+  EXPECT_EQ(saved.Width(), 9 * strip_.PictureWidth());
+  stage_.workspace.SetScreen(4);  // the user picks another layout
+  strip_.LayoutChanged();
+  EXPECT_FALSE(strip_.Shown());
+  EXPECT_EQ(stage_.workspace.ScreenLayout, "4");
+}
+
+TEST(MultiPictureCell, LeavesTheTopToTheStrip) {
+  const TwipRect plain = MultiPicture::Cell(1200 * 15, 600 * 15, false);
+  EXPECT_EQ(plain.Top, 2655);
+  EXPECT_EQ(plain.Height, 600 * 15 - 2655);
+  EXPECT_EQ(plain.Width, static_cast<int>(600 * 15 * 1.33333));
+  EXPECT_EQ(MultiPicture::Cell(1200 * 15, 600 * 15, true).Width, static_cast<int>(600 * 15 * 1.7778));
+  EXPECT_EQ(MultiPicture::Cell(640 * 15, 900 * 15, false).Height, 480 * 15 - 2655);
+}
+
+}  // namespace
+}  // namespace kinalyx
