@@ -19,6 +19,13 @@ bool IsDriveRoot(const std::string& folder) {
   return here.st_dev != above.st_dev || here.st_ino == above.st_ino;
 }
 
+void Take(Settings& settings, bool network, std::string path) {
+  settings.UseNetwork = network;
+  settings.LibraryPath = std::move(path);
+  settings.Write(settings.UseNetwork);
+  settings.Write(settings.LibraryPath);
+}
+
 }  // namespace
 
 std::string LocalLibraryPath(const Settings& settings) { return JoinPath(settings.DataPath, "Video Library"); }
@@ -48,14 +55,12 @@ bool TakeLibraryFolder(Settings& settings, std::string folder) {
     MakeFolder(JoinPath(folder, "Amateurs"));
     MakeFolder(JoinPath(folder, "Models"));
   }
-  settings.Set(settings.UseNetwork, true);
-  settings.Set(settings.LibraryPath, std::move(folder));
+  Take(settings, true, std::move(folder));
   return true;
 }
 
 void SwitchNetworkOff(Settings& settings) {
-  settings.Set(settings.LibraryPath, LocalLibraryPath(settings));
-  settings.Set(settings.UseNetwork, false);
+  Take(settings, false, LocalLibraryPath(settings));
 }
 
 }  // namespace kinalyx

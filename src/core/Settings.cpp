@@ -67,6 +67,7 @@ void Settings::MigrateOldConfig() {
 bool Settings::WriteConfigKey(const std::string& section, const std::string& key, const std::string& value) {
   if (!FileExists(ConfigFile())) {
     LoadSettings();
+    if (Reloaded) Reloaded();
     return false;
   }
   return WritePrivateProfileString(section, key, value, ConfigFile());

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -152,6 +153,13 @@ class Settings {
     setting = std::move(value);
     return WriteMember(&setting);
   }
+  /// Writes what one of the members above holds. For values that belong together: store all, then write each.
+  template <typename T>
+  bool Write(T& setting) {
+    return WriteMember(&setting);
+  }
+  /// Called after WriteConfigKey has found the file gone: every member may have changed.
+  std::function<void()> Reloaded;
   /// Stores and writes the colour of a tool button: 0 to 12, or 17, the path-down tool.
   bool SetNewColor(int index, std::int32_t colour);
   /// Keeps the place of the main form, in twips.

@@ -54,9 +54,8 @@ bool SetPrimaryName(Settings& settings, const std::string& text) {
   std::string plural = lower + "s";
   plural.erase(0, plural.find_first_not_of(' '));
   plural.erase(plural.find_last_not_of(' ') + 1);
-  settings.Set(settings.PrimaryName[0], text);
-  settings.Set(settings.PrimaryName[1], lower);
-  settings.Set(settings.PrimaryName[2], plural);
+  settings.PrimaryName = {text, lower, plural};
+  for (auto& name : settings.PrimaryName) settings.Write(name);
   return true;
 }
 

@@ -1,17 +1,32 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <QApplication>
+#include <memory>
 
 namespace kinalyx::test {
 
-/// The one application object of all tests of forms. A fixture inherits from this, or makes one first.
-struct UsesApplication {
-  UsesApplication() {
+/// The one application object of all tests of forms. It must go before the program's other statics do, so
+/// the test program holds it from its start to its end.
+class ApplicationForTests final : public ::testing::Environment {
+ public:
+  void SetUp() override {
     static int argc = 1;
     static char name[] = "test";
     static char* argv[] = {name, nullptr};
-    static QApplication application(argc, argv);
+    application_ = std::make_unique<QApplication>(argc, argv);
   }
+  void TearDown() override { application_.reset(); }
+
+ private:
+  std::unique_ptr<QApplication> application_;
 };
+
+// The test framework owns it.
+inline ::testing::Environment* const kApplicationForTests = ::testing::AddGlobalTestEnvironment(new ApplicationForTests);
+
+/// Says that a fixture needs the application.
+struct UsesApplication {};
 
 }  // namespace kinalyx::test

@@ -189,8 +189,10 @@ TEST(SetupPage, ALostFileShowsItsFirstValuesEverywhere) {
   Desk desk;
   desk.Find<QLineEdit>("UserNameBox")->setText("Erica");
   desk.Click("Check1_8");
+  desk.Click("optLayout3");
   ASSERT_TRUE(KillFile(desk.settings.ConfigFile()));
   desk.Click("Check1_2");
+  EXPECT_EQ(desk.schemes.Design(), 0);
   EXPECT_EQ(desk.settings.CadWidth, 5);
   EXPECT_TRUE(desk.Find<QAbstractButton>("Check1_5")->isChecked());
   EXPECT_EQ(desk.Find<QLineEdit>("UserNameBox")->text(), "");

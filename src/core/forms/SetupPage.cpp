@@ -3,7 +3,10 @@
 #include <QBoxLayout>
 #include <QButtonGroup>
 #include <QStackedWidget>
+#include <utility>
 
+#include "core/ColorSchemes.h"
+#include "core/Settings.h"
 #include "core/Vocabulary.h"
 #include "core/forms/AnalysisSection.h"
 #include "core/forms/GeneralSection.h"
@@ -29,7 +32,7 @@ constexpr SectionButton kSections[] = {
 }  // namespace
 
 SetupPage::SetupPage(IHost& host, Settings& settings, ColorSchemes& schemes, QWidget* parent)
-    : QWidget(parent), host_(host), settings_(settings) {
+    : QWidget(parent), host_(host), settings_(settings), schemes_(schemes) {
   setObjectName("SetupPage");
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(14, 14, 14, 14);
@@ -47,9 +50,6 @@ SetupPage::SetupPage(IHost& host, Settings& settings, ColorSchemes& schemes, QWi
   for (QWidget* page : pages_) {
     if (page) stack_->addWidget(page);
   }
-  for (SetupSection* section : {static_cast<SetupSection*>(menu_), static_cast<SetupSection*>(analysis_),
-                                static_cast<SetupSection*>(general_)})
-    connect(section, &SetupSection::Reloaded, this, &SetupPage::SetupProgram);
   connect(menu_, &MenuSection::MenuChanged, this, &SetupPage::MenuChanged);
   connect(analysis_, &AnalysisSection::AnalysisChanged, this, &SetupPage::AnalysisChanged);
   connect(general_, &GeneralSection::DesignChanged, this, &SetupPage::DesignChanged);
@@ -63,10 +63,13 @@ SetupPage::SetupPage(IHost& host, Settings& settings, ColorSchemes& schemes, QWi
     RestartTimer_ = HostTimer(host_, 0, false, [this] { RestartTimer_Timer(); });
   });
 
+  settings_.Reloaded = [this] { TakeReloaded(); };
   SetupProgram();
   SetupVocabulary();
   PSCmd_Click(kGeneral);
 }
+
+SetupPage::~SetupPage() { settings_.Reloaded = nullptr; }
 
 QWidget* SetupPage::MakeSections() {
   auto* panel = new Panel("SetupSections", "Program Setup");
@@ -122,6 +125,18 @@ void SetupPage::SetFieldEditor(QWidget* editor) {
   QAbstractButton* button = buttons_->button(kProfiles);
   button->setEnabled(true);
   button->setToolTip({});
+}
+
+void SetupPage::TakeReloaded() {
+  schemes_.ApplyDesign(settings_.Design);
+  SetupProgram();
+  SetupVocabulary();
+  emit DesignChanged();
+  emit VocabularyChanged();
+  emit CompanyChanged(QString::fromStdString(settings_.CompanyName));
+  emit MenuChanged();
+  emit LibraryChanged();
+  emit AnalysisChanged();
 }
 
 void SetupPage::RestartTimer_Timer() { emit RestartWanted(); }

@@ -27,6 +27,7 @@ class SetupPage : public QWidget {
   enum Section { kMainMenu = 0, kProfiles = 1, kCapture = 2, kAnalysis = 3, kGeneral = 4, kInternet = 5 };
 
   SetupPage(IHost& host, Settings& settings, ColorSchemes& schemes, QWidget* parent = nullptr);
+  ~SetupPage() override;
 
   /// Pushes every setting into its control, writing nothing.
   void SetupProgram();
@@ -59,10 +60,13 @@ class SetupPage : public QWidget {
 
  private:
   QWidget* MakeSections();
+  /// The settings file had gone and holds its first-run values again.
+  void TakeReloaded();
   void RestartTimer_Timer();
 
   IHost& host_;
   Settings& settings_;
+  ColorSchemes& schemes_;
   QButtonGroup* buttons_ = nullptr;
   QStackedWidget* stack_ = nullptr;
   MenuSection* menu_ = nullptr;

@@ -4,6 +4,7 @@
 #include <functional>
 #include <initializer_list>
 #include <type_traits>
+#include <utility>
 
 #include "core/Settings.h"
 
@@ -26,17 +27,12 @@ class SetupSection : public QScrollArea {
   /// Shows what the settings hold. Called with `Loading` set.
   virtual void SetupProgram() = 0;
 
- signals:
-  /// The settings file had gone, and everything was loaded again: all sections must be filled anew.
-  void Reloaded();
-
  protected:
   /// Keeps a setting and writes its key, unless controls are being filled. False when it did not.
   template <typename T>
   bool Store(T& setting, std::type_identity_t<T> value) {
     if (settings_.Loading) return false;
-    setting = value;
-    if (!settings_.Set(setting, value) && setting != value) emit Reloaded();
+    settings_.Set(setting, std::move(value));
     return true;
   }
 
