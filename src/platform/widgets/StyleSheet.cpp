@@ -78,6 +78,7 @@ QTextBrowser:focus { border: none; padding: 0; }
 QComboBox QAbstractItemView { background: @field; color: @text; border: 1px solid @lineStrong; outline: 0;
   selection-background-color: @accent; selection-color: @accentText; padding: 4px; }
 QComboBox QAbstractItemView::item { min-height: 30px; padding: 0 8px; border-radius: 5px; }
+QComboBox QAbstractItemView::item:selected { background: @accent; color: @accentText; }
 QListView { background: @field; color: @text; border: none; outline: 0; }
 QCheckBox, QRadioButton { color: @text; background: transparent; }
 QCheckBox:disabled, QRadioButton:disabled { color: @faint; }
