@@ -1,0 +1,228 @@
+#include "workspace/Transport.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+namespace kinalyx {
+namespace {
+
+constexpr int kRepeatDelay = 350;    // milliseconds before a held step button repeats
+constexpr int kRepeatInterval = 60;  // milliseconds between two steps of a held button
+constexpr std::size_t kMarks = 10;
+
+/// Seconds with two figures after the point and none before it below one: "1.23", ".50".
+std::string Seconds(double seconds) {
+  const double rounded = std::floor(seconds * 100 + 0.5) / 100;
+  std::string text = fmt::format("{:.2f}", rounded);
+  if (text.starts_with("0.")) text.erase(0, 1);
+  return text;
+}
+
+}  // namespace
+
+Transport::Transport(IHost& host, Settings& settings, Workspace& workspace, IWorkspaceView& view)
+    : host_(host), settings_(settings), workspace_(workspace), view_(view) {}
+
+/// The player of the current window; null while it is empty.
+AVIControl* Transport::Player() {
+  return workspace_.HasVideo(workspace_.CurrentWindow) ? &workspace_.MP(workspace_.CurrentWindow) : nullptr;
+}
+
+void Transport::cmdPlay() {
+  if (AVIControl* player = Player()) {
+    if (player->IsPlaying()) {
+      player->StopPlay();
+      view_.SetLoopButton(false);
+    } else {
+      const int last = player->VideoLength() - 1;
+      view_.SetPlayPicture(true);
+      player->Play(player->Position() >= last - 1 ? 0 : player->Position(), last);
+    }
+  }
+  view_.FocusKeyBox();
+}
+
+// Every way of taking the film in hand ends a running play first: one press, and it stands where it is
+// wanted.
+
+void Transport::cmdREwind() {
+  if (AVIControl* player = Player()) {
+    player->StopPlay();
+    player->Play(0);
+  }
+  view_.FocusKeyBox();
+}
+
+void Transport::vn_Click() {
+  AVIControl* player = Player();
+  if (!player) return;
+  player->StopPlay();
+  if (player->CurrentFrame() != player->VideoLength() - 1) player->Play(player->CurrentFrame() + 1);
+}
+
+void Transport::vp_Click() {
+  AVIControl* player = Player();
+  if (!player) return;
+  player->StopPlay();
+  if (player->CurrentFrame() != 0) player->Play(player->CurrentFrame() - 1);
+}
+
+void Transport::Seek(int position) {
+  AVIControl* player = Player();
+  if (!player || position == player->Position()) return;
+  player->StopPlay();
+  player->Play(std::clamp(position, 0, player->VideoLength() - 1));
+}
+
+void Transport::StepPressed(bool forward, float x) {
+  ForwardHeld_ = forward;
+  BackHeld_ = !forward;
+  HeldStartX_ = HeldX_ = x;
+  forward ? vn_Click() : vp_Click();
+  FRtimer_ = HostTimer(host_, kRepeatDelay, false,
+                       [this] { FRtimer_ = HostTimer(host_, kRepeatInterval, true, [this] { HeldStep(); }); });
+}
+
+void Transport::StepReleased() {
+  ForwardHeld_ = BackHeld_ = false;
+  FRtimer_.Stop();
+}
+
+void Transport::HeldStep() {
+  AVIControl* player = Player();
+  if (!player) return;
+  const int step = std::abs(static_cast<int>(std::floor(HeldX_ - HeldStartX_))) / 100;
+  if (ForwardHeld_ && player->Position() + step < player->VideoLength() - 1) player->Play(player->Position() + step + 1);
+  if (BackHeld_ && player->Position() - step > 0) player->Play(player->Position() - step - 1);
+}
+
+void Transport::ToggleSlomo() {
+  if (AVIControl* player = Player()) {
+    // A running play ends and goes on at the new speed; only its outcome is shown.
+    player->setSpeed(player->Speed() == 100 ? std::clamp<int>(settings_.SlomoSpeed, 1, 100) : 100);
+  }
+  ShowCurrent();
+}
+
+void Transport::ToggleLoop() {
+  if (AVIControl* player = Player()) {
+    const bool on = !player->Repeat();
+    player->StopPlay();
+    player->setRepeat(on);
+    if (on) player->Play(player->Position(), player->VideoLength() - 1);
+  }
+  ShowCurrent();
+}
+
+bool Transport::AllLooping() const {
+  bool any = false;
+  for (int slot = 1; slot <= kSlots; ++slot) {
+    if (!workspace_.IsShown(slot) || !workspace_.HasVideo(slot)) continue;
+    if (!workspace_.MP(slot).Repeat()) return false;
+    any = true;
+  }
+  return any;
+}
+
+void Transport::TLAV_Click() {
+  const bool on = !AllLooping();
+  for (int slot = 1; slot <= kSlots; ++slot) {
+    if (!workspace_.IsShown(slot) || !workspace_.HasVideo(slot)) continue;
+    AVIControl& player = workspace_.MP(slot);
+    player.StopPlay();
+    player.setRepeat(on);
+    if (on) player.Play(player.Position(), player.VideoLength() - 1);
+  }
+  ShowCurrent();
+}
+
+void Transport::TMark_Click() {
+  Slot& slot = workspace_.Current();
+  if (slot.path.empty() || slot.marks.size() >= kMarks) return;
+  slot.marks.push_back(slot.MP->Position());
+  view_.SetMarks(slot.marks);
+}
+
+void Transport::Mark_Click(int n) {
+  const Slot& slot = workspace_.Current();
+  if (n < 0 || n >= static_cast<int>(slot.marks.size())) return;
+  Seek(slot.marks[static_cast<std::size_t>(n)]);
+}
+
+void Transport::TMarkoff_Click() {
+  workspace_.Current().marks.clear();
+  view_.SetMarks({});
+}
+
+double Transport::DisplayRate(int slot) const {
+  const Slot& at = workspace_.At(slot);
+  if (at.SlotFrameRate > 0) return at.SlotFrameRate;
+  if (at.data.RealFrameRate > 0) return at.data.RealFrameRate;
+  const double rate = at.frameRate * (at.MP->SplitFields() ? 2 : 1);
+  return rate > 0 ? rate : 30;  // the file does not tell
+}
+
+std::string Transport::DisplayLine(int slot) const {
+  if (!workspace_.HasVideo(slot)) return "0 seconds | 00/00 frames  ";
+  const Slot& at = workspace_.At(slot);
+  const double rate = DisplayRate(slot);
+  return fmt::format("{} seconds | {}/{} frames  ", Seconds(at.MP->Position() / rate), at.MP->Position(),
+                     at.MP->VideoLength() - 1);
+}
+
+void Transport::DisplayData(const std::string& text) {
+  view_.SetDisplayText(text);
+  if (text.empty()) ShowPosition();
+}
+
+void Transport::ShowPosition() {
+  const int slot = workspace_.CurrentWindow;
+  std::string counter;
+  if (ShowFrameCounter && workspace_.HasVideo(slot)) {
+    const auto width = std::to_string(workspace_.MP(slot).VideoLength() - 1).size();
+    counter = fmt::format("{:0{}}", workspace_.MP(slot).Position(), std::min<std::size_t>(width, 4));
+  }
+  view_.SetDisplayLine(DisplayLine(slot), counter);
+  if (PositionShown) PositionShown();
+}
+
+void Transport::ShowCell(int slot) {
+  if (!workspace_.HasVideo(slot)) {
+    view_.SetCellPosition(slot, 0, 0, "");
+    return;
+  }
+  view_.SetCellPosition(slot, workspace_.MP(slot).Position(), workspace_.MP(slot).VideoLength() - 1, DisplayLine(slot));
+}
+
+void Transport::ScrollBarSetup() {
+  AVIControl* player = Player();
+  view_.SetScrollRange(player ? std::max(0, player->VideoLength() - 1) : 0);
+  view_.SetScrollValue(player ? player->Position() : 0);
+}
+
+void Transport::ShowCurrent() {
+  AVIControl* player = Player();
+  ScrollBarSetup();
+  ShowPosition();
+  ShowCell(workspace_.CurrentWindow);
+  view_.SetSlomoButton(player && player->Speed() != 100);
+  view_.SetLoopButton(player && player->Repeat());
+  view_.SetPlayPicture(player && player->IsPlaying());
+  view_.SetMarks(workspace_.Current().marks);
+}
+
+void Transport::Signal(int slot) {
+  ShowCell(slot);
+  if (slot != workspace_.CurrentWindow) return;
+  ShowPosition();
+  view_.SetScrollValue(workspace_.MP(slot).Position());
+}
+
+void Transport::Notify(int slot) {
+  if (slot == workspace_.CurrentWindow) ShowCurrent();
+}
+
+}  // namespace kinalyx

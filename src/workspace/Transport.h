@@ -1,0 +1,81 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "platform/host/Host.h"
+#include "workspace/Workspace.h"
+
+namespace kinalyx {
+
+/// Everything that moves the current video: play, pause, rewind, step, seek, slow motion, loop, marks,
+/// and the line of the play bar.
+class Transport {
+ public:
+  Transport(IHost& host, Settings& settings, Workspace& workspace, IWorkspaceView& view);
+
+  /// Play or pause. At the last position or the one before, it plays from the start.
+  void cmdPlay();
+  void cmdREwind();
+  void vn_Click();  ///< one position on
+  void vp_Click();  ///< one position back
+  /// Shows a position of the current video; the position that is shown already is left alone.
+  void Seek(int position);
+
+  /// A step button goes down (`forward` or back) at pointer position `x` in twips, moves, and comes up.
+  /// The first step is taken at once, the others while it is held: one position each, and one more for
+  /// every 100 twips that the pointer is dragged away.
+  void StepPressed(bool forward, float x);
+  void StepDragged(float x) { HeldX_ = x; }
+  void StepReleased();
+
+  void ToggleSlomo();
+  void ToggleLoop();
+  /// Loops every video of the layout; when all of them loop already, stops them.
+  void TLAV_Click();
+  bool AllLooping() const;
+
+  /// Keeps the present position as a mark; the eleventh of a slot is refused.
+  void TMark_Click();
+  /// Goes to mark `n`, from 0.
+  void Mark_Click(int n);
+  void TMarkoff_Click();
+
+  /// Writes `text` over the picture, or with "" clears it and writes the transport's line.
+  void DisplayData(const std::string& text);
+  /// The line of a slot without its effect on the window.
+  std::string DisplayLine(int slot) const;
+  /// Positions per second that times are computed with.
+  double DisplayRate(int slot) const;
+  /// Sets the range and place of the seek bar from the current video.
+  void ScrollBarSetup();
+  /// Brings bar, buttons, marks and line up to the current window.
+  void ShowCurrent();
+
+  // --- from the player
+  void Signal(int slot);
+  void Notify(int slot);
+
+  /// The frame number stands in the play bar; true while the video timer is open.
+  bool ShowFrameCounter = false;
+  /// The position of the current video is shown anew.
+  std::function<void()> PositionShown;
+
+ private:
+  AVIControl* Player();
+  void HeldStep();
+  void ShowPosition();
+  void ShowCell(int slot);
+
+  IHost& host_;
+  Settings& settings_;
+  Workspace& workspace_;
+  IWorkspaceView& view_;
+  HostTimer FRtimer_;
+  bool ForwardHeld_ = false;
+  bool BackHeld_ = false;
+  float HeldStartX_ = 0;
+  float HeldX_ = 0;
+};
+
+}  // namespace kinalyx

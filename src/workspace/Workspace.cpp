@@ -1,0 +1,413 @@
+#include "workspace/Workspace.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "platform/files/Folders.h"
+
+namespace kinalyx {
+namespace {
+
+constexpr int kBorder = 4 * kTwipsPerPixel;      // gap and frame round a cell
+constexpr int kBarHeight = 40 * kTwipsPerPixel;  // strip under the picture where the play bar stands
+constexpr int kTallBarHeight = 72 * kTwipsPerPixel;
+constexpr int kNarrowCell = 560 * kTwipsPerPixel;  // below this width the bar needs two rows
+
+/// The bar has a strip of its own under every picture, so that it never covers a foot or a ball, and no
+/// picture changes its size when another window becomes current.
+int BarHeight(const TwipRect& cell) { return cell.Width < kNarrowCell ? kTallBarHeight : kBarHeight; }
+
+std::string NameWithoutExtension(const std::string& file) {
+  const auto dot = file.rfind('.');
+  return dot == std::string::npos ? file : file.substr(0, dot);
+}
+
+/// "Erica Sample · (003) FO driver" from the path of a video.
+std::string CellTitle(const std::string& path) {
+  const std::string file = LastName(path);
+  const std::string folder = LastName(path.substr(0, path.size() - std::min(path.size(), file.size() + 1)));
+  const std::string name = NameWithoutExtension(file);
+  return folder.empty() ? name : folder + " \u00B7 " + name;
+}
+
+}  // namespace
+
+Workspace::Workspace(IHost& host, Settings& settings, IWorkspaceView& view)
+    : host_(host), settings_(settings), view_(view) {
+  if (const ScreenMode* mode = FindScreenMode(settings.ScreenModeNumber())) ScreenLayout = mode->Code;
+}
+
+void Workspace::AttachPlayer(int slot, AVIControl& player) {
+  At(slot).MP = &player;
+  player.setID(slot);
+  player.setDrawMode(13);
+  player.setDrawWidth(settings_.CadWidth);
+}
+
+bool Workspace::AnyVideo() const {
+  return std::ranges::any_of(slots_, [](const Slot& slot) { return !slot.path.empty(); });
+}
+
+bool Workspace::CheckOpenInAnalysis(const std::string& path) const {
+  return !path.empty() && std::ranges::any_of(slots_, [&](const Slot& slot) { return slot.path == path; });
+}
+
+int Workspace::SlotsShown() const { return Maximized() ? 1 : Val(ScreenLayout); }
+
+bool Workspace::IsShown(int slot) const {
+  return Maximized() ? slot == CurrentWindow : slot >= 1 && slot <= Val(ScreenLayout);
+}
+
+// ---------------------------------------------------------------- layouts
+
+void Workspace::SetScreen(int Mode, bool Force) {
+  const ScreenMode* mode = FindScreenMode(Mode);
+  if (!mode) return;
+  if (!Force && ScreenLayout == mode->Code) {
+    view_.FocusKeyBox();
+    return;
+  }
+  ScreenLayout = mode->Code;
+  const bool moved = CurrentWindow > mode->Slots;
+  if (moved) CurrentWindow = 1;
+  FormReset();
+  if (moved) FocusSet();
+  view_.CommandsChanged();
+  view_.FocusKeyBox();
+}
+
+void Workspace::SetStartScreen() {
+  SetScreen(FindScreenMode(settings_.ScreenModeNumber()) ? settings_.ScreenModeNumber() : 1);
+}
+
+void Workspace::FormReset() {
+  const std::vector<TwipRect> cells = LayoutCells(ScreenLayout, view_.MainPanelWidth(), view_.MainPanelHeight());
+  for (int slot = 1; slot <= kSlots; ++slot) {
+    if (!IsShown(slot)) {
+      view_.HideCell(slot);
+      continue;
+    }
+    Slot& at = At(slot);
+    at.cell = cells[Maximized() ? 0 : static_cast<std::size_t>(slot - 1)];
+    at.panel = {kBorder, kBorder, std::max(at.cell.Width - 2 * kBorder, kTwipsPerPixel),
+                std::max(at.cell.Height - 2 * kBorder - BarHeight(at.cell), kTwipsPerPixel)};
+    view_.PlaceCell(slot, at.cell, at.panel);
+    view_.PaintBorder(slot, slot == CurrentWindow);
+    MPResize(slot);
+  }
+  SetPlayBar();
+}
+
+void Workspace::MPResize(int slot) {
+  Slot& at = At(slot);
+  if (!HasVideo(slot)) {
+    view_.PlacePlayer(slot, {}, false);
+    return;
+  }
+  const int oldWidth = at.MP->ControlWidthPixels();
+  const int oldHeight = at.MP->ControlHeightPixels();
+  const TwipRect place =
+      PlaceVideo({at.MP->VideoWidth(), at.MP->VideoHeight(), at.data.Wide, at.VideoZoom, at.PanX, at.PanY},
+                 at.panel.Width, at.panel.Height);
+  view_.PlacePlayer(slot, place, true);
+  if (oldWidth != at.MP->ControlWidthPixels() || oldHeight != at.MP->ControlHeightPixels()) PlayerResized(slot);
+  at.MP->Refresh();
+}
+
+void Workspace::SetPlayBar() {
+  const TwipRect& cell = Current().cell;
+  const int bar = BarHeight(cell);
+  view_.PlacePlayBar(
+      {cell.Left + kBorder, cell.Top + cell.Height - kBorder - bar, std::max(0, cell.Width - 2 * kBorder), bar});
+}
+
+void Workspace::FocusSet() {
+  view_.PaintBorder(CurrentWindow, true);
+  FocusChanged();
+  for (int slot = 1; slot <= Val(ScreenLayout); ++slot)
+    if (slot != CurrentWindow) view_.PaintBorder(slot, false);
+  SetPlayBar();
+  view_.CommandsChanged();
+}
+
+void Workspace::SelectWindow(int slot) {
+  if (slot == CurrentWindow || slot < 1 || slot > kSlots || !IsShown(slot)) return;
+  CurrentWindow = slot;
+  FocusSet();
+}
+
+bool Workspace::TMAX_Click() {
+  if (Maximized()) {
+    ScreenLayout = SavedLayout;
+    CurrentWindow = SavedWindow;
+  } else {
+    if (!HasVideo(CurrentWindow)) return false;
+    SavedLayout = ScreenLayout;
+    SavedWindow = CurrentWindow;
+    ScreenLayout = "MAX";
+  }
+  FormReset();
+  StateChanged();
+  view_.CommandsChanged();
+  return true;
+}
+
+// ---------------------------------------------------------------- videos
+
+bool Workspace::OpenVideo(int slot, const std::string& path) {
+  if (slot < 1 || slot > kSlots || !CloseVideo(slot)) return false;
+  // A video that stands in another slot too comes with what has been drawn there so far.
+  for (int other = 1; other <= kSlots; ++other)
+    if (At(other).path == path) SaveData(other);
+
+  Slot& at = At(slot);
+  const auto info = ReadVideoInfo(path);
+  if (!info) {
+    RefuseVideo(slot, path, false);
+    return false;
+  }
+  at.data = ReadVideoData(SidecarPath(path), *info, settings_.NewColors);
+  if (!at.MP->Load(path, at.data.SplitFields, at.data.ReverseFields)) {
+    RefuseVideo(slot, path, true);
+    return false;
+  }
+  at.path = path;
+  at.frameRate = info->scale > 0 ? static_cast<double>(info->rate) / static_cast<double>(info->scale) : 0;
+  at.marks.clear();
+  at.SlotFrameRate = 0;
+  at.VideoZoom = 1.0;
+  at.PanX = at.PanY = 0;
+  at.changed = at.savedElsewhere = false;
+  VideoOpened(slot);
+  ShowTitle(slot);
+  if (IsShown(slot)) {
+    MPResize(slot);
+  } else {
+    at.MP->Refresh();
+  }
+  StateChanged();
+  view_.CommandsChanged();
+  return true;
+}
+
+void Workspace::RefuseVideo(int slot, const std::string& path, bool hasStream) {
+  Slot& at = At(slot);
+  at.data = {};
+  if (!hasStream) at.MP->Load(path, false, false);  // fails, and leaves the colour that says why
+  // That colour stands in the cell until another video takes the place.
+  if (IsShown(slot)) view_.PlacePlayer(slot, {0, 0, at.panel.Width, at.panel.Height}, true);
+  StateChanged();
+  view_.CommandsChanged();
+  host_.Message(MessageKind::Warning, "",
+                !FileExists(path) ? "The video \"" + LastName(path) + "\" is no longer there."
+                : hasStream       ? "The video \"" + LastName(path) + "\" is damaged: it holds no picture that can be shown."
+                                  : "The specified file does not contain media streams, make sure you choose a "
+                                    "valid media file");
+}
+
+bool Workspace::CloseVideo(int slot) {
+  Slot& at = At(slot);
+  if (!HasVideo(slot)) {
+    if (at.MP) view_.PlacePlayer(slot, {}, false);  // clears the colour that a damaged file left
+    return true;
+  }
+  if (at.MP->IsPlaying()) at.MP->StopPlay();
+  VideoClosing(slot);
+  if (!SaveOrAsk(slot)) return false;
+  VideoClosed(slot);
+  at.MP->Unload();
+  view_.PlacePlayer(slot, {}, false);
+  at.MP->setFlipHorizontal(false);
+  at.MP->setSpeed(100);
+  Slot empty;
+  empty.MP = at.MP;
+  empty.cell = at.cell;
+  empty.panel = at.panel;
+  at = std::move(empty);
+  ShowTitle(slot);
+  view_.SetCellPosition(slot, 0, 0, "");
+  StateChanged();
+  if (Maximized()) TMAX_Click();
+  view_.CommandsChanged();
+  return true;
+}
+
+bool Workspace::SaveData(int slot, std::string* error) {
+  Slot& at = At(slot);
+  const bool changed = CollectData(slot) || at.changed;
+  // The same video may stand in several slots, and this one has nothing of its own to say: what the
+  // other wrote stays.
+  if (!changed && at.savedElsewhere) return true;
+  if (!WriteVideoData(SidecarPath(at.path), at.data, error)) return false;
+  at.changed = at.savedElsewhere = false;
+  DataSaved(slot);
+  for (Slot& other : slots_)
+    if (&other != &at && other.path == at.path) other.savedElsewhere = true;
+  return true;
+}
+
+bool Workspace::SaveOrAsk(int slot) {
+  std::string error;
+  while (!SaveData(slot, &error)) {
+    // A library that cannot be written to is no reason to ask as long as nothing gets lost.
+    if (!CollectData(slot) && !At(slot).changed) return true;
+    const std::string name = NameWithoutExtension(LastName(At(slot).path));
+    if (host_.Question("Drawings not saved",
+                       fmt::format("The drawings and notes of \"{}\" could not be saved: {}. Would you like to try again?",
+                                   name, error)))
+      continue;
+    return host_.Question("Drawings not saved",
+                          fmt::format("Close \"{}\" all the same? Its new drawings and notes will be lost. Answer No to "
+                                      "keep it open.",
+                                      name));
+  }
+  if (!error.empty()) host_.Message(MessageKind::Warning, "", error);
+  return true;
+}
+
+void Workspace::SetNotes(int slot, const std::string& notes) {
+  Slot& at = At(slot);
+  if (!HasVideo(slot) || at.data.Notes == notes) return;
+  at.data.Notes = notes;
+  at.changed = true;
+}
+
+bool Workspace::MnuCloseAll_Click() {
+  bool all = true;
+  for (int slot = 1; slot <= kSlots; ++slot)
+    if (HasVideo(slot)) all = CloseVideo(slot) && all;
+  CurrentWindow = 1;
+  FocusSet();
+  return all;
+}
+
+int Workspace::SendToAnalysis(const std::string& path, const std::function<void(const std::string&)>& status) {
+  const auto tell = [&](const char* words) {
+    if (status) status(words);
+  };
+  int slot = 1;
+  while (slot <= kSlots && HasVideo(slot)) ++slot;
+  if (slot > kSlots) {
+    tell("All 8 windows already have videos in them. Send to analysis failed.");
+    return 0;
+  }
+  tell("Loading Analysis Section...");
+  tell("Sending current video to Analysis...");
+  if (!OpenVideo(slot, path)) {
+    tell("");
+    return 0;
+  }
+  if (Maximized()) TMAX_Click();
+  const auto used = static_cast<int>(std::ranges::count_if(slots_, [](const Slot& at) { return !at.path.empty(); }));
+  if (used > Val(ScreenLayout)) SetScreen(used == 5 || used == 7 ? used + 1 : used);
+  SelectWindow(slot);
+  tell("Current video was sent to Analysis.");
+  return slot;
+}
+
+void Workspace::OpenFamily(const std::vector<std::string>& paths) {
+  bool first = true;
+  for (const std::string& path : paths) {
+    if (!std::exchange(first, false)) {
+      if (!IsShown(CurrentWindow + 1)) return;
+      SelectWindow(CurrentWindow + 1);
+    }
+    if (!OpenVideo(CurrentWindow, path)) return;
+  }
+}
+
+void Workspace::UndoLastOpen() {
+  if (!CloseVideo(CurrentWindow) || CurrentWindow == 1) return;
+  SelectWindow(CurrentWindow - 1);
+}
+
+bool Workspace::CanFill() const {
+  return HasVideo(CurrentWindow) && FindScreenMode(ScreenLayout) && SlotsShown() > 1;
+}
+
+bool Workspace::CanFillRows() const { return CanFill() && LastOfTopRow(ScreenLayout) > 0; }
+
+bool Workspace::Fill(int first, int last) {
+  const std::string path = Current().path;
+  for (int slot = first; slot <= last; ++slot)
+    if (slot != CurrentWindow && !OpenVideo(slot, path)) return false;
+  return true;
+}
+
+void Workspace::TF_Click() {
+  if (CanFill()) Fill(1, SlotsShown());
+}
+
+void Workspace::TFT_Click() {
+  if (CanFillRows()) Fill(1, LastOfTopRow(ScreenLayout));
+}
+
+void Workspace::TFB_Click() {
+  if (CanFillRows()) Fill(LastOfTopRow(ScreenLayout) + 1, SlotsShown());
+}
+
+void Workspace::ShowTitle(int slot) {
+  view_.SetCellTitle(slot, HasVideo(slot) ? CellTitle(At(slot).path) : "");
+}
+
+// ---------------------------------------------------------------- video commands
+
+void Workspace::ToggleFlip() {
+  if (!HasVideo(CurrentWindow)) return;
+  AVIControl& player = MP(CurrentWindow);
+  player.setFlipHorizontal(!player.FlipHorizontal());
+  PictureFlipped(CurrentWindow);
+  player.Refresh();
+  view_.CommandsChanged();
+}
+
+void Workspace::ToggleSplitFields() {
+  if (!HasVideo(CurrentWindow)) return;
+  Slot& at = Current();
+  // The position stays on its frame, although its number doubles or halves.
+  if (at.MP->IsPlaying()) at.MP->StopPlay();
+  const int frame = at.MP->SplitFields() ? at.MP->Position() / 2 : at.MP->Position();
+  at.data.SplitFields = !at.MP->SplitFields();
+  at.changed = true;
+  for (int& mark : at.marks) mark = at.data.SplitFields ? 2 * mark : mark / 2;
+  at.MP->setSplitFields(at.data.SplitFields);
+  at.MP->DrawFrame(at.data.SplitFields ? 2 * frame : frame);
+  StateChanged();
+  view_.CommandsChanged();
+}
+
+void Workspace::ToggleReverseFields() {
+  if (!HasVideo(CurrentWindow)) return;
+  Slot& at = Current();
+  const int position = at.MP->Position();
+  at.data.ReverseFields = !at.MP->ReverseFields();
+  at.changed = true;
+  at.MP->setReverseFields(at.data.ReverseFields);
+  // The play goes on by itself; a picture that stands still keeps its number and shows its other field.
+  if (!at.MP->IsPlaying()) at.MP->DrawFrame(position);
+  view_.CommandsChanged();
+}
+
+void Workspace::SetZoom(double zoom) {
+  if (!HasVideo(CurrentWindow)) return;
+  // Tenths stay tenths, however often a step is added.
+  Current().VideoZoom = std::round(std::clamp(zoom, 0.2, 4.0) * 10) / 10;
+  MPResize(CurrentWindow);
+}
+
+void Workspace::Pan(double dx, double dy) {
+  if (!HasVideo(CurrentWindow)) return;
+  Current().PanX += dx;
+  Current().PanY += dy;
+  MPResize(CurrentWindow);
+}
+
+void Workspace::ResetZoom() {
+  Current().PanX = Current().PanY = 0;
+  SetZoom(1.0);
+}
+
+}  // namespace kinalyx
