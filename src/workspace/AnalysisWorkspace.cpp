@@ -1,0 +1,183 @@
+#include "workspace/AnalysisWorkspace.h"
+
+#include <utility>
+
+namespace kinalyx {
+
+AnalysisWorkspace::AnalysisWorkspace(IHost& host, Settings& settings, IWorkspaceView& view, Navigation navigation)
+    : host_(host),
+      view_(view),
+      workspace_(host, settings, view),
+      transport_(host, settings, workspace_, view),
+      tools_(engine_, settings, *this),
+      drawings_(workspace_, engine_.ShapeLists),
+      timer_(workspace_, transport_, view),
+      notes_(host, workspace_, view),
+      rateTest_(host, workspace_),
+      ruler_(settings, tools_, view),
+      menuBar_({workspace_, transport_, tools_, timer_, notes_, rateTest_, ruler_}, view, std::move(navigation)) {
+  Connect();
+}
+
+void AnalysisWorkspace::Connect() {
+  workspace_.PlayerResized = [this](int slot) { drawings_.PlayerResized(slot); };
+  workspace_.PictureFlipped = [this](int slot) { drawings_.PictureFlipped(slot); };
+  workspace_.VideoOpened = [this](int slot) { drawings_.VideoOpened(slot); };
+  workspace_.CollectData = [this](int slot) { return drawings_.CollectData(slot); };
+  workspace_.DataSaved = [this](int slot) { drawings_.DataSaved(slot); };
+  workspace_.VideoClosing = [this](int slot) {
+    if (slot == workspace_.CurrentWindow) {
+      transport_.StepReleased();
+      if (ruler_.Shown()) ruler_.CalibBtn_Click(1);
+      if (tools_.Drawing()) tools_.DrawOffBtn_Click();
+      notes_.Close();
+    }
+  };
+  workspace_.VideoClosed = [this](int slot) {
+    drawings_.VideoClosed(slot);
+    timer_.Forget(slot);
+  };
+  workspace_.FocusChanged = [this] { ShowFocus(); };
+  workspace_.StateChanged = [this] {
+    transport_.ShowCurrent();
+    notes_.SetupNotesPnl();
+  };
+  transport_.PositionShown = [this] { timer_.UpdateTimer(); };
+}
+
+void AnalysisWorkspace::AttachPlayer(int slot, AVIControl& player) {
+  workspace_.AttachPlayer(slot, player);
+  player.SetFrameInterface(this);
+  player.SetMouseKeyboardInterface(this);
+}
+
+void AnalysisWorkspace::DetachPlayers() {
+  for (int slot = 1; slot <= kSlots; ++slot) {
+    if (!workspace_.At(slot).MP) continue;
+    workspace_.MP(slot).ReleaseFrameInterface();
+    workspace_.MP(slot).ReleaseMouseKeyboardInterface();
+  }
+}
+
+void AnalysisWorkspace::Start() {
+  workspace_.FormReset();
+  workspace_.FocusSet();
+}
+
+/// What another current window brings with it: panels that belong to one window close, and the line, the
+/// bars and the buttons show the new one.
+void AnalysisWorkspace::ShowFocus() {
+  notes_.Close();
+  // A tool in hand stays announced; a measure belonged to the window before.
+  if (!tools_.Drawing()) {
+    tools_.ClearCaptionKept();
+    transport_.DisplayData("");
+  }
+  transport_.ShowCurrent();
+}
+
+void AnalysisWorkspace::Select(int slot) {
+  if (slot == workspace_.CurrentWindow) return;
+  transport_.StepReleased();
+  workspace_.SelectWindow(slot);
+}
+
+// ---------------------------------------------------------------- from the window
+
+void AnalysisWorkspace::StageResized() {
+  workspace_.FormReset();
+  notes_.SetupNotesPnl();
+}
+
+void AnalysisWorkspace::CellPressed(int slot) {
+  Select(slot);
+  view_.FocusKeyBox();
+}
+
+void AnalysisWorkspace::CellDoubleClicked(int slot) {
+  Select(slot);
+  if (!workspace_.HasVideo(slot)) menuBar_.Run("vo");
+}
+
+void AnalysisWorkspace::DrawOffBtn_Click() {
+  tools_.DrawOffBtn_Click();
+  view_.CommandsChanged();
+  view_.FocusKeyBox();
+}
+
+void AnalysisWorkspace::ColorChoiceBtn_Click(int Index) {
+  tools_.ColorChoiceBtn_Click(Index);
+  view_.SetColorButton(Index);
+  view_.FocusKeyBox();
+}
+
+// ---------------------------------------------------------------- from the players
+
+void AnalysisWorkspace::PreDrawFrame(Canvas& hDC, int ID) { tools_.PreDrawFrame(hDC, ID); }
+
+void AnalysisWorkspace::Signal(int, int ID) {
+  transport_.Signal(ID);
+  rateTest_.Signal(ID);
+}
+
+void AnalysisWorkspace::Notify(int, int ID) {
+  transport_.Notify(ID);
+  rateTest_.Notify(ID);
+  view_.CommandsChanged();
+}
+
+void AnalysisWorkspace::MouseDown(int Button, int Shift, float X, float Y, int ID) {
+  if (!tools_.MouseDown(Button, Shift, X, Y, ID)) Select(ID);
+  view_.CommandsChanged();
+  view_.FocusKeyBox();
+}
+
+void AnalysisWorkspace::MouseMove(int Button, int Shift, float X, float Y, int ID) {
+  tools_.MouseMove(Button, Shift, X, Y, ID);
+}
+
+void AnalysisWorkspace::MouseUp(int Button, int Shift, float X, float Y, int ID) {
+  if (tools_.MouseUp(Button, Shift, X, Y, ID)) view_.CommandsChanged();
+}
+
+void AnalysisWorkspace::DblClick(int ID) {
+  if (!workspace_.HasVideo(ID)) CellDoubleClicked(ID);
+}
+
+void AnalysisWorkspace::KeyDown(int KeyCode, int Shift, int) { menuBar_.Form_KeyDown(KeyCode, Shift); }
+
+void AnalysisWorkspace::KeyPress(int KeyAscii, int) { menuBar_.Form_KeyPress(KeyAscii); }
+
+// ---------------------------------------------------------------- for the drawing tools
+
+void AnalysisWorkspace::StopClick(int window) {
+  workspace_.MP(workspace_.CurrentWindow).StopPlay();
+  transport_.StepReleased();
+  if (workspace_.IsShown(window)) workspace_.CurrentWindow = window;
+  view_.SetLoopButton(false);
+  workspace_.FocusSet();
+}
+
+void AnalysisWorkspace::ReleaseLoopButton() {
+  AVIControl& player = workspace_.MP(workspace_.CurrentWindow);
+  if (!player.Repeat()) return;
+  player.StopPlay();
+  player.setRepeat(false);
+  view_.SetLoopButton(false);
+}
+
+bool AnalysisWorkspace::OnLastFrame(int window) {
+  const AVIControl& player = workspace_.MP(window);
+  return player.Position() >= player.VideoLength() - 1;
+}
+
+void AnalysisWorkspace::AdvanceFrame(int window) {
+  if (!OnLastFrame(window)) workspace_.MP(window).Play(workspace_.MP(window).Position() + 1);
+}
+
+void AnalysisWorkspace::ShowDrawError(const std::string& text) {
+  // Told from the event loop: the frame that failed is still being drawn.
+  drawError_ = HostTimer(host_, 0, false, [this, text] { host_.Message(MessageKind::Warning, "", text); });
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,105 @@
+#pragma once
+
+#include <string>
+
+#include "drawing/DrawingTools.h"
+#include "drawing/ShapeStore.h"
+#include "video/CallbackInterfaces.h"
+#include "workspace/MenuBar.h"
+#include "workspace/SlotDrawings.h"
+
+namespace kinalyx {
+
+/// The analysis section as one object: makes the slots, the transport, the drawing tools and the commands,
+/// ties them to each other, and serves the players. A window shows it through IWorkspaceView and hands it
+/// eight players; everything else works without a window.
+class AnalysisWorkspace final : public IFrameInterface, public IMouseAndKeyBoardEvents, private IDrawingWorkspace {
+ public:
+  AnalysisWorkspace(IHost& host, Settings& settings, IWorkspaceView& view, Navigation navigation);
+  AnalysisWorkspace(const AnalysisWorkspace&) = delete;
+  AnalysisWorkspace& operator=(const AnalysisWorkspace&) = delete;
+
+  /// Hands over the player of a slot, which then reports here. Players are not owned; they must outlive
+  /// this object or be detached.
+  void AttachPlayer(int slot, AVIControl& player);
+  /// Lets go of all players; none reports here any more.
+  void DetachPlayers();
+  /// Shows everything for the first time; all players must be attached.
+  void Start();
+
+  Workspace& Slots() { return workspace_; }
+  Transport& Player() { return transport_; }
+  DrawingTools& Tools() { return tools_; }
+  MenuBar& Commands() { return menuBar_; }
+  VideoTimer& Timer() { return timer_; }
+  VideoNotes& Notes() { return notes_; }
+  RulerCalibration& Ruler() { return ruler_; }
+
+  // --- from the window
+  /// The stage has another size.
+  void StageResized();
+  /// A mouse press on a cell beside its picture, and a double click there: an empty window opens a video.
+  void CellPressed(int slot);
+  void CellDoubleClicked(int slot);
+  void DrawOffBtn_Click();
+  void ColorChoiceBtn_Click(int Index);
+
+  // --- IFrameInterface
+  void PreDrawFrame(Canvas& hDC, int ID) override;
+  void Signal(int Frame, int ID) override;
+  void Notify(int Frame, int ID) override;
+
+  // --- IMouseAndKeyBoardEvents
+  void MouseDown(int Button, int Shift, float X, float Y, int ID) override;
+  void MouseMove(int Button, int Shift, float X, float Y, int ID) override;
+  void MouseUp(int Button, int Shift, float X, float Y, int ID) override;
+  void Click(int) override {}
+  void DblClick(int ID) override;
+  void KeyDown(int KeyCode, int Shift, int ID) override;
+  void KeyPress(int KeyAscii, int ID) override;
+  void KeyUp(int, int, int) override {}
+
+ private:
+  void Connect();
+  void ShowFocus();
+
+  // --- IDrawingWorkspace
+  int ActiveWindow() override { return workspace_.CurrentWindow; }
+  void SetActiveWindow(int window) override { Select(window); }
+  bool HasVideo(int window) override { return workspace_.HasVideo(window); }
+  int PictureWidth(int window) override { return workspace_.MP(window).ControlWidthPixels(); }
+  int PictureHeight(int window) override { return workspace_.MP(window).ControlHeightPixels(); }
+  bool IsPlaying(int window) override { return workspace_.MP(window).IsPlaying(); }
+  void StopClick(int window) override;
+  void ReleaseLoopButton() override;
+  void Refresh(int window) override { workspace_.MP(window).Refresh(); }
+  bool OnLastFrame(int window) override;
+  void AdvanceFrame(int window) override;
+  void DisplayData(const std::string& text) override { transport_.DisplayData(text); }
+  void ShowToolCaption(const std::string& caption) override { view_.SetDisplayText(caption); }
+  void ShowVectorColor(Colour colour) override { view_.ShowVectorColor(colour); }
+  void HideVectorColor() override { view_.HideVectorColor(); }
+  void SetColorButton(int index) override { view_.SetColorButton(index); }
+  void ShowDrawError(const std::string& text) override;
+  void DrawingsChanged(int) override { view_.CommandsChanged(); }
+  bool CalibrationShown() override { return ruler_.Shown(); }
+  void ShowCalibrationLength(const std::string& length) override { ruler_.ShowLength(length); }
+
+  void Select(int slot);
+
+  IHost& host_;
+  IWorkspaceView& view_;
+  ShapeEngine engine_;
+  Workspace workspace_;
+  Transport transport_;
+  DrawingTools tools_;
+  SlotDrawings drawings_;
+  VideoTimer timer_;
+  VideoNotes notes_;
+  DisplayRateTest rateTest_;
+  RulerCalibration ruler_;
+  MenuBar menuBar_;
+  HostTimer drawError_;
+};
+
+}  // namespace kinalyx

@@ -1,0 +1,217 @@
+// The command table: what the menus and the tool strip hold, in their order.
+
+#include "workspace/MenuBar.h"
+
+namespace kinalyx {
+namespace {
+
+constexpr const char* kGoTo = "&Go To";
+constexpr const char* kVideo = "&Video";
+constexpr const char* kDraw = "&Draw";
+constexpr const char* kWindows = "&Windows";
+constexpr const char* kTools = "&Tools";
+constexpr const char* kAdvanced = "Advanced";
+constexpr const char* kSetup = "Setup";
+constexpr const char* kBrisko = "Brisko";
+
+// Groups of the tool strip, from left to right.
+enum Group { kNoButton, kOpening, kScreens, kDrawing, kErasing, kPicture, kMeasuring, kSharing };
+
+struct ToolEntry {
+  const char* caption;
+  const char* tip;
+  const char* icon;
+};
+
+/// Drawing tools in the order of their keys F1 to F11, which is the order of the shape kinds.
+constexpr ToolEntry kDrawTools[] = {
+    {"F1 - FreeHand", "Freehand", "freehand"},
+    {"F2 - Plus Sign", "Plus Sign", "plus"},
+    {"F3 - Square", "Square", "square"},
+    {"F4 - Line", "Line", "line"},
+    {"F5 - Circle", "Circle", "circle"},
+    {"F6 - Angle", "Angle", "angle"},
+    {"F7 - Motion Path", "Path Trace", "path"},
+    {"F8 - Parallelogram", "Parallelogram", "parallelogram"},
+    {"F9 - Shade Zone", "Zone Tool", "zone"},
+    {"F10 - Clock Grid", "Clock Grid", "clock"},
+    {"F11 - Arrow", "Arrow", "arrow"},
+};
+
+struct ScreenButton {
+  int mode;
+  const char* tip;
+};
+
+/// Every layout has its button; the four of old carry their old names.
+constexpr ScreenButton kScreenButtons[] = {
+    {1, "Single Screen"},  {2, "Double Screen"},     {7, "Double Screen, one over the other"},
+    {5, "Triple Screen, side by side"}, {3, "Triple Screen"}, {4, "Quad Screen"},
+    {6, "Six Windows"},    {8, "Eight Windows"},
+};
+
+}  // namespace
+
+void MenuBar::AddComing(const char* item, const char* menu, const char* caption, const char* button, const char* icon,
+                        const char* tip, int group) {
+  Add({item, menu, caption, button, icon, tip, group, nullptr});
+}
+
+void MenuBar::AddSeparator(const char* menu) { Add({"", menu, "", "", "", "", kNoButton, nullptr}); }
+
+void MenuBar::AddGoTo() {
+  const auto to = [this](const char* item, const char* caption, const char* icon, std::function<void()> page) {
+    Add({item, kGoTo, caption, "", icon, "", kNoButton, std::move(page)});
+  };
+  to("VLib", "Student Profiles - Home key", "students", navigation_.library);
+  to("CG", "Capture Video - Page Up key", "camera", navigation_.capture);
+  to("PDkeyA", "Analyze Video - Page Down key", "analyze", [this] { view_.FocusKeyBox(); });
+  to("EKTMM", "Main Menu - End key", "home", navigation_.mainMenu);
+}
+
+void MenuBar::AddVideo() {
+  const auto hasVideo = [this] { return HasVideo(); };
+  const auto plain = [&](const char* item, const char* caption, const char* icon, std::function<void()> run) {
+    Add({item, kVideo, caption, "", icon, "", kNoButton, std::move(run), hasVideo});
+  };
+  Add({"vo", kVideo, "O - Open New Video", "Openbtn", "open", "Open Videos", kOpening, [this] { view_.ShowOpenPanel(); }});
+  plain("vr", "R - Rewind Video", "rewind", [this] { transport_.cmdREwind(); });
+  plain("vplay", "P - Play / Pause Toggle", "play", [this] { transport_.cmdPlay(); });
+  Add({"vloop", kVideo, "L - Loop Video", "", "loop", "", kNoButton, [this] { transport_.ToggleLoop(); }, hasVideo,
+       [this] { return HasVideo() && workspace_.Current().MP->Repeat(); }});
+  Add({"vs", kVideo, "S - Speed Toggle", "", "slow", "", kNoButton, [this] { transport_.ToggleSlomo(); }, hasVideo,
+       [this] { return HasVideo() && workspace_.Current().MP->Speed() != 100; }});
+  Add({"vFlip", kVideo, "F - Flip Video", "CmdAfunctions0", "flip", "Flip Video", kPicture,
+       [this] { workspace_.ToggleFlip(); }, hasVideo,
+       [this] { return HasVideo() && workspace_.Current().MP->FlipHorizontal(); }});
+  AddComing("MZoom", kVideo, "Z - Zoom Videos");
+  Add({"MnuClose", kVideo, "C - Close Current Video", "Closebtn", "close", "Close Current Video", kOpening,
+       [this] {
+         if (workspace_.CloseVideo(workspace_.CurrentWindow)) transport_.DisplayData("");
+       },
+       hasVideo});
+  Add({"MnuCloseAll", kVideo, "Esc - Close All Videos", "Closeallbtn", "close-all", "Close All Videos", kOpening,
+       [this] { workspace_.MnuCloseAll_Click(); }, [this] { return workspace_.AnyVideo(); }});
+  AddSeparator(kVideo);
+  plain("vF", "Up Arrow - Rewind", "", [this] { transport_.cmdREwind(); });
+  plain("VL", "Down Arrow - Play", "", [this] { transport_.cmdPlay(); });
+  plain("vp", "Left Arrow - Back 1 Frame", "step-back", [this] { transport_.vp_Click(); });
+  plain("vn", "Right Arrow - Next Frame", "step-forward", [this] { transport_.vn_Click(); });
+}
+
+void MenuBar::AddDraw() {
+  const auto hasVideo = [this] { return HasVideo(); };
+  const auto hasShapes = [this] { return HasVideo() && tools_.HasShapes(workspace_.CurrentWindow); };
+  const auto inHand = [this](int kind, bool straight) {
+    return tools_.Drawing() && tools_.DrawKind() == kind && tools_.Engine().StraightMode == straight;
+  };
+  for (int kind = 0; kind < static_cast<int>(std::size(kDrawTools)); ++kind) {
+    const ToolEntry& tool = kDrawTools[kind];
+    Add({"MenuDraw" + std::to_string(kind), kDraw, tool.caption, "CmdMakeShape" + std::to_string(kind), tool.icon,
+         tool.tip, kDrawing, [this, kind] { tools_.MenuDraw_Click(kind); }, hasVideo,
+         [inHand, kind] { return inHand(kind, false); }});
+  }
+  AddComing("MenuDraw11", kDraw, "F12 - Grid", "ribShowGrid", "grid", "Grid", kDrawing);
+  AddSeparator(kDraw);
+  Add({"DDSL", kDraw, "Draw Straight Line", "DDSLBtn", "straight-line", "Draw Straight Line", kDrawing,
+       [this] { tools_.DDSL_Click(); }, hasVideo, [inHand] { return inHand(kLine, true); }});
+  Add({"DDSA", kDraw, "Draw Straight Arrow", "DDSABtn", "straight-arrow", "Draw Straight Arrow", kDrawing,
+       [this] { tools_.DDSA_Click(); }, hasVideo, [inHand] { return inHand(kArrow, true); }});
+  Add({"Lastcadoff", "", "", "", "undo-last", "Delete Last Object Drawn", kErasing,
+       [this] { tools_.Lastcadoff_Click(); }, hasShapes, {}, "Nothing is drawn in the current window"});
+  Add({"Cadoffbutton", "", "", "", "trash", "Delete All Drawings in Window", kErasing,
+       [this] { tools_.Cadoffbutton_Click(); }, hasShapes, {}, "Nothing is drawn in the current window"});
+}
+
+void MenuBar::AddWindows() {
+  for (const ScreenMode& mode : ScreenModes()) {
+    const char* tip = "";
+    for (const ScreenButton& button : kScreenButtons)
+      if (button.mode == mode.Mode) tip = button.tip;
+    Add({std::string(mode.Item), kWindows, std::string(mode.Caption), "Scn" + std::to_string(mode.Mode),
+         std::string(mode.Icon), tip, kScreens, [this, number = mode.Mode] { workspace_.SetScreen(number); },
+         [] { return true; }, [this, code = mode.Code] { return workspace_.ScreenLayout == code; }});
+  }
+}
+
+void MenuBar::AddTools() {
+  const auto hasVideo = [this] { return HasVideo(); };
+  const auto rows = [this] { return workspace_.CanFillRows(); };
+  const char* const needsRows = "Needs a layout of four, six or eight windows and a video in the current one";
+  Add({"TF", kTools, "Fill All w/Current Video", "", "fill-all", "", kNoButton, [this] { workspace_.TF_Click(); },
+       [this] { return workspace_.CanFill(); }, {}, "Needs a layout of several windows and a video in the current one"});
+  Add({"TFT", kTools, "Fill Top w/Current Video", "", "", "", kNoButton, [this] { workspace_.TFT_Click(); }, rows, {},
+       needsRows});
+  Add({"TFB", kTools, "Fill Bottom w/Current Video", "", "", "", kNoButton, [this] { workspace_.TFB_Click(); }, rows, {},
+       needsRows});
+  AddSeparator(kTools);
+  Add({"PrintCall", kTools, "Print Video(s)", "CmdAfunctions7", "print", "Print Video(s)", kSharing,
+       [this] { view_.ShowNotesform(); }, hasVideo});
+  Add({"TLAV", kTools, "Loop All Videos", "", "loop", "", kNoButton, [this] { transport_.TLAV_Click(); },
+       [this] { return workspace_.AnyVideo(); }, [this] { return transport_.AllLooping(); }});
+  Add({"TVT", kTools, "Video Timer", "CmdAfunctions3", "timer", "Show Video Timer", kMeasuring,
+       [this] { timer_.TVT_Click(); }, [] { return true; }, [this] { return timer_.Shown(); }});
+  AddComing("TZP", kTools, "Zoom/Pan");
+  AddComing("TSFrames", kTools, "Strobe Frames", "StrobeBtn", "strobe", "Strobe Video", kPicture);
+  Add({"TMAX", kTools, "Maximize Current Video", "CmdAfunctions6", "maximize", "Maximize Current Video", kScreens,
+       [this] { workspace_.TMAX_Click(); }, [this] { return workspace_.Maximized() || HasVideo(); },
+       [this] { return workspace_.Maximized(); }});
+  AddComing("TTCarve", kTools, "Transparency Carve");
+  AddSeparator(kTools);
+  Add({"TMark", kTools, "Mark Video Position", "", "mark", "", kNoButton, [this] { transport_.TMark_Click(); }, hasVideo});
+  Add({"TMarkoff", kTools, "Video Marks Off", "", "", "", kNoButton, [this] { transport_.TMarkoff_Click(); },
+       [this] { return !workspace_.Current().marks.empty(); }, {}, "The current video has no marks"});
+  Add({"TN", kTools, "Show Video &Notes", "Notesbutton", "notes", "Show Video Notes", kMeasuring,
+       [this] { notes_.TN_Click(); }, hasVideo, [this] { return notes_.Shown(); }});
+}
+
+void MenuBar::AddAdvanced() {
+  AddComing("CLive", kAdvanced, "Live Draw && Hot Zones");
+  AddComing("TRL", kAdvanced, "Record Lesson", "CmdAfunctions5", "microphone", "Record Lesson", kSharing);
+  AddComing("STM", kAdvanced, "&Transparency Mode");
+  AddComing("smbar", kAdvanced, "&Multi-Pic Mode");
+  AddComing("TTES", kAdvanced, "Email- Take SnapShot");
+  AddComing("TES", kAdvanced, "Email- Send SnapShots");
+  AddComing("MenuEdit", kAdvanced, "Edit Drawings", "CmdAfunctions2", "edit", "Open Edit Bar", kErasing);
+  AddComing("AddMacro", kAdvanced, "Insert Drawing Macro");
+  AddComing("DTMacro", kAdvanced, "Save Drawing Macro");
+  AddComing("DTClone", kAdvanced, "Clone Drawings", "CmdAfunctions1", "clone", "Clone Drawings", kErasing);
+  AddComing("TASF", kAdvanced, "Advanced Strobe");
+  AddComing("cmdDualPlay", "", "", "", "lock", "Lock Videos Together", kPicture);
+}
+
+void MenuBar::AddSetup() {
+  const auto hasVideo = [this] { return HasVideo(); };
+  AddComing("mnuDownloadVideos", kSetup, "Download Model Videos");
+  Add({"TCal", kSetup, "Calculate Distance for Lines", "CmdAfunctions4", "ruler", "Calibrate Ruler", kMeasuring,
+       [this] { ruler_.TCal_Click(); }, hasVideo, [this] { return ruler_.Shown(); }});
+  AddComing("TAGrid", kSetup, "Adjust Grid Size");
+  Add({"VidTest", kSetup, "Test Video Display rate", "", "", "", kNoButton, [this] { rateTest_.VidTest_Click(); },
+       hasVideo, [this] { return rateTest_.Running(); }});
+  Add({"MenuReverseFields", kSetup, "Reverse Field Order", "", "", "", kNoButton,
+       [this] { workspace_.ToggleReverseFields(); }, hasVideo,
+       [this] { return HasVideo() && workspace_.Current().MP->ReverseFields(); }});
+  Add({"MenuSplitFields", kSetup, "Split Video Fields", "", "", "", kNoButton,
+       [this] { workspace_.ToggleSplitFields(); }, hasVideo,
+       [this] { return HasVideo() && workspace_.Current().MP->SplitFields(); }});
+}
+
+void MenuBar::AddBrisko() {
+  for (const auto& [item, caption] : std::initializer_list<std::pair<const char*, const char*>>{
+           {"BriskoPuttPrint", "Print Putting"},
+           {"BriskoDWedgePrint", "Print Distance Wedge"},
+           {"BriskoBunkerPrint", "Print Bunker Shot"},
+           {"BriskoChipPrint", "Print Chip Shot"},
+           {"BriskoSavePutt", "Save Putting Bmps"},
+           {"BriskoSaveDWege", "Save Distance Wedge Bmps"},
+           {"BriskoSaveBunker", "Save Bunker Shot Bmps"},
+           {"BriskoSaveChip", "Save Chip Shot Bmps"},
+           {"BriskoCreateModel", "Create Model"},
+           {"BriskoLeftySelect", "Lefty Print"}})
+    AddComing(item, kBrisko, caption);
+  Add({"MenuExit", "", "&Exit Analysis", "", "", "", kNoButton, [this] {
+         if (PreparetoExit() && navigation_.exitAnalysis) navigation_.exitAnalysis();
+       }});
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,42 @@
+#include "workspace/DisplayRateTest.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+
+namespace kinalyx {
+
+void DisplayRateTest::VidTest_Click() {
+  const int slot = workspace_.CurrentWindow;
+  if (!workspace_.HasVideo(slot)) return;
+  AVIControl& player = workspace_.MP(slot);
+  slot_ = 0;  // a play that is under way ends without a result
+  player.StopPlay();
+  slot_ = slot;
+  DisplayRateCounter_ = 0;
+  player.Play(0, player.VideoLength() - 1);
+}
+
+void DisplayRateTest::Signal(int slot) {
+  if (slot == slot_) DisplayRateCounter_ += 2;
+}
+
+void DisplayRateTest::Notify(int slot) {
+  if (slot != slot_) return;
+  slot_ = 0;
+  const int length = workspace_.MP(slot).VideoLength();
+  // Told from the event loop: a message box must not hold up the player that is ending its play.
+  tell_ = HostTimer(host_, 0, false, [this, length, counter = DisplayRateCounter_] {
+    host_.Message(MessageKind::Information, "",
+                  fmt::format("{}\n\n{} of {} pictures were shown.", Result(counter, length - 1),
+                              std::min(counter / 2, length), length));
+  });
+}
+
+std::string DisplayRateTest::Result(int counter, int lastPosition) {
+  const double ratio = lastPosition > 0 ? static_cast<double>(counter) / lastPosition : 0;
+  const std::string text = fmt::format("{:.7f}", ratio);
+  return "Video Display Rate is " + text.substr(text.find('.') + 1, 2) + "%";
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "platform/host/Host.h"
+#include "workspace/Workspace.h"
+
+namespace kinalyx {
+
+/// Plays the current video once and tells how many of its pictures this machine has shown.
+class DisplayRateTest {
+ public:
+  DisplayRateTest(IHost& host, Workspace& workspace) : host_(host), workspace_(workspace) {}
+
+  void VidTest_Click();
+  bool Running() const { return slot_ != 0; }
+
+  /// A picture of a slot was shown.
+  void Signal(int slot);
+  /// A play has ended; the result of the test is told at the next turn of the event loop.
+  void Notify(int slot);
+
+  /// The words for `counter`, which is 2 for each picture, against the last position: the first two
+  /// figures behind the point of their ratio.
+  static std::string Result(int counter, int lastPosition);
+
+ private:
+  IHost& host_;
+  Workspace& workspace_;
+  int slot_ = 0;  ///< under test; 0 none
+  int DisplayRateCounter_ = 0;
+  HostTimer tell_;
+};
+
+}  // namespace kinalyx

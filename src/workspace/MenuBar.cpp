@@ -1,0 +1,146 @@
+#include "workspace/MenuBar.h"
+
+#include <algorithm>
+#include <cctype>
+
+#include "video/KeyCodes.h"
+
+namespace kinalyx {
+namespace {
+
+constexpr double kPanStep = 50;  // twips
+constexpr double kZoomStep = 0.1;
+
+}  // namespace
+
+MenuBar::MenuBar(const CommandTargets& targets, IWorkspaceView& view, Navigation navigation)
+    : workspace_(targets.workspace),
+      transport_(targets.transport),
+      tools_(targets.tools),
+      timer_(targets.timer),
+      notes_(targets.notes),
+      rateTest_(targets.rateTest),
+      ruler_(targets.ruler),
+      view_(view),
+      navigation_(std::move(navigation)) {
+  AddGoTo();
+  AddVideo();
+  AddDraw();
+  AddWindows();
+  AddTools();
+  AddAdvanced();
+  AddSetup();
+  AddBrisko();
+}
+
+const Command* MenuBar::Find(const std::string& name) const {
+  const auto found = std::ranges::find_if(
+      commands_, [&](const Command& command) { return command.item == name || command.button == name; });
+  return found == commands_.end() || name.empty() ? nullptr : &*found;
+}
+
+bool MenuBar::Run(const std::string& name) {
+  const Command* command = Find(name);
+  if (!command || !command->run || !command->enabled()) return false;
+  command->run();
+  view_.CommandsChanged();
+  return true;
+}
+
+bool MenuBar::PreparetoExit() {
+  if (ruler_.Shown()) ruler_.CalibBtn_Click(1);
+  if (tools_.Drawing()) tools_.DrawOffBtn_Click();
+  notes_.Close();
+  timer_.Close();
+  return workspace_.MnuCloseAll_Click();
+}
+
+bool MenuBar::ResetAnalysisForm() {
+  if (!PreparetoExit()) return false;
+  workspace_.SetStartScreen();
+  return true;
+}
+
+// ---------------------------------------------------------------- keys
+
+void MenuBar::SelectByKeypad(int slot) {
+  if (slot > 1 && Val(workspace_.ScreenLayout) < slot) return;
+  view_.SetLoopButton(false);
+  workspace_.SelectWindow(slot);
+}
+
+void MenuBar::Escape() {
+  // What is in hand is put down first; only a free hand closes the videos.
+  if (ruler_.Shown()) {
+    ruler_.CalibBtn_Click(1);
+  } else if (tools_.Drawing()) {
+    tools_.DrawOffBtn_Click();
+  } else if (workspace_.Maximized()) {
+    workspace_.TMAX_Click();
+  } else {
+    Run("MnuCloseAll");
+    return;
+  }
+  view_.CommandsChanged();
+}
+
+bool MenuBar::Form_KeyDown(int KeyCode, int Shift) {
+  if (KeyCode >= kKeyF1 && KeyCode <= kKeyF12) {
+    Run("MenuDraw" + std::to_string(KeyCode - kKeyF1));
+    return true;
+  }
+  if (KeyCode > kKey0 && KeyCode <= kKey0 + 8 && Shift == 0) {
+    workspace_.SetScreen(KeyCode - kKey0);
+    return true;
+  }
+  switch (KeyCode) {
+    case kKeyRight: transport_.vn_Click(); return true;
+    case kKeyLeft: transport_.vp_Click(); return true;
+    case kKeyUp: transport_.cmdREwind(); return true;
+    case kKeyDown: transport_.cmdPlay(); return true;
+    case kKeyHome: Run("VLib"); return true;
+    case kKeyEnd: Run("EKTMM"); return true;
+    case kKeyPageUp: Run("CG"); return true;
+    case kKeyPageDown: Run("PDkeyA"); return true;
+    case kKeyDelete: Run("Lastcadoff"); return true;
+    case kKeyCtrl: Run("TTES"); return true;
+    case kKeyEscape: Escape(); return true;
+    case kKeyNumpad0 + 8: workspace_.Pan(0, -kPanStep); return true;
+    case kKeyNumpad0 + 2: workspace_.Pan(0, kPanStep); return true;
+    case kKeyNumpad0 + 4: workspace_.Pan(-kPanStep, 0); return true;
+    case kKeyNumpad0 + 6: workspace_.Pan(kPanStep, 0); return true;
+    case kKeyNumpad0 + 5: workspace_.ResetZoom(); return true;
+    case kKeyNumpad0 + 7: SelectByKeypad(1); return true;
+    case kKeyNumpad0 + 9: SelectByKeypad(2); return true;
+    case kKeyNumpad0 + 3: SelectByKeypad(3); return true;
+    case kKeyNumpad0 + 1: SelectByKeypad(4); return true;
+    default: return false;
+  }
+}
+
+bool MenuBar::Form_KeyPress(int KeyAscii) {
+  const double zoom = workspace_.Current().VideoZoom;
+  switch (KeyAscii >= 0 && KeyAscii < 128 ? std::toupper(KeyAscii) : 0) {
+    case 'Y': workspace_.Pan(0, -kPanStep); return true;
+    case 'B': workspace_.Pan(0, kPanStep); return true;
+    case 'G': workspace_.Pan(-kPanStep, 0); return true;
+    case 'H': workspace_.Pan(kPanStep, 0); return true;
+    case 'J': workspace_.ResetZoom(); return true;
+    case 'F': Run("vFlip"); return true;
+    case 'Z': Run("MZoom"); return true;
+    case 'O': Run("vo"); return true;
+    case 'P': transport_.cmdPlay(); return true;
+    case 'R': transport_.cmdREwind(); return true;
+    case 'L': Run("vloop"); return true;
+    case 'S': Run("vs"); return true;
+    case 'C': Run("MnuClose"); return true;
+    case 'M': Run("TMark"); return true;
+    case '=':
+    case '+': workspace_.SetZoom(zoom + kZoomStep); return true;
+    case '-': workspace_.SetZoom(zoom - kZoomStep); return true;
+    case '*': workspace_.SetZoom(1.0); return true;
+    default: return false;
+  }
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,112 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "drawing/DrawingTools.h"
+#include "workspace/DisplayRateTest.h"
+#include "workspace/RulerCalibration.h"
+#include "workspace/Transport.h"
+#include "workspace/VideoNotes.h"
+#include "workspace/VideoTimer.h"
+#include "workspace/Workspace.h"
+
+namespace kinalyx {
+
+/// Where the Go To menu leads; filled in by whoever owns the other pages. A page that does not exist yet
+/// stays empty.
+struct Navigation {
+  std::function<void()> library;
+  std::function<void()> mainMenu;
+  std::function<void()> capture;
+  /// The analysis section is left: its videos are closed, and its window may go at the next turn of the
+  /// event loop.
+  std::function<void()> exitAnalysis;
+};
+
+/// What the commands work on.
+struct CommandTargets {
+  Workspace& workspace;
+  Transport& transport;
+  DrawingTools& tools;
+  VideoTimer& timer;
+  VideoNotes& notes;
+  DisplayRateTest& rateTest;
+  RulerCalibration& ruler;
+};
+
+/// One command of the analysis section: an entry of a menu, a button of the tool strip, or both.
+struct Command {
+  std::string item;     ///< the system's name of the menu item, or of a button without one
+  std::string menu;     ///< title of its menu; empty: on the menu bar itself, or, without a caption, in none
+  std::string caption;  ///< with the key that calls it; empty for a separator
+  std::string button;   ///< the system's name of the tool button, where it is another
+  std::string icon;
+  std::string tip;      ///< of the button; what it is called there
+  int group = 0;        ///< buttons of one group stand together on the strip, in the order of the groups
+  std::function<void()> run;  ///< empty: the command comes later
+  std::function<bool()> enabled = [] { return true; };
+  std::function<bool()> checked = {};  ///< empty: the command has no state
+  const char* why = "Open a video first";  ///< the reason while it is disabled
+
+  /// The feature is not built yet; such a command is disabled and says so.
+  bool Coming() const { return !run; }
+  /// Why it is disabled, empty while it is not.
+  std::string Reason() const { return Coming() ? "coming" : enabled() ? "" : why; }
+};
+
+/// The command table of the workspace: what the menus and the tool strip hold, what is enabled, and
+/// what each entry does. The form only shows it; the keys call the same entries.
+class MenuBar {
+ public:
+  MenuBar(const CommandTargets& targets, IWorkspaceView& view, Navigation navigation);
+
+  /// All commands in the order of the menus.
+  const std::vector<Command>& Commands() const { return commands_; }
+  /// Runs a command by its item or button name when it is enabled; false when it is not or unknown.
+  bool Run(const std::string& name);
+  /// Null for an unknown name.
+  const Command* Find(const std::string& name) const;
+  /// Puts the tools down, writes and closes all videos and their small windows. False when the user
+  /// kept a video open.
+  bool PreparetoExit();
+  /// Clears the workspace for a new start: the layout of the settings, window 1. False as above.
+  bool ResetAnalysisForm();
+
+  /// Keys of the workspace that are no text. True when the key was one of its own.
+  bool Form_KeyDown(int KeyCode, int Shift);
+  /// Letters, in either case.
+  bool Form_KeyPress(int KeyAscii);
+
+ private:
+  void AddGoTo();
+  void AddVideo();
+  void AddDraw();
+  void AddWindows();
+  void AddTools();
+  void AddAdvanced();
+  void AddSetup();
+  void AddBrisko();
+  void Add(Command command) { commands_.push_back(std::move(command)); }
+  /// An entry, or a button beside it, whose feature is not built yet.
+  void AddComing(const char* item, const char* menu, const char* caption, const char* button = "",
+                 const char* icon = "", const char* tip = "", int group = 0);
+  void AddSeparator(const char* menu);
+  bool HasVideo() const { return workspace_.HasVideo(workspace_.CurrentWindow); }
+  void SelectByKeypad(int slot);
+  void Escape();
+
+  Workspace& workspace_;
+  Transport& transport_;
+  DrawingTools& tools_;
+  VideoTimer& timer_;
+  VideoNotes& notes_;
+  DisplayRateTest& rateTest_;
+  RulerCalibration& ruler_;
+  IWorkspaceView& view_;
+  Navigation navigation_;
+  std::vector<Command> commands_;
+};
+
+}  // namespace kinalyx

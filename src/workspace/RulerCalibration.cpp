@@ -1,0 +1,46 @@
+#include "workspace/RulerCalibration.h"
+
+#include <cmath>
+#include <cstdlib>
+
+namespace kinalyx {
+
+void RulerCalibration::TCal_Click() {
+  if (shown_) {
+    CalibBtn_Click(1);
+    return;
+  }
+  shown_ = true;
+  Label4_.clear();
+  view_.ShowCalibration(true);
+  if (!tools_.Drawing() || tools_.DrawKind() != kLine) tools_.CmdMakeShape_Click(kLine);
+}
+
+void RulerCalibration::ShowLength(const std::string& length) {
+  Label4_ = length;
+  view_.SetCalibrationLength(length);
+}
+
+void RulerCalibration::CalibBtn_Click(int Index, double typed, LengthUnit input, LengthUnit output) {
+  if (!shown_) return;
+  if (Index == 0) {
+    const auto pixels = static_cast<std::int32_t>(std::lrint(std::strtod(Label4_.c_str(), nullptr)));
+    settings_.Set(settings_.CalibNumber, pixels);
+    if (const auto scale = PixelsPerInch(pixels, typed, input)) settings_.Set(settings_.CalibNumberOut, *scale);
+    settings_.Set(settings_.CalibInput, input);
+    settings_.Set(settings_.CalibOutput, output);
+  }
+  shown_ = false;
+  // A line that is still being drawn goes with the tool; a finished one is the selected shape.
+  const bool measured = !Label4_.empty() && !tools_.List(tools_.DrawWindow()).Adding;
+  Label4_.clear();
+  if (tools_.Drawing()) tools_.DrawOffBtn_Click();
+  if (measured) {
+    tools_.DeleteCurShape();
+    tools_.RedrawCanvas(tools_.DrawWindow());
+  }
+  tools_.ClearCaptionKept();
+  view_.ShowCalibration(false);
+}
+
+}  // namespace kinalyx

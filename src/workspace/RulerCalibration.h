@@ -1,0 +1,38 @@
+#pragma once
+
+#include <string>
+
+#include "drawing/DrawingTools.h"
+#include "drawing/Measurement.h"
+#include "workspace/IWorkspaceView.h"
+
+namespace kinalyx {
+
+/// The calibration panel: the user draws a line along something of known length and types the length;
+/// from then on lines read in inches, feet, centimetres or metres.
+class RulerCalibration {
+ public:
+  RulerCalibration(Settings& settings, DrawingTools& tools, IWorkspaceView& view)
+      : settings_(settings), tools_(tools), view_(view) {}
+
+  /// Opens the panel and takes up the line tool.
+  void TCal_Click();
+  bool Shown() const { return shown_; }
+  /// The measuring line has this length: "123.4pts".
+  void ShowLength(const std::string& length);
+
+  /// 0 stores the calibration, 1 leaves it as it was. Either way the measuring line goes, the tool ends
+  /// and the panel closes. A length of 0 stores everything but the scale.
+  /// @param typed   the known length in the unit `input`
+  /// @param output  the unit of the display
+  void CalibBtn_Click(int Index, double typed = 0, LengthUnit input = kFeet, LengthUnit output = kFeet);
+
+ private:
+  Settings& settings_;
+  DrawingTools& tools_;
+  IWorkspaceView& view_;
+  bool shown_ = false;
+  std::string Label4_;
+};
+
+}  // namespace kinalyx

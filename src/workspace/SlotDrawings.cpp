@@ -1,0 +1,101 @@
+#include "workspace/SlotDrawings.h"
+
+#include <algorithm>
+
+namespace kinalyx {
+namespace {
+
+std::vector<Shape> CopyOf(const ShapeList& list) {
+  const auto shapes = ShapesOf(list);
+  return {shapes.begin(), shapes.end()};
+}
+
+void Put(ShapeList& list, std::vector<Shape> shapes) {
+  list.NumShapes = static_cast<std::int16_t>(shapes.size());
+  list.Shapes = std::move(shapes);
+}
+
+}  // namespace
+
+void SlotDrawings::VideoOpened(int slot) {
+  SlotData& data = workspace_.At(slot).data;
+  Kept& kept = At(slot);
+  kept = {};
+  kept.stored = {CopyOf(data.Shapes), data.PictureWidth, data.PictureHeight};
+  kept.origin = kept.fitted = kept.stored;
+  ShapeList& list = lists_(slot);
+  list = {};
+  Put(list, kept.stored.shapes);
+  data.Shapes = {};
+}
+
+/// Makes what is in the list the origin when it was drawn in since it was put there.
+void SlotDrawings::Notice(int slot) {
+  Kept& kept = At(slot);
+  if (std::ranges::equal(ShapesOf(lists_(slot)), kept.fitted.shapes)) return;
+  kept.fitted.shapes = CopyOf(lists_(slot));
+  kept.origin = kept.fitted;
+  kept.changed = true;
+}
+
+void SlotDrawings::Fit(int slot, int width, int height) {
+  Kept& kept = At(slot);
+  ShapeList fitted;
+  Put(fitted, kept.origin.shapes);
+  StretchShapes(fitted, kept.origin.width, kept.origin.height, width, height);
+  kept.fitted = {fitted.Shapes, width, height};
+  Put(lists_(slot), std::move(fitted.Shapes));
+}
+
+void SlotDrawings::PlayerResized(int slot) {
+  const int width = workspace_.MP(slot).ControlWidthPixels();
+  const int height = workspace_.MP(slot).ControlHeightPixels();
+  if (width <= 0 || height <= 0) return;
+  Notice(slot);
+  Kept& kept = At(slot);
+  if (kept.origin.width <= 0 || kept.origin.height <= 0) {
+    kept.origin.width = width;
+    kept.origin.height = height;
+  }
+  Fit(slot, width, height);
+}
+
+void SlotDrawings::PictureFlipped(int slot) {
+  Notice(slot);
+  Kept& kept = At(slot);
+  ShapeList mirrored;
+  Put(mirrored, std::move(kept.origin.shapes));
+  FlipShapes(mirrored, kept.origin.width);
+  kept.origin.shapes = std::move(mirrored.Shapes);
+  Fit(slot, kept.fitted.width, kept.fitted.height);
+}
+
+bool SlotDrawings::CollectData(int slot) {
+  Notice(slot);
+  const Kept& kept = At(slot);
+  SlotData& data = workspace_.At(slot).data;
+  const Drawn& drawn = kept.changed ? kept.fitted : kept.stored;
+  data.Shapes = {};
+  Put(data.Shapes, drawn.shapes);
+  // A shape that is being drawn at this moment is none yet.
+  if (Shape* last = LastShape(data.Shapes); last && !last->Locked && lists_(slot).Adding) --data.Shapes.NumShapes;
+  data.PictureWidth = drawn.width;
+  data.PictureHeight = drawn.height;
+  if (kept.changed && workspace_.MP(slot).FlipHorizontal()) FlipShapes(data.Shapes, drawn.width);
+  return kept.changed;
+}
+
+void SlotDrawings::DataSaved(int slot) {
+  SlotData& data = workspace_.At(slot).data;
+  Kept& kept = At(slot);
+  kept.stored = {CopyOf(data.Shapes), data.PictureWidth, data.PictureHeight};
+  kept.changed = false;
+  data.Shapes = {};
+}
+
+void SlotDrawings::VideoClosed(int slot) {
+  lists_(slot) = {};
+  At(slot) = {};
+}
+
+}  // namespace kinalyx

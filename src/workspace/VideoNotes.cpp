@@ -1,0 +1,55 @@
+#include "workspace/VideoNotes.h"
+
+#include <algorithm>
+
+namespace kinalyx {
+namespace {
+
+constexpr int kHeight = 150 * kTwipsPerPixel;
+constexpr int kRest = 600;  // milliseconds without a key before the notes are written
+
+}  // namespace
+
+VideoNotes::VideoNotes(IHost& host, Workspace& workspace, IWorkspaceView& view)
+    : host_(host), workspace_(workspace), view_(view) {}
+
+void VideoNotes::TN_Click() {
+  if (Shown()) {
+    Close();
+    return;
+  }
+  if (!workspace_.HasVideo(workspace_.CurrentWindow)) return;
+  slot_ = workspace_.CurrentWindow;
+  SetupNotesPnl();
+}
+
+void VideoNotes::SetupNotesPnl() {
+  if (!Shown()) return;
+  const Slot& at = workspace_.At(slot_);
+  TwipRect place = at.panel;
+  place.Left += at.cell.Left;
+  place.Height = std::min(kHeight, at.panel.Height * 2 / 3);
+  place.Top = at.cell.Top + at.panel.Top + at.panel.Height - place.Height;
+  view_.ShowNotesPnl(place, at.data.Notes);
+}
+
+void VideoNotes::Close() {
+  if (!Shown()) return;
+  Save();
+  slot_ = 0;
+  view_.HideNotesPnl();
+}
+
+void VideoNotes::NotesBox_Change(const std::string& text) {
+  if (!Shown()) return;
+  workspace_.SetNotes(slot_, text);
+  rest_ = HostTimer(host_, kRest, false, [this] { Save(); });
+}
+
+void VideoNotes::Save() {
+  rest_.Stop();
+  // What the disk refuses now is tried again, and told, when the video closes.
+  if (Shown() && workspace_.HasVideo(slot_) && workspace_.At(slot_).changed) workspace_.SaveData(slot_);
+}
+
+}  // namespace kinalyx

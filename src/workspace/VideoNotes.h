@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string>
+
+#include "platform/host/Host.h"
+#include "workspace/Workspace.h"
+
+namespace kinalyx {
+
+/// The notes panel `NotesPnl`: text that belongs to the current video and lives in its sidecar.
+class VideoNotes {
+ public:
+  VideoNotes(IHost& host, Workspace& workspace, IWorkspaceView& view);
+
+  /// Opens the panel, or closes it.
+  void TN_Click();
+  /// Places the open panel at the current video and shows its notes.
+  void SetupNotesPnl();
+  void Close();
+  bool Shown() const { return slot_ != 0; }
+
+  /// The text was changed by the user. It reaches the sidecar when typing rests, and when the panel or the
+  /// video closes.
+  void NotesBox_Change(const std::string& text);
+
+ private:
+  void Save();
+
+  IHost& host_;
+  Workspace& workspace_;
+  IWorkspaceView& view_;
+  int slot_ = 0;  ///< whose notes are shown; 0 while the panel is closed
+  HostTimer rest_;
+};
+
+}  // namespace kinalyx

@@ -1,0 +1,68 @@
+#include "workspace/VideoTimer.h"
+
+#include <fmt/format.h>
+
+#include <cmath>
+#include <cstdlib>
+
+namespace kinalyx {
+
+VideoTimer::VideoTimer(Workspace& workspace, Transport& transport, IWorkspaceView& view)
+    : workspace_(workspace), transport_(transport), view_(view) {}
+
+void VideoTimer::TVT_Click() {
+  shown_ = !shown_;
+  transport_.ShowFrameCounter = shown_;
+  view_.ShowVideoTimer(shown_);
+  transport_.ShowCurrent();
+  UpdateTimer();
+}
+
+void VideoTimer::Close() {
+  if (shown_) TVT_Click();
+}
+
+double VideoTimer::Rate(int slot) const {
+  const double own = TimerRate_[static_cast<std::size_t>(slot)];
+  return own > 0 ? own : transport_.DisplayRate(slot);
+}
+
+double VideoTimer::Seconds(int slot) const {
+  return std::floor(workspace_.MP(slot).Position() / Rate(slot) * 100 + 0.5) / 100;
+}
+
+void VideoTimer::UpdateTimer() {
+  if (!shown_) return;
+  const int slot = workspace_.CurrentWindow;
+  if (!workspace_.HasVideo(slot)) {
+    view_.SetVideoTimer(Reading(0), false, "");
+    return;
+  }
+  const double value = Seconds(slot) - TimerZero_[static_cast<std::size_t>(slot)];
+  const std::string reading = Reading(value);
+  view_.SetVideoTimer(reading, reading.starts_with('-'), fmt::format("{:.6g}", Rate(slot)));
+}
+
+void VideoTimer::txtFRBox_Change(const std::string& text) {
+  const double rate = std::strtod(text.c_str(), nullptr);
+  TimerRate_[static_cast<std::size_t>(workspace_.CurrentWindow)] = rate > 0 && std::isfinite(rate) ? rate : 0;
+  UpdateTimer();
+}
+
+void VideoTimer::VideoTimerBtn_Click() {
+  const int slot = workspace_.CurrentWindow;
+  if (!workspace_.HasVideo(slot)) return;
+  TimerZero_[static_cast<std::size_t>(slot)] = Seconds(slot);
+  UpdateTimer();
+}
+
+void VideoTimer::Forget(int slot) {
+  TimerRate_[static_cast<std::size_t>(slot)] = TimerZero_[static_cast<std::size_t>(slot)] = 0;
+}
+
+std::string VideoTimer::Reading(double seconds) {
+  const auto hundredths = std::llround(seconds * 100);
+  return fmt::format("{}{:02}.{:02}", hundredths < 0 ? "-" : "", std::abs(hundredths) / 100, std::abs(hundredths) % 100);
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,148 @@
+#pragma once
+
+#include <array>
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "core/Settings.h"
+#include "support/TestHost.h"
+#include "support/TestVideos.h"
+#include "workspace/AnalysisWorkspace.h"
+
+namespace kinalyx::test {
+
+/// A window that only remembers what it was told.
+class FakeWindow final : public IWorkspaceView {
+ public:
+  int width = 1280;  ///< pixels of the stage
+  int height = 720;
+  std::array<AVIControl*, kSlots + 1> players{};
+  std::map<int, TwipRect> cells;  ///< shown ones
+  std::map<int, bool> borders;    ///< true: current
+  std::map<int, std::string> titles;
+  std::map<int, std::string> lines;
+  TwipRect playBar;
+  int range = -1, value = -1;
+  bool playing = false, slomo = false, loop = false;
+  std::string line, counter, text, calibrationLength, reading, rate;
+  bool negative = false, timer = false, calibration = false;
+  std::vector<int> marks;
+  std::optional<Colour> colour;
+  int colorButton = -1;
+  std::optional<std::string> notes;
+  int openPanels = 0, notesforms = 0, focused = 0;
+
+ private:
+  int MainPanelWidth() override { return width * kTwipsPerPixel; }
+  int MainPanelHeight() override { return height * kTwipsPerPixel; }
+  void PlaceCell(int slot, const TwipRect& border, const TwipRect&) override { cells[slot] = border; }
+  void HideCell(int slot) override { cells.erase(slot); }
+  void PlacePlayer(int slot, const TwipRect& place, bool shown) override {
+    if (shown) players[static_cast<std::size_t>(slot)]->Resize(place.Width / kTwipsPerPixel, place.Height / kTwipsPerPixel);
+  }
+  void PaintBorder(int slot, bool current) override { borders[slot] = current; }
+  void SetCellTitle(int slot, const std::string& title) override { titles[slot] = title; }
+  void SetCellPosition(int slot, int, int, const std::string& words) override { lines[slot] = words; }
+  void PlacePlayBar(const TwipRect& place) override { playBar = place; }
+  void SetScrollRange(int maximum) override { range = maximum; }
+  void SetScrollValue(int position) override { value = position; }
+  void SetPlayPicture(bool on) override { playing = on; }
+  void SetSlomoButton(bool down) override { slomo = down; }
+  void SetLoopButton(bool down) override { loop = down; }
+  void SetDisplayLine(const std::string& words, const std::string& number) override {
+    line = words;
+    counter = number;
+  }
+  void SetMarks(const std::vector<int>& positions) override { marks = positions; }
+  void SetDisplayText(const std::string& words) override { text = words; }
+  void ShowVectorColor(Colour shown) override { colour = shown; }
+  void HideVectorColor() override { colour.reset(); }
+  void SetColorButton(int index) override { colorButton = index; }
+  void ShowNotesPnl(const TwipRect&, const std::string& shown) override { notes = shown; }
+  void HideNotesPnl() override { notes.reset(); }
+  void ShowVideoTimer(bool shown) override { timer = shown; }
+  void SetVideoTimer(const std::string& shown, bool below, const std::string& perSecond) override {
+    reading = shown;
+    negative = below;
+    rate = perSecond;
+  }
+  void ShowCalibration(bool shown) override { calibration = shown; }
+  void SetCalibrationLength(const std::string& length) override { calibrationLength = length; }
+  void ShowNotesform() override { ++notesforms; }
+  void ShowOpenPanel() override { ++openPanels; }
+  void CommandsChanged() override {}
+  void FocusKeyBox() override { ++focused; }
+};
+
+/// The whole analysis section with real players and no window: what a test does to it is what a user does.
+class AnalysisStage {
+ public:
+  explicit AnalysisStage(const std::string& layout = "1") : folder(NewFolder()), settings(host, folder + "/data", folder) {
+    settings.LoadSettings();
+    analysis.Slots().ScreenLayout = layout;
+    for (int slot = 1; slot <= kSlots; ++slot) {
+      auto& player = players_[static_cast<std::size_t>(slot - 1)];
+      player = std::make_unique<AVIControl>(services, nullptr);
+      window.players[static_cast<std::size_t>(slot)] = player.get();
+      analysis.AttachPlayer(slot, *player);
+    }
+    analysis.Start();
+  }
+  ~AnalysisStage() { analysis.DetachPlayers(); }
+
+  /// A video of its own, with no sidecar yet.
+  std::string Video(const std::string& name, const TestVideo& kind = MjpegVideo(30)) {
+    const std::string path = folder + "/" + name;
+    std::filesystem::create_directories(std::filesystem::path(path).parent_path());
+    std::filesystem::copy_file(MakeTestVideo(kind), path, std::filesystem::copy_options::overwrite_existing);
+    return path;
+  }
+  bool Open(int slot, const std::string& path) { return Slots().OpenVideo(slot, path); }
+
+  Workspace& Slots() { return analysis.Slots(); }
+  MenuBar& Commands() { return analysis.Commands(); }
+  AVIControl& MP(int slot) { return Slots().MP(slot); }
+  ShapeList& Shapes(int slot) { return analysis.Tools().List(slot); }
+
+  // --- the mouse, in pixels of the picture
+  void Press(int slot, int x, int y, int button = 1) { analysis.MouseDown(button, 0, Pixel(x), Pixel(y), slot); }
+  void Move(int slot, int x, int y) { analysis.MouseMove(1, 0, Pixel(x), Pixel(y), slot); }
+  void Release(int slot, int x, int y, int button = 1) { analysis.MouseUp(button, 0, Pixel(x), Pixel(y), slot); }
+  void Drag(int slot, int x1, int y1, int x2, int y2) {
+    Press(slot, x1, y1);
+    Release(slot, x1, y1);
+    Move(slot, (x1 + x2) / 2, (y1 + y2) / 2);
+    Move(slot, x2, y2);
+    Press(slot, x2, y2);
+    Release(slot, x2, y2);
+  }
+  void Key(int code) { analysis.KeyDown(code, 0, Slots().CurrentWindow); }
+  void Type(char letter) { analysis.KeyPress(letter, Slots().CurrentWindow); }
+
+  const std::string folder;
+  TestHost host;
+  Settings settings;
+  PlayScheduler scheduler{host};
+  PlayerServices services{host, scheduler};
+  FakeWindow window;
+  int libraryVisits = 0, menuVisits = 0, exits = 0;
+  AnalysisWorkspace analysis{host, settings, window,
+                             Navigation{[this] { ++libraryVisits; }, [this] { ++menuVisits; }, {}, [this] { ++exits; }}};
+
+ private:
+  static float Pixel(int at) { return static_cast<float>(at); }
+  static std::string NewFolder() {
+    static int count = 0;
+    const std::string path = TestPath("analysis" + std::to_string(++count));
+    std::filesystem::create_directories(path);
+    return path;
+  }
+
+  std::array<std::unique_ptr<AVIControl>, kSlots> players_;
+};
+
+}  // namespace kinalyx::test

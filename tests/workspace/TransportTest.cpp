@@ -1,0 +1,302 @@
+#include "workspace/Transport.h"
+
+#include <gtest/gtest.h>
+
+#include "AnalysisStage.h"
+#include "video/KeyCodes.h"
+#include "workspace/Countdown.h"
+
+namespace kinalyx::test {
+namespace {
+
+struct TransportTest : testing::Test {
+  AnalysisStage stage{"2"};
+  Transport& transport = stage.analysis.Player();
+};
+
+TEST_F(TransportTest, AnEmptyWindowRefusesEveryMoveAndSaysSo) {
+  transport.DisplayData("");
+  EXPECT_EQ(stage.window.line, "0 seconds | 00/00 frames  ");
+  transport.cmdPlay();
+  transport.cmdREwind();
+  transport.vn_Click();
+  transport.ToggleLoop();
+  transport.ToggleSlomo();
+  transport.TMark_Click();
+  EXPECT_FALSE(stage.window.playing || stage.window.loop || stage.window.slomo);
+  EXPECT_TRUE(stage.window.marks.empty());
+}
+
+TEST_F(TransportTest, TheLineShowsSecondsAndFrames) {
+  stage.Open(1, stage.Video("a.avi", MjpegVideo(61)));
+  EXPECT_EQ(stage.window.line, ".00 seconds | 0/60 frames  ");
+  transport.Seek(15);
+  EXPECT_EQ(stage.window.line, ".50 seconds | 15/60 frames  ");
+  transport.Seek(37);
+  EXPECT_EQ(stage.window.line, "1.23 seconds | 37/60 frames  ");
+  EXPECT_EQ(stage.window.value, 37);
+  EXPECT_EQ(stage.window.range, 60);
+  // The rate of the user goes before the one stored with the video, and that before the file's.
+  stage.Slots().At(1).data.RealFrameRate = 120;
+  EXPECT_EQ(transport.DisplayLine(1), ".31 seconds | 37/60 frames  ");
+  stage.Slots().At(1).SlotFrameRate = 240;
+  EXPECT_EQ(transport.DisplayLine(1), ".15 seconds | 37/60 frames  ");
+}
+
+TEST_F(TransportTest, FieldsCountTwice) {
+  stage.Open(1, stage.Video("dv.avi", DvVideo(20)));
+  ASSERT_TRUE(stage.MP(1).SplitFields()) << "camera material opens with its fields apart";
+  transport.Seek(20);
+  EXPECT_EQ(stage.window.line, ".33 seconds | 20/39 frames  ");
+  transport.vn_Click();
+  EXPECT_EQ(stage.MP(1).Position(), 21);
+  transport.TMark_Click();
+  stage.Slots().ToggleSplitFields();
+  EXPECT_EQ(stage.window.line, ".33 seconds | 10/19 frames  ");
+  EXPECT_EQ(stage.window.marks, std::vector{10});
+}
+
+TEST_F(TransportTest, PlayGoesOnFromHereAndFromTheEndBeginsAgain) {
+  stage.Open(1, stage.Video("a.avi"));
+  transport.Seek(10);
+  transport.cmdPlay();
+  EXPECT_TRUE(stage.window.playing);
+  stage.host.Advance(200);
+  EXPECT_GT(stage.MP(1).Position(), 12);
+  EXPECT_LT(stage.MP(1).Position(), 20);
+  EXPECT_EQ(stage.window.value, stage.MP(1).Position()) << "the bar runs with the film";
+  transport.cmdPlay();
+  EXPECT_FALSE(stage.window.playing);
+  EXPECT_FALSE(stage.MP(1).IsPlaying());
+
+  for (const int start : {28, 29}) {
+    transport.Seek(start);
+    transport.cmdPlay();
+    EXPECT_EQ(stage.MP(1).Position(), 0) << start;
+    transport.cmdPlay();
+  }
+  transport.Seek(27);
+  transport.cmdPlay();
+  EXPECT_EQ(stage.MP(1).Position(), 27);
+  stage.host.Advance(1000);
+  EXPECT_EQ(stage.MP(1).Position(), 29);
+  EXPECT_FALSE(stage.window.playing) << "the end of the film brings the play picture back";
+}
+
+TEST_F(TransportTest, StepsStopAtBothEndsAndTakeARunningFilmInHand) {
+  stage.Open(1, stage.Video("a.avi"));
+  transport.vp_Click();
+  EXPECT_EQ(stage.MP(1).Position(), 0);
+  transport.vn_Click();
+  EXPECT_EQ(stage.MP(1).Position(), 1);
+  transport.Seek(29);
+  transport.vn_Click();
+  EXPECT_EQ(stage.MP(1).Position(), 29);
+
+  transport.Seek(5);
+  transport.cmdPlay();
+  stage.host.Advance(100);
+  const int running = stage.MP(1).Position();
+  transport.vn_Click();
+  EXPECT_FALSE(stage.MP(1).IsPlaying());
+  EXPECT_EQ(stage.MP(1).Position(), running + 1);
+  transport.cmdPlay();
+  transport.cmdREwind();
+  EXPECT_EQ(stage.MP(1).Position(), 0);
+  EXPECT_FALSE(stage.window.playing);
+}
+
+TEST_F(TransportTest, AHeldStepRepeatsAndGoesFasterAsThePointerLeaves) {
+  stage.Open(1, stage.Video("a.avi", MjpegVideo(120)));
+  transport.StepPressed(true, 40);
+  EXPECT_EQ(stage.MP(1).Position(), 1);
+  stage.host.Advance(1000);
+  const int slow = stage.MP(1).Position();
+  EXPECT_GT(slow, 4);
+  transport.StepDragged(40 + 350);  // three more positions with each step
+  stage.host.Advance(300);
+  const int fast = stage.MP(1).Position() - slow;
+  EXPECT_EQ(fast % 4, 0);
+  EXPECT_GE(fast, 8);
+  transport.StepReleased();
+  const int stopped = stage.MP(1).Position();
+  stage.host.Advance(1000);
+  EXPECT_EQ(stage.MP(1).Position(), stopped);
+
+  // Back beyond the start is refused as a whole; and another window ends the hold.
+  transport.Seek(6);
+  transport.StepPressed(false, 0);
+  transport.StepDragged(-900);
+  stage.host.Advance(500);
+  EXPECT_EQ(stage.MP(1).Position(), 5);
+  transport.StepDragged(0);
+  stage.Open(2, stage.Video("b.avi"));
+  stage.Press(2, 10, 10);
+  stage.host.Advance(1000);
+  EXPECT_EQ(stage.MP(1).Position(), 5);
+  EXPECT_EQ(stage.MP(2).Position(), 0);
+}
+
+TEST_F(TransportTest, SlowMotionComesAndGoesDuringAPlayAndBelongsToItsWindow) {
+  stage.Open(1, stage.Video("a.avi"));
+  stage.Open(2, stage.Video("b.avi"));
+  transport.ToggleLoop();
+  stage.host.Advance(100);
+  const int before = stage.MP(1).Position();
+  transport.ToggleSlomo();
+  EXPECT_TRUE(stage.window.slomo && stage.window.playing && stage.window.loop) << "the loop outlives the change";
+  EXPECT_EQ(stage.MP(1).Speed(), 25);
+  stage.host.Advance(400);
+  EXPECT_NEAR(stage.MP(1).Position() - before, 3, 1);
+  stage.Slots().SelectWindow(2);
+  EXPECT_FALSE(stage.window.slomo || stage.window.loop || stage.window.playing);
+  stage.Slots().SelectWindow(1);
+  EXPECT_TRUE(stage.window.slomo && stage.window.loop && stage.window.playing);
+  transport.ToggleSlomo();
+  EXPECT_EQ(stage.MP(1).Speed(), 100);
+  EXPECT_TRUE(stage.MP(1).IsPlaying());
+}
+
+TEST_F(TransportTest, LoopsOneOrAllVideosOfTheLayout) {
+  for (int slot = 1; slot <= 3; ++slot) stage.Open(slot, stage.Video(std::to_string(slot) + ".avi"));
+  transport.ToggleLoop();
+  EXPECT_TRUE(stage.MP(1).Repeat());
+  stage.host.Advance(2500);
+  EXPECT_TRUE(stage.MP(1).IsPlaying());
+  transport.TLAV_Click();
+  EXPECT_TRUE(stage.MP(1).IsPlaying() && stage.MP(2).IsPlaying());
+  EXPECT_FALSE(stage.MP(3).IsPlaying()) << "the layout does not show it";
+  EXPECT_TRUE(transport.AllLooping());
+  transport.TLAV_Click();
+  EXPECT_FALSE(stage.MP(1).IsPlaying() || stage.MP(2).IsPlaying());
+  EXPECT_FALSE(stage.window.loop);
+  transport.ToggleLoop();
+  transport.cmdPlay();
+  EXPECT_FALSE(stage.window.loop) << "pause ends the loop";
+}
+
+TEST_F(TransportTest, TenMarksForEachWindow) {
+  stage.Open(1, stage.Video("a.avi"));
+  stage.Open(2, stage.Video("b.avi"));
+  for (int i = 0; i < 12; ++i) {
+    transport.Seek(2 * i + 1);
+    transport.TMark_Click();
+  }
+  EXPECT_EQ(stage.window.marks.size(), 10u);
+  transport.Mark_Click(3);
+  EXPECT_EQ(stage.MP(1).Position(), 7);
+  transport.Mark_Click(10);
+  EXPECT_EQ(stage.MP(1).Position(), 7);
+  stage.Slots().SelectWindow(2);
+  EXPECT_TRUE(stage.window.marks.empty());
+  stage.Slots().SelectWindow(1);
+  EXPECT_EQ(stage.window.marks[9], 19);
+  transport.TMarkoff_Click();
+  EXPECT_TRUE(stage.window.marks.empty());
+}
+
+TEST_F(TransportTest, TheCounterHasTheWidthOfTheTotal) {
+  stage.Open(1, stage.Video("a.avi", MjpegVideo(120)));
+  transport.ShowFrameCounter = true;
+  transport.Seek(7);
+  EXPECT_EQ(stage.window.counter, "007");
+  transport.ShowFrameCounter = false;
+  transport.Seek(8);
+  EXPECT_EQ(stage.window.counter, "");
+}
+
+TEST_F(TransportTest, EveryKeyOfTheTableDoesItsWork) {
+  stage.Open(1, stage.Video("a.avi"));
+  stage.Key(kKeyRight);
+  stage.Key(kKeyRight);
+  stage.Key(kKeyLeft);
+  EXPECT_EQ(stage.MP(1).Position(), 1);
+  stage.Key(kKeyDown);
+  EXPECT_TRUE(stage.MP(1).IsPlaying());
+  stage.Key(kKeyUp);
+  EXPECT_EQ(stage.MP(1).Position(), 0);
+  stage.Type('p');
+  EXPECT_TRUE(stage.MP(1).IsPlaying());
+  stage.Type('R');
+  EXPECT_FALSE(stage.MP(1).IsPlaying());
+  stage.Type('s');
+  EXPECT_EQ(stage.MP(1).Speed(), 25);
+  stage.Type('l');
+  EXPECT_TRUE(stage.MP(1).Repeat());
+  stage.Type('F');
+  EXPECT_TRUE(stage.MP(1).FlipHorizontal());
+  stage.Type('m');
+  EXPECT_EQ(stage.window.marks.size(), 1u);
+  for (int kind = 0; kind < 11; ++kind) {
+    stage.Key(kKeyF1 + kind);
+    EXPECT_TRUE(stage.analysis.Tools().Drawing());
+    EXPECT_EQ(stage.analysis.Tools().DrawKind(), kind);
+  }
+  stage.Key(kKeyEscape);
+  EXPECT_FALSE(stage.analysis.Tools().Drawing());
+  EXPECT_TRUE(stage.Slots().HasVideo(1)) << "Escape puts the tool down first";
+  stage.Key(kKeyHome);
+  stage.Key(kKeyEnd);
+  EXPECT_EQ(stage.libraryVisits + stage.menuVisits, 2);
+  stage.Type('o');
+  EXPECT_EQ(stage.window.openPanels, 1);
+
+  const char* const layouts[] = {"1", "2", "3T", "4", "3L", "6", "2H", "8"};
+  for (int digit = 1; digit <= 8; ++digit) {
+    stage.Key(kKey0 + digit);
+    EXPECT_EQ(stage.Slots().ScreenLayout, layouts[digit - 1]);
+  }
+  for (const auto& [key, slot] : {std::pair{9, 2}, {3, 3}, {1, 4}, {7, 1}}) {
+    stage.Key(kKeyNumpad0 + key);
+    EXPECT_EQ(stage.Slots().CurrentWindow, slot);
+  }
+  stage.Key(kKey0 + 2);
+  stage.Key(kKeyNumpad0 + 3);
+  EXPECT_EQ(stage.Slots().CurrentWindow, 1) << "two windows have no third";
+  stage.Type('c');
+  EXPECT_FALSE(stage.Slots().HasVideo(1));
+}
+
+TEST_F(TransportTest, PanAndZoomKeysKeepTheirLimits) {
+  stage.Open(1, stage.Video("a.avi"));
+  const Slot& slot = stage.Slots().At(1);
+  stage.Type('y');
+  stage.Key(kKeyNumpad0 + 8);
+  stage.Type('h');
+  EXPECT_EQ(slot.PanY, -100);
+  EXPECT_EQ(slot.PanX, 50);
+  for (int i = 0; i < 40; ++i) stage.Type('+');
+  EXPECT_EQ(slot.VideoZoom, 4.0);
+  for (int i = 0; i < 60; ++i) stage.Type('-');
+  EXPECT_EQ(slot.VideoZoom, 0.2);
+  stage.Type('=');
+  EXPECT_EQ(slot.VideoZoom, 0.3);
+  stage.Type('*');
+  EXPECT_EQ(slot.VideoZoom, 1.0);
+  stage.Key(kKeyNumpad0 + 5);
+  EXPECT_EQ(slot.PanX, 0);
+  EXPECT_EQ(stage.Slots().At(2).VideoZoom, 1.0);
+}
+
+TEST(CountdownTest, MinutesAndSecondsAreOneNumber) {
+  const std::pair<int, const char*> next[] = {{300, "2:59"}, {200, "1:59"}, {259, "2:58"}, {101, "1:00"},
+                                              {100, ":59"},  {10, ":9"},    {1000, "9:59"}, {1, ":"}};
+  for (const auto& [value, text] : next) EXPECT_EQ(CountdownText(CountdownNext(value)), text) << value;
+}
+
+TEST(CountdownTest, TenMinutesLastTenMinutesAndEndOnce) {
+  TestHost host;
+  Countdown countdown(host);
+  std::string shown;
+  int ended = 0;
+  countdown.Start(1000, [&](const std::string& text) { shown = text; }, [&] { ++ended; });
+  host.Advance(599'000);
+  EXPECT_EQ(shown, ":1");
+  EXPECT_EQ(ended, 0);
+  host.Advance(60'000);
+  EXPECT_EQ(ended, 1);
+  EXPECT_FALSE(countdown.Running());
+}
+
+}  // namespace
+}  // namespace kinalyx::test

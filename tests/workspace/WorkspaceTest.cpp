@@ -1,0 +1,259 @@
+#include "workspace/Workspace.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+#include "AnalysisStage.h"
+#include "platform/files/FileStore.h"
+#include "platform/files/Folders.h"
+
+namespace kinalyx::test {
+namespace {
+
+std::string Bytes(const std::string& path) {
+  const auto bytes = ReadWholeFile(path);
+  return bytes ? std::string(bytes->begin(), bytes->end()) : "";
+}
+
+TEST(WorkspaceLayouts, HiddenVideosStayLoadedAndComeBack) {
+  AnalysisStage stage("8");
+  for (const int slot : {1, 5, 8}) ASSERT_TRUE(stage.Open(slot, stage.Video(std::to_string(slot) + ".avi")));
+  stage.Slots().SelectWindow(5);
+  stage.Slots().SetScreen(1);
+  EXPECT_EQ(stage.window.cells.size(), 1u);
+  EXPECT_EQ(stage.Slots().CurrentWindow, 1) << "a window that is not shown cannot be current";
+  EXPECT_TRUE(stage.Slots().HasVideo(5) && stage.Slots().HasVideo(8));
+  stage.Slots().SetScreen(8);
+  EXPECT_EQ(stage.window.cells.size(), 8u);
+  EXPECT_FALSE(stage.MP(8).filename().empty());
+}
+
+TEST(WorkspaceLayouts, ASecondPressOnlyTakesTheFocusBack) {
+  AnalysisStage stage("2");
+  stage.window.cells.clear();
+  const int focused = stage.window.focused;
+  stage.Slots().SetScreen(2);
+  EXPECT_TRUE(stage.window.cells.empty());
+  EXPECT_EQ(stage.window.focused, focused + 1);
+  stage.Slots().SetScreen(2, true);
+  EXPECT_EQ(stage.window.cells.size(), 2u);
+}
+
+TEST(WorkspaceLayouts, StartsWithTheLayoutOfTheSettings) {
+  AnalysisStage stage;
+  EXPECT_EQ(stage.settings.ScreenMode, "1");
+  stage.settings.ScreenMode = "6";
+  Workspace other(stage.host, stage.settings, stage.window);
+  EXPECT_EQ(other.ScreenLayout, "6");
+  stage.settings.ScreenMode = "99";
+  Workspace third(stage.host, stage.settings, stage.window);
+  EXPECT_EQ(third.ScreenLayout, "1");
+}
+
+TEST(WorkspaceLayouts, MaximizeShowsTheCurrentVideoAlone) {
+  AnalysisStage stage("4");
+  EXPECT_FALSE(stage.Slots().TMAX_Click()) << "an empty window";
+  stage.Open(3, stage.Video("a.avi"));
+  stage.Slots().SelectWindow(3);
+  ASSERT_TRUE(stage.Slots().TMAX_Click());
+  EXPECT_EQ(stage.Slots().ScreenLayout, "MAX");
+  ASSERT_EQ(stage.window.cells.size(), 1u);
+  EXPECT_EQ(stage.window.cells.begin()->first, 3);
+  EXPECT_EQ(stage.window.cells[3].Width, 1280 * kTwipsPerPixel);
+  EXPECT_FALSE(stage.Slots().CanFill());
+  stage.Slots().CloseVideo(3);
+  EXPECT_EQ(stage.Slots().ScreenLayout, "4") << "closing leaves it";
+  EXPECT_EQ(stage.Slots().CurrentWindow, 3);
+}
+
+TEST(WorkspaceLayouts, ThePressedWindowBecomesCurrent) {
+  AnalysisStage stage("4");
+  stage.Open(2, stage.Video("a.avi"));
+  stage.Press(2, 5, 5);
+  EXPECT_EQ(stage.Slots().CurrentWindow, 2);
+  EXPECT_TRUE(stage.window.borders[2]);
+  EXPECT_FALSE(stage.window.borders[1]);
+  EXPECT_EQ(stage.window.playBar.Left / kTwipsPerPixel, 640 + 4) << "the play bar goes along";
+  stage.analysis.CellPressed(4);
+  EXPECT_EQ(stage.Slots().CurrentWindow, 4);
+  stage.analysis.CellPressed(7);
+  EXPECT_EQ(stage.Slots().CurrentWindow, 4) << "not shown";
+  EXPECT_EQ(stage.window.line, "0 seconds | 00/00 frames  ");
+  stage.analysis.CellDoubleClicked(4);
+  EXPECT_EQ(stage.window.openPanels, 1);
+  stage.analysis.CellDoubleClicked(2);
+  EXPECT_EQ(stage.window.openPanels, 1) << "this window has a video";
+}
+
+TEST(WorkspaceVideos, OpeningBeginsAfreshInEverySlot) {
+  AnalysisStage stage("1");
+  const std::string first = stage.Video("Erica Sample/(003) FO driver.avi");
+  ASSERT_TRUE(stage.Open(1, first));
+  EXPECT_EQ(stage.window.titles[1], "Erica Sample \u00B7 (003) FO driver");
+  stage.Slots().SetZoom(2);
+  stage.Slots().Pan(50, 0);
+  stage.analysis.Player().TMark_Click();
+  stage.analysis.Player().ToggleSlomo();
+  stage.Slots().ToggleFlip();
+  stage.Slots().At(1).SlotFrameRate = 99;
+  ASSERT_TRUE(stage.Open(1, stage.Video("next.AVI")));
+  const Slot& slot = stage.Slots().At(1);
+  EXPECT_EQ(slot.VideoZoom, 1.0);
+  EXPECT_EQ(slot.PanX + slot.SlotFrameRate, 0);
+  EXPECT_TRUE(slot.marks.empty());
+  EXPECT_EQ(slot.MP->Speed(), 100);
+  EXPECT_FALSE(slot.MP->FlipHorizontal());
+  EXPECT_FALSE(stage.window.slomo);
+  EXPECT_TRUE(FileExists(stage.folder + "/Erica Sample/(003) FO driver.ved")) << "the one before was written";
+}
+
+TEST(WorkspaceVideos, BadFilesAreToldAndHarmNobody) {
+  AnalysisStage stage("2");
+  stage.Open(2, stage.Video("good.avi"));
+  std::ofstream(stage.folder + "/text.avi") << "these are words";
+  std::ofstream(stage.folder + "/empty.avi");
+  EXPECT_FALSE(stage.Open(1, stage.folder + "/text.avi"));
+  EXPECT_EQ(stage.host.messages.back(),
+            "The specified file does not contain media streams, make sure you choose a valid media file");
+  EXPECT_FALSE(stage.Open(1, stage.folder + "/empty.avi"));
+  EXPECT_NE(stage.MP(1).BackColor(), 0) << "the colour of the cell tells too";
+  EXPECT_FALSE(stage.Open(1, stage.folder + "/gone.avi"));
+  EXPECT_EQ(stage.host.messages.back(), "The video \"gone.avi\" is no longer there.");
+  EXPECT_FALSE(stage.Slots().HasVideo(1));
+  EXPECT_FALSE(FileExists(stage.folder + "/text.ved"));
+  stage.Slots().SelectWindow(1);
+  stage.analysis.Player().cmdPlay();
+  stage.Slots().CloseVideo(1);
+  EXPECT_TRUE(stage.Open(1, stage.Video("other.avi")));
+  EXPECT_TRUE(stage.Slots().HasVideo(2));
+}
+
+TEST(WorkspaceVideos, SendingTakesTheFirstFreeSlotAndWidensTheLayout) {
+  AnalysisStage stage("1");
+  std::vector<std::string> told;
+  const auto status = [&](const std::string& words) { told.push_back(words); };
+  const char* const layouts[] = {"1", "2", "3T", "4", "6", "6", "8", "8"};
+  for (int n = 1; n <= 8; ++n) {
+    EXPECT_EQ(stage.Slots().SendToAnalysis(stage.Video(std::to_string(n) + ".avi"), status), n);
+    EXPECT_EQ(stage.Slots().ScreenLayout, layouts[n - 1]);
+    EXPECT_EQ(stage.Slots().CurrentWindow, n);
+  }
+  EXPECT_EQ(told[0], "Loading Analysis Section...");
+  EXPECT_EQ(told[1], "Sending current video to Analysis...");
+  EXPECT_EQ(told[2], "Current video was sent to Analysis.");
+  EXPECT_EQ(stage.Slots().SendToAnalysis(stage.Video("ninth.avi"), status), 0);
+  EXPECT_EQ(told.back(), "All 8 windows already have videos in them. Send to analysis failed.");
+  EXPECT_EQ(LastName(stage.Slots().At(8).path), "8.avi");
+
+  stage.Slots().CloseVideo(3);
+  EXPECT_EQ(stage.Slots().SendToAnalysis(stage.Video("again.avi")), 3);
+  EXPECT_EQ(stage.Slots().SendToAnalysis(stage.folder + "/none.avi"), 0);
+}
+
+TEST(WorkspaceVideos, AWiderLayoutThanNeededStays) {
+  AnalysisStage stage("6");
+  stage.Slots().SendToAnalysis(stage.Video("a.avi"));
+  EXPECT_EQ(stage.Slots().ScreenLayout, "6");
+}
+
+TEST(WorkspaceVideos, FillsAllTopOrBottom) {
+  AnalysisStage stage("6");
+  stage.Open(2, stage.Video("a.avi"));
+  EXPECT_FALSE(stage.Slots().CanFill()) << "the current window is empty";
+  stage.Slots().SelectWindow(2);
+  stage.Slots().TFT_Click();
+  EXPECT_TRUE(stage.Slots().HasVideo(1) && stage.Slots().HasVideo(3));
+  EXPECT_FALSE(stage.Slots().HasVideo(4));
+  stage.Slots().TFB_Click();
+  EXPECT_TRUE(stage.Slots().HasVideo(4) && stage.Slots().HasVideo(6));
+  EXPECT_FALSE(stage.Slots().HasVideo(7));
+  stage.Slots().MnuCloseAll_Click();
+  EXPECT_FALSE(stage.Slots().AnyVideo());
+  EXPECT_EQ(stage.Slots().CurrentWindow, 1);
+  stage.Slots().SetScreen(2);
+  stage.Open(1, stage.Video("b.avi"));
+  EXPECT_TRUE(stage.Slots().CanFill());
+  EXPECT_FALSE(stage.Slots().CanFillRows());
+}
+
+TEST(WorkspaceVideos, UndoAndFamiliesWalkTheWindows) {
+  AnalysisStage stage("2");
+  stage.Slots().OpenFamily({stage.Video("1.avi"), stage.Video("3.avi"), stage.Video("5.avi")});
+  EXPECT_EQ(stage.Slots().CurrentWindow, 2) << "the layout ends here";
+  EXPECT_EQ(LastName(stage.Slots().At(2).path), "3.avi");
+  stage.Slots().UndoLastOpen();
+  EXPECT_EQ(stage.Slots().CurrentWindow, 1);
+  stage.Slots().UndoLastOpen();
+  EXPECT_EQ(stage.Slots().CurrentWindow, 1);
+  EXPECT_FALSE(stage.Slots().AnyVideo());
+}
+
+TEST(WorkspaceVideos, TheFieldCommandsAreKeptWithTheVideo) {
+  AnalysisStage stage;
+  const std::string path = stage.Video("a.avi");
+  stage.Open(1, path);
+  stage.analysis.Player().Seek(7);
+  stage.Commands().Run("MenuSplitFields");
+  EXPECT_EQ(stage.MP(1).Position(), 14) << "the picture stays";
+  stage.Commands().Run("MenuReverseFields");
+  EXPECT_TRUE(stage.Commands().Find("MenuReverseFields")->checked());
+  stage.Slots().CloseVideo(1);
+  EXPECT_EQ(Bytes(SidecarPath(path)).substr(0, 5), "1XRSX");
+  stage.Open(1, path);
+  EXPECT_TRUE(stage.MP(1).SplitFields() && stage.MP(1).ReverseFields());
+  EXPECT_EQ(stage.MP(1).VideoLength(), 60);
+}
+
+/// A sidecar that cannot be written: a folder stands in its place.
+struct BlockedSidecar : testing::Test {
+  AnalysisStage stage{"2"};
+  std::string path = stage.Video("a.avi");
+
+  void SetUp() override {
+    ASSERT_TRUE(stage.Open(1, path));
+    std::filesystem::create_directories(SidecarPath(path) + "/x");
+  }
+  void DrawLine() {
+    stage.Commands().Run("MenuDraw3");
+    stage.Drag(1, 40, 50, 200, 90);
+    ASSERT_EQ(stage.Shapes(1).NumShapes, 1);
+  }
+  void Unblock() { std::filesystem::remove_all(SidecarPath(path)); }
+};
+
+TEST_F(BlockedSidecar, NothingNewIsNothingToAskAbout) {
+  EXPECT_TRUE(stage.Slots().CloseVideo(1));
+  EXPECT_TRUE(stage.host.questions.empty());
+}
+
+TEST_F(BlockedSidecar, DrawingsStayUntilTheUserLetsThemGo) {
+  DrawLine();
+  stage.host.answers = {false, false};  // no second try, keep it open
+  EXPECT_FALSE(stage.Slots().CloseVideo(1));
+  EXPECT_EQ(stage.host.questions.size(), 2u);
+  EXPECT_TRUE(stage.Slots().HasVideo(1));
+  EXPECT_EQ(stage.Shapes(1).NumShapes, 1);
+  stage.host.answers = {false, false};
+  EXPECT_FALSE(stage.Open(1, stage.Video("b.avi"))) << "another video does not push it out";
+  EXPECT_EQ(stage.Slots().At(1).path, path);
+  stage.host.answers = {false, false};
+  stage.Commands().Run("MenuExit");
+  EXPECT_EQ(stage.exits, 0);
+  stage.host.answers = {false, true};
+  EXPECT_TRUE(stage.Slots().CloseVideo(1));
+  EXPECT_FALSE(stage.Slots().HasVideo(1));
+}
+
+TEST_F(BlockedSidecar, AnotherTrySavesThem) {
+  DrawLine();
+  Unblock();
+  std::filesystem::permissions(stage.folder, std::filesystem::perms::all);
+  EXPECT_TRUE(stage.Slots().CloseVideo(1));
+  EXPECT_TRUE(stage.host.questions.empty());
+  ASSERT_TRUE(stage.Open(1, path));
+  EXPECT_EQ(stage.Shapes(1).NumShapes, 1);
+}
+
+}  // namespace
+}  // namespace kinalyx::test
