@@ -95,6 +95,25 @@ void DrawingTools::SetGridMode(bool Value) {
   workspace_.Refresh(window);
 }
 
+void DrawingTools::SetupGridBtn() { workspace_.ShowGridButton(List(workspace_.ActiveWindow()).GridOn); }
+
+void DrawingTools::SetGridSize(int Value) {
+  settings_.Set(settings_.GridSize, static_cast<std::int16_t>(std::clamp(Value, kGridSizeLeast, kGridSizeMost)));
+  const int window = workspace_.ActiveWindow();
+  if (List(window).GridOn) workspace_.Refresh(window);
+}
+
+bool DrawingTools::CloneStart(int windowsShown) {
+  if (windowsShown > 2) return false;
+  const int source = workspace_.ActiveWindow();
+  const int target = source == 1 ? 2 : 1;
+  CopyShapes(source, target);
+  workspace_.SetActiveWindow(target);
+  SetEditBar();
+  workspace_.Refresh(target);
+  return true;
+}
+
 void DrawingTools::VectorColorUpdate(int Kind) {
   if (Kind == kEndOfTool) {
     RandomColorIndex_ = (RandomColorIndex_ + 1) % static_cast<int>(kColorChoices.size());

@@ -20,6 +20,9 @@ inline constexpr std::array<Colour, 12> kColorChoices{
     Rgb(255, 0, 0),   Rgb(255, 255, 0), Rgb(0, 0, 255),   Rgb(0, 255, 0),     Rgb(255, 0, 255), Rgb(0, 192, 192),
     Rgb(255, 128, 0), Rgb(0, 128, 0),   Rgb(0, 255, 255), Rgb(255, 255, 255), Rgb(0, 0, 128),   Rgb(255, 128, 192)};
 
+constexpr int kGridSizeLeast = 2;
+constexpr int kGridSizeMost = 200;
+
 /// What the edit bar adds to painting and clicks.
 class IEditMarks {
  public:
@@ -69,6 +72,13 @@ class DrawingTools final : public IShapeLocked {
   void Cadoffbutton_Click();
   void ColorChoiceBtn_Click(int Index);
   void SetGridMode(bool Value);
+  /// The grid button shows the active window's grid.
+  void SetupGridBtn();
+  /// Divisions across the picture, kGridSizeLeast to kGridSizeMost; other values count as the nearest.
+  void SetGridSize(int Value);
+  /// Copies the active window's drawings to the other one of two, which becomes active. False when the
+  /// layout shows more: then the user must choose, and CopyShapes does it.
+  bool CloneStart(int windowsShown);
 
   // --- mouse, in pixels of the window's picture; Button 1 is the left one
   /// True when the click was taken; otherwise it is the transport's.

@@ -78,12 +78,14 @@ class TestWorkspace final : public IDrawingWorkspace {
 /// The tools over such a workspace, with a mouse.
 struct Desk {
   TestHost host;
-  Settings settings{host, "", ""};
+  Settings settings;
   TestWorkspace workspace;
   ShapeEngine engine;
   DrawingTools tools{engine, settings, workspace};
 
-  Desk() {
+  /// Without a folder the settings are never written.
+  explicit Desk(const std::string& dataPath = "") : settings(host, dataPath, dataPath) {
+    if (!dataPath.empty()) settings.LoadSettings();
     settings.CadWidth = 5;
     settings.CadOutline = true;
     settings.GridSize = 10;

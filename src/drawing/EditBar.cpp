@@ -1,0 +1,181 @@
+#include "drawing/EditBar.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "drawing/MultiShapes.h"
+#include "drawing/ShapeGeometry.h"
+
+namespace kinalyx {
+namespace {
+
+constexpr int kLeftButton = 1;
+constexpr double kScaleReach = 400;  // twips of a drag that double a shape, or let it vanish
+
+}  // namespace
+
+EditBar::EditBar(DrawingTools& tools, IDrawingWorkspace& workspace, IEditBarView& view)
+    : tools_(tools), workspace_(workspace), view_(view) {
+  tools_.AttachEditBar(this);
+}
+
+EditBar::~EditBar() { tools_.AttachEditBar(nullptr); }
+
+void EditBar::SetEditBar() {
+  const ShapeList& list = List();
+  const bool selected = SelectedShape(list) != nullptr;
+  for (const int handle : {kMoveHandle, kScaleHandle, kRotateHandle, kDeleteHandle}) view_.EnableHandle(handle, selected);
+  view_.EnableHandle(kNextHandle, list.NumShapes > 0);
+  view_.EnableHandle(kEndHandle, true);
+  MultiEdit_ = false;
+  view_.SetMultiButton(list.NumShapes >= 2, false);
+}
+
+void EditBar::MenuEdit_Click() {
+  if (shown_) {
+    cmdEBBtn_Click(kEndHandle);
+    return;
+  }
+  const int window = workspace_.ActiveWindow();
+  if (!workspace_.HasVideo(window)) return;
+  tools_.DrawOffBtn_Click();
+  ShapeList& list = List();
+  if (!Selected()) list.CurShape = static_cast<std::int16_t>(list.NumShapes - 1);
+  ChangeEBMode(true);
+}
+
+void EditBar::ChangeEBMode(bool Show) {
+  shown_ = Show;
+  dragged_ = -1;
+  const int window = workspace_.ActiveWindow();
+  if (Show) {
+    tools_.SetDrawWindow(window);
+    SetEditBar();
+    view_.PlaceEditBar(window);
+  } else {
+    MultiEdit_ = false;
+    tools_.ClearCaptionKept();
+  }
+  view_.ShowEditBar(Show);
+  workspace_.Refresh(window);
+  if (!Show) workspace_.DisplayData("");
+}
+
+void EditBar::MoveEditBar() {
+  if (!shown_) return;
+  tools_.SetDrawWindow(workspace_.ActiveWindow());
+  SetEditBar();
+  view_.PlaceEditBar(workspace_.ActiveWindow());
+}
+
+void EditBar::ribEBBtn_Click(bool Value) {
+  MultiEdit_ = Value;
+  workspace_.Refresh(workspace_.ActiveWindow());
+}
+
+void EditBar::cmdEBBtn_Click(int Index) {
+  if (!shown_) return;
+  tools_.SetDrawWindow(workspace_.ActiveWindow());
+  switch (Index) {
+    case kNextHandle: NextShape(); break;
+    case kDeleteHandle:
+      tools_.DeleteCurShape();
+      SetEditBar();
+      workspace_.Refresh(workspace_.ActiveWindow());
+      workspace_.DrawingsChanged(workspace_.ActiveWindow());
+      break;
+    case kEndHandle:
+      for (const int handle : {kNextHandle, kRotateHandle, kDeleteHandle}) view_.EnableHandle(handle, true);
+      ChangeEBMode(false);
+      break;
+    default: break;
+  }
+}
+
+void EditBar::NextShape() {
+  tools_.ClearCaptionKept();
+  ShapeList& list = List();
+  if (list.NumShapes > 0) {
+    const int next = std::max<int>(list.CurShape, -1) + 1;
+    list.CurShape = static_cast<std::int16_t>(next < list.NumShapes ? next : 0);
+  }
+  SetEditBar();
+  workspace_.Refresh(workspace_.ActiveWindow());
+}
+
+float EditBar::HandleAngle(int handle, float x, float y) {
+  return static_cast<float>(PointAngle(view_.HandleWidth(handle) / 2.0, view_.HandleHeight(handle) / 2.0, x, y));
+}
+
+void EditBar::cmdEBBtn_MouseDown(int Index, int Button, int /*Shift*/, float X, float Y) {
+  if (!shown_ || Button != kLeftButton || Index < kMoveHandle || Index > kRotateHandle) return;
+  Shape* shape = Selected();
+  if (!shape) return;
+  dragged_ = Index;
+  dragWindow_ = workspace_.ActiveWindow();
+  LastDown_ = {Round(X), Round(Y)};
+  if (Index == kMoveHandle) return;
+  const ShapeRules rules = tools_.Engine().Rules();
+  if (MultiEdit_) {
+    Pivot_ = MultiGetMid(List(), rules);
+    MultiPrepTrans(List(), rules);
+  } else {
+    Pivot_ = GetMid(*shape, rules);
+    PrepTrans(*shape, rules);
+  }
+  if (Index != kRotateHandle) return;
+  StartAngle_ = HandleAngle(Index, X, Y);
+  view_.ShowRotationGuide(true);
+}
+
+void EditBar::cmdEBBtn_MouseMove(int Index, int Button, int /*Shift*/, float X, float Y) {
+  if (!shown_ || Button != kLeftButton || Index != dragged_) return;
+  ShapeList& list = tools_.List(dragWindow_);
+  Shape* shape = SelectedShape(list);
+  if (!shape) return;
+  const ShapeRules rules = tools_.Engine().Rules();
+  if (Index == kScaleHandle) {
+    // Upward grows, downward shrinks; beyond nothing the drawing comes out on the other side.
+    const double factor = std::abs(1 - (Y - LastDown_.y) / kScaleReach);
+    MultiEdit_ ? MultiScaleShape(list, factor, Pivot_, rules) : ScaleShape(*shape, factor, Pivot_, rules);
+  } else if (Index == kRotateHandle) {
+    const double degrees = RadToDeg(HandleAngle(Index, X, Y) - StartAngle_);
+    MultiEdit_ ? MultiRotateShape(list, degrees, Pivot_, rules) : RotateShape(*shape, degrees, Pivot_, rules);
+  } else {
+    const int dx = Round((X - LastDown_.x) / kTwipsPerPixel);
+    const int dy = Round((Y - LastDown_.y) / kTwipsPerPixel);
+    if (dx == 0 && dy == 0) return;
+    MultiEdit_ ? MultiMoveShape(list, dx, dy, rules) : MoveShape(*shape, dx, dy, rules);
+    // What was less than a pixel counts with the next event, so that a slow drag loses nothing.
+    LastDown_ = {LastDown_.x + dx * kTwipsPerPixel, LastDown_.y + dy * kTwipsPerPixel};
+  }
+  workspace_.Refresh(dragWindow_);
+}
+
+void EditBar::cmdEBBtn_MouseUp(int Index, int Button, int /*Shift*/, float /*X*/, float /*Y*/) {
+  if (Button != kLeftButton || Index != dragged_ || dragged_ < 0) return;
+  dragged_ = -1;
+  ShapeList& list = tools_.List(dragWindow_);
+  const ShapeRules rules = tools_.Engine().Rules();
+  if (Index != kMoveHandle) {
+    if (MultiEdit_) {
+      MultiDoneTrans(list, rules);
+    } else if (Shape* shape = SelectedShape(list)) {
+      DoneTrans(*shape, rules);
+    }
+  }
+  if (Index == kRotateHandle) view_.ShowRotationGuide(false);
+  tools_.NoteChange(dragWindow_);
+  workspace_.DrawingsChanged(dragWindow_);
+}
+
+void EditBar::EditWhole() {
+  ChangeEBMode(true);
+  MultiEdit_ = List().NumShapes > 0;
+  view_.SetMultiButton(List().NumShapes >= 2, MultiEdit_);
+  view_.EnableHandle(kNextHandle, false);
+  view_.EnableHandle(kRotateHandle, false);
+  workspace_.Refresh(workspace_.ActiveWindow());
+}
+
+}  // namespace kinalyx
