@@ -47,17 +47,19 @@ class AVIControl::Strobe final : public IPlayRun {
   std::int64_t Wait() const { return kind_ == Kind::Scene ? std::int64_t{step_} * kLayerMs : 0; }
 
   std::int64_t Tick(std::int64_t) override {
-    const Watch watch(control_);
+    AVIControl& control = control_;  // this object may end before the control does
     if (!AddLayer()) {
-      control_.EndStrobe();  // which ends this object
+      control.EndStrobe();
       return 0;
     }
-    control_.SoftenFrameBuffer();
-    control_.ComposeFrameBuffer();
-    const int number = control_.strobeNumber_;
-    control_.PresentFrame();
-    if (watch.Changed() || !control_.strobe_ || control_.strobeNumber_ != number) return 0;
-    return control_.services_.host.timeGetTime() + Wait();
+    control.SoftenFrameBuffer();
+    control.ComposeFrameBuffer();
+    const std::int64_t wait = Wait();
+    const int number = control.strobeNumber_;
+    const Watch watch(control);
+    control.PresentFrame();
+    if (watch.Changed() || !control.strobe_ || control.strobeNumber_ != number) return 0;
+    return control.services_.host.timeGetTime() + wait;
   }
 
  private:

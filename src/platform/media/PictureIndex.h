@@ -39,8 +39,8 @@ class PictureIndex {
 
   std::int64_t Time(int packet) const { return packets_[packet].time; }
   bool IsHidden(int packet) const { return packets_[packet].hidden; }
-  /// Number of pictures whose packets stand before this one.
-  int PicturesBefore(int packet) const { return packets_[packet].order; }
+  /// Number of pictures whose packets stand before this one; the packet count gives all.
+  int PicturesBefore(int packet) const { return packet < PacketCount() ? packets_[packet].order : pictures_; }
   /// The packet that comes as the nth shown one in the order of the file.
   int PacketOfOrder(int order) const;
   /// The packet of this time; nothing when there is none.

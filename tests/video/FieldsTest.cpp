@@ -1,0 +1,334 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <random>
+
+#include "Player.h"
+#include "video/FramePipeline.h"
+#include "video/StrobeLayers.h"
+
+namespace kinalyx::test {
+namespace {
+
+using std::vector;
+
+vector<std::uint8_t> Noise(std::size_t count, unsigned seed) {
+  std::mt19937 random(seed);
+  vector<std::uint8_t> bytes(count);
+  for (auto& byte : bytes) byte = static_cast<std::uint8_t>(random());
+  return bytes;
+}
+
+TEST(ScanLineBytes, PadsRowsToFourBytes) {
+  struct Case {
+    int width, bits, bytes;
+  };
+  for (const auto& [width, bits, bytes] : {Case{90, 24, 272}, Case{88, 24, 264}, Case{90, 32, 360}, Case{90, 16, 180},
+                                           Case{91, 16, 184}, Case{90, 8, 92}, Case{90, 4, 48}, Case{90, 2, 24},
+                                           Case{90, 1, 12}, Case{90, 12, 0}, Case{90, 0, 0}})
+    EXPECT_EQ(ScanLineBytes(width, bits), bytes) << bits;
+}
+
+TEST(CopyField, TakesEverySecondRow) {
+  for (const int height : {1, 2, 7, 8}) {
+    const auto frame = Noise(static_cast<std::size_t>(height) * 8, 1);
+    for (const bool field : {false, true}) {
+      const auto before = Noise(frame.size(), 2);
+      auto target = before;
+      CopyField(frame.data(), 8, height, field, target.data());
+      for (std::size_t i = 0; i < target.size(); ++i) {
+        const bool taken = (i / 8 % 2 == 0) == field;
+        EXPECT_EQ(target[i], taken ? frame[i] : before[i]) << "row " << i / 8 << " of " << height;
+      }
+    }
+  }
+}
+
+TEST(SoftenField, RebuildsExactlyTheRowsOfTheOtherField) {
+  for (const int height : {2, 3, 6, 7, 480}) {
+    for (const bool field : {false, true}) {
+      const auto frame = Noise(static_cast<std::size_t>(height) * 12, 3);
+      auto rows = Noise(frame.size(), 4);  // an older picture
+      CopyField(frame.data(), 12, height, field, rows.data());
+      SoftenField(rows.data(), 12, height, field);
+      for (int row = 0; row < height; ++row) {
+        for (int c = 0; c < 12; ++c) {
+          const auto at = [&](int r) { return frame[static_cast<std::size_t>(r * 12 + c)]; };
+          const bool copied = (row % 2 == 0) == field;
+          int expected = at(row);
+          if (!copied && row == 0) expected = at(1);
+          if (!copied && row > 0) expected = row + 1 < height ? (at(row - 1) + at(row + 1) + 1) / 2 : at(row - 1);
+          ASSERT_EQ(rows[static_cast<std::size_t>(row * 12 + c)], expected) << "row " << row << " of " << height;
+        }
+      }
+    }
+  }
+}
+
+TEST(EnhanceField, PushesBytesThatStayInRange) {
+  constexpr int kRow = 256 + 3;
+  constexpr int kHeight = 12;
+  for (const bool field : {false, true}) {
+    vector<std::uint8_t> rows(kRow * kHeight);
+    for (std::size_t i = 0; i < rows.size(); ++i) rows[i] = static_cast<std::uint8_t>(i % kRow - 3);
+    const auto before = rows;
+    EnhanceField(rows.data(), kRow, kHeight, field, 10.4, 20);
+    const int first = field ? 2 : 1;
+    const int last = kHeight - 1 - (field ? 2 : 1) - 2;
+    for (int row = 0; row < kHeight; ++row) {
+      const bool worked = row >= first && row <= last && (row - first) % 2 == 0;
+      for (int c = 0; c < kRow; ++c) {
+        const int x = before[static_cast<std::size_t>(row * kRow + c)];
+        int expected = x;
+        if (worked && c >= 3) expected = x > 128 ? (x + 10.4 < 256 ? std::min(255, x + 10) : x) : (x > 20 ? x - 20 : x);
+        ASSERT_EQ(rows[static_cast<std::size_t>(row * kRow + c)], expected) << x << " in row " << row;
+      }
+    }
+  }
+  vector<std::uint8_t> bright(12 * 12, 250);
+  EnhanceField(bright.data(), 12, 12, false, 10, 10);
+  EXPECT_EQ(bright, vector<std::uint8_t>(12 * 12, 250));
+}
+
+/// Pictures in which noise up to the threshold and movement above it are both frequent.
+vector<std::uint8_t> Near(const vector<std::uint8_t>& scene, unsigned seed) {
+  auto bytes = Noise(scene.size(), seed);
+  for (std::size_t i = 0; i < bytes.size(); ++i) {
+    const int shift = bytes[i] % 4 == 0 ? bytes[i] : bytes[i] % 49 - 24;
+    bytes[i] = static_cast<std::uint8_t>(std::clamp(scene[i] + shift, 0, 255));
+  }
+  return bytes;
+}
+
+TEST(StrobeLayers, LayPosesOverTheStartPicture) {
+  const RowShape shape{100, 21};
+  for (const bool field : {false, true}) {
+    const auto scene = Noise(2100, 5);
+    auto sum = Noise(2100, 6);
+    auto expected = sum;
+    vector<bool> touched(2100);
+    StrobeLayers layers(shape);
+    for (unsigned layer = 0; layer < 4; ++layer) {
+      const auto picture = Near(scene, 10 + layer);
+      layers.Add(scene.data(), picture.data(), field, sum.data());
+      for (int row = field ? 2 : 1; row <= 20 - (field ? 2 : 1) - 2; row += 2) {
+        for (int c = 3; c < 100; ++c) {
+          const auto i = static_cast<std::size_t>(row * 100 + c);
+          if (std::abs(scene[i] - picture[i]) <= 20) continue;
+          expected[i] = touched[i] ? static_cast<std::uint8_t>(scene[i] / 3 + picture[i] / 3 + expected[i] / 3) : picture[i];
+          touched[i] = true;
+        }
+      }
+      ASSERT_EQ(sum, expected) << "layer " << layer;
+    }
+  }
+}
+
+TEST(StrobeLayers, KnowTheirLimits) {
+  EXPECT_TRUE(StrobeLayers::Fits({3840, 720}, false));
+  EXPECT_FALSE(StrobeLayers::Fits({3844, 480}, false));
+  EXPECT_FALSE(StrobeLayers::Fits({3840, 721}, false));
+  EXPECT_TRUE(StrobeLayers::Fits({3840, 721}, true));
+  EXPECT_FALSE(StrobeLayers::Fits({3840, 722}, true));
+}
+
+TEST(StrobeLayers, EstimateTheBackgroundWithoutTheOddOneOut) {
+  const RowShape shape{64, 15};
+  const auto base = Noise(960, 7);
+  vector<vector<std::uint8_t>> scenes;
+  for (unsigned i = 0; i < 4; ++i) scenes.push_back(Near(base, 20 + i));
+  const auto picture = Near(base, 30);
+  auto sum = Near(base, 31);
+  auto expected = sum;
+  for (int row = 1; row <= 14 - 1 - 2; row += 2) {
+    for (int c = 3; c < 64; ++c) {
+      const auto i = static_cast<std::size_t>(row * 64 + c);
+      const int b = picture[i];
+      if (std::abs(expected[i] - b) > 20) {
+        int odd = 0;
+        int largest = 0;
+        for (int k = 0; k < 4; ++k) {
+          int rest = 0;
+          for (int j = 0; j < 4; ++j) rest += j == k ? 0 : scenes[static_cast<std::size_t>(j)][i];
+          const int distance = std::abs(3 * scenes[static_cast<std::size_t>(k)][i] - rest);
+          if (distance > largest) {
+            largest = distance;
+            odd = k;
+          }
+        }
+        int sumOfRest = 0;
+        for (int j = 0; j < 4; ++j) sumOfRest += j == odd ? 0 : scenes[static_cast<std::size_t>(j)][i];
+        if (std::abs(sumOfRest / 3 - b) < 21) continue;
+      }
+      expected[i] = static_cast<std::uint8_t>(b);
+    }
+  }
+  AddAgainstBackground(shape, {scenes[0].data(), scenes[1].data(), scenes[2].data(), scenes[3].data()}, picture.data(),
+                       false, sum.data());
+  EXPECT_EQ(sum, expected);
+}
+
+// ---------------------------------------------------------------- in the player
+
+/// A white bar that walks over a dark ground: at x = 8n + 4 in frame n, 8 pixels wide.
+std::string WalkingBar() {
+  VideoFormat format;
+  format.codec = VideoFormat::Codec::RawRgb;
+  format.width = 200;
+  format.height = 60;
+  const std::string path = TestPath("bar.avi");
+  auto writer = VideoWriter::Create(path, format, nullptr);
+  for (int n = 0; n < 20; ++n) {
+    vector<std::uint8_t> rows(200 * 60 * 3, 40);
+    for (int y = 0; y < 60; ++y)
+      std::fill_n(rows.begin() + (y * 200 + n * 8 + 4) * 3, 8 * 3, std::uint8_t{240});
+    writer->Write({rows.data(), 200, 60, 600, 24, false});
+  }
+  writer->Close();
+  return path;
+}
+
+/// The frames whose bar stands on the picture at half height.
+vector<int> BarsOn(const Surface& surface) {
+  vector<int> bars;
+  for (int n = 0; n < 20; ++n)
+    if (Green(surface.Pixel(n * 8 + 8, surface.Height() / 2)) > 150) bars.push_back(n);
+  return bars;
+}
+
+struct StrobedPlayer : Player {
+  StrobedPlayer() {
+    control->Resize(200, 60);
+    control->Load(WalkingBar(), false, false);
+    control->DrawFrame(0);
+    control->OnStrobeEnd([this] { ++ended; });
+    // Softening some field arms the strobe.
+    control->setSplitFields(true);
+    control->Refresh();
+    control->setSplitFields(false);
+  }
+  int ended = 0;
+};
+
+TEST(Strobe, ShowsAChainOfPoses) {
+  StrobedPlayer player;
+  player->Strobeframes(2, 12, 3);
+  EXPECT_TRUE(player->StrobeRunning());
+  player.host.Advance(149);
+  EXPECT_EQ(BarsOn(player.view.shown), vector<int>{0}) << "the first layer after three times 50 ms";
+  player.host.Advance(1);
+  EXPECT_EQ(BarsOn(player.view.shown), (vector<int>{2, 5}));
+  player.host.Advance(150);
+  EXPECT_EQ(BarsOn(player.view.shown), (vector<int>{2, 5, 8}));
+  EXPECT_EQ(player.ended, 0);
+  // Somebody draws meanwhile: the poses stay.
+  player->Refresh();
+  EXPECT_EQ(BarsOn(player.view.shown), (vector<int>{2, 5, 8}));
+  player.host.Advance(150);
+  EXPECT_EQ(BarsOn(player.view.shown), (vector<int>{2, 5, 8, 11}));
+  player.host.Advance(150);
+  EXPECT_FALSE(player->StrobeRunning());
+  EXPECT_EQ(player.ended, 1);
+  EXPECT_EQ(player->Position(), 11);
+  EXPECT_EQ(BarsOn(player.view.shown), (vector<int>{2, 5, 8, 11})) << "the picture stays";
+  player->Refresh();
+  EXPECT_EQ(BarsOn(player.view.shown), vector<int>{11}) << "until it is drawn anew";
+}
+
+TEST(Strobe, WithoutAnEndGoesToTheLastFrame) {
+  for (const int end : {4, 0}) {
+    StrobedPlayer player;
+    player->Strobeframes(4, end, 5);
+    player.host.Advance(5000);
+    EXPECT_EQ(BarsOn(player.view.shown), (vector<int>{4, 9, 14}));
+    EXPECT_EQ(player.ended, 1);
+  }
+}
+
+TEST(Strobe, StopsOnDemandAndBeforeAnyOtherMovement) {
+  using Deed = void (*)(Player&);
+  const Deed deeds[] = {[](Player& player) { player->StopStrobe(); }, [](Player& player) { player->DrawFrame(3); },
+                        [](Player& player) { player->Play(0, 5); },   [](Player& player) { player->Unload(); },
+                        [](Player& player) { player->Load("", false, false); },
+                        [](Player& player) { player->Strobeframes(0, 9, 9); }};
+  for (const Deed deed : deeds) {
+    StrobedPlayer player;
+    player->Play(0, 15);
+    player->Strobeframes(2, 19, 2);
+    EXPECT_FALSE(player->IsPlaying());
+    player.host.Advance(250);
+    deed(player);
+    EXPECT_EQ(player.ended, 1);
+    player.host.Advance(5000);
+    EXPECT_FALSE(player->StrobeRunning());
+    EXPECT_EQ(player.host.TimerCount(), 0u);
+  }
+  StrobedPlayer player;
+  player->Strobeframes(2, 19, 2);
+  player->StopStrobe();
+  EXPECT_EQ(BarsOn(player.view.shown), vector<int>{0}) << "the picture is left alone";
+}
+
+TEST(Strobe, MayBeEndedInItsOwnCallbacks) {
+  for (int deed = 0; deed < 4; ++deed) {
+    StrobedPlayer player;
+    player->Strobeframes(2, 19, 2);
+    int calls = 0;
+    player.sink.onSignal = [&](int) {
+      if (++calls != 2) return;
+      if (deed == 0) player->StopStrobe();
+      if (deed == 1) player->Strobeframes(0, 9, 2);
+      if (deed == 2) player->Unload();
+      if (deed == 3) player.control.reset();
+    };
+    player.host.Advance(5000);
+    EXPECT_EQ(player.host.TimerCount(), 0u);
+    EXPECT_GE(calls, 2);
+  }
+}
+
+TEST(Strobe, OfPicturesItCannotWorkOnEndsAtOnce) {
+  StrobedPlayer player;
+  player->setForceDisplayFormat(4);
+  ASSERT_TRUE(player->Load("", false, false));
+  EXPECT_EQ(player->CurFormatBits(), 32);
+  player->Strobeframes(0, 10, 1);
+  EXPECT_FALSE(player->StrobeRunning());
+  EXPECT_EQ(player.ended, 1);
+}
+
+TEST(Strobe, AgainstABackgroundRunsWithoutPause) {
+  StrobedPlayer player;
+  player->DrawFrame(1);
+  player->Strobeframes2(2, 12, 4);
+  player.host.Advance(5);
+  EXPECT_FALSE(player->StrobeRunning());
+  EXPECT_EQ(BarsOn(player.view.shown), (vector<int>{1, 6, 10}));
+  EXPECT_EQ(player.ended, 1);
+}
+
+TEST(Enhance, PushesTheContrastOfTheShownField) {
+  StrobedPlayer player;
+  player->DrawFrame(5);
+  const Colour ground = player.view.shown.Pixel(150, 30);
+  player->Enhance(10, 30);
+  EXPECT_EQ(Green(player.view.shown.Pixel(150, 30)), Green(ground) - 30);
+  EXPECT_EQ(Green(player.view.shown.Pixel(5 * 8 + 8, 30)), 250);
+  player->Refresh();
+  EXPECT_EQ(player.view.shown.Pixel(150, 30), ground);
+}
+
+TEST(AttackBits, ShowsAFieldFurtherOn) {
+  Player player;
+  ASSERT_TRUE(player.Load(MjpegVideo(60)));
+  player->DrawFrame(5);
+  player->AttackBits();
+  EXPECT_EQ(player.Shown(), 25);
+  EXPECT_EQ(player->Position(), 5);
+  player->DrawFrame(50);
+  player->AttackBits();
+  EXPECT_EQ(player.Shown(), 50) << "there is no frame 70";
+}
+
+}  // namespace
+}  // namespace kinalyx::test
