@@ -223,6 +223,14 @@ std::string SidecarPath(std::string_view videoPath) {
   return std::string(videoPath.substr(0, videoPath.size() - std::min<std::size_t>(3, videoPath.size()))) + "ved";
 }
 
+SlotData DefaultVideoData(const VideoInfo& video) {
+  SlotData data;
+  const FieldOptions fields = DefaultFields(video).value_or(FieldOptions{});
+  data.ReverseFields = fields.ReverseFields;
+  data.SplitFields = fields.SplitFields;
+  return data;
+}
+
 SlotData ReadVideoData(const std::string& path, const VideoInfo& video, std::span<const Colour> toolColours) {
   Bytes bytes = ReadWholeFile(path).value_or(Bytes());
   bytes.insert(bytes.end(), kColourBytes, 0);
@@ -235,13 +243,8 @@ SlotData ReadVideoData(const std::string& path, const VideoInfo& video, std::spa
       WriteVideoData(path, data);
       return data;
     }
-    default: break;
+    default: return DefaultVideoData(video);
   }
-  SlotData data;
-  const FieldOptions fields = DefaultFields(video).value_or(FieldOptions{});
-  data.ReverseFields = fields.ReverseFields;
-  data.SplitFields = fields.SplitFields;
-  return data;
 }
 
 bool WriteVideoData(const std::string& path, const SlotData& data, std::string* error, IDisk& disk) {

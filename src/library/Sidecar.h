@@ -40,9 +40,12 @@ inline constexpr std::size_t kMaxNotes = 65535;
 /// The sidecar of a video: its path with the last three characters replaced by "ved".
 std::string SidecarPath(std::string_view videoPath);
 
+/// What holds for a video without a sidecar: both field options for dvsd of 720 x 480 or 720 x 576, split
+/// fields alone for IV50 of height 480 at 32 pictures a second or more, nothing for any other.
+SlotData DefaultVideoData(const VideoInfo& video);
+
 /// Reads a sidecar. Never fails:
-/// - a missing, empty or foreign file gives the defaults of the video: both field options for dvsd of
-///   720 x 480 or 720 x 576, split fields alone for IV50 of height 480 at 32 pictures a second or more;
+/// - a missing, empty or foreign file gives the defaults of the video;
 /// - a file cut short gives what it holds, then blanks in its texts, zeros in its numbers, and no
 ///   drawings past its end;
 /// - a file of the old format `V` is converted and written back in the present one.
