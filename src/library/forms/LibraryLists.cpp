@@ -1,0 +1,104 @@
+#include "library/forms/LibraryLists.h"
+
+#include <QKeyEvent>
+
+#include "library/forms/Text.h"
+
+namespace kinalyx {
+
+LibraryLists::LibraryLists(LibraryBrowser& browser, const Settings& settings, QObject* parent)
+    : QObject(parent),
+      browser_(browser),
+      vocabulary_(settings),
+      instructors_(new NameList("InstructorList")),
+      students_(new NameList("StudentList")),
+      videos_(new NameList("VideoList")) {
+  instructors_->setAccessibleName("Instructors");
+  videos_->setAccessibleName("Videos");
+  connect(instructors_, &QListWidget::currentRowChanged, this, [this](int row) {
+    browser_.InstructorList_Click(row);
+    emit InstructorChosen();
+    ShowStudents();
+  });
+  connect(students_, &QListWidget::currentRowChanged, this, [this](int row) {
+    if (const int before = browser_.StudentIndex(); before >= 0) students_->SetCount(before, -1);
+    browser_.StudentList_Click(row);
+    ShowVideos();
+  });
+  connect(videos_, &QListWidget::currentRowChanged, this, [this](int row) {
+    browser_.VideoList_Click(row);
+    emit VideoChosen();
+  });
+  connect(videos_, &QListWidget::itemActivated, this, &LibraryLists::VideoActivated);
+  for (NameList* list : {instructors_, students_, videos_}) list->installEventFilter(this);
+}
+
+void LibraryLists::ShowAll() {
+  instructors_->Fill(Q(browser_.InstructorList()), browser_.InstructorIndex());
+  emit InstructorChosen();
+  ShowStudents();
+}
+
+void LibraryLists::ShowStudents() {
+  students_->Fill(Q(browser_.StudentList()), browser_.StudentIndex());
+  ShowVideos();
+}
+
+void LibraryLists::ShowVideos() {
+  const int count = static_cast<int>(browser_.VideoList().size());
+  if (browser_.HasStudent()) students_->SetCount(browser_.StudentIndex(), count);
+  videos_->Fill(Q(browser_.VideoList()), browser_.VideoIndex());
+  ShowHints();
+  emit StudentChosen();
+  emit VideoChosen();
+}
+
+void LibraryLists::ShowHints() {
+  const QString nouns = Q(vocabulary_.nouns());
+  const QString noun = Q(vocabulary_.noun());
+  students_->setAccessibleName(Q(vocabulary_.Nouns()));
+  if (browser_.InstructorList().size() == 1) {
+    students_->SetHint("Add the first instructor beneath the list on the left.");
+  } else if (browser_.IsGeneralFolder()) {
+    students_->SetHint(QString("Choose an instructor to see the %1.").arg(nouns));
+  } else if (browser_.IsQuickLaunch()) {
+    students_->SetHint(QString("Quick Launch keeps videos, no %1.").arg(nouns));
+  } else {
+    students_->SetHint(QString("No %1 here yet. Add the first one beneath this list.").arg(nouns));
+  }
+
+  if (browser_.IsGeneralFolder()) {
+    videos_->SetHint("No videos lie in the library folder itself.");
+  } else if (browser_.IsQuickLaunch()) {
+    videos_->SetHint("No videos yet. Copy one here with Quick Launch +.");
+  } else if (!browser_.HasStudent()) {
+    videos_->SetHint(QString("Choose a %1 to see the videos.").arg(noun));
+  } else {
+    videos_->SetHint(QString("No videos yet. Capture or import one, or copy AVI files into the folder of this %1.").arg(noun));
+  }
+}
+
+bool LibraryLists::eventFilter(QObject* object, QEvent* event) {
+  if (event->type() != QEvent::KeyPress) return QObject::eventFilter(object, event);
+  NameList* const order[] = {instructors_, students_, videos_};
+  const auto at = std::find(std::begin(order), std::end(order), object) - std::begin(order);
+  const auto go = [&](std::ptrdiff_t to) {
+    if (to < 0 || to > 2 || order[to]->count() == 0) return true;
+    order[to]->setFocus(Qt::TabFocusReason);
+    if (order[to]->currentRow() < 0) order[to]->setCurrentRow(0);
+    return true;
+  };
+  switch (static_cast<QKeyEvent*>(event)->key()) {
+    case Qt::Key_Left: return go(at - 1);
+    case Qt::Key_Right: return go(at == 0 && students_->count() == 0 ? 2 : at + 1);
+    case Qt::Key_Return:
+    case Qt::Key_Enter: return at == 2 ? QObject::eventFilter(object, event) : go(at == 0 && students_->count() == 0 ? 2 : at + 1);
+    case Qt::Key_Space:
+      if (at != 2) return QObject::eventFilter(object, event);
+      emit PlayWanted();
+      return true;
+    default: return QObject::eventFilter(object, event);
+  }
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QObject>
+
+#include "core/Vocabulary.h"
+#include "library/LibraryBrowser.h"
+#include "platform/widgets/NameList.h"
+
+namespace kinalyx {
+
+/// The three lists `InstructorList`, `StudentList` and `VideoList` over one browser: fills each from the
+/// choice in the one before, and says in an empty list what to do. Left and right move between the
+/// lists, Enter goes on to the next one or opens the video, the space bar plays it.
+class LibraryLists : public QObject {
+  Q_OBJECT
+
+ public:
+  /// The lists are made here, without a parent: the form places them.
+  LibraryLists(LibraryBrowser& browser, const Settings& settings, QObject* parent);
+
+  NameList* InstructorList() { return instructors_; }
+  NameList* StudentList() { return students_; }
+  NameList* VideoList() { return videos_; }
+
+  /// Fills all three from the browser, which has just read the library, and tells of every change.
+  void ShowAll();
+  void ShowStudents();
+  void ShowVideos();
+
+ signals:
+  void InstructorChosen();
+  void StudentChosen();  ///< also: none is chosen any more
+  void VideoChosen();    ///< also: none is chosen any more
+  /// A double click or Enter on a video.
+  void VideoActivated();
+  /// The space bar on a video.
+  void PlayWanted();
+
+ protected:
+  bool eventFilter(QObject* object, QEvent* event) override;
+
+ private:
+  void ShowHints();
+
+  LibraryBrowser& browser_;
+  Vocabulary vocabulary_;
+  NameList* instructors_;
+  NameList* students_;
+  NameList* videos_;
+};
+
+}  // namespace kinalyx

@@ -1,0 +1,210 @@
+#include "library/forms/OpenVidForm.h"
+
+#include <QBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+
+#include "core/Vocabulary.h"
+#include "library/forms/LibraryLists.h"
+#include "library/forms/PreviewPlayer.h"
+#include "library/forms/Text.h"
+#include "library/forms/VideosPanel.h"
+#include "platform/widgets/Buttons.h"
+#include "platform/widgets/Figures.h"
+#include "platform/widgets/Panel.h"
+#include "platform/widgets/Theme.h"
+
+namespace kinalyx {
+
+// ---------------------------------------------------------------- shared parts
+
+OpenVideoParts::OpenVideoParts(PlayerServices& services, const Settings& settings, LastStudentInfo& remembered,
+                               OpenVideoCalls calls, QWidget* parent)
+    : QFrame(parent),
+      browser_(settings, remembered, LibraryBrowser::Kind::OpenVideo),
+      calls_(std::move(calls)) {
+  setProperty("look", "panel");
+  lists_ = new LibraryLists(browser_, settings, this);
+  preview_ = new PreviewPlayer(services);
+  marks_ = new SidecarMarkLabels;
+  count_ = new FigureLabel("VideoCount");
+  count_->setProperty("look", "caption");
+  buttons_[0] = new Button("CmdOpenVideo0", "Open", "open");
+  buttons_[1] = new Button("CmdOpenVideo1", "Done", {}, Look::Quiet);
+  buttons_[2] = new Button("CmdOpenVideo2", "Undo Last Open", {}, Look::Quiet);
+  for (int index = 0; index < 3; ++index)
+    connect(buttons_[index], &QPushButton::clicked, this, [this, index] { CmdOpenVideo_Click(index); });
+  connect(lists_, &LibraryLists::StudentChosen, this, &OpenVideoParts::VidCountUpdate);
+  connect(lists_, &LibraryLists::VideoChosen, this, &OpenVideoParts::VideoList_Click);
+  connect(lists_, &LibraryLists::VideoActivated, this, [this] { CmdOpenVideo_Click(0); });
+  connect(lists_, &LibraryLists::PlayWanted, this, [this] { preview_->TogglePlay(); });
+  ShowButtons();
+}
+
+OpenVideoParts::~OpenVideoParts() = default;
+
+void OpenVideoParts::Open() {
+  const std::string student = browser_.Folder();
+  const std::string video = browser_.Video();
+  browser_.CapfolderSetup();
+  if (browser_.Folder() == student) browser_.SelectVideo(video);
+  opened_ = 0;
+  lists_->ShowAll();
+  QWidget* const wanted = browser_.HasVideo() ? lists_->VideoList() : lists_->InstructorList();
+  wanted->setFocus();
+}
+
+void OpenVideoParts::SetShortGameNaming(bool on) {
+  shortGame_ = on;
+  ShowButtons();
+}
+
+void OpenVideoParts::VideoList_Click() {
+  const std::string path = browser_.VideoPath();
+  if (path.empty()) {
+    preview_->Unload();
+  } else {
+    preview_->Load(path);  // a file that cannot be opened shows the player's colour
+  }
+  marks_->ShowVideo(path);
+  ShowButtons();
+}
+
+void OpenVideoParts::VidCountUpdate() {
+  const auto count = browser_.VideoList().size();
+  count_->setText(count ? QString::number(count) : QString());
+}
+
+void OpenVideoParts::ShowButtons() {
+  buttons_[0]->setEnabled(browser_.HasVideo());
+  buttons_[2]->setText(shortGame_ ? "Load Student Files" : "Undo Last Open");
+  buttons_[2]->setEnabled(shortGame_ ? browser_.HasVideo() : opened_ > 0);
+}
+
+void OpenVideoParts::CmdOpenVideo_Click(int Index) {
+  if (preview_->Control().IsPlaying()) preview_->TogglePlay();
+  switch (Index) {
+    case 0:
+      if (browser_.HasVideo() && calls_.open && calls_.open(browser_.VideoPath())) ++opened_;
+      break;
+    case 1:
+      if (calls_.done) calls_.done();
+      return;  // the form may be gone
+    case 2:
+      if (shortGame_) {
+        const auto paths = ShortGameFamily(browser_.Folder(), browser_.Video());
+        if (!paths.empty() && calls_.openFamily) calls_.openFamily(paths);
+      } else if (opened_ > 0 && calls_.undo) {
+        --opened_;
+        calls_.undo();
+      }
+      break;
+    default: break;
+  }
+  ShowButtons();
+}
+
+void OpenVideoParts::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape) {
+    CmdOpenVideo_Click(1);
+  } else {
+    QFrame::keyPressEvent(event);
+  }
+}
+
+void OpenVideoParts::hideEvent(QHideEvent* event) {
+  QFrame::hideEvent(event);
+  preview_->Unload();
+}
+
+// ---------------------------------------------------------------- arrangements
+
+namespace {
+
+/// A list under its heading.
+QWidget* Headed(const QString& title, QWidget* list, QWidget* right = nullptr) {
+  auto* part = new QWidget;
+  auto* rows = new QVBoxLayout(part);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->setSpacing(0);
+  auto* head = MakeFrame("strip");
+  head->setFixedHeight(26);
+  auto* row = new QHBoxLayout(head);
+  row->setContentsMargins(kGap, 0, kGap, 0);
+  row->addWidget(MakeLabel({}, title, "heading"), 1);
+  if (right) row->addWidget(right);
+  rows->addWidget(head);
+  rows->addWidget(list, 1);
+  return part;
+}
+
+}  // namespace
+
+OpenVidForm::OpenVidForm(PlayerServices& services, const Settings& settings, LastStudentInfo& remembered,
+                         OpenVideoCalls calls, QWidget* parent)
+    : OpenVideoParts(services, settings, remembered, std::move(calls), parent) {
+  setObjectName("OpenVidForm");
+  setMinimumWidth(250);
+  auto* rows = new QVBoxLayout(this);
+  rows->setContentsMargins(1, 1, 1, 1);
+  rows->setSpacing(0);
+  for (NameList* list : {lists_->InstructorList(), lists_->StudentList(), lists_->VideoList()})
+    list->setMinimumHeight(62);
+  rows->addWidget(Headed("Instructors", lists_->InstructorList()), 3);
+  rows->addWidget(Headed(Q(Vocabulary(settings).Nouns()), lists_->StudentList()), 5);
+  rows->addWidget(Headed("Videos", lists_->VideoList(), count_), 5);
+  preview_->setMinimumHeight(120);
+  rows->addWidget(preview_, 6);
+
+  auto* foot = MakeFrame("panelFoot");
+  auto* footRows = new QVBoxLayout(foot);
+  footRows->setContentsMargins(8, 8, 8, 8);
+  footRows->setSpacing(8);
+  auto* first = new QHBoxLayout;
+  first->addWidget(marks_);
+  first->addStretch(1);
+  first->addWidget(buttons_[0]);
+  auto* second = new QHBoxLayout;
+  second->addWidget(buttons_[2]);
+  second->addStretch(1);
+  second->addWidget(buttons_[1]);
+  footRows->addLayout(first);
+  footRows->addLayout(second);
+  rows->addWidget(foot);
+}
+
+OpenVidCForm::OpenVidCForm(PlayerServices& services, const Settings& settings, LastStudentInfo& remembered,
+                           OpenVideoCalls calls, QWidget* parent)
+    : OpenVideoParts(services, settings, remembered, std::move(calls), parent) {
+  setObjectName("OpenVidCForm");
+  setMinimumSize(640, 320);
+  auto* rows = new QVBoxLayout(this);
+  rows->setContentsMargins(1, 1, 1, 1);
+  rows->setSpacing(0);
+  auto* columns = new QHBoxLayout;
+  columns->setSpacing(0);
+  const auto divider = [] {
+    auto* line = MakeFrame("divider");
+    line->setFixedWidth(1);
+    return line;
+  };
+  columns->addWidget(Headed("Instructors", lists_->InstructorList()), 3);
+  columns->addWidget(divider());
+  columns->addWidget(Headed(Q(Vocabulary(settings).Nouns()), lists_->StudentList()), 3);
+  columns->addWidget(divider());
+  columns->addWidget(Headed("Videos", lists_->VideoList(), count_), 4);
+  columns->addWidget(preview_, 6);
+  rows->addLayout(columns, 1);
+
+  auto* foot = MakeFrame("panelFoot");
+  auto* row = new QHBoxLayout(foot);
+  row->setContentsMargins(8, 8, 8, 8);
+  row->addWidget(marks_);
+  row->addStretch(1);
+  row->addWidget(buttons_[2]);
+  row->addWidget(buttons_[1]);
+  row->addWidget(buttons_[0]);
+  rows->addWidget(foot);
+}
+
+}  // namespace kinalyx

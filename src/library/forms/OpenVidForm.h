@@ -1,0 +1,88 @@
+#pragma once
+
+#include <QFrame>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "core/Settings.h"
+#include "library/LibraryBrowser.h"
+#include "platform/host/Host.h"
+#include "video/AVIControl.h"
+
+namespace kinalyx {
+
+class Button;
+class FigureLabel;
+class LibraryLists;
+class PreviewPlayer;
+class SidecarMarkLabels;
+
+/// What the open forms ask of the workspace.
+struct OpenVideoCalls {
+  /// Opens a video in the current window; false when it could not be opened (the user has been told).
+  std::function<bool(const std::string& path)> open;
+  /// Opens several videos in successive windows, beginning with the current one.
+  std::function<void(const std::vector<std::string>& paths)> openFamily;
+  /// Takes the last opened video out again.
+  std::function<void()> undo;
+  /// The form is no longer wanted; the receiver hides or deletes it.
+  std::function<void()> done;
+};
+
+/// The lists, the preview and the buttons by which a video is opened in the analysis section. The two
+/// forms below arrange them.
+class OpenVideoParts : public QFrame {
+  Q_OBJECT
+
+ public:
+  ~OpenVideoParts() override;
+
+  /// Reads the library and goes to the remembered student.
+  void Open();
+  /// With short-game naming on, the third button loads the files that belong together.
+  void SetShortGameNaming(bool on);
+  LibraryBrowser& Browser() { return browser_; }
+  /// 0 open, 1 done, 2 load the student's files or undo the last open.
+  void CmdOpenVideo_Click(int Index);
+
+ protected:
+  OpenVideoParts(PlayerServices& services, const Settings& settings, LastStudentInfo& remembered, OpenVideoCalls calls,
+                 QWidget* parent);
+  void keyPressEvent(QKeyEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+
+  LibraryLists* lists_;
+  PreviewPlayer* preview_;
+  SidecarMarkLabels* marks_;
+  FigureLabel* count_;
+  Button* buttons_[3] = {};
+
+ private:
+  void VideoList_Click();
+  void VidCountUpdate();
+  void ShowButtons();
+
+  LibraryBrowser browser_;
+  OpenVideoCalls calls_;
+  bool shortGame_ = false;
+  int opened_ = 0;
+};
+
+/// The open panel at the side of the analysis section: a narrow column.
+class OpenVidForm : public OpenVideoParts {
+ public:
+  OpenVidForm(PlayerServices& services, const Settings& settings, LastStudentInfo& remembered, OpenVideoCalls calls,
+              QWidget* parent = nullptr);
+  QSize sizeHint() const override { return {300, 640}; }
+};
+
+/// The classic open window, for the middle of the analysis section: three lists side by side.
+class OpenVidCForm : public OpenVideoParts {
+ public:
+  OpenVidCForm(PlayerServices& services, const Settings& settings, LastStudentInfo& remembered, OpenVideoCalls calls,
+               QWidget* parent = nullptr);
+  QSize sizeHint() const override { return {880, 500}; }
+};
+
+}  // namespace kinalyx

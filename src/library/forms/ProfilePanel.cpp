@@ -1,0 +1,133 @@
+#include "library/forms/ProfilePanel.h"
+
+#include <QBoxLayout>
+#include <QEvent>
+#include <QLabel>
+#include <QPlainTextEdit>
+
+#include "library/forms/FieldGrid.h"
+#include "library/forms/Text.h"
+#include "platform/files/Folders.h"
+#include "platform/widgets/Buttons.h"
+#include "platform/widgets/Theme.h"
+
+namespace kinalyx {
+
+namespace {
+
+/// The fields that an instructor looks at most: name, phone, e-mail, videos, years, hand, goals, injuries.
+const std::vector<int> kBriefFields{0, 3, 4, 9, 5, 8, 12, 17};
+
+std::vector<int> AllFields() {
+  std::vector<int> fields;
+  for (int field = 0; field < kProfileFields; ++field) fields.push_back(field);
+  return fields;
+}
+
+/// A button that fits into the heading of a panel.
+Button* HeadButton(const QString& name, const QString& caption, const QString& icon = {}) {
+  auto* button = new Button(name, caption, icon, Look::Flat);
+  button->setIconSize(QSize(16, 16));
+  button->setStyleSheet("QPushButton { min-height: 22px; max-height: 22px; padding: 0 8px; }");
+  return button;
+}
+
+}  // namespace
+
+ProfilePanel::ProfilePanel(IHost& host, const Settings& settings, QWidget* parent)
+    : Panel("ProfileTitle", " ", parent), host_(host), vocabulary_(settings) {
+  details_ = HeadButton("ProBtn0", "Show Details");
+  edit_ = HeadButton("ProBtn1", "Edit", "edit");
+  print_ = HeadButton("ProBtn2", "Print", "print");
+  back_ = HeadButton("ProfileBack", "Videos", "chevron-left");
+  Coming(print_);
+  Head()->addWidget(back_);
+  Head()->addWidget(edit_);
+  Head()->addWidget(print_);
+  Head()->addWidget(details_);
+
+  fields_ = new FieldGrid;
+  Body()->addWidget(fields_);
+
+  notesPart_ = new QWidget;
+  auto* notes = new QVBoxLayout(notesPart_);
+  notes->setContentsMargins(kGap, 10, kGap, kGap);
+  notes->setSpacing(6);
+  notesTitle_ = MakeLabel("ProfileNotesTitle", {}, "heading");
+  editor_ = new QPlainTextEdit;
+  editor_->setObjectName("ProfileNotes");
+  editor_->setTabChangesFocus(true);
+  editor_->setMinimumHeight(64);
+  editor_->installEventFilter(this);
+  notes->addWidget(notesTitle_);
+  notes->addWidget(editor_, 1);
+  auto* line = MakeFrame("divider");
+  line->setFixedHeight(1);
+  Body()->addWidget(line);
+  Body()->addWidget(notesPart_, 1);
+  notesTitle_->setBuddy(editor_);
+
+  connect(details_, &QPushButton::clicked, this, [this] { ProBtn(0); });
+  connect(edit_, &QPushButton::clicked, this, [this] { ProBtn(1); });
+  connect(back_, &QPushButton::clicked, this, &ProfilePanel::BackWanted);
+  SetupVocabulary();
+  SetView(View::Brief);
+  OpenStudent("");
+}
+
+void ProfilePanel::SetupVocabulary() {
+  notesTitle_->setText(Q(vocabulary_.Notes()));
+  editor_->setAccessibleName(Q(vocabulary_.Notes()));
+  editor_->setPlaceholderText(QString("What you want to remember about this %1. Saved by itself.").arg(Q(vocabulary_.noun())));
+  if (notes_.StudentFolder().empty()) SetTitle(Q(vocabulary_.Profile()));
+}
+
+void ProfilePanel::SetView(View view) {
+  if (view_ == View::Complete && view != View::Complete) SaveNotes();
+  view_ = view;
+  const bool complete = view == View::Complete;
+  fields_->ShowFields(view == View::Brief ? kBriefFields : AllFields());
+  notesPart_->setVisible(complete);
+  back_->setVisible(complete);
+  print_->setVisible(complete);
+  details_->setVisible(!complete);
+  details_->setText(view == View::Brief ? "Show Details" : "Details Off");
+  setSizePolicy(QSizePolicy::Preferred, complete ? QSizePolicy::Preferred : QSizePolicy::Maximum);
+}
+
+void ProfilePanel::ProBtn(int index) {
+  if (notes_.StudentFolder().empty()) {
+    emit Said(Q(vocabulary_.MustSelect()));
+    return;
+  }
+  if (index == 0) SetView(view_ == View::Brief ? View::Details : View::Brief);
+  if (index == 1) emit EditWanted();
+}
+
+void ProfilePanel::OpenStudent(const std::string& studentFolder) {
+  SaveNotes();
+  const std::string& text = notes_.Open(studentFolder);
+  const bool student = !studentFolder.empty();
+  editor_->setPlainText(Q(text));
+  editor_->setEnabled(student && notes_.Readable());
+  SetTitle(student ? Q(LastName(studentFolder)) : Q(vocabulary_.Profile()));
+  if (!notes_.Readable()) emit Said("The notes cannot be read.");
+}
+
+bool ProfilePanel::SaveNotes() {
+  std::string reason;
+  if (notes_.Keep(Std(editor_->toPlainText()), &reason)) return true;
+  host_.Message(MessageKind::Warning, Std(notesTitle_->text()),
+                "The notes could not be saved: " + reason + ". They are kept and will be tried again.");
+  return false;
+}
+
+bool ProfilePanel::eventFilter(QObject* object, QEvent* event) {
+  // A menu over the editor is no leaving of it.
+  if (object == editor_ && event->type() == QEvent::FocusOut &&
+      static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason)
+    SaveNotes();
+  return Panel::eventFilter(object, event);
+}
+
+}  // namespace kinalyx

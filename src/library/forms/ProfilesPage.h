@@ -1,0 +1,119 @@
+#pragma once
+
+#include <QWidget>
+#include <array>
+#include <functional>
+#include <string>
+
+#include "core/Settings.h"
+#include "core/Vocabulary.h"
+#include "library/LibraryBrowser.h"
+#include "library/Profile.h"
+#include "platform/host/Host.h"
+#include "video/AVIControl.h"
+
+class QGridLayout;
+class QLabel;
+class QLineEdit;
+
+namespace kinalyx {
+
+class Button;
+class LibraryLists;
+class Panel;
+class ProfileEditor;
+class ProfilePanel;
+class VideosPanel;
+
+/// What the profiles page asks of the rooms above it.
+struct ProfilesPageCalls {
+  /// Opens a video in the analysis section; returns what the status line says about it.
+  std::function<std::string(const std::string& path)> SendToAnalysis;
+};
+
+/// The library page: instructors, students and videos side by side, the preview of the selected video,
+/// and the profile of the selected student.
+class ProfilesPage : public QWidget {
+  Q_OBJECT
+
+ public:
+  /// Buttons `SPBtn`, by their numbers.
+  enum Command {
+    kAddStudent, kRenameStudent, kMoveStudent, kDeleteStudent, kAnalyze, kTrim, kRenameVideo, kMoveVideo,
+    kCopyVideo, kDeleteVideo, kProfileView, kStatistics, kCopyToQuickLaunch, kCommandCount
+  };
+
+  /// `services`, `settings`, `fields` and `remembered` outlive the page.
+  ProfilesPage(PlayerServices& services, const Settings& settings, ProfileFields& fields, LastStudentInfo& remembered,
+               ProfilesPageCalls calls, QWidget* parent = nullptr);
+  ~ProfilesPage() override;
+
+  /// The page is about to be shown: reads the library and goes to the remembered student.
+  void Open();
+  /// The page is left: stores the notes and closes the preview. False, after a message, when the notes
+  /// could not be stored; they are kept.
+  bool Leave();
+  /// Captions with the present word for the person under analysis.
+  void SetupVocabulary();
+  /// The captions of the fields have changed.
+  void SetupFields();
+  /// The text of the status line `SPDisplay`.
+  void Say(const QString& text);
+
+  LibraryBrowser& Browser() { return browser_; }
+  Button* SPBtn(int command) { return buttons_[static_cast<std::size_t>(command)]; }
+  void SPBtn_Click(int command);
+
+ protected:
+  bool eventFilter(QObject* object, QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+
+ private:
+  Panel* MakeInstructorsPanel();
+  Panel* MakeStudentsPanel();
+  void MakeVideoButtons();
+  void MakeButton(int command, const char* caption, const char* icon);
+  QString HoverText(int command) const;
+
+  void InstructorChosen();
+  void StudentList_Click();
+  void VideoList_Click();
+  void OfferToDelete(const std::string& path);
+  void OpenProfile();
+  void ShowProfileView(bool shown);
+  void OpenEditor(bool edit);
+  void CloseEditor();
+  void ProAddSaveBtn();
+  void SSCommand2();
+  void SendToAnalysis();
+
+  PlayerServices& services_;
+  const Settings& settings_;
+  Vocabulary vocabulary_;
+  ProfileFields& fields_;
+  LastStudentInfo& LastStudent_;
+  ProfilesPageCalls calls_;
+  LibraryBrowser browser_;
+  LibraryLists* lists_;
+  Profile profile_;
+  QString said_;
+  HostTimer question_;
+  std::string shownStudent_;
+  std::string shownVideo_;
+
+  QGridLayout* grid_;
+  Panel* instructors_;
+  Panel* students_;
+  VideosPanel* videos_;
+  ProfilePanel* profilePanel_;
+  ProfileEditor* editor_;
+  QWidget* newInstructor_;
+  QLineEdit* Text2_;
+  Button* addInstructor_;
+  QLabel* SPDisplay_;
+  std::array<Button*, kCommandCount> buttons_{};
+};
+
+}  // namespace kinalyx

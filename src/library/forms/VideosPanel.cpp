@@ -1,0 +1,167 @@
+#include "library/forms/VideosPanel.h"
+
+#include <QBoxLayout>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPainter>
+
+#include "library/Sidecar.h"
+#include "library/forms/Text.h"
+#include "platform/widgets/Buttons.h"
+#include "platform/widgets/Figures.h"
+#include "platform/widgets/Theme.h"
+
+namespace kinalyx {
+
+// ---------------------------------------------------------------- marks
+
+SidecarMarkLabels::SidecarMarkLabels(QWidget* parent) : QWidget(parent) {
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(8);
+  const char* const kCaptions[] = {"Drawings", "Notes"};
+  const char* const kTips[] = {"Lit when there are drawings on the video", "Lit when there are notes on the video"};
+  for (std::size_t mark = 0; mark < marks_.size(); ++mark) {
+    marks_[mark] = MakeLabel(QString("VidInfoPanel%1").arg(mark), kCaptions[mark], "markOff");
+    marks_[mark]->setToolTip(kTips[mark]);
+    row->addWidget(marks_[mark]);
+  }
+}
+
+void SidecarMarkLabels::ShowVideo(const std::string& videoPath) {
+  const SidecarMarks found = videoPath.empty() ? SidecarMarks() : ReadSidecarMarks(SidecarPath(videoPath));
+  SetLook(marks_[0], found.HasDrawings() ? "mark" : "markOff");
+  SetLook(marks_[1], found.HasNotes() ? "mark" : "markOff");
+}
+
+// ---------------------------------------------------------------- summary
+
+/// The facts of a video in one line; those that find no room are left out whole.
+class SummaryLine final : public QWidget {
+ public:
+  SummaryLine() {
+    setObjectName("StatsLine");
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    setMinimumSize(60, 20);
+  }
+  void SetFacts(QStringList facts) {
+    facts_ = std::move(facts);
+    setAccessibleName(facts_.join(", "));
+    update();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    constexpr int kSpace = 18;
+    QPainter painter(this);
+    painter.setPen(CurrentTheme().muted);
+    int left = 0;
+    for (const QString& fact : facts_) {
+      const int wide = FiguresWidth(painter.fontMetrics(), fact);
+      if (left + wide > width()) break;
+      DrawFigures(painter, QRect(left, 0, wide, height()), Qt::AlignLeft, fact);
+      left += wide + kSpace;
+    }
+  }
+
+ private:
+  QStringList facts_;
+};
+
+// ---------------------------------------------------------------- panel
+
+VideosPanel::VideosPanel(PlayerServices& services, NameList* list, QWidget* parent)
+    : Panel("VideosTitle", "Videos", parent), list_(list) {
+  count_ = new FigureLabel("VideoCount");
+  count_->setProperty("look", "caption");
+  Head()->addWidget(count_);
+  Head()->addSpacing(6);
+
+  auto* middle = new QHBoxLayout;
+  middle->setSpacing(0);
+  list_->setMinimumWidth(140);
+  preview_ = new PreviewPlayer(services);
+  auto* divider = MakeFrame("divider");
+  divider->setFixedWidth(1);
+  middle->addWidget(list_, 31);
+  middle->addWidget(divider);
+  middle->addWidget(preview_, 69);
+  Body()->addLayout(middle, 1);
+
+  statsPart_ = new QWidget;
+  statsPart_->setObjectName("VideoStatistics");
+  auto* statsRows = new QVBoxLayout(statsPart_);
+  statsRows->setContentsMargins(kGap, 8, kGap, 8);
+  statsRows->setSpacing(6);
+  statsRows->addWidget(MakeLabel("VideoStatisticsTitle", "Video Statistics", "heading"));
+  auto* grid = new QGridLayout;
+  grid->setHorizontalSpacing(kGap);
+  grid->setVerticalSpacing(0);
+  const char* const kCaptions[] = {"Format",   "Width",     "Height", "Rate", "Length",
+                                   "Duration", "File size", "Colour", "Sound"};
+  for (int line = 0; line < 9; ++line) {
+    auto* caption = MakeLabel(QString("StatCaption%1").arg(line), kCaptions[line], "caption");
+    auto* value = new FigureLabel(QString("ProInfoLbl%1").arg(kFirstStat + line), kNoStat);
+    value->setAccessibleName(kCaptions[line]);
+    grid->addWidget(caption, line / 5 * 2, line % 5);
+    grid->addWidget(value, line / 5 * 2 + 1, line % 5);
+    grid->setColumnStretch(line % 5, 1);
+    if (line / 5 == 0) grid->setRowMinimumHeight(1, 24);
+    stats_[static_cast<std::size_t>(line)] = value;
+  }
+  statsRows->addLayout(grid);
+
+  auto* strip = MakeFrame("panelFoot");
+  strip->setFixedHeight(38);
+  auto* stripRow = new QHBoxLayout(strip);
+  stripRow->setContentsMargins(kGap, 0, kGap, 0);
+  stripRow->setSpacing(kGap);
+  summary_ = new SummaryLine;
+  marks_ = new SidecarMarkLabels;
+  stripRow->addWidget(summary_, 1);
+  stripRow->addWidget(marks_);
+  Body()->addWidget(strip);
+  Body()->addWidget(statsPart_);
+  statsPart_->hide();
+  ShowVideo("");
+}
+
+bool VideosPanel::ShowVideo(const std::string& path) {
+  ShowStats(NoVideoStats());
+  marks_->ShowVideo("");
+  if (path.empty()) {
+    preview_->Unload();
+    summary_->SetFacts({});
+    return true;
+  }
+  if (!preview_->Load(path)) {
+    summary_->SetFacts({"This video cannot be opened."});
+    return false;
+  }
+  const AVIControl& control = preview_->Control();
+  ShowStats(StatsOf(*control.Info(), control.CurFormatBits()));
+  marks_->ShowVideo(path);
+  return true;
+}
+
+void VideosPanel::ShowStats(const VideoStats& stats) {
+  for (std::size_t line = 0; line < stats.size(); ++line) stats_[line]->setText(Q(stats[line]));
+  summary_->SetFacts({Q(stats[0]), Q(stats[1]) + QString(" \u00D7 ") + Q(stats[2]), Q(stats[3]), Q(stats[4]), Q(stats[5]),
+                      Q(stats[6])});
+}
+
+void VideosPanel::ShowStatsPanel(bool shown) { statsPart_->setVisible(shown); }
+
+bool VideosPanel::StatsShown() const { return !statsPart_->isHidden(); }
+
+void VideosPanel::SetCount(int videos) {
+  count_->setText(videos > 0 ? QString::number(videos) : QString());
+}
+
+void VideosPanel::resizeEvent(QResizeEvent* event) {
+  Panel::resizeEvent(event);
+  // The picture may take all that a large window has, but a list of names needs no more than this.
+  list_->setMaximumWidth(qMax(140, qMin(340, width() * 31 / 100)));
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <array>
+
+#include "library/VideoStats.h"
+#include "library/forms/PreviewPlayer.h"
+#include "platform/widgets/NameList.h"
+#include "platform/widgets/Panel.h"
+
+class QLabel;
+
+namespace kinalyx {
+
+class Button;
+class FigureLabel;
+
+/// A mark that is lit when the selected video has drawings (`VidInfoPanel0`) or notes (`VidInfoPanel1`).
+class SidecarMarkLabels : public QWidget {
+ public:
+  explicit SidecarMarkLabels(QWidget* parent = nullptr);
+  /// Reads the marks of a video's sidecar; "" puts both out.
+  void ShowVideo(const std::string& videoPath);
+
+ private:
+  std::array<QLabel*, 2> marks_;
+};
+
+/// The list of videos, the preview of the selected one, what is known of it, and its buttons.
+class VideosPanel : public Panel {
+  Q_OBJECT
+
+ public:
+  VideosPanel(PlayerServices& services, NameList* list, QWidget* parent = nullptr);
+
+  PreviewPlayer& VideoPlay1() { return *preview_; }
+  /// Shows a video, or nothing for "". False when it cannot be opened.
+  bool ShowVideo(const std::string& path);
+  /// The place beneath the list for the page's buttons.
+  void AddButton(QWidget* button) { Foot()->addWidget(button); }
+  /// Shows or hides the list under "Video Statistics".
+  void ShowStatsPanel(bool shown);
+  bool StatsShown() const;
+  void SetCount(int videos);
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  void ShowStats(const VideoStats& stats);
+
+  NameList* list_;
+  PreviewPlayer* preview_;
+  QWidget* statsPart_;
+  FigureLabel* count_;
+  class SummaryLine* summary_;
+  SidecarMarkLabels* marks_;
+  std::array<FigureLabel*, 9> stats_{};
+};
+
+}  // namespace kinalyx

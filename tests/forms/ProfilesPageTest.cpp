@@ -1,0 +1,271 @@
+#include "library/forms/ProfilesPage.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QtTest/QTest>
+
+#include "../library/TempLibrary.h"
+#include "FormsSupport.h"
+#include "library/forms/FieldsEditor.h"
+#include "library/forms/PreviewPlayer.h"
+#include "platform/widgets/NameList.h"
+#include "support/TestVideos.h"
+
+namespace kinalyx {
+namespace {
+
+class ProfilesPageTest : public ::testing::Test, protected test::UsesApplication {
+ protected:
+  ProfilesPageTest() {
+    fields.EnsureFile();
+    fields.SetupFields();
+    library.Folder("Demo/Sample, Erica");
+    library.Folder("Demo/Tom");
+    library.Folder("Quick Launch");
+    AddVideo("Demo/Sample, Erica/(001) DTL driver.avi");
+    AddVideo("Demo/Sample, Erica/(002) FO iron.avi");
+    library.File("Demo/Sample, Erica/(002) FO iron.ved", "1XXXSNXX");
+    ProfilesPageCalls calls;
+    calls.SendToAnalysis = [this](const std::string& path) {
+      sent.push_back(path);
+      return std::string("Current video was sent to Analysis.");
+    };
+    page = std::make_unique<ProfilesPage>(services, library.settings, fields, remembered, calls);
+    page->resize(892, 700);
+    page->show();
+  }
+
+  void AddVideo(const std::string& name) {
+    const std::string video = test::MakeTestVideo(test::MjpegVideo(8));
+    ASSERT_FALSE(video.empty());
+    std::filesystem::copy_file(video, library.File(name), std::filesystem::copy_options::overwrite_existing);
+  }
+
+  template <typename T>
+  T* Find(const char* name) {
+    T* widget = page->findChild<T*>(name);
+    if (!widget) throw std::runtime_error(std::string("no control ") + name);
+    return widget;
+  }
+  NameList* List(const char* name) { return Find<NameList>(name); }
+  QStringList Rows(const char* name) {
+    QStringList rows;
+    for (int row = 0; row < List(name)->count(); ++row) rows << List(name)->item(row)->text();
+    return rows;
+  }
+  void Choose(const char* name, const QString& entry) { List(name)->setCurrentRow(int(Rows(name).indexOf(entry))); }
+  QString Text(const char* label) { return Find<QLabel>(label)->text(); }
+  void Press(const char* button) { Find<QPushButton>(button)->click(); }
+  AVIControl& Preview() { return page->findChild<PreviewPlayer*>()->Control(); }
+
+  test::TempLibrary library;
+  PlayScheduler scheduler{library.host};
+  PlayerServices services{library.host, scheduler};
+  ProfileFields fields{library.Data("fields.ini")};
+  LastStudentInfo remembered;
+  std::vector<std::string> sent;
+  std::unique_ptr<ProfilesPage> page;
+};
+
+TEST_F(ProfilesPageTest, AChoiceInOneListFillsTheNextAndShowsTheVideo) {
+  EXPECT_EQ(Rows("InstructorList"), QStringList({"General Folder", "Demo", "Quick Launch"}));
+  EXPECT_EQ(List("InstructorList")->currentRow(), 0);
+  Choose("InstructorList", "Demo");
+  EXPECT_EQ(Rows("StudentList"), QStringList({"Sample, Erica", "Tom"}));
+  Choose("StudentList", "Sample, Erica");
+  EXPECT_EQ(List("StudentList")->item(0)->data(NameDelegate::kCountRole).toString(), "2");
+  EXPECT_EQ(Rows("VideoList"), QStringList({"(001) DTL driver", "(002) FO iron"}));
+  EXPECT_EQ(Preview().filename(), library.Path("Demo/Sample, Erica/(001) DTL driver.avi"));
+  EXPECT_EQ(Text("ProInfoLbl9"), "2");
+  EXPECT_EQ(Text("ProInfoLbl23"), "320");
+  EXPECT_EQ(Text("ProInfoLbl26"), "8 Frames");
+  EXPECT_EQ(Find<QLabel>("VidInfoPanel0")->property("look"), "markOff");
+
+  Choose("VideoList", "(002) FO iron");
+  EXPECT_EQ(Find<QLabel>("VidInfoPanel0")->property("look"), "mark");
+  EXPECT_EQ(Find<QLabel>("VidInfoPanel1")->property("look"), "mark");
+
+  Choose("StudentList", "Tom");
+  EXPECT_EQ(Preview().Info(), nullptr);
+  EXPECT_EQ(Text("ProInfoLbl26"), "------------------");
+  EXPECT_EQ(Text("ProInfoLbl0"), "Tom");
+  EXPECT_FALSE(Find<QPushButton>("SPBtn4")->isEnabled());
+  Choose("InstructorList", "General Folder");
+  EXPECT_EQ(Text("ProInfoLbl0"), "");
+  Choose("InstructorList", "Quick Launch");
+  EXPECT_EQ(Find<QPushButton>("SPBtn12")->text(), "Quick Launch -");
+}
+
+TEST_F(ProfilesPageTest, ComesBackToTheSameVideo) {
+  Choose("InstructorList", "Demo");
+  Choose("StudentList", "Sample, Erica");
+  Choose("VideoList", "(002) FO iron");
+  page->hide();
+  EXPECT_EQ(Preview().Info(), nullptr);  // nothing is held open behind the user's back
+  library.File("Demo/Anna/x.txt");
+  page->show();
+  EXPECT_EQ(Rows("StudentList").first(), "Anna");
+  EXPECT_EQ(page->Browser().Video(), "(002) FO iron");
+  EXPECT_NE(Preview().Info(), nullptr);
+}
+
+TEST_F(ProfilesPageTest, TheKeyboardAloneReachesAVideoPlaysItAndSendsIt) {
+  List("InstructorList")->setFocus();
+  QTest::keyClick(List("InstructorList"), Qt::Key_Down);
+  QTest::keyClick(List("InstructorList"), Qt::Key_Right);
+  QTest::keyClick(List("StudentList"), Qt::Key_Return);
+  EXPECT_EQ(page->Browser().Video(), "(001) DTL driver");
+  QTest::keyClick(List("VideoList"), Qt::Key_Space);
+  EXPECT_TRUE(Preview().IsPlaying());
+  library.host.Advance(2000);
+  EXPECT_FALSE(Preview().IsPlaying());
+  EXPECT_EQ(Preview().Position(), 7);
+  QTest::keyClick(List("VideoList"), Qt::Key_Space);  // from the end it begins anew
+  EXPECT_TRUE(Preview().IsPlaying());
+  QTest::keyClick(List("VideoList"), Qt::Key_Down);
+  QTest::keyClick(List("VideoList"), Qt::Key_Return);
+  ASSERT_EQ(sent.size(), 1u);
+  EXPECT_EQ(sent[0], library.Path("Demo/Sample, Erica/(002) FO iron.avi"));
+  EXPECT_EQ(Text("SPDisplay"), "Current video was sent to Analysis.");
+}
+
+TEST_F(ProfilesPageTest, ABadVideoIsOfferedForDeletionOnce) {
+  library.File("Demo/Tom/bad.avi", "no video");
+  library.File("Demo/Tom/bad.ved", "1XXXSXXX");
+  Choose("InstructorList", "Demo");
+  Choose("StudentList", "Tom");
+  library.host.Advance(1);
+  EXPECT_EQ(library.host.titles, std::vector<std::string>{"Delete Bad Video"});
+  EXPECT_EQ(Rows("VideoList"), QStringList("bad"));
+
+  library.host.answers = {true};
+  Choose("StudentList", "Sample, Erica");
+  Choose("StudentList", "Tom");
+  library.host.Advance(1);
+  EXPECT_TRUE(Rows("VideoList").isEmpty());
+  EXPECT_TRUE(std::filesystem::is_empty(library.Path("Demo/Tom")) ||
+              !std::filesystem::exists(library.Path("Demo/Tom/bad.avi")));
+  EXPECT_FALSE(std::filesystem::exists(library.Path("Demo/Tom/bad.ved")));
+}
+
+TEST_F(ProfilesPageTest, NotesAreKeptWhenTheyAreLeftHoweverThatHappens) {
+  Choose("InstructorList", "Demo");
+  Choose("StudentList", "Tom");
+  Press("SPBtn10");
+  auto* notes = Find<QPlainTextEdit>("ProfileNotes");
+  EXPECT_TRUE(notes->isVisible());
+  EXPECT_FALSE(List("VideoList")->isVisible());
+  notes->setPlainText("Grip\nschwächer");
+  Choose("StudentList", "Sample, Erica");
+  EXPECT_EQ(test::TempLibrary::Read(library.Path("Demo/Tom/profile.txt")), "Grip\r\nschwächer\r\n");
+  EXPECT_EQ(notes->toPlainText(), "");
+
+  notes->setPlainText("two");
+  Press("SPBtn10");
+  EXPECT_EQ(test::TempLibrary::Read(library.Path("Demo/Sample, Erica/profile.txt")), "two\r\n");
+  EXPECT_TRUE(List("VideoList")->isVisible());
+  Press("SPBtn10");
+  notes->setPlainText("three");
+  page->hide();
+  EXPECT_EQ(test::TempLibrary::Read(library.Path("Demo/Sample, Erica/profile.txt")), "three\r\n");
+}
+
+TEST_F(ProfilesPageTest, NotesThatTheDiskRefusesStayInTheEditor) {
+  Choose("InstructorList", "Demo");
+  Choose("StudentList", "Tom");
+  std::filesystem::remove(library.Path("Demo/Tom/profile.txt"));
+  library.Folder("Demo/Tom/profile.txt");  // stands in the way of the file
+  Find<QPlainTextEdit>("ProfileNotes")->setPlainText("not lost");
+  EXPECT_FALSE(page->Leave());
+  EXPECT_EQ(library.host.messages.size(), 1u);
+  Choose("StudentList", "Sample, Erica");
+  Choose("StudentList", "Tom");
+  EXPECT_EQ(Find<QPlainTextEdit>("ProfileNotes")->toPlainText(), "not lost\n");
+  std::filesystem::remove(library.Path("Demo/Tom/profile.txt"));
+  EXPECT_TRUE(page->Leave());
+  EXPECT_EQ(test::TempLibrary::Read(library.Path("Demo/Tom/profile.txt")), "not lost\r\n");
+}
+
+TEST_F(ProfilesPageTest, AStudentIsAddedAndSelected) {
+  Choose("InstructorList", "Demo");
+  Press("SPBtn0");
+  EXPECT_TRUE(page->findChild<QWidget*>("ProAddPnl")->isVisible());
+  EXPECT_EQ(Find<QComboBox>("Combo2")->currentText(), "Demo");
+  EXPECT_EQ(Find<QComboBox>("Combo2")->findText("General Folder"), -1);
+  Press("ProAddSaveBtn");
+  EXPECT_EQ(Text("SPDisplay"), "You must enter a name for the new student.");
+  Find<QLineEdit>("ProInfoBox0")->setText("Tom");
+  Press("ProAddSaveBtn");
+  EXPECT_EQ(Text("SPDisplay"), "The student name that you have chosen already exists on the system.");
+  Find<QLineEdit>("ProInfoBox0")->setText("Zoe");
+  Find<QLineEdit>("ProInfoBox3")->setText("555 0134");
+  Press("ProAddSaveBtn");
+  EXPECT_EQ(Text("SPDisplay"), "New student successfully created.");
+  EXPECT_FALSE(page->findChild<QWidget*>("ProAddPnl")->isVisible());
+  EXPECT_EQ(page->Browser().Student(), "Zoe");
+  EXPECT_EQ(Text("ProInfoLbl3"), "555 0134");
+}
+
+TEST_F(ProfilesPageTest, AProfileIsEdited) {
+  Press("ProBtn1");
+  EXPECT_EQ(Text("SPDisplay"), "You must select a student first.");
+  Choose("InstructorList", "Demo");
+  Choose("StudentList", "Tom");
+  fields.SetCaption(6, "Handicap");
+  page->SetupFields();
+  EXPECT_NE(Text("ProInfoLbl6"), "");  // the path of the file, until saved again
+  Press("ProBtn1");
+  EXPECT_EQ(Find<QLineEdit>("ProInfoBox6")->text(), "");
+  Find<QLineEdit>("ProInfoBox6")->setText("12");
+  Press("ProAddSaveBtn");
+  EXPECT_EQ(Text("SPDisplay"), "Student profile successfully updated.");
+  EXPECT_EQ(Text("ProInfoLbl6"), "12");
+  EXPECT_EQ(Text("ProFieldLbl6"), "Handicap");
+}
+
+TEST_F(ProfilesPageTest, AnInstructorIsAdded) {
+  Press("SSCommand2");
+  Find<QLineEdit>("Text2")->setText("A/B");
+  Press("SSCommand2");
+  EXPECT_EQ(Text("SPDisplay"), "Invalid character in Name");
+  Find<QLineEdit>("Text2")->setText("Carla");
+  QTest::keyClick(Find<QLineEdit>("Text2"), Qt::Key_Return);
+  EXPECT_EQ(Text("SPDisplay"), "Carla successfully added!");
+  EXPECT_EQ(page->Browser().Instructor(), "Carla");
+  EXPECT_FALSE(Find<QLineEdit>("Text2")->isVisible());
+}
+
+TEST_F(ProfilesPageTest, ButtonsSayWhatTheyDoOnTheStatusLine) {
+  page->Say("before");
+  QEvent enter(QEvent::Enter), leave(QEvent::Leave);
+  QApplication::sendEvent(Find<QPushButton>("SPBtn3"), &enter);
+  EXPECT_EQ(Text("SPDisplay"), "Delete the current student database, profile, and all videos.");
+  QApplication::sendEvent(Find<QPushButton>("SPBtn3"), &leave);
+  EXPECT_EQ(Text("SPDisplay"), "before");
+  Press("SPBtn11");
+  EXPECT_EQ(Find<QPushButton>("SPBtn11")->text(), "Stats Off");
+  EXPECT_TRUE(Find<QLabel>("ProInfoLbl30")->isVisible());
+  Press("SPBtn11");
+  EXPECT_FALSE(Find<QLabel>("ProInfoLbl30")->isVisible());
+}
+
+TEST_F(ProfilesPageTest, FieldsAreRenamedWhenTheirBoxIsLeft) {
+  int changes = 0;
+  FieldsEditor editor(library.host, fields, [&] { ++changes; });
+  auto* age = editor.findChild<QLineEdit*>("SPEdittext6");
+  age->setText("Handicap");
+  QTest::keyClick(age, Qt::Key_Return);
+  EXPECT_EQ(fields.Caption(6), "Handicap");
+  age->setText("Height");
+  QTest::keyClick(age, Qt::Key_Return);
+  EXPECT_EQ(age->text(), "Handicap");
+  EXPECT_EQ(library.host.messages.size(), 1u);
+  EXPECT_EQ(changes, 1);
+  EXPECT_TRUE(editor.findChild<QLineEdit*>("SPEdittext0")->isReadOnly());
+}
+
+}  // namespace
+}  // namespace kinalyx
