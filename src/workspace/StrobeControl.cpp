@@ -1,0 +1,161 @@
+#include "workspace/StrobeControl.h"
+
+#include <algorithm>
+
+#include "workspace/PictureExport.h"
+
+namespace kinalyx {
+namespace {
+
+/// The words of the captions, in the order of StrobeCaption; those that end in a blank take a number.
+constexpr std::array<const char*, 6> kCaptions{"Start Here", "Start at ", "End Here", "End at ", "Strobe", "Stop"};
+
+/// The frame that a player shows, where its positions may be fields.
+int RawFrame(const AVIControl& player) {
+  return player.SplitFields() ? player.CurrentFrame() / 2 : player.CurrentFrame();
+}
+
+}  // namespace
+
+StrobeControl::StrobeControl(Settings& settings, Workspace& workspace, LockedVideos& locks)
+    : settings_(settings), workspace_(workspace), locks_(locks) {}
+
+AVIControl* StrobeControl::Player() {
+  return workspace_.HasVideo(workspace_.CurrentWindow) ? &workspace_.MP(workspace_.CurrentWindow) : nullptr;
+}
+
+// ---------------------------------------------------------------- the window
+
+void StrobeControl::SetWindow(IStrobeView* view) {
+  view_ = view;
+  if (view_) ResetStrobe();
+}
+
+void StrobeControl::Caption(StrobeButton button, StrobeCaption caption, int frame) {
+  if (!view_) return;
+  std::string words = kCaptions[static_cast<std::size_t>(caption)];
+  if (words.ends_with(' ')) words += std::to_string(frame);
+  view_->SetCaption(button, words);
+}
+
+void StrobeControl::ShowSlider() {
+  if (!view_) return;
+  const AVIControl* player = Player();
+  if (!player) return view_->SetSlider(0, 0, 0);
+  const auto bounds = locks_.BoundsOf(workspace_.CurrentWindow);
+  const int lowest = bounds ? bounds->lowest : 0;
+  const int highest = bounds ? std::max(bounds->lowest, bounds->highest) : player->VideoLength() - 1;
+  view_->SetSlider(lowest, highest, player->Position());
+}
+
+void StrobeControl::ShowResult() {
+  if (view_) view_->SetResult(HasResult());
+}
+
+void StrobeControl::ResetStrobe() {
+  Stop();
+  StartFrame_ = EndFrame_ = 0;
+  ShowSlider();
+  Caption(StrobeButton::Start, StrobeCaption::StartHere);
+  Caption(StrobeButton::End, StrobeCaption::EndHere);
+  Caption(StrobeButton::Strobe, StrobeCaption::Strobe);
+  ShowResult();
+}
+
+void StrobeControl::ESlider_Change(int value) {
+  AVIControl* player = Player();
+  if (!player || value == player->Position()) return;
+  Stop();
+  locks_.StopTogether();
+  player->StopPlay();
+  player->Play(std::clamp(value, 0, player->VideoLength() - 1));
+}
+
+void StrobeControl::SSCommand1_Click(int Index) {
+  AVIControl* player = Player();
+  if (!player) return;
+  switch (static_cast<StrobeButton>(Index)) {
+    case StrobeButton::Start:
+      StartFrame_ = RawFrame(*player);
+      Caption(StrobeButton::Start, StrobeCaption::StartAt, player->CurrentFrame());
+      break;
+    case StrobeButton::End:
+      EndFrame_ = RawFrame(*player);
+      Caption(StrobeButton::End, StrobeCaption::EndAt, player->CurrentFrame());
+      break;
+    case StrobeButton::Strobe:
+      if (StrobeRunning()) {
+        Stop();
+      } else {
+        const int length = player->SplitFields() ? player->VideoLength() / 2 : player->VideoLength();
+        const int end = EndFrame_ == 0 ? length : EndFrame_;
+        if (end < StartFrame_) return;
+        Run(StartFrame_, end);
+      }
+      break;
+  }
+}
+
+void StrobeControl::Combo1_Click(int ListIndex) {
+  if (ListIndex >= 0 && ListIndex < kSteps) settings_.Set(settings_.StrobeStep, ListIndex + 1);
+}
+
+int StrobeControl::StrobeStep() const { return std::clamp<int>(settings_.StrobeStep, 1, kSteps); }
+
+// ---------------------------------------------------------------- strobing
+
+void StrobeControl::StrobeBtn_Click() {
+  if (StrobeRunning()) return Stop();
+  if (AVIControl* player = Player()) Run(RawFrame(*player), RawFrame(*player));
+}
+
+void StrobeControl::Run(int start, int end) {
+  const int slot = workspace_.CurrentWindow;
+  AVIControl& player = workspace_.MP(slot);
+  locks_.StopTogether();
+  player.StopPlay();
+  running_ = slot;
+  result_ = 0;
+  Caption(StrobeButton::Strobe, StrobeCaption::Stop);
+  ShowResult();
+  player.OnStrobeEnd([this, slot] { Ended(slot); });
+  player.Strobeframes(start, end, StrobeStep());
+}
+
+void StrobeControl::Stop() {
+  if (running_ != 0) workspace_.MP(running_).StopStrobe();
+}
+
+void StrobeControl::Ended(int slot) {
+  if (slot != running_) return;
+  running_ = 0;
+  result_ = slot;
+  Caption(StrobeButton::Strobe, StrobeCaption::Strobe);
+  ShowResult();
+}
+
+ImageResult StrobeControl::SavePicture(const std::string& path) const {
+  if (!HasResult()) return {ImageFault::BadArgument, "There is no strobe picture to save."};
+  return ExportPicture(workspace_.MP(result_).Picture(), path);
+}
+
+// ---------------------------------------------------------------- from outside
+
+void StrobeControl::Signal(int slot) {
+  if (slot == workspace_.CurrentWindow) ShowSlider();
+  if (slot != result_ || slot == running_) return;
+  result_ = 0;  // another picture has taken its place
+  ShowResult();
+}
+
+void StrobeControl::VideoClosing(int slot) {
+  if (slot == running_) Stop();
+  if (slot == result_) result_ = 0;
+  ShowResult();
+}
+
+void StrobeControl::FocusChanged() {
+  if (view_) ResetStrobe();
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,93 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "core/Settings.h"
+#include "platform/paint/ImageFiles.h"
+#include "workspace/DualLock.h"
+#include "workspace/Workspace.h"
+
+namespace kinalyx {
+
+/// What the three buttons of the strobe window say.
+enum class StrobeCaption { StartHere, StartAt, EndHere, EndAt, Strobe, Stop };
+
+/// The buttons of `SSCommand1`, by index.
+enum class StrobeButton { Start = 0, End = 1, Strobe = 2 };
+
+/// What the strobe asks of its window; all calls are harmless while that is closed.
+class IStrobeView {
+ public:
+  virtual ~IStrobeView() = default;
+  virtual void SetCaption(StrobeButton button, const std::string& caption) = 0;
+  /// `ESlider`: its ends and where it stands. Must not come back as a change.
+  virtual void SetSlider(int lowest, int highest, int value) = 0;
+  /// A finished or stopped strobe stands on the current video and can be saved.
+  virtual void SetResult(bool there) = 0;
+};
+
+/// Strobing: the poses of a movement laid into one picture. Starts, bounds and stops it; the picture
+/// itself is made by the player.
+class StrobeControl {
+ public:
+  /// Choices of the step list, "1" upward.
+  static constexpr int kSteps = 30;
+
+  StrobeControl(Settings& settings, Workspace& workspace, LockedVideos& locks);
+
+  /// The open strobe window, or null when it closes. Opening resets the choices.
+  void SetWindow(IStrobeView* view);
+  bool StrobeWindowOpen() const { return view_ != nullptr; }
+
+  /// Quick strobe of the current video from its current frame to its end; while a strobe is running,
+  /// stops that instead. An empty window is left alone.
+  void StrobeBtn_Click();
+  bool StrobeRunning() const { return running_ != 0; }
+  /// Forgets start and end and stops a running strobe.
+  void ResetStrobe();
+  /// Seeks the current video.
+  void ESlider_Change(int value);
+  /// 0 takes the current frame as the start, 1 as the end; 2 strobes from start to end or stops. An end
+  /// before the start is refused; without an end it strobes to the last frame.
+  void SSCommand1_Click(int Index);
+  /// Chooses the step by its place in the list, and keeps it as a setting.
+  void Combo1_Click(int ListIndex);
+
+  /// Frames between two layers, at least 1.
+  int StrobeStep() const;
+  /// Raw frames, 0 when none is chosen.
+  int StartFrame() const { return StartFrame_; }
+  int EndFrame() const { return EndFrame_; }
+
+  /// A strobe stands on the current video: nothing else has been drawn since.
+  bool HasResult() const { return result_ != 0 && result_ == workspace_.CurrentWindow; }
+  /// Writes it as a picture, with what is drawn on it: JPEG for a name in .jpg or .jpeg, else PNG.
+  ImageResult SavePicture(const std::string& path) const;
+
+  // --- from the players and the workspace
+  void Signal(int slot);
+  void VideoClosing(int slot);
+  /// The current window is another one, or holds another video.
+  void FocusChanged();
+
+ private:
+  AVIControl* Player();
+  void Run(int start, int end);
+  void Stop();
+  void Ended(int slot);
+  void Caption(StrobeButton button, StrobeCaption caption, int frame = 0);
+  void ShowSlider();
+  void ShowResult();
+
+  Settings& settings_;
+  Workspace& workspace_;
+  LockedVideos& locks_;
+  IStrobeView* view_ = nullptr;
+  int running_ = 0;  ///< slot whose video is strobed; 0 none
+  int result_ = 0;   ///< slot on which a strobe stands; 0 none
+  int StartFrame_ = 0;
+  int EndFrame_ = 0;
+};
+
+}  // namespace kinalyx

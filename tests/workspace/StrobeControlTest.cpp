@@ -1,0 +1,147 @@
+#include "workspace/StrobeControl.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+
+#include "CompareStage.h"
+
+namespace kinalyx {
+namespace {
+
+using test::CompareStage;
+using test::RawVideo;
+using test::TestPath;
+
+class FakeStrobeView final : public IStrobeView {
+ public:
+  void SetCaption(StrobeButton button, const std::string& caption) override {
+    captions[static_cast<std::size_t>(button)] = caption;
+  }
+  void SetSlider(int lowest, int highest, int value) override { slider = {lowest, highest, value}; }
+  void SetResult(bool there) override { result = there; }
+
+  std::array<std::string, 3> captions;
+  std::array<int, 3> slider{};
+  bool result = false;
+};
+
+class StrobeControlTest : public testing::Test {
+ protected:
+  using Captions = std::array<std::string, 3>;
+
+  void SetUp() override {
+    stage_.signalled = [this](int slot) { strobe_.Signal(slot); };
+    stage_.closing = [this](int slot) { strobe_.VideoClosing(slot); };
+    stage_.workspace.FocusChanged = [this] { strobe_.FocusChanged(); };
+    ASSERT_TRUE(stage_.Open(1, RawVideo(40), 6));
+    ASSERT_TRUE(stage_.settings.LoadSettings());
+    strobe_.Combo1_Click(1);  // every second frame, a layer each 100 ms
+    ASSERT_EQ(strobe_.StrobeStep(), 2);
+  }
+
+  CompareStage stage_{"2"};
+  LockedVideos locks_{stage_.host, stage_.scheduler, stage_.workspace};
+  StrobeControl strobe_{stage_.settings, stage_.workspace, locks_};
+  FakeStrobeView view_;
+};
+
+TEST_F(StrobeControlTest, QuickStrobeRunsToTheEndAndASecondPressStopsIt) {
+  strobe_.StrobeBtn_Click();
+  EXPECT_TRUE(strobe_.StrobeRunning());
+  stage_.host.Advance(350);
+  const int at = stage_.At(1);
+  EXPECT_GT(at, 6);
+  strobe_.StrobeBtn_Click();
+  EXPECT_FALSE(strobe_.StrobeRunning());
+  stage_.host.Advance(2000);
+  EXPECT_EQ(stage_.At(1), at);
+  EXPECT_TRUE(strobe_.HasResult());  // what there is stays
+
+  stage_.MP(1).DrawFrame(20);
+  EXPECT_FALSE(strobe_.HasResult());
+  strobe_.StrobeBtn_Click();
+  stage_.host.Advance(5000);
+  EXPECT_FALSE(strobe_.StrobeRunning());
+  EXPECT_GE(stage_.At(1), 36);
+  stage_.workspace.SelectWindow(2);
+  strobe_.StrobeBtn_Click();  // an empty window
+  EXPECT_FALSE(strobe_.StrobeRunning());
+}
+
+TEST_F(StrobeControlTest, WindowChoosesStartAndEnd) {
+  strobe_.SetWindow(&view_);
+  EXPECT_EQ(view_.captions, (Captions{"Start Here", "End Here", "Strobe"}));
+  EXPECT_EQ(view_.slider, (std::array{0, 39, 6}));
+  strobe_.ESlider_Change(10);
+  EXPECT_EQ(stage_.At(1), 10);
+  strobe_.SSCommand1_Click(0);
+  strobe_.ESlider_Change(5);
+  strobe_.SSCommand1_Click(1);
+  EXPECT_EQ(view_.captions, (Captions{"Start at 10", "End at 5", "Strobe"}));
+  strobe_.SSCommand1_Click(2);  // the end lies before the start
+  EXPECT_FALSE(strobe_.StrobeRunning());
+
+  strobe_.ESlider_Change(20);
+  strobe_.SSCommand1_Click(1);
+  strobe_.SSCommand1_Click(2);
+  EXPECT_EQ(view_.captions[2], "Stop");
+  EXPECT_FALSE(view_.result);
+  stage_.host.Advance(5000);
+  EXPECT_EQ(view_.captions[2], "Strobe");
+  EXPECT_TRUE(view_.result);
+  EXPECT_LE(stage_.At(1), 20);
+  EXPECT_GE(stage_.At(1), 16);
+
+  strobe_.SSCommand1_Click(2);
+  stage_.host.Advance(150);
+  strobe_.SSCommand1_Click(2);  // stop
+  EXPECT_EQ(view_.captions[2], "Strobe");
+  EXPECT_FALSE(strobe_.StrobeRunning());
+}
+
+TEST_F(StrobeControlTest, FramesAreRawWhereFieldsAreSplit) {
+  stage_.workspace.ToggleSplitFields();
+  strobe_.SetWindow(&view_);
+  stage_.MP(1).DrawFrame(31);
+  strobe_.SSCommand1_Click(0);
+  EXPECT_EQ(view_.captions[0], "Start at 31");
+  EXPECT_EQ(strobe_.StartFrame(), 15);
+  strobe_.SSCommand1_Click(2);  // no end chosen: to the last frame
+  EXPECT_TRUE(strobe_.StrobeRunning());
+  stage_.host.Advance(5000);
+  EXPECT_GE(stage_.At(1) / 2, 36);
+}
+
+TEST_F(StrobeControlTest, AnotherWindowOrVideoResets) {
+  ASSERT_TRUE(stage_.Open(2, RawVideo(25), 3));
+  strobe_.SetWindow(&view_);
+  strobe_.SSCommand1_Click(0);
+  strobe_.SSCommand1_Click(2);
+  stage_.workspace.SelectWindow(2);
+  EXPECT_FALSE(strobe_.StrobeRunning());
+  EXPECT_EQ(view_.captions, (Captions{"Start Here", "End Here", "Strobe"}));
+  EXPECT_EQ(view_.slider, (std::array{0, 24, 3}));
+  strobe_.SSCommand1_Click(2);
+  ASSERT_TRUE(stage_.workspace.CloseVideo(2));
+  EXPECT_FALSE(strobe_.StrobeRunning());
+  strobe_.SetWindow(nullptr);
+  stage_.host.Advance(1000);
+}
+
+TEST_F(StrobeControlTest, ResultIsSavedAsAPicture) {
+  EXPECT_FALSE(strobe_.SavePicture(TestPath("none.png")));
+  strobe_.StrobeBtn_Click();
+  stage_.host.Advance(5000);
+  for (const char* name : {"strobe.png", "strobe.JPG"}) {
+    ASSERT_TRUE(strobe_.SavePicture(TestPath(name)));
+    ImageFrames saved;
+    ASSERT_TRUE(LoadImageFile(TestPath(name), saved));
+    ASSERT_EQ(saved.frames.size(), 1u);
+    EXPECT_EQ(saved.frames[0].Width(), stage_.MP(1).ControlWidthPixels());
+    EXPECT_EQ(saved.frames[0].Height(), stage_.MP(1).ControlHeightPixels());
+  }
+}
+
+}  // namespace
+}  // namespace kinalyx
