@@ -66,9 +66,9 @@ DemoStudent Jonas() {
   GolferLook look;
   look.height = 1.88;
   look.hair = Rgb(176, 140, 84);
-  look.shirt = Rgb(54, 120, 92);
+  look.shirt = Rgb(226, 116, 52);
   look.trousers = Rgb(40, 42, 50);
-  look.cap = Rgb(54, 120, 92);
+  look.cap = Rgb(244, 244, 242);
   SwingStyle style = With(look, ClubKind::Driver, {.earlyExtension = 0.25});
   style.leftHanded = true;
   DemoStudent student;

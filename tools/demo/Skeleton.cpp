@@ -66,7 +66,7 @@ Skeleton::Skeleton(const SwingStyle& style)
 }
 
 void Skeleton::SetTimes() {
-  times_ = {0, 0.33, 0.53, 0.82, 0.955, 1.02, 1.06, 1.10, 1.19, 1.75};
+  times_ = {0, 0.33, 0.53, 0.82, 0.95, 1.015, 1.07, 1.125, 1.215, 1.77};
   for (double& time : times_) time *= style_.tempo;
 }
 
@@ -118,7 +118,7 @@ std::array<Skeleton::Row, Skeleton::kChannels> Skeleton::KeyValues() const {
   add(ClubPlane, {18, 8}, 4, f.overTheTop);
   add(SideBend, {-7, -6, -4}, 4, f.overTheTop);
   add(ClubAngle, {-48}, 4, f.casting);
-  add(LeadAngle, {20}, 5, f.casting);
+  add(LeadAngle, {12}, 5, f.casting);
   add(PelvisZ, {0.02, 0.055, 0.08, 0.08, 0.05}, 4, f.earlyExtension);
   add(Bend, {-2, -6, -9, -7}, 4, f.earlyExtension);
   add(PelvisX, {-0.05, -0.075, -0.085, -0.09, -0.10, -0.11}, 4, f.hangingBack);
