@@ -1,0 +1,27 @@
+// Reads any bytes as a sidecar; what was read must survive being written and read again.
+
+#include <array>
+
+#include "InputFile.h"
+#include "library/Sidecar.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t count) {
+  using namespace kinalyx;
+  static const fuzz::InputFolder folder;
+  constexpr std::array<Colour, 13> kColours{};
+  VideoInfo video;
+  video.width = 720;
+  video.height = 480;
+  video.compressor = "dvsd";
+
+  const std::string path = folder.Write("x.ved", bytes, count);
+  (void)ReadSidecarMarks(path);
+  const SlotData first = ReadVideoData(path, video, kColours);
+  std::string error;
+  if (!WriteVideoData(path, first, &error)) return 0;
+  const SlotData again = ReadVideoData(path, video, kColours);
+  fuzz::Require(again.Wide == first.Wide && again.SplitFields == first.SplitFields);
+  fuzz::Require(again.Shapes.NumShapes == first.Shapes.NumShapes);
+  if (error.empty()) fuzz::Require(again.Notes == first.Notes);
+  return 0;
+}
