@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "TestHost.h"
+#include "support/TestHost.h"
 #include "core/Settings.h"
 #include "drawing/DrawingTools.h"
 #include "platform/paint/Canvas.h"
