@@ -8,7 +8,7 @@
 #include <QRadioButton>
 #include <QSignalSpy>
 #include <QSlider>
-#include <QTest>
+#include <QWheelEvent>
 
 #include "FormsSupport.h"
 #include "core/ColorSchemes.h"
@@ -165,6 +165,21 @@ TEST(SetupPage, AnotherWindowRestartsOnceTheListIsClosed) {
   EXPECT_EQ(desk.OnDisk("General", "RestartOption"), "1");
   desk.host.Advance(1);
   EXPECT_EQ(restart.count(), 1);
+}
+
+TEST(SetupPage, TheWheelTurnsThePageAndChangesNothing) {
+  Desk desk;
+  desk.page->resize(900, 700);
+  desk.page->show();
+  for (const char* name : {"cboResolution", "Slomoscroll"}) {
+    auto* control = desk.Find<QWidget>(name);
+    control->setFocus();
+    const QPointF at = control->rect().center();
+    QWheelEvent wheel(at, control->mapToGlobal(at), {}, QPoint(0, -120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(control, &wheel);
+  }
+  EXPECT_EQ(desk.settings.WindowMode, "1");
+  EXPECT_EQ(desk.settings.SlomoSpeed, 25);
 }
 
 TEST(SetupPage, TheLibraryMovesOnlyWhenTheUserMeansIt) {

@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 #include <QScreen>
 
 #include "core/MailSettings.h"
@@ -86,6 +87,15 @@ void FirstForm::showEvent(QShowEvent* event) {
   const QRect middle = over ? over->frameGeometry() : screen ? screen->geometry() : rect();
   move(middle.center() - rect().center());
   name_->setFocus();
+}
+
+void FirstForm::paintEvent(QPaintEvent*) {
+  // Its own ground and edge: in full screen there may be no frame around it.
+  const Theme theme = CurrentTheme();
+  QPainter painter(this);
+  painter.fillRect(rect(), theme.field);
+  painter.setPen(Mix(theme.line, theme.text, 0.3));
+  painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 void FirstForm::Finish() {

@@ -23,6 +23,7 @@ class FirstForm : public QDialog {
 
  protected:
   void showEvent(QShowEvent* event) override;
+  void paintEvent(QPaintEvent*) override;
 
  private:
   void Finish();

@@ -2,6 +2,8 @@
 
 #include <QBoxLayout>
 #include <QButtonGroup>
+#include <QComboBox>
+#include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
@@ -57,6 +59,20 @@ QVBoxLayout* SetupSection::AddPanel(int column, const QString& title) {
 
 void SetupSection::Finish() {
   for (auto* column : columns_) column->addStretch(1);
+  const auto guard = [this](QWidget* control) {
+    control->setFocusPolicy(Qt::StrongFocus);
+    control->installEventFilter(this);
+  };
+  for (auto* list : findChildren<QComboBox*>()) guard(list);
+  for (auto* slider : widget()->findChildren<QSlider*>()) guard(slider);
+}
+
+bool SetupSection::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Wheel && watched != viewport()) {
+    event->ignore();
+    return true;
+  }
+  return QScrollArea::eventFilter(watched, event);
 }
 
 QLineEdit* SetupSection::AddText(QVBoxLayout& rows, const QString& name, const QString& caption) {

@@ -50,6 +50,10 @@ class SetupSection : public QScrollArea {
   /// Radio buttons named `name` and the number.
   static QButtonGroup* AddRadios(QVBoxLayout& rows, const QString& name, std::initializer_list<const char*> captions);
 
+  /// Sliders and lists are passed over by the wheel: it turns the page, and must not change what happens to
+  /// pass under the pointer.
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
   Settings& settings_;
 
  private:
