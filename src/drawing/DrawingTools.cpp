@@ -154,6 +154,12 @@ void DrawingTools::PutDown() {
   if (announced) VectorColorUpdate(kEndOfTool);
 }
 
+bool DrawingTools::UnderConstruction() const {
+  for (int window = 1; window <= ShapeLists::kWindows; ++window)
+    if (engine_.ShapeLists(window).Adding) return true;
+  return false;
+}
+
 /// Ends what is under construction in any window. True when a shape was finished by it, which has ended
 /// the tool's announcement.
 bool DrawingTools::EndConstruction() {
@@ -197,9 +203,11 @@ bool DrawingTools::MouseDown(int Button, int /*Shift*/, float X, float Y, int Wi
   if (Window != workspace_.ActiveWindow()) workspace_.SetActiveWindow(Window);
   const POINTAPI point{Round(X), Round(Y)};
   ShapeList& list = List(Window);
-  const bool begins = NewShapePending_;
+  // What was under construction may have gone with its video.
+  const bool begins = NewShapePending_ || !UnderConstruction();
   if (begins) {
     NewShapePending_ = false;
+    BeforeChange(Window);
     if (!engine_.AddShape(list, DrawKind_, 0)) {
       PutDown();
       return true;
@@ -386,6 +394,7 @@ void DrawingTools::SetShapeCaption() {
 void DrawingTools::DeleteCurShape() {
   ShapeList& list = List(DrawWindow_);
   if (list.NumShapes <= 0 || list.CurShape < 0) return;
+  BeforeChange(DrawWindow_);
   if (list.CurShape == list.NumShapes - 1 && list.Adding) {
     list.Adding = false;
     NewShapePending_ = Drawing_;
@@ -397,6 +406,7 @@ void DrawingTools::DeleteCurShape() {
 
 void DrawingTools::DeleteLastCAD(int Window) {
   ShapeList& list = List(Resolve(Window));
+  BeforeChange(Resolve(Window));
   if (list.NumShapes != 0) {
     // The shape under construction goes; the tool stays in hand for another one.
     if (list.Adding) NewShapePending_ = Drawing_;
@@ -412,6 +422,7 @@ void DrawingTools::DeleteLastCAD(int Window) {
 void DrawingTools::DeleteAllCAD(int Window) {
   ShapeList& list = List(Resolve(Window));
   if (list.NumShapes <= 0) return;
+  BeforeChange(Resolve(Window));
   if (list.Adding) NewShapePending_ = Drawing_;
   list.CurShape = -1;
   list.Adding = false;
@@ -428,6 +439,7 @@ void DrawingTools::CopyShapes(int FromWindow, int ToWindow) {
   EndConstruction();
   const ShapeList& source = List(FromWindow);
   ShapeList& target = List(ToWindow);
+  BeforeChange(ToWindow);
   target.Shapes.clear();
   target.NumShapes = 0;
   target.CurShape = -1;
@@ -438,35 +450,17 @@ void DrawingTools::CopyShapes(int FromWindow, int ToWindow) {
   workspace_.Refresh(ToWindow);
 }
 
-void DrawingTools::SetShapes(int window, ShapeList list) {
-  if (List(window).Adding) NewShapePending_ = Drawing_;
-  list.Adding = false;
-  list.CurShape = -1;
-  list.GridOn = List(window).GridOn;
-  List(window) = std::move(list);
-  History(window).Reset(List(window));
+void DrawingTools::PastStretched(int window, int oldWidth, int oldHeight, int newWidth, int newHeight) {
+  History(window).Apply(List(window), [&](ShapeList& past) { StretchShapes(past, oldWidth, oldHeight, newWidth, newHeight); });
 }
 
-void DrawingTools::StretchShapes(int window, int oldWidth, int oldHeight, int newWidth, int newHeight) {
-  const auto stretch = [&](ShapeList& list) { kinalyx::StretchShapes(list, oldWidth, oldHeight, newWidth, newHeight); };
-  stretch(List(window));
-  History(window).Apply(stretch);
+void DrawingTools::PastMirrored(int window, int width) {
+  History(window).Apply(List(window), [&](ShapeList& past) { FlipShapes(past, width); });
 }
-
-void DrawingTools::FlipShapes(int window) {
-  const int width = workspace_.PictureWidth(window);
-  const auto flip = [&](ShapeList& list) { kinalyx::FlipShapes(list, width); };
-  flip(List(window));
-  History(window).Apply(flip);
-}
-
-void DrawingTools::NoteChange(int window) { History(window).Note(List(window)); }
-
-void DrawingTools::Undo(int window) { StepHistory(window, &ShapeHistory::Undo); }
-void DrawingTools::Redo(int window) { StepHistory(window, &ShapeHistory::Redo); }
 
 void DrawingTools::StepHistory(int window, bool (ShapeHistory::*step)(ShapeList&)) {
   if (Drawing_ && List(window).Adding) PutDown();
+  BeforeChange(window);
   if (!(History(window).*step)(List(window))) return;
   SetEditBar();
   workspace_.Refresh(window);

@@ -104,21 +104,22 @@ class DrawingTools final : public IShapeLocked {
   void SetShapeCaption();
   Calibration CurrentCalibration() const;
 
-  // --- a window's drawings and their past
-  /// Hands a window the drawings of the video that has just been opened, or none when it was closed; their
-  /// past begins here. The window's grid stays.
-  void SetShapes(int window, ShapeList list);
-  /// The window's picture changed its size (pixels): its drawings, and their past, are stretched.
-  void StretchShapes(int window, int oldWidth, int oldHeight, int newWidth, int newHeight);
-  /// The window's picture was mirrored.
-  void FlipShapes(int window);
-  /// Closes a step that can be undone; whoever changes a list by other roads says so. Nothing happens when
-  /// the drawings are what they were.
-  void NoteChange(int window);
+  // --- the past of a window's drawings
+  /// Whoever changes a list by other roads than this class says so before and after. A list that was
+  /// exchanged without a word begins a new past.
+  void BeforeChange(int window) { History(window).BeforeChange(List(window)); }
+  /// Closes a step that can be undone; nothing happens when the drawings are what they were.
+  void NoteChange(int window) { History(window).Note(List(window)); }
+  /// The window's drawings came or went with its video: nothing of before can be undone.
+  void ForgetPast(int window) { History(window).Reset(List(window)); }
+  /// The window's drawings have been fitted to another size of its picture, or mirrored in one of this
+  /// width (pixels): their past follows.
+  void PastStretched(int window, int oldWidth, int oldHeight, int newWidth, int newHeight);
+  void PastMirrored(int window, int width);
   bool CanUndo(int window) const { return History(window).CanUndo(); }
   bool CanRedo(int window) const { return History(window).CanRedo(); }
-  void Undo(int window);
-  void Redo(int window);
+  void Undo(int window) { StepHistory(window, &ShapeHistory::Undo); }
+  void Redo(int window) { StepHistory(window, &ShapeHistory::Redo); }
 
   // --- from the store
   /// Kinds 0 to 10 announce a tool and choose its colour; 25 ends the announcement and steps the random colour.
@@ -134,6 +135,7 @@ class DrawingTools final : public IShapeLocked {
   const ShapeHistory& History(int window) const { return histories_[static_cast<std::size_t>(window - 1)]; }
   void PutDown();
   void EndAnnouncement();
+  bool UnderConstruction() const;
   bool EndConstruction();
   void FinishOpenShape(ShapeList& list);
   void BindPoint(ShapeList& list, POINTAPI point, int window);

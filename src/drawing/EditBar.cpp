@@ -114,6 +114,7 @@ void EditBar::cmdEBBtn_MouseDown(int Index, int Button, int /*Shift*/, float X, 
   dragged_ = Index;
   dragWindow_ = workspace_.ActiveWindow();
   LastDown_ = {Round(X), Round(Y)};
+  tools_.BeforeChange(dragWindow_);
   if (Index == kMoveHandle) return;
   const ShapeRules rules = tools_.Engine().Rules();
   if (MultiEdit_) {

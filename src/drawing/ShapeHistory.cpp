@@ -47,14 +47,20 @@ bool ShapeHistory::Redo(ShapeList& list) {
   return true;
 }
 
-void ShapeHistory::Apply(const std::function<void(ShapeList&)>& transform) {
+void ShapeHistory::BeforeChange(const ShapeList& list) {
+  if (FinishedShapes(list) != states_[present_]) Reset(list);
+}
+
+void ShapeHistory::Apply(const ShapeList& list, const std::function<void(ShapeList&)>& transform) {
   for (std::vector<Shape>& state : states_) {
-    ShapeList list;
-    list.NumShapes = static_cast<std::int16_t>(state.size());
-    list.Shapes = std::move(state);
-    transform(list);
-    state = std::move(list.Shapes);
+    ShapeList past;
+    past.NumShapes = static_cast<std::int16_t>(state.size());
+    past.Shapes = std::move(state);
+    transform(past);
+    state = std::move(past.Shapes);
   }
+  // The list may have come to its present form by another road, and be rounded otherwise.
+  states_[present_] = FinishedShapes(list);
 }
 
 void ShapeHistory::Restore(ShapeList& list) const {

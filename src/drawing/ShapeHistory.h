@@ -25,9 +25,11 @@ class ShapeHistory {
   /// Brings the shapes of a step back; nothing is selected then. False when there is none.
   bool Undo(ShapeList& list);
   bool Redo(ShapeList& list);
-  /// Does to the whole past what was done to the list without being a change of the drawings: it was
+  /// Begins anew when the list is not what was noted last: its drawings were exchanged with the video.
+  void BeforeChange(const ShapeList& list);
+  /// Does to the whole past what was done to `list` without being a change of its drawings: it was
   /// stretched with its window, or mirrored with its picture.
-  void Apply(const std::function<void(ShapeList&)>& transform);
+  void Apply(const ShapeList& list, const std::function<void(ShapeList&)>& transform);
 
  private:
   void Restore(ShapeList& list) const;

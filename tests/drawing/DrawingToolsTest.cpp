@@ -271,12 +271,34 @@ TEST(DrawingTools, UndoGoesThroughEveryChange) {
   desk.tools.Redo(1);
   EXPECT_EQ(desk.List().NumShapes, 2);
   EXPECT_FALSE(desk.tools.CanUndo(2));
-  desk.tools.FlipShapes(1);
-  EXPECT_EQ(desk.List().Shapes[1].Pts[0].x, 639);
+
+  // The picture is mirrored and the window halved: so is what comes back.
+  FlipShapes(desk.List(), 640);
+  desk.tools.PastMirrored(1, 640);
+  StretchShapes(desk.List(), 640, 480, 320, 240);
+  desk.tools.PastStretched(1, 640, 480, 320, 240);
   desk.tools.Undo(1);
-  EXPECT_EQ(desk.List().Shapes[0].Pts[0].x, 639) << "the past is mirrored with the picture";
-  desk.tools.SetShapes(1, {});
-  EXPECT_FALSE(desk.tools.CanUndo(1)) << "forgotten with the video";
+  ASSERT_EQ(desk.List().NumShapes, 1);
+  EXPECT_EQ(desk.List().Shapes[0].Pts[0].x, 320) << "half of 639, to the even neighbour";
+  desk.tools.ForgetPast(1);
+  EXPECT_FALSE(desk.tools.CanUndo(1));
+}
+
+TEST(DrawingTools, AnotherVideoInTheWindowBeginsAnotherPast) {
+  Desk desk;
+  desk.Draw(kLine, {{1, 1}, {99, 99}});
+  desk.Draw(kSquare, {{10, 10}});
+  // The video closes and another one opens, with drawings of its own, while a square is half made.
+  desk.List() = {};
+  Add(desk.List(), Finished(kArrow, {{1, 1}, {50, 50}}));
+  EXPECT_TRUE(desk.tools.Drawing());
+  desk.Click(20, 20);
+  desk.Click(60, 60);
+  ASSERT_EQ(desk.List().NumShapes, 2) << "the tool in hand begins anew";
+  desk.tools.Undo(1);
+  ASSERT_EQ(desk.List().NumShapes, 1);
+  EXPECT_EQ(desk.List().Shapes[0].Kind, kArrow);
+  EXPECT_FALSE(desk.tools.CanUndo(1)) << "the drawings that came with the video are no change";
 }
 
 TEST(DrawingTools, ACopyReplacesWhatTheOtherWindowHeld) {

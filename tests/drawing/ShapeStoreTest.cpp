@@ -162,7 +162,9 @@ TEST(ShapeHistory, FiftyChangesCanBeTakenBack) {
   EXPECT_EQ(list.NumShapes, 11);
 
   // The window shrinks: the steps on either side shrink with it.
-  history.Apply([](ShapeList& past) { StretchShapes(past, 0.5, 0.5); });
+  const auto halve = [](ShapeList& past) { StretchShapes(past, 0.5, 0.5); };
+  halve(list);
+  history.Apply(list, halve);
   EXPECT_TRUE(history.Redo(list));
   EXPECT_EQ(list.Shapes[10].Pts[0].x, 5);
   KillShape(list, 0);
