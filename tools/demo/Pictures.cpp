@@ -74,16 +74,25 @@ void DrawArc(Surface& picture, const Skeleton& skeleton, const Camera& camera, c
   Canvas canvas(mask);
   const Camera large = camera.Resized(kSamples);
   const double from = skeleton.PhaseTime(SwingPhase::Top), to = skeleton.PhaseTime(SwingPhase::TrailArmLevel) + 0.14;
+  struct Piece {
+    int level;
+    POINTAPI from, to;
+  };
+  std::vector<Piece> pieces;
   constexpr int kPieces = 400;
   Projected last = large.Project(part(skeleton.At(from)));
   for (int i = 1; i <= kPieces; ++i) {
     const double share = static_cast<double>(i) / kPieces;
     const Projected next = large.Project(part(skeleton.At(from + (to - from) * std::pow(share, 1.3))));
     const double light = std::sin(kPi * std::clamp(0.06 + share, 0.0, 1.0));
-    const int level = static_cast<int>(255 * std::pow(std::max(0.0, light), 0.7));
-    canvas.SetPen({Rgb(level, level, level), width * kSamples, 0});
-    canvas.Line(Nearest(last.x, last.y), Nearest(next.x, next.y));
+    pieces.push_back({static_cast<int>(255 * std::pow(std::max(0.0, light), 0.7)), Nearest(last.x, last.y), Nearest(next.x, next.y)});
     last = next;
+  }
+  // Where the line meets itself the brighter piece is seen.
+  std::stable_sort(pieces.begin(), pieces.end(), [](const Piece& a, const Piece& b) { return a.level < b.level; });
+  for (const Piece& piece : pieces) {
+    canvas.SetPen({Rgb(piece.level, piece.level, piece.level), width * kSamples, 0});
+    canvas.Line(piece.from, piece.to);
   }
   const Surface fine = Reduced(mask, kSamples);
   for (int y = 0; y < picture.Height(); ++y)
