@@ -6,9 +6,9 @@
 #include <QPlainTextEdit>
 
 #include "library/forms/FieldGrid.h"
+#include "library/forms/HeadButton.h"
 #include "library/forms/Text.h"
 #include "platform/files/Folders.h"
-#include "platform/widgets/Buttons.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
@@ -22,14 +22,6 @@ std::vector<int> AllFields() {
   std::vector<int> fields;
   for (int field = 0; field < kProfileFields; ++field) fields.push_back(field);
   return fields;
-}
-
-/// A button that fits into the heading of a panel.
-Button* HeadButton(const QString& name, const QString& caption, const QString& icon = {}) {
-  auto* button = new Button(name, caption, icon, Look::Flat);
-  button->setIconSize(QSize(16, 16));
-  button->setStyleSheet("QPushButton { min-height: 22px; max-height: 22px; padding: 0 8px; }");
-  return button;
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 
 #include "library/Sidecar.h"
 #include "library/forms/FieldGrid.h"
+#include "library/forms/HeadButton.h"
 #include "library/forms/LibraryLists.h"
 #include "library/forms/ProfileEditor.h"
 #include "library/forms/ProfilePanel.h"
@@ -131,19 +132,22 @@ void ProfilesPage::MakeVideoButtons() {
   MakeButton(kMoveVideo, "", "move");
   MakeButton(kCopyVideo, "", "copy");
   MakeButton(kDeleteVideo, "", "trash");
-  MakeButton(kStatistics, "Show Stats", "");
+  AddButton(kStatistics, HeadButton("SPBtn11", "Show Stats", "stats"));
   MakeButton(kCopyToQuickLaunch, "Quick Launch +", "");
   for (const int command : {kAnalyze, kTrim, kRenameVideo, kMoveVideo, kCopyVideo, kDeleteVideo})
-    videos_->AddButton(SPBtn(command));
+    videos_->Foot()->addWidget(SPBtn(command));
   videos_->Foot()->addStretch(1);
-  videos_->AddButton(SPBtn(kStatistics));
-  videos_->AddButton(SPBtn(kCopyToQuickLaunch));
+  videos_->Foot()->addWidget(SPBtn(kCopyToQuickLaunch));
+  videos_->Head()->addWidget(SPBtn(kStatistics));
   for (const int command : {kTrim, kRenameVideo, kMoveVideo, kCopyVideo, kDeleteVideo, kCopyToQuickLaunch})
     Coming(SPBtn(command));
 }
 
 void ProfilesPage::MakeButton(int command, const char* caption, const char* icon) {
-  auto* button = new Button(QString("SPBtn%1").arg(command), caption, icon);
+  AddButton(command, new Button(QString("SPBtn%1").arg(command), caption, icon));
+}
+
+void ProfilesPage::AddButton(int command, Button* button) {
   button->installEventFilter(this);
   connect(button, &QPushButton::clicked, this, [this, command] { SPBtn_Click(command); });
   buttons_[static_cast<std::size_t>(command)] = button;
@@ -221,7 +225,7 @@ void ProfilesPage::Say(const QString& text) {
 bool ProfilesPage::eventFilter(QObject* object, QEvent* event) {
   if (object == Text2_ && event->type() == QEvent::KeyPress &&
       static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
-    newInstructor_->hide();
+    ShowInstructorBox(false);
     lists_->InstructorList()->setFocus();
     return true;
   }
@@ -331,8 +335,12 @@ void ProfilesPage::ShowProfileView(bool shown) {
   videos_->setVisible(!shown);
   profilePanel_->SetView(shown ? ProfilePanel::View::Complete : ProfilePanel::View::Brief);
   if (shown) {
+    grid_->addWidget(instructors_, 0, 0, 2, 1);
+    grid_->addWidget(students_, 0, 1, 2, 1);
     grid_->addWidget(profilePanel_, 0, 2, 2, 1);
   } else {
+    grid_->addWidget(instructors_, 0, 0);
+    grid_->addWidget(students_, 0, 1);
     grid_->addWidget(profilePanel_, 1, 0, 1, 3);
   }
 }
@@ -398,17 +406,22 @@ void ProfilesPage::ProAddSaveBtn() {
   Say(Q(added.message));
 }
 
+void ProfilesPage::ShowInstructorBox(bool shown) {
+  newInstructor_->setVisible(shown);
+  addInstructor_->setText(shown ? "Save" : "Add New");
+  Text2_->clear();
+  if (shown) Text2_->setFocus();
+}
+
 void ProfilesPage::SSCommand2() {
   if (newInstructor_->isHidden()) {
-    newInstructor_->show();
-    Text2_->clear();
-    Text2_->setFocus();
+    ShowInstructorBox(true);
     return;
   }
   const std::string name = Std(Text2_->text());
   const Outcome added = AddInstructor(browser_.Tree().Root(), name);
   if (added.done) {
-    newInstructor_->hide();
+    ShowInstructorBox(false);
     LastStudent_ = {name, "", browser_.Tree().InstructorFolder(name)};
     const bool adding = !editor_->isHidden();
     Open();

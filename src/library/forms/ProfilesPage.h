@@ -75,6 +75,7 @@ class ProfilesPage : public QWidget {
   Panel* MakeStudentsPanel();
   void MakeVideoButtons();
   void MakeButton(int command, const char* caption, const char* icon);
+  void AddButton(int command, Button* button);
   QString HoverText(int command) const;
 
   void InstructorChosen();
@@ -86,6 +87,7 @@ class ProfilesPage : public QWidget {
   void OpenEditor(bool edit);
   void CloseEditor();
   void ProAddSaveBtn();
+  void ShowInstructorBox(bool shown);
   void SSCommand2();
   void SendToAnalysis();
 

@@ -7,7 +7,6 @@
 
 #include "library/Sidecar.h"
 #include "library/forms/Text.h"
-#include "platform/widgets/Buttons.h"
 #include "platform/widgets/Figures.h"
 #include "platform/widgets/Theme.h"
 
@@ -74,8 +73,9 @@ VideosPanel::VideosPanel(PlayerServices& services, NameList* list, QWidget* pare
     : Panel("VideosTitle", "Videos", parent), list_(list) {
   count_ = new FigureLabel("VideoCount");
   count_->setProperty("look", "caption");
-  Head()->addWidget(count_);
-  Head()->addSpacing(6);
+  Head()->insertWidget(1, count_);
+  Head()->setStretch(0, 0);
+  Head()->addStretch(1);
 
   auto* middle = new QHBoxLayout;
   middle->setSpacing(0);
@@ -103,6 +103,7 @@ VideosPanel::VideosPanel(PlayerServices& services, NameList* list, QWidget* pare
     auto* caption = MakeLabel(QString("StatCaption%1").arg(line), kCaptions[line], "caption");
     auto* value = new FigureLabel(QString("ProInfoLbl%1").arg(kFirstStat + line), kNoStat);
     value->setAccessibleName(kCaptions[line]);
+    value->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
     grid->addWidget(caption, line / 5 * 2, line % 5);
     grid->addWidget(value, line / 5 * 2 + 1, line % 5);
     grid->setColumnStretch(line % 5, 1);

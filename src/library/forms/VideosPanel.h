@@ -35,8 +35,6 @@ class VideosPanel : public Panel {
   PreviewPlayer& VideoPlay1() { return *preview_; }
   /// Shows a video, or nothing for "". False when it cannot be opened.
   bool ShowVideo(const std::string& path);
-  /// The place beneath the list for the page's buttons.
-  void AddButton(QWidget* button) { Foot()->addWidget(button); }
   /// Shows or hides the list under "Video Statistics".
   void ShowStatsPanel(bool shown);
   bool StatsShown() const;
