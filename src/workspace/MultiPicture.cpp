@@ -17,8 +17,6 @@ constexpr double kWideShape = 1.7778;
 constexpr double kPictureShape = kPlainShape / 3;  // a third of a 4:3 video: room for one person upright
 constexpr int kSmallestSquare = 8;                 // pixels; less is a slip of the hand
 
-int Pixels(double twips) { return static_cast<int>(twips / kTwipsPerPixel); }
-
 }  // namespace
 
 MultiPicture::MultiPicture(IHost& host, Workspace& workspace, IMultiPictureView& view)
@@ -82,14 +80,14 @@ void MultiPicture::VideoClosing(int slot) {
 
 int MultiPicture::SourceLeft() const {
   const Slot& slot = workspace_.At(slot_);
-  const double middle = Pixels(slot.panel.Width) / 2.0;
-  return static_cast<int>(std::lround(middle + part_.left * Pixels(slot.panel.Height))) - PlayerCorner(slot).x;
+  const double middle = SurfacePixels(slot, slot.panel.Width) / 2.0;
+  return static_cast<int>(std::lround(middle + part_.left * SurfacePixels(slot, slot.panel.Height))) - PlayerCorner(slot).x;
 }
 
 int MultiPicture::SourceTop() const {
   const Slot& slot = workspace_.At(slot_);
-  const double middle = Pixels(slot.panel.Height) / 2.0;
-  return static_cast<int>(std::lround(middle + part_.top * Pixels(slot.panel.Height))) - PlayerCorner(slot).y;
+  const double middle = SurfacePixels(slot, slot.panel.Height) / 2.0;
+  return static_cast<int>(std::lround(middle + part_.top * SurfacePixels(slot, slot.panel.Height))) - PlayerCorner(slot).y;
 }
 
 /// A third of the video in its middle, as high as the cell; an upright video gives more of its width.
@@ -104,12 +102,14 @@ void MultiPicture::ChooseMiddle() {
 }
 
 void MultiPicture::MakeStrip() {
-  const int height = Pixels(workspace_.At(slot_).panel.Height);
+  const Slot& slot = workspace_.At(slot_);
+  const int height = SurfacePixels(slot, slot.panel.Height);
   PictureWidth_ = std::max(1, static_cast<int>(part_.width * height));
   PictureHeight_ = std::max(1, static_cast<int>(part_.height * height));
-  const double shownWidth = static_cast<double>(PictureWidth_) * kStripPixels / PictureHeight_;
+  const double shownWidth = static_cast<double>(PictureWidth_) * kStripPixels / PictureHeight_;  // layout pixels
   PictureCount_ = std::clamp(static_cast<int>(view_.StripWidth() / shownWidth), 1, kMostPictures);
   strip_ = Surface(PictureWidth_ * PictureCount_, PictureHeight_);
+  source_ = {SourceLeft(), SourceTop()};
 }
 
 void MultiPicture::setSkipBox(const std::string& text) {
@@ -135,10 +135,10 @@ bool MultiPicture::TakeSquare(int slot, POINTAPI corner, POINTAPI opposite) {
   const int width = std::abs(opposite.x - corner.x);
   const int height = std::abs(opposite.y - corner.y);
   if (width < kSmallestSquare || height < kSmallestSquare) return true;
-  const POINTAPI player = PlayerCorner(workspace_.At(slot_));
-  const TwipRect& cell = workspace_.At(slot_).panel;
-  const double cellWidth = Pixels(cell.Width);
-  const double cellHeight = Pixels(cell.Height);
+  const Slot& source = workspace_.At(slot_);
+  const POINTAPI player = PlayerCorner(source);
+  const double cellWidth = SurfacePixels(source, source.panel.Width);
+  const double cellHeight = SurfacePixels(source, source.panel.Height);
   part_ = {(player.x + std::min(corner.x, opposite.x) - cellWidth / 2) / cellHeight,
            (player.y + std::min(corner.y, opposite.y) - cellHeight / 2) / cellHeight, width / cellHeight,
            height / cellHeight};
@@ -201,7 +201,9 @@ void MultiPicture::Signal(int slot) {
   LayoutChanged();
   if (!shown_ || MultiFrameMode_ || slot != slot_) return;
   const int position = workspace_.MP(slot_).Position();
-  if (position == last_) {
+  if (source_ != POINTAPI{SourceLeft(), SourceTop()}) {
+    PlayerMoved(slot);
+  } else if (position == last_) {
     TakeFrame();  // something was drawn on it
   } else if (std::abs(position - last_) >= skip_) {
     MFNextFrame();

@@ -78,7 +78,7 @@ class MultiPicture {
   // --- from the players and the workspace
   /// A picture of a slot was shown: the strip runs with it.
   void Signal(int slot);
-  /// A video was zoomed, panned or has another size: its strip is made anew.
+  /// A video has another size or, in Signal, another place in its cell: its strip is made anew.
   void PlayerMoved(int slot);
   void VideoClosing(int slot);
   /// The layout may have changed: the mode ends with its own.
@@ -120,6 +120,7 @@ class MultiPicture {
   int skip_ = 5;
   int from_ = -1;         ///< where the video stood when the strip was filled
   int last_ = -1;         ///< position of the last picture in the strip
+  POINTAPI source_;       ///< corner of the source when the strip was made
   Surface strip_;
   HostTimer rebuild_;
 };

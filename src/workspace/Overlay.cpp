@@ -1,8 +1,6 @@
 #include "workspace/Overlay.h"
 
 #include <algorithm>
-#include <cmath>
-#include <cstdlib>
 
 #include "workspace/PlayerPlace.h"
 
@@ -15,8 +13,6 @@ constexpr int kWalkInterval = 20;    // milliseconds between two steps
 constexpr int kDissolveInterval = 45;
 constexpr int kHalf = 128;
 constexpr int kFull = 255;
-
-int Pixels(double twips) { return static_cast<int>(std::floor(twips / kTwipsPerPixel)); }
 
 }  // namespace
 
@@ -52,6 +48,7 @@ void Overlay::Enter() {
   guard_ = false;
   ShowControls();
   CMDDISAct();
+  if (Switched) Switched();
 }
 
 void Overlay::Closetrans_Click() {
@@ -64,6 +61,7 @@ void Overlay::Closetrans_Click() {
   view_.ShowTransparency(false);
   // A layout that the user chose meanwhile stays.
   if (workspace_.ScreenLayout == FindScreenMode(kDouble)->Code) workspace_.SetScreen(layoutBefore_);
+  if (Switched) Switched();
 }
 
 void Overlay::Resize(int width, int height) {
@@ -81,8 +79,8 @@ PlacedPicture Overlay::Placed(int window) {
   if (!workspace_.HasVideo(window)) return {none_};
   const Slot& slot = workspace_.At(window);
   const Surface& picture = workspace_.MP(window).Picture();
-  return {picture, (TransPanel_.Width() - picture.Width()) / 2 + Pixels(slot.PanX * slot.VideoZoom),
-          (TransPanel_.Height() - picture.Height()) / 2 + Pixels(slot.PanY * slot.VideoZoom)};
+  return {picture, (TransPanel_.Width() - picture.Width()) / 2 + SurfacePixels(slot, slot.PanX * slot.VideoZoom),
+          (TransPanel_.Height() - picture.Height()) / 2 + SurfacePixels(slot, slot.PanY * slot.VideoZoom)};
 }
 
 void Overlay::ComposeMix() { MixPictures(Placed(1), Placed(2), mix_, TransPanel_); }
@@ -95,8 +93,8 @@ void Overlay::ComposeSplit() {
     if (!workspace_.HasVideo(window)) continue;
     const Slot& slot = workspace_.At(window);
     const Surface& picture = workspace_.MP(window).Picture();
-    const int half = Pixels(slot.cell.Width) / 2;
-    const int fromX = Pixels(slot.cell.Width / 4.0 - slot.panel.Left - PlayerPlace(slot).Left);
+    const int half = SurfacePixels(slot, slot.cell.Width) / 2;
+    const int fromX = SurfacePixels(slot, slot.cell.Width / 4.0 - slot.panel.Left - PlayerPlace(slot).Left);
     const int toX = TransPanel_.Width() / 2 - (window == 1 ? half : 0);
     CopyPart(picture, fromX, 0, half, picture.Height(), TransPanel_, toX, Placed(window).top);
   }

@@ -84,6 +84,9 @@ class Overlay {
   /// A video came or went, or counts in another way; a lock was made or ended.
   void StateChanged();
 
+  /// The mode was entered or left.
+  std::function<void()> Switched;
+
  private:
   AVIControl* Player(int window);
   PlacedPicture Placed(int window);

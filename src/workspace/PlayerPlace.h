@@ -5,11 +5,17 @@
 
 namespace kinalyx {
 
-/// The place of a slot's player in its cell, as zoom and pan put it; the slot must hold a video.
+/// Where a slot's video stands, as its zoom and pan put it; the slot must hold a video.
+
+/// The place of the player in its cell's clip area.
 TwipRect PlayerPlace(const Slot& slot);
-/// The corner of the same in pixels, in the cell's clip area.
+/// Pixels of the player's surface to one pixel of the layout: 2 on a screen of double density.
+double PixelRatio(const Slot& slot);
+/// Twips of the layout as pixels of surfaces, rounded down.
+int SurfacePixels(const Slot& slot, double twips);
+/// The player's corner in its clip area, in pixels of surfaces.
 POINTAPI PlayerCorner(const Slot& slot);
-/// The corner on the stage, in pixels.
+/// The same on the stage.
 POINTAPI PlayerCornerOnStage(const Slot& slot);
 
 }  // namespace kinalyx

@@ -52,10 +52,11 @@ void ZoomPan::Wheel(int slot, float x, float y, int notches) {
   const TwipRect before = PlayerPlace(at);
   if (before.Width <= 0 || before.Height <= 0) return;
   // Where the pointer is in the video, and where it is in the cell.
-  const double partX = x * kTwipsPerPixel / before.Width;
-  const double partY = y * kTwipsPerPixel / before.Height;
-  const double cellX = before.Left + x * kTwipsPerPixel;
-  const double cellY = before.Top + y * kTwipsPerPixel;
+  const double twips = kTwipsPerPixel / PixelRatio(at);
+  const double partX = x * twips / before.Width;
+  const double partY = y * twips / before.Height;
+  const double cellX = before.Left + x * twips;
+  const double cellY = before.Top + y * twips;
   at.VideoZoom = zoom;
   const TwipRect after = PlayerPlace(at);
   at.PanX += (cellX - partX * after.Width - after.Left) / zoom;
@@ -73,10 +74,10 @@ void ZoomPan::DragBegin(int slot, float x, float y) {
 void ZoomPan::DragMove(float x, float y) {
   if (dragSlot_ == 0 || !workspace_.HasVideo(dragSlot_)) return DragEnd();
   Slot& at = workspace_.At(dragSlot_);
-  at.PanX += (x - dragX_) * kTwipsPerPixel / at.VideoZoom;
-  at.PanY += (y - dragY_) * kTwipsPerPixel / at.VideoZoom;
-  dragX_ = x;
-  dragY_ = y;
+  // The picture comes along, and with it the point that was taken hold of: it is under the pointer again.
+  const double twips = kTwipsPerPixel / PixelRatio(at);
+  at.PanX += (x - dragX_) * twips / at.VideoZoom;
+  at.PanY += (y - dragY_) * twips / at.VideoZoom;
   workspace_.MPResize(dragSlot_);
 }
 

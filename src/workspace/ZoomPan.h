@@ -25,7 +25,8 @@ class ZoomPan {
   /// The wheel at a point of the slot's picture, in pixels: `notches` upward zoom in by a tenth each. The
   /// point of the video under the pointer stays under it.
   void Wheel(int slot, float x, float y, int notches);
-  /// The middle button goes down on a slot's picture, moves, and comes up, in pixels of the stage.
+  /// The middle button goes down on a slot's picture, moves, and comes up; points are pixels of the
+  /// picture as it stands at that moment.
   void DragBegin(int slot, float x, float y);
   void DragMove(float x, float y);
   void DragEnd() { dragSlot_ = 0; }

@@ -124,6 +124,12 @@ TEST_F(MultiPictureTest, ZoomAndPanMakeTheStripAnew) {
   strip_.PlayerMoved(1);
   stage_.host.Advance(0);
   EXPECT_GT(strip_.SourceLeft(), left);
+  // A pan leaves the size; the strip follows all the same.
+  const int before = view_.presented;
+  stage_.workspace.At(1).PanX += 20 * kTwipsPerPixel;
+  stage_.MP(1).Refresh();
+  stage_.host.Advance(0);
+  EXPECT_EQ(view_.presented, before + 1);
   // Still the strip of the same moment, although the video stands at the strip's end by now.
   EXPECT_EQ(Pictures(), (std::vector{0, 3, 6, 9, 12, 15, 18, 21, 24}));
 }

@@ -72,11 +72,16 @@ TEST_F(ZoomPanTest, MiddleDragTakesThePictureAlong) {
   stage_.workspace.At(2).VideoZoom = 2;
   stage_.workspace.MPResize(2);
   const POINTAPI before = PlayerCorner(stage_.workspace.At(2));
-  zoom_.DragBegin(2, 100, 100);
-  zoom_.DragMove(130, 90);
-  zoom_.DragMove(140, 60);
+  // Over the picture, which moves beneath the pointer.
+  const auto moveTo = [&](int x, int y) {
+    const POINTAPI corner = PlayerCorner(stage_.workspace.At(2));
+    zoom_.DragMove(static_cast<float>(x - corner.x), static_cast<float>(y - corner.y));
+  };
+  zoom_.DragBegin(2, static_cast<float>(100 - before.x), static_cast<float>(100 - before.y));
+  moveTo(130, 90);
+  moveTo(140, 60);
   zoom_.DragEnd();
-  zoom_.DragMove(500, 500);
+  moveTo(500, 500);
   const POINTAPI after = PlayerCorner(stage_.workspace.At(2));
   EXPECT_NEAR(after.x - before.x, 40, 1);
   EXPECT_NEAR(after.y - before.y, -40, 1);

@@ -1,0 +1,131 @@
+#include "workspace/CompareModes.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+
+namespace kinalyx {
+
+CompareModes::CompareModes(IHost& host, Settings& settings, PlayScheduler& scheduler, Workspace& workspace,
+                           ICompareView& view, Keys keys)
+    : workspace_(workspace),
+      view_(view),
+      locks_(host, scheduler, workspace),
+      overlay_(host, settings, workspace, locks_, view),
+      strip_(host, workspace, view),
+      carve_(host, workspace, view),
+      strobe_(settings, workspace, locks_),
+      zoom_(host, workspace, std::move(keys.down), std::move(keys.press)) {
+  locks_.Changed = [this] {
+    overlay_.StateChanged();
+    ShowDual();
+    if (LocksChanged) LocksChanged();
+  };
+  overlay_.Switched = [this] { ShowDual(); };
+}
+
+// ---------------------------------------------------------------- windows
+
+void CompareModes::TZP_Click() {
+  zoomShown_ = !zoomShown_;
+  view_.ShowZoomForm(zoomShown_);
+}
+
+void CompareModes::TASF_Click() {
+  const bool shown = !StrobeShown();
+  view_.ShowStrobeForm(shown);
+  if (!shown) strobe_.SetWindow(nullptr);
+}
+
+bool CompareModes::Escape() {
+  if (strobe_.StrobeRunning()) {
+    strobe_.StrobeBtn_Click();
+  } else if (carve_.Shown()) {
+    carve_.TTCarve();
+  } else if (overlay_.TransparencyOn()) {
+    overlay_.Closetrans_Click();
+  } else if (strip_.Shown()) {
+    strip_.smbar_Click();
+  } else {
+    return false;
+  }
+  return true;
+}
+
+void CompareModes::CloseAll() {
+  while (Escape()) {
+  }
+  locks_.StopTogether();
+  for (const int slot : {1, 3}) locks_.DualUnlock(slot);
+  if (StrobeShown()) TASF_Click();
+  if (zoomShown_) TZP_Click();
+}
+
+void CompareModes::MPManualSignal() {
+  overlay_.MPManualSignal();
+  carve_.MPManualSignal();
+}
+
+// ---------------------------------------------------------------- dual controls
+
+void CompareModes::ShowDual() {
+  const int slot = workspace_.CurrentWindow;
+  DualState state;
+  state.locked = locks_.IsLocked(slot);
+  state.shown = state.locked || overlay_.TransparencyOn();
+  state.allLocked = locks_.DualLocked[2];
+  state.canLock = locks_.CanLock();
+  state.canLockAll = std::ranges::all_of(std::array{1, 2, 3, 4}, [this](int each) { return workspace_.HasVideo(each); });
+  state.playing = locks_.PlayingTogether();
+  state.repeat = locks_.TogetherRepeat();
+  state.speed = locks_.TogetherSpeed();
+  if (const auto bounds = locks_.BoundsOf(slot)) {
+    state.lowest = bounds->lowest;
+    state.highest = std::max(bounds->lowest, bounds->highest);
+    state.position = workspace_.MP(slot).Position();
+    const int first = state.allLocked || slot <= 2 ? 1 : 3;
+    const int last = state.allLocked || slot > 2 ? 4 : 2;
+    for (int each = first; each <= last; ++each)
+      state.line += fmt::format("{}{}", each == first ? "" : " + ", workspace_.MP(each).Position());
+  }
+  view_.ShowDual(state);
+}
+
+// ---------------------------------------------------------------- from the players and the workspace
+
+void CompareModes::Signal(int slot) {
+  strip_.Signal(slot);
+  overlay_.Signal(slot);
+  carve_.Signal(slot);
+  strobe_.Signal(slot);
+  if (locks_.IsLocked(slot)) ShowDual();
+}
+
+void CompareModes::Notify(int slot) { overlay_.Notify(slot); }
+
+void CompareModes::PlayerResized(int slot) {
+  overlay_.PlayerResized(slot);
+  strip_.PlayerMoved(slot);
+  carve_.PlayerResized(slot);
+}
+
+void CompareModes::VideoClosing(int slot) {
+  strobe_.VideoClosing(slot);
+  carve_.VideoClosing(slot);
+  strip_.VideoClosing(slot);
+  locks_.VideoClosing(slot);
+}
+
+void CompareModes::StateChanged() {
+  locks_.StateChanged();
+  overlay_.StateChanged();
+  strobe_.FocusChanged();
+  ShowDual();
+}
+
+void CompareModes::FocusChanged() {
+  strobe_.FocusChanged();
+  ShowDual();
+}
+
+}  // namespace kinalyx

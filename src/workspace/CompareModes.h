@@ -1,0 +1,103 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "video/PlayScheduler.h"
+#include "workspace/Carve.h"
+#include "workspace/DualLock.h"
+#include "workspace/MultiPicture.h"
+#include "workspace/Overlay.h"
+#include "workspace/StrobeControl.h"
+#include "workspace/ZoomPan.h"
+
+namespace kinalyx {
+
+/// What the controls of locked videos show.
+struct DualState {
+  bool shown = false;     ///< a lock holds the current window, or transparency mode is up
+  bool locked = false;    ///< the current window is locked
+  bool allLocked = false;
+  bool canLock = false;
+  bool canLockAll = false;
+  bool playing = false;
+  bool repeat = false;
+  int speed = 100;        ///< percent
+  int lowest = 0;         ///< ends of the shared bar
+  int highest = 0;
+  int position = 0;
+  std::string line;       ///< where the videos stand, "12 + 29"
+};
+
+/// What the modes that compare videos ask of the window that shows them.
+class ICompareView : public IOverlayView, public IMultiPictureView, public ICarveView {
+ public:
+  /// The controls beside the lock, and the lock picture on the cells.
+  virtual void ShowDual(const DualState& state) = 0;
+  virtual void ShowZoomForm(bool shown) = 0;
+  /// Opens or closes the strobe window, which hands itself to StrobeControl.
+  virtual void ShowStrobeForm(bool shown) = 0;
+};
+
+/// The modes in which videos are compared, as one part of the workspace: lock, transparency, film strip,
+/// carve, strobe, zoom. Passes on to each what the players and the workspace tell.
+class CompareModes {
+ public:
+  /// The keys are those of the workspace; the zoom buttons press them.
+  struct Keys {
+    std::function<void(int KeyCode)> down;
+    std::function<void(int KeyAscii)> press;
+  };
+  CompareModes(IHost& host, Settings& settings, PlayScheduler& scheduler, Workspace& workspace, ICompareView& view,
+               Keys keys);
+
+  LockedVideos& Locks() { return locks_; }
+  const LockedVideos& Locks() const { return locks_; }
+  Overlay& Transparency() { return overlay_; }
+  MultiPicture& Strip() { return strip_; }
+  Carve& Piece() { return carve_; }
+  StrobeControl& Strobe() { return strobe_; }
+  ZoomPan& Zoom() { return zoom_; }
+
+  /// The zoom window, and the strobe window with its choices.
+  void TZP_Click();
+  void TASF_Click();
+  bool ZoomShown() const { return zoomShown_; }
+  bool StrobeShown() const { return strobe_.StrobeWindowOpen(); }
+
+  /// Leaves the mode that is up, the innermost first; false when there is none.
+  bool Escape();
+  /// A square was drawn, with opposite corners in pixels of the slot's picture; true takes it.
+  bool TakeSquare(int slot, POINTAPI corner, POINTAPI opposite) { return strip_.TakeSquare(slot, corner, opposite); }
+  /// A drawing tool moved a player: mix and piece follow.
+  void MPManualSignal();
+  /// Leaves everything, for the end of the section.
+  void CloseAll();
+
+  // --- from the players and the workspace
+  void Signal(int slot);
+  void Notify(int slot);
+  void PlayerResized(int slot);
+  void VideoClosing(int slot);
+  void StateChanged();
+  void FocusChanged();
+  void LayoutChanged() { strip_.LayoutChanged(); }
+  /// A position is shown anew, or a lock, its play or a mode has changed: the dual controls follow.
+  void ShowDual();
+
+  /// A lock was made or ended or its play began or ended: bars and buttons of the transport are set anew.
+  std::function<void()> LocksChanged;
+
+ private:
+  Workspace& workspace_;
+  ICompareView& view_;
+  LockedVideos locks_;
+  Overlay overlay_;
+  MultiPicture strip_;
+  Carve carve_;
+  StrobeControl strobe_;
+  ZoomPan zoom_;
+  bool zoomShown_ = false;
+};
+
+}  // namespace kinalyx
