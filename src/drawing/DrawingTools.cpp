@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "drawing/ShapeGeometry.h"
+#include "platform/files/Folders.h"
 
 namespace kinalyx {
 namespace {
@@ -19,6 +20,7 @@ constexpr Colour kOthers = 255;      // red, while one shape is selected
 DrawingTools::DrawingTools(ShapeEngine& engine, Settings& settings, IDrawingWorkspace& workspace)
     : engine_(engine), settings_(settings), workspace_(workspace) {
   engine_.SetLockListener(this);
+  if (engine_.Log.path.empty()) engine_.Log.path = JoinPath(settings_.AppPath, "Kinalyx_Log.txt");
 }
 
 DrawingTools::~DrawingTools() { engine_.SetLockListener(nullptr); }
@@ -196,6 +198,7 @@ bool DrawingTools::MouseDown(int Button, int /*Shift*/, float X, float Y, int Wi
     workspace_.StopClick(Window);
     EndConstruction();
     DrawingOff();
+    CaptionKept_ = false;
     EndAnnouncement();
     return true;
   }

@@ -40,7 +40,7 @@ class ShapeEngine {
   bool EllipseFromCentre = false;
   Colour CadColor = 0;         ///< the current vector colour
   bool PathHighlight = false;  ///< set by the first finished path that is painted
-  ShapeLog Log;
+  ShapeLog Log;                ///< of every operation; off
 
   /// Who is told of finished shapes; not owned, may be null.
   void SetLockListener(IShapeLocked* listener) { listener_ = listener; }
