@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "Bench.h"
+#include "drawing/MultiShapes.h"
 #include "drawing/ShapePainting.h"
 #include "drawing/ShapeStore.h"
 #include "drawing/WindowPainter.h"
@@ -103,6 +104,24 @@ Figure DraggedShape() {
   return {Mean(samples), "ms", stage.PaintDirectly()};
 }
 
+/// All shapes are turned at once; one mouse move turns, paints and shows them. Baseline: painting alone.
+Figure RotatedShapes() {
+  Stage stage;
+  ShapeList list;
+  list.Shapes = stage.shapes;
+  list.NumShapes = kShapes;
+  const POINTAPI middle = MultiGetMid(list);
+  MultiPrepTrans(list);
+  std::vector<double> samples;
+  for (int i = 1; i <= 60; ++i)
+    samples.push_back(stage.Frame([&] {
+      MultiRotateShape(list, i, middle);
+      stage.painter.Paint(stage.canvas, ShapesOf(list), stage.colours, {}, kLook, {});
+    }));
+  return {Mean(samples), "ms", stage.PaintDirectly()};
+}
+
+const Register kRotated({"edit_drag_100", {Target::Of::AtMost, 25, 15}, RotatedShapes});
 const Register kUnchanged({"shapes_100", {Target::Of::AtMost, 0.5, 0.1}, UnchangedShapes});
 const Register kDragged({"shapes_100_drag", {Target::Of::AtMost, 4, 1}, DraggedShape});
 
