@@ -6,6 +6,7 @@ namespace kinalyx {
 
 AnalysisWorkspace::AnalysisWorkspace(IHost& host, Settings& settings, IWorkspaceView& view, Navigation navigation)
     : host_(host),
+      settings_(settings),
       view_(view),
       workspace_(host, settings, view),
       transport_(host, settings, workspace_, view),
@@ -80,6 +81,13 @@ void AnalysisWorkspace::Select(int slot) {
   if (slot == workspace_.CurrentWindow) return;
   transport_.StepReleased();
   workspace_.SelectWindow(slot);
+}
+
+void AnalysisWorkspace::SettingsChanged() {
+  for (int slot = 1; slot <= kSlots; ++slot) {
+    workspace_.MP(slot).setDrawWidth(settings_.CadWidth);
+    workspace_.MP(slot).Refresh();
+  }
 }
 
 // ---------------------------------------------------------------- from the window

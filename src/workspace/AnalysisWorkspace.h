@@ -35,6 +35,9 @@ class AnalysisWorkspace final : public IFrameInterface, public IMouseAndKeyBoard
   VideoNotes& Notes() { return notes_; }
   RulerCalibration& Ruler() { return ruler_; }
 
+  /// Line width, outline or colours have been changed on another page.
+  void SettingsChanged();
+
   // --- from the window
   /// The stage has another size.
   void StageResized();
@@ -88,6 +91,7 @@ class AnalysisWorkspace final : public IFrameInterface, public IMouseAndKeyBoard
   void Select(int slot);
 
   IHost& host_;
+  Settings& settings_;
   IWorkspaceView& view_;
   ShapeEngine engine_;
   Workspace workspace_;

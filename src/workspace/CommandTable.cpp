@@ -210,7 +210,7 @@ void MenuBar::AddBrisko() {
            {"BriskoLeftySelect", "Lefty Print"}})
     AddComing(item, kBrisko, caption);
   Add({"MenuExit", "", "&Exit Analysis", "", "", "", kNoButton, [this] {
-         if (PreparetoExit() && navigation_.exitAnalysis) navigation_.exitAnalysis();
+         if (PreparetoExit() && navigation_.exit) navigation_.exit();
        }});
 }
 

@@ -17,12 +17,12 @@ namespace kinalyx {
 /// Where the Go To menu leads; filled in by whoever owns the other pages. A page that does not exist yet
 /// stays empty.
 struct Navigation {
-  std::function<void()> library;
-  std::function<void()> mainMenu;
-  std::function<void()> capture;
+  std::function<void()> library = {};
+  std::function<void()> mainMenu = {};
   /// The analysis section is left: its videos are closed, and its window may go at the next turn of the
   /// event loop.
-  std::function<void()> exitAnalysis;
+  std::function<void()> exit = {};
+  std::function<void()> capture = {};
 };
 
 /// What the commands work on.

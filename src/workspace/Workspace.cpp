@@ -14,7 +14,7 @@ namespace {
 constexpr int kBorder = 4 * kTwipsPerPixel;      // gap and frame round a cell
 constexpr int kBarHeight = 40 * kTwipsPerPixel;  // strip under the picture where the play bar stands
 constexpr int kTallBarHeight = 72 * kTwipsPerPixel;
-constexpr int kNarrowCell = 560 * kTwipsPerPixel;  // below this width the bar needs two rows
+constexpr int kNarrowCell = 900 * kTwipsPerPixel;  // below this width the bar takes two rows
 
 /// The bar has a strip of its own under every picture, so that it never covers a foot or a ball, and no
 /// picture changes its size when another window becomes current.
@@ -183,6 +183,8 @@ bool Workspace::OpenVideo(int slot, const std::string& path) {
   at.changed = at.savedElsewhere = false;
   VideoOpened(slot);
   ShowTitle(slot);
+  // Reversed fields open on the second one of the first picture; every film is shown from its start.
+  if (at.MP->Position() == 1) at.MP->DrawFrame(0);
   if (IsShown(slot)) {
     MPResize(slot);
   } else {

@@ -131,7 +131,7 @@ class AnalysisStage {
   FakeWindow window;
   int libraryVisits = 0, menuVisits = 0, exits = 0;
   AnalysisWorkspace analysis{host, settings, window,
-                             Navigation{[this] { ++libraryVisits; }, [this] { ++menuVisits; }, {}, [this] { ++exits; }}};
+                             Navigation{[this] { ++libraryVisits; }, [this] { ++menuVisits; }, [this] { ++exits; }}};
 
  private:
   static float Pixel(int at) { return static_cast<float>(at); }

@@ -1,0 +1,316 @@
+#include "workspace/forms/AnalysisForm.h"
+
+#include <QApplication>
+#include <QBoxLayout>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "library/forms/OpenVidForm.h"
+#include "platform/widgets/Panel.h"
+#include "workspace/forms/CalibrationPanel.h"
+#include "workspace/forms/ColorRow.h"
+#include "workspace/forms/CommandMenus.h"
+#include "workspace/forms/DrawCaption.h"
+#include "workspace/forms/KeyCodeOf.h"
+#include "workspace/forms/NotesPanel.h"
+#include "workspace/forms/Notesform.h"
+#include "workspace/forms/PlayBar.h"
+#include "workspace/forms/ToolStrip.h"
+#include "workspace/forms/VideoCell.h"
+#include "workspace/forms/VideoTimerForm.h"
+
+namespace kinalyx {
+namespace {
+
+constexpr int kEdge = 8;  // between a caption and the edge of its picture
+constexpr int kOpenPanelWidth = 290;
+
+QString Text(const std::string& text) { return QString::fromStdString(text); }
+
+int ToPixels(int twips) { return static_cast<int>(std::floor(static_cast<double>(twips) / kTwipsPerPixel + 0.5)); }
+
+}  // namespace
+
+AnalysisForm::AnalysisForm(IHost& host, Settings& settings, PlayerServices& players, LastStudentInfo& remembered,
+                           Navigation navigation, QWidget* parent)
+    : QWidget(parent), host_(host), settings_(settings), players_(players), remembered_(remembered) {
+  setObjectName("AnalysisForm");
+  analysis_ = std::make_unique<AnalysisWorkspace>(host, settings, static_cast<IWorkspaceView&>(*this),
+                                                  std::move(navigation));
+  const auto run = [this](const std::string& command) { Run(command); };
+
+  menus_ = new CommandMenus(analysis_->Commands().Commands(), run, this);
+  colors_ = new ColorRow(menus_);
+  connect(colors_, &ColorRow::Chosen, this, [this](int index) { analysis_->ColorChoiceBtn_Click(index); });
+  menus_->setCornerWidget(colors_, Qt::TopRightCorner);
+  strip_ = new ToolStrip(analysis_->Commands().Commands(), run, this);
+
+  auto* rows = new QVBoxLayout(this);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->setSpacing(0);
+  rows->addWidget(menus_);
+  rows->addWidget(strip_);
+  middle_ = new QHBoxLayout;
+  middle_->setSpacing(0);
+  rows->addLayout(middle_, 1);
+  MakeStage();
+  middle_->addWidget(stage_, 1);
+  setFocusProxy(keyBox_);
+  analysis_->Start();
+}
+
+AnalysisForm::~AnalysisForm() {
+  stage_->removeEventFilter(this);
+  for (int slot = 1; slot <= kSlots; ++slot)
+    if (analysis_->Slots().HasVideo(slot)) analysis_->Slots().SaveData(slot);
+  analysis_->DetachPlayers();
+  // The bar and the panels hold references into it: they go first.
+  delete openPanel_;
+  delete stage_;
+  delete menus_;
+  delete strip_;
+}
+
+void AnalysisForm::MakeStage() {
+  stage_ = MakeFrame("stage", this);
+  stage_->setObjectName("MainPanel");
+  stage_->setMinimumSize(400, 300);
+  stage_->installEventFilter(this);
+  keyBox_ = new QWidget(stage_);
+  keyBox_->setObjectName("Text1");
+  keyBox_->setFocusPolicy(Qt::StrongFocus);
+  keyBox_->setGeometry(0, 0, 1, 1);
+  for (int slot = 1; slot <= kSlots; ++slot) {
+    auto* cell = new VideoCell(slot, players_, stage_);
+    connect(cell, &VideoCell::Pressed, this, [this, slot] { analysis_->CellPressed(slot); });
+    connect(cell, &VideoCell::DoubleClicked, this, [this, slot] { analysis_->CellDoubleClicked(slot); });
+    cells_[static_cast<std::size_t>(slot - 1)] = cell;
+    analysis_->AttachPlayer(slot, cell->MP().Control());
+  }
+  playBar_ = new PlayBar(analysis_->Player(), stage_);
+  connect(playBar_, &PlayBar::Redocked, this, [this] { analysis_->Slots().SetPlayBar(); });
+  notes_ = new NotesPanel(analysis_->Notes(), stage_);
+  caption_ = new DrawCaption(stage_);
+  connect(caption_, &DrawCaption::Off, this, [this] { analysis_->DrawOffBtn_Click(); });
+  connect(caption_, &DrawCaption::Changed, this, [this] { PlaceCaption(); });
+  timer_ = new VideoTimerForm(analysis_->Timer(), stage_);
+  connect(timer_, &FloatCard::CloseWanted, this, [this] { Run("TVT"); });
+  calibration_ = new CalibrationPanel(analysis_->Ruler(), settings_, stage_);
+}
+
+bool AnalysisForm::CloseAll() {
+  if (openPanel_ && !openPanel_->isHidden()) CloseOpenPanel();
+  return analysis_->Commands().PreparetoExit();
+}
+
+std::string AnalysisForm::SendToAnalysis(const std::string& path) {
+  std::string status;
+  analysis_->Slots().SendToAnalysis(path, [&](const std::string& words) { status = words; });
+  return status;
+}
+
+void AnalysisForm::Run(const std::string& command) { analysis_->Commands().Run(command); }
+
+// ---------------------------------------------------------------- keys and events
+
+/// A text box has the keys: what it does not want itself is still a command, but for Escape and Ctrl.
+bool AnalysisForm::Typing() const {
+  const QWidget* focus = QApplication::focusWidget();
+  return qobject_cast<const QLineEdit*>(focus) || qobject_cast<const QPlainTextEdit*>(focus);
+}
+
+void AnalysisForm::keyPressEvent(QKeyEvent* event) {
+  if (Typing() && (event->key() == Qt::Key_Escape || event->key() == Qt::Key_Control)) {
+    if (event->key() == Qt::Key_Escape) FocusKeyBox();
+    return;
+  }
+  if (event->isAutoRepeat() && !RepeatsWhileHeld(*event)) return;
+  const int code = KeyCodeOf(*event);
+  bool taken = code != 0 && !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier) && code != 17) &&
+               analysis_->Commands().Form_KeyDown(code, event->modifiers() & Qt::ShiftModifier ? 1 : 0);
+  if (const int character = KeyAsciiOf(*event); character != 0)
+    taken = analysis_->Commands().Form_KeyPress(character) || taken;
+  if (!taken) QWidget::keyPressEvent(event);
+}
+
+void AnalysisForm::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  // Players are told of their size when they come on the screen, and start with an empty picture then.
+  for (int slot = 1; slot <= kSlots; ++slot) analysis_->Slots().MP(slot).Refresh();
+  FocusKeyBox();
+}
+
+bool AnalysisForm::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == stage_ && event->type() == QEvent::Resize) {
+    analysis_->StageResized();
+    timer_->KeepInside();
+    calibration_->KeepInside();
+    PlaceOpenPanel();
+    if (!playBar_->Docked()) playBar_->KeepInside();
+  }
+  return QWidget::eventFilter(watched, event);
+}
+
+// ---------------------------------------------------------------- grid
+
+/// Edges are rounded, not sizes: cells that meet in twips meet in pixels.
+QRect AnalysisForm::Pixels(const TwipRect& place) const {
+  const int left = ToPixels(place.Left);
+  const int top = ToPixels(place.Top);
+  return {left, top, ToPixels(place.Left + place.Width) - left, ToPixels(place.Top + place.Height) - top};
+}
+
+int AnalysisForm::MainPanelWidth() { return stage_->width() * kTwipsPerPixel; }
+int AnalysisForm::MainPanelHeight() { return stage_->height() * kTwipsPerPixel; }
+
+void AnalysisForm::PlaceCell(int slot, const TwipRect& border, const TwipRect& video) {
+  Cell(slot).Place(Pixels(border), Pixels(video));
+}
+
+void AnalysisForm::HideCell(int slot) { Cell(slot).hide(); }
+
+void AnalysisForm::PlacePlayer(int slot, const TwipRect& place, bool shown) {
+  Cell(slot).PlacePlayer(Pixels(place), shown);
+}
+
+void AnalysisForm::PaintBorder(int slot, bool current) { Cell(slot).SetCurrent(current); }
+void AnalysisForm::SetCellTitle(int slot, const std::string& title) { Cell(slot).SetTitle(Text(title)); }
+
+void AnalysisForm::SetCellPosition(int slot, int position, int maximum, const std::string& line) {
+  Cell(slot).SetPosition(position, maximum, Text(line));
+}
+
+// ---------------------------------------------------------------- play bar
+
+void AnalysisForm::PlacePlayBar(const TwipRect& place) {
+  if (playBar_->Docked()) playBar_->setGeometry(Pixels(place));
+  PlaceCaption();
+}
+
+void AnalysisForm::SetScrollRange(int maximum) { playBar_->SetScrollRange(maximum); }
+void AnalysisForm::SetScrollValue(int position) { playBar_->SetScrollValue(position); }
+void AnalysisForm::SetPlayPicture(bool playing) { playBar_->SetPlayPicture(playing); }
+void AnalysisForm::SetSlomoButton(bool down) { playBar_->SetSlomo(down); }
+void AnalysisForm::SetLoopButton(bool down) { playBar_->SetLoop(down); }
+void AnalysisForm::SetDisplayLine(const std::string& line, const std::string& counter) {
+  playBar_->SetLine(Text(line), Text(counter));
+}
+void AnalysisForm::SetMarks(const std::vector<int>& marks) { playBar_->SetMarks(marks); }
+
+// ---------------------------------------------------------------- drawing
+
+/// At the top right of the current picture, under the video's name where both do not fit side by side.
+void AnalysisForm::PlaceCaption() {
+  if (!caption_ || caption_->isHidden()) return;
+  caption_->adjustSize();
+  const Slot& at = analysis_->Slots().Current();
+  const QRect panel = Pixels({at.cell.Left + at.panel.Left, at.cell.Top + at.panel.Top, at.panel.Width, at.panel.Height});
+  const QRect title = Cell(analysis_->Slots().CurrentWindow).TitleGeometry();
+  const bool beside = title.width() + caption_->width() + 4 * kEdge <= panel.width();
+  const int left = std::max(panel.left() + kEdge, panel.right() - kEdge - caption_->width());
+  caption_->move(std::min(left, std::max(0, stage_->width() - caption_->width())),
+                 panel.top() + kEdge + (beside ? 0 : title.height() + 4));
+  caption_->raise();
+}
+
+void AnalysisForm::SetDisplayText(const std::string& text) { caption_->SetText(Text(text)); }
+void AnalysisForm::ShowVectorColor(Colour colour) { caption_->ShowColor(colour); }
+void AnalysisForm::HideVectorColor() { caption_->HideColor(); }
+void AnalysisForm::SetColorButton(int index) { colors_->Press(index); }
+
+// ---------------------------------------------------------------- panels and commands
+
+void AnalysisForm::ShowNotesPnl(const TwipRect& place, const std::string& notes) {
+  notes_->SetText(notes);
+  notes_->setGeometry(Pixels(place));
+  if (!notes_->isHidden()) return;
+  notes_->show();
+  notes_->raise();
+  notes_->setFocus();
+}
+
+void AnalysisForm::HideNotesPnl() {
+  notes_->hide();
+  FocusKeyBox();
+}
+
+void AnalysisForm::ShowVideoTimer(bool shown) { shown ? timer_->Open() : timer_->hide(); }
+
+void AnalysisForm::SetVideoTimer(const std::string& reading, bool negative, const std::string& rate) {
+  timer_->SetReading(Text(reading), negative, Text(rate));
+}
+
+void AnalysisForm::ShowCalibration(bool shown) {
+  if (shown) {
+    calibration_->Begin();
+  } else {
+    calibration_->hide();
+    FocusKeyBox();
+  }
+}
+
+void AnalysisForm::SetCalibrationLength(const std::string& length) { calibration_->SetLength(Text(length)); }
+
+void AnalysisForm::ShowNotesform() {
+  Notesform form(host_, BoxText(analysis_->Slots().Current().data.Notes), this);
+  form.exec();
+}
+
+// ---------------------------------------------------------------- open panel
+
+void AnalysisForm::MakeOpenPanel() {
+  OpenVideoCalls calls;
+  calls.open = [this](const std::string& path) {
+    return analysis_->Slots().OpenVideo(analysis_->Slots().CurrentWindow, path);
+  };
+  calls.openFamily = [this](const std::vector<std::string>& paths) { analysis_->Slots().OpenFamily(paths); };
+  calls.undo = [this] { analysis_->Slots().UndoLastOpen(); };
+  calls.done = [this] { CloseOpenPanel(); };
+  openChoice_ = settings_.OpenDlgChoice;
+  if (openChoice_ == 0 || openChoice_ == 1) {
+    openPanel_ = new OpenVidForm(players_, settings_, remembered_, std::move(calls), this);
+    openPanel_->setFixedWidth(kOpenPanelWidth);
+    middle_->insertWidget(openChoice_ == 1 ? 0 : -1, openPanel_);
+  } else {
+    openPanel_ = new OpenVidCForm(players_, settings_, remembered_, std::move(calls), stage_);
+  }
+}
+
+void AnalysisForm::ShowOpenPanel() {
+  if (openPanel_ && openChoice_ != settings_.OpenDlgChoice) delete std::exchange(openPanel_, nullptr);
+  if (!openPanel_) MakeOpenPanel();
+  openPanel_->show();
+  openPanel_->raise();
+  PlaceOpenPanel();
+  openPanel_->Open();
+}
+
+/// Beside the stage the layout places it; over the stage it stands in the middle.
+void AnalysisForm::PlaceOpenPanel() {
+  if (!openPanel_ || openPanel_->isHidden() || openPanel_->parentWidget() != stage_) return;
+  const QSize room = stage_->size() - QSize(2 * kEdge, 2 * kEdge);
+  openPanel_->resize(openPanel_->sizeHint().boundedTo(room).expandedTo(openPanel_->minimumSize()));
+  openPanel_->move(stage_->rect().center() - openPanel_->rect().center());
+}
+
+void AnalysisForm::CloseOpenPanel() {
+  openPanel_->hide();
+  FocusKeyBox();
+}
+
+void AnalysisForm::CommandsChanged() {
+  menus_->Update();
+  strip_->Update();
+  colors_->SetLive(analysis_->Tools().Drawing());
+  playBar_->SetVideo(analysis_->Slots().HasVideo(analysis_->Slots().CurrentWindow));
+}
+
+void AnalysisForm::FocusKeyBox() {
+  if (isVisible()) keyBox_->setFocus();
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,118 @@
+#pragma once
+
+#include <QWidget>
+#include <array>
+#include <memory>
+
+#include "library/LibraryTree.h"
+#include "video/AVIControl.h"
+#include "workspace/AnalysisWorkspace.h"
+
+class QHBoxLayout;
+
+namespace kinalyx {
+
+class CalibrationPanel;
+class ColorRow;
+class CommandMenus;
+class DrawCaption;
+class NotesPanel;
+class OpenVideoParts;
+class PlayBar;
+class ToolStrip;
+class VideoCell;
+class VideoTimerForm;
+
+/// The analysis section's page: menus, tool strip and the dark stage with its eight windows, play bar and
+/// small panels. It shows what AnalysisWorkspace tells it to, and hands it mouse and keys.
+class AnalysisForm : public QWidget, private IWorkspaceView {
+  Q_OBJECT
+
+ public:
+  /// What is passed must outlive the form. The form may be let go at any time from the event loop; videos
+  /// that are still open are written then, without a question.
+  /// @param remembered  the program's one remembered library selection
+  AnalysisForm(IHost& host, Settings& settings, PlayerServices& players, LastStudentInfo& remembered,
+               Navigation navigation, QWidget* parent = nullptr);
+  ~AnalysisForm() override;
+
+  /// The page has been opened: the keys are its own.
+  void Entered() { FocusKeyBox(); }
+  /// Writes and closes all videos. False when the user kept one open, because its drawings could not be saved.
+  bool CloseAll();
+  /// Opens a video in the first free window. The result is for a status line.
+  std::string SendToAnalysis(const std::string& path);
+  void SettingsChanged() { analysis_->SettingsChanged(); }
+
+  AnalysisWorkspace& Analysis() { return *analysis_; }
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void MakeStage();
+  void MakeOpenPanel();
+  void CloseOpenPanel();
+  void PlaceOpenPanel();
+  void Run(const std::string& command);
+  void PlaceCaption();
+  QRect Pixels(const TwipRect& place) const;
+  bool Typing() const;
+  VideoCell& Cell(int slot) { return *cells_[static_cast<std::size_t>(slot - 1)]; }
+
+  // --- IWorkspaceView
+  int MainPanelWidth() override;
+  int MainPanelHeight() override;
+  void PlaceCell(int slot, const TwipRect& border, const TwipRect& video) override;
+  void HideCell(int slot) override;
+  void PlacePlayer(int slot, const TwipRect& place, bool shown) override;
+  void PaintBorder(int slot, bool current) override;
+  void SetCellTitle(int slot, const std::string& title) override;
+  void SetCellPosition(int slot, int position, int maximum, const std::string& line) override;
+  void PlacePlayBar(const TwipRect& place) override;
+  void SetScrollRange(int maximum) override;
+  void SetScrollValue(int position) override;
+  void SetPlayPicture(bool playing) override;
+  void SetSlomoButton(bool down) override;
+  void SetLoopButton(bool down) override;
+  void SetDisplayLine(const std::string& line, const std::string& counter) override;
+  void SetMarks(const std::vector<int>& marks) override;
+  void SetDisplayText(const std::string& text) override;
+  void ShowVectorColor(Colour colour) override;
+  void HideVectorColor() override;
+  void SetColorButton(int index) override;
+  void ShowNotesPnl(const TwipRect& place, const std::string& notes) override;
+  void HideNotesPnl() override;
+  void ShowVideoTimer(bool shown) override;
+  void SetVideoTimer(const std::string& reading, bool negative, const std::string& rate) override;
+  void ShowCalibration(bool shown) override;
+  void SetCalibrationLength(const std::string& length) override;
+  void ShowNotesform() override;
+  void ShowOpenPanel() override;
+  void CommandsChanged() override;
+  void FocusKeyBox() override;
+
+  IHost& host_;
+  Settings& settings_;
+  PlayerServices& players_;
+  LastStudentInfo& remembered_;
+  std::unique_ptr<AnalysisWorkspace> analysis_;
+  CommandMenus* menus_ = nullptr;
+  ColorRow* colors_ = nullptr;
+  ToolStrip* strip_ = nullptr;
+  QHBoxLayout* middle_ = nullptr;  ///< the stage, and the open panel beside it
+  QWidget* stage_ = nullptr;
+  QWidget* keyBox_ = nullptr;
+  std::array<VideoCell*, kSlots> cells_{};
+  PlayBar* playBar_ = nullptr;
+  DrawCaption* caption_ = nullptr;
+  NotesPanel* notes_ = nullptr;
+  VideoTimerForm* timer_ = nullptr;
+  CalibrationPanel* calibration_ = nullptr;
+  OpenVideoParts* openPanel_ = nullptr;  ///< made when first wanted
+  int openChoice_ = -1;                  ///< the place for which it was made
+};
+
+}  // namespace kinalyx

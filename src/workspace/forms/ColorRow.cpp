@@ -1,0 +1,82 @@
+#include "workspace/forms/ColorRow.h"
+
+#include <QBoxLayout>
+#include <QPainter>
+#include <QToolButton>
+
+#include "drawing/DrawingTools.h"
+#include "platform/widgets/Theme.h"
+
+namespace kinalyx {
+namespace {
+
+constexpr const char* kNames[] = {"Red",   "Yellow", "Blue", "Green", "Magenta",   "Teal",
+                                  "Orange", "Dark green", "Cyan", "White", "Dark blue", "Pink"};
+
+/// A dot of its colour with a rim that shows it on any ground; a ring round the one that is pressed.
+class ColorButton : public QToolButton {
+ public:
+  ColorButton(int index, QWidget* parent) : QToolButton(parent) {
+    colour_ = ColorOf(kColorChoices[static_cast<std::size_t>(index)]);
+    setObjectName(QString("ColorChoiceBtn%1").arg(index));
+    setAccessibleName(kNames[index]);
+    setFixedSize(22, 24);
+    setCheckable(true);
+    setFocusPolicy(Qt::NoFocus);
+    setCursor(Qt::PointingHandCursor);
+    setAttribute(Qt::WA_Hover);
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    const Theme theme = CurrentTheme();
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QPointF middle(width() / 2.0, height() / 2.0);
+    QColor fill = colour_;
+    if (!isEnabled()) fill = Mix(fill, theme.panel, 0.62);
+    if (isChecked() || (isEnabled() && underMouse())) {
+      painter.setPen(QPen(isChecked() ? theme.heading : theme.muted, 2));
+      painter.setBrush(Qt::NoBrush);
+      painter.drawEllipse(middle, 9.5, 9.5);
+    }
+    painter.setPen(QPen(isEnabled() ? Mix(theme.text, fill, 0.35) : Mix(theme.faint, theme.panel, 0.5), 1));
+    painter.setBrush(fill);
+    painter.drawEllipse(middle, 6.5, 6.5);
+  }
+
+ private:
+  QColor colour_;
+};
+
+}  // namespace
+
+ColorRow::ColorRow(QWidget* parent) : QWidget(parent) {
+  setObjectName("ColorRow");
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(0, 0, 8, 0);
+  row->setSpacing(0);
+  for (int i = 0; i < static_cast<int>(buttons_.size()); ++i) {
+    auto* button = new ColorButton(i, this);
+    connect(button, &QToolButton::clicked, this, [this, i] { emit Chosen(i); });
+    row->addWidget(button);
+    buttons_[static_cast<std::size_t>(i)] = button;
+  }
+  SetLive(false);
+}
+
+void ColorRow::Press(int index) {
+  for (int i = 0; i < static_cast<int>(buttons_.size()); ++i)
+    buttons_[static_cast<std::size_t>(i)]->setChecked(i == index);
+}
+
+void ColorRow::SetLive(bool live) {
+  for (int i = 0; i < static_cast<int>(buttons_.size()); ++i) {
+    QToolButton* button = buttons_[static_cast<std::size_t>(i)];
+    button->setEnabled(live);
+    button->setToolTip(live ? tr("Draw in this colour: %1").arg(QString(kNames[i]).toLower())
+                            : tr("Take up a drawing tool to choose its colour"));
+  }
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,63 @@
+#include "workspace/forms/CommandMenus.h"
+
+#include <QEvent>
+#include <map>
+
+#include "platform/widgets/Icons.h"
+#include "platform/widgets/Theme.h"
+#include "workspace/MenuBar.h"
+
+namespace kinalyx {
+
+CommandMenus::CommandMenus(const std::vector<Command>& commands, std::function<void(const std::string&)> run,
+                           QWidget* parent)
+    : QMenuBar(parent) {
+  setObjectName("MenuBar");
+  setNativeMenuBar(false);
+  std::map<std::string, QMenu*> menus;
+  for (const Command& command : commands) {
+    if (command.menu.empty() && command.caption.empty()) continue;  // a button alone
+    QMenu*& menu = menus[command.menu];
+    if (!menu && !command.menu.empty()) {
+      menu = addMenu(QString::fromStdString(command.menu));
+      menu->setToolTipsVisible(true);
+    }
+    if (command.caption.empty()) {
+      menu->addSeparator();
+      continue;
+    }
+    auto* action = new QAction(QString::fromStdString(command.caption), this);
+    action->setObjectName(QString::fromStdString(command.item));
+    action->setCheckable(static_cast<bool>(command.checked));
+    connect(action, &QAction::triggered, this, [run, item = command.item] { run(item); });
+    menu ? menu->addAction(action) : addAction(action);
+    entries_.emplace_back(&command, action);
+  }
+  Tint();
+  Update();
+}
+
+void CommandMenus::Update() {
+  for (const auto& [command, action] : entries_) {
+    const std::string reason = command->Reason();
+    action->setEnabled(reason.empty());
+    action->setToolTip(QString::fromStdString(reason.empty() ? command->tip : reason));
+    if (command->checked) action->setChecked(command->checked());
+  }
+}
+
+void CommandMenus::changeEvent(QEvent* event) {
+  QMenuBar::changeEvent(event);
+  if (event->type() == QEvent::StyleChange) Tint();
+}
+
+void CommandMenus::Tint() {
+  const Theme theme = CurrentTheme();
+  for (const auto& [command, action] : entries_) {
+    // A check mark takes the icon's place.
+    if (!command->icon.empty() && !command->checked)
+      action->setIcon(Icon(QString::fromStdString(command->icon), theme.heading, theme.accentText));
+  }
+}
+
+}  // namespace kinalyx

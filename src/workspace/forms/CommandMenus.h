@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QMenuBar>
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace kinalyx {
+
+struct Command;
+
+/// The menus of the analysis section, from the command table. Entries carry the system's names as
+/// objectName.
+class CommandMenus : public QMenuBar {
+  Q_OBJECT
+
+ public:
+  CommandMenus(const std::vector<Command>& commands, std::function<void(const std::string&)> run,
+               QWidget* parent = nullptr);
+
+  /// Enables, checks and explains the entries anew.
+  void Update();
+
+ protected:
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void Tint();
+
+  std::vector<std::pair<const Command*, QAction*>> entries_;
+};
+
+}  // namespace kinalyx

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QFrame>
+
+#include "platform/paint/Geometry.h"
+
+class QLabel;
+class QToolButton;
+
+namespace kinalyx {
+
+/// What the tool in hand says over the picture: its colour `VectorColorDisplay`, its caption or the measure
+/// of the shape, and the button `DrawOffBtn` that puts it down.
+class DrawCaption : public QFrame {
+  Q_OBJECT
+
+ public:
+  explicit DrawCaption(QWidget* parent);
+
+  /// Blanks at both ends are left out; empty hides the caption.
+  void SetText(const QString& text);
+  void ShowColor(Colour colour);
+  void HideColor();
+
+ signals:
+  void Off();
+  /// It has another size, or came or went.
+  void Changed();
+
+ protected:
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void Dress();
+
+  QFrame* swatch_;
+  QLabel* text_;
+  QToolButton* off_;
+};
+
+}  // namespace kinalyx

@@ -1,0 +1,80 @@
+#include "workspace/forms/FloatCard.h"
+
+#include <QBoxLayout>
+#include <QEvent>
+#include <QMouseEvent>
+#include <QToolButton>
+#include <algorithm>
+
+#include "platform/widgets/Icons.h"
+#include "platform/widgets/Panel.h"
+#include "platform/widgets/Theme.h"
+#include "workspace/forms/StageLook.h"
+
+namespace kinalyx {
+
+FloatCard::FloatCard(const QString& name, const QString& title, QWidget* parent) : QFrame(parent) {
+  setObjectName(name);
+  setProperty("look", "card");
+  setCursor(Qt::ArrowCursor);
+  auto* rows = new QVBoxLayout(this);
+  rows->setContentsMargins(14, 8, 14, 14);
+  rows->setSpacing(8);
+  auto* head = new QHBoxLayout;
+  QLabel* caption = MakeLabel(name + "Title", title, nullptr, this);
+  caption->setFont(UiFont(kTextPixels, 600));
+  caption->setAttribute(Qt::WA_TransparentForMouseEvents);
+  head->addWidget(caption, 1);
+  close_ = new QToolButton(this);
+  close_->setObjectName(name + "Close");
+  close_->setToolTip(tr("Close"));
+  close_->setFixedSize(24, 24);
+  close_->setIconSize({14, 14});
+  close_->setFocusPolicy(Qt::NoFocus);
+  connect(close_, &QToolButton::clicked, this, &FloatCard::CloseWanted);
+  head->addWidget(close_);
+  head->setContentsMargins(0, 0, 0, 0);
+  rows->addLayout(head);
+  body_ = new QVBoxLayout;
+  body_->setSpacing(8);
+  rows->addLayout(body_);
+  hide();
+  Dress();
+}
+
+void FloatCard::Open() {
+  adjustSize();
+  if (!moved_) move(parentWidget()->rect().center() - rect().center());
+  KeepInside();
+  show();
+  raise();
+}
+
+void FloatCard::KeepInside() {
+  const QSize room = parentWidget()->size();
+  move(std::clamp(x(), 0, std::max(0, room.width() - width())), std::clamp(y(), 0, std::max(0, room.height() - height())));
+}
+
+void FloatCard::mousePressEvent(QMouseEvent* event) {
+  grab_ = event->pos();
+  raise();
+}
+
+void FloatCard::mouseMoveEvent(QMouseEvent* event) {
+  if (!(event->buttons() & Qt::LeftButton)) return;
+  moved_ = true;
+  move(mapToParent(event->pos() - grab_));
+  KeepInside();
+}
+
+void FloatCard::changeEvent(QEvent* event) {
+  QFrame::changeEvent(event);
+  if (event->type() == QEvent::StyleChange && close_) Dress();
+}
+
+void FloatCard::Dress() {
+  WearStageSheet(this, kCardSheet);
+  close_->setIcon(Icon("close", StageLook::Current().ink));
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QFrame>
+
+class QToolButton;
+class QVBoxLayout;
+
+namespace kinalyx {
+
+/// A small card that floats over the stage: a heading by which it is dragged, a button that closes it, and
+/// a body. It stays inside its parent.
+class FloatCard : public QFrame {
+  Q_OBJECT
+
+ public:
+  FloatCard(const QString& name, const QString& title, QWidget* parent);
+
+  QVBoxLayout* Body() { return body_; }
+  /// Shows it in the middle of the parent, or, once the user has moved it, where it was left.
+  void Open();
+  /// After a resize of the parent.
+  void KeepInside();
+
+ signals:
+  void CloseWanted();
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void Dress();
+
+  QVBoxLayout* body_;
+  QToolButton* close_ = nullptr;
+  QPoint grab_;
+  bool moved_ = false;
+};
+
+}  // namespace kinalyx

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QFrame>
+
+#include "workspace/VideoNotes.h"
+
+class QPlainTextEdit;
+class QToolButton;
+
+namespace kinalyx {
+
+/// `NotesPnl`: the notes of the current video over the lower part of its cell.
+class NotesPanel : public QFrame {
+  Q_OBJECT
+
+ public:
+  NotesPanel(VideoNotes& notes, QWidget* parent);
+
+  /// Shows a text without telling it as a change; the same text leaves the cursor where it is.
+  void SetText(const std::string& text);
+
+ protected:
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void TextChanged();
+  void Dress();
+
+  VideoNotes& notes_;
+  QPlainTextEdit* box_;
+  QToolButton* close_ = nullptr;
+};
+
+/// Notes as a box has them, lines ended by LF, and as files have them, by CR LF.
+QString BoxText(const std::string& notes);
+std::string FileText(const QString& text);
+
+}  // namespace kinalyx

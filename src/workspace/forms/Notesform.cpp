@@ -1,0 +1,93 @@
+#include "workspace/forms/Notesform.h"
+
+#include <QBoxLayout>
+#include <QFileDialog>
+#include <QPlainTextEdit>
+
+#include "platform/files/FileStore.h"
+#include "platform/widgets/Buttons.h"
+#include "platform/widgets/Theme.h"
+#include "workspace/forms/NotesPanel.h"
+
+namespace kinalyx {
+
+Notesform::Notesform(IHost& host, const QString& text, QWidget* parent) : QDialog(parent), host_(host) {
+  setObjectName("Notesform");
+  setWindowTitle(tr("Print Window with Notes"));
+  resize(620, 440);
+  auto* rows = new QVBoxLayout(this);
+  rows->setContentsMargins(kGap, kGap, kGap, kGap);
+  rows->setSpacing(kGap);
+
+  auto* file = new QHBoxLayout;
+  file->setSpacing(8);
+  const QString captions[] = {tr("New"), tr("Open"), tr("Save"), tr("Print")};
+  const char* icons[] = {"add", "open", "save", "print"};
+  for (int i = 0; i < 4; ++i) {
+    auto* button = new Button(QString("PrintBtn%1").arg(i), captions[i], icons[i], Look::Quiet, this);
+    connect(button, &QPushButton::clicked, this, [this, i] { PrintBtn_Click(i); });
+    file->addWidget(button);
+    if (i == 3) Coming(button);
+  }
+  file->addStretch(1);
+  rows->addLayout(file);
+
+  notes_ = new QPlainTextEdit(text, this);
+  notes_->setObjectName("Notes");
+  notes_->setTabChangesFocus(true);
+  rows->addWidget(notes_, 1);
+
+  auto* actions = new QHBoxLayout;
+  actions->setSpacing(8);
+  actions->addStretch(1);
+  const QString prints[] = {tr("Print Highlighted Window"), tr("Print All Windows"), tr("Close without Printing")};
+  for (int i = 0; i < 3; ++i) {
+    auto* button = new Button(QString("SSCommand1_%1").arg(i), prints[i], i < 2 ? "print" : "", i < 2 ? Look::Filled : Look::Quiet, this);
+    actions->addWidget(button);
+    if (i < 2) {
+      Coming(button);
+    } else {
+      connect(button, &QPushButton::clicked, this, &QDialog::reject);
+    }
+  }
+  rows->addLayout(actions);
+  notes_->setFocus();
+}
+
+void Notesform::PrintBtn_Click(int index) {
+  switch (index) {
+    case 0:
+      notes_->clear();
+      file_.clear();
+      break;
+    case 1: Open(); break;
+    case 2: Save(); break;
+    default: break;
+  }
+  notes_->setFocus();
+}
+
+void Notesform::Open() {
+  const auto path = host_.PickFile({tr("Open Notes").toStdString(), "", "Text Files (*.txt)|*.txt"});
+  if (!path) return;
+  if (const auto text = ReadTextFile(*path, 1 << 20)) {
+    file_ = QString::fromStdString(*path);
+    notes_->setPlainText(BoxText(*text));
+  } else {
+    host_.Message(MessageKind::Warning, "", tr("The file cannot be read, or it is too large for notes.").toStdString());
+  }
+}
+
+void Notesform::Save() {
+  QString path = QFileDialog::getSaveFileName(this, tr("Save Notes"), file_, tr("Text Files (*.txt)"));
+  if (path.isEmpty()) return;
+  if (!path.endsWith(".txt", Qt::CaseInsensitive)) path += ".txt";
+  std::string error;
+  if (WriteWholeFile(path.toStdString(), FileText(notes_->toPlainText()), &error)) {
+    file_ = path;
+  } else {
+    host_.Message(MessageKind::Warning, "", tr("The notes could not be saved: %1.").arg(QString::fromStdString(error)).toStdString());
+  }
+}
+
+}  // namespace kinalyx

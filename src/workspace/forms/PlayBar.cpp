@@ -1,0 +1,271 @@
+#include "workspace/forms/PlayBar.h"
+
+#include <QHBoxLayout>
+#include <QMouseEvent>
+#include <QStyle>
+#include <algorithm>
+
+#include "platform/widgets/Icons.h"
+#include "workspace/forms/StageLook.h"
+
+namespace kinalyx {
+namespace {
+
+constexpr int kOneRowWidth = 892;
+constexpr int kMargin = 10;
+constexpr int kButton = 32;
+constexpr int kPlayWidth = 44;
+constexpr int kTinyWidth = 300;  // below it the buttons draw together
+constexpr int kCounter = 46;
+
+}  // namespace
+
+PlayBar::PlayBar(Transport& transport, QWidget* parent) : QFrame(parent), transport_(transport) {
+  setObjectName("Playbar");
+  seek_ = new SeekBar(this);
+  seek_->setObjectName("PlayBarHScroll");
+  connect(seek_, &SeekBar::Sought, this, [this](int position) { transport_.Seek(position); });
+
+  buttons_ = new QWidget(this);
+  auto* row = new QHBoxLayout(buttons_);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(4);
+  rewind_ = Button("CmdButton0", tr("Rewind (Up Arrow)"));
+  back_ = Button("CmdButton1", tr("Back one picture (Left Arrow); hold to go on"));
+  play_ = Button("CmdButton2", tr("Play / Pause (P)"));
+  next_ = Button("CmdButton3", tr("Next picture (Right Arrow); hold to go on"));
+  slomo_ = Button("SlomoButton", tr("Slow motion (S)"));
+  loop_ = Button("LoopButton", tr("Loop (L)"));
+  slomo_->setCheckable(true);
+  loop_->setCheckable(true);
+  for (QToolButton* button : {rewind_, back_, play_, next_, slomo_, loop_}) row->addWidget(button);
+
+  detach_ = new QToolButton(this);
+  detach_->setObjectName("PlayBarDetachBtn");
+  detach_->setToolTip(tr("Undock the Play Bar"));
+  detach_->setFocusPolicy(Qt::NoFocus);
+  detach_->setFixedSize(22, 22);
+  detach_->setIconSize({14, 14});
+  connect(detach_, &QToolButton::clicked, this, [this] { ToggleDock(); });
+
+  line_ = new FigureLabel("DisplayPanel", {}, this);
+  counter_ = new FigureLabel("FrameCounter", {}, this);
+  counter_->setToolTip(tr("Number of the picture that is shown"));
+  counter_->hide();
+
+  markBox_ = new QWidget(this);
+  markBox_->setObjectName("MarkBox");
+  auto* markRow = new QHBoxLayout(markBox_);
+  markRow->setContentsMargins(0, 0, 0, 0);
+  markRow->setSpacing(3);
+  for (int i = 0; i < 10; ++i) {
+    auto* mark = new QToolButton(markBox_);
+    mark->setObjectName(QString("Mark%1").arg(i));
+    mark->setFocusPolicy(Qt::NoFocus);
+    mark->setToolTip(tr("Go to this mark"));
+    mark->setFixedHeight(22);
+    mark->hide();
+    connect(mark, &QToolButton::clicked, this, [this, i] { transport_.Mark_Click(i); });
+    markRow->addWidget(mark);
+    marks_[static_cast<std::size_t>(i)] = mark;
+  }
+  markBox_->hide();
+
+  connect(rewind_, &QToolButton::clicked, this, [this] { transport_.cmdREwind(); });
+  connect(play_, &QToolButton::clicked, this, [this] { transport_.cmdPlay(); });
+  connect(slomo_, &QToolButton::clicked, this, [this] { transport_.ToggleSlomo(); });
+  connect(loop_, &QToolButton::clicked, this, [this] { transport_.ToggleLoop(); });
+  for (QToolButton* step : {back_, next_}) step->installEventFilter(this);
+
+  Dress();
+  SetVideo(false);
+}
+
+void PlayBar::Dress() {
+  WearStageSheet(this,
+                 "#Playbar { background: @ground; border: none; }"
+                 "#Playbar[floating=\"true\"] { background: @card; border: 1px solid @cardLine; border-radius: 8px; }"
+                 "#Playbar QLabel { color: @ink; background: transparent; font-size: 13px; }"
+                 "#Playbar #FrameCounter { color: @mark; }"
+                 "#Playbar QToolButton { border: none; border-radius: 6px; background: transparent; color: @ink;"
+                 "  padding: 0; }"
+                 "#Playbar QToolButton:hover { background: @hover; }"
+                 "#Playbar QToolButton:pressed, #Playbar QToolButton:checked { background: @accentFill; }"
+                 "#Playbar #CmdButton2 { background: @accentFill; }"
+                 "#Playbar #CmdButton2:hover { background: @accent; }"
+                 "#Playbar #CmdButton2:disabled { background: @card; }"
+                 "#Playbar #MarkBox QToolButton { background: @card; color: @mark; padding: 0 6px; font-size: 11px; }"
+                 "#Playbar #MarkBox QToolButton:hover { background: @hover; }");
+  const StageLook look = StageLook::Current();
+  const auto icon = [&](const char* name) { return Icon(name, look.ink, look.ink, look.faintInk); };
+  rewind_->setIcon(icon("rewind"));
+  back_->setIcon(icon("step-back"));
+  play_->setIcon(icon(playing_ ? "pause" : "play"));
+  next_->setIcon(icon("step-forward"));
+  slomo_->setIcon(icon("slow"));
+  loop_->setIcon(icon("loop"));
+  detach_->setIcon(icon("undock"));
+}
+
+void PlayBar::changeEvent(QEvent* event) {
+  QFrame::changeEvent(event);
+  if (event->type() == QEvent::StyleChange && detach_) Dress();
+}
+
+void PlayBar::SetVideo(bool has) {
+  if (has == hasVideo_) return;
+  hasVideo_ = has;
+  for (QToolButton* button : {rewind_, back_, play_, next_, slomo_, loop_}) button->setEnabled(has);
+  seek_->setEnabled(has);
+  buttons_->setToolTip(has ? QString() : tr("Open a video first"));
+  for (QToolButton* button : {rewind_, back_, play_, next_, slomo_, loop_})
+    button->setToolTip(has ? button->accessibleName() : button->accessibleName() + " \u2014 " + tr("Open a video first"));
+}
+
+QToolButton* PlayBar::Button(const char* name, const QString& tip) {
+  auto* button = new QToolButton(buttons_);
+  button->setObjectName(name);
+  button->setIconSize({20, 20});
+  button->setFixedSize(kButton, kButton);
+  button->setToolTip(tip);
+  button->setAccessibleName(tip);
+  button->setFocusPolicy(Qt::NoFocus);
+  return button;
+}
+
+void PlayBar::SetPlayPicture(bool playing) {
+  if (playing == playing_) return;
+  playing_ = playing;
+  const StageLook look = StageLook::Current();
+  play_->setIcon(Icon(playing ? "pause" : "play", look.ink, look.ink, look.faintInk));
+}
+
+void PlayBar::SetLine(const QString& line, const QString& counter) {
+  if (line_->text() != line) line_->setText(line);
+  const bool rearrange = counter.size() != counter_->text().size();
+  counter_->setText(counter);
+  if (rearrange) Arrange();
+}
+
+void PlayBar::SetMarks(const std::vector<int>& marks) {
+  seek_->SetMarks(marks);
+  for (std::size_t i = 0; i < marks_.size(); ++i) {
+    marks_[i]->setVisible(i < marks.size());
+    if (i < marks.size()) marks_[i]->setText(QString::number(marks[i]));
+  }
+  markBox_->setVisible(!marks.empty());
+  Arrange();
+}
+
+void PlayBar::resizeEvent(QResizeEvent*) { Arrange(); }
+
+void PlayBar::Arrange() {
+  counter_->setVisible(!counter_->text().isEmpty());
+  line_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  counter_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  detach_->raise();
+  width() >= kOneRowWidth ? ArrangeWide() : ArrangeNarrow();
+}
+
+void PlayBar::SizeButtons(int side, int playWidth) {
+  for (QToolButton* button : {rewind_, back_, next_, slomo_, loop_}) button->setFixedSize(side, kButton);
+  play_->setFixedSize(playWidth, kButton);
+  buttons_->layout()->setSpacing(side < kButton ? 1 : 4);
+  buttons_->layout()->activate();
+}
+
+/// One row: buttons, the line of the film, marks, counter, words.
+void PlayBar::ArrangeWide() {
+  SizeButtons(kButton, kPlayWidth);
+  const int buttonsWidth = buttons_->sizeHint().width();
+  const int lineWidth = FiguresWidth(line_->fontMetrics(), "888.88 seconds | 8888/8888 frames");
+  const int y = height() / 2;
+  buttons_->setGeometry(kMargin, y - kButton / 2, buttonsWidth, kButton);
+  detach_->move(width() - kMargin - detach_->width(), y - detach_->height() / 2);
+  int end = detach_->x() - 6 - lineWidth;
+  line_->setGeometry(end, y - 12, lineWidth, 24);
+  line_->show();
+  if (!counter_->isHidden()) {
+    end -= kCounter;
+    counter_->setGeometry(end, y - 12, kCounter, 24);
+  }
+  const int start = kMargin + buttonsWidth + 6;
+  if (!markBox_->isHidden()) {
+    const int room = std::min(markBox_->sizeHint().width(), end - start - 120);
+    end -= room + 8;
+    markBox_->setGeometry(end, y - 11, std::max(0, room), 22);
+  }
+  seek_->setGeometry(start, y - 12, std::max(40, end - start - 6), 24);
+}
+
+/// Two rows: the line of the film with its marks above, the buttons and the words below. Where the words do
+/// not find room they stand in the tip of the line.
+void PlayBar::ArrangeNarrow() {
+  SizeButtons(width() < kTinyWidth ? 30 : kButton, width() < kTinyWidth ? 36 : kPlayWidth);
+  const int buttonsWidth = buttons_->sizeHint().width();
+  seek_->setGeometry(kMargin - 2, 2, width() - 2 * kMargin + 4, 22);
+  const int y = 24 + (height() - 24) / 2;
+  buttons_->setGeometry(kMargin - 6, y - kButton / 2, buttonsWidth, kButton);
+  detach_->move(width() - kMargin - detach_->width() + 4, y - detach_->height() / 2);
+  const int left = buttons_->x() + buttonsWidth + 4;
+  int end = detach_->x() - 4;
+  const int words = FiguresWidth(line_->fontMetrics(), "8.88 seconds | 888/888 frames");
+  line_->setVisible(end - left >= words);
+  if (!line_->isHidden()) {
+    line_->setGeometry(end - words - 24 < left ? left : end - words - 24, y - 12, std::min(words + 24, end - left), 24);
+    end = line_->x();
+  }
+  counter_->setVisible(!counter_->text().isEmpty() && end - left >= kCounter);
+  if (!counter_->isHidden()) {
+    counter_->setGeometry(end - kCounter, y - 12, kCounter, 24);
+    end -= kCounter;
+  }
+  // Marks that find no button here still stand in the line and are reached by it.
+  markBox_->setGeometry(left, y - 11, std::max(0, std::min(markBox_->sizeHint().width(), end - left - 4)), 22);
+}
+
+void PlayBar::ToggleDock() {
+  docked_ = !docked_;
+  setProperty("floating", !docked_);
+  style()->unpolish(this);
+  style()->polish(this);
+  setCursor(docked_ ? Qt::ArrowCursor : Qt::SizeAllCursor);
+  detach_->setToolTip(docked_ ? tr("Undock the Play Bar") : tr("Redock the Play Bar"));
+  if (docked_) {
+    emit Redocked();
+  } else {
+    raise();
+  }
+}
+
+void PlayBar::KeepInside() {
+  const QSize room = parentWidget()->size();
+  move(std::clamp(x(), 0, std::max(0, room.width() - width())), std::clamp(y(), 0, std::max(0, room.height() - height())));
+}
+
+void PlayBar::mousePressEvent(QMouseEvent* event) { grab_ = event->pos(); }
+
+void PlayBar::mouseMoveEvent(QMouseEvent* event) {
+  if (docked_ || !(event->buttons() & Qt::LeftButton)) return;
+  move(mapToParent(event->pos() - grab_));
+  KeepInside();
+}
+
+bool PlayBar::eventFilter(QObject* watched, QEvent* event) {
+  if (watched != back_ && watched != next_) return false;
+  const auto* mouse = static_cast<QMouseEvent*>(event);
+  switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+      if (mouse->button() == Qt::LeftButton)
+        transport_.StepPressed(watched == next_, static_cast<float>(mouse->position().x() * kTwipsPerPixel));
+      break;
+    case QEvent::MouseMove: transport_.StepDragged(static_cast<float>(mouse->position().x() * kTwipsPerPixel)); break;
+    case QEvent::MouseButtonRelease:
+    case QEvent::Hide: transport_.StepReleased(); break;
+    default: break;
+  }
+  return false;
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <QFrame>
+#include <QToolButton>
+#include <array>
+
+#include "platform/widgets/Figures.h"
+#include "workspace/Transport.h"
+#include "workspace/forms/SeekBar.h"
+
+namespace kinalyx {
+
+/// `Playbar`: seek bar, transport buttons and the transport's line. Wide it is one row, narrow two.
+/// Undocked it floats over the stage and is dragged by its ground.
+class PlayBar : public QFrame {
+  Q_OBJECT
+
+ public:
+  PlayBar(Transport& transport, QWidget* parent);
+
+  void SetScrollRange(int maximum) { seek_->SetRange(maximum); }
+  void SetScrollValue(int position) { seek_->SetValue(position); }
+  void SetPlayPicture(bool playing);
+  void SetSlomo(bool down) { slomo_->setChecked(down); }
+  void SetLoop(bool down) { loop_->setChecked(down); }
+  void SetLine(const QString& line, const QString& counter);
+  void SetMarks(const std::vector<int>& marks);
+
+  /// Without a video in the current window there is nothing to press.
+  void SetVideo(bool has);
+  bool Docked() const { return docked_; }
+  /// Keeps a floating bar inside its parent.
+  void KeepInside();
+
+ signals:
+  /// The bar wants its docked place again.
+  void Redocked();
+
+ protected:
+  void resizeEvent(QResizeEvent*) override;
+  void mousePressEvent(QMouseEvent*) override;
+  void mouseMoveEvent(QMouseEvent*) override;
+  void changeEvent(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  QToolButton* Button(const char* name, const QString& tip);
+  void Arrange();
+  void SizeButtons(int side, int playWidth);
+  void ArrangeWide();
+  void ArrangeNarrow();
+  void Dress();
+  void ToggleDock();
+
+  Transport& transport_;
+  SeekBar* seek_;
+  QWidget* buttons_;
+  FigureLabel* line_;
+  FigureLabel* counter_;
+  QToolButton* rewind_;
+  QToolButton* back_;
+  QToolButton* play_;
+  QToolButton* next_;
+  QToolButton* slomo_;
+  QToolButton* loop_;
+  QToolButton* detach_ = nullptr;
+  QWidget* markBox_;
+  std::array<QToolButton*, 10> marks_{};
+  bool docked_ = true;
+  bool playing_ = false;
+  bool hasVideo_ = true;
+  QPoint grab_;
+};
+
+}  // namespace kinalyx

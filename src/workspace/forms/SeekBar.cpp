@@ -1,0 +1,96 @@
+#include "workspace/forms/SeekBar.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWheelEvent>
+#include <algorithm>
+
+#include "workspace/forms/StageLook.h"
+
+namespace kinalyx {
+namespace {
+
+constexpr double kKnob = 7.5;   // radius
+constexpr double kTrack = 4.0;  // thickness
+
+}  // namespace
+
+SeekBar::SeekBar(QWidget* parent) : QWidget(parent) {
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  setFocusPolicy(Qt::NoFocus);
+  setCursor(Qt::PointingHandCursor);
+}
+
+void SeekBar::SetRange(int maximum) {
+  maximum_ = std::max(0, maximum);
+  value_ = std::min(value_, maximum_);
+  update();
+}
+
+void SeekBar::SetValue(int value) {
+  const int clamped = std::clamp(value, 0, maximum_);
+  if (clamped == value_) return;
+  value_ = clamped;
+  update();
+}
+
+void SeekBar::SetMarks(std::vector<int> marks) {
+  marks_ = std::move(marks);
+  update();
+}
+
+double SeekBar::XOf(int position) const {
+  const double span = width() - 2 * kKnob;
+  return kKnob + (maximum_ > 0 ? span * position / maximum_ : 0);
+}
+
+void SeekBar::SeekTo(double x) {
+  const double span = width() - 2 * kKnob;
+  if (maximum_ <= 0 || span <= 0) return;
+  const int position = std::clamp(qRound((x - kKnob) / span * maximum_), 0, maximum_);
+  if (position != value_) {
+    SetValue(position);
+    emit Sought(position);
+  }
+}
+
+void SeekBar::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const double y = height() / 2.0;
+  const StageLook look = StageLook::Current();
+  const bool live = isEnabled() && maximum_ > 0;
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(look.cardLine);
+  painter.drawRoundedRect(QRectF(kKnob, y - kTrack / 2, width() - 2 * kKnob, kTrack), 2, 2);
+  if (!live) return;
+  const double x = XOf(value_);
+  painter.setBrush(look.accent);
+  painter.drawRoundedRect(QRectF(kKnob, y - kTrack / 2, x - kKnob, kTrack), 2, 2);
+  painter.setBrush(look.mark);
+  for (const int mark : marks_) painter.drawRoundedRect(QRectF(XOf(mark) - 1.5, y - 6, 3, 12), 1, 1);
+  painter.setBrush(Qt::white);
+  painter.drawEllipse(QPointF(x, y), kKnob, kKnob);
+}
+
+void SeekBar::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  dragging_ = true;
+  SeekTo(event->position().x());
+}
+
+void SeekBar::mouseMoveEvent(QMouseEvent* event) {
+  if (dragging_) SeekTo(event->position().x());
+}
+
+void SeekBar::mouseReleaseEvent(QMouseEvent*) { dragging_ = false; }
+
+void SeekBar::wheelEvent(QWheelEvent* event) {
+  const int step = event->angleDelta().y() > 0 ? -1 : 1;
+  const int position = std::clamp(value_ + step, 0, maximum_);
+  if (position == value_) return;
+  SetValue(position);
+  emit Sought(position);
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QWidget>
+#include <vector>
+
+namespace kinalyx {
+
+/// The line along which a video is dragged: a track with a knob and the marks of the video. A press
+/// jumps there, a drag follows, the wheel moves by one.
+class SeekBar : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit SeekBar(QWidget* parent = nullptr);
+
+  void SetRange(int maximum);
+  /// Moves the knob; tells nobody.
+  void SetValue(int value);
+  void SetMarks(std::vector<int> marks);
+  int Value() const { return value_; }
+  int Maximum() const { return maximum_; }
+
+  QSize sizeHint() const override { return {200, 24}; }
+  QSize minimumSizeHint() const override { return {60, 20}; }
+
+ signals:
+  /// The user wants this position.
+  void Sought(int position);
+
+ protected:
+  void paintEvent(QPaintEvent*) override;
+  void mousePressEvent(QMouseEvent*) override;
+  void mouseMoveEvent(QMouseEvent*) override;
+  void mouseReleaseEvent(QMouseEvent*) override;
+  void wheelEvent(QWheelEvent*) override;
+
+ private:
+  double XOf(int position) const;
+  void SeekTo(double x);
+
+  int maximum_ = 0;
+  int value_ = 0;
+  bool dragging_ = false;
+  std::vector<int> marks_;
+};
+
+}  // namespace kinalyx

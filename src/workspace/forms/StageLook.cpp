@@ -1,0 +1,66 @@
+#include "workspace/forms/StageLook.h"
+
+#include <QWidget>
+
+#include "platform/widgets/Theme.h"
+
+namespace kinalyx {
+
+const char* const kCardSheet =
+    "[look=\"card\"] { background: @card; border: 1px solid @cardLine; border-radius: 8px; }"
+    "[look=\"card\"] QLabel { color: @ink; background: transparent; border: none; }"
+    "[look=\"card\"] QLabel[muted=\"true\"] { color: @faintInk; font-size: 11px; }"
+    "[look=\"card\"] QToolButton { border: none; border-radius: 6px; background: transparent; padding: 0; }"
+    "[look=\"card\"] QToolButton:hover { background: @hover; }"
+    "[look=\"card\"] QPushButton { background: @hover; color: @ink; border: 1px solid @cardLine; border-radius: 8px;"
+    "  padding: 0 12px; min-height: 30px; max-height: 30px; }"
+    "[look=\"card\"] QPushButton:hover { border-color: @accent; }"
+    "[look=\"card\"] QPushButton:pressed, [look=\"card\"] QPushButton[main=\"true\"] { background: @accentFill; }"
+    "[look=\"card\"] QPushButton:disabled { color: @faintInk; background: @card; }"
+    "[look=\"card\"] QLineEdit { background: @ground; color: @ink; border: 1px solid @cardLine; border-radius: 6px;"
+    "  padding: 0 8px; min-height: 28px; max-height: 28px; selection-background-color: @accentFill; }"
+    "[look=\"card\"] QLineEdit:focus { border: 1px solid @accent; }"
+    "[look=\"card\"] QPlainTextEdit { background: @ground; color: @ink; border: 1px solid @cardLine; border-radius: 6px;"
+    "  padding: 4px; selection-background-color: @accentFill; }"
+    "[look=\"card\"] QPlainTextEdit:focus { border: 1px solid @accent; padding: 4px; }"
+    "[look=\"card\"] QRadioButton { color: @ink; }";
+
+namespace {
+
+/// A tone of the scheme's buttons at another lightness; a scheme with black buttons gives grey.
+QColor Tone(const QColor& accent, double saturation, double lightness) {
+  if (accent.hslSaturationF() < 0.1) return QColor::fromHslF(0.58f, 0.08f, static_cast<float>(lightness));
+  return QColor::fromHslF(accent.hslHueF(), static_cast<float>(saturation), static_cast<float>(lightness));
+}
+
+}  // namespace
+
+StageLook StageLook::Current() {
+  const Theme theme = CurrentTheme();
+  StageLook look;
+  look.ground = theme.stage;
+  look.card = Mix(theme.stage, Qt::white, 0.06);
+  look.cardLine = Mix(theme.stage, Qt::white, 0.2);
+  look.hover = Mix(theme.stage, Qt::white, 0.13);
+  look.ink = theme.stageText;
+  look.faintInk = Mix(theme.stageText, theme.stage, 0.5);
+  look.accent = Tone(theme.accent, 0.75, 0.64);
+  look.accentFill = Tone(theme.accent, 0.6, 0.32);
+  look.mark = QColor(0xff, 0xcf, 0x5a);
+  return look;
+}
+
+void WearStageSheet(QWidget* widget, const char* sheet) {
+  const StageLook look = StageLook::Current();
+  const std::pair<const char*, QColor> colours[] = {
+      // Longer names first where one begins another.
+      {"@accentFill", look.accentFill}, {"@accent", look.accent}, {"@cardLine", look.cardLine}, {"@card", look.card},
+      {"@faintInk", look.faintInk},     {"@ground", look.ground}, {"@hover", look.hover},       {"@ink", look.ink},
+      {"@mark", look.mark},
+  };
+  QString dressed = QString::fromLatin1(sheet);
+  for (const auto& [name, colour] : colours) dressed.replace(QLatin1String(name), colour.name());
+  if (widget->styleSheet() != dressed) widget->setStyleSheet(dressed);
+}
+
+}  // namespace kinalyx

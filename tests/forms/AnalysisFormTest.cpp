@@ -1,0 +1,292 @@
+#include "workspace/forms/AnalysisForm.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QToolButton>
+#include <filesystem>
+
+#include "FormsSupport.h"
+#include "support/TestHost.h"
+#include "support/TestVideos.h"
+#include "workspace/forms/KeyCodeOf.h"
+#include "video/KeyCodes.h"
+
+namespace kinalyx::test {
+namespace {
+
+struct AnalysisFormTest : testing::Test, UsesApplication {
+  void SetUp() override {
+    static int count = 0;
+    folder = TestPath("analysisform" + std::to_string(++count));
+    std::filesystem::create_directories(folder);
+    settings = std::make_unique<Settings>(host, folder + "/data", folder);
+    settings->LoadSettings();
+    settings->LibraryPath = folder + "/library";
+    std::filesystem::create_directories(settings->LibraryPath + "/Anna/Erica");
+    Make(1280, 800);
+  }
+  void TearDown() override { form.reset(); }
+
+  void Make(int width, int height) {
+    form = std::make_unique<AnalysisForm>(host, *settings, players, remembered,
+                                          Navigation{[this] { went = "library"; }, [this] { went = "menu"; },
+                                                     [this] { went = "exit"; }});
+    form->resize(width, height);
+    form->show();
+    QTest::qWait(0);
+  }
+  std::string Video(const std::string& name, const TestVideo& kind = MjpegVideo(30)) {
+    const std::string path = folder + "/" + name;
+    std::filesystem::copy_file(MakeTestVideo(kind), path, std::filesystem::copy_options::overwrite_existing);
+    return path;
+  }
+  template <typename T>
+  T* Find(const char* name) {
+    T* found = form->findChild<T*>(name);
+    EXPECT_NE(found, nullptr) << name;
+    return found;
+  }
+  void Click(const char* name) { QTest::mouseClick(Find<QWidget>(name), Qt::LeftButton); }
+  void Key(int key, Qt::KeyboardModifiers modifiers = {}) {
+    QKeyEvent press(QEvent::KeyPress, key, modifiers,
+                    key >= Qt::Key_Space && key <= Qt::Key_AsciiTilde ? QString(QChar(key)).toLower() : QString());
+    QApplication::sendEvent(Find<QWidget>("Text1"), &press);
+  }
+  Workspace& Slots() { return form->Analysis().Slots(); }
+  QRect OnForm(QWidget* widget) { return QRect(widget->mapTo(form.get(), QPoint()), widget->size()); }
+
+  TestHost host;
+  std::string folder;
+  std::unique_ptr<Settings> settings;
+  PlayScheduler scheduler{host};
+  PlayerServices players{host, scheduler};
+  LastStudentInfo remembered;
+  std::string went;
+  std::unique_ptr<AnalysisForm> form;
+};
+
+TEST_F(AnalysisFormTest, SendsOpensPlaysAndCloses) {
+  EXPECT_EQ(form->SendToAnalysis(Video("a.avi")), "Current video was sent to Analysis.");
+  EXPECT_EQ(form->SendToAnalysis(Video("b.avi")), "Current video was sent to Analysis.");
+  EXPECT_EQ(Slots().ScreenLayout, "2");
+  EXPECT_TRUE(Find<QWidget>("MP1")->isVisible() && Find<QWidget>("MP2")->isVisible());
+  EXPECT_FALSE(Find<QWidget>("BorderPanel3")->isVisible());
+  EXPECT_EQ(Find<QWidget>("MP2")->height(), Find<QWidget>("VideoPanel2")->height());
+  EXPECT_EQ(Slots().MP(2).ControlHeightPixels(), Find<QWidget>("MP2")->height());
+
+  Click("CmdButton2");
+  EXPECT_TRUE(Slots().MP(2).IsPlaying());
+  host.Advance(300);
+  EXPECT_EQ(Find<QLabel>("DisplayPanel")->text(), ".30 seconds | 9/29 frames  ");
+  Click("CmdButton0");
+  EXPECT_EQ(Slots().MP(2).Position(), 0);
+  Click("CmdButton3");
+  EXPECT_EQ(Slots().MP(2).Position(), 1);
+  Click("SlomoButton");
+  EXPECT_EQ(Slots().MP(2).Speed(), 25);
+  Click("Scn4");
+  EXPECT_EQ(Slots().ScreenLayout, "4");
+  Click("Closebtn");
+  EXPECT_FALSE(Slots().HasVideo(2));
+  EXPECT_FALSE(Find<QToolButton>("CmdButton2")->isEnabled());
+  EXPECT_TRUE(Find<QToolButton>("CmdButton2")->toolTip().endsWith("Open a video first"));
+  Click("Closeallbtn");
+  EXPECT_FALSE(Slots().AnyVideo());
+  EXPECT_TRUE(form->CloseAll());
+}
+
+TEST_F(AnalysisFormTest, TheMouseDrawsOnThePicture) {
+  form->SendToAnalysis(Video("a.avi"));
+  QWidget* player = Find<QWidget>("MP1");
+  EXPECT_FALSE(Find<QToolButton>("ColorChoiceBtn0")->isEnabled());
+  Click("CmdMakeShape3");
+  EXPECT_TRUE(Find<QPushButton>("CmdMakeShape3")->isChecked());
+  EXPECT_EQ(Find<QLabel>("DrawText")->text(), "Drawing a Line in Color");
+  EXPECT_TRUE(Find<QWidget>("VectorColorDisplay")->isVisible());
+  Click("ColorChoiceBtn0");
+  QTest::mouseClick(player, Qt::LeftButton, {}, {200, 220});
+  QTest::mouseMove(player, {260, 240});
+  QTest::mouseClick(player, Qt::LeftButton, {}, {300, 260});
+  const ShapeList& shapes = form->Analysis().Tools().List(1);
+  ASSERT_EQ(shapes.NumShapes, 1);
+  EXPECT_EQ(shapes.Shapes[0].Pts[1], (POINTAPI{300, 260}));
+  EXPECT_EQ(shapes.Shapes[0].Colour, Rgb(255, 0, 0));
+  EXPECT_FALSE(Find<QPushButton>("CmdMakeShape3")->isChecked());
+  EXPECT_FALSE(Find<QToolButton>("ColorChoiceBtn0")->isEnabled());
+  Click("Lastcadoff");
+  EXPECT_EQ(shapes.NumShapes, 0);
+  EXPECT_FALSE(Find<QPushButton>("Lastcadoff")->isEnabled());
+
+  Click("CmdMakeShape4");
+  Click("DrawOffBtn");
+  EXPECT_FALSE(form->Analysis().Tools().Drawing());
+  EXPECT_FALSE(Find<QWidget>("DrawCaption")->isVisible());
+}
+
+TEST_F(AnalysisFormTest, LettersInTextBoxesStayLetters) {
+  form->SendToAnalysis(Video("a.avi"));
+  Click("Notesbutton");
+  auto* box = Find<QPlainTextEdit>("NotesBox");
+  ASSERT_TRUE(box->isVisible());
+  QTest::keyClicks(box, "close, play 4 more");
+  EXPECT_EQ(box->toPlainText(), "close, play 4 more");
+  EXPECT_TRUE(Slots().HasVideo(1));
+  EXPECT_FALSE(Slots().MP(1).IsPlaying());
+  EXPECT_EQ(Slots().ScreenLayout, "1");
+  QTest::keyClick(box, Qt::Key_Return);
+  QTest::keyClicks(box, "head");
+  QTest::keyClick(box, Qt::Key_F4);
+  EXPECT_EQ(form->Analysis().Tools().DrawKind(), 3) << "what a box does not want is a command";
+  QTest::keyClick(box, Qt::Key_Escape);
+  EXPECT_TRUE(Slots().HasVideo(1)) << "Escape only leaves the box";
+  Click("NotesClose");
+  EXPECT_EQ(Slots().At(1).data.Notes, "close, play 4 more\r\nhead");
+  Key(Qt::Key_C);
+  EXPECT_FALSE(Slots().HasVideo(1));
+}
+
+TEST_F(AnalysisFormTest, KeypadAndDigitsAreTwoThings) {
+  form->SendToAnalysis(Video("a.avi"));
+  Key(Qt::Key_4);
+  EXPECT_EQ(Slots().ScreenLayout, "4");
+  Key(Qt::Key_1, Qt::KeypadModifier);
+  EXPECT_EQ(Slots().CurrentWindow, 4);
+  Key(Qt::Key_7, Qt::KeypadModifier);
+  EXPECT_EQ(Slots().ScreenLayout, "4");
+  Key(Qt::Key_4, Qt::KeypadModifier);
+  EXPECT_EQ(Slots().At(1).PanX, -50);
+  Key(Qt::Key_C, Qt::ControlModifier);
+  EXPECT_TRUE(Slots().HasVideo(1));
+  QKeyEvent held(QEvent::KeyPress, Qt::Key_P, {}, "p", true);
+  QApplication::sendEvent(Find<QWidget>("Text1"), &held);
+  EXPECT_FALSE(Slots().MP(1).IsPlaying()) << "a held key toggles once";
+  EXPECT_EQ(KeyCodeOf(QKeyEvent(QEvent::KeyPress, Qt::Key_Left, Qt::KeypadModifier)), kKeyLeft);
+  Key(Qt::Key_End);
+  EXPECT_EQ(went, "menu");
+}
+
+TEST_F(AnalysisFormTest, TheOpenPanelStandsWhereTheSettingsSay) {
+  std::filesystem::copy_file(MakeTestVideo(MjpegVideo(30)), settings->LibraryPath + "/Anna/Erica/swing.avi");
+  remembered = {"Anna", "Erica", ""};
+  for (const int choice : {0, 1, 2}) {
+    settings->OpenDlgChoice = choice;
+    Click("Openbtn");
+    QTest::qWait(0);
+    auto* panel = Find<QWidget>(choice == 2 ? "OpenVidCForm" : "OpenVidForm");
+    ASSERT_TRUE(panel->isVisible());
+    const QRect stage = OnForm(Find<QWidget>("MainPanel"));
+    const bool right = OnForm(panel).left() > stage.right();
+    const bool left = OnForm(panel).right() < stage.left();
+    const bool middle = std::abs(OnForm(panel).center().x() - stage.center().x()) <= 1;
+    EXPECT_TRUE(choice == 0 ? right : choice == 1 ? left : middle) << choice;
+    Click("CmdOpenVideo0");
+    EXPECT_TRUE(Slots().HasVideo(1));
+    Click("CmdOpenVideo2");
+    EXPECT_FALSE(Slots().HasVideo(1));
+    Click("CmdOpenVideo1");
+    EXPECT_FALSE(panel->isVisible());
+  }
+}
+
+TEST_F(AnalysisFormTest, TheFloatingPlayBarStaysWhereItIsPut) {
+  form->SendToAnalysis(Video("a.avi"));
+  form->SendToAnalysis(Video("b.avi"));
+  auto* bar = Find<QWidget>("Playbar");
+  const QPoint docked = bar->pos();
+  Click("PlayBarDetachBtn");
+  EXPECT_EQ(Find<QWidget>("PlayBarDetachBtn")->toolTip(), "Redock the Play Bar");
+  bar->move(100, 60);
+  QTest::mouseClick(Find<QWidget>("MP1"), Qt::LeftButton);
+  EXPECT_EQ(bar->pos(), QPoint(100, 60));
+  Click("PlayBarDetachBtn");
+  EXPECT_LT(bar->x(), docked.x());
+  EXPECT_EQ(bar->y(), docked.y());
+}
+
+TEST_F(AnalysisFormTest, NothingIsCutOffAtAnySize) {
+  for (const QSize& size : {QSize(1000, 680), QSize(1024, 732), QSize(1280, 764), QSize(1920, 1044)}) {
+    Make(size.width(), size.height());
+    form->SendToAnalysis(Video("a.avi"));
+    for (const char* layout : {"Scn1", "Scn2", "Scn8"}) {
+      Click(layout);
+      QTest::qWait(0);
+      const QRect all = form->rect();
+      for (const char* name : {"CmdMakeShape0", "CmdMakeShape10", "DDSABtn", "Notesbutton", "CmdAfunctions4", "CmdButton0",
+                               "CmdButton3", "LoopButton", "PlayBarHScroll", "PlayBarDetachBtn", "ColorChoiceBtn11"}) {
+        QWidget* widget = Find<QWidget>(name);
+        EXPECT_TRUE(widget->isVisible()) << name << " " << size.width();
+        EXPECT_TRUE(all.contains(OnForm(widget))) << name << " " << size.width() << " " << layout;
+      }
+      const QRect bar = OnForm(Find<QWidget>("Playbar"));
+      for (const char* name : {"CmdButton0", "LoopButton", "PlayBarDetachBtn"})
+        EXPECT_TRUE(bar.contains(OnForm(Find<QWidget>(name)))) << name;
+      EXPECT_FALSE(OnForm(Find<QWidget>("LoopButton")).intersects(OnForm(Find<QWidget>("PlayBarDetachBtn"))))
+          << size.width() << " " << layout;
+    }
+    const QWidget* more = Find<QWidget>("MoreTools");
+    for (const char* name : {"CmdMakeShape3", "StrobeBtn", "cmdDualPlay"})
+      EXPECT_TRUE(Find<QWidget>(name)->isVisible() || more->isVisible()) << name;
+  }
+}
+
+TEST_F(AnalysisFormTest, DisabledThingsSayWhy) {
+  for (QAction* action : form->findChild<QMenuBar*>()->findChildren<QAction*>()) {
+    if (action->isEnabled() || action->objectName().isEmpty()) continue;
+    EXPECT_TRUE(action->toolTip() == "coming" || action->toolTip().contains(' ')) << action->text().toStdString();
+  }
+  EXPECT_EQ(Find<QAction>("STM")->toolTip(), "coming");
+  for (QPushButton* button : Find<QWidget>("VideoToolBar")->findChildren<QPushButton*>())
+    EXPECT_TRUE(button->isEnabled() || button->toolTip().contains(QChar(0x2014))) << button->objectName().toStdString();
+}
+
+TEST_F(AnalysisFormTest, TimerAndRulerWorkOverTheStage) {
+  form->SendToAnalysis(Video("a.avi"));
+  Click("CmdAfunctions3");
+  ASSERT_TRUE(Find<QWidget>("VideoTimerForm")->isVisible());
+  form->Analysis().Player().Seek(15);
+  EXPECT_EQ(Find<QLabel>("Label1")->text(), "00.50");
+  Click("VideoTimerBtn");
+  EXPECT_EQ(Find<QLabel>("Label1")->text(), "00.00");
+  Click("VideoTimerFormClose");
+  EXPECT_FALSE(Find<QWidget>("VideoTimerForm")->isVisible());
+
+  Click("CmdAfunctions4");
+  ASSERT_TRUE(Find<QWidget>("TransFrame5")->isVisible());
+  EXPECT_FALSE(Find<QPushButton>("CalibBtn0")->isEnabled());
+  QWidget* player = Find<QWidget>("MP1");
+  QTest::mouseClick(player, Qt::LeftButton, {}, {100, 50});
+  QTest::mouseMove(player, {200, 50});
+  QTest::mouseClick(player, Qt::LeftButton, {}, {200, 50});
+  EXPECT_EQ(Find<QLabel>("Label4")->text(), "100pts");
+  QTest::keyClicks(Find<QLineEdit>("Text2"), "2.5");
+  Click("CalibBtn0");
+  EXPECT_FALSE(Find<QWidget>("TransFrame5")->isVisible());
+  EXPECT_EQ(settings->CalibNumber, 100);
+  EXPECT_FLOAT_EQ(settings->CalibNumberOut, 100 / 2.5f / 12);
+}
+
+TEST_F(AnalysisFormTest, LettingGoWhileEverythingPlaysKeepsTheDrawings) {
+  const std::string path = Video("a.avi");
+  form->SendToAnalysis(path);
+  for (int n = 2; n <= 8; ++n) form->SendToAnalysis(Video(std::to_string(n) + ".avi"));
+  Slots().SelectWindow(1);
+  Click("CmdMakeShape1");
+  QTest::mouseClick(Find<QWidget>("MP1"), Qt::LeftButton, {}, {90, 80});
+  form->Analysis().Player().TLAV_Click();
+  host.Advance(200);
+  form.reset();
+  host.Advance(1000);
+  Make(1280, 800);
+  form->SendToAnalysis(path);
+  EXPECT_EQ(form->Analysis().Tools().List(1).NumShapes, 1);
+}
+
+}  // namespace
+}  // namespace kinalyx::test
