@@ -131,7 +131,9 @@ OpenFault Demuxer::OpenStream(const std::string& path, std::string& message, con
     message = "absurd picture size";
     return OpenFault::NoMedia;
   }
-  tellsShowTimes_ = !isAvi_ && !(input_->iformat->flags & AVFMT_NOTIMESTAMPS);
+  // A program stream tells few times and makes up the rest, otherwise after a seek than before it.
+  tellsTimes_ = !OneOf("mpeg", input_->iformat->name);
+  tellsShowTimes_ = tellsTimes_ && !isAvi_ && !(input_->iformat->flags & AVFMT_NOTIMESTAMPS);
   return OpenFault::None;
 }
 
@@ -216,7 +218,7 @@ void Demuxer::IndexByReading() {
   Rewind();
   PictureIndex index;
   const PacketHandle packet = NewPacket();
-  bool timed = true;
+  bool timed = tellsTimes_;
   std::int64_t previous = 0;
   while (index.PacketCount() < kMostPackets && av_read_frame(input_.get(), packet.get()) >= 0) {
     if (packet->stream_index == stream_->index && packet->size > 0) {

@@ -62,6 +62,7 @@ class Demuxer {
   InputHandle input_;
   AVStream* stream_ = nullptr;
   bool isAvi_ = false;
+  bool tellsTimes_ = true;
   bool tellsShowTimes_ = false;
   bool hasSound_ = false;
   std::int64_t fileBytes_ = 0;
