@@ -158,7 +158,7 @@ bool CopyJob::Refuse(const std::string& text) {
 CopyJob::State CopyJob::Fail(const std::string& name, int reason) {
   RollBack();
   nameTaken_ = reason == EEXIST || reason == ENOTEMPTY;
-  const char* verb = kind_ == Kind::Copy ? " could not be copied: " : " could not be moved: ";
+  const char* verb = kind_ == Kind::Move ? " could not be moved: " : " could not be copied: ";
   error_ = Quoted(name) + verb + (nameTaken_ ? "there is already something of that name." : std::strerror(reason));
   state_ = State::Failed;
   return state_;
@@ -171,7 +171,7 @@ bool CopyJob::Measure() {
       Entry& entry = unit.entries.emplace_back();
       entry.from = one.from;
       entry.to = one.to;
-      entry.keep = one.keep || kind_ == Kind::Copy;
+      entry.keep = one.keep || kind_ != Kind::Move;
       if (!MeasureEntry(entry)) return false;
     }
   }
@@ -198,7 +198,9 @@ bool CopyJob::MeasureEntry(Entry& entry) {
   struct stat target {};
   while (::stat(folder.c_str(), &target) != 0 && folder != "/" && folder != ".") folder = FolderOf(folder);
   if (!S_ISDIR(info.st_mode) && !S_ISREG(info.st_mode)) return Refuse(Quoted(entry.from) + " is no file.");
-  entry.byRename = !entry.keep && !isLink && target.st_dev == info.st_dev;
+  // A link may be renamed in its own folder; elsewhere it might lead astray.
+  const bool renames = isLink ? FolderOf(entry.from) == FolderOf(entry.to) : target.st_dev == info.st_dev;
+  entry.byRename = !entry.keep && renames;
   if (!entry.byRename) return StageCopy(entry);
   entry.staged = entry.from;
   return true;
@@ -351,7 +353,8 @@ bool CopyJob::BeginUnit() {
       return false;
     }
   }
-  if (!unit.entries.empty()) progress_.current = LastName(unit.entries.front().from);
+  // The video is named rather than what goes before it.
+  if (!unit.entries.empty()) progress_.current = LastName(unit.entries.back().from);
   return true;
 }
 
@@ -378,7 +381,7 @@ bool CopyJob::FinishFile(const Node& node) {
   (void)::futimens(target_, times);
   const bool moves = !units_[unit_].entries[entry_].keep;
   // The source of a move is removed next: its copy must have reached the disk by then.
-  if (moves && disk_.Flush(target_) < 0) return false;
+  if ((moves || kind_ == Kind::CopyOut) && disk_.Flush(target_) < 0) return false;
   ::close(std::exchange(source_, -1));
   return disk_.Close(std::exchange(target_, -1)) >= 0;
 }

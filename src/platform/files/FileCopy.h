@@ -62,7 +62,11 @@ struct CopyProgress {
 /// - After a failure or a cancel, units that are done stay done and the one under way leaves no trace.
 class CopyJob {
  public:
-  enum class Kind { Copy, Move };
+  enum class Kind {
+    Copy,
+    CopyOut,  ///< to a drive that may be pulled out at any moment: flushed before it gets its name
+    Move,
+  };
   enum class State { Running, Done, Cancelled, Failed };
 
   CopyJob(Kind kind, std::vector<CopyUnit> units, ICopyDisk& disk = RealCopyDisk());

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+
+namespace kinalyx {
+
+/// What `DiskSpaceGauge` shows of a drive.
+struct DiskSpace {
+  bool available = false;
+  int percentFree = 0;   ///< 0 to 100, for the bar `SpaceFlood`
+  std::string Label6;    ///< "37 % Free", or "0% Free" when the drive fails
+  std::string message;   ///< "Disk Full or Not Available" when the drive fails, else empty
+};
+
+/// Looks at the drive that holds `path`; a path that is not there is a drive that fails.
+DiskSpace DiskSpaceGauge(const std::string& path);
+
+/// What the copy panel shows of a removeable disk: the percentage, or why there is none.
+std::string RemoveableDiskText(const std::string& path);
+
+inline constexpr const char* kReadingDisk = "Reading from specified Removeable disk. Please Wait....";
+
+/// True when a folder lies on the drive from which the system runs: what the program calls the C drive.
+bool IsSystemDrive(const std::string& path);
+
+}  // namespace kinalyx

@@ -1,0 +1,169 @@
+#include "library/LibraryOperations.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "library/LibraryActions.h"
+#include "library/RunOperation.h"
+#include "platform/files/Folders.h"
+#include "platform/files/IniFile.h"
+
+namespace kinalyx {
+
+LibraryOperations::LibraryOperations(IHost& host, const Settings& settings, AnalysisLink analysis)
+    : LibraryOperations(host, settings, std::move(analysis), Environment{}) {}
+
+LibraryOperations::LibraryOperations(IHost& host, const Settings& settings, AnalysisLink analysis,
+                                     Environment environment)
+    : host_(host),
+      settings_(settings),
+      words_(settings),
+      tree_(settings),
+      analysis_(std::move(analysis)),
+      disk_(*environment.disk),
+      runner_(host, environment.jobs) {}
+
+// ---------------------------------------------------------------- guards
+
+bool LibraryOperations::IsOpen(const std::string& videoPath) const {
+  return analysis_.isOpenInAnalysis && analysis_.isOpenInAnalysis(videoPath);
+}
+
+std::string LibraryOperations::BusyText() const {
+  return Busy() ? "Another operation is still at work. Please wait until it has finished." : "";
+}
+
+/// A library in a network folder that has gone would look like one without students.
+bool LibraryOperations::Reachable(std::string& refusal) const {
+  if (dirExists(tree_.Root())) return true;
+  refusal = "The video library at " + tree_.Root() + " cannot be reached. Nothing was changed.";
+  return false;
+}
+
+OperationResult LibraryOperations::Refuse(const std::string& text) {
+  host_.Message(MessageKind::Warning, "", text);
+  return Report(text);
+}
+
+void LibraryOperations::Tell(const std::string& status) const {
+  if (ShowStatus) ShowStatus(status);
+}
+
+std::string LibraryOperations::GuardStudent(const std::string& instructor, const std::string& student,
+                                            const char* verb) {
+  if (student.empty() || instructor.empty() || instructor == kGeneralFolder) return words_.MustSelect();
+  std::string refusal = BusyText();
+  if (!refusal.empty()) return Refuse(refusal).status;
+  const std::string folder = tree_.StudentFolder(instructor, student);
+  std::vector<std::string> folders = ListFolders(folder);  // lessons are videos too
+  for (std::string& name : folders) name = JoinPath(folder, name);
+  folders.push_back(folder);
+  for (const std::string& place : folders) {
+    for (const std::string& file : ListFiles(place, ".avi")) {
+      if (!IsOpen(JoinPath(place, file))) continue;
+      return Refuse("A video from this database is open in the Analysis section. You must close the video before you can " +
+                    std::string(verb) + " this " + words_.noun() + ".")
+          .status;
+    }
+  }
+  if (!Reachable(refusal)) return Refuse(refusal).status;
+  return {};
+}
+
+std::string LibraryOperations::GuardVideo(const LibraryVideo& video) {
+  if (video.path.empty()) return "You must select a video first.";
+  if (std::string busy = BusyText(); !busy.empty()) return Refuse(busy).status;
+  if (IsOpen(video.path)) {
+    return Refuse("This video is open in the Analysis section. You must close the video before you can continue.").status;
+  }
+  if (std::string refusal; !Reachable(refusal)) return Refuse(refusal).status;
+  return {};
+}
+
+// ---------------------------------------------------------------- instructors and students
+
+OperationResult LibraryOperations::AddInstructor(std::string_view name) {
+  std::string refusal;
+  if (!Reachable(refusal)) return Refuse(refusal);
+  const Outcome outcome = kinalyx::AddInstructor(tree_.Root(), name);
+  if (!outcome.done) return Refuse(outcome.message);
+  return {true, outcome.message, true, std::string(name)};
+}
+
+OperationResult LibraryOperations::AddStudent(const std::string& instructor, const FieldTexts& captions,
+                                              const FieldTexts& values) {
+  // "General Folder" is the library itself: a student made there would appear as an instructor.
+  if (instructor.empty() || instructor == kGeneralFolder) return Refuse(LibraryTextsFor(settings_).addHelp);
+  std::string refusal;
+  if (!Reachable(refusal)) return Refuse(refusal);
+  const Outcome outcome = kinalyx::AddStudent(tree_.InstructorFolder(instructor), captions, values, words_.noun());
+  if (!outcome.done) return Refuse(outcome.message);
+  return {true, outcome.message, true, instructor, values[kNameField]};
+}
+
+OperationResult LibraryOperations::RenameStudentCancelled() const { return Report(words_.Noun() + " rename cancelled."); }
+
+OperationResult LibraryOperations::RenameStudent(const std::string& instructor, const std::string& student,
+                                                 std::string_view name) {
+  if (const std::string refusal = GuardStudent(instructor, student, "rename"); !refusal.empty()) return Report(refusal);
+  if (!IsValidName(name)) return Refuse("Invalid character in " + words_.Noun() + " Name.");
+  if (IsBlank(name)) return Refuse("You must type a name!");
+  if (name == student) return RenameStudentCancelled();
+  const std::string from = tree_.StudentFolder(instructor, student);
+  const std::string to = tree_.StudentFolder(instructor, name);
+  std::string error;
+  if (!RenameEntry(from, to, &error, disk_)) {
+    // Whether the name was taken before or has been taken by another workstation just now.
+    if (EntryExists(to)) return Refuse("The name you have chosen already exists in the database.");
+    return Refuse("The " + words_.noun() + " could not be renamed: " + error);
+  }
+  OperationResult result{true, words_.Noun() + " successfully renamed.", true, instructor, std::string(name)};
+  // A student without a profile gains a whole one at the next look.
+  const std::string profile = ProfilePath(to);
+  if (FileExists(profile) && !WritePrivateProfileString("Profile", "Name", name, profile)) {
+    host_.Message(MessageKind::Warning, "", "An error has occurred while editing the profile");
+    result.status = "An error has occurred while editing the profile";
+  }
+  return result;
+}
+
+void LibraryOperations::MoveStudent(const std::string& instructor, const std::string& student,
+                                    const std::string& targetInstructor, Done done) {
+  if (const std::string refusal = GuardStudent(instructor, student, "move"); !refusal.empty()) return done(Report(refusal));
+  if (targetInstructor.empty() || targetInstructor == kGeneralFolder)
+    return done(Report(LibraryTextsFor(settings_).moveStudent));
+  const std::string taken =
+      "The Database that you have chosen already contains a " + words_.noun() + " with the same name.";
+  const std::string to = tree_.StudentFolder(targetInstructor, student);
+  if (EntryExists(to)) return done(Refuse(taken));
+  auto job = std::make_unique<StudentMoveJob>(tree_.StudentFolder(instructor, student), to, disk_);
+  Run<StudentMoveJob>(
+      std::move(job),
+      [this, targetInstructor, student, taken](StudentMoveJob& move) -> OperationResult {
+        const CopyJob& copy = move.Copy();
+        if (copy.Status() == CopyJob::State::Cancelled) return Report(kOperationCancelled);
+        if (copy.NameTaken()) return Refuse(taken);
+        if (copy.Status() != CopyJob::State::Done) return Refuse(copy.Error());
+        if (!copy.Error().empty()) host_.Message(MessageKind::Warning, "", copy.Error());
+        return {true, words_.Noun() + " Successfully Moved to " + targetInstructor + " .", true, targetInstructor, student};
+      },
+      std::move(done));
+}
+
+void LibraryOperations::DeleteStudent(const std::string& instructor, const std::string& student, Done done) {
+  if (const std::string refusal = GuardStudent(instructor, student, "delete"); !refusal.empty())
+    return done(Report(refusal));
+  auto job = std::make_unique<StudentRemovalJob>(tree_.StudentFolder(instructor, student), disk_);
+  Run<StudentRemovalJob>(
+      std::move(job),
+      [this, instructor](StudentRemovalJob& removal) -> OperationResult {
+        if (removal.Removed()) return {true, words_.Noun() + " Successfully removed from the system.", true, instructor};
+        if (removal.Error().empty()) return Report(kOperationCancelled);
+        OperationResult result = Refuse("The " + words_.noun() + " could not be removed: " + removal.Error());
+        result.refill = true;
+        return result;
+      },
+      std::move(done));
+}
+
+}  // namespace kinalyx

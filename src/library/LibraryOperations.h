@@ -1,0 +1,142 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/Vocabulary.h"
+#include "library/JobRunner.h"
+#include "library/LibraryTree.h"
+#include "library/Profile.h"
+#include "library/VideoTransfer.h"
+#include "platform/files/FileCopy.h"
+#include "platform/host/Host.h"
+
+namespace kinalyx {
+
+/// What the library asks of the analysis section. An empty function stands for a section that has not
+/// been opened yet.
+struct AnalysisLink {
+  /// True when a slot, shown or hidden, holds this file.
+  std::function<bool(const std::string& path)> isOpenInAnalysis;
+  /// Opens a file in the first free slot and tells of it in words; the slot, or 0 when it was not opened.
+  std::function<int(const std::string& path, const std::function<void(const std::string&)>& status)> sendToAnalysis;
+};
+
+/// A video as the lists have it.
+struct LibraryVideo {
+  std::string instructor;  ///< "General Folder" and "Quick Launch" among them
+  std::string student;     ///< empty when the video lies directly under its instructor
+  std::string path;        ///< empty when none is chosen
+};
+
+/// What an operation leaves to the form that asked for it.
+struct OperationResult {
+  bool done = false;
+  std::string status{};  ///< for the status line; a refusal that needs to be read has been shown as well
+  bool refill = false;  ///< the lists are to be read again
+  /// What to choose then; empty ones stay as they are, as far as they still exist.
+  std::string instructor{};
+  std::string student{};
+  std::string video{};
+};
+
+/// All changes to the library tree. Everything works on files and folders directly, a video always with
+/// its sidecar. Nothing is ever replaced, and what fails leaves the library as it was.
+///
+/// Short operations return their result. Long ones take `Done`, which is called once: at once when they
+/// are refused, later when their work is over. The window stays alive meanwhile; `ShowProgress` feeds a
+/// progress window, whose button calls Cancel. One long operation runs at a time, and while it does, the
+/// others are refused.
+///
+/// Before an operation on a student or on the video in the preview, the form stores the notes that are
+/// being written and lets go of both.
+class LibraryOperations {
+ public:
+  using Done = std::function<void(const OperationResult&)>;
+  struct Environment {
+    JobRunner::On jobs = JobRunner::On::Worker;
+    ICopyDisk* disk = &RealCopyDisk();
+  };
+
+  LibraryOperations(IHost& host, const Settings& settings, AnalysisLink analysis);
+  LibraryOperations(IHost& host, const Settings& settings, AnalysisLink analysis, Environment environment);
+
+  /// Words for the status line while an operation is under way.
+  std::function<void(const std::string&)> ShowStatus;
+  /// How far the long operation is; called several times a second.
+  std::function<void(const JobProgress&)> ShowProgress;
+
+  bool Busy() const { return runner_.Busy(); }
+  /// Stops the long operation under way; its Done tells how it ended.
+  void Cancel() { runner_.Cancel(); }
+
+  // --- instructors and students
+
+  OperationResult AddInstructor(std::string_view name);
+  /// The student's name is field 0.
+  OperationResult AddStudent(const std::string& instructor, const FieldTexts& captions, const FieldTexts& values);
+  /// The refusal of an action for which a student must be chosen and none of its videos be open, with
+  /// `verb` "rename", "move" or "delete"; forms ask before they open their panel. Empty: go on.
+  std::string GuardStudent(const std::string& instructor, const std::string& student, const char* verb);
+  OperationResult RenameStudent(const std::string& instructor, const std::string& student, std::string_view name);
+  OperationResult RenameStudentCancelled() const;
+  void MoveStudent(const std::string& instructor, const std::string& student, const std::string& targetInstructor,
+                   Done done);
+  /// Removes the folder with all that is in it. The form has asked.
+  void DeleteStudent(const std::string& instructor, const std::string& student, Done done);
+
+  // --- videos
+
+  /// The refusal of an action for which a video must be chosen and not be open. Empty: go on.
+  std::string GuardVideo(const LibraryVideo& video);
+  OperationResult SendToAnalysis(const LibraryVideo& video);
+  OperationResult RenameVideo(const LibraryVideo& video, std::string_view name);
+  void MoveVideo(const LibraryVideo& video, const std::string& targetInstructor, const std::string& targetStudent,
+                 Done done);
+  /// Removes it and its sidecar. The form has asked.
+  OperationResult DeleteVideo(const LibraryVideo& video);
+  /// Copies videos to the folder of a removeable disk. A name that is taken there gets a "d".
+  void CopyToDisk(const std::vector<LibraryVideo>& videos, const std::string& disk, Done done);
+  /// Copies the video to the Quick Launch folder, or, when it lies there, removes it from it. Asks first.
+  void QuickLaunch(const LibraryVideo& video, Done done);
+  /// Cuts the video in place; its sidecar stays as it is. Frames count from 0 and both belong to the cut;
+  /// 0 as the last one is the end. `rate` is used for a video that does not tell its own.
+  void Trim(const LibraryVideo& video, int firstFrame, int lastFrame, int rate, Done done);
+
+  // --- whole databases
+
+  /// Copies videos into a library at `targetRoot`, or from one elsewhere into this one. Folders are made as
+  /// needed, and a name that is taken gets a "d". A student who is new to the target brings the profile.
+  void ExportVideos(const std::vector<LibraryVideo>& videos, const std::string& targetRoot, Done done);
+  void ImportVideos(const std::vector<LibraryVideo>& videos, Done done);
+
+ private:
+  enum class Direction { Export, Import };
+
+  bool IsOpen(const std::string& videoPath) const;
+  bool Reachable(std::string& refusal) const;
+  OperationResult Refuse(const std::string& text);
+  static OperationResult Report(const std::string& text) { return {false, text}; }
+  void Tell(const std::string& status) const;
+  std::string BusyText() const;
+  void AddToQuickLaunch(const LibraryVideo& video, Done done);
+  OperationResult RemoveFromQuickLaunch(const LibraryVideo& video);
+  void Transfer(Direction direction, const std::vector<LibraryVideo>& videos, const std::string& targetRoot, Done done);
+  /// Runs a job; `end` makes the result of it. The job is the one that was given.
+  template <typename Job>
+  void Run(std::unique_ptr<Job> job, std::function<OperationResult(Job&)> end, Done done,
+           std::function<void(const JobProgress&)> watch = {});
+
+  IHost& host_;
+  const Settings& settings_;
+  Vocabulary words_;
+  LibraryTree tree_;
+  AnalysisLink analysis_;
+  ICopyDisk& disk_;
+  JobRunner runner_;
+};
+
+}  // namespace kinalyx

@@ -1,0 +1,50 @@
+#include "library/TrimJob.h"
+
+#include <algorithm>
+#include <charconv>
+#include <string_view>
+
+#include "platform/files/Folders.h"
+
+namespace kinalyx {
+
+namespace {
+
+/// Longest wait for a word of the program, so that a cancel is heard.
+constexpr int kPollMs = 30;
+
+}  // namespace
+
+bool TrimJob::Step() {
+  if (!process_) {
+    process_ = ChildProcess::Start(program_, {FormatTrimCommand(request_)}, &error_);
+    return process_ != nullptr;
+  }
+  const bool runs = process_->Poll(kPollMs, [this](std::string_view line) {
+    int percent = 0;
+    std::from_chars(line.data(), line.data() + line.size(), percent);
+    part_ = std::clamp(percent / 100.0, part_, 1.0);
+  });
+  if (runs) return true;
+  // What the program says is not taken on trust: the video must be there.
+  saved_ = process_->ExitCode() == 0 && FileExists(request_.destination);
+  if (!saved_) error_ = process_->Errors().empty() ? "The program avitrim has failed." : process_->Errors();
+  while (error_.ends_with('\n')) error_.pop_back();
+  return false;
+}
+
+void TrimJob::Cancel() {
+  if (!process_ || saved_ || !error_.empty()) {
+    cancelled_ = !saved_ && error_.empty();
+    return;
+  }
+  process_->Terminate();
+  // It may have finished in this very moment, and then the video is saved.
+  while (Step()) {
+  }
+  cancelled_ = !saved_;
+}
+
+JobProgress TrimJob::Progress() const { return {saved_ ? 1 : 0, 1, part_, LastName(request_.source)}; }
+
+}  // namespace kinalyx

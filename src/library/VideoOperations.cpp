@@ -1,0 +1,253 @@
+// The operations on videos and whole databases.
+
+#include <algorithm>
+#include <utility>
+
+#include "library/DiskSpace.h"
+#include "library/LibraryOperations.h"
+#include "library/RunOperation.h"
+#include "library/Sidecar.h"
+#include "library/TrimJob.h"
+#include "platform/files/Folders.h"
+
+namespace kinalyx {
+
+namespace {
+
+using OnClash = VideoTransferJob::OnClash;
+
+std::string NameOf(const LibraryVideo& video) { return VideoName(LastName(video.path)); }
+
+std::string FolderOf(const LibraryVideo& video) { return video.path.substr(0, video.path.rfind('/')); }
+
+/// Removes a video, then its sidecar unless another video needs it; false when the video stays.
+bool RemoveVideo(const std::string& path, ICopyDisk& disk) {
+  const std::string sidecar = SharesSidecar(path) ? std::string() : SidecarOf(path);
+  if (!RemoveTree(path, nullptr, disk)) return false;
+  // An old sidecar does no harm: it makes way for the next video of its name.
+  if (!sidecar.empty()) RemoveTree(sidecar, nullptr, disk);
+  return true;
+}
+
+constexpr const char* kCannotDelete = "Unable to delete the video. Try rebooting, then try again.";
+
+}  // namespace
+
+// ---------------------------------------------------------------- one video
+
+OperationResult LibraryOperations::SendToAnalysis(const LibraryVideo& video) {
+  if (video.path.empty()) return Report("You must select a video first.");
+  if (!analysis_.sendToAnalysis) return Report("");
+  OperationResult result;
+  result.done = analysis_.sendToAnalysis(video.path, [&](const std::string& words) {
+    result.status = words;
+    Tell(words);
+  }) != 0;
+  return result;
+}
+
+OperationResult LibraryOperations::RenameVideo(const LibraryVideo& video, std::string_view name) {
+  if (const std::string refusal = GuardVideo(video); !refusal.empty()) return Report(refusal);
+  if (!IsValidName(name)) return Refuse("Invalid character in " + words_.noun() + " name.");
+  if (IsBlank(name)) return Refuse("You must type a name!");
+  const std::string folder = FolderOf(video);
+  const std::string to = JoinPath(folder, std::string(name) + video.path.substr(video.path.size() - 4));
+  const std::string taken = "The video name you have chosen already exists, please try again.";
+  const std::vector<std::string> files = ListFiles(folder, ".avi");
+  if (std::ranges::any_of(files, [&](const std::string& file) { return VideoName(file) == name; })) return Refuse(taken);
+
+  SetAsideOrphan(folder, name, disk_);
+  const std::string sidecar = SidecarOf(video.path);
+  const std::string newSidecar = SidecarPath(to);
+  std::string error;
+  const auto refuse = [&] {
+    if (EntryExists(to) || EntryExists(newSidecar)) return Refuse(taken);
+    return Refuse("The video could not be renamed: " + error);
+  };
+  // The sidecar goes first, and back again when its video cannot follow.
+  bool ready = true;
+  const bool shared = SharesSidecar(video.path);
+  if (!sidecar.empty() && shared) {
+    CopyJob copy(CopyJob::Kind::Copy, {{{sidecar, newSidecar}}}, disk_);
+    ready = RunToEnd(copy) == CopyJob::State::Done;
+    error = copy.Error();
+  } else if (!sidecar.empty()) {
+    ready = RenameEntry(sidecar, newSidecar, &error, disk_);
+  }
+  if (!ready) return refuse();
+  if (!RenameEntry(video.path, to, &error, disk_)) {
+    if (!sidecar.empty() && shared) RemoveTree(newSidecar, nullptr, disk_);
+    else if (!sidecar.empty()) RenameEntry(newSidecar, sidecar, nullptr, disk_);
+    return refuse();
+  }
+  return {true, "Video renamed successfully.", true, video.instructor, video.student, std::string(name)};
+}
+
+OperationResult LibraryOperations::DeleteVideo(const LibraryVideo& video) {
+  if (const std::string refusal = GuardVideo(video); !refusal.empty()) return Report(refusal);
+  if (!RemoveVideo(video.path, disk_)) return Refuse(kCannotDelete);
+  return {true, "Video Successfully Deleted!", true, video.instructor, video.student};
+}
+
+void LibraryOperations::MoveVideo(const LibraryVideo& video, const std::string& targetInstructor,
+                                  const std::string& targetStudent, Done done) {
+  if (const std::string refusal = GuardVideo(video); !refusal.empty()) return done(Report(refusal));
+  if (targetInstructor.empty() || targetStudent.empty() || targetInstructor == kGeneralFolder)
+    return done(Refuse("You must select a Database and " + words_.noun() + " for the video."));
+  const std::string folder = tree_.StudentFolder(targetInstructor, targetStudent);
+  if (folder == FolderOf(video))
+    return done(Refuse("The source and destination folders are the same. The video was not moved."));
+  const std::string name = NameOf(video);
+  const std::string taken = "A video with the name \"" + name + "\" already exists in the folder named " + targetStudent +
+                            ". Please rename the video and try again.";
+  if (HasVideoNamed(folder, name)) return done(Refuse(taken));
+  // A student whom another workstation has just renamed or moved away would come back as a bare folder.
+  if (!dirExists(folder)) return done(Refuse("The folder " + folder + " cannot be found. The video was not moved."));
+  auto job = std::make_unique<VideoTransferJob>(CopyJob::Kind::Move, OnClash::Stop,
+                                                std::vector{VideoTransfer{video.path, folder, {}}}, disk_);
+  Run<VideoTransferJob>(
+      std::move(job),
+      [=, this](VideoTransferJob& move) -> OperationResult {
+        if (!move.Failed() && !move.Cancelled()) {
+          if (!move.Error().empty()) host_.Message(MessageKind::Warning, "", move.Error());
+          return {true, "Selected video successfully moved.", true};
+        }
+        if (move.Failed()) host_.Message(MessageKind::Warning, "", move.NameTaken() ? taken : move.Error());
+        return Report("No videos were moved.");
+      },
+      std::move(done));
+}
+
+void LibraryOperations::Trim(const LibraryVideo& video, int firstFrame, int lastFrame, int rate, Done done) {
+  if (const std::string refusal = GuardVideo(video); !refusal.empty()) return done(Report(refusal));
+  if (firstFrame < 0 || lastFrame < 0 || (lastFrame > 0 && lastFrame < firstFrame)) {
+    return done(
+        Refuse("Your TRIM Start and End times are not correct. Please check your Start and End times and try again."));
+  }
+  Tell("Saving Video.... Please Wait.");
+  const TrimRequest request{video.path, video.path, firstFrame, lastFrame, rate, TrimRequest::Mode::Copy};
+  Run<TrimJob>(
+      std::make_unique<TrimJob>(JoinPath(settings_.AppPath, "avitrim"), request),
+      [this, video](TrimJob& trim) -> OperationResult {
+        if (trim.Saved())
+          return {true, "Last Video Saved Successfully", true, video.instructor, video.student, NameOf(video)};
+        if (trim.Cancelled()) return Report(kOperationCancelled);
+        host_.Message(MessageKind::Warning, "", "There was a problem saving this video.\n\n" + trim.Error());
+        return Report("Last Video WAS NOT SAVED");
+      },
+      std::move(done));
+}
+
+// ---------------------------------------------------------------- Quick Launch
+
+void LibraryOperations::QuickLaunch(const LibraryVideo& video, Done done) {
+  if (video.path.empty()) return done(Report("You must select a video first."));
+  if (video.instructor == kQuickLaunch) return done(RemoveFromQuickLaunch(video));
+  AddToQuickLaunch(video, std::move(done));
+}
+
+void LibraryOperations::AddToQuickLaunch(const LibraryVideo& video, Done done) {
+  std::string refusal = BusyText();
+  if (!refusal.empty() || !Reachable(refusal)) return done(Refuse(refusal));
+  if (!host_.Question("Copy video to Quick Launch Folder",
+                      "This will copy the current video to your Quick Launch folder. Would you like to continue?"))
+    return done({});
+  const std::string folder = tree_.QuickLaunchFolder();
+  const std::string taken =
+      "There is already a video with the same name in the Quick Launch folder. The copy process will be cancelled.";
+  if (HasVideoNamed(folder, NameOf(video))) return done(Refuse(taken));
+  auto job = std::make_unique<VideoTransferJob>(CopyJob::Kind::Copy, OnClash::Stop,
+                                                std::vector{VideoTransfer{video.path, folder, {}}}, disk_);
+  Run<VideoTransferJob>(
+      std::move(job),
+      [this, taken](VideoTransferJob& copy) -> OperationResult {
+        if (copy.Cancelled()) return Report(kOperationCancelled);
+        if (copy.Failed()) return Refuse(copy.NameTaken() ? taken : copy.Error());
+        return {true, "The current video was copied to the Quick Launch folder.", true};
+      },
+      std::move(done));
+}
+
+OperationResult LibraryOperations::RemoveFromQuickLaunch(const LibraryVideo& video) {
+  if (const std::string refusal = GuardVideo(video); !refusal.empty()) return Report(refusal);
+  if (!host_.Question("Removing video from program!",
+                      "Are you sure that you want to delete the current video from the Quick Launch folder?"))
+    return {};
+  if (!RemoveVideo(video.path, disk_)) return Refuse(kCannotDelete);
+  return {true, "The current video was removed from the Quick Launch folder.", true, video.instructor};
+}
+
+// ---------------------------------------------------------------- to other drives and back
+
+void LibraryOperations::CopyToDisk(const std::vector<LibraryVideo>& videos, const std::string& disk, Done done) {
+  if (videos.empty()) return done(Report("You must select a video first."));
+  for (const LibraryVideo& video : videos) {
+    if (const std::string refusal = GuardVideo(video); !refusal.empty()) return done(Report(refusal));
+  }
+  if (disk.empty() || !dirExists(disk)) return done(Refuse("Drive Error"));
+  Tell("Copying Videos, Please Wait.....");
+  std::vector<VideoTransfer> transfers;
+  for (const LibraryVideo& video : videos) transfers.push_back({video.path, disk, {}});
+  auto job = std::make_unique<VideoTransferJob>(CopyJob::Kind::CopyOut, OnClash::AddD, std::move(transfers), disk_);
+  Run<VideoTransferJob>(
+      std::move(job),
+      [this](VideoTransferJob& copy) -> OperationResult {
+        if (copy.Failed()) host_.Message(MessageKind::Warning, "", copy.Error());
+        return {!copy.Failed() && !copy.Cancelled(), std::to_string(copy.FilesDone()) + " Files Copied Successfully."};
+      },
+      std::move(done));
+}
+
+void LibraryOperations::ExportVideos(const std::vector<LibraryVideo>& videos, const std::string& targetRoot, Done done) {
+  if (!videos.empty() && IsSystemDrive(targetRoot) &&
+      !host_.Question("Export to C?",
+                      "Warning! You are about to export to the C drive. Are you sure you want to continue?"))
+    return done(Report("Export Cancelled"));
+  Transfer(Direction::Export, videos, targetRoot, std::move(done));
+}
+
+void LibraryOperations::ImportVideos(const std::vector<LibraryVideo>& videos, Done done) {
+  Transfer(Direction::Import, videos, tree_.Root(), std::move(done));
+}
+
+void LibraryOperations::Transfer(Direction direction, const std::vector<LibraryVideo>& videos,
+                                 const std::string& targetRoot, Done done) {
+  if (videos.empty()) return done(Report("No Videos Selected"));
+  if (const std::string busy = BusyText(); !busy.empty()) return done(Refuse(busy));
+  if (!dirExists(targetRoot)) return done(Refuse("The folder " + targetRoot + " cannot be reached. Nothing was changed."));
+  std::vector<VideoTransfer> transfers;
+  for (const LibraryVideo& video : videos) {
+    std::string folder = targetRoot;
+    const bool inFolder = !video.instructor.empty() && video.instructor != kGeneralFolder;
+    if (inFolder) folder = JoinPath(folder, video.instructor);
+    const bool hasStudent = inFolder && !video.student.empty();
+    if (hasStudent) folder = JoinPath(folder, video.student);
+    transfers.push_back({video.path, folder, hasStudent ? FolderOf(video) : std::string()});
+  }
+  const bool out = direction == Direction::Export;
+  Tell(out ? "Exporting Videos, Please Wait....." : "Importing Videos... Please Wait.....");
+  auto job = std::make_unique<VideoTransferJob>(out ? CopyJob::Kind::CopyOut : CopyJob::Kind::Copy, OnClash::AddD,
+                                                std::move(transfers), disk_);
+  Run<VideoTransferJob>(
+      std::move(job),
+      [this, out](VideoTransferJob& copy) -> OperationResult {
+        const std::string count = std::to_string(copy.VideosDone());
+        const bool arrived = copy.VideosDone() > 0;
+        if (copy.Cancelled()) {
+          host_.Message(MessageKind::Information, "", kOperationCancelled);
+          return {false, out ? "Export Cancelled" : "Import Cancelled", arrived};
+        }
+        if (copy.Failed()) host_.Message(MessageKind::Warning, "", copy.Error());
+        return {!copy.Failed(), count + (out ? " File(s) exported successfully!" : " File(s) Imported successfully!"),
+                arrived};
+      },
+      std::move(done),
+      [this, out, shown = 0](const JobProgress& progress) mutable {
+        if (progress.done <= shown) return;
+        shown = progress.done;
+        Tell(std::to_string(progress.done) + " of " + std::to_string(progress.total) +
+             (out ? " Videos Successfully exported.....Please wait..." : " Videos Successfully Imported."));
+      });
+}
+
+}  // namespace kinalyx

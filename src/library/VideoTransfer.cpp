@@ -1,0 +1,196 @@
+#include "library/VideoTransfer.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "library/LibraryTree.h"
+#include "library/Profile.h"
+#include "library/Sidecar.h"
+#include "platform/files/Folders.h"
+
+namespace kinalyx {
+
+namespace {
+
+constexpr int kMostTries = 1000;
+
+std::string FolderOf(const std::string& path) {
+  const std::size_t slash = path.rfind('/');
+  return slash == std::string::npos ? std::string() : path.substr(0, slash);
+}
+
+std::string Extension(const std::string& videoPath) { return videoPath.substr(videoPath.size() - 4); }
+
+JobProgress ProgressOf(const CopyProgress& copy) {
+  JobProgress progress{copy.unitsDone, copy.unitsTotal, 0, copy.current};
+  if (copy.bytesTotal > 0) progress.part = static_cast<double>(copy.bytesDone) / static_cast<double>(copy.bytesTotal);
+  return progress;
+}
+
+}  // namespace
+
+// ---------------------------------------------------------------- a video and what belongs to it
+
+bool HasVideoNamed(const std::string& folder, std::string_view name) {
+  if (EntryExists(JoinPath(folder, std::string(name) + ".avi"))) return true;
+  return std::ranges::any_of(ListFiles(folder, ".avi"), [&](const std::string& file) { return VideoName(file) == name; });
+}
+
+std::string SidecarOf(const std::string& videoPath) {
+  const std::string sidecar = SidecarPath(videoPath);
+  return FileExists(sidecar) ? sidecar : std::string();
+}
+
+bool SharesSidecar(const std::string& videoPath) {
+  const std::string name = VideoName(LastName(videoPath));
+  return std::ranges::count_if(ListFiles(FolderOf(videoPath), ".avi"),
+                               [&](const std::string& file) { return VideoName(file) == name; }) > 1;
+}
+
+bool SetAsideOrphan(const std::string& folder, std::string_view name, ICopyDisk& disk) {
+  const std::string orphan = JoinPath(folder, std::string(name) + ".ved");
+  if (!EntryExists(orphan)) return true;
+  if (HasVideoNamed(folder, name)) return false;
+  for (int number = 1; number < kMostTries; ++number) {
+    const std::string aside = orphan + ".old" + (number > 1 ? std::to_string(number) : "");
+    if (!EntryExists(aside)) return RenameEntry(orphan, aside, nullptr, disk);
+  }
+  return false;
+}
+
+CopyUnit VideoUnit(const std::string& videoPath, const std::string& folder, std::string_view name) {
+  CopyUnit unit;
+  // First the sidecar: a video never stands anywhere without its drawings.
+  const std::string sidecar = SidecarOf(videoPath);
+  if (!sidecar.empty())
+    unit.push_back({sidecar, JoinPath(folder, std::string(name) + ".ved"), SharesSidecar(videoPath)});
+  unit.push_back({videoPath, JoinPath(folder, std::string(name) + Extension(videoPath))});
+  return unit;
+}
+
+// ---------------------------------------------------------------- many of them
+
+VideoTransferJob::VideoTransferJob(CopyJob::Kind kind, OnClash onClash, std::vector<VideoTransfer> videos,
+                                   ICopyDisk& disk)
+    : kind_(kind), onClash_(onClash), videos_(std::move(videos)), disk_(disk) {}
+
+bool VideoTransferJob::Fail(const std::string& error) {
+  error_ = error;
+  failed_ = true;
+  return false;
+}
+
+bool VideoTransferJob::Step() {
+  if (cancelled_ || failed_) return false;
+  if (!begun_) return Begin();
+  if (copy_) {
+    if (copy_->Step() == CopyJob::State::Running) return true;
+    return EndOfOne();
+  }
+  if (next_ == videos_.size()) return false;
+
+  const VideoTransfer& video = videos_[next_];
+  std::string name = VideoName(LastName(video.path));
+  if (onClash_ == OnClash::AddD) {
+    while (HasVideoNamed(video.folder, name) || !SetAsideOrphan(video.folder, name, disk_)) name += 'd';
+  } else if (HasVideoNamed(video.folder, name) || !SetAsideOrphan(video.folder, name, disk_)) {
+    nameTaken_ = true;
+    return Fail("There is already a video with the name \"" + name + "\".");
+  }
+  if (kind_ != CopyJob::Kind::Move) TakeProfile(video);
+  copy_.emplace(kind_, std::vector<CopyUnit>{VideoUnit(video.path, video.folder, name)}, disk_);
+  return true;
+}
+
+/// Room for all is asked for before the first is copied. A move asks for itself, as it may need none.
+bool VideoTransferJob::Begin() {
+  begun_ = true;
+  std::int64_t free = -1;
+  for (const VideoTransfer& video : videos_) {
+    const auto size = FileSize(video.path);
+    const std::string sidecar = SidecarOf(video.path);
+    bytesTotal_ += size.value_or(0) + (sidecar.empty() ? 0 : FileSize(sidecar).value_or(0));
+  }
+  if (!videos_.empty()) free = FreeBytes(videos_.front().folder);
+  if (kind_ == CopyJob::Kind::Move || free < 0 || bytesTotal_ <= free) return true;
+  constexpr std::int64_t kMegabyte = 1 << 20;
+  return Fail("There is not enough room: " + std::to_string((bytesTotal_ + kMegabyte - 1) / kMegabyte) +
+              " MB are needed, and " + std::to_string(free / kMegabyte) + " MB are free.");
+}
+
+void VideoTransferJob::TakeProfile(const VideoTransfer& video) {
+  if (video.studentFolder.empty()) return;
+  // A profile that is there is the target's own. The notes belong to their profile.
+  if (EntryExists(ProfilePath(video.folder)) || !FileExists(ProfilePath(video.studentFolder))) return;
+  CopyUnit unit{{ProfilePath(video.studentFolder), ProfilePath(video.folder)}};
+  const std::string notes = JoinPath(video.studentFolder, "profile.txt");
+  const std::string notesThere = JoinPath(video.folder, "profile.txt");
+  if (FileExists(notes) && !EntryExists(notesThere)) unit.push_back({notes, notesThere});
+  // Without its profile a student gains a new one when it is looked at, so a refusal costs no video.
+  CopyJob copy(kind_, {unit}, disk_);
+  RunToEnd(copy);
+}
+
+bool VideoTransferJob::EndOfOne() {
+  const CopyJob::State state = copy_->Status();
+  if (state == CopyJob::State::Done) {
+    ++videosDone_;
+    filesDone_ += copy_->Progress().filesDone;
+    bytesDone_ += copy_->Progress().bytesTotal;
+    if (error_.empty()) error_ = copy_->Error();
+    ++next_;
+  } else if (copy_->NameTaken() && onClash_ == OnClash::AddD) {
+    // Another workstation took the name meanwhile: the next try finds a free one.
+  } else {
+    nameTaken_ = copy_->NameTaken();
+    return Fail(copy_->Error());
+  }
+  copy_.reset();
+  return true;
+}
+
+void VideoTransferJob::Cancel() {
+  if (failed_ || (next_ == videos_.size() && begun_ && !copy_)) return;
+  if (copy_) copy_->Cancel();
+  copy_.reset();
+  cancelled_ = true;
+}
+
+JobProgress VideoTransferJob::Progress() const {
+  JobProgress progress{videosDone_, static_cast<int>(videos_.size()), 0, {}};
+  std::int64_t bytes = bytesDone_;
+  if (copy_) {
+    bytes += copy_->Progress().bytesDone;
+    progress.current = copy_->Progress().current;
+  }
+  if (bytesTotal_ > 0) progress.part = std::min(1.0, static_cast<double>(bytes) / static_cast<double>(bytesTotal_));
+  return progress;
+}
+
+// ---------------------------------------------------------------- whole students
+
+StudentMoveJob::StudentMoveJob(const std::string& from, const std::string& to, ICopyDisk& disk)
+    : copy_(CopyJob::Kind::Move, {{{from, to}}}, disk) {}
+
+JobProgress StudentMoveJob::Progress() const { return ProgressOf(copy_.Progress()); }
+
+bool StudentRemovalJob::Step() {
+  if (hidden_.empty()) {
+    for (int number = 1; number < kMostTries; ++number) {
+      hidden_ = JoinPath(FolderOf(folder_), "." + LastName(folder_) + ".removed" + std::to_string(number));
+      if (!EntryExists(hidden_)) break;
+    }
+    return RenameEntry(folder_, hidden_, &error_, disk_);
+  }
+  removed_ = RemoveTree(hidden_, &error_, disk_);
+  if (!removed_) RenameEntry(hidden_, folder_, nullptr, disk_);
+  return false;
+}
+
+void StudentRemovalJob::Cancel() {
+  while (!hidden_.empty() && !removed_ && error_.empty()) Step();
+}
+
+JobProgress StudentRemovalJob::Progress() const { return {removed_ ? 1 : 0, 1, removed_ ? 1.0 : 0.0, LastName(folder_)}; }
+
+}  // namespace kinalyx

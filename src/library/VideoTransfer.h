@@ -1,0 +1,122 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "library/JobRunner.h"
+#include "platform/files/FileCopy.h"
+
+namespace kinalyx {
+
+// --- a video and what belongs to it
+
+/// True when a folder holds a video that the lists show by this name, in whatever case its extension is,
+/// or when the disk takes the name for one that is there.
+bool HasVideoNamed(const std::string& folder, std::string_view name);
+/// The sidecar of a video when it has one, else "".
+std::string SidecarOf(const std::string& videoPath);
+/// True when the sidecar belongs to a second video as well, whose name differs in the case of its
+/// extension alone.
+bool SharesSidecar(const std::string& videoPath);
+/// Makes way for a video: a sidecar of its name that lies there without a video gets ".old" at the end,
+/// so that its drawings neither vanish nor appear on another video. False when a sidecar stays there.
+bool SetAsideOrphan(const std::string& folder, std::string_view name, ICopyDisk& disk);
+/// A video and its sidecar on the way to a folder, under a new name without extension.
+CopyUnit VideoUnit(const std::string& videoPath, const std::string& folder, std::string_view name);
+
+// --- many of them
+
+/// One video that is to go to a folder.
+struct VideoTransfer {
+  std::string path;
+  std::string folder;         ///< of the target; made when missing
+  std::string studentFolder;  ///< whose profile and notes go along when the target has none; "" for none
+};
+
+/// Takes videos to other folders, each with its sidecar, one after the other.
+class VideoTransferJob final : public IJob {
+ public:
+  enum class OnClash {
+    Stop,    ///< a video of that name at the target ends the job
+    AddD,    ///< the name gets a "d" at its end until it is free
+  };
+
+  VideoTransferJob(CopyJob::Kind kind, OnClash onClash, std::vector<VideoTransfer> videos,
+                   ICopyDisk& disk = RealCopyDisk());
+
+  bool Step() override;
+  void Cancel() override;
+  JobProgress Progress() const override;
+
+  bool Cancelled() const { return cancelled_; }
+  /// Videos that have arrived.
+  int VideosDone() const { return videosDone_; }
+  /// The same with their sidecars.
+  int FilesDone() const { return filesDone_; }
+  /// Why it stopped, in words for the user, or what could not be removed after a move; empty otherwise.
+  const std::string& Error() const { return error_; }
+  bool Failed() const { return failed_; }
+  /// It stopped because the target has a video of that name.
+  bool NameTaken() const { return nameTaken_; }
+
+ private:
+  bool Begin();
+  void TakeProfile(const VideoTransfer& video);
+  bool EndOfOne();
+  bool Fail(const std::string& error);
+
+  CopyJob::Kind kind_;
+  OnClash onClash_;
+  std::vector<VideoTransfer> videos_;
+  ICopyDisk& disk_;
+  std::size_t next_ = 0;
+  std::optional<CopyJob> copy_;
+  std::int64_t bytesTotal_ = 0;
+  std::int64_t bytesDone_ = 0;
+  bool begun_ = false;
+  bool cancelled_ = false;
+  bool failed_ = false;
+  bool nameTaken_ = false;
+  int videosDone_ = 0;
+  int filesDone_ = 0;
+  std::string error_;
+};
+
+// --- whole students
+
+/// Moves a student's folder.
+class StudentMoveJob final : public IJob {
+ public:
+  StudentMoveJob(const std::string& from, const std::string& to, ICopyDisk& disk);
+  bool Step() override { return copy_.Step() == CopyJob::State::Running; }
+  void Cancel() override { copy_.Cancel(); }
+  JobProgress Progress() const override;
+  const CopyJob& Copy() const { return copy_; }
+
+ private:
+  CopyJob copy_;
+};
+
+/// Removes a student's folder. First it is hidden under another name, so that no half of a student is
+/// ever shown; what cannot be removed appears again. A cancel comes too late once that has happened.
+class StudentRemovalJob final : public IJob {
+ public:
+  StudentRemovalJob(std::string folder, ICopyDisk& disk) : folder_(std::move(folder)), disk_(disk) {}
+  bool Step() override;
+  void Cancel() override;
+  JobProgress Progress() const override;
+  bool Removed() const { return removed_; }
+  const std::string& Error() const { return error_; }
+
+ private:
+  std::string folder_;
+  ICopyDisk& disk_;
+  std::string hidden_;
+  bool removed_ = false;
+  std::string error_;
+};
+
+}  // namespace kinalyx
