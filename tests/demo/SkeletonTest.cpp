@@ -40,9 +40,9 @@ std::vector<Golfer> Golfers() {
 }
 
 std::vector<Vec3> JointsOf(const Pose& p) {
-  return {p.pelvis,          p.neck,           p.head,            p.leadLeg.hip,    p.leadLeg.knee,
-          p.trailLeg.hip,    p.trailLeg.knee,  p.trailLeg.ankle,  p.trailLeg.heel,  p.leadArm.shoulder,
-          p.leadArm.elbow,   p.trailArm.shoulder, p.trailArm.elbow, p.leadArm.hand, p.trailArm.hand};
+  return {p.pelvis,         p.neck,           p.head,          p.leadLeg.hip,      p.leadLeg.knee,  p.trailLeg.hip,
+          p.trailLeg.knee,  p.trailLeg.ankle, p.trailLeg.heel, p.leadArm.shoulder, p.leadArm.elbow, p.trailArm.shoulder,
+          p.trailArm.elbow, p.leadArm.hand,   p.trailArm.hand};
 }
 
 /// Calls `look` for the whole film in steps of a thousandth of a second.

@@ -34,21 +34,25 @@ constexpr Tone kHaze{196, 214, 226};
 class Painter {
  public:
   Painter(const Camera& camera, View view, double ballLine, std::uint32_t seed)
-      : camera_(camera.Resized(kSamples)), view_(view), ballLine_(ballLine), seed_(seed),
-        picture_(camera_.Width(), camera_.Height()), canvas_(picture_) {}
+      : camera_(camera.Resized(kSamples)),
+        view_(view),
+        ballLine_(ballLine),
+        seed_(seed),
+        picture_(camera_.Width(), camera_.Height()),
+        canvas_(picture_) {}
 
   Surface Paint() {
     SkyAndGround();
     Hills();
     if (view_ == View::FaceOn) {
-      TreeRow(90, 13, 46, 0.55);
-      TreeRow(46, 7, 26, 0.34);
+      TreeRow(90, 13, 0.55, false);
+      TreeRow(46, 7, 0.34, false);
       Hedge();
     } else {
-      TreeRow(230, 16, 60, 0.55);
-      TreeRow(120, 13, 0, 0.30);
+      TreeRow(230, 16, 0.55, false);
+      TreeRow(120, 13, 0.30, true);
       Flags();
-      TreeRow(55, 11, 0, 0.10);
+      TreeRow(55, 11, 0.10, true);
     }
     return Reduced(picture_, kSamples);
   }
@@ -88,7 +92,8 @@ class Painter {
   Tone Ground(Vec3 place, double distance) const {
     // The mat: a dark rim, two worn places for the feet and a strip for the ball.
     const double left = -1.0, right = 1.0, back = -0.42, front = ballLine_ + 0.35;
-    const double inside = std::min(std::min(place.x - left, right - place.x), std::min(place.z - back, front - place.z));
+    const double inside =
+        std::min(std::min(place.x - left, right - place.x), std::min(place.z - back, front - place.z));
     if (inside < -0.05) return Grass(place, distance);
     if (inside < 0) return Mix(Times(Grass(place, distance), 0.62), {34, 46, 36}, Smooth(-0.05, -0.02, inside));
     if (inside < 0.035) return {42, 48, 46};
@@ -112,7 +117,9 @@ class Painter {
       }
   }
 
-  double Horizon() const { return camera_.Project(camera_.Position() + Vec3{camera_.Forward().x, 0, camera_.Forward().z} * 1e5).y; }
+  double Horizon() const {
+    return camera_.Project(camera_.Position() + Vec3{camera_.Forward().x, 0, camera_.Forward().z} * 1e5).y;
+  }
 
   void Hills() {
     const double horizon = Horizon(), unit = camera_.Scale(1);
@@ -143,7 +150,8 @@ class Painter {
     const double scale = camera_.Scale(root.distance), tall = height * scale;
     const double wide = tall * dice.Between(0.34, 0.50);
     if (root.x < -wide * 2 || root.x > picture_.Width() + wide * 2) return;
-    const Tone dark = Mix({30, 58, 36}, {44, 70, 34}, dice.Next()), light = Mix({104, 146, 70}, {132, 156, 78}, dice.Next());
+    const Tone dark = Mix({30, 58, 36}, {44, 70, 34}, dice.Next()),
+               light = Mix({104, 146, 70}, {132, 156, 78}, dice.Next());
     // Its shade on the grass, and the trunk.
     Blob(root.x + tall * 0.10, root.y, wide * 1.1, 0.10, Mix({58, 94, 44}, kHaze, haze * 0.8));
     canvas_.SetPen({ToColour(Mix({74, 60, 46}, kHaze, haze)), std::max(1, static_cast<int>(tall * 0.055)), 0});
@@ -160,25 +168,25 @@ class Painter {
       v -= 0.26 * share;
       const double narrowing = 1 - 0.35 * std::max(0.0, -v);
       const double radius = tall * size * dice.Between(0.055, 0.105) * (1.15 - 0.55 * share);
-      const Tone leaf = Mix(dark, light, std::clamp(0.92 * share - 0.25 * v * share + dice.Between(-0.12, 0.12), 0.0, 1.0));
+      const Tone leaf =
+          Mix(dark, light, std::clamp(0.92 * share - 0.25 * v * share + dice.Between(-0.12, 0.12), 0.0, 1.0));
       Blob(root.x + u * wide * narrowing, root.y - tall * 0.60 + v * tall * 0.36, radius, 0.85, Mix(leaf, kHaze, haze));
     }
   }
 
-  /// Trees across the view at about this distance; with a gap of half this width in the middle of it.
-  void TreeRow(double distance, double height, double spread, double haze) {
+  /// Trees across the view at about this distance; `open` leaves room for the fairway in the middle.
+  void TreeRow(double distance, double height, double haze, bool open) {
     Dice dice(seed_ * 31 + static_cast<std::uint32_t>(distance));
     const Vec3 eye = camera_.Position();
     const Vec3 ahead = Unit({camera_.Forward().x, 0, camera_.Forward().z}), side = Cross(ahead, {0, 1, 0});
-    const double reach = distance * 0.75 * (view_ == View::FaceOn ? 0.9 : 1.0);
+    const double reach = distance * 0.75;
     const double step = height * 0.62;
     struct Place {
       double along, aside, height;
     };
     std::vector<Place> places;
     for (double aside = -reach; aside < reach; aside += step * dice.Between(0.6, 1.3)) {
-      // Down the line the fairway stays open.
-      if (view_ == View::DownTheLine && spread == 0 && std::abs(aside - distance * 0.02) < distance * 0.17) continue;
+      if (open && std::abs(aside - distance * 0.02) < distance * 0.17) continue;
       places.push_back({distance * dice.Between(0.92, 1.12), aside, height * dice.Between(0.7, 1.25)});
     }
     std::sort(places.begin(), places.end(), [](const Place& a, const Place& b) { return a.along > b.along; });
@@ -194,9 +202,11 @@ class Painter {
     for (int row = 0; row < kRows; ++row)
       for (double x = -9; x < 9; x += 0.055) {
         const double share = static_cast<double>(row) / (kRows - 1);
-        const Projected foot = camera_.Project({x + dice.Between(-0.1, 0.1), 0.05 + 0.62 * share + dice.Between(-0.05, 0.05), -9.0});
+        const Projected foot =
+            camera_.Project({x + dice.Between(-0.1, 0.1), 0.05 + 0.62 * share + dice.Between(-0.05, 0.05), -9.0});
         const double radius = camera_.Scale(foot.distance) * dice.Between(0.045, 0.085);
-        const Tone leaf = Mix({40, 78, 42}, {112, 152, 76}, std::clamp(0.8 * share + dice.Between(-0.1, 0.2), 0.0, 1.0));
+        const Tone leaf =
+            Mix({40, 78, 42}, {112, 152, 76}, std::clamp(0.8 * share + dice.Between(-0.1, 0.2), 0.0, 1.0));
         Blob(foot.x, foot.y, radius, 0.9, Mix(leaf, kHaze, 0.12));
       }
   }
@@ -206,7 +216,8 @@ class Painter {
       double x, z;
       Colour colour;
     };
-    for (const Flag& flag : {Flag{150, 9, Rgb(216, 176, 40)}, Flag{100, -7, Rgb(240, 240, 236)}, Flag{64, 5.5, Rgb(206, 52, 44)}}) {
+    for (const Flag& flag :
+         {Flag{150, 9, Rgb(216, 176, 40)}, Flag{100, -7, Rgb(240, 240, 236)}, Flag{64, 5.5, Rgb(206, 52, 44)}}) {
       const Projected foot = camera_.Project({flag.x, 0, flag.z}), top = camera_.Project({flag.x, 3.2, flag.z});
       const double scale = camera_.Scale(foot.distance);
       Blob(foot.x, foot.y, scale * 4.5, 0.16, Mix({128, 172, 86}, kHaze, 0.2));
@@ -215,7 +226,8 @@ class Painter {
       canvas_.Line(at(foot.x, foot.y), at(top.x, top.y));
       canvas_.SetPen({0, 1, 5});
       canvas_.SetBrush(flag.colour);
-      const POINTAPI cloth[] = {at(top.x, top.y), at(top.x + scale * 1.3, top.y + scale * 0.35), at(top.x, top.y + scale * 0.75)};
+      const POINTAPI cloth[] = {at(top.x, top.y), at(top.x + scale * 1.3, top.y + scale * 0.35),
+                                at(top.x, top.y + scale * 0.75)};
       canvas_.Polygon(cloth);
     }
   }

@@ -19,15 +19,20 @@ class Camera {
   /// @param fieldOfView  degrees, upright
   /// @param stretch      width of what is seen over its height, for pictures whose pixels are not square
   Camera(Vec3 position, Vec3 target, double fieldOfView, int width, int height, double stretch = 1)
-      : position_(position), forward_(Unit(target - position)), right_(Unit(Cross(forward_, {0, 1, 0}))),
-        down_(Cross(forward_, right_)), focal_(height / 2.0 / std::tan(Radians(fieldOfView / 2))), stretch_(stretch),
-        width_(width), height_(height) {}
+      : position_(position),
+        forward_(Unit(target - position)),
+        right_(Unit(Cross(forward_, {0, 1, 0}))),
+        down_(Cross(forward_, right_)),
+        focal_(height / 2.0 / std::tan(Radians(fieldOfView / 2))),
+        stretch_(stretch),
+        width_(width),
+        height_(height) {}
 
   Projected Project(Vec3 point) const {
     const Vec3 way = point - position_;
     const double distance = std::max(Dot(way, forward_), 0.05);
-    return {width_ / 2.0 + focal_ * stretch_ * Dot(way, right_) / distance, height_ / 2.0 + focal_ * Dot(way, down_) / distance,
-            distance};
+    return {width_ / 2.0 + focal_ * stretch_ * Dot(way, right_) / distance,
+            height_ / 2.0 + focal_ * Dot(way, down_) / distance, distance};
   }
   /// Unit direction of what is seen at a place of the picture.
   Vec3 Ray(double x, double y) const {

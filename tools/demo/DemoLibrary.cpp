@@ -19,7 +19,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::int64_t kNeededBytes = 250LL << 20;
+constexpr std::int64_t kNeededBytes = 160LL << 20;
 
 /// A folder that goes with all that is in it, unless it is moved to its place.
 class ScratchFolder {
@@ -41,7 +41,8 @@ class ScratchFolder {
   /// An empty folder in that place is replaced.
   bool MoveTo(const fs::path& place) {
     std::error_code error;
-    fs::permissions(path_, fs::perms::group_read | fs::perms::group_exec | fs::perms::others_read | fs::perms::others_exec,
+    fs::permissions(path_,
+                    fs::perms::group_read | fs::perms::group_exec | fs::perms::others_read | fs::perms::others_exec,
                     fs::perm_options::add, error);
     fs::rename(path_, place, error);
     if (error) return false;
@@ -72,7 +73,8 @@ std::string MakeFolders(const std::vector<DemoInstructor>& plan, const std::stri
     for (const DemoVideo& video : instructor.videos) film(video, folder, instructor.name);
     for (const DemoStudent& student : instructor.students) {
       const std::string& name = student.profile[kNameField];
-      if (const Outcome made = AddStudent(folder, fields.Captions(), student.profile, "student"); !made.done) return made.message;
+      if (const Outcome made = AddStudent(folder, fields.Captions(), student.profile, "student"); !made.done)
+        return made.message;
       const std::string home = JoinPath(folder, name);
       std::string error;
       if (!SaveNotes(home, student.notes, &error)) return error;
@@ -123,7 +125,8 @@ std::string MakeDemoLibrary(const std::string& folder, const std::function<void(
   if (!place.has_filename()) place = place.parent_path();
   if (fs::exists(place, error) && !(fs::is_directory(place, error) && fs::is_empty(place, error)))
     return "There is something in " + place.string() + " already; it is left as it is.";
-  if (!MakeFolder(place.parent_path().string())) return "The folder " + place.parent_path().string() + " cannot be made.";
+  if (!MakeFolder(place.parent_path().string()))
+    return "The folder " + place.parent_path().string() + " cannot be made.";
   const std::int64_t room = FreeBytes(place.parent_path().string());
   if (room >= 0 && room < kNeededBytes)
     return fmt::format("The demo library needs {} MB; only {} are free.", kNeededBytes >> 20, room >> 20);

@@ -20,9 +20,26 @@ DemoStudent Clara() {
   look.shirt = Rgb(196, 62, 84);
   look.trousers = Rgb(232, 230, 224);
   DemoStudent student;
-  student.profile = {"Clara Weiss", "14 Mill Lane", "Ashford, 02144", "555-0114", "clara.weiss@example.com", "3", "34",
-                     "170 cm", "R", "", "Balance, tempo", "Slides off the ball", "Turn around a quiet head",
-                     "Single-figure handicap", "6", "4", "Club championship in September", "None", "None", "None"};
+  student.profile = {"Clara Weiss",
+                     "14 Mill Lane",
+                     "Ashford, 02144",
+                     "555-0114",
+                     "clara.weiss@example.com",
+                     "3",
+                     "34",
+                     "170 cm",
+                     "R",
+                     "",
+                     "Balance, tempo",
+                     "Slides off the ball",
+                     "Turn around a quiet head",
+                     "Single-figure handicap",
+                     "6",
+                     "4",
+                     "Club championship in September",
+                     "None",
+                     "None",
+                     "None"};
   student.notes =
       "12 May: hips slide away from the target in the takeaway and the head goes with them.\n"
       "Drill: stick in the ground outside the right hip, ten slow swings without touching it.\n"
@@ -47,14 +64,32 @@ DemoStudent Daniel() {
   look.trousers = Rgb(92, 82, 68);
   look.cap = Rgb(30, 40, 60);
   DemoStudent student;
-  student.profile = {"Daniel Ortega", "8 Harbour Road", "Westport, 06880", "555-0172", "d.ortega@example.com", "8", "41",
-                     "184 cm", "R", "", "Strong, good speed", "Over the top, slices", "Start down with the hips",
-                     "Draw with the driver", "8", "6", "Member-guest in July", "Left knee, 2019", "None", "None"};
+  student.profile = {"Daniel Ortega",
+                     "8 Harbour Road",
+                     "Westport, 06880",
+                     "555-0172",
+                     "d.ortega@example.com",
+                     "8",
+                     "41",
+                     "184 cm",
+                     "R",
+                     "",
+                     "Strong, good speed",
+                     "Over the top, slices",
+                     "Start down with the hips",
+                     "Draw with the driver",
+                     "8",
+                     "6",
+                     "Member-guest in July",
+                     "Left knee, 2019",
+                     "None",
+                     "None"};
   student.notes =
       "May: shoulders start the downswing, the club comes from outside the hand path.\n"
       "June: path is nearly neutral, keep the trail elbow in front of the hip.";
   student.videos = {
-      {"Iron DTL May", DemoFormat::Mjpeg, View::DownTheLine, With(look, ClubKind::Iron, {.overTheTop = 1, .casting = 0.3}), 5,
+      {"Iron DTL May", DemoFormat::Mjpeg, View::DownTheLine,
+       With(look, ClubKind::Iron, {.overTheTop = 1, .casting = 0.3}), 5,
        "Club above the plane when the lead arm is level in the downswing."},
       {"Iron DTL June", DemoFormat::Mjpeg, View::DownTheLine, With(look, ClubKind::Iron, {.overTheTop = 0.15}), 5, ""},
       {"Iron FO June", DemoFormat::H264, View::FaceOn, With(look, ClubKind::Iron, {.overTheTop = 0.15}), 5, ""},
@@ -72,9 +107,26 @@ DemoStudent Jonas() {
   SwingStyle style = With(look, ClubKind::Driver, {.earlyExtension = 0.25});
   style.leftHanded = true;
   DemoStudent student;
-  student.profile = {"Jonas Müller", "Gartenstraße 5", "Freiburg", "555-0136", "jonas@example.com", "12", "27", "188 cm",
-                     "L", "", "Length off the tee", "Wedges", "Three wedge distances", "State team", "16", "12",
-                     "Regional qualifier", "Back, 2021", "None", "None"};
+  student.profile = {"Jonas Müller",
+                     "Gartenstraße 5",
+                     "Freiburg",
+                     "555-0136",
+                     "jonas@example.com",
+                     "12",
+                     "27",
+                     "188 cm",
+                     "L",
+                     "",
+                     "Length off the tee",
+                     "Wedges",
+                     "Three wedge distances",
+                     "State team",
+                     "16",
+                     "12",
+                     "Regional qualifier",
+                     "Back, 2021",
+                     "None",
+                     "None"};
   student.notes = "Left-handed. Use the mirror to compare him with the models.";
   student.videos = {
       {"Driver FO", DemoFormat::DvInterlaced, View::FaceOn, style, 8, ""},
@@ -93,9 +145,26 @@ DemoStudent Grace() {
   look.shirt = Rgb(246, 196, 66);
   look.trousers = Rgb(34, 52, 84);
   DemoStudent student;
-  student.profile = {"Grace Okafor", "22 Station Street", "Milton, 02186", "555-0190", "grace.okafor@example.com", "5", "29",
-                     "166 cm", "R", "", "Short game", "Stands up through the ball", "Keep the bend at impact",
-                     "Play to 10", "10", "5", "", "None", "None", "None"};
+  student.profile = {"Grace Okafor",
+                     "22 Station Street",
+                     "Milton, 02186",
+                     "555-0190",
+                     "grace.okafor@example.com",
+                     "5",
+                     "29",
+                     "166 cm",
+                     "R",
+                     "",
+                     "Short game",
+                     "Stands up through the ball",
+                     "Keep the bend at impact",
+                     "Play to 10",
+                     "10",
+                     "5",
+                     "",
+                     "None",
+                     "None",
+                     "None"};
   student.notes = "Hips move to the ball from the top. Chair drill, five minutes a day.";
   const SwingFaults stand{.earlyExtension = 1};
   student.videos = {
@@ -117,9 +186,26 @@ DemoStudent Walter() {
   style.backswing = 0.78;
   style.tempo = 1.12;
   DemoStudent student;
-  student.profile = {"Walter Finch", "3 Orchard Close", "Ashford, 02144", "555-0158", "w.finch@example.com", "31", "68",
-                     "174 cm", "R", "", "Straight, patient", "Weight stays on the back foot", "Finish on the left side",
-                     "Enjoy the game", "4", "8", "Seniors' league", "Right hip, 2020", "None", "No deep knee bends"};
+  student.profile = {"Walter Finch",
+                     "3 Orchard Close",
+                     "Ashford, 02144",
+                     "555-0158",
+                     "w.finch@example.com",
+                     "31",
+                     "68",
+                     "174 cm",
+                     "R",
+                     "",
+                     "Straight, patient",
+                     "Weight stays on the back foot",
+                     "Finish on the left side",
+                     "Enjoy the game",
+                     "4",
+                     "8",
+                     "Seniors' league",
+                     "Right hip, 2020",
+                     "None",
+                     "No deep knee bends"};
   student.notes = "Short backswing is fine for him. Step-through drill to get to the front foot.";
   student.videos = {{"Driver FO", DemoFormat::Mjpeg, View::FaceOn, style, 9, ""}};
   return student;

@@ -11,11 +11,11 @@
 namespace kinalyx::demo {
 
 enum class DemoFormat {
-  DvInterlaced,   ///< 720 x 480, 59.94 fields a second, bottom field first
-  Mjpeg,          ///< 640 x 480, 60 pictures a second
-  H264,           ///< 640 x 480, 30 pictures a second, one key picture in 250
-  H264Large,      ///< 1280 x 720, 60 pictures a second, one key picture in 250
-  Uncompressed,   ///< 320 x 240, 30 pictures a second
+  DvInterlaced,  ///< 720 x 480, 59.94 fields a second, bottom field first
+  Mjpeg,         ///< 640 x 480, 60 pictures a second
+  H264,          ///< 640 x 480, 30 pictures a second, one key picture in 250
+  H264Large,     ///< 1280 x 720, 60 pictures a second, one key picture in 250
+  Uncompressed,  ///< 320 x 240, 30 pictures a second
 };
 
 struct DemoVideo {

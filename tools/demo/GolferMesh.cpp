@@ -39,25 +39,28 @@ void AddTorso(Mesh& mesh, const Tailor& t) {
   struct Measure {
     double height, side, front, forward;
   };
-  static constexpr Measure kShirt[] = {{0.14, 0.172, 0.118, 0.000}, {0.20, 0.168, 0.116, 0.002}, {0.30, 0.160, 0.110, 0.004},
-                                       {0.42, 0.158, 0.108, 0.006}, {0.55, 0.168, 0.114, 0.010}, {0.68, 0.178, 0.120, 0.012},
-                                       {0.80, 0.182, 0.116, 0.008}, {0.88, 0.172, 0.100, 0.002}, {0.94, 0.146, 0.082, -0.004},
-                                       {0.99, 0.108, 0.068, -0.004}, {1.03, 0.068, 0.060, 0.002}};
+  static constexpr Measure kShirt[] = {
+      {0.14, 0.172, 0.118, 0.000},  {0.20, 0.168, 0.116, 0.002}, {0.30, 0.160, 0.110, 0.004},
+      {0.42, 0.158, 0.108, 0.006},  {0.55, 0.168, 0.114, 0.010}, {0.68, 0.178, 0.120, 0.012},
+      {0.80, 0.182, 0.116, 0.008},  {0.88, 0.172, 0.100, 0.002}, {0.94, 0.146, 0.082, -0.004},
+      {0.99, 0.108, 0.068, -0.004}, {1.03, 0.068, 0.060, 0.002}};
   const auto skin = [&](std::span<const Measure> measures, const Material& material) {
     std::vector<Ring> rings;
     for (const Measure& m : measures) {
       const Axes axes = Between(p.pelvisAxes, p.chestAxes, Smooth(0.05, 0.75, m.height));
-      rings.push_back(RingAbout(centre(m.height) + axes.front * (m.forward * t.size), axes, m.side * t.width, m.front * t.width));
+      rings.push_back(
+          RingAbout(centre(m.height) + axes.front * (m.forward * t.size), axes, m.side * t.width, m.front * t.width));
     }
     mesh.AddSkin(rings, material, 22);
   };
   skin(kShirt, {t.look.shirt});
   static constexpr Measure kCollar[] = {{1.00, 0.070, 0.064, 0.002}, {1.08, 0.062, 0.060, 0.008}};
   skin(kCollar, {t.look.shirt});
-  static constexpr Measure kWaist[] = {{0.10, 0.166, 0.116, 0.0}, {0.155, 0.165, 0.115, 0.0}};
+  static constexpr Measure kWaist[] = {{0.105, 0.165, 0.116, 0.0}, {0.15, 0.165, 0.116, 0.0}};
   skin(kWaist, {kBelt, 0.3});
-  static constexpr Measure kHips[] = {{-0.20, 0.095, 0.080, -0.004}, {-0.14, 0.150, 0.106, -0.010}, {-0.06, 0.168, 0.120, -0.014},
-                                      {0.02, 0.172, 0.124, -0.012},  {0.08, 0.168, 0.120, -0.006},  {0.12, 0.163, 0.114, 0.0}};
+  static constexpr Measure kHips[] = {{-0.20, 0.095, 0.080, -0.002}, {-0.14, 0.148, 0.104, -0.006},
+                                      {-0.06, 0.166, 0.117, -0.008}, {0.02, 0.168, 0.119, -0.007},
+                                      {0.08, 0.165, 0.117, -0.003},  {0.12, 0.162, 0.114, 0.0}};
   skin(kHips, {t.look.trousers});
 }
 
@@ -69,7 +72,9 @@ void AddHead(Mesh& mesh, const Tailor& t) {
     return p.head + h.side * (side * s) + h.up * (up * s) + h.front * (front * s);
   };
   const auto ball = [&](Vec3 centre, double side, double up, double front, const Material& material, double from = -1,
-                        double to = 1) { mesh.AddBall(centre, h, Vec3{side, up, front} * s, material, from, to); };
+                        double to = 1) {
+    mesh.AddBall(centre, h, Vec3{side, up, front} * s, material, from, to);
+  };
   const Material skin{t.look.skin, 0.08}, hair{t.look.hair, 0.1}, cap{t.look.cap};
   const double neck[] = {0.060 * s, 0.057 * s, 0.056 * s};
   mesh.AddLimb(p.neck - p.chestAxes.up * (0.02 * s), place(0, -0.05, -0.012), neck, skin);
@@ -113,8 +118,9 @@ void AddLeg(Mesh& mesh, const Tailor& t, const LegPose& leg) {
   struct Measure {
     double along, height, half;
   };
-  static constexpr Measure kUpper[] = {{-0.012, 0.040, 0.022}, {0.0, 0.062, 0.034}, {0.05, 0.085, 0.040}, {0.10, 0.088, 0.040},
-                                       {0.145, 0.070, 0.043},  {0.20, 0.052, 0.049}, {0.245, 0.042, 0.044}, {0.272, 0.026, 0.026}};
+  static constexpr Measure kUpper[] = {{-0.012, 0.040, 0.022}, {0.0, 0.062, 0.034},   {0.05, 0.085, 0.040},
+                                       {0.10, 0.088, 0.040},   {0.145, 0.070, 0.043}, {0.20, 0.052, 0.049},
+                                       {0.245, 0.042, 0.044},  {0.272, 0.026, 0.026}};
   std::vector<Ring> upper, sole;
   for (const Measure& m : kUpper) {
     const Vec3 base = leg.heel + forward * ((m.along - 0.01) * z);
@@ -183,8 +189,13 @@ void AddClub(Mesh& mesh, const Pose& pose, ClubKind kind) {
     double along, half, thick;
   };
   std::vector<Ring> rings;
-  for (const Measure& m : {Measure{-0.012, 0.012, 0.008}, {0.01, 0.017, 0.010}, {0.04, 0.023, 0.009}, {0.066, 0.029, 0.008}, {0.078, 0.020, 0.006}})
-    rings.push_back({pose.clubHead + toe * m.along + axes.up * (m.half - 0.016), axes.up * m.half, axes.side * m.thick});
+  for (const Measure& m : {Measure{-0.012, 0.012, 0.008},
+                           {0.01, 0.017, 0.010},
+                           {0.04, 0.023, 0.009},
+                           {0.066, 0.029, 0.008},
+                           {0.078, 0.020, 0.006}})
+    rings.push_back(
+        {pose.clubHead + toe * m.along + axes.up * (m.half - 0.016), axes.up * m.half, axes.side * m.thick});
   mesh.AddSkin(rings, {Rgb(188, 194, 202), 0.9}, 12);
 }
 

@@ -11,12 +11,17 @@ constexpr float kFar = -1e9f;
 constexpr double kSlack = 0.022;  // a surface does not shade itself
 
 /// With room for the texels around it.
-bool InsideMap(Vec3 place, int size) { return place.x >= 2 && place.y >= 2 && place.x <= size - 4 && place.y <= size - 4; }
+bool InsideMap(Vec3 place, int size) {
+  return place.x >= 2 && place.y >= 2 && place.x <= size - 4 && place.y <= size - 4;
+}
 
 }  // namespace
 
 SunShadow::SunShadow()
-    : across_(Unit(Cross({0, 1, 0}, kSun))), upward_(Cross(kSun, across_)), nearest_(kSize * kSize, kFar), used_{kSize, kSize, -1, -1} {}
+    : across_(Unit(Cross({0, 1, 0}, kSun))),
+      upward_(Cross(kSun, across_)),
+      nearest_(kSize * kSize, kFar),
+      used_{kSize, kSize, -1, -1} {}
 
 void SunShadow::Clear() {
   std::fill(nearest_.begin(), nearest_.end(), kFar);
@@ -42,7 +47,8 @@ void SunShadow::Cast(const Mesh& mesh) {
     const int top = std::max(0, static_cast<int>(std::ceil(std::min({a.y, b.y, c.y}))));
     const int bottom = std::min(kSize - 1, static_cast<int>(std::floor(std::max({a.y, b.y, c.y}))));
     if (left > right || top > bottom) continue;
-    used_ = {std::min(used_.left, left), std::min(used_.top, top), std::max(used_.right, right), std::max(used_.bottom, bottom)};
+    used_ = {std::min(used_.left, left), std::min(used_.top, top), std::max(used_.right, right),
+             std::max(used_.bottom, bottom)};
     for (int y = top; y <= bottom; ++y)
       for (int x = left; x <= right; ++x) {
         const double v = ((x - a.x) * (c.y - a.y) - (y - a.y) * (c.x - a.x)) / area;

@@ -7,7 +7,8 @@ namespace kinalyx::demo {
 
 /// 0 to 1, the same for the same arguments.
 inline double HashNoise(int x, int y, std::uint32_t seed) {
-  std::uint32_t h = static_cast<std::uint32_t>(x) * 0x8da6b343u ^ static_cast<std::uint32_t>(y) * 0xd8163841u ^ seed * 0xcb1ab31fu;
+  std::uint32_t h =
+      static_cast<std::uint32_t>(x) * 0x8da6b343u ^ static_cast<std::uint32_t>(y) * 0xd8163841u ^ seed * 0xcb1ab31fu;
   h = (h ^ (h >> 15)) * 0x2c1b3c6du;
   h = (h ^ (h >> 12)) * 0x297a2d39u;
   return static_cast<double>((h ^ (h >> 15)) & 0xFFFFFF) / 0x1000000;

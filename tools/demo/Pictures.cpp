@@ -37,7 +37,9 @@ Colour Mixed(Colour a, Colour b, double t) {
   return Rgb(mix(Red(a), Red(b)), mix(Green(a), Green(b)), mix(Blue(a), Blue(b)));
 }
 
-POINTAPI Nearest(double x, double y) { return {static_cast<std::int32_t>(std::lround(x)), static_cast<std::int32_t>(std::lround(y))}; }
+POINTAPI Nearest(double x, double y) {
+  return {static_cast<std::int32_t>(std::lround(x)), static_cast<std::int32_t>(std::lround(y))};
+}
 
 void Blend(std::uint8_t* pixel, Colour colour, double share) {
   const int channels[] = {Blue(colour), Green(colour), Red(colour)};
@@ -67,8 +69,8 @@ Surface Ground(const Mood& mood, double glowX, double glowY) {
 }
 
 /// Where a part of the club goes from the top until it is up again, as a line that brightens and fades.
-void DrawArc(Surface& picture, const Skeleton& skeleton, const Camera& camera, const std::function<Vec3(const Pose&)>& part,
-             int width, double strength) {
+void DrawArc(Surface& picture, const Skeleton& skeleton, const Camera& camera,
+             const std::function<Vec3(const Pose&)>& part, int width, double strength) {
   constexpr int kSamples = 2;
   Surface mask(picture.Width() * kSamples, picture.Height() * kSamples);
   Canvas canvas(mask);
@@ -85,7 +87,8 @@ void DrawArc(Surface& picture, const Skeleton& skeleton, const Camera& camera, c
     const double share = static_cast<double>(i) / kPieces;
     const Projected next = large.Project(part(skeleton.At(from + (to - from) * std::pow(share, 1.3))));
     const double light = std::sin(kPi * std::clamp(0.06 + share, 0.0, 1.0));
-    pieces.push_back({static_cast<int>(255 * std::pow(std::max(0.0, light), 0.7)), Nearest(last.x, last.y), Nearest(next.x, next.y)});
+    pieces.push_back({static_cast<int>(255 * std::pow(std::max(0.0, light), 0.7)), Nearest(last.x, last.y),
+                      Nearest(next.x, next.y)});
     last = next;
   }
   // Where the line meets itself the brighter piece is seen.
@@ -105,7 +108,8 @@ void ShadeFloor(Surface& picture, const Camera& camera, const SunShadow& shadow,
   for (int y = 0; y < picture.Height(); ++y)
     for (int x = 0; x < picture.Width(); ++x)
       if (const std::optional<Vec3> place = camera.Ground(x + 0.5, y + 0.5); place && shadow.Holds(*place))
-        if (const double dark = 1 - shadow.SunAt(shadow.InMap(*place)); dark > 0) Blend(picture.Row(y) + x * 4, shade, 0.45 * dark);
+        if (const double dark = 1 - shadow.SunAt(shadow.InMap(*place)); dark > 0)
+          Blend(picture.Row(y) + x * 4, shade, 0.45 * dark);
 }
 
 Surface MenuPicture(const Mood& mood) {
@@ -118,9 +122,12 @@ Surface MenuPicture(const Mood& mood) {
   const Projected chest = camera.Project(pose.neck);
   Surface picture = Ground(mood, chest.x, chest.y + 60);
 
-  DrawArc(picture, skeleton, camera, [](const Pose& p) { return p.clubHead; }, 4, 0.55);
-  DrawArc(picture, skeleton, camera, [](const Pose& p) { return Lerp(p.gripEnd, p.clubHead, 0.62); }, 2, 0.32);
-  DrawArc(picture, skeleton, camera, [](const Pose& p) { return p.leadArm.hand; }, 3, 0.40);
+  DrawArc(
+      picture, skeleton, camera, [](const Pose& p) { return p.clubHead; }, 4, 0.55);
+  DrawArc(
+      picture, skeleton, camera, [](const Pose& p) { return Lerp(p.gripEnd, p.clubHead, 0.62); }, 2, 0.32);
+  DrawArc(
+      picture, skeleton, camera, [](const Pose& p) { return p.leadArm.hand; }, 3, 0.40);
 
   Mesh mesh;
   AddGolfer(mesh, pose, style.look);
@@ -157,10 +164,11 @@ std::vector<Mood> Moods() {
   GolferLook graphite = blue;
   graphite.shirt = Rgb(222, 226, 232);
   graphite.trousers = Rgb(34, 38, 46);
-  return {{"bio-guy blue", Rgb(12, 34, 66), Rgb(28, 80, 136), Rgb(98, 150, 206), blue, SwingPhase::Top},
-          {"swing maroon", Rgb(40, 8, 12), Rgb(104, 34, 36), Rgb(204, 164, 134), maroon, SwingPhase::Finish},
-          {"swing green", Rgb(8, 34, 20), Rgb(34, 92, 58), Rgb(172, 186, 134), green, SwingPhase::LeadArmLevel},
-          {"swing graphite", Rgb(14, 18, 24), Rgb(48, 58, 70), Rgb(134, 148, 164), graphite, SwingPhase::TrailArmLevel}};
+  return {
+      {"bio-guy blue", Rgb(12, 34, 66), Rgb(28, 80, 136), Rgb(98, 150, 206), blue, SwingPhase::Top},
+      {"swing maroon", Rgb(40, 8, 12), Rgb(104, 34, 36), Rgb(204, 164, 134), maroon, SwingPhase::Finish},
+      {"swing green", Rgb(8, 34, 20), Rgb(34, 92, 58), Rgb(172, 186, 134), green, SwingPhase::LeadArmLevel},
+      {"swing graphite", Rgb(14, 18, 24), Rgb(48, 58, 70), Rgb(134, 148, 164), graphite, SwingPhase::TrailArmLevel}};
 }
 
 /// A tile with the arcs of a swing and the ball, and the name beside it.
@@ -206,9 +214,11 @@ std::string DrawPictures(const std::string& folder) {
   const std::string backgrounds = JoinPath(folder, "backgrounds");
   if (!MakeFolder(backgrounds)) return "The folder " + backgrounds + " cannot be made.";
   const GraphicsSession session;
-  if (const ImageResult saved = SaveJpeg(RowsOf(Logo()), JoinPath(folder, "Logo.jpg"), 92); !saved) return saved.message;
+  if (const ImageResult saved = SaveJpeg(RowsOf(Logo()), JoinPath(folder, "Logo.jpg"), 92); !saved)
+    return saved.message;
   for (const Mood& mood : Moods())
-    if (const ImageResult saved = SaveJpeg(RowsOf(MenuPicture(mood)), JoinPath(backgrounds, mood.name + ".jpg"), 88); !saved)
+    if (const ImageResult saved = SaveJpeg(RowsOf(MenuPicture(mood)), JoinPath(backgrounds, mood.name + ".jpg"), 88);
+        !saved)
       return saved.message;
   return {};
 }

@@ -30,7 +30,8 @@ std::uint32_t Byte(float light) {
 
 /// Light of the sun, of the blue sky above and of the grass below.
 void Raster::Light(const Material& material, Vec3 normal, Vec3 toEye, Corner& corner) {
-  const float red = Linear(Red(material.colour)), green = Linear(Green(material.colour)), blue = Linear(Blue(material.colour));
+  const float red = Linear(Red(material.colour)), green = Linear(Green(material.colour)),
+              blue = Linear(Blue(material.colour));
   const float direct = static_cast<float>(std::max(0.0, Dot(normal, kSun)) * 0.92);
   const float sky = static_cast<float>(0.5 + 0.5 * normal.y);
   float glow = 0, glint = 0;
@@ -40,7 +41,8 @@ void Raster::Light(const Material& material, Vec3 normal, Vec3 toEye, Corner& co
     glow = static_cast<float>(material.gloss * 0.25 * glancing * glancing) * sky;
     glint = static_cast<float>(material.gloss * 0.9 * std::pow(half, 40));
   }
-  corner.shaded = {(0.21f + 0.13f * sky) * red + glow, (0.24f + 0.14f * sky) * green + glow, (0.21f + 0.24f * sky) * blue + glow};
+  corner.shaded = {(0.21f + 0.13f * sky) * red + glow, (0.24f + 0.14f * sky) * green + glow,
+                   (0.21f + 0.24f * sky) * blue + glow};
   corner.sunny = {direct * red + glint, direct * 0.97f * green + glint, direct * 0.88f * blue + glint};
 }
 
@@ -120,16 +122,18 @@ void Raster::DrawOn(Layer& layer, const Mesh& mesh, const SunShadow* shadow, con
       return shadow ? shadow->InMap(vertex.position + vertex.normal * 0.006) : Vec3{};
     };
     const Vec3 ma = mapped(0), mb = mapped(1), mc = mapped(2);
+    // The shares of the second and third corner grow evenly along a row, and nearness with them.
     const double inverse = 1 / area;
+    const double vStep = (c.y - a.y) * inverse, wStep = (a.y - b.y) * inverse;
+    const double nearA = 1 / a.distance, nearB = 1 / b.distance, nearC = 1 / c.distance;
     for (int y = top; y <= bottom; ++y) {
-      const double py = y + 0.5;
-      for (int x = left; x <= right; ++x) {
-        const double px = x + 0.5;
-        const double v = ((px - a.x) * (c.y - a.y) - (py - a.y) * (c.x - a.x)) * inverse;
-        const double w = ((b.x - a.x) * (py - a.y) - (b.y - a.y) * (px - a.x)) * inverse;
+      const double px = left + 0.5 - a.x, py = y + 0.5 - a.y;
+      double v = (px * (c.y - a.y) - py * (c.x - a.x)) * inverse;
+      double w = ((b.x - a.x) * py - (b.y - a.y) * px) * inverse;
+      for (int x = left; x <= right; ++x, v += vStep, w += wStep) {
         if (v < 0 || w < 0 || v + w > 1) continue;
         const double u = 1 - v - w;
-        const float near = static_cast<float>(1 / (a.distance * u + b.distance * v + c.distance * w));
+        const float near = static_cast<float>(nearA * u + nearB * v + nearC * w);
         const std::size_t place = static_cast<std::size_t>(y) * width_ + x;
         if (near <= layer.nearness[place] || (behind && near <= behind->nearness[place])) continue;
         layer.nearness[place] = near;
@@ -162,7 +166,8 @@ void Raster::GatherMotion() {
   if (moving_.used.Empty()) return;
   const int width = width_ / samples_;
   const int left = moving_.used.left / samples_, top = moving_.used.top / samples_;
-  const int right = (moving_.used.right + samples_ - 1) / samples_, bottom = (moving_.used.bottom + samples_ - 1) / samples_;
+  const int right = (moving_.used.right + samples_ - 1) / samples_,
+            bottom = (moving_.used.bottom + samples_ - 1) / samples_;
   motionUsed_.Take(left, top, right, bottom);
   const float share = 1.0f / static_cast<float>(samples_ * samples_ * motionSteps_);
   for (int y = top; y < bottom; ++y)
@@ -170,7 +175,8 @@ void Raster::GatherMotion() {
       int red = 0, green = 0, blue = 0, covered = 0;
       for (int j = 0; j < samples_; ++j)
         for (int i = 0; i < samples_; ++i) {
-          const std::uint32_t colour = moving_.colours[static_cast<std::size_t>(y * samples_ + j) * width_ + x * samples_ + i];
+          const std::uint32_t colour =
+              moving_.colours[static_cast<std::size_t>(y * samples_ + j) * width_ + x * samples_ + i];
           covered += static_cast<int>(colour >> 31);
           red += (colour >> 16) & 0xFF;
           green += (colour >> 8) & 0xFF;

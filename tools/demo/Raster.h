@@ -57,7 +57,7 @@ class Raster {
 
   Camera camera_;
   int samples_;
-  int width_;   // in samples
+  int width_;  // in samples
   int height_;
   Layer still_;
   Layer moving_;

@@ -5,7 +5,7 @@
 namespace kinalyx::demo {
 namespace {
 
-constexpr double kLeadFist = 0.05;   // from the butt of the club to the middle of the upper fist
+constexpr double kLeadFist = 0.05;  // from the butt of the club to the middle of the upper fist
 constexpr double kTrailFist = 0.118;
 constexpr double kShoulderGive = 0.045;  // how far a shoulder follows its hand
 constexpr double kFullReach = 0.995;     // an arm is never quite straight
@@ -47,9 +47,16 @@ Vec3 PulledInto(Vec3 point, Vec3 hub, double reach) {
 }  // namespace
 
 Bones::Bones(double height)
-    : thigh(0.245 * height), shin(0.242 * height), ankleHeight(0.045 * height), foot(0.145 * height),
-      upperArm(0.166 * height), foreArm(0.186 * height), spine(0.295 * height), shoulderHalf(0.104 * height),
-      hipHalf(0.052 * height), neckToHead(0.100 * height) {}
+    : thigh(0.245 * height),
+      shin(0.242 * height),
+      ankleHeight(0.045 * height),
+      foot(0.145 * height),
+      upperArm(0.166 * height),
+      foreArm(0.186 * height),
+      spine(0.295 * height),
+      shoulderHalf(0.104 * height),
+      hipHalf(0.052 * height),
+      neckToHead(0.100 * height) {}
 
 struct Skeleton::Torso {
   Vec3 pelvis, spine, neck;
@@ -74,27 +81,30 @@ std::array<Skeleton::Row, Skeleton::kChannels> Skeleton::KeyValues() const {
   const bool driver = style_.club == ClubKind::Driver;
   const SwingFaults& f = style_.faults;
   std::array<Row, kChannels> rows;
-  //                     P1     P2     P3     P4     P5     P6     P7     P8     P9     P10
-  rows[PelvisX] =       {0.02,  0.00, -0.015, -0.01, 0.04,  0.07,  0.09,  0.105, 0.13,  0.17};
-  rows[PelvisY] =       {0.945, 0.945, 0.943, 0.94, 0.925, 0.945, 0.968, 0.980, 0.985, 0.988};
-  rows[PelvisZ] =       {-0.13, -0.13, -0.13, -0.125, -0.125, -0.12, -0.11, -0.10, -0.06, -0.01};
-  rows[PelvisTurn] =    {0,     9,     24,    45,    18,   -14,   -36,   -50,   -72,   -96};
-  rows[ChestTurn] =     {0,     26,    58,    92,    60,    18,   -16,   -40,   -72,   -112};
-  rows[Bend] =          {35,    35,    35,    34,    36,    34.5,  30.5,  26,    16,    1};
-  rows[SideBend] =      {8,     6.5,   5,     4.5,   9,     13,    16,    17,    13,    4};
-  rows[HeadTurn] =      {0,     3,     9,     16,    12,    8,     5,     0,    -45,   -88};
-  rows[HeadLift] =      {0,     0,     0,     0,     0,     0,     0,     0.1,   0.5,   1};
-  rows[LeadAngle] =     {5,     36,    90,    140,   90,    38,    5,    -28,   -30,   -30};
-  rows[LeadPlane] =     {76,    70,    62,    46,    60,    68,    72,    72,    72,    72};
-  rows[LeadReach] =     {0.97,  0.985, 0.99,  0.975, 0.99,  0.99,  0.99,  0.98,  0.98,  0.98};
-  rows[TrailAngle] =    {0,     0,     0,     0,     0,     0,     0,    -54,   -92,   -182};
-  rows[TrailPlane] =    {60,    60,    60,    60,    60,    60,    60,    60,    58,    44};
-  rows[TrailReach] =    {0.9,   0.9,   0.9,   0.9,   0.9,   0.9,   0.9,   0.985, 0.97,  0.68};
-  rows[TrailLeads] =    {0,     0,     0,     0,     0,     0,     0,     1,     1,     1};
-  rows[ClubAngle] =     {3,     90,    178,   258,   192,   92,    3,    -88,   -182,  -320};
-  rows[ClubPlane] =     {50,    54,    58,    58,    50,    50,    54,    52,    50,    30};
-  rows[HeelLift] =      {0,     0,     0,     0,     2,     10,    18,    28,    48,    72};
-  rows[FootTurn] =      {0,     0,     0,     0,     0,     3,     8,     14,    32,    58};
+  // A sound swing with a driver. What brings the club to the ball at address and impact is found later.
+  // clang-format off
+  //                       P1      P2      P3      P4      P5      P6      P7      P8      P9     P10
+  rows[PelvisX] =     {  0.02,   0.00, -0.015,  -0.01,   0.04,   0.07,   0.09,  0.105,   0.13,   0.17};
+  rows[PelvisY] =     { 0.945,  0.945,  0.943,   0.94,  0.925,  0.945,  0.968,  0.980,  0.985,  0.988};
+  rows[PelvisZ] =     { -0.13,  -0.13,  -0.13, -0.125, -0.125,  -0.12,  -0.11,  -0.10,  -0.06,  -0.01};
+  rows[PelvisTurn] =  {     0,      9,     24,     45,     18,    -14,    -36,    -50,    -72,    -96};
+  rows[ChestTurn] =   {     0,     26,     58,     92,     60,     18,    -16,    -40,    -72,   -112};
+  rows[Bend] =        {    35,     35,     35,     34,     36,   34.5,   30.5,     26,     16,      1};
+  rows[SideBend] =    {     8,    6.5,      5,    4.5,      9,     13,     16,     17,     13,      4};
+  rows[HeadTurn] =    {     0,      3,      9,     16,     12,      8,      5,      0,    -45,    -88};
+  rows[HeadLift] =    {     0,      0,      0,      0,      0,      0,      0,    0.1,    0.5,      1};
+  rows[LeadAngle] =   {     5,     36,     90,    140,     90,     38,      5,    -28,    -30,    -30};
+  rows[LeadPlane] =   {    76,     70,     62,     46,     60,     68,     72,     72,     72,     72};
+  rows[LeadReach] =   {  0.97,  0.985,   0.99,  0.975,   0.99,   0.99,   0.99,   0.98,   0.98,   0.98};
+  rows[TrailAngle] =  {     0,      0,      0,      0,      0,      0,      0,    -54,    -92,   -182};
+  rows[TrailPlane] =  {    60,     60,     60,     60,     60,     60,     60,     60,     58,     44};
+  rows[TrailReach] =  {   0.9,    0.9,    0.9,    0.9,    0.9,    0.9,    0.9,  0.985,   0.97,   0.68};
+  rows[TrailLeads] =  {     0,      0,      0,      0,      0,      0,      0,      1,      1,      1};
+  rows[ClubAngle] =   {     3,     90,    178,    258,    192,     92,      3,    -88,   -182,   -320};
+  rows[ClubPlane] =   {    50,     54,     58,     58,     50,     50,     54,     52,     50,     30};
+  rows[HeelLift] =    {     0,      0,      0,      0,      2,     10,     18,     28,     48,     72};
+  rows[FootTurn] =    {     0,      0,      0,      0,      0,      3,      8,     14,     32,     58};
+  // clang-format on
 
   if (!driver) {
     for (double& bend : rows[Bend]) bend *= 1.12;
@@ -186,7 +196,7 @@ Skeleton::Torso Skeleton::TorsoAt(double time) const {
               Value(PelvisZ, hips) * scale};
   const double bend = Radians(Value(Bend, time)), lean = Radians(Value(SideBend, time));
   t.spine = {-std::sin(lean), std::cos(lean) * std::cos(bend), std::cos(lean) * std::sin(bend)};
-  t.pelvisAxes.up = Unit(Lerp({0, 1, 0}, t.spine, 0.5));
+  t.pelvisAxes.up = Unit(Lerp({0, 1, 0}, t.spine, 0.68));
   const auto turned = [](Vec3 up, double turn) {
     Axes axes;
     axes.up = up;
@@ -218,10 +228,10 @@ Vec3 Skeleton::GripAt(const Torso& torso, Vec3 club, double time) const {
   const double between = kTrailFist - kLeadFist;
   const Vec3 byLead = torso.leadShoulder + PendulumDirection(Value(LeadAngle, time), Value(LeadPlane, time)) *
                                                (arm * Value(LeadReach, time));
-  const Vec3 byTrail = torso.trailShoulder +
-                       PendulumDirection(Value(TrailAngle, time), Value(TrailPlane, time)) *
-                           (arm * Value(TrailReach, time)) -
-                       club * between;
+  const Vec3 byTrail =
+      torso.trailShoulder +
+      PendulumDirection(Value(TrailAngle, time), Value(TrailPlane, time)) * (arm * Value(TrailReach, time)) -
+      club * between;
   Vec3 hand = Lerp(byLead, byTrail, Value(TrailLeads, time));
   // Neither arm can grow: the hands come in until both reach them.
   for (int i = 0; i < 24; ++i) {
@@ -272,7 +282,8 @@ Pose Skeleton::At(double time) const {
       const double reach = (b.thigh + b.shin) * 0.998, level = std::hypot(way.x, way.z);
       sink = std::max(sink, way.y - std::sqrt(std::max(0.0, reach * reach - level * level)));
     }
-    for (Vec3* point : {&torso.pelvis, &torso.neck, &torso.leadShoulder, &torso.trailShoulder, &torso.leadHip, &torso.trailHip})
+    for (Vec3* point :
+         {&torso.pelvis, &torso.neck, &torso.leadShoulder, &torso.trailShoulder, &torso.leadHip, &torso.trailHip})
       point->y -= sink;
   }
 

@@ -12,13 +12,13 @@ namespace kinalyx::demo {
 /// The positions by which coaches speak of a swing, P1 to P10.
 enum class SwingPhase {
   Address,
-  TakeAway,         ///< shaft level
+  TakeAway,  ///< shaft level
   LeadArmLevel,
   Top,
-  Downswing,        ///< lead arm level again
-  Delivery,         ///< shaft level again
+  Downswing,  ///< lead arm level again
+  Delivery,   ///< shaft level again
   Impact,
-  Release,          ///< shaft level beyond the ball
+  Release,  ///< shaft level beyond the ball
   TrailArmLevel,
   Finish,
 };
@@ -79,16 +79,29 @@ class Skeleton {
   double ClubLength() const { return clubLength_; }
 
  private:
-  /// The values that are keyed; one curve each.
+  /// The values that are keyed, one curve each: metres for a golfer of 1.8 m, degrees, and shares of a
+  /// whole leg or arm.
   enum Channel {
-    PelvisX, PelvisY, PelvisZ, PelvisTurn,
-    ChestTurn, Bend, SideBend,
-    HeadTurn, HeadLift,
-    LeadAngle, LeadPlane, LeadReach,     // the lead arm as a pendulum about its shoulder
-    TrailAngle, TrailPlane, TrailReach,  // the trail arm likewise, leading after impact
+    PelvisX,
+    PelvisY,
+    PelvisZ,
+    PelvisTurn,
+    ChestTurn,
+    Bend,
+    SideBend,
+    HeadTurn,
+    HeadLift,
+    LeadAngle,
+    LeadPlane,
+    LeadReach,  // the lead arm as a pendulum about its shoulder
+    TrailAngle,
+    TrailPlane,
+    TrailReach,  // the trail arm likewise, leading after impact
     TrailLeads,
-    ClubAngle, ClubPlane,
-    HeelLift, FootTurn,
+    ClubAngle,
+    ClubPlane,
+    HeelLift,
+    FootTurn,
     kChannels
   };
   using Row = std::array<double, kPhaseCount>;

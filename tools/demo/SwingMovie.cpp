@@ -18,8 +18,11 @@ int SamplesFor(int height) { return height > 600 ? 2 : 3; }
 }  // namespace
 
 SwingMovie::SwingMovie(const SwingStyle& style, View view, int width, int height, double stretch, std::uint32_t seed)
-    : style_(style), skeleton_(style), camera_(CameraFor(view, width, height, stretch)),
-      backdrop_(PaintBackdrop(camera_, view, skeleton_.BallAt(-1).z, seed)), raster_(camera_, SamplesFor(height)) {
+    : style_(style),
+      skeleton_(style),
+      camera_(CameraFor(view, width, height, stretch)),
+      backdrop_(PaintBackdrop(camera_, view, skeleton_.BallAt(-1).z, seed)),
+      raster_(camera_, SamplesFor(height)) {
   FindGround();
 }
 
@@ -72,7 +75,9 @@ void SwingMovie::DrawTrace(double time) {
     if (std::hypot(to.x - from.x, to.y - from.y) < 1.5 && i < kPieces) continue;
     const double strength = 0.6 * share * (1 - flown / kTraceLife);
     const Colour under = picture_.Pixel(static_cast<int>(x), static_cast<int>(y));
-    const auto mixed = [strength](int ground, int light) { return static_cast<int>(ground + (light - ground) * strength); };
+    const auto mixed = [strength](int ground, int light) {
+      return static_cast<int>(ground + (light - ground) * strength);
+    };
     canvas.SetPen({Rgb(mixed(Red(under), 255), mixed(Green(under), 250), mixed(Blue(under), 225)), 2, 0});
     canvas.Line({static_cast<int>(from.x), static_cast<int>(from.y)}, {static_cast<int>(to.x), static_cast<int>(to.y)});
     from = to;

@@ -30,8 +30,8 @@ struct SwingStyle {
   GolferLook look;
   ClubKind club = ClubKind::Driver;
   bool leftHanded = false;
-  double tempo = 1;         ///< length of the swing in time, 1 is usual
-  double backswing = 1;     ///< length of the backswing, 1 is full
+  double tempo = 1;      ///< length of the swing in time, 1 is usual
+  double backswing = 1;  ///< length of the backswing, 1 is full
   SwingFaults faults;
 };
 

@@ -29,18 +29,25 @@ VideoFormat FormatOf(DemoFormat format) {
       set(VideoFormat::Codec::Dv, 720, 480, 30000, 1001);
       result.bottomFieldFirst = true;
       break;
-    case DemoFormat::Mjpeg: set(VideoFormat::Codec::Mjpeg, 640, 480, 60); break;
-    case DemoFormat::H264: set(VideoFormat::Codec::H264, 640, 480, 30); break;
-    case DemoFormat::H264Large: set(VideoFormat::Codec::H264, 1280, 720, 60); break;
-    case DemoFormat::Uncompressed: set(VideoFormat::Codec::RawRgb, 320, 240, 30); break;
+    case DemoFormat::Mjpeg:
+      set(VideoFormat::Codec::Mjpeg, 640, 480, 60);
+      break;
+    case DemoFormat::H264:
+      set(VideoFormat::Codec::H264, 640, 480, 30);
+      break;
+    case DemoFormat::H264Large:
+      set(VideoFormat::Codec::H264, 1280, 720, 60);
+      break;
+    case DemoFormat::Uncompressed:
+      set(VideoFormat::Codec::RawRgb, 320, 240, 30);
+      break;
   }
   return result;
 }
 
 /// Takes every second row of `field` from row `first` on.
 void WeaveField(const Surface& field, int first, Surface& picture) {
-  for (int y = first; y < picture.Height(); y += 2)
-    std::copy_n(field.Row(y), picture.Stride(), picture.Row(y));
+  for (int y = first; y < picture.Height(); y += 2) std::copy_n(field.Row(y), picture.Stride(), picture.Row(y));
 }
 
 /// Two fields in one picture, the lower one first, each filmed at its own time.
@@ -78,10 +85,10 @@ std::string MakeVideo(const DemoVideo& video, const std::string& path, const std
     const double time = frame * frameTime - kBefore;
     if (time > end) break;
     const Surface& picture = interlaced ? InterlacedAt(movie, time, frameTime / 2, woven) : movie.At(time);
-    if (!writer->Write(RowsOf(picture))) return "The disk refuses the video.";
+    if (!writer->Write(RowsOf(picture))) return "The disk is full or refuses a video.";
   }
-  if (!writer->Close()) return "The disk refuses the video.";
-  return WriteNotes(video, path) ? "" : "The disk refuses the notes of a video.";
+  if (!writer->Close()) return "The disk is full or refuses a video.";
+  return WriteNotes(video, path) ? "" : "The disk is full or refuses the notes of a video.";
 }
 
 }  // namespace kinalyx::demo
