@@ -104,7 +104,8 @@ void LibraryBrowser::Folderbox_Change() {
 }
 
 void LibraryBrowser::ReadVideos() {
-  files_ = tree_.VideoFiles(Instructor(), Student());
+  files_.clear();
+  if (HasStudent() || IsGeneralFolder() || IsQuickLaunch()) files_ = tree_.VideoFiles(Instructor(), Student());
   videos_.clear();
   videos_.reserve(files_.size());
   for (const std::string& file : files_) videos_.push_back(VideoName(file));

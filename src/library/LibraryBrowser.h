@@ -66,6 +66,7 @@ class LibraryBrowser {
   std::string VideoPathAt(int row) const;
 
   const LibraryTree& Tree() const { return tree_; }
+  Kind Purpose() const { return kind_; }
 
  private:
   void Folderbox_Change();

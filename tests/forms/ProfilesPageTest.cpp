@@ -112,6 +112,20 @@ TEST_F(ProfilesPageTest, ComesBackToTheSameVideo) {
   EXPECT_NE(Preview().Info(), nullptr);
 }
 
+TEST_F(ProfilesPageTest, ComesBackToAnInstructorOfWhomNoStudentWasChosen) {
+  remembered = {"Demo", "Tom", library.Path("Demo/Tom")};
+  page->hide();
+  page->show();
+  EXPECT_EQ(page->Browser().Student(), "Tom");
+  library.Folder("Anna/Zoe");
+  page->hide();
+  page->show();
+  Choose("InstructorList", "Anna");
+  page->hide();
+  page->show();
+  EXPECT_EQ(page->Browser().Instructor(), "Anna");
+}
+
 TEST_F(ProfilesPageTest, TheKeyboardAloneReachesAVideoPlaysItAndSendsIt) {
   List("InstructorList")->setFocus();
   QTest::keyClick(List("InstructorList"), Qt::Key_Down);
@@ -231,11 +245,19 @@ TEST_F(ProfilesPageTest, AnInstructorIsAdded) {
   Find<QLineEdit>("Text2")->setText("A/B");
   Press("SSCommand2");
   EXPECT_EQ(Text("SPDisplay"), "Invalid character in Name");
+  Press("SPBtn0");
+  Find<QLineEdit>("ProInfoBox0")->setText("Zoe");
   Find<QLineEdit>("Text2")->setText("Carla");
   QTest::keyClick(Find<QLineEdit>("Text2"), Qt::Key_Return);
   EXPECT_EQ(Text("SPDisplay"), "Carla successfully added!");
   EXPECT_EQ(page->Browser().Instructor(), "Carla");
   EXPECT_FALSE(Find<QLineEdit>("Text2")->isVisible());
+  // The student who was just being added can go to the new instructor.
+  EXPECT_EQ(Find<QComboBox>("Combo2")->currentText(), "Carla");
+  EXPECT_EQ(Find<QLineEdit>("ProInfoBox0")->text(), "Zoe");
+  Press("ProAddSaveBtn");
+  EXPECT_TRUE(std::filesystem::exists(library.Path("Carla/Zoe/profile.prf")));
+  EXPECT_EQ(page->Browser().Student(), "Zoe");
 }
 
 TEST_F(ProfilesPageTest, ButtonsSayWhatTheyDoOnTheStatusLine) {

@@ -45,6 +45,7 @@ TEST(LibraryBrowser, ShowsEveryVideoUnderItsOwnFolderOnly) {
   browser.InstructorList_Click(1);
   EXPECT_EQ(browser.StudentList(), Names{"Sample, Erica"});
   EXPECT_EQ(browser.StudentIndex(), -1);
+  EXPECT_TRUE(browser.VideoList().empty());
   EXPECT_TRUE(browser.SelectStudent("Sample, Erica"));
   EXPECT_EQ(browser.VideoList(), (Names{"(9) FO", "(10) FO", "a.b"}));
   EXPECT_EQ(browser.VideoIndex(), 0);

@@ -57,14 +57,18 @@ void LibraryLists::ShowHints() {
   const QString nouns = Q(vocabulary_.nouns());
   const QString noun = Q(vocabulary_.noun());
   students_->setAccessibleName(Q(vocabulary_.Nouns()));
+  // Only the profiles page has the buttons that add somebody.
+  const bool adds = browser_.Purpose() == LibraryBrowser::Kind::Profiles;
   if (browser_.InstructorList().size() == 1) {
-    students_->SetHint("Add the first instructor beneath the list on the left.");
+    students_->SetHint(adds ? "Add the first instructor beneath the list on the left."
+                            : QString("Add the first instructor on the page %1.").arg(Q(vocabulary_.Profiles())));
   } else if (browser_.IsGeneralFolder()) {
     students_->SetHint(QString("Choose an instructor to see the %1.").arg(nouns));
   } else if (browser_.IsQuickLaunch()) {
     students_->SetHint(QString("Quick Launch keeps videos, no %1.").arg(nouns));
   } else {
-    students_->SetHint(QString("No %1 here yet. Add the first one beneath this list.").arg(nouns));
+    students_->SetHint(adds ? QString("No %1 here yet. Add the first one beneath this list.").arg(nouns)
+                            : QString("No %1 here yet.").arg(nouns));
   }
 
   if (browser_.IsGeneralFolder()) {
@@ -74,7 +78,8 @@ void LibraryLists::ShowHints() {
   } else if (!browser_.HasStudent()) {
     videos_->SetHint(QString("Choose a %1 to see the videos.").arg(noun));
   } else {
-    videos_->SetHint(QString("No videos yet. Capture or import one, or copy AVI files into the folder of this %1.").arg(noun));
+    videos_->SetHint(
+        QString("No videos yet. Capture or import one, or copy AVI files into the folder of this %1.").arg(noun));
   }
 }
 

@@ -92,16 +92,13 @@ void ProfileEditor::SetCaptions(const FieldTexts& captions) {
   }
 }
 
-void ProfileEditor::OpenNew(const FieldTexts& captions, const std::vector<std::string>& instructors, int chosen) {
+void ProfileEditor::OpenNew(const FieldTexts& captions) {
   new_ = true;
   SetTitle(Q(vocabulary_.AddNew()));
   text_->setText(QString("First select an Instructor or Database from the list below. Then, fill out the New %1 "
                          "information and choose \"Save\".")
                      .arg(Q(vocabulary_.noun())));
   SetCaptions(captions);
-  instructors_->clear();
-  instructors_->addItems(Q(instructors));
-  instructors_->setCurrentIndex(chosen);
   instructorPart_->show();
   boxes_[kNameField]->setReadOnly(false);
   // A folder name may be longer than a value.
@@ -127,6 +124,11 @@ FieldTexts ProfileEditor::Values() const {
 }
 
 std::string ProfileEditor::Instructor() const { return Std(instructors_->currentText()); }
+
+void ProfileEditor::SetInstructors(const std::vector<std::string>& names) {
+  instructors_->clear();
+  instructors_->addItems(Q(names));
+}
 
 void ProfileEditor::SetInstructor(const std::string& name) { instructors_->setCurrentIndex(instructors_->findText(Q(name))); }
 

@@ -23,9 +23,8 @@ class ProfileEditor : public Panel {
  public:
   explicit ProfileEditor(const Settings& settings, QWidget* parent = nullptr);
 
-  /// Empty boxes for a new student; `instructors` go into the list `Combo2`, the one at `chosen` is
-  /// selected (-1 none).
-  void OpenNew(const FieldTexts& captions, const std::vector<std::string>& instructors, int chosen);
+  /// Empty boxes for a new student.
+  void OpenNew(const FieldTexts& captions);
   /// The present values; the name and the count of videos cannot be changed here.
   void OpenEdit(const FieldTexts& captions, const FieldTexts& values);
   bool IsNew() const { return new_; }
@@ -33,6 +32,7 @@ class ProfileEditor : public Panel {
   FieldTexts Values() const;
   /// The chosen entry of `Combo2`, empty when none is.
   std::string Instructor() const;
+  void SetInstructors(const std::vector<std::string>& names);
   void SetInstructor(const std::string& name);
   void FocusName();
 

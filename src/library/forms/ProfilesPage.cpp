@@ -178,7 +178,9 @@ QString ProfilesPage::HoverText(int command) const {
 void ProfilesPage::Open() {
   const std::string student = browser_.Folder();
   const std::string video = browser_.Video();
-  browser_.CapfolderSetup(!editor_->isHidden());
+  // Who had gone to an instructor without choosing a student finds that instructor again.
+  const bool keep = !editor_->isHidden() || (browser_.InstructorIndex() > 0 && !browser_.HasStudent());
+  browser_.CapfolderSetup(keep);
   if (browser_.Folder() == student) browser_.SelectVideo(video);
   shownStudent_.clear();
   shownVideo_.clear();
@@ -187,6 +189,7 @@ void ProfilesPage::Open() {
 }
 
 bool ProfilesPage::Leave() {
+  question_.Stop();
   videos_->VideoPlay1().Unload();
   shownVideo_.clear();
   return profilePanel_->SaveNotes();
@@ -345,20 +348,28 @@ void ProfilesPage::ShowProfileView(bool shown) {
   }
 }
 
+/// The instructors and databases, without the entry that is no folder.
+std::vector<std::string> ProfilesPage::RealInstructors() const {
+  const auto& list = browser_.InstructorList();
+  return {list.begin() + std::min<std::ptrdiff_t>(1, std::ssize(list)), list.end()};
+}
+
 void ProfilesPage::OpenEditor(bool edit) {
   if (edit) {
     FieldTexts values = profile_.values;
     for (std::size_t field = 0; field < values.size(); ++field)
       if (profile_.missing[field]) values[field].clear();
+    editedFolder_ = browser_.Folder();
     editor_->OpenEdit(fields_.Captions(), values);
   } else {
-    std::vector<std::string> instructors = browser_.InstructorList();
-    instructors.erase(instructors.begin());
-    editor_->OpenNew(fields_.Captions(), instructors, browser_.InstructorIndex() - 1);
+    editor_->OpenNew(fields_.Captions());
+    editor_->SetInstructors(RealInstructors());
+    editor_->SetInstructor(browser_.IsGeneralFolder() ? std::string() : browser_.Instructor());
   }
   videos_->VideoPlay1().Control().StopPlay();
   profilePanel_->SaveNotes();
   lists_->InstructorList()->setEnabled(!edit);
+  addInstructor_->setEnabled(!edit);
   for (QWidget* part : {static_cast<QWidget*>(students_), static_cast<QWidget*>(videos_),
                         static_cast<QWidget*>(profilePanel_)})
     part->hide();
@@ -372,6 +383,7 @@ void ProfilesPage::CloseEditor() {
   editor_->hide();
   grid_->removeWidget(editor_);
   lists_->InstructorList()->setEnabled(true);
+  addInstructor_->setEnabled(true);
   students_->show();
   profilePanel_->show();
   videos_->setVisible(profilePanel_->CurrentView() != ProfilePanel::View::Complete);
@@ -381,7 +393,7 @@ void ProfilesPage::CloseEditor() {
 void ProfilesPage::ProAddSaveBtn() {
   const FieldTexts values = editor_->Values();
   if (!editor_->IsNew()) {
-    if (!SaveProfile(browser_.Folder(), fields_.Captions(), values)) {
+    if (!SaveProfile(editedFolder_, fields_.Captions(), values)) {
       Say("An error has occurred while editing the profile");
       return;
     }
@@ -401,7 +413,8 @@ void ProfilesPage::ProAddSaveBtn() {
     const std::string& name = values[kNameField];
     LastStudent_ = {instructor, name, browser_.Tree().StudentFolder(instructor, name)};
     CloseEditor();
-    Open();
+    browser_.CapfolderSetup();
+    lists_->ShowAll();
   }
   Say(Q(added.message));
 }
@@ -423,9 +436,9 @@ void ProfilesPage::SSCommand2() {
   if (added.done) {
     ShowInstructorBox(false);
     LastStudent_ = {name, "", browser_.Tree().InstructorFolder(name)};
-    const bool adding = !editor_->isHidden();
-    Open();
-    if (adding) OpenEditor(false);
+    browser_.CapfolderSetup();
+    editor_->SetInstructors(RealInstructors());  // what has been typed into the panel stays
+    lists_->ShowAll();
   }
   Say(Q(added.message));
 }

@@ -4,6 +4,7 @@
 #include <array>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "core/Settings.h"
 #include "core/Vocabulary.h"
@@ -84,6 +85,7 @@ class ProfilesPage : public QWidget {
   void OfferToDelete(const std::string& path);
   void OpenProfile();
   void ShowProfileView(bool shown);
+  std::vector<std::string> RealInstructors() const;
   void OpenEditor(bool edit);
   void CloseEditor();
   void ProAddSaveBtn();
@@ -104,6 +106,7 @@ class ProfilesPage : public QWidget {
   HostTimer question_;
   std::string shownStudent_;
   std::string shownVideo_;
+  std::string editedFolder_;  ///< of the student whose profile is in the editor
 
   QGridLayout* grid_;
   Panel* instructors_;
