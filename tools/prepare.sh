@@ -5,7 +5,7 @@ top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
 kinalyx_packages=(
   g++ cmake ninja-build ccache pkg-config
-  qt6-base-dev libqt6svg6-dev libgl-dev fonts-inter
+  qt6-base-dev qt6-svg-dev libgl-dev fonts-inter
   libavformat-dev libavcodec-dev libavutil-dev libswscale-dev libswresample-dev
   libyuv-dev libfmt-dev
 )

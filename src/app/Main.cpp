@@ -1,0 +1,154 @@
+#include "app/Main.h"
+
+#include <QBoxLayout>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QScrollArea>
+#include <QShortcut>
+#include <QStackedWidget>
+
+#include "platform/widgets/Buttons.h"
+#include "platform/widgets/Panel.h"
+#include "platform/widgets/Theme.h"
+
+namespace kinalyx {
+namespace {
+
+struct Section {
+  int index;
+  const char* caption;
+  const char* icon;
+};
+
+constexpr Section kSections[] = {
+    {1, "Student Profiles", "students"}, {2, "Capture Videos", "camera"},          {3, "Analyze Videos", "analyze"},
+    {4, "Send Lesson", "send"},          {5, "Import/Export", "import-export"},    {6, "Program Setup", "setup"},
+    {7, "Help and Demos", "help"},       {8, "To Main Menu", "home"},
+};
+
+}  // namespace
+
+Main::Main(QWidget* parent) : QWidget(parent) {
+  setObjectName("Main");
+  setAttribute(Qt::WA_StyledBackground);
+  auto* rows = new QVBoxLayout(this);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->setSpacing(0);
+  rows->addWidget(MakeHeading());
+  auto* columns = new QHBoxLayout;
+  columns->setContentsMargins(0, 0, 0, 0);
+  columns->setSpacing(0);
+  columns->addWidget(MakeRail());
+  stack_ = new QStackedWidget(this);
+  columns->addWidget(stack_, 1);
+  rows->addLayout(columns, 1);
+}
+
+Main::~Main() = default;
+
+QWidget* Main::MakeHeading() {
+  QFrame* heading = MakeFrame("header", this);
+  heading->setFixedHeight(36);
+  auto* row = new QHBoxLayout(heading);
+  row->setContentsMargins(14, 0, 4, 0);
+  row->setSpacing(10);
+  row->addWidget(MakeLabel("MainCmd0", "Kinalyx", "brand"));
+  title_ = MakeLabel("PageTitle", "", "pageTitle");
+  row->addWidget(title_, 1);
+  minimize_ = IconButton("MinimizeBtn", "minimize", tr("Put the window away"), Look::Filled, heading);
+  close_ = IconButton("QuitBtn", "close", tr("Close Kinalyx"), Look::Filled, heading);
+  for (Button* button : {minimize_, close_}) {
+    button->setFocusPolicy(Qt::NoFocus);
+    button->setFixedSize(40, 32);
+    button->hide();
+    row->addWidget(button);
+  }
+  connect(minimize_, &QPushButton::clicked, this, [this] { showMinimized(); });
+  connect(close_, &QPushButton::clicked, this, [this] { close(); });
+  return heading;
+}
+
+QWidget* Main::MakeRail() {
+  auto* room = new QScrollArea(this);
+  room->setFrameShape(QFrame::NoFrame);
+  room->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  room->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  room->setWidgetResizable(true);
+  room->setFixedWidth(132);
+  QFrame* rail = MakeFrame("rail");
+  auto* column = new QVBoxLayout(rail);
+  column->setContentsMargins(8, 10, 7, 10);
+  column->setSpacing(6);
+  for (const Section& section : kSections) {
+    if (section.index == 8) column->addStretch(1);
+    auto* button = new TileButton(QString("MainCmd%1").arg(section.index), section.caption, section.icon,
+                                  TileButton::Place::Rail, rail);
+    const bool isPage = section.index < kPageCount;
+    button->setCheckable(isPage);
+    const int wanted = isPage ? section.index : kMenuPage;
+    const auto want = [this, button, wanted] {
+      button->setChecked(current_ == wanted);  // the press is a wish: the page that opens marks its button
+      emit PageWanted(wanted);
+    };
+    connect(button, &QPushButton::clicked, this, want);
+    const QKeySequence keys(Qt::CTRL | (isPage ? Qt::Key(Qt::Key_0 + section.index) : Qt::Key_0));
+    connect(new QShortcut(keys, this), &QShortcut::activated, this, [button, want] {
+      if (button->isEnabled()) want();
+    });
+    button->setToolTip(QString("%1 (%2)").arg(section.caption, keys.toString(QKeySequence::NativeText)));
+    column->addWidget(button);
+    sections_[static_cast<std::size_t>(section.index)] = button;
+  }
+  room->setWidget(rail);
+  rail_ = room;
+  return room;
+}
+
+void Main::SetPage(int index, QWidget* page) {
+  DropPage(index);
+  pages_[static_cast<std::size_t>(index)] = page;
+  stack_->addWidget(page);
+}
+
+void Main::DropPage(int index) {
+  QWidget*& page = pages_[static_cast<std::size_t>(index)];
+  if (!page) return;
+  stack_->removeWidget(page);
+  delete std::exchange(page, nullptr);
+  if (current_ == index) current_ = -1;
+}
+
+void Main::OpenPage(int index, const QString& title) {
+  QWidget* page = Page(index);
+  if (!page) return;
+  current_ = index;
+  // The menu picture and the stage take the whole window.
+  rail_->setVisible(index != kMenuPage && index != kAnalysisPage);
+  for (TileButton* section : sections_)
+    if (section && section->isCheckable()) section->setChecked(section == sections_[static_cast<std::size_t>(index)]);
+  stack_->setCurrentWidget(page);
+  SetHeading(title);
+  page->setFocus();
+}
+
+void Main::SetHeading(const QString& title) { title_->setText(title); }
+
+void Main::SetSectionCaption(int index, const QString& caption) {
+  if (TileButton* section = sections_[static_cast<std::size_t>(index)]) section->setText(caption);
+}
+
+void Main::SetSectionComing(int index) {
+  if (TileButton* section = sections_[static_cast<std::size_t>(index)]) Coming(section);
+}
+
+void Main::SetFullScreen(bool on) {
+  minimize_->setVisible(on);
+  close_->setVisible(on);
+}
+
+void Main::closeEvent(QCloseEvent* event) {
+  if (closing) std::exchange(closing, nullptr)();
+  event->accept();
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <QString>
+#include <QWidget>
+#include <array>
+#include <functional>
+
+class QLabel;
+class QStackedWidget;
+
+namespace kinalyx {
+
+class Button;
+class TileButton;
+
+/// Pages of the main window, by the index of the button that leads there.
+enum MainPage {
+  kMenuPage = 0,
+  kProfilesPage = 1,
+  kCapturePage = 2,
+  kAnalysisPage = 3,
+  kLessonPage = 4,
+  kImportExportPage = 5,
+  kSetupPage = 6,
+  kHelpPage = 7,
+  kPageCount = 8,
+};
+
+/// The hub window: a heading, a rail of sections and the page that is open. Decides nothing: it shows the
+/// pages that it is given and tells which one the user wants.
+class Main : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit Main(QWidget* parent = nullptr);
+  ~Main() override;
+
+  /// Gives a page its place; the window becomes its parent. An earlier page there is let go.
+  void SetPage(int index, QWidget* page);
+  /// Takes a page out and lets it go.
+  void DropPage(int index);
+  QWidget* Page(int index) const { return pages_[static_cast<std::size_t>(index)]; }
+
+  /// Opens a page that has been set, with its title in the heading.
+  void OpenPage(int index, const QString& title);
+  int CurrentPage() const { return current_; }
+  void SetHeading(const QString& title);
+  /// Words of a section's button, on the rail.
+  void SetSectionCaption(int index, const QString& caption);
+  /// For a section that is not built yet.
+  void SetSectionComing(int index);
+
+  /// With nothing around the window, the heading carries buttons that put it away and close it.
+  void SetFullScreen(bool on);
+
+  /// Asked before the window closes, however that was begun; the window goes when it has returned.
+  std::function<void()> closing;
+
+ signals:
+  void PageWanted(int index);
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  QWidget* MakeHeading();
+  QWidget* MakeRail();
+
+  QLabel* title_ = nullptr;
+  Button* minimize_ = nullptr;
+  Button* close_ = nullptr;
+  QWidget* rail_ = nullptr;
+  QStackedWidget* stack_ = nullptr;
+  std::array<TileButton*, 9> sections_{};
+  std::array<QWidget*, kPageCount> pages_{};
+  int current_ = -1;
+};
+
+}  // namespace kinalyx

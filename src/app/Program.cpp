@@ -1,0 +1,214 @@
+#include "app/Program.h"
+
+#include <QApplication>
+#include <QScreen>
+
+#include "app/Main.h"
+#include "core/StartUp.h"
+#include "core/WindowModes.h"
+#include "core/forms/FirstForm.h"
+#include "core/forms/HelpPage.h"
+#include "core/forms/MenuPage.h"
+#include "core/forms/SetupPage.h"
+#include "core/forms/SplashForm.h"
+#include "library/forms/FieldsEditor.h"
+#include "library/forms/ProfilesPage.h"
+#include "platform/files/Folders.h"
+#include "platform/host/QtHost.h"
+#include "platform/widgets/Theme.h"
+#include "workspace/forms/AnalysisForm.h"
+
+namespace kinalyx {
+namespace {
+
+constexpr int kTwipsOfPixel = 15;
+/// Sections whose subsystems are not built yet.
+constexpr int kComing[] = {kCapturePage, kLessonPage, kImportExportPage};
+
+QString Text(const std::string& text) { return QString::fromStdString(text); }
+
+}  // namespace
+
+Program::Program(QApplication& application)
+    : application_(application),
+      host_(MakeQtHost()),
+      settings_(*host_, Settings::UserDataPath(), ProgramFolder()),
+      mail_(settings_.DataPath),
+      vocabulary_(settings_),
+      fields_(JoinPath(settings_.DataPath, "fields.ini")),
+      scheduler_(*host_),
+      players_{*host_, scheduler_} {}
+
+Program::~Program() = default;
+
+int Program::Run() {
+  StartUp(settings_, mail_, schemes_,
+          {.applyScheme = [this] { DressApplication(); },
+           .ensureFields = [this] { fields_.EnsureFile(); },
+           .showSplash =
+               [this] {
+                 splash_ = std::make_unique<SplashForm>(QCoreApplication::applicationVersion());
+                 splash_->Stay(*host_);
+               },
+           .loadMain = [this] { LoadMain(); },
+           .showFirstForm = [this] { ShowFirstForm(); },
+           .closeSplash = [this] { splash_.reset(); }});
+  // The main form may have been closed already, from within the first form.
+  const int result = main_->closing ? application_.exec() : 0;
+  main_.reset();
+  if (RestartFlag_) host_->StartDetached(QCoreApplication::applicationFilePath().toStdString(), {});
+  return result;
+}
+
+void Program::DressApplication() { ApplyTheme(application_, Theme::FromSlots(schemes_.Colours())); }
+
+// ---------------------------------------------------------------- the main form
+
+void Program::LoadMain() {
+  fields_.SetupFields();
+  main_ = std::make_unique<Main>();
+  main_->closing = [this] { Shutdown(); };
+  QObject::connect(main_.get(), &Main::PageWanted, [this](int index) { OpenPage(index); });
+
+  menu_ = new MenuPage(*host_, settings_);
+  main_->SetPage(kMenuPage, menu_);
+  QObject::connect(menu_, &MenuPage::PageWanted, [this](int index) { OpenPage(index); });
+  QObject::connect(menu_, &MenuPage::MenuChanged, [this] { setup_->SetupProgram(); });
+
+  profiles_ = new ProfilesPage(players_, settings_, fields_, lastStudent_,
+                               {.SendToAnalysis = [this](const std::string& path) { return SendToAnalysis(path); }});
+  main_->SetPage(kProfilesPage, profiles_);
+
+  setup_ = new SetupPage(*host_, settings_, schemes_);
+  setup_->SetFieldEditor(new FieldsEditor(*host_, fields_, [this] { profiles_->SetupFields(); }));
+  main_->SetPage(kSetupPage, setup_);
+  ConnectSetupPage();
+
+  help_ = new HelpPage(Text(JoinPath(settings_.AppPath, "help")));
+  main_->SetPage(kHelpPage, help_);
+
+  for (const int index : kComing) {
+    main_->SetSectionComing(index);
+    menu_->SetSectionComing(index);
+  }
+  SetupVocabulary();
+  setup_->SetupProgram();
+  settings_.LoadCaptureSettings();
+
+  if (TakeRestartRequest(settings_)) {
+    setup_->PSCmd_Click(SetupPage::kGeneral);
+    OpenPage(kSetupPage);
+  } else {
+    OpenPage(kMenuPage);
+  }
+  PlaceMain();
+}
+
+void Program::ConnectSetupPage() {
+  const auto on = [this](auto signal, auto action) { QObject::connect(setup_, signal, main_.get(), action); };
+  on(&SetupPage::DesignChanged, [this] { DressApplication(); });
+  on(&SetupPage::VocabularyChanged, [this] { SetupVocabulary(); });
+  on(&SetupPage::MenuChanged, [this] { menu_->SetupMenuImage(); });
+  on(&SetupPage::LibraryChanged, [this] { lastStudent_ = {}; });
+  on(&SetupPage::AnalysisChanged, [this] {
+    if (analysis_) analysis_->SettingsChanged();
+  });
+  on(&SetupPage::RestartWanted, [this] {
+    RestartFlag_ = true;
+    main_->close();
+  });
+}
+
+/// Gives the window the place of the chosen mode and shows it.
+void Program::PlaceMain() {
+  main_->setWindowTitle("Kinalyx " + QCoreApplication::applicationVersion().section('.', 0, 1));
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  const QSize size = screen ? screen->size() : QSize(1024, 768);
+  const WindowPlace place = PlaceForMode(settings_.WindowMode, size.width(), size.height());
+  main_->SetFullScreen(place.fullScreen);
+  main_->setMinimumSize(QSize(1000, 680).boundedTo(size));
+  if (place.fullScreen) {
+    main_->setGeometry(QRect(QPoint(), size));
+    main_->showFullScreen();
+  } else {
+    main_->setGeometry(place.left / kTwipsOfPixel, place.top / kTwipsOfPixel, place.width / kTwipsOfPixel,
+                       place.height / kTwipsOfPixel);
+    main_->show();
+  }
+  main_->activateWindow();
+}
+
+void Program::OpenPage(int index) {
+  if (!main_) return;
+  if (main_->CurrentPage() == kProfilesPage && index != kProfilesPage && !profiles_->Leave()) return;
+  if (index == kAnalysisPage) {
+    main_->SetHeading(Text(vocabulary_.PageTitle(kAnalysisPage)));
+    AnalysisForm& form = Analysis();
+    main_->OpenPage(kAnalysisPage, "Analysis");
+    form.Entered();
+    return;
+  }
+  if (!main_->Page(index)) return;
+  if (index == kProfilesPage) profiles_->Open();
+  if (index == kSetupPage && setup_->CurrentSection() < 0) setup_->PSCmd_Click(SetupPage::kMainMenu);
+  if (index == kHelpPage) help_->Navigate("index.htm");
+  main_->OpenPage(index, Text(vocabulary_.PageTitle(index)));
+}
+
+void Program::SetupVocabulary() {
+  for (int index = 1; index <= 8; ++index) main_->SetSectionCaption(index, Text(vocabulary_.PageButton(index)));
+  menu_->SetupVocabulary();
+  setup_->SetupVocabulary();
+  profiles_->SetupVocabulary();
+}
+
+void Program::ShowFirstForm() {
+  FirstForm form(settings_, mail_, main_.get());
+  form.exec();
+  setup_->SetupProgram();
+}
+
+// ---------------------------------------------------------------- the analysis section
+
+AnalysisForm& Program::Analysis() {
+  if (!analysis_) {
+    Navigation navigation;
+    navigation.library = [this] { OpenPage(kProfilesPage); };
+    navigation.mainMenu = [this] { OpenPage(kMenuPage); };
+    navigation.exit = [this] { LeaveAnalysis(); };
+    analysis_ = new AnalysisForm(*host_, settings_, players_, lastStudent_, std::move(navigation));
+    main_->SetPage(kAnalysisPage, analysis_);
+  }
+  return *analysis_;
+}
+
+/// Closes all videos, which keeps what was drawn, and lets the section go until it is wanted again.
+void Program::LeaveAnalysis() {
+  if (!analysis_ || !analysis_->CloseAll()) return;
+  OpenPage(kMenuPage);
+  // The wish may come from one of its own buttons: it goes when that has returned.
+  analysis_ = nullptr;
+  host_->StartTimer(0, false, [this] {
+    if (main_ && !analysis_) main_->DropPage(kAnalysisPage);
+  });
+}
+
+std::string Program::SendToAnalysis(const std::string& path) { return Analysis().SendToAnalysis(path); }
+
+// ---------------------------------------------------------------- the end
+
+void Program::Shutdown() {
+  main_->setUpdatesEnabled(false);
+  if (analysis_) {
+    analysis_->CloseAll();
+    main_->DropPage(kAnalysisPage);
+    analysis_ = nullptr;
+    host_->DoEvents();
+  }
+  profiles_->Leave();
+  const QRect place = main_->frameGeometry();
+  settings_.StoreWindowPlace(place.top() * kTwipsOfPixel, place.left() * kTwipsOfPixel, place.width() * kTwipsOfPixel,
+                             place.height() * kTwipsOfPixel);
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "core/ColorSchemes.h"
+#include "core/MailSettings.h"
+#include "core/Settings.h"
+#include "core/Vocabulary.h"
+#include "library/LibraryTree.h"
+#include "library/Profile.h"
+#include "platform/host/Host.h"
+#include "video/AVIControl.h"
+#include "video/PlayScheduler.h"
+
+class QApplication;
+
+namespace kinalyx {
+
+class AnalysisForm;
+class HelpPage;
+class Main;
+class MenuPage;
+class ProfilesPage;
+class SetupPage;
+class SplashForm;
+
+/// The whole program: makes its objects in the order in which they need each other, hands them round, and
+/// carries what one page wants of another. Whatever is decided is decided in the rooms below.
+class Program {
+ public:
+  /// @param application  made before and let go after the program
+  explicit Program(QApplication& application);
+  ~Program();
+  Program(const Program&) = delete;
+  Program& operator=(const Program&) = delete;
+
+  /// Brings the program up and runs it to its end; the result is that of the process. When the user has
+  /// asked for a restart, a new copy has been started by then.
+  int Run();
+
+ private:
+  void DressApplication();
+  void LoadMain();
+  void PlaceMain();
+  void ConnectSetupPage();
+  void OpenPage(int index);
+  void SetupVocabulary();
+  void ShowFirstForm();
+  AnalysisForm& Analysis();
+  void LeaveAnalysis();
+  std::string SendToAnalysis(const std::string& path);
+  void Shutdown();
+
+  QApplication& application_;
+  std::unique_ptr<IHost> host_;
+  Settings settings_;
+  MailSettings mail_;
+  ColorSchemes schemes_;
+  Vocabulary vocabulary_;
+  ProfileFields fields_;
+  LastStudentInfo lastStudent_;
+  PlayScheduler scheduler_;
+  PlayerServices players_;
+
+  std::unique_ptr<SplashForm> splash_;
+  std::unique_ptr<Main> main_;
+  // Owned by the main form.
+  MenuPage* menu_ = nullptr;
+  ProfilesPage* profiles_ = nullptr;
+  AnalysisForm* analysis_ = nullptr;
+  SetupPage* setup_ = nullptr;
+  HelpPage* help_ = nullptr;
+  bool RestartFlag_ = false;
+};
+
+}  // namespace kinalyx
