@@ -75,12 +75,17 @@ void Overlay::Resize(int width, int height) {
 // ---------------------------------------------------------------- the picture
 
 /// In the mix a picture stands as in its cell, with the middle of the cell in the middle of the panel.
-PlacedPicture Overlay::Placed(int window) {
-  if (!workspace_.HasVideo(window)) return {none_};
+POINTAPI Overlay::PictureCorner(int window) const {
   const Slot& slot = workspace_.At(window);
-  const Surface& picture = workspace_.MP(window).Picture();
-  return {picture, (TransPanel_.Width() - picture.Width()) / 2 + SurfacePixels(slot, slot.PanX * slot.VideoZoom),
+  const Surface& picture = slot.MP->Picture();
+  return {(TransPanel_.Width() - picture.Width()) / 2 + SurfacePixels(slot, slot.PanX * slot.VideoZoom),
           (TransPanel_.Height() - picture.Height()) / 2 + SurfacePixels(slot, slot.PanY * slot.VideoZoom)};
+}
+
+PlacedPicture Overlay::Placed(int window) const {
+  if (!workspace_.HasVideo(window)) return {none_};
+  const POINTAPI corner = PictureCorner(window);
+  return {workspace_.MP(window).Picture(), corner.x, corner.y};
 }
 
 void Overlay::ComposeMix() { MixPictures(Placed(1), Placed(2), mix_, TransPanel_); }

@@ -55,6 +55,9 @@ class Overlay {
   /// A video was moved without a word from its player.
   void MPManualSignal() { Refresh(); }
 
+  /// Where the picture of window 1 or 2 begins in the mix, in pixels; the window must hold a video.
+  POINTAPI PictureCorner(int window) const;
+
   // --- the mix
   /// 0 all of video 1 to 255 all of video 2.
   int TransScroll() const { return mix_; }
@@ -89,7 +92,7 @@ class Overlay {
 
  private:
   AVIControl* Player(int window);
-  PlacedPicture Placed(int window);
+  PlacedPicture Placed(int window) const;
   void ComposeMix();
   void ComposeSplit();
   void Refresh();

@@ -1,0 +1,247 @@
+#include "workspace/forms/CompareForms.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+#include <cmath>
+
+#include "workspace/PlayerPlace.h"
+#include "workspace/forms/CarvePanel.h"
+#include "workspace/forms/DualBar.h"
+#include "workspace/forms/MultiPicturePanel.h"
+#include "workspace/forms/StrobeForm.h"
+#include "workspace/forms/TransFrame.h"
+#include "workspace/forms/ZoomForm.h"
+
+namespace kinalyx {
+namespace {
+
+constexpr int kNotch = 120;  // eighths of a degree that one notch of a wheel turns
+
+/// "swing strobe.png" beside the video.
+QString SuggestedName(const std::string& video, const QString& what) {
+  const QFileInfo file(QString::fromStdString(video));
+  return file.path() + "/" + file.completeBaseName() + " " + what + ".png";
+}
+
+}  // namespace
+
+CompareForms::CompareForms(IHost& host) : host_(host) {
+  askPicture = [this](const QString& suggestion) {
+    QString filter;
+    QString path = QFileDialog::getSaveFileName(stage_->window(), tr("Save Picture"), suggestion,
+                                                tr("PNG picture (*.png);;JPEG picture (*.jpg *.jpeg)"), &filter);
+    // A name without an ending takes that of the chosen kind.
+    if (!path.isEmpty() && QFileInfo(path).suffix().isEmpty()) path += filter.contains("*.jpg") ? ".jpg" : ".png";
+    return path;
+  };
+}
+
+CompareForms::~CompareForms() = default;
+
+void CompareForms::Build(CompareModes& modes, Workspace& workspace, QWidget* stage) {
+  modes_ = &modes;
+  workspace_ = &workspace;
+  stage_ = stage;
+  foot_ = new QWidget(stage->parentWidget());
+  auto* rows = new QVBoxLayout(foot_);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->setSpacing(0);
+  TransFrame_ = new TransFrame(modes.Transparency(), workspace, foot_);
+  dual_ = new DualBar(modes, workspace, foot_);
+  rows->addWidget(TransFrame_);
+  rows->addWidget(dual_);
+  foot_->hide();
+
+  TransPanel_ = new SurfaceView("TransPanel", stage);
+  TransPanel_->installEventFilter(this);
+  strip_ = new MultiPicturePanel(
+      modes.Strip(),
+      [this] {
+        SavePicture(workspace_->CurrentWindow, tr("strip"),
+                    [this](const std::string& path) { return modes_->Strip().SavePicture(path); });
+      },
+      stage);
+  CarvePic_ = new CarveCanvas(modes.Piece(), workspace, stage);
+  picRot_ = new CarvePiece(modes.Piece(), stage);
+  carve_ = new CarvePanel(modes.Piece(), stage);
+  strobe_ = new StrobeForm(
+      modes.Strobe(),
+      [this] {
+        SavePicture(workspace_->CurrentWindow, tr("strobe"),
+                    [this](const std::string& path) { return modes_->Strobe().SavePicture(path); });
+      },
+      stage);
+  connect(strobe_, &FloatCard::CloseWanted, this, [this] { modes_->TASF_Click(); });
+  zoom_ = new ZoomForm(modes.Zoom(), stage);
+  connect(zoom_, &FloatCard::CloseWanted, this, [this] { modes_->TZP_Click(); });
+  stage->installEventFilter(this);
+  PlaceOnStage();
+}
+
+void CompareForms::SavePicture(int slot, const QString& what,
+                               const std::function<ImageResult(const std::string&)>& save) {
+  const QString path = askPicture(SuggestedName(workspace_->At(slot).path, what));
+  if (path.isEmpty()) return;
+  const ImageResult result = save(path.toStdString());
+  if (!result) host_.Message(MessageKind::Warning, "", "The picture could not be saved: " + result.message);
+}
+
+// ---------------------------------------------------------------- stage, wheel and drag
+
+void CompareForms::PlaceOnStage() {
+  TransPanel_->setGeometry(stage_->rect());
+  const qreal ratio = stage_->devicePixelRatioF();
+  modes_->Transparency().Resize(qRound(stage_->width() * ratio), qRound(stage_->height() * ratio));
+  strip_->setGeometry(0, 0, stage_->width(), MultiPicture::kStripHeight / kTwipsPerPixel);
+  for (FloatCard* card : std::initializer_list<FloatCard*>{carve_, strobe_, zoom_})
+    if (!card->isHidden()) card->KeepInside();
+}
+
+bool CompareForms::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Resize && watched == stage_) PlaceOnStage();
+  if (event->type() == QEvent::Wheel)
+    return Wheel(static_cast<QWidget*>(watched), *static_cast<QWheelEvent*>(event));
+  if (watched == TransPanel_) return DragMix(*event);
+  return false;
+}
+
+/// The wheel zooms the video under the pointer; over the mix, that of the current window.
+bool CompareForms::Wheel(QWidget* over, QWheelEvent& event) {
+  const qreal ratio = stage_->devicePixelRatioF();
+  const QPointF at = event.position() * ratio;
+  int slot = 0;
+  POINTAPI corner;
+  if (over == TransPanel_) {
+    slot = std::min(workspace_->CurrentWindow, 2);
+    if (!workspace_->HasVideo(slot)) return true;
+    corner = modes_->Transparency().PictureCorner(slot);
+  } else {
+    const int x = static_cast<int>(event.position().x()) * kTwipsPerPixel;
+    const int y = static_cast<int>(event.position().y()) * kTwipsPerPixel;
+    for (int each = 1; each <= kSlots && slot == 0; ++each) {
+      const TwipRect& cell = workspace_->At(each).cell;
+      if (workspace_->IsShown(each) && workspace_->HasVideo(each) && x >= cell.Left && x < cell.Left + cell.Width &&
+          y >= cell.Top && y < cell.Top + cell.Height)
+        slot = each;
+    }
+    if (slot == 0) return false;
+    corner = PlayerCornerOnStage(workspace_->At(slot));
+  }
+  wheel_ += event.angleDelta().y();
+  const int notches = wheel_ / kNotch;
+  wheel_ -= notches * kNotch;
+  modes_->Zoom().Wheel(slot, static_cast<float>(at.x() - corner.x), static_cast<float>(at.y() - corner.y), notches);
+  return true;
+}
+
+/// The middle button moves the current window's video in the mix.
+bool CompareForms::DragMix(QEvent& event) {
+  if (event.type() != QEvent::MouseButtonPress && event.type() != QEvent::MouseMove &&
+      event.type() != QEvent::MouseButtonRelease)
+    return false;
+  const auto& mouse = static_cast<QMouseEvent&>(event);
+  const int slot = std::min(workspace_->CurrentWindow, 2);
+  if (!workspace_->HasVideo(slot)) return true;
+  const POINTAPI corner = modes_->Transparency().PictureCorner(slot);
+  const QPointF at = mouse.position() * stage_->devicePixelRatioF() - QPointF(corner.x, corner.y);
+  const auto x = static_cast<float>(at.x());
+  const auto y = static_cast<float>(at.y());
+  if (event.type() == QEvent::MouseButtonPress && mouse.button() == Qt::MiddleButton)
+    modes_->Zoom().DragBegin(slot, x, y);
+  if (event.type() == QEvent::MouseMove && mouse.buttons() & Qt::MiddleButton) modes_->Zoom().DragMove(x, y);
+  if (event.type() == QEvent::MouseButtonRelease && mouse.button() == Qt::MiddleButton) modes_->Zoom().DragEnd();
+  return true;
+}
+
+void CompareForms::UpdateFoot() { foot_->setVisible(!TransFrame_->isHidden() || !dual_->isHidden()); }
+
+// ---------------------------------------------------------------- transparency
+
+void CompareForms::ShowTransparency(bool shown) {
+  if (!stage_) return;
+  TransFrame_->setVisible(shown);
+  TransPanel_->setVisible(shown);
+  if (shown) {
+    TransPanel_->raise();
+    for (QWidget* above : std::initializer_list<QWidget*>{carve_, strobe_, zoom_, picRot_}) above->raise();
+    TransFrame_->SetCurrent(workspace_->CurrentWindow);
+  }
+  UpdateFoot();
+}
+
+void CompareForms::PresentMix(const Surface& picture) {
+  if (TransPanel_) TransPanel_->Show(picture);
+}
+
+void CompareForms::SetTransScroll(int value, bool enabled) {
+  if (TransFrame_) TransFrame_->SetTransScroll(value, enabled);
+}
+
+void CompareForms::SelectOptShow(ShowOption option) {
+  if (TransFrame_) TransFrame_->SelectOption(option);
+}
+
+void CompareForms::SetVideoScroll(int window, int lowest, int highest, int value) {
+  if (TransFrame_) TransFrame_->SetVideoScroll(window, lowest, highest, value);
+}
+
+void CompareForms::SetVideoButtons(int window, bool playing, bool looping, bool slow) {
+  if (TransFrame_) TransFrame_->SetVideoButtons(window, playing, looping, slow);
+}
+
+// ---------------------------------------------------------------- strip and carve
+
+void CompareForms::ShowMultiPicture(bool shown) {
+  if (!stage_) return;
+  strip_->setVisible(shown);
+  if (shown) strip_->raise();
+}
+
+int CompareForms::StripWidth() { return stage_ ? MultiPicturePanel::StripWidth(stage_->width()) : 0; }
+
+void CompareForms::PresentStrip(const Surface& strip, int pictures) {
+  if (strip_) strip_->Show(strip, pictures);
+}
+
+void CompareForms::ShowCarve(bool shown) {
+  if (carve_) carve_->SetShown(shown);
+}
+
+void CompareForms::ShowCarvePic(int slot, bool shown) {
+  if (!stage_) return;
+  carve_->SetFloating(!shown);
+  if (!shown) return CarvePic_->hide();
+  CarvePic_->ShowOver(slot);
+  carve_->raise();
+}
+
+void CompareForms::ShowMark(int left, int top, int width, int height) {
+  if (CarvePic_) CarvePic_->ShowMark(left, top, width, height);
+}
+
+void CompareForms::ShowPiece(const Surface& piece, POINTAPI corner) {
+  if (picRot_) picRot_->ShowAt(piece, corner);
+}
+
+// ---------------------------------------------------------------- lock, zoom and strobe
+
+void CompareForms::ShowDual(const DualState& state) {
+  if (!stage_) return;
+  dual_->ShowState(state);
+  TransFrame_->SetCurrent(workspace_->CurrentWindow);
+  UpdateFoot();
+  if (LockShown) LockShown();
+}
+
+void CompareForms::ShowZoomForm(bool shown) {
+  if (!zoom_) return;
+  shown ? zoom_->Open() : zoom_->hide();
+}
+
+void CompareForms::ShowStrobeForm(bool shown) {
+  if (strobe_) strobe_->SetShown(shown);
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,92 @@
+#pragma once
+
+#include <QObject>
+#include <functional>
+
+#include "platform/host/Host.h"
+#include "workspace/CompareModes.h"
+
+class QWidget;
+
+namespace kinalyx {
+
+class CarveCanvas;
+class CarvePanel;
+class CarvePiece;
+class DualBar;
+class MultiPicturePanel;
+class StrobeForm;
+class SurfaceView;
+class TransFrame;
+class ZoomForm;
+
+/// All windows of the comparing modes. Made before the workspace, as its view; Build then puts the windows
+/// on the stage. What the modes say before that is lost, for there is nothing to show yet.
+class CompareForms : public QObject, public ICompareView {
+  Q_OBJECT
+
+ public:
+  explicit CompareForms(IHost& host);
+  ~CompareForms() override;
+
+  /// Makes everything. Windows that float are children of the stage and go with it; so nothing here may be
+  /// called after the stage has gone.
+  void Build(CompareModes& modes, Workspace& workspace, QWidget* stage);
+  /// The bars beneath the stage: whoever lays the stage out gives it its place, and it shows itself when
+  /// there is something in it.
+  QWidget* Foot() { return foot_; }
+  /// Whether a lock holds a slot was shown last; for the picture on the cells.
+  std::function<void()> LockShown;
+
+  /// Asks for the name of a picture to save, empty when the user cancels. Tests answer it.
+  std::function<QString(const QString& suggestion)> askPicture;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void PlaceOnStage();
+  void SavePicture(int slot, const QString& what, const std::function<ImageResult(const std::string&)>& save);
+  bool Wheel(QWidget* over, class QWheelEvent& event);
+  bool DragMix(QEvent& event);
+  void UpdateFoot();
+
+  // --- IOverlayView
+  void ShowTransparency(bool shown) override;
+  void PresentMix(const Surface& picture) override;
+  void SetTransScroll(int value, bool enabled) override;
+  void SelectOptShow(ShowOption option) override;
+  void SetVideoScroll(int window, int lowest, int highest, int value) override;
+  void SetVideoButtons(int window, bool playing, bool looping, bool slow) override;
+  // --- IMultiPictureView
+  void ShowMultiPicture(bool shown) override;
+  int StripWidth() override;
+  void PresentStrip(const Surface& strip, int pictures) override;
+  // --- ICarveView
+  void ShowCarve(bool shown) override;
+  void ShowCarvePic(int slot, bool shown) override;
+  void ShowMark(int left, int top, int width, int height) override;
+  void ShowPiece(const Surface& piece, POINTAPI corner) override;
+  // --- ICompareView
+  void ShowDual(const DualState& state) override;
+  void ShowZoomForm(bool shown) override;
+  void ShowStrobeForm(bool shown) override;
+
+  IHost& host_;
+  CompareModes* modes_ = nullptr;
+  Workspace* workspace_ = nullptr;
+  QWidget* stage_ = nullptr;
+  QWidget* foot_ = nullptr;
+  SurfaceView* TransPanel_ = nullptr;
+  TransFrame* TransFrame_ = nullptr;
+  DualBar* dual_ = nullptr;
+  MultiPicturePanel* strip_ = nullptr;
+  CarvePanel* carve_ = nullptr;
+  CarveCanvas* CarvePic_ = nullptr;
+  CarvePiece* picRot_ = nullptr;
+  StrobeForm* strobe_ = nullptr;
+  ZoomForm* zoom_ = nullptr;
+  int wheel_ = 0;  ///< turns of the wheel that have not made a notch yet
+};
+
+}  // namespace kinalyx

@@ -1,0 +1,116 @@
+#include "workspace/forms/DualBar.h"
+
+#include <QComboBox>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <iterator>
+
+#include "workspace/forms/StageLook.h"
+
+namespace kinalyx {
+namespace {
+
+constexpr int kSpeeds[] = {5, 10, 25, 50, 75, 100, 150, 200};  // percent
+constexpr int kHeight = 46;
+
+}  // namespace
+
+DualBar::DualBar(CompareModes& modes, Workspace& workspace, QWidget* parent) : QFrame(parent), modes_(modes) {
+  setObjectName("DualFrame");
+  setProperty("look", "bar");
+  setFixedHeight(kHeight);
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(10, 6, 10, 6);
+  row->setSpacing(4);
+  const auto add = [&](const char* name, const char* icon, const QString& tip) {
+    QToolButton* button = StageButton(name, icon, tip, this);
+    row->addWidget(button);
+    return button;
+  };
+  lock_ = add("DualLockBtn", "unlock", tr("Lock Videos Together"));
+  lockAll_ = add("LockAllBtn", "quad", tr("Lock all four videos together"));
+  lock_->setCheckable(true);
+  lockAll_->setCheckable(true);
+  row->addSpacing(8);
+  rewind_ = add("DualControl2", "rewind", tr("Rewind the locked videos"));
+  back_ = add("DualControl0", "step-back", tr("Locked videos back one frame; hold to go on"));
+  play_ = add("DualPlayBtn", "play", tr("Play the locked videos together"));
+  forward_ = add("DualControl1", "step-forward", tr("Locked videos forward one frame; hold to go on"));
+  repeat_ = add("DualRepeatBtn", "loop", tr("Play the locked videos again and again"));
+  play_->setFixedWidth(44);
+  play_->setProperty("main", true);
+  repeat_->setCheckable(true);
+  for (QToolButton* step : {back_, forward_}) {
+    step->setAutoRepeat(true);
+    step->setAutoRepeatDelay(350);
+    step->setAutoRepeatInterval(60);
+  }
+  speed_ = new QComboBox(this);
+  speed_->setObjectName("DualSpeed");
+  speed_->setToolTip(tr("Speed of the common play"));
+  speed_->setAccessibleName(speed_->toolTip());
+  speed_->setFocusPolicy(Qt::TabFocus);
+  for (const int percent : kSpeeds) speed_->addItem(QString("%1 %").arg(percent), percent);
+  speed_->setFixedWidth(84);
+  row->addWidget(speed_);
+  row->addSpacing(6);
+  scroll_ = new BoundedSeekBar(this);
+  scroll_->setObjectName("DualScroll");
+  scroll_->setToolTip(tr("Moves the locked videos together"));
+  row->addWidget(scroll_, 1);
+  line_ = new FigureLabel("DualLine", {}, this);
+  line_->setToolTip(tr("Positions of the locked videos"));
+  line_->setMinimumWidth(84);
+  line_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  row->addWidget(line_);
+
+  LockedVideos& locks = modes.Locks();
+  connect(lock_, &QToolButton::clicked, this, [&locks] { locks.cmdDualPlay(); });
+  connect(lockAll_, &QToolButton::clicked, this, [&locks] { locks.LockAll(); });
+  connect(back_, &QToolButton::clicked, this, [&locks] { locks.DualControl_Click(0); });
+  connect(forward_, &QToolButton::clicked, this, [&locks] { locks.DualControl_Click(1); });
+  connect(rewind_, &QToolButton::clicked, this, [&locks] { locks.DualControl_Click(2); });
+  connect(play_, &QToolButton::clicked, this, [&locks] { locks.PlayTogether(); });
+  connect(repeat_, &QToolButton::clicked, this, [&locks](bool on) { locks.setTogetherRepeat(on); });
+  connect(speed_, &QComboBox::currentIndexChanged, this, [this, &locks] {
+    if (!setting_) locks.setTogetherSpeed(speed_->currentData().toInt());
+  });
+  connect(scroll_, &BoundedSeekBar::Sought, this, [this, &locks, &workspace](int position) {
+    locks.DualControlScroll(workspace.CurrentWindow, scroll_->Lowest() + position);
+  });
+  hide();
+  Dress();
+}
+
+void DualBar::ShowState(const DualState& state) {
+  setting_ = true;
+  setVisible(state.shown);
+  lock_->setEnabled(state.canLock);
+  lock_->setChecked(state.locked);
+  lock_->setToolTip(state.locked ? tr("Unlock the videos") : tr("Lock Videos Together"));
+  SetStageIcon(lock_, state.locked ? "lock" : "unlock");
+  lockAll_->setVisible(state.canLockAll);
+  lockAll_->setChecked(state.allLocked);
+  for (QWidget* control : std::initializer_list<QWidget*>{rewind_, play_, repeat_, speed_, scroll_})
+    control->setEnabled(state.locked);
+  SetStageIcon(play_, state.playing ? "pause" : "play");
+  play_->setToolTip(state.playing ? tr("Pause the locked videos") : tr("Play the locked videos together"));
+  repeat_->setChecked(state.repeat);
+  const int index = speed_->findData(state.speed);
+  if (index >= 0) speed_->setCurrentIndex(index);
+  scroll_->SetBounds(state.lowest, state.highest, state.position);
+  line_->setText(QString::fromStdString(state.line));
+  setting_ = false;
+}
+
+void DualBar::changeEvent(QEvent* event) {
+  QFrame::changeEvent(event);
+  if (event->type() == QEvent::StyleChange && lock_) Dress();
+}
+
+void DualBar::Dress() {
+  WearStageSheet(this, kCompareSheet);
+  DressStageButtons(this);
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QFrame>
+
+#include "platform/widgets/Figures.h"
+#include "workspace/CompareModes.h"
+#include "workspace/forms/StageParts.h"
+
+class QComboBox;
+class QPushButton;
+
+namespace kinalyx {
+
+/// The controls of locked videos: lock, one frame back and on, rewind, play together at any speed, and the
+/// bar that moves all of them.
+class DualBar : public QFrame {
+  Q_OBJECT
+
+ public:
+  DualBar(CompareModes& modes, Workspace& workspace, QWidget* parent);
+
+  void ShowState(const DualState& state);
+
+ protected:
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void Dress();
+
+  CompareModes& modes_;
+  QToolButton* lock_ = nullptr;
+  QToolButton* lockAll_;
+  QToolButton* rewind_;
+  QToolButton* back_;
+  QToolButton* play_;
+  QToolButton* forward_;
+  QToolButton* repeat_;
+  QComboBox* speed_;
+  BoundedSeekBar* scroll_;
+  FigureLabel* line_;
+  bool setting_ = false;  ///< the controls are being set; what they say is no command
+};
+
+}  // namespace kinalyx

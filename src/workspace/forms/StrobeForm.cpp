@@ -1,0 +1,106 @@
+#include "workspace/forms/StrobeForm.h"
+
+#include <QBoxLayout>
+#include <QComboBox>
+#include <QEvent>
+#include <QPushButton>
+#include <QSignalBlocker>
+
+#include "platform/widgets/Panel.h"
+#include "workspace/forms/StageLook.h"
+
+namespace kinalyx {
+
+StrobeForm::StrobeForm(StrobeControl& strobe, std::function<void()> save, QWidget* parent)
+    : FloatCard("StrobeForm", tr("Advanced Strobe"), parent), strobe_(strobe) {
+  content_ = new QWidget(this);
+  auto* rows = new QVBoxLayout(content_);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->setSpacing(10);
+  ESlider_ = new BoundedSeekBar(content_);
+  ESlider_->setObjectName("ESlider");
+  ESlider_->setToolTip(tr("Moves the current video"));
+  ESlider_->setMinimumWidth(330);
+  connect(ESlider_, &BoundedSeekBar::Sought, this,
+          [this](int position) { strobe_.ESlider_Change(ESlider_->Lowest() + position); });
+  rows->addWidget(ESlider_);
+
+  auto* buttons = new QHBoxLayout;
+  buttons->setSpacing(8);
+  const QString tips[] = {tr("The picture that is shown is the first pose"), tr("The picture that is shown is the last pose"),
+                          tr("Lays the poses from start to end into one picture; without an end, to the last one")};
+  for (int i = 0; i < 3; ++i) {
+    auto* button = new QPushButton(content_);
+    button->setObjectName(QString("SSCommand1_%1").arg(i));
+    button->setToolTip(tips[i]);
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setMinimumWidth(104);
+    connect(button, &QPushButton::clicked, this, [this, i] { strobe_.SSCommand1_Click(i); });
+    buttons->addWidget(button, 1);
+    SSCommand1_[static_cast<std::size_t>(i)] = button;
+  }
+  SSCommand1_[2]->setCheckable(false);
+  rows->addLayout(buttons);
+
+  auto* last = new QHBoxLayout;
+  last->setSpacing(8);
+  last->addWidget(MakeLabel("StepLabel", tr("Frames between poses"), nullptr, content_));
+  Combo1_ = new QComboBox(content_);
+  Combo1_->setObjectName("Combo1");
+  Combo1_->setAccessibleName(tr("Frames between poses"));
+  Combo1_->setFocusPolicy(Qt::TabFocus);
+  Combo1_->setFixedWidth(64);
+  Combo1_->setMaxVisibleItems(10);
+  for (int step = 1; step <= StrobeControl::kSteps; ++step) Combo1_->addItem(QString::number(step));
+  connect(Combo1_, &QComboBox::currentIndexChanged, this, [this](int index) { strobe_.Combo1_Click(index); });
+  last->addWidget(Combo1_);
+  last->addStretch(1);
+  save_ = new QPushButton(tr("Save Picture..."), content_);
+  save_->setObjectName("SaveStrobeBtn");
+  save_->setFocusPolicy(Qt::TabFocus);
+  connect(save_, &QPushButton::clicked, this, [save = std::move(save)] { save(); });
+  last->addWidget(save_);
+  rows->addLayout(last);
+  Body()->addWidget(content_);
+  SetResult(false);
+  Dress();
+}
+
+StrobeForm::~StrobeForm() {
+  if (strobe_.StrobeWindowOpen()) strobe_.SetWindow(nullptr);
+}
+
+void StrobeForm::SetShown(bool shown) {
+  if (!shown) return hide();
+  {
+    const QSignalBlocker quiet(Combo1_);
+    Combo1_->setCurrentIndex(strobe_.StrobeStep() - 1);
+  }
+  strobe_.SetWindow(this);
+  Open();
+}
+
+void StrobeForm::SetCaption(StrobeButton button, const std::string& caption) {
+  SSCommand1_[static_cast<std::size_t>(button)]->setText(QString::fromStdString(caption));
+}
+
+void StrobeForm::SetSlider(int lowest, int highest, int value) {
+  ESlider_->SetBounds(lowest, highest, value);
+  const bool has = highest > lowest;
+  ESlider_->setEnabled(has);
+  for (QPushButton* button : SSCommand1_) button->setEnabled(has);
+}
+
+void StrobeForm::SetResult(bool there) {
+  save_->setEnabled(there);
+  save_->setToolTip(there ? tr("Keeps the strobe as a PNG or JPEG picture") : tr("Strobe a video first"));
+}
+
+void StrobeForm::changeEvent(QEvent* event) {
+  FloatCard::changeEvent(event);
+  if (event->type() == QEvent::StyleChange && content_) Dress();
+}
+
+void StrobeForm::Dress() { WearStageSheet(content_, kCompareSheet); }
+
+}  // namespace kinalyx

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <array>
+#include <functional>
+
+#include "workspace/StrobeControl.h"
+#include "workspace/forms/FloatCard.h"
+#include "workspace/forms/StageParts.h"
+
+class QComboBox;
+class QPushButton;
+
+namespace kinalyx {
+
+/// `StrobeForm`, "Advanced Strobe": start, end and step of a strobe, and its picture as a file.
+class StrobeForm : public FloatCard, private IStrobeView {
+  Q_OBJECT
+
+ public:
+  /// `save` asks for a name and saves.
+  StrobeForm(StrobeControl& strobe, std::function<void()> save, QWidget* parent);
+  ~StrobeForm() override;
+
+  void SetShown(bool shown);
+
+ protected:
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void SetCaption(StrobeButton button, const std::string& caption) override;
+  void SetSlider(int lowest, int highest, int value) override;
+  void SetResult(bool there) override;
+  void Dress();
+
+  StrobeControl& strobe_;
+  QWidget* content_ = nullptr;
+  BoundedSeekBar* ESlider_;
+  std::array<QPushButton*, 3> SSCommand1_{};
+  QComboBox* Combo1_;
+  QPushButton* save_;
+};
+
+}  // namespace kinalyx

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QFrame>
+#include <array>
+
+#include "workspace/Overlay.h"
+#include "workspace/forms/StageParts.h"
+
+class QButtonGroup;
+class QPushButton;
+class QSlider;
+
+namespace kinalyx {
+
+/// `TransFrame`: the controls of transparency mode. Presets and the slider of the mix above; below, for each
+/// of the two videos, its own buttons and bar.
+class TransFrame : public QFrame {
+  Q_OBJECT
+
+ public:
+  TransFrame(Overlay& overlay, Workspace& workspace, QWidget* parent);
+
+  void SetTransScroll(int value, bool enabled);
+  void SelectOption(ShowOption option);
+  void SetVideoScroll(int window, int lowest, int highest, int value);
+  void SetVideoButtons(int window, bool playing, bool looping, bool slow);
+  /// The window that zoom and pan act on.
+  void SetCurrent(int window);
+
+ protected:
+  void changeEvent(QEvent* event) override;
+
+ private:
+  /// The controls of one video.
+  struct Video {
+    QToolButton* select = nullptr;
+    std::array<QToolButton*, 6> buttons{};
+    BoundedSeekBar* scroll = nullptr;
+  };
+
+  void MakeVideo(int window, class QHBoxLayout* row);
+  void Dress();
+  Video& Of(int window) { return videos_[static_cast<std::size_t>(window - 1)]; }
+
+  Overlay& overlay_;
+  Workspace& workspace_;
+  std::array<QPushButton*, 4> options_{};
+  QSlider* mix_ = nullptr;
+  std::array<Video, 2> videos_;
+};
+
+}  // namespace kinalyx
