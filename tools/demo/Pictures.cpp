@@ -166,7 +166,7 @@ std::vector<Mood> Moods() {
   graphite.trousers = Rgb(34, 38, 46);
   return {
       {"bio-guy blue", Rgb(12, 34, 66), Rgb(28, 80, 136), Rgb(98, 150, 206), blue, SwingPhase::Top},
-      {"swing maroon", Rgb(40, 8, 12), Rgb(104, 34, 36), Rgb(204, 164, 134), maroon, SwingPhase::Finish},
+      {"swing maroon", Rgb(40, 8, 12), Rgb(104, 34, 36), Rgb(204, 164, 134), maroon, SwingPhase::Release},
       {"swing green", Rgb(8, 34, 20), Rgb(34, 92, 58), Rgb(172, 186, 134), green, SwingPhase::LeadArmLevel},
       {"swing graphite", Rgb(14, 18, 24), Rgb(48, 58, 70), Rgb(134, 148, 164), graphite, SwingPhase::TrailArmLevel}};
 }
