@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <filesystem>
 #include <vector>
 
 #include "platform/media/AvHandles.h"
@@ -65,6 +66,10 @@ struct VideoWriter::Engine {
 
 std::string VideoWriter::Engine::Open() {
   const CodecChoice choice = ChoiceOf(format);
+  // The finished file is renamed over its name: nothing but a file may stand there.
+  std::error_code ignored;
+  const auto old = std::filesystem::status(path, ignored);
+  if (std::filesystem::exists(old) && !std::filesystem::is_regular_file(old)) return "that name is not a file's";
   if (format.width < 1 || format.height < 1 || format.rate < 1 || format.scale < 1) return "size or rate below 1";
 
   AVFormatContext* context = nullptr;

@@ -1,0 +1,86 @@
+#include "platform/media/VideoWriter.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <filesystem>
+#include <fstream>
+#include <vector>
+
+#include "platform/media/VideoFile.h"
+#include "support/TestVideos.h"
+
+namespace kinalyx::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+TEST(VideoWriter, StandsUnderItsNameOnlyWhenItIsWhole) {
+  const std::string path = TestPath("written.avi");
+  std::ofstream(path) << "an older file";
+  std::vector<std::uint8_t> rows(90 * 60 * 3, 120);
+  const PixelRows picture{rows.data(), 90, 60, 270, 24, false};
+  {
+    auto writer = VideoWriter::Create(path, RawVideo(1).format, nullptr);
+    ASSERT_TRUE(writer);
+    EXPECT_TRUE(writer->Write(picture));
+    EXPECT_EQ(fs::file_size(path), 13u);
+  }
+  EXPECT_EQ(fs::file_size(path), 13u) << "given up, nothing has changed";
+  EXPECT_FALSE(fs::exists(path + ".part"));
+
+  auto writer = VideoWriter::Create(path, RawVideo(1).format, nullptr);
+  ASSERT_TRUE(writer);
+  PixelRows wrong = picture;
+  wrong.width = 88;
+  EXPECT_FALSE(writer->Write(wrong));
+  wrong = picture;
+  wrong.bitCount = 16;
+  EXPECT_FALSE(writer->Write(wrong));
+  EXPECT_TRUE(writer->Write(picture));
+  EXPECT_TRUE(writer->Close());
+  EXPECT_FALSE(writer->Close());
+  EXPECT_FALSE(writer->Write(picture));
+  EXPECT_FALSE(fs::exists(path + ".part"));
+  ASSERT_TRUE(ReadVideoInfo(path));
+  EXPECT_EQ(ReadVideoInfo(path)->frameCount, 1);
+}
+
+TEST(VideoWriter, SaysWhyItCannotBegin) {
+  std::string error;
+  EXPECT_FALSE(VideoWriter::Create(TestPath("no folder/x.avi"), RawVideo(1).format, &error));
+  EXPECT_FALSE(error.empty());
+  VideoFormat format = RawVideo(1).format;
+  format.rate = 0;
+  EXPECT_FALSE(VideoWriter::Create(TestPath("x.avi"), format, &error));
+  format = DvVideo(1).format;
+  format.width = 640;
+  EXPECT_FALSE(VideoWriter::Create(TestPath("x.avi"), format, &error)) << "no tape has this size";
+  EXPECT_FALSE(fs::exists(TestPath("x.avi.part")));
+
+  const std::string pipe = TestPath("pipe.avi");
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  EXPECT_FALSE(VideoWriter::Create(pipe, RawVideo(1).format, &error));
+  EXPECT_TRUE(fs::is_fifo(pipe));
+}
+
+TEST(VideoWriter, KeepsWhatItIsTold) {
+  VideoFormat format = MjpegVideo(1).format;
+  format.rate = 60000;
+  format.scale = 1001;
+  format.fourCC = "dmb1";
+  const std::string path = TestPath("told.avi");
+  auto writer = VideoWriter::Create(path, format, nullptr);
+  ASSERT_TRUE(writer);
+  std::vector<std::uint8_t> rows(320 * 240 * 4, 90);
+  for (int n = 0; n < 5; ++n) ASSERT_TRUE(writer->Write({rows.data(), 320, 240, 1280, 32, true}));
+  ASSERT_TRUE(writer->Close());
+  const auto info = ReadVideoInfo(path);
+  ASSERT_TRUE(info);
+  EXPECT_EQ(info->compressor, "dmb1");
+  EXPECT_EQ(info->rate * 1001, info->scale * 60000);
+  EXPECT_EQ(info->frameCount, 5);
+}
+
+}  // namespace
+}  // namespace kinalyx::test
