@@ -73,6 +73,9 @@ QImage ImageOf(const PixelRows& rows) {
 ImageResult Save(const PixelRows& rows, const std::string& path, const char* format, int quality) {
   const QImage image = ImageOf(rows);
   if (image.isNull()) return Failure(ImageFault::BadArgument, QStringLiteral("There is no picture to save."));
+  // Renaming over it would put a file in the place of a device or a pipe.
+  const QFileInfo old(QString::fromStdString(path));
+  if (old.exists() && !old.isFile()) return Failure(ImageFault::NoAccess, QStringLiteral("That name is not a file's."));
   QSaveFile file(QString::fromStdString(path));
   if (!file.open(QIODevice::WriteOnly)) return Failure(ImageFault::NoAccess, file.errorString());
   QImageWriter writer(&file, format);

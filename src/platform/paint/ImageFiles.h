@@ -44,7 +44,7 @@ ImageResult DecodeImage(std::span<const std::uint8_t> bytes, ImageFrames& target
 ImageResult LoadImageFile(const std::string& path, Surface& target, Colour ground = 0);
 
 /// Quality 0 to 100. Files are written beside their name, flushed and renamed over it: they hold the
-/// old or the new picture, whatever happens.
+/// old or the new picture, whatever happens. Names of folders, devices and pipes are refused.
 ImageResult SaveJpeg(const PixelRows& rows, const std::string& path, int quality);
 ImageResult SavePng(const PixelRows& rows, const std::string& path);
 /// The bytes of a JPEG file; empty on failure.
