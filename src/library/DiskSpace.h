@@ -1,6 +1,8 @@
 #pragma once
 
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace kinalyx {
 
@@ -19,6 +21,11 @@ DiskSpace DiskSpaceGauge(const std::string& path);
 std::string RemoveableDiskText(const std::string& path);
 
 inline constexpr const char* kReadingDisk = "Reading from specified Removeable disk. Please Wait....";
+
+/// Where drives that come and go are mounted, in the order in which they were: sticks, cards, shares.
+std::vector<std::string> RemoveableDrives();
+/// The same from the text of a list of mounts.
+std::vector<std::string> RemoveableDrivesIn(std::string_view mounts);
 
 /// True when a folder lies on the drive from which the system runs: what the program calls the C drive.
 bool IsSystemDrive(const std::string& path);

@@ -509,6 +509,9 @@ TEST(DiskSpaceTest, TellsWhatIsFreeAndWhatFails) {
   EXPECT_EQ(gone.Label6, "0% Free");
   EXPECT_EQ(gone.message, "Disk Full or Not Available");
   EXPECT_EQ(RemoveableDiskText(folder.Path("gone")), "Drive Error");
+  EXPECT_EQ(RemoveableDrivesIn("/dev/sda1 / ext4 rw 0 0\n/dev/sdb1 /media/ann/MY\\040STICK vfat rw 0 0\n"
+                               "server:/lib /mnt/lib nfs rw 0 0\nbroken\n"),
+            (std::vector<std::string>{"/media/ann/MY STICK", "/mnt/lib"}));
 }
 
 /// Counts its steps; hangs at the third until it is let go.
