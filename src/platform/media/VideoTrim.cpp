@@ -272,7 +272,7 @@ bool Trimmer::CopyPictures() {
   std::int64_t frame = -1;
   for (int number = -1; number < lastPacket;) {
     number = demuxer_->Read(*packet);
-    if (number < 0) return Fail("the file cannot be read to the end of the cut");
+    if (number < 0 || number > lastPacket) return Fail("the file cannot be read to the end of the cut");
     if (number < firstPacket || index_->IsHidden(number)) {
       av_packet_unref(packet.get());
       continue;
