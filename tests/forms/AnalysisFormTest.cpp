@@ -135,6 +135,7 @@ TEST_F(AnalysisFormTest, LettersInTextBoxesStayLetters) {
   Click("Notesbutton");
   auto* box = Find<QPlainTextEdit>("NotesBox");
   ASSERT_TRUE(box->isVisible());
+  EXPECT_EQ(form->focusWidget(), box) << "one can write at once";
   QTest::keyClicks(box, "close, play 4 more");
   EXPECT_EQ(box->toPlainText(), "close, play 4 more");
   EXPECT_TRUE(Slots().HasVideo(1));
@@ -219,7 +220,7 @@ TEST_F(AnalysisFormTest, NothingIsCutOffAtAnySize) {
       QTest::qWait(0);
       const QRect all = form->rect();
       for (const char* name : {"CmdMakeShape0", "CmdMakeShape10", "DDSABtn", "Notesbutton", "CmdAfunctions4", "CmdButton0",
-                               "CmdButton3", "LoopButton", "PlayBarHScroll", "PlayBarDetachBtn", "ColorChoiceBtn11"}) {
+                               "CmdButton3", "LoopButton", "DisplayPanel", "PlayBarHScroll", "PlayBarDetachBtn", "ColorChoiceBtn11"}) {
         QWidget* widget = Find<QWidget>(name);
         EXPECT_TRUE(widget->isVisible()) << name << " " << size.width();
         EXPECT_TRUE(all.contains(OnForm(widget))) << name << " " << size.width() << " " << layout;

@@ -238,7 +238,7 @@ void AnalysisForm::HideNotesPnl() {
   FocusKeyBox();
 }
 
-void AnalysisForm::ShowVideoTimer(bool shown) { shown ? timer_->Open() : timer_->hide(); }
+void AnalysisForm::ShowVideoTimer(bool shown) { shown ? timer_->Open(FloatCard::Place::TopRight) : timer_->hide(); }
 
 void AnalysisForm::SetVideoTimer(const std::string& reading, bool negative, const std::string& rate) {
   timer_->SetReading(Text(reading), negative, Text(rate));
@@ -305,7 +305,9 @@ void AnalysisForm::CloseOpenPanel() {
 void AnalysisForm::CommandsChanged() {
   menus_->Update();
   strip_->Update();
-  colors_->SetLive(analysis_->Tools().Drawing());
+  const bool drawing = analysis_->Tools().Drawing();
+  colors_->SetLive(drawing);
+  for (VideoCell* cell : cells_) cell->MP().setCursor(drawing ? Qt::CrossCursor : Qt::ArrowCursor);
   playBar_->SetVideo(analysis_->Slots().HasVideo(analysis_->Slots().CurrentWindow));
 }
 

@@ -42,9 +42,10 @@ FloatCard::FloatCard(const QString& name, const QString& title, QWidget* parent)
   Dress();
 }
 
-void FloatCard::Open() {
+void FloatCard::Open(Place first) {
   adjustSize();
-  if (!moved_) move(parentWidget()->rect().center() - rect().center());
+  const QRect room = parentWidget()->rect();
+  if (!moved_) move(first == Place::Middle ? room.center() - rect().center() : QPoint(room.right() - width() - 14, 52));
   KeepInside();
   show();
   raise();

@@ -16,8 +16,9 @@ class FloatCard : public QFrame {
   FloatCard(const QString& name, const QString& title, QWidget* parent);
 
   QVBoxLayout* Body() { return body_; }
-  /// Shows it in the middle of the parent, or, once the user has moved it, where it was left.
-  void Open();
+  enum class Place { Middle, TopRight };
+  /// Shows it, at first at a place of its parent, and once the user has moved it, where it was left.
+  void Open(Place first = Place::Middle);
   /// After a resize of the parent.
   void KeepInside();
 

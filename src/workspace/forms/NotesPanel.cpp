@@ -45,6 +45,7 @@ NotesPanel::NotesPanel(VideoNotes& notes, QWidget* parent) : QFrame(parent), not
   box_->setTabChangesFocus(true);
   connect(box_, &QPlainTextEdit::textChanged, this, [this] { TextChanged(); });
   rows->addWidget(box_, 1);
+  setFocusProxy(box_);
   hide();
   Dress();
 }

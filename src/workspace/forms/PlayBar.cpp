@@ -150,9 +150,9 @@ void PlayBar::SetLine(const QString& line, const QString& counter) {
 void PlayBar::SetMarks(const std::vector<int>& marks) {
   seek_->SetMarks(marks);
   for (std::size_t i = 0; i < marks_.size(); ++i) {
-    marks_[i]->setVisible(i < marks.size());
     if (i < marks.size()) marks_[i]->setText(QString::number(marks[i]));
   }
+  markCount_ = static_cast<int>(marks.size());
   markBox_->setVisible(!marks.empty());
   Arrange();
 }
@@ -174,6 +174,20 @@ void PlayBar::SizeButtons(int side, int playWidth) {
   buttons_->layout()->activate();
 }
 
+/// Shows as many marks as fit into the room and gives the width that they take. Marks that find no button
+/// still stand in the line of the film and are reached by a click there.
+int PlayBar::ShowMarks(int room) {
+  int taken = 0;
+  for (std::size_t i = 0; i < marks_.size(); ++i) {
+    const int width = static_cast<int>(i) < markCount_ ? marks_[i]->sizeHint().width() + 3 : 0;
+    const bool fits = width > 0 && taken + width <= room;
+    marks_[i]->setVisible(fits);
+    if (!fits) room = 0;
+    taken += fits ? width : 0;
+  }
+  return taken;
+}
+
 /// One row: buttons, the line of the film, marks, counter, words.
 void PlayBar::ArrangeWide() {
   SizeButtons(kButton, kPlayWidth);
@@ -191,28 +205,33 @@ void PlayBar::ArrangeWide() {
   }
   const int start = kMargin + buttonsWidth + 6;
   if (!markBox_->isHidden()) {
-    const int room = std::min(markBox_->sizeHint().width(), end - start - 120);
-    end -= room + 8;
-    markBox_->setGeometry(end, y - 11, std::max(0, room), 22);
+    const int taken = ShowMarks((end - start) / 2);
+    end -= taken + 8;
+    markBox_->setGeometry(end, y - 11, taken, 22);
   }
   seek_->setGeometry(start, y - 12, std::max(40, end - start - 6), 24);
 }
 
-/// Two rows: the line of the film with its marks above, the buttons and the words below. Where the words do
-/// not find room they stand in the tip of the line.
+/// Two rows: the line of the film with its marks above, the buttons and the words below. In the smallest
+/// windows the words take a row of their own.
 void PlayBar::ArrangeNarrow() {
-  SizeButtons(width() < kTinyWidth ? 30 : kButton, width() < kTinyWidth ? 36 : kPlayWidth);
+  const bool tiny = width() < kTinyWidth;
+  SizeButtons(tiny ? 30 : kButton, tiny ? 36 : kPlayWidth);
   const int buttonsWidth = buttons_->sizeHint().width();
-  seek_->setGeometry(kMargin - 2, 2, width() - 2 * kMargin + 4, 22);
-  const int y = 24 + (height() - 24) / 2;
-  buttons_->setGeometry(kMargin - 6, y - kButton / 2, buttonsWidth, kButton);
+  const int words = FiguresWidth(line_->fontMetrics(), "88.88 seconds | 888/888 frames");
+  const int left = kMargin - 6 + buttonsWidth + 4;
+  int end = width() - kMargin - detach_->width();
+  const bool own = end - left < words;
+  const int side = own ? 30 : kButton;
+  const int y = own ? 36 : 24 + (height() - 24) / 2;  // middle of the buttons
+  seek_->setGeometry(kMargin - 2, own ? 0 : 2, width() - 2 * kMargin + 4, 22);
+  buttons_->setGeometry(kMargin - 6, y - side / 2, buttonsWidth, side);
   detach_->move(width() - kMargin - detach_->width() + 4, y - detach_->height() / 2);
-  const int left = buttons_->x() + buttonsWidth + 4;
-  int end = detach_->x() - 4;
-  const int words = FiguresWidth(line_->fontMetrics(), "8.88 seconds | 888/888 frames");
-  line_->setVisible(end - left >= words);
-  if (!line_->isHidden()) {
-    line_->setGeometry(end - words - 24 < left ? left : end - words - 24, y - 12, std::min(words + 24, end - left), 24);
+  line_->show();
+  if (own) {
+    line_->setGeometry(kMargin, height() - 22, width() - 2 * kMargin, 18);
+  } else {
+    line_->setGeometry(end - words - 4, y - 12, words, 24);
     end = line_->x();
   }
   counter_->setVisible(!counter_->text().isEmpty() && end - left >= kCounter);
@@ -220,8 +239,7 @@ void PlayBar::ArrangeNarrow() {
     counter_->setGeometry(end - kCounter, y - 12, kCounter, 24);
     end -= kCounter;
   }
-  // Marks that find no button here still stand in the line and are reached by it.
-  markBox_->setGeometry(left, y - 11, std::max(0, std::min(markBox_->sizeHint().width(), end - left - 4)), 22);
+  markBox_->setGeometry(left, y - 11, ShowMarks(end - left - 4), 22);
 }
 
 void PlayBar::ToggleDock() {

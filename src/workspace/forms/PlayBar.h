@@ -46,6 +46,7 @@ class PlayBar : public QFrame {
  private:
   QToolButton* Button(const char* name, const QString& tip);
   void Arrange();
+  int ShowMarks(int room);
   void SizeButtons(int side, int playWidth);
   void ArrangeWide();
   void ArrangeNarrow();
@@ -66,6 +67,7 @@ class PlayBar : public QFrame {
   QToolButton* detach_ = nullptr;
   QWidget* markBox_;
   std::array<QToolButton*, 10> marks_{};
+  int markCount_ = 0;
   bool docked_ = true;
   bool playing_ = false;
   bool hasVideo_ = true;

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QWheelEvent>
 #include <algorithm>
+#include <cmath>
 
 #include "workspace/forms/StageLook.h"
 
@@ -12,6 +13,7 @@ namespace {
 
 constexpr double kKnob = 7.5;   // radius
 constexpr double kTrack = 4.0;  // thickness
+constexpr double kMarkReach = 4.0;
 
 }  // namespace
 
@@ -76,6 +78,12 @@ void SeekBar::paintEvent(QPaintEvent*) {
 void SeekBar::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
   dragging_ = true;
+  // A press on a mark means the mark, to the picture.
+  for (const int mark : marks_) {
+    if (std::abs(XOf(mark) - event->position().x()) > kMarkReach) continue;
+    SeekTo(XOf(mark));
+    return;
+  }
   SeekTo(event->position().x());
 }
 
