@@ -46,7 +46,10 @@ std::unique_ptr<Demuxer> Demuxer::Open(const std::string& path, OpenFault& fault
   std::unique_ptr<Demuxer> demuxer(new Demuxer);
   fault = demuxer->OpenStream(path, message);
   if (fault != OpenFault::None) return nullptr;
-  if (!demuxer->IndexFromContainer()) demuxer->IndexByReading();
+  if (!demuxer->IndexFromContainer()) {
+    demuxer->chunksOfFrame_ = 1;
+    demuxer->IndexByReading();
+  }
   if (demuxer->index_->FrameCount() < 1) {
     fault = OpenFault::NoFrames;
     message = "the video stream holds no picture";
@@ -149,6 +152,7 @@ bool Demuxer::IndexFromContainer() {
   const int entries = avformat_index_get_entries_count(stream_);
   if ((!isAvi_ && !isMov) || entries == 0) return false;
 
+  if (isAvi_) chunksOfFrame_ = CountChunksOfFrame();
   PictureIndex index;
   std::int64_t afterLast = 0;
   for (int i = 0; i < entries; ++i) {
@@ -157,7 +161,7 @@ bool Demuxer::IndexFromContainer() {
     if (entry->pos >= fileBytes_) continue;
     if (isAvi_ && (entry->timestamp < 0 || entry->timestamp > kMostPackets)) return false;
     index.Add(entry->timestamp, entry->flags & AVINDEX_KEYFRAME, entry->flags & AVINDEX_DISCARD_FRAME);
-    if (isAvi_) index.PlaceLast(static_cast<int>(entry->timestamp));
+    if (isAvi_) index.PlaceLast(static_cast<int>(entry->timestamp) / chunksOfFrame_);
     afterLast = std::max(afterLast, entry->pos + 8 + entry->size + entry->size % 2);
   }
   if (index.PacketCount() == 0 || !index.TimesGrow()) return false;
@@ -166,12 +170,25 @@ bool Demuxer::IndexFromContainer() {
   if (isAvi_) {
     const int trailing = CountTrailingRepeats(afterLast);
     if (trailing < 0) return false;
-    frames = static_cast<int>(index.Time(index.PacketCount() - 1)) + 1 + trailing;
+    frames = (static_cast<int>(index.Time(index.PacketCount() - 1)) + trailing) / chunksOfFrame_ + 1;
   }
   index.Finish(frames, WaitsForKey(stream_->codecpar->codec_id));
   index_ = std::make_shared<PictureIndex>(std::move(index));
   if (isMov && !LastIndexedIsLast()) return false;
   return KnowsFirstPacket();
+}
+
+/// Some writers take fields for frames, and put an empty chunk behind each picture of the whole file.
+/// Nobody wants to step through those: such a group counts as one frame.
+int Demuxer::CountChunksOfFrame() const {
+  const int entries = avformat_index_get_entries_count(stream_);
+  const auto time = [&](int i) { return avformat_index_get_entry(stream_, i)->timestamp; };
+  if (entries < 2 || time(0) != 0) return 1;
+  const std::int64_t step = time(1);
+  if (step < 2 || step > 4) return 1;
+  for (int i = 2; i < entries; ++i)
+    if (time(i) != i * step) return 1;
+  return static_cast<int>(step);
 }
 
 /// A film in fragments has an index of the first ones only: what follows shows when it is read.
@@ -254,7 +271,7 @@ VideoInfo Demuxer::Describe() const {
   info.height = stream_->codecpar->height;
   info.frameCount = index_->FrameCount();
   // An AVI file counts time in frames; others may show each for as long as they like.
-  AVRational rate = isAvi_ ? av_inv_q(stream_->time_base) : stream_->avg_frame_rate;
+  AVRational rate = isAvi_ ? av_div_q(av_inv_q(stream_->time_base), {chunksOfFrame_, 1}) : stream_->avg_frame_rate;
   if (rate.num <= 0 || rate.den <= 0) rate = stream_->r_frame_rate;
   if (rate.num > 0 && rate.den > 0) {
     info.rate = rate.num;
@@ -270,7 +287,7 @@ VideoInfo Demuxer::Describe() const {
 
 FrameTimes Demuxer::Times() const {
   FrameTimes times;
-  times.unitMs = av_q2d(stream_->time_base) * 1000;
+  times.unitMs = av_q2d(stream_->time_base) * 1000 * chunksOfFrame_;
   times.unitIsFrame = isAvi_;
   const AVRational rate = stream_->avg_frame_rate.num > 0 ? stream_->avg_frame_rate : stream_->r_frame_rate;
   if (rate.num > 0 && rate.den > 0) times.meanMs = 1000 / av_q2d(rate);

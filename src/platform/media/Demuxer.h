@@ -52,6 +52,7 @@ class Demuxer {
   OpenFault OpenStream(const std::string& path, std::string& message, const AVStream* known = nullptr);
   void DiscardOthers();
   bool IndexFromContainer();
+  int CountChunksOfFrame() const;
   bool LastIndexedIsLast();
   int CountTrailingRepeats(std::int64_t afterLast) const;
   void IndexByReading();
@@ -66,6 +67,7 @@ class Demuxer {
   bool tellsShowTimes_ = false;
   bool hasSound_ = false;
   std::int64_t fileBytes_ = 0;
+  int chunksOfFrame_ = 1;  ///< of an AVI file: the picture's own and empty ones behind it
   std::shared_ptr<const PictureIndex> index_;
   int next_ = 0;
   bool synced_ = true;  ///< false after a seek, until a packet has been recognised

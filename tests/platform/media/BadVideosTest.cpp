@@ -144,9 +144,9 @@ TEST(BadVideos, MayVanishWhileOpen) {
   EXPECT_EQ(ReadNumber(cut->Frame(5, 24)), 5);
 }
 
-TEST(BadVideos, FramesLeftOutRepeatTheOneBefore) {
-  // A capture that lost frames stores empty chunks in their place.
-  std::string avi = BytesOf(MakeTestVideo(MjpegVideo(12)));
+/// Builds a video of 12 pictures anew, with an empty chunk wherever `pictures` holds -1.
+std::string WithEmptyChunks(const std::vector<int>& pictures) {
+  const std::string avi = BytesOf(MakeTestVideo(MjpegVideo(12)));
   std::string head = avi.substr(0, FirstPacket(avi) - 8);
   std::vector<std::string> chunks;
   std::size_t at = FirstPacket(avi) - 8;
@@ -159,36 +159,49 @@ TEST(BadVideos, FramesLeftOutRepeatTheOneBefore) {
   const std::string empty("00dc\0\0\0\0", 8);
   std::string movie;
   std::string index;
-  std::vector<int> shown;
-  std::uint32_t offset = 4;
-  for (int frame = 0, packet = 0; packet < 12; ++frame) {
-    const bool lost = frame == 3 || frame == 4 || frame == 9;
-    const std::string& chunk = lost ? empty : chunks[static_cast<std::size_t>(packet)];
-    shown.push_back(lost ? packet - 1 : packet);
-    packet += !lost;
+  const auto append = [&](std::uint32_t value) { index.append(reinterpret_cast<const char*>(&value), 4); };
+  for (const int picture : pictures) {
+    const std::string& chunk = picture < 0 ? empty : chunks[static_cast<std::size_t>(picture)];
     std::uint32_t size = 0;
     std::memcpy(&size, chunk.data() + 4, 4);
-    const std::uint32_t flags = 16;
     index += "00dc";
-    index.append(reinterpret_cast<const char*>(&flags), 4);
-    index.append(reinterpret_cast<const char*>(&offset), 4);
-    index.append(reinterpret_cast<const char*>(&size), 4);
+    append(16);
+    append(static_cast<std::uint32_t>(4 + movie.size()));
+    append(size);
     movie += chunk;
-    offset += static_cast<std::uint32_t>(chunk.size());
   }
-  const auto put = [](std::string& bytes, std::size_t place, std::uint32_t value) { std::memcpy(bytes.data() + place, &value, 4); };
-  put(head, head.size() - 8, static_cast<std::uint32_t>(movie.size() + 4));
+  const auto put = [](std::string& bytes, std::size_t place, std::size_t value) {
+    const auto word = static_cast<std::uint32_t>(value);
+    std::memcpy(bytes.data() + place, &word, 4);
+  };
+  put(head, head.size() - 8, movie.size() + 4);
   std::string indexHead("idx1\0\0\0\0", 8);
-  put(indexHead, 4, static_cast<std::uint32_t>(index.size()));
+  put(indexHead, 4, index.size());
   std::string whole = head + movie + indexHead + index;
-  put(whole, 4, static_cast<std::uint32_t>(whole.size() - 8));
-  put(whole, whole.find("strh") + 8 + 32, static_cast<std::uint32_t>(shown.size()));
+  put(whole, 4, whole.size() - 8);
+  put(whole, whole.find("strh") + 8 + 32, pictures.size());
+  return whole;
+}
 
-  const auto file = VideoFile::Open(FileWith("dropped.avi", whole)).file;
+TEST(BadVideos, FramesLeftOutRepeatTheOneBefore) {
+  // A capture that lost frames stores empty chunks in their place.
+  const std::vector<int> pictures = {0, 1, 2, -1, -1, 3, 4, 5, 6, -1, 7, 8, 9, 10, 11, -1};
+  const auto file = VideoFile::Open(FileWith("dropped.avi", WithEmptyChunks(pictures))).file;
   ASSERT_TRUE(file);
-  ASSERT_EQ(file->Info().frameCount, static_cast<int>(shown.size()));
-  for (int n = static_cast<int>(shown.size()) - 1; n >= 0; --n)
-    EXPECT_EQ(ReadNumber(file->Frame(n, 24)), shown[static_cast<std::size_t>(n)]) << n;
+  ASSERT_EQ(file->Info().frameCount, 16);
+  const int shown[] = {0, 1, 2, 2, 2, 3, 4, 5, 6, 6, 7, 8, 9, 10, 11, 11};
+  for (int n = 15; n >= 0; --n) EXPECT_EQ(ReadNumber(file->Frame(n, 24)), shown[n]) << n;
+}
+
+TEST(BadVideos, AnEmptyChunkBehindEveryPictureIsNoFrame) {
+  std::vector<int> pictures;
+  for (int n = 0; n < 12; ++n) pictures.insert(pictures.end(), {n, -1});
+  const auto file = VideoFile::Open(FileWith("doubled.avi", WithEmptyChunks(pictures))).file;
+  ASSERT_TRUE(file);
+  ASSERT_EQ(file->Info().frameCount, 12);
+  EXPECT_EQ(file->Info().rate / file->Info().scale, 15);
+  EXPECT_NEAR(file->SampleToTime(12), 24 * 1000 / 30.0, 0.1);
+  for (int n = 11; n >= 0; --n) EXPECT_EQ(ReadNumber(file->Frame(n, 24)), n);
 }
 
 }  // namespace
