@@ -127,6 +127,7 @@ void MultiPicture::MPicBtn_Click(int Index) {
   host_.Message(MessageKind::Information, "",
                 "\"New Carve\" Active. Click on the video to draw a square around the area that you want to create a "
                 "MultiPicture.");
+  if (shown_ && SquareWanted) SquareWanted();
 }
 
 bool MultiPicture::TakeSquare(int slot, POINTAPI corner, POINTAPI opposite) {
@@ -142,8 +143,8 @@ bool MultiPicture::TakeSquare(int slot, POINTAPI corner, POINTAPI opposite) {
   part_ = {(player.x + std::min(corner.x, opposite.x) - cellWidth / 2) / cellHeight,
            (player.y + std::min(corner.y, opposite.y) - cellHeight / 2) / cellHeight, width / cellHeight,
            height / cellHeight};
-  MakeStrip();
-  InitialMF();
+  // Not before the square itself has gone from the picture.
+  rebuild_ = HostTimer(host_, 0, false, [this] { Rebuild(); });
   return true;
 }
 

@@ -60,6 +60,8 @@ class MultiPicture {
   /// 0 "Carve new MultiPicture": waits for a square on the video. 1 "Close MultiPicture".
   void MPicBtn_Click(int Index);
   bool WaitingForSquare() const { return waiting_; }
+  /// A square is waited for now: whoever owns the drawing tools puts that tool into the user's hand.
+  std::function<void()> SquareWanted;
   /// Offers a finished square, two opposite corners in pixels of the slot's picture. True when it was
   /// waited for: its area is what the strip now holds.
   bool TakeSquare(int slot, POINTAPI corner, POINTAPI opposite);

@@ -106,6 +106,7 @@ TEST_F(MultiPictureTest, PicturesShowTheMiddleOrTheCarvedSquare) {
             "\"New Carve\" Active. Click on the video to draw a square around the area that you want to create a "
             "MultiPicture.");
   EXPECT_TRUE(strip_.TakeSquare(1, {160, 90}, {60, 190}));
+  stage_.host.Advance(0);
   EXPECT_NEAR(strip_.SourceLeft(), 60, 1);
   EXPECT_NEAR(strip_.SourceTop(), 90, 1);
   EXPECT_NEAR(strip_.PictureWidth(), 100, 1);
