@@ -13,6 +13,7 @@ namespace kinalyx {
 
 FieldsEditor::FieldsEditor(IHost& host, ProfileFields& fields, std::function<void()> changed, QWidget* parent)
     : QWidget(parent), host_(host), fields_(fields), changed_(std::move(changed)) {
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
   grid_ = new QGridLayout(this);
   grid_->setContentsMargins(0, 0, 0, 0);
   grid_->setHorizontalSpacing(kGap);

@@ -46,7 +46,7 @@ void LibraryLists::ShowStudents() {
 
 void LibraryLists::ShowVideos() {
   const int count = static_cast<int>(browser_.VideoList().size());
-  if (browser_.HasStudent()) students_->SetCount(browser_.StudentIndex(), count);
+  if (browser_.HasStudent()) students_->SetCount(browser_.StudentIndex(), count > 0 ? count : -1);
   videos_->Fill(Q(browser_.VideoList()), browser_.VideoIndex());
   ShowHints();
   emit StudentChosen();

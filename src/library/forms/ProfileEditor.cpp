@@ -112,7 +112,10 @@ void ProfileEditor::OpenEdit(const FieldTexts& captions, const FieldTexts& value
       QString("Edit the fields of the %1 and choose \"Save\" to modify.").arg(Q(vocabulary_.noun())));
   SetCaptions(captions);
   instructorPart_->hide();
-  for (std::size_t field = 0; field < values.size(); ++field) boxes_[field]->setText(Q(values[field]));
+  for (std::size_t field = 0; field < values.size(); ++field) {
+    boxes_[field]->setText(Q(values[field]));
+    boxes_[field]->setCursorPosition(0);  // a long value shows its beginning
+  }
   boxes_[kNameField]->setReadOnly(true);
   boxes_[1]->setFocus();
 }

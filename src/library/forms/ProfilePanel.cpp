@@ -42,9 +42,15 @@ ProfilePanel::ProfilePanel(IHost& host, const Settings& settings, QWidget* paren
   Body()->addWidget(fields_);
 
   notesPart_ = new QWidget;
-  auto* notes = new QVBoxLayout(notesPart_);
-  notes->setContentsMargins(kGap, 10, kGap, kGap);
+  auto* notesRows = new QVBoxLayout(notesPart_);
+  notesRows->setContentsMargins(0, 0, 0, 0);
+  auto* line = MakeFrame("divider");
+  line->setFixedHeight(1);
+  notesRows->addWidget(line);
+  auto* notes = new QVBoxLayout;
+  notes->setContentsMargins(kGap, 4, kGap, kGap);
   notes->setSpacing(6);
+  notesRows->addLayout(notes, 1);
   notesTitle_ = MakeLabel("ProfileNotesTitle", {}, "heading");
   editor_ = new QPlainTextEdit;
   editor_->setObjectName("ProfileNotes");
@@ -53,9 +59,6 @@ ProfilePanel::ProfilePanel(IHost& host, const Settings& settings, QWidget* paren
   editor_->installEventFilter(this);
   notes->addWidget(notesTitle_);
   notes->addWidget(editor_, 1);
-  auto* line = MakeFrame("divider");
-  line->setFixedHeight(1);
-  Body()->addWidget(line);
   Body()->addWidget(notesPart_, 1);
   notesTitle_->setBuddy(editor_);
 

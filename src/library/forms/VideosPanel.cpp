@@ -107,7 +107,7 @@ VideosPanel::VideosPanel(PlayerServices& services, NameList* list, QWidget* pare
     grid->addWidget(caption, line / 5 * 2, line % 5);
     grid->addWidget(value, line / 5 * 2 + 1, line % 5);
     grid->setColumnStretch(line % 5, 1);
-    if (line / 5 == 0) grid->setRowMinimumHeight(1, 24);
+    grid->setRowMinimumHeight(line / 5 * 2 + 1, 22);
     stats_[static_cast<std::size_t>(line)] = value;
   }
   statsRows->addLayout(grid);
