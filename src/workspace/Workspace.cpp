@@ -75,6 +75,7 @@ void Workspace::SetScreen(int Mode, bool Force) {
   if (moved) CurrentWindow = 1;
   FormReset();
   if (moved) FocusSet();
+  StateChanged();
   view_.CommandsChanged();
   view_.FocusKeyBox();
 }

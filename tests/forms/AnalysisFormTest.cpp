@@ -178,7 +178,7 @@ TEST_F(AnalysisFormTest, TheOpenPanelStandsWhereTheSettingsSay) {
   remembered = {"Anna", "Erica", ""};
   for (const int choice : {0, 1, 2}) {
     settings->OpenDlgChoice = choice;
-    Click("Openbtn");
+    QTest::mouseDClick(Find<QWidget>("VideoPanel1"), Qt::LeftButton);
     QTest::qWait(0);
     auto* panel = Find<QWidget>(choice == 2 ? "OpenVidCForm" : "OpenVidForm");
     ASSERT_TRUE(panel->isVisible());

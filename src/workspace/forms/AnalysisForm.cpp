@@ -11,6 +11,7 @@
 
 #include "library/forms/OpenVidForm.h"
 #include "platform/widgets/Panel.h"
+#include "video/KeyCodes.h"
 #include "workspace/forms/CalibrationPanel.h"
 #include "workspace/forms/ColorRow.h"
 #include "workspace/forms/CommandMenus.h"
@@ -117,20 +118,22 @@ void AnalysisForm::Run(const std::string& command) { analysis_->Commands().Run(c
 
 // ---------------------------------------------------------------- keys and events
 
-/// A text box has the keys: what it does not want itself is still a command, but for Escape and Ctrl.
+/// A text box has the keys. What it does not want itself is still a command, but for Escape, which leaves
+/// the box, and Ctrl, which begins its own shortcuts.
 bool AnalysisForm::Typing() const {
   const QWidget* focus = QApplication::focusWidget();
   return qobject_cast<const QLineEdit*>(focus) || qobject_cast<const QPlainTextEdit*>(focus);
 }
 
 void AnalysisForm::keyPressEvent(QKeyEvent* event) {
-  if (Typing() && (event->key() == Qt::Key_Escape || event->key() == Qt::Key_Control)) {
-    if (event->key() == Qt::Key_Escape) FocusKeyBox();
+  const int code = KeyCodeOf(*event);
+  if (Typing() && (code == kKeyEscape || code == kKeyCtrl)) {
+    if (code == kKeyEscape) FocusKeyBox();
     return;
   }
   if (event->isAutoRepeat() && !RepeatsWhileHeld(*event)) return;
-  const int code = KeyCodeOf(*event);
-  bool taken = code != 0 && !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier) && code != 17) &&
+  const bool combined = event->modifiers() & (Qt::ControlModifier | Qt::AltModifier) && code != kKeyCtrl;
+  bool taken = code != 0 && !combined &&
                analysis_->Commands().Form_KeyDown(code, event->modifiers() & Qt::ShiftModifier ? 1 : 0);
   if (const int character = KeyAsciiOf(*event); character != 0)
     taken = analysis_->Commands().Form_KeyPress(character) || taken;

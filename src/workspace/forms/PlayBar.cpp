@@ -117,7 +117,8 @@ void PlayBar::SetVideo(bool has) {
   hasVideo_ = has;
   for (QToolButton* button : {rewind_, back_, play_, next_, slomo_, loop_}) button->setEnabled(has);
   seek_->setEnabled(has);
-  buttons_->setToolTip(has ? QString() : tr("Open a video first"));
+  for (QWidget* part : {buttons_, static_cast<QWidget*>(seek_)})
+    part->setToolTip(has ? QString() : tr("Open a video first"));
   for (QToolButton* button : {rewind_, back_, play_, next_, slomo_, loop_})
     button->setToolTip(has ? button->accessibleName() : button->accessibleName() + " \u2014 " + tr("Open a video first"));
 }

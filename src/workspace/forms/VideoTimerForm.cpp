@@ -40,7 +40,6 @@ VideoTimerForm::VideoTimerForm(VideoTimer& timer, QWidget* parent)
 
 void VideoTimerForm::SetReading(const QString& reading, bool negative, const QString& rate) {
   const StageLook look = StageLook::Current();
-  QPalette colours = reading_->palette();
   const QColor ink = negative ? look.mark : look.ink;
   reading_->setStyleSheet(QString("color: %1;").arg(ink.name()));
   reading_->setText(reading);
