@@ -4,11 +4,25 @@
 #include <utility>
 
 #include "library/LibraryActions.h"
+#include "library/LibraryBrowser.h"
 #include "library/RunOperation.h"
 #include "platform/files/Folders.h"
 #include "platform/files/IniFile.h"
 
 namespace kinalyx {
+
+LibraryVideo ChosenVideo(const LibraryBrowser& browser) {
+  return {browser.Instructor(), browser.Student(), browser.VideoPath()};
+}
+
+void ShowResult(const OperationResult& result, LibraryBrowser& browser) {
+  if (!result.refill) return;
+  browser.Refresh();
+  // A choice that stands is not made again: it would go back to the first video.
+  if (!result.instructor.empty() && result.instructor != browser.Instructor()) browser.SelectInstructor(result.instructor);
+  if (!result.student.empty() && result.student != browser.Student()) browser.SelectStudent(result.student);
+  if (!result.video.empty()) browser.SelectVideo(result.video);
+}
 
 LibraryOperations::LibraryOperations(IHost& host, const Settings& settings, AnalysisLink analysis)
     : LibraryOperations(host, settings, std::move(analysis), Environment{}) {}

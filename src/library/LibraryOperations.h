@@ -16,6 +16,8 @@
 
 namespace kinalyx {
 
+class LibraryBrowser;
+
 /// What the library asks of the analysis section. An empty function stands for a section that has not
 /// been opened yet.
 struct AnalysisLink {
@@ -32,6 +34,9 @@ struct LibraryVideo {
   std::string path;        ///< empty when none is chosen
 };
 
+/// The video that is chosen in the lists.
+LibraryVideo ChosenVideo(const LibraryBrowser& browser);
+
 /// What an operation leaves to the form that asked for it.
 struct OperationResult {
   bool done = false;
@@ -42,6 +47,9 @@ struct OperationResult {
   std::string student{};
   std::string video{};
 };
+
+/// Reads the lists again, where an operation wants it, and chooses what it is about.
+void ShowResult(const OperationResult& result, LibraryBrowser& browser);
 
 /// All changes to the library tree. Everything works on files and folders directly, a video always with
 /// its sidecar. Nothing is ever replaced, and what fails leaves the library as it was.

@@ -11,6 +11,7 @@
 
 #include "library/DiskSpace.h"
 #include "library/LibraryActions.h"
+#include "library/LibraryBrowser.h"
 #include "library/TempLibrary.h"
 #include "platform/files/Folders.h"
 #include "platform/files/IniFile.h"
@@ -393,6 +394,36 @@ TEST_F(LibraryOperationsTest, AnExportCanBeStoppedAndKeepsWhatHasArrived) {
   for (const auto& entry : fs::directory_iterator(drive.Path("Ann/Joe Doe"))) hidden += entry.path().filename().string()[0] == '.';
   EXPECT_EQ(hidden, 0u);
   EXPECT_EQ(library.host.titles.front() == "Export to C?", IsSystemDrive(drive.Path()));
+}
+
+TEST_F(LibraryOperationsTest, TheListsFollow) {
+  LastStudentInfo remembered;
+  LibraryBrowser browser(library.settings, remembered, LibraryBrowser::Kind::Profiles);
+  browser.CapfolderSetup();
+  browser.SelectInstructor("Ann");
+  browser.SelectStudent("Joe Doe");
+  browser.SelectVideo("(002) FO");
+  const auto chosen = [&] { return browser.Instructor() + "/" + browser.Student() + "/" + browser.Video(); };
+
+  ShowResult(Ops().RenameVideo(ChosenVideo(browser), "(003) Back"), browser);
+  EXPECT_EQ(chosen(), "Ann/Joe Doe/(003) Back");
+  ShowResult(Ops().RenameStudent("Ann", "Joe Doe", "Jim"), browser);
+  EXPECT_EQ(chosen(), "Ann/Jim/(001) DL");
+  Ops().MoveStudent("Ann", "Jim", "Bob", Into());
+  ShowResult(Ended(), browser);
+  EXPECT_EQ(chosen(), "Bob/Jim/(001) DL");
+  ShowResult(Ops().DeleteVideo(ChosenVideo(browser)), browser);
+  EXPECT_EQ(chosen(), "Bob/Jim/(003) Back");
+  library.host.answers = {true};
+  Ops().QuickLaunch(ChosenVideo(browser), Into());
+  ShowResult(Ended(), browser);
+  EXPECT_EQ(browser.InstructorList(), (std::vector<std::string>{"General Folder", "Ann", "Bob", "Quick Launch"}));
+  EXPECT_EQ(chosen(), "Bob/Jim/(003) Back");
+  Ops().DeleteStudent("Bob", "Jim", Into());
+  ShowResult(Ended(), browser);
+  EXPECT_EQ(chosen(), "Bob//");
+  ShowResult(Ops().AddInstructor("Carl"), browser);
+  EXPECT_EQ(chosen(), "Carl//");
 }
 
 // ---------------------------------------------------------------- trim
