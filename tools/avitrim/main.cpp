@@ -1,5 +1,5 @@
-// avitrim: cuts a video by frames. The main program starts it and waits for it; so a damaged file can do
-// no harm to a session with eight videos open.
+// avitrim: cuts a video by frames. The main program starts it and waits for it; a damaged file
+// can thus do no harm to the videos that are open there.
 
 #include <atomic>
 #include <csignal>
