@@ -1,0 +1,329 @@
+#include "workspace/DrawingEdits.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+
+#include "drawing/MultiShapes.h"
+#include "drawing/ShapeGeometry.h"
+#include "video/KeyCodes.h"
+
+namespace kinalyx {
+namespace {
+
+constexpr int kLeftButton = 1;
+constexpr int kShift = 1;
+constexpr int kCtrl = 2;
+constexpr int kKeyTab = 9;
+constexpr float kTwipsToDouble = 400;  // a drag of the scale handle that doubles the selection
+constexpr int kPlusArm = 10;           // pixels from the middle of a plus sign to its ends
+constexpr int kTwoWindows = 2;         // the layout of two windows side by side
+
+struct Box {
+  POINTAPI least{INT32_MAX, INT32_MAX};
+  POINTAPI most{INT32_MIN, INT32_MIN};
+
+  void Add(POINTAPI point) {
+    least = {std::min(least.x, point.x), std::min(least.y, point.y)};
+    most = {std::max(most.x, point.x), std::max(most.y, point.y)};
+  }
+  void Add(POINTAPI middle, int dx, int dy) {
+    Add({middle.x - dx, middle.y - dy});
+    Add({middle.x + dx, middle.y + dy});
+  }
+};
+
+/// Adds what a shape shows, which for some kinds is more than its points.
+void AddShape(Box& box, const Shape& shape, const ShapeRules& rules) {
+  const auto points = BoundPoints(shape);
+  if (points.empty()) return;
+  for (const POINTAPI& point : points) box.Add(point);
+  if (shape.Kind == kFlag) box.Add(points[0], kPlusArm, kPlusArm);
+  if (points.size() < 2) return;
+  const POINTAPI span{points[1].x - points[0].x, points[1].y - points[0].y};
+  if (shape.Kind == kClock) {
+    const int radius = Round(Distance(points[0], points[1]));
+    box.Add(points[0], radius, radius);
+  } else if (shape.Kind == kEllipse && rules.EllipseFromCentre) {
+    box.Add(points[0], span.x, span.y);
+  } else if (shape.Kind == kParallelogram && points.size() > 2) {
+    box.Add({points[2].x - span.x, points[2].y - span.y});
+  }
+}
+
+}  // namespace
+
+DrawingEdits::DrawingEdits(IHost& host, const Settings& settings, Workspace& workspace, DrawingTools& tools,
+                           IDrawingWorkspace& drawing, IDrawingEditsView& view)
+    : host_(host),
+      settings_(settings),
+      workspace_(workspace),
+      tools_(tools),
+      drawing_(drawing),
+      view_(view),
+      bar_(tools, drawing, view),
+      macros_(settings.AppPath, settings.DataPath) {}
+
+// ---------------------------------------------------------------- selection
+
+std::optional<SelectionMarks> DrawingEdits::Marks() {
+  const ShapeList& list = List();
+  const Shape* selected = SelectedShape(list);
+  if (!HasVideo() || !selected || !selected->Locked || tools_.Drawing()) return std::nullopt;
+  const ShapeRules rules = tools_.Engine().Rules();
+  Box box;
+  if (bar_.MultiEdit()) {
+    for (const Shape& shape : ShapesOf(list)) AddShape(box, shape, rules);
+  } else {
+    AddShape(box, *selected, rules);
+  }
+  if (box.least.x > box.most.x) return std::nullopt;
+  return SelectionMarks{box.least, box.most, bar_.MultiEdit() ? MultiGetMid(list, rules) : GetMid(*selected, rules)};
+}
+
+std::string DrawingEdits::SelectionWords() {
+  const ShapeList& list = List();
+  if (!HasVideo()) return "No video here";
+  if (list.NumShapes == 0) return "Nothing is drawn here";
+  if (bar_.MultiEdit()) return fmt::format("All {} drawings", list.NumShapes);
+  const Shape* selected = SelectedShape(list);
+  if (!selected) return "Click a drawing";
+  return fmt::format("{}, {} of {}", InfOf(selected->Kind).Name, list.CurShape + 1, list.NumShapes);
+}
+
+void DrawingEdits::ShowSelection() {
+  if (bar_.Shown()) view_.ShowSelection(workspace_.CurrentWindow, Marks(), SelectionWords());
+}
+
+void DrawingEdits::FramePainted(int slot) {
+  if (slot == workspace_.CurrentWindow) ShowSelection();
+}
+
+// ---------------------------------------------------------------- edit bar
+
+void DrawingEdits::ribEBBtn_Click(bool Value) { bar_.ribEBBtn_Click(Value); }
+
+void DrawingEdits::cmdEBBtn_MouseDown(int Index, float X, float Y) {
+  if (!bar_.Shown() || Dragging() || !SelectedShape(List())) return;
+  dragged_ = Index;
+  bar_.cmdEBBtn_MouseDown(Index, kLeftButton, 0, X, Y);
+}
+
+void DrawingEdits::cmdEBBtn_MouseMove(float X, float Y) {
+  if (Dragging()) bar_.cmdEBBtn_MouseMove(dragged_, kLeftButton, 0, X, Y);
+}
+
+void DrawingEdits::cmdEBBtn_MouseUp() {
+  if (!Dragging()) return;
+  const int handle = std::exchange(dragged_, -1);
+  bar_.cmdEBBtn_MouseUp(handle, kLeftButton, 0, 0, 0);
+}
+
+/// A point of the picture as the bar would see it within one of its handles: a turn goes about the
+/// handle's middle, whatever the selection turns about.
+std::pair<float, float> DrawingEdits::InHandle(int handle, POINTAPI at) {
+  if (handle != kRotateHandle) return {static_cast<float>(at.x * kTwipsPerPixel), static_cast<float>(at.y * kTwipsPerPixel)};
+  return {static_cast<float>(view_.HandleWidth(handle) / 2.0 + (at.x - gripPivot_.x) * kTwipsPerPixel),
+          static_cast<float>(view_.HandleHeight(handle) / 2.0 + (at.y - gripPivot_.y) * kTwipsPerPixel)};
+}
+
+void DrawingEdits::HandlePressed(int Index, POINTAPI at) {
+  const auto marks = Marks();
+  if (!marks) return;
+  grip_ = at;
+  gripPivot_ = marks->pivot;
+  const auto [x, y] = Index == kScaleHandle ? std::pair{0.0f, 0.0f} : InHandle(Index, at);
+  cmdEBBtn_MouseDown(Index, x, y);
+}
+
+void DrawingEdits::HandleDragged(POINTAPI at) {
+  if (!Dragging()) return;
+  if (dragged_ != kScaleHandle) {
+    const auto [x, y] = InHandle(dragged_, at);
+    cmdEBBtn_MouseMove(x, y);
+    return;
+  }
+  // So far along the bar's drag that the selection grows as the handle gets away from the pivot.
+  const double whole = std::max(1.0f, Distance(gripPivot_, grip_));
+  cmdEBBtn_MouseMove(0, static_cast<float>(kTwipsToDouble * (1 - Distance(gripPivot_, at) / whole)));
+}
+
+void DrawingEdits::Nudge(int dx, int dy) {
+  cmdEBBtn_MouseDown(kMoveHandle, 0, 0);
+  cmdEBBtn_MouseMove(static_cast<float>(dx * kTwipsPerPixel), static_cast<float>(dy * kTwipsPerPixel));
+  cmdEBBtn_MouseUp();
+}
+
+// ---------------------------------------------------------------- undo
+
+void DrawingEdits::Undo() {
+  if (CanUndo()) tools_.Undo(workspace_.CurrentWindow);
+}
+
+void DrawingEdits::Redo() {
+  if (CanRedo()) tools_.Redo(workspace_.CurrentWindow);
+}
+
+// ---------------------------------------------------------------- macros
+
+void DrawingEdits::LoadMacros() {
+  const SystemInfo system = host_.System();
+  macros_.LoadMList({system.screenWidth * kTwipsPerPixel, system.screenHeight * kTwipsPerPixel});
+}
+
+void DrawingEdits::DTMacro_Click() {
+  // What is under construction ends before it is copied.
+  tools_.DrawOffBtn_Click();
+  const auto name = view_.AskMacroName(List());
+  if (!name || name->empty()) return;
+  LoadMacros();
+  std::string error;
+  if (!macros_.CreateMacro(*name, List(), &error)) {
+    host_.Message(MessageKind::Warning, "New macro", "The macro could not be saved. " + error);
+    return;
+  }
+  if (macroFormShown_) view_.FillMacroList(macros_.MacroNames(), macros_.NumMacros() - 1);
+}
+
+void DrawingEdits::AddMacro_Click() {
+  macroFormShown_ = !macroFormShown_;
+  if (macroFormShown_) {
+    LoadMacros();
+    view_.FillMacroList(macros_.MacroNames(), macros_.NumMacros() > 0 ? 0 : -1);
+  }
+  view_.ShowMacroForm(macroFormShown_);
+}
+
+void DrawingEdits::MacroBtn_Click(int Index) {
+  if (Index < 0 || Index >= macros_.NumMacros() || !HasVideo() || Dragging()) return;
+  EmbedMacro(macros_.Macro(Index), tools_, drawing_);
+  bar_.EditWhole();
+}
+
+void DrawingEdits::cmdInfo_Click(int Index) {
+  if (Index < 0 || Index >= macros_.NumMacros()) return;
+  const std::string info = macros_.Info(Index);
+  host_.Message(MessageKind::Information, macros_.MacroNames()[static_cast<std::size_t>(Index)],
+                info.empty() ? "This macro holds no drawings." : info);
+}
+
+void DrawingEdits::SSCommand1_Click(int Index) {
+  if (Index < 0 || Index >= macros_.NumMacros()) return;
+  const std::string name = macros_.MacroNames()[static_cast<std::size_t>(Index)];
+  if (!host_.Question("Remove macro", "Remove the macro \"" + name + "\"?")) return;
+  std::string error;
+  if (!macros_.KillMacro(Index, &error)) host_.Message(MessageKind::Warning, "Remove macro", "The macro could not be removed. " + error);
+  view_.FillMacroList(macros_.MacroNames(), std::min(Index, macros_.NumMacros() - 1));
+}
+
+// ---------------------------------------------------------------- grid and clone
+
+void DrawingEdits::TAGrid_Click() {
+  gridPanelShown_ = !gridPanelShown_;
+  view_.ShowGridPanel(gridPanelShown_);
+}
+
+void DrawingEdits::GridSizeClose_Click() {
+  if (gridPanelShown_) TAGrid_Click();
+}
+
+/// A maximized window is one of a layout, which comes back before anything is copied.
+int DrawingEdits::WindowsOfLayout() const {
+  return workspace_.Maximized() ? Val(workspace_.SavedLayout) : workspace_.SlotsShown();
+}
+
+std::vector<int> DrawingEdits::CloneTargets() const {
+  std::vector<int> targets;
+  for (int slot = 1; slot <= std::max(kTwoWindows, WindowsOfLayout()); ++slot)
+    if (slot != workspace_.CurrentWindow && workspace_.HasVideo(slot)) targets.push_back(slot);
+  return targets;
+}
+
+bool DrawingEdits::CanClone() const {
+  return HasVideo() && tools_.HasShapes(workspace_.CurrentWindow) && !CloneTargets().empty();
+}
+
+void DrawingEdits::DTClone_Click() {
+  if (!CanClone()) return;
+  // The copy is to be seen: a window that is hidden comes back first.
+  if (workspace_.Maximized()) workspace_.TMAX_Click();
+  if (workspace_.SlotsShown() < kTwoWindows) workspace_.SetScreen(kTwoWindows);
+  const int source = workspace_.CurrentWindow;
+  int target = source == 1 ? 2 : 1;
+  if (!tools_.CloneStart(workspace_.SlotsShown())) {
+    const auto chosen = view_.AskCloneTarget(source, CloneTargets());
+    if (!chosen) return;
+    target = *chosen;
+    tools_.CopyShapes(source, target);
+    workspace_.SelectWindow(target);
+  }
+  drawing_.DrawingsChanged(target);
+}
+
+// ---------------------------------------------------------------- keys
+
+bool DrawingEdits::Form_KeyDown(int KeyCode, int Shift) {
+  if (Shift & kCtrl) {
+    if (KeyCode == 'Z') Shift & kShift ? Redo() : Undo();
+    if (KeyCode == 'Y') Redo();
+    return KeyCode == 'Z' || KeyCode == 'Y';
+  }
+  if (!bar_.Shown() || tools_.Drawing()) return false;
+  const auto press = [this](int handle) {
+    if (!Dragging() && view_.HandleEnabled(handle)) bar_.cmdEBBtn_Click(handle);
+    return true;
+  };
+  if (KeyCode == kKeyTab) return press(kNextHandle);
+  if (KeyCode == kKeyDelete) return press(kDeleteHandle);
+  if (!(Shift & kShift)) return false;
+  switch (KeyCode) {
+    case kKeyLeft: Nudge(-1, 0); return true;
+    case kKeyRight: Nudge(1, 0); return true;
+    case kKeyUp: Nudge(0, -1); return true;
+    case kKeyDown: Nudge(0, 1); return true;
+    default: return false;
+  }
+}
+
+void DrawingEdits::EndEdit() {
+  cmdEBBtn_MouseUp();
+  bar_.cmdEBBtn_Click(kEndHandle);
+}
+
+bool DrawingEdits::Escape() {
+  if (bar_.Shown()) {
+    EndEdit();
+  } else if (gridPanelShown_) {
+    TAGrid_Click();
+  } else if (macroFormShown_) {
+    AddMacro_Click();
+  } else {
+    return false;
+  }
+  return true;
+}
+
+// ---------------------------------------------------------------- from the workspace
+
+void DrawingEdits::FocusChanged() {
+  cmdEBBtn_MouseUp();
+  bar_.MoveEditBar();
+  ShowSelection();
+}
+
+void DrawingEdits::PlayerResized(int slot) {
+  if (!bar_.Shown() || slot != workspace_.CurrentWindow) return;
+  view_.PlaceEditBar(slot);
+  ShowSelection();
+}
+
+void DrawingEdits::VideoClosing(int slot) {
+  if (slot == workspace_.CurrentWindow) EndEdit();
+}
+
+void DrawingEdits::CloseAll() {
+  while (Escape()) {
+  }
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,144 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "drawing/EditBar.h"
+#include "drawing/Macros.h"
+#include "platform/host/Host.h"
+#include "workspace/Workspace.h"
+
+namespace kinalyx {
+
+/// Where the edit bar's selection lies on the picture, in its pixels.
+struct SelectionMarks {
+  POINTAPI corner;    ///< of the box round it: top left
+  POINTAPI opposite;  ///< bottom right
+  POINTAPI pivot;     ///< the point about which it turns and scales
+
+  friend bool operator==(const SelectionMarks&, const SelectionMarks&) = default;
+};
+
+/// What the editing of drawings asks of the window that shows it.
+class IDrawingEditsView : public IEditBarView {
+ public:
+  /// What EnableHandle said last.
+  virtual bool HandleEnabled(int handle) = 0;
+  /// The handles on the picture of a window, none without marks, and what the bar says of the selection.
+  virtual void ShowSelection(int window, const std::optional<SelectionMarks>& marks, const std::string& words) = 0;
+  /// Asks for the name of a new macro beside a picture of it; empty or nothing: none is made.
+  virtual std::optional<std::string> AskMacroName(const ShapeList& drawing) = 0;
+  virtual void ShowMacroForm(bool shown) = 0;
+  /// Another list of macros; `selected` is -1 for none.
+  virtual void FillMacroList(const std::vector<std::string>& names, int selected) = 0;
+  virtual void ShowGridPanel(bool shown) = 0;
+  /// Asks for the window that gets a copy of the drawings of `source`.
+  virtual std::optional<int> AskCloneTarget(int source, const std::vector<int>& targets) = 0;
+};
+
+/// Everything that is done to drawings after they are drawn: the edit bar with its handles and keys,
+/// undo, macros, the size of the grid, and copies for other windows.
+class DrawingEdits {
+ public:
+  DrawingEdits(IHost& host, const Settings& settings, Workspace& workspace, DrawingTools& tools,
+               IDrawingWorkspace& drawing, IDrawingEditsView& view);
+
+  DrawingTools& Tools() { return tools_; }
+  const Macros& MacroList() const { return macros_; }
+  /// How shapes look on a preview.
+  ShapeLook Look() const { return {settings_.CadWidth, settings_.CadOutline, false}; }
+  int GridSize() const { return settings_.GridSize; }
+  /// There is a video in the current window.
+  bool HasVideo() const { return workspace_.HasVideo(workspace_.CurrentWindow); }
+
+  // --- edit bar
+  bool Editing() const { return bar_.Shown(); }
+  void MenuEdit_Click() { bar_.MenuEdit_Click(); }
+  void cmdEBBtn_Click(int Index) { bar_.cmdEBBtn_Click(Index); }
+  void ribEBBtn_Click(bool Value);
+  /// The left button on a handle of the bar, in twips of the handle, 15 to a pixel of the picture.
+  void cmdEBBtn_MouseDown(int Index, float X, float Y);
+  void cmdEBBtn_MouseMove(float X, float Y);
+  void cmdEBBtn_MouseUp();
+  /// The same on a handle that lies on the picture, in its pixels: the selection follows the mouse.
+  void HandlePressed(int Index, POINTAPI at);
+  void HandleDragged(POINTAPI at);
+  void HandleReleased() { cmdEBBtn_MouseUp(); }
+  bool Dragging() const { return dragged_ >= 0; }
+  /// Moves the selection by pixels.
+  void Nudge(int dx, int dy);
+  /// Shows the handles where the selection is now.
+  void ShowSelection();
+
+  // --- undo of the current window's drawings; not while one is dragged
+  bool CanUndo() const { return !Dragging() && tools_.CanUndo(workspace_.CurrentWindow); }
+  bool CanRedo() const { return !Dragging() && tools_.CanRedo(workspace_.CurrentWindow); }
+  void Undo();
+  void Redo();
+
+  // --- macros
+  void DTMacro_Click();
+  /// Opens the list of macros, or closes it.
+  void AddMacro_Click();
+  bool MacroFormShown() const { return macroFormShown_; }
+  /// Lays a macro over the current window, where all its shapes are edited as one.
+  void MacroBtn_Click(int Index);
+  void cmdInfo_Click(int Index);
+  /// Removes a macro after a question.
+  void SSCommand1_Click(int Index);
+
+  // --- grid and clone
+  void TAGrid_Click();
+  void GridSizeClose_Click();
+  bool GridPanelShown() const { return gridPanelShown_; }
+  bool GridOn() const { return tools_.Engine().ShapeLists(workspace_.CurrentWindow).GridOn; }
+  void ribShowGrid_MouseDown() { tools_.SetGridMode(!GridOn()); }
+  void HScroll3_Change(int Value) { tools_.SetGridSize(Value); }
+  void DTClone_Click();
+  /// There is something to copy, and another window of the layout with a video for it.
+  bool CanClone() const;
+
+  // --- keys
+  /// Ctrl+Z, Ctrl+Shift+Z and Ctrl+Y; and while the bar is up Tab, Delete, and Shift with an arrow.
+  /// Shift is 1, Ctrl 2. True when the key was one of these.
+  bool Form_KeyDown(int KeyCode, int Shift);
+  /// Leaves the edit, or closes a panel, the innermost first; false when there is nothing to leave.
+  bool Escape();
+
+  // --- from the workspace
+  void FocusChanged();
+  /// A window's picture has another size or place.
+  void PlayerResized(int slot);
+  void VideoClosing(int slot);
+  /// A window's frame was composed; its drawings may be other ones.
+  void FramePainted(int slot);
+  void CloseAll();
+
+ private:
+  void EndEdit();
+  ShapeList& List() { return tools_.List(workspace_.CurrentWindow); }
+  std::optional<SelectionMarks> Marks();
+  std::string SelectionWords();
+  std::pair<float, float> InHandle(int handle, POINTAPI at);
+  void LoadMacros();
+  std::vector<int> CloneTargets() const;
+  int WindowsOfLayout() const;
+
+  IHost& host_;
+  const Settings& settings_;
+  Workspace& workspace_;
+  DrawingTools& tools_;
+  IDrawingWorkspace& drawing_;
+  IDrawingEditsView& view_;
+  EditBar bar_;
+  Macros macros_;
+  int dragged_ = -1;      // the handle under the mouse, -1 none
+  POINTAPI grip_;         // where a handle on the picture was taken
+  POINTAPI gripPivot_;
+  bool macroFormShown_ = false;
+  bool gridPanelShown_ = false;
+};
+
+}  // namespace kinalyx

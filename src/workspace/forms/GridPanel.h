@@ -1,0 +1,38 @@
+#pragma once
+
+#include "workspace/DrawingEdits.h"
+#include "workspace/forms/FloatCard.h"
+
+class QLabel;
+class QPushButton;
+class QSlider;
+
+namespace kinalyx {
+
+/// `GridPanel`: how many squares of the grid go across the picture.
+class GridPanel : public FloatCard {
+  Q_OBJECT
+
+ public:
+  GridPanel(DrawingEdits& edits, QWidget* stage);
+
+  /// Shows the size that is set, and opens.
+  void Begin();
+  /// The current window or its grid is another one.
+  void Update();
+
+ protected:
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void ShowSize(int divisions);
+  void Dress();
+
+  DrawingEdits& edits_;
+  QWidget* content_ = nullptr;
+  QSlider* HScroll3_ = nullptr;
+  QLabel* size_ = nullptr;
+  QPushButton* show_ = nullptr;
+};
+
+}  // namespace kinalyx
