@@ -266,7 +266,8 @@ TEST_F(AnalysisFormTest, TimerAndRulerWorkOverTheStage) {
   QTest::mouseMove(player, {200, 50});
   QTest::mouseClick(player, Qt::LeftButton, {}, {200, 50});
   EXPECT_EQ(Find<QLabel>("Label4")->text(), "100pts");
-  QTest::keyClicks(Find<QLineEdit>("Text2"), "2.5");
+  EXPECT_EQ(form->focusWidget(), Find<QLineEdit>("Text2"));
+  QTest::keyClicks(form->focusWidget(), "2.5");
   Click("CalibBtn0");
   EXPECT_FALSE(Find<QWidget>("TransFrame5")->isVisible());
   EXPECT_EQ(settings->CalibNumber, 100);

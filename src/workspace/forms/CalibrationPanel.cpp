@@ -106,6 +106,8 @@ void CalibrationPanel::Begin() {
 void CalibrationPanel::SetLength(const QString& length) {
   length_->setText(length);
   Enable();
+  // The next thing that is wanted is a number, and its figures must not be taken for commands.
+  typed_->setFocus();
 }
 
 void CalibrationPanel::Enable() {
