@@ -231,6 +231,14 @@ TEST_F(AnalysisFormTest, NothingIsCutOffAtAnySize) {
       EXPECT_FALSE(OnForm(Find<QWidget>("LoopButton")).intersects(OnForm(Find<QWidget>("PlayBarDetachBtn"))))
           << size.width() << " " << layout;
     }
+    // Beside the open panel eight windows are narrow indeed.
+    Click("Openbtn");
+    QTest::qWait(0);
+    const QRect bar = OnForm(Find<QWidget>("Playbar"));
+    for (const char* name : {"CmdButton0", "CmdButton2", "LoopButton", "PlayBarHScroll", "DisplayPanel"})
+      EXPECT_TRUE(bar.contains(OnForm(Find<QWidget>(name)))) << name << " " << size.width();
+    EXPECT_GE(Find<QLabel>("DisplayPanel")->width(), Find<QLabel>("DisplayPanel")->sizeHint().width()) << size.width();
+    Click("CmdOpenVideo1");
     const QWidget* more = Find<QWidget>("MoreTools");
     for (const char* name : {"CmdMakeShape3", "StrobeBtn", "cmdDualPlay"})
       EXPECT_TRUE(Find<QWidget>(name)->isVisible() || more->isVisible()) << name;

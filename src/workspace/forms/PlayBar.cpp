@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "platform/widgets/Icons.h"
+#include "platform/widgets/Theme.h"
 #include "workspace/forms/StageLook.h"
 
 namespace kinalyx {
@@ -15,7 +16,8 @@ constexpr int kOneRowWidth = 892;
 constexpr int kMargin = 10;
 constexpr int kButton = 32;
 constexpr int kPlayWidth = 44;
-constexpr int kTinyWidth = 300;  // below it the buttons draw together
+constexpr int kTinyWidth = 300;      // below it the buttons draw together
+constexpr int kSmallestWidth = 232;  // and below this one even more
 constexpr int kCounter = 46;
 
 }  // namespace
@@ -86,6 +88,7 @@ void PlayBar::Dress() {
                  "#Playbar { background: @ground; border: none; }"
                  "#Playbar[floating=\"true\"] { background: @card; border: 1px solid @cardLine; border-radius: 8px; }"
                  "#Playbar QLabel { color: @ink; background: transparent; font-size: 13px; }"
+                 "#Playbar QLabel[small=\"true\"] { font-size: 11px; }"
                  "#Playbar #FrameCounter { color: @mark; }"
                  "#Playbar QToolButton { border: none; border-radius: 6px; background: transparent; color: @ink;"
                  "  padding: 0; }"
@@ -191,6 +194,8 @@ int PlayBar::ShowMarks(int room) {
 
 /// One row: buttons, the line of the film, marks, counter, words.
 void PlayBar::ArrangeWide() {
+  SetSmallWords(false);
+  detach_->show();
   SizeButtons(kButton, kPlayWidth);
   const int buttonsWidth = buttons_->sizeHint().width();
   const int lineWidth = FiguresWidth(line_->fontMetrics(), "888.88 seconds | 8888/8888 frames");
@@ -213,34 +218,43 @@ void PlayBar::ArrangeWide() {
   seek_->setGeometry(start, y - 12, std::max(40, end - start - 6), 24);
 }
 
-/// Two rows: the line of the film with its marks above, the buttons and the words below. In the smallest
-/// windows the words take a row of their own.
+/// Two rows: the line of the film with its marks above, the buttons and the words below. In small windows
+/// the words take a row of their own, and in the smallest the bar cannot be undocked.
 void PlayBar::ArrangeNarrow() {
+  const bool smallest = width() < kSmallestWidth;
   const bool tiny = width() < kTinyWidth;
-  SizeButtons(tiny ? 30 : kButton, tiny ? 36 : kPlayWidth);
+  SizeButtons(smallest ? 24 : tiny ? 30 : kButton, smallest ? 30 : tiny ? 36 : kPlayWidth);
   const int buttonsWidth = buttons_->sizeHint().width();
-  const int words = FiguresWidth(line_->fontMetrics(), "88.88 seconds | 888/888 frames");
+  const int words = FiguresWidth(QFontMetrics(UiFont(kTextPixels)), "88.88 seconds | 888/888 frames");
   const int left = kMargin - 6 + buttonsWidth + 4;
   int end = width() - kMargin - detach_->width();
   const bool own = end - left < words;
-  const int side = own ? 30 : kButton;
   const int y = own ? 36 : 24 + (height() - 24) / 2;  // middle of the buttons
   seek_->setGeometry(kMargin - 2, own ? 0 : 2, width() - 2 * kMargin + 4, 22);
-  buttons_->setGeometry(kMargin - 6, y - side / 2, buttonsWidth, side);
+  buttons_->setGeometry(kMargin - 6, y - kButton / 2, buttonsWidth, kButton);
+  detach_->setVisible(!smallest);
   detach_->move(width() - kMargin - detach_->width() + 4, y - detach_->height() / 2);
-  line_->show();
+  SetSmallWords(own && width() < kTinyWidth);
   if (own) {
-    line_->setGeometry(kMargin, height() - 22, width() - 2 * kMargin, 18);
+    line_->setGeometry(4, height() - 20, width() - 8, 18);
   } else {
     line_->setGeometry(end - words - 4, y - 12, words, 24);
     end = line_->x();
   }
+  line_->show();
   counter_->setVisible(!counter_->text().isEmpty() && end - left >= kCounter);
   if (!counter_->isHidden()) {
     counter_->setGeometry(end - kCounter, y - 12, kCounter, 24);
     end -= kCounter;
   }
   markBox_->setGeometry(left, y - 11, ShowMarks(end - left - 4), 22);
+}
+
+void PlayBar::SetSmallWords(bool on) {
+  if (line_->property("small").toBool() == on) return;
+  line_->setProperty("small", on);
+  line_->style()->unpolish(line_);
+  line_->style()->polish(line_);
 }
 
 void PlayBar::ToggleDock() {

@@ -47,6 +47,7 @@ class PlayBar : public QFrame {
   QToolButton* Button(const char* name, const QString& tip);
   void Arrange();
   int ShowMarks(int room);
+  void SetSmallWords(bool on);
   void SizeButtons(int side, int playWidth);
   void ArrangeWide();
   void ArrangeNarrow();
