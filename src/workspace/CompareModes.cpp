@@ -21,7 +21,10 @@ CompareModes::CompareModes(IHost& host, Settings& settings, PlayScheduler& sched
     ShowDual();
     if (LocksChanged) LocksChanged();
   };
-  overlay_.Switched = [this] { ShowDual(); };
+  overlay_.Switched = [this] {
+    if (TransparencySwitched) TransparencySwitched(overlay_.TransparencyOn());
+    ShowDual();
+  };
 }
 
 // ---------------------------------------------------------------- windows
@@ -32,9 +35,9 @@ void CompareModes::TZP_Click() {
 }
 
 void CompareModes::TASF_Click() {
-  const bool shown = !StrobeShown();
-  view_.ShowStrobeForm(shown);
-  if (!shown) strobe_.SetWindow(nullptr);
+  strobeShown_ = !strobeShown_;
+  view_.ShowStrobeForm(strobeShown_);
+  if (!strobeShown_) strobe_.SetWindow(nullptr);
 }
 
 bool CompareModes::Escape() {

@@ -63,7 +63,7 @@ class CompareModes {
   void TZP_Click();
   void TASF_Click();
   bool ZoomShown() const { return zoomShown_; }
-  bool StrobeShown() const { return strobe_.StrobeWindowOpen(); }
+  bool StrobeShown() const { return strobeShown_; }
 
   /// Leaves the mode that is up, the innermost first; false when there is none.
   bool Escape();
@@ -87,6 +87,8 @@ class CompareModes {
 
   /// A lock was made or ended or its play began or ended: bars and buttons of the transport are set anew.
   std::function<void()> LocksChanged;
+  /// Transparency mode was entered or left: while it is up, the play bar is beneath the mix.
+  std::function<void(bool on)> TransparencySwitched;
 
  private:
   Workspace& workspace_;
@@ -98,6 +100,7 @@ class CompareModes {
   StrobeControl strobe_;
   ZoomPan zoom_;
   bool zoomShown_ = false;
+  bool strobeShown_ = false;
 };
 
 }  // namespace kinalyx

@@ -25,7 +25,7 @@ CarvePanel::CarvePanel(Carve& carve, QWidget* parent)
   rows->setSpacing(8);
   hint_ = MakeLabel("CarveHint", {}, nullptr, content_);
   hint_->setWordWrap(true);
-  hint_->setFixedWidth(250);
+  hint_->setFixedSize(250, 2 * hint_->fontMetrics().lineSpacing() + 4);
   rows->addWidget(hint_);
   auto* scale = new QHBoxLayout;
   scale->setSpacing(8);
@@ -43,6 +43,18 @@ CarvePanel::CarvePanel(Carve& carve, QWidget* parent)
   percent_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   scale->addWidget(percent_);
   rows->addLayout(scale);
+  auto* shine = new QHBoxLayout;
+  shine->setSpacing(8);
+  shine->addWidget(MakeLabel("CarveOpacityLabel", tr("Opacity"), nullptr, content_));
+  opacity_ = new QSlider(Qt::Horizontal, content_);
+  opacity_->setObjectName("CarveOpacity");
+  opacity_->setRange(15, 100);
+  opacity_->setValue(100);
+  opacity_->setAccessibleName(tr("Opacity of the piece"));
+  opacity_->setToolTip(tr("How much of the piece is seen over the video beneath"));
+  opacity_->setFocusPolicy(Qt::TabFocus);
+  shine->addWidget(opacity_, 1);
+  rows->addLayout(shine);
   anew_ = new QPushButton(tr("Cut Another Part"), content_);
   anew_->setObjectName("CarveAnewBtn");
   anew_->setToolTip(tr("Marks another area of the same video"));
@@ -53,26 +65,27 @@ CarvePanel::CarvePanel(Carve& carve, QWidget* parent)
     percent_->setText(QString("%1 %").arg(percent));
     carve_.CScroll_Change(percent);
   });
+  connect(opacity_, &QSlider::valueChanged, this, [this](int percent) { emit OpacityChanged(percent / 100.0); });
   connect(anew_, &QPushButton::clicked, this, [this] { carve_.MarkAnew(); });
   connect(this, &FloatCard::CloseWanted, this, [this] { carve_.TTCarve(); });
   Dress();
 }
 
-void CarvePanel::SetShown(bool shown) {
-  if (!shown) return hide();
+void CarvePanel::Begin() {
   {
     const QSignalBlocker quiet(CScroll_);
     CScroll_->setValue(carve_.CScroll());
   }
   percent_->setText(QString("%1 %").arg(carve_.CScroll()));
+  opacity_->setValue(100);
   SetFloating(false);
-  Open();
 }
 
 void CarvePanel::SetFloating(bool floating) {
   hint_->setText(floating ? tr("Drag the piece to where you want it.")
                           : tr("Drag the mouse over the part of the video that you want to cut out."));
   CScroll_->setEnabled(floating);
+  opacity_->setEnabled(floating);
   anew_->setEnabled(floating);
 }
 
@@ -161,9 +174,17 @@ void CarvePiece::ShowAt(const Surface& piece, POINTAPI corner) {
   raise();
 }
 
-void CarvePiece::paintEvent(QPaintEvent* event) {
-  SurfaceView::paintEvent(event);
+void CarvePiece::SetOpacity(double opacity) {
+  opacity_ = opacity;
+  setAttribute(Qt::WA_OpaquePaintEvent, opacity >= 1);
+  update();
+}
+
+void CarvePiece::paintEvent(QPaintEvent*) {
   QPainter painter(this);
+  painter.setOpacity(opacity_);
+  if (!Picture().isNull()) painter.drawImage(0, 0, Picture());
+  painter.setOpacity(1);
   painter.setPen(QPen(StageLook::Current().accent, 2));
   painter.drawRect(QRectF(rect()).adjusted(1, 1, -1, -1));
 }

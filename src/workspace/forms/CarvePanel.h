@@ -17,9 +17,14 @@ class CarvePanel : public FloatCard {
  public:
   CarvePanel(Carve& carve, QWidget* parent);
 
-  void SetShown(bool shown);
+  /// Prepares it for another carve; whoever shows it gives it its place.
+  void Begin();
   /// The piece floats, or an area is waited for.
   void SetFloating(bool floating);
+
+ signals:
+  /// How much of the piece is seen, 0 to 1.
+  void OpacityChanged(double opacity);
 
  protected:
   void changeEvent(QEvent* event) override;
@@ -32,6 +37,7 @@ class CarvePanel : public FloatCard {
   QLabel* hint_;
   QSlider* CScroll_;
   QLabel* percent_;
+  QSlider* opacity_;
   QPushButton* anew_;
 };
 
@@ -72,6 +78,8 @@ class CarvePiece : public SurfaceView {
   CarvePiece(Carve& carve, QWidget* stage);
 
   void ShowAt(const Surface& piece, POINTAPI corner);
+  /// 0 to 1; what is beneath shines through.
+  void SetOpacity(double opacity);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -83,6 +91,7 @@ class CarvePiece : public SurfaceView {
   POINTAPI StagePoint(const QMouseEvent& event) const;
 
   Carve& carve_;
+  double opacity_ = 1;
 };
 
 }  // namespace kinalyx

@@ -18,6 +18,8 @@ namespace kinalyx {
 namespace {
 
 constexpr int kNotch = 120;  // eighths of a degree that one notch of a wheel turns
+constexpr int kEdge = 14;    // between a card and the edge of the stage
+constexpr const char* kPlace = "place";  // property: where the user left a card
 
 /// "swing strobe.png" beside the video.
 QString SuggestedName(const std::string& video, const QString& what) {
@@ -66,6 +68,7 @@ void CompareForms::Build(CompareModes& modes, Workspace& workspace, QWidget* sta
   CarvePic_ = new CarveCanvas(modes.Piece(), workspace, stage);
   picRot_ = new CarvePiece(modes.Piece(), stage);
   carve_ = new CarvePanel(modes.Piece(), stage);
+  connect(carve_, &CarvePanel::OpacityChanged, picRot_, &CarvePiece::SetOpacity);
   strobe_ = new StrobeForm(
       modes.Strobe(),
       [this] {
@@ -157,6 +160,20 @@ bool CompareForms::DragMix(QEvent& event) {
 
 void CompareForms::UpdateFoot() { foot_->setVisible(!TransFrame_->isHidden() || !dual_->isHidden()); }
 
+void CompareForms::ShowCard(FloatCard& card, bool right, bool bottom) {
+  const QVariant place = card.property(kPlace);
+  card.Open();
+  card.move(place.isValid() ? place.toPoint()
+                            : QPoint(right ? stage_->width() - card.width() - kEdge : kEdge,
+                                     bottom ? stage_->height() - card.height() - kEdge : kEdge));
+  card.KeepInside();
+}
+
+void CompareForms::HideCard(FloatCard& card) {
+  if (!card.isHidden()) card.setProperty(kPlace, card.pos());
+  card.hide();
+}
+
 // ---------------------------------------------------------------- transparency
 
 void CompareForms::ShowTransparency(bool shown) {
@@ -206,7 +223,10 @@ void CompareForms::PresentStrip(const Surface& strip, int pictures) {
 }
 
 void CompareForms::ShowCarve(bool shown) {
-  if (carve_) carve_->SetShown(shown);
+  if (!carve_) return;
+  if (!shown) return HideCard(*carve_);
+  carve_->Begin();
+  ShowCard(*carve_, true, false);
 }
 
 void CompareForms::ShowCarvePic(int slot, bool shown) {
@@ -222,7 +242,10 @@ void CompareForms::ShowMark(int left, int top, int width, int height) {
 }
 
 void CompareForms::ShowPiece(const Surface& piece, POINTAPI corner) {
-  if (picRot_) picRot_->ShowAt(piece, corner);
+  if (!picRot_) return;
+  const bool wasHidden = picRot_->isHidden();
+  picRot_->ShowAt(piece, corner);
+  if (wasHidden) carve_->raise();
 }
 
 // ---------------------------------------------------------------- lock, zoom and strobe
@@ -237,11 +260,14 @@ void CompareForms::ShowDual(const DualState& state) {
 
 void CompareForms::ShowZoomForm(bool shown) {
   if (!zoom_) return;
-  shown ? zoom_->Open() : zoom_->hide();
+  shown ? ShowCard(*zoom_, true, false) : HideCard(*zoom_);
 }
 
 void CompareForms::ShowStrobeForm(bool shown) {
-  if (strobe_) strobe_->SetShown(shown);
+  if (!strobe_) return;
+  if (!shown) return HideCard(*strobe_);
+  strobe_->Begin();
+  ShowCard(*strobe_, true, true);
 }
 
 }  // namespace kinalyx

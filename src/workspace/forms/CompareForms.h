@@ -6,6 +6,7 @@
 #include "platform/host/Host.h"
 #include "workspace/CompareModes.h"
 
+class QWheelEvent;
 class QWidget;
 
 namespace kinalyx {
@@ -14,6 +15,7 @@ class CarveCanvas;
 class CarvePanel;
 class CarvePiece;
 class DualBar;
+class FloatCard;
 class MultiPicturePanel;
 class StrobeForm;
 class SurfaceView;
@@ -47,9 +49,12 @@ class CompareForms : public QObject, public ICompareView {
  private:
   void PlaceOnStage();
   void SavePicture(int slot, const QString& what, const std::function<ImageResult(const std::string&)>& save);
-  bool Wheel(QWidget* over, class QWheelEvent& event);
+  bool Wheel(QWidget* over, QWheelEvent& event);
   bool DragMix(QEvent& event);
   void UpdateFoot();
+  /// Shows a card where the user left it, at first in the corner of the stage that `right` and `bottom` name.
+  void ShowCard(FloatCard& card, bool right, bool bottom);
+  void HideCard(FloatCard& card);
 
   // --- IOverlayView
   void ShowTransparency(bool shown) override;

@@ -15,7 +15,7 @@
 namespace kinalyx {
 namespace {
 
-constexpr int kControls = 232;  // width of the buttons beside the strip
+constexpr int kControls = 246;  // width of the buttons beside the strip
 constexpr int kMargin = 8;
 constexpr int kSkips[] = {1, 2, 3, 4, 5, 6, 8, 10, 15, 20, 30};
 

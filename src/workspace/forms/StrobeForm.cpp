@@ -70,14 +70,12 @@ StrobeForm::~StrobeForm() {
   if (strobe_.StrobeWindowOpen()) strobe_.SetWindow(nullptr);
 }
 
-void StrobeForm::SetShown(bool shown) {
-  if (!shown) return hide();
+void StrobeForm::Begin() {
   {
     const QSignalBlocker quiet(Combo1_);
     Combo1_->setCurrentIndex(strobe_.StrobeStep() - 1);
   }
   strobe_.SetWindow(this);
-  Open();
 }
 
 void StrobeForm::SetCaption(StrobeButton button, const std::string& caption) {

@@ -21,7 +21,8 @@ class StrobeForm : public FloatCard, private IStrobeView {
   StrobeForm(StrobeControl& strobe, std::function<void()> save, QWidget* parent);
   ~StrobeForm() override;
 
-  void SetShown(bool shown);
+  /// Hands itself to the strobe and shows its choices; whoever shows it gives it its place.
+  void Begin();
 
  protected:
   void changeEvent(QEvent* event) override;

@@ -6,7 +6,7 @@
 #include "workspace/Overlay.h"
 #include "workspace/forms/StageParts.h"
 
-class QButtonGroup;
+class QHBoxLayout;
 class QPushButton;
 class QSlider;
 
@@ -38,7 +38,7 @@ class TransFrame : public QFrame {
     BoundedSeekBar* scroll = nullptr;
   };
 
-  void MakeVideo(int window, class QHBoxLayout* row);
+  void MakeVideo(int window, QHBoxLayout* row);
   void Dress();
   Video& Of(int window) { return videos_[static_cast<std::size_t>(window - 1)]; }
 

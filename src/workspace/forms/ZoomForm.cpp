@@ -26,7 +26,7 @@ ZoomForm::ZoomForm(ZoomPan& zoom, QWidget* parent) : FloatCard("ZoomForm", tr("Z
                         {"chevron-right", tr("Pan right (keypad 6); hold to go on"), 1, 2},
                         {"chevron-down", tr("Pan down (keypad 2); hold to go on"), 2, 1},
                         {"chevron-left", tr("Pan left (keypad 4); hold to go on"), 1, 0},
-                        {"move", tr("Back to the centre at full size (keypad 5)"), 1, 1}};
+                        {"pan", tr("Back to the centre at full size (keypad 5)"), 1, 1}};
   for (int i = 0; i < 5; ++i) {
     QToolButton* pan = StageButton(QString("PanBtn%1").arg(i), pans[i].icon, pans[i].tip, content_);
     pan->setFixedSize(36, 36);

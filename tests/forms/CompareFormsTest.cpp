@@ -1,0 +1,244 @@
+#include "workspace/forms/CompareForms.h"
+
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QSlider>
+#include <QTest>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+#include <filesystem>
+
+#include "FormsSupport.h"
+#include "workspace/CompareStage.h"
+#include "workspace/forms/StageParts.h"
+
+namespace kinalyx {
+namespace {
+
+using test::CompareStage;
+using test::RawVideo;
+using test::TestPath;
+
+/// The windows of the modes on a stage of 1200 by 600, driven by their names.
+class CompareFormsTest : public testing::Test, test::UsesApplication {
+ protected:
+  void SetUp() override {
+    window_.resize(1200, 700);
+    auto* rows = new QVBoxLayout(&window_);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(0);
+    stageWidget_ = new QWidget(&window_);
+    rows->addWidget(stageWidget_, 1);
+    forms_.Build(modes_, stage_.workspace, stageWidget_);
+    rows->addWidget(forms_.Foot());
+    window_.show();
+    stage_.signalled = [this](int slot) { modes_.Signal(slot); };
+    stage_.closing = [this](int slot) { modes_.VideoClosing(slot); };
+    stage_.stateChanged = [this] { modes_.StateChanged(); };
+    stage_.workspace.FocusChanged = [this] { modes_.FocusChanged(); };
+    ASSERT_TRUE(stage_.Open(1, RawVideo(40), 10));
+    ASSERT_TRUE(stage_.Open(2, RawVideo(40), 15));
+    Settle();
+  }
+  void Settle() {
+    QCoreApplication::processEvents();
+    stage_.host.Advance(0);
+    QCoreApplication::processEvents();
+  }
+  template <typename T>
+  T* Find(const char* name) {
+    T* found = window_.findChild<T*>(name);
+    EXPECT_TRUE(found) << name;
+    return found;
+  }
+  void Click(const char* name) {
+    auto* button = Find<QAbstractButton>(name);
+    EXPECT_TRUE(button->isEnabled()) << name;
+    QTest::mouseClick(button, Qt::LeftButton);
+    Settle();
+  }
+  bool Seen(const char* name) { return Find<QWidget>(name)->isVisible(); }
+
+  CompareStage stage_{"2"};
+  QWidget window_;
+  QWidget* stageWidget_ = nullptr;
+  CompareForms forms_{stage_.host};
+  std::vector<int> keys_;
+  CompareModes modes_{stage_.host, stage_.settings, stage_.scheduler, stage_.workspace, forms_,
+                      {[this](int key) { keys_.push_back(key); }, [this](int key) { keys_.push_back(-key); }}};
+};
+
+TEST_F(CompareFormsTest, LockedVideosMoveFromTheirBar) {
+  EXPECT_FALSE(Seen("DualFrame"));
+  ASSERT_TRUE(modes_.Locks().cmdDualPlay());
+  Settle();
+  EXPECT_TRUE(Seen("DualFrame"));
+  Click("DualControl1");
+  EXPECT_EQ(stage_.At(1), 11);
+  EXPECT_EQ(stage_.At(2), 16);
+  Click("DualControl0");
+  Click("DualControl0");
+  EXPECT_EQ(Find<QLabel>("DualLine")->text(), "9 + 14");
+  Click("DualControl2");
+  EXPECT_EQ(stage_.At(2), 5);
+  Find<QComboBox>("DualSpeed")->setCurrentIndex(2);
+  EXPECT_EQ(modes_.Locks().TogetherSpeed(), 25);
+  Click("DualPlayBtn");
+  stage_.host.Advance(1000);
+  EXPECT_EQ(stage_.At(2) - stage_.At(1), 5);
+  EXPECT_NEAR(stage_.At(1), 7, 1);
+  Click("DualPlayBtn");
+  EXPECT_FALSE(modes_.Locks().PlayingTogether());
+  auto* bar = Find<SeekBar>("DualScroll");
+  QTest::mouseClick(bar, Qt::LeftButton, {}, QPoint(bar->width() - 2, bar->height() / 2));
+  EXPECT_EQ(stage_.At(1), 33);
+  EXPECT_EQ(stage_.At(2), 38);
+  Click("DualLockBtn");
+  EXPECT_FALSE(Seen("DualFrame"));
+}
+
+TEST_F(CompareFormsTest, TransparencyIsMixedFromItsPanel) {
+  modes_.Transparency().STM_Click();
+  Settle();
+  ASSERT_TRUE(Seen("TransFrame") && Seen("TransPanel") && Seen("DualFrame"));
+  auto* mix = Find<QSlider>("TransScroll");
+  EXPECT_EQ(mix->value(), 128);
+  mix->setValue(0);
+  Settle();
+  EXPECT_TRUE(Find<QPushButton>("OptShow2")->isChecked());
+  Click("OptShow3");
+  stage_.host.Advance(2000);
+  EXPECT_EQ(mix->value(), 255);
+  EXPECT_TRUE(Find<QPushButton>("OptShow3")->isChecked());
+  Click("OptShow1");
+  EXPECT_FALSE(mix->isEnabled());
+  EXPECT_EQ(modes_.Transparency().Shown(), ShowOption::SplitScreen);
+  Click("OptShow0");
+  stage_.host.Advance(2000);
+  EXPECT_EQ(mix->value(), 128);
+
+  Click("VidCtlBtn3");
+  EXPECT_EQ(stage_.At(1), 11);
+  Click("VidCtlBtn2_4");
+  EXPECT_TRUE(stage_.MP(2).IsPlaying());
+  EXPECT_TRUE(Find<QToolButton>("VidCtlBtn2_4")->isChecked());
+  Click("VidCtlBtn2_2");
+  EXPECT_FALSE(stage_.MP(2).IsPlaying());
+  auto* bar = Find<SeekBar>("HScroll1");
+  QTest::mouseClick(bar, Qt::LeftButton, {}, QPoint(1, bar->height() / 2));
+  EXPECT_EQ(stage_.At(1), 0);
+
+  // The wheel zooms the chosen video in the mix.
+  Click("SelectVid2");
+  EXPECT_EQ(stage_.workspace.CurrentWindow, 2);
+  auto* panel = Find<QWidget>("TransPanel");
+  QWheelEvent wheel(QPointF(600, 200), panel->mapToGlobal(QPointF(600, 200)), {}, {0, 120}, {}, {}, Qt::NoScrollPhase,
+                    false);
+  QCoreApplication::sendEvent(panel, &wheel);
+  EXPECT_DOUBLE_EQ(stage_.workspace.At(2).VideoZoom, 1.1);
+  EXPECT_DOUBLE_EQ(stage_.workspace.At(1).VideoZoom, 1.0);
+  Click("Closetrans");
+  EXPECT_FALSE(Seen("TransFrame") || Seen("TransPanel") || Seen("DualFrame"));
+}
+
+TEST_F(CompareFormsTest, WheelZoomsTheVideoUnderThePointer) {
+  QWheelEvent wheel(QPointF(900, 200), stageWidget_->mapToGlobal(QPointF(900, 200)), {}, {0, -240}, {}, {},
+                    Qt::NoScrollPhase, false);
+  QCoreApplication::sendEvent(stageWidget_, &wheel);
+  EXPECT_DOUBLE_EQ(stage_.workspace.At(2).VideoZoom, 0.8);
+  EXPECT_EQ(stage_.workspace.CurrentWindow, 1);
+}
+
+TEST_F(CompareFormsTest, StrobeWindowStartsStopsAndSaves) {
+  modes_.TASF_Click();
+  ASSERT_TRUE(Seen("StrobeForm"));
+  auto* strobe = Find<QPushButton>("SSCommand1_2");
+  auto* save = Find<QPushButton>("SaveStrobeBtn");
+  EXPECT_FALSE(save->isEnabled());
+  Click("SSCommand1_0");
+  EXPECT_EQ(Find<QPushButton>("SSCommand1_0")->text(), "Start at 10");
+  Click("SSCommand1_2");
+  EXPECT_EQ(strobe->text(), "Stop");
+  stage_.host.Advance(60'000);
+  EXPECT_EQ(strobe->text(), "Strobe");
+  ASSERT_TRUE(save->isEnabled());
+  QString suggested;
+  const std::string path = TestPath("kept strobe.png");
+  forms_.askPicture = [&](const QString& suggestion) {
+    suggested = suggestion;
+    return QString::fromStdString(path);
+  };
+  Click("SaveStrobeBtn");
+  EXPECT_TRUE(suggested.endsWith(" strobe.png"));
+  EXPECT_TRUE(std::filesystem::exists(path));
+  forms_.askPicture = [](const QString&) { return QString("/nowhere at all/strobe.png"); };
+  Click("SaveStrobeBtn");
+  EXPECT_EQ(stage_.host.messages.size(), 1u);
+  Click("StrobeFormClose");
+  EXPECT_FALSE(modes_.StrobeShown());
+}
+
+TEST_F(CompareFormsTest, CarveIsMarkedDraggedAndScaled) {
+  modes_.Piece().TTCarve();
+  Settle();
+  auto* canvas = Find<QWidget>("CarvePic");
+  ASSERT_TRUE(canvas->isVisible() && Seen("CarvePanel"));
+  EXPECT_FALSE(Find<QSlider>("CScroll")->isEnabled());
+  QTest::mousePress(canvas, Qt::LeftButton, {}, QPoint(100, 100));
+  QTest::mouseMove(canvas, QPoint(150, 150));
+  QTest::mouseRelease(canvas, Qt::LeftButton, {}, QPoint(220, 190));
+  Settle();
+  EXPECT_FALSE(canvas->isVisible());
+  auto* piece = Find<QWidget>("picRot");
+  ASSERT_TRUE(piece->isVisible());
+  EXPECT_EQ(piece->size(), QSize(120, 90));
+  Find<QSlider>("CScroll")->setValue(50);
+  EXPECT_EQ(piece->size(), QSize(60, 45));
+  const QPoint before = piece->pos();
+  QTest::mousePress(piece, Qt::LeftButton, {}, QPoint(10, 10));
+  QMouseEvent move(QEvent::MouseMove, QPointF(40, 30), piece->mapToGlobal(QPointF(40, 30)), Qt::LeftButton,
+                   Qt::LeftButton, {});
+  QCoreApplication::sendEvent(piece, &move);
+  QTest::mouseRelease(piece, Qt::LeftButton, {}, QPoint(10, 10));
+  EXPECT_EQ(piece->pos() - before, QPoint(30, 20));
+  Click("CarveAnewBtn");
+  EXPECT_TRUE(canvas->isVisible());
+  Click("CarvePanelClose");
+  EXPECT_FALSE(modes_.Piece().Shown());
+  EXPECT_FALSE(canvas->isVisible() || piece->isVisible());
+}
+
+TEST_F(CompareFormsTest, StripAndZoomButtonsReachTheirModes) {
+  modes_.Strip().smbar_Click();
+  Settle();
+  ASSERT_TRUE(Seen("MFPanel"));
+  Find<QComboBox>("SkipBox")->setCurrentText("2");
+  EXPECT_EQ(modes_.Strip().Skip(), 2);
+  Click("MPicBtn0");
+  EXPECT_TRUE(modes_.Strip().WaitingForSquare());
+  forms_.askPicture = [](const QString&) { return QString::fromStdString(TestPath("strip.jpg")); };
+  Click("SaveStripBtn");
+  EXPECT_TRUE(std::filesystem::exists(TestPath("strip.jpg")));
+  Click("MPicBtn1");
+  EXPECT_FALSE(Seen("MFPanel"));
+
+  modes_.TZP_Click();
+  for (const char* name : {"ZoomBtn0", "ZoomBtn1", "ZoomBtn2", "PanBtn0", "PanBtn1", "PanBtn2", "PanBtn3", "PanBtn4"})
+    Click(name);
+  EXPECT_EQ(keys_, (std::vector{-'-', -'+', 101, 104, 102, 98, 100, 101}));
+  QTest::mousePress(Find<QToolButton>("PanBtn1"), Qt::LeftButton);
+  stage_.host.Advance(1000);
+  EXPECT_GT(keys_.size(), 15u);
+  Click("ZoomFormClose");
+  EXPECT_FALSE(modes_.ZoomShown());
+  const std::size_t held = keys_.size();
+  stage_.host.Advance(1000);
+  EXPECT_EQ(keys_.size(), held);  // the form took its held button with it
+}
+
+}  // namespace
+}  // namespace kinalyx
