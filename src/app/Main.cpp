@@ -147,8 +147,15 @@ void Main::SetFullScreen(bool on) {
 }
 
 void Main::closeEvent(QCloseEvent* event) {
-  if (closing) std::exchange(closing, nullptr)();
-  event->accept();
+  // Whoever is asked may let events run, and with them the wish to close once more.
+  const auto ask = std::exchange(closing, nullptr);
+  if (closed_ || !ask) {
+    event->setAccepted(closed_);
+    return;
+  }
+  closed_ = ask();
+  closing = ask;
+  event->setAccepted(closed_);
 }
 
 }  // namespace kinalyx

@@ -53,8 +53,10 @@ class Main : public QWidget {
   /// With nothing around the window, the heading carries buttons that put it away and close it.
   void SetFullScreen(bool on);
 
-  /// Asked before the window closes, however that was begun; the window goes when it has returned.
-  std::function<void()> closing;
+  /// Asked before the window closes, however that was begun. With true the window goes and asks no more;
+  /// with false it stays.
+  std::function<bool()> closing;
+  bool Closed() const { return closed_; }
 
  signals:
   void PageWanted(int index);
@@ -74,6 +76,7 @@ class Main : public QWidget {
   std::array<TileButton*, 9> sections_{};
   std::array<QWidget*, kPageCount> pages_{};
   int current_ = -1;
+  bool closed_ = false;
 };
 
 }  // namespace kinalyx

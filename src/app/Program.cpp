@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QScreen>
+#include <utility>
 
 #include "app/Main.h"
 #include "core/StartUp.h"
@@ -54,7 +55,7 @@ int Program::Run() {
            .showFirstForm = [this] { ShowFirstForm(); },
            .closeSplash = [this] { splash_.reset(); }});
   // The main form may have been closed already, from within the first form.
-  const int result = main_->closing ? application_.exec() : 0;
+  const int result = main_->Closed() ? 0 : application_.exec();
   main_.reset();
   if (RestartFlag_) host_->StartDetached(QCoreApplication::applicationFilePath().toStdString(), {});
   return result;
@@ -67,7 +68,7 @@ void Program::DressApplication() { ApplyTheme(application_, Theme::FromSlots(sch
 void Program::LoadMain() {
   fields_.SetupFields();
   main_ = std::make_unique<Main>();
-  main_->closing = [this] { Shutdown(); };
+  main_->closing = [this] { return Shutdown(); };
   QObject::connect(main_.get(), &Main::PageWanted, [this](int index) { OpenPage(index); });
 
   menu_ = new MenuPage(*host_, settings_);
@@ -197,18 +198,24 @@ std::string Program::SendToAnalysis(const std::string& path) { return Analysis()
 
 // ---------------------------------------------------------------- the end
 
-void Program::Shutdown() {
+/// False when the user would rather stay than lose what could not be saved; a wish to restart ends with it.
+bool Program::Shutdown() {
+  const bool restart = std::exchange(RestartFlag_, false);
+  if (analysis_ && !analysis_->CloseAll()) return false;
+  if (!profiles_->Leave() &&
+      !host_->Question("", "The notes could not be saved. Do you want to close Kinalyx all the same?"))
+    return false;
+  RestartFlag_ = restart;
   main_->setUpdatesEnabled(false);
   if (analysis_) {
-    analysis_->CloseAll();
-    main_->DropPage(kAnalysisPage);
     analysis_ = nullptr;
+    main_->DropPage(kAnalysisPage);
     host_->DoEvents();
   }
-  profiles_->Leave();
   const QRect place = main_->frameGeometry();
   settings_.StoreWindowPlace(place.top() * kTwipsOfPixel, place.left() * kTwipsOfPixel, place.width() * kTwipsOfPixel,
                              place.height() * kTwipsOfPixel);
+  return true;
 }
 
 }  // namespace kinalyx

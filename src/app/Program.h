@@ -50,7 +50,7 @@ class Program {
   AnalysisForm& Analysis();
   void LeaveAnalysis();
   std::string SendToAnalysis(const std::string& path);
-  void Shutdown();
+  bool Shutdown();
 
   QApplication& application_;
   std::unique_ptr<IHost> host_;
