@@ -151,6 +151,14 @@ void Carve::Signal(int slot) {
   CarveTimer_ = HostTimer(host_, 0, false, [this] { CarveTimer_Timer(); });
 }
 
+void Carve::PlayerResized(int slot) {
+  if (slot == slot_ && !Floating()) {
+    markFrom_.reset();
+    view_.ShowCarvePic(slot_, true);  // the canvas follows
+  }
+  Signal(slot);
+}
+
 /// Keeps the piece up to date, once for everything that one turn of the event loop has changed.
 void Carve::CarveTimer_Timer() { CmdDisCarve(); }
 

@@ -64,7 +64,8 @@ class Carve {
 
   // --- from the players and the workspace
   void Signal(int slot);
-  void PlayerResized(int slot) { Signal(slot); }
+  /// The picture of a slot has another size, or another place.
+  void PlayerResized(int slot);
   void VideoClosing(int slot);
   /// A video was moved without a word from its player.
   void MPManualSignal() { CmdDisCarve(); }

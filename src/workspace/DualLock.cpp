@@ -318,7 +318,13 @@ bool LockedVideos::setTogetherSpeed(int percent) {
   if (percent < 1 || percent > kFastest) return false;
   speed_ = percent;
   if (run_->Running()) run_->SetInterval(PositionTime(workspace_.MP(run_->Slots().front())) * 100 / speed_);
+  Tell();
   return true;
+}
+
+void LockedVideos::setTogetherRepeat(bool on) {
+  repeat_ = on;
+  Tell();
 }
 
 }  // namespace kinalyx

@@ -81,7 +81,7 @@ class LockedVideos {
   bool setTogetherSpeed(int percent);
   int TogetherSpeed() const { return speed_; }
   /// Begins anew at the end, until it is stopped.
-  void setTogetherRepeat(bool on) { repeat_ = on; }
+  void setTogetherRepeat(bool on);
   bool TogetherRepeat() const { return repeat_; }
 
   // --- from the workspace

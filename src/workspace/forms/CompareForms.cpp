@@ -12,6 +12,7 @@
 #include "workspace/forms/MultiPicturePanel.h"
 #include "workspace/forms/StrobeForm.h"
 #include "workspace/forms/TransFrame.h"
+#include "workspace/forms/VideoCell.h"
 #include "workspace/forms/ZoomForm.h"
 
 namespace kinalyx {
@@ -121,6 +122,10 @@ bool CompareForms::Wheel(QWidget* over, QWheelEvent& event) {
     if (!workspace_->HasVideo(slot)) return true;
     corner = modes_->Transparency().PictureCorner(slot);
   } else {
+    // Cards and panels over the stage keep the wheel to themselves.
+    QWidget* top = stage_->childAt(event.position().toPoint());
+    while (top && top->parentWidget() != stage_) top = top->parentWidget();
+    if (top && !qobject_cast<VideoCell*>(top)) return false;
     const int x = static_cast<int>(event.position().x()) * kTwipsPerPixel;
     const int y = static_cast<int>(event.position().y()) * kTwipsPerPixel;
     for (int each = 1; each <= kSlots && slot == 0; ++each) {
