@@ -1,0 +1,64 @@
+// Changing the colours while every page of the program is open.
+
+#include <QApplication>
+#include <QStackedWidget>
+#include <memory>
+#include <vector>
+
+#include "Bench.h"
+#include "core/ColorSchemes.h"
+#include "core/Settings.h"
+#include "core/forms/HelpPage.h"
+#include "core/forms/MenuPage.h"
+#include "core/forms/SetupPage.h"
+#include "library/forms/ProfilesPage.h"
+#include "platform/host/QtHost.h"
+#include "platform/widgets/Theme.h"
+#include "workspace/forms/AnalysisForm.h"
+
+namespace kinalyx::bench {
+namespace {
+
+const Register kThemeSwitch({"theme_switch", {Target::Of::AtMost, 150, 60}, [] {
+  const std::unique_ptr<IHost> host = MakeQtHost();
+  Settings settings(*host, ScratchFolder() + "/theme", "");
+  settings.LoadSettings();
+  ColorSchemes schemes;
+  ProfileFields fields(ScratchFolder() + "/theme/fields.ini");
+  fields.EnsureFile();
+  fields.SetupFields();
+  LastStudentInfo remembered;
+  PlayScheduler scheduler(*host);
+  PlayerServices players{*host, scheduler};
+
+  auto& application = *static_cast<QApplication*>(QCoreApplication::instance());
+  ApplyTheme(application, Theme::FromSlots(schemes.Colours()));
+  QStackedWidget window;
+  window.resize(1280, 764);
+  window.addWidget(new MenuPage(*host, settings));
+  window.addWidget(new ProfilesPage(players, settings, fields, remembered, {}));
+  window.addWidget(new AnalysisForm(*host, settings, players, remembered, {}));
+  window.addWidget(new SetupPage(*host, settings, schemes));
+  window.addWidget(new HelpPage(QString()));
+  window.show();
+  // Every page is shown once, as in a program that has been used.
+  for (int page = 0; page < window.count(); ++page) {
+    window.setCurrentIndex(page);
+    QCoreApplication::processEvents();
+  }
+  window.setCurrentIndex(3);
+  QCoreApplication::processEvents();
+
+  std::vector<double> switches;
+  for (const char* design : {"1", "2", "3", "4", "5", "6", "7", "0"}) {
+    schemes.ApplyDesign(design);
+    switches.push_back(MeasureMs([&] {
+      ApplyTheme(application, Theme::FromSlots(schemes.Colours()));
+      QCoreApplication::processEvents();
+    }));
+  }
+  return Figure{Median(switches), "ms", 0};
+}});
+
+}  // namespace
+}  // namespace kinalyx::bench
