@@ -4,6 +4,7 @@ namespace kinalyx {
 
 /// Key codes as the key tables of the workspace name them.
 enum KeyCode : int {
+  kKeyTab = 9,
   kKeyCtrl = 17,
   kKeyEscape = 27,
   kKeyPageUp = 33,

@@ -4,19 +4,21 @@
 
 namespace kinalyx {
 
-AnalysisWorkspace::AnalysisWorkspace(IHost& host, Settings& settings, IWorkspaceView& view, Navigation navigation)
+AnalysisWorkspace::AnalysisWorkspace(IHost& host, Settings& settings, IWorkspaceView& view,
+                                     IDrawingEditsView& editsView, Navigation navigation)
     : host_(host),
       settings_(settings),
       view_(view),
       workspace_(host, settings, view),
       transport_(host, settings, workspace_, view),
       tools_(engine_, settings, *this),
-      drawings_(workspace_, engine_.ShapeLists),
+      drawings_(workspace_, tools_),
+      edits_(host, settings, workspace_, tools_, *this, editsView),
       timer_(workspace_, transport_, view),
       notes_(host, workspace_, view),
       rateTest_(host, workspace_),
       ruler_(settings, tools_, view),
-      menuBar_({workspace_, transport_, tools_, timer_, notes_, rateTest_, ruler_}, view, std::move(navigation)) {
+      menuBar_({workspace_, transport_, tools_, edits_, timer_, notes_, rateTest_, ruler_}, view, std::move(navigation)) {
   Connect();
 }
 
@@ -27,6 +29,7 @@ void AnalysisWorkspace::Connect() {
   workspace_.CollectData = [this](int slot) { return drawings_.CollectData(slot); };
   workspace_.DataSaved = [this](int slot) { drawings_.DataSaved(slot); };
   workspace_.VideoClosing = [this](int slot) {
+    edits_.VideoClosing(slot);
     if (slot == workspace_.CurrentWindow) {
       transport_.StepReleased();
       if (ruler_.Shown()) ruler_.CalibBtn_Click(1);
@@ -74,6 +77,7 @@ void AnalysisWorkspace::ShowFocus() {
     tools_.ClearCaptionKept();
     transport_.DisplayData("");
   }
+  edits_.FocusChanged();
   transport_.ShowCurrent();
 }
 
@@ -121,7 +125,10 @@ void AnalysisWorkspace::ColorChoiceBtn_Click(int Index) {
 
 // ---------------------------------------------------------------- from the players
 
-void AnalysisWorkspace::PreDrawFrame(Canvas& hDC, int ID) { tools_.PreDrawFrame(hDC, ID); }
+void AnalysisWorkspace::PreDrawFrame(Canvas& hDC, int ID) {
+  tools_.PreDrawFrame(hDC, ID);
+  edits_.FramePainted(ID);
+}
 
 void AnalysisWorkspace::Signal(int, int ID) {
   transport_.Signal(ID);

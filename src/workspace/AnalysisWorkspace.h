@@ -5,6 +5,7 @@
 #include "drawing/DrawingTools.h"
 #include "drawing/ShapeStore.h"
 #include "video/CallbackInterfaces.h"
+#include "workspace/DrawingEdits.h"
 #include "workspace/MenuBar.h"
 #include "workspace/SlotDrawings.h"
 
@@ -15,7 +16,8 @@ namespace kinalyx {
 /// eight players; everything else works without a window.
 class AnalysisWorkspace final : public IFrameInterface, public IMouseAndKeyBoardEvents, private IDrawingWorkspace {
  public:
-  AnalysisWorkspace(IHost& host, Settings& settings, IWorkspaceView& view, Navigation navigation);
+  AnalysisWorkspace(IHost& host, Settings& settings, IWorkspaceView& view, IDrawingEditsView& editsView,
+                    Navigation navigation);
   AnalysisWorkspace(const AnalysisWorkspace&) = delete;
   AnalysisWorkspace& operator=(const AnalysisWorkspace&) = delete;
 
@@ -30,6 +32,7 @@ class AnalysisWorkspace final : public IFrameInterface, public IMouseAndKeyBoard
   Workspace& Slots() { return workspace_; }
   Transport& Player() { return transport_; }
   DrawingTools& Tools() { return tools_; }
+  DrawingEdits& Edits() { return edits_; }
   MenuBar& Commands() { return menuBar_; }
   VideoTimer& Timer() { return timer_; }
   VideoNotes& Notes() { return notes_; }
@@ -84,6 +87,7 @@ class AnalysisWorkspace final : public IFrameInterface, public IMouseAndKeyBoard
   void HideVectorColor() override { view_.HideVectorColor(); }
   void SetColorButton(int index) override { view_.SetColorButton(index); }
   void ShowDrawError(const std::string& text) override;
+  void ShowGridButton(bool) override { view_.CommandsChanged(); }
   void DrawingsChanged(int) override { view_.CommandsChanged(); }
   bool CalibrationShown() override { return ruler_.Shown(); }
   void ShowCalibrationLength(const std::string& length) override { ruler_.ShowLength(length); }
@@ -98,6 +102,7 @@ class AnalysisWorkspace final : public IFrameInterface, public IMouseAndKeyBoard
   Transport transport_;
   DrawingTools tools_;
   SlotDrawings drawings_;
+  DrawingEdits edits_;
   VideoTimer timer_;
   VideoNotes notes_;
   DisplayRateTest rateTest_;

@@ -1,5 +1,9 @@
 // The command table: what the menus and the tool strip hold, in their order.
 
+#include <algorithm>
+#include <iterator>
+#include <string_view>
+
 #include "workspace/MenuBar.h"
 
 namespace kinalyx {
@@ -50,7 +54,16 @@ constexpr ScreenButton kScreenButtons[] = {
     {6, "Six Windows"},    {8, "Eight Windows"},
 };
 
+/// What stands in the menus or under a key as well, and is wanted least often on the strip.
+constexpr std::string_view kSpareButtons[] = {"Closeallbtn", "Scn5", "Scn6", "Scn7", "RedoBtn", "CmdAfunctions1", "CmdAfunctions7"};
+
 }  // namespace
+
+void MenuBar::Add(Command command) {
+  const std::string& name = command.button.empty() ? command.item : command.button;
+  command.spare = std::ranges::find(kSpareButtons, name) != std::end(kSpareButtons);
+  commands_.push_back(std::move(command));
+}
 
 void MenuBar::AddComing(const char* item, const char* menu, const char* caption, const char* button, const char* icon,
                         const char* tip, int group) {
@@ -111,13 +124,20 @@ void MenuBar::AddDraw() {
          tool.tip, kDrawing, [this, kind] { tools_.MenuDraw_Click(kind); }, hasVideo,
          [inHand, kind] { return inHand(kind, false); }});
   }
-  AddComing("MenuDraw11", kDraw, "F12 - Grid", "ribShowGrid", "grid", "Grid", kDrawing);
+  Add({"MenuDraw11", kDraw, "F12 - Grid", "ribShowGrid", "grid", "Grid", kDrawing,
+       [this] { edits_.ribShowGrid_MouseDown(); }, hasVideo, [this] { return HasVideo() && edits_.GridOn(); }});
   AddSeparator(kDraw);
   Add({"DDSL", kDraw, "Draw Straight Line", "DDSLBtn", "straight-line", "Draw Straight Line", kDrawing,
        [this] { tools_.DDSL_Click(); }, hasVideo, [inHand] { return inHand(kLine, true); }});
   Add({"DDSA", kDraw, "Draw Straight Arrow", "DDSABtn", "straight-arrow", "Draw Straight Arrow", kDrawing,
        [this] { tools_.DDSA_Click(); }, hasVideo, [inHand] { return inHand(kArrow, true); }});
-  Add({"Lastcadoff", "", "", "", "undo-last", "Delete Last Object Drawn", kErasing,
+  AddSeparator(kDraw);
+  Add({"UndoDrawing", kDraw, "Ctrl+Z - Undo", "UndoBtn", "undo", "Undo (Ctrl+Z)", kErasing, [this] { edits_.Undo(); },
+       [this] { return HasVideo() && edits_.CanUndo(); }, {}, "No change of the drawings in the current window to undo"});
+  Add({"RedoDrawing", kDraw, "Ctrl+Shift+Z - Redo", "RedoBtn", "redo", "Redo (Ctrl+Shift+Z)", kErasing,
+       [this] { edits_.Redo(); }, [this] { return HasVideo() && edits_.CanRedo(); }, {},
+       "No change of the drawings in the current window was undone"});
+  Add({"Lastcadoff", "", "", "", "delete-last", "Delete Last Object Drawn", kErasing,
        [this] { tools_.Lastcadoff_Click(); }, hasShapes, {}, "Nothing is drawn in the current window"});
   Add({"Cadoffbutton", "", "", "", "trash", "Delete All Drawings in Window", kErasing,
        [this] { tools_.Cadoffbutton_Click(); }, hasShapes, {}, "Nothing is drawn in the current window"});
@@ -166,16 +186,22 @@ void MenuBar::AddTools() {
 }
 
 void MenuBar::AddAdvanced() {
+  const auto hasVideo = [this] { return HasVideo(); };
   AddComing("CLive", kAdvanced, "Live Draw && Hot Zones");
   AddComing("TRL", kAdvanced, "Record Lesson", "CmdAfunctions5", "microphone", "Record Lesson", kSharing);
   AddComing("STM", kAdvanced, "&Transparency Mode");
   AddComing("smbar", kAdvanced, "&Multi-Pic Mode");
   AddComing("TTES", kAdvanced, "Email- Take SnapShot");
   AddComing("TES", kAdvanced, "Email- Send SnapShots");
-  AddComing("MenuEdit", kAdvanced, "Edit Drawings", "CmdAfunctions2", "edit", "Open Edit Bar", kErasing);
-  AddComing("AddMacro", kAdvanced, "Insert Drawing Macro");
-  AddComing("DTMacro", kAdvanced, "Save Drawing Macro");
-  AddComing("DTClone", kAdvanced, "Clone Drawings", "CmdAfunctions1", "clone", "Clone Drawings", kErasing);
+  Add({"MenuEdit", kAdvanced, "Edit Drawings", "CmdAfunctions2", "edit", "Open Edit Bar", kErasing,
+       [this] { edits_.MenuEdit_Click(); }, hasVideo, [this] { return edits_.Editing(); }});
+  Add({"AddMacro", kAdvanced, "Insert Drawing Macro", "", "", "", kNoButton, [this] { edits_.AddMacro_Click(); },
+       [] { return true; }, [this] { return edits_.MacroFormShown(); }});
+  Add({"DTMacro", kAdvanced, "Save Drawing Macro", "", "macro-save", "", kNoButton, [this] { edits_.DTMacro_Click(); },
+       hasVideo});
+  Add({"DTClone", kAdvanced, "Clone Drawings", "CmdAfunctions1", "clone", "Clone Drawings", kErasing,
+       [this] { edits_.DTClone_Click(); }, [this] { return edits_.CanClone(); }, {},
+       "Needs drawings in the current window and a video in another one"});
   AddComing("TASF", kAdvanced, "Advanced Strobe");
   AddComing("cmdDualPlay", "", "", "", "lock", "Lock Videos Together", kPicture);
 }
@@ -185,7 +211,8 @@ void MenuBar::AddSetup() {
   AddComing("mnuDownloadVideos", kSetup, "Download Model Videos");
   Add({"TCal", kSetup, "Calculate Distance for Lines", "CmdAfunctions4", "ruler", "Calibrate Ruler", kMeasuring,
        [this] { ruler_.TCal_Click(); }, hasVideo, [this] { return ruler_.Shown(); }});
-  AddComing("TAGrid", kSetup, "Adjust Grid Size");
+  Add({"TAGrid", kSetup, "Adjust Grid Size", "", "", "", kNoButton, [this] { edits_.TAGrid_Click(); },
+       [] { return true; }, [this] { return edits_.GridPanelShown(); }});
   Add({"VidTest", kSetup, "Test Video Display rate", "", "", "", kNoButton, [this] { rateTest_.VidTest_Click(); },
        hasVideo, [this] { return rateTest_.Running(); }});
   Add({"MenuReverseFields", kSetup, "Reverse Field Order", "", "", "", kNoButton,

@@ -14,7 +14,6 @@ namespace {
 constexpr int kLeftButton = 1;
 constexpr int kShift = 1;
 constexpr int kCtrl = 2;
-constexpr int kKeyTab = 9;
 constexpr float kTwipsToDouble = 400;  // a drag of the scale handle that doubles the selection
 constexpr int kPlusArm = 10;           // pixels from the middle of a plus sign to its ends
 constexpr int kTwoWindows = 2;         // the layout of two windows side by side
@@ -308,12 +307,6 @@ bool DrawingEdits::Escape() {
 void DrawingEdits::FocusChanged() {
   cmdEBBtn_MouseUp();
   bar_.MoveEditBar();
-  ShowSelection();
-}
-
-void DrawingEdits::PlayerResized(int slot) {
-  if (!bar_.Shown() || slot != workspace_.CurrentWindow) return;
-  view_.PlaceEditBar(slot);
   ShowSelection();
 }
 

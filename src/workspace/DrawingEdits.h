@@ -109,8 +109,6 @@ class DrawingEdits {
 
   // --- from the workspace
   void FocusChanged();
-  /// A window's picture has another size or place.
-  void PlayerResized(int slot);
   void VideoClosing(int slot);
   /// A window's frame was composed; its drawings may be other ones.
   void FramePainted(int slot);

@@ -17,6 +17,7 @@ MenuBar::MenuBar(const CommandTargets& targets, IWorkspaceView& view, Navigation
     : workspace_(targets.workspace),
       transport_(targets.transport),
       tools_(targets.tools),
+      edits_(targets.edits),
       timer_(targets.timer),
       notes_(targets.notes),
       rateTest_(targets.rateTest),
@@ -50,6 +51,7 @@ bool MenuBar::Run(const std::string& name) {
 bool MenuBar::PreparetoExit() {
   if (ruler_.Shown()) ruler_.CalibBtn_Click(1);
   if (tools_.Drawing()) tools_.DrawOffBtn_Click();
+  edits_.CloseAll();
   notes_.Close();
   timer_.Close();
   return workspace_.MnuCloseAll_Click();
@@ -75,6 +77,8 @@ void MenuBar::Escape() {
     ruler_.CalibBtn_Click(1);
   } else if (tools_.Drawing()) {
     tools_.DrawOffBtn_Click();
+  } else if (edits_.Escape()) {
+    // The edit bar or one of its panels has gone.
   } else if (workspace_.Maximized()) {
     workspace_.TMAX_Click();
   } else {
@@ -85,6 +89,10 @@ void MenuBar::Escape() {
 }
 
 bool MenuBar::Form_KeyDown(int KeyCode, int Shift) {
+  if (edits_.Form_KeyDown(KeyCode, Shift)) {
+    view_.CommandsChanged();
+    return true;
+  }
   if (KeyCode >= kKeyF1 && KeyCode <= kKeyF12) {
     Run("MenuDraw" + std::to_string(KeyCode - kKeyF1));
     return true;

@@ -6,6 +6,7 @@
 
 #include "drawing/DrawingTools.h"
 #include "workspace/DisplayRateTest.h"
+#include "workspace/DrawingEdits.h"
 #include "workspace/RulerCalibration.h"
 #include "workspace/Transport.h"
 #include "workspace/VideoNotes.h"
@@ -30,6 +31,7 @@ struct CommandTargets {
   Workspace& workspace;
   Transport& transport;
   DrawingTools& tools;
+  DrawingEdits& edits;
   VideoTimer& timer;
   VideoNotes& notes;
   DisplayRateTest& rateTest;
@@ -49,6 +51,7 @@ struct Command {
   std::function<bool()> enabled = [] { return true; };
   std::function<bool()> checked = {};  ///< empty: the command has no state
   const char* why = "Open a video first";  ///< the reason while it is disabled
+  bool spare = false;         ///< its button is among the first to leave a strip that is too narrow
 
   /// The feature is not built yet; such a command is disabled and says so.
   bool Coming() const { return !run; }
@@ -74,7 +77,8 @@ class MenuBar {
   /// Clears the workspace for a new start: the layout of the settings, window 1. False as above.
   bool ResetAnalysisForm();
 
-  /// Keys of the workspace that are no text. True when the key was one of its own.
+  /// Keys of the workspace that are no text; in Shift 1 is Shift and 2 Ctrl. True when the key was one of
+  /// its own.
   bool Form_KeyDown(int KeyCode, int Shift);
   /// Letters, in either case.
   bool Form_KeyPress(int KeyAscii);
@@ -88,7 +92,7 @@ class MenuBar {
   void AddAdvanced();
   void AddSetup();
   void AddBrisko();
-  void Add(Command command) { commands_.push_back(std::move(command)); }
+  void Add(Command command);
   /// An entry, or a button beside it, whose feature is not built yet.
   void AddComing(const char* item, const char* menu, const char* caption, const char* button = "",
                  const char* icon = "", const char* tip = "", int group = 0);
@@ -100,6 +104,7 @@ class MenuBar {
   Workspace& workspace_;
   Transport& transport_;
   DrawingTools& tools_;
+  DrawingEdits& edits_;
   VideoTimer& timer_;
   VideoNotes& notes_;
   DisplayRateTest& rateTest_;

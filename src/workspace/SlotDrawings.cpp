@@ -23,17 +23,18 @@ void SlotDrawings::VideoOpened(int slot) {
   kept = {};
   kept.stored = {CopyOf(data.Shapes), data.PictureWidth, data.PictureHeight};
   kept.origin = kept.fitted = kept.stored;
-  ShapeList& list = lists_(slot);
+  ShapeList& list = List(slot);
   list = {};
   Put(list, kept.stored.shapes);
   data.Shapes = {};
+  tools_.ForgetPast(slot);
 }
 
 /// Makes what is in the list the origin when it was drawn in since it was put there.
 void SlotDrawings::Notice(int slot) {
   Kept& kept = At(slot);
-  if (std::ranges::equal(ShapesOf(lists_(slot)), kept.fitted.shapes)) return;
-  kept.fitted.shapes = CopyOf(lists_(slot));
+  if (std::ranges::equal(ShapesOf(List(slot)), kept.fitted.shapes)) return;
+  kept.fitted.shapes = CopyOf(List(slot));
   kept.origin = kept.fitted;
   kept.changed = true;
 }
@@ -44,7 +45,7 @@ void SlotDrawings::Fit(int slot, int width, int height) {
   Put(fitted, kept.origin.shapes);
   StretchShapes(fitted, kept.origin.width, kept.origin.height, width, height);
   kept.fitted = {fitted.Shapes, width, height};
-  Put(lists_(slot), std::move(fitted.Shapes));
+  Put(List(slot), std::move(fitted.Shapes));
 }
 
 void SlotDrawings::PlayerResized(int slot) {
@@ -57,7 +58,10 @@ void SlotDrawings::PlayerResized(int slot) {
     kept.origin.width = width;
     kept.origin.height = height;
   }
+  const int oldWidth = kept.fitted.width;
+  const int oldHeight = kept.fitted.height;
   Fit(slot, width, height);
+  tools_.PastStretched(slot, oldWidth, oldHeight, width, height);
 }
 
 void SlotDrawings::PictureFlipped(int slot) {
@@ -68,6 +72,7 @@ void SlotDrawings::PictureFlipped(int slot) {
   FlipShapes(mirrored, kept.origin.width);
   kept.origin.shapes = std::move(mirrored.Shapes);
   Fit(slot, kept.fitted.width, kept.fitted.height);
+  tools_.PastMirrored(slot, kept.fitted.width);
 }
 
 bool SlotDrawings::CollectData(int slot) {
@@ -78,7 +83,7 @@ bool SlotDrawings::CollectData(int slot) {
   data.Shapes = {};
   Put(data.Shapes, drawn.shapes);
   // A shape that is being drawn at this moment is none yet.
-  if (Shape* last = LastShape(data.Shapes); last && !last->Locked && lists_(slot).Adding) --data.Shapes.NumShapes;
+  if (Shape* last = LastShape(data.Shapes); last && !last->Locked && List(slot).Adding) --data.Shapes.NumShapes;
   data.PictureWidth = drawn.width;
   data.PictureHeight = drawn.height;
   if (kept.changed && workspace_.MP(slot).FlipHorizontal()) FlipShapes(data.Shapes, drawn.width);
@@ -94,8 +99,9 @@ void SlotDrawings::DataSaved(int slot) {
 }
 
 void SlotDrawings::VideoClosed(int slot) {
-  lists_(slot) = {};
+  List(slot) = {};
   At(slot) = {};
+  tools_.ForgetPast(slot);
 }
 
 }  // namespace kinalyx

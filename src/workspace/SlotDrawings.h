@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "drawing/ShapeStore.h"
+#include "drawing/DrawingTools.h"
 #include "workspace/Workspace.h"
 
 namespace kinalyx {
@@ -13,10 +13,10 @@ namespace kinalyx {
 ///
 /// Points are whole pixels, so every fitting rounds. Drawings that nobody has touched since are
 /// therefore always fitted from where they were drawn, not from the last fitting: however often a window
-/// changes its size, they come out where they were.
+/// changes its size, they come out where they were. What can be undone follows.
 class SlotDrawings {
  public:
-  SlotDrawings(Workspace& workspace, ShapeLists& lists) : workspace_(workspace), lists_(lists) {}
+  SlotDrawings(Workspace& workspace, DrawingTools& tools) : workspace_(workspace), tools_(tools) {}
 
   void VideoOpened(int slot);
   void PlayerResized(int slot);
@@ -44,9 +44,10 @@ class SlotDrawings {
   Kept& At(int slot) { return kept_[static_cast<std::size_t>(slot - 1)]; }
   void Notice(int slot);
   void Fit(int slot, int width, int height);
+  ShapeList& List(int slot) { return tools_.List(slot); }
 
   Workspace& workspace_;
-  ShapeLists& lists_;
+  DrawingTools& tools_;
   std::array<Kept, kSlots> kept_;
 };
 

@@ -78,6 +78,49 @@ class FakeWindow final : public IWorkspaceView {
   void FocusKeyBox() override { ++focused; }
 };
 
+/// The windows of the editing of drawings; they only remember what they were told.
+class FakeEditWindows final : public IDrawingEditsView {
+ public:
+  bool bar = false, macroForm = false, gridPanel = false, multi = false, canMulti = false, guide = false;
+  int barOver = 0;
+  std::map<int, bool> handles;  ///< enabled
+  std::optional<SelectionMarks> marks;
+  std::string words;
+  std::vector<std::string> macros;
+  int chosenMacro = -1;
+  std::optional<std::string> macroName;  ///< what the user will type
+  std::optional<int> cloneTarget;        ///< what the user will choose
+  std::vector<int> offeredTargets;
+
+ private:
+  void ShowEditBar(bool shown) override { bar = shown; }
+  void PlaceEditBar(int slot) override { barOver = slot; }
+  void EnableHandle(int handle, bool enabled) override { handles[handle] = enabled; }
+  void SetMultiButton(bool enabled, bool down) override {
+    canMulti = enabled;
+    multi = down;
+  }
+  void ShowRotationGuide(bool shown) override { guide = shown; }
+  int HandleWidth(int) override { return 32 * kTwipsPerPixel; }
+  int HandleHeight(int) override { return 32 * kTwipsPerPixel; }
+  bool HandleEnabled(int handle) override { return handles[handle]; }
+  void ShowSelection(int, const std::optional<SelectionMarks>& at, const std::string& said) override {
+    marks = at;
+    words = said;
+  }
+  std::optional<std::string> AskMacroName(const ShapeList&) override { return macroName; }
+  void ShowMacroForm(bool shown) override { macroForm = shown; }
+  void FillMacroList(const std::vector<std::string>& names, int selected) override {
+    macros = names;
+    chosenMacro = selected;
+  }
+  void ShowGridPanel(bool shown) override { gridPanel = shown; }
+  std::optional<int> AskCloneTarget(int, const std::vector<int>& targets) override {
+    offeredTargets = targets;
+    return cloneTarget;
+  }
+};
+
 /// The whole analysis section with real players and no window: what a test does to it is what a user does.
 class AnalysisStage {
  public:
@@ -130,7 +173,8 @@ class AnalysisStage {
   PlayerServices services{host, scheduler};
   FakeWindow window;
   int libraryVisits = 0, menuVisits = 0, exits = 0;
-  AnalysisWorkspace analysis{host, settings, window,
+  FakeEditWindows edits;
+  AnalysisWorkspace analysis{host, settings, window, edits,
                              Navigation{[this] { ++libraryVisits; }, [this] { ++menuVisits; }, [this] { ++exits; }}};
 
  private:

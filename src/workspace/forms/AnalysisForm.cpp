@@ -12,10 +12,12 @@
 #include "library/forms/OpenVidForm.h"
 #include "platform/widgets/Panel.h"
 #include "video/KeyCodes.h"
+#include "video/forms/VideoView.h"
 #include "workspace/forms/CalibrationPanel.h"
 #include "workspace/forms/ColorRow.h"
 #include "workspace/forms/CommandMenus.h"
 #include "workspace/forms/DrawCaption.h"
+#include "workspace/forms/EditForms.h"
 #include "workspace/forms/KeyCodeOf.h"
 #include "workspace/forms/NotesPanel.h"
 #include "workspace/forms/Notesform.h"
@@ -40,7 +42,8 @@ AnalysisForm::AnalysisForm(IHost& host, Settings& settings, PlayerServices& play
                            Navigation navigation, QWidget* parent)
     : QWidget(parent), host_(host), settings_(settings), players_(players), remembered_(remembered) {
   setObjectName("AnalysisForm");
-  analysis_ = std::make_unique<AnalysisWorkspace>(host, settings, static_cast<IWorkspaceView&>(*this),
+  edits_ = std::make_unique<EditForms>();
+  analysis_ = std::make_unique<AnalysisWorkspace>(host, settings, static_cast<IWorkspaceView&>(*this), *edits_,
                                                   std::move(navigation));
   const auto run = [this](const std::string& command) { Run(command); };
 
@@ -85,6 +88,7 @@ void AnalysisForm::MakeStage() {
   keyBox_->setObjectName("Text1");
   keyBox_->setFocusPolicy(Qt::StrongFocus);
   keyBox_->setGeometry(0, 0, 1, 1);
+  keyBox_->installEventFilter(this);
   for (int slot = 1; slot <= kSlots; ++slot) {
     auto* cell = new VideoCell(slot, players_, stage_);
     connect(cell, &VideoCell::Pressed, this, [this, slot] { analysis_->CellPressed(slot); });
@@ -101,6 +105,7 @@ void AnalysisForm::MakeStage() {
   timer_ = new VideoTimerForm(analysis_->Timer(), stage_);
   connect(timer_, &FloatCard::CloseWanted, this, [this] { Run("TVT"); });
   calibration_ = new CalibrationPanel(analysis_->Ruler(), settings_, stage_);
+  edits_->Build(analysis_->Edits(), analysis_->Slots(), stage_);
 }
 
 bool AnalysisForm::CloseAll() {
@@ -131,10 +136,11 @@ void AnalysisForm::keyPressEvent(QKeyEvent* event) {
     if (code == kKeyEscape) FocusKeyBox();
     return;
   }
-  if (event->isAutoRepeat() && !RepeatsWhileHeld(*event)) return;
-  const bool combined = event->modifiers() & (Qt::ControlModifier | Qt::AltModifier) && code != kKeyCtrl;
-  bool taken = code != 0 && !combined &&
-               analysis_->Commands().Form_KeyDown(code, event->modifiers() & Qt::ShiftModifier ? 1 : 0);
+  const bool nudges = analysis_->Edits().Editing() && event->modifiers() & Qt::ShiftModifier;
+  if (event->isAutoRepeat() && !RepeatsWhileHeld(*event) && !nudges) return;
+  const bool combined = event->modifiers() & (Qt::ControlModifier | Qt::AltModifier) && code != kKeyCtrl &&
+                        code != 'Z' && code != 'Y';
+  bool taken = code != 0 && !combined && analysis_->Commands().Form_KeyDown(code, ShiftOf(event->modifiers()));
   if (const int character = KeyAsciiOf(*event); character != 0)
     taken = analysis_->Commands().Form_KeyPress(character) || taken;
   if (!taken) QWidget::keyPressEvent(event);
@@ -148,6 +154,12 @@ void AnalysisForm::showEvent(QShowEvent* event) {
 }
 
 bool AnalysisForm::eventFilter(QObject* watched, QEvent* event) {
+  // While drawings are edited, Tab goes round among them and not among the buttons.
+  if (watched == keyBox_ && event->type() == QEvent::KeyPress && analysis_->Edits().Editing() &&
+      static_cast<QKeyEvent*>(event)->key() == Qt::Key_Tab) {
+    keyPressEvent(static_cast<QKeyEvent*>(event));
+    return true;
+  }
   if (watched == stage_ && event->type() == QEvent::Resize) {
     analysis_->StageResized();
     timer_->KeepInside();
@@ -310,6 +322,7 @@ void AnalysisForm::CommandsChanged() {
   strip_->Update();
   const bool drawing = analysis_->Tools().Drawing();
   colors_->SetLive(drawing);
+  edits_->Update();
   for (VideoCell* cell : cells_) cell->MP().setCursor(drawing ? Qt::CrossCursor : Qt::ArrowCursor);
   playBar_->SetVideo(analysis_->Slots().HasVideo(analysis_->Slots().CurrentWindow));
 }

@@ -16,6 +16,7 @@ class CalibrationPanel;
 class ColorRow;
 class CommandMenus;
 class DrawCaption;
+class EditForms;
 class NotesPanel;
 class OpenVideoParts;
 class PlayBar;
@@ -98,6 +99,7 @@ class AnalysisForm : public QWidget, private IWorkspaceView {
   Settings& settings_;
   PlayerServices& players_;
   LastStudentInfo& remembered_;
+  std::unique_ptr<EditForms> edits_;  ///< a view of what follows
   std::unique_ptr<AnalysisWorkspace> analysis_;
   CommandMenus* menus_ = nullptr;
   ColorRow* colors_ = nullptr;

@@ -99,6 +99,7 @@ bool EditForms::HandleEnabled(int handle) { return stage_ && strip_->HandleEnabl
 void EditForms::ShowSelection(int window, const std::optional<SelectionMarks>& marks, const std::string& words) {
   if (!stage_) return;
   strip_->SetWords(QString::fromStdString(words));
+  strip_->PlaceOver(window, PictureRoom(window));
   if (!marks || !workspace_->IsShown(window)) return knobs_->HideAll();
   const qreal ratio = stage_->devicePixelRatioF();
   const POINTAPI on = PlayerCornerOnStage(workspace_->At(window));

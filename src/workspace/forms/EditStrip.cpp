@@ -129,6 +129,7 @@ bool EditStrip::DragHandle(int handle, QEvent& event) {
 // ---------------------------------------------------------------- place
 
 void EditStrip::PlaceOver(int window, const QRect& picture) {
+  if (window == window_ && picture == picture_) return;
   if (window != window_) moved_.reset();
   window_ = window;
   picture_ = picture;

@@ -12,7 +12,9 @@ int KeyCodeOf(const QKeyEvent& event) {
   if (key >= Qt::Key_0 && key <= Qt::Key_9)
     return (event.modifiers() & Qt::KeypadModifier ? kKeyNumpad0 : kKey0) + key - Qt::Key_0;
   if (key >= Qt::Key_F1 && key <= Qt::Key_F12) return kKeyF1 + key - Qt::Key_F1;
+  if ((key == Qt::Key_Z || key == Qt::Key_Y) && event.modifiers() & Qt::ControlModifier) return key;
   switch (key) {
+    case Qt::Key_Tab: return kKeyTab;
     case Qt::Key_Left: return kKeyLeft;
     case Qt::Key_Right: return kKeyRight;
     case Qt::Key_Up: return kKeyUp;

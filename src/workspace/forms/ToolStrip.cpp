@@ -69,10 +69,14 @@ void ToolStrip::Arrange() {
   for (Tool& tool : tools_) tool.placed = true;
   const auto fitting = std::ranges::find_if(kSizes, [this](const Sizes& sizes) { return WidthFor(sizes) <= width(); });
   const Sizes& sizes = fitting == std::end(kSizes) ? kSizes[2] : *fitting;
-  for (const bool coming : {true, false}) {
+  // What does nothing yet goes first, then what can be spared.
+  const auto give = [&](auto wanted) {
     for (auto tool = tools_.rbegin(); tool != tools_.rend() && WidthFor(sizes) > width(); ++tool)
-      if (tool->command->Coming() == coming) tool->placed = false;
-  }
+      if (wanted(*tool->command)) tool->placed = false;
+  };
+  give([](const Command& command) { return command.Coming(); });
+  give([](const Command& command) { return command.spare; });
+  give([](const Command&) { return true; });
   // Without what is behind "More tools" the others may have more room.
   Place(*std::ranges::find_if(kSizes, [&](const Sizes& wider) { return &wider == &sizes || WidthFor(wider) <= width(); }));
 }

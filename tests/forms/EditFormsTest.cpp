@@ -1,0 +1,248 @@
+#include "workspace/forms/EditForms.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QSlider>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+#include <filesystem>
+
+#include "FormsSupport.h"
+#include "support/TestHost.h"
+#include "support/TestVideos.h"
+#include "workspace/forms/AnalysisForm.h"
+#include "workspace/forms/StageParts.h"
+
+namespace kinalyx::test {
+namespace {
+
+struct EditFormsTest : testing::Test, UsesApplication {
+  void SetUp() override {
+    static int count = 0;
+    folder = TestPath("editforms" + std::to_string(++count));
+    std::filesystem::create_directories(folder);
+    settings = std::make_unique<Settings>(host, folder + "/data", folder);
+    settings->LoadSettings();
+    form = std::make_unique<AnalysisForm>(host, *settings, players, remembered, Navigation{});
+    form->resize(1024, 732);
+    form->show();
+    QTest::qWait(0);
+    form->SendToAnalysis(Video("a.avi"));
+    Draw("CmdMakeShape3", {200, 220}, {320, 220});
+    Draw("CmdMakeShape2", {200, 300}, {260, 340});
+  }
+  void TearDown() override { form.reset(); }
+
+  std::string Video(const std::string& name) {
+    const std::string path = folder + "/" + name;
+    std::filesystem::copy_file(MakeTestVideo(MjpegVideo(30)), path);
+    return path;
+  }
+  void Draw(const char* tool, QPoint from, QPoint to) {
+    Click(tool);
+    QWidget* player = Find<QWidget>("MP1");
+    QTest::mouseClick(player, Qt::LeftButton, {}, from);
+    QTest::mouseMove(player, (from + to) / 2);
+    QTest::mouseClick(player, Qt::LeftButton, {}, to);
+  }
+  template <typename T>
+  T* Find(const char* name) {
+    T* found = form->findChild<T*>(name);
+    EXPECT_NE(found, nullptr) << name;
+    return found;
+  }
+  void Click(const char* name) { QTest::mouseClick(Find<QWidget>(name), Qt::LeftButton); }
+  void Trigger(const char* action) { Find<QAction>(action)->trigger(); }
+  void Press(int key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(Find<QWidget>("Text1"), Qt::Key(key), modifiers); }
+  /// Holds a widget and moves the mouse by pixels, as a hand does: in several steps.
+  void DragOn(QWidget* handle, QPoint by, QPoint from) {
+    const QPoint start = handle->mapTo(form.get(), from);
+    const auto send = [&](QEvent::Type type, QPoint at, Qt::MouseButton button, Qt::MouseButtons held) {
+      const QPoint local = handle->mapFrom(form.get(), at);
+      QMouseEvent event(type, local, handle->mapToGlobal(local), button, held, Qt::NoModifier);
+      QApplication::sendEvent(handle, &event);
+    };
+    send(QEvent::MouseButtonPress, start, Qt::LeftButton, Qt::LeftButton);
+    for (int step = 1; step <= 4; ++step) send(QEvent::MouseMove, start + by * step / 4, Qt::NoButton, Qt::LeftButton);
+    send(QEvent::MouseButtonRelease, start + by, Qt::LeftButton, Qt::NoButton);
+  }
+  void DragOn(const char* name, QPoint by) { DragOn(Find<QWidget>(name), by, Find<QWidget>(name)->rect().center()); }
+  ShapeList& Shapes(int slot = 1) { return form->Analysis().Tools().List(slot); }
+  POINTAPI PointOf(int shape, int point) {
+    return Shapes().Shapes[static_cast<std::size_t>(shape)].Pts[static_cast<std::size_t>(point)];
+  }
+  /// A handle lies on a point of the picture, but for roundings on the way from pixels of one to the other.
+  bool LiesOn(const char* name, QPoint point) {
+    QWidget* widget = Find<QWidget>(name);
+    const QPoint at = widget->mapTo(form.get(), widget->rect().center()) - Find<QWidget>("MP1")->mapTo(form.get(), QPoint());
+    return widget->isVisible() && (at - point).manhattanLength() <= 4;
+  }
+  /// Does something to the dialog that the next command opens.
+  void InDialog(const char* name, std::function<void(QDialog&)> act) {
+    QTimer::singleShot(0, form.get(), [this, name, act] {
+      auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+      ASSERT_NE(dialog, nullptr);
+      EXPECT_EQ(dialog->objectName(), name);
+      act(*dialog);
+      if (dialog->isVisible()) dialog->reject();
+    });
+  }
+
+  TestHost host;
+  std::string folder;
+  std::unique_ptr<Settings> settings;
+  PlayScheduler scheduler{host};
+  PlayerServices players{host, scheduler};
+  LastStudentInfo remembered;
+  std::unique_ptr<AnalysisForm> form;
+};
+
+TEST_F(EditFormsTest, HandlesLieOnTheSelectionAndFollowTheMouse) {
+  EXPECT_FALSE(Find<QWidget>("picEditBar")->isVisible());
+  Click("CmdAfunctions2");
+  QWidget* strip = Find<QWidget>("picEditBar");
+  ASSERT_TRUE(strip->isVisible());
+  EXPECT_TRUE(Find<QWidget>("MainPanel")->rect().contains(strip->geometry()));
+  EXPECT_FALSE(strip->geometry().intersects(Find<QWidget>("Playbar")->geometry()));
+  EXPECT_EQ(Find<QLabel>("EditWords")->text(), "Square, 2 of 2");
+  EXPECT_TRUE(LiesOn("EditKnob1", {230, 320})) << "in the middle of the square";
+
+  DragOn("EditKnob1", {40, -10});
+  EXPECT_EQ(PointOf(1, 0), (POINTAPI{240, 290}));
+  EXPECT_TRUE(LiesOn("EditKnob1", {270, 310})) << "the handle went with it";
+
+  Press(Qt::Key_Tab);
+  EXPECT_EQ(Find<QLabel>("EditWords")->text(), "Line, 1 of 2");
+  EXPECT_TRUE(LiesOn("EditKnob1", {260, 220}));
+  DragOn("cmdEBBtn1", {5, 7});
+  EXPECT_EQ(PointOf(0, 0), (POINTAPI{205, 227})) << "the strip's handle moves as far as the mouse";
+  DragOn("cmdEBBtn2", {0, -10});
+  EXPECT_NEAR(PointOf(0, 1).x - PointOf(0, 0).x, 165, 1) << "150 twips up of 400 are three eighths more";
+  Press(Qt::Key_Left, Qt::ShiftModifier);
+  Press(Qt::Key_Z, Qt::ControlModifier);
+  Press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(PointOf(0, 1).x - PointOf(0, 0).x, 120);
+  Press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_NEAR(PointOf(0, 1).x - PointOf(0, 0).x, 165, 1);
+  EXPECT_FALSE(Find<QWidget>("EditKnob1")->isVisible()) << "nothing is selected after undo";
+
+  QTest::mouseClick(Find<QWidget>("MP1"), Qt::LeftButton, {}, {270, 310});
+  EXPECT_TRUE(Find<QWidget>("EditKnob1")->isVisible());
+  EXPECT_TRUE(Find<QToolButton>("ribEBBtn")->isEnabled());
+  Click("ribEBBtn");
+  EXPECT_EQ(Find<QLabel>("EditWords")->text(), "All 2 drawings");
+  Click("cmdEBBtn4");
+  EXPECT_EQ(Shapes().NumShapes, 1);
+  EXPECT_FALSE(Find<QToolButton>("ribEBBtn")->isEnabled()) << "one drawing is no many";
+  Click("cmdEBBtn6");
+  EXPECT_FALSE(strip->isVisible());
+  EXPECT_FALSE(Find<QWidget>("EditKnob1")->isVisible() || Find<QWidget>("EditMarks")->isVisible());
+}
+
+TEST_F(EditFormsTest, TheBarGoesWithItsWindow) {
+  Click("CmdAfunctions2");
+  QWidget* strip = Find<QWidget>("picEditBar");
+  const QPoint before = strip->pos();
+  DragOn(strip, {-60, -80}, {3, 3});
+  EXPECT_EQ(strip->pos(), before + QPoint(-60, -80)) << "moved by its ground";
+  Click("Scn2");
+  QTest::qWait(0);
+  form->SendToAnalysis(Video("b.avi"));
+  EXPECT_EQ(form->Analysis().Slots().CurrentWindow, 2);
+  EXPECT_GE(strip->geometry().center().x(), form->width() / 2);
+  EXPECT_EQ(Find<QLabel>("EditWords")->text(), "Nothing is drawn here");
+  EXPECT_FALSE(Find<QToolButton>("cmdEBBtn1")->isEnabled());
+  EXPECT_TRUE(Find<QToolButton>("cmdEBBtn6")->isEnabled());
+  for (const char* layout : {"Scn8", "Scn4"}) {
+    Click(layout);
+    QTest::qWait(0);
+    EXPECT_TRUE(Find<QWidget>("MainPanel")->rect().contains(strip->geometry())) << layout;
+  }
+  Press(Qt::Key_Escape);
+  EXPECT_FALSE(strip->isVisible());
+  EXPECT_TRUE(form->Analysis().Slots().HasVideo(2));
+}
+
+TEST_F(EditFormsTest, MacrosAreNamedShownInsertedAndRemoved) {
+  InDialog("MacroNameForm", [](QDialog& dialog) {
+    EXPECT_EQ(dialog.windowTitle(), "New macro");
+    EXPECT_EQ(dialog.findChild<QLabel*>("MacroNamePrompt")->text(), "Please enter the name of this macro");
+    auto* ok = dialog.findChild<QPushButton*>("MacroNameOK");
+    QTest::keyClicks(dialog.findChild<QLineEdit*>("MacroName"), "  ");
+    EXPECT_FALSE(ok->isEnabled());
+    QTest::keyClicks(dialog.findChild<QLineEdit*>("MacroName"), "Plane");
+    QTest::mouseClick(ok, Qt::LeftButton);
+  });
+  Trigger("DTMacro");
+  Click("Cadoffbutton");
+  Trigger("AddMacro");
+  ASSERT_TRUE(Find<QWidget>("MacroForm")->isVisible());
+  auto* list = Find<QListWidget>("lstMacro");
+  ASSERT_EQ(list->count(), 1);
+  EXPECT_EQ(list->item(0)->text(), "Plane");
+  const QImage picture = Find<SurfaceView>("MacroPic")->Picture();
+  const QRgb ground = picture.pixel(1, 1);
+  int inked = 0;
+  for (int y = 0; y < picture.height(); ++y)
+    for (int x = 0; x < picture.width(); ++x) inked += picture.pixel(x, y) != ground;
+  EXPECT_GT(inked, 50) << "the preview shows the drawing";
+
+  Click("MacroBtn");
+  EXPECT_EQ(Shapes().NumShapes, 2);
+  EXPECT_TRUE(Find<QToolButton>("ribEBBtn")->isChecked());
+  EXPECT_FALSE(Find<QToolButton>("cmdEBBtn3")->isEnabled());
+  EXPECT_FALSE(Find<QWidget>("EditKnob3")->isVisible());
+  form->Analysis().Slots().CloseVideo(1);
+  EXPECT_FALSE(Find<QPushButton>("MacroBtn")->isEnabled());
+  EXPECT_EQ(Find<QPushButton>("MacroBtn")->toolTip(), "Open a video first");
+  host.answers = {true};
+  Click("SSCommand1");
+  EXPECT_EQ(list->count(), 0);
+  EXPECT_FALSE(Find<QPushButton>("cmdInfo")->isEnabled());
+  Click("MacroFormClose");
+  EXPECT_FALSE(Find<QWidget>("MacroForm")->isVisible());
+}
+
+TEST_F(EditFormsTest, GridPanelAndClonePlan) {
+  Trigger("TAGrid");
+  auto* slider = Find<QSlider>("HScroll3");
+  ASSERT_TRUE(slider->isVisible());
+  EXPECT_EQ(slider->value(), settings->GridSize);
+  Click("GridPanelShow");
+  EXPECT_TRUE(Shapes().GridOn);
+  EXPECT_TRUE(Find<QPushButton>("ribShowGrid")->isChecked());
+  slider->setValue(17);
+  EXPECT_EQ(settings->GridSize, 17);
+  EXPECT_EQ(Find<QLabel>("GridSize")->text(), "17 squares across the picture");
+  Click("GridSizeClose");
+  EXPECT_FALSE(Find<QWidget>("GridPanel")->isVisible());
+
+  Click("Scn4");
+  form->SendToAnalysis(Video("b.avi"));
+  form->Analysis().Slots().SelectWindow(1);
+  EXPECT_EQ(Find<QAction>("DTClone")->isEnabled(), true);
+  InDialog("CloneForm", [](QDialog& dialog) {
+    EXPECT_EQ(dialog.windowTitle(), "Clone Drawings to another Window");
+    EXPECT_EQ(dialog.findChild<QLabel*>("CloneText")->text(),
+              "Clone all drawings to another window. Select the window to copy to and click 'OK'");
+    const auto window = [&](int number) { return dialog.findChild<QPushButton*>(QString("WindowBtn%1").arg(number)); };
+    EXPECT_FALSE(window(1)->isEnabled() || window(3)->isEnabled());
+    EXPECT_EQ(window(5), nullptr);
+    EXPECT_FALSE(dialog.findChild<QPushButton*>("Command1")->isEnabled());
+    QTest::mouseClick(window(2), Qt::LeftButton);
+    QTest::mouseClick(dialog.findChild<QPushButton*>("Command1"), Qt::LeftButton);
+  });
+  Click("CmdAfunctions1");
+  EXPECT_EQ(Shapes(2).NumShapes, 2);
+  EXPECT_EQ(form->Analysis().Slots().CurrentWindow, 2);
+}
+
+}  // namespace
+}  // namespace kinalyx::test
