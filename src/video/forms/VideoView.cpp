@@ -76,8 +76,9 @@ void VideoView::mouseReleaseEvent(QMouseEvent* event) {
     const QPointF at = event->position() * devicePixelRatioF();
     sink->MouseUp(ButtonOf(event->button()), ShiftOf(event->modifiers()), static_cast<float>(at.x()),
                   static_cast<float>(at.y()), control_.ID());
-    if (event->button() == Qt::LeftButton) sink->Click(control_.ID());
   }
+  // The sink may have gone, or been changed for another, in between.
+  if (auto* sink = control_.InputSink(); sink && event->button() == Qt::LeftButton) sink->Click(control_.ID());
 }
 
 void VideoView::mouseDoubleClickEvent(QMouseEvent* event) {

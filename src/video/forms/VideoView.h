@@ -6,8 +6,9 @@
 
 namespace kinalyx {
 
-/// The widget of one player: shows its surface and passes mouse and keys to its input sink. Owns the
-/// player. The player's size is the widget's in device pixels.
+/// The widget of one player: shows its surface and passes the mouse to its input sink. Keys belong to the
+/// form that it stands in, so it never takes the focus by itself. Owns the player. The player's size is
+/// the widget's in device pixels.
 class VideoView : public QWidget, private IPlayerView {
   Q_OBJECT
 
