@@ -211,6 +211,19 @@ TEST(VideoFile, EightFilesShareTheMemory) {
   }
 }
 
+TEST(VideoFile, GivesMemoryBackWhileItIsInUse) {
+  const Budget budget(64 << 20);
+  const auto file = OpenTestVideo(H264Video(300));
+  for (int n = 0; n < 200; ++n) ASSERT_EQ(ReadNumber(file->Frame(n, 24)), n);
+  std::vector<std::unique_ptr<VideoFile>> others;
+  for (int n = 200; n > 100; --n) {
+    if (n == 180) SetPictureBudget(2 << 20);
+    if (n % 20 == 0) others.push_back(OpenTestVideo(MjpegVideo(60)));
+    ASSERT_EQ(ReadNumber(file->Frame(n, 24)), n);
+  }
+  for (int n = 100; n < 300; n += 3) ASSERT_EQ(ReadNumber(file->Frame(n, 24)), n);
+}
+
 TEST(VideoFile, ClosesInTheMiddleOfItsWork) {
   for (int i = 0; i < 20; ++i) {
     auto file = OpenTestVideo(H264Video(300));
