@@ -161,6 +161,7 @@ TEST_F(DualLockTest, PlayTogetherKeepsTheOffsetAtEverySpeed) {
     lock_.StopTogether();
     stage_.host.Advance(500);
     EXPECT_EQ(stage_.At(1), wanted);
+    stage_.signalled = nullptr;
   }
   EXPECT_FALSE(lock_.setTogetherSpeed(0));
 }
