@@ -33,8 +33,10 @@ class AVIControl::Run final : public IPlayRun {
   std::int64_t Tick(std::int64_t now) override {
     const Watch watch(control_);
     if (wrap_) {
+      // Counted on from the moment at which it fell due, so that videos looped together stay together.
+      const std::int64_t end = base_ + (control_.PlayEnd_ + std::int64_t{1}) * interval_;
       counter_ = 0;
-      Restart(now);
+      Restart(now - end < interval_ * control_.PlayEnd_ ? end : now);
     } else if (const int due = PositionAt(now); due != counter_) {
       counter_ = due;
       Show();
