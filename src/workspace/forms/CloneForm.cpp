@@ -48,7 +48,9 @@ CloneForm::CloneForm(const std::vector<Window>& windows, QWidget* parent) : QDia
     button->move(left + 2, top + 2);
     button->setCheckable(true);
     button->setEnabled(!window.source && !window.video.isEmpty());
-    if (window.source) button->setText(tr("%1 (this one)").arg(window.number));
+    const QString name = window.source ? tr("this window") : window.video;
+    if (!name.isEmpty())
+      button->setText(QString("%1\n%2").arg(window.number).arg(button->fontMetrics().elidedText(name, Qt::ElideRight, button->width() - 20)));
     button->setToolTip(window.source           ? tr("The drawings of this window are copied")
                        : window.video.isEmpty() ? tr("No video in this window")
                                                 : window.video);
@@ -70,6 +72,14 @@ CloneForm::CloneForm(const std::vector<Window>& windows, QWidget* parent) : QDia
     ok->setEnabled(true);
     ok->setToolTip({});
   });
+  // Where there is one choice it is made.
+  std::vector<QAbstractButton*> open;
+  for (QAbstractButton* button : windows_->buttons())
+    if (button->isEnabled()) open.push_back(button);
+  if (open.size() == 1) {
+    open.front()->click();
+    ok->setFocus();
+  }
   connect(ok, &QPushButton::clicked, this, &QDialog::accept);
   connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
 }

@@ -63,7 +63,6 @@ void EditForms::ShowEditBar(bool shown) {
     knobs_->HideGuide();
     return;
   }
-  strip_->raise();
   edits_->ShowSelection();
 }
 
@@ -106,7 +105,6 @@ void EditForms::ShowSelection(int window, const std::optional<SelectionMarks>& m
   const QPointF corner = QPointF(on.x, on.y) / ratio;
   const auto onStage = [&](POINTAPI point) { return corner + QPointF(point.x, point.y) / ratio; };
   knobs_->ShowRound(QRectF(onStage(marks->corner), onStage(marks->opposite)), onStage(marks->pivot), PictureRoom(window), corner);
-  strip_->raise();
 }
 
 // ---------------------------------------------------------------- macros

@@ -79,7 +79,6 @@ void EditKnobs::PlaceKnob(int handle, QPointF centre) {
   }
   if (handle == kRotateHandle) stem_ = centre;
   knob->move(qRound(centre.x()) - kKnob / 2, qRound(centre.y()) - kKnob / 2);
-  knob->raise();
 }
 
 void EditKnobs::ShowRound(const QRectF& box, QPointF pivot, const QRect& room, QPointF corner) {
@@ -91,11 +90,7 @@ void EditKnobs::ShowRound(const QRectF& box, QPointF pivot, const QRect& room, Q
   const double wider = std::max(0.0, (2.2 * kKnob - box_.width()) / 2);
   const double higher = std::max(0.0, (1.4 * kKnob - box_.height()) / 2);
   box_.adjust(-wider, -higher, wider, higher);
-  if (!shown_) {
-    shown_ = true;
-    show();
-    raise();
-  }
+  shown_ = true;
   PlaceKnob(kMoveHandle, box_.center());
   PlaceKnob(kScaleHandle, box_.bottomRight());
   PlaceKnob(kRotateHandle, {box_.center().x(), box_.top() - kStem});
@@ -118,11 +113,13 @@ void EditKnobs::HideAll() {
 
 void EditKnobs::ShowGuide(QPointF centre, QPointF pointer) {
   guide_ = {centre, pointer};
+  raise();
   Cover();
 }
 
 void EditKnobs::HideGuide() {
   guide_.reset();
+  stackUnder(knobs_[0]);
   Cover();
 }
 

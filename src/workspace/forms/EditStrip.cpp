@@ -13,6 +13,7 @@
 namespace kinalyx {
 namespace {
 
+constexpr int kWordsGap = 6;  // between the words and the buttons beside them
 constexpr int kFromEdge = 8;  // between the strip and the lower edge of its picture
 constexpr const char* kHandleProperty = "handle";
 
@@ -46,13 +47,13 @@ EditStrip::EditStrip(QWidget* stage) : QFrame(stage) {
   multi_->setCheckable(true);
   connect(multi_, &QToolButton::clicked, this, [this](bool down) { edits_->ribEBBtn_Click(down); });
   row->addWidget(multi_);
-  row->addSpacing(6);
+  row->addSpacing(kWordsGap);
   words_ = MakeLabel("EditWords", {}, nullptr, this);
   words_->setFont(UiFont(12));
   words_->setMinimumWidth(words_->fontMetrics().horizontalAdvance("Parallelogram, 10 of 10"));
   words_->setAttribute(Qt::WA_TransparentForMouseEvents);
   row->addWidget(words_);
-  row->addSpacing(6);
+  row->addSpacing(kWordsGap);
   AddHandle(kEndHandle, "check", tr("Done (Esc)"));
   handles_[kEndHandle]->setProperty("main", true);
   hide();
@@ -110,7 +111,7 @@ bool EditStrip::eventFilter(QObject* watched, QEvent* event) {
 }
 
 /// Hands the left button on to the edit bar, in twips of the handle, 15 to a pixel of the picture. The
-/// button itself sees the events as well, so that it looks pressed.
+/// button itself sees press and release as well, so that it looks pressed.
 bool EditStrip::DragHandle(int handle, QEvent& event) {
   const auto type = event.type();
   if (type != QEvent::MouseButtonPress && type != QEvent::MouseMove && type != QEvent::MouseButtonRelease) return false;
@@ -123,7 +124,8 @@ bool EditStrip::DragHandle(int handle, QEvent& event) {
   if (type == QEvent::MouseButtonRelease && mouse.button() == Qt::LeftButton) edits_->cmdEBBtn_MouseUp();
   if (handle == kRotateHandle && edits_->Dragging())
     emit TurnedTo(handles_[kRotateHandle]->mapTo(parentWidget(), mouse.position().toPoint()));
-  return false;
+  // A move that leaves the button would come to the strip next, and move that.
+  return type == QEvent::MouseMove;
 }
 
 // ---------------------------------------------------------------- place
@@ -136,8 +138,13 @@ void EditStrip::PlaceOver(int window, const QRect& picture) {
   Arrange();
 }
 
-/// At the lower edge of its picture, or where the user has put it; always inside the stage.
+/// At the lower edge of its picture, or where the user has put it; always inside the stage. Over a narrow
+/// picture it does without words.
 void EditStrip::Arrange() {
+  const QMargins edges = layout()->contentsMargins();
+  int buttons = edges.left() + edges.right() + 2 * kWordsGap;
+  for (const QToolButton* button : findChildren<QToolButton*>()) buttons += button->width() + layout()->spacing();
+  words_->setVisible(buttons + words_->minimumWidth() <= picture_.width());
   adjustSize();
   const QPoint wanted = moved_ ? picture_.topLeft() + *moved_
                                : QPoint(picture_.center().x() - width() / 2, picture_.bottom() - kFromEdge - height());

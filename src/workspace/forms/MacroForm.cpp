@@ -23,8 +23,10 @@ constexpr const char* kListSheet =
 
 void ShowDrawing(SurfaceView& view, const ShapeList& drawing, const ShapeLook& look) {
   const qreal ratio = view.devicePixelRatioF();
+  // Small lines are thickened, and the ground lets dark and light ones be seen.
+  const ShapeLook bold{2 * look.CadWidth, look.CadOutline, look.PathHighlight};
   view.Show(PaintMacro(drawing, qRound(view.width() * ratio), qRound(view.height() * ratio),
-                       ColourOf(StageLook::Current().ground), look));
+                       ColourOf(Mix(StageLook::Current().ground, Qt::white, 0.42)), bold));
 }
 
 MacroForm::MacroForm(DrawingEdits& edits, QWidget* stage)
