@@ -1,8 +1,10 @@
 #include "platform/widgets/NameList.h"
 
 #include <QApplication>
+#include <QHelpEvent>
 #include <QPainter>
 #include <QSignalBlocker>
+#include <QToolTip>
 
 #include "platform/widgets/Figures.h"
 #include "platform/widgets/Theme.h"
@@ -26,19 +28,38 @@ void NameDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
     painter->setPen(chosen ? Mix(theme.accentText, theme.accent, 0.45) : theme.accent);
     painter->drawRect(option.rect.adjusted(1, 1, -2, -2));
   }
-  QRect room = option.rect.adjusted(kGap, 0, -kGap, 0);
   const QString count = index.data(kCountRole).toString();
+  const QRect room = NameRoom(option, count);
   if (!count.isEmpty()) {
     painter->setFont(UiFont(kCaptionPixels));
     painter->setPen(chosen ? Mix(theme.accentText, theme.accent, 0.25) : theme.muted);
-    DrawFigures(*painter, room, Qt::AlignRight | Qt::AlignVCenter, count);
-    room.setRight(room.right() - FiguresWidth(painter->fontMetrics(), count) - 8);
+    DrawFigures(*painter, option.rect.adjusted(kGap, 0, -kGap, 0), Qt::AlignRight | Qt::AlignVCenter, count);
   }
   painter->setFont(option.font);
   painter->setPen(ink);
   const QString name = painter->fontMetrics().elidedText(index.data().toString(), Qt::ElideRight, room.width());
   painter->drawText(room, Qt::AlignLeft | Qt::AlignVCenter, name);
   painter->restore();
+}
+
+QRect NameDelegate::NameRoom(const QStyleOptionViewItem& option, const QString& count) {
+  const int taken = count.isEmpty() ? 0 : FiguresWidth(QFontMetrics(UiFont(kCaptionPixels)), count) + 8;
+  return option.rect.adjusted(kGap, 0, -kGap - taken, 0);
+}
+
+bool NameDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                             const QModelIndex& index) {
+  if (event->type() != QEvent::ToolTip || !index.data(Qt::ToolTipRole).toString().isEmpty())
+    return QStyledItemDelegate::helpEvent(event, view, option, index);
+  const QString name = index.data().toString();
+  const int room = NameRoom(option, index.data(kCountRole).toString()).width();
+  if (option.fontMetrics.horizontalAdvance(name) <= room) {
+    QToolTip::hideText();
+    event->ignore();
+  } else {
+    QToolTip::showText(event->globalPos(), name, view);
+  }
+  return true;
 }
 
 QSize NameDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
@@ -65,7 +86,6 @@ void NameList::Fill(const QStringList& names, int current) {
   const QSignalBlocker quiet(this);
   clear();
   addItems(names);
-  for (int row = 0; row < count(); ++row) item(row)->setToolTip(names[row]);
   setCurrentRow(current);
 }
 

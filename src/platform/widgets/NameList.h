@@ -15,6 +15,12 @@ class NameDelegate : public QStyledItemDelegate {
   using QStyledItemDelegate::QStyledItemDelegate;
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+  /// A name that does not fit is told whole in a tip.
+  bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) override;
+
+ private:
+  static QRect NameRoom(const QStyleOptionViewItem& option, const QString& count);
 };
 
 /// A list of names. Nothing is chosen at first; an empty list shows `hint` in its middle.
