@@ -25,7 +25,10 @@ int Checked(const std::vector<std::string>& names, int row) {
 }  // namespace
 
 LibraryBrowser::LibraryBrowser(const Settings& settings, LastStudentInfo& remembered, Kind kind)
-    : tree_(settings), LastStudent_(remembered), kind_(kind) {}
+    : LibraryBrowser(LibraryTree(settings), remembered, kind) {}
+
+LibraryBrowser::LibraryBrowser(const LibraryTree& tree, LastStudentInfo& remembered, Kind kind)
+    : tree_(tree), LastStudent_(remembered), kind_(kind) {}
 
 void LibraryBrowser::CapfolderSetup(bool keepInstructor) {
   const std::string wanted = keepInstructor && instructor_ >= 0 ? Instructor() : LastStudent_[0];

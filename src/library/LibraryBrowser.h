@@ -21,6 +21,8 @@ class LibraryBrowser {
 
   /// `remembered` is the program's one remembered selection; it is not owned.
   LibraryBrowser(const Settings& settings, LastStudentInfo& remembered, Kind kind);
+  /// The same for a library elsewhere.
+  LibraryBrowser(const LibraryTree& tree, LastStudentInfo& remembered, Kind kind);
 
   // --- filling
 

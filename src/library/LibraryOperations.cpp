@@ -1,6 +1,8 @@
 #include "library/LibraryOperations.h"
 
 #include <algorithm>
+#include <cerrno>
+#include <system_error>
 #include <utility>
 
 #include "library/LibraryActions.h"
@@ -43,6 +45,15 @@ bool LibraryOperations::IsOpen(const std::string& videoPath) const {
   return analysis_.isOpenInAnalysis && analysis_.isOpenInAnalysis(videoPath);
 }
 
+/// Looks into the folders below as well: lessons are videos too.
+bool LibraryOperations::HoldsOpenVideo(const std::string& folder) const {
+  if (!analysis_.isOpenInAnalysis) return false;
+  const std::vector<std::string> files = ListFiles(folder, ".avi");
+  const std::vector<std::string> folders = ListFolders(folder);
+  return std::ranges::any_of(files, [&](const std::string& file) { return IsOpen(JoinPath(folder, file)); }) ||
+         std::ranges::any_of(folders, [&](const std::string& name) { return HoldsOpenVideo(JoinPath(folder, name)); });
+}
+
 std::string LibraryOperations::BusyText() const {
   return Busy() ? "Another operation is still at work. Please wait until it has finished." : "";
 }
@@ -68,17 +79,10 @@ std::string LibraryOperations::GuardStudent(const std::string& instructor, const
   if (student.empty() || instructor.empty() || instructor == kGeneralFolder) return words_.MustSelect();
   std::string refusal = BusyText();
   if (!refusal.empty()) return Refuse(refusal).status;
-  const std::string folder = tree_.StudentFolder(instructor, student);
-  std::vector<std::string> folders = ListFolders(folder);  // lessons are videos too
-  for (std::string& name : folders) name = JoinPath(folder, name);
-  folders.push_back(folder);
-  for (const std::string& place : folders) {
-    for (const std::string& file : ListFiles(place, ".avi")) {
-      if (!IsOpen(JoinPath(place, file))) continue;
-      return Refuse("A video from this database is open in the Analysis section. You must close the video before you can " +
-                    std::string(verb) + " this " + words_.noun() + ".")
-          .status;
-    }
+  if (HoldsOpenVideo(tree_.StudentFolder(instructor, student))) {
+    return Refuse("A video from this database is open in the Analysis section. You must close the video before you can " +
+                  std::string(verb) + " this " + words_.noun() + ".")
+        .status;
   }
   if (!Reachable(refusal)) return Refuse(refusal).status;
   return {};
@@ -102,6 +106,49 @@ OperationResult LibraryOperations::AddInstructor(std::string_view name) {
   const Outcome outcome = kinalyx::AddInstructor(tree_.Root(), name);
   if (!outcome.done) return Refuse(outcome.message);
   return {true, outcome.message, true, std::string(name)};
+}
+
+std::string LibraryOperations::GuardInstructor(const std::string& instructor, const char* verb) {
+  if (instructor.empty() || instructor == kGeneralFolder) return "You must select an Instructor or Database first.";
+  if (instructor == kQuickLaunch)
+    return "The folder " + instructor + " belongs to the program. You cannot " + std::string(verb) + " it.";
+  std::string refusal = BusyText();
+  if (!refusal.empty() || !Reachable(refusal)) return Refuse(refusal).status;
+  if (HoldsOpenVideo(tree_.InstructorFolder(instructor))) {
+    return Refuse("A video from this database is open in the Analysis section. You must close the video before you can " +
+                  std::string(verb) + " this database.")
+        .status;
+  }
+  return {};
+}
+
+OperationResult LibraryOperations::RenameInstructor(const std::string& instructor, std::string_view name) {
+  if (const std::string refusal = GuardInstructor(instructor, "rename"); !refusal.empty()) return Report(refusal);
+  if (!IsValidName(name)) return Refuse("Invalid character in Name");
+  if (IsBlank(name)) return Refuse("You must type a name!");
+  if (name == instructor) return Report("Rename cancelled.");
+  const std::string to = tree_.InstructorFolder(name);
+  const std::string taken = "There is already an Instructor or Database with this name.";
+  // These two stand for something else in the list.
+  if (name == kGeneralFolder || name == kQuickLaunch) return Refuse(taken);
+  std::string error;
+  if (!RenameEntry(tree_.InstructorFolder(instructor), to, &error, disk_))
+    return Refuse(EntryExists(to) ? taken : instructor + " could not be renamed: " + error);
+  return {true, instructor + " successfully renamed.", true, std::string(name)};
+}
+
+OperationResult LibraryOperations::DeleteInstructor(const std::string& instructor) {
+  if (const std::string refusal = GuardInstructor(instructor, "delete"); !refusal.empty()) return Report(refusal);
+  const std::string folder = tree_.InstructorFolder(instructor);
+  const auto refuseFull = [&] {
+    return Refuse(instructor + " still has " + words_.nouns() + " or videos. Move or delete them first.");
+  };
+  if (!ListFolders(folder).empty()) return refuseFull();
+  if (disk_.RemoveFolder(folder) < 0) {
+    if (errno == ENOTEMPTY || errno == EEXIST) return refuseFull();
+    return Refuse(instructor + " could not be removed: " + std::generic_category().message(errno));
+  }
+  return {true, instructor + " successfully removed from the system.", true};
 }
 
 OperationResult LibraryOperations::AddStudent(const std::string& instructor, const FieldTexts& captions,

@@ -76,6 +76,8 @@ class LibraryOperations {
   std::function<void(const std::string&)> ShowStatus;
   /// How far the long operation is; called several times a second.
   std::function<void(const JobProgress&)> ShowProgress;
+  /// The long operation is over, before it tells how it went: a progress window gets out of the way.
+  std::function<void()> OperationEnded;
 
   bool Busy() const { return runner_.Busy(); }
   /// Stops the long operation under way; its Done tells how it ended.
@@ -84,6 +86,12 @@ class LibraryOperations {
   // --- instructors and students
 
   OperationResult AddInstructor(std::string_view name);
+  /// The refusal of a change to an instructor or database, with `verb` "rename" or "delete": one must be
+  /// chosen that is a folder of the user's own, and none of its videos be open. Empty: go on.
+  std::string GuardInstructor(const std::string& instructor, const char* verb);
+  OperationResult RenameInstructor(const std::string& instructor, std::string_view name);
+  /// Removes the folder of an instructor who has neither students nor files.
+  OperationResult DeleteInstructor(const std::string& instructor);
   /// The student's name is field 0.
   OperationResult AddStudent(const std::string& instructor, const FieldTexts& captions, const FieldTexts& values);
   /// The refusal of an action for which a student must be chosen and none of its videos be open, with
@@ -125,6 +133,7 @@ class LibraryOperations {
   enum class Direction { Export, Import };
 
   bool IsOpen(const std::string& videoPath) const;
+  bool HoldsOpenVideo(const std::string& folder) const;
   bool Reachable(std::string& refusal) const;
   OperationResult Refuse(const std::string& text);
   static OperationResult Report(const std::string& text) { return {false, text}; }

@@ -19,7 +19,7 @@ bool IsBlank(std::string_view text) {
   return std::ranges::all_of(text, [](char c) { return c == ' '; });
 }
 
-const std::string& LibraryTree::Root() const { return settings_.LibraryPath; }
+LibraryTree::LibraryTree(const Settings& settings) : LibraryTree(settings.LibraryPath) {}
 
 std::vector<std::string> LibraryTree::Instructors() const {
   std::vector<std::string> names = ListFolders(Root());

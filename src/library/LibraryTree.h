@@ -29,12 +29,16 @@ bool IsBlank(std::string_view text);
 /// The selection that one list remembers for another: instructor, student, and the folder at that time.
 using LastStudentInfo = std::array<std::string, 3>;
 
-/// Answers where things lie in the library of the settings.
+/// Answers where things lie in the library of the settings, or in one at another root. A root that
+/// changes is followed.
 class LibraryTree {
  public:
-  explicit LibraryTree(const Settings& settings) : settings_(settings) {}
+  explicit LibraryTree(const Settings& settings);
+  /// `root` outlives the tree.
+  explicit LibraryTree(const std::string& root) : root_(root) {}
+  explicit LibraryTree(std::string&&) = delete;
 
-  const std::string& Root() const;
+  const std::string& Root() const { return root_; }
   /// "General Folder", then the folders under the root.
   std::vector<std::string> Instructors() const;
   /// None for "General Folder".
@@ -49,7 +53,7 @@ class LibraryTree {
   std::string QuickLaunchFolder() const;
 
  private:
-  const Settings& settings_;
+  const std::string& root_;
 };
 
 /// A file name as the lists show it: without its last four characters.

@@ -18,7 +18,8 @@ void LibraryOperations::Run(std::unique_ptr<Job> job, std::function<OperationRes
     if (watch) watch(progress);
     if (ShowProgress) ShowProgress(progress);
   };
-  runner_.Start(std::move(job), watchAll, [end = std::move(end), done = std::move(done)](IJob* over) {
+  runner_.Start(std::move(job), watchAll, [this, end = std::move(end), done = std::move(done)](IJob* over) {
+    if (OperationEnded) OperationEnded();
     // A job that was left to itself tells nothing any more.
     if (!over) return done({false, kOperationCancelled, true});
     done(end(static_cast<Job&>(*over)));

@@ -1,6 +1,8 @@
 // The operations on videos and whole databases.
 
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
 #include "library/DiskSpace.h"
@@ -27,6 +29,12 @@ bool RemoveVideo(const std::string& path, ICopyDisk& disk) {
   // An old sidecar does no harm: it makes way for the next video of its name.
   if (!sidecar.empty()) RemoveTree(sidecar, nullptr, disk);
   return true;
+}
+
+/// True for one folder under two names, as a link gives it, too.
+bool SamePlace(const std::string& a, const std::string& b) {
+  std::error_code failed;
+  return std::filesystem::equivalent(a, b, failed) && !failed;
 }
 
 constexpr const char* kCannotDelete = "Unable to delete the video. Try rebooting, then try again.";
@@ -222,6 +230,8 @@ void LibraryOperations::Transfer(Direction direction, const std::vector<LibraryV
     if (inFolder) folder = JoinPath(folder, video.instructor);
     const bool hasStudent = inFolder && !video.student.empty();
     if (hasStudent) folder = JoinPath(folder, video.student);
+    if (SamePlace(folder, FolderOf(video)))
+      return done(Refuse("The source and destination folders are the same. No videos were copied."));
     transfers.push_back({video.path, folder, hasStudent ? FolderOf(video) : std::string()});
   }
   const bool out = direction == Direction::Export;

@@ -195,6 +195,29 @@ TEST_F(LibraryOperationsTest, MovesAStudent) {
   EXPECT_EQ(Read("Carl/Joe Doe/(001) DL.ved"), "1XXXSXXX");
 }
 
+TEST_F(LibraryOperationsTest, RenamesAnInstructorAndRemovesOneWhoIsEmpty) {
+  open = {library.Path("Ann/Joe Doe/lessons/First.avi")};
+  EXPECT_TRUE(Ops().RenameInstructor("Ann", "Anna").status.ends_with("before you can rename this database."));
+  open.clear();
+  for (const char* taken : {"Bob", "General Folder", "Quick Launch"})
+    EXPECT_EQ(Ops().RenameInstructor("Ann", taken).status, "There is already an Instructor or Database with this name.");
+  EXPECT_EQ(Ops().RenameInstructor("Ann", "A:B").status, "Invalid character in Name");
+  EXPECT_EQ(Ops().RenameInstructor("General Folder", "X").status, "You must select an Instructor or Database first.");
+  library.Folder("Quick Launch");
+  EXPECT_FALSE(Ops().RenameInstructor("Quick Launch", "X").done);
+  const OperationResult renamed = Ops().RenameInstructor("Ann", "Anna B.");
+  EXPECT_EQ(renamed.instructor, "Anna B.");
+  EXPECT_EQ(Read("Anna B./Joe Doe/(001) DL.ved"), "1XXXSXXX");
+
+  EXPECT_EQ(Ops().DeleteInstructor("Bob").status, "Bob still has students or videos. Move or delete them first.");
+  fs::remove_all(library.Path("Bob/Sue"));
+  library.File("Bob/loose.avi", "a video without a student");
+  EXPECT_FALSE(Ops().DeleteInstructor("Bob").done);
+  fs::remove(library.Path("Bob/loose.avi"));
+  EXPECT_TRUE(Ops().DeleteInstructor("Bob").done);
+  EXPECT_FALSE(Exists("Bob"));
+}
+
 TEST_F(LibraryOperationsTest, DeletesAStudentWholeOrNotAtAll) {
   // Nothing can be removed for the whole time.
   class Stubborn final : public test::TwoDrives {
