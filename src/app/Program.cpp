@@ -13,6 +13,7 @@
 #include "core/forms/SetupPage.h"
 #include "core/forms/SplashForm.h"
 #include "library/forms/FieldsEditor.h"
+#include "library/forms/ImportExportPage.h"
 #include "library/forms/ProfilesPage.h"
 #include "platform/files/Folders.h"
 #include "platform/host/QtHost.h"
@@ -24,7 +25,7 @@ namespace {
 
 constexpr int kTwipsOfPixel = 15;
 /// Sections whose subsystems are not built yet.
-constexpr int kComing[] = {kCapturePage, kLessonPage, kImportExportPage};
+constexpr int kComing[] = {kCapturePage, kLessonPage};
 
 QString Text(const std::string& text) { return QString::fromStdString(text); }
 
@@ -38,7 +39,8 @@ Program::Program(QApplication& application)
       vocabulary_(settings_),
       fields_(JoinPath(settings_.DataPath, "fields.ini")),
       scheduler_(*host_),
-      players_{*host_, scheduler_} {}
+      players_{*host_, scheduler_},
+      operations_(*host_, settings_, LinkToAnalysis()) {}
 
 Program::~Program() = default;
 
@@ -76,9 +78,11 @@ void Program::LoadMain() {
   QObject::connect(menu_, &MenuPage::PageWanted, [this](int index) { OpenPage(index); });
   QObject::connect(menu_, &MenuPage::MenuChanged, [this] { setup_->SetupProgram(); });
 
-  profiles_ = new ProfilesPage(players_, settings_, fields_, lastStudent_,
-                               {.SendToAnalysis = [this](const std::string& path) { return SendToAnalysis(path); }});
+  profiles_ = new ProfilesPage(players_, settings_, fields_, lastStudent_, operations_);
   main_->SetPage(kProfilesPage, profiles_);
+
+  importExport_ = new ImportExportPage(*host_, settings_, operations_, lastStudent_);
+  main_->SetPage(kImportExportPage, importExport_);
 
   setup_ = new SetupPage(*host_, settings_, schemes_);
   setup_->SetFieldEditor(new FieldsEditor(*host_, fields_, [this] { profiles_->SetupFields(); }));
@@ -151,6 +155,7 @@ void Program::OpenPage(int index) {
   }
   if (!main_->Page(index)) return;
   if (index == kProfilesPage) profiles_->Open();
+  if (index == kImportExportPage) importExport_->Open();
   if (index == kSetupPage && setup_->CurrentSection() < 0) setup_->PSCmd_Click(SetupPage::kMainMenu);
   if (index == kHelpPage) help_->Navigate("index.htm");
   main_->OpenPage(index, Text(vocabulary_.PageTitle(index)));
@@ -161,6 +166,7 @@ void Program::SetupVocabulary() {
   menu_->SetupVocabulary();
   setup_->SetupVocabulary();
   profiles_->SetupVocabulary();
+  importExport_->SetupVocabulary();
 }
 
 void Program::ShowFirstForm() {
@@ -194,7 +200,17 @@ void Program::LeaveAnalysis() {
   });
 }
 
-std::string Program::SendToAnalysis(const std::string& path) { return Analysis().SendToAnalysis(path); }
+/// What the library may know of the analysis section, which is made by the first video that is sent to it.
+AnalysisLink Program::LinkToAnalysis() {
+  return {.isOpenInAnalysis =
+              [this](const std::string& path) {
+                return analysis_ && analysis_->Analysis().Slots().CheckOpenInAnalysis(path);
+              },
+          .sendToAnalysis =
+              [this](const std::string& path, const std::function<void(const std::string&)>& status) {
+                return Analysis().Analysis().Slots().SendToAnalysis(path, status);
+              }};
+}
 
 // ---------------------------------------------------------------- the end
 

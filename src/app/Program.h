@@ -7,6 +7,7 @@
 #include "core/MailSettings.h"
 #include "core/Settings.h"
 #include "core/Vocabulary.h"
+#include "library/LibraryOperations.h"
 #include "library/LibraryTree.h"
 #include "library/Profile.h"
 #include "platform/host/Host.h"
@@ -19,6 +20,7 @@ namespace kinalyx {
 
 class AnalysisForm;
 class HelpPage;
+class ImportExportPage;
 class Main;
 class MenuPage;
 class ProfilesPage;
@@ -49,7 +51,7 @@ class Program {
   void ShowFirstForm();
   AnalysisForm& Analysis();
   void LeaveAnalysis();
-  std::string SendToAnalysis(const std::string& path);
+  AnalysisLink LinkToAnalysis();
   bool Shutdown();
 
   QApplication& application_;
@@ -62,12 +64,14 @@ class Program {
   LastStudentInfo lastStudent_;
   PlayScheduler scheduler_;
   PlayerServices players_;
+  LibraryOperations operations_;
 
   std::unique_ptr<SplashForm> splash_;
   std::unique_ptr<Main> main_;
   // Owned by the main form.
   MenuPage* menu_ = nullptr;
   ProfilesPage* profiles_ = nullptr;
+  ImportExportPage* importExport_ = nullptr;
   AnalysisForm* analysis_ = nullptr;
   SetupPage* setup_ = nullptr;
   HelpPage* help_ = nullptr;

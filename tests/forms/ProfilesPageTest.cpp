@@ -1,74 +1,16 @@
 #include "library/forms/ProfilesPage.h"
 
 #include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QtTest/QTest>
 
-#include "../library/TempLibrary.h"
-#include "FormsSupport.h"
+#include "ProfilesStage.h"
 #include "library/forms/FieldsEditor.h"
-#include "library/forms/PreviewPlayer.h"
-#include "platform/widgets/NameList.h"
-#include "support/TestVideos.h"
 
 namespace kinalyx {
 namespace {
 
-class ProfilesPageTest : public ::testing::Test, protected test::UsesApplication {
- protected:
-  ProfilesPageTest() {
-    fields.EnsureFile();
-    fields.SetupFields();
-    library.Folder("Demo/Sample, Erica");
-    library.Folder("Demo/Tom");
-    library.Folder("Quick Launch");
-    AddVideo("Demo/Sample, Erica/(001) DTL driver.avi");
-    AddVideo("Demo/Sample, Erica/(002) FO iron.avi");
-    library.File("Demo/Sample, Erica/(002) FO iron.ved", "1XXXSNXX");
-    ProfilesPageCalls calls;
-    calls.SendToAnalysis = [this](const std::string& path) {
-      sent.push_back(path);
-      return std::string("Current video was sent to Analysis.");
-    };
-    page = std::make_unique<ProfilesPage>(services, library.settings, fields, remembered, calls);
-    page->resize(892, 700);
-    page->show();
-  }
-
-  void AddVideo(const std::string& name) {
-    const std::string video = test::MakeTestVideo(test::MjpegVideo(8));
-    ASSERT_FALSE(video.empty());
-    std::filesystem::copy_file(video, library.File(name), std::filesystem::copy_options::overwrite_existing);
-  }
-
-  template <typename T>
-  T* Find(const char* name) {
-    T* widget = page->findChild<T*>(name);
-    if (!widget) throw std::runtime_error(std::string("no control ") + name);
-    return widget;
-  }
-  NameList* List(const char* name) { return Find<NameList>(name); }
-  QStringList Rows(const char* name) {
-    QStringList rows;
-    for (int row = 0; row < List(name)->count(); ++row) rows << List(name)->item(row)->text();
-    return rows;
-  }
-  void Choose(const char* name, const QString& entry) { List(name)->setCurrentRow(int(Rows(name).indexOf(entry))); }
-  QString Text(const char* label) { return Find<QLabel>(label)->text(); }
-  void Press(const char* button) { Find<QPushButton>(button)->click(); }
-  AVIControl& Preview() { return page->findChild<PreviewPlayer*>()->Control(); }
-
-  test::TempLibrary library;
-  PlayScheduler scheduler{library.host};
-  PlayerServices services{library.host, scheduler};
-  ProfileFields fields{library.Data("fields.ini")};
-  LastStudentInfo remembered;
-  std::vector<std::string> sent;
-  std::unique_ptr<ProfilesPage> page;
-};
+using ProfilesPageTest = test::ProfilesStage;
 
 TEST_F(ProfilesPageTest, AChoiceInOneListFillsTheNextAndShowsTheVideo) {
   EXPECT_EQ(Rows("InstructorList"), QStringList({"General Folder", "Demo", "Quick Launch"}));
@@ -92,7 +34,11 @@ TEST_F(ProfilesPageTest, AChoiceInOneListFillsTheNextAndShowsTheVideo) {
   EXPECT_EQ(Preview().Info(), nullptr);
   EXPECT_EQ(Text("ProInfoLbl26"), "------------------");
   EXPECT_EQ(Text("ProInfoLbl0"), "Tom");
-  EXPECT_FALSE(Find<QPushButton>("SPBtn4")->isEnabled());
+  for (const char* button : {"SPBtn4", "SPBtn5", "SPBtn6", "SPBtn7", "SPBtn8", "SPBtn9", "SPBtn12"}) {
+    page->Say("");
+    Press(button);
+    EXPECT_EQ(Text("SPDisplay"), "You must select a video first.") << button;
+  }
   Choose("InstructorList", "General Folder");
   EXPECT_EQ(Text("ProInfoLbl0"), "");
   Choose("InstructorList", "Quick Launch");

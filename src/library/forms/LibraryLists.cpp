@@ -6,13 +6,14 @@
 
 namespace kinalyx {
 
-LibraryLists::LibraryLists(LibraryBrowser& browser, const Settings& settings, QObject* parent)
+LibraryLists::LibraryLists(LibraryBrowser& browser, const Settings& settings, QObject* parent,
+                           const std::array<const char*, 3>& names)
     : QObject(parent),
       browser_(browser),
       vocabulary_(settings),
-      instructors_(new NameList("InstructorList")),
-      students_(new NameList("StudentList")),
-      videos_(new NameList("VideoList")) {
+      instructors_(new NameList(names[0])),
+      students_(new NameList(names[1])),
+      videos_(new NameList(names[2])) {
   instructors_->setAccessibleName("Instructors");
   videos_->setAccessibleName("Videos");
   connect(instructors_, &QListWidget::currentRowChanged, this, [this](int row) {
@@ -99,7 +100,9 @@ bool LibraryLists::eventFilter(QObject* object, QEvent* event) {
     case Qt::Key_Return:
     case Qt::Key_Enter: return at == 2 ? QObject::eventFilter(object, event) : go(at == 0 && students_->count() == 0 ? 2 : at + 1);
     case Qt::Key_Space:
-      if (at != 2) return QObject::eventFilter(object, event);
+      // Where several can be chosen, it chooses.
+      if (at != 2 || videos_->selectionMode() != QAbstractItemView::SingleSelection)
+        return QObject::eventFilter(object, event);
       emit PlayWanted();
       return true;
     default: return QObject::eventFilter(object, event);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <array>
 
 #include "core/Vocabulary.h"
 #include "library/LibraryBrowser.h"
@@ -16,7 +17,9 @@ class LibraryLists : public QObject {
 
  public:
   /// The lists are made here, without a parent: the form places them.
-  LibraryLists(LibraryBrowser& browser, const Settings& settings, QObject* parent);
+  /// @param names  of the three lists, in their order
+  LibraryLists(LibraryBrowser& browser, const Settings& settings, QObject* parent,
+               const std::array<const char*, 3>& names = {"InstructorList", "StudentList", "VideoList"});
 
   NameList* InstructorList() { return instructors_; }
   NameList* StudentList() { return students_; }

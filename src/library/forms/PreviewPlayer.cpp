@@ -93,7 +93,7 @@ PreviewPlayer::PreviewPlayer(PlayerServices& services, QWidget* parent) : QFrame
   bar->addWidget(time_);
   rows->addWidget(bar_);
 
-  connect(play_, &QPushButton::clicked, this, &PreviewPlayer::TogglePlay);
+  connect(play_, &QPushButton::clicked, this, [this] { TogglePlay(); });
   connect(seek_, &QSlider::valueChanged, this, [this](int position) {
     if (Control().IsPlaying()) Control().StopPlay();
     Control().DrawFrame(position);
@@ -145,6 +145,28 @@ void PreviewPlayer::TogglePlay() {
   ShowState();
 }
 
+void PreviewPlayer::TogglePlay(int first, int last) {
+  if (!Control().Info()) return;
+  if (Control().IsPlaying()) {
+    Control().StopPlay();
+  } else {
+    const bool inside = Frame() >= first && Frame() < last;
+    Control().Play((inside ? Frame() : first) * FieldsOfFrame(), (last + 1) * FieldsOfFrame() - 1);
+  }
+  ShowState();
+}
+
+int PreviewPlayer::FrameCount() { return Control().VideoLength() / FieldsOfFrame(); }
+
+int PreviewPlayer::Frame() { return Control().Position() / FieldsOfFrame(); }
+
+void PreviewPlayer::ShowFrame(int frame) {
+  if (Control().IsPlaying()) Control().StopPlay();
+  Control().DrawFrame(frame * FieldsOfFrame());
+}
+
+void PreviewPlayer::SetBarShown(bool shown) { bar_->setVisible(shown); }
+
 void PreviewPlayer::resizeEvent(QResizeEvent* event) {
   QFrame::resizeEvent(event);
   PlaceView();
@@ -188,6 +210,7 @@ void PreviewPlayer::Signal(int Frame, int) {
   const QSignalBlocker quiet(seek_);
   seek_->setValue(Frame);
   ShowTime();
+  emit Moved();
 }
 
 void PreviewPlayer::Notify(int, int) { ShowState(); }

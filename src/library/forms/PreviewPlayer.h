@@ -28,15 +28,30 @@ class PreviewPlayer : public QFrame, private IFrameInterface, private IMouseAndK
   void Unload();
   /// Plays on from the present picture, from the first one when the last is shown; or pauses.
   void TogglePlay();
+  /// The same from one frame to another.
+  void TogglePlay(int first, int last);
+
+  // --- by frames, whether the video is shown by frames or by fields
+
+  int FrameCount();
+  int Frame();
+  void ShowFrame(int frame);
+  /// Hides the bar beneath the picture where a form has one of its own.
+  void SetBarShown(bool shown);
 
   QSize sizeHint() const override { return {320, 240}; }
   QSize minimumSizeHint() const override { return {140, 110}; }
+
+ signals:
+  /// Another picture is shown.
+  void Moved();
 
  protected:
   void resizeEvent(QResizeEvent*) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  int FieldsOfFrame() { return Control().SplitFields() ? 2 : 1; }
   void PlaceView();
   void ShowState();
   void ShowTime();

@@ -10,6 +10,7 @@
 #include "library/Sidecar.h"
 #include "library/forms/FieldGrid.h"
 #include "library/forms/HeadButton.h"
+#include "library/forms/LibraryCommands.h"
 #include "library/forms/LibraryLists.h"
 #include "library/forms/ProfileEditor.h"
 #include "library/forms/ProfilePanel.h"
@@ -22,15 +23,15 @@
 
 namespace kinalyx {
 
-ProfilesPage::ProfilesPage(PlayerServices& services, const Settings& settings, ProfileFields& fields,
-                           LastStudentInfo& remembered, ProfilesPageCalls calls, QWidget* parent)
+ProfilesPage::ProfilesPage(PlayerServices& services, Settings& settings, ProfileFields& fields,
+                           LastStudentInfo& remembered, LibraryOperations& operations, QWidget* parent)
     : QWidget(parent),
       services_(services),
       settings_(settings),
       vocabulary_(settings),
       fields_(fields),
       LastStudent_(remembered),
-      calls_(std::move(calls)),
+      operations_(operations),
       browser_(settings, remembered, LibraryBrowser::Kind::Profiles),
       lists_(new LibraryLists(browser_, settings, this)) {
   setObjectName("ProfilesPage");
@@ -44,7 +45,7 @@ ProfilesPage::ProfilesPage(PlayerServices& services, const Settings& settings, P
 
   instructors_ = MakeInstructorsPanel();
   students_ = MakeStudentsPanel();
-  videos_ = new VideosPanel(services, lists_->VideoList());
+  videos_ = new VideosPanel(services, settings, lists_->VideoList());
   MakeVideoButtons();
   profilePanel_ = new ProfilePanel(services.host, settings);
   editor_ = new ProfileEditor(settings);
@@ -63,11 +64,17 @@ ProfilesPage::ProfilesPage(PlayerServices& services, const Settings& settings, P
   grid_->addWidget(profilePanel_, 1, 0, 1, 3);
   grid_->addWidget(status, 2, 0, 1, 3);
 
+  commands_ = new LibraryCommands(services.host, settings, operations, browser_, *videos_,
+                                  {.Release = [this] { return Release(); },
+                                   .Show = [this](const OperationResult& result) { ShowResult(result); },
+                                   .Say = [this](const QString& text) { Say(text); }},
+                                  this);
   connect(lists_, &LibraryLists::InstructorChosen, this, &ProfilesPage::InstructorChosen);
   connect(lists_, &LibraryLists::StudentChosen, this, &ProfilesPage::StudentList_Click);
   connect(lists_, &LibraryLists::VideoChosen, this, &ProfilesPage::VideoList_Click);
-  connect(lists_, &LibraryLists::VideoActivated, this, &ProfilesPage::SendToAnalysis);
+  connect(lists_, &LibraryLists::VideoActivated, commands_, &LibraryCommands::SendToAnalysis);
   connect(lists_, &LibraryLists::PlayWanted, this, [this] { videos_->VideoPlay1().TogglePlay(); });
+  for (QWidget* list : {lists_->InstructorList(), lists_->StudentList(), lists_->VideoList()}) list->installEventFilter(this);
   connect(profilePanel_, &ProfilePanel::EditWanted, this, [this] { OpenEditor(true); });
   connect(profilePanel_, &ProfilePanel::BackWanted, this, [this] { ShowProfileView(false); });
   connect(profilePanel_, &ProfilePanel::Said, this, &ProfilesPage::Say);
@@ -104,6 +111,19 @@ Panel* ProfilesPage::MakeInstructorsPanel() {
   addInstructor_->setToolTip("Add an instructor or database to the library");
   panel->Foot()->addWidget(addInstructor_);
   panel->Foot()->addStretch(1);
+  renameInstructor_ = HeadButton("RenameInstructorBtn", {}, "rename");
+  renameInstructor_->setToolTip("Rename the current instructor or database");
+  deleteInstructor_ = HeadButton("DeleteInstructorBtn", {}, "trash");
+  deleteInstructor_->setToolTip("Delete the current instructor or database, which must be empty");
+  auto* tools = new QHBoxLayout;
+  tools->setSpacing(0);
+  for (Button* button : {renameInstructor_, deleteInstructor_}) {
+    button->setAccessibleName(button->toolTip());
+    tools->addWidget(button);
+  }
+  panel->Head()->addLayout(tools);
+  connect(renameInstructor_, &QPushButton::clicked, this, [this] { commands_->RenameInstructor(); });
+  connect(deleteInstructor_, &QPushButton::clicked, this, [this] { commands_->DeleteInstructor(); });
   connect(addInstructor_, &QPushButton::clicked, this, [this] { SSCommand2(); });
   connect(Text2_, &QLineEdit::returnPressed, this, [this] { SSCommand2(); });
   return panel;
@@ -112,66 +132,47 @@ Panel* ProfilesPage::MakeInstructorsPanel() {
 Panel* ProfilesPage::MakeStudentsPanel() {
   auto* panel = new Panel("StudentsTitle", "Students");
   panel->Body()->addWidget(lists_->StudentList(), 1);
-  MakeButton(kAddStudent, "", "add");
-  MakeButton(kRenameStudent, "", "rename");
-  MakeButton(kMoveStudent, "", "move");
-  MakeButton(kDeleteStudent, "", "trash");
-  MakeButton(kProfileView, "", "notes");
-  for (const int command : {kAddStudent, kRenameStudent, kMoveStudent, kDeleteStudent, kProfileView})
-    panel->Foot()->addWidget(SPBtn(command));
+  using enum LibraryAction;
+  MakeButton(AddStudent, "", "add");
+  MakeButton(RenameStudent, "", "rename");
+  MakeButton(MoveStudent, "", "move");
+  MakeButton(DeleteStudent, "", "trash");
+  MakeButton(LibraryAction::Profile, "", "notes");
+  for (const LibraryAction action : {AddStudent, RenameStudent, MoveStudent, DeleteStudent, LibraryAction::Profile})
+    panel->Foot()->addWidget(SPBtn(action));
   panel->Foot()->addStretch(1);
-  SPBtn(kProfileView)->setCheckable(true);
-  for (const int command : {kRenameStudent, kMoveStudent, kDeleteStudent}) Coming(SPBtn(command));
+  SPBtn(LibraryAction::Profile)->setCheckable(true);
   return panel;
 }
 
 void ProfilesPage::MakeVideoButtons() {
-  MakeButton(kAnalyze, "Analyze", "analyze");
-  MakeButton(kTrim, "", "trim");
-  MakeButton(kRenameVideo, "", "rename");
-  MakeButton(kMoveVideo, "", "move");
-  MakeButton(kCopyVideo, "", "copy");
-  MakeButton(kDeleteVideo, "", "trash");
-  AddButton(kStatistics, HeadButton("SPBtn11", "Show Stats", "stats"));
-  MakeButton(kCopyToQuickLaunch, "Quick Launch +", "");
-  for (const int command : {kAnalyze, kTrim, kRenameVideo, kMoveVideo, kCopyVideo, kDeleteVideo})
-    videos_->Foot()->addWidget(SPBtn(command));
+  using enum LibraryAction;
+  MakeButton(SendToAnalysis, "Analyze", "analyze");
+  MakeButton(Trim, "", "trim");
+  MakeButton(RenameVideo, "", "rename");
+  MakeButton(MoveVideo, "", "move");
+  MakeButton(CopyVideo, "", "copy");
+  MakeButton(DeleteVideo, "", "trash");
+  AddButton(Statistics, HeadButton("SPBtn11", Q(StatisticsCaption(false)), "stats"));
+  MakeButton(QuickLaunch, "Quick Launch +", "");
+  for (const LibraryAction action : {SendToAnalysis, Trim, RenameVideo, MoveVideo, CopyVideo, DeleteVideo})
+    videos_->Foot()->addWidget(SPBtn(action));
   videos_->Foot()->addStretch(1);
-  videos_->Foot()->addWidget(SPBtn(kCopyToQuickLaunch));
-  videos_->Head()->addWidget(SPBtn(kStatistics));
-  for (const int command : {kTrim, kRenameVideo, kMoveVideo, kCopyVideo, kDeleteVideo, kCopyToQuickLaunch})
-    Coming(SPBtn(command));
+  videos_->Foot()->addWidget(SPBtn(QuickLaunch));
+  videos_->Head()->addWidget(SPBtn(Statistics));
 }
 
-void ProfilesPage::MakeButton(int command, const char* caption, const char* icon) {
-  AddButton(command, new Button(QString("SPBtn%1").arg(command), caption, icon));
+void ProfilesPage::MakeButton(LibraryAction action, const char* caption, const char* icon) {
+  AddButton(action, new Button(QString("SPBtn%1").arg(static_cast<int>(action)), caption, icon));
 }
 
-void ProfilesPage::AddButton(int command, Button* button) {
+void ProfilesPage::AddButton(LibraryAction action, Button* button) {
   button->installEventFilter(this);
-  connect(button, &QPushButton::clicked, this, [this, command] { SPBtn_Click(command); });
-  buttons_[static_cast<std::size_t>(command)] = button;
+  connect(button, &QPushButton::clicked, this, [this, action] { SPBtn_Click(action); });
+  buttons_[static_cast<std::size_t>(action)] = button;
 }
 
-QString ProfilesPage::HoverText(int command) const {
-  const QString noun = Q(vocabulary_.noun());
-  switch (command) {
-    case kAddStudent: return "Add new " + noun + " to the library.";
-    case kRenameStudent: return "Rename the current " + noun + ".";
-    case kMoveStudent: return "Move the current " + noun + " to another database or instructor.";
-    case kDeleteStudent: return "Delete the current " + noun + " database, profile, and all videos.";
-    case kAnalyze: return "Send current video to the analysis section.";
-    case kTrim: return "Trim excess frames from front and back of the current video.";
-    case kRenameVideo: return "Rename the current video.";
-    case kMoveVideo: return "Move the current video to a different instructor or database.";
-    case kCopyVideo: return "Copy the current video to a removeable disk.";
-    case kDeleteVideo: return "Delete the current video.";
-    case kProfileView: return "Show complete profile and notes.";
-    case kStatistics: return "Show video statistics.";
-    case kCopyToQuickLaunch: return "Copy the current video to the Quick Launch folder.";
-    default: return {};
-  }
-}
+QString ProfilesPage::HoverText(LibraryAction action) const { return Q(LibraryActionTip(action, settings_)); }
 
 // ---------------------------------------------------------------- life of the page
 
@@ -190,9 +191,37 @@ void ProfilesPage::Open() {
 
 bool ProfilesPage::Leave() {
   question_.Stop();
+  commands_->CloseTrim();
   videos_->VideoPlay1().Unload();
   shownVideo_.clear();
   return profilePanel_->SaveNotes();
+}
+
+/// Lets an operation have the student and the video.
+bool ProfilesPage::Release() {
+  if (!Leave()) return false;
+  shownStudent_.clear();
+  profilePanel_->OpenStudent("");
+  return true;
+}
+
+void ProfilesPage::ShowResult(const OperationResult& result) {
+  // Who has left the page meanwhile finds everything read anew on coming back.
+  if (!isVisible()) return;
+  const std::string folder = browser_.Folder();
+  const std::string video = browser_.Video();
+  const int row = browser_.VideoIndex();
+  kinalyx::ShowResult(result, browser_);
+  // Where a video has gone, the next one takes its place in the list.
+  const bool gone = result.refill && !video.empty() && browser_.Folder() == folder && result.video.empty() &&
+                    browser_.Video() != video;
+  if (gone) browser_.VideoList_Click(std::min(row, static_cast<int>(browser_.VideoList().size()) - 1));
+  if (result.refill) {
+    lists_->ShowAll();
+    return;
+  }
+  OpenProfile();
+  VideoList_Click();
 }
 
 void ProfilesPage::showEvent(QShowEvent* event) {
@@ -209,9 +238,10 @@ void ProfilesPage::hideEvent(QHideEvent* event) {
 void ProfilesPage::SetupVocabulary() {
   students_->SetTitle(Q(vocabulary_.Nouns()));
   profilePanel_->SetupVocabulary();
-  for (int command = 0; command < kCommandCount; ++command) {
-    if (SPBtn(command)->isEnabled()) SPBtn(command)->setToolTip(HoverText(command).chopped(1));
-    SPBtn(command)->setAccessibleName(HoverText(command).chopped(1));
+  for (int index = 0; index < kLibraryActions; ++index) {
+    const auto action = static_cast<LibraryAction>(index);
+    SPBtn(action)->setToolTip(HoverText(action).chopped(1));
+    SPBtn(action)->setAccessibleName(HoverText(action).chopped(1));
   }
 }
 
@@ -232,12 +262,30 @@ bool ProfilesPage::eventFilter(QObject* object, QEvent* event) {
     lists_->InstructorList()->setFocus();
     return true;
   }
+  if (event->type() == QEvent::KeyPress && ListKey(object, static_cast<QKeyEvent*>(event)->key())) return true;
   const auto button = std::find(buttons_.begin(), buttons_.end(), object);
   if (button != buttons_.end() && (event->type() == QEvent::Enter || event->type() == QEvent::FocusIn))
-    SPDisplay_->setText(HoverText(static_cast<int>(button - buttons_.begin())));
+    SPDisplay_->setText(HoverText(static_cast<LibraryAction>(button - buttons_.begin())));
   if (button != buttons_.end() && (event->type() == QEvent::Leave || event->type() == QEvent::FocusOut))
     SPDisplay_->setText(said_);
   return QWidget::eventFilter(object, event);
+}
+
+/// F2 and Delete in a list are about what is chosen in it.
+bool ProfilesPage::ListKey(QObject* list, int key) {
+  if (key != Qt::Key_F2 && key != Qt::Key_Delete) return false;
+  const bool rename = key == Qt::Key_F2;
+  if (list == lists_->InstructorList()) {
+    if (rename) commands_->RenameInstructor();
+    else commands_->DeleteInstructor();
+  } else if (list == lists_->StudentList()) {
+    commands_->Run(rename ? LibraryAction::RenameStudent : LibraryAction::DeleteStudent);
+  } else if (list == lists_->VideoList()) {
+    commands_->Run(rename ? LibraryAction::RenameVideo : LibraryAction::DeleteVideo);
+  } else {
+    return false;
+  }
+  return true;
 }
 
 void ProfilesPage::keyPressEvent(QKeyEvent* event) {
@@ -254,7 +302,10 @@ void ProfilesPage::keyPressEvent(QKeyEvent* event) {
 // ---------------------------------------------------------------- choices
 
 void ProfilesPage::InstructorChosen() {
-  SPBtn(kCopyToQuickLaunch)->setText(browser_.IsQuickLaunch() ? "Quick Launch -" : "Quick Launch +");
+  SPBtn(LibraryAction::QuickLaunch)->setText(Q(QuickLaunchCaption(browser_.Instructor())));
+  const bool own = !browser_.IsGeneralFolder() && !browser_.IsQuickLaunch();
+  renameInstructor_->setEnabled(own);
+  deleteInstructor_->setEnabled(own);
   if (editor_->isHidden()) return;
   editor_->SetInstructor(browser_.IsGeneralFolder() ? std::string() : browser_.Instructor());
   editor_->FocusName();
@@ -279,8 +330,8 @@ void ProfilesPage::OpenProfile() {
 
 void ProfilesPage::VideoList_Click() {
   const std::string path = browser_.VideoPath();
-  SPBtn(kAnalyze)->setEnabled(!path.empty());
   if (path == shownVideo_ && !path.empty()) return;
+  commands_->CloseTrim();
   shownVideo_ = path;
   question_.Stop();
   if (videos_->ShowVideo(path)) return;
@@ -304,37 +355,27 @@ void ProfilesPage::OfferToDelete(const std::string& path) {
 
 // ---------------------------------------------------------------- commands
 
-void ProfilesPage::SPBtn_Click(int command) {
-  switch (command) {
-    case kAddStudent: OpenEditor(false); break;
-    case kAnalyze: SendToAnalysis(); break;
-    case kProfileView: ShowProfileView(profilePanel_->CurrentView() != ProfilePanel::View::Complete); break;
-    case kStatistics:
+void ProfilesPage::SPBtn_Click(LibraryAction action) {
+  switch (action) {
+    case LibraryAction::AddStudent: OpenEditor(false); break;
+    case LibraryAction::Profile: ShowProfileView(profilePanel_->CurrentView() != ProfilePanel::View::Complete); break;
+    case LibraryAction::Statistics:
       videos_->ShowStatsPanel(!videos_->StatsShown());
-      SPBtn(kStatistics)->setText(videos_->StatsShown() ? "Stats Off" : "Show Stats");
+      SPBtn(action)->setText(Q(StatisticsCaption(videos_->StatsShown())));
       break;
-    default: break;
+    default: commands_->Run(action); break;
   }
-}
-
-void ProfilesPage::SendToAnalysis() {
-  if (!browser_.HasVideo()) {
-    Say("You must select a video first.");
-    return;
-  }
-  if (videos_->VideoPlay1().Control().IsPlaying()) videos_->VideoPlay1().TogglePlay();
-  Say("Loading Analysis Section...");
-  if (calls_.SendToAnalysis) Say(Q(calls_.SendToAnalysis(browser_.VideoPath())));
 }
 
 void ProfilesPage::ShowProfileView(bool shown) {
   if (shown && !browser_.HasStudent()) {
-    SPBtn(kProfileView)->setChecked(false);
+    SPBtn(LibraryAction::Profile)->setChecked(false);
     Say(Q(vocabulary_.MustSelect()));
     return;
   }
-  SPBtn(kProfileView)->setChecked(shown);
+  SPBtn(LibraryAction::Profile)->setChecked(shown);
   if (shown) videos_->VideoPlay1().Control().StopPlay();
+  commands_->CloseTrim();
   videos_->setVisible(!shown);
   profilePanel_->SetView(shown ? ProfilePanel::View::Complete : ProfilePanel::View::Brief);
   if (shown) {
@@ -367,6 +408,7 @@ void ProfilesPage::OpenEditor(bool edit) {
     editor_->SetInstructor(browser_.IsGeneralFolder() ? std::string() : browser_.Instructor());
   }
   videos_->VideoPlay1().Control().StopPlay();
+  commands_->CloseTrim();
   profilePanel_->SaveNotes();
   lists_->InstructorList()->setEnabled(!edit);
   addInstructor_->setEnabled(!edit);
@@ -407,16 +449,12 @@ void ProfilesPage::ProAddSaveBtn() {
     Say("You must select an Instructor or Database first.");
     return;
   }
-  const Outcome added =
-      AddStudent(browser_.Tree().InstructorFolder(instructor), fields_.Captions(), values, vocabulary_.noun());
+  const OperationResult added = operations_.AddStudent(instructor, fields_.Captions(), values);
   if (added.done) {
-    const std::string& name = values[kNameField];
-    LastStudent_ = {instructor, name, browser_.Tree().StudentFolder(instructor, name)};
     CloseEditor();
-    browser_.CapfolderSetup();
-    lists_->ShowAll();
+    ShowResult(added);
   }
-  Say(Q(added.message));
+  Say(Q(added.status));
 }
 
 void ProfilesPage::ShowInstructorBox(bool shown) {
@@ -432,15 +470,15 @@ void ProfilesPage::SSCommand2() {
     return;
   }
   const std::string name = Std(Text2_->text());
-  const Outcome added = AddInstructor(browser_.Tree().Root(), name);
+  const OperationResult added = operations_.AddInstructor(name);
   if (added.done) {
     ShowInstructorBox(false);
     LastStudent_ = {name, "", browser_.Tree().InstructorFolder(name)};
-    browser_.CapfolderSetup();
+    kinalyx::ShowResult(added, browser_);
     editor_->SetInstructors(RealInstructors());  // what has been typed into the panel stays
     lists_->ShowAll();
   }
-  Say(Q(added.message));
+  Say(Q(added.status));
 }
 
 }  // namespace kinalyx

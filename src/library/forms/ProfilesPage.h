@@ -8,7 +8,9 @@
 
 #include "core/Settings.h"
 #include "core/Vocabulary.h"
+#include "library/LibraryActions.h"
 #include "library/LibraryBrowser.h"
+#include "library/LibraryOperations.h"
 #include "library/Profile.h"
 #include "platform/host/Host.h"
 #include "video/AVIControl.h"
@@ -20,17 +22,12 @@ class QLineEdit;
 namespace kinalyx {
 
 class Button;
+class LibraryCommands;
 class LibraryLists;
 class Panel;
 class ProfileEditor;
 class ProfilePanel;
 class VideosPanel;
-
-/// What the profiles page asks of the rooms above it.
-struct ProfilesPageCalls {
-  /// Opens a video in the analysis section; returns what the status line says about it.
-  std::function<std::string(const std::string& path)> SendToAnalysis;
-};
 
 /// The library page: instructors, students and videos side by side, the preview of the selected video,
 /// and the profile of the selected student.
@@ -38,15 +35,9 @@ class ProfilesPage : public QWidget {
   Q_OBJECT
 
  public:
-  /// Buttons `SPBtn`, by their numbers.
-  enum Command {
-    kAddStudent, kRenameStudent, kMoveStudent, kDeleteStudent, kAnalyze, kTrim, kRenameVideo, kMoveVideo,
-    kCopyVideo, kDeleteVideo, kProfileView, kStatistics, kCopyToQuickLaunch, kCommandCount
-  };
-
-  /// `services`, `settings`, `fields` and `remembered` outlive the page.
-  ProfilesPage(PlayerServices& services, const Settings& settings, ProfileFields& fields, LastStudentInfo& remembered,
-               ProfilesPageCalls calls, QWidget* parent = nullptr);
+  /// All that is passed outlives the page.
+  ProfilesPage(PlayerServices& services, Settings& settings, ProfileFields& fields, LastStudentInfo& remembered,
+               LibraryOperations& operations, QWidget* parent = nullptr);
   ~ProfilesPage() override;
 
   /// The page is about to be shown: reads the library and goes to the remembered student.
@@ -62,8 +53,8 @@ class ProfilesPage : public QWidget {
   void Say(const QString& text);
 
   LibraryBrowser& Browser() { return browser_; }
-  Button* SPBtn(int command) { return buttons_[static_cast<std::size_t>(command)]; }
-  void SPBtn_Click(int command);
+  Button* SPBtn(LibraryAction action) { return buttons_[static_cast<std::size_t>(action)]; }
+  void SPBtn_Click(LibraryAction action);
 
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;
@@ -75,10 +66,13 @@ class ProfilesPage : public QWidget {
   Panel* MakeInstructorsPanel();
   Panel* MakeStudentsPanel();
   void MakeVideoButtons();
-  void MakeButton(int command, const char* caption, const char* icon);
-  void AddButton(int command, Button* button);
-  QString HoverText(int command) const;
+  void MakeButton(LibraryAction action, const char* caption, const char* icon);
+  void AddButton(LibraryAction action, Button* button);
+  QString HoverText(LibraryAction action) const;
+  bool ListKey(QObject* list, int key);
 
+  bool Release();
+  void ShowResult(const OperationResult& result);
   void InstructorChosen();
   void StudentList_Click();
   void VideoList_Click();
@@ -91,16 +85,16 @@ class ProfilesPage : public QWidget {
   void ProAddSaveBtn();
   void ShowInstructorBox(bool shown);
   void SSCommand2();
-  void SendToAnalysis();
 
   PlayerServices& services_;
-  const Settings& settings_;
+  Settings& settings_;
   Vocabulary vocabulary_;
   ProfileFields& fields_;
   LastStudentInfo& LastStudent_;
-  ProfilesPageCalls calls_;
+  LibraryOperations& operations_;
   LibraryBrowser browser_;
   LibraryLists* lists_;
+  LibraryCommands* commands_;
   Profile profile_;
   QString said_;
   HostTimer question_;
@@ -117,8 +111,10 @@ class ProfilesPage : public QWidget {
   QWidget* newInstructor_;
   QLineEdit* Text2_;
   Button* addInstructor_;
+  Button* renameInstructor_;
+  Button* deleteInstructor_;
   QLabel* SPDisplay_;
-  std::array<Button*, kCommandCount> buttons_{};
+  std::array<Button*, kLibraryActions> buttons_{};
 };
 
 }  // namespace kinalyx

@@ -5,7 +5,9 @@
 #include <QLabel>
 #include <QPainter>
 
+#include "library/LibraryActions.h"
 #include "library/Sidecar.h"
+#include "library/forms/EditPanel.h"
 #include "library/forms/Text.h"
 #include "platform/widgets/Figures.h"
 #include "platform/widgets/Theme.h"
@@ -69,7 +71,7 @@ class SummaryLine final : public QWidget {
 
 // ---------------------------------------------------------------- panel
 
-VideosPanel::VideosPanel(PlayerServices& services, NameList* list, QWidget* parent)
+VideosPanel::VideosPanel(PlayerServices& services, const Settings& settings, NameList* list, QWidget* parent)
     : Panel("VideosTitle", "Videos", parent), list_(list) {
   count_ = new FigureLabel("VideoCount");
   count_->setProperty("look", "caption");
@@ -124,6 +126,9 @@ VideosPanel::VideosPanel(PlayerServices& services, NameList* list, QWidget* pare
   Body()->addWidget(strip);
   Body()->addWidget(statsPart_);
   statsPart_->hide();
+  trim_ = new EditPanel(*preview_, Q(LibraryTextsFor(settings).trim));
+  trim_->hide();
+  layout()->addWidget(trim_);
   ShowVideo("");
 }
 
@@ -154,6 +159,17 @@ void VideosPanel::ShowStats(const VideoStats& stats) {
 void VideosPanel::ShowStatsPanel(bool shown) { statsPart_->setVisible(shown); }
 
 bool VideosPanel::StatsShown() const { return !statsPart_->isHidden(); }
+
+void VideosPanel::ShowTrim(bool shown) {
+  if (shown == TrimShown()) return;
+  trim_->setVisible(shown);
+  Foot()->parentWidget()->setVisible(!shown);
+  list_->setEnabled(!shown);
+  preview_->SetBarShown(!shown);
+  if (shown) trim_->Open();
+}
+
+bool VideosPanel::TrimShown() const { return !trim_->isHidden(); }
 
 void VideosPanel::SetCount(int videos) {
   count_->setText(videos > 0 ? QString::number(videos) : QString());

@@ -11,8 +11,9 @@ class QLabel;
 
 namespace kinalyx {
 
-class Button;
+class EditPanel;
 class FigureLabel;
+class Settings;
 
 /// A mark that is lit when the selected video has drawings (`VidInfoPanel0`) or notes (`VidInfoPanel1`).
 class SidecarMarkLabels : public QWidget {
@@ -30,7 +31,7 @@ class VideosPanel : public Panel {
   Q_OBJECT
 
  public:
-  VideosPanel(PlayerServices& services, NameList* list, QWidget* parent = nullptr);
+  VideosPanel(PlayerServices& services, const Settings& settings, NameList* list, QWidget* parent = nullptr);
 
   PreviewPlayer& VideoPlay1() { return *preview_; }
   /// Shows a video, or nothing for "". False when it cannot be opened.
@@ -39,6 +40,12 @@ class VideosPanel : public Panel {
   void ShowStatsPanel(bool shown);
   bool StatsShown() const;
   void SetCount(int videos);
+
+  /// The panel in which the shown video is trimmed, in the place of the buttons.
+  EditPanel& Trim() { return *trim_; }
+  void ShowTrim(bool shown);
+  bool TrimShown() const;
+  void FocusList() { list_->setFocus(); }
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
@@ -49,6 +56,7 @@ class VideosPanel : public Panel {
   NameList* list_;
   PreviewPlayer* preview_;
   QWidget* statsPart_;
+  EditPanel* trim_;
   FigureLabel* count_;
   class SummaryLine* summary_;
   SidecarMarkLabels* marks_;

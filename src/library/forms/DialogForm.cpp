@@ -1,0 +1,289 @@
+#include "library/forms/DialogForm.h"
+
+#include <QBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+
+#include "library/DiskSpace.h"
+#include "library/LibraryActions.h"
+#include "library/forms/DriveChoice.h"
+#include "library/forms/Text.h"
+#include "platform/files/Folders.h"
+#include "platform/widgets/Buttons.h"
+#include "platform/widgets/NameList.h"
+#include "platform/widgets/Panel.h"
+#include "platform/widgets/Theme.h"
+
+namespace kinalyx {
+
+namespace {
+
+using Mode = DialogForm::Mode;
+
+/// Which button each mode has, and which panel.
+struct ModeLook {
+  const char* button;
+  const char* icon;
+  enum class Part { Rename, Move, Delete, Copy } part;
+};
+
+ModeLook LookOf(Mode mode) {
+  using Part = ModeLook::Part;
+  switch (mode) {
+    case Mode::RenameInstructor: return {"RenInstructorBtn", "rename", Part::Rename};
+    case Mode::DeleteInstructor: return {"DelInstructorBtn", "trash", Part::Delete};
+    case Mode::RenameStudent: return {"SSCommand1", "rename", Part::Rename};
+    case Mode::MoveStudent: return {"MoveSave", "move", Part::Move};
+    case Mode::DeleteStudent: return {"DelStudentBtn", "trash", Part::Delete};
+    case Mode::RenameVideo: return {"RenVidBtn", "rename", Part::Rename};
+    case Mode::MoveVideo: return {"MoveVideoBtn", "move", Part::Move};
+    case Mode::CopyVideo: return {"ExportVidBtn", "copy", Part::Copy};
+    case Mode::DeleteVideo: return {"DelVidBtn", "trash", Part::Delete};
+  }
+  return {};
+}
+
+/// A caption with a list beneath it, in a frame.
+QWidget* Framed(QLabel* caption, NameList* list) {
+  auto* part = new QWidget;
+  auto* rows = new QVBoxLayout(part);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->setSpacing(4);
+  auto* frame = MakeFrame("panel");
+  auto* inside = new QVBoxLayout(frame);
+  inside->setContentsMargins(1, 5, 1, 5);
+  inside->addWidget(list);
+  rows->addWidget(caption);
+  rows->addWidget(frame, 1);
+  return part;
+}
+
+/// A list that has got the keys has a current row; that alone is no choice.
+std::string ChosenIn(const NameList& list) {
+  const auto chosen = list.selectedItems();
+  return chosen.isEmpty() ? std::string() : Std(chosen.first()->text());
+}
+
+}  // namespace
+
+DialogForm::DialogForm(IHost& host, Settings& settings, QWidget* over)
+    : QDialog(over), host_(host), settings_(settings), tree_(settings) {
+  setObjectName("DialogForm");
+  setWindowModality(Qt::WindowModal);
+  auto* rows = new QVBoxLayout(this);
+  rows->setContentsMargins(24, 20, 24, 20);
+  rows->setSpacing(kGap);
+  rows->setSizeConstraint(QLayout::SetFixedSize);
+  title_ = MakeLabel("DialogTitle", {}, "title");
+  text_ = MakeLabel("DialogText", {});
+  text_->setWordWrap(true);
+  text_->setFixedWidth(460);
+  renamePanel_ = MakeRenamePanel();
+  movePanel_ = MakeMovePanel();
+  copyPanel_ = MakeCopyPanel(host, settings);
+  for (QWidget* row : {static_cast<QWidget*>(title_), static_cast<QWidget*>(text_), renamePanel_, movePanel_, copyPanel_})
+    rows->addWidget(row);
+  auto* actions = new QHBoxLayout;
+  cancel_ = new Button("DialogCancel", "Cancel", {}, Look::Quiet);
+  action_ = new Button("SSCommand1", {}, "rename");
+  action_->setProperty("square", false);
+  actions->addStretch(1);
+  actions->addWidget(cancel_);
+  actions->addWidget(action_);
+  rows->addLayout(actions);
+  connect(cancel_, &QPushButton::clicked, this, &QDialog::reject);
+  connect(action_, &QPushButton::clicked, this, &DialogForm::Wanted);
+}
+
+QWidget* DialogForm::MakeRenamePanel() {
+  name_ = new QLineEdit;
+  name_->setObjectName("RenameText");
+  name_->setAccessibleName("New name");
+  name_->setMaxLength(120);
+  connect(name_, &QLineEdit::textChanged, this, &DialogForm::ShowAction);
+  return name_;
+}
+
+QWidget* DialogForm::MakeMovePanel() {
+  auto* panel = new QWidget;
+  auto* columns = new QHBoxLayout(panel);
+  columns->setContentsMargins(0, 0, 0, 0);
+  columns->setSpacing(kGap);
+  databases_ = new NameList("MoveDatabases");
+  databases_->setAccessibleName("Databases");
+  databases_->SetHint("There is no other database. Add one first.");
+  students_ = new NameList("MoveStudents");
+  studentsTitle_ = MakeLabel("MoveStudentsTitle", {}, "heading");
+  studentsPart_ = Framed(studentsTitle_, students_);
+  columns->addWidget(Framed(MakeLabel("MoveDatabasesTitle", "Databases", "heading"), databases_), 1);
+  columns->addWidget(studentsPart_, 1);
+  panel->setFixedSize(460, 260);
+  connect(databases_, &QListWidget::itemSelectionChanged, this, [this] {
+    ShowStudents();
+    ShowAction();
+  });
+  for (NameList* list : {databases_, students_}) {
+    connect(list, &QListWidget::itemActivated, this, [this, list] {
+      if (list == databases_ && !studentsPart_->isHidden()) students_->setFocus();
+      else if (action_->isEnabled()) emit Wanted();
+    });
+  }
+  return panel;
+}
+
+QWidget* DialogForm::MakeCopyPanel(IHost& host, Settings& settings) {
+  auto* panel = new QWidget;
+  auto* rows = new QVBoxLayout(panel);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->setSpacing(8);
+  drive_ = new DriveChoice("cboBackupDrive", host, settings);
+  space_ = MakeLabel("DriveSpace", {}, "muted");
+  rows->addWidget(drive_);
+  rows->addWidget(space_);
+  connect(drive_, &DriveChoice::Chosen, this, &DialogForm::ReadDrive);
+  return panel;
+}
+
+// ---------------------------------------------------------------- opening
+
+void DialogForm::Open(Mode mode, const LibraryVideo& about) {
+  mode_ = mode;
+  about_ = about;
+  const ModeLook look = LookOf(mode);
+  const LibraryTexts texts = LibraryTextsFor(settings_);
+  const Vocabulary words(settings_);
+  const std::string video = about.path.empty() ? std::string() : VideoName(LastName(about.path));
+  // What has been typed in other modes must not come back in this one.
+  const auto show = [&](const std::string& title, const std::string& text, const std::string& caption) {
+    setWindowTitle(Q(title));
+    title_->setText(Q(title));
+    text_->setText(Q(text));
+    action_->setText(Q(caption));
+  };
+  switch (mode) {
+    case Mode::RenameInstructor:
+      show("Rename Instructor or Database", "Type the new name of " + about.instructor + ".", "Rename");
+      OpenRename(about.instructor);
+      break;
+    case Mode::DeleteInstructor:
+      show("Delete Instructor or Database",
+           "This will remove " + about.instructor + " from your system. It must not hold any " + words.nouns() +
+               " or videos any more.",
+           "Delete");
+      break;
+    case Mode::RenameStudent:
+      show(words.Rename(), "Type the new name of " + about.student + ".", "Rename");
+      OpenRename(about.student);
+      break;
+    case Mode::MoveStudent:
+      show(words.MoveThis() + ": " + about.student, texts.moveStudent, "Move");
+      OpenMove();
+      break;
+    case Mode::DeleteStudent:
+      show(words.DeleteThis() + ": " + about.student, texts.deleteWarning + "\n\n" + texts.deleteFinish,
+           "Delete " + words.Noun());
+      break;
+    case Mode::RenameVideo:
+      show("Rename Video", "Type the new name of " + video + ".", "Rename");
+      OpenRename(video);
+      break;
+    case Mode::MoveVideo:
+      show("Move this video: " + video,
+           "Select the Database and the " + words.noun() + " that you want to move the video to and click the \"Move\" button.",
+           "Move");
+      OpenMove();
+      break;
+    case Mode::CopyVideo:
+      show("Copy Video to a Disk",
+           "Copies the video " + video + " with its drawings and notes. Select the removeable disk, or any other folder.",
+           "Copy");
+      drive_->Refresh();
+      ReadDrive();
+      break;
+    case Mode::DeleteVideo:
+      show("Delete this video: " + video,
+           "Warning! This will remove the video with its drawings and notes from your system.\n\nClick the Delete Video "
+           "button to finish.",
+           "Delete Video");
+      break;
+  }
+  action_->setObjectName(look.button);
+  action_->SetIcon(look.icon);
+  renamePanel_->setVisible(look.part == ModeLook::Part::Rename);
+  movePanel_->setVisible(look.part == ModeLook::Part::Move);
+  copyPanel_->setVisible(look.part == ModeLook::Part::Copy);
+  // Who presses Enter without reading deletes nothing.
+  const bool deletes = look.part == ModeLook::Part::Delete;
+  action_->setDefault(!deletes);
+  cancel_->setDefault(deletes);
+  ShowAction();
+  adjustSize();
+  const QRect over = parentWidget()->window()->geometry();
+  move(over.center() - QRect(QPoint(), sizeHint()).center());
+  open();
+  if (look.part == ModeLook::Part::Rename) name_->setFocus();
+  else if (look.part == ModeLook::Part::Move) databases_->setFocus();
+  else if (look.part == ModeLook::Part::Copy && action_->isEnabled()) action_->setFocus();
+  else if (look.part == ModeLook::Part::Copy) drive_->setFocus();
+  else cancel_->setFocus();
+}
+
+void DialogForm::OpenRename(const std::string& name) {
+  oldName_ = name;
+  name_->setText(Q(name));
+  name_->selectAll();
+}
+
+void DialogForm::OpenMove() {
+  const bool video = mode_ == Mode::MoveVideo;
+  // A student cannot move to where he is, and Quick Launch keeps no students.
+  std::vector<std::string> databases = tree_.Instructors();
+  std::erase_if(databases, [&](const std::string& name) {
+    return name == kGeneralFolder || name == kQuickLaunch || (!video && name == about_.instructor);
+  });
+  const auto own = std::ranges::find(databases, about_.instructor);
+  databases_->Fill(Q(databases), own == databases.end() ? -1 : static_cast<int>(own - databases.begin()));
+  studentsPart_->setVisible(video);
+  ShowStudents();
+}
+
+void DialogForm::ShowStudents() {
+  const Vocabulary words(settings_);
+  studentsTitle_->setText(Q(words.Nouns()));
+  students_->setAccessibleName(Q(words.Nouns()));
+  students_->SetHint(Database().empty() ? "Choose a database first." : QString("No %1 here.").arg(Q(words.nouns())));
+  students_->Fill(Q(tree_.Students(Database())), -1);
+}
+
+/// A drive that is slow to answer must not keep the form from showing.
+void DialogForm::ReadDrive() {
+  space_->setText(Drive().empty() ? QString() : QString(kReadingDisk));
+  ShowAction();
+  if (Drive().empty()) return;
+  reading_ = HostTimer(host_, 0, false, [this] { space_->setText(Q(RemoveableDiskText(Drive()))); });
+}
+
+void DialogForm::ShowAction() {
+  switch (LookOf(mode_).part) {
+    case ModeLook::Part::Rename: action_->setEnabled(Name() != oldName_); break;
+    case ModeLook::Part::Move: action_->setEnabled(!Database().empty()); break;
+    case ModeLook::Part::Copy: action_->setEnabled(!Drive().empty()); break;
+    case ModeLook::Part::Delete: action_->setEnabled(true); break;
+  }
+}
+
+// ---------------------------------------------------------------- choices
+
+std::string DialogForm::Name() const { return Std(name_->text()); }
+
+std::string DialogForm::Database() const {
+  return ChosenIn(*databases_);
+}
+
+std::string DialogForm::Student() const {
+  return studentsPart_->isHidden() ? std::string() : ChosenIn(*students_);
+}
+
+std::string DialogForm::Drive() const { return drive_->Path(); }
+
+}  // namespace kinalyx

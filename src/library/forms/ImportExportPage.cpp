@@ -1,0 +1,168 @@
+#include "library/forms/ImportExportPage.h"
+
+#include <QBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+
+#include "core/Vocabulary.h"
+#include "core/forms/Choices.h"
+#include "library/DiskSpace.h"
+#include "library/forms/DriveChoice.h"
+#include "library/forms/LibrarySide.h"
+#include "library/forms/ProgressForm.h"
+#include "library/forms/Text.h"
+#include "platform/widgets/Buttons.h"
+#include "platform/widgets/Theme.h"
+
+namespace kinalyx {
+
+namespace {
+
+/// Less than this is little room for videos.
+constexpr int kLittlePercent = 10;
+
+}  // namespace
+
+ImportExportPage::ImportExportPage(IHost& host, Settings& settings, LibraryOperations& operations,
+                                   const LastStudentInfo& remembered, QWidget* parent)
+    : QWidget(parent), host_(host), settings_(settings), operations_(operations), LastStudent_(remembered) {
+  setObjectName("ImportExportPage");
+  auto* rows = new QVBoxLayout(this);
+  rows->setContentsMargins(14, 14, 14, 14);
+  rows->setSpacing(kGap);
+  help_ = MakeLabel("IEHelp", {});
+  help_->setWordWrap(true);
+  rows->addWidget(help_);
+
+  auto* sides = new QHBoxLayout;
+  sides->setSpacing(kGap);
+  here_ = new LibrarySide("This Library", settings, LibraryTree(settings), {"List4", "List5", "List6"}, 0);
+  there_ = new LibrarySide("Drive or Folder", settings, LibraryTree(otherRoot_), {"List7", "List8", "List9"}, 1);
+  sides->addWidget(here_, 1);
+
+  auto* middle = new QVBoxLayout;
+  middle->setSpacing(kGap);
+  middle->addStretch(1);
+  const struct {
+    int command;
+    const char* caption;
+    const char* icon;
+    const char* tip;
+  } kButtons[] = {{kExport, "Export", "chevron-right", "Copy the selected videos of this library to the drive"},
+                  {kImport, "Import", "chevron-left", "Copy the selected videos of the drive into this library"}};
+  for (const auto& [command, caption, icon, tip] : kButtons) {
+    auto* button = new Button(QString("IECmd%1").arg(command), caption, icon);
+    button->setToolTip(tip);
+    if (command == kExport) button->setLayoutDirection(Qt::RightToLeft);  // the arrow points where the videos go
+    connect(button, &QPushButton::clicked, this, [this, command = command] { IECmd_Click(command); });
+    middle->addWidget(button);
+  }
+  middle->addStretch(1);
+  sides->addLayout(middle);
+
+  Drive1_ = new DriveChoice("Drive1", host, settings);
+  SpaceFlood_ = new Gauge("SpaceFlood");
+  SpaceFlood_->setFixedWidth(90);
+  Label6_ = MakeLabel("Label6", {}, "muted");
+  auto* drive = new QVBoxLayout;
+  drive->setContentsMargins(kGap, 10, kGap, 10);
+  drive->setSpacing(6);
+  auto* space = new QHBoxLayout;
+  space->setSpacing(8);
+  space->addWidget(SpaceFlood_);
+  space->addWidget(Label6_, 1);
+  drive->addWidget(Drive1_);
+  drive->addLayout(space);
+  there_->Body()->insertLayout(0, drive);
+  QFrame* line = MakeFrame("divider");
+  line->setFixedHeight(1);
+  there_->Body()->insertWidget(1, line);
+  sides->addWidget(there_, 1);
+  rows->addLayout(sides, 1);
+
+  QFrame* status = MakeFrame("status");
+  status->setFixedHeight(28);
+  auto* statusRow = new QHBoxLayout(status);
+  statusRow->setContentsMargins(kGap, 0, kGap, 0);
+  status_ = MakeLabel("IEDisplay", {}, "muted");
+  status_->setMinimumWidth(40);
+  statusRow->addWidget(status_);
+  rows->addWidget(status);
+
+  progress_ = new ProgressForm(host, operations, this);
+  connect(Drive1_, &DriveChoice::Chosen, this, &ImportExportPage::OpenDrive);
+  SetupVocabulary();
+}
+
+ImportExportPage::~ImportExportPage() = default;
+
+void ImportExportPage::SetupVocabulary() {
+  const Vocabulary words(settings_);
+  help_->setText(QString("Select an instructor, a %1 and the videos on one side, then choose Export or Import. Each video "
+                         "takes its drawings and notes along, and a %1 who is new on the other side brings the profile.")
+                     .arg(Q(words.noun())));
+  here_->SetupVocabulary();
+  there_->SetupVocabulary();
+}
+
+void ImportExportPage::Open() {
+  Say({});
+  Drive1_->Refresh();
+  here_->Open(LastStudent_);
+  OpenDrive();
+}
+
+void ImportExportPage::OpenDrive() {
+  const std::string drive = Drive1_->Path();
+  if (drive == otherRoot_ && !drive.empty()) {
+    there_->Refresh();
+  } else {
+    otherRoot_ = drive;
+    there_->Open({});
+  }
+  there_->setToolTip(Q(drive));
+  DiskSpaceGauge();
+}
+
+void ImportExportPage::DiskSpaceGauge() {
+  if (otherRoot_.empty()) {
+    SpaceFlood_->Show(CurrentTheme().accent, 0);
+    Label6_->setText("Choose a drive or folder first.");
+    return;
+  }
+  const DiskSpace space = kinalyx::DiskSpaceGauge(otherRoot_);
+  const bool little = space.percentFree < kLittlePercent;
+  SpaceFlood_->Show(little ? QColor(0xb3, 0x26, 0x1e) : CurrentTheme().accent, space.percentFree);
+  Label6_->setText(Q(space.Label6));
+  if (!space.available) {
+    Label6_->setText(Q(space.Label6 + "   " + space.message));
+    Say(Q(space.message));
+  }
+}
+
+void ImportExportPage::IECmd_Click(int command) {
+  const bool out = command == kExport;
+  const auto videos = (out ? here_ : there_)->Chosen();
+  if (out && !videos.empty() && otherRoot_.empty()) return Say("Choose a drive or folder first.");
+  const auto end = [this, out](const OperationResult& result) {
+    // What has arrived is shown where it is; what was chosen stays chosen no longer.
+    if (result.refill) (out ? there_ : here_)->Refresh();
+    if (result.done) (out ? here_ : there_)->Refresh();
+    DiskSpaceGauge();
+    Say(Q(result.status));
+  };
+  auto done = progress_->Begin(out ? "Export Videos" : "Import Videos", [this](const QString& words) { Say(words); }, end);
+  if (out) operations_.ExportVideos(videos, otherRoot_, std::move(done));
+  else operations_.ImportVideos(videos, std::move(done));
+}
+
+void ImportExportPage::keyPressEvent(QKeyEvent* event) {
+  if (event->key() != Qt::Key_F5) return QWidget::keyPressEvent(event);
+  here_->Refresh();
+  Drive1_->Refresh();
+  OpenDrive();
+}
+
+void ImportExportPage::Say(const QString& text) { status_->setText(text); }
+
+}  // namespace kinalyx

@@ -1,0 +1,179 @@
+#include "library/forms/LibraryCommands.h"
+
+#include <cmath>
+
+#include "library/LibraryBrowser.h"
+#include "library/forms/EditPanel.h"
+#include "library/forms/ProgressForm.h"
+#include "library/forms/Text.h"
+#include "library/forms/VideosPanel.h"
+
+namespace kinalyx {
+
+namespace {
+
+/// What a video that does not tell its own rate is cut with.
+constexpr int kUsualRate = 30;
+
+int RateOf(const VideoInfo& info) {
+  if (info.rate <= 0 || info.scale <= 0) return kUsualRate;
+  return static_cast<int>(std::lround(static_cast<double>(info.rate) / static_cast<double>(info.scale)));
+}
+
+}  // namespace
+
+LibraryCommands::LibraryCommands(IHost& host, Settings& settings, LibraryOperations& operations,
+                                 LibraryBrowser& browser, VideosPanel& videos, Page page, QWidget* over)
+    : QObject(over),
+      operations_(operations),
+      browser_(browser),
+      videos_(videos),
+      page_(std::move(page)),
+      dialog_(new DialogForm(host, settings, over)),
+      progress_(new ProgressForm(host, operations, over)) {
+  connect(dialog_, &DialogForm::Wanted, this, &LibraryCommands::Carry);
+  connect(dialog_, &QDialog::rejected, this, &LibraryCommands::Cancelled);
+  connect(&videos_.Trim(), &EditPanel::SaveWanted, this, &LibraryCommands::SaveTrim);
+  connect(&videos_.Trim(), &EditPanel::CancelWanted, this, &LibraryCommands::CloseTrim);
+}
+
+void LibraryCommands::Run(LibraryAction action) {
+  switch (action) {
+    case LibraryAction::RenameStudent: return PrepareStudent(Mode::RenameStudent, "rename");
+    case LibraryAction::MoveStudent: return PrepareStudent(Mode::MoveStudent, "move");
+    case LibraryAction::DeleteStudent: return PrepareStudent(Mode::DeleteStudent, "delete");
+    case LibraryAction::SendToAnalysis: return SendToAnalysis();
+    case LibraryAction::Trim: return OpenTrim();
+    case LibraryAction::RenameVideo: return PrepareVideo(Mode::RenameVideo);
+    case LibraryAction::MoveVideo: return PrepareVideo(Mode::MoveVideo);
+    case LibraryAction::CopyVideo: return PrepareVideo(Mode::CopyVideo);
+    case LibraryAction::DeleteVideo: return PrepareVideo(Mode::DeleteVideo);
+    case LibraryAction::QuickLaunch: return QuickLaunch();
+    case LibraryAction::AddStudent:
+    case LibraryAction::Profile:
+    case LibraryAction::Statistics: return;
+  }
+}
+
+void LibraryCommands::RenameInstructor() { PrepareInstructor(Mode::RenameInstructor, "rename"); }
+void LibraryCommands::DeleteInstructor() { PrepareInstructor(Mode::DeleteInstructor, "delete"); }
+
+void LibraryCommands::SendToAnalysis() {
+  // What is being moved or cut just now must not be opened.
+  if (operations_.Busy()) return page_.Say("Please wait until the operation under way has finished.");
+  if (videos_.VideoPlay1().Control().IsPlaying()) videos_.VideoPlay1().TogglePlay();
+  page_.Say(Q(operations_.SendToAnalysis(ChosenVideo(browser_)).status));
+}
+
+// ---------------------------------------------------------------- preparing
+
+void LibraryCommands::PrepareInstructor(Mode mode, const char* verb) {
+  const std::string refusal = operations_.GuardInstructor(browser_.Instructor(), verb);
+  if (!refusal.empty()) return page_.Say(Q(refusal));
+  dialog_->Open(mode, ChosenVideo(browser_));
+}
+
+void LibraryCommands::PrepareStudent(Mode mode, const char* verb) {
+  const std::string refusal = operations_.GuardStudent(browser_.Instructor(), browser_.Student(), verb);
+  if (!refusal.empty()) return page_.Say(Q(refusal));
+  dialog_->Open(mode, ChosenVideo(browser_));
+}
+
+void LibraryCommands::PrepareVideo(Mode mode) {
+  const LibraryVideo video = ChosenVideo(browser_);
+  const std::string refusal = operations_.GuardVideo(video);
+  if (!refusal.empty()) return page_.Say(Q(refusal));
+  videos_.VideoPlay1().Control().StopPlay();
+  dialog_->Open(mode, video);
+}
+
+void LibraryCommands::OpenTrim() {
+  const std::string refusal = operations_.GuardVideo(ChosenVideo(browser_));
+  if (!refusal.empty()) return page_.Say(Q(refusal));
+  if (!videos_.VideoPlay1().Control().Info()) return page_.Say("This video cannot be opened.");
+  videos_.VideoPlay1().Control().StopPlay();
+  videos_.ShowTrim(true);
+}
+
+void LibraryCommands::CloseTrim() {
+  if (!videos_.TrimShown()) return;
+  videos_.ShowTrim(false);
+  videos_.FocusList();
+}
+
+void LibraryCommands::SaveTrim() {
+  const LibraryVideo video = ChosenVideo(browser_);
+  const int first = videos_.Trim().FirstFrame();
+  const int last = videos_.Trim().LastFrame();
+  const VideoInfo* info = videos_.VideoPlay1().Control().Info();
+  const int rate = info ? RateOf(*info) : kUsualRate;
+  CloseTrim();
+  DoLong("Trim Video", [&](LibraryOperations::Done done) { operations_.Trim(video, first, last, rate, std::move(done)); });
+}
+
+void LibraryCommands::QuickLaunch() {
+  const LibraryVideo video = ChosenVideo(browser_);
+  // Copying to it touches neither the notes nor the video.
+  if (video.instructor != kQuickLaunch) {
+    return operations_.QuickLaunch(video, progress_->Begin("Copy video to Quick Launch Folder", page_.Say,
+                                                           [this](const OperationResult& result) { Show(result); }));
+  }
+  DoLong("Removing video from program!",
+         [&](LibraryOperations::Done done) { operations_.QuickLaunch(video, std::move(done)); });
+}
+
+// ---------------------------------------------------------------- carrying out
+
+void LibraryCommands::Carry() {
+  using Done = LibraryOperations::Done;
+  const LibraryVideo about = dialog_->About();
+  switch (dialog_->CurrentMode()) {
+    case Mode::RenameInstructor:
+      return Do([&] { return operations_.RenameInstructor(about.instructor, dialog_->Name()); });
+    case Mode::DeleteInstructor: return Do([&] { return operations_.DeleteInstructor(about.instructor); });
+    case Mode::RenameStudent:
+      return Do([&] { return operations_.RenameStudent(about.instructor, about.student, dialog_->Name()); });
+    case Mode::MoveStudent:
+      return DoLong(dialog_->windowTitle(), [&](Done done) {
+        operations_.MoveStudent(about.instructor, about.student, dialog_->Database(), std::move(done));
+      });
+    case Mode::DeleteStudent:
+      return DoLong(dialog_->windowTitle(), [&](Done done) {
+        operations_.DeleteStudent(about.instructor, about.student, std::move(done));
+      });
+    case Mode::RenameVideo: return Do([&] { return operations_.RenameVideo(about, dialog_->Name()); });
+    case Mode::MoveVideo:
+      return DoLong(dialog_->windowTitle(), [&](Done done) {
+        operations_.MoveVideo(about, dialog_->Database(), dialog_->Student(), std::move(done));
+      });
+    case Mode::CopyVideo:
+      return DoLong(dialog_->windowTitle(), [&](Done done) {
+        operations_.CopyToDisk({about}, dialog_->Drive(), std::move(done));
+      });
+    case Mode::DeleteVideo: return Do([&] { return operations_.DeleteVideo(about); });
+  }
+}
+
+void LibraryCommands::Cancelled() {
+  const bool renamesStudent = dialog_->CurrentMode() == Mode::RenameStudent;
+  page_.Say(renamesStudent ? Q(operations_.RenameStudentCancelled().status) : QString());
+}
+
+void LibraryCommands::Do(const std::function<OperationResult()>& operation) {
+  if (page_.Release()) Show(operation());
+}
+
+void LibraryCommands::DoLong(const QString& title, const std::function<void(LibraryOperations::Done)>& operation) {
+  if (!page_.Release()) return;
+  operation(progress_->Begin(title, page_.Say, [this](const OperationResult& result) { Show(result); }));
+  if (operations_.Busy()) dialog_->accept();
+}
+
+/// What was refused can be put right in the dialog; what has been done closes it.
+void LibraryCommands::Show(const OperationResult& result) {
+  if (result.done) dialog_->accept();
+  page_.Show(result);
+  page_.Say(Q(result.status));
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,159 @@
+#include "library/forms/LibrarySide.h"
+
+#include <QBoxLayout>
+#include <QLabel>
+#include <QSignalBlocker>
+
+#include "library/forms/LibraryLists.h"
+#include "library/forms/Text.h"
+#include "platform/files/Folders.h"
+#include "platform/widgets/Buttons.h"
+#include "platform/widgets/NameList.h"
+#include "platform/widgets/Theme.h"
+
+namespace kinalyx {
+
+namespace {
+
+/// A list beneath its caption.
+QVBoxLayout* Captioned(QLabel* caption, NameList* list) {
+  auto* rows = new QVBoxLayout;
+  rows->setSpacing(0);
+  caption->setContentsMargins(kGap, 8, kGap, 4);
+  rows->addWidget(caption);
+  rows->addWidget(list, 1);
+  return rows;
+}
+
+QFrame* Divider(bool upright) {
+  QFrame* line = MakeFrame("divider");
+  if (upright) line->setFixedWidth(1);
+  else line->setFixedHeight(1);
+  return line;
+}
+
+}  // namespace
+
+LibrarySide::LibrarySide(const QString& title, const Settings& settings, const LibraryTree& tree,
+                         const std::array<const char*, 3>& names, int index, QWidget* parent)
+    : Panel(QString("IETitle%1").arg(index), title, parent),
+      settings_(settings),
+      browser_(tree, remembered_, LibraryBrowser::Kind::OpenVideo),
+      lists_(new LibraryLists(browser_, settings, this, names)) {
+  studentsTitle_ = MakeLabel(QString("IEStudents%1").arg(index), {}, "caption");
+  count_ = MakeLabel(QString("IECount%1").arg(index), {}, "muted");
+  lists_->VideoList()->setSelectionMode(QAbstractItemView::ExtendedSelection);
+  lists_->VideoList()->setToolTip("Ctrl and Shift with a click choose several, Ctrl+A all");
+
+  auto* upper = new QHBoxLayout;
+  upper->setSpacing(0);
+  upper->addLayout(Captioned(MakeLabel({}, "Instructors", "caption"), lists_->InstructorList()), 1);
+  upper->addWidget(Divider(true));
+  upper->addLayout(Captioned(studentsTitle_, lists_->StudentList()), 1);
+  Body()->addLayout(upper, 1);
+  Body()->addWidget(Divider(false));
+  Body()->addLayout(Captioned(MakeLabel({}, "Videos", "caption"), lists_->VideoList()), 1);
+
+  selectAll_ = new Button(QString("IESelectAll%1").arg(index), "Select All", {}, Look::Quiet);
+  wholeDatabase_ = new Button(QString("IEWhole%1").arg(index), "Whole Database", {}, Look::Quiet);
+  wholeDatabase_->setCheckable(true);
+  Foot()->addWidget(count_, 1);
+  Foot()->addWidget(wholeDatabase_);
+  Foot()->addWidget(selectAll_);
+
+  connect(lists_, &LibraryLists::InstructorChosen, this, [this] { ChooseWhole(false); });
+  connect(lists_, &LibraryLists::StudentChosen, this, &LibrarySide::StudentChosen);
+  connect(lists_->VideoList(), &QListWidget::itemSelectionChanged, this, [this] {
+    if (whole_.empty()) ShowCount();
+  });
+  connect(selectAll_, &QPushButton::clicked, this, &LibrarySide::SelectAll);
+  connect(wholeDatabase_, &QPushButton::clicked, this, [this](bool whole) { ChooseWhole(whole); });
+  SetupVocabulary();
+  ShowCount();
+}
+
+void LibrarySide::Open(const LastStudentInfo& at) {
+  remembered_ = at;
+  browser_.CapfolderSetup();
+  lists_->ShowAll();
+}
+
+void LibrarySide::Refresh() {
+  browser_.Refresh();
+  lists_->ShowAll();
+}
+
+void LibrarySide::SetupVocabulary() {
+  const Vocabulary words(settings_);
+  studentsTitle_->setText(Q(words.Nouns()));
+  wholeDatabase_->setToolTip(QString("Take all videos of all %1 of the current database").arg(Q(words.nouns())));
+}
+
+void LibrarySide::StudentChosen() {
+  // A list that has just been filled has a current row, but nobody has chosen it yet.
+  const QSignalBlocker quiet(lists_->VideoList());
+  lists_->VideoList()->clearSelection();
+  if (browser_.HasStudent()) ChooseWhole(false);
+  ShowHints();
+  ShowCount();
+}
+
+void LibrarySide::SelectAll() {
+  ChooseWhole(false);
+  lists_->VideoList()->selectAll();
+  lists_->VideoList()->setFocus();
+}
+
+void LibrarySide::ChooseWhole(bool whole) {
+  whole_ = whole ? WholeDatabase() : std::vector<LibraryVideo>();
+  wholeDatabase_->setChecked(whole);
+  wholeDatabase_->setEnabled(!browser_.IsGeneralFolder());
+  lists_->VideoList()->setEnabled(!whole);
+  if (whole) lists_->VideoList()->clearSelection();
+  ShowCount();
+}
+
+std::vector<LibraryVideo> LibrarySide::WholeDatabase() const {
+  const LibraryTree& tree = browser_.Tree();
+  const std::string instructor = browser_.Instructor();
+  std::vector<LibraryVideo> videos;
+  // Quick Launch keeps its videos in its own folder, all others with their students.
+  std::vector<std::string> students = tree.Students(instructor);
+  students.insert(students.begin(), std::string());
+  for (const std::string& student : students) {
+    for (const std::string& file : tree.VideoFiles(instructor, student))
+      videos.push_back({instructor, student, JoinPath(tree.StudentFolder(instructor, student), file)});
+  }
+  return videos;
+}
+
+std::vector<LibraryVideo> LibrarySide::Chosen() const {
+  if (wholeDatabase_->isChecked()) return whole_;
+  std::vector<LibraryVideo> videos;
+  for (int row = 0; row < lists_->VideoList()->count(); ++row) {
+    if (lists_->VideoList()->item(row)->isSelected())
+      videos.push_back({browser_.Instructor(), browser_.Student(), browser_.VideoPathAt(row)});
+  }
+  return videos;
+}
+
+void LibrarySide::ShowCount() {
+  const auto count = wholeDatabase_->isChecked() ? static_cast<qsizetype>(whole_.size())
+                                                 : lists_->VideoList()->selectedItems().size();
+  count_->setText(QString("%1 Videos Selected").arg(count));
+  selectAll_->setEnabled(lists_->VideoList()->count() > 0);
+}
+
+void LibrarySide::ShowHints() {
+  const QString nouns = Q(Vocabulary(settings_).nouns());
+  const QString noun = Q(Vocabulary(settings_).noun());
+  const bool general = browser_.IsGeneralFolder();
+  lists_->InstructorList()->SetHint({});
+  lists_->StudentList()->SetHint(general ? QString("Choose an instructor to see the %1.").arg(nouns)
+                                         : QString("No %1 here.").arg(nouns));
+  lists_->VideoList()->SetHint(general || browser_.IsQuickLaunch() || browser_.HasStudent()
+                                   ? QString("No videos here.")
+                                   : QString("Choose a %1, or take the whole database.").arg(noun));
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,103 @@
+#include "library/forms/ProgressForm.h"
+
+#include <QBoxLayout>
+#include <QLabel>
+#include <QProgressBar>
+
+#include "library/forms/Text.h"
+#include "platform/widgets/Buttons.h"
+#include "platform/widgets/Panel.h"
+#include "platform/widgets/Theme.h"
+
+namespace kinalyx {
+
+namespace {
+
+/// What is over sooner shows no window.
+constexpr int kPatienceMs = 300;
+constexpr int kParts = 1000;
+
+}  // namespace
+
+ProgressForm::ProgressForm(IHost& host, LibraryOperations& operations, QWidget* over)
+    : QDialog(over), host_(host), operations_(operations) {
+  setObjectName("ProgressForm");
+  setWindowModality(Qt::ApplicationModal);
+  setFixedWidth(440);
+  auto* rows = new QVBoxLayout(this);
+  rows->setContentsMargins(24, 20, 24, 20);
+  rows->setSpacing(8);
+  title_ = MakeLabel("ProgressTitle", {}, "title");
+  words_ = MakeLabel("ProgressWords", {});
+  words_->setWordWrap(true);
+  gauge_ = new QProgressBar;
+  gauge_->setObjectName("ProgressGauge");
+  gauge_->setRange(0, kParts);
+  gauge_->setTextVisible(false);
+  current_ = MakeLabel("ProgressCurrent", {}, "muted");
+  cancel_ = new Button("ProgressCancel", "Cancel", {}, Look::Quiet);
+  auto* actions = new QHBoxLayout;
+  actions->addStretch(1);
+  actions->addWidget(cancel_);
+  for (QWidget* row : {static_cast<QWidget*>(title_), static_cast<QWidget*>(words_), static_cast<QWidget*>(gauge_),
+                       static_cast<QWidget*>(current_)})
+    rows->addWidget(row);
+  rows->addSpacing(6);
+  rows->addLayout(actions);
+  connect(cancel_, &QPushButton::clicked, this, &ProgressForm::reject);
+}
+
+ProgressForm::~ProgressForm() {
+  operations_.ShowStatus = {};
+  operations_.ShowProgress = {};
+  operations_.OperationEnded = {};
+}
+
+LibraryOperations::Done ProgressForm::Begin(const QString& title, std::function<void(const QString&)> say,
+                                            LibraryOperations::Done done) {
+  // The one under way keeps its window; the new one is about to be refused.
+  if (operations_.Busy()) return done;
+  title_->setText(title);
+  setWindowTitle(title);
+  words_->clear();
+  words_->hide();
+  current_->clear();
+  gauge_->setValue(0);
+  cancel_->setText("Cancel");
+  cancel_->setEnabled(true);
+  operations_.ShowStatus = [this, say = std::move(say)](const std::string& words) {
+    words_->setText(Q(words));
+    words_->setVisible(!words.empty());
+    say(Q(words));
+  };
+  operations_.ShowProgress = [this](const JobProgress& progress) { ShowProgress(progress); };
+  operations_.OperationEnded = [this] { End(); };
+  wait_ = HostTimer(host_, kPatienceMs, false, [this] {
+    if (operations_.Busy()) show();
+  });
+  return [this, done = std::move(done)](const OperationResult& result) {
+    End();
+    done(result);
+  };
+}
+
+void ProgressForm::ShowProgress(const JobProgress& progress) {
+  gauge_->setValue(qRound(progress.part * kParts));
+  QString current = Q(progress.current);
+  if (progress.total > 1) current = QString("%1 of %2   %3").arg(qMin(progress.done + 1, progress.total)).arg(progress.total).arg(current);
+  current_->setText(current_->fontMetrics().elidedText(current, Qt::ElideMiddle, width() - 48));
+}
+
+void ProgressForm::End() {
+  wait_.Stop();
+  hide();
+}
+
+/// The window stays until the operation has let go of what it was doing.
+void ProgressForm::reject() {
+  cancel_->setText("Cancelling...");
+  cancel_->setEnabled(false);
+  operations_.Cancel();
+}
+
+}  // namespace kinalyx

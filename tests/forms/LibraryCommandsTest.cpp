@@ -1,0 +1,324 @@
+#include "library/forms/LibraryCommands.h"
+
+#include <QPlainTextEdit>
+#include <QtTest/QTest>
+#include <atomic>
+#include <chrono>
+#include <thread>
+
+#include "ProfilesStage.h"
+#include "library/forms/ProgressForm.h"
+#include "library/forms/TrimSlider.h"
+#include "support/CopyDisks.h"
+
+namespace kinalyx {
+namespace {
+
+/// What the user does with students and videos on the profiles page.
+class LibraryCommandsTest : public test::ProfilesStage {
+ protected:
+  void ChooseVideo(const QString& student = "Sample, Erica") {
+    Choose("InstructorList", "Demo");
+    Choose("StudentList", student);
+  }
+  bool DialogShown() { return page->findChild<DialogForm*>()->isVisible(); }
+  /// Lets a long operation run to its end.
+  void Work() {
+    for (int turn = 0; operations->Busy() && turn < 10000; ++turn) library.host.Advance(1);
+    ASSERT_FALSE(operations->Busy());
+  }
+  std::string Read(const std::string& name) { return test::TempLibrary::Read(library.Path(name)); }
+};
+
+TEST_F(LibraryCommandsTest, AStudentIsRenamedMovedAndDeletedWithTheNotesThatAreBeingWritten) {
+  library.Folder("Other/Tom");
+  page->Open();
+  Press("SPBtn1");
+  EXPECT_EQ(Text("SPDisplay"), "You must select a student first.");
+  EXPECT_FALSE(DialogShown());
+
+  ChooseVideo("Tom");
+  Press("SPBtn10");
+  Find<QPlainTextEdit>("ProfileNotes")->setPlainText("just typed");
+  QTest::keyClick(List("StudentList"), Qt::Key_F2);
+  ASSERT_TRUE(DialogShown());
+  EXPECT_EQ(Find<QLineEdit>("RenameText")->selectedText(), "Tom");
+  EXPECT_FALSE(Find<QPushButton>("SSCommand1")->isEnabled());  // the name it has already
+  Type("RenameText", "Sample, Erica");
+  Press("SSCommand1");
+  EXPECT_EQ(library.host.messages.back(), "The name you have chosen already exists in the database.");
+  EXPECT_TRUE(DialogShown());  // to be put right
+  Type("RenameText", "Tim");
+  Press("SSCommand1");
+  EXPECT_FALSE(DialogShown());
+  EXPECT_EQ(Text("SPDisplay"), "Student successfully renamed.");
+  EXPECT_EQ(page->Browser().Student(), "Tim");
+  EXPECT_EQ(Text("ProInfoLbl0"), "Tim");
+  EXPECT_EQ(Read("Demo/Tim/profile.txt"), "just typed\r\n");
+  EXPECT_EQ(Find<QPlainTextEdit>("ProfileNotes")->toPlainText(), "just typed\n");
+  Press("SPBtn1");
+  Press("DialogCancel");
+  EXPECT_EQ(Text("SPDisplay"), "Student rename cancelled.");
+
+  Press("SPBtn2");
+  EXPECT_EQ(Rows("MoveDatabases"), QStringList("Other"));  // neither where he is nor Quick Launch
+  EXPECT_FALSE(Find<QPushButton>("MoveSave")->isEnabled());
+  Choose("MoveDatabases", "Other");
+  Press("MoveSave");
+  Work();
+  EXPECT_EQ(Text("SPDisplay"), "Student Successfully Moved to Other .");
+  EXPECT_EQ(page->Browser().Instructor(), "Other");
+  EXPECT_EQ(page->Browser().Student(), "Tim");
+  EXPECT_FALSE(Exists("Demo/Tim"));
+
+  QTest::keyClick(List("StudentList"), Qt::Key_Delete);
+  EXPECT_NE(Text("DialogText").indexOf("Warning!!! This will remove the student"), -1);
+  Press("DialogCancel");
+  EXPECT_TRUE(Exists("Other/Tim"));
+  Press("SPBtn3");
+  Press("DelStudentBtn");
+  Work();
+  EXPECT_EQ(Text("SPDisplay"), "Student Successfully removed from the system.");
+  EXPECT_FALSE(Exists("Other/Tim"));
+  EXPECT_EQ(Rows("StudentList"), QStringList("Tom"));
+}
+
+TEST_F(LibraryCommandsTest, NotesThatCannotBeStoredHoldUpTheOperation) {
+  ChooseVideo("Tom");
+  Press("SPBtn10");
+  std::filesystem::remove(library.Path("Demo/Tom/profile.txt"));
+  library.Folder("Demo/Tom/profile.txt");  // stands in the way of the file
+  Find<QPlainTextEdit>("ProfileNotes")->setPlainText("not lost");
+  Press("SPBtn1");
+  Type("RenameText", "Tim");
+  Press("SSCommand1");
+  EXPECT_TRUE(Exists("Demo/Tom"));
+  EXPECT_EQ(Find<QPlainTextEdit>("ProfileNotes")->toPlainText(), "not lost");
+}
+
+TEST_F(LibraryCommandsTest, AVideoThatIsOpenInAnalysisIsRefusedBeforeAnyDialog) {
+  ChooseVideo();
+  open = {page->Browser().VideoPath()};
+  const std::string video = "This video is open in the Analysis section. You must close the video before you can continue.";
+  for (const char* button : {"SPBtn5", "SPBtn6", "SPBtn7", "SPBtn8", "SPBtn9"}) {
+    Press(button);
+    EXPECT_EQ(library.host.messages.back(), video) << button;
+    EXPECT_FALSE(DialogShown()) << button;
+  }
+  EXPECT_FALSE(page->findChild<QWidget*>("EditPanel")->isVisible());
+  for (const char* button : {"SPBtn1", "SPBtn2", "SPBtn3"}) {
+    Press(button);
+    EXPECT_TRUE(library.host.messages.back().starts_with("A video from this database is open")) << button;
+    EXPECT_FALSE(DialogShown()) << button;
+  }
+}
+
+TEST_F(LibraryCommandsTest, AVideoIsRenamedMovedAndDeletedAndTheNextOneTakesItsPlace) {
+  AddVideo("Demo/Sample, Erica/(003) FO iron.avi");
+  ChooseVideo();
+  Choose("VideoList", "(002) FO iron");
+  QTest::keyClick(List("VideoList"), Qt::Key_F2);
+  Type("RenameText", "a/b");
+  Press("RenVidBtn");
+  EXPECT_EQ(library.host.messages.back(), "Invalid character in student name.");
+  Type("RenameText", "(002) new");
+  QTest::keyClick(Find<QLineEdit>("RenameText"), Qt::Key_Return);
+  EXPECT_EQ(Text("SPDisplay"), "Video renamed successfully.");
+  EXPECT_EQ(page->Browser().Video(), "(002) new");
+  EXPECT_EQ(Read("Demo/Sample, Erica/(002) new.ved"), "1XXXSNXX");
+  EXPECT_EQ(Preview().filename(), page->Browser().VideoPath());
+
+  Press("SPBtn7");
+  Choose("MoveStudents", "Sample, Erica");
+  Press("MoveVideoBtn");
+  EXPECT_EQ(library.host.messages.back(), "The source and destination folders are the same. The video was not moved.");
+  EXPECT_TRUE(DialogShown());
+  EXPECT_NE(Preview().Info(), nullptr);  // shown again behind the dialog
+  Choose("MoveStudents", "Tom");
+  Press("MoveVideoBtn");
+  Work();
+  EXPECT_FALSE(DialogShown());
+  EXPECT_EQ(Text("SPDisplay"), "Selected video successfully moved.");
+  EXPECT_EQ(Read("Demo/Tom/(002) new.ved"), "1XXXSNXX");
+  EXPECT_EQ(page->Browser().Video(), "(003) FO iron");
+
+  QTest::keyClick(List("VideoList"), Qt::Key_Delete);
+  Press("DelVidBtn");
+  EXPECT_EQ(Text("SPDisplay"), "Video Successfully Deleted!");
+  EXPECT_FALSE(Exists("Demo/Sample, Erica/(003) FO iron.avi"));
+  EXPECT_EQ(page->Browser().Video(), "(001) DTL driver");
+  EXPECT_EQ(Text("ProInfoLbl9"), "1");
+}
+
+TEST_F(LibraryCommandsTest, AVideoGoesToADiskThatIsRemembered) {
+  ChooseVideo();
+  Choose("VideoList", "(002) FO iron");
+  test::TempFolder disk;
+  library.host.folders = {disk.Path()};
+  Press("SPBtn8");
+  Press("cboBackupDriveBrowse");
+  EXPECT_EQ(Text("DriveSpace"), "Reading from specified Removeable disk. Please Wait....");
+  library.host.Advance(1);
+  EXPECT_TRUE(Text("DriveSpace").startsWith("Available space on removeable disk "));
+  EXPECT_EQ(library.settings.Exporter, disk.Path());
+  Press("ExportVidBtn");
+  EXPECT_FALSE(DialogShown());
+  Work();
+  EXPECT_EQ(Text("SPDisplay"), "2 Files Copied Successfully.");
+  EXPECT_TRUE(std::filesystem::exists(disk.Path("(002) FO iron.ved")));
+  EXPECT_EQ(page->Browser().Video(), "(002) FO iron");
+
+  std::filesystem::remove_all(disk.Path());
+  Press("SPBtn8");
+  library.host.Advance(1);
+  EXPECT_EQ(Text("DriveSpace"), "Drive Error");
+  Press("ExportVidBtn");
+  EXPECT_EQ(library.host.messages.back(), "Drive Error");
+  EXPECT_TRUE(DialogShown());
+  std::filesystem::create_directories(disk.Path());
+}
+
+TEST_F(LibraryCommandsTest, QuickLaunchTakesAndGivesBack) {
+  ChooseVideo();
+  Press("SPBtn12");  // the question is answered with no
+  EXPECT_FALSE(Exists("Quick Launch/(001) DTL driver.avi"));
+  library.host.answers = {true};
+  Press("SPBtn12");
+  Work();
+  EXPECT_EQ(Text("SPDisplay"), "The current video was copied to the Quick Launch folder.");
+  Choose("InstructorList", "Quick Launch");
+  EXPECT_EQ(page->Browser().Video(), "(001) DTL driver");
+  library.host.answers = {true};
+  Press("SPBtn12");
+  EXPECT_EQ(Text("SPDisplay"), "The current video was removed from the Quick Launch folder.");
+  EXPECT_TRUE(Rows("VideoList").isEmpty());
+  EXPECT_EQ(Preview().Info(), nullptr);
+}
+
+/// A disk that takes no byte until it is let go.
+class StuckDisk final : public test::TwoDrives {
+ public:
+  StuckDisk() : TwoDrives(RealCopyDisk()) {}
+  long Transfer(int from, int to, std::size_t count) override {
+    while (stuck) std::this_thread::yield();
+    return TwoDrives::Transfer(from, to, count);
+  }
+  std::atomic<bool> stuck = true;
+};
+
+TEST_F(LibraryCommandsTest, ALongOperationShowsAWindowThatCancelsIt) {
+  StuckDisk stuckDisk;
+  MakePage({JobRunner::On::Worker, &stuckDisk});
+  ChooseVideo();
+  test::TempFolder disk;
+  library.settings.Exporter = disk.Path();
+  auto* window = page->findChild<ProgressForm*>();
+  Press("SPBtn8");
+  Press("ExportVidBtn");
+  library.host.Advance(250);
+  EXPECT_FALSE(window->isVisible());  // what is over soon shows none
+  library.host.Advance(100);
+  ASSERT_TRUE(window->isVisible());
+  EXPECT_EQ(Text("ProgressWords"), "Copying Videos, Please Wait.....");
+  // Nothing else is done meanwhile.
+  Press("SPBtn9");
+  EXPECT_TRUE(library.host.messages.back().starts_with("Another operation is still at work"));
+  Press("SPBtn4");
+  EXPECT_TRUE(sent.empty());
+  Press("ProgressCancel");
+  EXPECT_FALSE(Find<QPushButton>("ProgressCancel")->isEnabled());
+  EXPECT_TRUE(window->isVisible());  // until the disk lets go
+  stuckDisk.stuck = false;
+  while (operations->Busy()) {
+    library.host.Advance(1);
+    std::this_thread::sleep_for(std::chrono::milliseconds(1));
+  }
+  EXPECT_FALSE(window->isVisible());
+  EXPECT_EQ(Text("SPDisplay"), "0 Files Copied Successfully.");
+  EXPECT_TRUE(std::filesystem::is_empty(disk.Path()));
+  EXPECT_NE(Preview().Info(), nullptr);
+}
+
+TEST_F(LibraryCommandsTest, InstructorsAreRenamedAndRemovedWhenTheyAreEmpty) {
+  QTest::keyClick(List("InstructorList"), Qt::Key_F2);
+  EXPECT_EQ(Text("SPDisplay"), "You must select an Instructor or Database first.");
+  EXPECT_FALSE(Find<QPushButton>("RenameInstructorBtn")->isEnabled());
+  ChooseVideo();
+  Press("RenameInstructorBtn");
+  Type("RenameText", "Quick Launch");
+  Press("RenInstructorBtn");
+  EXPECT_EQ(library.host.messages.back(), "There is already an Instructor or Database with this name.");
+  Type("RenameText", "Dana");
+  Press("RenInstructorBtn");
+  EXPECT_EQ(page->Browser().Instructor(), "Dana");
+  EXPECT_TRUE(Exists("Dana/Sample, Erica/(002) FO iron.ved"));
+  Press("DeleteInstructorBtn");
+  Press("DelInstructorBtn");
+  EXPECT_EQ(library.host.messages.back(), "Dana still has students or videos. Move or delete them first.");
+  EXPECT_TRUE(Exists("Dana/Tom"));
+  Press("DialogCancel");
+
+  library.Folder("Empty");
+  page->Open();
+  Choose("InstructorList", "Empty");
+  Press("DeleteInstructorBtn");
+  Press("DelInstructorBtn");
+  EXPECT_EQ(Text("SPDisplay"), "Empty successfully removed from the system.");
+  EXPECT_FALSE(Exists("Empty"));
+}
+
+// ---------------------------------------------------------------- trimming
+
+TEST_F(LibraryCommandsTest, TheTrimPanelFollowsThePreviewAndCountsFrames) {
+  ChooseVideo();
+  Preview().setSplitFields(true);  // positions are fields, the cut goes by frames
+  Press("SPBtn5");
+  auto* slider = Find<TrimSlider>("HScroll1");
+  ASSERT_TRUE(slider->isVisible());
+  EXPECT_EQ(slider->Frames(), 8);
+  EXPECT_FALSE(Find<QPushButton>("EditSaveBtn")->isEnabled());
+  for (int step = 0; step < 2; ++step) QTest::keyClick(slider, Qt::Key_Right);
+  EXPECT_EQ(Preview().Position() / 2, 2);
+  Press("StartHerebtn");
+  Preview().DrawFrame(11);
+  EXPECT_EQ(slider->Position(), 5);
+  QTest::keyClick(slider, Qt::Key_E);
+  EXPECT_EQ(slider->Start(), 2);
+  EXPECT_EQ(slider->End(), 5);
+  EXPECT_EQ(Text("EditRange"), "Start at 2   End at 5   4 of 8 frames");
+
+  // The ends push each other, and one frame at least is kept.
+  slider->SetStart(7);
+  EXPECT_EQ(slider->End(), 7);
+  slider->SetEnd(0);
+  EXPECT_EQ(slider->End(), 1);
+  EXPECT_LE(slider->Start(), 1);
+  QTest::mousePress(slider, Qt::LeftButton, {}, QPoint(slider->width() / 2, slider->height() / 2));
+  QTest::mouseRelease(slider, Qt::LeftButton);
+  EXPECT_NEAR(slider->Position(), 3.5, 1);
+
+  QTest::keyClick(slider, Qt::Key_Escape);
+  EXPECT_FALSE(slider->isVisible());
+  EXPECT_TRUE(List("VideoList")->isEnabled());
+  // Another video ends it as well.
+  Press("SPBtn5");
+  Choose("StudentList", "Tom");
+  EXPECT_FALSE(slider->isVisible());
+}
+
+TEST_F(LibraryCommandsTest, ATrimThatFailsIsToldAndTheVideoStays) {
+  // There is no program to trim with beside this one.
+  ChooseVideo();
+  const std::string before = Read("Demo/Sample, Erica/(001) DTL driver.avi");
+  Press("SPBtn5");
+  Find<TrimSlider>("HScroll1")->SetStart(3);
+  Press("EditSaveBtn");
+  Work();
+  EXPECT_EQ(Text("SPDisplay"), "Last Video WAS NOT SAVED");
+  EXPECT_TRUE(library.host.messages.back().starts_with("There was a problem saving this video."));
+  EXPECT_EQ(Read("Demo/Sample, Erica/(001) DTL driver.avi"), before);
+  EXPECT_NE(Preview().Info(), nullptr);
+}
+
+}  // namespace
+}  // namespace kinalyx

@@ -1,0 +1,84 @@
+#pragma once
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <memory>
+#include <set>
+#include <stdexcept>
+
+#include "../library/TempLibrary.h"
+#include "FormsSupport.h"
+#include "library/forms/PreviewPlayer.h"
+#include "library/forms/ProfilesPage.h"
+#include "platform/widgets/NameList.h"
+#include "support/TestVideos.h"
+
+namespace kinalyx::test {
+
+/// The profiles page over a small library, with long operations done turn by turn.
+class ProfilesStage : public ::testing::Test, protected UsesApplication {
+ protected:
+  ProfilesStage() {
+    fields.EnsureFile();
+    fields.SetupFields();
+    library.Folder("Demo/Sample, Erica");
+    library.Folder("Demo/Tom");
+    library.Folder("Quick Launch");
+    AddVideo("Demo/Sample, Erica/(001) DTL driver.avi");
+    AddVideo("Demo/Sample, Erica/(002) FO iron.avi");
+    library.File("Demo/Sample, Erica/(002) FO iron.ved", "1XXXSNXX");
+    MakePage({JobRunner::On::HostTimer});
+  }
+
+  void MakePage(LibraryOperations::Environment environment) {
+    page.reset();
+    AnalysisLink link{[this](const std::string& path) { return open.contains(path); },
+                      [this](const std::string& path, const std::function<void(const std::string&)>& tell) {
+                        sent.push_back(path);
+                        tell("Current video was sent to Analysis.");
+                        return 1;
+                      }};
+    operations = std::make_unique<LibraryOperations>(library.host, library.settings, link, environment);
+    page = std::make_unique<ProfilesPage>(services, library.settings, fields, remembered, *operations);
+    page->resize(892, 700);
+    page->show();
+  }
+
+  void AddVideo(const std::string& name) {
+    const std::string video = MakeTestVideo(MjpegVideo(8));
+    ASSERT_FALSE(video.empty());
+    std::filesystem::copy_file(video, library.File(name), std::filesystem::copy_options::overwrite_existing);
+  }
+
+  template <typename T>
+  T* Find(const char* name) {
+    T* widget = page->findChild<T*>(name);
+    if (!widget) throw std::runtime_error(std::string("no control ") + name);
+    return widget;
+  }
+  NameList* List(const char* name) { return Find<NameList>(name); }
+  QStringList Rows(const char* name) {
+    QStringList rows;
+    for (int row = 0; row < List(name)->count(); ++row) rows << List(name)->item(row)->text();
+    return rows;
+  }
+  void Choose(const char* name, const QString& entry) { List(name)->setCurrentRow(int(Rows(name).indexOf(entry))); }
+  QString Text(const char* label) { return Find<QLabel>(label)->text(); }
+  void Press(const char* button) { Find<QPushButton>(button)->click(); }
+  void Type(const char* box, const QString& text) { Find<QLineEdit>(box)->setText(text); }
+  bool Exists(const std::string& name) const { return std::filesystem::exists(library.Path(name)); }
+  AVIControl& Preview() { return page->findChild<PreviewPlayer*>()->Control(); }
+
+  TempLibrary library;
+  PlayScheduler scheduler{library.host};
+  PlayerServices services{library.host, scheduler};
+  ProfileFields fields{library.Data("fields.ini")};
+  LastStudentInfo remembered;
+  std::vector<std::string> sent;
+  std::set<std::string> open;  ///< in the analysis section
+  std::unique_ptr<LibraryOperations> operations;
+  std::unique_ptr<ProfilesPage> page;
+};
+
+}  // namespace kinalyx::test
