@@ -286,14 +286,16 @@ void PlayBar::mouseMoveEvent(QMouseEvent* event) {
 
 bool PlayBar::eventFilter(QObject* watched, QEvent* event) {
   if (watched != back_ && watched != next_) return false;
-  const auto* mouse = static_cast<QMouseEvent*>(event);
+  const auto pointer = [event] {
+    return static_cast<float>(static_cast<QMouseEvent*>(event)->position().x() * kTwipsPerPixel);
+  };
   switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
-      if (mouse->button() == Qt::LeftButton)
-        transport_.StepPressed(watched == next_, static_cast<float>(mouse->position().x() * kTwipsPerPixel));
+      if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
+        transport_.StepPressed(watched == next_, pointer());
       break;
-    case QEvent::MouseMove: transport_.StepDragged(static_cast<float>(mouse->position().x() * kTwipsPerPixel)); break;
+    case QEvent::MouseMove: transport_.StepDragged(pointer()); break;
     case QEvent::MouseButtonRelease:
     case QEvent::Hide: transport_.StepReleased(); break;
     default: break;
