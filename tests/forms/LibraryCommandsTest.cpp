@@ -210,6 +210,7 @@ TEST_F(LibraryCommandsTest, ALongOperationShowsAWindowThatCancelsIt) {
   StuckDisk stuckDisk;
   MakePage({JobRunner::On::Worker, &stuckDisk});
   ChooseVideo();
+  std::filesystem::resize_file(page->Browser().VideoPath(), 20 << 20);  // more than is copied at one go
   test::TempFolder disk;
   library.settings.Exporter = disk.Path();
   auto* window = page->findChild<ProgressForm*>();

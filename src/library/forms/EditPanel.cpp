@@ -43,6 +43,8 @@ EditPanel::EditPanel(PreviewPlayer& preview, const QString& help, QWidget* paren
   rows->addLayout(row);
 
   connect(&preview_, &PreviewPlayer::Moved, this, [this] { HScroll1_->SetPosition(preview_.Frame()); });
+  connect(&preview_, &PreviewPlayer::StateChanged, this,
+          [this, play] { play->SetIcon(preview_.Control().IsPlaying() ? "pause" : "play"); });
   connect(HScroll1_, &TrimSlider::Sought, this, [this](int frame) { preview_.ShowFrame(frame); });
   connect(HScroll1_, &TrimSlider::RangeChanged, this, &EditPanel::ShowRange);
   connect(HScroll1_, &TrimSlider::StartWanted, this, &EditPanel::StartHere);

@@ -196,6 +196,7 @@ void PreviewPlayer::ShowState() {
   seek_->setEnabled(open);
   time_->setVisible(open);
   ShowTime();
+  emit StateChanged();
 }
 
 void PreviewPlayer::ShowTime() {

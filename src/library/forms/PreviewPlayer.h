@@ -45,6 +45,8 @@ class PreviewPlayer : public QFrame, private IFrameInterface, private IMouseAndK
  signals:
   /// Another picture is shown.
   void Moved();
+  /// A play has begun or ended, or another video is open.
+  void StateChanged();
 
  protected:
   void resizeEvent(QResizeEvent*) override;

@@ -1,6 +1,7 @@
 #include "library/forms/ProfilesPage.h"
 
 #include <QBoxLayout>
+#include <QCursor>
 #include <QEvent>
 #include <QGridLayout>
 #include <QKeyEvent>
@@ -208,6 +209,7 @@ bool ProfilesPage::Release() {
 void ProfilesPage::ShowResult(const OperationResult& result) {
   // Who has left the page meanwhile finds everything read anew on coming back.
   if (!isVisible()) return;
+  restingMouse_ = QCursor::pos();
   const std::string folder = browser_.Folder();
   const std::string video = browser_.Video();
   const int row = browser_.VideoIndex();
@@ -264,11 +266,19 @@ bool ProfilesPage::eventFilter(QObject* object, QEvent* event) {
   }
   if (event->type() == QEvent::KeyPress && ListKey(object, static_cast<QKeyEvent*>(event)->key())) return true;
   const auto button = std::find(buttons_.begin(), buttons_.end(), object);
-  if (button != buttons_.end() && (event->type() == QEvent::Enter || event->type() == QEvent::FocusIn))
+  if (button != buttons_.end() && IsHover(*event))
     SPDisplay_->setText(HoverText(static_cast<LibraryAction>(button - buttons_.begin())));
   if (button != buttons_.end() && (event->type() == QEvent::Leave || event->type() == QEvent::FocusOut))
     SPDisplay_->setText(said_);
   return QWidget::eventFilter(object, event);
+}
+
+/// The mouse that finds itself over a button because a dialog has gone, or the keys that come back to it,
+/// do not wipe out how the operation went.
+bool ProfilesPage::IsHover(const QEvent& event) const {
+  if (event.type() == QEvent::Enter) return restingMouse_ != QCursor::pos();
+  return event.type() == QEvent::FocusIn &&
+         static_cast<const QFocusEvent&>(event).reason() != Qt::ActiveWindowFocusReason;
 }
 
 /// F2 and Delete in a list are about what is chosen in it.

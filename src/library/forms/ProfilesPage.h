@@ -70,6 +70,7 @@ class ProfilesPage : public QWidget {
   void AddButton(LibraryAction action, Button* button);
   QString HoverText(LibraryAction action) const;
   bool ListKey(QObject* list, int key);
+  bool IsHover(const QEvent& event) const;
 
   bool Release();
   void ShowResult(const OperationResult& result);
@@ -97,6 +98,7 @@ class ProfilesPage : public QWidget {
   LibraryCommands* commands_;
   Profile profile_;
   QString said_;
+  QPoint restingMouse_{-1, -1};  ///< where the mouse was when an operation ended
   HostTimer question_;
   std::string shownStudent_;
   std::string shownVideo_;

@@ -72,9 +72,7 @@ LibraryOperations::Done ProgressForm::Begin(const QString& title, std::function<
   };
   operations_.ShowProgress = [this](const JobProgress& progress) { ShowProgress(progress); };
   operations_.OperationEnded = [this] { End(); };
-  wait_ = HostTimer(host_, kPatienceMs, false, [this] {
-    if (operations_.Busy()) show();
-  });
+  began_ = -1;
   return [this, done = std::move(done)](const OperationResult& result) {
     End();
     done(result);
@@ -82,6 +80,9 @@ LibraryOperations::Done ProgressForm::Begin(const QString& title, std::function<
 }
 
 void ProgressForm::ShowProgress(const JobProgress& progress) {
+  // The work begins with its first word: a question that was asked before it does not count.
+  if (began_ < 0) began_ = host_.timeGetTime();
+  if (!isVisible() && operations_.Busy() && host_.timeGetTime() - began_ >= kPatienceMs) show();
   gauge_->setValue(qRound(progress.part * kParts));
   QString current = Q(progress.current);
   if (progress.total > 1) current = QString("%1 of %2   %3").arg(qMin(progress.done + 1, progress.total)).arg(progress.total).arg(current);
@@ -89,7 +90,7 @@ void ProgressForm::ShowProgress(const JobProgress& progress) {
 }
 
 void ProgressForm::End() {
-  wait_.Stop();
+  began_ = -1;
   hide();
 }
 

@@ -36,7 +36,7 @@ class ProgressForm : public QDialog {
 
   IHost& host_;
   LibraryOperations& operations_;
-  HostTimer wait_;
+  std::int64_t began_ = -1;  ///< when the operation under way gave its first sign; -1 not yet
   QLabel* title_;
   QLabel* words_;
   QLabel* current_;
