@@ -3,9 +3,14 @@
 #include <utility>
 
 namespace kinalyx {
+namespace {
 
-AnalysisWorkspace::AnalysisWorkspace(IHost& host, Settings& settings, IWorkspaceView& view,
-                                     IDrawingEditsView& editsView, Navigation navigation)
+constexpr int kMiddleButton = 4;
+
+}  // namespace
+
+AnalysisWorkspace::AnalysisWorkspace(IHost& host, Settings& settings, PlayScheduler& scheduler, IWorkspaceView& view,
+                                     IDrawingEditsView& editsView, ICompareView& compareView, Navigation navigation)
     : host_(host),
       settings_(settings),
       view_(view),
@@ -18,12 +23,31 @@ AnalysisWorkspace::AnalysisWorkspace(IHost& host, Settings& settings, IWorkspace
       notes_(host, workspace_, view),
       rateTest_(host, workspace_),
       ruler_(settings, tools_, view),
-      menuBar_({workspace_, transport_, tools_, edits_, timer_, notes_, rateTest_, ruler_}, view, std::move(navigation)) {
+      compare_(host, settings, scheduler, workspace_, compareView,
+               {[this](int key) { menuBar_.Form_KeyDown(key, 0); }, [this](int key) { menuBar_.Form_KeyPress(key); }}),
+      menuBar_({workspace_, transport_, tools_, edits_, timer_, notes_, rateTest_, ruler_, compare_}, view,
+               std::move(navigation)) {
   Connect();
 }
 
 void AnalysisWorkspace::Connect() {
-  workspace_.PlayerResized = [this](int slot) { drawings_.PlayerResized(slot); };
+  transport_.SetLocks(compare_.Locks());
+  compare_.LocksChanged = [this] {
+    transport_.ShowCurrent();
+    view_.CommandsChanged();
+  };
+  compare_.TransparencySwitched = [this](bool on) {
+    workspace_.BarHidden = on;
+    workspace_.FormReset();
+  };
+  compare_.Strip().SquareWanted = [this] {
+    if (!tools_.Drawing() || tools_.DrawKind() != kSquare) tools_.CmdMakeShape_Click(kSquare);
+    view_.CommandsChanged();
+  };
+  workspace_.PlayerResized = [this](int slot) {
+    drawings_.PlayerResized(slot);
+    compare_.PlayerResized(slot);
+  };
   workspace_.PictureFlipped = [this](int slot) { drawings_.PictureFlipped(slot); };
   workspace_.VideoOpened = [this](int slot) { drawings_.VideoOpened(slot); };
   workspace_.CollectData = [this](int slot) { return drawings_.CollectData(slot); };
@@ -36,15 +60,20 @@ void AnalysisWorkspace::Connect() {
       if (tools_.Drawing()) tools_.DrawOffBtn_Click();
       notes_.Close();
     }
+    compare_.VideoClosing(slot);
   };
   workspace_.VideoClosed = [this](int slot) {
     drawings_.VideoClosed(slot);
     timer_.Forget(slot);
   };
-  workspace_.FocusChanged = [this] { ShowFocus(); };
+  workspace_.FocusChanged = [this] {
+    ShowFocus();
+    compare_.FocusChanged();
+  };
   workspace_.StateChanged = [this] {
     transport_.ShowCurrent();
     notes_.SetupNotesPnl();
+    compare_.StateChanged();
   };
   transport_.PositionShown = [this] { timer_.UpdateTimer(); };
 }
@@ -133,25 +162,30 @@ void AnalysisWorkspace::PreDrawFrame(Canvas& hDC, int ID) {
 void AnalysisWorkspace::Signal(int, int ID) {
   transport_.Signal(ID);
   rateTest_.Signal(ID);
+  compare_.Signal(ID);
 }
 
 void AnalysisWorkspace::Notify(int, int ID) {
   transport_.Notify(ID);
   rateTest_.Notify(ID);
+  compare_.Notify(ID);
   view_.CommandsChanged();
 }
 
 void AnalysisWorkspace::MouseDown(int Button, int Shift, float X, float Y, int ID) {
+  if (Button == kMiddleButton) return compare_.Zoom().DragBegin(ID, X, Y);
   if (!tools_.MouseDown(Button, Shift, X, Y, ID)) Select(ID);
   view_.CommandsChanged();
   view_.FocusKeyBox();
 }
 
 void AnalysisWorkspace::MouseMove(int Button, int Shift, float X, float Y, int ID) {
+  if (compare_.Zoom().Dragging()) return compare_.Zoom().DragMove(X, Y);
   tools_.MouseMove(Button, Shift, X, Y, ID);
 }
 
 void AnalysisWorkspace::MouseUp(int Button, int Shift, float X, float Y, int ID) {
+  if (Button == kMiddleButton) return compare_.Zoom().DragEnd();
   if (tools_.MouseUp(Button, Shift, X, Y, ID)) view_.CommandsChanged();
 }
 
@@ -188,6 +222,12 @@ bool AnalysisWorkspace::OnLastFrame(int window) {
 
 void AnalysisWorkspace::AdvanceFrame(int window) {
   if (!OnLastFrame(window)) workspace_.MP(window).Play(workspace_.MP(window).Position() + 1);
+  compare_.MPManualSignal();
+  compare_.Locks().AdvancePartner(window);
+}
+
+bool AnalysisWorkspace::TakeSquare(int window, const Shape& square) {
+  return square.Pts.size() >= 2 && compare_.TakeSquare(window, square.Pts[0], square.Pts[1]);
 }
 
 void AnalysisWorkspace::ShowDrawError(const std::string& text) {

@@ -6,6 +6,7 @@
 #include "drawing/ShapeStore.h"
 #include "video/CallbackInterfaces.h"
 #include "workspace/DrawingEdits.h"
+#include "workspace/CompareModes.h"
 #include "workspace/MenuBar.h"
 #include "workspace/SlotDrawings.h"
 
@@ -16,8 +17,8 @@ namespace kinalyx {
 /// eight players; everything else works without a window.
 class AnalysisWorkspace final : public IFrameInterface, public IMouseAndKeyBoardEvents, private IDrawingWorkspace {
  public:
-  AnalysisWorkspace(IHost& host, Settings& settings, IWorkspaceView& view, IDrawingEditsView& editsView,
-                    Navigation navigation);
+  AnalysisWorkspace(IHost& host, Settings& settings, PlayScheduler& scheduler, IWorkspaceView& view,
+                    IDrawingEditsView& editsView, ICompareView& compareView, Navigation navigation);
   AnalysisWorkspace(const AnalysisWorkspace&) = delete;
   AnalysisWorkspace& operator=(const AnalysisWorkspace&) = delete;
 
@@ -37,6 +38,7 @@ class AnalysisWorkspace final : public IFrameInterface, public IMouseAndKeyBoard
   VideoTimer& Timer() { return timer_; }
   VideoNotes& Notes() { return notes_; }
   RulerCalibration& Ruler() { return ruler_; }
+  CompareModes& Compare() { return compare_; }
 
   /// Line width, outline or colours have been changed on another page.
   void SettingsChanged();
@@ -89,6 +91,7 @@ class AnalysisWorkspace final : public IFrameInterface, public IMouseAndKeyBoard
   void ShowDrawError(const std::string& text) override;
   void ShowGridButton(bool) override { view_.CommandsChanged(); }
   void DrawingsChanged(int) override { view_.CommandsChanged(); }
+  bool TakeSquare(int window, const Shape& square) override;
   bool CalibrationShown() override { return ruler_.Shown(); }
   void ShowCalibrationLength(const std::string& length) override { ruler_.ShowLength(length); }
 
@@ -107,6 +110,7 @@ class AnalysisWorkspace final : public IFrameInterface, public IMouseAndKeyBoard
   VideoNotes notes_;
   DisplayRateTest rateTest_;
   RulerCalibration ruler_;
+  CompareModes compare_;
   MenuBar menuBar_;
   HostTimer drawError_;
 };

@@ -55,7 +55,8 @@ constexpr ScreenButton kScreenButtons[] = {
 };
 
 /// What stands in the menus or under a key as well, and is wanted least often on the strip.
-constexpr std::string_view kSpareButtons[] = {"Closeallbtn", "Scn5", "Scn6", "Scn7", "RedoBtn", "CmdAfunctions1", "CmdAfunctions7"};
+constexpr std::string_view kSpareButtons[] = {"Closeallbtn", "Scn3",           "Scn5", "Scn6", "Scn7",
+                                              "RedoBtn",     "CmdAfunctions1", "smbar", "ribShowGrid", "CmdAfunctions7"};
 
 }  // namespace
 
@@ -97,7 +98,8 @@ void MenuBar::AddVideo() {
   Add({"vFlip", kVideo, "F - Flip Video", "CmdAfunctions0", "flip", "Flip Video", kPicture,
        [this] { workspace_.ToggleFlip(); }, hasVideo,
        [this] { return HasVideo() && workspace_.Current().MP->FlipHorizontal(); }});
-  AddComing("MZoom", kVideo, "Z - Zoom Videos");
+  Add({"MZoom", kVideo, "Z - Zoom Videos", "", "zoom", "", kNoButton, [this] { compare_.TZP_Click(); },
+       [] { return true; }, [this] { return compare_.ZoomShown(); }});
   Add({"MnuClose", kVideo, "C - Close Current Video", "Closebtn", "close", "Close Current Video", kOpening,
        [this] {
          if (workspace_.CloseVideo(workspace_.CurrentWindow)) transport_.DisplayData("");
@@ -171,12 +173,16 @@ void MenuBar::AddTools() {
        [this] { return workspace_.AnyVideo(); }, [this] { return transport_.AllLooping(); }});
   Add({"TVT", kTools, "Video Timer", "CmdAfunctions3", "timer", "Show Video Timer", kMeasuring,
        [this] { timer_.TVT_Click(); }, [] { return true; }, [this] { return timer_.Shown(); }});
-  AddComing("TZP", kTools, "Zoom/Pan");
-  AddComing("TSFrames", kTools, "Strobe Frames", "StrobeBtn", "strobe", "Strobe Video", kPicture);
+  Add({"TZP", kTools, "Zoom/Pan", "", "zoom", "", kNoButton, [this] { compare_.TZP_Click(); },
+       [] { return true; }, [this] { return compare_.ZoomShown(); }});
+  Add({"TSFrames", kTools, "Strobe Frames", "StrobeBtn", "strobe", "Strobe Video", kPicture,
+       [this] { compare_.Strobe().StrobeBtn_Click(); }, hasVideo, [this] { return compare_.Strobe().StrobeRunning(); }});
   Add({"TMAX", kTools, "Maximize Current Video", "CmdAfunctions6", "maximize", "Maximize Current Video", kScreens,
-       [this] { workspace_.TMAX_Click(); }, [this] { return workspace_.Maximized() || HasVideo(); },
+       [this] { workspace_.TMAX_Click(); }, [this] { return workspace_.Maximized() || (HasVideo() && !workspace_.Alone()); },
        [this] { return workspace_.Maximized(); }});
-  AddComing("TTCarve", kTools, "Transparency Carve");
+  Add({"TTCarve", kTools, "Transparency Carve", "", "carve", "", kNoButton,
+       [this] { compare_.Piece().TTCarve(); }, [this] { return compare_.Piece().CanShow() && !compare_.Transparency().TransparencyOn(); },
+       [this] { return compare_.Piece().Shown(); }});
   AddSeparator(kTools);
   Add({"TMark", kTools, "Mark Video Position", "", "mark", "", kNoButton, [this] { transport_.TMark_Click(); }, hasVideo});
   Add({"TMarkoff", kTools, "Video Marks Off", "", "", "", kNoButton, [this] { transport_.TMarkoff_Click(); },
@@ -189,8 +195,14 @@ void MenuBar::AddAdvanced() {
   const auto hasVideo = [this] { return HasVideo(); };
   AddComing("CLive", kAdvanced, "Live Draw && Hot Zones");
   AddComing("TRL", kAdvanced, "Record Lesson", "CmdAfunctions5", "microphone", "Record Lesson", kSharing);
-  AddComing("STM", kAdvanced, "&Transparency Mode");
-  AddComing("smbar", kAdvanced, "&Multi-Pic Mode");
+  Add({"STM", kAdvanced, "&Transparency Mode", "", "overlay", "Transparency Mode", kPicture,
+       [this] { compare_.Transparency().STM_Click(); },
+       [this] { return compare_.Transparency().CanShow() && !compare_.Strip().Shown(); },
+       [this] { return compare_.Transparency().TransparencyOn(); }, "Open videos in windows 1 and 2 first"});
+  Add({"smbar", kAdvanced, "&Multi-Pic Mode", "", "multi-picture", "Multi-Picture Mode", kPicture,
+       [this] { compare_.Strip().smbar_Click(); },
+       [this] { return compare_.Strip().CanShow() && !compare_.Transparency().TransparencyOn(); },
+       [this] { return compare_.Strip().Shown(); }});
   AddComing("TTES", kAdvanced, "Email- Take SnapShot");
   AddComing("TES", kAdvanced, "Email- Send SnapShots");
   Add({"MenuEdit", kAdvanced, "Edit Drawings", "CmdAfunctions2", "edit", "Open Edit Bar", kErasing,
@@ -202,8 +214,12 @@ void MenuBar::AddAdvanced() {
   Add({"DTClone", kAdvanced, "Clone Drawings", "CmdAfunctions1", "clone", "Clone Drawings", kErasing,
        [this] { edits_.DTClone_Click(); }, [this] { return edits_.CanClone(); }, {},
        "Needs drawings in the current window and a video in another one"});
-  AddComing("TASF", kAdvanced, "Advanced Strobe");
-  AddComing("cmdDualPlay", "", "", "", "lock", "Lock Videos Together", kPicture);
+  Add({"TASF", kAdvanced, "Advanced Strobe", "", "advanced-strobe", "", kNoButton, [this] { compare_.TASF_Click(); },
+       [this] { return HasVideo() || compare_.StrobeShown(); }, [this] { return compare_.StrobeShown(); }});
+  Add({"cmdDualPlay", "", "", "", "lock", "Lock Videos Together", kPicture,
+       [this] { compare_.Locks().cmdDualPlay(); }, [this] { return compare_.Locks().CanLock(); },
+       [this] { return compare_.Locks().IsLocked(workspace_.CurrentWindow); },
+       "Needs videos in windows 1 and 2, or 3 and 4, side by side"});
 }
 
 void MenuBar::AddSetup() {

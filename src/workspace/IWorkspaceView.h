@@ -32,7 +32,7 @@ class IWorkspaceView {
   // --- play bar
   /// Where the docked bar stands, relative to `MainPanel`.
   virtual void PlacePlayBar(const TwipRect& place) = 0;
-  virtual void SetScrollRange(int maximum) = 0;
+  virtual void SetScrollRange(int minimum, int maximum) = 0;
   virtual void SetScrollValue(int position) = 0;
   virtual void SetPlayPicture(bool playing) = 0;
   virtual void SetSlomoButton(bool down) = 0;

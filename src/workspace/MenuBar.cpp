@@ -22,6 +22,7 @@ MenuBar::MenuBar(const CommandTargets& targets, IWorkspaceView& view, Navigation
       notes_(targets.notes),
       rateTest_(targets.rateTest),
       ruler_(targets.ruler),
+      compare_(targets.compare),
       view_(view),
       navigation_(std::move(navigation)) {
   AddGoTo();
@@ -49,6 +50,7 @@ bool MenuBar::Run(const std::string& name) {
 }
 
 bool MenuBar::PreparetoExit() {
+  compare_.CloseAll();
   if (ruler_.Shown()) ruler_.CalibBtn_Click(1);
   if (tools_.Drawing()) tools_.DrawOffBtn_Click();
   edits_.CloseAll();
@@ -79,6 +81,8 @@ void MenuBar::Escape() {
     tools_.DrawOffBtn_Click();
   } else if (edits_.Escape()) {
     // The edit bar or one of its panels has gone.
+  } else if (compare_.Escape()) {
+    // a mode was left
   } else if (workspace_.Maximized()) {
     workspace_.TMAX_Click();
   } else {

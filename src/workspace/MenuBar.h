@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "drawing/DrawingTools.h"
+#include "workspace/CompareModes.h"
 #include "workspace/DisplayRateTest.h"
 #include "workspace/DrawingEdits.h"
 #include "workspace/RulerCalibration.h"
@@ -36,6 +37,7 @@ struct CommandTargets {
   VideoNotes& notes;
   DisplayRateTest& rateTest;
   RulerCalibration& ruler;
+  CompareModes& compare;
 };
 
 /// One command of the analysis section: an entry of a menu, a button of the tool strip, or both.
@@ -109,6 +111,7 @@ class MenuBar {
   VideoNotes& notes_;
   DisplayRateTest& rateTest_;
   RulerCalibration& ruler_;
+  CompareModes& compare_;
   IWorkspaceView& view_;
   Navigation navigation_;
   std::vector<Command> commands_;

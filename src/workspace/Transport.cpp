@@ -32,7 +32,7 @@ AVIControl* Transport::Player() {
 }
 
 void Transport::cmdPlay() {
-  if (AVIControl* player = Player()) {
+  if (AVIControl* player = Locked() ? nullptr : Player()) {
     if (player->IsPlaying()) {
       player->StopPlay();
       view_.SetLoopButton(false);
@@ -49,7 +49,7 @@ void Transport::cmdPlay() {
 // wanted.
 
 void Transport::cmdREwind() {
-  if (AVIControl* player = Player()) {
+  if (AVIControl* player = Locked() ? nullptr : Player()) {
     player->StopPlay();
     player->Play(0);
   }
@@ -58,14 +58,14 @@ void Transport::cmdREwind() {
 
 void Transport::vn_Click() {
   AVIControl* player = Player();
-  if (!player) return;
+  if (!player || Locked()) return;
   player->StopPlay();
   if (player->CurrentFrame() != player->VideoLength() - 1) player->Play(player->CurrentFrame() + 1);
 }
 
 void Transport::vp_Click() {
   AVIControl* player = Player();
-  if (!player) return;
+  if (!player || Locked()) return;
   player->StopPlay();
   if (player->CurrentFrame() != 0) player->Play(player->CurrentFrame() - 1);
 }
@@ -73,6 +73,7 @@ void Transport::vp_Click() {
 void Transport::Seek(int position) {
   AVIControl* player = Player();
   if (!player || position == player->Position()) return;
+  if (Locked()) return locks_->DualControlScroll(workspace_.CurrentWindow, position);
   player->StopPlay();
   player->Play(std::clamp(position, 0, player->VideoLength() - 1));
 }
@@ -81,7 +82,11 @@ void Transport::StepPressed(bool forward, float x) {
   ForwardHeld_ = forward;
   BackHeld_ = !forward;
   HeldStartX_ = HeldX_ = x;
-  forward ? vn_Click() : vp_Click();
+  if (Locked()) {
+    locks_->DualControlStep(forward);
+  } else {
+    forward ? vn_Click() : vp_Click();
+  }
   FRtimer_ = HostTimer(host_, kRepeatDelay, false,
                        [this] { FRtimer_ = HostTimer(host_, kRepeatInterval, true, [this] { HeldStep(); }); });
 }
@@ -94,13 +99,14 @@ void Transport::StepReleased() {
 void Transport::HeldStep() {
   AVIControl* player = Player();
   if (!player) return;
+  if (Locked()) return locks_->DualControlStep(ForwardHeld_);
   const int step = std::abs(static_cast<int>(std::floor(HeldX_ - HeldStartX_))) / 100;
   if (ForwardHeld_ && player->Position() + step < player->VideoLength() - 1) player->Play(player->Position() + step + 1);
   if (BackHeld_ && player->Position() - step > 0) player->Play(player->Position() - step - 1);
 }
 
 void Transport::ToggleSlomo() {
-  if (AVIControl* player = Player()) {
+  if (AVIControl* player = Locked() ? nullptr : Player()) {
     // A running play ends and goes on at the new speed; only its outcome is shown.
     player->setSpeed(player->Speed() == 100 ? std::clamp<int>(settings_.SlomoSpeed, 1, 100) : 100);
   }
@@ -108,7 +114,7 @@ void Transport::ToggleSlomo() {
 }
 
 void Transport::ToggleLoop() {
-  if (AVIControl* player = Player()) {
+  if (AVIControl* player = Locked() ? nullptr : Player()) {
     const bool on = !player->Repeat();
     player->StopPlay();
     player->setRepeat(on);
@@ -120,7 +126,7 @@ void Transport::ToggleLoop() {
 bool Transport::AllLooping() const {
   bool any = false;
   for (int slot = 1; slot <= kSlots; ++slot) {
-    if (!workspace_.IsShown(slot) || !workspace_.HasVideo(slot)) continue;
+    if (!workspace_.IsShown(slot) || !workspace_.HasVideo(slot) || (locks_ && locks_->IsLocked(slot))) continue;
     if (!workspace_.MP(slot).Repeat()) return false;
     any = true;
   }
@@ -130,7 +136,7 @@ bool Transport::AllLooping() const {
 void Transport::TLAV_Click() {
   const bool on = !AllLooping();
   for (int slot = 1; slot <= kSlots; ++slot) {
-    if (!workspace_.IsShown(slot) || !workspace_.HasVideo(slot)) continue;
+    if (!workspace_.IsShown(slot) || !workspace_.HasVideo(slot) || (locks_ && locks_->IsLocked(slot))) continue;
     AVIControl& player = workspace_.MP(slot);
     player.StopPlay();
     player.setRepeat(on);
@@ -199,7 +205,12 @@ void Transport::ShowCell(int slot) {
 
 void Transport::ScrollBarSetup() {
   AVIControl* player = Player();
-  view_.SetScrollRange(player ? std::max(0, player->VideoLength() - 1) : 0);
+  const auto bounds = locks_ ? locks_->BoundsOf(workspace_.CurrentWindow) : std::nullopt;
+  if (bounds) {
+    view_.SetScrollRange(bounds->lowest, std::max(bounds->lowest, bounds->highest));
+  } else {
+    view_.SetScrollRange(0, player ? std::max(0, player->VideoLength() - 1) : 0);
+  }
   view_.SetScrollValue(player ? player->Position() : 0);
 }
 
@@ -210,7 +221,7 @@ void Transport::ShowCurrent() {
   ShowCell(workspace_.CurrentWindow);
   view_.SetSlomoButton(player && player->Speed() != 100);
   view_.SetLoopButton(player && player->Repeat());
-  view_.SetPlayPicture(player && player->IsPlaying());
+  view_.SetPlayPicture(player && (player->IsPlaying() || (Locked() && locks_->PlayingTogether())));
   view_.SetMarks(workspace_.Current().marks);
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "platform/host/Host.h"
+#include "workspace/DualLock.h"
 #include "workspace/Workspace.h"
 
 namespace kinalyx {
@@ -56,6 +57,9 @@ class Transport {
   void Signal(int slot);
   void Notify(int slot);
 
+  /// Locked videos refuse the transport's own commands and move together; must be set before a video opens.
+  void SetLocks(LockedVideos& locks) { locks_ = &locks; }
+
   /// The frame number stands in the play bar; true while the video timer is open.
   bool ShowFrameCounter = false;
   /// The position of the current video is shown anew.
@@ -63,6 +67,7 @@ class Transport {
 
  private:
   AVIControl* Player();
+  bool Locked() const { return locks_ && locks_->IsLocked(workspace_.CurrentWindow); }
   void HeldStep();
   void ShowPosition();
   void ShowCell(int slot);
@@ -71,6 +76,7 @@ class Transport {
   Settings& settings_;
   Workspace& workspace_;
   IWorkspaceView& view_;
+  LockedVideos* locks_ = nullptr;
   HostTimer FRtimer_;
   bool ForwardHeld_ = false;
   bool BackHeld_ = false;

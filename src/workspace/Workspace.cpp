@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "platform/files/Folders.h"
+#include "workspace/MultiPicture.h"
 
 namespace kinalyx {
 namespace {
@@ -55,10 +56,10 @@ bool Workspace::CheckOpenInAnalysis(const std::string& path) const {
   return !path.empty() && std::ranges::any_of(slots_, [&](const Slot& slot) { return slot.path == path; });
 }
 
-int Workspace::SlotsShown() const { return Maximized() ? 1 : Val(ScreenLayout); }
+int Workspace::SlotsShown() const { return Alone() ? 1 : Val(ScreenLayout); }
 
 bool Workspace::IsShown(int slot) const {
-  return Maximized() ? slot == CurrentWindow : slot >= 1 && slot <= Val(ScreenLayout);
+  return Alone() ? slot == CurrentWindow : slot >= 1 && slot <= Val(ScreenLayout);
 }
 
 // ---------------------------------------------------------------- layouts
@@ -92,9 +93,10 @@ void Workspace::FormReset() {
       continue;
     }
     Slot& at = At(slot);
-    at.cell = cells[Maximized() ? 0 : static_cast<std::size_t>(slot - 1)];
+    at.cell = cells[Alone() ? 0 : static_cast<std::size_t>(slot - 1)];
+    if (ScreenLayout == "MF") at.cell = MultiPicture::Cell(view_.MainPanelWidth(), view_.MainPanelHeight(), at.data.Wide);
     at.panel = {kBorder, kBorder, std::max(at.cell.Width - 2 * kBorder, kTwipsPerPixel),
-                std::max(at.cell.Height - 2 * kBorder - BarHeight(at.cell), kTwipsPerPixel)};
+                std::max(at.cell.Height - 2 * kBorder - (BarHidden ? 0 : BarHeight(at.cell)), kTwipsPerPixel)};
     view_.PlaceCell(slot, at.cell, at.panel);
     view_.PaintBorder(slot, slot == CurrentWindow);
     MPResize(slot);

@@ -80,6 +80,8 @@ class Workspace {
   /// Shows the current video alone, or goes back. An empty slot is refused with false.
   bool TMAX_Click();
   bool Maximized() const { return ScreenLayout == "MAX"; }
+  /// The current video stands alone: maximized, or beneath its film strip.
+  bool Alone() const { return Maximized() || ScreenLayout == "MF"; }
 
   // --- videos
   /// The one road by which a video enters a slot. False when it could not be opened, or when the video
@@ -118,6 +120,9 @@ class Workspace {
   void SetZoom(double zoom);
   void Pan(double dx, double dy);
   void ResetZoom();
+
+  /// Nothing shows under the pictures, which take the bar's room too; FormReset makes it so.
+  bool BarHidden = false;
 
   // --- seams for what lies on the pictures and beside them; all must be set before a video opens
 

@@ -250,7 +250,7 @@ TEST_F(AnalysisFormTest, DisabledThingsSayWhy) {
     if (action->isEnabled() || action->objectName().isEmpty()) continue;
     EXPECT_TRUE(action->toolTip() == "coming" || action->toolTip().contains(' ')) << action->text().toStdString();
   }
-  EXPECT_EQ(Find<QAction>("STM")->toolTip(), "coming");
+  EXPECT_EQ(Find<QAction>("TRL")->toolTip(), "coming");
   for (QPushButton* button : Find<QWidget>("VideoToolBar")->findChildren<QPushButton*>())
     EXPECT_TRUE(button->isEnabled() || button->toolTip().contains(QChar(0x2014))) << button->objectName().toStdString();
 }

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "FakeCompareView.h"
 #include "core/Settings.h"
 #include "support/TestHost.h"
 #include "support/TestVideos.h"
@@ -48,7 +49,7 @@ class FakeWindow final : public IWorkspaceView {
   void SetCellTitle(int slot, const std::string& title) override { titles[slot] = title; }
   void SetCellPosition(int slot, int, int, const std::string& words) override { lines[slot] = words; }
   void PlacePlayBar(const TwipRect& place) override { playBar = place; }
-  void SetScrollRange(int maximum) override { range = maximum; }
+  void SetScrollRange(int, int maximum) override { range = maximum; }
   void SetScrollValue(int position) override { value = position; }
   void SetPlayPicture(bool on) override { playing = on; }
   void SetSlomoButton(bool down) override { slomo = down; }
@@ -172,9 +173,10 @@ class AnalysisStage {
   PlayScheduler scheduler{host};
   PlayerServices services{host, scheduler};
   FakeWindow window;
+  FakeCompareView compareView;
   int libraryVisits = 0, menuVisits = 0, exits = 0;
   FakeEditWindows edits;
-  AnalysisWorkspace analysis{host, settings, window, edits,
+  AnalysisWorkspace analysis{host, settings, scheduler, window, edits, compareView,
                              Navigation{[this] { ++libraryVisits; }, [this] { ++menuVisits; }, [this] { ++exits; }}};
 
  private:

@@ -234,9 +234,10 @@ TEST(CommandTable, TellsWhyWhatCannotBeDoneCannot) {
   AnalysisStage stage("4");
   const MenuBar& commands = stage.Commands();
   EXPECT_EQ(commands.Find("vplay")->Reason(), "Open a video first");
-  EXPECT_EQ(commands.Find("STM")->Reason(), "coming");
+  EXPECT_EQ(commands.Find("TRL")->Reason(), "coming");
+  EXPECT_EQ(commands.Find("STM")->Reason(), "Open videos in windows 1 and 2 first");
   EXPECT_EQ(commands.Find("SEight")->Reason(), "");
-  EXPECT_FALSE(stage.Commands().Run("STM"));
+  EXPECT_FALSE(stage.Commands().Run("TRL"));
   EXPECT_FALSE(stage.Commands().Run("no such thing"));
   stage.Open(1, stage.Video("a.avi"));
   EXPECT_EQ(commands.Find("vplay")->Reason(), "");

@@ -16,6 +16,7 @@
 #include "workspace/forms/CalibrationPanel.h"
 #include "workspace/forms/ColorRow.h"
 #include "workspace/forms/CommandMenus.h"
+#include "workspace/forms/CompareForms.h"
 #include "workspace/forms/DrawCaption.h"
 #include "workspace/forms/EditForms.h"
 #include "workspace/forms/KeyCodeOf.h"
@@ -43,8 +44,9 @@ AnalysisForm::AnalysisForm(IHost& host, Settings& settings, PlayerServices& play
     : QWidget(parent), host_(host), settings_(settings), players_(players), remembered_(remembered) {
   setObjectName("AnalysisForm");
   edits_ = std::make_unique<EditForms>();
-  analysis_ = std::make_unique<AnalysisWorkspace>(host, settings, static_cast<IWorkspaceView&>(*this), *edits_,
-                                                  std::move(navigation));
+  compare_ = std::make_unique<CompareForms>(host);
+  analysis_ = std::make_unique<AnalysisWorkspace>(host, settings, players.scheduler, static_cast<IWorkspaceView&>(*this),
+                                                  *edits_, *compare_, std::move(navigation));
   const auto run = [this](const std::string& command) { Run(command); };
 
   menus_ = new CommandMenus(analysis_->Commands().Commands(), run, this);
@@ -63,6 +65,11 @@ AnalysisForm::AnalysisForm(IHost& host, Settings& settings, PlayerServices& play
   rows->addLayout(middle_, 1);
   MakeStage();
   middle_->addWidget(stage_, 1);
+  compare_->Build(analysis_->Compare(), analysis_->Slots(), stage_);
+  compare_->LockShown = [this] {
+    for (int slot = 1; slot <= kSlots; ++slot) Cell(slot).SetLocked(analysis_->Compare().Locks().IsLocked(slot));
+  };
+  rows->addWidget(compare_->Foot());
   setFocusProxy(keyBox_);
   analysis_->Start();
 }
@@ -74,6 +81,7 @@ AnalysisForm::~AnalysisForm() {
   analysis_->DetachPlayers();
   // The bar and the panels hold references into it: they go first.
   delete openPanel_;
+  delete compare_->Foot();
   delete stage_;
   delete menus_;
   delete strip_;
@@ -206,7 +214,7 @@ void AnalysisForm::PlacePlayBar(const TwipRect& place) {
   PlaceCaption();
 }
 
-void AnalysisForm::SetScrollRange(int maximum) { playBar_->SetScrollRange(maximum); }
+void AnalysisForm::SetScrollRange(int minimum, int maximum) { playBar_->SetScrollRange(minimum, maximum); }
 void AnalysisForm::SetScrollValue(int position) { playBar_->SetScrollValue(position); }
 void AnalysisForm::SetPlayPicture(bool playing) { playBar_->SetPlayPicture(playing); }
 void AnalysisForm::SetSlomoButton(bool down) { playBar_->SetSlomo(down); }
@@ -325,6 +333,7 @@ void AnalysisForm::CommandsChanged() {
   edits_->Update();
   for (VideoCell* cell : cells_) cell->MP().setCursor(drawing ? Qt::CrossCursor : Qt::ArrowCursor);
   playBar_->SetVideo(analysis_->Slots().HasVideo(analysis_->Slots().CurrentWindow));
+  playBar_->SetLocked(analysis_->Compare().Locks().IsLocked(analysis_->Slots().CurrentWindow));
 }
 
 void AnalysisForm::FocusKeyBox() {

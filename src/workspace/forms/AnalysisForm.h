@@ -14,6 +14,7 @@ namespace kinalyx {
 
 class CalibrationPanel;
 class ColorRow;
+class CompareForms;
 class CommandMenus;
 class DrawCaption;
 class EditForms;
@@ -73,7 +74,7 @@ class AnalysisForm : public QWidget, private IWorkspaceView {
   void SetCellTitle(int slot, const std::string& title) override;
   void SetCellPosition(int slot, int position, int maximum, const std::string& line) override;
   void PlacePlayBar(const TwipRect& place) override;
-  void SetScrollRange(int maximum) override;
+  void SetScrollRange(int minimum, int maximum) override;
   void SetScrollValue(int position) override;
   void SetPlayPicture(bool playing) override;
   void SetSlomoButton(bool down) override;
@@ -100,6 +101,7 @@ class AnalysisForm : public QWidget, private IWorkspaceView {
   PlayerServices& players_;
   LastStudentInfo& remembered_;
   std::unique_ptr<EditForms> edits_;  ///< a view of what follows
+  std::unique_ptr<CompareForms> compare_;
   std::unique_ptr<AnalysisWorkspace> analysis_;
   CommandMenus* menus_ = nullptr;
   ColorRow* colors_ = nullptr;

@@ -76,7 +76,7 @@ DualBar::DualBar(CompareModes& modes, Workspace& workspace, QWidget* parent) : Q
     if (!setting_) locks.setTogetherSpeed(speed_->currentData().toInt());
   });
   connect(scroll_, &BoundedSeekBar::Sought, this, [this, &locks, &workspace](int position) {
-    locks.DualControlScroll(workspace.CurrentWindow, scroll_->Lowest() + position);
+    locks.DualControlScroll(workspace.CurrentWindow, position);
   });
   hide();
   Dress();

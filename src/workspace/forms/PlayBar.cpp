@@ -118,12 +118,23 @@ void PlayBar::changeEvent(QEvent* event) {
 void PlayBar::SetVideo(bool has) {
   if (has == hasVideo_) return;
   hasVideo_ = has;
+  locked_ = false;
   for (QToolButton* button : {rewind_, back_, play_, next_, slomo_, loop_}) button->setEnabled(has);
   seek_->setEnabled(has);
   for (QWidget* part : {buttons_, static_cast<QWidget*>(seek_)})
     part->setToolTip(has ? QString() : tr("Open a video first"));
   for (QToolButton* button : {rewind_, back_, play_, next_, slomo_, loop_})
     button->setToolTip(has ? button->accessibleName() : button->accessibleName() + " \u2014 " + tr("Open a video first"));
+}
+
+void PlayBar::SetLocked(bool locked) {
+  if (locked == locked_) return;
+  locked_ = locked;
+  for (QToolButton* button : {rewind_, play_, slomo_, loop_}) {
+    button->setEnabled(hasVideo_ && !locked);
+    button->setToolTip(!locked ? button->accessibleName()
+                               : button->accessibleName() + " — " + tr("The videos are locked: use the bar below"));
+  }
 }
 
 QToolButton* PlayBar::Button(const char* name, const QString& tip) {

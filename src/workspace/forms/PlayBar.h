@@ -18,7 +18,7 @@ class PlayBar : public QFrame {
  public:
   PlayBar(Transport& transport, QWidget* parent);
 
-  void SetScrollRange(int maximum) { seek_->SetRange(maximum); }
+  void SetScrollRange(int minimum, int maximum) { seek_->SetRange(minimum, maximum); }
   void SetScrollValue(int position) { seek_->SetValue(position); }
   void SetPlayPicture(bool playing);
   void SetSlomo(bool down) { slomo_->setChecked(down); }
@@ -28,6 +28,8 @@ class PlayBar : public QFrame {
 
   /// Without a video in the current window there is nothing to press.
   void SetVideo(bool has);
+  /// Locked videos are played and rewound by the bar of the lock.
+  void SetLocked(bool locked);
   bool Docked() const { return docked_; }
   /// Keeps a floating bar inside its parent.
   void KeepInside();
@@ -72,6 +74,7 @@ class PlayBar : public QFrame {
   bool docked_ = true;
   bool playing_ = false;
   bool hasVideo_ = true;
+  bool locked_ = false;
   QPoint grab_;
 };
 

@@ -23,14 +23,15 @@ SeekBar::SeekBar(QWidget* parent) : QWidget(parent) {
   setCursor(Qt::PointingHandCursor);
 }
 
-void SeekBar::SetRange(int maximum) {
-  maximum_ = std::max(0, maximum);
-  value_ = std::min(value_, maximum_);
+void SeekBar::SetRange(int minimum, int maximum) {
+  minimum_ = minimum;
+  maximum_ = std::max(minimum, maximum);
+  value_ = std::clamp(value_, minimum_, maximum_);
   update();
 }
 
 void SeekBar::SetValue(int value) {
-  const int clamped = std::clamp(value, 0, maximum_);
+  const int clamped = std::clamp(value, minimum_, maximum_);
   if (clamped == value_) return;
   value_ = clamped;
   update();
@@ -43,13 +44,13 @@ void SeekBar::SetMarks(std::vector<int> marks) {
 
 double SeekBar::XOf(int position) const {
   const double span = width() - 2 * kKnob;
-  return kKnob + (maximum_ > 0 ? span * position / maximum_ : 0);
+  return kKnob + (maximum_ > minimum_ ? span * (position - minimum_) / (maximum_ - minimum_) : 0);
 }
 
 void SeekBar::SeekTo(double x) {
   const double span = width() - 2 * kKnob;
-  if (maximum_ <= 0 || span <= 0) return;
-  const int position = std::clamp(qRound((x - kKnob) / span * maximum_), 0, maximum_);
+  if (maximum_ <= minimum_ || span <= 0) return;
+  const int position = std::clamp(minimum_ + qRound((x - kKnob) / span * (maximum_ - minimum_)), minimum_, maximum_);
   if (position != value_) {
     SetValue(position);
     emit Sought(position);
@@ -61,7 +62,7 @@ void SeekBar::paintEvent(QPaintEvent*) {
   painter.setRenderHint(QPainter::Antialiasing);
   const double y = height() / 2.0;
   const StageLook look = StageLook::Current();
-  const bool live = isEnabled() && maximum_ > 0;
+  const bool live = isEnabled() && maximum_ > minimum_;
   painter.setPen(Qt::NoPen);
   painter.setBrush(look.cardLine);
   painter.drawRoundedRect(QRectF(kKnob, y - kTrack / 2, width() - 2 * kKnob, kTrack), 2, 2);
@@ -70,7 +71,8 @@ void SeekBar::paintEvent(QPaintEvent*) {
   painter.setBrush(look.accent);
   painter.drawRoundedRect(QRectF(kKnob, y - kTrack / 2, x - kKnob, kTrack), 2, 2);
   painter.setBrush(look.mark);
-  for (const int mark : marks_) painter.drawRoundedRect(QRectF(XOf(mark) - 1.5, y - 6, 3, 12), 1, 1);
+  for (const int mark : marks_)
+    if (mark >= minimum_ && mark <= maximum_) painter.drawRoundedRect(QRectF(XOf(mark) - 1.5, y - 6, 3, 12), 1, 1);
   painter.setBrush(Qt::white);
   painter.drawEllipse(QPointF(x, y), kKnob, kKnob);
 }
@@ -95,7 +97,7 @@ void SeekBar::mouseReleaseEvent(QMouseEvent*) { dragging_ = false; }
 
 void SeekBar::wheelEvent(QWheelEvent* event) {
   const int step = event->angleDelta().y() > 0 ? -1 : 1;
-  const int position = std::clamp(value_ + step, 0, maximum_);
+  const int position = std::clamp(value_ + step, minimum_, maximum_);
   if (position == value_) return;
   SetValue(position);
   emit Sought(position);

@@ -13,11 +13,12 @@ class SeekBar : public QWidget {
  public:
   explicit SeekBar(QWidget* parent = nullptr);
 
-  void SetRange(int maximum);
+  void SetRange(int minimum, int maximum);
   /// Moves the knob; tells nobody.
   void SetValue(int value);
   void SetMarks(std::vector<int> marks);
   int Value() const { return value_; }
+  int Minimum() const { return minimum_; }
   int Maximum() const { return maximum_; }
 
   QSize sizeHint() const override { return {200, 24}; }
@@ -38,6 +39,7 @@ class SeekBar : public QWidget {
   double XOf(int position) const;
   void SeekTo(double x);
 
+  int minimum_ = 0;
   int maximum_ = 0;
   int value_ = 0;
   bool dragging_ = false;

@@ -83,9 +83,8 @@ void DressStageButtons(QWidget* parent) {
 // ---------------------------------------------------------------- BoundedSeekBar
 
 void BoundedSeekBar::SetBounds(int lowest, int highest, int value) {
-  lowest_ = lowest;
-  if (Maximum() != std::max(0, highest - lowest)) SetRange(highest - lowest);
-  SetValue(value - lowest);
+  if (Minimum() != lowest || Maximum() != highest) SetRange(lowest, highest);
+  SetValue(value);
 }
 
 // ---------------------------------------------------------------- SurfaceView

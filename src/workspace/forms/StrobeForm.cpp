@@ -22,7 +22,7 @@ StrobeForm::StrobeForm(StrobeControl& strobe, std::function<void()> save, QWidge
   ESlider_->setToolTip(tr("Moves the current video"));
   ESlider_->setMinimumWidth(330);
   connect(ESlider_, &BoundedSeekBar::Sought, this,
-          [this](int position) { strobe_.ESlider_Change(ESlider_->Lowest() + position); });
+          [this](int position) { strobe_.ESlider_Change(position); });
   rows->addWidget(ESlider_);
 
   auto* buttons = new QHBoxLayout;

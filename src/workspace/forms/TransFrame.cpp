@@ -102,7 +102,7 @@ void TransFrame::MakeVideo(int window, QHBoxLayout* row) {
   video.scroll = new BoundedSeekBar(this);
   video.scroll->setObjectName(QString("HScroll%1").arg(window));
   connect(video.scroll, &BoundedSeekBar::Sought, this, [this, window](int position) {
-    const int value = Of(window).scroll->Lowest() + position;
+    const int value = position;
     window == 1 ? overlay_.HScroll1_Scroll(value) : overlay_.HScroll2_Scroll(value);
   });
   row->addWidget(video.scroll, 1);

@@ -62,6 +62,13 @@ VideoCell::VideoCell(int slot, PlayerServices& services, QWidget* parent) : QWid
   title_->setStyleSheet(
       "background: rgba(12, 15, 19, 190); color: #e6ecf2; border-radius: 11px; padding: 0 10px; font-size: 12px;");
   title_->hide();
+  lock_ = new QLabel(this);
+  lock_->setObjectName(QString("LockPicture%1").arg(slot));
+  lock_->setAttribute(Qt::WA_TransparentForMouseEvents);
+  lock_->setAlignment(Qt::AlignCenter);
+  lock_->setStyleSheet("background: rgba(12, 15, 19, 190); border-radius: 11px;");
+  lock_->setFixedSize(30, 23);
+  lock_->hide();
   hide();
 }
 
@@ -100,11 +107,19 @@ void VideoCell::PlaceTitle() {
   title_->setVisible(!name_.isEmpty());
   if (name_.isEmpty()) return;
   const QFontMetrics metrics(UiFont(12));
-  const int room = panel_->width() - 36;
+  const int room = panel_->width() - (lock_->isHidden() ? 36 : 72);
   const QString text = metrics.elidedText(name_, Qt::ElideMiddle, std::max(40, room));
   title_->setText(text);
   title_->setGeometry(panel_->x() + 8, panel_->y() + 8, metrics.horizontalAdvance(text) + 22, 23);
   title_->raise();
+  lock_->move(title_->geometry().right() + 6, title_->y());
+  lock_->raise();
+}
+
+void VideoCell::SetLocked(bool locked) {
+  if (locked) lock_->setPixmap(IconPixmap("lock", StageLook::Current().mark, 15, devicePixelRatioF()));
+  lock_->setVisible(locked);
+  PlaceTitle();
 }
 
 void VideoCell::SetPosition(int position, int maximum, const QString& line) {

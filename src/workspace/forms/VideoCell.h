@@ -25,6 +25,8 @@ class VideoCell : public QWidget {
   void PlacePlayer(const QRect& place, bool shown);
   void SetCurrent(bool current);
   void SetTitle(const QString& title);
+  /// The lock picture behind the name.
+  void SetLocked(bool locked);
   void SetPosition(int position, int maximum, const QString& line);
   QRect TitleGeometry() const { return title_->isHidden() ? QRect() : title_->geometry(); }
 
@@ -44,6 +46,7 @@ class VideoCell : public QWidget {
   VideoPanel* panel_;
   VideoView* player_;
   QLabel* title_;
+  QLabel* lock_;
   QString name_;
   QString line_;
   int position_ = 0;
