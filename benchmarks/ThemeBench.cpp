@@ -11,6 +11,7 @@
 #include "core/forms/HelpPage.h"
 #include "core/forms/MenuPage.h"
 #include "core/forms/SetupPage.h"
+#include "library/LibraryOperations.h"
 #include "library/forms/ProfilesPage.h"
 #include "platform/host/QtHost.h"
 #include "platform/widgets/Theme.h"
@@ -30,13 +31,14 @@ const Register kThemeSwitch({"theme_switch", {Target::Of::AtMost, 150, 60}, [] {
   LastStudentInfo remembered;
   PlayScheduler scheduler(*host);
   PlayerServices players{*host, scheduler};
+  LibraryOperations operations(*host, settings, {});
 
   auto& application = *static_cast<QApplication*>(QCoreApplication::instance());
   ApplyTheme(application, Theme::FromSlots(schemes.Colours()));
   QStackedWidget window;
   window.resize(1280, 764);
   window.addWidget(new MenuPage(*host, settings));
-  window.addWidget(new ProfilesPage(players, settings, fields, remembered, {}));
+  window.addWidget(new ProfilesPage(players, settings, fields, remembered, operations));
   window.addWidget(new AnalysisForm(*host, settings, players, remembered, {}));
   window.addWidget(new SetupPage(*host, settings, schemes));
   window.addWidget(new HelpPage(QString()));
