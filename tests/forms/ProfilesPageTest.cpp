@@ -92,6 +92,15 @@ TEST_F(ProfilesPageTest, TheKeyboardAloneReachesAVideoPlaysItAndSendsIt) {
   EXPECT_EQ(Text("SPDisplay"), "Current video was sent to Analysis.");
 }
 
+TEST_F(ProfilesPageTest, AListThatGetsTheKeysChoosesNothingByThat) {
+  Choose("InstructorList", "Demo");
+  QFocusEvent focus(QEvent::FocusIn, Qt::TabFocusReason);
+  QApplication::sendEvent(List("StudentList"), &focus);
+  EXPECT_EQ(page->Browser().Student(), "");
+  QTest::keyClick(List("StudentList"), Qt::Key_Down);
+  EXPECT_EQ(page->Browser().Student(), "Sample, Erica");
+}
+
 TEST_F(ProfilesPageTest, ABadVideoIsOfferedForDeletionOnce) {
   library.File("Demo/Tom/bad.avi", "no video");
   library.File("Demo/Tom/bad.ved", "1XXXSXXX");

@@ -89,6 +89,14 @@ void NameList::Fill(const QStringList& names, int current) {
   setCurrentRow(current);
 }
 
+/// A list that gets the keys has nothing chosen by that: the first arrow key chooses the first row.
+void NameList::focusInEvent(QFocusEvent* event) {
+  const bool chosen = currentRow() >= 0;
+  const QSignalBlocker quiet(this);
+  QListWidget::focusInEvent(event);
+  if (!chosen) setCurrentRow(-1);
+}
+
 void NameList::SetCount(int row, int count) {
   if (QListWidgetItem* entry = item(row)) {
     entry->setData(NameDelegate::kCountRole, count < 0 ? QVariant() : QVariant(QString::number(count)));

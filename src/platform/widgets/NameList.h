@@ -36,6 +36,7 @@ class NameList : public QListWidget {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
 
  private:
   QString hint_;
