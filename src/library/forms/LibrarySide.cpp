@@ -110,6 +110,7 @@ void LibrarySide::ChooseWhole(bool whole) {
   wholeDatabase_->setEnabled(!browser_.IsGeneralFolder());
   lists_->VideoList()->setEnabled(!whole);
   if (whole) lists_->VideoList()->clearSelection();
+  ShowHints();
   ShowCount();
 }
 
@@ -151,7 +152,9 @@ void LibrarySide::ShowHints() {
   lists_->InstructorList()->SetHint({});
   lists_->StudentList()->SetHint(general ? QString("Choose an instructor to see the %1.").arg(nouns)
                                          : QString("No %1 here.").arg(nouns));
-  lists_->VideoList()->SetHint(general || browser_.IsQuickLaunch() || browser_.HasStudent()
+  lists_->VideoList()->SetHint(wholeDatabase_->isChecked()
+                                   ? QString("All videos of all %1 of this database are taken.").arg(nouns)
+                               : general || browser_.IsQuickLaunch() || browser_.HasStudent()
                                    ? QString("No videos here.")
                                    : QString("Choose a %1, or take the whole database.").arg(noun));
 }
