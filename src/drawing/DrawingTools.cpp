@@ -216,6 +216,7 @@ bool DrawingTools::MouseDown(int Button, int /*Shift*/, float X, float Y, int Wi
       return true;
     }
   }
+  // A new shape may begin where the last one was pressed.
   if (!begins && point == LastDown_) return true;
   if (list.Adding) {
     Shape& shape = *LastShape(list);

@@ -2,10 +2,10 @@
 
 #include <cmath>
 #include <cstdint>
-#include <cstdlib>
 
 #include <fmt/format.h>
 
+#include "core/Numbers.h"
 #include "drawing/ShapeGeometry.h"
 
 namespace kinalyx {
@@ -47,7 +47,7 @@ std::string AngleCaption(std::span<const POINTAPI> points) {
 
 /// What moved from the last click to the mouse did so in one field.
 std::string SpeedCaption(POINTAPI from, POINTAPI to, const Calibration& calibration) {
-  const double inches = std::atof(Figures(LineLength(from, to) / calibration.CalibNumberOut).c_str());
+  const double inches = ReadNumber(Figures(LineLength(from, to) / calibration.CalibNumberOut));
   const double perHour = inches * (calibration.pal ? kFieldsPerHour50 : kFieldsPerHour60);
   return fmt::format("{}MPH", std::llrint(perHour) / kInchesPerMile);
 }
