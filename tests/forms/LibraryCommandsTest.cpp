@@ -1,5 +1,6 @@
 #include "library/forms/LibraryCommands.h"
 
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QtTest/QTest>
 #include <atomic>
@@ -266,6 +267,20 @@ TEST_F(LibraryCommandsTest, InstructorsAreRenamedAndRemovedWhenTheyAreEmpty) {
   Press("DelInstructorBtn");
   EXPECT_EQ(Text("SPDisplay"), "Empty successfully removed from the system.");
   EXPECT_FALSE(Exists("Empty"));
+}
+
+TEST_F(LibraryCommandsTest, AListHasItsButtonsInAMenuAsWell) {
+  emit List("VideoList")->customContextMenuRequested(QPoint(5, 5));
+  EXPECT_EQ(page->findChild<QMenu*>("ListMenu"), nullptr);  // nothing is chosen
+  ChooseVideo();
+  emit List("VideoList")->customContextMenuRequested(QPoint(5, 5));
+  auto* menu = Find<QMenu>("ListMenu");
+  ASSERT_EQ(menu->actions().size(), 6);
+  EXPECT_EQ(menu->actions()[2]->text(), "Rename the current video");
+  menu->actions()[2]->trigger();
+  EXPECT_TRUE(DialogShown());
+  EXPECT_EQ(Text("DialogTitle"), "Rename Video");
+  menu->close();
 }
 
 // ---------------------------------------------------------------- trimming

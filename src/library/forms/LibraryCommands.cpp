@@ -62,6 +62,7 @@ void LibraryCommands::SendToAnalysis() {
   // What is being moved or cut just now must not be opened.
   if (operations_.Busy()) return page_.Say("Please wait until the operation under way has finished.");
   if (videos_.VideoPlay1().Control().IsPlaying()) videos_.VideoPlay1().TogglePlay();
+  operations_.ShowStatus = [this](const std::string& words) { page_.Say(Q(words)); };
   page_.Say(Q(operations_.SendToAnalysis(ChosenVideo(browser_)).status));
 }
 

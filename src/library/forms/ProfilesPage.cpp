@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 
 #include "library/Sidecar.h"
 #include "library/forms/FieldGrid.h"
@@ -76,6 +77,9 @@ ProfilesPage::ProfilesPage(PlayerServices& services, Settings& settings, Profile
   connect(lists_, &LibraryLists::VideoActivated, commands_, &LibraryCommands::SendToAnalysis);
   connect(lists_, &LibraryLists::PlayWanted, this, [this] { videos_->VideoPlay1().TogglePlay(); });
   for (QWidget* list : {lists_->InstructorList(), lists_->StudentList(), lists_->VideoList()}) list->installEventFilter(this);
+  using enum LibraryAction;
+  GiveMenu(lists_->StudentList(), {RenameStudent, MoveStudent, DeleteStudent});
+  GiveMenu(lists_->VideoList(), {SendToAnalysis, Trim, RenameVideo, MoveVideo, CopyVideo, DeleteVideo});
   connect(profilePanel_, &ProfilePanel::EditWanted, this, [this] { OpenEditor(true); });
   connect(profilePanel_, &ProfilePanel::BackWanted, this, [this] { ShowProfileView(false); });
   connect(profilePanel_, &ProfilePanel::Said, this, &ProfilesPage::Say);
@@ -173,6 +177,20 @@ void ProfilesPage::AddButton(LibraryAction action, Button* button) {
   buttons_[static_cast<std::size_t>(action)] = button;
 }
 
+/// The buttons beneath a list once more, where the right mouse button and the menu key look for them.
+void ProfilesPage::GiveMenu(NameList* list, std::vector<LibraryAction> actions) {
+  list->setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(list, &QWidget::customContextMenuRequested, this, [this, list, actions = std::move(actions)](QPoint place) {
+    if (list->selectedItems().isEmpty()) return;
+    auto* menu = new QMenu(this);
+    menu->setObjectName("ListMenu");
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (const LibraryAction action : actions)
+      menu->addAction(HoverText(action).chopped(1), this, [this, action] { SPBtn_Click(action); });
+    menu->popup(list->viewport()->mapToGlobal(place));
+  });
+}
+
 QString ProfilesPage::HoverText(LibraryAction action) const { return Q(LibraryActionTip(action, settings_)); }
 
 // ---------------------------------------------------------------- life of the page
@@ -255,6 +273,7 @@ void ProfilesPage::SetupFields() {
 void ProfilesPage::Say(const QString& text) {
   said_ = text;
   SPDisplay_->setText(text);
+  SPDisplay_->repaint();  // what is told before a piece of work is seen while it goes on
 }
 
 bool ProfilesPage::eventFilter(QObject* object, QEvent* event) {
@@ -283,7 +302,8 @@ bool ProfilesPage::IsHover(const QEvent& event) const {
 
 /// F2 and Delete in a list are about what is chosen in it.
 bool ProfilesPage::ListKey(QObject* list, int key) {
-  if (key != Qt::Key_F2 && key != Qt::Key_Delete) return false;
+  // Under the open editor nothing is pulled away.
+  if ((key != Qt::Key_F2 && key != Qt::Key_Delete) || !editor_->isHidden()) return false;
   const bool rename = key == Qt::Key_F2;
   if (list == lists_->InstructorList()) {
     if (rename) commands_->RenameInstructor();
@@ -314,8 +334,8 @@ void ProfilesPage::keyPressEvent(QKeyEvent* event) {
 void ProfilesPage::InstructorChosen() {
   SPBtn(LibraryAction::QuickLaunch)->setText(Q(QuickLaunchCaption(browser_.Instructor())));
   const bool own = !browser_.IsGeneralFolder() && !browser_.IsQuickLaunch();
-  renameInstructor_->setEnabled(own);
-  deleteInstructor_->setEnabled(own);
+  renameInstructor_->setEnabled(own && editor_->isHidden());
+  deleteInstructor_->setEnabled(own && editor_->isHidden());
   if (editor_->isHidden()) return;
   editor_->SetInstructor(browser_.IsGeneralFolder() ? std::string() : browser_.Instructor());
   editor_->FocusName();
@@ -427,6 +447,8 @@ void ProfilesPage::OpenEditor(bool edit) {
     part->hide();
   grid_->addWidget(editor_, 0, 1, 2, 2);
   editor_->show();
+  renameInstructor_->setEnabled(false);
+  deleteInstructor_->setEnabled(false);
   if (!edit) editor_->FocusName();
   Say({});
 }
@@ -434,6 +456,7 @@ void ProfilesPage::OpenEditor(bool edit) {
 void ProfilesPage::CloseEditor() {
   editor_->hide();
   grid_->removeWidget(editor_);
+  InstructorChosen();
   lists_->InstructorList()->setEnabled(true);
   addInstructor_->setEnabled(true);
   students_->show();

@@ -24,6 +24,7 @@ namespace kinalyx {
 class Button;
 class LibraryCommands;
 class LibraryLists;
+class NameList;
 class Panel;
 class ProfileEditor;
 class ProfilePanel;
@@ -68,6 +69,7 @@ class ProfilesPage : public QWidget {
   void MakeVideoButtons();
   void MakeButton(LibraryAction action, const char* caption, const char* icon);
   void AddButton(LibraryAction action, Button* button);
+  void GiveMenu(NameList* list, std::vector<LibraryAction> actions);
   QString HoverText(LibraryAction action) const;
   bool ListKey(QObject* list, int key);
   bool IsHover(const QEvent& event) const;
