@@ -68,17 +68,21 @@ TEST(SetupPage, EveryControlWritesItsKeyAtOnce) {
   desk.Click("ODSetupOpt1");
   desk.Find<QSlider>("Slomoscroll")->setValue(40);
   desk.Find<QSlider>("GridSizeScroll")->setValue(12);
+  desk.Find<QSlider>("StrobeStepScroll")->setValue(4);
   desk.Click("Check1_8");
   desk.Click("CadOutlineCheck");
   desk.Click("DCSetupOpt1");
-  EXPECT_EQ(analysis.count(), 7);
+  desk.Click("SSOption2_1");
+  EXPECT_EQ(analysis.count(), 9);
   EXPECT_EQ(desk.OnDisk("General", "ScreenMode"), "4");
   EXPECT_EQ(desk.OnDisk("Analysis", "OpenDlgChoice"), "1");
   EXPECT_EQ(desk.OnDisk("Analysis", "SlomoSpeed"), "40");
   EXPECT_EQ(desk.OnDisk("Analysis", "GridSize"), "12");
+  EXPECT_EQ(desk.OnDisk("Analysis", "StrobeStep"), "4");
   EXPECT_EQ(desk.OnDisk("Analysis", "CadWidth"), "8");
   EXPECT_EQ(desk.OnDisk("Analysis", "CadOutline"), "False");
   EXPECT_EQ(desk.OnDisk("Analysis", "RandomColor"), "1");
+  EXPECT_EQ(desk.OnDisk("Ruler", "NTSCorPAL"), "1");
 
   QSignalSpy company(desk.page.get(), &SetupPage::CompanyChanged);
   QSignalSpy menu(desk.page.get(), &SetupPage::MenuChanged);
@@ -86,6 +90,15 @@ TEST(SetupPage, EveryControlWritesItsKeyAtOnce) {
   desk.Find<QLineEdit>("CompanyNameBox")->setText("Links");
   desk.Find<QLineEdit>("Printtext2")->setText("Links Golf");
   desk.Click("MenuSetupBtn1");
+  desk.Click("UseLogochk");
+  EXPECT_FALSE(desk.Find<QLabel>("LogoPreview")->text().isEmpty()) << "the file has no picture";
+  QImage(40, 20, QImage::Format_RGB32).save(QString::fromStdString(desk.folder.Path("our.png")));
+  desk.host.files = {desk.folder.Path("our.png")};
+  desk.Click("SSCommand14");
+  desk.Click("SSCommand14");  // cancelled
+  EXPECT_EQ(desk.OnDisk("General", "Logo"), "False");
+  EXPECT_EQ(desk.OnDisk("General", "LogoName"), desk.folder.Path("our.png"));
+  EXPECT_FALSE(desk.Find<QLabel>("LogoPreview")->pixmap().isNull());
   EXPECT_EQ(desk.OnDisk("General", "UserName"), "Erica S\xC3\xA4mple");
   EXPECT_EQ(desk.OnDisk("General", "CompanyName"), "Links");
   EXPECT_EQ(desk.OnDisk("General", "Heading2"), "Links Golf");
@@ -98,6 +111,14 @@ TEST(SetupPage, EveryControlWritesItsKeyAtOnce) {
   EXPECT_TRUE(desk.Find<QAbstractButton>("Check1_8")->isChecked());
   EXPECT_EQ(desk.Find<QSlider>("Slomoscroll")->value(), 40);
   EXPECT_EQ(desk.Find<QLineEdit>("CompanyNameBox")->text(), "Links");
+}
+
+TEST(SetupPage, ShowsWhatWasSetElsewhere) {
+  Desk desk;
+  desk.settings.Set(desk.settings.GridSize, 150);
+  desk.page->show();
+  EXPECT_EQ(desk.Find<QSlider>("GridSizeScroll")->value(), 150);
+  EXPECT_EQ(desk.OnDisk("Analysis", "GridSize"), "150");
 }
 
 TEST(SetupPage, ADraggedSliderIsWrittenWhenItIsLetGo) {

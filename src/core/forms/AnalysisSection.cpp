@@ -41,7 +41,8 @@ constexpr Tool kTools[] = {
 
 constexpr int kWidest = 10;  // pixels that a line can be chosen to have
 constexpr int kFewestCells = 2;
-constexpr int kMostCells = 100;
+constexpr int kMostCells = 200;  // as many as the grid itself takes
+constexpr int kWidestStrobe = 30;  // frames, where the list of the strobe's own form ends
 
 std::optional<QColor> AskColour(QWidget* parent, const QColor& present, const QString& title) {
   const QColor chosen = QColorDialog::getColor(present, parent, title, QColorDialog::DontUseNativeDialog);
@@ -57,6 +58,7 @@ AnalysisSection::AnalysisSection(Settings& settings, QWidget* parent)
   AddPlaying();
   AddDrawing();
   AddColours();
+  AddMeasuring();
   Finish();
 }
 
@@ -83,13 +85,19 @@ void AnalysisSection::AddLayouts() {
 }
 
 void AnalysisSection::AddPlaying() {
-  QVBoxLayout* rows = AddPanel(0, "Slow Motion and Grid");
+  QVBoxLayout* rows = AddPanel(0, "Slow Motion, Strobe and Grid");
   slomo_ = AddSlider(
       *rows, "Slomoscroll", "Slow motion speed", 1, 100, " %",
       [this](int value) {
         if (!settings_.Loading) settings_.SlomoSpeed = static_cast<std::int16_t>(value);
       },
       [this](int value) { StoreAndTell(settings_.SlomoSpeed, static_cast<std::int16_t>(value)); });
+  strobe_ = AddSlider(
+      *rows, "StrobeStepScroll", "Frames from one layer of a strobe to the next", 1, kWidestStrobe, {},
+      [this](int value) {
+        if (!settings_.Loading) settings_.StrobeStep = value;
+      },
+      [this](int value) { StoreAndTell(settings_.StrobeStep, value); });
   grid_ = AddSlider(
       *rows, "GridSizeScroll", "Columns of the grid over the picture", kFewestCells, kMostCells, {},
       [this](int value) {
@@ -138,6 +146,14 @@ void AnalysisSection::AddColours() {
   connect(colouring_, &QButtonGroup::idClicked, this, [this](int mode) { StoreAndTell(settings_.RandomColor, mode); });
 }
 
+void AnalysisSection::AddMeasuring() {
+  QVBoxLayout* rows = AddPanel(1, "Measured Speed");
+  rows->addWidget(MakeLabel({}, "Standard of the cameras", "caption"));
+  standards_ = AddRadios(*rows, "SSOption2_", {"NTSC, 60 fields a second", "PAL, 50 fields a second"});
+  connect(standards_, &QButtonGroup::idClicked, this,
+          [this](int standard) { StoreAndTell(settings_.NTSCorPAL, std::to_string(standard)); });
+}
+
 void AnalysisSection::SetupProgram() {
   // A number that no button stands for leaves a group without a choice.
   const auto choose = [](QButtonGroup* group, int id) {
@@ -149,7 +165,9 @@ void AnalysisSection::SetupProgram() {
   choose(sides_, settings_.OpenDlgChoice);
   choose(widths_, settings_.CadWidth);
   choose(colouring_, settings_.RandomColor);
+  choose(standards_, settings_.NTSCorPAL == "0" ? 0 : 1);  // what is not 0 measures as PAL
   slomo_->setValue(settings_.SlomoSpeed);
+  strobe_->setValue(settings_.StrobeStep);
   grid_->setValue(settings_.GridSize);
   outline_->setChecked(settings_.CadOutline);
   for (const auto& [index, button] : colours_) {

@@ -35,6 +35,7 @@ class AnalysisSection : public SetupSection {
   void AddPlaying();
   void AddDrawing();
   void AddColours();
+  void AddMeasuring();
   void NewColor_Click(int index, const QString& title);
 
   template <typename T>
@@ -46,7 +47,9 @@ class AnalysisSection : public SetupSection {
   QButtonGroup* sides_ = nullptr;
   QButtonGroup* widths_ = nullptr;
   QButtonGroup* colouring_ = nullptr;
+  QButtonGroup* standards_ = nullptr;
   QSlider* slomo_ = nullptr;
+  QSlider* strobe_ = nullptr;
   QSlider* grid_ = nullptr;
   QCheckBox* outline_ = nullptr;
   std::map<int, ColourButton*> colours_;

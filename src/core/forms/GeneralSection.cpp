@@ -142,7 +142,7 @@ void GeneralSection::SetupProgram() {
 
 void GeneralSection::Text3_LostFocus() {
   if (settings_.Loading) return;
-  const QString text = noun_->text().trimmed();
+  const QString text = noun_->text().trimmed();  // the word stands in the middle of sentences
   if (text.isEmpty()) {
     noun_->setText(Text(settings_.PrimaryName[0]));  // no page could be named without a word
   } else if (SetPrimaryName(settings_, text.toStdString())) {

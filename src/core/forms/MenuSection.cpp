@@ -1,6 +1,9 @@
 #include "core/forms/MenuSection.h"
 
 #include <QBoxLayout>
+#include <QCheckBox>
+#include <QFileInfo>
+#include <QImageReader>
 #include <QLabel>
 #include <QLineEdit>
 
@@ -9,6 +12,7 @@
 #include "platform/host/Host.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
+#include "platform/widgets/Theme.h"
 
 namespace kinalyx {
 
@@ -22,10 +26,19 @@ class Sample : public MenuCanvas {
   int heightForWidth(int width) const override { return width * 10 / 16; }
 };
 
+constexpr QSize kLogoRoom(200, 72);
+
 }  // namespace
 
 MenuSection::MenuSection(IHost& host, Settings& settings, QWidget* parent)
     : SetupSection("MenuSection", settings, parent), host_(host) {
+  AddHeading();
+  AddLogo();
+  AddPicture();
+  Finish();
+}
+
+void MenuSection::AddHeading() {
   QVBoxLayout* heading = AddPanel(0, "Heading");
   heading->addWidget(MakeLabel({}, "Five lines over the picture, and on printouts", "caption"));
   for (int i = 0; i < 5; ++i) {
@@ -40,7 +53,9 @@ MenuSection::MenuSection(IHost& host, Settings& settings, QWidget* parent)
       emit MenuChanged();
     });
   }
+}
 
+void MenuSection::AddPicture() {
   QVBoxLayout* picture = AddPanel(1, "Picture");
   sample_ = new Sample("MenuSample");
   sample_->SetSample(true);
@@ -60,7 +75,54 @@ MenuSection::MenuSection(IHost& host, Settings& settings, QWidget* parent)
   picture->addLayout(actions);
   connect(choose, &QPushButton::clicked, this, [this] { MenuSetupBtn_Click(0); });
   connect(move, &QPushButton::clicked, this, [this] { MenuSetupBtn_Click(1); });
-  Finish();
+}
+
+void MenuSection::AddLogo() {
+  QVBoxLayout* rows = AddPanel(0, "Logo");
+  UseLogochk_ = new QCheckBox("Print the logo on printouts");
+  UseLogochk_->setObjectName("UseLogochk");
+  rows->addWidget(UseLogochk_);
+  auto* row = new QHBoxLayout;
+  row->setSpacing(kGap);
+  logo_ = MakeLabel("LogoPreview", {}, "logo");
+  logo_->setFixedSize(kLogoRoom);
+  logo_->setAlignment(Qt::AlignCenter);
+  row->addWidget(logo_);
+  auto* side = new QVBoxLayout;
+  auto* choose = new Button("SSCommand14", "Choose Logo", "open");
+  logoName_ = MakeLabel("LogoNameLbl", {}, "caption");
+  logoName_->setWordWrap(true);
+  side->addStretch(1);
+  side->addWidget(choose, 0, Qt::AlignLeft);
+  side->addWidget(logoName_);
+  side->addStretch(1);
+  row->addLayout(side, 1);
+  rows->addLayout(row);
+  connect(UseLogochk_, &QCheckBox::toggled, this, [this](bool on) {
+    Store(settings_.Logo, on);
+    logo_->setEnabled(on);
+  });
+  connect(choose, &QPushButton::clicked, this, &MenuSection::SSCommand14_Click);
+}
+
+void MenuSection::ShowLogo() {
+  const QString file = QString::fromStdString(settings_.LogoName);
+  QImageReader reader(file);
+  reader.setDecideFormatFromContent(true);
+  reader.setAutoTransform(true);
+  const QImage picture = reader.read();
+  logoName_->setText(QFileInfo(file).fileName());
+  logoName_->setToolTip(file);
+  if (picture.isNull()) {
+    logo_->setText(QFileInfo::exists(file) ? "There is no picture in this file." : "This picture has gone.");
+    return;
+  }
+  const qreal ratio = devicePixelRatioF();
+  const QSize room = (kLogoRoom - QSize(12, 12)) * ratio;
+  const bool fits = picture.width() <= room.width() && picture.height() <= room.height();
+  QPixmap shown = QPixmap::fromImage(fits ? picture : picture.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+  shown.setDevicePixelRatio(ratio);
+  logo_->setPixmap(shown);
 }
 
 void MenuSection::SetupProgram() {
@@ -69,6 +131,13 @@ void MenuSection::SetupProgram() {
     if (lines_[i]->text() != line) lines_[i]->setText(line);
   }
   sample_->SetupMenu(host_, settings_);
+  UseLogochk_->setChecked(settings_.Logo);
+  logo_->setEnabled(settings_.Logo);
+  ShowLogo();
+}
+
+void MenuSection::SSCommand14_Click() {
+  if (ChooseLogo(host_, settings_)) ShowLogo();
 }
 
 void MenuSection::MenuSetupBtn_Click(int index) {

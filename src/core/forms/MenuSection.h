@@ -2,12 +2,15 @@
 
 #include "core/forms/SetupSection.h"
 
+class QCheckBox;
+class QLabel;
+
 namespace kinalyx {
 
 class IHost;
 class MenuCanvas;
 
-/// The main menu's picture and heading lines, with the page in small beside them.
+/// The main menu's picture and heading lines, with the page in small beside them, and the logo of printouts.
 class MenuSection : public SetupSection {
   Q_OBJECT
 
@@ -21,11 +24,19 @@ class MenuSection : public SetupSection {
   void MenuChanged();
 
  private:
+  void AddHeading();
+  void AddPicture();
+  void AddLogo();
   void MenuSetupBtn_Click(int index);
+  void ShowLogo();
+  void SSCommand14_Click();
 
   IHost& host_;
   QLineEdit* lines_[5] = {};
   MenuCanvas* sample_ = nullptr;
+  QCheckBox* UseLogochk_ = nullptr;
+  QLabel* logo_ = nullptr;
+  QLabel* logoName_ = nullptr;
 };
 
 }  // namespace kinalyx

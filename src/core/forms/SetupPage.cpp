@@ -25,7 +25,7 @@ struct SectionButton {
 };
 
 constexpr SectionButton kSections[] = {
-    {"Main Menu", "home"},    {"Student Profiles", "students"}, {"Capture", "camera"},
+    {"Main Menu", "home"},    {"Profiles", "students"},         {"Capture", "camera"},
     {"Analysis", "analyze"},  {"General", "setup"},             {"Internet", "network"},
 };
 
@@ -101,6 +101,14 @@ void SetupPage::SetupProgram() {
   settings_.Loading = before;
 }
 
+/// Some settings of the analysis section are changed there as well: the grid's, for one.
+void SetupPage::showEvent(QShowEvent* event) {
+  const bool before = std::exchange(settings_.Loading, true);
+  analysis_->SetupProgram();
+  settings_.Loading = before;
+  QWidget::showEvent(event);
+}
+
 void SetupPage::SetupVocabulary() {
   buttons_->button(kProfiles)->setText(QString::fromStdString(Vocabulary(settings_).Profiles()));
 }
@@ -110,7 +118,6 @@ bool SetupPage::PSCmd_Click(int index) {
   current_ = index;
   buttons_->button(index)->setChecked(true);
   stack_->setCurrentWidget(pages_[static_cast<std::size_t>(index)]);
-  emit SectionOpened(index);
   return true;
 }
 

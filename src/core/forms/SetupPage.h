@@ -56,7 +56,9 @@ class SetupPage : public QWidget {
   /// The window mode is another and written: close the program and start it again. Sent from the event
   /// loop, never from inside a control's own handler.
   void RestartWanted();
-  void SectionOpened(int index);
+
+ protected:
+  void showEvent(QShowEvent* event) override;
 
  private:
   QWidget* MakeSections();

@@ -120,6 +120,7 @@ QFrame[look="stage"] { background: #12161b; border: none; }
 QFrame[look="divider"] { background: @line; border: none; }
 QLabel { background: transparent; border: none; }
 QLabel:disabled { color: @faint; }
+QLabel[look="logo"] { background: #ffffff; color: #3a3f45; border: 1px solid @line; border-radius: 6px; font-size: 11px; }
 QLabel[look="caption"] { color: @muted; font-size: 11px; }
 QLabel[look="muted"] { color: @muted; }
 QLabel[look="heading"] { color: @heading; font-weight: 600; }
