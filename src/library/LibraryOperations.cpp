@@ -13,6 +13,12 @@
 
 namespace kinalyx {
 
+namespace {
+
+constexpr std::string_view kDelete = "delete";
+
+}  // namespace
+
 LibraryVideo ChosenVideo(const LibraryBrowser& browser) {
   return {browser.Instructor(), browser.Student(), browser.VideoPath()};
 }
@@ -108,7 +114,7 @@ OperationResult LibraryOperations::AddInstructor(std::string_view name) {
   return {true, outcome.message, true, std::string(name)};
 }
 
-std::string LibraryOperations::GuardInstructor(const std::string& instructor, const char* verb) {
+std::string LibraryOperations::GuardInstructor(const std::string& instructor, std::string_view verb) {
   if (instructor.empty() || instructor == kGeneralFolder) return "You must select an Instructor or Database first.";
   if (instructor == kQuickLaunch)
     return "The folder " + instructor + " belongs to the program. You cannot " + std::string(verb) + " it.";
@@ -119,7 +125,13 @@ std::string LibraryOperations::GuardInstructor(const std::string& instructor, co
                   std::string(verb) + " this database.")
         .status;
   }
+  if (verb == kDelete && !ListFolders(tree_.InstructorFolder(instructor)).empty())
+    return Refuse(StillFullText(instructor)).status;
   return {};
+}
+
+std::string LibraryOperations::StillFullText(const std::string& instructor) const {
+  return instructor + " still has " + words_.nouns() + " or videos. Move or delete them first.";
 }
 
 OperationResult LibraryOperations::RenameInstructor(const std::string& instructor, std::string_view name) {
@@ -138,14 +150,9 @@ OperationResult LibraryOperations::RenameInstructor(const std::string& instructo
 }
 
 OperationResult LibraryOperations::DeleteInstructor(const std::string& instructor) {
-  if (const std::string refusal = GuardInstructor(instructor, "delete"); !refusal.empty()) return Report(refusal);
-  const std::string folder = tree_.InstructorFolder(instructor);
-  const auto refuseFull = [&] {
-    return Refuse(instructor + " still has " + words_.nouns() + " or videos. Move or delete them first.");
-  };
-  if (!ListFolders(folder).empty()) return refuseFull();
-  if (disk_.RemoveFolder(folder) < 0) {
-    if (errno == ENOTEMPTY || errno == EEXIST) return refuseFull();
+  if (const std::string refusal = GuardInstructor(instructor, kDelete); !refusal.empty()) return Report(refusal);
+  if (disk_.RemoveFolder(tree_.InstructorFolder(instructor)) < 0) {
+    if (errno == ENOTEMPTY || errno == EEXIST) return Refuse(StillFullText(instructor));
     return Refuse(instructor + " could not be removed: " + std::generic_category().message(errno));
   }
   return {true, instructor + " successfully removed from the system.", true};

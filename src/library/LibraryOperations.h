@@ -87,8 +87,9 @@ class LibraryOperations {
 
   OperationResult AddInstructor(std::string_view name);
   /// The refusal of a change to an instructor or database, with `verb` "rename" or "delete": one must be
-  /// chosen that is a folder of the user's own, and none of its videos be open. Empty: go on.
-  std::string GuardInstructor(const std::string& instructor, const char* verb);
+  /// chosen that is a folder of the user's own, none of its videos be open, and for "delete" it must be
+  /// empty. Empty: go on.
+  std::string GuardInstructor(const std::string& instructor, std::string_view verb);
   OperationResult RenameInstructor(const std::string& instructor, std::string_view name);
   /// Removes the folder of an instructor who has neither students nor files.
   OperationResult DeleteInstructor(const std::string& instructor);
@@ -139,6 +140,7 @@ class LibraryOperations {
   static OperationResult Report(const std::string& text) { return {false, text}; }
   void Tell(const std::string& status) const;
   std::string BusyText() const;
+  std::string StillFullText(const std::string& instructor) const;
   void AddToQuickLaunch(const LibraryVideo& video, Done done);
   OperationResult RemoveFromQuickLaunch(const LibraryVideo& video);
   void Transfer(Direction direction, const std::vector<LibraryVideo>& videos, const std::string& targetRoot, Done done);
