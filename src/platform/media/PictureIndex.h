@@ -46,7 +46,6 @@ class PictureIndex {
   /// The packet of this time; nothing when there is none.
   std::optional<int> FindPacket(std::int64_t time) const;
 
-  int ChunkCount() const { return static_cast<int>(keys_.size()); }
   int ChunkOfPacket(int packet) const;
   int ChunkOfPicture(int picture) const;
   /// Its first packet; the first chunk begins at packet 0 even where that is no key.

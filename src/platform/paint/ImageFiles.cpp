@@ -129,18 +129,6 @@ ImageResult SaveJpeg(const PixelRows& rows, const std::string& path, int quality
 
 ImageResult SavePng(const PixelRows& rows, const std::string& path) { return Save(rows, path, "png", -1); }
 
-std::vector<std::uint8_t> EncodeJpeg(const PixelRows& rows, int quality) {
-  const QImage image = ImageOf(rows);
-  if (image.isNull() || quality < 0 || quality > 100) return {};
-  QByteArray bytes;
-  QBuffer buffer(&bytes);
-  buffer.open(QIODevice::WriteOnly);
-  QImageWriter writer(&buffer, "jpg");
-  writer.setQuality(quality);
-  if (!writer.write(image)) return {};
-  return {bytes.begin(), bytes.end()};
-}
-
 std::vector<std::string> EncoderExtensions() {
   static const std::pair<const char*, const char*> kPatterns[] = {
       {"bmp", "*.bmp;*.dib"}, {"jpeg", "*.jpg;*.jpeg;*.jpe;*.jfif"}, {"png", "*.png"}};

@@ -47,8 +47,6 @@ ImageResult LoadImageFile(const std::string& path, Surface& target, Colour groun
 /// old or the new picture, whatever happens. Names of folders, devices and pipes are refused.
 ImageResult SaveJpeg(const PixelRows& rows, const std::string& path, int quality);
 ImageResult SavePng(const PixelRows& rows, const std::string& path);
-/// The bytes of a JPEG file; empty on failure.
-std::vector<std::uint8_t> EncodeJpeg(const PixelRows& rows, int quality);
 
 /// The file name patterns of each format that can be written, such as "*.jpg;*.jpeg".
 std::vector<std::string> EncoderExtensions();

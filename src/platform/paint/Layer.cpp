@@ -180,15 +180,6 @@ Layer Layer::Record(int width, int height, const std::function<void(Canvas&)>& p
   return layer;
 }
 
-Layer Layer::RecordMerge(int width, int height, std::span<const POINTAPI> polygon, Colour colour) {
-  return Record(width, height, [&](Canvas& canvas) {
-    canvas.SetROP2(Rop2::MergePen);
-    canvas.SetPen({colour, 1, 0});
-    canvas.SetBrush(colour);
-    canvas.Polygon(polygon);
-  });
-}
-
 void Layer::LayOver(Surface& target) const {
   if (!content_ || target.Width() != content_->width || target.Height() != content_->height) return;
   std::uint8_t* pixels = target.Row(0);

@@ -3,7 +3,6 @@
 #include <cstddef>
 #include <functional>
 #include <memory>
-#include <span>
 
 #include "platform/paint/Canvas.h"
 #include "platform/paint/Surface.h"
@@ -25,8 +24,6 @@ class Layer {
   /// Runs `paint` on a transparent canvas of this size and keeps what it drew. The canvas is as any
   /// other, in all raster modes, but the pixels of its target say nothing of the frames to come.
   static Layer Record(int width, int height, const std::function<void(Canvas&)>& paint);
-  /// Keeps a filled polygon that is merged (bitwise or) into the picture.
-  static Layer RecordMerge(int width, int height, std::span<const POINTAPI> polygon, Colour colour);
 
   /// Lays the drawing over `target`; a target of another size is left alone.
   void LayOver(Surface& target) const;
