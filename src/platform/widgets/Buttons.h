@@ -23,7 +23,6 @@ class Button : public QPushButton {
 
   /// Another icon of the family; empty for none.
   void SetIcon(const QString& icon);
-  QString IconName() const { return icon_; }
 
  protected:
   void changeEvent(QEvent* event) override;

@@ -17,7 +17,6 @@ class Panel : public QFrame {
   Panel(const QString& name, const QString& title, QWidget* parent = nullptr);
 
   void SetTitle(const QString& title);
-  QLabel* TitleLabel() { return title_; }
   /// To the right of the title.
   QHBoxLayout* Head() { return head_; }
   /// No margins: lists fill the panel from edge to edge.
