@@ -45,7 +45,7 @@ void Button::SetIcon(const QString& icon) {
 
 void Button::changeEvent(QEvent* event) {
   QPushButton::changeEvent(event);
-  if (event->type() == QEvent::StyleChange || event->type() == QEvent::PaletteChange) Tint();
+  if (event->type() == QEvent::StyleChange) Tint();
 }
 
 void Button::Tint() {

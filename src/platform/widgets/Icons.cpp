@@ -5,6 +5,8 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QSvgRenderer>
+#include <optional>
+#include <utility>
 
 #include "platform/widgets/Theme.h"
 
@@ -12,26 +14,22 @@ namespace kinalyx {
 
 namespace {
 
-constexpr const char* kFolderProperty = "kinalyxIcons";
-
 QByteArray ReadDrawing(const QString& name) {
-  QString folder = qApp ? qApp->property(kFolderProperty).toString() : QString();
-  if (folder.isEmpty()) folder = QCoreApplication::applicationDirPath() + "/icons";
-  QFile file(folder + "/" + name + ".svg");
+  QFile file(QCoreApplication::applicationDirPath() + "/icons/" + name + ".svg");
   return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+/// Reads its drawing when it is first drawn: most icons of a page are tinted many times before anybody sees them.
 class TintedEngine : public QIconEngine {
  public:
-  TintedEngine(QByteArray drawing, QColor normal, QColor checked, QColor disabled)
-      : drawing_(std::move(drawing)), normal_(normal), checked_(checked), disabled_(disabled) {}
+  TintedEngine(QString name, QColor normal, QColor checked, QColor disabled)
+      : name_(std::move(name)), normal_(normal), checked_(checked), disabled_(disabled) {}
 
   void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override {
-    if (drawing_.isEmpty()) return;
-    QColor colour = state == QIcon::On && checked_.isValid() ? checked_ : normal_;
-    if (mode == QIcon::Disabled) colour = disabled_.isValid() ? disabled_ : CurrentTheme().faint;
-    QByteArray tinted = drawing_;
-    tinted.replace("currentColor", colour.name().toLatin1());
+    if (!drawing_) drawing_ = ReadDrawing(name_);
+    if (drawing_->isEmpty()) return;
+    QByteArray tinted = *drawing_;
+    tinted.replace("currentColor", Colour(mode, state).name().toLatin1());
     QSvgRenderer renderer(tinted);
     painter->setRenderHint(QPainter::Antialiasing);
     const int side = qMin(rect.width(), rect.height());
@@ -48,11 +46,17 @@ class TintedEngine : public QIconEngine {
     return picture;
   }
 
-  bool isNull() override { return drawing_.isEmpty(); }
+  bool isNull() override { return name_.isEmpty(); }
   QIconEngine* clone() const override { return new TintedEngine(*this); }
 
  private:
-  QByteArray drawing_;
+  QColor Colour(QIcon::Mode mode, QIcon::State state) const {
+    if (mode == QIcon::Disabled) return disabled_.isValid() ? disabled_ : CurrentTheme().faint;
+    return state == QIcon::On && checked_.isValid() ? checked_ : normal_;
+  }
+
+  QString name_;
+  std::optional<QByteArray> drawing_;
   QColor normal_;
   QColor checked_;
   QColor disabled_;
@@ -61,16 +65,14 @@ class TintedEngine : public QIconEngine {
 }  // namespace
 
 QIcon Icon(const QString& name, QColor colour, QColor checked, QColor disabled) {
-  return QIcon(new TintedEngine(ReadDrawing(name), colour, checked, disabled));
+  return QIcon(new TintedEngine(name, colour, checked, disabled));
 }
 
 QPixmap IconPixmap(const QString& name, QColor colour, int size, qreal pixelRatio) {
-  TintedEngine engine(ReadDrawing(name), colour, {}, {});
+  TintedEngine engine(name, colour, {}, {});
   QPixmap picture = engine.pixmap(QSize(size, size) * pixelRatio, QIcon::Normal, QIcon::Off);
   picture.setDevicePixelRatio(pixelRatio);
   return picture;
 }
-
-void SetIconFolder(const QString& folder) { qApp->setProperty(kFolderProperty, folder); }
 
 }  // namespace kinalyx

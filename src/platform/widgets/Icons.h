@@ -16,7 +16,4 @@ QIcon Icon(const QString& name, QColor colour, QColor checked = {}, QColor disab
 /// One picture of an icon, `size` logical pixels square.
 QPixmap IconPixmap(const QString& name, QColor colour, int size, qreal pixelRatio);
 
-/// Where the icons lie; the folder `icons` beside the program unless it is set otherwise.
-void SetIconFolder(const QString& folder);
-
 }  // namespace kinalyx

@@ -105,7 +105,6 @@ QProgressBar::chunk { background: @accent; border-radius: 5px; }
 )";
 
 const char* const kFrames = R"(
-QWidget { color: @text; }
 QMainWindow, QDialog { background: @backdrop; }
 QScrollArea, QScrollArea > QWidget > QWidget[look="clear"] { background: transparent; border: none; }
 QFrame[look="panel"] { background: @field; border: 1px solid @line; border-radius: 8px; }
