@@ -31,7 +31,7 @@ class AVIControl::Run final : public IPlayRun {
   }
 
   std::int64_t Tick(std::int64_t now) override {
-    const Watch watch(control_);
+    const Lifetime::Watch watch(control_.life_);
     if (wrap_) {
       // Counted on from the moment at which it fell due, so that videos looped together stay together.
       const std::int64_t end = base_ + (control_.PlayEnd_ + std::int64_t{1}) * interval_;
@@ -67,7 +67,7 @@ class AVIControl::Run final : public IPlayRun {
     const int play = play_;
     const bool atEnd = counter_ >= control_.PlayEnd_;
     counter_ = std::min(counter_, control_.PlayEnd_);
-    const Watch watch(control_);
+    const Lifetime::Watch watch(control_.life_);
     control_.SetPosition(counter_);
     control_.RenderCurrent();
     if (watch.Gone() || !atEnd || play != play_ || !control_.IsPlaying_) return;
@@ -97,7 +97,7 @@ AVIControl::~AVIControl() {
 
 bool AVIControl::Load(const std::string& FileName, bool SplitFields, bool ReverseFields) {
   const std::string path = FileName.empty() ? filename_ : FileName;
-  const Watch watch(*this);
+  const Lifetime::Watch watch(life_);
   StopStrobe();
   if (IsPlaying_) StopPlay();
   // Whoever was told of the end may have opened another file already: that one wins.
@@ -134,7 +134,7 @@ bool AVIControl::Load(const std::string& FileName, bool SplitFields, bool Revers
 }
 
 void AVIControl::Unload() {
-  const Watch watch(*this);
+  const Lifetime::Watch watch(life_);
   StopStrobe();
   if (!watch.Gone() && IsPlaying_) StopPlay();
   if (watch.Changed()) return;
@@ -146,7 +146,7 @@ void AVIControl::Unload() {
 }
 
 void AVIControl::CloseStream() {
-  ++*life_;
+  life_.Change();
   VideoStream_.reset();
   FrameBuffer_ = {};
   softened_ = false;
@@ -314,7 +314,7 @@ void AVIControl::setSplitFields(bool on) {
 // ---------------------------------------------------------------- drawing
 
 void AVIControl::DrawFrame(int Position) {
-  const Watch watch(*this);
+  const Lifetime::Watch watch(life_);
   StopStrobe();
   if (watch.Changed()) return;
   SetPosition(Position);
@@ -367,7 +367,7 @@ void AVIControl::Compose(const PixelRows& picture) {
 }
 
 void AVIControl::PresentFrame() {
-  const Watch watch(*this);
+  const Lifetime::Watch watch(life_);
   if (sink_) sink_->PreDrawFrame(*FrameGraphics_, ID_);
   if (watch.Changed()) return;
   if (view_) view_->Present(MainSurface_);
@@ -380,7 +380,7 @@ void AVIControl::Play(int Start, int End) {
   if (filename_.empty() || !VideoStream_) return;
   if (IsPlaying_) return StopPlay();
   if (Start >= 0 && End < 0) return DrawFrame(Start);
-  const Watch watch(*this);
+  const Lifetime::Watch watch(life_);
   StopStrobe();
   if (watch.Changed() || IsPlaying_) return;
   // A new speed that waited for the end of another play holds for this one.
@@ -412,7 +412,7 @@ void AVIControl::FinishPlay() {
   Repeat_ = false;
   // A play without arguments takes up this end; with fields it has always been stored as a frame.
   if (playEndArgument_) PlayEnd_ = SplitFields_ ? *playEndArgument_ / 2 : *playEndArgument_;
-  const Watch watch(*this);
+  const Lifetime::Watch watch(life_);
   if (sink_) sink_->Notify(CurrentRawFrame_, ID_);
   if (watch.Changed()) return;
   if (RestartPending_ && !IsPlaying_) setSpeed(RestartSpeed_);

@@ -8,38 +8,21 @@
 #include <string>
 #include <vector>
 
-#include "platform/host/Host.h"
 #include "platform/media/VideoFile.h"
 #include "platform/paint/Canvas.h"
 #include "platform/paint/PixelOps.h"
 #include "platform/paint/Surface.h"
 #include "video/CallbackInterfaces.h"
 #include "video/FramePipeline.h"
-#include "video/PlayScheduler.h"
+#include "video/IPlayerView.h"
+#include "video/Lifetime.h"
+#include "video/PlayerServices.h"
 #include "video/SystemColours.h"
 
 namespace kinalyx {
 
 /// Settings of a player by name, as a layout file keeps them; true is -1.
 using PropertyBag = std::map<std::string, std::int64_t>;
-
-/// What shows a player's picture. The surface belongs to the player and changes with its next frame.
-class IPlayerView {
- public:
-  virtual ~IPlayerView() = default;
-  /// A new picture stands on `picture`; an empty surface says that there is none.
-  virtual void Present(const Surface& picture) = 0;
-  /// The colour shown where there is no picture.
-  virtual void SetBackColor(Colour colour) = 0;
-};
-
-/// What all players of the program share. Outlives them.
-struct PlayerServices {
-  IHost& host;
-  PlayScheduler& scheduler;
-  /// Pictures per second of the file that was loaded last, by any player; 29 counts as 30.
-  int VideoFrameRate = 30;
-};
 
 /// The one video player: opens a file, holds one frame on an off-screen surface, plays by the clock.
 /// A position is a frame or, with `SplitFields`, a field: position = 2 * frame + order of the field.
@@ -174,21 +157,6 @@ class AVIControl {
  private:
   class Run;
   class Strobe;
-  /// Tells, after a callback, whether the control still is what it was before.
-  class Watch {
-   public:
-    explicit Watch(const AVIControl& control) : life_(control.life_), opened_(*control.life_) {}
-    bool Gone() const { return life_.expired(); }
-    /// Also true when another file, or none, is open now.
-    bool Changed() const {
-      const auto life = life_.lock();
-      return !life || *life != opened_;
-    }
-
-   private:
-    std::weak_ptr<int> life_;
-    int opened_;
-  };
   /// What a composed picture depends on, beside the size of the surface.
   struct Composition {
     int frame = 0;
@@ -223,7 +191,7 @@ class AVIControl {
   IPlayerView* view_;
   IFrameInterface* sink_ = nullptr;
   IMouseAndKeyBoardEvents* input_ = nullptr;
-  std::shared_ptr<int> life_ = std::make_shared<int>(0);  ///< counts the files opened and closed
+  Lifetime life_;  ///< the open file's; its watches are kept across callbacks
 
   int ControlWidthPixels_ = 0;
   int ControlHeightPixels_ = 0;

@@ -56,7 +56,7 @@ class AVIControl::Strobe final : public IPlayRun {
     control.ComposeFrameBuffer();
     const std::int64_t wait = Wait();
     const int number = control.strobeNumber_;
-    const Watch watch(control);
+    const Lifetime::Watch watch(control.life_);
     control.PresentFrame();
     if (watch.Changed() || !control.strobe_ || control.strobeNumber_ != number) return 0;
     return control.services_.host.timeGetTime() + wait;
@@ -127,7 +127,7 @@ void AVIControl::AttackBits() {
 
 void AVIControl::Enhance(double HighAmount, double LowAmount) {
   if (!VideoStream_ || MainSurface_.Empty()) return;
-  const Watch watch(*this);
+  const Lifetime::Watch watch(life_);
   if (FormatHeader_.bitCount == 24 && CopyFieldOf(CurrentRawFrame_, FrameBuffer_)) {
     const int rowBytes = ScanLineBytes(FormatHeader_.width, 24);
     if (softened_) EnhanceField(FrameBuffer_.data(), rowBytes, FormatHeader_.height, CurrentField_, HighAmount, LowAmount);
@@ -152,7 +152,7 @@ void AVIControl::Strobeframes2(int Start, int End, int Step) {
 }
 
 void AVIControl::BeginStrobe(std::unique_ptr<Strobe> strobe) {
-  const Watch watch(*this);
+  const Lifetime::Watch watch(life_);
   StopStrobe();
   if (!watch.Changed() && IsPlaying_) StopPlay();
   if (watch.Changed() || !VideoStream_) return;

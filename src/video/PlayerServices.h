@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/host/Host.h"
+#include "video/PlayScheduler.h"
+
+namespace kinalyx {
+
+/// What all players of the program share. Outlives them.
+struct PlayerServices {
+  IHost& host;
+  PlayScheduler& scheduler;
+  /// Pictures per second of the file that was loaded last, by any player; 29 counts as 30.
+  int VideoFrameRate = 30;
+};
+
+}  // namespace kinalyx
