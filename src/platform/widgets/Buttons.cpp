@@ -56,7 +56,7 @@ void Button::Tint() {
   const Theme theme = CurrentTheme();
   switch (look_) {
     case Look::Filled: setIcon(Icon(icon_, theme.accentText)); break;
-    case Look::Stage: setIcon(Icon(icon_, theme.stageText, theme.stageText, QColor(0x59, 0x63, 0x6d))); break;
+    case Look::Stage: setIcon(Icon(icon_, theme.stageText, theme.stageText, QColor(0x62, 0x6d, 0x77))); break;
     default: setIcon(Icon(icon_, theme.heading, theme.accentText)); break;
   }
 }
@@ -90,15 +90,19 @@ void TileButton::paintEvent(QPaintEvent*) {
 
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  QColor ground = rail ? Qt::transparent : theme.panel;
-  QColor ink = rail ? theme.heading : Readable(theme.accent, theme.panel);
-  if (!rail) ground.setAlphaF(isEnabled() ? 0.92 : 0.62);
+  QColor ground = rail ? Qt::transparent : isEnabled() ? theme.panel : Mix(theme.panel, theme.line, 0.35);
+  QColor ink = isEnabled() ? theme.heading : theme.faint;
+  if (!rail) {
+    // A hint of the picture shines through; the words are set for the darkest that it can be.
+    constexpr double kOpacity = 0.92;
+    ink = Readable(ink, Mix(ground, Qt::black, 1 - kOpacity));
+    ground.setAlphaF(kOpacity);
+  }
   if (hovered) ground = rail ? Mix(theme.panel, theme.line, 0.6) : Mix(theme.panel, Qt::white, 0.75);
   if (chosen) {
     ground = theme.accent;
     ink = theme.accentText;
   }
-  if (!isEnabled()) ink = rail ? theme.faint : Mix(theme.muted, theme.panel, 0.15);
 
   const QRectF box = QRectF(rect()).adjusted(1, 1, -1, -1);
   painter.setPen(Qt::NoPen);
@@ -112,7 +116,7 @@ void TileButton::paintEvent(QPaintEvent*) {
 
   const int iconSide = rail ? 26 : 36;
   const int gap = rail ? 6 : 12;
-  painter.setFont(UiFont(rail ? 12 : kTextPixels, 600));
+  painter.setFont(UiFont(rail ? 12 : kTextPixels, isEnabled() ? 600 : 400));
   const int flags = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
   const QRect room = rect().adjusted(6, 0, -6, 0);
   const QRect words = painter.fontMetrics().boundingRect(room, flags, text());

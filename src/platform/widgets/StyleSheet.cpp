@@ -30,7 +30,7 @@ QPushButton[look="quiet"][square="true"]:focus { padding: 0; min-width: 30px; ma
 
 QPushButton[look="flat"] { background: transparent; color: @heading; border: 2px solid transparent; }
 QPushButton[look="flat"]:hover { background: @flatHover; border-color: @flatHover; }
-QPushButton[look="flat"]:pressed { background: @line; border-color: @line; }
+QPushButton[look="flat"]:pressed { background: @flatPressed; border-color: @flatPressed; }
 QPushButton[look="flat"]:checked { background: @accent; color: @accentText; border-color: @accent; }
 QPushButton[look="flat"]:focus { border-color: @accentSoft; }
 QPushButton[look="flat"]:disabled { background: transparent; color: @faint; border-color: transparent; }
@@ -39,7 +39,7 @@ QPushButton[look="stage"] { background: transparent; color: @stageText; border: 
 QPushButton[look="stage"]:hover { background: #262d35; border-color: #262d35; }
 QPushButton[look="stage"]:pressed { background: #323b45; border-color: #323b45; }
 QPushButton[look="stage"]:checked { background: @stageAccent; border-color: @stageAccent; }
-QPushButton[look="stage"]:disabled { color: #59636d; }
+QPushButton[look="stage"]:disabled { color: #626d77; }
 
 QPushButton[look="section"] { background: transparent; color: @heading; border: 2px solid transparent;
   border-radius: 6px; text-align: left; padding: 0 12px; }
@@ -52,7 +52,7 @@ QPushButton[look="tile"] { background: transparent; border: none; padding: 0; mi
 
 QToolButton { background: transparent; border: 2px solid transparent; border-radius: 8px; padding: 4px; color: @heading; }
 QToolButton:hover { background: @flatHover; border-color: @flatHover; }
-QToolButton:pressed { background: @line; }
+QToolButton:pressed { background: @flatPressed; }
 QToolButton:checked { background: @accent; border-color: @accent; color: @accentText; }
 QToolButton:focus { border-color: @accentSoft; }
 )";
@@ -160,6 +160,7 @@ QString StyleSheetOf(const Theme& t) {
       {"@disabledFill", Mix(t.panel, t.line, 0.35)},
       {"@focus", Mix(t.accentText, t.accent, 0.35)},
       {"@flatHover", Mix(t.panel, t.line, 0.6)},
+      {"@flatPressed", Mix(t.panel, t.line, 0.85)},
       {"@selection", t.selection},
       {"@panel", t.panel},
       {"@backdrop", t.backdrop},

@@ -76,7 +76,8 @@ Theme Theme::FromSlots(const SchemeSlots& scheme) {
   t.text = Readable(Mix(Mix(t.accent, t.panel, 0.06), Qt::black, 0.55), t.backdrop, 7);
   t.heading = Readable(t.accent, t.panel);
   t.muted = Readable(Readable(Mix(t.text, t.panel, 0.38), t.panel), t.backdrop);
-  t.faint = Mix(t.text, t.panel, 0.58);
+  // Not inviting, but still to be made out, also on the fill of a disabled button.
+  t.faint = Readable(Readable(Mix(t.text, t.panel, 0.58), Mix(t.panel, t.line, 0.35), 3), t.backdrop, 3);
   t.selection = Mix(t.field, t.panel, 0.75);
   t.stage = QColor(0x12, 0x16, 0x1b);
   t.stageLine = QColor(0x2a, 0x31, 0x39);
@@ -102,7 +103,7 @@ QPalette PaletteOf(const Theme& t) {
   p.setColor(QPalette::Base, t.field);
   p.setColor(QPalette::AlternateBase, t.selection);
   p.setColor(QPalette::Text, t.text);
-  p.setColor(QPalette::PlaceholderText, t.faint);
+  p.setColor(QPalette::PlaceholderText, t.muted);
   p.setColor(QPalette::Button, t.panel);
   p.setColor(QPalette::ButtonText, t.text);
   p.setColor(QPalette::BrightText, t.accentText);
