@@ -79,6 +79,9 @@ TEST_F(VideoViewTest, ShowsThePictureOrTheColourOfItsState) {
   EXPECT_EQ(control.ControlWidthPixels(), 320);
   EXPECT_EQ(control.ControlHeightPixels(), 100);
   EXPECT_EQ(number(), 7);
+  control.Resize(240, 180);  // told before the window system is
+  view.resize(240, 180);
+  EXPECT_EQ(number(), 7);
   control.Unload();
   EXPECT_EQ(shown(50, 50), QColor(0, 0, 0));
 }

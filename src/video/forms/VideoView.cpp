@@ -49,8 +49,12 @@ void VideoView::paintEvent(QPaintEvent*) {
 }
 
 void VideoView::resizeEvent(QResizeEvent*) {
+  const int wide = qRound(width() * devicePixelRatioF());
+  const int high = qRound(height() * devicePixelRatioF());
+  // Whoever places the widget may have told the player its size already: its picture stands.
+  if (wide == control_.ControlWidthPixels() && high == control_.ControlHeightPixels()) return;
   picture_ = nullptr;  // the surface is about to be made anew
-  control_.Resize(qRound(width() * devicePixelRatioF()), qRound(height() * devicePixelRatioF()));
+  control_.Resize(wide, high);
 }
 
 void VideoView::mousePressEvent(QMouseEvent* event) {
