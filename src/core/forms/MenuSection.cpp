@@ -27,6 +27,7 @@ class Sample : public MenuCanvas {
 };
 
 constexpr QSize kLogoRoom(200, 72);
+constexpr int kNameRoom = 140;  // beside the button in the narrowest page
 
 }  // namespace
 
@@ -82,21 +83,17 @@ void MenuSection::AddLogo() {
   UseLogochk_ = new QCheckBox("Print the logo on printouts");
   UseLogochk_->setObjectName("UseLogochk");
   rows->addWidget(UseLogochk_);
-  auto* row = new QHBoxLayout;
-  row->setSpacing(kGap);
   logo_ = MakeLabel("LogoPreview", {}, "logo");
   logo_->setFixedSize(kLogoRoom);
   logo_->setAlignment(Qt::AlignCenter);
-  row->addWidget(logo_);
-  auto* side = new QVBoxLayout;
+  rows->addWidget(logo_);
+  rows->addSpacing(4);
+  auto* row = new QHBoxLayout;
+  row->setSpacing(kGap);
   auto* choose = new Button("SSCommand14", "Choose Logo", "open");
   logoName_ = MakeLabel("LogoNameLbl", {}, "caption");
-  logoName_->setWordWrap(true);
-  side->addStretch(1);
-  side->addWidget(choose, 0, Qt::AlignLeft);
-  side->addWidget(logoName_);
-  side->addStretch(1);
-  row->addLayout(side, 1);
+  row->addWidget(choose);
+  row->addWidget(logoName_, 1);
   rows->addLayout(row);
   connect(UseLogochk_, &QCheckBox::toggled, this, [this](bool on) {
     Store(settings_.Logo, on);
@@ -111,7 +108,7 @@ void MenuSection::ShowLogo() {
   reader.setDecideFormatFromContent(true);
   reader.setAutoTransform(true);
   const QImage picture = reader.read();
-  logoName_->setText(QFileInfo(file).fileName());
+  logoName_->setText(logoName_->fontMetrics().elidedText(QFileInfo(file).fileName(), Qt::ElideMiddle, kNameRoom));
   logoName_->setToolTip(file);
   if (picture.isNull()) {
     logo_->setText(QFileInfo::exists(file) ? "There is no picture in this file." : "This picture has gone.");
