@@ -26,6 +26,13 @@ constexpr Section kSections[] = {
     {7, "Help and Demos", "help"},       {8, "To Main Menu", "home"},
 };
 
+/// Control and the section's number; 0 leads to the main menu.
+QKeySequence KeysOf(int index) { return {Qt::CTRL | Qt::Key(Qt::Key_0 + (index < kPageCount ? index : kMenuPage))}; }
+
+QString Tip(int index, const QString& caption) {
+  return QString("%1 (%2)").arg(caption, KeysOf(index).toString(QKeySequence::NativeText));
+}
+
 }  // namespace
 
 Main::Main(QWidget* parent) : QWidget(parent) {
@@ -55,6 +62,8 @@ QWidget* Main::MakeHeading() {
   row->addWidget(MakeLabel("MainCmd0", "Kinalyx", "brand"));
   title_ = MakeLabel("PageTitle", "", "pageTitle");
   row->addWidget(title_, 1);
+  company_ = MakeLabel("CourseLbl", "", "pageTitle");
+  row->addWidget(company_);
   minimize_ = IconButton("MinimizeBtn", "minimize", tr("Put the window away"), Look::Filled, heading);
   close_ = IconButton("QuitBtn", "close", tr("Close Kinalyx"), Look::Filled, heading);
   for (Button* button : {minimize_, close_}) {
@@ -91,11 +100,10 @@ QWidget* Main::MakeRail() {
       emit PageWanted(wanted);
     };
     connect(button, &QPushButton::clicked, this, want);
-    const QKeySequence keys(Qt::CTRL | (isPage ? Qt::Key(Qt::Key_0 + section.index) : Qt::Key_0));
-    connect(new QShortcut(keys, this), &QShortcut::activated, this, [button, want] {
+    connect(new QShortcut(KeysOf(section.index), this), &QShortcut::activated, this, [button, want] {
       if (button->isEnabled()) want();
     });
-    button->setToolTip(QString("%1 (%2)").arg(section.caption, keys.toString(QKeySequence::NativeText)));
+    button->setToolTip(Tip(section.index, section.caption));
     column->addWidget(button);
     sections_[static_cast<std::size_t>(section.index)] = button;
   }
@@ -133,8 +141,13 @@ void Main::OpenPage(int index, const QString& title) {
 
 void Main::SetHeading(const QString& title) { title_->setText(title); }
 
+void Main::SetCompany(const QString& company) { company_->setText(company); }
+
 void Main::SetSectionCaption(int index, const QString& caption) {
-  if (TileButton* section = sections_[static_cast<std::size_t>(index)]) section->setText(caption);
+  TileButton* section = sections_[static_cast<std::size_t>(index)];
+  if (!section) return;
+  section->setText(caption);
+  if (section->isEnabled()) section->setToolTip(Tip(index, caption));
 }
 
 void Main::SetSectionComing(int index) {

@@ -45,6 +45,8 @@ class Main : public QWidget {
   void OpenPage(int index, const QString& title);
   int CurrentPage() const { return current_; }
   void SetHeading(const QString& title);
+  /// The company's name, at the right of the heading.
+  void SetCompany(const QString& company);
   /// Words of a section's button, on the rail.
   void SetSectionCaption(int index, const QString& caption);
   /// For a section that is not built yet.
@@ -69,6 +71,7 @@ class Main : public QWidget {
   QWidget* MakeRail();
 
   QLabel* title_ = nullptr;
+  QLabel* company_ = nullptr;
   Button* minimize_ = nullptr;
   Button* close_ = nullptr;
   QWidget* rail_ = nullptr;

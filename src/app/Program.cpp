@@ -96,6 +96,7 @@ void Program::LoadMain() {
     main_->SetSectionComing(index);
     menu_->SetSectionComing(index);
   }
+  main_->SetCompany(Text(settings_.CompanyName));
   SetupVocabulary();
   setup_->SetupProgram();
   settings_.LoadCaptureSettings();
@@ -113,6 +114,7 @@ void Program::ConnectSetupPage() {
   const auto on = [this](auto signal, auto action) { QObject::connect(setup_, signal, main_.get(), action); };
   on(&SetupPage::DesignChanged, [this] { DressApplication(); });
   on(&SetupPage::VocabularyChanged, [this] { SetupVocabulary(); });
+  on(&SetupPage::CompanyChanged, [this](const QString& company) { main_->SetCompany(company); });
   on(&SetupPage::MenuChanged, [this] { menu_->SetupMenuImage(); });
   on(&SetupPage::LibraryChanged, [this] { lastStudent_ = {}; });
   on(&SetupPage::AnalysisChanged, [this] {
@@ -171,6 +173,7 @@ void Program::SetupVocabulary() {
 
 void Program::ShowFirstForm() {
   FirstForm form(settings_, mail_, main_.get());
+  QObject::connect(&form, &FirstForm::CompanyChanged, main_.get(), &Main::SetCompany);
   form.exec();
   setup_->SetupProgram();
 }

@@ -25,6 +25,7 @@ void DisplayRateTest::Notify(int slot) {
   if (slot != slot_) return;
   slot_ = 0;
   const int length = workspace_.MP(slot).VideoLength();
+  // The percentage takes two figures after the point and says little by itself: the plain count follows it.
   // Told from the event loop: a message box must not hold up the player that is ending its play.
   tell_ = HostTimer(host_, 0, false, [this, length, counter = DisplayRateCounter_] {
     host_.Message(MessageKind::Information, "",

@@ -1,7 +1,8 @@
 #include "workspace/RulerCalibration.h"
 
 #include <cmath>
-#include <cstdlib>
+
+#include "core/Numbers.h"
 
 namespace kinalyx {
 
@@ -24,7 +25,7 @@ void RulerCalibration::ShowLength(const std::string& length) {
 void RulerCalibration::CalibBtn_Click(int Index, double typed, LengthUnit input, LengthUnit output) {
   if (!shown_) return;
   if (Index == 0) {
-    const auto pixels = static_cast<std::int32_t>(std::lrint(std::strtod(Label4_.c_str(), nullptr)));
+    const auto pixels = ReadInt32(Label4_);
     settings_.Set(settings_.CalibNumber, pixels);
     if (const auto scale = PixelsPerInch(pixels, typed, input)) settings_.Set(settings_.CalibNumberOut, *scale);
     settings_.Set(settings_.CalibInput, input);

@@ -2,8 +2,10 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <cmath>
-#include <cstdlib>
+
+#include "core/Numbers.h"
 
 namespace kinalyx {
 
@@ -44,7 +46,9 @@ void VideoTimer::UpdateTimer() {
 }
 
 void VideoTimer::txtFRBox_Change(const std::string& text) {
-  const double rate = std::strtod(text.c_str(), nullptr);
+  std::string number = text;
+  std::ranges::replace(number, ',', '.');
+  const double rate = ReadNumber(number);
   TimerRate_[static_cast<std::size_t>(workspace_.CurrentWindow)] = rate > 0 && std::isfinite(rate) ? rate : 0;
   UpdateTimer();
 }
