@@ -11,7 +11,7 @@ namespace {
 constexpr const char* kPictureFilter =
     "All Picture Files (*.bmp;*.jpg;*.gif;*.ico)|*.bmp; *.jpg; *.gif; *.ico";
 constexpr std::int32_t kPlaces = 10;
-constexpr std::int32_t kPlacesInRow = 5;
+constexpr std::int32_t kPlacesInRow = 3;
 
 bool Choose(IHost& host, Settings& settings, const char* title, std::string& setting) {
   const auto picture = host.PickFile({title, JoinPath(settings.AppPath, "pictures/backgrounds"), kPictureFilter});
@@ -51,9 +51,9 @@ void NextCaptionPosition(Settings& settings) {
 }
 
 CaptionPlace PlaceOfCaption(std::int32_t position) {
+  if (position == kPlaces) return {1, 1};
   const std::int32_t place = position < 1 || position > kPlaces ? 0 : position - 1;
-  return {static_cast<double>(place % kPlacesInRow) / (kPlacesInRow - 1),
-          static_cast<double>(place / kPlacesInRow) / (kPlaces / kPlacesInRow - 1)};
+  return {place % kPlacesInRow / 4.0, place / kPlacesInRow / 2.0};
 }
 
 }  // namespace kinalyx

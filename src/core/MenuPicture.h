@@ -24,8 +24,9 @@ bool ChooseLogo(IHost& host, Settings& settings);
 /// Moves the heading lines to the next of the ten places, from the last to the first, and writes it.
 void NextCaptionPosition(Settings& settings);
 
-/// Where a place stands on the page: two rows of five. Parts of the free width and height, 0 the left or
-/// upper edge, 1 the right or lower. A position outside 1 to 10 counts as 1.
+/// Where a place stands on the page: three rows of three on the left half, and the lower right corner; the
+/// upper right is left to the face of whom the picture shows. Parts of the free width and height, 0 the left
+/// or upper edge, 1 the right or lower. A position outside 1 to 10 counts as 1.
 struct CaptionPlace {
   double across = 0;
   double down = 0;

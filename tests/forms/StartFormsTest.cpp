@@ -11,10 +11,12 @@
 #include "core/MailSettings.h"
 #include "core/Vocabulary.h"
 #include "core/forms/FirstForm.h"
+#include "core/forms/HeadingInk.h"
 #include "core/forms/HelpPage.h"
 #include "core/forms/MenuPage.h"
 #include "core/forms/SplashForm.h"
 #include "platform/files/IniFile.h"
+#include "platform/widgets/Theme.h"
 #include "support/TempFolder.h"
 #include "support/TestHost.h"
 
@@ -135,7 +137,7 @@ TEST(MenuPage, ItsButtonChoosesThePictureAndMovesTheHeading) {
   EXPECT_EQ(desk.OnDisk("BackgroundPic"), picture);
   EXPECT_EQ(pixelAt(600, 350), QColor(200, 10, 10));
 
-  // The heading leaves the left upper corner when it is moved on four places.
+  // The heading goes from the left upper corner to the right lower one when it is moved on nine places.
   const auto letters = [&](const QRect& area) {
     const QImage image = page.grab(area).toImage();
     int count = 0;
@@ -143,14 +145,36 @@ TEST(MenuPage, ItsButtonChoosesThePictureAndMovesTheHeading) {
       for (int x = 0; x < image.width(); ++x) count += image.pixelColor(x, y) == Qt::white;
     return count;
   };
-  const QRect left(0, 60, 400, 300), right(624, 60, 400, 300);
+  const QRect left(0, 60, 400, 430), right(624, 60, 400, 430);
   EXPECT_GT(letters(left), 100);
   EXPECT_EQ(letters(right), 0);
-  for (int i = 0; i < 4; ++i) choose(1);
-  EXPECT_EQ(desk.OnDisk("CaptionPosition"), "5");
+  for (int i = 0; i < 9; ++i) choose(1);
+  EXPECT_EQ(desk.OnDisk("CaptionPosition"), "10");
   EXPECT_EQ(letters(left), 0);
   EXPECT_GT(letters(right), 100);
-  EXPECT_EQ(changed.count(), 5);
+  EXPECT_EQ(changed.count(), 10);
+}
+
+TEST(MenuPage, TheHeadingCanBeReadOnAnyPicture) {
+  const auto plain = [](const QColor& colour) {
+    QImage ground(60, 30, QImage::Format_RGB32);
+    ground.fill(colour);
+    return ground;
+  };
+  QImage checkered = plain(Qt::white);
+  for (int x = 0; x < 30; ++x)
+    for (int y = 0; y < 30; ++y) checkered.setPixelColor(x, y, Qt::black);
+  const QImage grounds[] = {plain(Qt::black), plain(Qt::white), plain(QColor(128, 128, 128)), plain(QColor(240, 200, 60)),
+                            checkered};
+  for (const QImage& ground : grounds) {
+    const HeadingInk ink = InkOver(ground);
+    for (const QPoint& at : {QPoint(2, 15), QPoint(57, 15)}) {
+      const QColor beneath = Mix(ground.pixelColor(at), ink.veil, ink.strength);
+      EXPECT_GE(ContrastRatio(ink.letters, beneath), 4.5) << ground.pixelColor(at).name().toStdString();
+    }
+  }
+  EXPECT_EQ(InkOver(plain(Qt::black)).strength, 0);
+  EXPECT_EQ(InkOver(plain(Qt::white)).strength, 0) << "dark letters need no veil there";
 }
 
 TEST(HelpPage, FollowsLinksAndComesBack) {

@@ -1,10 +1,11 @@
 #include "core/forms/MenuCanvas.h"
 
+#include <QEvent>
 #include <QFontMetricsF>
 #include <QImageReader>
 #include <QPainter>
-#include <QPainterPath>
 #include <algorithm>
+#include <cmath>
 
 #include "core/MenuPicture.h"
 #include "platform/widgets/Theme.h"
@@ -43,6 +44,50 @@ QPixmap ReadPicture(const QString& file) {
   return QPixmap::fromImage(reader.read());
 }
 
+/// The ground of a page without a picture: three arcs on the scheme's colours.
+QPixmap SchemeGround(const QSize& pixels) {
+  const Theme theme = CurrentTheme();
+  QPixmap result(pixels);
+  QPainter painter(&result);
+  painter.setRenderHint(QPainter::Antialiasing);
+  QLinearGradient ground(result.rect().topLeft(), result.rect().bottomRight());
+  ground.setColorAt(0, Mix(theme.accent, Qt::black, 0.45));
+  ground.setColorAt(0.5, theme.accent);
+  ground.setColorAt(1, Mix(theme.accent, theme.panel, 0.45));
+  painter.fillRect(result.rect(), ground);
+  const QPointF pivot(pixels.width() * 0.72, pixels.height() * 0.72);
+  for (int i = 0; i < 3; ++i) {
+    const double radius = pixels.height() * (0.32 + 0.09 * i);
+    QColor ink = theme.panel;
+    ink.setAlphaF(0.45 - 0.12 * i);
+    painter.setPen(QPen(ink, pixels.height() / 260.0 * (i == 1 ? 1.4 : 0.8), Qt::SolidLine, Qt::RoundCap));
+    painter.drawArc(QRectF(pivot.x() - radius, pivot.y() - radius, 2 * radius, 2 * radius), (34 - 4 * i) * 16, 146 * 16);
+  }
+  return result;
+}
+
+/// Full under letters of that size, and fading out around them.
+void PaintVeil(QPainter& painter, const QRectF& letters, const HeadingInk& ink, double pixels) {
+  if (ink.strength <= 0) return;
+  constexpr int kSide = 96;
+  const double reach = pixels * 1.5;
+  const QRectF area = letters.adjusted(-reach, -reach, reach, reach);
+  QImage veil(kSide, kSide, QImage::Format_ARGB32);
+  const auto outside = [](double at, double low, double high) { return std::max({low - at, at - high, 0.0}); };
+  for (int y = 0; y < kSide; ++y) {
+    const double down = outside(area.top() + (y + 0.5) / kSide * area.height(), letters.top(), letters.bottom());
+    for (int x = 0; x < kSide; ++x) {
+      const double across = outside(area.left() + (x + 0.5) / kSide * area.width(), letters.left(), letters.right());
+      const double away = std::min(std::hypot(across, down) / reach, 1.0);
+      QColor colour = ink.veil;
+      colour.setAlphaF(static_cast<float>(ink.strength * (1 - away * away * (3 - 2 * away))));
+      veil.setPixelColor(x, y, colour);
+    }
+  }
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.drawImage(area, veil);
+}
+
 }  // namespace
 
 MenuCanvas::MenuCanvas(const QString& name, QWidget* parent) : QWidget(parent) {
@@ -55,7 +100,7 @@ void MenuCanvas::SetupMenu(IHost& host, Settings& settings) {
   if (file != file_ || picture_.isNull()) {
     file_ = file;
     picture_ = file.isEmpty() ? QPixmap() : ReadPicture(file);
-    scaled_ = QPixmap();
+    ground_ = QPixmap();
   }
   SetupCaptionLabels(settings);
 }
@@ -78,43 +123,34 @@ int MenuCanvas::SideMargin(int width) {
   return narrow ? kNarrowMargin : qRound(width * kSideMargin);
 }
 
+void MenuCanvas::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::StyleChange) ground_ = QPixmap();  // without a picture it wears the scheme's colours
+}
+
 void MenuCanvas::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setRenderHint(QPainter::SmoothPixmapTransform);
-  if (picture_.isNull()) {
-    PaintGround(painter);
-  } else {
-    // Filling the page and cut at the edges: a face must not grow wide with the window.
-    const qreal ratio = devicePixelRatioF();
-    const QSize wanted = size() * ratio;
-    const QSize filled = picture_.size().scaled(wanted, Qt::KeepAspectRatioByExpanding);
-    if (scaled_.size() != filled) scaled_ = picture_.scaled(filled, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    const QPoint corner((filled.width() - wanted.width()) / 2, (filled.height() - wanted.height()) / 2);
-    painter.drawPixmap(rect(), scaled_, QRect(corner, wanted));
+  const QSize wanted = size() * devicePixelRatioF();
+  if (ground_.size() != wanted) {
+    ground_ = MakeGround(wanted);
+    inked_ = QRect();
   }
+  painter.drawPixmap(rect(), ground_);
   PaintHeading(painter);
   if (sample_) PaintSample(painter);
 }
 
-void MenuCanvas::PaintGround(QPainter& painter) const {
-  const Theme theme = CurrentTheme();
-  QLinearGradient ground(rect().topLeft(), rect().bottomRight());
-  ground.setColorAt(0, Mix(theme.accent, Qt::black, 0.45));
-  ground.setColorAt(0.5, theme.accent);
-  ground.setColorAt(1, Mix(theme.accent, theme.panel, 0.45));
-  painter.fillRect(rect(), ground);
-  const QPointF pivot(width() * 0.72, height() * 0.72);
-  for (int i = 0; i < 3; ++i) {
-    const double radius = height() * (0.32 + 0.09 * i);
-    QColor ink = theme.panel;
-    ink.setAlphaF(0.45 - 0.12 * i);
-    painter.setPen(QPen(ink, height() / 260.0 * (i == 1 ? 1.4 : 0.8), Qt::SolidLine, Qt::RoundCap));
-    painter.drawArc(QRectF(pivot.x() - radius, pivot.y() - radius, 2 * radius, 2 * radius), (34 - 4 * i) * 16, 146 * 16);
-  }
+QPixmap MenuCanvas::MakeGround(const QSize& pixels) const {
+  if (picture_.isNull()) return SchemeGround(pixels);
+  // Filling the page and cut at the edges: a face must not grow wide with the window.
+  const QPixmap filled = picture_.scaled(pixels, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
+  QRect middle(QPoint(), pixels);
+  middle.moveCenter(filled.rect().center());
+  return filled.copy(middle);
 }
 
-void MenuCanvas::PaintHeading(QPainter& painter) const {
+void MenuCanvas::PaintHeading(QPainter& painter) {
   const int count = static_cast<int>(lines_.size());
   const double side = SideMargin(width());
   const QRectF room(side, height() * 0.09, width() - 2 * side, height() * (1 - 0.09 - kButtonRoom - 0.05));
@@ -127,18 +163,26 @@ void MenuCanvas::PaintHeading(QPainter& painter) const {
   const double blockWidth = WidestLine(lines_, pixels);
   const double left = room.left() + place.across * (room.width() - blockWidth);
   const double top = room.top() + place.down * (room.height() - lineHeight * count);
+  const QRectF block(left, top, blockWidth, lineHeight * count);
+  const qreal ratio = devicePixelRatioF();
+  const QRect beneath = QRectF(block.topLeft() * ratio, block.size() * ratio).toAlignedRect() & ground_.rect();
+  if (beneath != inked_) {
+    inked_ = beneath;
+    ink_ = InkOver(ground_.copy(beneath).toImage());
+  }
+  PaintVeil(painter, block, ink_, pixels);
+
   const Qt::Alignment side3 =
       place.across < 0.4 ? Qt::AlignLeft : place.across > 0.6 ? Qt::AlignRight : Qt::AlignHCenter;
+  QColor shadow = ink_.veil;
+  shadow.setAlpha(55);
   for (int i = 0; i < count; ++i) {
     painter.setFont(HeadingFont(i, pixels));
     const QRectF line(left - 2, top + i * lineHeight, blockWidth + 4, lineHeight);
     const auto flags = static_cast<int>(side3 | Qt::AlignVCenter | Qt::TextDontClip | Qt::TextSingleLine);
-    // Any picture may lie beneath: a soft shadow keeps white letters apart from a bright sky.
-    for (const double away : {0.07, 0.035}) {
-      painter.setPen(QColor(0, 0, 0, 55));
-      painter.drawText(line.translated(pixels * away / 2, pixels * away), flags, lines_[i]);
-    }
-    painter.setPen(Qt::white);
+    painter.setPen(shadow);
+    for (const double away : {0.07, 0.035}) painter.drawText(line.translated(pixels * away / 2, pixels * away), flags, lines_[i]);
+    painter.setPen(ink_.letters);
     painter.drawText(line, flags, lines_[i]);
   }
 }

@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include "core/Settings.h"
+#include "core/forms/HeadingInk.h"
 
 namespace kinalyx {
 
@@ -35,15 +36,18 @@ class MenuCanvas : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent*) override;
+  void changeEvent(QEvent* event) override;
 
  private:
-  void PaintGround(QPainter& painter) const;
-  void PaintHeading(QPainter& painter) const;
+  QPixmap MakeGround(const QSize& pixels) const;
+  void PaintHeading(QPainter& painter);
   void PaintSample(QPainter& painter) const;
 
   QString file_;
   QPixmap picture_;
-  QPixmap scaled_;  ///< the picture at the widget's present size
+  QPixmap ground_;  ///< what lies beneath everything, at the widget's present size in pixels
+  HeadingInk ink_;
+  QRect inked_;  ///< the part of `ground_` that `ink_` was chosen for
   QStringList lines_;
   int position_ = 1;
   bool sample_ = false;
