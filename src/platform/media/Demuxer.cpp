@@ -9,6 +9,8 @@
 #include <cmath>
 #include <cstdio>
 #include <cstring>
+#include <string_view>
+#include <utility>
 
 namespace kinalyx {
 namespace {
@@ -17,6 +19,7 @@ namespace {
 // or addresses; a file out of a student's mail shall not make it do that.
 constexpr char kContainers[] =
     "avi,mov,matroska,mpegts,mpeg,mpegvideo,asf,flv,dv,mjpeg,mxf,ogg,nut,rm,ivf,h264,hevc,m4v,gif,wtv,yuv4mpegpipe";
+constexpr std::size_t kPaletteColours = 256;
 constexpr std::int64_t kMostPackets = 1 << 25;
 /// Larger pictures than this many pixels are taken for a damaged header.
 constexpr std::int64_t kMostPixels = 1 << 26;
@@ -134,10 +137,44 @@ OpenFault Demuxer::OpenStream(const std::string& path, std::string& message, con
     message = "absurd picture size";
     return OpenFault::NoMedia;
   }
+  FindPalette();
   // A program stream tells few times and makes up the rest, otherwise after a seek than before it.
   tellsTimes_ = !OneOf("mpeg", input_->iformat->name);
   tellsShowTimes_ = tellsTimes_ && !isAvi_ && !(input_->iformat->flags & AVFMT_NOTIMESTAMPS);
   return OpenFault::None;
+}
+
+void Demuxer::FindPalette() {
+  const AVCodecParameters& codec = *stream_->codecpar;
+  const int bits = codec.bits_per_coded_sample;
+  if (!isAvi_ || bits < 1 || bits > 8) return;
+  // The library marks rows that run upward by a word behind the colours.
+  constexpr std::string_view kUpward("BottomUp", 9);
+  std::string_view extra(reinterpret_cast<const char*>(codec.extradata), static_cast<std::size_t>(codec.extradata_size));
+  if (extra.ends_with(kUpward)) extra.remove_suffix(kUpward.size());
+  const std::size_t colours = std::min<std::size_t>(std::size_t{1} << bits, extra.size() / 4);
+  if (colours == 0) return;
+  extra.remove_prefix(extra.size() - 4 * colours);
+  headerPalette_.assign(kPaletteColours, 0);
+  for (std::size_t i = 0; i < colours; ++i) {
+    const auto byte = [&](std::size_t n) { return static_cast<std::uint32_t>(static_cast<unsigned char>(extra[4 * i + n])); };
+    headerPalette_[i] = 0xFF000000 | byte(2) << 16 | byte(1) << 8 | byte(0);
+  }
+  palette_ = headerPalette_;
+}
+
+/// The library itself hands the palette out once, with the first packet that it ever reads, and that is
+/// gone after the first seek. Which packet a decoder sees first is not known here: so each has the palette
+/// of its place. A packet that changes it brings its own.
+void Demuxer::AddPalette(AVPacket& packet) {
+  if (palette_.empty()) return;
+  const std::size_t bytes = palette_.size() * sizeof(std::uint32_t);
+  std::size_t ownBytes = 0;
+  if (const std::uint8_t* own = av_packet_get_side_data(&packet, AV_PKT_DATA_PALETTE, &ownBytes)) {
+    std::memcpy(palette_.data(), own, std::min(bytes, ownBytes));
+  } else if (std::uint8_t* place = av_packet_new_side_data(&packet, AV_PKT_DATA_PALETTE, bytes)) {
+    std::memcpy(place, palette_.data(), bytes);
+  }
 }
 
 void Demuxer::DiscardOthers() {
@@ -315,6 +352,7 @@ double FrameTimes::Of(int frame, const PictureIndex& index) const {
 
 bool Demuxer::Rewind() {
   next_ = 0;
+  palette_ = headerPalette_;
   const bool timed = index_ && index_->TimesGrow();
   synced_ = !timed;
   const std::int64_t first = index_ && index_->PacketCount() > 0 ? index_->Time(0) : 0;
@@ -342,6 +380,7 @@ int Demuxer::Read(AVPacket& packet) {
       av_packet_unref(&packet);
       continue;
     }
+    AddPalette(packet);
     if (index_->TimesGrow()) {
       const std::int64_t time = packet.dts != AV_NOPTS_VALUE ? packet.dts : packet.pts;
       if (!synced_ || index_->Time(next_) != time) {

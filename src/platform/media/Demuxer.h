@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "platform/media/AvHandles.h"
 #include "platform/media/PictureIndex.h"
@@ -58,6 +60,9 @@ class Demuxer {
   void IndexByReading();
   bool Rewind();
   bool KnowsFirstPacket();
+  /// The colours of a picture of 8 bits or less stand in the file's header; a decoder takes them from a packet.
+  void FindPalette();
+  void AddPalette(AVPacket& packet);
 
   std::string path_;
   InputHandle input_;
@@ -71,6 +76,8 @@ class Demuxer {
   std::shared_ptr<const PictureIndex> index_;
   int next_ = 0;
   bool synced_ = true;  ///< false after a seek, until a packet has been recognised
+  std::vector<std::uint32_t> headerPalette_;  ///< opaque; empty for codecs that have none
+  std::vector<std::uint32_t> palette_;        ///< at the place of the next packet
 };
 
 }  // namespace kinalyx

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 #include <libyuv.h>
 
+#include <algorithm>
+#include <cstring>
 #include <functional>
 #include <random>
 
@@ -134,6 +136,56 @@ TEST_P(OtherFilms, GiveEveryFrameWhicheverWayItIsReached) {
   if (!film.time) {
     EXPECT_NEAR(file.SampleToTime(film.frames), film.frames * 40.0, 45);
     EXPECT_NEAR(file.SampleToTime(10), 400, 1.5);
+  }
+}
+
+/// Old screen recordings have pictures of 8 bits: places in a table of colours, which stands in the header.
+void MakePaletteFilm(const std::string& path, int frames) {
+  SilenceLibrary();
+  Muxer muxer;
+  ASSERT_GE(avformat_alloc_output_context2(&muxer.output, nullptr, nullptr, path.c_str()), 0);
+  const AVCodec* encoder = avcodec_find_encoder(AV_CODEC_ID_RAWVIDEO);
+  const CodecHandle codec(avcodec_alloc_context3(encoder));
+  codec->width = 32;
+  codec->height = 16;
+  codec->pix_fmt = AV_PIX_FMT_PAL8;
+  codec->time_base = {1, 25};
+  ASSERT_GE(avcodec_open2(codec.get(), encoder, nullptr), 0);
+  AVStream* stream = avformat_new_stream(muxer.output, nullptr);
+  avcodec_parameters_from_context(stream->codecpar, codec.get());
+  stream->time_base = codec->time_base;
+  ASSERT_GE(avio_open(&muxer.output->pb, ("file:" + path).c_str(), AVIO_FLAG_WRITE), 0);
+  ASSERT_GE(avformat_write_header(muxer.output, nullptr), 0);
+  for (int n = 0; n < frames; ++n) {
+    const FrameHandle frame = NewFrame();
+    frame->width = 32;
+    frame->height = 16;
+    frame->format = AV_PIX_FMT_PAL8;
+    av_frame_get_buffer(frame.get(), 0);
+    std::fill_n(frame->data[0], frame->linesize[0] * 16, static_cast<std::uint8_t>(n));
+    for (std::uint32_t i = 0; i < 256; ++i) {
+      const std::uint32_t colour = 0xFF000000 | (200 - i) << 16 | (100 + i) << 8 | i;
+      std::memcpy(frame->data[1] + 4 * i, &colour, 4);
+    }
+    frame->pts = n;
+    ASSERT_NO_FATAL_FAILURE(Drain(muxer, *codec, *stream, frame.get()));
+  }
+  ASSERT_GE(av_write_trailer(muxer.output), 0);
+}
+
+TEST(OtherFilms, OfEightBitsHaveTheirColoursWhereverTheyAreEntered) {
+  const std::string path = TestPath("palette.avi");
+  MakePaletteFilm(path, 20);
+  if (HasFatalFailure()) return;
+  const auto opened = VideoFile::Open(path);
+  ASSERT_TRUE(opened.file) << opened.message;
+  for (const int n : {13, 0, 19, 1, 5, 4}) {
+    const FrameRows rows = opened.file->Frame(n, 24);
+    ASSERT_TRUE(rows);
+    const std::uint8_t* pixel = rows.bits + 5 * rows.rowBytes + 3 * 7;
+    EXPECT_EQ(pixel[0], n);
+    EXPECT_EQ(pixel[1], 100 + n);
+    EXPECT_EQ(pixel[2], 200 - n);
   }
 }
 
