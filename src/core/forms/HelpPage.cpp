@@ -4,9 +4,12 @@
 #include <QDesktopServices>
 #include <QEvent>
 #include <QFileInfo>
+#include <QHash>
+#include <QRegularExpression>
 #include <QTextBrowser>
 #include <algorithm>
 
+#include "core/Vocabulary.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Theme.h"
@@ -17,20 +20,50 @@ namespace {
 
 constexpr int kReadingWidth = 760;  // logical pixels; longer lines tire the eye
 
-/// The text column stands in the middle of a wide page.
+}  // namespace
+
+/// Shows pages in a column in the middle, with the user's word for "student".
 class Reader : public QTextBrowser {
  public:
   using QTextBrowser::QTextBrowser;
 
+  void SetupVocabulary(const Vocabulary& words) {
+    const auto text = [](const std::string& word) { return QString::fromStdString(word).toHtmlEscaped(); };
+    words_ = {{"Students", text(words.Nouns())}, {"students", text(words.nouns())},
+              {"Student", text(words.Noun())},   {"student", text(words.noun())}};
+    reload();
+  }
+
  protected:
+  QVariant loadResource(int type, const QUrl& name) override {
+    const QVariant loaded = QTextBrowser::loadResource(type, name);
+    if (type != QTextDocument::HtmlResource || words_.isEmpty()) return loaded;
+    return InWords(QString::fromUtf8(loaded.toByteArray()));
+  }
+
   void resizeEvent(QResizeEvent* event) override {
     const int side = std::max(28, (width() - kReadingWidth) / 2);
     if (viewportMargins().left() != side) setViewportMargins(side, 18, side, 18);
     QTextBrowser::resizeEvent(event);
   }
-};
 
-}  // namespace
+ private:
+  /// Tags keep their words: the names of pages and pictures stand there.
+  QString InWords(const QString& page) const {
+    static const QRegularExpression kTagOrWord("<[^>]*>|\\b[Ss]tudents?\\b");
+    QString result;
+    qsizetype done = 0;
+    for (auto found = kTagOrWord.globalMatch(page); found.hasNext();) {
+      const auto match = found.next();
+      result += page.mid(done, match.capturedStart() - done);
+      result += words_.value(match.captured(), match.captured());
+      done = match.capturedEnd();
+    }
+    return result + page.mid(done);
+  }
+
+  QHash<QString, QString> words_;
+};
 
 HelpPage::HelpPage(const QString& folder, QWidget* parent) : QWidget(parent), folder_(folder) {
   setObjectName("HelpPage");
@@ -76,6 +109,8 @@ void HelpPage::Navigate(const QString& page) {
   browser_->setSource(QUrl::fromLocalFile(file));
 }
 
+void HelpPage::SetupVocabulary(const Vocabulary& words) { browser_->SetupVocabulary(words); }
+
 void HelpPage::Open(const QUrl& link) {
   if (link.isRelative() || link.isLocalFile()) {
     browser_->setSource(link);
@@ -94,11 +129,13 @@ void HelpPage::changeEvent(QEvent* event) {
 void HelpPage::TakeTheme() {
   const Theme theme = CurrentTheme();
   browser_->document()->setDefaultStyleSheet(
-      QString("body { font-size: 14px; line-height: 150%; }"
+      QString("body { font-size: 14px; }"
               "h1 { color: %1; font-size: 24px; font-weight: 600; margin-top: 18px; margin-bottom: 8px; }"
               "h2 { color: %1; font-size: 16px; font-weight: 600; margin-top: 20px; margin-bottom: 4px; }"
               "a { color: %1; text-decoration: none; }"
-              "p, li { margin-bottom: 6px; }"
+              "p, li { margin-bottom: 6px; line-height: 150%; }"
+              "td { line-height: 150%; }"
+              ".pic { margin-top: 8px; margin-bottom: 12px; }"  // a line of pictures is as high as they are
               ".nav { color: %2; font-size: 12px; }")
           .arg(theme.heading.name(), theme.muted.name()));
 }
