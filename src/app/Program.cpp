@@ -169,6 +169,7 @@ void Program::SetupVocabulary() {
   setup_->SetupVocabulary();
   profiles_->SetupVocabulary();
   importExport_->SetupVocabulary();
+  help_->SetupVocabulary(vocabulary_);
 }
 
 void Program::ShowFirstForm() {

@@ -192,6 +192,13 @@ TEST(HelpPage, FollowsLinksAndComesBack) {
   Find<QPushButton>(page, "HelpBackBtn")->click();
   EXPECT_EQ(Find<QLabel>(page, "HelpTitle")->text(), "Welcome");
 
+  Desk desk;
+  SetPrimaryName(desk.settings, "R & D");
+  folder.Put("index.htm", "<html><body>A student of <a href=\"students.htm\">Students</a>, the student's</body></html>");
+  page.SetupVocabulary(Vocabulary(desk.settings));
+  EXPECT_EQ(browser->toPlainText(), "A r & d of R & Ds, the r & d's");
+  EXPECT_TRUE(browser->toHtml().contains("students.htm"));
+
   HelpPage empty("/nowhere");
   empty.Navigate("index.htm");
   EXPECT_TRUE(Find<QTextBrowser>(empty, "wcIE")->toPlainText().contains("/nowhere"));

@@ -3,11 +3,11 @@
 #include <QUrl>
 #include <QWidget>
 
-class QTextBrowser;
-
 namespace kinalyx {
 
 class Button;
+class Reader;
+class Vocabulary;
 
 /// Shows the help pages that lie beside the program. Links to the outside go to the desktop's browser.
 class HelpPage : public QWidget {
@@ -19,6 +19,8 @@ class HelpPage : public QWidget {
 
   /// Opens a page of the folder, "index.htm" the first.
   void Navigate(const QString& page);
+  /// Takes over the word for the person under analysis: the pages are written with "student".
+  void SetupVocabulary(const Vocabulary& words);
 
  protected:
   void changeEvent(QEvent* event) override;
@@ -28,7 +30,7 @@ class HelpPage : public QWidget {
   void Open(const QUrl& link);
 
   QString folder_;
-  QTextBrowser* browser_ = nullptr;
+  Reader* browser_ = nullptr;
   Button* back_ = nullptr;
   Button* forward_ = nullptr;
 };
