@@ -132,11 +132,12 @@ void HelpPage::TakeTheme() {
       QString("body { font-size: 14px; }"
               "h1 { color: %1; font-size: 24px; font-weight: 600; margin-top: 18px; margin-bottom: 8px; }"
               "h2 { color: %1; font-size: 16px; font-weight: 600; margin-top: 20px; margin-bottom: 4px; }"
-              "a { color: %1; text-decoration: none; }"
+              "a { color: %1; text-decoration: underline; }"
               "p, li { margin-bottom: 6px; line-height: 150%; }"
-              "td { line-height: 150%; }"
+              "td { line-height: 125%; }"
               ".pic { margin-top: 8px; margin-bottom: 12px; }"  // a line of pictures is as high as they are
-              ".nav { color: %2; font-size: 12px; }")
+              ".nav { color: %2; font-size: 12px; }"
+              ".nav a { text-decoration: none; }")
           .arg(theme.heading.name(), theme.muted.name()));
 }
 
