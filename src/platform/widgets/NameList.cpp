@@ -97,6 +97,14 @@ void NameList::focusInEvent(QFocusEvent* event) {
   if (!chosen) setCurrentRow(-1);
 }
 
+/// Where one row is chosen it stays so: neither a press beside the rows nor one with Ctrl takes it back, for
+/// what the list has chosen is still shown around it.
+QItemSelectionModel::SelectionFlags NameList::selectionCommand(const QModelIndex& index, const QEvent* event) const {
+  const QItemSelectionModel::SelectionFlags flags = QListWidget::selectionCommand(index, event);
+  const bool takesBack = !index.isValid() || flags & QItemSelectionModel::Deselect;
+  return selectionMode() == SingleSelection && takesBack ? QItemSelectionModel::NoUpdate : flags;
+}
+
 void NameList::SetCount(int row, int count) {
   if (QListWidgetItem* entry = item(row)) {
     entry->setData(NameDelegate::kCountRole, count < 0 ? QVariant() : QVariant(QString::number(count)));
