@@ -14,9 +14,9 @@ QStyle* MakeStyle();
 
 /// The style sheet of the whole application. Dynamic properties choose a look:
 /// - QPushButton `look`: none filled with the accent; "quiet" outlined; "flat" only under the mouse;
-///   "nav", "tile" the big ones; "stage" on the dark stage
-/// - QLabel `look`: "caption", "heading", "pageTitle", "title", "muted", "mark", "markOff", "status"
-/// - QFrame `look`: "panel", "panelHead", "panelFoot", "header", "rail", "strip", "status"
+///   "section" a row of a list of sections; "tile" the big ones; "stage" on the dark stage
+/// - QLabel `look`: "caption", "heading", "brand", "pageTitle", "title", "muted", "mark", "markOff", "logo"
+/// - QFrame `look`: "panel", "panelHead", "panelFoot", "header", "rail", "strip", "status", "stage", "divider"
 QString StyleSheetOf(const Theme& theme);
 
 }  // namespace kinalyx
