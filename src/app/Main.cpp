@@ -130,11 +130,14 @@ void Main::OpenPage(int index, const QString& title) {
   QWidget* page = Page(index);
   if (!page) return;
   current_ = index;
-  // The menu picture and the stage take the whole window.
-  rail_->setVisible(index != kMenuPage && index != kAnalysisPage);
+  // The menu picture and the stage take the whole window. The stage must not see the rail for a moment:
+  // what floats on it would be pushed aside.
+  const bool rail = index != kMenuPage && index != kAnalysisPage;
+  if (!rail) rail_->hide();
   for (TileButton* section : sections_)
     if (section && section->isCheckable()) section->setChecked(section == sections_[static_cast<std::size_t>(index)]);
   stack_->setCurrentWidget(page);
+  if (rail) rail_->show();
   SetHeading(title);
   page->setFocus();
 }

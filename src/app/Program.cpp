@@ -168,6 +168,7 @@ void Program::SetupVocabulary() {
   menu_->SetupVocabulary();
   setup_->SetupVocabulary();
   profiles_->SetupVocabulary();
+  if (analysis_) analysis_->SettingsChanged();
   importExport_->SetupVocabulary();
   help_->SetupVocabulary(vocabulary_);
 }

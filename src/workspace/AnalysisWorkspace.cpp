@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "core/Vocabulary.h"
+
 namespace kinalyx {
 namespace {
 
@@ -31,6 +33,7 @@ AnalysisWorkspace::AnalysisWorkspace(IHost& host, Settings& settings, PlaySchedu
 }
 
 void AnalysisWorkspace::Connect() {
+  menuBar_.SetProfilesTitle(Vocabulary(settings_).Profiles());
   transport_.SetLocks(compare_.Locks());
   compare_.LocksChanged = [this] {
     transport_.ShowCurrent();
@@ -121,6 +124,8 @@ void AnalysisWorkspace::SettingsChanged() {
     workspace_.MP(slot).setDrawWidth(settings_.CadWidth);
     workspace_.MP(slot).Refresh();
   }
+  menuBar_.SetProfilesTitle(Vocabulary(settings_).Profiles());
+  view_.CommandsChanged();
 }
 
 // ---------------------------------------------------------------- from the window

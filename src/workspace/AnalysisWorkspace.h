@@ -40,7 +40,7 @@ class AnalysisWorkspace final : public IFrameInterface, public IMouseAndKeyBoard
   RulerCalibration& Ruler() { return ruler_; }
   CompareModes& Compare() { return compare_; }
 
-  /// Line width, outline or colours have been changed on another page.
+  /// Line width, outline, colours or the word for a student have been changed on another page.
   void SettingsChanged();
 
   // --- from the window

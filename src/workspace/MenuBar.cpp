@@ -49,6 +49,10 @@ bool MenuBar::Run(const std::string& name) {
   return true;
 }
 
+void MenuBar::SetProfilesTitle(const std::string& title) {
+  std::ranges::find(commands_, "VLib", &Command::item)->caption = title + " - Home key";
+}
+
 bool MenuBar::PreparetoExit() {
   compare_.CloseAll();
   if (ruler_.Shown()) ruler_.CalibBtn_Click(1);

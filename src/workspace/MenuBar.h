@@ -73,6 +73,8 @@ class MenuBar {
   bool Run(const std::string& name);
   /// Null for an unknown name.
   const Command* Find(const std::string& name) const;
+  /// The title of the profiles page, with the user's word for a student, as the Go To menu shows it.
+  void SetProfilesTitle(const std::string& title);
   /// Puts the tools down, writes and closes all videos and their small windows. False when the user
   /// kept a video open.
   bool PreparetoExit();

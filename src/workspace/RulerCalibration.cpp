@@ -41,7 +41,9 @@ void RulerCalibration::CalibBtn_Click(int Index, double typed, LengthUnit input,
     tools_.RedrawCanvas(tools_.DrawWindow());
   }
   tools_.ClearCaptionKept();
+  view_.SetDisplayText("");
   view_.ShowCalibration(false);
+  view_.CommandsChanged();
 }
 
 }  // namespace kinalyx

@@ -40,6 +40,7 @@ CommandMenus::CommandMenus(const std::vector<Command>& commands, std::function<v
 void CommandMenus::Update() {
   for (const auto& [command, action] : entries_) {
     const std::string reason = command->Reason();
+    action->setText(QString::fromStdString(command->caption));
     action->setEnabled(reason.empty());
     action->setToolTip(QString::fromStdString(reason.empty() ? command->tip : reason));
     if (command->checked) action->setChecked(command->checked());
