@@ -4,7 +4,10 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <cmath>
+#include <cstdlib>
+#include <cstring>
 #include <fstream>
 #include <limits>
 #include <optional>
@@ -13,6 +16,7 @@
 #include "core/Numbers.h"
 #include "core/Settings.h"
 #include "drawing/ShapeFile.h"
+#include "platform/files/Folders.h"
 #include "platform/files/TextEncoding.h"
 
 namespace kinalyx {
@@ -211,6 +215,14 @@ Bytes BytesOf(const SlotData& data, std::string* error) {
   return bytes;
 }
 
+/// The same kind, colour and points, but for what rounding to another size does to them.
+bool IsSameDrawing(const Shape& a, const Shape& b) {
+  constexpr int kRounding = 2;  // pixels
+  const auto near = [](POINTAPI p, POINTAPI q) { return std::abs(p.x - q.x) <= kRounding && std::abs(p.y - q.y) <= kRounding; };
+  return a.Kind == b.Kind && a.Colour == b.Colour && a.NumBound == b.NumBound &&
+         std::equal(a.Pts.begin(), a.Pts.begin() + a.NumBound, b.Pts.begin(), b.Pts.begin() + b.NumBound, near);
+}
+
 bool WriteFlags(const std::string& path, bool wide, bool reverseFields, bool splitFields) {
   Bytes bytes = Head(wide, reverseFields, splitFields);
   bytes.insert(bytes.end(), 4, 'X');
@@ -232,7 +244,8 @@ SlotData DefaultVideoData(const VideoInfo& video) {
 }
 
 SlotData ReadVideoData(const std::string& path, const VideoInfo& video, std::span<const Colour> toolColours) {
-  Bytes bytes = ReadWholeFile(path).value_or(Bytes());
+  const auto file = ReadWholeFile(path);
+  Bytes bytes = file.value_or(Bytes());
   bytes.insert(bytes.end(), kColourBytes, 0);
   Reader reader(bytes, kColourBytes);
   switch (reader.Character()) {
@@ -243,14 +256,42 @@ SlotData ReadVideoData(const std::string& path, const VideoInfo& video, std::spa
       WriteVideoData(path, data);
       return data;
     }
-    default: return DefaultVideoData(video);
+    default: {
+      SlotData data = DefaultVideoData(video);
+      data.Unread = file ? !file->empty() : FileExists(path);
+      return data;
+    }
   }
+}
+
+void AddMissingWork(SlotData& data, const SlotData& other) {
+  ShapeList theirs = other.Shapes;
+  if (data.PictureWidth > 0 && data.PictureHeight > 0) {
+    StretchShapes(theirs, other.PictureWidth, other.PictureHeight, data.PictureWidth, data.PictureHeight);
+  } else {
+    data.PictureWidth = other.PictureWidth;
+    data.PictureHeight = other.PictureHeight;
+  }
+  for (const Shape& shape : ShapesOf(theirs)) {
+    const auto ours = ShapesOf(data.Shapes);
+    const bool known = std::ranges::any_of(ours, [&](const Shape& own) { return IsSameDrawing(own, shape); });
+    if (known || data.Shapes.NumShapes == kLargest16) continue;
+    data.Shapes.Shapes.resize(static_cast<std::size_t>(data.Shapes.NumShapes));
+    data.Shapes.Shapes.push_back(shape);
+    ++data.Shapes.NumShapes;
+  }
+  if (data.Notes.find(other.Notes) != std::string::npos) return;
+  data.Notes = other.Notes.find(data.Notes) != std::string::npos ? other.Notes : data.Notes + "\r\n" + other.Notes;
 }
 
 bool WriteVideoData(const std::string& path, const SlotData& data, std::string* error, IDisk& disk) {
   if (error) error->clear();
   std::string notice;
   const Bytes bytes = BytesOf(data, &notice);
+  if (data.Unread && FileExists(path) && disk.Rename(path, path + ".old") < 0) {
+    if (error) *error = std::strerror(errno);
+    return false;
+  }
   if (!WriteWholeFile(path, bytes, error, disk)) return false;
   if (error) *error = notice;
   return true;

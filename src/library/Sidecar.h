@@ -31,6 +31,10 @@ struct SlotData {
   int NextShape = 0;                 ///< the slot's running shape counter
   int PictureWidth = 0;              ///< pixels; 0 when no shapes were stored
   int PictureHeight = 0;             ///< pixels
+
+  /// The file holds something that could not be read: it is foreign, or the disk refused. Who has nothing
+  /// new to say leaves it alone; a write keeps it beside as "X.ved.old".
+  bool Unread = false;
 };
 
 /// Longest notes that a sidecar holds, in characters: their length is stored in 16 bits. The notes box
@@ -52,6 +56,10 @@ SlotData DefaultVideoData(const VideoInfo& video);
 /// Reading never makes a file. `path` is the sidecar's.
 /// @param toolColours  colours for the drawings of an old file, by kind of shape: the settings' NewColors
 SlotData ReadVideoData(const std::string& path, const VideoInfo& video, std::span<const Colour> toolColours);
+
+/// Adds to `data` what another has stored meanwhile for the same video: the drawings and the notes that
+/// `data` lacks. Nothing is taken away.
+void AddMissingWork(SlotData& data, const SlotData& other);
 
 /// Replaces the sidecar; the file is the old or the new one, whole, whatever happens. False when the
 /// disk refuses. `error` (may be null) gets the reason, or, with a result of true, what had to be left

@@ -47,6 +47,7 @@ void AnalysisWorkspace::Connect() {
     if (!tools_.Drawing() || tools_.DrawKind() != kSquare) tools_.CmdMakeShape_Click(kSquare);
     view_.CommandsChanged();
   };
+  workspace_.FootHeight = [this](int slot, int height) { return notes_.FootHeight(slot, height); };
   workspace_.PlayerResized = [this](int slot) {
     drawings_.PlayerResized(slot);
     compare_.PlayerResized(slot);

@@ -20,16 +20,22 @@ void VideoNotes::TN_Click() {
   }
   if (!workspace_.HasVideo(workspace_.CurrentWindow)) return;
   slot_ = workspace_.CurrentWindow;
+  workspace_.FormReset();
   SetupNotesPnl();
+}
+
+int VideoNotes::FootHeight(int slot, int height) const {
+  return Shown() && slot == slot_ ? std::min(kHeight, height / 2) : 0;
 }
 
 void VideoNotes::SetupNotesPnl() {
   if (!Shown()) return;
   const Slot& at = workspace_.At(slot_);
   TwipRect place = at.panel;
+  // Under the picture, which has made room: its feet and its ball stay in sight.
   place.Left += at.cell.Left;
-  place.Height = std::min(kHeight, at.panel.Height * 2 / 3);
-  place.Top = at.cell.Top + at.panel.Top + at.panel.Height - place.Height;
+  place.Top += at.cell.Top + at.panel.Height;
+  place.Height = std::min(kHeight, at.panel.Height);
   view_.ShowNotesPnl(place, at.data.Notes);
 }
 
@@ -38,6 +44,7 @@ void VideoNotes::Close() {
   Save();
   slot_ = 0;
   view_.HideNotesPnl();
+  workspace_.FormReset();
 }
 
 void VideoNotes::NotesBox_Change(const std::string& text) {

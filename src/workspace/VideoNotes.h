@@ -18,6 +18,8 @@ class VideoNotes {
   void SetupNotesPnl();
   void Close();
   bool Shown() const { return slot_ != 0; }
+  /// What the open panel takes of a slot's picture of this height, both in twips.
+  int FootHeight(int slot, int height) const;
 
   /// The text was changed by the user. It reaches the sidecar when typing rests, and when the panel or the
   /// video closes.

@@ -97,6 +97,7 @@ void Workspace::FormReset() {
     if (ScreenLayout == "MF") at.cell = MultiPicture::Cell(view_.MainPanelWidth(), view_.MainPanelHeight(), at.data.Wide);
     at.panel = {kBorder, kBorder, std::max(at.cell.Width - 2 * kBorder, kTwipsPerPixel),
                 std::max(at.cell.Height - 2 * kBorder - (BarHidden ? 0 : BarHeight(at.cell)), kTwipsPerPixel)};
+    if (FootHeight) at.panel.Height -= FootHeight(slot, at.panel.Height);
     view_.PlaceCell(slot, at.cell, at.panel);
     view_.PaintBorder(slot, slot == CurrentWindow);
     MPResize(slot);
@@ -243,11 +244,15 @@ bool Workspace::CloseVideo(int slot) {
 bool Workspace::SaveData(int slot, std::string* error) {
   Slot& at = At(slot);
   const bool changed = CollectData(slot) || at.changed;
-  // The same video may stand in several slots, and this one has nothing of its own to say: what the
-  // other wrote stays.
-  if (!changed && at.savedElsewhere) return true;
+  // With nothing of its own to say a slot leaves alone what another one wrote for the same video, and what
+  // could not be read.
+  if (!changed && (at.savedElsewhere || at.data.Unread)) return true;
+  // Both have something to say: whoever closes last adds to the work of the other. What was drawn there does
+  // not stand in this window, so that every later save must add it again.
+  if (at.savedElsewhere && at.MP->Info())
+    AddMissingWork(at.data, ReadVideoData(SidecarPath(at.path), *at.MP->Info(), settings_.NewColors));
   if (!WriteVideoData(SidecarPath(at.path), at.data, error)) return false;
-  at.changed = at.savedElsewhere = false;
+  at.changed = at.data.Unread = false;
   DataSaved(slot);
   for (Slot& other : slots_)
     if (&other != &at && other.path == at.path) other.savedElsewhere = true;

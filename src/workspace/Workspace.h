@@ -126,6 +126,8 @@ class Workspace {
 
   // --- seams for what lies on the pictures and beside them; all must be set before a video opens
 
+  /// What a panel takes at the foot of a slot's picture of this height, both in twips; may be left unset.
+  std::function<int(int slot, int height)> FootHeight;
   /// A slot's player has another size.
   std::function<void(int slot)> PlayerResized;
   /// A slot's picture was mirrored: its drawings turn with it.

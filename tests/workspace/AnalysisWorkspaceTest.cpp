@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+
 #include "AnalysisStage.h"
 #include "video/KeyCodes.h"
 
@@ -295,6 +297,66 @@ TEST(VideoTimerTest, TimesFromAnyPicture) {
   stage.Commands().Run("TVT");
   EXPECT_FALSE(stage.window.timer);
   EXPECT_EQ(stage.window.counter, "");
+}
+
+// One video in two windows, drawn on and noted in both: whichever closes last, the work of both is there.
+TEST(OneVideoTwice, KeepsTheWorkOfBothWindows) {
+  AnalysisStage stage("2");
+  const std::string path = stage.Video("a.avi");
+  stage.Open(1, path);
+  stage.Open(2, path);
+  stage.Commands().Run("MenuDraw3");
+  stage.Drag(1, 10, 10, 100, 100);
+  stage.Slots().SetNotes(1, "Grip");
+  stage.Slots().SelectWindow(2);
+  stage.Commands().Run("MenuDraw4");
+  stage.Drag(2, 40, 40, 90, 120);
+  stage.Slots().SetNotes(2, "Stance");
+  EXPECT_TRUE(stage.Slots().MnuCloseAll_Click());
+  stage.Open(1, path);
+  EXPECT_EQ(stage.Shapes(1).NumShapes, 2);
+  EXPECT_NE(stage.Slots().At(1).data.Notes.find("Grip"), std::string::npos);
+  EXPECT_NE(stage.Slots().At(1).data.Notes.find("Stance"), std::string::npos);
+
+  // A second round adds nothing that is there already.
+  stage.Open(2, path);
+  stage.Commands().Run("MenuDraw3");
+  stage.Drag(1, 5, 100, 60, 20);
+  stage.Slots().SetNotes(2, stage.Slots().At(2).data.Notes + " and hips");
+  EXPECT_TRUE(stage.Slots().MnuCloseAll_Click());
+  stage.Open(1, path);
+  EXPECT_EQ(stage.Shapes(1).NumShapes, 3);
+}
+
+TEST(ForeignSidecar, IsLeftAloneUntilThereIsWorkAndThenKeptBeside) {
+  AnalysisStage stage;
+  const std::string path = stage.Video("a.avi");
+  const std::string sidecar = SidecarPath(path);
+  const std::string foreign = "\x7F" "another program's bytes";
+  std::ofstream(sidecar) << foreign;
+  const auto bytesOf = [](const std::string& file) {
+    std::ifstream in(file, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(in), {});
+  };
+  stage.Open(1, path);
+  EXPECT_TRUE(stage.Slots().CloseVideo(1));
+  EXPECT_EQ(bytesOf(sidecar), foreign) << "opened and closed, and nothing done";
+  stage.Open(1, path);
+  stage.Commands().Run("MenuDraw3");
+  stage.Drag(1, 10, 10, 100, 100);
+  EXPECT_TRUE(stage.Slots().CloseVideo(1));
+  EXPECT_EQ(bytesOf(sidecar + ".old"), foreign);
+  EXPECT_TRUE(ReadSidecarMarks(sidecar).HasDrawings());
+}
+
+TEST(VideoNotesTest, MakeRoomUnderThePicture) {
+  AnalysisStage stage;
+  stage.Open(1, stage.Video("a.avi"));
+  const int height = stage.MP(1).ControlHeightPixels();
+  stage.Commands().Run("TN");
+  EXPECT_LT(stage.MP(1).ControlHeightPixels(), height);
+  stage.Commands().Run("TN");
+  EXPECT_EQ(stage.MP(1).ControlHeightPixels(), height);
 }
 
 TEST(VideoNotesTest, AreKeptWithTheVideo) {
