@@ -94,8 +94,8 @@ bool WriteWholeFile(const std::string& path, std::span<const std::uint8_t> bytes
   if (exists && !fs::is_regular_file(old)) return refuse(fs::is_directory(old) ? EISDIR : EACCES);
   // A rename needs no right to the file itself, so read-only must be asked for.
   constexpr auto kAnyWrite = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
-  if (exists && ((old.permissions() & kAnyWrite) == fs::perms::none || ::access(target.c_str(), W_OK) != 0))
-    return refuse(EACCES);
+  if (exists && ::access(target.c_str(), W_OK) != 0) return refuse(errno);
+  if (exists && (old.permissions() & kAnyWrite) == fs::perms::none) return refuse(EACCES);
 
   const fs::path beside = NameBeside(target);
   const int file = disk.Open(beside.string());
