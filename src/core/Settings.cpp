@@ -70,7 +70,7 @@ bool Settings::WriteConfigKey(const std::string& section, const std::string& key
     if (Reloaded) Reloaded();
     return false;
   }
-  return WritePrivateProfileString(section, key, value, ConfigFile());
+  return WriteTo(ConfigFile(), section, key, value);
 }
 
 bool Settings::LoadCaptureSettings() {
@@ -87,7 +87,19 @@ bool Settings::WriteCaptureKey(const std::string& section, const std::string& ke
     LoadCaptureSettings();
     return false;
   }
-  return WritePrivateProfileString(section, key, value, CaptureFile());
+  return WriteTo(CaptureFile(), section, key, value);
+}
+
+bool Settings::WriteTo(const std::string& file, const std::string& section, const std::string& key,
+                       const std::string& value) {
+  if (WritePrivateProfileString(section, key, value, file)) return true;
+  if (std::exchange(toldUnwritable_, true)) return false;
+  // Told when the click that changed the setting is over, so that no slider is left dragging.
+  host_.StartTimer(0, false, [&host = host_, text = fmt::format("The settings cannot be saved in {}, so changes last "
+                                                                "until the program closes.", DataPath)] {
+    host.Message(MessageKind::Warning, "", text);
+  });
+  return false;
 }
 
 bool Settings::SetNewColor(int index, std::int32_t colour) {
@@ -161,16 +173,21 @@ void Settings::ReadKeys(const std::vector<Key>& keys, const std::string& path) {
 }
 
 void Settings::TellBadBooleans(const std::vector<const Key*>& bad, const std::string& path) {
-  std::string lines;
+  constexpr std::size_t kNamed = 3;
+  std::string names;
+  std::size_t count = 0;
   for (const Key* key : bad) {
-    const std::string place = fmt::format("{} in [{}] of {}", key->name, key->section, LastName(path));
+    const std::string place = fmt::format("{} [{}] {}", path, key->section, key->name);
     if (std::find(toldKeys_.begin(), toldKeys_.end(), place) != toldKeys_.end()) continue;
     toldKeys_.push_back(place);
-    lines += fmt::format("\n{}: {} is used", place, key->firstRun);
+    if (count++ < kNamed) names += (names.empty() ? "" : ", ") + key->name;
   }
-  if (lines.empty()) return;
+  if (count == 0) return;
+  if (count > kNamed) names += fmt::format(" and {} more", count - kNamed);
   host_.Message(MessageKind::Warning, "",
-                "These settings are missing or are neither True nor False:" + lines + "\n\nThe file is " + path + ".");
+                fmt::format("{} in {} could not be read ({}), so {} for this run.",
+                            count == 1 ? "1 setting" : fmt::format("{} settings", count), path, names,
+                            count == 1 ? "its first value holds" : "their first values hold"));
 }
 
 }  // namespace kinalyx

@@ -130,7 +130,7 @@ class Settings {
   void MigrateOldConfig();
   /// Writes one key. When the file has gone it is made anew with its first-run values instead, and
   /// everything is loaded again: the value is dropped, and the result is false. It is false too when the
-  /// disk refuses; the variable then holds the value for this run.
+  /// disk refuses; the variable then holds the value for this run, and the user is told so once in a run.
   bool WriteConfigKey(const std::string& section, const std::string& key, const std::string& value);
 
   /// What the lists of the setup page show at the moment at which `capture.ini` is first made.
@@ -184,6 +184,7 @@ class Settings {
   void ReadKeys(const std::vector<Key>& keys, const std::string& path);
   static bool Take(const Key& key, const std::string& text);
   bool WriteMember(const Member& member);
+  bool WriteTo(const std::string& file, const std::string& section, const std::string& key, const std::string& value);
   void TellBadBooleans(const std::vector<const Key*>& bad, const std::string& path);
 
   IHost& host_;
