@@ -48,19 +48,53 @@ std::string Unescaped(std::string_view text) {
   return path;
 }
 
+/// One line of the list of mounts.
+struct Mount {
+  std::string_view source;
+  std::string path;
+  std::string_view type;
+
+  /// A drive or a share, and no file system that the kernel makes up.
+  bool HoldsFiles() const {
+    constexpr std::array<std::string_view, 6> kShares = {"nfs", "nfs4", "cifs", "smb3", "davfs", "fuse.sshfs"};
+    return source.starts_with("/dev/") || std::ranges::find(kShares, type) != kShares.end();
+  }
+  bool ComesAndGoes() const {
+    constexpr std::array<std::string_view, 3> kPlaces = {"/media/", "/run/media/", "/mnt/"};
+    return std::ranges::any_of(kPlaces, [this](std::string_view place) { return path.starts_with(place); });
+  }
+};
+
+std::string_view TakeUntil(std::string_view& text, char end) {
+  const std::string_view part = text.substr(0, text.find(end));
+  text.remove_prefix(std::min(part.size() + 1, text.size()));
+  return part;
+}
+
+std::vector<Mount> MountsIn(std::string_view text) {
+  std::vector<Mount> mounts;
+  while (!text.empty()) {
+    std::string_view line = TakeUntil(text, '\n');
+    Mount mount;
+    mount.source = TakeUntil(line, ' ');
+    mount.path = Unescaped(TakeUntil(line, ' '));
+    mount.type = TakeUntil(line, ' ');
+    mounts.push_back(std::move(mount));
+  }
+  return mounts;
+}
+
 }  // namespace
 
-std::vector<std::string> RemoveableDrivesIn(std::string_view mounts) {
-  constexpr std::array<std::string_view, 3> kPlaces = {"/media/", "/run/media/", "/mnt/"};
+std::vector<std::string> RemoveableDrivesIn(std::string_view text) {
+  const std::vector<Mount> mounts = MountsIn(text);
+  const auto system = std::ranges::find(mounts, "/", &Mount::path);
   std::vector<std::string> drives;
-  while (!mounts.empty()) {
-    const std::string_view line = mounts.substr(0, mounts.find('\n'));
-    mounts.remove_prefix(std::min(line.size() + 1, mounts.size()));
-    const std::size_t begin = line.find(' ');
-    if (begin == std::string_view::npos) continue;
-    std::string path = Unescaped(line.substr(begin + 1, line.find(' ', begin + 1) - begin - 1));
-    const bool comesAndGoes = std::ranges::any_of(kPlaces, [&](std::string_view place) { return path.starts_with(place); });
-    if (comesAndGoes && std::ranges::find(drives, path) == drives.end()) drives.push_back(std::move(path));
+  for (const Mount& mount : mounts) {
+    // What the system's own drive shows at a second place is no other drive.
+    const bool ofSystem = system != mounts.end() && mount.source == system->source;
+    if (mount.HoldsFiles() && mount.ComesAndGoes() && !ofSystem && std::ranges::find(drives, mount.path) == drives.end())
+      drives.push_back(mount.path);
   }
   return drives;
 }

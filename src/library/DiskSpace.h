@@ -22,10 +22,11 @@ std::string RemoveableDiskText(const std::string& path);
 
 inline constexpr const char* kReadingDisk = "Reading from specified Removeable disk. Please Wait....";
 
-/// Where drives that come and go are mounted, in the order in which they were: sticks, cards, shares.
+/// Where drives that come and go are mounted, in the order in which they were: sticks, cards, shares. What
+/// the kernel makes up, and other views of the system's own drive, are left out.
 std::vector<std::string> RemoveableDrives();
 /// The same from the text of a list of mounts.
-std::vector<std::string> RemoveableDrivesIn(std::string_view mounts);
+std::vector<std::string> RemoveableDrivesIn(std::string_view text);
 
 /// True when a folder lies on the drive from which the system runs: what the program calls the C drive.
 bool IsSystemDrive(const std::string& path);

@@ -564,6 +564,7 @@ TEST(DiskSpaceTest, TellsWhatIsFreeAndWhatFails) {
   EXPECT_EQ(gone.message, "Disk Full or Not Available");
   EXPECT_EQ(RemoveableDiskText(folder.Path("gone")), "Drive Error");
   EXPECT_EQ(RemoveableDrivesIn("/dev/sda1 / ext4 rw 0 0\n/dev/sdb1 /media/ann/MY\\040STICK vfat rw 0 0\n"
+                               "/dev/sda1 /mnt/etc/hosts ext4 rw 0 0\ntmpfs /mnt/tools tmpfs rw 0 0\n"
                                "server:/lib /mnt/lib nfs rw 0 0\nbroken\n"),
             (std::vector<std::string>{"/media/ann/MY STICK", "/mnt/lib"}));
 }
