@@ -1,6 +1,7 @@
 #include "platform/files/Folders.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <memory>
@@ -153,6 +154,13 @@ std::optional<std::int64_t> FileSize(const std::string& path) {
   const auto size = fs::file_size(path, failed);
   if (failed) return std::nullopt;
   return static_cast<std::int64_t>(size);
+}
+
+std::optional<std::int64_t> FileTime(const std::string& path) {
+  std::error_code failed;
+  const auto time = fs::last_write_time(path, failed);
+  if (failed) return std::nullopt;
+  return std::chrono::duration_cast<std::chrono::nanoseconds>(time.time_since_epoch()).count();
 }
 
 std::int64_t FreeBytes(const std::string& path) {

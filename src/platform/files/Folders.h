@@ -24,6 +24,8 @@ bool MakeFolder(const std::string& path);
 bool KillFile(const std::string& path);
 /// Bytes, or nothing when the file cannot be read.
 std::optional<std::int64_t> FileSize(const std::string& path);
+/// When the file was last written, in nanoseconds of a clock of the system's; nothing when it cannot be asked.
+std::optional<std::int64_t> FileTime(const std::string& path);
 /// Free bytes of the drive that holds `path` (or the nearest folder above it that exists); -1 unknown.
 std::int64_t FreeBytes(const std::string& path);
 

@@ -29,6 +29,7 @@ class NameList : public QListWidget {
   explicit NameList(const QString& name, QWidget* parent = nullptr);
 
   void SetHint(const QString& hint);
+  const QString& Hint() const { return hint_; }
   /// Replaces the rows. Sends no change signals; the current row is `current` afterwards (-1 none).
   void Fill(const QStringList& names, int current);
   /// The count shown to the right of a row; negative for none.
