@@ -23,17 +23,18 @@ const std::string& NotesKeeper::Open(const std::string& studentFolder) {
   text_.clear();
   readable_ = true;
   if (folder_.empty()) return text_;
-  if (const auto unsaved = unsaved_.find(folder_); unsaved != unsaved_.end()) return unsaved->second;
   const auto notes = LoadNotes(folder_);
-  readable_ = notes.has_value();
   text_ = notes.value_or("");
+  if (const auto unsaved = unsaved_.find(folder_); unsaved != unsaved_.end()) return unsaved->second;
+  readable_ = notes.has_value();
   return text_;
 }
 
 bool NotesKeeper::Keep(std::string_view text, std::string* error) {
   if (!folder_.empty() && readable_) {
     std::string lines = WithLineEnds(text);
-    if (lines != text_ || unsaved_.contains(folder_)) unsaved_[folder_] = std::move(lines);
+    if (lines != text_) unsaved_[folder_] = std::move(lines);
+    else unsaved_.erase(folder_);  // taken back: the file holds it already
   }
   for (auto notes = unsaved_.begin(); notes != unsaved_.end();) {
     const bool settled = WasDeleted(notes->first) || SaveNotes(notes->first, notes->second, error);

@@ -21,13 +21,16 @@ class NotesKeeper {
   /// Stores the text of the open student when it differs from what was read. False when it, or an
   /// earlier text of another student, could not be stored; `error` then tells why.
   bool Keep(std::string_view text, std::string* error);
-  bool HasUnsaved() const { return !unsaved_.empty(); }
+  /// What waits to be stored, by student's folder.
+  const std::map<std::string, std::string>& Unsaved() const { return unsaved_; }
+  /// The notes of the open student are among it.
+  bool OpenIsUnsaved() const { return unsaved_.contains(folder_); }
 
  private:
   std::string folder_;
   std::string text_;  ///< what the file holds
   bool readable_ = true;
-  std::map<std::string, std::string> unsaved_;  ///< by student's folder
+  std::map<std::string, std::string> unsaved_;
 };
 
 }  // namespace kinalyx

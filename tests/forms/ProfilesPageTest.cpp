@@ -110,6 +110,12 @@ TEST_F(ProfilesPageTest, ABadVideoIsOfferedForDeletionOnce) {
   EXPECT_EQ(library.host.titles, std::vector<std::string>{"Delete Bad Video"});
   EXPECT_EQ(Rows("VideoList"), QStringList("bad"));
 
+  Choose("StudentList", "Sample, Erica");
+  Choose("StudentList", "Tom");
+  library.host.Advance(1);
+  EXPECT_EQ(library.host.titles.size(), 1u) << "who has refused is not asked again";
+
+  library.File("Demo/Tom/bad.avi", "another that is no video");
   library.host.answers = {true};
   Choose("StudentList", "Sample, Erica");
   Choose("StudentList", "Tom");
@@ -126,6 +132,7 @@ TEST_F(ProfilesPageTest, NotesAreKeptWhenTheyAreLeftHoweverThatHappens) {
   Press("SPBtn10");
   auto* notes = Find<QPlainTextEdit>("ProfileNotes");
   EXPECT_TRUE(notes->isVisible());
+  EXPECT_EQ(page->focusWidget(), notes);
   EXPECT_FALSE(List("VideoList")->isVisible());
   notes->setPlainText("Grip\nschwächer");
   Choose("StudentList", "Sample, Erica");
@@ -148,13 +155,24 @@ TEST_F(ProfilesPageTest, NotesThatTheDiskRefusesStayInTheEditor) {
   std::filesystem::remove(library.Path("Demo/Tom/profile.txt"));
   library.Folder("Demo/Tom/profile.txt");  // stands in the way of the file
   Find<QPlainTextEdit>("ProfileNotes")->setPlainText("not lost");
+  for (const auto& [list, row] : {std::pair("StudentList", 0), std::pair("InstructorList", 2)}) {
+    const QPoint place = List(list)->visualItemRect(List(list)->item(row)).center();
+    QTest::mousePress(List(list)->viewport(), Qt::LeftButton, {}, place);
+    EXPECT_EQ(library.host.messages.size(), row == 0 ? 0u : 1u) << "no box while the press is handled";
+    QApplication::processEvents();
+    library.host.Advance(1);
+    QTest::mouseRelease(List(list)->viewport(), Qt::LeftButton, {}, place);
+    EXPECT_EQ(List("InstructorList")->selectedItems().value(0)->text(), "Demo");
+    EXPECT_EQ(List("StudentList")->selectedItems().value(0)->text(), "Tom");
+    EXPECT_EQ(page->Browser().Student(), "Tom");
+    EXPECT_TRUE(Text("SPDisplay").startsWith("The notes could not be saved: "));
+  }
   EXPECT_FALSE(page->Leave());
-  EXPECT_EQ(library.host.messages.size(), 1u);
-  Choose("StudentList", "Sample, Erica");
-  Choose("StudentList", "Tom");
-  EXPECT_EQ(Find<QPlainTextEdit>("ProfileNotes")->toPlainText(), "not lost\n");
+  EXPECT_EQ(library.host.messages.size(), 1u) << "the same is told once";
   std::filesystem::remove(library.Path("Demo/Tom/profile.txt"));
-  EXPECT_TRUE(page->Leave());
+  Choose("StudentList", "Sample, Erica");
+  EXPECT_EQ(page->Browser().Student(), "Sample, Erica");
+  EXPECT_EQ(Text("SPDisplay"), "");
   EXPECT_EQ(test::TempLibrary::Read(library.Path("Demo/Tom/profile.txt")), "not lost\r\n");
 }
 
@@ -176,6 +194,26 @@ TEST_F(ProfilesPageTest, AStudentIsAddedAndSelected) {
   EXPECT_FALSE(page->findChild<QWidget*>("ProAddPnl")->isVisible());
   EXPECT_EQ(page->Browser().Student(), "Zoe");
   EXPECT_EQ(Text("ProInfoLbl3"), "555 0134");
+  Choose("StudentList", "Tom");
+  EXPECT_EQ(Text("SPDisplay"), "");
+  Press("SPBtn0");
+  Press("ProAddSaveBtn");
+  EXPECT_NE(Text("SPDisplay"), "");
+  Press("ProAddCancelBtn");
+  EXPECT_EQ(Text("SPDisplay"), "");
+}
+
+TEST_F(ProfilesPageTest, ALibraryThatHasGoneIsToldOf) {
+  Press("SSCommand2");
+  std::filesystem::rename(library.Root(), library.Root() + " gone");
+  Choose("InstructorList", "Demo");
+  EXPECT_EQ(List("StudentList")->Hint().toStdString(),
+            "The library folder " + library.Root() + " cannot be reached.");
+  page->hide();
+  page->show();
+  EXPECT_EQ(Rows("InstructorList"), QStringList("General Folder"));
+  EXPECT_TRUE(List("StudentList")->Hint().contains("cannot be reached"));
+  EXPECT_FALSE(Find<QLineEdit>("Text2")->isVisible());
 }
 
 TEST_F(ProfilesPageTest, AProfileIsEdited) {

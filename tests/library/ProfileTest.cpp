@@ -178,10 +178,13 @@ TEST_F(ProfileTest, NotesThatCannotBeSavedWaitInMemory) {
   EXPECT_FALSE(notes.Keep("Tom's", &error));
   EXPECT_EQ(TempLibrary::Read(other + "/profile.txt"), "Tom's\r\n");
   EXPECT_EQ(notes.Open(student), "second\r\n");
+  EXPECT_TRUE(notes.Keep("", &error));  // taken back: nothing waits any more
+  EXPECT_FALSE(notes.Keep("second\n", &error));
+  EXPECT_TRUE(notes.OpenIsUnsaved());
 
   std::filesystem::remove_all(student + "/profile.txt");
   EXPECT_TRUE(notes.Keep("second\n", &error));
-  EXPECT_FALSE(notes.HasUnsaved());
+  EXPECT_FALSE(notes.OpenIsUnsaved());
   EXPECT_EQ(File("profile.txt"), "second\r\n");
 
   std::filesystem::remove_all(student);

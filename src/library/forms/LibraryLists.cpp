@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 
 #include "library/forms/Text.h"
+#include "platform/files/Folders.h"
 
 namespace kinalyx {
 
@@ -10,6 +11,7 @@ LibraryLists::LibraryLists(LibraryBrowser& browser, const Settings& settings, QO
                            const std::array<const char*, 3>& names)
     : QObject(parent),
       browser_(browser),
+      settings_(settings),
       vocabulary_(settings),
       instructors_(new NameList(names[0])),
       students_(new NameList(names[1])),
@@ -17,16 +19,21 @@ LibraryLists::LibraryLists(LibraryBrowser& browser, const Settings& settings, QO
   instructors_->setAccessibleName("Instructors");
   videos_->setAccessibleName("Videos");
   connect(instructors_, &QListWidget::currentRowChanged, this, [this](int row) {
+    if (!Leave()) return;
+    emit Chosen();
     browser_.InstructorList_Click(row);
     emit InstructorChosen();
     ShowStudents();
   });
   connect(students_, &QListWidget::currentRowChanged, this, [this](int row) {
+    if (!Leave()) return;
+    emit Chosen();
     if (const int before = browser_.StudentIndex(); before >= 0) students_->SetCount(before, -1);
     browser_.StudentList_Click(row);
     ShowVideos();
   });
   connect(videos_, &QListWidget::currentRowChanged, this, [this](int row) {
+    emit Chosen();
     browser_.VideoList_Click(row);
     emit VideoChosen();
   });
@@ -45,13 +52,39 @@ void LibraryLists::ShowStudents() {
   ShowVideos();
 }
 
-void LibraryLists::ShowVideos() {
+bool LibraryLists::Leave() {
+  if (!MayLeave || MayLeave()) return true;
+  // The list goes on to mark the row that was pressed; the mark returns when it has done so.
+  QMetaObject::invokeMethod(this, [this] {
+    instructors_->Fill(Q(browser_.InstructorList()), browser_.InstructorIndex());
+    students_->Fill(Q(browser_.StudentList()), browser_.StudentIndex());
+    ShowCount();
+  }, Qt::QueuedConnection);
+  return false;
+}
+
+void LibraryLists::ShowCount() {
   const int count = static_cast<int>(browser_.VideoList().size());
   if (browser_.HasStudent()) students_->SetCount(browser_.StudentIndex(), count > 0 ? count : -1);
+}
+
+void LibraryLists::ShowVideos() {
+  ShowCount();
   videos_->Fill(Q(browser_.VideoList()), browser_.VideoIndex());
   ShowHints();
   emit StudentChosen();
   emit VideoChosen();
+}
+
+/// True when the library folder cannot be reached. One on this machine that has not been there yet comes with
+/// the first instructor.
+bool LibraryLists::LibraryGone() {
+  const std::string& root = browser_.Tree().Root();
+  if (dirExists(root)) {
+    reached_ = root;
+    return false;
+  }
+  return settings_.UseNetwork || reached_ == root;
 }
 
 void LibraryLists::ShowHints() {
@@ -60,6 +93,11 @@ void LibraryLists::ShowHints() {
   students_->setAccessibleName(Q(vocabulary_.Nouns()));
   // Only the profiles page has the buttons that add somebody.
   const bool adds = browser_.Purpose() == LibraryBrowser::Kind::Profiles;
+  if (LibraryGone()) {
+    students_->SetHint(Q("The library folder " + browser_.Tree().Root() + " cannot be reached."));
+    videos_->SetHint({});
+    return;
+  }
   if (browser_.InstructorList().size() == 1) {
     students_->SetHint(adds ? "Add the first instructor beneath the list on the left."
                             : QString("Add the first instructor on the page %1.").arg(Q(vocabulary_.Profiles())));

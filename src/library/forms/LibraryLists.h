@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <array>
+#include <functional>
 
 #include "core/Vocabulary.h"
 #include "library/LibraryBrowser.h"
@@ -25,12 +26,17 @@ class LibraryLists : public QObject {
   NameList* StudentList() { return students_; }
   NameList* VideoList() { return videos_; }
 
+  /// Asked before another instructor or student is taken; where it says no, the lists stay as they are.
+  std::function<bool()> MayLeave;
+
   /// Fills all three from the browser, which has just read the library, and tells of every change.
   void ShowAll();
   void ShowStudents();
   void ShowVideos();
 
  signals:
+  /// The user has chosen a row in one of the lists; what it brings follows.
+  void Chosen();
   void InstructorChosen();
   void StudentChosen();  ///< also: none is chosen any more
   void VideoChosen();    ///< also: none is chosen any more
@@ -43,10 +49,15 @@ class LibraryLists : public QObject {
   bool eventFilter(QObject* object, QEvent* event) override;
 
  private:
+  bool Leave();
+  void ShowCount();
   void ShowHints();
+  bool LibraryGone();
 
   LibraryBrowser& browser_;
+  const Settings& settings_;
   Vocabulary vocabulary_;
+  std::string reached_;  ///< the library folder that was last seen to be there
   NameList* instructors_;
   NameList* students_;
   NameList* videos_;

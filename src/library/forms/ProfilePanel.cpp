@@ -110,18 +110,39 @@ void ProfilePanel::OpenStudent(const std::string& studentFolder) {
 }
 
 bool ProfilePanel::SaveNotes() {
+  telling_.Stop();
   std::string reason;
-  if (notes_.Keep(Std(editor_->toPlainText()), &reason)) return true;
-  host_.Message(MessageKind::Warning, Std(notesTitle_->text()),
-                "The notes could not be saved: " + reason + ". They are kept and will be tried again.");
+  if (KeepNotes(&reason)) return true;
+  const std::string text = "The notes could not be saved: " + reason + ". They are kept and will be tried again.";
+  const bool told = reason == toldReason_ && notes_.Unsaved() == toldNotes_;
+  toldReason_ = reason;
+  toldNotes_ = notes_.Unsaved();
+  emit Said(Q(text));
+  if (!told) host_.Message(MessageKind::Warning, Std(notesTitle_->text()), text);
   return false;
 }
+
+bool ProfilePanel::LeaveNotes() {
+  std::string reason;
+  if (KeepNotes(&reason)) return true;
+  // A box that opens under a pressed mouse button leaves the list dragging.
+  telling_ = HostTimer(host_, 0, false, [this] { SaveNotes(); });
+  return !notes_.OpenIsUnsaved();
+}
+
+bool ProfilePanel::KeepNotes(std::string* reason) {
+  const bool kept = notes_.Keep(Std(editor_->toPlainText()), reason);
+  if (kept) toldNotes_.clear();
+  return kept;
+}
+
+void ProfilePanel::FocusNotes() { editor_->setFocus(Qt::OtherFocusReason); }
 
 bool ProfilePanel::eventFilter(QObject* object, QEvent* event) {
   // A menu over the editor is no leaving of it.
   if (object == editor_ && event->type() == QEvent::FocusOut &&
       static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason)
-    SaveNotes();
+    LeaveNotes();
   return Panel::eventFilter(object, event);
 }
 

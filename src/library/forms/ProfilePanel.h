@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <string>
 
 #include "core/Vocabulary.h"
@@ -29,8 +30,13 @@ class ProfilePanel : public Panel {
   View CurrentView() const { return view_; }
   /// Shows a student's notes, after those of the one before have been stored; "" for no student.
   void OpenStudent(const std::string& studentFolder);
-  /// Stores the notes. False, after a message, when the disk refuses; they stay in the editor then.
+  /// Stores the notes. False, after a message, when the disk refuses; they stay in the editor then. The same
+  /// notes and the same reason are told in a box once, and by `Said` from then on.
   bool SaveNotes();
+  /// Stores the notes before another student is shown. False when the open student's must be kept in sight;
+  /// why is told as soon as the click is over.
+  bool LeaveNotes();
+  void FocusNotes();
   void SetupVocabulary();
 
  signals:
@@ -44,10 +50,14 @@ class ProfilePanel : public Panel {
 
  private:
   void ProBtn(int index);
+  bool KeepNotes(std::string* reason);
 
   IHost& host_;
   Vocabulary vocabulary_;
   NotesKeeper notes_;
+  HostTimer telling_;
+  std::string toldReason_;                       ///< why notes could not be stored, as the last box told it
+  std::map<std::string, std::string> toldNotes_;  ///< and which
   View view_ = View::Brief;
   FieldGrid* fields_;
   QWidget* notesPart_;

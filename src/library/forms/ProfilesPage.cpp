@@ -71,6 +71,8 @@ ProfilesPage::ProfilesPage(PlayerServices& services, Settings& settings, Profile
                                    .Show = [this](const OperationResult& result) { ShowResult(result); },
                                    .Say = [this](const QString& text) { Say(text); }},
                                   this);
+  lists_->MayLeave = [this] { return profilePanel_->LeaveNotes(); };
+  connect(lists_, &LibraryLists::Chosen, this, [this] { Say({}); });
   connect(lists_, &LibraryLists::InstructorChosen, this, &ProfilesPage::InstructorChosen);
   connect(lists_, &LibraryLists::StudentChosen, this, &ProfilesPage::StudentList_Click);
   connect(lists_, &LibraryLists::VideoChosen, this, &ProfilesPage::VideoList_Click);
@@ -84,7 +86,10 @@ ProfilesPage::ProfilesPage(PlayerServices& services, Settings& settings, Profile
   connect(profilePanel_, &ProfilePanel::BackWanted, this, [this] { ShowProfileView(false); });
   connect(profilePanel_, &ProfilePanel::Said, this, &ProfilesPage::Say);
   connect(editor_, &ProfileEditor::SaveWanted, this, &ProfilesPage::ProAddSaveBtn);
-  connect(editor_, &ProfileEditor::CancelWanted, this, &ProfilesPage::CloseEditor);
+  connect(editor_, &ProfileEditor::CancelWanted, this, [this] {
+    CloseEditor();
+    Say({});
+  });
 
   SetupVocabulary();
   SetupFields();
@@ -253,6 +258,7 @@ void ProfilesPage::showEvent(QShowEvent* event) {
 void ProfilesPage::hideEvent(QHideEvent* event) {
   QWidget::hideEvent(event);
   Leave();
+  ShowInstructorBox(false);
 }
 
 void ProfilesPage::SetupVocabulary() {
@@ -280,6 +286,7 @@ bool ProfilesPage::eventFilter(QObject* object, QEvent* event) {
   if (object == Text2_ && event->type() == QEvent::KeyPress &&
       static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
     ShowInstructorBox(false);
+    Say({});
     lists_->InstructorList()->setFocus();
     return true;
   }
@@ -370,9 +377,13 @@ void ProfilesPage::VideoList_Click() {
 }
 
 void ProfilesPage::OfferToDelete(const std::string& path) {
+  const FileState state{path, FileSize(path), FileTime(path)};
+  if (keptBadVideos_.contains(state)) return;
   if (!services_.host.Question("Delete Bad Video",
-                               "The selected video appears to be corrupt. Would you like to delete it?"))
+                               "The selected video appears to be corrupt. Would you like to delete it?")) {
+    keptBadVideos_.insert(state);
     return;
+  }
   if (!KillFile(path)) {
     services_.host.Message(MessageKind::Warning, "Delete Bad Video",
                            "Unable to delete the video. Try rebooting, then try again.");
@@ -412,6 +423,7 @@ void ProfilesPage::ShowProfileView(bool shown) {
     grid_->addWidget(instructors_, 0, 0, 2, 1);
     grid_->addWidget(students_, 0, 1, 2, 1);
     grid_->addWidget(profilePanel_, 0, 2, 2, 1);
+    profilePanel_->FocusNotes();
   } else {
     grid_->addWidget(instructors_, 0, 0);
     grid_->addWidget(students_, 0, 1);

@@ -3,7 +3,10 @@
 #include <QWidget>
 #include <array>
 #include <functional>
+#include <optional>
+#include <set>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "core/Settings.h"
@@ -104,6 +107,8 @@ class ProfilesPage : public QWidget {
   HostTimer question_;
   std::string shownStudent_;
   std::string shownVideo_;
+  using FileState = std::tuple<std::string, std::optional<std::int64_t>, std::optional<std::int64_t>>;
+  std::set<FileState> keptBadVideos_;  ///< path, size and time of those that the user would not delete
   std::string editedFolder_;  ///< of the student whose profile is in the editor
 
   QGridLayout* grid_;
