@@ -178,7 +178,7 @@ TEST(MenuPage, TheHeadingCanBeReadOnAnyPicture) {
 }
 
 TEST(HelpPage, FollowsLinksAndComesBack) {
-  UsesApplication application;
+  [[maybe_unused]] const UsesApplication application;
   TempFolder folder;
   folder.Put("index.htm", "<html><head><title>Welcome</title></head><body><a href=\"keys.htm\">Keys</a></body></html>");
   folder.Put("keys.htm", "<html><head><title>Keys</title></head><body>All keys</body></html>");
