@@ -15,7 +15,7 @@
 namespace kinalyx::bench {
 namespace {
 
-constexpr int kRounds = 60;
+constexpr int kRounds = 200;
 
 SlotData TwoHundredShapes() {
   SlotData data;

@@ -1,6 +1,7 @@
 #include "drawing/ShapeFile.h"
 
 #include <algorithm>
+#include <bit>
 #include <filesystem>
 #include <limits>
 #include <string_view>
@@ -103,10 +104,10 @@ void PutPoints(Bytes& bytes, const std::vector<POINTAPI>& points) {
   if (points.empty()) return;
   PutInt32(bytes, static_cast<std::int32_t>(points.size()));
   PutInt32(bytes, 0);
-  for (const POINTAPI& point : points) {
-    PutInt32(bytes, point.x);
-    PutInt32(bytes, point.y);
-  }
+  // In memory points lie as they do in the file.
+  static_assert(std::endian::native == std::endian::little && sizeof(POINTAPI) == kPointBytes);
+  const auto* first = reinterpret_cast<const std::uint8_t*>(points.data());
+  bytes.insert(bytes.end(), first, first + points.size() * kPointBytes);
 }
 
 void PutNames(Bytes& bytes, const std::vector<std::string>& names) {

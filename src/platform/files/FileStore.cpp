@@ -100,13 +100,13 @@ bool WriteWholeFile(const std::string& path, std::span<const std::uint8_t> bytes
   const fs::path beside = NameBeside(target);
   const int file = disk.Open(beside.string());
   if (file < 0) return refuse(errno);
+  if (exists) fs::permissions(beside, old.permissions(), failed);  // before the flush, which then covers it
   bool good = WriteAll(disk, file, bytes) && disk.Flush(file) >= 0;
   int reason = good ? 0 : errno;
   if (disk.Close(file) < 0 && good) {
     good = false;
     reason = errno;
   }
-  if (good && exists) fs::permissions(beside, old.permissions(), failed);
   if (good && disk.Rename(beside.string(), target.string()) < 0) {
     good = false;
     reason = errno;
