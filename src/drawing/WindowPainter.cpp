@@ -11,6 +11,10 @@ namespace {
 constexpr int kKeptPerFrame = 12;
 /// What a window may hold; shapes beyond it are painted on each frame.
 constexpr std::size_t kMostBytes = 64u << 20;
+/// A long list that has been at rest for some frames is kept as one layer besides: where many shapes lie
+/// over each other, their pixels are then laid once.
+constexpr std::size_t kLongList = 8;
+constexpr int kRestingFrames = 4;
 
 }  // namespace
 
@@ -49,6 +53,18 @@ void WindowPainter::Align(std::span<const Shape> shapes, std::span<const Colour>
   for (const Entry& entry : entries_) bytes_ += entry.layer.Bytes();
 }
 
+bool WindowPainter::AllRest(std::span<const Shape> shapes, std::span<const Colour> colours) const {
+  for (std::size_t i = 0; i < shapes.size(); ++i)
+    if (!entries_[i].kept || !entries_[i].content.Shows(shapes[i], colours[i])) return false;
+  return true;
+}
+
+void WindowPainter::DropWhole() {
+  bytes_ -= whole_.Bytes();
+  whole_ = Layer();
+  framesAtRest_ = 0;
+}
+
 void WindowPainter::PaintGrid(Canvas& canvas, const GridLook& grid) {
   if (grid != gridLook_) {
     bytes_ -= grid_.Bytes();
@@ -74,12 +90,29 @@ std::optional<std::size_t> WindowPainter::Paint(Canvas& canvas, std::span<const 
   if (frame != frame_) {
     frame_ = frame;
     entries_.clear();
+    DropWhole();
     grid_ = Layer();
     gridLook_ = GridLook();
     bytes_ = 0;
   }
   PaintGrid(canvas, grid);
+  if (entries_.size() != shapes.size()) DropWhole();
   Align(shapes, colours);
+  if (!AllRest(shapes, colours)) {
+    DropWhole();
+  } else if (shapes.size() >= kLongList && ++framesAtRest_ > kRestingFrames) {
+    if (whole_.Empty() && bytes_ < kMostBytes) {
+      whole_ = Layer::Record(frame_.width, frame_.height, [&](Canvas& kept) {
+        kept.SetPen(pen);
+        for (std::size_t i = 0; i < shapes.size(); ++i) PaintShape(shapes[i], colours[i], kept, look, rules);
+      });
+      bytes_ += whole_.Bytes();
+    }
+    if (!whole_.Empty()) {
+      whole_.LayOver(surface);
+      return std::nullopt;
+    }
+  }
 
   std::optional<std::size_t> failed;
   int mayKeep = kKeptPerFrame;

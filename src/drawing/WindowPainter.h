@@ -65,11 +65,16 @@ class WindowPainter {
   };
 
   void Align(std::span<const Shape> shapes, std::span<const Colour> colours);
+  /// Every shape is kept and has not changed.
+  bool AllRest(std::span<const Shape> shapes, std::span<const Colour> colours) const;
+  void DropWhole();
   void PaintGrid(Canvas& canvas, const GridLook& grid);
 
   Frame frame_;
   std::vector<Entry> entries_;
   std::vector<Entry> spare_;
+  Layer whole_;  ///< all shapes of a long list at rest; empty when there is none
+  int framesAtRest_ = 0;
   GridLook gridLook_;
   Layer grid_;
   std::size_t bytes_ = 0;

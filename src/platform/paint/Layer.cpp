@@ -88,7 +88,7 @@ class Recorder final : public IFigureRecorder {
   }
 
   void Joined(const RasterFigure& figure) override {
-    TakeDrawn();
+    TakeDrawnUnder(figure);
     Coat coat;
     coat.mode = figure.mode;
     for (int y = 0; y < figure.height; ++y) {
@@ -120,17 +120,41 @@ class Recorder final : public IFigureRecorder {
     const std::size_t first = firstRow_ * width / kBlockPixels * kBlockPixels;
     const std::size_t end = (lastRow_ + 1) * width;
     const std::uint8_t* pixels = surface_.Row(0);
-    static constexpr std::uint8_t kNothing[kBlockBytes] = {};
-    for (std::size_t place = first; place < end; place += kBlockPixels) {
-      const std::size_t count = std::min(kBlockPixels, total - place);
-      if (std::memcmp(pixels + place * 4, kNothing, count * 4) == 0) continue;
-      coat.places.push_back(static_cast<BlockPlace>(place));
-      coat.blocks.push_back(MakeBlock(pixels + place * 4, count));
-    }
+    for (std::size_t place = first; place < end; place += kBlockPixels)
+      TakeBlock(coat, pixels, place, std::min(kBlockPixels, total - place));
     Empty(firstRow_, lastRow_);
     firstRow_ = surface_.Height();
     lastRow_ = -1;
     Keep(std::move(coat));
+  }
+
+  /// Of what was drawn so far, takes what the figure will be joined with. The rest lies beside it and may
+  /// wait for what is drawn later: so pixels that many lines share are laid once, whatever lies between.
+  void TakeDrawnUnder(const RasterFigure& figure) {
+    Coat coat;
+    const std::size_t width = surface_.Width();
+    const std::size_t total = width * surface_.Height();
+    std::uint8_t* pixels = surface_.Row(0);
+    std::size_t next = 0;  // blocks before this place have been looked at
+    for (int y = std::max(figure.top, firstRow_); y <= std::min(figure.top + figure.height - 1, lastRow_); ++y) {
+      const std::uint32_t* row = figure.pixels + static_cast<std::size_t>(y - figure.top) * figure.width;
+      const std::size_t start = static_cast<std::size_t>(y) * width + figure.left;
+      for (int x = 0; x < figure.width; ++x) {
+        const std::size_t place = (start + x) / kBlockPixels * kBlockPixels;
+        if (!(row[x] >> 31) || place < next) continue;
+        next = place + kBlockPixels;
+        TakeBlock(coat, pixels, place, std::min(kBlockPixels, total - place));
+        std::memset(pixels + place * 4, 0, std::min(kBlockPixels, total - place) * 4);
+      }
+    }
+    Keep(std::move(coat));
+  }
+
+  static void TakeBlock(Coat& coat, const std::uint8_t* pixels, std::size_t place, std::size_t count) {
+    static constexpr std::uint8_t kNothing[kBlockBytes] = {};
+    if (std::memcmp(pixels + place * 4, kNothing, count * 4) == 0) return;
+    coat.places.push_back(static_cast<BlockPlace>(place));
+    coat.blocks.push_back(MakeBlock(pixels + place * 4, count));
   }
 
   void Keep(Coat coat) {
