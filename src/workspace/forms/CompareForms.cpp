@@ -171,6 +171,7 @@ void CompareForms::ShowCard(FloatCard& card, bool right, bool bottom) {
   card.move(place.isValid() ? place.toPoint()
                             : QPoint(right ? stage_->width() - card.width() - kEdge : kEdge,
                                      bottom ? stage_->height() - card.height() - kEdge : kEdge));
+  if (!place.isValid()) card.MakeRoom();
   card.KeepInside();
 }
 

@@ -46,9 +46,19 @@ void FloatCard::Open(Place first) {
   adjustSize();
   const QRect room = parentWidget()->rect();
   if (!moved_) move(first == Place::Middle ? room.center() - rect().center() : QPoint(room.right() - width() - 14, 52));
+  MakeRoom();
   KeepInside();
   show();
   raise();
+}
+
+void FloatCard::MakeRoom() {
+  if (moved_) return;
+  for (const FloatCard* other : parentWidget()->findChildren<FloatCard*>(Qt::FindDirectChildrenOnly)) {
+    if (other == this || other->isHidden() || !other->geometry().intersects(geometry())) continue;
+    const int below = other->geometry().bottom() + 10;
+    move(x(), below + height() <= parentWidget()->height() ? below : std::max(0, other->y() - height() - 10));
+  }
 }
 
 void FloatCard::KeepInside() {

@@ -19,6 +19,9 @@ class FloatCard : public QFrame {
   enum class Place { Middle, TopRight };
   /// Shows it, at first at a place of its parent, and once the user has moved it, where it was left.
   void Open(Place first = Place::Middle);
+  /// Moves below, or else above, the cards that are shown where this one was put; where the user has put
+  /// it, it stays.
+  void MakeRoom();
   /// After a resize of the parent.
   void KeepInside();
 
