@@ -7,7 +7,6 @@
 #include <cstring>
 #include <map>
 #include <memory>
-#include <random>
 #include <string_view>
 #include <utility>
 
@@ -17,6 +16,7 @@
 #include <unistd.h>
 
 #include "platform/files/Folders.h"
+#include "platform/files/PartFiles.h"
 #include "platform/files/TextEncoding.h"
 
 namespace kinalyx {
@@ -94,14 +94,6 @@ std::string FolderOf(const std::string& path) {
   const std::size_t slash = path.rfind('/');
   if (slash == std::string::npos) return ".";
   return slash == 0 ? "/" : path.substr(0, slash);
-}
-
-/// A name that no list shows and nobody else uses, not even another workstation at the same folder.
-std::string HiddenNameBeside(const std::string& path) {
-  static thread_local std::mt19937_64 dice{std::random_device{}()};
-  std::array<char, 24> number{};
-  std::snprintf(number.data(), number.size(), ".%016llx.part", static_cast<unsigned long long>(dice()));
-  return JoinPath(FolderOf(path), "." + std::string(CutUtf8(LastName(path), 200)) + number.data());
 }
 
 bool SameEntry(const struct stat& a, const struct stat& b) { return a.st_dev == b.st_dev && a.st_ino == b.st_ino; }
@@ -209,7 +201,7 @@ bool CopyJob::MeasureEntry(Entry& entry) {
 bool CopyJob::StageCopy(Entry& entry) {
   entry.byRename = false;
   entry.nodes.clear();
-  entry.staged = HiddenNameBeside(entry.to);
+  entry.staged = PartNameBeside(entry.to);
   struct stat info {};
   // A video may be a link to a file elsewhere: whoever copies it wants the video.
   if (::stat(entry.from.c_str(), &info) != 0) {
@@ -333,8 +325,11 @@ bool CopyJob::MakeParents(const std::string& path) {
     madeFolders_.push_back(folder);
     return true;
   }
-  // Another workstation may have been quicker.
-  return errno == EEXIST && dirExists(folder);
+  if (errno != EEXIST) return false;
+  // Another workstation may have been quicker; but a file of that name makes no way.
+  if (dirExists(folder)) return true;
+  errno = ENOTDIR;
+  return false;
 }
 
 bool CopyJob::BeginUnit() {
@@ -514,8 +509,8 @@ bool RenameEntry(const std::string& from, const std::string& to, std::string* er
   if (::lstat(to.c_str(), &taken) != 0) return disk.RenameNew(from, to) < 0 ? refuse(errno) : true;
   if (!SameEntry(old, taken) || FoldCase(from) != FoldCase(to)) return refuse(EEXIST);
   // The disk takes both for one name, unless they are two links to one file. Over a third name the new
-  // spelling is taken by every disk.
-  const std::string between = HiddenNameBeside(from);
+  // spelling is taken by every disk. For that moment it is all there is, and no part that might be swept up.
+  const std::string between = PartNameBeside(from) + ".renamed";
   if (disk.RenameNew(from, between) < 0) return refuse(errno);
   if (disk.RenameNew(between, to) >= 0) return true;
   const int reason = errno;

@@ -1,7 +1,6 @@
 #include "platform/media/AviOutput.h"
 
 #include <fcntl.h>
-#include <fmt/format.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -9,8 +8,7 @@
 #include <cstring>
 
 #include "platform/files/FileCopy.h"
-#include "platform/files/Folders.h"
-#include "platform/files/TextEncoding.h"
+#include "platform/files/PartFiles.h"
 
 namespace kinalyx {
 
@@ -23,9 +21,7 @@ int AviOutput::Open() {
   AVFormatContext* context = nullptr;
   if (const int result = avformat_alloc_output_context2(&context, nullptr, "avi", nullptr); result < 0) return result;
   output_.reset(context);
-  const std::size_t slash = path_.rfind('/');
-  const std::string folder = slash == std::string::npos ? std::string() : path_.substr(0, slash + 1);
-  const std::string partial = fmt::format("{}.{}.{:x}.part", folder, CutUtf8(LastName(path_), 200), getpid());
+  const std::string partial = PartNameBeside(path_);
   const int result = avio_open(&context->pb, ("file:" + partial).c_str(), AVIO_FLAG_WRITE);
   if (result >= 0) partial_ = partial;
   return result;
