@@ -7,6 +7,7 @@
 #include <QTextOption>
 
 #include "platform/widgets/Icons.h"
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
@@ -31,7 +32,7 @@ Button::Button(const QString& name, const QString& caption, const QString& icon,
   setObjectName(name);
   setProperty("look", LookName(look));
   setProperty("square", caption.isEmpty());
-  setIconSize(QSize(20, 20));
+  FixIcon(this, 20);
   setCursor(Qt::PointingHandCursor);
   setAutoDefault(false);
   Tint();
@@ -78,9 +79,9 @@ TileButton::TileButton(const QString& name, const QString& caption, const QStrin
   setSizePolicy(place == Place::Rail ? QSizePolicy::Fixed : QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
-QSize TileButton::sizeHint() const { return place_ == Place::Rail ? QSize(116, 74) : QSize(150, 132); }
+QSize TileButton::sizeHint() const { return place_ == Place::Rail ? QSize(Px(116), Px(74)) : QSize(Px(150), Px(132)); }
 
-QSize TileButton::minimumSizeHint() const { return place_ == Place::Rail ? QSize(116, 58) : QSize(96, 108); }
+QSize TileButton::minimumSizeHint() const { return place_ == Place::Rail ? QSize(Px(116), Px(58)) : QSize(Px(96), Px(108)); }
 
 void TileButton::paintEvent(QPaintEvent*) {
   const Theme theme = CurrentTheme();
@@ -114,8 +115,8 @@ void TileButton::paintEvent(QPaintEvent*) {
     painter.drawRoundedRect(box.adjusted(1, 1, -1, -1), rail ? 7 : 11, rail ? 7 : 11);
   }
 
-  const int iconSide = rail ? 26 : 36;
-  const int gap = rail ? 6 : 12;
+  const int iconSide = Px(rail ? 26 : 36);
+  const int gap = Px(rail ? 6 : 12);
   painter.setFont(UiFont(rail ? 12 : kTextPixels, isEnabled() ? 600 : 400));
   const int flags = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
   const QRect room = rect().adjusted(6, 0, -6, 0);

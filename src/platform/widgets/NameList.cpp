@@ -7,6 +7,7 @@
 #include <QToolTip>
 
 #include "platform/widgets/Figures.h"
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
@@ -63,7 +64,7 @@ bool NameDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const Q
 }
 
 QSize NameDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
-  return QSize(QStyledItemDelegate::sizeHint(option, index).width(), kRowHeight);
+  return QSize(QStyledItemDelegate::sizeHint(option, index).width(), Px(kRowHeight));
 }
 
 NameList::NameList(const QString& name, QWidget* parent) : QListWidget(parent) {

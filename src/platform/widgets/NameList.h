@@ -5,7 +5,7 @@
 
 namespace kinalyx {
 
-/// Paints the rows of lists of names: 30 pixels high, the chosen one filled with the accent, with an
+/// Paints the rows of lists of names: 30 pixels high beside 13 pixels of text, the chosen one filled with the accent, with an
 /// optional count to the right.
 class NameDelegate : public QStyledItemDelegate {
  public:

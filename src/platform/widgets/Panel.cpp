@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QStyle>
 
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
@@ -15,7 +16,7 @@ Panel::Panel(const QString& name, const QString& title, QWidget* parent) : QFram
   rows->setSpacing(0);
 
   headFrame_ = MakeFrame("panelHead");
-  headFrame_->setFixedHeight(32);
+  FixHeight(headFrame_, 32);
   head_ = new QHBoxLayout(headFrame_);
   head_->setContentsMargins(kGap, 0, 6, 0);
   head_->setSpacing(6);

@@ -10,6 +10,7 @@
 #include <QStyleFactory>
 #include <QStyleOption>
 
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
@@ -27,13 +28,13 @@ class Style : public QProxyStyle {
       case PM_IndicatorWidth:
       case PM_IndicatorHeight:
       case PM_ExclusiveIndicatorWidth:
-      case PM_ExclusiveIndicatorHeight: return kIndicator;
+      case PM_ExclusiveIndicatorHeight: return Px(kIndicator);
       case PM_CheckBoxLabelSpacing:
       case PM_RadioButtonLabelSpacing: return 8;
       case PM_LayoutHorizontalSpacing:
       case PM_LayoutVerticalSpacing: return kGap;
       case PM_SmallIconSize:
-      case PM_ButtonIconSize: return 20;
+      case PM_ButtonIconSize: return Px(20);
       default: return QProxyStyle::pixelMetric(metric, option, widget);
     }
   }
@@ -77,8 +78,8 @@ class Style : public QProxyStyle {
   QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                          const QWidget* widget) const override {
     QSize result = QProxyStyle::sizeFromContents(type, option, size, widget);
-    if (type == CT_ComboBox) result = QSize(result.width() + 16, kButtonHeight);
-    if (type == CT_CheckBox || type == CT_RadioButton) result.setHeight(qMax(result.height(), 26));
+    if (type == CT_ComboBox) result = QSize(result.width() + 16, Px(kButtonHeight));
+    if (type == CT_CheckBox || type == CT_RadioButton) result.setHeight(qMax(result.height(), Px(26)));
     return result;
   }
 

@@ -1,5 +1,6 @@
 #include <QStringList>
 
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Style.h"
 #include "platform/widgets/Theme.h"
 
@@ -9,24 +10,25 @@ namespace {
 
 const char* const kButtons = R"(
 QPushButton { background: @accent; color: @accentText; border: 2px solid @accent; border-radius: 8px;
-  padding: 0 12px; min-height: 30px; max-height: 30px; font-weight: 600; }
+  padding: 0 @12; min-height: @34-4; max-height: @34-4; font-weight: 600; }
 QPushButton:hover { background: @accentHover; border-color: @accentHover; }
 QPushButton:pressed { background: @accentPressed; border-color: @accentPressed; }
 QPushButton:checked { background: @accentPressed; border-color: @accentPressed; }
 QPushButton:focus { border-color: @focus; }
 QPushButton:disabled { background: @disabledFill; border-color: @disabledFill; color: @faint; }
-QPushButton[square="true"] { padding: 0; min-width: 30px; max-width: 30px; }
+QPushButton[square="true"] { padding: 0; min-width: @34-4; max-width: @34-4; }
 
-QPushButton[look="quiet"] { background: @field; color: @heading; border: 1px solid @line; min-height: 32px;
-  max-height: 32px; }
+QPushButton[look="quiet"] { background: @field; color: @heading; border: 1px solid @line; min-height: @34-2;
+  max-height: @34-2; }
 QPushButton[look="quiet"]:hover { background: @selection; border-color: @lineStrong; }
 QPushButton[look="quiet"]:pressed { background: @panel; }
 QPushButton[look="quiet"]:checked { background: @accent; color: @accentText; border-color: @accent; }
-QPushButton[look="quiet"]:focus { border: 2px solid @accent; min-height: 30px; max-height: 30px; padding: 0 11px; }
+QPushButton[look="quiet"]:focus { border: 2px solid @accent; min-height: @34-4; max-height: @34-4;
+  padding: 0 @12-1; }
 QPushButton[look="quiet"]:checked:focus { border-color: @focus; }
 QPushButton[look="quiet"]:disabled { background: @panel; color: @faint; border-color: @panel; }
-QPushButton[look="quiet"][square="true"] { padding: 0; min-width: 32px; max-width: 32px; }
-QPushButton[look="quiet"][square="true"]:focus { padding: 0; min-width: 30px; max-width: 30px; }
+QPushButton[look="quiet"][square="true"] { padding: 0; min-width: @34-2; max-width: @34-2; }
+QPushButton[look="quiet"][square="true"]:focus { padding: 0; min-width: @34-4; max-width: @34-4; }
 
 QPushButton[look="flat"] { background: transparent; color: @heading; border: 2px solid transparent; }
 QPushButton[look="flat"]:hover { background: @flatHover; border-color: @flatHover; }
@@ -42,7 +44,7 @@ QPushButton[look="stage"]:checked { background: @stageAccent; border-color: @sta
 QPushButton[look="stage"]:disabled { color: #626d77; }
 
 QPushButton[look="section"] { background: transparent; color: @heading; border: 2px solid transparent;
-  border-radius: 6px; text-align: left; padding: 0 12px; }
+  border-radius: 6px; text-align: left; padding: 0 @12; }
 QPushButton[look="section"]:hover { background: @selection; border-color: @selection; }
 QPushButton[look="section"]:checked { background: @accent; color: @accentText; border-color: @accent; }
 QPushButton[look="section"]:focus { border-color: @accentSoft; }
@@ -60,14 +62,14 @@ QToolButton:focus { border-color: @accentSoft; }
 const char* const kFields = R"(
 QLineEdit, QPlainTextEdit, QTextEdit, QAbstractSpinBox { background: @field; color: @text; border: 1px solid @line;
   border-radius: 6px; padding: 0 9px; selection-background-color: @accent; selection-color: @accentText; }
-QLineEdit, QAbstractSpinBox { min-height: 32px; max-height: 32px; }
-QLineEdit[compact="true"] { min-height: 26px; max-height: 26px; padding: 0 7px; }
+QLineEdit, QAbstractSpinBox { min-height: @34-2; max-height: @34-2; }
+QLineEdit[compact="true"] { min-height: @28-2; max-height: @28-2; padding: 0 7px; }
 QPlainTextEdit, QTextEdit { padding: 6px; }
 QLineEdit:hover, QPlainTextEdit:hover, QAbstractSpinBox:hover { border-color: @lineStrong; }
 QLineEdit:focus, QPlainTextEdit:focus, QTextEdit:focus, QAbstractSpinBox:focus { border: 2px solid @accent;
   padding: 0 8px; }
-QLineEdit:focus, QAbstractSpinBox:focus { min-height: 30px; max-height: 30px; }
-QLineEdit[compact="true"]:focus { min-height: 24px; max-height: 24px; padding: 0 6px; }
+QLineEdit:focus, QAbstractSpinBox:focus { min-height: @34-4; max-height: @34-4; }
+QLineEdit[compact="true"]:focus { min-height: @28-4; max-height: @28-4; padding: 0 6px; }
 QPlainTextEdit:focus, QTextEdit:focus { padding: 5px; }
 QLineEdit:disabled, QPlainTextEdit:disabled, QAbstractSpinBox:disabled { background: @panel; color: @faint; }
 QLineEdit:read-only { background: @panel; }
@@ -77,7 +79,7 @@ QTextBrowser { background: @field; border: none; border-radius: 0; padding: 0; }
 QTextBrowser:focus { border: none; padding: 0; }
 QComboBox QAbstractItemView { background: @field; color: @text; border: 1px solid @lineStrong; outline: 0;
   selection-background-color: @accent; selection-color: @accentText; padding: 4px; }
-QComboBox QAbstractItemView::item { min-height: 30px; padding: 0 8px; border-radius: 5px; }
+QComboBox QAbstractItemView::item { min-height: @30; padding: 0 8px; border-radius: 5px; }
 QComboBox QAbstractItemView::item:selected { background: @accent; color: @accentText; }
 QListView { background: @field; color: @text; border: none; outline: 0; }
 QCheckBox, QRadioButton { color: @text; background: transparent; }
@@ -100,7 +102,7 @@ QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; border: none; 
 QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 QAbstractScrollArea::corner { background: transparent; border: none; }
 QProgressBar { background: @panel; border: 1px solid @line; border-radius: 6px; text-align: center; color: @text;
-  min-height: 16px; max-height: 16px; }
+  min-height: @18-2; max-height: @18-2; }
 QProgressBar::chunk { background: @accent; border-radius: 5px; }
 )";
 
@@ -119,24 +121,24 @@ QFrame[look="stage"] { background: #12161b; border: none; }
 QFrame[look="divider"] { background: @line; border: none; }
 QLabel { background: transparent; border: none; }
 QLabel:disabled { color: @faint; }
-QLabel[look="logo"] { background: #ffffff; color: #3a3f45; border: 1px solid @line; border-radius: 6px; font-size: 11px; }
-QLabel[look="caption"] { color: @muted; font-size: 11px; }
+QLabel[look="logo"] { background: #ffffff; color: #3a3f45; border: 1px solid @line; border-radius: 6px; font-size: @11; }
+QLabel[look="caption"] { color: @muted; font-size: @11; }
 QLabel[look="muted"] { color: @muted; }
 QLabel[look="heading"] { color: @heading; font-weight: 600; }
-QLabel[look="title"] { color: @heading; font-size: 18px; font-weight: 600; }
+QLabel[look="title"] { color: @heading; font-size: @18; font-weight: 600; }
 QLabel[look="brand"] { color: @accentText; font-weight: 700; }
 QLabel[look="pageTitle"] { color: @accentTextSoft; }
-QLabel[look="mark"] { background: @accent; color: @accentText; border-radius: 10px; padding: 0 10px;
-  min-height: 20px; max-height: 20px; font-size: 12px; }
-QLabel[look="markOff"] { background: @panel; color: #808080; border-radius: 10px; padding: 0 10px;
-  min-height: 20px; max-height: 20px; font-size: 12px; }
-QToolTip { background: @text; color: @field; border: 1px solid @text; padding: 5px 7px; font-size: 12px; }
+QLabel[look="mark"] { background: @accent; color: @accentText; border-radius: @10; padding: 0 10px;
+  min-height: @20; max-height: @20; font-size: @12; }
+QLabel[look="markOff"] { background: @panel; color: #808080; border-radius: @10; padding: 0 10px;
+  min-height: @20; max-height: @20; font-size: @12; }
+QToolTip { background: @text; color: @field; border: 1px solid @text; padding: 5px 7px; font-size: @12; }
 QMenuBar { background: @panel; color: @text; border: none; border-bottom: 1px solid @line; padding: 0 8px; }
-QMenuBar::item { background: transparent; padding: 5px 10px; border-radius: 5px; }
+QMenuBar::item { background: transparent; padding: @5 @10; border-radius: 5px; }
 QMenuBar::item:selected { background: @flatHover; }
 QMenuBar::item:pressed { background: @accent; color: @accentText; }
 QMenu { background: @field; color: @text; border: 1px solid @lineStrong; padding: 5px; }
-QMenu::item { padding: 6px 28px 6px 12px; border-radius: 5px; }
+QMenu::item { padding: @6 @28 @6 @12; border-radius: 5px; }
 QMenu::item:selected { background: @accent; color: @accentText; }
 QMenu::item:disabled { color: @faint; background: transparent; }
 QMenu::separator { height: 1px; background: @line; margin: 5px 8px; }
@@ -174,7 +176,7 @@ QString StyleSheetOf(const Theme& t) {
   };
   QString sheet = QString::fromLatin1(kFrames) + QString::fromLatin1(kButtons) + QString::fromLatin1(kFields);
   for (const auto& [name, colour] : colours) sheet.replace(QLatin1String(name), colour.name());
-  return sheet;
+  return WithSizes(sheet);
 }
 
 }  // namespace kinalyx

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Style.h"
 
 namespace kinalyx {
@@ -16,6 +17,7 @@ constexpr SchemeSlots kFirstScheme{8867609, 15984088, 16777215, 15850180};
 // The application object carries what it wears.
 constexpr const char* kThemeProperty = "kinalyxTheme";
 constexpr const char* kStyledProperty = "kinalyxStyled";
+constexpr const char* kScaledProperty = "kinalyxScaled";
 
 double Linear(double channel) {
   return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
@@ -91,7 +93,7 @@ QFont UiFont(int pixels, int weight) {
                                      ? QStringLiteral("Inter")
                                      : QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();
   QFont font(kFamily);
-  font.setPixelSize(pixels);
+  font.setPixelSize(Px(pixels));
   font.setWeight(static_cast<QFont::Weight>(weight));
   return font;
 }
@@ -130,7 +132,11 @@ void ApplyTheme(QApplication& application, const Theme& theme) {
     application.setProperty(kStyledProperty, true);
     application.setStyle(MakeStyle());
   }
-  application.setFont(UiFont());
+  if (application.property(kScaledProperty).toInt() != TextPixels()) {
+    application.setProperty(kScaledProperty, TextPixels());
+    application.setFont(UiFont());
+    for (QWidget* form : QApplication::topLevelWidgets()) ScaleContent(*form);
+  }
   application.setPalette(PaletteOf(theme));
   application.setStyleSheet(StyleSheetOf(theme));
 }

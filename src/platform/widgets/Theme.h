@@ -17,6 +17,7 @@ using SchemeSlots = std::array<std::int32_t, 4>;
 /// Sizes that every page keeps to, in logical pixels.
 inline constexpr int kGap = 12;
 inline constexpr int kCorner = 8;
+/// These are as designed, and grow with the text: see Scale.h.
 inline constexpr int kButtonHeight = 34;
 inline constexpr int kRowHeight = 30;
 inline constexpr int kTextPixels = 13;
@@ -56,12 +57,14 @@ QColor Readable(const QColor& wanted, const QColor& ground, double ratio = 4.5);
 QColor ColorOf(std::int32_t colour);
 std::int32_t ColourOf(const QColor& color);
 
-/// The program's font: Inter where it is installed, else the desktop's. Sizes in logical pixels.
+/// The program's font: Inter where it is installed, else the desktop's. `pixels` as designed beside text of
+/// 13 pixels; the font comes at the present text size.
 QFont UiFont(int pixels = kTextPixels, int weight = 400);
 
 QPalette PaletteOf(const Theme& theme);
 
-/// Dresses the whole application, at once and while it runs: font, palette, style and style sheet.
+/// Dresses the whole application, at once and while it runs: font, palette, style and style sheet, and
+/// after SetTextPixels the lengths in all forms.
 void ApplyTheme(QApplication& application, const Theme& theme);
 /// The theme that the application wears; that of the first scheme before any was applied.
 Theme CurrentTheme();
