@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
@@ -23,7 +24,7 @@ SampleButton::SampleButton(const QString& name, const QString& caption, QWidget*
 
 QSize SampleButton::sizeHint() const {
   const int words = text().isEmpty() ? 0 : kBetween + fontMetrics().horizontalAdvance(text()) + 2;
-  return QSize(2 * kSide + SampleWidth() + words, kButtonHeight);
+  return QSize(2 * kSide + SampleWidth() + words, Px(kButtonHeight));
 }
 
 void SampleButton::enterEvent(QEnterEvent*) { update(); }
@@ -101,7 +102,7 @@ Gauge::Gauge(const QString& name, QWidget* parent) : QProgressBar(parent) {
   setObjectName(name);
   setRange(0, 100);
   setTextVisible(false);
-  setFixedHeight(14);
+  FixHeight(this, 14);
   setValue(0);
 }
 

@@ -1,16 +1,15 @@
 #include "core/forms/FirstForm.h"
 
 #include <QBoxLayout>
-#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
-#include <QScreen>
 
 #include "core/MailSettings.h"
 #include "core/Settings.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
@@ -39,7 +38,7 @@ FirstForm::FirstForm(Settings& settings, MailSettings& mail, QWidget* over)
   setObjectName("FirstForm");
   setWindowTitle("Kinalyx Initial Setup");
   setModal(true);
-  setFixedWidth(440);
+  FixWidth(this, 440);
 
   auto* rows = new QVBoxLayout(this);
   rows->setContentsMargins(28, 26, 28, 24);
@@ -81,11 +80,7 @@ FirstForm::FirstForm(Settings& settings, MailSettings& mail, QWidget* over)
 
 void FirstForm::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
-  adjustSize();
-  const QWidget* over = parentWidget() ? parentWidget()->window() : nullptr;
-  const QScreen* screen = QGuiApplication::primaryScreen();
-  const QRect middle = over ? over->frameGeometry() : screen ? screen->geometry() : rect();
-  move(middle.center() - rect().center());
+  ScaleForm(*this, parentWidget() ? *parentWidget() : *this);
   name_->setFocus();
 }
 

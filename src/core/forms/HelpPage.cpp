@@ -12,13 +12,14 @@
 #include "core/Vocabulary.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
 
 namespace {
 
-constexpr int kReadingWidth = 760;  // logical pixels; longer lines tire the eye
+constexpr int kReadingWidth = 760;  // as designed; longer lines tire the eye
 
 }  // namespace
 
@@ -42,12 +43,21 @@ class Reader : public QTextBrowser {
   }
 
   void resizeEvent(QResizeEvent* event) override {
-    const int side = std::max(28, (width() - kReadingWidth) / 2);
-    if (viewportMargins().left() != side) setViewportMargins(side, 18, side, 18);
+    PlaceColumn();
     QTextBrowser::resizeEvent(event);
   }
 
+  void changeEvent(QEvent* event) override {
+    QTextBrowser::changeEvent(event);
+    if (event->type() == QEvent::StyleChange) PlaceColumn();
+  }
+
  private:
+  void PlaceColumn() {
+    const int side = std::max(28, (width() - Px(kReadingWidth)) / 2);
+    if (viewportMargins().left() != side) setViewportMargins(side, 18, side, 18);
+  }
+
   /// Tags keep their words: the names of pages and pictures stand there.
   QString InWords(const QString& page) const {
     static const QRegularExpression kTagOrWord("<[^>]*>|\\b[Ss]tudents?\\b");
@@ -74,8 +84,8 @@ HelpPage::HelpPage(const QString& folder, QWidget* parent) : QWidget(parent), fo
   forward_ = IconButton("HelpForwardBtn", "chevron-right", "Forward", Look::Flat);
   Button* home = IconButton("HelpHomeBtn", "home", "First page", Look::Flat);
   for (Button* button : {back_, forward_, home}) {
-    button->setIconSize(QSize(16, 16));
-    button->setStyleSheet("QPushButton { min-height: 22px; max-height: 22px; min-width: 26px; max-width: 26px; }");
+    FixIcon(button, 16);
+    WearSheet(button, "QPushButton { min-height: @26-4; max-height: @26-4; min-width: @30-4; max-width: @30-4; }");
     panel->Head()->addWidget(button);
   }
   browser_ = new Reader;
@@ -129,14 +139,15 @@ void HelpPage::changeEvent(QEvent* event) {
 void HelpPage::TakeTheme() {
   const Theme theme = CurrentTheme();
   browser_->document()->setDefaultStyleSheet(
-      QString("body { font-size: 14px; }"
-              "h1 { color: %1; font-size: 24px; font-weight: 600; margin-top: 18px; margin-bottom: 8px; }"
-              "h2 { color: %1; font-size: 16px; font-weight: 600; margin-top: 20px; margin-bottom: 4px; }"
+      WithSizes(
+              "body { font-size: @14; }"
+              "h1 { color: %1; font-size: @24; font-weight: 600; margin-top: 18px; margin-bottom: 8px; }"
+              "h2 { color: %1; font-size: @16; font-weight: 600; margin-top: 20px; margin-bottom: 4px; }"
               "a { color: %1; text-decoration: underline; }"
               "p, li { margin-bottom: 6px; line-height: 150%; }"
               "td { line-height: 125%; }"
               ".pic { margin-top: 8px; margin-bottom: 12px; }"  // a line of pictures is as high as they are
-              ".nav { color: %2; font-size: 12px; }"
+              ".nav { color: %2; font-size: @12; }"
               ".nav a { text-decoration: none; }")
           .arg(theme.heading.name(), theme.muted.name()));
 }

@@ -12,6 +12,7 @@
 #include "platform/host/Host.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
@@ -26,8 +27,8 @@ class Sample : public MenuCanvas {
   int heightForWidth(int width) const override { return width * 10 / 16; }
 };
 
-constexpr QSize kLogoRoom(200, 72);
-constexpr int kNameRoom = 140;  // beside the button in the narrowest page
+constexpr QSize kLogoRoom(200, 72);  // as designed
+constexpr int kNameRoom = 140;       // beside the button in the narrowest page
 
 }  // namespace
 
@@ -84,7 +85,7 @@ void MenuSection::AddLogo() {
   UseLogochk_->setObjectName("UseLogochk");
   rows->addWidget(UseLogochk_);
   logo_ = MakeLabel("LogoPreview", {}, "logo");
-  logo_->setFixedSize(kLogoRoom);
+  FixSize(logo_, kLogoRoom);
   logo_->setAlignment(Qt::AlignCenter);
   rows->addWidget(logo_);
   rows->addSpacing(4);
@@ -108,14 +109,14 @@ void MenuSection::ShowLogo() {
   reader.setDecideFormatFromContent(true);
   reader.setAutoTransform(true);
   const QImage picture = reader.read();
-  logoName_->setText(logoName_->fontMetrics().elidedText(QFileInfo(file).fileName(), Qt::ElideMiddle, kNameRoom));
+  logoName_->setText(logoName_->fontMetrics().elidedText(QFileInfo(file).fileName(), Qt::ElideMiddle, Px(kNameRoom)));
   logoName_->setToolTip(file);
   if (picture.isNull()) {
     logo_->setText(QFileInfo::exists(file) ? "There is no picture in this file." : "This picture has gone.");
     return;
   }
   const qreal ratio = devicePixelRatioF();
-  const QSize room = (kLogoRoom - QSize(12, 12)) * ratio;
+  const QSize room = (logo_->size() - QSize(12, 12)) * ratio;
   const bool fits = picture.width() <= room.width() && picture.height() <= room.height();
   QPixmap shown = QPixmap::fromImage(fits ? picture : picture.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation));
   shown.setDevicePixelRatio(ratio);

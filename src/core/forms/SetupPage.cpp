@@ -13,6 +13,7 @@
 #include "core/forms/MenuSection.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
@@ -73,7 +74,7 @@ SetupPage::~SetupPage() { settings_.Reloaded = nullptr; }
 
 QWidget* SetupPage::MakeSections() {
   auto* panel = new Panel("SetupSections", "Program Setup");
-  panel->setFixedWidth(184);
+  FixWidth(panel, 184);
   auto* rows = new QVBoxLayout;
   rows->setContentsMargins(8, 8, 8, 8);
   rows->setSpacing(4);

@@ -11,6 +11,7 @@
 
 #include "platform/widgets/Figures.h"
 #include "platform/widgets/Panel.h"
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
@@ -31,7 +32,7 @@ SetupSection::SetupSection(const QString& name, Settings& settings, QWidget* par
   row->setContentsMargins(0, 0, 6, 0);
   row->setSpacing(0);
   auto* content = new QWidget;
-  content->setMaximumWidth(kWidestSection);
+  MostWidth(content, kWidestSection);
   auto* columns = new QHBoxLayout(content);
   columns->setContentsMargins(0, 0, 0, 0);
   columns->setSpacing(kGap);
@@ -48,7 +49,7 @@ SetupSection::SetupSection(const QString& name, Settings& settings, QWidget* par
 
 QVBoxLayout* SetupSection::AddPanel(int column, const QString& title) {
   auto* panel = new kinalyx::Panel({}, title);  // QFrame has a Panel of its own
-  panel->setMinimumWidth(300);
+  LeastWidth(panel, 300);
   auto* rows = new QVBoxLayout;
   rows->setContentsMargins(kGap, 10, kGap, 14);
   rows->setSpacing(6);
@@ -95,7 +96,7 @@ QSlider* SetupSection::AddSlider(QVBoxLayout& rows, const QString& name, const Q
   slider->setAccessibleName(caption);
   slider->setRange(low, high);
   auto* value = new FigureLabel(name + "Lbl");
-  value->setMinimumWidth(52);
+  LeastWidth(value, 52);
   value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   auto* row = new QHBoxLayout;
   row->addWidget(slider, 1);

@@ -9,6 +9,7 @@
 
 #include "platform/host/Host.h"
 #include "platform/widgets/Panel.h"
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
@@ -16,16 +17,16 @@ namespace kinalyx {
 SplashForm::SplashForm(const QString& version, QWidget* parent)
     : QWidget(parent, Qt::SplashScreen | Qt::FramelessWindowHint) {
   setObjectName("SplashForm");
-  setFixedSize(560, 320);
+  FixSize(this, {560, 320});
 
   const Theme theme = CurrentTheme();
   auto* rows = new QVBoxLayout(this);
-  rows->setContentsMargins(44, 40, 44, 34);
+  rows->setContentsMargins(Px(44), Px(40), Px(44), Px(34));
   rows->setSpacing(2);
   const auto add = [&](const char* name, const QString& text, int pixels, int weight, const QColor& ink) {
     QLabel* label = MakeLabel(name, text);
-    label->setFont(UiFont(pixels, weight));
-    label->setStyleSheet(QString("color: %1; font-size: %2px; font-weight: %3;").arg(ink.name()).arg(pixels).arg(weight));
+    FixFont(label, pixels, weight);
+    label->setStyleSheet(QString("color: %1;").arg(ink.name()));
     rows->addWidget(label);
   };
   const QColor soft = Readable(Mix(theme.accentText, theme.accent, 0.2), theme.accent);
@@ -59,6 +60,7 @@ void SplashForm::paintEvent(QPaintEvent*) {
   ground.setColorAt(0.55, theme.accent);
   ground.setColorAt(1, Mix(theme.accent, theme.panel, 0.3));
   painter.fillRect(rect(), ground);
+  painter.scale(width() / 560.0, height() / 320.0);
 
   // The trace of a swing: the same arc again and again, each a moment later.
   const QPointF pivot(420, 214);
