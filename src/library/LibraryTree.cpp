@@ -19,6 +19,12 @@ bool IsBlank(std::string_view text) {
   return std::ranges::all_of(text, [](char c) { return c == ' '; });
 }
 
+std::string_view WithoutOuterBlanks(std::string_view name) {
+  if (IsBlank(name)) return name;
+  const std::size_t first = name.find_first_not_of(' ');
+  return name.substr(first, name.find_last_not_of(' ') + 1 - first);
+}
+
 LibraryTree::LibraryTree(const Settings& settings) : LibraryTree(settings.LibraryPath) {}
 
 std::vector<std::string> LibraryTree::Instructors() const {

@@ -25,6 +25,9 @@ inline constexpr std::string_view kLessons = "lessons";
 bool IsValidName(std::string_view text);
 /// True for text of nothing but blanks, and for the empty text.
 bool IsBlank(std::string_view text);
+/// A name as it was typed, without the blanks around it: nobody sees them in a list, and many disks drop
+/// them. A name of nothing but blanks stays, for it is refused as such.
+std::string_view WithoutOuterBlanks(std::string_view name);
 
 /// The selection that one list remembers for another: instructor, student, and the folder at that time.
 using LastStudentInfo = std::array<std::string, 3>;

@@ -1,6 +1,8 @@
 #include "library/Profile.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
 #include <vector>
 
 #include "library/LibraryTree.h"
@@ -43,7 +45,9 @@ std::vector<ProfileEntry> Entries(const std::string& studentFolder, const FieldT
 
 bool MakeProfile(const std::string& studentFolder, const FieldTexts& captions, const FieldTexts& values) {
   std::vector<ProfileEntry> entries = Entries(studentFolder, captions, values);
-  entries.push_back({kProfileSection, "Start", "Notes"});
+  // A field that the user has called like the marker keeps its value.
+  const bool taken = std::ranges::any_of(captions, [](const std::string& one) { return FoldCase(one) == "start"; });
+  if (!taken) entries.push_back({kProfileSection, "Start", "Notes"});
   return WriteProfileEntries(entries, ProfilePath(studentFolder));
 }
 
@@ -61,7 +65,8 @@ void MendName(const std::string& studentFolder) {
       break;
     }
   }
-  if (name != LastName(studentFolder))
+  // Values come back without the blanks around them.
+  if (name != WithoutOuterBlanks(LastName(studentFolder)))
     WritePrivateProfileString(kProfileSection, "Name", LastName(studentFolder), path);
 }
 
@@ -186,6 +191,16 @@ bool SaveNotes(const std::string& studentFolder, std::string_view notes, std::st
 
 // ---------------------------------------------------------------- new entries
 
+namespace {
+
+/// Makes a folder that nobody else has: one that another workstation has just made is theirs.
+bool MakeNewFolder(const std::string& path) {
+  std::error_code failed;
+  return std::filesystem::create_directory(path, failed);
+}
+
+}  // namespace
+
 Outcome AddStudent(const std::string& instructorFolder, const FieldTexts& captions, const FieldTexts& values,
                    std::string_view noun) {
   const std::string& name = values[kNameField];
@@ -195,7 +210,7 @@ Outcome AddStudent(const std::string& instructorFolder, const FieldTexts& captio
   if (name.find('/') == std::string::npos && dirExists(folder))
     return {false, "The " + person + " name that you have chosen already exists on the system."};
   if (!IsValidName(name)) return {false, "Invalid character in name."};
-  if (!MakeFolder(folder) || !MakeProfile(folder, captions, values))
+  if (!MakeNewFolder(folder) || !MakeProfile(folder, captions, values))
     return {false, "An error has occurred while creating the profile"};
   return {true, "New " + person + " successfully created."};
 }
@@ -205,7 +220,7 @@ Outcome AddInstructor(const std::string& root, std::string_view name) {
   if (IsBlank(name)) return {false, "You must type a name!"};
   const std::string folder = JoinPath(root, name);
   if (name == kGeneralFolder || dirExists(folder)) return {false, std::string(name) + " already exists."};
-  if (!MakeFolder(folder)) return {false, "The folder " + folder + " cannot be made."};
+  if (!MakeNewFolder(folder)) return {false, "The folder " + folder + " cannot be made."};
   return {true, std::string(name) + " successfully added!"};
 }
 

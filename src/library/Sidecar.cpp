@@ -16,6 +16,7 @@
 #include "core/Numbers.h"
 #include "core/Settings.h"
 #include "drawing/ShapeFile.h"
+#include "platform/files/FileCopy.h"
 #include "platform/files/Folders.h"
 #include "platform/files/TextEncoding.h"
 
@@ -235,6 +236,13 @@ std::string SidecarPath(std::string_view videoPath) {
   return std::string(videoPath.substr(0, videoPath.size() - std::min<std::size_t>(3, videoPath.size()))) + "ved";
 }
 
+std::string OldSidecarPath(const std::string& sidecarPath) {
+  const std::string first = sidecarPath + ".old";
+  std::string old = first;
+  for (int number = 2; EntryExists(old); ++number) old = first + std::to_string(number);
+  return old;
+}
+
 SlotData DefaultVideoData(const VideoInfo& video) {
   SlotData data;
   const FieldOptions fields = DefaultFields(video).value_or(FieldOptions{});
@@ -288,11 +296,18 @@ bool WriteVideoData(const std::string& path, const SlotData& data, std::string* 
   if (error) error->clear();
   std::string notice;
   const Bytes bytes = BytesOf(data, &notice);
-  if (data.Unread && FileExists(path) && disk.Rename(path, path + ".old") < 0) {
-    if (error) *error = std::strerror(errno);
+  std::string old;
+  if (data.Unread && FileExists(path)) {
+    old = OldSidecarPath(path);
+    if (disk.Rename(path, old) < 0) {
+      if (error) *error = std::strerror(errno);
+      return false;
+    }
+  }
+  if (!WriteWholeFile(path, bytes, error, disk)) {
+    if (!old.empty()) disk.Rename(old, path);
     return false;
   }
-  if (!WriteWholeFile(path, bytes, error, disk)) return false;
   if (error) *error = notice;
   return true;
 }

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "platform/files/Folders.h"
+#include "platform/files/PartFiles.h"
 
 namespace kinalyx {
 
@@ -17,6 +18,7 @@ constexpr int kPollMs = 30;
 
 bool TrimJob::Step() {
   if (!process_) {
+    RemoveDeadParts(request_.destination.substr(0, request_.destination.rfind('/')));
     process_ = ChildProcess::Start(program_, {FormatTrimCommand(request_)}, &error_);
     return process_ != nullptr;
   }

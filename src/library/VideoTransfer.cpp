@@ -1,18 +1,18 @@
 #include "library/VideoTransfer.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 #include "library/LibraryTree.h"
 #include "library/Profile.h"
 #include "library/Sidecar.h"
 #include "platform/files/Folders.h"
+#include "platform/files/PartFiles.h"
 
 namespace kinalyx {
 
 namespace {
-
-constexpr int kMostTries = 1000;
 
 std::string FolderOf(const std::string& path) {
   const std::size_t slash = path.rfind('/');
@@ -20,6 +20,12 @@ std::string FolderOf(const std::string& path) {
 }
 
 std::string Extension(const std::string& videoPath) { return videoPath.substr(videoPath.size() - 4); }
+
+/// The name of what stands on the way to a folder and is none; "" when the way is free.
+std::string InTheWay(std::string folder) {
+  while (!folder.empty() && !EntryExists(folder)) folder = FolderOf(folder);
+  return folder.empty() || dirExists(folder) ? std::string() : LastName(folder);
+}
 
 JobProgress ProgressOf(const CopyProgress& copy) {
   JobProgress progress{copy.unitsDone, copy.unitsTotal, 0, copy.current};
@@ -50,12 +56,7 @@ bool SharesSidecar(const std::string& videoPath) {
 bool SetAsideOrphan(const std::string& folder, std::string_view name, ICopyDisk& disk) {
   const std::string orphan = JoinPath(folder, std::string(name) + ".ved");
   if (!EntryExists(orphan)) return true;
-  if (HasVideoNamed(folder, name)) return false;
-  for (int number = 1; number < kMostTries; ++number) {
-    const std::string aside = orphan + ".old" + (number > 1 ? std::to_string(number) : "");
-    if (!EntryExists(aside)) return RenameEntry(orphan, aside, nullptr, disk);
-  }
-  return false;
+  return !HasVideoNamed(folder, name) && RenameEntry(orphan, OldSidecarPath(orphan), nullptr, disk);
 }
 
 CopyUnit VideoUnit(const std::string& videoPath, const std::string& folder, std::string_view name) {
@@ -87,24 +88,34 @@ bool VideoTransferJob::Step() {
     if (copy_->Step() == CopyJob::State::Running) return true;
     return EndOfOne();
   }
-  if (next_ == videos_.size()) return false;
+  return next_ < videos_.size() && BeginOne();
+}
 
+/// Finds the name under which the next video can stand at its target.
+bool VideoTransferJob::BeginOne() {
   const VideoTransfer& video = videos_[next_];
-  std::string name = VideoName(LastName(video.path));
-  if (onClash_ == OnClash::AddD) {
-    while (HasVideoNamed(video.folder, name) || !SetAsideOrphan(video.folder, name, disk_)) name += 'd';
-  } else if (HasVideoNamed(video.folder, name) || !SetAsideOrphan(video.folder, name, disk_)) {
-    nameTaken_ = true;
-    return Fail("There is already a video with the name \"" + name + "\".");
+  if (const std::string file = InTheWay(video.folder); !file.empty())
+    return Fail("There is a file named \"" + file + "\" where a folder is needed.");
+  if (name_.empty()) name_ = VideoName(LastName(video.path));
+  while (HasVideoNamed(video.folder, name_) || !SetAsideOrphan(video.folder, name_, disk_)) {
+    if (onClash_ == OnClash::Stop) {
+      nameTaken_ = true;
+      return Fail("There is already a video with the name \"" + name_ + "\".");
+    }
+    name_ += 'd';
   }
   if (kind_ != CopyJob::Kind::Move) TakeProfile(video);
-  copy_.emplace(kind_, std::vector<CopyUnit>{VideoUnit(video.path, video.folder, name)}, disk_);
+  copy_.emplace(kind_, std::vector<CopyUnit>{VideoUnit(video.path, video.folder, name_)}, disk_);
   return true;
 }
 
-/// Room for all is asked for before the first is copied. A move asks for itself, as it may need none.
+/// Room for all is asked for before the first is copied, and what killed copies hold of it is given back
+/// first. A move asks for itself, as it may need none.
 bool VideoTransferJob::Begin() {
   begun_ = true;
+  std::set<std::string> folders;
+  for (const VideoTransfer& video : videos_) folders.insert(video.folder);
+  for (const std::string& folder : folders) RemoveDeadParts(folder, kDeadPartSeconds, disk_);
   std::int64_t free = -1;
   for (const VideoTransfer& video : videos_) {
     const auto size = FileSize(video.path);
@@ -138,9 +149,11 @@ bool VideoTransferJob::EndOfOne() {
     filesDone_ += copy_->Progress().filesDone;
     bytesDone_ += copy_->Progress().bytesTotal;
     if (error_.empty()) error_ = copy_->Error();
+    name_.clear();
     ++next_;
   } else if (copy_->NameTaken() && onClash_ == OnClash::AddD) {
-    // Another workstation took the name meanwhile: the next try finds a free one.
+    // Another workstation took the name meanwhile, or something stands there that is no video.
+    name_ += 'd';
   } else {
     nameTaken_ = copy_->NameTaken();
     return Fail(copy_->Error());
@@ -170,16 +183,19 @@ JobProgress VideoTransferJob::Progress() const {
 // ---------------------------------------------------------------- whole students
 
 StudentMoveJob::StudentMoveJob(const std::string& from, const std::string& to, ICopyDisk& disk)
-    : copy_(CopyJob::Kind::Move, {{{from, to}}}, disk) {}
+    : target_(FolderOf(to)), disk_(disk), copy_(CopyJob::Kind::Move, {{{from, to}}}, disk) {}
+
+bool StudentMoveJob::Step() {
+  if (!std::exchange(begun_, true)) RemoveDeadParts(target_, kDeadPartSeconds, disk_);
+  return copy_.Step() == CopyJob::State::Running;
+}
 
 JobProgress StudentMoveJob::Progress() const { return ProgressOf(copy_.Progress()); }
 
 bool StudentRemovalJob::Step() {
   if (hidden_.empty()) {
-    for (int number = 1; number < kMostTries; ++number) {
-      hidden_ = JoinPath(FolderOf(folder_), "." + LastName(folder_) + ".removed" + std::to_string(number));
-      if (!EntryExists(hidden_)) break;
-    }
+    RemoveDeadParts(FolderOf(folder_), kDeadPartSeconds, disk_);
+    hidden_ = PartNameBeside(folder_);
     return RenameEntry(folder_, hidden_, &error_, disk_);
   }
   removed_ = RemoveTree(hidden_, &error_, disk_);

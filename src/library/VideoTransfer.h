@@ -21,8 +21,8 @@ std::string SidecarOf(const std::string& videoPath);
 /// True when the sidecar belongs to a second video as well, whose name differs in the case of its
 /// extension alone.
 bool SharesSidecar(const std::string& videoPath);
-/// Makes way for a video: a sidecar of its name that lies there without a video gets ".old" at the end,
-/// so that its drawings neither vanish nor appear on another video. False when a sidecar stays there.
+/// Makes way for a video: a sidecar of its name that lies there without a video is kept beside, see
+/// OldSidecarPath, so that its drawings neither vanish nor appear on another video. False when it stays there.
 bool SetAsideOrphan(const std::string& folder, std::string_view name, ICopyDisk& disk);
 /// A video and its sidecar on the way to a folder, under a new name without extension.
 CopyUnit VideoUnit(const std::string& videoPath, const std::string& folder, std::string_view name);
@@ -64,6 +64,7 @@ class VideoTransferJob final : public IJob {
 
  private:
   bool Begin();
+  bool BeginOne();
   void TakeProfile(const VideoTransfer& video);
   bool EndOfOne();
   bool Fail(const std::string& error);
@@ -73,6 +74,7 @@ class VideoTransferJob final : public IJob {
   std::vector<VideoTransfer> videos_;
   ICopyDisk& disk_;
   std::size_t next_ = 0;
+  std::string name_;  ///< that the next video shall have, so far as it has been tried; "" not yet
   std::optional<CopyJob> copy_;
   std::int64_t bytesTotal_ = 0;
   std::int64_t bytesDone_ = 0;
@@ -91,17 +93,21 @@ class VideoTransferJob final : public IJob {
 class StudentMoveJob final : public IJob {
  public:
   StudentMoveJob(const std::string& from, const std::string& to, ICopyDisk& disk);
-  bool Step() override { return copy_.Step() == CopyJob::State::Running; }
+  bool Step() override;
   void Cancel() override { copy_.Cancel(); }
   JobProgress Progress() const override;
   const CopyJob& Copy() const { return copy_; }
 
  private:
+  std::string target_;
+  ICopyDisk& disk_;
+  bool begun_ = false;
   CopyJob copy_;
 };
 
 /// Removes a student's folder. First it is hidden under another name, so that no half of a student is
-/// ever shown; what cannot be removed appears again. A cancel comes too late once that has happened.
+/// ever shown; what cannot be removed appears again. A cancel comes too late once that has happened. What
+/// a killed removal leaves hidden goes with the dead parts of copies.
 class StudentRemovalJob final : public IJob {
  public:
   StudentRemovalJob(std::string folder, ICopyDisk& disk) : folder_(std::move(folder)), disk_(disk) {}
