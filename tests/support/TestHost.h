@@ -3,17 +3,20 @@
 #include <deque>
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "platform/host/DriveWatch.h"
 #include "platform/host/Host.h"
 
 namespace kinalyx::test {
 
 /// A host whose clock is turned by hand and whose questions are answered beforehand. Timers run when the
-/// clock passes them, in the order in which they fall due; DoEvents runs what is due and stands still.
+/// clock passes them, in the order in which they fall due; DoEvents runs what is due and stands still. Drives
+/// answer at once, on the caller's thread, until the test has them hang.
 class TestHost final : public IHost {
  public:
   std::int64_t now = 1000;
@@ -26,6 +29,9 @@ class TestHost final : public IHost {
   std::deque<std::optional<std::string>> files;
   std::deque<std::optional<std::string>> folders;
   std::vector<std::vector<std::string>> started;  ///< program and arguments
+  bool drivesHang = false;            ///< what a drive is asked from now on waits for DrivesAnswer
+  bool stopsWaiting = true;           ///< the user presses "Stop Waiting" as soon as there is a card
+  std::vector<std::string> waits;     ///< texts of the cards that were shown
   std::function<void()> onDoEvents;   ///< what the user does while the program lets events run
 
   /// Turns the clock on, running every timer at its own moment.
@@ -34,6 +40,11 @@ class TestHost final : public IHost {
     while (RunNext(end)) {
     }
     now = end;
+  }
+  /// The drives are there again and do what they were asked meanwhile.
+  void DrivesAnswer() {
+    drivesHang = false;
+    for (const auto& errand : std::exchange(hanging_, {})) errand->Finish();
   }
   std::size_t TimerCount() const { return timers_.size(); }
 
@@ -61,6 +72,10 @@ class TestHost final : public IHost {
     questions.push_back(text);
     return Take(answers).value_or(false);
   }
+  std::unique_ptr<IWaitCard> ShowWait(const std::string&, const std::string& text) override {
+    waits.push_back(text);
+    return std::make_unique<Card>(*this);
+  }
   std::optional<std::string> PickFile(const FileDialog&) override { return Take(files).value_or(std::nullopt); }
   std::optional<std::string> PickFolder(const std::string&, const std::string&) override {
     return Take(folders).value_or(std::nullopt);
@@ -71,6 +86,7 @@ class TestHost final : public IHost {
     return true;
   }
   SystemInfo System() override { return system; }
+  DriveWatch& Drives() override { return drives_; }
 
  private:
   struct Timer {
@@ -79,6 +95,32 @@ class TestHost final : public IHost {
     bool repeat = false;
     std::function<void()> action;
   };
+
+  class Card final : public IWaitCard {
+   public:
+    explicit Card(const TestHost& host) : host_(host) {}
+    bool Stopped() const override { return host_.stopsWaiting; }
+
+   private:
+    const TestHost& host_;
+  };
+
+  class Errand final : public IErrand {
+   public:
+    explicit Errand(DriveWatch::Work work) : work_(std::move(work)) {}
+    bool Over(int) override { return !work_; }
+    void Finish() { std::exchange(work_, nullptr)(); }
+
+   private:
+    DriveWatch::Work work_;
+  };
+
+  std::shared_ptr<IErrand> Send(DriveWatch::Work work) {
+    auto errand = std::make_shared<Errand>(std::move(work));
+    if (drivesHang) hanging_.push_back(errand);
+    else errand->Finish();
+    return errand;
+  }
 
   template <typename T>
   static std::optional<T> Take(std::deque<T>& queue) {
@@ -104,6 +146,8 @@ class TestHost final : public IHost {
     return true;
   }
 
+  std::vector<std::shared_ptr<Errand>> hanging_;
+  DriveWatch drives_{*this, [this](DriveWatch::Work work) { return Send(std::move(work)); }};
   TimerId last_ = 0;
   std::map<TimerId, Timer> timers_;
 };

@@ -9,7 +9,10 @@
 #include <utility>
 
 #include <dirent.h>
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/statvfs.h>
+#include <unistd.h>
 
 #include "platform/files/FileStore.h"
 #include "platform/files/TextEncoding.h"
@@ -169,6 +172,24 @@ std::int64_t FreeBytes(const std::string& path) {
   while (!fs::exists(place, failed) && place.has_relative_path()) place = place.parent_path();
   const fs::space_info space = fs::space(place, failed);
   return failed ? -1 : static_cast<std::int64_t>(space.available);
+}
+
+bool TouchPath(const std::string& path) {
+  struct stat info {};
+  if (::stat(path.c_str(), &info) != 0) return false;
+  // A network file system may know all that from before; how full it is only the server knows.
+  struct statvfs drive {};
+  ::statvfs(path.c_str(), &drive);
+  if (S_ISDIR(info.st_mode)) {
+    const std::unique_ptr<DIR, int (*)(DIR*)> open(::opendir(path.c_str()), &::closedir);
+    if (open) ::readdir(open.get());
+  } else if (S_ISREG(info.st_mode)) {
+    const int file = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    char first = 0;
+    if (file >= 0 && ::read(file, &first, 1) < 0) first = 0;
+    if (file >= 0) ::close(file);
+  }
+  return true;
 }
 
 std::vector<std::string> ListFolders(const std::string& folder) {

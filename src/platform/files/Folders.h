@@ -29,6 +29,10 @@ std::optional<std::int64_t> FileTime(const std::string& path);
 /// Free bytes of the drive that holds `path` (or the nearest folder above it that exists); -1 unknown.
 std::int64_t FreeBytes(const std::string& path);
 
+/// Looks at a file or folder, at what is in it and at its drive, so that nothing of it is answered from
+/// memory; true when it is there. It takes as long as the drive takes to answer.
+bool TouchPath(const std::string& path);
+
 /// Names of the subfolders, hidden ones left out, sorted as a reader would sort them (letters without
 /// regard to case, runs of digits by value). An unreadable folder gives an empty list.
 std::vector<std::string> ListFolders(const std::string& folder);

@@ -10,6 +10,8 @@
 
 namespace kinalyx {
 
+class DriveWatch;
+
 enum class MessageKind { Information, Warning, Critical };
 
 /// What a file dialog is asked for. `filter` has the form "Name (*.a;*.b)|*.a; *.b".
@@ -28,8 +30,17 @@ struct SystemInfo {
   std::int64_t ramKilobytes = 0;
 };
 
+/// A card that tells what the program is waiting for, until it goes out of scope. While it stands, nothing
+/// else takes clicks or keys.
+class IWaitCard {
+ public:
+  virtual ~IWaitCard() = default;
+  /// The user would rather not wait.
+  virtual bool Stopped() const = 0;
+};
+
 /// Everything that reaches the logic from outside: clock, timers, event pump, messages, questions,
-/// dialogs, sounds and child processes. The program passes one over Qt; tests pass one whose clock
+/// dialogs, sounds, child processes and drives that may not answer. The program passes one over Qt; tests pass one whose clock
 /// they turn by hand and whose questions they answer.
 class IHost {
  public:
@@ -54,6 +65,8 @@ class IHost {
   virtual void Message(MessageKind kind, const std::string& title, const std::string& text) = 0;
   /// Asks a question with the buttons yes and no; true for yes.
   virtual bool Question(const std::string& title, const std::string& text) = 0;
+  /// Shows a card with the one button "Stop Waiting", and returns at once.
+  virtual std::unique_ptr<IWaitCard> ShowWait(const std::string& title, const std::string& text) = 0;
   /// The path of an existing file, or nothing when the user cancels.
   virtual std::optional<std::string> PickFile(const FileDialog& dialog) = 0;
   /// The path of an existing folder, or nothing when the user cancels.
@@ -63,6 +76,9 @@ class IHost {
   virtual bool StartDetached(const std::string& program, const std::vector<std::string>& arguments) = 0;
 
   virtual SystemInfo System() = 0;
+
+  /// The way to folders on drives that may not answer.
+  virtual DriveWatch& Drives() = 0;
 };
 
 /// A timer that stops when it goes out of scope. Movable, not copyable.

@@ -14,6 +14,8 @@
 
 #include <sys/sysinfo.h>
 
+#include "platform/host/DriveWatch.h"
+
 namespace kinalyx {
 namespace {
 
@@ -40,6 +42,23 @@ int ProcessorMHz() {
   }
   return fastest;
 }
+
+/// A message box that nobody waits in: the one who shows it lets events run.
+class WaitBox final : public IWaitCard {
+ public:
+  WaitBox(const QString& title, const QString& text)
+      : box_(QMessageBox::Information, title, text, QMessageBox::NoButton, QApplication::activeWindow()) {
+    box_.setObjectName("WaitBox");
+    box_.setTextFormat(Qt::PlainText);
+    box_.addButton("Stop Waiting", QMessageBox::RejectRole);
+    box_.setWindowModality(Qt::ApplicationModal);
+    box_.show();
+  }
+  bool Stopped() const override { return !box_.isVisible(); }
+
+ private:
+  QMessageBox box_;
+};
 
 class QtHost final : public QObject, public IHost {
  public:
@@ -83,6 +102,10 @@ class QtHost final : public QObject, public IHost {
     return box.exec() == QMessageBox::Yes;
   }
 
+  std::unique_ptr<IWaitCard> ShowWait(const std::string& title, const std::string& text) override {
+    return std::make_unique<WaitBox>(Title(title), Text(text));
+  }
+
   std::optional<std::string> PickFile(const FileDialog& dialog) override {
     return Picked(QFileDialog::getOpenFileName(QApplication::activeWindow(), Title(dialog.title), Text(dialog.folder),
                                                DialogFilter(dialog.filter)));
@@ -112,6 +135,8 @@ class QtHost final : public QObject, public IHost {
     info.processorMHz = ProcessorMHz();
     return info;
   }
+
+  DriveWatch& Drives() override { return drives_; }
 
  protected:
   void timerEvent(QTimerEvent* event) override {
@@ -155,6 +180,7 @@ class QtHost final : public QObject, public IHost {
     return path.toStdString();
   }
 
+  DriveWatch drives_{*this};
   // Qt gives the number of a finished timer to the next one; ours are never used twice.
   TimerId lastTimer_ = 0;
   std::map<TimerId, Entry> timers_;

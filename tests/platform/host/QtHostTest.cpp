@@ -3,8 +3,11 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
+#include <algorithm>
+#include <future>
 
 #include "platform/files/Folders.h"
+#include "platform/host/DriveWatch.h"
 #include "support/TempFolder.h"
 
 namespace kinalyx::test {
@@ -119,6 +122,30 @@ TEST_F(QtHostTest, TellsOfTheMachine) {
   EXPECT_GT(info.screenHeight, 0);
   EXPECT_GE(info.bitsPerPixel, 16);
   EXPECT_GT(info.ramKilobytes, 100000);
+}
+
+TEST_F(QtHostTest, ADriveThatHangsLeavesTheWindowAliveAndIsHeardWhenItComesBack) {
+  std::promise<void> gate;
+  const std::shared_future<void> drive = gate.get_future().share();
+  int turns = 0;
+  HostTimer user(*host, 1, true, [&] {
+    const auto boxes = QApplication::topLevelWidgets();
+    const auto box = std::ranges::find(boxes, "WaitBox", &QWidget::objectName);
+    if (box == boxes.end() || !(*box)->isVisible() || ++turns < 3) return;
+    EXPECT_TRUE((*box)->isModal());
+    (*box)->findChild<QPushButton*>()->click();
+  });
+  const auto hanging = host->Drives().Ask("/net/library", [drive] {
+    drive.wait();
+    return 7;
+  });
+  EXPECT_EQ(hanging, std::nullopt);
+  EXPECT_GE(turns, 3) << "the window went on while the drive was waited for";
+  EXPECT_TRUE(host->Drives().Silent("/net/library"));
+
+  gate.set_value();
+  EXPECT_TRUE(Until([&] { return !host->Drives().Silent("/net/library"); }));
+  EXPECT_EQ(host->Drives().Ask("/net/library", [drive] { return 7; }), 7);
 }
 
 }  // namespace
