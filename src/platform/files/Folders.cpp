@@ -140,6 +140,11 @@ bool dirExists(const std::string& path) {
   return fs::is_directory(path, failed);
 }
 
+bool SamePlace(const std::string& a, const std::string& b) {
+  std::error_code failed;
+  return fs::equivalent(a, b, failed) && !failed;
+}
+
 bool MakeFolder(const std::string& path) {
   std::error_code failed;
   fs::create_directories(path, failed);

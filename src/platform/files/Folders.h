@@ -18,6 +18,8 @@ std::string ProgramFolder();
 bool FileExists(const std::string& path);
 /// True when the path exists and is a folder.
 bool dirExists(const std::string& path);
+/// True for one file or folder under two paths, as a link gives it; false when one of them is not there.
+bool SamePlace(const std::string& a, const std::string& b);
 /// Makes a folder and those above it; true when it is there afterwards.
 bool MakeFolder(const std::string& path);
 /// Deletes a file; false when it is still there afterwards.
