@@ -10,6 +10,7 @@
 #include <QStyleFactory>
 #include <QStyleOption>
 
+#include "platform/widgets/Icons.h"
 #include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 
@@ -18,6 +19,26 @@ namespace kinalyx {
 namespace {
 
 constexpr int kIndicator = 18;
+
+/// What check marks, radio dots and combo boxes are drawn with.
+struct ControlInks {
+  QColor field;
+  QColor idle;      ///< fill of what is disabled
+  QColor outline;
+  QColor idleLine;
+  QColor active;    ///< outline under the mouse and with the keys, fill of what is on
+  QColor mark;      ///< on `active`
+  QColor sign;      ///< the arrow
+  QColor faint;
+};
+
+/// A control whose words are light stands on the dark stage.
+ControlInks InksFor(const QStyleOption& option) {
+  const Theme t = CurrentTheme();
+  if (qGray(option.palette.color(QPalette::Active, QPalette::WindowText).rgb()) < 128)
+    return {t.field, t.idle, t.outline, t.line, t.accent, t.accentText, t.heading, t.faint};
+  return {t.stage, t.stage, t.stageOutline, t.stageLine, t.stageFrame, t.stage, t.stageText, t.stageOutline};
+}
 
 class Style : public QProxyStyle {
  public:
@@ -35,6 +56,7 @@ class Style : public QProxyStyle {
       case PM_LayoutVerticalSpacing: return kGap;
       case PM_SmallIconSize:
       case PM_ButtonIconSize: return Px(20);
+      case PM_MessageBoxIconSize: return Px(36);
       default: return QProxyStyle::pixelMetric(metric, option, widget);
     }
   }
@@ -50,12 +72,22 @@ class Style : public QProxyStyle {
     }
   }
 
+  QIcon standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const override {
+    const char* name = NameOf(which);
+    return name ? Icon(name, CurrentTheme().heading) : QProxyStyle::standardIcon(which, option, widget);
+  }
+
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override {
     switch (element) {
       case PE_IndicatorCheckBox: DrawIndicator(*option, *painter, false); return;
       case PE_IndicatorRadioButton: DrawIndicator(*option, *painter, true); return;
       case PE_FrameFocusRect: return;
+      case PE_PanelLineEdit:
+        // The box round it paints the ground.
+        if (widget && qobject_cast<QComboBox*>(widget->parentWidget())) return;
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        return;
       default: QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
   }
@@ -84,18 +116,51 @@ class Style : public QProxyStyle {
   }
 
  private:
+  /// The icon of our family for a sign in the toolkit's own dialogs.
+  static const char* NameOf(StandardPixmap which) {
+    switch (which) {
+      case SP_MessageBoxInformation: return "info";
+      case SP_MessageBoxQuestion: return "question";
+      case SP_MessageBoxWarning: return "warning";
+      case SP_MessageBoxCritical: return "error";
+      case SP_FileDialogBack:
+      case SP_ArrowBack:
+      case SP_ArrowLeft: return "chevron-left";
+      case SP_ArrowForward:
+      case SP_ArrowRight: return "chevron-right";
+      case SP_FileDialogToParent: return "folder-up";
+      case SP_FileDialogNewFolder: return "add";
+      case SP_FileDialogListView: return "quad";
+      case SP_FileDialogDetailedView: return "notes";
+      case SP_DirIcon:
+      case SP_DirClosedIcon:
+      case SP_DirOpenIcon:
+      case SP_DirLinkIcon:
+      case SP_DirLinkOpenIcon: return "open";
+      case SP_DirHomeIcon: return "home";
+      case SP_FileIcon:
+      case SP_FileLinkIcon: return "notes";
+      case SP_ComputerIcon:
+      case SP_DriveNetIcon: return "network";
+      case SP_DriveHDIcon:
+      case SP_DriveCDIcon:
+      case SP_DriveDVDIcon: return "disc";
+      default: return nullptr;
+    }
+  }
+
   static void DrawIndicator(const QStyleOption& option, QPainter& painter, bool round) {
-    const Theme theme = CurrentTheme();
+    const ControlInks inks = InksFor(option);
     const bool on = option.state & State_On;
     const bool enabled = option.state & State_Enabled;
     const QRectF box = QRectF(option.rect).adjusted(1, 1, -1, -1);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    const QColor filled = enabled ? theme.accent : theme.faint;
-    QColor border = on ? filled : (enabled ? Mix(theme.line, theme.text, 0.35) : theme.line);
-    if (option.state & State_MouseOver && enabled) border = theme.accent;
+    const QColor filled = enabled ? inks.active : inks.faint;
+    QColor border = on ? filled : enabled ? inks.outline : inks.idleLine;
+    if (option.state & State_MouseOver && enabled) border = inks.active;
     painter.setPen(QPen(border, 1.4));
-    painter.setBrush(on ? filled : theme.field);
+    painter.setBrush(on ? filled : enabled ? inks.field : inks.idle);
     if (round) {
       painter.drawEllipse(box);
     } else {
@@ -103,7 +168,7 @@ class Style : public QProxyStyle {
     }
     if (on && round) {
       painter.setPen(Qt::NoPen);
-      painter.setBrush(enabled ? theme.accentText : theme.field);
+      painter.setBrush(enabled ? inks.mark : inks.field);
       painter.drawEllipse(box.center(), 3.4, 3.4);
     } else if (on) {
       QPainterPath mark;
@@ -111,12 +176,12 @@ class Style : public QProxyStyle {
       mark.lineTo(box.left() + box.width() * 0.43, box.top() + box.height() * 0.72);
       mark.lineTo(box.left() + box.width() * 0.77, box.top() + box.height() * 0.31);
       painter.setBrush(Qt::NoBrush);
-      painter.setPen(QPen(enabled ? theme.accentText : theme.field, 1.9, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+      painter.setPen(QPen(enabled ? inks.mark : inks.field, 1.9, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
       painter.drawPath(mark);
     }
     if (option.state & State_HasFocus && option.state & State_KeyboardFocusChange) {
       painter.setBrush(Qt::NoBrush);
-      painter.setPen(QPen(Mix(theme.accent, theme.panel, 0.45), 1.5));
+      painter.setPen(QPen(inks.active, 1.2));
       const QRectF ring = box.adjusted(-2, -2, 2, 2);
       round ? painter.drawEllipse(ring) : painter.drawRoundedRect(ring, 6, 6);
     }
@@ -124,7 +189,7 @@ class Style : public QProxyStyle {
   }
 
   static void DrawCombo(const QStyleOptionComplex& option, QPainter& painter) {
-    const Theme theme = CurrentTheme();
+    const ControlInks inks = InksFor(option);
     const bool enabled = option.state & State_Enabled;
     const bool focus = option.state & State_HasFocus;
     painter.save();
@@ -132,12 +197,12 @@ class Style : public QProxyStyle {
     const double width = focus ? 2 : 1;
     const QRectF box = QRectF(option.rect).adjusted(width / 2, width / 2, -width / 2, -width / 2);
     const bool hover = option.state & State_MouseOver && enabled;
-    painter.setPen(QPen(focus ? theme.accent : hover ? Mix(theme.line, theme.accent, 0.5) : theme.line, width));
-    painter.setBrush(enabled ? theme.field : theme.panel);
+    painter.setPen(QPen(focus || hover ? inks.active : enabled ? inks.outline : inks.idleLine, width));
+    painter.setBrush(enabled ? inks.field : inks.idle);
     painter.drawRoundedRect(box, 6, 6);
     const QPointF middle(option.rect.right() - 15, option.rect.center().y() + 1.0);
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(enabled ? theme.heading : theme.faint, 1.7, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(enabled ? inks.sign : inks.faint, 1.7, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.drawPolyline(QPolygonF{middle + QPointF(-4.5, -2.2), middle + QPointF(0, 2.3), middle + QPointF(4.5, -2.2)});
     painter.restore();
   }

@@ -18,15 +18,15 @@ QPushButton:focus { border-color: @focus; }
 QPushButton:disabled { background: @disabledFill; border-color: @disabledFill; color: @faint; }
 QPushButton[square="true"] { padding: 0; min-width: @34-4; max-width: @34-4; }
 
-QPushButton[look="quiet"] { background: @field; color: @heading; border: 1px solid @line; min-height: @34-2;
+QPushButton[look="quiet"] { background: @field; color: @heading; border: 1px solid @outline; min-height: @34-2;
   max-height: @34-2; }
-QPushButton[look="quiet"]:hover { background: @selection; border-color: @lineStrong; }
+QPushButton[look="quiet"]:hover { background: @selection; border-color: @accent; }
 QPushButton[look="quiet"]:pressed { background: @panel; }
 QPushButton[look="quiet"]:checked { background: @accent; color: @accentText; border-color: @accent; }
 QPushButton[look="quiet"]:focus { border: 2px solid @accent; min-height: @34-4; max-height: @34-4;
   padding: 0 @12-1; }
 QPushButton[look="quiet"]:checked:focus { border-color: @focus; }
-QPushButton[look="quiet"]:disabled { background: @panel; color: @faint; border-color: @panel; }
+QPushButton[look="quiet"]:disabled { background: transparent; color: @faint; border-color: @line; }
 QPushButton[look="quiet"][square="true"] { padding: 0; min-width: @34-2; max-width: @34-2; }
 QPushButton[look="quiet"][square="true"]:focus { padding: 0; min-width: @34-4; max-width: @34-4; }
 
@@ -41,6 +41,7 @@ QPushButton[look="stage"] { background: transparent; color: @stageText; border: 
 QPushButton[look="stage"]:hover { background: #262d35; border-color: #262d35; }
 QPushButton[look="stage"]:pressed { background: #323b45; border-color: #323b45; }
 QPushButton[look="stage"]:checked { background: @stageAccent; border-color: @stageAccent; }
+QPushButton[look="stage"]:focus { border-color: @stageFrame; }
 QPushButton[look="stage"]:disabled { color: #626d77; }
 
 QPushButton[look="section"] { background: transparent; color: @heading; border: 2px solid transparent;
@@ -60,23 +61,25 @@ QToolButton:focus { border-color: @accentSoft; }
 )";
 
 const char* const kFields = R"(
-QLineEdit, QPlainTextEdit, QTextEdit, QAbstractSpinBox { background: @field; color: @text; border: 1px solid @line;
+QLineEdit, QPlainTextEdit, QTextEdit, QAbstractSpinBox { background: @field; color: @text; border: 1px solid @outline;
   border-radius: 6px; padding: 0 9px; selection-background-color: @accent; selection-color: @accentText; }
 QLineEdit, QAbstractSpinBox { min-height: @34-2; max-height: @34-2; }
 QLineEdit[compact="true"] { min-height: @28-2; max-height: @28-2; padding: 0 7px; }
 QPlainTextEdit, QTextEdit { padding: 6px; }
-QLineEdit:hover, QPlainTextEdit:hover, QAbstractSpinBox:hover { border-color: @lineStrong; }
+QLineEdit:hover, QPlainTextEdit:hover, QAbstractSpinBox:hover { border-color: @accent; }
 QLineEdit:focus, QPlainTextEdit:focus, QTextEdit:focus, QAbstractSpinBox:focus { border: 2px solid @accent;
   padding: 0 8px; }
 QLineEdit:focus, QAbstractSpinBox:focus { min-height: @34-4; max-height: @34-4; }
 QLineEdit[compact="true"]:focus { min-height: @28-4; max-height: @28-4; padding: 0 6px; }
 QPlainTextEdit:focus, QTextEdit:focus { padding: 5px; }
-QLineEdit:disabled, QPlainTextEdit:disabled, QAbstractSpinBox:disabled { background: @panel; color: @faint; }
-QLineEdit:read-only { background: @panel; }
+QLineEdit:disabled, QPlainTextEdit:disabled, QAbstractSpinBox:disabled { background: @idle; color: @faint;
+  border-color: @line; }
+QLineEdit:read-only { background: @idle; border-color: @line; }
 QAbstractSpinBox { padding-right: 6px; }
 QSpinBox::up-button, QSpinBox::down-button { width: 0; border: none; }
 QTextBrowser { background: @field; border: none; border-radius: 0; padding: 0; }
 QTextBrowser:focus { border: none; padding: 0; }
+QComboBox QLineEdit, QComboBox QLineEdit:focus { border: none; padding: 0; min-height: @20; }
 QComboBox QAbstractItemView { background: @field; color: @text; border: 1px solid @lineStrong; outline: 0;
   selection-background-color: @accent; selection-color: @accentText; padding: 4px; }
 QComboBox QAbstractItemView::item { min-height: @30; padding: 0 8px; border-radius: 5px; }
@@ -85,19 +88,20 @@ QListView { background: @field; color: @text; border: none; outline: 0; }
 QCheckBox, QRadioButton { color: @text; background: transparent; }
 QCheckBox:disabled, QRadioButton:disabled { color: @faint; }
 QSlider { min-height: 24px; }
-QSlider::groove:horizontal { height: 4px; border-radius: 2px; background: @line; }
+QSlider::groove:horizontal { height: 4px; border-radius: 2px; background: @outline; }
 QSlider::sub-page:horizontal { height: 4px; border-radius: 2px; background: @accent; }
 QSlider::handle:horizontal { width: 16px; height: 16px; margin: -7px 0; border-radius: 9px; background: @accent;
   border: 1px solid @field; }
 QSlider::handle:horizontal:hover { background: @accentHover; }
-QSlider::handle:horizontal:focus { border: 2px solid @accentSoft; width: 14px; }
+QSlider::handle:horizontal:focus { background: @field; border: 4px solid @accent; width: 10px; height: 10px; }
+QSlider::groove:horizontal:disabled { background: @line; }
 QSlider::sub-page:horizontal:disabled, QSlider::handle:horizontal:disabled { background: @faint; }
 QScrollBar:vertical { background: transparent; width: 12px; margin: 0; border: none; }
 QScrollBar:horizontal { background: transparent; height: 12px; margin: 0; border: none; }
-QScrollBar::handle { background: @line; border-radius: 4px; margin: 2px; }
+QScrollBar::handle { background: @lineStrong; border-radius: 4px; margin: 2px; }
 QScrollBar::handle:vertical { min-height: 32px; }
 QScrollBar::handle:horizontal { min-width: 32px; }
-QScrollBar::handle:hover { background: @lineStrong; }
+QScrollBar::handle:hover { background: @outline; }
 QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; border: none; }
 QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 QAbstractScrollArea::corner { background: transparent; border: none; }
@@ -116,7 +120,7 @@ QFrame[look="panelFoot"] { background: transparent; border: none; border-top: 1p
 QFrame[look="header"] { background: @accent; border: none; }
 QFrame[look="rail"] { background: @panel; border: none; border-right: 1px solid @line; }
 QFrame[look="strip"] { background: @panel; border: none; border-bottom: 1px solid @line; }
-QFrame[look="status"] { background: @panel; border: none; border-radius: 6px; }
+QFrame[look="status"] { background: @idle; border: none; border-radius: 6px; }
 QFrame[look="stage"] { background: #12161b; border: none; }
 QFrame[look="divider"] { background: @line; border: none; }
 QLabel { background: transparent; border: none; }
@@ -138,12 +142,32 @@ QMenuBar::item { background: transparent; padding: @5 @10; border-radius: 5px; }
 QMenuBar::item:selected { background: @flatHover; }
 QMenuBar::item:pressed { background: @accent; color: @accentText; }
 QMenu { background: @field; color: @text; border: 1px solid @lineStrong; padding: 5px; }
-QMenu::item { padding: @6 @28 @6 @12; border-radius: 5px; }
+QMenu::item { padding: @6 @28 @6 @12; min-height: @20; border-radius: 5px; }
 QMenu::item:selected { background: @accent; color: @accentText; }
 QMenu::item:disabled { color: @faint; background: transparent; }
 QMenu::separator { height: 1px; background: @line; margin: 5px 8px; }
 QMenu::icon { padding-left: 8px; }
 QSplitter::handle { background: transparent; }
+)";
+
+// Message boxes and the dialog that picks files are the toolkit's; they are to look like the program's own.
+const char* const kDialogs = R"(
+QDialogButtonBox QPushButton { min-width: @60; background: @field; color: @heading; border: 1px solid @outline;
+  min-height: @34-2; max-height: @34-2; }
+QDialogButtonBox QPushButton:hover { background: @selection; border-color: @accent; }
+QDialogButtonBox QPushButton:pressed { background: @panel; }
+QDialogButtonBox QPushButton:default { background: @accent; color: @accentText; border-color: @accent; }
+QDialogButtonBox QPushButton:default:hover { background: @accentHover; border-color: @accentHover; }
+QDialogButtonBox QPushButton:focus { border: 2px solid @accent; min-height: @34-4; max-height: @34-4; padding: 0 @12-1; }
+QDialogButtonBox QPushButton:default:focus { border-color: @focus; }
+QDialogButtonBox QPushButton:disabled { background: transparent; color: @faint; border-color: @line; }
+QFileDialog QListView, QFileDialog QTreeView { background: @field; color: @text; border: 1px solid @line; outline: 0; }
+QFileDialog QTreeView::item, QFileDialog QListView::item { min-height: @26; padding: 0 4px; }
+QFileDialog QTreeView::item:hover, QFileDialog QListView::item:hover { background: @selection; }
+QFileDialog QTreeView::item:selected, QFileDialog QListView::item:selected { background: @accent; color: @accentText; }
+QHeaderView { background: @panel; border: none; }
+QHeaderView::section { background: @panel; color: @heading; font-weight: 600; border: none;
+  border-right: 1px solid @line; border-bottom: 1px solid @line; padding: 5px 8px; }
 )";
 
 }  // namespace
@@ -155,12 +179,15 @@ QString StyleSheetOf(const Theme& t) {
       {"@accentText", t.accentText},
       {"@accentHover", t.accentHover},
       {"@accentPressed", t.accentPressed},
-      {"@accentSoft", Mix(t.accent, t.panel, 0.45)},
+      {"@accentSoft", Readable(Readable(Mix(t.accent, t.panel, 0.45), t.panel, 3), t.backdrop, 3)},
       {"@accent", t.accent},
       {"@stageAccent", Mix(t.stageFrame, t.stage, 0.5)},
       {"@stageText", t.stageText},
       {"@disabledFill", Mix(t.panel, t.line, 0.35)},
       {"@focus", Mix(t.accentText, t.accent, 0.35)},
+      {"@stageFrame", t.stageFrame},
+      {"@idle", t.idle},
+      {"@outline", t.outline},
       {"@flatHover", Mix(t.panel, t.line, 0.6)},
       {"@flatPressed", Mix(t.panel, t.line, 0.85)},
       {"@selection", t.selection},
@@ -174,7 +201,8 @@ QString StyleSheetOf(const Theme& t) {
       {"@faint", t.faint},
       {"@text", t.text},
   };
-  QString sheet = QString::fromLatin1(kFrames) + QString::fromLatin1(kButtons) + QString::fromLatin1(kFields);
+  QString sheet = QString::fromLatin1(kFrames) + QString::fromLatin1(kButtons) + QString::fromLatin1(kFields) +
+                  QString::fromLatin1(kDialogs);
   for (const auto& [name, colour] : colours) sheet.replace(QLatin1String(name), colour.name());
   return WithSizes(sheet);
 }

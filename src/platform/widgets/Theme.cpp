@@ -75,6 +75,8 @@ Theme Theme::FromSlots(const SchemeSlots& scheme) {
   t.accentPressed = Mix(t.accent, t.panel, 0.28);
   t.field = Mix(t.panel, Qt::white, 0.88);
   t.line = Mix(Mix(t.panel, t.backdrop, 0.5), t.accent, 0.22);
+  t.outline = Readable(Mix(t.line, t.accent, 0.2), t.field, 3);
+  t.idle = Mix(t.panel, t.backdrop, 0.5);
   t.text = Readable(Mix(Mix(t.accent, t.panel, 0.06), Qt::black, 0.55), t.backdrop, 7);
   t.heading = Readable(t.accent, t.panel);
   t.muted = Readable(Readable(Mix(t.text, t.panel, 0.38), t.panel), t.backdrop);
@@ -85,6 +87,7 @@ Theme Theme::FromSlots(const SchemeSlots& scheme) {
   t.stageLine = QColor(0x2a, 0x31, 0x39);
   t.stageFrame = Readable(Mix(t.accent, Qt::white, 0.35), t.stage, 5);
   t.stageText = Mix(t.panel, Qt::white, 0.5);
+  t.stageOutline = Mix(t.stage, Qt::white, 0.42);
   return t;
 }
 

@@ -10,7 +10,7 @@ namespace kinalyx::test {
 namespace {
 
 constexpr double kReadable = 4.5;
-constexpr double kDiscernible = 3;  // what is disabled need not invite, but must be made out
+constexpr double kDiscernible = 3;  // what is disabled need not invite, but must be made out; so must frames
 
 struct Pair {
   QString what;
@@ -99,6 +99,43 @@ TEST(Contrast, EveryTextCanBeReadInEveryScheme) {
       if (pair.what.contains("markOff")) continue;
       const double least = pair.what.contains("disabled") ? kDiscernible : kReadable;
       EXPECT_GE(ContrastRatio(pair.text, pair.ground), least - 0.005)
+          << scheme.caption << ": " << pair.what.toStdString() << ", " << pair.text.name().toStdString() << " on "
+          << pair.ground.name().toStdString();
+    }
+  }
+}
+
+/// The frames by which alone one sees where a field is, and which control has the keys.
+QList<Pair> FramesOfSheet(const Theme& theme) {
+  static const QRegularExpression kColour("#[0-9a-f]{6}");
+  QList<Pair> pairs;
+  const Rules rules = ReadRules(StyleSheetOf(theme));
+  for (auto rule = rules.begin(); rule != rules.end(); ++rule) {
+    const bool field = rule.key() == "QLineEdit" || rule.key() == "QPlainTextEdit" || rule.key() == "QAbstractSpinBox";
+    if (!field && !rule.key().endsWith(":focus")) continue;
+    const QString frame = kColour.match(rule->value("border-color", rule->value("border"))).captured();
+    if (frame.isEmpty()) continue;
+    const QString ground = Property(rules, rule.key(), "background");
+    if (ground.startsWith('#')) {
+      pairs.append({rule.key(), QColor(frame), QColor(ground)});
+    } else {
+      for (const QColor& under : GroundsOf(rule.key(), theme)) pairs.append({rule.key(), QColor(frame), under});
+    }
+  }
+  return pairs;
+}
+
+TEST(Contrast, EveryFrameThatSaysSomethingCanBeMadeOutInEveryScheme) {
+  for (const ColorScheme& scheme : ColorSchemes::All()) {
+    const Theme t = Theme::FromSlots(scheme.colours);
+    QList<Pair> pairs = FramesOfSheet(t);
+    ASSERT_GT(pairs.size(), 15) << "the rules were not found";
+    pairs.append({"check mark, box", t.outline, t.field});
+    pairs.append({"check mark, box on the stage", t.stageOutline, t.stage});
+    pairs.append({"what is on, on the stage", t.stage, t.stageFrame});
+    for (const QColor& ground : {t.field, t.panel, t.backdrop}) pairs.append({"what is on", t.accent, ground});
+    for (const Pair& pair : pairs) {
+      EXPECT_GE(ContrastRatio(pair.text, pair.ground), kDiscernible - 0.005)
           << scheme.caption << ": " << pair.what.toStdString() << ", " << pair.text.name().toStdString() << " on "
           << pair.ground.name().toStdString();
     }
