@@ -36,6 +36,7 @@ void DrawingTools::CmdMakeShape_Click(int Index) {
     return;
   }
   EndConstruction();
+  workspace_.MouseWanted();
   workspace_.ReleaseLoopButton();
   Drawing_ = true;
   NewShapePending_ = true;
@@ -93,16 +94,16 @@ void DrawingTools::ColorChoiceBtn_Click(int Index) {
 void DrawingTools::SetGridMode(bool Value) {
   const int window = workspace_.ActiveWindow();
   List(window).GridOn = Value;
-  workspace_.ShowGridButton(Value);
   workspace_.Refresh(window);
+  workspace_.DrawingsChanged(window);
 }
-
-void DrawingTools::SetupGridBtn() { workspace_.ShowGridButton(List(workspace_.ActiveWindow()).GridOn); }
 
 void DrawingTools::SetGridSize(int Value) {
   settings_.Set(settings_.GridSize, static_cast<std::int16_t>(std::clamp(Value, kGridSizeLeast, kGridSizeMost)));
   const int window = workspace_.ActiveWindow();
-  if (List(window).GridOn) workspace_.Refresh(window);
+  if (!List(window).GridOn) return;
+  workspace_.Refresh(window);
+  workspace_.DrawingsChanged(window);
 }
 
 bool DrawingTools::CloneStart(int windowsShown) {
@@ -149,6 +150,7 @@ void DrawingTools::DrawingOff() {
 
 void DrawingTools::PutDown() {
   const bool announced = !EndConstruction();
+  workspace_.MouseWanted();
   DrawingOff();
   DrawKind_ = 0;
   engine_.StraightMode = false;
@@ -197,6 +199,7 @@ bool DrawingTools::MouseDown(int Button, int /*Shift*/, float X, float Y, int Wi
   if (workspace_.IsPlaying(workspace_.ActiveWindow())) {
     workspace_.StopClick(Window);
     EndConstruction();
+    workspace_.MouseWanted();
     DrawingOff();
     CaptionKept_ = false;
     EndAnnouncement();
@@ -263,7 +266,6 @@ bool DrawingTools::MouseUp(int Button, int /*Shift*/, float X, float Y, int Wind
   if (!workspace_.HasVideo(Window)) return false;
 
   ShapeList& list = List(Window);
-  workspace_.ShowGridButton(list.GridOn);
   list.CanvasWidth = workspace_.PictureWidth(Window) * kTwipsPerPixel;
   list.CanvasHeight = workspace_.PictureHeight(Window) * kTwipsPerPixel;
   if (const Shape* last = LastShape(list);

@@ -72,8 +72,6 @@ class DrawingTools final : public IShapeLocked {
   void Cadoffbutton_Click();
   void ColorChoiceBtn_Click(int Index);
   void SetGridMode(bool Value);
-  /// The grid button shows the active window's grid.
-  void SetupGridBtn();
   /// Divisions across the picture, kGridSizeLeast to kGridSizeMost; other values count as the nearest.
   void SetGridSize(int Value);
   /// Copies the active window's drawings to the other one of two, which becomes active. False when the

@@ -49,6 +49,7 @@ void EditBar::ChangeEBMode(bool Show) {
   dragged_ = -1;
   const int window = workspace_.ActiveWindow();
   if (Show) {
+    workspace_.MouseWanted();
     tools_.SetDrawWindow(window);
     SetEditBar();
     view_.PlaceEditBar(window);
@@ -57,7 +58,7 @@ void EditBar::ChangeEBMode(bool Show) {
     tools_.ClearCaptionKept();
   }
   view_.ShowEditBar(Show);
-  workspace_.Refresh(window);
+  RefreshWindows();
   if (!Show) workspace_.DisplayData("");
 }
 
@@ -66,11 +67,18 @@ void EditBar::MoveEditBar() {
   tools_.SetDrawWindow(workspace_.ActiveWindow());
   SetEditBar();
   view_.PlaceEditBar(workspace_.ActiveWindow());
+  RefreshWindows();
+}
+
+/// While the bar is up, the shapes of every window are marked, and none is when it is gone.
+void EditBar::RefreshWindows() {
+  for (int window = 1; window <= ShapeLists::kWindows; ++window)
+    if (workspace_.HasVideo(window)) workspace_.Refresh(window);
 }
 
 void EditBar::ribEBBtn_Click(bool Value) {
   MultiEdit_ = Value;
-  workspace_.Refresh(workspace_.ActiveWindow());
+  RefreshWindows();
 }
 
 void EditBar::cmdEBBtn_Click(int Index) {

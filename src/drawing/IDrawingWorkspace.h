@@ -48,9 +48,10 @@ class IDrawingWorkspace {
   virtual void ShowDrawError(const std::string& text) = 0;
 
   // --- what other parts of the workspace do with drawings
-  /// The grid button follows the window's grid.
-  virtual void ShowGridButton(bool) {}
-  /// A shape was finished or deleted: a mix, carve, lesson or film strip of the window is made anew.
+  /// A tool was taken up or put down, or the edit bar opened: what else waits for the mouse on a picture
+  /// waits no longer.
+  virtual void MouseWanted() {}
+  /// A window's shapes or its grid are other ones, for good: what is made from its pictures is made anew.
   virtual void DrawingsChanged(int) {}
   /// Offers a finished square to a waiting zoom or carve; true takes it, and it is no drawing then.
   virtual bool TakeSquare(int, const Shape&) { return false; }

@@ -17,7 +17,9 @@ AnalysisWorkspace::AnalysisWorkspace(IHost& host, Settings& settings, PlaySchedu
       settings_(settings),
       view_(view),
       workspace_(host, settings, view),
-      transport_(host, settings, workspace_, view),
+      compare_(host, settings, scheduler, workspace_, compareView,
+               {[this](int key) { menuBar_.Form_KeyDown(key, 0); }, [this](int key) { menuBar_.Form_KeyPress(key); }}),
+      transport_(host, settings, workspace_, compare_.Locks(), view),
       tools_(engine_, settings, *this),
       drawings_(workspace_, tools_),
       edits_(host, settings, workspace_, tools_, *this, editsView),
@@ -25,8 +27,6 @@ AnalysisWorkspace::AnalysisWorkspace(IHost& host, Settings& settings, PlaySchedu
       notes_(host, workspace_, view),
       rateTest_(host, workspace_),
       ruler_(settings, tools_, view),
-      compare_(host, settings, scheduler, workspace_, compareView,
-               {[this](int key) { menuBar_.Form_KeyDown(key, 0); }, [this](int key) { menuBar_.Form_KeyPress(key); }}),
       menuBar_({workspace_, transport_, tools_, edits_, timer_, notes_, rateTest_, ruler_, compare_}, view,
                std::move(navigation)) {
   Connect();
@@ -34,7 +34,7 @@ AnalysisWorkspace::AnalysisWorkspace(IHost& host, Settings& settings, PlaySchedu
 
 void AnalysisWorkspace::Connect() {
   menuBar_.SetProfilesTitle(Vocabulary(settings_).Profiles());
-  transport_.SetLocks(compare_.Locks());
+  compare_.Entering = [this] { GiveWay(); };
   compare_.LocksChanged = [this] {
     transport_.ShowCurrent();
     view_.CommandsChanged();
@@ -52,7 +52,10 @@ void AnalysisWorkspace::Connect() {
     drawings_.PlayerResized(slot);
     compare_.PlayerResized(slot);
   };
-  workspace_.PictureFlipped = [this](int slot) { drawings_.PictureFlipped(slot); };
+  workspace_.PictureFlipped = [this](int slot) {
+    drawings_.PictureFlipped(slot);
+    compare_.DrawingsChanged(slot);
+  };
   workspace_.VideoOpened = [this](int slot) { drawings_.VideoOpened(slot); };
   workspace_.CollectData = [this](int slot) { return drawings_.CollectData(slot); };
   workspace_.DataSaved = [this](int slot) { drawings_.DataSaved(slot); };
@@ -112,6 +115,13 @@ void AnalysisWorkspace::ShowFocus() {
   }
   edits_.FocusChanged();
   transport_.ShowCurrent();
+}
+
+/// A mode takes the stage, or the mouse: what is in hand is put down, and what lies on a picture goes.
+void AnalysisWorkspace::GiveWay() {
+  tools_.DrawOffBtn_Click();
+  edits_.PutAway();
+  notes_.Close();
 }
 
 void AnalysisWorkspace::Select(int slot) {
@@ -230,6 +240,11 @@ void AnalysisWorkspace::AdvanceFrame(int window) {
   if (!OnLastFrame(window)) workspace_.MP(window).Play(workspace_.MP(window).Position() + 1);
   compare_.MPManualSignal();
   compare_.Locks().AdvancePartner(window);
+}
+
+void AnalysisWorkspace::DrawingsChanged(int window) {
+  compare_.DrawingsChanged(window);
+  view_.CommandsChanged();
 }
 
 bool AnalysisWorkspace::TakeSquare(int window, const Shape& square) {

@@ -70,6 +70,7 @@ class AnalysisWorkspace final : public IFrameInterface, public IMouseAndKeyBoard
  private:
   void Connect();
   void ShowFocus();
+  void GiveWay();
 
   // --- IDrawingWorkspace
   int ActiveWindow() override { return workspace_.CurrentWindow; }
@@ -89,8 +90,8 @@ class AnalysisWorkspace final : public IFrameInterface, public IMouseAndKeyBoard
   void HideVectorColor() override { view_.HideVectorColor(); }
   void SetColorButton(int index) override { view_.SetColorButton(index); }
   void ShowDrawError(const std::string& text) override;
-  void ShowGridButton(bool) override { view_.CommandsChanged(); }
-  void DrawingsChanged(int) override { view_.CommandsChanged(); }
+  void MouseWanted() override { compare_.StopWaiting(); }
+  void DrawingsChanged(int window) override;
   bool TakeSquare(int window, const Shape& square) override;
   bool CalibrationShown() override { return ruler_.Shown(); }
   void ShowCalibrationLength(const std::string& length) override { ruler_.ShowLength(length); }
@@ -102,6 +103,7 @@ class AnalysisWorkspace final : public IFrameInterface, public IMouseAndKeyBoard
   IWorkspaceView& view_;
   ShapeEngine engine_;
   Workspace workspace_;
+  CompareModes compare_;
   Transport transport_;
   DrawingTools tools_;
   SlotDrawings drawings_;
@@ -110,7 +112,6 @@ class AnalysisWorkspace final : public IFrameInterface, public IMouseAndKeyBoard
   VideoNotes notes_;
   DisplayRateTest rateTest_;
   RulerCalibration ruler_;
-  CompareModes compare_;
   MenuBar menuBar_;
   HostTimer drawError_;
 };

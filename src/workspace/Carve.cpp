@@ -23,10 +23,11 @@ bool Carve::CanShow() const { return Shown() || workspace_.HasVideo(workspace_.C
 void Carve::TTCarve() {
   if (Shown()) return End();
   if (!CanShow()) return;
+  if (Marking) Marking();
   slot_ = workspace_.CurrentWindow;
   percent_ = 100;
   view_.ShowCarve(true);
-  MarkAnew();
+  BeginMarking();
 }
 
 void Carve::End() {
@@ -43,6 +44,13 @@ void Carve::End() {
 
 void Carve::MarkAnew() {
   if (!Shown()) return;
+  if (Marking) Marking();
+  if (!workspace_.IsShown(slot_) && workspace_.Maximized()) workspace_.TMAX_Click();
+  if (!workspace_.IsShown(slot_)) return End();
+  BeginMarking();
+}
+
+void Carve::BeginMarking() {
   CarveTimer_.Stop();
   area_.reset();
   grab_.reset();
@@ -51,8 +59,19 @@ void Carve::MarkAnew() {
   view_.ShowCarvePic(slot_, true);
 }
 
+void Carve::StopMarking() {
+  if (Shown() && !Floating()) End();
+}
+
 void Carve::VideoClosing(int slot) {
   if (slot == slot_) End();
+}
+
+void Carve::LayoutChanged() {
+  if (!Shown() || Floating()) return;
+  if (!workspace_.IsShown(slot_)) return End();
+  markFrom_.reset();
+  view_.ShowCarvePic(slot_, true);  // the canvas follows
 }
 
 // ---------------------------------------------------------------- marking
@@ -152,10 +171,7 @@ void Carve::Signal(int slot) {
 }
 
 void Carve::PlayerResized(int slot) {
-  if (slot == slot_ && !Floating()) {
-    markFrom_.reset();
-    view_.ShowCarvePic(slot_, true);  // the canvas follows
-  }
+  if (slot == slot_) LayoutChanged();
   Signal(slot);
 }
 

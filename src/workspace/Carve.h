@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 
 #include "platform/host/Host.h"
@@ -37,13 +38,13 @@ class Carve {
   void TTCarve();
   bool Shown() const { return slot_ != 0; }
   bool CanShow() const;
-  /// Whose video is carved; 0 none.
-  int SourceSlot() const { return slot_; }
   /// The piece floats; otherwise an area is waited for.
   bool Floating() const { return area_.has_value(); }
 
-  /// Marks another area; the piece goes until it is marked.
+  /// Marks another area; the piece goes until it is marked. A video behind a maximized one comes back for it.
   void MarkAnew();
+  /// The mouse is wanted for something else: without a piece the carve ends.
+  void StopMarking();
   // The left button on `CarvePic`, in pixels of the video's picture.
   void CarvePic_MouseDown(POINTAPI point);
   void CarvePic_MouseMove(POINTAPI point);
@@ -67,8 +68,13 @@ class Carve {
   /// The picture of a slot has another size, or another place.
   void PlayerResized(int slot);
   void VideoClosing(int slot);
+  /// The layout may have changed. An area is marked on a video in sight; a piece goes on without it.
+  void LayoutChanged();
   /// A video was moved without a word from its player.
   void MPManualSignal() { CmdDisCarve(); }
+
+  /// An area is about to be marked: the mouse is wanted for that.
+  std::function<void()> Marking;
 
  private:
   /// A part of the video's picture, in widths and heights of it: it stays on its subject at every zoom.
@@ -80,6 +86,7 @@ class Carve {
   };
 
   void End();
+  void BeginMarking();
   void Mark(POINTAPI to);
   void CarveTimer_Timer();
   /// The window over which a new piece comes up.

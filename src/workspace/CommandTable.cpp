@@ -58,7 +58,20 @@ constexpr ScreenButton kScreenButtons[] = {
 constexpr std::string_view kSpareButtons[] = {"Closeallbtn", "Scn3",           "Scn5", "Scn6", "Scn7",
                                               "RedoBtn",     "CmdAfunctions1", "smbar", "ribShowGrid", "CmdAfunctions7"};
 
+using Obstacle = std::function<std::string()>;
+
+/// The obstacle of a command that needs `met` to hold.
+Obstacle Needs(std::function<bool()> met, const char* why) {
+  return [met = std::move(met), why] { return std::string(met() ? "" : why); };
+}
+
 }  // namespace
+
+std::function<std::string()> MenuBar::NeedsVideo(std::function<std::string()> further) const {
+  return [this, further = std::move(further)] {
+    return !HasVideo() ? "Open a video first" : further ? further() : std::string();
+  };
+}
 
 void MenuBar::Add(Command command) {
   const std::string& name = command.button.empty() ? command.item : command.button;
@@ -84,7 +97,8 @@ void MenuBar::AddGoTo() {
 }
 
 void MenuBar::AddVideo() {
-  const auto hasVideo = [this] { return HasVideo(); };
+  const auto hasVideo = NeedsVideo();
+  const auto anyVideo = Needs([this] { return workspace_.AnyVideo(); }, "Open a video first");
   const auto plain = [&](const char* item, const char* caption, const char* icon, std::function<void()> run) {
     Add({item, kVideo, caption, "", icon, "", kNoButton, std::move(run), hasVideo});
   };
@@ -99,14 +113,14 @@ void MenuBar::AddVideo() {
        [this] { workspace_.ToggleFlip(); }, hasVideo,
        [this] { return HasVideo() && workspace_.Current().MP->FlipHorizontal(); }});
   Add({"MZoom", kVideo, "Z - Zoom Videos", "", "zoom", "", kNoButton, [this] { compare_.TZP_Click(); },
-       [] { return true; }, [this] { return compare_.ZoomShown(); }});
+       {}, [this] { return compare_.ZoomShown(); }});
   Add({"MnuClose", kVideo, "C - Close Current Video", "Closebtn", "close", "Close Current Video", kOpening,
        [this] {
          if (workspace_.CloseVideo(workspace_.CurrentWindow)) transport_.DisplayData("");
        },
        hasVideo});
   Add({"MnuCloseAll", kVideo, "Esc - Close All Videos", "Closeallbtn", "close-all", "Close All Videos", kOpening,
-       [this] { workspace_.MnuCloseAll_Click(); }, [this] { return workspace_.AnyVideo(); }});
+       [this] { workspace_.MnuCloseAll_Click(); }, anyVideo});
   AddSeparator(kVideo);
   plain("vF", "Up Arrow - Rewind", "", [this] { transport_.cmdREwind(); });
   plain("VL", "Down Arrow - Play", "", [this] { transport_.cmdPlay(); });
@@ -115,8 +129,9 @@ void MenuBar::AddVideo() {
 }
 
 void MenuBar::AddDraw() {
-  const auto hasVideo = [this] { return HasVideo(); };
-  const auto hasShapes = [this] { return HasVideo() && tools_.HasShapes(workspace_.CurrentWindow); };
+  const auto hasVideo = NeedsVideo();
+  const auto hasShapes = Needs([this] { return HasVideo() && tools_.HasShapes(workspace_.CurrentWindow); },
+                               "Nothing is drawn in the current window");
   const auto inHand = [this](int kind, bool straight) {
     return tools_.Drawing() && tools_.DrawKind() == kind && tools_.Engine().StraightMode == straight;
   };
@@ -135,14 +150,14 @@ void MenuBar::AddDraw() {
        [this] { tools_.DDSA_Click(); }, hasVideo, [inHand] { return inHand(kArrow, true); }});
   AddSeparator(kDraw);
   Add({"UndoDrawing", kDraw, "Ctrl+Z - Undo", "UndoBtn", "undo", "Undo (Ctrl+Z)", kErasing, [this] { edits_.Undo(); },
-       [this] { return HasVideo() && edits_.CanUndo(); }, {}, "No change of the drawings in the current window to undo"});
+       Needs([this] { return HasVideo() && edits_.CanUndo(); }, "No change of the drawings in the current window to undo")});
   Add({"RedoDrawing", kDraw, "Ctrl+Shift+Z - Redo", "RedoBtn", "redo", "Redo (Ctrl+Shift+Z)", kErasing,
-       [this] { edits_.Redo(); }, [this] { return HasVideo() && edits_.CanRedo(); }, {},
-       "No change of the drawings in the current window was undone"});
+       [this] { edits_.Redo(); },
+       Needs([this] { return HasVideo() && edits_.CanRedo(); }, "No change of the drawings in the current window was undone")});
   Add({"Lastcadoff", "", "", "", "delete-last", "Delete Last Object Drawn", kErasing,
-       [this] { tools_.Lastcadoff_Click(); }, hasShapes, {}, "Nothing is drawn in the current window"});
+       [this] { tools_.Lastcadoff_Click(); }, hasShapes});
   Add({"Cadoffbutton", "", "", "", "trash", "Delete All Drawings in Window", kErasing,
-       [this] { tools_.Cadoffbutton_Click(); }, hasShapes, {}, "Nothing is drawn in the current window"});
+       [this] { tools_.Cadoffbutton_Click(); }, hasShapes});
 }
 
 void MenuBar::AddWindows() {
@@ -152,85 +167,87 @@ void MenuBar::AddWindows() {
       if (button.mode == mode.Mode) tip = button.tip;
     Add({std::string(mode.Item), kWindows, std::string(mode.Caption), "Scn" + std::to_string(mode.Mode),
          std::string(mode.Icon), tip, kScreens, [this, number = mode.Mode] { workspace_.SetScreen(number); },
-         [] { return true; }, [this, code = mode.Code] { return workspace_.ScreenLayout == code; }});
+         {}, [this, code = mode.Code] { return workspace_.ScreenLayout == code; }});
   }
 }
 
 void MenuBar::AddTools() {
-  const auto hasVideo = [this] { return HasVideo(); };
-  const auto rows = [this] { return workspace_.CanFillRows(); };
-  const char* const needsRows = "Needs a layout of four, six or eight windows and a video in the current one";
+  const auto hasVideo = NeedsVideo();
+  const auto rows = Needs([this] { return workspace_.CanFillRows(); },
+                          "Needs a layout of four, six or eight windows and a video in the current one");
+  const auto stageFree = [this] { return compare_.StageTaken(); };
   Add({"TF", kTools, "Fill All w/Current Video", "", "fill-all", "", kNoButton, [this] { workspace_.TF_Click(); },
-       [this] { return workspace_.CanFill(); }, {}, "Needs a layout of several windows and a video in the current one"});
-  Add({"TFT", kTools, "Fill Top w/Current Video", "", "", "", kNoButton, [this] { workspace_.TFT_Click(); }, rows, {},
-       needsRows});
-  Add({"TFB", kTools, "Fill Bottom w/Current Video", "", "", "", kNoButton, [this] { workspace_.TFB_Click(); }, rows, {},
-       needsRows});
+       Needs([this] { return workspace_.CanFill(); }, "Needs a layout of several windows and a video in the current one")});
+  Add({"TFT", kTools, "Fill Top w/Current Video", "", "", "", kNoButton, [this] { workspace_.TFT_Click(); }, rows});
+  Add({"TFB", kTools, "Fill Bottom w/Current Video", "", "", "", kNoButton, [this] { workspace_.TFB_Click(); }, rows});
   AddSeparator(kTools);
   Add({"PrintCall", kTools, "Print Video(s)", "CmdAfunctions7", "print", "Print Video(s)", kSharing,
        [this] { view_.ShowNotesform(); }, hasVideo});
   Add({"TLAV", kTools, "Loop All Videos", "", "loop", "", kNoButton, [this] { transport_.TLAV_Click(); },
-       [this] { return workspace_.AnyVideo(); }, [this] { return transport_.AllLooping(); }});
+       Needs([this] { return workspace_.AnyVideo(); }, "Open a video first"), [this] { return transport_.AllLooping(); }});
   Add({"TVT", kTools, "Video Timer", "CmdAfunctions3", "timer", "Show Video Timer", kMeasuring,
-       [this] { timer_.TVT_Click(); }, [] { return true; }, [this] { return timer_.Shown(); }});
+       [this] { timer_.TVT_Click(); }, {}, [this] { return timer_.Shown(); }});
   Add({"TZP", kTools, "Zoom/Pan", "", "zoom", "", kNoButton, [this] { compare_.TZP_Click(); },
-       [] { return true; }, [this] { return compare_.ZoomShown(); }});
+       {}, [this] { return compare_.ZoomShown(); }});
   Add({"TSFrames", kTools, "Strobe Frames", "StrobeBtn", "strobe", "Strobe Video", kPicture,
-       [this] { compare_.Strobe().StrobeBtn_Click(); }, hasVideo, [this] { return compare_.Strobe().StrobeRunning(); }});
+       [this] { compare_.Strobe().StrobeBtn_Click(); },
+       [this] { return compare_.Strobe().StrobeRunning() ? "" : compare_.Strobe().Obstacle(); },
+       [this] { return compare_.Strobe().StrobeRunning(); }});
   Add({"TMAX", kTools, "Maximize Current Video", "CmdAfunctions6", "maximize", "Maximize Current Video", kScreens,
-       [this] { workspace_.TMAX_Click(); }, [this] { return workspace_.Maximized() || (HasVideo() && !workspace_.Alone()); },
-       [this] { return workspace_.Maximized(); }});
+       [this] { workspace_.TMAX_Click(); }, NeedsVideo(stageFree), [this] { return workspace_.Maximized(); }});
   Add({"TTCarve", kTools, "Transparency Carve", "", "carve", "", kNoButton,
-       [this] { compare_.Piece().TTCarve(); }, [this] { return compare_.Piece().CanShow() && !compare_.Transparency().TransparencyOn(); },
-       [this] { return compare_.Piece().Shown(); }});
+       [this] { compare_.Carving().TTCarve(); }, [this] { return compare_.WhyNoCarve(); },
+       [this] { return compare_.Carving().Shown(); }});
   AddSeparator(kTools);
   Add({"TMark", kTools, "Mark Video Position", "", "mark", "", kNoButton, [this] { transport_.TMark_Click(); }, hasVideo});
   Add({"TMarkoff", kTools, "Video Marks Off", "", "", "", kNoButton, [this] { transport_.TMarkoff_Click(); },
-       [this] { return !workspace_.Current().marks.empty(); }, {}, "The current video has no marks"});
+       Needs([this] { return !workspace_.Current().marks.empty(); }, "The current video has no marks")});
   Add({"TN", kTools, "Show Video &Notes", "Notesbutton", "notes", "Show Video Notes", kMeasuring,
-       [this] { notes_.TN_Click(); }, hasVideo, [this] { return notes_.Shown(); }});
+       [this] { notes_.TN_Click(); }, NeedsVideo(stageFree), [this] { return notes_.Shown(); }});
 }
 
 void MenuBar::AddAdvanced() {
-  const auto hasVideo = [this] { return HasVideo(); };
+  const auto hasVideo = NeedsVideo();
+  // The handles lie on a picture in its window, of which the mix shows nothing.
+  const auto noMix = [this] { return compare_.Transparency().TransparencyOn() ? compare_.StageTaken() : ""; };
   AddComing("CLive", kAdvanced, "Live Draw && Hot Zones");
   AddComing("TRL", kAdvanced, "Record Lesson", "CmdAfunctions5", "microphone", "Record Lesson", kSharing);
   Add({"STM", kAdvanced, "&Transparency Mode", "", "overlay", "Transparency Mode", kPicture,
        [this] { compare_.Transparency().STM_Click(); },
-       [this] { return compare_.Transparency().CanShow() && !compare_.Strip().Shown(); },
-       [this] { return compare_.Transparency().TransparencyOn(); }, "Open videos in windows 1 and 2 first"});
+       [this] { return compare_.WhyNoTransparency(); }, [this] { return compare_.Transparency().TransparencyOn(); }});
   Add({"smbar", kAdvanced, "&Multi-Pic Mode", "", "multi-picture", "Multi-Picture Mode", kPicture,
-       [this] { compare_.Strip().smbar_Click(); },
-       [this] { return compare_.Strip().CanShow() && !compare_.Transparency().TransparencyOn(); },
+       [this] { compare_.Strip().smbar_Click(); }, [this] { return compare_.WhyNoStrip(); },
        [this] { return compare_.Strip().Shown(); }});
   AddComing("TTES", kAdvanced, "Email- Take SnapShot");
   AddComing("TES", kAdvanced, "Email- Send SnapShots");
   Add({"MenuEdit", kAdvanced, "Edit Drawings", "CmdAfunctions2", "edit", "Open Edit Bar", kErasing,
-       [this] { edits_.MenuEdit_Click(); }, hasVideo, [this] { return edits_.Editing(); }});
+       [this] { edits_.MenuEdit_Click(); }, NeedsVideo(noMix), [this] { return edits_.Editing(); }});
   Add({"AddMacro", kAdvanced, "Insert Drawing Macro", "", "", "", kNoButton, [this] { edits_.AddMacro_Click(); },
-       [] { return true; }, [this] { return edits_.MacroFormShown(); }});
+       noMix, [this] { return edits_.MacroFormShown(); }});
   Add({"DTMacro", kAdvanced, "Save Drawing Macro", "", "macro-save", "", kNoButton, [this] { edits_.DTMacro_Click(); },
        hasVideo});
   Add({"DTClone", kAdvanced, "Clone Drawings", "CmdAfunctions1", "clone", "Clone Drawings", kErasing,
-       [this] { edits_.DTClone_Click(); }, [this] { return edits_.CanClone(); }, {},
-       "Needs drawings in the current window and a video in another one"});
+       [this] { edits_.DTClone_Click(); },
+       Needs([this] { return edits_.CanClone(); }, "Needs drawings in the current window and a video in another one")});
   Add({"TASF", kAdvanced, "Advanced Strobe", "", "advanced-strobe", "", kNoButton, [this] { compare_.TASF_Click(); },
-       [this] { return HasVideo() || compare_.StrobeShown(); }, [this] { return compare_.StrobeShown(); }});
+       Needs([this] { return HasVideo() || compare_.StrobeShown(); }, "Open a video first"),
+       [this] { return compare_.StrobeShown(); }});
   Add({"cmdDualPlay", "", "", "", "lock", "Lock Videos Together", kPicture,
-       [this] { compare_.Locks().cmdDualPlay(); }, [this] { return compare_.Locks().CanLock(); },
-       [this] { return compare_.Locks().IsLocked(workspace_.CurrentWindow); },
-       "Needs videos in windows 1 and 2, or 3 and 4, side by side"});
+       [this] { compare_.Locks().cmdDualPlay(); },
+       Needs([this] { return compare_.Locks().CanLock(); }, "Needs videos in windows 1 and 2, or 3 and 4, side by side"),
+       [this] { return compare_.Locks().IsLocked(workspace_.CurrentWindow); }});
 }
 
 void MenuBar::AddSetup() {
-  const auto hasVideo = [this] { return HasVideo(); };
+  const auto hasVideo = NeedsVideo();
+  const auto unlocked = Needs([this] { return !compare_.Locks().IsLocked(workspace_.CurrentWindow); }, "Unlock the videos first");
   AddComing("mnuDownloadVideos", kSetup, "Download Model Videos");
   Add({"TCal", kSetup, "Calculate Distance for Lines", "CmdAfunctions4", "ruler", "Calibrate Ruler", kMeasuring,
        [this] { ruler_.TCal_Click(); }, hasVideo, [this] { return ruler_.Shown(); }});
   Add({"TAGrid", kSetup, "Adjust Grid Size", "", "", "", kNoButton, [this] { edits_.TAGrid_Click(); },
-       [] { return true; }, [this] { return edits_.GridPanelShown(); }});
+       {}, [this] { return edits_.GridPanelShown(); }});
   Add({"VidTest", kSetup, "Test Video Display rate", "", "", "", kNoButton, [this] { rateTest_.VidTest_Click(); },
-       hasVideo, [this] { return rateTest_.Running(); }});
+       NeedsVideo(unlocked), [this] { return rateTest_.Running(); }});
   Add({"MenuReverseFields", kSetup, "Reverse Field Order", "", "", "", kNoButton,
        [this] { workspace_.ToggleReverseFields(); }, hasVideo,
        [this] { return HasVideo() && workspace_.Current().MP->ReverseFields(); }});

@@ -5,6 +5,12 @@
 #include <algorithm>
 
 namespace kinalyx {
+namespace {
+
+constexpr const char* kOpenFirst = "Open a video first";
+constexpr const char* kLeaveCarve = "Leave the transparency carve first (Esc)";
+
+}  // namespace
 
 CompareModes::CompareModes(IHost& host, Settings& settings, PlayScheduler& scheduler, Workspace& workspace,
                            ICompareView& view, Keys keys)
@@ -16,8 +22,15 @@ CompareModes::CompareModes(IHost& host, Settings& settings, PlayScheduler& sched
       carve_(host, workspace, view),
       strobe_(settings, workspace, locks_),
       zoom_(host, workspace, std::move(keys.down), std::move(keys.press)) {
+  const auto entering = [this] {
+    if (Entering) Entering();
+  };
+  overlay_.Entering = entering;
+  strip_.Entering = entering;
+  carve_.Marking = entering;
   locks_.Changed = [this] {
     overlay_.StateChanged();
+    strobe_.LocksChanged();
     ShowDual();
     if (LocksChanged) LocksChanged();
   };
@@ -25,6 +38,41 @@ CompareModes::CompareModes(IHost& host, Settings& settings, PlayScheduler& sched
     if (TransparencySwitched) TransparencySwitched(overlay_.TransparencyOn());
     ShowDual();
   };
+}
+
+// ---------------------------------------------------------------- one mode at a time
+
+std::string CompareModes::StageTaken() const {
+  if (overlay_.TransparencyOn()) return "Leave transparency mode first (Esc)";
+  if (strip_.Shown()) return "Leave multi-picture mode first (Esc)";
+  return {};
+}
+
+std::string CompareModes::WhyNoTransparency() const {
+  if (overlay_.TransparencyOn()) return {};
+  if (carve_.Shown()) return kLeaveCarve;
+  if (strip_.Shown()) return StageTaken();
+  return overlay_.CanShow() ? "" : "Open videos in windows 1 and 2 first";
+}
+
+std::string CompareModes::WhyNoStrip() const {
+  if (strip_.Shown()) return {};
+  if (carve_.Shown()) return kLeaveCarve;
+  if (overlay_.TransparencyOn()) return StageTaken();
+  if (!strip_.CanShow()) return kOpenFirst;
+  // Its pictures are fetched by moving the video, which the others of a lock do not follow.
+  return locks_.IsLocked(workspace_.CurrentWindow) ? "Unlock the videos first" : "";
+}
+
+std::string CompareModes::WhyNoCarve() const {
+  if (carve_.Shown()) return {};
+  if (const std::string taken = StageTaken(); !taken.empty()) return taken;
+  return carve_.CanShow() ? "" : kOpenFirst;
+}
+
+void CompareModes::StopWaiting() {
+  strip_.StopWaiting();
+  carve_.StopMarking();
 }
 
 // ---------------------------------------------------------------- windows
@@ -108,7 +156,7 @@ void CompareModes::Notify(int slot) { overlay_.Notify(slot); }
 
 void CompareModes::PlayerResized(int slot) {
   overlay_.PlayerResized(slot);
-  strip_.PlayerMoved(slot);
+  strip_.PictureChanged(slot);
   carve_.PlayerResized(slot);
 }
 
@@ -121,7 +169,9 @@ void CompareModes::VideoClosing(int slot) {
 
 void CompareModes::StateChanged() {
   locks_.StateChanged();
+  strip_.LayoutChanged();
   overlay_.StateChanged();
+  carve_.LayoutChanged();
   strobe_.FocusChanged();
   ShowDual();
 }

@@ -41,6 +41,9 @@ class ICompareView : public IOverlayView, public IMultiPictureView, public ICarv
 
 /// The modes in which videos are compared, as one part of the workspace: lock, transparency, film strip,
 /// carve, strobe, zoom. Passes on to each what the players and the workspace tell.
+///
+/// Transparency, strip and carve show the videos in other ways than side by side, and only one of them is
+/// up at a time. Lock, strobe and zoom work within each, but for what would pull locked videos apart.
 class CompareModes {
  public:
   /// The keys are those of the workspace; the zoom buttons press them.
@@ -55,7 +58,7 @@ class CompareModes {
   const LockedVideos& Locks() const { return locks_; }
   Overlay& Transparency() { return overlay_; }
   MultiPicture& Strip() { return strip_; }
-  Carve& Piece() { return carve_; }
+  Carve& Carving() { return carve_; }
   StrobeControl& Strobe() { return strobe_; }
   ZoomPan& Zoom() { return zoom_; }
 
@@ -65,10 +68,19 @@ class CompareModes {
   bool ZoomShown() const { return zoomShown_; }
   bool StrobeShown() const { return strobeShown_; }
 
+  /// Why a mode cannot be entered now, as the user is told; empty when it can be entered or left.
+  std::string WhyNoTransparency() const;
+  std::string WhyNoStrip() const;
+  std::string WhyNoCarve() const;
+  /// The mode that has the stage, in words for the user who must leave it first; empty when none has.
+  std::string StageTaken() const;
+
   /// Leaves the mode that is up, the innermost first; false when there is none.
   bool Escape();
   /// A square was drawn, with opposite corners in pixels of the slot's picture; true takes it.
   bool TakeSquare(int slot, POINTAPI corner, POINTAPI opposite) { return strip_.TakeSquare(slot, corner, opposite); }
+  /// The mouse is wanted for drawing: no mode waits for an area to be marked with it any longer.
+  void StopWaiting();
   /// A drawing tool moved a player: mix and piece follow.
   void MPManualSignal();
   /// Leaves everything, for the end of the section.
@@ -78,13 +90,16 @@ class CompareModes {
   void Signal(int slot);
   void Notify(int slot);
   void PlayerResized(int slot);
+  /// Other shapes lie on a slot's pictures, or the pictures are mirrored.
+  void DrawingsChanged(int slot) { strip_.PictureChanged(slot); }
   void VideoClosing(int slot);
   void StateChanged();
   void FocusChanged();
-  void LayoutChanged() { strip_.LayoutChanged(); }
   /// A position is shown anew, or a lock, its play or a mode has changed: the dual controls follow.
   void ShowDual();
 
+  /// A mode is about to take the stage or, to mark an area, the mouse.
+  std::function<void()> Entering;
   /// A lock was made or ended or its play began or ended: bars and buttons of the transport are set anew.
   std::function<void()> LocksChanged;
   /// Transparency mode was entered or left: while it is up, the play bar is beneath the mix.

@@ -284,6 +284,11 @@ bool DrawingEdits::Form_KeyDown(int KeyCode, int Shift) {
   }
 }
 
+void DrawingEdits::PutAway() {
+  if (bar_.Shown()) EndEdit();
+  if (macroFormShown_) AddMacro_Click();
+}
+
 void DrawingEdits::EndEdit() {
   cmdEBBtn_MouseUp();
   bar_.cmdEBBtn_Click(kEndHandle);

@@ -106,6 +106,8 @@ class DrawingEdits {
   bool Form_KeyDown(int KeyCode, int Shift);
   /// Leaves the edit, or closes a panel, the innermost first; false when there is nothing to leave.
   bool Escape();
+  /// Ends the edit and closes the list of macros, whose drawings are edited as they are laid.
+  void PutAway();
 
   // --- from the workspace
   void FocusChanged();
@@ -115,6 +117,7 @@ class DrawingEdits {
   void CloseAll();
 
  private:
+  /// A drag that is under way ends where it is.
   void EndEdit();
   ShapeList& List() { return tools_.List(workspace_.CurrentWindow); }
   std::optional<SelectionMarks> Marks();

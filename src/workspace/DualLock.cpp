@@ -283,6 +283,11 @@ void LockedVideos::DualControlScroll(int slot, int Position) {
   for (const int each : slots) Show(each, Lowest(each) + distance);
 }
 
+void LockedVideos::Seek(int slot, int position) {
+  if (position == workspace_.MP(slot).Position()) return;
+  IsLocked(slot) ? DualControlScroll(slot, position) : Show(slot, position);
+}
+
 void LockedVideos::AdvancePartner(int slot) {
   const int lock = LockOf(slot);
   if (lock != kPairOneTwo && lock != kPairThreeFour) return;

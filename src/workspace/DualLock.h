@@ -65,6 +65,9 @@ class LockedVideos {
   void DualControlRewind();
   /// Brings a slot's video to a position inside its bounds, and those locked with it along.
   void DualControlScroll(int slot, int Position);
+  /// The same for any slot with a video: without a lock it moves alone. A position that is shown already is
+  /// left alone.
+  void Seek(int slot, int position);
   /// Moves the partner of a slot locked in pairs one position on, unless it is on its last.
   void AdvancePartner(int slot);
 

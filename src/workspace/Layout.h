@@ -11,6 +11,10 @@ namespace kinalyx {
 
 constexpr int kSlots = 8;  ///< video slots, numbered from 1
 
+/// Two states of the stage that are no layouts: the current video alone, or beneath its film strip.
+inline constexpr std::string_view kMaximized = "MAX";
+inline constexpr std::string_view kMultiFrame = "MF";
+
 /// A place on the workspace in twips, relative to what holds it.
 struct TwipRect {
   int Left = 0;

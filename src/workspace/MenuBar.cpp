@@ -43,7 +43,7 @@ const Command* MenuBar::Find(const std::string& name) const {
 
 bool MenuBar::Run(const std::string& name) {
   const Command* command = Find(name);
-  if (!command || !command->run || !command->enabled()) return false;
+  if (!command || !command->Reason().empty()) return false;
   command->run();
   view_.CommandsChanged();
   return true;
@@ -63,17 +63,10 @@ bool MenuBar::PreparetoExit() {
   return workspace_.MnuCloseAll_Click();
 }
 
-bool MenuBar::ResetAnalysisForm() {
-  if (!PreparetoExit()) return false;
-  workspace_.SetStartScreen();
-  return true;
-}
-
 // ---------------------------------------------------------------- keys
 
 void MenuBar::SelectByKeypad(int slot) {
-  if (slot > 1 && Val(workspace_.ScreenLayout) < slot) return;
-  view_.SetLoopButton(false);
+  transport_.StepReleased();
   workspace_.SelectWindow(slot);
 }
 

@@ -50,15 +50,15 @@ struct Command {
   std::string tip;      ///< of the button; what it is called there
   int group = 0;        ///< buttons of one group stand together on the strip, in the order of the groups
   std::function<void()> run;  ///< empty: the command comes later
-  std::function<bool()> enabled = [] { return true; };
+  /// Why it cannot run now, in words for the user; empty text: it can. No function: it always can.
+  std::function<std::string()> obstacle = {};
   std::function<bool()> checked = {};  ///< empty: the command has no state
-  const char* why = "Open a video first";  ///< the reason while it is disabled
   bool spare = false;         ///< its button is among the first to leave a strip that is too narrow
 
   /// The feature is not built yet; such a command is disabled and says so.
   bool Coming() const { return !run; }
   /// Why it is disabled, empty while it is not.
-  std::string Reason() const { return Coming() ? "coming" : enabled() ? "" : why; }
+  std::string Reason() const { return Coming() ? "coming" : obstacle ? obstacle() : ""; }
 };
 
 /// The command table of the workspace: what the menus and the tool strip hold, what is enabled, and
@@ -78,8 +78,6 @@ class MenuBar {
   /// Puts the tools down, writes and closes all videos and their small windows. False when the user
   /// kept a video open.
   bool PreparetoExit();
-  /// Clears the workspace for a new start: the layout of the settings, window 1. False as above.
-  bool ResetAnalysisForm();
 
   /// Keys of the workspace that are no text; in Shift 1 is Shift and 2 Ctrl. True when the key was one of
   /// its own.
@@ -102,6 +100,8 @@ class MenuBar {
                  const char* icon = "", const char* tip = "", int group = 0);
   void AddSeparator(const char* menu);
   bool HasVideo() const { return workspace_.HasVideo(workspace_.CurrentWindow); }
+  /// The obstacle of all that works on the current video; `further` is asked when there is one.
+  std::function<std::string()> NeedsVideo(std::function<std::string()> further = {}) const;
   void SelectByKeypad(int slot);
   void Escape();
 

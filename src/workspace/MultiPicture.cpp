@@ -11,7 +11,6 @@
 namespace kinalyx {
 namespace {
 
-constexpr const char* kState = "MF";  // value of ScreenLayout while the mode is up
 constexpr double kPlainShape = 1.33333;
 constexpr double kWideShape = 1.7778;
 constexpr double kPictureShape = kPlainShape / 3;  // a third of a 4:3 video: room for one person upright
@@ -41,6 +40,7 @@ void MultiPicture::smbar_Click() {
 }
 
 void MultiPicture::Enter() {
+  if (Entering) Entering();
   if (workspace_.Maximized()) workspace_.TMAX_Click();
   const ScreenMode* layout = FindScreenMode(workspace_.ScreenLayout);
   layoutBefore_ = layout ? layout->Mode : 1;
@@ -50,7 +50,7 @@ void MultiPicture::Enter() {
   waiting_ = false;
   from_ = last_ = -1;
   MultiFrameMode_ = true;  // what the new layout draws is no picture of the strip
-  workspace_.ScreenLayout = kState;
+  workspace_.ScreenLayout = kMultiFrame;
   view_.ShowMultiPicture(true);
   workspace_.FormReset();
   ChooseMiddle();
@@ -69,7 +69,7 @@ void MultiPicture::Close(bool restore) {
 }
 
 void MultiPicture::LayoutChanged() {
-  if (shown_ && workspace_.ScreenLayout != kState) Close(false);
+  if (shown_ && !workspace_.MultiFrame()) Close(false);
 }
 
 void MultiPicture::VideoClosing(int slot) {
@@ -123,11 +123,12 @@ void MultiPicture::MPicBtn_Click(int Index) {
   if (!shown_) return;
   if (Index == 1) return Close(true);
   if (Index != 0) return;
-  waiting_ = true;
   host_.Message(MessageKind::Information, "",
                 "\"New Carve\" Active. Click on the video to draw a square around the area that you want to create a "
                 "MultiPicture.");
-  if (shown_ && SquareWanted) SquareWanted();
+  if (!shown_) return;
+  if (SquareWanted) SquareWanted();
+  waiting_ = true;  // not before the tool is in hand: taking up a tool ends any wait
 }
 
 bool MultiPicture::TakeSquare(int slot, POINTAPI corner, POINTAPI opposite) {
@@ -203,7 +204,7 @@ void MultiPicture::Signal(int slot) {
   if (!shown_ || MultiFrameMode_ || slot != slot_) return;
   const int position = workspace_.MP(slot_).Position();
   if (source_ != POINTAPI{SourceLeft(), SourceTop()}) {
-    PlayerMoved(slot);
+    PictureChanged(slot);
   } else if (position == last_) {
     TakeFrame();  // something was drawn on it
   } else if (std::abs(position - last_) >= skip_) {
@@ -211,7 +212,7 @@ void MultiPicture::Signal(int slot) {
   }
 }
 
-void MultiPicture::PlayerMoved(int slot) {
+void MultiPicture::PictureChanged(int slot) {
   LayoutChanged();
   if (!shown_ || slot != slot_ || rebuild_.Running()) return;
   rebuild_ = HostTimer(host_, 0, false, [this] { Rebuild(); });

@@ -60,6 +60,8 @@ class MultiPicture {
   /// 0 "Carve new MultiPicture": waits for a square on the video. 1 "Close MultiPicture".
   void MPicBtn_Click(int Index);
   bool WaitingForSquare() const { return waiting_; }
+  /// The tool for the square was put down, or the mouse is wanted for something else.
+  void StopWaiting() { waiting_ = false; }
   /// A square is waited for now: whoever owns the drawing tools puts that tool into the user's hand.
   std::function<void()> SquareWanted;
   /// Offers a finished square, two opposite corners in pixels of the slot's picture. True when it was
@@ -80,11 +82,14 @@ class MultiPicture {
   // --- from the players and the workspace
   /// A picture of a slot was shown: the strip runs with it.
   void Signal(int slot);
-  /// A video has another size or, in Signal, another place in its cell: its strip is made anew.
-  void PlayerMoved(int slot);
+  /// A video has another size or place, is mirrored, or has other drawings on it: its strip is made anew.
+  void PictureChanged(int slot);
   void VideoClosing(int slot);
   /// The layout may have changed: the mode ends with its own.
   void LayoutChanged();
+
+  /// The mode is about to be entered.
+  std::function<void()> Entering;
 
  private:
   /// The part that the pictures show, seen from the middle of the cell and in heights of the cell, so

@@ -34,6 +34,7 @@ void Overlay::STM_Click() {
 }
 
 void Overlay::Enter() {
+  if (Entering) Entering();
   if (workspace_.Maximized()) workspace_.TMAX_Click();
   const ScreenMode* layout = FindScreenMode(workspace_.ScreenLayout);
   layoutBefore_ = layout ? layout->Mode : kDouble;
@@ -52,15 +53,17 @@ void Overlay::Enter() {
 }
 
 void Overlay::Closetrans_Click() {
-  if (!on_) return;
+  if (on_) Leave(true);
+}
+
+void Overlay::Leave(bool restore) {
   on_ = false;
   walk_.Stop();
   refresh_.Stop();
   dissolveTimer_.Stop();
   before_ = Surface();
   view_.ShowTransparency(false);
-  // A layout that the user chose meanwhile stays.
-  if (workspace_.ScreenLayout == FindScreenMode(kDouble)->Code) workspace_.SetScreen(layoutBefore_);
+  if (restore) workspace_.SetScreen(layoutBefore_);
   if (Switched) Switched();
 }
 
@@ -96,13 +99,30 @@ void Overlay::ComposeSplit() {
   TransPanel_.Clear(0);
   for (const int window : {1, 2}) {
     if (!workspace_.HasVideo(window)) continue;
-    const Slot& slot = workspace_.At(window);
     const Surface& picture = workspace_.MP(window).Picture();
-    const int half = SurfacePixels(slot, slot.cell.Width) / 2;
-    const int fromX = SurfacePixels(slot, slot.cell.Width / 4.0 - slot.panel.Left - PlayerPlace(slot).Left);
-    const int toX = TransPanel_.Width() / 2 - (window == 1 ? half : 0);
-    CopyPart(picture, fromX, 0, half, picture.Height(), TransPanel_, toX, Placed(window).top);
+    const SplitHalf half = HalfOf(window);
+    CopyPart(picture, half.fromX, 0, half.width, picture.Height(), TransPanel_, half.toX, Placed(window).top);
   }
+}
+
+Overlay::SplitHalf Overlay::HalfOf(int window) const {
+  const Slot& slot = workspace_.At(window);
+  const int half = SurfacePixels(slot, slot.cell.Width) / 2;
+  const int fromX = SurfacePixels(slot, slot.cell.Width / 4.0 - slot.panel.Left - PlayerPlace(slot).Left);
+  return {fromX, TransPanel_.Width() / 2 - (window == 1 ? half : 0), half};
+}
+
+int Overlay::WindowAt(POINTAPI point) const {
+  const int side = point.x < TransPanel_.Width() / 2 ? 1 : 2;
+  const int window = option_ == ShowOption::SplitScreen ? side : std::min(workspace_.CurrentWindow, 2);
+  return workspace_.HasVideo(window) ? window : 0;
+}
+
+POINTAPI Overlay::InPicture(int window, POINTAPI point) const {
+  const POINTAPI corner = PictureCorner(window);
+  if (option_ != ShowOption::SplitScreen) return {point.x - corner.x, point.y - corner.y};
+  const SplitHalf half = HalfOf(window);
+  return {point.x - half.toX + half.fromX, point.y - corner.y};
 }
 
 void Overlay::CMDDISAct() {
@@ -230,14 +250,7 @@ void Overlay::Control(int window, int Index) {
 }
 
 void Overlay::Seek(int window, int value) {
-  AVIControl* player = Player(window);
-  if (guard_ || !player || value == player->Position()) return;
-  if (locks_.IsLocked(window)) {
-    locks_.DualControlScroll(window, value);
-  } else {
-    player->StopPlay();
-    player->Play(std::clamp(value, 0, player->VideoLength() - 1));
-  }
+  if (!guard_ && Player(window)) locks_.Seek(window, value);
 }
 
 void Overlay::ShowControls() {
@@ -276,6 +289,7 @@ void Overlay::PlayerResized(int slot) {
 }
 
 void Overlay::StateChanged() {
+  if (on_ && workspace_.ScreenLayout != FindScreenMode(kDouble)->Code) return Leave(false);
   ShowControls();
   Refresh();
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <functional>
 
 #include "platform/host/Host.h"
@@ -41,7 +40,7 @@ class Overlay {
   Overlay(IHost& host, Settings& settings, Workspace& workspace, LockedVideos& locks, IOverlayView& view);
 
   /// Enters or leaves the mode. It shows windows 1 and 2 side by side underneath, and brings the layout
-  /// from before back when it is left.
+  /// from before back when it is left. A layout that is chosen meanwhile leaves it too.
   void STM_Click();
   void Closetrans_Click();
   bool TransparencyOn() const { return on_; }
@@ -57,12 +56,15 @@ class Overlay {
 
   /// Where the picture of window 1 or 2 begins in the mix, in pixels; the window must hold a video.
   POINTAPI PictureCorner(int window) const;
+  /// The window whose video the mouse means at a point of the panel: on the split screen that of the side,
+  /// of two videos over each other that of the current window; 0 when it is empty.
+  int WindowAt(POINTAPI point) const;
+  /// A point of the panel in pixels of a window's picture; the window must hold a video.
+  POINTAPI InPicture(int window, POINTAPI point) const;
 
   // --- the mix
   /// 0 all of video 1 to 255 all of video 2.
   int TransScroll() const { return mix_; }
-  /// The target of the slide.
-  int TransTarget() const { return TransTarget_; }
   /// The user moves the slider: a slide ends, and the option buttons follow.
   void TransScroll_Scroll(int value);
   /// The slider has another value; what it set itself is no news.
@@ -84,9 +86,11 @@ class Overlay {
   void Signal(int slot);
   void Notify(int slot);
   void PlayerResized(int slot);
-  /// A video came or went, or counts in another way; a lock was made or ended.
+  /// A video came or went, or counts in another way; a lock was made or ended; another layout was chosen.
   void StateChanged();
 
+  /// The mode is about to be entered.
+  std::function<void()> Entering;
   /// The mode was entered or left.
   std::function<void()> Switched;
 
@@ -103,6 +107,15 @@ class Overlay {
   void Control(int window, int Index);
   void Seek(int window, int value);
   void Enter();
+  void Leave(bool restore);
+  /// Pixels of a window's picture that lie left of what the split screen shows of it, and where in the
+  /// panel that begins and ends.
+  struct SplitHalf {
+    int fromX = 0;
+    int toX = 0;
+    int width = 0;
+  };
+  SplitHalf HalfOf(int window) const;
 
   IHost& host_;
   Settings& settings_;
@@ -117,7 +130,7 @@ class Overlay {
   int dissolve_ = 0;      ///< level of the pattern that `before_` still has
   ShowOption option_ = ShowOption::Transparency;
   int mix_ = 128;
-  int TransTarget_ = 128;
+  int TransTarget_ = 128; ///< of the slide
   bool guard_ = false;    ///< the controls are being set; what they say is no command
   HostTimer refresh_;
   HostTimer walk_;

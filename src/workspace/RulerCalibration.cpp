@@ -13,8 +13,17 @@ void RulerCalibration::TCal_Click() {
   }
   shown_ = true;
   Label4_.clear();
+  for (int window = 1; window <= ShapeLists::kWindows; ++window)
+    shapesBefore_[static_cast<std::size_t>(window - 1)] = tools_.List(window).NumShapes;
   view_.ShowCalibration(true);
   if (!tools_.Drawing() || tools_.DrawKind() != kLine) tools_.CmdMakeShape_Click(kLine);
+}
+
+bool RulerCalibration::MeasuringLineSelected() {
+  const ShapeList& list = tools_.List(tools_.DrawWindow());
+  const Shape* selected = SelectedShape(list);
+  return selected && selected->Kind == kLine && selected->Locked &&
+         list.CurShape >= shapesBefore_[static_cast<std::size_t>(tools_.DrawWindow() - 1)];
 }
 
 void RulerCalibration::ShowLength(const std::string& length) {
@@ -32,11 +41,10 @@ void RulerCalibration::CalibBtn_Click(int Index, double typed, LengthUnit input,
     settings_.Set(settings_.CalibOutput, output);
   }
   shown_ = false;
-  // A line that is still being drawn goes with the tool; a finished one is the selected shape.
-  const bool measured = !Label4_.empty() && !tools_.List(tools_.DrawWindow()).Adding;
   Label4_.clear();
+  // A line that is still being drawn goes with the tool; a finished one is the selected shape.
   if (tools_.Drawing()) tools_.DrawOffBtn_Click();
-  if (measured) {
+  if (MeasuringLineSelected()) {
     tools_.DeleteCurShape();
     tools_.RedrawCanvas(tools_.DrawWindow());
   }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <string>
 
 #include "drawing/DrawingTools.h"
@@ -22,17 +23,21 @@ class RulerCalibration {
   void ShowLength(const std::string& length);
 
   /// 0 stores the calibration, 1 leaves it as it was. Either way the measuring line goes, the tool ends
-  /// and the panel closes. A length of 0 stores everything but the scale.
+  /// and the panel closes; a drawing that was there before may be measured too, and stays. A length of 0
+  /// stores everything but the scale.
   /// @param typed   the known length in the unit `input`
   /// @param output  the unit of the display
   void CalibBtn_Click(int Index, double typed = 0, LengthUnit input = kFeet, LengthUnit output = kFeet);
 
  private:
+  bool MeasuringLineSelected();
+
   Settings& settings_;
   DrawingTools& tools_;
   IWorkspaceView& view_;
   bool shown_ = false;
   std::string Label4_;
+  std::array<int, ShapeLists::kWindows> shapesBefore_{};  ///< of each window, when the panel opened
 };
 
 }  // namespace kinalyx

@@ -41,6 +41,7 @@ void StrobeControl::Caption(StrobeButton button, StrobeCaption caption, int fram
 void StrobeControl::ShowSlider() {
   if (!view_) return;
   const AVIControl* player = Player();
+  view_->SetObstacle(Obstacle());
   if (!player) return view_->SetSlider(0, 0, 0);
   const auto bounds = locks_.BoundsOf(workspace_.CurrentWindow);
   const int lowest = bounds ? bounds->lowest : 0;
@@ -66,9 +67,7 @@ void StrobeControl::ESlider_Change(int value) {
   AVIControl* player = Player();
   if (!player || value == player->Position()) return;
   Stop();
-  locks_.StopTogether();
-  player->StopPlay();
-  player->Play(std::clamp(value, 0, player->VideoLength() - 1));
+  locks_.Seek(workspace_.CurrentWindow, value);
 }
 
 void StrobeControl::SSCommand1_Click(int Index) {
@@ -86,7 +85,7 @@ void StrobeControl::SSCommand1_Click(int Index) {
     case StrobeButton::Strobe:
       if (StrobeRunning()) {
         Stop();
-      } else {
+      } else if (Obstacle().empty()) {
         const int length = player->SplitFields() ? player->VideoLength() / 2 : player->VideoLength();
         const int end = EndFrame_ == 0 ? length : EndFrame_;
         if (end < StartFrame_) return;
@@ -104,15 +103,21 @@ int StrobeControl::StrobeStep() const { return std::clamp<int>(settings_.StrobeS
 
 // ---------------------------------------------------------------- strobing
 
+std::string StrobeControl::Obstacle() const {
+  if (!workspace_.HasVideo(workspace_.CurrentWindow)) return "Open a video first";
+  if (locks_.IsLocked(workspace_.CurrentWindow)) return "Unlock the videos first";
+  if (workspace_.MultiFrame()) return "Leave multi-picture mode first (Esc)";
+  return {};
+}
+
 void StrobeControl::StrobeBtn_Click() {
   if (StrobeRunning()) return Stop();
-  if (AVIControl* player = Player()) Run(RawFrame(*player), RawFrame(*player));
+  if (Obstacle().empty()) Run(RawFrame(*Player()), RawFrame(*Player()));
 }
 
 void StrobeControl::Run(int start, int end) {
   const int slot = workspace_.CurrentWindow;
   AVIControl& player = workspace_.MP(slot);
-  locks_.StopTogether();
   player.StopPlay();
   running_ = slot;
   result_ = 0;
@@ -152,6 +157,11 @@ void StrobeControl::VideoClosing(int slot) {
   if (slot == running_) Stop();
   if (slot == result_) result_ = 0;
   ShowResult();
+}
+
+void StrobeControl::LocksChanged() {
+  if (running_ != 0 && locks_.IsLocked(running_)) Stop();
+  ShowSlider();
 }
 
 void StrobeControl::FocusChanged() {

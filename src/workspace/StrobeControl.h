@@ -23,6 +23,8 @@ class IStrobeView {
   virtual void SetCaption(StrobeButton button, const std::string& caption) = 0;
   /// `ESlider`: its ends and where it stands. Must not come back as a change.
   virtual void SetSlider(int lowest, int highest, int value) = 0;
+  /// Why the current video cannot be strobed now, empty when it can.
+  virtual void SetObstacle(const std::string& why) = 0;
   /// A finished or stopped strobe stands on the current video and can be saved.
   virtual void SetResult(bool there) = 0;
 };
@@ -40,25 +42,25 @@ class StrobeControl {
   void SetWindow(IStrobeView* view);
   bool StrobeWindowOpen() const { return view_ != nullptr; }
 
+  /// What stands in the way of strobing the current video, as the user is told; empty when nothing does. A
+  /// strobe runs through one video alone, which would break a lock and fill a film strip with its layers.
+  std::string Obstacle() const;
   /// Quick strobe of the current video from its current frame to its end; while a strobe is running,
-  /// stops that instead. An empty window is left alone.
+  /// stops that instead. Nothing happens where there is an obstacle.
   void StrobeBtn_Click();
   bool StrobeRunning() const { return running_ != 0; }
   /// Forgets start and end and stops a running strobe.
   void ResetStrobe();
-  /// Seeks the current video.
+  /// Seeks the current video, and those locked with it.
   void ESlider_Change(int value);
   /// 0 takes the current frame as the start, 1 as the end; 2 strobes from start to end or stops. An end
-  /// before the start is refused; without an end it strobes to the last frame.
+  /// before the start is refused, and what has an obstacle; without an end it strobes to the last frame.
   void SSCommand1_Click(int Index);
   /// Chooses the step by its place in the list, and keeps it as a setting.
   void Combo1_Click(int ListIndex);
 
   /// Frames between two layers, at least 1.
   int StrobeStep() const;
-  /// Raw frames, 0 when none is chosen.
-  int StartFrame() const { return StartFrame_; }
-  int EndFrame() const { return EndFrame_; }
 
   /// A strobe stands on the current video: nothing else has been drawn since.
   bool HasResult() const { return result_ != 0 && result_ == workspace_.CurrentWindow; }
@@ -70,6 +72,8 @@ class StrobeControl {
   void VideoClosing(int slot);
   /// The current window is another one, or holds another video.
   void FocusChanged();
+  /// A lock was made or ended: its videos are not strobed.
+  void LocksChanged();
 
  private:
   AVIControl* Player();
@@ -86,7 +90,7 @@ class StrobeControl {
   IStrobeView* view_ = nullptr;
   int running_ = 0;  ///< slot whose video is strobed; 0 none
   int result_ = 0;   ///< slot on which a strobe stands; 0 none
-  int StartFrame_ = 0;
+  int StartFrame_ = 0;  ///< raw frames, 0 when none is chosen
   int EndFrame_ = 0;
 };
 

@@ -23,8 +23,8 @@ std::string Seconds(double seconds) {
 
 }  // namespace
 
-Transport::Transport(IHost& host, Settings& settings, Workspace& workspace, IWorkspaceView& view)
-    : host_(host), settings_(settings), workspace_(workspace), view_(view) {}
+Transport::Transport(IHost& host, Settings& settings, Workspace& workspace, LockedVideos& locks, IWorkspaceView& view)
+    : host_(host), settings_(settings), workspace_(workspace), locks_(locks), view_(view) {}
 
 /// The player of the current window; null while it is empty.
 AVIControl* Transport::Player() {
@@ -71,11 +71,7 @@ void Transport::vp_Click() {
 }
 
 void Transport::Seek(int position) {
-  AVIControl* player = Player();
-  if (!player || position == player->Position()) return;
-  if (Locked()) return locks_->DualControlScroll(workspace_.CurrentWindow, position);
-  player->StopPlay();
-  player->Play(std::clamp(position, 0, player->VideoLength() - 1));
+  if (Player()) locks_.Seek(workspace_.CurrentWindow, position);
 }
 
 void Transport::StepPressed(bool forward, float x) {
@@ -83,7 +79,7 @@ void Transport::StepPressed(bool forward, float x) {
   BackHeld_ = !forward;
   HeldStartX_ = HeldX_ = x;
   if (Locked()) {
-    locks_->DualControlStep(forward);
+    locks_.DualControlStep(forward);
   } else {
     forward ? vn_Click() : vp_Click();
   }
@@ -99,7 +95,7 @@ void Transport::StepReleased() {
 void Transport::HeldStep() {
   AVIControl* player = Player();
   if (!player) return;
-  if (Locked()) return locks_->DualControlStep(ForwardHeld_);
+  if (Locked()) return locks_.DualControlStep(ForwardHeld_);
   const int step = std::abs(static_cast<int>(std::floor(HeldX_ - HeldStartX_))) / 100;
   if (ForwardHeld_ && player->Position() + step < player->VideoLength() - 1) player->Play(player->Position() + step + 1);
   if (BackHeld_ && player->Position() - step > 0) player->Play(player->Position() - step - 1);
@@ -123,10 +119,15 @@ void Transport::ToggleLoop() {
   ShowCurrent();
 }
 
+/// "Loop all" takes the videos in sight that move by themselves.
+bool Transport::CanLoop(int slot) const {
+  return workspace_.IsShown(slot) && workspace_.HasVideo(slot) && !locks_.IsLocked(slot);
+}
+
 bool Transport::AllLooping() const {
   bool any = false;
   for (int slot = 1; slot <= kSlots; ++slot) {
-    if (!workspace_.IsShown(slot) || !workspace_.HasVideo(slot) || (locks_ && locks_->IsLocked(slot))) continue;
+    if (!CanLoop(slot)) continue;
     if (!workspace_.MP(slot).Repeat()) return false;
     any = true;
   }
@@ -136,7 +137,7 @@ bool Transport::AllLooping() const {
 void Transport::TLAV_Click() {
   const bool on = !AllLooping();
   for (int slot = 1; slot <= kSlots; ++slot) {
-    if (!workspace_.IsShown(slot) || !workspace_.HasVideo(slot) || (locks_ && locks_->IsLocked(slot))) continue;
+    if (!CanLoop(slot)) continue;
     AVIControl& player = workspace_.MP(slot);
     player.StopPlay();
     player.setRepeat(on);
@@ -205,7 +206,7 @@ void Transport::ShowCell(int slot) {
 
 void Transport::ScrollBarSetup() {
   AVIControl* player = Player();
-  const auto bounds = locks_ ? locks_->BoundsOf(workspace_.CurrentWindow) : std::nullopt;
+  const auto bounds = locks_.BoundsOf(workspace_.CurrentWindow);
   if (bounds) {
     view_.SetScrollRange(bounds->lowest, std::max(bounds->lowest, bounds->highest));
   } else {
@@ -221,7 +222,7 @@ void Transport::ShowCurrent() {
   ShowCell(workspace_.CurrentWindow);
   view_.SetSlomoButton(player && player->Speed() != 100);
   view_.SetLoopButton(player && player->Repeat());
-  view_.SetPlayPicture(player && (player->IsPlaying() || (Locked() && locks_->PlayingTogether())));
+  view_.SetPlayPicture(player && (player->IsPlaying() || (Locked() && locks_.PlayingTogether())));
   view_.SetMarks(workspace_.Current().marks);
 }
 

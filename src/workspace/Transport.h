@@ -13,7 +13,8 @@ namespace kinalyx {
 /// and the line of the play bar.
 class Transport {
  public:
-  Transport(IHost& host, Settings& settings, Workspace& workspace, IWorkspaceView& view);
+  /// Locked videos refuse the transport's own commands and move together.
+  Transport(IHost& host, Settings& settings, Workspace& workspace, LockedVideos& locks, IWorkspaceView& view);
 
   /// Play or pause. At the last position or the one before, it plays from the start.
   void cmdPlay();
@@ -57,9 +58,6 @@ class Transport {
   void Signal(int slot);
   void Notify(int slot);
 
-  /// Locked videos refuse the transport's own commands and move together; must be set before a video opens.
-  void SetLocks(LockedVideos& locks) { locks_ = &locks; }
-
   /// The frame number stands in the play bar; true while the video timer is open.
   bool ShowFrameCounter = false;
   /// The position of the current video is shown anew.
@@ -67,7 +65,8 @@ class Transport {
 
  private:
   AVIControl* Player();
-  bool Locked() const { return locks_ && locks_->IsLocked(workspace_.CurrentWindow); }
+  bool Locked() const { return locks_.IsLocked(workspace_.CurrentWindow); }
+  bool CanLoop(int slot) const;
   void HeldStep();
   void ShowPosition();
   void ShowCell(int slot);
@@ -75,8 +74,8 @@ class Transport {
   IHost& host_;
   Settings& settings_;
   Workspace& workspace_;
+  LockedVideos& locks_;
   IWorkspaceView& view_;
-  LockedVideos* locks_ = nullptr;
   HostTimer FRtimer_;
   bool ForwardHeld_ = false;
   bool BackHeld_ = false;

@@ -17,10 +17,6 @@ constexpr int kBarHeight = 40 * kTwipsPerPixel;  // strip under the picture wher
 constexpr int kTallBarHeight = 72 * kTwipsPerPixel;
 constexpr int kNarrowCell = 900 * kTwipsPerPixel;  // below this width the bar takes two rows
 
-/// The bar has a strip of its own under every picture, so that it never covers a foot or a ball, and no
-/// picture changes its size when another window becomes current.
-int BarHeight(const TwipRect& cell) { return cell.Width < kNarrowCell ? kTallBarHeight : kBarHeight; }
-
 std::string NameWithoutExtension(const std::string& file) {
   const auto dot = file.rfind('.');
   return dot == std::string::npos ? file : file.substr(0, dot);
@@ -53,7 +49,10 @@ bool Workspace::AnyVideo() const {
 }
 
 bool Workspace::CheckOpenInAnalysis(const std::string& path) const {
-  return !path.empty() && std::ranges::any_of(slots_, [&](const Slot& slot) { return slot.path == path; });
+  // The same file may be reached over a link to its folder.
+  return !path.empty() && std::ranges::any_of(slots_, [&](const Slot& slot) {
+    return slot.path == path || (LastName(slot.path) == LastName(path) && SamePlace(slot.path, path));
+  });
 }
 
 int Workspace::SlotsShown() const { return Alone() ? 1 : Val(ScreenLayout); }
@@ -81,10 +80,6 @@ void Workspace::SetScreen(int Mode, bool Force) {
   view_.FocusKeyBox();
 }
 
-void Workspace::SetStartScreen() {
-  SetScreen(FindScreenMode(settings_.ScreenModeNumber()) ? settings_.ScreenModeNumber() : 1);
-}
-
 void Workspace::FormReset() {
   const std::vector<TwipRect> cells = LayoutCells(ScreenLayout, view_.MainPanelWidth(), view_.MainPanelHeight());
   for (int slot = 1; slot <= kSlots; ++slot) {
@@ -94,7 +89,7 @@ void Workspace::FormReset() {
     }
     Slot& at = At(slot);
     at.cell = cells[Alone() ? 0 : static_cast<std::size_t>(slot - 1)];
-    if (ScreenLayout == "MF") at.cell = MultiPicture::Cell(view_.MainPanelWidth(), view_.MainPanelHeight(), at.data.Wide);
+    if (MultiFrame()) at.cell = MultiPicture::Cell(view_.MainPanelWidth(), view_.MainPanelHeight(), at.data.Wide);
     at.panel = {kBorder, kBorder, std::max(at.cell.Width - 2 * kBorder, kTwipsPerPixel),
                 std::max(at.cell.Height - 2 * kBorder - (BarHidden ? 0 : BarHeight(at.cell)), kTwipsPerPixel)};
     if (FootHeight) at.panel.Height -= FootHeight(slot, at.panel.Height);
@@ -103,6 +98,13 @@ void Workspace::FormReset() {
     MPResize(slot);
   }
   SetPlayBar();
+}
+
+/// The bar has a strip of its own under every picture, so that it never covers a foot or a ball, and no
+/// picture changes its size when another window becomes current.
+int Workspace::BarHeight(const TwipRect& cell) const {
+  const int height = cell.Width < kNarrowCell * BarScale ? kTallBarHeight : kBarHeight;
+  return static_cast<int>(std::lround(height * BarScale));
 }
 
 void Workspace::MPResize(int slot) {
@@ -151,7 +153,7 @@ bool Workspace::TMAX_Click() {
     if (!HasVideo(CurrentWindow)) return false;
     SavedLayout = ScreenLayout;
     SavedWindow = CurrentWindow;
-    ScreenLayout = "MAX";
+    ScreenLayout = kMaximized;
   }
   FormReset();
   StateChanged();

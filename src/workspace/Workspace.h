@@ -65,8 +65,6 @@ class Workspace {
   /// Changes the layout; without `Force` a second press of the present one only takes the focus back.
   /// A current window that the new layout does not show gives way to window 1.
   void SetScreen(int Mode, bool Force = false);
-  /// Goes back to the layout that the settings open with.
-  void SetStartScreen();
   /// Places all cells and the play bar; call it also when the panel's size has changed.
   void FormReset();
   /// Places the player of a slot in its cell; its drawings follow its size.
@@ -79,9 +77,10 @@ class Workspace {
   void SelectWindow(int slot);
   /// Shows the current video alone, or goes back. An empty slot is refused with false.
   bool TMAX_Click();
-  bool Maximized() const { return ScreenLayout == "MAX"; }
-  /// The current video stands alone: maximized, or beneath its film strip.
-  bool Alone() const { return Maximized() || ScreenLayout == "MF"; }
+  bool Maximized() const { return ScreenLayout == kMaximized; }
+  /// The current video stands beneath its film strip.
+  bool MultiFrame() const { return ScreenLayout == kMultiFrame; }
+  bool Alone() const { return Maximized() || MultiFrame(); }
 
   // --- videos
   /// The one road by which a video enters a slot. False when it could not be opened, or when the video
@@ -123,6 +122,9 @@ class Workspace {
 
   /// Nothing shows under the pictures, which take the bar's room too; FormReset makes it so.
   bool BarHidden = false;
+  /// How much higher than designed the bars beneath the pictures are, for larger letters; FormReset makes
+  /// it so.
+  double BarScale = 1;
 
   // --- seams for what lies on the pictures and beside them; all must be set before a video opens
 
@@ -151,6 +153,7 @@ class Workspace {
   bool Fill(int first, int last);
   bool SaveOrAsk(int slot);
   void ShowTitle(int slot);
+  int BarHeight(const TwipRect& cell) const;
   void RefuseVideo(int slot, const std::string& path, bool hasStream);
 
   IHost& host_;

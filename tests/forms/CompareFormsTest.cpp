@@ -183,7 +183,7 @@ TEST_F(CompareFormsTest, StrobeWindowStartsStopsAndSaves) {
 }
 
 TEST_F(CompareFormsTest, CarveIsMarkedDraggedAndScaled) {
-  modes_.Piece().TTCarve();
+  modes_.Carving().TTCarve();
   Settle();
   auto* canvas = Find<QWidget>("CarvePic");
   ASSERT_TRUE(canvas->isVisible() && Seen("CarvePanel"));
@@ -208,7 +208,7 @@ TEST_F(CompareFormsTest, CarveIsMarkedDraggedAndScaled) {
   Click("CarveAnewBtn");
   EXPECT_TRUE(canvas->isVisible());
   Click("CarvePanelClose");
-  EXPECT_FALSE(modes_.Piece().Shown());
+  EXPECT_FALSE(modes_.Carving().Shown());
   EXPECT_FALSE(canvas->isVisible() || piece->isVisible());
 }
 

@@ -61,20 +61,19 @@ TEST_F(CompareModesTest, DualControlsFollowLockAndFocus) {
 TEST_F(CompareModesTest, EscapeLeavesOneModeAfterTheOther) {
   modes_.Transparency().STM_Click();
   EXPECT_TRUE(view_.dual.shown);  // the dual controls belong to the mode
-  modes_.Piece().TTCarve();
   modes_.TASF_Click();
   EXPECT_TRUE(view_.strobe);
   modes_.Strobe().StrobeBtn_Click();
   ASSERT_TRUE(modes_.Strobe().StrobeRunning());
   EXPECT_TRUE(modes_.Escape());
   EXPECT_FALSE(modes_.Strobe().StrobeRunning());
-  EXPECT_TRUE(view_.carve);
-  EXPECT_TRUE(modes_.Escape());
-  EXPECT_FALSE(view_.carve);
   EXPECT_TRUE(view_.transparency);
   EXPECT_TRUE(modes_.Escape());
   EXPECT_FALSE(view_.transparency);
   EXPECT_FALSE(modes_.Escape());
+  modes_.Carving().TTCarve();
+  EXPECT_TRUE(modes_.Escape());
+  EXPECT_FALSE(view_.carve);
   modes_.Strip().smbar_Click();
   EXPECT_TRUE(view_.strip);
   EXPECT_TRUE(modes_.Escape());
@@ -83,9 +82,9 @@ TEST_F(CompareModesTest, EscapeLeavesOneModeAfterTheOther) {
 
 TEST_F(CompareModesTest, OneFrameReachesMixAndPiece) {
   modes_.Transparency().STM_Click();
-  modes_.Piece().TTCarve();
-  modes_.Piece().CarvePic_MouseDown({0, 0});
-  modes_.Piece().CarvePic_MouseUp({300, 200});
+  modes_.Carving().TTCarve();
+  modes_.Carving().CarvePic_MouseDown({0, 0});
+  modes_.Carving().CarvePic_MouseUp({300, 200});
   stage_.host.Advance(0);
   stage_.painted = [](Canvas& canvas, int slot) {
     if (slot != 1) return;

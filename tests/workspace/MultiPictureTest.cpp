@@ -117,12 +117,12 @@ TEST_F(MultiPictureTest, PicturesShowTheMiddleOrTheCarvedSquare) {
 
 TEST_F(MultiPictureTest, ZoomAndPanMakeTheStripAnew) {
   Enter(60, 10, "3");
-  stage_.workspace.PlayerResized = [this](int slot) { strip_.PlayerMoved(slot); };
+  stage_.workspace.PlayerResized = [this](int slot) { strip_.PictureChanged(slot); };
   const int left = strip_.SourceLeft();
   stage_.workspace.CurrentWindow = 1;
   stage_.workspace.At(1).VideoZoom = 2;
   stage_.MP(1).Resize(stage_.MP(1).ControlWidthPixels() * 2, stage_.MP(1).ControlHeightPixels() * 2);
-  strip_.PlayerMoved(1);
+  strip_.PictureChanged(1);
   stage_.host.Advance(0);
   EXPECT_GT(strip_.SourceLeft(), left);
   // A pan leaves the size; the strip follows all the same.

@@ -117,7 +117,6 @@ TEST_F(OverlayTest, PresetsWalkBySteps) {
   }
   EXPECT_EQ(seen, (std::vector{113, 98, 83, 68, 53, 38, 23, 8, 0}));
   EXPECT_EQ(view_.option, ShowOption::VideoWindow1);
-  EXPECT_EQ(overlay_.TransTarget(), 0);
   EXPECT_EQ(Mix(Probe()), Of(1, Probe()));
   // The user's hand on the slider ends a walk.
   overlay_.OptShow_Click(3);

@@ -58,6 +58,7 @@ void CompareForms::Build(CompareModes& modes, Workspace& workspace, QWidget* sta
   foot_->hide();
 
   TransPanel_ = new SurfaceView("TransPanel", stage);
+  TransPanel_->setMouseTracking(true);
   TransPanel_->installEventFilter(this);
   strip_ = new MultiPicturePanel(
       modes.Strip(),
@@ -66,9 +67,9 @@ void CompareForms::Build(CompareModes& modes, Workspace& workspace, QWidget* sta
                     [this](const std::string& path) { return modes_->Strip().SavePicture(path); });
       },
       stage);
-  CarvePic_ = new CarveCanvas(modes.Piece(), workspace, stage);
-  picRot_ = new CarvePiece(modes.Piece(), stage);
-  carve_ = new CarvePanel(modes.Piece(), stage);
+  CarvePic_ = new CarveCanvas(modes.Carving(), workspace, stage);
+  picRot_ = new CarvePiece(modes.Carving(), stage);
+  carve_ = new CarvePanel(modes.Carving(), stage);
   connect(carve_, &CarvePanel::OpacityChanged, picRot_, &CarvePiece::SetOpacity);
   strobe_ = new StrobeForm(
       modes.Strobe(),
@@ -107,20 +108,19 @@ bool CompareForms::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Resize && watched == stage_) PlaceOnStage();
   if (event->type() == QEvent::Wheel)
     return Wheel(static_cast<QWidget*>(watched), *static_cast<QWheelEvent*>(event));
-  if (watched == TransPanel_) return DragMix(*event);
+  if (watched == TransPanel_) return MouseOnMix(*event);
   return false;
 }
 
 /// The wheel zooms the video under the pointer; over the mix, that of the current window.
 bool CompareForms::Wheel(QWidget* over, QWheelEvent& event) {
-  const qreal ratio = stage_->devicePixelRatioF();
-  const QPointF at = event.position() * ratio;
+  const QPointF pointer = event.position() * stage_->devicePixelRatioF();
+  POINTAPI at{qRound(pointer.x()), qRound(pointer.y())};
   int slot = 0;
-  POINTAPI corner;
   if (over == TransPanel_) {
-    slot = std::min(workspace_->CurrentWindow, 2);
-    if (!workspace_->HasVideo(slot)) return true;
-    corner = modes_->Transparency().PictureCorner(slot);
+    slot = modes_->Transparency().WindowAt(at);
+    if (slot == 0) return true;
+    at = modes_->Transparency().InPicture(slot, at);
   } else {
     // Cards and panels over the stage keep the wheel to themselves.
     QWidget* top = stage_->childAt(event.position().toPoint());
@@ -135,33 +135,39 @@ bool CompareForms::Wheel(QWidget* over, QWheelEvent& event) {
         slot = each;
     }
     if (slot == 0) return false;
-    corner = PlayerCornerOnStage(workspace_->At(slot));
+    const POINTAPI corner = PlayerCornerOnStage(workspace_->At(slot));
+    at = {at.x - corner.x, at.y - corner.y};
   }
   wheel_ += event.angleDelta().y();
   const int notches = wheel_ / kNotch;
   wheel_ -= notches * kNotch;
-  modes_->Zoom().Wheel(slot, static_cast<float>(at.x() - corner.x), static_cast<float>(at.y() - corner.y), notches);
+  modes_->Zoom().Wheel(slot, static_cast<float>(at.x), static_cast<float>(at.y), notches);
   return true;
 }
 
-/// The middle button moves the current window's video in the mix.
-bool CompareForms::DragMix(QEvent& event) {
-  if (event.type() != QEvent::MouseButtonPress && event.type() != QEvent::MouseMove &&
-      event.type() != QEvent::MouseButtonRelease)
-    return false;
+/// The mouse on the mix is the mouse on one of its videos: tools draw there, a click stops the play, the
+/// middle button takes the picture along. A button that is held keeps its video until it comes up.
+bool CompareForms::MouseOnMix(QEvent& event) {
+  const auto type = event.type();
+  if (type != QEvent::MouseButtonPress && type != QEvent::MouseMove && type != QEvent::MouseButtonRelease) return false;
   const auto& mouse = static_cast<QMouseEvent&>(event);
-  const int slot = std::min(workspace_->CurrentWindow, 2);
-  if (!workspace_->HasVideo(slot)) return true;
-  const POINTAPI corner = modes_->Transparency().PictureCorner(slot);
-  const QPointF at = mouse.position() * stage_->devicePixelRatioF() - QPointF(corner.x, corner.y);
-  const auto x = static_cast<float>(at.x());
-  const auto y = static_cast<float>(at.y());
-  if (event.type() == QEvent::MouseButtonPress && mouse.button() == Qt::MiddleButton)
-    modes_->Zoom().DragBegin(slot, x, y);
-  if (event.type() == QEvent::MouseMove && mouse.buttons() & Qt::MiddleButton) modes_->Zoom().DragMove(x, y);
-  if (event.type() == QEvent::MouseButtonRelease && mouse.button() == Qt::MiddleButton) modes_->Zoom().DragEnd();
+  const QPointF pointer = mouse.position() * stage_->devicePixelRatioF();
+  const POINTAPI point{qRound(pointer.x()), qRound(pointer.y())};
+  const int slot = held_ != 0 && workspace_->HasVideo(held_) ? held_ : modes_->Transparency().WindowAt(point);
+  held_ = mouse.buttons() == Qt::NoButton ? 0 : slot;
+  IMouseAndKeyBoardEvents* sink = slot == 0 ? nullptr : workspace_->MP(slot).InputSink();
+  if (!sink) return true;
+  const POINTAPI at = modes_->Transparency().InPicture(slot, point);
+  const auto x = static_cast<float>(at.x);
+  const auto y = static_cast<float>(at.y);
+  const int shift = ShiftOf(mouse.modifiers());
+  if (type == QEvent::MouseButtonPress) sink->MouseDown(ButtonOf(mouse.button()), shift, x, y, slot);
+  if (type == QEvent::MouseMove) sink->MouseMove(static_cast<int>(mouse.buttons()), shift, x, y, slot);
+  if (type == QEvent::MouseButtonRelease) sink->MouseUp(ButtonOf(mouse.button()), shift, x, y, slot);
   return true;
 }
+
+void CompareForms::SetDrawing(bool drawing) { TransPanel_->setCursor(drawing ? Qt::CrossCursor : Qt::ArrowCursor); }
 
 void CompareForms::UpdateFoot() { foot_->setVisible(!TransFrame_->isHidden() || !dual_->isHidden()); }
 
@@ -188,7 +194,7 @@ void CompareForms::ShowTransparency(bool shown) {
   TransPanel_->setVisible(shown);
   if (shown) {
     TransPanel_->raise();
-    for (QWidget* above : std::initializer_list<QWidget*>{carve_, strobe_, zoom_, picRot_}) above->raise();
+    for (FloatCard* card : stage_->findChildren<FloatCard*>(Qt::FindDirectChildrenOnly)) card->raise();
     TransFrame_->SetCurrent(workspace_->CurrentWindow);
   }
   UpdateFoot();

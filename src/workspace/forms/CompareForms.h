@@ -40,6 +40,9 @@ class CompareForms : public QObject, public ICompareView {
   /// Whether a lock holds a slot was shown last; for the picture on the cells.
   std::function<void()> LockShown;
 
+  /// A drawing tool is in hand, which draws on the mix too.
+  void SetDrawing(bool drawing);
+
   /// Asks for the name of a picture to save, empty when the user cancels. Tests answer it.
   std::function<QString(const QString& suggestion)> askPicture;
 
@@ -50,7 +53,7 @@ class CompareForms : public QObject, public ICompareView {
   void PlaceOnStage();
   void SavePicture(int slot, const QString& what, const std::function<ImageResult(const std::string&)>& save);
   bool Wheel(QWidget* over, QWheelEvent& event);
-  bool DragMix(QEvent& event);
+  bool MouseOnMix(QEvent& event);
   void UpdateFoot();
   /// Shows a card where the user left it, at first in the corner of the stage that `right` and `bottom` name.
   void ShowCard(FloatCard& card, bool right, bool bottom);
@@ -91,6 +94,7 @@ class CompareForms : public QObject, public ICompareView {
   CarvePiece* picRot_ = nullptr;
   StrobeForm* strobe_ = nullptr;
   ZoomForm* zoom_ = nullptr;
+  int held_ = 0;   ///< window whose video a mouse button was pressed on in the mix; 0 none
   int wheel_ = 0;  ///< turns of the wheel that have not made a notch yet
 };
 

@@ -7,6 +7,7 @@
 #include <QSignalBlocker>
 
 #include "platform/widgets/Panel.h"
+#include "platform/widgets/Scale.h"
 #include "workspace/forms/StageLook.h"
 
 namespace kinalyx {
@@ -20,26 +21,24 @@ StrobeForm::StrobeForm(StrobeControl& strobe, std::function<void()> save, QWidge
   ESlider_ = new BoundedSeekBar(content_);
   ESlider_->setObjectName("ESlider");
   ESlider_->setToolTip(tr("Moves the current video"));
-  ESlider_->setMinimumWidth(330);
+  LeastWidth(ESlider_, 330);
   connect(ESlider_, &BoundedSeekBar::Sought, this,
           [this](int position) { strobe_.ESlider_Change(position); });
   rows->addWidget(ESlider_);
 
   auto* buttons = new QHBoxLayout;
   buttons->setSpacing(8);
-  const QString tips[] = {tr("The picture that is shown is the first pose"), tr("The picture that is shown is the last pose"),
-                          tr("Lays the poses from start to end into one picture; without an end, to the last one")};
+  const QString tips[] = {tr("The picture that is shown is the first pose"), tr("The picture that is shown is the last pose"), {}};
   for (int i = 0; i < 3; ++i) {
     auto* button = new QPushButton(content_);
     button->setObjectName(QString("SSCommand1_%1").arg(i));
     button->setToolTip(tips[i]);
     button->setFocusPolicy(Qt::TabFocus);
-    button->setMinimumWidth(104);
+    LeastWidth(button, 104);
     connect(button, &QPushButton::clicked, this, [this, i] { strobe_.SSCommand1_Click(i); });
     buttons->addWidget(button, 1);
     SSCommand1_[static_cast<std::size_t>(i)] = button;
   }
-  SSCommand1_[2]->setCheckable(false);
   rows->addLayout(buttons);
 
   auto* last = new QHBoxLayout;
@@ -49,7 +48,7 @@ StrobeForm::StrobeForm(StrobeControl& strobe, std::function<void()> save, QWidge
   Combo1_->setObjectName("Combo1");
   Combo1_->setAccessibleName(tr("Frames between poses"));
   Combo1_->setFocusPolicy(Qt::TabFocus);
-  Combo1_->setFixedWidth(64);
+  FixWidth(Combo1_, 64);
   Combo1_->setMaxVisibleItems(10);
   for (int step = 1; step <= StrobeControl::kSteps; ++step) Combo1_->addItem(QString::number(step));
   connect(Combo1_, &QComboBox::currentIndexChanged, this, [this](int index) { strobe_.Combo1_Click(index); });
@@ -62,6 +61,7 @@ StrobeForm::StrobeForm(StrobeControl& strobe, std::function<void()> save, QWidge
   last->addWidget(save_);
   rows->addLayout(last);
   Body()->addWidget(content_);
+  SetObstacle({});
   SetResult(false);
   Dress();
 }
@@ -86,7 +86,13 @@ void StrobeForm::SetSlider(int lowest, int highest, int value) {
   ESlider_->SetBounds(lowest, highest, value);
   const bool has = highest > lowest;
   ESlider_->setEnabled(has);
-  for (QPushButton* button : SSCommand1_) button->setEnabled(has);
+  for (QPushButton* button : {SSCommand1_[0], SSCommand1_[1]}) button->setEnabled(has);
+}
+
+void StrobeForm::SetObstacle(const std::string& why) {
+  SSCommand1_[2]->setEnabled(why.empty());
+  SSCommand1_[2]->setToolTip(why.empty() ? tr("Lays the poses from start to end into one picture; without an end, to the last one")
+                                         : QString::fromStdString(why));
 }
 
 void StrobeForm::SetResult(bool there) {

@@ -30,6 +30,7 @@ class StrobeForm : public FloatCard, private IStrobeView {
  private:
   void SetCaption(StrobeButton button, const std::string& caption) override;
   void SetSlider(int lowest, int highest, int value) override;
+  void SetObstacle(const std::string& why) override;
   void SetResult(bool there) override;
   void Dress();
 
