@@ -51,7 +51,7 @@ const Register kListLibrary({"list_library", {Target::Of::Ratio, 10, 3}, [] {
   settings.LoadSettings();
   settings.LibraryPath = root.string();
   LastStudentInfo remembered;
-  LibraryBrowser browser(settings, remembered, LibraryBrowser::Kind::Profiles);
+  LibraryBrowser browser(host.Drives(), settings, remembered, LibraryBrowser::Kind::Profiles);
   LibraryLists lists(browser, settings, nullptr);
   const std::unique_ptr<QObject> owned[] = {std::unique_ptr<QObject>(lists.InstructorList()),
                                             std::unique_ptr<QObject>(lists.StudentList()),

@@ -6,6 +6,7 @@
 #include <sys/stat.h>
 
 #include "platform/files/Folders.h"
+#include "platform/host/DriveWatch.h"
 
 namespace kinalyx {
 
@@ -35,7 +36,9 @@ bool SwitchNetworkOn(IHost& host, Settings& settings) {
                      "Warning! If the network path is invalid at any time, the program will not function. "
                      "Are you sure you want to continue?"))
     return false;
-  const auto folder = host.PickFolder("Select the path to store your videos.", settings.LibraryPath);
+  const bool answers = host.Drives().Answers(settings.LibraryPath);
+  const auto folder = host.PickFolder("Select the path to store your videos.",
+                                      answers ? settings.LibraryPath : LocalLibraryPath(settings));
   if (!folder || folder->empty()) {
     settings.Set(settings.UseNetwork, false);
     return false;

@@ -5,6 +5,7 @@
 
 #include "core/WindowModes.h"
 #include "platform/files/Folders.h"
+#include "platform/host/DriveWatch.h"
 
 namespace kinalyx {
 
@@ -58,7 +59,8 @@ std::array<SystemTestRow, 5> RateMachine(const MachineFigures& figures) {
 std::array<SystemTestRow, 5> SystemTests(IHost& host, const Settings& settings) {
   MachineFigures figures;
   figures.system = host.System();
-  figures.freeBytes = FreeBytes(settings.LibraryPath);
+  const auto free = [folder = settings.LibraryPath] { return FreeBytes(folder); };
+  figures.freeBytes = host.Drives().Ask(settings.LibraryPath, free).value_or(-1);
   const WindowPlace window = PlaceForMode(settings.WindowMode, figures.system.screenWidth, figures.system.screenHeight);
   if (!window.fullScreen) {
     figures.neededWidth = std::max(figures.neededWidth, window.width / kTwips);

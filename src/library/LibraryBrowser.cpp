@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "library/LibraryReading.h"
 #include "platform/files/Folders.h"
 
 namespace kinalyx {
@@ -24,15 +25,27 @@ int Checked(const std::vector<std::string>& names, int row) {
 
 }  // namespace
 
-LibraryBrowser::LibraryBrowser(const Settings& settings, LastStudentInfo& remembered, Kind kind)
-    : LibraryBrowser(LibraryTree(settings), remembered, kind) {}
+LibraryBrowser::LibraryBrowser(DriveWatch& drives, const Settings& settings, LastStudentInfo& remembered, Kind kind)
+    : LibraryBrowser(drives, LibraryTree(settings), remembered, kind) {}
 
-LibraryBrowser::LibraryBrowser(const LibraryTree& tree, LastStudentInfo& remembered, Kind kind)
-    : tree_(tree), LastStudent_(remembered), kind_(kind) {}
+LibraryBrowser::LibraryBrowser(DriveWatch& drives, const LibraryTree& tree, LastStudentInfo& remembered, Kind kind)
+    : drives_(drives), tree_(tree), LastStudent_(remembered), kind_(kind) {}
+
+/// Names from the library's folders, none while their drive does not answer.
+std::vector<std::string> LibraryBrowser::Read(Reading reading) {
+  auto names = AskLibrary(drives_, tree_, std::move(reading));
+  silent_ = !names;
+  return std::move(names).value_or(std::vector<std::string>());
+}
+
+void LibraryBrowser::ReadInstructors() {
+  instructors_ = Read(&LibraryTree::Instructors);
+  if (silent_) instructors_ = {std::string(kGeneralFolder)};
+}
 
 void LibraryBrowser::CapfolderSetup(bool keepInstructor) {
   const std::string wanted = keepInstructor && instructor_ >= 0 ? Instructor() : LastStudent_[0];
-  instructors_ = tree_.Instructors();
+  ReadInstructors();
   // A remembered instructor whose folder has gone gives way to the library itself.
   InstructorList_Click(std::max(0, RowOf(instructors_, wanted)));
 }
@@ -41,7 +54,7 @@ void LibraryBrowser::Refresh() {
   const std::string instructor = Instructor();
   const std::string student = Student();
   const std::string video = Video();
-  instructors_ = tree_.Instructors();
+  ReadInstructors();
   instructor_ = std::max(0, RowOf(instructors_, instructor));
   Folderbox_Change();
   student_ = RowOf(students_, student);
@@ -50,10 +63,13 @@ void LibraryBrowser::Refresh() {
   Remember();
 }
 
+void LibraryBrowser::TryAgain() { CapfolderSetup(instructor_ > 0); }
+
 void LibraryBrowser::InstructorList_Click(int row) {
   instructor_ = Checked(instructors_, row);
   Folderbox_Change();
-  if (IsGeneralFolder()) {
+  // In a silent library the entry stands alone, and nobody has chosen it.
+  if (IsGeneralFolder() && !silent_) {
     LastStudent_[0].clear();
     LastStudent_[1].clear();
   }
@@ -103,12 +119,18 @@ std::string LibraryBrowser::VideoPathAt(int row) const {
 
 void LibraryBrowser::Folderbox_Change() {
   student_ = -1;
-  students_ = tree_.Students(Instructor());
+  students_.clear();
+  if (instructor_ > 0)
+    students_ = Read([instructor = Instructor()](const LibraryTree& tree) { return tree.Students(instructor); });
 }
 
 void LibraryBrowser::ReadVideos() {
   files_.clear();
-  if (HasStudent() || IsGeneralFolder() || IsQuickLaunch()) files_ = tree_.VideoFiles(Instructor(), Student());
+  if (HasStudent() || IsGeneralFolder() || IsQuickLaunch()) {
+    files_ = Read([instructor = Instructor(), student = Student()](const LibraryTree& tree) {
+      return tree.VideoFiles(instructor, student);
+    });
+  }
   videos_.clear();
   videos_.reserve(files_.size());
   for (const std::string& file : files_) videos_.push_back(VideoName(file));

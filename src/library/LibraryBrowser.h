@@ -1,9 +1,11 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
 #include "library/LibraryTree.h"
+#include "platform/host/DriveWatch.h"
 
 namespace kinalyx {
 
@@ -19,10 +21,10 @@ class LibraryBrowser {
     OpenVideo,  ///< nor "Model Swings"
   };
 
-  /// `remembered` is the program's one remembered selection; it is not owned.
-  LibraryBrowser(const Settings& settings, LastStudentInfo& remembered, Kind kind);
+  /// `drives` and `remembered`, the program's one remembered selection, are not owned.
+  LibraryBrowser(DriveWatch& drives, const Settings& settings, LastStudentInfo& remembered, Kind kind);
   /// The same for a library elsewhere.
-  LibraryBrowser(const LibraryTree& tree, LastStudentInfo& remembered, Kind kind);
+  LibraryBrowser(DriveWatch& drives, const LibraryTree& tree, LastStudentInfo& remembered, Kind kind);
 
   // --- filling
 
@@ -31,6 +33,11 @@ class LibraryBrowser {
   void CapfolderSetup(bool keepInstructor = false);
   /// Reads the lists again and keeps what is chosen, as far as it still exists.
   void Refresh();
+  /// True when the library's drive did not answer the last time that it was read. What could not be read is
+  /// empty then, and the remembered selection stays.
+  bool Silent() const { return silent_; }
+  /// Reads a library that was silent, and goes to what was chosen or remembered.
+  void TryAgain();
 
   // --- choosing; rows out of range choose nothing
 
@@ -68,13 +75,18 @@ class LibraryBrowser {
   std::string VideoPathAt(int row) const;
 
   const LibraryTree& Tree() const { return tree_; }
+  DriveWatch& Drives() const { return drives_; }
   Kind Purpose() const { return kind_; }
 
  private:
   void Folderbox_Change();
   void ReadVideos();
   void Remember();
+  using Reading = std::function<std::vector<std::string>(const LibraryTree&)>;
+  std::vector<std::string> Read(Reading reading);
+  void ReadInstructors();
 
+  DriveWatch& drives_;
   LibraryTree tree_;
   LastStudentInfo& LastStudent_;
   Kind kind_;
@@ -85,6 +97,7 @@ class LibraryBrowser {
   int instructor_ = -1;
   int student_ = -1;
   int video_ = -1;
+  bool silent_ = false;
 };
 
 /// The short-game files that belong together with a video, in the order in which they open, as full

@@ -7,9 +7,11 @@
 
 #include "library/LibraryActions.h"
 #include "library/LibraryBrowser.h"
+#include "library/LibraryReading.h"
 #include "library/RunOperation.h"
 #include "platform/files/Folders.h"
 #include "platform/files/IniFile.h"
+#include "platform/files/PartFiles.h"
 
 namespace kinalyx {
 
@@ -17,10 +19,33 @@ namespace {
 
 constexpr std::string_view kDelete = "delete";
 
+/// The paths of the videos in a folder and in those below it: lessons are videos too.
+std::vector<std::string> AllVideosBelow(const std::string& folder) {
+  std::vector<std::string> paths;
+  for (const std::string& file : ListFiles(folder, ".avi")) paths.push_back(JoinPath(folder, file));
+  for (const std::string& name : ListFolders(folder)) {
+    const std::vector<std::string> below = AllVideosBelow(JoinPath(folder, name));
+    paths.insert(paths.end(), below.begin(), below.end());
+  }
+  return paths;
+}
+
 }  // namespace
 
 LibraryVideo ChosenVideo(const LibraryBrowser& browser) {
   return {browser.Instructor(), browser.Student(), browser.VideoPath()};
+}
+
+std::vector<LibraryVideo> VideosOf(const LibraryTree& tree, const std::string& instructor) {
+  std::vector<LibraryVideo> videos;
+  // Quick Launch keeps its videos in its own folder, all others with their students.
+  std::vector<std::string> students = tree.Students(instructor);
+  students.insert(students.begin(), std::string());
+  for (const std::string& student : students) {
+    for (const std::string& file : tree.VideoFiles(instructor, student))
+      videos.push_back({instructor, student, JoinPath(tree.StudentFolder(instructor, student), file)});
+  }
+  return videos;
 }
 
 void ShowResult(const OperationResult& result, LibraryBrowser& browser) {
@@ -51,13 +76,10 @@ bool LibraryOperations::IsOpen(const std::string& videoPath) const {
   return analysis_.isOpenInAnalysis && analysis_.isOpenInAnalysis(videoPath);
 }
 
-/// Looks into the folders below as well: lessons are videos too.
 bool LibraryOperations::HoldsOpenVideo(const std::string& folder) const {
   if (!analysis_.isOpenInAnalysis) return false;
-  const std::vector<std::string> files = ListFiles(folder, ".avi");
-  const std::vector<std::string> folders = ListFolders(folder);
-  return std::ranges::any_of(files, [&](const std::string& file) { return IsOpen(JoinPath(folder, file)); }) ||
-         std::ranges::any_of(folders, [&](const std::string& name) { return HoldsOpenVideo(JoinPath(folder, name)); });
+  const auto videos = host_.Drives().Ask(tree_.Root(), [folder] { return AllVideosBelow(folder); });
+  return videos && std::ranges::any_of(*videos, [this](const std::string& path) { return IsOpen(path); });
 }
 
 std::string LibraryOperations::BusyText() const {
@@ -66,14 +88,24 @@ std::string LibraryOperations::BusyText() const {
 
 /// A library in a network folder that has gone would look like one without students.
 bool LibraryOperations::Reachable(std::string& refusal) const {
-  if (dirExists(tree_.Root())) return true;
-  refusal = "The video library at " + tree_.Root() + " cannot be reached. Nothing was changed.";
-  return false;
+  const std::string& root = tree_.Root();
+  const auto there = host_.Drives().Ask(root, [root] { return TouchPath(root) && dirExists(root); });
+  if (!there) refusal = SilentLibraryText(root) + " Nothing was changed.";
+  else if (!*there) refusal = "The video library at " + root + " cannot be reached. Nothing was changed.";
+  return refusal.empty();
 }
 
 OperationResult LibraryOperations::Refuse(const std::string& text) {
   host_.Message(MessageKind::Warning, "", text);
   return Report(text);
+}
+
+OperationResult LibraryOperations::RefuseFor(const std::string& path, const std::string& text,
+                                             const std::string& reason) {
+  if (EntryExists(path)) return Refuse(text + ": " + reason);
+  OperationResult result = Refuse(text + ". It is not there any more: somebody else has renamed, moved or deleted it.");
+  result.refill = true;
+  return result;
 }
 
 void LibraryOperations::Tell(const std::string& status) const {
@@ -85,12 +117,12 @@ std::string LibraryOperations::GuardStudent(const std::string& instructor, const
   if (student.empty() || instructor.empty() || instructor == kGeneralFolder) return words_.MustSelect();
   std::string refusal = BusyText();
   if (!refusal.empty()) return Refuse(refusal).status;
+  if (!Reachable(refusal)) return Refuse(refusal).status;
   if (HoldsOpenVideo(tree_.StudentFolder(instructor, student))) {
     return Refuse("A video from this database is open in the Analysis section. You must close the video before you can " +
                   std::string(verb) + " this " + words_.noun() + ".")
         .status;
   }
-  if (!Reachable(refusal)) return Refuse(refusal).status;
   return {};
 }
 
@@ -106,7 +138,8 @@ std::string LibraryOperations::GuardVideo(const LibraryVideo& video) {
 
 // ---------------------------------------------------------------- instructors and students
 
-OperationResult LibraryOperations::AddInstructor(std::string_view name) {
+OperationResult LibraryOperations::AddInstructor(std::string_view typed) {
+  const std::string_view name = WithoutOuterBlanks(typed);
   std::string refusal;
   if (!Reachable(refusal)) return Refuse(refusal);
   const Outcome outcome = kinalyx::AddInstructor(tree_.Root(), name);
@@ -131,29 +164,38 @@ std::string LibraryOperations::GuardInstructor(const std::string& instructor, st
 }
 
 std::string LibraryOperations::StillFullText(const std::string& instructor) const {
+  const std::string folder = tree_.InstructorFolder(instructor);
+  // Other programs leave things that no list of ours shows.
+  if (ListFolders(folder).empty() && ListFiles(folder, ".avi").empty())
+    return "There are other files in the folder " + folder + ". Move or delete them first.";
   return instructor + " still has " + words_.nouns() + " or videos. Move or delete them first.";
 }
 
-OperationResult LibraryOperations::RenameInstructor(const std::string& instructor, std::string_view name) {
+OperationResult LibraryOperations::RenameInstructor(const std::string& instructor, std::string_view typed) {
+  const std::string_view name = WithoutOuterBlanks(typed);
   if (const std::string refusal = GuardInstructor(instructor, "rename"); !refusal.empty()) return Report(refusal);
   if (!IsValidName(name)) return Refuse("Invalid character in Name");
   if (IsBlank(name)) return Refuse("You must type a name!");
   if (name == instructor) return Report("Rename cancelled.");
+  const std::string from = tree_.InstructorFolder(instructor);
   const std::string to = tree_.InstructorFolder(name);
   const std::string taken = "There is already an Instructor or Database with this name.";
   // These two stand for something else in the list.
   if (name == kGeneralFolder || name == kQuickLaunch) return Refuse(taken);
   std::string error;
-  if (!RenameEntry(tree_.InstructorFolder(instructor), to, &error, disk_))
-    return Refuse(EntryExists(to) ? taken : instructor + " could not be renamed: " + error);
+  if (!RenameEntry(from, to, &error, disk_))
+    return EntryExists(to) ? Refuse(taken) : RefuseFor(from, instructor + " could not be renamed", error);
   return {true, instructor + " successfully renamed.", true, std::string(name)};
 }
 
 OperationResult LibraryOperations::DeleteInstructor(const std::string& instructor) {
   if (const std::string refusal = GuardInstructor(instructor, kDelete); !refusal.empty()) return Report(refusal);
-  if (disk_.RemoveFolder(tree_.InstructorFolder(instructor)) < 0) {
-    if (errno == ENOTEMPTY || errno == EEXIST) return Refuse(StillFullText(instructor));
-    return Refuse(instructor + " could not be removed: " + std::generic_category().message(errno));
+  const std::string folder = tree_.InstructorFolder(instructor);
+  RemoveDeadParts(folder, kDeadPartSeconds, disk_);
+  if (disk_.RemoveFolder(folder) < 0) {
+    const int reason = errno;
+    if (reason == ENOTEMPTY || reason == EEXIST) return Refuse(StillFullText(instructor));
+    return RefuseFor(folder, instructor + " could not be removed", std::generic_category().message(reason));
   }
   return {true, instructor + " successfully removed from the system.", true};
 }
@@ -164,15 +206,18 @@ OperationResult LibraryOperations::AddStudent(const std::string& instructor, con
   if (instructor.empty() || instructor == kGeneralFolder) return Refuse(LibraryTextsFor(settings_).addHelp);
   std::string refusal;
   if (!Reachable(refusal)) return Refuse(refusal);
-  const Outcome outcome = kinalyx::AddStudent(tree_.InstructorFolder(instructor), captions, values, words_.noun());
+  FieldTexts named = values;
+  named[kNameField] = WithoutOuterBlanks(values[kNameField]);
+  const Outcome outcome = kinalyx::AddStudent(tree_.InstructorFolder(instructor), captions, named, words_.noun());
   if (!outcome.done) return Refuse(outcome.message);
-  return {true, outcome.message, true, instructor, values[kNameField]};
+  return {true, outcome.message, true, instructor, named[kNameField]};
 }
 
 OperationResult LibraryOperations::RenameStudentCancelled() const { return Report(words_.Noun() + " rename cancelled."); }
 
 OperationResult LibraryOperations::RenameStudent(const std::string& instructor, const std::string& student,
-                                                 std::string_view name) {
+                                                 std::string_view typed) {
+  const std::string_view name = WithoutOuterBlanks(typed);
   if (const std::string refusal = GuardStudent(instructor, student, "rename"); !refusal.empty()) return Report(refusal);
   if (!IsValidName(name)) return Refuse("Invalid character in " + words_.Noun() + " Name.");
   if (IsBlank(name)) return Refuse("You must type a name!");
@@ -183,7 +228,7 @@ OperationResult LibraryOperations::RenameStudent(const std::string& instructor, 
   if (!RenameEntry(from, to, &error, disk_)) {
     // Whether the name was taken before or has been taken by another workstation just now.
     if (EntryExists(to)) return Refuse("The name you have chosen already exists in the database.");
-    return Refuse("The " + words_.noun() + " could not be renamed: " + error);
+    return RefuseFor(from, "The " + words_.noun() + " could not be renamed", error);
   }
   OperationResult result{true, words_.Noun() + " successfully renamed.", true, instructor, std::string(name)};
   // A student without a profile gains a whole one at the next look.
@@ -202,16 +247,22 @@ void LibraryOperations::MoveStudent(const std::string& instructor, const std::st
     return done(Report(LibraryTextsFor(settings_).moveStudent));
   const std::string taken =
       "The Database that you have chosen already contains a " + words_.noun() + " with the same name.";
+  const std::string target = tree_.InstructorFolder(targetInstructor);
+  // A database that another workstation has just renamed would come back.
+  if (!dirExists(target))
+    return done(Refuse("The folder " + target + " cannot be found. The " + words_.noun() + " was not moved."));
+  const std::string from = tree_.StudentFolder(instructor, student);
   const std::string to = tree_.StudentFolder(targetInstructor, student);
   if (EntryExists(to)) return done(Refuse(taken));
-  auto job = std::make_unique<StudentMoveJob>(tree_.StudentFolder(instructor, student), to, disk_);
+  auto job = std::make_unique<StudentMoveJob>(from, to, disk_);
   Run<StudentMoveJob>(
       std::move(job),
-      [this, targetInstructor, student, taken](StudentMoveJob& move) -> OperationResult {
+      [=, this](StudentMoveJob& move) -> OperationResult {
         const CopyJob& copy = move.Copy();
         if (copy.Status() == CopyJob::State::Cancelled) return Report(kOperationCancelled);
         if (copy.NameTaken()) return Refuse(taken);
-        if (copy.Status() != CopyJob::State::Done) return Refuse(copy.Error());
+        if (copy.Status() != CopyJob::State::Done)
+          return RefuseFor(from, "The " + words_.noun() + " was not moved", copy.Error());
         if (!copy.Error().empty()) host_.Message(MessageKind::Warning, "", copy.Error());
         return {true, words_.Noun() + " Successfully Moved to " + targetInstructor + " .", true, targetInstructor, student};
       },

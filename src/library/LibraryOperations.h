@@ -37,6 +37,9 @@ struct LibraryVideo {
 /// The video that is chosen in the lists.
 LibraryVideo ChosenVideo(const LibraryBrowser& browser);
 
+/// All videos of an instructor or database.
+std::vector<LibraryVideo> VideosOf(const LibraryTree& tree, const std::string& instructor);
+
 /// What an operation leaves to the form that asked for it.
 struct OperationResult {
   bool done = false;
@@ -135,8 +138,13 @@ class LibraryOperations {
 
   bool IsOpen(const std::string& videoPath) const;
   bool HoldsOpenVideo(const std::string& folder) const;
+  /// False when the library's folder is not there or its drive does not answer; why, in `refusal`.
   bool Reachable(std::string& refusal) const;
+  /// True when a drive outside the library answers, and the folder is there.
+  bool HasFolder(const std::string& drive) const;
   OperationResult Refuse(const std::string& text);
+  /// Refuses what the disk has refused; where the thing itself has gone, that is the reason.
+  OperationResult RefuseFor(const std::string& path, const std::string& text, const std::string& reason);
   static OperationResult Report(const std::string& text) { return {false, text}; }
   void Tell(const std::string& status) const;
   std::string BusyText() const;

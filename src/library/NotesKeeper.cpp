@@ -1,6 +1,7 @@
 #include "library/NotesKeeper.h"
 
 #include <iterator>
+#include <optional>
 #include <utility>
 
 #include "library/Profile.h"
@@ -23,7 +24,8 @@ const std::string& NotesKeeper::Open(const std::string& studentFolder) {
   text_.clear();
   readable_ = true;
   if (folder_.empty()) return text_;
-  const auto notes = LoadNotes(folder_);
+  std::optional<std::string> notes;
+  if (reachable_(folder_)) notes = LoadNotes(folder_);
   text_ = notes.value_or("");
   if (const auto unsaved = unsaved_.find(folder_); unsaved != unsaved_.end()) return unsaved->second;
   readable_ = notes.has_value();
@@ -37,7 +39,9 @@ bool NotesKeeper::Keep(std::string_view text, std::string* error) {
     else unsaved_.erase(folder_);  // taken back: the file holds it already
   }
   for (auto notes = unsaved_.begin(); notes != unsaved_.end();) {
-    const bool settled = WasDeleted(notes->first) || SaveNotes(notes->first, notes->second, error);
+    const bool reached = reachable_(notes->first);
+    if (!reached && error) *error = "the drive is not answering";
+    const bool settled = reached && (WasDeleted(notes->first) || SaveNotes(notes->first, notes->second, error));
     if (settled && notes->first == folder_) text_ = notes->second;
     notes = settled ? unsaved_.erase(notes) : std::next(notes);
   }

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace kinalyx {
 
@@ -11,10 +13,13 @@ namespace kinalyx {
 /// back, and tried again with every save.
 class NotesKeeper {
  public:
+  /// @param reachable  false for a folder whose drive does not answer: it is not touched
+  explicit NotesKeeper(std::function<bool(const std::string& folder)> reachable) : reachable_(std::move(reachable)) {}
+
   /// The notes of a student's folder; "" closes. What stood open before must have been handed to Keep.
   /// @return the text to show, lines ended by CR LF
   const std::string& Open(const std::string& studentFolder);
-  /// False when the file is there but cannot be read: nothing may then be typed over it.
+  /// False when the file cannot be read although it is there, or may be: nothing may then be typed over it.
   bool Readable() const { return readable_; }
   const std::string& StudentFolder() const { return folder_; }
 
@@ -27,6 +32,7 @@ class NotesKeeper {
   bool OpenIsUnsaved() const { return unsaved_.contains(folder_); }
 
  private:
+  std::function<bool(const std::string&)> reachable_;
   std::string folder_;
   std::string text_;  ///< what the file holds
   bool readable_ = true;

@@ -7,6 +7,7 @@
 
 #include "library/DiskSpace.h"
 #include "library/LibraryOperations.h"
+#include "library/LibraryReading.h"
 #include "library/RunOperation.h"
 #include "library/Sidecar.h"
 #include "library/TrimJob.h"
@@ -20,7 +21,11 @@ using OnClash = VideoTransferJob::OnClash;
 
 std::string NameOf(const LibraryVideo& video) { return VideoName(LastName(video.path)); }
 
-std::string FolderOf(const LibraryVideo& video) { return video.path.substr(0, video.path.rfind('/')); }
+/// The folder of a `LibraryVideo` or a `VideoTransfer`.
+template <typename Video>
+std::string FolderOf(const Video& video) {
+  return video.path.substr(0, video.path.rfind('/'));
+}
 
 /// Removes a video, then its sidecar unless another video needs it; false when the video stays.
 bool RemoveVideo(const std::string& path, ICopyDisk& disk) {
@@ -31,10 +36,12 @@ bool RemoveVideo(const std::string& path, ICopyDisk& disk) {
   return true;
 }
 
-/// True for one folder under two names, as a link gives it, too.
-bool SamePlace(const std::string& a, const std::string& b) {
+/// True for a folder somewhere below another.
+bool LiesIn(const std::string& folder, const std::string& other) {
   std::error_code failed;
-  return std::filesystem::equivalent(a, b, failed) && !failed;
+  const std::string inner = std::filesystem::canonical(folder, failed).string();
+  const std::string outer = std::filesystem::canonical(other, failed).string();
+  return !failed && inner.starts_with(JoinPath(outer, "/"));
 }
 
 constexpr const char* kCannotDelete = "Unable to delete the video. Try rebooting, then try again.";
@@ -46,6 +53,7 @@ constexpr const char* kCannotDelete = "Unable to delete the video. Try rebooting
 OperationResult LibraryOperations::SendToAnalysis(const LibraryVideo& video) {
   if (video.path.empty()) return Report("You must select a video first.");
   if (!analysis_.sendToAnalysis) return Report("");
+  if (std::string refusal; !Reachable(refusal)) return Refuse(refusal);
   OperationResult result;
   result.done = analysis_.sendToAnalysis(video.path, [&](const std::string& words) {
     result.status = words;
@@ -54,7 +62,8 @@ OperationResult LibraryOperations::SendToAnalysis(const LibraryVideo& video) {
   return result;
 }
 
-OperationResult LibraryOperations::RenameVideo(const LibraryVideo& video, std::string_view name) {
+OperationResult LibraryOperations::RenameVideo(const LibraryVideo& video, std::string_view typed) {
+  const std::string_view name = WithoutOuterBlanks(typed);
   if (const std::string refusal = GuardVideo(video); !refusal.empty()) return Report(refusal);
   if (!IsValidName(name)) return Refuse("Invalid character in " + words_.noun() + " name.");
   if (IsBlank(name)) return Refuse("You must type a name!");
@@ -64,13 +73,14 @@ OperationResult LibraryOperations::RenameVideo(const LibraryVideo& video, std::s
   const std::vector<std::string> files = ListFiles(folder, ".avi");
   if (std::ranges::any_of(files, [&](const std::string& file) { return VideoName(file) == name; })) return Refuse(taken);
 
-  SetAsideOrphan(folder, name, disk_);
   const std::string sidecar = SidecarOf(video.path);
   const std::string newSidecar = SidecarPath(to);
+  // Where only the case of a name changes, the disk may take the old sidecar for the new one.
+  if (!SetAsideOrphan(folder, name, disk_) && !SamePlace(sidecar, newSidecar)) return Refuse(taken);
   std::string error;
   const auto refuse = [&] {
     if (EntryExists(to) || EntryExists(newSidecar)) return Refuse(taken);
-    return Refuse("The video could not be renamed: " + error);
+    return RefuseFor(video.path, "The video could not be renamed", error);
   };
   // The sidecar goes first, and back again when its video cannot follow.
   bool ready = true;
@@ -103,7 +113,7 @@ void LibraryOperations::MoveVideo(const LibraryVideo& video, const std::string& 
   if (targetInstructor.empty() || targetStudent.empty() || targetInstructor == kGeneralFolder)
     return done(Refuse("You must select a Database and " + words_.noun() + " for the video."));
   const std::string folder = tree_.StudentFolder(targetInstructor, targetStudent);
-  if (folder == FolderOf(video))
+  if (SamePlace(folder, FolderOf(video)))
     return done(Refuse("The source and destination folders are the same. The video was not moved."));
   const std::string name = NameOf(video);
   const std::string taken = "A video with the name \"" + name + "\" already exists in the folder named " + targetStudent +
@@ -120,8 +130,11 @@ void LibraryOperations::MoveVideo(const LibraryVideo& video, const std::string& 
           if (!move.Error().empty()) host_.Message(MessageKind::Warning, "", move.Error());
           return {true, "Selected video successfully moved.", true};
         }
-        if (move.Failed()) host_.Message(MessageKind::Warning, "", move.NameTaken() ? taken : move.Error());
-        return Report("No videos were moved.");
+        OperationResult refused;
+        if (move.NameTaken()) refused = Refuse(taken);
+        else if (move.Failed()) refused = RefuseFor(video.path, "The video was not moved", move.Error());
+        refused.status = "No videos were moved.";
+        return refused;
       },
       std::move(done));
 }
@@ -187,12 +200,16 @@ OperationResult LibraryOperations::RemoveFromQuickLaunch(const LibraryVideo& vid
 
 // ---------------------------------------------------------------- to other drives and back
 
+bool LibraryOperations::HasFolder(const std::string& drive) const {
+  return host_.Drives().Ask(drive, [drive] { return TouchPath(drive) && dirExists(drive); }).value_or(false);
+}
+
 void LibraryOperations::CopyToDisk(const std::vector<LibraryVideo>& videos, const std::string& disk, Done done) {
   if (videos.empty()) return done(Report("You must select a video first."));
   for (const LibraryVideo& video : videos) {
     if (const std::string refusal = GuardVideo(video); !refusal.empty()) return done(Report(refusal));
   }
-  if (disk.empty() || !dirExists(disk)) return done(Refuse("Drive Error"));
+  if (disk.empty() || !HasFolder(disk)) return done(Refuse("Drive Error"));
   Tell("Copying Videos, Please Wait.....");
   std::vector<VideoTransfer> transfers;
   for (const LibraryVideo& video : videos) transfers.push_back({video.path, disk, {}});
@@ -207,7 +224,16 @@ void LibraryOperations::CopyToDisk(const std::vector<LibraryVideo>& videos, cons
 }
 
 void LibraryOperations::ExportVideos(const std::vector<LibraryVideo>& videos, const std::string& targetRoot, Done done) {
-  if (!videos.empty() && IsSystemDrive(targetRoot) &&
+  struct Place {
+    bool onSystem = false;
+    bool inLibrary = false;
+  };
+  const auto place = host_.Drives().Ask(targetRoot, [targetRoot, root = tree_.Root()] {
+    return Place{IsSystemDrive(targetRoot), LiesIn(targetRoot, root)};
+  }).value_or(Place());
+  if (!videos.empty() && place.inLibrary)
+    return done(Refuse("The folder " + targetRoot + " belongs to this library. Choose a drive or folder outside of it."));
+  if (!videos.empty() && place.onSystem &&
       !host_.Question("Export to C?",
                       "Warning! You are about to export to the C drive. Are you sure you want to continue?"))
     return done(Report("Export Cancelled"));
@@ -222,7 +248,7 @@ void LibraryOperations::Transfer(Direction direction, const std::vector<LibraryV
                                  const std::string& targetRoot, Done done) {
   if (videos.empty()) return done(Report("No Videos Selected"));
   if (const std::string busy = BusyText(); !busy.empty()) return done(Refuse(busy));
-  if (!dirExists(targetRoot)) return done(Refuse("The folder " + targetRoot + " cannot be reached. Nothing was changed."));
+  if (!HasFolder(targetRoot)) return done(Refuse("The folder " + targetRoot + " cannot be reached. Nothing was changed."));
   std::vector<VideoTransfer> transfers;
   for (const LibraryVideo& video : videos) {
     std::string folder = targetRoot;
@@ -230,11 +256,14 @@ void LibraryOperations::Transfer(Direction direction, const std::vector<LibraryV
     if (inFolder) folder = JoinPath(folder, video.instructor);
     const bool hasStudent = inFolder && !video.student.empty();
     if (hasStudent) folder = JoinPath(folder, video.student);
-    if (SamePlace(folder, FolderOf(video)))
-      return done(Refuse("The source and destination folders are the same. No videos were copied."));
     transfers.push_back({video.path, folder, hasStudent ? FolderOf(video) : std::string()});
   }
   const bool out = direction == Direction::Export;
+  const auto toItself = host_.Drives().Ask(out ? tree_.Root() : FolderOf(videos.front()), [transfers] {
+    return std::ranges::any_of(transfers, [](const VideoTransfer& one) { return SamePlace(one.folder, FolderOf(one)); });
+  });
+  if (!toItself) return done(Refuse("The drive with the videos is not answering. No videos were copied."));
+  if (*toItself) return done(Refuse("The source and destination folders are the same. No videos were copied."));
   Tell(out ? "Exporting Videos, Please Wait....." : "Importing Videos... Please Wait.....");
   auto job = std::make_unique<VideoTransferJob>(out ? CopyJob::Kind::CopyOut : CopyJob::Kind::Copy, OnClash::AddD,
                                                 std::move(transfers), disk_);

@@ -421,7 +421,7 @@ TEST_F(LibraryOperationsTest, AnExportCanBeStoppedAndKeepsWhatHasArrived) {
 
 TEST_F(LibraryOperationsTest, TheListsFollow) {
   LastStudentInfo remembered;
-  LibraryBrowser browser(library.settings, remembered, LibraryBrowser::Kind::Profiles);
+  LibraryBrowser browser(library.host.Drives(), library.settings, remembered, LibraryBrowser::Kind::Profiles);
   browser.CapfolderSetup();
   browser.SelectInstructor("Ann");
   browser.SelectStudent("Joe Doe");

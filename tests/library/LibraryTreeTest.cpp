@@ -32,7 +32,7 @@ TEST(LibraryBrowser, ShowsEveryVideoUnderItsOwnFolderOnly) {
   library.File("Demo/Sample, Erica/(9) FO.ved");
   library.File("Quick Launch/fast.avi");
   LastStudentInfo remembered;
-  LibraryBrowser browser(library.settings, remembered, LibraryBrowser::Kind::Profiles);
+  LibraryBrowser browser(library.host.Drives(), library.settings, remembered, LibraryBrowser::Kind::Profiles);
 
   browser.CapfolderSetup();
   EXPECT_EQ(browser.InstructorList(), (Names{"General Folder", "Demo", "Quick Launch"}));
@@ -67,8 +67,8 @@ TEST(LibraryBrowser, OneListRestoresWhatAnotherChose) {
   library.Folder("Demo/Model Swings");
   library.Folder("Demo/Professionals");
   LastStudentInfo remembered;
-  LibraryBrowser page(library.settings, remembered, LibraryBrowser::Kind::Profiles);
-  LibraryBrowser open(library.settings, remembered, LibraryBrowser::Kind::OpenVideo);
+  LibraryBrowser page(library.host.Drives(), library.settings, remembered, LibraryBrowser::Kind::Profiles);
+  LibraryBrowser open(library.host.Drives(), library.settings, remembered, LibraryBrowser::Kind::OpenVideo);
   page.CapfolderSetup();
   page.SelectInstructor("Demo");
   page.SelectStudent("Tom");
@@ -98,7 +98,7 @@ TEST(LibraryBrowser, KeepsItsPlaceWhenTheFoldersChange) {
   library.File("Demo/Tom/one.avi");
   library.File("Demo/Tom/two.avi");
   LastStudentInfo remembered;
-  LibraryBrowser browser(library.settings, remembered, LibraryBrowser::Kind::Profiles);
+  LibraryBrowser browser(library.host.Drives(), library.settings, remembered, LibraryBrowser::Kind::Profiles);
   browser.CapfolderSetup();
   browser.SelectInstructor("Demo");
   browser.SelectStudent("Tom");
@@ -131,7 +131,7 @@ TEST(LibraryBrowser, AnUnreadableLibraryListsNothing) {
   TempLibrary library;
   library.settings.LibraryPath = "/nowhere/at/all";
   LastStudentInfo remembered{"Demo", "Tom", ""};
-  LibraryBrowser browser(library.settings, remembered, LibraryBrowser::Kind::Profiles);
+  LibraryBrowser browser(library.host.Drives(), library.settings, remembered, LibraryBrowser::Kind::Profiles);
   browser.CapfolderSetup();
   EXPECT_EQ(browser.InstructorList(), Names{"General Folder"});
   EXPECT_TRUE(browser.VideoList().empty());

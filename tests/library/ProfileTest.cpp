@@ -162,7 +162,7 @@ TEST_F(ProfileTest, NotesComeBackAsTheyWereAndEmptyOnesLeaveNoFile) {
 }
 
 TEST_F(ProfileTest, NotesThatCannotBeSavedWaitInMemory) {
-  NotesKeeper notes;
+  NotesKeeper notes([](const std::string&) { return true; });
   std::string error;
   EXPECT_EQ(notes.Open(student), "");
   EXPECT_TRUE(notes.Keep("first\n", &error));

@@ -6,12 +6,14 @@
 
 #include "library/DiskSpace.h"
 #include "library/LibraryActions.h"
+#include "library/LibraryReading.h"
 #include "library/forms/DriveChoice.h"
 #include "library/forms/Text.h"
 #include "platform/files/Folders.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/NameList.h"
 #include "platform/widgets/Panel.h"
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
@@ -77,7 +79,7 @@ DialogForm::DialogForm(IHost& host, Settings& settings, QWidget* over)
   title_ = MakeLabel("DialogTitle", {}, "title");
   text_ = MakeLabel("DialogText", {});
   text_->setWordWrap(true);
-  text_->setFixedWidth(460);
+  FixWidth(text_, 460);
   renamePanel_ = MakeRenamePanel();
   movePanel_ = MakeMovePanel();
   copyPanel_ = MakeCopyPanel(host, settings);
@@ -117,7 +119,7 @@ QWidget* DialogForm::MakeMovePanel() {
   studentsPart_ = Framed(studentsTitle_, students_);
   columns->addWidget(Framed(MakeLabel("MoveDatabasesTitle", "Databases", "heading"), databases_), 1);
   columns->addWidget(studentsPart_, 1);
-  panel->setFixedSize(460, 260);
+  FixSize(panel, {460, 260});
   connect(databases_, &QListWidget::itemSelectionChanged, this, [this] {
     ShowStudents();
     ShowAction();
@@ -217,9 +219,7 @@ void DialogForm::Open(Mode mode, const LibraryVideo& about) {
   action_->setDefault(!deletes);
   cancel_->setDefault(deletes);
   ShowAction();
-  adjustSize();
-  const QRect over = parentWidget()->window()->geometry();
-  move(over.center() - QRect(QPoint(), sizeHint()).center());
+  ScaleForm(*this, *parentWidget());
   open();
   if (look.part == ModeLook::Part::Rename) name_->setFocus();
   else if (look.part == ModeLook::Part::Move) databases_->setFocus();
@@ -234,10 +234,16 @@ void DialogForm::OpenRename(const std::string& name) {
   name_->selectAll();
 }
 
+/// Names from the library's folders, none when their drive does not answer.
+template <typename Reading>
+std::vector<std::string> DialogForm::Read(Reading reading) {
+  return AskLibrary(host_.Drives(), tree_, std::move(reading)).value_or(std::vector<std::string>());
+}
+
 void DialogForm::OpenMove() {
   const bool video = mode_ == Mode::MoveVideo;
   // A student cannot move to where he is, and Quick Launch keeps no students.
-  std::vector<std::string> databases = tree_.Instructors();
+  std::vector<std::string> databases = Read(&LibraryTree::Instructors);
   std::erase_if(databases, [&](const std::string& name) {
     return name == kGeneralFolder || name == kQuickLaunch || (!video && name == about_.instructor);
   });
@@ -252,7 +258,8 @@ void DialogForm::ShowStudents() {
   studentsTitle_->setText(Q(words.Nouns()));
   students_->setAccessibleName(Q(words.Nouns()));
   students_->SetHint(Database().empty() ? "Choose a database first." : QString("No %1 here.").arg(Q(words.nouns())));
-  students_->Fill(Q(tree_.Students(Database())), -1);
+  students_->Fill(
+      Q(Read([database = Database()](const LibraryTree& tree) { return tree.Students(database); })), -1);
 }
 
 /// A drive that is slow to answer must not keep the form from showing.
@@ -260,7 +267,10 @@ void DialogForm::ReadDrive() {
   space_->setText(Drive().empty() ? QString() : QString(kReadingDisk));
   ShowAction();
   if (Drive().empty()) return;
-  reading_ = HostTimer(host_, 0, false, [this] { space_->setText(Q(RemoveableDiskText(Drive()))); });
+  reading_ = HostTimer(host_, 0, false, [this] {
+    const auto text = host_.Drives().Ask(Drive(), [drive = Drive()] { return RemoveableDiskText(drive); });
+    space_->setText(text ? Q(*text) : QString("The drive is not answering."));
+  });
 }
 
 void DialogForm::ShowAction() {

@@ -51,6 +51,8 @@ class DialogForm : public QDialog {
   void OpenRename(const std::string& name);
   void OpenMove();
   void ShowStudents();
+  template <typename Reading>
+  std::vector<std::string> Read(Reading reading);
   void ReadDrive();
   void ShowAction();
 

@@ -7,7 +7,9 @@
 #include "library/DiskSpace.h"
 #include "library/forms/Text.h"
 #include "platform/files/Folders.h"
+#include "platform/host/DriveWatch.h"
 #include "platform/widgets/Buttons.h"
+#include "platform/widgets/Scale.h"
 
 namespace kinalyx {
 
@@ -20,7 +22,7 @@ DriveChoice::DriveChoice(const QString& name, IHost& host, Settings& settings, Q
   list_->setObjectName(name);
   list_->setAccessibleName("Drive or folder");
   list_->setPlaceholderText("Choose a drive or folder");
-  list_->setMinimumWidth(120);
+  LeastWidth(list_, 120);
   list_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   auto* browse = new Button(name + "Browse", "Browse...", {}, Look::Quiet);
   browse->setToolTip("Choose any folder");
@@ -49,7 +51,8 @@ void DriveChoice::Refresh() {
 std::string DriveChoice::Path() const { return Std(list_->currentText()); }
 
 void DriveChoice::Browse() {
-  const std::string at = dirExists(Path()) ? Path() : DocumentsFolder();
+  const bool there = host_.Drives().Ask(Path(), [path = Path()] { return dirExists(path); }).value_or(false);
+  const std::string at = there ? Path() : DocumentsFolder();
   if (const auto folder = host_.PickFolder("Select a drive or folder for your videos.", at)) Store(*folder);
 }
 

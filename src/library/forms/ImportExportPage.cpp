@@ -11,7 +11,9 @@
 #include "library/forms/LibrarySide.h"
 #include "library/forms/ProgressForm.h"
 #include "library/forms/Text.h"
+#include "platform/host/DriveWatch.h"
 #include "platform/widgets/Buttons.h"
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
@@ -36,8 +38,8 @@ ImportExportPage::ImportExportPage(IHost& host, Settings& settings, LibraryOpera
 
   auto* sides = new QHBoxLayout;
   sides->setSpacing(kGap);
-  here_ = new LibrarySide("This Library", settings, LibraryTree(settings), {"List4", "List5", "List6"}, 0);
-  there_ = new LibrarySide("Drive or Folder", settings, LibraryTree(otherRoot_), {"List7", "List8", "List9"}, 1);
+  here_ = new LibrarySide(host.Drives(), "This Library", settings, LibraryTree(settings), {"List4", "List5", "List6"}, 0);
+  there_ = new LibrarySide(host.Drives(), "Drive or Folder", settings, LibraryTree(otherRoot_), {"List7", "List8", "List9"}, 1);
   sides->addWidget(here_, 1);
 
   auto* middle = new QVBoxLayout;
@@ -62,7 +64,7 @@ ImportExportPage::ImportExportPage(IHost& host, Settings& settings, LibraryOpera
 
   Drive1_ = new DriveChoice("Drive1", host, settings);
   SpaceFlood_ = new Gauge("SpaceFlood");
-  SpaceFlood_->setFixedWidth(90);
+  FixWidth(SpaceFlood_, 90);
   Label6_ = MakeLabel("Label6", {}, "muted");
   auto* drive = new QVBoxLayout;
   drive->setContentsMargins(kGap, 10, kGap, 10);
@@ -81,16 +83,17 @@ ImportExportPage::ImportExportPage(IHost& host, Settings& settings, LibraryOpera
   rows->addLayout(sides, 1);
 
   QFrame* status = MakeFrame("status");
-  status->setFixedHeight(28);
+  FixHeight(status, 28);
   auto* statusRow = new QHBoxLayout(status);
   statusRow->setContentsMargins(kGap, 0, kGap, 0);
   status_ = MakeLabel("IEDisplay", {}, "muted");
-  status_->setMinimumWidth(40);
+  LeastWidth(status_, 40);
   statusRow->addWidget(status_);
   rows->addWidget(status);
 
   progress_ = new ProgressForm(host, operations, this);
   connect(Drive1_, &DriveChoice::Chosen, this, &ImportExportPage::OpenDrive);
+  connect(there_, &LibrarySide::AnswersAgain, this, &ImportExportPage::DiskSpaceGauge);
   SetupVocabulary();
 }
 
@@ -130,7 +133,8 @@ void ImportExportPage::DiskSpaceGauge() {
     Label6_->setText("Choose a drive or folder first.");
     return;
   }
-  const DiskSpace space = kinalyx::DiskSpaceGauge(otherRoot_);
+  const auto asked = host_.Drives().Ask(otherRoot_, [drive = otherRoot_] { return kinalyx::DiskSpaceGauge(drive); });
+  const DiskSpace space = asked.value_or(DiskSpace{false, 0, "0% Free", "The drive is not answering."});
   const bool little = space.percentFree < kLittlePercent;
   SpaceFlood_->Show(little ? QColor(0xb3, 0x26, 0x1e) : CurrentTheme().accent, space.percentFree);
   Label6_->setText(Q(space.Label6));

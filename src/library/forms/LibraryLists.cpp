@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 
+#include "library/LibraryReading.h"
 #include "library/forms/Text.h"
 #include "platform/files/Folders.h"
 
@@ -80,11 +81,24 @@ void LibraryLists::ShowVideos() {
 /// the first instructor.
 bool LibraryLists::LibraryGone() {
   const std::string& root = browser_.Tree().Root();
-  if (dirExists(root)) {
+  if (browser_.Drives().Ask(root, [root] { return dirExists(root); }).value_or(false)) {
     reached_ = root;
     return false;
   }
   return settings_.UseNetwork || reached_ == root;
+}
+
+/// True while the library's drive does not answer; the lists fill by themselves when it does again.
+bool LibraryLists::LibrarySilent() {
+  again_.Stop();
+  if (!browser_.Silent()) return false;
+  again_ = browser_.Drives().WhenAnswers(browser_.Tree().Root(), [this] {
+    again_.Stop();
+    browser_.TryAgain();
+    ShowAll();
+    emit AnswersAgain();
+  });
+  return true;
 }
 
 void LibraryLists::ShowHints() {
@@ -93,6 +107,11 @@ void LibraryLists::ShowHints() {
   students_->setAccessibleName(Q(vocabulary_.Nouns()));
   // Only the profiles page has the buttons that add somebody.
   const bool adds = browser_.Purpose() == LibraryBrowser::Kind::Profiles;
+  if (LibrarySilent()) {
+    students_->SetHint(Q(SilentLibraryText(browser_.Tree().Root()) + " The lists fill as soon as it does."));
+    videos_->SetHint({});
+    return;
+  }
   if (LibraryGone()) {
     students_->SetHint(Q("The library folder " + browser_.Tree().Root() + " cannot be reached."));
     videos_->SetHint({});

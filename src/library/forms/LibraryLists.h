@@ -44,6 +44,8 @@ class LibraryLists : public QObject {
   void VideoActivated();
   /// The space bar on a video.
   void PlayWanted();
+  /// The library's drive was silent and answers again; the lists have been filled.
+  void AnswersAgain();
 
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;
@@ -53,10 +55,12 @@ class LibraryLists : public QObject {
   void ShowCount();
   void ShowHints();
   bool LibraryGone();
+  bool LibrarySilent();
 
   LibraryBrowser& browser_;
   const Settings& settings_;
   Vocabulary vocabulary_;
+  HostTimer again_;      ///< looks after a library that is silent
   std::string reached_;  ///< the library folder that was last seen to be there
   NameList* instructors_;
   NameList* students_;

@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QSignalBlocker>
 
+#include "library/LibraryReading.h"
 #include "library/forms/LibraryLists.h"
 #include "library/forms/Text.h"
 #include "platform/files/Folders.h"
@@ -34,11 +35,11 @@ QFrame* Divider(bool upright) {
 
 }  // namespace
 
-LibrarySide::LibrarySide(const QString& title, const Settings& settings, const LibraryTree& tree,
+LibrarySide::LibrarySide(DriveWatch& drives, const QString& title, const Settings& settings, const LibraryTree& tree,
                          const std::array<const char*, 3>& names, int index, QWidget* parent)
     : Panel(QString("IETitle%1").arg(index), title, parent),
       settings_(settings),
-      browser_(tree, remembered_, LibraryBrowser::Kind::OpenVideo),
+      browser_(drives, tree, remembered_, LibraryBrowser::Kind::OpenVideo),
       lists_(new LibraryLists(browser_, settings, this, names)) {
   studentsTitle_ = MakeLabel(QString("IEStudents%1").arg(index), {}, "caption");
   count_ = MakeLabel(QString("IECount%1").arg(index), {}, "muted");
@@ -62,6 +63,7 @@ LibrarySide::LibrarySide(const QString& title, const Settings& settings, const L
   Foot()->addWidget(selectAll_);
 
   connect(lists_, &LibraryLists::InstructorChosen, this, [this] { ChooseWhole(false); });
+  connect(lists_, &LibraryLists::AnswersAgain, this, &LibrarySide::AnswersAgain);
   connect(lists_, &LibraryLists::StudentChosen, this, &LibrarySide::StudentChosen);
   connect(lists_->VideoList(), &QListWidget::itemSelectionChanged, this, [this] {
     if (whole_.empty()) ShowCount();
@@ -105,27 +107,17 @@ void LibrarySide::SelectAll() {
 }
 
 void LibrarySide::ChooseWhole(bool whole) {
-  whole_ = whole ? WholeDatabase() : std::vector<LibraryVideo>();
+  whole_.clear();
+  if (whole) {
+    const auto all = [instructor = browser_.Instructor()](const LibraryTree& tree) { return VideosOf(tree, instructor); };
+    whole_ = AskLibrary(browser_.Drives(), browser_.Tree(), all).value_or(std::vector<LibraryVideo>());
+  }
   wholeDatabase_->setChecked(whole);
   wholeDatabase_->setEnabled(!browser_.IsGeneralFolder());
   lists_->VideoList()->setEnabled(!whole);
   if (whole) lists_->VideoList()->clearSelection();
   ShowHints();
   ShowCount();
-}
-
-std::vector<LibraryVideo> LibrarySide::WholeDatabase() const {
-  const LibraryTree& tree = browser_.Tree();
-  const std::string instructor = browser_.Instructor();
-  std::vector<LibraryVideo> videos;
-  // Quick Launch keeps its videos in its own folder, all others with their students.
-  std::vector<std::string> students = tree.Students(instructor);
-  students.insert(students.begin(), std::string());
-  for (const std::string& student : students) {
-    for (const std::string& file : tree.VideoFiles(instructor, student))
-      videos.push_back({instructor, student, JoinPath(tree.StudentFolder(instructor, student), file)});
-  }
-  return videos;
 }
 
 std::vector<LibraryVideo> LibrarySide::Chosen() const {
@@ -146,6 +138,7 @@ void LibrarySide::ShowCount() {
 }
 
 void LibrarySide::ShowHints() {
+  if (browser_.Silent()) return;  // the lists say so
   const QString nouns = Q(Vocabulary(settings_).nouns());
   const QString noun = Q(Vocabulary(settings_).noun());
   const bool general = browser_.IsGeneralFolder();

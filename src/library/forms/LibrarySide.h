@@ -21,7 +21,7 @@ class LibrarySide : public Panel {
  public:
   /// @param names  of the three lists
   /// @param index  of the side: 0 or 1, at the end of the names of its other controls
-  LibrarySide(const QString& title, const Settings& settings, const LibraryTree& tree,
+  LibrarySide(DriveWatch& drives, const QString& title, const Settings& settings, const LibraryTree& tree,
               const std::array<const char*, 3>& names, int index, QWidget* parent = nullptr);
 
   /// Reads the library anew and goes to this instructor and student, as far as they are there.
@@ -34,13 +34,16 @@ class LibrarySide : public Panel {
   std::vector<LibraryVideo> Chosen() const;
   LibraryBrowser& Browser() { return browser_; }
 
+ signals:
+  /// The library's drive was silent and answers again.
+  void AnswersAgain();
+
  private:
   void StudentChosen();
   void ShowCount();
   void ShowHints();
   void SelectAll();
   void ChooseWhole(bool whole);
-  std::vector<LibraryVideo> WholeDatabase() const;
 
   const Settings& settings_;
   LastStudentInfo remembered_;

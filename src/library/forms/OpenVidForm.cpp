@@ -5,6 +5,7 @@
 #include <QLabel>
 
 #include "core/Vocabulary.h"
+#include "library/LibraryReading.h"
 #include "library/forms/LibraryLists.h"
 #include "library/forms/PreviewPlayer.h"
 #include "library/forms/Text.h"
@@ -12,6 +13,7 @@
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Figures.h"
 #include "platform/widgets/Panel.h"
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
@@ -21,7 +23,8 @@ namespace kinalyx {
 OpenVideoParts::OpenVideoParts(PlayerServices& services, const Settings& settings, LastStudentInfo& remembered,
                                OpenVideoCalls calls, QWidget* parent)
     : QFrame(parent),
-      browser_(settings, remembered, LibraryBrowser::Kind::OpenVideo),
+      host_(services.host),
+      browser_(services.host.Drives(), settings, remembered, LibraryBrowser::Kind::OpenVideo),
       calls_(std::move(calls)) {
   setProperty("look", "panel");
   lists_ = new LibraryLists(browser_, settings, this);
@@ -61,12 +64,11 @@ void OpenVideoParts::SetShortGameNaming(bool on) {
 
 void OpenVideoParts::VideoList_Click() {
   const std::string path = browser_.VideoPath();
-  if (path.empty()) {
-    preview_->Unload();
-  } else {
-    preview_->Load(path);  // a file that cannot be opened shows the player's colour
-  }
-  marks_->ShowVideo(path);
+  std::optional<SidecarMarks> marks;
+  if (!path.empty()) marks = AskVideoMarks(browser_.Drives(), browser_.Tree().Root(), path);
+  if (marks) preview_->Load(path);  // a file that cannot be opened shows the player's colour
+  else preview_->Unload();
+  marks_->Show(marks.value_or(SidecarMarks()));
   ShowButtons();
 }
 
@@ -84,16 +86,13 @@ void OpenVideoParts::ShowButtons() {
 void OpenVideoParts::CmdOpenVideo_Click(int Index) {
   if (preview_->Control().IsPlaying()) preview_->TogglePlay();
   switch (Index) {
-    case 0:
-      if (browser_.HasVideo() && calls_.open && calls_.open(browser_.VideoPath())) ++opened_;
-      break;
+    case 0: OpenChosen(); break;
     case 1:
       if (calls_.done) calls_.done();
       return;  // the form may be gone
     case 2:
       if (shortGame_) {
-        const auto paths = ShortGameFamily(browser_.Folder(), browser_.Video());
-        if (!paths.empty() && calls_.openFamily) calls_.openFamily(paths);
+        OpenFamily();
       } else if (opened_ > 0 && calls_.undo) {
         --opened_;
         calls_.undo();
@@ -102,6 +101,22 @@ void OpenVideoParts::CmdOpenVideo_Click(int Index) {
     default: break;
   }
   ShowButtons();
+}
+
+void OpenVideoParts::OpenChosen() {
+  if (!browser_.HasVideo() || !calls_.open) return;
+  const std::string path = browser_.VideoPath();
+  if (!browser_.Drives().Answers(browser_.Tree().Root(), path))
+    return host_.Message(MessageKind::Warning, "", "The drive with this video is not answering. The video was not opened.");
+  if (calls_.open(path)) ++opened_;
+}
+
+void OpenVideoParts::OpenFamily() {
+  const auto family = [folder = browser_.Folder(), video = browser_.Video()] { return ShortGameFamily(folder, video); };
+  const auto paths = browser_.Drives().Ask(browser_.Tree().Root(), family);
+  if (!paths)
+    return host_.Message(MessageKind::Warning, "", "The drive with these videos is not answering. They were not opened.");
+  if (!paths->empty() && calls_.openFamily) calls_.openFamily(*paths);
 }
 
 void OpenVideoParts::keyPressEvent(QKeyEvent* event) {
@@ -128,7 +143,7 @@ QWidget* Headed(const QString& title, QWidget* list, QWidget* right = nullptr) {
   rows->setContentsMargins(0, 0, 0, 0);
   rows->setSpacing(0);
   auto* head = MakeFrame("strip");
-  head->setFixedHeight(26);
+  FixHeight(head, 26);
   auto* row = new QHBoxLayout(head);
   row->setContentsMargins(kGap, 0, kGap, 0);
   row->addWidget(MakeLabel({}, title, "heading"), 1);
@@ -144,16 +159,16 @@ OpenVidForm::OpenVidForm(PlayerServices& services, const Settings& settings, Las
                          OpenVideoCalls calls, QWidget* parent)
     : OpenVideoParts(services, settings, remembered, std::move(calls), parent) {
   setObjectName("OpenVidForm");
-  setMinimumWidth(250);
+  LeastWidth(this, 250);
   auto* rows = new QVBoxLayout(this);
   rows->setContentsMargins(1, 1, 1, 1);
   rows->setSpacing(0);
   for (NameList* list : {lists_->InstructorList(), lists_->StudentList(), lists_->VideoList()})
-    list->setMinimumHeight(62);
+    LeastHeight(list, 62);
   rows->addWidget(Headed("Instructors", lists_->InstructorList()), 3);
   rows->addWidget(Headed(Q(Vocabulary(settings).Nouns()), lists_->StudentList()), 5);
   rows->addWidget(Headed("Videos", lists_->VideoList(), count_), 5);
-  preview_->setMinimumHeight(120);
+  LeastHeight(preview_, 120);
   rows->addWidget(preview_, 6);
 
   auto* foot = MakeFrame("panelFoot");
@@ -177,7 +192,8 @@ OpenVidCForm::OpenVidCForm(PlayerServices& services, const Settings& settings, L
                            OpenVideoCalls calls, QWidget* parent)
     : OpenVideoParts(services, settings, remembered, std::move(calls), parent) {
   setObjectName("OpenVidCForm");
-  setMinimumSize(640, 320);
+  LeastWidth(this, 640);
+  LeastHeight(this, 320);
   auto* rows = new QVBoxLayout(this);
   rows->setContentsMargins(1, 1, 1, 1);
   rows->setSpacing(0);

@@ -62,7 +62,10 @@ class OpenVideoParts : public QFrame {
   void VideoList_Click();
   void VidCountUpdate();
   void ShowButtons();
+  void OpenChosen();
+  void OpenFamily();
 
+  IHost& host_;
   LibraryBrowser browser_;
   OpenVideoCalls calls_;
   bool shortGame_ = false;

@@ -5,10 +5,13 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 
+#include "core/Settings.h"
 #include "library/forms/FieldGrid.h"
 #include "library/forms/HeadButton.h"
 #include "library/forms/Text.h"
 #include "platform/files/Folders.h"
+#include "platform/host/DriveWatch.h"
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
@@ -27,7 +30,12 @@ std::vector<int> AllFields() {
 }  // namespace
 
 ProfilePanel::ProfilePanel(IHost& host, const Settings& settings, QWidget* parent)
-    : Panel("ProfileTitle", " ", parent), host_(host), vocabulary_(settings) {
+    : Panel("ProfileTitle", " ", parent),
+      host_(host),
+      vocabulary_(settings),
+      notes_([&host, &settings](const std::string& folder) {
+        return host.Drives().Answers(settings.LibraryPath, folder);
+      }) {
   details_ = HeadButton("ProBtn0", "Show Details");
   edit_ = HeadButton("ProBtn1", "Edit", "edit");
   print_ = HeadButton("ProBtn2", "Print", "print");
@@ -55,7 +63,7 @@ ProfilePanel::ProfilePanel(IHost& host, const Settings& settings, QWidget* paren
   editor_ = new QPlainTextEdit;
   editor_->setObjectName("ProfileNotes");
   editor_->setTabChangesFocus(true);
-  editor_->setMinimumHeight(64);
+  LeastHeight(editor_, 64);
   editor_->installEventFilter(this);
   notes->addWidget(notesTitle_);
   notes->addWidget(editor_, 1);

@@ -9,7 +9,7 @@
 #include <QLineEdit>
 #include <QMenu>
 
-#include "library/Sidecar.h"
+#include "library/LibraryReading.h"
 #include "library/forms/FieldGrid.h"
 #include "library/forms/HeadButton.h"
 #include "library/forms/LibraryCommands.h"
@@ -21,6 +21,7 @@
 #include "platform/files/Folders.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
@@ -34,7 +35,7 @@ ProfilesPage::ProfilesPage(PlayerServices& services, Settings& settings, Profile
       fields_(fields),
       LastStudent_(remembered),
       operations_(operations),
-      browser_(settings, remembered, LibraryBrowser::Kind::Profiles),
+      browser_(services.host.Drives(), settings, remembered, LibraryBrowser::Kind::Profiles),
       lists_(new LibraryLists(browser_, settings, this)) {
   setObjectName("ProfilesPage");
   grid_ = new QGridLayout(this);
@@ -53,11 +54,11 @@ ProfilesPage::ProfilesPage(PlayerServices& services, Settings& settings, Profile
   editor_ = new ProfileEditor(settings);
   editor_->hide();
   auto* status = MakeFrame("status");
-  status->setFixedHeight(28);
+  FixHeight(status, 28);
   auto* statusRow = new QHBoxLayout(status);
   statusRow->setContentsMargins(kGap, 0, kGap, 0);
   SPDisplay_ = MakeLabel("SPDisplay", {}, "muted");
-  SPDisplay_->setMinimumWidth(40);
+  LeastWidth(SPDisplay_, 40);
   statusRow->addWidget(SPDisplay_);
 
   grid_->addWidget(instructors_, 0, 0);
@@ -101,7 +102,7 @@ ProfilesPage::~ProfilesPage() = default;
 
 Panel* ProfilesPage::MakeInstructorsPanel() {
   auto* panel = new Panel("InstructorsTitle", "Instructors");
-  panel->setMinimumWidth(130);
+  LeastWidth(panel, 130);
   panel->Body()->addWidget(lists_->InstructorList(), 1);
 
   newInstructor_ = new QWidget;
@@ -354,7 +355,8 @@ void ProfilesPage::StudentList_Click() {
 }
 
 void ProfilesPage::OpenProfile() {
-  const std::string folder = browser_.HasStudent() ? browser_.Folder() : std::string();
+  std::string folder = browser_.HasStudent() ? browser_.Folder() : std::string();
+  if (!folder.empty() && !LibraryAnswers(folder)) folder.clear();
   profile_ = folder.empty() ? Profile() : kinalyx::OpenProfile(folder, fields_.Captions());
   if (!folder.empty()) profile_.values[kVideosOnFileField] = std::to_string(browser_.VideoList().size());
   profilePanel_->Fields().SetValues(profile_.values);
@@ -363,6 +365,10 @@ void ProfilesPage::OpenProfile() {
   shownStudent_ = folder;
   profilePanel_->OpenStudent(folder);
   if (folder.empty() && profilePanel_->CurrentView() == ProfilePanel::View::Complete) ShowProfileView(false);
+}
+
+bool ProfilesPage::LibraryAnswers(const std::string& path) {
+  return services_.host.Drives().Answers(settings_.LibraryPath, path);
 }
 
 void ProfilesPage::VideoList_Click() {
@@ -377,6 +383,7 @@ void ProfilesPage::VideoList_Click() {
 }
 
 void ProfilesPage::OfferToDelete(const std::string& path) {
+  if (!LibraryAnswers(path)) return;
   const FileState state{path, FileSize(path), FileTime(path)};
   if (keptBadVideos_.contains(state)) return;
   if (!services_.host.Question("Delete Bad Video",
@@ -480,6 +487,7 @@ void ProfilesPage::CloseEditor() {
 void ProfilesPage::ProAddSaveBtn() {
   const FieldTexts values = editor_->Values();
   if (!editor_->IsNew()) {
+    if (!LibraryAnswers(editedFolder_)) return Say(Q(SilentLibraryText(settings_.LibraryPath)));
     if (!SaveProfile(editedFolder_, fields_.Captions(), values)) {
       Say("An error has occurred while editing the profile");
       return;

@@ -84,6 +84,7 @@ class ProfilesPage : public QWidget {
   void VideoList_Click();
   void OfferToDelete(const std::string& path);
   void OpenProfile();
+  bool LibraryAnswers(const std::string& path);
   void ShowProfileView(bool shown);
   std::vector<std::string> RealInstructors() const;
   void OpenEditor(bool edit);

@@ -1,15 +1,18 @@
 #include "library/forms/VideosPanel.h"
 
 #include <QBoxLayout>
+#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPainter>
 
+#include "core/Settings.h"
 #include "library/LibraryActions.h"
-#include "library/Sidecar.h"
+#include "library/LibraryReading.h"
 #include "library/forms/EditPanel.h"
 #include "library/forms/Text.h"
 #include "platform/widgets/Figures.h"
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
@@ -29,10 +32,9 @@ SidecarMarkLabels::SidecarMarkLabels(QWidget* parent) : QWidget(parent) {
   }
 }
 
-void SidecarMarkLabels::ShowVideo(const std::string& videoPath) {
-  const SidecarMarks found = videoPath.empty() ? SidecarMarks() : ReadSidecarMarks(SidecarPath(videoPath));
-  SetLook(marks_[0], found.HasDrawings() ? "mark" : "markOff");
-  SetLook(marks_[1], found.HasNotes() ? "mark" : "markOff");
+void SidecarMarkLabels::Show(const SidecarMarks& marks) {
+  SetLook(marks_[0], marks.HasDrawings() ? "mark" : "markOff");
+  SetLook(marks_[1], marks.HasNotes() ? "mark" : "markOff");
 }
 
 // ---------------------------------------------------------------- summary
@@ -43,7 +45,8 @@ class SummaryLine final : public QWidget {
   SummaryLine() {
     setObjectName("StatsLine");
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    setMinimumSize(60, 20);
+    LeastWidth(this, 60);
+    LeastHeight(this, 20);
   }
   void SetFacts(QStringList facts) {
     facts_ = std::move(facts);
@@ -72,7 +75,7 @@ class SummaryLine final : public QWidget {
 // ---------------------------------------------------------------- panel
 
 VideosPanel::VideosPanel(PlayerServices& services, const Settings& settings, NameList* list, QWidget* parent)
-    : Panel("VideosTitle", "Videos", parent), list_(list) {
+    : Panel("VideosTitle", "Videos", parent), drives_(services.host.Drives()), settings_(settings), list_(list) {
   count_ = new FigureLabel("VideoCount");
   count_->setProperty("look", "caption");
   Head()->insertWidget(1, count_);
@@ -81,7 +84,7 @@ VideosPanel::VideosPanel(PlayerServices& services, const Settings& settings, Nam
 
   auto* middle = new QHBoxLayout;
   middle->setSpacing(0);
-  list_->setMinimumWidth(140);
+  LeastWidth(list_, 140);
   preview_ = new PreviewPlayer(services);
   auto* divider = MakeFrame("divider");
   divider->setFixedWidth(1);
@@ -109,13 +112,13 @@ VideosPanel::VideosPanel(PlayerServices& services, const Settings& settings, Nam
     grid->addWidget(caption, line / 5 * 2, line % 5);
     grid->addWidget(value, line / 5 * 2 + 1, line % 5);
     grid->setColumnStretch(line % 5, 1);
-    grid->setRowMinimumHeight(line / 5 * 2 + 1, 22);
+    LeastHeight(value, 22);
     stats_[static_cast<std::size_t>(line)] = value;
   }
   statsRows->addLayout(grid);
 
   auto* strip = MakeFrame("panelFoot");
-  strip->setFixedHeight(38);
+  FixHeight(strip, 38);
   auto* stripRow = new QHBoxLayout(strip);
   stripRow->setContentsMargins(kGap, 0, kGap, 0);
   stripRow->setSpacing(kGap);
@@ -134,10 +137,16 @@ VideosPanel::VideosPanel(PlayerServices& services, const Settings& settings, Nam
 
 bool VideosPanel::ShowVideo(const std::string& path) {
   ShowStats(NoVideoStats());
-  marks_->ShowVideo("");
+  marks_->Show({});
   if (path.empty()) {
     preview_->Unload();
     summary_->SetFacts({});
+    return true;
+  }
+  const auto marks = AskVideoMarks(drives_, settings_.LibraryPath, path);
+  if (!marks) {
+    preview_->Unload();
+    summary_->SetFacts({"The drive with this video is not answering."});
     return true;
   }
   if (!preview_->Load(path)) {
@@ -146,7 +155,7 @@ bool VideosPanel::ShowVideo(const std::string& path) {
   }
   const AVIControl& control = preview_->Control();
   ShowStats(StatsOf(*control.Info(), control.CurFormatBits()));
-  marks_->ShowVideo(path);
+  marks_->Show(*marks);
   return true;
 }
 
@@ -177,8 +186,17 @@ void VideosPanel::SetCount(int videos) {
 
 void VideosPanel::resizeEvent(QResizeEvent* event) {
   Panel::resizeEvent(event);
+  LimitList();
+}
+
+void VideosPanel::changeEvent(QEvent* event) {
+  Panel::changeEvent(event);
+  if (event->type() == QEvent::StyleChange && preview_) LimitList();
+}
+
+void VideosPanel::LimitList() {
   // The picture may take all that a large window has, but a list of names needs no more than this.
-  list_->setMaximumWidth(qMax(140, qMin(340, width() * 31 / 100)));
+  list_->setMaximumWidth(qMax(Px(140), qMin(Px(420), width() * 31 / 100)));
 }
 
 }  // namespace kinalyx

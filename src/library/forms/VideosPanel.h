@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "library/Sidecar.h"
 #include "library/VideoStats.h"
 #include "library/forms/PreviewPlayer.h"
 #include "platform/widgets/NameList.h"
@@ -19,8 +20,7 @@ class Settings;
 class SidecarMarkLabels : public QWidget {
  public:
   explicit SidecarMarkLabels(QWidget* parent = nullptr);
-  /// Reads the marks of a video's sidecar; "" puts both out.
-  void ShowVideo(const std::string& videoPath);
+  void Show(const SidecarMarks& marks);
 
  private:
   std::array<QLabel*, 2> marks_;
@@ -34,7 +34,8 @@ class VideosPanel : public Panel {
   VideosPanel(PlayerServices& services, const Settings& settings, NameList* list, QWidget* parent = nullptr);
 
   PreviewPlayer& VideoPlay1() { return *preview_; }
-  /// Shows a video, or nothing for "". False when it cannot be opened.
+  /// Shows a video of the library, or nothing for "". False when it cannot be opened, and not because its
+  /// drive does not answer.
   bool ShowVideo(const std::string& path);
   /// Shows or hides the list under "Video Statistics".
   void ShowStatsPanel(bool shown);
@@ -49,12 +50,16 @@ class VideosPanel : public Panel {
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   void ShowStats(const VideoStats& stats);
+  void LimitList();
 
+  DriveWatch& drives_;
+  const Settings& settings_;
   NameList* list_;
-  PreviewPlayer* preview_;
+  PreviewPlayer* preview_ = nullptr;
   QWidget* statsPart_;
   EditPanel* trim_;
   FigureLabel* count_;

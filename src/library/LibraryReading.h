@@ -1,0 +1,32 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "library/LibraryTree.h"
+#include "library/Sidecar.h"
+#include "platform/host/DriveWatch.h"
+
+namespace kinalyx {
+
+// How the interface reads a library whose drive may not answer.
+
+/// What `reading` makes of the tree; nothing when the library's drive does not answer.
+/// @param reading  called with a tree of its own; as DriveWatch::Ask wants it
+template <typename Reading>
+auto AskLibrary(DriveWatch& drives, const LibraryTree& tree, Reading reading) {
+  return drives.Ask(tree.Root(), [root = tree.Root(), reading = std::move(reading)] {
+    return std::invoke(reading, LibraryTree(root));
+  });
+}
+
+/// The marks of a video; nothing when the drive of the library with the folder `root` does not answer. With
+/// them the drive has answered for the video itself.
+std::optional<SidecarMarks> AskVideoMarks(DriveWatch& drives, const std::string& root, const std::string& videoPath);
+
+/// What is told of a library whose drive does not answer.
+std::string SilentLibraryText(const std::string& root);
+
+}  // namespace kinalyx

@@ -1,0 +1,100 @@
+#include <QComboBox>
+#include <QPlainTextEdit>
+
+#include "ProfilesStage.h"
+#include "library/forms/ImportExportPage.h"
+#include "library/forms/OpenVidForm.h"
+
+namespace kinalyx {
+namespace {
+
+using SilentDriveTest = test::ProfilesStage;
+
+TEST_F(SilentDriveTest, ThePageSaysSoAndFillsByItselfWhenTheDriveIsBack) {
+  Choose("InstructorList", "Demo");
+  Choose("StudentList", "Sample, Erica");
+  Choose("VideoList", "(002) FO iron");
+  page->hide();
+  const std::string path = library.settings.LibraryPath;
+  library.host.drivesHang = true;
+  page->show();
+  EXPECT_EQ(library.host.waits.size(), 1u);
+  EXPECT_EQ(Rows("InstructorList"), QStringList({"General Folder"}));
+  EXPECT_TRUE(List("StudentList")->Hint().contains("is not answering")) << List("StudentList")->Hint().toStdString();
+  EXPECT_EQ(Preview().Info(), nullptr);
+  page->hide();
+  page->show();
+  library.host.Advance(3000);
+  EXPECT_EQ(library.host.waits.size(), 1u);
+
+  library.host.DrivesAnswer();
+  library.host.Advance(3000);
+  EXPECT_EQ(Rows("VideoList").size(), 2);
+  EXPECT_EQ(Text("ProInfoLbl0"), "Sample, Erica");
+  EXPECT_NE(Preview().Info(), nullptr);
+  EXPECT_EQ(library.settings.LibraryPath, path);
+  EXPECT_TRUE(library.host.messages.empty());
+}
+
+TEST_F(SilentDriveTest, AVideoBehindASilentDriveIsNoBadVideo) {
+  Choose("InstructorList", "Demo");
+  Choose("StudentList", "Sample, Erica");
+  library.host.drivesHang = true;
+  Choose("VideoList", "(002) FO iron");
+  library.host.Advance(100);
+  EXPECT_TRUE(library.host.questions.empty());
+  EXPECT_EQ(Find<QWidget>("StatsLine")->accessibleName(), "The drive with this video is not answering.");
+
+  Press("SPBtn6");
+  EXPECT_TRUE(Text("SPDisplay").contains("is not answering. Nothing was changed.")) << Text("SPDisplay").toStdString();
+  EXPECT_EQ(library.host.waits.size(), 1u);
+  library.host.DrivesAnswer();
+  library.host.Advance(3000);
+  Choose("VideoList", "(001) DTL driver");
+  EXPECT_NE(Preview().Info(), nullptr);
+}
+
+TEST_F(SilentDriveTest, TheOpenFormOpensNothingAndTellsWhy) {
+  int opened = 0;
+  OpenVidForm form(services, library.settings, remembered, {.open = [&](const std::string&) { return ++opened > 0; }});
+  remembered = {"Demo", "Sample, Erica", ""};
+  form.Open();
+  ASSERT_TRUE(form.Browser().HasVideo());
+  library.host.drivesHang = true;
+  form.CmdOpenVideo_Click(0);
+  EXPECT_EQ(opened, 0);
+  ASSERT_EQ(library.host.messages.size(), 1u);
+  EXPECT_TRUE(library.host.messages[0].ends_with("is not answering. The video was not opened."));
+  library.host.DrivesAnswer();
+  form.CmdOpenVideo_Click(0);
+  EXPECT_EQ(opened, 1);
+}
+
+TEST_F(SilentDriveTest, AnExportDriveThatHangsLeavesTheLibraryAlone) {
+  const test::TempFolder disk;
+  std::filesystem::create_directories(disk.Path("Ann/Joe"));
+  library.settings.Exporter = disk.Path();
+  remembered = {"Demo", "Sample, Erica", ""};
+  ImportExportPage exchange(library.host, library.settings, *operations, remembered);
+  exchange.Open();
+  const auto rows = [&](const char* name) { return exchange.findChild<NameList*>(name)->count(); };
+  EXPECT_EQ(rows("List7"), 2);
+
+  library.host.drivesHang = true;
+  exchange.findChild<QComboBox*>("Drive1")->activated(0);
+  EXPECT_EQ(rows("List7"), 1);
+  EXPECT_TRUE(exchange.findChild<NameList*>("List8")->Hint().contains(QString::fromStdString(disk.Path())));
+  EXPECT_EQ(exchange.findChild<QLabel*>("Label6")->text(), "0% Free   The drive is not answering.");
+  library.host.drivesHang = false;
+  exchange.Open();
+  EXPECT_EQ(rows("List4"), 3) << "the library itself answers";
+  EXPECT_EQ(library.host.waits.size(), 1u);
+
+  library.host.DrivesAnswer();
+  library.host.Advance(3000);
+  EXPECT_EQ(rows("List7"), 2);
+  EXPECT_TRUE(exchange.findChild<QLabel*>("Label6")->text().endsWith(" % Free"));
+}
+
+}  // namespace
+}  // namespace kinalyx
