@@ -59,6 +59,7 @@ class EditBar final : public IEditMarks {
   Shape* Selected() { return SelectedShape(List()); }
   float HandleAngle(int handle, float x, float y);
   void NextShape();
+  void RefreshWindows();
 
   DrawingTools& tools_;
   IDrawingWorkspace& workspace_;
