@@ -36,12 +36,12 @@ bool RemoveVideo(const std::string& path, ICopyDisk& disk) {
   return true;
 }
 
-/// True for a folder somewhere below another.
+/// True for a folder itself and for those below it.
 bool LiesIn(const std::string& folder, const std::string& other) {
   std::error_code failed;
   const std::string inner = std::filesystem::canonical(folder, failed).string();
   const std::string outer = std::filesystem::canonical(other, failed).string();
-  return !failed && inner.starts_with(JoinPath(outer, "/"));
+  return !failed && (inner + "/").starts_with(JoinPath(outer, "/"));
 }
 
 constexpr const char* kCannotDelete = "Unable to delete the video. Try rebooting, then try again.";

@@ -1,0 +1,119 @@
+#include "OperationsFixture.h"
+
+namespace kinalyx::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+using OperationFaults = OperationsFixture;
+
+TEST_F(OperationFaults, ALibraryThatCannotBeReachedIsLeftAlone) {
+  fs::rename(library.Root(), library.Root() + " away");
+  EXPECT_FALSE(Ops().AddInstructor("Carl").done);
+  EXPECT_NE(Message().find("cannot be reached"), std::string::npos);
+  EXPECT_FALSE(Ops().RenameStudent("Ann", "Joe Doe", "Jim").done);
+  EXPECT_FALSE(Ops().DeleteVideo(DL()).done);
+  Ops().ImportVideos({DL()}, Into());
+  EXPECT_NE(Ended().status.find("cannot be reached"), std::string::npos);
+  EXPECT_FALSE(EntryExists(library.Root()));
+  fs::rename(library.Root() + " away", library.Root());
+}
+
+/// An operation on the first video or its student.
+struct Operation {
+  const char* name;
+  void (*begin)(OperationsFixture& t);
+};
+const Operation kOperations[] = {
+    {"rename video", [](OperationsFixture& t) { t.Into()(t.Ops().RenameVideo(t.DL(), "new")); }},
+    {"move video", [](OperationsFixture& t) { t.Ops().MoveVideo(t.DL(), "Bob", "Sue", t.Into()); }},
+    {"quick launch",
+     [](OperationsFixture& t) {
+       t.library.host.answers = {true};
+       t.Ops().QuickLaunch(t.DL(), t.Into());
+     }},
+    {"rename student", [](OperationsFixture& t) { t.Into()(t.Ops().RenameStudent("Ann", "Joe Doe", "new")); }},
+    {"move student", [](OperationsFixture& t) { t.Ops().MoveStudent("Ann", "Joe Doe", "Bob", t.Into()); }},
+    {"import", [](OperationsFixture& t) { t.Ops().ImportVideos({{"Carl", "Joe Doe", t.DL().path}}, t.Into()); }},
+};
+
+/// The first video, its drawings and the profile are somewhere, nothing is left behind, and drawings never
+/// stand beside another video than theirs.
+void ExpectNothingLost(const OperationsFixture& t) {
+  const OperationResult& result = t.results.back();
+  int videos = 0;
+  int drawings = 0;
+  int profiles = 0;
+  for (const auto& entry : fs::recursive_directory_iterator(t.library.Root())) {
+    const fs::path path = entry.path();
+    if (path.filename().string()[0] == '.') ADD_FAILURE() << "left behind: " << path;
+    const std::string bytes = entry.is_regular_file() ? TempLibrary::Read(path.string()) : "";
+    videos += bytes == "video 1";
+    profiles += bytes.find("Age=44") != std::string::npos;
+    if (path.extension() != ".ved") continue;
+    ++drawings;
+    EXPECT_EQ(bytes, "1XXXSXXX");
+    // What a finished move could not take away is told of, and does no harm.
+    const std::string video = TempLibrary::Read(fs::path(path).replace_extension(".avi").string());
+    const bool told = result.done && !t.library.host.messages.empty();
+    EXPECT_TRUE(video == "video 1" || (video.empty() && told)) << path;
+  }
+  // A copy of a move whose source could not be removed is there twice.
+  EXPECT_GE(videos, 1) << result.status;
+  EXPECT_GE(drawings, 1) << result.status;
+  EXPECT_GE(profiles, 1) << result.status;
+  EXPECT_TRUE(result.done || t.Exists("Ann/Joe Doe/(001) DL.avi")) << result.status;
+}
+
+/// Does each operation again and again, within a drive and between two, on a fresh library; `harm` does its
+/// worst at the moment that it is given, and is false when the operation was over before it.
+template <typename Harm>
+void TryEverything(OperationsFixture& t, Harm harm) {
+  for (const Operation& operation : kOperations) {
+    for (const bool twoDrives : {false, true}) {
+      int moment = 0;
+      for (bool harmed = true; harmed && moment < 100; ++moment) {
+        SCOPED_TRACE(operation.name + std::string(twoDrives ? " between drives" : "") + ", " + std::to_string(moment));
+        fs::remove_all(t.library.Root());
+        t.Fill();
+        t.library.host.messages.clear();
+        harmed = harm(operation, twoDrives, moment);
+        ExpectNothingLost(t);
+      }
+      EXPECT_LT(moment, 100) << operation.name;
+    }
+  }
+}
+
+TEST_F(OperationFaults, LoseNothingWhicheverCallToTheDiskFails) {
+  TryEverything(*this, [this](const Operation& operation, bool twoDrives, int call) {
+    FailingDisk failing(call);
+    TwoDrives drives(failing);
+    Use(twoDrives ? static_cast<ICopyDisk&>(drives) : failing);
+    operation.begin(*this);
+    EXPECT_TRUE(Ended().done || !library.host.messages.empty()) << "a failure is told";
+    operations.reset();
+    return failing.Failed();
+  });
+}
+
+TEST_F(OperationFaults, LoseNothingWheneverTheUserCancels) {
+  TryEverything(*this, [this](const Operation& operation, bool twoDrives, int step) {
+    TwoDrives drives(RealCopyDisk());
+    Use(twoDrives ? static_cast<ICopyDisk&>(drives) : RealCopyDisk());
+    bool cancelled = false;
+    Ops().ShowProgress = [&, left = step](const JobProgress&) mutable {
+      if (left-- > 0) return;
+      cancelled = true;
+      Ops().Cancel();
+    };
+    operation.begin(*this);
+    Ended();
+    EXPECT_FALSE(Ops().Busy());
+    operations.reset();
+    return cancelled;
+  });
+}
+
+}  // namespace
+}  // namespace kinalyx::test

@@ -1,0 +1,91 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <memory>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "library/LibraryOperations.h"
+#include "library/TempLibrary.h"
+#include "platform/files/Folders.h"
+#include "support/CopyDisks.h"
+
+namespace kinalyx::test {
+
+/// A library with two instructors, and an analysis section in which some videos are open.
+class OperationsFixture : public testing::Test {
+ public:
+  OperationsFixture() { Fill(); }
+
+  void Fill() {
+    library.File("Ann/Joe Doe/(001) DL.avi", "video 1");
+    library.File("Ann/Joe Doe/(001) DL.ved", "1XXXSXXX");
+    library.File("Ann/Joe Doe/(002) FO.avi", "video 2");
+    library.File("Ann/Joe Doe/lessons/First.avi", "lesson");
+    library.File("Ann/Joe Doe/profile.prf", "[Profile]\nName=Joe Doe\nAge=44\n");
+    library.File("Ann/Joe Doe/profile.txt", "keeps his head down\r\n");
+    library.File("Bob/Sue/Swing.avi", "Sue's");
+  }
+
+  LibraryOperations& Ops() {
+    if (!operations) {
+      operations = std::make_unique<LibraryOperations>(
+          library.host, library.settings,
+          AnalysisLink{[this](const std::string& path) { return open.contains(path); },
+                       [this](const std::string&, const std::function<void(const std::string&)>& tell) {
+                         tell("Loading Analysis Section...");
+                         tell(slotsFree > 0 ? "Current video was sent to Analysis."
+                                            : "All 8 windows already have videos in them. Send to analysis failed.");
+                         return slotsFree;
+                       }},
+          LibraryOperations::Environment{JobRunner::On::HostTimer, disk});
+      operations->ShowStatus = [this](const std::string& words) { statuses.push_back(words); };
+    }
+    return *operations;
+  }
+  /// From now on the operations work on another disk.
+  void Use(ICopyDisk& other) {
+    operations.reset();
+    disk = &other;
+  }
+
+  LibraryVideo Video(const std::string& instructor, const std::string& student, const std::string& name) {
+    const std::string folder = instructor == kGeneralFolder ? "" : instructor + "/" + (student.empty() ? "" : student + "/");
+    return {instructor, student, library.Path(folder + name + ".avi")};
+  }
+  LibraryVideo DL() { return Video("Ann", "Joe Doe", "(001) DL"); }
+  LibraryVideo FO() { return Video("Ann", "Joe Doe", "(002) FO"); }
+
+  /// Takes the result of a long operation.
+  LibraryOperations::Done Into() {
+    results.emplace_back();
+    ended = false;
+    return [this](const OperationResult& result) {
+      results.back() = result;
+      ended = true;
+    };
+  }
+  const OperationResult& Ended() {
+    for (int turn = 0; !ended && turn < 10000; ++turn) library.host.Advance(1);
+    EXPECT_TRUE(ended);
+    return results.back();
+  }
+  std::string Message() const { return library.host.messages.empty() ? "" : library.host.messages.back(); }
+  bool Told(const std::string& words) const { return Message().find(words) != std::string::npos; }
+  bool Exists(const std::string& name) const { return EntryExists(library.Path(name)); }
+  std::string Read(const std::string& name) const { return TempLibrary::Read(library.Path(name)); }
+
+  TempLibrary library;
+  ICopyDisk* disk = &RealCopyDisk();
+  std::unique_ptr<LibraryOperations> operations;
+  std::set<std::string> open;
+  int slotsFree = 1;
+  std::vector<std::string> statuses;
+  std::vector<OperationResult> results;
+  bool ended = false;
+};
+
+}  // namespace kinalyx::test

@@ -1,0 +1,202 @@
+#include "OperationsFixture.h"
+
+#include "library/LibraryActions.h"
+#include "library/LibraryBrowser.h"
+#include "platform/files/IniFile.h"
+
+namespace kinalyx::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+using StudentOperations = OperationsFixture;
+
+TEST_F(StudentOperations, NothingHappensWithoutAChoice) {
+  const std::string noStudent = "You must select a student first.";
+  EXPECT_EQ(Ops().RenameStudent("Ann", "", "x").status, noStudent);
+  Ops().MoveStudent("General Folder", "", "Bob", Into());
+  EXPECT_EQ(Ended().status, noStudent);
+  Ops().DeleteStudent("Ann", "", Into());
+  EXPECT_EQ(Ended().status, noStudent);
+  EXPECT_TRUE(Exists("Ann/Joe Doe"));
+  EXPECT_EQ(Ops().RenameInstructor("General Folder", "X").status, "You must select an Instructor or Database first.");
+}
+
+TEST_F(StudentOperations, WhoseVideoIsOpenInAnalysisStays) {
+  const std::string student =
+      "A video from this database is open in the Analysis section. You must close the video before you can ";
+  for (const char* name : {"Ann/Joe Doe/(001) DL.avi", "Ann/Joe Doe/lessons/First.avi"}) {
+    open = {library.Path(name)};
+    EXPECT_EQ(Ops().RenameStudent("Ann", "Joe Doe", "Jim").status, student + "rename this student.");
+    Ops().MoveStudent("Ann", "Joe Doe", "Bob", Into());
+    EXPECT_EQ(Ended().status, student + "move this student.");
+    Ops().DeleteStudent("Ann", "Joe Doe", Into());
+    EXPECT_EQ(Ended().status, student + "delete this student.");
+    EXPECT_EQ(Message(), student + "delete this student.");
+    EXPECT_EQ(Ops().RenameInstructor("Ann", "Anna").status, student + "rename this database.");
+  }
+  EXPECT_EQ(Read("Ann/Joe Doe/(001) DL.avi"), "video 1");
+}
+
+TEST_F(StudentOperations, RenamesAStudentAndTheNameInTheProfile) {
+  EXPECT_EQ(Ops().RenameStudent("Ann", "Joe Doe", "O'Brien").status, "Invalid character in Student Name.");
+  EXPECT_EQ(Ops().RenameStudent("Ann", "Joe Doe", "  ").status, "You must type a name!");
+  EXPECT_EQ(Ops().RenameStudent("Ann", "Joe Doe", "Joe Doe").status, "Student rename cancelled.");
+  library.Folder("Ann/Jim");
+  EXPECT_EQ(Ops().RenameStudent("Ann", "Joe Doe", "Jim").status,
+            "The name you have chosen already exists in the database.");
+
+  const OperationResult result = Ops().RenameStudent("Ann", "Joe Doe", "Doe, Joe Jr.");
+  EXPECT_TRUE(result.done && result.refill);
+  EXPECT_EQ(result.status, "Student successfully renamed.");
+  EXPECT_EQ(result.student, "Doe, Joe Jr.");
+  EXPECT_FALSE(Exists("Ann/Joe Doe"));
+  const std::string profile = library.Path("Ann/Doe, Joe Jr./profile.prf");
+  EXPECT_EQ(ReadProfileValue("Profile", "Name", profile), "Doe, Joe Jr.");
+  EXPECT_EQ(ReadProfileValue("Profile", "Age", profile), "44");
+  // A name that differs in its case only, with blanks that nobody would see.
+  EXPECT_EQ(Ops().RenameStudent("Ann", "Doe, Joe Jr.", " doe, joe jr.  ").student, "doe, joe jr.");
+  EXPECT_TRUE(Exists("Ann/doe, joe jr./(001) DL.ved"));
+}
+
+TEST_F(StudentOperations, MovesAStudent) {
+  library.File("Bob/Joe Doe/other.avi", "another Joe");
+  Ops().MoveStudent("Ann", "Joe Doe", "Bob", Into());
+  EXPECT_EQ(Ended().status, "The Database that you have chosen already contains a student with the same name.");
+  EXPECT_TRUE(Exists("Ann/Joe Doe/(001) DL.avi"));
+  Ops().MoveStudent("Ann", "Joe Doe", "General Folder", Into());
+  EXPECT_FALSE(Ended().done);
+
+  library.Folder("Carl");
+  Ops().MoveStudent("Ann", "Joe Doe", "Carl", Into());
+  EXPECT_EQ(Ended().status, "Student Successfully Moved to Carl .");
+  EXPECT_TRUE(Ended().refill);
+  EXPECT_FALSE(Exists("Ann/Joe Doe"));
+  EXPECT_EQ(Read("Carl/Joe Doe/lessons/First.avi"), "lesson");
+  EXPECT_EQ(Read("Carl/Joe Doe/(001) DL.ved"), "1XXXSXXX");
+}
+
+TEST_F(StudentOperations, AnotherWorkstationHasBeenQuicker) {
+  // The target has been renamed: it must not come back as a bare folder.
+  Ops().MoveStudent("Ann", "Joe Doe", "Carl", Into());
+  EXPECT_FALSE(Ended().done);
+  EXPECT_TRUE(Told("cannot be found. The student was not moved."));
+  EXPECT_FALSE(Exists("Carl"));
+  EXPECT_TRUE(Exists("Ann/Joe Doe"));
+
+  // The student has been renamed: the lists are read again.
+  const std::string gone = ". It is not there any more: somebody else has renamed, moved or deleted it.";
+  fs::rename(library.Path("Ann/Joe Doe"), library.Path("Ann/Jim"));
+  const OperationResult renamed = Ops().RenameStudent("Ann", "Joe Doe", "Jack");
+  EXPECT_EQ(renamed.status, "The student could not be renamed" + gone);
+  EXPECT_TRUE(renamed.refill);
+  Ops().MoveStudent("Ann", "Joe Doe", "Bob", Into());
+  EXPECT_EQ(Ended().status, "The student was not moved" + gone);
+  EXPECT_TRUE(Ended().refill);
+  EXPECT_FALSE(Exists("Bob/Joe Doe"));
+}
+
+TEST_F(StudentOperations, AddsAStudentWhereNobodyElseIs) {
+  FieldTexts captions;
+  captions[kNameField] = "Name";
+  captions[6] = "Age";
+  FieldTexts values;
+  values[kNameField] = " Tom ";
+  values[6] = "12";
+  const OperationResult added = Ops().AddStudent("Ann", captions, values);
+  EXPECT_EQ(added.status, "New student successfully created.");
+  EXPECT_EQ(added.student, "Tom");
+  EXPECT_EQ(ReadProfileValue("Profile", "Age", library.Path("Ann/Tom/profile.prf")), "12");
+  for (const char* nowhere : {"", "General Folder", "Carl"}) EXPECT_FALSE(Ops().AddStudent(nowhere, captions, values).done);
+  EXPECT_FALSE(Exists("Tom") || Exists("Carl"));
+}
+
+TEST_F(StudentOperations, RenamesAnInstructorAndRemovesOneWhoIsEmpty) {
+  for (const char* taken : {"Bob", "General Folder", "Quick Launch"})
+    EXPECT_EQ(Ops().RenameInstructor("Ann", taken).status, "There is already an Instructor or Database with this name.");
+  EXPECT_EQ(Ops().RenameInstructor("Ann", "A:B").status, "Invalid character in Name");
+  library.Folder("Quick Launch");
+  EXPECT_FALSE(Ops().RenameInstructor("Quick Launch", "X").done);
+  const OperationResult renamed = Ops().RenameInstructor("Ann", " Anna B. ");
+  EXPECT_EQ(renamed.instructor, "Anna B.");
+  EXPECT_EQ(Read("Anna B./Joe Doe/(001) DL.ved"), "1XXXSXXX");
+
+  EXPECT_EQ(Ops().DeleteInstructor("Bob").status, "Bob still has students or videos. Move or delete them first.");
+  fs::remove_all(library.Path("Bob/Sue"));
+  library.File("Bob/loose.avi", "a video without a student");
+  EXPECT_FALSE(Ops().DeleteInstructor("Bob").done);
+  fs::remove(library.Path("Bob/loose.avi"));
+  library.File("Bob/.picture cache", "of another program");
+  EXPECT_EQ(Ops().DeleteInstructor("Bob").status,
+            "There are other files in the folder " + library.Path("Bob") + ". Move or delete them first.");
+  fs::remove(library.Path("Bob/.picture cache"));
+  EXPECT_TRUE(Ops().DeleteInstructor("Bob").done);
+  EXPECT_FALSE(Exists("Bob"));
+}
+
+TEST_F(StudentOperations, DeletesAStudentWholeOrNotAtAll) {
+  // Nothing can be removed for the whole time.
+  class Stubborn final : public TwoDrives {
+   public:
+    Stubborn() : TwoDrives(RealCopyDisk()) {}
+    int Remove(const std::string&) override {
+      errno = EBUSY;
+      return -1;
+    }
+  } stubborn;
+  Use(stubborn);
+  Ops().DeleteStudent("Ann", "Joe Doe", Into());
+  EXPECT_FALSE(Ended().done);
+  EXPECT_NE(Message().find("could not be removed"), std::string::npos);
+  EXPECT_EQ(Read("Ann/Joe Doe/(001) DL.avi"), "video 1");
+
+  Use(RealCopyDisk());
+  Ops().DeleteStudent("Ann", "Joe Doe", Into());
+  EXPECT_EQ(Ended().status, "Student Successfully removed from the system.");
+  EXPECT_TRUE(fs::is_empty(library.Path("Ann")));
+}
+
+TEST_F(StudentOperations, TakesTheUsersWord) {
+  library.settings.PrimaryName = {"Golfer", "golfer", "golfers"};
+  EXPECT_EQ(Ops().RenameStudent("Ann", "", "x").status, "You must select a golfer first.");
+  EXPECT_EQ(Ops().RenameStudent("Ann", "Joe Doe", "Jim").status, "Golfer successfully renamed.");
+  EXPECT_EQ(Ops().RenameVideo(Video("Bob", "Sue", "Swing"), "a/b").status, "Invalid character in golfer name.");
+  EXPECT_EQ(LibraryActionTip(LibraryAction::DeleteStudent, library.settings),
+            "Delete the current golfer database, profile, and all videos.");
+  EXPECT_NE(LibraryTextsFor(library.settings).deleteWarning.find("the golfer profile"), std::string::npos);
+  EXPECT_EQ(QuickLaunchCaption("Quick Launch"), "Quick Launch -");
+  EXPECT_EQ(QuickLaunchCaption("Ann"), "Quick Launch +");
+}
+
+TEST_F(StudentOperations, TheListsFollow) {
+  LastStudentInfo remembered;
+  LibraryBrowser browser(library.host.Drives(), library.settings, remembered, LibraryBrowser::Kind::Profiles);
+  browser.CapfolderSetup();
+  browser.SelectInstructor("Ann");
+  browser.SelectStudent("Joe Doe");
+  browser.SelectVideo("(002) FO");
+  const auto chosen = [&] { return browser.Instructor() + "/" + browser.Student() + "/" + browser.Video(); };
+
+  ShowResult(Ops().RenameVideo(ChosenVideo(browser), "(003) Back"), browser);
+  EXPECT_EQ(chosen(), "Ann/Joe Doe/(003) Back");
+  ShowResult(Ops().RenameStudent("Ann", "Joe Doe", "Jim"), browser);
+  EXPECT_EQ(chosen(), "Ann/Jim/(001) DL");
+  Ops().MoveStudent("Ann", "Jim", "Bob", Into());
+  ShowResult(Ended(), browser);
+  EXPECT_EQ(chosen(), "Bob/Jim/(001) DL");
+  ShowResult(Ops().DeleteVideo(ChosenVideo(browser)), browser);
+  EXPECT_EQ(chosen(), "Bob/Jim/(003) Back");
+  library.host.answers = {true};
+  Ops().QuickLaunch(ChosenVideo(browser), Into());
+  ShowResult(Ended(), browser);
+  EXPECT_EQ(browser.InstructorList(), (std::vector<std::string>{"General Folder", "Ann", "Bob", "Quick Launch"}));
+  EXPECT_EQ(chosen(), "Bob/Jim/(003) Back");
+  Ops().DeleteStudent("Bob", "Jim", Into());
+  ShowResult(Ended(), browser);
+  EXPECT_EQ(chosen(), "Bob//");
+  ShowResult(Ops().AddInstructor("Carl"), browser);
+  EXPECT_EQ(chosen(), "Carl//");
+}
+
+}  // namespace
+}  // namespace kinalyx::test
