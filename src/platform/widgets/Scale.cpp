@@ -69,13 +69,14 @@ bool SetTextPixels(QApplication& application, int pixels) {
 int Px(double designed) { return static_cast<int>(std::lround(designed * std::max(TextPixels(), kTextPixels) / kTextPixels)); }
 
 QString WithSizes(const QString& sheet) {
-  static const QRegularExpression kLength("@(\\d+)(?:-(\\d+))?");
+  static const QRegularExpression kLength("@(\\d+)(?:-(\\d+)|/(\\d+))?");
   QString result;
   qsizetype done = 0;
   for (auto found = kLength.globalMatch(sheet); found.hasNext();) {
     const auto match = found.next();
     result += sheet.mid(done, match.capturedStart() - done);
-    result += QString::number(Px(match.captured(1).toInt()) - match.captured(2).toInt()) + "px";
+    const int parts = match.hasCaptured(3) ? std::max(match.captured(3).toInt(), 1) : 1;
+    result += QString::number((Px(match.captured(1).toInt()) - match.captured(2).toInt()) / parts) + "px";
     done = match.capturedEnd();
   }
   return result + sheet.mid(done);

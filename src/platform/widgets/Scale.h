@@ -20,8 +20,8 @@ bool SetTextPixels(QApplication& application, int pixels);
 
 /// A length that was designed beside 13 pixels of text, at the present text size. Never less than designed.
 int Px(double designed);
-/// A style sheet in which "@34" is a length that grows with the text, and "@34-2" such a length less two
-/// pixels, of a frame for one. Other lengths stay as they are.
+/// A style sheet in which "@34" is a length that grows with the text, "@34-2" such a length less two pixels,
+/// of a frame for one, and "@34/2" its half, rounded down. Other lengths stay as they are.
 QString WithSizes(const QString& sheet);
 
 /// Lengths of a widget as designed; they are kept, and follow the text for as long as the widget lives.

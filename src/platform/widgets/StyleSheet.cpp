@@ -132,9 +132,9 @@ QLabel[look="heading"] { color: @heading; font-weight: 600; }
 QLabel[look="title"] { color: @heading; font-size: @18; font-weight: 600; }
 QLabel[look="brand"] { color: @accentText; font-weight: 700; }
 QLabel[look="pageTitle"] { color: @accentTextSoft; }
-QLabel[look="mark"] { background: @accent; color: @accentText; border-radius: @10; padding: 0 10px;
+QLabel[look="mark"] { background: @accent; color: @accentText; border-radius: @20/2; padding: 0 10px;
   min-height: @20; max-height: @20; font-size: @12; }
-QLabel[look="markOff"] { background: @panel; color: #808080; border-radius: @10; padding: 0 10px;
+QLabel[look="markOff"] { background: @panel; color: #808080; border-radius: @20/2; padding: 0 10px;
   min-height: @20; max-height: @20; font-size: @12; }
 QToolTip { background: @text; color: @field; border: 1px solid @text; padding: 5px 7px; font-size: @12; }
 QMenuBar { background: @panel; color: @text; border: none; border-bottom: 1px solid @line; padding: 0 8px; }
