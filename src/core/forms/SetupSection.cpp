@@ -17,7 +17,7 @@
 namespace kinalyx {
 
 namespace {
-constexpr int kWidestSection = 1240;
+constexpr int kWidestSection = 1400;  // as designed
 }
 
 SetupSection::SetupSection(const QString& name, Settings& settings, QWidget* parent)

@@ -1,10 +1,12 @@
 #include "library/forms/FieldGrid.h"
 
+#include <QEvent>
 #include <QLabel>
 #include <QPainter>
 
 #include "library/forms/Text.h"
 #include "platform/widgets/Panel.h"
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
@@ -77,7 +79,7 @@ void FieldGrid::ShowFields(std::vector<int> fields) {
 
 int FieldGrid::ColumnsFor(int width) const {
   const int most = std::min<int>(kMostColumns, static_cast<int>(fields_.size()));
-  int columns = std::clamp(width / kLeastCell, 1, std::max(1, most));
+  int columns = std::clamp(width / Px(kLeastCell), 1, std::max(1, most));
   // No ragged last row where one column less fills all rows: 4 rather than 5 for eight fields.
   const int count = static_cast<int>(fields_.size());
   if (columns > 2 && count % columns != 0 && count % (columns - 1) == 0) --columns;
@@ -86,18 +88,18 @@ int FieldGrid::ColumnsFor(int width) const {
 
 int FieldGrid::heightForWidth(int width) const {
   const int columns = ColumnsFor(width);
-  return (static_cast<int>(fields_.size()) + columns - 1) / columns * kCellHeight;
+  return (static_cast<int>(fields_.size()) + columns - 1) / columns * Px(kCellHeight);
 }
 
-QSize FieldGrid::sizeHint() const { return {4 * kLeastCell, heightForWidth(width())}; }
+QSize FieldGrid::sizeHint() const { return {4 * Px(kLeastCell), heightForWidth(width())}; }
 
-QSize FieldGrid::minimumSizeHint() const { return {kLeastCell, heightForWidth(width())}; }
+QSize FieldGrid::minimumSizeHint() const { return {Px(kLeastCell), heightForWidth(width())}; }
 
 QRect FieldGrid::CellRect(int place) const {
   const int columns = ColumnsFor(width());
   const int column = place % columns;
   const int left = column * width() / columns;
-  return {left, place / columns * kCellHeight, (column + 1) * width() / columns - left, kCellHeight};
+  return {left, place / columns * Px(kCellHeight), (column + 1) * width() / columns - left, Px(kCellHeight)};
 }
 
 void FieldGrid::Place() {
@@ -106,14 +108,22 @@ void FieldGrid::Place() {
   for (std::size_t place = 0; place < fields_.size(); ++place) {
     const auto field = static_cast<std::size_t>(fields_[place]);
     const QRect cell = CellRect(static_cast<int>(place)).adjusted(kGap, 0, -8, 0);
-    captions_[field]->setGeometry(cell.left(), cell.top() + 6, cell.width(), 16);
-    values_[field]->setGeometry(cell.left(), cell.top() + 22, cell.width(), 18);
+    captions_[field]->setGeometry(cell.left(), cell.top() + Px(6), cell.width(), Px(16));
+    values_[field]->setGeometry(cell.left(), cell.top() + Px(22), cell.width(), Px(18));
     captions_[field]->show();
     values_[field]->show();
   }
 }
 
 void FieldGrid::resizeEvent(QResizeEvent*) {
+  Place();
+  updateGeometry();
+}
+
+/// Other letters take other rooms.
+void FieldGrid::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() != QEvent::StyleChange) return;
   Place();
   updateGeometry();
 }

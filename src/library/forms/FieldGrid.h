@@ -34,6 +34,7 @@ class FieldGrid : public QWidget {
 
  protected:
   void resizeEvent(QResizeEvent*) override;
+  void changeEvent(QEvent* event) override;
   void paintEvent(QPaintEvent*) override;
 
  private:

@@ -1,26 +1,43 @@
 #include "library/forms/FieldsEditor.h"
 
 #include <QBoxLayout>
+#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 
 #include "library/forms/Text.h"
 #include "platform/widgets/Panel.h"
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
 
+namespace {
+
+constexpr int kLeastColumn = 210;  // as designed
+
+}  // namespace
+
 FieldsEditor::FieldsEditor(IHost& host, ProfileFields& fields, std::function<void()> changed, QWidget* parent)
     : QWidget(parent), host_(host), fields_(fields), changed_(std::move(changed)) {
-  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
-  grid_ = new QGridLayout(this);
-  grid_->setContentsMargins(0, 0, 0, 0);
+  auto* whole = new QVBoxLayout(this);
+  whole->setContentsMargins(0, 0, 6, 0);
+  auto* panel = new Panel("FieldsTitle", "Profile Fields");
+  whole->addWidget(panel);
+  whole->addStretch(1);
+  auto* rows = new QVBoxLayout;
+  rows->setContentsMargins(kGap, 10, kGap, 14);
+  rows->setSpacing(10);
+  rows->addWidget(MakeLabel("FieldsText", "What each line of a profile is called", "caption"));
+  grid_ = new QGridLayout;
   grid_->setHorizontalSpacing(kGap);
   grid_->setVerticalSpacing(8);
+  rows->addLayout(grid_);
+  panel->Body()->addLayout(rows);
   for (int field = 0; field < kProfileFields; ++field) {
     const auto at = static_cast<std::size_t>(field);
-    cells_[at] = new QWidget(this);
+    cells_[at] = new QWidget(panel);
     auto* cell = new QVBoxLayout(cells_[at]);
     cell->setContentsMargins(0, 0, 0, 0);
     cell->setSpacing(2);
@@ -63,8 +80,13 @@ void FieldsEditor::resizeEvent(QResizeEvent* event) {
   Arrange();
 }
 
+void FieldsEditor::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::StyleChange && grid_) Arrange();
+}
+
 void FieldsEditor::Arrange() {
-  const int columns = std::clamp(width() / 210, 1, 4);
+  const int columns = std::clamp(width() / Px(kLeastColumn), 1, 4);
   if (columns == columns_) return;
   columns_ = columns;
   const int rows = (kProfileFields + columns - 1) / columns;

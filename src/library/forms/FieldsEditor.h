@@ -25,6 +25,7 @@ class FieldsEditor : public QWidget {
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   void Store(int field);
@@ -33,7 +34,7 @@ class FieldsEditor : public QWidget {
   IHost& host_;
   ProfileFields& fields_;
   std::function<void()> changed_;
-  class QGridLayout* grid_;
+  class QGridLayout* grid_ = nullptr;
   int columns_ = 0;
   std::array<QWidget*, kProfileFields> cells_{};
   std::array<QLineEdit*, kProfileFields> boxes_{};

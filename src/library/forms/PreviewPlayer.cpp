@@ -11,6 +11,7 @@
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Figures.h"
 #include "platform/widgets/Panel.h"
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
@@ -25,7 +26,7 @@ class SeekSlider final : public QSlider {
     setAccessibleName("Position in the video");
     setFocusPolicy(Qt::NoFocus);
     setCursor(Qt::PointingHandCursor);
-    setFixedHeight(20);
+    FixHeight(this, 20);
   }
 
  protected:
@@ -69,7 +70,7 @@ PreviewPlayer::PreviewPlayer(PlayerServices& services, QWidget* parent) : QFrame
   rows->setContentsMargins(0, 0, 0, 0);
   rows->setSpacing(0);
   stage_ = new QWidget;
-  stage_->setMinimumHeight(60);
+  LeastHeight(stage_, 60);
   view_ = new VideoView(services, stage_);
   view_->setObjectName("VideoPlay1");
   view_->setCursor(Qt::PointingHandCursor);

@@ -10,6 +10,7 @@
 
 #include "library/forms/Text.h"
 #include "platform/widgets/Buttons.h"
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
@@ -44,8 +45,8 @@ ProfileEditor::ProfileEditor(const Settings& settings, QWidget* parent)
   instructors_->setObjectName("Combo2");
   instructors_->setAccessibleName("Instructor or Database");
   instructors_->setPlaceholderText("Select an Instructor or Database");
-  instructors_->setMinimumHeight(kButtonHeight);
-  instructors_->setMaximumWidth(420);
+  LeastHeight(instructors_, kButtonHeight);
+  MostWidth(instructors_, 420);
   instructor->addWidget(caption);
   instructor->addWidget(instructors_);
   rows->addWidget(instructorPart_);
@@ -152,9 +153,14 @@ void ProfileEditor::resizeEvent(QResizeEvent* event) {
   Arrange();
 }
 
+void ProfileEditor::changeEvent(QEvent* event) {
+  Panel::changeEvent(event);
+  if (event->type() == QEvent::StyleChange && grid_) Arrange();
+}
+
 /// As many columns as have room, read downward like a form on paper.
 void ProfileEditor::Arrange() {
-  const int columns = std::clamp((width() - 2 * kGap) / kLeastColumn, 1, 4);
+  const int columns = std::clamp((width() - 2 * kGap) / Px(kLeastColumn), 1, 4);
   if (columns == columns_) return;
   columns_ = columns;
   const int rows = (kProfileFields + columns - 1) / columns;

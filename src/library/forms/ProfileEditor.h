@@ -43,6 +43,7 @@ class ProfileEditor : public Panel {
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   void SetCaptions(const FieldTexts& captions);
@@ -54,7 +55,7 @@ class ProfileEditor : public Panel {
   QLabel* text_;
   QWidget* instructorPart_;
   QComboBox* instructors_;
-  class QGridLayout* grid_;
+  class QGridLayout* grid_ = nullptr;
   std::array<QWidget*, kProfileFields> cells_{};
   std::array<QLabel*, kProfileFields> captions_{};
   std::array<QLineEdit*, kProfileFields> boxes_{};

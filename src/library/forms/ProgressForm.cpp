@@ -7,6 +7,7 @@
 #include "library/forms/Text.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
@@ -23,7 +24,7 @@ ProgressForm::ProgressForm(IHost& host, LibraryOperations& operations, QWidget* 
     : QDialog(over), host_(host), operations_(operations) {
   setObjectName("ProgressForm");
   setWindowModality(Qt::ApplicationModal);
-  setFixedWidth(440);
+  FixWidth(this, 440);
   auto* rows = new QVBoxLayout(this);
   rows->setContentsMargins(24, 20, 24, 20);
   rows->setSpacing(8);
