@@ -9,8 +9,10 @@
 #include <cmath>
 #include <utility>
 
+#include "core/WindowModes.h"
 #include "library/forms/OpenVidForm.h"
 #include "platform/widgets/Panel.h"
+#include "platform/widgets/Scale.h"
 #include "video/KeyCodes.h"
 #include "video/forms/VideoView.h"
 #include "workspace/forms/CalibrationPanel.h"
@@ -31,7 +33,10 @@ namespace kinalyx {
 namespace {
 
 constexpr int kEdge = 8;  // between a caption and the edge of its picture
-constexpr int kOpenPanelWidth = 290;
+constexpr int kOpenPanelWidth = 290;    // as designed, beside the stage of a large window
+constexpr int kOpenPanelNarrow = 264;   // and of a small one
+constexpr int kOpenPanelWidest = 360;
+constexpr int kDesignedWidth = 1280;
 
 QString Text(const std::string& text) { return QString::fromStdString(text); }
 
@@ -71,6 +76,7 @@ AnalysisForm::AnalysisForm(IHost& host, Settings& settings, PlayerServices& play
   };
   rows->addWidget(compare_->Foot());
   setFocusProxy(keyBox_);
+  ScaleBars();
   analysis_->Start();
 }
 
@@ -121,12 +127,6 @@ bool AnalysisForm::CloseAll() {
   return analysis_->Commands().PreparetoExit();
 }
 
-std::string AnalysisForm::SendToAnalysis(const std::string& path) {
-  std::string status;
-  analysis_->Slots().SendToAnalysis(path, [&](const std::string& words) { status = words; });
-  return status;
-}
-
 void AnalysisForm::Run(const std::string& command) { analysis_->Commands().Run(command); }
 
 // ---------------------------------------------------------------- keys and events
@@ -159,6 +159,19 @@ void AnalysisForm::showEvent(QShowEvent* event) {
   // Players are told of their size when they come on the screen, and start with an empty picture then.
   for (int slot = 1; slot <= kSlots; ++slot) analysis_->Slots().MP(slot).Refresh();
   FocusKeyBox();
+}
+
+void AnalysisForm::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() != QEvent::StyleChange || !stage_ || !ScaleBars()) return;
+  analysis_->StageResized();
+  PlaceOpenPanel();
+}
+
+/// The bars beneath the pictures grow with the text; true when they have.
+bool AnalysisForm::ScaleBars() {
+  const double scale = Px(100) / 100.0;
+  return std::exchange(analysis_->Slots().BarScale, scale) != scale;
 }
 
 bool AnalysisForm::eventFilter(QObject* watched, QEvent* event) {
@@ -296,7 +309,7 @@ void AnalysisForm::MakeOpenPanel() {
   openChoice_ = settings_.OpenDlgChoice;
   if (openChoice_ == 0 || openChoice_ == 1) {
     openPanel_ = new OpenVidForm(players_, settings_, remembered_, std::move(calls), this);
-    openPanel_->setFixedWidth(kOpenPanelWidth);
+    FitOpenPanel();
     middle_->insertWidget(openChoice_ == 1 ? 0 : -1, openPanel_);
   } else {
     openPanel_ = new OpenVidCForm(players_, settings_, remembered_, std::move(calls), stage_);
@@ -312,8 +325,17 @@ void AnalysisForm::ShowOpenPanel() {
   openPanel_->Open();
 }
 
+/// Beside the stage it has its share of the width; a small window leaves more to the videos.
+void AnalysisForm::FitOpenPanel() {
+  if (!openPanel_ || openPanel_->parentWidget() == stage_) return;
+  const bool small = ScreenClass(width() * kTwipsPerPixel) == 1;
+  openPanel_->setFixedWidth(small ? Px(kOpenPanelNarrow)
+                                  : std::clamp(width() * kOpenPanelWidth / kDesignedWidth, Px(kOpenPanelWidth), Px(kOpenPanelWidest)));
+}
+
 /// Beside the stage the layout places it; over the stage it stands in the middle.
 void AnalysisForm::PlaceOpenPanel() {
+  FitOpenPanel();
   if (!openPanel_ || openPanel_->isHidden() || openPanel_->parentWidget() != stage_) return;
   const QSize room = stage_->size() - QSize(2 * kEdge, 2 * kEdge);
   openPanel_->resize(openPanel_->sizeHint().boundedTo(room).expandedTo(openPanel_->minimumSize()));
@@ -332,6 +354,7 @@ void AnalysisForm::CommandsChanged() {
   colors_->SetLive(drawing);
   edits_->Update();
   for (VideoCell* cell : cells_) cell->MP().setCursor(drawing ? Qt::CrossCursor : Qt::ArrowCursor);
+  compare_->SetDrawing(drawing);
   playBar_->SetVideo(analysis_->Slots().HasVideo(analysis_->Slots().CurrentWindow));
   playBar_->SetLocked(analysis_->Compare().Locks().IsLocked(analysis_->Slots().CurrentWindow));
 }

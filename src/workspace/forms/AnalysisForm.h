@@ -42,8 +42,6 @@ class AnalysisForm : public QWidget, private IWorkspaceView {
   void Entered() { FocusKeyBox(); }
   /// Writes and closes all videos. False when the user kept one open, because its drawings could not be saved.
   bool CloseAll();
-  /// Opens a video in the first free window. The result is for a status line.
-  std::string SendToAnalysis(const std::string& path);
   void SettingsChanged() { analysis_->SettingsChanged(); }
 
   AnalysisWorkspace& Analysis() { return *analysis_; }
@@ -51,6 +49,7 @@ class AnalysisForm : public QWidget, private IWorkspaceView {
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void showEvent(QShowEvent* event) override;
+  void changeEvent(QEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
@@ -58,6 +57,8 @@ class AnalysisForm : public QWidget, private IWorkspaceView {
   void MakeOpenPanel();
   void CloseOpenPanel();
   void PlaceOpenPanel();
+  void FitOpenPanel();
+  bool ScaleBars();
   void Run(const std::string& command);
   void PlaceCaption();
   QRect Pixels(const TwipRect& place) const;

@@ -8,6 +8,7 @@
 #include <QRadioButton>
 
 #include "platform/widgets/Panel.h"
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
@@ -26,19 +27,19 @@ CalibrationPanel::CalibrationPanel(RulerCalibration& ruler, const Settings& sett
   QLabel* words = MakeLabel("CalibHelp", tr("Draw a line along something whose length you know, then type that length."),
                             nullptr, this);
   words->setWordWrap(true);
-  words->setFixedWidth(280);
+  FixWidth(words, 280);
   Body()->addWidget(words);
 
   auto* row = new QHBoxLayout;
   row->addWidget(MakeLabel("Label3", tr("Line drawn"), nullptr, this));
   length_ = MakeLabel("Label4", "", nullptr, this);
-  length_->setMinimumWidth(64);
-  length_->setFont(UiFont(kTextPixels, 600));
+  LeastWidth(length_, 64);
+  FixFont(length_, kTextPixels, 600);
   row->addWidget(length_, 1);
   row->addWidget(MakeLabel("Label5", tr("Length"), nullptr, this));
   typed_ = new QLineEdit(this);
   typed_->setObjectName("Text2");
-  typed_->setFixedWidth(84);
+  FixWidth(typed_, 84);
   typed_->setMaxLength(12);
   row->addWidget(typed_);
   Body()->addLayout(row);

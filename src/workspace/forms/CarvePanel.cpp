@@ -10,6 +10,8 @@
 #include <QSlider>
 
 #include "platform/widgets/Panel.h"
+#include "platform/widgets/Scale.h"
+#include "platform/widgets/Theme.h"
 #include "workspace/PlayerPlace.h"
 #include "workspace/forms/StageLook.h"
 
@@ -25,7 +27,7 @@ CarvePanel::CarvePanel(Carve& carve, QWidget* parent)
   rows->setSpacing(8);
   hint_ = MakeLabel("CarveHint", {}, nullptr, content_);
   hint_->setWordWrap(true);
-  hint_->setFixedSize(250, 2 * hint_->fontMetrics().lineSpacing() + 4);
+  FixWidth(hint_, 250);
   rows->addWidget(hint_);
   auto* scale = new QHBoxLayout;
   scale->setSpacing(8);
@@ -39,7 +41,7 @@ CarvePanel::CarvePanel(Carve& carve, QWidget* parent)
   CScroll_->setFocusPolicy(Qt::TabFocus);
   scale->addWidget(CScroll_, 1);
   percent_ = MakeLabel("CScrollPercent", {}, nullptr, content_);
-  percent_->setMinimumWidth(48);
+  LeastWidth(percent_, 48);
   percent_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   scale->addWidget(percent_);
   rows->addLayout(scale);
@@ -94,7 +96,11 @@ void CarvePanel::changeEvent(QEvent* event) {
   if (event->type() == QEvent::StyleChange && content_) Dress();
 }
 
-void CarvePanel::Dress() { WearStageSheet(content_, kCompareSheet); }
+void CarvePanel::Dress() {
+  WearStageSheet(content_, kCompareSheet);
+  // Two lines, whatever it says: the card keeps its height.
+  hint_->setFixedHeight(2 * QFontMetrics(UiFont()).lineSpacing() + 4);
+}
 
 // ---------------------------------------------------------------- CarveCanvas
 

@@ -7,12 +7,13 @@
 
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
 namespace {
 
-constexpr int kPlanWidth = 396;
+constexpr int kPlanWidth = 396;  // as designed
 constexpr int kPlanHeight = 224;
 
 }  // namespace
@@ -26,11 +27,11 @@ CloneForm::CloneForm(const std::vector<Window>& windows, QWidget* parent) : QDia
   auto* words = MakeLabel("CloneText",
                           tr("Clone all drawings to another window. Select the window to copy to and click 'OK'"), nullptr, this);
   words->setWordWrap(true);
-  words->setFixedWidth(kPlanWidth);
+  FixWidth(words, kPlanWidth);
   rows->addWidget(words);
 
   auto* plan = new QWidget(this);
-  plan->setFixedSize(kPlanWidth, kPlanHeight);
+  FixSize(plan, {kPlanWidth, kPlanHeight});
   rows->addWidget(plan);
   windows_ = new QButtonGroup(this);
   QRect whole;
@@ -38,10 +39,10 @@ CloneForm::CloneForm(const std::vector<Window>& windows, QWidget* parent) : QDia
   const auto scaled = [](int at, int size, int room) { return size > 0 ? at * room / size : 0; };
   for (const Window& window : windows) {
     auto* button = new Button(QString("WindowBtn%1").arg(window.number), QString::number(window.number), {}, Look::Quiet, plan);
-    const int left = scaled(window.place.left() - whole.left(), whole.width(), kPlanWidth);
-    const int top = scaled(window.place.top() - whole.top(), whole.height(), kPlanHeight);
-    const int right = scaled(window.place.left() + window.place.width() - whole.left(), whole.width(), kPlanWidth);
-    const int bottom = scaled(window.place.top() + window.place.height() - whole.top(), whole.height(), kPlanHeight);
+    const int left = scaled(window.place.left() - whole.left(), whole.width(), plan->width());
+    const int top = scaled(window.place.top() - whole.top(), whole.height(), plan->height());
+    const int right = scaled(window.place.left() + window.place.width() - whole.left(), whole.width(), plan->width());
+    const int bottom = scaled(window.place.top() + window.place.height() - whole.top(), whole.height(), plan->height());
     // Fixed: the style gives buttons a height of their own.
     button->setStyleSheet("min-height: 0; max-height: 10000px;");
     button->setFixedSize(std::max(20, right - left - 4), std::max(20, bottom - top - 4));
@@ -82,6 +83,7 @@ CloneForm::CloneForm(const std::vector<Window>& windows, QWidget* parent) : QDia
   }
   connect(ok, &QPushButton::clicked, this, &QDialog::accept);
   connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+  if (parent) ScaleForm(*this, *parent);
 }
 
 int CloneForm::Target() const { return std::max(0, windows_->checkedId()); }

@@ -5,6 +5,7 @@
 #include <QToolButton>
 
 #include "drawing/DrawingTools.h"
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
@@ -20,7 +21,7 @@ class ColorButton : public QToolButton {
     colour_ = ColorOf(kColorChoices[static_cast<std::size_t>(index)]);
     setObjectName(QString("ColorChoiceBtn%1").arg(index));
     setAccessibleName(kNames[index]);
-    setFixedSize(22, 24);
+    FixSize(this, {22, 24});
     setCheckable(true);
     setFocusPolicy(Qt::NoFocus);
     setCursor(Qt::PointingHandCursor);
@@ -38,11 +39,11 @@ class ColorButton : public QToolButton {
     if (isChecked() || (isEnabled() && underMouse())) {
       painter.setPen(QPen(isChecked() ? theme.heading : theme.muted, 2));
       painter.setBrush(Qt::NoBrush);
-      painter.drawEllipse(middle, 9.5, 9.5);
+      painter.drawEllipse(middle, width() * 0.43, width() * 0.43);
     }
     painter.setPen(QPen(isEnabled() ? Mix(theme.text, fill, 0.35) : Mix(theme.faint, theme.panel, 0.5), 1));
     painter.setBrush(fill);
-    painter.drawEllipse(middle, 6.5, 6.5);
+    painter.drawEllipse(middle, width() * 0.3, width() * 0.3);
   }
 
  private:

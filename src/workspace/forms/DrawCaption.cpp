@@ -7,6 +7,7 @@
 
 #include "platform/widgets/Icons.h"
 #include "platform/widgets/Panel.h"
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 #include "workspace/forms/StageLook.h"
 
@@ -20,12 +21,12 @@ DrawCaption::DrawCaption(QWidget* parent) : QFrame(parent) {
   row->setSpacing(8);
   swatch_ = new QFrame(this);
   swatch_->setObjectName("VectorColorDisplay");
-  swatch_->setFixedSize(14, 14);
+  FixSize(swatch_, {14, 14});
   text_ = MakeLabel("DrawText", "", nullptr, this);
   off_ = new QToolButton(this);
   off_->setObjectName("DrawOffBtn");
-  off_->setFixedSize(22, 22);
-  off_->setIconSize({14, 14});
+  FixSize(off_, {22, 22});
+  FixIcon(off_, 14);
   off_->setFocusPolicy(Qt::NoFocus);
   connect(off_, &QToolButton::clicked, this, &DrawCaption::Off);
   row->addWidget(swatch_);

@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <iterator>
 
+#include "platform/widgets/Scale.h"
 #include "workspace/forms/StageLook.h"
 
 namespace kinalyx {
@@ -18,7 +19,7 @@ constexpr int kHeight = 46;
 DualBar::DualBar(CompareModes& modes, Workspace& workspace, QWidget* parent) : QFrame(parent), modes_(modes) {
   setObjectName("DualFrame");
   setProperty("look", "bar");
-  setFixedHeight(kHeight);
+  FixHeight(this, kHeight);
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(10, 6, 10, 6);
   row->setSpacing(4);
@@ -37,7 +38,7 @@ DualBar::DualBar(CompareModes& modes, Workspace& workspace, QWidget* parent) : Q
   play_ = add("DualPlayBtn", "play", tr("Play the locked videos together"));
   forward_ = add("DualControl1", "step-forward", tr("Locked videos forward one frame; hold to go on"));
   repeat_ = add("DualRepeatBtn", "loop", tr("Play the locked videos again and again"));
-  play_->setFixedWidth(44);
+  FixWidth(play_, 44);
   play_->setProperty("main", true);
   repeat_->setCheckable(true);
   for (QToolButton* step : {back_, forward_}) {
@@ -51,7 +52,7 @@ DualBar::DualBar(CompareModes& modes, Workspace& workspace, QWidget* parent) : Q
   speed_->setAccessibleName(speed_->toolTip());
   speed_->setFocusPolicy(Qt::TabFocus);
   for (const int percent : kSpeeds) speed_->addItem(QString("%1 %").arg(percent), percent);
-  speed_->setFixedWidth(84);
+  FixWidth(speed_, 84);
   row->addWidget(speed_);
   row->addSpacing(6);
   scroll_ = new BoundedSeekBar(this);
@@ -60,7 +61,7 @@ DualBar::DualBar(CompareModes& modes, Workspace& workspace, QWidget* parent) : Q
   row->addWidget(scroll_, 1);
   line_ = new FigureLabel("DualLine", {}, this);
   line_->setToolTip(tr("Positions of the locked videos"));
-  line_->setMinimumWidth(84);
+  LeastWidth(line_, 84);
   line_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   row->addWidget(line_);
 

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "platform/widgets/Panel.h"
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 #include "workspace/forms/StageLook.h"
 #include "workspace/forms/StageParts.h"
@@ -49,8 +50,7 @@ EditStrip::EditStrip(QWidget* stage) : QFrame(stage) {
   row->addWidget(multi_);
   row->addSpacing(kWordsGap);
   words_ = MakeLabel("EditWords", {}, nullptr, this);
-  words_->setFont(UiFont(12));
-  words_->setMinimumWidth(words_->fontMetrics().horizontalAdvance("Parallelogram, 10 of 10"));
+  FixFont(words_, 12, 400);
   words_->setAttribute(Qt::WA_TransparentForMouseEvents);
   row->addWidget(words_);
   row->addSpacing(kWordsGap);
@@ -162,12 +162,16 @@ void EditStrip::mouseMoveEvent(QMouseEvent* event) {
 
 void EditStrip::changeEvent(QEvent* event) {
   QFrame::changeEvent(event);
-  if (event->type() == QEvent::StyleChange && words_) Dress();
+  if (event->type() == QEvent::StyleChange && words_) {
+    Dress();
+    if (!isHidden()) Arrange();
+  }
 }
 
 void EditStrip::Dress() {
   WearStageSheet(this, kStripSheet);
   DressStageButtons(this);
+  words_->setMinimumWidth(QFontMetrics(UiFont(12)).horizontalAdvance("Parallelogram, 10 of 10"));
 }
 
 }  // namespace kinalyx

@@ -8,6 +8,7 @@
 
 #include "platform/widgets/Icons.h"
 #include "platform/widgets/Panel.h"
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 #include "workspace/forms/StageLook.h"
 
@@ -19,17 +20,18 @@ FloatCard::FloatCard(const QString& name, const QString& title, QWidget* parent)
   setCursor(Qt::ArrowCursor);
   auto* rows = new QVBoxLayout(this);
   rows->setContentsMargins(14, 8, 14, 14);
+  rows->setSizeConstraint(QLayout::SetFixedSize);
   rows->setSpacing(8);
   auto* head = new QHBoxLayout;
   QLabel* caption = MakeLabel(name + "Title", title, nullptr, this);
-  caption->setFont(UiFont(kTextPixels, 600));
+  FixFont(caption, kTextPixels, 600);
   caption->setAttribute(Qt::WA_TransparentForMouseEvents);
   head->addWidget(caption, 1);
   close_ = new QToolButton(this);
   close_->setObjectName(name + "Close");
   close_->setToolTip(tr("Close"));
-  close_->setFixedSize(24, 24);
-  close_->setIconSize({14, 14});
+  FixSize(close_, {24, 24});
+  FixIcon(close_, 14);
   close_->setFocusPolicy(Qt::NoFocus);
   connect(close_, &QToolButton::clicked, this, &FloatCard::CloseWanted);
   head->addWidget(close_);
@@ -43,7 +45,7 @@ FloatCard::FloatCard(const QString& name, const QString& title, QWidget* parent)
 }
 
 void FloatCard::Open(Place first) {
-  adjustSize();
+  ScaleForm(*this, *parentWidget());
   const QRect room = parentWidget()->rect();
   if (!moved_) move(first == Place::Middle ? room.center() - rect().center() : QPoint(room.right() - width() - 14, 52));
   MakeRoom();

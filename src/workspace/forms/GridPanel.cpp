@@ -8,6 +8,7 @@
 #include <QSlider>
 
 #include "platform/widgets/Panel.h"
+#include "platform/widgets/Scale.h"
 #include "workspace/forms/StageLook.h"
 #include "workspace/forms/StageParts.h"
 
@@ -16,7 +17,7 @@ namespace kinalyx {
 GridPanel::GridPanel(DrawingEdits& edits, QWidget* stage)
     : FloatCard("GridPanel", tr("Adjust Grid Size"), stage), edits_(edits) {
   content_ = new QWidget(this);
-  content_->setFixedWidth(280);
+  FixWidth(content_, 280);
   auto* rows = new QVBoxLayout(content_);
   rows->setContentsMargins(0, 0, 0, 0);
   rows->setSpacing(8);

@@ -5,6 +5,7 @@
 #include <QListWidget>
 #include <QPushButton>
 
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 #include "workspace/forms/StageLook.h"
 #include "workspace/forms/StageParts.h"
@@ -15,7 +16,7 @@ namespace {
 constexpr const char* kListSheet =
     "QListWidget { background: @ground; color: @ink; border: 1px solid @cardLine; border-radius: 6px; outline: none; }"
     "QListWidget:focus { border-color: @accent; }"
-    "QListWidget::item { padding: 0 8px; height: 28px; }"
+    "QListWidget::item { padding: 0 8px; height: @28; }"
     "QListWidget::item:hover { background: @hover; }"
     "QListWidget::item:selected { background: @accentFill; color: @ink; }";
 
@@ -38,7 +39,7 @@ MacroForm::MacroForm(DrawingEdits& edits, QWidget* stage)
   lstMacro_ = new QListWidget(content_);
   lstMacro_->setObjectName("lstMacro");
   lstMacro_->setAccessibleName(tr("Macros"));
-  lstMacro_->setFixedSize(190, 240);
+  FixSize(lstMacro_, {190, 240});
   lstMacro_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   lstMacro_->setTextElideMode(Qt::ElideRight);
   lstMacro_->setUniformItemSizes(true);
@@ -47,7 +48,7 @@ MacroForm::MacroForm(DrawingEdits& edits, QWidget* stage)
   auto* right = new QVBoxLayout;
   right->setSpacing(10);
   picture_ = new SurfaceView("MacroPic", content_);
-  picture_->setFixedSize(264, 198);
+  FixSize(picture_, {264, 198});
   picture_->show();
   right->addWidget(picture_);
   auto* buttons = new QHBoxLayout;

@@ -5,6 +5,7 @@
 
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 #include "workspace/forms/MacroForm.h"
 #include "workspace/forms/StageParts.h"
@@ -18,7 +19,7 @@ MacroNameForm::MacroNameForm(const ShapeList& drawing, const ShapeLook& look, QW
   rows->setContentsMargins(kGap, kGap, kGap, kGap);
   rows->setSpacing(kGap);
   auto* picture = new SurfaceView("MacroNamePic", this);
-  picture->setFixedSize(320, 200);
+  FixSize(picture, {320, 200});
   picture->show();
   ShowDrawing(*picture, drawing, look);
   rows->addWidget(picture);
@@ -42,6 +43,7 @@ MacroNameForm::MacroNameForm(const ShapeList& drawing, const ShapeLook& look, QW
   connect(ok, &QPushButton::clicked, this, &QDialog::accept);
   connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
   name_->setFocus();
+  if (parent) ScaleForm(*this, *parent);
 }
 
 QString MacroNameForm::Name() const { return name_->text().trimmed(); }

@@ -9,6 +9,7 @@
 #include <QPushButton>
 
 #include "platform/widgets/Panel.h"
+#include "platform/widgets/Scale.h"
 #include "workspace/forms/StageLook.h"
 #include "workspace/forms/StageParts.h"
 
@@ -82,10 +83,10 @@ MultiPicturePanel::MultiPicturePanel(MultiPicture& strip, std::function<void()> 
 
   auto* controls = new QWidget(this);
   controls->setObjectName("New Carve");
-  controls->setFixedWidth(kControls);
+  FixWidth(controls, kControls);
   auto* column = new QVBoxLayout(controls);
   column->setContentsMargins(0, 0, 0, 0);
-  column->setSpacing(6);
+  column->setSpacing(3);
   auto* skip = new QHBoxLayout;
   skip->addWidget(MakeLabel("SkipLabel", tr("Sequence of Frames every"), nullptr, controls), 1);
   SkipBox_ = new QComboBox(controls);
@@ -95,7 +96,7 @@ MultiPicturePanel::MultiPicturePanel(MultiPicture& strip, std::function<void()> 
   SkipBox_->setValidator(new QIntValidator(1, 999, SkipBox_));
   SkipBox_->setToolTip(tr("Frames from one picture to the next"));
   SkipBox_->setAccessibleName(tr("Sequence of Frames every"));
-  SkipBox_->setFixedWidth(64);
+  FixWidth(SkipBox_, 64);
   for (const int frames : kSkips) SkipBox_->addItem(QString::number(frames));
   SkipBox_->setCurrentText(QString::number(strip.Skip()));
   connect(SkipBox_, &QComboBox::currentTextChanged, this, [this](const QString& text) {
@@ -124,7 +125,7 @@ MultiPicturePanel::MultiPicturePanel(MultiPicture& strip, std::function<void()> 
   Dress();
 }
 
-int MultiPicturePanel::StripWidth(int stageWidth) { return std::max(0, stageWidth - kControls - 3 * kMargin); }
+int MultiPicturePanel::StripWidth(int stageWidth) { return std::max(0, stageWidth - Px(kControls) - 3 * kMargin); }
 
 void MultiPicturePanel::Show(const Surface& strip, int pictures) { MFPanel_->Show(strip, pictures); }
 

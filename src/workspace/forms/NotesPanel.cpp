@@ -9,6 +9,7 @@
 #include "library/Sidecar.h"
 #include "platform/widgets/Icons.h"
 #include "platform/widgets/Panel.h"
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 #include "workspace/forms/StageLook.h"
 
@@ -28,13 +29,13 @@ NotesPanel::NotesPanel(VideoNotes& notes, QWidget* parent) : QFrame(parent), not
   rows->setSpacing(4);
   auto* head = new QHBoxLayout;
   QLabel* title = MakeLabel("NotesTitle", tr("Video notes"), nullptr, this);
-  title->setFont(UiFont(kTextPixels, 600));
+  FixFont(title, kTextPixels, 600);
   head->addWidget(title, 1);
   close_ = new QToolButton(this);
   close_->setObjectName("NotesClose");
   close_->setToolTip(tr("Close the notes"));
-  close_->setFixedSize(22, 22);
-  close_->setIconSize({14, 14});
+  FixSize(close_, {22, 22});
+  FixIcon(close_, 14);
   close_->setFocusPolicy(Qt::NoFocus);
   connect(close_, &QToolButton::clicked, this, [this] { notes_.Close(); });
   head->addWidget(close_);

@@ -6,12 +6,14 @@
 #include <algorithm>
 
 #include "platform/widgets/Icons.h"
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 #include "workspace/forms/StageLook.h"
 
 namespace kinalyx {
 namespace {
 
+// As designed.
 constexpr int kOneRowWidth = 892;
 constexpr int kMargin = 10;
 constexpr int kButton = 32;
@@ -46,8 +48,8 @@ PlayBar::PlayBar(Transport& transport, QWidget* parent) : QFrame(parent), transp
   detach_->setObjectName("PlayBarDetachBtn");
   detach_->setToolTip(tr("Undock the Play Bar"));
   detach_->setFocusPolicy(Qt::NoFocus);
-  detach_->setFixedSize(22, 22);
-  detach_->setIconSize({14, 14});
+  FixSize(detach_, {22, 22});
+  FixIcon(detach_, 14);
   connect(detach_, &QToolButton::clicked, this, [this] { ToggleDock(); });
 
   line_ = new FigureLabel("DisplayPanel", {}, this);
@@ -65,7 +67,7 @@ PlayBar::PlayBar(Transport& transport, QWidget* parent) : QFrame(parent), transp
     mark->setObjectName(QString("Mark%1").arg(i));
     mark->setFocusPolicy(Qt::NoFocus);
     mark->setToolTip(tr("Go to this mark"));
-    mark->setFixedHeight(22);
+    FixHeight(mark, 22);
     mark->hide();
     connect(mark, &QToolButton::clicked, this, [this, i] { transport_.Mark_Click(i); });
     markRow->addWidget(mark);
@@ -87,8 +89,8 @@ void PlayBar::Dress() {
   WearStageSheet(this,
                  "#Playbar { background: @ground; border: none; }"
                  "#Playbar[floating=\"true\"] { background: @card; border: 1px solid @cardLine; border-radius: 8px; }"
-                 "#Playbar QLabel { color: @ink; background: transparent; font-size: 13px; }"
-                 "#Playbar QLabel[small=\"true\"] { font-size: 11px; }"
+                 "#Playbar QLabel { color: @ink; background: transparent; font-size: @13; }"
+                 "#Playbar QLabel[small=\"true\"] { font-size: @11; }"
                  "#Playbar #FrameCounter { color: @mark; }"
                  "#Playbar QToolButton { border: none; border-radius: 6px; background: transparent; color: @ink;"
                  "  padding: 0; }"
@@ -97,7 +99,7 @@ void PlayBar::Dress() {
                  "#Playbar #CmdButton2 { background: @accentFill; }"
                  "#Playbar #CmdButton2:hover { background: @accent; }"
                  "#Playbar #CmdButton2:disabled { background: @card; }"
-                 "#Playbar #MarkBox QToolButton { background: @card; color: @mark; padding: 0 6px; font-size: 11px; }"
+                 "#Playbar #MarkBox QToolButton { background: @card; color: @mark; padding: 0 6px; font-size: @11; }"
                  "#Playbar #MarkBox QToolButton:hover { background: @hover; }");
   const StageLook look = StageLook::Current();
   const auto icon = [&](const char* name) { return Icon(name, look.ink, look.ink, look.faintInk); };
@@ -112,7 +114,10 @@ void PlayBar::Dress() {
 
 void PlayBar::changeEvent(QEvent* event) {
   QFrame::changeEvent(event);
-  if (event->type() == QEvent::StyleChange && detach_) Dress();
+  if (event->type() == QEvent::StyleChange && detach_) {
+    Dress();
+    Arrange();
+  }
 }
 
 void PlayBar::SetVideo(bool has) {
@@ -140,8 +145,8 @@ void PlayBar::SetLocked(bool locked) {
 QToolButton* PlayBar::Button(const char* name, const QString& tip) {
   auto* button = new QToolButton(buttons_);
   button->setObjectName(name);
-  button->setIconSize({20, 20});
-  button->setFixedSize(kButton, kButton);
+  FixIcon(button, 20);
+  FixSize(button, {kButton, kButton});
   button->setToolTip(tip);
   button->setAccessibleName(tip);
   button->setFocusPolicy(Qt::NoFocus);
@@ -179,13 +184,13 @@ void PlayBar::Arrange() {
   line_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   counter_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   detach_->raise();
-  width() >= kOneRowWidth ? ArrangeWide() : ArrangeNarrow();
+  width() >= Px(kOneRowWidth) ? ArrangeWide() : ArrangeNarrow();
 }
 
 void PlayBar::SizeButtons(int side, int playWidth) {
-  for (QToolButton* button : {rewind_, back_, next_, slomo_, loop_}) button->setFixedSize(side, kButton);
-  play_->setFixedSize(playWidth, kButton);
-  buttons_->layout()->setSpacing(side < kButton ? 1 : 4);
+  for (QToolButton* button : {rewind_, back_, next_, slomo_, loop_}) button->setFixedSize(side, Px(kButton));
+  play_->setFixedSize(playWidth, Px(kButton));
+  buttons_->layout()->setSpacing(side < Px(kButton) ? 1 : 4);
   buttons_->layout()->activate();
 }
 
@@ -207,58 +212,58 @@ int PlayBar::ShowMarks(int room) {
 void PlayBar::ArrangeWide() {
   SetSmallWords(false);
   detach_->show();
-  SizeButtons(kButton, kPlayWidth);
+  SizeButtons(Px(kButton), Px(kPlayWidth));
   const int buttonsWidth = buttons_->sizeHint().width();
   const int lineWidth = FiguresWidth(line_->fontMetrics(), "888.88 seconds | 8888/8888 frames");
   const int y = height() / 2;
-  buttons_->setGeometry(kMargin, y - kButton / 2, buttonsWidth, kButton);
+  buttons_->setGeometry(kMargin, y - Px(kButton) / 2, buttonsWidth, Px(kButton));
   detach_->move(width() - kMargin - detach_->width(), y - detach_->height() / 2);
   int end = detach_->x() - 6 - lineWidth;
-  line_->setGeometry(end, y - 12, lineWidth, 24);
+  line_->setGeometry(end, y - Px(12), lineWidth, Px(24));
   line_->show();
   if (!counter_->isHidden()) {
-    end -= kCounter;
-    counter_->setGeometry(end, y - 12, kCounter, 24);
+    end -= Px(kCounter);
+    counter_->setGeometry(end, y - Px(12), Px(kCounter), Px(24));
   }
   const int start = kMargin + buttonsWidth + 6;
   if (!markBox_->isHidden()) {
     const int taken = ShowMarks((end - start) / 2);
     end -= taken + 8;
-    markBox_->setGeometry(end, y - 11, taken, 22);
+    markBox_->setGeometry(end, y - Px(11), taken, Px(22));
   }
-  seek_->setGeometry(start, y - 12, std::max(40, end - start - 6), 24);
+  seek_->setGeometry(start, y - Px(12), std::max(40, end - start - 6), Px(24));
 }
 
 /// Two rows: the line of the film with its marks above, the buttons and the words below. In small windows
 /// the words take a row of their own, and in the smallest the bar cannot be undocked.
 void PlayBar::ArrangeNarrow() {
-  const bool smallest = width() < kSmallestWidth;
-  const bool tiny = width() < kTinyWidth;
-  SizeButtons(smallest ? 24 : tiny ? 30 : kButton, smallest ? 30 : tiny ? 36 : kPlayWidth);
+  const bool smallest = width() < Px(kSmallestWidth);
+  const bool tiny = width() < Px(kTinyWidth);
+  SizeButtons(Px(smallest ? 24 : tiny ? 30 : kButton), Px(smallest ? 30 : tiny ? 36 : kPlayWidth));
   const int buttonsWidth = buttons_->sizeHint().width();
   const int words = FiguresWidth(QFontMetrics(UiFont(kTextPixels)), "88.88 seconds | 888/888 frames");
   const int left = kMargin - 6 + buttonsWidth + 4;
   int end = width() - kMargin - detach_->width();
   const bool own = end - left < words;
-  const int y = own ? 36 : 24 + (height() - 24) / 2;  // middle of the buttons
-  seek_->setGeometry(kMargin - 2, own ? 0 : 2, width() - 2 * kMargin + 4, 22);
-  buttons_->setGeometry(kMargin - 6, y - kButton / 2, buttonsWidth, kButton);
+  const int y = own ? Px(36) : Px(24) + (height() - Px(24)) / 2;  // middle of the buttons
+  seek_->setGeometry(kMargin - 2, own ? 0 : 2, width() - 2 * kMargin + 4, Px(22));
+  buttons_->setGeometry(kMargin - 6, y - Px(kButton) / 2, buttonsWidth, Px(kButton));
   detach_->setVisible(!smallest);
   detach_->move(width() - kMargin - detach_->width() + 4, y - detach_->height() / 2);
-  SetSmallWords(own && width() < kTinyWidth);
+  SetSmallWords(own && width() < Px(kTinyWidth));
   if (own) {
-    line_->setGeometry(4, height() - 20, width() - 8, 18);
+    line_->setGeometry(4, height() - Px(20), width() - 8, Px(18));
   } else {
-    line_->setGeometry(end - words - 4, y - 12, words, 24);
+    line_->setGeometry(end - words - 4, y - Px(12), words, Px(24));
     end = line_->x();
   }
   line_->show();
-  counter_->setVisible(!counter_->text().isEmpty() && end - left >= kCounter);
+  counter_->setVisible(!counter_->text().isEmpty() && end - left >= Px(kCounter));
   if (!counter_->isHidden()) {
-    counter_->setGeometry(end - kCounter, y - 12, kCounter, 24);
-    end -= kCounter;
+    counter_->setGeometry(end - Px(kCounter), y - Px(12), Px(kCounter), Px(24));
+    end -= Px(kCounter);
   }
-  markBox_->setGeometry(left, y - 11, ShowMarks(end - left - 4), 22);
+  markBox_->setGeometry(left, y - Px(11), ShowMarks(end - left - 4), Px(22));
 }
 
 void PlayBar::SetSmallWords(bool on) {

@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
@@ -9,16 +10,16 @@ namespace kinalyx {
 const char* const kCardSheet =
     "[look=\"card\"] { background: @card; border: 1px solid @cardLine; border-radius: 8px; }"
     "[look=\"card\"] QLabel { color: @ink; background: transparent; border: none; }"
-    "[look=\"card\"] QLabel[muted=\"true\"] { color: @faintInk; font-size: 11px; }"
+    "[look=\"card\"] QLabel[muted=\"true\"] { color: @faintInk; font-size: @11; }"
     "[look=\"card\"] QToolButton { border: none; border-radius: 6px; background: transparent; padding: 0; }"
     "[look=\"card\"] QToolButton:hover { background: @hover; }"
     "[look=\"card\"] QPushButton { background: @hover; color: @ink; border: 1px solid @cardLine; border-radius: 8px;"
-    "  padding: 0 12px; min-height: 30px; max-height: 30px; }"
+    "  padding: 0 @12; min-height: @32-2; max-height: @32-2; }"
     "[look=\"card\"] QPushButton:hover { border-color: @accent; }"
     "[look=\"card\"] QPushButton:pressed, [look=\"card\"] QPushButton[main=\"true\"] { background: @accentFill; }"
     "[look=\"card\"] QPushButton:disabled { color: @faintInk; background: @card; }"
     "[look=\"card\"] QLineEdit { background: @ground; color: @ink; border: 1px solid @cardLine; border-radius: 6px;"
-    "  padding: 0 8px; min-height: 28px; max-height: 28px; selection-background-color: @accentFill; }"
+    "  padding: 0 8px; min-height: @30-2; max-height: @30-2; selection-background-color: @accentFill; }"
     "[look=\"card\"] QLineEdit:focus { border: 1px solid @accent; }"
     "[look=\"card\"] QPlainTextEdit { background: @ground; color: @ink; border: 1px solid @cardLine; border-radius: 6px;"
     "  padding: 4px; selection-background-color: @accentFill; }"
@@ -60,6 +61,7 @@ void WearStageSheet(QWidget* widget, const char* sheet) {
   };
   QString dressed = QString::fromLatin1(sheet);
   for (const auto& [name, colour] : colours) dressed.replace(QLatin1String(name), colour.name());
+  dressed = WithSizes(dressed);
   if (widget->styleSheet() != dressed) widget->setStyleSheet(dressed);
 }
 

@@ -23,7 +23,8 @@ struct StageLook {
   static StageLook Current();
 };
 
-/// Sets a style sheet in which "@ground", "@cardLine" and so on stand for the colours; a sheet that the
+/// Sets a style sheet in which "@ground", "@cardLine" and so on stand for the colours, and "@30" for a length
+/// that grows with the text; a sheet that the
 /// widget wears already is left alone, so that it may be called from a change of style.
 void WearStageSheet(QWidget* widget, const char* sheet);
 

@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "platform/widgets/Icons.h"
+#include "platform/widgets/Scale.h"
 #include "workspace/forms/StageLook.h"
 
 namespace kinalyx {
@@ -23,7 +24,7 @@ void Dress(QToolButton* button) {
 const char* const kCompareSheet =
     "QFrame[look=\"bar\"] { background: @ground; border: none; border-top: 1px solid @cardLine; }"
     "QLabel { color: @ink; background: transparent; border: none; }"
-    "QLabel[muted=\"true\"] { color: @faintInk; font-size: 11px; }"
+    "QLabel[muted=\"true\"] { color: @faintInk; font-size: @11; }"
     "QToolButton { border: none; border-radius: 6px; background: transparent; color: @ink; padding: 0; }"
     "QToolButton:hover { background: @hover; }"
     "QToolButton:pressed, QToolButton:checked { background: @accentFill; }"
@@ -31,8 +32,8 @@ const char* const kCompareSheet =
     "QToolButton[main=\"true\"] { background: @accentFill; }"
     "QToolButton[main=\"true\"]:hover { background: @accent; }"
     "QToolButton[main=\"true\"]:disabled { background: @card; }"
-    "QPushButton { background: @hover; color: @ink; border: 1px solid @cardLine; border-radius: 8px; padding: 0 12px;"
-    "  min-height: 30px; max-height: 30px; }"
+    "QPushButton { background: @hover; color: @ink; border: 1px solid @cardLine; border-radius: 8px; padding: 0 @12;"
+    "  min-height: @32-2; max-height: @32-2; }"
     "QPushButton:hover { border-color: @accent; }"
     "QPushButton:pressed, QPushButton:checked { background: @accentFill; }"
     "QPushButton:disabled { color: @faintInk; background: @card; }"
@@ -49,10 +50,10 @@ const char* const kCompareSheet =
     "QSlider::handle:horizontal:disabled { background: @faintInk; }"
     "QSlider::handle:horizontal:focus { background: @mark; }"
     "QComboBox { background: @card; color: @ink; border: 1px solid @cardLine; border-radius: 6px; padding: 0 8px;"
-    "  min-height: 28px; max-height: 28px; }"
+    "  min-height: @30-2; max-height: @30-2; }"
     "QComboBox:hover, QComboBox:focus { border-color: @accent; }"
     "QComboBox:disabled { color: @faintInk; }"
-    "QComboBox QLineEdit { background: transparent; color: @ink; border: none; min-height: 20px; }"
+    "QComboBox QLineEdit { background: transparent; color: @ink; border: none; min-height: @20; }"
     "QComboBox QAbstractItemView { background: @card; color: @ink; border: 1px solid @cardLine;"
     "  selection-background-color: @accentFill; selection-color: @ink; }";
 
@@ -63,8 +64,8 @@ QToolButton* StageButton(const QString& name, const QString& icon, const QString
   button->setToolTip(tip);
   button->setAccessibleName(tip);
   button->setFocusPolicy(Qt::NoFocus);
-  button->setIconSize({20, 20});
-  button->setFixedSize(kButton, kButton);
+  FixIcon(button, 20);
+  FixSize(button, {kButton, kButton});
   Dress(button);
   return button;
 }

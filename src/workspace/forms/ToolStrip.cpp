@@ -1,11 +1,13 @@
 #include "workspace/forms/ToolStrip.h"
 
+#include <QEvent>
 #include <QMenu>
 #include <algorithm>
 
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Icons.h"
 #include "platform/widgets/Panel.h"
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 #include "workspace/MenuBar.h"
 
@@ -24,7 +26,7 @@ ToolStrip::ToolStrip(const std::vector<Command>& commands, std::function<void(co
     : QFrame(parent), run_(std::move(run)) {
   setObjectName("VideoToolBar");
   setProperty("look", "strip");
-  setFixedHeight(46);
+  FixHeight(this, 46);
   for (const Command& command : commands) {
     if (command.group == 0) continue;
     const std::string name = command.button.empty() ? command.item : command.button;
@@ -59,10 +61,10 @@ int ToolStrip::WidthFor(const Sizes& sizes) const {
     if (!tool.placed) continue;
     if (group != 0 && tool.command->group != group) width += sizes.divider;
     group = tool.command->group;
-    width += sizes.side + sizes.space;
+    width += Px(sizes.side) + sizes.space;
   }
   const bool all = std::ranges::all_of(tools_, &Tool::placed);
-  return all ? width : width + sizes.side + sizes.space;
+  return all ? width : width + Px(sizes.side) + sizes.space;
 }
 
 void ToolStrip::Arrange() {
@@ -86,11 +88,12 @@ void ToolStrip::Place(const Sizes& sizes) {
   int group = 0;
   std::size_t divider = 0;
   for (QFrame* line : dividers_) line->hide();
+  const int side = Px(sizes.side);
   const auto place = [&](Button* button) {
-    button->setFixedSize(sizes.side, sizes.side);
-    button->move(x, (height() - sizes.side) / 2);
+    button->setFixedSize(side, side);
+    button->move(x, (height() - side) / 2);
     button->show();
-    x += sizes.side + sizes.space;
+    x += side + sizes.space;
   };
   for (const Tool& tool : tools_) {
     if (!tool.placed) {
@@ -108,8 +111,13 @@ void ToolStrip::Place(const Sizes& sizes) {
   }
   more_->hide();
   if (std::ranges::all_of(tools_, &Tool::placed)) return;
-  x = std::max(x, width() - kMargin - sizes.side);
+  x = std::max(x, width() - kMargin - side);
   place(more_);
+}
+
+void ToolStrip::changeEvent(QEvent* event) {
+  QFrame::changeEvent(event);
+  if (event->type() == QEvent::StyleChange && more_) Arrange();
 }
 
 void ToolStrip::ShowMore() {

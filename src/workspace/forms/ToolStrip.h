@@ -26,6 +26,7 @@ class ToolStrip : public QFrame {
 
  protected:
   void resizeEvent(QResizeEvent*) override { Arrange(); }
+  void changeEvent(QEvent* event) override;
 
  private:
   /// How large the buttons are, and how far apart.
@@ -51,7 +52,7 @@ class ToolStrip : public QFrame {
   std::function<void(const std::string&)> run_;
   std::vector<Tool> tools_;
   std::vector<QFrame*> dividers_;  ///< before the first button of each group but the first
-  Button* more_;
+  Button* more_ = nullptr;
 };
 
 }  // namespace kinalyx

@@ -8,6 +8,7 @@
 #include <QSlider>
 
 #include "platform/widgets/Panel.h"
+#include "platform/widgets/Scale.h"
 #include "workspace/forms/StageLook.h"
 
 namespace kinalyx {
@@ -75,7 +76,7 @@ void TransFrame::MakeVideo(int window, QHBoxLayout* row) {
   video.select = StageButton(QString("SelectVid%1").arg(window), "", tr("Zoom and pan move video %1").arg(window), this);
   video.select->setText(QString::number(window));
   video.select->setCheckable(true);
-  video.select->setFixedWidth(26);
+  FixWidth(video.select, 26);
   connect(video.select, &QToolButton::clicked, this, [this, window] {
     workspace_.SelectWindow(window);
     SetCurrent(workspace_.CurrentWindow);

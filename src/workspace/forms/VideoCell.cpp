@@ -6,6 +6,7 @@
 
 #include "platform/widgets/Figures.h"
 #include "platform/widgets/Icons.h"
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 #include "workspace/forms/StageLook.h"
 
@@ -30,17 +31,17 @@ class VideoPanel : public QWidget {
     painter.fillRect(rect(), filled_ ? Qt::black : Mix(CurrentTheme().stage, Qt::black, 0.35));
     if (filled_) return;
     const StageLook look = StageLook::Current();
-    constexpr int kIcon = 34;
-    const int top = std::max(8, height() / 2 - 46);
-    painter.drawPixmap(QPointF((width() - kIcon) / 2.0, top),
-                       IconPixmap("open", look.faintInk, kIcon, devicePixelRatioF()));
+    const int icon = Px(34);
+    const int top = std::max(8, height() / 2 - Px(46));
+    painter.drawPixmap(QPointF((width() - icon) / 2.0, top),
+                       IconPixmap("open", look.faintInk, icon, devicePixelRatioF()));
     painter.setFont(UiFont(kTextPixels));
     painter.setPen(look.faintInk);
-    painter.drawText(QRect(12, top + kIcon + 10, width() - 24, 44), Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap,
+    painter.drawText(QRect(12, top + icon + 10, width() - 24, Px(44)), Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap,
                      VideoCell::tr("Double click or press O to open a video"));
     painter.setFont(UiFont(kCaptionPixels));
     painter.setPen(Mix(look.faintInk, look.ground, 0.35));
-    painter.drawText(QRect(10, 8, width() - 20, 16), Qt::AlignLeft | Qt::AlignTop, VideoCell::tr("Window %1").arg(slot_));
+    painter.drawText(QRect(10, 8, width() - 20, Px(16)), Qt::AlignLeft | Qt::AlignTop, VideoCell::tr("Window %1").arg(slot_));
   }
 
  private:
@@ -59,15 +60,14 @@ VideoCell::VideoCell(int slot, PlayerServices& services, QWidget* parent) : QWid
   title_->setObjectName(QString("CellTitle%1").arg(slot));
   title_->setTextFormat(Qt::PlainText);
   title_->setAttribute(Qt::WA_TransparentForMouseEvents);
-  title_->setStyleSheet(
-      "background: rgba(12, 15, 19, 190); color: #e6ecf2; border-radius: 11px; padding: 0 10px; font-size: 12px;");
+  WearSheet(title_, "background: rgba(12, 15, 19, 190); color: #e6ecf2; border-radius: @11; padding: 0 10px; font-size: @12;");
   title_->hide();
   lock_ = new QLabel(this);
   lock_->setObjectName(QString("LockPicture%1").arg(slot));
   lock_->setAttribute(Qt::WA_TransparentForMouseEvents);
   lock_->setAlignment(Qt::AlignCenter);
-  lock_->setStyleSheet("background: rgba(12, 15, 19, 190); border-radius: 11px;");
-  lock_->setFixedSize(30, 23);
+  WearSheet(lock_, "background: rgba(12, 15, 19, 190); border-radius: @11;");
+  FixSize(lock_, {30, 23});
   lock_->hide();
   hide();
 }
@@ -107,17 +107,17 @@ void VideoCell::PlaceTitle() {
   title_->setVisible(!name_.isEmpty());
   if (name_.isEmpty()) return;
   const QFontMetrics metrics(UiFont(12));
-  const int room = panel_->width() - (lock_->isHidden() ? 36 : 72);
+  const int room = panel_->width() - (lock_->isHidden() ? 36 : 42 + lock_->width());
   const QString text = metrics.elidedText(name_, Qt::ElideMiddle, std::max(40, room));
   title_->setText(text);
-  title_->setGeometry(panel_->x() + 8, panel_->y() + 8, metrics.horizontalAdvance(text) + 22, 23);
+  title_->setGeometry(panel_->x() + 8, panel_->y() + 8, metrics.horizontalAdvance(text) + 22, Px(23));
   title_->raise();
   lock_->move(title_->geometry().right() + 6, title_->y());
   lock_->raise();
 }
 
 void VideoCell::SetLocked(bool locked) {
-  if (locked) lock_->setPixmap(IconPixmap("lock", StageLook::Current().mark, 15, devicePixelRatioF()));
+  if (locked) lock_->setPixmap(IconPixmap("lock", StageLook::Current().mark, Px(15), devicePixelRatioF()));
   lock_->setVisible(locked);
   PlaceTitle();
 }
@@ -144,7 +144,7 @@ void VideoCell::paintEvent(QPaintEvent* event) {
   if (line_.isEmpty() || strip.height() < 24) return;
   painter.setFont(UiFont(12));
   const int words = FiguresWidth(painter.fontMetrics(), line_.trimmed());
-  const bool tall = strip.height() > 50;
+  const bool tall = strip.height() > Px(50);
   const double y = tall ? strip.top() + 14 : strip.center().y();
   const double left = strip.left() + 12;
   const double right = tall ? strip.right() - 12 : strip.right() - 26 - words;

@@ -7,6 +7,7 @@
 
 #include "platform/widgets/Figures.h"
 #include "platform/widgets/Panel.h"
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 #include "workspace/forms/StageLook.h"
 
@@ -15,15 +16,16 @@ namespace kinalyx {
 VideoTimerForm::VideoTimerForm(VideoTimer& timer, QWidget* parent)
     : FloatCard("VideoTimerForm", tr("Video Timer"), parent), timer_(timer) {
   reading_ = new FigureLabel("Label1", "00.00", this);
-  reading_->setFont(UiFont(34, 600));
+  FixFont(reading_, 34, 600);
   reading_->setAlignment(Qt::AlignCenter);
-  reading_->setMinimumSize(180, 48);
+  LeastWidth(reading_, 180);
+  LeastHeight(reading_, 48);
   Body()->addWidget(reading_);
   auto* row = new QHBoxLayout;
   row->addWidget(MakeLabel("FRLabel", tr("Frame rate"), nullptr, this), 1);
   rate_ = new QLineEdit(this);
   rate_->setObjectName("txtFRBox");
-  rate_->setFixedWidth(84);
+  FixWidth(rate_, 84);
   rate_->setAlignment(Qt::AlignRight);
   rate_->setMaxLength(9);
   rate_->setToolTip(tr("Pictures per second of the scene; leave it empty for the video's own"));

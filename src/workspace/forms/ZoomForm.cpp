@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "platform/widgets/Scale.h"
 #include "workspace/forms/StageLook.h"
 #include "workspace/forms/StageParts.h"
 
@@ -29,7 +30,7 @@ ZoomForm::ZoomForm(ZoomPan& zoom, QWidget* parent) : FloatCard("ZoomForm", tr("Z
                         {"pan", tr("Back to the centre at full size (keypad 5)"), 1, 1}};
   for (int i = 0; i < 5; ++i) {
     QToolButton* pan = StageButton(QString("PanBtn%1").arg(i), pans[i].icon, pans[i].tip, content_);
-    pan->setFixedSize(36, 36);
+    FixSize(pan, {36, 36});
     connect(pan, &QToolButton::pressed, this, [this, i] { zoom_.PanBtn_MouseDown(i); });
     connect(pan, &QToolButton::released, this, [this] { zoom_.PanBtn_MouseUp(); });
     grid->addWidget(pan, pans[i].row, pans[i].column);
@@ -39,7 +40,7 @@ ZoomForm::ZoomForm(ZoomPan& zoom, QWidget* parent) : FloatCard("ZoomForm", tr("Z
   const Place zooms[] = {{"zoom-out", tr("Zoom out (-)"), 2, 4}, {"zoom", tr("Zoom in (+)"), 0, 4}};
   for (int i = 0; i < 2; ++i) {
     QToolButton* button = StageButton(QString("ZoomBtn%1").arg(i), zooms[i].icon, zooms[i].tip, content_);
-    button->setFixedSize(56, 36);
+    FixSize(button, {56, 36});
     button->setAutoRepeat(true);
     button->setAutoRepeatDelay(350);
     button->setAutoRepeatInterval(80);
@@ -51,7 +52,7 @@ ZoomForm::ZoomForm(ZoomPan& zoom, QWidget* parent) : FloatCard("ZoomForm", tr("Z
   whole->setText(tr("1 to 1"));
   whole->setToolTip(tr("Full size, centred (J)"));
   whole->setFocusPolicy(Qt::NoFocus);
-  whole->setFixedSize(56, 36);
+  FixSize(whole, {56, 36});
   connect(whole, &QToolButton::clicked, this, [this] { zoom_.ZoomBtn_Click(2); });
   grid->addWidget(whole, 1, 4);
   Body()->addWidget(content_);
