@@ -9,6 +9,7 @@
 
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
@@ -55,7 +56,7 @@ Main::~Main() = default;
 
 QWidget* Main::MakeHeading() {
   QFrame* heading = MakeFrame("header", this);
-  heading->setFixedHeight(36);
+  FixHeight(heading, 36);
   auto* row = new QHBoxLayout(heading);
   row->setContentsMargins(14, 0, 4, 0);
   row->setSpacing(10);
@@ -68,7 +69,7 @@ QWidget* Main::MakeHeading() {
   close_ = IconButton("QuitBtn", "close", tr("Close Kinalyx"), Look::Filled, heading);
   for (Button* button : {minimize_, close_}) {
     button->setFocusPolicy(Qt::NoFocus);
-    button->setFixedSize(40, 32);
+    FixSize(button, {40, 32});
     button->hide();
     row->addWidget(button);
   }
@@ -83,7 +84,7 @@ QWidget* Main::MakeRail() {
   room->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   room->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   room->setWidgetResizable(true);
-  room->setFixedWidth(132);
+  FixWidth(room, 132);
   QFrame* rail = MakeFrame("rail");
   auto* column = new QVBoxLayout(rail);
   column->setContentsMargins(8, 10, 7, 10);
@@ -155,6 +156,11 @@ void Main::SetSectionCaption(int index, const QString& caption) {
 
 void Main::SetSectionComing(int index) {
   if (TileButton* section = sections_[static_cast<std::size_t>(index)]) Coming(section);
+}
+
+void Main::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  emit Resized(size());
 }
 
 void Main::SetFullScreen(bool on) {

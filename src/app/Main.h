@@ -62,9 +62,12 @@ class Main : public QWidget {
 
  signals:
   void PageWanted(int index);
+  /// At every step of a drag.
+  void Resized(QSize size);
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   QWidget* MakeHeading();

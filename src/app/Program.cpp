@@ -1,12 +1,12 @@
 #include "app/Program.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QScreen>
 #include <utility>
 
 #include "app/Main.h"
 #include "core/StartUp.h"
-#include "core/WindowModes.h"
 #include "core/forms/FirstForm.h"
 #include "core/forms/HelpPage.h"
 #include "core/forms/MenuPage.h"
@@ -17,6 +17,7 @@
 #include "library/forms/ProfilesPage.h"
 #include "platform/files/Folders.h"
 #include "platform/host/QtHost.h"
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 #include "workspace/forms/AnalysisForm.h"
 
@@ -24,6 +25,8 @@ namespace kinalyx {
 namespace {
 
 constexpr int kTwipsOfPixel = 15;
+/// A window that keeps its size for so long has got where it is dragged to.
+constexpr int kSettledMs = 150;
 /// Sections whose subsystems are not built yet.
 constexpr int kComing[] = {kCapturePage, kLessonPage};
 
@@ -46,7 +49,12 @@ Program::~Program() = default;
 
 int Program::Run() {
   StartUp(settings_, mail_, schemes_,
-          {.applyScheme = [this] { DressApplication(); },
+          {.applyScheme =
+               [this] {
+                 const WindowPlace place = PlaceOfMain();
+                 TakeSize(place.width / kTwipsOfPixel, place.height / kTwipsOfPixel);
+                 DressApplication();
+               },
            .ensureFields = [this] { fields_.EnsureFile(); },
            .showSplash =
                [this] {
@@ -63,6 +71,21 @@ int Program::Run() {
   return result;
 }
 
+bool Program::TakeSize(int width, int height) {
+  resizeControls_.Resize(width, height);
+  return SetTextPixels(application_, resizeControls_.TextPixels());
+}
+
+/// The end of a drag, not each of its steps: to dress all forms anew takes a moment.
+void Program::MainResized() {
+  settling_ = HostTimer(*host_, kSettledMs, false, [this] {
+    if (!main_ || !TakeSize(main_->width(), main_->height())) return;
+    DressApplication();
+    for (QWidget* form : QApplication::topLevelWidgets())
+      if (form->isVisible() && qobject_cast<QDialog*>(form)) ScaleForm(*form, *main_);
+  });
+}
+
 void Program::DressApplication() { ApplyTheme(application_, Theme::FromSlots(schemes_.Colours())); }
 
 // ---------------------------------------------------------------- the main form
@@ -72,6 +95,7 @@ void Program::LoadMain() {
   main_ = std::make_unique<Main>();
   main_->closing = [this] { return Shutdown(); };
   QObject::connect(main_.get(), &Main::PageWanted, [this](int index) { OpenPage(index); });
+  QObject::connect(main_.get(), &Main::Resized, [this] { MainResized(); });
 
   menu_ = new MenuPage(*host_, settings_);
   main_->SetPage(kMenuPage, menu_);
@@ -126,20 +150,24 @@ void Program::ConnectSetupPage() {
   });
 }
 
+WindowPlace Program::PlaceOfMain() const {
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  const QSize size = screen ? screen->size() : QSize(1024, 768);
+  return PlaceForMode(settings_.WindowMode, size.width(), size.height());
+}
+
 /// Gives the window the place of the chosen mode and shows it.
 void Program::PlaceMain() {
   main_->setWindowTitle("Kinalyx " + QCoreApplication::applicationVersion().section('.', 0, 1));
-  const QScreen* screen = QGuiApplication::primaryScreen();
-  const QSize size = screen ? screen->size() : QSize(1024, 768);
-  const WindowPlace place = PlaceForMode(settings_.WindowMode, size.width(), size.height());
+  const WindowPlace place = PlaceOfMain();
+  const QSize size(place.width / kTwipsOfPixel, place.height / kTwipsOfPixel);
   main_->SetFullScreen(place.fullScreen);
   main_->setMinimumSize(QSize(1000, 680).boundedTo(size));
   if (place.fullScreen) {
     main_->setGeometry(QRect(QPoint(), size));
     main_->showFullScreen();
   } else {
-    main_->setGeometry(place.left / kTwipsOfPixel, place.top / kTwipsOfPixel, place.width / kTwipsOfPixel,
-                       place.height / kTwipsOfPixel);
+    main_->setGeometry(QRect(QPoint(place.left / kTwipsOfPixel, place.top / kTwipsOfPixel), size));
     main_->show();
   }
   main_->activateWindow();

@@ -1,12 +1,15 @@
 #pragma once
 
 #include <memory>
+#include <memory>
 #include <string>
 
 #include "core/ColorSchemes.h"
 #include "core/MailSettings.h"
+#include "core/ResizeControls.h"
 #include "core/Settings.h"
 #include "core/Vocabulary.h"
+#include "core/WindowModes.h"
 #include "library/LibraryOperations.h"
 #include "library/LibraryTree.h"
 #include "library/Profile.h"
@@ -42,9 +45,13 @@ class Program {
   int Run();
 
  private:
+  WindowPlace PlaceOfMain() const;
   void DressApplication();
   void LoadMain();
   void PlaceMain();
+  /// Takes the size that the main form has, or is about to have; true when that changes the text.
+  bool TakeSize(int width, int height);
+  void MainResized();
   void ConnectSetupPage();
   void OpenPage(int index);
   void SetupVocabulary();
@@ -75,6 +82,8 @@ class Program {
   AnalysisForm* analysis_ = nullptr;
   SetupPage* setup_ = nullptr;
   HelpPage* help_ = nullptr;
+  ResizeControls resizeControls_;
+  HostTimer settling_;
   bool RestartFlag_ = false;
 };
 
