@@ -1,5 +1,6 @@
 #include "drawing/ShapeHistory.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace kinalyx {
@@ -67,7 +68,7 @@ void ShapeHistory::Restore(ShapeList& list) const {
   list.Shapes = states_[present_];
   list.NumShapes = static_cast<std::int16_t>(list.Shapes.size());
   list.Adding = false;
-  list.CurShape = -1;
+  list.CurShape = static_cast<std::int16_t>(std::min<int>(list.CurShape, list.NumShapes - 1));
 }
 
 }  // namespace kinalyx

@@ -22,7 +22,8 @@ class ShapeHistory {
   void Note(const ShapeList& list);
   bool CanUndo() const { return present_ > 0; }
   bool CanRedo() const { return present_ + 1 < states_.size(); }
-  /// Brings the shapes of a step back; nothing is selected then. False when there is none.
+  /// Brings the shapes of a step back; the selection stays where it was, or on the last shape that is left.
+  /// False when there is no such step.
   bool Undo(ShapeList& list);
   bool Redo(ShapeList& list);
   /// Begins anew when the list is not what was noted last: its drawings were exchanged with the video.

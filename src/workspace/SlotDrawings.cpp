@@ -45,7 +45,11 @@ void SlotDrawings::Fit(int slot, int width, int height) {
   Put(fitted, kept.origin.shapes);
   StretchShapes(fitted, kept.origin.width, kept.origin.height, width, height);
   kept.fitted = {fitted.Shapes, width, height};
-  Put(List(slot), std::move(fitted.Shapes));
+  ShapeList& list = List(slot);
+  Put(list, std::move(fitted.Shapes));
+  // A macro made of them is later fitted by this size.
+  list.CanvasWidth = width * kTwipsPerPixel;
+  list.CanvasHeight = height * kTwipsPerPixel;
 }
 
 void SlotDrawings::PlayerResized(int slot) {

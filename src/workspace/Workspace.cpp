@@ -119,7 +119,11 @@ void Workspace::MPResize(int slot) {
       PlaceVideo({at.MP->VideoWidth(), at.MP->VideoHeight(), at.data.Wide, at.VideoZoom, at.PanX, at.PanY},
                  at.panel.Width, at.panel.Height);
   view_.PlacePlayer(slot, place, true);
-  if (oldWidth != at.MP->ControlWidthPixels() || oldHeight != at.MP->ControlHeightPixels()) PlayerResized(slot);
+  const bool resized = oldWidth != at.MP->ControlWidthPixels() || oldHeight != at.MP->ControlHeightPixels();
+  if (resized || !at.placed) {
+    at.placed = true;
+    PlayerResized(slot);
+  }
   at.MP->Refresh();
 }
 
@@ -186,7 +190,7 @@ bool Workspace::OpenVideo(int slot, const std::string& path) {
   at.SlotFrameRate = 0;
   at.VideoZoom = 1.0;
   at.PanX = at.PanY = 0;
-  at.changed = at.savedElsewhere = false;
+  at.changed = at.savedElsewhere = at.placed = false;
   VideoOpened(slot);
   ShowTitle(slot);
   // Reversed fields open on the second one of the first picture; every film is shown from its start.

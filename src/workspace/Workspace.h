@@ -26,6 +26,7 @@ struct Slot {
   std::vector<int> marks;    ///< positions, at most ten
   bool changed = false;      ///< fields or notes differ from what the sidecar held
   bool savedElsewhere = false;  ///< another slot has written the same sidecar since
+  bool placed = false;          ///< its video has had a place, and what is drawn over it the size
 
   TwipRect cell;   ///< the place in the grid
   TwipRect panel;  ///< the clip area, relative to the cell

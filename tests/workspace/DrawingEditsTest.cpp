@@ -103,9 +103,11 @@ TEST(DrawingEdits, HandlesOnThePictureFollowTheMouse) {
   EXPECT_EQ(desk.PointOf(2, 0), (POINTAPI{310, 250}));
 
   // Five drags are five steps back.
+  const int chosen = desk.Shapes(1).CurShape;
   for (int step = 0; step < 4; ++step) desk.Key('Z', kCtrl);
   EXPECT_EQ(desk.PointOf(0, 0), (POINTAPI{100, 200}));
   EXPECT_EQ(desk.PointOf(2, 0), (POINTAPI{300, 250}));
+  EXPECT_EQ(desk.Shapes(1).CurShape, chosen) << "what was being edited stays selected";
 }
 
 TEST(DrawingEdits, UndoGoesBackThroughEveryChangeOfTheVideo) {
@@ -191,6 +193,40 @@ TEST(DrawingEdits, AMacroFitsTheWindowThatItIsLaidOver) {
   desk.Key(kKeyEscape);
   EXPECT_FALSE(desk.edits.macroForm);
   EXPECT_TRUE(desk.Slots().HasVideo(1));
+}
+
+TEST(DrawingEdits, AMacroOfDrawingsThatCameBackFitsTheirWindow) {
+  // Drawn in a small window, seen in a large one: the macro is what is seen.
+  Desk desk("4");
+  desk.edits.macroName = "Plane";
+  desk.Slots().SetScreen(1);
+  const POINTAPI seen = desk.PointOf(0, 1);
+  desk.Commands().Run("DTMacro");
+  desk.Edits().MacroBtn_Click(0);
+  EXPECT_EQ(desk.PointOf(0, 1), seen);
+
+  // Drawings that came with the video, in which nobody has drawn since.
+  desk.Slots().CloseVideo(1);
+  desk.Open(1, desk.path);
+  const POINTAPI stored = desk.PointOf(0, 1);
+  desk.Commands().Run("DTMacro");
+  desk.Edits().MacroBtn_Click(1);
+  EXPECT_EQ(desk.PointOf(0, 1), stored);
+  const double width = desk.MP(1).ControlWidthPixels();
+  desk.Slots().SetScreen(4);
+  desk.Edits().MacroBtn_Click(1);
+  EXPECT_NEAR(desk.PointOf(0, 1).x, stored.x * desk.MP(1).ControlWidthPixels() / width, 1);
+}
+
+TEST(DrawingEdits, StoredDrawingsFitAlsoAWindowThatHadItsSizeBefore) {
+  Desk desk("4");
+  const POINTAPI drawn = desk.PointOf(0, 1);
+  const double width = desk.MP(1).ControlWidthPixels();
+  ASSERT_TRUE(desk.Slots().CloseVideo(1));
+  desk.Slots().SetScreen(1);
+  ASSERT_TRUE(desk.Open(1, desk.Video("b.avi")));
+  ASSERT_TRUE(desk.Open(1, desk.path)) << "in the place of a video of the same shape";
+  EXPECT_NEAR(desk.PointOf(0, 1).x, drawn.x * desk.MP(1).ControlWidthPixels() / width, 1);
 }
 
 TEST(DrawingEdits, TheGridIsTurnedOnAndSized) {
