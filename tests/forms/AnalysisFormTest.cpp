@@ -2,79 +2,25 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QTest>
 #include <QToolButton>
-#include <filesystem>
 
-#include "FormsSupport.h"
-#include "support/TestHost.h"
-#include "support/TestVideos.h"
-#include "workspace/forms/KeyCodeOf.h"
+#include "AnalysisFormFixture.h"
 #include "video/KeyCodes.h"
+#include "workspace/forms/KeyCodeOf.h"
 
 namespace kinalyx::test {
 namespace {
 
-struct AnalysisFormTest : testing::Test, UsesApplication {
-  void SetUp() override {
-    static int count = 0;
-    folder = TestPath("analysisform" + std::to_string(++count));
-    std::filesystem::create_directories(folder);
-    settings = std::make_unique<Settings>(host, folder + "/data", folder);
-    settings->LoadSettings();
-    settings->LibraryPath = folder + "/library";
-    std::filesystem::create_directories(settings->LibraryPath + "/Anna/Erica");
-    Make(1280, 800);
-  }
-  void TearDown() override { form.reset(); }
-
-  void Make(int width, int height) {
-    form = std::make_unique<AnalysisForm>(host, *settings, players, remembered,
-                                          Navigation{[this] { went = "library"; }, [this] { went = "menu"; },
-                                                     [this] { went = "exit"; }});
-    form->resize(width, height);
-    form->show();
-    QTest::qWait(0);
-  }
-  std::string Video(const std::string& name, const TestVideo& kind = MjpegVideo(30)) {
-    const std::string path = folder + "/" + name;
-    std::filesystem::copy_file(MakeTestVideo(kind), path, std::filesystem::copy_options::overwrite_existing);
-    return path;
-  }
-  template <typename T>
-  T* Find(const char* name) {
-    T* found = form->findChild<T*>(name);
-    EXPECT_NE(found, nullptr) << name;
-    return found;
-  }
-  void Click(const char* name) { QTest::mouseClick(Find<QWidget>(name), Qt::LeftButton); }
-  void Key(int key, Qt::KeyboardModifiers modifiers = {}) {
-    QKeyEvent press(QEvent::KeyPress, key, modifiers,
-                    key >= Qt::Key_Space && key <= Qt::Key_AsciiTilde ? QString(QChar(key)).toLower() : QString());
-    QApplication::sendEvent(Find<QWidget>("Text1"), &press);
-  }
-  Workspace& Slots() { return form->Analysis().Slots(); }
-  QRect OnForm(QWidget* widget) { return QRect(widget->mapTo(form.get(), QPoint()), widget->size()); }
-
-  TestHost host;
-  std::string folder;
-  std::unique_ptr<Settings> settings;
-  PlayScheduler scheduler{host};
-  PlayerServices players{host, scheduler};
-  LastStudentInfo remembered;
-  std::string went;
-  std::unique_ptr<AnalysisForm> form;
-};
+using AnalysisFormTest = AnalysisFormFixture;
 
 TEST_F(AnalysisFormTest, SendsOpensPlaysAndCloses) {
-  EXPECT_EQ(form->SendToAnalysis(Video("a.avi")), "Current video was sent to Analysis.");
-  EXPECT_EQ(form->SendToAnalysis(Video("b.avi")), "Current video was sent to Analysis.");
+  Send("a.avi");
+  Send("b.avi");
   EXPECT_EQ(Slots().ScreenLayout, "2");
   EXPECT_TRUE(Find<QWidget>("MP1")->isVisible() && Find<QWidget>("MP2")->isVisible());
   EXPECT_FALSE(Find<QWidget>("BorderPanel3")->isVisible());
@@ -103,18 +49,17 @@ TEST_F(AnalysisFormTest, SendsOpensPlaysAndCloses) {
 }
 
 TEST_F(AnalysisFormTest, TheMouseDrawsOnThePicture) {
-  form->SendToAnalysis(Video("a.avi"));
-  QWidget* player = Find<QWidget>("MP1");
+  Send("a.avi");
   EXPECT_FALSE(Find<QToolButton>("ColorChoiceBtn0")->isEnabled());
   Click("CmdMakeShape3");
   EXPECT_TRUE(Find<QPushButton>("CmdMakeShape3")->isChecked());
   EXPECT_EQ(Find<QLabel>("DrawText")->text(), "Drawing a Line in Color");
   EXPECT_TRUE(Find<QWidget>("VectorColorDisplay")->isVisible());
   Click("ColorChoiceBtn0");
-  QTest::mouseClick(player, Qt::LeftButton, {}, {200, 220});
-  QTest::mouseMove(player, {260, 240});
-  QTest::mouseClick(player, Qt::LeftButton, {}, {300, 260});
-  const ShapeList& shapes = form->Analysis().Tools().List(1);
+  ClickOn("MP1", {200, 220});
+  QTest::mouseMove(Find<QWidget>("MP1"), {260, 240});
+  ClickOn("MP1", {300, 260});
+  const ShapeList& shapes = Shapes();
   ASSERT_EQ(shapes.NumShapes, 1);
   EXPECT_EQ(shapes.Shapes[0].Pts[1], (POINTAPI{300, 260}));
   EXPECT_EQ(shapes.Shapes[0].Colour, Rgb(255, 0, 0));
@@ -131,7 +76,7 @@ TEST_F(AnalysisFormTest, TheMouseDrawsOnThePicture) {
 }
 
 TEST_F(AnalysisFormTest, LettersInTextBoxesStayLetters) {
-  form->SendToAnalysis(Video("a.avi"));
+  Send("a.avi");
   Click("Notesbutton");
   auto* box = Find<QPlainTextEdit>("NotesBox");
   ASSERT_TRUE(box->isVisible());
@@ -154,7 +99,7 @@ TEST_F(AnalysisFormTest, LettersInTextBoxesStayLetters) {
 }
 
 TEST_F(AnalysisFormTest, KeypadAndDigitsAreTwoThings) {
-  form->SendToAnalysis(Video("a.avi"));
+  Send("a.avi");
   Key(Qt::Key_4);
   EXPECT_EQ(Slots().ScreenLayout, "4");
   Key(Qt::Key_1, Qt::KeypadModifier);
@@ -174,10 +119,10 @@ TEST_F(AnalysisFormTest, KeypadAndDigitsAreTwoThings) {
 }
 
 TEST_F(AnalysisFormTest, TheOpenPanelStandsWhereTheSettingsSay) {
-  std::filesystem::copy_file(MakeTestVideo(MjpegVideo(30)), settings->LibraryPath + "/Anna/Erica/swing.avi");
+  std::filesystem::copy_file(MakeTestVideo(MjpegVideo(30)), settings.LibraryPath + "/Anna/Erica/swing.avi");
   remembered = {"Anna", "Erica", ""};
   for (const int choice : {0, 1, 2}) {
-    settings->OpenDlgChoice = choice;
+    settings.OpenDlgChoice = choice;
     QTest::mouseDClick(Find<QWidget>("VideoPanel1"), Qt::LeftButton);
     QTest::qWait(0);
     auto* panel = Find<QWidget>(choice == 2 ? "OpenVidCForm" : "OpenVidForm");
@@ -197,8 +142,8 @@ TEST_F(AnalysisFormTest, TheOpenPanelStandsWhereTheSettingsSay) {
 }
 
 TEST_F(AnalysisFormTest, TheFloatingPlayBarStaysWhereItIsPut) {
-  form->SendToAnalysis(Video("a.avi"));
-  form->SendToAnalysis(Video("b.avi"));
+  Send("a.avi");
+  Send("b.avi");
   auto* bar = Find<QWidget>("Playbar");
   const QPoint docked = bar->pos();
   Click("PlayBarDetachBtn");
@@ -213,8 +158,8 @@ TEST_F(AnalysisFormTest, TheFloatingPlayBarStaysWhereItIsPut) {
 
 TEST_F(AnalysisFormTest, NothingIsCutOffAtAnySize) {
   for (const QSize& size : {QSize(1000, 680), QSize(1024, 732), QSize(1280, 764), QSize(1920, 1044)}) {
-    Make(size.width(), size.height());
-    form->SendToAnalysis(Video("a.avi"));
+    Make(size);
+    Send("a.avi");
     for (const char* layout : {"Scn1", "Scn2", "Scn8"}) {
       Click(layout);
       QTest::qWait(0);
@@ -256,7 +201,7 @@ TEST_F(AnalysisFormTest, DisabledThingsSayWhy) {
 }
 
 TEST_F(AnalysisFormTest, TimerAndRulerWorkOverTheStage) {
-  form->SendToAnalysis(Video("a.avi"));
+  Send("a.avi");
   Click("CmdAfunctions3");
   ASSERT_TRUE(Find<QWidget>("VideoTimerForm")->isVisible());
   form->Analysis().Player().Seek(15);
@@ -269,33 +214,32 @@ TEST_F(AnalysisFormTest, TimerAndRulerWorkOverTheStage) {
   Click("CmdAfunctions4");
   ASSERT_TRUE(Find<QWidget>("TransFrame5")->isVisible());
   EXPECT_FALSE(Find<QPushButton>("CalibBtn0")->isEnabled());
-  QWidget* player = Find<QWidget>("MP1");
-  QTest::mouseClick(player, Qt::LeftButton, {}, {100, 50});
-  QTest::mouseMove(player, {200, 50});
-  QTest::mouseClick(player, Qt::LeftButton, {}, {200, 50});
+  ClickOn("MP1", {100, 50});
+  QTest::mouseMove(Find<QWidget>("MP1"), {200, 50});
+  ClickOn("MP1", {200, 50});
   EXPECT_EQ(Find<QLabel>("Label4")->text(), "100pts");
   EXPECT_EQ(form->focusWidget(), Find<QLineEdit>("Text2"));
   QTest::keyClicks(form->focusWidget(), "2.5");
   Click("CalibBtn0");
   EXPECT_FALSE(Find<QWidget>("TransFrame5")->isVisible());
-  EXPECT_EQ(settings->CalibNumber, 100);
-  EXPECT_FLOAT_EQ(settings->CalibNumberOut, 100 / 2.5f / 12);
+  EXPECT_EQ(settings.CalibNumber, 100);
+  EXPECT_FLOAT_EQ(settings.CalibNumberOut, 100 / 2.5f / 12);
 }
 
 TEST_F(AnalysisFormTest, LettingGoWhileEverythingPlaysKeepsTheDrawings) {
   const std::string path = Video("a.avi");
-  form->SendToAnalysis(path);
-  for (int n = 2; n <= 8; ++n) form->SendToAnalysis(Video(std::to_string(n) + ".avi"));
+  Slots().SendToAnalysis(path);
+  for (int n = 2; n <= 8; ++n) Send(std::to_string(n) + ".avi");
   Slots().SelectWindow(1);
   Click("CmdMakeShape1");
-  QTest::mouseClick(Find<QWidget>("MP1"), Qt::LeftButton, {}, {90, 80});
+  ClickOn("MP1", {90, 80});
   form->Analysis().Player().TLAV_Click();
   host.Advance(200);
   form.reset();
   host.Advance(1000);
-  Make(1280, 800);
-  form->SendToAnalysis(path);
-  EXPECT_EQ(form->Analysis().Tools().List(1).NumShapes, 1);
+  Make({1280, 800});
+  Slots().SendToAnalysis(path);
+  EXPECT_EQ(Shapes().NumShapes, 1);
 }
 
 }  // namespace

@@ -9,58 +9,24 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QSlider>
-#include <QTest>
 #include <QTimer>
 #include <QToolButton>
-#include <filesystem>
 
-#include "FormsSupport.h"
-#include "support/TestHost.h"
-#include "support/TestVideos.h"
-#include "workspace/forms/AnalysisForm.h"
+#include "AnalysisFormFixture.h"
 #include "workspace/forms/StageParts.h"
 
 namespace kinalyx::test {
 namespace {
 
-struct EditFormsTest : testing::Test, UsesApplication {
+/// A video on which a line and a square are drawn.
+struct EditFormsTest : AnalysisFormFixture {
+  EditFormsTest() : AnalysisFormFixture({1024, 732}) {}
   void SetUp() override {
-    static int count = 0;
-    folder = TestPath("editforms" + std::to_string(++count));
-    std::filesystem::create_directories(folder);
-    settings = std::make_unique<Settings>(host, folder + "/data", folder);
-    settings->LoadSettings();
-    form = std::make_unique<AnalysisForm>(host, *settings, players, remembered, Navigation{});
-    form->resize(1024, 732);
-    form->show();
-    QTest::qWait(0);
-    form->SendToAnalysis(Video("a.avi"));
+    Send("a.avi");
     Draw("CmdMakeShape3", {200, 220}, {320, 220});
     Draw("CmdMakeShape2", {200, 300}, {260, 340});
   }
-  void TearDown() override { form.reset(); }
-
-  std::string Video(const std::string& name) {
-    const std::string path = folder + "/" + name;
-    std::filesystem::copy_file(MakeTestVideo(MjpegVideo(30)), path);
-    return path;
-  }
-  void Draw(const char* tool, QPoint from, QPoint to) {
-    Click(tool);
-    QWidget* player = Find<QWidget>("MP1");
-    QTest::mouseClick(player, Qt::LeftButton, {}, from);
-    QTest::mouseMove(player, (from + to) / 2);
-    QTest::mouseClick(player, Qt::LeftButton, {}, to);
-  }
-  template <typename T>
-  T* Find(const char* name) {
-    T* found = form->findChild<T*>(name);
-    EXPECT_NE(found, nullptr) << name;
-    return found;
-  }
-  void Click(const char* name) { QTest::mouseClick(Find<QWidget>(name), Qt::LeftButton); }
   void Trigger(const char* action) { Find<QAction>(action)->trigger(); }
-  void Press(int key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(Find<QWidget>("Text1"), Qt::Key(key), modifiers); }
   /// Holds a widget and moves the mouse by pixels, as a hand does: in several steps.
   void DragOn(QWidget* handle, QPoint by, QPoint from) {
     const QPoint start = handle->mapTo(form.get(), from);
@@ -74,7 +40,6 @@ struct EditFormsTest : testing::Test, UsesApplication {
     send(QEvent::MouseButtonRelease, start + by, Qt::LeftButton, Qt::NoButton);
   }
   void DragOn(const char* name, QPoint by) { DragOn(Find<QWidget>(name), by, Find<QWidget>(name)->rect().center()); }
-  ShapeList& Shapes(int slot = 1) { return form->Analysis().Tools().List(slot); }
   POINTAPI PointOf(int shape, int point) {
     return Shapes().Shapes[static_cast<std::size_t>(shape)].Pts[static_cast<std::size_t>(point)];
   }
@@ -94,14 +59,6 @@ struct EditFormsTest : testing::Test, UsesApplication {
       if (dialog->isVisible()) dialog->reject();
     });
   }
-
-  TestHost host;
-  std::string folder;
-  std::unique_ptr<Settings> settings;
-  PlayScheduler scheduler{host};
-  PlayerServices players{host, scheduler};
-  LastStudentInfo remembered;
-  std::unique_ptr<AnalysisForm> form;
 };
 
 TEST_F(EditFormsTest, HandlesLieOnTheSelectionAndFollowTheMouse) {
@@ -118,22 +75,22 @@ TEST_F(EditFormsTest, HandlesLieOnTheSelectionAndFollowTheMouse) {
   EXPECT_EQ(PointOf(1, 0), (POINTAPI{240, 290}));
   EXPECT_TRUE(LiesOn("EditKnob1", {270, 310})) << "the handle went with it";
 
-  Press(Qt::Key_Tab);
+  Key(Qt::Key_Tab);
   EXPECT_EQ(Find<QLabel>("EditWords")->text(), "Line, 1 of 2");
   EXPECT_TRUE(LiesOn("EditKnob1", {260, 220}));
   DragOn("cmdEBBtn1", {5, 7});
   EXPECT_EQ(PointOf(0, 0), (POINTAPI{205, 227})) << "the strip's handle moves as far as the mouse";
   DragOn("cmdEBBtn2", {0, -10});
   EXPECT_NEAR(PointOf(0, 1).x - PointOf(0, 0).x, 165, 1) << "150 twips up of 400 are three eighths more";
-  Press(Qt::Key_Left, Qt::ShiftModifier);
-  Press(Qt::Key_Z, Qt::ControlModifier);
-  Press(Qt::Key_Z, Qt::ControlModifier);
+  Key(Qt::Key_Left, Qt::ShiftModifier);
+  Key(Qt::Key_Z, Qt::ControlModifier);
+  Key(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(PointOf(0, 1).x - PointOf(0, 0).x, 120);
-  Press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+  Key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
   EXPECT_NEAR(PointOf(0, 1).x - PointOf(0, 0).x, 165, 1);
   EXPECT_FALSE(Find<QWidget>("EditKnob1")->isVisible()) << "nothing is selected after undo";
 
-  QTest::mouseClick(Find<QWidget>("MP1"), Qt::LeftButton, {}, {270, 310});
+  ClickOn("MP1", {270, 310});
   EXPECT_TRUE(Find<QWidget>("EditKnob1")->isVisible());
   EXPECT_TRUE(Find<QToolButton>("ribEBBtn")->isEnabled());
   Click("ribEBBtn");
@@ -154,8 +111,8 @@ TEST_F(EditFormsTest, TheBarGoesWithItsWindow) {
   EXPECT_EQ(strip->pos(), before + QPoint(-60, -80)) << "moved by its ground";
   Click("Scn2");
   QTest::qWait(0);
-  form->SendToAnalysis(Video("b.avi"));
-  EXPECT_EQ(form->Analysis().Slots().CurrentWindow, 2);
+  Send("b.avi");
+  EXPECT_EQ(Slots().CurrentWindow, 2);
   EXPECT_GE(strip->geometry().center().x(), form->width() / 2);
   EXPECT_EQ(Find<QLabel>("EditWords")->text(), "Nothing is drawn here");
   EXPECT_FALSE(Find<QToolButton>("cmdEBBtn1")->isEnabled());
@@ -165,9 +122,9 @@ TEST_F(EditFormsTest, TheBarGoesWithItsWindow) {
     QTest::qWait(0);
     EXPECT_TRUE(Find<QWidget>("MainPanel")->rect().contains(strip->geometry())) << layout;
   }
-  Press(Qt::Key_Escape);
+  Key(Qt::Key_Escape);
   EXPECT_FALSE(strip->isVisible());
-  EXPECT_TRUE(form->Analysis().Slots().HasVideo(2));
+  EXPECT_TRUE(Slots().HasVideo(2));
 }
 
 TEST_F(EditFormsTest, MacrosAreNamedShownInsertedAndRemoved) {
@@ -199,7 +156,7 @@ TEST_F(EditFormsTest, MacrosAreNamedShownInsertedAndRemoved) {
   EXPECT_TRUE(Find<QToolButton>("ribEBBtn")->isChecked());
   EXPECT_FALSE(Find<QToolButton>("cmdEBBtn3")->isEnabled());
   EXPECT_FALSE(Find<QWidget>("EditKnob3")->isVisible());
-  form->Analysis().Slots().CloseVideo(1);
+  Slots().CloseVideo(1);
   EXPECT_FALSE(Find<QPushButton>("MacroBtn")->isEnabled());
   EXPECT_EQ(Find<QPushButton>("MacroBtn")->toolTip(), "Open a video first");
   host.answers = {true};
@@ -214,19 +171,19 @@ TEST_F(EditFormsTest, GridPanelAndClonePlan) {
   Trigger("TAGrid");
   auto* slider = Find<QSlider>("HScroll3");
   ASSERT_TRUE(slider->isVisible());
-  EXPECT_EQ(slider->value(), settings->GridSize);
+  EXPECT_EQ(slider->value(), settings.GridSize);
   Click("GridPanelShow");
   EXPECT_TRUE(Shapes().GridOn);
   EXPECT_TRUE(Find<QPushButton>("ribShowGrid")->isChecked());
   slider->setValue(17);
-  EXPECT_EQ(settings->GridSize, 17);
+  EXPECT_EQ(settings.GridSize, 17);
   EXPECT_EQ(Find<QLabel>("GridSize")->text(), "17 squares across the picture");
   Click("GridSizeClose");
   EXPECT_FALSE(Find<QWidget>("GridPanel")->isVisible());
 
   Click("Scn4");
-  form->SendToAnalysis(Video("b.avi"));
-  form->Analysis().Slots().SelectWindow(1);
+  Send("b.avi");
+  Slots().SelectWindow(1);
   EXPECT_EQ(Find<QAction>("DTClone")->isEnabled(), true);
   InDialog("CloneForm", [](QDialog& dialog) {
     EXPECT_EQ(dialog.windowTitle(), "Clone Drawings to another Window");
@@ -240,7 +197,7 @@ TEST_F(EditFormsTest, GridPanelAndClonePlan) {
   });
   Click("CmdAfunctions1");
   EXPECT_EQ(Shapes(2).NumShapes, 2);
-  EXPECT_EQ(form->Analysis().Slots().CurrentWindow, 2);
+  EXPECT_EQ(Slots().CurrentWindow, 2);
 }
 
 }  // namespace
