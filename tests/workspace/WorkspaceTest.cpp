@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <fstream>
 
 #include "AnalysisStage.h"
@@ -146,7 +147,12 @@ TEST(WorkspaceVideos, SendingTakesTheFirstFreeSlotAndWidensTheLayout) {
   EXPECT_EQ(told.back(), "All 8 windows already have videos in them. Send to analysis failed.");
   EXPECT_EQ(LastName(stage.Slots().At(8).path), "8.avi");
 
+  // The library asks before it renames or moves a file, by whatever road it has come to it.
+  std::filesystem::create_directory_symlink(stage.folder, stage.folder + "/link");
+  EXPECT_TRUE(stage.Slots().CheckOpenInAnalysis(stage.folder + "/link/3.avi"));
+  EXPECT_FALSE(stage.Slots().CheckOpenInAnalysis(stage.folder + "/link/ninth.avi"));
   stage.Slots().CloseVideo(3);
+  EXPECT_FALSE(stage.Slots().CheckOpenInAnalysis(stage.folder + "/3.avi"));
   EXPECT_EQ(stage.Slots().SendToAnalysis(stage.Video("again.avi")), 3);
   EXPECT_EQ(stage.Slots().SendToAnalysis(stage.folder + "/none.avi"), 0);
 }
