@@ -1,5 +1,7 @@
 #include "library/Profile.h"
 
+#include <chrono>
+
 #include "library/NotesKeeper.h"
 #include "library/TempLibrary.h"
 
@@ -51,6 +53,24 @@ TEST_F(ProfileTest, AFolderWithoutAProfileGainsOne) {
   const std::string text = File("profile.prf");
   EXPECT_TRUE(text.starts_with("[Profile]\nName=Sample, Erica\nAddress= \n")) << text;
   EXPECT_NE(text.find("\nStart=Notes\n"), std::string::npos);
+}
+
+TEST_F(ProfileTest, AFieldCalledLikeTheMarkerKeepsItsValue) {
+  fields.SetCaption(5, "start");
+  FieldTexts values;
+  values[0] = "Tom";
+  values[5] = "May 2024";
+  ASSERT_TRUE(AddStudent(library.Path("Demo"), fields.Captions(), values, "student").done);
+  EXPECT_EQ(OpenProfile(library.Path("Demo/Tom"), fields.Captions()).values[5], "May 2024");
+}
+
+TEST_F(ProfileTest, AFolderWithBlanksAroundItsNameIsNotWrittenAtEachLook) {
+  const std::string blank = library.Folder("Demo/ Blank ");
+  OpenProfile(blank, fields.Captions());
+  const auto written = std::filesystem::last_write_time(blank + "/profile.prf") - std::chrono::hours(1);
+  std::filesystem::last_write_time(blank + "/profile.prf", written);
+  OpenProfile(blank, fields.Captions());
+  EXPECT_EQ(std::filesystem::last_write_time(blank + "/profile.prf"), written);
 }
 
 TEST_F(ProfileTest, OldProfilesKeepTheirNameUnderItsPresentKey) {

@@ -203,6 +203,16 @@ TEST_F(SidecarTest, ASaveThatFailsLeavesTheOldFileAndTellsWhy) {
   EXPECT_NE(error, "");
   EXPECT_EQ(TempLibrary::Read(path), "1WRSXXXX");
   EXPECT_FALSE(WriteVideoData("/nowhere/x.ved", {}, &error));
+
+  // What nobody could read makes way for a save that succeeds, and takes the place of nothing.
+  SlotData unread = Read("2 of another program");
+  ASSERT_TRUE(unread.Unread);
+  EXPECT_FALSE(WriteVideoData(path, unread, &error, disk));
+  EXPECT_EQ(TempLibrary::Read(path), "2 of another program");
+  library.File("x.ved.old", "drawings of long ago");
+  EXPECT_TRUE(WriteVideoData(path, unread, &error));
+  EXPECT_EQ(TempLibrary::Read(path + ".old"), "drawings of long ago");
+  EXPECT_EQ(TempLibrary::Read(path + ".old2"), "2 of another program");
 }
 
 TEST_F(SidecarTest, FirstSidecarsAreEightBytes) {
