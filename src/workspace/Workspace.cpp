@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "platform/files/Folders.h"
+#include "platform/host/DriveWatch.h"
 #include "workspace/MultiPicture.h"
 
 namespace kinalyx {
@@ -253,6 +254,10 @@ bool Workspace::SaveData(int slot, std::string* error) {
   // With nothing of its own to say a slot leaves alone what another one wrote for the same video, and what
   // could not be read.
   if (!changed && (at.savedElsewhere || at.data.Unread)) return true;
+  if (!host_.Drives().Answers(settings_.LibraryPath, at.path)) {
+    if (error) *error = "the drive is not answering";
+    return false;
+  }
   // Both have something to say: whoever closes last adds to the work of the other. What was drawn there does
   // not stand in this window, so that every later save must add it again.
   if (at.savedElsewhere && at.MP->Info())

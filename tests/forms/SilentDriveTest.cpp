@@ -1,5 +1,5 @@
 #include <QComboBox>
-#include <QPlainTextEdit>
+#include <QtTest/QTest>
 
 #include "ProfilesStage.h"
 #include "library/forms/ImportExportPage.h"
@@ -48,6 +48,9 @@ TEST_F(SilentDriveTest, AVideoBehindASilentDriveIsNoBadVideo) {
   Press("SPBtn6");
   EXPECT_TRUE(Text("SPDisplay").contains("is not answering. Nothing was changed.")) << Text("SPDisplay").toStdString();
   EXPECT_EQ(library.host.waits.size(), 1u);
+  QTest::keyClick(page.get(), Qt::Key_F5);
+  EXPECT_EQ(library.host.waits.size(), 2u) << "who asks for it may wait once more";
+
   library.host.DrivesAnswer();
   library.host.Advance(3000);
   Choose("VideoList", "(001) DTL driver");

@@ -261,5 +261,19 @@ TEST_F(BlockedSidecar, AnotherTrySavesThem) {
   EXPECT_EQ(stage.Shapes(1).NumShapes, 1);
 }
 
+TEST_F(BlockedSidecar, ADriveThatDoesNotAnswerIsNotWaitedForAgain) {
+  Unblock();
+  DrawLine();
+  stage.host.drivesHang = true;
+  stage.host.answers = {true, false, false};  // one more try, which ends at once
+  EXPECT_FALSE(stage.Slots().CloseVideo(1));
+  ASSERT_EQ(stage.host.questions.size(), 3u);
+  EXPECT_NE(stage.host.questions[0].find("the drive is not answering"), std::string::npos) << stage.host.questions[0];
+  EXPECT_EQ(stage.host.waits.size(), 1u);
+  stage.host.DrivesAnswer();
+  EXPECT_TRUE(stage.Slots().CloseVideo(1));
+  EXPECT_EQ(ReadSidecarMarks(SidecarPath(path)).First, 'S');
+}
+
 }  // namespace
 }  // namespace kinalyx::test

@@ -93,7 +93,10 @@ ImportExportPage::ImportExportPage(IHost& host, Settings& settings, LibraryOpera
 
   progress_ = new ProgressForm(host, operations, this);
   connect(Drive1_, &DriveChoice::Chosen, this, &ImportExportPage::OpenDrive);
-  connect(there_, &LibrarySide::AnswersAgain, this, &ImportExportPage::DiskSpaceGauge);
+  connect(there_, &LibrarySide::AnswersAgain, this, [this] {
+    Say({});
+    DiskSpaceGauge();
+  });
   SetupVocabulary();
 }
 
@@ -162,6 +165,7 @@ void ImportExportPage::IECmd_Click(int command) {
 
 void ImportExportPage::keyPressEvent(QKeyEvent* event) {
   if (event->key() != Qt::Key_F5) return QWidget::keyPressEvent(event);
+  for (const std::string& place : {settings_.LibraryPath, otherRoot_}) host_.Drives().TryAgain(place);
   here_->Refresh();
   Drive1_->Refresh();
   OpenDrive();

@@ -108,8 +108,9 @@ void LibraryLists::ShowHints() {
   // Only the profiles page has the buttons that add somebody.
   const bool adds = browser_.Purpose() == LibraryBrowser::Kind::Profiles;
   if (LibrarySilent()) {
-    students_->SetHint(Q(SilentLibraryText(browser_.Tree().Root()) + " The lists fill as soon as it does."));
-    videos_->SetHint({});
+    const QString silent = Q(SilentLibraryText(browser_.Tree().Root()) + " The lists fill as soon as it does.");
+    students_->SetHint(silent);
+    videos_->SetHint(students_->count() > 0 ? silent : QString());
     return;
   }
   if (LibraryGone()) {

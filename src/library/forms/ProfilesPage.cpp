@@ -330,6 +330,7 @@ void ProfilesPage::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Escape && profilePanel_->CurrentView() == ProfilePanel::View::Complete) {
     ShowProfileView(false);
   } else if (event->key() == Qt::Key_F5) {
+    browser_.Drives().TryAgain(settings_.LibraryPath);
     browser_.Refresh();
     lists_->ShowAll();
   } else {
