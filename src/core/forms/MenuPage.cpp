@@ -28,6 +28,7 @@ MenuPage::MenuPage(IHost& host, Settings& settings, QWidget* parent)
   auto* rows = new QVBoxLayout(canvas_);
   rows->setContentsMargins(0, 10, 12, 0);
   setup_ = IconButton("MenuSetupBtn", "palette", "Change the picture or move the heading", Look::Stage);
+  setup_->setProperty("over", "picture");
   rows->addWidget(setup_, 0, Qt::AlignRight);
   rows->addStretch(1);
   row_ = new QHBoxLayout;
@@ -71,7 +72,7 @@ void MenuPage::ShowSetupMenu() {
   });
   menu.addAction("Move Heading", this, [this] {
     NextCaptionPosition(settings_);
-    canvas_->SetupCaptionLabels(settings_);
+    SetupMenuImage();  // tells, too, when the picture has gone meanwhile
     emit MenuChanged();
   });
   menu.exec(setup_->mapToGlobal(setup_->rect().bottomRight() - QPoint(menu.sizeHint().width(), 0)));

@@ -24,10 +24,13 @@ OpenVideoParts::OpenVideoParts(PlayerServices& services, const Settings& setting
                                OpenVideoCalls calls, QWidget* parent)
     : QFrame(parent),
       host_(services.host),
+      settings_(settings),
       browser_(services.host.Drives(), settings, remembered, LibraryBrowser::Kind::OpenVideo),
       calls_(std::move(calls)) {
   setProperty("look", "panel");
   lists_ = new LibraryLists(browser_, settings, this);
+  students_ = MakeLabel("StudentHeading", {}, "heading");
+  SetupVocabulary();
   preview_ = new PreviewPlayer(services);
   marks_ = new SidecarMarkLabels;
   count_ = new FigureLabel("VideoCount");
@@ -56,6 +59,8 @@ void OpenVideoParts::Open() {
   QWidget* const wanted = browser_.HasVideo() ? lists_->VideoList() : lists_->InstructorList();
   wanted->setFocus();
 }
+
+void OpenVideoParts::SetupVocabulary() { students_->setText(Q(Vocabulary(settings_).Nouns())); }
 
 void OpenVideoParts::SetShortGameNaming(bool on) {
   shortGame_ = on;
@@ -137,7 +142,7 @@ void OpenVideoParts::hideEvent(QHideEvent* event) {
 namespace {
 
 /// A list under its heading.
-QWidget* Headed(const QString& title, QWidget* list, QWidget* right = nullptr) {
+QWidget* Headed(QLabel* title, QWidget* list, QWidget* right = nullptr) {
   auto* part = new QWidget;
   auto* rows = new QVBoxLayout(part);
   rows->setContentsMargins(0, 0, 0, 0);
@@ -146,12 +151,14 @@ QWidget* Headed(const QString& title, QWidget* list, QWidget* right = nullptr) {
   FixHeight(head, 26);
   auto* row = new QHBoxLayout(head);
   row->setContentsMargins(kGap, 0, kGap, 0);
-  row->addWidget(MakeLabel({}, title, "heading"), 1);
+  row->addWidget(title, 1);
   if (right) row->addWidget(right);
   rows->addWidget(head);
   rows->addWidget(list, 1);
   return part;
 }
+
+QLabel* Heading(const QString& title) { return MakeLabel({}, title, "heading"); }
 
 }  // namespace
 
@@ -165,9 +172,9 @@ OpenVidForm::OpenVidForm(PlayerServices& services, const Settings& settings, Las
   rows->setSpacing(0);
   for (NameList* list : {lists_->InstructorList(), lists_->StudentList(), lists_->VideoList()})
     LeastHeight(list, 62);
-  rows->addWidget(Headed("Instructors", lists_->InstructorList()), 3);
-  rows->addWidget(Headed(Q(Vocabulary(settings).Nouns()), lists_->StudentList()), 5);
-  rows->addWidget(Headed("Videos", lists_->VideoList(), count_), 5);
+  rows->addWidget(Headed(Heading("Instructors"), lists_->InstructorList()), 3);
+  rows->addWidget(Headed(students_, lists_->StudentList()), 5);
+  rows->addWidget(Headed(Heading("Videos"), lists_->VideoList(), count_), 5);
   LeastHeight(preview_, 120);
   rows->addWidget(preview_, 6);
 
@@ -204,11 +211,11 @@ OpenVidCForm::OpenVidCForm(PlayerServices& services, const Settings& settings, L
     line->setFixedWidth(1);
     return line;
   };
-  columns->addWidget(Headed("Instructors", lists_->InstructorList()), 3);
+  columns->addWidget(Headed(Heading("Instructors"), lists_->InstructorList()), 3);
   columns->addWidget(divider());
-  columns->addWidget(Headed(Q(Vocabulary(settings).Nouns()), lists_->StudentList()), 3);
+  columns->addWidget(Headed(students_, lists_->StudentList()), 3);
   columns->addWidget(divider());
-  columns->addWidget(Headed("Videos", lists_->VideoList(), count_), 4);
+  columns->addWidget(Headed(Heading("Videos"), lists_->VideoList(), count_), 4);
   columns->addWidget(preview_, 6);
   rows->addLayout(columns, 1);
 

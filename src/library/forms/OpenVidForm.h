@@ -10,6 +10,8 @@
 #include "platform/host/Host.h"
 #include "video/AVIControl.h"
 
+class QLabel;
+
 namespace kinalyx {
 
 class Button;
@@ -40,6 +42,8 @@ class OpenVideoParts : public QFrame {
 
   /// Reads the library and goes to the remembered student.
   void Open();
+  /// The noun has changed.
+  void SetupVocabulary();
   /// With short-game naming on, the third button loads the files that belong together.
   void SetShortGameNaming(bool on);
   LibraryBrowser& Browser() { return browser_; }
@@ -53,6 +57,7 @@ class OpenVideoParts : public QFrame {
   void hideEvent(QHideEvent* event) override;
 
   LibraryLists* lists_;
+  QLabel* students_;  // the heading with the noun
   PreviewPlayer* preview_;
   SidecarMarkLabels* marks_;
   FigureLabel* count_;
@@ -66,6 +71,7 @@ class OpenVideoParts : public QFrame {
   void OpenFamily();
 
   IHost& host_;
+  const Settings& settings_;
   LibraryBrowser browser_;
   OpenVideoCalls calls_;
   bool shortGame_ = false;

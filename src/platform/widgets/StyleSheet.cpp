@@ -31,6 +31,7 @@ QPushButton[look="quiet"][square="true"] { padding: 0; min-width: @34-2; max-wid
 QPushButton[look="quiet"][square="true"]:focus { padding: 0; min-width: @34-4; max-width: @34-4; }
 
 QPushButton[look="flat"] { background: transparent; color: @heading; border: 2px solid transparent; }
+QPushButton[placed="true"] { min-width: 0; max-width: 200px; min-height: 0; max-height: 200px; }
 QPushButton[look="flat"]:hover { background: @flatHover; border-color: @flatHover; }
 QPushButton[look="flat"]:pressed { background: @flatPressed; border-color: @flatPressed; }
 QPushButton[look="flat"]:checked { background: @accent; color: @accentText; border-color: @accent; }
@@ -38,6 +39,7 @@ QPushButton[look="flat"]:focus { border-color: @accentSoft; }
 QPushButton[look="flat"]:disabled { background: transparent; color: @faint; border-color: transparent; }
 
 QPushButton[look="stage"] { background: transparent; color: @stageText; border: 2px solid transparent; }
+QPushButton[look="stage"][over="picture"] { background: rgba(18, 22, 27, 150); }
 QPushButton[look="stage"]:hover { background: #262d35; border-color: #262d35; }
 QPushButton[look="stage"]:pressed { background: #323b45; border-color: #323b45; }
 QPushButton[look="stage"]:checked { background: @stageAccent; border-color: @stageAccent; }

@@ -298,6 +298,11 @@ void AnalysisForm::ShowNotesform() {
 
 // ---------------------------------------------------------------- open panel
 
+void AnalysisForm::SettingsChanged() {
+  analysis_->SettingsChanged();
+  if (openPanel_) openPanel_->SetupVocabulary();
+}
+
 void AnalysisForm::MakeOpenPanel() {
   OpenVideoCalls calls;
   calls.open = [this](const std::string& path) {

@@ -42,7 +42,8 @@ class AnalysisForm : public QWidget, private IWorkspaceView {
   void Entered() { FocusKeyBox(); }
   /// Writes and closes all videos. False when the user kept one open, because its drawings could not be saved.
   bool CloseAll();
-  void SettingsChanged() { analysis_->SettingsChanged(); }
+  /// A setting of the section, or the noun, has changed.
+  void SettingsChanged();
 
   AnalysisWorkspace& Analysis() { return *analysis_; }
 

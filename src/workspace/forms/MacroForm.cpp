@@ -14,9 +14,9 @@ namespace kinalyx {
 namespace {
 
 constexpr const char* kListSheet =
-    "QListWidget { background: @ground; color: @ink; border: 1px solid @cardLine; border-radius: 6px; outline: none; }"
+    "QListWidget { background: @ground; color: @ink; border: 1px solid @outline; border-radius: 6px; outline: none; }"
     "QListWidget:focus { border-color: @accent; }"
-    "QListWidget::item { padding: 0 8px; height: @28; }"
+    "QListWidget::item { padding: 0 8px; height: @28; border: none; background: transparent; }"
     "QListWidget::item:hover { background: @hover; }"
     "QListWidget::item:selected { background: @accentFill; color: @ink; }";
 
