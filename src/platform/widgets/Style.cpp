@@ -44,6 +44,12 @@ class Style : public QProxyStyle {
  public:
   Style() : QProxyStyle(QStyleFactory::create("Fusion")) {}
 
+  using QProxyStyle::polish;
+  void polish(QWidget* widget) override {
+    QProxyStyle::polish(widget);
+    if (widget->isWindow()) WearTheme(*widget);
+  }
+
   int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
     switch (metric) {
       case PM_IndicatorWidth:

@@ -12,9 +12,11 @@ struct Theme;
 /// ring. Colours come from CurrentTheme. The caller (the application) owns it.
 QStyle* MakeStyle();
 
-/// The style sheet of the whole application. Dynamic properties choose a look:
+/// The style sheet that every window wears. Dynamic properties choose a look:
 /// - QPushButton `look`: none filled with the accent; "quiet" outlined; "flat" only under the mouse;
 ///   "section" a row of a list of sections; "tile" the big ones; "stage" on the dark stage
+/// - QPushButton `over`: "picture" for a "stage" button on a picture of any brightness
+/// - QPushButton `placed`: true for one that is given its size and place by hand
 /// - QLabel `look`: "caption", "heading", "brand", "pageTitle", "title", "muted", "mark", "markOff", "logo"
 /// - QFrame `look`: "panel", "panelHead", "panelFoot", "header", "rail", "strip", "status", "stage", "divider"
 QString StyleSheetOf(const Theme& theme);

@@ -17,6 +17,7 @@ constexpr SchemeSlots kFirstScheme{8867609, 15984088, 16777215, 15850180};
 // The application object carries what it wears.
 constexpr const char* kThemeProperty = "kinalyxTheme";
 constexpr const char* kStyledProperty = "kinalyxStyled";
+constexpr const char* kSheetProperty = "kinalyxSheet";
 constexpr const char* kScaledProperty = "kinalyxScaled";
 
 double Linear(double channel) {
@@ -141,7 +142,17 @@ void ApplyTheme(QApplication& application, const Theme& theme) {
     for (QWidget* form : QApplication::topLevelWidgets()) ScaleContent(*form);
   }
   application.setPalette(PaletteOf(theme));
-  application.setStyleSheet(StyleSheetOf(theme));
+  application.setProperty(kSheetProperty, StyleSheetOf(theme));
+  for (QWidget* window : QApplication::topLevelWidgets())
+    if (window->testAttribute(Qt::WA_WState_Polished)) WearTheme(*window);
+}
+
+// The windows wear the sheet, not the application: the toolkit dresses every widget in a window once, but for
+// the application once for each widget around it.
+void WearTheme(QWidget& window) {
+  if (window.parentWidget()) return;  // it wears what its parent does
+  const QString sheet = qApp->property(kSheetProperty).toString();
+  if (window.styleSheet() != sheet) window.setStyleSheet(sheet);
 }
 
 Theme CurrentTheme() {

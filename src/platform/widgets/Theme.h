@@ -7,6 +7,7 @@
 
 class QApplication;
 class QFont;
+class QWidget;
 
 namespace kinalyx {
 
@@ -69,6 +70,8 @@ QPalette PaletteOf(const Theme& theme);
 /// Dresses the whole application, at once and while it runs: font, palette, style and style sheet, and
 /// after SetTextPixels the lengths in all forms.
 void ApplyTheme(QApplication& application, const Theme& theme);
+/// Gives a new window the sheet that the others wear; the style calls it when a window is about to be shown.
+void WearTheme(QWidget& window);
 /// The theme that the application wears; that of the first scheme before any was applied.
 Theme CurrentTheme();
 

@@ -26,7 +26,7 @@ constexpr const char* kStripSheet =
     "[look=\"card\"] QToolButton:pressed, [look=\"card\"] QToolButton:checked { background: @accentFill; }"
     "[look=\"card\"] QToolButton:disabled { background: transparent; }"
     "[look=\"card\"] QToolButton[main=\"true\"] { background: @accentFill; }"
-    "[look=\"card\"] QToolButton[main=\"true\"]:hover { background: @accent; }";
+    "[look=\"card\"] QToolButton[main=\"true\"]:hover { background: @accentHover; }";
 
 bool Dragged(int handle) { return handle >= kMoveHandle && handle <= kRotateHandle; }
 

@@ -97,7 +97,7 @@ void PlayBar::Dress() {
                  "#Playbar QToolButton:hover { background: @hover; }"
                  "#Playbar QToolButton:pressed, #Playbar QToolButton:checked { background: @accentFill; }"
                  "#Playbar #CmdButton2 { background: @accentFill; }"
-                 "#Playbar #CmdButton2:hover { background: @accent; }"
+                 "#Playbar #CmdButton2:hover { background: @accentHover; }"
                  "#Playbar #CmdButton2:disabled { background: @card; }"
                  "#Playbar #MarkBox QToolButton { background: @card; color: @mark; padding: 0 6px; font-size: @11; }"
                  "#Playbar #MarkBox QToolButton:hover { background: @hover; }");

@@ -17,14 +17,17 @@ const char* const kCardSheet =
     "  padding: 0 @12; min-height: @32-2; max-height: @32-2; }"
     "[look=\"card\"] QPushButton:hover { border-color: @accent; }"
     "[look=\"card\"] QPushButton:pressed, [look=\"card\"] QPushButton[main=\"true\"] { background: @accentFill; }"
+    "[look=\"card\"] QPushButton[main=\"true\"]:hover { background: @accentHover; }"
+    "[look=\"card\"] QPushButton:focus { border-color: @accent; }"
     "[look=\"card\"] QPushButton:disabled { color: @faintInk; background: @card; }"
-    "[look=\"card\"] QLineEdit { background: @ground; color: @ink; border: 1px solid @cardLine; border-radius: 6px;"
+    "[look=\"card\"] QLineEdit { background: @ground; color: @ink; border: 1px solid @outline; border-radius: 6px;"
     "  padding: 0 8px; min-height: @30-2; max-height: @30-2; selection-background-color: @accentFill; }"
     "[look=\"card\"] QLineEdit:focus { border: 1px solid @accent; }"
-    "[look=\"card\"] QPlainTextEdit { background: @ground; color: @ink; border: 1px solid @cardLine; border-radius: 6px;"
+    "[look=\"card\"] QPlainTextEdit { background: @ground; color: @ink; border: 1px solid @outline; border-radius: 6px;"
     "  padding: 4px; selection-background-color: @accentFill; }"
     "[look=\"card\"] QPlainTextEdit:focus { border: 1px solid @accent; padding: 4px; }"
-    "[look=\"card\"] QRadioButton { color: @ink; }";
+    "[look=\"card\"] QScrollBar::handle { background: @outline; }"
+    "[look=\"card\"] QRadioButton, [look=\"card\"] QCheckBox { color: @ink; }";
 
 namespace {
 
@@ -40,13 +43,15 @@ StageLook StageLook::Current() {
   const Theme theme = CurrentTheme();
   StageLook look;
   look.ground = theme.stage;
-  look.card = Mix(theme.stage, Qt::white, 0.06);
-  look.cardLine = Mix(theme.stage, Qt::white, 0.2);
-  look.hover = Mix(theme.stage, Qt::white, 0.13);
-  look.ink = theme.stageText;
-  look.faintInk = Mix(theme.stageText, theme.stage, 0.5);
   look.accent = Tone(theme.accent, 0.75, 0.64);
-  look.accentFill = Tone(theme.accent, 0.6, 0.32);
+  look.ink = theme.stageText;
+  look.accentFill = Readable(Tone(theme.accent, 0.6, 0.32), look.ink);
+  look.accentHover = Readable(Tone(theme.accent, 0.6, 0.39), look.ink);
+  look.card = Mix(Mix(theme.stage, Qt::white, 0.05), look.accentFill, 0.14);
+  look.cardLine = Mix(look.card, Qt::white, 0.18);
+  look.outline = Readable(Mix(look.card, Qt::white, 0.3), look.card, 3);
+  look.hover = Mix(look.card, Qt::white, 0.08);
+  look.faintInk = Readable(Mix(theme.stageText, theme.stage, 0.5), look.hover);
   look.mark = QColor(0xff, 0xcf, 0x5a);
   return look;
 }
@@ -55,9 +60,10 @@ void WearStageSheet(QWidget* widget, const char* sheet) {
   const StageLook look = StageLook::Current();
   const std::pair<const char*, QColor> colours[] = {
       // Longer names first where one begins another.
-      {"@accentFill", look.accentFill}, {"@accent", look.accent}, {"@cardLine", look.cardLine}, {"@card", look.card},
-      {"@faintInk", look.faintInk},     {"@ground", look.ground}, {"@hover", look.hover},       {"@ink", look.ink},
-      {"@mark", look.mark},
+      {"@accentFill", look.accentFill}, {"@accentHover", look.accentHover}, {"@accent", look.accent},
+      {"@cardLine", look.cardLine},     {"@card", look.card},               {"@outline", look.outline},
+      {"@faintInk", look.faintInk},     {"@ground", look.ground},           {"@hover", look.hover},
+      {"@ink", look.ink},               {"@mark", look.mark},
   };
   QString dressed = QString::fromLatin1(sheet);
   for (const auto& [name, colour] : colours) dressed.replace(QLatin1String(name), colour.name());

@@ -11,13 +11,15 @@ namespace kinalyx {
 /// follows the scheme's buttons.
 struct StageLook {
   QColor ground;      ///< the stage
-  QColor card;        ///< panels that float over it
+  QColor card;        ///< panels that float over it, with a breath of the scheme
   QColor cardLine;
+  QColor outline;     ///< of fields, which show by nothing else
   QColor hover;
   QColor ink;         ///< words and icons
   QColor faintInk;    ///< what is disabled, and hints
   QColor accent;      ///< frame of the current window, the film's line up to the knob
   QColor accentFill;  ///< pressed and checked buttons
+  QColor accentHover; ///< the same under the mouse
   QColor mark;        ///< marks of a video
 
   static StageLook Current();

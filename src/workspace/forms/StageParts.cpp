@@ -30,12 +30,13 @@ const char* const kCompareSheet =
     "QToolButton:pressed, QToolButton:checked { background: @accentFill; }"
     "QToolButton:disabled { color: @faintInk; }"
     "QToolButton[main=\"true\"] { background: @accentFill; }"
-    "QToolButton[main=\"true\"]:hover { background: @accent; }"
+    "QToolButton[main=\"true\"]:hover { background: @accentHover; }"
     "QToolButton[main=\"true\"]:disabled { background: @card; }"
     "QPushButton { background: @hover; color: @ink; border: 1px solid @cardLine; border-radius: 8px; padding: 0 @12;"
     "  min-height: @32-2; max-height: @32-2; }"
     "QPushButton:hover { border-color: @accent; }"
     "QPushButton:pressed, QPushButton:checked { background: @accentFill; }"
+    "QPushButton:focus { border-color: @accent; }"
     "QPushButton:disabled { color: @faintInk; background: @card; }"
     "QPushButton[choice=\"true\"] { border-radius: 0; border-left-width: 0; background: @card; }"
     "QPushButton[choice=\"true\"]:checked { background: @accentFill; }"
@@ -49,13 +50,13 @@ const char* const kCompareSheet =
     "QSlider::handle:horizontal { width: 16px; margin: -6px 0; border-radius: 8px; background: white; }"
     "QSlider::handle:horizontal:disabled { background: @faintInk; }"
     "QSlider::handle:horizontal:focus { background: @mark; }"
-    "QComboBox { background: @card; color: @ink; border: 1px solid @cardLine; border-radius: 6px; padding: 0 8px;"
-    "  min-height: @30-2; max-height: @30-2; }"
-    "QComboBox:hover, QComboBox:focus { border-color: @accent; }"
+    "QComboBox { color: @ink; min-height: @32; max-height: @32; }"
     "QComboBox:disabled { color: @faintInk; }"
-    "QComboBox QLineEdit { background: transparent; color: @ink; border: none; min-height: @20; }"
+    "QComboBox QLineEdit { color: @ink; selection-background-color: @accentFill; selection-color: @ink; }"
     "QComboBox QAbstractItemView { background: @card; color: @ink; border: 1px solid @cardLine;"
-    "  selection-background-color: @accentFill; selection-color: @ink; }";
+    "  selection-background-color: @accentFill; selection-color: @ink; }"
+    "QComboBox QAbstractItemView::item:selected { background: @accentFill; color: @ink; }"
+    "QScrollBar::handle { background: @outline; }";
 
 QToolButton* StageButton(const QString& name, const QString& icon, const QString& tip, QWidget* parent) {
   auto* button = new QToolButton(parent);

@@ -31,6 +31,7 @@ ToolStrip::ToolStrip(const std::vector<Command>& commands, std::function<void(co
     if (command.group == 0) continue;
     const std::string name = command.button.empty() ? command.item : command.button;
     auto* button = IconButton(Text(name), Text(command.icon), Text(command.tip), Look::Flat, this);
+    button->setProperty("placed", true);
     button->setFocusPolicy(Qt::NoFocus);
     button->setCheckable(static_cast<bool>(command.checked));
     connect(button, &QPushButton::clicked, this, [this, name] { run_(name); });
@@ -40,6 +41,7 @@ ToolStrip::ToolStrip(const std::vector<Command>& commands, std::function<void(co
   for (std::size_t i = 1; i < tools_.size(); ++i)
     if (tools_[i].command->group != tools_[i - 1].command->group) dividers_.push_back(MakeFrame("divider", this));
   more_ = IconButton("MoreTools", "more", tr("More tools"), Look::Flat, this);
+  more_->setProperty("placed", true);
   more_->setFocusPolicy(Qt::NoFocus);
   connect(more_, &QPushButton::clicked, this, [this] { ShowMore(); });
   Update();
