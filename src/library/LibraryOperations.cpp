@@ -100,9 +100,7 @@ OperationResult LibraryOperations::Refuse(const std::string& text) {
   return Report(text);
 }
 
-OperationResult LibraryOperations::RefuseFor(const std::string& path, const std::string& text,
-                                             const std::string& reason) {
-  if (EntryExists(path)) return Refuse(text + ": " + reason);
+OperationResult LibraryOperations::RefuseGone(const std::string& text) {
   OperationResult result = Refuse(text + ". It is not there any more: somebody else has renamed, moved or deleted it.");
   result.refill = true;
   return result;
@@ -183,8 +181,11 @@ OperationResult LibraryOperations::RenameInstructor(const std::string& instructo
   // These two stand for something else in the list.
   if (name == kGeneralFolder || name == kQuickLaunch) return Refuse(taken);
   std::string error;
-  if (!RenameEntry(from, to, &error, disk_))
-    return EntryExists(to) ? Refuse(taken) : RefuseFor(from, instructor + " could not be renamed", error);
+  if (!RenameEntry(from, to, &error, disk_)) {
+    const std::string text = instructor + " could not be renamed";
+    if (EntryExists(to)) return Refuse(taken);
+    return EntryExists(from) ? Refuse(text + ": " + error) : RefuseGone(text);
+  }
   return {true, instructor + " successfully renamed.", true, std::string(name)};
 }
 
@@ -195,7 +196,8 @@ OperationResult LibraryOperations::DeleteInstructor(const std::string& instructo
   if (disk_.RemoveFolder(folder) < 0) {
     const int reason = errno;
     if (reason == ENOTEMPTY || reason == EEXIST) return Refuse(StillFullText(instructor));
-    return RefuseFor(folder, instructor + " could not be removed", std::generic_category().message(reason));
+    const std::string text = instructor + " could not be removed";
+    return reason == ENOENT ? RefuseGone(text) : Refuse(text + ": " + std::generic_category().message(reason));
   }
   return {true, instructor + " successfully removed from the system.", true};
 }
@@ -228,7 +230,8 @@ OperationResult LibraryOperations::RenameStudent(const std::string& instructor, 
   if (!RenameEntry(from, to, &error, disk_)) {
     // Whether the name was taken before or has been taken by another workstation just now.
     if (EntryExists(to)) return Refuse("The name you have chosen already exists in the database.");
-    return RefuseFor(from, "The " + words_.noun() + " could not be renamed", error);
+    const std::string text = "The " + words_.noun() + " could not be renamed";
+    return EntryExists(from) ? Refuse(text + ": " + error) : RefuseGone(text);
   }
   OperationResult result{true, words_.Noun() + " successfully renamed.", true, instructor, std::string(name)};
   // A student without a profile gains a whole one at the next look.
@@ -262,7 +265,7 @@ void LibraryOperations::MoveStudent(const std::string& instructor, const std::st
         if (copy.Status() == CopyJob::State::Cancelled) return Report(kOperationCancelled);
         if (copy.NameTaken()) return Refuse(taken);
         if (copy.Status() != CopyJob::State::Done)
-          return RefuseFor(from, "The " + words_.noun() + " was not moved", copy.Error());
+          return EntryExists(from) ? Refuse(copy.Error()) : RefuseGone("The " + words_.noun() + " was not moved");
         if (!copy.Error().empty()) host_.Message(MessageKind::Warning, "", copy.Error());
         return {true, words_.Noun() + " Successfully Moved to " + targetInstructor + " .", true, targetInstructor, student};
       },

@@ -143,8 +143,8 @@ class LibraryOperations {
   /// True when a drive outside the library answers, and the folder is there.
   bool HasFolder(const std::string& drive) const;
   OperationResult Refuse(const std::string& text);
-  /// Refuses what the disk has refused; where the thing itself has gone, that is the reason.
-  OperationResult RefuseFor(const std::string& path, const std::string& text, const std::string& reason);
+  /// Refuses because what the operation is about has gone meanwhile.
+  OperationResult RefuseGone(const std::string& text);
   static OperationResult Report(const std::string& text) { return {false, text}; }
   void Tell(const std::string& status) const;
   std::string BusyText() const;

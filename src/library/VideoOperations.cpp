@@ -80,7 +80,8 @@ OperationResult LibraryOperations::RenameVideo(const LibraryVideo& video, std::s
   std::string error;
   const auto refuse = [&] {
     if (EntryExists(to) || EntryExists(newSidecar)) return Refuse(taken);
-    return RefuseFor(video.path, "The video could not be renamed", error);
+    const std::string text = "The video could not be renamed";
+    return EntryExists(video.path) ? Refuse(text + ": " + error) : RefuseGone(text);
   };
   // The sidecar goes first, and back again when its video cannot follow.
   bool ready = true;
@@ -132,7 +133,8 @@ void LibraryOperations::MoveVideo(const LibraryVideo& video, const std::string& 
         }
         OperationResult refused;
         if (move.NameTaken()) refused = Refuse(taken);
-        else if (move.Failed()) refused = RefuseFor(video.path, "The video was not moved", move.Error());
+        else if (move.Failed() && !EntryExists(video.path)) refused = RefuseGone("The video was not moved");
+        else if (move.Failed()) refused = Refuse(move.Error());
         refused.status = "No videos were moved.";
         return refused;
       },
