@@ -205,6 +205,10 @@ bool Trimmer::ChooseTarget() {
   // In place of a link the file behind it is replaced.
   target_ = replaces_ ? fs::canonical(request_.source, failed).string() : request_.destination;
   if (!replaces_ && EntryExists(target_)) return Fail("there is already a file of that name");
+  // A rename needs no right to the file itself, so read-only must be asked for.
+  constexpr auto kAnyWrite = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+  if (replaces_ && (fs::status(target_, failed).permissions() & kAnyWrite) == fs::perms::none)
+    return Fail("the video is read-only");
   const std::int64_t free = FreeBytes(target_);
   const double expected = static_cast<double>(info_.fileBytes) * count_ / info_.frameCount;
   if (free >= 0 && expected > static_cast<double>(free)) return Fail("there is not enough room on the disk");

@@ -190,6 +190,9 @@ TEST(VideoTrim, ReplacesItsOwnSourceAndNothingElse) {
   fs::copy_file(MakeTestVideo(MjpegVideo(60)), own);
   ASSERT_TRUE(TrimVideo({own, own, 5, 9}).done);
   EXPECT_EQ(NumbersOf(own), Numbers(5, 9));
+  fs::permissions(own, fs::perms::owner_read);
+  EXPECT_EQ(TrimVideo({own, own, 1, 2}).message, "the video is read-only");
+  EXPECT_EQ(NumbersOf(own), Numbers(5, 9));
 
   const std::string other = folder.Put("other.avi", "other");
   EXPECT_FALSE(TrimVideo({own, other, 0, 0}).done);
