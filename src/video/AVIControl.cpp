@@ -55,7 +55,7 @@ class AVIControl::Run final : public IPlayRun {
     ++play_;
     wrap_ = false;
     // Whole milliseconds, as the clock has them; at 240 pictures a second it still moves on.
-    interval_ = std::max<std::int64_t>(1, std::llrint(control_.FrameTimeMs_ / control_.Speed_ * 100.0));
+    interval_ = std::max<std::int64_t>(1, std::llrint(control_.FrameTimeMs_ / control_.properties_.Speed * 100.0));
     base_ = now - interval_ * counter_;
     control_.services_.scheduler.Add(*this, now + interval_);
     Show();
@@ -71,7 +71,7 @@ class AVIControl::Run final : public IPlayRun {
     control_.SetPosition(counter_);
     control_.RenderCurrent();
     if (watch.Gone() || !atEnd || play != play_ || !control_.IsPlaying_) return;
-    wrap_ = control_.Repeat_;
+    wrap_ = control_.properties_.Repeat;
     if (!wrap_) control_.FinishPlay();
   }
 
@@ -85,7 +85,7 @@ class AVIControl::Run final : public IPlayRun {
 
 AVIControl::AVIControl(PlayerServices& services, IPlayerView* view)
     : services_(services), view_(view), run_(std::make_unique<Run>(*this)) {
-  setForecolor(Forecolor_);
+  UpdatePenBrush();
 }
 
 AVIControl::~AVIControl() {
@@ -103,7 +103,6 @@ bool AVIControl::Load(const std::string& FileName, bool SplitFields, bool Revers
   // Whoever was told of the end may have opened another file already: that one wins.
   if (watch.Changed()) return false;
   CloseStream();
-  ResetState();
   filename_ = path;
 
   auto opened = VideoFile::Open(path);
@@ -115,12 +114,9 @@ bool AVIControl::Load(const std::string& FileName, bool SplitFields, bool Revers
   VideoStream_ = std::move(opened.file);
   setBackColor(kBlack);
   const VideoInfo& info = VideoStream_->Info();
-  FrameCount_ = info.frameCount;
-  VideoWidth_ = info.width;
-  VideoHeight_ = info.height;
   const auto rate = info.scale > 0 ? static_cast<int>(info.rate / info.scale) : 0;
   services_.VideoFrameRate = rate == 29 ? 30 : rate;
-  SplitFields_ = SplitFields;
+  properties_.SplitFields = SplitFields;
   ReverseFields_ = ReverseFields;
   MeasureTime();
   if (!OpenFrameDecoder() || !ReadFirstFrame()) {
@@ -128,8 +124,6 @@ bool AVIControl::Load(const std::string& FileName, bool SplitFields, bool Revers
     Unload();
     return false;
   }
-  CreateSurfaces();
-  UpdatePenBrush();
   return true;
 }
 
@@ -139,9 +133,8 @@ void AVIControl::Unload() {
   if (!watch.Gone() && IsPlaying_) StopPlay();
   if (watch.Changed()) return;
   CloseStream();
-  ResetState();
   filename_.clear();
-  MainSurface_.Clear(kBlack);
+  surface_.Clear(kBlack);
   if (view_) view_->Present(Surface());
 }
 
@@ -150,32 +143,24 @@ void AVIControl::CloseStream() {
   VideoStream_.reset();
   FrameBuffer_ = {};
   softened_ = false;
-  composed_.reset();
-  Kept_ = {};
-  isKept_ = false;
-}
-
-void AVIControl::ResetState() {
+  surface_.DropKept();
   FrameTimeMs_ = 0;
   CurrentRawFrame_ = 0;
   CurrentField_ = false;
-  FrameCount_ = 0;
-  VideoWidth_ = 0;
-  VideoHeight_ = 0;
   FormatHeader_ = {};
 }
 
 void AVIControl::MeasureTime() {
-  FrameTimeMs_ = PositionCount() > 0 && VideoStream_ ? VideoStream_->SampleToTime(FrameCount_) / PositionCount() : 0;
+  FrameTimeMs_ = PositionCount() > 0 && VideoStream_ ? VideoStream_->SampleToTime(FrameCount()) / PositionCount() : 0;
 }
 
 /// Takes the wanted format, then the best one, then 32, 24, 16 and 8 bits: the first that the decoder
 /// gives. It gives 24 and 32; "best" is 24, which every part of the pipeline works on.
 bool AVIControl::OpenFrameDecoder() {
-  for (const int code : {ForceDisplayFormat_, 0, 4, 3, 2, 1, 0}) {
+  for (const int code : {properties_.ForceDisplayFormat, 0, 4, 3, 2, 1, 0}) {
     const int bits = code == 0 ? 24 : BitsOfFormat(code);
     if (bits != 24 && bits != 32) continue;
-    FormatHeader_ = {40, VideoWidth_, VideoHeight_, 1, bits, 0, 0};
+    FormatHeader_ = {40, VideoWidth(), VideoHeight(), 1, bits, 0, 0};
     return true;
   }
   return false;
@@ -183,7 +168,7 @@ bool AVIControl::OpenFrameDecoder() {
 
 bool AVIControl::ReadFirstFrame() {
   FrameRows rows = VideoStream_->Frame(CurrentRawFrame_, FormatHeader_.bitCount);
-  if (!rows && FrameCount_ > 2) {
+  if (!rows && FrameCount() > 2) {
     CurrentRawFrame_ = 2;
     rows = VideoStream_->Frame(CurrentRawFrame_, FormatHeader_.bitCount);
   }
@@ -197,54 +182,36 @@ bool AVIControl::ReadFirstFrame() {
 // ---------------------------------------------------------------- surfaces and pen
 
 void AVIControl::Resize(int width, int height) {
-  if (width == ControlWidthPixels_ && height == ControlHeightPixels_) return;
-  ControlWidthPixels_ = std::max(0, width);
-  ControlHeightPixels_ = std::max(0, height);
-  CreateSurfaces();
+  if (width == ControlWidthPixels() && height == ControlHeightPixels()) return;
+  surface_.CreateSurfaces(std::max(0, width), std::max(0, height));
   Refresh();
 }
 
-void AVIControl::CreateSurfaces() {
-  if (MainSurface_.Width() == ControlWidthPixels_ && MainSurface_.Height() == ControlHeightPixels_ && FrameGraphics_)
-    return;
-  FrameGraphics_.reset();
-  MainSurface_ = Surface(ControlWidthPixels_, ControlHeightPixels_);
-  ScratchSurface_ = Surface();
-  composed_.reset();
-  Kept_ = {};
-  isKept_ = false;
-  UpdatePenBrush();
-}
-
 void AVIControl::UpdatePenBrush() {
-  if (!FrameGraphics_) FrameGraphics_ = std::make_unique<Canvas>(MainSurface_);
-  FrameGraphics_->SetPen(pen_);
-  FrameGraphics_->SetROP2(static_cast<Rop2>(DrawMode_));
-  FrameGraphics_->SetBrush(std::nullopt);
+  const Colour ink = TranslateColour(properties_.Forecolor).value_or(kBlack);
+  surface_.UpdatePenBrush({ink, properties_.DrawWidth, properties_.DrawStyle}, static_cast<Rop2>(properties_.DrawMode));
 }
 
 void AVIControl::setDrawStyle(int style) {
-  pen_.style = style;
+  properties_.DrawStyle = style;
   UpdatePenBrush();
 }
 
 bool AVIControl::setDrawMode(int mode) {
-  if (mode < 1 || mode > 16) return false;
-  DrawMode_ = mode;
+  if (!PlayerProperties::IsDrawMode(mode)) return false;
+  properties_.DrawMode = mode;
   UpdatePenBrush();
   return true;
 }
 
 void AVIControl::setDrawWidth(int width) {
-  pen_.width = std::max(1, width);
+  properties_.DrawWidth = std::max(1, width);
   UpdatePenBrush();
 }
 
 bool AVIControl::setForecolor(Colour colour) {
-  const auto shown = TranslateColour(colour);
-  if (!shown) return false;
-  Forecolor_ = colour;
-  pen_.colour = *shown;
+  if (!TranslateColour(colour)) return false;
+  properties_.Forecolor = colour;
   UpdatePenBrush();
   return true;
 }
@@ -252,14 +219,24 @@ bool AVIControl::setForecolor(Colour colour) {
 bool AVIControl::setBackColor(Colour colour) {
   const auto shown = TranslateColour(colour);
   if (!shown) return false;
-  BackColor_ = colour;
+  properties_.BackColor = colour;
   if (view_) view_->SetBackColor(*shown);
   return true;
 }
 
+void AVIControl::ReadProperties(const PropertyBag& bag) {
+  PlayerProperties read = kinalyx::ReadProperties(bag);
+  const int speed = std::exchange(read.Speed, properties_.Speed);
+  properties_ = read;
+  UpdatePenBrush();
+  setBackColor(properties_.BackColor);
+  MeasureTime();
+  setSpeed(speed);  // a running play goes on at it
+}
+
 bool AVIControl::setForceDisplayFormat(int code) {
-  if (code < 0 || code > 4) return false;
-  ForceDisplayFormat_ = code;
+  if (!PlayerProperties::IsDisplayFormat(code)) return false;
+  properties_.ForceDisplayFormat = code;
   return true;
 }
 
@@ -290,13 +267,13 @@ bool AVIControl::ReleaseMouseKeyboardInterface() {
 // ---------------------------------------------------------------- positions
 
 int AVIControl::GetPosition() const {
-  if (!SplitFields_) return CurrentRawFrame_;
+  if (!properties_.SplitFields) return CurrentRawFrame_;
   return 2 * CurrentRawFrame_ + (CurrentField_ != ReverseFields_ ? 1 : 0);
 }
 
 void AVIControl::SetPosition(int position) {
   const int p = std::clamp(position, 0, std::max(0, PositionCount() - 1));
-  if (!SplitFields_) {
+  if (!properties_.SplitFields) {
     CurrentRawFrame_ = p;
     return;
   }
@@ -304,10 +281,10 @@ void AVIControl::SetPosition(int position) {
   CurrentField_ = (p % 2 == 1) != ReverseFields_;
 }
 
-int AVIControl::PositionCount() const { return SplitFields_ ? 2 * FrameCount_ : FrameCount_; }
+int AVIControl::PositionCount() const { return properties_.SplitFields ? 2 * FrameCount() : FrameCount(); }
 
 void AVIControl::setSplitFields(bool on) {
-  SplitFields_ = on;
+  properties_.SplitFields = on;
   MeasureTime();
 }
 
@@ -323,55 +300,40 @@ void AVIControl::DrawFrame(int Position) {
 
 void AVIControl::Refresh() {
   if (!VideoStream_) return;
-  if (!strobe_) return RenderCurrent();
   // While a strobe runs its picture is the current one.
-  ComposeFrameBuffer();
-  PresentFrame();
+  strobe_ ? ShowFrameBuffer() : RenderCurrent();
 }
 
 void AVIControl::RenderCurrent() {
-  if (!VideoStream_ || MainSurface_.Empty()) return;
-  const Composition wanted{CurrentRawFrame_, SplitFields_, CurrentField_, FlipHorizontal_};
-  if (composed_ == wanted && isKept_) {
-    std::copy_n(Kept_.Row(0), static_cast<std::size_t>(Kept_.Stride()) * Kept_.Height(), MainSurface_.Row(0));
-  } else if (ComposeCurrent()) {
-    // A picture that is wanted twice will be wanted again: somebody draws on it.
-    isKept_ = composed_ == wanted;
-    if (isKept_) Kept_ = MainSurface_;
-    composed_ = wanted;
-  }
+  if (!VideoStream_ || surface_.Empty()) return;
+  const FrameSurface::Content wanted{CurrentRawFrame_, properties_.SplitFields, CurrentField_, properties_.FlipHorizontal};
+  if (!surface_.BringBack(wanted) && ComposeCurrent()) surface_.Composed(wanted);
   PresentFrame();
 }
 
 /// Brings the current frame or field on the main surface. A picture that cannot be had any more (the
 /// file has gone) leaves the last one standing, with false.
 bool AVIControl::ComposeCurrent() {
-  if (SplitFields_) {
+  if (properties_.SplitFields) {
     if (!CopyFieldOf(CurrentRawFrame_, FrameBuffer_)) return false;
     SoftenFrameBuffer();
-    Compose({FrameBuffer_.data(), FormatHeader_.width, FormatHeader_.height,
-             ScanLineBytes(FormatHeader_.width, FormatHeader_.bitCount), FormatHeader_.bitCount, true});
+    ComposeFrameBuffer();
     return true;
   }
   // A whole frame is shown from the decoder's own rows, and 32 bits of each pixel are scaled fastest;
   // only a field needs a buffer to be rebuilt in.
   const FrameRows rows = VideoStream_->Frame(CurrentRawFrame_, 32);
   if (!rows) return false;
-  Compose({rows.bits, rows.width, rows.height, rows.rowBytes, rows.bitCount, true});
+  surface_.Compose({rows.bits, rows.width, rows.height, rows.rowBytes, rows.bitCount, true}, properties_.FlipHorizontal);
   return true;
-}
-
-void AVIControl::Compose(const PixelRows& picture) {
-  StretchRows(picture, MainSurface_, scratch_);
-  if (FlipHorizontal_) MirrorHorizontal(MainSurface_, ScratchSurface_);
 }
 
 void AVIControl::PresentFrame() {
   const Lifetime::Watch watch(life_);
-  if (sink_) sink_->PreDrawFrame(*FrameGraphics_, ID_);
+  if (sink_) sink_->PreDrawFrame(surface_.hDC(), properties_.ID);
   if (watch.Changed()) return;
-  if (view_) view_->Present(MainSurface_);
-  if (sink_) sink_->Signal(GetPosition(), ID_);
+  if (view_) view_->Present(surface_.Picture());
+  if (sink_) sink_->Signal(GetPosition(), properties_.ID);
 }
 
 // ---------------------------------------------------------------- playing
@@ -384,7 +346,7 @@ void AVIControl::Play(int Start, int End) {
   StopStrobe();
   if (watch.Changed() || IsPlaying_) return;
   // A new speed that waited for the end of another play holds for this one.
-  if (std::exchange(RestartPending_, false)) Speed_ = RestartSpeed_;
+  if (const auto speed = std::exchange(RestartSpeed_, std::nullopt)) properties_.Speed = *speed;
   playEndArgument_.reset();
   if (Start >= 0) {
     playEndArgument_ = PlayEnd_ = End;
@@ -396,7 +358,7 @@ void AVIControl::Play(int Start, int End) {
 }
 
 void AVIControl::LoopPlay() {
-  Repeat_ = true;
+  properties_.Repeat = true;
   Play(-1, -1);
 }
 
@@ -409,28 +371,27 @@ void AVIControl::StopPlay() {
 void AVIControl::FinishPlay() {
   services_.scheduler.Remove(*run_);
   IsPlaying_ = false;
-  Repeat_ = false;
+  properties_.Repeat = false;
   // A play without arguments takes up this end; with fields it has always been stored as a frame.
-  if (playEndArgument_) PlayEnd_ = SplitFields_ ? *playEndArgument_ / 2 : *playEndArgument_;
+  if (playEndArgument_) PlayEnd_ = properties_.SplitFields ? *playEndArgument_ / 2 : *playEndArgument_;
   const Lifetime::Watch watch(life_);
-  if (sink_) sink_->Notify(CurrentRawFrame_, ID_);
+  if (sink_) sink_->Notify(CurrentRawFrame_, properties_.ID);
   if (watch.Changed()) return;
-  if (RestartPending_ && !IsPlaying_) setSpeed(RestartSpeed_);
+  if (RestartSpeed_ && !IsPlaying_) setSpeed(*RestartSpeed_);
 }
 
 bool AVIControl::setSpeed(int percent) {
-  if (percent < 1) return false;
+  if (!PlayerProperties::IsSpeed(percent)) return false;
   if (IsPlaying_) {
-    RestartPending_ = true;
-    RestartLoop_ = Repeat_;
+    RestartLoop_ = properties_.Repeat;
     RestartSpeed_ = percent;
     StopPlay();
     return true;
   }
-  Speed_ = percent;
-  if (RestartPending_) {
-    RestartPending_ = false;
-    Repeat_ = RestartLoop_;
+  properties_.Speed = percent;
+  if (RestartSpeed_) {
+    RestartSpeed_.reset();
+    properties_.Repeat = RestartLoop_;
     Play(GetPosition(), PositionCount() - 1);
   }
   return true;

@@ -2,27 +2,21 @@
 
 #include <cstdint>
 #include <functional>
-#include <map>
 #include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "platform/media/VideoFile.h"
-#include "platform/paint/Canvas.h"
-#include "platform/paint/PixelOps.h"
-#include "platform/paint/Surface.h"
 #include "video/CallbackInterfaces.h"
 #include "video/FramePipeline.h"
+#include "video/FrameSurface.h"
 #include "video/IPlayerView.h"
 #include "video/Lifetime.h"
+#include "video/PlayerProperties.h"
 #include "video/PlayerServices.h"
-#include "video/SystemColours.h"
 
 namespace kinalyx {
-
-/// Settings of a player by name, as a layout file keeps them; true is -1.
-using PropertyBag = std::map<std::string, std::int64_t>;
 
 /// The one video player: opens a file, holds one frame on an off-screen surface, plays by the clock.
 /// A position is a frame or, with `SplitFields`, a field: position = 2 * frame + order of the field.
@@ -43,7 +37,6 @@ class AVIControl {
   /// Stops, closes the file and clears the picture. Safe at any time.
   void Unload();
   const std::string& filename() const { return filename_; }
-  void setFilename(const std::string& name) { filename_ = name; }
   /// Properties of the open file; null when none is open.
   const VideoInfo* Info() const { return VideoStream_ ? &VideoStream_->Info() : nullptr; }
 
@@ -88,63 +81,59 @@ class AVIControl {
 
   // --- what a picture is
 
-  int VideoWidth() const { return VideoWidth_; }
-  int VideoHeight() const { return VideoHeight_; }
+  int VideoWidth() const { return Info() ? Info()->width : 0; }
+  int VideoHeight() const { return Info() ? Info()->height : 0; }
   int CurFormatBits() const { return FormatHeader_.bitCount; }
   /// Always 0: nothing has ever stored the compression here, and the layouts rest on it.
   int CurFormatCmp() const { return 0; }
 
-  // --- properties
+  // --- properties; those that layout files keep are described in PlayerProperties
 
-  bool Repeat() const { return Repeat_; }
-  void setRepeat(bool on) { Repeat_ = on; }
-  bool FlipHorizontal() const { return FlipHorizontal_; }
-  void setFlipHorizontal(bool on) { FlipHorizontal_ = on; }
-  bool SplitFields() const { return SplitFields_; }
+  bool Repeat() const { return properties_.Repeat; }
+  void setRepeat(bool on) { properties_.Repeat = on; }
+  bool FlipHorizontal() const { return properties_.FlipHorizontal; }
+  void setFlipHorizontal(bool on) { properties_.FlipHorizontal = on; }
+  bool SplitFields() const { return properties_.SplitFields; }
   /// Stores the value and the time of a position; the position stays where it is.
   void setSplitFields(bool on);
   bool ReverseFields() const { return ReverseFields_; }
   void setReverseFields(bool on) { ReverseFields_ = on; }
-  /// Percent. During a play it goes on from the present position to the end at the new speed, with the
-  /// repeat kept. Values below 1 are refused with false.
+  int Speed() const { return properties_.Speed; }
+  /// During a play it goes on from the present position to the end at the new speed, with the repeat kept.
+  /// False for what is no speed; the other setters answer a value out of its range so too.
   bool setSpeed(int percent);
-  int Speed() const { return Speed_; }
-  int ID() const { return ID_; }
-  void setID(int id) { ID_ = id; }
-  int DrawStyle() const { return pen_.style; }
+  int ID() const { return properties_.ID; }
+  void setID(int id) { properties_.ID = id; }
+  int DrawStyle() const { return properties_.DrawStyle; }
   void setDrawStyle(int style);
-  int DrawMode() const { return DrawMode_; }
-  /// Raster mode 1 to 16; anything else is refused with false.
+  int DrawMode() const { return properties_.DrawMode; }
   bool setDrawMode(int mode);
-  int DrawWidth() const { return pen_.width; }
+  int DrawWidth() const { return properties_.DrawWidth; }
   void setDrawWidth(int width);
-  Colour Forecolor() const { return Forecolor_; }
-  /// Colours are red + 256 x green + 65536 x blue, or 0x80000000 + the number of a system colour; any
-  /// other is refused with false.
+  Colour Forecolor() const { return properties_.Forecolor; }
   bool setForecolor(Colour colour);
-  Colour BackColor() const { return BackColor_; }
+  Colour BackColor() const { return properties_.BackColor; }
   bool setBackColor(Colour colour);
-  int ForceDisplayFormat() const { return ForceDisplayFormat_; }
-  /// 0 best, 1 to 4 for 8, 16, 24, 32 bits; anything else is refused with false. Takes effect at Load.
+  int ForceDisplayFormat() const { return properties_.ForceDisplayFormat; }
+  /// Takes effect at Load.
   bool setForceDisplayFormat(int code);
-  /// Kept for the layouts that store them; no picture depends on these two.
-  bool Soften() const { return Soften_; }
-  void setSoften(bool on) { Soften_ = on; }
-  int CompSpeed() const { return CompSpeed_; }
-  void setCompSpeed(int speed) { CompSpeed_ = speed & 255; }
-  /// Takes all settings; what the bag lacks, or holds out of its range, takes its default.
+  bool Soften() const { return properties_.Soften; }
+  void setSoften(bool on) { properties_.Soften = on; }
+  int CompSpeed() const { return properties_.CompSpeed; }
+  void setCompSpeed(int speed) { properties_.CompSpeed = speed & 255; }
+  /// Takes all of them; what the bag lacks, or holds out of its range, takes its default.
   void ReadProperties(const PropertyBag& bag);
-  PropertyBag WriteProperties() const;
+  PropertyBag WriteProperties() const { return kinalyx::WriteProperties(properties_); }
 
   // --- surface and callbacks
 
   /// Gives the control its size in pixels; the surfaces are made anew and the frame composed again.
   void Resize(int width, int height);
-  int ControlWidthPixels() const { return ControlWidthPixels_; }
-  int ControlHeightPixels() const { return ControlHeightPixels_; }
-  const Surface& Picture() const { return MainSurface_; }
+  int ControlWidthPixels() const { return surface_.Picture().Width(); }
+  int ControlHeightPixels() const { return surface_.Picture().Height(); }
+  const Surface& Picture() const { return surface_.Picture(); }
   /// The canvas of the off-screen surface, with the control's pen.
-  Canvas& hDC() { return *FrameGraphics_; }
+  Canvas& hDC() { return surface_.hDC(); }
 
   /// False for null, which leaves the present sink. Sinks are not owned.
   bool SetFrameInterface(IFrameInterface* Sink);
@@ -157,33 +146,24 @@ class AVIControl {
  private:
   class Run;
   class Strobe;
-  /// What a composed picture depends on, beside the size of the surface.
-  struct Composition {
-    int frame = 0;
-    bool split = false;
-    bool field = false;
-    bool flip = false;
-    bool operator==(const Composition&) const = default;
-  };
 
   int GetPosition() const;
   void SetPosition(int position);
+  int FrameCount() const { return Info() ? Info()->frameCount : 0; }
   int PositionCount() const;
   bool OpenFrameDecoder();
   bool ReadFirstFrame();
-  void CreateSurfaces();
   void UpdatePenBrush();
   void CloseStream();
-  void ResetState();
   void MeasureTime();
   void RenderCurrent();
   bool ComposeCurrent();
-  void Compose(const PixelRows& picture);
   void PresentFrame();
   void FinishPlay();
   bool CopyFieldOf(int frame, std::vector<std::uint8_t>& target);
   void SoftenFrameBuffer();
   void ComposeFrameBuffer();
+  void ShowFrameBuffer();
   void BeginStrobe(std::unique_ptr<Strobe> strobe);
   void EndStrobe();
 
@@ -193,25 +173,9 @@ class AVIControl {
   IMouseAndKeyBoardEvents* input_ = nullptr;
   Lifetime life_;  ///< the open file's; its watches are kept across callbacks
 
-  int ControlWidthPixels_ = 0;
-  int ControlHeightPixels_ = 0;
-  Surface MainSurface_;
-  Surface ScratchSurface_;
-  std::unique_ptr<Canvas> FrameGraphics_;
-  ScaleScratch scratch_;
-  Pen pen_;
-  int DrawMode_ = 13;
-  Colour Forecolor_ = kButtonText;
-  Colour BackColor_ = kButtonFace;
-  std::optional<Composition> composed_;  ///< stood on the main surface last, before it was drawn over
-  Surface Kept_;                         ///< the same as it was composed, once it has been wanted twice
-  bool isKept_ = false;
-
+  FrameSurface surface_;
   std::string filename_;
   std::unique_ptr<VideoFile> VideoStream_;
-  int VideoWidth_ = 0;
-  int VideoHeight_ = 0;
-  int FrameCount_ = 0;
   double FrameTimeMs_ = 0;
   FormatHeader FormatHeader_;
   std::vector<std::uint8_t> FrameBuffer_;  ///< empty until a field is wanted
@@ -223,23 +187,14 @@ class AVIControl {
   std::optional<int> playEndArgument_;
   bool IsPlaying_ = false;
   std::unique_ptr<Run> run_;
-  bool RestartPending_ = false;
+  std::optional<int> RestartSpeed_;  ///< at which the play that is about to end goes on
   bool RestartLoop_ = false;
-  int RestartSpeed_ = 100;
   std::unique_ptr<IPlayRun> strobe_;
   int strobeNumber_ = 0;  ///< of the one that was begun last
   std::function<void()> strobeEnd_;
 
-  bool Repeat_ = false;
-  bool FlipHorizontal_ = false;
-  bool SplitFields_ = false;
+  PlayerProperties properties_;
   bool ReverseFields_ = false;
-  int ForceDisplayFormat_ = 3;
-  int Speed_ = 100;
-  int ID_ = 0;
-  bool Soften_ = false;
-  int CompSpeed_ = 1;
-  std::int64_t KeyColor_ = 0;
 };
 
 }  // namespace kinalyx

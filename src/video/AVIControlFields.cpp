@@ -33,8 +33,8 @@ class AVIControl::Strobe final : public IPlayRun {
     } else {
       references_.resize(4);
       for (int i = 1; i <= 4; ++i) {
-        const int frame = static_cast<int>(std::nearbyint(i * 0.24 * control_.FrameCount_));
-        if (!control_.CopyFieldOf(std::min(frame, control_.FrameCount_ - 1), references_[static_cast<std::size_t>(i - 1)]))
+        const int frame = static_cast<int>(std::nearbyint(i * 0.24 * control_.FrameCount()));
+        if (!control_.CopyFieldOf(std::min(frame, control_.FrameCount() - 1), references_[static_cast<std::size_t>(i - 1)]))
           return false;
       }
     }
@@ -53,11 +53,10 @@ class AVIControl::Strobe final : public IPlayRun {
       return 0;
     }
     control.SoftenFrameBuffer();
-    control.ComposeFrameBuffer();
     const std::int64_t wait = Wait();
     const int number = control.strobeNumber_;
     const Lifetime::Watch watch(control.life_);
-    control.PresentFrame();
+    control.ShowFrameBuffer();
     if (watch.Changed() || !control.strobe_ || control.strobeNumber_ != number) return 0;
     return control.services_.host.timeGetTime() + wait;
   }
@@ -112,28 +111,33 @@ void AVIControl::SoftenFrameBuffer() {
 }
 
 void AVIControl::ComposeFrameBuffer() {
-  composed_.reset();
   const int bits = FormatHeader_.bitCount;
-  Compose({FrameBuffer_.data(), FormatHeader_.width, FormatHeader_.height, ScanLineBytes(FormatHeader_.width, bits), bits,
-           true});
+  surface_.Compose({FrameBuffer_.data(), FormatHeader_.width, FormatHeader_.height, ScanLineBytes(FormatHeader_.width, bits),
+                    bits, true},
+                   properties_.FlipHorizontal);
 }
 
-void AVIControl::AttackBits() {
-  if (!VideoStream_ || MainSurface_.Empty() || !CopyFieldOf(CurrentRawFrame_ + kAttackDistance, FrameBuffer_)) return;
-  SoftenFrameBuffer();
+/// Shows the buffer, which may hold what no position has.
+void AVIControl::ShowFrameBuffer() {
+  surface_.ForgetComposed();
   ComposeFrameBuffer();
   PresentFrame();
 }
 
+void AVIControl::AttackBits() {
+  if (!VideoStream_ || surface_.Empty() || !CopyFieldOf(CurrentRawFrame_ + kAttackDistance, FrameBuffer_)) return;
+  SoftenFrameBuffer();
+  ShowFrameBuffer();
+}
+
 void AVIControl::Enhance(double HighAmount, double LowAmount) {
-  if (!VideoStream_ || MainSurface_.Empty()) return;
+  if (!VideoStream_ || surface_.Empty()) return;
   const Lifetime::Watch watch(life_);
   if (FormatHeader_.bitCount == 24 && CopyFieldOf(CurrentRawFrame_, FrameBuffer_)) {
     const int rowBytes = ScanLineBytes(FormatHeader_.width, 24);
     if (softened_) EnhanceField(FrameBuffer_.data(), rowBytes, FormatHeader_.height, CurrentField_, HighAmount, LowAmount);
     SoftenFrameBuffer();
-    ComposeFrameBuffer();
-    PresentFrame();
+    ShowFrameBuffer();
     if (watch.Gone()) return;
   }
   services_.host.DoEvents();
@@ -144,11 +148,11 @@ void AVIControl::Enhance(double HighAmount, double LowAmount) {
 // ---------------------------------------------------------------- strobe
 
 void AVIControl::Strobeframes(int Start, int End, int Step) {
-  BeginStrobe(std::make_unique<Strobe>(*this, Strobe::Kind::Scene, Start, End > Start ? End : FrameCount_ - 1, std::max(1, Step)));
+  BeginStrobe(std::make_unique<Strobe>(*this, Strobe::Kind::Scene, Start, End > Start ? End : FrameCount() - 1, std::max(1, Step)));
 }
 
 void AVIControl::Strobeframes2(int Start, int End, int Step) {
-  BeginStrobe(std::make_unique<Strobe>(*this, Strobe::Kind::Background, Start, End > Start ? End : FrameCount_ - 1, std::max(1, Step)));
+  BeginStrobe(std::make_unique<Strobe>(*this, Strobe::Kind::Background, Start, End > Start ? End : FrameCount() - 1, std::max(1, Step)));
 }
 
 void AVIControl::BeginStrobe(std::unique_ptr<Strobe> strobe) {
@@ -156,7 +160,7 @@ void AVIControl::BeginStrobe(std::unique_ptr<Strobe> strobe) {
   StopStrobe();
   if (!watch.Changed() && IsPlaying_) StopPlay();
   if (watch.Changed() || !VideoStream_) return;
-  const bool possible = !MainSurface_.Empty() && FormatHeader_.bitCount == 24 && strobe->Prepare();
+  const bool possible = !surface_.Empty() && FormatHeader_.bitCount == 24 && strobe->Prepare();
   const std::int64_t due = services_.host.timeGetTime() + strobe->Wait();
   strobe_ = std::move(strobe);
   ++strobeNumber_;
@@ -171,7 +175,7 @@ void AVIControl::StopStrobe() {
 void AVIControl::EndStrobe() {
   services_.scheduler.Remove(*strobe_);
   strobe_.reset();
-  composed_.reset();
+  surface_.ForgetComposed();
   const auto action = strobeEnd_;  // may replace itself
   if (action) action();
 }

@@ -17,7 +17,6 @@ enum KeyCode : int {
   kKeyDown = 40,
   kKeyDelete = 46,
   kKey0 = 48,
-  kKey9 = 57,
   kKeyNumpad0 = 96,
   kKeyNumpad9 = 105,
   kKeyF1 = 112,
