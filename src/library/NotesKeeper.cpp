@@ -11,9 +11,9 @@ namespace kinalyx {
 
 namespace {
 
-/// True when a student's folder has gone although the folder above it is there: the student was
-/// deleted, and the notes go with him. When both are gone, a drive has been taken away.
-bool WasDeleted(const std::string& folder) {
+/// True when a student's folder has gone although the folder above it is there. When both are gone, a drive
+/// has been taken away.
+bool HasGone(const std::string& folder) {
   return !dirExists(folder) && dirExists(folder.substr(0, folder.rfind('/')));
 }
 
@@ -41,8 +41,10 @@ bool NotesKeeper::Keep(std::string_view text, std::string* error) {
   for (auto notes = unsaved_.begin(); notes != unsaved_.end();) {
     const bool reached = reachable_(notes->first);
     if (!reached && error) *error = "the drive is not answering";
-    const bool settled = reached && (WasDeleted(notes->first) || SaveNotes(notes->first, notes->second, error));
+    const bool gone = reached && HasGone(notes->first);
+    const bool settled = gone || (reached && SaveNotes(notes->first, notes->second, error));
     if (settled && notes->first == folder_) text_ = notes->second;
+    if (gone && Lost && !notes->second.empty()) Lost(notes->first, notes->second);
     notes = settled ? unsaved_.erase(notes) : std::next(notes);
   }
   return unsaved_.empty();

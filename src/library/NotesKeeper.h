@@ -16,6 +16,10 @@ class NotesKeeper {
   /// @param reachable  false for a folder whose drive does not answer: it is not touched
   explicit NotesKeeper(std::function<bool(const std::string& folder)> reachable) : reachable_(std::move(reachable)) {}
 
+  /// Called with notes that were still to be stored when their folder had gone: somebody else has renamed,
+  /// moved or deleted it. They wait no longer.
+  std::function<void(const std::string& folder, const std::string& notes)> Lost;
+
   /// The notes of a student's folder; "" closes. What stood open before must have been handed to Keep.
   /// @return the text to show, lines ended by CR LF
   const std::string& Open(const std::string& studentFolder);

@@ -4,6 +4,7 @@
 
 #include "library/NotesKeeper.h"
 #include "library/TempLibrary.h"
+#include "platform/files/Folders.h"
 
 namespace kinalyx {
 namespace {
@@ -207,8 +208,13 @@ TEST_F(ProfileTest, NotesThatCannotBeSavedWaitInMemory) {
   EXPECT_FALSE(notes.OpenIsUnsaved());
   EXPECT_EQ(File("profile.txt"), "second\r\n");
 
-  std::filesystem::remove_all(student);
-  EXPECT_TRUE(notes.Keep("third", &error));  // deleted with its student: nothing is brought back
+  // Somebody else renames the student: nothing is brought back under the old name, and the words are told.
+  std::string lost;
+  notes.Lost = [&](const std::string& folder, const std::string& text) { lost += LastName(folder) + ": " + text; };
+  std::filesystem::rename(student, library.Path("Demo/Renamed"));
+  EXPECT_TRUE(notes.Keep("third", &error));
+  EXPECT_TRUE(notes.Keep("third", &error));
+  EXPECT_EQ(lost, "Sample, Erica: third\r\n");
   EXPECT_FALSE(std::filesystem::exists(student));
 }
 

@@ -36,6 +36,7 @@ ProfilePanel::ProfilePanel(IHost& host, const Settings& settings, QWidget* paren
       notes_([&host, &settings](const std::string& folder) {
         return host.Drives().Answers(settings.LibraryPath, folder);
       }) {
+  notes_.Lost = [this](const std::string& folder, const std::string& notes) { TellLost(folder, notes); };
   details_ = HeadButton("ProBtn0", "Show Details");
   edit_ = HeadButton("ProBtn1", "Edit", "edit");
   print_ = HeadButton("ProBtn2", "Print", "print");
@@ -142,6 +143,17 @@ bool ProfilePanel::KeepNotes(std::string* reason) {
   const bool kept = notes_.Keep(Std(editor_->toPlainText()), reason);
   if (kept) toldNotes_.clear();
   return kept;
+}
+
+/// The notes can at least be read, and copied out of the box; told when the click is over.
+void ProfilePanel::TellLost(const std::string& folder, const std::string& notes) {
+  const std::string text = "The notes of " + LastName(folder) +
+                           " could not be saved: somebody else has renamed, moved or deleted the folder. These were "
+                           "the notes:\n\n" +
+                           notes;
+  host_.StartTimer(0, false, [&host = host_, title = Std(notesTitle_->text()), text] {
+    host.Message(MessageKind::Warning, title, text);
+  });
 }
 
 void ProfilePanel::FocusNotes() { editor_->setFocus(Qt::OtherFocusReason); }

@@ -51,6 +51,7 @@ class ProfilePanel : public Panel {
  private:
   void ProBtn(int index);
   bool KeepNotes(std::string* reason);
+  void TellLost(const std::string& folder, const std::string& notes);
 
   IHost& host_;
   Vocabulary vocabulary_;
