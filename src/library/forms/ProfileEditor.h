@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <string>
 #include <vector>
 
@@ -10,11 +9,11 @@
 
 class QComboBox;
 class QLabel;
-class QLineEdit;
 
 namespace kinalyx {
 
 class Button;
+class FieldBoxes;
 
 /// The panel `ProAddPnl`: the twenty fields as boxes, for a new student or for one who has a profile.
 class ProfileEditor : public Panel {
@@ -42,25 +41,16 @@ class ProfileEditor : public Panel {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
-  void resizeEvent(QResizeEvent* event) override;
-  void changeEvent(QEvent* event) override;
 
  private:
-  void SetCaptions(const FieldTexts& captions);
-  void Arrange();
+  void Fill(const FieldTexts& captions, const FieldTexts& values);
 
   Vocabulary vocabulary_;
   bool new_ = true;
-  int columns_ = 0;
   QLabel* text_;
   QWidget* instructorPart_;
   QComboBox* instructors_;
-  class QGridLayout* grid_ = nullptr;
-  std::array<QWidget*, kProfileFields> cells_{};
-  std::array<QLabel*, kProfileFields> captions_{};
-  std::array<QLineEdit*, kProfileFields> boxes_{};
-  Button* save_;
-  Button* cancel_;
+  FieldBoxes* boxes_;
 };
 
 }  // namespace kinalyx
