@@ -121,9 +121,20 @@ TEST_F(ProfilesPageTest, ABadVideoIsOfferedForDeletionOnce) {
   Choose("StudentList", "Tom");
   library.host.Advance(1);
   EXPECT_TRUE(Rows("VideoList").isEmpty());
-  EXPECT_TRUE(std::filesystem::is_empty(library.Path("Demo/Tom")) ||
-              !std::filesystem::exists(library.Path("Demo/Tom/bad.avi")));
+  EXPECT_FALSE(std::filesystem::exists(library.Path("Demo/Tom/bad.avi")));
   EXPECT_FALSE(std::filesystem::exists(library.Path("Demo/Tom/bad.ved")));
+
+  // One that somebody else has taken away is not bad, and its drawings are not ours to delete.
+  library.File("Demo/Tom/gone.avi", "no video");
+  library.File("Demo/Tom/gone.ved", "1XXXSXXX");
+  library.host.titles.clear();
+  Choose("StudentList", "Sample, Erica");
+  Choose("StudentList", "Tom");
+  std::filesystem::remove(library.Path("Demo/Tom/gone.avi"));
+  library.host.Advance(1);
+  EXPECT_TRUE(library.host.titles.empty());
+  EXPECT_TRUE(Rows("VideoList").isEmpty());
+  EXPECT_TRUE(std::filesystem::exists(library.Path("Demo/Tom/gone.ved")));
 }
 
 TEST_F(ProfilesPageTest, NotesAreKeptWhenTheyAreLeftHoweverThatHappens) {

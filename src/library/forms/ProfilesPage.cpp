@@ -102,7 +102,7 @@ ProfilesPage::~ProfilesPage() = default;
 
 Panel* ProfilesPage::MakeInstructorsPanel() {
   auto* panel = new Panel("InstructorsTitle", "Instructors");
-  LeastWidth(panel, 130);
+  LeastWidth(panel, 136);
   panel->Body()->addWidget(lists_->InstructorList(), 1);
 
   newInstructor_ = new QWidget;
@@ -385,6 +385,12 @@ void ProfilesPage::VideoList_Click() {
 
 void ProfilesPage::OfferToDelete(const std::string& path) {
   if (!LibraryAnswers(path)) return;
+  if (!FileExists(path)) {
+    // Somebody else has renamed, moved or deleted it: there is nothing to delete, its sidecar least of all.
+    browser_.Refresh();
+    lists_->ShowAll();
+    return;
+  }
   const FileState state{path, FileSize(path), FileTime(path)};
   if (keptBadVideos_.contains(state)) return;
   if (!services_.host.Question("Delete Bad Video",
@@ -392,12 +398,7 @@ void ProfilesPage::OfferToDelete(const std::string& path) {
     keptBadVideos_.insert(state);
     return;
   }
-  if (!KillFile(path)) {
-    services_.host.Message(MessageKind::Warning, "Delete Bad Video",
-                           "Unable to delete the video. Try rebooting, then try again.");
-    return;
-  }
-  KillFile(SidecarPath(path));
+  if (!operations_.DeleteVideo({browser_.Instructor(), browser_.Student(), path}).done) return;
   browser_.StudentList_Click(browser_.StudentIndex());
   lists_->ShowVideos();
 }
@@ -527,7 +528,7 @@ void ProfilesPage::SSCommand2() {
   const OperationResult added = operations_.AddInstructor(name);
   if (added.done) {
     ShowInstructorBox(false);
-    LastStudent_ = {name, "", browser_.Tree().InstructorFolder(name)};
+    LastStudent_ = {added.instructor, "", browser_.Tree().InstructorFolder(added.instructor)};
     kinalyx::ShowResult(added, browser_);
     editor_->SetInstructors(RealInstructors());  // what has been typed into the panel stays
     lists_->ShowAll();
