@@ -50,6 +50,14 @@ void AddShape(Box& box, const Shape& shape, const ShapeRules& rules) {
   }
 }
 
+/// A shape by the name of the tool that draws it, which is not always that of its kind.
+std::string_view ToolName(const Shape& shape) {
+  const ShapeInf& inf = InfOf(shape.Kind);
+  std::string_view name = inf.ToolCaption;
+  if (name.starts_with("a ")) name.remove_prefix(2);
+  return name.empty() ? inf.Name : name;
+}
+
 }  // namespace
 
 DrawingEdits::DrawingEdits(IHost& host, const Settings& settings, Workspace& workspace, DrawingTools& tools,
@@ -87,7 +95,7 @@ std::string DrawingEdits::SelectionWords() {
   if (bar_.MultiEdit()) return fmt::format("All {} drawings", list.NumShapes);
   const Shape* selected = SelectedShape(list);
   if (!selected) return "Click a drawing";
-  return fmt::format("{}, {} of {}", InfOf(selected->Kind).Name, list.CurShape + 1, list.NumShapes);
+  return fmt::format("{}, {} of {}", ToolName(*selected), list.CurShape + 1, list.NumShapes);
 }
 
 void DrawingEdits::ShowSelection() {

@@ -40,7 +40,7 @@ TEST(DrawingEdits, TheBarSelectsByClickKeysAndCommands) {
   Desk desk;
   desk.Commands().Run("MenuEdit");
   EXPECT_TRUE(desk.edits.bar);
-  EXPECT_EQ(desk.edits.words, "Ellipse, 3 of 3") << "the last drawing is selected at first";
+  EXPECT_EQ(desk.edits.words, "Circle, 3 of 3") << "the last drawing is selected at first";
   desk.Key(kKeyTab);
   EXPECT_EQ(desk.edits.words, "Line, 1 of 3") << "Tab goes round";
   ASSERT_TRUE(desk.edits.marks);
