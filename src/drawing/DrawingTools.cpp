@@ -456,16 +456,30 @@ void DrawingTools::CopyShapes(int FromWindow, int ToWindow) {
   workspace_.Refresh(ToWindow);
 }
 
-void DrawingTools::PastStretched(int window, int oldWidth, int oldHeight, int newWidth, int newHeight) {
-  History(window).Apply(List(window), [&](ShapeList& past) { StretchShapes(past, oldWidth, oldHeight, newWidth, newHeight); });
+void DrawingTools::ViewChanged(int window, const DrawingView& view) {
+  ShapeList& list = List(window);
+  History(window).ViewChanged(list, view);
+  const Shape* last = LastShape(list);
+  if (!list.Adding || !engine_.StraightAnchor.Set || !last || last->NumPts == 0) return;
+  engine_.StraightAnchor.x = last->Pts[0].x;
+  engine_.StraightAnchor.y = last->Pts[0].y;
 }
 
-void DrawingTools::PastMirrored(int window, int width) {
-  History(window).Apply(List(window), [&](ShapeList& past) { FlipShapes(past, width); });
+void DrawingTools::Undo(int window) {
+  if (List(window).Adding) {
+    const int before = List(window).NumShapes;
+    PutDown();
+    if (List(window).NumShapes < before) return;
+  }
+  StepHistory(window, &ShapeHistory::Undo);
+}
+
+void DrawingTools::Redo(int window) {
+  if (List(window).Adding) PutDown();
+  StepHistory(window, &ShapeHistory::Redo);
 }
 
 void DrawingTools::StepHistory(int window, bool (ShapeHistory::*step)(ShapeList&)) {
-  if (Drawing_ && List(window).Adding) PutDown();
   BeforeChange(window);
   if (!(History(window).*step)(List(window))) return;
   SetEditBar();

@@ -2,7 +2,7 @@
 
 #include <array>
 #include <cstdint>
-#include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -109,15 +109,19 @@ class DrawingTools final : public IShapeLocked {
   /// Closes a step that can be undone; nothing happens when the drawings are what they were.
   void NoteChange(int window) { History(window).Note(List(window)); }
   /// The window's drawings came or went with its video: nothing of before can be undone.
-  void ForgetPast(int window) { History(window).Reset(List(window)); }
-  /// The window's drawings have been fitted to another size of its picture, or mirrored in one of this
-  /// width (pixels): their past follows.
-  void PastStretched(int window, int oldWidth, int oldHeight, int newWidth, int newHeight);
-  void PastMirrored(int window, int width);
-  bool CanUndo(int window) const { return History(window).CanUndo(); }
+  void ForgetPast(int window, const DrawingView& view) { History(window).Reset(List(window), view); }
+  /// The window's drawings have been fitted to this view of its picture: their past follows, and so does a
+  /// straight line under construction.
+  void ViewChanged(int window, const DrawingView& view);
+  /// The window's drawings in the size in which they were drawn; nothing when something has been done to
+  /// them without a word.
+  std::optional<DrawnShapes> AsDrawn(int window) const { return History(window).AsDrawn(engine_.ShapeLists(window)); }
+  bool CanUndo(int window) const { return History(window).CanUndo() || engine_.ShapeLists(window).Adding; }
   bool CanRedo(int window) const { return History(window).CanRedo(); }
-  void Undo(int window) { StepHistory(window, &ShapeHistory::Undo); }
-  void Redo(int window) { StepHistory(window, &ShapeHistory::Redo); }
+  /// A shape under construction is all that an undo takes back; an open line is finished first, and then
+  /// goes as a step that can be redone. Either way the tool is put down.
+  void Undo(int window);
+  void Redo(int window);
 
   // --- from the store
   /// Kinds 0 to 10 announce a tool and choose its colour; 25 ends the announcement and steps the random colour.

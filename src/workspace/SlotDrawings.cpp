@@ -27,7 +27,7 @@ void SlotDrawings::VideoOpened(int slot) {
   list = {};
   Put(list, kept.stored.shapes);
   data.Shapes = {};
-  tools_.ForgetPast(slot);
+  tools_.ForgetPast(slot, {data.PictureWidth, data.PictureHeight, false});
 }
 
 /// Makes what is in the list the origin when it was drawn in since it was put there.
@@ -36,6 +36,9 @@ void SlotDrawings::Notice(int slot) {
   if (std::ranges::equal(ShapesOf(List(slot)), kept.fitted.shapes)) return;
   kept.fitted.shapes = CopyOf(List(slot));
   kept.origin = kept.fitted;
+  // What was drawn or brought back in a view of another size is as exact as it was there.
+  if (auto drawn = tools_.AsDrawn(slot))
+    kept.origin = {std::move(drawn->shapes), drawn->view.width, drawn->view.height};
   kept.changed = true;
 }
 
@@ -62,10 +65,8 @@ void SlotDrawings::PlayerResized(int slot) {
     kept.origin.width = width;
     kept.origin.height = height;
   }
-  const int oldWidth = kept.fitted.width;
-  const int oldHeight = kept.fitted.height;
   Fit(slot, width, height);
-  tools_.PastStretched(slot, oldWidth, oldHeight, width, height);
+  tools_.ViewChanged(slot, {width, height, workspace_.MP(slot).FlipHorizontal()});
 }
 
 void SlotDrawings::PictureFlipped(int slot) {
@@ -76,7 +77,7 @@ void SlotDrawings::PictureFlipped(int slot) {
   FlipShapes(mirrored, kept.origin.width);
   kept.origin.shapes = std::move(mirrored.Shapes);
   Fit(slot, kept.fitted.width, kept.fitted.height);
-  tools_.PastMirrored(slot, kept.fitted.width);
+  tools_.ViewChanged(slot, {kept.fitted.width, kept.fitted.height, workspace_.MP(slot).FlipHorizontal()});
 }
 
 bool SlotDrawings::CollectData(int slot) {
@@ -105,7 +106,7 @@ void SlotDrawings::DataSaved(int slot) {
 void SlotDrawings::VideoClosed(int slot) {
   List(slot) = {};
   At(slot) = {};
-  tools_.ForgetPast(slot);
+  tools_.ForgetPast(slot, {});
 }
 
 }  // namespace kinalyx

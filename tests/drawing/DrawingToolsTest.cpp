@@ -261,6 +261,7 @@ TEST(DrawingTools, DrawingsAreDeletedLastFirstOrAllAtOnce) {
 
 TEST(DrawingTools, UndoGoesThroughEveryChange) {
   Desk desk;
+  desk.tools.ForgetPast(1, {640, 480, false});
   desk.Draw(kFlag, {{1, 1}});
   desk.Draw(kLine, {{1, 1}, {99, 99}});
   desk.tools.Cadoffbutton_Click();
@@ -274,13 +275,13 @@ TEST(DrawingTools, UndoGoesThroughEveryChange) {
 
   // The picture is mirrored and the window halved: so is what comes back.
   FlipShapes(desk.List(), 640);
-  desk.tools.PastMirrored(1, 640);
+  desk.tools.ViewChanged(1, {640, 480, true});
   StretchShapes(desk.List(), 640, 480, 320, 240);
-  desk.tools.PastStretched(1, 640, 480, 320, 240);
+  desk.tools.ViewChanged(1, {320, 240, true});
   desk.tools.Undo(1);
   ASSERT_EQ(desk.List().NumShapes, 1);
   EXPECT_EQ(desk.List().Shapes[0].Pts[0].x, 320) << "half of 639, to the even neighbour";
-  desk.tools.ForgetPast(1);
+  desk.tools.ForgetPast(1, {});
   EXPECT_FALSE(desk.tools.CanUndo(1));
 }
 

@@ -148,7 +148,7 @@ TEST(ShapeStore, ListsStretchAndFlip) {
 TEST(ShapeHistory, FiftyChangesCanBeTakenBack) {
   ShapeHistory history;
   ShapeList list;
-  history.Reset(list);
+  history.Reset(list, {640, 480, false});
   for (int i = 0; i < 60; ++i) {
     Add(list, Finished(kFlag, {{i, i}}));
     history.Note(list);
@@ -162,9 +162,8 @@ TEST(ShapeHistory, FiftyChangesCanBeTakenBack) {
   EXPECT_EQ(list.NumShapes, 11);
 
   // The window shrinks: the steps on either side shrink with it.
-  const auto halve = [](ShapeList& past) { StretchShapes(past, 0.5, 0.5); };
-  halve(list);
-  history.Apply(list, halve);
+  StretchShapes(list, 0.5, 0.5);
+  history.ViewChanged(list, {320, 240, false});
   EXPECT_TRUE(history.Redo(list));
   EXPECT_EQ(list.Shapes[10].Pts[0].x, 5);
   KillShape(list, 0);

@@ -1,0 +1,262 @@
+// Undo of drawings against everything else that happens to a window.
+
+#include <gtest/gtest.h>
+
+#include "AnalysisStage.h"
+#include "video/KeyCodes.h"
+
+namespace kinalyx::test {
+namespace {
+
+constexpr int kShift = 1;
+constexpr int kCtrl = 2;
+
+class Undo : public testing::Test {
+ protected:
+  void SetUp() override {
+    ASSERT_TRUE(stage_.Open(1, stage_.Video("a.avi")));
+    Draw(kLine, {101, 203}, {307, 209});
+    Draw(kSquare, {110, 250}, {165, 301});
+    drawn_ = Drawn();
+  }
+
+  void TakeUp(int tool) { stage_.Key(kKeyF1 + tool); }
+  void Click(POINTAPI at, int button = 1) {
+    stage_.Move(Window(), at.x, at.y);
+    stage_.Press(Window(), at.x, at.y, button);
+    stage_.Release(Window(), at.x, at.y, button);
+  }
+  void Draw(int tool, POINTAPI from, POINTAPI to) {
+    TakeUp(tool);
+    Click(from);
+    Click(to);
+  }
+  bool Key(int code, int shift = 0) { return stage_.Commands().Form_KeyDown(code, shift); }
+  void PressUndo() { Key('Z', kCtrl); }
+  void PressRedo() { Key('Z', kCtrl | kShift); }
+  void Do(const char* command) { EXPECT_TRUE(stage_.Commands().Run(command)) << command; }
+  int Window() { return stage_.Slots().CurrentWindow; }
+  /// What the current window shows, finished or not.
+  std::vector<Shape> Drawn() {
+    const auto shapes = ShapesOf(stage_.Shapes(Window()));
+    std::vector<Shape> drawn(shapes.begin(), shapes.end());
+    for (Shape& shape : drawn) shape.SavedPts.clear();  // what is left of a turn shows nowhere
+    return drawn;
+  }
+  int Count() { return stage_.Shapes(Window()).NumShapes; }
+
+  AnalysisStage stage_{"1"};
+  std::vector<Shape> drawn_;  ///< a line and a square
+};
+
+TEST_F(Undo, EveryKindOfChangeIsOneStep) {
+  const auto changes = std::vector<std::function<void()>>{
+      [&] { Draw(kEllipse, {300, 100}, {350, 140}); },
+      [&] { Do("Lastcadoff"); },
+      [&] { Do("Cadoffbutton"); },
+      [&] {  // a stroke
+        TakeUp(kFreehand);
+        stage_.Press(1, 50, 50);
+        for (int x = 51; x < 90; ++x) stage_.Move(1, x, 50 + x % 3);
+        stage_.Release(1, 90, 50);
+      },
+      [&] {  // a path over three pictures, ended by the other button
+        TakeUp(kSwingPath);
+        for (const int x : {60, 90, 130}) Click({x, 80});
+        stage_.Press(1, 160, 80, 2);
+        stage_.Release(1, 160, 80, 2);
+      },
+      [&] {  // a square turns into another kind
+        stage_.analysis.Edits().HandlePressed(kRotateHandle, {138, 200});
+        for (const int x : {150, 170, 190}) stage_.analysis.Edits().HandleDragged({x, 210});
+        stage_.analysis.Edits().HandleReleased();
+      },
+      [&] { stage_.analysis.Edits().Nudge(7, -3); },
+      [&] {
+        stage_.analysis.Edits().ribEBBtn_Click(true);
+        stage_.analysis.Edits().Nudge(7, -3);
+      },
+      [&] { Key(kKeyDelete); },
+  };
+  for (std::size_t i = 0; i < changes.size(); ++i) {
+    if (i == 5) Do("MenuEdit");
+    changes[i]();
+    const std::vector<Shape> changed = Drawn();
+    EXPECT_NE(changed, drawn_) << i;
+    PressUndo();
+    EXPECT_EQ(Drawn(), drawn_) << i;
+    PressRedo();
+    EXPECT_EQ(Drawn(), changed) << i;
+    PressUndo();
+    EXPECT_EQ(Drawn(), drawn_) << i;
+    stage_.Shapes(1).CurShape = 1;
+  }
+  // The same drawing again is no change, and no step.
+  stage_.edits.macroName = "Plane";
+  Do("DTMacro");
+  stage_.analysis.Edits().MacroBtn_Click(0);
+  PressUndo();
+  EXPECT_EQ(Count(), 1);
+  PressUndo();
+  EXPECT_EQ(Count(), 0);
+  EXPECT_FALSE(stage_.analysis.Edits().CanUndo());
+}
+
+TEST_F(Undo, AHalfDrawnShapeIsAllThatGoes) {
+  for (const int tool : {kLine, kAngle, kParallelogram, kClock}) {
+    TakeUp(tool);
+    Click({200, 100});
+    stage_.Move(1, 240, 130);
+    ASSERT_EQ(Count(), 3);
+    EXPECT_TRUE(stage_.analysis.Edits().CanUndo());
+    PressUndo();
+    EXPECT_EQ(Drawn(), drawn_) << tool;
+    EXPECT_FALSE(stage_.analysis.Tools().Drawing()) << "nor is the tool left waiting for its next point";
+  }
+  // Also where there is nothing else.
+  Do("Cadoffbutton");
+  TakeUp(kLine);
+  Click({200, 100});
+  PressUndo();
+  EXPECT_EQ(Count(), 0);
+  PressUndo();
+  EXPECT_EQ(Drawn(), drawn_);
+  // A path is kept as far as it goes, so that it can be had back.
+  TakeUp(kSwingPath);
+  for (const int x : {60, 90, 130}) Click({x, 80});
+  PressUndo();
+  EXPECT_EQ(Drawn(), drawn_);
+  PressRedo();
+  ASSERT_EQ(Count(), 3);
+  EXPECT_EQ(Drawn()[2].NumBound, 3);
+  // Redo with a shape in hand gives that up, and has still what was undone.
+  PressUndo();
+  TakeUp(kLine);
+  Click({200, 100});
+  PressRedo();
+  ASSERT_EQ(Count(), 3);
+  EXPECT_EQ(Drawn()[2].Kind, kSwingPath);
+}
+
+TEST_F(Undo, TheSizeOfTheWindowWearsNothingOut) {
+  const std::vector<Shape> before = drawn_;
+  stage_.Shapes(1).CurShape = 0;
+  Do("MenuEdit");
+  stage_.analysis.Edits().Nudge(11, 5);
+  const std::vector<Shape> moved = Drawn();
+  Key(kKeyEscape);
+  for (int round = 0; round < 5; ++round) {
+    for (const int layout : {8, 4, 6, 1}) stage_.Slots().SetScreen(layout);
+    Do("vFlip");
+    Do("vFlip");
+  }
+  EXPECT_EQ(Drawn(), moved);
+  PressUndo();
+  EXPECT_EQ(Drawn(), before) << "to the pixel, and so is what the step did not touch";
+  stage_.Slots().SetScreen(8);
+  PressRedo();
+  stage_.Slots().SetScreen(1);
+  EXPECT_EQ(Drawn(), moved) << "brought back in a small window, and seen in the large one";
+  Do("vFlip");
+  PressUndo();
+  Do("vFlip");
+  EXPECT_EQ(Drawn(), before);
+}
+
+TEST_F(Undo, AStraightLineStaysStraightWhenThePictureChangesUnderIt) {
+  Do("DDSL");
+  Click({120, 100});
+  stage_.Type('F');
+  stage_.Slots().SetZoom(1.3);
+  const POINTAPI first = Drawn().back().Pts[0];
+  Click({first.x + 4, first.y + 80});
+  ASSERT_EQ(Count(), 3);
+  EXPECT_EQ(Drawn()[2].Pts[1].x, first.x);
+}
+
+TEST_F(Undo, WindowsAndSavesDoNotMeddle) {
+  stage_.Slots().SetScreen(2);
+  const std::vector<Shape> one = Drawn();
+  // The same video a second time brings what was drawn so far, and has a past of its own.
+  ASSERT_TRUE(stage_.Open(2, stage_.Slots().At(1).path));
+  stage_.Slots().SelectWindow(2);
+  EXPECT_EQ(Count(), 2);
+  EXPECT_FALSE(stage_.analysis.Edits().CanUndo());
+  Draw(kLine, {20, 20}, {60, 60});
+  ASSERT_TRUE(stage_.Slots().SaveData(2));
+  PressUndo();
+  EXPECT_EQ(Count(), 2) << "a save is no end of the past";
+  stage_.Slots().SelectWindow(1);
+  EXPECT_EQ(Drawn(), one);
+  PressUndo();
+  EXPECT_EQ(Count(), 1);
+  ASSERT_TRUE(stage_.Slots().SaveData(1));
+  PressRedo();
+  EXPECT_EQ(Drawn(), one);
+  // A half-drawn shape waits in its window while another one is undone.
+  TakeUp(kLine);
+  Click({50, 50});
+  stage_.Slots().SelectWindow(2);
+  PressRedo();
+  EXPECT_EQ(Count(), 3);
+  EXPECT_EQ(stage_.Shapes(1).NumShapes, 3);
+  stage_.Slots().SelectWindow(1);
+  PressUndo();
+  EXPECT_EQ(Drawn(), one);
+  // A clone is undone where it was laid.
+  Do("DTClone");
+  ASSERT_EQ(Window(), 2);
+  EXPECT_EQ(Count(), 2);
+  PressUndo();
+  EXPECT_EQ(Count(), 3);
+  ASSERT_TRUE(stage_.Slots().CloseVideo(2));
+  PressUndo();
+  EXPECT_EQ(Count(), 0);
+}
+
+TEST_F(Undo, NothingIsUndoneInTheMiddleOfADrag) {
+  Do("MenuEdit");
+  DrawingEdits& edits = stage_.analysis.Edits();
+  edits.HandlePressed(kMoveHandle, {130, 270});
+  edits.HandleDragged({160, 290});
+  EXPECT_FALSE(edits.CanUndo());
+  PressUndo();
+  Key(kKeyDelete);
+  EXPECT_EQ(Count(), 2);
+  edits.HandleReleased();
+  PressUndo();
+  EXPECT_EQ(Drawn(), drawn_) << "the whole drag is one step";
+  // A drag that comes back to where it began is none.
+  edits.HandlePressed(kMoveHandle, {130, 270});
+  edits.HandleDragged({160, 290});
+  edits.HandleDragged({130, 270});
+  edits.HandleReleased();
+  EXPECT_TRUE(edits.CanRedo()) << "what was undone can still be had back";
+}
+
+TEST_F(Undo, TheRulerTakesItsOwnLineAndNoOther) {
+  Do("TCal");
+  Click({100, 60});
+  Click({200, 60});
+  EXPECT_EQ(stage_.window.calibrationLength, "100pts");
+  Draw(kEllipse, {300, 100}, {350, 140});
+  stage_.analysis.Ruler().CalibBtn_Click(1);
+  EXPECT_EQ(Drawn().back().Kind, kEllipse) << "drawn with the panel open: it is the selected one";
+  // A line that was there before may be measured too.
+  Do("Cadoffbutton");
+  PressUndo();
+  Do("TCal");
+  Key(kKeyEscape);
+  Do("MenuEdit");
+  Do("TCal");
+  stage_.analysis.Tools().DrawOffBtn_Click();
+  stage_.Shapes(1).CurShape = 0;
+  stage_.analysis.Tools().SetShapeCaption();
+  EXPECT_NE(stage_.window.calibrationLength, "");
+  const int count = Count();
+  stage_.analysis.Ruler().CalibBtn_Click(0, 1, kFeet, kFeet);
+  EXPECT_EQ(Count(), count);
+}
+
+}  // namespace
+}  // namespace kinalyx::test
