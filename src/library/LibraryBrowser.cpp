@@ -50,6 +50,13 @@ void LibraryBrowser::CapfolderSetup(bool keepInstructor) {
   InstructorList_Click(std::max(0, RowOf(instructors_, wanted)));
 }
 
+void LibraryBrowser::Return(bool keepInstructor) {
+  const std::string folder = Folder();
+  const std::string video = Video();
+  CapfolderSetup(keepInstructor);
+  if (Folder() == folder) SelectVideo(video);
+}
+
 void LibraryBrowser::Refresh() {
   const std::string instructor = Instructor();
   const std::string student = Student();

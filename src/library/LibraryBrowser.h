@@ -31,6 +31,8 @@ class LibraryBrowser {
   /// Reads the library afresh and goes to the remembered instructor, student and first video; without
   /// a remembered one to "General Folder". With `keepInstructor` the instructor chosen now stays.
   void CapfolderSetup(bool keepInstructor = false);
+  /// The same for who comes back: where that is the same student, the video that was chosen is chosen again.
+  void Return(bool keepInstructor = false);
   /// Reads the lists again and keeps what is chosen, as far as it still exists.
   void Refresh();
   /// True when the library's drive did not answer the last time that it was read. What could not be read is

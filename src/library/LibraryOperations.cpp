@@ -17,7 +17,16 @@ namespace kinalyx {
 
 namespace {
 
-constexpr std::string_view kDelete = "delete";
+using Change = LibraryOperations::Change;
+
+std::string VerbOf(Change change) {
+  switch (change) {
+    case Change::Rename: return "rename";
+    case Change::Move: return "move";
+    case Change::Delete: return "delete";
+  }
+  return {};
+}
 
 /// The paths of the videos in a folder and in those below it: lessons are videos too.
 std::vector<std::string> AllVideosBelow(const std::string& folder) {
@@ -50,11 +59,17 @@ std::vector<LibraryVideo> VideosOf(const LibraryTree& tree, const std::string& i
 
 void ShowResult(const OperationResult& result, LibraryBrowser& browser) {
   if (!result.refill) return;
+  const std::string folder = browser.Folder();
+  const std::string video = browser.Video();
+  const int row = browser.VideoIndex();
   browser.Refresh();
   // A choice that stands is not made again: it would go back to the first video.
   if (!result.instructor.empty() && result.instructor != browser.Instructor()) browser.SelectInstructor(result.instructor);
   if (!result.student.empty() && result.student != browser.Student()) browser.SelectStudent(result.student);
   if (!result.video.empty()) browser.SelectVideo(result.video);
+  // Where a video has gone, the next one takes its place.
+  if (result.video.empty() && !video.empty() && browser.Folder() == folder && browser.Video() != video)
+    browser.VideoList_Click(std::min(row, static_cast<int>(browser.VideoList().size()) - 1));
 }
 
 LibraryOperations::LibraryOperations(IHost& host, const Settings& settings, AnalysisLink analysis)
@@ -76,28 +91,39 @@ bool LibraryOperations::IsOpen(const std::string& videoPath) const {
   return analysis_.isOpenInAnalysis && analysis_.isOpenInAnalysis(videoPath);
 }
 
-bool LibraryOperations::HoldsOpenVideo(const std::string& folder) const {
-  if (!analysis_.isOpenInAnalysis) return false;
-  const auto videos = host_.Drives().Ask(tree_.Root(), [folder] { return AllVideosBelow(folder); });
-  return videos && std::ranges::any_of(*videos, [this](const std::string& path) { return IsOpen(path); });
-}
-
 std::string LibraryOperations::BusyText() const {
   return Busy() ? "Another operation is still at work. Please wait until it has finished." : "";
 }
 
 /// A library in a network folder that has gone would look like one without students.
-bool LibraryOperations::Reachable(std::string& refusal) const {
+std::string LibraryOperations::Unreachable() const {
   const std::string& root = tree_.Root();
   const auto there = host_.Drives().Ask(root, [root] { return TouchPath(root) && dirExists(root); });
-  if (!there) refusal = SilentLibraryText(root) + " Nothing was changed.";
-  else if (!*there) refusal = "The video library at " + root + " cannot be reached. Nothing was changed.";
-  return refusal.empty();
+  if (!there) return SilentLibraryText(root) + " Nothing was changed.";
+  return *there ? std::string() : "The video library at " + root + " cannot be reached. Nothing was changed.";
+}
+
+std::string LibraryOperations::Obstacle() const {
+  const std::string busy = BusyText();
+  return busy.empty() ? Unreachable() : busy;
+}
+
+std::string LibraryOperations::OpenVideoIn(const std::string& folder, const std::string& change) const {
+  if (!analysis_.isOpenInAnalysis) return {};
+  const auto videos = host_.Drives().Ask(tree_.Root(), [folder] { return AllVideosBelow(folder); });
+  if (!videos) return SilentLibraryText(tree_.Root()) + " Nothing was changed.";
+  if (std::ranges::none_of(*videos, [this](const std::string& path) { return IsOpen(path); })) return {};
+  return "A video from this database is open in the Analysis section. You must close the video before you can " + change +
+         ".";
 }
 
 OperationResult LibraryOperations::Refuse(const std::string& text) {
   host_.Message(MessageKind::Warning, "", text);
   return Report(text);
+}
+
+std::string LibraryOperations::Shown(const std::string& refusal) {
+  return refusal.empty() ? refusal : Refuse(refusal).status;
 }
 
 OperationResult LibraryOperations::RefuseGone(const std::string& text) {
@@ -111,54 +137,41 @@ void LibraryOperations::Tell(const std::string& status) const {
 }
 
 std::string LibraryOperations::GuardStudent(const std::string& instructor, const std::string& student,
-                                            const char* verb) {
+                                            Change change) {
   if (student.empty() || instructor.empty() || instructor == kGeneralFolder) return words_.MustSelect();
-  std::string refusal = BusyText();
-  if (!refusal.empty()) return Refuse(refusal).status;
-  if (!Reachable(refusal)) return Refuse(refusal).status;
-  if (HoldsOpenVideo(tree_.StudentFolder(instructor, student))) {
-    return Refuse("A video from this database is open in the Analysis section. You must close the video before you can " +
-                  std::string(verb) + " this " + words_.noun() + ".")
-        .status;
-  }
-  return {};
+  std::string refusal = Obstacle();
+  if (refusal.empty())
+    refusal = OpenVideoIn(tree_.StudentFolder(instructor, student), VerbOf(change) + " this " + words_.noun());
+  return Shown(refusal);
 }
 
 std::string LibraryOperations::GuardVideo(const LibraryVideo& video) {
   if (video.path.empty()) return "You must select a video first.";
-  if (std::string busy = BusyText(); !busy.empty()) return Refuse(busy).status;
-  if (IsOpen(video.path)) {
-    return Refuse("This video is open in the Analysis section. You must close the video before you can continue.").status;
-  }
-  if (std::string refusal; !Reachable(refusal)) return Refuse(refusal).status;
-  return {};
+  std::string refusal = Obstacle();
+  if (refusal.empty() && IsOpen(video.path))
+    refusal = "This video is open in the Analysis section. You must close the video before you can continue.";
+  return Shown(refusal);
+}
+
+std::string LibraryOperations::GuardInstructor(const std::string& instructor, Change change) {
+  if (instructor.empty() || instructor == kGeneralFolder) return "You must select an Instructor or Database first.";
+  if (instructor == kQuickLaunch)
+    return "The folder " + instructor + " belongs to the program. You cannot " + VerbOf(change) + " it.";
+  const std::string folder = tree_.InstructorFolder(instructor);
+  std::string refusal = Obstacle();
+  if (refusal.empty()) refusal = OpenVideoIn(folder, VerbOf(change) + " this database");
+  if (refusal.empty() && change == Change::Delete && !ListFolders(folder).empty()) refusal = StillFullText(instructor);
+  return Shown(refusal);
 }
 
 // ---------------------------------------------------------------- instructors and students
 
 OperationResult LibraryOperations::AddInstructor(std::string_view typed) {
   const std::string_view name = WithoutOuterBlanks(typed);
-  std::string refusal;
-  if (!Reachable(refusal)) return Refuse(refusal);
+  if (const std::string refusal = Obstacle(); !refusal.empty()) return Refuse(refusal);
   const Outcome outcome = kinalyx::AddInstructor(tree_.Root(), name);
   if (!outcome.done) return Refuse(outcome.message);
   return {true, outcome.message, true, std::string(name)};
-}
-
-std::string LibraryOperations::GuardInstructor(const std::string& instructor, std::string_view verb) {
-  if (instructor.empty() || instructor == kGeneralFolder) return "You must select an Instructor or Database first.";
-  if (instructor == kQuickLaunch)
-    return "The folder " + instructor + " belongs to the program. You cannot " + std::string(verb) + " it.";
-  std::string refusal = BusyText();
-  if (!refusal.empty() || !Reachable(refusal)) return Refuse(refusal).status;
-  if (HoldsOpenVideo(tree_.InstructorFolder(instructor))) {
-    return Refuse("A video from this database is open in the Analysis section. You must close the video before you can " +
-                  std::string(verb) + " this database.")
-        .status;
-  }
-  if (verb == kDelete && !ListFolders(tree_.InstructorFolder(instructor)).empty())
-    return Refuse(StillFullText(instructor)).status;
-  return {};
 }
 
 std::string LibraryOperations::StillFullText(const std::string& instructor) const {
@@ -171,7 +184,7 @@ std::string LibraryOperations::StillFullText(const std::string& instructor) cons
 
 OperationResult LibraryOperations::RenameInstructor(const std::string& instructor, std::string_view typed) {
   const std::string_view name = WithoutOuterBlanks(typed);
-  if (const std::string refusal = GuardInstructor(instructor, "rename"); !refusal.empty()) return Report(refusal);
+  if (const std::string refusal = GuardInstructor(instructor, Change::Rename); !refusal.empty()) return Report(refusal);
   if (!IsValidName(name)) return Refuse("Invalid character in Name");
   if (IsBlank(name)) return Refuse("You must type a name!");
   if (name == instructor) return Report("Rename cancelled.");
@@ -190,7 +203,7 @@ OperationResult LibraryOperations::RenameInstructor(const std::string& instructo
 }
 
 OperationResult LibraryOperations::DeleteInstructor(const std::string& instructor) {
-  if (const std::string refusal = GuardInstructor(instructor, kDelete); !refusal.empty()) return Report(refusal);
+  if (const std::string refusal = GuardInstructor(instructor, Change::Delete); !refusal.empty()) return Report(refusal);
   const std::string folder = tree_.InstructorFolder(instructor);
   RemoveDeadParts(folder, kDeadPartSeconds, disk_);
   if (disk_.RemoveFolder(folder) < 0) {
@@ -206,8 +219,7 @@ OperationResult LibraryOperations::AddStudent(const std::string& instructor, con
                                               const FieldTexts& values) {
   // "General Folder" is the library itself: a student made there would appear as an instructor.
   if (instructor.empty() || instructor == kGeneralFolder) return Refuse(LibraryTextsFor(settings_).addHelp);
-  std::string refusal;
-  if (!Reachable(refusal)) return Refuse(refusal);
+  if (const std::string refusal = Obstacle(); !refusal.empty()) return Refuse(refusal);
   FieldTexts named = values;
   named[kNameField] = WithoutOuterBlanks(values[kNameField]);
   const Outcome outcome = kinalyx::AddStudent(tree_.InstructorFolder(instructor), captions, named, words_.noun());
@@ -220,7 +232,7 @@ OperationResult LibraryOperations::RenameStudentCancelled() const { return Repor
 OperationResult LibraryOperations::RenameStudent(const std::string& instructor, const std::string& student,
                                                  std::string_view typed) {
   const std::string_view name = WithoutOuterBlanks(typed);
-  if (const std::string refusal = GuardStudent(instructor, student, "rename"); !refusal.empty()) return Report(refusal);
+  if (const std::string refusal = GuardStudent(instructor, student, Change::Rename); !refusal.empty()) return Report(refusal);
   if (!IsValidName(name)) return Refuse("Invalid character in " + words_.Noun() + " Name.");
   if (IsBlank(name)) return Refuse("You must type a name!");
   if (name == student) return RenameStudentCancelled();
@@ -245,7 +257,8 @@ OperationResult LibraryOperations::RenameStudent(const std::string& instructor, 
 
 void LibraryOperations::MoveStudent(const std::string& instructor, const std::string& student,
                                     const std::string& targetInstructor, Done done) {
-  if (const std::string refusal = GuardStudent(instructor, student, "move"); !refusal.empty()) return done(Report(refusal));
+  if (const std::string refusal = GuardStudent(instructor, student, Change::Move); !refusal.empty())
+    return done(Report(refusal));
   if (targetInstructor.empty() || targetInstructor == kGeneralFolder)
     return done(Report(LibraryTextsFor(settings_).moveStudent));
   const std::string taken =
@@ -273,7 +286,7 @@ void LibraryOperations::MoveStudent(const std::string& instructor, const std::st
 }
 
 void LibraryOperations::DeleteStudent(const std::string& instructor, const std::string& student, Done done) {
-  if (const std::string refusal = GuardStudent(instructor, student, "delete"); !refusal.empty())
+  if (const std::string refusal = GuardStudent(instructor, student, Change::Delete); !refusal.empty())
     return done(Report(refusal));
   auto job = std::make_unique<StudentRemovalJob>(tree_.StudentFolder(instructor, student), disk_);
   Run<StudentRemovalJob>(

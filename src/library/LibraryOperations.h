@@ -67,6 +67,7 @@ void ShowResult(const OperationResult& result, LibraryBrowser& browser);
 class LibraryOperations {
  public:
   using Done = std::function<void(const OperationResult&)>;
+  enum class Change { Rename, Move, Delete };
   struct Environment {
     JobRunner::On jobs = JobRunner::On::Worker;
     ICopyDisk* disk = &RealCopyDisk();
@@ -89,18 +90,17 @@ class LibraryOperations {
   // --- instructors and students
 
   OperationResult AddInstructor(std::string_view name);
-  /// The refusal of a change to an instructor or database, with `verb` "rename" or "delete": one must be
-  /// chosen that is a folder of the user's own, none of its videos be open, and for "delete" it must be
-  /// empty. Empty: go on.
-  std::string GuardInstructor(const std::string& instructor, std::string_view verb);
+  /// The refusal of a change to an instructor or database: one must be chosen that is a folder of the user's
+  /// own, none of its videos be open, and for Delete it must be empty. Empty: go on.
+  std::string GuardInstructor(const std::string& instructor, Change change);
   OperationResult RenameInstructor(const std::string& instructor, std::string_view name);
   /// Removes the folder of an instructor who has neither students nor files.
   OperationResult DeleteInstructor(const std::string& instructor);
   /// The student's name is field 0.
   OperationResult AddStudent(const std::string& instructor, const FieldTexts& captions, const FieldTexts& values);
-  /// The refusal of an action for which a student must be chosen and none of its videos be open, with
-  /// `verb` "rename", "move" or "delete"; forms ask before they open their panel. Empty: go on.
-  std::string GuardStudent(const std::string& instructor, const std::string& student, const char* verb);
+  /// The refusal of a change for which a student must be chosen and none of the student's videos be open;
+  /// forms ask before they open their panel. Empty: go on.
+  std::string GuardStudent(const std::string& instructor, const std::string& student, Change change);
   OperationResult RenameStudent(const std::string& instructor, const std::string& student, std::string_view name);
   OperationResult RenameStudentCancelled() const;
   void MoveStudent(const std::string& instructor, const std::string& student, const std::string& targetInstructor,
@@ -137,12 +137,18 @@ class LibraryOperations {
   enum class Direction { Export, Import };
 
   bool IsOpen(const std::string& videoPath) const;
-  bool HoldsOpenVideo(const std::string& folder) const;
-  /// False when the library's folder is not there or its drive does not answer; why, in `refusal`.
-  bool Reachable(std::string& refusal) const;
+  /// Why nothing can be done just now: another operation is at work, or the library cannot be reached.
+  /// Empty: all is well.
+  std::string Obstacle() const;
+  /// Why the library cannot be reached; empty when it can.
+  std::string Unreachable() const;
+  /// Why a folder must stay as it is: a video in it is open. `change` is "rename this student". Empty: go on.
+  std::string OpenVideoIn(const std::string& folder, const std::string& change) const;
   /// True when a drive outside the library answers, and the folder is there.
   bool HasFolder(const std::string& drive) const;
   OperationResult Refuse(const std::string& text);
+  /// Shows a refusal, if there is one, and hands it on.
+  std::string Shown(const std::string& refusal);
   /// Refuses because what the operation is about has gone meanwhile.
   OperationResult RefuseGone(const std::string& text);
   static OperationResult Report(const std::string& text) { return {false, text}; }

@@ -53,7 +53,7 @@ constexpr const char* kCannotDelete = "Unable to delete the video. Try rebooting
 OperationResult LibraryOperations::SendToAnalysis(const LibraryVideo& video) {
   if (video.path.empty()) return Report("You must select a video first.");
   if (!analysis_.sendToAnalysis) return Report("");
-  if (std::string refusal; !Reachable(refusal)) return Refuse(refusal);
+  if (const std::string refusal = Unreachable(); !refusal.empty()) return Refuse(refusal);
   OperationResult result;
   result.done = analysis_.sendToAnalysis(video.path, [&](const std::string& words) {
     result.status = words;
@@ -170,8 +170,7 @@ void LibraryOperations::QuickLaunch(const LibraryVideo& video, Done done) {
 }
 
 void LibraryOperations::AddToQuickLaunch(const LibraryVideo& video, Done done) {
-  std::string refusal = BusyText();
-  if (!refusal.empty() || !Reachable(refusal)) return done(Refuse(refusal));
+  if (const std::string refusal = Obstacle(); !refusal.empty()) return done(Refuse(refusal));
   if (!host_.Question("Copy video to Quick Launch Folder",
                       "This will copy the current video to your Quick Launch folder. Would you like to continue?"))
     return done({});

@@ -39,9 +39,9 @@ LibraryCommands::LibraryCommands(IHost& host, Settings& settings, LibraryOperati
 
 void LibraryCommands::Run(LibraryAction action) {
   switch (action) {
-    case LibraryAction::RenameStudent: return PrepareStudent(Mode::RenameStudent, "rename");
-    case LibraryAction::MoveStudent: return PrepareStudent(Mode::MoveStudent, "move");
-    case LibraryAction::DeleteStudent: return PrepareStudent(Mode::DeleteStudent, "delete");
+    case LibraryAction::RenameStudent: return PrepareStudent(Mode::RenameStudent, Change::Rename);
+    case LibraryAction::MoveStudent: return PrepareStudent(Mode::MoveStudent, Change::Move);
+    case LibraryAction::DeleteStudent: return PrepareStudent(Mode::DeleteStudent, Change::Delete);
     case LibraryAction::SendToAnalysis: return SendToAnalysis();
     case LibraryAction::Trim: return OpenTrim();
     case LibraryAction::RenameVideo: return PrepareVideo(Mode::RenameVideo);
@@ -55,8 +55,8 @@ void LibraryCommands::Run(LibraryAction action) {
   }
 }
 
-void LibraryCommands::RenameInstructor() { PrepareInstructor(Mode::RenameInstructor, "rename"); }
-void LibraryCommands::DeleteInstructor() { PrepareInstructor(Mode::DeleteInstructor, "delete"); }
+void LibraryCommands::RenameInstructor() { PrepareInstructor(Mode::RenameInstructor, Change::Rename); }
+void LibraryCommands::DeleteInstructor() { PrepareInstructor(Mode::DeleteInstructor, Change::Delete); }
 
 void LibraryCommands::SendToAnalysis() {
   // What is being moved or cut just now must not be opened.
@@ -68,14 +68,14 @@ void LibraryCommands::SendToAnalysis() {
 
 // ---------------------------------------------------------------- preparing
 
-void LibraryCommands::PrepareInstructor(Mode mode, const char* verb) {
-  const std::string refusal = operations_.GuardInstructor(browser_.Instructor(), verb);
+void LibraryCommands::PrepareInstructor(Mode mode, Change change) {
+  const std::string refusal = operations_.GuardInstructor(browser_.Instructor(), change);
   if (!refusal.empty()) return page_.Say(Q(refusal));
   dialog_->Open(mode, ChosenVideo(browser_));
 }
 
-void LibraryCommands::PrepareStudent(Mode mode, const char* verb) {
-  const std::string refusal = operations_.GuardStudent(browser_.Instructor(), browser_.Student(), verb);
+void LibraryCommands::PrepareStudent(Mode mode, Change change) {
+  const std::string refusal = operations_.GuardStudent(browser_.Instructor(), browser_.Student(), change);
   if (!refusal.empty()) return page_.Say(Q(refusal));
   dialog_->Open(mode, ChosenVideo(browser_));
 }

@@ -43,10 +43,11 @@ class LibraryCommands : public QObject {
 
  private:
   using Mode = DialogForm::Mode;
+  using Change = LibraryOperations::Change;
 
-  void PrepareStudent(Mode mode, const char* verb);
+  void PrepareStudent(Mode mode, Change change);
   void PrepareVideo(Mode mode);
-  void PrepareInstructor(Mode mode, const char* verb);
+  void PrepareInstructor(Mode mode, Change change);
   void OpenTrim();
   void SaveTrim();
   void QuickLaunch();

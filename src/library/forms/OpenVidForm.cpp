@@ -50,10 +50,7 @@ OpenVideoParts::OpenVideoParts(PlayerServices& services, const Settings& setting
 OpenVideoParts::~OpenVideoParts() = default;
 
 void OpenVideoParts::Open() {
-  const std::string student = browser_.Folder();
-  const std::string video = browser_.Video();
-  browser_.CapfolderSetup();
-  if (browser_.Folder() == student) browser_.SelectVideo(video);
+  browser_.Return();
   opened_ = 0;
   lists_->ShowAll();
   QWidget* const wanted = browser_.HasVideo() ? lists_->VideoList() : lists_->InstructorList();

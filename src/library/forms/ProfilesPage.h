@@ -1,16 +1,12 @@
 #pragma once
 
 #include <QWidget>
-#include <array>
-#include <functional>
-#include <optional>
-#include <set>
 #include <string>
-#include <tuple>
 #include <vector>
 
 #include "core/Settings.h"
 #include "core/Vocabulary.h"
+#include "library/BadVideos.h"
 #include "library/LibraryActions.h"
 #include "library/LibraryBrowser.h"
 #include "library/LibraryOperations.h"
@@ -19,18 +15,17 @@
 #include "video/AVIControl.h"
 
 class QGridLayout;
-class QLabel;
-class QLineEdit;
 
 namespace kinalyx {
 
-class Button;
+class InstructorsPanel;
+class LibraryButtons;
 class LibraryCommands;
 class LibraryLists;
-class NameList;
 class Panel;
 class ProfileEditor;
 class ProfilePanel;
+class StatusLine;
 class VideosPanel;
 
 /// The library page: instructors, students and videos side by side, the preview of the selected video,
@@ -57,7 +52,6 @@ class ProfilesPage : public QWidget {
   void Say(const QString& text);
 
   LibraryBrowser& Browser() { return browser_; }
-  Button* SPBtn(LibraryAction action) { return buttons_[static_cast<std::size_t>(action)]; }
   void SPBtn_Click(LibraryAction action);
 
  protected:
@@ -67,22 +61,15 @@ class ProfilesPage : public QWidget {
   void hideEvent(QHideEvent* event) override;
 
  private:
-  Panel* MakeInstructorsPanel();
-  Panel* MakeStudentsPanel();
-  void MakeVideoButtons();
-  void MakeButton(LibraryAction action, const char* caption, const char* icon);
-  void AddButton(LibraryAction action, Button* button);
-  void GiveMenu(NameList* list, std::vector<LibraryAction> actions);
-  QString HoverText(LibraryAction action) const;
+  void PlaceButtons();
   bool ListKey(QObject* list, int key);
-  bool IsHover(const QEvent& event) const;
 
   bool Release();
   void ShowResult(const OperationResult& result);
   void InstructorChosen();
   void StudentList_Click();
   void VideoList_Click();
-  void OfferToDelete(const std::string& path);
+  void OfferToDelete(const LibraryVideo& video);
   void OpenProfile();
   bool LibraryAnswers(const std::string& path);
   void ShowProfileView(bool shown);
@@ -90,8 +77,7 @@ class ProfilesPage : public QWidget {
   void OpenEditor(bool edit);
   void CloseEditor();
   void ProAddSaveBtn();
-  void ShowInstructorBox(bool shown);
-  void SSCommand2();
+  void AddInstructor(const QString& name);
 
   PlayerServices& services_;
   Settings& settings_;
@@ -100,31 +86,23 @@ class ProfilesPage : public QWidget {
   LastStudentInfo& LastStudent_;
   LibraryOperations& operations_;
   LibraryBrowser browser_;
+  BadVideos badVideos_;
   LibraryLists* lists_;
   LibraryCommands* commands_;
   Profile profile_;
-  QString said_;
-  QPoint restingMouse_{-1, -1};  ///< where the mouse was when an operation ended
   HostTimer question_;
   std::string shownStudent_;
   std::string shownVideo_;
-  using FileState = std::tuple<std::string, std::optional<std::int64_t>, std::optional<std::int64_t>>;
-  std::set<FileState> keptBadVideos_;  ///< path, size and time of those that the user would not delete
   std::string editedFolder_;  ///< of the student whose profile is in the editor
 
   QGridLayout* grid_;
-  Panel* instructors_;
+  InstructorsPanel* instructors_;
   Panel* students_;
   VideosPanel* videos_;
   ProfilePanel* profilePanel_;
   ProfileEditor* editor_;
-  QWidget* newInstructor_;
-  QLineEdit* Text2_;
-  Button* addInstructor_;
-  Button* renameInstructor_;
-  Button* deleteInstructor_;
-  QLabel* SPDisplay_;
-  std::array<Button*, kLibraryActions> buttons_{};
+  LibraryButtons* buttons_;
+  StatusLine* status_;
 };
 
 }  // namespace kinalyx

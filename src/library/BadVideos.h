@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <set>
+#include <string>
+#include <tuple>
+
+#include "library/LibraryOperations.h"
+
+namespace kinalyx {
+
+/// Offers videos that cannot be opened for deletion.
+class BadVideos {
+ public:
+  enum class Fate {
+    Kept,
+    Deleted,
+    Gone,  ///< somebody else has renamed, moved or deleted it meanwhile
+  };
+
+  /// All that is passed outlives it.
+  BadVideos(IHost& host, const Settings& settings, LibraryOperations& operations)
+      : host_(host), settings_(settings), operations_(operations) {}
+
+  /// Asks the user about a video that could not be opened. Who has kept it is not asked again, unless the
+  /// file is another one by then. A video whose drive does not answer is kept without a word.
+  Fate Offer(const LibraryVideo& video);
+
+ private:
+  /// Path, size and time of last writing.
+  using FileState = std::tuple<std::string, std::optional<std::int64_t>, std::optional<std::int64_t>>;
+
+  IHost& host_;
+  const Settings& settings_;
+  LibraryOperations& operations_;
+  std::set<FileState> kept_;
+};
+
+}  // namespace kinalyx

@@ -1,0 +1,84 @@
+#include "library/forms/InstructorsPanel.h"
+
+#include <QBoxLayout>
+#include <QKeyEvent>
+#include <QLineEdit>
+
+#include "library/forms/HeadButton.h"
+#include "platform/widgets/NameList.h"
+
+namespace kinalyx {
+
+InstructorsPanel::InstructorsPanel(NameList* list, QWidget* parent)
+    : Panel("InstructorsTitle", "Instructors", parent), list_(list) {
+  LeastWidth(this, 144);
+  Body()->addWidget(list_, 1);
+
+  nameBox_ = new QWidget;
+  auto* row = new QHBoxLayout(nameBox_);
+  row->setContentsMargins(8, 8, 8, 0);
+  Text2_ = new QLineEdit;
+  Text2_->setObjectName("Text2");
+  Text2_->setPlaceholderText("Name");
+  Text2_->setAccessibleName("Name of the new instructor or database");
+  Text2_->setMaxLength(120);
+  Text2_->installEventFilter(this);
+  row->addWidget(Text2_);
+  nameBox_->hide();
+  Body()->addWidget(nameBox_);
+
+  add_ = new Button("SSCommand2", "Add New");
+  add_->setToolTip("Add an instructor or database to the library");
+  Foot()->addWidget(add_);
+  Foot()->addStretch(1);
+  rename_ = HeadButton("RenameInstructorBtn", {}, "rename");
+  rename_->setToolTip("Rename the current instructor or database");
+  delete_ = HeadButton("DeleteInstructorBtn", {}, "trash");
+  delete_->setToolTip("Delete the current instructor or database, which must be empty");
+  auto* tools = new QHBoxLayout;
+  tools->setSpacing(0);
+  for (Button* button : {rename_, delete_}) {
+    button->setAccessibleName(button->toolTip());
+    tools->addWidget(button);
+  }
+  Head()->addLayout(tools);
+  connect(rename_, &QPushButton::clicked, this, &InstructorsPanel::RenameWanted);
+  connect(delete_, &QPushButton::clicked, this, &InstructorsPanel::DeleteWanted);
+  connect(add_, &QPushButton::clicked, this, &InstructorsPanel::SSCommand2);
+  connect(Text2_, &QLineEdit::returnPressed, this, &InstructorsPanel::SSCommand2);
+}
+
+void InstructorsPanel::ShowNameBox(bool shown) {
+  nameBox_->setVisible(shown);
+  add_->setText(shown ? "Save" : "Add New");
+  Text2_->clear();
+  if (shown) Text2_->setFocus();
+}
+
+void InstructorsPanel::SetChangeable(bool changeable) {
+  rename_->setEnabled(changeable);
+  delete_->setEnabled(changeable);
+}
+
+void InstructorsPanel::SetUsable(bool usable) {
+  list_->setEnabled(usable);
+  add_->setEnabled(usable);
+}
+
+/// The first press asks for a name, the second adds it.
+void InstructorsPanel::SSCommand2() {
+  if (nameBox_->isHidden()) ShowNameBox(true);
+  else emit AddWanted(Text2_->text());
+}
+
+bool InstructorsPanel::eventFilter(QObject* object, QEvent* event) {
+  if (object != Text2_ || event->type() != QEvent::KeyPress ||
+      static_cast<QKeyEvent*>(event)->key() != Qt::Key_Escape)
+    return Panel::eventFilter(object, event);
+  ShowNameBox(false);
+  list_->setFocus();
+  emit AddCancelled();
+  return true;
+}
+
+}  // namespace kinalyx

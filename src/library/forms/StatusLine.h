@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QFrame>
+#include <QPoint>
+#include <functional>
+#include <map>
+
+class QLabel;
+
+namespace kinalyx {
+
+/// The line `SPDisplay` at the foot of a page: what was last said, and, while the mouse or the keys are on a
+/// part of the page that explains itself, what that part does.
+class StatusLine : public QFrame {
+  Q_OBJECT
+
+ public:
+  explicit StatusLine(QWidget* parent = nullptr);
+
+  void Say(const QString& text);
+  /// Explains a part of the page.
+  /// @param words  asked whenever they are to be shown
+  void Explain(QWidget* part, std::function<QString()> words);
+  /// An operation has ended. The mouse that finds itself over a button because a dialog has gone, or the keys
+  /// that come back to it, do not wipe out how it went.
+  void Rest();
+
+ protected:
+  bool eventFilter(QObject* object, QEvent* event) override;
+
+ private:
+  bool ComesToPart(const QEvent& event) const;
+
+  QLabel* SPDisplay_;
+  QString said_;
+  QPoint restingMouse_{-1, -1};  ///< where the mouse was when an operation ended
+  std::map<QObject*, std::function<QString()>> parts_;
+};
+
+}  // namespace kinalyx
