@@ -18,7 +18,8 @@ namespace kinalyx {
 template <typename Reading>
 auto AskLibrary(DriveWatch& drives, const LibraryTree& tree, Reading reading) {
   return drives.Ask(tree.Root(), [root = tree.Root(), reading = std::move(reading)] {
-    return std::invoke(reading, LibraryTree(root));
+    const LibraryTree own(root);
+    return std::invoke(reading, own);
   });
 }
 
