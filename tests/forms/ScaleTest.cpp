@@ -1,0 +1,178 @@
+#include "platform/widgets/Scale.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QToolButton>
+
+#include "AnalysisFormFixture.h"
+#include "ProfilesStage.h"
+#include "core/ColorSchemes.h"
+#include "core/MailSettings.h"
+#include "core/ResizeControls.h"
+#include "core/forms/FirstForm.h"
+#include "core/forms/SetupPage.h"
+#include "platform/widgets/Theme.h"
+#include "support/TempFolder.h"
+
+namespace kinalyx::test {
+namespace {
+
+QApplication& Application() { return *static_cast<QApplication*>(QCoreApplication::instance()); }
+
+/// Dresses all forms for a main window of some size, as the program does, and undresses them at the end.
+struct Dressed {
+  explicit Dressed(QSize main = {1024, 768}) { Resize(main); }
+  ~Dressed() {
+    SetTextPixels(Application(), 13);
+    ApplyTheme(Application(), CurrentTheme());
+    Application().setStyleSheet({});
+  }
+  void Resize(QSize main) {
+    controls.Resize(main.width(), main.height());
+    SetTextPixels(Application(), controls.TextPixels());
+    ApplyTheme(Application(), CurrentTheme());
+    // A label tells its layout, that tells the card: each in a turn of its own.
+    for (int turn = 0; turn < 5; ++turn) QTest::qWait(0);
+  }
+  ResizeControls controls;
+};
+
+/// Names of the visible labels and buttons whose words have less room than they take.
+std::string Clipped(const QWidget& form) {
+  QStringList found;
+  const auto check = [&](const QWidget* widget, QString words, int beside) {
+    if (words.isEmpty() || !widget->isVisible()) return;
+    words.remove('&');
+    const QSize taken = widget->fontMetrics().size(0, words) + QSize(beside, 0);
+    // The room of a line may be less than what the font keeps for accents.
+    if (widget->width() < taken.width() || widget->height() + 3 < taken.height())
+      found << QString("%1 '%2' %3x%4 in %5x%6").arg(widget->objectName(), words).arg(taken.width()).arg(taken.height())
+                   .arg(widget->width()).arg(widget->height());
+  };
+  for (const auto* label : form.findChildren<QLabel*>())
+    if (!label->wordWrap()) check(label, label->text(), 0);
+  for (const auto* button : form.findChildren<QAbstractButton*>())
+    if (button->property("look") != "tile") check(button, button->text(), button->icon().isNull() ? 0 : button->iconSize().width());
+  return found.join("; ").toStdString();
+}
+
+const QSize kMains[] = {{1000, 680}, {1024, 768}, {1280, 800}, {1280, 1024}, {1440, 900}, {1440, 950}, {1920, 1080}};
+
+TEST(Scale, LengthsInSheetsGrowWithTheText) {
+  Dressed dressed({1920, 1080});
+  EXPECT_EQ(TextPixels(), 15);
+  EXPECT_EQ(WithSizes("a { font-size: @13; min-height: @34-4; border: 2px; border-radius: @20/2; }"),
+            "a { font-size: 15px; min-height: 35px; border: 2px; border-radius: 11px; }");
+  dressed.Resize({1024, 768});
+  EXPECT_EQ(WithSizes("a { font-size: @13; min-height: @34-4; border-radius: @20/2; }"),
+            "a { font-size: 13px; min-height: 30px; border-radius: 10px; }");
+}
+
+TEST(Scale, FormsThatStandTakeTheSizesOfTheMainWindowAndGiveThemBack) {
+  TempFolder folder;
+  TestHost host;
+  Settings settings(host, folder.Path("data"), folder.Path("program"));
+  settings.LoadSettings();
+  ColorSchemes schemes;
+  MailSettings mail(settings.DataPath);
+  Dressed dressed({1280, 800});
+  SetupPage page(host, settings, schemes);
+  FirstForm form(settings, mail, &page);
+  page.show();
+  form.show();
+  struct Seen {
+    int words, caption, box, button, icon, form;
+    bool operator==(const Seen&) const = default;
+  };
+  const auto look = [&] {
+    QTest::qWait(0);
+    const auto pixels = [](const QWidget* widget) { return QFontInfo(widget->font()).pixelSize(); };
+    const auto* test = page.findChild<QPushButton*>("SystemTestBtn");
+    return Seen{pixels(page.findChild<QLineEdit*>("UserNameBox")), pixels(form.findChild<QLabel*>("UserInfo0Lbl")),
+                page.findChild<QLineEdit*>("UserNameBox")->height(), test->height(), test->iconSize().width(), form.width()};
+  };
+  const Seen small = look();
+  EXPECT_EQ(small, (Seen{13, 11, 34, 34, 20, 440}));
+  dressed.Resize({1920, 1080});
+  EXPECT_EQ(look(), (Seen{15, 13, 39, 39, 23, 508}));
+  FirstForm later(settings, mail, &page);
+  EXPECT_EQ(later.width(), 508) << "a form that opens later";
+  dressed.Resize({1366, 768});
+  EXPECT_EQ(look(), small);
+}
+
+TEST(Scale, NothingOfTheSetupPageIsClipped) {
+  TempFolder folder;
+  TestHost host;
+  Settings settings(host, folder.Path("data"), folder.Path("program"));
+  settings.LoadSettings();
+  ColorSchemes schemes;
+  Dressed dressed;
+  SetupPage page(host, settings, schemes);
+  page.show();
+  for (const QSize& main : kMains) {
+    page.resize(main - QSize(132, 36));
+    dressed.Resize(main);
+    for (const int section : {SetupPage::kMainMenu, SetupPage::kAnalysis, SetupPage::kGeneral}) {
+      page.PSCmd_Click(section);
+      QTest::qWait(0);
+      EXPECT_EQ(Clipped(page), "") << main.width() << " x " << main.height();
+    }
+  }
+}
+
+struct ScaledProfiles : ProfilesStage {};
+
+TEST_F(ScaledProfiles, NothingIsClipped) {
+  Dressed dressed;
+  Choose("InstructorList", "Demo");
+  Choose("StudentList", "Sample, Erica");
+  for (const QSize& main : kMains) {
+    page->resize(main - QSize(Px(132), Px(36)));
+    dressed.Resize(main);
+    page->resize(main - QSize(Px(132), Px(36)));
+    QTest::qWait(0);
+    EXPECT_EQ(Clipped(*page), "") << main.width() << " x " << main.height();
+  }
+}
+
+struct ScaledAnalysis : AnalysisFormFixture {};
+
+TEST_F(ScaledAnalysis, NothingIsClippedAndTheBarsHoldTheirButtons) {
+  Dressed dressed;
+  Send("a.avi");
+  Send("b.avi");
+  for (const QSize& main : kMains) {
+    form->resize(main - QSize(0, 36));
+    dressed.Resize(main);
+    QTest::qWait(0);
+    for (const char* layout : {"Scn1", "Scn2", "Scn4", "Scn8"}) {
+      Click(layout);
+      QTest::qWait(0);
+      EXPECT_EQ(Clipped(*form), "") << main.width() << " x " << main.height() << " " << layout;
+      const QWidget* bar = Find<QWidget>("Playbar");
+      for (const char* name : {"CmdButton0", "CmdButton2", "LoopButton", "DisplayPanel"}) {
+        const QWidget* part = Find<QWidget>(name);
+        EXPECT_TRUE(bar->rect().contains(QRect(part->mapTo(bar, QPoint()), part->size())))
+            << name << " " << layout << " " << main.width() << " x " << main.height();
+      }
+    }
+  }
+}
+
+TEST_F(ScaledAnalysis, CardsTakeTheRoomOfTheirWords) {
+  Dressed dressed;
+  Send("a.avi");
+  Send("b.avi");
+  for (const char* card : {"TVT", "TCal", "TZP", "TASF", "TAGrid", "AddMacro"}) form->Analysis().Commands().Run(card);
+  for (const QSize& main : kMains) {
+    form->resize(main - QSize(0, 36));
+    dressed.Resize(main);
+    EXPECT_EQ(Clipped(*form), "") << main.width() << " x " << main.height();
+  }
+}
+
+}  // namespace
+}  // namespace kinalyx::test
