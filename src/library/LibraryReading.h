@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <optional>
 #include <string>
 #include <utility>
@@ -18,8 +17,7 @@ namespace kinalyx {
 template <typename Reading>
 auto AskLibrary(DriveWatch& drives, const LibraryTree& tree, Reading reading) {
   return drives.Ask(tree.Root(), [root = tree.Root(), reading = std::move(reading)] {
-    const LibraryTree own(root);
-    return std::invoke(reading, own);
+    return reading(LibraryTree(root));
   });
 }
 
