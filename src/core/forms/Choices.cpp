@@ -37,8 +37,8 @@ void SampleButton::paintEvent(QPaintEvent*) {
   const double ring = isChecked() || hasFocus() ? 2 : 1;
   const QRectF box = QRectF(rect()).adjusted(ring / 2, ring / 2, -ring / 2, -ring / 2);
   const bool hovered = underMouse() && isEnabled();
-  painter.setPen(QPen(isChecked() ? theme.accent : hasFocus() ? Mix(theme.accent, theme.panel, 0.45)
-                                  : hovered ? Mix(theme.line, theme.text, 0.3) : theme.line, ring));
+  painter.setPen(QPen(isChecked() ? theme.accent : hasFocus() ? theme.ring
+                                  : hovered ? theme.accent : theme.outline, ring));
   painter.setBrush(isChecked() ? theme.panel : isDown() ? theme.panel : hovered ? theme.selection : theme.field);
   painter.drawRoundedRect(box, 7, 7);
 

@@ -151,7 +151,7 @@ void TrimSlider::paintEvent(QPaintEvent*) {
   painter.drawEllipse(QPointF(x, kTrackTop - 7), 5, 5);
   if (hasFocus()) {
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(Mix(theme.accent, theme.field, 0.4), 2));
+    painter.setPen(QPen(theme.ring, 2));
     painter.drawEllipse(QPointF(x, kTrackTop - 7), 6, 6);
   }
 }

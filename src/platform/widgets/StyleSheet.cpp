@@ -35,7 +35,7 @@ QPushButton[placed="true"] { min-width: 0; max-width: 200px; min-height: 0; max-
 QPushButton[look="flat"]:hover { background: @flatHover; border-color: @flatHover; }
 QPushButton[look="flat"]:pressed { background: @flatPressed; border-color: @flatPressed; }
 QPushButton[look="flat"]:checked { background: @accent; color: @accentText; border-color: @accent; }
-QPushButton[look="flat"]:focus { border-color: @accentSoft; }
+QPushButton[look="flat"]:focus { border-color: @ring; }
 QPushButton[look="flat"]:disabled { background: transparent; color: @faint; border-color: transparent; }
 
 QPushButton[look="stage"] { background: transparent; color: @stageText; border: 2px solid transparent; }
@@ -50,7 +50,7 @@ QPushButton[look="section"] { background: transparent; color: @heading; border: 
   border-radius: 6px; text-align: left; padding: 0 @12; }
 QPushButton[look="section"]:hover { background: @selection; border-color: @selection; }
 QPushButton[look="section"]:checked { background: @accent; color: @accentText; border-color: @accent; }
-QPushButton[look="section"]:focus { border-color: @accentSoft; }
+QPushButton[look="section"]:focus { border-color: @ring; }
 QPushButton[look="section"]:disabled { color: @faint; }
 
 QPushButton[look="tile"] { background: transparent; border: none; padding: 0; min-height: 0; max-height: 1000px; }
@@ -59,7 +59,7 @@ QToolButton { background: transparent; border: 2px solid transparent; border-rad
 QToolButton:hover { background: @flatHover; border-color: @flatHover; }
 QToolButton:pressed { background: @flatPressed; }
 QToolButton:checked { background: @accent; border-color: @accent; color: @accentText; }
-QToolButton:focus { border-color: @accentSoft; }
+QToolButton:focus { border-color: @ring; }
 )";
 
 const char* const kFields = R"(
@@ -138,7 +138,7 @@ QLabel[look="mark"] { background: @accent; color: @accentText; border-radius: @2
   min-height: @20; max-height: @20; font-size: @12; }
 QLabel[look="markOff"] { background: @panel; color: #808080; border-radius: @20/2; padding: 0 10px;
   min-height: @20; max-height: @20; font-size: @12; }
-QToolTip { background: @text; color: @field; border: 1px solid @text; padding: 5px 7px; font-size: @12; }
+QToolTip { background: @text; color: @field; border: 1px solid @text; padding: 2px 3px; font-size: @12; }
 QMenuBar { background: @panel; color: @text; border: none; border-bottom: 1px solid @line; padding: 0 8px; }
 QMenuBar::item { background: transparent; padding: @5 @10; border-radius: 5px; }
 QMenuBar::item:selected { background: @flatHover; }
@@ -181,13 +181,13 @@ QString StyleSheetOf(const Theme& t) {
       {"@accentText", t.accentText},
       {"@accentHover", t.accentHover},
       {"@accentPressed", t.accentPressed},
-      {"@accentSoft", Readable(Readable(Mix(t.accent, t.panel, 0.45), t.panel, 3), t.backdrop, 3)},
       {"@accent", t.accent},
-      {"@stageAccent", Mix(t.stageFrame, t.stage, 0.5)},
+      {"@stageAccent", Readable(Mix(t.stageFrame, t.stage, 0.5), t.stageText)},
       {"@stageText", t.stageText},
       {"@disabledFill", Mix(t.panel, t.line, 0.35)},
       {"@focus", Mix(t.accentText, t.accent, 0.35)},
       {"@stageFrame", t.stageFrame},
+      {"@ring", t.ring},
       {"@idle", t.idle},
       {"@outline", t.outline},
       {"@flatHover", Mix(t.panel, t.line, 0.6)},

@@ -60,6 +60,12 @@ QColor Readable(const QColor& wanted, const QColor& ground, double ratio) {
   return target;
 }
 
+QColor ToneOf(const QColor& colour, double saturation, double lightness) {
+  const auto light = static_cast<float>(lightness);
+  if (colour.hslSaturationF() < 0.1) return QColor::fromHslF(0.58f, 0.08f, light);
+  return QColor::fromHslF(colour.hslHueF(), static_cast<float>(saturation), light);
+}
+
 QColor ColorOf(std::int32_t colour) { return QColor(colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF); }
 
 std::int32_t ColourOf(const QColor& color) { return color.red() | (color.green() << 8) | (color.blue() << 16); }
@@ -83,10 +89,11 @@ Theme Theme::FromSlots(const SchemeSlots& scheme) {
   t.muted = Readable(Readable(Mix(t.text, t.panel, 0.38), t.panel), t.backdrop);
   // Not inviting, but still to be made out, also on the fill of a disabled button.
   t.faint = Readable(Readable(Mix(t.text, t.panel, 0.58), Mix(t.panel, t.line, 0.35), 3), t.backdrop, 3);
+  t.ring = Readable(Readable(Mix(t.accent, t.panel, 0.45), t.panel, 3), t.backdrop, 3);
   t.selection = Mix(t.field, t.panel, 0.75);
   t.stage = QColor(0x12, 0x16, 0x1b);
   t.stageLine = QColor(0x2a, 0x31, 0x39);
-  t.stageFrame = Readable(Mix(t.accent, Qt::white, 0.35), t.stage, 5);
+  t.stageFrame = ToneOf(t.accent, 0.75, 0.64);
   t.stageText = Mix(t.panel, Qt::white, 0.5);
   t.stageOutline = Mix(t.stage, Qt::white, 0.42);
   return t;

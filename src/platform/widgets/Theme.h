@@ -43,9 +43,10 @@ struct Theme {
   QColor faint;         ///< disabled text
   QColor idle;          ///< fill of disabled fields: nearer to the backdrop than to what can be filled in
   QColor selection;     ///< hovered rows
+  QColor ring;          ///< round what has the keys: 3 : 1 on all grounds
   QColor stage;         ///< behind videos, the same in every scheme
   QColor stageLine;     ///< frame of an idle window on the stage
-  QColor stageFrame;    ///< frame of the current window: a light tone of slot 0
+  QColor stageFrame;    ///< frame of the current window and what is on: a light tone of slot 0
   QColor stageText;
   QColor stageOutline;  ///< of fields on the stage and on its cards
 
@@ -58,6 +59,8 @@ double ContrastRatio(const QColor& a, const QColor& b);
 QColor Mix(const QColor& a, const QColor& b, double part);
 /// `wanted`, moved towards black or white just far enough to reach `ratio` on `ground`.
 QColor Readable(const QColor& wanted, const QColor& ground, double ratio = 4.5);
+/// A colour of the same hue with another saturation and lightness (0 to 1); a black or grey gives a grey.
+QColor ToneOf(const QColor& colour, double saturation, double lightness);
 QColor ColorOf(std::int32_t colour);
 std::int32_t ColourOf(const QColor& color);
 

@@ -29,24 +29,14 @@ const char* const kCardSheet =
     "[look=\"card\"] QScrollBar::handle { background: @outline; }"
     "[look=\"card\"] QRadioButton, [look=\"card\"] QCheckBox { color: @ink; }";
 
-namespace {
-
-/// A tone of the scheme's buttons at another lightness; a scheme with black buttons gives grey.
-QColor Tone(const QColor& accent, double saturation, double lightness) {
-  if (accent.hslSaturationF() < 0.1) return QColor::fromHslF(0.58f, 0.08f, static_cast<float>(lightness));
-  return QColor::fromHslF(accent.hslHueF(), static_cast<float>(saturation), static_cast<float>(lightness));
-}
-
-}  // namespace
-
 StageLook StageLook::Current() {
   const Theme theme = CurrentTheme();
   StageLook look;
   look.ground = theme.stage;
-  look.accent = Tone(theme.accent, 0.75, 0.64);
+  look.accent = theme.stageFrame;
   look.ink = theme.stageText;
-  look.accentFill = Readable(Tone(theme.accent, 0.6, 0.32), look.ink);
-  look.accentHover = Readable(Tone(theme.accent, 0.6, 0.39), look.ink);
+  look.accentFill = Readable(ToneOf(theme.accent, 0.6, 0.32), look.ink);
+  look.accentHover = Readable(ToneOf(theme.accent, 0.6, 0.39), look.ink);
   look.card = Mix(Mix(theme.stage, Qt::white, 0.05), look.accentFill, 0.14);
   look.cardLine = Mix(look.card, Qt::white, 0.18);
   look.outline = Readable(Mix(look.card, Qt::white, 0.3), look.card, 3);
