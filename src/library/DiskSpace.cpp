@@ -23,6 +23,8 @@ DiskSpace DiskSpaceGauge(const std::string& path) {
   return {true, percent, std::to_string(percent) + " % Free", {}};
 }
 
+DiskSpace SilentDiskSpace() { return {false, 0, "0% Free", "The drive is not answering."}; }
+
 std::string RemoveableDiskText(const std::string& path) {
   std::error_code failed;
   const auto space = std::filesystem::space(path, failed);

@@ -12,7 +12,12 @@ struct DiskSpace {
   int percentFree = 0;   ///< 0 to 100, for the bar `SpaceFlood`
   std::string Label6;    ///< "37 % Free", or "0% Free" when the drive fails
   std::string message;   ///< "Disk Full or Not Available" when the drive fails, else empty
+
+  /// There is little room for videos.
+  bool Little() const { return percentFree < 10; }
 };
+/// A drive that does not answer.
+DiskSpace SilentDiskSpace();
 
 /// Looks at the drive that holds `path`; a path that is not there is a drive that fails.
 DiskSpace DiskSpaceGauge(const std::string& path);

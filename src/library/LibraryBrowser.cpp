@@ -147,7 +147,7 @@ void LibraryBrowser::ReadVideos() {
 void LibraryBrowser::Remember() {
   if (!HasStudent()) return;
   const std::string student = Student();
-  if (student == kProfessionals || (kind_ == Kind::OpenVideo && student == kModelSwings)) return;
+  if (student == kProfessionals || (kind_ != Kind::Profiles && student == kModelSwings)) return;
   LastStudent_ = {Instructor(), student, Folder()};
 }
 

@@ -19,6 +19,7 @@ class LibraryBrowser {
   enum class Kind {
     Profiles,   ///< does not remember the student "Professionals"
     OpenVideo,  ///< nor "Model Swings"
+    Exchange,   ///< like OpenVideo; one side of an import or export
   };
 
   /// `drives` and `remembered`, the program's one remembered selection, are not owned.

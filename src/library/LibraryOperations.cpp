@@ -57,6 +57,15 @@ std::vector<LibraryVideo> VideosOf(const LibraryTree& tree, const std::string& i
   return videos;
 }
 
+std::vector<std::string> MoveTargets(const LibraryTree& tree, const LibraryVideo& about) {
+  std::vector<std::string> databases = tree.Instructors();
+  // A student cannot move to where he is, and Quick Launch keeps no students.
+  std::erase_if(databases, [&](const std::string& name) {
+    return name == kGeneralFolder || name == kQuickLaunch || (about.path.empty() && name == about.instructor);
+  });
+  return databases;
+}
+
 void ShowResult(const OperationResult& result, LibraryBrowser& browser) {
   if (!result.refill) return;
   const std::string folder = browser.Folder();

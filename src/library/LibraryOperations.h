@@ -40,6 +40,9 @@ LibraryVideo ChosenVideo(const LibraryBrowser& browser);
 /// All videos of an instructor or database.
 std::vector<LibraryVideo> VideosOf(const LibraryTree& tree, const std::string& instructor);
 
+/// The instructors and databases to which a video, or, where its path is empty, its student can be moved.
+std::vector<std::string> MoveTargets(const LibraryTree& tree, const LibraryVideo& about);
+
 /// What an operation leaves to the form that asked for it.
 struct OperationResult {
   bool done = false;

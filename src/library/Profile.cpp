@@ -120,6 +120,13 @@ Outcome ProfileFields::SetCaption(int field, std::string_view caption) {
 
 // ---------------------------------------------------------------- profiles
 
+FieldTexts Profile::Stored() const {
+  FieldTexts stored = values;
+  for (std::size_t field = 0; field < stored.size(); ++field)
+    if (missing[field]) stored[field].clear();
+  return stored;
+}
+
 std::string ProfilePath(const std::string& studentFolder) { return JoinPath(studentFolder, "profile.prf"); }
 
 Profile OpenProfile(const std::string& studentFolder, const FieldTexts& captions) {

@@ -48,8 +48,11 @@ class ProfileFields {
 struct Profile {
   FieldTexts values;
   /// The key is not in the file, and `values` shows the file's path: the field was renamed after the
-  /// profile was made. An editor starts such a field empty.
+  /// profile was made.
   std::array<bool, kProfileFields> missing{};
+
+  /// What the file holds: the missing ones are empty.
+  FieldTexts Stored() const;
 };
 
 /// `profile.prf` of a student's folder.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <string_view>
 
 #include "platform/files/Folders.h"
@@ -15,6 +16,12 @@ namespace {
 constexpr int kPollMs = 30;
 
 }  // namespace
+
+int TrimRate(const VideoInfo* info) {
+  constexpr int kUsualRate = 30;
+  if (!info || info->rate <= 0 || info->scale <= 0) return kUsualRate;
+  return static_cast<int>(std::lround(static_cast<double>(info->rate) / static_cast<double>(info->scale)));
+}
 
 bool TrimJob::Step() {
   if (!process_) {

@@ -7,8 +7,13 @@
 #include "library/JobRunner.h"
 #include "platform/host/ChildProcess.h"
 #include "platform/media/TrimCommand.h"
+#include "platform/media/VideoFile.h"
 
 namespace kinalyx {
+
+/// The pictures per second with which a video is cut; 30 for one that does not tell its own.
+/// @param info  null for a video that is not known
+int TrimRate(const VideoInfo* info);
 
 /// Has the program `avitrim` cut a video, and waits for it.
 class TrimJob final : public IJob {

@@ -242,11 +242,9 @@ std::vector<std::string> DialogForm::Read(Reading reading) {
 
 void DialogForm::OpenMove() {
   const bool video = mode_ == Mode::MoveVideo;
-  // A student cannot move to where he is, and Quick Launch keeps no students.
-  std::vector<std::string> databases = Read(&LibraryTree::Instructors);
-  std::erase_if(databases, [&](const std::string& name) {
-    return name == kGeneralFolder || name == kQuickLaunch || (!video && name == about_.instructor);
-  });
+  LibraryVideo about = about_;
+  if (!video) about.path.clear();
+  const auto databases = Read([about](const LibraryTree& tree) { return MoveTargets(tree, about); });
   const auto own = std::ranges::find(databases, about_.instructor);
   databases_->Fill(Q(databases), own == databases.end() ? -1 : static_cast<int>(own - databases.begin()));
   studentsPart_->setVisible(video);

@@ -10,6 +10,7 @@
 #include "library/forms/DriveChoice.h"
 #include "library/forms/LibrarySide.h"
 #include "library/forms/ProgressForm.h"
+#include "library/forms/StatusLine.h"
 #include "library/forms/Text.h"
 #include "platform/host/DriveWatch.h"
 #include "platform/widgets/Buttons.h"
@@ -17,13 +18,6 @@
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
-
-namespace {
-
-/// Less than this is little room for videos.
-constexpr int kLittlePercent = 10;
-
-}  // namespace
 
 ImportExportPage::ImportExportPage(IHost& host, Settings& settings, LibraryOperations& operations,
                                    const LastStudentInfo& remembered, QWidget* parent)
@@ -82,14 +76,8 @@ ImportExportPage::ImportExportPage(IHost& host, Settings& settings, LibraryOpera
   sides->addWidget(there_, 1);
   rows->addLayout(sides, 1);
 
-  QFrame* status = MakeFrame("status");
-  FixHeight(status, 28);
-  auto* statusRow = new QHBoxLayout(status);
-  statusRow->setContentsMargins(kGap, 0, kGap, 0);
-  status_ = MakeLabel("IEDisplay", {}, "muted");
-  LeastWidth(status_, 40);
-  statusRow->addWidget(status_);
-  rows->addWidget(status);
+  status_ = new StatusLine("IEDisplay");
+  rows->addWidget(status_);
 
   progress_ = new ProgressForm(host, operations, this);
   connect(Drive1_, &DriveChoice::Chosen, this, &ImportExportPage::OpenDrive);
@@ -137,9 +125,8 @@ void ImportExportPage::DiskSpaceGauge() {
     return;
   }
   const auto asked = host_.Drives().Ask(otherRoot_, [drive = otherRoot_] { return kinalyx::DiskSpaceGauge(drive); });
-  const DiskSpace space = asked.value_or(DiskSpace{false, 0, "0% Free", "The drive is not answering."});
-  const bool little = space.percentFree < kLittlePercent;
-  SpaceFlood_->Show(little ? QColor(0xb3, 0x26, 0x1e) : CurrentTheme().accent, space.percentFree);
+  const DiskSpace space = asked.value_or(SilentDiskSpace());
+  SpaceFlood_->Show(space.Little() ? QColor(0xb3, 0x26, 0x1e) : CurrentTheme().accent, space.percentFree);
   Label6_->setText(Q(space.Label6));
   if (!space.available) {
     Label6_->setText(Q(space.Label6 + "   " + space.message));
@@ -171,6 +158,6 @@ void ImportExportPage::keyPressEvent(QKeyEvent* event) {
   OpenDrive();
 }
 
-void ImportExportPage::Say(const QString& text) { status_->setText(text); }
+void ImportExportPage::Say(const QString& text) { status_->Say(text); }
 
 }  // namespace kinalyx

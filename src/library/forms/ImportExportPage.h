@@ -16,6 +16,7 @@ class DriveChoice;
 class Gauge;
 class LibrarySide;
 class ProgressForm;
+class StatusLine;
 
 /// The page that takes videos out of the library to another drive or folder, and back. On the left this
 /// library, on the right what is found at the other place.
@@ -56,7 +57,7 @@ class ImportExportPage : public QWidget {
   DriveChoice* Drive1_;
   Gauge* SpaceFlood_;
   QLabel* Label6_;
-  QLabel* status_;
+  StatusLine* status_;
   ProgressForm* progress_;
 };
 

@@ -1,26 +1,13 @@
 #include "library/forms/LibraryCommands.h"
 
-#include <cmath>
-
 #include "library/LibraryBrowser.h"
+#include "library/TrimJob.h"
 #include "library/forms/EditPanel.h"
 #include "library/forms/ProgressForm.h"
 #include "library/forms/Text.h"
 #include "library/forms/VideosPanel.h"
 
 namespace kinalyx {
-
-namespace {
-
-/// What a video that does not tell its own rate is cut with.
-constexpr int kUsualRate = 30;
-
-int RateOf(const VideoInfo& info) {
-  if (info.rate <= 0 || info.scale <= 0) return kUsualRate;
-  return static_cast<int>(std::lround(static_cast<double>(info.rate) / static_cast<double>(info.scale)));
-}
-
-}  // namespace
 
 LibraryCommands::LibraryCommands(IHost& host, Settings& settings, LibraryOperations& operations,
                                  LibraryBrowser& browser, VideosPanel& videos, Page page, QWidget* over)
@@ -106,8 +93,7 @@ void LibraryCommands::SaveTrim() {
   const LibraryVideo video = ChosenVideo(browser_);
   const int first = videos_.Trim().FirstFrame();
   const int last = videos_.Trim().LastFrame();
-  const VideoInfo* info = videos_.VideoPlay1().Control().Info();
-  const int rate = info ? RateOf(*info) : kUsualRate;
+  const int rate = TrimRate(videos_.VideoPlay1().Control().Info());
   CloseTrim();
   DoLong("Trim Video", [&](LibraryOperations::Done done) { operations_.Trim(video, first, last, rate, std::move(done)); });
 }

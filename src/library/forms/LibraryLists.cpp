@@ -2,7 +2,7 @@
 
 #include <QKeyEvent>
 
-#include "library/LibraryReading.h"
+#include "library/LibraryHints.h"
 #include "library/forms/Text.h"
 #include "platform/files/Folders.h"
 
@@ -77,69 +77,36 @@ void LibraryLists::ShowVideos() {
   emit VideoChosen();
 }
 
-/// True when the library folder cannot be reached. One on this machine that has not been there yet comes with
-/// the first instructor.
+/// True when the library folder cannot be reached. The user's own on this machine, where it has not been there
+/// yet, comes with the first instructor.
 bool LibraryLists::LibraryGone() {
+  if (browser_.Silent()) return false;
   const std::string& root = browser_.Tree().Root();
   if (browser_.Drives().Ask(root, [root] { return dirExists(root); }).value_or(false)) {
     reached_ = root;
     return false;
   }
-  return settings_.UseNetwork || reached_ == root;
+  return settings_.UseNetwork || reached_ == root || browser_.Purpose() == LibraryBrowser::Kind::Exchange;
 }
 
-/// True while the library's drive does not answer; the lists fill by themselves when it does again.
-bool LibraryLists::LibrarySilent() {
+/// The lists fill by themselves when a library that is silent answers again.
+void LibraryLists::WatchSilence() {
   again_.Stop();
-  if (!browser_.Silent()) return false;
+  if (!browser_.Silent()) return;
   again_ = browser_.Drives().WhenAnswers(browser_.Tree().Root(), [this] {
     again_.Stop();
     browser_.TryAgain();
     ShowAll();
     emit AnswersAgain();
   });
-  return true;
 }
 
 void LibraryLists::ShowHints() {
-  const QString nouns = Q(vocabulary_.nouns());
-  const QString noun = Q(vocabulary_.noun());
+  WatchSilence();
   students_->setAccessibleName(Q(vocabulary_.Nouns()));
-  // Only the profiles page has the buttons that add somebody.
-  const bool adds = browser_.Purpose() == LibraryBrowser::Kind::Profiles;
-  if (LibrarySilent()) {
-    const QString silent = Q(SilentLibraryText(browser_.Tree().Root()) + " The lists fill as soon as it does.");
-    students_->SetHint(silent);
-    videos_->SetHint(students_->count() > 0 ? silent : QString());
-    return;
-  }
-  if (LibraryGone()) {
-    students_->SetHint(Q("The library folder " + browser_.Tree().Root() + " cannot be reached."));
-    videos_->SetHint({});
-    return;
-  }
-  if (browser_.InstructorList().size() == 1) {
-    students_->SetHint(adds ? "Add the first instructor beneath the list on the left."
-                            : QString("Add the first instructor on the page %1.").arg(Q(vocabulary_.Profiles())));
-  } else if (browser_.IsGeneralFolder()) {
-    students_->SetHint(QString("Choose an instructor to see the %1.").arg(nouns));
-  } else if (browser_.IsQuickLaunch()) {
-    students_->SetHint(QString("Quick Launch keeps videos, no %1.").arg(nouns));
-  } else {
-    students_->SetHint(adds ? QString("No %1 here yet. Add the first one beneath this list.").arg(nouns)
-                            : QString("No %1 here yet.").arg(nouns));
-  }
-
-  if (browser_.IsGeneralFolder()) {
-    videos_->SetHint("No videos lie in the library folder itself.");
-  } else if (browser_.IsQuickLaunch()) {
-    videos_->SetHint("No videos yet. Copy one here with Quick Launch +.");
-  } else if (!browser_.HasStudent()) {
-    videos_->SetHint(QString("Choose a %1 to see the videos.").arg(noun));
-  } else {
-    videos_->SetHint(
-        QString("No videos yet. Capture or import one, or copy AVI files into the folder of this %1.").arg(noun));
-  }
+  const LibraryHints hints = HintsOf(browser_, vocabulary_, LibraryGone());
+  students_->SetHint(Q(hints.students));
+  videos_->SetHint(Q(hints.videos));
 }
 
 bool LibraryLists::eventFilter(QObject* object, QEvent* event) {

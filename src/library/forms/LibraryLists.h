@@ -33,6 +33,8 @@ class LibraryLists : public QObject {
   void ShowAll();
   void ShowStudents();
   void ShowVideos();
+  /// Says in empty lists what to do.
+  void ShowHints();
 
  signals:
   /// The user has chosen a row in one of the lists; what it brings follows.
@@ -53,9 +55,8 @@ class LibraryLists : public QObject {
  private:
   bool Leave();
   void ShowCount();
-  void ShowHints();
   bool LibraryGone();
-  bool LibrarySilent();
+  void WatchSilence();
 
   LibraryBrowser& browser_;
   const Settings& settings_;

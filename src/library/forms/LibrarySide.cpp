@@ -39,7 +39,7 @@ LibrarySide::LibrarySide(DriveWatch& drives, const QString& title, const Setting
                          const std::array<const char*, 3>& names, int index, QWidget* parent)
     : Panel(QString("IETitle%1").arg(index), title, parent),
       settings_(settings),
-      browser_(drives, tree, remembered_, LibraryBrowser::Kind::OpenVideo),
+      browser_(drives, tree, remembered_, LibraryBrowser::Kind::Exchange),
       lists_(new LibraryLists(browser_, settings, this, names)) {
   studentsTitle_ = MakeLabel(QString("IEStudents%1").arg(index), {}, "caption");
   count_ = MakeLabel(QString("IECount%1").arg(index), {}, "muted");
@@ -96,7 +96,6 @@ void LibrarySide::StudentChosen() {
   const QSignalBlocker quiet(lists_->VideoList());
   lists_->VideoList()->clearSelection();
   if (browser_.HasStudent()) ChooseWhole(false);
-  ShowHints();
   ShowCount();
 }
 
@@ -110,13 +109,20 @@ void LibrarySide::ChooseWhole(bool whole) {
   whole_.clear();
   if (whole) {
     const auto all = [instructor = browser_.Instructor()](const LibraryTree& tree) { return VideosOf(tree, instructor); };
-    whole_ = AskLibrary(browser_.Drives(), browser_.Tree(), all).value_or(std::vector<LibraryVideo>());
+    auto videos = AskLibrary(browser_.Drives(), browser_.Tree(), all);
+    whole = videos.has_value();
+    whole_ = std::move(videos).value_or(std::vector<LibraryVideo>());
   }
   wholeDatabase_->setChecked(whole);
   wholeDatabase_->setEnabled(!browser_.IsGeneralFolder());
   lists_->VideoList()->setEnabled(!whole);
-  if (whole) lists_->VideoList()->clearSelection();
-  ShowHints();
+  if (whole) {
+    lists_->VideoList()->clearSelection();
+    lists_->VideoList()->SetHint(
+        QString("All videos of all %1 of this database are taken.").arg(Q(Vocabulary(settings_).nouns())));
+  } else {
+    lists_->ShowHints();
+  }
   ShowCount();
 }
 
@@ -135,21 +141,6 @@ void LibrarySide::ShowCount() {
                                                  : lists_->VideoList()->selectedItems().size();
   count_->setText(QString("%1 Videos Selected").arg(count));
   selectAll_->setEnabled(lists_->VideoList()->count() > 0);
-}
-
-void LibrarySide::ShowHints() {
-  if (browser_.Silent()) return;  // the lists say so
-  const QString nouns = Q(Vocabulary(settings_).nouns());
-  const QString noun = Q(Vocabulary(settings_).noun());
-  const bool general = browser_.IsGeneralFolder();
-  lists_->InstructorList()->SetHint({});
-  lists_->StudentList()->SetHint(general ? QString("Choose an instructor to see the %1.").arg(nouns)
-                                         : QString("No %1 here.").arg(nouns));
-  lists_->VideoList()->SetHint(wholeDatabase_->isChecked()
-                                   ? QString("All videos of all %1 of this database are taken.").arg(nouns)
-                               : general || browser_.IsQuickLaunch() || browser_.HasStudent()
-                                   ? QString("No videos here.")
-                                   : QString("Choose a %1, or take the whole database.").arg(noun));
 }
 
 }  // namespace kinalyx

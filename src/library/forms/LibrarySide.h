@@ -41,7 +41,6 @@ class LibrarySide : public Panel {
  private:
   void StudentChosen();
   void ShowCount();
-  void ShowHints();
   void SelectAll();
   void ChooseWhole(bool whole);
 

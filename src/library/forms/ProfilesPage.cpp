@@ -43,7 +43,7 @@ ProfilesPage::ProfilesPage(PlayerServices& services, Settings& settings, Profile
   grid_->setColumnStretch(2, 10);
   grid_->setRowStretch(0, 1);
 
-  status_ = new StatusLine;
+  status_ = new StatusLine("SPDisplay");
   buttons_ = new LibraryButtons(settings, *status_, this);
   instructors_ = new InstructorsPanel(lists_->InstructorList());
   students_ = new Panel("StudentsTitle", "Students");
@@ -299,11 +299,8 @@ std::vector<std::string> ProfilesPage::RealInstructors() const {
 
 void ProfilesPage::OpenEditor(bool edit) {
   if (edit) {
-    FieldTexts values = profile_.values;
-    for (std::size_t field = 0; field < values.size(); ++field)
-      if (profile_.missing[field]) values[field].clear();
     editedFolder_ = browser_.Folder();
-    editor_->OpenEdit(fields_.Captions(), values);
+    editor_->OpenEdit(fields_.Captions(), profile_.Stored());
   } else {
     editor_->OpenNew(fields_.Captions());
     editor_->SetInstructors(RealInstructors());

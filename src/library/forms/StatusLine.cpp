@@ -11,20 +11,20 @@
 
 namespace kinalyx {
 
-StatusLine::StatusLine(QWidget* parent) : QFrame(parent) {
+StatusLine::StatusLine(const QString& name, QWidget* parent) : QFrame(parent) {
   setProperty("look", "status");
   FixHeight(this, 28);
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(kGap, 0, kGap, 0);
-  SPDisplay_ = MakeLabel("SPDisplay", {}, "muted");
-  LeastWidth(SPDisplay_, 40);
-  row->addWidget(SPDisplay_);
+  words_ = MakeLabel(name, {}, "muted");
+  LeastWidth(words_, 40);
+  row->addWidget(words_);
 }
 
 void StatusLine::Say(const QString& text) {
   said_ = text;
-  SPDisplay_->setText(text);
-  SPDisplay_->repaint();  // what is told before a piece of work is seen while it goes on
+  words_->setText(text);
+  words_->repaint();  // what is told before a piece of work is seen while it goes on
 }
 
 void StatusLine::Explain(QWidget* part, std::function<QString()> words) {
@@ -42,8 +42,8 @@ bool StatusLine::ComesToPart(const QEvent& event) const {
 
 bool StatusLine::eventFilter(QObject* object, QEvent* event) {
   if (const auto part = parts_.find(object); part != parts_.end()) {
-    if (ComesToPart(*event)) SPDisplay_->setText(part->second());
-    if (event->type() == QEvent::Leave || event->type() == QEvent::FocusOut) SPDisplay_->setText(said_);
+    if (ComesToPart(*event)) words_->setText(part->second());
+    if (event->type() == QEvent::Leave || event->type() == QEvent::FocusOut) words_->setText(said_);
   }
   return QFrame::eventFilter(object, event);
 }

@@ -9,13 +9,14 @@ class QLabel;
 
 namespace kinalyx {
 
-/// The line `SPDisplay` at the foot of a page: what was last said, and, while the mouse or the keys are on a
+/// The line at the foot of a page: what was last said, and, while the mouse or the keys are on a
 /// part of the page that explains itself, what that part does.
 class StatusLine : public QFrame {
   Q_OBJECT
 
  public:
-  explicit StatusLine(QWidget* parent = nullptr);
+  /// @param name  of the label in it
+  explicit StatusLine(const QString& name, QWidget* parent = nullptr);
 
   void Say(const QString& text);
   /// Explains a part of the page.
@@ -31,7 +32,7 @@ class StatusLine : public QFrame {
  private:
   bool ComesToPart(const QEvent& event) const;
 
-  QLabel* SPDisplay_;
+  QLabel* words_;
   QString said_;
   QPoint restingMouse_{-1, -1};  ///< where the mouse was when an operation ended
   std::map<QObject*, std::function<QString()>> parts_;

@@ -1,0 +1,72 @@
+#include "library/LibraryHints.h"
+
+#include <gtest/gtest.h>
+
+#include "TempLibrary.h"
+
+namespace kinalyx::test {
+namespace {
+
+using Kind = LibraryBrowser::Kind;
+
+struct LibraryHintsTest : ::testing::Test {
+  LibraryHintsTest() { EXPECT_TRUE(SetPrimaryName(library.settings, "Golfer")); }
+
+  /// What the lists of a page say when these are chosen.
+  LibraryHints Hints(Kind kind, std::string_view instructor = {}, std::string_view student = {}, bool gone = false) {
+    LastStudentInfo remembered;
+    LibraryBrowser browser(library.host.Drives(), library.settings, remembered, kind);
+    browser.CapfolderSetup();
+    if (!instructor.empty()) EXPECT_TRUE(browser.SelectInstructor(instructor));
+    if (!student.empty()) EXPECT_TRUE(browser.SelectStudent(student));
+    return HintsOf(browser, words, gone);
+  }
+
+  TempLibrary library;
+  Vocabulary words{library.settings};
+};
+
+TEST_F(LibraryHintsTest, ANewLibraryLeadsToTheFirstStep) {
+  EXPECT_EQ(Hints(Kind::Profiles).students, "Add the first instructor beneath the list on the left.");
+  EXPECT_EQ(Hints(Kind::OpenVideo).students, "Add the first instructor on the page Golfer Profiles.");
+  EXPECT_EQ(Hints(Kind::Exchange).students, "No instructors or databases here.");
+}
+
+TEST_F(LibraryHintsTest, EachEmptyListSaysWhatFillsIt) {
+  library.Folder("Demo/Tom");
+  library.Folder("Quick Launch");
+  const struct {
+    Kind kind;
+    const char* instructor;
+    const char* student;
+    const char* students;
+    const char* videos;
+  } kCases[] = {
+      {Kind::Profiles, "", "", "Choose an instructor to see the golfers.", "No videos lie in the library folder itself."},
+      {Kind::Profiles, "Demo", "", "No golfers here yet. Add the first one beneath this list.",
+       "Choose a golfer to see the videos."},
+      {Kind::OpenVideo, "Demo", "Tom", "No golfers here yet.",
+       "No videos yet. Capture or import one, or copy AVI files into the folder of this golfer."},
+      {Kind::OpenVideo, "Quick Launch", "", "Quick Launch keeps videos, no golfers.",
+       "No videos yet. Copy one here with Quick Launch +."},
+      {Kind::Exchange, "Demo", "", "No golfers here.", "Choose a golfer, or take the whole database."},
+      {Kind::Exchange, "Demo", "Tom", "No golfers here.", "No videos here."},
+  };
+  for (const auto& one : kCases) {
+    const LibraryHints hints = Hints(one.kind, one.instructor, one.student);
+    EXPECT_EQ(hints.students, one.students);
+    EXPECT_EQ(hints.videos, one.videos);
+  }
+}
+
+TEST_F(LibraryHintsTest, ALibraryThatIsNotThereIsNotCalledEmpty) {
+  EXPECT_EQ(Hints(Kind::Profiles, "", "", true).students,
+            "The library folder " + library.Root() + " cannot be reached.");
+  library.host.drivesHang = true;
+  const LibraryHints hints = Hints(Kind::OpenVideo);
+  EXPECT_TRUE(hints.students.ends_with("is not answering. The lists fill as soon as it does."));
+  EXPECT_EQ(hints.videos, "");
+}
+
+}  // namespace
+}  // namespace kinalyx::test
