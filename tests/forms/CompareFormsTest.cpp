@@ -213,9 +213,12 @@ TEST_F(CompareFormsTest, CarveIsMarkedDraggedAndScaled) {
 }
 
 TEST_F(CompareFormsTest, StripAndZoomButtonsReachTheirModes) {
+  modes_.TZP_Click();
   modes_.Strip().smbar_Click();
   Settle();
   ASSERT_TRUE(Seen("MFPanel"));
+  EXPECT_FALSE(Find<QWidget>("ZoomForm")->geometry().intersects(Find<QWidget>("MultiPicturePanel")->geometry()));
+  modes_.TZP_Click();
   Find<QComboBox>("SkipBox")->setCurrentText("2");
   EXPECT_EQ(modes_.Strip().Skip(), 2);
   Click("MPicBtn0");

@@ -225,7 +225,15 @@ void CompareForms::SetVideoButtons(int window, bool playing, bool looping, bool 
 void CompareForms::ShowMultiPicture(bool shown) {
   if (!stage_) return;
   strip_->setVisible(shown);
-  if (shown) strip_->raise();
+  if (!shown) return;
+  strip_->raise();
+  // Its buttons stay in reach, and the cards in sight.
+  for (FloatCard* card : stage_->findChildren<FloatCard*>(Qt::FindDirectChildrenOnly)) {
+    card->raise();
+    if (card->isHidden() || !card->geometry().intersects(strip_->geometry())) continue;
+    card->move(card->x(), strip_->geometry().bottom() + kEdge);
+    card->KeepInside();
+  }
 }
 
 int CompareForms::StripWidth() { return stage_ ? MultiPicturePanel::StripWidth(stage_->width()) : 0; }
