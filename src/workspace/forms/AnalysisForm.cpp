@@ -37,6 +37,7 @@ constexpr int kOpenPanelWidth = 290;    // as designed, beside the stage of a la
 constexpr int kOpenPanelNarrow = 264;   // and of a small one
 constexpr int kOpenPanelWidest = 360;
 constexpr int kDesignedWidth = 1280;
+constexpr double kOpenPanelShare = 0.65;  // of the stage, where the panel stands over it
 
 QString Text(const std::string& text) { return QString::fromStdString(text); }
 
@@ -343,7 +344,7 @@ void AnalysisForm::PlaceOpenPanel() {
   FitOpenPanel();
   if (!openPanel_ || openPanel_->isHidden() || openPanel_->parentWidget() != stage_) return;
   const QSize room = stage_->size() - QSize(2 * kEdge, 2 * kEdge);
-  openPanel_->resize(openPanel_->sizeHint().boundedTo(room).expandedTo(openPanel_->minimumSize()));
+  openPanel_->resize((room * kOpenPanelShare).expandedTo(openPanel_->sizeHint()).boundedTo(room).expandedTo(openPanel_->minimumSize()));
   openPanel_->move(stage_->rect().center() - openPanel_->rect().center());
 }
 

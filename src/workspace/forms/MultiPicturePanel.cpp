@@ -86,7 +86,7 @@ MultiPicturePanel::MultiPicturePanel(MultiPicture& strip, std::function<void()> 
   FixWidth(controls, kControls);
   auto* column = new QVBoxLayout(controls);
   column->setContentsMargins(0, 0, 0, 0);
-  column->setSpacing(3);
+  column->setSpacing(4);
   auto* skip = new QHBoxLayout;
   skip->addWidget(MakeLabel("SkipLabel", tr("Sequence of Frames every"), nullptr, controls), 1);
   SkipBox_ = new QComboBox(controls);
