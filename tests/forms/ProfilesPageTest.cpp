@@ -236,6 +236,7 @@ TEST_F(ProfilesPageTest, AProfileIsEdited) {
   page->SetupFields();
   EXPECT_NE(Text("ProInfoLbl6"), "");  // the path of the file, until saved again
   Press("ProBtn1");
+  EXPECT_EQ(page->focusWidget(), Find<QLineEdit>("ProInfoBox1"));  // the name stays
   EXPECT_EQ(Find<QLineEdit>("ProInfoBox6")->text(), "");
   Find<QLineEdit>("ProInfoBox6")->setText("12");
   Press("ProAddSaveBtn");

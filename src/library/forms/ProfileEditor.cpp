@@ -91,7 +91,6 @@ void ProfileEditor::OpenEdit(const FieldTexts& captions, const FieldTexts& value
   Fill(captions, values);
   instructorPart_->hide();
   boxes_->Box(kNameField).setReadOnly(true);
-  boxes_->Box(kNameField + 1).setFocus();
 }
 
 FieldTexts ProfileEditor::Values() const { return boxes_->Texts(); }
@@ -105,7 +104,7 @@ void ProfileEditor::SetInstructors(const std::vector<std::string>& names) {
 
 void ProfileEditor::SetInstructor(const std::string& name) { instructors_->setCurrentIndex(instructors_->findText(Q(name))); }
 
-void ProfileEditor::FocusName() { boxes_->Box(kNameField).setFocus(); }
+void ProfileEditor::FocusFirst() { boxes_->Box(new_ ? kNameField : kNameField + 1).setFocus(); }
 
 void ProfileEditor::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Escape) {

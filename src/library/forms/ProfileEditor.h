@@ -33,7 +33,8 @@ class ProfileEditor : public Panel {
   std::string Instructor() const;
   void SetInstructors(const std::vector<std::string>& names);
   void SetInstructor(const std::string& name);
-  void FocusName();
+  /// Goes to the first box that can be changed; for an editor that is shown.
+  void FocusFirst();
 
  signals:
   void SaveWanted();

@@ -212,7 +212,7 @@ void ProfilesPage::InstructorChosen() {
   instructors_->SetChangeable(!browser_.IsGeneralFolder() && !browser_.IsQuickLaunch() && editor_->isHidden());
   if (editor_->isHidden()) return;
   editor_->SetInstructor(browser_.IsGeneralFolder() ? std::string() : browser_.Instructor());
-  editor_->FocusName();
+  editor_->FocusFirst();
 }
 
 void ProfilesPage::StudentList_Click() {
@@ -316,7 +316,7 @@ void ProfilesPage::OpenEditor(bool edit) {
     part->hide();
   grid_->addWidget(editor_, 0, 1, 2, 2);
   editor_->show();
-  if (!edit) editor_->FocusName();
+  editor_->FocusFirst();
   Say({});
 }
 
