@@ -9,6 +9,7 @@
 #include "library/LibraryBrowser.h"
 #include "library/LibraryReading.h"
 #include "library/RunOperation.h"
+#include "library/StudentJobs.h"
 #include "platform/files/Folders.h"
 #include "platform/files/IniFile.h"
 #include "platform/files/PartFiles.h"

@@ -10,7 +10,6 @@
 #include "library/JobRunner.h"
 #include "library/LibraryTree.h"
 #include "library/Profile.h"
-#include "library/VideoTransfer.h"
 #include "platform/files/FileCopy.h"
 #include "platform/host/Host.h"
 

@@ -14,7 +14,7 @@ namespace {
 /// True when a student's folder has gone although the folder above it is there. When both are gone, a drive
 /// has been taken away.
 bool HasGone(const std::string& folder) {
-  return !dirExists(folder) && dirExists(folder.substr(0, folder.rfind('/')));
+  return !dirExists(folder) && dirExists(FolderOf(folder));
 }
 
 }  // namespace

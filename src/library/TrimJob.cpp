@@ -25,7 +25,7 @@ int TrimRate(const VideoInfo* info) {
 
 bool TrimJob::Step() {
   if (!process_) {
-    RemoveDeadParts(request_.destination.substr(0, request_.destination.rfind('/')));
+    RemoveDeadParts(FolderOf(request_.destination));
     process_ = ChildProcess::Start(program_, {FormatTrimCommand(request_)}, &error_);
     return process_ != nullptr;
   }

@@ -11,6 +11,7 @@
 #include "library/RunOperation.h"
 #include "library/Sidecar.h"
 #include "library/TrimJob.h"
+#include "library/VideoTransfer.h"
 #include "platform/files/Folders.h"
 
 namespace kinalyx {
@@ -21,15 +22,9 @@ using OnClash = VideoTransferJob::OnClash;
 
 std::string NameOf(const LibraryVideo& video) { return VideoName(LastName(video.path)); }
 
-/// The folder of a `LibraryVideo` or a `VideoTransfer`.
-template <typename Video>
-std::string FolderOf(const Video& video) {
-  return video.path.substr(0, video.path.rfind('/'));
-}
-
 /// Removes a video, then its sidecar unless another video needs it; false when the video stays.
 bool RemoveVideo(const std::string& path, ICopyDisk& disk) {
-  const std::string sidecar = SharesSidecar(path) ? std::string() : SidecarOf(path);
+  const std::string sidecar = SharesSidecar(path) ? std::string() : ExistingSidecar(path);
   if (!RemoveTree(path, nullptr, disk)) return false;
   // An old sidecar does no harm: it makes way for the next video of its name.
   if (!sidecar.empty()) RemoveTree(sidecar, nullptr, disk);
@@ -67,13 +62,13 @@ OperationResult LibraryOperations::RenameVideo(const LibraryVideo& video, std::s
   if (const std::string refusal = GuardVideo(video); !refusal.empty()) return Report(refusal);
   if (!IsValidName(name)) return Refuse("Invalid character in " + words_.noun() + " name.");
   if (IsBlank(name)) return Refuse("You must type a name!");
-  const std::string folder = FolderOf(video);
+  const std::string folder = FolderOf(video.path);
   const std::string to = JoinPath(folder, std::string(name) + video.path.substr(video.path.size() - 4));
   const std::string taken = "The video name you have chosen already exists, please try again.";
   const std::vector<std::string> files = ListFiles(folder, ".avi");
   if (std::ranges::any_of(files, [&](const std::string& file) { return VideoName(file) == name; })) return Refuse(taken);
 
-  const std::string sidecar = SidecarOf(video.path);
+  const std::string sidecar = ExistingSidecar(video.path);
   const std::string newSidecar = SidecarPath(to);
   // Where only the case of a name changes, the disk may take the old sidecar for the new one.
   if (!SetAsideOrphan(folder, name, disk_) && !SamePlace(sidecar, newSidecar)) return Refuse(taken);
@@ -114,7 +109,7 @@ void LibraryOperations::MoveVideo(const LibraryVideo& video, const std::string& 
   if (targetInstructor.empty() || targetStudent.empty() || targetInstructor == kGeneralFolder)
     return done(Refuse("You must select a Database and " + words_.noun() + " for the video."));
   const std::string folder = tree_.StudentFolder(targetInstructor, targetStudent);
-  if (SamePlace(folder, FolderOf(video)))
+  if (SamePlace(folder, FolderOf(video.path)))
     return done(Refuse("The source and destination folders are the same. The video was not moved."));
   const std::string name = NameOf(video);
   const std::string taken = "A video with the name \"" + name + "\" already exists in the folder named " + targetStudent +
@@ -257,11 +252,11 @@ void LibraryOperations::Transfer(Direction direction, const std::vector<LibraryV
     if (inFolder) folder = JoinPath(folder, video.instructor);
     const bool hasStudent = inFolder && !video.student.empty();
     if (hasStudent) folder = JoinPath(folder, video.student);
-    transfers.push_back({video.path, folder, hasStudent ? FolderOf(video) : std::string()});
+    transfers.push_back({video.path, folder, hasStudent ? FolderOf(video.path) : std::string()});
   }
   const bool out = direction == Direction::Export;
-  const auto toItself = host_.Drives().Ask(out ? tree_.Root() : FolderOf(videos.front()), [transfers] {
-    return std::ranges::any_of(transfers, [](const VideoTransfer& one) { return SamePlace(one.folder, FolderOf(one)); });
+  const auto toItself = host_.Drives().Ask(out ? tree_.Root() : FolderOf(videos.front().path), [transfers] {
+    return std::ranges::any_of(transfers, [](const VideoTransfer& one) { return SamePlace(one.folder, FolderOf(one.path)); });
   });
   if (!toItself) return done(Refuse("The drive with the videos is not answering. No videos were copied."));
   if (*toItself) return done(Refuse("The source and destination folders are the same. No videos were copied."));

@@ -14,23 +14,12 @@ namespace kinalyx {
 
 namespace {
 
-std::string FolderOf(const std::string& path) {
-  const std::size_t slash = path.rfind('/');
-  return slash == std::string::npos ? std::string() : path.substr(0, slash);
-}
-
 std::string Extension(const std::string& videoPath) { return videoPath.substr(videoPath.size() - 4); }
 
 /// The name of what stands on the way to a folder and is none; "" when the way is free.
 std::string InTheWay(std::string folder) {
-  while (!folder.empty() && !EntryExists(folder)) folder = FolderOf(folder);
-  return folder.empty() || dirExists(folder) ? std::string() : LastName(folder);
-}
-
-JobProgress ProgressOf(const CopyProgress& copy) {
-  JobProgress progress{copy.unitsDone, copy.unitsTotal, 0, copy.current};
-  if (copy.bytesTotal > 0) progress.part = static_cast<double>(copy.bytesDone) / static_cast<double>(copy.bytesTotal);
-  return progress;
+  while (!EntryExists(folder) && folder != "." && folder != "/") folder = FolderOf(folder);
+  return dirExists(folder) ? std::string() : LastName(folder);
 }
 
 }  // namespace
@@ -42,7 +31,7 @@ bool HasVideoNamed(const std::string& folder, std::string_view name) {
   return std::ranges::any_of(ListFiles(folder, ".avi"), [&](const std::string& file) { return VideoName(file) == name; });
 }
 
-std::string SidecarOf(const std::string& videoPath) {
+std::string ExistingSidecar(const std::string& videoPath) {
   const std::string sidecar = SidecarPath(videoPath);
   return FileExists(sidecar) ? sidecar : std::string();
 }
@@ -62,7 +51,7 @@ bool SetAsideOrphan(const std::string& folder, std::string_view name, ICopyDisk&
 CopyUnit VideoUnit(const std::string& videoPath, const std::string& folder, std::string_view name) {
   CopyUnit unit;
   // First the sidecar: a video never stands anywhere without its drawings.
-  const std::string sidecar = SidecarOf(videoPath);
+  const std::string sidecar = ExistingSidecar(videoPath);
   if (!sidecar.empty())
     unit.push_back({sidecar, JoinPath(folder, std::string(name) + ".ved"), SharesSidecar(videoPath)});
   unit.push_back({videoPath, JoinPath(folder, std::string(name) + Extension(videoPath))});
@@ -119,7 +108,7 @@ bool VideoTransferJob::Begin() {
   std::int64_t free = -1;
   for (const VideoTransfer& video : videos_) {
     const auto size = FileSize(video.path);
-    const std::string sidecar = SidecarOf(video.path);
+    const std::string sidecar = ExistingSidecar(video.path);
     bytesTotal_ += size.value_or(0) + (sidecar.empty() ? 0 : FileSize(sidecar).value_or(0));
   }
   if (!videos_.empty()) free = FreeBytes(videos_.front().folder);
@@ -179,34 +168,5 @@ JobProgress VideoTransferJob::Progress() const {
   if (bytesTotal_ > 0) progress.part = std::min(1.0, static_cast<double>(bytes) / static_cast<double>(bytesTotal_));
   return progress;
 }
-
-// ---------------------------------------------------------------- whole students
-
-StudentMoveJob::StudentMoveJob(const std::string& from, const std::string& to, ICopyDisk& disk)
-    : target_(FolderOf(to)), disk_(disk), copy_(CopyJob::Kind::Move, {{{from, to}}}, disk) {}
-
-bool StudentMoveJob::Step() {
-  if (!std::exchange(begun_, true)) RemoveDeadParts(target_, kDeadPartSeconds, disk_);
-  return copy_.Step() == CopyJob::State::Running;
-}
-
-JobProgress StudentMoveJob::Progress() const { return ProgressOf(copy_.Progress()); }
-
-bool StudentRemovalJob::Step() {
-  if (hidden_.empty()) {
-    RemoveDeadParts(FolderOf(folder_), kDeadPartSeconds, disk_);
-    hidden_ = PartNameBeside(folder_);
-    return RenameEntry(folder_, hidden_, &error_, disk_);
-  }
-  removed_ = RemoveTree(hidden_, &error_, disk_);
-  if (!removed_) RenameEntry(hidden_, folder_, nullptr, disk_);
-  return false;
-}
-
-void StudentRemovalJob::Cancel() {
-  while (!hidden_.empty() && !removed_ && error_.empty()) Step();
-}
-
-JobProgress StudentRemovalJob::Progress() const { return {removed_ ? 1 : 0, 1, removed_ ? 1.0 : 0.0, LastName(folder_)}; }
 
 }  // namespace kinalyx

@@ -17,7 +17,7 @@ namespace kinalyx {
 /// or when the disk takes the name for one that is there.
 bool HasVideoNamed(const std::string& folder, std::string_view name);
 /// The sidecar of a video when it has one, else "".
-std::string SidecarOf(const std::string& videoPath);
+std::string ExistingSidecar(const std::string& videoPath);
 /// True when the sidecar belongs to a second video as well, whose name differs in the case of its
 /// extension alone.
 bool SharesSidecar(const std::string& videoPath);
@@ -84,44 +84,6 @@ class VideoTransferJob final : public IJob {
   bool nameTaken_ = false;
   int videosDone_ = 0;
   int filesDone_ = 0;
-  std::string error_;
-};
-
-// --- whole students
-
-/// Moves a student's folder.
-class StudentMoveJob final : public IJob {
- public:
-  StudentMoveJob(const std::string& from, const std::string& to, ICopyDisk& disk);
-  bool Step() override;
-  void Cancel() override { copy_.Cancel(); }
-  JobProgress Progress() const override;
-  const CopyJob& Copy() const { return copy_; }
-
- private:
-  std::string target_;
-  ICopyDisk& disk_;
-  bool begun_ = false;
-  CopyJob copy_;
-};
-
-/// Removes a student's folder. First it is hidden under another name, so that no half of a student is
-/// ever shown; what cannot be removed appears again. A cancel comes too late once that has happened. What
-/// a killed removal leaves hidden goes with the dead parts of copies.
-class StudentRemovalJob final : public IJob {
- public:
-  StudentRemovalJob(std::string folder, ICopyDisk& disk) : folder_(std::move(folder)), disk_(disk) {}
-  bool Step() override;
-  void Cancel() override;
-  JobProgress Progress() const override;
-  bool Removed() const { return removed_; }
-  const std::string& Error() const { return error_; }
-
- private:
-  std::string folder_;
-  ICopyDisk& disk_;
-  std::string hidden_;
-  bool removed_ = false;
   std::string error_;
 };
 

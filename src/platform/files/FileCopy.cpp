@@ -90,12 +90,6 @@ class SystemCopyDisk final : public ICopyDisk {
   int RemoveFolder(const std::string& path) override { return ::rmdir(path.c_str()); }
 };
 
-std::string FolderOf(const std::string& path) {
-  const std::size_t slash = path.rfind('/');
-  if (slash == std::string::npos) return ".";
-  return slash == 0 ? "/" : path.substr(0, slash);
-}
-
 bool SameEntry(const struct stat& a, const struct stat& b) { return a.st_dev == b.st_dev && a.st_ino == b.st_ino; }
 
 std::string LinkTarget(const std::string& path) {

@@ -222,4 +222,10 @@ std::string LastName(std::string_view path) {
   return std::string(slash == std::string_view::npos || path.size() == 1 ? path : path.substr(slash + 1));
 }
 
+std::string FolderOf(std::string_view path) {
+  const std::size_t slash = path.rfind('/');
+  if (slash == std::string_view::npos) return ".";
+  return std::string(slash == 0 ? "/" : path.substr(0, slash));
+}
+
 }  // namespace kinalyx

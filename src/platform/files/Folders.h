@@ -45,5 +45,7 @@ std::vector<std::string> ListFiles(const std::string& folder, std::string_view e
 std::string JoinPath(std::string_view folder, std::string_view name);
 /// The last name of a path.
 std::string LastName(std::string_view path);
+/// What stands before it: the folder in which it lies, "." for a bare name.
+std::string FolderOf(std::string_view path);
 
 }  // namespace kinalyx

@@ -68,9 +68,7 @@ std::string PartNameBeside(const std::string& path) {
   static thread_local std::mt19937_64 dice{std::random_device{}()};
   std::array<char, 24> number{};
   std::snprintf(number.data(), number.size(), ".%016llx", static_cast<unsigned long long>(dice()));
-  const std::size_t slash = path.rfind('/');
-  const std::string folder = slash == std::string::npos ? "." : path.substr(0, slash + 1);
-  return JoinPath(folder, "." + std::string(CutUtf8(LastName(path), 200)) + number.data() + std::string(kEnding));
+  return JoinPath(FolderOf(path), "." + std::string(CutUtf8(LastName(path), 200)) + number.data() + std::string(kEnding));
 }
 
 void RemoveDeadParts(const std::string& folder, int idleSeconds, ICopyDisk& disk) {

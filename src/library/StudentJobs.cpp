@@ -1,0 +1,42 @@
+#include "library/StudentJobs.h"
+
+#include <utility>
+
+#include "platform/files/Folders.h"
+#include "platform/files/PartFiles.h"
+
+namespace kinalyx {
+
+StudentMoveJob::StudentMoveJob(const std::string& from, const std::string& to, ICopyDisk& disk)
+    : target_(FolderOf(to)), disk_(disk), copy_(CopyJob::Kind::Move, {{{from, to}}}, disk) {}
+
+bool StudentMoveJob::Step() {
+  if (!std::exchange(begun_, true)) RemoveDeadParts(target_, kDeadPartSeconds, disk_);
+  return copy_.Step() == CopyJob::State::Running;
+}
+
+JobProgress StudentMoveJob::Progress() const {
+  const CopyProgress& copy = copy_.Progress();
+  JobProgress progress{copy.unitsDone, copy.unitsTotal, 0, copy.current};
+  if (copy.bytesTotal > 0) progress.part = static_cast<double>(copy.bytesDone) / static_cast<double>(copy.bytesTotal);
+  return progress;
+}
+
+bool StudentRemovalJob::Step() {
+  if (hidden_.empty()) {
+    RemoveDeadParts(FolderOf(folder_), kDeadPartSeconds, disk_);
+    hidden_ = PartNameBeside(folder_);
+    return RenameEntry(folder_, hidden_, &error_, disk_);
+  }
+  removed_ = RemoveTree(hidden_, &error_, disk_);
+  if (!removed_) RenameEntry(hidden_, folder_, nullptr, disk_);
+  return false;
+}
+
+void StudentRemovalJob::Cancel() {
+  while (!hidden_.empty() && !removed_ && error_.empty()) Step();
+}
+
+JobProgress StudentRemovalJob::Progress() const { return {removed_ ? 1 : 0, 1, removed_ ? 1.0 : 0.0, LastName(folder_)}; }
+
+}  // namespace kinalyx

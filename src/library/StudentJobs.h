@@ -1,0 +1,47 @@
+#pragma once
+
+#include <string>
+#include <utility>
+
+#include "library/JobRunner.h"
+#include "platform/files/FileCopy.h"
+
+namespace kinalyx {
+
+/// Moves a student's folder.
+class StudentMoveJob final : public IJob {
+ public:
+  StudentMoveJob(const std::string& from, const std::string& to, ICopyDisk& disk);
+  bool Step() override;
+  void Cancel() override { copy_.Cancel(); }
+  JobProgress Progress() const override;
+  const CopyJob& Copy() const { return copy_; }
+
+ private:
+  std::string target_;
+  ICopyDisk& disk_;
+  bool begun_ = false;
+  CopyJob copy_;
+};
+
+/// Removes a student's folder. First it is hidden under another name, so that no half of a student is
+/// ever shown; what cannot be removed appears again. A cancel comes too late once that has happened. What
+/// a killed removal leaves hidden goes with the dead parts of copies.
+class StudentRemovalJob final : public IJob {
+ public:
+  StudentRemovalJob(std::string folder, ICopyDisk& disk) : folder_(std::move(folder)), disk_(disk) {}
+  bool Step() override;
+  void Cancel() override;
+  JobProgress Progress() const override;
+  bool Removed() const { return removed_; }
+  const std::string& Error() const { return error_; }
+
+ private:
+  std::string folder_;
+  ICopyDisk& disk_;
+  std::string hidden_;
+  bool removed_ = false;
+  std::string error_;
+};
+
+}  // namespace kinalyx
