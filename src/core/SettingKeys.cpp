@@ -85,6 +85,7 @@ std::vector<Settings::Key> Settings::ConfigKeys() {
   section = "Ruler";
   add("CalibNumber", "0", &CalibNumber);
   add("CalibNumberOut", "0", &CalibNumberOut);
+  add("CalibWidth", "0", &CalibWidth);
   add("CalibInput", "1", &CalibInput);
   add("CalibOutput", "1", &CalibOutput);
   add("NTSCorPAL", "0", &NTSCorPAL);

@@ -378,7 +378,10 @@ void DrawingTools::TellFailure(int window, const Shape* failed) {
 }
 
 Calibration DrawingTools::CurrentCalibration() const {
-  return {settings_.CalibNumber, settings_.CalibNumberOut, settings_.CalibOutput, settings_.NTSCorPAL != "0"};
+  const int width = MeasuredWidth();
+  const double grown = settings_.CalibWidth > 0 && width > 0 ? static_cast<double>(width) / settings_.CalibWidth : 1;
+  return {settings_.CalibNumber, static_cast<float>(settings_.CalibNumberOut * grown), settings_.CalibOutput,
+          settings_.NTSCorPAL != "0"};
 }
 
 void DrawingTools::SetShapeCaption() {

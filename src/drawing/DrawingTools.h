@@ -51,13 +51,10 @@ class DrawingTools final : public IShapeLocked {
 
   // --- state
   bool Drawing() const { return Drawing_; }
-  bool NewShapePending() const { return NewShapePending_; }
   int DrawKind() const { return DrawKind_; }
   int DrawWindow() const { return DrawWindow_; }
-  int RandomColorIndex() const { return RandomColorIndex_; }
   bool HasShapes(int window) const;
-  /// A measure stays on the display although the tool has ended.
-  bool CaptionKept() const { return CaptionKept_; }
+  /// The measure of a shape does not outlive what comes now.
   void ClearCaptionKept() { CaptionKept_ = false; }
 
   // --- commands
@@ -100,7 +97,11 @@ class DrawingTools final : public IShapeLocked {
   void SetDrawWindow(int window) { DrawWindow_ = window; }
   /// Shows what the selected shape measures.
   void SetShapeCaption();
+  /// The ruler for the picture that is measured in, at its present size: a picture that is shown twice as
+  /// large as the one that was calibrated has twice as many pixels to an inch.
   Calibration CurrentCalibration() const;
+  /// Pixels of the width of the picture that is measured in.
+  int MeasuredWidth() const { return workspace_.PictureWidth(DrawWindow_); }
 
   // --- the past of a window's drawings
   /// Whoever changes a list by other roads than this class says so before and after. A list that was
@@ -159,12 +160,12 @@ class DrawingTools final : public IShapeLocked {
   std::vector<Colour> colours_;
 
   bool Drawing_ = false;
-  bool NewShapePending_ = false;
+  bool NewShapePending_ = false;  ///< the next press of the mouse begins a shape
   int DrawKind_ = 0;
   int DrawWindow_ = 1;
   int RandomColorIndex_ = 0;
   POINTAPI LastDown_;
-  bool CaptionKept_ = false;
+  bool CaptionKept_ = false;  ///< a measure stays on the display although the tool has ended
 };
 
 }  // namespace kinalyx

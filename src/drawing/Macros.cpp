@@ -40,8 +40,6 @@ void Macros::LoadMList(ScreenTwips screen) {
   names_.resize(lists_.size());
 }
 
-bool Macros::SaveMList(std::string* error) { return Store(lists_, names_, error); }
-
 bool Macros::CreateMacro(const std::string& Name, const ShapeList& list, std::string* error) {
   if (Name.empty()) return Refuse(error, "The macro needs a name.");
   if (NumMacros() == kMostShapeLists) return Refuse(error, fmt::format("There can be no more than {} macros.", kMostShapeLists));
@@ -51,7 +49,7 @@ bool Macros::CreateMacro(const std::string& Name, const ShapeList& list, std::st
   lists.back().Adding = false;
   lists.back().CurShape = -1;
   names.push_back(Name);
-  return Store(std::move(lists), std::move(names), error);
+  return SaveMList(std::move(lists), std::move(names), error);
 }
 
 bool Macros::KillMacro(int Index, std::string* error) {
@@ -60,11 +58,10 @@ bool Macros::KillMacro(int Index, std::string* error) {
   auto names = names_;
   lists.erase(lists.begin() + Index);
   names.erase(names.begin() + Index);
-  return Store(std::move(lists), std::move(names), error);
+  return SaveMList(std::move(lists), std::move(names), error);
 }
 
-/// Takes the new state only when it is on the disk.
-bool Macros::Store(std::vector<ShapeList> lists, std::vector<std::string> names, std::string* error) {
+bool Macros::SaveMList(std::vector<ShapeList> lists, std::vector<std::string> names, std::string* error) {
   if (cutShort_) {
     const std::string path = FileExists(DataFile()) ? DataFile() : AppFile();
     const auto old = ReadWholeFile(path);

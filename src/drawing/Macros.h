@@ -24,9 +24,6 @@ class Macros {
 
   /// Reads the file, once; a missing one means no macros.
   void LoadMList(ScreenTwips screen);
-  /// Stores all macros; without any the file goes. On failure `error` says why, and the old file stands.
-  /// A file that was too long to be read whole is kept beside as "Macro.old" before it is replaced.
-  bool SaveMList(std::string* error = nullptr);
 
   /// Keeps a copy of a window's drawings. Refused, with `error` for the user, without a name, beyond 256
   /// macros, when the file would become too long to be read whole, and when the disk refuses.
@@ -42,7 +39,10 @@ class Macros {
  private:
   std::string AppFile() const;
   std::string DataFile() const;
-  bool Store(std::vector<ShapeList> lists, std::vector<std::string> names, std::string* error);
+  /// Stores these as all macros; without any the file goes. On failure `error` says why, and the old file
+  /// and the old macros stand. A file that was too long to be read whole is kept beside as "Macro.old"
+  /// before it is replaced.
+  bool SaveMList(std::vector<ShapeList> lists, std::vector<std::string> names, std::string* error);
   bool RemoveFiles(std::string* error);
 
   std::string appPath_;

@@ -13,7 +13,7 @@ enum LengthUnit { kInches, kFeet, kCentimetres, kMetres };
 /// How pixels become lengths; the settings of the section "Ruler".
 struct Calibration {
   int CalibNumber = 0;       ///< the measured length in pixels; 0: not calibrated
-  float CalibNumberOut = 0;  ///< pixels per inch
+  float CalibNumberOut = 0;  ///< pixels per inch, in the picture as it is shown
   int CalibOutput = kFeet;   ///< unit of the display
   bool pal = false;          ///< 50 fields a second instead of 60
 };

@@ -96,8 +96,7 @@ POINTAPI ShapeEngine::ConstrainPoint(POINTAPI Point) {
   }
   const auto dx = std::llabs(std::int64_t{StraightAnchor.x} - Point.x);
   const auto dy = std::llabs(std::int64_t{StraightAnchor.y} - Point.y);
-  StraightVertical = dx <= dy;
-  return StraightVertical ? POINTAPI{StraightAnchor.x, Point.y} : POINTAPI{Point.x, StraightAnchor.y};
+  return dx <= dy ? POINTAPI{StraightAnchor.x, Point.y} : POINTAPI{Point.x, StraightAnchor.y};
 }
 
 }  // namespace kinalyx

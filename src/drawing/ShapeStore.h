@@ -11,7 +11,6 @@ namespace kinalyx {
 std::string GetShapeName(int Kind, const ShapeRules& rules = {});
 /// True for a kind with an open list of points.
 bool LOPShape(int Kind, const ShapeRules& rules = {});
-constexpr POINTAPI MakePoint(std::int32_t x, std::int32_t y) { return {x, y}; }
 /// Removes one shape; the last that goes leaves its stale slot in the array. NumShapes falls by one also
 /// for an index beyond the end; an empty list stays as it is. CurShape is left to the caller.
 void KillShape(ShapeList& List, int Index, const ShapeRules& rules = {});
@@ -36,7 +35,6 @@ class ShapeEngine {
     std::int32_t y = 0;
     bool Set = false;
   } StraightAnchor;
-  bool StraightVertical = false;  ///< the last decision of ConstrainPoint
   bool EllipseFromCentre = false;
   Colour CadColor = 0;         ///< the current vector colour
   bool PathHighlight = false;  ///< set by the first finished path that is painted

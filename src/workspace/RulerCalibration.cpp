@@ -36,7 +36,10 @@ void RulerCalibration::CalibBtn_Click(int Index, double typed, LengthUnit input,
   if (Index == 0) {
     const auto pixels = ReadInt32(Label4_);
     settings_.Set(settings_.CalibNumber, pixels);
-    if (const auto scale = PixelsPerInch(pixels, typed, input)) settings_.Set(settings_.CalibNumberOut, *scale);
+    if (const auto scale = PixelsPerInch(pixels, typed, input)) {
+      settings_.Set(settings_.CalibNumberOut, *scale);
+      settings_.Set(settings_.CalibWidth, tools_.MeasuredWidth());
+    }
     settings_.Set(settings_.CalibInput, input);
     settings_.Set(settings_.CalibOutput, output);
   }

@@ -422,6 +422,18 @@ TEST(RulerCalibrationTest, TurnsPixelsIntoLengths) {
   stage.Drag(1, 100, 150, 220, 150);
   EXPECT_NE(stage.window.text.find("25.4cm"), std::string::npos) << stage.window.text;
 
+  // In another layout the picture has another size; what is seen in it has not.
+  const int whole = stage.MP(1).ControlWidthPixels();
+  stage.Slots().SetScreen(4);
+  const int part = stage.MP(1).ControlWidthPixels();
+  ASSERT_NE(part, whole);
+  stage.Commands().Run("MenuDraw3");
+  stage.Drag(1, 10, 100, 10 + part / 2, 100);
+  const double length = std::stod(stage.window.text.substr(stage.window.text.find("H-V") + 3));
+  EXPECT_NEAR(length, whole / 2.0 / 12 * 2.54, 1) << stage.window.text;
+  stage.Commands().Run("Lastcadoff");
+  stage.Slots().SetScreen(1);
+
   // Cancelled in the middle of its line: only that line goes, and the numbers stay.
   stage.Commands().Run("TCal");
   stage.Press(1, 20, 20);
