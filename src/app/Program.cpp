@@ -24,7 +24,7 @@
 namespace kinalyx {
 namespace {
 
-constexpr int kTwipsOfPixel = 15;
+constexpr QSize kLeastMain(1000, 680);
 /// A window that keeps its size for so long has got where it is dragged to.
 constexpr int kSettledMs = 150;
 /// Sections whose subsystems are not built yet.
@@ -162,7 +162,9 @@ void Program::PlaceMain() {
   const WindowPlace place = PlaceOfMain();
   const QSize size(place.width / kTwipsOfPixel, place.height / kTwipsOfPixel);
   main_->SetFullScreen(place.fullScreen);
-  main_->setMinimumSize(QSize(1000, 680).boundedTo(size));
+  // Less has no room for the pages, also where the mode asks for it.
+  const QScreen* screen = main_->screen();
+  main_->setMinimumSize(screen ? kLeastMain.boundedTo(screen->size()) : kLeastMain);
   if (place.fullScreen) {
     main_->setGeometry(QRect(QPoint(), size));
     main_->showFullScreen();
