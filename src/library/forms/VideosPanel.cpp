@@ -10,32 +10,13 @@
 #include "library/LibraryActions.h"
 #include "library/LibraryReading.h"
 #include "library/forms/EditPanel.h"
+#include "library/forms/SidecarMarkLabels.h"
 #include "library/forms/Text.h"
 #include "platform/widgets/Figures.h"
 #include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
-
-// ---------------------------------------------------------------- marks
-
-SidecarMarkLabels::SidecarMarkLabels(QWidget* parent) : QWidget(parent) {
-  auto* row = new QHBoxLayout(this);
-  row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(8);
-  const char* const kCaptions[] = {"Drawings", "Notes"};
-  const char* const kTips[] = {"Lit when there are drawings on the video", "Lit when there are notes on the video"};
-  for (std::size_t mark = 0; mark < marks_.size(); ++mark) {
-    marks_[mark] = MakeLabel(QString("VidInfoPanel%1").arg(mark), kCaptions[mark], "markOff");
-    marks_[mark]->setToolTip(kTips[mark]);
-    row->addWidget(marks_[mark]);
-  }
-}
-
-void SidecarMarkLabels::Show(const SidecarMarks& marks) {
-  SetLook(marks_[0], marks.HasDrawings() ? "mark" : "markOff");
-  SetLook(marks_[1], marks.HasNotes() ? "mark" : "markOff");
-}
 
 // ---------------------------------------------------------------- summary
 

@@ -2,29 +2,17 @@
 
 #include <array>
 
-#include "library/Sidecar.h"
 #include "library/VideoStats.h"
 #include "library/forms/PreviewPlayer.h"
 #include "platform/widgets/NameList.h"
 #include "platform/widgets/Panel.h"
-
-class QLabel;
 
 namespace kinalyx {
 
 class EditPanel;
 class FigureLabel;
 class Settings;
-
-/// A mark that is lit when the selected video has drawings (`VidInfoPanel0`) or notes (`VidInfoPanel1`).
-class SidecarMarkLabels : public QWidget {
- public:
-  explicit SidecarMarkLabels(QWidget* parent = nullptr);
-  void Show(const SidecarMarks& marks);
-
- private:
-  std::array<QLabel*, 2> marks_;
-};
+class SidecarMarkLabels;
 
 /// The list of videos, the preview of the selected one, what is known of it, and its buttons.
 class VideosPanel : public Panel {
