@@ -9,7 +9,7 @@
 
 #include "Bench.h"
 #include "workspace/CompareStage.h"
-#include "workspace/DualLock.h"
+#include "workspace/LockedVideos.h"
 #include "workspace/MultiPicture.h"
 #include "workspace/Overlay.h"
 

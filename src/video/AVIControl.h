@@ -84,7 +84,7 @@ class AVIControl {
   int VideoWidth() const { return Info() ? Info()->width : 0; }
   int VideoHeight() const { return Info() ? Info()->height : 0; }
   int CurFormatBits() const { return FormatHeader_.bitCount; }
-  /// Always 0: nothing has ever stored the compression here, and the layouts rest on it.
+  /// Always 0: the compression of the file is no matter of the picture.
   int CurFormatCmp() const { return 0; }
 
   // --- properties; those that layout files keep are described in PlayerProperties

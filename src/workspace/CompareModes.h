@@ -5,7 +5,7 @@
 
 #include "video/PlayScheduler.h"
 #include "workspace/Carve.h"
-#include "workspace/DualLock.h"
+#include "workspace/LockedVideos.h"
 #include "workspace/MultiPicture.h"
 #include "workspace/Overlay.h"
 #include "workspace/StrobeControl.h"

@@ -42,8 +42,6 @@ class MultiPicture {
   void smbar_Click();
   bool Shown() const { return shown_; }
   bool CanShow() const;
-  /// The strip is being filled: pictures come from InitialMF and not from the running video.
-  bool MultiFrameMode() const { return MultiFrameMode_; }
 
   /// Size of one picture of the strip, in pixels.
   int PictureWidth() const { return PictureWidth_; }
@@ -116,7 +114,7 @@ class MultiPicture {
   IMultiPictureView& view_;
   bool shown_ = false;
   bool waiting_ = false;
-  bool MultiFrameMode_ = false;
+  bool MultiFrameMode_ = false;  ///< the strip is being filled: what the video shows meanwhile is not the user's doing
   int slot_ = 0;          ///< whose video the strip shows
   int layoutBefore_ = 1;  ///< number of the layout to go back to
   int windowBefore_ = 1;

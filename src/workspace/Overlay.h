@@ -5,7 +5,7 @@
 #include "platform/host/Host.h"
 #include "platform/paint/Blend.h"
 #include "platform/paint/Surface.h"
-#include "workspace/DualLock.h"
+#include "workspace/LockedVideos.h"
 #include "workspace/Workspace.h"
 
 namespace kinalyx {

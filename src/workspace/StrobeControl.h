@@ -5,7 +5,7 @@
 
 #include "core/Settings.h"
 #include "platform/paint/ImageFiles.h"
-#include "workspace/DualLock.h"
+#include "workspace/LockedVideos.h"
 #include "workspace/Workspace.h"
 
 namespace kinalyx {

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "platform/host/Host.h"
-#include "workspace/DualLock.h"
+#include "workspace/LockedVideos.h"
 #include "workspace/Workspace.h"
 
 namespace kinalyx {

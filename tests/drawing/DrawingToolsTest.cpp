@@ -41,7 +41,6 @@ TEST(DrawingTools, ALineFromTwoClicksEndsItsTool) {
   EXPECT_EQ(desk.workspace.vectorColor, -1);
   EXPECT_EQ(desk.workspace.button, -1);
   EXPECT_EQ(desk.workspace.display, "0°- 90° angle H-V     100 px") << "the measure stays";
-  EXPECT_TRUE(desk.tools.CaptionKept());
   EXPECT_EQ(desk.List().CanvasWidth, 640 * 15);
   EXPECT_EQ(desk.workspace.drawingsChanged, 1);
   EXPECT_FALSE(desk.Down(10, 10)) << "the next click is the transport's";
@@ -199,7 +198,8 @@ TEST(DrawingTools, RandomColoursStepButNotForPathsAndZones) {
   desk.Click(9, 9);
   EXPECT_EQ(desk.List().Shapes[3].Colour, kColorChoices[7]) << "the user's choice counts";
   for (int i = 0; i < 8; ++i) desk.Draw(kFlag, {{i, i}});
-  EXPECT_EQ(desk.tools.RandomColorIndex(), 0) << "after twelve it begins again";
+  desk.tools.CmdMakeShape_Click(kFlag);
+  EXPECT_EQ(desk.workspace.button, 0) << "after twelve it begins again";
   for (const std::int32_t colour : desk.settings.NewColors)
     EXPECT_NE(std::ranges::find(kColorChoices, colour), kColorChoices.end()) << colour;
 }
@@ -238,7 +238,7 @@ TEST(DrawingTools, DrawingsAreDeletedLastFirstOrAllAtOnce) {
   desk.Draw(kLine, {{10, 10}});
   desk.tools.Lastcadoff_Click();
   EXPECT_EQ(desk.List().NumShapes, 2);
-  EXPECT_TRUE(desk.tools.NewShapePending());
+  EXPECT_TRUE(desk.tools.Drawing());
   desk.Click(20, 20);
   desk.Click(40, 40);
   EXPECT_EQ(desk.List().NumShapes, 3);

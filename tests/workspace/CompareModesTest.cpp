@@ -107,7 +107,7 @@ TEST_F(CompareModesTest, LeavingTheSectionLeavesNothingBehind) {
   modes_.Locks().PlayTogether();
   modes_.CloseAll();
   EXPECT_FALSE(view_.transparency || view_.strobe || view_.zoom || view_.dual.shown);
-  EXPECT_FALSE(modes_.Locks().DualPlaying());
+  EXPECT_FALSE(modes_.Locks().IsLocked(1));
   const int at = stage_.At(1);
   stage_.host.Advance(1000);
   EXPECT_EQ(stage_.At(1), at);

@@ -73,7 +73,6 @@ TEST_F(MultiPictureTest, StripComesFromWhereverThereAreFramesEnough) {
     Enter(wish.frames, wish.position, wish.skip);
     EXPECT_EQ(Pictures(), wish.pictures) << wish.frames << " frames at " << wish.position;
     EXPECT_EQ(stage_.At(1), wish.stands);
-    EXPECT_FALSE(strip_.MultiFrameMode());
     strip_.MPicBtn_Click(1);
     EXPECT_FALSE(view_.shown);
     EXPECT_EQ(stage_.workspace.ScreenLayout, "2");

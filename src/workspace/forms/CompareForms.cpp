@@ -167,7 +167,10 @@ bool CompareForms::MouseOnMix(QEvent& event) {
   return true;
 }
 
-void CompareForms::SetDrawing(bool drawing) { TransPanel_->setCursor(drawing ? Qt::CrossCursor : Qt::ArrowCursor); }
+void CompareForms::SetDrawing(bool drawing) {
+  TransPanel_->setCursor(drawing ? Qt::CrossCursor : Qt::ArrowCursor);
+  picRot_->setAttribute(Qt::WA_TransparentForMouseEvents, drawing);
+}
 
 void CompareForms::UpdateFoot() { foot_->setVisible(!TransFrame_->isHidden() || !dual_->isHidden()); }
 

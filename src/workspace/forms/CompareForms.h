@@ -40,7 +40,7 @@ class CompareForms : public QObject, public ICompareView {
   /// Whether a lock holds a slot was shown last; for the picture on the cells.
   std::function<void()> LockShown;
 
-  /// A drawing tool is in hand, which draws on the mix too.
+  /// A drawing tool is in hand: it draws on the mix too, and beneath a floating piece.
   void SetDrawing(bool drawing);
 
   /// Asks for the name of a picture to save, empty when the user cancels. Tests answer it.

@@ -44,8 +44,6 @@ class LockedVideos {
 
   /// While true the transport's own commands are refused for the slot.
   bool IsLocked(int slot) const;
-  /// Some lock is in force.
-  bool DualPlaying() const { return DualLocked[0] || DualLocked[1] || DualLocked[2]; }
 
   struct Bounds {
     int lowest = 0;

@@ -1,4 +1,4 @@
-#include "workspace/DualLock.h"
+#include "workspace/LockedVideos.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +10,7 @@ namespace {
 using test::CompareStage;
 using test::RawVideo;
 
-class DualLockTest : public testing::Test {
+class LockedVideosTest : public testing::Test {
  protected:
   void SetUp() override {
     stage_.closing = [this](int slot) { lock_.VideoClosing(slot); };
@@ -33,7 +33,7 @@ class DualLockTest : public testing::Test {
   int changes_ = 0;
 };
 
-TEST_F(DualLockTest, RangesReachAsFarAsTheShortestSide) {
+TEST_F(LockedVideosTest, RangesReachAsFarAsTheShortestSide) {
   const struct {
     int frames1, at1, frames2, at2;
     std::array<int, 4> range;
@@ -51,7 +51,7 @@ TEST_F(DualLockTest, RangesReachAsFarAsTheShortestSide) {
   }
 }
 
-TEST_F(DualLockTest, PairStepsUpToItsBoundsAndNoFurther) {
+TEST_F(LockedVideosTest, PairStepsUpToItsBoundsAndNoFurther) {
   Open({{100, 2}, {50, 40}});
   stage_.workspace.CurrentWindow = 2;
   ASSERT_TRUE(lock_.cmdDualPlay());
@@ -77,7 +77,7 @@ TEST_F(DualLockTest, PairStepsUpToItsBoundsAndNoFurther) {
   EXPECT_EQ(Positions(2), (std::vector{11, 48}));
 }
 
-TEST_F(DualLockTest, PairLockMovesOnlyFromItsOwnWindows) {
+TEST_F(LockedVideosTest, PairLockMovesOnlyFromItsOwnWindows) {
   Open({{20, 5}, {20, 6}, {20, 7}, {20, 8}});
   ASSERT_TRUE(lock_.DualLock(1));
   stage_.workspace.CurrentWindow = 3;
@@ -88,16 +88,16 @@ TEST_F(DualLockTest, PairLockMovesOnlyFromItsOwnWindows) {
   lock_.DualControlStep(false);
   EXPECT_EQ(Positions(4), (std::vector{5, 6, 7, 7}));
   lock_.DualUnlock(3);
-  EXPECT_TRUE(lock_.DualPlaying());
+  EXPECT_TRUE(lock_.IsLocked(1) && !lock_.IsLocked(3));
   lock_.DualUnlock(2);
-  EXPECT_FALSE(lock_.DualPlaying());
+  EXPECT_FALSE(lock_.IsLocked(1));
 }
 
-TEST_F(DualLockTest, GroupHoldsAllFourAndReplacesThePairs) {
+TEST_F(LockedVideosTest, GroupHoldsAllFourAndReplacesThePairs) {
   Open({{20, 5}, {20, 6}, {20, 2}});
   EXPECT_FALSE(lock_.LockAll());  // slot 4 is empty
   EXPECT_FALSE(lock_.DualLock(2));
-  EXPECT_FALSE(lock_.DualPlaying());
+  EXPECT_FALSE(lock_.IsLocked(1) || lock_.IsLocked(3));
   ASSERT_TRUE(stage_.Open(4, RawVideo(30), 16));
   ASSERT_TRUE(lock_.DualLock(1));
   ASSERT_TRUE(lock_.LockAll());
@@ -112,7 +112,7 @@ TEST_F(DualLockTest, GroupHoldsAllFourAndReplacesThePairs) {
   EXPECT_EQ(Positions(4), (std::vector{6, 7, 3, 17}));
 }
 
-TEST_F(DualLockTest, LockIsRefusedOrEndsWithItsVideos) {
+TEST_F(LockedVideosTest, LockIsRefusedOrEndsWithItsVideos) {
   Open({{20, 5}});
   EXPECT_FALSE(lock_.CanLock());
   EXPECT_FALSE(lock_.cmdDualPlay());
@@ -130,7 +130,7 @@ TEST_F(DualLockTest, LockIsRefusedOrEndsWithItsVideos) {
   EXPECT_EQ(stage_.At(1), 5);
 }
 
-TEST_F(DualLockTest, SplittingFieldsKeepsTheLockWhereTheVideosStand) {
+TEST_F(LockedVideosTest, SplittingFieldsKeepsTheLockWhereTheVideosStand) {
   Open({{20, 5}, {20, 6}});
   ASSERT_TRUE(lock_.cmdDualPlay());
   stage_.workspace.CurrentWindow = 2;
@@ -139,7 +139,7 @@ TEST_F(DualLockTest, SplittingFieldsKeepsTheLockWhereTheVideosStand) {
   EXPECT_EQ(lock_.LockRangeA, (std::array{0, 18, 7, 25}));
 }
 
-TEST_F(DualLockTest, PlayTogetherKeepsTheOffsetAtEverySpeed) {
+TEST_F(LockedVideosTest, PlayTogetherKeepsTheOffsetAtEverySpeed) {
   Open({{60, 10}, {60, 25}});
   ASSERT_TRUE(lock_.cmdDualPlay());
   for (const int percent : {100, 30, 250}) {
@@ -166,7 +166,7 @@ TEST_F(DualLockTest, PlayTogetherKeepsTheOffsetAtEverySpeed) {
   EXPECT_FALSE(lock_.setTogetherSpeed(0));
 }
 
-TEST_F(DualLockTest, PlayTogetherEndsOnTheLastOrBeginsAnew) {
+TEST_F(LockedVideosTest, PlayTogetherEndsOnTheLastOrBeginsAnew) {
   Open({{30, 0}, {24, 0}});
   ASSERT_TRUE(lock_.cmdDualPlay());  // 0 to 22 both
   lock_.PlayTogether();

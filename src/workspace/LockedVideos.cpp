@@ -1,4 +1,4 @@
-#include "workspace/DualLock.h"
+#include "workspace/LockedVideos.h"
 
 #include <algorithm>
 #include <cmath>
