@@ -12,8 +12,8 @@ std::string LocalLibraryPath(const Settings& settings);
 
 /// Asks whether the library is to lie in a folder of the user's choice, then for the folder, and takes it.
 /// The root of a drive gives a folder "Video Library" on it. A folder that does not exist yet is made, with
-/// "Amateurs" and "Models" inside. True when the settings have changed to that folder; otherwise the network
-/// flag is cleared where the folder was not chosen, and kept where the question was answered with no.
+/// "Amateurs" and "Models" inside. True when the settings have changed to that folder. A folder that cannot be
+/// used is told. Who is asked for a folder and names none has the network flag cleared.
 bool SwitchNetworkOn(IHost& host, Settings& settings);
 
 /// Back to the library on this machine.

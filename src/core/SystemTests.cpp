@@ -11,8 +11,6 @@ namespace kinalyx {
 
 namespace {
 
-constexpr int kTwips = 15;
-
 SystemTestRow Row(const char* title, std::string text, bool good, int percent) {
   return {title, std::move(text), good ? kGaugeGreen : kGaugeRed, percent};
 }
@@ -63,8 +61,8 @@ std::array<SystemTestRow, 5> SystemTests(IHost& host, const Settings& settings) 
   figures.freeBytes = host.Drives().Ask(settings.LibraryPath, free).value_or(-1);
   const WindowPlace window = PlaceForMode(settings.WindowMode, figures.system.screenWidth, figures.system.screenHeight);
   if (!window.fullScreen) {
-    figures.neededWidth = std::max(figures.neededWidth, window.width / kTwips);
-    figures.neededHeight = std::max(figures.neededHeight, window.height / kTwips);
+    figures.neededWidth = std::max(figures.neededWidth, window.width / kTwipsOfPixel);
+    figures.neededHeight = std::max(figures.neededHeight, window.height / kTwipsOfPixel);
   }
   return RateMachine(figures);
 }

@@ -4,8 +4,6 @@ namespace kinalyx {
 
 namespace {
 
-constexpr std::int32_t kTwips = 15;  // to a pixel
-
 constexpr WindowModeItem kItems[] = {
     {"1", "Full Screen Mode (Recommended)"},
     {"2", "Large (Windowed 1280x800)"},
@@ -20,10 +18,10 @@ struct Window {
 };
 
 constexpr Window kWindows[] = {
-    {"2", 1280 * kTwips, 800 * kTwips, 9600, 6000},
+    {"2", 1280 * kTwipsOfPixel, 800 * kTwipsOfPixel, 9600, 6000},
     // 7860 is not half of the width: the window has always stood a little to the left.
-    {"3", 1024 * kTwips, 768 * kTwips, 7860, 5760},
-    {"4", 800 * kTwips, 600 * kTwips, 6000, 4500},
+    {"3", 1024 * kTwipsOfPixel, 768 * kTwipsOfPixel, 7860, 5760},
+    {"4", 800 * kTwipsOfPixel, 600 * kTwipsOfPixel, 6000, 4500},
 };
 
 }  // namespace
@@ -31,8 +29,8 @@ constexpr Window kWindows[] = {
 std::span<const WindowModeItem> WindowModeItems() { return kItems; }
 
 WindowPlace PlaceForMode(std::string_view mode, int screenWidth, int screenHeight) {
-  const std::int32_t width = screenWidth * kTwips;
-  const std::int32_t height = screenHeight * kTwips;
+  const std::int32_t width = screenWidth * kTwipsOfPixel;
+  const std::int32_t height = screenHeight * kTwipsOfPixel;
   for (const Window& window : kWindows) {
     if (window.mode == mode)
       return {height / 2 - window.fromMiddleY, width / 2 - window.fromMiddleX, window.width, window.height, false};
@@ -40,7 +38,7 @@ WindowPlace PlaceForMode(std::string_view mode, int screenWidth, int screenHeigh
   return {0, 0, width, height, true};
 }
 
-int ScreenClass(std::int32_t formWidth) { return formWidth / kTwips < 1025 ? 1 : 2; }
+int ScreenClass(std::int32_t formWidth) { return formWidth / kTwipsOfPixel < 1025 ? 1 : 2; }
 
 bool ChooseWindowMode(Settings& settings, std::string_view mode) {
   if (settings.WindowMode == mode) return false;

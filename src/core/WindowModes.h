@@ -8,7 +8,10 @@
 
 namespace kinalyx {
 
-/// A place on the screen in twips, 15 to a pixel.
+/// Twips, the unit of forms, to a pixel.
+inline constexpr std::int32_t kTwipsOfPixel = 15;
+
+/// A place on the screen in twips.
 struct WindowPlace {
   std::int32_t top = 0;
   std::int32_t left = 0;
