@@ -21,7 +21,7 @@ class Raster {
   /// Draws what is nearer than what is there. `shadow` may be null.
   void Draw(const Mesh& mesh, const SunShadow* shadow);
   /// Draws a thing that moves while the shutter is open, `steps` times: what of it is nearer than the
-  /// still picture is mixed by its share of the time. Finish lays the mixture down.
+  /// still picture is mixed by its share of the time. LayOver lays the mixture down.
   void BeginMotion(int steps);
   void DrawMotion(const Mesh& mesh, const SunShadow* shadow);
   /// Lays everything over a picture of the camera's size.
