@@ -17,8 +17,8 @@ struct LibraryHintsTest : ::testing::Test {
     LastStudentInfo remembered;
     LibraryBrowser browser(library.host.Drives(), library.settings, remembered, kind);
     browser.CapfolderSetup();
-    if (!instructor.empty()) EXPECT_TRUE(browser.SelectInstructor(instructor));
-    if (!student.empty()) EXPECT_TRUE(browser.SelectStudent(student));
+    if (!instructor.empty()) { EXPECT_TRUE(browser.SelectInstructor(instructor)); }
+    if (!student.empty()) { EXPECT_TRUE(browser.SelectStudent(student)); }
     return HintsOf(browser, words, gone);
   }
 
