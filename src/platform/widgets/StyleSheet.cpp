@@ -138,7 +138,7 @@ QLabel[look="mark"] { background: @accent; color: @accentText; border-radius: @2
   min-height: @20; max-height: @20; font-size: @12; }
 QLabel[look="markOff"] { background: @panel; color: #808080; border-radius: @20/2; padding: 0 10px;
   min-height: @20; max-height: @20; font-size: @12; }
-QToolTip { background: @text; color: @field; border: 1px solid @text; padding: 2px 3px; font-size: @12; }
+QToolTip { background: @text; color: @field; border: 1px solid @muted; padding: 2px 3px; font-size: @12; }
 QMenuBar { background: @panel; color: @text; border: none; border-bottom: 1px solid @line; padding: 0 8px; }
 QMenuBar::item { background: transparent; padding: @5 @10; border-radius: 5px; }
 QMenuBar::item:selected { background: @flatHover; }

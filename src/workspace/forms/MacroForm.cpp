@@ -2,9 +2,11 @@
 
 #include <QBoxLayout>
 #include <QEvent>
+#include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 
+#include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 #include "workspace/forms/StageLook.h"
@@ -24,10 +26,11 @@ constexpr const char* kListSheet =
 
 void ShowDrawing(SurfaceView& view, const ShapeList& drawing, const ShapeLook& look) {
   const qreal ratio = view.devicePixelRatioF();
-  // Small lines are thickened, and the ground lets dark and light ones be seen.
+  // Small lines are thickened, and the ground lets dark and light ones be seen; nothing is nothing but dark.
+  const double light = drawing.NumShapes > 0 ? 0.42 : 0;
   const ShapeLook bold{2 * look.CadWidth, look.CadOutline, look.PathHighlight};
   view.Show(PaintMacro(drawing, qRound(view.width() * ratio), qRound(view.height() * ratio),
-                       ColourOf(Mix(StageLook::Current().ground, Qt::white, 0.42)), bold));
+                       ColourOf(Mix(StageLook::Current().ground, Qt::white, light)), bold));
 }
 
 MacroForm::MacroForm(DrawingEdits& edits, QWidget* stage)
@@ -43,6 +46,12 @@ MacroForm::MacroForm(DrawingEdits& edits, QWidget* stage)
   lstMacro_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   lstMacro_->setTextElideMode(Qt::ElideRight);
   lstMacro_->setUniformItemSizes(true);
+  auto* overList = new QVBoxLayout(lstMacro_->viewport());
+  none_ = MakeLabel("NoMacros", tr("No macros yet. Draw something, then choose Save Drawing Macro."), nullptr, lstMacro_);
+  none_->setProperty("muted", true);
+  none_->setWordWrap(true);
+  none_->setAttribute(Qt::WA_TransparentForMouseEvents);
+  overList->addWidget(none_, 0, Qt::AlignTop);
   columns->addWidget(lstMacro_);
 
   auto* right = new QVBoxLayout;
@@ -81,12 +90,14 @@ MacroForm::MacroForm(DrawingEdits& edits, QWidget* stage)
 
 void MacroForm::ClearMList() {
   lstMacro_->clear();
+  none_->show();
   lstMacro_Click();
 }
 
 void MacroForm::AddMacro(const QString& Name) {
   auto* item = new QListWidgetItem(Name, lstMacro_);  // the list owns it
   item->setToolTip(Name);
+  none_->hide();
 }
 
 void MacroForm::Choose(int row) {

@@ -3,6 +3,7 @@
 #include "workspace/DrawingEdits.h"
 #include "workspace/forms/FloatCard.h"
 
+class QLabel;
 class QListWidget;
 class QPushButton;
 
@@ -39,6 +40,7 @@ class MacroForm : public FloatCard {
   DrawingEdits& edits_;
   QWidget* content_ = nullptr;
   QListWidget* lstMacro_ = nullptr;
+  QLabel* none_ = nullptr;  ///< what an empty list says
   SurfaceView* picture_ = nullptr;
   QPushButton* MacroBtn_ = nullptr;
   QPushButton* cmdInfo_ = nullptr;
