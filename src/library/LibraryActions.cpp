@@ -32,10 +32,8 @@ std::string QuickLaunchCaption(std::string_view instructor) {
 std::string StatisticsCaption(bool shown) { return shown ? "Stats Off" : "Show Stats"; }
 
 LibraryTexts LibraryTextsFor(const Settings& settings) {
-  const std::string& Noun = settings.PrimaryName[0];
   const std::string& noun = settings.PrimaryName[1];
   return {
-      .addTitle = "Add New " + Noun,
       .addHelp = "First select an Instructor or Database from the list below. Then, fill out the New " + noun +
                  " information and choose \"Save\".",
       .moveStudent = "Select the Database from the list on the left that you want to move the selected " + noun +

@@ -35,8 +35,7 @@ std::string StatisticsCaption(bool shown);
 
 /// The texts of the panels in which an operation is prepared, with the user's word in its place.
 struct LibraryTexts {
-  std::string addTitle;       ///< `ProAddPnl`
-  std::string addHelp;
+  std::string addHelp;        ///< `ProAddPnl`
   std::string moveStudent;    ///< the lists from which the target of a move is chosen
   std::string deleteWarning;
   std::string deleteFinish;

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QScrollArea>
 
+#include "library/LibraryActions.h"
 #include "library/forms/FieldBoxes.h"
 #include "library/forms/Text.h"
 #include "platform/widgets/Buttons.h"
@@ -16,7 +17,7 @@
 namespace kinalyx {
 
 ProfileEditor::ProfileEditor(const Settings& settings, QWidget* parent)
-    : Panel("ProAddTitle", " ", parent), vocabulary_(settings) {
+    : Panel("ProAddTitle", " ", parent), settings_(settings), vocabulary_(settings) {
   setObjectName("ProAddPnl");
   auto* scroll = new QScrollArea;
   scroll->setWidgetResizable(true);
@@ -73,9 +74,7 @@ void ProfileEditor::Fill(const FieldTexts& captions, const FieldTexts& values) {
 void ProfileEditor::OpenNew(const FieldTexts& captions) {
   new_ = true;
   SetTitle(Q(vocabulary_.AddNew()));
-  text_->setText(QString("First select an Instructor or Database from the list below. Then, fill out the New %1 "
-                         "information and choose \"Save\".")
-                     .arg(Q(vocabulary_.noun())));
+  text_->setText(Q(LibraryTextsFor(settings_).addHelp));
   Fill(captions, {});
   instructorPart_->show();
   boxes_->Box(kNameField).setReadOnly(false);

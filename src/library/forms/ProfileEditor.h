@@ -46,6 +46,7 @@ class ProfileEditor : public Panel {
  private:
   void Fill(const FieldTexts& captions, const FieldTexts& values);
 
+  const Settings& settings_;
   Vocabulary vocabulary_;
   bool new_ = true;
   QLabel* text_;
