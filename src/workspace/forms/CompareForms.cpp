@@ -19,8 +19,7 @@ namespace kinalyx {
 namespace {
 
 constexpr int kNotch = 120;  // eighths of a degree that one notch of a wheel turns
-constexpr int kEdge = 14;    // between a card and the edge of the stage
-constexpr const char* kPlace = "place";  // property: where the user left a card
+constexpr int kStrip = MultiPicture::kStripHeight / kTwipsPerPixel;  // pixels of the stage's height
 
 /// "swing strobe.png" beside the video.
 QString SuggestedName(const std::string& video, const QString& what) {
@@ -99,7 +98,7 @@ void CompareForms::PlaceOnStage() {
   TransPanel_->setGeometry(stage_->rect());
   const qreal ratio = stage_->devicePixelRatioF();
   modes_->Transparency().Resize(qRound(stage_->width() * ratio), qRound(stage_->height() * ratio));
-  strip_->setGeometry(0, 0, stage_->width(), MultiPicture::kStripHeight / kTwipsPerPixel);
+  strip_->setGeometry(0, 0, stage_->width(), kStrip);
   for (FloatCard* card : std::initializer_list<FloatCard*>{carve_, strobe_, zoom_})
     if (!card->isHidden()) card->KeepInside();
 }
@@ -174,19 +173,11 @@ void CompareForms::SetDrawing(bool drawing) {
 
 void CompareForms::UpdateFoot() { foot_->setVisible(!TransFrame_->isHidden() || !dual_->isHidden()); }
 
-void CompareForms::ShowCard(FloatCard& card, bool right, bool bottom) {
-  const QVariant place = card.property(kPlace);
-  card.Open();
-  card.move(place.isValid() ? place.toPoint()
-                            : QPoint(right ? stage_->width() - card.width() - kEdge : kEdge,
-                                     bottom ? stage_->height() - card.height() - kEdge : kEdge));
-  if (!place.isValid()) card.MakeRoom();
-  card.KeepInside();
-}
-
-void CompareForms::HideCard(FloatCard& card) {
-  if (!card.isHidden()) card.setProperty(kPlace, card.pos());
-  card.hide();
+void CompareForms::RaiseCards() {
+  for (FloatCard* card : stage_->findChildren<FloatCard*>(Qt::FindDirectChildrenOnly)) {
+    card->raise();
+    if (!card->isHidden()) card->KeepInside();
+  }
 }
 
 // ---------------------------------------------------------------- transparency
@@ -197,7 +188,7 @@ void CompareForms::ShowTransparency(bool shown) {
   TransPanel_->setVisible(shown);
   if (shown) {
     TransPanel_->raise();
-    for (FloatCard* card : stage_->findChildren<FloatCard*>(Qt::FindDirectChildrenOnly)) card->raise();
+    RaiseCards();
     TransFrame_->SetCurrent(workspace_->CurrentWindow);
   }
   UpdateFoot();
@@ -228,15 +219,11 @@ void CompareForms::SetVideoButtons(int window, bool playing, bool looping, bool 
 void CompareForms::ShowMultiPicture(bool shown) {
   if (!stage_) return;
   strip_->setVisible(shown);
+  // The cards keep off it, so that its buttons stay in reach.
+  stage_->setContentsMargins(0, shown ? kStrip : 0, 0, 0);
   if (!shown) return;
   strip_->raise();
-  // Its buttons stay in reach, and the cards in sight.
-  for (FloatCard* card : stage_->findChildren<FloatCard*>(Qt::FindDirectChildrenOnly)) {
-    card->raise();
-    if (card->isHidden() || !card->geometry().intersects(strip_->geometry())) continue;
-    card->move(card->x(), strip_->geometry().bottom() + kEdge);
-    card->KeepInside();
-  }
+  RaiseCards();
 }
 
 int CompareForms::StripWidth() { return stage_ ? MultiPicturePanel::StripWidth(stage_->width()) : 0; }
@@ -247,9 +234,9 @@ void CompareForms::PresentStrip(const Surface& strip, int pictures) {
 
 void CompareForms::ShowCarve(bool shown) {
   if (!carve_) return;
-  if (!shown) return HideCard(*carve_);
+  if (!shown) return carve_->hide();
   carve_->Begin();
-  ShowCard(*carve_, true, false);
+  carve_->Open(FloatCard::Place::TopRight);
 }
 
 void CompareForms::ShowCarvePic(int slot, bool shown) {
@@ -283,14 +270,14 @@ void CompareForms::ShowDual(const DualState& state) {
 
 void CompareForms::ShowZoomForm(bool shown) {
   if (!zoom_) return;
-  shown ? ShowCard(*zoom_, true, false) : HideCard(*zoom_);
+  shown ? zoom_->Open(FloatCard::Place::TopRight) : zoom_->hide();
 }
 
 void CompareForms::ShowStrobeForm(bool shown) {
   if (!strobe_) return;
-  if (!shown) return HideCard(*strobe_);
+  if (!shown) return strobe_->hide();
   strobe_->Begin();
-  ShowCard(*strobe_, true, true);
+  strobe_->Open(FloatCard::Place::BottomRight);
 }
 
 }  // namespace kinalyx

@@ -55,9 +55,8 @@ class CompareForms : public QObject, public ICompareView {
   bool Wheel(QWidget* over, QWheelEvent& event);
   bool MouseOnMix(QEvent& event);
   void UpdateFoot();
-  /// Shows a card where the user left it, at first in the corner of the stage that `right` and `bottom` name.
-  void ShowCard(FloatCard& card, bool right, bool bottom);
-  void HideCard(FloatCard& card);
+  /// The cards on the stage come above what has been raised there, and keep within its margins.
+  void RaiseCards();
 
   // --- IOverlayView
   void ShowTransparency(bool shown) override;

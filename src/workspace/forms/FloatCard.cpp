@@ -13,6 +13,12 @@
 #include "workspace/forms/StageLook.h"
 
 namespace kinalyx {
+namespace {
+
+constexpr int kEdge = 14;          // between a card and the edge of its parent
+constexpr int kBelowCaption = 52;  // of a tool, which stands at the top right
+
+}  // namespace
 
 FloatCard::FloatCard(const QString& name, const QString& title, QWidget* parent) : QFrame(parent) {
   setObjectName(name);
@@ -46,8 +52,12 @@ FloatCard::FloatCard(const QString& name, const QString& title, QWidget* parent)
 
 void FloatCard::Open(Place first) {
   ScaleForm(*this, *parentWidget());
-  const QRect room = parentWidget()->rect();
-  if (!moved_) move(first == Place::Middle ? room.center() - rect().center() : QPoint(room.right() - width() - 14, 52));
+  const QRect room = parentWidget()->contentsRect();
+  const int right = room.right() - width() - kEdge;
+  if (!moved_)
+    move(first == Place::Middle     ? room.center() - rect().center()
+         : first == Place::TopRight ? QPoint(right, room.top() + kBelowCaption)
+                                    : QPoint(right, room.bottom() - height() - kEdge));
   MakeRoom();
   KeepInside();
   show();
@@ -64,8 +74,10 @@ void FloatCard::MakeRoom() {
 }
 
 void FloatCard::KeepInside() {
-  const QSize room = parentWidget()->size();
-  move(std::clamp(x(), 0, std::max(0, room.width() - width())), std::clamp(y(), 0, std::max(0, room.height() - height())));
+  const QRect room = parentWidget()->contentsRect();
+  const int right = std::max(room.left(), room.right() + 1 - width());
+  const int bottom = std::max(room.top(), room.bottom() + 1 - height());
+  move(std::clamp(x(), room.left(), right), std::clamp(y(), room.top(), bottom));
 }
 
 void FloatCard::mousePressEvent(QMouseEvent* event) {
