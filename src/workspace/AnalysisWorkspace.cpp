@@ -22,9 +22,10 @@ AnalysisWorkspace::AnalysisWorkspace(IHost& host, Settings& settings, PlaySchedu
       transport_(host, settings, workspace_, compare_.Locks(), view),
       tools_(engine_, settings, *this),
       drawings_(workspace_, tools_),
+      autoSave_(host, workspace_),
       edits_(host, settings, workspace_, tools_, *this, editsView),
       timer_(workspace_, transport_, view),
-      notes_(host, workspace_, view),
+      notes_(workspace_, view),
       rateTest_(host, workspace_),
       ruler_(settings, tools_, view),
       menuBar_({workspace_, transport_, tools_, edits_, timer_, notes_, rateTest_, ruler_, compare_}, view,
@@ -58,6 +59,7 @@ void AnalysisWorkspace::Connect() {
   };
   workspace_.VideoOpened = [this](int slot) { drawings_.VideoOpened(slot); };
   workspace_.CollectData = [this](int slot) { return drawings_.CollectData(slot); };
+  workspace_.DataChanged = [this] { autoSave_.Changed(); };
   workspace_.DataSaved = [this](int slot) { drawings_.DataSaved(slot); };
   workspace_.VideoClosing = [this](int slot) {
     edits_.VideoClosing(slot);
@@ -244,6 +246,7 @@ void AnalysisWorkspace::AdvanceFrame(int window) {
 
 void AnalysisWorkspace::DrawingsChanged(int window) {
   compare_.DrawingsChanged(window);
+  autoSave_.Changed();
   view_.CommandsChanged();
 }
 

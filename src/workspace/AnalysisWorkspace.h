@@ -5,8 +5,9 @@
 #include "drawing/DrawingTools.h"
 #include "drawing/ShapeStore.h"
 #include "video/CallbackInterfaces.h"
-#include "workspace/DrawingEdits.h"
+#include "workspace/AutoSave.h"
 #include "workspace/CompareModes.h"
+#include "workspace/DrawingEdits.h"
 #include "workspace/MenuBar.h"
 #include "workspace/SlotDrawings.h"
 
@@ -107,6 +108,7 @@ class AnalysisWorkspace final : public IFrameInterface, public IMouseAndKeyBoard
   Transport transport_;
   DrawingTools tools_;
   SlotDrawings drawings_;
+  AutoSave autoSave_;
   DrawingEdits edits_;
   VideoTimer timer_;
   VideoNotes notes_;

@@ -6,12 +6,10 @@ namespace kinalyx {
 namespace {
 
 constexpr int kHeight = 150 * kTwipsPerPixel;
-constexpr int kRest = 600;  // milliseconds without a key before the notes are written
 
 }  // namespace
 
-VideoNotes::VideoNotes(IHost& host, Workspace& workspace, IWorkspaceView& view)
-    : host_(host), workspace_(workspace), view_(view) {}
+VideoNotes::VideoNotes(Workspace& workspace, IWorkspaceView& view) : workspace_(workspace), view_(view) {}
 
 void VideoNotes::TN_Click() {
   if (Shown()) {
@@ -41,22 +39,13 @@ void VideoNotes::SetupNotesPnl() {
 
 void VideoNotes::Close() {
   if (!Shown()) return;
-  Save();
   slot_ = 0;
   view_.HideNotesPnl();
   workspace_.FormReset();
 }
 
 void VideoNotes::NotesBox_Change(const std::string& text) {
-  if (!Shown()) return;
-  workspace_.SetNotes(slot_, text);
-  rest_ = HostTimer(host_, kRest, false, [this] { Save(); });
-}
-
-void VideoNotes::Save() {
-  rest_.Stop();
-  // What the disk refuses now is tried again, and told, when the video closes.
-  if (Shown() && workspace_.HasVideo(slot_) && workspace_.At(slot_).changed) workspace_.SaveData(slot_);
+  if (Shown()) workspace_.SetNotes(slot_, text);
 }
 
 }  // namespace kinalyx

@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "platform/host/Host.h"
 #include "workspace/Workspace.h"
 
 namespace kinalyx {
@@ -10,7 +9,7 @@ namespace kinalyx {
 /// The notes panel `NotesPnl`: text that belongs to the current video and lives in its sidecar.
 class VideoNotes {
  public:
-  VideoNotes(IHost& host, Workspace& workspace, IWorkspaceView& view);
+  VideoNotes(Workspace& workspace, IWorkspaceView& view);
 
   /// Opens the panel, or closes it.
   void TN_Click();
@@ -21,18 +20,13 @@ class VideoNotes {
   /// What the open panel takes of a slot's picture of this height, both in twips.
   int FootHeight(int slot, int height) const;
 
-  /// The text was changed by the user. It reaches the sidecar when typing rests, and when the panel or the
-  /// video closes.
+  /// The text was changed by the user.
   void NotesBox_Change(const std::string& text);
 
  private:
-  void Save();
-
-  IHost& host_;
   Workspace& workspace_;
   IWorkspaceView& view_;
   int slot_ = 0;  ///< whose notes are shown; 0 while the panel is closed
-  HostTimer rest_;
 };
 
 }  // namespace kinalyx

@@ -248,9 +248,16 @@ bool Workspace::CloseVideo(int slot) {
   return true;
 }
 
+bool Workspace::HasUnsaved(int slot) { return CollectData(slot) || At(slot).changed; }
+
+bool Workspace::ShownTwice(int slot) const {
+  const auto same = [path = At(slot).path](const Slot& other) { return other.path == path; };
+  return std::ranges::count_if(slots_, same) > 1;
+}
+
 bool Workspace::SaveData(int slot, std::string* error) {
   Slot& at = At(slot);
-  const bool changed = CollectData(slot) || at.changed;
+  const bool changed = HasUnsaved(slot);
   // With nothing of its own to say a slot leaves alone what another one wrote for the same video, and what
   // could not be read.
   if (!changed && (at.savedElsewhere || at.data.Unread)) return true;
@@ -274,7 +281,7 @@ bool Workspace::SaveOrAsk(int slot) {
   std::string error;
   while (!SaveData(slot, &error)) {
     // A library that cannot be written to is no reason to ask as long as nothing gets lost.
-    if (!CollectData(slot) && !At(slot).changed) return true;
+    if (!HasUnsaved(slot)) return true;
     const std::string name = NameWithoutExtension(LastName(At(slot).path));
     if (host_.Question("Drawings not saved",
                        fmt::format("The drawings and notes of \"{}\" could not be saved: {}. Would you like to try again?",
@@ -294,6 +301,7 @@ void Workspace::SetNotes(int slot, const std::string& notes) {
   if (!HasVideo(slot) || at.data.Notes == notes) return;
   at.data.Notes = notes;
   at.changed = true;
+  DataChanged();
 }
 
 bool Workspace::MnuCloseAll_Click() {
@@ -393,6 +401,7 @@ void Workspace::ToggleSplitFields() {
   const int frame = at.MP->SplitFields() ? at.MP->Position() / 2 : at.MP->Position();
   at.data.SplitFields = !at.MP->SplitFields();
   at.changed = true;
+  DataChanged();
   for (int& mark : at.marks) mark = at.data.SplitFields ? 2 * mark : mark / 2;
   at.MP->setSplitFields(at.data.SplitFields);
   at.MP->DrawFrame(at.data.SplitFields ? 2 * frame : frame);
@@ -406,6 +415,7 @@ void Workspace::ToggleReverseFields() {
   const int position = at.MP->Position();
   at.data.ReverseFields = !at.MP->ReverseFields();
   at.changed = true;
+  DataChanged();
   at.MP->setReverseFields(at.data.ReverseFields);
   // The play goes on by itself; a picture that stands still keeps its number and shows its other field.
   if (!at.MP->IsPlaying()) at.MP->DrawFrame(position);

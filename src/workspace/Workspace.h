@@ -109,6 +109,10 @@ class Workspace {
 
   /// Writes the sidecar of a slot now; false with the reason when the disk refuses.
   bool SaveData(int slot, std::string* error = nullptr);
+  /// True when the slot holds drawings, notes or fields that its sidecar does not.
+  bool HasUnsaved(int slot);
+  /// True when another slot holds the same video.
+  bool ShownTwice(int slot) const;
   /// The notes of a slot's video; they are written by SaveData, and at the latest when it closes.
   void SetNotes(int slot, const std::string& notes);
 
@@ -145,6 +149,8 @@ class Workspace {
   std::function<bool(int slot)> CollectData;
   /// The data of a slot have been stored.
   std::function<void(int slot)> DataSaved;
+  /// The notes or fields of a slot have changed, and are to be stored.
+  std::function<void()> DataChanged;
   /// The current window changed.
   std::function<void()> FocusChanged;
   /// Something else of the current window changed: its video, its fields, its loop.

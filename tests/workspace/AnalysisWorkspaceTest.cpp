@@ -299,6 +299,40 @@ TEST(VideoTimerTest, TimesFromAnyPicture) {
   EXPECT_EQ(stage.window.counter, "");
 }
 
+TEST(AutoSaveTest, WhatIsDrawnIsOnTheDiskWhenTheHandsRest) {
+  AnalysisStage stage("2");
+  const std::string path = stage.Video("a.avi");
+  const auto onDisk = [&] { return ReadSidecarMarks(SidecarPath(path)).HasDrawings(); };
+  stage.Open(1, path);
+  stage.Commands().Run("MenuDraw3");
+  stage.Drag(1, 10, 10, 100, 100);
+  EXPECT_FALSE(onDisk());
+  stage.host.Advance(5000);
+  EXPECT_TRUE(onDisk()) << "and the video is still open";
+  stage.Commands().Run("UndoDrawing");
+  stage.host.Advance(5000);
+  EXPECT_FALSE(onDisk());
+
+  // Of a shape that is being drawn there is nothing to keep yet.
+  stage.Press(1, 20, 20);
+  stage.Release(1, 20, 20);
+  stage.Move(1, 60, 60);
+  stage.Slots().SetNotes(1, "Grip");
+  stage.host.Advance(5000);
+  EXPECT_FALSE(onDisk());
+  EXPECT_TRUE(ReadSidecarMarks(SidecarPath(path)).HasNotes());
+
+  // In two windows at once: a drawing deleted in one must not come back from what the other has written.
+  stage.Open(2, path);
+  stage.Slots().SelectWindow(2);
+  stage.Commands().Run("MenuDraw4");
+  stage.Drag(2, 40, 40, 90, 120);
+  stage.host.Advance(5000);
+  stage.Commands().Run("UndoDrawing");
+  EXPECT_TRUE(stage.Slots().MnuCloseAll_Click());
+  EXPECT_FALSE(onDisk());
+}
+
 // One video in two windows, drawn on and noted in both: whichever closes last, the work of both is there.
 TEST(OneVideoTwice, KeepsTheWorkOfBothWindows) {
   AnalysisStage stage("2");

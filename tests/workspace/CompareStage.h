@@ -29,6 +29,7 @@ class CompareStage : private IFrameInterface {
     };
     workspace.VideoClosed = [](int) {};
     workspace.DataSaved = [](int) {};
+    workspace.DataChanged = [] {};
     workspace.CollectData = [](int) { return false; };
     workspace.FocusChanged = [] {};
     workspace.StateChanged = [this] {
