@@ -29,12 +29,16 @@ std::string VerbOf(Change change) {
   return {};
 }
 
+/// From an instructor's folder down to the lessons of a student. Links that lead back are not followed for ever.
+constexpr int kLevels = 3;
+
 /// The paths of the videos in a folder and in those below it: lessons are videos too.
-std::vector<std::string> AllVideosBelow(const std::string& folder) {
+std::vector<std::string> AllVideosBelow(const std::string& folder, int levels = kLevels) {
   std::vector<std::string> paths;
   for (const std::string& file : ListFiles(folder, ".avi")) paths.push_back(JoinPath(folder, file));
+  if (levels == 1) return paths;
   for (const std::string& name : ListFolders(folder)) {
-    const std::vector<std::string> below = AllVideosBelow(JoinPath(folder, name));
+    const std::vector<std::string> below = AllVideosBelow(JoinPath(folder, name), levels - 1);
     paths.insert(paths.end(), below.begin(), below.end());
   }
   return paths;
