@@ -4,11 +4,14 @@
 #include <QAbstractSpinBox>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFileDialog>
+#include <QHeaderView>
 #include <QPainter>
 #include <QPainterPath>
 #include <QProxyStyle>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QTreeView>
 
 #include "platform/widgets/Icons.h"
 #include "platform/widgets/Scale.h"
@@ -40,6 +43,16 @@ ControlInks InksFor(const QStyleOption& option) {
   return {t.stage, t.stage, t.stageOutline, t.stageLine, t.stageFrame, t.stage, t.stageText, t.stageOutline};
 }
 
+/// Qt's own dialog opens with columns that are too narrow for a size and a date.
+void FitFileDialog(QFileDialog& dialog) {
+  dialog.setMinimumSize(Px(820), Px(480));
+  auto* files = dialog.findChild<QTreeView*>("treeView");
+  if (!files) return;
+  for (int column = 1; column < files->header()->count(); ++column)
+    files->header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
+  files->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+}
+
 class Style : public QProxyStyle {
  public:
   Style() : QProxyStyle(QStyleFactory::create("Fusion")) {}
@@ -48,6 +61,7 @@ class Style : public QProxyStyle {
   void polish(QWidget* widget) override {
     QProxyStyle::polish(widget);
     if (widget->isWindow()) WearTheme(*widget);
+    if (auto* dialog = qobject_cast<QFileDialog*>(widget)) FitFileDialog(*dialog);
   }
 
   int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
