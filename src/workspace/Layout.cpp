@@ -17,6 +17,8 @@ constexpr ScreenMode kModes[] = {
     {8, "8", "SEight", "Eight Windows", "eight", 8, 4, 2},
 };
 
+constexpr double kSmallestZoom = 0.2;
+constexpr double kLargestZoom = 4.0;
 constexpr int kRoundingGap = 10;  // twips that the last of three columns is widened by
 
 }  // namespace
@@ -54,6 +56,8 @@ std::vector<TwipRect> LayoutCells(std::string_view code, int panelWidth, int pan
   if (code == "3L") cells[2].Width += kRoundingGap;
   return cells;
 }
+
+double NearestZoom(double zoom) { return std::round(std::clamp(zoom, kSmallestZoom, kLargestZoom) * 10) / 10; }
 
 TwipRect PlaceVideo(const VideoPlacement& video, int panelWidth, int panelHeight) {
   if (video.VideoWidth <= 0 || video.VideoHeight <= 0) return {};

@@ -51,6 +51,9 @@ int Val(std::string_view text);
 /// of three side by side, which takes the rounding gap. "MAX" has one cell: the whole panel.
 std::vector<TwipRect> LayoutCells(std::string_view code, int panelWidth, int panelHeight);
 
+/// The nearest zoom that a video may have: tenths from 0.2 to 4. They stay tenths, however often one is added.
+double NearestZoom(double zoom);
+
 /// How a slot shows its video.
 struct VideoPlacement {
   int VideoWidth = 0;    ///< pixels of the file's picture

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "workspace/PlayerMoves.h"
+
 namespace kinalyx {
 namespace {
 
@@ -226,6 +228,13 @@ std::optional<LockedVideos::Bounds> LockedVideos::BoundsOf(int slot) const {
   return Bounds{Lowest(slot), Highest(slot)};
 }
 
+LockedVideos::Bounds LockedVideos::BarOf(int slot) const {
+  if (!workspace_.HasVideo(slot)) return {};
+  const Bounds whole{0, workspace_.MP(slot).VideoLength() - 1};
+  const Bounds bounds = BoundsOf(slot).value_or(whole);
+  return {bounds.lowest, std::max(bounds.lowest, bounds.highest)};
+}
+
 std::vector<int> LockedVideos::LockedWith(int slot) const {
   std::vector<int> slots = SlotsOf(LockOf(slot));
   const auto first = std::ranges::find(slots, slot);
@@ -239,12 +248,6 @@ void LockedVideos::Tell() {
 
 // ---------------------------------------------------------------- moving
 
-void LockedVideos::Show(int slot, int position) {
-  AVIControl& player = workspace_.MP(slot);
-  player.StopPlay();
-  player.Play(std::clamp(position, 0, player.VideoLength() - 1));
-}
-
 void LockedVideos::DualControl_Click(int Index) {
   if (Index == 0 || Index == 1) DualControlStep(Index == 1);
   if (Index == 2) DualControlRewind();
@@ -257,21 +260,19 @@ void LockedVideos::DualControlStep(bool Forward) {
   const std::vector<int> slots = LockedWith(workspace_.CurrentWindow);
   if (slots.empty()) {
     const int slot = workspace_.CurrentWindow;
-    if (!workspace_.HasVideo(slot)) return;
-    const int position = workspace_.MP(slot).CurrentFrame();
-    if (position != (Forward ? workspace_.MP(slot).VideoLength() - 1 : 0)) Show(slot, position + move);
+    if (workspace_.HasVideo(slot)) StepBy(workspace_.MP(slot), move);
     return;
   }
   for (const int slot : slots) {
     const int position = workspace_.MP(slot).Position();
     if (Forward ? position >= Highest(slot) : position <= Lowest(slot)) return;
   }
-  for (const int slot : slots) Show(slot, workspace_.MP(slot).Position() + move);
+  for (const int slot : slots) GoTo(workspace_.MP(slot), workspace_.MP(slot).Position() + move);
 }
 
 void LockedVideos::DualControlRewind() {
   StopTogether();
-  for (const int slot : SlotsOf(LockOf(workspace_.CurrentWindow))) Show(slot, Lowest(slot));
+  for (const int slot : SlotsOf(LockOf(workspace_.CurrentWindow))) GoTo(workspace_.MP(slot), Lowest(slot));
 }
 
 void LockedVideos::DualControlScroll(int slot, int Position) {
@@ -280,20 +281,19 @@ void LockedVideos::DualControlScroll(int slot, int Position) {
   if (slots.empty()) return;
   const int lowest = Lowest(slot);
   const int distance = std::clamp(Position - lowest, 0, std::max(0, Highest(slot) - lowest));
-  for (const int each : slots) Show(each, Lowest(each) + distance);
+  for (const int each : slots) GoTo(workspace_.MP(each), Lowest(each) + distance);
 }
 
 void LockedVideos::Seek(int slot, int position) {
   if (position == workspace_.MP(slot).Position()) return;
-  IsLocked(slot) ? DualControlScroll(slot, position) : Show(slot, position);
+  IsLocked(slot) ? DualControlScroll(slot, position) : GoTo(workspace_.MP(slot), position);
 }
 
 void LockedVideos::AdvancePartner(int slot) {
   const int lock = LockOf(slot);
   if (lock != kPairOneTwo && lock != kPairThreeFour) return;
   const int partner = slot % 2 == 1 ? slot + 1 : slot - 1;
-  const AVIControl& player = workspace_.MP(partner);
-  if (player.Position() < player.VideoLength() - 1) Show(partner, player.Position() + 1);
+  StepBy(workspace_.MP(partner), 1);
 }
 
 // ---------------------------------------------------------------- playing together

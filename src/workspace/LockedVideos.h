@@ -49,8 +49,11 @@ class LockedVideos {
     int lowest = 0;
     int highest = 0;  ///< below `lowest` when the videos cannot move at all
   };
-  /// Where a slot may move under its lock; nothing without one. The ends of the shared scroll bar.
+  /// Where a slot may move under its lock; nothing without one.
   std::optional<Bounds> BoundsOf(int slot) const;
+  /// The ends of a slot's scroll bar: those of its lock, or else of the whole video; equal ones for an empty
+  /// slot and where nothing moves.
+  Bounds BarOf(int slot) const;
 
   // --- moving
 
@@ -107,7 +110,6 @@ class LockedVideos {
   int Lowest(int slot) const;
   int Highest(int slot) const;
   void SetRanges(const std::vector<int>& slots);
-  void Show(int slot, int position);
   void Clear(int lock);
   void Tell();
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "workspace/PlayerMoves.h"
 #include "workspace/PlayerPlace.h"
 
 namespace kinalyx {
@@ -212,38 +213,13 @@ void Overlay::Control(int window, int Index) {
   AVIControl* player = Player(window);
   if (!player) return;
   locks_.StopTogether();
-  const bool wasPlaying = player->IsPlaying();
-  const int last = player->VideoLength() - 1;
   switch (static_cast<VideoControl>(Index)) {
-    case VideoControl::Rewind:
-      player->StopPlay();
-      player->Play(0);
-      break;
-    case VideoControl::Back:
-      player->StopPlay();
-      if (player->Position() > 0) player->Play(player->Position() - 1);
-      break;
-    case VideoControl::Play:
-      if (wasPlaying) {
-        player->StopPlay();
-      } else {
-        player->Play(player->Position() >= last - 1 ? 0 : player->Position(), last);
-      }
-      break;
-    case VideoControl::Forward:
-      player->StopPlay();
-      if (player->Position() < last) player->Play(player->Position() + 1);
-      break;
-    case VideoControl::Loop: {
-      const bool on = !player->Repeat();
-      player->StopPlay();
-      player->setRepeat(on);
-      if (on) player->Play(player->Position() >= last ? 0 : player->Position(), last);
-      break;
-    }
-    case VideoControl::Slow:
-      player->setSpeed(player->Speed() == 100 ? std::clamp<int>(settings_.SlomoSpeed, 1, 100) : 100);
-      break;
+    case VideoControl::Rewind: GoTo(*player, 0); break;
+    case VideoControl::Back: StepBy(*player, -1); break;
+    case VideoControl::Play: TogglePlay(*player); break;
+    case VideoControl::Forward: StepBy(*player, 1); break;
+    case VideoControl::Loop: SetLoop(*player, !player->Repeat()); break;
+    case VideoControl::Slow: ToggleSlow(*player, settings_.SlomoSpeed); break;
   }
   ShowControls();
   Refresh();
@@ -258,16 +234,10 @@ void Overlay::ShowControls() {
   guard_ = true;
   for (const int window : {1, 2}) {
     const AVIControl* player = Player(window);
-    if (!player) {
-      view_.SetVideoScroll(window, 0, 0, 0);
-      view_.SetVideoButtons(window, false, false, false);
-      continue;
-    }
-    const auto bounds = locks_.BoundsOf(window);
-    const int lowest = bounds ? bounds->lowest : 0;
-    const int highest = bounds ? std::max(bounds->lowest, bounds->highest) : player->VideoLength() - 1;
-    view_.SetVideoScroll(window, lowest, highest, player->Position());
-    view_.SetVideoButtons(window, player->IsPlaying(), player->Repeat(), player->Speed() != 100);
+    const auto [lowest, highest] = locks_.BarOf(window);
+    view_.SetVideoScroll(window, lowest, highest, player ? player->Position() : 0);
+    view_.SetVideoButtons(window, player && player->IsPlaying(), player && player->Repeat(),
+                          player && player->Speed() != 100);
   }
   guard_ = false;
 }

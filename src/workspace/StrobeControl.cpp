@@ -42,11 +42,8 @@ void StrobeControl::ShowSlider() {
   if (!view_) return;
   const AVIControl* player = Player();
   view_->SetObstacle(Obstacle());
-  if (!player) return view_->SetSlider(0, 0, 0);
-  const auto bounds = locks_.BoundsOf(workspace_.CurrentWindow);
-  const int lowest = bounds ? bounds->lowest : 0;
-  const int highest = bounds ? std::max(bounds->lowest, bounds->highest) : player->VideoLength() - 1;
-  view_->SetSlider(lowest, highest, player->Position());
+  const auto [lowest, highest] = locks_.BarOf(workspace_.CurrentWindow);
+  view_->SetSlider(lowest, highest, player ? player->Position() : 0);
 }
 
 void StrobeControl::ShowResult() {

@@ -6,6 +6,8 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "workspace/PlayerMoves.h"
+
 namespace kinalyx {
 namespace {
 
@@ -33,41 +35,23 @@ AVIControl* Transport::Player() {
 
 void Transport::cmdPlay() {
   if (AVIControl* player = Locked() ? nullptr : Player()) {
-    if (player->IsPlaying()) {
-      player->StopPlay();
-      view_.SetLoopButton(false);
-    } else {
-      const int last = player->VideoLength() - 1;
-      view_.SetPlayPicture(true);
-      player->Play(player->Position() >= last - 1 ? 0 : player->Position(), last);
-    }
+    view_.SetPlayPicture(!player->IsPlaying());
+    TogglePlay(*player);
   }
   view_.FocusKeyBox();
 }
 
-// Every way of taking the film in hand ends a running play first: one press, and it stands where it is
-// wanted.
-
 void Transport::cmdREwind() {
-  if (AVIControl* player = Locked() ? nullptr : Player()) {
-    player->StopPlay();
-    player->Play(0);
-  }
+  if (AVIControl* player = Locked() ? nullptr : Player()) GoTo(*player, 0);
   view_.FocusKeyBox();
 }
 
 void Transport::vn_Click() {
-  AVIControl* player = Player();
-  if (!player || Locked()) return;
-  player->StopPlay();
-  if (player->CurrentFrame() != player->VideoLength() - 1) player->Play(player->CurrentFrame() + 1);
+  if (AVIControl* player = Locked() ? nullptr : Player()) StepBy(*player, 1);
 }
 
 void Transport::vp_Click() {
-  AVIControl* player = Player();
-  if (!player || Locked()) return;
-  player->StopPlay();
-  if (player->CurrentFrame() != 0) player->Play(player->CurrentFrame() - 1);
+  if (AVIControl* player = Locked() ? nullptr : Player()) StepBy(*player, -1);
 }
 
 void Transport::Seek(int position) {
@@ -102,20 +86,12 @@ void Transport::HeldStep() {
 }
 
 void Transport::ToggleSlomo() {
-  if (AVIControl* player = Locked() ? nullptr : Player()) {
-    // A running play ends and goes on at the new speed; only its outcome is shown.
-    player->setSpeed(player->Speed() == 100 ? std::clamp<int>(settings_.SlomoSpeed, 1, 100) : 100);
-  }
+  if (AVIControl* player = Locked() ? nullptr : Player()) ToggleSlow(*player, settings_.SlomoSpeed);
   ShowCurrent();
 }
 
 void Transport::ToggleLoop() {
-  if (AVIControl* player = Locked() ? nullptr : Player()) {
-    const bool on = !player->Repeat();
-    player->StopPlay();
-    player->setRepeat(on);
-    if (on) player->Play(player->Position(), player->VideoLength() - 1);
-  }
+  if (AVIControl* player = Locked() ? nullptr : Player()) SetLoop(*player, !player->Repeat());
   ShowCurrent();
 }
 
@@ -136,13 +112,8 @@ bool Transport::AllLooping() const {
 
 void Transport::TLAV_Click() {
   const bool on = !AllLooping();
-  for (int slot = 1; slot <= kSlots; ++slot) {
-    if (!CanLoop(slot)) continue;
-    AVIControl& player = workspace_.MP(slot);
-    player.StopPlay();
-    player.setRepeat(on);
-    if (on) player.Play(player.Position(), player.VideoLength() - 1);
-  }
+  for (int slot = 1; slot <= kSlots; ++slot)
+    if (CanLoop(slot)) SetLoop(workspace_.MP(slot), on);
   ShowCurrent();
 }
 
@@ -206,12 +177,8 @@ void Transport::ShowCell(int slot) {
 
 void Transport::ScrollBarSetup() {
   AVIControl* player = Player();
-  const auto bounds = locks_.BoundsOf(workspace_.CurrentWindow);
-  if (bounds) {
-    view_.SetScrollRange(bounds->lowest, std::max(bounds->lowest, bounds->highest));
-  } else {
-    view_.SetScrollRange(0, player ? std::max(0, player->VideoLength() - 1) : 0);
-  }
+  const auto [lowest, highest] = locks_.BarOf(workspace_.CurrentWindow);
+  view_.SetScrollRange(lowest, highest);
   view_.SetScrollValue(player ? player->Position() : 0);
 }
 

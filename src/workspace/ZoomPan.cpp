@@ -1,8 +1,6 @@
 #include "workspace/ZoomPan.h"
 
-#include <algorithm>
 #include <array>
-#include <cmath>
 
 #include "video/KeyCodes.h"
 #include "workspace/PlayerPlace.h"
@@ -12,8 +10,6 @@ namespace {
 
 constexpr int kRepeatDelay = 300;    // milliseconds before a held button repeats
 constexpr int kRepeatInterval = 40;  // milliseconds between two steps
-constexpr double kSmallest = 0.2;
-constexpr double kLargest = 4.0;
 
 /// The keys behind the pan buttons: up, right, down, left, centre.
 constexpr std::array kPanKeys{kKeyNumpad0 + 8, kKeyNumpad0 + 6, kKeyNumpad0 + 2, kKeyNumpad0 + 4, kKeyNumpad0 + 5};
@@ -47,7 +43,7 @@ void ZoomPan::pantimer_Timer() { keyDown_(kPanKeys[static_cast<std::size_t>(held
 void ZoomPan::Wheel(int slot, float x, float y, int notches) {
   if (!workspace_.HasVideo(slot) || notches == 0) return;
   Slot& at = workspace_.At(slot);
-  const double zoom = std::round(std::clamp(at.VideoZoom + notches * 0.1, kSmallest, kLargest) * 10) / 10;
+  const double zoom = NearestZoom(at.VideoZoom + notches * 0.1);
   if (zoom == at.VideoZoom) return;
   const TwipRect before = PlayerPlace(at);
   if (before.Width <= 0 || before.Height <= 0) return;

@@ -14,6 +14,7 @@
 
 #include "FormsSupport.h"
 #include "workspace/CompareStage.h"
+#include "workspace/forms/SeekBar.h"
 #include "workspace/forms/StageParts.h"
 
 namespace kinalyx {

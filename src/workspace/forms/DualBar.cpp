@@ -55,7 +55,7 @@ DualBar::DualBar(CompareModes& modes, Workspace& workspace, QWidget* parent) : Q
   FixWidth(speed_, 84);
   row->addWidget(speed_);
   row->addSpacing(6);
-  scroll_ = new BoundedSeekBar(this);
+  scroll_ = new SeekBar(this);
   scroll_->setObjectName("DualScroll");
   scroll_->setToolTip(tr("Moves the locked videos together"));
   row->addWidget(scroll_, 1);
@@ -76,7 +76,7 @@ DualBar::DualBar(CompareModes& modes, Workspace& workspace, QWidget* parent) : Q
   connect(speed_, &QComboBox::currentIndexChanged, this, [this, &locks] {
     if (!setting_) locks.setTogetherSpeed(speed_->currentData().toInt());
   });
-  connect(scroll_, &BoundedSeekBar::Sought, this, [this, &locks, &workspace](int position) {
+  connect(scroll_, &SeekBar::Sought, this, [this, &locks, &workspace](int position) {
     locks.DualControlScroll(workspace.CurrentWindow, position);
   });
   hide();

@@ -4,6 +4,7 @@
 
 #include "platform/widgets/Figures.h"
 #include "workspace/CompareModes.h"
+#include "workspace/forms/SeekBar.h"
 #include "workspace/forms/StageParts.h"
 
 class QComboBox;
@@ -36,7 +37,7 @@ class DualBar : public QFrame {
   QToolButton* forward_;
   QToolButton* repeat_;
   QComboBox* speed_;
-  BoundedSeekBar* scroll_;
+  SeekBar* scroll_;
   FigureLabel* line_;
   bool setting_ = false;  ///< the controls are being set; what they say is no command
 };

@@ -23,7 +23,13 @@ SeekBar::SeekBar(QWidget* parent) : QWidget(parent) {
   setCursor(Qt::PointingHandCursor);
 }
 
+void SeekBar::SetBounds(int minimum, int maximum, int value) {
+  SetRange(minimum, maximum);
+  SetValue(value);
+}
+
 void SeekBar::SetRange(int minimum, int maximum) {
+  if (minimum == minimum_ && maximum == maximum_) return;
   minimum_ = minimum;
   maximum_ = std::max(minimum, maximum);
   value_ = std::clamp(value_, minimum_, maximum_);

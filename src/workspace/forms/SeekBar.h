@@ -13,9 +13,10 @@ class SeekBar : public QWidget {
  public:
   explicit SeekBar(QWidget* parent = nullptr);
 
+  // What is set here is told to nobody.
   void SetRange(int minimum, int maximum);
-  /// Moves the knob; tells nobody.
   void SetValue(int value);
+  void SetBounds(int minimum, int maximum, int value);
   void SetMarks(std::vector<int> marks);
   int Value() const { return value_; }
   int Minimum() const { return minimum_; }

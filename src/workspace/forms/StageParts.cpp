@@ -82,13 +82,6 @@ void DressStageButtons(QWidget* parent) {
     if (button->property(kIconProperty).isValid()) Dress(button);
 }
 
-// ---------------------------------------------------------------- BoundedSeekBar
-
-void BoundedSeekBar::SetBounds(int lowest, int highest, int value) {
-  if (Minimum() != lowest || Maximum() != highest) SetRange(lowest, highest);
-  SetValue(value);
-}
-
 // ---------------------------------------------------------------- SurfaceView
 
 SurfaceView::SurfaceView(const QString& name, QWidget* parent) : QWidget(parent) {

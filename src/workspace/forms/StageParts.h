@@ -4,7 +4,6 @@
 #include <QWidget>
 
 #include "platform/paint/Surface.h"
-#include "workspace/forms/SeekBar.h"
 
 namespace kinalyx {
 
@@ -18,20 +17,6 @@ void DressStageButtons(QWidget* parent);
 
 /// The sheet of what the comparing modes put on the stage: bars, sliders, lists, choices.
 extern const char* const kCompareSheet;
-
-/// A seek bar between two positions of which the first need not be 0.
-class BoundedSeekBar : public SeekBar {
-  Q_OBJECT
-
- public:
-  using SeekBar::SeekBar;
-  /// Moves nothing but the knob; tells nobody.
-  void SetBounds(int lowest, int highest, int value);
-  int Lowest() const { return lowest_; }
-
- private:
-  int lowest_ = 0;
-};
 
 /// Shows a picture pixel by pixel, black round it. Keeps a copy.
 class SurfaceView : public QWidget {

@@ -18,11 +18,11 @@ StrobeForm::StrobeForm(StrobeControl& strobe, std::function<void()> save, QWidge
   auto* rows = new QVBoxLayout(content_);
   rows->setContentsMargins(0, 0, 0, 0);
   rows->setSpacing(10);
-  ESlider_ = new BoundedSeekBar(content_);
+  ESlider_ = new SeekBar(content_);
   ESlider_->setObjectName("ESlider");
   ESlider_->setToolTip(tr("Moves the current video"));
   LeastWidth(ESlider_, 330);
-  connect(ESlider_, &BoundedSeekBar::Sought, this,
+  connect(ESlider_, &SeekBar::Sought, this,
           [this](int position) { strobe_.ESlider_Change(position); });
   rows->addWidget(ESlider_);
 

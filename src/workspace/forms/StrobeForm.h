@@ -5,6 +5,7 @@
 
 #include "workspace/StrobeControl.h"
 #include "workspace/forms/FloatCard.h"
+#include "workspace/forms/SeekBar.h"
 #include "workspace/forms/StageParts.h"
 
 class QComboBox;
@@ -36,7 +37,7 @@ class StrobeForm : public FloatCard, private IStrobeView {
 
   StrobeControl& strobe_;
   QWidget* content_ = nullptr;
-  BoundedSeekBar* ESlider_;
+  SeekBar* ESlider_;
   std::array<QPushButton*, 3> SSCommand1_{};
   QComboBox* Combo1_;
   QPushButton* save_;

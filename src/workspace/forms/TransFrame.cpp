@@ -100,11 +100,10 @@ void TransFrame::MakeVideo(int window, QHBoxLayout* row) {
     row->addWidget(button);
     video.buttons[static_cast<std::size_t>(i)] = button;
   }
-  video.scroll = new BoundedSeekBar(this);
+  video.scroll = new SeekBar(this);
   video.scroll->setObjectName(QString("HScroll%1").arg(window));
-  connect(video.scroll, &BoundedSeekBar::Sought, this, [this, window](int position) {
-    const int value = position;
-    window == 1 ? overlay_.HScroll1_Scroll(value) : overlay_.HScroll2_Scroll(value);
+  connect(video.scroll, &SeekBar::Sought, this, [this, window](int position) {
+    window == 1 ? overlay_.HScroll1_Scroll(position) : overlay_.HScroll2_Scroll(position);
   });
   row->addWidget(video.scroll, 1);
 }

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "workspace/Overlay.h"
+#include "workspace/forms/SeekBar.h"
 #include "workspace/forms/StageParts.h"
 
 class QHBoxLayout;
@@ -35,7 +36,7 @@ class TransFrame : public QFrame {
   struct Video {
     QToolButton* select = nullptr;
     std::array<QToolButton*, 6> buttons{};
-    BoundedSeekBar* scroll = nullptr;
+    SeekBar* scroll = nullptr;
   };
 
   void MakeVideo(int window, QHBoxLayout* row);
