@@ -23,4 +23,8 @@ enum KeyCode : int {
   kKeyF12 = 123,
 };
 
+/// The keys held down with another one, added up.
+constexpr int kShift = 1;
+constexpr int kCtrl = 2;
+
 }  // namespace kinalyx

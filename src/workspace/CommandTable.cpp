@@ -121,6 +121,8 @@ void MenuBar::AddVideo() {
        hasVideo});
   Add({"MnuCloseAll", kVideo, "Esc - Close All Videos", "Closeallbtn", "close-all", "Close All Videos", kOpening,
        [this] { workspace_.MnuCloseAll_Click(); }, anyVideo});
+  Add({"ReopenVideos", kVideo, "Ctrl+Shift+T - Reopen Closed Videos", "", "", "", kNoButton, [this] { workspace_.ReopenClosed(); },
+       Needs([this] { return workspace_.CanReopen(); }, "Only when all videos have just been closed")});
   AddSeparator(kVideo);
   plain("vF", "Up Arrow - Rewind", "", [this] { transport_.cmdREwind(); });
   plain("VL", "Down Arrow - Play", "", [this] { transport_.cmdPlay(); });

@@ -103,13 +103,19 @@ bool CompareModes::Escape() {
   return true;
 }
 
+bool CompareModes::CloseCards() {
+  const bool shown = StrobeShown() || zoomShown_;
+  if (StrobeShown()) TASF_Click();
+  if (zoomShown_) TZP_Click();
+  return shown;
+}
+
 void CompareModes::CloseAll() {
   while (Escape()) {
   }
   locks_.StopTogether();
   for (const int slot : {1, 3}) locks_.DualUnlock(slot);
-  if (StrobeShown()) TASF_Click();
-  if (zoomShown_) TZP_Click();
+  CloseCards();
 }
 
 void CompareModes::MPManualSignal() {
@@ -130,9 +136,9 @@ void CompareModes::ShowDual() {
   state.playing = locks_.PlayingTogether();
   state.repeat = locks_.TogetherRepeat();
   state.speed = locks_.TogetherSpeed();
-  if (const auto bounds = locks_.BoundsOf(slot)) {
-    state.lowest = bounds->lowest;
-    state.highest = std::max(bounds->lowest, bounds->highest);
+  if (state.locked) {
+    state.lowest = locks_.BarOf(slot).lowest;
+    state.highest = locks_.BarOf(slot).highest;
     state.position = workspace_.MP(slot).Position();
     const int first = state.allLocked || slot <= 2 ? 1 : 3;
     const int last = state.allLocked || slot > 2 ? 4 : 2;

@@ -77,6 +77,8 @@ class CompareModes {
 
   /// Leaves the mode that is up, the innermost first; false when there is none.
   bool Escape();
+  /// Closes the cards for strobing and zooming; false when none was open.
+  bool CloseCards();
   /// A square was drawn, with opposite corners in pixels of the slot's picture; true takes it.
   bool TakeSquare(int slot, POINTAPI corner, POINTAPI opposite) { return strip_.TakeSquare(slot, corner, opposite); }
   /// The mouse is wanted for drawing: no mode waits for an area to be marked with it any longer.

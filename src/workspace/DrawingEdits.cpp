@@ -12,8 +12,6 @@ namespace kinalyx {
 namespace {
 
 constexpr int kLeftButton = 1;
-constexpr int kShift = 1;
-constexpr int kCtrl = 2;
 constexpr float kTwipsToDouble = 400;  // a drag of the scale handle that doubles the selection
 constexpr int kPlusArm = 10;           // pixels from the middle of a plus sign to its ends
 constexpr int kTwoWindows = 2;         // the layout of two windows side by side

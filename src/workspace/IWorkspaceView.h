@@ -65,6 +65,8 @@ class IWorkspaceView {
 
   // --- forms and commands
   virtual void ShowOpenPanel() = 0;
+  /// False when it was not open.
+  virtual bool CloseOpenPanel() = 0;
   /// Enable rules, checks and pressed buttons may have changed.
   virtual void CommandsChanged() = 0;
   /// Takes the keyboard focus off a pressed button.

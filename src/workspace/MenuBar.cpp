@@ -80,6 +80,14 @@ void MenuBar::Escape() {
     // The edit bar or one of its panels has gone.
   } else if (compare_.Escape()) {
     // a mode was left
+  } else if (view_.CloseOpenPanel()) {
+    // the lists of the library have gone
+  } else if (notes_.Shown()) {
+    notes_.Close();
+  } else if (timer_.Shown()) {
+    timer_.Close();
+  } else if (compare_.CloseCards()) {
+    // a strobe or zoom card has gone
   } else if (workspace_.Maximized()) {
     workspace_.TMAX_Click();
   } else {
@@ -92,6 +100,10 @@ void MenuBar::Escape() {
 bool MenuBar::Form_KeyDown(int KeyCode, int Shift) {
   if (edits_.Form_KeyDown(KeyCode, Shift)) {
     view_.CommandsChanged();
+    return true;
+  }
+  if (KeyCode == 'T' && Shift == (kShift | kCtrl)) {
+    Run("ReopenVideos");
     return true;
   }
   if (KeyCode >= kKeyF1 && KeyCode <= kKeyF12) {

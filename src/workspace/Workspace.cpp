@@ -9,6 +9,7 @@
 #include "platform/files/Folders.h"
 #include "platform/host/DriveWatch.h"
 #include "workspace/MultiPicture.h"
+#include "workspace/PlayerPlace.h"
 
 namespace kinalyx {
 namespace {
@@ -116,10 +117,7 @@ void Workspace::MPResize(int slot) {
   }
   const int oldWidth = at.MP->ControlWidthPixels();
   const int oldHeight = at.MP->ControlHeightPixels();
-  const TwipRect place =
-      PlaceVideo({at.MP->VideoWidth(), at.MP->VideoHeight(), at.data.Wide, at.VideoZoom, at.PanX, at.PanY},
-                 at.panel.Width, at.panel.Height);
-  view_.PlacePlayer(slot, place, true);
+  view_.PlacePlayer(slot, PlayerPlace(at), true);
   const bool resized = oldWidth != at.MP->ControlWidthPixels() || oldHeight != at.MP->ControlHeightPixels();
   if (resized || !at.placed) {
     at.placed = true;
@@ -265,6 +263,8 @@ bool Workspace::SaveData(int slot, std::string* error) {
     if (error) *error = "the drive is not answering";
     return false;
   }
+  // A video that somebody else has taken away needs no sidecar; new work on it is kept all the same.
+  if (!changed && !FileExists(at.path)) return true;
   // Both have something to say: whoever closes last adds to the work of the other. What was drawn there does
   // not stand in this window, so that every later save must add it again.
   if (at.savedElsewhere && at.MP->Info())
@@ -292,6 +292,11 @@ bool Workspace::SaveOrAsk(int slot) {
                                       "keep it open.",
                                       name));
   }
+  const std::string& path = At(slot).path;
+  const auto sidecarAlone = [path] { return !FileExists(path) && FileExists(SidecarPath(path)); };
+  if (error.empty() && host_.Drives().Ask(settings_.LibraryPath, sidecarAlone).value_or(false))
+    error = fmt::format("Somebody else has renamed, moved or deleted the video \"{}\". Its drawings and notes are kept in {}.",
+                        NameWithoutExtension(LastName(path)), SidecarPath(path));
   if (!error.empty()) host_.Message(MessageKind::Warning, "", error);
   return true;
 }
@@ -305,12 +310,34 @@ void Workspace::SetNotes(int slot, const std::string& notes) {
 }
 
 bool Workspace::MnuCloseAll_Click() {
-  bool all = true;
+  std::vector<ClosedVideo> closed;
   for (int slot = 1; slot <= kSlots; ++slot)
-    if (HasVideo(slot)) all = CloseVideo(slot) && all;
+    if (HasVideo(slot)) closed.push_back({slot, At(slot).path, MP(slot).Position()});
+  const std::string layout = Maximized() ? SavedLayout : ScreenLayout;
+  bool all = true;
+  for (const ClosedVideo& video : closed) all = CloseVideo(video.slot) && all;
+  if (!closed.empty()) {
+    closed_ = std::move(closed);
+    closedLayout_ = layout;
+  }
   CurrentWindow = 1;
   FocusSet();
+  view_.CommandsChanged();
   return all;
+}
+
+bool Workspace::CanReopen() const {
+  return !closed_.empty() && std::ranges::all_of(slots_, [](const Slot& at) { return at.path.empty(); });
+}
+
+void Workspace::ReopenClosed() {
+  if (!CanReopen()) return;
+  const auto videos = std::exchange(closed_, {});
+  SetScreen(Val(closedLayout_));
+  for (const ClosedVideo& video : videos)
+    if (OpenVideo(video.slot, video.path)) MP(video.slot).DrawFrame(video.position);
+  SelectWindow(videos.front().slot);
+  view_.CommandsChanged();
 }
 
 int Workspace::SendToAnalysis(const std::string& path, const std::function<void(const std::string&)>& status) {
@@ -424,8 +451,7 @@ void Workspace::ToggleReverseFields() {
 
 void Workspace::SetZoom(double zoom) {
   if (!HasVideo(CurrentWindow)) return;
-  // Tenths stay tenths, however often a step is added.
-  Current().VideoZoom = std::round(std::clamp(zoom, 0.2, 4.0) * 10) / 10;
+  Current().VideoZoom = NearestZoom(zoom);
   MPResize(CurrentWindow);
 }
 

@@ -92,6 +92,10 @@ class Workspace {
   bool CloseVideo(int slot);
   /// False when the user kept one open.
   bool MnuCloseAll_Click();
+  /// Opens again what MnuCloseAll_Click closed last: the same videos at the same pictures in the same layout.
+  /// Nothing happens once a video stands in a slot.
+  void ReopenClosed();
+  bool CanReopen() const;
   /// Opens a file in the first free slot and widens the layout when more slots are in use than it shows.
   /// Returns the slot, or 0 with nothing changed. `status` gets the words for a status line.
   int SendToAnalysis(const std::string& path, const std::function<void(const std::string&)>& status = {});
@@ -166,7 +170,16 @@ class Workspace {
   IHost& host_;
   Settings& settings_;
   IWorkspaceView& view_;
+  /// A video as it stood when all were closed.
+  struct ClosedVideo {
+    int slot = 1;
+    std::string path;
+    int position = 0;
+  };
+
   std::array<Slot, kSlots> slots_;
+  std::vector<ClosedVideo> closed_;  ///< what was closed last, all at once
+  std::string closedLayout_;
 };
 
 }  // namespace kinalyx

@@ -6,6 +6,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "FakeCompareView.h"
@@ -30,7 +31,7 @@ class FakeWindow final : public IWorkspaceView {
   int range = -1, value = -1;
   bool playing = false, slomo = false, loop = false;
   std::string line, counter, text, calibrationLength, reading, rate;
-  bool negative = false, timer = false, calibration = false;
+  bool negative = false, timer = false, calibration = false, lists = false;
   std::vector<int> marks;
   std::optional<Colour> colour;
   int colorButton = -1;
@@ -74,7 +75,11 @@ class FakeWindow final : public IWorkspaceView {
   void ShowCalibration(bool shown) override { calibration = shown; }
   void SetCalibrationLength(const std::string& length) override { calibrationLength = length; }
   void ShowNotesform() override { ++notesforms; }
-  void ShowOpenPanel() override { ++openPanels; }
+  void ShowOpenPanel() override {
+    ++openPanels;
+    lists = true;
+  }
+  bool CloseOpenPanel() override { return std::exchange(lists, false); }
   void CommandsChanged() override {}
   void FocusKeyBox() override { ++focused; }
 };

@@ -8,9 +8,6 @@
 namespace kinalyx::test {
 namespace {
 
-constexpr int kShift = 1;
-constexpr int kCtrl = 2;
-
 /// A section with one video in which a line, a square and a circle are drawn.
 struct Desk : AnalysisStage {
   explicit Desk(const std::string& layout = "1") : AnalysisStage(layout) {

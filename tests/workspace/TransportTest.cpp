@@ -298,5 +298,41 @@ TEST(CountdownTest, TenMinutesLastTenMinutesAndEndOnce) {
   EXPECT_FALSE(countdown.Running());
 }
 
+TEST(EscapeTest, LeavesOneThingAtATimeAndTheVideosComeBack) {
+  AnalysisStage stage("2");
+  stage.Open(1, stage.Video("a.avi"));
+  stage.Open(2, stage.Video("b.avi"));
+  stage.MP(2).DrawFrame(7);
+  stage.Commands().Run("TVT");
+  stage.Commands().Run("TN");
+  stage.Commands().Run("MZoom");
+  stage.Type('o');
+  stage.Key(kKeyEscape);
+  EXPECT_FALSE(stage.window.lists);
+  stage.Key(kKeyEscape);
+  EXPECT_FALSE(stage.window.notes);
+  stage.Key(kKeyEscape);
+  EXPECT_FALSE(stage.window.timer);
+  stage.Key(kKeyEscape);
+  EXPECT_FALSE(stage.analysis.Compare().ZoomShown());
+  EXPECT_TRUE(stage.Slots().HasVideo(1) && stage.Slots().HasVideo(2));
+  EXPECT_FALSE(stage.Commands().Run("ReopenVideos")) << "nothing is closed";
+
+  stage.Key(kKeyEscape);
+  EXPECT_FALSE(stage.Slots().HasVideo(1) || stage.Slots().HasVideo(2));
+  stage.Slots().SetScreen(1);
+  EXPECT_TRUE(stage.Commands().Form_KeyDown('T', kShift | kCtrl));
+  EXPECT_TRUE(stage.Slots().HasVideo(1) && stage.Slots().HasVideo(2));
+  EXPECT_EQ(stage.Slots().ScreenLayout, "2");
+  EXPECT_EQ(stage.MP(2).Position(), 7);
+
+  // Only as long as the stage is empty, and without what has gone from the disk meanwhile.
+  stage.Key(kKeyEscape);
+  std::filesystem::remove(stage.folder + "/a.avi");
+  EXPECT_TRUE(stage.Commands().Run("ReopenVideos"));
+  EXPECT_FALSE(stage.Slots().HasVideo(1));
+  EXPECT_TRUE(stage.Slots().HasVideo(2));
+}
+
 }  // namespace
 }  // namespace kinalyx::test

@@ -8,9 +8,6 @@
 namespace kinalyx::test {
 namespace {
 
-constexpr int kShift = 1;
-constexpr int kCtrl = 2;
-
 class Undo : public testing::Test {
  protected:
   void SetUp() override {

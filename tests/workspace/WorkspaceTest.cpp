@@ -261,6 +261,23 @@ TEST_F(BlockedSidecar, AnotherTrySavesThem) {
   EXPECT_EQ(stage.Shapes(1).NumShapes, 1);
 }
 
+TEST_F(BlockedSidecar, AVideoThatSomebodyElseTookAwayLeavesOnlyNewWorkBehind) {
+  Unblock();
+  std::filesystem::rename(path, path + " elsewhere");
+  EXPECT_TRUE(stage.Slots().CloseVideo(1));
+  EXPECT_FALSE(FileExists(SidecarPath(path)));
+  EXPECT_TRUE(stage.host.messages.empty());
+
+  std::filesystem::rename(path + " elsewhere", path);
+  ASSERT_TRUE(stage.Open(1, path));
+  DrawLine();
+  std::filesystem::rename(path, path + " elsewhere");
+  EXPECT_TRUE(stage.Slots().CloseVideo(1));
+  EXPECT_EQ(ReadSidecarMarks(SidecarPath(path)).First, 'S');
+  ASSERT_EQ(stage.host.messages.size(), 1u);
+  EXPECT_NE(stage.host.messages[0].find("are kept in " + SidecarPath(path)), std::string::npos);
+}
+
 TEST_F(BlockedSidecar, ADriveThatDoesNotAnswerIsNotWaitedForAgain) {
   Unblock();
   DrawLine();

@@ -124,7 +124,7 @@ void AnalysisForm::MakeStage() {
 }
 
 bool AnalysisForm::CloseAll() {
-  if (openPanel_ && !openPanel_->isHidden()) CloseOpenPanel();
+  CloseOpenPanel();
   return analysis_->Commands().PreparetoExit();
 }
 
@@ -348,9 +348,11 @@ void AnalysisForm::PlaceOpenPanel() {
   openPanel_->move(stage_->rect().center() - openPanel_->rect().center());
 }
 
-void AnalysisForm::CloseOpenPanel() {
+bool AnalysisForm::CloseOpenPanel() {
+  if (!openPanel_ || openPanel_->isHidden()) return false;
   openPanel_->hide();
   FocusKeyBox();
+  return true;
 }
 
 void AnalysisForm::CommandsChanged() {
@@ -359,7 +361,11 @@ void AnalysisForm::CommandsChanged() {
   const bool drawing = analysis_->Tools().Drawing();
   colors_->SetLive(drawing);
   edits_->Update();
-  for (VideoCell* cell : cells_) cell->MP().setCursor(drawing ? Qt::CrossCursor : Qt::ArrowCursor);
+  const bool canReopen = analysis_->Slots().CanReopen();
+  for (VideoCell* cell : cells_) {
+    cell->MP().setCursor(drawing ? Qt::CrossCursor : Qt::ArrowCursor);
+    cell->SetReopen(canReopen);
+  }
   compare_->SetDrawing(drawing);
   playBar_->SetVideo(analysis_->Slots().HasVideo(analysis_->Slots().CurrentWindow));
   playBar_->SetLocked(analysis_->Compare().Locks().IsLocked(analysis_->Slots().CurrentWindow));

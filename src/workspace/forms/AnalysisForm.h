@@ -56,7 +56,6 @@ class AnalysisForm : public QWidget, private IWorkspaceView {
  private:
   void MakeStage();
   void MakeOpenPanel();
-  void CloseOpenPanel();
   void PlaceOpenPanel();
   void FitOpenPanel();
   bool ScaleBars();
@@ -95,6 +94,7 @@ class AnalysisForm : public QWidget, private IWorkspaceView {
   void SetCalibrationLength(const std::string& length) override;
   void ShowNotesform() override;
   void ShowOpenPanel() override;
+  bool CloseOpenPanel() override;
   void CommandsChanged() override;
   void FocusKeyBox() override;
 

@@ -6,6 +6,7 @@
 
 #include "platform/files/FileStore.h"
 #include "platform/widgets/Buttons.h"
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 #include "workspace/forms/NotesPanel.h"
 
@@ -14,7 +15,6 @@ namespace kinalyx {
 Notesform::Notesform(IHost& host, const QString& text, QWidget* parent) : QDialog(parent), host_(host) {
   setObjectName("Notesform");
   setWindowTitle(tr("Print Window with Notes"));
-  resize(620, 440);
   auto* rows = new QVBoxLayout(this);
   rows->setContentsMargins(kGap, kGap, kGap, kGap);
   rows->setSpacing(kGap);
@@ -51,7 +51,10 @@ Notesform::Notesform(IHost& host, const QString& text, QWidget* parent) : QDialo
     }
   }
   rows->addLayout(actions);
+  LeastWidth(notes_, 596);
+  LeastHeight(notes_, 310);
   notes_->setFocus();
+  if (parent) ScaleForm(*this, *parent);
 }
 
 void Notesform::PrintBtn_Click(int index) {

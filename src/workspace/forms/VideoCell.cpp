@@ -3,6 +3,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
+#include <utility>
 
 #include "platform/widgets/Figures.h"
 #include "platform/widgets/Icons.h"
@@ -25,6 +26,10 @@ class VideoPanel : public QWidget {
     update();
   }
 
+  void SetReopen(bool possible) {
+    if (std::exchange(reopen_, possible) != possible) update();
+  }
+
  protected:
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
@@ -38,7 +43,9 @@ class VideoPanel : public QWidget {
     painter.setFont(UiFont(kTextPixels));
     painter.setPen(look.faintInk);
     painter.drawText(QRect(12, top + icon + 10, width() - 24, Px(44)), Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap,
-                     VideoCell::tr("Double click or press O to open a video"));
+                     reopen_ ? VideoCell::tr("Double click or press O to open a video\n"
+                                             "Ctrl+Shift+T brings back those that were closed")
+                             : VideoCell::tr("Double click or press O to open a video"));
     painter.setFont(UiFont(kCaptionPixels));
     painter.setPen(Mix(look.faintInk, look.ground, 0.35));
     painter.drawText(QRect(10, 8, width() - 20, Px(16)), Qt::AlignLeft | Qt::AlignTop, VideoCell::tr("Window %1").arg(slot_));
@@ -47,6 +54,7 @@ class VideoPanel : public QWidget {
  private:
   int slot_;
   bool filled_ = false;
+  bool reopen_ = false;  // the videos that were closed can come back
 };
 
 VideoCell::VideoCell(int slot, PlayerServices& services, QWidget* parent) : QWidget(parent) {
@@ -97,6 +105,8 @@ void VideoCell::SetCurrent(bool current) {
   current_ = current;
   update();
 }
+
+void VideoCell::SetReopen(bool possible) { panel_->SetReopen(possible); }
 
 void VideoCell::SetTitle(const QString& title) {
   name_ = title;

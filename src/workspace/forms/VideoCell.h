@@ -25,6 +25,8 @@ class VideoCell : public QWidget {
   void PlacePlayer(const QRect& place, bool shown);
   void SetCurrent(bool current);
   void SetTitle(const QString& title);
+  /// An empty cell also tells how the videos that were closed come back.
+  void SetReopen(bool possible);
   /// The lock picture behind the name.
   void SetLocked(bool locked);
   void SetPosition(int position, int maximum, const QString& line);
