@@ -83,7 +83,10 @@ LibraryOperations::Done ProgressForm::Begin(const QString& title, std::function<
 void ProgressForm::ShowProgress(const JobProgress& progress) {
   // The work begins with its first word: a question that was asked before it does not count.
   if (began_ < 0) began_ = host_.timeGetTime();
-  if (!isVisible() && operations_.Busy() && host_.timeGetTime() - began_ >= kPatienceMs) show();
+  if (!isVisible() && operations_.Busy() && host_.timeGetTime() - began_ >= kPatienceMs) {
+    if (parentWidget()) ScaleForm(*this, *parentWidget());
+    show();
+  }
   gauge_->setValue(qRound(progress.part * kParts));
   QString current = Q(progress.current);
   if (progress.total > 1) current = QString("%1 of %2   %3").arg(qMin(progress.done + 1, progress.total)).arg(progress.total).arg(current);
