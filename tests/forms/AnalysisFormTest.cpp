@@ -69,6 +69,17 @@ TEST_F(AnalysisFormTest, TheMouseDrawsOnThePicture) {
   EXPECT_EQ(shapes.NumShapes, 0);
   EXPECT_FALSE(Find<QPushButton>("Lastcadoff")->isEnabled());
 
+  // The caption of the tool lies over the picture, and lets what is drawn through.
+  Click("CmdMakeShape1");
+  auto* caption = Find<QWidget>("DrawCaption");
+  ASSERT_TRUE(caption->isVisible());
+  const QPoint at = Find<QWidget>("MP1")->mapFromGlobal(caption->mapToGlobal(QPoint(4, 6)));
+  QTest::mouseClick(caption, Qt::LeftButton, {}, {4, 6});
+  ASSERT_EQ(shapes.NumShapes, 1);
+  EXPECT_EQ(shapes.Shapes[0].Pts[0], (POINTAPI{at.x(), at.y()}));
+  Click("DrawOffBtn");
+  Click("Lastcadoff");
+
   Click("CmdMakeShape4");
   Click("DrawOffBtn");
   EXPECT_FALSE(form->Analysis().Tools().Drawing());

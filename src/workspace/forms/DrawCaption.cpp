@@ -2,7 +2,9 @@
 
 #include <QBoxLayout>
 #include <QEvent>
+#include <QCoreApplication>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QToolButton>
 
 #include "platform/widgets/Icons.h"
@@ -33,8 +35,36 @@ DrawCaption::DrawCaption(QWidget* parent) : QFrame(parent) {
   row->addWidget(text_);
   row->addWidget(off_);
   swatch_->hide();
+  setMouseTracking(true);
+  for (QWidget* part : {static_cast<QWidget*>(swatch_), static_cast<QWidget*>(text_)})
+    part->setAttribute(Qt::WA_TransparentForMouseEvents);
+  off_->setCursor(Qt::ArrowCursor);
   hide();
   Dress();
+}
+
+QWidget* DrawCaption::Beneath(const QPoint& at) {
+  setAttribute(Qt::WA_TransparentForMouseEvents);
+  QWidget* const found = parentWidget()->childAt(mapToParent(at));
+  setAttribute(Qt::WA_TransparentForMouseEvents, false);
+  return found;
+}
+
+bool DrawCaption::event(QEvent* event) {
+  const QEvent::Type type = event->type();
+  if (type != QEvent::MouseButtonPress && type != QEvent::MouseButtonRelease && type != QEvent::MouseMove &&
+      type != QEvent::MouseButtonDblClick)
+    return QFrame::event(event);
+  const auto& mouse = static_cast<const QMouseEvent&>(*event);
+  QWidget* const target = pressed_ ? pressed_.data() : Beneath(mouse.position().toPoint());
+  if (type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick) pressed_ = target;
+  if (type == QEvent::MouseButtonRelease && mouse.buttons() == Qt::NoButton) pressed_ = nullptr;
+  if (!target) return true;
+  setCursor(target->cursor());
+  QMouseEvent through(type, target->mapFromGlobal(mouse.globalPosition()), mouse.globalPosition(), mouse.button(),
+                      mouse.buttons(), mouse.modifiers());
+  QCoreApplication::sendEvent(target, &through);
+  return true;
 }
 
 void DrawCaption::SetText(const QString& text) {

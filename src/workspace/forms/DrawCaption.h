@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFrame>
+#include <QPointer>
 
 #include "platform/paint/Geometry.h"
 
@@ -10,7 +11,8 @@ class QToolButton;
 namespace kinalyx {
 
 /// What the tool in hand says over the picture: its colour `VectorColorDisplay`, its caption or the measure
-/// of the shape, and the button `DrawOffBtn` that puts it down.
+/// of the shape, and the button `DrawOffBtn` that puts it down. But for that button the mouse goes through
+/// it: what is to be drawn may lie just beneath.
 class DrawCaption : public QFrame {
   Q_OBJECT
 
@@ -29,13 +31,16 @@ class DrawCaption : public QFrame {
 
  protected:
   void changeEvent(QEvent* event) override;
+  bool event(QEvent* event) override;
 
  private:
   void Dress();
+  QWidget* Beneath(const QPoint& at);
 
   QFrame* swatch_;
   QLabel* text_;
   QToolButton* off_;
+  QPointer<QWidget> pressed_;  ///< what lay beneath when a mouse button went down
 };
 
 }  // namespace kinalyx
