@@ -53,9 +53,9 @@ void WindowPainter::Align(std::span<const Shape> shapes, std::span<const Colour>
   for (const Entry& entry : entries_) bytes_ += entry.layer.Bytes();
 }
 
-bool WindowPainter::AllRest(std::span<const Shape> shapes, std::span<const Colour> colours) const {
-  for (std::size_t i = 0; i < shapes.size(); ++i)
-    if (!entries_[i].kept || !entries_[i].content.Shows(shapes[i], colours[i])) return false;
+bool WindowPainter::AllRest(const Job& job) const {
+  for (std::size_t i = 0; i < job.shapes.size(); ++i)
+    if (!entries_[i].kept || !entries_[i].content.Shows(job.shapes[i], job.colours[i])) return false;
   return true;
 }
 
@@ -80,69 +80,80 @@ void WindowPainter::PaintGrid(Canvas& canvas, const GridLook& grid) {
   grid_.LayOver(canvas.Target());
 }
 
+/// Everything is stale once the frame has another look.
+void WindowPainter::Begin(const Frame& frame) {
+  if (frame == frame_) return;
+  frame_ = frame;
+  entries_.clear();
+  DropWhole();
+  grid_ = Layer();
+  gridLook_ = GridLook();
+  bytes_ = 0;
+}
+
+Layer WindowPainter::Record(const Job& job, const std::function<void(Canvas&)>& paint) const {
+  return Layer::Record(frame_.width, frame_.height, [&](Canvas& kept) {
+    kept.SetPen(job.pen);
+    paint(kept);
+  });
+}
+
+/// Lays a long list that rests in one go; false while there is no such layer.
+bool WindowPainter::LayWhole(const Job& job, Surface& surface) {
+  if (!AllRest(job)) {
+    DropWhole();
+    return false;
+  }
+  if (job.shapes.size() < kLongList || ++framesAtRest_ <= kRestingFrames) return false;
+  if (whole_.Empty() && bytes_ < kMostBytes) {
+    whole_ = Record(job, [&](Canvas& kept) {
+      for (std::size_t i = 0; i < job.shapes.size(); ++i) PaintShape(job.shapes[i], job.colours[i], kept, job.look, job.rules);
+    });
+    bytes_ += whole_.Bytes();
+  }
+  if (whole_.Empty()) return false;
+  whole_.LayOver(surface);
+  return true;
+}
+
+/// Lays the layer of one shape, or paints the shape; a layer is made of it when it has come to rest and
+/// `mayKeep` allows another one in this frame. False when it could not be drawn.
+bool WindowPainter::PaintOne(const Job& job, std::size_t i, Canvas& canvas, int& mayKeep) {
+  const Shape& shape = job.shapes[i];
+  Entry& entry = entries_[i];
+  bool drawn = true;
+  if (!entry.content.Shows(shape, job.colours[i])) {
+    entry.content.Take(shape, job.colours[i]);
+    bytes_ -= entry.layer.Bytes();
+    entry.layer = Layer();
+    entry.kept = false;
+  } else if (!entry.kept && mayKeep > 0 && bytes_ < kMostBytes) {
+    --mayKeep;
+    entry.layer = Record(job, [&](Canvas& kept) { drawn = PaintShape(shape, job.colours[i], kept, job.look, job.rules); });
+    // A shape that fails is tried, and told of, on each frame.
+    entry.kept = drawn;
+    bytes_ += entry.layer.Bytes();
+  }
+  if (!entry.kept) return PaintShape(shape, job.colours[i], canvas, job.look, job.rules);
+  entry.layer.LayOver(canvas.Target());
+  return true;
+}
+
 std::optional<std::size_t> WindowPainter::Paint(Canvas& canvas, std::span<const Shape> shapes,
                                                 std::span<const Colour> colours, const GridLook& grid,
                                                 const ShapeLook& look, const ShapeRules& rules) {
-  Surface& surface = canvas.Target();
+  const Surface& surface = canvas.Target();
   if (surface.Empty()) return std::nullopt;
-  const Pen pen = canvas.CurrentPen();
-  const Frame frame{surface.Width(), surface.Height(), pen.width, pen.style, rules.EllipseFromCentre, look};
-  if (frame != frame_) {
-    frame_ = frame;
-    entries_.clear();
-    DropWhole();
-    grid_ = Layer();
-    gridLook_ = GridLook();
-    bytes_ = 0;
-  }
+  const Job job{shapes, colours, look, rules, canvas.CurrentPen()};
+  Begin({surface.Width(), surface.Height(), job.pen.width, job.pen.style, rules.EllipseFromCentre, look});
   PaintGrid(canvas, grid);
   if (entries_.size() != shapes.size()) DropWhole();
   Align(shapes, colours);
-  if (!AllRest(shapes, colours)) {
-    DropWhole();
-  } else if (shapes.size() >= kLongList && ++framesAtRest_ > kRestingFrames) {
-    if (whole_.Empty() && bytes_ < kMostBytes) {
-      whole_ = Layer::Record(frame_.width, frame_.height, [&](Canvas& kept) {
-        kept.SetPen(pen);
-        for (std::size_t i = 0; i < shapes.size(); ++i) PaintShape(shapes[i], colours[i], kept, look, rules);
-      });
-      bytes_ += whole_.Bytes();
-    }
-    if (!whole_.Empty()) {
-      whole_.LayOver(surface);
-      return std::nullopt;
-    }
-  }
-
+  if (LayWhole(job, canvas.Target())) return std::nullopt;
   std::optional<std::size_t> failed;
   int mayKeep = kKeptPerFrame;
-  for (std::size_t i = 0; i < shapes.size(); ++i) {
-    const Shape& shape = shapes[i];
-    Entry& entry = entries_[i];
-    bool drawn = true;
-    const bool atRest = entry.content.Shows(shape, colours[i]);
-    if (!atRest) {
-      entry.content.Take(shape, colours[i]);
-      bytes_ -= entry.layer.Bytes();
-      entry.layer = Layer();
-      entry.kept = false;
-    } else if (!entry.kept && mayKeep > 0 && bytes_ < kMostBytes) {
-      --mayKeep;
-      entry.layer = Layer::Record(frame_.width, frame_.height, [&](Canvas& kept) {
-        kept.SetPen(pen);
-        drawn = PaintShape(shape, colours[i], kept, look, rules);
-      });
-      // A shape that fails is tried, and told of, on each frame.
-      entry.kept = drawn;
-      bytes_ += entry.layer.Bytes();
-    }
-    if (entry.kept) {
-      entry.layer.LayOver(surface);
-    } else {
-      drawn = PaintShape(shape, colours[i], canvas, look, rules);
-    }
-    if (!drawn && !failed) failed = i;
-  }
+  for (std::size_t i = 0; i < shapes.size(); ++i)
+    if (!PaintOne(job, i, canvas, mayKeep) && !failed) failed = i;
   return failed;
 }
 

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <span>
 #include <vector>
@@ -64,9 +65,22 @@ class WindowPainter {
     friend bool operator==(const Frame&, const Frame&) = default;
   };
 
+  /// What one call of Paint is about.
+  struct Job {
+    std::span<const Shape> shapes;
+    std::span<const Colour> colours;
+    const ShapeLook& look;
+    const ShapeRules& rules;
+    Pen pen;
+  };
+
+  void Begin(const Frame& frame);
   void Align(std::span<const Shape> shapes, std::span<const Colour> colours);
   /// Every shape is kept and has not changed.
-  bool AllRest(std::span<const Shape> shapes, std::span<const Colour> colours) const;
+  bool AllRest(const Job& job) const;
+  Layer Record(const Job& job, const std::function<void(Canvas&)>& paint) const;
+  bool LayWhole(const Job& job, Surface& surface);
+  bool PaintOne(const Job& job, std::size_t i, Canvas& canvas, int& mayKeep);
   void DropWhole();
   void PaintGrid(Canvas& canvas, const GridLook& grid);
 
