@@ -1,12 +1,15 @@
 #include "drawing/ShapeGeometry.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <limits>
 
 #include "drawing/ShapeStore.h"
 
 namespace kinalyx {
 namespace {
+
+constexpr int kTicksOut = 20;  // the width of a clock to what its ticks stand out on a side
 
 template <typename Integer>
 Integer RoundInto(double value) {
@@ -129,7 +132,8 @@ void RenderShape(Shape& shape, const ShapeRules& rules) {
     const double x = points[0].x;
     const double y = points[0].y;
     shape.Kind = kFreehand;
-    for (const auto& [dx, dy] : {std::pair{-10, 0}, {10, 0}, {0, 0}, {0, -10}, {0, 10}}) Append(shape, x + dx, y + dy);
+    for (const auto& [dx, dy] : {std::pair{-kFlagReach, 0}, {kFlagReach, 0}, {0, 0}, {0, -kFlagReach}, {0, kFlagReach}})
+      Append(shape, x + dx, y + dy);
   } else if (shape.Kind == kSquare && points.size() >= 2) {
     const POINTAPI a = points[0];
     const POINTAPI b = points[1];
@@ -164,14 +168,39 @@ POINTAPI GetMid(const Shape& shape, const ShapeRules& rules) {
   const auto points = BoundPoints(shape);
   if (points.empty()) return {};
   if (shape.Kind == kClock || (shape.Kind == kEllipse && rules.EllipseFromCentre)) return points[0];
-  POINTAPI least = points[0];
-  POINTAPI most = points[0];
-  for (const POINTAPI& point : points) {
-    least = {std::min(least.x, point.x), std::min(least.y, point.y)};
-    most = {std::max(most.x, point.x), std::max(most.y, point.y)};
+  ShapeBox box;
+  for (const POINTAPI& point : points) box.Add(point);
+  return RoundPoint((static_cast<double>(box.most.x) - box.least.x) / 2 + box.least.x,
+                    (static_cast<double>(box.most.y) - box.least.y) / 2 + box.least.y);
+}
+
+void ShapeBox::Add(POINTAPI point) {
+  least = {std::min(least.x, point.x), std::min(least.y, point.y)};
+  most = {std::max(most.x, point.x), std::max(most.y, point.y)};
+}
+
+void ShapeBox::Add(const Shape& shape, const ShapeRules& rules) {
+  const auto points = BoundPoints(shape);
+  if (points.empty()) return;
+  for (const POINTAPI& point : points) Add(point);
+  const auto around = [this](POINTAPI middle, int dx, int dy) {
+    Add(POINTAPI{middle.x - dx, middle.y - dy});
+    Add(POINTAPI{middle.x + dx, middle.y + dy});
+  };
+  if (shape.Kind == kFlag) around(points[0], kFlagReach, kFlagReach);
+  if (points.size() < 2) return;
+  const POINTAPI span{points[1].x - points[0].x, points[1].y - points[0].y};
+  if (shape.Kind == kClock) {
+    // Its ticks stand out of the circle in the box.
+    const int dx = std::abs(span.x) / kTicksOut;
+    const int dy = std::abs(span.y) / kTicksOut;
+    around(points[0], dx, dy);
+    around(points[1], dx, dy);
+  } else if (shape.Kind == kEllipse && rules.EllipseFromCentre) {
+    around(points[0], span.x, span.y);
+  } else if (shape.Kind == kParallelogram && points.size() > 2) {
+    Add(POINTAPI{points[2].x - span.x, points[2].y - span.y});
   }
-  return RoundPoint((static_cast<double>(most.x) - least.x) / 2 + least.x,
-                    (static_cast<double>(most.y) - least.y) / 2 + least.y);
 }
 
 // ---------------------------------------------------------------- swing path

@@ -45,6 +45,20 @@ void RenderShape(Shape& shape, const ShapeRules& rules = {});
 /// The point about which a shape turns and scales: the middle of its box, a clock's first point.
 POINTAPI GetMid(const Shape& shape, const ShapeRules& rules = {});
 
+/// Pixels from the middle of a plus sign to its ends.
+constexpr int kFlagReach = 10;
+
+/// An upright box of pixels; empty until something was added.
+struct ShapeBox {
+  POINTAPI least{INT32_MAX, INT32_MAX};
+  POINTAPI most{INT32_MIN, INT32_MIN};
+
+  bool Empty() const { return least.x > most.x; }
+  void Add(POINTAPI point);
+  /// Adds what a shape shows, which for some kinds is more than its points; pens are not counted.
+  void Add(const Shape& shape, const ShapeRules& rules = {});
+};
+
 // The swing path.
 
 /// The longest stretch of a smoothed path, as indexes of its points; equal when there is none.

@@ -11,7 +11,6 @@ namespace kinalyx {
 namespace {
 
 constexpr int kMarkerRadius = 2;      // of the newest point of an unfinished shape
-constexpr int kFlagReach = 10;        // half a plus sign
 constexpr double kBarbLength = 30;    // of an arrow
 constexpr double kNotchPart = 0.6;    // how far back from the tip the barbs meet, of their length
 constexpr double kHeadRadius = 30;    // of a stick man

@@ -13,40 +13,7 @@ namespace {
 
 constexpr int kLeftButton = 1;
 constexpr float kTwipsToDouble = 400;  // a drag of the scale handle that doubles the selection
-constexpr int kPlusArm = 10;           // pixels from the middle of a plus sign to its ends
 constexpr int kTwoWindows = 2;         // the layout of two windows side by side
-
-struct Box {
-  POINTAPI least{INT32_MAX, INT32_MAX};
-  POINTAPI most{INT32_MIN, INT32_MIN};
-
-  void Add(POINTAPI point) {
-    least = {std::min(least.x, point.x), std::min(least.y, point.y)};
-    most = {std::max(most.x, point.x), std::max(most.y, point.y)};
-  }
-  void Add(POINTAPI middle, int dx, int dy) {
-    Add({middle.x - dx, middle.y - dy});
-    Add({middle.x + dx, middle.y + dy});
-  }
-};
-
-/// Adds what a shape shows, which for some kinds is more than its points.
-void AddShape(Box& box, const Shape& shape, const ShapeRules& rules) {
-  const auto points = BoundPoints(shape);
-  if (points.empty()) return;
-  for (const POINTAPI& point : points) box.Add(point);
-  if (shape.Kind == kFlag) box.Add(points[0], kPlusArm, kPlusArm);
-  if (points.size() < 2) return;
-  const POINTAPI span{points[1].x - points[0].x, points[1].y - points[0].y};
-  if (shape.Kind == kClock) {
-    const int radius = Round(Distance(points[0], points[1]));
-    box.Add(points[0], radius, radius);
-  } else if (shape.Kind == kEllipse && rules.EllipseFromCentre) {
-    box.Add(points[0], span.x, span.y);
-  } else if (shape.Kind == kParallelogram && points.size() > 2) {
-    box.Add({points[2].x - span.x, points[2].y - span.y});
-  }
-}
 
 /// A shape by the name of the tool that draws it, which is not always that of its kind.
 std::string_view ToolName(const Shape& shape) {
@@ -76,13 +43,13 @@ std::optional<SelectionMarks> DrawingEdits::Marks() {
   const Shape* selected = SelectedShape(list);
   if (!HasVideo() || !selected || !selected->Locked || tools_.Drawing()) return std::nullopt;
   const ShapeRules rules = tools_.Engine().Rules();
-  Box box;
+  ShapeBox box;
   if (bar_.MultiEdit()) {
-    for (const Shape& shape : ShapesOf(list)) AddShape(box, shape, rules);
+    for (const Shape& shape : ShapesOf(list)) box.Add(shape, rules);
   } else {
-    AddShape(box, *selected, rules);
+    box.Add(*selected, rules);
   }
-  if (box.least.x > box.most.x) return std::nullopt;
+  if (box.Empty()) return std::nullopt;
   return SelectionMarks{box.least, box.most, bar_.MultiEdit() ? MultiGetMid(list, rules) : GetMid(*selected, rules)};
 }
 
