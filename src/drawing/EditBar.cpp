@@ -78,6 +78,11 @@ void EditBar::RefreshWindows() {
 
 void EditBar::ribEBBtn_Click(bool Value) {
   MultiEdit_ = Value;
+  ShapeList& list = List();
+  if (Value && !Selected() && list.NumShapes > 0) {
+    list.CurShape = 0;
+    for (const int handle : {kMoveHandle, kScaleHandle, kRotateHandle, kDeleteHandle}) view_.EnableHandle(handle, true);
+  }
   RefreshWindows();
 }
 

@@ -9,7 +9,6 @@
 namespace kinalyx {
 namespace {
 
-constexpr int kTicksOut = 20;  // the width of a clock to what its ticks stand out on a side
 
 template <typename Integer>
 Integer RoundInto(double value) {
@@ -190,13 +189,7 @@ void ShapeBox::Add(const Shape& shape, const ShapeRules& rules) {
   if (shape.Kind == kFlag) around(points[0], kFlagReach, kFlagReach);
   if (points.size() < 2) return;
   const POINTAPI span{points[1].x - points[0].x, points[1].y - points[0].y};
-  if (shape.Kind == kClock) {
-    // Its ticks stand out of the circle in the box.
-    const int dx = std::abs(span.x) / kTicksOut;
-    const int dy = std::abs(span.y) / kTicksOut;
-    around(points[0], dx, dy);
-    around(points[1], dx, dy);
-  } else if (shape.Kind == kEllipse && rules.EllipseFromCentre) {
+  if ((shape.Kind == kEllipse || shape.Kind == kClock) && rules.EllipseFromCentre) {
     around(points[0], span.x, span.y);
   } else if (shape.Kind == kParallelogram && points.size() > 2) {
     Add(POINTAPI{points[2].x - span.x, points[2].y - span.y});

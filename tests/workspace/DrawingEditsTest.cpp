@@ -71,6 +71,21 @@ TEST(DrawingEdits, TheBarSelectsByClickKeysAndCommands) {
   EXPECT_FALSE(desk.edits.bar);
 }
 
+TEST(DrawingEdits, AllAsOneNeedsNoChoiceAndFramesWhatIsSeen) {
+  Desk desk;
+  desk.Draw(9, 400, 100, 440, 180);
+  desk.Commands().Run("MenuEdit");
+  ASSERT_TRUE(desk.edits.marks);
+  EXPECT_EQ(desk.edits.marks->corner, (POINTAPI{400, 100})) << "a clock fills the box of its points";
+  EXPECT_EQ(desk.edits.marks->opposite, (POINTAPI{440, 180}));
+  desk.ClickOn(1, 20, 20);
+  ASSERT_FALSE(desk.edits.marks);
+  desk.Edits().ribEBBtn_Click(true);
+  EXPECT_TRUE(desk.edits.handles[kMoveHandle] && desk.edits.handles[kDeleteHandle]);
+  ASSERT_TRUE(desk.edits.marks);
+  EXPECT_EQ(desk.edits.marks->opposite, (POINTAPI{440, 300}));
+}
+
 TEST(DrawingEdits, HandlesOnThePictureFollowTheMouse) {
   Desk desk;
   desk.Commands().Run("MenuEdit");
