@@ -30,11 +30,13 @@ AnalysisWorkspace::AnalysisWorkspace(IHost& host, Settings& settings, PlaySchedu
       ruler_(settings, tools_, view),
       menuBar_({workspace_, transport_, tools_, edits_, timer_, notes_, rateTest_, ruler_, compare_}, view,
                std::move(navigation)) {
-  Connect();
+  menuBar_.SetProfilesTitle(Vocabulary(settings_).Profiles());
+  transport_.PositionShown = [this] { timer_.UpdateTimer(); };
+  ConnectModes();
+  ConnectVideos();
 }
 
-void AnalysisWorkspace::Connect() {
-  menuBar_.SetProfilesTitle(Vocabulary(settings_).Profiles());
+void AnalysisWorkspace::ConnectModes() {
   compare_.Entering = [this] { GiveWay(); };
   compare_.LocksChanged = [this] {
     transport_.ShowCurrent();
@@ -48,6 +50,9 @@ void AnalysisWorkspace::Connect() {
     if (!tools_.Drawing() || tools_.DrawKind() != kSquare) tools_.CmdMakeShape_Click(kSquare);
     view_.CommandsChanged();
   };
+}
+
+void AnalysisWorkspace::ConnectVideos() {
   workspace_.FootHeight = [this](int slot, int height) { return notes_.FootHeight(slot, height); };
   workspace_.PlayerResized = [this](int slot) {
     drawings_.PlayerResized(slot);
@@ -84,7 +89,6 @@ void AnalysisWorkspace::Connect() {
     notes_.SetupNotesPnl();
     compare_.StateChanged();
   };
-  transport_.PositionShown = [this] { timer_.UpdateTimer(); };
 }
 
 void AnalysisWorkspace::AttachPlayer(int slot, AVIControl& player) {
@@ -217,7 +221,12 @@ void AnalysisWorkspace::KeyPress(int KeyAscii, int) { menuBar_.Form_KeyPress(Key
 
 // ---------------------------------------------------------------- for the drawing tools
 
+bool AnalysisWorkspace::IsPlaying(int window) {
+  return workspace_.MP(window).IsPlaying() || compare_.Locks().PlayingTogether(window);
+}
+
 void AnalysisWorkspace::StopClick(int window) {
+  compare_.Locks().StopTogether();
   workspace_.MP(workspace_.CurrentWindow).StopPlay();
   transport_.StepReleased();
   if (workspace_.IsShown(window)) workspace_.CurrentWindow = window;

@@ -69,7 +69,8 @@ class AnalysisWorkspace final : public IFrameInterface, public IMouseAndKeyBoard
   void KeyUp(int, int, int) override {}
 
  private:
-  void Connect();
+  void ConnectModes();
+  void ConnectVideos();
   void ShowFocus();
   void GiveWay();
 
@@ -79,7 +80,7 @@ class AnalysisWorkspace final : public IFrameInterface, public IMouseAndKeyBoard
   bool HasVideo(int window) override { return workspace_.HasVideo(window); }
   int PictureWidth(int window) override { return workspace_.MP(window).ControlWidthPixels(); }
   int PictureHeight(int window) override { return workspace_.MP(window).ControlHeightPixels(); }
-  bool IsPlaying(int window) override { return workspace_.MP(window).IsPlaying(); }
+  bool IsPlaying(int window) override;
   void StopClick(int window) override;
   void ReleaseLoopButton() override;
   void Refresh(int window) override { workspace_.MP(window).Refresh(); }

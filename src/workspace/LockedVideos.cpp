@@ -172,7 +172,7 @@ void LockedVideos::Clear(int lock) {
 void LockedVideos::DualUnlock(int slot) {
   const int lock = LockOf(slot);
   if (lock < 0) return;
-  if (std::ranges::find(run_->Slots(), slot) != run_->Slots().end()) StopTogether();
+  if (PlayingTogether(slot)) StopTogether();
   Clear(lock);
   Tell();
 }
@@ -299,6 +299,8 @@ void LockedVideos::AdvancePartner(int slot) {
 // ---------------------------------------------------------------- playing together
 
 bool LockedVideos::PlayingTogether() const { return run_->Running(); }
+
+bool LockedVideos::PlayingTogether(int slot) const { return std::ranges::find(run_->Slots(), slot) != run_->Slots().end(); }
 
 void LockedVideos::PlayTogether() {
   if (run_->Running()) return StopTogether();

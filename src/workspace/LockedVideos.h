@@ -80,6 +80,8 @@ class LockedVideos {
   void PlayTogether();
   void StopTogether();
   bool PlayingTogether() const;
+  /// The common play moves this slot's video.
+  bool PlayingTogether(int slot) const;
   /// Percent of the current window's own speed, 1 to 1000; others are refused with false. A play goes on
   /// at the new speed.
   bool setTogetherSpeed(int percent);

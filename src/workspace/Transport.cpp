@@ -189,7 +189,7 @@ void Transport::ShowCurrent() {
   ShowCell(workspace_.CurrentWindow);
   view_.SetSlomoButton(player && player->Speed() != 100);
   view_.SetLoopButton(player && player->Repeat());
-  view_.SetPlayPicture(player && (player->IsPlaying() || (Locked() && locks_.PlayingTogether())));
+  view_.SetPlayPicture(player && (player->IsPlaying() || locks_.PlayingTogether(workspace_.CurrentWindow)));
   view_.SetMarks(workspace_.Current().marks);
 }
 

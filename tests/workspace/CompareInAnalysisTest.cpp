@@ -195,6 +195,18 @@ TEST_F(CompareInAnalysis, TheSliderOfTheStrobeKeepsALock) {
   EXPECT_FALSE(strobe.StrobeRunning()) << "a lock ends what would pull it apart";
 }
 
+TEST_F(CompareInAnalysis, AClickStopsWhatLockedVideosPlayTogether) {
+  ASSERT_TRUE(stage_.Commands().Run("cmdDualPlay"));
+  stage_.analysis.Compare().Locks().PlayTogether();
+  stage_.host.Advance(100);
+  stage_.Key(kKeyF1 + 1);
+  stage_.Press(1, 50, 50);
+  stage_.Release(1, 50, 50);
+  EXPECT_FALSE(stage_.analysis.Compare().Locks().PlayingTogether());
+  EXPECT_EQ(stage_.Shapes(1).NumShapes, 0) << "the click that stops draws nothing";
+  EXPECT_TRUE(stage_.analysis.Compare().Locks().IsLocked(1));
+}
+
 TEST_F(CompareInAnalysis, PathTracedOnOneAdvancesItsPartner) {
   ASSERT_TRUE(stage_.Commands().Run("cmdDualPlay"));
   stage_.Key(kKeyF1 + 6);
