@@ -59,7 +59,7 @@ bool DrawParallelogram(Canvas& hDC, std::span<const POINTAPI> points) {
   const POINTAPI& p = points[0];
   const POINTAPI& q = points[1];
   const POINTAPI& r = points[2];
-  const POINTAPI corners[] = {p, q, r, Rounded(double{1} * r.x - q.x + p.x, double{1} * r.y - q.y + p.y)};
+  const POINTAPI corners[] = {p, q, r, Rounded(static_cast<double>(r.x) - q.x + p.x, static_cast<double>(r.y) - q.y + p.y)};
   return hDC.Polygon(corners);
 }
 

@@ -367,8 +367,8 @@ void AnalysisForm::CommandsChanged() {
     cell->SetReopen(canReopen);
   }
   compare_->SetDrawing(drawing);
-  playBar_->SetVideo(analysis_->Slots().HasVideo(analysis_->Slots().CurrentWindow));
-  playBar_->SetLocked(analysis_->Compare().Locks().IsLocked(analysis_->Slots().CurrentWindow));
+  const int current = analysis_->Slots().CurrentWindow;
+  playBar_->SetState(analysis_->Slots().HasVideo(current), analysis_->Compare().Locks().IsLocked(current));
 }
 
 void AnalysisForm::FocusKeyBox() {

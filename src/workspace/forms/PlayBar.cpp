@@ -82,7 +82,7 @@ PlayBar::PlayBar(Transport& transport, QWidget* parent) : QFrame(parent), transp
   for (QToolButton* step : {back_, next_}) step->installEventFilter(this);
 
   Dress();
-  SetVideo(false);
+  SetState(false, false);
 }
 
 void PlayBar::Dress() {
@@ -120,26 +120,20 @@ void PlayBar::changeEvent(QEvent* event) {
   }
 }
 
-void PlayBar::SetVideo(bool has) {
-  if (has == hasVideo_) return;
-  hasVideo_ = has;
-  locked_ = false;
-  for (QToolButton* button : {rewind_, back_, play_, next_, slomo_, loop_}) button->setEnabled(has);
-  seek_->setEnabled(has);
-  for (QWidget* part : {buttons_, static_cast<QWidget*>(seek_)})
-    part->setToolTip(has ? QString() : tr("Open a video first"));
-  for (QToolButton* button : {rewind_, back_, play_, next_, slomo_, loop_})
-    button->setToolTip(has ? button->accessibleName() : button->accessibleName() + " \u2014 " + tr("Open a video first"));
-}
-
-void PlayBar::SetLocked(bool locked) {
-  if (locked == locked_) return;
+void PlayBar::SetState(bool hasVideo, bool locked) {
+  if (hasVideo == hasVideo_ && locked == locked_) return;
+  hasVideo_ = hasVideo;
   locked_ = locked;
-  for (QToolButton* button : {rewind_, play_, slomo_, loop_}) {
-    button->setEnabled(hasVideo_ && !locked);
-    button->setToolTip(!locked ? button->accessibleName()
-                               : button->accessibleName() + " — " + tr("The videos are locked: use the bar below"));
-  }
+  const QString noVideo = hasVideo ? QString() : tr("Open a video first");
+  const QString refused = hasVideo && locked ? tr("The videos are locked: use the bar below") : noVideo;
+  const auto set = [](QToolButton* button, const QString& obstacle) {
+    button->setEnabled(obstacle.isEmpty());
+    button->setToolTip(button->accessibleName() + (obstacle.isEmpty() ? "" : " \u2014 ") + obstacle);
+  };
+  for (QToolButton* button : {back_, next_}) set(button, noVideo);
+  for (QToolButton* button : {rewind_, play_, slomo_, loop_}) set(button, refused);
+  seek_->setEnabled(hasVideo);
+  for (QWidget* part : {buttons_, static_cast<QWidget*>(seek_)}) part->setToolTip(noVideo);
 }
 
 QToolButton* PlayBar::Button(const char* name, const QString& tip) {

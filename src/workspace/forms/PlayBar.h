@@ -26,10 +26,9 @@ class PlayBar : public QFrame {
   void SetLine(const QString& line, const QString& counter);
   void SetMarks(const std::vector<int>& marks);
 
-  /// Without a video in the current window there is nothing to press.
-  void SetVideo(bool has);
-  /// Locked videos are played and rewound by the bar of the lock.
-  void SetLocked(bool locked);
+  /// Without a video in the current window there is nothing to press; locked videos are played and rewound
+  /// by the bar of the lock.
+  void SetState(bool hasVideo, bool locked);
   bool Docked() const { return docked_; }
   /// Keeps a floating bar inside its parent.
   void KeepInside();
