@@ -125,6 +125,7 @@ void AnalysisWorkspace::ShowFocus() {
 
 /// A mode takes the stage, or the mouse: what is in hand is put down, and what lies on a picture goes.
 void AnalysisWorkspace::GiveWay() {
+  if (ruler_.Shown()) ruler_.CalibBtn_Click(1);  // without its tool it would wait for ever
   tools_.DrawOffBtn_Click();
   edits_.PutAway();
   notes_.Close();

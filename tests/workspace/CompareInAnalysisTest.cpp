@@ -94,6 +94,10 @@ TEST_F(CompareInAnalysis, AModeThatTakesTheStageClearsIt) {
     ASSERT_TRUE(stage_.Commands().Run(mode));
     EXPECT_FALSE(stage_.analysis.Tools().Drawing()) << mode;
     ASSERT_TRUE(stage_.Commands().Run(mode));
+    ASSERT_TRUE(stage_.Commands().Run("TCal"));
+    ASSERT_TRUE(stage_.Commands().Run(mode));
+    EXPECT_FALSE(stage_.window.calibration) << mode;
+    ASSERT_TRUE(stage_.Commands().Run(mode));
   }
 }
 
