@@ -35,7 +35,6 @@ class TestWorkspace final : public IDrawingWorkspace {
   int active = 1;
   bool hasVideo = true;
   bool playing = false;
-  bool takesSquares = false;
   bool calibrating = false;
   std::map<int, int> frame;
   std::map<int, int> refreshed;
@@ -70,7 +69,7 @@ class TestWorkspace final : public IDrawingWorkspace {
   void SetColorButton(int index) override { button = index; }
   void ShowDrawError(const std::string& text) override { errors.push_back(text); }
   void DrawingsChanged(int) override { ++drawingsChanged; }
-  bool TakeSquare(int, const Shape&) override { return takesSquares; }
+  bool TakeSquare(int, const Shape&) override { return false; }
   bool CalibrationShown() override { return calibrating; }
   void ShowCalibrationLength(const std::string& text) override { calibrationLength = text; }
 };
@@ -94,6 +93,11 @@ struct Desk {
   }
 
   ShapeList& List(int window = 1) { return engine.ShapeLists(window); }
+  /// The fixed points of one of the first window's shapes.
+  std::vector<POINTAPI> Points(std::size_t shape) {
+    const auto points = BoundPoints(List().Shapes[shape]);
+    return {points.begin(), points.end()};
+  }
   void Move(int x, int y, int window = 1) { tools.MouseMove(0, 0, static_cast<float>(x), static_cast<float>(y), window); }
   bool Down(int x, int y, int window = 1, int button = 1) {
     return tools.MouseDown(button, 0, static_cast<float>(x), static_cast<float>(y), window);

@@ -10,18 +10,13 @@ namespace {
 
 struct Strip final : IEditBarView {
   bool shown = false;
-  int place = 0;
   std::map<int, bool> enabled;
   bool multiEnabled = false;
-  bool multiDown = false;
   bool guide = false;
   void ShowEditBar(bool show) override { shown = show; }
-  void PlaceEditBar(int window) override { place = window; }
+  void PlaceEditBar(int) override {}
   void EnableHandle(int handle, bool enable) override { enabled[handle] = enable; }
-  void SetMultiButton(bool enable, bool down) override {
-    multiEnabled = enable;
-    multiDown = down;
-  }
+  void SetMultiButton(bool enable, bool) override { multiEnabled = enable; }
   void ShowRotationGuide(bool show) override { guide = show; }
   int HandleWidth(int) override { return 600; }
   int HandleHeight(int) override { return 600; }
@@ -42,29 +37,22 @@ struct EditDesk : Desk {
 
 TEST(EditBar, HandlesFollowTheSelection) {
   EditDesk desk;
-  desk.bar.cmdEBBtn_Click(kNextHandle);
+  desk.bar.cmdEBBtn_Click(kEndHandle);
   EXPECT_FALSE(desk.strip.shown) << "no handle works while the bar is down";
   desk.bar.MenuEdit_Click();
   EXPECT_TRUE(desk.strip.shown);
-  EXPECT_FALSE(desk.strip.enabled[kNextHandle]);
-  EXPECT_FALSE(desk.strip.enabled[kMoveHandle]);
+  EXPECT_FALSE(desk.strip.enabled[kNextHandle] || desk.strip.enabled[kMoveHandle]);
   EXPECT_TRUE(desk.strip.enabled[kEndHandle]);
 
   desk.Draw(kFlag, {{10, 10}});
   EXPECT_TRUE(desk.strip.enabled[kDeleteHandle]);
   EXPECT_FALSE(desk.strip.multiEnabled) << "one shape needs no multi mode";
   desk.Draw(kFlag, {{20, 10}});
-  desk.Draw(kFlag, {{30, 10}});
   EXPECT_TRUE(desk.strip.multiEnabled);
-
-  desk.List().CurShape = 1;
-  desk.bar.cmdEBBtn_Click(kNextHandle);
-  EXPECT_EQ(desk.List().CurShape, 2);
   desk.bar.cmdEBBtn_Click(kNextHandle);
   EXPECT_EQ(desk.List().CurShape, 0) << "round again";
   desk.bar.cmdEBBtn_Click(kDeleteHandle);
-  EXPECT_EQ(desk.List().NumShapes, 2);
-  EXPECT_EQ(desk.List().Shapes[0].Pts[0].x, 20);
+  EXPECT_EQ(desk.Points(0)[0].x, 20);
   desk.bar.cmdEBBtn_Click(kEndHandle);
   EXPECT_FALSE(desk.strip.shown);
 }
@@ -75,22 +63,20 @@ TEST(EditBar, DragsMoveScaleAndRotate) {
   desk.bar.MenuEdit_Click();
   // Ten steps of seven twips are less than a pixel each and five pixels together.
   desk.Drag(kMoveHandle, {{0, 0}, {7, 0}, {14, 0}, {21, 0}, {28, 0}, {35, 0}, {42, 0}, {49, 0}, {56, 0}, {63, 0}, {70, 0}});
-  EXPECT_EQ(desk.List().Shapes[0].Pts[0], (POINTAPI{105, 100}));
+  EXPECT_EQ(desk.Points(0)[0], (POINTAPI{105, 100}));
   desk.Drag(kScaleHandle, {{300, 500}, {300, 300}, {300, 100}});
-  EXPECT_EQ(desk.List().Shapes[0].Pts[0], (POINTAPI{55, 100})) << "400 twips up are twice as large";
-  EXPECT_EQ(desk.List().Shapes[0].Pts[1], (POINTAPI{255, 100}));
+  EXPECT_EQ(desk.Points(0), (std::vector<POINTAPI>{{55, 100}, {255, 100}})) << "400 twips up are twice as large";
   EXPECT_EQ(desk.List().Shapes[0].SavedPts.size(), 1u) << "the end of the drag lets the saved points go";
   desk.bar.cmdEBBtn_MouseDown(kRotateHandle, 1, 0, 600, 300);
   EXPECT_TRUE(desk.strip.guide);
   desk.bar.cmdEBBtn_MouseMove(kRotateHandle, 1, 0, 300, 600);
   desk.bar.cmdEBBtn_MouseUp(kRotateHandle, 1, 0, 300, 600);
   EXPECT_FALSE(desk.strip.guide);
-  EXPECT_EQ(desk.List().Shapes[0].Pts[0], (POINTAPI{155, 0}));
-  desk.tools.Undo(1);
-  EXPECT_EQ(desk.List().Shapes[0].Pts[0], (POINTAPI{55, 100})) << "each drag is one step back";
-  desk.tools.Undo(1);
-  desk.tools.Undo(1);
-  EXPECT_EQ(desk.List().Shapes[0].Pts[0], (POINTAPI{100, 100}));
+  EXPECT_EQ(desk.Points(0)[0], (POINTAPI{155, 0}));
+  for (const POINTAPI& before : {POINTAPI{55, 100}, {105, 100}, {100, 100}}) {
+    desk.tools.Undo(1);
+    EXPECT_EQ(desk.Points(0)[0], before) << "each drag is one step back";
+  }
 }
 
 TEST(EditBar, InMultiModeAllShapesGoTogether) {
@@ -101,10 +87,10 @@ TEST(EditBar, InMultiModeAllShapesGoTogether) {
   desk.bar.MenuEdit_Click();
   desk.bar.ribEBBtn_Click(true);
   desk.Drag(kMoveHandle, {{0, 0}, {150, -150}});
-  EXPECT_EQ(desk.List().Shapes[0].Pts[0], (POINTAPI{110, 90}));
-  EXPECT_EQ(desk.List().Shapes[1].Pts[0], (POINTAPI{261, 190}));
+  EXPECT_EQ(desk.Points(0)[0], (POINTAPI{110, 90}));
+  EXPECT_EQ(desk.Points(1)[0], (POINTAPI{261, 190}));
   desk.Drag(kRotateHandle, {{600, 300}, {300, 600}});
-  EXPECT_EQ(desk.List().Shapes[0].Pts[0], (POINTAPI{260, 40}));
+  EXPECT_EQ(desk.Points(0)[0], (POINTAPI{260, 40}));
   EXPECT_EQ(desk.List().Shapes[1].Kind, kFreehand) << "a plus sign that was turned is six points";
   desk.bar.SetEditBar();
   EXPECT_FALSE(desk.bar.MultiEdit());
@@ -112,9 +98,7 @@ TEST(EditBar, InMultiModeAllShapesGoTogether) {
   // A macro that was laid over the window is placed as a whole.
   desk.bar.EditWhole();
   EXPECT_TRUE(desk.bar.MultiEdit());
-  EXPECT_TRUE(desk.strip.multiDown);
-  EXPECT_FALSE(desk.strip.enabled[kNextHandle]);
-  EXPECT_FALSE(desk.strip.enabled[kRotateHandle]);
+  EXPECT_FALSE(desk.strip.enabled[kNextHandle] || desk.strip.enabled[kRotateHandle]);
   desk.bar.cmdEBBtn_Click(kEndHandle);
   EXPECT_TRUE(desk.strip.enabled[kNextHandle]);
 }

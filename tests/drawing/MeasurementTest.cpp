@@ -8,20 +8,22 @@ namespace {
 const Calibration kNone{};
 
 TEST(Measurement, AnglesAreWholeDegrees) {
-  EXPECT_EQ(GetAngle({0, 0}, {0, 100}, {100, 100}, AngleMode::Opening), 90);
   EXPECT_EQ(GetAngle({0, 0}, {0, 0}, {100, 0}, AngleMode::ToVertical), 90);
-  EXPECT_EQ(GetAngle({10, 0}, {0, 0}, {10, 10}, AngleMode::Opening), 45);
-  EXPECT_EQ(GetAngle({10, 0}, {0, 0}, {-20, 0}, AngleMode::Opening), 180);
-  EXPECT_EQ(GetAngle({10, 0}, {0, 0}, {20, 0}, AngleMode::Opening), 0);
-  EXPECT_EQ(GetAngle({10, 0}, {0, 0}, {0, 0}, AngleMode::Opening), 0);
-  EXPECT_EQ(GetAngle({100, 0}, {0, 0}, {99, 16}, AngleMode::Opening), 9) << "9.18, cut";
+  const POINTAPI corner{0, 0};
+  for (const auto& [end, degrees] : {std::pair{POINTAPI{0, 10}, 90}, {{10, 10}, 45}, {{-20, 0}, 180},
+                                      {{20, 0}, 0}, {{0, 0}, 0}, {{99, 16}, 9}})
+    EXPECT_EQ(GetAngle({10, 0}, corner, end, AngleMode::Opening), degrees) << "9.18 is cut";
 }
 
-TEST(Measurement, LinesReadTheirAnglesAndLength) {
+TEST(Measurement, LinesAndAnglesReadInDegreesAndPixels) {
   EXPECT_EQ(ShapeCaption(Finished(kLine, {{50, 10}, {50, 117}}), kNone), "0°- 90° angle H-V     107 px");
   EXPECT_EQ(ShapeCaption(Finished(kLine, {{10, 50}, {110, 50}}), kNone), "90°- 0° angle H-V     100 px");
   EXPECT_EQ(ShapeCaption(Finished(kLine, {{0, 0}, {100, 100}}), kNone), "45°- 45° angle H-V     141.4 px") << "cut, not rounded";
   EXPECT_EQ(ShapeCaption(Finished(kLine, {{0, 0}}), kNone), std::nullopt);
+  EXPECT_EQ(ShapeCaption(Finished(kAngle, {{0, 0}, {0, 100}, {100, 200}}), kNone),
+            " 135° - 225° angle I-O     45° - 45° angle H-V ");
+  EXPECT_EQ(ShapeCaption(Finished(kAngle, {{100, 0}, {0, 0}, {100, 100}}), kNone),
+            " 45° - 315° angle I-O     45° - 45° angle H-V ");
 }
 
 TEST(Measurement, CalibratedLinesReadInTheChosenUnit) {
@@ -36,13 +38,6 @@ TEST(Measurement, CalibratedLinesReadInTheChosenUnit) {
   EXPECT_EQ(text(kMetres, 10), head + "2.54m");
   EXPECT_EQ(ShapeCaption(line, {0, 10, kFeet, false}), head + "1000 px") << "not calibrated";
   EXPECT_EQ(ShapeCaption(line, {100, 0, kFeet, false}), head + "1000 px") << "a calibration that never worked";
-}
-
-TEST(Measurement, AnglesReadTheirOpening) {
-  EXPECT_EQ(ShapeCaption(Finished(kAngle, {{0, 0}, {0, 100}, {100, 200}}), kNone),
-            " 135° - 225° angle I-O     45° - 45° angle H-V ");
-  EXPECT_EQ(ShapeCaption(Finished(kAngle, {{100, 0}, {0, 0}, {100, 100}}), kNone),
-            " 45° - 315° angle I-O     45° - 45° angle H-V ");
 }
 
 TEST(Measurement, ACalibratedPathReadsItsSpeed) {

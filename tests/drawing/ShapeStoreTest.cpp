@@ -1,9 +1,7 @@
-#include <filesystem>
-#include <fstream>
-
 #include "DrawingSupport.h"
 #include "drawing/ShapeGeometry.h"
 #include "drawing/ShapeHistory.h"
+#include "support/TempFolder.h"
 
 namespace kinalyx::test {
 namespace {
@@ -66,13 +64,10 @@ TEST(ShapeStore, RemovedShapesCloseTheirGap) {
   KillShape(list, 0);
   ASSERT_EQ(list.NumShapes, 2);
   EXPECT_EQ(list.Shapes[0].Pts[0].x, 1);
-  KillShape(list, 1);
-  KillShape(list, 0);
+  for (const int index : {1, 0, 0}) KillShape(list, index);
   EXPECT_EQ(list.NumShapes, 0);
   EXPECT_EQ(list.Shapes.size(), 1u) << "one stale slot";
   EXPECT_TRUE(ShapesOf(list).empty());
-  KillShape(list, 0);
-  EXPECT_EQ(list.NumShapes, 0);
   EXPECT_EQ(ShapeEngine().AddShape(list, kLine, 5), &list.Shapes[0]);
   EXPECT_EQ(list.NumShapes, 1);
 }
@@ -102,31 +97,25 @@ TEST(ShapeStore, StraightModeHoldsPointsLevelOrUpright) {
   ShapeEngine engine;
   EXPECT_EQ(engine.ConstrainPoint({3, 4}), (POINTAPI{3, 4}));
   engine.StraightMode = true;
-  EXPECT_EQ(engine.ConstrainPoint({100, 100}), (POINTAPI{100, 100}));
-  EXPECT_EQ(engine.ConstrainPoint({150, 120}), (POINTAPI{150, 100}));
-  EXPECT_EQ(engine.ConstrainPoint({90, 180}), (POINTAPI{100, 180}));
-  EXPECT_EQ(engine.ConstrainPoint({140, 60}), (POINTAPI{100, 60})) << "a tie is upright";
+  for (const auto& [point, held] : {std::pair<POINTAPI, POINTAPI>{{100, 100}, {100, 100}}, {{150, 120}, {150, 100}},
+                                     {{90, 180}, {100, 180}}, {{140, 60}, {100, 60}}})
+    EXPECT_EQ(engine.ConstrainPoint(point), held) << "a tie is upright";
 }
 
 TEST(ShapeStore, TheLogWritesOnlyWhenItIsOn) {
-  const auto folder = std::filesystem::temp_directory_path() / "kinalyx-shape-log";
-  std::filesystem::remove_all(folder);
-  std::filesystem::create_directories(folder);
+  TempFolder folder;
   ShapeEngine engine;
-  engine.Log.path = (folder / "Kinalyx_Log.txt").string();
+  engine.Log.path = folder.Path("Kinalyx_Log.txt");
   ShapeList list;
   engine.AddShape(list, kLine, 1);
-  EXPECT_FALSE(std::filesystem::exists(engine.Log.path));
+  EXPECT_EQ(folder.FileCount(), 0u);
   engine.Log.LogEnabled = true;
   engine.AddPoint(list.Shapes[0], {7, -8}, true);
-  std::ifstream file(engine.Log.path);
-  std::string line;
-  std::getline(file, line);
-  ASSERT_EQ(line.size(), std::string("HH:MM:SS - DD/MM/YYYY - ").size() + std::string("Calling AddPoint((7, -8), True)").size());
-  EXPECT_EQ(line.substr(24), "Calling AddPoint((7, -8), True)");
+  const std::string log = folder.Get("Kinalyx_Log.txt");
+  const std::string line = log.substr(0, log.find_first_of("\r\n"));
+  ASSERT_EQ(line.find("Calling AddPoint((7, -8), True)"), std::string("HH:MM:SS - DD/MM/YYYY - ").size()) << log;
   EXPECT_EQ(line[2], ':');
   EXPECT_EQ(line[13], '/');
-  std::filesystem::remove_all(folder);
 }
 
 TEST(ShapeStore, ListsStretchAndFlip) {

@@ -5,9 +5,9 @@
 #include <bit>
 #include <cmath>
 
-#include "PaintSupport.h"
+#include "support/Surfaces.h"
 
-namespace kinalyx {
+namespace kinalyx::test {
 namespace {
 
 /// What the pixel of a mix has to be, byte by byte, worked out the slow way.
@@ -108,4 +108,4 @@ TEST(Dissolve, EachLevelLiesInTheOneBefore) {
 }
 
 }  // namespace
-}  // namespace kinalyx
+}  // namespace kinalyx::test

@@ -10,10 +10,10 @@
 #include <utility>
 #include <vector>
 
-#include "PaintSupport.h"
+#include "support/Surfaces.h"
 #include "platform/paint/Fonts.h"
 
-namespace kinalyx {
+namespace kinalyx::test {
 namespace {
 
 constexpr Colour kWhite = 0xFFFFFF;
@@ -312,4 +312,4 @@ TEST(Canvas, TextNeedsFontsAndStaysInItsBox) {
 }
 
 }  // namespace
-}  // namespace kinalyx
+}  // namespace kinalyx::test

@@ -8,11 +8,11 @@
 #include <filesystem>
 #include <fstream>
 
-#include "PaintSupport.h"
+#include "support/Surfaces.h"
 #include "platform/paint/PicturePainter.h"
 #include "support/TestVideos.h"
 
-namespace kinalyx {
+namespace kinalyx::test {
 namespace {
 
 using test::TestPath;
@@ -159,4 +159,4 @@ TEST(PicturePainter, LaysPicturesTurnedAndMixed) {
 }
 
 }  // namespace
-}  // namespace kinalyx
+}  // namespace kinalyx::test

@@ -6,9 +6,9 @@
 #include <random>
 #include <vector>
 
-#include "PaintSupport.h"
+#include "support/Surfaces.h"
 
-namespace kinalyx {
+namespace kinalyx::test {
 namespace {
 
 /// Lines, polygons and ellipses as an instructor draws them, each with a black rim beneath.
@@ -123,4 +123,4 @@ TEST(Layer, LeavesAPictureOfAnotherSizeAlone) {
 }
 
 }  // namespace
-}  // namespace kinalyx
+}  // namespace kinalyx::test

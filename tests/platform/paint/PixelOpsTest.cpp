@@ -7,9 +7,9 @@
 #include <random>
 #include <vector>
 
-#include "PaintSupport.h"
+#include "support/Surfaces.h"
 
-namespace kinalyx {
+namespace kinalyx::test {
 namespace {
 
 /// A picture as a decoder hands it over, with its rows padded to four bytes and noise between them.
@@ -109,4 +109,4 @@ TEST(MirrorHorizontal, TwiceIsThePictureAgain) {
 }
 
 }  // namespace
-}  // namespace kinalyx
+}  // namespace kinalyx::test
