@@ -13,9 +13,14 @@ constexpr const char* kPictureFilter =
 constexpr std::int32_t kPlaces = 10;
 constexpr std::int32_t kPlacesInRow = 3;
 
-bool Choose(IHost& host, Settings& settings, const char* title, std::string& setting) {
+bool Choose(IHost& host, Settings& settings, const char* title, std::string& setting, const IsPicture& isPicture) {
   const auto picture = host.PickFile({title, JoinPath(settings.AppPath, "pictures/backgrounds"), kPictureFilter});
   if (!picture) return false;
+  if (!isPicture(*picture)) {
+    host.Message(MessageKind::Warning, title,
+                 fmt::format("There is no picture in the file {} that can be shown. The old picture stays.", *picture));
+    return false;
+  }
   settings.Set(setting, *picture);
   return true;
 }
@@ -39,11 +44,15 @@ std::string CheckBackground(IHost& host, Settings& settings) {
   return FileExists(standard) ? standard : std::string();
 }
 
-bool ChooseBackground(IHost& host, Settings& settings) {
-  return Choose(host, settings, "Background Picture", settings.BackgroundPic);
+bool ChooseBackground(IHost& host, Settings& settings, const IsPicture& isPicture) {
+  return Choose(host, settings, "Background Picture", settings.BackgroundPic, isPicture);
 }
 
-bool ChooseLogo(IHost& host, Settings& settings) { return Choose(host, settings, "Logo", settings.LogoName); }
+bool ChooseLogo(IHost& host, Settings& settings, const IsPicture& isPicture) {
+  return Choose(host, settings, "Logo", settings.LogoName, isPicture);
+}
+
+void ResetBackground(Settings& settings) { settings.Set(settings.BackgroundPic, DefaultBackground(settings)); }
 
 void NextCaptionPosition(Settings& settings) {
   const std::int32_t next = settings.CaptionPosition + 1;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "core/Settings.h"
@@ -16,10 +17,15 @@ std::string DefaultBackground(const Settings& settings);
 /// when that is missing too: the page then shows a ground in the scheme's colours.
 std::string CheckBackground(IHost& host, Settings& settings);
 
-/// Lets the user choose another picture and writes it; false when the dialog was cancelled.
-bool ChooseBackground(IHost& host, Settings& settings);
+/// True when a file holds a picture that can be shown.
+using IsPicture = std::function<bool(const std::string& path)>;
+/// Lets the user choose another picture and writes it. False when the dialog was cancelled or, after a message,
+/// when there is no picture in the file: the old one stays.
+bool ChooseBackground(IHost& host, Settings& settings, const IsPicture& isPicture);
 /// The same for the logo of printouts.
-bool ChooseLogo(IHost& host, Settings& settings);
+bool ChooseLogo(IHost& host, Settings& settings, const IsPicture& isPicture);
+/// Goes back to the picture that comes with the program.
+void ResetBackground(Settings& settings);
 
 /// Moves the heading lines to the next of the ten places, from the last to the first, and writes it.
 void NextCaptionPosition(Settings& settings);

@@ -99,6 +99,8 @@ std::vector<Settings::Key> Settings::ConfigKeys() {
   add("WindowInfo1", "0", &WindowInfo[1]);
   add("WindowInfo2", "12000", &WindowInfo[2]);
   add("WindowInfo3", "9000", &WindowInfo[3]);
+  add("LastInstructor", "", &LastInstructor);
+  add("LastStudent", "", &LastStudent);
   return keys;
 }
 

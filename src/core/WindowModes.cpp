@@ -1,5 +1,7 @@
 #include "core/WindowModes.h"
 
+#include <algorithm>
+
 namespace kinalyx {
 
 namespace {
@@ -36,6 +38,14 @@ WindowPlace PlaceForMode(std::string_view mode, int screenWidth, int screenHeigh
       return {height / 2 - window.fromMiddleY, width / 2 - window.fromMiddleX, window.width, window.height, false};
   }
   return {0, 0, width, height, true};
+}
+
+ScreenArea FitOnScreen(ScreenArea window, const ScreenArea& available) {
+  window.width = std::min(window.width, available.width);
+  window.height = std::min(window.height, available.height);
+  window.left = std::clamp(window.left, available.left, available.left + available.width - window.width);
+  window.top = std::clamp(window.top, available.top, available.top + available.height - window.height);
+  return window;
 }
 
 int ScreenClass(std::int32_t formWidth) { return formWidth / kTwipsOfPixel < 1025 ? 1 : 2; }

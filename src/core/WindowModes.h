@@ -37,6 +37,18 @@ std::span<const WindowModeItem> WindowModeItems();
 /// @param screenWidth, screenHeight  pixels
 WindowPlace PlaceForMode(std::string_view mode, int screenWidth, int screenHeight);
 
+/// A window's place as far as the screen has room for it, its frame included. Pixels.
+struct ScreenArea {
+  int left = 0;
+  int top = 0;
+  int width = 0;
+  int height = 0;
+
+  friend bool operator==(const ScreenArea&, const ScreenArea&) = default;
+};
+/// Cuts and moves a window, so that all of it lies in the part of the screen that is free of panels.
+ScreenArea FitOnScreen(ScreenArea window, const ScreenArea& available);
+
 /// 1 for a main form less than 1025 pixels wide, else 2.
 /// @param formWidth  twips
 int ScreenClass(std::int32_t formWidth);

@@ -188,11 +188,29 @@ TEST(MenuPicture, AMissingPictureIsReportedOnce) {
   EXPECT_EQ(desk.host.messages.size(), 1u);
 
   const std::string picture = desk.folder.Put("mine.jpg", "x");
+  bool readable = true;
+  const auto isPicture = [&](const std::string&) { return readable; };
   desk.host.files = {std::nullopt, picture};
-  EXPECT_FALSE(ChooseBackground(desk.host, s));
-  EXPECT_TRUE(ChooseBackground(desk.host, s));
+  EXPECT_FALSE(ChooseBackground(desk.host, s, isPicture));
+  EXPECT_TRUE(ChooseBackground(desk.host, s, isPicture));
   EXPECT_EQ(CheckBackground(desk.host, s), picture);
   EXPECT_EQ(desk.OnDisk("General", "BackgroundPic"), picture);
+
+  readable = false;
+  desk.host.files = {desk.folder.Put("letter.jpg", "no picture")};
+  EXPECT_FALSE(ChooseBackground(desk.host, s, isPicture));
+  EXPECT_EQ(desk.host.messages.size(), 2u);
+  EXPECT_EQ(desk.OnDisk("General", "BackgroundPic"), picture) << "the old one stays";
+  ResetBackground(s);
+  EXPECT_EQ(desk.OnDisk("General", "BackgroundPic"), DefaultBackground(s));
+}
+
+TEST(WindowModes, AWindowStaysInSightWithItsTitleBar) {
+  const ScreenArea screen{0, 30, 1280, 770};
+  EXPECT_EQ(FitOnScreen({0, -20, 1280, 822}, screen), screen);
+  EXPECT_EQ(FitOnScreen({-84, 0, 1024, 700}, screen), (ScreenArea{0, 30, 1024, 700}));
+  EXPECT_EQ(FitOnScreen({300, 200, 1024, 700}, screen), (ScreenArea{256, 100, 1024, 700}));
+  EXPECT_EQ(FitOnScreen({100, 40, 800, 600}, screen), (ScreenArea{100, 40, 800, 600}));
 }
 
 TEST(MenuPicture, TheHeadingGoesRoundTenPlaces) {

@@ -1,4 +1,5 @@
 #include <QAction>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -64,6 +65,26 @@ TEST(FirstForm, KeepsEachChangeAndMakesTheSender) {
   EXPECT_EQ(ReadProfileValue("General", "SenderName", desk.mail.File()), "Erica Sample");
   EXPECT_EQ(ReadProfileValue("General", "Subject", desk.mail.File()), "Video Analysis from Links");
   EXPECT_EQ(desk.mail.Subject, "Video Analysis from Links");
+}
+
+TEST(FirstForm, EnterGoesOnToTheNextBoxBeforeItFinishes) {
+  Desk desk;
+  FirstForm form(desk.settings, desk.mail);
+  form.show();
+  form.activateWindow();
+  QApplication::processEvents();
+  const auto enter = [&] {
+    ASSERT_NE(form.focusWidget(), nullptr);
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QApplication::sendEvent(form.focusWidget(), &press);
+  };
+  EXPECT_EQ(form.focusWidget()->objectName(), "UserInfo0");
+  enter();
+  EXPECT_TRUE(form.isVisible());
+  EXPECT_EQ(form.focusWidget()->objectName(), "UserInfo1");
+  enter();
+  EXPECT_FALSE(form.isVisible());
+  EXPECT_EQ(desk.mail.Subject, "Video Analysis from Company Name");
 }
 
 TEST(FirstForm, ShowsWhatAnOlderVersionKnew) {
@@ -153,6 +174,13 @@ TEST(MenuPage, ItsButtonChoosesThePictureAndMovesTheHeading) {
   EXPECT_EQ(letters(left), 0);
   EXPECT_GT(letters(right), 100);
   EXPECT_EQ(changed.count(), 10);
+
+  desk.host.files = {desk.folder.Put("letter.png", "no picture at all")};
+  choose(0);
+  EXPECT_EQ(desk.host.titles, std::vector<std::string>{"Background Picture"});
+  EXPECT_EQ(desk.OnDisk("BackgroundPic"), picture) << "the old one stays";
+  choose(2);
+  EXPECT_NE(pixelAt(600, 350), QColor(200, 10, 10));
 }
 
 TEST(MenuPage, TheHeadingCanBeReadOnAnyPicture) {

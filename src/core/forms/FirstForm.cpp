@@ -1,6 +1,7 @@
 #include "core/forms/FirstForm.h"
 
 #include <QBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
@@ -91,6 +92,13 @@ void FirstForm::paintEvent(QPaintEvent*) {
   painter.fillRect(rect(), theme.field);
   painter.setPen(Mix(theme.line, theme.text, 0.3));
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+/// Enter goes on to the next box: who presses it in an empty form has not finished.
+void FirstForm::keyPressEvent(QKeyEvent* event) {
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (enter && name_->hasFocus()) company_->setFocus(Qt::TabFocusReason);
+  else QDialog::keyPressEvent(event);
 }
 
 void FirstForm::Finish() {

@@ -24,6 +24,7 @@ class FirstForm : public QDialog {
  protected:
   void showEvent(QShowEvent* event) override;
   void paintEvent(QPaintEvent*) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   void Finish();

@@ -95,6 +95,8 @@ MenuCanvas::MenuCanvas(const QString& name, QWidget* parent) : QWidget(parent) {
   setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
+bool MenuCanvas::CanShow(const std::string& path) { return !ReadPicture(QString::fromStdString(path)).isNull(); }
+
 void MenuCanvas::SetupMenu(IHost& host, Settings& settings) {
   const QString file = QString::fromStdString(CheckBackground(host, settings));
   if (file != file_ || picture_.isNull()) {

@@ -22,6 +22,8 @@ class MenuCanvas : public QWidget {
   /// Takes picture, lines and their place from the settings. A picture that has gone is reported and reset;
   /// one that cannot be read gives a ground in the scheme's colours.
   void SetupMenu(IHost& host, Settings& settings);
+  /// True when a file holds a picture.
+  static bool CanShow(const std::string& path);
   /// Only the lines and their place.
   void SetupCaptionLabels(const Settings& settings);
 

@@ -66,13 +66,18 @@ void MenuPage::ShowSetupMenu() {
   QMenu menu(this);
   menu.setObjectName("MenuSetup");
   menu.addAction("Choose Picture", this, [this] {
-    if (!ChooseBackground(host_, settings_)) return;
+    if (!ChooseBackground(host_, settings_, &MenuCanvas::CanShow)) return;
     SetupMenuImage();
     emit MenuChanged();
   });
   menu.addAction("Move Heading", this, [this] {
     NextCaptionPosition(settings_);
     SetupMenuImage();  // tells, too, when the picture has gone meanwhile
+    emit MenuChanged();
+  });
+  menu.addAction("Default Picture", this, [this] {
+    ResetBackground(settings_);
+    SetupMenuImage();
     emit MenuChanged();
   });
   menu.exec(setup_->mapToGlobal(setup_->rect().bottomRight() - QPoint(menu.sizeHint().width(), 0)));

@@ -75,6 +75,13 @@ void MenuSection::AddPicture() {
   actions->addWidget(move);
   actions->addStretch(1);
   picture->addLayout(actions);
+  auto* reset = new Button("MenuSetupBtn2", "Default Picture", {}, Look::Quiet);
+  reset->setToolTip("Back to the picture that comes with Kinalyx");
+  auto* back = new QHBoxLayout;
+  back->addWidget(reset);
+  back->addStretch(1);
+  picture->addLayout(back);
+  connect(reset, &QPushButton::clicked, this, [this] { MenuSetupBtn_Click(2); });
   connect(choose, &QPushButton::clicked, this, [this] { MenuSetupBtn_Click(0); });
   connect(move, &QPushButton::clicked, this, [this] { MenuSetupBtn_Click(1); });
 }
@@ -135,14 +142,17 @@ void MenuSection::SetupProgram() {
 }
 
 void MenuSection::SSCommand14_Click() {
-  if (ChooseLogo(host_, settings_)) ShowLogo();
+  if (ChooseLogo(host_, settings_, &MenuCanvas::CanShow)) ShowLogo();
 }
 
 void MenuSection::MenuSetupBtn_Click(int index) {
-  if (index == 0) {
-    if (!ChooseBackground(host_, settings_)) return;
-  } else {
-    NextCaptionPosition(settings_);
+  switch (index) {
+    case 0:
+      if (!ChooseBackground(host_, settings_, &MenuCanvas::CanShow)) return;
+      break;
+    case 1: NextCaptionPosition(settings_); break;
+    case 2: ResetBackground(settings_); break;
+    default: return;
   }
   sample_->SetupMenu(host_, settings_);
   emit MenuChanged();
