@@ -56,8 +56,10 @@ std::vector<LibraryVideo> VideosOf(const LibraryTree& tree, const std::string& i
   std::vector<std::string> students = tree.Students(instructor);
   students.insert(students.begin(), std::string());
   for (const std::string& student : students) {
-    for (const std::string& file : tree.VideoFiles(instructor, student))
-      videos.push_back({instructor, student, JoinPath(tree.StudentFolder(instructor, student), file)});
+    const std::string folder = tree.StudentFolder(instructor, student);
+    const std::vector<std::string> files = tree.VideoFiles(instructor, student);
+    for (const std::string& file : files) videos.push_back({instructor, student, JoinPath(folder, file)});
+    if (files.empty() && !student.empty()) videos.push_back({instructor, student, {}, folder});
   }
   return videos;
 }
@@ -206,7 +208,8 @@ OperationResult LibraryOperations::RenameInstructor(const std::string& instructo
   const std::string to = tree_.InstructorFolder(name);
   const std::string taken = "There is already an Instructor or Database with this name.";
   // These two stand for something else in the list.
-  if (name == kGeneralFolder || name == kQuickLaunch) return Refuse(taken);
+  if (SameName(name, kGeneralFolder) || SameName(name, kQuickLaunch)) return Refuse(taken);
+  if (HasFolderNamed(tree_.Root(), name, instructor)) return Refuse(taken);
   std::string error;
   if (!RenameEntry(from, to, &error, disk_)) {
     const std::string text = instructor + " could not be renamed";
@@ -252,10 +255,12 @@ OperationResult LibraryOperations::RenameStudent(const std::string& instructor, 
   if (name == student) return RenameStudentCancelled();
   const std::string from = tree_.StudentFolder(instructor, student);
   const std::string to = tree_.StudentFolder(instructor, name);
+  const std::string taken = "The name you have chosen already exists in the database.";
+  if (HasFolderNamed(tree_.InstructorFolder(instructor), name, student)) return Refuse(taken);
   std::string error;
   if (!RenameEntry(from, to, &error, disk_)) {
-    // Whether the name was taken before or has been taken by another workstation just now.
-    if (EntryExists(to)) return Refuse("The name you have chosen already exists in the database.");
+    // Another workstation may have taken the name just now.
+    if (EntryExists(to)) return Refuse(taken);
     const std::string text = "The " + words_.noun() + " could not be renamed";
     return EntryExists(from) ? Refuse(text + ": " + error) : RefuseGone(text);
   }
@@ -283,7 +288,7 @@ void LibraryOperations::MoveStudent(const std::string& instructor, const std::st
     return done(Refuse("The folder " + target + " cannot be found. The " + words_.noun() + " was not moved."));
   const std::string from = tree_.StudentFolder(instructor, student);
   const std::string to = tree_.StudentFolder(targetInstructor, student);
-  if (EntryExists(to)) return done(Refuse(taken));
+  if (EntryExists(to) || HasFolderNamed(target, student)) return done(Refuse(taken));
   auto job = std::make_unique<StudentMoveJob>(from, to, disk_);
   Run<StudentMoveJob>(
       std::move(job),

@@ -16,6 +16,7 @@
 namespace kinalyx {
 
 class LibraryBrowser;
+class VideoTransferJob;
 
 /// What the library asks of the analysis section. An empty function stands for a section that has not
 /// been opened yet.
@@ -31,12 +32,14 @@ struct LibraryVideo {
   std::string instructor;  ///< "General Folder" and "Quick Launch" among them
   std::string student;     ///< empty when the video lies directly under its instructor
   std::string path;        ///< empty when none is chosen
+  /// In place of a path: the folder of a student without videos, who goes along with the database.
+  std::string studentFolder{};
 };
 
 /// The video that is chosen in the lists.
 LibraryVideo ChosenVideo(const LibraryBrowser& browser);
 
-/// All videos of an instructor or database.
+/// All videos of an instructor or database, and the students who have none.
 std::vector<LibraryVideo> VideosOf(const LibraryTree& tree, const std::string& instructor);
 
 /// The instructors and databases to which a video, or, where its path is empty, its student can be moved.
@@ -51,6 +54,14 @@ struct OperationResult {
   std::string instructor{};
   std::string student{};
   std::string video{};
+  /// Names of the videos that have come there, where there may be several.
+  std::vector<std::string> arrived{};
+};
+
+/// Where videos go that lie in no student's folder, as in a plain folder of files.
+struct ImportTarget {
+  std::string instructor{};  ///< empty: to the library's own folder
+  std::string student{};
 };
 
 /// Reads the lists again, where an operation wants it, and chooses what it is about.
@@ -131,9 +142,10 @@ class LibraryOperations {
   // --- whole databases
 
   /// Copies videos into a library at `targetRoot`, or from one elsewhere into this one. Folders are made as
-  /// needed, and a name that is taken gets a "d". A student who is new to the target brings the profile.
+  /// needed, and a name that is taken gets a "d". A student who is new to the target brings the profile. What
+  /// cannot be opened is taken along by an import, and named in a message at its end.
   void ExportVideos(const std::vector<LibraryVideo>& videos, const std::string& targetRoot, Done done);
-  void ImportVideos(const std::vector<LibraryVideo>& videos, Done done);
+  void ImportVideos(const std::vector<LibraryVideo>& videos, Done done, const ImportTarget& loose = {});
 
  private:
   enum class Direction { Export, Import };
@@ -159,7 +171,10 @@ class LibraryOperations {
   std::string StillFullText(const std::string& instructor) const;
   void AddToQuickLaunch(const LibraryVideo& video, Done done);
   OperationResult RemoveFromQuickLaunch(const LibraryVideo& video);
-  void Transfer(Direction direction, const std::vector<LibraryVideo>& videos, const std::string& targetRoot, Done done);
+  void Transfer(Direction direction, const std::vector<LibraryVideo>& videos, const std::string& targetRoot,
+                const ImportTarget& loose, Done done);
+  OperationResult EndOfTransfer(const VideoTransferJob& copy, bool out, const std::vector<ImportTarget>& places);
+  void TellUnreadable(const std::vector<std::string>& paths);
   /// Runs a job; `end` makes the result of it. The job is the one that was given.
   template <typename Job>
   void Run(std::unique_ptr<Job> job, std::function<OperationResult(Job&)> end, Done done,

@@ -4,6 +4,7 @@
 
 #include "core/Settings.h"
 #include "platform/files/Folders.h"
+#include "platform/files/TextEncoding.h"
 
 namespace kinalyx {
 
@@ -25,6 +26,13 @@ std::string_view WithoutOuterBlanks(std::string_view name) {
   return name.substr(first, name.find_last_not_of(' ') + 1 - first);
 }
 
+bool SameName(std::string_view a, std::string_view b) { return FoldCase(a) == FoldCase(b); }
+
+bool HasFolderNamed(const std::string& folder, std::string_view name, std::string_view except) {
+  return std::ranges::any_of(ListFolders(folder),
+                             [&](const std::string& entry) { return entry != except && SameName(entry, name); });
+}
+
 LibraryTree::LibraryTree(const Settings& settings) : LibraryTree(settings.LibraryPath) {}
 
 std::vector<std::string> LibraryTree::Instructors() const {
@@ -41,6 +49,21 @@ std::vector<std::string> LibraryTree::Students(std::string_view instructor) cons
 std::vector<std::string> LibraryTree::VideoFiles(std::string_view instructor, std::string_view student) const {
   if (instructor.empty()) return {};
   return ListFiles(StudentFolder(instructor, student), ".avi");
+}
+
+OtherFilms LibraryTree::FilmsOfOtherKinds(std::string_view instructor, std::string_view student) const {
+  static constexpr std::string_view kKinds[] = {"3gp", "flv", "m2ts", "m4v", "mkv", "mov", "mp4",
+                                                "mpeg", "mpg", "mts", "webm", "wmv"};
+  OtherFilms films;
+  if (instructor.empty()) return films;
+  for (const std::string& file : ListFiles(StudentFolder(instructor, student), "")) {
+    const std::string kind = FoldCase(file.substr(std::min(file.rfind('.'), file.size() - 1) + 1));
+    if (std::ranges::find(kKinds, kind) == std::end(kKinds)) continue;
+    ++films.count;
+    if (std::ranges::find(films.kinds, kind) == films.kinds.end()) films.kinds.push_back(kind);
+  }
+  std::ranges::sort(films.kinds);
+  return films;
 }
 
 std::string LibraryTree::InstructorFolder(std::string_view instructor) const {

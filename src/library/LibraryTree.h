@@ -28,9 +28,20 @@ bool IsBlank(std::string_view text);
 /// A name as it was typed, without the blanks around it: nobody sees them in a list, and many disks drop
 /// them. A name of nothing but blanks stays, for it is refused as such.
 std::string_view WithoutOuterBlanks(std::string_view name);
+/// True for two names that many disks, a stick among them, take for one: they differ in case alone.
+bool SameName(std::string_view a, std::string_view b);
+/// True when a folder holds another folder of this name, in whatever case.
+/// @param except  an entry that does not count: the one that is about to be renamed
+bool HasFolderNamed(const std::string& folder, std::string_view name, std::string_view except = {});
 
 /// The selection that one list remembers for another: instructor, student, and the folder at that time.
 using LastStudentInfo = std::array<std::string, 3>;
+
+/// Films of kinds that the program cannot show.
+struct OtherFilms {
+  int count = 0;
+  std::vector<std::string> kinds;  ///< their extensions, each once: "mov", "mp4"
+};
 
 /// Answers where things lie in the library of the settings, or in one at another root. A root that
 /// changes is followed.
@@ -49,6 +60,8 @@ class LibraryTree {
   /// File names with their extension (.avi in either case). Without a student those that lie directly
   /// in the instructor's folder, or in the root for "General Folder".
   std::vector<std::string> VideoFiles(std::string_view instructor, std::string_view student) const;
+  /// What lies beside them and is a film as well.
+  OtherFilms FilmsOfOtherKinds(std::string_view instructor, std::string_view student) const;
 
   std::string InstructorFolder(std::string_view instructor) const;
   std::string StudentFolder(std::string_view instructor, std::string_view student) const;

@@ -214,7 +214,7 @@ Outcome AddStudent(const std::string& instructorFolder, const FieldTexts& captio
   const std::string person(noun);
   if (IsBlank(name)) return {false, "You must enter a name for the new " + person + "."};
   const std::string folder = JoinPath(instructorFolder, name);
-  if (name.find('/') == std::string::npos && dirExists(folder))
+  if (HasFolderNamed(instructorFolder, name))
     return {false, "The " + person + " name that you have chosen already exists on the system."};
   if (!IsValidName(name)) return {false, "Invalid character in name."};
   if (!MakeNewFolder(folder) || !MakeProfile(folder, captions, values))
@@ -226,7 +226,7 @@ Outcome AddInstructor(const std::string& root, std::string_view name) {
   if (!IsValidName(name)) return {false, "Invalid character in Name"};
   if (IsBlank(name)) return {false, "You must type a name!"};
   const std::string folder = JoinPath(root, name);
-  if (name == kGeneralFolder || dirExists(folder)) return {false, std::string(name) + " already exists."};
+  if (SameName(name, kGeneralFolder) || HasFolderNamed(root, name)) return {false, std::string(name) + " already exists."};
   if (!MakeNewFolder(folder)) return {false, "The folder " + folder + " cannot be made."};
   return {true, std::string(name) + " successfully added!"};
 }

@@ -66,7 +66,12 @@ OperationResult LibraryOperations::RenameVideo(const LibraryVideo& video, std::s
   const std::string to = JoinPath(folder, std::string(name) + video.path.substr(video.path.size() - 4));
   const std::string taken = "The video name you have chosen already exists, please try again.";
   const std::vector<std::string> files = ListFiles(folder, ".avi");
-  if (std::ranges::any_of(files, [&](const std::string& file) { return VideoName(file) == name; })) return Refuse(taken);
+  const std::string own = LastName(video.path);
+  // A video's own name in another case is free for it.
+  if (std::ranges::any_of(files, [&](const std::string& file) {
+        return SameName(VideoName(file), name) && (file != own || VideoName(file) == name);
+      }))
+    return Refuse(taken);
 
   const std::string sidecar = ExistingSidecar(video.path);
   const std::string newSidecar = SidecarPath(to);
@@ -233,49 +238,47 @@ void LibraryOperations::ExportVideos(const std::vector<LibraryVideo>& videos, co
       !host_.Question("Export to C?",
                       "Warning! You are about to export to the C drive. Are you sure you want to continue?"))
     return done(Report("Export Cancelled"));
-  Transfer(Direction::Export, videos, targetRoot, std::move(done));
+  Transfer(Direction::Export, videos, targetRoot, {}, std::move(done));
 }
 
-void LibraryOperations::ImportVideos(const std::vector<LibraryVideo>& videos, Done done) {
-  Transfer(Direction::Import, videos, tree_.Root(), std::move(done));
+void LibraryOperations::ImportVideos(const std::vector<LibraryVideo>& videos, Done done, const ImportTarget& loose) {
+  Transfer(Direction::Import, videos, tree_.Root(), loose, std::move(done));
 }
 
 void LibraryOperations::Transfer(Direction direction, const std::vector<LibraryVideo>& videos,
-                                 const std::string& targetRoot, Done done) {
+                                 const std::string& targetRoot, const ImportTarget& loose, Done done) {
   if (videos.empty()) return done(Report("No Videos Selected"));
   if (const std::string busy = BusyText(); !busy.empty()) return done(Refuse(busy));
   if (!HasFolder(targetRoot)) return done(Refuse("The folder " + targetRoot + " cannot be reached. Nothing was changed."));
+  std::vector<ImportTarget> places;
   std::vector<VideoTransfer> transfers;
   for (const LibraryVideo& video : videos) {
-    std::string folder = targetRoot;
     const bool inFolder = !video.instructor.empty() && video.instructor != kGeneralFolder;
-    if (inFolder) folder = JoinPath(folder, video.instructor);
-    const bool hasStudent = inFolder && !video.student.empty();
-    if (hasStudent) folder = JoinPath(folder, video.student);
-    transfers.push_back({video.path, folder, hasStudent ? FolderOf(video.path) : std::string()});
+    const ImportTarget place = inFolder ? ImportTarget{video.instructor, video.student} : loose;
+    std::string folder = targetRoot;
+    if (!place.instructor.empty()) folder = JoinPath(folder, place.instructor);
+    if (!place.student.empty()) folder = JoinPath(folder, place.student);
+    // The profile of a student stays at home where only videos are put to another one.
+    std::string from = video.path.empty() ? video.studentFolder : FolderOf(video.path);
+    transfers.push_back({video.path, folder, inFolder && !video.student.empty() ? std::move(from) : std::string()});
+    if (!video.path.empty()) places.push_back(place);
   }
+  const auto sourceOf = [](const VideoTransfer& one) { return one.path.empty() ? one.studentFolder : FolderOf(one.path); };
   const bool out = direction == Direction::Export;
-  const auto toItself = host_.Drives().Ask(out ? tree_.Root() : FolderOf(videos.front().path), [transfers] {
-    return std::ranges::any_of(transfers, [](const VideoTransfer& one) { return SamePlace(one.folder, FolderOf(one.path)); });
+  const auto toItself = host_.Drives().Ask(out ? tree_.Root() : sourceOf(transfers.front()), [transfers, sourceOf] {
+    return std::ranges::any_of(transfers, [&](const VideoTransfer& one) { return SamePlace(one.folder, sourceOf(one)); });
   });
   if (!toItself) return done(Refuse("The drive with the videos is not answering. No videos were copied."));
   if (*toItself) return done(Refuse("The source and destination folders are the same. No videos were copied."));
+  if (!loose.student.empty() && !dirExists(tree_.StudentFolder(loose.instructor, loose.student)))
+    return done(RefuseGone("No videos were copied to " + loose.student));
   Tell(out ? "Exporting Videos, Please Wait....." : "Importing Videos... Please Wait.....");
   auto job = std::make_unique<VideoTransferJob>(out ? CopyJob::Kind::CopyOut : CopyJob::Kind::Copy, OnClash::AddD,
                                                 std::move(transfers), disk_);
+  if (!out) job->LookAtEach();
   Run<VideoTransferJob>(
       std::move(job),
-      [this, out](VideoTransferJob& copy) -> OperationResult {
-        const std::string count = std::to_string(copy.VideosDone());
-        const bool arrived = copy.VideosDone() > 0;
-        if (copy.Cancelled()) {
-          host_.Message(MessageKind::Information, "", kOperationCancelled);
-          return {false, out ? "Export Cancelled" : "Import Cancelled", arrived};
-        }
-        if (copy.Failed()) host_.Message(MessageKind::Warning, "", copy.Error());
-        return {!copy.Failed(), count + (out ? " File(s) exported successfully!" : " File(s) Imported successfully!"),
-                arrived};
-      },
+      [this, out, places](VideoTransferJob& copy) { return EndOfTransfer(copy, out, places); },
       std::move(done),
       [this, out, shown = 0](const JobProgress& progress) mutable {
         if (progress.done <= shown) return;
@@ -283,6 +286,47 @@ void LibraryOperations::Transfer(Direction direction, const std::vector<LibraryV
         Tell(std::to_string(progress.done) + " of " + std::to_string(progress.total) +
              (out ? " Videos Successfully exported.....Please wait..." : " Videos Successfully Imported."));
       });
+}
+
+/// @param places  where each of the videos was to go
+OperationResult LibraryOperations::EndOfTransfer(const VideoTransferJob& copy, bool out,
+                                                 const std::vector<ImportTarget>& places) {
+  OperationResult result;
+  result.refill = copy.VideosDone() > 0 || copy.StudentsDone() > 0;
+  if (copy.VideosDone() > 0) {
+    const std::string folder = FolderOf(copy.Arrived().front());
+    result.instructor = places.front().instructor.empty() ? std::string(kGeneralFolder) : places.front().instructor;
+    result.student = places.front().student;
+    for (const std::string& path : copy.Arrived())
+      if (FolderOf(path) == folder) result.arrived.push_back(VideoName(LastName(path)));
+  }
+  if (copy.Cancelled()) {
+    host_.Message(MessageKind::Information, "", kOperationCancelled);
+    result.status = out ? "Export Cancelled" : "Import Cancelled";
+    return result;
+  }
+  if (copy.Failed()) host_.Message(MessageKind::Warning, "", copy.Error());
+  result.done = !copy.Failed();
+  result.status =
+      std::to_string(copy.VideosDone()) + (out ? " File(s) exported successfully!" : " File(s) Imported successfully!");
+  if (const int bare = copy.StudentsDone(); bare > 0)
+    result.status += " " + std::to_string(bare) + " " + (bare == 1 ? words_.noun() : words_.nouns()) +
+                     " without videos went along with profile and notes.";
+  if (const auto& bad = copy.Unreadable(); !bad.empty()) TellUnreadable(bad);
+  return result;
+}
+
+void LibraryOperations::TellUnreadable(const std::vector<std::string>& paths) {
+  constexpr std::size_t kNamed = 12;
+  std::string names;
+  for (std::size_t i = 0; i < std::min(paths.size(), kNamed); ++i) names += "\n" + VideoName(LastName(paths[i]));
+  if (paths.size() > kNamed) names += "\nand " + std::to_string(paths.size() - kNamed) + " more";
+  const bool one = paths.size() == 1;
+  host_.Message(MessageKind::Warning, "Import Videos",
+                (one ? std::string("One file was copied that cannot be opened. It may be damaged, or be no video:\n")
+                     : std::to_string(paths.size()) +
+                           " files were copied that cannot be opened. They may be damaged, or be no videos:\n") +
+                    names);
 }
 
 }  // namespace kinalyx

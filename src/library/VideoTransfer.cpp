@@ -9,6 +9,7 @@
 #include "library/Sidecar.h"
 #include "platform/files/Folders.h"
 #include "platform/files/PartFiles.h"
+#include "platform/media/VideoFile.h"
 
 namespace kinalyx {
 
@@ -28,7 +29,8 @@ std::string InTheWay(std::string folder) {
 
 bool HasVideoNamed(const std::string& folder, std::string_view name) {
   if (EntryExists(JoinPath(folder, std::string(name) + ".avi"))) return true;
-  return std::ranges::any_of(ListFiles(folder, ".avi"), [&](const std::string& file) { return VideoName(file) == name; });
+  return std::ranges::any_of(ListFiles(folder, ".avi"),
+                             [&](const std::string& file) { return SameName(VideoName(file), name); });
 }
 
 std::string ExistingSidecar(const std::string& videoPath) {
@@ -85,6 +87,7 @@ bool VideoTransferJob::BeginOne() {
   const VideoTransfer& video = videos_[next_];
   if (const std::string file = InTheWay(video.folder); !file.empty())
     return Fail("There is a file named \"" + file + "\" where a folder is needed.");
+  if (video.path.empty()) return TakeStudent(video);
   if (name_.empty()) name_ = VideoName(LastName(video.path));
   while (HasVideoNamed(video.folder, name_) || !SetAsideOrphan(video.folder, name_, disk_)) {
     if (onClash_ == OnClash::Stop) {
@@ -98,6 +101,14 @@ bool VideoTransferJob::BeginOne() {
   return true;
 }
 
+bool VideoTransferJob::TakeStudent(const VideoTransfer& student) {
+  if (!MakeFolder(student.folder)) return Fail("The folder " + student.folder + " cannot be made.");
+  TakeProfile(student);
+  ++studentsDone_;
+  ++next_;
+  return true;
+}
+
 /// Room for all is asked for before the first is copied, and what killed copies hold of it is given back
 /// first. A move asks for itself, as it may need none.
 bool VideoTransferJob::Begin() {
@@ -107,6 +118,7 @@ bool VideoTransferJob::Begin() {
   for (const std::string& folder : folders) RemoveDeadParts(folder, kDeadPartSeconds, disk_);
   std::int64_t free = -1;
   for (const VideoTransfer& video : videos_) {
+    if (video.path.empty()) continue;
     const auto size = FileSize(video.path);
     const std::string sidecar = ExistingSidecar(video.path);
     bytesTotal_ += size.value_or(0) + (sidecar.empty() ? 0 : FileSize(sidecar).value_or(0));
@@ -134,7 +146,9 @@ void VideoTransferJob::TakeProfile(const VideoTransfer& video) {
 bool VideoTransferJob::EndOfOne() {
   const CopyJob::State state = copy_->Status();
   if (state == CopyJob::State::Done) {
-    ++videosDone_;
+    const VideoTransfer& video = videos_[next_];
+    arrived_.push_back(JoinPath(video.folder, name_ + Extension(video.path)));
+    if (looks_ && !ReadVideoInfo(arrived_.back())) unreadable_.push_back(arrived_.back());
     filesDone_ += copy_->Progress().filesDone;
     bytesDone_ += copy_->Progress().bytesTotal;
     if (error_.empty()) error_ = copy_->Error();
@@ -159,7 +173,8 @@ void VideoTransferJob::Cancel() {
 }
 
 JobProgress VideoTransferJob::Progress() const {
-  JobProgress progress{videosDone_, static_cast<int>(videos_.size()), 0, {}};
+  const auto total = std::ranges::count_if(videos_, [](const VideoTransfer& one) { return !one.path.empty(); });
+  JobProgress progress{VideosDone(), static_cast<int>(total), 0, {}};
   std::int64_t bytes = bytesDone_;
   if (copy_) {
     bytes += copy_->Progress().bytesDone;

@@ -13,8 +13,8 @@ namespace kinalyx {
 
 // --- a video and what belongs to it
 
-/// True when a folder holds a video that the lists show by this name, in whatever case its extension is,
-/// or when the disk takes the name for one that is there.
+/// True when a folder holds a video that the lists show by this name, in whatever case, or when the disk
+/// takes the name for one that is there.
 bool HasVideoNamed(const std::string& folder, std::string_view name);
 /// The sidecar of a video when it has one, else "".
 std::string ExistingSidecar(const std::string& videoPath);
@@ -31,7 +31,7 @@ CopyUnit VideoUnit(const std::string& videoPath, const std::string& folder, std:
 
 /// One video that is to go to a folder.
 struct VideoTransfer {
-  std::string path;
+  std::string path;           ///< "" for a student without videos, who goes with profile and notes alone
   std::string folder;         ///< of the target; made when missing
   std::string studentFolder;  ///< whose profile and notes go along when the target has none; "" for none
 };
@@ -46,6 +46,8 @@ class VideoTransferJob final : public IJob {
 
   VideoTransferJob(CopyJob::Kind kind, OnClash onClash, std::vector<VideoTransfer> videos,
                    ICopyDisk& disk = RealCopyDisk());
+  /// Looks at each video when it has arrived, whether it can be opened.
+  void LookAtEach() { looks_ = true; }
 
   bool Step() override;
   void Cancel() override;
@@ -53,7 +55,13 @@ class VideoTransferJob final : public IJob {
 
   bool Cancelled() const { return cancelled_; }
   /// Videos that have arrived.
-  int VideosDone() const { return videosDone_; }
+  int VideosDone() const { return static_cast<int>(arrived_.size()); }
+  /// Where they stand now, in their order.
+  const std::vector<std::string>& Arrived() const { return arrived_; }
+  /// Those among them that cannot be opened, where that was looked at.
+  const std::vector<std::string>& Unreadable() const { return unreadable_; }
+  /// Students without videos that have come along.
+  int StudentsDone() const { return studentsDone_; }
   /// The same with their sidecars.
   int FilesDone() const { return filesDone_; }
   /// Why it stopped, in words for the user, or what could not be removed after a move; empty otherwise.
@@ -65,6 +73,7 @@ class VideoTransferJob final : public IJob {
  private:
   bool Begin();
   bool BeginOne();
+  bool TakeStudent(const VideoTransfer& student);
   void TakeProfile(const VideoTransfer& video);
   bool EndOfOne();
   bool Fail(const std::string& error);
@@ -82,7 +91,10 @@ class VideoTransferJob final : public IJob {
   bool cancelled_ = false;
   bool failed_ = false;
   bool nameTaken_ = false;
-  int videosDone_ = 0;
+  bool looks_ = false;
+  std::vector<std::string> arrived_;
+  std::vector<std::string> unreadable_;
+  int studentsDone_ = 0;
   int filesDone_ = 0;
   std::string error_;
 };

@@ -2,6 +2,7 @@
 
 #include "library/DiskSpace.h"
 #include "platform/files/IniFile.h"
+#include "support/TestVideos.h"
 
 namespace kinalyx::test {
 namespace {
@@ -70,6 +71,42 @@ TEST_F(DatabaseTransfer, AnImportTwiceOverKeepsWhatIsThere) {
   }
   EXPECT_EQ(ReadProfileValue("Profile", "Age", library.Path("Ann/Joe Doe/profile.prf")), "45");
   EXPECT_FALSE(Exists("Ann/Joe Doe/profile.txt")) << "the notes go with the profile that they belong to";
+}
+
+TEST_F(DatabaseTransfer, StudentsWithoutVideosGoWithTheirDatabase) {
+  TempFolder drive;
+  library.File("Ann/New Nell/profile.prf", "[Profile]\nName=New Nell\nAge=9\n");
+  library.File("Ann/New Nell/profile.txt", "begins in May\r\n");
+  library.host.answers = {true, true};
+  Ops().ExportVideos(VideosOf(LibraryTree(library.settings), "Ann"), drive.Path(), Into());
+  EXPECT_EQ(Ended().status,
+            "2 File(s) exported successfully! 1 student without videos went along with profile and notes.");
+  EXPECT_EQ(statuses.back(), "2 of 2 Videos Successfully exported.....Please wait...");
+  EXPECT_EQ(drive.Get("Ann/New Nell/profile.txt"), "begins in May\r\n");
+  EXPECT_EQ(ReadProfileValue("Profile", "Age", drive.Path("Ann/New Nell/profile.prf")), "9");
+  EXPECT_TRUE(ListFiles(drive.Path("Ann/New Nell"), ".avi").empty());
+}
+
+TEST_F(DatabaseTransfer, APlainFolderComesToTheChosenStudentAndWhatIsNoVideoIsNamed) {
+  TempFolder stick;
+  stick.Put("good.avi", "");
+  fs::copy_file(MakeTestVideo(MjpegVideo(4)), stick.Path("good.avi"), fs::copy_options::overwrite_existing);
+  stick.Put("letter.avi", "no video");
+  const auto loose = [&](const char* name) { return LibraryVideo{"General Folder", "", stick.Path(name)}; };
+  Ops().ImportVideos({loose("good.avi"), loose("letter.avi")}, Into(), {"Bob", "Sue"});
+  EXPECT_EQ(Ended().status, "2 File(s) Imported successfully!");
+  EXPECT_EQ(Ended().instructor + "/" + Ended().student, "Bob/Sue");
+  EXPECT_EQ(Ended().arrived, (std::vector<std::string>{"good", "letter"}));
+  EXPECT_TRUE(Exists("Bob/Sue/letter.avi")) << "nothing that was chosen is left behind";
+  EXPECT_TRUE(Told("cannot be opened") && Told("letter"));
+  EXPECT_FALSE(Told("good"));
+
+  Ops().ImportVideos({loose("good.avi")}, Into());
+  EXPECT_EQ(Ended().instructor, "General Folder");
+  EXPECT_TRUE(Exists("good.avi"));
+  Ops().ImportVideos({loose("good.avi")}, Into(), {"Bob", "Gone"});
+  EXPECT_FALSE(Ended().done);
+  EXPECT_FALSE(Exists("Bob/Gone"));
 }
 
 TEST_F(DatabaseTransfer, TheLibraryIsNoDriveOfItsOwn) {

@@ -108,7 +108,28 @@ TEST_F(StudentOperations, AddsAStudentWhereNobodyElseIs) {
   EXPECT_EQ(added.student, "Tom");
   EXPECT_EQ(ReadProfileValue("Profile", "Age", library.Path("Ann/Tom/profile.prf")), "12");
   for (const char* nowhere : {"", "General Folder", "Carl"}) EXPECT_FALSE(Ops().AddStudent(nowhere, captions, values).done);
+  values[kNameField] = "..";
+  EXPECT_EQ(Ops().AddStudent("Ann", captions, values).status, "Invalid character in name.");
   EXPECT_FALSE(Exists("Tom") || Exists("Carl"));
+}
+
+/// On a stick the two would become one.
+TEST_F(StudentOperations, NamesThatDifferInCaseAloneAreTaken) {
+  library.Folder("Ann/Zoë");
+  library.Folder("Bob/JOE DOE");
+  FieldTexts values;
+  values[kNameField] = "ZOË";
+  EXPECT_EQ(Ops().AddStudent("Ann", values, values).status,
+            "The student name that you have chosen already exists on the system.");
+  EXPECT_FALSE(Ops().AddInstructor("ANN").done);
+  EXPECT_FALSE(Ops().AddInstructor("general folder").done);
+  EXPECT_FALSE(Ops().RenameInstructor("Bob", "ann").done);
+  EXPECT_EQ(Ops().RenameStudent("Ann", "Joe Doe", "zoë").status, "The name you have chosen already exists in the database.");
+  Ops().MoveStudent("Ann", "Joe Doe", "Bob", Into());
+  EXPECT_FALSE(Ended().done);
+  EXPECT_EQ(Ops().RenameVideo(DL(), "(002) fo").status, "The video name you have chosen already exists, please try again.");
+  EXPECT_EQ(ListFolders(library.Path("Ann")), (std::vector<std::string>{"Joe Doe", "Zoë"}));
+  EXPECT_TRUE(Ops().RenameVideo(DL(), "(001) dl").done) << "its own name in another case is free for it";
 }
 
 TEST_F(StudentOperations, RenamesAnInstructorAndRemovesOneWhoIsEmpty) {

@@ -93,7 +93,8 @@ ImportExportPage::~ImportExportPage() = default;
 void ImportExportPage::SetupVocabulary() {
   const Vocabulary words(settings_);
   help_->setText(QString("Select an instructor, a %1 and the videos on one side, then choose Export or Import. Each video "
-                         "takes its drawings and notes along, and a %1 who is new on the other side brings the profile.")
+                         "takes its drawings and notes along, and a %1 who is new on the other side brings the profile. "
+                         "Videos from a plain folder, shown under General Folder, come to the %1 chosen in this library.")
                      .arg(Q(words.noun())));
   here_->SetupVocabulary();
   there_->SetupVocabulary();
@@ -140,14 +141,22 @@ void ImportExportPage::IECmd_Click(int command) {
   if (out && !videos.empty() && otherRoot_.empty()) return Say("Choose a drive or folder first.");
   const auto end = [this, out](const OperationResult& result) {
     // What has arrived is shown where it is; what was chosen stays chosen no longer.
-    if (result.refill) (out ? there_ : here_)->Refresh();
+    if (result.refill) (out ? there_ : here_)->ShowArrived(result);
     if (result.done) (out ? here_ : there_)->Refresh();
     DiskSpaceGauge();
     Say(Q(result.status));
   };
   auto done = progress_->Begin(out ? "Export Videos" : "Import Videos", [this](const QString& words) { Say(words); }, end);
   if (out) operations_.ExportVideos(videos, otherRoot_, std::move(done));
-  else operations_.ImportVideos(videos, std::move(done));
+  else operations_.ImportVideos(videos, std::move(done), TargetOfLooseVideos());
+}
+
+/// The student who is chosen in this library gets what has none at the other place. Quick Launch takes videos
+/// itself; under any other instructor they would be in no list.
+ImportTarget ImportExportPage::TargetOfLooseVideos() const {
+  const LibraryBrowser& library = here_->Browser();
+  if (library.HasStudent() || library.IsQuickLaunch()) return {library.Instructor(), library.Student()};
+  return {};
 }
 
 void ImportExportPage::keyPressEvent(QKeyEvent* event) {

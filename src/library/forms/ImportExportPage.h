@@ -42,6 +42,7 @@ class ImportExportPage : public QWidget {
 
  private:
   void OpenDrive();
+  ImportTarget TargetOfLooseVideos() const;
   void DiskSpaceGauge();
   void Say(const QString& text);
 

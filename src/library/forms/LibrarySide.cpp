@@ -4,6 +4,8 @@
 #include <QLabel>
 #include <QSignalBlocker>
 
+#include <algorithm>
+
 #include "library/LibraryReading.h"
 #include "library/forms/LibraryLists.h"
 #include "library/forms/Text.h"
@@ -40,7 +42,8 @@ LibrarySide::LibrarySide(DriveWatch& drives, const QString& title, const Setting
     : Panel(QString("IETitle%1").arg(index), title, parent),
       settings_(settings),
       browser_(drives, tree, remembered_, LibraryBrowser::Kind::Exchange),
-      lists_(new LibraryLists(browser_, settings, this, names)) {
+      lists_(new LibraryLists(browser_, settings, this, names)),
+      imported_(index == 1) {
   studentsTitle_ = MakeLabel(QString("IEStudents%1").arg(index), {}, "caption");
   count_ = MakeLabel(QString("IECount%1").arg(index), {}, "muted");
   lists_->VideoList()->setSelectionMode(QAbstractItemView::ExtendedSelection);
@@ -54,6 +57,11 @@ LibrarySide::LibrarySide(DriveWatch& drives, const QString& title, const Setting
   Body()->addLayout(upper, 1);
   Body()->addWidget(Divider(false));
   Body()->addLayout(Captioned(MakeLabel({}, "Videos", "caption"), lists_->VideoList()), 1);
+  others_ = MakeLabel(QString("IEOthers%1").arg(index), {}, "muted");
+  others_->setWordWrap(true);
+  others_->setContentsMargins(kGap, 4, kGap, 6);
+  others_->hide();
+  Body()->addWidget(others_);
 
   selectAll_ = new Button(QString("IESelectAll%1").arg(index), "Select All", {}, Look::Quiet);
   wholeDatabase_ = new Button(QString("IEWhole%1").arg(index), "Whole Database", {}, Look::Quiet);
@@ -85,6 +93,19 @@ void LibrarySide::Refresh() {
   lists_->ShowAll();
 }
 
+void LibrarySide::ShowArrived(const OperationResult& result) {
+  browser_.Refresh();
+  if (!result.instructor.empty() && result.instructor != browser_.Instructor()) browser_.SelectInstructor(result.instructor);
+  if (!result.student.empty() && result.student != browser_.Student()) browser_.SelectStudent(result.student);
+  lists_->ShowAll();
+  NameList& list = *lists_->VideoList();
+  for (int row = list.count() - 1; row >= 0; --row) {
+    if (std::ranges::find(result.arrived, Std(list.item(row)->text())) == result.arrived.end()) continue;
+    list.item(row)->setSelected(true);
+    list.scrollToItem(list.item(row));
+  }
+}
+
 void LibrarySide::SetupVocabulary() {
   const Vocabulary words(settings_);
   studentsTitle_->setText(Q(words.Nouns()));
@@ -97,6 +118,24 @@ void LibrarySide::StudentChosen() {
   lists_->VideoList()->clearSelection();
   if (browser_.HasStudent()) ChooseWhole(false);
   ShowCount();
+  TellOtherFilms();
+}
+
+/// Who has brought films of a camera that records other files would find an empty list.
+void LibrarySide::TellOtherFilms() {
+  OtherFilms films;
+  if (imported_ && !browser_.Silent()) {
+    const auto look = [instructor = browser_.Instructor(), student = browser_.Student()](const LibraryTree& tree) {
+      return tree.FilmsOfOtherKinds(instructor, student);
+    };
+    films = AskLibrary(browser_.Drives(), browser_.Tree(), look).value_or(OtherFilms());
+  }
+  const QString kinds = Q(films.kinds).join(", ");
+  others_->setText(films.count == 1 ? QString("1 film of another kind (%1) lies here. It cannot be imported yet.").arg(kinds)
+                                    : QString("%1 films of other kinds (%2) lie here. They cannot be imported yet.")
+                                          .arg(films.count)
+                                          .arg(kinds));
+  others_->setVisible(films.count > 0);
 }
 
 void LibrarySide::SelectAll() {
@@ -137,7 +176,8 @@ std::vector<LibraryVideo> LibrarySide::Chosen() const {
 }
 
 void LibrarySide::ShowCount() {
-  const auto count = wholeDatabase_->isChecked() ? static_cast<qsizetype>(whole_.size())
+  const auto whole = std::ranges::count_if(whole_, [](const LibraryVideo& one) { return !one.path.empty(); });
+  const auto count = wholeDatabase_->isChecked() ? static_cast<qsizetype>(whole)
                                                  : lists_->VideoList()->selectedItems().size();
   count_->setText(QString("%1 Videos Selected").arg(count));
   selectAll_->setEnabled(lists_->VideoList()->count() > 0);

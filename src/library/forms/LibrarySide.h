@@ -28,6 +28,8 @@ class LibrarySide : public Panel {
   void Open(const LastStudentInfo& at);
   /// Reads it again; what is chosen in the lists of instructors and students stays.
   void Refresh();
+  /// Reads it again, goes to where an operation has put videos, and chooses these.
+  void ShowArrived(const OperationResult& result);
   void SetupVocabulary();
 
   /// The chosen videos; those of a whole database where that was asked for.
@@ -41,6 +43,7 @@ class LibrarySide : public Panel {
  private:
   void StudentChosen();
   void ShowCount();
+  void TellOtherFilms();
   void SelectAll();
   void ChooseWhole(bool whole);
 
@@ -49,8 +52,10 @@ class LibrarySide : public Panel {
   LibraryBrowser browser_;
   LibraryLists* lists_;
   std::vector<LibraryVideo> whole_;  ///< of the database that is taken as a whole
+  bool imported_;                    ///< from here videos come into the library
   QLabel* studentsTitle_;
   QLabel* count_;
+  QLabel* others_;
   Button* selectAll_;
   Button* wholeDatabase_;
 };
