@@ -137,6 +137,96 @@ TEST_F(ProfilesPageTest, ABadVideoIsOfferedForDeletionOnce) {
   EXPECT_TRUE(std::filesystem::exists(library.Path("Demo/Tom/gone.ved")));
 }
 
+TEST_F(ProfilesPageTest, ABadVideoThatIsOnlyShownAgainIsNotAskedAbout) {
+  library.File("Demo/Tom/bad.avi", "no video");
+  remembered = {"Demo", "Tom", ""};  // as the program comes up
+  MakePage({JobRunner::On::HostTimer});
+  library.host.Advance(1);
+  EXPECT_EQ(page->Browser().Video(), "bad");
+  EXPECT_TRUE(library.host.titles.empty());
+
+  QApplication::setActiveWindow(page.get());
+  Choose("StudentList", "Sample, Erica");
+  List("StudentList")->setFocus();
+  QTest::keyClick(List("StudentList"), Qt::Key_Down);
+  library.host.Advance(1);
+  EXPECT_EQ(library.host.titles, std::vector<std::string>{"Delete Bad Video"});
+  EXPECT_EQ(page->focusWidget(), List("StudentList"));
+}
+
+TEST_F(ProfilesPageTest, NotesAreOnTheDiskASecondAfterTheLastLetter) {
+  Choose("InstructorList", "Demo");
+  Choose("StudentList", "Tom");
+  Press("SPBtn10");
+  auto* notes = Find<QPlainTextEdit>("ProfileNotes");
+  const auto onDisk = [this] { return test::TempLibrary::Read(library.Path("Demo/Tom/profile.txt")); };
+  for (const char* letter : {"G", "r", "i", "p"}) {
+    notes->insertPlainText(letter);
+    library.host.Advance(900);
+    EXPECT_EQ(onDisk(), "");
+  }
+  library.host.Advance(100);
+  EXPECT_EQ(onDisk(), "Grip\r\n");
+
+  library.host.drivesHang = true;
+  notes->insertPlainText("!");
+  library.host.Advance(5000);
+  EXPECT_EQ(onDisk(), "Grip\r\n");
+  EXPECT_TRUE(library.host.waits.empty() && library.host.messages.empty()) << "nobody is kept waiting while typing";
+  EXPECT_TRUE(Text("SPDisplay").startsWith("The notes could not be saved: the drive is not answering"));
+  library.host.DrivesAnswer();
+  notes->insertPlainText("?");
+  library.host.Advance(1000);
+  EXPECT_EQ(onDisk(), "Grip!?\r\n");
+}
+
+TEST_F(ProfilesPageTest, AFormThatHasBeenFilledInIsNotDroppedWithoutAQuestion) {
+  Choose("InstructorList", "Demo");
+  Choose("StudentList", "Tom");
+  auto* editor = Find<QWidget>("ProAddPnl");
+  Press("ProBtn1");
+  QTest::keyClick(editor, Qt::Key_Escape);
+  EXPECT_FALSE(editor->isVisible());
+  EXPECT_TRUE(library.host.questions.empty()) << "nothing was changed";
+
+  Press("ProBtn1");
+  EXPECT_TRUE(page->MayClose());
+  auto* phone = Find<QLineEdit>("ProInfoBox3");
+  QTest::keyClicks(phone, "555");
+  QTest::keyClick(phone, Qt::Key_Escape);
+  EXPECT_EQ(library.host.questions.size(), 1u);
+  EXPECT_FALSE(page->MayClose());
+  page->Leave();
+  page->Open();
+  EXPECT_TRUE(editor->isVisible());
+  EXPECT_EQ(phone->text(), "555") << "who looks at another page finds it again";
+  library.host.answers = {true};
+  Press("ProAddCancelBtn");
+  EXPECT_FALSE(editor->isVisible());
+  EXPECT_EQ(page->Browser().Student(), "Tom");
+}
+
+TEST_F(ProfilesPageTest, BoxesTellWhatTheyDoNotTake) {
+  Choose("InstructorList", "Demo");
+  Press("SPBtn0");
+  auto* name = Find<QLineEdit>("ProInfoBox0");
+  QTest::keyClicks(name, "O'Brien");
+  EXPECT_TRUE(Text("ProInfoBoxNote0").contains("'"));
+  name->setText(QString(118, 'x') + QString::fromUtf8(" \xF0\x9F\x8F\x8C tail"));
+  EXPECT_FALSE(name->text().isEmpty() || name->text().back().isSurrogate()) << "no half letter";
+  EXPECT_LE(name->text().size(), 120);
+  Press("ProAddSaveBtn");
+  EXPECT_TRUE(std::filesystem::exists(library.Path("Demo/" + std::string(118, 'x')))) << "nor a blank at the end";
+
+  Press("SPBtn0");
+  auto* phone = Find<QLineEdit>("ProInfoBox3");
+  QTest::keyClicks(phone, QString(48, '1'));
+  EXPECT_EQ(Text("ProInfoBoxNote3"), "");
+  QTest::keyClicks(phone, "23");
+  EXPECT_EQ(phone->text().size(), 49);
+  EXPECT_EQ(Text("ProInfoBoxNote3"), "49 characters at most");
+}
+
 TEST_F(ProfilesPageTest, NotesAreKeptWhenTheyAreLeftHoweverThatHappens) {
   Choose("InstructorList", "Demo");
   Choose("StudentList", "Tom");

@@ -7,6 +7,7 @@
 #include "library/DiskSpace.h"
 #include "library/LibraryActions.h"
 #include "library/LibraryReading.h"
+#include "library/forms/BoxLimits.h"
 #include "library/forms/DriveChoice.h"
 #include "library/forms/Text.h"
 #include "platform/files/Folders.h"
@@ -60,6 +61,11 @@ QWidget* Framed(QLabel* caption, NameList* list) {
   return part;
 }
 
+/// A name that is short enough to stand in a sentence or a heading of the dialog.
+std::string Short(const QLabel& label, const std::string& name) {
+  return Std(label.fontMetrics().elidedText(Q(name), Qt::ElideMiddle, Px(300)));
+}
+
 /// A list that has got the keys has a current row; that alone is no choice.
 std::string ChosenIn(const NameList& list) {
   const auto chosen = list.selectedItems();
@@ -94,16 +100,23 @@ DialogForm::DialogForm(IHost& host, Settings& settings, QWidget* over)
   actions->addWidget(action_);
   rows->addLayout(actions);
   connect(cancel_, &QPushButton::clicked, this, &QDialog::reject);
-  connect(action_, &QPushButton::clicked, this, &DialogForm::Wanted);
+  connect(action_, &QPushButton::clicked, this, &DialogForm::Want);
 }
 
 QWidget* DialogForm::MakeRenamePanel() {
   name_ = new QLineEdit;
   name_->setObjectName("RenameText");
   name_->setAccessibleName("New name");
-  name_->setMaxLength(120);
+  auto* panel = new QWidget;
+  auto* rows = new QVBoxLayout(panel);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->setSpacing(4);
+  QLabel* note = MakeLabel("RenameNote", {}, "muted");
+  rows->addWidget(name_);
+  rows->addWidget(note);
+  LimitToNames(*name_, *note);
   connect(name_, &QLineEdit::textChanged, this, &DialogForm::ShowAction);
-  return name_;
+  return panel;
 }
 
 QWidget* DialogForm::MakeMovePanel() {
@@ -127,7 +140,7 @@ QWidget* DialogForm::MakeMovePanel() {
   for (NameList* list : {databases_, students_}) {
     connect(list, &QListWidget::itemActivated, this, [this, list] {
       if (list == databases_ && !studentsPart_->isHidden()) students_->setFocus();
-      else if (action_->isEnabled()) emit Wanted();
+      else if (action_->isEnabled()) Want();
     });
   }
   return panel;
@@ -154,7 +167,10 @@ void DialogForm::Open(Mode mode, const LibraryVideo& about) {
   const ModeLook look = LookOf(mode);
   const LibraryTexts texts = LibraryTextsFor(settings_);
   const Vocabulary words(settings_);
-  const std::string video = about.path.empty() ? std::string() : VideoName(LastName(about.path));
+  const std::string file = about.path.empty() ? std::string() : VideoName(LastName(about.path));
+  const std::string video = Short(*title_, file);
+  const std::string student = Short(*title_, about.student);
+  const std::string instructor = Short(*title_, about.instructor);
   // What has been typed in other modes must not come back in this one.
   const auto show = [&](const std::string& title, const std::string& text, const std::string& caption) {
     setWindowTitle(Q(title));
@@ -164,30 +180,30 @@ void DialogForm::Open(Mode mode, const LibraryVideo& about) {
   };
   switch (mode) {
     case Mode::RenameInstructor:
-      show("Rename Instructor or Database", "Type the new name of " + about.instructor + ".", "Rename");
+      show("Rename Instructor or Database", "Type the new name of " + instructor + ".", "Rename");
       OpenRename(about.instructor);
       break;
     case Mode::DeleteInstructor:
       show("Delete Instructor or Database",
-           "This will remove " + about.instructor + " from your system. It must not hold any " + words.nouns() +
+           "This will remove " + instructor + " from your system. It must not hold any " + words.nouns() +
                " or videos any more.",
            "Delete");
       break;
     case Mode::RenameStudent:
-      show(words.Rename(), "Type the new name of " + about.student + ".", "Rename");
+      show(words.Rename(), "Type the new name of " + student + ".", "Rename");
       OpenRename(about.student);
       break;
     case Mode::MoveStudent:
-      show(words.MoveThis() + ": " + about.student, texts.moveStudent, "Move");
+      show(words.MoveThis() + ": " + student, texts.moveStudent, "Move");
       OpenMove();
       break;
     case Mode::DeleteStudent:
-      show(words.DeleteThis() + ": " + about.student, texts.deleteWarning + "\n\n" + texts.deleteFinish,
+      show(words.DeleteThis() + ": " + student, texts.deleteWarning + "\n\n" + texts.deleteFinish,
            "Delete " + words.Noun());
       break;
     case Mode::RenameVideo:
       show("Rename Video", "Type the new name of " + video + ".", "Rename");
-      OpenRename(video);
+      OpenRename(file);
       break;
     case Mode::MoveVideo:
       show("Move this video: " + video,
@@ -245,10 +261,24 @@ void DialogForm::OpenMove() {
   LibraryVideo about = about_;
   if (!video) about.path.clear();
   const auto databases = Read([about](const LibraryTree& tree) { return MoveTargets(tree, about); });
-  const auto own = std::ranges::find(databases, about_.instructor);
-  databases_->Fill(Q(databases), own == databases.end() ? -1 : static_cast<int>(own - databases.begin()));
+  // Who clears up moves one after the other to the same place.
+  const auto rowOf = [&](const std::string& name) {
+    const auto found = std::ranges::find(databases, name);
+    return found == databases.end() ? -1 : static_cast<int>(found - databases.begin());
+  };
+  int row = rowOf(lastDatabase_);
+  if (row < 0) row = rowOf(about_.instructor);
+  databases_->Fill(Q(databases), row);
   studentsPart_->setVisible(video);
   ShowStudents();
+}
+
+void DialogForm::Want() {
+  if (LookOf(mode_).part == ModeLook::Part::Move) {
+    lastDatabase_ = Database();
+    if (mode_ == Mode::MoveVideo) lastStudent_ = Student();
+  }
+  emit Wanted();
 }
 
 void DialogForm::ShowStudents() {
@@ -256,8 +286,10 @@ void DialogForm::ShowStudents() {
   studentsTitle_->setText(Q(words.Nouns()));
   students_->setAccessibleName(Q(words.Nouns()));
   students_->SetHint(Database().empty() ? "Choose a database first." : QString("No %1 here.").arg(Q(words.nouns())));
-  students_->Fill(
-      Q(Read([database = Database()](const LibraryTree& tree) { return tree.Students(database); })), -1);
+  const auto students = Read([database = Database()](const LibraryTree& tree) { return tree.Students(database); });
+  const auto last = std::ranges::find(students, lastStudent_);
+  const bool again = Database() == lastDatabase_ && last != students.end();
+  students_->Fill(Q(students), again ? static_cast<int>(last - students.begin()) : -1);
 }
 
 /// A drive that is slow to answer must not keep the form from showing.

@@ -50,6 +50,7 @@ class DialogForm : public QDialog {
   QWidget* MakeCopyPanel(IHost& host, Settings& settings);
   void OpenRename(const std::string& name);
   void OpenMove();
+  void Want();
   void ShowStudents();
   template <typename Reading>
   std::vector<std::string> Read(Reading reading);
@@ -62,6 +63,8 @@ class DialogForm : public QDialog {
   Mode mode_ = Mode::RenameStudent;
   LibraryVideo about_;
   std::string oldName_;
+  std::string lastDatabase_;  ///< the target of the last move
+  std::string lastStudent_;
   HostTimer reading_;
 
   QLabel* title_;

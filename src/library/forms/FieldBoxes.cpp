@@ -1,11 +1,13 @@
 #include "library/forms/FieldBoxes.h"
 
+#include <QBoxLayout>
 #include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <algorithm>
 
+#include "library/forms/BoxLimits.h"
 #include "library/forms/Text.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
@@ -34,9 +36,14 @@ FieldBoxes::FieldBoxes(const QString& captionName, const QString& boxName, QWidg
     captions_[at] = MakeLabel(captionName + QString::number(field), {}, "caption");
     boxes_[at] = new QLineEdit;
     boxes_[at]->setObjectName(boxName + QString::number(field));
-    boxes_[at]->setMaxLength(kMaxFieldText);
+    notes_[at] = MakeLabel(boxName + "Note" + QString::number(field), {}, "muted");
+    // The name is the program's, or that of a folder.
+    if (field != kNameField) LimitLength(*boxes_[at], *notes_[at], kMaxFieldText);
     captions_[at]->setBuddy(boxes_[at]);
-    cell->addWidget(captions_[at]);
+    auto* head = new QHBoxLayout;
+    head->addWidget(captions_[at], 1);
+    head->addWidget(notes_[at]);
+    cell->addLayout(head);
     cell->addWidget(boxes_[at]);
   }
   Arrange();

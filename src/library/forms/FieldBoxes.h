@@ -20,6 +20,8 @@ class FieldBoxes : public QWidget {
 
   /// @param field  0 to kProfileFields - 1
   QLineEdit& Box(int field) { return *boxes_[static_cast<std::size_t>(field)]; }
+  /// Beside the caption, for what the box does not take.
+  QLabel& Note(int field) { return *notes_[static_cast<std::size_t>(field)]; }
   void SetCaption(int field, const QString& caption);
   FieldTexts Texts() const;
   void SetTexts(const FieldTexts& texts);
@@ -35,6 +37,7 @@ class FieldBoxes : public QWidget {
   int columns_ = 0;
   std::array<QWidget*, kProfileFields> cells_{};
   std::array<QLabel*, kProfileFields> captions_{};
+  std::array<QLabel*, kProfileFields> notes_{};
   std::array<QLineEdit*, kProfileFields> boxes_{};
 };
 

@@ -2,8 +2,10 @@
 
 #include <QBoxLayout>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 
+#include "library/forms/BoxLimits.h"
 #include "library/forms/HeadButton.h"
 #include "platform/widgets/NameList.h"
 
@@ -15,15 +17,18 @@ InstructorsPanel::InstructorsPanel(NameList* list, QWidget* parent)
   Body()->addWidget(list_, 1);
 
   nameBox_ = new QWidget;
-  auto* row = new QHBoxLayout(nameBox_);
-  row->setContentsMargins(8, 8, 8, 0);
+  auto* rows = new QVBoxLayout(nameBox_);
+  rows->setContentsMargins(8, 8, 8, 0);
   Text2_ = new QLineEdit;
   Text2_->setObjectName("Text2");
   Text2_->setPlaceholderText("Name");
   Text2_->setAccessibleName("Name of the new instructor or database");
-  Text2_->setMaxLength(120);
   Text2_->installEventFilter(this);
-  row->addWidget(Text2_);
+  QLabel* note = MakeLabel("Text2Note", {}, "muted");
+  note->setWordWrap(true);
+  rows->addWidget(Text2_);
+  rows->addWidget(note);
+  LimitToNames(*Text2_, *note);
   nameBox_->hide();
   Body()->addWidget(nameBox_);
 

@@ -8,6 +8,7 @@
 #include <QScrollArea>
 
 #include "library/LibraryActions.h"
+#include "library/forms/BoxLimits.h"
 #include "library/forms/FieldBoxes.h"
 #include "library/forms/Text.h"
 #include "platform/widgets/Buttons.h"
@@ -51,6 +52,7 @@ ProfileEditor::ProfileEditor(const Settings& settings, QWidget* parent)
   count.setReadOnly(true);
   count.setFocusPolicy(Qt::NoFocus);
   count.setPlaceholderText("counted by the program");
+  LimitToNames(boxes_->Box(kNameField), boxes_->Note(kNameField));
   rows->addWidget(boxes_);
   rows->addStretch(1);
   scroll->setWidget(body);
@@ -69,27 +71,30 @@ void ProfileEditor::Fill(const FieldTexts& captions, const FieldTexts& values) {
   for (int field = 0; field < kProfileFields; ++field)
     boxes_->SetCaption(field, Q(captions[static_cast<std::size_t>(field)]));
   boxes_->SetTexts(values);
+  opened_ = boxes_->Texts();
 }
+
+QString ProfileEditor::Title() const { return Q(new_ ? vocabulary_.AddNew() : vocabulary_.ProfilesEditUtility()); }
+
+bool ProfileEditor::Changed() const { return boxes_->Texts() != opened_; }
 
 void ProfileEditor::OpenNew(const FieldTexts& captions) {
   new_ = true;
-  SetTitle(Q(vocabulary_.AddNew()));
+  SetTitle(Title());
   text_->setText(Q(LibraryTextsFor(settings_).addHelp));
+  boxes_->Box(kNameField).setReadOnly(false);
   Fill(captions, {});
   instructorPart_->show();
-  boxes_->Box(kNameField).setReadOnly(false);
-  // A folder name may be longer than a value.
-  boxes_->Box(kNameField).setMaxLength(120);
 }
 
 void ProfileEditor::OpenEdit(const FieldTexts& captions, const FieldTexts& values) {
   new_ = false;
-  SetTitle(Q(vocabulary_.ProfilesEditUtility()));
+  SetTitle(Title());
   text_->setText(
       QString("Edit the fields of the %1 and choose \"Save\" to modify.").arg(Q(vocabulary_.noun())));
+  boxes_->Box(kNameField).setReadOnly(true);
   Fill(captions, values);
   instructorPart_->hide();
-  boxes_->Box(kNameField).setReadOnly(true);
 }
 
 FieldTexts ProfileEditor::Values() const { return boxes_->Texts(); }

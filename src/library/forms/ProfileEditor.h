@@ -27,8 +27,11 @@ class ProfileEditor : public Panel {
   /// The present values; the name and the count of videos cannot be changed here.
   void OpenEdit(const FieldTexts& captions, const FieldTexts& values);
   bool IsNew() const { return new_; }
+  QString Title() const;
 
   FieldTexts Values() const;
+  /// Something has been typed since it was opened.
+  bool Changed() const;
   /// The chosen entry of `Combo2`, empty when none is.
   std::string Instructor() const;
   void SetInstructors(const std::vector<std::string>& names);
@@ -49,6 +52,7 @@ class ProfileEditor : public Panel {
   const Settings& settings_;
   Vocabulary vocabulary_;
   bool new_ = true;
+  FieldTexts opened_;
   QLabel* text_;
   QWidget* instructorPart_;
   QComboBox* instructors_;

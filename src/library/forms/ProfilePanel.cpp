@@ -21,6 +21,13 @@ namespace {
 /// The fields that an instructor looks at most: name, phone, e-mail, videos, years, hand, goals, injuries.
 const std::vector<int> kBriefFields{0, 3, 4, 9, 5, 8, 12, 17};
 
+/// Who has not typed for so long rests.
+constexpr int kRestMs = 1000;
+
+std::string NotSaved(const std::string& reason) {
+  return "The notes could not be saved: " + reason + ". They are kept and will be tried again.";
+}
+
 std::vector<int> AllFields() {
   std::vector<int> fields;
   for (int field = 0; field < kProfileFields; ++field) fields.push_back(field);
@@ -33,8 +40,9 @@ ProfilePanel::ProfilePanel(IHost& host, const Settings& settings, QWidget* paren
     : Panel("ProfileTitle", " ", parent),
       host_(host),
       vocabulary_(settings),
-      notes_([&host, &settings](const std::string& folder) {
-        return host.Drives().Answers(settings.LibraryPath, folder);
+      notes_([this, &settings](const std::string& folder) {
+        DriveWatch& drives = host_.Drives();
+        return resting_ ? drives.AnswersAtOnce(settings.LibraryPath, folder) : drives.Answers(settings.LibraryPath, folder);
       }) {
   notes_.Lost = [this](const std::string& folder, const std::string& notes) { TellLost(folder, notes); };
   details_ = HeadButton("ProBtn0", "Show Details");
@@ -71,6 +79,9 @@ ProfilePanel::ProfilePanel(IHost& host, const Settings& settings, QWidget* paren
   Body()->addWidget(notesPart_, 1);
   notesTitle_->setBuddy(editor_);
 
+  connect(editor_, &QPlainTextEdit::textChanged, this, [this] {
+    rest_ = HostTimer(host_, kRestMs, false, [this] { KeepTypedNotes(); });
+  });
   connect(details_, &QPushButton::clicked, this, [this] { ProBtn(0); });
   connect(edit_, &QPushButton::clicked, this, [this] { ProBtn(1); });
   connect(back_, &QPushButton::clicked, this, &ProfilePanel::BackWanted);
@@ -113,6 +124,7 @@ void ProfilePanel::OpenStudent(const std::string& studentFolder) {
   const std::string& text = notes_.Open(studentFolder);
   const bool student = !studentFolder.empty();
   editor_->setPlainText(Q(text));
+  rest_.Stop();
   editor_->setEnabled(student && notes_.Readable());
   SetTitle(student ? Q(LastName(studentFolder)) : Q(vocabulary_.Profile()));
   if (!notes_.Readable()) emit Said("The notes cannot be read.");
@@ -120,9 +132,10 @@ void ProfilePanel::OpenStudent(const std::string& studentFolder) {
 
 bool ProfilePanel::SaveNotes() {
   telling_.Stop();
+  rest_.Stop();
   std::string reason;
   if (KeepNotes(&reason)) return true;
-  const std::string text = "The notes could not be saved: " + reason + ". They are kept and will be tried again.";
+  const std::string text = NotSaved(reason);
   const bool told = reason == toldReason_ && notes_.Unsaved() == toldNotes_;
   toldReason_ = reason;
   toldNotes_ = notes_.Unsaved();
@@ -143,6 +156,16 @@ bool ProfilePanel::KeepNotes(std::string* reason) {
   const bool kept = notes_.Keep(Std(editor_->toPlainText()), reason);
   if (kept) toldNotes_.clear();
   return kept;
+}
+
+/// While the user rests. A silent drive is not waited for, and what fails is told without a box: the notes are
+/// tried again when they are left.
+void ProfilePanel::KeepTypedNotes() {
+  resting_ = true;
+  std::string reason;
+  const bool kept = KeepNotes(&reason);
+  resting_ = false;
+  if (!kept) emit Said(Q(NotSaved(reason)));
 }
 
 /// The notes can at least be read, and copied out of the box; told when the click is over.

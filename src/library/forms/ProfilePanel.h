@@ -51,12 +51,15 @@ class ProfilePanel : public Panel {
  private:
   void ProBtn(int index);
   bool KeepNotes(std::string* reason);
+  void KeepTypedNotes();
   void TellLost(const std::string& folder, const std::string& notes);
 
   IHost& host_;
   Vocabulary vocabulary_;
+  bool resting_ = false;  ///< it is the clock that stores the notes
   NotesKeeper notes_;
   HostTimer telling_;
+  HostTimer rest_;  ///< runs while notes have been typed that the disk has not got yet
   std::string toldReason_;                       ///< why notes could not be stored, as the last box told it
   std::map<std::string, std::string> toldNotes_;  ///< and which
   View view_ = View::Brief;

@@ -1,8 +1,11 @@
 #include "library/forms/ProfilesPage.h"
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QGridLayout>
 #include <QKeyEvent>
+#include <QPointer>
+#include <utility>
 
 #include "library/LibraryReading.h"
 #include "library/forms/FieldGrid.h"
@@ -49,7 +52,7 @@ ProfilesPage::ProfilesPage(PlayerServices& services, Settings& settings, Profile
   students_ = new Panel("StudentsTitle", "Students");
   videos_ = new VideosPanel(services, settings, lists_->VideoList());
   profilePanel_ = new ProfilePanel(services.host, settings);
-  editor_ = new ProfileEditor(settings);
+  editor_ = new ProfileEditor(settings, this);
   editor_->hide();
   grid_->addWidget(instructors_, 0, 0);
   grid_->addWidget(students_, 0, 1);
@@ -63,7 +66,10 @@ ProfilesPage::ProfilesPage(PlayerServices& services, Settings& settings, Profile
                                    .Say = [this](const QString& text) { Say(text); }},
                                   this);
   lists_->MayLeave = [this] { return profilePanel_->LeaveNotes(); };
-  connect(lists_, &LibraryLists::Chosen, this, [this] { Say({}); });
+  connect(lists_, &LibraryLists::Chosen, this, [this] {
+    choosing_ = true;
+    Say({});
+  });
   connect(lists_, &LibraryLists::InstructorChosen, this, &ProfilesPage::InstructorChosen);
   connect(lists_, &LibraryLists::StudentChosen, this, &ProfilesPage::StudentList_Click);
   connect(lists_, &LibraryLists::VideoChosen, this, &ProfilesPage::VideoList_Click);
@@ -80,10 +86,7 @@ ProfilesPage::ProfilesPage(PlayerServices& services, Settings& settings, Profile
   connect(profilePanel_, &ProfilePanel::BackWanted, this, [this] { ShowProfileView(false); });
   connect(profilePanel_, &ProfilePanel::Said, this, &ProfilesPage::Say);
   connect(editor_, &ProfileEditor::SaveWanted, this, &ProfilesPage::ProAddSaveBtn);
-  connect(editor_, &ProfileEditor::CancelWanted, this, [this] {
-    CloseEditor();
-    Say({});
-  });
+  connect(editor_, &ProfileEditor::CancelWanted, this, &ProfilesPage::CancelEditor);
 
   SetupVocabulary();
   SetupFields();
@@ -123,6 +126,8 @@ bool ProfilesPage::Leave() {
   shownVideo_.clear();
   return profilePanel_->SaveNotes();
 }
+
+bool ProfilesPage::MayClose() { return editor_->isHidden() || MayDropEdits(); }
 
 /// Lets an operation have the student and the video.
 bool ProfilesPage::Release() {
@@ -194,7 +199,9 @@ bool ProfilesPage::ListKey(QObject* list, int key) {
 }
 
 void ProfilesPage::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Escape && profilePanel_->CurrentView() == ProfilePanel::View::Complete) {
+  if (event->key() == Qt::Key_Escape && !editor_->isHidden()) {
+    CancelEditor();
+  } else if (event->key() == Qt::Key_Escape && profilePanel_->CurrentView() == ProfilePanel::View::Complete) {
     ShowProfileView(false);
   } else if (event->key() == Qt::Key_F5) {
     browser_.Drives().TryAgain(settings_.LibraryPath);
@@ -238,20 +245,29 @@ bool ProfilesPage::LibraryAnswers(const std::string& path) {
 }
 
 void ProfilesPage::VideoList_Click() {
+  const bool chosen = std::exchange(choosing_, false);
   const std::string path = browser_.VideoPath();
   if (path == shownVideo_ && !path.empty()) return;
   commands_->CloseTrim();
   shownVideo_ = path;
   question_.Stop();
   if (videos_->ShowVideo(path)) return;
+  // One that is only shown again, as the page opens, is told of in the line beneath the picture.
+  if (!chosen) return;
   // Asked when the click is over: a box that opens under a pressed mouse button leaves the list dragging.
   question_ = HostTimer(services_.host, 0, false, [this, video = ChosenVideo(browser_)] { OfferToDelete(video); });
 }
 
 void ProfilesPage::OfferToDelete(const LibraryVideo& video) {
-  if (badVideos_.Offer(video) == BadVideos::Fate::Kept) return;
-  browser_.Refresh();
-  lists_->ShowAll();
+  const QPointer<QWidget> keys = QApplication::focusWidget();
+  if (badVideos_.Offer(video) != BadVideos::Fate::Kept) {
+    browser_.Refresh();
+    lists_->ShowAll();
+  }
+  // The keys return to the list in which the video was chosen.
+  if (!isVisible()) return;
+  if (keys && keys->isVisible() && isAncestorOf(keys)) keys->setFocus();
+  else lists_->VideoList()->setFocus();
 }
 
 // ---------------------------------------------------------------- commands
@@ -317,6 +333,18 @@ void ProfilesPage::OpenEditor(bool edit) {
   grid_->addWidget(editor_, 0, 1, 2, 2);
   editor_->show();
   editor_->FocusFirst();
+  Say({});
+}
+
+bool ProfilesPage::MayDropEdits() {
+  return !editor_->Changed() ||
+         services_.host.Question(Std(editor_->Title()),
+                                 "What you have typed has not been saved. Do you want to close the form without saving it?");
+}
+
+void ProfilesPage::CancelEditor() {
+  if (!MayDropEdits()) return;
+  CloseEditor();
   Say({});
 }
 

@@ -44,6 +44,9 @@ class ProfilesPage : public QWidget {
   /// The page is left: stores the notes and closes the preview. False, after a message, when the notes
   /// could not be stored; they are kept.
   bool Leave();
+  /// The program is about to close: asks about a profile that is being edited. False when the user would
+  /// rather stay.
+  bool MayClose();
   /// Captions with the present word for the person under analysis.
   void SetupVocabulary();
   /// The captions of the fields have changed.
@@ -75,6 +78,8 @@ class ProfilesPage : public QWidget {
   void ShowProfileView(bool shown);
   std::vector<std::string> RealInstructors() const;
   void OpenEditor(bool edit);
+  bool MayDropEdits();
+  void CancelEditor();
   void CloseEditor();
   void ProAddSaveBtn();
   void AddInstructor(const QString& name);
@@ -91,6 +96,7 @@ class ProfilesPage : public QWidget {
   LibraryCommands* commands_;
   Profile profile_;
   HostTimer question_;
+  bool choosing_ = false;  ///< the user has just chosen in a list
   std::string shownStudent_;
   std::string shownVideo_;
   std::string editedFolder_;  ///< of the student whose profile is in the editor

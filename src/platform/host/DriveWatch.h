@@ -53,6 +53,9 @@ class DriveWatch {
   /// True when the drive of `place` answers for a file or folder on it, whether or not there is one.
   bool Answers(const std::string& place, const std::string& path);
   bool Answers(const std::string& place) { return Answers(place, place); }
+  /// The same for what nobody has asked for just now: without a card. A drive that takes longer than a wait
+  /// that nobody notices is silent.
+  bool AnswersAtOnce(const std::string& place, const std::string& path);
 
   /// True while work hangs in the drive of `place`.
   bool Silent(const std::string& place);
