@@ -27,6 +27,8 @@ namespace {
 constexpr QSize kLeastMain(1000, 680);
 /// A window that keeps its size for so long has got where it is dragged to.
 constexpr int kSettledMs = 150;
+/// By then a desktop has put its frame around a new window.
+constexpr int kFramedMs = 150;
 /// Sections whose subsystems are not built yet.
 constexpr int kComing[] = {kCapturePage, kLessonPage};
 
@@ -92,6 +94,7 @@ void Program::DressApplication() { ApplyTheme(application_, Theme::FromSlots(sch
 
 void Program::LoadMain() {
   fields_.SetupFields();
+  lastStudent_ = {settings_.LastInstructor, settings_.LastStudent, {}};
   main_ = std::make_unique<Main>();
   main_->closing = [this] { return Shutdown(); };
   QObject::connect(main_.get(), &Main::PageWanted, [this](int index) { OpenPage(index); });
@@ -170,14 +173,41 @@ void Program::PlaceMain() {
     main_->showFullScreen();
   } else {
     main_->setGeometry(QRect(QPoint(place.left / kTwipsOfPixel, place.top / kTwipsOfPixel), size));
+    FitMain();
     main_->show();
+    // The frame is known once the desktop has put it around the window.
+    framing_ = HostTimer(*host_, kFramedMs, false, [this] { FitMain(); });
   }
   main_->activateWindow();
+}
+
+/// Keeps all of the window, its title bar above all, in the part of the screen that is free.
+void Program::FitMain() {
+  const QScreen* screen = main_ ? main_->screen() : nullptr;
+  if (!screen || main_->isMaximized() || main_->isFullScreen()) return;
+  const QRect room = screen->availableGeometry();
+  const QRect whole = main_->frameGeometry();
+  const ScreenArea fitted = FitOnScreen({whole.left(), whole.top(), whole.width(), whole.height()},
+                                        {room.left(), room.top(), room.width(), room.height()});
+  const QRect place(fitted.left, fitted.top, fitted.width, fitted.height);
+  if (place == whole) return;
+  const QRect inside = main_->geometry();
+  const QMargins frame(inside.left() - whole.left(), inside.top() - whole.top(), whole.right() - inside.right(),
+                       whole.bottom() - inside.bottom());
+  main_->setMinimumSize(kLeastMain.boundedTo(place.marginsRemoved(frame).size()));
+  main_->setGeometry(place.marginsRemoved(frame));
+}
+
+/// The next start finds the library where it was left.
+void Program::KeepLastStudent() {
+  if (settings_.LastInstructor != lastStudent_[0]) settings_.Set(settings_.LastInstructor, lastStudent_[0]);
+  if (settings_.LastStudent != lastStudent_[1]) settings_.Set(settings_.LastStudent, lastStudent_[1]);
 }
 
 void Program::OpenPage(int index) {
   if (!main_) return;
   if (main_->CurrentPage() == kProfilesPage && index != kProfilesPage && !profiles_->Leave()) return;
+  KeepLastStudent();
   if (index == kAnalysisPage) {
     main_->SetHeading(Text(vocabulary_.PageTitle(kAnalysisPage)));
     AnalysisForm& form = Analysis();
@@ -252,6 +282,7 @@ AnalysisLink Program::LinkToAnalysis() {
 /// False when the user would rather stay than lose what could not be saved; a wish to restart ends with it.
 bool Program::Shutdown() {
   const bool restart = std::exchange(RestartFlag_, false);
+  if (!profiles_->MayClose()) return false;
   if (analysis_ && !analysis_->CloseAll()) return false;
   if (!profiles_->Leave() &&
       !host_->Question("", "The notes could not be saved. Do you want to close Kinalyx all the same?"))
@@ -263,6 +294,7 @@ bool Program::Shutdown() {
     main_->DropPage(kAnalysisPage);
     host_->DoEvents();
   }
+  KeepLastStudent();
   const QRect place = main_->frameGeometry();
   settings_.StoreWindowPlace(place.top() * kTwipsOfPixel, place.left() * kTwipsOfPixel, place.width() * kTwipsOfPixel,
                              place.height() * kTwipsOfPixel);

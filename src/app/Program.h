@@ -49,6 +49,8 @@ class Program {
   void DressApplication();
   void LoadMain();
   void PlaceMain();
+  void FitMain();
+  void KeepLastStudent();
   /// Takes the size that the main form has, or is about to have; true when that changes the text.
   bool TakeSize(int width, int height);
   void MainResized();
@@ -84,6 +86,7 @@ class Program {
   HelpPage* help_ = nullptr;
   ResizeControls resizeControls_;
   HostTimer settling_;
+  HostTimer framing_;
   bool RestartFlag_ = false;
 };
 
