@@ -121,6 +121,10 @@ TEST_F(AnalysisFormTest, KeypadAndDigitsAreTwoThings) {
   EXPECT_EQ(Slots().At(1).PanX, -50);
   Key(Qt::Key_C, Qt::ControlModifier);
   EXPECT_TRUE(Slots().HasVideo(1));
+  Key(Qt::Key_Escape);
+  EXPECT_FALSE(Slots().HasVideo(1));
+  Key(Qt::Key_T, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_TRUE(Slots().HasVideo(1)) << "what was closed comes back";
   QKeyEvent held(QEvent::KeyPress, Qt::Key_P, {}, "p", true);
   QApplication::sendEvent(Find<QWidget>("Text1"), &held);
   EXPECT_FALSE(Slots().MP(1).IsPlaying()) << "a held key toggles once";

@@ -148,7 +148,7 @@ void AnalysisForm::keyPressEvent(QKeyEvent* event) {
   const bool nudges = analysis_->Edits().Editing() && event->modifiers() & Qt::ShiftModifier;
   if (event->isAutoRepeat() && !RepeatsWhileHeld(*event) && !nudges) return;
   const bool combined = event->modifiers() & (Qt::ControlModifier | Qt::AltModifier) && code != kKeyCtrl &&
-                        code != 'Z' && code != 'Y';
+                        !IsLetterWithCtrl(*event);
   bool taken = code != 0 && !combined && analysis_->Commands().Form_KeyDown(code, ShiftOf(event->modifiers()));
   if (const int character = KeyAsciiOf(*event); character != 0)
     taken = analysis_->Commands().Form_KeyPress(character) || taken;

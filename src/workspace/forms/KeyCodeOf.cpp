@@ -7,12 +7,17 @@
 
 namespace kinalyx {
 
+bool IsLetterWithCtrl(const QKeyEvent& event) {
+  return event.key() >= Qt::Key_A && event.key() <= Qt::Key_Z && event.modifiers() & Qt::ControlModifier &&
+         !(event.modifiers() & Qt::AltModifier);
+}
+
 int KeyCodeOf(const QKeyEvent& event) {
   const int key = event.key();
   if (key >= Qt::Key_0 && key <= Qt::Key_9)
     return (event.modifiers() & Qt::KeypadModifier ? kKeyNumpad0 : kKey0) + key - Qt::Key_0;
   if (key >= Qt::Key_F1 && key <= Qt::Key_F12) return kKeyF1 + key - Qt::Key_F1;
-  if ((key == Qt::Key_Z || key == Qt::Key_Y) && event.modifiers() & Qt::ControlModifier) return key;
+  if (IsLetterWithCtrl(event)) return key;
   switch (key) {
     case Qt::Key_Tab: return kKeyTab;
     case Qt::Key_Left: return kKeyLeft;
