@@ -55,18 +55,19 @@ TEST(CopyPart, LeavesOutWhatLiesOutsideEither) {
   const Surface source = Noise(30, 20, 5);
   const struct {
     int x, y, width, height, toX, toY;
-  } cases[] = {{5, 4, 10, 8, 2, 3}, {-4, -2, 12, 9, 0, 0}, {25, 15, 20, 20, 1, 1}, {0, 0, 30, 20, -6, 14}, {0, 0, 9, 0, 0, 0}, {40, 2, 9, 9, 0, 0}};
+  } cases[] = {{5, 4, 10, 8, 2, 3}, {-4, -2, 12, 9, 0, 0}, {25, 15, 20, 20, 1, 1},
+               {0, 0, 30, 20, -6, 14}, {0, 0, 9, 0, 0, 0}, {40, 2, 9, 9, 0, 0}};
+  const auto within = [](int x, int y, int width, int height) { return x >= 0 && x < width && y >= 0 && y < height; };
   for (const auto& part : cases) {
     const Surface before = Noise(24, 18, 6);
     Surface target = before;
     CopyPart(source, part.x, part.y, part.width, part.height, target, part.toX, part.toY);
     for (int y = 0; y < target.Height(); ++y) {
       for (int x = 0; x < target.Width(); ++x) {
-        const int fromX = x - part.toX + part.x;
-        const int fromY = y - part.toY + part.y;
-        const bool inside = x >= part.toX && x < part.toX + part.width && y >= part.toY && y < part.toY + part.height &&
-                            fromX >= 0 && fromX < 30 && fromY >= 0 && fromY < 20;
-        ASSERT_EQ(target.Pixel(x, y), inside ? source.Pixel(fromX, fromY) : before.Pixel(x, y)) << x << " " << y;
+        const int right = x - part.toX;
+        const int down = y - part.toY;
+        const bool copied = within(right, down, part.width, part.height) && within(right + part.x, down + part.y, 30, 20);
+        ASSERT_EQ(target.Pixel(x, y), copied ? source.Pixel(right + part.x, down + part.y) : before.Pixel(x, y)) << x << " " << y;
       }
     }
   }
@@ -81,18 +82,16 @@ TEST(ShiftLeft, MovesEveryRowAndKeepsTheFreedColumns) {
 }
 
 TEST(Dissolve, EachLevelLiesInTheOneBefore) {
-  DissolvePattern before = createDissolveBrush(0);
+  const auto bits = [](const DissolvePattern& pattern) {
+    int count = 0;
+    for (const auto row : pattern) count += std::popcount(row);
+    return count;
+  };
   for (int level = 1; level < kDissolveLevels; ++level) {
+    const DissolvePattern before = createDissolveBrush(level - 1);
     const DissolvePattern pattern = createDissolveBrush(level);
-    int bits = 0;
-    int bitsBefore = 0;
-    for (std::size_t row = 0; row < 8; ++row) {
-      EXPECT_EQ(pattern[row] & ~before[row], 0) << "level " << level;
-      bits += std::popcount(pattern[row]);
-      bitsBefore += std::popcount(before[row]);
-    }
-    EXPECT_LT(bits, bitsBefore);
-    before = pattern;
+    for (std::size_t row = 0; row < 8; ++row) EXPECT_EQ(pattern[row] & ~before[row], 0) << "level " << level;
+    EXPECT_LT(bits(pattern), bits(before));
   }
   EXPECT_EQ(createDissolveBrush(1), (DissolvePattern{85, 255, 85, 255, 85, 255, 85, 255}));
   EXPECT_EQ(createDissolveBrush(2), (DissolvePattern{85, 170, 85, 170, 85, 170, 85, 170}));
@@ -104,7 +103,7 @@ TEST(Dissolve, EachLevelLiesInTheOneBefore) {
   DissolveOver(picture, createDissolveBrush(2), target);
   for (int y = 0; y < 11; ++y)
     for (int x = 0; x < 19; ++x)
-      ASSERT_EQ(target.Pixel(x, y), (x + y) % 2 == 1 ? picture.Pixel(x, y) : ground.Pixel(x, y)) << x << " " << y;
+      ASSERT_EQ(target.Pixel(x, y), ((x + y) % 2 == 1 ? picture : ground).Pixel(x, y)) << x << " " << y;
 }
 
 }  // namespace

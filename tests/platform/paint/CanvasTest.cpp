@@ -10,8 +10,8 @@
 #include <utility>
 #include <vector>
 
-#include "support/Surfaces.h"
 #include "platform/paint/Fonts.h"
+#include "support/Surfaces.h"
 
 namespace kinalyx::test {
 namespace {
@@ -19,14 +19,6 @@ namespace {
 constexpr Colour kWhite = 0xFFFFFF;
 constexpr std::int32_t kFar = std::numeric_limits<std::int32_t>::max();
 constexpr std::int32_t kFarBack = std::numeric_limits<std::int32_t>::min();
-
-std::set<std::pair<int, int>> PixelsUnlike(const Surface& surface, Colour colour) {
-  std::set<std::pair<int, int>> pixels;
-  for (int y = 0; y < surface.Height(); ++y)
-    for (int x = 0; x < surface.Width(); ++x)
-      if (surface.Pixel(x, y) != colour) pixels.insert({x, y});
-  return pixels;
-}
 
 TEST(Surface, HoldsOpaquePixelsAndRefusesSenselessSizes) {
   Surface surface(3, 2);
@@ -41,49 +33,53 @@ TEST(Surface, HoldsOpaquePixelsAndRefusesSenselessSizes) {
     EXPECT_TRUE(Surface(width, height).Empty()) << width << " x " << height;
 }
 
-// What each raster mode makes of the four pairs of a pen's and a picture's bit, as (old, pen) = 00, 01, 10, 11.
-constexpr std::array<std::array<int, 4>, 16> kTruth = {{{0, 0, 0, 0},
-                                                        {1, 0, 0, 0},
-                                                        {0, 0, 1, 0},
-                                                        {1, 0, 1, 0},
-                                                        {0, 1, 0, 0},
-                                                        {1, 1, 0, 0},
-                                                        {0, 1, 1, 0},
-                                                        {1, 1, 1, 0},
-                                                        {0, 0, 0, 1},
-                                                        {1, 0, 0, 1},
-                                                        {0, 0, 1, 1},
-                                                        {1, 0, 1, 1},
-                                                        {0, 1, 0, 1},
-                                                        {1, 1, 0, 1},
-                                                        {0, 1, 1, 1},
-                                                        {1, 1, 1, 1}}};
+/// A black surface, and a canvas on it with a white pen.
+struct Sheet {
+  Surface surface;
+  Canvas canvas{surface};
+
+  Sheet(int width, int height, int pen, Rop2 mode = Rop2::CopyPen) : surface(width, height) {
+    canvas.SetPen({kWhite, pen, 0});
+    canvas.SetROP2(mode);
+  }
+  Colour At(int x, int y) const { return surface.Pixel(x, y); }
+  /// Where it is black no more.
+  std::set<std::pair<int, int>> Touched() const {
+    std::set<std::pair<int, int>> pixels;
+    for (int y = 0; y < surface.Height(); ++y)
+      for (int x = 0; x < surface.Width(); ++x)
+        if (At(x, y) != 0) pixels.insert({x, y});
+    return pixels;
+  }
+};
 
 TEST(Canvas, EveryRasterModeJoinsPenBrushAndPictureBitByBit) {
   const Colour old = Rgb(0x0F, 0xA5, 0x3C);
   const Colour penColour = Rgb(0x33, 0x0F, 0xF0);
   const Colour brushColour = Rgb(0x55, 0xF0, 0x99);
+  // The modes are numbered by what they make of a pen's and a picture's bit: 1 for both 0, 2 for the
+  // picture's alone, 4 for the pen's alone, 8 for both 1, and one more, as they count from 1.
   const auto expected = [&](int mode, Colour ink) {
     Colour result = 0;
-    for (int bit = 0; bit < 24; ++bit)
-      result |= kTruth[mode - 1][((old >> bit) & 1) * 2 + ((ink >> bit) & 1)] << bit;
+    for (int bit = 0; bit < 24; ++bit) {
+      const int pair = (ink >> bit & 1) * 2 + (old >> bit & 1);
+      result |= ((mode - 1) >> pair & 1) << bit;
+    }
     return result;
   };
   const std::array<POINTAPI, 4> box = {{{10, 10}, {30, 10}, {30, 30}, {10, 30}}};
   for (int mode = 1; mode <= 16; ++mode) {
     SCOPED_TRACE(mode);
-    Surface surface(41, 40);
-    surface.Clear(old);
-    Canvas canvas(surface);
-    canvas.SetROP2(static_cast<Rop2>(mode));
-    canvas.SetPen({penColour, 3, 0});
-    canvas.SetBrush(brushColour);
-    ASSERT_TRUE(canvas.Polygon(box));
-    EXPECT_EQ(surface.Pixel(20, 20), expected(mode, brushColour));
-    EXPECT_EQ(surface.Pixel(20, 10), expected(mode, penColour)) << "the outline lies in place of the filling, not over it";
-    EXPECT_EQ(surface.Pixel(20, 5), old);
-    EXPECT_EQ(surface.Pixel(35, 20), old);
-    EXPECT_TRUE(IsOpaque(surface));
+    Sheet sheet(41, 40, 3, static_cast<Rop2>(mode));
+    sheet.surface.Clear(old);
+    sheet.canvas.SetPen({penColour, 3, 0});
+    sheet.canvas.SetBrush(brushColour);
+    ASSERT_TRUE(sheet.canvas.Polygon(box));
+    EXPECT_EQ(sheet.At(20, 20), expected(mode, brushColour));
+    EXPECT_EQ(sheet.At(20, 10), expected(mode, penColour)) << "the outline lies in place of the filling, not over it";
+    EXPECT_EQ(sheet.At(20, 5), old);
+    EXPECT_EQ(sheet.At(35, 20), old);
+    EXPECT_TRUE(IsOpaque(sheet.surface));
   }
 }
 
@@ -93,19 +89,14 @@ TEST(Canvas, JoiningTouchesEachPixelOnceHoweverOftenAFigureCrossesItself) {
   for (int i = 0; i < 60; ++i)
     scribble.push_back({static_cast<int>(random() % 90) - 5, static_cast<int>(random() % 90) - 5});
   for (const int width : {1, 2, 7}) {
-    Surface surface(80, 80);
-    Canvas canvas(surface);
-    canvas.SetPen({kWhite, width, 0});
-    canvas.SetROP2(Rop2::MergePen);
-    canvas.Polyline(scribble);
-    const auto merged = PixelsUnlike(surface, 0);
-    surface.Clear(0);
-    canvas.SetROP2(Rop2::XorPen);
-    canvas.Polyline(scribble);
-    EXPECT_EQ(PixelsUnlike(surface, 0), merged) << width;
-    for (const auto& [x, y] : merged) ASSERT_EQ(surface.Pixel(x, y), kWhite) << "whole pixels only";
-    canvas.Polyline(scribble);
-    EXPECT_TRUE(PixelsUnlike(surface, 0).empty()) << "a second stroke takes the first away";
+    Sheet merged(80, 80, width, Rop2::MergePen);
+    Sheet joined(80, 80, width, Rop2::XorPen);
+    merged.canvas.Polyline(scribble);
+    joined.canvas.Polyline(scribble);
+    EXPECT_EQ(joined.Touched(), merged.Touched()) << width;
+    for (const auto& [x, y] : joined.Touched()) ASSERT_EQ(joined.At(x, y), kWhite) << "whole pixels only";
+    joined.canvas.Polyline(scribble);
+    EXPECT_TRUE(joined.Touched().empty()) << "a second stroke takes the first away";
   }
 }
 
@@ -113,30 +104,25 @@ TEST(Canvas, LinesOfACrispWidthFillTheirRowsAndNoOthers) {
   for (const auto& [width, first, last] : {std::tuple{1, 10, 10}, {2, 9, 10}, {3, 9, 11}, {4, 8, 11}}) {
     for (const Rop2 mode : {Rop2::CopyPen, Rop2::XorPen}) {
       SCOPED_TRACE(testing::Message() << "width " << width << " mode " << static_cast<int>(mode));
-      Surface surface(40, 20);
-      Canvas canvas(surface);
-      canvas.SetPen({kWhite, width, 0});
-      canvas.SetROP2(mode);
-      canvas.Line({8, 10}, {30, 10});
-      for (int y = 0; y < 20; ++y) EXPECT_EQ(surface.Pixel(20, y), y >= first && y <= last ? kWhite : 0) << y;
+      Sheet sheet(40, 20, width, mode);
+      sheet.canvas.Line({8, 10}, {30, 10});
+      for (int y = 0; y < 20; ++y) EXPECT_EQ(sheet.At(20, y), y >= first && y <= last ? kWhite : 0) << y;
     }
   }
 }
 
 TEST(Canvas, CopyModeSoftensEdgesAndRoundsEnds) {
-  Surface surface(60, 60);
-  Canvas canvas(surface);
-  canvas.SetPen({kWhite, 9, 0});
-  canvas.Line({15, 20}, {45, 33});
+  Sheet sheet(60, 60, 9);
+  sheet.canvas.Line({15, 20}, {45, 33});
   std::set<Colour> shades;
-  for (const auto& [x, y] : PixelsUnlike(surface, 0)) shades.insert(surface.Pixel(x, y));
+  for (const auto& [x, y] : sheet.Touched()) shades.insert(sheet.At(x, y));
   EXPECT_GT(shades.size(), 10u);
-  EXPECT_TRUE(IsOpaque(surface));
+  EXPECT_TRUE(IsOpaque(sheet.surface));
 
-  surface.Clear(0);
-  canvas.Line({20, 20}, {40, 20});
-  EXPECT_EQ(surface.Pixel(17, 20), kWhite) << "the end reaches beyond its point";
-  EXPECT_EQ(surface.Pixel(16, 16), 0) << "its corner is cut";
+  sheet.surface.Clear(0);
+  sheet.canvas.Line({20, 20}, {40, 20});
+  EXPECT_EQ(sheet.At(17, 20), kWhite) << "the end reaches beyond its point";
+  EXPECT_EQ(sheet.At(16, 16), 0) << "its corner is cut";
 }
 
 TEST(Canvas, DegenerateFiguresDrawALineOrADot) {
@@ -145,14 +131,12 @@ TEST(Canvas, DegenerateFiguresDrawALineOrADot) {
   for (const Rop2 mode : {Rop2::CopyPen, Rop2::XorPen}) {
     for (const int width : {1, 2, 5}) {
       SCOPED_TRACE(testing::Message() << "width " << width << " mode " << static_cast<int>(mode));
-      Surface surface(40, 40);
-      Canvas canvas(surface);
-      canvas.SetPen({kWhite, width, 0});
-      canvas.SetROP2(mode);
+      Sheet sheet(40, 40, width, mode);
+      Canvas& canvas = sheet.canvas;
       const auto touched = [&](auto draw) {
-        surface.Clear(0);
+        sheet.surface.Clear(0);
         EXPECT_TRUE(draw());
-        return PixelsUnlike(surface, 0);
+        return sheet.Touched();
       };
       const auto dot = touched([&] { return canvas.Line(here, here); });
       EXPECT_TRUE(dot.contains({20, 20}) || dot.contains({19, 19}));
@@ -172,23 +156,13 @@ TEST(Canvas, DegenerateFiguresDrawALineOrADot) {
 
 TEST(Canvas, EllipsesTakeTheirCornersInAnyOrder) {
   for (const Rop2 mode : {Rop2::CopyPen, Rop2::XorPen}) {
-    Surface first(50, 40);
-    Canvas canvas(first);
-    canvas.SetPen({kWhite, 1, 0});
-    canvas.SetROP2(mode);
-    canvas.Ellipse({10, 8}, {40, 28});
-    for (const auto& [x, y] : {std::pair{10, 18}, {40, 18}, {25, 8}, {25, 28}})
-      EXPECT_NE(first.Pixel(x, y), 0) << x << ", " << y;
-    EXPECT_EQ(first.Pixel(25, 18), 0) << "hollow without a brush";
-    EXPECT_EQ(first.Pixel(9, 18), 0);
-    EXPECT_EQ(first.Pixel(25, 29), 0);
-    for (const auto& [a, b] : {std::pair<POINTAPI, POINTAPI>{{40, 28}, {10, 8}}, {{40, 8}, {10, 28}}}) {
-      Surface second(50, 40);
-      Canvas other(second);
-      other.SetPen({kWhite, 1, 0});
-      other.SetROP2(mode);
-      other.Ellipse(a, b);
-      EXPECT_EQ(PixelsUnlike(second, 0), PixelsUnlike(first, 0));
+    for (const auto& [a, b] : {std::pair<POINTAPI, POINTAPI>{{10, 8}, {40, 28}}, {{40, 28}, {10, 8}}, {{40, 8}, {10, 28}}}) {
+      Sheet sheet(50, 40, 1, mode);
+      sheet.canvas.Ellipse(a, b);
+      for (const auto& [x, y] : {std::pair{10, 18}, {40, 18}, {25, 8}, {25, 28}})
+        EXPECT_NE(sheet.At(x, y), 0) << x << ", " << y;
+      for (const auto& [x, y] : {std::pair{25, 18}, {9, 18}, {25, 29}})
+        EXPECT_EQ(sheet.At(x, y), 0) << "hollow without a brush, " << x << ", " << y;
     }
   }
 }
@@ -196,118 +170,94 @@ TEST(Canvas, EllipsesTakeTheirCornersInAnyOrder) {
 TEST(Canvas, FiguresFarOutsideShowTheirPartOfThePicture) {
   for (const Rop2 mode : {Rop2::CopyPen, Rop2::MergePen}) {
     SCOPED_TRACE(static_cast<int>(mode));
-    Surface surface(100, 80);
-    Canvas canvas(surface);
-    canvas.SetPen({kWhite, 1, 0});
-    canvas.SetROP2(mode);
-    const auto fresh = [&] { surface.Clear(0); };
-
+    Sheet sheet(100, 80, 1, mode);
+    Canvas& canvas = sheet.canvas;
     canvas.Line({kFarBack, 40}, {kFar, 40});
-    for (int x = 0; x < 100; ++x) ASSERT_EQ(surface.Pixel(x, 40), kWhite) << x;
-    EXPECT_EQ(PixelsUnlike(surface, 0).size(), 100u);
+    for (int x = 0; x < 100; ++x) ASSERT_EQ(sheet.At(x, 40), kWhite) << x;
+    EXPECT_EQ(sheet.Touched().size(), 100u);
 
-    fresh();
+    sheet.surface.Clear(0);
     canvas.Line({kFarBack, kFarBack}, {kFar, kFar});
-    EXPECT_NE(surface.Pixel(30, 30), 0) << "the diagonal keeps its direction";
-    EXPECT_EQ(surface.Pixel(30, 34), 0);
+    EXPECT_NE(sheet.At(30, 30), 0) << "the diagonal keeps its direction";
+    EXPECT_EQ(sheet.At(30, 34), 0);
 
-    fresh();
+    sheet.surface.Clear(0);
     canvas.Line({kFarBack, kFar}, {kFarBack, kFarBack});
     canvas.Ellipse({kFar - 10, kFar - 10}, {kFar, kFar});
     canvas.Line({kFar, kFar}, {kFar, kFar});
-    EXPECT_TRUE(PixelsUnlike(surface, 0).empty());
+    EXPECT_TRUE(sheet.Touched().empty());
 
     // An ellipse as wide as the plane whose top passes through the picture's middle row.
-    fresh();
     canvas.Ellipse({kFarBack, 40}, {kFar, kFar});
-    EXPECT_NE(surface.Pixel(0, 40), 0);
-    EXPECT_NE(surface.Pixel(99, 40), 0);
-    EXPECT_EQ(surface.Pixel(50, 37), 0);
-    EXPECT_EQ(surface.Pixel(50, 43), 0);
+    EXPECT_TRUE(sheet.At(0, 40) != 0 && sheet.At(99, 40) != 0);
+    EXPECT_TRUE(sheet.At(50, 37) == 0 && sheet.At(50, 43) == 0);
 
-    fresh();
+    sheet.surface.Clear(0);
     canvas.SetBrush(Rgb(200, 0, 0));
     const std::array<POINTAPI, 3> half = {{{50, kFarBack}, {50, kFar}, {kFarBack, 0}}};
     canvas.Polygon(half);
-    EXPECT_EQ(surface.Pixel(0, 0), Rgb(200, 0, 0));
-    EXPECT_EQ(surface.Pixel(49, 79), Rgb(200, 0, 0));
-    EXPECT_EQ(surface.Pixel(50, 20), kWhite);
-    EXPECT_EQ(surface.Pixel(52, 20), 0);
+    for (const auto& [x, y] : {std::pair{0, 0}, {49, 79}}) EXPECT_EQ(sheet.At(x, y), Rgb(200, 0, 0));
+    EXPECT_EQ(sheet.At(50, 20), kWhite);
+    EXPECT_EQ(sheet.At(52, 20), 0);
     canvas.Ellipse({kFarBack, kFarBack}, {kFar, kFar});
-    EXPECT_EQ(surface.Pixel(99, 79) & 0xFF, 200) << "the picture lies inside";
+    EXPECT_EQ(sheet.At(99, 79) & 0xFF, 200) << "the picture lies inside";
 
     for (int style = 1; style <= 4; ++style) {
       canvas.SetPen({kWhite, 1, style});
       EXPECT_TRUE(canvas.Line({kFarBack, kFarBack}, {kFar, kFar - style}));
       EXPECT_TRUE(canvas.Polygon(half));
     }
-    EXPECT_TRUE(IsOpaque(surface));
+    EXPECT_TRUE(IsOpaque(sheet.surface));
   }
 }
 
 TEST(Canvas, ALineCutAtTheBandJoinsUpWithTheSameLineDrawnWhole) {
-  Surface whole(200, 200);
-  Surface cut(200, 200);
-  for (const auto& [surface, reach] : {std::pair{&whole, 4}, {&cut, 400}}) {
-    Canvas canvas(*surface);
-    canvas.SetPen({kWhite, 3, 0});
-    canvas.SetROP2(Rop2::XorPen);
+  Sheet whole(200, 200, 3, Rop2::XorPen);
+  Sheet cut(200, 200, 3, Rop2::XorPen);
+  for (const auto& [sheet, reach] : {std::pair{&whole, 4}, {&cut, 400}}) {
     // The same visible corner at (100, 100), its ends near or far along the same directions.
-    const std::array<POINTAPI, 3> corner = {{{100 - 100 * reach, 100 - 50 * reach}, {100, 100}, {100 + 75 * reach, 100 - 100 * reach}}};
-    canvas.Polyline(corner);
+    const POINTAPI from{100 - 100 * reach, 100 - 50 * reach};
+    const POINTAPI to{100 + 75 * reach, 100 - 100 * reach};
+    sheet->canvas.Polyline(std::array{from, POINTAPI{100, 100}, to});
   }
-  EXPECT_EQ(PixelsUnlike(cut, 0), PixelsUnlike(whole, 0));
+  EXPECT_EQ(cut.Touched(), whole.Touched());
 }
 
 TEST(Canvas, DashesLeaveGaps) {
   for (int style = 1; style <= 4; ++style) {
     for (const int width : {1, 5}) {
-      Surface surface(400, 20);
-      Canvas canvas(surface);
-      canvas.SetPen({kWhite, width, style});
-      canvas.Line({10, 10}, {390, 10});
+      Sheet sheet(400, 20, width);
+      sheet.canvas.SetPen({kWhite, width, style});
+      sheet.canvas.Line({10, 10}, {390, 10});
       int gaps = 0;
-      for (int x = 11; x < 389; ++x) gaps += surface.Pixel(x, 10) == 0;
-      EXPECT_GT(gaps, 40) << "style " << style << " width " << width;
-      EXPECT_LT(gaps, 300) << "style " << style << " width " << width;
+      for (int x = 11; x < 389; ++x) gaps += sheet.At(x, 10) == 0;
+      EXPECT_TRUE(gaps > 40 && gaps < 300) << gaps << " in style " << style << ", width " << width;
     }
   }
 }
 
 TEST(Canvas, FollowsItsSurfaceToANewSize) {
-  Surface surface(20, 20);
-  Canvas canvas(surface);
-  canvas.SetPen({kWhite, 1, 0});
-  canvas.Line({0, 5}, {19, 5});
-  surface = Surface(60, 10);
-  EXPECT_TRUE(canvas.Line({0, 5}, {59, 5}));
-  EXPECT_EQ(surface.Pixel(50, 5), kWhite);
-  surface = Surface();
-  EXPECT_FALSE(canvas.Line({0, 5}, {59, 5}));
-  EXPECT_FALSE(canvas.Ellipse({0, 0}, {9, 9}));
-  EXPECT_FALSE(canvas.Text({0, 0}, 12, "word"));
+  Sheet sheet(20, 20, 1);
+  sheet.canvas.Line({0, 5}, {19, 5});
+  sheet.surface = Surface(60, 10);
+  EXPECT_TRUE(sheet.canvas.Line({0, 5}, {59, 5}));
+  EXPECT_EQ(sheet.At(50, 5), kWhite);
+  sheet.surface = Surface();
+  EXPECT_FALSE(sheet.canvas.Line({0, 5}, {59, 5}));
+  EXPECT_FALSE(sheet.canvas.Ellipse({0, 0}, {9, 9}));
+  EXPECT_FALSE(sheet.canvas.Text({0, 0}, 12, "word"));
 }
 
 TEST(Canvas, TextNeedsFontsAndStaysInItsBox) {
-  Surface surface(200, 60);
-  Canvas canvas(surface);
-  canvas.SetPen({kWhite, 1, 0});
-  EXPECT_FALSE(canvas.Text({10, 10}, 20, "Before")) << "no application object yet";
-  EXPECT_TRUE(PixelsUnlike(surface, 0).empty());
-
+  EXPECT_FALSE(Sheet(200, 60, 1).canvas.Text({10, 10}, 20, "Before")) << "no application object yet";
   const GraphicsSession session;
   for (const Rop2 mode : {Rop2::CopyPen, Rop2::XorPen}) {
-    surface.Clear(0);
-    canvas.SetROP2(mode);
-    EXPECT_TRUE(canvas.Text({10, 20}, 20, "Swing 12\xC2\xB0"));
-    const auto pixels = PixelsUnlike(surface, 0);
+    Sheet sheet(200, 60, 1, mode);
+    EXPECT_TRUE(sheet.canvas.Text({10, 20}, 20, "Swing 12\xC2\xB0"));
+    const auto pixels = sheet.Touched();
     EXPECT_GT(pixels.size(), 50u);
-    for (const auto& [x, y] : pixels) {
-      EXPECT_GE(x, 9);
-      EXPECT_GE(y, 20);
-      EXPECT_LE(y, 40);
-    }
-    EXPECT_TRUE(canvas.Text({kFar, kFarBack}, 20, "far"));
+    for (const auto& [x, y] : pixels) EXPECT_TRUE(x >= 9 && y >= 20 && y <= 40) << x << ", " << y;
+    EXPECT_TRUE(sheet.canvas.Text({kFar, kFarBack}, 20, "far"));
   }
 }
 

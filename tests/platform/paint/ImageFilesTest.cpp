@@ -8,14 +8,12 @@
 #include <filesystem>
 #include <fstream>
 
-#include "support/Surfaces.h"
 #include "platform/paint/PicturePainter.h"
+#include "support/Surfaces.h"
 #include "support/TestVideos.h"
 
 namespace kinalyx::test {
 namespace {
-
-using test::TestPath;
 
 Surface Gradient(int width, int height) {
   Surface surface(width, height);
@@ -52,14 +50,6 @@ TEST(ImageFiles, KeepAPicture) {
   std::filesystem::rename(png, TestPath("picture.bmp"));
   ASSERT_TRUE(LoadImageFile(TestPath("picture.bmp"), loaded));
   for (int y = 0; y < 40; ++y) EXPECT_EQ(loaded.Pixel(30, y), picture.Pixel(30, 39 - y));
-
-  ImageFrames frames;
-  std::ifstream file(fine, std::ios::binary);
-  const std::vector<std::uint8_t> bytes(std::istreambuf_iterator<char>(file), {});
-  ASSERT_TRUE(DecodeImage(bytes, frames));
-  ASSERT_EQ(frames.frames.size(), 1u);
-  EXPECT_EQ(frames.frames[0].Width(), 67);
-  EXPECT_TRUE(frames.delays.empty());
 }
 
 TEST(ImageFiles, SayWhatIsWrong) {

@@ -113,7 +113,6 @@ TEST(Layer, IsEmptyWhenNothingWasTouched) {
 
 TEST(Layer, LeavesAPictureOfAnotherSizeAlone) {
   const Layer layer = Layer::Record(50, 40, [](Canvas& canvas) { PaintShapes(canvas, 1, 10); });
-  EXPECT_GT(layer.Bytes(), 0u);
   for (const auto& [width, height] : {std::pair{40, 50}, {50, 39}, {0, 0}}) {
     Surface other = Noise(width, height, 9);
     const Surface before = other;
