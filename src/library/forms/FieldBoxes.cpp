@@ -36,7 +36,7 @@ FieldBoxes::FieldBoxes(const QString& captionName, const QString& boxName, QWidg
     captions_[at] = MakeLabel(captionName + QString::number(field), {}, "caption");
     boxes_[at] = new QLineEdit;
     boxes_[at]->setObjectName(boxName + QString::number(field));
-    notes_[at] = MakeLabel(boxName + "Note" + QString::number(field), {}, "muted");
+    notes_[at] = MakeLabel(boxName + "Note" + QString::number(field), {}, "caption");
     // The name is the program's, or that of a folder.
     if (field != kNameField) LimitLength(*boxes_[at], *notes_[at], kMaxFieldText);
     captions_[at]->setBuddy(boxes_[at]);

@@ -26,6 +26,7 @@ InstructorsPanel::InstructorsPanel(NameList* list, QWidget* parent)
   Text2_->installEventFilter(this);
   QLabel* note = MakeLabel("Text2Note", {}, "muted");
   note->setWordWrap(true);
+  note->setContentsMargins(0, 0, 0, 4);
   rows->addWidget(Text2_);
   rows->addWidget(note);
   LimitToNames(*Text2_, *note);

@@ -169,11 +169,12 @@ OpenVidForm::OpenVidForm(PlayerServices& services, const Settings& settings, Las
   rows->setSpacing(0);
   for (NameList* list : {lists_->InstructorList(), lists_->StudentList(), lists_->VideoList()})
     LeastHeight(list, 62);
-  rows->addWidget(Headed(Heading("Instructors"), lists_->InstructorList()), 3);
-  rows->addWidget(Headed(students_, lists_->StudentList()), 5);
-  rows->addWidget(Headed(Heading("Videos"), lists_->VideoList(), count_), 5);
+  // Three instructors and four of the others can be seen in the smallest window, and a picture beneath them.
+  rows->addWidget(Headed(Heading("Instructors"), lists_->InstructorList()), 10);
+  rows->addWidget(Headed(students_, lists_->StudentList()), 12);
+  rows->addWidget(Headed(Heading("Videos"), lists_->VideoList(), count_), 12);
   LeastHeight(preview_, 120);
-  rows->addWidget(preview_, 6);
+  rows->addWidget(preview_, 11);
 
   auto* foot = MakeFrame("panelFoot");
   auto* footRows = new QVBoxLayout(foot);
