@@ -2,23 +2,17 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <filesystem>
 #include <map>
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include "support/CopyDisks.h"
 #include "support/TempFolder.h"
 
-namespace kinalyx {
+namespace kinalyx::test {
 namespace {
 
 namespace fs = std::filesystem;
-using test::FailingDisk;
-using test::TempFolder;
-using test::TwoDrives;
 
 /// A readable stand-in for the bytes of a file.
 std::string Digest(const std::string& bytes) {
@@ -61,8 +55,9 @@ std::vector<CopyUnit> WholeStudent(const TempFolder& folder) {
 TEST(CopyJob, CopiesAVideoAndItsSidecarWithTheirTimesIntoANewFolder) {
   TempFolder folder;
   MakeStudent(folder);
-  const timespec old[] = {{1000, 0}, {1234567, 0}};
-  ASSERT_EQ(::utimensat(AT_FDCWD, folder.Path("Ann/Smith, Jr./(001) DL.avi").c_str(), old, 0), 0);
+  const fs::path video = folder.Path("Ann/Smith, Jr./(001) DL.avi");
+  const auto old = fs::last_write_time(video) - std::chrono::hours(10000);
+  fs::last_write_time(video, old);
   fs::permissions(folder.Path("Ann/Smith, Jr./(001) DL.ved"), fs::perms::owner_read);
 
   CopyJob job(CopyJob::Kind::Copy, OneVideo(folder));
@@ -74,12 +69,9 @@ TEST(CopyJob, CopiesAVideoAndItsSidecarWithTheirTimesIntoANewFolder) {
   EXPECT_EQ(folder.Get("Bob/New/(001) DL.ved"), "1XXXXXXX");
   EXPECT_EQ(job.Progress().bytesDone, job.Progress().bytesTotal);
   EXPECT_EQ(job.Progress().filesDone, 2);
-  struct stat copy {};
-  ASSERT_EQ(::stat(folder.Path("Bob/New/(001) DL.avi").c_str(), &copy), 0);
-  EXPECT_EQ(copy.st_mtim.tv_sec, 1234567);
-  // What was read-only on a disc can be worked on in the library.
-  ASSERT_EQ(::stat(folder.Path("Bob/New/(001) DL.ved").c_str(), &copy), 0);
-  EXPECT_TRUE(copy.st_mode & S_IWUSR);
+  EXPECT_EQ(fs::last_write_time(folder.Path("Bob/New/(001) DL.avi")), old);
+  const auto perms = fs::status(folder.Path("Bob/New/(001) DL.ved")).permissions();
+  EXPECT_NE(perms & fs::perms::owner_write, fs::perms::none) << "what was read-only on a disc can be worked on";
 }
 
 TEST(CopyJob, MovesAStudentWithinADriveAndBetweenTwo) {
@@ -122,20 +114,14 @@ TEST(CopyJob, NeverReplacesAndNeverFollowsLinks) {
   fs::create_directories(folder.Path("Bob/Smith, Jr."));
   folder.Put("Bob/Smith, Jr./keep.txt", "kept");
   const auto before = Contents(folder);
-  {
-    CopyJob taken(CopyJob::Kind::Move, WholeStudent(folder));
-    EXPECT_EQ(RunToEnd(taken), CopyJob::State::Failed);
-    EXPECT_TRUE(taken.NameTaken());
-    EXPECT_NE(taken.Error().find("Smith, Jr."), std::string::npos);
-  }
-  {
-    CopyJob intoItself(CopyJob::Kind::Copy, {{{folder.Path("Ann"), folder.Path("Ann/Smith, Jr./Ann")}}});
-    EXPECT_EQ(RunToEnd(intoItself), CopyJob::State::Failed);
-  }
-  {
-    CopyJob linked(CopyJob::Kind::Copy, {{{folder.Path("Ann/Smith, Jr./elsewhere"), folder.Path("Bob/etc")}}});
-    EXPECT_EQ(RunToEnd(linked), CopyJob::State::Failed);
-  }
+  CopyJob taken(CopyJob::Kind::Move, WholeStudent(folder));
+  EXPECT_EQ(RunToEnd(taken), CopyJob::State::Failed);
+  EXPECT_TRUE(taken.NameTaken());
+  EXPECT_NE(taken.Error().find("Smith, Jr."), std::string::npos);
+  CopyJob intoItself(CopyJob::Kind::Copy, {{{folder.Path("Ann"), folder.Path("Ann/Smith, Jr./Ann")}}});
+  EXPECT_EQ(RunToEnd(intoItself), CopyJob::State::Failed);
+  CopyJob linked(CopyJob::Kind::Copy, {{{folder.Path("Ann/Smith, Jr./elsewhere"), folder.Path("Bob/etc")}}});
+  EXPECT_EQ(RunToEnd(linked), CopyJob::State::Failed);
   EXPECT_EQ(Contents(folder), before);
   // A name that another workstation takes at the last moment.
   CopyJob late(CopyJob::Kind::Copy, OneVideo(folder));
@@ -165,16 +151,15 @@ TEST(CopyJob, AsksForRoomBeforeTheFirstByte) {
 TEST(CopyJob, LosesNothingWhicheverCallFails) {
   struct Case {
     const char* name;
-    CopyJob::Kind kind;
     bool student;
+    CopyJob::Kind kind;
     bool twoDrives;
   };
-  const Case cases[] = {{"copy a video", CopyJob::Kind::Copy, false, false},
-                        {"move a video", CopyJob::Kind::Move, false, false},
-                        {"move a video to another drive", CopyJob::Kind::Move, false, true},
-                        {"copy a student", CopyJob::Kind::Copy, true, false},
-                        {"move a student", CopyJob::Kind::Move, true, false},
-                        {"move a student to another drive", CopyJob::Kind::Move, true, true}};
+  using enum CopyJob::Kind;
+  const Case cases[] = {{"copy a video", false, Copy, false},   {"move a video", false, Move, false},
+                        {"copy a student", true, Copy, false},  {"move a student", true, Move, false},
+                        {"move a video to another drive", false, Move, true},
+                        {"move a student to another drive", true, Move, true}};
   for (const Case& one : cases) {
     int call = 0;
     for (bool failed = true; failed && call < 200; ++call) {
@@ -188,28 +173,26 @@ TEST(CopyJob, LosesNothingWhicheverCallFails) {
       CopyJob job(one.kind, units, one.twoDrives ? static_cast<ICopyDisk&>(drives) : disk);
       RunToEnd(job);
       failed = disk.Failed();
+      const auto after = Contents(folder);
+      const bool done = job.Status() == CopyJob::State::Done;
       for (const CopyEntry& entry : units[0]) {
         for (const auto& [name, bytes] : before) {
           const std::string path = folder.Path(name);
           if (path != entry.from && !path.starts_with(entry.from + "/")) continue;
           const std::string moved = fs::path(entry.to + path.substr(entry.from.size())).lexically_relative(folder.Path()).string();
-          const auto after = Contents(folder);
           const bool old = after.contains(name) && after.at(name) == bytes;
           const bool arrived = after.contains(moved) && after.at(moved) == bytes;
-          EXPECT_TRUE(old || arrived) << name;
-          EXPECT_TRUE(!after.contains(moved) || after.at(moved) == bytes) << moved;
-          const bool done = job.Status() == CopyJob::State::Done;
-          EXPECT_TRUE(old || (done && one.kind == CopyJob::Kind::Move)) << name << ": " << job.Error();
+          EXPECT_TRUE(arrived || !after.contains(moved)) << moved;
+          EXPECT_TRUE(old || (done && arrived && one.kind == Move)) << name << ": " << job.Error();
           EXPECT_TRUE(arrived || !done) << name;
         }
       }
       if (job.Status() == CopyJob::State::Failed) {
         EXPECT_NE(job.Error(), "");
-        EXPECT_EQ(Contents(folder), before) << job.Error();
+        EXPECT_EQ(after, before) << job.Error();
       }
     }
-    EXPECT_GE(call, 2) << one.name;
-    EXPECT_LT(call, 200) << one.name;
+    EXPECT_TRUE(call >= 2 && call < 200) << one.name;
   }
 }
 
@@ -244,4 +227,4 @@ TEST(RemoveTree, RemovesLinksAndNotWhatTheyPointAt) {
 }
 
 }  // namespace
-}  // namespace kinalyx
+}  // namespace kinalyx::test

@@ -42,22 +42,21 @@ class FailingDisk final : public IDisk {
 };
 
 TEST(FileStore, EachFailureLeavesTheOldFileOrTheNewOne) {
-  int last = 0;
-  for (int failAt = 1;; ++failAt) {
+  int failAt = 0;
+  for (bool failed = true; failed;) {
     TempFolder folder;
     const std::string path = folder.Put("profile.prf", "the old bytes");
     FailingDisk disk;
-    disk.failAt = failAt;
+    disk.failAt = ++failAt;
     std::string error;
     const bool saved = WriteWholeFile(path, std::string_view("the new bytes"), &error, disk);
     EXPECT_EQ(saved, disk.renamed) << "call " << failAt;
     EXPECT_EQ(folder.Get("profile.prf"), saved ? "the new bytes" : "the old bytes") << "call " << failAt;
     EXPECT_EQ(error.empty(), saved);
     EXPECT_EQ(folder.FileCount(), 1u) << "call " << failAt;
-    if (disk.calls < failAt) break;
-    last = failAt;
+    failed = disk.calls >= failAt;
   }
-  EXPECT_EQ(last, 9);  // open, four writes, flush, close, rename, flush of the folder
+  EXPECT_EQ(failAt, 10) << "open, four writes, flush, close, rename, flush of the folder; then none";
 }
 
 TEST(FileStore, TreatsOddTargetsAsAnEditorWould) {

@@ -65,15 +65,11 @@ TEST(Folders, TellFilesFromFolders) {
 }
 
 TEST(Folders, JoinAndTakeApart) {
-  EXPECT_EQ(JoinPath("/a", "b"), "/a/b");
-  EXPECT_EQ(JoinPath("/a/", "b"), "/a/b");
-  EXPECT_EQ(JoinPath("/a/", "/b"), "/a/b");
-  EXPECT_EQ(JoinPath("", "b"), "b");
-  EXPECT_EQ(JoinPath("/", "b"), "/b");
-  EXPECT_EQ(LastName("/a/b.avi"), "b.avi");
-  EXPECT_EQ(LastName("/a/b/"), "b");
-  EXPECT_EQ(LastName("b"), "b");
-  EXPECT_EQ(LastName("/"), "/");
+  for (const auto& [folder, name, joined] : {std::tuple{"/a", "b", "/a/b"}, {"/a/", "b", "/a/b"}, {"/a/", "/b", "/a/b"},
+                                             {"", "b", "b"}, {"/", "b", "/b"}})
+    EXPECT_EQ(JoinPath(folder, name), joined);
+  for (const auto& [path, last] : {std::pair{"/a/b.avi", "b.avi"}, {"/a/b/", "b"}, {"b", "b"}, {"/", "/"}})
+    EXPECT_EQ(LastName(path), last);
 }
 
 TEST(Folders, DocumentsAreWhereTheDesktopSaysSo) {

@@ -19,14 +19,11 @@ TEST(IniFile, ReadsAsTheUserWroteIt) {
                                       "Empty=other\r\n"
                                       "[GENERAL]\r\n"
                                       "Late=second part of the section\r\n");
-  EXPECT_EQ(ReadProfileValue("general", "USER name", path), "Erica = Sample");
-  EXPECT_EQ(ReadProfileValue("General", "Empty", path), "");
-  EXPECT_EQ(ReadProfileValue("General", "Quoted", path), "\"as it stands\"");
-  EXPECT_EQ(ReadProfileValue("Other", "empty", path), "other");
-  EXPECT_EQ(ReadProfileValue("General", "Late", path), "second part of the section");
-  EXPECT_EQ(ReadProfileValue("General", "Name", path), std::nullopt);
-  EXPECT_EQ(ReadProfileValue("General", "Lost", path), std::nullopt);
-  EXPECT_EQ(ReadProfileValue("General", "no key here", path), std::nullopt);
+  for (const auto& [section, key, value] : {std::tuple{"general", "USER name", "Erica = Sample"}, {"General", "Empty", ""},
+                                            {"General", "Quoted", "\"as it stands\""}, {"Other", "empty", "other"},
+                                            {"General", "Late", "second part of the section"}})
+    EXPECT_EQ(ReadProfileValue(section, key, path), value) << key;
+  for (const char* none : {"Name", "Lost", "no key here"}) EXPECT_EQ(ReadProfileValue("General", none, path), std::nullopt) << none;
   EXPECT_EQ(ReadProfileValue("Missing", "Empty", path), std::nullopt);
   EXPECT_EQ(ReadProfileValue("General", "Empty", folder.Path("none.ini")), std::nullopt);
 }
@@ -34,12 +31,10 @@ TEST(IniFile, ReadsAsTheUserWroteIt) {
 TEST(IniFile, CutsByCharactersAndFallsBack) {
   TempFolder folder;
   const std::string umlauts = "\xC3\xA4\xC3\xB6\xC3\xBC";
-  const std::string path = folder.Put("a.ini", std::string("[A]\nWord=").append(umlauts).append("xyz\n"));
-  EXPECT_EQ(GetPrivateProfileString("A", "Word", "", 4, path), umlauts);
-  EXPECT_EQ(GetPrivateProfileString("A", "Word", "", 3, path), "\xC3\xA4\xC3\xB6");
-  EXPECT_EQ(GetPrivateProfileString("A", "Word", "", 50, path), umlauts + "xyz");
+  const std::string path = folder.Put("a.ini", "[A]\nWord=" + umlauts + "xyz\n");
+  for (const auto& [size, cut] : {std::pair{4, umlauts}, {3, umlauts.substr(0, 4)}, {50, umlauts + "xyz"}, {0, std::string()}})
+    EXPECT_EQ(GetPrivateProfileString("A", "Word", "", size, path), cut);
   EXPECT_EQ(GetPrivateProfileString("A", "None", path, 6, path), path.substr(0, 5));
-  EXPECT_EQ(GetPrivateProfileString("A", "Word", "", 0, path), "");
 }
 
 TEST(IniFile, OldFilesOfAnotherEncodingBecomeUtf8) {

@@ -1,5 +1,4 @@
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <cstring>
 #include <filesystem>
@@ -26,32 +25,39 @@ std::string FileWith(const std::string& name, const std::string& bytes) {
   return path;
 }
 
-OpenFault FaultOf(const std::string& path) {
-  const auto result = VideoFile::Open(path);
-  EXPECT_EQ(result.file == nullptr, result.fault != OpenFault::None);
-  EXPECT_EQ(result.file == nullptr, !result.message.empty()) << path;
-  EXPECT_EQ(ReadVideoInfo(path) == nullptr, result.file == nullptr);
-  return result.fault;
+std::uint32_t WordAt(const std::string& bytes, std::size_t place) {
+  std::uint32_t word = 0;
+  std::memcpy(&word, bytes.data() + place, 4);
+  return word;
 }
 
-/// Where the first packet's bytes stand in an AVI file.
-std::size_t FirstPacket(const std::string& avi) { return avi.find("00dc", avi.find("movi")) + 8; }
+/// The chunks of pictures that an AVI file begins with, as places of their heads.
+std::vector<std::size_t> ChunksOf(const std::string& avi, std::size_t count) {
+  std::vector<std::size_t> chunks = {avi.find("00dc", avi.find("movi"))};
+  while (chunks.size() <= count) chunks.push_back(chunks.back() + 8 + (WordAt(avi, chunks.back() + 4) + 1) / 2 * 2);
+  return chunks;
+}
 
 TEST(BadVideos, AreRefusedWithTheirReason) {
   const std::string avi = BytesOf(MakeTestVideo(MjpegVideo(60)));
-  EXPECT_EQ(FaultOf(TestPath("nowhere.avi")), OpenFault::NotFound);
-  EXPECT_EQ(FaultOf(TestPath("")), OpenFault::NotFound);
-  EXPECT_EQ(FaultOf("/dev/zero"), OpenFault::NotFound);
-  EXPECT_EQ(FaultOf(FileWith("empty.avi", "")), OpenFault::NoFrames);
-  EXPECT_EQ(FaultOf(FileWith("text.avi", std::string(5000, 'x'))), OpenFault::NoMedia);
-  EXPECT_EQ(FaultOf(FileWith("list.avi", "#EXTM3U\n#EXTINF:1,\n/etc/hostname\n")), OpenFault::NoMedia);
-  EXPECT_EQ(FaultOf(FileWith("header.avi", avi.substr(0, avi.find("movi") + 4))), OpenFault::NoFrames);
-  EXPECT_EQ(FaultOf(FileWith("riff.avi", avi.substr(0, 40))), OpenFault::NoMedia);
-
-  // A sound file in the same container.
-  std::string sound = avi;
+  std::string sound = avi;  // a sound file in the same container
   for (std::size_t at = sound.find("vids"); at != std::string::npos; at = sound.find("vids", at)) sound.replace(at, 4, "auds");
-  EXPECT_EQ(FaultOf(FileWith("sound.avi", sound)), OpenFault::NoMedia);
+  const std::pair<std::string, OpenFault> cases[] = {
+      {TestPath("nowhere.avi"), OpenFault::NotFound},
+      {TestPath(""), OpenFault::NotFound},
+      {"/dev/zero", OpenFault::NotFound},
+      {FileWith("empty.avi", ""), OpenFault::NoFrames},
+      {FileWith("header.avi", avi.substr(0, avi.find("movi") + 4)), OpenFault::NoFrames},
+      {FileWith("text.avi", std::string(5000, 'x')), OpenFault::NoMedia},
+      {FileWith("list.avi", "#EXTM3U\n#EXTINF:1,\n/etc/hostname\n"), OpenFault::NoMedia},
+      {FileWith("riff.avi", avi.substr(0, 40)), OpenFault::NoMedia},
+      {FileWith("sound.avi", sound), OpenFault::NoMedia}};
+  for (const auto& [path, fault] : cases) {
+    const auto result = VideoFile::Open(path);
+    EXPECT_EQ(result.fault, fault) << path;
+    EXPECT_FALSE(result.file || result.message.empty()) << path;
+    EXPECT_FALSE(ReadVideoInfo(path)) << path;
+  }
 }
 
 TEST(BadVideos, CutInTheMiddleShowWhatIsLeft) {
@@ -73,31 +79,18 @@ TEST(BadVideos, CutInTheMiddleShowWhatIsLeft) {
 
 TEST(BadVideos, ADamagedPacketShowsThePictureBefore) {
   std::string avi = BytesOf(MakeTestVideo(MjpegVideo(60)));
-  std::size_t at = FirstPacket(avi);
-  for (int packet = 0; packet < 20; ++packet) {
-    std::uint32_t size = 0;
-    std::memcpy(&size, avi.data() + at - 4, 4);
-    if (packet >= 10 && packet < 13) std::memset(avi.data() + at, 0, size);
-    at += size + size % 2 + 8;
-  }
+  const auto chunks = ChunksOf(avi, 20);
+  for (std::size_t n = 10; n < 13; ++n) std::memset(avi.data() + chunks[n] + 8, 0, WordAt(avi, chunks[n] + 4));
   const auto file = VideoFile::Open(FileWith("damaged.avi", avi)).file;
   ASSERT_TRUE(file);
   ASSERT_EQ(file->Info().frameCount, 60);
-  for (const int n : {9, 10, 11, 12, 13, 12, 11, 40, 12}) {
-    const int shown = n >= 10 && n < 13 ? 9 : n;
-    EXPECT_EQ(ReadNumber(file->Frame(n, 24)), shown) << n;
-  }
+  for (const int n : {9, 10, 11, 12, 13, 12, 11, 40, 12})
+    EXPECT_EQ(ReadNumber(file->Frame(n, 24)), n >= 10 && n < 13 ? 9 : n) << n;
 }
 
 TEST(BadVideos, WithNoGoodPacketShowNothing) {
   std::string avi = BytesOf(MakeTestVideo(MjpegVideo(60)));
-  const std::size_t first = FirstPacket(avi);
-  const std::size_t end = avi.find("idx1");
-  for (std::size_t at = first; at < end; ++at) {
-    // Everything but the chunks' own heads.
-    if (avi.compare(at, 4, "00dc") == 0) at += 7;
-    else avi[at] = 1;
-  }
+  for (const std::size_t chunk : ChunksOf(avi, 59)) std::memset(avi.data() + chunk + 8, 1, WordAt(avi, chunk + 4));
   const auto file = VideoFile::Open(FileWith("rubble.avi", avi)).file;
   ASSERT_TRUE(file);
   EXPECT_EQ(file->Info().frameCount, 60);
@@ -147,39 +140,23 @@ TEST(BadVideos, MayVanishWhileOpen) {
 /// Builds a video of 12 pictures anew, with an empty chunk wherever `pictures` holds -1.
 std::string WithEmptyChunks(const std::vector<int>& pictures) {
   const std::string avi = BytesOf(MakeTestVideo(MjpegVideo(12)));
-  std::string head = avi.substr(0, FirstPacket(avi) - 8);
-  std::vector<std::string> chunks;
-  std::size_t at = FirstPacket(avi) - 8;
-  for (int packet = 0; packet < 12; ++packet) {
-    std::uint32_t size = 0;
-    std::memcpy(&size, avi.data() + at + 4, 4);
-    chunks.push_back(avi.substr(at, 8 + size + size % 2));
-    at += chunks.back().size();
-  }
-  const std::string empty("00dc\0\0\0\0", 8);
+  const auto chunks = ChunksOf(avi, 12);
+  const auto word = [](std::size_t value) {
+    const auto number = static_cast<std::uint32_t>(value);
+    return std::string(reinterpret_cast<const char*>(&number), 4);
+  };
   std::string movie;
   std::string index;
-  const auto append = [&](std::uint32_t value) { index.append(reinterpret_cast<const char*>(&value), 4); };
   for (const int picture : pictures) {
-    const std::string& chunk = picture < 0 ? empty : chunks[static_cast<std::size_t>(picture)];
-    std::uint32_t size = 0;
-    std::memcpy(&size, chunk.data() + 4, 4);
-    index += "00dc";
-    append(16);
-    append(static_cast<std::uint32_t>(4 + movie.size()));
-    append(size);
+    const auto n = static_cast<std::size_t>(picture);
+    const std::string chunk = picture < 0 ? "00dc" + word(0) : avi.substr(chunks[n], chunks[n + 1] - chunks[n]);
+    index += "00dc" + word(16) + word(4 + movie.size()) + chunk.substr(4, 4);
     movie += chunk;
   }
-  const auto put = [](std::string& bytes, std::size_t place, std::size_t value) {
-    const auto word = static_cast<std::uint32_t>(value);
-    std::memcpy(bytes.data() + place, &word, 4);
-  };
-  put(head, head.size() - 8, movie.size() + 4);
-  std::string indexHead("idx1\0\0\0\0", 8);
-  put(indexHead, 4, index.size());
-  std::string whole = head + movie + indexHead + index;
-  put(whole, 4, whole.size() - 8);
-  put(whole, whole.find("strh") + 8 + 32, pictures.size());
+  std::string whole = avi.substr(0, chunks[0]) + movie + "idx1" + word(index.size()) + index;
+  whole.replace(chunks[0] - 8, 4, word(movie.size() + 4));
+  whole.replace(4, 4, word(whole.size() - 8));
+  whole.replace(whole.find("strh") + 8 + 32, 4, word(pictures.size()));
   return whole;
 }
 

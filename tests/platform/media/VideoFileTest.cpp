@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <filesystem>
-#include <numeric>
 #include <random>
 #include <vector>
 
@@ -39,12 +39,16 @@ struct Kind {
 
 std::ostream& operator<<(std::ostream& out, const Kind& kind) { return out << kind.name; }
 
-Kind H264(const std::string& name, int width, int height, int frames, int gop, int bFrames, std::size_t budgetKiB) {
+Kind H264(const std::string& name, int frames, int gop, int bFrames, std::size_t budgetKiB) {
   Kind kind{name, H264Video(frames), budgetKiB << 10};
-  kind.video.format.width = width;
-  kind.video.format.height = height;
   kind.video.format.keyInterval = gop;
   kind.video.format.bFrames = bFrames;
+  return kind;
+}
+
+Kind OddSize(Kind kind) {
+  kind.video.format.width = 354;
+  kind.video.format.height = 492;
   return kind;
 }
 
@@ -88,21 +92,12 @@ TEST_P(AnyWay, GivesTheSamePictureForAFrame) {
   }
 }
 
-Kind Odd() {
-  Kind kind{"odd_size", MjpegVideo(20)};
-  kind.video.format.width = 354;
-  kind.video.format.height = 492;
-  return kind;
-}
-
 INSTANTIATE_TEST_SUITE_P(Videos, AnyWay,
                          testing::Values(Kind{"dv", DvVideo(24)}, Kind{"mjpeg", MjpegVideo(60)}, Kind{"raw", RawVideo(40)},
-                                         Kind{"mjpeg_poor", MjpegVideo(60), 1}, Odd(),
-                                         H264("h264", 320, 240, 300, 250, 2, 256 << 10),
-                                         H264("h264_poor", 320, 240, 300, 250, 2, 3000),
-                                         H264("h264_poorest", 320, 240, 120, 50, 3, 1),
-                                         H264("h264_short_chunks", 320, 240, 100, 12, 3, 4000),
-                                         H264("h264_no_b", 354, 492, 100, 60, 0, 6000)),
+                                         Kind{"mjpeg_poor", MjpegVideo(60), 1}, OddSize({"odd_size", MjpegVideo(20)}),
+                                         H264("h264", 300, 250, 2, 256 << 10), H264("h264_poor", 300, 250, 2, 3000),
+                                         H264("h264_poorest", 120, 50, 3, 1), H264("h264_short_chunks", 100, 12, 3, 4000),
+                                         OddSize(H264("h264_no_b", 100, 60, 0, 6000))),
                          [](const auto& info) { return info.param.name; });
 
 TEST(VideoFile, TellsWhatItHolds) {
@@ -128,8 +123,7 @@ TEST(VideoFile, TellsWhatItHolds) {
 }
 
 TEST(VideoFile, RowsStandBottomUpAndPadded) {
-  TestVideo video = RawVideo(2);
-  video.format.width = 90;  // 270 bytes a row, padded to 272
+  const TestVideo video = RawVideo(2);  // 270 bytes a row, padded to 272
   const auto file = OpenTestVideo(video);
   ASSERT_TRUE(file);
   std::vector<std::uint8_t> drawn;
@@ -137,10 +131,7 @@ TEST(VideoFile, RowsStandBottomUpAndPadded) {
   for (const int bitCount : {24, 32}) {
     const FrameRows rows = file->Frame(1, bitCount);
     ASSERT_TRUE(rows);
-    EXPECT_EQ(rows.width, 90);
-    EXPECT_EQ(rows.height, 60);
     EXPECT_EQ(rows.rowBytes, bitCount == 24 ? 272 : 360);
-    EXPECT_EQ(rows.bitCount, bitCount);
     for (int y = 0; y < 60; ++y) {
       for (int x = 0; x < 90; ++x) {
         const std::uint8_t* pixel = rows.bits + (59 - y) * rows.rowBytes + x * bitCount / 8;
@@ -156,12 +147,8 @@ TEST(VideoFile, RowsStandBottomUpAndPadded) {
 TEST(VideoFile, CodecsKeepTheColours) {
   // Red over blue: swapped colour differences, a wrong range or rows upside down would all show.
   for (const auto codec : {VideoFormat::Codec::Dv, VideoFormat::Codec::Mjpeg, VideoFormat::Codec::H264}) {
-    VideoFormat format;
+    VideoFormat format = DvVideo(3).format;
     format.codec = codec;
-    format.width = 720;
-    format.height = 480;
-    format.rate = 30000;
-    format.scale = 1001;
     const std::string path = TestPath("colours" + std::to_string(static_cast<int>(codec)) + ".avi");
     auto writer = VideoWriter::Create(path, format, nullptr);
     ASSERT_TRUE(writer);
@@ -180,9 +167,8 @@ TEST(VideoFile, CodecsKeepTheColours) {
     ASSERT_TRUE(shown);
     for (const bool upper : {true, false}) {
       const std::uint8_t* pixel = shown.bits + (upper ? 400 : 80) * shown.rowBytes + 300 * 3;
-      EXPECT_NEAR(pixel[0], upper ? 30 : 200, 12) << static_cast<int>(codec);
-      EXPECT_NEAR(pixel[1], 60, 12) << static_cast<int>(codec);
-      EXPECT_NEAR(pixel[2], upper ? 210 : 20, 12) << static_cast<int>(codec);
+      const std::array<int, 3> wanted = {upper ? 30 : 200, 60, upper ? 210 : 20};
+      for (std::size_t c = 0; c < 3; ++c) EXPECT_NEAR(pixel[c], wanted[c], 12) << static_cast<int>(codec);
     }
   }
 }
@@ -198,7 +184,7 @@ TEST(VideoFile, OpensFilesUnderAnyName) {
   }
 }
 
-TEST(VideoFile, EightFilesShareTheMemory) {
+TEST(VideoFile, EightFilesShareTheMemoryAndCloseInTheMiddleOfTheirWork) {
   const Budget budget(4 << 20);
   std::vector<std::unique_ptr<VideoFile>> files;
   for (int i = 0; i < 8; ++i) files.push_back(OpenTestVideo(i % 2 ? H264Video(300) : MjpegVideo(60)));
@@ -208,6 +194,7 @@ TEST(VideoFile, EightFilesShareTheMemory) {
       ASSERT_EQ(ReadNumber(files[i]->Frame(wanted, 24)), wanted) << "file " << i;
     }
     if (n % 10 == 9) files.pop_back();
+    OpenTestVideo(H264Video(300));
   }
 }
 
@@ -222,13 +209,6 @@ TEST(VideoFile, GivesMemoryBackWhileItIsInUse) {
     ASSERT_EQ(ReadNumber(file->Frame(n, 24)), n);
   }
   for (int n = 100; n < 300; n += 3) ASSERT_EQ(ReadNumber(file->Frame(n, 24)), n);
-}
-
-TEST(VideoFile, ClosesInTheMiddleOfItsWork) {
-  for (int i = 0; i < 20; ++i) {
-    auto file = OpenTestVideo(H264Video(300));
-    if (i % 2) file->Frame(i * 14, 24);
-  }
 }
 
 }  // namespace
