@@ -250,10 +250,13 @@ void LibraryOperations::Transfer(Direction direction, const std::vector<LibraryV
   if (videos.empty()) return done(Report("No Videos Selected"));
   if (const std::string busy = BusyText(); !busy.empty()) return done(Refuse(busy));
   if (!HasFolder(targetRoot)) return done(Refuse("The folder " + targetRoot + " cannot be reached. Nothing was changed."));
+  const bool out = direction == Direction::Export;
   std::vector<ImportTarget> places;
   std::vector<VideoTransfer> transfers;
   for (const LibraryVideo& video : videos) {
-    const bool inFolder = !video.instructor.empty() && video.instructor != kGeneralFolder;
+    // What lies directly with an instructor would be in no list of this library.
+    const bool listed = out || !video.student.empty() || video.instructor == kQuickLaunch;
+    const bool inFolder = !video.instructor.empty() && video.instructor != kGeneralFolder && listed;
     const ImportTarget place = inFolder ? ImportTarget{video.instructor, video.student} : loose;
     std::string folder = targetRoot;
     if (!place.instructor.empty()) folder = JoinPath(folder, place.instructor);
@@ -264,7 +267,6 @@ void LibraryOperations::Transfer(Direction direction, const std::vector<LibraryV
     if (!video.path.empty()) places.push_back(place);
   }
   const auto sourceOf = [](const VideoTransfer& one) { return one.path.empty() ? one.studentFolder : FolderOf(one.path); };
-  const bool out = direction == Direction::Export;
   const auto toItself = host_.Drives().Ask(out ? tree_.Root() : sourceOf(transfers.front()), [transfers, sourceOf] {
     return std::ranges::any_of(transfers, [&](const VideoTransfer& one) { return SamePlace(one.folder, sourceOf(one)); });
   });

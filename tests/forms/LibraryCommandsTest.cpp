@@ -143,6 +143,10 @@ TEST_F(LibraryCommandsTest, AVideoIsRenamedMovedAndDeletedAndTheNextOneTakesItsP
   EXPECT_EQ(Read("Demo/Tom/(002) new.ved"), "1XXXSNXX");
   EXPECT_EQ(page->Browser().Video(), "(003) FO iron");
 
+  Press("SPBtn7");
+  EXPECT_EQ(List("MoveStudents")->selectedItems().value(0)->text(), "Tom") << "the next one goes there as well";
+  Press("DialogCancel");
+
   QTest::keyClick(List("VideoList"), Qt::Key_Delete);
   Press("DelVidBtn");
   EXPECT_EQ(Text("SPDisplay"), "Video Successfully Deleted!");

@@ -104,6 +104,11 @@ TEST_F(DatabaseTransfer, APlainFolderComesToTheChosenStudentAndWhatIsNoVideoIsNa
   Ops().ImportVideos({loose("good.avi")}, Into());
   EXPECT_EQ(Ended().instructor, "General Folder");
   EXPECT_TRUE(Exists("good.avi"));
+  // What lies directly with an instructor would be in no list.
+  Ops().ImportVideos({{"Range Day", "", stick.Path("good.avi")}}, Into(), {"Ann", "Joe Doe"});
+  EXPECT_TRUE(Ended().done);
+  EXPECT_TRUE(Exists("Ann/Joe Doe/good.avi"));
+  EXPECT_FALSE(Exists("Range Day"));
   Ops().ImportVideos({loose("good.avi")}, Into(), {"Bob", "Gone"});
   EXPECT_FALSE(Ended().done);
   EXPECT_FALSE(Exists("Bob/Gone"));

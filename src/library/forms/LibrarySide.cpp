@@ -94,9 +94,7 @@ void LibrarySide::Refresh() {
 }
 
 void LibrarySide::ShowArrived(const OperationResult& result) {
-  browser_.Refresh();
-  if (!result.instructor.empty() && result.instructor != browser_.Instructor()) browser_.SelectInstructor(result.instructor);
-  if (!result.student.empty() && result.student != browser_.Student()) browser_.SelectStudent(result.student);
+  ShowResult(result, browser_);
   lists_->ShowAll();
   NameList& list = *lists_->VideoList();
   for (int row = list.count() - 1; row >= 0; --row) {
