@@ -166,6 +166,8 @@ void Main::resizeEvent(QResizeEvent* event) {
 void Main::SetFullScreen(bool on) {
   minimize_->setVisible(on);
   close_->setVisible(on);
+  // Words stand off the edge of the window, buttons in its corner.
+  close_->parentWidget()->layout()->setContentsMargins(14, 0, on ? 4 : 14, 0);
 }
 
 void Main::closeEvent(QCloseEvent* event) {
