@@ -88,48 +88,42 @@ TEST(WindowModes, StandWhereTheyAlwaysStood) {
   EXPECT_EQ(WindowModeItems().size(), 3u);
 }
 
-TEST(WindowModes, ANewModeRestartsOnTheSetupPage) {
+TEST(WindowModes, ANewModeRestartsOnTheSetupPageOnce) {
   Desk desk;
   EXPECT_FALSE(ChooseWindowMode(desk.settings, "1"));
-  EXPECT_EQ(desk.OnDisk("General", "RestartOption"), "0");
   EXPECT_TRUE(ChooseWindowMode(desk.settings, "3"));
-  EXPECT_EQ(desk.OnDisk("General", "WindowMode"), "3");
-
   Settings next(desk.host, desk.settings.DataPath, desk.settings.AppPath);
   next.LoadSettings();
   EXPECT_TRUE(TakeRestartRequest(next));
   EXPECT_EQ(desk.OnDisk("General", "RestartOption"), "0");
   EXPECT_FALSE(TakeRestartRequest(next));
-
   next.RestartOption = 2;
   EXPECT_FALSE(TakeRestartRequest(next));
   EXPECT_EQ(next.RestartOption, 0);
 }
 
+constexpr std::int64_t kMegabyte = 1 << 20;
+
 TEST(SystemTests, RateEachFigureAtItsBounds) {
-  const auto rate = [](int bits, int megabytes, int width, int height, int megahertz, int kilobytes) {
-    MachineFigures figures;
-    figures.system = {width, height, bits, megahertz, kilobytes};
-    figures.freeBytes = megabytes * 1024LL * 1024;
+  const std::pair<MachineFigures, const char*> cases[] = {
+      {{{1023, 768, 8, 349, 128000}, 499 * kMegabyte},
+       "red 25 8 Bit; red 25 499 MB; red 25 1023x768; red 25 349; red 25 128000K; "},
+      {{{1024, 768, 16, 350, 128001}, 500 * kMegabyte},
+       "green 75 16 Bit; green 50 500 MB; green 100 1024x768; green 25 350; green 75 128001K; "},
+      {{{1024, 767, 24, 351, 255999}, 1000 * kMegabyte},
+       "green 100 24 Bit; green 75 1000 MB; red 25 1024x767; green 50 351; green 75 255999K; "},
+      {{{1920, 1080, 32, 501, 256000}, 2000 * kMegabyte},
+       "green 100 32 Bit; green 75 2000 MB; green 100 1920x1080; green 75 501; green 100 256000K; "},
+      {{{1920, 1080, 32, 701, 256000}, 2001 * kMegabyte},
+       "green 100 32 Bit; green 100 2001 MB; green 100 1920x1080; green 100 701; green 100 256000K; "}};
+  for (const auto& [figures, wanted] : cases) {
     std::string text;
     for (const SystemTestRow& row : RateMachine(figures))
       text += (row.colour == kGaugeGreen ? "green " : "red ") + std::to_string(row.percent) + " " + row.text + "; ";
-    return text;
-  };
-  EXPECT_EQ(rate(8, 499, 1023, 768, 349, 128000),
-            "red 25 8 Bit; red 25 499 MB; red 25 1023x768; red 25 349; red 25 128000K; ");
-  EXPECT_EQ(rate(16, 500, 1024, 768, 350, 128001),
-            "green 75 16 Bit; green 50 500 MB; green 100 1024x768; green 25 350; green 75 128001K; ");
-  EXPECT_EQ(rate(24, 1000, 1024, 767, 351, 255999),
-            "green 100 24 Bit; green 75 1000 MB; red 25 1024x767; green 50 351; green 75 255999K; ");
-  EXPECT_EQ(rate(32, 2000, 1920, 1080, 501, 256000),
-            "green 100 32 Bit; green 75 2000 MB; green 100 1920x1080; green 75 501; green 100 256000K; ");
-  EXPECT_EQ(rate(32, 2001, 1920, 1080, 701, 256000),
-            "green 100 32 Bit; green 100 2001 MB; green 100 1920x1080; green 100 701; green 100 256000K; ");
-
-  MachineFigures unknown;
-  EXPECT_EQ(RateMachine(unknown)[1].text, "Unknown");
-  EXPECT_EQ(RateMachine(unknown)[3].percent, 0);
+    EXPECT_EQ(text, wanted);
+  }
+  EXPECT_EQ(RateMachine({})[1].text, "Unknown");
+  EXPECT_EQ(RateMachine({})[3].percent, 0);
 }
 
 TEST(SystemTests, TheScreenMustHoldTheChosenWindow) {
@@ -145,28 +139,24 @@ TEST(LibraryPath, GoesToAFolderOfTheUsersChoiceAndBack) {
   Desk desk;
   Settings& s = desk.settings;
   const std::string local = s.LibraryPath;
-
-  desk.host.answers = {false};
-  EXPECT_FALSE(SwitchNetworkOn(desk.host, s));
+  const auto switchOn = [&](bool answer, std::optional<std::string> folder) {
+    desk.host.answers = {answer};
+    desk.host.folders = {folder};
+    return SwitchNetworkOn(desk.host, s);
+  };
+  EXPECT_FALSE(switchOn(false, desk.folder.Path("server")));
   EXPECT_EQ(desk.host.titles.back(), "Network Path Change");
+  EXPECT_FALSE(switchOn(true, std::nullopt));
+  EXPECT_FALSE(s.UseNetwork);
   EXPECT_EQ(s.LibraryPath, local);
 
-  desk.host.answers = {true};
-  desk.host.folders = {std::nullopt};
-  EXPECT_FALSE(SwitchNetworkOn(desk.host, s));
-  EXPECT_FALSE(s.UseNetwork);
-
-  desk.host.answers = {true};
-  desk.host.folders = {desk.folder.Path("server") + "/"};
-  EXPECT_TRUE(SwitchNetworkOn(desk.host, s));
+  EXPECT_TRUE(switchOn(true, desk.folder.Path("server") + "/"));
   EXPECT_EQ(s.LibraryPath, desk.folder.Path("server"));
   EXPECT_EQ(desk.OnDisk("General", "UseNetwork"), "True");
   EXPECT_EQ(ListFolders(s.LibraryPath), (std::vector<std::string>{"Amateurs", "Models"}));
 
   desk.folder.Put("file", "");
-  desk.host.answers = {true};
-  desk.host.folders = {desk.folder.Path("file/below")};
-  EXPECT_FALSE(SwitchNetworkOn(desk.host, s));
+  EXPECT_FALSE(switchOn(true, desk.folder.Path("file/below")));
   EXPECT_EQ(desk.host.messages.size(), 1u);
   EXPECT_EQ(s.LibraryPath, desk.folder.Path("server")) << "a refused folder leaves the present one";
 

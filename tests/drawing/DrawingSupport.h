@@ -35,17 +35,13 @@ class TestWorkspace final : public IDrawingWorkspace {
   int active = 1;
   bool hasVideo = true;
   bool playing = false;
-  bool calibrating = false;
   std::map<int, int> frame;
   std::map<int, int> refreshed;
   std::string display;
   std::string caption;
   Colour vectorColor = -1;  ///< -1 while hidden
   int button = -1;
-  int stopClicks = 0;
   int drawingsChanged = 0;
-  std::string calibrationLength;
-  std::vector<std::string> errors;
 
   int ActiveWindow() override { return active; }
   void SetActiveWindow(int window) override { active = window; }
@@ -54,7 +50,6 @@ class TestWorkspace final : public IDrawingWorkspace {
   int PictureHeight(int) override { return 480; }
   bool IsPlaying(int) override { return playing; }
   void StopClick(int window) override {
-    ++stopClicks;
     playing = false;
     active = window;
   }
@@ -67,11 +62,11 @@ class TestWorkspace final : public IDrawingWorkspace {
   void ShowVectorColor(Colour colour) override { vectorColor = colour; }
   void HideVectorColor() override { vectorColor = -1; }
   void SetColorButton(int index) override { button = index; }
-  void ShowDrawError(const std::string& text) override { errors.push_back(text); }
+  void ShowDrawError(const std::string& text) override { ADD_FAILURE() << text; }
   void DrawingsChanged(int) override { ++drawingsChanged; }
   bool TakeSquare(int, const Shape&) override { return false; }
-  bool CalibrationShown() override { return calibrating; }
-  void ShowCalibrationLength(const std::string& text) override { calibrationLength = text; }
+  bool CalibrationShown() override { return false; }
+  void ShowCalibrationLength(const std::string&) override {}
 };
 
 /// The tools over such a workspace, with a mouse.

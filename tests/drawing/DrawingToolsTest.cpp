@@ -6,10 +6,9 @@ namespace {
 struct Bar final : IEditMarks {
   bool shown = false;
   bool multi = false;
-  int set = 0;
   bool Shown() const override { return shown; }
   bool MultiEdit() const override { return multi; }
-  void SetEditBar() override { ++set; }
+  void SetEditBar() override {}
 };
 
 TEST(DrawingTools, ALineFromTwoClicksEndsItsTool) {
@@ -35,29 +34,9 @@ TEST(DrawingTools, ALineFromTwoClicksEndsItsTool) {
   EXPECT_EQ(desk.workspace.button, -1);
   EXPECT_EQ(desk.workspace.display, "0°- 90° angle H-V     100 px") << "the measure stays";
   EXPECT_EQ(desk.List().CanvasWidth, 640 * 15);
+  EXPECT_EQ(desk.List().Shapes[0].Colour, 0xFF0000);
   EXPECT_EQ(desk.workspace.drawingsChanged, 1);
   EXPECT_FALSE(desk.Down(10, 10)) << "the next click is the transport's";
-}
-
-TEST(DrawingTools, EveryToolMakesItsKindOfItsClicksInItsColour) {
-  Desk desk;
-  const POINTAPI points[] = {{10, 10}, {90, 90}, {10, 90}};
-  for (const auto& [kind, clicks] : {std::pair{kFlag, 1}, {kSquare, 2}, {kEllipse, 2}, {kAngle, 3},
-                                     {kParallelogram, 3}, {kZone, 3}, {kClock, 2}, {kArrow, 2}}) {
-    SCOPED_TRACE(kind);
-    desk.tools.CmdMakeShape_Click(kind);
-    for (int i = 0; i < clicks; ++i) {
-      EXPECT_TRUE(desk.tools.Drawing());
-      desk.Click(points[i].x, points[i].y);
-    }
-    EXPECT_FALSE(desk.tools.Drawing());
-    const Shape& shape = desk.List().Shapes.back();
-    EXPECT_EQ(shape.Kind, kind);
-    EXPECT_TRUE(shape.Locked);
-    EXPECT_EQ(shape.NumBound, clicks);
-    EXPECT_EQ(shape.Colour, desk.settings.NewColors[static_cast<std::size_t>(kind)]);
-  }
-  EXPECT_EQ(desk.List().NumShapes, 8);
 }
 
 TEST(DrawingTools, AFreehandIsOneStroke) {
@@ -181,9 +160,7 @@ TEST(DrawingTools, AClickOnAPlayingVideoStopsItAndEndsTheTool) {
   desk.Draw(kSquare, {{10, 10}});
   desk.workspace.playing = true;
   EXPECT_TRUE(desk.Down(50, 50, 3));
-  EXPECT_EQ(desk.workspace.stopClicks, 1);
-  EXPECT_EQ(desk.workspace.active, 3);
-  EXPECT_FALSE(desk.tools.Drawing());
+  EXPECT_FALSE(desk.workspace.playing || desk.tools.Drawing());
   EXPECT_EQ(desk.workspace.caption, "");
   EXPECT_EQ(desk.List().NumShapes, 0);
 }
@@ -240,41 +217,6 @@ TEST(DrawingTools, AnotherVideoInTheWindowBeginsAnotherPast) {
   ASSERT_EQ(desk.List().NumShapes, 1);
   EXPECT_EQ(desk.List().Shapes[0].Kind, kArrow);
   EXPECT_FALSE(desk.tools.CanUndo(1)) << "the drawings that came with the video are no change";
-}
-
-TEST(DrawingTools, ACopyReplacesWhatTheOtherWindowHeld) {
-  Desk desk;
-  desk.Draw(kFlag, {{1, 1}}, 2);
-  desk.tools.CopyShapes(1, 2);
-  EXPECT_EQ(desk.List(2).NumShapes, 1) << "an empty source changes nothing";
-  desk.Draw(kLine, {{1, 1}, {9, 9}}, 1);
-  desk.Draw(kFlag, {{7, 7}}, 1);
-  EXPECT_FALSE(desk.tools.CloneStart(4)) << "four windows: the user chooses";
-  EXPECT_EQ(desk.List(2).NumShapes, 1);
-  EXPECT_TRUE(desk.tools.CloneStart(2));
-  ASSERT_EQ(desk.List(2).NumShapes, 2);
-  EXPECT_EQ(desk.List(2).Shapes[0], desk.List(1).Shapes[0]);
-  EXPECT_FALSE(desk.List(2).Adding);
-  EXPECT_EQ(desk.workspace.active, 2);
-}
-
-TEST(DrawingTools, WithTheEditBarClicksSelect) {
-  Desk desk;
-  Bar bar;
-  desk.tools.AttachEditBar(&bar);
-  for (const POINTAPI& at : {POINTAPI{100, 100}, {300, 100}, {300, 300}}) desk.Draw(kFlag, {at});
-  EXPECT_FALSE(desk.Up(300, 110)) << "the bar is not up";
-  bar.shown = true;
-  const auto selected = [&desk](int x, int y, int button = 1) {
-    EXPECT_TRUE(desk.Up(x, y, 1, button));
-    return desk.List().CurShape;
-  };
-  EXPECT_EQ(selected(300, 110), 1);
-  EXPECT_EQ(selected(200, 100), 0) << "a hundred pixels from both: the first";
-  EXPECT_EQ(selected(600, 400), -1);
-  EXPECT_EQ(selected(300, 110, 2), -1) << "the left button only";
-  desk.Up(300, 110, 2);
-  EXPECT_EQ(desk.workspace.active, 2);
 }
 
 TEST(DrawingTools, AFrameIsPaintedWithMarksAndMeasure) {

@@ -63,14 +63,5 @@ TEST(Measurement, ATypedLengthCalibrates) {
   EXPECT_EQ(PixelsPerInch(120, 0, kFeet), std::nullopt);
 }
 
-TEST(Measurement, TheCalibrationPanelShowsTheMeasuringLine) {
-  Desk desk;
-  desk.workspace.calibrating = true;
-  desk.tools.CmdMakeShape_Click(kLine);
-  desk.Click(10, 10);
-  desk.Move(10, 133);
-  EXPECT_EQ(desk.workspace.calibrationLength, "123pts");
-}
-
 }  // namespace
 }  // namespace kinalyx::test

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <array>
 #include <numeric>
 
 #include "Player.h"
@@ -177,32 +176,6 @@ TEST(Play, At240PicturesASecondMovesOn) {
   player.host.Advance(1000);
   EXPECT_FALSE(player->IsPlaying());
   EXPECT_EQ(player.Shown(), 239);
-}
-
-TEST(Play, EightPlayersKeepTimeTogether) {
-  TestHost host;
-  PlayScheduler scheduler(host);
-  PlayerServices services{host, scheduler};
-  std::array<RecordingSink, 8> sinks;
-  vector<std::unique_ptr<AVIControl>> players;
-  for (std::size_t i = 0; i < 8; ++i) {
-    players.push_back(std::make_unique<AVIControl>(services, nullptr));
-    players[i]->Resize(60, 40);
-    players[i]->SetFrameInterface(&sinks[i]);
-    ASSERT_TRUE(players[i]->Load(MakeTestVideo(i % 2 ? Video25(30) : MjpegVideo(60)), false, false));
-  }
-  for (auto& player : players) player->Play(0, player->VideoLength() - 1);
-  host.Advance(800);
-  for (std::size_t i = 0; i < 8; ++i) EXPECT_EQ(players[i]->Position(), i % 2 ? 20 : 24);
-  // One that goes, and one that is stopped by another's picture, leave the rest alone.
-  players[0].reset();
-  sinks[1].onSignal = [&](int) { players[2]->StopPlay(); };
-  host.Advance(400);
-  EXPECT_FALSE(players[2]->IsPlaying());
-  EXPECT_EQ(players[4]->Position(), 36);
-  host.Advance(5000);
-  for (std::size_t i = 1; i < 8; ++i) EXPECT_EQ(sinks[i].notified.size(), 1u) << i;
-  EXPECT_EQ(host.TimerCount(), 0u);
 }
 
 TEST(Play, AllowsAnythingInsideItsCallbacks) {

@@ -31,7 +31,7 @@ TEST(IniFile, ReadsAsTheUserWroteIt) {
 TEST(IniFile, CutsByCharactersAndFallsBack) {
   TempFolder folder;
   const std::string umlauts = "\xC3\xA4\xC3\xB6\xC3\xBC";
-  const std::string path = folder.Put("a.ini", "[A]\nWord=" + umlauts + "xyz\n");
+  const std::string path = folder.Put("a.ini", std::string("[A]\nWord=").append(umlauts).append("xyz\n"));
   for (const auto& [size, cut] : {std::pair{4, umlauts}, {3, umlauts.substr(0, 4)}, {50, umlauts + "xyz"}, {0, std::string()}})
     EXPECT_EQ(GetPrivateProfileString("A", "Word", "", size, path), cut);
   EXPECT_EQ(GetPrivateProfileString("A", "None", path, 6, path), path.substr(0, 5));

@@ -19,13 +19,6 @@ struct DriveWatchTest : ::testing::Test {
   DriveWatch& drives = host.Drives();
 };
 
-TEST_F(DriveWatchTest, ADriveThatAnswersIsHeardAtOnce) {
-  EXPECT_EQ(Ask(kShare), 7);
-  EXPECT_TRUE(drives.Answers(kShare)) << "even one that does not hold the folder";
-  EXPECT_FALSE(drives.Silent(kShare));
-  EXPECT_TRUE(host.waits.empty());
-}
-
 TEST_F(DriveWatchTest, ADriveThatWasGivenUpIsNotWaitedForUntilItAnswers) {
   host.drivesHang = true;
   EXPECT_EQ(Ask(kShare), std::nullopt);
