@@ -7,18 +7,14 @@ namespace {
 
 TEST(ResizeControls, RatiosAreAgainstTheSizeBefore) {
   ResizeControls controls;
-  controls.Resize(1024, 768);
-  EXPECT_EQ(controls.WidthRatio, 1024.0F / 800.0F);
-  EXPECT_EQ(controls.HeightRatio, 768.0F / 600.0F);
-  EXPECT_EQ(controls.FontRatio, controls.HeightRatio);
-  controls.Resize(1280, 1024);
-  EXPECT_EQ(controls.WidthRatio, 1280.0F / 1024.0F);
-  EXPECT_EQ(controls.HeightRatio, 1024.0F / 768.0F);
-  controls.Resize(640, 512);
-  EXPECT_EQ(controls.HeightRatio, 0.5F);
-  EXPECT_EQ(controls.FontRatio, 0.5F);
-  controls.Resize(0, 0);  // a window that is put away
-  EXPECT_EQ(controls.HeightRatio, 0.5F);
+  for (const auto& [width, height, across, down] :
+       {std::tuple{1024, 768, 1024.0F / 800.0F, 768.0F / 600.0F}, {1280, 1024, 1280.0F / 1024.0F, 1024.0F / 768.0F},
+        {640, 512, 0.5F, 0.5F}, {0, 0, 0.5F, 0.5F}}) {  // at last a window that is put away
+    controls.Resize(width, height);
+    EXPECT_EQ(controls.WidthRatio, across);
+    EXPECT_EQ(controls.HeightRatio, down);
+    EXPECT_EQ(controls.FontRatio, down);
+  }
   EXPECT_EQ(controls.PreviousWidth(), 640);
   EXPECT_EQ(controls.PreviousHeight(), 512);
 }

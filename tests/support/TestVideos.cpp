@@ -2,9 +2,9 @@
 
 #include <fmt/format.h>
 
-#include <cstdlib>
-#include <filesystem>
 #include <map>
+
+#include "support/TempFolder.h"
 
 namespace kinalyx::test {
 namespace {
@@ -40,21 +40,9 @@ void PaintRow(std::uint8_t* row, int width, int y, int number) {
   }
 }
 
-class Cache {
- public:
-  Cache() {
-    folder_ = (std::filesystem::temp_directory_path() / "kinalyx-test-XXXXXX").string();
-    if (!mkdtemp(folder_.data())) folder_ = std::string(1, '.');
-  }
-  ~Cache() {
-    std::error_code ignored;
-    if (folder_ != ".") std::filesystem::remove_all(folder_, ignored);
-  }
-  std::string Path(const std::string& name) const { return folder_ + "/" + name; }
-  std::map<std::string, std::string> made;
-
- private:
-  std::string folder_;
+struct Cache {
+  TempFolder folder;
+  std::map<std::string, std::string> made;  ///< paths of the videos by what they are
 };
 
 Cache& TheCache() {
@@ -62,27 +50,29 @@ Cache& TheCache() {
   return cache;
 }
 
-VideoFormat FormatOf(VideoFormat::Codec codec, int width, int height) {
-  VideoFormat format;
-  format.codec = codec;
-  format.width = width;
-  format.height = height;
-  return format;
+TestVideo VideoOf(VideoFormat::Codec codec, int width, int height, int frames) {
+  TestVideo video;
+  video.format.codec = codec;
+  video.format.width = width;
+  video.format.height = height;
+  video.frames = frames;
+  return video;
 }
 
 }  // namespace
 
 TestVideo DvVideo(int frames) {
-  TestVideo video{FormatOf(VideoFormat::Codec::Dv, 720, 480), frames, true};
+  TestVideo video = VideoOf(VideoFormat::Codec::Dv, 720, 480, frames);
+  video.fieldsDiffer = true;
   video.format.rate = 30000;
   video.format.scale = 1001;
   video.format.bottomFieldFirst = true;
   return video;
 }
 
-TestVideo MjpegVideo(int frames) { return {FormatOf(VideoFormat::Codec::Mjpeg, 320, 240), frames}; }
-TestVideo H264Video(int frames) { return {FormatOf(VideoFormat::Codec::H264, 320, 240), frames}; }
-TestVideo RawVideo(int frames) { return {FormatOf(VideoFormat::Codec::RawRgb, 90, 60), frames}; }
+TestVideo MjpegVideo(int frames) { return VideoOf(VideoFormat::Codec::Mjpeg, 320, 240, frames); }
+TestVideo H264Video(int frames) { return VideoOf(VideoFormat::Codec::H264, 320, 240, frames); }
+TestVideo RawVideo(int frames) { return VideoOf(VideoFormat::Codec::RawRgb, 90, 60, frames); }
 
 void PaintTestPicture(const TestVideo& video, int number, std::vector<std::uint8_t>& pixels) {
   const int width = video.format.width;
@@ -95,14 +85,12 @@ void PaintTestPicture(const TestVideo& video, int number, std::vector<std::uint8
 
 std::string MakeTestVideo(const TestVideo& video) {
   const VideoFormat& f = video.format;
-  const std::string name = fmt::format("{}-{}x{}-{}-{}-g{}b{}q{}{}{}-{}.avi", static_cast<int>(f.codec), f.width,
-                                       f.height, f.rate, f.scale, f.keyInterval, f.bFrames, f.quality,
-                                       f.bottomFieldFirst ? "-bff" : "", video.fieldsDiffer ? "-fields" : "",
-                                       video.frames) ;
-  const std::string key = name + f.fourCC;
-  if (const auto made = TheCache().made.find(key); made != TheCache().made.end()) return made->second;
+  const std::string name = fmt::format("{}{}-{}x{}-{}-{}-g{}b{}q{}{}{}-{}.avi", f.fourCC, static_cast<int>(f.codec),
+                                       f.width, f.height, f.rate, f.scale, f.keyInterval, f.bFrames, f.quality,
+                                       f.bottomFieldFirst ? "-bff" : "", video.fieldsDiffer ? "-fields" : "", video.frames);
+  if (const auto made = TheCache().made.find(name); made != TheCache().made.end()) return made->second;
 
-  const std::string path = TestPath(f.fourCC + name);
+  const std::string path = TestPath(name);
   auto writer = VideoWriter::Create(path, f, nullptr);
   if (!writer) return {};
   std::vector<std::uint8_t> pixels;
@@ -111,11 +99,11 @@ std::string MakeTestVideo(const TestVideo& video) {
     if (!writer->Write({pixels.data(), f.width, f.height, f.width * 4, 32, false})) return {};
   }
   if (!writer->Close()) return {};
-  TheCache().made[key] = path;
+  TheCache().made[name] = path;
   return path;
 }
 
-std::string TestPath(const std::string& name) { return TheCache().Path(name); }
+std::string TestPath(const std::string& name) { return TheCache().folder.Path(name); }
 
 std::optional<int> ReadNumber(const FrameRows& rows, int field) {
   if (!rows) return std::nullopt;

@@ -189,18 +189,14 @@ TEST(Strobe, ShowsAChainOfPoses) {
   StrobedPlayer player;
   player->Strobeframes(2, 12, 3);
   EXPECT_TRUE(player->StrobeRunning());
-  player.host.Advance(149);
-  EXPECT_EQ(BarsOn(player.view.shown), vector<int>{0}) << "the first layer after three times 50 ms";
-  player.host.Advance(1);
-  EXPECT_EQ(BarsOn(player.view.shown), (vector<int>{2, 5}));
-  player.host.Advance(150);
-  EXPECT_EQ(BarsOn(player.view.shown), (vector<int>{2, 5, 8}));
-  EXPECT_EQ(player.ended, 0);
-  // Somebody draws meanwhile: the poses stay.
-  player->Refresh();
-  EXPECT_EQ(BarsOn(player.view.shown), (vector<int>{2, 5, 8}));
-  player.host.Advance(150);
-  EXPECT_EQ(BarsOn(player.view.shown), (vector<int>{2, 5, 8, 11}));
+  // A layer after each three times 50 ms. Somebody draws meanwhile: the poses stay.
+  for (const auto& [milliseconds, bars] : {std::pair{149, vector<int>{0}}, {1, {2, 5}}, {150, {2, 5, 8}}, {150, {2, 5, 8, 11}}}) {
+    player.host.Advance(milliseconds);
+    EXPECT_EQ(BarsOn(player.view.shown), bars);
+    if (bars.size() == 3) player->Refresh();
+    EXPECT_EQ(BarsOn(player.view.shown), bars);
+    EXPECT_EQ(player.ended, 0);
+  }
   player.host.Advance(150);
   EXPECT_FALSE(player->StrobeRunning());
   EXPECT_EQ(player.ended, 1);

@@ -31,15 +31,11 @@ TEST(Play, ShowsEveryPositionWhenItFallsDueAndTellsItsEnd) {
   player->Play(5, 20);
   EXPECT_TRUE(player->IsPlaying());
   EXPECT_EQ(player.Shown(), 5) << "the first at once";
-  player.host.Advance(39);
-  EXPECT_EQ(player.Shown(), 5);
-  player.host.Advance(1);
-  EXPECT_EQ(player.Shown(), 6);
-  player.host.Advance(10 * 40);
-  EXPECT_EQ(player->Position(), 16);
-  player.host.Advance(1000);
+  for (const auto& [milliseconds, shown] : {std::pair{39, 5}, {1, 6}, {10 * 40, 16}, {1000, 20}}) {
+    player.host.Advance(milliseconds);
+    EXPECT_EQ(player.Shown(), shown);
+  }
   EXPECT_FALSE(player->IsPlaying());
-  EXPECT_EQ(player.Shown(), 20);
   EXPECT_EQ(player.sink.signalled, Range(5, 20));
   EXPECT_EQ(player.sink.notified, vector<int>{20});
   EXPECT_EQ(player.host.TimerCount(), 0u) << "an idle player costs nothing";

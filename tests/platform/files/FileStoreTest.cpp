@@ -61,17 +61,19 @@ TEST(FileStore, EachFailureLeavesTheOldFileOrTheNewOne) {
 
 TEST(FileStore, TreatsOddTargetsAsAnEditorWould) {
   TempFolder folder;
-  std::string error;
-
-  const std::string kept = folder.Put("read-only", "kept");
-  ::chmod(kept.c_str(), 0444);
-  EXPECT_FALSE(WriteWholeFile(kept, std::string_view("new"), &error));
-  EXPECT_FALSE(error.empty());
+  const auto write = [&folder](std::string_view name, std::string_view text) {
+    std::string error;
+    const bool written = WriteWholeFile(folder.Path(name), text, &error);
+    EXPECT_EQ(written, error.empty());
+    return written;
+  };
+  ::chmod(folder.Put("read-only", "kept").c_str(), 0444);
+  EXPECT_FALSE(write("read-only", "new"));
   EXPECT_EQ(folder.Get("read-only"), "kept");
 
   const std::string secret = folder.Put("private", "old");
   ::chmod(secret.c_str(), 0600);
-  EXPECT_TRUE(WriteWholeFile(secret, std::string_view("new")));
+  EXPECT_TRUE(write("private", "new"));
   struct stat info {};
   ::stat(secret.c_str(), &info);
   EXPECT_EQ(info.st_mode & 0777, 0600u);
@@ -79,14 +81,12 @@ TEST(FileStore, TreatsOddTargetsAsAnEditorWould) {
   std::filesystem::create_directory(folder.Path("sub"));
   folder.Put("sub/target", "old");
   std::filesystem::create_symlink("sub/target", folder.Path("link"));
-  EXPECT_TRUE(WriteWholeFile(folder.Path("link"), std::string_view("through the link")));
+  EXPECT_TRUE(write("link", "through the link"));
   EXPECT_TRUE(std::filesystem::is_symlink(folder.Path("link")));
   EXPECT_EQ(folder.Get("sub/target"), "through the link");
 
-  EXPECT_FALSE(WriteWholeFile(folder.Path("sub"), std::string_view("x"), &error));
-  EXPECT_FALSE(WriteWholeFile(folder.Path("none/file"), std::string_view("x"), &error));
-  EXPECT_TRUE(WriteWholeFile(folder.Path(std::string(250, 'n')), std::string_view("long name")));
-  EXPECT_TRUE(WriteWholeFile(folder.Path("empty"), std::string_view()));
+  EXPECT_FALSE(write("sub", "x") || write("none/file", "x"));
+  EXPECT_TRUE(write(std::string(250, 'n'), "long name") && write("empty", ""));
   EXPECT_EQ(std::filesystem::file_size(folder.Path("empty")), 0u);
 }
 

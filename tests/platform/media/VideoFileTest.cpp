@@ -190,21 +190,8 @@ TEST(VideoFile, EightFilesShareTheMemoryAndCloseInTheMiddleOfTheirWork) {
       ASSERT_EQ(ReadNumber(files[i]->Frame(wanted, 24)), wanted) << "file " << i;
     }
     if (n % 10 == 9) files.pop_back();
-    OpenTestVideo(H264Video(300));
+    OpenTestVideo(H264Video(300));  // comes, takes its share, and goes before it has shown anything
   }
-}
-
-TEST(VideoFile, GivesMemoryBackWhileItIsInUse) {
-  const Budget budget(64 << 20);
-  const auto file = OpenTestVideo(H264Video(300));
-  for (int n = 0; n < 200; ++n) ASSERT_EQ(ReadNumber(file->Frame(n, 24)), n);
-  std::vector<std::unique_ptr<VideoFile>> others;
-  for (int n = 200; n > 100; --n) {
-    if (n == 180) SetPictureBudget(2 << 20);
-    if (n % 20 == 0) others.push_back(OpenTestVideo(MjpegVideo(60)));
-    ASSERT_EQ(ReadNumber(file->Frame(n, 24)), n);
-  }
-  for (int n = 100; n < 300; n += 3) ASSERT_EQ(ReadNumber(file->Frame(n, 24)), n);
 }
 
 }  // namespace
