@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "Bench.h"
-#include "workspace/CompareStage.h"
+#include "workspace/AnalysisStage.h"
 #include "workspace/LockedVideos.h"
 #include "workspace/MultiPicture.h"
 #include "workspace/Overlay.h"
@@ -31,7 +31,7 @@ class NoStripView final : public IMultiPictureView {
   void PresentStrip(const Surface& strip, int) override { Keep(strip.Row(0)); }
 };
 
-void Open(test::CompareStage& stage, int slot, const test::TestVideo& video, int position) {
+void Open(test::AnalysisStage& stage, int slot, const test::TestVideo& video, int position) {
   if (!stage.Open(slot, video, position)) throw std::runtime_error("the test video cannot be opened");
 }
 
@@ -43,12 +43,12 @@ double MedianOf(int rounds, const std::function<void()>& work) {
 
 const Register kOverlayMix({"overlay_mix_640x480", {Target::Of::Ratio, 4, 1}, [] {
   constexpr int kRounds = 400;
-  test::CompareStage stage;
+  test::AnalysisStage stage("2");
   Open(stage, 1, test::MjpegVideo(30), 3);
   Open(stage, 2, test::MjpegVideo(30), 20);
-  LockedVideos locks(stage.host, stage.scheduler, stage.workspace);
+  LockedVideos locks(stage.host, stage.scheduler, stage.Slots());
   NoOverlayView view;
-  Overlay overlay(stage.host, stage.settings, stage.workspace, locks, view);
+  Overlay overlay(stage.host, stage.settings, stage.Slots(), locks, view);
   overlay.Resize(640, 480);
   overlay.STM_Click();
   for (const int slot : {1, 2}) stage.MP(slot).Resize(640, 480);
@@ -68,10 +68,10 @@ const Register kOverlayMix({"overlay_mix_640x480", {Target::Of::Ratio, 4, 1}, []
 /// One more picture in a strip of nine, against one move of the strip's memory.
 const Register kStripRefresh({"strip_refresh", {Target::Of::Ratio, 4, 1.5}, [] {
   constexpr int kRounds = 300;
-  test::CompareStage stage("1");
+  test::AnalysisStage stage("1");
   Open(stage, 1, test::MjpegVideo(120), 100);
   NoStripView view;
-  MultiPicture strip(stage.host, stage.workspace, view);
+  MultiPicture strip(stage.host, stage.Slots(), view);
   strip.smbar_Click();
   if (strip.PictureCount() != MultiPicture::kMostPictures) throw std::runtime_error("the strip has not nine pictures");
   const double refresh = MedianOf(kRounds, [&] { strip.MFNextFrame(); });
@@ -87,14 +87,14 @@ const Register kStripRefresh({"strip_refresh", {Target::Of::Ratio, 4, 1.5}, [] {
 const Register kLockedPlaySkew({"locked_play_skew", {Target::Of::AtMost, 0, 0}, [] {
   using std::chrono::steady_clock;
   constexpr int kOffset = 17;
-  test::CompareStage stage;
+  test::AnalysisStage stage("2");
   for (const int slot : {1, 2}) {
     Open(stage, slot, test::DvVideo(330), 0);
-    stage.workspace.CurrentWindow = slot;
-    if (!stage.MP(slot).SplitFields()) stage.workspace.ToggleSplitFields();
+    stage.Slots().CurrentWindow = slot;
+    if (!stage.MP(slot).SplitFields()) stage.Slots().ToggleSplitFields();
   }
   stage.MP(2).DrawFrame(kOffset);
-  LockedVideos locks(stage.host, stage.scheduler, stage.workspace);
+  LockedVideos locks(stage.host, stage.scheduler, stage.Slots());
   locks.DualLock(1);
   int drawn = 0;
   stage.signalled = [&](int) { ++drawn; };
@@ -114,11 +114,11 @@ const Register kLockedPlaySkew({"locked_play_skew", {Target::Of::AtMost, 0, 0}, 
 
 const Register kDualStep({"dual_step", {Target::Of::Ratio, 2.2, 2.05}, [] {
   constexpr int kSteps = 50;
-  test::CompareStage stage;
-  LockedVideos locks(stage.host, stage.scheduler, stage.workspace);
+  test::AnalysisStage stage("2");
+  LockedVideos locks(stage.host, stage.scheduler, stage.Slots());
   Open(stage, 1, test::DvVideo(120), 0);
   Open(stage, 2, test::DvVideo(120), 10);
-  stage.workspace.CurrentWindow = 1;
+  stage.Slots().CurrentWindow = 1;
   const auto forward = [&] { locks.DualControlStep(true); };
   // Both ways start from pictures that have been decoded once.
   for (int i = 0; i < kSteps; ++i) forward();

@@ -13,15 +13,16 @@
 #include <filesystem>
 
 #include "FormsSupport.h"
-#include "workspace/CompareStage.h"
+#include "workspace/AnalysisStage.h"
 #include "workspace/forms/SeekBar.h"
 #include "workspace/forms/StageParts.h"
 
 namespace kinalyx {
 namespace {
 
-using test::CompareStage;
+using test::AnalysisStage;
 using test::RawVideo;
+using test::TestHost;
 using test::TestPath;
 
 /// The windows of the modes on a stage of 1200 by 600, driven by their names.
@@ -34,13 +35,9 @@ class CompareFormsTest : public testing::Test, test::UsesApplication {
     rows->setSpacing(0);
     stageWidget_ = new QWidget(&window_);
     rows->addWidget(stageWidget_, 1);
-    forms_.Build(modes_, stage_.workspace, stageWidget_);
+    forms_.Build(modes_, stage_.Slots(), stageWidget_);
     rows->addWidget(forms_.Foot());
     window_.show();
-    stage_.signalled = [this](int slot) { modes_.Signal(slot); };
-    stage_.closing = [this](int slot) { modes_.VideoClosing(slot); };
-    stage_.stateChanged = [this] { modes_.StateChanged(); };
-    stage_.workspace.FocusChanged = [this] { modes_.FocusChanged(); };
     ASSERT_TRUE(stage_.Open(1, RawVideo(40), 10));
     ASSERT_TRUE(stage_.Open(2, RawVideo(40), 15));
     Settle();
@@ -64,13 +61,12 @@ class CompareFormsTest : public testing::Test, test::UsesApplication {
   }
   bool Seen(const char* name) { return Find<QWidget>(name)->isVisible(); }
 
-  CompareStage stage_{"2"};
+  TestHost formsHost_;
   QWidget window_;
   QWidget* stageWidget_ = nullptr;
-  CompareForms forms_{stage_.host};
-  std::vector<int> keys_;
-  CompareModes modes_{stage_.host, stage_.settings, stage_.scheduler, stage_.workspace, forms_,
-                      {[this](int key) { keys_.push_back(key); }, [this](int key) { keys_.push_back(-key); }}};
+  CompareForms forms_{formsHost_};
+  AnalysisStage stage_{"2", 1200, 600, &forms_};
+  CompareModes& modes_ = stage_.Modes();
 };
 
 TEST_F(CompareFormsTest, LockedVideosMoveFromTheirBar) {
@@ -135,13 +131,13 @@ TEST_F(CompareFormsTest, TransparencyIsMixedFromItsPanel) {
 
   // The wheel zooms the chosen video in the mix.
   Click("SelectVid2");
-  EXPECT_EQ(stage_.workspace.CurrentWindow, 2);
+  EXPECT_EQ(stage_.Slots().CurrentWindow, 2);
   auto* panel = Find<QWidget>("TransPanel");
   QWheelEvent wheel(QPointF(600, 200), panel->mapToGlobal(QPointF(600, 200)), {}, {0, 120}, {}, {}, Qt::NoScrollPhase,
                     false);
   QCoreApplication::sendEvent(panel, &wheel);
-  EXPECT_DOUBLE_EQ(stage_.workspace.At(2).VideoZoom, 1.1);
-  EXPECT_DOUBLE_EQ(stage_.workspace.At(1).VideoZoom, 1.0);
+  EXPECT_DOUBLE_EQ(stage_.Slots().At(2).VideoZoom, 1.1);
+  EXPECT_DOUBLE_EQ(stage_.Slots().At(1).VideoZoom, 1.0);
   Click("Closetrans");
   EXPECT_FALSE(Seen("TransFrame") || Seen("TransPanel") || Seen("DualFrame"));
 }
@@ -150,8 +146,8 @@ TEST_F(CompareFormsTest, WheelZoomsTheVideoUnderThePointer) {
   QWheelEvent wheel(QPointF(900, 200), stageWidget_->mapToGlobal(QPointF(900, 200)), {}, {0, -240}, {}, {},
                     Qt::NoScrollPhase, false);
   QCoreApplication::sendEvent(stageWidget_, &wheel);
-  EXPECT_DOUBLE_EQ(stage_.workspace.At(2).VideoZoom, 0.8);
-  EXPECT_EQ(stage_.workspace.CurrentWindow, 1);
+  EXPECT_DOUBLE_EQ(stage_.Slots().At(2).VideoZoom, 0.8);
+  EXPECT_EQ(stage_.Slots().CurrentWindow, 1);
 }
 
 TEST_F(CompareFormsTest, StrobeWindowStartsStopsAndSaves) {
@@ -178,7 +174,7 @@ TEST_F(CompareFormsTest, StrobeWindowStartsStopsAndSaves) {
   EXPECT_TRUE(std::filesystem::exists(path));
   forms_.askPicture = [](const QString&) { return QString("/nowhere at all/strobe.png"); };
   Click("SaveStrobeBtn");
-  EXPECT_EQ(stage_.host.messages.size(), 1u);
+  EXPECT_EQ(formsHost_.messages.size(), 1u);
   Click("StrobeFormClose");
   EXPECT_FALSE(modes_.StrobeShown());
 }
@@ -231,17 +227,19 @@ TEST_F(CompareFormsTest, StripAndZoomButtonsReachTheirModes) {
   EXPECT_FALSE(Seen("MFPanel"));
 
   modes_.TZP_Click();
-  for (const char* name : {"ZoomBtn0", "ZoomBtn1", "ZoomBtn2", "PanBtn0", "PanBtn1", "PanBtn2", "PanBtn3", "PanBtn4"})
-    Click(name);
-  EXPECT_EQ(keys_, (std::vector{-'-', -'+', 101, 104, 102, 98, 100, 101}));
+  const Slot& slot = stage_.Slots().At(1);
+  Click("ZoomBtn1");
+  EXPECT_DOUBLE_EQ(slot.VideoZoom, 1.1);
+  Click("PanBtn2");
+  EXPECT_EQ(slot.PanY, 50);
   QTest::mousePress(Find<QToolButton>("PanBtn1"), Qt::LeftButton);
   stage_.host.Advance(1000);
-  EXPECT_GT(keys_.size(), 15u);
+  EXPECT_GT(slot.PanX, 500);
   Click("ZoomFormClose");
   EXPECT_FALSE(modes_.ZoomShown());
-  const std::size_t held = keys_.size();
+  const double held = slot.PanX;
   stage_.host.Advance(1000);
-  EXPECT_EQ(keys_.size(), held);  // the form took its held button with it
+  EXPECT_EQ(slot.PanX, held) << "the form took its held button with it";
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -13,6 +14,7 @@
 #include "core/Settings.h"
 #include "support/TestHost.h"
 #include "support/TestVideos.h"
+#include "video/KeyCodes.h"
 #include "workspace/AnalysisWorkspace.h"
 
 namespace kinalyx::test {
@@ -128,16 +130,27 @@ class FakeEditWindows final : public IDrawingEditsView {
 };
 
 /// The whole analysis section with real players and no window: what a test does to it is what a user does.
-class AnalysisStage {
+class AnalysisStage : private IFrameInterface {
  public:
-  explicit AnalysisStage(const std::string& layout = "1") : folder(NewFolder()), settings(host, folder + "/data", folder) {
+  /// @param width, height  pixels of the stage
+  /// @param compare  the windows of the comparing modes; without one they only remember
+  explicit AnalysisStage(const std::string& layout = "1", int width = 1280, int height = 720, ICompareView* compare = nullptr)
+      : folder(NewFolder()),
+        settings(host, folder + "/data", folder),
+        analysis(host, settings, scheduler, window, edits, compare ? *compare : compareView,
+                 Navigation{[this] { ++libraryVisits; }, [this] { ++menuVisits; }, [this] { ++exits; }}) {
     settings.LoadSettings();
-    analysis.Slots().ScreenLayout = layout;
+    window.width = width;
+    window.height = height;
+    compareView.overlay = &analysis.Compare().Transparency();
+    compareView.overlay->Resize(width, height);
+    Slots().ScreenLayout = layout;
     for (int slot = 1; slot <= kSlots; ++slot) {
       auto& player = players_[static_cast<std::size_t>(slot - 1)];
       player = std::make_unique<AVIControl>(services, nullptr);
       window.players[static_cast<std::size_t>(slot)] = player.get();
       analysis.AttachPlayer(slot, *player);
+      player->SetFrameInterface(this);
     }
     analysis.Start();
   }
@@ -151,25 +164,40 @@ class AnalysisStage {
     return path;
   }
   bool Open(int slot, const std::string& path) { return Slots().OpenVideo(slot, path); }
+  /// Opens a video of its own file and shows a position.
+  bool Open(int slot, const TestVideo& kind, int position = 0) {
+    if (!Open(slot, Video("video" + std::to_string(++videos_) + ".avi", kind))) return false;
+    MP(slot).DrawFrame(position);
+    return true;
+  }
 
   Workspace& Slots() { return analysis.Slots(); }
   MenuBar& Commands() { return analysis.Commands(); }
+  CompareModes& Modes() { return analysis.Compare(); }
   AVIControl& MP(int slot) { return Slots().MP(slot); }
-  ShapeList& Shapes(int slot) { return analysis.Tools().List(slot); }
+  int At(int slot) { return MP(slot).Position(); }
+  ShapeList& Shapes(int slot = 1) { return analysis.Tools().List(slot); }
+  POINTAPI PointOf(int shape, int point, int slot = 1) {
+    return Shapes(slot).Shapes[static_cast<std::size_t>(shape)].Pts[static_cast<std::size_t>(point)];
+  }
 
   // --- the mouse, in pixels of the picture
   void Press(int slot, int x, int y, int button = 1) { analysis.MouseDown(button, 0, Pixel(x), Pixel(y), slot); }
   void Move(int slot, int x, int y) { analysis.MouseMove(1, 0, Pixel(x), Pixel(y), slot); }
   void Release(int slot, int x, int y, int button = 1) { analysis.MouseUp(button, 0, Pixel(x), Pixel(y), slot); }
-  void Drag(int slot, int x1, int y1, int x2, int y2) {
-    Press(slot, x1, y1);
-    Release(slot, x1, y1);
-    Move(slot, (x1 + x2) / 2, (y1 + y2) / 2);
-    Move(slot, x2, y2);
-    Press(slot, x2, y2);
-    Release(slot, x2, y2);
+  void Click(int slot, int x, int y, int button = 1) {
+    Move(slot, x, y);
+    Press(slot, x, y, button);
+    Release(slot, x, y, button);
   }
-  void Key(int code) { analysis.KeyDown(code, 0, Slots().CurrentWindow); }
+  /// Takes up a tool of two points and draws with it in the current window.
+  void Draw(int tool, POINTAPI from, POINTAPI to) {
+    Key(kKeyF1 + tool);
+    Click(Slots().CurrentWindow, from.x, from.y);
+    Move(Slots().CurrentWindow, (from.x + to.x) / 2, (from.y + to.y) / 2);
+    Click(Slots().CurrentWindow, to.x, to.y);
+  }
+  bool Key(int code, int shift = 0) { return Commands().Form_KeyDown(code, shift); }
   void Type(char letter) { analysis.KeyPress(letter, Slots().CurrentWindow); }
 
   const std::string folder;
@@ -179,12 +207,24 @@ class AnalysisStage {
   PlayerServices services{host, scheduler};
   FakeWindow window;
   FakeCompareView compareView;
-  int libraryVisits = 0, menuVisits = 0, exits = 0;
   FakeEditWindows edits;
-  AnalysisWorkspace analysis{host, settings, scheduler, window, edits, compareView,
-                             Navigation{[this] { ++libraryVisits; }, [this] { ++menuVisits; }, [this] { ++exits; }}};
+  int libraryVisits = 0, menuVisits = 0, exits = 0;
+  AnalysisWorkspace analysis;
+
+  std::function<void(int slot)> signalled;                ///< after the section itself was told
+  std::function<void(Canvas&, int slot)> painted;  ///< over what the section has painted
 
  private:
+  void PreDrawFrame(Canvas& hDC, int ID) override {
+    analysis.PreDrawFrame(hDC, ID);
+    if (painted) painted(hDC, ID);
+  }
+  void Signal(int Frame, int ID) override {
+    analysis.Signal(Frame, ID);
+    if (signalled) signalled(ID);
+  }
+  void Notify(int Frame, int ID) override { analysis.Notify(Frame, ID); }
+
   static float Pixel(int at) { return static_cast<float>(at); }
   static std::string NewFolder() {
     static int count = 0;
@@ -194,6 +234,7 @@ class AnalysisStage {
   }
 
   std::array<std::unique_ptr<AVIControl>, kSlots> players_;
+  int videos_ = 0;
 };
 
 }  // namespace kinalyx::test

@@ -1,117 +1,294 @@
-#include "workspace/CompareModes.h"
+// The comparing modes as a user of the whole section meets them.
 
 #include <gtest/gtest.h>
 
-#include "CompareStage.h"
-#include "FakeCompareView.h"
+#include "AnalysisStage.h"
 
 namespace kinalyx {
 namespace {
 
-using test::CompareStage;
-using test::FakeCompareView;
-using test::RawVideo;
+using test::AnalysisStage;
+using test::MjpegVideo;
 
 class CompareModesTest : public testing::Test {
  protected:
   void SetUp() override {
-    stage_.signalled = [this](int slot) { modes_.Signal(slot); };
-    stage_.notified = [this](int slot) { modes_.Notify(slot); };
-    stage_.closing = [this](int slot) { modes_.VideoClosing(slot); };
-    stage_.stateChanged = [this] { modes_.StateChanged(); };
-    stage_.workspace.FocusChanged = [this] { modes_.FocusChanged(); };
-    stage_.workspace.PlayerResized = [this](int slot) { modes_.PlayerResized(slot); };
-    modes_.Transparency().Resize(1200, 600);
-    ASSERT_TRUE(stage_.Open(1, RawVideo(40), 10));
-    ASSERT_TRUE(stage_.Open(2, RawVideo(40), 15));
+    ASSERT_TRUE(stage_.Open(1, MjpegVideo(30), 10));
+    ASSERT_TRUE(stage_.Open(2, MjpegVideo(40), 15));
   }
+  void Run(const char* command) { ASSERT_TRUE(stage_.Commands().Run(command)) << command; }
 
-  CompareStage stage_{"2"};
-  FakeCompareView view_;
-  std::vector<int> keys_;
-  CompareModes modes_{stage_.host, stage_.settings, stage_.scheduler, stage_.workspace, view_,
-                      {[this](int key) { keys_.push_back(key); }, [](int) {}}};
+  AnalysisStage stage_{"2"};
+  CompareModes& modes_ = stage_.Modes();
 };
 
 TEST_F(CompareModesTest, DualControlsFollowLockAndFocus) {
-  modes_.ShowDual();
-  EXPECT_FALSE(view_.dual.shown);
-  EXPECT_TRUE(view_.dual.canLock);
-  EXPECT_FALSE(view_.dual.canLockAll);
-  int told = 0;
-  modes_.LocksChanged = [&] { ++told; };
-  ASSERT_TRUE(modes_.Locks().cmdDualPlay());
-  EXPECT_EQ(told, 1);
-  EXPECT_TRUE(view_.dual.shown && view_.dual.locked);
-  EXPECT_EQ(view_.dual.lowest, 0);
-  EXPECT_EQ(view_.dual.highest, 33);
-  EXPECT_EQ(view_.dual.line, "10 + 15");
+  const DualState& dual = stage_.compareView.dual;
+  EXPECT_TRUE(dual.canLock);
+  EXPECT_FALSE(dual.shown || dual.canLockAll);
+  Run("cmdDualPlay");
+  EXPECT_TRUE(dual.shown && dual.locked);
+  EXPECT_EQ(dual.lowest, 0);
+  EXPECT_EQ(dual.highest, 28);
+  EXPECT_EQ(dual.line, "10 + 15");
   modes_.Locks().DualControl_Click(1);
-  EXPECT_EQ(view_.dual.line, "11 + 16");
-  EXPECT_EQ(view_.dual.position, 11);
-  stage_.workspace.SelectWindow(2);
-  EXPECT_EQ(view_.dual.position, 16);
+  EXPECT_EQ(dual.line, "11 + 16");
+  EXPECT_EQ(dual.position, 11);
+  stage_.Slots().SelectWindow(2);
+  EXPECT_EQ(dual.position, 16);
   modes_.Locks().PlayTogether();
-  EXPECT_TRUE(view_.dual.playing);
-  ASSERT_TRUE(stage_.workspace.CloseVideo(1));
-  EXPECT_FALSE(view_.dual.shown);
-  EXPECT_FALSE(view_.dual.playing);
+  EXPECT_TRUE(dual.playing);
+  ASSERT_TRUE(stage_.Slots().CloseVideo(1));
+  EXPECT_FALSE(dual.shown || dual.playing);
 }
 
 TEST_F(CompareModesTest, EscapeLeavesOneModeAfterTheOther) {
-  modes_.Transparency().STM_Click();
-  EXPECT_TRUE(view_.dual.shown);  // the dual controls belong to the mode
-  modes_.TASF_Click();
-  EXPECT_TRUE(view_.strobe);
+  Run("STM");
+  EXPECT_TRUE(stage_.compareView.dual.shown) << "the dual controls belong to the mode";
+  Run("TASF");
   modes_.Strobe().StrobeBtn_Click();
   ASSERT_TRUE(modes_.Strobe().StrobeRunning());
   EXPECT_TRUE(modes_.Escape());
   EXPECT_FALSE(modes_.Strobe().StrobeRunning());
-  EXPECT_TRUE(view_.transparency);
+  EXPECT_TRUE(stage_.compareView.transparency);
   EXPECT_TRUE(modes_.Escape());
-  EXPECT_FALSE(view_.transparency);
+  EXPECT_FALSE(stage_.compareView.transparency);
   EXPECT_FALSE(modes_.Escape());
-  modes_.Carving().TTCarve();
-  EXPECT_TRUE(modes_.Escape());
-  EXPECT_FALSE(view_.carve);
-  modes_.Strip().smbar_Click();
-  EXPECT_TRUE(view_.strip);
-  EXPECT_TRUE(modes_.Escape());
-  EXPECT_FALSE(view_.strip);
+  for (const char* mode : {"TTCarve", "smbar"}) {
+    Run(mode);
+    EXPECT_TRUE(stage_.compareView.carve || stage_.compareView.strip);
+    EXPECT_TRUE(modes_.Escape());
+    EXPECT_FALSE(stage_.compareView.carve || stage_.compareView.strip) << mode;
+  }
 }
 
-TEST_F(CompareModesTest, OneFrameReachesMixAndPiece) {
-  modes_.Transparency().STM_Click();
-  modes_.Carving().TTCarve();
-  modes_.Carving().CarvePic_MouseDown({0, 0});
-  modes_.Carving().CarvePic_MouseUp({300, 200});
-  stage_.host.Advance(0);
-  stage_.painted = [](Canvas& canvas, int slot) {
-    if (slot != 1) return;
-    canvas.SetBrush(Rgb(200, 100, 50));
-    const POINTAPI box[] = {{-9, -9}, {4000, -9}, {4000, 4000}, {-9, 4000}};
-    canvas.Polygon(box);
+TEST_F(CompareModesTest, LockedPairRefusesTheTransportAndMovesTogether) {
+  Run("cmdDualPlay");
+  stage_.Type('P');
+  stage_.Type('R');
+  stage_.Type('L');
+  stage_.Type('S');
+  stage_.Key(kKeyRight);
+  EXPECT_FALSE(stage_.MP(1).IsPlaying() || stage_.MP(1).Repeat());
+  EXPECT_EQ(stage_.MP(1).Speed(), 100);
+  EXPECT_EQ(stage_.At(1), 10);
+  EXPECT_EQ(stage_.window.range, 28);  // the bounds of the lock
+  stage_.analysis.Player().Seek(20);
+  EXPECT_EQ(stage_.At(2), 25);
+  stage_.analysis.Player().StepPressed(true, 0);
+  stage_.host.Advance(500);
+  stage_.analysis.Player().StepReleased();
+  EXPECT_GT(stage_.At(1), 21);
+  EXPECT_EQ(stage_.At(2) - stage_.At(1), 5);
+  ASSERT_TRUE(stage_.Slots().CloseVideo(2));
+  EXPECT_EQ(stage_.window.range, 29);
+  stage_.Key(kKeyUp);
+  EXPECT_EQ(stage_.At(1), 0);
+}
+
+TEST_F(CompareModesTest, OneModeAtATimeAndItsButtonsSayWhy) {
+  const std::string transparency = "Leave transparency mode first (Esc)";
+  const std::string strip = "Leave multi-picture mode first (Esc)";
+  const std::string carve = "Leave the transparency carve first (Esc)";
+  const std::string locked = "Unlock the videos first";
+  struct Row {
+    const char* up;
+    std::map<std::string, std::string> refused;  ///< every other command of the columns runs
   };
-  modes_.Transparency().TransScroll_Scroll(0);
-  stage_.MP(1).DrawFrame(12);
+  const char* const columns[] = {"STM", "smbar", "TTCarve", "TMAX", "TN", "MenuEdit", "AddMacro", "TSFrames", "VidTest",
+                                 "MenuDraw3", "TCal", "TVT", "TZP", "vFlip", "cmdDualPlay", "SSix"};
+  const Row rows[] = {
+      {"STM", {{"smbar", transparency}, {"TTCarve", transparency}, {"TMAX", transparency}, {"TN", transparency},
+               {"MenuEdit", transparency}, {"AddMacro", transparency}}},
+      {"smbar", {{"STM", strip}, {"TTCarve", strip}, {"TMAX", strip}, {"TN", strip}, {"TSFrames", strip},
+                 {"cmdDualPlay", "Needs videos in windows 1 and 2, or 3 and 4, side by side"}}},
+      {"TTCarve", {{"STM", carve}, {"smbar", carve}}},
+      {"cmdDualPlay", {{"smbar", locked}, {"TSFrames", locked}, {"VidTest", locked}}},
+      {"TSFrames", {}}, {"MenuEdit", {}}, {"TN", {}}, {"TCal", {}}, {"TVT", {}}, {"TZP", {}},
+      {"TMAX", {{"cmdDualPlay", "Needs videos in windows 1 and 2, or 3 and 4, side by side"}}},
+  };
+  for (const Row& row : rows) {
+    ASSERT_TRUE(stage_.Commands().Run(row.up)) << row.up;
+    for (const char* column : columns) {
+      const auto refused = row.refused.find(column);
+      EXPECT_EQ(stage_.Commands().Find(column)->Reason(), refused == row.refused.end() ? "" : refused->second)
+          << column << " while " << row.up;
+    }
+    ASSERT_TRUE(stage_.Commands().Run(row.up)) << "what is up can be left: " << row.up;
+    EXPECT_EQ(stage_.Slots().ScreenLayout, "2") << row.up;
+  }
+}
+
+TEST_F(CompareModesTest, AModeThatTakesTheStageClearsIt) {
+  const int whole = stage_.MP(1).ControlHeightPixels();
+  for (const char* mode : {"STM", "smbar", "TTCarve"}) {
+    Run("TN");
+    Run("AddMacro");
+    Run("MenuEdit");
+    Run(mode);
+    EXPECT_FALSE(stage_.window.notes || stage_.edits.bar || stage_.edits.macroForm) << mode;
+    stage_.Key(kKeyEscape);
+    EXPECT_EQ(stage_.MP(1).ControlHeightPixels(), whole) << mode;
+    stage_.Key(kKeyF1 + 3);
+    Run(mode);
+    EXPECT_FALSE(stage_.analysis.Tools().Drawing()) << mode;
+    Run(mode);
+    Run("TCal");
+    Run(mode);
+    EXPECT_FALSE(stage_.window.calibration) << mode;
+    Run(mode);
+  }
+}
+
+TEST_F(CompareModesTest, AnotherLayoutLeavesTheModesOfTheStage) {
+  Run("STM");
+  stage_.Key('4');
+  EXPECT_FALSE(stage_.compareView.transparency);
+  EXPECT_EQ(stage_.Slots().ScreenLayout, "4");
+  EXPECT_FALSE(stage_.Slots().BarHidden);
+  // Also where the new layout shows no video at all.
+  ASSERT_TRUE(stage_.Slots().CloseVideo(1));
+  stage_.Slots().SelectWindow(2);
+  Run("smbar");
+  stage_.Key('1');
+  EXPECT_FALSE(stage_.compareView.strip);
+  EXPECT_EQ(stage_.Slots().ScreenLayout, "1");
+}
+
+TEST_F(CompareModesTest, OnlyOneHandTakesTheMouse) {
+  Carve& carve = modes_.Carving();
+  Run("TTCarve");
+  stage_.Key(kKeyF1 + 3);
+  EXPECT_FALSE(carve.Shown()) << "no area is marked with a line in hand";
+  EXPECT_TRUE(stage_.analysis.Tools().Drawing());
+  Run("TTCarve");
+  Run("MenuEdit");
+  EXPECT_FALSE(carve.Shown());
+  Run("TTCarve");
+  EXPECT_FALSE(stage_.edits.bar);
+  carve.CarvePic_MouseDown({10, 10});
+  carve.CarvePic_MouseUp({90, 90});
+  stage_.Key(kKeyF1 + 3);
+  EXPECT_TRUE(carve.Floating()) << "beside a piece one can draw";
+  // A maximized window hides the source: the piece stays, and another area brings it back.
+  stage_.Slots().SelectWindow(2);
+  Run("TMAX");
+  EXPECT_TRUE(carve.Floating());
+  carve.MarkAnew();
+  EXPECT_EQ(stage_.Slots().ScreenLayout, "2");
+  EXPECT_EQ(stage_.compareView.carvePic, 1);
+  EXPECT_FALSE(stage_.analysis.Tools().Drawing());
+  stage_.Slots().SelectWindow(2);
+  Run("TMAX");
+  EXPECT_FALSE(carve.Shown()) << "nothing is marked on a video out of sight";
+  Run("TMAX");
+  stage_.Slots().SelectWindow(1);
+
+  MultiPicture& strip = modes_.Strip();
+  Run("smbar");
+  const auto ask = [&] {
+    strip.MPicBtn_Click(0);
+    EXPECT_TRUE(strip.WaitingForSquare() && stage_.analysis.Tools().Drawing());
+  };
+  ask();
+  stage_.Key(kKeyEscape);
+  EXPECT_FALSE(strip.WaitingForSquare()) << "the tool was put down";
+  ask();
+  stage_.Key(kKeyF1 + 4);
+  EXPECT_FALSE(strip.WaitingForSquare()) << "another one was taken up";
+  stage_.Draw(kSquare, {40, 30}, {120, 110});
+  EXPECT_EQ(stage_.Shapes(1).NumShapes, 1) << "a square is a drawing again";
+}
+
+TEST_F(CompareModesTest, TheStripShowsWhatIsDrawnOnAllItsPictures) {
+  Run("smbar");
+  modes_.Strip().setSkipBox("2");
+  const auto made = [&] {
+    const int before = stage_.compareView.strips;
+    stage_.host.Advance(0);
+    return stage_.compareView.strips - before;
+  };
+  const int width = modes_.Strip().PictureWidth();
+  const int left = modes_.Strip().SourceLeft();
+  stage_.Draw(kLine, {left + 2, 40}, {left + width - 2, 40});
+  EXPECT_EQ(made(), 1);
+  for (int picture = 0; picture < modes_.Strip().PictureCount(); ++picture)
+    EXPECT_EQ(modes_.Strip().Strip().Pixel(picture * width + width / 2, 40), stage_.Shapes(1).Shapes[0].Colour) << picture;
+  for (const char* command : {"Lastcadoff", "UndoDrawing", "vFlip", "MenuDraw11"}) {
+    ASSERT_TRUE(stage_.Commands().Run(command));
+    EXPECT_EQ(made(), 1) << command;
+  }
+}
+
+TEST_F(CompareModesTest, TheSliderOfTheStrobeKeepsALock) {
+  Run("cmdDualPlay");
+  StrobeControl& strobe = modes_.Strobe();
+  strobe.ESlider_Change(14);
+  EXPECT_EQ(stage_.At(1), 14);
+  EXPECT_EQ(stage_.At(2), 19);
+  strobe.SSCommand1_Click(2);
+  EXPECT_FALSE(strobe.StrobeRunning());
+  Run("cmdDualPlay");
+  strobe.SSCommand1_Click(2);
+  EXPECT_TRUE(strobe.StrobeRunning());
+  Run("cmdDualPlay");
+  EXPECT_FALSE(strobe.StrobeRunning()) << "a lock ends what would pull it apart";
+}
+
+TEST_F(CompareModesTest, AClickStopsOrTracesLockedVideosTogether) {
+  Run("cmdDualPlay");
+  modes_.Locks().PlayTogether();
+  stage_.host.Advance(100);
+  stage_.Key(kKeyF1 + 1);
+  stage_.Click(1, 50, 50);
+  EXPECT_FALSE(modes_.Locks().PlayingTogether());
+  EXPECT_EQ(stage_.Shapes(1).NumShapes, 0) << "the click that stops draws nothing";
+  EXPECT_TRUE(modes_.Locks().IsLocked(1));
+
+  // A path that is traced on one of them takes its partner along.
+  stage_.MP(1).DrawFrame(10);
+  stage_.MP(2).DrawFrame(15);
+  stage_.Key(kKeyF1 + 6);
+  stage_.Click(1, 50, 50);
+  EXPECT_EQ(stage_.At(1), 11);
+  EXPECT_EQ(stage_.At(2), 16);
+}
+
+TEST_F(CompareModesTest, DrawnSquareBecomesTheStrip) {
+  Run("smbar");
+  MultiPicture& strip = modes_.Strip();
+  EXPECT_EQ(stage_.Slots().ScreenLayout, "MF");
+  EXPECT_EQ(stage_.window.cells.size(), 1u);
+  strip.MPicBtn_Click(0);
+  EXPECT_TRUE(stage_.analysis.Tools().Drawing());
+  stage_.Click(1, 40, 30);
+  stage_.Click(1, 120, 110);
+  EXPECT_FALSE(strip.WaitingForSquare());
   stage_.host.Advance(0);
-  EXPECT_EQ(view_.mix.Pixel(600, 300), Rgb(200, 100, 50));
-  EXPECT_EQ(view_.piece.Pixel(10, 10), Rgb(200, 100, 50));
+  EXPECT_NEAR(strip.PictureWidth(), 80, 1);
+  EXPECT_EQ(stage_.Shapes(1).NumShapes, 0);  // it is no drawing
+  stage_.Key(kKeyEscape);
+  EXPECT_EQ(stage_.Slots().ScreenLayout, "2");
+  EXPECT_TRUE(stage_.Slots().HasVideo(1));  // Escape left the mode and nothing else
 }
 
 TEST_F(CompareModesTest, LeavingTheSectionLeavesNothingBehind) {
-  ASSERT_TRUE(modes_.Locks().cmdDualPlay());
-  modes_.Transparency().STM_Click();
-  modes_.TASF_Click();
-  modes_.TZP_Click();
+  Run("cmdDualPlay");
+  const int before = stage_.MP(1).ControlHeightPixels();
+  Run("STM");
+  EXPECT_GT(stage_.MP(1).ControlHeightPixels(), before) << "transparency has the stage to itself";
+  for (const char* card : {"TASF", "MZoom"}) Run(card);
   modes_.Locks().PlayTogether();
   modes_.CloseAll();
-  EXPECT_FALSE(view_.transparency || view_.strobe || view_.zoom || view_.dual.shown);
-  EXPECT_FALSE(modes_.Locks().IsLocked(1));
+  const auto& view = stage_.compareView;
+  EXPECT_FALSE(view.transparency || view.strobe || view.zoom || view.dual.shown || modes_.Locks().IsLocked(1));
   const int at = stage_.At(1);
   stage_.host.Advance(1000);
   EXPECT_EQ(stage_.At(1), at);
   EXPECT_EQ(stage_.host.TimerCount(), 0u);
+  Run("STM");
+  ASSERT_TRUE(stage_.Commands().PreparetoExit());
+  EXPECT_FALSE(view.transparency || stage_.Slots().AnyVideo());
 }
 
 }  // namespace

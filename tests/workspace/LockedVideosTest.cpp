@@ -2,21 +2,16 @@
 
 #include <gtest/gtest.h>
 
-#include "CompareStage.h"
+#include "AnalysisStage.h"
 
 namespace kinalyx {
 namespace {
 
-using test::CompareStage;
+using test::AnalysisStage;
 using test::RawVideo;
 
 class LockedVideosTest : public testing::Test {
  protected:
-  void SetUp() override {
-    stage_.closing = [this](int slot) { lock_.VideoClosing(slot); };
-    stage_.stateChanged = [this] { lock_.StateChanged(); };
-    lock_.Changed = [this] { ++changes_; };
-  }
   /// Puts videos of these lengths at these positions into slots 1, 2 and so on.
   void Open(const std::vector<std::pair<int, int>>& videos) {
     int slot = 0;
@@ -28,9 +23,8 @@ class LockedVideosTest : public testing::Test {
     return positions;
   }
 
-  CompareStage stage_{"4"};
-  LockedVideos lock_{stage_.host, stage_.scheduler, stage_.workspace};
-  int changes_ = 0;
+  AnalysisStage stage_{"4"};
+  LockedVideos& lock_ = stage_.Modes().Locks();
 };
 
 TEST_F(LockedVideosTest, RangesReachAsFarAsTheShortestSide) {
@@ -53,7 +47,7 @@ TEST_F(LockedVideosTest, RangesReachAsFarAsTheShortestSide) {
 
 TEST_F(LockedVideosTest, PairStepsUpToItsBoundsAndNoFurther) {
   Open({{100, 2}, {50, 40}});
-  stage_.workspace.CurrentWindow = 2;
+  stage_.Slots().CurrentWindow = 2;
   ASSERT_TRUE(lock_.cmdDualPlay());
   EXPECT_TRUE(lock_.IsLocked(1));
   EXPECT_FALSE(lock_.IsLocked(3));
@@ -80,7 +74,7 @@ TEST_F(LockedVideosTest, PairStepsUpToItsBoundsAndNoFurther) {
 TEST_F(LockedVideosTest, PairLockMovesOnlyFromItsOwnWindows) {
   Open({{20, 5}, {20, 6}, {20, 7}, {20, 8}});
   ASSERT_TRUE(lock_.DualLock(1));
-  stage_.workspace.CurrentWindow = 3;
+  stage_.Slots().CurrentWindow = 3;
   lock_.DualControlStep(true);  // slot 3 alone
   EXPECT_EQ(Positions(4), (std::vector{5, 6, 8, 8}));
   ASSERT_TRUE(lock_.DualLock(2));
@@ -104,7 +98,7 @@ TEST_F(LockedVideosTest, GroupHoldsAllFourAndReplacesThePairs) {
   EXPECT_EQ(lock_.DualLocked, (std::array{false, false, true}));
   EXPECT_EQ(lock_.LockRangeA, (std::array{3, 17, 4, 18}));
   EXPECT_EQ(lock_.LockRangeB, (std::array{0, 14, 14, 28}));
-  stage_.workspace.CurrentWindow = 4;
+  stage_.Slots().CurrentWindow = 4;
   std::vector<int> order;
   stage_.signalled = [&](int slot) { order.push_back(slot); };
   lock_.DualControlStep(true);
@@ -116,14 +110,13 @@ TEST_F(LockedVideosTest, LockIsRefusedOrEndsWithItsVideos) {
   Open({{20, 5}});
   EXPECT_FALSE(lock_.CanLock());
   EXPECT_FALSE(lock_.cmdDualPlay());
-  EXPECT_EQ(changes_, 0);
   ASSERT_TRUE(stage_.Open(2, RawVideo(20), 5));
-  stage_.workspace.SetScreen(1);
+  stage_.Slots().SetScreen(1);
   EXPECT_FALSE(lock_.CanLock());  // one window shows no pair
-  stage_.workspace.SetScreen(2);
+  stage_.Slots().SetScreen(2);
   ASSERT_TRUE(lock_.cmdDualPlay());
   lock_.PlayTogether();
-  ASSERT_TRUE(stage_.workspace.CloseVideo(2));
+  ASSERT_TRUE(stage_.Slots().CloseVideo(2));
   EXPECT_FALSE(lock_.IsLocked(1));
   EXPECT_FALSE(lock_.PlayingTogether());
   stage_.host.Advance(1000);  // nothing of the play is left behind
@@ -133,8 +126,8 @@ TEST_F(LockedVideosTest, LockIsRefusedOrEndsWithItsVideos) {
 TEST_F(LockedVideosTest, SplittingFieldsKeepsTheLockWhereTheVideosStand) {
   Open({{20, 5}, {20, 6}});
   ASSERT_TRUE(lock_.cmdDualPlay());
-  stage_.workspace.CurrentWindow = 2;
-  stage_.workspace.ToggleSplitFields();
+  stage_.Slots().CurrentWindow = 2;
+  stage_.Slots().ToggleSplitFields();
   EXPECT_EQ(Positions(2), (std::vector{5, 12}));
   EXPECT_EQ(lock_.LockRangeA, (std::array{0, 18, 7, 25}));
 }

@@ -2,33 +2,20 @@
 
 #include <gtest/gtest.h>
 
-#include "CompareStage.h"
+#include "AnalysisStage.h"
 
 namespace kinalyx {
 namespace {
 
-using test::CompareStage;
+using test::AnalysisStage;
 using test::RawVideo;
 using test::TestPath;
-
-class FakeStripView final : public IMultiPictureView {
- public:
-  void ShowMultiPicture(bool on) override { shown = on; }
-  int StripWidth() override { return width; }
-  void PresentStrip(const Surface&, int) override { ++presented; }
-
-  bool shown = false;
-  int width = 1200;
-  int presented = 0;
-};
 
 class MultiPictureTest : public testing::Test {
  protected:
   void SetUp() override {
-    stage_.signalled = [this](int slot) { strip_.Signal(slot); };
     // Every picture is one colour that tells its position.
     stage_.painted = [this](Canvas& canvas, int slot) { Fill(canvas, Rgb(stage_.At(slot) + 1, 100, 200)); };
-    stage_.closing = [this](int slot) { strip_.VideoClosing(slot); };
   }
   static void Fill(Canvas& canvas, Colour colour) {
     canvas.SetBrush(colour);
@@ -51,9 +38,8 @@ class MultiPictureTest : public testing::Test {
     return found;
   }
 
-  CompareStage stage_{"2"};
-  FakeStripView view_;
-  MultiPicture strip_{stage_.host, stage_.workspace, view_};
+  AnalysisStage stage_{"2", 1200, 600};
+  MultiPicture& strip_ = stage_.Modes().Strip();
 };
 
 TEST_F(MultiPictureTest, StripComesFromWhereverThereAreFramesEnough) {
@@ -74,8 +60,8 @@ TEST_F(MultiPictureTest, StripComesFromWhereverThereAreFramesEnough) {
     EXPECT_EQ(Pictures(), wish.pictures) << wish.frames << " frames at " << wish.position;
     EXPECT_EQ(stage_.At(1), wish.stands);
     strip_.MPicBtn_Click(1);
-    EXPECT_FALSE(view_.shown);
-    EXPECT_EQ(stage_.workspace.ScreenLayout, "2");
+    EXPECT_FALSE(strip_.Shown());
+    EXPECT_EQ(stage_.Slots().ScreenLayout, "2");
   }
 }
 
@@ -116,20 +102,15 @@ TEST_F(MultiPictureTest, PicturesShowTheMiddleOrTheCarvedSquare) {
 
 TEST_F(MultiPictureTest, ZoomAndPanMakeTheStripAnew) {
   Enter(60, 10, "3");
-  stage_.workspace.PlayerResized = [this](int slot) { strip_.PictureChanged(slot); };
   const int left = strip_.SourceLeft();
-  stage_.workspace.CurrentWindow = 1;
-  stage_.workspace.At(1).VideoZoom = 2;
-  stage_.MP(1).Resize(stage_.MP(1).ControlWidthPixels() * 2, stage_.MP(1).ControlHeightPixels() * 2);
-  strip_.PictureChanged(1);
+  stage_.Slots().SetZoom(2);
   stage_.host.Advance(0);
   EXPECT_GT(strip_.SourceLeft(), left);
   // A pan leaves the size; the strip follows all the same.
-  const int before = view_.presented;
-  stage_.workspace.At(1).PanX += 20 * kTwipsPerPixel;
-  stage_.MP(1).Refresh();
+  const int before = stage_.compareView.strips;
+  stage_.Slots().Pan(20 * kTwipsPerPixel, 0);
   stage_.host.Advance(0);
-  EXPECT_EQ(view_.presented, before + 1);
+  EXPECT_EQ(stage_.compareView.strips, before + 1);
   // Still the strip of the same moment, although the video stands at the strip's end by now.
   EXPECT_EQ(Pictures(), (std::vector{0, 3, 6, 9, 12, 15, 18, 21, 24}));
 }
@@ -138,28 +119,24 @@ TEST_F(MultiPictureTest, ModeEndsWithItsVideoOrItsLayout) {
   strip_.smbar_Click();
   EXPECT_FALSE(strip_.Shown());  // an empty window
   Enter(40, 30, "3");
-  ASSERT_TRUE(stage_.workspace.CloseVideo(1));
+  ASSERT_TRUE(stage_.Slots().CloseVideo(1));
   EXPECT_FALSE(strip_.Shown());
-  EXPECT_EQ(stage_.workspace.ScreenLayout, "2");
+  EXPECT_EQ(stage_.Slots().ScreenLayout, "2");
   Enter(40, 30, "3");
   const std::string path = TestPath("strip.PNG");
   EXPECT_TRUE(strip_.SavePicture(path));
   Surface saved;
   ASSERT_TRUE(LoadImageFile(path, saved));
   EXPECT_EQ(saved.Width(), 9 * strip_.PictureWidth());
-  stage_.workspace.SetScreen(4);  // the user picks another layout
-  strip_.LayoutChanged();
+  stage_.Slots().SetScreen(4);  // the user picks another layout
   EXPECT_FALSE(strip_.Shown());
-  EXPECT_EQ(stage_.workspace.ScreenLayout, "4");
+  EXPECT_EQ(stage_.Slots().ScreenLayout, "4");
 }
 
 TEST(MultiPictureCell, LeavesTheTopToTheStrip) {
-  const TwipRect plain = MultiPicture::Cell(1200 * 15, 600 * 15, false);
-  EXPECT_EQ(plain.Top, 2655);
-  EXPECT_EQ(plain.Height, 600 * 15 - 2655);
-  EXPECT_EQ(plain.Width, static_cast<int>(600 * 15 * 1.33333));
-  EXPECT_EQ(MultiPicture::Cell(1200 * 15, 600 * 15, true).Width, static_cast<int>(600 * 15 * 1.7778));
-  EXPECT_EQ(MultiPicture::Cell(640 * 15, 900 * 15, false).Height, 480 * 15 - 2655);
+  EXPECT_EQ(MultiPicture::Cell(18000, 9000, false), (TwipRect{3000, 2655, 11999, 9000 - 2655}));
+  EXPECT_EQ(MultiPicture::Cell(18000, 9000, true).Width, 16000);
+  EXPECT_EQ(MultiPicture::Cell(9600, 13500, false).Height, 7200 - 2655);
 }
 
 }  // namespace

@@ -2,65 +2,22 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
-
-#include "CompareStage.h"
+#include "AnalysisStage.h"
 
 namespace kinalyx {
 namespace {
 
-using test::CompareStage;
+using test::AnalysisStage;
+using test::FakeCompareView;
 using test::RawVideo;
-
-/// Shows nothing and remembers what it was told. A slider or option that is set answers like a real
-/// control: it tells the overlay of its change.
-class FakeOverlayView final : public IOverlayView {
- public:
-  void ShowTransparency(bool on) override { shown = on; }
-  void PresentMix(const Surface& picture) override {
-    mix = picture;
-    ++pictures;
-  }
-  void SetTransScroll(int value, bool on) override {
-    scroll = value;
-    scrollEnabled = on;
-    if (overlay) overlay->TransScroll_Scroll(value);
-  }
-  void SelectOptShow(ShowOption which) override {
-    option = which;
-    ++selections;
-    if (overlay) overlay->OptShow_Click(static_cast<int>(which));
-  }
-  void SetVideoScroll(int window, int lowest, int highest, int value) override {
-    bars[window] = {lowest, highest, value};
-  }
-  void SetVideoButtons(int window, bool playing, bool, bool) override { playingButtons[window] = playing; }
-
-  Overlay* overlay = nullptr;
-  bool shown = false;
-  Surface mix;
-  int pictures = 0;
-  int scroll = -1;
-  bool scrollEnabled = false;
-  ShowOption option = ShowOption::Transparency;
-  int selections = 0;
-  std::map<int, std::array<int, 3>> bars;
-  std::map<int, bool> playingButtons;
-};
 
 class OverlayTest : public testing::Test {
  protected:
   void SetUp() override {
-    view_.overlay = &overlay_;
     ASSERT_TRUE(stage_.Open(1, RawVideo(40), 3));
     ASSERT_TRUE(stage_.Open(2, RawVideo(40), 21));
-    stage_.signalled = [this](int slot) { overlay_.Signal(slot); };
-    stage_.notified = [this](int slot) { overlay_.Notify(slot); };
-    stage_.stateChanged = [this] { overlay_.StateChanged(); };
-    stage_.closing = [this](int slot) { locks_.VideoClosing(slot); };
-    overlay_.Resize(1200, 600);
     overlay_.STM_Click();
-    ASSERT_TRUE(view_.shown);
+    ASSERT_TRUE(view_.transparency);
   }
   /// A point of the mix at which the two pictures, which are of one size, differ.
   POINTAPI Probe() {
@@ -83,14 +40,14 @@ class OverlayTest : public testing::Test {
     stage_.host.Advance(0);
   }
 
-  CompareStage stage_{"4"};
-  LockedVideos locks_{stage_.host, stage_.scheduler, stage_.workspace};
-  FakeOverlayView view_;
-  Overlay overlay_{stage_.host, stage_.settings, stage_.workspace, locks_, view_};
+  AnalysisStage stage_{"4", 1200, 600};
+  LockedVideos& locks_ = stage_.Modes().Locks();
+  const FakeCompareView& view_ = stage_.compareView;
+  Overlay& overlay_ = stage_.Modes().Transparency();
 };
 
 TEST_F(OverlayTest, SliderGoesFromOneVideoToTheOther) {
-  EXPECT_EQ(stage_.workspace.ScreenLayout, "2");
+  EXPECT_EQ(stage_.Slots().ScreenLayout, "2");
   EXPECT_EQ(view_.scroll, 128);
   const POINTAPI at = Probe();
   SetMix(0);
@@ -104,8 +61,8 @@ TEST_F(OverlayTest, SliderGoesFromOneVideoToTheOther) {
   for (const auto part : {Red, Green, Blue})
     EXPECT_NEAR(part(Mix(at)), part(Of(2, at)) * 64 / 255.0 + part(Of(1, at)) * 191 / 255.0, 1.01);
   overlay_.STM_Click();
-  EXPECT_FALSE(view_.shown);
-  EXPECT_EQ(stage_.workspace.ScreenLayout, "4");
+  EXPECT_FALSE(view_.transparency);
+  EXPECT_EQ(stage_.Slots().ScreenLayout, "4");
 }
 
 TEST_F(OverlayTest, PresetsWalkBySteps) {
@@ -132,7 +89,7 @@ TEST_F(OverlayTest, SplitScreenShowsTheMiddleHalfOfEachCell) {
   SetMix(0);
   overlay_.OptShow_Click(1);
   EXPECT_FALSE(view_.scrollEnabled);
-  EXPECT_EQ(view_.mix.Pixel(500, 301), stage_.MP(1).Picture().Pixel(500, 301)) << "the old picture has not gone yet";
+  EXPECT_EQ(Mix({500, 301}), Of(1, {500, 301})) << "the old picture has not gone yet";
   stage_.host.Advance(1000);
   // The cells are 600 wide: the halves are 300 wide, from a quarter of the panel on.
   const Surface& first = stage_.MP(1).Picture();
@@ -153,14 +110,14 @@ TEST_F(OverlayTest, SplitScreenShowsTheMiddleHalfOfEachCell) {
 TEST_F(OverlayTest, MixFollowsBothVideosOncePerTurn) {
   ASSERT_TRUE(locks_.DualLock(1));
   SetMix(255);
-  const int before = view_.pictures;
+  const int before = view_.mixes;
   locks_.DualControlStep(true);
-  EXPECT_EQ(view_.pictures, before);
+  EXPECT_EQ(view_.mixes, before);
   stage_.host.Advance(0);
-  EXPECT_EQ(view_.pictures, before + 1);
+  EXPECT_EQ(view_.mixes, before + 1);
   EXPECT_EQ(Mix(Probe()), Of(2, Probe()));
-  EXPECT_EQ(view_.bars[1], (std::array{0, 20, 4}));  // the bounds of the lock
-  EXPECT_EQ(view_.bars[2], (std::array{18, 38, 22}));
+  EXPECT_EQ(view_.bars.at(1), (std::array{0, 20, 4}));  // the bounds of the lock
+  EXPECT_EQ(view_.bars.at(2), (std::array{18, 38, 22}));
 
   // A shape drawn over a video comes with its picture.
   stage_.painted = [](Canvas& canvas, int slot) {
@@ -177,8 +134,8 @@ TEST_F(OverlayTest, MixFollowsBothVideosOncePerTurn) {
 TEST_F(OverlayTest, EachVideoStandsWhereItsPanPutsIt) {
   SetMix(255);
   const Surface& picture = stage_.MP(2).Picture();
-  stage_.workspace.CurrentWindow = 2;
-  stage_.workspace.Pan(50 * kTwipsPerPixel, -20 * kTwipsPerPixel);
+  stage_.Slots().CurrentWindow = 2;
+  stage_.Slots().Pan(50 * kTwipsPerPixel, -20 * kTwipsPerPixel);
   stage_.host.Advance(0);
   const int left = (1200 - picture.Width()) / 2 + 50;
   EXPECT_EQ(view_.mix.Pixel(left, 300), picture.Pixel(0, 300 - (600 - picture.Height()) / 2 + 20));
@@ -190,21 +147,21 @@ TEST_F(OverlayTest, EachVideoRunsFromItsOwnButtons) {
   EXPECT_EQ(stage_.At(1), 4);
   overlay_.VidCtlBtn2_Click(static_cast<int>(VideoControl::Loop));
   EXPECT_TRUE(stage_.MP(2).IsPlaying());
-  EXPECT_TRUE(view_.playingButtons[2]);
+  EXPECT_TRUE(view_.playing.at(2));
   stage_.host.Advance(3000);
   EXPECT_TRUE(stage_.MP(2).IsPlaying());
   EXPECT_EQ(stage_.At(1), 4);
   overlay_.VidCtlBtn2_Click(static_cast<int>(VideoControl::Play));
   EXPECT_FALSE(stage_.MP(2).IsPlaying());
-  EXPECT_FALSE(view_.playingButtons[2]);
+  EXPECT_FALSE(view_.playing.at(2));
   overlay_.HScroll2_Scroll(7);
   EXPECT_EQ(stage_.At(2), 7);
   ASSERT_TRUE(locks_.DualLock(1));
   overlay_.HScroll2_Scroll(10);
   EXPECT_EQ(stage_.At(1), 7);  // comes along
-  ASSERT_TRUE(stage_.workspace.CloseVideo(2));
+  ASSERT_TRUE(stage_.Slots().CloseVideo(2));
   overlay_.VidCtlBtn2_Click(static_cast<int>(VideoControl::Play));  // empty: nothing to do
-  EXPECT_EQ(view_.bars[2], (std::array{0, 0, 0}));
+  EXPECT_EQ(view_.bars.at(2), (std::array{0, 0, 0}));
   SetMix(255);
   EXPECT_EQ(view_.mix.Pixel(600, 300), 0);
 }
