@@ -191,6 +191,22 @@ TEST(DrawingTools, DrawingsAreDeletedLastFirstOrAllAtOnce) {
   EXPECT_EQ(desk.List().NumShapes, 1) << "only with a video in the window";
 }
 
+TEST(DrawingTools, AnotherVideoInTheWindowBeginsAnotherPast) {
+  Desk desk;
+  desk.Draw(kLine, {{1, 1}, {99, 99}});
+  desk.Draw(kSquare, {{10, 10}});
+  // The video closes and another one opens, with drawings of its own, while a square is half made.
+  desk.List() = {};
+  Add(desk.List(), Finished(kArrow, {{1, 1}, {50, 50}}));
+  desk.Click(20, 20);
+  desk.Click(60, 60);
+  ASSERT_EQ(desk.List().NumShapes, 2) << "the tool in hand begins anew";
+  desk.tools.Undo(1);
+  ASSERT_EQ(desk.List().NumShapes, 1);
+  EXPECT_EQ(desk.List().Shapes[0].Kind, kArrow);
+  EXPECT_FALSE(desk.tools.CanUndo(1)) << "the drawings that came with the video are no change";
+}
+
 TEST(DrawingTools, AFrameIsPaintedWithMarksAndMeasure) {
   Desk desk;
   Bar bar;
