@@ -43,7 +43,7 @@ double MedianOf(int rounds, const std::function<void()>& work) {
 
 const Register kOverlayMix({"overlay_mix_640x480", {Target::Of::Ratio, 4, 1}, [] {
   constexpr int kRounds = 400;
-  test::AnalysisStage stage("2");
+  test::AnalysisStage stage("2", 1200, 600);
   Open(stage, 1, test::MjpegVideo(30), 3);
   Open(stage, 2, test::MjpegVideo(30), 20);
   LockedVideos locks(stage.host, stage.scheduler, stage.Slots());
@@ -68,7 +68,7 @@ const Register kOverlayMix({"overlay_mix_640x480", {Target::Of::Ratio, 4, 1}, []
 /// One more picture in a strip of nine, against one move of the strip's memory.
 const Register kStripRefresh({"strip_refresh", {Target::Of::Ratio, 4, 1.5}, [] {
   constexpr int kRounds = 300;
-  test::AnalysisStage stage("1");
+  test::AnalysisStage stage("1", 1200, 600);
   Open(stage, 1, test::MjpegVideo(120), 100);
   NoStripView view;
   MultiPicture strip(stage.host, stage.Slots(), view);
@@ -87,7 +87,7 @@ const Register kStripRefresh({"strip_refresh", {Target::Of::Ratio, 4, 1.5}, [] {
 const Register kLockedPlaySkew({"locked_play_skew", {Target::Of::AtMost, 0, 0}, [] {
   using std::chrono::steady_clock;
   constexpr int kOffset = 17;
-  test::AnalysisStage stage("2");
+  test::AnalysisStage stage("2", 1200, 600);
   for (const int slot : {1, 2}) {
     Open(stage, slot, test::DvVideo(330), 0);
     stage.Slots().CurrentWindow = slot;
@@ -114,7 +114,7 @@ const Register kLockedPlaySkew({"locked_play_skew", {Target::Of::AtMost, 0, 0}, 
 
 const Register kDualStep({"dual_step", {Target::Of::Ratio, 2.2, 2.05}, [] {
   constexpr int kSteps = 50;
-  test::AnalysisStage stage("2");
+  test::AnalysisStage stage("2", 1200, 600);
   LockedVideos locks(stage.host, stage.scheduler, stage.Slots());
   Open(stage, 1, test::DvVideo(120), 0);
   Open(stage, 2, test::DvVideo(120), 10);
