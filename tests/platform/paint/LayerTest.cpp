@@ -80,22 +80,6 @@ TEST(Layer, KeepsTheOrderOfRasterModesAndStrokes) {
   }
 }
 
-TEST(Layer, AMergedZoneTouchesThePixelsOfAPolygon) {
-  const std::vector<std::vector<POINTAPI>> zones = {{{30, 20}, {200, 100}, {10, 140}},
-                                                    {{-500, -20}, {90, 3000}, {400, 50}},
-                                                    {{5, 5}, {100, 5}, {5, 5}},
-                                                    {{20, 20}, {180, 140}, {180, 20}, {20, 140}}};
-  const Colour colour = Rgb(0, 96, 32);
-  for (const auto& zone : zones) {
-    ExpectSameAsDirect(211, 160, 0, [&](Canvas& canvas) {
-      canvas.SetROP2(Rop2::MergePen);
-      canvas.SetPen({colour, 1, 0});
-      canvas.SetBrush(colour);
-      canvas.Polygon(zone);
-    });
-  }
-}
-
 TEST(Layer, LeavesAloneWhatItDoesNotTouch) {
   const auto nothing = [](Canvas&) {};
   const auto outside = [](Canvas& canvas) { canvas.Line({-9, -9}, {-20, 30}); };
