@@ -11,7 +11,7 @@
 namespace kinalyx {
 namespace {
 
-/// Counts its steps; hangs at the third until it is let go.
+/// Counts its steps; hangs until it is let go.
 class CountingJob final : public IJob {
  public:
   struct Seen {
@@ -34,42 +34,48 @@ class CountingJob final : public IJob {
   int last_;
 };
 
-TEST(JobRunnerTest, AWorkerEndsIsCancelledAndIsLeftBehindWhenItHangs) {
+struct JobRunnerTest : ::testing::Test {
+  /// Starts a job on a worker and gives what can be seen of it.
+  std::shared_ptr<CountingJob::Seen> Start(int steps, bool hangs = false) {
+    auto seen = std::make_shared<CountingJob::Seen>();
+    seen->hangs = hangs;
+    ended = false;
+    EXPECT_TRUE(runner.Start(std::make_unique<CountingJob>(seen, steps), {}, [this](IJob* job) {
+      ended = true;
+      abandoned = job == nullptr;
+    }));
+    return seen;
+  }
+  void WaitForEnd() {
+    while (!ended) {
+      host.Advance(1);
+      std::this_thread::sleep_for(std::chrono::milliseconds(1));  // the hand-turned clock must not outrun the worker
+    }
+  }
+
+  static constexpr int kForEver = 1 << 30;
   test::TestHost host;
-  JobRunner runner(host, JobRunner::On::Worker);
+  JobRunner runner{host, JobRunner::On::Worker};
   bool ended = false;
   bool abandoned = false;
-  const auto end = [&](IJob* job) {
-    ended = true;
-    abandoned = job == nullptr;
-  };
-  const auto wait = [&](const auto& until) {
-    while (!until()) {
-      host.Advance(1);
-      std::this_thread::sleep_for(std::chrono::milliseconds(1));
-    }
-  };
-  auto seen = std::make_shared<CountingJob::Seen>();
-  ASSERT_TRUE(runner.Start(std::make_unique<CountingJob>(seen, 5), {}, end));
-  EXPECT_FALSE(runner.Start(std::make_unique<CountingJob>(seen, 5), {}, end));
-  wait([&] { return ended; });
-  EXPECT_EQ(seen->steps, 5);
+};
+
+TEST_F(JobRunnerTest, AWorkerEndsOrIsCancelled) {
+  const auto whole = Start(5);
+  EXPECT_FALSE(runner.Start(std::make_unique<CountingJob>(whole, 5), {}, {})) << "one at a time";
+  WaitForEnd();
+  EXPECT_EQ(whole->steps, 5);
   EXPECT_FALSE(abandoned || runner.Busy());
 
-  seen = std::make_shared<CountingJob::Seen>();
-  ended = false;
-  runner.Start(std::make_unique<CountingJob>(seen, 1 << 30), {}, end);
+  const auto cancelled = Start(kForEver);
   runner.Cancel();
-  // The turns of a worker are not those of the clock: this one is given all the time it needs.
-  while (!seen->cancelled) std::this_thread::yield();
-  wait([&] { return ended; });
+  while (!cancelled->cancelled) std::this_thread::yield();
+  WaitForEnd();
   EXPECT_FALSE(abandoned);
+}
 
-  // A disk that does not answer.
-  seen = std::make_shared<CountingJob::Seen>();
-  seen->hangs = true;
-  ended = false;
-  runner.Start(std::make_unique<CountingJob>(seen, 1 << 30), {}, end);
+TEST_F(JobRunnerTest, AWorkerOnADiskThatDoesNotAnswerIsLeftBehind) {
+  const auto seen = Start(kForEver, true);
   runner.Cancel();
   host.Advance(5000);
   EXPECT_TRUE(ended && abandoned);

@@ -14,37 +14,31 @@ using Names = std::vector<std::string>;
 TEST(IsValidName, TakesWhatAFolderOnEveryMachineCanHave) {
   for (const char* name : {"Smith, Jr.", "a.b", "Müller-Lüdenscheid", "(001) DTL driver", "x_1 2", "   "})
     EXPECT_TRUE(IsValidName(name)) << name;
-  for (const char* name : {"", "O'Brien", "A&B", "50%", "../x", "a\tb", ".hidden", ".."}) EXPECT_FALSE(IsValidName(name)) << name;
-  for (const char forbidden : std::string("\\/:*?\"<>|!@#$%^&+={}[]~`;'"))
-    EXPECT_FALSE(IsValidName(std::string("a") + forbidden)) << forbidden;
-  EXPECT_TRUE(IsBlank("   "));
-  EXPECT_FALSE(IsBlank(" x "));
+  for (const char* name : {"", "O'Brien", "A&B", "50%", "../x", "a\tb", ".hidden", "..", "a\\b", "a:b", "a?", "a*"})
+    EXPECT_FALSE(IsValidName(name)) << name;
 }
 
-TEST(LibraryBrowser, ShowsEveryVideoUnderItsOwnFolderOnly) {
+struct LibraryBrowserTest : ::testing::Test {
   TempLibrary library;
-  library.File("loose.avi");
-  library.File("notes.txt");
-  library.File("Demo/stray.avi");
-  library.File("Demo/Sample, Erica/a.b.avi");
-  library.File("Demo/Sample, Erica/(10) FO.AVI");
-  library.File("Demo/Sample, Erica/(9) FO.avi");
-  library.File("Demo/Sample, Erica/(9) FO.ved");
-  library.File("Quick Launch/fast.avi");
   LastStudentInfo remembered;
-  LibraryBrowser browser(library.host.Drives(), library.settings, remembered, LibraryBrowser::Kind::Profiles);
+  LibraryBrowser browser{library.host.Drives(), library.settings, remembered, LibraryBrowser::Kind::Profiles};
+};
 
+TEST_F(LibraryBrowserTest, ShowsEveryVideoUnderItsOwnFolderOnly) {
+  for (const char* name : {"loose.avi", "notes.txt", "Demo/stray.avi", "Demo/Sample, Erica/a.b.avi",
+                           "Demo/Sample, Erica/(10) FO.AVI", "Demo/Sample, Erica/(9) FO.avi",
+                           "Demo/Sample, Erica/(9) FO.ved", "Quick Launch/fast.avi"})
+    library.File(name);
   browser.CapfolderSetup();
   EXPECT_EQ(browser.InstructorList(), (Names{"General Folder", "Demo", "Quick Launch"}));
   EXPECT_TRUE(browser.IsGeneralFolder());
   EXPECT_TRUE(browser.StudentList().empty());
   EXPECT_EQ(browser.VideoList(), Names{"loose"});
   EXPECT_EQ(browser.VideoPath(), library.Path("loose.avi"));
-  EXPECT_FALSE(browser.HasStudent());
 
   browser.InstructorList_Click(1);
   EXPECT_EQ(browser.StudentList(), Names{"Sample, Erica"});
-  EXPECT_EQ(browser.StudentIndex(), -1);
+  EXPECT_FALSE(browser.HasStudent());
   EXPECT_TRUE(browser.VideoList().empty());
   EXPECT_TRUE(browser.SelectStudent("Sample, Erica"));
   EXPECT_EQ(browser.VideoList(), (Names{"(9) FO", "(10) FO", "a.b"}));
@@ -53,52 +47,44 @@ TEST(LibraryBrowser, ShowsEveryVideoUnderItsOwnFolderOnly) {
   EXPECT_EQ(browser.VideoPath(), library.Path("Demo/Sample, Erica/(10) FO.AVI"));
 
   browser.InstructorList_Click(2);
-  EXPECT_TRUE(browser.IsQuickLaunch());
   EXPECT_EQ(browser.VideoPath(), library.Path("Quick Launch/fast.avi"));
-
   browser.InstructorList_Click(99);
   EXPECT_EQ(browser.VideoPath(), "");
   EXPECT_TRUE(browser.VideoList().empty());
 }
 
-TEST(LibraryBrowser, OneListRestoresWhatAnotherChose) {
-  TempLibrary library;
+TEST_F(LibraryBrowserTest, OneListRestoresWhatAnotherChose) {
   library.File("Demo/Tom/one.avi");
   library.Folder("Demo/Model Swings");
   library.Folder("Demo/Professionals");
-  LastStudentInfo remembered;
-  LibraryBrowser page(library.host.Drives(), library.settings, remembered, LibraryBrowser::Kind::Profiles);
   LibraryBrowser open(library.host.Drives(), library.settings, remembered, LibraryBrowser::Kind::OpenVideo);
-  page.CapfolderSetup();
-  page.SelectInstructor("Demo");
-  page.SelectStudent("Tom");
+  browser.CapfolderSetup();
+  browser.SelectInstructor("Demo");
+  browser.SelectStudent("Tom");
   EXPECT_EQ(remembered, (LastStudentInfo{"Demo", "Tom", library.Path("Demo/Tom")}));
 
   open.CapfolderSetup();
   EXPECT_EQ(open.Student(), "Tom");
   EXPECT_EQ(open.Video(), "one");
+  // Who looks at model swings in passing comes back to the student.
   for (const char* passing : {"Professionals", "Model Swings"}) {
     EXPECT_TRUE(open.SelectStudent(passing));
     EXPECT_EQ(remembered[1], "Tom") << passing;
   }
-  page.SelectStudent("Professionals");
+  browser.SelectStudent("Professionals");
   EXPECT_EQ(remembered[1], "Tom");
-  page.SelectStudent("Model Swings");
+  browser.SelectStudent("Model Swings");
   EXPECT_EQ(remembered[1], "Model Swings");
 
-  page.SelectInstructor("General Folder");
-  EXPECT_EQ(remembered[0], "");
-  EXPECT_EQ(remembered[1], "");
+  browser.SelectInstructor("General Folder");
+  EXPECT_EQ(remembered[0] + remembered[1], "");
   open.CapfolderSetup();
   EXPECT_TRUE(open.IsGeneralFolder());
 }
 
-TEST(LibraryBrowser, KeepsItsPlaceWhenTheFoldersChange) {
-  TempLibrary library;
+TEST_F(LibraryBrowserTest, KeepsItsPlaceWhenTheFoldersChange) {
   library.File("Demo/Tom/one.avi");
   library.File("Demo/Tom/two.avi");
-  LastStudentInfo remembered;
-  LibraryBrowser browser(library.host.Drives(), library.settings, remembered, LibraryBrowser::Kind::Profiles);
   browser.CapfolderSetup();
   browser.SelectInstructor("Demo");
   browser.SelectStudent("Tom");
@@ -127,22 +113,10 @@ TEST(LibraryBrowser, KeepsItsPlaceWhenTheFoldersChange) {
   EXPECT_EQ(browser.Instructor(), "Anna");
 }
 
-TEST(LibraryBrowser, AnUnreadableLibraryListsNothing) {
-  TempLibrary library;
-  library.settings.LibraryPath = "/nowhere/at/all";
-  LastStudentInfo remembered{"Demo", "Tom", ""};
-  LibraryBrowser browser(library.host.Drives(), library.settings, remembered, LibraryBrowser::Kind::Profiles);
-  browser.CapfolderSetup();
-  EXPECT_EQ(browser.InstructorList(), Names{"General Folder"});
-  EXPECT_TRUE(browser.VideoList().empty());
-}
-
 TEST(ShortGame, OpensTheFilesOfAFamilyThatAreThere) {
   TempLibrary library;
-  library.File("D/S/Distance Wedge Day 1.avi");
-  library.File("D/S/Distance Wedge Day 3.avi");
-  library.File("D/S/Putting Down The Line.avi");
-  library.File("D/S/Chip.avi");
+  for (const char* name : {"Distance Wedge Day 1", "Distance Wedge Day 3", "Putting Down The Line", "Chip"})
+    library.File(std::string("D/S/") + name + ".avi");
   const std::string folder = library.Path("D/S");
   EXPECT_EQ(ShortGameFamily(folder, "Distance Wedge Day 3"),
             (Names{folder + "/Distance Wedge Day 1.avi", folder + "/Distance Wedge Day 3.avi"}));

@@ -15,6 +15,8 @@
 
 namespace kinalyx::test {
 
+using Videos = std::vector<LibraryVideo>;
+
 /// A library with two instructors, and an analysis section in which some videos are open.
 class OperationsFixture : public testing::Test {
  public:
@@ -36,9 +38,7 @@ class OperationsFixture : public testing::Test {
           library.host, library.settings,
           AnalysisLink{[this](const std::string& path) { return open.contains(path); },
                        [this](const std::string&, const std::function<void(const std::string&)>& tell) {
-                         tell("Loading Analysis Section...");
-                         tell(slotsFree > 0 ? "Current video was sent to Analysis."
-                                            : "All 8 windows already have videos in them. Send to analysis failed.");
+                         tell(slotsFree > 0 ? "sent" : "all windows are taken");
                          return slotsFree;
                        }},
           LibraryOperations::Environment{JobRunner::On::HostTimer, disk});
@@ -59,19 +59,17 @@ class OperationsFixture : public testing::Test {
   LibraryVideo DL() { return Video("Ann", "Joe Doe", "(001) DL"); }
   LibraryVideo FO() { return Video("Ann", "Joe Doe", "(002) FO"); }
 
-  /// Takes the result of a long operation.
-  LibraryOperations::Done Into() {
-    results.emplace_back();
-    ended = false;
-    return [this](const OperationResult& result) {
-      results.back() = result;
-      ended = true;
-    };
+  /// Does a long operation to its end.
+  template <typename... Arguments>
+  OperationResult Run(auto operation, const Arguments&... arguments) {
+    ended.reset();
+    (Ops().*operation)(arguments..., Into());
+    return Ended();
   }
-  const OperationResult& Ended() {
-    for (int turn = 0; !ended && turn < 10000; ++turn) library.host.Advance(1);
-    EXPECT_TRUE(ended);
-    return results.back();
+  OperationResult Import(const Videos& videos, const ImportTarget& loose = {}) {
+    ended.reset();
+    Ops().ImportVideos(videos, Into(), loose);
+    return Ended();
   }
   std::string Message() const { return library.host.messages.empty() ? "" : library.host.messages.back(); }
   bool Told(const std::string& words) const { return Message().find(words) != std::string::npos; }
@@ -84,8 +82,18 @@ class OperationsFixture : public testing::Test {
   std::set<std::string> open;
   int slotsFree = 1;
   std::vector<std::string> statuses;
-  std::vector<OperationResult> results;
-  bool ended = false;
+
+ private:
+  LibraryOperations::Done Into() {
+    return [this](const OperationResult& result) { ended = result; };
+  }
+  OperationResult Ended() {
+    for (int turn = 0; !ended && turn < 10000; ++turn) library.host.Advance(1);
+    EXPECT_TRUE(ended) << "the operation never ends";
+    return ended.value_or(OperationResult());
+  }
+
+  std::optional<OperationResult> ended;
 };
 
 }  // namespace kinalyx::test

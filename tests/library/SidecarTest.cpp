@@ -59,10 +59,6 @@ class SidecarTest : public ::testing::Test {
   const std::string path = library.Path("x.ved");
 };
 
-TEST_F(SidecarTest, LiesBesideItsVideo) {
-  EXPECT_EQ(SidecarPath("/a/b.c/My swing.AVI"), "/a/b.c/My swing.ved");
-}
-
 TEST_F(SidecarTest, ReadsAndWritesEveryBlockByteForByte) {
   const std::string bytes = "1WRSSNCF" + kReserved + Int16(9600) + Int16(7200) + Int16(1) + Int16(7) + LineRecord() +
                             Int32(0xFF) + Int16(11) + "Gr\xFC\xDF" "e\r\n50\x80" "!" + Int16(4) + "29.5" + Int16(4) + "29.5";
@@ -155,32 +151,30 @@ TEST_F(SidecarTest, AFileCutShortGivesWhatItHoldsAndNothingInvented) {
 
 TEST_F(SidecarTest, LongNotesAndLargeWindowsNeverBreakTheFile) {
   SlotData data;
-  for (int i = 0; i < 8000; ++i) data.Notes += "Füße\r\n";  // 48000 characters: more than a signed length
-  data.CValue = 1.25f;
+  data.CValue = 1.25f;  // stands behind the notes
   std::string error;
-  EXPECT_TRUE(WriteVideoData(path, data, &error));
+  const auto back = [&] {
+    EXPECT_TRUE(WriteVideoData(path, data, &error));
+    const SlotData read = ReadVideoData(path, {}, kToolColours);
+    EXPECT_EQ(read.CValue, 1.25f);
+    return read;
+  };
+  for (int i = 0; i < 8000; ++i) data.Notes += "Füße\r\n";  // 48000 characters: more than a signed length
+  EXPECT_EQ(back().Notes, data.Notes);
   EXPECT_EQ(error, "");
-  SlotData back = ReadVideoData(path, {}, kToolColours);
-  EXPECT_EQ(back.Notes, data.Notes);
-  EXPECT_EQ(back.CValue, 1.25f);
-
   data.Notes = std::string(kMaxNotes - 1, 'x') + "\r\nlost";
-  EXPECT_TRUE(WriteVideoData(path, data, &error));
+  EXPECT_EQ(back().Notes, std::string(kMaxNotes - 1, 'x'));
   EXPECT_NE(error, "");
-  back = ReadVideoData(path, {}, kToolColours);
-  EXPECT_EQ(back.Notes, std::string(kMaxNotes - 1, 'x'));
-  EXPECT_EQ(back.CValue, 1.25f);
 
   data.Shapes.Shapes = {Line()};
   data.Shapes.Shapes[0].Pts[1] = {3839, 2159};
   data.Shapes.NumShapes = 1;
   data.PictureWidth = 3840;
   data.PictureHeight = 2160;
-  EXPECT_TRUE(WriteVideoData(path, data, &error));
-  back = ReadVideoData(path, {}, kToolColours);
-  EXPECT_LE(back.PictureWidth * kTwipsPerPixel, 32767);
-  EXPECT_NEAR(back.Shapes.Shapes[0].Pts[1].x * 3840.0 / back.PictureWidth, 3839, 1);
-  EXPECT_NEAR(back.Shapes.Shapes[0].Pts[1].y * 2160.0 / back.PictureHeight, 2159, 1);
+  const SlotData large = back();
+  EXPECT_LE(large.PictureWidth * kTwipsPerPixel, 32767);
+  EXPECT_NEAR(large.Shapes.Shapes[0].Pts[1].x * 3840.0 / large.PictureWidth, 3839, 1);
+  EXPECT_NEAR(large.Shapes.Shapes[0].Pts[1].y * 2160.0 / large.PictureHeight, 2159, 1);
 }
 
 TEST_F(SidecarTest, ASaveThatFailsLeavesTheOldFileAndTellsWhy) {
@@ -225,22 +219,15 @@ TEST_F(SidecarTest, FirstSidecarsAreEightBytes) {
   EXPECT_TRUE(WriteCaptureVideoData(path, false, false, library.settings));
   EXPECT_EQ(TempLibrary::Read(path), "1XRXXXXX");
 
-  const struct {
-    VideoInfo video;
-    bool ticked;
-    const char* bytes;
-  } imports[] = {
-      {Video("MJPG", 640, 480, 30), false, "1XXXXXXX"},
-      {Video("MJPG", 640, 480, 30), true, "1XRXXXXX"},
-      {Video("MJPG", 720, 480, 30), false, "1XXXXXXX"},  // exactly 1.5
-      {Video("H264", 1280, 720, 60), false, "1WXXXXXX"},
-      {Video("DVSD", 720, 480, 30), false, "1XRSXXXX"},
-      {VideoInfo(), false, "1XXXXXXX"},
+  const auto imported = [&](const VideoInfo& video, bool reverseFields) {
+    EXPECT_TRUE(WriteImportedVideoData(path, video, reverseFields));
+    return TempLibrary::Read(path);
   };
-  for (const auto& import : imports) {
-    EXPECT_TRUE(WriteImportedVideoData(path, import.video, import.ticked));
-    EXPECT_EQ(TempLibrary::Read(path), import.bytes);
-  }
+  EXPECT_EQ(imported(Video("MJPG", 640, 480, 30), true), "1XRXXXXX");
+  EXPECT_EQ(imported(Video("MJPG", 720, 480, 30), false), "1XXXXXXX") << "a width of exactly 1.5 heights is not wide";
+  EXPECT_EQ(imported(Video("H264", 1280, 720, 60), false), "1WXXXXXX");
+  EXPECT_EQ(imported(Video("DVSD", 720, 480, 30), false), "1XRSXXXX");
+  EXPECT_EQ(imported({}, false), "1XXXXXXX");
 }
 
 TEST_F(SidecarTest, BrowsersReadTheTwoMarks) {

@@ -56,18 +56,21 @@ TEST_F(SilentLibraryTest, WhoHadChosenOtherwiseComesBackToThat) {
   EXPECT_EQ(browser.Video(), "two");
 }
 
-TEST_F(SilentLibraryTest, EveryChangeIsRefusedInWords) {
+struct SilentOperationsTest : SilentLibraryTest {
   std::vector<std::string> sent;
-  LibraryOperations operations(host, library.settings,
+  LibraryOperations operations{host, library.settings,
                                {[](const std::string&) { return false; },
-                                [&](const std::string& path, const auto&) {
+                                [this](const std::string& path, const auto&) {
                                   sent.push_back(path);
                                   return 1;
                                 }},
-                               {JobRunner::On::HostTimer});
+                               {JobRunner::On::HostTimer}};
   const LibraryVideo video{"Demo", "Tom", library.Path("Demo/Tom/one.avi")};
   OperationResult last;
-  const auto into = [&](const OperationResult& result) { last = result; };
+  const LibraryOperations::Done into = [this](const OperationResult& result) { last = result; };
+};
+
+TEST_F(SilentOperationsTest, EveryChangeIsRefusedInWords) {
   const std::function<OperationResult()> changes[] = {
       [&] { return operations.AddInstructor("New"); },
       [&] { return operations.RenameInstructor("Else", "New"); },
@@ -79,30 +82,36 @@ TEST_F(SilentLibraryTest, EveryChangeIsRefusedInWords) {
       [&] { return operations.RenameVideo(video, "new"); },
       [&] { return operations.DeleteVideo(video); },
       [&] { return operations.QuickLaunch(video, into), last; },
-      [&] { return operations.Trim(video, 0, 1, 30, into), last; }};
+      [&] { return operations.Trim(video, 0, 1, 30, into), last; },
+      [&] { return operations.ImportVideos({video}, into), last; }};
+  const auto expectRefusals = [&] {
+    for (const auto& change : changes) {
+      last = {};
+      const OperationResult result = change();
+      EXPECT_FALSE(result.done);
+      EXPECT_TRUE(result.status.ends_with("Nothing was changed.")) << result.status;
+    }
+    EXPECT_TRUE(host.questions.empty());
+    EXPECT_TRUE(sent.empty());
+  };
   host.drivesHang = true;
-  for (const auto& change : changes) {
-    last = {};
-    const OperationResult result = change();
-    EXPECT_FALSE(result.done);
-    EXPECT_NE(result.status.find("is not answering. Nothing was changed."), std::string::npos) << result.status;
-  }
+  expectRefusals();
   EXPECT_EQ(host.waits.size(), 1u);
-  EXPECT_TRUE(host.questions.empty());
-  EXPECT_TRUE(sent.empty());
-
   host.DrivesAnswer();
   EXPECT_EQ(TempLibrary::Read(video.path), "video") << "what was given up changes nothing when the drive comes back";
+
+  // The drive answers, and the library is not there: it is not begun anew.
+  std::filesystem::rename(library.Root(), library.Root() + " away");
+  expectRefusals();
+  EXPECT_FALSE(std::filesystem::exists(library.Root()));
+  std::filesystem::rename(library.Root() + " away", library.Root());
   EXPECT_TRUE(operations.RenameVideo(video, "new").done);
 }
 
-TEST_F(SilentLibraryTest, ADriveThatTakesNoCopiesIsNamed) {
-  LibraryOperations operations(host, library.settings, {}, {JobRunner::On::HostTimer});
+TEST_F(SilentOperationsTest, ADriveThatTakesNoCopiesIsNamed) {
   const TempFolder disk;
-  const std::vector<LibraryVideo> videos{{"Demo", "Tom", library.Path("Demo/Tom/one.avi")}};
-  OperationResult last;
   host.drivesHang = true;
-  operations.ExportVideos(videos, disk.Path(), [&](const OperationResult& result) { last = result; });
+  operations.ExportVideos({video}, disk.Path(), into);
   EXPECT_NE(last.status.find(disk.Path()), std::string::npos) << last.status;
   EXPECT_FALSE(operations.Busy());
   host.DrivesAnswer();
