@@ -22,7 +22,7 @@ AnalysisWorkspace::AnalysisWorkspace(IHost& host, Settings& settings, PlaySchedu
       transport_(host, settings, workspace_, compare_.Locks(), view),
       tools_(engine_, settings, *this),
       drawings_(workspace_, tools_),
-      autoSave_(host, workspace_),
+      autoSave_(host, settings, workspace_),
       edits_(host, settings, workspace_, tools_, *this, editsView),
       timer_(workspace_, transport_, view),
       notes_(workspace_, view),

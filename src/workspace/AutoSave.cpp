@@ -1,5 +1,7 @@
 #include "workspace/AutoSave.h"
 
+#include "platform/host/DriveWatch.h"
+
 namespace kinalyx {
 namespace {
 
@@ -11,13 +13,18 @@ void AutoSave::Changed() {
   rest_ = HostTimer(host_, kRest, false, [this] { Save(); });
 }
 
-/// What the disk refuses is tried again with the next change, and told when the video closes.
+/// A video that stands in two slots has two sets of drawings, which become one only when one of them
+/// closes: until then a drawing that is deleted here would come back from what was written there.
+bool AutoSave::Wanted(int slot) {
+  return workspace_.HasVideo(slot) && !workspace_.ShownTwice(slot) && workspace_.HasUnsaved(slot);
+}
+
+/// What the disk refuses, or a drive that does not answer, is tried again with the next change, and told
+/// when the video closes: nobody is disturbed at work.
 void AutoSave::Save() {
-  for (int slot = 1; slot <= kSlots; ++slot) {
-    // A video that stands in two slots has two sets of drawings, which become one only when one of them
-    // closes: until then a drawing that is deleted here would come back from what was written there.
-    if (workspace_.HasVideo(slot) && !workspace_.ShownTwice(slot) && workspace_.HasUnsaved(slot)) workspace_.SaveData(slot);
-  }
+  for (int slot = 1; slot <= kSlots; ++slot)
+    if (Wanted(slot) && host_.Drives().AnswersAtOnce(settings_.LibraryPath, workspace_.At(slot).path))
+      workspace_.SaveData(slot);
 }
 
 }  // namespace kinalyx

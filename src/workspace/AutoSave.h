@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/Settings.h"
 #include "platform/host/Host.h"
 #include "workspace/Workspace.h"
 
@@ -9,15 +10,18 @@ namespace kinalyx {
 /// of work and not the lesson.
 class AutoSave {
  public:
-  AutoSave(IHost& host, Workspace& workspace) : host_(host), workspace_(workspace) {}
+  AutoSave(IHost& host, const Settings& settings, Workspace& workspace)
+      : host_(host), settings_(settings), workspace_(workspace) {}
 
   /// Something that belongs into a sidecar may have changed.
   void Changed();
 
  private:
   void Save();
+  bool Wanted(int slot);
 
   IHost& host_;
+  const Settings& settings_;
   Workspace& workspace_;
   HostTimer rest_;
 };
