@@ -1,23 +1,19 @@
 #pragma once
 
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 #include <memory>
 #include <set>
-#include <stdexcept>
 
 #include "../library/TempLibrary.h"
+#include "FormDriver.h"
 #include "FormsSupport.h"
 #include "library/forms/PreviewPlayer.h"
 #include "library/forms/ProfilesPage.h"
-#include "platform/widgets/NameList.h"
 #include "support/TestVideos.h"
 
 namespace kinalyx::test {
 
 /// The profiles page over a small library, with long operations done turn by turn.
-class ProfilesStage : public ::testing::Test, protected UsesApplication {
+class ProfilesStage : public ::testing::Test, protected UsesApplication, protected FormDriver {
  protected:
   ProfilesStage() {
     fields.EnsureFile();
@@ -45,29 +41,24 @@ class ProfilesStage : public ::testing::Test, protected UsesApplication {
     page->show();
   }
 
+  /// Chooses a student of the instructor "Demo".
+  void ChooseStudent(const QString& student) {
+    Choose("InstructorList", "Demo");
+    Choose("StudentList", student);
+  }
   void AddVideo(const std::string& name) {
     const std::string video = MakeTestVideo(MjpegVideo(8));
     ASSERT_FALSE(video.empty());
     std::filesystem::copy_file(video, library.File(name), std::filesystem::copy_options::overwrite_existing);
   }
 
-  template <typename T>
-  T* Find(const char* name) {
-    T* widget = page->findChild<T*>(name);
-    if (!widget) throw std::runtime_error(std::string("no control ") + name);
-    return widget;
+  /// Lets a long operation run to its end.
+  void Work() {
+    for (int turn = 0; operations->Busy() && turn < 10000; ++turn) library.host.Advance(1);
+    ASSERT_FALSE(operations->Busy());
   }
-  NameList* List(const char* name) { return Find<NameList>(name); }
-  QStringList Rows(const char* name) {
-    QStringList rows;
-    for (int row = 0; row < List(name)->count(); ++row) rows << List(name)->item(row)->text();
-    return rows;
-  }
-  void Choose(const char* name, const QString& entry) { List(name)->setCurrentRow(int(Rows(name).indexOf(entry))); }
-  QString Text(const char* label) { return Find<QLabel>(label)->text(); }
-  void Press(const char* button) { Find<QPushButton>(button)->click(); }
-  void Type(const char* box, const QString& text) { Find<QLineEdit>(box)->setText(text); }
   bool Exists(const std::string& name) const { return std::filesystem::exists(library.Path(name)); }
+  std::string Read(const std::string& name) const { return TempLibrary::Read(library.Path(name)); }
   AVIControl& Preview() { return page->findChild<PreviewPlayer*>()->Control(); }
 
   TempLibrary library;
@@ -79,6 +70,9 @@ class ProfilesStage : public ::testing::Test, protected UsesApplication {
   std::set<std::string> open;  ///< in the analysis section
   std::unique_ptr<LibraryOperations> operations;
   std::unique_ptr<ProfilesPage> page;
+
+ private:
+  QWidget& Form() override { return *page; }
 };
 
 }  // namespace kinalyx::test
