@@ -38,7 +38,7 @@ class FakeWindow final : public IWorkspaceView {
   std::optional<Colour> colour;
   int colorButton = -1;
   std::optional<std::string> notes;
-  int openPanels = 0, notesforms = 0, focused = 0;
+  int openPanels = 0;
 
  private:
   int MainPanelWidth() override { return width * kTwipsPerPixel; }
@@ -76,39 +76,34 @@ class FakeWindow final : public IWorkspaceView {
   }
   void ShowCalibration(bool shown) override { calibration = shown; }
   void SetCalibrationLength(const std::string& length) override { calibrationLength = length; }
-  void ShowNotesform() override { ++notesforms; }
+  void ShowNotesform() override {}
   void ShowOpenPanel() override {
     ++openPanels;
     lists = true;
   }
   bool CloseOpenPanel() override { return std::exchange(lists, false); }
   void CommandsChanged() override {}
-  void FocusKeyBox() override { ++focused; }
+  void FocusKeyBox() override {}
 };
 
 /// The windows of the editing of drawings; they only remember what they were told.
 class FakeEditWindows final : public IDrawingEditsView {
  public:
-  bool bar = false, macroForm = false, gridPanel = false, multi = false, canMulti = false, guide = false;
-  int barOver = 0;
+  bool bar = false, macroForm = false, gridPanel = false, multi = false;
   std::map<int, bool> handles;  ///< enabled
   std::optional<SelectionMarks> marks;
   std::string words;
   std::vector<std::string> macros;
-  int chosenMacro = -1;
   std::optional<std::string> macroName;  ///< what the user will type
   std::optional<int> cloneTarget;        ///< what the user will choose
   std::vector<int> offeredTargets;
 
  private:
   void ShowEditBar(bool shown) override { bar = shown; }
-  void PlaceEditBar(int slot) override { barOver = slot; }
+  void PlaceEditBar(int) override {}
   void EnableHandle(int handle, bool enabled) override { handles[handle] = enabled; }
-  void SetMultiButton(bool enabled, bool down) override {
-    canMulti = enabled;
-    multi = down;
-  }
-  void ShowRotationGuide(bool shown) override { guide = shown; }
+  void SetMultiButton(bool, bool down) override { multi = down; }
+  void ShowRotationGuide(bool) override {}
   int HandleWidth(int) override { return 32 * kTwipsPerPixel; }
   int HandleHeight(int) override { return 32 * kTwipsPerPixel; }
   bool HandleEnabled(int handle) override { return handles[handle]; }
@@ -118,10 +113,7 @@ class FakeEditWindows final : public IDrawingEditsView {
   }
   std::optional<std::string> AskMacroName(const ShapeList&) override { return macroName; }
   void ShowMacroForm(bool shown) override { macroForm = shown; }
-  void FillMacroList(const std::vector<std::string>& names, int selected) override {
-    macros = names;
-    chosenMacro = selected;
-  }
+  void FillMacroList(const std::vector<std::string>& names, int) override { macros = names; }
   void ShowGridPanel(bool shown) override { gridPanel = shown; }
   std::optional<int> AskCloneTarget(int, const std::vector<int>& targets) override {
     offeredTargets = targets;
@@ -182,9 +174,9 @@ class AnalysisStage : private IFrameInterface {
   }
 
   // --- the mouse, in pixels of the picture
-  void Press(int slot, int x, int y, int button = 1) { analysis.MouseDown(button, 0, Pixel(x), Pixel(y), slot); }
-  void Move(int slot, int x, int y) { analysis.MouseMove(1, 0, Pixel(x), Pixel(y), slot); }
-  void Release(int slot, int x, int y, int button = 1) { analysis.MouseUp(button, 0, Pixel(x), Pixel(y), slot); }
+  void Press(int slot, int x, int y, int button = 1) { analysis.MouseDown(button, 0, float(x), float(y), slot); }
+  void Move(int slot, int x, int y) { analysis.MouseMove(1, 0, float(x), float(y), slot); }
+  void Release(int slot, int x, int y, int button = 1) { analysis.MouseUp(button, 0, float(x), float(y), slot); }
   void Click(int slot, int x, int y, int button = 1) {
     Move(slot, x, y);
     Press(slot, x, y, button);
@@ -225,7 +217,6 @@ class AnalysisStage : private IFrameInterface {
   }
   void Notify(int Frame, int ID) override { analysis.Notify(Frame, ID); }
 
-  static float Pixel(int at) { return static_cast<float>(at); }
   static std::string NewFolder() {
     static int count = 0;
     const std::string path = TestPath("analysis" + std::to_string(++count));

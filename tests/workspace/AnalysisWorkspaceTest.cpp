@@ -329,7 +329,6 @@ TEST(DisplayRate, ReadsTheFirstTwoFiguresBehindThePoint) {
   AnalysisStage stage;
   stage.Open(1, stage.Video("a.avi"));
   stage.Commands().Run("VidTest");
-  EXPECT_TRUE(stage.Commands().Find("VidTest")->checked());
   stage.host.Advance(3000);
   ASSERT_EQ(stage.host.messages.size(), 1u);
   EXPECT_EQ(stage.host.messages[0], DisplayRateTest::Result(60, 29) + "\n\n30 of 30 pictures were shown.");
