@@ -6,6 +6,7 @@
 #include <QtTest/QTest>
 #include <atomic>
 #include <chrono>
+#include <fstream>
 #include <thread>
 
 #include "ProfilesStage.h"
@@ -296,16 +297,20 @@ TEST_F(LibraryCommandsTest, TheTrimPanelFollowsThePreviewAndCountsFrames) {
   EXPECT_FALSE(slider->isVisible()) << "another video ends it as well";
 }
 
-TEST_F(LibraryCommandsTest, ATrimThatFailsIsToldAndTheVideoStays) {
-  // There is no program to trim with beside this one.
+TEST_F(LibraryCommandsTest, ATrimAsksForTheFramesThatWereChosen) {
+  std::filesystem::create_directories(library.settings.AppPath);
+  const std::string program = library.settings.AppPath + "/avitrim";
+  std::ofstream(program) << "#!/bin/sh\nprintf '%s' \"$1\" > \"$0.asked\"\necho 'disk full' >&2\nexit 1\n";
+  std::filesystem::permissions(program, std::filesystem::perms::owner_all);
   ChooseStudent("Sample, Erica");
-  const std::string before = Read("Demo/Sample, Erica/(001) DTL driver.avi");
+  const std::string video = page->Browser().VideoPath();
   Press("SPBtn5");
   Find<TrimSlider>("HScroll1")->SetStart(3);
+  Find<TrimSlider>("HScroll1")->SetEnd(5);
   Press("EditSaveBtn");
   Work();
+  EXPECT_EQ(test::TempLibrary::Read(program + ".asked"), video + "*" + video + "*3*5*30*0*");
   EXPECT_EQ(Text("SPDisplay"), "Last Video WAS NOT SAVED");
-  EXPECT_EQ(Read("Demo/Sample, Erica/(001) DTL driver.avi"), before);
   EXPECT_NE(Preview().Info(), nullptr);
 }
 

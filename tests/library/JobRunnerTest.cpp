@@ -34,55 +34,38 @@ class CountingJob final : public IJob {
   int last_;
 };
 
-struct JobRunnerTest : ::testing::Test {
-  /// Starts a job on a worker and gives what can be seen of it.
-  std::shared_ptr<CountingJob::Seen> Start(int steps, bool hangs = false) {
-    auto seen = std::make_shared<CountingJob::Seen>();
-    seen->hangs = hangs;
-    ended = false;
-    EXPECT_TRUE(runner.Start(std::make_unique<CountingJob>(seen, steps), {}, [this](IJob* job) {
-      ended = true;
-      abandoned = job == nullptr;
-    }));
-    return seen;
-  }
-  void WaitForEnd() {
-    while (!ended) {
-      host.Advance(1);
-      std::this_thread::sleep_for(std::chrono::milliseconds(1));  // the hand-turned clock must not outrun the worker
-    }
-  }
-
-  static constexpr int kForEver = 1 << 30;
+TEST(JobRunner, AWorkerEndsAndIsLeftBehindWhenItsDiskDoesNotAnswer) {
   test::TestHost host;
-  JobRunner runner{host, JobRunner::On::Worker};
+  JobRunner runner(host, JobRunner::On::Worker);
   bool ended = false;
   bool abandoned = false;
-};
-
-TEST_F(JobRunnerTest, AWorkerEndsOrIsCancelled) {
-  const auto whole = Start(5);
-  EXPECT_FALSE(runner.Start(std::make_unique<CountingJob>(whole, 5), {}, {})) << "one at a time";
-  WaitForEnd();
+  const auto start = [&](const std::shared_ptr<CountingJob::Seen>& seen, int steps) {
+    return runner.Start(std::make_unique<CountingJob>(seen, steps), {}, [&](IJob* job) {
+      ended = true;
+      abandoned = job == nullptr;
+    });
+  };
+  const auto whole = std::make_shared<CountingJob::Seen>();
+  ASSERT_TRUE(start(whole, 5));
+  EXPECT_FALSE(start(whole, 5)) << "one at a time";
+  while (!ended) {
+    host.Advance(1);
+    std::this_thread::sleep_for(std::chrono::milliseconds(1));
+  }
   EXPECT_EQ(whole->steps, 5);
   EXPECT_FALSE(abandoned || runner.Busy());
 
-  const auto cancelled = Start(kForEver);
-  runner.Cancel();
-  while (!cancelled->cancelled) std::this_thread::yield();
-  WaitForEnd();
-  EXPECT_FALSE(abandoned);
-}
-
-TEST_F(JobRunnerTest, AWorkerOnADiskThatDoesNotAnswerIsLeftBehind) {
-  const auto seen = Start(kForEver, true);
+  ended = false;
+  const auto hanging = std::make_shared<CountingJob::Seen>();
+  hanging->hangs = true;
+  ASSERT_TRUE(start(hanging, 1 << 30));
   runner.Cancel();
   host.Advance(5000);
   EXPECT_TRUE(ended && abandoned);
   EXPECT_FALSE(runner.Busy());
-  seen->hangs = false;
-  while (!seen->gone) std::this_thread::yield();
-  EXPECT_TRUE(seen->cancelled);
+  hanging->hangs = false;
+  while (!hanging->gone) std::this_thread::yield();
+  EXPECT_TRUE(hanging->cancelled) << "it cleans up when the disk is back";
 }
 
 }  // namespace

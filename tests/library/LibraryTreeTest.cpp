@@ -150,9 +150,8 @@ TEST(VideoStats, ReadsLikeASentence) {
 
 TEST(VideoStats, FileSizesTakeTheUnitThatReadsBest) {
   const std::pair<std::int64_t, const char*> sizes[] = {
-      {-1, "0 bytes"},           {0, "0 bytes"},         {1023, "1023 bytes"},      {1024, "1.00 KB"},
-      {10'000, "9.77 KB"},       {10'239, "10.0 KB"},    {1'048'575, "1.00 MB"},    {1'500'000'000, "1.40 GB"},
-      {std::int64_t(1) << 40, "1.00 TB"}, {std::int64_t(1) << 52, "4096.0 TB"}};
+      {-1, "0 bytes"},      {1023, "1023 bytes"},   {1024, "1.00 KB"},          {10'239, "10.0 KB"},
+      {1'048'575, "1.00 MB"}, {1'500'000'000, "1.40 GB"}, {std::int64_t(1) << 52, "4096.0 TB"}};
   for (const auto& [bytes, text] : sizes) EXPECT_EQ(FormatFileSize(bytes), text);
 }
 

@@ -36,11 +36,7 @@ class OperationsFixture : public testing::Test {
     if (!operations) {
       operations = std::make_unique<LibraryOperations>(
           library.host, library.settings,
-          AnalysisLink{[this](const std::string& path) { return open.contains(path); },
-                       [this](const std::string&, const std::function<void(const std::string&)>& tell) {
-                         tell(slotsFree > 0 ? "sent" : "all windows are taken");
-                         return slotsFree;
-                       }},
+          AnalysisLink{[this](const std::string& path) { return open.contains(path); }, {}},
           LibraryOperations::Environment{JobRunner::On::HostTimer, disk});
       operations->ShowStatus = [this](const std::string& words) { statuses.push_back(words); };
     }
@@ -80,7 +76,6 @@ class OperationsFixture : public testing::Test {
   ICopyDisk* disk = &RealCopyDisk();
   std::unique_ptr<LibraryOperations> operations;
   std::set<std::string> open;
-  int slotsFree = 1;
   std::vector<std::string> statuses;
 
  private:

@@ -30,15 +30,6 @@ TEST_F(VideoOperations, NothingHappensWithoutAChoiceOrToAVideoThatIsOpenInAnalys
   EXPECT_TRUE(Ops().RenameVideo(FO(), "x").done);
 }
 
-TEST_F(VideoOperations, SendsAVideoToAnalysis) {
-  EXPECT_TRUE(Ops().SendToAnalysis(DL()).done);
-  EXPECT_EQ(statuses.back(), "sent");
-  slotsFree = 0;
-  const OperationResult full = Ops().SendToAnalysis(DL());
-  EXPECT_FALSE(full.done);
-  EXPECT_EQ(full.status, "all windows are taken");
-}
-
 TEST_F(VideoOperations, RenamesAVideoWithItsSidecar) {
   for (const char* bad : {"50%", ""}) EXPECT_EQ(Ops().RenameVideo(DL(), bad).status, "Invalid character in student name.");
   EXPECT_EQ(Ops().RenameVideo(DL(), "(002) FO").status,
