@@ -9,6 +9,7 @@
 #include <string>
 #include <utility>
 
+#include "FormDriver.h"
 #include "FormsSupport.h"
 #include "support/TestHost.h"
 #include "support/TestVideos.h"
@@ -18,7 +19,7 @@ namespace kinalyx::test {
 
 /// The page of the analysis section with real players, in a folder of its own; its controls are found by
 /// their names.
-struct AnalysisFormFixture : testing::Test, UsesApplication {
+struct AnalysisFormFixture : testing::Test, UsesApplication, FormDriver {
   explicit AnalysisFormFixture(QSize size = {1280, 800}) : folder(NewFolder()), settings(host, folder + "/data", folder) {
     settings.LoadSettings();
     settings.LibraryPath = folder + "/library";
@@ -43,13 +44,9 @@ struct AnalysisFormFixture : testing::Test, UsesApplication {
   /// Opens such a video in the first free window.
   void Send(const std::string& name) { ASSERT_NE(Slots().SendToAnalysis(Video(name)), 0); }
 
-  template <typename T>
-  T* Find(const char* name) {
-    T* found = form->findChild<T*>(name);
-    EXPECT_NE(found, nullptr) << name;
-    return found;
-  }
   void Click(const char* name) { QTest::mouseClick(Find<QWidget>(name), Qt::LeftButton); }
+  bool Seen(const char* name) { return Find<QWidget>(name)->isVisible(); }
+  bool Enabled(const char* name) { return Find<QWidget>(name)->isEnabled(); }
   /// A press and release on the picture of a window.
   void ClickOn(const char* player, QPoint at) { QTest::mouseClick(Find<QWidget>(player), Qt::LeftButton, {}, at); }
   /// Takes up a tool of two points and draws with it on window 1.
@@ -63,6 +60,9 @@ struct AnalysisFormFixture : testing::Test, UsesApplication {
 
   Workspace& Slots() { return form->Analysis().Slots(); }
   ShapeList& Shapes(int slot = 1) { return form->Analysis().Tools().List(slot); }
+  POINTAPI PointOf(int shape, int point) {
+    return Shapes().Shapes[static_cast<std::size_t>(shape)].Pts[static_cast<std::size_t>(point)];
+  }
   QRect OnForm(QWidget* widget) { return QRect(widget->mapTo(form.get(), QPoint()), widget->size()); }
 
   const std::string folder;
@@ -75,6 +75,7 @@ struct AnalysisFormFixture : testing::Test, UsesApplication {
   std::unique_ptr<AnalysisForm> form;
 
  private:
+  QWidget& Form() override { return *form; }
   static std::string NewFolder() {
     static int count = 0;
     const std::string path = TestPath("analysisform" + std::to_string(++count));

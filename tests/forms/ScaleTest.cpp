@@ -33,7 +33,10 @@ struct Dressed {
     controls.Resize(main.width(), main.height());
     SetTextPixels(Application(), controls.TextPixels());
     ApplyTheme(Application(), CurrentTheme());
-    // A label tells its layout, that tells the card: each in a turn of its own.
+    Settle();
+  }
+  /// A label tells its layout, that tells the card: each in a turn of its own.
+  static void Settle() {
     for (int turn = 0; turn < 5; ++turn) QTest::qWait(0);
   }
   ResizeControls controls;
@@ -58,7 +61,20 @@ std::string Clipped(const QWidget& form) {
   return found.join("; ").toStdString();
 }
 
-const QSize kMains[] = {{1000, 680}, {1024, 768}, {1280, 800}, {1280, 1024}, {1440, 900}, {1440, 950}, {1920, 1080}};
+/// Has a page looked at in main windows of all sizes.
+/// @param beside  what stands beside it and above, in pixels of an unscaled window
+template <typename Look>
+void AtEverySize(QWidget& page, QSize beside, Look look) {
+  Dressed dressed;
+  for (const QSize& main : {QSize(1000, 680), QSize(1024, 768), QSize(1280, 800), QSize(1280, 1024), QSize(1440, 900),
+                            QSize(1440, 950), QSize(1920, 1080)}) {
+    SCOPED_TRACE(std::to_string(main.width()) + " x " + std::to_string(main.height()));
+    dressed.Resize(main);
+    page.resize(main - QSize(Px(beside.width()), Px(beside.height())));
+    Dressed::Settle();
+    look();
+  }
+}
 
 TEST(Scale, LengthsInSheetsGrowWithTheText) {
   Dressed dressed({1920, 1080});
@@ -109,69 +125,63 @@ TEST(Scale, NothingOfTheSetupPageIsClipped) {
   Settings settings(host, folder.Path("data"), folder.Path("program"));
   settings.LoadSettings();
   ColorSchemes schemes;
-  Dressed dressed;
   SetupPage page(host, settings, schemes);
   page.show();
-  for (const QSize& main : kMains) {
-    page.resize(main - QSize(132, 36));
-    dressed.Resize(main);
+  AtEverySize(page, {132, 36}, [&] {
     for (const int section : {SetupPage::kMainMenu, SetupPage::kAnalysis, SetupPage::kGeneral}) {
       page.PSCmd_Click(section);
       QTest::qWait(0);
-      EXPECT_EQ(Clipped(page), "") << main.width() << " x " << main.height();
+      EXPECT_EQ(Clipped(page), "");
     }
-  }
+  });
 }
 
-struct ScaledProfiles : ProfilesStage {};
+using ScaledProfiles = ProfilesStage;
 
 TEST_F(ScaledProfiles, NothingIsClipped) {
-  Dressed dressed;
   Choose("InstructorList", "Demo");
   Choose("StudentList", "Sample, Erica");
-  for (const QSize& main : kMains) {
-    page->resize(main - QSize(Px(132), Px(36)));
-    dressed.Resize(main);
-    page->resize(main - QSize(Px(132), Px(36)));
-    QTest::qWait(0);
-    EXPECT_EQ(Clipped(*page), "") << main.width() << " x " << main.height();
-  }
+  AtEverySize(*page, {132, 36}, [&] { EXPECT_EQ(Clipped(*page), ""); });
 }
 
-struct ScaledAnalysis : AnalysisFormFixture {};
+using ScaledAnalysis = AnalysisFormFixture;
 
-TEST_F(ScaledAnalysis, NothingIsClippedAndTheBarsHoldTheirButtons) {
-  Dressed dressed;
+TEST_F(ScaledAnalysis, NothingIsClippedOrCutOff) {
   Send("a.avi");
   Send("b.avi");
-  for (const QSize& main : kMains) {
-    form->resize(main - QSize(0, 36));
-    dressed.Resize(main);
-    QTest::qWait(0);
+  const auto expectInBar = [&](std::initializer_list<const char*> names) {
+    for (const char* name : names) EXPECT_TRUE(OnForm(Find<QWidget>("Playbar")).contains(OnForm(Find<QWidget>(name)))) << name;
+  };
+  AtEverySize(*form, {0, 36}, [&] {
     for (const char* layout : {"Scn1", "Scn2", "Scn4", "Scn8"}) {
+      SCOPED_TRACE(layout);
       Click(layout);
       QTest::qWait(0);
-      EXPECT_EQ(Clipped(*form), "") << main.width() << " x " << main.height() << " " << layout;
-      const QWidget* bar = Find<QWidget>("Playbar");
-      for (const char* name : {"CmdButton0", "CmdButton2", "LoopButton", "DisplayPanel"}) {
-        const QWidget* part = Find<QWidget>(name);
-        EXPECT_TRUE(bar->rect().contains(QRect(part->mapTo(bar, QPoint()), part->size())))
-            << name << " " << layout << " " << main.width() << " x " << main.height();
+      EXPECT_EQ(Clipped(*form), "");
+      for (const char* name : {"CmdMakeShape0", "CmdMakeShape10", "DDSABtn", "Notesbutton", "CmdAfunctions4", "CmdButton3",
+                               "ColorChoiceBtn11", "Playbar"}) {
+        QWidget* widget = Find<QWidget>(name);
+        EXPECT_TRUE(widget->isVisible() && form->rect().contains(OnForm(widget))) << name;
       }
+      expectInBar({"CmdButton0", "CmdButton2", "LoopButton", "DisplayPanel", "PlayBarHScroll", "PlayBarDetachBtn"});
+      EXPECT_FALSE(OnForm(Find<QWidget>("LoopButton")).intersects(OnForm(Find<QWidget>("PlayBarDetachBtn"))));
     }
-  }
+    // Beside the open panel eight windows are narrow indeed.
+    Click("Openbtn");
+    QTest::qWait(0);
+    expectInBar({"CmdButton0", "CmdButton2", "LoopButton", "DisplayPanel", "PlayBarHScroll"});
+    EXPECT_GE(Find<QLabel>("DisplayPanel")->width(), Find<QLabel>("DisplayPanel")->sizeHint().width());
+    Click("CmdOpenVideo1");
+    for (const char* name : {"CmdMakeShape3", "StrobeBtn", "cmdDualPlay"})
+      EXPECT_TRUE(Find<QWidget>(name)->isVisible() || Find<QWidget>("MoreTools")->isVisible()) << name;
+  });
 }
 
 TEST_F(ScaledAnalysis, CardsTakeTheRoomOfTheirWords) {
-  Dressed dressed;
   Send("a.avi");
   Send("b.avi");
   for (const char* card : {"TVT", "TCal", "TZP", "TASF", "TAGrid", "AddMacro"}) form->Analysis().Commands().Run(card);
-  for (const QSize& main : kMains) {
-    form->resize(main - QSize(0, 36));
-    dressed.Resize(main);
-    EXPECT_EQ(Clipped(*form), "") << main.width() << " x " << main.height();
-  }
+  AtEverySize(*form, {0, 36}, [&] { EXPECT_EQ(Clipped(*form), ""); });
 }
 
 }  // namespace
