@@ -16,8 +16,6 @@ inline constexpr std::string_view kGeneralFolder = "General Folder";  ///< no fo
 inline constexpr std::string_view kQuickLaunch = "Quick Launch";      ///< videos lie directly in it
 inline constexpr std::string_view kProfessionals = "Professionals";
 inline constexpr std::string_view kModelSwings = "Model Swings";
-inline constexpr std::string_view kConvertedVideos = "Converted Videos";
-inline constexpr std::string_view kLessons = "lessons";
 
 /// The one rule for names of folders and videos: not empty, and none of \ / : * ? " < > | ! @ # $ % ^ & +
 /// = { } [ ] ~ ` ; ' in it. Refused too are control characters and a dot at the beginning, which would

@@ -31,12 +31,64 @@ bool RemoveVideo(const std::string& path, ICopyDisk& disk) {
   return true;
 }
 
+/// Renames a video with its sidecar, which goes first and back again when its video cannot follow; one that a
+/// second video shares is copied. False, with the reason, when the two stand as before.
+bool RenameWithSidecar(const std::string& from, const std::string& to, std::string* error, ICopyDisk& disk) {
+  const std::string sidecar = ExistingSidecar(from);
+  if (sidecar.empty()) return RenameEntry(from, to, error, disk);
+  const std::string newSidecar = SidecarPath(to);
+  if (SharesSidecar(from)) {
+    CopyJob copy(CopyJob::Kind::Copy, {{{sidecar, newSidecar}}}, disk);
+    if (RunToEnd(copy) != CopyJob::State::Done) {
+      *error = copy.Error();
+      return false;
+    }
+    if (RenameEntry(from, to, error, disk)) return true;
+    RemoveTree(newSidecar, nullptr, disk);
+    return false;
+  }
+  if (!RenameEntry(sidecar, newSidecar, error, disk)) return false;
+  if (RenameEntry(from, to, error, disk)) return true;
+  RenameEntry(newSidecar, sidecar, nullptr, disk);
+  return false;
+}
+
+/// True when another video in its folder has the name, or the video itself. Its own name in another case is
+/// free for it.
+bool IsTakenBeside(const std::string& videoPath, std::string_view name) {
+  const std::string own = LastName(videoPath);
+  return std::ranges::any_of(ListFiles(FolderOf(videoPath), ".avi"), [&](const std::string& file) {
+    return SameName(VideoName(file), name) && (file != own || VideoName(file) == name);
+  });
+}
+
 /// True for a folder itself and for those below it.
 bool LiesIn(const std::string& folder, const std::string& other) {
   std::error_code failed;
   const std::string inner = std::filesystem::canonical(folder, failed).string();
   const std::string outer = std::filesystem::canonical(other, failed).string();
   return !failed && (inner + "/").starts_with(JoinPath(outer, "/"));
+}
+
+/// True for a video that goes to the same instructor and student at the other place, as far as lists show it there.
+bool HasOwnPlace(const LibraryVideo& video, bool out) {
+  // What lies directly with an instructor would be in no list of this library.
+  const bool listed = out || !video.student.empty() || video.instructor == kQuickLaunch;
+  return listed && !video.instructor.empty() && video.instructor != kGeneralFolder;
+}
+
+std::string SourceFolder(const LibraryVideo& video) {
+  return video.path.empty() ? video.studentFolder : FolderOf(video.path);
+}
+
+/// A video on its way to a place in the library at `root`.
+VideoTransfer TransferTo(const std::string& root, const ImportTarget& place, const LibraryVideo& video, bool ownPlace) {
+  std::string folder = root;
+  if (!place.instructor.empty()) folder = JoinPath(folder, place.instructor);
+  if (!place.student.empty()) folder = JoinPath(folder, place.student);
+  // The profile of a student stays at home where only videos are put to another one.
+  const bool withProfile = ownPlace && !video.student.empty();
+  return {video.path, folder, withProfile ? SourceFolder(video) : std::string()};
 }
 
 constexpr const char* kCannotDelete = "Unable to delete the video. Try rebooting, then try again.";
@@ -65,39 +117,13 @@ OperationResult LibraryOperations::RenameVideo(const LibraryVideo& video, std::s
   const std::string folder = FolderOf(video.path);
   const std::string to = JoinPath(folder, std::string(name) + video.path.substr(video.path.size() - 4));
   const std::string taken = "The video name you have chosen already exists, please try again.";
-  const std::vector<std::string> files = ListFiles(folder, ".avi");
-  const std::string own = LastName(video.path);
-  // A video's own name in another case is free for it.
-  if (std::ranges::any_of(files, [&](const std::string& file) {
-        return SameName(VideoName(file), name) && (file != own || VideoName(file) == name);
-      }))
-    return Refuse(taken);
-
-  const std::string sidecar = ExistingSidecar(video.path);
-  const std::string newSidecar = SidecarPath(to);
+  if (IsTakenBeside(video.path, name)) return Refuse(taken);
   // Where only the case of a name changes, the disk may take the old sidecar for the new one.
-  if (!SetAsideOrphan(folder, name, disk_) && !SamePlace(sidecar, newSidecar)) return Refuse(taken);
-  std::string error;
-  const auto refuse = [&] {
-    if (EntryExists(to) || EntryExists(newSidecar)) return Refuse(taken);
+  if (!SetAsideOrphan(folder, name, disk_) && !SamePlace(ExistingSidecar(video.path), SidecarPath(to))) return Refuse(taken);
+  if (std::string error; !RenameWithSidecar(video.path, to, &error, disk_)) {
+    if (EntryExists(to) || EntryExists(SidecarPath(to))) return Refuse(taken);
     const std::string text = "The video could not be renamed";
     return EntryExists(video.path) ? Refuse(text + ": " + error) : RefuseGone(text);
-  };
-  // The sidecar goes first, and back again when its video cannot follow.
-  bool ready = true;
-  const bool shared = SharesSidecar(video.path);
-  if (!sidecar.empty() && shared) {
-    CopyJob copy(CopyJob::Kind::Copy, {{{sidecar, newSidecar}}}, disk_);
-    ready = RunToEnd(copy) == CopyJob::State::Done;
-    error = copy.Error();
-  } else if (!sidecar.empty()) {
-    ready = RenameEntry(sidecar, newSidecar, &error, disk_);
-  }
-  if (!ready) return refuse();
-  if (!RenameEntry(video.path, to, &error, disk_)) {
-    if (!sidecar.empty() && shared) RemoveTree(newSidecar, nullptr, disk_);
-    else if (!sidecar.empty()) RenameEntry(newSidecar, sidecar, nullptr, disk_);
-    return refuse();
   }
   return {true, "Video renamed successfully.", true, video.instructor, video.student, std::string(name)};
 }
@@ -253,22 +279,16 @@ void LibraryOperations::Transfer(Direction direction, const std::vector<LibraryV
   const bool out = direction == Direction::Export;
   std::vector<ImportTarget> places;
   std::vector<VideoTransfer> transfers;
+  std::vector<std::pair<std::string, std::string>> ways;  // from one folder to another
   for (const LibraryVideo& video : videos) {
-    // What lies directly with an instructor would be in no list of this library.
-    const bool listed = out || !video.student.empty() || video.instructor == kQuickLaunch;
-    const bool inFolder = !video.instructor.empty() && video.instructor != kGeneralFolder && listed;
-    const ImportTarget place = inFolder ? ImportTarget{video.instructor, video.student} : loose;
-    std::string folder = targetRoot;
-    if (!place.instructor.empty()) folder = JoinPath(folder, place.instructor);
-    if (!place.student.empty()) folder = JoinPath(folder, place.student);
-    // The profile of a student stays at home where only videos are put to another one.
-    std::string from = video.path.empty() ? video.studentFolder : FolderOf(video.path);
-    transfers.push_back({video.path, folder, inFolder && !video.student.empty() ? std::move(from) : std::string()});
+    const bool ownPlace = HasOwnPlace(video, out);
+    const ImportTarget place = ownPlace ? ImportTarget{video.instructor, video.student} : loose;
+    transfers.push_back(TransferTo(targetRoot, place, video, ownPlace));
+    ways.emplace_back(SourceFolder(video), transfers.back().folder);
     if (!video.path.empty()) places.push_back(place);
   }
-  const auto sourceOf = [](const VideoTransfer& one) { return one.path.empty() ? one.studentFolder : FolderOf(one.path); };
-  const auto toItself = host_.Drives().Ask(out ? tree_.Root() : sourceOf(transfers.front()), [transfers, sourceOf] {
-    return std::ranges::any_of(transfers, [&](const VideoTransfer& one) { return SamePlace(one.folder, sourceOf(one)); });
+  const auto toItself = host_.Drives().Ask(out ? tree_.Root() : ways.front().first, [ways] {
+    return std::ranges::any_of(ways, [](const auto& way) { return SamePlace(way.first, way.second); });
   });
   if (!toItself) return done(Refuse("The drive with the videos is not answering. No videos were copied."));
   if (*toItself) return done(Refuse("The source and destination folders are the same. No videos were copied."));

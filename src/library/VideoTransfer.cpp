@@ -17,6 +17,11 @@ namespace {
 
 std::string Extension(const std::string& videoPath) { return videoPath.substr(videoPath.size() - 4); }
 
+std::int64_t BytesWithSidecar(const std::string& videoPath) {
+  const std::string sidecar = ExistingSidecar(videoPath);
+  return FileSize(videoPath).value_or(0) + (sidecar.empty() ? 0 : FileSize(sidecar).value_or(0));
+}
+
 /// The name of what stands on the way to a folder and is none; "" when the way is free.
 std::string InTheWay(std::string folder) {
   while (!EntryExists(folder) && folder != "." && folder != "/") folder = FolderOf(folder);
@@ -109,22 +114,19 @@ bool VideoTransferJob::TakeStudent(const VideoTransfer& student) {
   return true;
 }
 
-/// Room for all is asked for before the first is copied, and what killed copies hold of it is given back
-/// first. A move asks for itself, as it may need none.
+/// Room for all is asked for before the first is copied, and what killed copies hold of it is given back first.
 bool VideoTransferJob::Begin() {
   begun_ = true;
   std::set<std::string> folders;
-  for (const VideoTransfer& video : videos_) folders.insert(video.folder);
-  for (const std::string& folder : folders) RemoveDeadParts(folder, kDeadPartSeconds, disk_);
-  std::int64_t free = -1;
   for (const VideoTransfer& video : videos_) {
-    if (video.path.empty()) continue;
-    const auto size = FileSize(video.path);
-    const std::string sidecar = ExistingSidecar(video.path);
-    bytesTotal_ += size.value_or(0) + (sidecar.empty() ? 0 : FileSize(sidecar).value_or(0));
+    folders.insert(video.folder);
+    if (!video.path.empty()) bytesTotal_ += BytesWithSidecar(video.path);
   }
-  if (!videos_.empty()) free = FreeBytes(videos_.front().folder);
-  if (kind_ == CopyJob::Kind::Move || free < 0 || bytesTotal_ <= free) return true;
+  for (const std::string& folder : folders) RemoveDeadParts(folder, kDeadPartSeconds, disk_);
+  // A move asks for itself, as it may need none.
+  if (kind_ == CopyJob::Kind::Move || videos_.empty()) return true;
+  const std::int64_t free = FreeBytes(videos_.front().folder);
+  if (free < 0 || bytesTotal_ <= free) return true;
   constexpr std::int64_t kMegabyte = 1 << 20;
   return Fail("There is not enough room: " + std::to_string((bytesTotal_ + kMegabyte - 1) / kMegabyte) +
               " MB are needed, and " + std::to_string(free / kMegabyte) + " MB are free.");

@@ -60,10 +60,10 @@ class VideoTransferJob final : public IJob {
   const std::vector<std::string>& Arrived() const { return arrived_; }
   /// Those among them that cannot be opened, where that was looked at.
   const std::vector<std::string>& Unreadable() const { return unreadable_; }
+  /// Files that have arrived: the videos and their sidecars.
+  int FilesDone() const { return filesDone_; }
   /// Students without videos that have come along.
   int StudentsDone() const { return studentsDone_; }
-  /// The same with their sidecars.
-  int FilesDone() const { return filesDone_; }
   /// Why it stopped, in words for the user, or what could not be removed after a move; empty otherwise.
   const std::string& Error() const { return error_; }
   bool Failed() const { return failed_; }
