@@ -61,6 +61,11 @@ QWidget* Framed(QLabel* caption, NameList* list) {
   return part;
 }
 
+/// A video's name as the lists show it; "" when none is chosen.
+std::string VideoOf(const LibraryVideo& about) {
+  return about.path.empty() ? std::string() : VideoName(LastName(about.path));
+}
+
 /// A name that is short enough to stand in a sentence or a heading of the dialog.
 std::string Short(const QLabel& label, const std::string& name) {
   return Std(label.fontMetrics().elidedText(Q(name), Qt::ElideMiddle, Px(300)));
@@ -164,72 +169,15 @@ QWidget* DialogForm::MakeCopyPanel(IHost& host, Settings& settings) {
 void DialogForm::Open(Mode mode, const LibraryVideo& about) {
   mode_ = mode;
   about_ = about;
+  const Words words = WordsOfMode();
+  setWindowTitle(Q(words.title));
+  title_->setText(Q(words.title));
+  text_->setText(Q(words.text));
   const ModeLook look = LookOf(mode);
-  const LibraryTexts texts = LibraryTextsFor(settings_);
-  const Vocabulary words(settings_);
-  const std::string file = about.path.empty() ? std::string() : VideoName(LastName(about.path));
-  const std::string video = Short(*title_, file);
-  const std::string student = Short(*title_, about.student);
-  const std::string instructor = Short(*title_, about.instructor);
-  // What has been typed in other modes must not come back in this one.
-  const auto show = [&](const std::string& title, const std::string& text, const std::string& caption) {
-    setWindowTitle(Q(title));
-    title_->setText(Q(title));
-    text_->setText(Q(text));
-    action_->setText(Q(caption));
-  };
-  switch (mode) {
-    case Mode::RenameInstructor:
-      show("Rename Instructor or Database", "Type the new name of " + instructor + ".", "Rename");
-      OpenRename(about.instructor);
-      break;
-    case Mode::DeleteInstructor:
-      show("Delete Instructor or Database",
-           "This will remove " + instructor + " from your system. It must not hold any " + words.nouns() +
-               " or videos any more.",
-           "Delete");
-      break;
-    case Mode::RenameStudent:
-      show(words.Rename(), "Type the new name of " + student + ".", "Rename");
-      OpenRename(about.student);
-      break;
-    case Mode::MoveStudent:
-      show(words.MoveThis() + ": " + student, texts.moveStudent, "Move");
-      OpenMove();
-      break;
-    case Mode::DeleteStudent:
-      show(words.DeleteThis() + ": " + student, texts.deleteWarning + "\n\n" + texts.deleteFinish,
-           "Delete " + words.Noun());
-      break;
-    case Mode::RenameVideo:
-      show("Rename Video", "Type the new name of " + video + ".", "Rename");
-      OpenRename(file);
-      break;
-    case Mode::MoveVideo:
-      show("Move this video: " + video,
-           "Select the Database and the " + words.noun() + " that you want to move the video to and click the \"Move\" button.",
-           "Move");
-      OpenMove();
-      break;
-    case Mode::CopyVideo:
-      show("Copy Video to a Disk",
-           "Copies the video " + video + " with its drawings and notes. Select the removeable disk, or any other folder.",
-           "Copy");
-      drive_->Refresh();
-      ReadDrive();
-      break;
-    case Mode::DeleteVideo:
-      show("Delete this video: " + video,
-           "Warning! This will remove the video with its drawings and notes from your system.\n\nClick the Delete Video "
-           "button to finish.",
-           "Delete Video");
-      break;
-  }
+  action_->setText(Q(words.action));
   action_->setObjectName(look.button);
   action_->SetIcon(look.icon);
-  renamePanel_->setVisible(look.part == ModeLook::Part::Rename);
-  movePanel_->setVisible(look.part == ModeLook::Part::Move);
-  copyPanel_->setVisible(look.part == ModeLook::Part::Copy);
+  OpenPart();
   // Who presses Enter without reading deletes nothing.
   const bool deletes = look.part == ModeLook::Part::Delete;
   action_->setDefault(!deletes);
@@ -237,16 +185,75 @@ void DialogForm::Open(Mode mode, const LibraryVideo& about) {
   ShowAction();
   ScaleForm(*this, *parentWidget());
   open();
-  if (look.part == ModeLook::Part::Rename) name_->setFocus();
-  else if (look.part == ModeLook::Part::Move) databases_->setFocus();
-  else if (look.part == ModeLook::Part::Copy && action_->isEnabled()) action_->setFocus();
-  else if (look.part == ModeLook::Part::Copy) drive_->setFocus();
-  else cancel_->setFocus();
+  FocusPart();
 }
 
-void DialogForm::OpenRename(const std::string& name) {
-  oldName_ = name;
-  name_->setText(Q(name));
+DialogForm::Words DialogForm::WordsOfMode() const {
+  const LibraryTexts texts = LibraryTextsFor(settings_);
+  const Vocabulary words(settings_);
+  const std::string video = Short(*title_, VideoOf(about_));
+  const std::string student = Short(*title_, about_.student);
+  const std::string instructor = Short(*title_, about_.instructor);
+  switch (mode_) {
+    case Mode::RenameInstructor:
+      return {"Rename Instructor or Database", "Type the new name of " + instructor + ".", "Rename"};
+    case Mode::DeleteInstructor:
+      return {"Delete Instructor or Database",
+              "This will remove " + instructor + " from your system. It must not hold any " + words.nouns() +
+                  " or videos any more.",
+              "Delete"};
+    case Mode::RenameStudent: return {words.Rename(), "Type the new name of " + student + ".", "Rename"};
+    case Mode::MoveStudent: return {words.MoveThis() + ": " + student, texts.moveStudent, "Move"};
+    case Mode::DeleteStudent:
+      return {words.DeleteThis() + ": " + student, texts.deleteWarning + "\n\n" + texts.deleteFinish,
+              "Delete " + words.Noun()};
+    case Mode::RenameVideo: return {"Rename Video", "Type the new name of " + video + ".", "Rename"};
+    case Mode::MoveVideo:
+      return {"Move this video: " + video,
+              "Select the Database and the " + words.noun() +
+                  " that you want to move the video to and click the \"Move\" button.",
+              "Move"};
+    case Mode::CopyVideo:
+      return {"Copy Video to a Disk",
+              "Copies the video " + video + " with its drawings and notes. Select the removeable disk, or any other folder.",
+              "Copy"};
+    case Mode::DeleteVideo:
+      return {"Delete this video: " + video,
+              "Warning! This will remove the video with its drawings and notes from your system.\n\nClick the Delete "
+              "Video button to finish.",
+              "Delete Video"};
+  }
+  return {};
+}
+
+/// Fills the panel of the mode and hides the others.
+void DialogForm::OpenPart() {
+  const ModeLook::Part part = LookOf(mode_).part;
+  renamePanel_->setVisible(part == ModeLook::Part::Rename);
+  movePanel_->setVisible(part == ModeLook::Part::Move);
+  copyPanel_->setVisible(part == ModeLook::Part::Copy);
+  if (part == ModeLook::Part::Rename) OpenRename();
+  if (part == ModeLook::Part::Move) OpenMove();
+  if (part == ModeLook::Part::Copy) {
+    drive_->Refresh();
+    ReadDrive();
+  }
+}
+
+void DialogForm::FocusPart() {
+  switch (LookOf(mode_).part) {
+    case ModeLook::Part::Rename: return name_->setFocus();
+    case ModeLook::Part::Move: return databases_->setFocus();
+    case ModeLook::Part::Copy: return action_->isEnabled() ? action_->setFocus() : drive_->setFocus();
+    case ModeLook::Part::Delete: return cancel_->setFocus();
+  }
+}
+
+/// What has been typed in another mode does not come back.
+void DialogForm::OpenRename() {
+  const bool instructor = mode_ == Mode::RenameInstructor;
+  oldName_ = instructor ? about_.instructor : mode_ == Mode::RenameStudent ? about_.student : VideoOf(about_);
+  name_->setText(Q(oldName_));
   name_->selectAll();
 }
 

@@ -45,11 +45,20 @@ class DialogForm : public QDialog {
   void Wanted();
 
  private:
+  struct Words {
+    std::string title;
+    std::string text;
+    std::string action;
+  };
+
   QWidget* MakeRenamePanel();
   QWidget* MakeMovePanel();
   QWidget* MakeCopyPanel(IHost& host, Settings& settings);
-  void OpenRename(const std::string& name);
+  Words WordsOfMode() const;
+  void OpenPart();
+  void OpenRename();
   void OpenMove();
+  void FocusPart();
   void Want();
   void ShowStudents();
   template <typename Reading>

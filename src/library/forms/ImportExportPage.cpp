@@ -7,6 +7,7 @@
 #include "core/Vocabulary.h"
 #include "core/forms/Choices.h"
 #include "library/DiskSpace.h"
+#include "library/forms/Divider.h"
 #include "library/forms/DriveChoice.h"
 #include "library/forms/LibrarySide.h"
 #include "library/forms/ProgressForm.h"
@@ -35,7 +36,27 @@ ImportExportPage::ImportExportPage(IHost& host, Settings& settings, LibraryOpera
   here_ = new LibrarySide(host.Drives(), "This Library", settings, LibraryTree(settings), {"List4", "List5", "List6"}, 0);
   there_ = new LibrarySide(host.Drives(), "Drive or Folder", settings, LibraryTree(otherRoot_), {"List7", "List8", "List9"}, 1);
   sides->addWidget(here_, 1);
+  sides->addLayout(MakeCommands());
+  sides->addWidget(there_, 1);
+  there_->Body()->insertLayout(0, MakeDriveChoice(host, settings));
+  there_->Body()->insertWidget(1, Divider());
+  rows->addLayout(sides, 1);
+  status_ = new StatusLine("IEDisplay");
+  rows->addWidget(status_);
 
+  progress_ = new ProgressForm(host, operations, this);
+  connect(Drive1_, &DriveChoice::Chosen, this, &ImportExportPage::OpenDrive);
+  connect(there_, &LibrarySide::AnswersAgain, this, [this] {
+    Say({});
+    DiskSpaceGauge();
+  });
+  SetupVocabulary();
+}
+
+ImportExportPage::~ImportExportPage() = default;
+
+/// The two buttons between the sides.
+QLayout* ImportExportPage::MakeCommands() {
   auto* middle = new QVBoxLayout;
   middle->setSpacing(kGap);
   middle->addStretch(1);
@@ -54,8 +75,11 @@ ImportExportPage::ImportExportPage(IHost& host, Settings& settings, LibraryOpera
     middle->addWidget(button);
   }
   middle->addStretch(1);
-  sides->addLayout(middle);
+  return middle;
+}
 
+/// The choice of the other place, and how much room there is.
+QLayout* ImportExportPage::MakeDriveChoice(IHost& host, Settings& settings) {
   Drive1_ = new DriveChoice("Drive1", host, settings);
   SpaceFlood_ = new Gauge("SpaceFlood");
   FixWidth(SpaceFlood_, 90);
@@ -69,26 +93,8 @@ ImportExportPage::ImportExportPage(IHost& host, Settings& settings, LibraryOpera
   space->addWidget(Label6_, 1);
   drive->addWidget(Drive1_);
   drive->addLayout(space);
-  there_->Body()->insertLayout(0, drive);
-  QFrame* line = MakeFrame("divider");
-  line->setFixedHeight(1);
-  there_->Body()->insertWidget(1, line);
-  sides->addWidget(there_, 1);
-  rows->addLayout(sides, 1);
-
-  status_ = new StatusLine("IEDisplay");
-  rows->addWidget(status_);
-
-  progress_ = new ProgressForm(host, operations, this);
-  connect(Drive1_, &DriveChoice::Chosen, this, &ImportExportPage::OpenDrive);
-  connect(there_, &LibrarySide::AnswersAgain, this, [this] {
-    Say({});
-    DiskSpaceGauge();
-  });
-  SetupVocabulary();
+  return drive;
 }
-
-ImportExportPage::~ImportExportPage() = default;
 
 void ImportExportPage::SetupVocabulary() {
   const Vocabulary words(settings_);

@@ -8,6 +8,7 @@
 #include "platform/host/Host.h"
 
 class QLabel;
+class QLayout;
 
 namespace kinalyx {
 
@@ -41,6 +42,8 @@ class ImportExportPage : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  QLayout* MakeCommands();
+  QLayout* MakeDriveChoice(IHost& host, Settings& settings);
   void OpenDrive();
   ImportTarget TargetOfLooseVideos() const;
   void DiskSpaceGauge();

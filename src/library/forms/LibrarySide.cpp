@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "library/LibraryReading.h"
+#include "library/forms/Divider.h"
 #include "library/forms/LibraryLists.h"
 #include "library/forms/Text.h"
 #include "platform/files/Folders.h"
@@ -26,13 +27,6 @@ QVBoxLayout* Captioned(QLabel* caption, NameList* list) {
   rows->addWidget(caption);
   rows->addWidget(list, 1);
   return rows;
-}
-
-QFrame* Divider(bool upright) {
-  QFrame* line = MakeFrame("divider");
-  if (upright) line->setFixedWidth(1);
-  else line->setFixedHeight(1);
-  return line;
 }
 
 }  // namespace
@@ -55,7 +49,7 @@ LibrarySide::LibrarySide(DriveWatch& drives, const QString& title, const Setting
   upper->addWidget(Divider(true));
   upper->addLayout(Captioned(studentsTitle_, lists_->StudentList()), 1);
   Body()->addLayout(upper, 1);
-  Body()->addWidget(Divider(false));
+  Body()->addWidget(Divider());
   Body()->addLayout(Captioned(MakeLabel({}, "Videos", "caption"), lists_->VideoList()), 1);
   others_ = MakeLabel(QString("IEOthers%1").arg(index), {}, "muted");
   others_->setWordWrap(true);

@@ -6,6 +6,7 @@
 
 #include "core/Vocabulary.h"
 #include "library/LibraryReading.h"
+#include "library/forms/Divider.h"
 #include "library/forms/LibraryLists.h"
 #include "library/forms/PreviewPlayer.h"
 #include "library/forms/SidecarMarkLabels.h"
@@ -204,15 +205,10 @@ OpenVidCForm::OpenVidCForm(PlayerServices& services, const Settings& settings, L
   rows->setSpacing(0);
   auto* columns = new QHBoxLayout;
   columns->setSpacing(0);
-  const auto divider = [] {
-    auto* line = MakeFrame("divider");
-    line->setFixedWidth(1);
-    return line;
-  };
   columns->addWidget(Headed(Heading("Instructors"), lists_->InstructorList()), 3);
-  columns->addWidget(divider());
+  columns->addWidget(Divider(true));
   columns->addWidget(Headed(students_, lists_->StudentList()), 3);
-  columns->addWidget(divider());
+  columns->addWidget(Divider(true));
   columns->addWidget(Headed(Heading("Videos"), lists_->VideoList(), count_), 4);
   columns->addWidget(preview_, 6);
   rows->addLayout(columns, 1);

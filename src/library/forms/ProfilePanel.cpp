@@ -6,6 +6,7 @@
 #include <QPlainTextEdit>
 
 #include "core/Settings.h"
+#include "library/forms/Divider.h"
 #include "library/forms/FieldGrid.h"
 #include "library/forms/HeadButton.h"
 #include "library/forms/Text.h"
@@ -61,9 +62,7 @@ ProfilePanel::ProfilePanel(IHost& host, const Settings& settings, QWidget* paren
   notesPart_ = new QWidget;
   auto* notesRows = new QVBoxLayout(notesPart_);
   notesRows->setContentsMargins(0, 0, 0, 0);
-  auto* line = MakeFrame("divider");
-  line->setFixedHeight(1);
-  notesRows->addWidget(line);
+  notesRows->addWidget(Divider());
   auto* notes = new QVBoxLayout;
   notes->setContentsMargins(kGap, 4, kGap, kGap);
   notes->setSpacing(6);

@@ -9,6 +9,7 @@
 #include "core/Settings.h"
 #include "library/LibraryActions.h"
 #include "library/LibraryReading.h"
+#include "library/forms/Divider.h"
 #include "library/forms/EditPanel.h"
 #include "library/forms/SidecarMarkLabels.h"
 #include "library/forms/Text.h"
@@ -67,10 +68,8 @@ VideosPanel::VideosPanel(PlayerServices& services, const Settings& settings, Nam
   middle->setSpacing(0);
   LeastWidth(list_, 140);
   preview_ = new PreviewPlayer(services);
-  auto* divider = MakeFrame("divider");
-  divider->setFixedWidth(1);
   middle->addWidget(list_, 31);
-  middle->addWidget(divider);
+  middle->addWidget(Divider(true));
   middle->addWidget(preview_, 69);
   Body()->addLayout(middle, 1);
 
