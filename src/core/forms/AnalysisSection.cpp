@@ -86,24 +86,19 @@ void AnalysisSection::AddLayouts() {
 
 void AnalysisSection::AddPlaying() {
   QVBoxLayout* rows = AddPanel(0, "Slow Motion, Strobe and Grid");
-  slomo_ = AddSlider(
-      *rows, "Slomoscroll", "Slow motion speed", 1, 100, " %",
-      [this](int value) {
-        if (!settings_.Loading) settings_.SlomoSpeed = static_cast<std::int16_t>(value);
-      },
-      [this](int value) { StoreAndTell(settings_.SlomoSpeed, static_cast<std::int16_t>(value)); });
-  strobe_ = AddSlider(
-      *rows, "StrobeStepScroll", "Frames from one layer of a strobe to the next", 1, kWidestStrobe, {},
-      [this](int value) {
-        if (!settings_.Loading) settings_.StrobeStep = value;
-      },
-      [this](int value) { StoreAndTell(settings_.StrobeStep, value); });
-  grid_ = AddSlider(
-      *rows, "GridSizeScroll", "Columns of the grid over the picture", kFewestCells, kMostCells, {},
-      [this](int value) {
-        if (!settings_.Loading) settings_.GridSize = static_cast<std::int16_t>(value);
-      },
-      [this](int value) { StoreAndTell(settings_.GridSize, static_cast<std::int16_t>(value)); });
+  const auto add = [&](const char* name, const char* caption, int least, int most, const char* unit, auto& setting) {
+    using Number = std::remove_reference_t<decltype(setting)>;
+    return AddSlider(
+        *rows, name, caption, least, most, unit,
+        [this, &setting](int value) {
+          if (!settings_.Loading) setting = static_cast<Number>(value);
+        },
+        [this, &setting](int value) { StoreAndTell(setting, static_cast<Number>(value)); });
+  };
+  slomo_ = add("Slomoscroll", "Slow motion speed", 1, 100, " %", settings_.SlomoSpeed);
+  strobe_ = add("StrobeStepScroll", "Frames from one layer of a strobe to the next", 1, kWidestStrobe, "",
+                settings_.StrobeStep);
+  grid_ = add("GridSizeScroll", "Columns of the grid over the picture", kFewestCells, kMostCells, "", settings_.GridSize);
 }
 
 void AnalysisSection::AddDrawing() {

@@ -134,6 +134,10 @@ void GeneralSection::SetupProgram() {
   // A mode that the list does not offer leaves it without a choice.
   resolution_->setCurrentIndex(resolution_->findData(Text(settings_.WindowMode)));
   if (QAbstractButton* design = designs_->button(schemes_.Design())) design->setChecked(true);
+  ShowLibrary();
+}
+
+void GeneralSection::ShowLibrary() {
   network_->setChecked(settings_.UseNetwork);
   path_->setText(Text(settings_.LibraryPath));
   path_->setCursorPosition(0);
@@ -164,14 +168,9 @@ void GeneralSection::optLayout_Click(int index) {
 void GeneralSection::SSCheck4_Click(bool on) {
   if (settings_.Loading) return;
   const std::string before = settings_.LibraryPath;
-  if (on) {
-    SwitchNetworkOn(host_, settings_);
-  } else {
-    SwitchNetworkOff(settings_);
-  }
-  network_->setChecked(settings_.UseNetwork);
-  path_->setText(Text(settings_.LibraryPath));
-  path_->setToolTip(path_->text());
+  if (on) SwitchNetworkOn(host_, settings_);
+  else SwitchNetworkOff(settings_);
+  ShowLibrary();
   if (settings_.LibraryPath != before) emit LibraryChanged();
 }
 

@@ -36,6 +36,7 @@ class GeneralSection : public SetupSection {
   void AddColours();
   void AddLibrary();
   void AddSystemTest();
+  void ShowLibrary();
   void Text3_LostFocus();
   void cboResolution_Click(int row);
   void optLayout_Click(int index);
