@@ -65,29 +65,8 @@ ProfilesPage::ProfilesPage(PlayerServices& services, Settings& settings, Profile
                                    .Show = [this](const OperationResult& result) { ShowResult(result); },
                                    .Say = [this](const QString& text) { Say(text); }},
                                   this);
-  lists_->MayLeave = [this] { return profilePanel_->LeaveNotes(); };
-  connect(lists_, &LibraryLists::Chosen, this, [this] {
-    choosing_ = true;
-    Say({});
-  });
-  connect(lists_, &LibraryLists::InstructorChosen, this, &ProfilesPage::InstructorChosen);
-  connect(lists_, &LibraryLists::StudentChosen, this, &ProfilesPage::StudentList_Click);
-  connect(lists_, &LibraryLists::VideoChosen, this, &ProfilesPage::VideoList_Click);
-  connect(lists_, &LibraryLists::VideoActivated, commands_, &LibraryCommands::SendToAnalysis);
-  connect(lists_, &LibraryLists::PlayWanted, this, [this] { videos_->VideoPlay1().TogglePlay(); });
-  for (QWidget* list : {lists_->InstructorList(), lists_->StudentList(), lists_->VideoList()}) list->installEventFilter(this);
   PlaceButtons();
-  connect(buttons_, &LibraryButtons::Wanted, this, &ProfilesPage::SPBtn_Click);
-  connect(instructors_, &InstructorsPanel::AddWanted, this, &ProfilesPage::AddInstructor);
-  connect(instructors_, &InstructorsPanel::AddCancelled, this, [this] { Say({}); });
-  connect(instructors_, &InstructorsPanel::RenameWanted, commands_, &LibraryCommands::RenameInstructor);
-  connect(instructors_, &InstructorsPanel::DeleteWanted, commands_, &LibraryCommands::DeleteInstructor);
-  connect(profilePanel_, &ProfilePanel::EditWanted, this, [this] { OpenEditor(true); });
-  connect(profilePanel_, &ProfilePanel::BackWanted, this, [this] { ShowProfileView(false); });
-  connect(profilePanel_, &ProfilePanel::Said, this, &ProfilesPage::Say);
-  connect(editor_, &ProfileEditor::SaveWanted, this, &ProfilesPage::ProAddSaveBtn);
-  connect(editor_, &ProfileEditor::CancelWanted, this, &ProfilesPage::CancelEditor);
-
+  ConnectParts();
   SetupVocabulary();
   SetupFields();
 }
@@ -105,6 +84,30 @@ void ProfilesPage::PlaceButtons() {
   buttons_->Place({Statistics}, videos_->Head());
   buttons_->GiveMenu(lists_->StudentList(), {RenameStudent, MoveStudent, DeleteStudent});
   buttons_->GiveMenu(lists_->VideoList(), {SendToAnalysis, Trim, RenameVideo, MoveVideo, CopyVideo, DeleteVideo});
+}
+
+void ProfilesPage::ConnectParts() {
+  lists_->MayLeave = [this] { return profilePanel_->LeaveNotes(); };
+  connect(lists_, &LibraryLists::Chosen, this, [this] {
+    choosing_ = true;
+    Say({});
+  });
+  connect(lists_, &LibraryLists::InstructorChosen, this, &ProfilesPage::InstructorChosen);
+  connect(lists_, &LibraryLists::StudentChosen, this, &ProfilesPage::StudentList_Click);
+  connect(lists_, &LibraryLists::VideoChosen, this, &ProfilesPage::VideoList_Click);
+  connect(lists_, &LibraryLists::VideoActivated, commands_, &LibraryCommands::SendToAnalysis);
+  connect(lists_, &LibraryLists::PlayWanted, this, [this] { videos_->VideoPlay1().TogglePlay(); });
+  for (QWidget* list : {lists_->InstructorList(), lists_->StudentList(), lists_->VideoList()}) list->installEventFilter(this);
+  connect(buttons_, &LibraryButtons::Wanted, this, &ProfilesPage::SPBtn_Click);
+  connect(instructors_, &InstructorsPanel::AddWanted, this, &ProfilesPage::AddInstructor);
+  connect(instructors_, &InstructorsPanel::AddCancelled, this, [this] { Say({}); });
+  connect(instructors_, &InstructorsPanel::RenameWanted, commands_, &LibraryCommands::RenameInstructor);
+  connect(instructors_, &InstructorsPanel::DeleteWanted, commands_, &LibraryCommands::DeleteInstructor);
+  connect(profilePanel_, &ProfilePanel::EditWanted, this, [this] { OpenEditor(true); });
+  connect(profilePanel_, &ProfilePanel::BackWanted, this, [this] { ShowProfileView(false); });
+  connect(profilePanel_, &ProfilePanel::Said, this, &ProfilesPage::Say);
+  connect(editor_, &ProfileEditor::SaveWanted, this, &ProfilesPage::ProAddSaveBtn);
+  connect(editor_, &ProfileEditor::CancelWanted, this, &ProfilesPage::CancelEditor);
 }
 
 // ---------------------------------------------------------------- life of the page

@@ -65,6 +65,7 @@ class ProfilesPage : public QWidget {
 
  private:
   void PlaceButtons();
+  void ConnectParts();
   bool ListKey(QObject* list, int key);
 
   bool Release();

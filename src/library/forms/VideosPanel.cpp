@@ -73,9 +73,34 @@ VideosPanel::VideosPanel(PlayerServices& services, const Settings& settings, Nam
   middle->addWidget(preview_, 69);
   Body()->addLayout(middle, 1);
 
-  statsPart_ = new QWidget;
-  statsPart_->setObjectName("VideoStatistics");
-  auto* statsRows = new QVBoxLayout(statsPart_);
+  Body()->addWidget(MakeSummary());
+  statsPart_ = MakeStats();
+  statsPart_->hide();
+  Body()->addWidget(statsPart_);
+  trim_ = new EditPanel(*preview_, Q(LibraryTextsFor(settings).trim));
+  trim_->hide();
+  layout()->addWidget(trim_);
+  ShowVideo("");
+}
+
+/// What the video is, in one line beneath the picture, and the marks of its drawings and notes.
+QWidget* VideosPanel::MakeSummary() {
+  auto* strip = MakeFrame("panelFoot");
+  FixHeight(strip, 38);
+  auto* stripRow = new QHBoxLayout(strip);
+  stripRow->setContentsMargins(kGap, 0, kGap, 0);
+  stripRow->setSpacing(kGap);
+  summary_ = new SummaryLine;
+  marks_ = new SidecarMarkLabels;
+  stripRow->addWidget(summary_, 1);
+  stripRow->addWidget(marks_);
+  return strip;
+}
+
+QWidget* VideosPanel::MakeStats() {
+  auto* part = new QWidget;
+  part->setObjectName("VideoStatistics");
+  auto* statsRows = new QVBoxLayout(part);
   statsRows->setContentsMargins(kGap, 8, kGap, 8);
   statsRows->setSpacing(6);
   statsRows->addWidget(MakeLabel("VideoStatisticsTitle", "Video Statistics", "heading"));
@@ -96,23 +121,7 @@ VideosPanel::VideosPanel(PlayerServices& services, const Settings& settings, Nam
     stats_[static_cast<std::size_t>(line)] = value;
   }
   statsRows->addLayout(grid);
-
-  auto* strip = MakeFrame("panelFoot");
-  FixHeight(strip, 38);
-  auto* stripRow = new QHBoxLayout(strip);
-  stripRow->setContentsMargins(kGap, 0, kGap, 0);
-  stripRow->setSpacing(kGap);
-  summary_ = new SummaryLine;
-  marks_ = new SidecarMarkLabels;
-  stripRow->addWidget(summary_, 1);
-  stripRow->addWidget(marks_);
-  Body()->addWidget(strip);
-  Body()->addWidget(statsPart_);
-  statsPart_->hide();
-  trim_ = new EditPanel(*preview_, Q(LibraryTextsFor(settings).trim));
-  trim_->hide();
-  layout()->addWidget(trim_);
-  ShowVideo("");
+  return part;
 }
 
 bool VideosPanel::ShowVideo(const std::string& path) {

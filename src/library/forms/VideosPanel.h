@@ -41,6 +41,8 @@ class VideosPanel : public Panel {
   void changeEvent(QEvent* event) override;
 
  private:
+  QWidget* MakeSummary();
+  QWidget* MakeStats();
   void ShowStats(const VideoStats& stats);
   void LimitList();
 
