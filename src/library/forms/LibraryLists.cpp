@@ -119,11 +119,12 @@ bool LibraryLists::eventFilter(QObject* object, QEvent* event) {
     if (order[to]->currentRow() < 0) order[to]->setCurrentRow(0);
     return true;
   };
+  const std::ptrdiff_t next = at == 0 && students_->count() == 0 ? 2 : at + 1;
   switch (static_cast<QKeyEvent*>(event)->key()) {
     case Qt::Key_Left: return go(at - 1);
-    case Qt::Key_Right: return go(at == 0 && students_->count() == 0 ? 2 : at + 1);
+    case Qt::Key_Right: return go(next);
     case Qt::Key_Return:
-    case Qt::Key_Enter: return at == 2 ? QObject::eventFilter(object, event) : go(at == 0 && students_->count() == 0 ? 2 : at + 1);
+    case Qt::Key_Enter: return at == 2 ? QObject::eventFilter(object, event) : go(next);
     case Qt::Key_Space:
       // Where several can be chosen, it chooses.
       if (at != 2 || videos_->selectionMode() != QAbstractItemView::SingleSelection)

@@ -136,24 +136,19 @@ void PreviewPlayer::Unload() {
 }
 
 void PreviewPlayer::TogglePlay() {
-  if (!Control().Info()) return;
-  if (Control().IsPlaying()) {
-    Control().StopPlay();
-  } else {
-    const int last = Control().VideoLength() - 1;
-    Control().Play(Control().Position() >= last ? 0 : Control().Position(), last);
-  }
-  ShowState();
+  const int last = Control().VideoLength() - 1;
+  StopOrPlay(Control().Position() >= last ? 0 : Control().Position(), last);
 }
 
 void PreviewPlayer::TogglePlay(int first, int last) {
+  const bool inside = Frame() >= first && Frame() < last;
+  StopOrPlay((inside ? Frame() : first) * FieldsOfFrame(), (last + 1) * FieldsOfFrame() - 1);
+}
+
+void PreviewPlayer::StopOrPlay(int from, int last) {
   if (!Control().Info()) return;
-  if (Control().IsPlaying()) {
-    Control().StopPlay();
-  } else {
-    const bool inside = Frame() >= first && Frame() < last;
-    Control().Play((inside ? Frame() : first) * FieldsOfFrame(), (last + 1) * FieldsOfFrame() - 1);
-  }
+  if (Control().IsPlaying()) Control().StopPlay();
+  else Control().Play(from, last);
   ShowState();
 }
 

@@ -54,6 +54,7 @@ class PreviewPlayer : public QFrame, private IFrameInterface, private IMouseAndK
 
  private:
   int FieldsOfFrame() { return Control().SplitFields() ? 2 : 1; }
+  void StopOrPlay(int from, int last);
   void PlaceView();
   void ShowState();
   void ShowTime();
