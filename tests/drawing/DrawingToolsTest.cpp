@@ -39,6 +39,27 @@ TEST(DrawingTools, ALineFromTwoClicksEndsItsTool) {
   EXPECT_FALSE(desk.Down(10, 10)) << "the next click is the transport's";
 }
 
+TEST(DrawingTools, EveryToolMakesItsKindOfItsClicksInItsColour) {
+  Desk desk;
+  const POINTAPI points[] = {{10, 10}, {90, 90}, {10, 90}};
+  for (const auto& [kind, clicks] : {std::pair{kFlag, 1}, {kSquare, 2}, {kEllipse, 2}, {kAngle, 3},
+                                     {kParallelogram, 3}, {kZone, 3}, {kClock, 2}, {kArrow, 2}}) {
+    SCOPED_TRACE(kind);
+    desk.tools.MenuDraw_Click(kind);
+    for (int i = 0; i < clicks; ++i) {
+      EXPECT_TRUE(desk.tools.Drawing());
+      desk.Click(points[i].x, points[i].y);
+    }
+    EXPECT_FALSE(desk.tools.Drawing());
+    const Shape& shape = desk.List().Shapes.back();
+    EXPECT_EQ(shape.Kind, kind);
+    EXPECT_TRUE(shape.Locked);
+    EXPECT_EQ(shape.NumBound, clicks);
+    EXPECT_EQ(shape.Colour, desk.settings.NewColors[static_cast<std::size_t>(kind)]);
+  }
+  EXPECT_EQ(desk.List().NumShapes, 8);
+}
+
 TEST(DrawingTools, AFreehandIsOneStrokeAndAMereClickIsNone) {
   Desk desk;
   desk.tools.CmdMakeShape_Click(kFreehand);
@@ -189,6 +210,58 @@ TEST(DrawingTools, DrawingsAreDeletedLastFirstOrAllAtOnce) {
   desk.workspace.hasVideo = false;
   desk.tools.Cadoffbutton_Click();
   EXPECT_EQ(desk.List().NumShapes, 1) << "only with a video in the window";
+}
+
+TEST(DrawingTools, ACloneReplacesWhatTheOtherWindowHeld) {
+  Desk desk;
+  desk.Draw(kFlag, {{1, 1}}, 2);
+  desk.tools.CopyShapes(1, 2);
+  EXPECT_EQ(desk.List(2).NumShapes, 1) << "an empty source changes nothing";
+  desk.Draw(kLine, {{1, 1}, {9, 9}}, 1);
+  desk.Draw(kFlag, {{7, 7}}, 1);
+  EXPECT_FALSE(desk.tools.CloneStart(4)) << "four windows: the user chooses";
+  EXPECT_EQ(desk.List(2).NumShapes, 1);
+  EXPECT_TRUE(desk.tools.CloneStart(2));
+  ASSERT_EQ(desk.List(2).NumShapes, 2);
+  EXPECT_EQ(desk.List(2).Shapes[0], desk.List(1).Shapes[0]);
+  EXPECT_FALSE(desk.List(2).Adding);
+  EXPECT_EQ(desk.workspace.active, 2);
+}
+
+TEST(DrawingTools, WithTheEditBarClicksSelect) {
+  Desk desk;
+  Bar bar;
+  desk.tools.AttachEditBar(&bar);
+  for (const POINTAPI& at : {POINTAPI{100, 100}, {300, 100}, {300, 300}}) desk.Draw(kFlag, {at});
+  EXPECT_FALSE(desk.Up(300, 110)) << "the bar is not up";
+  bar.shown = true;
+  const auto selected = [&desk](int x, int y, int button = 1) {
+    EXPECT_TRUE(desk.Up(x, y, 1, button));
+    return desk.List().CurShape;
+  };
+  EXPECT_EQ(selected(300, 110), 1);
+  EXPECT_EQ(selected(200, 100), 0) << "a hundred pixels from both: the first";
+  EXPECT_EQ(selected(600, 400), -1);
+  EXPECT_EQ(selected(300, 110, 2), -1) << "the left button only";
+  desk.Up(300, 110, 2);
+  EXPECT_EQ(desk.workspace.active, 2);
+}
+
+TEST(DrawingTools, UndoFollowsTheMirrorAndTheSizeOfTheWindow) {
+  Desk desk;
+  desk.tools.ForgetPast(1, {640, 480, false});
+  desk.Draw(kFlag, {{1, 1}});
+  desk.Draw(kLine, {{1, 1}, {99, 99}});
+  desk.tools.Undo(1);
+  desk.tools.Redo(1);
+  EXPECT_EQ(desk.List().NumShapes, 2);
+  FlipShapes(desk.List(), 640);
+  desk.tools.ViewChanged(1, {640, 480, true});
+  StretchShapes(desk.List(), 640, 480, 320, 240);
+  desk.tools.ViewChanged(1, {320, 240, true});
+  desk.tools.Undo(1);
+  ASSERT_EQ(desk.List().NumShapes, 1);
+  EXPECT_EQ(desk.Points(0)[0].x, 320) << "half of 639, to the even neighbour";
 }
 
 TEST(DrawingTools, AnotherVideoInTheWindowBeginsAnotherPast) {

@@ -10,10 +10,11 @@ namespace {
 
 struct Strip final : IEditBarView {
   std::map<int, bool> enabled;
+  bool multi = false;
   bool guide = false;
   void ShowEditBar(bool) override {}
   void PlaceEditBar(int) override {}
-  void SetMultiButton(bool, bool) override {}
+  void SetMultiButton(bool enable, bool) override { multi = enable; }
   void EnableHandle(int handle, bool enable) override { enabled[handle] = enable; }
   void ShowRotationGuide(bool show) override { guide = show; }
   int HandleWidth(int) override { return 600; }
@@ -32,6 +33,27 @@ struct EditDesk : Desk {
     bar.cmdEBBtn_MouseUp(handle, 1, 0, 0, 0);
   }
 };
+
+TEST(EditBar, HandlesFollowTheSelection) {
+  EditDesk desk;
+  desk.bar.cmdEBBtn_Click(kEndHandle);
+  EXPECT_FALSE(desk.bar.Shown()) << "no handle works while the bar is down";
+  desk.bar.MenuEdit_Click();
+  EXPECT_FALSE(desk.strip.enabled[kNextHandle] || desk.strip.enabled[kMoveHandle]);
+  EXPECT_TRUE(desk.strip.enabled[kEndHandle]);
+
+  desk.Draw(kFlag, {{10, 10}});
+  EXPECT_TRUE(desk.strip.enabled[kDeleteHandle]);
+  EXPECT_FALSE(desk.strip.multi) << "one shape needs no multi mode";
+  desk.Draw(kFlag, {{20, 10}});
+  EXPECT_TRUE(desk.strip.multi);
+  desk.bar.cmdEBBtn_Click(kNextHandle);
+  EXPECT_EQ(desk.List().CurShape, 0) << "round again";
+  desk.bar.cmdEBBtn_Click(kDeleteHandle);
+  EXPECT_EQ(desk.Points(0)[0].x, 20);
+  desk.bar.cmdEBBtn_Click(kEndHandle);
+  EXPECT_FALSE(desk.bar.Shown());
+}
 
 TEST(EditBar, DragsMoveScaleAndRotate) {
   EditDesk desk;

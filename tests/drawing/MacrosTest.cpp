@@ -92,6 +92,21 @@ TEST_F(MacrosTest, TheFileStaysShortEnoughToBeRead) {
   EXPECT_EQ(fs::file_size(fs::path(data_) / "Macro.old"), size);
 }
 
+TEST_F(MacrosTest, AreLaidOverAWindowOfAnotherSize) {
+  Desk desk;
+  desk.List().GridOn = true;
+  EmbedMacro(list_, desk.tools, desk.workspace);
+  ASSERT_EQ(desk.List().NumShapes, 3);
+  EXPECT_EQ(desk.Points(0)[1], (POINTAPI{180, 100}));
+  EXPECT_EQ(desk.List().CanvasWidth, 640 * 15);
+  EXPECT_EQ(desk.List().CurShape, 0);
+  EXPECT_TRUE(desk.List().GridOn);
+  // One that does not know its size is taken as it is.
+  list_.CanvasWidth = 0;
+  EmbedMacro(list_, desk.tools, desk.workspace);
+  EXPECT_EQ(desk.Points(0)[1], (POINTAPI{90, 50}));
+}
+
 TEST_F(MacrosTest, PreviewsShowTheWholeDrawing) {
   const Surface preview = PaintMacro(list_, 80, 60, Rgb(20, 20, 20), {8, false, false});
   EXPECT_EQ(preview.Pixel(12, 7), Rgb(255, 0, 0)) << "the first line's middle, a quarter as large";
