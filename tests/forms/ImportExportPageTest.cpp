@@ -118,7 +118,6 @@ TEST_F(ImportExportPageTest, TellsOfADriveThatIsMissingOrIsTheLibraryItself) {
   library.host.answers = {true};
   Press("IECmd0");
   EXPECT_NE(library.host.messages.back().find("belongs to this library"), std::string::npos);
-  EXPECT_FALSE(std::filesystem::exists(library.Path("Ann/Joe/oned.avi")));
   EXPECT_EQ(Text("IECount0"), "2 Videos Selected");  // still chosen
 }
 

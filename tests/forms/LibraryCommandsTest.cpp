@@ -144,11 +144,13 @@ TEST_F(LibraryCommandsTest, QuickLaunchTakesAndGivesBack) {
   ChooseStudent("Sample, Erica");
   Press("SPBtn12");  // the question is answered with no
   EXPECT_FALSE(Exists("Quick Launch/(001) DTL driver.avi"));
+  Choose("VideoList", "(002) FO iron");
   library.host.answers = {true, true};
   Press("SPBtn12");
   Work();
+  EXPECT_EQ(page->Browser().Video(), "(002) FO iron") << "what was chosen stays chosen";
   Choose("InstructorList", "Quick Launch");
-  EXPECT_EQ(Rows("VideoList"), QStringList("(001) DTL driver"));
+  EXPECT_EQ(Rows("VideoList"), QStringList("(002) FO iron"));
   Press("SPBtn12");
   EXPECT_EQ(Text("SPDisplay"), "The current video was removed from the Quick Launch folder.");
   EXPECT_TRUE(Rows("VideoList").isEmpty());

@@ -89,21 +89,15 @@ TEST_F(SetupPageTest, EveryControlWritesItsKeyAtOnce) {
   const struct {
     const char *section, *key;
     std::string value;
-  } written[] = {{"General", "ScreenMode", "4"},
-                 {"Analysis", "OpenDlgChoice", "1"},
-                 {"Analysis", "SlomoSpeed", "40"},
-                 {"Analysis", "GridSize", "12"},
-                 {"Analysis", "StrobeStep", "4"},
-                 {"Analysis", "CadWidth", "8"},
-                 {"Analysis", "CadOutline", "False"},
-                 {"Analysis", "RandomColor", "1"},
-                 {"Ruler", "NTSCorPAL", "1"},
-                 {"General", "Logo", "False"},
-                 {"General", "LogoName", folder.Path("our.png")},
-                 {"General", "UserName", "Erica S\xC3\xA4mple"},
-                 {"General", "CompanyName", "Links"},
-                 {"General", "Heading2", "Links Golf"},
-                 {"General", "CaptionPosition", "2"}};
+  } written[] = {
+      {"General", "ScreenMode", "4"},         {"Analysis", "OpenDlgChoice", "1"},
+      {"Analysis", "SlomoSpeed", "40"},       {"Analysis", "GridSize", "12"},
+      {"Analysis", "StrobeStep", "4"},        {"Analysis", "CadWidth", "8"},
+      {"Analysis", "CadOutline", "False"},    {"Analysis", "RandomColor", "1"},
+      {"Ruler", "NTSCorPAL", "1"},            {"General", "Logo", "False"},
+      {"General", "CompanyName", "Links"},    {"General", "Heading2", "Links Golf"},
+      {"General", "CaptionPosition", "2"},    {"General", "UserName", "Erica S\xC3\xA4mple"},
+      {"General", "LogoName", folder.Path("our.png")}};
   for (const auto& [section, key, value] : written) EXPECT_EQ(OnDisk(section, key), value) << key;
 
   Open();

@@ -26,7 +26,7 @@ TEST_F(SilentDriveTest, ThePageSaysSoAndFillsByItselfWhenTheDriveIsBack) {
 
   library.host.DrivesAnswer();
   library.host.Advance(3000);
-  EXPECT_EQ(Rows("VideoList").size(), 2);
+  EXPECT_EQ(page->Browser().Video(), "(001) DTL driver");
   EXPECT_EQ(Text("ProInfoLbl0"), "Sample, Erica");
   EXPECT_NE(Preview().Info(), nullptr);
   EXPECT_TRUE(library.host.messages.empty());

@@ -13,13 +13,13 @@ struct LibraryHintsTest : ::testing::Test {
   LibraryHintsTest() { EXPECT_TRUE(SetPrimaryName(library.settings, "Golfer")); }
 
   /// What the lists of a page say when these are chosen.
-  LibraryHints Hints(Kind kind, std::string_view instructor = {}, std::string_view student = {}, bool gone = false) {
+  LibraryHints Hints(Kind kind, std::string_view instructor = {}, std::string_view student = {}) {
     LastStudentInfo remembered;
     LibraryBrowser browser(library.host.Drives(), library.settings, remembered, kind);
     browser.CapfolderSetup();
     browser.SelectInstructor(instructor);
     browser.SelectStudent(student);
-    return HintsOf(browser, Vocabulary(library.settings), gone);
+    return HintsOf(browser, Vocabulary(library.settings), false);
   }
 
   TempLibrary library;
@@ -52,15 +52,6 @@ TEST_F(LibraryHintsTest, EachEmptyListSaysWhatFillsIt) {
     EXPECT_EQ(hints.students, one.students);
     EXPECT_EQ(hints.videos, one.videos);
   }
-}
-
-TEST_F(LibraryHintsTest, ALibraryThatIsNotThereIsNotCalledEmpty) {
-  EXPECT_EQ(Hints(Kind::Profiles, "", "", true).students,
-            "The library folder " + library.Root() + " cannot be reached.");
-  library.host.drivesHang = true;
-  const LibraryHints hints = Hints(Kind::OpenVideo);
-  EXPECT_TRUE(hints.students.ends_with("is not answering. The lists fill as soon as it does."));
-  EXPECT_EQ(hints.videos, "");
 }
 
 }  // namespace

@@ -22,22 +22,6 @@ struct SilentLibraryTest : ::testing::Test {
   LibraryBrowser browser{host.Drives(), library.settings, remembered, LibraryBrowser::Kind::Profiles};
 };
 
-TEST_F(SilentLibraryTest, TheListsAreEmptyAndTheSelectionIsRemembered) {
-  host.drivesHang = true;
-  browser.CapfolderSetup();
-  EXPECT_TRUE(browser.Silent());
-  EXPECT_EQ(browser.InstructorList(), std::vector<std::string>{"General Folder"});
-  EXPECT_TRUE(browser.VideoList().empty());
-  browser.InstructorList_Click(0);
-  browser.Refresh();
-  EXPECT_EQ(host.waits.size(), 1u) << "a drive that was given up is not waited for again";
-
-  host.DrivesAnswer();
-  browser.TryAgain();
-  EXPECT_FALSE(browser.Silent());
-  EXPECT_EQ(browser.VideoPath(), library.Path("Demo/Tom/one.avi"));
-}
-
 TEST_F(SilentLibraryTest, WhoHadChosenOtherwiseComesBackToThat) {
   browser.CapfolderSetup();
   host.drivesHang = true;

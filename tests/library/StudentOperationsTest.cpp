@@ -1,7 +1,6 @@
 #include "OperationsFixture.h"
 
 #include "library/LibraryActions.h"
-#include "library/LibraryBrowser.h"
 #include "platform/files/IniFile.h"
 
 namespace kinalyx::test {
@@ -162,28 +161,6 @@ TEST_F(StudentOperations, TakesTheUsersWord) {
   library.settings.PrimaryName = {"Golfer", "golfer", "golfers"};
   EXPECT_EQ(Ops().RenameStudent("Ann", "Joe Doe", "Jim").status, "Golfer successfully renamed.");
   EXPECT_NE(LibraryTextsFor(library.settings).deleteWarning.find("the golfer profile"), std::string::npos);
-}
-
-TEST_F(StudentOperations, TheListsFollow) {
-  LastStudentInfo remembered;
-  LibraryBrowser browser(library.host.Drives(), library.settings, remembered, LibraryBrowser::Kind::Profiles);
-  browser.CapfolderSetup();
-  browser.SelectInstructor("Ann");
-  browser.SelectStudent("Joe Doe");
-  browser.SelectVideo("(002) FO");
-  const auto chosenAfter = [&](const OperationResult& result) {
-    ShowResult(result, browser);
-    return browser.Instructor() + "/" + browser.Student() + "/" + browser.Video();
-  };
-  EXPECT_EQ(chosenAfter(Ops().RenameVideo(ChosenVideo(browser), "(003) Back")), "Ann/Joe Doe/(003) Back");
-  EXPECT_EQ(chosenAfter(Ops().RenameStudent("Ann", "Joe Doe", "Jim")), "Ann/Jim/(001) DL");
-  EXPECT_EQ(chosenAfter(Move("Ann", "Jim", "Bob")), "Bob/Jim/(001) DL");
-  EXPECT_EQ(chosenAfter(Ops().DeleteVideo(ChosenVideo(browser))), "Bob/Jim/(003) Back");
-  library.host.answers = {true};
-  EXPECT_EQ(chosenAfter(Run(&LibraryOperations::QuickLaunch, ChosenVideo(browser))), "Bob/Jim/(003) Back");
-  EXPECT_EQ(browser.InstructorList(), (std::vector<std::string>{"General Folder", "Ann", "Bob", "Quick Launch"}));
-  EXPECT_EQ(chosenAfter(Delete("Bob", "Jim")), "Bob//");
-  EXPECT_EQ(chosenAfter(Ops().AddInstructor("Carl")), "Carl//");
 }
 
 }  // namespace
