@@ -39,7 +39,7 @@ TEST_F(AnalysisFormTest, SendsOpensPlaysAndCloses) {
   Click("Closebtn");
   EXPECT_FALSE(Slots().HasVideo(2) || Enabled("CmdButton2"));
   EXPECT_TRUE(Find<QToolButton>("CmdButton2")->toolTip().endsWith("Open a video first"));
-  Click("Closeallbtn");
+  EXPECT_TRUE(form->CloseAll());
   EXPECT_FALSE(Slots().AnyVideo());
 }
 

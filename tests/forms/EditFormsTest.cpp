@@ -135,6 +135,8 @@ TEST_F(EditFormsTest, MacrosAreNamedShownInsertedAndRemoved) {
     for (int x = 0; x < picture.width(); ++x) inked += picture.pixel(x, y) != ground;
   EXPECT_GT(inked, 50) << "the preview shows the drawing";
 
+  Click("cmdInfo");
+  EXPECT_EQ(host.messages.back(), "1 Square's\r\n1 Line's\r\n");
   Click("MacroBtn");
   EXPECT_EQ(Shapes().NumShapes, 2);
   EXPECT_TRUE(Find<QToolButton>("ribEBBtn")->isChecked());
@@ -157,6 +159,8 @@ TEST_F(EditFormsTest, GridPanelAndClonePlan) {
   EXPECT_TRUE(Find<QPushButton>("ribShowGrid")->isChecked());
   slider->setValue(17);
   EXPECT_EQ(Text("GridSize"), "17 squares across the picture");
+  Click("GridSizeClose");
+  EXPECT_FALSE(slider->isVisible());
 
   Click("Scn4");
   Send("b.avi");

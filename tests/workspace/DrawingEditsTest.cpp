@@ -32,8 +32,7 @@ TEST(DrawingEdits, TheBarSelectsByClickKeysAndCommands) {
   desk.Click(1, 131, 276);
   EXPECT_EQ(desk.edits.words, "Square, 2 of 3");
 
-  EXPECT_TRUE(desk.Key(kKeyRight, kShift));
-  EXPECT_TRUE(desk.Key(kKeyUp, kShift));
+  for (const int key : {kKeyRight, kKeyRight, kKeyLeft, kKeyUp}) EXPECT_TRUE(desk.Key(key, kShift));
   EXPECT_EQ(desk.PointOf(1, 0), (POINTAPI{101, 249}));
   EXPECT_EQ(desk.MP(1).Position(), 0) << "no step of the video";
   desk.Key(kKeyRight);

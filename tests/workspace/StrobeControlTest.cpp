@@ -81,6 +81,9 @@ TEST_F(StrobeControlTest, WindowChoosesStartAndEnd) {
   strobe_.SSCommand1_Click(2);
   EXPECT_EQ(view_.captions[2], "Stop");
   EXPECT_FALSE(view_.result);
+  strobe_.SSCommand1_Click(2);
+  EXPECT_FALSE(strobe_.StrobeRunning());
+  strobe_.SSCommand1_Click(2);
   stage_.host.Advance(5000);
   EXPECT_EQ(view_.captions[2], "Strobe");
   EXPECT_TRUE(view_.result);

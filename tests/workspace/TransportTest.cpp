@@ -281,7 +281,7 @@ TEST(EscapeTest, LeavesOneThingAtATimeAndTheVideosComeBack) {
   stage.Key(kKeyEscape);
   EXPECT_FALSE(stage.Slots().HasVideo(1) || stage.Slots().HasVideo(2));
   stage.Slots().SetScreen(1);
-  EXPECT_TRUE(stage.Commands().Form_KeyDown('T', kShift | kCtrl));
+  stage.analysis.KeyDown('T', kShift | kCtrl, 1);
   EXPECT_TRUE(stage.Slots().HasVideo(1) && stage.Slots().HasVideo(2));
   EXPECT_EQ(stage.Slots().ScreenLayout, "2");
   EXPECT_EQ(stage.At(2), 7);

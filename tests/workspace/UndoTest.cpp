@@ -108,7 +108,7 @@ TEST_F(Undo, AHalfDrawnShapeIsAllThatGoes) {
   PressUndo();
   TakeUp(kLine);
   Click({200, 100});
-  PressRedo();
+  Do("RedoDrawing");
   ASSERT_EQ(Count(), 3);
   EXPECT_EQ(Drawn()[2].Kind, kSwingPath);
 }
