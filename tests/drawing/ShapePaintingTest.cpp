@@ -201,8 +201,9 @@ class WindowPainterTest : public testing::Test {
     if (grid_.on) DrawGrid(plain, expected.Width(), expected.Height(), grid_.divisions);
     plain.SetPen({0, 4, 0});
     for (const Shape& shape : ShapesOf(list_)) PaintShape(shape, shape.Colour, plain, look_);
-    // The first time changes are painted directly, the second time they are kept, then laid over.
-    for (int round = 0; round < 3; ++round) {
+    // The first time changes are painted directly, the second time they are kept, then laid over; a long list
+    // that rests is at last laid over as a whole.
+    for (int round = 0; round < 8; ++round) {
       shown_ = Noise(shown_.Width(), shown_.Height(), 1);
       Canvas canvas(shown_);
       canvas.SetPen({0, 4, 0});
@@ -225,6 +226,8 @@ TEST_F(WindowPainterTest, ShowsEveryChangeAtOnce) {
   CheckPaints("one removed from the middle");
   Add(list_, Finished(kArrow, {{20, 150}, {180, 150}}, Rgb(255, 255, 255)));
   CheckPaints("one added");
+  for (int y = 40; y < 160; y += 30) Add(list_, Finished(kLine, {{5, y}, {195, y + 11}}, Rgb(0, y, 255)));
+  CheckPaints("a long list");
   std::swap(list_.Shapes[0], list_.Shapes[2]);
   CheckPaints("another order");
   grid_.divisions = 11;
