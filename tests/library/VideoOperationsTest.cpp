@@ -67,6 +67,9 @@ TEST_F(VideoOperations, ASidecarThatTwoVideosShareIsLeftToTheOther) {
   EXPECT_EQ(Read("Bob/Sue/(001) DL.ved"), "1XXXSXXX");
   EXPECT_EQ(Read("Ann/Joe Doe/(001) DL.ved"), "1XXXSXXX");
   library.File("Ann/Joe Doe/(001) DL.AVI", "again");
+  EXPECT_TRUE(Ops().RenameVideo(capitals, "again").done);
+  EXPECT_EQ(Read("Ann/Joe Doe/again.ved") + Read("Ann/Joe Doe/(001) DL.ved"), "1XXXSXXX1XXXSXXX");
+  library.File("Ann/Joe Doe/(001) DL.AVI", "and again");
   EXPECT_EQ(Ops().DeleteVideo(capitals).status, "Video Successfully Deleted!");
   EXPECT_TRUE(Exists("Ann/Joe Doe/(001) DL.ved"));
   EXPECT_TRUE(Ops().DeleteVideo(DL()).done);
