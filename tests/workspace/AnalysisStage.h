@@ -36,7 +36,6 @@ class FakeWindow final : public IWorkspaceView {
   bool negative = false, timer = false, calibration = false, lists = false;
   std::vector<int> marks;
   std::optional<Colour> colour;
-  int colorButton = -1;
   std::optional<std::string> notes;
   int openPanels = 0;
 
@@ -65,7 +64,7 @@ class FakeWindow final : public IWorkspaceView {
   void SetDisplayText(const std::string& words) override { text = words; }
   void ShowVectorColor(Colour shown) override { colour = shown; }
   void HideVectorColor() override { colour.reset(); }
-  void SetColorButton(int index) override { colorButton = index; }
+  void SetColorButton(int) override {}
   void ShowNotesPnl(const TwipRect&, const std::string& shown) override { notes = shown; }
   void HideNotesPnl() override { notes.reset(); }
   void ShowVideoTimer(bool shown) override { timer = shown; }

@@ -254,23 +254,6 @@ TEST_F(CompareModesTest, AClickStopsOrTracesLockedVideosTogether) {
   EXPECT_EQ(stage_.At(2), 16);
 }
 
-TEST_F(CompareModesTest, DrawnSquareBecomesTheStrip) {
-  Run("smbar");
-  MultiPicture& strip = modes_.Strip();
-  EXPECT_EQ(stage_.Slots().ScreenLayout, "MF");
-  strip.MPicBtn_Click(0);
-  EXPECT_TRUE(stage_.analysis.Tools().Drawing());
-  stage_.Click(1, 40, 30);
-  stage_.Click(1, 120, 110);
-  EXPECT_FALSE(strip.WaitingForSquare());
-  stage_.host.Advance(0);
-  EXPECT_NEAR(strip.PictureWidth(), 80, 1);
-  EXPECT_EQ(stage_.Shapes(1).NumShapes, 0);  // it is no drawing
-  stage_.Key(kKeyEscape);
-  EXPECT_EQ(stage_.Slots().ScreenLayout, "2");
-  EXPECT_TRUE(stage_.Slots().HasVideo(1));  // Escape left the mode and nothing else
-}
-
 TEST_F(CompareModesTest, LeavingTheSectionLeavesNothingBehind) {
   Run("cmdDualPlay");
   const int before = stage_.MP(1).ControlHeightPixels();

@@ -25,21 +25,6 @@ TEST(Layout, EveryLayoutCoversTheStageWithEqualCells) {
   EXPECT_EQ(LayoutCells("MAX", kWidth, kHeight), LayoutCells("1", kWidth, kHeight));
 }
 
-TEST(Layout, NumbersAndCodesNameTheSameLayouts) {
-  const std::pair<int, const char*> modes[] = {{1, "1"}, {2, "2"}, {3, "3T"}, {4, "4"}, {5, "3L"}, {6, "6"}, {7, "2H"}, {8, "8"}};
-  for (const auto& [number, code] : modes) {
-    ASSERT_NE(FindScreenMode(number), nullptr);
-    EXPECT_EQ(FindScreenMode(number)->Code, code);
-    EXPECT_EQ(FindScreenMode(number)->Slots, Val(code));
-  }
-  EXPECT_EQ(FindScreenMode(0), nullptr);
-  EXPECT_EQ(FindScreenMode(9), nullptr);
-  EXPECT_EQ(FindScreenMode("MAX"), nullptr);
-  EXPECT_EQ(Val("MAX"), 0);
-  EXPECT_EQ(LastOfTopRow("4") + LastOfTopRow("6") + LastOfTopRow("8"), 2 + 3 + 4);
-  EXPECT_EQ(LastOfTopRow("2"), 0);
-}
-
 TEST(Layout, APictureIsAsHighAsItsCellAndKeepsItsProportion) {
   EXPECT_EQ(PlaceVideo({720, 480}, 8000, 4000), (TwipRect{1000, 0, 6000, 4000}));
   // Wider than the cell: centred all the same, so that both sides are cut alike.

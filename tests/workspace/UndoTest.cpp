@@ -152,6 +152,7 @@ TEST_F(Undo, AStraightLineStaysStraightWhenThePictureChangesUnderIt) {
   Click({first.x + 4, first.y + 80});
   ASSERT_EQ(Count(), 3);
   EXPECT_EQ(Drawn()[2].Pts[1].x, first.x);
+  EXPECT_EQ(stage_.MP(1).Picture().Pixel(first.x, first.y + 40), Drawn()[2].Colour) << "and is seen on the picture";
 }
 
 TEST_F(Undo, WindowsAndSavesDoNotMeddle) {
