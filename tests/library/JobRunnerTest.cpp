@@ -15,6 +15,7 @@ namespace {
 class CountingJob final : public IJob {
  public:
   struct Seen {
+    std::atomic<bool> begun = false;
     std::atomic<int> steps = 0;
     std::atomic<bool> cancelled = false;
     std::atomic<bool> hangs = false;
@@ -23,6 +24,7 @@ class CountingJob final : public IJob {
   CountingJob(std::shared_ptr<Seen> seen, int last) : seen_(std::move(seen)), last_(last) {}
   ~CountingJob() override { seen_->gone = true; }
   bool Step() override {
+    seen_->begun = true;
     while (seen_->hangs) std::this_thread::yield();
     return ++seen_->steps < last_;
   }
@@ -59,6 +61,7 @@ TEST(JobRunner, AWorkerEndsAndIsLeftBehindWhenItsDiskDoesNotAnswer) {
   const auto hanging = std::make_shared<CountingJob::Seen>();
   hanging->hangs = true;
   ASSERT_TRUE(start(hanging, 1 << 30));
+  while (!hanging->begun) std::this_thread::yield();
   runner.Cancel();
   host.Advance(5000);
   EXPECT_TRUE(ended && abandoned);
