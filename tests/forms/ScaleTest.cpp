@@ -148,7 +148,8 @@ TEST_F(ScaledAnalysis, NothingIsClippedOrCutOff) {
   Send("b.avi");
   for (const char* card : {"TVT", "TCal", "TZP", "TASF", "TAGrid", "AddMacro"}) form->Analysis().Commands().Run(card);
   const auto expectInBar = [&](std::initializer_list<const char*> names) {
-    for (const char* name : names) EXPECT_TRUE(OnForm(Find<QWidget>("Playbar")).contains(OnForm(Find<QWidget>(name)))) << name;
+    const QRect bar = OnForm(Find<QWidget>("Playbar"));
+    for (const char* name : names) EXPECT_TRUE(bar.contains(OnForm(Find<QWidget>(name)))) << name;
   };
   AtEverySize(*form, {0, 36}, [&] {
     for (const char* layout : {"Scn1", "Scn2", "Scn4", "Scn8"}) {

@@ -125,7 +125,8 @@ class AnalysisStage : private IFrameInterface {
  public:
   /// @param width, height  pixels of the stage
   /// @param compare  the windows of the comparing modes; without one they only remember
-  explicit AnalysisStage(const std::string& layout = "1", int width = 1280, int height = 720, ICompareView* compare = nullptr)
+  explicit AnalysisStage(const std::string& layout = "1", int width = 1280, int height = 720,
+                         ICompareView* compare = nullptr)
       : folder(NewFolder()),
         settings(host, folder + "/data", folder),
         analysis(host, settings, scheduler, window, edits, compare ? *compare : compareView,
@@ -202,7 +203,7 @@ class AnalysisStage : private IFrameInterface {
   int libraryVisits = 0, menuVisits = 0, exits = 0;
   AnalysisWorkspace analysis;
 
-  std::function<void(int slot)> signalled;                ///< after the section itself was told
+  std::function<void(int slot)> signalled;         ///< after the section itself was told
   std::function<void(Canvas&, int slot)> painted;  ///< over what the section has painted
 
  private:
