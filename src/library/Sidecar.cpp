@@ -272,23 +272,28 @@ SlotData ReadVideoData(const std::string& path, const VideoInfo& video, std::spa
   }
 }
 
-void AddMissingWork(SlotData& data, const SlotData& other) {
-  ShapeList theirs = other.Shapes;
-  if (data.PictureWidth > 0 && data.PictureHeight > 0) {
-    StretchShapes(theirs, other.PictureWidth, other.PictureHeight, data.PictureWidth, data.PictureHeight);
-  } else {
+void AddMissingWork(SlotData& data, const SlotData& other, const SlotData& base) {
+  if (data.PictureWidth <= 0 || data.PictureHeight <= 0) {
     data.PictureWidth = other.PictureWidth;
     data.PictureHeight = other.PictureHeight;
   }
+  const auto fitted = [&data](const SlotData& from) {
+    ShapeList shapes = from.Shapes;
+    StretchShapes(shapes, from.PictureWidth, from.PictureHeight, data.PictureWidth, data.PictureHeight);
+    return shapes;
+  };
+  const auto holds = [](const ShapeList& list, const Shape& shape) {
+    return std::ranges::any_of(ShapesOf(list), [&](const Shape& one) { return IsSameDrawing(one, shape); });
+  };
+  const ShapeList theirs = fitted(other);
+  const ShapeList before = fitted(base);
   for (const Shape& shape : ShapesOf(theirs)) {
-    const auto ours = ShapesOf(data.Shapes);
-    const bool known = std::ranges::any_of(ours, [&](const Shape& own) { return IsSameDrawing(own, shape); });
-    if (known || data.Shapes.NumShapes == kLargest16) continue;
+    if (holds(data.Shapes, shape) || holds(before, shape) || data.Shapes.NumShapes == kLargest16) continue;
     data.Shapes.Shapes.resize(static_cast<std::size_t>(data.Shapes.NumShapes));
     data.Shapes.Shapes.push_back(shape);
     ++data.Shapes.NumShapes;
   }
-  if (data.Notes.find(other.Notes) != std::string::npos) return;
+  if (other.Notes == base.Notes || data.Notes.find(other.Notes) != std::string::npos) return;
   data.Notes = other.Notes.find(data.Notes) != std::string::npos ? other.Notes : data.Notes + "\r\n" + other.Notes;
 }
 

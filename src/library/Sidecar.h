@@ -61,8 +61,9 @@ SlotData DefaultVideoData(const VideoInfo& video);
 SlotData ReadVideoData(const std::string& path, const VideoInfo& video, std::span<const Colour> toolColours);
 
 /// Adds to `data` what another has stored meanwhile for the same video: the drawings and the notes that
-/// `data` lacks. Nothing is taken away.
-void AddMissingWork(SlotData& data, const SlotData& other);
+/// `data` lacks, but for those that were its own and have been deleted since. Nothing is taken away.
+/// @param base  what the owner of `data` read or stored last
+void AddMissingWork(SlotData& data, const SlotData& other, const SlotData& base);
 
 /// Replaces the sidecar; the file is the old or the new one, whole, whatever happens. False when the
 /// disk refuses. `error` (may be null) gets the reason, or, with a result of true, what had to be left

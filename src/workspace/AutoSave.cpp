@@ -6,6 +6,7 @@ namespace kinalyx {
 namespace {
 
 constexpr int kRest = 1000;  // milliseconds without a change before anything is written
+constexpr int kAgain = 10000;  // after the disk has refused
 
 }  // namespace
 
@@ -13,18 +14,19 @@ void AutoSave::Changed() {
   rest_ = HostTimer(host_, kRest, false, [this] { Save(); });
 }
 
-/// A video that stands in two slots has two sets of drawings, which become one only when one of them
-/// closes: until then a drawing that is deleted here would come back from what was written there.
-bool AutoSave::Wanted(int slot) {
-  return workspace_.HasVideo(slot) && !workspace_.ShownTwice(slot) && workspace_.HasUnsaved(slot);
+bool AutoSave::SaveSlot(int slot) {
+  if (!workspace_.HasVideo(slot) || !workspace_.HasUnsaved(slot)) return true;
+  const bool saved = host_.Drives().AnswersAtOnce(settings_.LibraryPath, workspace_.At(slot).path) && workspace_.SaveData(slot);
+  workspace_.SetRefused(slot, !saved);
+  return saved;
 }
 
-/// What the disk refuses, or a drive that does not answer, is tried again with the next change, and told
-/// when the video closes: nobody is disturbed at work.
+/// Nobody is disturbed at work: what cannot be written is told beside the video's name, and tried again
+/// and again. Closing the video asks.
 void AutoSave::Save() {
-  for (int slot = 1; slot <= kSlots; ++slot)
-    if (Wanted(slot) && host_.Drives().AnswersAtOnce(settings_.LibraryPath, workspace_.At(slot).path))
-      workspace_.SaveData(slot);
+  bool all = true;
+  for (int slot = 1; slot <= kSlots; ++slot) all = SaveSlot(slot) && all;
+  if (!all) rest_ = HostTimer(host_, kAgain, false, [this] { Save(); });
 }
 
 }  // namespace kinalyx

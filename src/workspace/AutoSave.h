@@ -18,7 +18,7 @@ class AutoSave {
 
  private:
   void Save();
-  bool Wanted(int slot);
+  bool SaveSlot(int slot);
 
   IHost& host_;
   const Settings& settings_;

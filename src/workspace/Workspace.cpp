@@ -178,7 +178,8 @@ bool Workspace::OpenVideo(int slot, const std::string& path) {
     RefuseVideo(slot, path, false);
     return false;
   }
-  at.data = ReadVideoData(SidecarPath(path), *info, settings_.NewColors);
+  at.base = at.data = ReadVideoData(SidecarPath(path), *info, settings_.NewColors);
+  at.sidecarTime = FileTime(SidecarPath(path));
   if (!at.MP->Load(path, at.data.SplitFields, at.data.ReverseFields)) {
     RefuseVideo(slot, path, true);
     return false;
@@ -189,7 +190,7 @@ bool Workspace::OpenVideo(int slot, const std::string& path) {
   at.SlotFrameRate = 0;
   at.VideoZoom = 1.0;
   at.PanX = at.PanY = 0;
-  at.changed = at.savedElsewhere = at.placed = false;
+  at.changed = at.savedElsewhere = at.refused = at.placed = false;
   VideoOpened(slot);
   ShowTitle(slot);
   // Reversed fields open on the second one of the first picture; every film is shown from its start.
@@ -248,11 +249,6 @@ bool Workspace::CloseVideo(int slot) {
 
 bool Workspace::HasUnsaved(int slot) { return CollectData(slot) || At(slot).changed; }
 
-bool Workspace::ShownTwice(int slot) const {
-  const auto same = [path = At(slot).path](const Slot& other) { return other.path == path; };
-  return std::ranges::count_if(slots_, same) > 1;
-}
-
 bool Workspace::SaveData(int slot, std::string* error) {
   Slot& at = At(slot);
   const bool changed = HasUnsaved(slot);
@@ -263,17 +259,26 @@ bool Workspace::SaveData(int slot, std::string* error) {
     if (error) *error = "the drive is not answering";
     return false;
   }
+  const std::string sidecar = SidecarPath(at.path);
+  if (FileTime(sidecar) != at.sidecarTime) at.savedElsewhere = true;
+  if (!changed && at.savedElsewhere) return true;
   // A video that somebody else has taken away needs no sidecar; new work on it is kept all the same.
   if (!changed && !FileExists(at.path)) return true;
-  // Both have something to say: whoever closes last adds to the work of the other. What was drawn there does
-  // not stand in this window, so that every later save must add it again.
+  // Both have something to say: whoever saves adds to the work of the other. What was drawn there does not
+  // stand in this window, so that every later save must add it again.
+  SlotData whole = at.data;
   if (at.savedElsewhere && at.MP->Info())
-    AddMissingWork(at.data, ReadVideoData(SidecarPath(at.path), *at.MP->Info(), settings_.NewColors));
-  if (!WriteVideoData(SidecarPath(at.path), at.data, error)) return false;
+    AddMissingWork(whole, ReadVideoData(sidecar, *at.MP->Info(), settings_.NewColors), at.base);
+  if (!WriteVideoData(sidecar, whole, error)) return false;
+  at.sidecarTime = FileTime(sidecar);
   at.changed = at.data.Unread = false;
+  const bool notesCame = at.data.Notes != whole.Notes;
+  at.data.Notes = whole.Notes;
+  at.base = at.data;
   DataSaved(slot);
   for (Slot& other : slots_)
     if (&other != &at && other.path == at.path) other.savedElsewhere = true;
+  if (notesCame) StateChanged();
   return true;
 }
 
@@ -406,7 +411,12 @@ void Workspace::TFB_Click() {
 }
 
 void Workspace::ShowTitle(int slot) {
-  view_.SetCellTitle(slot, HasVideo(slot) ? CellTitle(At(slot).path) : "");
+  const Slot& at = At(slot);
+  view_.SetCellTitle(slot, at.path.empty() ? "" : CellTitle(at.path) + (at.refused ? " · not saved" : ""));
+}
+
+void Workspace::SetRefused(int slot, bool refused) {
+  if (std::exchange(At(slot).refused, refused) != refused) ShowTitle(slot);
 }
 
 // ---------------------------------------------------------------- video commands

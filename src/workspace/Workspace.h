@@ -1,7 +1,9 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -25,7 +27,10 @@ struct Slot {
   int SlotFrameRate = 0;     ///< set by the user; 0 means the video's own
   std::vector<int> marks;    ///< positions, at most ten
   bool changed = false;      ///< fields or notes differ from what the sidecar held
-  bool savedElsewhere = false;  ///< another slot has written the same sidecar since
+  SlotData base;                ///< this slot's own work as it was read or written last
+  std::optional<std::int64_t> sidecarTime;  ///< when its sidecar was written, as it was then
+  bool savedElsewhere = false;  ///< another slot, or another workstation, has written the same sidecar since
+  bool refused = false;         ///< its work could not be written when it was tried last
   bool placed = false;          ///< its video has had a place, and what is drawn over it the size
 
   TwipRect cell;   ///< the place in the grid
@@ -115,8 +120,8 @@ class Workspace {
   bool SaveData(int slot, std::string* error = nullptr);
   /// True when the slot holds drawings, notes or fields that its sidecar does not.
   bool HasUnsaved(int slot);
-  /// True when another slot holds the same video.
-  bool ShownTwice(int slot) const;
+  /// Whether the disk does not take what was drawn and noted; its title says so.
+  void SetRefused(int slot, bool refused);
   /// The notes of a slot's video; they are written by SaveData, and at the latest when it closes.
   void SetNotes(int slot, const std::string& notes);
 

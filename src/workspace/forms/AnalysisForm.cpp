@@ -252,6 +252,8 @@ void AnalysisForm::PlaceCaption() {
   caption_->move(std::min(left, std::max(0, stage_->width() - caption_->width())),
                  panel.top() + kEdge + (beside ? 0 : title.height() + 4));
   caption_->raise();
+  // What is chosen in the card must not lie under the name of the tool that draws the line.
+  if (calibration_ && !calibration_->isHidden()) calibration_->raise();
 }
 
 void AnalysisForm::SetDisplayText(const std::string& text) { caption_->SetText(Text(text)); }

@@ -58,6 +58,7 @@ CalibrationPanel::CalibrationPanel(RulerCalibration& ruler, const Settings& sett
   cancel->setObjectName("CalibBtn1");
   for (QPushButton* button : {ok_, cancel}) {
     button->setFocusPolicy(Qt::TabFocus);
+    button->setAutoDefault(true);  // Return presses the one that has the keys
     buttons->addWidget(button, 1);
   }
   Body()->addLayout(buttons);

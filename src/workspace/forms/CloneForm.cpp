@@ -44,14 +44,15 @@ CloneForm::CloneForm(const std::vector<Window>& windows, QWidget* parent) : QDia
     const int right = scaled(window.place.left() + window.place.width() - whole.left(), whole.width(), plan->width());
     const int bottom = scaled(window.place.top() + window.place.height() - whole.top(), whole.height(), plan->height());
     // Fixed: the style gives buttons a height of their own.
-    button->setStyleSheet("min-height: 0; max-height: 10000px;");
+    button->setStyleSheet("min-height: 0; max-height: 10000px; padding: 0 2px;");
+    button->ensurePolished();  // its font is the sheet's
     button->setFixedSize(std::max(20, right - left - 4), std::max(20, bottom - top - 4));
     button->move(left + 2, top + 2);
     button->setCheckable(true);
     button->setEnabled(!window.source && !window.video.isEmpty());
     const QString name = window.source ? tr("this window") : window.video;
     if (!name.isEmpty())
-      button->setText(QString("%1\n%2").arg(window.number).arg(button->fontMetrics().elidedText(name, Qt::ElideRight, button->width() - 20)));
+      button->setText(QString("%1\n%2").arg(window.number).arg(button->fontMetrics().elidedText(name, Qt::ElideRight, button->width() - 12)));
     button->setToolTip(window.source           ? tr("The drawings of this window are copied")
                        : window.video.isEmpty() ? tr("No video in this window")
                                                 : window.video);

@@ -42,16 +42,27 @@ class VideoPanel : public QWidget {
                        IconPixmap("open", look.faintInk, icon, devicePixelRatioF()));
     painter.setFont(UiFont(kTextPixels));
     painter.setPen(look.faintInk);
-    painter.drawText(QRect(12, top + icon + 10, width() - 24, Px(44)), Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap,
-                     reopen_ ? VideoCell::tr("Double click or press O to open a video\n"
-                                             "Ctrl+Shift+T brings back those that were closed")
-                             : VideoCell::tr("Double click or press O to open a video"));
+    const QString open = VideoCell::tr("Double click or press O to open a video");
+    const QString back = VideoCell::tr("Ctrl+Shift+T brings back those that were closed");
+    DrawHint(painter, QRect(12, top + icon + 10, width() - 24, height() - (top + icon + 10) - 6),
+             reopen_ ? QStringList{open, back} : QStringList{open});
     painter.setFont(UiFont(kCaptionPixels));
     painter.setPen(Mix(look.faintInk, look.ground, 0.35));
     painter.drawText(QRect(10, 8, width() - 20, Px(16)), Qt::AlignLeft | Qt::AlignTop, VideoCell::tr("Window %1").arg(slot_));
   }
 
  private:
+  /// A sentence that has no room is left out whole, and all after it.
+  static void DrawHint(QPainter& painter, QRect room, const QStringList& sentences) {
+    constexpr int kFlags = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
+    for (const QString& sentence : sentences) {
+      const int high = painter.boundingRect(QRect(room.topLeft(), QSize(room.width(), 10000)), kFlags, sentence).height();
+      if (high > room.height()) return;
+      painter.drawText(room, kFlags, sentence);
+      room.setTop(room.top() + high);
+    }
+  }
+
   int slot_;
   bool filled_ = false;
   bool reopen_ = false;  // the videos that were closed can come back
@@ -67,6 +78,7 @@ VideoCell::VideoCell(int slot, PlayerServices& services, QWidget* parent) : QWid
   title_ = new QLabel(this);
   title_->setObjectName(QString("CellTitle%1").arg(slot));
   title_->setTextFormat(Qt::PlainText);
+  title_->setIndent(0);  // the padding of its sheet is all the blank there is
   title_->setAttribute(Qt::WA_TransparentForMouseEvents);
   WearSheet(title_, "background: rgba(12, 15, 19, 190); color: #e6ecf2; border-radius: @11; padding: 0 10px; font-size: @12;");
   title_->hide();
