@@ -115,6 +115,12 @@ TEST_F(EditFormsTest, TheBarGoesWithItsWindow) {
 
 TEST_F(EditFormsTest, MacrosAreNamedShownInsertedAndRemoved) {
   InDialog("MacroNameForm", [](QDialog& dialog) {
+    QTest::keyClicks(dialog.findChild<QLineEdit*>("MacroName"), "Dropped");
+    QTest::keyClick(dialog.findChild<QPushButton*>("MacroNameCancel"), Qt::Key_Return);
+    EXPECT_FALSE(dialog.isVisible());
+  });
+  Trigger("DTMacro");
+  InDialog("MacroNameForm", [](QDialog& dialog) {
     auto* ok = dialog.findChild<QPushButton*>("MacroNameOK");
     QTest::keyClicks(dialog.findChild<QLineEdit*>("MacroName"), "  ");
     EXPECT_FALSE(ok->isEnabled());
@@ -165,6 +171,9 @@ TEST_F(EditFormsTest, GridPanelAndClonePlan) {
   Click("Scn4");
   Send("b.avi");
   Slots().SelectWindow(1);
+  InDialog("CloneForm", [](QDialog& dialog) { QTest::keyClick(dialog.findChild<QPushButton*>("Command2"), Qt::Key_Return); });
+  Click("CmdAfunctions1");
+  EXPECT_EQ(Shapes(2).NumShapes, 0) << "Cancel clones nothing";
   InDialog("CloneForm", [](QDialog& dialog) {
     const auto window = [&](int number) { return dialog.findChild<QPushButton*>(QString("WindowBtn%1").arg(number)); };
     EXPECT_FALSE(window(1)->isEnabled() || window(3)->isEnabled());

@@ -72,6 +72,38 @@ TEST_F(LibraryCommandsTest, AStudentIsRenamedMovedAndDeletedWithTheNotesThatAreB
   EXPECT_EQ(Rows("StudentList"), QStringList("Tom"));
 }
 
+TEST_F(LibraryCommandsTest, ReturnPressesTheButtonThatHasTheKeysAndInABoxTheDefaultOne) {
+  ChooseStudent("Tom");
+  const auto enter = [this](const char* control) { QTest::keyClick(Find<QWidget>(control), Qt::Key_Return); };
+  Press("SPBtn1");
+  Type("RenameText", "Tim");
+  enter("DialogCancel");
+  EXPECT_FALSE(DialogShown());
+  EXPECT_TRUE(Exists("Demo/Tom")) << "Cancel renames nothing";
+  Press("SPBtn1");
+  Type("RenameText", "Tim");
+  enter("RenameText");
+  EXPECT_TRUE(Exists("Demo/Tim"));
+
+  Press("SPBtn3");
+  enter("DialogText");
+  EXPECT_FALSE(DialogShown());
+  EXPECT_TRUE(Exists("Demo/Tim")) << "who presses Return without a choice deletes nothing";
+  Press("SPBtn3");
+  enter("DelStudentBtn");
+  Work();
+  EXPECT_FALSE(Exists("Demo/Tim"));
+
+  Press("SPBtn0");
+  enter("ProAddCancelBtn");
+  EXPECT_FALSE(Find<QWidget>("ProAddPnl")->isVisible());
+  ChooseStudent("Sample, Erica");
+  Choose("VideoList", "(002) FO iron");
+  Press("SPBtn5");
+  enter("EditCancelBtn");
+  EXPECT_FALSE(Find<QWidget>("EditPanel")->isVisible());
+}
+
 TEST_F(LibraryCommandsTest, NotesThatCannotBeStoredHoldUpTheOperation) {
   ChooseStudent("Tom");
   Press("SPBtn10");

@@ -23,7 +23,6 @@ InstructorsPanel::InstructorsPanel(NameList* list, QWidget* parent)
   Text2_->setObjectName("Text2");
   Text2_->setPlaceholderText("Name");
   Text2_->setAccessibleName("Name of the new instructor or database");
-  Text2_->installEventFilter(this);
   QLabel* note = MakeLabel("Text2Note", {}, "muted");
   note->setWordWrap(true);
   note->setContentsMargins(0, 0, 0, 4);
@@ -77,14 +76,12 @@ void InstructorsPanel::SSCommand2() {
   else emit AddWanted(Text2_->text());
 }
 
-bool InstructorsPanel::eventFilter(QObject* object, QEvent* event) {
-  if (object != Text2_ || event->type() != QEvent::KeyPress ||
-      static_cast<QKeyEvent*>(event)->key() != Qt::Key_Escape)
-    return Panel::eventFilter(object, event);
+/// Escape takes the box away from wherever the keys are in the panel.
+void InstructorsPanel::keyPressEvent(QKeyEvent* event) {
+  if (event->key() != Qt::Key_Escape || nameBox_->isHidden()) return Panel::keyPressEvent(event);
   ShowNameBox(false);
   list_->setFocus();
   emit AddCancelled();
-  return true;
 }
 
 }  // namespace kinalyx

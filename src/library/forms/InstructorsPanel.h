@@ -33,7 +33,7 @@ class InstructorsPanel : public Panel {
   void DeleteWanted();
 
  protected:
-  bool eventFilter(QObject* object, QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   void SSCommand2();

@@ -1,6 +1,6 @@
 #include "platform/widgets/Buttons.h"
 
-#include <QEvent>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QStyle>
 #include <QTextLayout>
@@ -25,6 +25,11 @@ const char* LookName(Look look) {
   return "filled";
 }
 
+/// Return, or the Enter of the number pad. Holding it presses once.
+bool PressesButton(const QKeyEvent& event) {
+  return (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) && !event.isAutoRepeat();
+}
+
 }  // namespace
 
 Button::Button(const QString& name, const QString& caption, const QString& icon, Look look, QWidget* parent)
@@ -47,6 +52,12 @@ void Button::SetIcon(const QString& icon) {
 void Button::changeEvent(QEvent* event) {
   QPushButton::changeEvent(event);
   if (event->type() == QEvent::StyleChange) Tint();
+}
+
+/// The button that has the keys is the one that Return presses, also where a form has a default button.
+void Button::keyPressEvent(QKeyEvent* event) {
+  if (PressesButton(*event)) click();
+  else QPushButton::keyPressEvent(event);
 }
 
 void Button::Tint() {
@@ -82,6 +93,11 @@ TileButton::TileButton(const QString& name, const QString& caption, const QStrin
 QSize TileButton::sizeHint() const { return place_ == Place::Rail ? QSize(Px(116), Px(74)) : QSize(Px(150), Px(132)); }
 
 QSize TileButton::minimumSizeHint() const { return place_ == Place::Rail ? QSize(Px(116), Px(58)) : QSize(Px(96), Px(108)); }
+
+void TileButton::keyPressEvent(QKeyEvent* event) {
+  if (PressesButton(*event)) click();
+  else QPushButton::keyPressEvent(event);
+}
 
 void TileButton::paintEvent(QPaintEvent*) {
   const Theme theme = CurrentTheme();

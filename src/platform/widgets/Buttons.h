@@ -15,7 +15,7 @@ enum class Look {
 };
 
 /// A push button whose icon follows the theme. With an empty caption it is a square of the button
-/// height. `name` becomes the objectName.
+/// height. `name` becomes the objectName. Return presses it as the space bar does.
 class Button : public QPushButton {
  public:
   Button(const QString& name, const QString& caption, const QString& icon = {}, Look look = Look::Filled,
@@ -26,6 +26,7 @@ class Button : public QPushButton {
 
  protected:
   void changeEvent(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   void Tint();
@@ -49,6 +50,7 @@ class TileButton : public QPushButton {
   QSize minimumSizeHint() const override;
 
  protected:
+  void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent*) override;
 
  private:
