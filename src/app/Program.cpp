@@ -50,6 +50,7 @@ Program::Program(QApplication& application)
 Program::~Program() = default;
 
 int Program::Run() {
+  DressApplication();  // for what is told while the settings are read
   StartUp(settings_, mail_, schemes_,
           {.applyScheme =
                [this] {

@@ -59,7 +59,7 @@ void Settings::MigrateOldConfig() {
     Set(UseNetwork, *network);
   } else {
     const Key key{"General", "Network", TextOf(UseNetwork), &UseNetwork};
-    TellBadBooleans({&key}, old);
+    TellBadBooleans({&key}, old, 0);
   }
   Set(LibraryPath, value("NetPath"));
 }
@@ -162,17 +162,23 @@ bool Settings::Take(const Key& key, const std::string& text) {
 
 void Settings::ReadKeys(const std::vector<Key>& keys, const std::string& path) {
   const ProfileReader reader(path);
+  const std::string asMissing = path.substr(0, kValueCapacity - 1);
   std::vector<const Key*> bad;
+  std::size_t missing = 0;
   for (const Key& key : keys) {
     // A missing key reads as the path of the file; nothing mends it.
-    if (Take(key, reader.String(key.section, key.name, path, kValueCapacity))) continue;
+    const std::string text = reader.String(key.section, key.name, path, kValueCapacity);
+    if (Take(key, text)) {
+      missing += text == asMissing;
+      continue;
+    }
     Take(key, key.firstRun);
     bad.push_back(&key);
   }
-  TellBadBooleans(bad, path);
+  TellBadBooleans(bad, path, missing);
 }
 
-void Settings::TellBadBooleans(const std::vector<const Key*>& bad, const std::string& path) {
+void Settings::TellBadBooleans(const std::vector<const Key*>& bad, const std::string& path, std::size_t missing) {
   constexpr std::size_t kNamed = 3;
   std::string names;
   std::size_t count = 0;
@@ -184,10 +190,13 @@ void Settings::TellBadBooleans(const std::vector<const Key*>& bad, const std::st
   }
   if (count == 0) return;
   if (count > kNamed) names += fmt::format(" and {} more", count - kNamed);
-  host_.Message(MessageKind::Warning, "",
-                fmt::format("{} in {} could not be read ({}), so {} for this run.",
-                            count == 1 ? "1 setting" : fmt::format("{} settings", count), path, names,
-                            count == 1 ? "its first value holds" : "their first values hold"));
+  std::string text = fmt::format("{} in {} could not be read ({}), so {} for this run",
+                                 count == 1 ? "1 setting" : fmt::format("{} settings", count), path, names,
+                                 count == 1 ? "its first value holds" : "their first values hold");
+  if (missing > 0)
+    text += missing == 1 ? ", and 1 other is missing and has no usable value until it is set again"
+                         : fmt::format(", and {} others are missing and have no usable value until they are set again", missing);
+  host_.Message(MessageKind::Warning, "", text + ".");
 }
 
 }  // namespace kinalyx

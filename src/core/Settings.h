@@ -189,7 +189,7 @@ class Settings {
   static bool Take(const Key& key, const std::string& text);
   bool WriteMember(const Member& member);
   bool WriteTo(const std::string& file, const std::string& section, const std::string& key, const std::string& value);
-  void TellBadBooleans(const std::vector<const Key*>& bad, const std::string& path);
+  void TellBadBooleans(const std::vector<const Key*>& bad, const std::string& path, std::size_t missing);
 
   IHost& host_;
   std::vector<std::string> toldKeys_;

@@ -32,7 +32,8 @@ LibraryHints HintsOf(const LibraryBrowser& browser, const Vocabulary& words, boo
   }
   const bool exchange = browser.Purpose() == Kind::Exchange;
   if (exchange && root.empty()) return {"Choose a drive or folder first.", ""};
-  if (gone) return {(exchange ? "The folder " : "The library folder ") + root + " cannot be reached.", ""};
+  if (gone && exchange) return {"The folder " + root + " cannot be reached.", ""};
+  if (gone) return {"The library folder " + root + " cannot be reached; choose another in Program Setup, under General.", ""};
   if (exchange) return ExchangeHints(browser, words);
 
   // Only the profiles page has the buttons that add somebody.

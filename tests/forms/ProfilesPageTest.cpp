@@ -292,12 +292,16 @@ TEST_F(ProfilesPageTest, ALibraryThatHasGoneIsToldOf) {
   std::filesystem::rename(library.Root(), library.Root() + " gone");
   Choose("InstructorList", "Demo");
   EXPECT_EQ(List("StudentList")->Hint().toStdString(),
-            "The library folder " + library.Root() + " cannot be reached.");
+            "The library folder " + library.Root() + " cannot be reached; choose another in Program Setup, under General.");
   page->hide();
   page->show();
   EXPECT_EQ(Rows("InstructorList"), QStringList("General Folder"));
   EXPECT_TRUE(List("StudentList")->Hint().contains("cannot be reached"));
   EXPECT_FALSE(Find<QLineEdit>("Text2")->isVisible());
+
+  library.settings.LibraryPath = library.settings.ConfigFile();  // as a damaged file of settings leaves it
+  page->Open();
+  EXPECT_TRUE(List("StudentList")->Hint().contains("cannot be reached")) << List("StudentList")->Hint().toStdString();
 }
 
 TEST_F(ProfilesPageTest, AProfileIsEdited) {
@@ -317,6 +321,12 @@ TEST_F(ProfilesPageTest, AProfileIsEdited) {
 }
 
 TEST_F(ProfilesPageTest, AnInstructorIsAdded) {
+  for (const char* control : {"Text2", "SSCommand2", "RenameInstructorBtn", "InstructorList"}) {
+    Press("SSCommand2");
+    ASSERT_TRUE(Find<QLineEdit>("Text2")->isVisible());
+    QTest::keyClick(Find<QWidget>(control), Qt::Key_Escape);
+    EXPECT_FALSE(Find<QLineEdit>("Text2")->isVisible()) << control;
+  }
   Press("SSCommand2");
   Type("Text2", "A/B");
   Press("SSCommand2");

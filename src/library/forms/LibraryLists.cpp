@@ -78,15 +78,19 @@ void LibraryLists::ShowVideos() {
 }
 
 /// True when the library folder cannot be reached. The user's own on this machine, where it has not been there
-/// yet, comes with the first instructor.
+/// yet, comes with the first instructor, unless something else stands in its place.
 bool LibraryLists::LibraryGone() {
   if (browser_.Silent()) return false;
   const std::string& root = browser_.Tree().Root();
-  if (browser_.Drives().Ask(root, [root] { return dirExists(root); }).value_or(false)) {
+  enum class Place { Folder, File, Nothing };
+  const auto place = browser_.Drives().Ask(root, [root] {
+    return dirExists(root) ? Place::Folder : FileExists(root) ? Place::File : Place::Nothing;
+  });
+  if (place == Place::Folder) {
     reached_ = root;
     return false;
   }
-  return settings_.UseNetwork || reached_ == root || browser_.Purpose() == LibraryBrowser::Kind::Exchange;
+  return place == Place::File || settings_.UseNetwork || reached_ == root || browser_.Purpose() == LibraryBrowser::Kind::Exchange;
 }
 
 /// The lists fill by themselves when a library that is silent answers again.
