@@ -182,6 +182,12 @@ TEST_F(AnalysisFormTest, TimerAndRulerWorkOverTheStage) {
   Click("CmdAfunctions4");
   ASSERT_TRUE(Seen("TransFrame5"));
   EXPECT_FALSE(Enabled("CalibBtn0"));
+  ASSERT_TRUE(Seen("DrawCaption"));
+  const QObjectList& above = Find<QWidget>("MainPanel")->children();
+  EXPECT_GT(above.indexOf(Find<QWidget>("TransFrame5")), above.indexOf(Find<QWidget>("DrawCaption")));
+  QTest::keyClick(Find<QWidget>("CalibBtn1"), Qt::Key_Return);
+  EXPECT_FALSE(Seen("TransFrame5"));
+  Click("CmdAfunctions4");
   ClickOn("MP1", {100, 50});
   ClickOn("MP1", {200, 50});
   EXPECT_EQ(Text("Label4"), "100pts");
