@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <optional>
 #include <system_error>
 #include <vector>
 
@@ -200,10 +201,12 @@ bool SaveNotes(const std::string& studentFolder, std::string_view notes, std::st
 
 namespace {
 
-/// Makes a folder that nobody else has: one that another workstation has just made is theirs.
-bool MakeNewFolder(const std::string& path) {
+/// Makes a folder that nobody else has: one that another workstation has just made is theirs. Gives why it
+/// could not, or nothing.
+std::optional<std::string> MakeNewFolder(const std::string& path) {
   std::error_code failed;
-  return std::filesystem::create_directory(path, failed);
+  if (std::filesystem::create_directory(path, failed)) return std::nullopt;
+  return failed ? failed.message() : "it has just been made by somebody else";
 }
 
 }  // namespace
@@ -217,7 +220,7 @@ Outcome AddStudent(const std::string& instructorFolder, const FieldTexts& captio
   if (HasFolderNamed(instructorFolder, name))
     return {false, "The " + person + " name that you have chosen already exists on the system."};
   if (!IsValidName(name)) return {false, "Invalid character in name."};
-  if (!MakeNewFolder(folder) || !MakeProfile(folder, captions, values))
+  if (MakeNewFolder(folder) || !MakeProfile(folder, captions, values))
     return {false, "An error has occurred while creating the profile"};
   return {true, "New " + person + " successfully created."};
 }
@@ -227,7 +230,7 @@ Outcome AddInstructor(const std::string& root, std::string_view name) {
   if (IsBlank(name)) return {false, "You must type a name!"};
   const std::string folder = JoinPath(root, name);
   if (SameName(name, kGeneralFolder) || HasFolderNamed(root, name)) return {false, std::string(name) + " already exists."};
-  if (!MakeNewFolder(folder)) return {false, "The folder " + folder + " cannot be made."};
+  if (const auto reason = MakeNewFolder(folder)) return {false, "The folder " + folder + " cannot be made: " + *reason + "."};
   return {true, std::string(name) + " successfully added!"};
 }
 

@@ -1,7 +1,9 @@
 #include "library/VideoTransfer.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <set>
+#include <system_error>
 #include <utility>
 
 #include "library/LibraryTree.h"
@@ -107,7 +109,10 @@ bool VideoTransferJob::BeginOne() {
 }
 
 bool VideoTransferJob::TakeStudent(const VideoTransfer& student) {
-  if (!MakeFolder(student.folder)) return Fail("The folder " + student.folder + " cannot be made.");
+  std::error_code failed;
+  std::filesystem::create_directories(student.folder, failed);
+  if (!dirExists(student.folder))
+    return Fail("The folder " + student.folder + " cannot be made: " + failed.message() + ".");
   TakeProfile(student);
   ++studentsDone_;
   ++next_;

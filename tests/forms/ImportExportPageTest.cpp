@@ -115,6 +115,7 @@ TEST_F(ImportExportPageTest, TellsOfADriveThatIsMissingOrIsTheLibraryItself) {
   library.host.folders = {library.Root()};
   Press("Drive1Browse");
   EXPECT_EQ(library.settings.Exporter, library.Root());
+  EXPECT_EQ(Text("IEDisplay"), "") << "this one is there";
   library.host.answers = {true};
   Press("IECmd0");
   EXPECT_NE(library.host.messages.back().find("belongs to this library"), std::string::npos);

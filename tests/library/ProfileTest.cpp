@@ -140,6 +140,8 @@ TEST_F(ProfileTest, NewNamesAreCheckedInOrder) {
       {"Anna", "Anna already exists."},       {"General Folder", "General Folder already exists."}};
   for (const auto& [name, words] : instructors) EXPECT_EQ(AddInstructor(library.Root(), name).message, words);
   EXPECT_TRUE(std::filesystem::is_directory(library.Path("Anna")));
+  const std::string file = library.File("no folder");
+  EXPECT_EQ(AddInstructor(file, "Ben").message, "The folder " + file + "/Ben cannot be made: Not a directory.");
 }
 
 TEST_F(ProfileTest, NotesComeBackAsTheyWereAndEmptyOnesLeaveNoFile) {

@@ -107,13 +107,13 @@ void ImportExportPage::SetupVocabulary() {
 }
 
 void ImportExportPage::Open() {
-  Say({});
   Drive1_->Refresh();
   here_->Open(LastStudent_);
   OpenDrive();
 }
 
 void ImportExportPage::OpenDrive() {
+  Say({});  // what was told of the former place does not hold for this one
   const std::string drive = Drive1_->Path();
   if (drive == otherRoot_ && !drive.empty()) {
     there_->Refresh();
