@@ -13,8 +13,9 @@ constexpr const char* kPictureFilter =
 constexpr std::int32_t kPlaces = 10;
 constexpr std::int32_t kPlacesInRow = 3;
 
-bool Choose(IHost& host, Settings& settings, const char* title, std::string& setting, const IsPicture& isPicture) {
-  const auto picture = host.PickFile({title, JoinPath(settings.AppPath, "pictures/backgrounds"), kPictureFilter});
+bool Choose(IHost& host, Settings& settings, const char* title, const char* folder, std::string& setting,
+            const IsPicture& isPicture) {
+  const auto picture = host.PickFile({title, JoinPath(settings.AppPath, folder), kPictureFilter});
   if (!picture) return false;
   if (!isPicture(*picture)) {
     host.Message(MessageKind::Warning, title,
@@ -45,14 +46,16 @@ std::string CheckBackground(IHost& host, Settings& settings) {
 }
 
 bool ChooseBackground(IHost& host, Settings& settings, const IsPicture& isPicture) {
-  return Choose(host, settings, "Background Picture", settings.BackgroundPic, isPicture);
+  return Choose(host, settings, "Background Picture", "pictures/backgrounds", settings.BackgroundPic, isPicture);
 }
 
 bool ChooseLogo(IHost& host, Settings& settings, const IsPicture& isPicture) {
-  return Choose(host, settings, "Logo", settings.LogoName, isPicture);
+  return Choose(host, settings, "Logo", "pictures", settings.LogoName, isPicture);
 }
 
 void ResetBackground(Settings& settings) { settings.Set(settings.BackgroundPic, DefaultBackground(settings)); }
+
+void ResetLogo(Settings& settings) { settings.Set(settings.LogoName, JoinPath(settings.AppPath, "pictures/Logo.jpg")); }
 
 void NextCaptionPosition(Settings& settings) {
   const std::int32_t next = settings.CaptionPosition + 1;

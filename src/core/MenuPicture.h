@@ -26,6 +26,8 @@ bool ChooseBackground(IHost& host, Settings& settings, const IsPicture& isPictur
 bool ChooseLogo(IHost& host, Settings& settings, const IsPicture& isPicture);
 /// Goes back to the picture that comes with the program.
 void ResetBackground(Settings& settings);
+/// Goes back to the logo that comes with the program.
+void ResetLogo(Settings& settings);
 
 /// Moves the heading lines to the next of the ten places, from the last to the first, and writes it.
 void NextCaptionPosition(Settings& settings);

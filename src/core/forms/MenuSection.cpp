@@ -103,6 +103,16 @@ void MenuSection::AddLogo() {
   row->addWidget(choose);
   row->addWidget(logoName_, 1);
   rows->addLayout(row);
+  auto* reset = new Button("DefaultLogoBtn", "Default Logo", {}, Look::Quiet);
+  reset->setToolTip("Back to the logo that comes with Kinalyx");
+  auto* back = new QHBoxLayout;
+  back->addWidget(reset);
+  back->addStretch(1);
+  rows->addLayout(back);
+  connect(reset, &QPushButton::clicked, this, [this] {
+    ResetLogo(settings_);
+    ShowLogo();
+  });
   connect(UseLogochk_, &QCheckBox::toggled, this, [this](bool on) {
     Store(settings_.Logo, on);
     logo_->setEnabled(on);
