@@ -7,6 +7,8 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QStyle>
+#include <QStyleOptionFrame>
 
 #include "core/ColorSchemes.h"
 #include "core/LibraryPath.h"
@@ -32,6 +34,39 @@ void ShowText(QLineEdit* box, const std::string& text) {
 }
 
 }  // namespace
+
+/// A path to be read: elided in the middle where it is too long, and whole in its tip.
+class PathBox final : public QLineEdit {
+ public:
+  PathBox() { setReadOnly(true); }
+  void ShowPath(const QString& path) {
+    path_ = path;
+    setToolTip(path);
+    setAccessibleDescription(path);
+    Elide();
+  }
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override {
+    QLineEdit::resizeEvent(event);
+    Elide();
+  }
+  void changeEvent(QEvent* event) override {
+    QLineEdit::changeEvent(event);
+    if (event->type() == QEvent::StyleChange || event->type() == QEvent::FontChange) Elide();
+  }
+
+ private:
+  void Elide() {
+    QStyleOptionFrame option;
+    initStyleOption(&option);
+    const QRect room = style()->subElementRect(QStyle::SE_LineEditContents, &option, this);
+    constexpr int kBesideText = 6;  // a text box keeps so much free for its cursor
+    setText(fontMetrics().elidedText(path_, Qt::ElideMiddle, room.width() - kBesideText));
+  }
+
+  QString path_;
+};
 
 GeneralSection::GeneralSection(IHost& host, Settings& settings, ColorSchemes& schemes, QWidget* parent)
     : SetupSection("GeneralSection", settings, parent), host_(host), schemes_(schemes) {
@@ -94,8 +129,12 @@ void GeneralSection::AddLibrary() {
   network_->setObjectName("SSCheck4");
   network_->setToolTip("Keep the videos in a folder of your choice, for example on a server");
   rows->addWidget(network_);
-  path_ = AddText(*rows, "Networktext", "Folder of the videos");
-  path_->setReadOnly(true);
+  path_ = new PathBox;
+  path_->setObjectName("Networktext");
+  QLabel* caption = MakeLabel({}, "Folder of the videos", "caption");
+  caption->setBuddy(path_);
+  rows->addWidget(caption);
+  rows->addWidget(path_);
   connect(network_, &QCheckBox::clicked, this, &GeneralSection::SSCheck4_Click);
 }
 
@@ -139,9 +178,7 @@ void GeneralSection::SetupProgram() {
 
 void GeneralSection::ShowLibrary() {
   network_->setChecked(settings_.UseNetwork);
-  path_->setText(Text(settings_.LibraryPath));
-  path_->setCursorPosition(0);
-  path_->setToolTip(path_->text());
+  path_->ShowPath(Text(settings_.LibraryPath));
 }
 
 void GeneralSection::Text3_LostFocus() {

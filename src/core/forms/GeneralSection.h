@@ -12,6 +12,7 @@ namespace kinalyx {
 class ColorSchemes;
 class Gauge;
 class IHost;
+class PathBox;
 
 /// Who works here, the word for the people, window, colours, library and the system test.
 class GeneralSection : public SetupSection {
@@ -51,7 +52,7 @@ class GeneralSection : public SetupSection {
   QComboBox* resolution_ = nullptr;
   QButtonGroup* designs_ = nullptr;
   QCheckBox* network_ = nullptr;
-  QLineEdit* path_ = nullptr;
+  PathBox* path_ = nullptr;
   QWidget* results_ = nullptr;
   QLabel* titles_[5] = {};
   QLabel* texts_[5] = {};

@@ -33,24 +33,36 @@ class SummaryLine final : public QWidget {
   void SetFacts(QStringList facts) {
     facts_ = std::move(facts);
     setAccessibleName(facts_.join(", "));
+    setToolTip(facts_.join("   "));
     update();
   }
 
  protected:
   void paintEvent(QPaintEvent*) override {
-    constexpr int kSpace = 18;
     QPainter painter(this);
     painter.setPen(CurrentTheme().muted);
+    // They stand closer where that lets another one in.
+    constexpr int kSpaces[] = {18, 14, 10};
+    int space = kSpaces[0];
+    for (const int closer : kSpaces)
+      if (FactsIn(painter.fontMetrics(), closer) > FactsIn(painter.fontMetrics(), space)) space = closer;
     int left = 0;
-    for (const QString& fact : facts_) {
-      const int wide = FiguresWidth(painter.fontMetrics(), fact);
-      if (left + wide > width()) break;
-      DrawFigures(painter, QRect(left, 0, wide, height()), Qt::AlignLeft, fact);
-      left += wide + kSpace;
+    for (qsizetype at = 0; at < FactsIn(painter.fontMetrics(), space); ++at) {
+      const int wide = FiguresWidth(painter.fontMetrics(), facts_[at]);
+      DrawFigures(painter, QRect(left, 0, wide, height()), Qt::AlignLeft, facts_[at]);
+      left += wide + space;
     }
   }
 
  private:
+  /// How many of the facts find room when they stand so far apart.
+  qsizetype FactsIn(const QFontMetrics& metrics, int space) const {
+    int right = -space;
+    qsizetype count = 0;
+    while (count < facts_.size() && (right += space + FiguresWidth(metrics, facts_[count])) <= width()) ++count;
+    return count;
+  }
+
   QStringList facts_;
 };
 

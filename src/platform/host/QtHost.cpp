@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QProcess>
 #include <QScreen>
@@ -18,6 +19,9 @@
 
 namespace kinalyx {
 namespace {
+
+/// Pixels. A message is as wide as its title, but no wider than this for its sake.
+constexpr int kWidestTitle = 520;
 
 QString Text(const std::string& text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
 
@@ -89,6 +93,9 @@ class QtHost final : public QObject, public IHost {
     QMessageBox box(IconOf(kind), Title(title), Text(text), QMessageBox::Ok, QApplication::activeWindow());
     box.setObjectName("MessageBox");
     box.setTextFormat(Qt::PlainText);
+    // Beside the words stand the icon and the edges; the title bar needs about as much for its buttons.
+    if (auto* words = box.findChild<QLabel*>("qt_msgbox_label"))
+      words->setMinimumWidth(std::min(kWidestTitle, box.fontMetrics().horizontalAdvance(box.windowTitle()) + 40));
     box.exec();
   }
 
