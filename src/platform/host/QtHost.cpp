@@ -89,13 +89,14 @@ class QtHost final : public QObject, public IHost {
 
   void DoEvents() override { QCoreApplication::processEvents(); }
 
-  void Message(MessageKind kind, const std::string& title, const std::string& text) override {
-    QMessageBox box(IconOf(kind), Title(title), Text(text), QMessageBox::Ok, QApplication::activeWindow());
+  void Message(MessageKind kind, const std::string& heading, const std::string& text) override {
+    QMessageBox box(IconOf(kind), Title(heading), Text(text), QMessageBox::Ok, QApplication::activeWindow());
     box.setObjectName("MessageBox");
     box.setTextFormat(Qt::PlainText);
     // Beside the words stand the icon and the edges; the title bar needs about as much for its buttons.
-    if (auto* words = box.findChild<QLabel*>("qt_msgbox_label"))
-      words->setMinimumWidth(std::min(kWidestTitle, box.fontMetrics().horizontalAdvance(box.windowTitle()) + 40));
+    const int title = std::min(kWidestTitle, box.fontMetrics().horizontalAdvance(box.windowTitle()) + 40);
+    auto* words = box.findChild<QLabel*>("qt_msgbox_label");
+    if (words && words->sizeHint().width() < title) words->setMinimumWidth(title);
     box.exec();
   }
 
