@@ -9,7 +9,7 @@ namespace kinalyx {
 BadVideos::Fate BadVideos::Offer(const LibraryVideo& video) {
   const auto look = [path = video.path]() -> std::optional<FileState> {
     if (!FileExists(path)) return std::nullopt;
-    return FileState{path, FileSize(path), FileTime(path)};
+    return FileState{path, StampOf(path)};
   };
   const auto state = host_.Drives().Ask(settings_.LibraryPath, look);
   if (!state) return Fate::Kept;

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <cstdint>
 #include <optional>
 #include <set>
 #include <string>
-#include <tuple>
+#include <utility>
 
 #include "library/LibraryOperations.h"
+#include "platform/files/Folders.h"
 
 namespace kinalyx {
 
@@ -28,8 +28,7 @@ class BadVideos {
   Fate Offer(const LibraryVideo& video);
 
  private:
-  /// Path, size and time of last writing.
-  using FileState = std::tuple<std::string, std::optional<std::int64_t>, std::optional<std::int64_t>>;
+  using FileState = std::pair<std::string, std::optional<FileStamp>>;
 
   IHost& host_;
   const Settings& settings_;

@@ -6,7 +6,6 @@
 #include <cmath>
 #include <utility>
 
-#include "platform/files/Folders.h"
 #include "platform/host/DriveWatch.h"
 #include "workspace/MultiPicture.h"
 #include "workspace/PlayerPlace.h"
@@ -179,7 +178,7 @@ bool Workspace::OpenVideo(int slot, const std::string& path) {
     return false;
   }
   at.base = at.data = ReadVideoData(SidecarPath(path), *info, settings_.NewColors);
-  at.sidecarTime = FileTime(SidecarPath(path));
+  at.sidecarStamp = StampOf(SidecarPath(path));
   if (!at.MP->Load(path, at.data.SplitFields, at.data.ReverseFields)) {
     RefuseVideo(slot, path, true);
     return false;
@@ -260,7 +259,7 @@ bool Workspace::SaveData(int slot, std::string* error) {
     return false;
   }
   const std::string sidecar = SidecarPath(at.path);
-  if (FileTime(sidecar) != at.sidecarTime) at.savedElsewhere = true;
+  if (StampOf(sidecar) != at.sidecarStamp) at.savedElsewhere = true;
   if (!changed && at.savedElsewhere) return true;
   // A video that somebody else has taken away needs no sidecar; new work on it is kept all the same.
   if (!changed && !FileExists(at.path)) return true;
@@ -270,7 +269,7 @@ bool Workspace::SaveData(int slot, std::string* error) {
   if (at.savedElsewhere && at.MP->Info())
     AddMissingWork(whole, ReadVideoData(sidecar, *at.MP->Info(), settings_.NewColors), at.base);
   if (!WriteVideoData(sidecar, whole, error)) return false;
-  at.sidecarTime = FileTime(sidecar);
+  at.sidecarStamp = StampOf(sidecar);
   at.changed = at.data.Unread = false;
   const bool notesCame = at.data.Notes != whole.Notes;
   at.data.Notes = whole.Notes;

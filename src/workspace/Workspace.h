@@ -1,7 +1,6 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -9,6 +8,7 @@
 
 #include "core/Settings.h"
 #include "library/Sidecar.h"
+#include "platform/files/Folders.h"
 #include "video/AVIControl.h"
 #include "workspace/IWorkspaceView.h"
 #include "workspace/Layout.h"
@@ -28,7 +28,7 @@ struct Slot {
   std::vector<int> marks;    ///< positions, at most ten
   bool changed = false;      ///< fields or notes differ from what the sidecar held
   SlotData base;                ///< this slot's own work as it was read or written last
-  std::optional<std::int64_t> sidecarTime;  ///< when its sidecar was written, as it was then
+  std::optional<FileStamp> sidecarStamp;  ///< of its sidecar, as it was then
   bool savedElsewhere = false;  ///< another slot, or another workstation, has written the same sidecar since
   bool refused = false;         ///< its work could not be written when it was tried last
   bool placed = false;          ///< its video has had a place, and what is drawn over it the size

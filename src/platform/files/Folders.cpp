@@ -1,7 +1,6 @@
 #include "platform/files/Folders.h"
 
 #include <algorithm>
-#include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <memory>
@@ -164,11 +163,11 @@ std::optional<std::int64_t> FileSize(const std::string& path) {
   return static_cast<std::int64_t>(size);
 }
 
-std::optional<std::int64_t> FileTime(const std::string& path) {
-  std::error_code failed;
-  const auto time = fs::last_write_time(path, failed);
-  if (failed) return std::nullopt;
-  return std::chrono::duration_cast<std::chrono::nanoseconds>(time.time_since_epoch()).count();
+std::optional<FileStamp> StampOf(const std::string& path) {
+  struct stat state {};
+  if (stat(path.c_str(), &state) != 0) return std::nullopt;
+  constexpr std::int64_t kNanoseconds = 1'000'000'000;
+  return FileStamp{state.st_ino, state.st_size, state.st_mtim.tv_sec * kNanoseconds + state.st_mtim.tv_nsec};
 }
 
 std::int64_t FreeBytes(const std::string& path) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <compare>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -26,8 +27,17 @@ bool MakeFolder(const std::string& path);
 bool KillFile(const std::string& path);
 /// Bytes, or nothing when the file cannot be read.
 std::optional<std::int64_t> FileSize(const std::string& path);
-/// When the file was last written, in nanoseconds of a clock of the system's; nothing when it cannot be asked.
-std::optional<std::int64_t> FileTime(const std::string& path);
+/// One state of a file: another when it has been written to or replaced since, also within one beat of the
+/// disk's clock.
+struct FileStamp {
+  std::uint64_t number = 0;  ///< of the file on its disk
+  std::int64_t bytes = 0;
+  std::int64_t written = 0;  ///< nanoseconds of the disk's clock
+
+  friend auto operator<=>(const FileStamp&, const FileStamp&) = default;
+};
+/// Nothing when it cannot be asked.
+std::optional<FileStamp> StampOf(const std::string& path);
 /// Free bytes of the drive that holds `path` (or the nearest folder above it that exists); -1 unknown.
 std::int64_t FreeBytes(const std::string& path);
 
