@@ -73,7 +73,6 @@ class AVIControl::Strobe final : public IPlayRun {
     control_.CurrentRawFrame_ += step_;
     const bool field = control_.CurrentField_;
     if (!control_.CopyFieldOf(control_.CurrentRawFrame_, picture_)) return false;
-    if (kind_ == Kind::Scene && !StrobeLayers::Fits(Shape(), field)) return false;
     // A control that has not softened anything yet shows its first picture as it is.
     if (!control_.softened_) return true;
     if (kind_ == Kind::Scene) {

@@ -61,10 +61,6 @@ FieldRows StrobeRows(int height, bool currentField) {
   return currentField ? FieldRows{2, lastRow - 2 - 2} : FieldRows{1, lastRow - 1 - 2};
 }
 
-bool StrobeLayers::Fits(RowShape shape, bool currentField) {
-  return shape.rowBytes <= kMostRowBytes && StrobeRows(shape.height, currentField).last + 2 <= kMostRow;
-}
-
 StrobeLayers::StrobeLayers(RowShape shape)
     : shape_(shape), touched_(static_cast<std::size_t>(shape.rowBytes) * static_cast<std::size_t>(shape.height), 0) {}
 

@@ -25,13 +25,8 @@ FieldRows StrobeRows(int height, bool currentField);
 /// where poses fall on each other, scene and poses are blended.
 class StrobeLayers {
  public:
-  static constexpr int kMostRowBytes = 3840;
-  static constexpr int kMostRow = 718;
   /// Differences of a colour up to this are noise.
   static constexpr int kNoise = 20;
-
-  /// True for pictures small enough to be strobed.
-  static bool Fits(RowShape shape, bool currentField);
 
   /// Begins a strobe: no place has been touched yet.
   explicit StrobeLayers(RowShape shape);

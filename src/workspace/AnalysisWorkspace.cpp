@@ -42,6 +42,7 @@ void AnalysisWorkspace::ConnectModes() {
     transport_.ShowCurrent();
     view_.CommandsChanged();
   };
+  compare_.Strobe().RunningChanged = [this] { view_.CommandsChanged(); };
   compare_.TransparencySwitched = [this](bool on) {
     workspace_.BarHidden = on;
     workspace_.FormReset();

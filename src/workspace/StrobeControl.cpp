@@ -121,6 +121,7 @@ void StrobeControl::Run(int start, int end) {
   Caption(StrobeButton::Strobe, StrobeCaption::Stop);
   ShowResult();
   player.OnStrobeEnd([this, slot] { Ended(slot); });
+  RunningChanged();
   player.Strobeframes(start, end, StrobeStep());
 }
 
@@ -134,6 +135,7 @@ void StrobeControl::Ended(int slot) {
   result_ = slot;
   Caption(StrobeButton::Strobe, StrobeCaption::Strobe);
   ShowResult();
+  RunningChanged();
 }
 
 ImageResult StrobeControl::SavePicture(const std::string& path) const {

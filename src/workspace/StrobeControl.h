@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <string>
 
 #include "core/Settings.h"
@@ -49,6 +50,8 @@ class StrobeControl {
   /// stops that instead. Nothing happens where there is an obstacle.
   void StrobeBtn_Click();
   bool StrobeRunning() const { return running_ != 0; }
+  /// A strobe has begun or ended, however it did.
+  std::function<void()> RunningChanged = [] {};
   /// Forgets start and end and stops a running strobe.
   void ResetStrobe();
   /// Seeks the current video, and those locked with it.

@@ -108,14 +108,6 @@ TEST(StrobeLayers, LayPosesOverTheStartPicture) {
   }
 }
 
-TEST(StrobeLayers, KnowTheirLimits) {
-  EXPECT_TRUE(StrobeLayers::Fits({3840, 720}, false));
-  EXPECT_FALSE(StrobeLayers::Fits({3844, 480}, false));
-  EXPECT_FALSE(StrobeLayers::Fits({3840, 721}, false));
-  EXPECT_TRUE(StrobeLayers::Fits({3840, 721}, true));
-  EXPECT_FALSE(StrobeLayers::Fits({3840, 722}, true));
-}
-
 // ---------------------------------------------------------------- in the player
 
 /// A white bar that walks over a dark ground: at x = 8n + 4 in frame n, 8 pixels wide.

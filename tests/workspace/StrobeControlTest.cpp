@@ -52,12 +52,16 @@ TEST_F(StrobeControlTest, QuickStrobeRunsToTheEndAndASecondPressStopsIt) {
   EXPECT_EQ(stage_.At(1), at);
   EXPECT_TRUE(strobe_.HasResult());  // what there is stays
 
+  // The button that shows it is told of every end, also of one that comes by itself.
+  std::vector<bool> told;
+  strobe_.RunningChanged = [&] { told.push_back(strobe_.StrobeRunning()); };
   stage_.MP(1).DrawFrame(20);
   EXPECT_FALSE(strobe_.HasResult() || strobe_.SavePicture(TestPath("none.png")));
   strobe_.StrobeBtn_Click();
   stage_.host.Advance(5000);
   EXPECT_FALSE(strobe_.StrobeRunning());
   EXPECT_GE(stage_.At(1), 36);
+  EXPECT_EQ(told, (std::vector<bool>{true, false}));
   stage_.Slots().SelectWindow(2);
   strobe_.StrobeBtn_Click();  // an empty window
   EXPECT_FALSE(strobe_.StrobeRunning());
