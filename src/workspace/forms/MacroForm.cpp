@@ -67,6 +67,7 @@ MacroForm::MacroForm(DrawingEdits& edits, QWidget* stage)
     button->setObjectName(name);
     button->setToolTip(tip);
     button->setFocusPolicy(Qt::TabFocus);
+    button->setAutoDefault(true);  // Return presses the one that has the keys
     buttons->addWidget(button, 1);
     return button;
   };
