@@ -3,18 +3,23 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace kinalyx {
 
 void DisplayRateTest::VidTest_Click() {
   const int slot = workspace_.CurrentWindow;
   if (!workspace_.HasVideo(slot)) return;
+  Stop();
   AVIControl& player = workspace_.MP(slot);
-  slot_ = 0;  // a play that is under way ends without a result
   player.StopPlay();
   slot_ = slot;
   DisplayRateCounter_ = 0;
   player.Play(0, player.VideoLength() - 1);
+}
+
+void DisplayRateTest::Stop() {
+  if (const int slot = std::exchange(slot_, 0)) workspace_.MP(slot).StopPlay();
 }
 
 void DisplayRateTest::Signal(int slot) {
@@ -24,7 +29,9 @@ void DisplayRateTest::Signal(int slot) {
 void DisplayRateTest::Notify(int slot) {
   if (slot != slot_) return;
   slot_ = 0;
-  const int length = workspace_.MP(slot).VideoLength();
+  const AVIControl& player = workspace_.MP(slot);
+  const int length = player.VideoLength();
+  if (player.Position() < length - 1) return;  // a click stopped it: the count says nothing
   // The percentage takes two figures after the point and says little by itself: the plain count follows it.
   // Told from the event loop: a message box must not hold up the player that is ending its play.
   tell_ = HostTimer(host_, 0, false, [this, length, counter = DisplayRateCounter_] {

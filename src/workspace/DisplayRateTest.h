@@ -12,6 +12,8 @@ class DisplayRateTest {
 
   void VidTest_Click();
   bool Running() const { return slot_ != 0; }
+  /// Ends the test without a result.
+  void Stop();
 
   /// A picture of a slot was shown.
   void Signal(int slot);

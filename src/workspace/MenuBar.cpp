@@ -72,7 +72,9 @@ void MenuBar::SelectByKeypad(int slot) {
 
 void MenuBar::Escape() {
   // What is in hand is put down first; only a free hand closes the videos.
-  if (ruler_.Shown()) {
+  if (rateTest_.Running()) {
+    rateTest_.Stop();
+  } else if (ruler_.Shown()) {
     ruler_.CalibBtn_Click(1);
   } else if (tools_.Drawing()) {
     tools_.DrawOffBtn_Click();

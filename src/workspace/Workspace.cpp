@@ -314,16 +314,15 @@ void Workspace::SetNotes(int slot, const std::string& notes) {
 }
 
 bool Workspace::MnuCloseAll_Click() {
-  std::vector<ClosedVideo> closed;
-  for (int slot = 1; slot <= kSlots; ++slot)
-    if (HasVideo(slot)) closed.push_back({slot, At(slot).path, MP(slot).Position()});
-  const std::string layout = Maximized() ? SavedLayout : ScreenLayout;
-  bool all = true;
-  for (const ClosedVideo& video : closed) all = CloseVideo(video.slot) && all;
-  if (!closed.empty()) {
-    closed_ = std::move(closed);
-    closedLayout_ = layout;
+  ClosedStage stage{{}, Maximized() ? SavedLayout : ScreenLayout, CurrentWindow};
+  for (int slot = 1; slot <= kSlots; ++slot) {
+    if (!HasVideo(slot)) continue;
+    const Slot& at = At(slot);
+    stage.videos.push_back({slot, at.path, at.MP->Position(), at.MP->FlipHorizontal(), at.VideoZoom, at.PanX, at.PanY});
   }
+  bool all = true;
+  for (const ClosedVideo& video : stage.videos) all = CloseVideo(video.slot) && all;
+  if (!stage.videos.empty()) closed_ = std::move(stage);
   CurrentWindow = 1;
   FocusSet();
   view_.CommandsChanged();
@@ -331,16 +330,27 @@ bool Workspace::MnuCloseAll_Click() {
 }
 
 bool Workspace::CanReopen() const {
-  return !closed_.empty() && std::ranges::all_of(slots_, [](const Slot& at) { return at.path.empty(); });
+  return !closed_.videos.empty() && std::ranges::all_of(slots_, [](const Slot& at) { return at.path.empty(); });
+}
+
+void Workspace::Reopen(const ClosedVideo& video) {
+  if (!OpenVideo(video.slot, video.path)) return;
+  Slot& at = At(video.slot);
+  at.VideoZoom = video.zoom;
+  at.PanX = video.panX;
+  at.PanY = video.panY;
+  if (video.flipped) Flip(video.slot);
+  MPResize(video.slot);
+  at.MP->DrawFrame(video.position);
 }
 
 void Workspace::ReopenClosed() {
   if (!CanReopen()) return;
-  const auto videos = std::exchange(closed_, {});
-  SetScreen(Val(closedLayout_));
-  for (const ClosedVideo& video : videos)
-    if (OpenVideo(video.slot, video.path)) MP(video.slot).DrawFrame(video.position);
-  SelectWindow(videos.front().slot);
+  const ClosedStage stage = std::exchange(closed_, {});
+  ScreenLayout = stage.layout;
+  FormReset();
+  for (const ClosedVideo& video : stage.videos) Reopen(video);
+  SelectWindow(stage.currentWindow);
   view_.CommandsChanged();
 }
 
@@ -422,11 +432,15 @@ void Workspace::SetRefused(int slot, bool refused) {
 
 void Workspace::ToggleFlip() {
   if (!HasVideo(CurrentWindow)) return;
-  AVIControl& player = MP(CurrentWindow);
-  player.setFlipHorizontal(!player.FlipHorizontal());
-  PictureFlipped(CurrentWindow);
-  player.Refresh();
+  Flip(CurrentWindow);
   view_.CommandsChanged();
+}
+
+void Workspace::Flip(int slot) {
+  AVIControl& player = MP(slot);
+  player.setFlipHorizontal(!player.FlipHorizontal());
+  PictureFlipped(slot);
+  player.Refresh();
 }
 
 void Workspace::ToggleSplitFields() {

@@ -97,7 +97,8 @@ class Workspace {
   bool CloseVideo(int slot);
   /// False when the user kept one open.
   bool MnuCloseAll_Click();
-  /// Opens again what MnuCloseAll_Click closed last: the same videos at the same pictures in the same layout.
+  /// Opens again what MnuCloseAll_Click closed last: the same videos at the same pictures, mirrored and
+  /// zoomed as they were, in the same layout.
   /// Nothing happens once a video stands in a slot.
   void ReopenClosed();
   bool CanReopen() const;
@@ -166,25 +167,36 @@ class Workspace {
   std::function<void()> StateChanged;
 
  private:
-  bool Fill(int first, int last);
-  bool SaveOrAsk(int slot);
-  void ShowTitle(int slot);
-  int BarHeight(const TwipRect& cell) const;
-  void RefuseVideo(int slot, const std::string& path, bool hasStream);
-
-  IHost& host_;
-  Settings& settings_;
-  IWorkspaceView& view_;
   /// A video as it stood when all were closed.
   struct ClosedVideo {
     int slot = 1;
     std::string path;
     int position = 0;
+    bool flipped = false;
+    double zoom = 1;
+    double panX = 0;
+    double panY = 0;
+  };
+  struct ClosedStage {
+    std::vector<ClosedVideo> videos;
+    std::string layout;
+    int currentWindow = 1;
   };
 
+  bool Fill(int first, int last);
+  bool SaveOrAsk(int slot);
+  void ShowTitle(int slot);
+  int BarHeight(const TwipRect& cell) const;
+  void RefuseVideo(int slot, const std::string& path, bool hasStream);
+  void Flip(int slot);
+  void Reopen(const ClosedVideo& video);
+
+  IHost& host_;
+  Settings& settings_;
+  IWorkspaceView& view_;
+
   std::array<Slot, kSlots> slots_;
-  std::vector<ClosedVideo> closed_;  ///< what was closed last, all at once
-  std::string closedLayout_;
+  ClosedStage closed_;  ///< what was closed last, all at once
 };
 
 }  // namespace kinalyx

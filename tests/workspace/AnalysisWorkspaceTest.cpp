@@ -374,6 +374,12 @@ TEST(DisplayRate, ReadsTheFirstTwoFiguresBehindThePoint) {
   stage.analysis.Player().cmdPlay();
   stage.host.Advance(3000);
   EXPECT_EQ(stage.host.messages.size(), 1u) << "an ordinary play is no test";
+  stage.Commands().Run("VidTest");
+  stage.host.Advance(300);
+  stage.Key(kKeyEscape);
+  stage.host.Advance(3000);
+  EXPECT_EQ(stage.host.messages.size(), 1u) << "a test that is stopped has no result";
+  EXPECT_TRUE(stage.Slots().HasVideo(1));
 }
 
 TEST(RulerCalibrationTest, TurnsPixelsIntoLengths) {

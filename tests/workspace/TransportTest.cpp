@@ -263,6 +263,11 @@ TEST(EscapeTest, LeavesOneThingAtATimeAndTheVideosComeBack) {
   stage.Open(1, stage.Video("a.avi"));
   stage.Open(2, stage.Video("b.avi"));
   stage.MP(2).DrawFrame(7);
+  stage.Slots().SelectWindow(2);
+  stage.Draw(kLine, {10, 20}, {50, 60});
+  stage.Slots().ToggleFlip();
+  stage.Slots().SetZoom(2);
+  const POINTAPI drawn = stage.Shapes(2).Shapes[0].Pts[0];
   stage.Commands().Run("TVT");
   stage.Commands().Run("TN");
   stage.Commands().Run("MZoom");
@@ -284,7 +289,11 @@ TEST(EscapeTest, LeavesOneThingAtATimeAndTheVideosComeBack) {
   stage.analysis.KeyDown('T', kShift | kCtrl, 1);
   EXPECT_TRUE(stage.Slots().HasVideo(1) && stage.Slots().HasVideo(2));
   EXPECT_EQ(stage.Slots().ScreenLayout, "2");
+  EXPECT_EQ(stage.Slots().CurrentWindow, 2);
   EXPECT_EQ(stage.At(2), 7);
+  EXPECT_TRUE(stage.MP(2).FlipHorizontal());
+  EXPECT_EQ(stage.Slots().Current().VideoZoom, 2);
+  EXPECT_EQ(stage.Shapes(2).Shapes[0].Pts[0], drawn);
 
   // Only as long as the stage is empty, and without what has gone from the disk meanwhile.
   stage.Key(kKeyEscape);
