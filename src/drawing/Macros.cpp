@@ -6,8 +6,6 @@
 
 #include <fmt/format.h>
 
-#include "platform/files/Folders.h"
-
 namespace kinalyx {
 namespace {
 
@@ -26,11 +24,13 @@ Macros::Macros(std::string appPath, std::string dataPath, IDisk& disk)
 
 std::string Macros::AppFile() const { return JoinPath(appPath_, kFileName); }
 std::string Macros::DataFile() const { return JoinPath(dataPath_, kFileName); }
+std::string Macros::File() const { return FileExists(DataFile()) ? DataFile() : AppFile(); }
 
 void Macros::LoadMList(ScreenTwips screen) {
-  if (std::exchange(loaded_, true)) return;
-  // The user's own file is newer wherever there is one: it exists because the program's could not be written.
-  const auto bytes = ReadWholeFile(FileExists(DataFile()) ? DataFile() : AppFile());
+  const auto stamp = StampOf(File());
+  if (!stamp || stamp == stamp_) return;
+  stamp_ = stamp;
+  const auto bytes = ReadWholeFile(File());
   ShapeFileContent content;
   if (!bytes) return;
   cutShort_ = bytes->size() > kShapeFileLimit;
@@ -63,8 +63,7 @@ bool Macros::KillMacro(int Index, std::string* error) {
 
 bool Macros::SaveMList(std::vector<ShapeList> lists, std::vector<std::string> names, std::string* error) {
   if (cutShort_) {
-    const std::string path = FileExists(DataFile()) ? DataFile() : AppFile();
-    const auto old = ReadWholeFile(path);
+    const auto old = ReadWholeFile(File());
     if (old && !WriteWholeFile(JoinPath(dataPath_, kKeptName), *old, error, disk_)) return false;
     cutShort_ = false;
   }
@@ -82,7 +81,7 @@ bool Macros::SaveMList(std::vector<ShapeList> lists, std::vector<std::string> na
   }
   lists_ = std::move(lists);
   names_ = std::move(names);
-  loaded_ = true;
+  stamp_ = StampOf(File());
   return true;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -8,6 +9,7 @@
 #include "drawing/ShapeFile.h"
 #include "drawing/ShapePainting.h"
 #include "platform/files/FileStore.h"
+#include "platform/files/Folders.h"
 #include "platform/paint/Surface.h"
 
 namespace kinalyx {
@@ -22,7 +24,8 @@ class Macros {
   const ShapeList& Macro(int Index) const { return lists_[static_cast<std::size_t>(Index)]; }
   const std::vector<std::string>& MacroNames() const { return names_; }
 
-  /// Reads the file, once; a missing one means no macros.
+  /// Reads the file, when it is not the one that was read or written last: another workstation, or another
+  /// user of this one, may keep macros in it too. A missing one changes nothing.
   void LoadMList(ScreenTwips screen);
 
   /// Keeps a copy of a window's drawings. Refused, with `error` for the user, without a name, beyond 256
@@ -39,6 +42,9 @@ class Macros {
  private:
   std::string AppFile() const;
   std::string DataFile() const;
+  /// The one that counts: the user's own is newer wherever there is one, for it exists because the program's
+  /// could not be written.
+  std::string File() const;
   /// Stores these as all macros; without any the file goes. On failure `error` says why, and the old file
   /// and the old macros stand. A file that was too long to be read whole is kept beside as "Macro.old"
   /// before it is replaced.
@@ -48,7 +54,7 @@ class Macros {
   std::string appPath_;
   std::string dataPath_;
   IDisk& disk_;
-  bool loaded_ = false;
+  std::optional<FileStamp> stamp_;  // of the file that was read or written last
   bool cutShort_ = false;  // the file that was read holds more than could be read
   std::vector<ShapeList> lists_;
   std::vector<std::string> names_;

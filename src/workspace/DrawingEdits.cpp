@@ -183,6 +183,11 @@ void DrawingEdits::SSCommand1_Click(int Index) {
   if (Index < 0 || Index >= macros_.NumMacros()) return;
   const std::string name = macros_.MacroNames()[static_cast<std::size_t>(Index)];
   if (!host_.Question("Remove macro", "Remove the macro \"" + name + "\"?")) return;
+  // Somebody else may have added or removed some meanwhile.
+  LoadMacros();
+  const auto& names = macros_.MacroNames();
+  if (Index >= macros_.NumMacros() || names[static_cast<std::size_t>(Index)] != name)
+    Index = static_cast<int>(std::ranges::find(names, name) - names.begin());
   std::string error;
   if (!macros_.KillMacro(Index, &error)) host_.Message(MessageKind::Warning, "Remove macro", "The macro could not be removed. " + error);
   view_.FillMacroList(macros_.MacroNames(), std::min(Index, macros_.NumMacros() - 1));

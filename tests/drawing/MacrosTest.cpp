@@ -51,6 +51,18 @@ TEST_F(MacrosTest, OutliveTheProgram) {
   EXPECT_FALSE(fs::exists(file_)) << "the last one takes the file with it";
 }
 
+TEST_F(MacrosTest, TwoUsersOfOneFolderKeepEachOthers) {
+  Macros mine(app_, data_);
+  Macros theirs(app_, data_);
+  mine.LoadMList({});
+  theirs.LoadMList({});
+  ASSERT_TRUE(theirs.CreateMacro("Theirs", list_));
+  mine.LoadMList({});
+  ASSERT_TRUE(mine.CreateMacro("Mine", list_));
+  theirs.LoadMList({});
+  EXPECT_EQ(theirs.MacroNames(), (std::vector<std::string>{"Theirs", "Mine"}));
+}
+
 TEST_F(MacrosTest, AnUnwritableProgramFolderGivesWayToTheUsersOwn) {
   // A folder of the file's name refuses to be written over, whoever runs the test.
   fs::create_directories(file_ / "taken");
