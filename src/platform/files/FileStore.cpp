@@ -115,10 +115,13 @@ bool WriteWholeFile(const std::string& path, std::span<const std::uint8_t> bytes
     disk.Remove(beside.string());
     return refuse(reason);
   }
-  // The new file is in place. Some network drives cannot flush a folder, and nothing can be taken back
-  // now, so a refusal here is no failure of the save.
-  const fs::path folder = target.parent_path();
-  disk.FlushFolder(folder.empty() ? "." : folder.string());
+  // A name that was there stands for the old file or the new one, both whole, until the system has written
+  // its folder in a few seconds. A new name would be nothing until then. Some network drives cannot flush a
+  // folder, and nothing can be taken back now, so a refusal here is no failure of the save.
+  if (!exists) {
+    const fs::path folder = target.parent_path();
+    disk.FlushFolder(folder.empty() ? "." : folder.string());
+  }
   return true;
 }
 

@@ -28,7 +28,8 @@ class IDisk {
 IDisk& RealDisk();
 
 /// Replaces a whole file: writes beside it, flushes, renames over it. The file holds either the old
-/// or the new bytes, whatever happens. On failure nothing is left behind, the old file stands, and
+/// or the new bytes, whatever happens; after a power cut within seconds of the call the old ones may stand
+/// again, but a file that is new stays. On failure nothing is left behind, the old file stands, and
 /// `error` (may be null) gets the reason in the system's words. A file with read-only permission, or
 /// one that is a link, is treated as an editor would: the link's target is replaced, read-only is refused.
 bool WriteWholeFile(const std::string& path, std::span<const std::uint8_t> bytes, std::string* error = nullptr,

@@ -41,22 +41,31 @@ class FailingDisk final : public IDisk {
   }
 };
 
-TEST(FileStore, EachFailureLeavesTheOldFileOrTheNewOne) {
+/// Saves with every call to the disk failing in turn, until a save made no more calls; returns how many it made.
+int FailEachCall(bool replaces) {
   int failAt = 0;
   for (bool failed = true; failed;) {
     TempFolder folder;
-    const std::string path = folder.Put("profile.prf", "the old bytes");
+    const std::string path = replaces ? folder.Put("profile.prf", "the old bytes") : folder.Path("profile.prf");
     FailingDisk disk;
     disk.failAt = ++failAt;
     std::string error;
     const bool saved = WriteWholeFile(path, std::string_view("the new bytes"), &error, disk);
     EXPECT_EQ(saved, disk.renamed) << "call " << failAt;
-    EXPECT_EQ(folder.Get("profile.prf"), saved ? "the new bytes" : "the old bytes") << "call " << failAt;
+    const bool there = replaces || saved;
+    EXPECT_EQ(folder.FileCount(), there ? 1u : 0u) << "call " << failAt;
+    if (there) {
+      EXPECT_EQ(folder.Get("profile.prf"), saved ? "the new bytes" : "the old bytes") << "call " << failAt;
+    }
     EXPECT_EQ(error.empty(), saved);
-    EXPECT_EQ(folder.FileCount(), 1u) << "call " << failAt;
     failed = disk.calls >= failAt;
   }
-  EXPECT_EQ(failAt, 10) << "open, four writes, flush, close, rename, flush of the folder; then none";
+  return failAt - 1;
+}
+
+TEST(FileStore, EachFailureLeavesTheOldFileOrTheNewOne) {
+  EXPECT_EQ(FailEachCall(true), 8) << "open, four writes, flush, close, rename";
+  EXPECT_EQ(FailEachCall(false), 9) << "a new name is flushed with its folder";
 }
 
 TEST(FileStore, TreatsOddTargetsAsAnEditorWould) {
