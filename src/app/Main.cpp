@@ -140,7 +140,9 @@ void Main::OpenPage(int index, const QString& title) {
   stack_->setCurrentWidget(page);
   if (rail) rail_->show();
   SetHeading(title);
-  page->setFocus();
+  // What had the keys there, or was given them as the page showed itself, has them.
+  QWidget* const inside = page->focusWidget();
+  (inside ? inside : page)->setFocus();
 }
 
 void Main::SetHeading(const QString& title) { title_->setText(title); }

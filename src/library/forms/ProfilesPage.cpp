@@ -156,7 +156,7 @@ void ProfilesPage::ShowResult(const OperationResult& result) {
 void ProfilesPage::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
   Open();
-  if (!focusWidget()) lists_->StudentList()->setFocus();
+  if (!focusWidget()) (browser_.HasStudent() ? lists_->StudentList() : lists_->InstructorList())->setFocus();
 }
 
 void ProfilesPage::hideEvent(QHideEvent* event) {
