@@ -15,8 +15,9 @@ void AutoSave::Changed() {
 }
 
 bool AutoSave::SaveSlot(int slot) {
-  if (!workspace_.HasVideo(slot) || !workspace_.HasUnsaved(slot)) return true;
-  const bool saved = host_.Drives().AnswersAtOnce(settings_.LibraryPath, workspace_.At(slot).path) && workspace_.SaveData(slot);
+  if (!workspace_.HasVideo(slot)) return true;
+  const auto answers = [&] { return host_.Drives().AnswersAtOnce(settings_.LibraryPath, workspace_.At(slot).path); };
+  const bool saved = !workspace_.HasUnsaved(slot) || (answers() && workspace_.SaveData(slot));
   workspace_.SetRefused(slot, !saved);
   return saved;
 }

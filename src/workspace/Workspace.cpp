@@ -266,8 +266,11 @@ bool Workspace::SaveData(int slot, std::string* error) {
   // Both have something to say: whoever saves adds to the work of the other. What was drawn there does not
   // stand in this window, so that every later save must add it again.
   SlotData whole = at.data;
-  if (at.savedElsewhere && at.MP->Info())
-    AddMissingWork(whole, ReadVideoData(sidecar, *at.MP->Info(), settings_.NewColors), at.base);
+  if (at.savedElsewhere && at.MP->Info()) {
+    const SlotData theirs = ReadVideoData(sidecar, *at.MP->Info(), settings_.NewColors);
+    AddMissingWork(whole, theirs, at.base);
+    whole.Unread = whole.Unread || theirs.Unread;  // what cannot be read is kept beside
+  }
   if (!WriteVideoData(sidecar, whole, error)) return false;
   at.sidecarStamp = StampOf(sidecar);
   at.changed = at.data.Unread = false;
@@ -314,7 +317,7 @@ void Workspace::SetNotes(int slot, const std::string& notes) {
 }
 
 bool Workspace::MnuCloseAll_Click() {
-  ClosedStage stage{{}, Maximized() ? SavedLayout : ScreenLayout, CurrentWindow};
+  ClosedStage stage{{}, "", CurrentWindow};
   for (int slot = 1; slot <= kSlots; ++slot) {
     if (!HasVideo(slot)) continue;
     const Slot& at = At(slot);
@@ -322,6 +325,7 @@ bool Workspace::MnuCloseAll_Click() {
   }
   bool all = true;
   for (const ClosedVideo& video : stage.videos) all = CloseVideo(video.slot) && all;
+  stage.layout = ScreenLayout;  // by now the one beneath a maximized window or a film strip
   if (!stage.videos.empty()) closed_ = std::move(stage);
   CurrentWindow = 1;
   FocusSet();

@@ -254,6 +254,13 @@ TEST(AutoSaveTest, ADiskThatRefusesIsToldAndTriedAgain) {
   stage.host.Advance(30000);
   EXPECT_TRUE(ReadSidecarMarks(sidecar).HasDrawings()) << "nothing more was drawn";
   EXPECT_FALSE(title.ends_with("not saved")) << title;
+
+  // Garbage in its place since it was read: kept beside, not written over.
+  std::ofstream(sidecar) << "\x7F" "another program's bytes";
+  stage.Draw(kLine, {20, 10}, {80, 100});
+  stage.host.Advance(1500);
+  EXPECT_TRUE(ReadSidecarMarks(sidecar).HasDrawings());
+  EXPECT_TRUE(std::filesystem::exists(sidecar + ".old"));
 }
 
 // Whichever window closes last, the work of both is there.

@@ -301,6 +301,14 @@ TEST(EscapeTest, LeavesOneThingAtATimeAndTheVideosComeBack) {
   EXPECT_TRUE(stage.Commands().Run("ReopenVideos"));
   EXPECT_FALSE(stage.Slots().HasVideo(1));
   EXPECT_TRUE(stage.Slots().HasVideo(2));
+
+  // From within a film strip or a maximized window: the layout beneath comes back.
+  for (const char* alone : {"smbar", "TMAX"}) {
+    ASSERT_TRUE(stage.Commands().Run(alone)) << alone;
+    stage.Commands().Run("MnuCloseAll");
+    EXPECT_TRUE(stage.Commands().Run("ReopenVideos")) << alone;
+    EXPECT_EQ(stage.Slots().ScreenLayout, "2") << alone;
+  }
 }
 
 }  // namespace
