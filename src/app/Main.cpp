@@ -113,22 +113,24 @@ QWidget* Main::MakeRail() {
   return room;
 }
 
-void Main::SetPage(int index, QWidget* page) {
+void Main::SetPage(int index, PageWidget* page) {
   DropPage(index);
   pages_[static_cast<std::size_t>(index)] = page;
   stack_->addWidget(page);
 }
 
 void Main::DropPage(int index) {
-  QWidget*& page = pages_[static_cast<std::size_t>(index)];
+  PageWidget*& page = pages_[static_cast<std::size_t>(index)];
   if (!page) return;
   stack_->removeWidget(page);
   delete std::exchange(page, nullptr);
   if (current_ == index) current_ = -1;
 }
 
+bool Main::LeavePage() { return current_ < 0 || Page(current_)->Leave(); }
+
 void Main::OpenPage(int index, const QString& title) {
-  QWidget* page = Page(index);
+  PageWidget* page = Page(index);
   if (!page) return;
   current_ = index;
   // The menu picture and the stage take the whole window. The stage must not see the rail for a moment:
@@ -140,7 +142,8 @@ void Main::OpenPage(int index, const QString& title) {
   stack_->setCurrentWidget(page);
   if (rail) rail_->show();
   SetHeading(title);
-  // What had the keys there, or was given them as the page showed itself, has them.
+  page->Open();
+  // What had the keys there, or was given them as the page opened, has them.
   QWidget* const inside = page->focusWidget();
   (inside ? inside : page)->setFocus();
 }

@@ -5,6 +5,8 @@
 #include <array>
 #include <functional>
 
+#include "platform/widgets/PageWidget.h"
+
 class QLabel;
 class QStackedWidget;
 
@@ -36,12 +38,14 @@ class Main : public QWidget {
   ~Main() override;
 
   /// Gives a page its place; the window becomes its parent. An earlier page there is let go.
-  void SetPage(int index, QWidget* page);
+  void SetPage(int index, PageWidget* page);
   /// Takes a page out and lets it go.
   void DropPage(int index);
-  QWidget* Page(int index) const { return pages_[static_cast<std::size_t>(index)]; }
+  PageWidget* Page(int index) const { return pages_[static_cast<std::size_t>(index)]; }
 
-  /// Opens a page that has been set, with its title in the heading.
+  /// Asks the page that is shown whether it can be left for another one; true when there is none.
+  bool LeavePage();
+  /// Shows a page that has been set, with its title in the heading, and has it open.
   void OpenPage(int index, const QString& title);
   int CurrentPage() const { return current_; }
   void SetHeading(const QString& title);
@@ -80,8 +84,8 @@ class Main : public QWidget {
   QWidget* rail_ = nullptr;
   QStackedWidget* stack_ = nullptr;
   std::array<TileButton*, 9> sections_{};
-  std::array<QWidget*, kPageCount> pages_{};
-  int current_ = -1;
+  std::array<PageWidget*, kPageCount> pages_{};
+  int current_ = -1;   ///< the page that is shown; after DropPage or at first none
   bool closed_ = false;
 };
 

@@ -207,18 +207,15 @@ void Program::KeepLastStudent() {
 
 void Program::OpenPage(int index) {
   if (!main_) return;
-  if (main_->CurrentPage() == kProfilesPage && index != kProfilesPage && !profiles_->Leave()) return;
+  if (index != main_->CurrentPage() && !main_->LeavePage()) return;
   KeepLastStudent();
   if (index == kAnalysisPage) {
     main_->SetHeading(Text(vocabulary_.PageTitle(kAnalysisPage)));
-    AnalysisForm& form = Analysis();
+    Analysis();
     main_->OpenPage(kAnalysisPage, "Analysis");
-    form.Entered();
     return;
   }
   if (!main_->Page(index)) return;
-  if (index == kProfilesPage) profiles_->Open();
-  if (index == kImportExportPage) importExport_->Open();
   if (index == kSetupPage && setup_->CurrentSection() < 0) setup_->PSCmd_Click(SetupPage::kMainMenu);
   if (index == kHelpPage) help_->Navigate("index.htm");
   main_->OpenPage(index, Text(vocabulary_.PageTitle(index)));
@@ -285,7 +282,7 @@ bool Program::Shutdown() {
   const bool restart = std::exchange(RestartFlag_, false);
   if (!profiles_->MayClose()) return false;
   if (analysis_ && !analysis_->CloseAll()) return false;
-  if (!profiles_->Leave() &&
+  if (!main_->LeavePage() &&
       !host_->Question("", "The notes could not be saved. Do you want to close Kinalyx all the same?"))
     return false;
   RestartFlag_ = restart;

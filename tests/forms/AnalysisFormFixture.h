@@ -33,6 +33,7 @@ struct AnalysisFormFixture : testing::Test, UsesApplication, FormDriver {
         Navigation{[this] { went = "library"; }, [this] { went = "menu"; }, [this] { went = "exit"; }});
     form->resize(size);
     form->show();
+    form->Open();
     QTest::qWait(0);
   }
   /// A video of its own, with no sidecar yet unless it has been made before.

@@ -10,6 +10,8 @@
 #include <QToolButton>
 
 #include "AnalysisFormFixture.h"
+#include "library/forms/OpenVidForm.h"
+#include "library/forms/PreviewPlayer.h"
 #include "video/KeyCodes.h"
 #include "workspace/forms/KeyCodeOf.h"
 
@@ -196,6 +198,32 @@ TEST_F(AnalysisFormTest, TimerAndRulerWorkOverTheStage) {
   Click("CalibBtn0");
   EXPECT_FALSE(Seen("TransFrame5"));
   EXPECT_FLOAT_EQ(settings.CalibNumberOut, 100 / 2.5f / 12);
+}
+
+TEST_F(AnalysisFormTest, TheOpenPanelFollowsThePageAndNotTheWindow) {
+  std::filesystem::rename(Video("a.avi"), settings.LibraryPath + "/Anna/Erica/a.avi");
+  std::filesystem::create_directories(settings.LibraryPath + "/Anna/Zoe");
+  remembered = {"Anna", "Erica", ""};
+  form->Analysis().Commands().Run("vo");
+  auto* panel = form->findChild<OpenVidForm*>();
+  ASSERT_NE(panel, nullptr);
+  const AVIControl& preview = panel->findChild<PreviewPlayer*>()->Control();
+  Click("CmdOpenVideo0");
+  auto* students = panel->findChild<NameList*>("StudentList");
+  students->setFocus();
+  PutAwayAndBack(*form);
+  EXPECT_NE(preview.Info(), nullptr);
+  EXPECT_TRUE(students->hasFocus());
+
+  form->Leave();
+  form->hide();
+  EXPECT_EQ(preview.Info(), nullptr);
+  std::filesystem::create_directories(settings.LibraryPath + "/Anna/Zora");
+  form->show();
+  form->Open();
+  EXPECT_NE(preview.Info(), nullptr);
+  EXPECT_EQ(students->count(), 3);
+  EXPECT_TRUE(Enabled("CmdOpenVideo2")) << "what was opened can be undone";
 }
 
 TEST_F(AnalysisFormTest, LettingGoWhileEverythingPlaysKeepsTheDrawings) {

@@ -26,6 +26,25 @@ class ApplicationForTests final : public ::testing::Environment {
 // The test framework owns it.
 inline ::testing::Environment* const kApplicationForTests = ::testing::AddGlobalTestEnvironment(new ApplicationForTests);
 
+/// Minimises a window and brings it back, as a desktop does.
+inline void PutAwayAndBack(QWidget& window) {
+  struct Watch final : QObject {
+    bool eventFilter(QObject*, QEvent* event) override {
+      hidden |= event->type() == QEvent::Hide && event->spontaneous();
+      shown |= event->type() == QEvent::Show && event->spontaneous();
+      return false;
+    }
+    bool hidden = false;
+    bool shown = false;
+  } watch;
+  window.installEventFilter(&watch);
+  window.showMinimized();
+  QCoreApplication::processEvents();
+  window.showNormal();
+  QCoreApplication::processEvents();
+  ASSERT_TRUE(watch.hidden && watch.shown);
+}
+
 /// Says that a fixture needs the application.
 struct UsesApplication {};
 

@@ -1,5 +1,6 @@
 #include "library/forms/LibraryCommands.h"
 
+#include <QComboBox>
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -329,6 +330,23 @@ TEST_F(LibraryCommandsTest, TheTrimPanelFollowsThePreviewAndCountsFrames) {
   Press("SPBtn5");
   Choose("StudentList", "Tom");
   EXPECT_FALSE(slider->isVisible()) << "another video ends it as well";
+}
+
+TEST_F(LibraryCommandsTest, AWindowThatWasPutAwayComesBackAsItWas) {
+  ChooseStudent("Tom");
+  ChooseStudent("Sample, Erica");
+  Press("SPBtn5");
+  Find<TrimSlider>("HScroll1")->SetStart(3);
+  Preview().DrawFrame(3);
+  test::PutAwayAndBack(*page);
+  EXPECT_TRUE(Find<QWidget>("EditPanel")->isVisible());
+  EXPECT_EQ(Find<TrimSlider>("HScroll1")->Start(), 3);
+  EXPECT_EQ(Preview().Position(), 3);
+
+  Press("SPBtn0");
+  Choose("InstructorList", "Quick Launch");
+  test::PutAwayAndBack(*page);
+  EXPECT_EQ(Find<QComboBox>("Combo2")->currentText(), "Quick Launch");
 }
 
 TEST_F(LibraryCommandsTest, ATrimAsksForTheFramesThatWereChosen) {

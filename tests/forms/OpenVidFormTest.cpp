@@ -70,7 +70,7 @@ TYPED_TEST(OpenFormTest, OpensUndoesAndIsDone) {
   EXPECT_FALSE(this->Button(2)->isEnabled());
   QTest::keyClick(this->VideoList(), Qt::Key_Escape);
   EXPECT_EQ(this->done, 1);
-  this->form->hide();
+  this->form->Leave();
   EXPECT_EQ(this->form->template findChild<PreviewPlayer*>()->Control().Info(), nullptr);
 }
 

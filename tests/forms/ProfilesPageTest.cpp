@@ -48,19 +48,19 @@ TEST_F(ProfilesPageTest, AChoiceInOneListFillsTheNextAndShowsTheVideo) {
 TEST_F(ProfilesPageTest, ComesBackToTheSameVideoOrInstructor) {
   ChooseStudent("Sample, Erica");
   Choose("VideoList", "(002) FO iron");
-  page->hide();
+  LeavePage();
   EXPECT_EQ(Preview().Info(), nullptr);  // nothing is held open behind the user's back
   library.File("Demo/Anna/x.txt");
   library.Folder("Anna/Zoe");
-  page->show();
+  Return();
   EXPECT_EQ(Rows("StudentList").first(), "Anna");
   EXPECT_EQ(page->Browser().Video(), "(002) FO iron");
   EXPECT_NE(Preview().Info(), nullptr);
 
   // No student of this one is chosen, and the one who is remembered is another's.
   Choose("InstructorList", "Anna");
-  page->hide();
-  page->show();
+  LeavePage();
+  Return();
   EXPECT_EQ(page->Browser().Instructor(), "Anna");
 }
 
@@ -232,7 +232,7 @@ TEST_F(ProfilesPageTest, NotesAreKeptWhenTheyAreLeftHoweverThatHappens) {
   EXPECT_TRUE(List("VideoList")->isVisible());
   Press("SPBtn10");
   notes->setPlainText("three");
-  page->hide();
+  LeavePage();
   EXPECT_EQ(Read("Demo/Sample, Erica/profile.txt"), "three\r\n");
 }
 
@@ -293,8 +293,8 @@ TEST_F(ProfilesPageTest, ALibraryThatHasGoneIsToldOf) {
   Choose("InstructorList", "Demo");
   EXPECT_EQ(List("StudentList")->Hint().toStdString(),
             "The library folder " + library.Root() + " cannot be reached; choose another in Program Setup, under General.");
-  page->hide();
-  page->show();
+  LeavePage();
+  Return();
   EXPECT_EQ(Rows("InstructorList"), QStringList("General Folder"));
   EXPECT_TRUE(List("StudentList")->Hint().contains("cannot be reached"));
   EXPECT_FALSE(Find<QLineEdit>("Text2")->isVisible());

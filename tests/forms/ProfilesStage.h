@@ -39,6 +39,17 @@ class ProfilesStage : public ::testing::Test, protected UsesApplication, protect
     page = std::make_unique<ProfilesPage>(services, library.settings, fields, remembered, *operations);
     page->resize(892, 700);
     page->show();
+    page->Open();
+  }
+
+  /// Comes back to the page, which has been left.
+  void Return() {
+    page->show();
+    page->Open();
+  }
+  void LeavePage() {
+    page->Leave();
+    page->hide();
   }
 
   /// Chooses a student of the instructor "Demo".

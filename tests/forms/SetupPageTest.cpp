@@ -55,7 +55,7 @@ TEST_F(SetupPageTest, FillingTheControlsWritesNothing) {
   EXPECT_EQ(settings.SlomoSpeed, 0);
   EXPECT_EQ(Find<QComboBox>("cboResolution")->currentIndex(), -1);
   settings.Set(settings.GridSize, 150);
-  page->show();
+  page->Open();
   EXPECT_EQ(Find<QSlider>("GridSizeScroll")->value(), 150) << "what was set elsewhere is shown";
   EXPECT_EQ(OnDisk("Analysis", "GridSize"), "150");
 }

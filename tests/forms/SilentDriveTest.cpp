@@ -13,14 +13,14 @@ using SilentDriveTest = test::ProfilesStage;
 TEST_F(SilentDriveTest, ThePageSaysSoAndFillsByItselfWhenTheDriveIsBack) {
   ChooseStudent("Sample, Erica");
   Choose("VideoList", "(002) FO iron");
-  page->hide();
+  LeavePage();
   library.host.drivesHang = true;
-  page->show();
+  Return();
   EXPECT_EQ(Rows("InstructorList"), QStringList({"General Folder"}));
   EXPECT_TRUE(List("StudentList")->Hint().contains("is not answering")) << List("StudentList")->Hint().toStdString();
   EXPECT_EQ(Preview().Info(), nullptr);
-  page->hide();
-  page->show();
+  LeavePage();
+  Return();
   library.host.Advance(3000);
   EXPECT_EQ(library.host.waits.size(), 1u);
 

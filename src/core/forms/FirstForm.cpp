@@ -81,6 +81,7 @@ FirstForm::FirstForm(Settings& settings, MailSettings& mail, QWidget* over)
 
 void FirstForm::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
+  if (event->spontaneous()) return;  // it comes back from being minimised
   ScaleForm(*this, parentWidget() ? *parentWidget() : *this);
   name_->setFocus();
 }

@@ -75,7 +75,7 @@ class Reader : public QTextBrowser {
   QHash<QString, QString> words_;
 };
 
-HelpPage::HelpPage(const QString& folder, QWidget* parent) : QWidget(parent), folder_(folder) {
+HelpPage::HelpPage(const QString& folder, QWidget* parent) : PageWidget(parent), folder_(folder) {
   setObjectName("HelpPage");
   auto* rows = new QVBoxLayout(this);
   rows->setContentsMargins(14, 14, 14, 14);

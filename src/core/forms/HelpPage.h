@@ -1,7 +1,8 @@
 #pragma once
 
 #include <QUrl>
-#include <QWidget>
+
+#include "platform/widgets/PageWidget.h"
 
 namespace kinalyx {
 
@@ -10,7 +11,7 @@ class Reader;
 class Vocabulary;
 
 /// Shows the help pages that lie beside the program. Links to the outside go to the desktop's browser.
-class HelpPage : public QWidget {
+class HelpPage : public PageWidget {
   Q_OBJECT
 
  public:

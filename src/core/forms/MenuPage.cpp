@@ -18,7 +18,7 @@ constexpr std::array<const char*, 8> kIcons = {"",     "students",      "camera"
 }  // namespace
 
 MenuPage::MenuPage(IHost& host, Settings& settings, QWidget* parent)
-    : QWidget(parent), host_(host), settings_(settings) {
+    : PageWidget(parent), host_(host), settings_(settings) {
   setObjectName("MenuPage");
   auto* whole = new QVBoxLayout(this);
   whole->setContentsMargins(0, 0, 0, 0);

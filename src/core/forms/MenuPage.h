@@ -1,7 +1,8 @@
 #pragma once
 
-#include <QWidget>
 #include <array>
+
+#include "platform/widgets/PageWidget.h"
 
 class QHBoxLayout;
 
@@ -14,7 +15,7 @@ class Settings;
 class TileButton;
 
 /// The first page: the user's picture, the heading lines, and a tile for each section.
-class MenuPage : public QWidget {
+class MenuPage : public PageWidget {
   Q_OBJECT
 
  public:

@@ -33,7 +33,7 @@ constexpr SectionButton kSections[] = {
 }  // namespace
 
 SetupPage::SetupPage(IHost& host, Settings& settings, ColorSchemes& schemes, QWidget* parent)
-    : QWidget(parent), host_(host), settings_(settings), schemes_(schemes) {
+    : PageWidget(parent), host_(host), settings_(settings), schemes_(schemes) {
   setObjectName("SetupPage");
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(14, 14, 14, 14);
@@ -102,12 +102,10 @@ void SetupPage::SetupProgram() {
   settings_.Loading = before;
 }
 
-/// Some settings of the analysis section are changed there as well: the grid's, for one.
-void SetupPage::showEvent(QShowEvent* event) {
+void SetupPage::Open() {
   const bool before = std::exchange(settings_.Loading, true);
   analysis_->SetupProgram();
   settings_.Loading = before;
-  QWidget::showEvent(event);
 }
 
 void SetupPage::SetupVocabulary() {

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QWidget>
 #include <array>
 
 #include "platform/host/Host.h"
+#include "platform/widgets/PageWidget.h"
 
 class QButtonGroup;
 class QStackedWidget;
@@ -19,7 +19,7 @@ class Settings;
 
 /// Program Setup: sections to the left, the settings of one of them beside. Every control writes its key
 /// at once.
-class SetupPage : public QWidget {
+class SetupPage : public PageWidget {
   Q_OBJECT
 
  public:
@@ -28,6 +28,9 @@ class SetupPage : public QWidget {
 
   SetupPage(IHost& host, Settings& settings, ColorSchemes& schemes, QWidget* parent = nullptr);
   ~SetupPage() override;
+
+  /// Some settings of the analysis section are changed there as well: the grid's, for one.
+  void Open() override;
 
   /// Pushes every setting into its control, writing nothing.
   void SetupProgram();
@@ -56,9 +59,6 @@ class SetupPage : public QWidget {
   /// The window mode is another and written: close the program and start it again. Sent from the event
   /// loop, never from inside a control's own handler.
   void RestartWanted();
-
- protected:
-  void showEvent(QShowEvent* event) override;
 
  private:
   QWidget* MakeSections();

@@ -22,7 +22,7 @@ namespace kinalyx {
 
 ImportExportPage::ImportExportPage(IHost& host, Settings& settings, LibraryOperations& operations,
                                    const LastStudentInfo& remembered, QWidget* parent)
-    : QWidget(parent), host_(host), settings_(settings), operations_(operations), LastStudent_(remembered) {
+    : PageWidget(parent), host_(host), settings_(settings), operations_(operations), LastStudent_(remembered) {
   setObjectName("ImportExportPage");
   auto* rows = new QVBoxLayout(this);
   rows->setContentsMargins(14, 14, 14, 14);

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QWidget>
 #include <string>
 
 #include "core/Settings.h"
 #include "library/LibraryOperations.h"
 #include "platform/host/Host.h"
+#include "platform/widgets/PageWidget.h"
 
 class QLabel;
 class QLayout;
@@ -21,7 +21,7 @@ class StatusLine;
 
 /// The page that takes videos out of the library to another drive or folder, and back. On the left this
 /// library, on the right what is found at the other place.
-class ImportExportPage : public QWidget {
+class ImportExportPage : public PageWidget {
   Q_OBJECT
 
  public:
@@ -32,7 +32,7 @@ class ImportExportPage : public QWidget {
   ~ImportExportPage() override;
 
   /// The page is about to be shown: reads both sides.
-  void Open();
+  void Open() override;
   void SetupVocabulary();
   /// Buttons `IECmd`.
   enum Command { kExport, kImport };

@@ -51,12 +51,18 @@ OpenVideoParts::OpenVideoParts(PlayerServices& services, const Settings& setting
 OpenVideoParts::~OpenVideoParts() = default;
 
 void OpenVideoParts::Open() {
-  browser_.Return();
   opened_ = 0;
-  lists_->ShowAll();
+  Return();
   QWidget* const wanted = browser_.HasVideo() ? lists_->VideoList() : lists_->InstructorList();
   wanted->setFocus();
 }
+
+void OpenVideoParts::Return() {
+  browser_.Return();
+  lists_->ShowAll();
+}
+
+void OpenVideoParts::Leave() { preview_->Unload(); }
 
 void OpenVideoParts::SetupVocabulary() { students_->setText(Q(Vocabulary(settings_).Nouns())); }
 
@@ -128,11 +134,6 @@ void OpenVideoParts::keyPressEvent(QKeyEvent* event) {
   } else {
     QFrame::keyPressEvent(event);
   }
-}
-
-void OpenVideoParts::hideEvent(QHideEvent* event) {
-  QFrame::hideEvent(event);
-  preview_->Unload();
 }
 
 // ---------------------------------------------------------------- arrangements

@@ -42,6 +42,10 @@ class OpenVideoParts : public QFrame {
 
   /// Reads the library and goes to the remembered student.
   void Open();
+  /// The same for the panel that stood open while its page was left: what it has opened can still be undone.
+  void Return();
+  /// Lets the preview go: the panel or its page is left.
+  void Leave();
   /// The noun has changed.
   void SetupVocabulary();
   /// With short-game naming on, the third button loads the files that belong together.
@@ -54,7 +58,6 @@ class OpenVideoParts : public QFrame {
   OpenVideoParts(PlayerServices& services, const Settings& settings, LastStudentInfo& remembered, OpenVideoCalls calls,
                  QWidget* parent);
   void keyPressEvent(QKeyEvent* event) override;
-  void hideEvent(QHideEvent* event) override;
 
   LibraryLists* lists_;
   QLabel* students_;  // the heading with the noun

@@ -27,7 +27,7 @@ namespace kinalyx {
 
 ProfilesPage::ProfilesPage(PlayerServices& services, Settings& settings, ProfileFields& fields,
                            LastStudentInfo& remembered, LibraryOperations& operations, QWidget* parent)
-    : QWidget(parent),
+    : PageWidget(parent),
       services_(services),
       settings_(settings),
       vocabulary_(settings),
@@ -120,21 +120,30 @@ void ProfilesPage::Open() {
   shownVideo_.clear();
   lists_->ShowAll();
   Say({});
+  if (!focusWidget()) (browser_.HasStudent() ? lists_->StudentList() : lists_->InstructorList())->setFocus();
 }
 
 bool ProfilesPage::Leave() {
-  question_.Stop();
-  commands_->CloseTrim();
-  videos_->VideoPlay1().Unload();
-  shownVideo_.clear();
-  return profilePanel_->SaveNotes();
+  if (!CloseVideo()) return false;
+  instructors_->ShowNameBox(false);
+  return true;
 }
 
 bool ProfilesPage::MayClose() { return editor_->isHidden() || MayDropEdits(); }
 
+/// Stores the notes and closes the preview.
+bool ProfilesPage::CloseVideo() {
+  if (!profilePanel_->SaveNotes()) return false;
+  question_.Stop();
+  commands_->CloseTrim();
+  videos_->VideoPlay1().Unload();
+  shownVideo_.clear();
+  return true;
+}
+
 /// Lets an operation have the student and the video.
 bool ProfilesPage::Release() {
-  if (!Leave()) return false;
+  if (!CloseVideo()) return false;
   shownStudent_.clear();
   profilePanel_->OpenStudent("");
   return true;
@@ -151,18 +160,6 @@ void ProfilesPage::ShowResult(const OperationResult& result) {
   }
   OpenProfile();
   VideoList_Click();
-}
-
-void ProfilesPage::showEvent(QShowEvent* event) {
-  QWidget::showEvent(event);
-  Open();
-  if (!focusWidget()) (browser_.HasStudent() ? lists_->StudentList() : lists_->InstructorList())->setFocus();
-}
-
-void ProfilesPage::hideEvent(QHideEvent* event) {
-  QWidget::hideEvent(event);
-  Leave();
-  instructors_->ShowNameBox(false);
 }
 
 void ProfilesPage::SetupVocabulary() {

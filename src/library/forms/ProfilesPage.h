@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QWidget>
 #include <string>
 #include <vector>
 
@@ -12,6 +11,7 @@
 #include "library/LibraryOperations.h"
 #include "library/Profile.h"
 #include "platform/host/Host.h"
+#include "platform/widgets/PageWidget.h"
 #include "video/AVIControl.h"
 
 class QGridLayout;
@@ -30,7 +30,7 @@ class VideosPanel;
 
 /// The library page: instructors, students and videos side by side, the preview of the selected video,
 /// and the profile of the selected student.
-class ProfilesPage : public QWidget {
+class ProfilesPage : public PageWidget {
   Q_OBJECT
 
  public:
@@ -39,11 +39,11 @@ class ProfilesPage : public QWidget {
                LibraryOperations& operations, QWidget* parent = nullptr);
   ~ProfilesPage() override;
 
-  /// The page is about to be shown: reads the library and goes to the remembered student.
-  void Open();
-  /// The page is left: stores the notes and closes the preview. False, after a message, when the notes
-  /// could not be stored; they are kept.
-  bool Leave();
+  /// Reads the library and goes to the remembered student.
+  void Open() override;
+  /// Stores the notes and closes the preview. False, after a message, when the notes could not be stored:
+  /// they are kept, and the page is as it was.
+  bool Leave() override;
   /// The program is about to close: asks about a profile that is being edited. False when the user would
   /// rather stay.
   bool MayClose();
@@ -60,14 +60,13 @@ class ProfilesPage : public QWidget {
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
-  void showEvent(QShowEvent* event) override;
-  void hideEvent(QHideEvent* event) override;
 
  private:
   void PlaceButtons();
   void ConnectParts();
   bool ListKey(QObject* list, int key);
 
+  bool CloseVideo();
   bool Release();
   void ShowResult(const OperationResult& result);
   void InstructorChosen();

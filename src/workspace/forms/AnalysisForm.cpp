@@ -47,7 +47,7 @@ int ToPixels(int twips) { return static_cast<int>(std::floor(static_cast<double>
 
 AnalysisForm::AnalysisForm(IHost& host, Settings& settings, PlayerServices& players, LastStudentInfo& remembered,
                            Navigation navigation, QWidget* parent)
-    : QWidget(parent), host_(host), settings_(settings), players_(players), remembered_(remembered) {
+    : PageWidget(parent), host_(host), settings_(settings), players_(players), remembered_(remembered) {
   setObjectName("AnalysisForm");
   edits_ = std::make_unique<EditForms>();
   compare_ = std::make_unique<CompareForms>(host);
@@ -155,11 +155,16 @@ void AnalysisForm::keyPressEvent(QKeyEvent* event) {
   if (!taken) QWidget::keyPressEvent(event);
 }
 
-void AnalysisForm::showEvent(QShowEvent* event) {
-  QWidget::showEvent(event);
+void AnalysisForm::Open() {
   // Players are told of their size when they come on the screen, and start with an empty picture then.
   for (int slot = 1; slot <= kSlots; ++slot) analysis_->Slots().MP(slot).Refresh();
+  if (openPanel_ && !openPanel_->isHidden()) openPanel_->Return();
   FocusKeyBox();
+}
+
+bool AnalysisForm::Leave() {
+  if (openPanel_) openPanel_->Leave();
+  return true;
 }
 
 void AnalysisForm::changeEvent(QEvent* event) {
@@ -353,6 +358,7 @@ void AnalysisForm::PlaceOpenPanel() {
 bool AnalysisForm::CloseOpenPanel() {
   if (!openPanel_ || openPanel_->isHidden()) return false;
   openPanel_->hide();
+  openPanel_->Leave();
   FocusKeyBox();
   return true;
 }

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QWidget>
 #include <array>
 #include <memory>
 
 #include "library/LibraryTree.h"
+#include "platform/widgets/PageWidget.h"
 #include "video/AVIControl.h"
 #include "workspace/AnalysisWorkspace.h"
 
@@ -27,7 +27,7 @@ class VideoTimerForm;
 
 /// The analysis section's page: menus, tool strip and the dark stage with its eight windows, play bar and
 /// small panels. It shows what AnalysisWorkspace tells it to, and hands it mouse and keys.
-class AnalysisForm : public QWidget, private IWorkspaceView {
+class AnalysisForm : public PageWidget, private IWorkspaceView {
   Q_OBJECT
 
  public:
@@ -38,8 +38,10 @@ class AnalysisForm : public QWidget, private IWorkspaceView {
                Navigation navigation, QWidget* parent = nullptr);
   ~AnalysisForm() override;
 
-  /// The page has been opened: the keys are its own.
-  void Entered() { FocusKeyBox(); }
+  /// The keys are its own, and an open panel that was left standing is up to date.
+  void Open() override;
+  /// Videos and panels stay as they are.
+  bool Leave() override;
   /// Writes and closes all videos. False when the user kept one open, because its drawings could not be saved.
   bool CloseAll();
   /// A setting of the section, or the noun, has changed.
@@ -49,7 +51,6 @@ class AnalysisForm : public QWidget, private IWorkspaceView {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
-  void showEvent(QShowEvent* event) override;
   void changeEvent(QEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
