@@ -30,8 +30,9 @@ TEST(Layout, APictureIsAsHighAsItsCellAndKeepsItsProportion) {
   // Wider than the cell: centred all the same, so that both sides are cut alike.
   EXPECT_EQ(PlaceVideo({720, 480}, 3000, 4000), (TwipRect{-1500, 0, 6000, 4000}));
   EXPECT_EQ(PlaceVideo({354, 492}, 8000, 4001).Width, 4001 * 354 / 492);
-  // 16:9 is taken from the height of the cell.
-  EXPECT_EQ(PlaceVideo({.VideoWidth = 720, .VideoHeight = 480, .Wide = true}, 8000, 4000).Width, 7111);
+  // 16:9 whatever the file's own shape, and at every zoom.
+  for (const auto& [zoom, width] : {std::pair{1.0, 7111}, {2.5, 17777}, {0.5, 3555}})
+    EXPECT_EQ(PlaceVideo({.VideoWidth = 720, .VideoHeight = 480, .Wide = true, .Zoom = zoom}, 8000, 4000).Width, width);
   EXPECT_EQ(PlaceVideo({}, 8000, 4000), TwipRect{});
 }
 
