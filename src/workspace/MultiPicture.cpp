@@ -207,7 +207,8 @@ void MultiPicture::Signal(int slot) {
     PictureChanged(slot);
   } else if (position == last_) {
     TakeFrame();  // something was drawn on it
-  } else if (std::abs(position - last_) >= skip_) {
+  } else {
+    from_ = -1;  // from now on it is the strip of where the video has come to
     MFNextFrame();
   }
 }

@@ -51,7 +51,8 @@ class MultiPicture {
   int SourceTop() const;
   /// Pictures in the strip, 1 to 9.
   int PictureCount() const { return PictureCount_; }
-  /// Frames between two pictures, as its box has it; below 1 counts as 1. The strip is made anew.
+  /// Frames between two pictures where the strip is filled at once, as its box has it; below 1 counts as 1.
+  /// The strip is made anew.
   void setSkipBox(const std::string& text);
   int Skip() const { return skip_; }
 
@@ -78,7 +79,7 @@ class MultiPicture {
   ImageResult SavePicture(const std::string& path) const;
 
   // --- from the players and the workspace
-  /// A picture of a slot was shown: the strip runs with it.
+  /// A picture of a slot was shown: the strip runs with it, picture by picture.
   void Signal(int slot);
   /// A video has another size or place, is mirrored, or has other drawings on it: its strip is made anew.
   void PictureChanged(int slot);
@@ -123,7 +124,7 @@ class MultiPicture {
   int PictureHeight_ = 0;
   int PictureCount_ = kMostPictures;
   int skip_ = 5;
-  int from_ = -1;         ///< where the video stood when the strip was filled
+  int from_ = -1;         ///< where the video stood when the strip was filled; -1 once it has moved on
   int last_ = -1;         ///< position of the last picture in the strip
   POINTAPI source_;       ///< corner of the source when the strip was made
   Surface strip_;

@@ -67,10 +67,9 @@ TEST_F(MultiPictureTest, StripComesFromWhereverThereAreFramesEnough) {
 
 TEST_F(MultiPictureTest, StripRunsWithItsVideo) {
   Enter(40, 30, "2");
-  stage_.MP(1).DrawFrame(31);  // one frame on: not yet the next picture
-  EXPECT_EQ(Pictures().back(), 30);
+  stage_.MP(1).DrawFrame(31);
   stage_.MP(1).DrawFrame(32);
-  EXPECT_EQ(Pictures(), (std::vector{16, 18, 20, 22, 24, 26, 28, 30, 32}));
+  EXPECT_EQ(Pictures(), (std::vector{18, 20, 22, 24, 26, 28, 30, 31, 32})) << "every frame comes in";
   // A drawing on the frame comes into its picture and moves nothing.
   stage_.painted = [](Canvas& canvas, int) { Fill(canvas, Rgb(9, 8, 7)); };
   stage_.MP(1).Refresh();
@@ -115,6 +114,12 @@ TEST_F(MultiPictureTest, ZoomAndPanMakeTheStripAnew) {
   EXPECT_EQ(stage_.compareView.strips, before + 1);
   // Still the strip of the same moment, although the video stands at the strip's end by now.
   EXPECT_EQ(Pictures(), (std::vector{0, 3, 6, 9, 12, 15, 18, 21, 24}));
+  // Once the video has gone on, it is the strip of where it has come to.
+  stage_.MP(1).DrawFrame(25);
+  stage_.MP(1).DrawFrame(45);
+  stage_.Slots().SetZoom(1);
+  stage_.host.Advance(0);
+  EXPECT_EQ(Pictures(), (std::vector{21, 24, 27, 30, 33, 36, 39, 42, 45}));
 }
 
 TEST_F(MultiPictureTest, ModeEndsWithItsVideoAndItsStripIsSaved) {
