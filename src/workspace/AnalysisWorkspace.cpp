@@ -252,7 +252,7 @@ bool AnalysisWorkspace::OnLastFrame(int window) {
 void AnalysisWorkspace::AdvanceFrame(int window) {
   if (!OnLastFrame(window)) workspace_.MP(window).Play(workspace_.MP(window).Position() + 1);
   compare_.MPManualSignal();
-  compare_.Locks().AdvancePartner(window);
+  compare_.Locks().AdvancePartners(window);
 }
 
 void AnalysisWorkspace::DrawingsChanged(int window) {

@@ -234,6 +234,10 @@ void MenuBar::AddAdvanced() {
   Add({"TASF", kAdvanced, "Advanced Strobe", "", "advanced-strobe", "", kNoButton, [this] { compare_.TASF_Click(); },
        Needs([this] { return HasVideo() || compare_.StrobeShown(); }, "Open a video first"),
        [this] { return compare_.StrobeShown(); }});
+  Add({"LockAll", kAdvanced, "Lock All Four Videos", "", "", "", kNoButton, [this] { compare_.Locks().LockAll(); },
+       Needs([this] { return compare_.Locks().CanLockAll(); },
+             "Needs videos in windows 1 to 4, in a layout of four windows or more"),
+       [this] { return compare_.Locks().AllLocked(); }});
   Add({"cmdDualPlay", "", "", "", "lock", "Lock Videos Together", kPicture,
        [this] { compare_.Locks().cmdDualPlay(); },
        Needs([this] { return compare_.Locks().CanLock(); }, "Needs videos in windows 1 and 2, or 3 and 4, side by side"),

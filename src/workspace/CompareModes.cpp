@@ -2,8 +2,6 @@
 
 #include <fmt/format.h>
 
-#include <algorithm>
-
 namespace kinalyx {
 namespace {
 
@@ -130,9 +128,9 @@ void CompareModes::ShowDual() {
   DualState state;
   state.locked = locks_.IsLocked(slot);
   state.shown = state.locked || overlay_.TransparencyOn();
-  state.allLocked = locks_.DualLocked[2];
+  state.allLocked = locks_.AllLocked();
   state.canLock = locks_.CanLock();
-  state.canLockAll = std::ranges::all_of(std::array{1, 2, 3, 4}, [this](int each) { return workspace_.HasVideo(each); });
+  state.canLockAll = locks_.CanLockAll();
   state.playing = locks_.PlayingTogether();
   state.repeat = locks_.TogetherRepeat();
   state.speed = locks_.TogetherSpeed();

@@ -132,10 +132,14 @@ int LockedVideos::LockOf(int slot) const {
 
 bool LockedVideos::IsLocked(int slot) const { return LockOf(slot) >= 0; }
 
+bool LockedVideos::AllOpen(const std::vector<int>& slots) const {
+  return std::ranges::all_of(slots, [this](int slot) { return workspace_.HasVideo(slot); });
+}
+
 bool LockedVideos::DualLock(int Which) {
   const int lock = Which == 1 ? kPairOneTwo : Which == 2 ? kPairThreeFour : kAllFour;
   const std::vector<int> slots = SlotsOf(lock);
-  if (!std::ranges::all_of(slots, [this](int slot) { return workspace_.HasVideo(slot); })) return false;
+  if (!AllOpen(slots)) return false;
   StopTogether();
   for (const int slot : slots) {
     workspace_.MP(slot).StopPlay();
@@ -195,7 +199,12 @@ bool LockedVideos::cmdDualPlay() {
   return DualLock(slot <= 2 ? 1 : 2);
 }
 
+bool LockedVideos::CanLockAll() const {
+  return DualLocked[kAllFour] || (workspace_.SlotsShown() >= kLockable && AllOpen(SlotsOf(kAllFour)));
+}
+
 bool LockedVideos::LockAll() {
+  if (!CanLockAll()) return false;
   if (!DualLocked[kAllFour]) return DualLock(0);
   DualUnlock(1);
   return true;
@@ -289,11 +298,9 @@ void LockedVideos::Seek(int slot, int position) {
   IsLocked(slot) ? DualControlScroll(slot, position) : GoTo(workspace_.MP(slot), position);
 }
 
-void LockedVideos::AdvancePartner(int slot) {
-  const int lock = LockOf(slot);
-  if (lock != kPairOneTwo && lock != kPairThreeFour) return;
-  const int partner = slot % 2 == 1 ? slot + 1 : slot - 1;
-  StepBy(workspace_.MP(partner), 1);
+void LockedVideos::AdvancePartners(int slot) {
+  for (const int each : LockedWith(slot))
+    if (each != slot) StepBy(workspace_.MP(each), 1);
 }
 
 // ---------------------------------------------------------------- playing together

@@ -37,10 +37,12 @@ class LockedVideos {
   /// Locks the pair of the current window, or unlocks what holds it. False when it has no pair, one of
   /// the two is empty, or the layout shows a single window.
   bool cmdDualPlay();
-  /// The same for all four.
+  /// The same for all four, in a layout that shows them.
   bool LockAll();
-  /// Whether cmdDualPlay would do something.
+  /// Whether cmdDualPlay or LockAll would do something.
   bool CanLock() const;
+  bool CanLockAll() const;
+  bool AllLocked() const { return DualLocked[2]; }
 
   /// While true the transport's own commands are refused for the slot.
   bool IsLocked(int slot) const;
@@ -69,8 +71,8 @@ class LockedVideos {
   /// The same for any slot with a video: without a lock it moves alone. A position that is shown already is
   /// left alone.
   void Seek(int slot, int position);
-  /// Moves the partner of a slot locked in pairs one position on, unless it is on its last.
-  void AdvancePartner(int slot);
+  /// Moves each video locked with a slot one position on, but for one that is on its last.
+  void AdvancePartners(int slot);
 
   // --- playing together
 
@@ -107,6 +109,7 @@ class LockedVideos {
   /// The lock that holds a slot, as an index of DualLocked; -1 for none.
   int LockOf(int slot) const;
   std::vector<int> SlotsOf(int lock) const;
+  bool AllOpen(const std::vector<int>& slots) const;
   /// The slots locked with this one, it first; empty without a lock.
   std::vector<int> LockedWith(int slot) const;
   int Lowest(int slot) const;

@@ -65,7 +65,7 @@ TEST_F(LockedVideosTest, PairStepsUpToItsBoundsAndNoFurther) {
   EXPECT_EQ(lock_.BoundsOf(2)->lowest, 38);
   EXPECT_EQ(lock_.BoundsOf(2)->highest, 48);
 
-  lock_.AdvancePartner(2);
+  lock_.AdvancePartners(2);
   EXPECT_EQ(Positions(2), (std::vector{11, 48}));
 }
 
@@ -87,12 +87,15 @@ TEST_F(LockedVideosTest, PairLockMovesOnlyFromItsOwnWindows) {
 
 TEST_F(LockedVideosTest, GroupHoldsAllFourAndReplacesThePairs) {
   Open({{20, 5}, {20, 6}, {20, 2}});
-  EXPECT_FALSE(lock_.LockAll());  // slot 4 is empty
+  EXPECT_FALSE(stage_.Commands().Run("LockAll")) << "slot 4 is empty";
   EXPECT_FALSE(lock_.DualLock(2));
   EXPECT_FALSE(lock_.IsLocked(1) || lock_.IsLocked(3));
   ASSERT_TRUE(stage_.Open(4, RawVideo(30), 16));
   ASSERT_TRUE(lock_.DualLock(1));
-  ASSERT_TRUE(lock_.LockAll());
+  stage_.Slots().SetScreen(2);
+  EXPECT_FALSE(lock_.LockAll()) << "two of them would move unseen";
+  stage_.Slots().SetScreen(8);
+  ASSERT_TRUE(stage_.Commands().Run("LockAll"));
   EXPECT_EQ(lock_.DualLocked, (std::array{false, false, true}));
   EXPECT_EQ(lock_.LockRangeA, (std::array{3, 17, 4, 18}));
   EXPECT_EQ(lock_.LockRangeB, (std::array{0, 14, 14, 28}));
@@ -102,6 +105,12 @@ TEST_F(LockedVideosTest, GroupHoldsAllFourAndReplacesThePairs) {
   lock_.DualControlStep(true);
   EXPECT_EQ(order, (std::vector{4, 1, 2, 3}));  // the current window first
   EXPECT_EQ(Positions(4), (std::vector{6, 7, 3, 17}));
+  // A path that is traced on one of them takes the others along.
+  stage_.Key(kKeyF1 + kSwingPath);
+  stage_.Click(4, 50, 50);
+  EXPECT_EQ(Positions(4), (std::vector{7, 8, 4, 18}));
+  ASSERT_TRUE(stage_.Commands().Run("LockAll"));
+  EXPECT_FALSE(lock_.IsLocked(1) || lock_.IsLocked(4));
 }
 
 TEST_F(LockedVideosTest, LockIsRefusedOrEndsWithItsVideos) {
