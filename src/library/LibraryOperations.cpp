@@ -114,9 +114,13 @@ std::string LibraryOperations::BusyText() const {
 /// A library in a network folder that has gone would look like one without students.
 std::string LibraryOperations::Unreachable() const {
   const std::string& root = tree_.Root();
-  const auto there = host_.Drives().Ask(root, [root] { return TouchPath(root) && dirExists(root); });
-  if (!there) return SilentLibraryText(root) + " Nothing was changed.";
-  return *there ? std::string() : "The video library at " + root + " cannot be reached. Nothing was changed.";
+  switch (PlaceOfLibrary(host_.Drives(), settings_)) {
+    case LibraryPlace::Ready:
+    case LibraryPlace::ToBegin: return {};
+    case LibraryPlace::Silent: return SilentLibraryText(root) + " Nothing was changed.";
+    case LibraryPlace::Gone: break;
+  }
+  return "The video library at " + root + " cannot be reached. Nothing was changed.";
 }
 
 std::string LibraryOperations::Obstacle() const {

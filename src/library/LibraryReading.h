@@ -4,6 +4,7 @@
 #include <string>
 #include <utility>
 
+#include "core/Settings.h"
 #include "library/LibraryTree.h"
 #include "library/Sidecar.h"
 #include "platform/host/DriveWatch.h"
@@ -24,6 +25,16 @@ auto AskLibrary(DriveWatch& drives, const LibraryTree& tree, Reading reading) {
 /// The marks of a video; nothing when the drive of the library with the folder `root` does not answer. With
 /// them the drive has answered for the video itself.
 std::optional<SidecarMarks> AskVideoMarks(DriveWatch& drives, const std::string& root, const std::string& videoPath);
+
+/// How the folder of the library stands.
+enum class LibraryPlace {
+  Ready,    ///< it is there
+  ToBegin,  ///< the one on this machine, which has not been there yet: it comes with the first instructor
+  Gone,     ///< it cannot be reached, or something else stands in its place
+  Silent,   ///< its drive does not answer
+};
+/// @param settings  a library of this machine is to begin as long as no instructor has been chosen in it
+LibraryPlace PlaceOfLibrary(DriveWatch& drives, const Settings& settings);
 
 /// What is told of a library whose drive does not answer.
 std::string SilentLibraryText(const std::string& root);

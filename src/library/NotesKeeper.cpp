@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "library/Profile.h"
+#include "library/TextMerge.h"
 #include "platform/files/Folders.h"
 
 namespace kinalyx {
@@ -27,24 +28,37 @@ const std::string& NotesKeeper::Open(const std::string& studentFolder) {
   std::optional<std::string> notes;
   if (reachable_(folder_)) notes = LoadNotes(folder_);
   text_ = notes.value_or("");
-  if (const auto unsaved = unsaved_.find(folder_); unsaved != unsaved_.end()) return unsaved->second;
+  if (const auto unsaved = unsaved_.find(folder_); unsaved != unsaved_.end()) return unsaved->second.text;
   readable_ = notes.has_value();
   return text_;
 }
 
-bool NotesKeeper::Keep(std::string_view text, std::string* error) {
-  if (!folder_.empty() && readable_) {
-    std::string lines = WithLineEnds(text);
-    if (lines != text_) unsaved_[folder_] = std::move(lines);
-    else unsaved_.erase(folder_);  // taken back: the file holds it already
+/// Leaves in `notes` what is on the disk then.
+bool NotesKeeper::Store(const std::string& folder, Waiting& notes, std::string* error) {
+  const auto theirs = LoadNotes(folder);
+  if (!theirs) {
+    if (error) *error = "The notes that are there cannot be read.";
+    return false;
+  }
+  notes.text = WithLineEnds(MergeTexts(notes.base, notes.text, *theirs));
+  notes.base = *theirs;
+  return notes.text == *theirs || SaveNotes(folder, notes.text, error);
+}
+
+bool NotesKeeper::Keep(std::optional<std::string_view> text, std::string* error) {
+  if (text && !folder_.empty() && readable_) {
+    std::string lines = WithLineEnds(*text);
+    const auto waiting = unsaved_.try_emplace(folder_, Waiting{{}, text_}).first;
+    waiting->second.text = std::move(lines);
+    if (waiting->second.text == waiting->second.base) unsaved_.erase(waiting);  // the file holds it already
   }
   for (auto notes = unsaved_.begin(); notes != unsaved_.end();) {
     const bool reached = reachable_(notes->first);
     if (!reached && error) *error = "the drive is not answering";
     const bool gone = reached && HasGone(notes->first);
-    const bool settled = gone || (reached && SaveNotes(notes->first, notes->second, error));
-    if (settled && notes->first == folder_) text_ = notes->second;
-    if (gone && Lost && !notes->second.empty()) Lost(notes->first, notes->second);
+    const bool settled = gone || (reached && Store(notes->first, notes->second, error));
+    if (settled && notes->first == folder_) text_ = notes->second.text;
+    if (gone && Lost && !notes->second.text.empty()) Lost(notes->first, notes->second.text);
     notes = settled ? unsaved_.erase(notes) : std::next(notes);
   }
   return unsaved_.empty();

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -27,11 +28,20 @@ class NotesKeeper {
   bool Readable() const { return readable_; }
   const std::string& StudentFolder() const { return folder_; }
 
-  /// Stores the text of the open student when it differs from what was read. False when it, or an
-  /// earlier text of another student, could not be stored; `error` then tells why.
-  bool Keep(std::string_view text, std::string* error);
+  /// Stores the text of the open student together with what somebody else has written there meanwhile, and
+  /// what waits of others. Without a text, or with one that says what was read, nothing is written for it. False when it, or an earlier text of another student, could not be
+  /// stored; `error` then tells why.
+  bool Keep(std::optional<std::string_view> text, std::string* error);
+  /// What the file of the open student holds, as far as is known: the text that was given to Keep, or more.
+  const std::string& Text() const { return text_; }
   /// What waits to be stored, by student's folder.
-  const std::map<std::string, std::string>& Unsaved() const { return unsaved_; }
+  struct Waiting {
+    std::string text;
+    std::string base;  ///< what it was written upon
+
+    friend bool operator==(const Waiting&, const Waiting&) = default;
+  };
+  const std::map<std::string, Waiting>& Unsaved() const { return unsaved_; }
   /// The notes of the open student are among it.
   bool OpenIsUnsaved() const { return unsaved_.contains(folder_); }
 
@@ -40,7 +50,9 @@ class NotesKeeper {
   std::string folder_;
   std::string text_;  ///< what the file holds
   bool readable_ = true;
-  std::map<std::string, std::string> unsaved_;
+  bool Store(const std::string& folder, Waiting& notes, std::string* error);
+
+  std::map<std::string, Waiting> unsaved_;
 };
 
 }  // namespace kinalyx

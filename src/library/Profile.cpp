@@ -230,6 +230,8 @@ Outcome AddInstructor(const std::string& root, std::string_view name) {
   if (IsBlank(name)) return {false, "You must type a name!"};
   const std::string folder = JoinPath(root, name);
   if (SameName(name, kGeneralFolder) || HasFolderNamed(root, name)) return {false, std::string(name) + " already exists."};
+  // The library on this machine comes with its first instructor.
+  if (std::error_code there; !dirExists(root)) std::filesystem::create_directory(root, there);
   if (const auto reason = MakeNewFolder(folder)) return {false, "The folder " + folder + " cannot be made: " + *reason + "."};
   return {true, std::string(name) + " successfully added!"};
 }

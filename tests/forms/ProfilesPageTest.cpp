@@ -289,6 +289,7 @@ TEST_F(ProfilesPageTest, AStudentIsAddedAndSelected) {
 
 TEST_F(ProfilesPageTest, ALibraryThatHasGoneIsToldOf) {
   Press("SSCommand2");
+  library.settings.LastInstructor = "Demo";  // as it is kept when a page is left
   std::filesystem::rename(library.Root(), library.Root() + " gone");
   Choose("InstructorList", "Demo");
   EXPECT_EQ(List("StudentList")->Hint().toStdString(),

@@ -99,6 +99,27 @@ TEST_F(StudentOperations, AddsAStudentWhereNobodyElseIs) {
 }
 
 /// On a stick the two would become one.
+TEST_F(StudentOperations, ALibraryOfThisMachineBeginsWithItsFirstInstructor) {
+  fs::remove_all(library.Root());
+  EXPECT_EQ(Ops().AddInstructor("Łucja").status, "Łucja successfully added!");
+  EXPECT_TRUE(Exists("Łucja"));
+  // One that was there, one of the user's own choice, and one without its data folder have gone.
+  const auto gone = [&] {
+    fs::remove_all(library.Root());
+    EXPECT_FALSE(Ops().AddInstructor("Ann").done);
+    EXPECT_TRUE(Told("cannot be reached")) << Message();
+    EXPECT_FALSE(EntryExists(library.Root()));
+  };
+  library.settings.LastInstructor = "Łucja";
+  gone();
+  library.settings.LastInstructor.clear();
+  library.settings.UseNetwork = true;
+  gone();
+  library.settings.UseNetwork = false;
+  fs::remove_all(library.settings.DataPath);
+  gone();
+}
+
 TEST_F(StudentOperations, NamesThatDifferInCaseAloneAreTaken) {
   library.Folder("Ann/Zoë");
   library.Folder("Bob/JOE DOE");

@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 
 #include "library/LibraryHints.h"
+#include "library/LibraryReading.h"
 #include "library/forms/Text.h"
 #include "platform/files/Folders.h"
 
@@ -77,20 +78,13 @@ void LibraryLists::ShowVideos() {
   emit VideoChosen();
 }
 
-/// True when the library folder cannot be reached. The user's own on this machine, where it has not been there
-/// yet, comes with the first instructor, unless something else stands in its place.
-bool LibraryLists::LibraryGone() {
+/// True when the folder whose lists these are cannot be reached.
+bool LibraryLists::RootGone() {
   if (browser_.Silent()) return false;
+  if (browser_.Purpose() != LibraryBrowser::Kind::Exchange)
+    return PlaceOfLibrary(browser_.Drives(), settings_) == LibraryPlace::Gone;
   const std::string& root = browser_.Tree().Root();
-  enum class Place { Folder, File, Nothing };
-  const auto place = browser_.Drives().Ask(root, [root] {
-    return dirExists(root) ? Place::Folder : FileExists(root) ? Place::File : Place::Nothing;
-  });
-  if (place == Place::Folder) {
-    reached_ = root;
-    return false;
-  }
-  return place == Place::File || settings_.UseNetwork || reached_ == root || browser_.Purpose() == LibraryBrowser::Kind::Exchange;
+  return !browser_.Drives().Ask(root, [root] { return dirExists(root); }).value_or(true);
 }
 
 /// The lists fill by themselves when a library that is silent answers again.
@@ -108,7 +102,7 @@ void LibraryLists::WatchSilence() {
 void LibraryLists::ShowHints() {
   WatchSilence();
   students_->setAccessibleName(Q(vocabulary_.Nouns()));
-  const LibraryHints hints = HintsOf(browser_, vocabulary_, LibraryGone());
+  const LibraryHints hints = HintsOf(browser_, vocabulary_, RootGone());
   students_->SetHint(Q(hints.students));
   videos_->SetHint(Q(hints.videos));
 }

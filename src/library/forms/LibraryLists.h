@@ -55,14 +55,13 @@ class LibraryLists : public QObject {
  private:
   bool Leave();
   void ShowCount();
-  bool LibraryGone();
+  bool RootGone();
   void WatchSilence();
 
   LibraryBrowser& browser_;
   const Settings& settings_;
   Vocabulary vocabulary_;
   HostTimer again_;      ///< looks after a library that is silent
-  std::string reached_;  ///< the library folder that was last seen to be there
   NameList* instructors_;
   NameList* students_;
   NameList* videos_;

@@ -4,6 +4,10 @@
 #include <QEvent>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QTextCursor>
+#include <algorithm>
+#include <optional>
+#include <string_view>
 
 #include "core/Settings.h"
 #include "library/forms/Divider.h"
@@ -79,6 +83,7 @@ ProfilePanel::ProfilePanel(IHost& host, const Settings& settings, QWidget* paren
   notesTitle_->setBuddy(editor_);
 
   connect(editor_, &QPlainTextEdit::textChanged, this, [this] {
+    typed_ = true;
     rest_ = HostTimer(host_, kRestMs, false, [this] { KeepTypedNotes(); });
   });
   connect(details_, &QPushButton::clicked, this, [this] { ProBtn(0); });
@@ -123,6 +128,7 @@ void ProfilePanel::OpenStudent(const std::string& studentFolder) {
   const std::string& text = notes_.Open(studentFolder);
   const bool student = !studentFolder.empty();
   editor_->setPlainText(Q(text));
+  typed_ = false;
   rest_.Stop();
   editor_->setEnabled(student && notes_.Readable());
   SetTitle(student ? Q(LastName(studentFolder)) : Q(vocabulary_.Profile()));
@@ -151,10 +157,38 @@ bool ProfilePanel::LeaveNotes() {
   return !notes_.OpenIsUnsaved();
 }
 
+/// As it stands, with the no-break spaces that toPlainText would make plain ones.
+std::string ProfilePanel::TypedNotes() const {
+  QString text = editor_->document()->toRawText();
+  text.replace(QChar::ParagraphSeparator, u'\n').replace(QChar::LineSeparator, u'\n');
+  return Std(text);
+}
+
+/// Puts into the editor what differs, so that the cursor stays where the user has it.
+void ProfilePanel::ShowNotes(const std::string& text) {
+  const QString wanted = Q(text).replace("\r\n", "\n");
+  const QString shown = Q(TypedNotes());
+  if (wanted == shown || wanted == shown + u'\n') return;
+  const auto least = std::min(wanted.size(), shown.size());
+  qsizetype front = 0;
+  while (front < least && wanted[front] == shown[front]) ++front;
+  qsizetype back = 0;
+  while (back < least - front && wanted[wanted.size() - 1 - back] == shown[shown.size() - 1 - back]) ++back;
+  QTextCursor cursor(editor_->document());
+  cursor.setPosition(static_cast<int>(front));
+  cursor.setPosition(static_cast<int>(shown.size() - back), QTextCursor::KeepAnchor);
+  cursor.insertText(wanted.mid(front, wanted.size() - front - back));
+}
+
 bool ProfilePanel::KeepNotes(std::string* reason) {
-  const bool kept = notes_.Keep(Std(editor_->toPlainText()), reason);
-  if (kept) toldNotes_.clear();
-  return kept;
+  const std::string typed = typed_ ? TypedNotes() : std::string();
+  const bool kept = notes_.Keep(typed_ ? std::optional<std::string_view>(typed) : std::nullopt, reason);
+  if (!kept) return false;
+  toldNotes_.clear();
+  if (typed_) ShowNotes(notes_.Text());  // what somebody else has added
+  typed_ = false;
+  rest_.Stop();
+  return true;
 }
 
 /// While the user rests. A silent drive is not waited for, and what fails is told without a box: the notes are

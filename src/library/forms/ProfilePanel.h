@@ -50,6 +50,8 @@ class ProfilePanel : public Panel {
 
  private:
   void ProBtn(int index);
+  std::string TypedNotes() const;
+  void ShowNotes(const std::string& text);
   bool KeepNotes(std::string* reason);
   void KeepTypedNotes();
   void TellLost(const std::string& folder, const std::string& notes);
@@ -61,12 +63,13 @@ class ProfilePanel : public Panel {
   HostTimer telling_;
   HostTimer rest_;  ///< runs while notes have been typed that the disk has not got yet
   std::string toldReason_;                       ///< why notes could not be stored, as the last box told it
-  std::map<std::string, std::string> toldNotes_;  ///< and which
+  std::map<std::string, NotesKeeper::Waiting> toldNotes_;  ///< and which
   View view_ = View::Brief;
   FieldGrid* fields_;
   QWidget* notesPart_;
   class QLabel* notesTitle_;
   QPlainTextEdit* editor_;
+  bool typed_ = false;  ///< something has been changed in it since it was filled
   Button* details_;
   Button* edit_;
   Button* print_;
