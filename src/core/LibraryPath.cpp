@@ -44,6 +44,10 @@ bool SwitchNetworkOn(IHost& host, Settings& settings) {
     return false;
   }
   if (TakeLibraryFolder(settings, *folder)) return true;
+  if (!Settings::Holds(*folder)) {
+    host.Message(MessageKind::Warning, "Network Path Change", Settings::TooLongText(*folder));
+    return false;
+  }
   host.Message(MessageKind::Warning, "Network Path Change", "The folder " + *folder + " cannot be used for videos.");
   return false;
 }
@@ -53,6 +57,7 @@ bool TakeLibraryFolder(Settings& settings, std::string folder) {
   while (folder.size() > 1 && folder.ends_with('/')) folder.pop_back();
   if (folder.empty()) return false;
   if (IsDriveRoot(folder)) folder = JoinPath(folder, "Video Library");
+  if (!Settings::Holds(folder)) return false;
   if (!dirExists(folder)) {
     if (!MakeFolder(folder)) return false;
     MakeFolder(JoinPath(folder, "Amateurs"));

@@ -22,6 +22,10 @@ bool Choose(IHost& host, Settings& settings, const char* title, const char* fold
                  fmt::format("There is no picture in the file {} that can be shown. The old picture stays.", *picture));
     return false;
   }
+  if (!Settings::Holds(*picture)) {
+    host.Message(MessageKind::Warning, title, Settings::TooLongText(*picture));
+    return false;
+  }
   settings.Set(setting, *picture);
   return true;
 }

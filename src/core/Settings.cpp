@@ -102,6 +102,15 @@ bool Settings::WriteTo(const std::string& file, const std::string& section, cons
   return false;
 }
 
+bool Settings::Holds(std::string_view text) {
+  // Characters, of which the bytes that go on with one are none.
+  return std::ranges::count_if(text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }) < kValueCapacity;
+}
+
+std::string Settings::TooLongText(const std::string& path) {
+  return "The path " + path + " is longer than the 149 characters that the settings can hold. Choose a place with a shorter path.";
+}
+
 bool Settings::SetNewColor(int index, std::int32_t colour) {
   if (index == kPathDownButton) {
     // The loader does not know this key: the colour lasts until the program ends.

@@ -164,6 +164,10 @@ class Settings {
   }
   /// Called after WriteConfigKey has found the file gone: every member may have changed.
   std::function<void()> Reloaded;
+  /// False for a text of more than 149 characters, which would be read back cut.
+  static bool Holds(std::string_view text);
+  /// What the user is told of a path that is too long.
+  static std::string TooLongText(const std::string& path);
   /// Stores and writes the colour of a tool button: 0 to 12, or 17, the path-down tool.
   bool SetNewColor(int index, std::int32_t colour);
   /// Keeps the place of the main form, in twips.

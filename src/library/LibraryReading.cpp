@@ -1,7 +1,7 @@
 #include "library/LibraryReading.h"
 
 #include "core/LibraryPath.h"
-#include "platform/files/Disk.h"
+#include "platform/files/FileCopy.h"
 #include "platform/files/Folders.h"
 
 namespace kinalyx {

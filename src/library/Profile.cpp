@@ -148,8 +148,16 @@ Profile OpenProfile(const std::string& studentFolder, const FieldTexts& captions
   return profile;
 }
 
-bool SaveProfile(const std::string& studentFolder, const FieldTexts& captions, const FieldTexts& values) {
-  return WriteProfileEntries(Entries(studentFolder, captions, values), ProfilePath(studentFolder));
+bool SaveProfile(const std::string& studentFolder, const FieldTexts& captions, const FieldTexts& values,
+                 const FieldTexts& base) {
+  const ProfileReader reader(ProfilePath(studentFolder));
+  std::vector<ProfileEntry> entries = Entries(studentFolder, captions, values);
+  std::erase_if(entries, [&](const ProfileEntry& entry) {
+    const auto field = static_cast<std::size_t>(std::ranges::find(captions, entry.key) - captions.begin());
+    return field > 0 && field < captions.size() && values[field] == base[field] &&
+           reader.Value(kProfileSection, entry.key);
+  });
+  return WriteProfileEntries(entries, ProfilePath(studentFolder));
 }
 
 std::optional<std::string> GetEmailAddress(const std::string& studentFolder) {

@@ -63,9 +63,13 @@ std::string ProfilePath(const std::string& studentFolder);
 /// nothing can be read or made, the name is all there is.
 Profile OpenProfile(const std::string& studentFolder, const FieldTexts& captions);
 
-/// Writes all values; an empty one is stored as one blank. Name and count of videos are the program's:
-/// the folder's name and a blank stand for them. False when the disk refuses.
-bool SaveProfile(const std::string& studentFolder, const FieldTexts& captions, const FieldTexts& values);
+/// Writes the values that are not those of `base`, and those that the file has not got; the others stay as
+/// they are on the disk, where somebody else may have changed them. An empty value is stored as one blank. Name
+/// and count of videos are the program's: the folder's name and a blank stand for them. False when the disk
+/// refuses.
+/// @param base  the values as they were read before they were changed
+bool SaveProfile(const std::string& studentFolder, const FieldTexts& captions, const FieldTexts& values,
+                 const FieldTexts& base);
 
 /// The notes of a student, UTF-8, each line ended by CR LF. A missing file is made, empty. Nothing when
 /// there is a file that cannot be read: it must not be written over.

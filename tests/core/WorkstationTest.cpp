@@ -155,6 +155,8 @@ TEST(LibraryPath, GoesToAFolderOfTheUsersChoiceAndBack) {
   desk.folder.Put("file", "");
   EXPECT_FALSE(switchOn(true, desk.folder.Path("file/below")));
   EXPECT_EQ(desk.host.messages.size(), 1u);
+  EXPECT_FALSE(switchOn(true, desk.folder.Path(std::string(150, 'n'))));
+  EXPECT_NE(desk.host.messages.back().find("longer than the 149 characters"), std::string::npos);
   EXPECT_EQ(s.LibraryPath, desk.folder.Path("server")) << "a refused folder leaves the present one";
 
   SwitchNetworkOff(s);

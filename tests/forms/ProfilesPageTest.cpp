@@ -236,6 +236,23 @@ TEST_F(ProfilesPageTest, NotesAreKeptWhenTheyAreLeftHoweverThatHappens) {
   EXPECT_EQ(Read("Demo/Sample, Erica/profile.txt"), "three\r\n");
 }
 
+TEST_F(ProfilesPageTest, NotesThatNobodyTouchesAreNotWritten) {
+  // With a no-break space, which an editor may take for a plain one.
+  const std::string path = library.File("Demo/Tom/profile.txt", "60\u00A0cm\n");
+  ChooseStudent("Tom");
+  Choose("StudentList", "Sample, Erica");
+  EXPECT_EQ(Read("Demo/Tom/profile.txt"), "60\u00A0cm\n");
+  Choose("StudentList", "Tom");
+  auto* notes = Find<QPlainTextEdit>("ProfileNotes");
+  notes->moveCursor(QTextCursor::End);
+  notes->insertPlainText("hips");
+  ASSERT_TRUE(SaveNotes(library.Path("Demo/Tom"), "60\u00A0cm\nelsewhere\n"));
+  library.host.Advance(2000);
+  EXPECT_EQ(Read("Demo/Tom/profile.txt"), "60\u00A0cm\r\nhips\r\nelsewhere\r\n");
+  EXPECT_EQ(notes->toPlainText(), "60 cm\nhips\nelsewhere\n");
+  EXPECT_EQ(notes->textCursor().position(), 10) << "the cursor stays behind what was typed";
+}
+
 TEST_F(ProfilesPageTest, NotesThatTheDiskRefusesStayInTheEditor) {
   ChooseStudent("Tom");
   std::filesystem::remove(library.Path("Demo/Tom/profile.txt"));
@@ -319,6 +336,19 @@ TEST_F(ProfilesPageTest, AProfileIsEdited) {
   Press("ProAddSaveBtn");
   EXPECT_EQ(Text("SPDisplay"), "Student profile successfully updated.");
   EXPECT_EQ(Text("ProFieldLbl6") + Text("ProInfoLbl6"), "Handicap12");
+
+  // Renamed under the open editor: what has been typed goes under the new name, what has not stays where it is.
+  Press("ProBtn1");
+  Type("ProInfoBox7", "180");
+  fields.SetCaption(6, "Age");
+  fields.SetCaption(7, "Size");
+  page->SetupFields();
+  EXPECT_EQ(Find<QLineEdit>("ProInfoBox6")->text(), "");
+  EXPECT_EQ(Find<QLineEdit>("ProInfoBox7")->text(), "180");
+  Press("ProAddSaveBtn");
+  const std::string profile = ProfilePath(library.Path("Demo/Tom"));
+  EXPECT_EQ(ReadProfileValue("Profile", "Size", profile), "180");
+  EXPECT_EQ(ReadProfileValue("Profile", "Handicap", profile), "12");
 }
 
 TEST_F(ProfilesPageTest, AnInstructorIsAdded) {

@@ -21,7 +21,7 @@ class ProfileTest : public ::testing::Test {
     fields.SetupFields();
   }
   Profile Open() { return OpenProfile(student, fields.Captions()); }
-  bool Save(const FieldTexts& values) { return SaveProfile(student, fields.Captions(), values); }
+  bool Save(const FieldTexts& values) { return SaveProfile(student, fields.Captions(), values, OpenProfile(student, fields.Captions()).Stored()); }
   std::string File(const std::string& name) const { return TempLibrary::Read(student + "/" + name); }
   bool Exists(const std::string& name) const { return std::filesystem::exists(student + "/" + name); }
 
@@ -101,6 +101,30 @@ TEST_F(ProfileTest, ValuesComeBackCutAt49CharactersNotBytes) {
   EXPECT_EQ(profile.values[9], "");  // the program counts the videos
   EXPECT_EQ(GetEmailAddress(student), "erica@example.org");
   EXPECT_EQ(GetEmailAddress(library.Folder("Demo/Nobody")), std::nullopt);
+}
+
+TEST_F(ProfileTest, TwoWorkstationsKeepEachOthersFieldsAndLines) {
+  values[6] = "44";
+  values[7] = "180";
+  ASSERT_TRUE(Save(values));
+  FieldTexts here = Open().Stored();
+  const FieldTexts base = here;
+  FieldTexts there = here;
+  there[7] = "181";
+  there[10] = "Łydki";
+  ASSERT_TRUE(Save(there));
+  here[6] = "45";
+  ASSERT_TRUE(SaveProfile(student, fields.Captions(), here, base));
+  EXPECT_EQ(Open().values[6] + Open().values[7] + Open().values[10], "45181Łydki");
+
+  library.File("Demo/Sample, Erica/profile.txt", "grip\r\nhips\r\n");
+  NotesKeeper notes([](const std::string&) { return true; });
+  EXPECT_EQ(notes.Open(student), "grip\r\nhips\r\n");
+  ASSERT_TRUE(SaveNotes(student, "grip\r\nhips\r\nfrom the other desk\r\n"));
+  std::string error;
+  EXPECT_TRUE(notes.Keep("weak grip\nhips\n", &error)) << error;
+  EXPECT_EQ(File("profile.txt"), "weak grip\r\nhips\r\nfrom the other desk\r\n");
+  EXPECT_EQ(notes.Text(), File("profile.txt"));
 }
 
 TEST_F(ProfileTest, AHandEditedListOfFieldsDoesNoHarm) {

@@ -58,6 +58,10 @@ void DriveChoice::Browse() {
 
 void DriveChoice::Store(const std::string& path) {
   if (path.empty()) return;
+  if (!Settings::Holds(path)) {
+    host_.Message(MessageKind::Warning, "", Settings::TooLongText(path));
+    return;
+  }
   settings_.Set(settings_.Exporter, path);
   Refresh();
   emit Chosen();

@@ -70,6 +70,7 @@ ProfileEditor::ProfileEditor(const Settings& settings, QWidget* parent)
 void ProfileEditor::Fill(const FieldTexts& captions, const FieldTexts& values) {
   for (int field = 0; field < kProfileFields; ++field)
     boxes_->SetCaption(field, Q(captions[static_cast<std::size_t>(field)]));
+  captions_ = captions;
   boxes_->SetTexts(values);
   opened_ = boxes_->Texts();
 }
@@ -95,6 +96,17 @@ void ProfileEditor::OpenEdit(const FieldTexts& captions, const FieldTexts& value
   boxes_->Box(kNameField).setReadOnly(true);
   Fill(captions, values);
   instructorPart_->hide();
+}
+
+void ProfileEditor::Rename(const FieldTexts& captions, const FieldTexts& values) {
+  FieldTexts texts = Values();
+  for (std::size_t field = 0; field < texts.size(); ++field) {
+    if (captions[field] != captions_[field] && texts[field] == opened_[field]) texts[field] = values[field];
+    if (captions[field] != captions_[field]) opened_[field] = values[field];
+  }
+  const FieldTexts opened = opened_;
+  Fill(captions, texts);
+  opened_ = opened;
 }
 
 FieldTexts ProfileEditor::Values() const { return boxes_->Texts(); }

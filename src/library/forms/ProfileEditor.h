@@ -29,7 +29,12 @@ class ProfileEditor : public Panel {
   bool IsNew() const { return new_; }
   QString Title() const;
 
+  /// Fields have other names now: each box that nobody has typed in takes the value under its new name.
+  void Rename(const FieldTexts& captions, const FieldTexts& values);
+
   FieldTexts Values() const;
+  /// The values as they were before anything was typed.
+  const FieldTexts& Opened() const { return opened_; }
   /// Something has been typed since it was opened.
   bool Changed() const;
   /// The chosen entry of `Combo2`, empty when none is.
@@ -52,6 +57,7 @@ class ProfileEditor : public Panel {
   const Settings& settings_;
   Vocabulary vocabulary_;
   bool new_ = true;
+  FieldTexts captions_;
   FieldTexts opened_;
   QLabel* text_;
   QWidget* instructorPart_;

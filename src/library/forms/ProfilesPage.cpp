@@ -171,6 +171,7 @@ void ProfilesPage::SetupVocabulary() {
 void ProfilesPage::SetupFields() {
   profilePanel_->Fields().SetCaptions(fields_.Captions());
   OpenProfile();
+  if (!editor_->isHidden()) editor_->Rename(fields_.Captions(), editor_->IsNew() ? FieldTexts{} : profile_.Stored());
 }
 
 void ProfilesPage::Say(const QString& text) { status_->Say(text); }
@@ -363,7 +364,7 @@ void ProfilesPage::ProAddSaveBtn() {
   const FieldTexts values = editor_->Values();
   if (!editor_->IsNew()) {
     if (!LibraryAnswers(editedFolder_)) return Say(Q(SilentLibraryText(settings_.LibraryPath)));
-    if (!SaveProfile(editedFolder_, fields_.Captions(), values)) {
+    if (!SaveProfile(editedFolder_, fields_.Captions(), values, editor_->Opened())) {
       Say("An error has occurred while editing the profile");
       return;
     }

@@ -65,10 +65,9 @@ bool UntouchedSince(const std::string& path, std::time_t moment) {
 }  // namespace
 
 std::string PartNameBeside(const std::string& path) {
-  // From the system at each call: a process that forks would hand its dice to its children.
-  std::random_device dice;
+  static thread_local std::mt19937_64 dice{std::random_device{}()};
   std::array<char, 24> number{};
-  std::snprintf(number.data(), number.size(), ".%08x%08x", dice(), dice());
+  std::snprintf(number.data(), number.size(), ".%016llx", static_cast<unsigned long long>(dice()));
   return JoinPath(FolderOf(path), "." + std::string(CutUtf8(LastName(path), 200)) + number.data() + std::string(kEnding));
 }
 
