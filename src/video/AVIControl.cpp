@@ -1,8 +1,9 @@
 #include "video/AVIControl.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
+
+#include "video/PlayClock.h"
 
 namespace kinalyx {
 namespace {
@@ -19,54 +20,39 @@ int BitsOfFormat(int code) {
 
 }  // namespace
 
-/// A play from its start to its end. Position p falls due at base + p * interval. One object serves all
-/// plays of its control: a picture's callbacks may end this play and begin the next while it draws.
+/// A play from its start to its end. One object serves all plays of its control: a picture's callbacks may
+/// end this play and begin the next while it draws.
 class AVIControl::Run final : public IPlayRun {
  public:
   explicit Run(AVIControl& control) : control_(control) {}
 
   void Begin(int start) {
-    counter_ = start;
-    Restart(control_.services_.host.timeGetTime());
+    const std::int64_t now = control_.services_.host.timeGetTime();
+    clock_.Start(now, start, control_.FrameTimeMs_ / control_.properties_.Speed * 100.0);
+    control_.services_.scheduler.Add(*this, clock_.Due(start + 1));
+    Show(start);
   }
 
   std::int64_t Tick(std::int64_t now) override {
     const Lifetime::Watch watch(control_.life_);
     if (wrap_) {
-      // Counted on from the moment at which it fell due, so that videos looped together stay together.
-      const std::int64_t end = base_ + (control_.PlayEnd_ + std::int64_t{1}) * interval_;
-      counter_ = 0;
-      Restart(now - end < interval_ * control_.PlayEnd_ ? end : now);
-    } else if (const int due = PositionAt(now); due != counter_) {
-      counter_ = due;
-      Show();
+      clock_.Wrap(now, control_.PlayEnd_);
+      Show(0);
+    } else if (const int due = clock_.PositionAt(now, counter_, control_.PlayEnd_ + 1); due != counter_) {
+      Show(due);
     }
     if (watch.Gone()) return now;  // and this run with it
-    return wrap_ ? now + interval_ : base_ + static_cast<std::int64_t>(counter_ + 1) * interval_;
+    return clock_.Due(counter_ + 1);
   }
 
  private:
-  int PositionAt(std::int64_t now) const {
-    return static_cast<int>(std::clamp<std::int64_t>((now - base_) / interval_, counter_, control_.PlayEnd_ + 1));
-  }
-
-  /// Takes the present position as due now and shows it.
-  void Restart(std::int64_t now) {
-    ++play_;
+  /// Draws a position; at or behind the end draws the end, which ends the play or, with a repeat, begins it
+  /// anew one interval later, so that the last picture is seen as long as any other.
+  void Show(int position) {
+    const int play = ++play_;
+    const bool atEnd = position >= control_.PlayEnd_;
+    counter_ = std::min(position, control_.PlayEnd_);
     wrap_ = false;
-    // Whole milliseconds, as the clock has them; at 240 pictures a second it still moves on.
-    interval_ = std::max<std::int64_t>(1, std::llrint(control_.FrameTimeMs_ / control_.properties_.Speed * 100.0));
-    base_ = now - interval_ * counter_;
-    control_.services_.scheduler.Add(*this, now + interval_);
-    Show();
-  }
-
-  /// Draws the present position; at or behind the end draws the end, which ends the play or, with a
-  /// repeat, begins it anew one interval later, so that the last picture is seen as long as any other.
-  void Show() {
-    const int play = play_;
-    const bool atEnd = counter_ >= control_.PlayEnd_;
-    counter_ = std::min(counter_, control_.PlayEnd_);
     const Lifetime::Watch watch(control_.life_);
     control_.SetPosition(counter_);
     control_.RenderCurrent();
@@ -76,8 +62,7 @@ class AVIControl::Run final : public IPlayRun {
   }
 
   AVIControl& control_;
-  std::int64_t base_ = 0;
-  std::int64_t interval_ = 1;
+  PlayClock clock_;
   int counter_ = 0;
   int play_ = 0;
   bool wrap_ = false;

@@ -58,6 +58,8 @@ class AVIControl {
   int Position() const { return GetPosition(); }
   /// Number of positions: frames, or fields with `SplitFields`.
   int VideoLength() const { return PositionCount(); }
+  /// Milliseconds that a position lasts at full speed; 0 without a video.
+  double PositionTime() const { return FrameTimeMs_; }
 
   // --- pictures made of fields
 

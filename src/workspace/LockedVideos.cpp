@@ -1,8 +1,8 @@
 #include "workspace/LockedVideos.h"
 
 #include <algorithm>
-#include <cmath>
 
+#include "video/PlayClock.h"
 #include "workspace/PlayerMoves.h"
 
 namespace kinalyx {
@@ -14,16 +14,10 @@ constexpr int kAllFour = 2;
 constexpr int kLockable = 4;  // slots that a lock can hold
 constexpr int kFastest = 1000;
 
-/// Milliseconds that a position of a player lasts at full speed.
-double PositionTime(const AVIControl& player) {
-  const VideoInfo* info = player.Info();
-  return info && player.VideoLength() > 0 ? info->durationMs / player.VideoLength() : 0;
-}
-
 }  // namespace
 
 /// The common play. Counts the distance from the lowest positions; every video shows its own lowest
-/// position plus that one distance, so no two can drift apart. Distance d falls due at base + d * interval.
+/// position plus that one distance, so no two can drift apart.
 class LockedVideos::Run final : public IPlayRun {
  public:
   Run(PlayScheduler& scheduler, LockedVideos& videos) : scheduler_(scheduler), videos_(videos) {}
@@ -34,8 +28,9 @@ class LockedVideos::Run final : public IPlayRun {
   void Begin(std::vector<int> slots, int distance, int last, double interval) {
     slots_ = std::move(slots);
     last_ = last;
-    interval_ = std::max(interval, 1.0);
-    Restart(distance);
+    clock_.Start(videos_.host_.timeGetTime(), distance, interval);
+    scheduler_.Add(*this, clock_.Due(distance + 1));
+    ShowAll(distance);
   }
 
   void End() {
@@ -46,44 +41,27 @@ class LockedVideos::Run final : public IPlayRun {
 
   /// Goes on from the distance that is shown.
   void SetInterval(double interval) {
-    interval_ = std::max(interval, 1.0);
-    base_ = static_cast<double>(videos_.host_.timeGetTime()) - interval_ * distance_;
-    scheduler_.Add(*this, DueNext());
+    clock_.Start(videos_.host_.timeGetTime(), distance_, interval);
+    scheduler_.Add(*this, clock_.Due(distance_ + 1));
   }
 
   std::int64_t Tick(std::int64_t now) override {
     if (wrap_) {
-      Restart(0);
-    } else if (const int due = DistanceAt(now); due > distance_) {
-      distance_ = due;
-      ShowAll();
+      clock_.Wrap(now, last_);
+      ShowAll(0);
+    } else if (const int due = clock_.PositionAt(now, distance_, last_ + 1); due != distance_) {
+      ShowAll(due);
     }
-    return DueNext();
+    return clock_.Due(distance_ + 1);
   }
 
  private:
-  int DistanceAt(std::int64_t now) const {
-    constexpr double kRounding = 1e-6;  // a distance that is due on the millisecond counts as due
-    return static_cast<int>(std::min((static_cast<double>(now) - base_) / interval_ + kRounding, last_ + 1.0));
-  }
-
-  std::int64_t DueNext() const {
-    return static_cast<std::int64_t>(std::ceil(base_ + (std::min(distance_, last_) + 1) * interval_));
-  }
-
-  void Restart(int distance) {
-    wrap_ = false;
-    distance_ = distance;
-    base_ = static_cast<double>(videos_.host_.timeGetTime()) - interval_ * distance;
-    scheduler_.Add(*this, DueNext());
-    ShowAll();
-  }
-
-  /// Draws all videos at the present distance. What they call may end this play or begin the next.
-  void ShowAll() {
+  /// Draws all videos at a distance. What they call may end this play or begin the next.
+  void ShowAll(int distance) {
     const int play = ++play_;
-    const bool atEnd = distance_ >= last_;
-    distance_ = std::min(distance_, last_);
+    const bool atEnd = distance >= last_;
+    distance_ = std::min(distance, last_);
+    wrap_ = false;
     const std::vector<int> slots = slots_;
     for (const int slot : slots) {
       // A video that was set going by a control of its own ends what they do together.
@@ -99,8 +77,7 @@ class LockedVideos::Run final : public IPlayRun {
   PlayScheduler& scheduler_;
   LockedVideos& videos_;
   std::vector<int> slots_;
-  double base_ = 0;
-  double interval_ = 1;
+  PlayClock clock_;
   int distance_ = 0;
   int last_ = 0;
   int play_ = 0;
@@ -318,7 +295,7 @@ void LockedVideos::PlayTogether() {
   const int last = std::max(0, Highest(lead) - Lowest(lead));
   int distance = std::clamp(workspace_.MP(lead).Position() - Lowest(lead), 0, last);
   if (distance >= last - 1) distance = 0;
-  run_->Begin(std::move(slots), distance, last, PositionTime(workspace_.MP(lead)) * 100 / speed_);
+  run_->Begin(std::move(slots), distance, last, workspace_.MP(lead).PositionTime() * 100 / speed_);
   Tell();
 }
 
@@ -331,7 +308,7 @@ void LockedVideos::StopTogether() {
 bool LockedVideos::setTogetherSpeed(int percent) {
   if (percent < 1 || percent > kFastest) return false;
   speed_ = percent;
-  if (run_->Running()) run_->SetInterval(PositionTime(workspace_.MP(run_->Slots().front())) * 100 / speed_);
+  if (run_->Running()) run_->SetInterval(workspace_.MP(run_->Slots().front()).PositionTime() * 100 / speed_);
   Tell();
   return true;
 }

@@ -3,6 +3,7 @@
 #include <numeric>
 
 #include "Player.h"
+#include "video/PlayClock.h"
 
 namespace kinalyx::test {
 namespace {
@@ -99,6 +100,33 @@ TEST(Play, ALateLoopKeepsItsBeat) {
   EXPECT_EQ(player->Position(), 1) << "due 40 ms after the start should have been seen";
 }
 
+// At 30 pictures a second none lasts whole milliseconds: rounded to 33 the video would be 36 seconds ahead
+// after an hour, and its loops 0.3 of a millisecond each.
+TEST(Play, KeepsItsRateForAnHour) {
+  PlayClock clock;
+  clock.Start(5000, 10, 1000.0 / 30);
+  EXPECT_EQ(clock.PositionAt(5000 + 3600000, 0, 1 << 30), 10 + 3600 * 30);
+  EXPECT_EQ(clock.Due(10 + 3600 * 30), 5000 + 3600000);
+  for (int position = 10; position < 2000; ++position) {
+    ASSERT_EQ(clock.PositionAt(clock.Due(position), 0, 1 << 30), position);
+    ASSERT_LT(clock.PositionAt(clock.Due(position) - 1, 0, 1 << 30), position);
+  }
+  clock.Start(5000, 0, 1000.0 / 30);
+  for (int round = 0; round < 3600 * 3; ++round) clock.Wrap(clock.Due(10), 9);
+  EXPECT_EQ(clock.Due(0), 5000 + 3600000);
+
+  Player player;
+  TestVideo video = MjpegVideo(10);
+  video.format.rate = 30;
+  ASSERT_TRUE(player.Load(video));
+  player->setRepeat(true);
+  player->Play(0, 9);
+  player.host.Advance(20000);
+  EXPECT_EQ(player->Position(), 0) << "60 rounds in 20 seconds";
+  player.host.Advance(1000 - 1);
+  EXPECT_EQ(player->Position(), 9);
+}
+
 TEST(Play, RepeatsFromTheStart) {
   Film player;
   player->setRepeat(true);
@@ -165,10 +193,10 @@ TEST(Play, At240PicturesASecondMovesOn) {
   ASSERT_TRUE(player.Load(video));
   player->Play(0, 239);
   player.host.Advance(400);
-  EXPECT_EQ(player->Position(), 100);
+  EXPECT_EQ(player->Position(), 96);
   player->setSpeed(1000);  // 0.4 ms: faster than the clock
   player.host.Advance(20);
-  EXPECT_EQ(player->Position(), 120);
+  EXPECT_EQ(player->Position(), 96 + 48);
   player.host.Advance(1000);
   EXPECT_FALSE(player->IsPlaying());
   EXPECT_EQ(player.Shown(), 239);
