@@ -86,6 +86,7 @@ std::vector<Settings::Key> Settings::ConfigKeys() {
   add("CalibNumber", "0", &CalibNumber);
   add("CalibNumberOut", "0", &CalibNumberOut);
   add("CalibWidth", "0", &CalibWidth);
+  add("CalibHeight", "0", &CalibHeight);
   add("CalibInput", "1", &CalibInput);
   add("CalibOutput", "1", &CalibOutput);
   add("NTSCorPAL", "0", &NTSCorPAL);

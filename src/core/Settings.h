@@ -96,8 +96,9 @@ class Settings {
 
   // --- [Ruler]
   std::int32_t CalibNumber = 0;    ///< measured pixels
-  float CalibNumberOut = 0;        ///< pixels per inch in a picture of the width CalibWidth
+  float CalibNumberOut = 0;        ///< pixels per inch in a picture of the height CalibHeight
   std::int32_t CalibWidth = 0;     ///< pixels of the picture's width when it was calibrated; 0 unknown
+  std::int32_t CalibHeight = 0;    ///< and of its height; 0 in settings that know only the width, or neither
   std::int32_t CalibInput = 0;
   std::int32_t CalibOutput = 0;
   std::string NTSCorPAL;           ///< "0" NTSC, 60 fields a second; "1" PAL, 50

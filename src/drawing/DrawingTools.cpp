@@ -41,7 +41,8 @@ void DrawingTools::CmdMakeShape_Click(int Index) {
   Drawing_ = true;
   NewShapePending_ = true;
   DrawKind_ = Index;
-  CaptionKept_ = false;
+  measure_.reset();
+  if (Index == kLine && workspace_.CalibrationShown()) RemoveMeasuringLine();
   VectorColorUpdate(Index);
   if (Index != kLine && Index != kArrow) engine_.StraightMode = false;
 }
@@ -123,7 +124,6 @@ void DrawingTools::VectorColorUpdate(int Kind) {
     EndAnnouncement();
     return;
   }
-  workspace_.ShowToolCaption("                 Drawing " + std::string(InfOf(Kind).ToolCaption) + " in Color       ");
   int button = RandomColorIndex_;
   if (settings_.RandomColor == 1 && Kind != kSwingPath && Kind != kZone) {
     engine_.CadColor = kColorChoices[static_cast<std::size_t>(button)];
@@ -133,10 +133,16 @@ void DrawingTools::VectorColorUpdate(int Kind) {
     button = found == kColorChoices.end() ? -1 : static_cast<int>(found - kColorChoices.begin());
   }
   workspace_.SetColorButton(button);
+  Announce(Kind);
+}
+
+void DrawingTools::Announce(int kind) {
+  workspace_.ShowToolCaption("                 Drawing " + std::string(InfOf(kind).ToolCaption) + " in Color       ");
   workspace_.ShowVectorColor(engine_.CadColor);
 }
 
 void DrawingTools::EndAnnouncement() {
+  measure_.reset();
   workspace_.HideVectorColor();
   workspace_.ShowToolCaption("");
   workspace_.DisplayData("");
@@ -201,7 +207,6 @@ bool DrawingTools::MouseDown(int Button, int /*Shift*/, float X, float Y, int Wi
     EndConstruction();
     workspace_.MouseWanted();
     DrawingOff();
-    CaptionKept_ = false;
     EndAnnouncement();
     return true;
   }
@@ -214,10 +219,12 @@ bool DrawingTools::MouseDown(int Button, int /*Shift*/, float X, float Y, int Wi
   if (begins) {
     NewShapePending_ = false;
     BeforeChange(Window);
-    if (!engine_.AddShape(list, DrawKind_, 0)) {
+    Shape* const shape = engine_.AddShape(list, DrawKind_, 0);
+    if (!shape) {
       PutDown();
       return true;
     }
+    shape->Measuring = DrawKind_ == kLine && workspace_.CalibrationShown();
   }
   // A new shape may begin where the last one was pressed.
   if (!begins && point == LastDown_) return true;
@@ -269,12 +276,13 @@ bool DrawingTools::MouseUp(int Button, int /*Shift*/, float X, float Y, int Wind
   list.CanvasWidth = workspace_.PictureWidth(Window) * kTwipsPerPixel;
   list.CanvasHeight = workspace_.PictureHeight(Window) * kTwipsPerPixel;
   if (const Shape* last = LastShape(list);
-      last && ((last->Kind == kAngle && last->NumPts >= 2) || (last->Kind == kLine && last->NumPts >= 1))) {
+      last && ((last->Kind == kAngle && last->NumPts >= 2) || (last->Kind == kLine && last->NumPts >= 1)))
     workspace_.HideVectorColor();
-    if (last->Kind == kAngle) CaptionKept_ = true;
-  }
   if (Button == kLeftButton && list.Adding) BindPoint(list, point, Window);
-  if (!list.Adding) ShapeFinished(Window);
+  if (list.Adding) return true;
+  ShapeFinished(Window);
+  // The measure outlives the tool, whose end has cleared the display.
+  if (Window == DrawWindow_ && (DrawKind_ == kLine || DrawKind_ == kAngle)) SetShapeCaption();
   return true;
 }
 
@@ -282,7 +290,6 @@ void DrawingTools::BindPoint(ShapeList& list, POINTAPI point, int window) {
   Shape& shape = *LastShape(list);
   list.CurShape = static_cast<std::int16_t>(list.NumShapes - 1);
   if (engine_.AddPoint(shape, engine_.ConstrainPoint(point), true)) list.Adding = false;
-  if (shape.Kind == kLine || shape.Kind == kAngle) CaptionKept_ = true;
   if (shape.Kind == kFreehand) {
     // One stroke is one shape.
     FinishOpenShape(list);
@@ -305,8 +312,6 @@ void DrawingTools::ShapeFinished(int window) {
   SetEditBar();
   workspace_.Refresh(window);
   workspace_.DrawingsChanged(window);
-  // The measure outlives the tool, whose end has cleared the display.
-  if (CaptionKept_ && window == DrawWindow_) SetShapeCaption();
 }
 
 void DrawingTools::Select(int window, POINTAPI point) {
@@ -362,7 +367,11 @@ void DrawingTools::PreDrawFrame(Canvas& hDC, int Window) {
   if (!engine_.PathHighlight) engine_.PathHighlight = std::ranges::any_of(shapes, finishedPath);
   // A tool that has only been taken up announces itself; the measure comes with its first point.
   const bool measures = (bar_ && bar_->Shown()) || (Drawing_ && !NewShapePending_);
-  if (Window == DrawWindow_ && measures && std::ranges::any_of(shapes, &Shape::Locked)) SetShapeCaption();
+  if (Window == DrawWindow_ && measures) {
+    if (std::ranges::any_of(shapes, &Shape::Locked)) SetShapeCaption();
+  } else if (measure_ && Window == measure_->window) {
+    FollowMeasure();
+  }
 }
 
 void DrawingTools::TellFailure(int window, const Shape* failed) {
@@ -377,25 +386,71 @@ void DrawingTools::TellFailure(int window, const Shape* failed) {
   workspace_.ShowDrawError(told);
 }
 
-Calibration DrawingTools::CurrentCalibration() const {
-  const int width = MeasuredWidth();
-  const double grown = settings_.CalibWidth > 0 && width > 0 ? static_cast<double>(width) / settings_.CalibWidth : 1;
+/// The ruler for a window's picture at its present size: a picture that is shown twice as large as the one
+/// that was calibrated has twice as many pixels to an inch.
+Calibration DrawingTools::CalibrationOf(int window) const {
+  const auto ratio = [](int now, int then) { return now > 0 && then > 0 ? static_cast<double>(now) / then : 1; };
+  // Pictures of one layout share their height, whatever their proportion. Older settings know only the width.
+  const double grown = settings_.CalibHeight > 0 ? ratio(workspace_.PictureHeight(window), settings_.CalibHeight)
+                                                 : ratio(workspace_.PictureWidth(window), settings_.CalibWidth);
   return {settings_.CalibNumber, static_cast<float>(settings_.CalibNumberOut * grown), settings_.CalibOutput,
           settings_.NTSCorPAL != "0"};
 }
 
 void DrawingTools::SetShapeCaption() {
-  const Shape* shape = SelectedShape(List(DrawWindow_));
-  const auto text = shape ? ShapeCaption(*shape, CurrentCalibration()) : std::nullopt;
-  if (!text) {
-    if (!Drawing_) workspace_.DisplayData("");
-    return;
-  }
-  const auto points = PointsOf(*shape);
-  if (shape->Kind == kLine && workspace_.CalibrationShown())
+  const ShapeList& list = List(DrawWindow_);
+  const Shape* shape = SelectedShape(list);
+  auto text = shape ? ShapeCaption(*shape, CalibrationOf(DrawWindow_)) : std::nullopt;
+  if (text) return ShowMeasure({DrawWindow_, static_cast<std::size_t>(list.CurShape), *shape, std::move(*text)});
+  if (Drawing_) return;
+  measure_.reset();
+  workspace_.DisplayData("");
+}
+
+void DrawingTools::ShowMeasure(Measure measure) {
+  measure_ = std::move(measure);
+  const auto points = PointsOf(measure_->shape);
+  if (measure_->shape.Kind == kLine && workspace_.CalibrationShown())
     workspace_.ShowCalibrationLength(NumberText(LineLength(points[0], points[1])) + "pts");
-  workspace_.DisplayData(*text);
-  if (shape->Kind != kSwingPath) CaptionKept_ = true;
+  workspace_.DisplayData(measure_->text);
+}
+
+/// Takes the measure anew where its shape, or the size of its picture, is another one, and drops it where
+/// its shape is no more.
+void DrawingTools::FollowMeasure() {
+  const auto shapes = ShapesOf(List(measure_->window));
+  if (measure_->index >= shapes.size() || shapes[measure_->index] != measure_->shape) {
+    const auto found = std::ranges::find(shapes, measure_->shape);
+    if (found == shapes.end()) return DropMeasure();
+    measure_->index = static_cast<std::size_t>(found - shapes.begin());
+  }
+  auto text = ShapeCaption(measure_->shape, CalibrationOf(measure_->window));
+  if (!text) return DropMeasure();
+  if (*text == measure_->text) return;
+  Measure anew = *std::exchange(measure_, std::nullopt);
+  anew.text = std::move(*text);
+  ShowMeasure(std::move(anew));
+}
+
+void DrawingTools::DropMeasure() {
+  if (!std::exchange(measure_, std::nullopt)) return;
+  if (workspace_.CalibrationShown()) workspace_.ShowCalibrationLength("");
+  Drawing_ ? Announce(DrawKind_) : workspace_.DisplayData("");
+}
+
+void DrawingTools::RemoveMeasuringLine() {
+  for (int window = 1; window <= ShapeLists::kWindows; ++window) {
+    ShapeList& list = List(window);
+    const auto shapes = ShapesOf(list);
+    const auto line = std::ranges::find_if(shapes, &Shape::Measuring);
+    if (line == shapes.end()) continue;
+    const auto index = static_cast<int>(line - shapes.begin());
+    if (!line->Locked) list.Adding = false;
+    KillShape(list, index, engine_.Rules());
+    if (list.CurShape >= index) --list.CurShape;
+    SetEditBar();
+    workspace_.Refresh(window);
+  }
 }
 
 // ---------------------------------------------------------------- shapes of a window
@@ -452,16 +507,24 @@ void DrawingTools::CopyShapes(int FromWindow, int ToWindow) {
   target.Shapes.clear();
   target.NumShapes = 0;
   target.CurShape = -1;
-  for (int i = 0; i < source.NumShapes; ++i) engine_.CopyShapeInto(source, target, i);
+  for (int i = 0; i < source.NumShapes; ++i)
+    if (!ShapesOf(source)[static_cast<std::size_t>(i)].Measuring) engine_.CopyShapeInto(source, target, i);
   target.CanvasWidth = workspace_.PictureWidth(ToWindow) * kTwipsPerPixel;
   target.CanvasHeight = workspace_.PictureHeight(ToWindow) * kTwipsPerPixel;
   NoteChange(ToWindow);
   workspace_.Refresh(ToWindow);
 }
 
+void DrawingTools::ForgetPast(int window, const DrawingView& view) {
+  History(window).Reset(List(window), view);
+  if (measure_ && measure_->window == window) DropMeasure();
+}
+
 void DrawingTools::ViewChanged(int window, const DrawingView& view) {
   ShapeList& list = List(window);
   History(window).ViewChanged(list, view);
+  if (const auto shapes = ShapesOf(list); measure_ && measure_->window == window && measure_->index < shapes.size())
+    measure_->shape = shapes[measure_->index];
   const Shape* last = LastShape(list);
   if (!list.Adding || !engine_.StraightAnchor.Set || !last || last->NumPts == 0) return;
   engine_.StraightAnchor.x = last->Pts[0].x;

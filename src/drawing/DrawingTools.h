@@ -54,8 +54,8 @@ class DrawingTools final : public IShapeLocked {
   int DrawKind() const { return DrawKind_; }
   int DrawWindow() const { return DrawWindow_; }
   bool HasShapes(int window) const;
-  /// The measure of a shape does not outlive what comes now.
-  void ClearCaptionKept() { CaptionKept_ = false; }
+  /// The measure of a shape does not outlive what comes now; a tool in hand is announced again.
+  void DropMeasure();
 
   // --- commands
   /// Takes a tool up; the tool in hand is put down by it. Nothing happens without a video.
@@ -97,11 +97,10 @@ class DrawingTools final : public IShapeLocked {
   void SetDrawWindow(int window) { DrawWindow_ = window; }
   /// Shows what the selected shape measures.
   void SetShapeCaption();
-  /// The ruler for the picture that is measured in, at its present size: a picture that is shown twice as
-  /// large as the one that was calibrated has twice as many pixels to an inch.
-  Calibration CurrentCalibration() const;
-  /// Pixels of the width of the picture that is measured in.
-  int MeasuredWidth() const { return workspace_.PictureWidth(DrawWindow_); }
+  /// The window that is measured in.
+  int MeasuredWindow() const { return measure_ ? measure_->window : DrawWindow_; }
+  /// Takes the ruler's line off the picture, whichever it lies on.
+  void RemoveMeasuringLine();
 
   // --- the past of a window's drawings
   /// Whoever changes a list by other roads than this class says so before and after. A list that was
@@ -110,9 +109,9 @@ class DrawingTools final : public IShapeLocked {
   /// Closes a step that can be undone; nothing happens when the drawings are what they were.
   void NoteChange(int window) { History(window).Note(List(window)); }
   /// The window's drawings came or went with its video: nothing of before can be undone.
-  void ForgetPast(int window, const DrawingView& view) { History(window).Reset(List(window), view); }
-  /// The window's drawings have been fitted to this view of its picture: their past follows, and so does a
-  /// straight line under construction.
+  void ForgetPast(int window, const DrawingView& view);
+  /// The window's drawings have been fitted to this view of its picture: their past follows, and so do a
+  /// straight line under construction and a measure.
   void ViewChanged(int window, const DrawingView& view);
   /// The window's drawings in the size in which they were drawn; nothing when something has been done to
   /// them without a word.
@@ -136,7 +135,16 @@ class DrawingTools final : public IShapeLocked {
   int Resolve(int window) { return window == -1 ? workspace_.ActiveWindow() : window; }
   ShapeHistory& History(int window) { return histories_[static_cast<std::size_t>(window - 1)]; }
   const ShapeHistory& History(int window) const { return histories_[static_cast<std::size_t>(window - 1)]; }
+  /// A measure on the display: it belongs to its shape, follows it, and goes with it.
+  struct Measure {
+    int window = 0;
+    std::size_t index = 0;
+    Shape shape;
+    std::string text;
+  };
+
   void PutDown();
+  void Announce(int kind);
   void EndAnnouncement();
   bool UnderConstruction() const;
   bool EndConstruction();
@@ -148,6 +156,9 @@ class DrawingTools final : public IShapeLocked {
   void SetEditBar();
   void StepHistory(int window, bool (ShapeHistory::*step)(ShapeList&));
   void ChooseColours(const ShapeList& list);
+  Calibration CalibrationOf(int window) const;
+  void ShowMeasure(Measure measure);
+  void FollowMeasure();
   void TellFailure(int window, const Shape* failed);
 
   ShapeEngine& engine_;
@@ -165,7 +176,7 @@ class DrawingTools final : public IShapeLocked {
   int DrawWindow_ = 1;
   int RandomColorIndex_ = 0;
   POINTAPI LastDown_;
-  bool CaptionKept_ = false;  ///< a measure stays on the display although the tool has ended
+  std::optional<Measure> measure_;  ///< what is shown, also when its tool has ended
 };
 
 }  // namespace kinalyx

@@ -55,7 +55,7 @@ void EditBar::ChangeEBMode(bool Show) {
     view_.PlaceEditBar(window);
   } else {
     MultiEdit_ = false;
-    tools_.ClearCaptionKept();
+    tools_.DropMeasure();
   }
   view_.ShowEditBar(Show);
   RefreshWindows();
@@ -106,7 +106,6 @@ void EditBar::cmdEBBtn_Click(int Index) {
 }
 
 void EditBar::NextShape() {
-  tools_.ClearCaptionKept();
   ShapeList& list = List();
   if (list.NumShapes > 0) {
     const int next = std::max<int>(list.CurShape, -1) + 1;

@@ -46,6 +46,8 @@ bool Macros::CreateMacro(const std::string& Name, const ShapeList& list, std::st
   auto lists = lists_;
   auto names = names_;
   lists.push_back(list);
+  lists.back().Shapes = DrawingsOf(list);
+  lists.back().NumShapes = static_cast<std::int16_t>(lists.back().Shapes.size());
   lists.back().Adding = false;
   lists.back().CurShape = -1;
   names.push_back(Name);

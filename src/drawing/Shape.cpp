@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
 
 #include "drawing/ShapeGeometry.h"
 
@@ -50,6 +51,12 @@ std::span<Shape> ShapesOf(ShapeList& list) { return std::span(list.Shapes).first
 
 std::span<const Shape> ShapesOf(const ShapeList& list) {
   return std::span(list.Shapes).first(Usable(list.NumShapes, list.Shapes.size()));
+}
+
+std::vector<Shape> DrawingsOf(const ShapeList& list) {
+  std::vector<Shape> drawings;
+  std::ranges::copy_if(ShapesOf(list), std::back_inserter(drawings), [](const Shape& shape) { return !shape.Measuring; });
+  return drawings;
 }
 
 Shape* LastShape(ShapeList& list) {

@@ -51,6 +51,9 @@ struct Shape {
   std::int16_t NumPts = 0;    ///< points that exist: the fixed ones and at most one that follows the mouse
   std::int16_t Kind = 0;
   bool Locked = false;  ///< finished: takes no more points; only now it can be moved, turned and scaled
+  /// The ruler's line: it lies on the picture while a length is taken and is no drawing, so it is neither
+  /// kept nor copied nor undone.
+  bool Measuring = false;
   /// One slot more than a fixed kind needs; a clock keeps its rotation in degrees in the spare slot's x.
   std::vector<POINTAPI> Pts;
   /// The copy from which a running rotation or scaling computes.
@@ -87,6 +90,8 @@ constexpr int kTwipsPerPixel = 15;
 /// The shapes that count.
 std::span<Shape> ShapesOf(ShapeList& list);
 std::span<const Shape> ShapesOf(const ShapeList& list);
+/// Those of them that are drawings: all but the ruler's line.
+std::vector<Shape> DrawingsOf(const ShapeList& list);
 /// The last shape, null when there is none; good until the list changes.
 Shape* LastShape(ShapeList& list);
 /// The selected shape, null when none is.

@@ -1,6 +1,7 @@
 #include "drawing/ShapeHistory.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace kinalyx {
@@ -9,7 +10,7 @@ namespace {
 std::vector<Shape> FinishedShapes(const ShapeList& list) {
   std::vector<Shape> result;
   for (const Shape& shape : ShapesOf(list)) {
-    if (!shape.Locked) continue;
+    if (!shape.Locked || shape.Measuring) continue;
     result.push_back(shape);
     result.back().SavedPts.clear();
   }
@@ -73,14 +74,17 @@ void ShapeHistory::ViewChanged(const ShapeList& list, const DrawingView& view) {
 
 std::optional<DrawnShapes> ShapeHistory::AsDrawn(const ShapeList& list) const {
   const DrawnShapes& present = states_[present_];
-  const bool noted = std::ranges::all_of(ShapesOf(list), &Shape::Locked) && FinishedShapes(list) == present.In(view_);
+  const auto settled = [](const Shape& shape) { return shape.Locked || shape.Measuring; };
+  const bool noted = std::ranges::all_of(ShapesOf(list), settled) && FinishedShapes(list) == present.In(view_);
   if (!noted || present.view.width <= 0) return std::nullopt;
   const DrawingView view{present.view.width, present.view.height, view_.mirrored};
   return DrawnShapes{present.In(view), view};
 }
 
 void ShapeHistory::Restore(ShapeList& list) const {
-  list.Shapes = states_[present_].In(view_);
+  std::vector<Shape> shapes = states_[present_].In(view_);
+  std::ranges::copy_if(ShapesOf(list), std::back_inserter(shapes), &Shape::Measuring);
+  list.Shapes = std::move(shapes);
   list.NumShapes = static_cast<std::int16_t>(list.Shapes.size());
   list.Adding = false;
   list.CurShape = static_cast<std::int16_t>(std::min<int>(list.CurShape, list.NumShapes - 1));

@@ -29,7 +29,8 @@ struct DrawnShapes {
 };
 
 /// The past of one window's drawings, fifty changes deep. A change is whatever differs between two notes,
-/// so it does not matter which command made it. Shapes under construction and the selection are no part.
+/// so it does not matter which command made it. Shapes under construction, the ruler's line and
+/// the selection are no part.
 class ShapeHistory {
  public:
   static constexpr std::size_t kSteps = 50;

@@ -27,7 +27,7 @@ AnalysisWorkspace::AnalysisWorkspace(IHost& host, Settings& settings, PlaySchedu
       timer_(workspace_, transport_, view),
       notes_(workspace_, view),
       rateTest_(host, workspace_),
-      ruler_(settings, tools_, view),
+      ruler_(settings, tools_, *this, view),
       menuBar_({workspace_, transport_, tools_, edits_, timer_, notes_, rateTest_, ruler_, compare_}, view,
                std::move(navigation)) {
   menuBar_.SetProfilesTitle(Vocabulary(settings_).Profiles());
@@ -117,7 +117,7 @@ void AnalysisWorkspace::ShowFocus() {
   notes_.Close();
   // A tool in hand stays announced; a measure belonged to the window before.
   if (!tools_.Drawing()) {
-    tools_.ClearCaptionKept();
+    tools_.DropMeasure();
     transport_.DisplayData("");
   }
   edits_.FocusChanged();

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <string>
 
 #include "drawing/DrawingTools.h"
@@ -13,13 +12,13 @@ namespace kinalyx {
 /// from then on lines read in inches, feet, centimetres or metres.
 class RulerCalibration {
  public:
-  RulerCalibration(Settings& settings, DrawingTools& tools, IWorkspaceView& view)
-      : settings_(settings), tools_(tools), view_(view) {}
+  RulerCalibration(Settings& settings, DrawingTools& tools, IDrawingWorkspace& drawing, IWorkspaceView& view)
+      : settings_(settings), tools_(tools), drawing_(drawing), view_(view) {}
 
   /// Opens the panel and takes up the line tool.
   void TCal_Click();
   bool Shown() const { return shown_; }
-  /// The measuring line has this length: "123.4pts".
+  /// The measuring line has this length: "123.4pts"; empty when there is none any more.
   void ShowLength(const std::string& length);
 
   /// 0 stores the calibration, 1 leaves it as it was. Either way the measuring line goes, the tool ends
@@ -30,14 +29,14 @@ class RulerCalibration {
   void CalibBtn_Click(int Index, double typed = 0, LengthUnit input = kFeet, LengthUnit output = kFeet);
 
  private:
-  bool MeasuringLineSelected();
-
   Settings& settings_;
   DrawingTools& tools_;
+  IDrawingWorkspace& drawing_;
   IWorkspaceView& view_;
   bool shown_ = false;
   std::string Label4_;
-  std::array<int, ShapeLists::kWindows> shapesBefore_{};  ///< of each window, when the panel opened
+  int width_ = 0;  ///< of the picture when the length was taken, pixels
+  int height_ = 0;
 };
 
 }  // namespace kinalyx

@@ -1,14 +1,10 @@
 #include "workspace/SlotDrawings.h"
 
 #include <algorithm>
+#include <cstddef>
 
 namespace kinalyx {
 namespace {
-
-std::vector<Shape> CopyOf(const ShapeList& list) {
-  const auto shapes = ShapesOf(list);
-  return {shapes.begin(), shapes.end()};
-}
 
 void Put(ShapeList& list, std::vector<Shape> shapes) {
   list.NumShapes = static_cast<std::int16_t>(shapes.size());
@@ -21,7 +17,7 @@ void SlotDrawings::VideoOpened(int slot) {
   SlotData& data = workspace_.At(slot).data;
   Kept& kept = At(slot);
   kept = {};
-  kept.stored = {CopyOf(data.Shapes), data.PictureWidth, data.PictureHeight};
+  kept.stored = {DrawingsOf(data.Shapes), data.PictureWidth, data.PictureHeight};
   kept.origin = kept.fitted = kept.stored;
   ShapeList& list = List(slot);
   list = {};
@@ -33,8 +29,9 @@ void SlotDrawings::VideoOpened(int slot) {
 /// Makes what is in the list the origin when it was drawn in since it was put there.
 void SlotDrawings::Notice(int slot) {
   Kept& kept = At(slot);
-  if (std::ranges::equal(ShapesOf(List(slot)), kept.fitted.shapes)) return;
-  kept.fitted.shapes = CopyOf(List(slot));
+  std::vector<Shape> drawings = DrawingsOf(List(slot));
+  if (drawings == kept.fitted.shapes) return;
+  kept.fitted.shapes = std::move(drawings);
   kept.origin = kept.fitted;
   // What was drawn or brought back in a view of another size is as exact as it was there.
   if (auto drawn = tools_.AsDrawn(slot))
@@ -47,9 +44,15 @@ void SlotDrawings::Fit(int slot, int width, int height) {
   ShapeList fitted;
   Put(fitted, kept.origin.shapes);
   StretchShapes(fitted, kept.origin.width, kept.origin.height, width, height);
-  kept.fitted = {fitted.Shapes, width, height};
+  // The ruler's line is fitted by itself and keeps its place: what is under construction stays the last.
   ShapeList& list = List(slot);
-  Put(list, std::move(fitted.Shapes));
+  StretchShapes(list, kept.fitted.width, kept.fitted.height, width, height);
+  kept.fitted = {std::move(fitted.Shapes), width, height};
+  std::vector<Shape> shapes = kept.fitted.shapes;
+  for (std::size_t i = 0; i < ShapesOf(list).size(); ++i)
+    if (const Shape& shape = list.Shapes[i]; shape.Measuring)
+      shapes.insert(shapes.begin() + static_cast<std::ptrdiff_t>(std::min(i, shapes.size())), shape);
+  Put(list, std::move(shapes));
   // A macro made of them is later fitted by this size.
   list.CanvasWidth = width * kTwipsPerPixel;
   list.CanvasHeight = height * kTwipsPerPixel;
@@ -72,6 +75,7 @@ void SlotDrawings::PlayerResized(int slot) {
 void SlotDrawings::PictureFlipped(int slot) {
   Notice(slot);
   Kept& kept = At(slot);
+  FlipShapes(List(slot), kept.fitted.width);
   ShapeList mirrored;
   Put(mirrored, std::move(kept.origin.shapes));
   FlipShapes(mirrored, kept.origin.width);
@@ -98,7 +102,7 @@ bool SlotDrawings::CollectData(int slot) {
 void SlotDrawings::DataSaved(int slot) {
   SlotData& data = workspace_.At(slot).data;
   Kept& kept = At(slot);
-  kept.stored = {CopyOf(data.Shapes), data.PictureWidth, data.PictureHeight};
+  kept.stored = {DrawingsOf(data.Shapes), data.PictureWidth, data.PictureHeight};
   kept.changed = false;
   data.Shapes = {};
 }

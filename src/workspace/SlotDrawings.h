@@ -13,7 +13,8 @@ namespace kinalyx {
 ///
 /// Points are whole pixels, so every fitting rounds. Drawings that nobody has touched since are
 /// therefore always fitted from where they were drawn, not from the last fitting: however often a window
-/// changes its size, they come out where they were. What can be undone follows.
+/// changes its size, they come out where they were. What can be undone follows, and so does the ruler's
+/// line, which is no drawing and never gets into the data.
 class SlotDrawings {
  public:
   SlotDrawings(Workspace& workspace, DrawingTools& tools) : workspace_(workspace), tools_(tools) {}

@@ -51,10 +51,12 @@ TEST_F(AnalysisFormTest, TheMouseDrawsOnThePicture) {
   Click("CmdMakeShape3");
   EXPECT_TRUE(Find<QPushButton>("CmdMakeShape3")->isChecked());
   EXPECT_EQ(Text("DrawText"), "Drawing a Line in Color");
-  EXPECT_TRUE(Seen("VectorColorDisplay"));
+  EXPECT_TRUE(Seen("VectorColorDisplay") && Seen("DrawOffBtn"));
   Click("ColorChoiceBtn0");
   ClickOn("MP1", {200, 220});
+  EXPECT_FALSE(Seen("VectorColorDisplay") || Seen("DrawOffBtn")) << "nothing throws a line away by a slip";
   ClickOn("MP1", {300, 260});
+  EXPECT_TRUE(Seen("DrawText") && !Seen("DrawOffBtn"));
   ShapeList& shapes = Shapes();
   ASSERT_EQ(shapes.NumShapes, 1);
   EXPECT_EQ(PointOf(0, 1), (POINTAPI{300, 260}));

@@ -6,6 +6,8 @@
 #include <fstream>
 
 #include "AnalysisStage.h"
+#include "library/Sidecar.h"
+#include "platform/files/FileStore.h"
 
 namespace kinalyx::test {
 namespace {
@@ -389,6 +391,102 @@ TEST(DisplayRate, ReadsTheFirstTwoFiguresBehindThePoint) {
   EXPECT_TRUE(stage.Slots().HasVideo(1));
 }
 
+/// The figures of the length that is shown.
+double Shown(const AnalysisStage& stage) {
+  const auto at = stage.window.text.find("H-V");
+  return at == std::string::npos ? -1 : std::stod(stage.window.text.substr(at + 3));
+}
+
+TEST(MeasureTest, BelongsToItsShapeAndGoesWithIt) {
+  AnalysisStage stage;
+  stage.Open(1, stage.Video("a.avi"));
+  const auto draw = [&] {
+    stage.Draw(kLine, {100, 100}, {200, 100});
+    EXPECT_EQ(Shown(stage), 100);
+  };
+  draw();
+  stage.MP(1).Play(3);
+  EXPECT_EQ(Shown(stage), 100) << "the next picture changes nothing";
+  stage.Slots().SetZoom(0.5);
+  EXPECT_EQ(Shown(stage), 50) << "in the pixels that are shown";
+  stage.Slots().SetZoom(1);
+  EXPECT_EQ(Shown(stage), 100);
+  stage.Key('Z', kCtrl);
+  EXPECT_EQ(stage.window.text, "");
+  for (const char* command : {"Lastcadoff", "Cadoffbutton"}) {
+    draw();
+    stage.Commands().Run(command);
+    EXPECT_EQ(stage.window.text, "") << command;
+  }
+  draw();
+  stage.Open(1, stage.Video("b.avi"));
+  EXPECT_EQ(stage.window.text, "");
+
+  // Under construction it has taken the place of the tool's name, which comes back.
+  stage.Key(kKeyF1 + kLine);
+  const std::string tool = stage.window.text;
+  EXPECT_TRUE(stage.window.colour);
+  stage.Click(1, 100, 100);
+  stage.Move(1, 150, 100);
+  EXPECT_EQ(Shown(stage), 50);
+  EXPECT_FALSE(stage.window.colour);
+  stage.Commands().Run("Lastcadoff");
+  EXPECT_EQ(stage.window.text, tool);
+  EXPECT_TRUE(stage.window.colour && stage.analysis.Tools().Drawing());
+}
+
+TEST(RulerCalibrationTest, ItsLineIsNoDrawing) {
+  AnalysisStage stage;
+  const std::string path = stage.Video("a.avi");
+  stage.Open(1, path);
+  stage.Draw(kSquare, {111, 33}, {157, 77});
+  stage.host.Advance(3000);
+  const auto saved = ReadWholeFile(SidecarPath(path));
+  ASSERT_TRUE(saved);
+  stage.Commands().Run("TCal");
+  stage.Click(1, 100, 300);
+  stage.Click(1, 200, 300);
+  stage.Slots().SetZoom(0.3);
+  stage.Slots().ToggleFlip();
+  stage.Slots().ToggleFlip();
+  stage.Slots().SetZoom(2);
+  EXPECT_EQ(stage.window.calibrationLength, "200pts") << "the length follows the picture";
+  stage.host.Advance(3000);
+  EXPECT_EQ(ReadWholeFile(SidecarPath(path)), saved);
+  EXPECT_EQ(stage.Shapes().NumShapes, 2);
+  stage.analysis.Ruler().CalibBtn_Click(0, 100, kInches, kInches);
+  stage.Slots().SetZoom(1);
+  EXPECT_EQ(stage.Shapes().NumShapes, 1);
+  EXPECT_EQ(stage.PointOf(0, 0), (POINTAPI{111, 33})) << "and has not moved by a rounding";
+  stage.host.Advance(3000);
+  EXPECT_EQ(ReadWholeFile(SidecarPath(path)), saved);
+  stage.Draw(kLine, {100, 300}, {200, 300});
+  EXPECT_NE(stage.window.text.find("100\""), std::string::npos) << stage.window.text;
+
+  // Undo knows nothing of it, and leaves it where it is.
+  stage.Commands().Run("TCal");
+  stage.Click(1, 100, 200);
+  stage.Click(1, 140, 200);
+  stage.Key('Z', kCtrl);
+  EXPECT_EQ(stage.Shapes().NumShapes, 2) << "the square and the ruler's line";
+  EXPECT_EQ(stage.window.calibrationLength, "40pts");
+  // Deleted it cannot be measured any more.
+  stage.Commands().Run("Lastcadoff");
+  EXPECT_EQ(stage.window.calibrationLength, "");
+  stage.Key('Z', kCtrl);
+  EXPECT_EQ(stage.Shapes().NumShapes, 0);
+
+  // A zoom between the two clicks of a drawing finds it, not the line that lies there.
+  stage.Draw(kLine, {100, 200}, {140, 200});
+  stage.Key(kKeyF1 + kSquare);
+  stage.Click(1, 30, 40);
+  stage.Slots().SetZoom(2);
+  stage.Click(1, 90, 100);
+  ASSERT_EQ(stage.Shapes().NumShapes, 2);
+  EXPECT_TRUE(stage.Shapes().Shapes[1].Kind == kSquare && stage.Shapes().Shapes[1].Locked);
+  EXPECT_EQ(Points(stage.Shapes(), 1), (std::vector<POINTAPI>{{60, 80}, {90, 100}}));
+}
+
 TEST(RulerCalibrationTest, TurnsPixelsIntoLengths) {
   AnalysisStage stage;
   stage.Open(1, stage.Video("a.avi"));
@@ -413,8 +511,24 @@ TEST(RulerCalibrationTest, TurnsPixelsIntoLengths) {
   const int part = stage.MP(1).ControlWidthPixels();
   ASSERT_NE(part, whole);
   stage.Draw(kLine, {10, 100}, {10 + part / 2, 100});
-  const double length = std::stod(stage.window.text.substr(stage.window.text.find("H-V") + 3));
-  EXPECT_NEAR(length, whole / 2.0 / 12 * 2.54, 1) << stage.window.text;
+  EXPECT_NEAR(Shown(stage), whole / 2.0 / 12 * 2.54, 1) << stage.window.text;
+  // Upright or not, a picture as high shows things as large.
+  TestVideo upright = MjpegVideo(30);
+  std::swap(upright.format.width, upright.format.height);
+  ASSERT_TRUE(stage.Open(2, upright));
+  stage.Slots().SelectWindow(2);
+  ASSERT_LT(stage.MP(2).ControlWidthPixels(), part);
+  ASSERT_EQ(stage.MP(2).ControlHeightPixels(), stage.MP(1).ControlHeightPixels());
+  stage.Draw(kLine, {10, 10}, {10, 110});
+  const double other = Shown(stage);
+  stage.Slots().SelectWindow(1);
+  stage.Draw(kLine, {10, 10}, {10, 110});
+  EXPECT_EQ(Shown(stage), other);
+  stage.Commands().Run("Lastcadoff");
+  stage.Commands().Run("Lastcadoff");
+  stage.settings.CalibHeight = 0;  // as older settings have it
+  stage.Draw(kLine, {10, 100}, {10 + part / 2, 100});
+  EXPECT_NEAR(Shown(stage), whole / 2.0 / 12 * 2.54, 1) << stage.window.text;
   stage.Commands().Run("Lastcadoff");
   stage.Slots().SetScreen(1);
 

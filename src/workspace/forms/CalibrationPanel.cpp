@@ -109,7 +109,7 @@ void CalibrationPanel::SetLength(const QString& length) {
   length_->setText(length);
   Enable();
   // The next thing that is wanted is a number, and its figures must not be taken for commands.
-  typed_->setFocus();
+  if (!length.isEmpty()) typed_->setFocus();
 }
 
 void CalibrationPanel::Enable() {

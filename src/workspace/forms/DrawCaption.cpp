@@ -19,7 +19,6 @@ DrawCaption::DrawCaption(QWidget* parent) : QFrame(parent) {
   setObjectName("DrawCaption");
   setProperty("look", "card");
   auto* row = new QHBoxLayout(this);
-  row->setContentsMargins(10, 4, 4, 4);
   row->setSpacing(8);
   swatch_ = new QFrame(this);
   swatch_->setObjectName("VectorColorDisplay");
@@ -30,11 +29,12 @@ DrawCaption::DrawCaption(QWidget* parent) : QFrame(parent) {
   FixSize(off_, {22, 22});
   FixIcon(off_, 14);
   off_->setFocusPolicy(Qt::NoFocus);
+  off_->setToolTip(tr("Put the tool down"));
   connect(off_, &QToolButton::clicked, this, &DrawCaption::Off);
   row->addWidget(swatch_);
   row->addWidget(text_);
   row->addWidget(off_);
-  swatch_->hide();
+  ShowParts(false);
   setMouseTracking(true);
   for (QWidget* part : {static_cast<QWidget*>(swatch_), static_cast<QWidget*>(text_)})
     part->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -78,16 +78,21 @@ void DrawCaption::SetText(const QString& text) {
 void DrawCaption::ShowColor(Colour colour) {
   swatch_->setStyleSheet(QString("background: %1; border: 1px solid rgba(255, 255, 255, 150); border-radius: 4px;")
                              .arg(ColorOf(colour).name()));
-  swatch_->show();
-  off_->setToolTip(tr("Put the tool down"));
+  ShowParts(true);
   emit Changed();
 }
 
 void DrawCaption::HideColor() {
   if (swatch_->isHidden()) return;
-  swatch_->hide();
-  off_->setToolTip(tr("Hide"));
+  ShowParts(false);
   emit Changed();
+}
+
+/// Colour and button come and go together; without them the words stand in the middle of the card.
+void DrawCaption::ShowParts(bool shown) {
+  swatch_->setVisible(shown);
+  off_->setVisible(shown);
+  layout()->setContentsMargins(10, shown ? 4 : 6, shown ? 4 : 10, shown ? 4 : 6);
 }
 
 void DrawCaption::changeEvent(QEvent* event) {

@@ -11,8 +11,8 @@ class QToolButton;
 namespace kinalyx {
 
 /// What the tool in hand says over the picture: its colour `VectorColorDisplay`, its caption or the measure
-/// of the shape, and the button `DrawOffBtn` that puts it down. But for that button the mouse goes through
-/// it: what is to be drawn may lie just beneath.
+/// of the shape, and beside the colour the button `DrawOffBtn` that puts it down. But for that button the
+/// mouse goes through it: what is to be drawn may lie just beneath.
 class DrawCaption : public QFrame {
   Q_OBJECT
 
@@ -22,6 +22,7 @@ class DrawCaption : public QFrame {
   /// Blanks at both ends are left out; empty hides the caption.
   void SetText(const QString& text);
   void ShowColor(Colour colour);
+  /// The button goes with the colour.
   void HideColor();
 
  signals:
@@ -34,6 +35,7 @@ class DrawCaption : public QFrame {
   bool event(QEvent* event) override;
 
  private:
+  void ShowParts(bool shown);
   void Dress();
   QWidget* Beneath(const QPoint& at);
 
