@@ -8,6 +8,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QToolButton>
+#include <QWheelEvent>
 
 #include "AnalysisFormFixture.h"
 #include "library/forms/OpenVidForm.h"
@@ -160,6 +161,25 @@ TEST_F(AnalysisFormTest, TheFloatingPlayBarStaysWhereItIsPut) {
   Click("PlayBarDetachBtn");
   EXPECT_LT(bar->x(), docked.x());
   EXPECT_EQ(bar->y(), docked.y());
+}
+
+TEST_F(AnalysisFormTest, TheWheelMovesTheFilmByWholeNotches) {
+  Send("a.avi");
+  form->Analysis().Player().Seek(10);
+  auto* bar = Find<QWidget>("PlayBarHScroll");
+  const auto turn = [&](QPoint by) {
+    QWheelEvent wheel({20, 10}, bar->mapToGlobal(QPointF(20, 10)), {}, by, {}, {}, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(bar, &wheel);
+    return Slots().MP(1).Position();
+  };
+  EXPECT_EQ(turn({0, -120}), 11);
+  EXPECT_EQ(turn({0, 240}), 9);
+  EXPECT_EQ(turn({120, 15}), 8) << "to the left is back";
+  EXPECT_EQ(turn({-120, 15}), 9);
+  for (int part = 0; part < 7; ++part) EXPECT_EQ(turn({0, -15}), 9);
+  EXPECT_EQ(turn({0, -15}), 10) << "eight parts of a notch";
+  turn({0, -60});
+  EXPECT_EQ(turn({0, 60}), 10) << "the other way begins anew";
 }
 
 TEST_F(AnalysisFormTest, DisabledThingsSayWhy) {

@@ -101,9 +101,17 @@ void SeekBar::mouseMoveEvent(QMouseEvent* event) {
 
 void SeekBar::mouseReleaseEvent(QMouseEvent*) { dragging_ = false; }
 
+/// A notch up or to the left goes one back, as in every scroll bar. Touchpads and fine wheels turn by parts
+/// of a notch, which add up; a turn the other way begins anew.
 void SeekBar::wheelEvent(QWheelEvent* event) {
-  const int step = event->angleDelta().y() > 0 ? -1 : 1;
-  const int position = std::clamp(value_ + step, minimum_, maximum_);
+  const QPoint turned = event->angleDelta();
+  const int turn = std::abs(turned.x()) > std::abs(turned.y()) ? turned.x() : turned.y();
+  if (event->phase() == Qt::ScrollBegin || (turn > 0) != (turned_ > 0)) turned_ = 0;
+  turned_ += turn;
+  const int notches = turned_ / QWheelEvent::DefaultDeltasPerStep;
+  turned_ -= notches * QWheelEvent::DefaultDeltasPerStep;
+  event->accept();
+  const int position = std::clamp(value_ - notches, minimum_, maximum_);
   if (position == value_) return;
   SetValue(position);
   emit Sought(position);

@@ -6,7 +6,7 @@
 namespace kinalyx {
 
 /// The line along which a video is dragged: a track with a knob and the marks of the video. A press
-/// jumps there, a drag follows, the wheel moves by one.
+/// jumps there, a drag follows, a notch of the wheel moves by one.
 class SeekBar : public QWidget {
   Q_OBJECT
 
@@ -44,6 +44,7 @@ class SeekBar : public QWidget {
   int maximum_ = 0;
   int value_ = 0;
   bool dragging_ = false;
+  int turned_ = 0;  ///< of the wheel, eighths of a degree that make no notch yet
   std::vector<int> marks_;
 };
 
