@@ -15,6 +15,7 @@
 #include "library/forms/PreviewPlayer.h"
 #include "video/KeyCodes.h"
 #include "workspace/forms/KeyCodeOf.h"
+#include "workspace/forms/PlayBar.h"
 
 namespace kinalyx::test {
 namespace {
@@ -161,6 +162,60 @@ TEST_F(AnalysisFormTest, TheFloatingPlayBarStaysWhereItIsPut) {
   Click("PlayBarDetachBtn");
   EXPECT_LT(bar->x(), docked.x());
   EXPECT_EQ(bar->y(), docked.y());
+}
+
+TEST_F(AnalysisFormTest, ThePlayBarHasAllFiguresAndMarksAtEverySize) {
+  Send("a.avi");
+  auto* bar = dynamic_cast<PlayBar*>(Find<QWidget>("Playbar"));
+  ASSERT_TRUE(bar);
+  for (int n = 0; n < 10; ++n) {
+    form->Analysis().Player().Seek(2 * n);
+    form->Analysis().Commands().Run("TMark");
+  }
+  const QString line = "3599.98 seconds | 215999/215999 frames  ";
+  for (const QSize size : {QSize(1024, 768), QSize(1920, 1080)}) {
+    form->resize(size);
+    for (const char* layout : {"Scn1", "Scn2", "Scn4", "Scn8", "Openbtn"}) {
+      Click(layout);
+      QTest::qWait(0);
+      for (const bool floating : {false, true}) {
+        SCOPED_TRACE(testing::Message() << size.width() << ' ' << layout << ' ' << floating);
+        if (floating && Seen("PlayBarDetachBtn")) Click("PlayBarDetachBtn");
+        bar->SetLine(line, "215999");
+        auto* words = Find<QLabel>("DisplayPanel");
+        EXPECT_TRUE(bar->rect().contains(words->geometry()));
+        const QString shown = FittingLine(words->fontMetrics(), words->width(), words->text());
+        EXPECT_TRUE(shown == line.trimmed() || shown == "3599.98 s | 215999/215999") << shown.toStdString();
+        auto* counter = Find<QLabel>("FrameCounter");
+        EXPECT_TRUE(counter->isVisible() && bar->rect().contains(counter->geometry()));
+        EXPECT_GE(counter->width(), counter->sizeHint().width());
+        EXPECT_GE(Find<QWidget>("PlayBarHScroll")->width(), 40);
+        QRegion taken;
+        if (Seen("MarksBtn")) Click("MarksBtn");
+        for (int n = 0; n < 10; ++n) {
+          const std::string name = "Mark" + std::to_string(n);
+          ASSERT_TRUE(Seen(name.c_str())) << name;
+          const QRect place = OnForm(Find<QWidget>(name.c_str()));
+          EXPECT_TRUE(form->rect().contains(place) && !taken.intersects(place)) << name;
+          taken += place;
+        }
+        for (const char* name : {"LoopButton", "DisplayPanel", "FrameCounter", "PlayBarHScroll"})
+          EXPECT_FALSE(taken.intersects(OnForm(Find<QWidget>(name)))) << name;
+        for (int n = 0; n < 10; ++n) {
+          Click(("Mark" + std::to_string(n)).c_str());
+          EXPECT_EQ(Slots().MP(1).Position(), 2 * n);
+        }
+        if (Find<QToolButton>("MarksBtn")->isChecked()) {
+          Click("MarksBtn");
+          EXPECT_FALSE(Seen("Mark0"));
+        }
+        if (!bar->Docked()) Click("PlayBarDetachBtn");
+      }
+    }
+    Click("CmdOpenVideo1");
+  }
+  form->Analysis().Commands().Run("TMarkoff");
+  EXPECT_FALSE(Seen("Mark0") || Seen("MarksBtn"));
 }
 
 TEST_F(AnalysisFormTest, TheWheelMovesTheFilmByWholeNotches) {

@@ -18,9 +18,19 @@ constexpr int kOneRowWidth = 892;
 constexpr int kMargin = 10;
 constexpr int kButton = 32;
 constexpr int kPlayWidth = 44;
-constexpr int kTinyWidth = 300;      // below it the buttons draw together
-constexpr int kSmallestWidth = 232;  // and below this one even more
+constexpr QSize kButtonSizes[] = {{kButton, kPlayWidth}, {30, 36}, {24, 30}};  // others, and the one that plays
 constexpr int kCounter = 46;
+constexpr int kMarks = 22;  // height
+constexpr int kLeastSeek = 80;
+
+/// The longest line that a video will bring, so that nothing moves while it plays: its last position, at ten
+/// pictures a second or more. A slower one makes room as it goes.
+QString LongestLine(const QString& line) {
+  const QString last = line.section('/', 1).section(' ', 0, 0);
+  const QString seconds(std::max<qsizetype>(1, last.size() - 1), '8');
+  const QString longest = seconds + ".88 seconds | " + last + '/' + last + " frames";
+  return longest.size() > line.trimmed().size() ? longest : line.trimmed();
+}
 
 }  // namespace
 
@@ -52,28 +62,22 @@ PlayBar::PlayBar(Transport& transport, QWidget* parent) : QFrame(parent), transp
   FixIcon(detach_, 14);
   connect(detach_, &QToolButton::clicked, this, [this] { ToggleDock(); });
 
-  line_ = new FigureLabel("DisplayPanel", {}, this);
+  line_ = new PositionLine("DisplayPanel", {}, this);
   counter_ = new FigureLabel("FrameCounter", {}, this);
   counter_->setToolTip(tr("Number of the picture that is shown"));
   counter_->hide();
 
-  markBox_ = new QWidget(this);
-  markBox_->setObjectName("MarkBox");
-  auto* markRow = new QHBoxLayout(markBox_);
-  markRow->setContentsMargins(0, 0, 0, 0);
-  markRow->setSpacing(3);
-  for (int i = 0; i < 10; ++i) {
-    auto* mark = new QToolButton(markBox_);
-    mark->setObjectName(QString("Mark%1").arg(i));
-    mark->setFocusPolicy(Qt::NoFocus);
-    mark->setToolTip(tr("Go to this mark"));
-    FixHeight(mark, 22);
-    mark->hide();
-    connect(mark, &QToolButton::clicked, this, [this, i] { transport_.Mark_Click(i); });
-    markRow->addWidget(mark);
-    marks_[static_cast<std::size_t>(i)] = mark;
-  }
-  markBox_->hide();
+  markBox_ = new MarkBox(this);
+  connect(markBox_, &MarkBox::Chosen, this, [this](int mark) { transport_.Mark_Click(mark); });
+  marksButton_ = new QToolButton(this);
+  marksButton_->setObjectName("MarksBtn");
+  marksButton_->setToolTip(tr("Marks of this video"));
+  marksButton_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  marksButton_->setCheckable(true);
+  marksButton_->setFocusPolicy(Qt::NoFocus);
+  FixIcon(marksButton_, 14);
+  FixHeight(marksButton_, kMarks);
+  connect(marksButton_, &QToolButton::toggled, this, [this] { PlaceCard(); });
 
   connect(rewind_, &QToolButton::clicked, this, [this] { transport_.cmdREwind(); });
   connect(play_, &QToolButton::clicked, this, [this] { transport_.cmdPlay(); });
@@ -99,8 +103,10 @@ void PlayBar::Dress() {
                  "#Playbar #CmdButton2 { background: @accentFill; }"
                  "#Playbar #CmdButton2:hover { background: @accentHover; }"
                  "#Playbar #CmdButton2:disabled { background: @card; }"
-                 "#Playbar #MarkBox QToolButton { background: @card; color: @mark; padding: 0 6px; font-size: @11; }"
-                 "#Playbar #MarkBox QToolButton:hover { background: @hover; }");
+                 "#Playbar #MarksBtn { background: @card; color: @mark; padding: 0 5px; font-size: @11; }"
+                 "#Playbar #MarksBtn:hover { background: @hover; }"
+                 "#Playbar #MarksBtn:checked { background: @accentFill; }");
+  markBox_->Dress();
   const StageLook look = StageLook::Current();
   const auto icon = [&](const char* name) { return Icon(name, look.ink, look.ink, look.faintInk); };
   rewind_->setIcon(icon("rewind"));
@@ -110,11 +116,12 @@ void PlayBar::Dress() {
   slomo_->setIcon(icon("slow"));
   loop_->setIcon(icon("loop"));
   detach_->setIcon(icon("undock"));
+  marksButton_->setIcon(Icon("mark", look.mark, look.mark, look.faintInk));
 }
 
 void PlayBar::changeEvent(QEvent* event) {
   QFrame::changeEvent(event);
-  if (event->type() == QEvent::StyleChange && detach_) {
+  if (event->type() == QEvent::StyleChange && marksButton_) {
     Dress();
     Arrange();
   }
@@ -155,21 +162,28 @@ void PlayBar::SetPlayPicture(bool playing) {
 }
 
 void PlayBar::SetLine(const QString& line, const QString& counter) {
+  const QString longest = LongestLine(line);
+  const bool rearrange = longest.section('/', 1) != longest_.section('/', 1) || longest.size() > longest_.size() ||
+                   counter.size() != counter_->text().size();
+  if (rearrange) longest_ = longest;
   if (line_->text() != line) line_->setText(line);
-  const bool rearrange = counter.size() != counter_->text().size();
   counter_->setText(counter);
   if (rearrange) Arrange();
 }
 
 void PlayBar::SetMarks(const std::vector<int>& marks) {
+  if (marks == marks_) return;
+  marks_ = marks;
   seek_->SetMarks(marks);
-  for (std::size_t i = 0; i < marks_.size(); ++i) {
-    if (i < marks.size()) marks_[i]->setText(QString::number(marks[i]));
-  }
-  markCount_ = static_cast<int>(marks.size());
-  markBox_->setVisible(!marks.empty());
+  markBox_->SetMarks(marks);
+  marksButton_->setText(QString::number(markBox_->Count()));
+  if (marks.empty()) marksButton_->setChecked(false);
   Arrange();
 }
+
+void PlayBar::moveEvent(QMoveEvent*) { PlaceCard(); }
+void PlayBar::showEvent(QShowEvent*) { PlaceCard(); }
+void PlayBar::hideEvent(QHideEvent*) { PlaceCard(); }
 
 void PlayBar::resizeEvent(QResizeEvent*) { Arrange(); }
 
@@ -179,6 +193,35 @@ void PlayBar::Arrange() {
   counter_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   detach_->raise();
   width() >= Px(kOneRowWidth) ? ArrangeWide() : ArrangeNarrow();
+  PlaceCard();
+}
+
+/// Whether all marks stand in a row of this width; otherwise the button that opens their card is shown.
+bool PlayBar::MarksFit(int room) {
+  markBox_->Dress();  // its widths hang on it
+  const bool fit = marks_.empty() || markBox_->RowWidth() <= room;
+  marksButton_->setVisible(!fit);
+  marksButton_->resize(marksButton_->sizeHint().width(), Px(kMarks));
+  return fit;
+}
+
+/// The card stands over the right end of the bar, or under it where there is no room above.
+void PlayBar::PlaceCard() {
+  if (marksButton_->isHidden() && !marks_.empty()) return;  // they are in the row
+  if (!isVisible() || !marksButton_->isChecked() || marks_.empty()) {
+    markBox_->hide();
+    return;
+  }
+  const QSize stage = parentWidget()->size();
+  markBox_->ShowCard(parentWidget(), std::min(stage.width(), width()) - 8);
+  const int above = y() - markBox_->height() - 4;
+  markBox_->move(std::clamp(geometry().right() - 4 - markBox_->width(), 0, std::max(0, stage.width() - markBox_->width())),
+                 above >= 0 ? above : geometry().bottom() + 4);
+}
+
+int PlayBar::CounterWidth() const {
+  return counter_->text().isEmpty() ? 0
+                                    : std::max(Px(kCounter), FiguresWidth(counter_->fontMetrics(), counter_->text()) + 10);
 }
 
 void PlayBar::SizeButtons(int side, int playWidth) {
@@ -188,76 +231,77 @@ void PlayBar::SizeButtons(int side, int playWidth) {
   buttons_->layout()->activate();
 }
 
-/// Shows as many marks as fit into the room and gives the width that they take. Marks that find no button
-/// still stand in the line of the film and are reached by a click there.
-int PlayBar::ShowMarks(int room) {
-  int taken = 0;
-  for (std::size_t i = 0; i < marks_.size(); ++i) {
-    const int width = static_cast<int>(i) < markCount_ ? marks_[i]->sizeHint().width() + 3 : 0;
-    const bool fits = width > 0 && taken + width <= room;
-    marks_[i]->setVisible(fits);
-    if (!fits) room = 0;
-    taken += fits ? width : 0;
-  }
-  return taken;
-}
-
 /// One row: buttons, the line of the film, marks, counter, words.
 void PlayBar::ArrangeWide() {
   SetSmallWords(false);
   detach_->show();
   SizeButtons(Px(kButton), Px(kPlayWidth));
   const int buttonsWidth = buttons_->sizeHint().width();
-  const int lineWidth = FiguresWidth(line_->fontMetrics(), "888.88 seconds | 8888/8888 frames");
   const int y = height() / 2;
   buttons_->setGeometry(kMargin, y - Px(kButton) / 2, buttonsWidth, Px(kButton));
   detach_->move(width() - kMargin - detach_->width(), y - detach_->height() / 2);
-  int end = detach_->x() - 6 - lineWidth;
-  line_->setGeometry(end, y - Px(12), lineWidth, Px(24));
-  line_->show();
-  if (!counter_->isHidden()) {
-    end -= Px(kCounter);
-    counter_->setGeometry(end, y - Px(12), Px(kCounter), Px(24));
-  }
   const int start = kMargin + buttonsWidth + 6;
-  if (!markBox_->isHidden()) {
-    const int taken = ShowMarks((end - start) / 2);
-    end -= taken + 8;
-    markBox_->setGeometry(end, y - Px(11), taken, Px(22));
+  int end = detach_->x() - 6;
+  const auto take = [&](QWidget* part, int wide, int high) {
+    end -= wide;
+    part->setGeometry(end, y - high / 2, wide, high);
+  };
+  take(line_, std::min(FiguresWidth(line_->fontMetrics(), longest_), end - start - Px(kLeastSeek)), Px(24));
+  take(counter_, CounterWidth(), Px(24));
+  if (MarksFit((end - start) / 2)) {
+    if (!marks_.empty()) {
+      end -= markBox_->RowWidth() + 8;
+      markBox_->ShowRow(this, {end, y - Px(kMarks) / 2});
+    }
+  } else {
+    end -= 8;
+    take(marksButton_, marksButton_->width(), Px(kMarks));
   }
   seek_->setGeometry(start, y - Px(12), std::max(40, end - start - 6), Px(24));
 }
 
-/// Two rows: the line of the film with its marks above, the buttons and the words below. In small windows
-/// the words take a row of their own, and in the smallest the bar cannot be undocked.
+/// Two rows: the line of the film above, the buttons and the words below. In small windows the words take a
+/// row of their own, and what finds no place beside the buttons stands at the end of the film's line.
 void PlayBar::ArrangeNarrow() {
-  const bool smallest = width() < Px(kSmallestWidth);
-  const bool tiny = width() < Px(kTinyWidth);
-  SizeButtons(Px(smallest ? 24 : tiny ? 30 : kButton), Px(smallest ? 30 : tiny ? 36 : kPlayWidth));
-  const int buttonsWidth = buttons_->sizeHint().width();
-  const int words = FiguresWidth(QFontMetrics(UiFont(kTextPixels)), "88.88 seconds | 888/888 frames");
-  const int left = kMargin - 6 + buttonsWidth + 4;
+  int left = 0;  // behind the buttons
   int end = width() - kMargin - detach_->width();
+  for (const QSize& size : kButtonSizes) {
+    SizeButtons(Px(size.width()), Px(size.height()));
+    left = kMargin - 6 + buttons_->sizeHint().width() + 4;
+    if (left <= end) break;
+  }
+  detach_->setVisible(left <= end);
+  if (detach_->isHidden()) end = width() - kMargin;
+  const int words = FiguresWidth(QFontMetrics(UiFont(kTextPixels)), longest_) + 4;
   const bool own = end - left < words;
   const int y = own ? Px(36) : Px(24) + (height() - Px(24)) / 2;  // middle of the buttons
-  seek_->setGeometry(kMargin - 2, own ? 0 : 2, width() - 2 * kMargin + 4, Px(22));
-  buttons_->setGeometry(kMargin - 6, y - Px(kButton) / 2, buttonsWidth, Px(kButton));
-  detach_->setVisible(!smallest);
+  buttons_->setGeometry(kMargin - 6, y - Px(kButton) / 2, buttons_->sizeHint().width(), Px(kButton));
   detach_->move(width() - kMargin - detach_->width() + 4, y - detach_->height() / 2);
-  SetSmallWords(own && width() < Px(kTinyWidth));
+  SetSmallWords(own && words > width() - 8);
   if (own) {
     line_->setGeometry(4, height() - Px(20), width() - 8, Px(18));
   } else {
-    line_->setGeometry(end - words - 4, y - Px(12), words, Px(24));
+    line_->setGeometry(end - words, y - Px(12), words - 4, Px(24));
     end = line_->x();
   }
-  line_->show();
-  counter_->setVisible(!counter_->text().isEmpty() && end - left >= Px(kCounter));
-  if (!counter_->isHidden()) {
-    counter_->setGeometry(end - Px(kCounter), y - Px(12), Px(kCounter), Px(24));
-    end -= Px(kCounter);
+  int seekEnd = width() - kMargin + 2;
+  const auto beside = [&](QWidget* part, int wide) {
+    seekEnd -= wide;
+    part->setGeometry(seekEnd, own ? 0 : 2, wide, Px(kMarks));
+    seekEnd -= 4;
+  };
+  if (const int wide = CounterWidth(); wide > 0 && end - left >= wide) {
+    counter_->setGeometry(end - wide, y - Px(12), wide, Px(24));
+    end -= wide;
+  } else if (wide > 0) {
+    beside(counter_, wide);
   }
-  markBox_->setGeometry(left, y - Px(11), ShowMarks(end - left - 4), Px(22));
+  if (!MarksFit(end - left - 4)) {
+    beside(marksButton_, marksButton_->width());
+  } else if (!marks_.empty()) {
+    markBox_->ShowRow(this, {left, y - Px(kMarks) / 2});
+  }
+  seek_->setGeometry(kMargin - 2, own ? 0 : 2, seekEnd - kMargin + 2, Px(22));
 }
 
 void PlayBar::SetSmallWords(bool on) {
@@ -278,6 +322,7 @@ void PlayBar::ToggleDock() {
     emit Redocked();
   } else {
     raise();
+    if (marksButton_->isChecked()) markBox_->raise();
   }
 }
 

@@ -2,16 +2,18 @@
 
 #include <QFrame>
 #include <QToolButton>
-#include <array>
+#include <vector>
 
-#include "platform/widgets/Figures.h"
 #include "workspace/Transport.h"
+#include "workspace/forms/MarkBox.h"
+#include "workspace/forms/PositionLine.h"
 #include "workspace/forms/SeekBar.h"
 
 namespace kinalyx {
 
-/// `Playbar`: seek bar, transport buttons and the transport's line. Wide it is one row, narrow two.
-/// Undocked it floats over the stage and is dragged by its ground.
+/// `Playbar`: seek bar, transport buttons, marks and the transport's line. Wide it is one row, narrow two, and
+/// in the smallest windows the words have a third. Marks that find no room in a row are on a card that a
+/// button opens. Undocked it floats over the stage and is dragged by its ground.
 class PlayBar : public QFrame {
   Q_OBJECT
 
@@ -39,6 +41,9 @@ class PlayBar : public QFrame {
 
  protected:
   void resizeEvent(QResizeEvent*) override;
+  void moveEvent(QMoveEvent*) override;
+  void showEvent(QShowEvent*) override;
+  void hideEvent(QHideEvent*) override;
   void mousePressEvent(QMouseEvent*) override;
   void mouseMoveEvent(QMouseEvent*) override;
   void changeEvent(QEvent* event) override;
@@ -47,7 +52,9 @@ class PlayBar : public QFrame {
  private:
   QToolButton* Button(const char* name, const QString& tip);
   void Arrange();
-  int ShowMarks(int room);
+  bool MarksFit(int room);
+  void PlaceCard();
+  int CounterWidth() const;
   void SetSmallWords(bool on);
   void SizeButtons(int side, int playWidth);
   void ArrangeWide();
@@ -58,7 +65,7 @@ class PlayBar : public QFrame {
   Transport& transport_;
   SeekBar* seek_;
   QWidget* buttons_;
-  FigureLabel* line_;
+  PositionLine* line_;
   FigureLabel* counter_;
   QToolButton* rewind_;
   QToolButton* back_;
@@ -66,10 +73,11 @@ class PlayBar : public QFrame {
   QToolButton* next_;
   QToolButton* slomo_;
   QToolButton* loop_;
-  QToolButton* detach_ = nullptr;
-  QWidget* markBox_;
-  std::array<QToolButton*, 10> marks_{};
-  int markCount_ = 0;
+  QToolButton* detach_;
+  MarkBox* markBox_;
+  QToolButton* marksButton_ = nullptr;  ///< opens the card of the marks
+  std::vector<int> marks_;
+  QString longest_;           ///< the line for which there is room
   bool docked_ = true;
   bool playing_ = false;
   bool hasVideo_ = true;

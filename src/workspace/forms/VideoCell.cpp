@@ -9,6 +9,7 @@
 #include "platform/widgets/Icons.h"
 #include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
+#include "workspace/forms/PositionLine.h"
 #include "workspace/forms/StageLook.h"
 
 namespace kinalyx {
@@ -165,7 +166,8 @@ void VideoCell::paintEvent(QPaintEvent* event) {
                     height() - panel_->geometry().bottom() - 5);
   if (line_.isEmpty() || strip.height() < 24) return;
   painter.setFont(UiFont(12));
-  const int words = FiguresWidth(painter.fontMetrics(), line_.trimmed());
+  const QString line = FittingLine(painter.fontMetrics(), strip.width() - 24, line_);
+  const int words = FiguresWidth(painter.fontMetrics(), line);
   const bool tall = strip.height() > Px(50);
   const double y = tall ? strip.top() + 14 : strip.center().y();
   const double left = strip.left() + 12;
@@ -182,7 +184,7 @@ void VideoCell::paintEvent(QPaintEvent* event) {
   painter.setPen(look.faintInk);
   const QRect room = tall ? QRect(strip.left() + 12, strip.top() + 26, strip.width() - 24, strip.height() - 34)
                           : strip.adjusted(12, 0, -12, 0);
-  DrawFigures(painter, room, Qt::AlignRight, line_.trimmed());
+  DrawFigures(painter, room, Qt::AlignRight, line);
 }
 
 }  // namespace kinalyx

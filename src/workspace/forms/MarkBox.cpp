@@ -1,0 +1,92 @@
+#include "workspace/forms/MarkBox.h"
+
+#include <algorithm>
+
+#include "platform/widgets/Scale.h"
+#include "workspace/forms/StageLook.h"
+
+namespace kinalyx {
+namespace {
+
+constexpr int kGap = 3;
+constexpr int kCardEdge = 6;
+constexpr int kHeight = 22;
+
+}  // namespace
+
+MarkBox::MarkBox(QWidget* parent) : QFrame(parent) {
+  setObjectName("MarkBox");
+  for (int i = 0; i < static_cast<int>(marks_.size()); ++i) {
+    auto* mark = new QToolButton(this);
+    mark->setObjectName(QString("Mark%1").arg(i));
+    mark->setFocusPolicy(Qt::NoFocus);
+    mark->setToolTip(tr("Go to this mark"));
+    mark->hide();
+    connect(mark, &QToolButton::clicked, this, [this, i] { emit Chosen(i); });
+    marks_[static_cast<std::size_t>(i)] = mark;
+  }
+  hide();
+}
+
+void MarkBox::Dress() {
+  WearStageSheet(this, card_ ? "#MarkBox { background: @card; border: 1px solid @cardLine; border-radius: 8px; }"
+                               "#MarkBox QToolButton { border: none; border-radius: 6px; background: @hover; color: @mark;"
+                               "  padding: 0 6px; font-size: @11; }"
+                               "#MarkBox QToolButton:hover, #MarkBox QToolButton:pressed { background: @accentFill; }"
+                             : "#MarkBox { background: transparent; border: none; }"
+                               "#MarkBox QToolButton { border: none; border-radius: 6px; background: @card; color: @mark;"
+                               "  padding: 0 6px; font-size: @11; }"
+                               "#MarkBox QToolButton:hover { background: @hover; }"
+                               "#MarkBox QToolButton:pressed { background: @accentFill; }");
+}
+
+void MarkBox::SetMarks(const std::vector<int>& marks) {
+  count_ = static_cast<int>(std::min(marks.size(), marks_.size()));
+  for (std::size_t i = 0; i < marks_.size(); ++i) {
+    const bool used = static_cast<int>(i) < count_;
+    if (used) marks_[i]->setText(QString::number(marks[i]));
+    marks_[i]->setVisible(used);
+  }
+}
+
+int MarkBox::ButtonWidth() const {
+  int widest = 0;
+  for (int i = 0; i < count_; ++i) widest = std::max(widest, marks_[static_cast<std::size_t>(i)]->sizeHint().width());
+  return widest;
+}
+
+int MarkBox::RowWidth() const { return count_ == 0 ? 0 : count_ * (ButtonWidth() + kGap) - kGap; }
+
+void MarkBox::Lay(int columns, int edge) {
+  const QSize each(ButtonWidth(), Px(kHeight));
+  for (int i = 0; i < count_; ++i)
+    marks_[static_cast<std::size_t>(i)]->setGeometry(
+        {{edge + i % columns * (each.width() + kGap), edge + i / columns * (each.height() + kGap)}, each});
+  const int rows = (count_ + columns - 1) / columns;
+  resize(2 * edge + columns * (each.width() + kGap) - kGap, 2 * edge + rows * (each.height() + kGap) - kGap);
+}
+
+void MarkBox::ShowRow(QWidget* bar, const QPoint& at) {
+  if (parentWidget() != bar) setParent(bar);
+  card_ = false;
+  Dress();
+  Lay(std::max(1, count_), 0);
+  move(at);
+  show();
+}
+
+void MarkBox::ShowCard(QWidget* stage, int widest) {
+  const bool comes = isHidden() || parentWidget() != stage;
+  if (parentWidget() != stage) setParent(stage);
+  card_ = true;
+  Dress();
+  const int fit = std::max(1, (widest - 2 * kCardEdge + kGap) / (ButtonWidth() + kGap));
+  // Two equal rows look calmer than nine and one.
+  const int rows = (count_ + fit - 1) / fit;
+  Lay((count_ + rows - 1) / rows, kCardEdge);
+  if (!comes) return;
+  show();
+  raise();
+}
+
+}  // namespace kinalyx

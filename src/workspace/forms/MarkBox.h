@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QFrame>
+#include <QToolButton>
+#include <array>
+#include <vector>
+
+namespace kinalyx {
+
+/// The buttons of a video's marks, `Mark0` to `Mark9`, each with its position: a row inside the play bar, or
+/// where the bar has no room for all of them a card beside it.
+class MarkBox : public QFrame {
+  Q_OBJECT
+
+ public:
+  explicit MarkBox(QWidget* parent);
+
+  void SetMarks(const std::vector<int>& marks);
+  int Count() const { return count_; }
+  /// Pixels that all buttons take side by side.
+  int RowWidth() const;
+  /// Lays the buttons side by side in `bar`, beginning at a point.
+  void ShowRow(QWidget* bar, const QPoint& at);
+  /// Lays them on a card over `stage` in as many rows as the card's width wants; the card is placed by the
+  /// caller.
+  void ShowCard(QWidget* stage, int widest);
+  void Dress();
+
+ signals:
+  void Chosen(int mark);
+
+ private:
+  void Lay(int columns, int edge);
+  int ButtonWidth() const;
+
+  std::array<QToolButton*, 10> marks_{};
+  int count_ = 0;
+  bool card_ = false;
+};
+
+}  // namespace kinalyx
