@@ -43,10 +43,7 @@ void AnalysisWorkspace::ConnectModes() {
     view_.CommandsChanged();
   };
   compare_.Strobe().RunningChanged = [this] { view_.CommandsChanged(); };
-  compare_.TransparencySwitched = [this](bool on) {
-    workspace_.BarHidden = on;
-    workspace_.FormReset();
-  };
+  compare_.TransparencySwitched = [this](bool on) { workspace_.BarHidden = on; };
   compare_.Strip().SquareWanted = [this] {
     if (!tools_.Drawing() || tools_.DrawKind() != kSquare) tools_.CmdMakeShape_Click(kSquare);
     view_.CommandsChanged();

@@ -45,7 +45,7 @@ void Carve::End() {
 void Carve::MarkAnew() {
   if (!Shown()) return;
   if (Marking) Marking();
-  if (!workspace_.IsShown(slot_) && workspace_.Maximized()) workspace_.TMAX_Click();
+  if (!workspace_.IsShown(slot_)) workspace_.ComeHome();
   if (!workspace_.IsShown(slot_)) return End();
   BeginMarking();
 }

@@ -169,7 +169,7 @@ void MenuBar::AddWindows() {
       if (button.mode == mode.Mode) tip = button.tip;
     Add({std::string(mode.Item), kWindows, std::string(mode.Caption), "Scn" + std::to_string(mode.Mode),
          std::string(mode.Icon), tip, kScreens, [this, number = mode.Mode] { workspace_.SetScreen(number); },
-         {}, [this, code = mode.Code] { return workspace_.ScreenLayout == code; }});
+         {}, [this, code = mode.Code] { return workspace_.ScreenLayout == code && !workspace_.Home().Away(); }});
   }
 }
 

@@ -173,7 +173,6 @@ void CompareModes::VideoClosing(int slot) {
 
 void CompareModes::StateChanged() {
   locks_.StateChanged();
-  strip_.LayoutChanged();
   overlay_.StateChanged();
   carve_.LayoutChanged();
   strobe_.FocusChanged();

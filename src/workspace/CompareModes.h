@@ -104,7 +104,8 @@ class CompareModes {
   std::function<void()> Entering;
   /// A lock was made or ended or its play began or ended: bars and buttons of the transport are set anew.
   std::function<void()> LocksChanged;
-  /// Transparency mode was entered or left: while it is up, the play bar is beneath the mix.
+  /// Transparency mode was entered or left: while it is up, the play bar is beneath the mix. The stage is
+  /// laid out next.
   std::function<void(bool on)> TransparencySwitched;
 
  private:

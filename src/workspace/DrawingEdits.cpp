@@ -204,9 +204,9 @@ void DrawingEdits::GridSizeClose_Click() {
   if (gridPanelShown_) TAGrid_Click();
 }
 
-/// A maximized window is one of a layout, which comes back before anything is copied.
+/// A window that stands alone is one of a layout, which comes back before anything is copied.
 int DrawingEdits::WindowsOfLayout() const {
-  return workspace_.Maximized() ? Val(workspace_.SavedLayout) : workspace_.SlotsShown();
+  return workspace_.Alone() ? Val(workspace_.Home().SavedLayout) : workspace_.SlotsShown();
 }
 
 std::vector<int> DrawingEdits::CloneTargets() const {
@@ -223,7 +223,7 @@ bool DrawingEdits::CanClone() const {
 void DrawingEdits::DTClone_Click() {
   if (!CanClone()) return;
   // The copy is to be seen: a window that is hidden comes back first.
-  if (workspace_.Maximized()) workspace_.TMAX_Click();
+  if (workspace_.Alone()) workspace_.ComeHome();
   if (workspace_.SlotsShown() < kTwoWindows) workspace_.SetScreen(kTwoWindows);
   const int source = workspace_.CurrentWindow;
   int target = source == 1 ? 2 : 1;

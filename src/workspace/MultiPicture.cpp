@@ -33,7 +33,7 @@ bool MultiPicture::CanShow() const { return shown_ || workspace_.HasVideo(worksp
 
 void MultiPicture::smbar_Click() {
   if (shown_) {
-    Close(true);
+    workspace_.ComeHome();
   } else if (CanShow()) {
     Enter();
   }
@@ -41,39 +41,27 @@ void MultiPicture::smbar_Click() {
 
 void MultiPicture::Enter() {
   if (Entering) Entering();
-  if (workspace_.Maximized()) workspace_.TMAX_Click();
-  const ScreenMode* layout = FindScreenMode(workspace_.ScreenLayout);
-  layoutBefore_ = layout ? layout->Mode : 1;
-  windowBefore_ = workspace_.CurrentWindow;
   slot_ = workspace_.CurrentWindow;
   shown_ = true;
   waiting_ = false;
   from_ = last_ = -1;
   MultiFrameMode_ = true;  // what the new layout draws is no picture of the strip
-  workspace_.ScreenLayout = kMultiFrame;
   view_.ShowMultiPicture(true);
-  workspace_.FormReset();
+  workspace_.TakeStage(kMultiFrame, [this] { Leave(); });
   ChooseMiddle();
   MakeStrip();
   InitialMF();
 }
 
-void MultiPicture::Close(bool restore) {
+void MultiPicture::Leave() {
   shown_ = waiting_ = MultiFrameMode_ = false;
   rebuild_.Stop();
   strip_ = Surface();
   view_.ShowMultiPicture(false);
-  if (!restore) return;
-  workspace_.CurrentWindow = windowBefore_;
-  workspace_.SetScreen(layoutBefore_, true);
-}
-
-void MultiPicture::LayoutChanged() {
-  if (shown_ && !workspace_.MultiFrame()) Close(false);
 }
 
 void MultiPicture::VideoClosing(int slot) {
-  if (shown_ && slot == slot_) Close(true);
+  if (shown_ && slot == slot_) workspace_.ComeHome();
 }
 
 // ---------------------------------------------------------------- the source
@@ -121,7 +109,7 @@ void MultiPicture::setSkipBox(const std::string& text) {
 
 void MultiPicture::MPicBtn_Click(int Index) {
   if (!shown_) return;
-  if (Index == 1) return Close(true);
+  if (Index == 1) return workspace_.ComeHome();
   if (Index != 0) return;
   host_.Message(MessageKind::Information, "",
                 "\"New Carve\" Active. Click on the video to draw a square around the area that you want to create a "
@@ -200,7 +188,6 @@ ImageResult MultiPicture::SavePicture(const std::string& path) const { return Ex
 // ---------------------------------------------------------------- from outside
 
 void MultiPicture::Signal(int slot) {
-  LayoutChanged();
   if (!shown_ || MultiFrameMode_ || slot != slot_) return;
   const int position = workspace_.MP(slot_).Position();
   if (source_ != POINTAPI{SourceLeft(), SourceTop()}) {
@@ -214,7 +201,6 @@ void MultiPicture::Signal(int slot) {
 }
 
 void MultiPicture::PictureChanged(int slot) {
-  LayoutChanged();
   if (!shown_ || slot != slot_ || rebuild_.Running()) return;
   rebuild_ = HostTimer(host_, 0, false, [this] { Rebuild(); });
 }

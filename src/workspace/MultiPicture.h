@@ -84,8 +84,6 @@ class MultiPicture {
   /// A video has another size or place, is mirrored, or has other drawings on it: its strip is made anew.
   void PictureChanged(int slot);
   void VideoClosing(int slot);
-  /// The layout may have changed: the mode ends with its own.
-  void LayoutChanged();
 
   /// The mode is about to be entered.
   std::function<void()> Entering;
@@ -101,8 +99,8 @@ class MultiPicture {
   };
 
   void Enter();
-  /// Leaves the mode; with `restore` the layout from before comes back.
-  void Close(bool restore);
+  /// The stage is lost.
+  void Leave();
   void ChooseMiddle();
   /// Works out the pictures' size from the part and the cell, and makes an empty strip for them.
   void MakeStrip();
@@ -117,8 +115,6 @@ class MultiPicture {
   bool waiting_ = false;
   bool MultiFrameMode_ = false;  ///< the strip is being filled: what the video shows meanwhile is not the user's doing
   int slot_ = 0;          ///< whose video the strip shows
-  int layoutBefore_ = 1;  ///< number of the layout to go back to
-  int windowBefore_ = 1;
   Part part_;
   int PictureWidth_ = 0;
   int PictureHeight_ = 0;

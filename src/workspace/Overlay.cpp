@@ -8,7 +8,7 @@
 namespace kinalyx {
 namespace {
 
-constexpr int kDouble = 2;           // number of the layout that shows windows 1 and 2 side by side
+constexpr std::string_view kDouble = "2";  // the layout that shows windows 1 and 2 side by side
 constexpr int kWalkStep = 15;        // of the slider on its way to a preset
 constexpr int kWalkInterval = 20;    // milliseconds between two steps
 constexpr int kDissolveInterval = 45;
@@ -36,13 +36,10 @@ void Overlay::STM_Click() {
 
 void Overlay::Enter() {
   if (Entering) Entering();
-  if (workspace_.Maximized()) workspace_.TMAX_Click();
-  const ScreenMode* layout = FindScreenMode(workspace_.ScreenLayout);
-  layoutBefore_ = layout ? layout->Mode : kDouble;
   on_ = true;
   view_.ShowTransparency(true);
-  workspace_.SetScreen(kDouble);
-  if (workspace_.CurrentWindow > 2) workspace_.SelectWindow(1);
+  if (Switched) Switched();
+  workspace_.TakeStage(kDouble, [this] { Leave(); });
   SetOption(ShowOption::Transparency);
   mix_ = TransTarget_ = kHalf;
   guard_ = true;
@@ -50,21 +47,19 @@ void Overlay::Enter() {
   guard_ = false;
   ShowControls();
   CMDDISAct();
-  if (Switched) Switched();
 }
 
 void Overlay::Closetrans_Click() {
-  if (on_) Leave(true);
+  if (on_) workspace_.ComeHome();
 }
 
-void Overlay::Leave(bool restore) {
+void Overlay::Leave() {
   on_ = false;
   walk_.Stop();
   refresh_.Stop();
   dissolveTimer_.Stop();
   before_ = Surface();
   view_.ShowTransparency(false);
-  if (restore) workspace_.SetScreen(layoutBefore_);
   if (Switched) Switched();
 }
 
@@ -259,7 +254,6 @@ void Overlay::PlayerResized(int slot) {
 }
 
 void Overlay::StateChanged() {
-  if (on_ && workspace_.ScreenLayout != FindScreenMode(kDouble)->Code) return Leave(false);
   ShowControls();
   Refresh();
 }

@@ -39,8 +39,7 @@ class Overlay {
  public:
   Overlay(IHost& host, Settings& settings, Workspace& workspace, LockedVideos& locks, IOverlayView& view);
 
-  /// Enters or leaves the mode. It shows windows 1 and 2 side by side underneath, and brings the layout
-  /// from before back when it is left. A layout that is chosen meanwhile leaves it too.
+  /// Enters or leaves the mode, which has windows 1 and 2 side by side underneath.
   void STM_Click();
   void Closetrans_Click();
   bool TransparencyOn() const { return on_; }
@@ -86,12 +85,12 @@ class Overlay {
   void Signal(int slot);
   void Notify(int slot);
   void PlayerResized(int slot);
-  /// A video came or went, or counts in another way; a lock was made or ended; another layout was chosen.
+  /// A video came or went, or counts in another way; a lock was made or ended.
   void StateChanged();
 
   /// The mode is about to be entered.
   std::function<void()> Entering;
-  /// The mode was entered or left.
+  /// The mode was entered or left; the layout that goes with it comes next.
   std::function<void()> Switched;
 
  private:
@@ -107,7 +106,8 @@ class Overlay {
   void Control(int window, int Index);
   void Seek(int window, int value);
   void Enter();
-  void Leave(bool restore);
+  /// The stage is lost.
+  void Leave();
   /// Pixels of a window's picture that lie left of what the split screen shows of it, and where in the
   /// panel that begins and ends.
   struct SplitHalf {
@@ -123,7 +123,6 @@ class Overlay {
   LockedVideos& locks_;
   IOverlayView& view_;
   bool on_ = false;
-  int layoutBefore_ = 0;  ///< number of the layout to go back to; 0 none
   Surface TransPanel_;
   Surface before_;        ///< what dissolves
   const Surface none_;    ///< stands for the picture of an empty window

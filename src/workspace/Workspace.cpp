@@ -67,18 +67,37 @@ bool Workspace::IsShown(int slot) const {
 void Workspace::SetScreen(int Mode, bool Force) {
   const ScreenMode* mode = FindScreenMode(Mode);
   if (!mode) return;
-  if (!Force && ScreenLayout == mode->Code) {
-    view_.FocusKeyBox();
-    return;
+  if (home_.Away()) {
+    home_.SavedLayout = mode->Code;
+    ComeHome();
+  } else if (Force || ScreenLayout != mode->Code) {
+    ScreenLayout = mode->Code;
+    ShowLayout(CurrentWindow);
   }
-  ScreenLayout = mode->Code;
-  const bool moved = CurrentWindow > mode->Slots;
-  if (moved) CurrentWindow = 1;
+  view_.FocusKeyBox();
+}
+
+/// Shows the present layout with this window as the current one, or window 1 where it is not shown.
+void Workspace::ShowLayout(int window) {
+  const int before = std::exchange(CurrentWindow, window);
+  if (!IsShown(CurrentWindow)) CurrentWindow = 1;
   FormReset();
-  if (moved) FocusSet();
+  if (CurrentWindow != before) FocusSet();
   StateChanged();
   view_.CommandsChanged();
-  view_.FocusKeyBox();
+}
+
+void Workspace::TakeStage(std::string_view layout, std::function<void()> ended) {
+  home_.Take(ScreenLayout, CurrentWindow, std::move(ended));
+  ScreenLayout = layout;
+  ShowLayout(CurrentWindow);
+}
+
+void Workspace::ComeHome() {
+  if (!home_.Away()) return;
+  ScreenLayout = home_.SavedLayout;
+  home_.Leave();
+  ShowLayout(home_.SavedWindow);
 }
 
 void Workspace::FormReset() {
@@ -149,24 +168,20 @@ void Workspace::SelectWindow(int slot) {
 
 bool Workspace::TMAX_Click() {
   if (Maximized()) {
-    ScreenLayout = SavedLayout;
-    CurrentWindow = SavedWindow;
+    ComeHome();
   } else {
     if (!HasVideo(CurrentWindow)) return false;
-    SavedLayout = ScreenLayout;
-    SavedWindow = CurrentWindow;
-    ScreenLayout = kMaximized;
+    TakeStage(kMaximized);
   }
-  FormReset();
-  StateChanged();
-  view_.CommandsChanged();
   return true;
 }
 
 // ---------------------------------------------------------------- videos
 
 bool Workspace::OpenVideo(int slot, const std::string& path) {
-  if (slot < 1 || slot > kSlots || !CloseVideo(slot)) return false;
+  if (slot < 1 || slot > kSlots) return false;
+  const bool another = HasVideo(slot);
+  if (!Vacate(slot)) return false;
   // A video that stands in another slot too comes with what has been drawn there so far.
   for (int other = 1; other <= kSlots; ++other)
     if (At(other).path == path) SaveData(other);
@@ -201,6 +216,7 @@ bool Workspace::OpenVideo(int slot, const std::string& path) {
   }
   StateChanged();
   view_.CommandsChanged();
+  if (another && Maximized()) ComeHome();
   return true;
 }
 
@@ -208,6 +224,7 @@ void Workspace::RefuseVideo(int slot, const std::string& path, bool hasStream) {
   Slot& at = At(slot);
   at.data = {};
   if (!hasStream) at.MP->Load(path, false, false);  // fails, and leaves the colour that says why
+  if (Maximized() && !HasVideo(CurrentWindow)) ComeHome();
   // That colour stands in the cell until another video takes the place.
   if (IsShown(slot)) view_.PlacePlayer(slot, {0, 0, at.panel.Width, at.panel.Height}, true);
   StateChanged();
@@ -220,6 +237,18 @@ void Workspace::RefuseVideo(int slot, const std::string& path, bool hasStream) {
 }
 
 bool Workspace::CloseVideo(int slot) {
+  const bool had = HasVideo(slot);
+  if (!Vacate(slot)) return false;
+  if (!had) return true;
+  StateChanged();
+  if (Maximized()) ComeHome();
+  view_.CommandsChanged();
+  return true;
+}
+
+/// Empties a slot, for good or for the next video, which is for the caller to tell. False when the user
+/// keeps the video open.
+bool Workspace::Vacate(int slot) {
   Slot& at = At(slot);
   if (!HasVideo(slot)) {
     if (at.MP) view_.PlacePlayer(slot, {}, false);  // clears the colour that a damaged file left
@@ -240,9 +269,6 @@ bool Workspace::CloseVideo(int slot) {
   at = std::move(empty);
   ShowTitle(slot);
   view_.SetCellPosition(slot, 0, 0, "");
-  StateChanged();
-  if (Maximized()) TMAX_Click();
-  view_.CommandsChanged();
   return true;
 }
 
@@ -317,7 +343,8 @@ void Workspace::SetNotes(int slot, const std::string& notes) {
 }
 
 bool Workspace::MnuCloseAll_Click() {
-  ClosedStage stage{{}, "", CurrentWindow};
+  ComeHome();
+  ClosedStage stage{{}, ScreenLayout, CurrentWindow};
   for (int slot = 1; slot <= kSlots; ++slot) {
     if (!HasVideo(slot)) continue;
     const Slot& at = At(slot);
@@ -325,7 +352,6 @@ bool Workspace::MnuCloseAll_Click() {
   }
   bool all = true;
   for (const ClosedVideo& video : stage.videos) all = CloseVideo(video.slot) && all;
-  stage.layout = ScreenLayout;  // by now the one beneath a maximized window or a film strip
   if (!stage.videos.empty()) closed_ = std::move(stage);
   CurrentWindow = 1;
   FocusSet();
@@ -350,6 +376,7 @@ void Workspace::Reopen(const ClosedVideo& video) {
 
 void Workspace::ReopenClosed() {
   if (!CanReopen()) return;
+  ComeHome();
   const ClosedStage stage = std::exchange(closed_, {});
   ScreenLayout = stage.layout;
   FormReset();
@@ -374,9 +401,10 @@ int Workspace::SendToAnalysis(const std::string& path, const std::function<void(
     tell("");
     return 0;
   }
-  if (Maximized()) TMAX_Click();
+  // What has the stage gives way, unless the video came into one of the windows that it shows.
+  if (!IsShown(slot)) ComeHome();
   const auto used = static_cast<int>(std::ranges::count_if(slots_, [](const Slot& at) { return !at.path.empty(); }));
-  if (used > Val(ScreenLayout)) SetScreen(used == 5 || used == 7 ? used + 1 : used);
+  if (!home_.Away() && used > Val(ScreenLayout)) SetScreen(used == 5 || used == 7 ? used + 1 : used);
   SelectWindow(slot);
   tell("Current video was sent to Analysis.");
   return slot;

@@ -12,6 +12,7 @@
 #include "video/AVIControl.h"
 #include "workspace/IWorkspaceView.h"
 #include "workspace/Layout.h"
+#include "workspace/StageHome.h"
 
 namespace kinalyx {
 
@@ -51,8 +52,6 @@ class Workspace {
   // --- shared state
   int CurrentWindow = 1;
   std::string ScreenLayout = "1";
-  std::string SavedLayout = "1";
-  int SavedWindow = 1;
 
   Slot& At(int slot) { return slots_[static_cast<std::size_t>(slot - 1)]; }
   const Slot& At(int slot) const { return slots_[static_cast<std::size_t>(slot - 1)]; }
@@ -69,7 +68,8 @@ class Workspace {
 
   // --- layouts
   /// Changes the layout; without `Force` a second press of the present one only takes the focus back.
-  /// A current window that the new layout does not show gives way to window 1.
+  /// A current window that the new layout does not show gives way to window 1. What has the stage to itself
+  /// loses it, and comes home to the new layout.
   void SetScreen(int Mode, bool Force = false);
   /// Places all cells and the play bar; call it also when the panel's size has changed.
   void FormReset();
@@ -81,6 +81,12 @@ class Workspace {
   void FocusSet();
   /// Makes a slot current when it is not; out of range and hidden slots are ignored.
   void SelectWindow(int slot);
+  /// Gives the stage to something that shows the videos in another way, under a layout or one of the two
+  /// states "MAX" and "MF". `ended` is called before the layout comes back, or the next one takes over.
+  void TakeStage(std::string_view layout, std::function<void()> ended = {});
+  /// Ends what has the stage, and shows the layout and the window from before; nothing when nothing has.
+  void ComeHome();
+  const StageHome& Home() const { return home_; }
   /// Shows the current video alone, or goes back. An empty slot is refused with false.
   bool TMAX_Click();
   bool Maximized() const { return ScreenLayout == kMaximized; }
@@ -183,6 +189,8 @@ class Workspace {
     int currentWindow = 1;
   };
 
+  void ShowLayout(int window);
+  bool Vacate(int slot);
   bool Fill(int first, int last);
   bool SaveOrAsk(int slot);
   void ShowTitle(int slot);
@@ -196,6 +204,7 @@ class Workspace {
   IWorkspaceView& view_;
 
   std::array<Slot, kSlots> slots_;
+  StageHome home_;
   ClosedStage closed_;  ///< what was closed last, all at once
 };
 

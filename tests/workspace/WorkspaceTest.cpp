@@ -226,6 +226,17 @@ TEST_F(BlockedSidecar, DrawingsStayUntilTheUserLetsThemGo) {
   stage.host.answers = {false, true};
   EXPECT_TRUE(stage.Slots().CloseVideo(1));
   EXPECT_FALSE(stage.Slots().HasVideo(1));
+
+  // Kept open by "close all" from a maximized window: it and window 1 are on the stage.
+  ASSERT_TRUE(stage.Open(2, path));
+  stage.Slots().SelectWindow(2);
+  stage.Draw(kLine, {40, 50}, {200, 90});
+  ASSERT_TRUE(stage.Slots().TMAX_Click());
+  stage.host.answers = {false, false};
+  EXPECT_FALSE(stage.Slots().MnuCloseAll_Click());
+  EXPECT_TRUE(stage.Slots().HasVideo(2));
+  EXPECT_EQ(stage.Slots().ScreenLayout, "2");
+  EXPECT_TRUE(stage.window.cells.contains(1) && stage.window.borders[1]);
 }
 
 TEST_F(BlockedSidecar, AVideoThatSomebodyElseTookAwayLeavesOnlyNewWorkBehind) {

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+namespace kinalyx {
+
+/// The way home of what takes the stage from a layout: a maximized window, the film strip, transparency. One
+/// of them has it at a time. The next one that takes it ends the one before, and home stays where it was.
+class StageHome {
+ public:
+  /// The layout and the window to come home to; good while something has the stage.
+  std::string SavedLayout = "1";
+  int SavedWindow = 1;
+
+  bool Away() const { return away_; }
+  /// Takes the stage, from the layout and the window given when nothing else has it. `ended` is called once,
+  /// when it is lost again; it may be empty.
+  void Take(const std::string& layout, int window, std::function<void()> ended);
+  /// Ends what has the stage; nothing when nothing has.
+  void Leave();
+
+ private:
+  bool away_ = false;
+  std::function<void()> ended_;
+};
+
+}  // namespace kinalyx
