@@ -60,7 +60,10 @@ void AnalysisWorkspace::ConnectVideos() {
     drawings_.PictureFlipped(slot);
     compare_.DrawingsChanged(slot);
   };
-  workspace_.VideoOpened = [this](int slot) { drawings_.VideoOpened(slot); };
+  workspace_.VideoOpened = [this](int slot) {
+    drawings_.VideoOpened(slot);
+    compare_.VideoOpened(slot);
+  };
   workspace_.CollectData = [this](int slot) { return drawings_.CollectData(slot); };
   workspace_.DataChanged = [this] { autoSave_.Changed(); };
   workspace_.DataSaved = [this](int slot) { drawings_.DataSaved(slot); };

@@ -175,7 +175,7 @@ void CompareModes::StateChanged() {
   locks_.StateChanged();
   overlay_.StateChanged();
   carve_.LayoutChanged();
-  strobe_.FocusChanged();
+  strobe_.StateChanged();
   ShowDual();
 }
 

@@ -94,6 +94,7 @@ class CompareModes {
   void PlayerResized(int slot);
   /// Other shapes lie on a slot's pictures, or the pictures are mirrored.
   void DrawingsChanged(int slot) { strip_.PictureChanged(slot); }
+  void VideoOpened(int slot) { strobe_.VideoOpened(slot); }
   void VideoClosing(int slot);
   void StateChanged();
   void FocusChanged();

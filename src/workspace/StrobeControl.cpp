@@ -52,6 +52,7 @@ void StrobeControl::ShowResult() {
 
 void StrobeControl::ResetStrobe() {
   Stop();
+  window_ = workspace_.CurrentWindow;
   StartFrame_ = EndFrame_ = 0;
   ShowSlider();
   Caption(StrobeButton::Start, StrobeCaption::StartHere);
@@ -163,8 +164,17 @@ void StrobeControl::LocksChanged() {
   ShowSlider();
 }
 
+void StrobeControl::VideoOpened(int slot) {
+  if (view_ && slot == workspace_.CurrentWindow) ResetStrobe();
+}
+
 void StrobeControl::FocusChanged() {
-  if (view_) ResetStrobe();
+  if (view_ && workspace_.CurrentWindow != window_) ResetStrobe();
+}
+
+void StrobeControl::StateChanged() {
+  if (!view_) return;
+  Player() ? ShowSlider() : ResetStrobe();
 }
 
 }  // namespace kinalyx

@@ -72,9 +72,12 @@ class StrobeControl {
 
   // --- from the players and the workspace
   void Signal(int slot);
+  void VideoOpened(int slot);
   void VideoClosing(int slot);
-  /// The current window is another one, or holds another video.
+  /// The current window may be another one.
   void FocusChanged();
+  /// A video has gone or counts in another way, or the stage has another layout.
+  void StateChanged();
   /// A lock was made or ended: its videos are not strobed.
   void LocksChanged();
 
@@ -93,6 +96,7 @@ class StrobeControl {
   IStrobeView* view_ = nullptr;
   int running_ = 0;  ///< slot whose video is strobed; 0 none
   int result_ = 0;   ///< slot on which a strobe stands; 0 none
+  int window_ = 0;      ///< where start and end were chosen
   int StartFrame_ = 0;  ///< raw frames, 0 when none is chosen
   int EndFrame_ = 0;
 };

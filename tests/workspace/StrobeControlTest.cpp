@@ -111,6 +111,22 @@ TEST_F(StrobeControlTest, AnotherWindowOrVideoResets) {
   strobe_.SetWindow(&view_);
   strobe_.SSCommand1_Click(0);
   strobe_.SSCommand1_Click(2);
+  // What happens to the stage and to other windows is none of its business.
+  stage_.Slots().TMAX_Click();
+  stage_.Slots().TMAX_Click();
+  stage_.Slots().SetScreen(4);
+  ASSERT_TRUE(stage_.Open(2, RawVideo(25), 3));
+  ASSERT_TRUE(stage_.Open(3, RawVideo(25)));
+  ASSERT_TRUE(stage_.Slots().CloseVideo(3));
+  EXPECT_TRUE(strobe_.StrobeRunning());
+  EXPECT_EQ(view_.captions, (Captions{"Start at 6", "End Here", "Stop"}));
+  ASSERT_TRUE(stage_.Open(1, RawVideo(30)));
+  EXPECT_FALSE(strobe_.StrobeRunning());
+  EXPECT_EQ(view_.captions[0], "Start Here");
+  EXPECT_EQ(view_.slider, (std::array{0, 29, 0}));
+
+  strobe_.SSCommand1_Click(1);
+  strobe_.SSCommand1_Click(2);
   stage_.Slots().SelectWindow(2);
   EXPECT_FALSE(strobe_.StrobeRunning());
   EXPECT_EQ(view_.captions, (Captions{"Start Here", "End Here", "Strobe"}));
