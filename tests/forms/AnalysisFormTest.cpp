@@ -159,6 +159,25 @@ TEST_F(AnalysisFormTest, TheFloatingPlayBarStaysWhereItIsPut) {
   bar->move(100, 60);
   QTest::mouseClick(Find<QWidget>("MP1"), Qt::LeftButton);
   EXPECT_EQ(bar->pos(), QPoint(100, 60));
+  // The strip that it has left bare follows the video.
+  struct Painted : QObject {
+    int count = 0;
+    bool eventFilter(QObject*, QEvent* event) override {
+      if (event->type() == QEvent::Paint) ++count;
+      return false;
+    }
+  } painted;
+  QTest::qWait(0);
+  Find<QWidget>("BorderPanel1")->installEventFilter(&painted);
+  Key(Qt::Key_Right);
+  QTest::qWait(50);
+  EXPECT_GT(painted.count, 0);
+  // The film strip does not cover it.
+  form->Analysis().Commands().Run("smbar");
+  EXPECT_FALSE(OnForm(bar).intersects(OnForm(Find<QWidget>("MultiPicturePanel"))));
+  QWidget* const top = form->childAt(OnForm(bar).center());
+  EXPECT_TRUE(top == bar || bar->isAncestorOf(top));
+  form->Analysis().Commands().Run("smbar");
   Click("PlayBarDetachBtn");
   EXPECT_LT(bar->x(), docked.x());
   EXPECT_EQ(bar->y(), docked.y());

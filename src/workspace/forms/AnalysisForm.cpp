@@ -223,7 +223,8 @@ void AnalysisForm::PaintBorder(int slot, bool current) { Cell(slot).SetCurrent(c
 void AnalysisForm::SetCellTitle(int slot, const std::string& title) { Cell(slot).SetTitle(Text(title)); }
 
 void AnalysisForm::SetCellPosition(int slot, int position, int maximum, const std::string& line) {
-  Cell(slot).SetPosition(position, maximum, Text(line));
+  const bool covered = slot == analysis_->Slots().CurrentWindow && playBar_->Docked();
+  Cell(slot).SetPosition(position, maximum, Text(line), covered);
 }
 
 // ---------------------------------------------------------------- play bar

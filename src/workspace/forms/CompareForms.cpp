@@ -10,6 +10,7 @@
 #include "workspace/forms/CarvePanel.h"
 #include "workspace/forms/DualBar.h"
 #include "workspace/forms/MultiPicturePanel.h"
+#include "workspace/forms/PlayBar.h"
 #include "workspace/forms/StrobeForm.h"
 #include "workspace/forms/TransFrame.h"
 #include "workspace/forms/VideoCell.h"
@@ -223,6 +224,11 @@ void CompareForms::ShowMultiPicture(bool shown) {
   stage_->setContentsMargins(0, shown ? kStrip : 0, 0, 0);
   if (!shown) return;
   strip_->raise();
+  // So does a play bar that floats.
+  if (auto* bar = stage_->findChild<PlayBar*>({}, Qt::FindDirectChildrenOnly); bar && !bar->Docked()) {
+    bar->raise();
+    bar->KeepInside();
+  }
   RaiseCards();
 }
 

@@ -327,8 +327,9 @@ void PlayBar::ToggleDock() {
 }
 
 void PlayBar::KeepInside() {
-  const QSize room = parentWidget()->size();
-  move(std::clamp(x(), 0, std::max(0, room.width() - width())), std::clamp(y(), 0, std::max(0, room.height() - height())));
+  const QRect room = parentWidget()->contentsRect();
+  move(std::clamp(x(), room.left(), std::max(room.left(), room.right() + 1 - width())),
+       std::clamp(y(), room.top(), std::max(room.top(), room.bottom() + 1 - height())));
 }
 
 void PlayBar::mousePressEvent(QMouseEvent* event) { grab_ = event->pos(); }

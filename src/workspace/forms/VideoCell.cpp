@@ -145,12 +145,11 @@ void VideoCell::SetLocked(bool locked) {
   PlaceTitle();
 }
 
-void VideoCell::SetPosition(int position, int maximum, const QString& line) {
+void VideoCell::SetPosition(int position, int maximum, const QString& line, bool covered) {
   position_ = position;
   maximum_ = maximum;
   line_ = line;
-  // The strip of the current window is under the play bar.
-  if (!current_) update(0, panel_->geometry().bottom() + 1, width(), height());
+  if (!covered) update(0, panel_->geometry().bottom() + 1, width(), height());
 }
 
 void VideoCell::paintEvent(QPaintEvent* event) {

@@ -29,7 +29,8 @@ class VideoCell : public QWidget {
   void SetReopen(bool possible);
   /// The lock picture behind the name.
   void SetLocked(bool locked);
-  void SetPosition(int position, int maximum, const QString& line);
+  /// What the strip beneath the picture shows; `covered` while the play bar lies over it.
+  void SetPosition(int position, int maximum, const QString& line, bool covered);
   QRect TitleGeometry() const { return title_->isHidden() ? QRect() : title_->geometry(); }
 
  signals:
