@@ -73,7 +73,6 @@ void AnalysisWorkspace::ConnectVideos() {
       transport_.StepReleased();
       if (ruler_.Shown()) ruler_.CalibBtn_Click(1);
       if (tools_.Drawing()) tools_.DrawOffBtn_Click();
-      notes_.Close();
     }
     compare_.VideoClosing(slot);
   };

@@ -11,6 +11,13 @@ void Put(ShapeList& list, std::vector<Shape> shapes) {
   list.Shapes = std::move(shapes);
 }
 
+/// The grid belongs to the window and stays.
+void Clear(ShapeList& list) {
+  const auto grid = list.GridOn;
+  list = {};
+  list.GridOn = grid;
+}
+
 }  // namespace
 
 void SlotDrawings::VideoOpened(int slot) {
@@ -20,7 +27,7 @@ void SlotDrawings::VideoOpened(int slot) {
   kept.stored = {DrawingsOf(data.Shapes), data.PictureWidth, data.PictureHeight};
   kept.origin = kept.fitted = kept.stored;
   ShapeList& list = List(slot);
-  list = {};
+  Clear(list);
   Put(list, kept.stored.shapes);
   data.Shapes = {};
   tools_.ForgetPast(slot, {data.PictureWidth, data.PictureHeight, false});
@@ -108,7 +115,7 @@ void SlotDrawings::DataSaved(int slot) {
 }
 
 void SlotDrawings::VideoClosed(int slot) {
-  List(slot) = {};
+  Clear(List(slot));
   At(slot) = {};
   tools_.ForgetPast(slot, {});
 }

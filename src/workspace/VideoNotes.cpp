@@ -28,6 +28,7 @@ int VideoNotes::FootHeight(int slot, int height) const {
 
 void VideoNotes::SetupNotesPnl() {
   if (!Shown()) return;
+  if (!workspace_.HasVideo(slot_)) return Close();
   const Slot& at = workspace_.At(slot_);
   TwipRect place = at.panel;
   // Under the picture, which has made room: its feet and its ball stay in sight.

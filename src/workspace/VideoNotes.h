@@ -13,7 +13,8 @@ class VideoNotes {
 
   /// Opens the panel, or closes it.
   void TN_Click();
-  /// Places the open panel at the current video and shows its notes.
+  /// Places the open panel at the current video and shows its notes. It stays for the next video of its
+  /// window, and closes with the last.
   void SetupNotesPnl();
   void Close();
   bool Shown() const { return slot_ != 0; }

@@ -368,6 +368,27 @@ TEST(VideoNotesTest, LieUnderThePictureAndAreKeptWithTheVideo) {
   EXPECT_EQ(stage.window.notes, "Gro\u00DFer Schwung\r\nhead still\r\ngrip");
 }
 
+TEST(VideoNotesTest, StayWithTheGridForTheNextVideoOfTheWindow) {
+  AnalysisStage stage("2");
+  stage.Open(1, stage.Video("a.avi"));
+  const int height = stage.MP(1).ControlHeightPixels();
+  stage.Commands().Run("TN");
+  stage.Commands().Run("MenuDraw11");
+  stage.analysis.Notes().NotesBox_Change("Grip");
+  const int beside = stage.MP(1).ControlHeightPixels();
+  stage.Open(1, stage.Video("b.avi"));
+  EXPECT_EQ(stage.window.notes, "") << "those of the new video";
+  EXPECT_EQ(stage.MP(1).ControlHeightPixels(), beside);
+  EXPECT_TRUE(stage.Commands().Find("MenuDraw11")->checked());
+  stage.Open(1, stage.folder + "/a.avi");
+  EXPECT_EQ(stage.window.notes, "Grip");
+  stage.Slots().CloseVideo(1);
+  EXPECT_FALSE(stage.window.notes) << "without a video there is nothing to note";
+  stage.Open(1, stage.folder + "/a.avi");
+  EXPECT_EQ(stage.MP(1).ControlHeightPixels(), height);
+  EXPECT_TRUE(stage.Commands().Find("MenuDraw11")->checked());
+}
+
 TEST(DisplayRate, ReadsTheFirstTwoFiguresBehindThePoint) {
   EXPECT_EQ(DisplayRateTest::Result(114, 59), "Video Display Rate is 93%");
   EXPECT_EQ(DisplayRateTest::Result(118, 59), "Video Display Rate is 00%");
