@@ -10,6 +10,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "platform/files/Folders.h"
+#include "platform/files/PartFiles.h"
 #include "platform/files/TextEncoding.h"
 
 namespace kinalyx {
@@ -20,9 +22,8 @@ namespace {
 
 class SystemDisk final : public IDisk {
  public:
-  // A file left here by a program that was killed is written over; a link laid here is not followed.
   int Open(const std::string& path) override {
-    return ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW | O_CLOEXEC, 0666);
+    return ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
   }
   long Write(int file, const void* bytes, std::size_t count) override {
     long written = -1;
@@ -56,13 +57,6 @@ fs::path TargetOf(const std::string& path) {
   return target;
 }
 
-/// Hidden, so that no listing shows it; short enough for every file system; always the same for a file,
-/// so that a killed save leaves at most one behind.
-fs::path NameBeside(const fs::path& target) {
-  const std::string name = target.filename().string();
-  return target.parent_path() / ("." + std::string(CutUtf8(name, 200)) + ".new");
-}
-
 bool WriteAll(IDisk& disk, int file, std::span<const std::uint8_t> bytes) {
   while (!bytes.empty()) {
     const long written = disk.Write(file, bytes.data(), bytes.size());
@@ -76,6 +70,8 @@ bool WriteAll(IDisk& disk, int file, std::span<const std::uint8_t> bytes) {
 }
 
 }  // namespace
+
+void IDisk::RemoveDead(const std::string& folder) { RemoveDeadParts(folder); }
 
 IDisk& RealDisk() {
   static SystemDisk disk;  // holds no state
@@ -97,8 +93,9 @@ bool WriteWholeFile(const std::string& path, std::span<const std::uint8_t> bytes
   if (exists && ::access(target.c_str(), W_OK) != 0) return refuse(errno);
   if (exists && (old.permissions() & kAnyWrite) == fs::perms::none) return refuse(EACCES);
 
-  const fs::path beside = NameBeside(target);
-  const int file = disk.Open(beside.string());
+  // A name of its own: another window or workstation may be saving the same file at this moment.
+  const std::string beside = PartNameBeside(target.string());
+  const int file = disk.Open(beside);
   if (file < 0) return refuse(errno);
   if (exists) fs::permissions(beside, old.permissions(), failed);  // before the flush, which then covers it
   bool good = WriteAll(disk, file, bytes) && disk.Flush(file) >= 0;
@@ -107,21 +104,21 @@ bool WriteWholeFile(const std::string& path, std::span<const std::uint8_t> bytes
     good = false;
     reason = errno;
   }
-  if (good && disk.Rename(beside.string(), target.string()) < 0) {
+  if (good && disk.Rename(beside, target.string()) < 0) {
     good = false;
     reason = errno;
   }
+  const std::string folder = FolderOf(target.string());
   if (!good) {
-    disk.Remove(beside.string());
+    disk.Remove(beside);
+    disk.RemoveDead(folder);  // the next attempt may need their room
     return refuse(reason);
   }
   // A name that was there stands for the old file or the new one, both whole, until the system has written
   // its folder in a few seconds. A new name would be nothing until then. Some network drives cannot flush a
   // folder, and nothing can be taken back now, so a refusal here is no failure of the save.
-  if (!exists) {
-    const fs::path folder = target.parent_path();
-    disk.FlushFolder(folder.empty() ? "." : folder.string());
-  }
+  if (!exists) disk.FlushFolder(folder);
+  disk.RemoveDead(folder);
   return true;
 }
 

@@ -15,23 +15,26 @@ namespace kinalyx {
 class IDisk {
  public:
   virtual ~IDisk() = default;
-  virtual int Open(const std::string& path) = 0;                      ///< new file, for writing
+  virtual int Open(const std::string& path) = 0;  ///< a new file; fails when there is something
   virtual long Write(int file, const void* bytes, std::size_t count) = 0;
   virtual int Flush(int file) = 0;
   virtual int Close(int file) = 0;
   virtual int Rename(const std::string& from, const std::string& to) = 0;
   virtual int FlushFolder(const std::string& folder) = 0;
   virtual int Remove(const std::string& path) = 0;
+  /// Sweeps up what killed saves and copies have left in a folder.
+  virtual void RemoveDead(const std::string& folder);
 };
 
 /// The disk of this machine.
 IDisk& RealDisk();
 
-/// Replaces a whole file: writes beside it, flushes, renames over it. The file holds either the old
-/// or the new bytes, whatever happens; after a power cut within seconds of the call the old ones may stand
-/// again, but a file that is new stays. On failure nothing is left behind, the old file stands, and
-/// `error` (may be null) gets the reason in the system's words. A file with read-only permission, or
-/// one that is a link, is treated as an editor would: the link's target is replaced, read-only is refused.
+/// Replaces a whole file: writes beside it under a name of its own, flushes, renames over it. The file holds
+/// either the old or the new bytes, whatever happens and whoever else saves it; of two saves at once one
+/// stands whole. After a power cut within seconds of the call the old bytes may stand again, but a file that
+/// is new stays. On failure nothing is left behind, the old file stands, and `error` (may be null) gets the
+/// reason in the system's words. A file with read-only permission, or one that is a link, is treated as an
+/// editor would: the link's target is replaced, read-only is refused.
 bool WriteWholeFile(const std::string& path, std::span<const std::uint8_t> bytes, std::string* error = nullptr,
                     IDisk& disk = RealDisk());
 bool WriteWholeFile(const std::string& path, std::string_view text, std::string* error = nullptr,

@@ -65,9 +65,10 @@ bool UntouchedSince(const std::string& path, std::time_t moment) {
 }  // namespace
 
 std::string PartNameBeside(const std::string& path) {
-  static thread_local std::mt19937_64 dice{std::random_device{}()};
+  // Drawn from the system each time: a program that splits in two would go on with the same row of numbers.
+  std::random_device dice;
   std::array<char, 24> number{};
-  std::snprintf(number.data(), number.size(), ".%016llx", static_cast<unsigned long long>(dice()));
+  std::snprintf(number.data(), number.size(), ".%08x%08x", dice(), dice());
   return JoinPath(FolderOf(path), "." + std::string(CutUtf8(LastName(path), 200)) + number.data() + std::string(kEnding));
 }
 

@@ -7,7 +7,8 @@
 namespace kinalyx {
 
 /// A name beside `path` for what is being written to it, or is on its way out: hidden, so that no list shows
-/// it, and used by nobody else, not even another workstation at the same folder.
+/// it, short enough for every file system, and used by nobody else, not even another workstation at the same
+/// folder.
 std::string PartNameBeside(const std::string& path);
 
 /// How long a part lies untouched before it counts as dead. A copy that is alive writes every few seconds; a

@@ -1,9 +1,13 @@
 #include "platform/files/FileStore.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cerrno>
+#include <thread>
+
 #include <sys/stat.h>
 
+#include "platform/files/PartFiles.h"
 #include "support/TempFolder.h"
 
 namespace kinalyx::test {
@@ -41,6 +45,25 @@ class FailingDisk final : public IDisk {
   }
 };
 
+/// The real disk, but nothing waits for it, and parts are dead at once.
+class HastyDisk final : public IDisk {
+ public:
+  bool sweeps = false;
+
+  int Open(const std::string& path) override { return RealDisk().Open(path); }
+  long Write(int file, const void* bytes, std::size_t count) override {
+    return RealDisk().Write(file, bytes, std::min<std::size_t>(count, 700));
+  }
+  int Flush(int) override { return 0; }
+  int Close(int file) override { return RealDisk().Close(file); }
+  int Rename(const std::string& from, const std::string& to) override { return RealDisk().Rename(from, to); }
+  int FlushFolder(const std::string&) override { return 0; }
+  int Remove(const std::string& path) override { return RealDisk().Remove(path); }
+  void RemoveDead(const std::string& folder) override {
+    if (sweeps) RemoveDeadParts(folder, 0);
+  }
+};
+
 /// Saves with every call to the disk failing in turn, until a save made no more calls; returns how many it made.
 int FailEachCall(bool replaces) {
   int failAt = 0;
@@ -66,6 +89,42 @@ int FailEachCall(bool replaces) {
 TEST(FileStore, EachFailureLeavesTheOldFileOrTheNewOne) {
   EXPECT_EQ(FailEachCall(true), 8) << "open, four writes, flush, close, rename";
   EXPECT_EQ(FailEachCall(false), 9) << "a new name is flushed with its folder";
+}
+
+TEST(FileStore, ManyWritersAtOnceLeaveWholeFilesToEveryReader) {
+  const TempFolder folder;
+  const std::string path = folder.Put("config10.ini", std::string(1000, 'a'));
+  std::atomic<int> writing = 3;
+  std::atomic<int> refused = 0;
+  std::vector<std::thread> writers;
+  for (const char letter : {'a', 'b', 'c'}) {
+    writers.emplace_back([&, letter] {
+      HastyDisk disk;
+      const std::string text(1000 * static_cast<std::size_t>(letter - 'a' + 1), letter);
+      for (int i = 0; i < 300; ++i) refused += !WriteWholeFile(path, text, nullptr, disk);
+      --writing;
+    });
+  }
+  int torn = 0;
+  do {
+    const std::string text = folder.Get("config10.ini");
+    torn += text.empty() || text != std::string(1000 * static_cast<std::size_t>(text[0] - 'a' + 1), text[0]);
+  } while (writing > 0);
+  for (std::thread& writer : writers) writer.join();
+  EXPECT_EQ(torn, 0);
+  EXPECT_EQ(refused, 0);
+  EXPECT_EQ(folder.FileCount(), 1u);
+}
+
+TEST(FileStore, ASaveSweepsUpAfterThoseThatWereKilled) {
+  const TempFolder folder;
+  folder.Put(".swing.ved.0123456789abcdef.part", "half");
+  folder.Put(".swing.ved.new", "somebody's own");
+  HastyDisk disk;
+  disk.sweeps = true;
+  EXPECT_TRUE(WriteWholeFile(folder.Path("swing.ved"), std::string_view("whole"), nullptr, disk));
+  EXPECT_EQ(folder.FileCount(), 2u);
+  EXPECT_EQ(folder.Get("swing.ved"), "whole");
 }
 
 TEST(FileStore, TreatsOddTargetsAsAnEditorWould) {
