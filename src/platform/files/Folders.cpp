@@ -50,6 +50,11 @@ std::string DesktopDocuments(const std::string& home) {
   return {};
 }
 
+FileStamp AsStamp(const struct stat& state) {
+  constexpr std::int64_t kNanoseconds = 1'000'000'000;
+  return {state.st_ino, state.st_size, state.st_mtim.tv_sec * kNanoseconds + state.st_mtim.tv_nsec};
+}
+
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
 /// A text that sorts byte by byte as a reader sorts names: case folded, and each run of digits written
@@ -165,9 +170,22 @@ std::optional<std::int64_t> FileSize(const std::string& path) {
 
 std::optional<FileStamp> StampOf(const std::string& path) {
   struct stat state {};
-  if (stat(path.c_str(), &state) != 0) return std::nullopt;
-  constexpr std::int64_t kNanoseconds = 1'000'000'000;
-  return FileStamp{state.st_ino, state.st_size, state.st_mtim.tv_sec * kNanoseconds + state.st_mtim.tv_nsec};
+  if (::stat(path.c_str(), &state) != 0) return std::nullopt;
+  return AsStamp(state);
+}
+
+std::optional<FileStamp> StampOf(int file) {
+  struct stat state {};
+  if (::fstat(file, &state) != 0) return std::nullopt;
+  return AsStamp(state);
+}
+
+std::string KeptPath(const std::string& path) {
+  const std::string first = path + ".old";
+  std::string kept = first;
+  std::error_code failed;
+  for (int number = 2; fs::exists(fs::symlink_status(kept, failed)); ++number) kept = first + std::to_string(number);
+  return kept;
 }
 
 std::int64_t FreeBytes(const std::string& path) {

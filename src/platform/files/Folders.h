@@ -38,6 +38,9 @@ struct FileStamp {
 };
 /// Nothing when it cannot be asked.
 std::optional<FileStamp> StampOf(const std::string& path);
+std::optional<FileStamp> StampOf(int file);
+/// Where a file that must make way is kept: "X.old", with a number behind where that is taken already.
+std::string KeptPath(const std::string& path);
 /// Free bytes of the drive that holds `path` (or the nearest folder above it that exists); -1 unknown.
 std::int64_t FreeBytes(const std::string& path);
 
