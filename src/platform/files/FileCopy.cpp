@@ -289,7 +289,7 @@ CopyJob::State CopyJob::Step(std::int64_t maxBytes) {
       node_ = 0;
       continue;
     }
-    const Node& node = entry.nodes[node_];
+    Node& node = entry.nodes[node_];
     if (source_ < 0) {
       if (!BeginNode(node)) return Fail(node.from, errno);
       if (node.kind != NodeKind::File) {
@@ -347,7 +347,7 @@ bool CopyJob::BeginUnit() {
   return true;
 }
 
-bool CopyJob::BeginNode(const Node& node) {
+bool CopyJob::BeginNode(Node& node) {
   switch (node.kind) {
     case NodeKind::Folder: return disk_.MakeFolder(node.to) == 0;
     case NodeKind::Link: return disk_.MakeLink(node.target, node.to) == 0;
@@ -355,11 +355,13 @@ bool CopyJob::BeginNode(const Node& node) {
   }
   source_ = disk_.OpenSource(node.from, node.followLink);
   if (source_ < 0) return false;
+  node.copied = StampOf(source_);
   target_ = disk_.OpenNew(node.to);
   return target_ >= 0;
 }
 
-bool CopyJob::FinishFile(const Node& node) {
+bool CopyJob::FinishFile(Node& node) {
+  if (StampOf(source_) != node.copied) node.copied.reset();  // the copy may hold some of each
   struct stat old {};
   struct stat copy {};
   // Private files stay private, but what comes from a read-only disc can be written to in the library. A
@@ -417,11 +419,51 @@ void CopyJob::RemoveSources(Unit& unit) {
   if (!copied) return;
   for (const Entry& entry : unit.entries) disk_.FlushFolder(FolderOf(entry.to));
   for (const Entry& entry : unit.entries) {
-    std::string reason;
-    if (entry.keep || entry.byRename || RemoveTree(entry.from, &reason, disk_)) continue;
-    // Everything has arrived, so nothing is taken back; but the user must know that the old one is there.
-    if (error_.empty()) error_ = Quoted(entry.from) + " could not be removed from its old place: " + reason;
+    if (entry.keep || entry.byRename) continue;
+    const std::string left = RemoveCopied(entry);
+    // Everything has arrived, so nothing is taken back; but the user must know what is still there.
+    if (error_.empty()) error_ = left;
   }
+}
+
+std::string CopyJob::RemoveCopied(const Entry& entry) {
+  int reason = 0;
+  std::vector<std::string> kept;   // came or changed since it was copied
+  std::vector<std::string> stuck;  // the disk refuses
+  const auto refused = [&](const std::string& path) {
+    reason = reason ? reason : errno;
+    stuck.push_back(path);
+  };
+  const auto told = [&](const std::string& path) {
+    const auto within = [&path](const std::string& one) { return one == path || one.starts_with(path + "/"); };
+    return std::ranges::any_of(kept, within) || std::ranges::any_of(stuck, within);
+  };
+  for (auto node = entry.nodes.rbegin(); node != entry.nodes.rend(); ++node) {
+    if (!EntryExists(node->from)) continue;
+    if (node->kind == NodeKind::Folder) {
+      if (disk_.RemoveFolder(node->from) >= 0 || errno == ENOENT) continue;
+      const int refusal = errno;
+      std::vector<std::string> names;
+      const bool full = (refusal == ENOTEMPTY || refusal == EEXIST) && NamesIn(node->from, names);
+      errno = refusal;
+      if (!full) refused(node->from);
+      for (const std::string& name : names) {
+        if (const std::string path = JoinPath(node->from, name); !told(path)) kept.push_back(path);
+      }
+      continue;
+    }
+    const bool same = node->kind == NodeKind::Link ? LinkTarget(node->from) == node->target
+                                                   : node->copied && StampOf(node->from) == node->copied;
+    if (!same) kept.push_back(node->from);
+    else if (disk_.Remove(node->from) < 0 && errno != ENOENT) refused(node->from);
+  }
+  if (!kept.empty()) {
+    std::string text = Quoted(kept.front());
+    if (kept.size() > 1) text += " and " + std::to_string(kept.size() - 1) + " more";
+    return text + " came or changed while " + Quoted(entry.from) + " was moved, and stayed in the old place: " +
+           FolderOf(kept.front());
+  }
+  return reason ? Quoted(entry.from) + " could not be removed from its old place: " + std::strerror(reason) : std::string();
 }
 
 void CopyJob::RollBack() {

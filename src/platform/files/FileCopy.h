@@ -9,6 +9,8 @@
 
 #include <sys/types.h>
 
+#include "platform/files/Folders.h"
+
 namespace kinalyx {
 
 /// The calls by which a copy changes the disk, so that a test can make each of them fail in turn.
@@ -57,7 +59,8 @@ struct CopyProgress {
 /// - Everything is written under hidden names beside the final ones and renamed when its unit is whole;
 ///   a final name never stands for half a file, and never replaces one that is already there.
 /// - Room is asked for before the first byte is written.
-/// - Within a file system a move is a rename; across two it is a copy, flushed, and then a removal.
+/// - Within a file system a move is a rename; across two it is a copy, flushed, and then a removal of what
+///   was copied and is as it was then. What came or changed meanwhile stays, with the folders around it.
 /// - Times are kept. Links inside a folder are copied as links and never followed.
 /// - After a failure or a cancel, units that are done stay done and the one under way leaves no trace.
 class CopyJob {
@@ -82,7 +85,7 @@ class CopyJob {
 
   State Status() const { return state_; }
   const CopyProgress& Progress() const { return progress_; }
-  /// Why it failed, in words for the user; or, when done, what could not be removed after a move.
+  /// Why it failed, in words for the user; or, when done, what is left in the old place after a move.
   const std::string& Error() const { return error_; }
   /// True when it failed because there is something of the same name at the target.
   bool NameTaken() const { return nameTaken_; }
@@ -99,6 +102,7 @@ class CopyJob {
     timespec accessed{};
     timespec modified{};
     bool followLink = false;
+    std::optional<FileStamp> copied = std::nullopt;  ///< the file as it was while it was copied
   };
   struct Entry {
     std::string from;
@@ -119,10 +123,12 @@ class CopyJob {
   bool MeasureFolder(Entry& entry, const std::string& from, const std::string& to, int depth);
   bool EnoughRoom();
   bool BeginUnit();
-  bool BeginNode(const Node& node);
-  bool FinishFile(const Node& node);
+  bool BeginNode(Node& node);
+  bool FinishFile(Node& node);
   bool CommitUnit();
   void RemoveSources(Unit& unit);
+  /// Removes what was copied and is as it was then; what is left, in words for the user.
+  std::string RemoveCopied(const Entry& entry);
   void RollBack();
   bool MakeParents(const std::string& path);
   State Fail(const std::string& name, int reason);

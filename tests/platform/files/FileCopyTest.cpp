@@ -91,6 +91,39 @@ TEST(CopyJob, MovesAStudentWithinADriveAndBetweenTwo) {
   }
 }
 
+TEST(CopyJob, AMoveBetweenDrivesRemovesOnlyWhatItCopied) {
+  // Another workstation works on the student while the copy is under way, and just before the old one goes.
+  class BusyDrives final : public TwoDrives {
+   public:
+    explicit BusyDrives(const TempFolder& folder) : TwoDrives(RealCopyDisk()), folder_(folder) {}
+    int RenameNew(const std::string& from, const std::string& to) override {
+      const int result = TwoDrives::RenameNew(from, to);
+      if (result == 0) folder_.Put("Ann/Smith, Jr./(001) DL.ved", "1XXXXXXX and more");
+      return result;
+    }
+
+   private:
+    const TempFolder& folder_;
+  };
+  TempFolder folder;
+  MakeStudent(folder);
+  const fs::path video = folder.Path("Ann/Smith, Jr./(001) DL.avi");
+  fs::last_write_time(video, fs::last_write_time(video) - std::chrono::hours(1));
+  BusyDrives drives(folder);
+  CopyJob job(CopyJob::Kind::Move, WholeStudent(folder), drives);
+  while (job.Progress().bytesDone == 0) ASSERT_EQ(job.Step(1000), CopyJob::State::Running) << job.Error();
+  folder.Put("Ann/Smith, Jr./(001) DL.avi", std::string(kVideo.size(), 'w'));
+  folder.Put("Ann/Smith, Jr./lessons/Two.avi", "just recorded");
+  ASSERT_EQ(RunToEnd(job), CopyJob::State::Done) << job.Error();
+  const auto after = Contents(folder);
+  EXPECT_EQ(after.at("Ann/Smith, Jr./lessons/Two.avi"), "just recorded");
+  EXPECT_EQ(after.at("Ann/Smith, Jr./(001) DL.ved"), "1XXXXXXX and more");
+  EXPECT_TRUE(after.contains("Ann/Smith, Jr./(001) DL.avi")) << "what changed under the copy is in doubt";
+  EXPECT_FALSE(after.contains("Ann/Smith, Jr./lessons/One.avi") || after.contains("Ann/Smith, Jr./elsewhere"));
+  EXPECT_TRUE(after.contains("Bob/Smith, Jr./lessons/One.avi") && after.contains("Bob/Smith, Jr./(001) DL.ved"));
+  EXPECT_NE(job.Error().find("\"Two.avi\" and 2 more came or changed while \"Smith, Jr.\" was moved"), std::string::npos) << job.Error();
+}
+
 TEST(CopyJob, ACancelTakesBackTheUnitUnderWayAndKeepsThoseThatAreDone) {
   TempFolder folder;
   MakeStudent(folder);
