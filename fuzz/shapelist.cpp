@@ -15,6 +15,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t cou
   if (written.size() > kShapeFileLimit) return 0;
   ShapeFileContent again;
   fuzz::Require(ReadShapeFile(written, screen, again));
+  if (content.lowerBound >= 0) fuzz::Require(ComesOutEven(written));
   const std::size_t lists = std::min(content.Lists.size(), again.Lists.size());
   for (std::size_t i = 0; i < lists; ++i) fuzz::Require(again.Lists[i].NumShapes == content.Lists[i].NumShapes);
   return 0;

@@ -15,6 +15,10 @@ namespace {
 using Bytes = std::vector<std::uint8_t>;
 
 constexpr std::size_t kPointBytes = 8;
+constexpr std::string_view kShapeTag = "INF";
+constexpr std::string_view kNamesTag = "MNL";
+constexpr std::string_view kEndTag = "EOF";
+constexpr std::string_view kFullNamesTag = "UTF";
 
 // ---------------------------------------------------------------- reading
 
@@ -78,7 +82,21 @@ std::vector<std::string> ReadNames(Reader& reader) {
   std::vector<std::string> names(std::min<std::size_t>(ReadCount(reader, 2), kMostShapeLists));
   for (std::string& name : names) {
     const std::int16_t length = reader.Int16();
-    name = FromWindows1252(reader.Text(static_cast<std::size_t>(std::max<std::int16_t>(length, 0))));
+    name = reader.Text(static_cast<std::size_t>(std::max<std::int16_t>(length, 0)));
+  }
+  return names;
+}
+
+/// The names of a file and, behind its end, perhaps the same in full. A full name counts when it is that of
+/// its place still: a program that does not know of them may have kept them.
+std::vector<std::string> ReadAllNames(Reader& reader) {
+  std::vector<std::string> names = ReadNames(reader);
+  std::vector<std::string> full;
+  if (reader.Text(3) == kEndTag && reader.Text(3) == kFullNamesTag) full = ReadNames(reader);
+  full.resize(names.size());
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    const bool counts = IsValidUtf8(full[i]) && ToWindows1252(full[i]) == names[i];
+    names[i] = counts ? std::move(full[i]) : FromWindows1252(names[i]);
   }
   return names;
 }
@@ -110,16 +128,32 @@ void PutPoints(Bytes& bytes, const std::vector<POINTAPI>& points) {
   bytes.insert(bytes.end(), first, first + points.size() * kPointBytes);
 }
 
-void PutNames(Bytes& bytes, const std::vector<std::string>& names) {
-  PutText(bytes, "MNL");
+void PutNames(Bytes& bytes, std::string_view tag, const std::vector<std::string>& names) {
+  PutText(bytes, tag);
   PutInt16(bytes, 1);
   PutInt32(bytes, static_cast<std::int32_t>(names.size()));
   PutInt32(bytes, 0);
   for (const std::string& name : names) {
-    const std::string text = ToWindows1252(name).substr(0, std::numeric_limits<std::int16_t>::max());
-    PutInt16(bytes, static_cast<int>(text.size()));
-    PutText(bytes, text);
+    PutInt16(bytes, static_cast<int>(name.size()));
+    PutText(bytes, name);
   }
+}
+
+/// The names, the end of the file, and where Windows-1252 lacks a character the names in full: whoever knows
+/// nothing of them stops at the end.
+void PutAllNames(Bytes& bytes, const std::vector<std::string>& names) {
+  constexpr std::size_t kLongest = std::numeric_limits<std::int16_t>::max();
+  std::vector<std::string> narrow;
+  std::vector<std::string> full;
+  bool fits = true;
+  for (const std::string& name : names) {
+    narrow.push_back(ToWindows1252(name).substr(0, kLongest));
+    full.emplace_back(CutUtf8(name, kLongest));
+    fits = fits && FromWindows1252(narrow.back()) == name;
+  }
+  PutNames(bytes, kNamesTag, narrow);
+  PutText(bytes, kEndTag);
+  if (!fits) PutNames(bytes, kFullNamesTag, full);
 }
 
 std::string VideoShapesPath(const std::string& videoPath) {
@@ -169,7 +203,7 @@ bool ReadShapeFile(std::span<const std::uint8_t> bytes, ScreenTwips screen, Shap
   std::string tag;
   do {
     tag = reader.Text(3);
-    if (tag == "INF") {
+    if (tag == kShapeTag) {
       const int index = reader.Byte() - content.lowerBound;
       auto rest = reader.Rest();
       Shape shape = ReadShapeBody(rest);
@@ -183,14 +217,19 @@ bool ReadShapeFile(std::span<const std::uint8_t> bytes, ScreenTwips screen, Shap
       ++list.NumShapes;
       list.CanvasWidth = width != 0 ? width : screen.width / 2;
       list.CanvasHeight = height != 0 ? height : screen.height / 2;
-    } else if (tag == "MNL") {
-      content.Names = ReadNames(reader);
+    } else if (tag == kNamesTag) {
+      content.Names = ReadAllNames(reader);
       break;
     }
     // The next byte counts from 1, and the length is a signed one: see kShapeFileLimit.
-  } while (tag != "EOF" && !reader.Rest().empty() &&
+  } while (tag != kEndTag && !reader.Rest().empty() &&
            static_cast<std::int64_t>(bytes.size() - reader.Rest().size() + 1) < length);
   return true;
+}
+
+bool ComesOutEven(std::span<const std::uint8_t> bytes) {
+  ShapeFileContent content;
+  return ReadShapeFile(bytes, {}, content) && std::ranges::equal(WriteShapeFile(content), bytes);
 }
 
 Bytes WriteShapeFile(const ShapeFileContent& content) {
@@ -202,7 +241,7 @@ Bytes WriteShapeFile(const ShapeFileContent& content) {
   for (const ShapeList& list : content.Lists) {
     if (number >= 0 && number < kMostShapeLists) {
       for (const Shape& shape : ShapesOf(list)) {
-        PutText(bytes, "INF");
+        PutText(bytes, kShapeTag);
         bytes.push_back(static_cast<std::uint8_t>(number));
         WriteShapeBody(shape, bytes);
         PutInt32(bytes, list.CanvasWidth);
@@ -211,8 +250,8 @@ Bytes WriteShapeFile(const ShapeFileContent& content) {
     }
     ++number;
   }
-  if (!content.Names.empty()) PutNames(bytes, content.Names);
-  PutText(bytes, "EOF");
+  if (content.Names.empty()) PutText(bytes, kEndTag);
+  else PutAllNames(bytes, content.Names);
   return bytes;
 }
 

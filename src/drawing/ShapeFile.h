@@ -42,6 +42,10 @@ struct ScreenTwips {
 /// was, when the file is empty or does not begin as a shape file.
 bool ReadShapeFile(std::span<const std::uint8_t> bytes, ScreenTwips screen, ShapeFileContent& content);
 
+/// True when nothing in a file is missing, out of its range, unknown or left over: what is read of it, written
+/// again, gives the same bytes.
+bool ComesOutEven(std::span<const std::uint8_t> bytes);
+
 /// The bytes of a file: all lists from `lowerBound` on, then the names when there are any. Lists whose
 /// number does not fit into a byte are left out. A caller that stores the bytes minds kShapeFileLimit.
 std::vector<std::uint8_t> WriteShapeFile(const ShapeFileContent& content);

@@ -91,6 +91,29 @@ TEST(ShapeFile, AContainerIsReadFromHandWrittenBytes) {
   EXPECT_EQ(content.Lists.size(), 8u) << "untouched";
 }
 
+TEST(ShapeFile, NamesInAllLettersStandBehindTheEnd) {
+  // Whoever stops at the end reads the names as far as they fit into one byte a character.
+  const Bytes old = Hex("'SL' 0000 0100 'MNL' 0100 02000000 00000000 0300 '?a?' 0200 'Z' FC 'EOF'");
+  Bytes bytes = old;
+  const Bytes full = Hex("'UTF' 0100 02000000 00000000 0600 C581 61 E3818B 0300 'Z' C3BC");
+  bytes.insert(bytes.end(), full.begin(), full.end());
+  ShapeFileContent content{0, {{}, {}}, {"Łaか", "Zü"}};
+  EXPECT_EQ(WriteShapeFile(content), bytes);
+  EXPECT_TRUE(ReadShapeFile(bytes, {}, content) && ComesOutEven(bytes));
+  EXPECT_EQ(content.Names, (std::vector<std::string>{"Łaか", "Zü"}));
+  ASSERT_TRUE(ReadShapeFile(old, {}, content) && ComesOutEven(old));
+  EXPECT_EQ(content.Names, (std::vector<std::string>{"?a?", "Zü"}));
+  // Another program has changed a name and left the rest standing; or the rest is no UTF-8.
+  const std::pair<std::size_t, const char*> cases[] = {{old.size() - 5, "bü"}, {bytes.size() - 1, "Zü"}};
+  for (const auto& [changed, name] : cases) {
+    Bytes odd = bytes;
+    odd[changed] = 'b';
+    ASSERT_TRUE(ReadShapeFile(odd, {}, content));
+    EXPECT_EQ(content.Names, (std::vector<std::string>{"Łaか", name}));
+    EXPECT_FALSE(ComesOutEven(odd));
+  }
+}
+
 TEST(ShapeFile, AFileBeyondTheLimitIsReadAsItsLengthWraps) {
   const auto file = [](std::size_t size) {
     ShapeList list;
