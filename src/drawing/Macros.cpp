@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string>
 #include <utility>
 
 #include <fmt/format.h>
@@ -10,7 +11,6 @@ namespace kinalyx {
 namespace {
 
 constexpr const char* kFileName = "Macro.dat";
-constexpr const char* kKeptName = "Macro.old";
 
 bool Refuse(std::string* error, std::string text) {
   if (error) *error = std::move(text);
@@ -20,80 +20,64 @@ bool Refuse(std::string* error, std::string text) {
 }  // namespace
 
 Macros::Macros(std::string appPath, std::string dataPath, IDisk& disk)
-    : appPath_(std::move(appPath)), dataPath_(std::move(dataPath)), disk_(disk) {}
-
-std::string Macros::AppFile() const { return JoinPath(appPath_, kFileName); }
-std::string Macros::DataFile() const { return JoinPath(dataPath_, kFileName); }
-std::string Macros::File() const { return FileExists(DataFile()) ? DataFile() : AppFile(); }
+    : shared_(JoinPath(appPath, kFileName), disk), own_(JoinPath(dataPath, kFileName), disk) {}
 
 void Macros::LoadMList(ScreenTwips screen) {
-  const auto stamp = StampOf(File());
-  if (!stamp || stamp == stamp_) return;
-  stamp_ = stamp;
-  const auto bytes = ReadWholeFile(File());
-  ShapeFileContent content;
-  if (!bytes) return;
-  cutShort_ = bytes->size() > kShapeFileLimit;
-  if (!ReadShapeFile(*bytes, screen, content)) return;
-  lists_ = std::move(content.Lists);
-  names_ = std::move(content.Names);
-  names_.resize(lists_.size());
+  shared_.Read(screen);
+  own_.Read(screen);
+  Gather();
+}
+
+void Macros::Gather() {
+  shown_ = shared_.All();
+  if (!OneFile()) {
+    // An own file may repeat shared ones, from when it stood in for the shared file as a whole.
+    for (const NamedMacro& macro : own_.All()) {
+      if (std::ranges::find(shared_.All(), macro) == shared_.All().end()) shown_.push_back(macro);
+    }
+  }
+  names_.clear();
+  for (const NamedMacro& macro : shown_) names_.push_back(macro.name);
 }
 
 bool Macros::CreateMacro(const std::string& Name, const ShapeList& list, std::string* error) {
   if (Name.empty()) return Refuse(error, "The macro needs a name.");
-  if (NumMacros() == kMostShapeLists) return Refuse(error, fmt::format("There can be no more than {} macros.", kMostShapeLists));
-  auto lists = lists_;
-  auto names = names_;
-  lists.push_back(list);
-  lists.back().Shapes = DrawingsOf(list);
-  lists.back().NumShapes = static_cast<std::int16_t>(lists.back().Shapes.size());
-  lists.back().Adding = false;
-  lists.back().CurShape = -1;
-  names.push_back(Name);
-  return SaveMList(std::move(lists), std::move(names), error);
+  NamedMacro macro{Name, list};
+  macro.list.Shapes = DrawingsOf(list);
+  macro.list.NumShapes = static_cast<std::int16_t>(macro.list.Shapes.size());
+  std::string reason;
+  MacroFile::Outcome outcome = shared_.Add(macro, reason);
+  if (outcome == MacroFile::Outcome::Unwritable && !OneFile()) outcome = own_.Add(macro, reason);
+  Gather();
+  return outcome == MacroFile::Outcome::Stored || Refuse(error, reason);
 }
 
 bool Macros::KillMacro(int Index, std::string* error) {
   if (Index < 0 || Index >= NumMacros()) return true;
-  auto lists = lists_;
-  auto names = names_;
-  lists.erase(lists.begin() + Index);
-  names.erase(names.begin() + Index);
-  return SaveMList(std::move(lists), std::move(names), error);
+  const NamedMacro macro = shown_[static_cast<std::size_t>(Index)];
+  const bool shared = Index < static_cast<int>(shared_.All().size());
+  std::string reason;
+  MacroFile::Outcome outcome = shared ? shared_.Remove(macro, false, reason) : own_.Remove(macro, false, reason);
+  if (shared && outcome == MacroFile::Outcome::Stored && !OneFile()) outcome = own_.Remove(macro, true, reason);
+  Gather();
+  if (outcome == MacroFile::Outcome::Stored) return true;
+  if (outcome == MacroFile::Outcome::Unwritable)
+    reason = fmt::format("It lies in \"{}\": {}", shared ? shared_.Path() : own_.Path(), reason);
+  return Refuse(error, reason);
 }
 
-bool Macros::SaveMList(std::vector<ShapeList> lists, std::vector<std::string> names, std::string* error) {
-  if (cutShort_) {
-    const auto old = ReadWholeFile(File());
-    if (old && !WriteWholeFile(JoinPath(dataPath_, kKeptName), *old, error, disk_)) return false;
-    cutShort_ = false;
+int Macros::IndexOf(const std::string& Name) const {
+  for (int index = NumMacros() - 1; index >= 0; --index) {
+    if (names_[static_cast<std::size_t>(index)] == Name) return index;
   }
-  if (lists.empty()) {
-    if (!RemoveFiles(error)) return false;
-  } else {
-    const auto bytes = WriteShapeFile({0, lists, names});
-    if (bytes.size() > kShapeFileLimit && lists.size() >= lists_.size())
-      return Refuse(error, fmt::format("The file of the macros would need {} bytes. Beyond {} it could not be read whole. "
-                                       "Remove a macro first.",
-                                       bytes.size(), kShapeFileLimit));
-    const bool own = FileExists(DataFile());
-    if ((own || !WriteWholeFile(AppFile(), bytes, nullptr, disk_)) && !WriteWholeFile(DataFile(), bytes, error, disk_))
-      return false;
-  }
-  lists_ = std::move(lists);
-  names_ = std::move(names);
-  stamp_ = StampOf(File());
-  return true;
+  return -1;
 }
 
-bool Macros::RemoveFiles(std::string* error) {
-  if (!FileExists(AppFile()) || KillFile(AppFile())) {
-    if (!FileExists(DataFile()) || KillFile(DataFile())) return true;
-    return Refuse(error, "The file of the macros cannot be deleted.");
-  }
-  // The program's file stays where it cannot be deleted; an empty one of the user's own goes before it.
-  return WriteWholeFile(DataFile(), WriteShapeFile({}), error, disk_);
+std::string Macros::TakeNotice() {
+  std::string notice = shared_.TakeNotice();
+  const std::string own = own_.TakeNotice();
+  if (OneFile() || own.empty()) return notice;
+  return notice.empty() ? own : notice + "\n\n" + own;
 }
 
 std::string Macros::Info(int Index) const {

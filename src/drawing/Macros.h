@@ -1,12 +1,11 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <vector>
 
 #include "drawing/DrawingTools.h"
+#include "drawing/MacroFile.h"
 #include "drawing/Shape.h"
-#include "drawing/ShapeFile.h"
 #include "drawing/ShapePainting.h"
 #include "platform/files/FileStore.h"
 #include "platform/files/Folders.h"
@@ -14,25 +13,34 @@
 
 namespace kinalyx {
 
-/// Named drawings, each the whole list of a window, kept in "Macro.dat" in the program's folder, or in
-/// the user's data folder when the program's cannot be written. Every change is stored at once.
+/// Named drawings, each the whole list of a window, kept in two files of the name "Macro.dat": the one in the
+/// program's folder is shared with whoever uses the program there, the one in the user's data folder holds
+/// what could not be written to the other. Both are shown, first the shared ones; every change is stored at
+/// once in the file that it concerns.
 class Macros {
  public:
   Macros(std::string appPath, std::string dataPath, IDisk& disk = RealDisk());
 
-  int NumMacros() const { return static_cast<int>(lists_.size()); }
-  const ShapeList& Macro(int Index) const { return lists_[static_cast<std::size_t>(Index)]; }
+  int NumMacros() const { return static_cast<int>(shown_.size()); }
+  const ShapeList& Macro(int Index) const { return shown_[static_cast<std::size_t>(Index)].list; }
   const std::vector<std::string>& MacroNames() const { return names_; }
 
-  /// Reads the file, when it is not the one that was read or written last: another workstation, or another
-  /// user of this one, may keep macros in it too. A missing one changes nothing.
+  /// Reads the files, unless they are as they were read or written last: another workstation, or another user
+  /// of this one, may keep macros in them too.
   void LoadMList(ScreenTwips screen);
 
-  /// Keeps a copy of a window's drawings. Refused, with `error` for the user, without a name, beyond 256
-  /// macros, when the file would become too long to be read whole, and when the disk refuses.
+  /// Keeps a copy of a window's drawings, behind what others have stored meanwhile. Refused, with `error` for
+  /// the user, without a name, beyond 256 macros in a file, when the file would become too long to be read
+  /// whole, and when the disk refuses in both places.
   bool CreateMacro(const std::string& Name, const ShapeList& list, std::string* error = nullptr);
-  /// Indexes outside the list do nothing.
+  /// Removes a macro from the file that holds it. One that somebody else has removed or replaced meanwhile, and
+  /// indexes outside the list, do nothing.
   bool KillMacro(int Index, std::string* error = nullptr);
+  /// The last one of a name; -1 none.
+  int IndexOf(const std::string& Name) const;
+
+  /// What the user should know of the files and was not told yet: what could not be read, where it is kept.
+  std::string TakeNotice();
 
   int NumShapesInMacro(int Index) const { return Macro(Index).NumShapes; }
   int GetMacroShapeType(int Index, int Shape) const { return ShapesOf(Macro(Index))[static_cast<std::size_t>(Shape)].Kind; }
@@ -40,23 +48,13 @@ class Macros {
   std::string Info(int Index) const;
 
  private:
-  std::string AppFile() const;
-  std::string DataFile() const;
-  /// The one that counts: the user's own is newer wherever there is one, for it exists because the program's
-  /// could not be written.
-  std::string File() const;
-  /// Stores these as all macros; without any the file goes. On failure `error` says why, and the old file
-  /// and the old macros stand. A file that was too long to be read whole is kept beside as "Macro.old"
-  /// before it is replaced.
-  bool SaveMList(std::vector<ShapeList> lists, std::vector<std::string> names, std::string* error);
-  bool RemoveFiles(std::string* error);
+  /// The user's data folder may be the program's.
+  bool OneFile() const { return SamePlace(FolderOf(shared_.Path()), FolderOf(own_.Path())) || SamePlace(shared_.Path(), own_.Path()); }
+  void Gather();
 
-  std::string appPath_;
-  std::string dataPath_;
-  IDisk& disk_;
-  std::optional<FileStamp> stamp_;  // of the file that was read or written last
-  bool cutShort_ = false;  // the file that was read holds more than could be read
-  std::vector<ShapeList> lists_;
+  MacroFile shared_;
+  MacroFile own_;
+  std::vector<NamedMacro> shown_;
   std::vector<std::string> names_;
 };
 

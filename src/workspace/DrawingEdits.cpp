@@ -141,6 +141,11 @@ void DrawingEdits::Redo() {
 void DrawingEdits::LoadMacros() {
   const SystemInfo system = host_.System();
   macros_.LoadMList({system.screenWidth * kTwipsPerPixel, system.screenHeight * kTwipsPerPixel});
+  TellOfMacroFiles();
+}
+
+void DrawingEdits::TellOfMacroFiles() {
+  if (const std::string notice = macros_.TakeNotice(); !notice.empty()) host_.Message(MessageKind::Warning, "Drawing macros", notice);
 }
 
 void DrawingEdits::DTMacro_Click() {
@@ -150,11 +155,10 @@ void DrawingEdits::DTMacro_Click() {
   if (!name || name->empty()) return;
   LoadMacros();
   std::string error;
-  if (!macros_.CreateMacro(*name, List(), &error)) {
+  if (!macros_.CreateMacro(*name, List(), &error))
     host_.Message(MessageKind::Warning, "New macro", "The macro could not be saved. " + error);
-    return;
-  }
-  if (macroFormShown_) view_.FillMacroList(macros_.MacroNames(), macros_.NumMacros() - 1);
+  TellOfMacroFiles();
+  if (macroFormShown_) view_.FillMacroList(macros_.MacroNames(), macros_.IndexOf(*name));
 }
 
 void DrawingEdits::AddMacro_Click() {
@@ -190,6 +194,7 @@ void DrawingEdits::SSCommand1_Click(int Index) {
     Index = static_cast<int>(std::ranges::find(names, name) - names.begin());
   std::string error;
   if (!macros_.KillMacro(Index, &error)) host_.Message(MessageKind::Warning, "Remove macro", "The macro could not be removed. " + error);
+  TellOfMacroFiles();
   view_.FillMacroList(macros_.MacroNames(), std::min(Index, macros_.NumMacros() - 1));
 }
 

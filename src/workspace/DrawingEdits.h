@@ -124,6 +124,7 @@ class DrawingEdits {
   std::string SelectionWords();
   std::pair<float, float> InHandle(int handle, POINTAPI at);
   void LoadMacros();
+  void TellOfMacroFiles();
   std::vector<int> CloneTargets() const;
   int WindowsOfLayout() const;
 

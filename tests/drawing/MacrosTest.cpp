@@ -1,6 +1,9 @@
 #include "drawing/Macros.h"
 
+#include <algorithm>
+#include <cerrno>
 #include <filesystem>
+#include <thread>
 
 #include "DrawingSupport.h"
 #include "support/TempFolder.h"
@@ -9,6 +12,24 @@ namespace kinalyx::test {
 namespace {
 
 namespace fs = std::filesystem;
+
+/// A disk of which one folder may be read only.
+class GuardedDisk final : public IDisk {
+ public:
+  std::string guarded;
+
+  int Open(const std::string& path) override {
+    if (guarded.empty() || !path.starts_with(guarded)) return RealDisk().Open(path);
+    errno = EROFS;
+    return -1;
+  }
+  long Write(int file, const void* bytes, std::size_t count) override { return RealDisk().Write(file, bytes, count); }
+  int Flush(int) override { return 0; }
+  int Close(int file) override { return RealDisk().Close(file); }
+  int Rename(const std::string& from, const std::string& to) override { return RealDisk().Rename(from, to); }
+  int FlushFolder(const std::string&) override { return 0; }
+  int Remove(const std::string& path) override { return RealDisk().Remove(path); }
+};
 
 class MacrosTest : public testing::Test {
  protected:
@@ -51,34 +72,131 @@ TEST_F(MacrosTest, OutliveTheProgram) {
   EXPECT_FALSE(fs::exists(file_)) << "the last one takes the file with it";
 }
 
-TEST_F(MacrosTest, TwoUsersOfOneFolderKeepEachOthers) {
+TEST_F(MacrosTest, AllWhoUseOneFolderKeepEachOthers) {
+  // Each has read the file before the others wrote to it.
+  std::vector<std::thread> stations;
+  for (int station = 0; station < 3; ++station) {
+    stations.emplace_back([this, station] {
+      GuardedDisk disk;
+      Macros macros(app_, root_.Path("data" + std::to_string(station)), disk);
+      macros.LoadMList({});
+      // One that finds the others at it all the time says so, and its user tries again.
+      const auto insist = [](const auto& change) {
+        int tries = 0;
+        while (!change() && ++tries < 100) {
+        }
+      };
+      const auto name = [station](int number) { return std::to_string(station) + "-" + std::to_string(number); };
+      for (int i = 0; i < 10; ++i) {
+        insist([&] { return macros.CreateMacro(name(i), {}); });
+        if (i % 2 == 1) insist([&] { return macros.KillMacro(macros.IndexOf(name(i - 1))); });
+      }
+    });
+  }
+  for (std::thread& station : stations) station.join();
+  Macros all(app_, data_);
+  all.LoadMList({});
+  auto names = all.MacroNames();
+  std::ranges::sort(names);
+  EXPECT_EQ(names, (std::vector<std::string>{"0-1", "0-3", "0-5", "0-7", "0-9", "1-1", "1-3", "1-5", "1-7", "1-9", "2-1", "2-3", "2-5",
+                                             "2-7", "2-9"}));
+  EXPECT_EQ(std::distance(fs::directory_iterator(app_), {}), 1) << "no lock and no part stays";
+
+  // What somebody has replaced under the same name is not what was to be removed.
   Macros mine(app_, data_);
-  Macros theirs(app_, data_);
   mine.LoadMList({});
-  theirs.LoadMList({});
-  ASSERT_TRUE(theirs.CreateMacro("Theirs", list_));
-  mine.LoadMList({});
-  ASSERT_TRUE(mine.CreateMacro("Mine", list_));
-  theirs.LoadMList({});
-  EXPECT_EQ(theirs.MacroNames(), (std::vector<std::string>{"Theirs", "Mine"}));
+  const int index = mine.IndexOf("1-1");
+  ASSERT_TRUE(all.KillMacro(all.IndexOf("1-1")) && all.CreateMacro("1-1", list_));
+  EXPECT_TRUE(mine.KillMacro(index));
+  EXPECT_EQ(mine.Macro(mine.IndexOf("1-1")), list_);
 }
 
 TEST_F(MacrosTest, AnUnwritableProgramFolderGivesWayToTheUsersOwn) {
-  // A folder of the file's name refuses to be written over, whoever runs the test.
-  fs::create_directories(file_ / "taken");
-  Macros macros(app_, data_);
+  const fs::path own = fs::path(data_) / "Macro.dat";
+  GuardedDisk disk;
+  Macros macros(app_, data_, disk);
+  ASSERT_TRUE(macros.CreateMacro("Everybody's", list_));
+  disk.guarded = app_;
   EXPECT_TRUE(macros.CreateMacro("Mine", list_));
-  EXPECT_TRUE(fs::exists(fs::path(data_) / "Macro.dat"));
-  Macros again(app_, data_);
-  again.LoadMList({});
-  EXPECT_EQ(again.NumMacros(), 1);
-
-  fs::create_directories(fs::path(data_) / "Macro.old");
-  Macros nowhere(app_, root_.Path("missing/folder"));
+  EXPECT_TRUE(fs::exists(own));
   std::string error;
-  EXPECT_FALSE(nowhere.CreateMacro("Lost", list_, &error));
-  EXPECT_NE(error, "");
-  EXPECT_EQ(nowhere.NumMacros(), 0) << "what is not on the disk is not in the list";
+  EXPECT_FALSE(macros.KillMacro(0, &error));
+  EXPECT_NE(error.find(file_.string()), std::string::npos) << error;
+
+  // The shared one can be written again: both are shown, and each keeps to itself.
+  disk.guarded.clear();
+  EXPECT_TRUE(macros.CreateMacro("Everybody's too", list_));
+  Macros again(app_, data_, disk);
+  again.LoadMList({});
+  EXPECT_EQ(again.MacroNames(), (std::vector<std::string>{"Everybody's", "Everybody's too", "Mine"}));
+  EXPECT_TRUE(again.KillMacro(2));
+  EXPECT_FALSE(fs::exists(own));
+  EXPECT_TRUE(fs::exists(file_)) << "not mine to take away";
+
+  // An own file that once stood in for the shared one repeats it: what is removed goes from both.
+  fs::copy_file(file_, own);
+  again.LoadMList({});
+  ASSERT_EQ(again.NumMacros(), 2);
+  EXPECT_TRUE(again.KillMacro(0));
+  EXPECT_EQ(again.MacroNames(), std::vector<std::string>{"Everybody's too"});
+
+  disk.guarded = root_.Path();
+  EXPECT_FALSE(again.CreateMacro("Lost", list_, &error));
+  EXPECT_EQ(again.NumMacros(), 1) << "what is not on the disk is not in the list";
+  Macros one(app_, app_);
+  one.LoadMList({});
+  EXPECT_EQ(one.NumMacros(), 1) << "both folders may be the same";
+}
+
+TEST_F(MacrosTest, WhatCannotBeReadIsKeptBesideAndTold) {
+  const std::vector<std::uint8_t> whole = WriteShapeFile({0, {list_, list_}, {"One", "Two"}});
+  const std::size_t record = (whole.size() - 6 - 13 - 2 * 5 - 3) / 6;
+  const auto changed = [&](std::size_t at, std::uint8_t byte) {
+    auto bytes = whole;
+    bytes[at] = byte;
+    return bytes;
+  };
+  const auto sized = [&](std::size_t size) {
+    auto bytes = whole;
+    bytes.resize(size);
+    return bytes;
+  };
+  const struct {
+    const char* what;
+    std::vector<std::uint8_t> bytes;
+    int readable;
+  } cases[] = {{"another head", changed(0, 'X'), 0},
+               {"a list too many", changed(4, 2), 3},
+               {"an unknown tag", changed(6, 'X'), 2},
+               {"two dimensions", changed(6 + 4 + 8, 2), 2},
+               {"more points than there are", changed(6 + 4 + 11, 1), 2},
+               {"more fixed points than there are", changed(6 + 4, 200), 2},
+               {"a list that is none", changed(6 + record + 3, 9), 2},
+               {"a name too many", changed(whole.size() - 3 - 10 - 8, 3), 2},
+               {"a byte missing", sized(whole.size() - 1), 2},
+               {"no names", sized(6 + 6 * record), 2},
+               {"bytes left over", sized(whole.size() + 2), 2},
+               {"empty, as nothing", {}, 0}};
+  for (const auto& one : cases) {
+    SCOPED_TRACE(one.what);
+    const std::string kept = file_.string() + ".old";
+    fs::remove(kept);
+    ASSERT_TRUE(WriteWholeFile(file_.string(), one.bytes));
+    Macros macros(app_, data_);
+    macros.LoadMList({});
+    EXPECT_EQ(macros.NumMacros(), one.readable);
+    EXPECT_EQ(macros.TakeNotice().empty(), one.bytes.empty());
+    macros.LoadMList({});
+    EXPECT_EQ(macros.TakeNotice(), "") << "once is enough";
+    EXPECT_TRUE(macros.CreateMacro("New", list_));
+    EXPECT_EQ(macros.NumMacros(), one.readable + 1);
+    EXPECT_EQ(macros.TakeNotice().find(kept) == std::string::npos, one.bytes.empty());
+    EXPECT_EQ(ReadWholeFile(kept).value_or(std::vector<std::uint8_t>{}), one.bytes);
+    // The file is sound again, and what was kept is not replaced.
+    EXPECT_TRUE(macros.CreateMacro("Newer", list_));
+    EXPECT_EQ(macros.TakeNotice(), "");
+    EXPECT_FALSE(fs::exists(kept + "2"));
+  }
 }
 
 TEST_F(MacrosTest, TheFileStaysShortEnoughToBeRead) {
@@ -101,7 +219,7 @@ TEST_F(MacrosTest, TheFileStaysShortEnoughToBeRead) {
   ASSERT_EQ(again.NumMacros(), 1);
   EXPECT_EQ(again.NumShapesInMacro(0), 1);
   EXPECT_TRUE(again.CreateMacro("More", list_));
-  EXPECT_EQ(fs::file_size(fs::path(data_) / "Macro.old"), size);
+  EXPECT_EQ(fs::file_size(fs::path(app_) / "Macro.dat.old"), size);
 }
 
 TEST_F(MacrosTest, AreLaidOverAWindowOfAnotherSize) {

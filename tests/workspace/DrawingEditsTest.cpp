@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+
 #include "AnalysisStage.h"
 
 namespace kinalyx::test {
@@ -125,6 +127,13 @@ TEST(DrawingEdits, AMacroFitsTheWindowThatItIsLaidOver) {
   desk.Edits().SSCommand1_Click(0);
   EXPECT_TRUE(desk.edits.macros.empty());
   EXPECT_FALSE(std::filesystem::exists(desk.folder + "/Macro.dat")) << "without macros there is no file";
+  // A file that nobody can read is told of, kept, and told of again.
+  std::ofstream(desk.folder + "/Macro.dat") << "of another program";
+  desk.host.messages.clear();
+  desk.Commands().Run("DTMacro");
+  EXPECT_EQ(desk.host.messages.size(), 2u);
+  EXPECT_EQ(desk.edits.macros, std::vector<std::string>{"Plane"});
+  EXPECT_TRUE(std::filesystem::exists(desk.folder + "/Macro.dat.old"));
   desk.Key(kKeyEscape);
   desk.Key(kKeyEscape);
   EXPECT_FALSE(desk.edits.macroForm);
