@@ -120,7 +120,7 @@ QWidget* VideosPanel::MakeStats() {
   grid->setHorizontalSpacing(kGap);
   grid->setVerticalSpacing(0);
   const char* const kCaptions[] = {"Format",   "Width",     "Height", "Rate", "Length",
-                                   "Duration", "File size", "Colour", "Sound"};
+                                   "Duration", "File size", "Color", "Sound"};
   for (int line = 0; line < 9; ++line) {
     auto* caption = MakeLabel(QString("StatCaption%1").arg(line), kCaptions[line], "caption");
     auto* value = new FigureLabel(QString("ProInfoLbl%1").arg(kFirstStat + line), kNoStat);

@@ -75,8 +75,8 @@ void ColorRow::SetLive(bool live) {
   for (int i = 0; i < static_cast<int>(buttons_.size()); ++i) {
     QToolButton* button = buttons_[static_cast<std::size_t>(i)];
     button->setEnabled(live);
-    button->setToolTip(live ? tr("Draw in this colour: %1").arg(QString(kNames[i]).toLower())
-                            : tr("Take up a drawing tool to choose its colour"));
+    button->setToolTip(live ? tr("Draw in this color: %1").arg(QString(kNames[i]).toLower())
+                            : tr("Take up a drawing tool to choose its color"));
   }
 }
 
