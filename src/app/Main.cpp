@@ -3,6 +3,7 @@
 #include <QBoxLayout>
 #include <QCloseEvent>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QScrollArea>
 #include <QShortcut>
 #include <QStackedWidget>
@@ -60,7 +61,11 @@ QWidget* Main::MakeHeading() {
   auto* row = new QHBoxLayout(heading);
   row->setContentsMargins(14, 0, 4, 0);
   row->setSpacing(10);
-  row->addWidget(MakeLabel("MainCmd0", "Kinalyx", "brand"));
+  logo_ = MakeLabel("MainCmd0", "Kinalyx", "brand");
+  logo_->setCursor(Qt::PointingHandCursor);
+  logo_->setToolTip(Tip(kMenuPage, "To Main Menu"));
+  logo_->installEventFilter(this);
+  row->addWidget(logo_);
   title_ = MakeLabel("PageTitle", "", "pageTitle");
   row->addWidget(title_, 1);
   company_ = MakeLabel("CourseLbl", "", "pageTitle");
@@ -161,6 +166,14 @@ void Main::SetSectionCaption(int index, const QString& caption) {
 
 void Main::SetSectionComing(int index) {
   if (TileButton* section = sections_[static_cast<std::size_t>(index)]) Coming(section);
+}
+
+bool Main::eventFilter(QObject* object, QEvent* event) {
+  if (object == logo_ && event->type() == QEvent::MouseButtonRelease) {
+    const auto* mouse = static_cast<QMouseEvent*>(event);
+    if (mouse->button() == Qt::LeftButton && logo_->rect().contains(mouse->position().toPoint())) emit PageWanted(kMenuPage);
+  }
+  return QWidget::eventFilter(object, event);
 }
 
 void Main::resizeEvent(QResizeEvent* event) {

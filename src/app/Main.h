@@ -70,6 +70,7 @@ class Main : public QWidget {
   void Resized(QSize size);
 
  protected:
+  bool eventFilter(QObject* object, QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
@@ -77,6 +78,7 @@ class Main : public QWidget {
   QWidget* MakeHeading();
   QWidget* MakeRail();
 
+  QLabel* logo_ = nullptr;
   QLabel* title_ = nullptr;
   QLabel* company_ = nullptr;
   Button* minimize_ = nullptr;
