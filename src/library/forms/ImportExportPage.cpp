@@ -126,8 +126,8 @@ void ImportExportPage::OpenDrive() {
 }
 
 void ImportExportPage::DiskSpaceGauge() {
+  SpaceFlood_->setVisible(!otherRoot_.empty());  // an empty bar would read as a full drive
   if (otherRoot_.empty()) {
-    SpaceFlood_->Show(CurrentTheme().accent, 0);
     Label6_->setText("Choose a drive or folder first.");
     return;
   }
