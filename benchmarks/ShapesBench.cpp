@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "Bench.h"
-#include "drawing/MultiShapes.h"
 #include "drawing/ShapePainting.h"
 #include "drawing/ShapeStore.h"
 #include "drawing/WindowPainter.h"
@@ -69,7 +68,7 @@ struct Stage {
     std::memcpy(surface.Row(0), frame.Row(0), static_cast<std::size_t>(surface.Stride()) * kHeight);
     return MeasureMs(paint);
   }
-  void Paint() { painter.Paint(canvas, shapes, colours, {}, kLook, {}); }
+  void Paint() { painter.Paint(canvas, shapes, colours, {}, kLook); }
   double PaintDirectly() {
     std::vector<double> samples;
     for (int i = 0; i < 20; ++i)
@@ -110,13 +109,14 @@ Figure RotatedShapes() {
   ShapeList list;
   list.Shapes = stage.shapes;
   list.NumShapes = kShapes;
-  const POINTAPI middle = MultiGetMid(list);
-  MultiPrepTrans(list);
+  const ShapeEngine engine;
+  const POINTAPI middle = engine.MultiGetMid(list);
+  engine.MultiPrepTrans(list);
   std::vector<double> samples;
   for (int i = 1; i <= 60; ++i)
     samples.push_back(stage.Frame([&] {
-      MultiRotateShape(list, i, middle);
-      stage.painter.Paint(stage.canvas, ShapesOf(list), stage.colours, {}, kLook, {});
+      engine.MultiRotateShape(list, i, middle);
+      stage.painter.Paint(stage.canvas, ShapesOf(list), stage.colours, {}, kLook);
     }));
   return {Mean(samples), "ms", stage.PaintDirectly()};
 }

@@ -43,6 +43,7 @@ bool Settings::LoadSettings() {
   const bool created = !FileExists(file);
   if (created && !MakeFile(keys, file)) return false;
   ReadKeys(keys, file);
+  LogEnabled = ReadBoolean(ProfileReader(file).String("Analysis", "LogEnabled", "False", kValueCapacity)).value_or(false);
   ScreenMode = TextOf(ReadInt16(ScreenMode));
   if (created) MigrateOldConfig();
   return true;

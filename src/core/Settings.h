@@ -122,6 +122,9 @@ class Settings {
 
   /// Number of the analysis layout that `ScreenMode` names.
   std::int16_t ScreenModeNumber() const;
+  /// The shape engine keeps a log. No first run writes this key, `LogEnabled` in [Analysis], and without it
+  /// there is none.
+  bool LogEnabled = false;
   /// Colour of the path-down tool: chosen on the setup page, kept while the program runs.
   std::int32_t PathDownColor = 0xFFFF;
 

@@ -20,7 +20,8 @@ constexpr Colour kOthers = 255;      // red, while one shape is selected
 DrawingTools::DrawingTools(ShapeEngine& engine, Settings& settings, IDrawingWorkspace& workspace)
     : engine_(engine), settings_(settings), workspace_(workspace) {
   engine_.SetLockListener(this);
-  if (engine_.Log.path.empty()) engine_.Log.path = JoinPath(settings_.AppPath, "Kinalyx_Log.txt");
+  engine_.Log.path = JoinPath(settings_.AppPath, "Kinalyx_Log.txt");
+  engine_.Log.LogEnabled = settings_.LogEnabled;
 }
 
 DrawingTools::~DrawingTools() { engine_.SetLockListener(nullptr); }
@@ -178,11 +179,11 @@ bool DrawingTools::EndConstruction() {
     ShapeList& list = List(window);
     if (!list.Adding) continue;
     const Shape* shape = LastShape(list);
-    if (shape && LOPShape(shape->Kind) && shape->NumBound > 1) {
+    if (shape && engine_.LOPShape(shape->Kind) && shape->NumBound > 1) {
       FinishOpenShape(list);
       finished = true;
     } else {
-      if (shape) KillShape(list, list.NumShapes - 1, engine_.Rules());
+      if (shape) engine_.KillShape(list, list.NumShapes - 1);
       list.Adding = false;
       engine_.StraightAnchor.Set = false;
     }
@@ -196,7 +197,7 @@ void DrawingTools::FinishOpenShape(ShapeList& list) {
   Shape& shape = *LastShape(list);
   engine_.LockShape(shape);
   list.Adding = false;
-  if (shape.NumBound < 2) KillShape(list, list.NumShapes - 1, engine_.Rules());
+  if (shape.NumBound < 2) engine_.KillShape(list, list.NumShapes - 1);
 }
 
 // ---------------------------------------------------------------- mouse
@@ -232,7 +233,7 @@ bool DrawingTools::MouseDown(int Button, int /*Shift*/, float X, float Y, int Wi
     Shape& shape = *LastShape(list);
     if (Button == kLeftButton) {
       if (engine_.AddPoint(shape, engine_.ConstrainPoint(point), false)) list.Adding = false;
-    } else if (LOPShape(shape.Kind, engine_.Rules()) && shape.NumPts > 1) {
+    } else if (engine_.LOPShape(shape.Kind) && shape.NumPts > 1) {
       FinishOpenShape(list);
       ShapeFinished(Window);
     }
@@ -300,7 +301,7 @@ void DrawingTools::BindPoint(ShapeList& list, POINTAPI point, int window) {
       workspace_.AdvanceFrame(window);
     }
   } else if (shape.Kind == kSquare && !list.Adding && workspace_.TakeSquare(window, shape)) {
-    KillShape(list, list.NumShapes - 1, engine_.Rules());
+    engine_.KillShape(list, list.NumShapes - 1);
   }
 }
 
@@ -321,7 +322,7 @@ void DrawingTools::Select(int window, POINTAPI point) {
   std::int32_t least = HitRadius + 1;
   int index = 0;
   for (const Shape& shape : ShapesOf(list)) {
-    const std::int32_t distance = Round(Distance(GetMid(shape, engine_.Rules()), point));
+    const std::int32_t distance = Round(Distance(engine_.GetMid(shape), point));
     if (distance < least) {
       least = distance;
       nearest = index;
@@ -356,9 +357,8 @@ void DrawingTools::PreDrawFrame(Canvas& hDC, int Window) {
   const auto shapes = ShapesOf(list);
   ChooseColours(list);
   const GridLook grid{list.GridOn, settings_.GridSize, settings_.NewColors[kGridEntry]};
-  const ShapeLook look{settings_.CadWidth, settings_.CadOutline, engine_.PathHighlight};
-  const auto failed =
-      painters_[static_cast<std::size_t>(Window - 1)].Paint(hDC, shapes, colours_, grid, look, engine_.Rules());
+  const ShapeLook look{settings_.CadWidth, settings_.CadOutline, engine_.PathHighlight, engine_.EllipseFromCentre, &engine_.Log};
+  const auto failed = painters_[static_cast<std::size_t>(Window - 1)].Paint(hDC, shapes, colours_, grid, look);
   TellFailure(Window, failed ? &shapes[*failed] : nullptr);
 
   const auto finishedPath = [](const Shape& shape) {
@@ -380,7 +380,7 @@ void DrawingTools::TellFailure(int window, const Shape* failed) {
     told.clear();
     return;
   }
-  std::string text = DrawShapeError(*failed, engine_.Rules());
+  std::string text = engine_.DrawShapeError(*failed);
   if (text == told) return;
   told = std::move(text);
   workspace_.ShowDrawError(told);
@@ -446,7 +446,7 @@ void DrawingTools::RemoveMeasuringLine() {
     if (line == shapes.end()) continue;
     const auto index = static_cast<int>(line - shapes.begin());
     if (!line->Locked) list.Adding = false;
-    KillShape(list, index, engine_.Rules());
+    engine_.KillShape(list, index);
     if (list.CurShape >= index) --list.CurShape;
     SetEditBar();
     workspace_.Refresh(window);
@@ -463,7 +463,7 @@ void DrawingTools::DeleteCurShape() {
     list.Adding = false;
     NewShapePending_ = Drawing_;
   }
-  KillShape(list, list.CurShape, engine_.Rules());
+  engine_.KillShape(list, list.CurShape);
   if (list.CurShape >= list.NumShapes) --list.CurShape;
   NoteChange(DrawWindow_);
 }
@@ -475,7 +475,7 @@ void DrawingTools::DeleteLastCAD(int Window) {
     // The shape under construction goes; the tool stays in hand for another one.
     if (list.Adding) NewShapePending_ = Drawing_;
     list.Adding = false;
-    KillShape(list, list.NumShapes - 1, engine_.Rules());
+    engine_.KillShape(list, list.NumShapes - 1);
   }
   // Goes below -1 on an empty list, which selects as little as -1 does.
   if (list.CurShape > -kShapeKinds) --list.CurShape;

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "drawing/MultiShapes.h"
 #include "drawing/ShapeGeometry.h"
 
 namespace kinalyx {
@@ -128,13 +127,13 @@ void EditBar::cmdEBBtn_MouseDown(int Index, int Button, int /*Shift*/, float X, 
   LastDown_ = {Round(X), Round(Y)};
   tools_.BeforeChange(dragWindow_);
   if (Index == kMoveHandle) return;
-  const ShapeRules rules = tools_.Engine().Rules();
+  const ShapeEngine& engine = tools_.Engine();
   if (MultiEdit_) {
-    Pivot_ = MultiGetMid(List(), rules);
-    MultiPrepTrans(List(), rules);
+    Pivot_ = engine.MultiGetMid(List());
+    engine.MultiPrepTrans(List());
   } else {
-    Pivot_ = GetMid(*shape, rules);
-    PrepTrans(*shape, rules);
+    Pivot_ = engine.GetMid(*shape);
+    engine.PrepTrans(*shape);
   }
   if (Index != kRotateHandle) return;
   StartAngle_ = HandleAngle(Index, X, Y);
@@ -146,19 +145,19 @@ void EditBar::cmdEBBtn_MouseMove(int Index, int Button, int /*Shift*/, float X, 
   ShapeList& list = tools_.List(dragWindow_);
   Shape* shape = SelectedShape(list);
   if (!shape) return;
-  const ShapeRules rules = tools_.Engine().Rules();
+  const ShapeEngine& engine = tools_.Engine();
   if (Index == kScaleHandle) {
     // Upward grows, downward shrinks; beyond nothing the drawing comes out on the other side.
     const double factor = std::abs(1 - (Y - LastDown_.y) / kScaleReach);
-    MultiEdit_ ? MultiScaleShape(list, factor, Pivot_, rules) : ScaleShape(*shape, factor, Pivot_, rules);
+    MultiEdit_ ? engine.MultiScaleShape(list, factor, Pivot_) : engine.ScaleShape(*shape, factor, Pivot_);
   } else if (Index == kRotateHandle) {
     const double degrees = RadToDeg(HandleAngle(Index, X, Y) - StartAngle_);
-    MultiEdit_ ? MultiRotateShape(list, degrees, Pivot_, rules) : RotateShape(*shape, degrees, Pivot_, rules);
+    MultiEdit_ ? engine.MultiRotateShape(list, degrees, Pivot_) : engine.RotateShape(*shape, degrees, Pivot_);
   } else {
     const int dx = Round((X - LastDown_.x) / kTwipsPerPixel);
     const int dy = Round((Y - LastDown_.y) / kTwipsPerPixel);
     if (dx == 0 && dy == 0) return;
-    MultiEdit_ ? MultiMoveShape(list, dx, dy, rules) : MoveShape(*shape, dx, dy, rules);
+    MultiEdit_ ? engine.MultiMoveShape(list, dx, dy) : engine.MoveShape(*shape, dx, dy);
     // What was less than a pixel counts with the next event, so that a slow drag loses nothing.
     LastDown_ = {LastDown_.x + dx * kTwipsPerPixel, LastDown_.y + dy * kTwipsPerPixel};
   }
@@ -169,12 +168,12 @@ void EditBar::cmdEBBtn_MouseUp(int Index, int Button, int /*Shift*/, float /*X*/
   if (Button != kLeftButton || Index != dragged_ || dragged_ < 0) return;
   dragged_ = -1;
   ShapeList& list = tools_.List(dragWindow_);
-  const ShapeRules rules = tools_.Engine().Rules();
+  const ShapeEngine& engine = tools_.Engine();
   if (Index != kMoveHandle) {
     if (MultiEdit_) {
-      MultiDoneTrans(list, rules);
+      engine.MultiDoneTrans(list);
     } else if (Shape* shape = SelectedShape(list)) {
-      DoneTrans(*shape, rules);
+      engine.DoneTrans(*shape);
     }
   }
   if (Index == kRotateHandle) view_.ShowRotationGuide(false);

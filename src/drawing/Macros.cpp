@@ -89,7 +89,7 @@ std::string Macros::Info(int Index) const {
   std::string text;
   for (int kind = 0; kind < kShapeKinds; ++kind) {
     const int count = counts[static_cast<std::size_t>(kind)];
-    if (count > 0) text += fmt::format("{} {}'s\r\n", count, GetShapeName(kind));
+    if (count > 0) text += fmt::format("{} {}'s\r\n", count, InfOf(kind).Name);
   }
   return text;
 }

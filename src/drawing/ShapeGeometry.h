@@ -4,7 +4,6 @@
 #include <cstdint>
 
 #include "drawing/Shape.h"
-#include "drawing/ShapeLog.h"
 
 namespace kinalyx {
 
@@ -29,22 +28,6 @@ constexpr double Lerp(double a, double b, double t) { return (b - a) * t + a; }
 /// The cubic through p1 (t = 0) and p2 (t = 1) with the neighbours p0 and p3.
 double CubicInterp(double p0, double p1, double p2, double p3, double t);
 
-// Transforms: only finished shapes are changed.
-
-void MoveShape(Shape& shape, int dx, int dy, const ShapeRules& rules = {});
-/// Keeps the points from which RotateShape and ScaleShape compute, so that a whole drag is one transform.
-void PrepTrans(Shape& shape, const ShapeRules& rules = {});
-void DoneTrans(Shape& shape, const ShapeRules& rules = {});
-/// Turns by `Angle` degrees from where PrepTrans found the shape. A plus sign, square or ellipse becomes
-/// a kind that can be turned; a clock turns its ticks alone.
-void RotateShape(Shape& shape, double Angle, POINTAPI Centre, const ShapeRules& rules = {});
-void ScaleShape(Shape& shape, double Factor, POINTAPI Centre, const ShapeRules& rules = {});
-/// Replaces a kind that two points cannot turn by its explicit points: a plus sign or ellipse becomes a
-/// freehand line, a square a parallelogram. Others stay.
-void RenderShape(Shape& shape, const ShapeRules& rules = {});
-/// The point about which a shape turns and scales: the middle of its box, a clock's first point.
-POINTAPI GetMid(const Shape& shape, const ShapeRules& rules = {});
-
 /// Pixels from the middle of a plus sign to its ends.
 constexpr int kFlagReach = 10;
 
@@ -55,8 +38,6 @@ struct ShapeBox {
 
   bool Empty() const { return least.x > most.x; }
   void Add(POINTAPI point);
-  /// Adds what a shape shows, which for some kinds is more than its points; pens are not counted.
-  void Add(const Shape& shape, const ShapeRules& rules = {});
 };
 
 // The swing path.
@@ -72,6 +53,6 @@ int LongestSegment(const Shape& shape);
 /// Puts points between those of an open kind, about every `Step` pixels on a curve that `Tension` (0 to 1)
 /// pulls back to the straight line. Shapes of other kinds and of less than two points stay. The result
 /// has at most 32767 points; where that would be crossed, the rest runs straight.
-LongStretch SmoothLine(Shape& shape, int Step, double Tension, bool FindLongest, const ShapeRules& rules = {});
+LongStretch SmoothLine(Shape& shape, int Step, double Tension, bool FindLongest);
 
 }  // namespace kinalyx

@@ -7,7 +7,7 @@ namespace kinalyx {
 
 void ShapeLog::WriteLog(const std::string& Text) const {
   if (!LogEnabled) return;
-  const std::time_t moment = std::chrono::system_clock::to_time_t(now());
+  const std::time_t moment = std::time(nullptr);
   std::tm local{};
   if (!localtime_r(&moment, &local)) return;
   std::ofstream file(path, std::ios::app);

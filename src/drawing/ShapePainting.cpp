@@ -2,10 +2,10 @@
 
 #include <array>
 #include <cstdint>
-#include <vector>
+#include <span>
+#include <utility>
 
 #include "drawing/ShapeGeometry.h"
-#include "drawing/ShapeStore.h"
 
 namespace kinalyx {
 namespace {
@@ -41,12 +41,28 @@ bool DrawEllipse(Canvas& hDC, double left, double top, double right, double bott
   return hDC.Ellipse(Rounded(left, top), Rounded(right, bottom));
 }
 
-bool DrawFlag(Canvas& hDC, POINTAPI at, const ShapeRules& rules) {
+template <typename... Args>
+void Tell(const ShapeLook& look, fmt::format_string<Args...> format, Args&&... args) {
+  if (look.Log) look.Log->Tell(format, std::forward<Args>(args)...);
+}
+
+/// A polygon, or an open line.
+bool EvalDrawShape(Canvas& hDC, std::span<const POINTAPI> Points, bool ZoneFill, const ShapeLook& look) {
+  Tell(look, "Calling EvalDrawShape({}, {})", fmt::ptr(&hDC), Points.size());
+  return ZoneFill ? hDC.Polygon(Points) : hDC.Polyline(Points);
+}
+
+bool APILine(Canvas& hDC, POINTAPI P1, POINTAPI P2, const ShapeLook& look) {
+  Tell(look, "Calling APILine(({}, {} ), ({}, {}))", P1.x, P1.y, P2.x, P2.y);
+  return hDC.Line(P1, P2);
+}
+
+bool DrawFlag(Canvas& hDC, POINTAPI at, const ShapeLook& look) {
   const double x = at.x, y = at.y;
   const POINTAPI level[] = {Rounded(x - kFlagReach, y), Rounded(x + kFlagReach, y)};
   const POINTAPI upright[] = {Rounded(x, y - kFlagReach), Rounded(x, y + kFlagReach)};
-  const bool drawn = EvalDrawShape(hDC, level, false, rules);
-  return EvalDrawShape(hDC, upright, false, rules) && drawn;
+  const bool drawn = EvalDrawShape(hDC, level, false, look);
+  return EvalDrawShape(hDC, upright, false, look) && drawn;
 }
 
 bool DrawSquare(Canvas& hDC, POINTAPI a, POINTAPI b) {
@@ -64,23 +80,23 @@ bool DrawParallelogram(Canvas& hDC, std::span<const POINTAPI> points) {
 }
 
 /// A tint over the video: the filled triangle is merged into the picture.
-bool DrawZone(Canvas& hDC, std::span<const POINTAPI> points, const ShapeRules& rules) {
+bool DrawZone(Canvas& hDC, std::span<const POINTAPI> points, const ShapeLook& look) {
   hDC.SetROP2(Rop2::MergePen);
   hDC.SetBrush(hDC.CurrentPen().colour);
   bool drawn;
   if (points.size() >= 3) {
     const POINTAPI triangle[] = {points[0], points[2], points[1]};
-    drawn = EvalDrawShape(hDC, triangle, true, rules);
+    drawn = EvalDrawShape(hDC, triangle, true, look);
   } else {
-    drawn = EvalDrawShape(hDC, points, true, rules);
+    drawn = EvalDrawShape(hDC, points, true, look);
   }
   hDC.SetBrush(std::nullopt);
   hDC.SetROP2(Rop2::CopyPen);
   return drawn;
 }
 
-bool DrawClock(Canvas& hDC, const Shape& shape, std::span<const POINTAPI> points, const ShapeRules& rules) {
-  const RoundBox box = BoxOf(points[0], points[1], rules.EllipseFromCentre);
+bool DrawClock(Canvas& hDC, const Shape& shape, std::span<const POINTAPI> points, const ShapeLook& look) {
+  const RoundBox box = BoxOf(points[0], points[1], look.EllipseFromCentre);
   const double mx = Round(box.rx / 10);
   const double my = Round(box.ry / 10);
   bool drawn = DrawEllipse(hDC, box.left + mx, box.top + my, box.right - mx, box.bottom - my);
@@ -94,7 +110,7 @@ bool DrawClock(Canvas& hDC, const Shape& shape, std::span<const POINTAPI> points
   return drawn;
 }
 
-bool DrawArrow(Canvas& hDC, POINTAPI tail, POINTAPI tip, const ShapeRules& rules) {
+bool DrawArrow(Canvas& hDC, POINTAPI tail, POINTAPI tip, const ShapeLook& look) {
   const double length = Distance(tail, tip);
   if (length == 0) return true;
   const double angle = PointAngle(tip, tail);
@@ -106,20 +122,20 @@ bool DrawArrow(Canvas& hDC, POINTAPI tail, POINTAPI tip, const ShapeRules& rules
   };
   const POINTAPI head[] = {notch, barb(angle - spread), tip, barb(angle + spread), notch};
   const POINTAPI shaft[] = {notch, tail};
-  const bool drawn = EvalDrawShape(hDC, head, false, rules);
+  const bool drawn = EvalDrawShape(hDC, head, false, look);
   return hDC.Polyline(shaft) && drawn;
 }
 
-bool DrawStickMan(Canvas& hDC, std::span<const POINTAPI> points, const ShapeRules& rules) {
+bool DrawStickMan(Canvas& hDC, std::span<const POINTAPI> points, const ShapeLook& look) {
   const double x = points[0].x, y = points[0].y;
   bool drawn = DrawEllipse(hDC, x - kHeadRadius, y - kHeadRadius, x + kHeadRadius, y + kHeadRadius);
   if (points.size() < 2) return drawn;
   const double neck = PointAngle(points[0], points[1]);
-  drawn = APILine(hDC, Rounded(x + std::cos(neck) * kHeadRadius, y + std::sin(neck) * kHeadRadius), points[1], rules) && drawn;
+  drawn = APILine(hDC, Rounded(x + std::cos(neck) * kHeadRadius, y + std::sin(neck) * kHeadRadius), points[1], look) && drawn;
   static constexpr std::array<std::array<std::size_t, 2>, 11> kLimbs{
       {{1, 2}, {2, 3}, {3, 4}, {1, 5}, {5, 6}, {6, 7}, {1, 8}, {8, 9}, {9, 10}, {8, 11}, {11, 12}}};
   for (const auto& [from, to] : kLimbs)
-    if (to < points.size()) drawn = APILine(hDC, points[from], points[to], rules) && drawn;
+    if (to < points.size()) drawn = APILine(hDC, points[from], points[to], look) && drawn;
   return drawn;
 }
 
@@ -137,21 +153,21 @@ Colour HighlightColour(int i, int count) {
              mix(Blue(kHighlightEnds), Blue(kHighlightMiddle)));
 }
 
-bool DrawSwingPath(Canvas& hDC, const Shape& shape, std::span<const POINTAPI> points, const ShapeLook& look,
-                   const ShapeRules& rules) {
-  if (points.size() == 2) return EvalDrawShape(hDC, points, false, rules);
+bool DrawSwingPath(Canvas& hDC, const Shape& shape, std::span<const POINTAPI> points, const ShapeLook& look) {
+  if (points.size() == 2) return EvalDrawShape(hDC, points, false, look);
   // Smoothing works on a copy: what is kept of a path is its clicks.
   Shape smooth = shape;
   smooth.NumBound = static_cast<std::int16_t>(points.size());
-  const LongStretch stretch = SmoothLine(smooth, kPathStep, kPathTension, look.PathHighlight, rules);
-  bool drawn = EvalDrawShape(hDC, PointsOf(smooth), false, rules);
+  Tell(look, "Calling SmoothLine({}, {})", kPathStep, kPathTension);
+  const LongStretch stretch = SmoothLine(smooth, kPathStep, kPathTension, look.PathHighlight);
+  bool drawn = EvalDrawShape(hDC, PointsOf(smooth), false, look);
   if (!shape.Locked) return drawn;
   const int count = stretch.LongEnd - stretch.LongStart;
   const Pen pen = hDC.CurrentPen();
   for (int i = 0; i < count; ++i) {
     hDC.SetPen({HighlightColour(i, count), look.CadWidth, 0});
     const auto at = static_cast<std::size_t>(stretch.LongStart + i);
-    drawn = APILine(hDC, smooth.Pts[at], smooth.Pts[at + 1], rules) && drawn;
+    drawn = APILine(hDC, smooth.Pts[at], smooth.Pts[at + 1], look) && drawn;
   }
   if (count > 0) hDC.SetPen(pen);
   return drawn;
@@ -159,7 +175,7 @@ bool DrawSwingPath(Canvas& hDC, const Shape& shape, std::span<const POINTAPI> po
 
 }  // namespace
 
-bool DrawShape(const Shape& shape, Canvas& hDC, const ShapeLook& look, const ShapeRules& rules) {
+bool DrawShape(const Shape& shape, Canvas& hDC, const ShapeLook& look) {
   const auto points = PointsOf(shape);
   if (points.empty() || !InfOf(shape.Kind).Drawable) return true;
   bool marked = true;
@@ -168,57 +184,42 @@ bool DrawShape(const Shape& shape, Canvas& hDC, const ShapeLook& look, const Sha
     marked = DrawEllipse(hDC, x - kMarkerRadius, y - kMarkerRadius, x + kMarkerRadius, y + kMarkerRadius);
   }
   const auto drawKind = [&] {
-    if (shape.Kind == kFlag) return DrawFlag(hDC, points[0], rules);
-    if (shape.Kind == kStickMan) return DrawStickMan(hDC, points, rules);
+    if (shape.Kind == kFlag) return DrawFlag(hDC, points[0], look);
+    if (shape.Kind == kStickMan) return DrawStickMan(hDC, points, look);
     if (points.size() < 2) return true;
     switch (shape.Kind) {
       case kFreehand:
-      case kAngle: return EvalDrawShape(hDC, points, false, rules);
+      case kAngle: return EvalDrawShape(hDC, points, false, look);
       case kSquare: return DrawSquare(hDC, points[0], points[1]);
       case kLine: return hDC.Polyline(points);
       case kEllipse: {
-        const RoundBox box = BoxOf(points[0], points[1], rules.EllipseFromCentre);
+        const RoundBox box = BoxOf(points[0], points[1], look.EllipseFromCentre);
         return DrawEllipse(hDC, box.left, box.top, box.right, box.bottom);
       }
-      case kSwingPath: return DrawSwingPath(hDC, shape, points, look, rules);
+      case kSwingPath: return DrawSwingPath(hDC, shape, points, look);
       case kParallelogram: return DrawParallelogram(hDC, points);
-      case kZone: return DrawZone(hDC, points, rules);
-      case kClock: return DrawClock(hDC, shape, points, rules);
-      case kArrow: return DrawArrow(hDC, points[0], points[1], rules);
+      case kZone: return DrawZone(hDC, points, look);
+      case kClock: return DrawClock(hDC, shape, points, look);
+      case kArrow: return DrawArrow(hDC, points[0], points[1], look);
       default: return true;
     }
   };
   return drawKind() && marked;
 }
 
-bool PaintShape(const Shape& shape, Colour colour, Canvas& hDC, const ShapeLook& look, const ShapeRules& rules) {
+bool PaintShape(const Shape& shape, Colour colour, Canvas& hDC, const ShapeLook& look) {
   const Pen pen = hDC.CurrentPen();
   bool drawn = true;
   if (look.CadOutline && shape.Kind != kZone) {
     ShapeLook rim = look;
     rim.PathHighlight = false;
     hDC.SetPen({0, pen.width + 2, pen.style});
-    drawn = DrawShape(shape, hDC, rim, rules);
+    drawn = DrawShape(shape, hDC, rim);
   }
   hDC.SetPen({colour, pen.width, pen.style});
-  drawn = DrawShape(shape, hDC, look, rules) && drawn;
+  drawn = DrawShape(shape, hDC, look) && drawn;
   hDC.SetPen(pen);
   return drawn;
-}
-
-std::string DrawShapeError(const Shape& shape, const ShapeRules& rules) {
-  return fmt::format("Error drawing '{}' object with {} points, and {} unbound points", GetShapeName(shape.Kind, rules),
-                     shape.NumBound, shape.NumPts - shape.NumBound);
-}
-
-bool EvalDrawShape(Canvas& hDC, std::span<const POINTAPI> Points, bool ZoneFill, const ShapeRules& rules) {
-  rules.Log("Calling EvalDrawShape({}, {})", fmt::ptr(&hDC), Points.size());
-  return ZoneFill ? hDC.Polygon(Points) : hDC.Polyline(Points);
-}
-
-bool APILine(Canvas& hDC, POINTAPI P1, POINTAPI P2, const ShapeRules& rules) {
-  rules.Log("Calling APILine(({}, {} ), ({}, {}))", P1.x, P1.y, P2.x, P2.y);
-  return hDC.Line(P1, P2);
 }
 
 bool DrawGrid(Canvas& hDC, int Width, int Height, int Divisions) {

@@ -13,18 +13,18 @@ const char* BoolText(bool value) { return value ? "True" : "False"; }
 
 }  // namespace
 
-std::string GetShapeName(int Kind, const ShapeRules& rules) {
-  rules.Log("Calling GetShapeName({})", Kind);
+std::string ShapeEngine::GetShapeName(int Kind) const {
+  Log.Tell("Calling GetShapeName({})", Kind);
   return std::string(InfOf(Kind).Name);
 }
 
-bool LOPShape(int Kind, const ShapeRules& rules) {
-  rules.Log("Calling LOPShape({})", Kind);
+bool ShapeEngine::LOPShape(int Kind) const {
+  Log.Tell("Calling LOPShape({})", Kind);
   return InfOf(Kind).NumPoints == kOpenPoints;
 }
 
-void KillShape(ShapeList& List, int Index, const ShapeRules& rules) {
-  rules.Log("Calling KillShape({})", Index);
+void ShapeEngine::KillShape(ShapeList& List, int Index) const {
+  Log.Tell("Calling KillShape({})", Index);
   if (List.NumShapes <= 0) return;
   if (Index >= 0 && Index < List.NumShapes - 1)
     std::move(List.Shapes.begin() + Index + 1, List.Shapes.begin() + List.NumShapes, List.Shapes.begin() + Index);
@@ -33,7 +33,7 @@ void KillShape(ShapeList& List, int Index, const ShapeRules& rules) {
 }
 
 Shape* ShapeEngine::AddShape(ShapeList& List, int Kind, Colour Colour) {
-  Rules().Log("Calling AddShape({})", Kind);
+  Log.Tell("Calling AddShape({})", Kind);
   if (List.NumShapes == kMost) return nullptr;
   List.Shapes.resize(static_cast<std::size_t>(List.NumShapes) + 1);
   Shape& shape = List.Shapes.back();
@@ -48,25 +48,25 @@ Shape* ShapeEngine::AddShape(ShapeList& List, int Kind, Colour Colour) {
 }
 
 bool ShapeEngine::AddPoint(Shape& shape, POINTAPI Point, bool Bind) {
-  const ShapeRules rules = Rules();
-  rules.Log("Calling AddPoint(({}, {}), {})", Point.x, Point.y, BoolText(Bind));
+  Log.Tell("Calling AddPoint(({}, {}), {})", Point.x, Point.y, BoolText(Bind));
   const auto bound = BoundPoints(shape);
   if (!bound.empty() && bound.back() == Point) return false;
   if (shape.Locked || shape.NumBound == kMost) return false;
   const auto place = static_cast<std::size_t>(shape.NumBound);
   // A freehand line grows with each point; the others have their places from the start.
-  if (LOPShape(shape.Kind, rules) || shape.Pts.size() <= place) shape.Pts.resize(place + 1);
+  const bool open = LOPShape(shape.Kind);
+  if (open || shape.Pts.size() <= place) shape.Pts.resize(place + 1);
   shape.Pts[place] = Point;
   shape.NumPts = static_cast<std::int16_t>(shape.NumBound + 1);
   if (!Bind) return false;
   shape.NumBound = shape.NumPts;
-  if (shape.NumBound != InfOf(shape.Kind).NumPoints || LOPShape(shape.Kind)) return false;
+  if (shape.NumBound != InfOf(shape.Kind).NumPoints || open) return false;
   LockShape(shape);
   return true;
 }
 
 void ShapeEngine::LockShape(Shape& shape) {
-  Rules().Log("Calling LockShape()");
+  Log.Tell("Calling LockShape()");
   shape.Locked = true;
   shape.NumPts = shape.NumBound;
   StraightMode = false;
@@ -86,6 +86,11 @@ void ShapeEngine::CopyShapeInto(const ShapeList& SourceList, ShapeList& DestList
   if (!source.Locked) return;
   LockShape(*copy);
   DestList.Adding = false;
+}
+
+std::string ShapeEngine::DrawShapeError(const Shape& shape) const {
+  return fmt::format("Error drawing '{}' object with {} points, and {} unbound points", GetShapeName(shape.Kind),
+                     shape.NumBound, shape.NumPts - shape.NumBound);
 }
 
 POINTAPI ShapeEngine::ConstrainPoint(POINTAPI Point) {

@@ -107,7 +107,7 @@ bool WindowPainter::LayWhole(const Job& job, Surface& surface) {
   if (job.shapes.size() < kLongList || ++framesAtRest_ <= kRestingFrames) return false;
   if (whole_.Empty() && bytes_ < kMostBytes) {
     whole_ = Record(job, [&](Canvas& kept) {
-      for (std::size_t i = 0; i < job.shapes.size(); ++i) PaintShape(job.shapes[i], job.colours[i], kept, job.look, job.rules);
+      for (std::size_t i = 0; i < job.shapes.size(); ++i) PaintShape(job.shapes[i], job.colours[i], kept, job.look);
     });
     bytes_ += whole_.Bytes();
   }
@@ -129,23 +129,23 @@ bool WindowPainter::PaintOne(const Job& job, std::size_t i, Canvas& canvas, int&
     entry.kept = false;
   } else if (!entry.kept && mayKeep > 0 && bytes_ < kMostBytes) {
     --mayKeep;
-    entry.layer = Record(job, [&](Canvas& kept) { drawn = PaintShape(shape, job.colours[i], kept, job.look, job.rules); });
+    entry.layer = Record(job, [&](Canvas& kept) { drawn = PaintShape(shape, job.colours[i], kept, job.look); });
     // A shape that fails is tried, and told of, on each frame.
     entry.kept = drawn;
     bytes_ += entry.layer.Bytes();
   }
-  if (!entry.kept) return PaintShape(shape, job.colours[i], canvas, job.look, job.rules);
+  if (!entry.kept) return PaintShape(shape, job.colours[i], canvas, job.look);
   entry.layer.LayOver(canvas.Target());
   return true;
 }
 
 std::optional<std::size_t> WindowPainter::Paint(Canvas& canvas, std::span<const Shape> shapes,
                                                 std::span<const Colour> colours, const GridLook& grid,
-                                                const ShapeLook& look, const ShapeRules& rules) {
+                                                const ShapeLook& look) {
   const Surface& surface = canvas.Target();
   if (surface.Empty()) return std::nullopt;
-  const Job job{shapes, colours, look, rules, canvas.CurrentPen()};
-  Begin({surface.Width(), surface.Height(), job.pen.width, job.pen.style, rules.EllipseFromCentre, look});
+  const Job job{shapes, colours, look, canvas.CurrentPen()};
+  Begin({surface.Width(), surface.Height(), job.pen.width, job.pen.style, look});
   PaintGrid(canvas, grid);
   if (entries_.size() != shapes.size()) DropWhole();
   Align(shapes, colours);

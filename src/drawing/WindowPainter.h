@@ -32,7 +32,7 @@ class WindowPainter {
   /// left as it was. Returns the index of the first shape that could not be drawn; an empty surface takes
   /// nothing and is no error.
   std::optional<std::size_t> Paint(Canvas& canvas, std::span<const Shape> shapes, std::span<const Colour> colours,
-                                   const GridLook& grid, const ShapeLook& look, const ShapeRules& rules);
+                                   const GridLook& grid, const ShapeLook& look);
   /// Bytes held for the next frames.
   std::size_t Bytes() const { return bytes_; }
 
@@ -59,7 +59,6 @@ class WindowPainter {
     int height = 0;
     int penWidth = 0;
     int penStyle = 0;
-    bool fromCentre = false;
     ShapeLook look;
 
     friend bool operator==(const Frame&, const Frame&) = default;
@@ -70,7 +69,6 @@ class WindowPainter {
     std::span<const Shape> shapes;
     std::span<const Colour> colours;
     const ShapeLook& look;
-    const ShapeRules& rules;
     Pen pen;
   };
 

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 
-#include "drawing/MultiShapes.h"
 #include "drawing/ShapeGeometry.h"
 #include "video/KeyCodes.h"
 
@@ -42,15 +41,11 @@ std::optional<SelectionMarks> DrawingEdits::Marks() {
   const ShapeList& list = List();
   const Shape* selected = SelectedShape(list);
   if (!HasVideo() || !selected || !selected->Locked || tools_.Drawing()) return std::nullopt;
-  const ShapeRules rules = tools_.Engine().Rules();
-  ShapeBox box;
-  if (bar_.MultiEdit()) {
-    for (const Shape& shape : ShapesOf(list)) box.Add(shape, rules);
-  } else {
-    box.Add(*selected, rules);
-  }
+  const ShapeEngine& engine = tools_.Engine();
+  const bool all = bar_.MultiEdit();
+  const ShapeBox box = engine.BoxOf(all ? ShapesOf(list) : std::span(selected, 1));
   if (box.Empty()) return std::nullopt;
-  return SelectionMarks{box.least, box.most, bar_.MultiEdit() ? MultiGetMid(list, rules) : GetMid(*selected, rules)};
+  return SelectionMarks{box.least, box.most, all ? engine.MultiGetMid(list) : engine.GetMid(*selected)};
 }
 
 std::string DrawingEdits::SelectionWords() {

@@ -3,7 +3,6 @@
 #include <map>
 
 #include "DrawingSupport.h"
-#include "drawing/MultiShapes.h"
 
 namespace kinalyx::test {
 namespace {
@@ -81,7 +80,7 @@ TEST(EditBar, InMultiModeAllShapesGoTogether) {
   EditDesk desk;
   desk.Draw(kLine, {{100, 100}, {200, 100}});
   desk.Draw(kFlag, {{251, 200}});
-  EXPECT_EQ(MultiGetMid(desk.List()), (POINTAPI{200, 150}));
+  EXPECT_EQ(desk.engine.MultiGetMid(desk.List()), (POINTAPI{200, 150}));
   desk.bar.MenuEdit_Click();
   desk.bar.ribEBBtn_Click(true);
   desk.Drag(kMoveHandle, {{0, 0}, {150, -150}});

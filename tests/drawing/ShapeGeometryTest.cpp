@@ -7,6 +7,8 @@
 namespace kinalyx::test {
 namespace {
 
+const ShapeEngine kEngine;
+
 TEST(ShapeGeometry, RoundsTiesToEvenAndStaysInRange) {
   EXPECT_EQ(Round(0.5), 0);
   EXPECT_EQ(Round(1.5), 2);
@@ -27,32 +29,32 @@ TEST(ShapeGeometry, AnglesRunClockwiseFromTheRight) {
 
 TEST(ShapeGeometry, OnlyFinishedShapesMove) {
   Shape line = Finished(kLine, {{1, 2}, {3, 4}});
-  MoveShape(line, 10, -20);
+  kEngine.MoveShape(line, 10, -20);
   const std::vector<POINTAPI> moved = {{11, -18}, {13, -16}, {}};
   EXPECT_EQ(line.Pts, moved) << "the spare slot is no point";
   line.Locked = false;
-  MoveShape(line, 5, 5);
+  kEngine.MoveShape(line, 5, 5);
   EXPECT_EQ(line.Pts, moved);
 }
 
 TEST(ShapeGeometry, ADragIsOneTransformFromWhereItBegan) {
   Shape line = Finished(kLine, {{100, 100}, {200, 100}});
-  PrepTrans(line);
-  const POINTAPI middle = GetMid(line);
-  for (int degrees = 1; degrees <= 90; ++degrees) RotateShape(line, degrees, middle);
+  kEngine.PrepTrans(line);
+  const POINTAPI middle = kEngine.GetMid(line);
+  for (int degrees = 1; degrees <= 90; ++degrees) kEngine.RotateShape(line, degrees, middle);
   EXPECT_EQ(line.Pts, (std::vector<POINTAPI>{{150, 50}, {150, 150}, {}}));
-  RotateShape(line, 0, middle);
+  kEngine.RotateShape(line, 0, middle);
   EXPECT_EQ(line.Pts[0], (POINTAPI{100, 100})) << "no error builds up";
-  ScaleShape(line, 2, middle);
+  kEngine.ScaleShape(line, 2, middle);
   EXPECT_EQ(line.Pts[1], (POINTAPI{250, 100}));
-  DoneTrans(line);
+  kEngine.DoneTrans(line);
   EXPECT_EQ(line.SavedPts.size(), 1u);
 }
 
 TEST(ShapeGeometry, KindsThatTwoPointsCannotTurnBecomeOthers) {
   Shape square = Finished(kSquare, {{0, 0}, {100, 50}});
-  PrepTrans(square);
-  RotateShape(square, 0, GetMid(square));
+  kEngine.PrepTrans(square);
+  kEngine.RotateShape(square, 0, kEngine.GetMid(square));
   EXPECT_EQ(square.Kind, kParallelogram);
   EXPECT_TRUE(square.Locked);
   ASSERT_EQ(square.NumBound, 3);
@@ -60,16 +62,16 @@ TEST(ShapeGeometry, KindsThatTwoPointsCannotTurnBecomeOthers) {
 
   Shape flag = Finished(kFlag, {{50, 60}});
   Shape scaled = flag;
-  RotateShape(flag, 90, {50, 60});
+  kEngine.RotateShape(flag, 90, {50, 60});
   EXPECT_EQ(flag.Kind, kFreehand);
   ASSERT_EQ(flag.NumBound, 6);
   EXPECT_EQ(flag.Pts[1], (POINTAPI{50, 50})) << "its left arm points up";
-  ScaleShape(scaled, 3, {50, 60});
+  kEngine.ScaleShape(scaled, 3, {50, 60});
   EXPECT_EQ(scaled.Pts[2], (POINTAPI{80, 60}));
 
   Shape circle = Finished(kEllipse, {{0, 0}, {100, 40}});
-  PrepTrans(circle);
-  RotateShape(circle, 90, GetMid(circle));
+  kEngine.PrepTrans(circle);
+  kEngine.RotateShape(circle, 90, kEngine.GetMid(circle));
   EXPECT_EQ(circle.Kind, kFreehand);
   ASSERT_EQ(circle.NumBound, 37);
   EXPECT_EQ(circle.Pts[0], circle.Pts[36]);
@@ -78,10 +80,10 @@ TEST(ShapeGeometry, KindsThatTwoPointsCannotTurnBecomeOthers) {
 
 TEST(ShapeGeometry, AClockTurnsItsTicksAlone) {
   Shape clock = Finished(kClock, {{10, 10}, {110, 90}});
-  EXPECT_EQ(GetMid(clock), (POINTAPI{10, 10})) << "it turns about its first corner";
-  PrepTrans(clock);
+  EXPECT_EQ(kEngine.GetMid(clock), (POINTAPI{10, 10})) << "it turns about its first corner";
+  kEngine.PrepTrans(clock);
   const auto turned = [&](double degrees) {
-    RotateShape(clock, degrees, GetMid(clock));
+    kEngine.RotateShape(clock, degrees, kEngine.GetMid(clock));
     return ClockRotation(clock);
   };
   EXPECT_EQ(turned(45), 15);
@@ -89,6 +91,20 @@ TEST(ShapeGeometry, AClockTurnsItsTicksAlone) {
   EXPECT_EQ(turned(-31), -1);
   EXPECT_EQ(turned(350), 320);
   EXPECT_EQ(clock.Pts[1], (POINTAPI{110, 90}));
+}
+
+TEST(ShapeGeometry, ACircleFromItsCentreIsTwiceAsWide) {
+  ShapeEngine engine;
+  Shape circle = Finished(kEllipse, {{100, 100}, {150, 120}});
+  EXPECT_EQ(engine.GetMid(circle), (POINTAPI{125, 110}));
+  engine.EllipseFromCentre = true;
+  EXPECT_EQ(engine.GetMid(circle), (POINTAPI{100, 100}));
+  const ShapeBox box = engine.BoxOf({&circle, 1});
+  EXPECT_EQ(box.least, (POINTAPI{50, 80}));
+  EXPECT_EQ(box.most, (POINTAPI{150, 120}));
+  engine.PrepTrans(circle);
+  engine.RotateShape(circle, 0, {100, 100});
+  EXPECT_EQ(circle.Pts[18], (POINTAPI{50, 100}));
 }
 
 TEST(ShapeGeometry, APathRunsOnACurveThroughItsClicks) {
@@ -127,9 +143,9 @@ TEST(ShapeGeometry, APathFromADamagedFileStaysBounded) {
   SmoothLine(path, 20, 0.2, true);
   EXPECT_LE(path.Pts.size(), 32767u);
   path.Locked = true;
-  MoveShape(path, 2147483647, -2147483647);
-  PrepTrans(path);
-  ScaleShape(path, 1e9, GetMid(path));
+  kEngine.MoveShape(path, 2147483647, -2147483647);
+  kEngine.PrepTrans(path);
+  kEngine.ScaleShape(path, 1e9, kEngine.GetMid(path));
 }
 
 }  // namespace

@@ -207,7 +207,7 @@ class WindowPainterTest : public testing::Test {
       shown_ = Noise(shown_.Width(), shown_.Height(), 1);
       Canvas canvas(shown_);
       canvas.SetPen({0, 4, 0});
-      EXPECT_EQ(painter_.Paint(canvas, ShapesOf(list_), colours_, grid_, look_, {}), std::nullopt);
+      EXPECT_EQ(painter_.Paint(canvas, ShapesOf(list_), colours_, grid_, look_), std::nullopt);
       EXPECT_LE(LargestDifference(shown_, expected), 3) << "round " << round;
     }
   }
@@ -222,7 +222,7 @@ TEST_F(WindowPainterTest, ShowsEveryChangeAtOnce) {
   CheckPaints("another colour");
   list_.Shapes[4].Pts[2].x = 20;
   CheckPaints("the clock turned");
-  KillShape(list_, 1);
+  ShapeEngine().KillShape(list_, 1);
   CheckPaints("one removed from the middle");
   Add(list_, Finished(kArrow, {{20, 150}, {180, 150}}, Rgb(255, 255, 255)));
   CheckPaints("one added");
@@ -246,9 +246,9 @@ TEST_F(WindowPainterTest, AnEmptySurfaceIsNoError) {
   Surface nothing;
   Canvas canvas(nothing);
   colours_.assign(5, kRed);
-  EXPECT_EQ(painter_.Paint(canvas, ShapesOf(list_), colours_, grid_, look_, {}), std::nullopt);
+  EXPECT_EQ(painter_.Paint(canvas, ShapesOf(list_), colours_, grid_, look_), std::nullopt);
   EXPECT_FALSE(DrawShape(list_.Shapes[0], canvas, look_));
-  EXPECT_EQ(DrawShapeError(list_.Shapes[0]), "Error drawing 'Line' object with 2 points, and 0 unbound points");
+  EXPECT_EQ(ShapeEngine().DrawShapeError(list_.Shapes[0]), "Error drawing 'Line' object with 2 points, and 0 unbound points");
 }
 
 }  // namespace

@@ -1,6 +1,13 @@
+#include <gmock/gmock.h>
+
+#include <ctime>
+#include <regex>
+#include <sstream>
+
 #include "DrawingSupport.h"
 #include "drawing/ShapeGeometry.h"
 #include "drawing/ShapeHistory.h"
+#include "platform/files/IniFile.h"
 #include "support/TempFolder.h"
 
 namespace kinalyx::test {
@@ -57,16 +64,17 @@ TEST(ShapeStore, AnOpenLineGrowsAndDropsItsFloatingPoint) {
 }
 
 TEST(ShapeStore, RemovedShapesCloseTheirGap) {
+  ShapeEngine engine;
   ShapeList list;
   for (int i = 0; i < 3; ++i) Add(list, Finished(kFlag, {{i, i}}));
-  KillShape(list, 0);
+  engine.KillShape(list, 0);
   ASSERT_EQ(list.NumShapes, 2);
   EXPECT_EQ(list.Shapes[0].Pts[0].x, 1);
-  for (const int index : {1, 0, 0}) KillShape(list, index);
+  for (const int index : {1, 0, 0}) engine.KillShape(list, index);
   EXPECT_EQ(list.NumShapes, 0);
   EXPECT_EQ(list.Shapes.size(), 1u) << "one stale slot";
   EXPECT_TRUE(ShapesOf(list).empty());
-  EXPECT_EQ(ShapeEngine().AddShape(list, kLine, 5), &list.Shapes[0]);
+  EXPECT_EQ(engine.AddShape(list, kLine, 5), &list.Shapes[0]);
   EXPECT_EQ(list.NumShapes, 1);
 }
 
@@ -100,20 +108,36 @@ TEST(ShapeStore, StraightModeHoldsPointsLevelOrUpright) {
     EXPECT_EQ(engine.ConstrainPoint(point), held) << "a tie is upright";
 }
 
-TEST(ShapeStore, TheLogWritesOnlyWhenItIsOn) {
+TEST(ShapeStore, TheLogTellsOfADrawingWhenTheSettingsAskForIt) {
   TempFolder folder;
-  ShapeEngine engine;
-  engine.Log.path = folder.Path("Kinalyx_Log.txt");
-  ShapeList list;
-  engine.AddShape(list, kLine, 1);
-  EXPECT_EQ(folder.FileCount(), 0u);
-  engine.Log.LogEnabled = true;
-  engine.AddPoint(list.Shapes[0], {7, -8}, true);
-  const std::string log = folder.Get("Kinalyx_Log.txt");
-  const std::string line = log.substr(0, log.find_first_of("\r\n"));
-  ASSERT_EQ(line.find("Calling AddPoint((7, -8), True)"), std::string("HH:MM:SS - DD/MM/YYYY - ").size()) << log;
-  EXPECT_EQ(line[2], ':');
-  EXPECT_EQ(line[13], '/');
+  const auto drawn = [&] {
+    Desk desk(folder.Path());
+    ShapeEngine engine;
+    TestWorkspace workspace;
+    DrawingTools tools(engine, desk.settings, workspace);
+    tools.CmdMakeShape_Click(kLine);
+    for (const int x : {10, 90}) {
+      tools.MouseDown(1, 0, static_cast<float>(x), 20, 1);
+      tools.MouseUp(1, 0, static_cast<float>(x), 20, 1);
+    }
+    tools.DeleteCurShape();
+    return folder.Get("Kinalyx_Log.txt");
+  };
+  EXPECT_EQ(drawn(), "");
+  EXPECT_EQ(folder.Get("config10.ini").find("LogEnabled"), std::string::npos) << "no first run writes the key";
+  ASSERT_TRUE(WritePrivateProfileString("Analysis", "LogEnabled", "True", folder.Path("config10.ini")));
+  const std::time_t now = std::time(nullptr);
+  std::istringstream log(drawn());
+  std::vector<std::string> calls;
+  for (std::string line; std::getline(log, line);) {
+    EXPECT_TRUE(std::regex_match(line.substr(0, 24), std::regex(R"(\d\d:\d\d:\d\d - \d\d/\d\d/\d{4} - )"))) << line;
+    char today[11];
+    std::strftime(today, sizeof today, "%d/%m/%Y", std::localtime(&now));
+    EXPECT_EQ(line.substr(11, 10), today);
+    calls.push_back(line.substr(24));
+  }
+  EXPECT_THAT(calls, testing::IsSupersetOf({"Calling AddShape(3)", "Calling AddPoint((10, 20), True)",
+                                            "Calling AddPoint((90, 20), True)", "Calling LockShape()", "Calling KillShape(0)"}));
 }
 
 TEST(ShapeStore, ListsStretchAndFlip) {
@@ -146,7 +170,7 @@ TEST(ShapeHistory, FiftyChangesCanBeTakenBack) {
   EXPECT_EQ(list.NumShapes, 10);
   EXPECT_TRUE(history.Redo(list));
   EXPECT_EQ(list.NumShapes, 11);
-  KillShape(list, 0);
+  ShapeEngine().KillShape(list, 0);
   history.Note(list);
   EXPECT_FALSE(history.CanRedo()) << "a new change drops what was taken back";
 }
