@@ -3,11 +3,13 @@
 #include <gtest/gtest.h>
 
 #include "AnalysisStage.h"
+#include "support/Pictures.h"
 
 namespace kinalyx {
 namespace {
 
 using test::AnalysisStage;
+using test::LoadPicture;
 using test::RawVideo;
 using test::TestPath;
 
@@ -132,9 +134,7 @@ TEST_F(MultiPictureTest, ModeEndsWithItsVideoAndItsStripIsSaved) {
   Enter(40, 30, "3");
   const std::string path = TestPath("strip.PNG");
   EXPECT_TRUE(strip_.SavePicture(path));
-  Surface saved;
-  ASSERT_TRUE(LoadImageFile(path, saved));
-  EXPECT_EQ(saved.Width(), 9 * strip_.PictureWidth());
+  EXPECT_EQ(LoadPicture(path).Width(), 9 * strip_.PictureWidth());
 }
 
 TEST(MultiPictureCell, LeavesTheTopToTheStrip) {

@@ -1,5 +1,9 @@
 #include "Pictures.h"
 
+#include <QFontDatabase>
+#include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
 #include <algorithm>
 #include <cmath>
 #include <functional>
@@ -14,9 +18,7 @@
 #include "Skeleton.h"
 #include "platform/files/Folders.h"
 #include "platform/paint/Canvas.h"
-#include "platform/paint/Fonts.h"
 #include "platform/paint/ImageFiles.h"
-#include "platform/paint/PicturePainter.h"
 
 namespace kinalyx::demo {
 namespace {
@@ -202,9 +204,15 @@ Surface Logo() {
   canvas.SetBrush(kWhite);
   canvas.Ellipse(at(131, 133), at(155, 157));
   Surface logo = Reduced(large, kSamples);
-  const FontFace face{FontFamilyExists("Inter") ? "Inter" : "", 104, true};
-  PicturePainter(logo).Text("Kinalyx", face, 0xFF000000u | Red(kBlue) << 16 | Green(kBlue) << 8 | Blue(kBlue),
-                            {232, 34, kLogoWidth - 232, kSide - 40});
+  QImage over(logo.Row(0), logo.Width(), logo.Height(), logo.Stride(), QImage::Format_RGB32);
+  QPainter painter(&over);
+  QFont font = QGuiApplication::font();
+  if (QFontDatabase::families().contains("Inter")) font.setFamily("Inter");
+  font.setPixelSize(104);
+  font.setBold(true);
+  painter.setFont(font);
+  painter.setPen(QColor(Red(kBlue), Green(kBlue), Blue(kBlue)));
+  painter.drawText(QRectF(232, 34, kLogoWidth - 232, kSide - 40), Qt::AlignLeft | Qt::AlignTop, "Kinalyx");
   return logo;
 }
 
@@ -213,7 +221,12 @@ Surface Logo() {
 std::string DrawPictures(const std::string& folder) {
   const std::string backgrounds = JoinPath(folder, "backgrounds");
   if (!MakeFolder(backgrounds)) return "The folder " + backgrounds + " cannot be made.";
-  const GraphicsSession session;
+  // Letters need an application, though no display.
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  int count = 1;
+  char name[] = "kinalyx-demo";
+  char* words[] = {name, nullptr};
+  const QGuiApplication application(count, words);
   if (const ImageResult saved = SaveJpeg(RowsOf(Logo()), JoinPath(folder, "Logo.jpg"), 92); !saved)
     return saved.message;
   for (const Mood& mood : Moods())

@@ -1,8 +1,5 @@
 #include "platform/paint/Canvas.h"
 
-#include <QFont>
-#include <QFontMetricsF>
-#include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 #include <QPainterPath>
@@ -12,8 +9,6 @@
 #include <vector>
 
 #include "platform/paint/FigureClip.h"
-#include "platform/paint/Fonts.h"
-#include "platform/paint/QtFonts.h"
 #include "platform/paint/RasterModes.h"
 
 namespace kinalyx {
@@ -288,29 +283,6 @@ bool Canvas::Ellipse(POINTAPI corner, POINTAPI opposite) {
 bool Canvas::Line(POINTAPI from, POINTAPI to) {
   const POINTAPI points[] = {from, to};
   return Polyline(points);
-}
-
-bool Canvas::Text(POINTAPI at, int height, const std::string& text) {
-  if (engine_->surface->Empty() || !HasFonts()) return false;
-  const RealPoint corner = ToReal(at);
-  if (text.empty() || !engine_->Band().Holds(corner)) return true;
-  QFont font = FontOfHeight(std::clamp(height, 1, kWidestPen));
-  if (engine_->mode != Rop2::CopyPen) font.setStyleStrategy(QFont::NoAntialias);
-  const QString line = QString::fromStdString(text);
-  const QFontMetricsF metrics(font);
-  const double width = metrics.horizontalAdvance(line);
-  // Slanted and accented letters may leave their box.
-  const RealBox reach{corner.x - height, corner.y - height, corner.x + width + height, corner.y + 2.0 * height};
-  return engine_->Paint(engine_->Reach(reach), [&](QPainter& on) {
-    const QPen pen = on.pen();
-    const QTransform before = on.transform();
-    if (engine_->mode == Rop2::CopyPen) on.resetTransform();
-    on.setPen(ToQt(engine_->pen.colour));
-    on.setFont(font);
-    on.drawText(QPointF(corner.x, corner.y + metrics.ascent()), line);
-    on.setTransform(before);
-    on.setPen(pen);
-  });
 }
 
 Surface& Canvas::Target() { return *engine_->surface; }

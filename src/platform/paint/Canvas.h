@@ -3,7 +3,6 @@
 #include <memory>
 #include <optional>
 #include <span>
-#include <string>
 
 #include "platform/paint/Geometry.h"
 #include "platform/paint/Surface.h"
@@ -53,9 +52,6 @@ class Canvas {
   /// without any extent a dot.
   bool Ellipse(POINTAPI corner, POINTAPI opposite);
   bool Line(POINTAPI from, POINTAPI to);
-  /// One line of text in the pen's colour whose box has its top left corner at `at`; `height` in
-  /// pixels, 1 to 1000. False also when the program has no fonts (it runs without a graphical application).
-  bool Text(POINTAPI at, int height, const std::string& text);
 
   Surface& Target();
 

@@ -1,7 +1,6 @@
 #include "platform/paint/PixelOps.h"
 
 #include <libyuv/convert_argb.h>
-#include <libyuv/convert_from_argb.h>
 #include <libyuv/planar_functions.h>
 #include <libyuv/scale_argb.h>
 
@@ -56,11 +55,6 @@ bool StretchRows(const PixelRows& rows, Surface& target, ScaleScratch& scratch) 
   }
   if (done) FillFourth(target);
   return done;
-}
-
-void StoreRows(const Surface& surface, std::uint8_t* bits, int rowBytes) {
-  if (surface.Empty()) return;
-  libyuv::ARGBToRGB24(surface.Row(0), surface.Stride(), bits, rowBytes, surface.Width(), -surface.Height());
 }
 
 void MirrorHorizontal(Surface& surface, Surface& scratch) {

@@ -39,9 +39,6 @@ PixelRows RowsOf(const Surface& surface);
 /// counts than 24 and 32 and empty pictures leave the target alone and return false.
 bool StretchRows(const PixelRows& rows, Surface& target, ScaleScratch& scratch);
 
-/// Writes a surface as 24-bit rows, bottom row first; `rowBytes` is at least three times its width.
-void StoreRows(const Surface& surface, std::uint8_t* bits, int rowBytes);
-
 /// Mirrors a surface left to right. `scratch` is given the surface's size when it has another, and the
 /// two exchange their memory.
 void MirrorHorizontal(Surface& surface, Surface& scratch);

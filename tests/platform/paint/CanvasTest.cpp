@@ -10,7 +10,6 @@
 #include <utility>
 #include <vector>
 
-#include "platform/paint/Fonts.h"
 #include "support/Surfaces.h"
 
 namespace kinalyx::test {
@@ -245,20 +244,6 @@ TEST(Canvas, FollowsItsSurfaceToANewSize) {
   sheet.surface = Surface();
   EXPECT_FALSE(sheet.canvas.Line({0, 5}, {59, 5}));
   EXPECT_FALSE(sheet.canvas.Ellipse({0, 0}, {9, 9}));
-  EXPECT_FALSE(sheet.canvas.Text({0, 0}, 12, "word"));
-}
-
-TEST(Canvas, TextNeedsFontsAndStaysInItsBox) {
-  EXPECT_FALSE(Sheet(200, 60, 1).canvas.Text({10, 10}, 20, "Before")) << "no application object yet";
-  const GraphicsSession session;
-  for (const Rop2 mode : {Rop2::CopyPen, Rop2::XorPen}) {
-    Sheet sheet(200, 60, 1, mode);
-    EXPECT_TRUE(sheet.canvas.Text({10, 20}, 20, "Swing 12\xC2\xB0"));
-    const auto pixels = sheet.Touched();
-    EXPECT_GT(pixels.size(), 50u);
-    for (const auto& [x, y] : pixels) EXPECT_TRUE(x >= 9 && y >= 20 && y <= 40) << x << ", " << y;
-    EXPECT_TRUE(sheet.canvas.Text({kFar, kFarBack}, 20, "far"));
-  }
 }
 
 }  // namespace
