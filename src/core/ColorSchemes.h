@@ -26,8 +26,6 @@ class ColorSchemes {
   /// are and gives false; before the first call they are those of scheme 0.
   bool ApplyDesign(std::string_view design);
 
-  /// @param slot  0 to 3
-  std::int32_t SchemeColors(int slot) const { return colours_.at(static_cast<std::size_t>(slot)); }
   const SchemeColorArray& Colours() const { return colours_; }
   /// Index of the scheme in use.
   int Design() const { return design_; }

@@ -20,8 +20,6 @@ class ResizeControls {
 
   /// The main form has got this size in logical pixels. Nothing changes for a size that is none.
   void Resize(int width, int height);
-  int PreviousWidth() const { return width_; }
-  int PreviousHeight() const { return height_; }
 
   /// Text of the forms in logical pixels, never less than can be read with ease. Worked out from the design
   /// size, so that it depends on where the window has come to and not on the way it took. A window that is

@@ -7,18 +7,12 @@ namespace kinalyx {
 std::string Vocabulary::Nouns() const { return Noun() + "s"; }
 std::string Vocabulary::Profiles() const { return Noun() + " Profiles"; }
 std::string Vocabulary::Profile() const { return Noun() + " Profile"; }
-std::string Vocabulary::Tools() const { return Noun() + " Tools"; }
 std::string Vocabulary::Notes() const { return Noun() + " Notes"; }
-std::string Vocabulary::Name() const { return Noun() + " Name"; }
-std::string Vocabulary::Select() const { return "Select " + Noun(); }
-std::string Vocabulary::Current() const { return "Current " + Noun(); }
 std::string Vocabulary::AddNew() const { return "Add New " + Noun(); }
 std::string Vocabulary::Rename() const { return "Rename " + Noun(); }
 std::string Vocabulary::MoveThis() const { return "Move this " + noun(); }
 std::string Vocabulary::DeleteThis() const { return "Delete this " + noun(); }
-std::string Vocabulary::SendLessonsTo() const { return "Send Lessons to " + Nouns(); }
 std::string Vocabulary::ProfilesEditUtility() const { return Noun() + " Profiles Edit Utility"; }
-std::string Vocabulary::UseThe() const { return "Use the " + noun(); }
 std::string Vocabulary::MustSelect() const { return "You must select a " + noun() + " first."; }
 
 std::string Vocabulary::PageButton(int index) const {

@@ -19,18 +19,12 @@ class Vocabulary {
 
   std::string Profiles() const;             ///< "Student Profiles"
   std::string Profile() const;              ///< "Student Profile"
-  std::string Tools() const;                ///< "Student Tools"
   std::string Notes() const;                ///< "Student Notes"
-  std::string Name() const;                 ///< "Student Name"
-  std::string Select() const;               ///< "Select Student"
-  std::string Current() const;              ///< "Current Student"
   std::string AddNew() const;               ///< "Add New Student"
   std::string Rename() const;               ///< "Rename Student"
   std::string MoveThis() const;             ///< "Move this student"
   std::string DeleteThis() const;           ///< "Delete this student"
-  std::string SendLessonsTo() const;        ///< "Send Lessons to Students"
   std::string ProfilesEditUtility() const;  ///< "Student Profiles Edit Utility"
-  std::string UseThe() const;               ///< "Use the student"
   std::string MustSelect() const;           ///< "You must select a student first."
 
   /// Button and title of a page, by the index of `MainCmd`: 0 to 8.

@@ -15,8 +15,6 @@ TEST(ResizeControls, RatiosAreAgainstTheSizeBefore) {
     EXPECT_EQ(controls.HeightRatio, down);
     EXPECT_EQ(controls.FontRatio, down);
   }
-  EXPECT_EQ(controls.PreviousWidth(), 640);
-  EXPECT_EQ(controls.PreviousHeight(), 512);
 }
 
 TEST(ResizeControls, FontsFollowTheHeightBelowOnePointSix) {

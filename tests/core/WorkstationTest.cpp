@@ -53,8 +53,8 @@ TEST(StartUp, ComesUpInOrderAndAsksOnlyOnce) {
 TEST(ColorSchemes, UnknownDesignsChangeNothing) {
   ColorSchemes schemes;
   EXPECT_TRUE(schemes.ApplyDesign("7"));
-  EXPECT_EQ(schemes.SchemeColors(0), 0);
-  EXPECT_EQ(schemes.SchemeColors(3), 16777215);
+  EXPECT_EQ(schemes.Colours()[0], 0);
+  EXPECT_EQ(schemes.Colours()[3], 16777215);
   for (const char* bad : {"", "8", "-1", "07", "x"}) EXPECT_FALSE(schemes.ApplyDesign(bad));
   EXPECT_EQ(schemes.Design(), 7);
   EXPECT_EQ(ColorSchemes::All()[7].caption, "Outdoor Mode");
