@@ -5,15 +5,13 @@
 #include <cmath>
 #include <limits>
 
+#include "platform/files/TextEncoding.h"
+
 namespace kinalyx {
 
 namespace {
 
-std::string_view WithoutBlanks(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(" \t");
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
+std::string_view WithoutBlanks(std::string_view text) { return Trimmed(text, " \t"); }
 
 bool SameWord(std::string_view text, std::string_view lowerCase) {
   return std::equal(text.begin(), text.end(), lowerCase.begin(), lowerCase.end(),

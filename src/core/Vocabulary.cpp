@@ -44,11 +44,8 @@ std::string Vocabulary::PageTitle(int index) const {
 
 bool SetPrimaryName(Settings& settings, const std::string& text) {
   if (text == settings.PrimaryName[0]) return false;
-  const std::string lower = FoldCase(text);
-  std::string plural = lower + "s";
-  plural.erase(0, plural.find_first_not_of(' '));
-  plural.erase(plural.find_last_not_of(' ') + 1);
-  settings.PrimaryName = {text, lower, plural};
+  const std::string lower = LowerCase(text);
+  settings.PrimaryName = {text, lower, std::string(Trimmed(lower + "s", " "))};
   for (auto& name : settings.PrimaryName) settings.Write(name);
   return true;
 }

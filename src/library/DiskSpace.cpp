@@ -101,6 +101,7 @@ std::vector<std::string> RemoveableDrivesIn(std::string_view text) {
   return drives;
 }
 
+// Not by QStorageInfo: that asks each drive how full it is, and hangs with the first that does not answer.
 std::vector<std::string> RemoveableDrives() {
   std::ifstream file("/proc/self/mounts");
   return RemoveableDrivesIn(std::string(std::istreambuf_iterator<char>(file), {}));

@@ -21,9 +21,7 @@ bool IsBlank(std::string_view text) {
 }
 
 std::string_view WithoutOuterBlanks(std::string_view name) {
-  if (IsBlank(name)) return name;
-  const std::size_t first = name.find_first_not_of(' ');
-  return name.substr(first, name.find_last_not_of(' ') + 1 - first);
+  return IsBlank(name) ? name : Trimmed(name, " ");
 }
 
 bool SameName(std::string_view a, std::string_view b) { return FoldCase(a) == FoldCase(b); }

@@ -1,7 +1,11 @@
 #include "platform/files/Folders.h"
 
+#include <QCollator>
+#include <QDir>
+#include <QLocale>
+#include <QStandardPaths>
+#include <QString>
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <memory>
 #include <system_error>
@@ -13,7 +17,6 @@
 #include <sys/statvfs.h>
 #include <unistd.h>
 
-#include "platform/files/FileStore.h"
 #include "platform/files/TextEncoding.h"
 
 namespace kinalyx {
@@ -22,69 +25,35 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string FromEnvironment(const char* name) {
-  const char* value = std::getenv(name);
-  return value ? value : "";
-}
-
-/// The documents folder as the desktop's own list of folders names it; empty when it does not.
-std::string DesktopDocuments(const std::string& home) {
-  std::string config = FromEnvironment("XDG_CONFIG_HOME");
-  if (config.empty()) config = JoinPath(home, ".config");
-  const auto list = ReadTextFile(JoinPath(config, "user-dirs.dirs"));
-  if (!list) return {};
-  constexpr std::string_view kKey = "XDG_DOCUMENTS_DIR=\"";
-  for (std::size_t line = 0; line < list->size();) {
-    std::size_t end = list->find('\n', line);
-    if (end == std::string::npos) end = list->size();
-    std::string_view text(list->data() + line, end - line);
-    line = end + 1;
-    text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
-    if (!text.starts_with(kKey)) continue;
-    text.remove_prefix(kKey.size());
-    text = text.substr(0, text.find('"'));
-    constexpr std::string_view kHome = "$HOME";
-    if (text.starts_with(kHome)) return home + std::string(text.substr(kHome.size()));
-    if (text.starts_with('/')) return std::string(text);
-  }
-  return {};
-}
-
 FileStamp AsStamp(const struct stat& state) {
   constexpr std::int64_t kNanoseconds = 1'000'000'000;
   return {state.st_ino, state.st_size, state.st_mtim.tv_sec * kNanoseconds + state.st_mtim.tv_nsec};
 }
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+QString ToQt(const std::string& text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
 
-/// A text that sorts byte by byte as a reader sorts names: case folded, and each run of digits written
-/// as its length and its digits, so that (9) comes before (10).
-std::string SortKey(const std::string& name) {
-  const std::string folded = FoldCase(name);
-  std::string key;
-  key.reserve(folded.size() + 4);
-  for (std::size_t at = 0; at < folded.size();) {
-    if (!IsDigit(folded[at])) {
-      key += folded[at++];
-      continue;
-    }
-    while (at + 1 < folded.size() && folded[at] == '0' && IsDigit(folded[at + 1])) ++at;
-    std::size_t end = at;
-    while (end < folded.size() && IsDigit(folded[end])) ++end;
-    key += '0';  // among other characters a number stands where digits stand
-    key += static_cast<char>(std::min<std::size_t>(end - at, 255));
-    key.append(folded, at, end - at);
-    at = end;
-  }
-  return key;
-}
-
+/// Sorts names as the user's language does, so that an accent comes after the plain letter or where that
+/// language has it, with runs of digits by value. What it takes for equal is sorted byte by byte.
 void SortNames(std::vector<std::string>& names) {
-  std::vector<std::pair<std::string, std::string>> keyed;
+  if (names.size() < 2) return;
+  // Made anew each time: lists are read by several threads, and it costs less than reading a folder. The
+  // language "C" has no order of its own but that of the bytes.
+  const QLocale system = QLocale::system().collation();
+  QCollator order(system.language() == QLocale::C ? QLocale(QLocale::English) : system);
+  order.setNumericMode(true);
+  order.setCaseSensitivity(Qt::CaseInsensitive);
+  struct Keyed {
+    QCollatorSortKey key;
+    std::string name;
+  };
+  std::vector<Keyed> keyed;
   keyed.reserve(names.size());
-  for (auto& name : names) keyed.emplace_back(SortKey(name), std::move(name));
-  std::sort(keyed.begin(), keyed.end());
-  for (std::size_t i = 0; i < names.size(); ++i) names[i] = std::move(keyed[i].second);
+  for (auto& name : names) keyed.push_back({order.sortKey(ToQt(name)), std::move(name)});
+  std::sort(keyed.begin(), keyed.end(), [](const Keyed& a, const Keyed& b) {
+    const int compared = a.key.compare(b.key);
+    return compared < 0 || (compared == 0 && a.name < b.name);
+  });
+  for (std::size_t i = 0; i < names.size(); ++i) names[i] = std::move(keyed[i].name);
 }
 
 enum class Entry { Folder, File };
@@ -116,12 +85,10 @@ std::vector<std::string> List(const std::string& folder, Entry kind, Wanted want
 }  // namespace
 
 std::string DocumentsFolder() {
-  std::string home = FromEnvironment("HOME");
-  if (home.empty()) home = "/";
-  std::string documents = DesktopDocuments(home);
-  while (documents.size() > 1 && documents.back() == '/') documents.pop_back();
-  if (documents.empty() || !MakeFolder(documents)) {
-    documents = JoinPath(home, "Documents");
+  std::string documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation).toStdString();
+  // A desktop that names none, or one that cannot be made.
+  if (!documents.starts_with('/') || !MakeFolder(documents)) {
+    documents = JoinPath(QDir::homePath().toStdString(), "Documents");
     MakeFolder(documents);
   }
   return documents;

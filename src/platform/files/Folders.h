@@ -48,8 +48,8 @@ std::int64_t FreeBytes(const std::string& path);
 /// memory; true when it is there. It takes as long as the drive takes to answer.
 bool TouchPath(const std::string& path);
 
-/// Names of the subfolders, hidden ones left out, sorted as a reader would sort them (letters without
-/// regard to case, runs of digits by value). An unreadable folder gives an empty list.
+/// Names of the subfolders, hidden ones left out, sorted as a reader would sort them (letters as in the
+/// user's language, without regard to case, runs of digits by value). An unreadable folder gives an empty list.
 std::vector<std::string> ListFolders(const std::string& folder);
 /// Names of the files that end in `extension` (".avi"; either case), sorted likewise.
 std::vector<std::string> ListFiles(const std::string& folder, std::string_view extension);

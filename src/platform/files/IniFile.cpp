@@ -13,11 +13,7 @@ namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
-std::string_view Trimmed(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(" \t\r");
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(" \t\r") - first + 1);
-}
+std::string_view Trimmed(std::string_view text) { return kinalyx::Trimmed(text, " \t\r"); }
 
 bool SameName(std::string_view a, std::string_view b) {
   if (a.size() == b.size() && a == b) return true;

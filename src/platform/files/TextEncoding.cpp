@@ -1,5 +1,6 @@
 #include "platform/files/TextEncoding.h"
 
+#include <QChar>
 #include <array>
 #include <cstdint>
 
@@ -62,18 +63,21 @@ int ByteInWindows1252(std::uint32_t code) {
   return -1;
 }
 
-std::uint32_t LowerCase(std::uint32_t code) {
-  if (code >= 'A' && code <= 'Z') return code + 32;
-  if (code >= 0xC0 && code <= 0xDE && code != 0xD7) return code + 32;
-  if (code == 0x178) return 0xFF;
-  // In the second Latin block capitals and small letters stand in pairs, the capital first; a few
-  // characters without a partner shift where a pair begins.
-  const bool even = code % 2 == 0;
-  const bool capitalEven = (code >= 0x100 && code <= 0x12F) || (code >= 0x132 && code <= 0x137) ||
-                           (code >= 0x14A && code <= 0x177);
-  const bool capitalOdd = (code >= 0x139 && code <= 0x148) || (code >= 0x179 && code <= 0x17E);
-  if ((capitalEven && even) || (capitalOdd && !even)) return code + 1;
-  return code;
+/// Changes every character that is one.
+template <typename Change>
+std::string EachCharacter(std::string_view text, Change change) {
+  std::string changed;
+  changed.reserve(text.size());
+  for (std::size_t at = 0; at < text.size();) {
+    const Character character = Decode(text, at);
+    if (!character.bytes) {
+      changed += text[at++];  // a name in another encoding still compares with itself
+      continue;
+    }
+    Append(changed, change(character.code));
+    at += character.bytes;
+  }
+  return changed;
 }
 
 }  // namespace
@@ -115,18 +119,17 @@ std::string AsUtf8(std::string_view bytes) {
 }
 
 std::string FoldCase(std::string_view text) {
-  std::string folded;
-  folded.reserve(text.size());
-  for (std::size_t at = 0; at < text.size();) {
-    const Character character = Decode(text, at);
-    if (!character.bytes) {
-      folded += text[at++];  // a name in another encoding still compares with itself
-      continue;
-    }
-    Append(folded, LowerCase(character.code));
-    at += character.bytes;
-  }
-  return folded;
+  return EachCharacter(text, [](char32_t code) { return QChar::toCaseFolded(code); });
+}
+
+std::string LowerCase(std::string_view text) {
+  return EachCharacter(text, [](char32_t code) { return QChar::toLower(code); });
+}
+
+std::string_view Trimmed(std::string_view text, std::string_view blanks) {
+  const std::size_t first = text.find_first_not_of(blanks);
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
 std::string_view CutUtf8(std::string_view text, std::size_t bytes) {

@@ -13,8 +13,13 @@ std::string FromWindows1252(std::string_view bytes);
 std::string ToWindows1252(std::string_view text);
 /// UTF-8 as it stands, anything else taken as Windows-1252.
 std::string AsUtf8(std::string_view bytes);
-/// Lower case for comparing: ASCII and the Latin letters with accents; other characters stay.
+/// For comparing without regard to case, in all alphabets; character by character, so the length in
+/// characters stays. Bytes that are no UTF-8 stay as they are.
 std::string FoldCase(std::string_view text);
+/// Small letters for showing, likewise.
+std::string LowerCase(std::string_view text);
+/// A text without the blanks (or other characters, as given) at its two ends; a view into it.
+std::string_view Trimmed(std::string_view text, std::string_view blanks);
 /// The longest beginning of at most `bytes` bytes that does not cut a character in two.
 std::string_view CutUtf8(std::string_view text, std::size_t bytes);
 

@@ -11,7 +11,9 @@
 
 namespace kinalyx {
 
-/// A program that works for this one and is waited for. It may be used from any one thread.
+/// A program that works for this one and is waited for. Threads may take turns with it, as with a job that
+/// a worker steps and whoever holds it last lets go. That, and the time that a program has to clear up before
+/// it is killed, is why this is no QProcess, which belongs to the thread that made it and kills at once.
 class ChildProcess {
  public:
   /// Starts a program; its output is read by Poll, its input is empty. Null, with the reason in `error`

@@ -25,8 +25,8 @@ class Environment {
 
 TEST(Folders, ListAsAReaderSorts) {
   TempFolder folder;
-  for (const char* name : {"(10) swing.avi", "(9) swing.AVI", "(009) iron.avi", "b.avi", "A.avi", "\xC3\x96z.avi",
-                           "\xC3\xB6t.avi", ".hidden.avi", "notes.txt", ".avi", "noextavi"})
+  for (const char* name : {"(10) swing.avi", "(9) swing.AVI", "(009) iron.avi", "b.avi", "A.avi", "\xC3\x89z.avi",
+                           "\xC3\xA9t.avi", "e.avi", "f.avi", ".hidden.avi", "notes.txt", ".avi", "noextavi"})
     folder.Put(name, "");
   for (const char* name : {"Tom", "anna", "folder.avi", ".trash", "Student 2", "Student 10"})
     std::filesystem::create_directory(folder.Path(name));
@@ -35,8 +35,8 @@ TEST(Folders, ListAsAReaderSorts) {
   std::filesystem::create_symlink(folder.Path("gone"), folder.Path("dangling.avi"));
 
   EXPECT_EQ(ListFiles(folder.Path(), ".avi"),
-            (Names{"(009) iron.avi", "(9) swing.AVI", "(10) swing.avi", "A.avi", "b.avi", "c.avi", "\xC3\xB6t.avi",
-                   "\xC3\x96z.avi"}));
+            (Names{"(009) iron.avi", "(9) swing.AVI", "(10) swing.avi", "A.avi", "b.avi", "c.avi", "e.avi", "\xC3\xA9t.avi",
+                   "\xC3\x89z.avi", "f.avi"}));
   EXPECT_EQ(ListFolders(folder.Path()),
             (Names{"anna", "folder.avi", "link", "Student 2", "Student 10", "Tom"}));
   EXPECT_TRUE(ListFolders(folder.Path("none")).empty());

@@ -28,6 +28,10 @@ TEST(TextEncoding, RefusesWhatIsNoUtf8) {
 TEST(TextEncoding, ComparesWithoutRegardToCase) {
   EXPECT_EQ(FoldCase("GROSSE \xC3\x84PFEL \xC5\xA0koda \xC5\xB8 \xC3\x97"), "grosse \xC3\xA4pfel \xC5\xA1koda \xC3\xBF \xC3\x97");
   EXPECT_EQ(FoldCase("\xC5\x81\xC3\xB3" "d\xC5\xB9"), "\xC5\x82\xC3\xB3" "d\xC5\xBA");
+  EXPECT_EQ(FoldCase("\u03A3\u03AF\u03C3\u03C5\u03C6\u03BF\u03C2 \u0416\u0423\u041A"),
+            FoldCase("\u03C3\u038A\u03A3\u03A5\u03A6\u039F\u03A3 \u0436\u0443\u043A")) << "Greek and Cyrillic";
+  EXPECT_EQ(FoldCase("Stra\u00DFe"), "stra\u00DFe") << "no two names for one folder";
+  EXPECT_EQ(LowerCase("\u039F\u0394\u039F\u03C2 \u00C4"), "\u03BF\u03B4\u03BF\u03C2 \u00E4") << "the last letter keeps its form";
   EXPECT_EQ(FoldCase("raw \xFF byte"), "raw \xFF byte");
 }
 
