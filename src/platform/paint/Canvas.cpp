@@ -68,7 +68,7 @@ struct Canvas::Engine {
   QImage image;      // over the surface's own memory
   QPainter painter;  // open on `image`, in copy mode
   bool penIsSet = false;
-  std::vector<std::uint32_t> figure;  // pen pixels of a figure in another mode
+  std::vector<std::uint32_t> figure;  // pen pixels of a figure that is merged
   std::vector<RealPoint> points;
   std::vector<RealPoint> area;
   LinePieces pieces;
@@ -122,16 +122,16 @@ struct Canvas::Engine {
       SetUpPainter();
       draw(painter);
       if (recorder) recorder->Drawn(reach.top(), reach.bottom());
-    } else if (mode != Rop2::Nop) {
-      PaintJoined(reach, draw);
+    } else {
+      PaintMerged(reach, draw);
     }
     return true;
   }
 
-  /// Draws the figure's own colours on an empty picture first, whole pixels only, and joins them with
-  /// the surface in one go: so no pixel is joined twice, however often the figure crosses itself.
+  /// Draws the figure's own colours on an empty picture first, whole pixels only, and merges them into
+  /// the surface in one go.
   template <typename Draw>
-  void PaintJoined(const QRect& reach, Draw draw) {
+  void PaintMerged(const QRect& reach, Draw draw) {
     const auto width = static_cast<std::size_t>(reach.width());
     figure.assign(width * reach.height(), 0);
     {
@@ -144,11 +144,11 @@ struct Canvas::Engine {
       draw(own);
     }
     if (recorder) {
-      recorder->Joined({mode, reach.left(), reach.top(), reach.width(), reach.height(), figure.data()});
+      recorder->Merged({reach.left(), reach.top(), reach.width(), reach.height(), figure.data()});
       return;
     }
     for (int y = 0; y < reach.height(); ++y)
-      JoinPixels(mode, surface->Row(reach.top() + y) + reach.left() * 4, figure.data() + y * width, width);
+      MergePixels(surface->Row(reach.top() + y) + reach.left() * 4, figure.data() + y * width, width);
   }
 
   bool Dot(RealPoint at) {
@@ -235,8 +235,7 @@ void Canvas::SetPen(const Pen& pen) {
 const Pen& Canvas::CurrentPen() const { return engine_->pen; }
 
 void Canvas::SetROP2(Rop2 mode) {
-  const int number = static_cast<int>(mode);
-  engine_->mode = number >= 1 && number <= 16 ? mode : Rop2::CopyPen;
+  engine_->mode = mode == Rop2::MergePen ? mode : Rop2::CopyPen;
 }
 
 Rop2 Canvas::CurrentROP2() const { return engine_->mode; }

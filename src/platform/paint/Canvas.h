@@ -9,10 +9,10 @@
 
 namespace kinalyx {
 
-/// Raster modes, 1 to 16: how a pen's pixels join those that are there.
+/// Raster modes: how a pen's pixels join those that are there. By their old numbers, of which there are 16.
 enum class Rop2 {
-  Black = 1, NotMergePen, MaskNotPen, NotCopyPen, MaskPenNot, Not, XorPen, NotMaskPen,
-  MaskPen, NotXorPen, Nop, MergeNotPen, CopyPen, MergePenNot, MergePen, White
+  CopyPen = 13,
+  MergePen = 15,  ///< a bit is set that either of the two has
 };
 
 class IFigureRecorder;
@@ -24,8 +24,7 @@ struct Pen {
 };
 
 /// Draws lines and figures on a surface that it does not own and that must outlive it. In copy mode
-/// strokes are antialiased with round ends and joints; every other raster mode touches whole pixels,
-/// each at most once per figure. A point means the middle of its pixel; a line of even width lies one
+/// strokes are antialiased with round ends and joints; merging touches whole pixels. A point means the middle of its pixel; a line of even width lies one
 /// half pixel up and left of it, so that upright lines stay crisp. Coordinates are pixels, any 32-bit
 /// value, clipped to the surface. Each figure returns false when it could not be drawn (an empty
 /// surface); too few points draw nothing and count as drawn. The surface may be read, written and
@@ -39,6 +38,7 @@ class Canvas {
 
   void SetPen(const Pen& pen);
   const Pen& CurrentPen() const;
+  /// A number that is no mode counts as copying.
   void SetROP2(Rop2 mode);
   Rop2 CurrentROP2() const;
   /// The colour that fills polygons and ellipses; none leaves them hollow.

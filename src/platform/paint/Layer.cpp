@@ -33,9 +33,8 @@ struct Run {
   std::uint32_t pen = 0;
 };
 
-/// One layer of paint: blocks that are blended, or runs that are joined in a raster mode.
+/// One layer of paint: blocks that are blended, or runs that are merged.
 struct Coat {
-  Rop2 mode = Rop2::CopyPen;
   std::vector<BlockPlace> places;
   std::vector<Block> blocks;
   std::vector<Run> runs;
@@ -87,10 +86,9 @@ class Recorder final : public IFigureRecorder {
     lastRow_ = std::max(lastRow_, lastRow);
   }
 
-  void Joined(const RasterFigure& figure) override {
+  void Merged(const RasterFigure& figure) override {
     TakeDrawnUnder(figure);
     Coat coat;
-    coat.mode = figure.mode;
     for (int y = 0; y < figure.height; ++y) {
       const std::uint32_t* row = figure.pixels + static_cast<std::size_t>(y) * figure.width;
       const std::size_t start = static_cast<std::size_t>(figure.top + y) * surface_.Width() + figure.left;
@@ -221,7 +219,7 @@ void Layer::LayOver(Surface& target) const {
       BlendBlock(rest, coat.blocks[whole]);
       std::memcpy(last, rest, bytes);
     }
-    for (const Run& run : coat.runs) JoinRun(coat.mode, pixels + std::size_t{run.place} * 4, run.pen, run.count);
+    for (const Run& run : coat.runs) MergeRun(pixels + std::size_t{run.place} * 4, run.pen, run.count);
   }
 }
 

@@ -23,7 +23,7 @@ bool Scale(const std::uint8_t* from, int stride, const PixelRows& rows, bool bot
 
 /// The fourth byte of 32-bit rows may hold anything, and the filter's short fractions let a 255 fade.
 void FillFourth(Surface& target) {
-  JoinRun(Rop2::MergePen, target.Row(0), 0xFF000000u, static_cast<std::size_t>(target.Width()) * target.Height());
+  MergeRun(target.Row(0), 0xFF000000u, static_cast<std::size_t>(target.Width()) * target.Height());
 }
 
 }  // namespace

@@ -52,56 +52,41 @@ struct Sheet {
   }
 };
 
-TEST(Canvas, EveryRasterModeJoinsPenBrushAndPictureBitByBit) {
+TEST(Canvas, MergingSetsTheBitsOfPenBrushAndPicture) {
   const Colour old = Rgb(0x0F, 0xA5, 0x3C);
   const Colour penColour = Rgb(0x33, 0x0F, 0xF0);
   const Colour brushColour = Rgb(0x55, 0xF0, 0x99);
-  // The modes are numbered by what they make of a pen's and a picture's bit: 1 for both 0, 2 for the
-  // picture's alone, 4 for the pen's alone, 8 for both 1, and one more, as they count from 1.
-  const auto expected = [&](int mode, Colour ink) {
-    Colour result = 0;
-    for (int bit = 0; bit < 24; ++bit) {
-      const int pair = (ink >> bit & 1) * 2 + (old >> bit & 1);
-      result |= ((mode - 1) >> pair & 1) << bit;
-    }
-    return result;
-  };
   const std::array<POINTAPI, 4> box = {{{10, 10}, {30, 10}, {30, 30}, {10, 30}}};
-  for (int mode = 1; mode <= 16; ++mode) {
-    SCOPED_TRACE(mode);
-    Sheet sheet(41, 40, 3, static_cast<Rop2>(mode));
-    sheet.surface.Clear(old);
-    sheet.canvas.SetPen({penColour, 3, 0});
-    sheet.canvas.SetBrush(brushColour);
-    ASSERT_TRUE(sheet.canvas.Polygon(box));
-    EXPECT_EQ(sheet.At(20, 20), expected(mode, brushColour));
-    EXPECT_EQ(sheet.At(20, 10), expected(mode, penColour)) << "the outline lies in place of the filling, not over it";
-    EXPECT_EQ(sheet.At(20, 5), old);
-    EXPECT_EQ(sheet.At(35, 20), old);
-    EXPECT_TRUE(IsOpaque(sheet.surface));
-  }
+  Sheet sheet(41, 40, 3, Rop2::MergePen);
+  sheet.surface.Clear(old);
+  sheet.canvas.SetPen({penColour, 3, 0});
+  sheet.canvas.SetBrush(brushColour);
+  ASSERT_TRUE(sheet.canvas.Polygon(box));
+  EXPECT_EQ(sheet.At(20, 20), old | brushColour);
+  EXPECT_EQ(sheet.At(20, 10), old | penColour) << "the outline lies in place of the filling, not over it";
+  EXPECT_EQ(sheet.At(20, 5), old);
+  EXPECT_EQ(sheet.At(35, 20), old);
+  EXPECT_TRUE(IsOpaque(sheet.surface));
+  sheet.canvas.SetROP2(static_cast<Rop2>(7));
+  EXPECT_EQ(sheet.canvas.CurrentROP2(), Rop2::CopyPen) << "a mode that is no more";
 }
 
-TEST(Canvas, JoiningTouchesEachPixelOnceHoweverOftenAFigureCrossesItself) {
+TEST(Canvas, MergingTouchesWholePixels) {
   std::vector<POINTAPI> scribble;
   std::mt19937 random(5);
   for (int i = 0; i < 60; ++i)
     scribble.push_back({static_cast<int>(random() % 90) - 5, static_cast<int>(random() % 90) - 5});
   for (const int width : {1, 2, 7}) {
     Sheet merged(80, 80, width, Rop2::MergePen);
-    Sheet joined(80, 80, width, Rop2::XorPen);
     merged.canvas.Polyline(scribble);
-    joined.canvas.Polyline(scribble);
-    EXPECT_EQ(joined.Touched(), merged.Touched()) << width;
-    for (const auto& [x, y] : joined.Touched()) ASSERT_EQ(joined.At(x, y), kWhite) << "whole pixels only";
-    joined.canvas.Polyline(scribble);
-    EXPECT_TRUE(joined.Touched().empty()) << "a second stroke takes the first away";
+    EXPECT_GT(merged.Touched().size(), 500u);
+    for (const auto& [x, y] : merged.Touched()) ASSERT_EQ(merged.At(x, y), kWhite);
   }
 }
 
 TEST(Canvas, LinesOfACrispWidthFillTheirRowsAndNoOthers) {
   for (const auto& [width, first, last] : {std::tuple{1, 10, 10}, {2, 9, 10}, {3, 9, 11}, {4, 8, 11}}) {
-    for (const Rop2 mode : {Rop2::CopyPen, Rop2::XorPen}) {
+    for (const Rop2 mode : {Rop2::CopyPen, Rop2::MergePen}) {
       SCOPED_TRACE(testing::Message() << "width " << width << " mode " << static_cast<int>(mode));
       Sheet sheet(40, 20, width, mode);
       sheet.canvas.Line({8, 10}, {30, 10});
@@ -127,7 +112,7 @@ TEST(Canvas, CopyModeSoftensEdgesAndRoundsEnds) {
 TEST(Canvas, DegenerateFiguresDrawALineOrADot) {
   const POINTAPI here{20, 20};
   const std::array<POINTAPI, 3> same = {here, here, here};
-  for (const Rop2 mode : {Rop2::CopyPen, Rop2::XorPen}) {
+  for (const Rop2 mode : {Rop2::CopyPen, Rop2::MergePen}) {
     for (const int width : {1, 2, 5}) {
       SCOPED_TRACE(testing::Message() << "width " << width << " mode " << static_cast<int>(mode));
       Sheet sheet(40, 40, width, mode);
@@ -154,7 +139,7 @@ TEST(Canvas, DegenerateFiguresDrawALineOrADot) {
 }
 
 TEST(Canvas, EllipsesTakeTheirCornersInAnyOrder) {
-  for (const Rop2 mode : {Rop2::CopyPen, Rop2::XorPen}) {
+  for (const Rop2 mode : {Rop2::CopyPen, Rop2::MergePen}) {
     for (const auto& [a, b] : {std::pair<POINTAPI, POINTAPI>{{10, 8}, {40, 28}}, {{40, 28}, {10, 8}}, {{40, 8}, {10, 28}}}) {
       Sheet sheet(50, 40, 1, mode);
       sheet.canvas.Ellipse(a, b);
@@ -211,8 +196,8 @@ TEST(Canvas, FiguresFarOutsideShowTheirPartOfThePicture) {
 }
 
 TEST(Canvas, ALineCutAtTheBandJoinsUpWithTheSameLineDrawnWhole) {
-  Sheet whole(200, 200, 3, Rop2::XorPen);
-  Sheet cut(200, 200, 3, Rop2::XorPen);
+  Sheet whole(200, 200, 3, Rop2::MergePen);
+  Sheet cut(200, 200, 3, Rop2::MergePen);
   for (const auto& [sheet, reach] : {std::pair{&whole, 4}, {&cut, 400}}) {
     // The same visible corner at (100, 100), its ends near or far along the same directions.
     const POINTAPI from{100 - 100 * reach, 100 - 50 * reach};
