@@ -18,6 +18,7 @@
 #include "platform/files/Folders.h"
 #include "platform/host/QtHost.h"
 #include "platform/widgets/Scale.h"
+#include "platform/widgets/Text.h"
 #include "platform/widgets/Theme.h"
 #include "workspace/forms/AnalysisForm.h"
 
@@ -31,8 +32,6 @@ constexpr int kSettledMs = 150;
 constexpr int kFramedMs = 150;
 /// Sections whose subsystems are not built yet.
 constexpr int kComing[] = {kCapturePage, kLessonPage};
-
-QString Text(const std::string& text) { return QString::fromStdString(text); }
 
 }  // namespace
 
@@ -55,7 +54,7 @@ int Program::Run() {
           {.applyScheme =
                [this] {
                  const WindowPlace place = PlaceOfMain();
-                 TakeSize(place.width / kTwipsOfPixel, place.height / kTwipsOfPixel);
+                 TakeSize(place.width / kTwipsPerPixel, place.height / kTwipsPerPixel);
                  DressApplication();
                },
            .ensureFields = [this] { fields_.EnsureFile(); },
@@ -117,14 +116,14 @@ void Program::LoadMain() {
   main_->SetPage(kSetupPage, setup_);
   ConnectSetupPage();
 
-  help_ = new HelpPage(Text(JoinPath(settings_.AppPath, "help")));
+  help_ = new HelpPage(Q(JoinPath(settings_.AppPath, "help")));
   main_->SetPage(kHelpPage, help_);
 
   for (const int index : kComing) {
     main_->SetSectionComing(index);
     menu_->SetSectionComing(index);
   }
-  main_->SetCompany(Text(settings_.CompanyName));
+  main_->SetCompany(Q(settings_.CompanyName));
   SetupVocabulary();
   setup_->SetupProgram();
   settings_.LoadCaptureSettings();
@@ -164,7 +163,7 @@ WindowPlace Program::PlaceOfMain() const {
 void Program::PlaceMain() {
   main_->setWindowTitle("Kinalyx " + QCoreApplication::applicationVersion().section('.', 0, 1));
   const WindowPlace place = PlaceOfMain();
-  const QSize size(place.width / kTwipsOfPixel, place.height / kTwipsOfPixel);
+  const QSize size(place.width / kTwipsPerPixel, place.height / kTwipsPerPixel);
   main_->SetFullScreen(place.fullScreen);
   // Less has no room for the pages, also where the mode asks for it.
   const QScreen* screen = main_->screen();
@@ -173,7 +172,7 @@ void Program::PlaceMain() {
     main_->setGeometry(QRect(QPoint(), size));
     main_->showFullScreen();
   } else {
-    main_->setGeometry(QRect(QPoint(place.left / kTwipsOfPixel, place.top / kTwipsOfPixel), size));
+    main_->setGeometry(QRect(QPoint(place.left / kTwipsPerPixel, place.top / kTwipsPerPixel), size));
     FitMain();
     main_->show();
     // The frame is known once the desktop has put it around the window.
@@ -210,7 +209,7 @@ void Program::OpenPage(int index) {
   if (index != main_->CurrentPage() && !main_->LeavePage()) return;
   KeepLastStudent();
   if (index == kAnalysisPage) {
-    main_->SetHeading(Text(vocabulary_.PageTitle(kAnalysisPage)));
+    main_->SetHeading(Q(vocabulary_.PageTitle(kAnalysisPage)));
     Analysis();
     main_->OpenPage(kAnalysisPage, "Analysis");
     return;
@@ -218,11 +217,11 @@ void Program::OpenPage(int index) {
   if (!main_->Page(index)) return;
   if (index == kSetupPage && setup_->CurrentSection() < 0) setup_->PSCmd_Click(SetupPage::kMainMenu);
   if (index == kHelpPage) help_->Navigate("index.htm");
-  main_->OpenPage(index, Text(vocabulary_.PageTitle(index)));
+  main_->OpenPage(index, Q(vocabulary_.PageTitle(index)));
 }
 
 void Program::SetupVocabulary() {
-  for (int index = 1; index <= 8; ++index) main_->SetSectionCaption(index, Text(vocabulary_.PageButton(index)));
+  for (int index = 1; index <= 8; ++index) main_->SetSectionCaption(index, Q(vocabulary_.PageButton(index)));
   menu_->SetupVocabulary();
   setup_->SetupVocabulary();
   profiles_->SetupVocabulary();
@@ -294,8 +293,8 @@ bool Program::Shutdown() {
   }
   KeepLastStudent();
   const QRect place = main_->frameGeometry();
-  settings_.StoreWindowPlace(place.top() * kTwipsOfPixel, place.left() * kTwipsOfPixel, place.width() * kTwipsOfPixel,
-                             place.height() * kTwipsOfPixel);
+  settings_.StoreWindowPlace(place.top() * kTwipsPerPixel, place.left() * kTwipsPerPixel, place.width() * kTwipsPerPixel,
+                             place.height() * kTwipsPerPixel);
   return true;
 }
 

@@ -61,8 +61,8 @@ std::array<SystemTestRow, 5> SystemTests(IHost& host, const Settings& settings) 
   figures.freeBytes = host.Drives().Ask(settings.LibraryPath, free).value_or(-1);
   const WindowPlace window = PlaceForMode(settings.WindowMode, figures.system.screenWidth, figures.system.screenHeight);
   if (!window.fullScreen) {
-    figures.neededWidth = std::max(figures.neededWidth, window.width / kTwipsOfPixel);
-    figures.neededHeight = std::max(figures.neededHeight, window.height / kTwipsOfPixel);
+    figures.neededWidth = std::max(figures.neededWidth, window.width / kTwipsPerPixel);
+    figures.neededHeight = std::max(figures.neededHeight, window.height / kTwipsPerPixel);
   }
   return RateMachine(figures);
 }

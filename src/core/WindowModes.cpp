@@ -20,10 +20,10 @@ struct Window {
 };
 
 constexpr Window kWindows[] = {
-    {"2", 1280 * kTwipsOfPixel, 800 * kTwipsOfPixel, 9600, 6000},
+    {"2", 1280 * kTwipsPerPixel, 800 * kTwipsPerPixel, 9600, 6000},
     // 7860 is not half of the width: the window has always stood a little to the left.
-    {"3", 1024 * kTwipsOfPixel, 768 * kTwipsOfPixel, 7860, 5760},
-    {"4", 800 * kTwipsOfPixel, 600 * kTwipsOfPixel, 6000, 4500},
+    {"3", 1024 * kTwipsPerPixel, 768 * kTwipsPerPixel, 7860, 5760},
+    {"4", 800 * kTwipsPerPixel, 600 * kTwipsPerPixel, 6000, 4500},
 };
 
 }  // namespace
@@ -31,8 +31,8 @@ constexpr Window kWindows[] = {
 std::span<const WindowModeItem> WindowModeItems() { return kItems; }
 
 WindowPlace PlaceForMode(std::string_view mode, int screenWidth, int screenHeight) {
-  const std::int32_t width = screenWidth * kTwipsOfPixel;
-  const std::int32_t height = screenHeight * kTwipsOfPixel;
+  const std::int32_t width = screenWidth * kTwipsPerPixel;
+  const std::int32_t height = screenHeight * kTwipsPerPixel;
   for (const Window& window : kWindows) {
     if (window.mode == mode)
       return {height / 2 - window.fromMiddleY, width / 2 - window.fromMiddleX, window.width, window.height, false};
@@ -48,7 +48,7 @@ ScreenArea FitOnScreen(ScreenArea window, const ScreenArea& available) {
   return window;
 }
 
-int ScreenClass(std::int32_t formWidth) { return formWidth / kTwipsOfPixel < 1025 ? 1 : 2; }
+int ScreenClass(std::int32_t formWidth) { return formWidth / kTwipsPerPixel < 1025 ? 1 : 2; }
 
 bool ChooseWindowMode(Settings& settings, std::string_view mode) {
   if (settings.WindowMode == mode) return false;

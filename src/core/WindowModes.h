@@ -5,11 +5,9 @@
 #include <string_view>
 
 #include "core/Settings.h"
+#include "core/Twips.h"
 
 namespace kinalyx {
-
-/// Twips, the unit of forms, to a pixel.
-inline constexpr std::int32_t kTwipsOfPixel = 15;
 
 /// A place on the screen in twips.
 struct WindowPlace {

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/Twips.h"
 #include "platform/paint/Geometry.h"
 
 namespace kinalyx {
@@ -84,8 +85,6 @@ struct ShapeList {
 
   friend bool operator==(const ShapeList&, const ShapeList&) = default;
 };
-
-constexpr int kTwipsPerPixel = 15;
 
 /// The shapes that count.
 std::span<Shape> ShapesOf(ShapeList& list);

@@ -20,17 +20,16 @@
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Figures.h"
 #include "platform/widgets/Panel.h"
+#include "platform/widgets/Text.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
 
 namespace {
 
-QString Text(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
-
 /// Shows a text without moving the cursor of somebody who is typing the same.
 void ShowText(QLineEdit* box, const std::string& text) {
-  if (box->text() != Text(text)) box->setText(Text(text));
+  if (box->text() != Q(text)) box->setText(Q(text));
 }
 
 }  // namespace
@@ -97,7 +96,7 @@ void GeneralSection::AddWindow() {
   resolution_ = new QComboBox;
   resolution_->setObjectName("cboResolution");
   resolution_->setAccessibleName("Window mode");
-  for (const WindowModeItem& item : WindowModeItems()) resolution_->addItem(Text(item.text), Text(item.mode));
+  for (const WindowModeItem& item : WindowModeItems()) resolution_->addItem(Q(item.text), Q(item.mode));
   rows->addWidget(resolution_);
   QLabel* note = MakeLabel({}, "Kinalyx starts anew to change its window.", "caption");
   rows->addWidget(note);
@@ -113,7 +112,7 @@ void GeneralSection::AddColours() {
   for (const ColorScheme& scheme : ColorSchemes::All()) {
     std::array<QColor, 4> colours;
     for (std::size_t i = 0; i < colours.size(); ++i) colours[i] = ColorOf(scheme.colours[i]);
-    auto* choice = new SchemeButton(QString("optLayout%1").arg(index), Text(scheme.caption), colours);
+    auto* choice = new SchemeButton(QString("optLayout%1").arg(index), Q(scheme.caption), colours);
     choice->setCheckable(true);
     designs_->addButton(choice, index);
     grid->addWidget(choice, index / 2, index % 2);
@@ -171,21 +170,21 @@ void GeneralSection::SetupProgram() {
   ShowText(company_, settings_.CompanyName);
   ShowText(noun_, settings_.PrimaryName[0]);
   // A mode that the list does not offer leaves it without a choice.
-  resolution_->setCurrentIndex(resolution_->findData(Text(settings_.WindowMode)));
+  resolution_->setCurrentIndex(resolution_->findData(Q(settings_.WindowMode)));
   if (QAbstractButton* design = designs_->button(schemes_.Design())) design->setChecked(true);
   ShowLibrary();
 }
 
 void GeneralSection::ShowLibrary() {
   network_->setChecked(settings_.UseNetwork);
-  path_->ShowPath(Text(settings_.LibraryPath));
+  path_->ShowPath(Q(settings_.LibraryPath));
 }
 
 void GeneralSection::Text3_LostFocus() {
   if (settings_.Loading) return;
   const QString text = noun_->text().trimmed();  // the word stands in the middle of sentences
   if (text.isEmpty()) {
-    noun_->setText(Text(settings_.PrimaryName[0]));  // no page could be named without a word
+    noun_->setText(Q(settings_.PrimaryName[0]));  // no page could be named without a word
   } else if (SetPrimaryName(settings_, text.toStdString())) {
     emit VocabularyChanged();
   }
@@ -214,8 +213,8 @@ void GeneralSection::SSCheck4_Click(bool on) {
 void GeneralSection::RunSystemTest() {
   const auto rows = SystemTests(host_, settings_);
   for (std::size_t i = 0; i < rows.size(); ++i) {
-    titles_[i]->setText(Text(rows[i].title));
-    texts_[i]->setText(Text(rows[i].text));
+    titles_[i]->setText(Q(rows[i].title));
+    texts_[i]->setText(Q(rows[i].text));
     gauges_[i]->Show(ColorOf(rows[i].colour), rows[i].percent);
   }
   results_->show();

@@ -5,7 +5,7 @@
 #include <QTextBoundaryFinder>
 
 #include "library/LibraryTree.h"
-#include "library/forms/Text.h"
+#include "platform/widgets/Text.h"
 
 namespace kinalyx {
 

@@ -9,12 +9,12 @@
 #include "library/LibraryReading.h"
 #include "library/forms/BoxLimits.h"
 #include "library/forms/DriveChoice.h"
-#include "library/forms/Text.h"
 #include "platform/files/Folders.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/NameList.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
+#include "platform/widgets/Text.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {

@@ -5,11 +5,11 @@
 #include <QSignalBlocker>
 
 #include "library/DiskSpace.h"
-#include "library/forms/Text.h"
 #include "platform/files/Folders.h"
 #include "platform/host/DriveWatch.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Scale.h"
+#include "platform/widgets/Text.h"
 
 namespace kinalyx {
 

@@ -8,9 +8,9 @@
 #include <algorithm>
 
 #include "library/forms/BoxLimits.h"
-#include "library/forms/Text.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
+#include "platform/widgets/Text.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {

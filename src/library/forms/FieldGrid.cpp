@@ -4,9 +4,9 @@
 #include <QLabel>
 #include <QPainter>
 
-#include "library/forms/Text.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
+#include "platform/widgets/Text.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {

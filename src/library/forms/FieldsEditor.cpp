@@ -5,8 +5,8 @@
 #include <QLineEdit>
 
 #include "library/forms/FieldBoxes.h"
-#include "library/forms/Text.h"
 #include "platform/widgets/Panel.h"
+#include "platform/widgets/Text.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {

@@ -12,10 +12,10 @@
 #include "library/forms/LibrarySide.h"
 #include "library/forms/ProgressForm.h"
 #include "library/forms/StatusLine.h"
-#include "library/forms/Text.h"
 #include "platform/host/DriveWatch.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Scale.h"
+#include "platform/widgets/Text.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {

@@ -5,8 +5,8 @@
 
 #include "library/forms/HeadButton.h"
 #include "library/forms/StatusLine.h"
-#include "library/forms/Text.h"
 #include "platform/widgets/NameList.h"
+#include "platform/widgets/Text.h"
 
 namespace kinalyx {
 

@@ -4,8 +4,8 @@
 #include "library/TrimJob.h"
 #include "library/forms/EditPanel.h"
 #include "library/forms/ProgressForm.h"
-#include "library/forms/Text.h"
 #include "library/forms/VideosPanel.h"
+#include "platform/widgets/Text.h"
 
 namespace kinalyx {
 

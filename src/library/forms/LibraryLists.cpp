@@ -4,8 +4,8 @@
 
 #include "library/LibraryHints.h"
 #include "library/LibraryReading.h"
-#include "library/forms/Text.h"
 #include "platform/files/Folders.h"
+#include "platform/widgets/Text.h"
 
 namespace kinalyx {
 

@@ -9,10 +9,10 @@
 #include "library/LibraryReading.h"
 #include "library/forms/Divider.h"
 #include "library/forms/LibraryLists.h"
-#include "library/forms/Text.h"
 #include "platform/files/Folders.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/NameList.h"
+#include "platform/widgets/Text.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {

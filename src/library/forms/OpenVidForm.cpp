@@ -10,11 +10,11 @@
 #include "library/forms/LibraryLists.h"
 #include "library/forms/PreviewPlayer.h"
 #include "library/forms/SidecarMarkLabels.h"
-#include "library/forms/Text.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Figures.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
+#include "platform/widgets/Text.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {

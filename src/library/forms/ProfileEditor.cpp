@@ -10,9 +10,9 @@
 #include "library/LibraryActions.h"
 #include "library/forms/BoxLimits.h"
 #include "library/forms/FieldBoxes.h"
-#include "library/forms/Text.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Scale.h"
+#include "platform/widgets/Text.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {

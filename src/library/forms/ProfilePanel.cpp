@@ -13,10 +13,10 @@
 #include "library/forms/Divider.h"
 #include "library/forms/FieldGrid.h"
 #include "library/forms/HeadButton.h"
-#include "library/forms/Text.h"
 #include "platform/files/Folders.h"
 #include "platform/host/DriveWatch.h"
 #include "platform/widgets/Scale.h"
+#include "platform/widgets/Text.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {

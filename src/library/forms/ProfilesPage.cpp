@@ -16,11 +16,11 @@
 #include "library/forms/ProfileEditor.h"
 #include "library/forms/ProfilePanel.h"
 #include "library/forms/StatusLine.h"
-#include "library/forms/Text.h"
 #include "library/forms/VideosPanel.h"
 #include "platform/host/DriveWatch.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
+#include "platform/widgets/Text.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {

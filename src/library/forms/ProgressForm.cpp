@@ -4,10 +4,10 @@
 #include <QLabel>
 #include <QProgressBar>
 
-#include "library/forms/Text.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
+#include "platform/widgets/Text.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {

@@ -12,9 +12,9 @@
 #include "library/forms/Divider.h"
 #include "library/forms/EditPanel.h"
 #include "library/forms/SidecarMarkLabels.h"
-#include "library/forms/Text.h"
 #include "platform/widgets/Figures.h"
 #include "platform/widgets/Scale.h"
+#include "platform/widgets/Text.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {

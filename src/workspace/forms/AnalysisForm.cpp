@@ -13,6 +13,7 @@
 #include "library/forms/OpenVidForm.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
+#include "platform/widgets/Text.h"
 #include "video/KeyCodes.h"
 #include "video/forms/VideoView.h"
 #include "workspace/forms/CalibrationPanel.h"
@@ -38,8 +39,6 @@ constexpr int kOpenPanelNarrow = 264;   // and of a small one
 constexpr int kOpenPanelWidest = 360;
 constexpr int kDesignedWidth = 1280;
 constexpr double kOpenPanelShare = 0.65;  // of the stage, where the panel stands over it
-
-QString Text(const std::string& text) { return QString::fromStdString(text); }
 
 int ToPixels(int twips) { return static_cast<int>(std::floor(static_cast<double>(twips) / kTwipsPerPixel + 0.5)); }
 
@@ -220,11 +219,11 @@ void AnalysisForm::PlacePlayer(int slot, const TwipRect& place, bool shown) {
 }
 
 void AnalysisForm::PaintBorder(int slot, bool current) { Cell(slot).SetCurrent(current); }
-void AnalysisForm::SetCellTitle(int slot, const std::string& title) { Cell(slot).SetTitle(Text(title)); }
+void AnalysisForm::SetCellTitle(int slot, const std::string& title) { Cell(slot).SetTitle(Q(title)); }
 
 void AnalysisForm::SetCellPosition(int slot, int position, int maximum, const std::string& line) {
   const bool covered = slot == analysis_->Slots().CurrentWindow && playBar_->Docked();
-  Cell(slot).SetPosition(position, maximum, Text(line), covered);
+  Cell(slot).SetPosition(position, maximum, Q(line), covered);
 }
 
 // ---------------------------------------------------------------- play bar
@@ -240,7 +239,7 @@ void AnalysisForm::SetPlayPicture(bool playing) { playBar_->SetPlayPicture(playi
 void AnalysisForm::SetSlomoButton(bool down) { playBar_->SetSlomo(down); }
 void AnalysisForm::SetLoopButton(bool down) { playBar_->SetLoop(down); }
 void AnalysisForm::SetDisplayLine(const std::string& line, const std::string& counter) {
-  playBar_->SetLine(Text(line), Text(counter));
+  playBar_->SetLine(Q(line), Q(counter));
 }
 void AnalysisForm::SetMarks(const std::vector<int>& marks) { playBar_->SetMarks(marks); }
 
@@ -262,7 +261,7 @@ void AnalysisForm::PlaceCaption() {
   if (calibration_ && !calibration_->isHidden()) calibration_->raise();
 }
 
-void AnalysisForm::SetDisplayText(const std::string& text) { caption_->SetText(Text(text)); }
+void AnalysisForm::SetDisplayText(const std::string& text) { caption_->SetText(Q(text)); }
 void AnalysisForm::ShowVectorColor(Colour colour) { caption_->ShowColor(colour); }
 void AnalysisForm::HideVectorColor() { caption_->HideColor(); }
 void AnalysisForm::SetColorButton(int index) { colors_->Press(index); }
@@ -286,7 +285,7 @@ void AnalysisForm::HideNotesPnl() {
 void AnalysisForm::ShowVideoTimer(bool shown) { shown ? timer_->Open(FloatCard::Place::TopRight) : timer_->hide(); }
 
 void AnalysisForm::SetVideoTimer(const std::string& reading, bool negative, const std::string& rate) {
-  timer_->SetReading(Text(reading), negative, Text(rate));
+  timer_->SetReading(Q(reading), negative, Q(rate));
 }
 
 void AnalysisForm::ShowCalibration(bool shown) {
@@ -298,7 +297,7 @@ void AnalysisForm::ShowCalibration(bool shown) {
   }
 }
 
-void AnalysisForm::SetCalibrationLength(const std::string& length) { calibration_->SetLength(Text(length)); }
+void AnalysisForm::SetCalibrationLength(const std::string& length) { calibration_->SetLength(Q(length)); }
 
 void AnalysisForm::ShowNotesform() {
   Notesform form(host_, BoxText(analysis_->Slots().Current().data.Notes), this);

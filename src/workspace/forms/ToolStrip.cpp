@@ -8,6 +8,7 @@
 #include "platform/widgets/Icons.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
+#include "platform/widgets/Text.h"
 #include "platform/widgets/Theme.h"
 #include "workspace/MenuBar.h"
 
@@ -15,8 +16,6 @@ namespace kinalyx {
 namespace {
 
 constexpr int kMargin = 10;
-
-QString Text(const std::string& text) { return QString::fromStdString(text); }
 
 }  // namespace
 
@@ -30,7 +29,7 @@ ToolStrip::ToolStrip(const std::vector<Command>& commands, std::function<void(co
   for (const Command& command : commands) {
     if (command.group == 0) continue;
     const std::string name = command.button.empty() ? command.item : command.button;
-    auto* button = IconButton(Text(name), Text(command.icon), Text(command.tip), Look::Flat, this);
+    auto* button = IconButton(Q(name), Q(command.icon), Q(command.tip), Look::Flat, this);
     button->setProperty("placed", true);
     button->setFocusPolicy(Qt::NoFocus);
     button->setCheckable(static_cast<bool>(command.checked));
@@ -49,9 +48,9 @@ ToolStrip::ToolStrip(const std::vector<Command>& commands, std::function<void(co
 
 void ToolStrip::Update() {
   for (const Tool& tool : tools_) {
-    const QString reason = Text(tool.command->Reason());
+    const QString reason = Q(tool.command->Reason());
     tool.button->setEnabled(reason.isEmpty());
-    tool.button->setToolTip(reason.isEmpty() ? Text(tool.command->tip) : Text(tool.command->tip) + " \u2014 " + reason);
+    tool.button->setToolTip(reason.isEmpty() ? Q(tool.command->tip) : Q(tool.command->tip) + " \u2014 " + reason);
     if (tool.command->checked) tool.button->setChecked(tool.command->checked());
   }
 }
@@ -129,12 +128,12 @@ void ToolStrip::ShowMore() {
   std::string chosen;
   for (const Tool& tool : tools_) {
     if (tool.placed) continue;
-    const QString reason = Text(tool.command->Reason());
-    QAction* action = menu.addAction(Icon(Text(tool.command->icon), theme.heading, theme.accentText), Text(tool.command->tip));
+    const QString reason = Q(tool.command->Reason());
+    QAction* action = menu.addAction(Icon(Q(tool.command->icon), theme.heading, theme.accentText), Q(tool.command->tip));
     action->setEnabled(reason.isEmpty());
     if (!reason.isEmpty()) {
       action->setToolTip(reason);
-      action->setText(Text(tool.command->tip) + "\t" + reason);
+      action->setText(Q(tool.command->tip) + "\t" + reason);
     }
     connect(action, &QAction::triggered, &menu, [&chosen, &tool] { chosen = tool.name; });
   }
