@@ -123,12 +123,19 @@ const Register kDualStep({"dual_step", {Target::Of::Ratio, 2.2, 2.05}, [] {
   // Both ways start from pictures that have been decoded once.
   for (int i = 0; i < kSteps; ++i) forward();
   locks.DualLock(1);
+  locks.DualControlRewind();
   for (int i = 0; i < kSteps; ++i) forward();
   locks.DualControlRewind();
-  const double both = MedianOf(kSteps, forward);
+  // The first field of a picture has it converted, the second finds that done: only two steps together cost
+  // the same each time. The median of single ones would lie in the gap between the two costs.
+  const auto picture = [&] {
+    forward();
+    forward();
+  };
+  const double both = MedianOf(kSteps / 2, picture) / 2;
   locks.DualUnlock(1);
   stage.MP(1).DrawFrame(0);
-  const double single = MedianOf(kSteps, forward);
+  const double single = MedianOf(kSteps / 2, picture) / 2;
   return Figure{both, "ms", single};
 }});
 
