@@ -7,6 +7,7 @@
 #include <stdexcept>
 
 #include "Bench.h"
+#include "platform/files/Log.h"
 #include "platform/host/QtHost.h"
 #include "support/TestVideos.h"
 #include "video/PlayScheduler.h"
@@ -46,7 +47,8 @@ Figure EightUp60() {
   const std::string made = test::MakeTestVideo(video);
   if (made.empty()) throw std::runtime_error("the test video could not be made");
 
-  const auto host = MakeQtHost();
+  Log log(ScratchFolder() + "/bench.log");
+  const auto host = MakeQtHost(log);
   Settings settings(*host, ScratchFolder() + "/eight-up", ScratchFolder());
   settings.LoadSettings();
   settings.ScreenMode = "8";

@@ -13,6 +13,7 @@
 #include "core/forms/SetupPage.h"
 #include "library/LibraryOperations.h"
 #include "library/forms/ProfilesPage.h"
+#include "platform/files/Log.h"
 #include "platform/host/QtHost.h"
 #include "platform/widgets/Theme.h"
 #include "workspace/forms/AnalysisForm.h"
@@ -21,7 +22,8 @@ namespace kinalyx::bench {
 namespace {
 
 const Register kThemeSwitch({"theme_switch", {Target::Of::AtMost, 150, 60}, [] {
-  const std::unique_ptr<IHost> host = MakeQtHost();
+  Log log(ScratchFolder() + "/bench.log");
+  const std::unique_ptr<IHost> host = MakeQtHost(log);
   Settings settings(*host, ScratchFolder() + "/theme", "");
   settings.LoadSettings();
   ColorSchemes schemes;

@@ -35,9 +35,9 @@ constexpr int kComing[] = {kCapturePage, kLessonPage};
 
 }  // namespace
 
-Program::Program(QApplication& application)
+Program::Program(QApplication& application, Log& log)
     : application_(application),
-      host_(MakeQtHost()),
+      host_(MakeQtHost(log)),
       settings_(*host_, Settings::UserDataPath(), ProgramFolder()),
       mail_(settings_.DataPath),
       vocabulary_(settings_),

@@ -24,6 +24,7 @@ namespace kinalyx {
 class AnalysisForm;
 class HelpPage;
 class ImportExportPage;
+class Log;
 class Main;
 class MenuPage;
 class ProfilesPage;
@@ -35,7 +36,8 @@ class SplashForm;
 class Program {
  public:
   /// @param application  made before and let go after the program
-  explicit Program(QApplication& application);
+  /// @param log          the same
+  Program(QApplication& application, Log& log);
   ~Program();
   Program(const Program&) = delete;
   Program& operator=(const Program&) = delete;

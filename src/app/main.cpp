@@ -2,6 +2,10 @@
 #include <clocale>
 
 #include "app/Program.h"
+#include "core/Settings.h"
+#include "platform/files/Folders.h"
+#include "platform/files/Log.h"
+#include "platform/media/MediaLog.h"
 
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
@@ -9,6 +13,10 @@ int main(int argc, char** argv) {
   std::setlocale(LC_NUMERIC, "C");
   QApplication::setApplicationName("Kinalyx");
   QApplication::setApplicationVersion(KINALYX_VERSION);
-  kinalyx::Program program(application);
-  return program.Run();
+  using namespace kinalyx;
+  Log log(JoinPath(Settings::UserDataPath(), "kinalyx.log"));
+  SetMediaLog(&log);
+  const int result = Program(application, log).Run();
+  SetMediaLog(nullptr);
+  return result;
 }

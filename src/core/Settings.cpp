@@ -94,6 +94,7 @@ bool Settings::WriteCaptureKey(const std::string& section, const std::string& ke
 bool Settings::WriteTo(const std::string& file, const std::string& section, const std::string& key,
                        const std::string& value) {
   if (WritePrivateProfileString(section, key, value, file)) return true;
+  host_.Note(MessageKind::Warning, "a setting could not be saved");
   if (std::exchange(toldUnwritable_, true)) return false;
   // Told when the click that changed the setting is over, so that no slider is left dragging.
   host_.StartTimer(0, false, [&host = host_, text = fmt::format("The settings cannot be saved in {}, so changes last "
@@ -145,6 +146,7 @@ bool Settings::MakeFile(const std::vector<Key>& keys, const std::string& path) {
   for (const Key& key : keys) entries.push_back({key.section, key.name, key.firstRun});
   if (MakeFolder(DataPath) && WriteProfileEntries(entries, path)) return true;
   for (const Key& key : keys) Take(key, key.firstRun);
+  host_.Note(MessageKind::Warning, "the settings could not be made");
   if (!toldUnwritable_) {
     toldUnwritable_ = true;
     host_.Message(MessageKind::Warning, "",

@@ -92,6 +92,7 @@ bool AVIControl::Load(const std::string& FileName, bool SplitFields, bool Revers
 
   auto opened = VideoFile::Open(path);
   if (!opened.file) {
+    services_.host.Note(MessageKind::Warning, "a video could not be opened: " + opened.message);
     setBackColor(opened.fault == OpenFault::NoFrames ? kRed : kYellow);
     Unload();
     return false;

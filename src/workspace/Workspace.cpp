@@ -297,7 +297,11 @@ bool Workspace::SaveData(int slot, std::string* error) {
     AddMissingWork(whole, theirs, at.base);
     whole.Unread = whole.Unread || theirs.Unread;  // what cannot be read is kept beside
   }
-  if (!WriteVideoData(sidecar, whole, error)) return false;
+  std::string reason;
+  const bool written = WriteVideoData(sidecar, whole, &reason);
+  if (!written) host_.Note(MessageKind::Warning, "a sidecar could not be saved: " + reason);
+  if (error) *error = reason;
+  if (!written) return false;
   at.sidecarStamp = StampOf(sidecar);
   at.changed = at.data.Unread = false;
   const bool notesCame = at.data.Notes != whole.Notes;

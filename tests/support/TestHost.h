@@ -24,6 +24,7 @@ class TestHost final : public IHost {
 
   std::vector<std::string> messages;  ///< texts of all message boxes, in order
   std::vector<std::string> titles;    ///< their titles
+  std::vector<std::string> notes;     ///< what was written to the log
   std::vector<std::string> questions;
   std::deque<bool> answers;           ///< taken from the front; without one the answer is no
   std::deque<std::optional<std::string>> files;
@@ -67,6 +68,7 @@ class TestHost final : public IHost {
     titles.push_back(title);
     messages.push_back(text);
   }
+  void Note(MessageKind, const std::string& text) override { notes.push_back(text); }
   bool Question(const std::string& title, const std::string& text) override {
     titles.push_back(title);
     questions.push_back(text);

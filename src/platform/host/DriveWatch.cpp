@@ -58,6 +58,7 @@ bool DriveWatch::AnswersAtOnce(const std::string& place, const std::string& path
   const std::shared_ptr<IErrand> errand = send_([path] { TouchPath(path); });
   if (errand->Over(kUnnoticedMs)) return true;
   silent_[place] = errand;
+  host_.Note(MessageKind::Warning, "a drive does not answer");
   return false;
 }
 
@@ -81,7 +82,10 @@ bool DriveWatch::Carry(const std::string& place, Work work) {
   if (errand->Over(kUnnoticedMs)) return true;
   // Silent already while it is waited for: a handler that runs meanwhile must not wait for it as well.
   silent_[place] = errand;
-  if (!WaitUnderCard(place, *errand)) return false;
+  if (!WaitUnderCard(place, *errand)) {
+    host_.Note(MessageKind::Warning, "a drive does not answer and was given up");
+    return false;
+  }
   silent_.erase(place);
   return true;
 }

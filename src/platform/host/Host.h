@@ -40,8 +40,8 @@ class IWaitCard {
 };
 
 /// Everything that reaches the logic from outside: clock, timers, event pump, messages, questions,
-/// dialogs, sounds, child processes and drives that may not answer. The program passes one over Qt; tests pass one whose clock
-/// they turn by hand and whose questions they answer.
+/// dialogs, other programs, the log and drives that may not answer. The program passes one over Qt; tests pass
+/// one whose clock they turn by hand and whose questions they answer.
 class IHost {
  public:
   using TimerId = int;  ///< 0 is no timer
@@ -76,6 +76,10 @@ class IHost {
   virtual bool StartDetached(const std::string& program, const std::vector<std::string>& arguments) = 0;
 
   virtual SystemInfo System() = 0;
+
+  /// Writes down what went wrong, for whoever is asked to help later. Any thread may call it, and nobody waits
+  /// for it. The text names no student and no video; paths are left out of it.
+  virtual void Note(MessageKind kind, const std::string& text) = 0;
 
   /// The way to folders on drives that may not answer.
   virtual DriveWatch& Drives() = 0;

@@ -12,9 +12,11 @@
 #include <cstdlib>
 #include <fstream>
 #include <map>
+#include <mutex>
 
 #include <sys/sysinfo.h>
 
+#include "platform/files/Log.h"
 #include "platform/host/DriveWatch.h"
 
 namespace kinalyx {
@@ -22,6 +24,7 @@ namespace {
 
 /// Pixels. A message is as wide as its title, but no wider than this for its sake.
 constexpr int kWidestTitle = 520;
+constexpr int kFatalWaitMs = 400;
 
 QString Text(const std::string& text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
 
@@ -64,8 +67,42 @@ class WaitBox final : public IWaitCard {
   QMessageBox box_;
 };
 
+LogLevel LevelOf(MessageKind kind) {
+  switch (kind) {
+    case MessageKind::Warning: return LogLevel::Warning;
+    case MessageKind::Critical: return LogLevel::Error;
+    default: return LogLevel::Note;
+  }
+}
+
+// Qt takes one function for the whole process and gives it nothing of ours, so the way to the log can only be
+// kept here.
+std::mutex qtMutex;
+Log* qtLog = nullptr;
+QtMessageHandler qtConsole = nullptr;
+
+void TakeQtMessage(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+  if (type != QtDebugMsg && type != QtInfoMsg) {
+    const std::lock_guard lock(qtMutex);
+    if (qtLog) qtLog->Write(type == QtWarningMsg ? LogLevel::Warning : LogLevel::Error, "qt", text.toStdString());
+    // Qt ends the program next.
+    if (qtLog && type == QtFatalMsg) qtLog->Flush(kFatalWaitMs);
+  }
+  if (qtConsole) qtConsole(type, context, text);
+}
+
+void SetQtLog(Log* log) {
+  const std::lock_guard lock(qtMutex);
+  qtLog = log;
+  if (log) qtConsole = qInstallMessageHandler(&TakeQtMessage);
+  else qInstallMessageHandler(qtConsole);
+}
+
 class QtHost final : public QObject, public IHost {
  public:
+  explicit QtHost(Log& log) : log_(log) { SetQtLog(&log); }
+  ~QtHost() override { SetQtLog(nullptr); }
+
   std::int64_t timeGetTime() override {
     using namespace std::chrono;
     return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
@@ -144,6 +181,8 @@ class QtHost final : public QObject, public IHost {
     return info;
   }
 
+  void Note(MessageKind kind, const std::string& text) override { log_.Write(LevelOf(kind), "program", text); }
+
   DriveWatch& Drives() override { return drives_; }
 
  protected:
@@ -188,6 +227,7 @@ class QtHost final : public QObject, public IHost {
     return path.toStdString();
   }
 
+  Log& log_;
   DriveWatch drives_{*this};
   // Qt gives the number of a finished timer to the next one; ours are never used twice.
   TimerId lastTimer_ = 0;
@@ -197,6 +237,6 @@ class QtHost final : public QObject, public IHost {
 
 }  // namespace
 
-std::unique_ptr<IHost> MakeQtHost() { return std::make_unique<QtHost>(); }
+std::unique_ptr<IHost> MakeQtHost(Log& log) { return std::make_unique<QtHost>(log); }
 
 }  // namespace kinalyx

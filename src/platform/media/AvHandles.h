@@ -39,8 +39,9 @@ using ScalerHandle = AvHandle<SwsContext>;
 inline FrameHandle NewFrame() { return FrameHandle(av_frame_alloc()); }
 inline PacketHandle NewPacket() { return PacketHandle(av_packet_alloc()); }
 
-/// The library prints its remarks on the console, unless it is told once that nobody reads them there.
-inline void SilenceLibrary() { av_log_set_level(AV_LOG_QUIET); }
+/// The library prints its remarks on the console, where nobody reads them, unless somebody else takes them.
+/// Before the first use of the library; see MediaLog.h.
+void HearLibrary();
 
 /// The library's own words for an error code.
 inline std::string AvError(int code) {

@@ -45,7 +45,7 @@ std::string FourCC(const AVCodecParameters& codec) {
 }  // namespace
 
 std::unique_ptr<Demuxer> Demuxer::Open(const std::string& path, OpenFault& fault, std::string& message) {
-  SilenceLibrary();
+  HearLibrary();
   std::unique_ptr<Demuxer> demuxer(new Demuxer);
   fault = demuxer->OpenStream(path, message);
   if (fault != OpenFault::None) return nullptr;

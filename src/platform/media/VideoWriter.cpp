@@ -211,7 +211,7 @@ VideoWriter::VideoWriter(std::unique_ptr<Engine> engine) : engine_(std::move(eng
 
 std::unique_ptr<VideoWriter> VideoWriter::Create(const std::string& path, const VideoFormat& format,
                                                  std::string* error) {
-  SilenceLibrary();
+  HearLibrary();
   auto engine = std::make_unique<Engine>();
   engine->path = path;
   engine->partial = path + ".part";

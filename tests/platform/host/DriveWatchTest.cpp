@@ -24,6 +24,7 @@ TEST_F(DriveWatchTest, ADriveThatWasGivenUpIsNotWaitedForUntilItAnswers) {
   EXPECT_EQ(Ask(kShare), std::nullopt);
   ASSERT_EQ(host.waits.size(), 1u);
   EXPECT_NE(host.waits[0].find(kShare), std::string::npos) << host.waits[0];
+  EXPECT_EQ(host.notes.size(), 1u) << "the log has it";
 
   host.drivesHang = false;  // for what is asked from now on
   EXPECT_EQ(Ask(kShare), std::nullopt) << "the first question still hangs there";

@@ -3,10 +3,13 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
+#include <gmock/gmock.h>
+
 #include <algorithm>
 #include <future>
 
 #include "platform/files/Folders.h"
+#include "platform/files/Log.h"
 #include "platform/host/DriveWatch.h"
 #include "support/TempFolder.h"
 
@@ -24,7 +27,9 @@ class QtHostTest : public ::testing::Test {
   static void TearDownTestSuite() { application.reset(); }
 
   static inline std::unique_ptr<QApplication> application;
-  std::unique_ptr<IHost> host = MakeQtHost();
+  test::TempFolder folder;
+  Log log{folder.Path("kinalyx.log")};
+  std::unique_ptr<IHost> host = MakeQtHost(log);
 
   /// Lets events run until `done`, or for far longer than any of these tests needs.
   template <typename Done>
@@ -34,6 +39,17 @@ class QtHostTest : public ::testing::Test {
     return done();
   }
 };
+
+TEST_F(QtHostTest, WhatIsNotedAndQtsWarningsGoToTheLog) {
+  host->Note(MessageKind::Critical, "something is wrong");
+  qWarning("no such widget");
+  qDebug("nothing of interest");
+  ASSERT_TRUE(log.Flush(20000));
+  const std::string text = folder.Get("kinalyx.log");
+  EXPECT_THAT(text, testing::HasSubstr("error program: something is wrong\n"));
+  EXPECT_THAT(text, testing::HasSubstr("warning qt: no such widget\n"));
+  EXPECT_THAT(text, testing::Not(testing::HasSubstr("interest")));
+}
 
 TEST_F(QtHostTest, TimersRunOnceAgainOrNotAtAll) {
   int once = 0, often = 0, stopped = 0, late = 0;

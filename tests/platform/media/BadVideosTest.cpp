@@ -6,7 +6,10 @@
 #include <random>
 #include <vector>
 
+#include "platform/files/Log.h"
+#include "platform/media/MediaLog.h"
 #include "platform/media/VideoFile.h"
+#include "support/TempFolder.h"
 #include "support/TestVideos.h"
 
 namespace kinalyx::test {
@@ -36,6 +39,21 @@ std::vector<std::size_t> ChunksOf(const std::string& avi, std::size_t count) {
   std::vector<std::size_t> chunks = {avi.find("00dc", avi.find("movi"))};
   while (chunks.size() <= count) chunks.push_back(chunks.back() + 8 + (WordAt(avi, chunks.back() + 4) + 1) / 2 * 2);
   return chunks;
+}
+
+TEST(BadVideos, WhatTheLibrarySaysOfThemGoesToTheLog) {
+  std::string avi = BytesOf(MakeTestVideo(MjpegVideo(60)));
+  for (const std::size_t chunk : ChunksOf(avi, 3)) avi.replace(chunk + 8, 400, 400, '\xFF');
+  const std::string path = FileWith("noisy.avi", avi);
+  const TempFolder folder;
+  Log log(folder.Path("kinalyx.log"));
+  SetMediaLog(&log);
+  if (const auto file = VideoFile::Open(path).file) file->Frame(1, 24);
+  SetMediaLog(nullptr);
+  ASSERT_TRUE(log.Flush(20000));
+  const std::string text = folder.Get("kinalyx.log");
+  EXPECT_NE(text.find(" media: "), std::string::npos);
+  EXPECT_EQ(text.find("noisy"), std::string::npos);
 }
 
 TEST(BadVideos, AreRefusedWithTheirReason) {

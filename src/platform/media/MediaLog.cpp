@@ -1,0 +1,40 @@
+#include "platform/media/MediaLog.h"
+
+#include <array>
+#include <mutex>
+
+#include "platform/files/Log.h"
+#include "platform/media/AvHandles.h"
+
+namespace kinalyx {
+
+namespace {
+
+// The library takes one function for the whole process and gives it nothing of ours, so the way to the log
+// can only be kept here. The lock is held while a message is handed on, which waits for no disk.
+std::mutex mutex;
+Log* target = nullptr;
+
+void Take(void* context, int level, const char* format, va_list arguments) {
+  if (level > AV_LOG_WARNING) return;
+  const std::lock_guard lock(mutex);
+  if (!target) return;
+  std::array<char, 512> text{};
+  int startsLine = 1;
+  av_log_format_line2(context, level, format, arguments, text.data(), text.size(), &startsLine);
+  target->Write(level <= AV_LOG_ERROR ? LogLevel::Error : LogLevel::Warning, "media", text.data());
+}
+
+}  // namespace
+
+void SetMediaLog(Log* log) {
+  const std::lock_guard lock(mutex);
+  target = log;
+}
+
+void HearLibrary() {
+  static const bool once = (av_log_set_callback(&Take), true);
+  (void)once;
+}
+
+}  // namespace kinalyx
