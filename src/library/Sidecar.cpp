@@ -29,10 +29,13 @@ using Bytes = std::vector<std::uint8_t>;
 constexpr std::size_t kReserved = 20;
 constexpr std::size_t kColourBytes = 4;
 constexpr int kLargest16 = 32767;
+constexpr std::size_t kFlags = 8;  // the length of a sidecar without anything else
+constexpr std::string_view kFullNotesTag = "UTF";
 
 // ---------------------------------------------------------------- reading
 
-/// Takes values off the front of a file. Past its end numbers read as zero and text as blanks.
+/// Takes values off the front of a file. Past its end numbers read as zero and text as blanks; whatever does
+/// not come out even is noticed.
 class Reader {
  public:
   /// @param padding  bytes at the end of `bytes` that do not belong to the file
@@ -44,14 +47,21 @@ class Reader {
     return c;
   }
   bool Flag(char set) { return Character() == set; }
-  void Skip(std::size_t count) { bytes_ = bytes_.subspan(std::min(count, bytes_.size())); }
+  void Skip(std::size_t count) {
+    if (count > Left()) even_ = false;
+    bytes_ = bytes_.subspan(std::min(count, bytes_.size()));
+  }
   bool AtEnd() const { return Left() == 0; }
+  /// Nothing was missing so far, nothing out of its range.
+  bool Even() const { return even_ && bytes_.size() >= padding_; }
+  /// What was read cannot be all, or not what was meant.
+  void NotEven() { even_ = false; }
 
   /// 16 bits. The largest texts and windows need all of them, and nothing here is ever negative.
   int Unsigned16() {
     int value = 0;
-    for (int shift = 0; shift <= 8 && !AtEnd(); shift += 8) {
-      value |= bytes_.front() << shift;
+    for (int shift = 0; shift <= 8; shift += 8) {
+      if (!AtEnd()) value |= bytes_.front() << shift;
       Skip(1);
     }
     return value;
@@ -67,7 +77,25 @@ class Reader {
     return text;
   }
 
-  Shape ShapeRecord() { return ReadShapeBody(bytes_); }
+  Shape ShapeRecord() {
+    const auto before = bytes_;
+    Shape shape = ReadShapeBody(bytes_);
+    CheckRecord(before.first(before.size() - bytes_.size()), shape);
+    return shape;
+  }
+
+  /// The notes in full, which stand behind everything else; nothing when something else stands there.
+  std::optional<std::string> FullNotes() {
+    const auto rest = bytes_.first(Left());
+    constexpr std::size_t kHead = kFullNotesTag.size() + 4;
+    if (rest.size() < kHead || !std::equal(kFullNotesTag.begin(), kFullNotesTag.end(), rest.begin())) return std::nullopt;
+    std::uint32_t length = 0;
+    for (std::size_t i = 0; i < 4; ++i) length |= std::uint32_t{rest[kFullNotesTag.size() + i]} << (8 * i);
+    std::string text(rest.begin() + kHead, rest.end());
+    if (text.size() != length || !IsValidUtf8(text)) return std::nullopt;
+    Skip(rest.size());
+    return text;
+  }
 
   /// A record of the old layout is the present one without the colour at its end, so that what was read
   /// as the colour belongs to what follows. Needs padding of that size behind the last record.
@@ -75,6 +103,7 @@ class Reader {
     const auto before = bytes_;
     Shape shape = ReadShapeBody(bytes_);
     const std::size_t taken = before.size() - bytes_.size();
+    CheckRecord(before.first(taken), shape);
     bytes_ = before.subspan(taken - std::min(taken, kColourBytes));
     const auto kind = static_cast<std::size_t>(std::max<int>(shape.Kind, 0));
     shape.Colour = kind < toolColours.size() ? toolColours[kind] : Rgb(255, 255, 255);
@@ -83,9 +112,16 @@ class Reader {
 
  private:
   std::size_t Left() const { return bytes_.size() - std::min(padding_, bytes_.size()); }
+  /// A sound record is written as it was read.
+  void CheckRecord(std::span<const std::uint8_t> read, const Shape& shape) {
+    Bytes written;
+    WriteShapeBody(shape, written);
+    if (!std::ranges::equal(written, read)) even_ = false;
+  }
 
   std::span<const std::uint8_t> bytes_;
   std::size_t padding_;
+  bool even_ = true;
 };
 
 bool IsCompressor(const VideoInfo& video, std::string_view name) { return FoldCase(video.compressor) == FoldCase(name); }
@@ -110,13 +146,27 @@ template <typename Read>
 void ReadShapes(Reader& reader, SlotData& data, Read readRecord) {
   data.PictureWidth = PixelsOfTwips(reader.Unsigned16());
   data.PictureHeight = PixelsOfTwips(reader.Unsigned16());
-  const int count = std::min(reader.Unsigned16(), kLargest16);
+  const int count = reader.Unsigned16();
   data.NextShape = reader.Unsigned16();
-  for (int i = 0; i < count && !reader.AtEnd(); ++i) data.Shapes.Shapes.push_back(readRecord());
+  int read = 0;
+  for (; read < std::min(count, kLargest16) && !reader.AtEnd(); ++read) {
+    Shape shape = readRecord();
+    // Of a record that is cut off nothing may be left to see.
+    if (reader.Even() || shape.NumPts > 0) data.Shapes.Shapes.push_back(std::move(shape));
+  }
+  if (read < count) reader.NotEven();
   data.Shapes.NumShapes = static_cast<std::int16_t>(data.Shapes.Shapes.size());
 }
 
-SlotData ReadPresentFormat(Reader& reader) {
+/// Notes of a length that other programs cannot read are there, but were never theirs to write.
+std::string ReadNotes(Reader& reader) {
+  std::string notes = reader.Text();
+  if (notes.size() > kMaxNotes) reader.NotEven();
+  return notes;
+}
+
+/// @param flagsAlone  the file ends behind its flags, as that of a video does that was just captured
+SlotData ReadPresentFormat(Reader& reader, bool flagsAlone) {
   SlotData data;
   data.Wide = reader.Flag('W');
   data.ReverseFields = reader.Flag('R');
@@ -125,11 +175,15 @@ SlotData ReadPresentFormat(Reader& reader) {
   const bool notes = reader.Flag('N');
   const bool value = reader.Flag('C');
   const bool rate = reader.Flag('F');
-  reader.Skip(kReserved);
+  if (!flagsAlone) reader.Skip(kReserved);
   if (shapes) ReadShapes(reader, data, [&] { return reader.ShapeRecord(); });
-  if (notes) data.Notes = FromWindows1252(reader.Text());
+  const std::string narrow = notes ? ReadNotes(reader) : std::string();
   if (value) data.CValue = static_cast<float>(ReadNumber(reader.Text()));
   if (rate) data.RealFrameRate = ReadInt32(reader.Text());
+  auto full = reader.FullNotes();
+  // Who has changed the notes and does not know of the full ones has the last word.
+  data.Notes = full && ToWindows1252(*full) == narrow ? std::move(*full) : FromWindows1252(narrow);
+  data.Unread = !reader.Even() || !reader.AtEnd();
   return data;
 }
 
@@ -143,7 +197,8 @@ SlotData ReadOldFormat(Reader& reader, const VideoInfo& video, std::span<const C
   const bool shapes = reader.Flag('S');
   const bool notes = reader.Flag('N');
   if (shapes) ReadShapes(reader, data, [&] { return reader.OldShapeRecord(toolColours); });
-  if (notes) data.Notes = FromWindows1252(reader.Text());
+  if (notes) data.Notes = FromWindows1252(ReadNotes(reader));
+  data.Unread = !reader.Even() || !reader.AtEnd();
   return data;
 }
 
@@ -188,18 +243,18 @@ void PutShapes(Bytes& bytes, const SlotData& data) {
   for (const Shape& shape : shapes) WriteShapeBody(shape, bytes);
 }
 
-/// The bytes of the notes, as many as their length can tell of.
-std::string NotesBytes(const SlotData& data, std::string* error) {
-  std::string notes = ToWindows1252(data.Notes);
-  if (notes.size() <= kMaxNotes) return notes;
-  notes.resize(kMaxNotes);
-  if (notes.ends_with('\r')) notes.pop_back();
-  if (error) *error = fmt::format("The notes are longer than {} characters. What follows was not saved.", kMaxNotes);
-  return notes;
+void PutFullNotes(Bytes& bytes, std::string_view text) {
+  bytes.insert(bytes.end(), kFullNotesTag.begin(), kFullNotesTag.end());
+  Put16(bytes, static_cast<int>(text.size() & 0xFFFF));
+  Put16(bytes, static_cast<int>(text.size() >> 16));
+  bytes.insert(bytes.end(), text.begin(), text.end());
 }
 
 Bytes BytesOf(const SlotData& data, std::string* error) {
-  const std::string notes = NotesBytes(data, error);
+  const std::string_view text = FittingNotes(data.Notes);
+  if (error && text.size() < data.Notes.size())
+    *error = fmt::format("The notes are longer than {} characters. What follows was not saved.", kMaxNotes);
+  const std::string notes = ToWindows1252(text);
   const bool shapes = !ShapesOf(data.Shapes).empty();
   Bytes bytes = Head(data.Wide, data.ReverseFields, data.SplitFields);
   bytes.push_back(shapes ? 'S' : 'X');
@@ -213,6 +268,7 @@ Bytes BytesOf(const SlotData& data, std::string* error) {
   if (data.CValue != 0) PutText(bytes, value);
   // The block of the rate has always carried the text of the other value, and files rest on it.
   if (data.RealFrameRate != 0) PutText(bytes, value);
+  if (IsValidUtf8(text) && FromWindows1252(notes) != text) PutFullNotes(bytes, text);
   return bytes;
 }
 
@@ -231,6 +287,21 @@ bool WriteFlags(const std::string& path, bool wide, bool reverseFields, bool spl
 }
 
 }  // namespace
+
+std::string_view FittingNotes(std::string_view notes) {
+  if (NotesLength(notes) <= kMaxNotes) return notes;
+  std::size_t characters = 0;
+  std::size_t end = 0;
+  while (end < notes.size() && characters <= kMaxNotes) {
+    const bool first = (static_cast<std::uint8_t>(notes[end]) & 0xC0) != 0x80;
+    if (first && ++characters > kMaxNotes) break;
+    ++end;
+  }
+  if (end > 0 && notes[end - 1] == '\r') --end;
+  return notes.substr(0, end);
+}
+
+std::size_t NotesLength(std::string_view notes) { return ToWindows1252(notes).size(); }
 
 std::string SidecarPath(std::string_view videoPath) {
   return std::string(videoPath.substr(0, videoPath.size() - std::min<std::size_t>(3, videoPath.size()))) + "ved";
@@ -257,11 +328,11 @@ SlotData ReadVideoData(const std::string& path, const VideoInfo& video, std::spa
   bytes.insert(bytes.end(), kColourBytes, 0);
   Reader reader(bytes, kColourBytes);
   switch (reader.Character()) {
-    case '1': return ReadPresentFormat(reader);
+    case '1': return ReadPresentFormat(reader, file->size() == kFlags);
     case 'V': {
       SlotData data = ReadOldFormat(reader, video, toolColours);
       // When this cannot be written the old file stands, and is converted the next time.
-      WriteVideoData(path, data);
+      if (!data.Unread) WriteVideoData(path, data);
       return data;
     }
     default: {

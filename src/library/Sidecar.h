@@ -32,14 +32,18 @@ struct SlotData {
   int PictureWidth = 0;              ///< pixels; 0 when no shapes were stored
   int PictureHeight = 0;             ///< pixels
 
-  /// The file holds something that could not be read: it is foreign, or the disk refused. Who has nothing
-  /// new to say leaves it alone; a write keeps it beside, see OldSidecarPath.
+  /// The file holds something that could not be read: it is foreign or damaged, or the disk refused. Who has
+  /// nothing new to say leaves it alone; a write keeps it beside, see OldSidecarPath.
   bool Unread = false;
 };
 
-/// Longest notes that a sidecar holds, in characters: their length is stored in 16 bits. The notes box
-/// accepts no more; WriteVideoData cuts what is longer and says so.
-inline constexpr std::size_t kMaxNotes = 65535;
+/// Longest notes that a sidecar holds, in characters: their length is stored in 16 bits, signed. The notes
+/// box accepts no more; WriteVideoData cuts what is longer and says so.
+inline constexpr std::size_t kMaxNotes = 32767;
+/// The length of notes in characters, as kMaxNotes counts them.
+std::size_t NotesLength(std::string_view notes);
+/// As much of the beginning of notes as a sidecar holds.
+std::string_view FittingNotes(std::string_view notes);
 
 /// The sidecar of a video: its path with the last three characters replaced by "ved".
 std::string SidecarPath(std::string_view videoPath);
@@ -54,8 +58,8 @@ SlotData DefaultVideoData(const VideoInfo& video);
 /// Reads a sidecar. Never fails:
 /// - a missing, empty or foreign file gives the defaults of the video;
 /// - a file cut short gives what it holds, then blanks in its texts, zeros in its numbers, and no
-///   drawings past its end;
-/// - a file of the old format `V` is converted and written back in the present one.
+///   drawings past its end; that, or anything else that does not come out even, makes it `Unread`;
+/// - a file of the old format `V` is converted and, when it comes out even, written back in the present one.
 /// Reading never makes a file. `path` is the sidecar's.
 /// @param toolColours  colours for the drawings of an old file, by kind of shape: the settings' NewColors
 SlotData ReadVideoData(const std::string& path, const VideoInfo& video, std::span<const Colour> toolColours);

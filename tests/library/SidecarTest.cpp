@@ -71,6 +71,7 @@ TEST_F(SidecarTest, ReadsAndWritesEveryBlockByteForByte) {
   EXPECT_EQ(data.Shapes.Shapes[0], Line());
   EXPECT_EQ(data.Notes, "Grüße\r\n50€!");
   EXPECT_EQ(data.CValue, 29.5f);
+  EXPECT_FALSE(data.Unread);
   EXPECT_EQ(data.RealFrameRate, 30);  // the rate's block holds the other value, rounded to even
   EXPECT_EQ(Written(data), bytes);
 }
@@ -139,14 +140,53 @@ TEST_F(SidecarTest, AFileCutShortGivesWhatItHoldsAndNothingInvented) {
   for (std::size_t length = 0; length <= whole.size(); ++length) {
     const SlotData data = Read(whole.substr(0, length));
     EXPECT_LE(data.Shapes.NumShapes, 2);
+    EXPECT_EQ(data.Unread, length != 0 && length != whole.size()) << length;
     for (const Shape& shape : ShapesOf(data.Shapes)) EXPECT_LE(static_cast<std::size_t>(shape.NumPts), shape.Pts.size());
   }
+  EXPECT_FALSE(Read(whole).Unread);
   EXPECT_EQ(Read(whole.substr(0, whole.size() - 2)).Notes, "not  ");
   EXPECT_EQ(Read(whole.substr(0, whole.size() - 7)).Notes, "");
   EXPECT_EQ(Read("1XXXSXXX" + kReserved + Int16(1) + Int16(1) + Int16(-1)).Shapes.NumShapes, 0);
   const SlotData capture = Read("1WXSXXXX");
+  EXPECT_FALSE(capture.Unread);
   EXPECT_TRUE(capture.Wide && capture.SplitFields && !capture.ReverseFields);
   EXPECT_EQ(capture.Notes, "");
+}
+
+TEST_F(SidecarTest, WhatDoesNotComeOutEvenIsUnreadAndNotConverted) {
+  const std::string drawing = LineRecord() + Int32(0xFF);
+  const std::string head = "1XXXSNXX" + kReserved + Int16(9600) + Int16(7200) + Int16(1) + Int16(1);
+  const std::string tail = Int16(5) + "notes";
+  ASSERT_FALSE(Read(head + drawing + tail).Unread);
+  const std::string dimensions = std::string(drawing).replace(8, 1, "\2"), points = std::string(drawing).replace(11, 1, "\1"),
+                    bound = std::string(drawing).replace(0, 1, "\4"), lower = std::string(drawing).replace(14, 1, "\1");
+  for (const std::string& bytes :
+       {head + dimensions + tail, head + points + tail, head + bound + tail, head + lower + tail,   // one byte
+        head + drawing + tail + "X", "1XXXTNXX" + head.substr(8) + drawing + tail,                  // left over
+        "1XXXSXXX" + kReserved + Int16(1) + Int16(1) + Int16(-1) + Int16(1), std::string("1XXXXNXX"),  // missing
+        "VRXSN" + head.substr(28) + LineRecord() + tail + "X"}) {
+    EXPECT_TRUE(Read(bytes).Unread);
+    EXPECT_EQ(TempLibrary::Read(path), bytes);
+  }
+  EXPECT_EQ(Read(head + bound + tail).Notes, "notes") << "what can be read is there";
+}
+
+TEST_F(SidecarTest, NotesInAnyLettersComeBackAndOtherProgramsReadWhatTheyCan) {
+  const std::string text = "\u0141ukasz: nogi \u017C\u00F3\u0142wia\r\n\u304B", narrow = "?ukasz: nogi ?\xF3?wia\r\n?";
+  SlotData data;
+  data.Notes = text;
+  const std::string bytes = Written(data);
+  EXPECT_EQ(bytes, "1XXXXNXX" + kReserved + Int16(int(narrow.size())) + narrow + "UTF" + Int32(int(text.size())) + text);
+  EXPECT_EQ(Read(bytes).Notes, text);
+  EXPECT_FALSE(Read(bytes).Unread);
+  // A program that knows nothing of them has changed the notes since.
+  std::string edited = bytes;
+  edited.replace(edited.find("nogi"), 4, "legs");
+  EXPECT_EQ(Read(edited).Notes, "?ukasz: legs ?\u00F3?wia\r\n?");
+  for (const std::string& damaged : {bytes.substr(0, bytes.size() - 1), bytes + "X", bytes.substr(0, bytes.size() - 1) + "\xFF"}) {
+    EXPECT_TRUE(Read(damaged).Unread);
+    EXPECT_EQ(Read(damaged).Notes.substr(0, 6), "?ukasz");
+  }
 }
 
 TEST_F(SidecarTest, LongNotesAndLargeWindowsNeverBreakTheFile) {
@@ -159,12 +199,16 @@ TEST_F(SidecarTest, LongNotesAndLargeWindowsNeverBreakTheFile) {
     EXPECT_EQ(read.CValue, 1.25f);
     return read;
   };
-  for (int i = 0; i < 8000; ++i) data.Notes += "Füße\r\n";  // 48000 characters: more than a signed length
+  for (int i = 0; i < 5461; ++i) data.Notes += "F\u00FC\u03BBe\r\n";
   EXPECT_EQ(back().Notes, data.Notes);
   EXPECT_EQ(error, "");
   data.Notes = std::string(kMaxNotes - 1, 'x') + "\r\nlost";
   EXPECT_EQ(back().Notes, std::string(kMaxNotes - 1, 'x'));
   EXPECT_NE(error, "");
+  // Longer ones were written once; they are there, and kept when something else takes their place.
+  const SlotData longer = Read("1XXXXNXX" + kReserved + Int16(40000) + std::string(40000, 'y'));
+  EXPECT_EQ(longer.Notes.size(), 40000u);
+  EXPECT_TRUE(longer.Unread);
 
   data.Shapes.Shapes = {Line()};
   data.Shapes.Shapes[0].Pts[1] = {3839, 2159};
