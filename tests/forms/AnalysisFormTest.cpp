@@ -96,6 +96,18 @@ TEST_F(AnalysisFormTest, LettersInTextBoxesStayLetters) {
   EXPECT_EQ(form->Analysis().Tools().DrawKind(), 3) << "what a box does not want is a command";
   QTest::keyClick(box, Qt::Key_Escape);
   EXPECT_TRUE(Slots().HasVideo(1)) << "Escape only leaves the box";
+  // Full: what does not fit is left out of what came last, and the panel says so.
+  box->setPlainText("start end");
+  box->moveCursor(QTextCursor::Start);
+  box->insertPlainText(QString(32757, 'x') + "12");
+  EXPECT_EQ(box->toPlainText(), QString(32757, 'x') + "1start end");
+  EXPECT_TRUE(Find<QLabel>("NotesFull")->isVisible());
+  QTest::keyClicks(box, "yz");
+  EXPECT_EQ(box->toPlainText().size(), 32767);
+  box->undo();
+  EXPECT_EQ(box->toPlainText(), "start end");
+  EXPECT_FALSE(Find<QLabel>("NotesFull")->isVisible());
+  box->setPlainText("close, play 4 more\nhead");
   Click("NotesClose");
   EXPECT_EQ(Slots().At(1).data.Notes, "close, play 4 more\r\nhead");
   Key(Qt::Key_C);

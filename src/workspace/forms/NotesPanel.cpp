@@ -2,9 +2,14 @@
 
 #include <QBoxLayout>
 #include <QEvent>
+#include <QLabel>
+#include <QLocale>
 #include <QPlainTextEdit>
 #include <QSignalBlocker>
+#include <QTextCursor>
+#include <QTextDocument>
 #include <QToolButton>
+#include <algorithm>
 
 #include "library/Sidecar.h"
 #include "platform/widgets/Icons.h"
@@ -44,8 +49,16 @@ NotesPanel::NotesPanel(VideoNotes& notes, QWidget* parent) : QFrame(parent), not
   box_->setObjectName("NotesBox");
   box_->setPlaceholderText(tr("Write what you see; it is kept with the video."));
   box_->setTabChangesFocus(true);
+  connect(box_->document(), &QTextDocument::contentsChange, this, [this](int at, int, int added) {
+    added_ = added;
+    addedEnd_ = at + added;
+  });
   connect(box_, &QPlainTextEdit::textChanged, this, [this] { TextChanged(); });
   rows->addWidget(box_, 1);
+  full_ = MakeLabel("NotesFull", {}, nullptr, this);
+  full_->setWordWrap(true);
+  full_->hide();
+  rows->addWidget(full_);
   setFocusProxy(box_);
   hide();
   Dress();
@@ -56,17 +69,37 @@ void NotesPanel::SetText(const std::string& text) {
   if (box_->toPlainText() == wanted) return;
   const QSignalBlocker quiet(box_);
   box_->setPlainText(wanted);
+  full_->hide();
 }
 
 void NotesPanel::TextChanged() {
-  std::string text = FileText(box_->toPlainText());
-  if (static_cast<std::size_t>(QString::fromStdString(text).size()) > kMaxNotes) {
-    // A sidecar holds no more. What was typed or pasted last is taken back.
-    const QSignalBlocker quiet(box_);
-    box_->undo();
-    text = FileText(box_->toPlainText());
+  const std::size_t length = NotesLength(FileText(box_->toPlainText()));
+  const int left = length > kMaxNotes ? TakeBack(length - kMaxNotes) : 0;
+  full_->setText(tr("The notes are full: they hold %1 characters. The last %2 that were typed or pasted were left out.")
+                     .arg(QLocale().toString(qulonglong(kMaxNotes)), QLocale().toString(left)));
+  full_->setVisible(left > 0);
+  notes_.NotesBox_Change(FileText(box_->toPlainText()));
+}
+
+/// A sidecar holds no more: as many characters, as the file counts them, go from the end of what came last,
+/// and as a part of that step. Returns how many went; what was there before stays.
+int NotesPanel::TakeBack(std::size_t characters) {
+  const QString text = box_->toPlainText();
+  const int end = std::min(addedEnd_, int(text.size()));
+  const int least = std::max(end - added_, 0);
+  int begin = end;
+  for (std::size_t gone = 0; begin > least && gone < characters;) {
+    const QChar one = text[--begin];
+    if (!one.isLowSurrogate()) gone += one == '\n' ? 2 : 1;
   }
-  notes_.NotesBox_Change(text);
+  const QSignalBlocker quiet(box_);
+  QTextCursor cursor(box_->document());
+  cursor.joinPreviousEditBlock();
+  cursor.setPosition(begin);
+  cursor.setPosition(end, QTextCursor::KeepAnchor);
+  cursor.removeSelectedText();
+  cursor.endEditBlock();
+  return end - begin;
 }
 
 void NotesPanel::changeEvent(QEvent* event) {

@@ -4,6 +4,7 @@
 
 #include "workspace/VideoNotes.h"
 
+class QLabel;
 class QPlainTextEdit;
 class QToolButton;
 
@@ -24,11 +25,15 @@ class NotesPanel : public QFrame {
 
  private:
   void TextChanged();
+  int TakeBack(std::size_t characters);
   void Dress();
 
   VideoNotes& notes_;
   QPlainTextEdit* box_;
+  QLabel* full_ = nullptr;  ///< says what the box did not take; hidden while there is nothing to say
   QToolButton* close_ = nullptr;
+  int added_ = 0;     ///< characters of the box that its last change has brought
+  int addedEnd_ = 0;  ///< the place behind them
 };
 
 /// Notes as a box has them, lines ended by LF, and as files have them, by CR LF.
