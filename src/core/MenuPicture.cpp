@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include "platform/files/Folders.h"
+#include "platform/host/DriveWatch.h"
 
 namespace kinalyx {
 
@@ -17,9 +18,11 @@ bool Choose(IHost& host, Settings& settings, const char* title, const char* fold
             const IsPicture& isPicture) {
   const auto picture = host.PickFile({title, JoinPath(settings.AppPath, folder), kPictureFilter});
   if (!picture) return false;
-  if (!isPicture(*picture)) {
+  const auto shown = host.Drives().Ask(FolderOf(*picture), [isPicture, file = *picture] { return isPicture(file); });
+  if (!shown.value_or(false)) {
     host.Message(MessageKind::Warning, title,
-                 fmt::format("There is no picture in the file {} that can be shown. The old picture stays.", *picture));
+                 shown ? fmt::format("There is no picture in the file {} that can be shown. The old picture stays.", *picture)
+                       : fmt::format("The drive with the file {} is not answering. The old picture stays.", *picture));
     return false;
   }
   if (!Settings::Holds(*picture)) {
@@ -36,9 +39,13 @@ std::string DefaultBackground(const Settings& settings) {
   return JoinPath(settings.AppPath, "pictures/backgrounds/bio-guy blue.jpg");
 }
 
-std::string CheckBackground(IHost& host, Settings& settings) {
-  if (FileExists(settings.BackgroundPic)) return settings.BackgroundPic;
+Background CheckBackground(IHost& host, Settings& settings) {
+  const std::string& chosen = settings.BackgroundPic;
+  const auto there = host.Drives().AskAtOnce(FolderOf(chosen), [file = chosen] { return FileIsThere(file); });
+  if (there == std::optional(std::optional(true))) return {chosen};
   const std::string standard = DefaultBackground(settings);
+  const std::string shown = FileExists(standard) ? standard : std::string();
+  if (!there || !*there) return {shown, true};
   // Nothing is gained by resetting the default to itself.
   if (settings.BackgroundPic != standard) {
     host.Message(MessageKind::Warning, "",
@@ -46,7 +53,7 @@ std::string CheckBackground(IHost& host, Settings& settings) {
                              settings.BackgroundPic));
     settings.Set(settings.BackgroundPic, standard);
   }
-  return FileExists(standard) ? standard : std::string();
+  return {shown};
 }
 
 bool ChooseBackground(IHost& host, Settings& settings, const IsPicture& isPicture) {

@@ -13,14 +13,20 @@ namespace kinalyx {
 /// The picture that comes with the program.
 std::string DefaultBackground(const Settings& settings);
 
-/// The picture to show. One that has gone is reported and replaced by the default, which is written. Empty
-/// when that is missing too: the page then shows a ground in the scheme's colours.
-std::string CheckBackground(IHost& host, Settings& settings);
+/// The picture to show; empty when even the default is missing: the page then shows a ground in the scheme's
+/// colours.
+struct Background {
+  std::string file;
+  bool standsIn = false;  ///< the default, for one whose drive does not answer
+};
+/// A picture that has gone is reported and replaced by the default, which is written. While its drive does not
+/// answer the default only stands in for it. Never waits long.
+Background CheckBackground(IHost& host, Settings& settings);
 
-/// True when a file holds a picture that can be shown.
+/// True when a file holds a picture that can be shown. Called on another thread.
 using IsPicture = std::function<bool(const std::string& path)>;
 /// Lets the user choose another picture and writes it. False when the dialog was cancelled or, after a message,
-/// when there is no picture in the file: the old one stays.
+/// when there is no picture in the file or its drive does not answer: the old one stays.
 bool ChooseBackground(IHost& host, Settings& settings, const IsPicture& isPicture);
 /// The same for the logo of printouts.
 bool ChooseLogo(IHost& host, Settings& settings, const IsPicture& isPicture);

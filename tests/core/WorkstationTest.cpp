@@ -168,7 +168,7 @@ TEST(MenuPicture, AMissingPictureIsReportedOnce) {
   Desk desk;
   Settings& s = desk.settings;
   s.Set(s.BackgroundPic, "/gone/course.jpg");
-  EXPECT_EQ(CheckBackground(desk.host, s), "") << "not even the default is there";
+  EXPECT_EQ(CheckBackground(desk.host, s).file, "") << "not even the default is there";
   ASSERT_EQ(desk.host.messages.size(), 1u);
   EXPECT_EQ(desk.host.messages[0],
             "Unable to locate the background picture named /gone/course.jpg. The default picture will be reset.");
@@ -182,7 +182,7 @@ TEST(MenuPicture, AMissingPictureIsReportedOnce) {
   desk.host.files = {std::nullopt, picture};
   EXPECT_FALSE(ChooseBackground(desk.host, s, isPicture));
   EXPECT_TRUE(ChooseBackground(desk.host, s, isPicture));
-  EXPECT_EQ(CheckBackground(desk.host, s), picture);
+  EXPECT_EQ(CheckBackground(desk.host, s).file, picture);
   EXPECT_EQ(desk.OnDisk("General", "BackgroundPic"), picture);
 
   readable = false;
@@ -190,6 +190,20 @@ TEST(MenuPicture, AMissingPictureIsReportedOnce) {
   EXPECT_FALSE(ChooseBackground(desk.host, s, isPicture));
   EXPECT_EQ(desk.host.messages.size(), 2u);
   EXPECT_EQ(desk.OnDisk("General", "BackgroundPic"), picture) << "the old one stays";
+
+  // A drive that does not answer says nothing of its files, whether it is silent or fails.
+  desk.host.drivesHang = true;
+  EXPECT_TRUE(CheckBackground(desk.host, s).standsIn);
+  desk.host.files = {picture};
+  EXPECT_FALSE(ChooseBackground(desk.host, s, isPicture));
+  EXPECT_TRUE(desk.host.messages.back().ends_with("is not answering. The old picture stays."));
+  desk.host.DrivesAnswer();
+  EXPECT_FALSE(CheckBackground(desk.host, s).standsIn);
+  std::filesystem::create_symlink("loop.jpg", desk.folder.Path("loop.jpg"));
+  s.Set(s.BackgroundPic, desk.folder.Path("loop.jpg"));
+  EXPECT_TRUE(CheckBackground(desk.host, s).standsIn);
+  EXPECT_EQ(desk.host.messages.size(), 3u);
+  EXPECT_EQ(desk.OnDisk("General", "BackgroundPic"), desk.folder.Path("loop.jpg"));
   ResetBackground(s);
   EXPECT_EQ(desk.OnDisk("General", "BackgroundPic"), DefaultBackground(s));
 }

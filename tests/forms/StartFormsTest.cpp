@@ -15,6 +15,7 @@
 #include "core/forms/HeadingInk.h"
 #include "core/forms/HelpPage.h"
 #include "core/forms/MenuPage.h"
+#include "core/forms/MenuSection.h"
 #include "core/forms/SplashForm.h"
 #include "platform/files/IniFile.h"
 #include "platform/widgets/Theme.h"
@@ -173,6 +174,42 @@ TEST(MenuPage, ItsButtonChoosesThePictureAndMovesTheHeading) {
   EXPECT_EQ(desk.OnDisk("BackgroundPic"), picture) << "the old one stays";
   choose(2);
   EXPECT_NE(pixelAt(600, 350), QColor(200, 10, 10));
+}
+
+TEST(MenuPage, ComesUpWithoutAPictureWhoseDriveNeverAnswers) {
+  Desk desk;
+  QImage red(64, 40, QImage::Format_RGB32);
+  red.fill(QColor(200, 10, 10));
+  const std::string picture = desk.folder.Path("share/red.png");
+  std::filesystem::create_directories(desk.folder.Path("share"));
+  ASSERT_TRUE(red.save(QString::fromStdString(picture)));
+  for (auto* setting : {&desk.settings.BackgroundPic, &desk.settings.LogoName}) desk.settings.Set(*setting, picture);
+  desk.host.drivesHang = true;
+  MenuPage page(desk.host, desk.settings);
+  MenuSection section(desk.host, desk.settings);
+  section.SetupProgram();
+  page.resize(1024, 700);
+  page.Open();
+  desk.host.Advance(60000);
+  const auto shows = [&] { return page.grab().toImage().pixelColor(600, 350) == QColor(200, 10, 10); };
+  EXPECT_FALSE(shows());
+  EXPECT_EQ(Find<QLabel>(section, "LogoPreview")->text(), "The drive with this picture is not answering.");
+  EXPECT_TRUE(desk.host.messages.empty() && desk.host.waits.empty()) << "nobody has asked for it just now";
+  EXPECT_EQ(desk.OnDisk("BackgroundPic"), picture);
+
+  desk.host.DrivesAnswer();
+  desk.host.Advance(2000);
+  EXPECT_TRUE(shows());
+  EXPECT_FALSE(Find<QLabel>(section, "LogoPreview")->pixmap().isNull());
+
+  // One that only takes long is not read again and again, to be late each time.
+  PictureReader reader;
+  desk.host.drivesHang = true;
+  EXPECT_FALSE(reader.Read(desk.host.Drives(), picture));
+  desk.host.DrivesAnswer();
+  std::filesystem::remove(picture);
+  EXPECT_EQ(reader.Read(desk.host.Drives(), picture).value_or(QImage()).size(), red.size());
+  EXPECT_TRUE(reader.Read(desk.host.Drives(), picture).value_or(red).isNull());
 }
 
 TEST(MenuPage, TheHeadingCanBeReadOnAnyPicture) {

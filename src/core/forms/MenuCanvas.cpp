@@ -2,12 +2,13 @@
 
 #include <QEvent>
 #include <QFontMetricsF>
-#include <QImageReader>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
 
 #include "core/MenuPicture.h"
+#include "platform/files/Folders.h"
+#include "platform/host/DriveWatch.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
@@ -16,7 +17,6 @@ namespace {
 
 // The second line carries the name, and the others lead to it.
 constexpr int kNameLine = 1;
-constexpr int kLongestSide = 4096;
 constexpr double kSideMargin = 0.055;  // in parts of the width
 constexpr int kNarrow = 1000;
 constexpr int kNarrowMargin = 20;
@@ -32,16 +32,6 @@ double WidestLine(const QStringList& lines, double pixels) {
   for (int i = 0; i < lines.size(); ++i)
     widest = std::max(widest, QFontMetricsF(HeadingFont(i, pixels)).horizontalAdvance(lines[i]));
   return widest;
-}
-
-QPixmap ReadPicture(const QString& file) {
-  QImageReader reader(file);
-  reader.setAutoTransform(true);
-  reader.setDecideFormatFromContent(true);
-  const QSize size = reader.size();
-  if (std::max(size.width(), size.height()) > kLongestSide)
-    reader.setScaledSize(size.scaled(kLongestSide, kLongestSide, Qt::KeepAspectRatio));
-  return QPixmap::fromImage(reader.read());
 }
 
 /// The ground of a page without a picture: three arcs on the scheme's colours.
@@ -95,15 +85,24 @@ MenuCanvas::MenuCanvas(const QString& name, QWidget* parent) : QWidget(parent) {
   setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-bool MenuCanvas::CanShow(const std::string& path) { return !ReadPicture(QString::fromStdString(path)).isNull(); }
-
 void MenuCanvas::SetupMenu(IHost& host, Settings& settings) {
-  const QString file = QString::fromStdString(CheckBackground(host, settings));
-  if (file != file_ || picture_.isNull()) {
-    file_ = file;
-    picture_ = file.isEmpty() ? QPixmap() : ReadPicture(file);
+  again_.Stop();
+  Background background = CheckBackground(host, settings);
+  if (background.file != file_ || picture_.isNull()) {
+    std::optional<QImage> picture;
+    if (!background.standsIn && !background.file.empty()) {
+      picture = reader_.Read(host.Drives(), background.file);
+      if (!picture) background = {DefaultBackground(settings), true};
+    }
+    // The program's own picture lies where the program lies.
+    if (!picture) picture = ReadPicture(background.file);
+    file_ = background.file;
+    picture_ = QPixmap::fromImage(*picture);
     ground_ = QPixmap();
   }
+  standsIn_ = background.standsIn;
+  if (const std::string place = FolderOf(settings.BackgroundPic); standsIn_ && host.Drives().Silent(place))
+    again_ = host.Drives().WhenAnswers(place, [this, &host, &settings] { SetupMenu(host, settings); });
   SetupCaptionLabels(settings);
 }
 

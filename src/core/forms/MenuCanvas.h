@@ -6,10 +6,10 @@
 
 #include "core/Settings.h"
 #include "core/forms/HeadingInk.h"
+#include "core/forms/PictureFile.h"
+#include "platform/host/Host.h"
 
 namespace kinalyx {
-
-class IHost;
 
 /// The picture of the main menu with the heading lines over it, at any size: the ground of the menu page,
 /// and small on the setup page.
@@ -20,10 +20,12 @@ class MenuCanvas : public QWidget {
   explicit MenuCanvas(const QString& name, QWidget* parent = nullptr);
 
   /// Takes picture, lines and their place from the settings. A picture that has gone is reported and reset;
-  /// one that cannot be read gives a ground in the scheme's colours.
+  /// one that cannot be read gives a ground in the scheme's colours. One whose drive does not answer comes as
+  /// soon as that does, and the default is shown meanwhile.
+  /// @param host, settings  outlive the canvas
   void SetupMenu(IHost& host, Settings& settings);
-  /// True when a file holds a picture.
-  static bool CanShow(const std::string& path);
+  /// True while another picture stands in for the one of the settings.
+  bool StandsIn() const { return standsIn_; }
   /// Only the lines and their place.
   void SetupCaptionLabels(const Settings& settings);
 
@@ -45,7 +47,10 @@ class MenuCanvas : public QWidget {
   void PaintHeading(QPainter& painter);
   void PaintSample(QPainter& painter) const;
 
-  QString file_;
+  PictureReader reader_;
+  std::string file_;
+  bool standsIn_ = false;
+  HostTimer again_;  ///< runs while the drive of the picture does not answer
   QPixmap picture_;
   QPixmap ground_;  ///< what lies beneath everything, at the widget's present size in pixels
   HeadingInk ink_;

@@ -6,6 +6,7 @@
 #include "core/MenuPicture.h"
 #include "core/Vocabulary.h"
 #include "core/forms/MenuCanvas.h"
+#include "core/forms/PictureFile.h"
 #include "platform/widgets/Buttons.h"
 
 namespace kinalyx {
@@ -51,6 +52,10 @@ void MenuPage::SetupVocabulary() {
     tiles_[i]->setText(QString::fromStdString(words.PageButton(static_cast<int>(i))));
 }
 
+void MenuPage::Open() {
+  if (canvas_->StandsIn()) SetupMenuImage();
+}
+
 void MenuPage::SetupMenuImage() { canvas_->SetupMenu(host_, settings_); }
 
 void MenuPage::SetSectionComing(int index) { Coming(tiles_.at(static_cast<std::size_t>(index))); }
@@ -66,7 +71,7 @@ void MenuPage::ShowSetupMenu() {
   QMenu menu(this);
   menu.setObjectName("MenuSetup");
   menu.addAction("Choose Picture", this, [this] {
-    if (!ChooseBackground(host_, settings_, &MenuCanvas::CanShow)) return;
+    if (!ChooseBackground(host_, settings_, &HoldsPicture)) return;
     SetupMenuImage();
     emit MenuChanged();
   });

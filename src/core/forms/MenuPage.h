@@ -21,6 +21,8 @@ class MenuPage : public PageWidget {
  public:
   MenuPage(IHost& host, Settings& settings, QWidget* parent = nullptr);
 
+  /// Looks once more for a picture that could not be had.
+  void Open() override;
   /// Takes over captions after the word for the person under analysis has changed.
   void SetupVocabulary();
   /// Takes over another picture, other heading lines or another place of them.

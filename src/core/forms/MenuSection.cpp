@@ -3,12 +3,13 @@
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QFileInfo>
-#include <QImageReader>
 #include <QLabel>
 #include <QLineEdit>
 
 #include "core/MenuPicture.h"
 #include "core/forms/MenuCanvas.h"
+#include "platform/files/Folders.h"
+#include "platform/host/DriveWatch.h"
 #include "platform/host/Host.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
@@ -121,17 +122,23 @@ void MenuSection::AddLogo() {
 }
 
 void MenuSection::ShowLogo() {
+  again_.Stop();
   const QString file = QString::fromStdString(settings_.LogoName);
-  QImageReader reader(file);
-  reader.setDecideFormatFromContent(true);
-  reader.setAutoTransform(true);
-  const QImage picture = reader.read();
   logoName_->setText(logoName_->fontMetrics().elidedText(QFileInfo(file).fileName(), Qt::ElideMiddle, Px(kNameRoom)));
   logoName_->setToolTip(file);
-  if (picture.isNull()) {
-    logo_->setText(QFileInfo::exists(file) ? "There is no picture in this file." : "This picture has gone.");
+  DriveWatch& drives = host_.Drives();
+  const std::string place = FolderOf(settings_.LogoName);
+  const auto asked = drives.AskAtOnce(place, [path = settings_.LogoName] { return FileIsThere(path); });
+  const std::optional<bool> there = asked.value_or(std::nullopt);
+  if (there == false) return logo_->setText("This picture has gone.");
+  const auto read = there ? reader_.Read(drives, settings_.LogoName) : std::nullopt;
+  if (!read) {
+    logo_->setText("The drive with this picture is not answering.");
+    if (drives.Silent(place)) again_ = drives.WhenAnswers(place, [this] { ShowLogo(); });
     return;
   }
+  const QImage& picture = *read;
+  if (picture.isNull()) return logo_->setText("There is no picture in this file.");
   const qreal ratio = devicePixelRatioF();
   const QSize room = (logo_->size() - QSize(12, 12)) * ratio;
   const bool fits = picture.width() <= room.width() && picture.height() <= room.height();
@@ -152,13 +159,13 @@ void MenuSection::SetupProgram() {
 }
 
 void MenuSection::SSCommand14_Click() {
-  if (ChooseLogo(host_, settings_, &MenuCanvas::CanShow)) ShowLogo();
+  if (ChooseLogo(host_, settings_, &HoldsPicture)) ShowLogo();
 }
 
 void MenuSection::MenuSetupBtn_Click(int index) {
   switch (index) {
     case 0:
-      if (!ChooseBackground(host_, settings_, &MenuCanvas::CanShow)) return;
+      if (!ChooseBackground(host_, settings_, &HoldsPicture)) return;
       break;
     case 1: NextCaptionPosition(settings_); break;
     case 2: ResetBackground(settings_); break;

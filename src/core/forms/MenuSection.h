@@ -1,13 +1,14 @@
 #pragma once
 
+#include "core/forms/PictureFile.h"
 #include "core/forms/SetupSection.h"
+#include "platform/host/Host.h"
 
 class QCheckBox;
 class QLabel;
 
 namespace kinalyx {
 
-class IHost;
 class MenuCanvas;
 
 /// The main menu's picture and heading lines, with the page in small beside them, and the logo of printouts.
@@ -32,6 +33,8 @@ class MenuSection : public SetupSection {
   void SSCommand14_Click();
 
   IHost& host_;
+  PictureReader reader_;
+  HostTimer again_;  ///< runs while the drive of the logo does not answer
   QLineEdit* lines_[5] = {};
   MenuCanvas* sample_ = nullptr;
   QCheckBox* UseLogochk_ = nullptr;

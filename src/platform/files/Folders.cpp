@@ -6,6 +6,7 @@
 #include <QStandardPaths>
 #include <QString>
 #include <algorithm>
+#include <cerrno>
 #include <filesystem>
 #include <memory>
 #include <system_error>
@@ -161,6 +162,13 @@ std::int64_t FreeBytes(const std::string& path) {
   while (!fs::exists(place, failed) && place.has_relative_path()) place = place.parent_path();
   const fs::space_info space = fs::space(place, failed);
   return failed ? -1 : static_cast<std::int64_t>(space.available);
+}
+
+std::optional<bool> FileIsThere(const std::string& path) {
+  struct stat info {};
+  if (::stat(path.c_str(), &info) == 0) return !S_ISDIR(info.st_mode);
+  if (errno == ENOENT || errno == ENOTDIR || errno == ENAMETOOLONG) return false;
+  return std::nullopt;
 }
 
 bool TouchPath(const std::string& path) {

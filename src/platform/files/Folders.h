@@ -44,6 +44,8 @@ std::string KeptPath(const std::string& path);
 /// Free bytes of the drive that holds `path` (or the nearest folder above it that exists); -1 unknown.
 std::int64_t FreeBytes(const std::string& path);
 
+/// Whether there is a file of that name; nothing when its drive fails to tell, which is not the same as its absence.
+std::optional<bool> FileIsThere(const std::string& path);
 /// Looks at a file or folder, at what is in it and at its drive, so that nothing of it is answered from
 /// memory; true when it is there. It takes as long as the drive takes to answer.
 bool TouchPath(const std::string& path);

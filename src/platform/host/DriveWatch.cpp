@@ -54,12 +54,7 @@ bool DriveWatch::Answers(const std::string& place, const std::string& path) {
 }
 
 bool DriveWatch::AnswersAtOnce(const std::string& place, const std::string& path) {
-  if (Silent(place)) return false;
-  const std::shared_ptr<IErrand> errand = send_([path] { TouchPath(path); });
-  if (errand->Over(kUnnoticedMs)) return true;
-  silent_[place] = errand;
-  host_.Note(MessageKind::Warning, "a drive does not answer");
-  return false;
+  return AskAtOnce(place, [path] { return TouchPath(path); }).has_value();
 }
 
 bool DriveWatch::Silent(const std::string& place) {
@@ -76,12 +71,16 @@ HostTimer DriveWatch::WhenAnswers(const std::string& place, std::function<void()
           }};
 }
 
-bool DriveWatch::Carry(const std::string& place, Work work) {
+bool DriveWatch::Carry(const std::string& place, Work work, Patience patience) {
   if (Silent(place)) return false;
   const std::shared_ptr<IErrand> errand = send_(std::move(work));
   if (errand->Over(kUnnoticedMs)) return true;
   // Silent already while it is waited for: a handler that runs meanwhile must not wait for it as well.
   silent_[place] = errand;
+  if (patience == Patience::None) {
+    host_.Note(MessageKind::Warning, "a drive does not answer");
+    return false;
+  }
   if (!WaitUnderCard(place, *errand)) {
     host_.Note(MessageKind::Warning, "a drive does not answer and was given up");
     return false;

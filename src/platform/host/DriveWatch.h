@@ -45,16 +45,19 @@ class DriveWatch {
   ///              writes asks with Answers first, so that nothing is written long after it was given up.
   template <typename Reading>
   std::optional<std::invoke_result_t<Reading&>> Ask(const std::string& place, Reading work) {
-    const auto answer = std::make_shared<std::optional<std::invoke_result_t<Reading&>>>();
-    if (!Carry(place, [answer, work = std::move(work)]() mutable { *answer = work(); })) return std::nullopt;
-    return std::move(*answer);
+    return Ask(place, std::move(work), Patience::Card);
+  }
+  /// The same for what nobody has asked for just now: without a card. A drive that takes longer than a wait
+  /// that nobody notices is silent.
+  template <typename Reading>
+  std::optional<std::invoke_result_t<Reading&>> AskAtOnce(const std::string& place, Reading work) {
+    return Ask(place, std::move(work), Patience::None);
   }
 
   /// True when the drive of `place` answers for a file or folder on it, whether or not there is one.
   bool Answers(const std::string& place, const std::string& path);
   bool Answers(const std::string& place) { return Answers(place, place); }
-  /// The same for what nobody has asked for just now: without a card. A drive that takes longer than a wait
-  /// that nobody notices is silent.
+  /// The same without a card.
   bool AnswersAtOnce(const std::string& place, const std::string& path);
 
   /// True while work hangs in the drive of `place`.
@@ -70,7 +73,15 @@ class DriveWatch {
   static std::shared_ptr<IErrand> SendWorker(Work work);
 
  private:
-  bool Carry(const std::string& place, Work work);
+  enum class Patience { None, Card };
+
+  template <typename Reading>
+  std::optional<std::invoke_result_t<Reading&>> Ask(const std::string& place, Reading work, Patience patience) {
+    const auto answer = std::make_shared<std::optional<std::invoke_result_t<Reading&>>>();
+    if (!Carry(place, [answer, work = std::move(work)]() mutable { *answer = work(); }, patience)) return std::nullopt;
+    return std::move(*answer);
+  }
+  bool Carry(const std::string& place, Work work, Patience patience);
   bool WaitUnderCard(const std::string& place, IErrand& errand);
 
   IHost& host_;
