@@ -8,6 +8,8 @@ std::string Vocabulary::Nouns() const { return Noun() + "s"; }
 std::string Vocabulary::Profiles() const { return Noun() + " Profiles"; }
 std::string Vocabulary::Profile() const { return Noun() + " Profile"; }
 std::string Vocabulary::Notes() const { return Noun() + " Notes"; }
+std::string Vocabulary::Name() const { return Noun() + " Name"; }
+std::string Vocabulary::Select() const { return "Select " + Noun(); }
 std::string Vocabulary::AddNew() const { return "Add New " + Noun(); }
 std::string Vocabulary::Rename() const { return "Rename " + Noun(); }
 std::string Vocabulary::MoveThis() const { return "Move this " + noun(); }

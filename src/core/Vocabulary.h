@@ -20,6 +20,8 @@ class Vocabulary {
   std::string Profiles() const;             ///< "Student Profiles"
   std::string Profile() const;              ///< "Student Profile"
   std::string Notes() const;                ///< "Student Notes"
+  std::string Name() const;                 ///< "Student Name"
+  std::string Select() const;               ///< "Select Student"
   std::string AddNew() const;               ///< "Add New Student"
   std::string Rename() const;               ///< "Rename Student"
   std::string MoveThis() const;             ///< "Move this student"

@@ -111,12 +111,14 @@ DialogForm::DialogForm(IHost& host, Settings& settings, QWidget* over)
 QWidget* DialogForm::MakeRenamePanel() {
   name_ = new QLineEdit;
   name_->setObjectName("RenameText");
-  name_->setAccessibleName("New name");
   auto* panel = new QWidget;
   auto* rows = new QVBoxLayout(panel);
   rows->setContentsMargins(0, 0, 0, 0);
   rows->setSpacing(4);
   QLabel* note = MakeLabel("RenameNote", {}, "muted");
+  nameTitle_ = MakeLabel("RenameTitle", {}, "caption");
+  nameTitle_->setBuddy(name_);
+  rows->addWidget(nameTitle_);
   rows->addWidget(name_);
   rows->addWidget(note);
   LimitToNames(*name_, *note);
@@ -253,6 +255,8 @@ void DialogForm::FocusPart() {
 void DialogForm::OpenRename() {
   const bool instructor = mode_ == Mode::RenameInstructor;
   oldName_ = instructor ? about_.instructor : mode_ == Mode::RenameStudent ? about_.student : VideoOf(about_);
+  nameTitle_->setText(mode_ == Mode::RenameStudent ? Q(Vocabulary(settings_).Name()) : instructor ? "Name" : "Video Name");
+  name_->setAccessibleName(nameTitle_->text());
   name_->setText(Q(oldName_));
   name_->selectAll();
 }
@@ -290,7 +294,7 @@ void DialogForm::Want() {
 
 void DialogForm::ShowStudents() {
   const Vocabulary words(settings_);
-  studentsTitle_->setText(Q(words.Nouns()));
+  studentsTitle_->setText(Q(words.Select()));
   students_->setAccessibleName(Q(words.Nouns()));
   students_->SetHint(Database().empty() ? "Choose a database first." : QString("No %1 here.").arg(Q(words.nouns())));
   const auto students = Read([database = Database()](const LibraryTree& tree) { return tree.Students(database); });

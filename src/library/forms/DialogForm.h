@@ -82,6 +82,7 @@ class DialogForm : public QDialog {
   QWidget* movePanel_;
   QWidget* copyPanel_;
   QLineEdit* name_;
+  QLabel* nameTitle_ = nullptr;
   NameList* databases_;
   QWidget* studentsPart_;
   QLabel* studentsTitle_;
