@@ -81,6 +81,7 @@ std::vector<Settings::Key> Settings::ConfigKeys() {
   for (std::size_t i = 0; i < NewColors.size(); ++i) add(fmt::format("NewColor{}", i), kColours[i], &NewColors[i]);
   add("StrobeStep", "1", &StrobeStep);
   add("OpenDlgChoice", "0", &OpenDlgChoice);
+  add("ShortGame", "0", &ShortGame);
 
   section = "Ruler";
   add("CalibNumber", "0", &CalibNumber);

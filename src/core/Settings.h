@@ -93,6 +93,7 @@ class Settings {
   std::array<std::int32_t, 13> NewColors{};  ///< keys NewColor0 to NewColor12: colour of each tool
   std::int32_t StrobeStep = 0;
   std::int32_t OpenDlgChoice = 0;  ///< open panel: 0 right, 1 left, 2 middle
+  std::int32_t ShortGame = 0;      ///< short-game naming: 1 on, anything else off
 
   // --- [Ruler]
   std::int32_t CalibNumber = 0;    ///< measured pixels

@@ -5,6 +5,7 @@
 
 #include "library/LibraryReading.h"
 #include "platform/files/Folders.h"
+#include "platform/files/TextEncoding.h"
 
 namespace kinalyx {
 
@@ -151,24 +152,39 @@ void LibraryBrowser::Remember() {
   LastStudent_ = {Instructor(), student, Folder()};
 }
 
+namespace {
+
+struct ShortGame {
+  std::string_view word;
+  std::vector<std::string_view> files;
+};
+
+/// The family that a video's name names, if any.
+const ShortGame* ShortGameOf(std::string_view videoName) {
+  static const ShortGame kFamilies[] = {
+      {"distance", {"Distance Wedge Day 1.avi", "Distance Wedge Day 3.avi"}},
+      {"chip", {"Chip Shot Day 1.avi"}},
+      {"bunker", {"Bunker Shot Day 1.avi", "Bunker Shot Day 3.avi"}},
+      {"putting", {"Putting Face On.avi", "Putting Down The Line.avi"}},
+  };
+  const auto family = std::ranges::find_if(kFamilies, [name = FoldCase(videoName)](const ShortGame& one) {
+    return name.find(one.word) != std::string::npos;
+  });
+  return family == std::end(kFamilies) ? nullptr : family;
+}
+
+}  // namespace
+
+bool IsShortGameName(std::string_view videoName) { return ShortGameOf(videoName) != nullptr; }
+
 std::vector<std::string> ShortGameFamily(const std::string& folder, std::string_view videoName) {
-  struct Family {
-    std::string_view word;
-    std::vector<std::string_view> files;
-  };
-  static const Family kFamilies[] = {
-      {"Distance", {"Distance Wedge Day 1.avi", "Distance Wedge Day 3.avi"}},
-      {"Chip", {"Chip Shot Day 1.avi"}},
-      {"Bunker", {"Bunker Shot Day 1.avi", "Bunker Shot Day 3.avi"}},
-      {"Putting", {"Putting Face On.avi", "Putting Down The Line.avi"}},
-  };
-  const auto family = std::ranges::find_if(
-      kFamilies, [&](const Family& one) { return videoName.find(one.word) != std::string_view::npos; });
-  if (family == std::end(kFamilies)) return {};
+  const ShortGame* family = ShortGameOf(videoName);
+  if (!family) return {};
   const std::vector<std::string> present = ListFiles(folder, ".avi");
   std::vector<std::string> paths;
   for (const std::string_view file : family->files) {
-    if (std::ranges::find(present, file) != present.end()) paths.push_back(JoinPath(folder, file));
+    const auto found = std::ranges::find(present, FoldCase(file), [](const std::string& name) { return FoldCase(name); });
+    if (found != present.end()) paths.push_back(JoinPath(folder, *found));
   }
   return paths;
 }

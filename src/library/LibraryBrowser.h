@@ -105,7 +105,9 @@ class LibraryBrowser {
 
 /// The short-game files that belong together with a video, in the order in which they open, as full
 /// paths of those that exist in `folder`; empty when the name names no family ("Distance", "Chip",
-/// "Bunker", "Putting").
+/// "Bunker", "Putting"). Names compare without regard to case.
 std::vector<std::string> ShortGameFamily(const std::string& folder, std::string_view videoName);
+/// True when a video's name names such a family.
+bool IsShortGameName(std::string_view videoName);
 
 }  // namespace kinalyx

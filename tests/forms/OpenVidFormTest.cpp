@@ -19,7 +19,7 @@ class OpenFormTest : public ::testing::Test, protected test::UsesApplication {
  protected:
   OpenFormTest() {
     const std::string video = test::MakeTestVideo(test::MjpegVideo(8));
-    for (const char* name : {"Demo/Tom/swing.avi", "Demo/Tom/Putting Face On.avi", "Demo/Tom/Putting Down The Line.avi"})
+    for (const char* name : {"Demo/Tom/swing.avi", "Demo/Tom/putting face on.avi", "Demo/Tom/Putting Down the Line.AVI"})
       std::filesystem::copy_file(video, library.File(name), std::filesystem::copy_options::overwrite_existing);
     library.File("Demo/Tom/swing.ved", "1XXXXNXX");
     remembered = {"Demo", "Tom", library.Path("Demo/Tom")};
@@ -75,12 +75,15 @@ TYPED_TEST(OpenFormTest, OpensUndoesAndIsDone) {
 }
 
 TYPED_TEST(OpenFormTest, LoadsTheFilesOfAShortGameFamily) {
-  this->form->SetShortGameNaming(true);
+  this->library.settings.ShortGame = 1;
+  this->form->SettingsChanged();
   EXPECT_EQ(this->Button(2)->text(), "Load Student Files");
+  this->VideoList()->setCurrentRow(2);
+  EXPECT_FALSE(this->Button(2)->isEnabled()) << "belongs to none";
   this->VideoList()->setCurrentRow(1);
   this->Button(2)->click();
-  EXPECT_EQ(this->family, (std::vector<std::string>{this->library.Path("Demo/Tom/Putting Face On.avi"),
-                                                    this->library.Path("Demo/Tom/Putting Down The Line.avi")}));
+  EXPECT_EQ(this->family, (std::vector<std::string>{this->library.Path("Demo/Tom/putting face on.avi"),
+                                                    this->library.Path("Demo/Tom/Putting Down the Line.AVI")}));
 }
 
 }  // namespace

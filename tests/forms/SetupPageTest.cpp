@@ -62,12 +62,12 @@ TEST_F(SetupPageTest, FillingTheControlsWritesNothing) {
 
 TEST_F(SetupPageTest, EveryControlWritesItsKeyAtOnce) {
   QSignalSpy analysis(page.get(), &SetupPage::AnalysisChanged);
-  for (const char* button : {"ScreenOpt4", "ODSetupOpt1", "Check1_8", "CadOutlineCheck", "DCSetupOpt1", "SSOption2_1"})
+  for (const char* button : {"ScreenOpt4", "ODSetupOpt1", "ShortGameCheck", "Check1_8", "CadOutlineCheck", "DCSetupOpt1", "SSOption2_1"})
     Press(button);
   Find<QSlider>("Slomoscroll")->setValue(40);
   Find<QSlider>("GridSizeScroll")->setValue(12);
   Find<QSlider>("StrobeStepScroll")->setValue(4);
-  EXPECT_EQ(analysis.count(), 9);
+  EXPECT_EQ(analysis.count(), 10);
 
   QSignalSpy company(page.get(), &SetupPage::CompanyChanged);
   QSignalSpy menu(page.get(), &SetupPage::MenuChanged);
@@ -91,7 +91,8 @@ TEST_F(SetupPageTest, EveryControlWritesItsKeyAtOnce) {
     std::string value;
   } written[] = {
       {"General", "ScreenMode", "4"},         {"Analysis", "OpenDlgChoice", "1"},
-      {"Analysis", "SlomoSpeed", "40"},       {"Analysis", "GridSize", "12"},
+      {"Analysis", "ShortGame", "1"},         {"Analysis", "GridSize", "12"},
+      {"Analysis", "SlomoSpeed", "40"},
       {"Analysis", "StrobeStep", "4"},        {"Analysis", "CadWidth", "8"},
       {"Analysis", "CadOutline", "False"},    {"Analysis", "RandomColor", "1"},
       {"Ruler", "NTSCorPAL", "1"},            {"General", "Logo", "False"},

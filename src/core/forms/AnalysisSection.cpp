@@ -79,6 +79,12 @@ void AnalysisSection::AddLayouts() {
   rows->addSpacing(6);
   rows->addWidget(MakeLabel({}, "List of videos to open", "caption"));
   sides_ = AddRadios(*rows, "ODSetupOpt", {"On the right side", "On the left side", "Classic window in the middle"});
+  rows->addSpacing(6);
+  shortGame_ = new QCheckBox("Short-game video names");
+  shortGame_->setObjectName("ShortGameCheck");
+  shortGame_->setToolTip("The list of videos to open loads the files of a shot together, in place of undoing the last open");
+  rows->addWidget(shortGame_);
+  connect(shortGame_, &QCheckBox::toggled, this, [this](bool on) { StoreAndTell(settings_.ShortGame, on ? 1 : 0); });
   connect(layouts_, &QButtonGroup::idClicked, this,
           [this](int mode) { StoreAndTell(settings_.ScreenMode, std::to_string(mode)); });
   connect(sides_, &QButtonGroup::idClicked, this, [this](int side) { StoreAndTell(settings_.OpenDlgChoice, side); });
@@ -165,6 +171,7 @@ void AnalysisSection::SetupProgram() {
   strobe_->setValue(settings_.StrobeStep);
   grid_->setValue(settings_.GridSize);
   outline_->setChecked(settings_.CadOutline);
+  shortGame_->setChecked(settings_.ShortGame == 1);
   for (const auto& [index, button] : colours_) {
     const std::int32_t colour =
         index == kPathDown ? settings_.PathDownColor : settings_.NewColors[static_cast<std::size_t>(index)];

@@ -52,6 +52,7 @@ class AnalysisSection : public SetupSection {
   QSlider* strobe_ = nullptr;
   QSlider* grid_ = nullptr;
   QCheckBox* outline_ = nullptr;
+  QCheckBox* shortGame_ = nullptr;
   std::map<int, ColourButton*> colours_;
 };
 

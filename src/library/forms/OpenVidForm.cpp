@@ -31,7 +31,6 @@ OpenVideoParts::OpenVideoParts(PlayerServices& services, const Settings& setting
   setProperty("look", "panel");
   lists_ = new LibraryLists(browser_, settings, this);
   students_ = MakeLabel("StudentHeading", {}, "heading");
-  SetupVocabulary();
   preview_ = new PreviewPlayer(services);
   marks_ = new SidecarMarkLabels;
   count_ = new FigureLabel("VideoCount");
@@ -45,7 +44,7 @@ OpenVideoParts::OpenVideoParts(PlayerServices& services, const Settings& setting
   connect(lists_, &LibraryLists::VideoChosen, this, &OpenVideoParts::VideoList_Click);
   connect(lists_, &LibraryLists::VideoActivated, this, [this] { CmdOpenVideo_Click(0); });
   connect(lists_, &LibraryLists::PlayWanted, this, [this] { preview_->TogglePlay(); });
-  ShowButtons();
+  SettingsChanged();
 }
 
 OpenVideoParts::~OpenVideoParts() = default;
@@ -64,10 +63,8 @@ void OpenVideoParts::Return() {
 
 void OpenVideoParts::Leave() { preview_->Unload(); }
 
-void OpenVideoParts::SetupVocabulary() { students_->setText(Q(Vocabulary(settings_).Nouns())); }
-
-void OpenVideoParts::SetShortGameNaming(bool on) {
-  shortGame_ = on;
+void OpenVideoParts::SettingsChanged() {
+  students_->setText(Q(Vocabulary(settings_).Nouns()));
   ShowButtons();
 }
 
@@ -88,8 +85,10 @@ void OpenVideoParts::VidCountUpdate() {
 
 void OpenVideoParts::ShowButtons() {
   buttons_[0]->setEnabled(browser_.HasVideo());
-  buttons_[2]->setText(shortGame_ ? "Load Student Files" : "Undo Last Open");
-  buttons_[2]->setEnabled(shortGame_ ? browser_.HasVideo() : opened_ > 0);
+  const Vocabulary words(settings_);
+  buttons_[2]->setText(ShortGame() ? QString("Load %1 Files").arg(Q(words.Noun())) : QString("Undo Last Open"));
+  buttons_[2]->setEnabled(ShortGame() ? IsShortGameName(browser_.Video()) : opened_ > 0);
+  buttons_[2]->setToolTip(ShortGame() ? "Opens what belongs together with a distance wedge, chip, bunker or putting video" : "");
 }
 
 void OpenVideoParts::CmdOpenVideo_Click(int Index) {
@@ -100,7 +99,7 @@ void OpenVideoParts::CmdOpenVideo_Click(int Index) {
       if (calls_.done) calls_.done();
       return;  // the form may be gone
     case 2:
-      if (shortGame_) {
+      if (ShortGame()) {
         OpenFamily();
       } else if (opened_ > 0 && calls_.undo) {
         --opened_;
@@ -125,7 +124,10 @@ void OpenVideoParts::OpenFamily() {
   const auto paths = browser_.Drives().Ask(browser_.Tree().Root(), family);
   if (!paths)
     return host_.Message(MessageKind::Warning, "", "The drive with these videos is not answering. They were not opened.");
-  if (!paths->empty() && calls_.openFamily) calls_.openFamily(*paths);
+  if (paths->empty())
+    return host_.Message(MessageKind::Warning, "",
+                         "There are no videos here with the names that belong together with \"" + browser_.Video() + "\".");
+  if (calls_.openFamily) calls_.openFamily(*paths);
 }
 
 void OpenVideoParts::keyPressEvent(QKeyEvent* event) {

@@ -46,10 +46,9 @@ class OpenVideoParts : public QFrame {
   void Return();
   /// Lets the preview go: the panel or its page is left.
   void Leave();
-  /// The noun has changed.
-  void SetupVocabulary();
-  /// With short-game naming on, the third button loads the files that belong together.
-  void SetShortGameNaming(bool on);
+  /// The noun has changed, or the short-game naming: with that on, the third button loads the files that belong
+  /// together.
+  void SettingsChanged();
   LibraryBrowser& Browser() { return browser_; }
   /// 0 open, 1 done, 2 load the student's files or undo the last open.
   void CmdOpenVideo_Click(int Index);
@@ -69,6 +68,7 @@ class OpenVideoParts : public QFrame {
  private:
   void VideoList_Click();
   void VidCountUpdate();
+  bool ShortGame() const { return settings_.ShortGame == 1; }
   void ShowButtons();
   void OpenChosen();
   void OpenFamily();
@@ -77,7 +77,6 @@ class OpenVideoParts : public QFrame {
   const Settings& settings_;
   LibraryBrowser browser_;
   OpenVideoCalls calls_;
-  bool shortGame_ = false;
   int opened_ = 0;
 };
 

@@ -308,7 +308,7 @@ void AnalysisForm::ShowNotesform() {
 
 void AnalysisForm::SettingsChanged() {
   analysis_->SettingsChanged();
-  if (openPanel_) openPanel_->SetupVocabulary();
+  if (openPanel_) openPanel_->SettingsChanged();
 }
 
 void AnalysisForm::MakeOpenPanel() {
