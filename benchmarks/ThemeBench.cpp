@@ -15,6 +15,7 @@
 #include "library/forms/ProfilesPage.h"
 #include "platform/files/Log.h"
 #include "platform/host/QtHost.h"
+#include "platform/print/Printer.h"
 #include "platform/widgets/Theme.h"
 #include "workspace/forms/AnalysisForm.h"
 
@@ -24,6 +25,7 @@ namespace {
 const Register kThemeSwitch({"theme_switch", {Target::Of::AtMost, 150, 60}, [] {
   Log log(ScratchFolder() + "/bench.log");
   const std::unique_ptr<IHost> host = MakeQtHost(log);
+  const std::unique_ptr<IPrinter> printer = MakePrinter();
   Settings settings(*host, ScratchFolder() + "/theme", "");
   settings.LoadSettings();
   ColorSchemes schemes;
@@ -40,8 +42,8 @@ const Register kThemeSwitch({"theme_switch", {Target::Of::AtMost, 150, 60}, [] {
   QStackedWidget window;
   window.resize(1280, 764);
   window.addWidget(new MenuPage(*host, settings));
-  window.addWidget(new ProfilesPage(players, settings, fields, remembered, operations));
-  window.addWidget(new AnalysisForm(*host, settings, players, remembered, {}));
+  window.addWidget(new ProfilesPage(players, *printer, settings, fields, remembered, operations));
+  window.addWidget(new AnalysisForm(*host, *printer, settings, players, remembered, {}));
   window.addWidget(new SetupPage(*host, settings, schemes));
   window.addWidget(new HelpPage(QString()));
   window.show();

@@ -38,6 +38,7 @@ constexpr int kComing[] = {kCapturePage, kLessonPage};
 Program::Program(QApplication& application, Log& log)
     : application_(application),
       host_(MakeQtHost(log)),
+      printer_(MakePrinter()),
       settings_(*host_, Settings::UserDataPath(), ProgramFolder()),
       mail_(settings_.DataPath),
       vocabulary_(settings_),
@@ -105,7 +106,7 @@ void Program::LoadMain() {
   QObject::connect(menu_, &MenuPage::PageWanted, [this](int index) { OpenPage(index); });
   QObject::connect(menu_, &MenuPage::MenuChanged, [this] { setup_->SetupProgram(); });
 
-  profiles_ = new ProfilesPage(players_, settings_, fields_, lastStudent_, operations_);
+  profiles_ = new ProfilesPage(players_, *printer_, settings_, fields_, lastStudent_, operations_);
   main_->SetPage(kProfilesPage, profiles_);
 
   importExport_ = new ImportExportPage(*host_, settings_, operations_, lastStudent_);
@@ -245,7 +246,7 @@ AnalysisForm& Program::Analysis() {
     navigation.library = [this] { OpenPage(kProfilesPage); };
     navigation.mainMenu = [this] { OpenPage(kMenuPage); };
     navigation.exit = [this] { LeaveAnalysis(); };
-    analysis_ = new AnalysisForm(*host_, settings_, players_, lastStudent_, std::move(navigation));
+    analysis_ = new AnalysisForm(*host_, *printer_, settings_, players_, lastStudent_, std::move(navigation));
     main_->SetPage(kAnalysisPage, analysis_);
   }
   return *analysis_;

@@ -14,6 +14,7 @@
 #include "library/LibraryTree.h"
 #include "library/Profile.h"
 #include "platform/host/Host.h"
+#include "platform/print/Printer.h"
 #include "video/AVIControl.h"
 #include "video/PlayScheduler.h"
 
@@ -67,6 +68,7 @@ class Program {
 
   QApplication& application_;
   std::unique_ptr<IHost> host_;
+  std::unique_ptr<IPrinter> printer_;
   Settings settings_;
   MailSettings mail_;
   ColorSchemes schemes_;

@@ -12,6 +12,7 @@
 #include "FormDriver.h"
 #include "FormsSupport.h"
 #include "support/TestHost.h"
+#include "support/TestPrinter.h"
 #include "support/TestVideos.h"
 #include "workspace/forms/AnalysisForm.h"
 
@@ -29,7 +30,7 @@ struct AnalysisFormFixture : testing::Test, UsesApplication, FormDriver {
   /// Another page, in place of the one before.
   void Make(QSize size) {
     form = std::make_unique<AnalysisForm>(
-        host, settings, players, remembered,
+        host, printer, settings, players, remembered,
         Navigation{[this] { went = "library"; }, [this] { went = "menu"; }, [this] { went = "exit"; }});
     form->resize(size);
     form->show();
@@ -72,6 +73,7 @@ struct AnalysisFormFixture : testing::Test, UsesApplication, FormDriver {
   PlayScheduler scheduler{host};
   PlayerServices players{host, scheduler};
   LastStudentInfo remembered;
+  TestPrinter printer;
   std::string went;  ///< where the page has led last
   std::unique_ptr<AnalysisForm> form;
 

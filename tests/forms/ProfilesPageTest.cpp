@@ -253,6 +253,26 @@ TEST_F(ProfilesPageTest, NotesThatNobodyTouchesAreNotWritten) {
   EXPECT_EQ(notes->textCursor().position(), 10) << "the cursor stays behind what was typed";
 }
 
+TEST_F(ProfilesPageTest, NotesAreAPrintoutOfTheStudent) {
+  ChooseStudent("Tom");
+  Press("SPBtn10");
+  Press("ProBtn2");
+  EXPECT_EQ(Text("SPDisplay"), "There are no notes to print.");
+  EXPECT_TRUE(printer.printed.empty());
+  Find<QPlainTextEdit>("ProfileNotes")->setPlainText("Grip\nschwächer");
+  Press("ProBtn2");
+  ASSERT_EQ(printer.printed.size(), 1u);
+  EXPECT_EQ(printer.printed[0].title + "|" + printer.printed[0].subtitle + "|" + printer.printed[0].text,
+            "Tom|Student Notes|Grip\nschwächer");
+  EXPECT_EQ(Text("SPDisplay"), "The notes were printed.");
+  printer.answer = {PrintResult::Kind::Cancelled, ""};
+  Press("ProBtn2");
+  EXPECT_EQ(Text("SPDisplay"), "The notes were not printed.");
+  printer.answer = {PrintResult::Kind::Failed, "No paper."};
+  Press("ProBtn2");
+  EXPECT_EQ(library.host.messages.back(), "The notes were not printed. No paper.");
+}
+
 TEST_F(ProfilesPageTest, NotesThatTheDiskRefusesStayInTheEditor) {
   ChooseStudent("Tom");
   std::filesystem::remove(library.Path("Demo/Tom/profile.txt"));

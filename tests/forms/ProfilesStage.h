@@ -8,6 +8,7 @@
 #include "FormsSupport.h"
 #include "library/forms/PreviewPlayer.h"
 #include "library/forms/ProfilesPage.h"
+#include "support/TestPrinter.h"
 #include "support/TestVideos.h"
 
 namespace kinalyx::test {
@@ -36,7 +37,7 @@ class ProfilesStage : public ::testing::Test, protected UsesApplication, protect
                         return 1;
                       }};
     operations = std::make_unique<LibraryOperations>(library.host, library.settings, link, environment);
-    page = std::make_unique<ProfilesPage>(services, library.settings, fields, remembered, *operations);
+    page = std::make_unique<ProfilesPage>(services, printer, library.settings, fields, remembered, *operations);
     page->resize(892, 700);
     page->show();
     page->Open();
@@ -75,6 +76,7 @@ class ProfilesStage : public ::testing::Test, protected UsesApplication, protect
   TempLibrary library;
   PlayScheduler scheduler{library.host};
   PlayerServices services{library.host, scheduler};
+  TestPrinter printer;
   ProfileFields fields{library.Data("fields.ini")};
   LastStudentInfo remembered;
   std::vector<std::string> sent;

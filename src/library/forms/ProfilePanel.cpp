@@ -41,9 +41,11 @@ std::vector<int> AllFields() {
 
 }  // namespace
 
-ProfilePanel::ProfilePanel(IHost& host, const Settings& settings, QWidget* parent)
+ProfilePanel::ProfilePanel(IHost& host, IPrinter& printer, const Settings& settings, QWidget* parent)
     : Panel("ProfileTitle", " ", parent),
       host_(host),
+      printer_(printer),
+      settings_(settings),
       vocabulary_(settings),
       notes_([this, &settings](const std::string& folder) {
         DriveWatch& drives = host_.Drives();
@@ -54,7 +56,6 @@ ProfilePanel::ProfilePanel(IHost& host, const Settings& settings, QWidget* paren
   edit_ = HeadButton("ProBtn1", "Edit", "edit");
   print_ = HeadButton("ProBtn2", "Print", "print");
   back_ = HeadButton("ProfileBack", "Videos", "chevron-left");
-  Coming(print_);
   Head()->addWidget(back_);
   Head()->addWidget(edit_);
   Head()->addWidget(print_);
@@ -88,6 +89,7 @@ ProfilePanel::ProfilePanel(IHost& host, const Settings& settings, QWidget* paren
   });
   connect(details_, &QPushButton::clicked, this, [this] { ProBtn(0); });
   connect(edit_, &QPushButton::clicked, this, [this] { ProBtn(1); });
+  connect(print_, &QPushButton::clicked, this, [this] { ProBtn(2); });
   connect(back_, &QPushButton::clicked, this, &ProfilePanel::BackWanted);
   SetupVocabulary();
   SetView(View::Brief);
@@ -121,6 +123,21 @@ void ProfilePanel::ProBtn(int index) {
   }
   if (index == 0) SetView(view_ == View::Brief ? View::Details : View::Brief);
   if (index == 1) emit EditWanted();
+  if (index == 2) PrintNotes();
+}
+
+void ProfilePanel::PrintNotes() {
+  const std::string notes = TypedNotes();
+  if (Q(notes).trimmed().isEmpty()) {
+    emit Said("There are no notes to print.");
+    return;
+  }
+  const PrintResult result = printer_.Print(
+      {LastName(notes_.StudentFolder()), vocabulary_.Notes(), notes, settings_.CompanyName});
+  if (result.kind == PrintResult::Kind::Failed)
+    host_.Message(MessageKind::Warning, vocabulary_.Notes(), "The notes were not printed. " + result.reason);
+  else
+    emit Said(result.kind == PrintResult::Kind::Printed ? "The notes were printed." : "The notes were not printed.");
 }
 
 void ProfilePanel::OpenStudent(const std::string& studentFolder) {

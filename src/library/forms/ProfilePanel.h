@@ -6,6 +6,7 @@
 #include "core/Vocabulary.h"
 #include "library/NotesKeeper.h"
 #include "platform/host/Host.h"
+#include "platform/print/Printer.h"
 #include "platform/widgets/Panel.h"
 
 class QPlainTextEdit;
@@ -23,7 +24,8 @@ class ProfilePanel : public Panel {
  public:
   enum class View { Brief, Details, Complete };
 
-  ProfilePanel(IHost& host, const Settings& settings, QWidget* parent = nullptr);
+  /// All that is passed outlives the panel.
+  ProfilePanel(IHost& host, IPrinter& printer, const Settings& settings, QWidget* parent = nullptr);
 
   FieldGrid& Fields() { return *fields_; }
   void SetView(View view);
@@ -52,11 +54,14 @@ class ProfilePanel : public Panel {
   void ProBtn(int index);
   std::string TypedNotes() const;
   void ShowNotes(const std::string& text);
+  void PrintNotes();
   bool KeepNotes(std::string* reason);
   void KeepTypedNotes();
   void TellLost(const std::string& folder, const std::string& notes);
 
   IHost& host_;
+  IPrinter& printer_;
+  const Settings& settings_;
   Vocabulary vocabulary_;
   bool resting_ = false;  ///< it is the clock that stores the notes
   NotesKeeper notes_;

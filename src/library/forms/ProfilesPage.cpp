@@ -25,7 +25,7 @@
 
 namespace kinalyx {
 
-ProfilesPage::ProfilesPage(PlayerServices& services, Settings& settings, ProfileFields& fields,
+ProfilesPage::ProfilesPage(PlayerServices& services, IPrinter& printer, Settings& settings, ProfileFields& fields,
                            LastStudentInfo& remembered, LibraryOperations& operations, QWidget* parent)
     : PageWidget(parent),
       services_(services),
@@ -51,7 +51,7 @@ ProfilesPage::ProfilesPage(PlayerServices& services, Settings& settings, Profile
   instructors_ = new InstructorsPanel(lists_->InstructorList());
   students_ = new Panel("StudentsTitle", "Students");
   videos_ = new VideosPanel(services, settings, lists_->VideoList());
-  profilePanel_ = new ProfilePanel(services.host, settings);
+  profilePanel_ = new ProfilePanel(services.host, printer, settings);
   editor_ = new ProfileEditor(settings, this);
   editor_->hide();
   grid_->addWidget(instructors_, 0, 0);

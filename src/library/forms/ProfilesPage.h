@@ -18,6 +18,7 @@ class QGridLayout;
 
 namespace kinalyx {
 
+class IPrinter;
 class InstructorsPanel;
 class LibraryButtons;
 class LibraryCommands;
@@ -35,8 +36,8 @@ class ProfilesPage : public PageWidget {
 
  public:
   /// All that is passed outlives the page.
-  ProfilesPage(PlayerServices& services, Settings& settings, ProfileFields& fields, LastStudentInfo& remembered,
-               LibraryOperations& operations, QWidget* parent = nullptr);
+  ProfilesPage(PlayerServices& services, IPrinter& printer, Settings& settings, ProfileFields& fields,
+               LastStudentInfo& remembered, LibraryOperations& operations, QWidget* parent = nullptr);
   ~ProfilesPage() override;
 
   /// Reads the library and goes to the remembered student.

@@ -11,6 +11,7 @@
 
 #include "core/WindowModes.h"
 #include "library/forms/OpenVidForm.h"
+#include "platform/files/Folders.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
 #include "platform/widgets/Text.h"
@@ -44,9 +45,14 @@ int ToPixels(int twips) { return static_cast<int>(std::floor(static_cast<double>
 
 }  // namespace
 
-AnalysisForm::AnalysisForm(IHost& host, Settings& settings, PlayerServices& players, LastStudentInfo& remembered,
-                           Navigation navigation, QWidget* parent)
-    : PageWidget(parent), host_(host), settings_(settings), players_(players), remembered_(remembered) {
+AnalysisForm::AnalysisForm(IHost& host, IPrinter& printer, Settings& settings, PlayerServices& players,
+                           LastStudentInfo& remembered, Navigation navigation, QWidget* parent)
+    : PageWidget(parent),
+      host_(host),
+      printer_(printer),
+      settings_(settings),
+      players_(players),
+      remembered_(remembered) {
   setObjectName("AnalysisForm");
   edits_ = std::make_unique<EditForms>();
   compare_ = std::make_unique<CompareForms>(host);
@@ -300,7 +306,8 @@ void AnalysisForm::ShowCalibration(bool shown) {
 void AnalysisForm::SetCalibrationLength(const std::string& length) { calibration_->SetLength(Q(length)); }
 
 void AnalysisForm::ShowNotesform() {
-  Notesform form(host_, BoxText(analysis_->Slots().Current().data.Notes), this);
+  const Slot& at = analysis_->Slots().Current();
+  Notesform form(host_, printer_, Q(at.path.empty() ? "" : VideoName(LastName(at.path))), BoxText(at.data.Notes), this);
   form.exec();
 }
 

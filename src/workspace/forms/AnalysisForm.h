@@ -18,6 +18,7 @@ class CompareForms;
 class CommandMenus;
 class DrawCaption;
 class EditForms;
+class IPrinter;
 class NotesPanel;
 class OpenVideoParts;
 class PlayBar;
@@ -34,8 +35,8 @@ class AnalysisForm : public PageWidget, private IWorkspaceView {
   /// What is passed must outlive the form. The form may be let go at any time from the event loop; videos
   /// that are still open are written then, without a question.
   /// @param remembered  the program's one remembered library selection
-  AnalysisForm(IHost& host, Settings& settings, PlayerServices& players, LastStudentInfo& remembered,
-               Navigation navigation, QWidget* parent = nullptr);
+  AnalysisForm(IHost& host, IPrinter& printer, Settings& settings, PlayerServices& players,
+               LastStudentInfo& remembered, Navigation navigation, QWidget* parent = nullptr);
   ~AnalysisForm() override;
 
   /// The keys are its own, and an open panel that was left standing is up to date.
@@ -100,6 +101,7 @@ class AnalysisForm : public PageWidget, private IWorkspaceView {
   void FocusKeyBox() override;
 
   IHost& host_;
+  IPrinter& printer_;
   Settings& settings_;
   PlayerServices& players_;
   LastStudentInfo& remembered_;

@@ -12,7 +12,8 @@
 
 namespace kinalyx {
 
-Notesform::Notesform(IHost& host, const QString& text, QWidget* parent) : QDialog(parent), host_(host) {
+Notesform::Notesform(IHost& host, IPrinter& printer, const QString& video, const QString& text, QWidget* parent)
+    : QDialog(parent), host_(host), printer_(printer), video_(video) {
   setObjectName("Notesform");
   setWindowTitle(tr("Print Window with Notes"));
   auto* rows = new QVBoxLayout(this);
@@ -27,7 +28,6 @@ Notesform::Notesform(IHost& host, const QString& text, QWidget* parent) : QDialo
     auto* button = new Button(QString("PrintBtn%1").arg(i), captions[i], icons[i], Look::Quiet, this);
     connect(button, &QPushButton::clicked, this, [this, i] { PrintBtn_Click(i); });
     file->addWidget(button);
-    if (i == 3) Coming(button);
   }
   file->addStretch(1);
   rows->addLayout(file);
@@ -65,6 +65,7 @@ void Notesform::PrintBtn_Click(int index) {
       break;
     case 1: Open(); break;
     case 2: Save(); break;
+    case 3: Print(); break;
     default: break;
   }
   notes_->setFocus();
@@ -79,6 +80,14 @@ void Notesform::Open() {
   } else {
     host_.Message(MessageKind::Warning, "", tr("The file cannot be read, or it is too large for notes.").toStdString());
   }
+}
+
+void Notesform::Print() {
+  const QString notes = notes_->toPlainText();
+  if (notes.trimmed().isEmpty()) return host_.Message(MessageKind::Information, "", tr("There are no notes to print.").toStdString());
+  const PrintResult result = printer_.Print({video_.toStdString(), tr("Video Notes").toStdString(), notes.toStdString(), {}});
+  if (result.kind == PrintResult::Kind::Failed)
+    host_.Message(MessageKind::Warning, "", tr("The notes were not printed. %1").arg(QString::fromStdString(result.reason)).toStdString());
 }
 
 void Notesform::Save() {

@@ -3,6 +3,7 @@
 #include <QDialog>
 
 #include "platform/host/Host.h"
+#include "platform/print/Printer.h"
 
 class QPlainTextEdit;
 
@@ -13,15 +14,20 @@ class Notesform : public QDialog {
   Q_OBJECT
 
  public:
-  /// `text` is what the box begins with.
-  Notesform(IHost& host, const QString& text, QWidget* parent);
+  /// @param printer  outlives the form
+  /// @param video    the name that stands over the printed text; may be empty
+  /// @param text     what the box begins with
+  Notesform(IHost& host, IPrinter& printer, const QString& video, const QString& text, QWidget* parent);
 
  private:
   void PrintBtn_Click(int index);
   void Open();
   void Save();
+  void Print();
 
   IHost& host_;
+  IPrinter& printer_;
+  QString video_;
   QPlainTextEdit* notes_;
   QString file_;  ///< opened or saved last
 };

@@ -1,0 +1,58 @@
+#include "platform/print/Printer.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <fstream>
+#include <iterator>
+
+#include "support/TempFolder.h"
+
+namespace kinalyx::test {
+namespace {
+
+struct PrinterTest : ::testing::Test {
+  /// Prints and counts the pages that came out.
+  int PagesOf(const PrintedText& text) {
+    const std::string path = folder.Path("out.pdf");
+    EXPECT_EQ(PrintToPdf(text, path).kind, PrintResult::Kind::Printed);
+    std::ifstream file(path, std::ios::binary);
+    const std::string pdf(std::istreambuf_iterator<char>(file), {});
+    int pages = 0;
+    for (std::size_t at = pdf.find("/Type /Page\n"); at != std::string::npos; at = pdf.find("/Type /Page\n", at + 1)) ++pages;
+    return pages;
+  }
+
+  int argc = 1;
+  char name[5] = "test";
+  char* argv[2] = {name, nullptr};
+  QApplication application{argc, argv};
+  TempFolder folder;
+};
+
+TEST_F(PrinterTest, ATextTakesAsManyPagesAsItNeeds) {
+  PrintedText notes{"Zażółć Ελένη 山田", "Student Notes", "Grip weaker.\r\n\r\nSlower back.\r\n", "Links Golf"};
+  EXPECT_EQ(PagesOf(notes), 1);
+  for (int line = 0; line < 150; ++line) notes.text += "Line\r\n";
+  const int lines = PagesOf(notes);
+  EXPECT_GE(lines, 3);
+  EXPECT_LE(lines, 5);
+  notes.text += std::string(500, '\n');
+  EXPECT_EQ(PagesOf(notes), lines) << "blank lines at the end take no paper";
+  notes.text = std::string(40000, 'x');  // one word
+  EXPECT_GE(PagesOf(notes), 6);
+  notes.text = "\n\n";
+  EXPECT_EQ(PagesOf(notes), 1);
+}
+
+TEST_F(PrinterTest, WhatCannotBeWrittenIsToldOf) {
+  const PrintedText notes{"Tom", "", "Grip", ""};
+  for (const std::string& path : {folder.Path("none/out.pdf"), folder.Path(), std::string("/dev/full")}) {
+    const PrintResult result = PrintToPdf(notes, path);
+    EXPECT_EQ(result.kind, PrintResult::Kind::Failed) << path;
+    EXPECT_NE(result.reason.find(path), std::string::npos) << result.reason;
+  }
+}
+
+}  // namespace
+}  // namespace kinalyx::test
