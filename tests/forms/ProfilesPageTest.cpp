@@ -7,6 +7,7 @@
 
 #include "ProfilesStage.h"
 #include "library/forms/FieldsEditor.h"
+#include "platform/files/IniFile.h"
 
 namespace kinalyx {
 namespace {
