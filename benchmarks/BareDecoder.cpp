@@ -7,7 +7,7 @@
 namespace kinalyx::bench {
 
 BareDecoder::BareDecoder(const std::string& path) {
-  SilenceLibrary();
+  HearLibrary();
   AVFormatContext* context = nullptr;
   if (avformat_open_input(&context, path.c_str(), nullptr, nullptr) < 0) throw std::runtime_error("cannot open " + path);
   input_.reset(context);

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <map>
@@ -78,9 +79,8 @@ std::vector<Source> ReadSources(const fs::path& root) {
 /// The library whose header this is: the name after LIBS, "Qt6", or nothing for the language's, the system's
 /// and the text library, which everybody may see. A header that nobody has declared is its own library.
 std::string LibraryOf(const std::string& header, const House& house) {
-  static const std::regex kFree(R"(fmt/\w+\.h|\w+|(sys/)?(\w+)\.h)");
-  static const Names kSystem{"dirent", "fcntl", "langinfo", "locale", "poll", "spawn", "stat", "statvfs", "sysinfo",
-                             "types", "unistd", "wait"};
+  static const std::regex kFree(R"(fmt/\w+\.h|sys/\w+\.h|\w+|(\w+)\.h)");
+  static const Names kSystem{"dirent", "fcntl", "langinfo", "locale", "poll", "pthread", "sched", "signal", "spawn", "unistd"};
   static const std::regex kQt("(Qt[A-Z]\\w*/)?Q[A-Za-z]\\w*");
   if (std::regex_match(header, kQt)) return "Qt6";
   for (const auto& [library, own] : house.foreign) {
@@ -89,7 +89,7 @@ std::string LibraryOf(const std::string& header, const House& house) {
   }
   std::smatch parts;
   if (!std::regex_match(header, parts, kFree)) return header;
-  return !parts[3].matched || kSystem.contains(parts[3]) ? "" : header;
+  return !parts[1].matched || kSystem.contains(parts[1]) ? "" : header;
 }
 
 bool MaySee(const Room& room, const std::string& library) {

@@ -94,8 +94,8 @@ void TakeQtMessage(QtMsgType type, const QMessageLogContext& context, const QStr
 void SetQtLog(Log* log) {
   const std::lock_guard lock(qtMutex);
   qtLog = log;
-  if (log) qtConsole = qInstallMessageHandler(&TakeQtMessage);
-  else qInstallMessageHandler(qtConsole);
+  const QtMessageHandler before = qInstallMessageHandler(log ? &TakeQtMessage : qtConsole);
+  if (before != &TakeQtMessage) qtConsole = before;
 }
 
 class QtHost final : public QObject, public IHost {

@@ -1,6 +1,7 @@
 #include "platform/media/MediaLog.h"
 
 #include <array>
+#include <cstdarg>
 #include <mutex>
 
 #include "platform/files/Log.h"

@@ -96,7 +96,7 @@ FrameHandle ToneOf(int n) {
 }
 
 void Make(const Film& film, const std::string& path) {
-  SilenceLibrary();
+  HearLibrary();
   Muxer muxer;
   ASSERT_GE(avformat_alloc_output_context2(&muxer.output, nullptr, nullptr, path.c_str()), 0);
   const AVCodec* encoder = avcodec_find_encoder_by_name(film.encoder.c_str());
