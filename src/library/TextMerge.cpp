@@ -2,126 +2,146 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <span>
 #include <vector>
 
 namespace kinalyx {
+
 namespace {
 
-using Lines = std::vector<std::string_view>;
+using Lines = std::span<const std::string_view>;
 
-Lines LinesOf(std::string_view text) {
-  Lines lines;
-  if (text.empty()) return lines;
-  for (;;) {
-    const std::size_t end = text.find('\n');
-    std::string_view line = text.substr(0, end);
-    if (end != std::string_view::npos && line.ends_with('\r')) line.remove_suffix(1);
-    lines.push_back(line);
-    if (end == std::string_view::npos) return lines;
-    text.remove_prefix(end + 1);
-  }
+/// So many pairs of lines are compared at most. Longer texts that differ from end to end are taken as replaced.
+constexpr std::size_t kMostPairs = 4'000'000;
+
+/// The text without its first line, and that line without its end.
+std::string_view TakeLine(std::string_view& text) {
+  const std::size_t end = std::min(text.find_first_of("\r\n"), text.size());
+  const std::string_view line = text.substr(0, end);
+  text.remove_prefix(end);
+  if (!text.empty()) text.remove_prefix(text.starts_with("\r\n") ? 2 : 1);
+  return line;
 }
 
-/// Longer differences than this are taken as one: the table of the comparison grows with their product.
-constexpr std::size_t kMostLines = 4000;
+std::vector<std::string_view> LinesOf(std::string_view text) {
+  std::vector<std::string_view> lines;
+  while (!text.empty()) lines.push_back(TakeLine(text));
+  return lines;
+}
 
-/// For each line of `base` its partner in `other` along their longest common subsequence, or -1.
-std::vector<int> PartnersOf(const Lines& base, const Lines& other) {
-  std::vector<int> partners(base.size(), -1);
-  std::size_t from = 0;
-  while (from < base.size() && from < other.size() && base[from] == other[from]) {
-    partners[from] = static_cast<int>(from);
-    ++from;
-  }
-  std::size_t baseEnd = base.size();
-  std::size_t otherEnd = other.size();
-  while (baseEnd > from && otherEnd > from && base[baseEnd - 1] == other[otherEnd - 1])
-    partners[--baseEnd] = static_cast<int>(--otherEnd);
+bool IsEnded(std::string_view text) { return text.ends_with('\n') || text.ends_with('\r'); }
 
-  const std::size_t rows = baseEnd - from;
-  const std::size_t columns = otherEnd - from;
-  if (rows == 0 || columns == 0 || rows > kMostLines || columns > kMostLines) return partners;
-  // longest[r][c]: of what begins at row r and column c.
-  std::vector<int> longest((rows + 1) * (columns + 1), 0);
-  const auto at = [&](std::size_t r, std::size_t c) -> int& { return longest[r * (columns + 1) + c]; };
-  for (std::size_t r = rows; r-- > 0;) {
-    for (std::size_t c = columns; c-- > 0;)
-      at(r, c) = base[from + r] == other[from + c] ? at(r + 1, c + 1) + 1 : std::max(at(r + 1, c), at(r, c + 1));
+/// How the lines of a text end, as the first one does; empty where none has an end.
+std::string_view EndsOf(std::string_view text) {
+  const std::size_t end = text.find_first_of("\r\n");
+  if (end == std::string_view::npos) return {};
+  return text.substr(end, text.substr(end).starts_with("\r\n") ? 2 : 1);
+}
+
+struct Step {
+  enum Kind { Both, First, Second } kind;
+  std::string_view line;
+};
+
+/// The shortest way through two texts in which each line of either stands once: those that both have, those of
+/// the first alone, those of the second alone. The first one's come first.
+std::vector<Step> Align(Lines first, Lines second) {
+  std::vector<Step> way;
+  while (!first.empty() && !second.empty() && first.front() == second.front()) {
+    way.push_back({Step::Both, first.front()});
+    first = first.subspan(1);
+    second = second.subspan(1);
   }
-  for (std::size_t r = 0, c = 0; r < rows && c < columns;) {
-    if (base[from + r] == other[from + c]) {
-      partners[from + r] = static_cast<int>(from + c);
-      ++r;
-      ++c;
-    } else if (at(r + 1, c) >= at(r, c + 1)) {
-      ++r;
-    } else {
-      ++c;
+  std::size_t tail = 0;
+  while (tail < std::min(first.size(), second.size()) && first[first.size() - 1 - tail] == second[second.size() - 1 - tail])
+    ++tail;
+  const Lines end = first.last(tail);
+  first = first.first(first.size() - tail);
+  second = second.first(second.size() - tail);
+
+  std::size_t i = 0;
+  std::size_t k = 0;
+  if (!first.empty() && second.size() <= kMostPairs / first.size()) {
+    // common[i][k]: how many lines in order the rests behind i and k share.
+    const std::size_t width = second.size() + 1;
+    std::vector<std::uint32_t> common((first.size() + 1) * width);
+    for (std::size_t a = first.size(); a-- > 0;)
+      for (std::size_t b = second.size(); b-- > 0;)
+        common[a * width + b] = first[a] == second[b] ? common[(a + 1) * width + b + 1] + 1
+                                                      : std::max(common[(a + 1) * width + b], common[a * width + b + 1]);
+    while (i < first.size() && k < second.size()) {
+      if (first[i] == second[k]) {
+        way.push_back({Step::Both, first[i++]});
+        ++k;
+      } else if (common[(i + 1) * width + k] >= common[i * width + k + 1]) {
+        way.push_back({Step::First, first[i++]});
+      } else {
+        way.push_back({Step::Second, second[k++]});
+      }
     }
   }
-  return partners;
+  for (; i < first.size(); ++i) way.push_back({Step::First, first[i]});
+  for (; k < second.size(); ++k) way.push_back({Step::Second, second[k]});
+  for (const std::string_view line : end) way.push_back({Step::Both, line});
+  return way;
 }
 
-/// What both have made of a stretch of the base in which they do not agree with it.
-void AddStretch(Lines& merged, std::span<const std::string_view> base, std::span<const std::string_view> mine,
-                std::span<const std::string_view> theirs) {
-  const auto has = [](std::span<const std::string_view> lines, std::string_view line) {
-    return std::ranges::find(lines, line) != lines.end();
+/// What somebody has made of a text, by line of the text.
+struct Changes {
+  explicit Changes(std::size_t lines) : kept(lines), before(lines + 1), instead(lines + 1) {}
+
+  std::vector<bool> kept;
+  std::vector<std::vector<std::string_view>> before;   ///< what was added before the line, or at the end
+  std::vector<std::vector<std::string_view>> instead;  ///< what has taken the place of it, and of those that follow
+};
+
+Changes ChangesOf(Lines base, Lines after) {
+  Changes changes(base.size());
+  std::size_t line = 0;
+  std::size_t first = 0;  // of the lines that have gone since the last one that both have
+  std::vector<std::string_view> added;
+  const auto store = [&] {
+    (line > first ? changes.instead : changes.before)[first] = std::move(added);
+    added.clear();
   };
-  const bool mineStands = std::ranges::equal(theirs, base) || std::ranges::equal(mine, theirs);
-  if (mineStands || std::ranges::equal(mine, base)) {
-    const auto lines = mineStands ? mine : theirs;
-    merged.insert(merged.end(), lines.begin(), lines.end());
-    return;
+  for (const Step& step : Align(base, after)) {
+    if (step.kind == Step::Second) added.push_back(step.line);
+    if (step.kind == Step::First) ++line;
+    if (step.kind != Step::Both) continue;
+    store();
+    changes.kept[line++] = true;
+    first = line;
   }
-  for (const std::string_view line : mine) {
-    if (!has(base, line) || has(theirs, line)) merged.push_back(line);
-  }
-  for (const std::string_view line : theirs) {
-    if (!has(base, line) && !has(mine, line)) merged.push_back(line);
-  }
+  store();
+  return changes;
 }
 
 }  // namespace
 
 std::string MergeTexts(std::string_view base, std::string_view mine, std::string_view theirs) {
-  if (mine == theirs || theirs == base) return std::string(mine);
-  if (mine == base) return std::string(theirs);
+  const auto old = LinesOf(base);
+  const auto here = LinesOf(mine);
+  const auto there = LinesOf(theirs);
+  if (here == there || there == old) return std::string(mine);
+  if (here == old) return std::string(theirs);
 
-  const Lines baseLines = LinesOf(base);
-  const Lines myLines = LinesOf(mine);
-  const Lines theirLines = LinesOf(theirs);
-  const std::vector<int> inMine = PartnersOf(baseLines, myLines);
-  const std::vector<int> inTheirs = PartnersOf(baseLines, theirLines);
-
-  Lines merged;
-  std::size_t b = 0;
-  std::size_t m = 0;
-  std::size_t t = 0;
-  for (std::size_t line = 0; line <= baseLines.size(); ++line) {
-    // A line that all three have ends the stretch before it; so does the end of all.
-    const bool end = line == baseLines.size();
-    if (!end && (inMine[line] < 0 || inTheirs[line] < 0)) continue;
-    const std::size_t toMine = end ? myLines.size() : static_cast<std::size_t>(inMine[line]);
-    const std::size_t toTheirs = end ? theirLines.size() : static_cast<std::size_t>(inTheirs[line]);
-    AddStretch(merged, std::span(baseLines).subspan(b, line - b), std::span(myLines).subspan(m, toMine - m),
-               std::span(theirLines).subspan(t, toTheirs - t));
-    if (end) break;
-    merged.push_back(baseLines[line]);
-    b = line + 1;
-    m = toMine + 1;
-    t = toTheirs + 1;
+  const Changes ours = ChangesOf(old, here);
+  const Changes others = ChangesOf(old, there);
+  std::vector<std::string_view> lines;
+  for (std::size_t line = 0; line <= old.size(); ++line) {
+    for (const Step& step : Align(ours.before[line], others.before[line])) lines.push_back(step.line);
+    for (const Step& step : Align(ours.instead[line], others.instead[line])) lines.push_back(step.line);
+    if (line < old.size() && ours.kept[line] && others.kept[line]) lines.push_back(old[line]);
   }
 
-  const std::string_view model = mine.find('\n') != std::string_view::npos ? mine : theirs;
-  const std::string_view lineEnd = model.find("\r\n") != std::string_view::npos ? "\r\n" : "\n";
-  std::string text;
-  for (std::size_t i = 0; i < merged.size(); ++i) {
-    if (i > 0) text += lineEnd;
-    text += merged[i];
-  }
-  return text;
+  std::string_view end = EndsOf(mine);
+  if (end.empty()) end = EndsOf(theirs);
+  if (end.empty()) end = "\r\n";
+  std::string merged;
+  for (const std::string_view line : lines) merged.append(line).append(end);
+  if (!lines.empty() && !IsEnded(mine.empty() ? theirs : mine)) merged.resize(merged.size() - end.size());
+  return merged;
 }
 
 }  // namespace kinalyx

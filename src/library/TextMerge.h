@@ -5,11 +5,14 @@
 
 namespace kinalyx {
 
-/// Brings together what two have made of one text, line by line: what one of them has left alone follows the
-/// other, also where it was taken away. Where both have changed the same lines, the lines of both are kept,
-/// those that they share once.
-/// @param base  what both had before them
-/// @return lines ended as those of `mine` are, or of `theirs` where it has none
+/// Brings together what two have made of one text, line by line. Lines that one of them did not touch follow
+/// the other; where both have written in the same place, the lines of both stand there, each once and mine
+/// first. A line that one has removed and the other has changed stays as it was changed.
+///
+/// Lines may end in CR LF, LF or CR, which makes no difference between them. Unless one text is the answer as it
+/// stands, those of the result end as in `mine`, also whether the last one is ended.
+/// @param base    the text from which both began
+/// @param theirs  what stands in the file by now
 std::string MergeTexts(std::string_view base, std::string_view mine, std::string_view theirs);
 
 }  // namespace kinalyx
