@@ -43,28 +43,25 @@ bool SwitchNetworkOn(IHost& host, Settings& settings) {
     settings.Set(settings.UseNetwork, false);
     return false;
   }
-  if (TakeLibraryFolder(settings, *folder)) return true;
-  if (!Settings::Holds(*folder)) {
-    host.Message(MessageKind::Warning, "Network Path Change", Settings::TooLongText(*folder));
-    return false;
-  }
-  host.Message(MessageKind::Warning, "Network Path Change", "The folder " + *folder + " cannot be used for videos.");
-  return false;
+  const std::string refusal = TakeLibraryFolder(settings, *folder);
+  if (!refusal.empty()) host.Message(MessageKind::Warning, "Network Path Change", refusal);
+  return refusal.empty();
 }
 
-bool TakeLibraryFolder(Settings& settings, std::string folder) {
+std::string TakeLibraryFolder(Settings& settings, std::string folder) {
   folder = folder.substr(0, folder.find('\0'));
+  const std::string unusable = "The folder " + folder + " cannot be used for videos.";
   while (folder.size() > 1 && folder.ends_with('/')) folder.pop_back();
-  if (folder.empty()) return false;
+  if (folder.empty()) return unusable;
   if (IsDriveRoot(folder)) folder = JoinPath(folder, "Video Library");
-  if (!Settings::Holds(folder)) return false;
+  if (!Settings::Holds(folder)) return Settings::TooLongText(folder);
   if (!dirExists(folder)) {
-    if (!MakeFolder(folder)) return false;
+    if (!MakeFolder(folder)) return unusable;
     MakeFolder(JoinPath(folder, "Amateurs"));
     MakeFolder(JoinPath(folder, "Models"));
   }
   Take(settings, true, std::move(folder));
-  return true;
+  return {};
 }
 
 void SwitchNetworkOff(Settings& settings) {

@@ -19,7 +19,7 @@ bool SwitchNetworkOn(IHost& host, Settings& settings);
 /// Back to the library on this machine.
 void SwitchNetworkOff(Settings& settings);
 
-/// The folder part of SwitchNetworkOn, for a folder that has been picked.
-bool TakeLibraryFolder(Settings& settings, std::string folder);
+/// The folder part of SwitchNetworkOn, for a folder that has been picked. Empty, or why it cannot be taken.
+std::string TakeLibraryFolder(Settings& settings, std::string folder);
 
 }  // namespace kinalyx
