@@ -282,9 +282,10 @@ bool Program::Shutdown() {
   const bool restart = std::exchange(RestartFlag_, false);
   if (!profiles_->MayClose()) return false;
   if (analysis_ && !analysis_->CloseAll()) return false;
-  if (!main_->LeavePage() &&
+  if (!profiles_->SaveLastNotes() &&
       !host_->Question("", "The notes could not be saved. Do you want to close Kinalyx all the same?"))
     return false;
+  main_->LeavePage();
   RestartFlag_ = restart;
   main_->setUpdatesEnabled(false);
   if (analysis_) {

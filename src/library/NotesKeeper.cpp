@@ -23,42 +23,47 @@ bool HasGone(const std::string& folder) {
 const std::string& NotesKeeper::Open(const std::string& studentFolder) {
   folder_ = studentFolder;
   text_.clear();
+  base_.clear();
   readable_ = true;
   if (folder_.empty()) return text_;
   std::optional<std::string> notes;
   if (reachable_(folder_)) notes = LoadNotes(folder_);
-  text_ = notes.value_or("");
-  if (const auto unsaved = unsaved_.find(folder_); unsaved != unsaved_.end()) return unsaved->second.text;
-  readable_ = notes.has_value();
+  if (const auto waiting = unsaved_.find(folder_); waiting != unsaved_.end()) {
+    text_ = waiting->second.text;
+    base_ = waiting->second.base;
+  } else {
+    text_ = base_ = notes.value_or("");
+    readable_ = notes.has_value();
+  }
   return text_;
 }
 
-/// Leaves in `notes` what is on the disk then.
 bool NotesKeeper::Store(const std::string& folder, Waiting& notes, std::string* error) {
   const auto theirs = LoadNotes(folder);
   if (!theirs) {
-    if (error) *error = "The notes that are there cannot be read.";
+    if (error) *error = "the notes that are there cannot be read";
     return false;
   }
-  notes.text = WithLineEnds(MergeTexts(notes.base, notes.text, *theirs));
-  notes.base = *theirs;
-  return notes.text == *theirs || SaveNotes(folder, notes.text, error);
+  std::string merged = WithLineEnds(MergeTexts(notes.base, notes.text, *theirs));
+  if (merged != *theirs && !SaveNotes(folder, merged, error)) return false;
+  notes.text = std::move(merged);
+  return true;
 }
 
-bool NotesKeeper::Keep(std::optional<std::string_view> text, std::string* error) {
-  if (text && !folder_.empty() && readable_) {
-    std::string lines = WithLineEnds(*text);
-    const auto waiting = unsaved_.try_emplace(folder_, Waiting{{}, text_}).first;
-    waiting->second.text = std::move(lines);
-    if (waiting->second.text == waiting->second.base) unsaved_.erase(waiting);  // the file holds it already
+bool NotesKeeper::Keep(std::optional<std::string_view> typed, std::string* error) {
+  if (typed && !folder_.empty() && readable_) {
+    text_ = WithLineEnds(*typed);
+    if (text_ == base_) unsaved_.erase(folder_);  // taken back
+    else unsaved_[folder_] = {text_, base_};
   }
   for (auto notes = unsaved_.begin(); notes != unsaved_.end();) {
-    const bool reached = reachable_(notes->first);
+    auto& [folder, waiting] = *notes;
+    const bool reached = reachable_(folder);
     if (!reached && error) *error = "the drive is not answering";
-    const bool gone = reached && HasGone(notes->first);
-    const bool settled = gone || (reached && Store(notes->first, notes->second, error));
-    if (settled && notes->first == folder_) text_ = notes->second.text;
-    if (gone && Lost && !notes->second.text.empty()) Lost(notes->first, notes->second.text);
+    const bool gone = reached && HasGone(folder);
+    const bool settled = gone || (reached && Store(folder, waiting, error));
+    if (settled && folder == folder_) text_ = base_ = waiting.text;
+    if (gone && Lost && !waiting.text.empty()) Lost(folder, waiting.text);
     notes = settled ? unsaved_.erase(notes) : std::next(notes);
   }
   return unsaved_.empty();

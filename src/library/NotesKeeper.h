@@ -28,11 +28,13 @@ class NotesKeeper {
   bool Readable() const { return readable_; }
   const std::string& StudentFolder() const { return folder_; }
 
-  /// Stores the text of the open student together with what somebody else has written there meanwhile, and
-  /// what waits of others. Without a text, or with one that says what was read, nothing is written for it. False when it, or an earlier text of another student, could not be
-  /// stored; `error` then tells why.
-  bool Keep(std::optional<std::string_view> text, std::string* error);
-  /// What the file of the open student holds, as far as is known: the text that was given to Keep, or more.
+  /// Stores what waits, each together with what somebody else has written there meanwhile. False when some of
+  /// it, of whichever student, could not be stored; `error` then tells why.
+  /// @param typed  what the user has made of the text of the open student; nothing when it was not touched,
+  ///               and then nothing is written for it
+  bool Keep(std::optional<std::string_view> typed, std::string* error);
+  /// The notes of the open student as the user should see them: what Open gave or was typed last, and after
+  /// Keep with what somebody else has written, lines ended by CR LF.
   const std::string& Text() const { return text_; }
   /// What waits to be stored, by student's folder.
   struct Waiting {
@@ -46,12 +48,13 @@ class NotesKeeper {
   bool OpenIsUnsaved() const { return unsaved_.contains(folder_); }
 
  private:
-  std::function<bool(const std::string&)> reachable_;
-  std::string folder_;
-  std::string text_;  ///< what the file holds
-  bool readable_ = true;
   bool Store(const std::string& folder, Waiting& notes, std::string* error);
 
+  std::function<bool(const std::string&)> reachable_;
+  std::string folder_;
+  std::string text_;
+  std::string base_;  ///< what `text_` was written upon: the file as it was read or written last
+  bool readable_ = true;
   std::map<std::string, Waiting> unsaved_;
 };
 

@@ -21,7 +21,7 @@ class ProfileTest : public ::testing::Test {
     fields.SetupFields();
   }
   Profile Open() { return OpenProfile(student, fields.Captions()); }
-  bool Save(const FieldTexts& values) { return SaveProfile(student, fields.Captions(), values, OpenProfile(student, fields.Captions()).Stored()); }
+  bool Save(const FieldTexts& values) { return SaveProfile(student, fields.Captions(), values, Open().Stored()); }
   std::string File(const std::string& name) const { return TempLibrary::Read(student + "/" + name); }
   bool Exists(const std::string& name) const { return std::filesystem::exists(student + "/" + name); }
 
@@ -67,13 +67,18 @@ TEST_F(ProfileTest, AFolderWithoutAProfileGainsOne) {
 
 TEST_F(ProfileTest, OldProfilesKeepTheirNameUnderItsPresentKey) {
   library.File("Demo/Sample, Erica/profile.prf",
-               "[Profile]\r\nBowler Name=Second\r\nGolfer Name=Erica Sample\r\nAge=31\r\n");
+               "[Profile]\r\nBowler Name=Second\r\nGolfer Name=Erica Sample\r\nAge=31\r\nAddress=Stra\xDF" "e 5\r\n");
   const Profile profile = Open();
   EXPECT_EQ(profile.values[0], "Sample, Erica");  // the folder is the authority
   EXPECT_EQ(profile.values[6], "31");
   const std::string text = File("profile.prf");
   EXPECT_EQ(text.find("Golfer"), std::string::npos);
   EXPECT_NE(text.find("Bowler Name=Second"), std::string::npos);
+  // Letters of Windows-1252 stay beside those that it has not got.
+  values = profile.Stored();
+  values[10] = "Łydki, 腰";
+  ASSERT_TRUE(Save(values));
+  EXPECT_EQ(Open().values[1] + ", " + Open().values[10], "Straße 5, Łydki, 腰");
 }
 
 TEST_F(ProfileTest, ARenamedFieldShowsTheFilesPathUntilSavedAgain) {
@@ -118,12 +123,25 @@ TEST_F(ProfileTest, TwoWorkstationsKeepEachOthersFieldsAndLines) {
   EXPECT_EQ(Open().values[6] + Open().values[7] + Open().values[10], "45181Łydki");
 
   library.File("Demo/Sample, Erica/profile.txt", "grip\r\nhips\r\n");
-  NotesKeeper notes([](const std::string&) { return true; });
+  bool reached = true;
+  NotesKeeper notes([&](const std::string&) { return reached; });
+  std::string error;
   EXPECT_EQ(notes.Open(student), "grip\r\nhips\r\n");
   ASSERT_TRUE(SaveNotes(student, "grip\r\nhips\r\nfrom the other desk\r\n"));
-  std::string error;
+  EXPECT_TRUE(notes.Keep(std::nullopt, &error));
+  EXPECT_EQ(notes.Text(), "grip\r\nhips\r\n") << "who only looks writes nothing";
   EXPECT_TRUE(notes.Keep("weak grip\nhips\n", &error)) << error;
   EXPECT_EQ(File("profile.txt"), "weak grip\r\nhips\r\nfrom the other desk\r\n");
+  EXPECT_EQ(notes.Text(), File("profile.txt"));
+
+  // While the drive is silent the other desk goes on, and so does this one.
+  reached = false;
+  EXPECT_FALSE(notes.Keep("weak grip\nhips\nfrom the other desk\nmine\n", &error));
+  ASSERT_TRUE(SaveNotes(student, "first\r\n" + File("profile.txt")));
+  EXPECT_FALSE(notes.Keep("weak grip\nhips\nfrom the other desk\nmine\nmore\n", &error));
+  reached = true;
+  EXPECT_TRUE(notes.Keep(std::nullopt, &error));
+  EXPECT_EQ(File("profile.txt"), "first\r\nweak grip\r\nhips\r\nfrom the other desk\r\nmine\r\nmore\r\n");
   EXPECT_EQ(notes.Text(), File("profile.txt"));
 }
 

@@ -7,7 +7,7 @@
 #include <QTextCursor>
 #include <algorithm>
 #include <optional>
-#include <string_view>
+#include <utility>
 
 #include "core/Settings.h"
 #include "library/forms/Divider.h"
@@ -158,12 +158,12 @@ bool ProfilePanel::SaveNotes() {
   std::string reason;
   if (KeepNotes(&reason)) return true;
   const std::string text = NotSaved(reason);
-  const bool told = reason == toldReason_ && notes_.Unsaved() == toldNotes_;
+  const bool told = Told(reason);
   toldReason_ = reason;
   toldNotes_ = notes_.Unsaved();
   emit Said(Q(text));
   if (!told) host_.Message(MessageKind::Warning, Std(notesTitle_->text()), text);
-  return false;
+  return told;
 }
 
 bool ProfilePanel::LeaveNotes() {
@@ -171,7 +171,12 @@ bool ProfilePanel::LeaveNotes() {
   if (KeepNotes(&reason)) return true;
   // A box that opens under a pressed mouse button leaves the list dragging.
   telling_ = HostTimer(host_, 0, false, [this] { SaveNotes(); });
-  return !notes_.OpenIsUnsaved();
+  return Told(reason) || !notes_.OpenIsUnsaved();
+}
+
+/// The user knows that these notes could not be stored, and why.
+bool ProfilePanel::Told(const std::string& reason) const {
+  return reason == toldReason_ && notes_.Unsaved() == toldNotes_;
 }
 
 /// As it stands, with the no-break spaces that toPlainText would make plain ones.
@@ -191,21 +196,28 @@ void ProfilePanel::ShowNotes(const std::string& text) {
   while (front < least && wanted[front] == shown[front]) ++front;
   qsizetype back = 0;
   while (back < least - front && wanted[wanted.size() - 1 - back] == shown[shown.size() - 1 - back]) ++back;
+  QTextCursor own = editor_->textCursor();
+  own.setKeepPositionOnInsert(true);  // also where something is added right behind it
   QTextCursor cursor(editor_->document());
   cursor.setPosition(static_cast<int>(front));
   cursor.setPosition(static_cast<int>(shown.size() - back), QTextCursor::KeepAnchor);
   cursor.insertText(wanted.mid(front, wanted.size() - front - back));
-}
-
-bool ProfilePanel::KeepNotes(std::string* reason) {
-  const std::string typed = typed_ ? TypedNotes() : std::string();
-  const bool kept = notes_.Keep(typed_ ? std::optional<std::string_view>(typed) : std::nullopt, reason);
-  if (!kept) return false;
-  toldNotes_.clear();
-  if (typed_) ShowNotes(notes_.Text());  // what somebody else has added
+  own.setKeepPositionOnInsert(false);
+  editor_->setTextCursor(own);
   typed_ = false;
   rest_.Stop();
-  return true;
+}
+
+/// What nobody has typed in is not looked at: the editor need not give back what it was given.
+bool ProfilePanel::KeepNotes(std::string* reason) {
+  rest_.Stop();
+  std::optional<std::string> typed;
+  if (std::exchange(typed_, false)) typed = TypedNotes();
+  const std::string shown = typed ? WithLineEnds(*typed) : notes_.Text();
+  const bool kept = notes_.Keep(typed, reason);
+  if (notes_.Text() != shown) ShowNotes(notes_.Text());  // what somebody else has written
+  if (kept) toldNotes_.clear();
+  return kept;
 }
 
 /// While the user rests. A silent drive is not waited for, and what fails is told without a box: the notes are

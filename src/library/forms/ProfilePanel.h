@@ -32,12 +32,14 @@ class ProfilePanel : public Panel {
   View CurrentView() const { return view_; }
   /// Shows a student's notes, after those of the one before have been stored; "" for no student.
   void OpenStudent(const std::string& studentFolder);
-  /// Stores the notes. False, after a message, when the disk refuses; they stay in the editor then. The same
-  /// notes and the same reason are told in a box once, and by `Said` from then on.
+  /// Stores the notes. False, after a message, when the disk refuses. The same notes and the same reason are told
+  /// in a box once, and by `Said` from then on; the user may then go on, for the notes are kept in memory.
   bool SaveNotes();
-  /// Stores the notes before another student is shown. False when the open student's must be kept in sight;
-  /// why is told as soon as the click is over.
+  /// Stores the notes before another student is shown. False when the open student's must be kept in sight until
+  /// the user knows; why is told as soon as the click is over.
   bool LeaveNotes();
+  /// Some notes are in memory alone.
+  bool HasUnsavedNotes() const { return !notes_.Unsaved().empty(); }
   void FocusNotes();
   void SetupVocabulary();
 
@@ -56,6 +58,7 @@ class ProfilePanel : public Panel {
   void ShowNotes(const std::string& text);
   void PrintNotes();
   bool KeepNotes(std::string* reason);
+  bool Told(const std::string& reason) const;
   void KeepTypedNotes();
   void TellLost(const std::string& folder, const std::string& notes);
 
@@ -74,7 +77,7 @@ class ProfilePanel : public Panel {
   QWidget* notesPart_;
   class QLabel* notesTitle_;
   QPlainTextEdit* editor_;
-  bool typed_ = false;  ///< something has been changed in it since it was filled
+  bool typed_ = false;  ///< something has been changed in it since it was filled or stored
   Button* details_;
   Button* edit_;
   Button* print_;

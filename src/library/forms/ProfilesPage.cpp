@@ -129,6 +129,11 @@ bool ProfilesPage::Leave() {
   return true;
 }
 
+bool ProfilesPage::SaveLastNotes() {
+  profilePanel_->SaveNotes();
+  return !profilePanel_->HasUnsavedNotes();
+}
+
 bool ProfilesPage::MayClose() { return editor_->isHidden() || MayDropEdits(); }
 
 /// Stores the notes and closes the preview.

@@ -42,9 +42,11 @@ class ProfilesPage : public PageWidget {
 
   /// Reads the library and goes to the remembered student.
   void Open() override;
-  /// Stores the notes and closes the preview. False, after a message, when the notes could not be stored:
-  /// they are kept, and the page is as it was.
+  /// Stores the notes and closes the preview. False, after a message, when the notes could not be stored, and the
+  /// page is as it was. Who knows it already may go: they are kept in memory.
   bool Leave() override;
+  /// The program is about to close: stores the notes that are in memory alone. False when some cannot be.
+  bool SaveLastNotes();
   /// The program is about to close: asks about a profile that is being edited. False when the user would
   /// rather stay.
   bool MayClose();
