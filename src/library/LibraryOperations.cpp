@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <filesystem>
 #include <system_error>
 #include <utility>
 
@@ -118,9 +119,24 @@ std::string LibraryOperations::Unreachable() const {
     case LibraryPlace::Ready:
     case LibraryPlace::ToBegin: return {};
     case LibraryPlace::Silent: return SilentLibraryText(root) + " Nothing was changed.";
+    case LibraryPlace::Removed:
     case LibraryPlace::Gone: break;
   }
   return "The video library at " + root + " cannot be reached. Nothing was changed.";
+}
+
+bool LibraryOperations::BeginLibrary() {
+  const std::string& root = tree_.Root();
+  const LibraryPlace place = PlaceOfLibrary(host_.Drives(), settings_);
+  if (place != LibraryPlace::ToBegin && place != LibraryPlace::Removed) return true;
+  if (place == LibraryPlace::Removed &&
+      !host_.Question("Video Library",
+                      "The video library at " + root + " is not there any more. Do you want to begin a new one in its place?"))
+    return false;
+  // No folder above it is made: there lie the settings.
+  std::error_code failed;
+  std::filesystem::create_directory(root, failed);
+  return true;
 }
 
 std::string LibraryOperations::Obstacle() const {
@@ -188,6 +204,7 @@ std::string LibraryOperations::GuardInstructor(const std::string& instructor, Ch
 
 OperationResult LibraryOperations::AddInstructor(std::string_view typed) {
   const std::string_view name = WithoutOuterBlanks(typed);
+  if (!Busy() && IsValidName(name) && !BeginLibrary()) return Report({});
   if (const std::string refusal = Obstacle(); !refusal.empty()) return Refuse(refusal);
   const Outcome outcome = kinalyx::AddInstructor(tree_.Root(), name);
   if (!outcome.done) return Refuse(outcome.message);

@@ -102,6 +102,7 @@ class LibraryOperations {
 
   // --- instructors and students
 
+  /// The library on this machine is made with the first one; where it has been removed, the user is asked.
   OperationResult AddInstructor(std::string_view name);
   /// The refusal of a change to an instructor or database: one must be chosen that is a folder of the user's
   /// own, none of its videos be open, and for Delete it must be empty. Empty: go on.
@@ -154,7 +155,10 @@ class LibraryOperations {
   /// Why nothing can be done just now: another operation is at work, or the library cannot be reached.
   /// Empty: all is well.
   std::string Obstacle() const;
-  /// Why the library cannot be reached; empty when it can.
+  /// Makes the folder of the library on this machine where it is still to begin, and asks where it has been
+  /// removed; false when the user would rather not. A folder of the user's own choice is never made.
+  bool BeginLibrary();
+  /// Why the library cannot be reached; empty when it can, or when it is still to begin.
   std::string Unreachable() const;
   /// Why a folder must stay as it is: a video in it is open. `change` is "rename this student". Empty: go on.
   std::string OpenVideoIn(const std::string& folder, const std::string& change) const;

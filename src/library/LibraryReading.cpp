@@ -15,13 +15,14 @@ std::optional<SidecarMarks> AskVideoMarks(DriveWatch& drives, const std::string&
 
 LibraryPlace PlaceOfLibrary(DriveWatch& drives, const Settings& settings) {
   const std::string& root = settings.LibraryPath;
-  const bool mayBegin = !settings.UseNetwork && root == LocalLibraryPath(settings) && settings.LastInstructor.empty();
+  const bool ours = !settings.UseNetwork && root == LocalLibraryPath(settings);
+  const LibraryPlace free = settings.LastInstructor.empty() ? LibraryPlace::ToBegin : LibraryPlace::Removed;
   return drives
       .Ask(root,
-           [root, mayBegin] {
+           [root, ours, free] {
              if (TouchPath(root)) return dirExists(root) ? LibraryPlace::Ready : LibraryPlace::Gone;
              // Where even the folder of the settings is missing, a drive has been taken away.
-             return mayBegin && !EntryExists(root) && dirExists(FolderOf(root)) ? LibraryPlace::ToBegin : LibraryPlace::Gone;
+             return ours && !EntryExists(root) && dirExists(FolderOf(root)) ? free : LibraryPlace::Gone;
            })
       .value_or(LibraryPlace::Silent);
 }

@@ -29,11 +29,12 @@ std::optional<SidecarMarks> AskVideoMarks(DriveWatch& drives, const std::string&
 /// How the folder of the library stands.
 enum class LibraryPlace {
   Ready,    ///< it is there
-  ToBegin,  ///< the one on this machine, which has not been there yet: it comes with the first instructor
+  ToBegin,  ///< the one on this machine, which has not been there yet: it comes with what is first put in
+  Removed,  ///< the one on this machine has been there, and its place is free
   Gone,     ///< it cannot be reached, or something else stands in its place
   Silent,   ///< its drive does not answer
 };
-/// @param settings  a library of this machine is to begin as long as no instructor has been chosen in it
+/// @param settings  who has not chosen an instructor yet has not had a library on this machine
 LibraryPlace PlaceOfLibrary(DriveWatch& drives, const Settings& settings);
 
 /// What is told of a library whose drive does not answer.

@@ -33,11 +33,13 @@ std::size_t Index(int field) { return static_cast<std::size_t>(field); }
 /// One blank stands for an empty value, so that the key can be seen in the file.
 std::string Stored(const std::string& value) { return value.empty() ? " " : value; }
 
+/// The name, and the fields that are wanted.
+template <typename Wanted>
 std::vector<ProfileEntry> Entries(const std::string& studentFolder, const FieldTexts& captions,
-                                  const FieldTexts& values) {
+                                  const FieldTexts& values, Wanted wanted) {
   std::vector<ProfileEntry> entries{{kProfileSection, "Name", LastName(studentFolder)}};
   for (int field = 1; field < kProfileFields; ++field) {
-    if (captions[Index(field)].empty()) continue;
+    if (captions[Index(field)].empty() || !wanted(Index(field))) continue;
     entries.push_back(
         {kProfileSection, captions[Index(field)], field == kVideosOnFileField ? " " : Stored(values[Index(field)])});
   }
@@ -45,7 +47,7 @@ std::vector<ProfileEntry> Entries(const std::string& studentFolder, const FieldT
 }
 
 bool MakeProfile(const std::string& studentFolder, const FieldTexts& captions, const FieldTexts& values) {
-  std::vector<ProfileEntry> entries = Entries(studentFolder, captions, values);
+  std::vector<ProfileEntry> entries = Entries(studentFolder, captions, values, [](std::size_t) { return true; });
   // A field that the user has called like the marker keeps its value.
   const bool taken = std::ranges::any_of(captions, [](const std::string& one) { return FoldCase(one) == "start"; });
   if (!taken) entries.push_back({kProfileSection, "Start", "Notes"});
@@ -151,13 +153,11 @@ Profile OpenProfile(const std::string& studentFolder, const FieldTexts& captions
 bool SaveProfile(const std::string& studentFolder, const FieldTexts& captions, const FieldTexts& values,
                  const FieldTexts& base) {
   const ProfileReader reader(ProfilePath(studentFolder));
-  std::vector<ProfileEntry> entries = Entries(studentFolder, captions, values);
-  std::erase_if(entries, [&](const ProfileEntry& entry) {
-    const auto field = static_cast<std::size_t>(std::ranges::find(captions, entry.key) - captions.begin());
-    return field > 0 && field < captions.size() && values[field] == base[field] &&
-           reader.Value(kProfileSection, entry.key);
-  });
-  return WriteProfileEntries(entries, ProfilePath(studentFolder));
+  return WriteProfileEntries(Entries(studentFolder, captions, values,
+                                     [&](std::size_t field) {
+                                       return values[field] != base[field] || !reader.Value(kProfileSection, captions[field]);
+                                     }),
+                             ProfilePath(studentFolder));
 }
 
 std::optional<std::string> GetEmailAddress(const std::string& studentFolder) {
@@ -238,8 +238,6 @@ Outcome AddInstructor(const std::string& root, std::string_view name) {
   if (IsBlank(name)) return {false, "You must type a name!"};
   const std::string folder = JoinPath(root, name);
   if (SameName(name, kGeneralFolder) || HasFolderNamed(root, name)) return {false, std::string(name) + " already exists."};
-  // The library on this machine comes with its first instructor.
-  if (std::error_code there; !dirExists(root)) std::filesystem::create_directory(root, there);
   if (const auto reason = MakeNewFolder(folder)) return {false, "The folder " + folder + " cannot be made: " + *reason + "."};
   return {true, std::string(name) + " successfully added!"};
 }

@@ -268,6 +268,7 @@ void LibraryOperations::ExportVideos(const std::vector<LibraryVideo>& videos, co
 }
 
 void LibraryOperations::ImportVideos(const std::vector<LibraryVideo>& videos, Done done, const ImportTarget& loose) {
+  if (!videos.empty() && !Busy() && !BeginLibrary()) return done(Report("Import Cancelled"));
   Transfer(Direction::Import, videos, tree_.Root(), loose, std::move(done));
 }
 

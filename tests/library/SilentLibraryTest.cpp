@@ -84,8 +84,8 @@ TEST_F(SilentOperationsTest, EveryChangeIsRefusedInWords) {
   host.DrivesAnswer();
   EXPECT_EQ(TempLibrary::Read(video.path), "video") << "what was given up changes nothing when the drive comes back";
 
-  // The drive answers, and the library is not there: it is not begun anew.
-  library.settings.LastInstructor = "Demo";
+  // The drive answers, and the library of the user's choice is not there: it is not begun anew.
+  library.settings.UseNetwork = true;
   std::filesystem::rename(library.Root(), library.Root() + " away");
   expectRefusals();
   EXPECT_FALSE(std::filesystem::exists(library.Root()));

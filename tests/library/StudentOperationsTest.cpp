@@ -98,28 +98,42 @@ TEST_F(StudentOperations, AddsAStudentWhereNobodyElseIs) {
   EXPECT_FALSE(Exists("Tom") || Exists("Carl"));
 }
 
-/// On a stick the two would become one.
-TEST_F(StudentOperations, ALibraryOfThisMachineBeginsWithItsFirstInstructor) {
+TEST_F(StudentOperations, ALibraryOfThisMachineBeginsWithWhatIsFirstPutIn) {
+  const std::string stick = library.settings.DataPath + "/stick";
+  fs::create_directories(stick + "/Ann/Joe Doe");
+  fs::copy_file(DL().path, stick + "/Ann/Joe Doe/Swing.avi");
+  fs::remove_all(library.Root());
+  Import({{"Ann", "Joe Doe", stick + "/Ann/Joe Doe/Swing.avi"}});
+  EXPECT_TRUE(Exists("Ann/Joe Doe/Swing.avi")) << Message();
   fs::remove_all(library.Root());
   EXPECT_EQ(Ops().AddInstructor("Łucja").status, "Łucja successfully added!");
   EXPECT_TRUE(Exists("Łucja"));
-  // One that was there, one of the user's own choice, and one without its data folder have gone.
+
+  // One that was there comes back only when the user says so.
+  fs::remove_all(library.Root());
+  library.settings.LastInstructor = "Łucja";
+  EXPECT_FALSE(Ops().AddInstructor("Ann").done);
+  EXPECT_FALSE(EntryExists(library.Root()));
+  library.host.answers = {true};
+  EXPECT_TRUE(Ops().AddInstructor("Ann").done);
+
+  // One of the user's own choice is never made, nor one without its data folder, nor where something stands.
   const auto gone = [&] {
-    fs::remove_all(library.Root());
     EXPECT_FALSE(Ops().AddInstructor("Ann").done);
     EXPECT_TRUE(Told("cannot be reached")) << Message();
-    EXPECT_FALSE(EntryExists(library.Root()));
+    EXPECT_FALSE(fs::exists(library.Root()));
   };
-  library.settings.LastInstructor = "Łucja";
-  gone();
-  library.settings.LastInstructor.clear();
+  fs::remove_all(library.Root());
   library.settings.UseNetwork = true;
   gone();
   library.settings.UseNetwork = false;
+  fs::create_symlink("/nowhere/at all", library.Root());
+  gone();
   fs::remove_all(library.settings.DataPath);
   gone();
 }
 
+/// On a stick the two would become one.
 TEST_F(StudentOperations, NamesThatDifferInCaseAloneAreTaken) {
   library.Folder("Ann/Zoë");
   library.Folder("Bob/JOE DOE");

@@ -81,9 +81,11 @@ void LibraryLists::ShowVideos() {
 /// True when the folder whose lists these are cannot be reached.
 bool LibraryLists::RootGone() {
   if (browser_.Silent()) return false;
-  if (browser_.Purpose() != LibraryBrowser::Kind::Exchange)
-    return PlaceOfLibrary(browser_.Drives(), settings_) == LibraryPlace::Gone;
   const std::string& root = browser_.Tree().Root();
+  if (root == settings_.LibraryPath) {
+    const LibraryPlace place = PlaceOfLibrary(browser_.Drives(), settings_);
+    return place == LibraryPlace::Gone || place == LibraryPlace::Removed;
+  }
   return !browser_.Drives().Ask(root, [root] { return dirExists(root); }).value_or(true);
 }
 
