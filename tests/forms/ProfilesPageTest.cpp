@@ -252,6 +252,7 @@ TEST_F(ProfilesPageTest, NotesThatNobodyTouchesAreNotWritten) {
   EXPECT_EQ(Read("Demo/Tom/profile.txt"), "60\u00A0cm\r\nhips\r\nelsewhere\r\n");
   EXPECT_EQ(notes->toPlainText(), "60 cm\nhips\nelsewhere\n");
   EXPECT_EQ(notes->textCursor().position(), 10) << "the cursor stays behind what was typed";
+  EXPECT_FALSE(notes->textCursor().hasSelection()) << "or the next letter would replace what somebody else wrote";
 }
 
 TEST_F(ProfilesPageTest, NotesAreAPrintoutOfTheStudent) {

@@ -196,13 +196,21 @@ void ProfilePanel::ShowNotes(const std::string& text) {
   while (front < least && wanted[front] == shown[front]) ++front;
   qsizetype back = 0;
   while (back < least - front && wanted[wanted.size() - 1 - back] == shown[shown.size() - 1 - back]) ++back;
+  const qsizetype shownEnd = shown.size() - back;
+  const qsizetype wantedEnd = wanted.size() - back;
+  // Who stands right before what is added does not go with it.
+  const auto placeOf = [&](qsizetype place) {
+    return static_cast<int>(place <= front ? place : place >= shownEnd ? place - shownEnd + wantedEnd : std::min(place, wantedEnd));
+  };
   QTextCursor own = editor_->textCursor();
-  own.setKeepPositionOnInsert(true);  // also where something is added right behind it
+  const int anchor = placeOf(own.anchor());
+  const int position = placeOf(own.position());
   QTextCursor cursor(editor_->document());
   cursor.setPosition(static_cast<int>(front));
-  cursor.setPosition(static_cast<int>(shown.size() - back), QTextCursor::KeepAnchor);
-  cursor.insertText(wanted.mid(front, wanted.size() - front - back));
-  own.setKeepPositionOnInsert(false);
+  cursor.setPosition(static_cast<int>(shownEnd), QTextCursor::KeepAnchor);
+  cursor.insertText(wanted.mid(front, wantedEnd - front));
+  own.setPosition(anchor);
+  own.setPosition(position, QTextCursor::KeepAnchor);
   editor_->setTextCursor(own);
   typed_ = false;
   rest_.Stop();
