@@ -60,8 +60,18 @@ struct Shape {
   /// The copy from which a running rotation or scaling computes.
   std::vector<POINTAPI> SavedPts;
   kinalyx::Colour Colour = 0;
+  /// By which a shape is known again after it was moved, copied into the past or brought back; 0 when nobody
+  /// has given it one. No file holds it, and what is equal may differ in it.
+  std::uint32_t Id = 0;
 
-  friend bool operator==(const Shape&, const Shape&) = default;
+  friend bool operator==(const Shape& a, const Shape& b) {
+    return IsSameDrawing(a, b) && a.Measuring == b.Measuring && a.SavedPts == b.SavedPts;
+  }
+  /// The same but for what has no meaning outside a running transform.
+  friend bool IsSameDrawing(const Shape& a, const Shape& b) {
+    return a.NumBound == b.NumBound && a.NumPts == b.NumPts && a.Kind == b.Kind && a.Locked == b.Locked && a.Pts == b.Pts &&
+           a.Colour == b.Colour;
+  }
 };
 
 /// The points that exist, also when the counts of a damaged file promise more.

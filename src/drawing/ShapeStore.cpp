@@ -38,6 +38,7 @@ Shape* ShapeEngine::AddShape(ShapeList& List, int Kind, Colour Colour) {
   List.Shapes.resize(static_cast<std::size_t>(List.NumShapes) + 1);
   Shape& shape = List.Shapes.back();
   shape = {};
+  shape.Id = NewId();
   shape.Kind = static_cast<std::int16_t>(Kind);
   const int points = InfOf(Kind).NumPoints;
   shape.Pts.resize(points == kOpenPoints ? 1 : static_cast<std::size_t>(points) + 1);

@@ -40,6 +40,9 @@ class ShapeEngine {
   /// Who is told of finished shapes; not owned, may be null.
   void SetLockListener(IShapeLocked* listener) { listener_ = listener; }
 
+  /// A number that no shape has had yet.
+  std::uint32_t NewId() { return ++lastId_; }
+
   std::string GetShapeName(int Kind) const;
   /// True for a kind with an open list of points.
   bool LOPShape(int Kind) const;
@@ -95,6 +98,7 @@ class ShapeEngine {
 
  private:
   IShapeLocked* listener_ = nullptr;
+  std::uint32_t lastId_ = 0;
 };
 
 }  // namespace kinalyx

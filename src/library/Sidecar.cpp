@@ -227,7 +227,7 @@ void PutShapes(Bytes& bytes, const SlotData& data) {
   // Other programs read the sizes as signed numbers. Drawings of a window too large for that are stored
   // as those of a smaller one.
   if (const int larger = std::max(width, height); larger > kLargest16) {
-    const double scale = static_cast<double>(kLargest16 / kTwipsPerPixel * kTwipsPerPixel) / larger;
+    const double scale = static_cast<double>(kMostPictureSide * kTwipsPerPixel) / larger;
     const auto smaller = [&](int pixels) { return std::max(1, static_cast<int>(std::lround(pixels * scale))); };
     width = smaller(data.PictureWidth) * kTwipsPerPixel;
     height = smaller(data.PictureHeight) * kTwipsPerPixel;
@@ -272,14 +272,6 @@ Bytes BytesOf(const SlotData& data, std::string* error) {
   return bytes;
 }
 
-/// The same kind, colour and points, but for what rounding to another size does to them.
-bool IsSameDrawing(const Shape& a, const Shape& b) {
-  constexpr int kRounding = 2;  // pixels
-  const auto near = [](POINTAPI p, POINTAPI q) { return std::abs(p.x - q.x) <= kRounding && std::abs(p.y - q.y) <= kRounding; };
-  return a.Kind == b.Kind && a.Colour == b.Colour && a.NumBound == b.NumBound &&
-         std::equal(a.Pts.begin(), a.Pts.begin() + a.NumBound, b.Pts.begin(), b.Pts.begin() + b.NumBound, near);
-}
-
 bool WriteFlags(const std::string& path, bool wide, bool reverseFields, bool splitFields) {
   Bytes bytes = Head(wide, reverseFields, splitFields);
   bytes.insert(bytes.end(), 4, 'X');
@@ -304,7 +296,15 @@ std::string_view FittingNotes(std::string_view notes) {
 std::size_t NotesLength(std::string_view notes) { return ToWindows1252(notes).size(); }
 
 std::string SidecarPath(std::string_view videoPath) {
-  return std::string(videoPath.substr(0, videoPath.size() - std::min<std::size_t>(3, videoPath.size()))) + "ved";
+  const std::string stem(videoPath.substr(0, videoPath.size() - std::min<std::size_t>(3, videoPath.size())));
+  constexpr unsigned kEndings = 8;  // each of the three letters small or large; first all small
+  for (unsigned large = 0; large < kEndings; ++large) {
+    std::string path = stem + "ved";
+    for (unsigned letter = 0; letter < 3; ++letter)
+      if (large >> letter & 1) path[stem.size() + letter] = static_cast<char>(path[stem.size() + letter] - 'a' + 'A');
+    if (FileExists(path)) return path;
+  }
+  return stem + "ved";
 }
 
 std::string OldSidecarPath(const std::string& sidecarPath) {
@@ -343,31 +343,6 @@ SlotData ReadVideoData(const std::string& path, const VideoInfo& video, std::spa
   }
 }
 
-void AddMissingWork(SlotData& data, const SlotData& other, const SlotData& base) {
-  if (data.PictureWidth <= 0 || data.PictureHeight <= 0) {
-    data.PictureWidth = other.PictureWidth;
-    data.PictureHeight = other.PictureHeight;
-  }
-  const auto fitted = [&data](const SlotData& from) {
-    ShapeList shapes = from.Shapes;
-    StretchShapes(shapes, from.PictureWidth, from.PictureHeight, data.PictureWidth, data.PictureHeight);
-    return shapes;
-  };
-  const auto holds = [](const ShapeList& list, const Shape& shape) {
-    return std::ranges::any_of(ShapesOf(list), [&](const Shape& one) { return IsSameDrawing(one, shape); });
-  };
-  const ShapeList theirs = fitted(other);
-  const ShapeList before = fitted(base);
-  for (const Shape& shape : ShapesOf(theirs)) {
-    if (holds(data.Shapes, shape) || holds(before, shape) || data.Shapes.NumShapes == kLargest16) continue;
-    data.Shapes.Shapes.resize(static_cast<std::size_t>(data.Shapes.NumShapes));
-    data.Shapes.Shapes.push_back(shape);
-    ++data.Shapes.NumShapes;
-  }
-  if (other.Notes == base.Notes || data.Notes.find(other.Notes) != std::string::npos) return;
-  data.Notes = other.Notes.find(data.Notes) != std::string::npos ? other.Notes : data.Notes + "\r\n" + other.Notes;
-}
-
 bool WriteVideoData(const std::string& path, const SlotData& data, std::string* error, IDisk& disk) {
   if (error) error->clear();
   std::string notice;
@@ -384,6 +359,7 @@ bool WriteVideoData(const std::string& path, const SlotData& data, std::string* 
     if (!old.empty()) disk.Rename(old, path);
     return false;
   }
+  if (!notice.empty() && !old.empty()) notice += fmt::format(" What was stored before is kept in {}.", old);
   if (error) *error = notice;
   return true;
 }

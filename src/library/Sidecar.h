@@ -45,7 +45,12 @@ std::size_t NotesLength(std::string_view notes);
 /// As much of the beginning of notes as a sidecar holds.
 std::string_view FittingNotes(std::string_view notes);
 
-/// The sidecar of a video: its path with the last three characters replaced by "ved".
+/// Largest side of the picture of stored drawings, pixels: it is stored in twips, in 16 bits. The drawings of
+/// a larger one are stored as those of a smaller one.
+inline constexpr int kMostPictureSide = 32767 / kTwipsPerPixel;
+
+/// The sidecar of a video: its path with the last three characters replaced by "ved". One that is there in
+/// other letters, as "VED" from another system, is the sidecar as long as there is none in small ones.
 std::string SidecarPath(std::string_view videoPath);
 
 /// Where a sidecar that must make way is kept: "X.ved.old", with a number behind where that is taken already.
@@ -64,14 +69,9 @@ SlotData DefaultVideoData(const VideoInfo& video);
 /// @param toolColours  colours for the drawings of an old file, by kind of shape: the settings' NewColors
 SlotData ReadVideoData(const std::string& path, const VideoInfo& video, std::span<const Colour> toolColours);
 
-/// Adds to `data` what another has stored meanwhile for the same video: the drawings and the notes that
-/// `data` lacks, but for those that were its own and have been deleted since. Nothing is taken away.
-/// @param base  what the owner of `data` read or stored last
-void AddMissingWork(SlotData& data, const SlotData& other, const SlotData& base);
-
 /// Replaces the sidecar; the file is the old or the new one, whole, whatever happens. False when the
 /// disk refuses. `error` (may be null) gets the reason, or, with a result of true, what had to be left
-/// out (notes past kMaxNotes); else it is emptied.
+/// out (notes past kMaxNotes) and where the file before is kept; else it is emptied.
 bool WriteVideoData(const std::string& path, const SlotData& data, std::string* error = nullptr,
                     IDisk& disk = RealDisk());
 

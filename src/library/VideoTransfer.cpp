@@ -52,9 +52,12 @@ bool SharesSidecar(const std::string& videoPath) {
 }
 
 bool SetAsideOrphan(const std::string& folder, std::string_view name, ICopyDisk& disk) {
-  const std::string orphan = JoinPath(folder, std::string(name) + ".ved");
-  if (!EntryExists(orphan)) return true;
-  return !HasVideoNamed(folder, name) && RenameEntry(orphan, OldSidecarPath(orphan), nullptr, disk);
+  // In small letters and in large ones there may be more than one.
+  for (;;) {
+    const std::string orphan = SidecarPath(JoinPath(folder, std::string(name) + ".avi"));
+    if (!EntryExists(orphan)) return true;
+    if (HasVideoNamed(folder, name) || !RenameEntry(orphan, OldSidecarPath(orphan), nullptr, disk)) return false;
+  }
 }
 
 CopyUnit VideoUnit(const std::string& videoPath, const std::string& folder, std::string_view name) {

@@ -17,8 +17,10 @@ void AutoSave::Changed() {
 bool AutoSave::SaveSlot(int slot) {
   if (!workspace_.HasVideo(slot)) return true;
   const auto answers = [&] { return host_.Drives().AnswersAtOnce(settings_.LibraryPath, workspace_.At(slot).path); };
-  const bool saved = !workspace_.HasUnsaved(slot) || (answers() && workspace_.SaveData(slot));
+  std::string notice;
+  const bool saved = !workspace_.HasUnsaved(slot) || (answers() && workspace_.SaveData(slot, &notice));
   workspace_.SetRefused(slot, !saved);
+  if (saved && !notice.empty()) host_.Message(MessageKind::Warning, "", notice);  // something did not fit
   return saved;
 }
 

@@ -1,10 +1,15 @@
 #include "workspace/SlotDrawings.h"
 
 #include <algorithm>
-#include <cstddef>
+#include <span>
+#include <utility>
+
+#include "library/SidecarMerge.h"
 
 namespace kinalyx {
 namespace {
+
+constexpr std::size_t kMostPast = 500;  // shapes; more than can be undone
 
 void Put(ShapeList& list, std::vector<Shape> shapes) {
   list.NumShapes = static_cast<std::int16_t>(shapes.size());
@@ -18,51 +23,90 @@ void Clear(ShapeList& list) {
   list.GridOn = grid;
 }
 
+/// A shape of one view as another shows it.
+Shape InView(const Shape& shape, const DrawingView& from, const DrawingView& to) {
+  return DrawnShapes{{shape}, from}.In(to).front();
+}
+
+bool IsUnchanged(const Shape& a, const Shape& b) { return a.Id == b.Id && IsSameDrawing(a, b); }
+
 }  // namespace
 
 void SlotDrawings::VideoOpened(int slot) {
   SlotData& data = workspace_.At(slot).data;
+  SlotData& base = workspace_.At(slot).base;
+  for (Shape& shape : ShapesOf(base.Shapes)) shape.Id = tools_.Engine().NewId();
   Kept& kept = At(slot);
   kept = {};
-  kept.stored = {DrawingsOf(data.Shapes), data.PictureWidth, data.PictureHeight};
-  kept.origin = kept.fitted = kept.stored;
+  kept.fitted = DrawingsOf(base.Shapes);
+  kept.view = {base.PictureWidth, base.PictureHeight, false};
+  for (const Shape& shape : kept.fitted) kept.origins.push_back({shape, base.PictureWidth, base.PictureHeight, true});
   ShapeList& list = List(slot);
   Clear(list);
-  Put(list, kept.stored.shapes);
+  Put(list, kept.fitted);
   data.Shapes = {};
-  tools_.ForgetPast(slot, {data.PictureWidth, data.PictureHeight, false});
+  tools_.ForgetPast(slot, kept.view);
 }
 
-/// Makes what is in the list the origin when it was drawn in since it was put there.
+/// Takes what was drawn, changed or brought back since the list was fitted for an origin.
 void SlotDrawings::Notice(int slot) {
   Kept& kept = At(slot);
-  std::vector<Shape> drawings = DrawingsOf(List(slot));
-  if (drawings == kept.fitted.shapes) return;
-  kept.fitted.shapes = std::move(drawings);
-  kept.origin = kept.fitted;
+  for (Shape& shape : ShapesOf(List(slot)))
+    if (shape.Id == 0) shape.Id = tools_.Engine().NewId();
+  std::vector<Shape> shapes = DrawingsOf(List(slot));
+  if (std::ranges::equal(shapes, kept.fitted, IsUnchanged)) return;
+  DrawnShapes drawn{shapes, kept.view};
   // What was drawn or brought back in a view of another size is as exact as it was there.
-  if (auto drawn = tools_.AsDrawn(slot))
-    kept.origin = {std::move(drawn->shapes), drawn->view.width, drawn->view.height};
-  kept.changed = true;
+  if (auto exact = tools_.AsDrawn(slot)) drawn = std::move(*exact);
+
+  std::vector<Origin> origins;
+  std::vector<bool> stays(kept.origins.size());
+  for (std::size_t i = 0; i < shapes.size(); ++i) {
+    const Shape& now = drawn.shapes[i];
+    const auto itself = std::ranges::find(kept.fitted, shapes[i].Id, &Shape::Id);
+    const auto at = static_cast<std::size_t>(itself - kept.fitted.begin());
+    const auto was = [&](const Origin& origin) {
+      return origin.shape.Id == shapes[i].Id &&
+             IsSameDrawing(InView(origin.shape, {origin.width, origin.height, false}, drawn.view), now);
+    };
+    if (itself != kept.fitted.end() && (IsSameDrawing(*itself, shapes[i]) || was(kept.origins[at]))) {
+      stays[at] = true;
+      origins.push_back(kept.origins[at]);
+    } else if (const auto before = std::find_if(kept.past.rbegin(), kept.past.rend(), was); before != kept.past.rend()) {
+      origins.push_back(*before);
+    } else {
+      origins.push_back({InView(now, drawn.view, {drawn.view.width, drawn.view.height, false}), drawn.view.width,
+                         drawn.view.height, false});
+      origins.back().shape.Id = shapes[i].Id;
+    }
+  }
+  for (std::size_t i = 0; i < stays.size(); ++i)
+    if (!stays[i] && kept.origins[i].shape.Locked) kept.past.push_back(std::move(kept.origins[i]));
+  if (kept.past.size() > kMostPast) kept.past.erase(kept.past.begin(), kept.past.end() - kMostPast);
+  kept.origins = std::move(origins);
+  kept.fitted = std::move(shapes);
 }
 
-void SlotDrawings::Fit(int slot, int width, int height) {
+void SlotDrawings::Fit(int slot, const DrawingView& view) {
   Kept& kept = At(slot);
-  ShapeList fitted;
-  Put(fitted, kept.origin.shapes);
-  StretchShapes(fitted, kept.origin.width, kept.origin.height, width, height);
-  // The ruler's line is fitted by itself and keeps its place: what is under construction stays the last.
   ShapeList& list = List(slot);
-  StretchShapes(list, kept.fitted.width, kept.fitted.height, width, height);
-  kept.fitted = {std::move(fitted.Shapes), width, height};
-  std::vector<Shape> shapes = kept.fitted.shapes;
-  for (std::size_t i = 0; i < ShapesOf(list).size(); ++i)
-    if (const Shape& shape = list.Shapes[i]; shape.Measuring)
-      shapes.insert(shapes.begin() + static_cast<std::ptrdiff_t>(std::min(i, shapes.size())), shape);
-  Put(list, std::move(shapes));
+  std::size_t next = 0;
+  for (Shape& shape : ShapesOf(list)) {
+    if (shape.Measuring) {  // the ruler's line is fitted by itself
+      shape = InView(shape, kept.view, view);
+      continue;
+    }
+    const Origin& origin = kept.origins[next];
+    Shape& fitted = kept.fitted[next++];
+    fitted = InView(origin.shape, {origin.width, origin.height, false}, view);
+    fitted.SavedPts = std::move(shape.SavedPts);
+    shape = fitted;
+  }
+  kept.view = view;
   // A macro made of them is later fitted by this size.
-  list.CanvasWidth = width * kTwipsPerPixel;
-  list.CanvasHeight = height * kTwipsPerPixel;
+  list.CanvasWidth = view.width * kTwipsPerPixel;
+  list.CanvasHeight = view.height * kTwipsPerPixel;
+  tools_.ViewChanged(slot, view);
 }
 
 void SlotDrawings::PlayerResized(int slot) {
@@ -70,48 +114,64 @@ void SlotDrawings::PlayerResized(int slot) {
   const int height = workspace_.MP(slot).ControlHeightPixels();
   if (width <= 0 || height <= 0) return;
   Notice(slot);
-  Kept& kept = At(slot);
-  if (kept.origin.width <= 0 || kept.origin.height <= 0) {
-    kept.origin.width = width;
-    kept.origin.height = height;
+  for (Origin& origin : At(slot).origins) {
+    if (origin.width > 0 && origin.height > 0) continue;
+    origin.width = width;
+    origin.height = height;
   }
-  Fit(slot, width, height);
-  tools_.ViewChanged(slot, {width, height, workspace_.MP(slot).FlipHorizontal()});
+  Fit(slot, {width, height, workspace_.MP(slot).FlipHorizontal()});
 }
 
 void SlotDrawings::PictureFlipped(int slot) {
   Notice(slot);
-  Kept& kept = At(slot);
-  FlipShapes(List(slot), kept.fitted.width);
-  ShapeList mirrored;
-  Put(mirrored, std::move(kept.origin.shapes));
-  FlipShapes(mirrored, kept.origin.width);
-  kept.origin.shapes = std::move(mirrored.Shapes);
-  Fit(slot, kept.fitted.width, kept.fitted.height);
-  tools_.ViewChanged(slot, {kept.fitted.width, kept.fitted.height, workspace_.MP(slot).FlipHorizontal()});
+  const DrawingView& view = At(slot).view;
+  Fit(slot, {view.width, view.height, workspace_.MP(slot).FlipHorizontal()});
 }
 
 bool SlotDrawings::CollectData(int slot) {
   Notice(slot);
-  const Kept& kept = At(slot);
   SlotData& data = workspace_.At(slot).data;
-  const Drawn& drawn = kept.changed ? kept.fitted : kept.stored;
-  data.Shapes = {};
-  Put(data.Shapes, drawn.shapes);
+  const SlotData& base = workspace_.At(slot).base;
+  auto origins = std::span<const Origin>(At(slot).origins);
   // A shape that is being drawn at this moment is none yet.
-  if (Shape* last = LastShape(data.Shapes); last && !last->Locked && List(slot).Adding) --data.Shapes.NumShapes;
-  data.PictureWidth = drawn.width;
-  data.PictureHeight = drawn.height;
-  if (kept.changed && workspace_.MP(slot).FlipHorizontal()) FlipShapes(data.Shapes, drawn.width);
-  return kept.changed;
+  if (!origins.empty() && !origins.back().shape.Locked && List(slot).Adding) origins = origins.first(origins.size() - 1);
+  const auto stored = ShapesOf(base.Shapes);
+  const bool changed = !std::ranges::equal(origins, stored, [](const Origin& origin, const Shape& shape) {
+    return origin.stored && origin.shape.Id == shape.Id;
+  });
+
+  // What is in the file keeps its size, and with it every record, so that others know it again.
+  DrawingView size{base.PictureWidth, base.PictureHeight, false};
+  if (changed) {
+    int width = 0, height = 0;
+    for (const Origin& origin : origins) {
+      if (origin.stored) continue;
+      width = std::max(width, origin.width);
+      height = std::max(height, origin.height);
+    }
+    const bool kept = !stored.empty() && size.width > 0 && size.height > 0;
+    size.width = kept ? size.width * WholeTimes(size.width, width) : std::min(width, kMostPictureSide);
+    size.height = kept ? size.height * WholeTimes(size.height, height) : std::min(height, kMostPictureSide);
+  }
+  std::vector<Shape> shapes;
+  for (const Origin& origin : origins) {
+    const auto record = origin.stored ? std::ranges::find(stored, origin.shape.Id, &Shape::Id) : stored.end();
+    if (record == stored.end()) shapes.push_back(InView(origin.shape, {origin.width, origin.height, false}, size));
+    else shapes.push_back(InView(*record, {base.PictureWidth, base.PictureHeight, false}, size));
+  }
+  data.Shapes = {};
+  Put(data.Shapes, std::move(shapes));
+  data.PictureWidth = size.width;
+  data.PictureHeight = size.height;
+  return changed;
 }
 
 void SlotDrawings::DataSaved(int slot) {
-  SlotData& data = workspace_.At(slot).data;
   Kept& kept = At(slot);
-  kept.stored = {DrawingsOf(data.Shapes), data.PictureWidth, data.PictureHeight};
-  kept.changed = false;
-  data.Shapes = {};
+  const auto stored = ShapesOf(std::as_const(workspace_.At(slot).base.Shapes));
+  for (Origin& origin : kept.origins) origin.stored = std::ranges::find(stored, origin.shape.Id, &Shape::Id) != stored.end();
+  for (Origin& origin : kept.past) origin.stored = false;
+  workspace_.At(slot).data.Shapes = {};
 }
 
 void SlotDrawings::VideoClosed(int slot) {

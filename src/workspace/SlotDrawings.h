@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <vector>
 
 #include "drawing/DrawingTools.h"
 #include "workspace/Workspace.h"
@@ -11,9 +12,9 @@ namespace kinalyx {
 /// the data of a video that opens, fits them to every size of its picture, turns them with it, and puts
 /// them back into the data before they are written.
 ///
-/// Points are whole pixels, so every fitting rounds. Drawings that nobody has touched since are
-/// therefore always fitted from where they were drawn, not from the last fitting: however often a window
-/// changes its size, they come out where they were. What can be undone follows, and so does the ruler's
+/// Points are whole pixels, so every fitting rounds. A drawing that nobody has touched since is therefore
+/// always fitted from where it was drawn or stored, not from the last fitting: however often a window changes
+/// its size, it comes out where it was, also in the file. What can be undone follows, and so does the ruler's
 /// line, which is no drawing and never gets into the data.
 class SlotDrawings {
  public:
@@ -23,28 +24,31 @@ class SlotDrawings {
   void PlayerResized(int slot);
   /// The player's FlipHorizontal has changed.
   void PictureFlipped(int slot);
-  /// Fills the shapes of the slot's data, unmirrored. True when they differ from those stored last.
+  /// Fills the shapes of the slot's data, unmirrored: those that were not touched as its base has them, in the
+  /// base's size or whole multiples of it. True when they differ from those stored last.
   bool CollectData(int slot);
+  /// The slot's base holds them now as they were stored.
   void DataSaved(int slot);
   void VideoClosed(int slot);
 
  private:
-  /// Shapes in a picture of a size, pixels; 0 when it is not known yet.
-  struct Drawn {
-    std::vector<Shape> shapes;
-    int width = 0;
+  /// A shape in the picture in which it was drawn, unmirrored.
+  struct Origin {
+    Shape shape;
+    int width = 0;  ///< pixels; 0 when not known yet
     int height = 0;
+    bool stored = false;  ///< the slot's base has it, under its number
   };
   struct Kept {
-    Drawn stored;  ///< as the sidecar has them, unmirrored
-    Drawn origin;  ///< as they were read or drawn, mirrored like the picture
-    Drawn fitted;  ///< as they were put into the list last
-    bool changed = false;  ///< something was drawn or deleted since they were stored
+    std::vector<Origin> origins;  ///< of the drawings in the list, in its order
+    std::vector<Origin> past;     ///< what they were before, the latest last: an undo brings it back
+    std::vector<Shape> fitted;    ///< the drawings as they were fitted last
+    DrawingView view;             ///< to which
   };
 
   Kept& At(int slot) { return kept_[static_cast<std::size_t>(slot - 1)]; }
   void Notice(int slot);
-  void Fit(int slot, int width, int height);
+  void Fit(int slot, const DrawingView& view);
   ShapeList& List(int slot) { return tools_.List(slot); }
 
   Workspace& workspace_;

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <utility>
 
+#include "library/SidecarMerge.h"
 #include "platform/host/DriveWatch.h"
 #include "workspace/MultiPicture.h"
 #include "workspace/PlayerPlace.h"
@@ -289,14 +290,17 @@ bool Workspace::SaveData(int slot, std::string* error) {
   if (!changed && at.savedElsewhere) return true;
   // A video that somebody else has taken away needs no sidecar; new work on it is kept all the same.
   if (!changed && !FileExists(at.path)) return true;
-  // Both have something to say: whoever saves adds to the work of the other. What was drawn there does not
-  // stand in this window, so that every later save must add it again.
-  SlotData whole = at.data;
-  if (at.savedElsewhere && at.MP->Info()) {
+  // Both have something to say: whoever saves brings it together. What was drawn there does not stand in this
+  // window, which therefore has a base of its own.
+  MergedData merged{at.data, at.data.Shapes};
+  if (at.savedElsewhere && at.MP->Info() && FileSize(sidecar).value_or(0) > 0) {
     const SlotData theirs = ReadVideoData(sidecar, *at.MP->Info(), settings_.NewColors);
-    AddMissingWork(whole, theirs, at.base);
-    whole.Unread = whole.Unread || theirs.Unread;  // what cannot be read is kept beside
+    if (theirs.Unread) merged.whole.Unread = true;  // and what is missing in it was not deleted: it is kept beside
+    else merged = MergeVideoData(at.data, theirs, at.base);
   }
+  SlotData& whole = merged.whole;
+  const std::string_view fitting = FittingNotes(whole.Notes);
+  if (fitting.size() < whole.Notes.size()) whole.Unread = true;  // what is about to be cut stands in the file before
   std::string reason;
   const bool written = WriteVideoData(sidecar, whole, &reason);
   if (!written) host_.Note(MessageKind::Warning, "a sidecar could not be saved: " + reason);
@@ -304,9 +308,12 @@ bool Workspace::SaveData(int slot, std::string* error) {
   if (!written) return false;
   at.sidecarStamp = StampOf(sidecar);
   at.changed = at.data.Unread = false;
-  const bool notesCame = at.data.Notes != whole.Notes;
-  at.data.Notes = whole.Notes;
+  const bool notesCame = at.data.Notes != fitting;
+  at.data.Notes = fitting;
   at.base = at.data;
+  at.base.Shapes = std::move(merged.own);
+  at.base.PictureWidth = whole.PictureWidth;
+  at.base.PictureHeight = whole.PictureHeight;
   DataSaved(slot);
   for (Slot& other : slots_)
     if (&other != &at && other.path == at.path) other.savedElsewhere = true;

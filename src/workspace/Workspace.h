@@ -28,7 +28,7 @@ struct Slot {
   int SlotFrameRate = 0;     ///< set by the user; 0 means the video's own
   std::vector<int> marks;    ///< positions, at most ten
   bool changed = false;      ///< fields or notes differ from what the sidecar held
-  SlotData base;                ///< this slot's own work as it was read or written last
+  SlotData base;  ///< this slot's own work as it was read or written last, its drawings as the file has them
   std::optional<FileStamp> sidecarStamp;  ///< of its sidecar, as it was then
   bool savedElsewhere = false;  ///< another slot, or another workstation, has written the same sidecar since
   bool refused = false;         ///< its work could not be written when it was tried last

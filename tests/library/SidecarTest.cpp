@@ -274,6 +274,16 @@ TEST_F(SidecarTest, FirstSidecarsAreEightBytes) {
   EXPECT_EQ(imported({}, false), "1XXXXXXX");
 }
 
+TEST_F(SidecarTest, IsFoundInLettersOfAnyCase) {
+  const std::string video = library.Path("y.avi");
+  EXPECT_EQ(SidecarPath(video), library.Path("y.ved"));
+  for (const char* name : {"y.VED", "y.Ved", "y.ved"}) {
+    std::filesystem::remove(library.Path("y.VED"));
+    library.File(name, "1WXXXXXX");
+    EXPECT_EQ(SidecarPath(video), library.Path(name));
+  }
+}
+
 TEST_F(SidecarTest, BrowsersReadTheTwoMarks) {
   for (const char* bytes : {"1XXXSNXX", "1XXXXNXX", "1XXXS", ""}) {
     library.File("x.ved", bytes);

@@ -293,6 +293,86 @@ TEST(OneVideoTwice, KeepsTheWorkOfBothWindows) {
   EXPECT_TRUE(notes.find("Grip and hips") != notes.npos && notes.find("Stance") != notes.npos) << notes;
 }
 
+std::vector<Shape> Stored(const std::string& path) { return ReadVideoData(SidecarPath(path), {}, {}).Shapes.Shapes; }
+
+TEST(OneVideoTwice, WhatOneWindowHasDeletedOrMovedTheOtherDoesNotBringBack) {
+  AnalysisStage stage("2");
+  const std::string path = stage.Video("a.avi");
+  stage.Open(1, path);
+  stage.Draw(kLine, {10, 10}, {100, 100});
+  stage.Draw(kEllipse, {40, 40}, {90, 120});
+  stage.Slots().SetNotes(1, "Gripp\r\nStance");
+  stage.Slots().TF_Click();
+  stage.Slots().SelectWindow(1);
+  stage.Commands().Run("Lastcadoff");
+  stage.analysis.Tools().Engine().MoveShape(stage.Shapes(1).Shapes[0], 30, 0);
+  stage.Slots().SetNotes(1, "Grip\r\nStance");
+  stage.host.Advance(5000);
+  stage.Slots().SetNotes(2, "Gripp\r\nStance\r\nHips");
+  // From here on in another size.
+  stage.Slots().SetScreen(8);
+  stage.Slots().SelectWindow(2);
+  stage.Draw(kSquare, {5, 80}, {60, 20});
+  stage.host.Advance(5000);
+  EXPECT_EQ(stage.Shapes(2).NumShapes, 3) << "each window has drawings of its own";
+  EXPECT_EQ(stage.Slots().At(2).data.Notes, "Grip\r\nStance\r\nHips");
+  std::vector<Shape> stored = Stored(path);
+  ASSERT_EQ(stored.size(), 2u);
+  EXPECT_EQ(stored[0].Pts[0], (POINTAPI{40, 10}));
+  EXPECT_EQ(stored[1].Kind, kSquare);
+  // Both move the same one: both are kept.
+  stage.Slots().SelectWindow(1);
+  stage.analysis.Tools().Engine().MoveShape(stage.Shapes(1).Shapes[0], 0, 20);
+  stage.Slots().SelectWindow(2);
+  stage.analysis.Tools().Engine().MoveShape(stage.Shapes(2).Shapes[0], 0, 40);
+  EXPECT_TRUE(stage.Slots().MnuCloseAll_Click());
+  EXPECT_EQ(Stored(path).size(), 3u);
+}
+
+TEST(TwoWorkstations, OfDifferentSizesKeepWhatNobodyTouchesToTheByte) {
+  AnalysisStage here, there("2", 1000, 810);
+  const std::string path = here.Video("a.avi");
+  here.Open(1, path);
+  for (int i = 0; i < 50; ++i) here.Draw(kLine, {10 + 7 * i, 11 + i}, {300 - i, 401 - 3 * i});
+  EXPECT_TRUE(here.Slots().CloseVideo(1));
+  std::vector<Shape> drawn = Stored(path);
+  ASSERT_EQ(drawn.size(), 50u);
+
+  there.Open(1, path);
+  there.Slots().SetScreen(8);
+  there.Commands().Run("vFlip");
+  EXPECT_TRUE(there.Slots().CloseVideo(1));
+  EXPECT_EQ(Stored(path), drawn);
+
+  here.Open(1, path);
+  there.Open(1, path);
+  there.Draw(kEllipse, {40, 40}, {60, 70});
+  there.host.Advance(5000);
+  here.Commands().Run("Lastcadoff");
+  here.host.Advance(5000);
+  there.Draw(kSquare, {40, 40}, {60, 70});
+  there.host.Advance(5000);
+  std::vector<Shape> stored = Stored(path);
+  ASSERT_EQ(stored.size(), 51u);
+  EXPECT_TRUE(std::equal(stored.begin(), stored.begin() + 49, drawn.begin()));
+  EXPECT_EQ(stored[49].Kind, kEllipse);
+  EXPECT_EQ(stored[50].Kind, kSquare);
+
+  // What is undone in a window of another size is what it was.
+  there.Slots().SetScreen(1);
+  there.Commands().Run("Cadoffbutton");
+  there.host.Advance(5000);
+  EXPECT_EQ(Stored(path).size(), 0u);
+  there.Slots().SetScreen(4);
+  there.Commands().Run("UndoDrawing");
+  EXPECT_TRUE(there.Slots().CloseVideo(1));
+  EXPECT_EQ(Stored(path).size(), 52u) << "with the one that was deleted here";
+  EXPECT_TRUE(here.Slots().CloseVideo(1));
+  stored = Stored(path);
+  EXPECT_EQ(stored.size(), 52u);
+  EXPECT_TRUE(std::equal(drawn.begin(), drawn.end(), stored.begin()));
+}
+
 TEST(TwoWorkstations, KeepEachOthersWorkOnOneVideo) {
   AnalysisStage here, there;
   const std::string path = here.Video("a.avi");
@@ -341,6 +421,15 @@ TEST(ForeignSidecar, IsLeftAloneUntilThereIsWorkAndThenKeptBeside) {
   EXPECT_TRUE(stage.Slots().CloseVideo(1));
   EXPECT_EQ(bytesOf(sidecar + ".old"), foreign);
   EXPECT_TRUE(ReadSidecarMarks(sidecar).HasDrawings());
+
+  // One byte of its own has gone wrong: the number of dimensions of the points.
+  std::string damaged = bytesOf(sidecar);
+  damaged[44] = '\2';
+  std::ofstream(sidecar) << damaged;
+  stage.Open(1, path);
+  stage.host.Advance(5000);
+  EXPECT_TRUE(stage.Slots().CloseVideo(1));
+  EXPECT_EQ(bytesOf(sidecar), damaged);
 }
 
 TEST(VideoNotesTest, LieUnderThePictureAndAreKeptWithTheVideo) {
