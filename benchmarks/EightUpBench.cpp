@@ -9,6 +9,7 @@
 #include "Bench.h"
 #include "platform/files/Log.h"
 #include "platform/host/QtHost.h"
+#include "support/TestPrinter.h"
 #include "support/TestVideos.h"
 #include "video/PlayScheduler.h"
 #include "workspace/forms/AnalysisForm.h"
@@ -55,7 +56,8 @@ Figure EightUp60() {
   PlayScheduler scheduler(*host);
   PlayerServices players{*host, scheduler};
   LastStudentInfo remembered;
-  AnalysisForm form(*host, settings, players, remembered, {});
+  test::TestPrinter printer;
+  AnalysisForm form(*host, printer, settings, players, remembered, {});
   form.resize(1920, 1080);
   form.show();
 
