@@ -74,6 +74,8 @@ void NotesPanel::SetText(const std::string& text) {
 
 void NotesPanel::TextChanged() {
   const std::size_t length = NotesLength(FileText(box_->toPlainText()));
+  // Between what came and what was left out of it there is a step that an undo passes over.
+  if (length > kMaxNotes && box_->document()->isRedoAvailable()) return box_->undo();
   const int left = length > kMaxNotes ? TakeBack(length - kMaxNotes) : 0;
   full_->setText(tr("The notes are full: they hold %1 characters. The last %2 that were typed or pasted were left out.")
                      .arg(QLocale().toString(qulonglong(kMaxNotes)), QLocale().toString(left)));
@@ -81,8 +83,8 @@ void NotesPanel::TextChanged() {
   notes_.NotesBox_Change(FileText(box_->toPlainText()));
 }
 
-/// A sidecar holds no more: as many characters, as the file counts them, go from the end of what came last,
-/// and as a part of that step. Returns how many went; what was there before stays.
+/// A sidecar holds no more: as many characters, as the file counts them, go from the end of what came last.
+/// Returns how many went; what was there before stays.
 int NotesPanel::TakeBack(std::size_t characters) {
   const QString text = box_->toPlainText();
   const int end = std::min(addedEnd_, int(text.size()));
@@ -94,7 +96,7 @@ int NotesPanel::TakeBack(std::size_t characters) {
   }
   const QSignalBlocker quiet(box_);
   QTextCursor cursor(box_->document());
-  cursor.joinPreviousEditBlock();
+  cursor.beginEditBlock();
   cursor.setPosition(begin);
   cursor.setPosition(end, QTextCursor::KeepAnchor);
   cursor.removeSelectedText();
