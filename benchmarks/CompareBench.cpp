@@ -50,9 +50,9 @@ const Register kOverlayMix({"overlay_mix_640x480", {Target::Of::Ratio, 4, 1}, []
   NoOverlayView view;
   Overlay overlay(stage.host, stage.settings, stage.Slots(), locks, view);
   overlay.Resize(640, 480);
-  overlay.STM_Click();
+  overlay.ToggleTransparency();
   for (const int slot : {1, 2}) stage.MP(slot).Resize(640, 480);
-  overlay.TransScroll_Scroll(100);
+  overlay.SlideMix(100);
   const double mix = MedianOf(kRounds, [&] { overlay.CMDDISAct(); });
 
   const Surface pictures[] = {stage.MP(1).Picture(), stage.MP(2).Picture()};
@@ -72,7 +72,7 @@ const Register kStripRefresh({"strip_refresh", {Target::Of::Ratio, 4, 1.5}, [] {
   Open(stage, 1, test::MjpegVideo(120), 100);
   NoStripView view;
   MultiPicture strip(stage.host, stage.Slots(), view);
-  strip.smbar_Click();
+  strip.ToggleStrip();
   if (strip.PictureCount() != MultiPicture::kMostPictures) throw std::runtime_error("the strip has not nine pictures");
   const double refresh = MedianOf(kRounds, [&] { strip.MFNextFrame(); });
   Surface moved = strip.Strip();

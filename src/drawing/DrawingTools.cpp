@@ -9,7 +9,6 @@
 namespace kinalyx {
 namespace {
 
-constexpr int kEndOfTool = 25;   // to VectorColorUpdate: no tool is announced any more
 constexpr int kGridEntry = 11;   // of the Draw menu and of the tool colours
 constexpr int kLeftButton = 1;
 constexpr Colour kSelected = 65280;  // green
@@ -30,7 +29,7 @@ bool DrawingTools::HasShapes(int window) const { return engine_.ShapeLists(windo
 
 // ---------------------------------------------------------------- commands
 
-void DrawingTools::CmdMakeShape_Click(int Index) {
+void DrawingTools::TakeTool(int Index) {
   if (InfOf(Index).ToolCaption.empty() || !workspace_.HasVideo(workspace_.ActiveWindow())) return;
   if (Drawing_ && Index == DrawKind_) {
     PutDown();
@@ -48,29 +47,29 @@ void DrawingTools::CmdMakeShape_Click(int Index) {
   if (Index != kLine && Index != kArrow) engine_.StraightMode = false;
 }
 
-void DrawingTools::MenuDraw_Click(int Index) {
+void DrawingTools::ChooseFromMenu(int Index) {
   if (Index == kGridEntry) {
     SetGridMode(!List(workspace_.ActiveWindow()).GridOn);
   } else {
-    CmdMakeShape_Click(Index);
+    TakeTool(Index);
   }
 }
 
-void DrawingTools::DDSL_Click() { StraightTool(kLine); }
-void DrawingTools::DDSA_Click() { StraightTool(kArrow); }
+void DrawingTools::TakeStraightLine() { StraightTool(kLine); }
+void DrawingTools::TakeStraightArrow() { StraightTool(kArrow); }
 
 void DrawingTools::StraightTool(int kind) {
   // The free line in hand gives way to the straight one instead of being put down by the same kind.
   if (Drawing_ && DrawKind_ == kind && !engine_.StraightMode) PutDown();
-  CmdMakeShape_Click(kind);
+  TakeTool(kind);
   if (Drawing_ && DrawKind_ == kind) engine_.StraightMode = true;
 }
 
-void DrawingTools::DrawOffBtn_Click() {
-  if (Drawing_) CmdMakeShape_Click(DrawKind_);
+void DrawingTools::PutToolDown() {
+  if (Drawing_) TakeTool(DrawKind_);
 }
 
-void DrawingTools::Lastcadoff_Click() {
+void DrawingTools::DeleteLast() {
   const int window = workspace_.ActiveWindow();
   if (!workspace_.HasVideo(window)) return;
   DeleteLastCAD(window);
@@ -78,7 +77,7 @@ void DrawingTools::Lastcadoff_Click() {
   workspace_.DrawingsChanged(window);
 }
 
-void DrawingTools::Cadoffbutton_Click() {
+void DrawingTools::DeleteAll() {
   const int window = workspace_.ActiveWindow();
   if (!workspace_.HasVideo(window)) return;
   DeleteAllCAD(window);
@@ -86,7 +85,7 @@ void DrawingTools::Cadoffbutton_Click() {
   workspace_.DrawingsChanged(window);
 }
 
-void DrawingTools::ColorChoiceBtn_Click(int Index) {
+void DrawingTools::ChooseColour(int Index) {
   if (Index < 0 || Index >= static_cast<int>(kColorChoices.size())) return;
   engine_.CadColor = kColorChoices[static_cast<std::size_t>(Index)];
   workspace_.SetColorButton(Index);
@@ -119,12 +118,12 @@ bool DrawingTools::CloneStart(int windowsShown) {
   return true;
 }
 
+void DrawingTools::AnnouncementOver() {
+  RandomColorIndex_ = (RandomColorIndex_ + 1) % static_cast<int>(kColorChoices.size());
+  EndAnnouncement();
+}
+
 void DrawingTools::VectorColorUpdate(int Kind) {
-  if (Kind == kEndOfTool) {
-    RandomColorIndex_ = (RandomColorIndex_ + 1) % static_cast<int>(kColorChoices.size());
-    EndAnnouncement();
-    return;
-  }
   int button = RandomColorIndex_;
   if (settings_.RandomColor == 1 && Kind != kSwingPath && Kind != kZone) {
     engine_.CadColor = kColorChoices[static_cast<std::size_t>(button)];
@@ -162,7 +161,7 @@ void DrawingTools::PutDown() {
   DrawKind_ = 0;
   engine_.StraightMode = false;
   engine_.StraightAnchor.Set = false;
-  if (announced) VectorColorUpdate(kEndOfTool);
+  if (announced) AnnouncementOver();
 }
 
 bool DrawingTools::UnderConstruction() const {

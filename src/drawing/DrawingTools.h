@@ -34,7 +34,7 @@ class IEditMarks {
 
 /// Turns the mouse in a video window into shapes, and knows the commands that begin and clear them.
 ///
-/// Idle -> CmdMakeShape_Click -> armed -> first mouse down -> building -> the shape is finished -> idle.
+/// Idle -> TakeTool -> armed -> first mouse down -> building -> the shape is finished -> idle.
 /// A path steps the video one frame per click. Putting a tool down ends what is under construction: an
 /// open line is finished as far as it goes, any other shape is given up.
 class DrawingTools final : public IShapeLocked {
@@ -59,15 +59,15 @@ class DrawingTools final : public IShapeLocked {
 
   // --- commands
   /// Takes a tool up; the tool in hand is put down by it. Nothing happens without a video.
-  void CmdMakeShape_Click(int Index);
+  void TakeTool(int Index);
   /// The Draw menu: index 11 turns the grid on or off, the others are tools.
-  void MenuDraw_Click(int Index);
-  void DDSL_Click();  ///< a straight line
-  void DDSA_Click();  ///< a straight arrow
-  void DrawOffBtn_Click();
-  void Lastcadoff_Click();
-  void Cadoffbutton_Click();
-  void ColorChoiceBtn_Click(int Index);
+  void ChooseFromMenu(int Index);
+  void TakeStraightLine();  ///< a straight line
+  void TakeStraightArrow();  ///< a straight arrow
+  void PutToolDown();
+  void DeleteLast();
+  void DeleteAll();
+  void ChooseColour(int Index);
   void SetGridMode(bool Value);
   /// Divisions across the picture, kGridSizeLeast to kGridSizeMost; other values count as the nearest.
   void SetGridSize(int Value);
@@ -124,12 +124,14 @@ class DrawingTools final : public IShapeLocked {
   void Redo(int window);
 
   // --- from the store
-  /// Kinds 0 to 10 announce a tool and choose its colour; 25 ends the announcement and steps the random colour.
-  void VectorColorUpdate(int Kind) override;
+  /// The announcement ends and the random colour steps on.
+  void AnnouncementOver() override;
   /// No tool is active any more.
   void DrawingOff() override;
 
  private:
+  /// Announces a tool of this kind, 0 to 10, and chooses its colour.
+  void VectorColorUpdate(int Kind);
   static constexpr int HitRadius = 100;  ///< pixels within which a click selects a shape
 
   int Resolve(int window) { return window == -1 ? workspace_.ActiveWindow() : window; }

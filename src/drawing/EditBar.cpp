@@ -30,14 +30,14 @@ void EditBar::SetEditBar() {
   view_.SetMultiButton(list.NumShapes >= 2, false);
 }
 
-void EditBar::MenuEdit_Click() {
+void EditBar::ToggleEditBar() {
   if (shown_) {
-    cmdEBBtn_Click(kEndHandle);
+    UseHandle(kEndHandle);
     return;
   }
   const int window = workspace_.ActiveWindow();
   if (!workspace_.HasVideo(window)) return;
-  tools_.DrawOffBtn_Click();
+  tools_.PutToolDown();
   ShapeList& list = List();
   if (!Selected()) list.CurShape = static_cast<std::int16_t>(list.NumShapes - 1);
   ChangeEBMode(true);
@@ -75,7 +75,7 @@ void EditBar::RefreshWindows() {
     if (workspace_.HasVideo(window)) workspace_.Refresh(window);
 }
 
-void EditBar::ribEBBtn_Click(bool Value) {
+void EditBar::EditAll(bool Value) {
   MultiEdit_ = Value;
   ShapeList& list = List();
   if (Value && !Selected() && list.NumShapes > 0) {
@@ -85,7 +85,7 @@ void EditBar::ribEBBtn_Click(bool Value) {
   RefreshWindows();
 }
 
-void EditBar::cmdEBBtn_Click(int Index) {
+void EditBar::UseHandle(int Index) {
   if (!shown_) return;
   tools_.SetDrawWindow(workspace_.ActiveWindow());
   switch (Index) {
@@ -118,7 +118,7 @@ float EditBar::HandleAngle(int handle, float x, float y) {
   return static_cast<float>(PointAngle(view_.HandleWidth(handle) / 2.0, view_.HandleHeight(handle) / 2.0, x, y));
 }
 
-void EditBar::cmdEBBtn_MouseDown(int Index, int Button, int /*Shift*/, float X, float Y) {
+void EditBar::GrabHandle(int Index, int Button, int /*Shift*/, float X, float Y) {
   if (!shown_ || Button != kLeftButton || Index < kMoveHandle || Index > kRotateHandle) return;
   Shape* shape = Selected();
   if (!shape) return;
@@ -140,7 +140,7 @@ void EditBar::cmdEBBtn_MouseDown(int Index, int Button, int /*Shift*/, float X, 
   view_.ShowRotationGuide(true);
 }
 
-void EditBar::cmdEBBtn_MouseMove(int Index, int Button, int /*Shift*/, float X, float Y) {
+void EditBar::DragHandle(int Index, int Button, int /*Shift*/, float X, float Y) {
   if (!shown_ || Button != kLeftButton || Index != dragged_) return;
   ShapeList& list = tools_.List(dragWindow_);
   Shape* shape = SelectedShape(list);
@@ -164,7 +164,7 @@ void EditBar::cmdEBBtn_MouseMove(int Index, int Button, int /*Shift*/, float X, 
   workspace_.Refresh(dragWindow_);
 }
 
-void EditBar::cmdEBBtn_MouseUp(int Index, int Button, int /*Shift*/, float /*X*/, float /*Y*/) {
+void EditBar::ReleaseHandle(int Index, int Button, int /*Shift*/, float /*X*/, float /*Y*/) {
   if (Button != kLeftButton || Index != dragged_ || dragged_ < 0) return;
   dragged_ = -1;
   ShapeList& list = tools_.List(dragWindow_);

@@ -16,7 +16,7 @@ class IEditBarView {
   /// Puts the strip over a window.
   virtual void PlaceEditBar(int window) = 0;
   virtual void EnableHandle(int handle, bool enabled) = 0;
-  /// `ribEBBtn`, the switch between one shape and all. Must not come back as ribEBBtn_Click.
+  /// `ribEBBtn`, the switch between one shape and all. Must not come back as EditAll.
   virtual void SetMultiButton(bool enabled, bool down) = 0;
   /// A marker at the handle while it rotates.
   virtual void ShowRotationGuide(bool shown) = 0;
@@ -40,16 +40,16 @@ class EditBar final : public IEditMarks {
   void SetEditBar() override;
 
   /// Opens the bar with the last shape selected when none is, or ends the edit.
-  void MenuEdit_Click();
+  void ToggleEditBar();
   void ChangeEBMode(bool Show);
   /// The active window changed or moved.
   void MoveEditBar();
-  void ribEBBtn_Click(bool Value);
-  void cmdEBBtn_Click(int Index);
+  void EditAll(bool Value);
+  void UseHandle(int Index);
   /// X and Y in twips of the handle, 15 to a pixel of the picture; Button 1 is the left one.
-  void cmdEBBtn_MouseDown(int Index, int Button, int Shift, float X, float Y);
-  void cmdEBBtn_MouseMove(int Index, int Button, int Shift, float X, float Y);
-  void cmdEBBtn_MouseUp(int Index, int Button, int Shift, float X, float Y);
+  void GrabHandle(int Index, int Button, int Shift, float X, float Y);
+  void DragHandle(int Index, int Button, int Shift, float X, float Y);
+  void ReleaseHandle(int Index, int Button, int Shift, float X, float Y);
 
   /// After a macro was laid over the window: all its shapes are edited as one, without next and rotate.
   void EditWhole();

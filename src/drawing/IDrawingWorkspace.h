@@ -41,7 +41,7 @@ class IDrawingWorkspace {
   /// The colour beside the caption, and the button that ends the tool.
   virtual void ShowVectorColor(Colour colour) = 0;
   virtual void HideVectorColor() = 0;
-  /// Presses one of the twelve colour buttons, -1 none. Must not come back as ColorChoiceBtn_Click.
+  /// Presses one of the twelve colour buttons, -1 none. Must not come back as ChooseColour.
   virtual void SetColorButton(int index) = 0;
   /// A figure could not be drawn. Told once, not on each frame; comes while a frame is composed, so a
   /// message box must wait until that is over.

@@ -96,7 +96,7 @@ std::string Macros::Info(int Index) const {
 
 void EmbedMacro(const ShapeList& macro, DrawingTools& tools, IDrawingWorkspace& workspace) {
   const int window = workspace.ActiveWindow();
-  tools.DrawOffBtn_Click();
+  tools.PutToolDown();
   tools.BeforeChange(window);
   ShapeList list = macro;
   const int width = workspace.PictureWidth(window) * kTwipsPerPixel;

@@ -73,7 +73,7 @@ void ShapeEngine::LockShape(Shape& shape) {
   StraightMode = false;
   StraightAnchor.Set = false;
   if (!listener_) return;
-  listener_->VectorColorUpdate(25);
+  listener_->AnnouncementOver();
   listener_->DrawingOff();
 }
 

@@ -14,8 +14,8 @@ namespace kinalyx {
 class IShapeLocked {
  public:
   virtual ~IShapeLocked() = default;
-  /// 25: the tool's caption ends and the random colour steps on.
-  virtual void VectorColorUpdate(int Kind) = 0;
+  /// The tool's caption ends and the random colour steps on.
+  virtual void AnnouncementOver() = 0;
   virtual void DrawingOff() = 0;
 };
 

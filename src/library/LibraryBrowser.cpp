@@ -48,7 +48,7 @@ void LibraryBrowser::CapfolderSetup(bool keepInstructor) {
   const std::string wanted = keepInstructor && instructor_ >= 0 ? Instructor() : LastStudent_[0];
   ReadInstructors();
   // A remembered instructor whose folder has gone gives way to the library itself.
-  InstructorList_Click(std::max(0, RowOf(instructors_, wanted)));
+  ChooseInstructor(std::max(0, RowOf(instructors_, wanted)));
 }
 
 void LibraryBrowser::Return(bool keepInstructor) {
@@ -64,7 +64,7 @@ void LibraryBrowser::Refresh() {
   const std::string video = Video();
   ReadInstructors();
   instructor_ = std::max(0, RowOf(instructors_, instructor));
-  Folderbox_Change();
+  FillStudents();
   student_ = RowOf(students_, student);
   ReadVideos();
   if (const int row = RowOf(videos_, video); row >= 0) video_ = row;
@@ -73,40 +73,40 @@ void LibraryBrowser::Refresh() {
 
 void LibraryBrowser::TryAgain() { CapfolderSetup(instructor_ > 0); }
 
-void LibraryBrowser::InstructorList_Click(int row) {
+void LibraryBrowser::ChooseInstructor(int row) {
   instructor_ = Checked(instructors_, row);
-  Folderbox_Change();
+  FillStudents();
   // In a silent library the entry stands alone, and nobody has chosen it.
   if (IsGeneralFolder() && !silent_) {
     LastStudent_[0].clear();
     LastStudent_[1].clear();
   }
-  StudentList_Click(LastStudent_[1].empty() ? -1 : RowOf(students_, LastStudent_[1]));
+  ChooseStudent(LastStudent_[1].empty() ? -1 : RowOf(students_, LastStudent_[1]));
 }
 
-void LibraryBrowser::StudentList_Click(int row) {
+void LibraryBrowser::ChooseStudent(int row) {
   student_ = Checked(students_, row);
   ReadVideos();
   Remember();
 }
 
-void LibraryBrowser::VideoList_Click(int row) { video_ = Checked(videos_, row); }
+void LibraryBrowser::ChooseVideo(int row) { video_ = Checked(videos_, row); }
 
 bool LibraryBrowser::SelectInstructor(std::string_view name) {
   const int row = RowOf(instructors_, name);
-  if (row >= 0) InstructorList_Click(row);
+  if (row >= 0) ChooseInstructor(row);
   return row >= 0;
 }
 
 bool LibraryBrowser::SelectStudent(std::string_view name) {
   const int row = RowOf(students_, name);
-  if (row >= 0) StudentList_Click(row);
+  if (row >= 0) ChooseStudent(row);
   return row >= 0;
 }
 
 bool LibraryBrowser::SelectVideo(std::string_view name) {
   const int row = RowOf(videos_, name);
-  if (row >= 0) VideoList_Click(row);
+  if (row >= 0) ChooseVideo(row);
   return row >= 0;
 }
 
@@ -125,7 +125,7 @@ std::string LibraryBrowser::VideoPathAt(int row) const {
   return row < 0 ? std::string() : JoinPath(Folder(), files_[static_cast<std::size_t>(row)]);
 }
 
-void LibraryBrowser::Folderbox_Change() {
+void LibraryBrowser::FillStudents() {
   student_ = -1;
   students_.clear();
   if (instructor_ > 0)

@@ -44,9 +44,9 @@ class LibraryBrowser {
 
   // --- choosing; rows out of range choose nothing
 
-  void InstructorList_Click(int row);
-  void StudentList_Click(int row);
-  void VideoList_Click(int row);
+  void ChooseInstructor(int row);
+  void ChooseStudent(int row);
+  void ChooseVideo(int row);
   /// By name; false, with nothing changed, when the list does not hold it. Names compare exactly.
   bool SelectInstructor(std::string_view name);
   bool SelectStudent(std::string_view name);
@@ -82,7 +82,7 @@ class LibraryBrowser {
   Kind Purpose() const { return kind_; }
 
  private:
-  void Folderbox_Change();
+  void FillStudents();
   void ReadVideos();
   void Remember();
   using Reading = std::function<std::vector<std::string>(const LibraryTree&)>;

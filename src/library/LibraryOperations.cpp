@@ -86,7 +86,7 @@ void ShowResult(const OperationResult& result, LibraryBrowser& browser) {
   if (!result.video.empty()) browser.SelectVideo(result.video);
   // Where a video has gone, the next one takes its place.
   if (result.video.empty() && !video.empty() && browser.Folder() == folder && browser.Video() != video)
-    browser.VideoList_Click(std::min(row, static_cast<int>(browser.VideoList().size()) - 1));
+    browser.ChooseVideo(std::min(row, static_cast<int>(browser.VideoList().size()) - 1));
 }
 
 LibraryOperations::LibraryOperations(IHost& host, const Settings& settings, AnalysisLink analysis)

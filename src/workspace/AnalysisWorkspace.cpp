@@ -17,8 +17,7 @@ AnalysisWorkspace::AnalysisWorkspace(IHost& host, Settings& settings, PlaySchedu
       settings_(settings),
       view_(view),
       workspace_(host, settings, view),
-      compare_(host, settings, scheduler, workspace_, compareView,
-               {[this](int key) { menuBar_.Form_KeyDown(key, 0); }, [this](int key) { menuBar_.Form_KeyPress(key); }}),
+      compare_(host, settings, scheduler, workspace_, compareView),
       transport_(host, settings, workspace_, compare_.Locks(), view),
       tools_(engine_, settings, *this),
       drawings_(workspace_, tools_),
@@ -45,7 +44,7 @@ void AnalysisWorkspace::ConnectModes() {
   compare_.Strobe().RunningChanged = [this] { view_.CommandsChanged(); };
   compare_.TransparencySwitched = [this](bool on) { workspace_.BarHidden = on; };
   compare_.Strip().SquareWanted = [this] {
-    if (!tools_.Drawing() || tools_.DrawKind() != kSquare) tools_.CmdMakeShape_Click(kSquare);
+    if (!tools_.Drawing() || tools_.DrawKind() != kSquare) tools_.TakeTool(kSquare);
     view_.CommandsChanged();
   };
 }
@@ -71,8 +70,8 @@ void AnalysisWorkspace::ConnectVideos() {
     edits_.VideoClosing(slot);
     if (slot == workspace_.CurrentWindow) {
       transport_.StepReleased();
-      if (ruler_.Shown()) ruler_.CalibBtn_Click(1);
-      if (tools_.Drawing()) tools_.DrawOffBtn_Click();
+      ruler_.CancelCalibration();
+      if (tools_.Drawing()) tools_.PutToolDown();
     }
     compare_.VideoClosing(slot);
   };
@@ -125,8 +124,8 @@ void AnalysisWorkspace::ShowFocus() {
 
 /// A mode takes the stage, or the mouse: what is in hand is put down, and what lies on a picture goes.
 void AnalysisWorkspace::GiveWay() {
-  if (ruler_.Shown()) ruler_.CalibBtn_Click(1);  // without its tool it would wait for ever
-  tools_.DrawOffBtn_Click();
+  ruler_.CancelCalibration();  // without its tool it would wait for ever
+  tools_.PutToolDown();
   edits_.PutAway();
   notes_.Close();
 }
@@ -163,14 +162,14 @@ void AnalysisWorkspace::CellDoubleClicked(int slot) {
   if (!workspace_.HasVideo(slot)) menuBar_.Run("vo");
 }
 
-void AnalysisWorkspace::DrawOffBtn_Click() {
-  tools_.DrawOffBtn_Click();
+void AnalysisWorkspace::PutToolDown() {
+  tools_.PutToolDown();
   view_.CommandsChanged();
   view_.FocusKeyBox();
 }
 
-void AnalysisWorkspace::ColorChoiceBtn_Click(int Index) {
-  tools_.ColorChoiceBtn_Click(Index);
+void AnalysisWorkspace::ChooseColour(int Index) {
+  tools_.ChooseColour(Index);
   view_.SetColorButton(Index);
   view_.FocusKeyBox();
 }
@@ -216,9 +215,9 @@ void AnalysisWorkspace::DblClick(int ID) {
   if (!workspace_.HasVideo(ID)) CellDoubleClicked(ID);
 }
 
-void AnalysisWorkspace::KeyDown(int KeyCode, int Shift, int) { menuBar_.Form_KeyDown(KeyCode, Shift); }
+void AnalysisWorkspace::KeyDown(int KeyCode, int Shift, int) { menuBar_.PressKey(KeyCode, Shift); }
 
-void AnalysisWorkspace::KeyPress(int KeyAscii, int) { menuBar_.Form_KeyPress(KeyAscii); }
+void AnalysisWorkspace::KeyPress(int KeyAscii, int) { menuBar_.PressLetter(KeyAscii); }
 
 // ---------------------------------------------------------------- for the drawing tools
 

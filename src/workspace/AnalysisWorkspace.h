@@ -50,8 +50,8 @@ class AnalysisWorkspace final : public IFrameInterface, public IMouseAndKeyBoard
   /// A mouse press on a cell beside its picture, and a double click there: an empty window opens a video.
   void CellPressed(int slot);
   void CellDoubleClicked(int slot);
-  void DrawOffBtn_Click();
-  void ColorChoiceBtn_Click(int Index);
+  void PutToolDown();
+  void ChooseColour(int Index);
 
   // --- IFrameInterface
   void PreDrawFrame(Canvas& hDC, int ID) override;

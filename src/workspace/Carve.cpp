@@ -20,7 +20,7 @@ Carve::Carve(IHost& host, Workspace& workspace, ICarveView& view) : host_(host),
 
 bool Carve::CanShow() const { return Shown() || workspace_.HasVideo(workspace_.CurrentWindow); }
 
-void Carve::TTCarve() {
+void Carve::ToggleCarve() {
   if (Shown()) return End();
   if (!CanShow()) return;
   if (Marking) Marking();
@@ -76,11 +76,11 @@ void Carve::LayoutChanged() {
 
 // ---------------------------------------------------------------- marking
 
-void Carve::CarvePic_MouseDown(POINTAPI point) {
+void Carve::BeginMark(POINTAPI point) {
   if (Shown() && !Floating()) markFrom_ = point;
 }
 
-void Carve::CarvePic_MouseMove(POINTAPI point) {
+void Carve::MoveMark(POINTAPI point) {
   if (markFrom_) Mark(point);
 }
 
@@ -89,7 +89,7 @@ void Carve::Mark(POINTAPI to) {
                  std::abs(to.y - markFrom_->y));
 }
 
-void Carve::CarvePic_MouseUp(POINTAPI point) {
+void Carve::EndMark(POINTAPI point) {
   if (!markFrom_) return;
   const POINTAPI from = *markFrom_;
   markFrom_.reset();
@@ -138,7 +138,7 @@ void Carve::CmdDisCarve() {
 }
 
 /// The scale grows and shrinks the piece about its middle.
-void Carve::CScroll_Change(int percent) {
+void Carve::ScalePiece(int percent) {
   percent = std::clamp(percent, kSmallest, kLargest);
   if (percent == percent_) return;
   percent_ = percent;
@@ -147,15 +147,15 @@ void Carve::CScroll_Change(int percent) {
   CmdDisCarve();
 }
 
-void Carve::picRot_MouseDown(POINTAPI point) {
+void Carve::GrabPiece(POINTAPI point) {
   if (Floating()) grab_ = POINTAPI{point.x - corner_.x, point.y - corner_.y};
 }
 
-void Carve::picRot_MouseMove(POINTAPI point) {
+void Carve::DragPiece(POINTAPI point) {
   if (grab_) Nudge(point.x - grab_->x - corner_.x, point.y - grab_->y - corner_.y);
 }
 
-void Carve::picRot_MouseUp() { grab_.reset(); }
+void Carve::ReleasePiece() { grab_.reset(); }
 
 void Carve::Nudge(int dx, int dy) {
   if (!Floating()) return;
@@ -167,7 +167,7 @@ void Carve::Nudge(int dx, int dy) {
 
 void Carve::Signal(int slot) {
   if (slot != slot_ || !Floating() || CarveTimer_.Running()) return;
-  CarveTimer_ = HostTimer(host_, 0, false, [this] { CarveTimer_Timer(); });
+  CarveTimer_ = HostTimer(host_, 0, false, [this] { UpdatePiece(); });
 }
 
 void Carve::PlayerResized(int slot) {
@@ -176,6 +176,6 @@ void Carve::PlayerResized(int slot) {
 }
 
 /// Keeps the piece up to date, once for everything that one turn of the event loop has changed.
-void Carve::CarveTimer_Timer() { CmdDisCarve(); }
+void Carve::UpdatePiece() { CmdDisCarve(); }
 
 }  // namespace kinalyx

@@ -35,7 +35,7 @@ class Carve {
   Carve(IHost& host, Workspace& workspace, ICarveView& view);
 
   /// Begins with the current video, or ends. An empty window is refused.
-  void TTCarve();
+  void ToggleCarve();
   bool Shown() const { return slot_ != 0; }
   bool CanShow() const;
   /// The piece floats; otherwise an area is waited for.
@@ -46,17 +46,17 @@ class Carve {
   /// The mouse is wanted for something else: without a piece the carve ends.
   void StopMarking();
   // The left button on `CarvePic`, in pixels of the video's picture.
-  void CarvePic_MouseDown(POINTAPI point);
-  void CarvePic_MouseMove(POINTAPI point);
-  void CarvePic_MouseUp(POINTAPI point);
+  void BeginMark(POINTAPI point);
+  void MoveMark(POINTAPI point);
+  void EndMark(POINTAPI point);
   // The left button on `picRot`, in pixels of the stage: the piece follows it.
-  void picRot_MouseDown(POINTAPI point);
-  void picRot_MouseMove(POINTAPI point);
-  void picRot_MouseUp();
+  void GrabPiece(POINTAPI point);
+  void DragPiece(POINTAPI point);
+  void ReleasePiece();
   /// Moves the piece by pixels of the stage.
   void Nudge(int dx, int dy);
   /// Size of the piece, percent of its area.
-  void CScroll_Change(int percent);
+  void ScalePiece(int percent);
   int CScroll() const { return percent_; }
 
   /// Copies the area of the current frame to the piece, at its scale, and shows it.
@@ -88,7 +88,7 @@ class Carve {
   void End();
   void BeginMarking();
   void Mark(POINTAPI to);
-  void CarveTimer_Timer();
+  void UpdatePiece();
   /// The window over which a new piece comes up.
   int OtherSlot() const;
 

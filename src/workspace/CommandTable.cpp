@@ -103,8 +103,8 @@ void MenuBar::AddVideo() {
     Add({item, kVideo, caption, "", icon, "", kNoButton, std::move(run), hasVideo});
   };
   Add({"vo", kVideo, "O - Open New Video", "Openbtn", "open", "Open Videos", kOpening, [this] { view_.ShowOpenPanel(); }});
-  plain("vr", "R - Rewind Video", "rewind", [this] { transport_.cmdREwind(); });
-  plain("vplay", "P - Play / Pause Toggle", "play", [this] { transport_.cmdPlay(); });
+  plain("vr", "R - Rewind Video", "rewind", [this] { transport_.Rewind(); });
+  plain("vplay", "P - Play / Pause Toggle", "play", [this] { transport_.TogglePlay(); });
   Add({"vloop", kVideo, "L - Loop Video", "", "loop", "", kNoButton, [this] { transport_.ToggleLoop(); }, hasVideo,
        [this] { return HasVideo() && workspace_.Current().MP->Repeat(); }});
   Add({"vs", kVideo, "S - Speed Toggle", "", "slow", "", kNoButton, [this] { transport_.ToggleSlomo(); }, hasVideo,
@@ -112,7 +112,7 @@ void MenuBar::AddVideo() {
   Add({"vFlip", kVideo, "F - Flip Video", "CmdAfunctions0", "flip", "Flip Video", kPicture,
        [this] { workspace_.ToggleFlip(); }, hasVideo,
        [this] { return HasVideo() && workspace_.Current().MP->FlipHorizontal(); }});
-  Add({"MZoom", kVideo, "Z - Zoom Videos", "", "zoom", "", kNoButton, [this] { compare_.TZP_Click(); },
+  Add({"MZoom", kVideo, "Z - Zoom Videos", "", "zoom", "", kNoButton, [this] { compare_.ToggleZoomForm(); },
        {}, [this] { return compare_.ZoomShown(); }});
   Add({"MnuClose", kVideo, "C - Close Current Video", "Closebtn", "close", "Close Current Video", kOpening,
        [this] {
@@ -120,14 +120,14 @@ void MenuBar::AddVideo() {
        },
        hasVideo});
   Add({"MnuCloseAll", kVideo, "Esc - Close All Videos", "Closeallbtn", "close-all", "Close All Videos", kOpening,
-       [this] { workspace_.MnuCloseAll_Click(); }, anyVideo});
+       [this] { workspace_.CloseAll(); }, anyVideo});
   Add({"ReopenVideos", kVideo, "Ctrl+Shift+T - Reopen Closed Videos", "", "", "", kNoButton, [this] { workspace_.ReopenClosed(); },
        Needs([this] { return workspace_.CanReopen(); }, "Only when all videos have just been closed")});
   AddSeparator(kVideo);
-  plain("vF", "Up Arrow - Rewind", "", [this] { transport_.cmdREwind(); });
-  plain("VL", "Down Arrow - Play", "", [this] { transport_.cmdPlay(); });
-  plain("vp", "Left Arrow - Back 1 Frame", "step-back", [this] { transport_.vp_Click(); });
-  plain("vn", "Right Arrow - Next Frame", "step-forward", [this] { transport_.vn_Click(); });
+  plain("vF", "Up Arrow - Rewind", "", [this] { transport_.Rewind(); });
+  plain("VL", "Down Arrow - Play", "", [this] { transport_.TogglePlay(); });
+  plain("vp", "Left Arrow - Back 1 Frame", "step-back", [this] { transport_.StepBack(); });
+  plain("vn", "Right Arrow - Next Frame", "step-forward", [this] { transport_.StepForward(); });
 }
 
 void MenuBar::AddDraw() {
@@ -140,16 +140,16 @@ void MenuBar::AddDraw() {
   for (int kind = 0; kind < static_cast<int>(std::size(kDrawTools)); ++kind) {
     const ToolEntry& tool = kDrawTools[kind];
     Add({"MenuDraw" + std::to_string(kind), kDraw, tool.caption, "CmdMakeShape" + std::to_string(kind), tool.icon,
-         tool.tip, kDrawing, [this, kind] { tools_.MenuDraw_Click(kind); }, hasVideo,
+         tool.tip, kDrawing, [this, kind] { tools_.ChooseFromMenu(kind); }, hasVideo,
          [inHand, kind] { return inHand(kind, false); }});
   }
   Add({"MenuDraw11", kDraw, "F12 - Grid", "ribShowGrid", "grid", "Grid", kDrawing,
-       [this] { edits_.ribShowGrid_MouseDown(); }, hasVideo, [this] { return HasVideo() && edits_.GridOn(); }});
+       [this] { edits_.ToggleGrid(); }, hasVideo, [this] { return HasVideo() && edits_.GridOn(); }});
   AddSeparator(kDraw);
   Add({"DDSL", kDraw, "Draw Straight Line", "DDSLBtn", "straight-line", "Draw Straight Line", kDrawing,
-       [this] { tools_.DDSL_Click(); }, hasVideo, [inHand] { return inHand(kLine, true); }});
+       [this] { tools_.TakeStraightLine(); }, hasVideo, [inHand] { return inHand(kLine, true); }});
   Add({"DDSA", kDraw, "Draw Straight Arrow", "DDSABtn", "straight-arrow", "Draw Straight Arrow", kDrawing,
-       [this] { tools_.DDSA_Click(); }, hasVideo, [inHand] { return inHand(kArrow, true); }});
+       [this] { tools_.TakeStraightArrow(); }, hasVideo, [inHand] { return inHand(kArrow, true); }});
   AddSeparator(kDraw);
   Add({"UndoDrawing", kDraw, "Ctrl+Z - Undo", "UndoBtn", "undo", "Undo (Ctrl+Z)", kErasing, [this] { edits_.Undo(); },
        Needs([this] { return HasVideo() && edits_.CanUndo(); }, "No change of the drawings in the current window to undo")});
@@ -157,9 +157,9 @@ void MenuBar::AddDraw() {
        [this] { edits_.Redo(); },
        Needs([this] { return HasVideo() && edits_.CanRedo(); }, "No change of the drawings in the current window was undone")});
   Add({"Lastcadoff", "", "", "", "delete-last", "Delete Last Object Drawn", kErasing,
-       [this] { tools_.Lastcadoff_Click(); }, hasShapes});
+       [this] { tools_.DeleteLast(); }, hasShapes});
   Add({"Cadoffbutton", "", "", "", "trash", "Delete All Drawings in Window", kErasing,
-       [this] { tools_.Cadoffbutton_Click(); }, hasShapes});
+       [this] { tools_.DeleteAll(); }, hasShapes});
 }
 
 void MenuBar::AddWindows() {
@@ -178,34 +178,34 @@ void MenuBar::AddTools() {
   const auto rows = Needs([this] { return workspace_.CanFillRows(); },
                           "Needs a layout of four, six or eight windows and a video in the current one");
   const auto stageFree = [this] { return compare_.StageTaken(); };
-  Add({"TF", kTools, "Fill All w/Current Video", "", "fill-all", "", kNoButton, [this] { workspace_.TF_Click(); },
+  Add({"TF", kTools, "Fill All w/Current Video", "", "fill-all", "", kNoButton, [this] { workspace_.FillAll(); },
        Needs([this] { return workspace_.CanFill(); }, "Needs a layout of several windows and a video in the current one")});
-  Add({"TFT", kTools, "Fill Top w/Current Video", "", "", "", kNoButton, [this] { workspace_.TFT_Click(); }, rows});
-  Add({"TFB", kTools, "Fill Bottom w/Current Video", "", "", "", kNoButton, [this] { workspace_.TFB_Click(); }, rows});
+  Add({"TFT", kTools, "Fill Top w/Current Video", "", "", "", kNoButton, [this] { workspace_.FillTopRow(); }, rows});
+  Add({"TFB", kTools, "Fill Bottom w/Current Video", "", "", "", kNoButton, [this] { workspace_.FillBottomRow(); }, rows});
   AddSeparator(kTools);
   Add({"PrintCall", kTools, "Print Video(s)", "CmdAfunctions7", "print", "Print Video(s)", kSharing,
        [this] { view_.ShowNotesform(); }, hasVideo});
-  Add({"TLAV", kTools, "Loop All Videos", "", "loop", "", kNoButton, [this] { transport_.TLAV_Click(); },
+  Add({"TLAV", kTools, "Loop All Videos", "", "loop", "", kNoButton, [this] { transport_.ToggleLoopAll(); },
        Needs([this] { return workspace_.AnyVideo(); }, "Open a video first"), [this] { return transport_.AllLooping(); }});
   Add({"TVT", kTools, "Video Timer", "CmdAfunctions3", "timer", "Show Video Timer", kMeasuring,
-       [this] { timer_.TVT_Click(); }, {}, [this] { return timer_.Shown(); }});
-  Add({"TZP", kTools, "Zoom/Pan", "", "zoom", "", kNoButton, [this] { compare_.TZP_Click(); },
+       [this] { timer_.ToggleTimer(); }, {}, [this] { return timer_.Shown(); }});
+  Add({"TZP", kTools, "Zoom/Pan", "", "zoom", "", kNoButton, [this] { compare_.ToggleZoomForm(); },
        {}, [this] { return compare_.ZoomShown(); }});
   Add({"TSFrames", kTools, "Strobe Frames", "StrobeBtn", "strobe", "Strobe Video", kPicture,
-       [this] { compare_.Strobe().StrobeBtn_Click(); },
+       [this] { compare_.Strobe().ToggleStrobe(); },
        [this] { return compare_.Strobe().StrobeRunning() ? "" : compare_.Strobe().Obstacle(); },
        [this] { return compare_.Strobe().StrobeRunning(); }});
   Add({"TMAX", kTools, "Maximize Current Video", "CmdAfunctions6", "maximize", "Maximize Current Video", kScreens,
-       [this] { workspace_.TMAX_Click(); }, NeedsVideo(stageFree), [this] { return workspace_.Maximized(); }});
+       [this] { workspace_.ToggleMaximize(); }, NeedsVideo(stageFree), [this] { return workspace_.Maximized(); }});
   Add({"TTCarve", kTools, "Transparency Carve", "", "carve", "", kNoButton,
-       [this] { compare_.Carving().TTCarve(); }, [this] { return compare_.WhyNoCarve(); },
+       [this] { compare_.Carving().ToggleCarve(); }, [this] { return compare_.WhyNoCarve(); },
        [this] { return compare_.Carving().Shown(); }});
   AddSeparator(kTools);
-  Add({"TMark", kTools, "Mark Video Position", "", "mark", "", kNoButton, [this] { transport_.TMark_Click(); }, hasVideo});
-  Add({"TMarkoff", kTools, "Video Marks Off", "", "", "", kNoButton, [this] { transport_.TMarkoff_Click(); },
+  Add({"TMark", kTools, "Mark Video Position", "", "mark", "", kNoButton, [this] { transport_.AddMark(); }, hasVideo});
+  Add({"TMarkoff", kTools, "Video Marks Off", "", "", "", kNoButton, [this] { transport_.ClearMarks(); },
        Needs([this] { return !workspace_.Current().marks.empty(); }, "The current video has no marks")});
   Add({"TN", kTools, "Show Video &Notes", "Notesbutton", "notes", "Show Video Notes", kMeasuring,
-       [this] { notes_.TN_Click(); }, NeedsVideo(stageFree), [this] { return notes_.Shown(); }});
+       [this] { notes_.ToggleNotes(); }, NeedsVideo(stageFree), [this] { return notes_.Shown(); }});
 }
 
 void MenuBar::AddAdvanced() {
@@ -215,23 +215,23 @@ void MenuBar::AddAdvanced() {
   AddComing("CLive", kAdvanced, "Live Draw && Hot Zones");
   AddComing("TRL", kAdvanced, "Record Lesson", "CmdAfunctions5", "microphone", "Record Lesson", kSharing);
   Add({"STM", kAdvanced, "&Transparency Mode", "", "overlay", "Transparency Mode", kPicture,
-       [this] { compare_.Transparency().STM_Click(); },
+       [this] { compare_.Transparency().ToggleTransparency(); },
        [this] { return compare_.WhyNoTransparency(); }, [this] { return compare_.Transparency().TransparencyOn(); }});
   Add({"smbar", kAdvanced, "&Multi-Pic Mode", "", "multi-picture", "Multi-Picture Mode", kPicture,
-       [this] { compare_.Strip().smbar_Click(); }, [this] { return compare_.WhyNoStrip(); },
+       [this] { compare_.Strip().ToggleStrip(); }, [this] { return compare_.WhyNoStrip(); },
        [this] { return compare_.Strip().Shown(); }});
   AddComing("TTES", kAdvanced, "Email- Take SnapShot");
   AddComing("TES", kAdvanced, "Email- Send SnapShots");
   Add({"MenuEdit", kAdvanced, "Edit Drawings", "CmdAfunctions2", "edit", "Open Edit Bar", kErasing,
-       [this] { edits_.MenuEdit_Click(); }, NeedsVideo(noMix), [this] { return edits_.Editing(); }});
-  Add({"AddMacro", kAdvanced, "Insert Drawing Macro", "", "", "", kNoButton, [this] { edits_.AddMacro_Click(); },
+       [this] { edits_.ToggleEditBar(); }, NeedsVideo(noMix), [this] { return edits_.Editing(); }});
+  Add({"AddMacro", kAdvanced, "Insert Drawing Macro", "", "", "", kNoButton, [this] { edits_.ToggleMacroForm(); },
        noMix, [this] { return edits_.MacroFormShown(); }});
-  Add({"DTMacro", kAdvanced, "Save Drawing Macro", "", "macro-save", "", kNoButton, [this] { edits_.DTMacro_Click(); },
+  Add({"DTMacro", kAdvanced, "Save Drawing Macro", "", "macro-save", "", kNoButton, [this] { edits_.SaveMacro(); },
        hasVideo});
   Add({"DTClone", kAdvanced, "Clone Drawings", "CmdAfunctions1", "clone", "Clone Drawings", kErasing,
-       [this] { edits_.DTClone_Click(); },
+       [this] { edits_.CloneDrawings(); },
        Needs([this] { return edits_.CanClone(); }, "Needs drawings in the current window and a video in another one")});
-  Add({"TASF", kAdvanced, "Advanced Strobe", "", "advanced-strobe", "", kNoButton, [this] { compare_.TASF_Click(); },
+  Add({"TASF", kAdvanced, "Advanced Strobe", "", "advanced-strobe", "", kNoButton, [this] { compare_.ToggleStrobeForm(); },
        Needs([this] { return HasVideo() || compare_.StrobeShown(); }, "Open a video first"),
        [this] { return compare_.StrobeShown(); }});
   Add({"LockAll", kAdvanced, "Lock All Four Videos", "", "", "", kNoButton, [this] { compare_.Locks().LockAll(); },
@@ -239,7 +239,7 @@ void MenuBar::AddAdvanced() {
              "Needs videos in windows 1 to 4, in a layout of four windows or more"),
        [this] { return compare_.Locks().AllLocked(); }});
   Add({"cmdDualPlay", "", "", "", "lock", "Lock Videos Together", kPicture,
-       [this] { compare_.Locks().cmdDualPlay(); },
+       [this] { compare_.Locks().ToggleLock(); },
        Needs([this] { return compare_.Locks().CanLock(); }, "Needs videos in windows 1 and 2, or 3 and 4, side by side"),
        [this] { return compare_.Locks().IsLocked(workspace_.CurrentWindow); }});
 }
@@ -249,10 +249,10 @@ void MenuBar::AddSetup() {
   const auto unlocked = Needs([this] { return !compare_.Locks().IsLocked(workspace_.CurrentWindow); }, "Unlock the videos first");
   AddComing("mnuDownloadVideos", kSetup, "Download Model Videos");
   Add({"TCal", kSetup, "Calculate Distance for Lines", "CmdAfunctions4", "ruler", "Calibrate Ruler", kMeasuring,
-       [this] { ruler_.TCal_Click(); }, hasVideo, [this] { return ruler_.Shown(); }});
-  Add({"TAGrid", kSetup, "Adjust Grid Size", "", "", "", kNoButton, [this] { edits_.TAGrid_Click(); },
+       [this] { ruler_.ToggleCalibration(); }, hasVideo, [this] { return ruler_.Shown(); }});
+  Add({"TAGrid", kSetup, "Adjust Grid Size", "", "", "", kNoButton, [this] { edits_.ToggleGridPanel(); },
        {}, [this] { return edits_.GridPanelShown(); }});
-  Add({"VidTest", kSetup, "Test Video Display rate", "", "", "", kNoButton, [this] { rateTest_.VidTest_Click(); },
+  Add({"VidTest", kSetup, "Test Video Display rate", "", "", "", kNoButton, [this] { rateTest_.StartRateTest(); },
        NeedsVideo(unlocked), [this] { return rateTest_.Running(); }});
   Add({"MenuReverseFields", kSetup, "Reverse Field Order", "", "", "", kNoButton,
        [this] { workspace_.ToggleReverseFields(); }, hasVideo,

@@ -11,7 +11,7 @@ constexpr const char* kLeaveCarve = "Leave the transparency carve first (Esc)";
 }  // namespace
 
 CompareModes::CompareModes(IHost& host, Settings& settings, PlayScheduler& scheduler, Workspace& workspace,
-                           ICompareView& view, Keys keys)
+                           ICompareView& view)
     : workspace_(workspace),
       view_(view),
       locks_(host, scheduler, workspace),
@@ -19,7 +19,7 @@ CompareModes::CompareModes(IHost& host, Settings& settings, PlayScheduler& sched
       strip_(host, workspace, view),
       carve_(host, workspace, view),
       strobe_(settings, workspace, locks_),
-      zoom_(host, workspace, std::move(keys.down), std::move(keys.press)) {
+      zoom_(host, workspace) {
   const auto entering = [this] {
     if (Entering) Entering();
   };
@@ -75,12 +75,12 @@ void CompareModes::StopWaiting() {
 
 // ---------------------------------------------------------------- windows
 
-void CompareModes::TZP_Click() {
+void CompareModes::ToggleZoomForm() {
   zoomShown_ = !zoomShown_;
   view_.ShowZoomForm(zoomShown_);
 }
 
-void CompareModes::TASF_Click() {
+void CompareModes::ToggleStrobeForm() {
   strobeShown_ = !strobeShown_;
   view_.ShowStrobeForm(strobeShown_);
   if (!strobeShown_) strobe_.SetWindow(nullptr);
@@ -88,13 +88,13 @@ void CompareModes::TASF_Click() {
 
 bool CompareModes::Escape() {
   if (strobe_.StrobeRunning()) {
-    strobe_.StrobeBtn_Click();
+    strobe_.ToggleStrobe();
   } else if (carve_.Shown()) {
-    carve_.TTCarve();
+    carve_.ToggleCarve();
   } else if (overlay_.TransparencyOn()) {
-    overlay_.Closetrans_Click();
+    overlay_.LeaveTransparency();
   } else if (strip_.Shown()) {
-    strip_.smbar_Click();
+    strip_.ToggleStrip();
   } else {
     return false;
   }
@@ -103,8 +103,8 @@ bool CompareModes::Escape() {
 
 bool CompareModes::CloseCards() {
   const bool shown = StrobeShown() || zoomShown_;
-  if (StrobeShown()) TASF_Click();
-  if (zoomShown_) TZP_Click();
+  if (StrobeShown()) ToggleStrobeForm();
+  if (zoomShown_) ToggleZoomForm();
   return shown;
 }
 

@@ -46,13 +46,7 @@ class ICompareView : public IOverlayView, public IMultiPictureView, public ICarv
 /// up at a time. Lock, strobe and zoom work within each, but for what would pull locked videos apart.
 class CompareModes {
  public:
-  /// The keys are those of the workspace; the zoom buttons press them.
-  struct Keys {
-    std::function<void(int KeyCode)> down;
-    std::function<void(int KeyAscii)> press;
-  };
-  CompareModes(IHost& host, Settings& settings, PlayScheduler& scheduler, Workspace& workspace, ICompareView& view,
-               Keys keys);
+  CompareModes(IHost& host, Settings& settings, PlayScheduler& scheduler, Workspace& workspace, ICompareView& view);
 
   LockedVideos& Locks() { return locks_; }
   const LockedVideos& Locks() const { return locks_; }
@@ -63,8 +57,8 @@ class CompareModes {
   ZoomPan& Zoom() { return zoom_; }
 
   /// The zoom window, and the strobe window with its choices.
-  void TZP_Click();
-  void TASF_Click();
+  void ToggleZoomForm();
+  void ToggleStrobeForm();
   bool ZoomShown() const { return zoomShown_; }
   bool StrobeShown() const { return strobeShown_; }
 

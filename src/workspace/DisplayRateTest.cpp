@@ -7,7 +7,7 @@
 
 namespace kinalyx {
 
-void DisplayRateTest::VidTest_Click() {
+void DisplayRateTest::StartRateTest() {
   const int slot = workspace_.CurrentWindow;
   if (!workspace_.HasVideo(slot)) return;
   Stop();

@@ -10,7 +10,7 @@ class DisplayRateTest {
  public:
   DisplayRateTest(IHost& host, Workspace& workspace) : host_(host), workspace_(workspace) {}
 
-  void VidTest_Click();
+  void StartRateTest();
   bool Running() const { return slot_ != 0; }
   /// Ends the test without a result.
   void Stop();

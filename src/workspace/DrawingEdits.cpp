@@ -68,22 +68,22 @@ void DrawingEdits::FramePainted(int slot) {
 
 // ---------------------------------------------------------------- edit bar
 
-void DrawingEdits::ribEBBtn_Click(bool Value) { bar_.ribEBBtn_Click(Value); }
+void DrawingEdits::EditAll(bool Value) { bar_.EditAll(Value); }
 
-void DrawingEdits::cmdEBBtn_MouseDown(int Index, float X, float Y) {
+void DrawingEdits::GrabHandle(int Index, float X, float Y) {
   if (!bar_.Shown() || Dragging() || !SelectedShape(List())) return;
   dragged_ = Index;
-  bar_.cmdEBBtn_MouseDown(Index, kLeftButton, 0, X, Y);
+  bar_.GrabHandle(Index, kLeftButton, 0, X, Y);
 }
 
-void DrawingEdits::cmdEBBtn_MouseMove(float X, float Y) {
-  if (Dragging()) bar_.cmdEBBtn_MouseMove(dragged_, kLeftButton, 0, X, Y);
+void DrawingEdits::DragHandle(float X, float Y) {
+  if (Dragging()) bar_.DragHandle(dragged_, kLeftButton, 0, X, Y);
 }
 
-void DrawingEdits::cmdEBBtn_MouseUp() {
+void DrawingEdits::ReleaseHandle() {
   if (!Dragging()) return;
   const int handle = std::exchange(dragged_, -1);
-  bar_.cmdEBBtn_MouseUp(handle, kLeftButton, 0, 0, 0);
+  bar_.ReleaseHandle(handle, kLeftButton, 0, 0, 0);
 }
 
 /// A point of the picture as the bar would see it within one of its handles: a turn goes about the
@@ -100,25 +100,25 @@ void DrawingEdits::HandlePressed(int Index, POINTAPI at) {
   grip_ = at;
   gripPivot_ = marks->pivot;
   const auto [x, y] = Index == kScaleHandle ? std::pair{0.0f, 0.0f} : InHandle(Index, at);
-  cmdEBBtn_MouseDown(Index, x, y);
+  GrabHandle(Index, x, y);
 }
 
 void DrawingEdits::HandleDragged(POINTAPI at) {
   if (!Dragging()) return;
   if (dragged_ != kScaleHandle) {
     const auto [x, y] = InHandle(dragged_, at);
-    cmdEBBtn_MouseMove(x, y);
+    DragHandle(x, y);
     return;
   }
   // So far along the bar's drag that the selection grows as the handle gets away from the pivot.
   const double whole = std::max(1.0f, Distance(gripPivot_, grip_));
-  cmdEBBtn_MouseMove(0, static_cast<float>(kTwipsToDouble * (1 - Distance(gripPivot_, at) / whole)));
+  DragHandle(0, static_cast<float>(kTwipsToDouble * (1 - Distance(gripPivot_, at) / whole)));
 }
 
 void DrawingEdits::Nudge(int dx, int dy) {
-  cmdEBBtn_MouseDown(kMoveHandle, 0, 0);
-  cmdEBBtn_MouseMove(static_cast<float>(dx * kTwipsPerPixel), static_cast<float>(dy * kTwipsPerPixel));
-  cmdEBBtn_MouseUp();
+  GrabHandle(kMoveHandle, 0, 0);
+  DragHandle(static_cast<float>(dx * kTwipsPerPixel), static_cast<float>(dy * kTwipsPerPixel));
+  ReleaseHandle();
 }
 
 // ---------------------------------------------------------------- undo
@@ -143,9 +143,9 @@ void DrawingEdits::TellOfMacroFiles() {
   if (const std::string notice = macros_.TakeNotice(); !notice.empty()) host_.Message(MessageKind::Warning, "Drawing macros", notice);
 }
 
-void DrawingEdits::DTMacro_Click() {
+void DrawingEdits::SaveMacro() {
   // What is under construction ends before it is copied.
-  tools_.DrawOffBtn_Click();
+  tools_.PutToolDown();
   const auto name = view_.AskMacroName(List());
   if (!name || name->empty()) return;
   LoadMacros();
@@ -156,7 +156,7 @@ void DrawingEdits::DTMacro_Click() {
   if (macroFormShown_) view_.FillMacroList(macros_.MacroNames(), macros_.IndexOf(*name));
 }
 
-void DrawingEdits::AddMacro_Click() {
+void DrawingEdits::ToggleMacroForm() {
   macroFormShown_ = !macroFormShown_;
   if (macroFormShown_) {
     LoadMacros();
@@ -165,20 +165,20 @@ void DrawingEdits::AddMacro_Click() {
   view_.ShowMacroForm(macroFormShown_);
 }
 
-void DrawingEdits::MacroBtn_Click(int Index) {
+void DrawingEdits::InsertMacro(int Index) {
   if (Index < 0 || Index >= macros_.NumMacros() || !HasVideo() || Dragging()) return;
   EmbedMacro(macros_.Macro(Index), tools_, drawing_);
   bar_.EditWhole();
 }
 
-void DrawingEdits::cmdInfo_Click(int Index) {
+void DrawingEdits::ShowMacroInfo(int Index) {
   if (Index < 0 || Index >= macros_.NumMacros()) return;
   const std::string info = macros_.Info(Index);
   host_.Message(MessageKind::Information, macros_.MacroNames()[static_cast<std::size_t>(Index)],
                 info.empty() ? "This macro holds no drawings." : info);
 }
 
-void DrawingEdits::SSCommand1_Click(int Index) {
+void DrawingEdits::DeleteMacro(int Index) {
   if (Index < 0 || Index >= macros_.NumMacros()) return;
   const std::string name = macros_.MacroNames()[static_cast<std::size_t>(Index)];
   if (!host_.Question("Remove macro", "Remove the macro \"" + name + "\"?")) return;
@@ -195,13 +195,13 @@ void DrawingEdits::SSCommand1_Click(int Index) {
 
 // ---------------------------------------------------------------- grid and clone
 
-void DrawingEdits::TAGrid_Click() {
+void DrawingEdits::ToggleGridPanel() {
   gridPanelShown_ = !gridPanelShown_;
   view_.ShowGridPanel(gridPanelShown_);
 }
 
-void DrawingEdits::GridSizeClose_Click() {
-  if (gridPanelShown_) TAGrid_Click();
+void DrawingEdits::CloseGridPanel() {
+  if (gridPanelShown_) ToggleGridPanel();
 }
 
 /// A window that stands alone is one of a layout, which comes back before anything is copied.
@@ -220,7 +220,7 @@ bool DrawingEdits::CanClone() const {
   return HasVideo() && tools_.HasShapes(workspace_.CurrentWindow) && !CloneTargets().empty();
 }
 
-void DrawingEdits::DTClone_Click() {
+void DrawingEdits::CloneDrawings() {
   if (!CanClone()) return;
   // The copy is to be seen: a window that is hidden comes back first.
   if (workspace_.Alone()) workspace_.ComeHome();
@@ -239,7 +239,7 @@ void DrawingEdits::DTClone_Click() {
 
 // ---------------------------------------------------------------- keys
 
-bool DrawingEdits::Form_KeyDown(int KeyCode, int Shift) {
+bool DrawingEdits::PressKey(int KeyCode, int Shift) {
   if (Shift & kCtrl) {
     if (KeyCode == 'Z') Shift & kShift ? Redo() : Undo();
     if (KeyCode == 'Y') Redo();
@@ -247,7 +247,7 @@ bool DrawingEdits::Form_KeyDown(int KeyCode, int Shift) {
   }
   if (!bar_.Shown() || tools_.Drawing()) return false;
   const auto press = [this](int handle) {
-    if (!Dragging() && view_.HandleEnabled(handle)) bar_.cmdEBBtn_Click(handle);
+    if (!Dragging() && view_.HandleEnabled(handle)) bar_.UseHandle(handle);
     return true;
   };
   if (KeyCode == kKeyTab) return press(kNextHandle);
@@ -264,21 +264,21 @@ bool DrawingEdits::Form_KeyDown(int KeyCode, int Shift) {
 
 void DrawingEdits::PutAway() {
   if (bar_.Shown()) EndEdit();
-  if (macroFormShown_) AddMacro_Click();
+  if (macroFormShown_) ToggleMacroForm();
 }
 
 void DrawingEdits::EndEdit() {
-  cmdEBBtn_MouseUp();
-  bar_.cmdEBBtn_Click(kEndHandle);
+  ReleaseHandle();
+  bar_.UseHandle(kEndHandle);
 }
 
 bool DrawingEdits::Escape() {
   if (bar_.Shown()) {
     EndEdit();
   } else if (gridPanelShown_) {
-    TAGrid_Click();
+    ToggleGridPanel();
   } else if (macroFormShown_) {
-    AddMacro_Click();
+    ToggleMacroForm();
   } else {
     return false;
   }
@@ -288,7 +288,7 @@ bool DrawingEdits::Escape() {
 // ---------------------------------------------------------------- from the workspace
 
 void DrawingEdits::FocusChanged() {
-  cmdEBBtn_MouseUp();
+  ReleaseHandle();
   bar_.MoveEditBar();
   ShowSelection();
 }

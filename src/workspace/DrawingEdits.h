@@ -55,17 +55,17 @@ class DrawingEdits {
 
   // --- edit bar
   bool Editing() const { return bar_.Shown(); }
-  void MenuEdit_Click() { bar_.MenuEdit_Click(); }
-  void cmdEBBtn_Click(int Index) { bar_.cmdEBBtn_Click(Index); }
-  void ribEBBtn_Click(bool Value);
+  void ToggleEditBar() { bar_.ToggleEditBar(); }
+  void UseHandle(int Index) { bar_.UseHandle(Index); }
+  void EditAll(bool Value);
   /// The left button on a handle of the bar, in twips of the handle, 15 to a pixel of the picture.
-  void cmdEBBtn_MouseDown(int Index, float X, float Y);
-  void cmdEBBtn_MouseMove(float X, float Y);
-  void cmdEBBtn_MouseUp();
+  void GrabHandle(int Index, float X, float Y);
+  void DragHandle(float X, float Y);
+  void ReleaseHandle();
   /// The same on a handle that lies on the picture, in its pixels: the selection follows the mouse.
   void HandlePressed(int Index, POINTAPI at);
   void HandleDragged(POINTAPI at);
-  void HandleReleased() { cmdEBBtn_MouseUp(); }
+  void HandleReleased() { ReleaseHandle(); }
   bool Dragging() const { return dragged_ >= 0; }
   /// Moves the selection by pixels.
   void Nudge(int dx, int dy);
@@ -79,31 +79,31 @@ class DrawingEdits {
   void Redo();
 
   // --- macros
-  void DTMacro_Click();
+  void SaveMacro();
   /// Opens the list of macros, or closes it.
-  void AddMacro_Click();
+  void ToggleMacroForm();
   bool MacroFormShown() const { return macroFormShown_; }
   /// Lays a macro over the current window, where all its shapes are edited as one.
-  void MacroBtn_Click(int Index);
-  void cmdInfo_Click(int Index);
+  void InsertMacro(int Index);
+  void ShowMacroInfo(int Index);
   /// Removes a macro after a question.
-  void SSCommand1_Click(int Index);
+  void DeleteMacro(int Index);
 
   // --- grid and clone
-  void TAGrid_Click();
-  void GridSizeClose_Click();
+  void ToggleGridPanel();
+  void CloseGridPanel();
   bool GridPanelShown() const { return gridPanelShown_; }
   bool GridOn() const { return tools_.Engine().ShapeLists(workspace_.CurrentWindow).GridOn; }
-  void ribShowGrid_MouseDown() { tools_.SetGridMode(!GridOn()); }
-  void HScroll3_Change(int Value) { tools_.SetGridSize(Value); }
-  void DTClone_Click();
+  void ToggleGrid() { tools_.SetGridMode(!GridOn()); }
+  void SetGridSize(int Value) { tools_.SetGridSize(Value); }
+  void CloneDrawings();
   /// There is something to copy, and another window of the layout with a video for it.
   bool CanClone() const;
 
   // --- keys
   /// Ctrl+Z, Ctrl+Shift+Z and Ctrl+Y; and while the bar is up Tab, Delete, and Shift with an arrow.
   /// Shift is 1, Ctrl 2. True when the key was one of these.
-  bool Form_KeyDown(int KeyCode, int Shift);
+  bool PressKey(int KeyCode, int Shift);
   /// Leaves the edit, or closes a panel, the innermost first; false when there is nothing to leave.
   bool Escape();
   /// Ends the edit and closes the list of macros, whose drawings are edited as they are laid.

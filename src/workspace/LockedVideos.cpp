@@ -166,7 +166,7 @@ bool LockedVideos::CanLock() const {
   return workspace_.HasVideo(slot) && workspace_.HasVideo(partner);
 }
 
-bool LockedVideos::cmdDualPlay() {
+bool LockedVideos::ToggleLock() {
   if (!CanLock()) return false;
   const int slot = workspace_.CurrentWindow;
   if (IsLocked(slot)) {
@@ -234,9 +234,9 @@ void LockedVideos::Tell() {
 
 // ---------------------------------------------------------------- moving
 
-void LockedVideos::DualControl_Click(int Index) {
-  if (Index == 0 || Index == 1) DualControlStep(Index == 1);
-  if (Index == 2) DualControlRewind();
+void LockedVideos::MoveTogether(DualMove move) {
+  if (move == DualMove::Rewind) DualControlRewind();
+  else DualControlStep(move == DualMove::Forward);
   host_.DoEvents();
 }
 

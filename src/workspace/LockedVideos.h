@@ -12,6 +12,9 @@
 
 namespace kinalyx {
 
+/// The dual controls, by the index of their buttons in `DualControl`.
+enum class DualMove { Back = 0, Forward = 1, Rewind = 2 };
+
 /// Holds videos together from the positions at which they stand: slots 1 and 2, slots 3 and 4, or all
 /// four. The distance between the positions is the synchronisation that the user chose; whatever moves
 /// locked videos together keeps it to the frame.
@@ -36,7 +39,7 @@ class LockedVideos {
   void DualUnlock(int slot);
   /// Locks the pair of the current window, or unlocks what holds it. False when it has no pair, one of
   /// the two is empty, or the layout shows a single window.
-  bool cmdDualPlay();
+  bool ToggleLock();
   /// The same for all four, in a layout that shows them.
   bool LockAll();
   /// Whether cmdDualPlay or LockAll would do something.
@@ -59,8 +62,8 @@ class LockedVideos {
 
   // --- moving
 
-  /// 0 back one frame, 1 forward one frame, 2 rewind.
-  void DualControl_Click(int Index);
+  /// Moves the videos of the lock as one of the dual controls says.
+  void MoveTogether(DualMove move);
   /// Moves the videos locked with the current window one position. At an end of the lock nothing moves.
   /// A current window without a lock steps alone.
   void DualControlStep(bool Forward);

@@ -8,8 +8,6 @@
 namespace kinalyx {
 namespace {
 
-constexpr double kPanStep = 50;  // twips
-constexpr double kZoomStep = 0.1;
 
 }  // namespace
 
@@ -55,12 +53,12 @@ void MenuBar::SetProfilesTitle(const std::string& title) {
 
 bool MenuBar::PreparetoExit() {
   compare_.CloseAll();
-  if (ruler_.Shown()) ruler_.CalibBtn_Click(1);
-  if (tools_.Drawing()) tools_.DrawOffBtn_Click();
+  ruler_.CancelCalibration();
+  if (tools_.Drawing()) tools_.PutToolDown();
   edits_.CloseAll();
   notes_.Close();
   timer_.Close();
-  return workspace_.MnuCloseAll_Click();
+  return workspace_.CloseAll();
 }
 
 // ---------------------------------------------------------------- keys
@@ -75,9 +73,9 @@ void MenuBar::Escape() {
   if (rateTest_.Running()) {
     rateTest_.Stop();
   } else if (ruler_.Shown()) {
-    ruler_.CalibBtn_Click(1);
+    ruler_.CancelCalibration();
   } else if (tools_.Drawing()) {
-    tools_.DrawOffBtn_Click();
+    tools_.PutToolDown();
   } else if (edits_.Escape()) {
     // The edit bar or one of its panels has gone.
   } else if (compare_.Escape()) {
@@ -91,7 +89,7 @@ void MenuBar::Escape() {
   } else if (compare_.CloseCards()) {
     // a strobe or zoom card has gone
   } else if (workspace_.Maximized()) {
-    workspace_.TMAX_Click();
+    workspace_.ToggleMaximize();
   } else {
     Run("MnuCloseAll");
     return;
@@ -99,8 +97,8 @@ void MenuBar::Escape() {
   view_.CommandsChanged();
 }
 
-bool MenuBar::Form_KeyDown(int KeyCode, int Shift) {
-  if (edits_.Form_KeyDown(KeyCode, Shift)) {
+bool MenuBar::PressKey(int KeyCode, int Shift) {
+  if (edits_.PressKey(KeyCode, Shift)) {
     view_.CommandsChanged();
     return true;
   }
@@ -117,10 +115,10 @@ bool MenuBar::Form_KeyDown(int KeyCode, int Shift) {
     return true;
   }
   switch (KeyCode) {
-    case kKeyRight: transport_.vn_Click(); return true;
-    case kKeyLeft: transport_.vp_Click(); return true;
-    case kKeyUp: transport_.cmdREwind(); return true;
-    case kKeyDown: transport_.cmdPlay(); return true;
+    case kKeyRight: transport_.StepForward(); return true;
+    case kKeyLeft: transport_.StepBack(); return true;
+    case kKeyUp: transport_.Rewind(); return true;
+    case kKeyDown: transport_.TogglePlay(); return true;
     case kKeyHome: Run("VLib"); return true;
     case kKeyEnd: Run("EKTMM"); return true;
     case kKeyPageUp: Run("CG"); return true;
@@ -141,7 +139,7 @@ bool MenuBar::Form_KeyDown(int KeyCode, int Shift) {
   }
 }
 
-bool MenuBar::Form_KeyPress(int KeyAscii) {
+bool MenuBar::PressLetter(int KeyAscii) {
   const double zoom = workspace_.Current().VideoZoom;
   switch (KeyAscii >= 0 && KeyAscii < 128 ? std::toupper(KeyAscii) : 0) {
     case 'Y': workspace_.Pan(0, -kPanStep); return true;
@@ -152,8 +150,8 @@ bool MenuBar::Form_KeyPress(int KeyAscii) {
     case 'F': Run("vFlip"); return true;
     case 'Z': Run("MZoom"); return true;
     case 'O': Run("vo"); return true;
-    case 'P': transport_.cmdPlay(); return true;
-    case 'R': transport_.cmdREwind(); return true;
+    case 'P': transport_.TogglePlay(); return true;
+    case 'R': transport_.Rewind(); return true;
     case 'L': Run("vloop"); return true;
     case 'S': Run("vs"); return true;
     case 'C': Run("MnuClose"); return true;

@@ -81,9 +81,9 @@ class MenuBar {
 
   /// Keys of the workspace that are no text; in Shift 1 is Shift and 2 Ctrl. True when the key was one of
   /// its own.
-  bool Form_KeyDown(int KeyCode, int Shift);
+  bool PressKey(int KeyCode, int Shift);
   /// Letters, in either case.
-  bool Form_KeyPress(int KeyAscii);
+  bool PressLetter(int KeyAscii);
 
  private:
   void AddGoTo();

@@ -31,7 +31,7 @@ TwipRect MultiPicture::Cell(int panelWidth, int panelHeight, bool wide) {
 
 bool MultiPicture::CanShow() const { return shown_ || workspace_.HasVideo(workspace_.CurrentWindow); }
 
-void MultiPicture::smbar_Click() {
+void MultiPicture::ToggleStrip() {
   if (shown_) {
     workspace_.ComeHome();
   } else if (CanShow()) {
@@ -107,10 +107,12 @@ void MultiPicture::setSkipBox(const std::string& text) {
   if (shown_) InitialMF();
 }
 
-void MultiPicture::MPicBtn_Click(int Index) {
+void MultiPicture::LeaveStrip() {
+  if (shown_) workspace_.ComeHome();
+}
+
+void MultiPicture::CarveNew() {
   if (!shown_) return;
-  if (Index == 1) return workspace_.ComeHome();
-  if (Index != 0) return;
   host_.Message(MessageKind::Information, "",
                 "\"New Carve\" Active. Click on the video to draw a square around the area that you want to create a "
                 "MultiPicture.");

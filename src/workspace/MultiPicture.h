@@ -39,7 +39,7 @@ class MultiPicture {
   MultiPicture(IHost& host, Workspace& workspace, IMultiPictureView& view);
 
   /// Enters or leaves the mode. An empty current window is refused.
-  void smbar_Click();
+  void ToggleStrip();
   bool Shown() const { return shown_; }
   bool CanShow() const;
 
@@ -56,8 +56,10 @@ class MultiPicture {
   void setSkipBox(const std::string& text);
   int Skip() const { return skip_; }
 
-  /// 0 "Carve new MultiPicture": waits for a square on the video. 1 "Close MultiPicture".
-  void MPicBtn_Click(int Index);
+  /// "Carve new MultiPicture": waits for a square on the video.
+  void CarveNew();
+  /// "Close MultiPicture". Nothing while the mode is not up.
+  void LeaveStrip();
   bool WaitingForSquare() const { return waiting_; }
   /// The tool for the square was put down, or the mouse is wanted for something else.
   void StopWaiting() { waiting_ = false; }

@@ -26,9 +26,9 @@ AVIControl* Overlay::Player(int window) { return workspace_.HasVideo(window) ? &
 
 bool Overlay::CanShow() const { return on_ || (workspace_.HasVideo(1) && workspace_.HasVideo(2)); }
 
-void Overlay::STM_Click() {
+void Overlay::ToggleTransparency() {
   if (on_) {
-    Closetrans_Click();
+    LeaveTransparency();
   } else if (CanShow()) {
     Enter();
   }
@@ -49,7 +49,7 @@ void Overlay::Enter() {
   CMDDISAct();
 }
 
-void Overlay::Closetrans_Click() {
+void Overlay::LeaveTransparency() {
   if (on_) workspace_.ComeHome();
 }
 
@@ -147,7 +147,7 @@ void Overlay::SetOption(ShowOption option) {
   guard_ = false;
 }
 
-void Overlay::TransScroll_Scroll(int value) {
+void Overlay::SlideMix(int value) {
   if (guard_ || option_ == ShowOption::SplitScreen) return;
   walk_.Stop();
   mix_ = TransTarget_ = std::clamp(value, 0, kFull);
@@ -157,13 +157,12 @@ void Overlay::TransScroll_Scroll(int value) {
   Refresh();
 }
 
-void Overlay::TransScroll_Change(int value) {
-  if (value != mix_) TransScroll_Scroll(value);
+void Overlay::SetMix(int value) {
+  if (value != mix_) SlideMix(value);
 }
 
-void Overlay::OptShow_Click(int Index) {
-  if (guard_ || Index < 0 || Index > 3) return;
-  const auto option = static_cast<ShowOption>(Index);
+void Overlay::Show(ShowOption option) {
+  if (guard_) return;
   const bool wasSplit = option_ == ShowOption::SplitScreen;
   const bool split = option == ShowOption::SplitScreen;
   if (split != wasSplit) BeginDissolve();
@@ -204,11 +203,11 @@ void Overlay::BeginDissolve() {
 
 // ---------------------------------------------------------------- each video by itself
 
-void Overlay::Control(int window, int Index) {
+void Overlay::ControlVideo(int window, VideoControl control) {
   AVIControl* player = Player(window);
   if (!player) return;
   locks_.StopTogether();
-  switch (static_cast<VideoControl>(Index)) {
+  switch (control) {
     case VideoControl::Rewind: GoTo(*player, 0); break;
     case VideoControl::Back: StepBy(*player, -1); break;
     case VideoControl::Play: TogglePlay(*player); break;
@@ -220,7 +219,7 @@ void Overlay::Control(int window, int Index) {
   Refresh();
 }
 
-void Overlay::Seek(int window, int value) {
+void Overlay::SeekVideo(int window, int value) {
   if (!guard_ && Player(window)) locks_.Seek(window, value);
 }
 

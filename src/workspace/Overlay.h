@@ -40,8 +40,8 @@ class Overlay {
   Overlay(IHost& host, Settings& settings, Workspace& workspace, LockedVideos& locks, IOverlayView& view);
 
   /// Enters or leaves the mode, which has windows 1 and 2 side by side underneath.
-  void STM_Click();
-  void Closetrans_Click();
+  void ToggleTransparency();
+  void LeaveTransparency();
   bool TransparencyOn() const { return on_; }
   /// There is something to mix: both windows hold a video, or the mode is up.
   bool CanShow() const;
@@ -65,19 +65,17 @@ class Overlay {
   /// 0 all of video 1 to 255 all of video 2.
   int TransScroll() const { return mix_; }
   /// The user moves the slider: a slide ends, and the option buttons follow.
-  void TransScroll_Scroll(int value);
+  void SlideMix(int value);
   /// The slider has another value; what it set itself is no news.
-  void TransScroll_Change(int value);
+  void SetMix(int value);
   /// Slides to a preset, or dissolves into the split screen and back.
-  void OptShow_Click(int Index);
+  void Show(ShowOption option);
   ShowOption Shown() const { return option_; }
 
   // --- each video by itself
-  void VidCtlBtn_Click(int Index) { Control(1, Index); }
-  void VidCtlBtn2_Click(int Index) { Control(2, Index); }
+  void ControlVideo(int window, VideoControl control);
   /// Seeks a window's video; locked videos come along.
-  void HScroll1_Scroll(int value) { Seek(1, value); }
-  void HScroll2_Scroll(int value) { Seek(2, value); }
+  void SeekVideo(int window, int value);
 
   // --- from the players and the workspace
   /// A picture of a slot was shown. The mix follows at the next turn of the event loop, once for both
@@ -103,8 +101,6 @@ class Overlay {
   void BeginDissolve();
   void SetOption(ShowOption option);
   void ShowControls();
-  void Control(int window, int Index);
-  void Seek(int window, int value);
   void Enter();
   /// The stage is lost.
   void Leave();

@@ -4,15 +4,15 @@
 
 namespace kinalyx {
 
-void RulerCalibration::TCal_Click() {
+void RulerCalibration::ToggleCalibration() {
   if (shown_) {
-    CalibBtn_Click(1);
+    CancelCalibration();
     return;
   }
   shown_ = true;
   Label4_.clear();
   view_.ShowCalibration(true);
-  if (!tools_.Drawing() || tools_.DrawKind() != kLine) tools_.CmdMakeShape_Click(kLine);
+  if (!tools_.Drawing() || tools_.DrawKind() != kLine) tools_.TakeTool(kLine);
 }
 
 void RulerCalibration::ShowLength(const std::string& length) {
@@ -23,23 +23,29 @@ void RulerCalibration::ShowLength(const std::string& length) {
   view_.SetCalibrationLength(length);
 }
 
-void RulerCalibration::CalibBtn_Click(int Index, double typed, LengthUnit input, LengthUnit output) {
+void RulerCalibration::Calibrate(double typed, LengthUnit input, LengthUnit output) {
   if (!shown_) return;
-  if (Index == 0) {
-    const auto pixels = ReadInt32(Label4_);
-    settings_.Set(settings_.CalibNumber, pixels);
-    if (const auto scale = PixelsPerInch(pixels, typed, input)) {
-      settings_.Set(settings_.CalibNumberOut, *scale);
-      settings_.Set(settings_.CalibWidth, width_);
-      settings_.Set(settings_.CalibHeight, height_);
-    }
-    settings_.Set(settings_.CalibInput, input);
-    settings_.Set(settings_.CalibOutput, output);
+  const auto pixels = ReadInt32(Label4_);
+  settings_.Set(settings_.CalibNumber, pixels);
+  if (const auto scale = PixelsPerInch(pixels, typed, input)) {
+    settings_.Set(settings_.CalibNumberOut, *scale);
+    settings_.Set(settings_.CalibWidth, width_);
+    settings_.Set(settings_.CalibHeight, height_);
   }
+  settings_.Set(settings_.CalibInput, input);
+  settings_.Set(settings_.CalibOutput, output);
+  Close();
+}
+
+void RulerCalibration::CancelCalibration() {
+  if (shown_) Close();
+}
+
+void RulerCalibration::Close() {
   shown_ = false;
   Label4_.clear();
   // A line that is still being drawn goes with the tool.
-  tools_.DrawOffBtn_Click();
+  tools_.PutToolDown();
   tools_.RemoveMeasuringLine();
   tools_.DropMeasure();
   view_.ShowCalibration(false);

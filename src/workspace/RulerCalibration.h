@@ -16,19 +16,22 @@ class RulerCalibration {
       : settings_(settings), tools_(tools), drawing_(drawing), view_(view) {}
 
   /// Opens the panel and takes up the line tool.
-  void TCal_Click();
+  void ToggleCalibration();
   bool Shown() const { return shown_; }
   /// The measuring line has this length: "123.4pts"; empty when there is none any more.
   void ShowLength(const std::string& length);
 
-  /// 0 stores the calibration, 1 leaves it as it was. Either way the measuring line goes, the tool ends
-  /// and the panel closes; a drawing that was there before may be measured too, and stays. A length of 0
-  /// stores everything but the scale.
+  /// Stores the calibration and closes the panel. The measuring line goes and the tool ends; a drawing that
+  /// was there before may be measured too, and stays. A length of 0 stores everything but the scale.
   /// @param typed   the known length in the unit `input`
   /// @param output  the unit of the display
-  void CalibBtn_Click(int Index, double typed = 0, LengthUnit input = kFeet, LengthUnit output = kFeet);
+  void Calibrate(double typed, LengthUnit input, LengthUnit output);
+  /// Closes the panel in the same way and leaves the calibration as it was. Nothing when it is not shown.
+  void CancelCalibration();
 
  private:
+  void Close();
+
   Settings& settings_;
   DrawingTools& tools_;
   IDrawingWorkspace& drawing_;

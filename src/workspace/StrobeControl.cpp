@@ -61,17 +61,17 @@ void StrobeControl::ResetStrobe() {
   ShowResult();
 }
 
-void StrobeControl::ESlider_Change(int value) {
+void StrobeControl::SeekTo(int value) {
   AVIControl* player = Player();
   if (!player || value == player->Position()) return;
   Stop();
   locks_.Seek(workspace_.CurrentWindow, value);
 }
 
-void StrobeControl::SSCommand1_Click(int Index) {
+void StrobeControl::PressButton(StrobeButton button) {
   AVIControl* player = Player();
   if (!player) return;
-  switch (static_cast<StrobeButton>(Index)) {
+  switch (button) {
     case StrobeButton::Start:
       StartFrame_ = RawFrame(*player);
       Caption(StrobeButton::Start, StrobeCaption::StartAt, player->CurrentFrame());
@@ -93,7 +93,7 @@ void StrobeControl::SSCommand1_Click(int Index) {
   }
 }
 
-void StrobeControl::Combo1_Click(int ListIndex) {
+void StrobeControl::ChooseStep(int ListIndex) {
   if (ListIndex >= 0 && ListIndex < kSteps) settings_.Set(settings_.StrobeStep, ListIndex + 1);
 }
 
@@ -108,7 +108,7 @@ std::string StrobeControl::Obstacle() const {
   return {};
 }
 
-void StrobeControl::StrobeBtn_Click() {
+void StrobeControl::ToggleStrobe() {
   if (StrobeRunning()) return Stop();
   if (Obstacle().empty()) Run(RawFrame(*Player()), RawFrame(*Player()));
 }

@@ -48,19 +48,19 @@ class StrobeControl {
   std::string Obstacle() const;
   /// Quick strobe of the current video from its current frame to its end; while a strobe is running,
   /// stops that instead. Nothing happens where there is an obstacle.
-  void StrobeBtn_Click();
+  void ToggleStrobe();
   bool StrobeRunning() const { return running_ != 0; }
   /// A strobe has begun or ended, however it did.
   std::function<void()> RunningChanged = [] {};
   /// Forgets start and end and stops a running strobe.
   void ResetStrobe();
   /// Seeks the current video, and those locked with it.
-  void ESlider_Change(int value);
-  /// 0 takes the current frame as the start, 1 as the end; 2 strobes from start to end or stops. An end
+  void SeekTo(int value);
+  /// Takes the current frame as the start or as the end; or strobes from start to end, or stops. An end
   /// before the start is refused, and what has an obstacle; without an end it strobes to the last frame.
-  void SSCommand1_Click(int Index);
+  void PressButton(StrobeButton button);
   /// Chooses the step by its place in the list, and keeps it as a setting.
-  void Combo1_Click(int ListIndex);
+  void ChooseStep(int ListIndex);
 
   /// Frames between two layers, at least 1.
   int StrobeStep() const;

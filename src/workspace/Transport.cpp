@@ -33,24 +33,24 @@ AVIControl* Transport::Player() {
   return workspace_.HasVideo(workspace_.CurrentWindow) ? &workspace_.MP(workspace_.CurrentWindow) : nullptr;
 }
 
-void Transport::cmdPlay() {
+void Transport::TogglePlay() {
   if (AVIControl* player = Locked() ? nullptr : Player()) {
     view_.SetPlayPicture(!player->IsPlaying());
-    TogglePlay(*player);
+    kinalyx::TogglePlay(*player);
   }
   view_.FocusKeyBox();
 }
 
-void Transport::cmdREwind() {
+void Transport::Rewind() {
   if (AVIControl* player = Locked() ? nullptr : Player()) GoTo(*player, 0);
   view_.FocusKeyBox();
 }
 
-void Transport::vn_Click() {
+void Transport::StepForward() {
   if (AVIControl* player = Locked() ? nullptr : Player()) StepBy(*player, 1);
 }
 
-void Transport::vp_Click() {
+void Transport::StepBack() {
   if (AVIControl* player = Locked() ? nullptr : Player()) StepBy(*player, -1);
 }
 
@@ -65,7 +65,7 @@ void Transport::StepPressed(bool forward, float x) {
   if (Locked()) {
     locks_.DualControlStep(forward);
   } else {
-    forward ? vn_Click() : vp_Click();
+    forward ? StepForward() : StepBack();
   }
   FRtimer_ = HostTimer(host_, kRepeatDelay, false,
                        [this] { FRtimer_ = HostTimer(host_, kRepeatInterval, true, [this] { HeldStep(); }); });
@@ -110,27 +110,27 @@ bool Transport::AllLooping() const {
   return any;
 }
 
-void Transport::TLAV_Click() {
+void Transport::ToggleLoopAll() {
   const bool on = !AllLooping();
   for (int slot = 1; slot <= kSlots; ++slot)
     if (CanLoop(slot)) SetLoop(workspace_.MP(slot), on);
   ShowCurrent();
 }
 
-void Transport::TMark_Click() {
+void Transport::AddMark() {
   Slot& slot = workspace_.Current();
   if (slot.path.empty() || slot.marks.size() >= kMarks) return;
   slot.marks.push_back(slot.MP->Position());
   view_.SetMarks(slot.marks);
 }
 
-void Transport::Mark_Click(int n) {
+void Transport::GoToMark(int n) {
   const Slot& slot = workspace_.Current();
   if (n < 0 || n >= static_cast<int>(slot.marks.size())) return;
   Seek(slot.marks[static_cast<std::size_t>(n)]);
 }
 
-void Transport::TMarkoff_Click() {
+void Transport::ClearMarks() {
   workspace_.Current().marks.clear();
   view_.SetMarks({});
 }

@@ -17,10 +17,10 @@ class Transport {
   Transport(IHost& host, Settings& settings, Workspace& workspace, LockedVideos& locks, IWorkspaceView& view);
 
   /// Play or pause. At the last position or the one before, it plays from the start.
-  void cmdPlay();
-  void cmdREwind();
-  void vn_Click();  ///< one position on
-  void vp_Click();  ///< one position back
+  void TogglePlay();
+  void Rewind();
+  void StepForward();  ///< one position on
+  void StepBack();  ///< one position back
   /// Shows a position of the current video; the position that is shown already is left alone.
   void Seek(int position);
 
@@ -34,14 +34,14 @@ class Transport {
   void ToggleSlomo();
   void ToggleLoop();
   /// Loops every video of the layout; when all of them loop already, stops them.
-  void TLAV_Click();
+  void ToggleLoopAll();
   bool AllLooping() const;
 
   /// Keeps the present position as a mark; the eleventh of a slot is refused.
-  void TMark_Click();
+  void AddMark();
   /// Goes to mark `n`, from 0.
-  void Mark_Click(int n);
-  void TMarkoff_Click();
+  void GoToMark(int n);
+  void ClearMarks();
 
   /// Writes `text` over the picture, or with "" clears it and writes the transport's line.
   void DisplayData(const std::string& text);

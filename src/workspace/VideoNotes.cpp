@@ -11,7 +11,7 @@ constexpr int kHeight = 150 * kTwipsPerPixel;
 
 VideoNotes::VideoNotes(Workspace& workspace, IWorkspaceView& view) : workspace_(workspace), view_(view) {}
 
-void VideoNotes::TN_Click() {
+void VideoNotes::ToggleNotes() {
   if (Shown()) {
     Close();
     return;
@@ -45,7 +45,7 @@ void VideoNotes::Close() {
   workspace_.FormReset();
 }
 
-void VideoNotes::NotesBox_Change(const std::string& text) {
+void VideoNotes::TakeNotes(const std::string& text) {
   if (Shown()) workspace_.SetNotes(slot_, text);
 }
 

@@ -12,7 +12,7 @@ class VideoNotes {
   VideoNotes(Workspace& workspace, IWorkspaceView& view);
 
   /// Opens the panel, or closes it.
-  void TN_Click();
+  void ToggleNotes();
   /// Places the open panel at the current video and shows its notes. It stays for the next video of its
   /// window, and closes with the last.
   void SetupNotesPnl();
@@ -22,7 +22,7 @@ class VideoNotes {
   int FootHeight(int slot, int height) const;
 
   /// The text was changed by the user.
-  void NotesBox_Change(const std::string& text);
+  void TakeNotes(const std::string& text);
 
  private:
   Workspace& workspace_;

@@ -12,7 +12,7 @@ namespace kinalyx {
 VideoTimer::VideoTimer(Workspace& workspace, Transport& transport, IWorkspaceView& view)
     : workspace_(workspace), transport_(transport), view_(view) {}
 
-void VideoTimer::TVT_Click() {
+void VideoTimer::ToggleTimer() {
   shown_ = !shown_;
   transport_.ShowFrameCounter = shown_;
   view_.ShowVideoTimer(shown_);
@@ -21,7 +21,7 @@ void VideoTimer::TVT_Click() {
 }
 
 void VideoTimer::Close() {
-  if (shown_) TVT_Click();
+  if (shown_) ToggleTimer();
 }
 
 double VideoTimer::Rate(int slot) const {
@@ -45,7 +45,7 @@ void VideoTimer::UpdateTimer() {
   view_.SetVideoTimer(reading, reading.starts_with('-'), fmt::format("{:.6g}", Rate(slot)));
 }
 
-void VideoTimer::txtFRBox_Change(const std::string& text) {
+void VideoTimer::TakeRate(const std::string& text) {
   std::string number = text;
   std::ranges::replace(number, ',', '.');
   const double rate = ReadNumber(number);
@@ -53,7 +53,7 @@ void VideoTimer::txtFRBox_Change(const std::string& text) {
   UpdateTimer();
 }
 
-void VideoTimer::VideoTimerBtn_Click() {
+void VideoTimer::SetZero() {
   const int slot = workspace_.CurrentWindow;
   if (!workspace_.HasVideo(slot)) return;
   TimerZero_[static_cast<std::size_t>(slot)] = Seconds(slot);

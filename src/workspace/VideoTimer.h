@@ -14,7 +14,7 @@ class VideoTimer {
   VideoTimer(Workspace& workspace, Transport& transport, IWorkspaceView& view);
 
   /// Opens the timer, or closes it.
-  void TVT_Click();
+  void ToggleTimer();
   void Close();
   bool Shown() const { return shown_; }
 
@@ -22,9 +22,9 @@ class VideoTimer {
   void UpdateTimer();
   /// Takes the rate of the current slot from its box, positions per second; what is no rate gives the
   /// video's own back.
-  void txtFRBox_Change(const std::string& text);
+  void TakeRate(const std::string& text);
   /// The position that is shown becomes zero.
-  void VideoTimerBtn_Click();
+  void SetZero();
   /// A slot's rate and zero point go with its video.
   void Forget(int slot);
 

@@ -42,7 +42,7 @@ Workspace::Workspace(IHost& host, Settings& settings, IWorkspaceView& view)
 void Workspace::AttachPlayer(int slot, AVIControl& player) {
   At(slot).MP = &player;
   player.setID(slot);
-  player.setDrawMode(13);
+  player.setDrawMode(static_cast<int>(Rop2::CopyPen));
   player.setDrawWidth(settings_.CadWidth);
 }
 
@@ -167,7 +167,7 @@ void Workspace::SelectWindow(int slot) {
   FocusSet();
 }
 
-bool Workspace::TMAX_Click() {
+bool Workspace::ToggleMaximize() {
   if (Maximized()) {
     ComeHome();
   } else {
@@ -353,7 +353,7 @@ void Workspace::SetNotes(int slot, const std::string& notes) {
   DataChanged();
 }
 
-bool Workspace::MnuCloseAll_Click() {
+bool Workspace::CloseAll() {
   ComeHome();
   ClosedStage stage{{}, ScreenLayout, CurrentWindow};
   for (int slot = 1; slot <= kSlots; ++slot) {
@@ -450,15 +450,15 @@ bool Workspace::Fill(int first, int last) {
   return true;
 }
 
-void Workspace::TF_Click() {
+void Workspace::FillAll() {
   if (CanFill()) Fill(1, SlotsShown());
 }
 
-void Workspace::TFT_Click() {
+void Workspace::FillTopRow() {
   if (CanFillRows()) Fill(1, LastOfTopRow(ScreenLayout));
 }
 
-void Workspace::TFB_Click() {
+void Workspace::FillBottomRow() {
   if (CanFillRows()) Fill(LastOfTopRow(ScreenLayout) + 1, SlotsShown());
 }
 

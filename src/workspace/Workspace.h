@@ -88,7 +88,7 @@ class Workspace {
   void ComeHome();
   const StageHome& Home() const { return home_; }
   /// Shows the current video alone, or goes back. An empty slot is refused with false.
-  bool TMAX_Click();
+  bool ToggleMaximize();
   bool Maximized() const { return ScreenLayout == kMaximized; }
   /// The current video stands beneath its film strip.
   bool MultiFrame() const { return ScreenLayout == kMultiFrame; }
@@ -102,8 +102,8 @@ class Workspace {
   /// try again, lose them, or keep the video open, which is the only case of false.
   bool CloseVideo(int slot);
   /// False when the user kept one open.
-  bool MnuCloseAll_Click();
-  /// Opens again what MnuCloseAll_Click closed last: the same videos at the same pictures, mirrored and
+  bool CloseAll();
+  /// Opens again what CloseAll closed last: the same videos at the same pictures, mirrored and
   /// zoomed as they were, in the same layout.
   /// Nothing happens once a video stands in a slot.
   void ReopenClosed();
@@ -117,9 +117,9 @@ class Workspace {
   /// Closes the current video and goes back to the window before.
   void UndoLastOpen();
   /// Loads the current file into the other slots: all, those of the top row, those of the bottom row.
-  void TF_Click();
-  void TFT_Click();
-  void TFB_Click();
+  void FillAll();
+  void FillTopRow();
+  void FillBottomRow();
   bool CanFill() const;
   bool CanFillRows() const;
 

@@ -1,8 +1,5 @@
 #include "workspace/ZoomPan.h"
 
-#include <array>
-
-#include "video/KeyCodes.h"
 #include "workspace/PlayerPlace.h"
 
 namespace kinalyx {
@@ -11,34 +8,36 @@ namespace {
 constexpr int kRepeatDelay = 300;    // milliseconds before a held button repeats
 constexpr int kRepeatInterval = 40;  // milliseconds between two steps
 
-/// The keys behind the pan buttons: up, right, down, left, centre.
-constexpr std::array kPanKeys{kKeyNumpad0 + 8, kKeyNumpad0 + 6, kKeyNumpad0 + 2, kKeyNumpad0 + 4, kKeyNumpad0 + 5};
-constexpr int kCentre = 4;
-
 }  // namespace
 
-ZoomPan::ZoomPan(IHost& host, Workspace& workspace, std::function<void(int KeyCode)> keyDown,
-                 std::function<void(int KeyAscii)> keyPress)
-    : host_(host), workspace_(workspace), keyDown_(std::move(keyDown)), keyPress_(std::move(keyPress)) {}
-
-void ZoomPan::ZoomBtn_Click(int Index) {
-  if (Index == 0) keyPress_('-');
-  if (Index == 1) keyPress_('+');
-  if (Index == 2) keyDown_(kKeyNumpad0 + 5);
+void ZoomPan::Zoom(ZoomMove move) {
+  const double zoom = workspace_.Current().VideoZoom;
+  switch (move) {
+    case ZoomMove::Out: return workspace_.SetZoom(zoom - kZoomStep);
+    case ZoomMove::In: return workspace_.SetZoom(zoom + kZoomStep);
+    case ZoomMove::Whole: return workspace_.ResetZoom();
+  }
 }
 
-void ZoomPan::PanBtn_MouseDown(int Index) {
-  if (Index < 0 || Index >= static_cast<int>(kPanKeys.size())) return;
-  held_ = Index;
-  pantimer_Timer();
-  if (Index == kCentre) return;
+void ZoomPan::BeginPan(PanMove move) {
+  held_ = move;
+  PanOnce();
+  if (move == PanMove::Centre) return;
   pantimer_ = HostTimer(host_, kRepeatDelay, false, [this] {
-    pantimer_ = HostTimer(host_, kRepeatInterval, true, [this] { pantimer_Timer(); });
-    pantimer_Timer();
+    pantimer_ = HostTimer(host_, kRepeatInterval, true, [this] { PanOnce(); });
+    PanOnce();
   });
 }
 
-void ZoomPan::pantimer_Timer() { keyDown_(kPanKeys[static_cast<std::size_t>(held_)]); }
+void ZoomPan::PanOnce() {
+  switch (held_) {
+    case PanMove::Up: return workspace_.Pan(0, -kPanStep);
+    case PanMove::Right: return workspace_.Pan(kPanStep, 0);
+    case PanMove::Down: return workspace_.Pan(0, kPanStep);
+    case PanMove::Left: return workspace_.Pan(-kPanStep, 0);
+    case PanMove::Centre: return workspace_.ResetZoom();
+  }
+}
 
 void ZoomPan::Wheel(int slot, float x, float y, int notches) {
   if (!workspace_.HasVideo(slot) || notches == 0) return;

@@ -1,26 +1,29 @@
 #pragma once
 
-#include <functional>
-
 #include "platform/host/Host.h"
 #include "workspace/Workspace.h"
 
 namespace kinalyx {
 
-/// Zoom and pan beyond the keys: the buttons, which press the same keys and repeat while they are held,
-/// the wheel that zooms at the pointer, and the drag that takes the picture along.
+/// One press of a key or button: zoom, and pan in twips before zoom.
+inline constexpr double kZoomStep = 0.1;
+inline constexpr double kPanStep = 50;
+
+/// The buttons, by the index in `ZoomBtn` and `PanBtn`.
+enum class ZoomMove { Out = 0, In = 1, Whole = 2 };
+enum class PanMove { Up = 0, Right = 1, Down = 2, Left = 3, Centre = 4 };
+
+/// Zoom and pan beyond the keys: the buttons, which do what the keys do and repeat while they are held, the
+/// wheel that zooms at the pointer, and the drag that takes the picture along.
 class ZoomPan {
  public:
-  /// `keyDown` and `keyPress` are the key handlers of the workspace.
-  ZoomPan(IHost& host, Workspace& workspace, std::function<void(int KeyCode)> keyDown,
-          std::function<void(int KeyAscii)> keyPress);
+  ZoomPan(IHost& host, Workspace& workspace) : host_(host), workspace_(workspace) {}
 
-  /// 0 out, 1 in, 2 pan 0 and zoom 1.
-  void ZoomBtn_Click(int Index);
-  /// 0 up, 1 right, 2 down, 3 left, 4 centre. A press acts at once, and but for the last again and again
-  /// until the button comes up.
-  void PanBtn_MouseDown(int Index);
-  void PanBtn_MouseUp() { pantimer_.Stop(); }
+  /// A step of the current video's zoom, or back to zoom 1 in the middle.
+  void Zoom(ZoomMove move);
+  /// A button goes down: it acts at once, and but for the centre again and again until it comes up.
+  void BeginPan(PanMove move);
+  void EndPan() { pantimer_.Stop(); }
 
   /// The wheel at a point of the slot's picture, in pixels: `notches` upward zoom in by a tenth each. The
   /// point of the video under the pointer stays under it.
@@ -33,14 +36,12 @@ class ZoomPan {
   bool Dragging() const { return dragSlot_ != 0; }
 
  private:
-  void pantimer_Timer();
+  void PanOnce();
 
   IHost& host_;
   Workspace& workspace_;
-  std::function<void(int)> keyDown_;
-  std::function<void(int)> keyPress_;
   HostTimer pantimer_;
-  int held_ = 0;      ///< index of the pan button that is down
+  PanMove held_ = PanMove::Centre;  ///< the pan button that is down
   int dragSlot_ = 0;  ///< 0 while nothing is dragged
   float dragX_ = 0;
   float dragY_ = 0;

@@ -108,7 +108,7 @@ struct Desk {
   }
   void Draw(int kind, std::initializer_list<POINTAPI> points, int window = 1) {
     workspace.active = window;
-    tools.CmdMakeShape_Click(kind);
+    tools.TakeTool(kind);
     for (const POINTAPI& point : points) Click(point.x, point.y, window);
   }
 };

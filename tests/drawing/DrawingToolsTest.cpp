@@ -13,7 +13,7 @@ struct Bar final : IEditMarks {
 
 TEST(DrawingTools, ALineFromTwoClicksEndsItsTool) {
   Desk desk;
-  desk.tools.CmdMakeShape_Click(kLine);
+  desk.tools.TakeTool(kLine);
   EXPECT_TRUE(desk.tools.Drawing());
   EXPECT_EQ(desk.workspace.caption, "                 Drawing a Line in Color       ");
   EXPECT_EQ(desk.workspace.vectorColor, 0xFF0000);
@@ -45,7 +45,7 @@ TEST(DrawingTools, EveryToolMakesItsKindOfItsClicksInItsColour) {
   for (const auto& [kind, clicks] : {std::pair{kFlag, 1}, {kSquare, 2}, {kEllipse, 2}, {kAngle, 3},
                                      {kParallelogram, 3}, {kZone, 3}, {kClock, 2}, {kArrow, 2}}) {
     SCOPED_TRACE(kind);
-    desk.tools.MenuDraw_Click(kind);
+    desk.tools.ChooseFromMenu(kind);
     for (int i = 0; i < clicks; ++i) {
       EXPECT_TRUE(desk.tools.Drawing());
       desk.Click(points[i].x, points[i].y);
@@ -62,7 +62,7 @@ TEST(DrawingTools, EveryToolMakesItsKindOfItsClicksInItsColour) {
 
 TEST(DrawingTools, AFreehandIsOneStrokeAndAMereClickIsNone) {
   Desk desk;
-  desk.tools.CmdMakeShape_Click(kFreehand);
+  desk.tools.TakeTool(kFreehand);
   desk.Down(10, 10);
   desk.Move(20, 15);
   desk.Move(30, 10);
@@ -97,7 +97,7 @@ TEST(DrawingTools, TheSamePixelTwiceIsOnePoint) {
   EXPECT_TRUE(desk.tools.Drawing());
   desk.Click(90, 50);
   // A new shape may begin on the pixel where the last one was pressed.
-  desk.tools.CmdMakeShape_Click(kLine);
+  desk.tools.TakeTool(kLine);
   desk.Down(90, 50);
   desk.Move(90, 90);
   desk.Up(90, 90);
@@ -107,17 +107,17 @@ TEST(DrawingTools, TheSamePixelTwiceIsOnePoint) {
 
 TEST(DrawingTools, PickingAToolTwicePutsItDown) {
   Desk desk;
-  desk.tools.CmdMakeShape_Click(kSquare);
-  desk.tools.CmdMakeShape_Click(kSquare);
+  desk.tools.TakeTool(kSquare);
+  desk.tools.TakeTool(kSquare);
   EXPECT_FALSE(desk.tools.Drawing() || desk.Down(10, 10));
   EXPECT_EQ(desk.workspace.caption, "");
 
   // What is half made goes; a path stays as far as it was traced.
   desk.Draw(kAngle, {{10, 10}, {50, 50}});
-  desk.tools.DrawOffBtn_Click();
+  desk.tools.PutToolDown();
   EXPECT_EQ(desk.List().NumShapes, 0);
   desk.Draw(kSwingPath, {{10, 10}, {50, 50}});
-  desk.tools.CmdMakeShape_Click(kLine);
+  desk.tools.TakeTool(kLine);
   ASSERT_EQ(desk.List().NumShapes, 1);
   EXPECT_TRUE(desk.List().Shapes[0].Locked);
   EXPECT_EQ(desk.tools.DrawKind(), kLine);
@@ -125,24 +125,24 @@ TEST(DrawingTools, PickingAToolTwicePutsItDown) {
 
   Desk empty;
   empty.workspace.hasVideo = false;
-  empty.tools.CmdMakeShape_Click(kLine);
+  empty.tools.TakeTool(kLine);
   EXPECT_FALSE(empty.tools.Drawing()) << "no tool without a video";
 }
 
 TEST(DrawingTools, AStraightLineIsStraightOnce) {
   Desk desk;
-  desk.tools.DDSL_Click();
+  desk.tools.TakeStraightLine();
   desk.Click(100, 100);
   desk.Click(200, 130);
   desk.Draw(kLine, {{100, 100}, {200, 130}});
   EXPECT_EQ(desk.Points(0)[1], (POINTAPI{200, 100}));
   EXPECT_EQ(desk.Points(1)[1], (POINTAPI{200, 130}));
 
-  desk.tools.CmdMakeShape_Click(kArrow);
-  desk.tools.DDSA_Click();
+  desk.tools.TakeTool(kArrow);
+  desk.tools.TakeStraightArrow();
   EXPECT_TRUE(desk.tools.Drawing()) << "the free arrow in hand becomes a straight one";
   desk.Click(100, 100);
-  desk.tools.DrawOffBtn_Click();
+  desk.tools.PutToolDown();
   desk.Draw(kArrow, {{10, 10}, {20, 90}});
   EXPECT_EQ(desk.Points(2)[1], (POINTAPI{20, 90})) << "put down, it is forgotten";
 }
@@ -153,16 +153,16 @@ TEST(DrawingTools, RandomColoursStepButNotForPathsAndZones) {
   desk.Draw(kLine, {{0, 0}, {9, 9}});
   desk.Draw(kZone, {{0, 0}, {9, 9}, {0, 9}});
   desk.Draw(kLine, {{0, 0}, {9, 9}});
-  desk.tools.CmdMakeShape_Click(kLine);
+  desk.tools.TakeTool(kLine);
   EXPECT_EQ(desk.workspace.button, 3);
-  desk.tools.ColorChoiceBtn_Click(7);  // the user's choice counts
+  desk.tools.ChooseColour(7);  // the user's choice counts
   EXPECT_EQ(desk.workspace.vectorColor, kColorChoices[7]);
   desk.Click(0, 0);
   desk.Click(9, 9);
   const Colour wanted[] = {kColorChoices[0], 0xFF0000, kColorChoices[2], kColorChoices[7]};
   for (std::size_t i = 0; i < 4; ++i) EXPECT_EQ(desk.List().Shapes[i].Colour, wanted[i]) << i;
   for (int i = 0; i < 8; ++i) desk.Draw(kFlag, {{i, i}});
-  desk.tools.CmdMakeShape_Click(kFlag);
+  desk.tools.TakeTool(kFlag);
   EXPECT_EQ(desk.workspace.button, 0) << "after twelve it begins again";
 }
 
@@ -178,7 +178,7 @@ TEST(DrawingTools, AClickOnAPlayingVideoStopsItAndEndsTheTool) {
 
 TEST(DrawingTools, AShapeBelongsToTheWindowOfItsFirstPress) {
   Desk desk;
-  desk.tools.CmdMakeShape_Click(kLine);
+  desk.tools.TakeTool(kLine);
   desk.Click(10, 10, 2);
   EXPECT_EQ(desk.workspace.active, 2);
   desk.Move(300, 300, 1);
@@ -191,24 +191,24 @@ TEST(DrawingTools, AShapeBelongsToTheWindowOfItsFirstPress) {
 TEST(DrawingTools, DrawingsAreDeletedLastFirstOrAllAtOnce) {
   Desk desk;
   for (int i = 0; i < 3; ++i) desk.Draw(kFlag, {{i, i}});
-  desk.tools.Lastcadoff_Click();
+  desk.tools.DeleteLast();
   EXPECT_EQ(desk.List().NumShapes, 2);
   // The shape under construction is the last; the tool stays in hand.
   desk.Draw(kLine, {{10, 10}});
-  desk.tools.Lastcadoff_Click();
+  desk.tools.DeleteLast();
   EXPECT_EQ(desk.List().NumShapes, 2);
   EXPECT_TRUE(desk.tools.Drawing());
   desk.Click(20, 20);
   desk.Click(40, 40);
   EXPECT_EQ(desk.List().NumShapes, 3);
-  desk.tools.Cadoffbutton_Click();
+  desk.tools.DeleteAll();
   EXPECT_FALSE(desk.tools.HasShapes(1));
-  desk.tools.Lastcadoff_Click();
+  desk.tools.DeleteLast();
   EXPECT_EQ(desk.List().NumShapes, 0);
 
   desk.Draw(kFlag, {{1, 1}});
   desk.workspace.hasVideo = false;
-  desk.tools.Cadoffbutton_Click();
+  desk.tools.DeleteAll();
   EXPECT_EQ(desk.List().NumShapes, 1) << "only with a video in the window";
 }
 

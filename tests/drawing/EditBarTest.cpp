@@ -26,18 +26,18 @@ struct EditDesk : Desk {
 
   void Drag(int handle, std::initializer_list<POINTAPI> way) {
     const POINTAPI first = *way.begin();
-    bar.cmdEBBtn_MouseDown(handle, 1, 0, static_cast<float>(first.x), static_cast<float>(first.y));
+    bar.GrabHandle(handle, 1, 0, static_cast<float>(first.x), static_cast<float>(first.y));
     for (const POINTAPI& point : way)
-      bar.cmdEBBtn_MouseMove(handle, 1, 0, static_cast<float>(point.x), static_cast<float>(point.y));
-    bar.cmdEBBtn_MouseUp(handle, 1, 0, 0, 0);
+      bar.DragHandle(handle, 1, 0, static_cast<float>(point.x), static_cast<float>(point.y));
+    bar.ReleaseHandle(handle, 1, 0, 0, 0);
   }
 };
 
 TEST(EditBar, HandlesFollowTheSelection) {
   EditDesk desk;
-  desk.bar.cmdEBBtn_Click(kEndHandle);
+  desk.bar.UseHandle(kEndHandle);
   EXPECT_FALSE(desk.bar.Shown()) << "no handle works while the bar is down";
-  desk.bar.MenuEdit_Click();
+  desk.bar.ToggleEditBar();
   EXPECT_FALSE(desk.strip.enabled[kNextHandle] || desk.strip.enabled[kMoveHandle]);
   EXPECT_TRUE(desk.strip.enabled[kEndHandle]);
 
@@ -46,28 +46,28 @@ TEST(EditBar, HandlesFollowTheSelection) {
   EXPECT_FALSE(desk.strip.multi) << "one shape needs no multi mode";
   desk.Draw(kFlag, {{20, 10}});
   EXPECT_TRUE(desk.strip.multi);
-  desk.bar.cmdEBBtn_Click(kNextHandle);
+  desk.bar.UseHandle(kNextHandle);
   EXPECT_EQ(desk.List().CurShape, 0) << "round again";
-  desk.bar.cmdEBBtn_Click(kDeleteHandle);
+  desk.bar.UseHandle(kDeleteHandle);
   EXPECT_EQ(desk.Points(0)[0].x, 20);
-  desk.bar.cmdEBBtn_Click(kEndHandle);
+  desk.bar.UseHandle(kEndHandle);
   EXPECT_FALSE(desk.bar.Shown());
 }
 
 TEST(EditBar, DragsMoveScaleAndRotate) {
   EditDesk desk;
   desk.Draw(kLine, {{100, 100}, {200, 100}});
-  desk.bar.MenuEdit_Click();
+  desk.bar.ToggleEditBar();
   // Ten steps of seven twips are less than a pixel each and five pixels together.
   desk.Drag(kMoveHandle, {{0, 0}, {7, 0}, {14, 0}, {21, 0}, {28, 0}, {35, 0}, {42, 0}, {49, 0}, {56, 0}, {63, 0}, {70, 0}});
   EXPECT_EQ(desk.Points(0)[0], (POINTAPI{105, 100}));
   desk.Drag(kScaleHandle, {{300, 500}, {300, 300}, {300, 100}});
   EXPECT_EQ(desk.Points(0), (std::vector<POINTAPI>{{55, 100}, {255, 100}})) << "400 twips up are twice as large";
   EXPECT_EQ(desk.List().Shapes[0].SavedPts.size(), 1u) << "the end of the drag lets the saved points go";
-  desk.bar.cmdEBBtn_MouseDown(kRotateHandle, 1, 0, 600, 300);
+  desk.bar.GrabHandle(kRotateHandle, 1, 0, 600, 300);
   EXPECT_TRUE(desk.strip.guide);
-  desk.bar.cmdEBBtn_MouseMove(kRotateHandle, 1, 0, 300, 600);
-  desk.bar.cmdEBBtn_MouseUp(kRotateHandle, 1, 0, 300, 600);
+  desk.bar.DragHandle(kRotateHandle, 1, 0, 300, 600);
+  desk.bar.ReleaseHandle(kRotateHandle, 1, 0, 300, 600);
   EXPECT_FALSE(desk.strip.guide);
   EXPECT_EQ(desk.Points(0)[0], (POINTAPI{155, 0}));
   for (const POINTAPI& before : {POINTAPI{55, 100}, {105, 100}, {100, 100}}) {
@@ -81,8 +81,8 @@ TEST(EditBar, InMultiModeAllShapesGoTogether) {
   desk.Draw(kLine, {{100, 100}, {200, 100}});
   desk.Draw(kFlag, {{251, 200}});
   EXPECT_EQ(desk.engine.MultiGetMid(desk.List()), (POINTAPI{200, 150}));
-  desk.bar.MenuEdit_Click();
-  desk.bar.ribEBBtn_Click(true);
+  desk.bar.ToggleEditBar();
+  desk.bar.EditAll(true);
   desk.Drag(kMoveHandle, {{0, 0}, {150, -150}});
   EXPECT_EQ(desk.Points(0)[0], (POINTAPI{110, 90}));
   EXPECT_EQ(desk.Points(1)[0], (POINTAPI{261, 190}));
@@ -96,7 +96,7 @@ TEST(EditBar, InMultiModeAllShapesGoTogether) {
   desk.bar.EditWhole();
   EXPECT_TRUE(desk.bar.MultiEdit());
   EXPECT_FALSE(desk.strip.enabled[kNextHandle] || desk.strip.enabled[kRotateHandle]);
-  desk.bar.cmdEBBtn_Click(kEndHandle);
+  desk.bar.UseHandle(kEndHandle);
   EXPECT_TRUE(desk.strip.enabled[kNextHandle]);
 }
 

@@ -14,9 +14,9 @@ namespace kinalyx::test {
 namespace {
 
 struct Listener final : IShapeLocked {
-  std::vector<int> updates;
+  int announcements = 0;  ///< that are over
   int off = 0;
-  void VectorColorUpdate(int Kind) override { updates.push_back(Kind); }
+  void AnnouncementOver() override { ++announcements; }
   void DrawingOff() override { ++off; }
 };
 
@@ -36,11 +36,11 @@ TEST(ShapeStore, AnAngleIsFinishedByItsThirdPoint) {
   EXPECT_EQ(angle.NumPts, 2);
   EXPECT_EQ(angle.Pts[1], (POINTAPI{50, 10})) << "back on the last fixed point, the floating one stays where it was";
   EXPECT_FALSE(engine.AddPoint(angle, {60, 10}, true));
-  EXPECT_TRUE(listener.updates.empty());
+  EXPECT_EQ(listener.announcements, 0);
   EXPECT_TRUE(engine.AddPoint(angle, {60, 90}, true));
   EXPECT_TRUE(angle.Locked);
   EXPECT_EQ(angle.NumPts, 3);
-  EXPECT_EQ(listener.updates, std::vector{25});
+  EXPECT_EQ(listener.announcements, 1);
   EXPECT_EQ(listener.off, 1);
   EXPECT_FALSE(engine.AddPoint(angle, {1, 1}, true)) << "locked";
   EXPECT_EQ(angle.NumBound, 3);
@@ -96,7 +96,7 @@ TEST(ShapeStore, ACopyIsFinishedLikeAnyShape) {
   EXPECT_EQ(ClockRotation(target.Shapes[0]), 0);
   EXPECT_TRUE(target.Shapes[0].SavedPts.empty());
   EXPECT_EQ(target.Shapes[1].NumBound, 3);
-  EXPECT_EQ(listener.updates.size(), 3u) << "a full kind by its last point and again, an open one once";
+  EXPECT_EQ(listener.announcements, 3) << "a full kind by its last point and again, an open one once";
 }
 
 TEST(ShapeStore, StraightModeHoldsPointsLevelOrUpright) {
@@ -115,7 +115,7 @@ TEST(ShapeStore, TheLogTellsOfADrawingWhenTheSettingsAskForIt) {
     ShapeEngine engine;
     TestWorkspace workspace;
     DrawingTools tools(engine, desk.settings, workspace);
-    tools.CmdMakeShape_Click(kLine);
+    tools.TakeTool(kLine);
     for (const int x : {10, 90}) {
       tools.MouseDown(1, 0, static_cast<float>(x), 20, 1);
       tools.MouseUp(1, 0, static_cast<float>(x), 20, 1);

@@ -342,7 +342,7 @@ TEST_F(AnalysisFormTest, LettingGoWhileEverythingPlaysKeepsTheDrawings) {
   Slots().SelectWindow(1);
   Click("CmdMakeShape1");
   ClickOn("MP1", {90, 80});
-  form->Analysis().Player().TLAV_Click();
+  form->Analysis().Player().ToggleLoopAll();
   host.Advance(200);
   form.reset();
   host.Advance(1000);

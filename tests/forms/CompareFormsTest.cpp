@@ -71,7 +71,7 @@ class CompareFormsTest : public testing::Test, test::UsesApplication, protected 
 };
 
 TEST_F(CompareFormsTest, LockedVideosMoveFromTheirBar) {
-  ASSERT_TRUE(modes_.Locks().cmdDualPlay());
+  ASSERT_TRUE(modes_.Locks().ToggleLock());
   Settle();
   EXPECT_TRUE(Seen("DualFrame"));
   Click("DualControl1");
@@ -96,7 +96,7 @@ TEST_F(CompareFormsTest, LockedVideosMoveFromTheirBar) {
 }
 
 TEST_F(CompareFormsTest, TransparencyIsMixedFromItsPanel) {
-  modes_.Transparency().STM_Click();
+  modes_.Transparency().ToggleTransparency();
   Settle();
   ASSERT_TRUE(Seen("TransFrame") && Seen("TransPanel") && Seen("DualFrame"));
   auto* mix = Find<QSlider>("TransScroll");
@@ -146,7 +146,7 @@ TEST_F(CompareFormsTest, WheelZoomsTheVideoUnderThePointer) {
 }
 
 TEST_F(CompareFormsTest, StrobeWindowStartsStopsAndSaves) {
-  modes_.TASF_Click();
+  modes_.ToggleStrobeForm();
   ASSERT_TRUE(Seen("StrobeForm"));
   auto* strobe = Find<QPushButton>("SSCommand1_2");
   auto* save = Find<QPushButton>("SaveStrobeBtn");
@@ -170,7 +170,7 @@ TEST_F(CompareFormsTest, StrobeWindowStartsStopsAndSaves) {
 }
 
 TEST_F(CompareFormsTest, CarveIsMarkedDraggedAndScaled) {
-  modes_.Carving().TTCarve();
+  modes_.Carving().ToggleCarve();
   Settle();
   auto* canvas = Find<QWidget>("CarvePic");
   ASSERT_TRUE(canvas->isVisible() && Seen("CarvePanel"));
@@ -196,12 +196,12 @@ TEST_F(CompareFormsTest, CarveIsMarkedDraggedAndScaled) {
 }
 
 TEST_F(CompareFormsTest, StripAndZoomButtonsReachTheirModes) {
-  modes_.TZP_Click();
-  modes_.Strip().smbar_Click();
+  modes_.ToggleZoomForm();
+  modes_.Strip().ToggleStrip();
   Settle();
   ASSERT_TRUE(Seen("MFPanel"));
   EXPECT_FALSE(Find<QWidget>("ZoomForm")->geometry().intersects(Find<QWidget>("MultiPicturePanel")->geometry()));
-  modes_.TZP_Click();
+  modes_.ToggleZoomForm();
   Find<QComboBox>("SkipBox")->setCurrentText("2");
   EXPECT_EQ(modes_.Strip().Skip(), 2);
   Click("MPicBtn0");
@@ -212,7 +212,7 @@ TEST_F(CompareFormsTest, StripAndZoomButtonsReachTheirModes) {
   Click("MPicBtn1");
   EXPECT_FALSE(Seen("MFPanel"));
 
-  modes_.TZP_Click();
+  modes_.ToggleZoomForm();
   const Slot& slot = stage_.Slots().At(1);
   Click("ZoomBtn1");
   EXPECT_DOUBLE_EQ(slot.VideoZoom, 1.1);

@@ -36,7 +36,7 @@ TEST_F(LibraryBrowserTest, ShowsEveryVideoUnderItsOwnFolderOnly) {
   EXPECT_EQ(browser.VideoList(), Names{"loose"});
   EXPECT_EQ(browser.VideoPath(), library.Path("loose.avi"));
 
-  browser.InstructorList_Click(1);
+  browser.ChooseInstructor(1);
   EXPECT_EQ(browser.StudentList(), Names{"Sample, Erica"});
   EXPECT_FALSE(browser.HasStudent());
   EXPECT_TRUE(browser.VideoList().empty());
@@ -46,9 +46,9 @@ TEST_F(LibraryBrowserTest, ShowsEveryVideoUnderItsOwnFolderOnly) {
   EXPECT_TRUE(browser.SelectVideo("(10) FO"));
   EXPECT_EQ(browser.VideoPath(), library.Path("Demo/Sample, Erica/(10) FO.AVI"));
 
-  browser.InstructorList_Click(2);
+  browser.ChooseInstructor(2);
   EXPECT_EQ(browser.VideoPath(), library.Path("Quick Launch/fast.avi"));
-  browser.InstructorList_Click(99);
+  browser.ChooseInstructor(99);
   EXPECT_EQ(browser.VideoPath(), "");
   EXPECT_TRUE(browser.VideoList().empty());
 }

@@ -189,7 +189,7 @@ class AnalysisStage : private IFrameInterface {
     Move(Slots().CurrentWindow, (from.x + to.x) / 2, (from.y + to.y) / 2);
     Click(Slots().CurrentWindow, to.x, to.y);
   }
-  bool Key(int code, int shift = 0) { return Commands().Form_KeyDown(code, shift); }
+  bool Key(int code, int shift = 0) { return Commands().PressKey(code, shift); }
   void Type(char letter) { analysis.KeyPress(letter, Slots().CurrentWindow); }
 
   const std::string folder;

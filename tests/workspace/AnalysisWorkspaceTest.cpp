@@ -99,7 +99,7 @@ TEST(Drawing, AToolInHandIsPutDownWithItsVideo) {
 TEST(EightVideos, PlayWhileOneIsDrawnInAndOthersClose) {
   AnalysisStage stage("8");
   for (int slot = 1; slot <= 8; ++slot) ASSERT_TRUE(stage.Open(slot, stage.Video(std::to_string(slot) + ".avi")));
-  stage.analysis.Player().TLAV_Click();
+  stage.analysis.Player().ToggleLoopAll();
   stage.Click(3, 10, 10);
   EXPECT_FALSE(stage.MP(1).IsPlaying()) << "a click stops the current video and chooses the other";
   EXPECT_EQ(stage.Slots().CurrentWindow, 3);
@@ -129,12 +129,12 @@ TEST(EightVideos, CloseInsideTheirOwnCallbacks) {
   AnalysisStage stage("2");
   stage.Open(1, stage.Video("a.avi"));
   stage.Open(2, stage.Video("b.avi"));
-  stage.analysis.Player().TLAV_Click();
+  stage.analysis.Player().ToggleLoopAll();
   bool closed = false;
   stage.analysis.Player().PositionShown = [&] {
     if (closed || stage.At(1) < 5) return;
     closed = true;
-    stage.Slots().MnuCloseAll_Click();
+    stage.Slots().CloseAll();
   };
   stage.host.Advance(2000);
   EXPECT_TRUE(closed);
@@ -153,7 +153,7 @@ TEST(CommandTable, TellsWhyWhatCannotBeDoneCannot) {
   EXPECT_EQ(commands.Find("vplay")->Reason(), "");
   EXPECT_EQ(commands.Find("TFT")->Reason(), "");
   EXPECT_EQ(commands.Find("Cadoffbutton")->Reason(), "Nothing is drawn in the current window");
-  stage.Slots().TMAX_Click();
+  stage.Slots().ToggleMaximize();
   EXPECT_NE(commands.Find("TF")->Reason(), "");
   EXPECT_TRUE(commands.Find("TMAX")->checked());
 }
@@ -183,16 +183,16 @@ TEST(VideoTimerTest, TimesFromAnyPicture) {
   EXPECT_TRUE(stage.window.timer);
   EXPECT_EQ(stage.window.reading, "01.00");
   EXPECT_EQ(stage.window.counter, "30");
-  stage.analysis.Timer().VideoTimerBtn_Click();
+  stage.analysis.Timer().SetZero();
   transport.Seek(15);
   EXPECT_EQ(stage.window.reading, "-00.50");
   EXPECT_TRUE(stage.window.negative);
   transport.Seek(45);
-  stage.analysis.Timer().VideoTimerBtn_Click();
+  stage.analysis.Timer().SetZero();
   EXPECT_EQ(stage.window.reading, "00.00") << "a second zero is a zero too";
-  stage.analysis.Timer().txtFRBox_Change("240");
+  stage.analysis.Timer().TakeRate("240");
   EXPECT_EQ(stage.window.rate, "240");
-  stage.analysis.Timer().txtFRBox_Change("fast");
+  stage.analysis.Timer().TakeRate("fast");
   EXPECT_EQ(stage.window.rate, "30");
   stage.Slots().SelectWindow(2);
   EXPECT_EQ(stage.window.reading, "00.00");
@@ -236,7 +236,7 @@ TEST(AutoSaveTest, WhatIsDrawnIsOnTheDiskWhenTheHandsRest) {
   stage.Slots().SelectWindow(2);
   stage.Commands().Run("UndoDrawing");
   stage.host.Advance(5000);
-  EXPECT_TRUE(stage.Slots().MnuCloseAll_Click());
+  EXPECT_TRUE(stage.Slots().CloseAll());
   stage.Open(1, path);
   ASSERT_EQ(stage.Shapes().NumShapes, 1);
   EXPECT_EQ(stage.Shapes().Shapes[0].Kind, kLine);
@@ -271,11 +271,11 @@ TEST(OneVideoTwice, KeepsTheWorkOfBothWindows) {
   const std::string path = stage.Video("a.avi");
   stage.Open(1, path);
   stage.Draw(kLine, {10, 10}, {100, 100});
-  stage.Slots().TF_Click();
+  stage.Slots().FillAll();
   EXPECT_EQ(stage.Shapes(2).NumShapes, 1) << "a copy comes with what is drawn so far";
   stage.Draw(kLine, {50, 60}, {70, 80});
   stage.Slots().SetNotes(1, "Grip");
-  EXPECT_TRUE(stage.Slots().MnuCloseAll_Click());
+  EXPECT_TRUE(stage.Slots().CloseAll());
   stage.Open(1, path);
   ASSERT_EQ(stage.Shapes().NumShapes, 2) << "the untouched copy has not written over it";
 
@@ -286,7 +286,7 @@ TEST(OneVideoTwice, KeepsTheWorkOfBothWindows) {
   stage.Draw(kEllipse, {40, 40}, {90, 120});
   stage.Slots().SetNotes(1, stage.Slots().At(1).data.Notes + " and hips");
   stage.Slots().SetNotes(2, "Stance");
-  EXPECT_TRUE(stage.Slots().MnuCloseAll_Click());
+  EXPECT_TRUE(stage.Slots().CloseAll());
   stage.Open(1, path);
   EXPECT_EQ(stage.Shapes().NumShapes, 4);
   const std::string& notes = stage.Slots().At(1).data.Notes;
@@ -302,7 +302,7 @@ TEST(OneVideoTwice, WhatOneWindowHasDeletedOrMovedTheOtherDoesNotBringBack) {
   stage.Draw(kLine, {10, 10}, {100, 100});
   stage.Draw(kEllipse, {40, 40}, {90, 120});
   stage.Slots().SetNotes(1, "Gripp\r\nStance");
-  stage.Slots().TF_Click();
+  stage.Slots().FillAll();
   stage.Slots().SelectWindow(1);
   stage.Commands().Run("Lastcadoff");
   stage.analysis.Tools().Engine().MoveShape(stage.Shapes(1).Shapes[0], 30, 0);
@@ -325,7 +325,7 @@ TEST(OneVideoTwice, WhatOneWindowHasDeletedOrMovedTheOtherDoesNotBringBack) {
   stage.analysis.Tools().Engine().MoveShape(stage.Shapes(1).Shapes[0], 0, 20);
   stage.Slots().SelectWindow(2);
   stage.analysis.Tools().Engine().MoveShape(stage.Shapes(2).Shapes[0], 0, 40);
-  EXPECT_TRUE(stage.Slots().MnuCloseAll_Click());
+  EXPECT_TRUE(stage.Slots().CloseAll());
   EXPECT_EQ(Stored(path).size(), 3u);
 }
 
@@ -441,17 +441,17 @@ TEST(VideoNotesTest, LieUnderThePictureAndAreKeptWithTheVideo) {
   stage.Commands().Run("TN");
   EXPECT_EQ(stage.window.notes, "");
   EXPECT_LT(stage.MP(1).ControlHeightPixels(), height) << "they make room under the picture";
-  stage.analysis.Notes().NotesBox_Change("Gro\u00DFer Schwung\r\nhead still");
+  stage.analysis.Notes().TakeNotes("Gro\u00DFer Schwung\r\nhead still");
   EXPECT_FALSE(ReadSidecarMarks(SidecarPath(path)).HasNotes());
   stage.host.Advance(2000);
   EXPECT_TRUE(ReadSidecarMarks(SidecarPath(path)).HasNotes()) << "written when typing rests";
-  stage.analysis.Notes().NotesBox_Change("Gro\u00DFer Schwung\r\nhead still\r\ngrip");
+  stage.analysis.Notes().TakeNotes("Gro\u00DFer Schwung\r\nhead still\r\ngrip");
   stage.Press(2, 5, 5);
   EXPECT_FALSE(stage.window.notes) << "another window closes the panel";
   EXPECT_EQ(stage.MP(1).ControlHeightPixels(), height);
   stage.Commands().Run("TN");
   EXPECT_EQ(stage.window.notes, "");
-  stage.Slots().MnuCloseAll_Click();
+  stage.Slots().CloseAll();
   stage.Open(1, path);
   stage.Commands().Run("TN");
   EXPECT_EQ(stage.window.notes, "Gro\u00DFer Schwung\r\nhead still\r\ngrip");
@@ -463,7 +463,7 @@ TEST(VideoNotesTest, StayWithTheGridForTheNextVideoOfTheWindow) {
   const int height = stage.MP(1).ControlHeightPixels();
   stage.Commands().Run("TN");
   stage.Commands().Run("MenuDraw11");
-  stage.analysis.Notes().NotesBox_Change("Grip");
+  stage.analysis.Notes().TakeNotes("Grip");
   const int beside = stage.MP(1).ControlHeightPixels();
   stage.Open(1, stage.Video("b.avi"));
   EXPECT_EQ(stage.window.notes, "") << "those of the new video";
@@ -490,7 +490,7 @@ TEST(DisplayRate, ReadsTheFirstTwoFiguresBehindThePoint) {
   ASSERT_EQ(stage.host.messages.size(), 1u);
   EXPECT_EQ(stage.host.messages[0], DisplayRateTest::Result(60, 29) + "\n\n30 of 30 pictures were shown.");
   EXPECT_FALSE(stage.Commands().Find("VidTest")->checked());
-  stage.analysis.Player().cmdPlay();
+  stage.analysis.Player().TogglePlay();
   stage.host.Advance(3000);
   EXPECT_EQ(stage.host.messages.size(), 1u) << "an ordinary play is no test";
   stage.Commands().Run("VidTest");
@@ -564,7 +564,7 @@ TEST(RulerCalibrationTest, ItsLineIsNoDrawing) {
   stage.host.Advance(3000);
   EXPECT_EQ(ReadWholeFile(SidecarPath(path)), saved);
   EXPECT_EQ(stage.Shapes().NumShapes, 2);
-  stage.analysis.Ruler().CalibBtn_Click(0, 100, kInches, kInches);
+  stage.analysis.Ruler().Calibrate(100, kInches, kInches);
   stage.Slots().SetZoom(1);
   EXPECT_EQ(stage.Shapes().NumShapes, 1);
   EXPECT_EQ(stage.PointOf(0, 0), (POINTAPI{111, 33})) << "and has not moved by a rounding";
@@ -608,7 +608,7 @@ TEST(RulerCalibrationTest, TurnsPixelsIntoLengths) {
   stage.Click(1, 50, 300);
   stage.Click(1, 170, 300);
   EXPECT_EQ(stage.window.calibrationLength, "120pts");
-  stage.analysis.Ruler().CalibBtn_Click(0, 10, kInches, kCentimetres);
+  stage.analysis.Ruler().Calibrate(10, kInches, kCentimetres);
   EXPECT_EQ(stage.Shapes().NumShapes, 1) << "the measuring line goes, the other stays";
   EXPECT_EQ(stage.settings.CalibNumber, 120);
   EXPECT_FLOAT_EQ(stage.settings.CalibNumberOut, 12);

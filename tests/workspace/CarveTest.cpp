@@ -15,14 +15,14 @@ class CarveTest : public testing::Test {
  protected:
   void SetUp() override {
     ASSERT_TRUE(stage_.Open(1, RawVideo(30), 4));
-    carve_.TTCarve();
+    carve_.ToggleCarve();
     ASSERT_TRUE(view_.carve);
     ASSERT_EQ(view_.carvePic, 1);
   }
   void MarkArea(POINTAPI from, POINTAPI to) {
-    carve_.CarvePic_MouseDown(from);
-    carve_.CarvePic_MouseMove(to);
-    carve_.CarvePic_MouseUp(to);
+    carve_.BeginMark(from);
+    carve_.MoveMark(to);
+    carve_.EndMark(to);
   }
   /// The piece shows the area of the picture from this corner.
   void ExpectPiece(int left, int top) {
@@ -39,10 +39,10 @@ class CarveTest : public testing::Test {
 };
 
 TEST_F(CarveTest, MarkedAreaFloatsAndFollowsItsVideo) {
-  carve_.CarvePic_MouseDown({200, 150});
-  carve_.CarvePic_MouseMove({120, 90});
+  carve_.BeginMark({200, 150});
+  carve_.MoveMark({120, 90});
   EXPECT_EQ(view_.mark, (std::array{120, 90, 80, 60}));  // also drawn backwards
-  carve_.CarvePic_MouseUp({120, 90});
+  carve_.EndMark({120, 90});
   EXPECT_TRUE(carve_.Floating());
   EXPECT_EQ(view_.carvePic, 0);
   EXPECT_EQ(view_.piece.Width(), 80);
@@ -59,17 +59,17 @@ TEST_F(CarveTest, MarkedAreaFloatsAndFollowsItsVideo) {
 TEST_F(CarveTest, PieceIsDraggedAndScaledAboutItsMiddle) {
   MarkArea({100, 100}, {180, 160});
   const POINTAPI corner = view_.corner;
-  carve_.picRot_MouseDown({corner.x + 7, corner.y + 9});
-  carve_.picRot_MouseMove({corner.x + 57, corner.y - 11});
-  carve_.picRot_MouseUp();
+  carve_.GrabPiece({corner.x + 7, corner.y + 9});
+  carve_.DragPiece({corner.x + 57, corner.y - 11});
+  carve_.ReleasePiece();
   EXPECT_EQ(view_.corner, (POINTAPI{corner.x + 50, corner.y - 20}));
-  carve_.CScroll_Change(200);
+  carve_.ScalePiece(200);
   EXPECT_EQ(view_.piece.Width(), 160);
   EXPECT_EQ(view_.corner, (POINTAPI{corner.x + 10, corner.y - 50}));
-  carve_.CScroll_Change(9999);
+  carve_.ScalePiece(9999);
   EXPECT_EQ(carve_.CScroll(), Carve::kLargest);
   // A zoomed video gives the same part of its picture.
-  carve_.CScroll_Change(100);
+  carve_.ScalePiece(100);
   stage_.MP(1).Resize(stage_.MP(1).ControlWidthPixels() / 2, stage_.MP(1).ControlHeightPixels() / 2);
   stage_.host.Advance(0);
   EXPECT_EQ(view_.piece.Width(), 40);
@@ -88,7 +88,7 @@ TEST_F(CarveTest, ClicksAndEmptyWindowsGiveNoPiece) {
   ASSERT_TRUE(stage_.Slots().CloseVideo(1));
   EXPECT_FALSE(view_.carve);
   EXPECT_TRUE(view_.piece.Empty());
-  carve_.TTCarve();
+  carve_.ToggleCarve();
   EXPECT_FALSE(view_.carve);
 }
 

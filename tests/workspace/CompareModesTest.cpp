@@ -31,7 +31,7 @@ TEST_F(CompareModesTest, DualControlsFollowLockAndFocus) {
   EXPECT_EQ(dual.lowest, 0);
   EXPECT_EQ(dual.highest, 28);
   EXPECT_EQ(dual.line, "10 + 15");
-  modes_.Locks().DualControl_Click(1);
+  modes_.Locks().MoveTogether(DualMove::Forward);
   EXPECT_EQ(dual.line, "11 + 16");
   EXPECT_EQ(dual.position, 11);
   stage_.Slots().SelectWindow(2);
@@ -46,7 +46,7 @@ TEST_F(CompareModesTest, EscapeLeavesOneModeAfterTheOther) {
   Run("STM");
   EXPECT_TRUE(stage_.compareView.dual.shown) << "the dual controls belong to the mode";
   Run("TASF");
-  modes_.Strobe().StrobeBtn_Click();
+  modes_.Strobe().ToggleStrobe();
   ASSERT_TRUE(modes_.Strobe().StrobeRunning());
   EXPECT_TRUE(modes_.Escape());
   EXPECT_FALSE(modes_.Strobe().StrobeRunning());
@@ -166,8 +166,8 @@ TEST_F(CompareModesTest, OnlyOneHandTakesTheMouse) {
   EXPECT_FALSE(carve.Shown());
   Run("TTCarve");
   EXPECT_FALSE(stage_.edits.bar);
-  carve.CarvePic_MouseDown({10, 10});
-  carve.CarvePic_MouseUp({90, 90});
+  carve.BeginMark({10, 10});
+  carve.EndMark({90, 90});
   stage_.Key(kKeyF1 + 3);
   EXPECT_TRUE(carve.Floating()) << "beside a piece one can draw";
   // A maximized window hides the source: the piece stays, and another area brings it back.
@@ -187,7 +187,7 @@ TEST_F(CompareModesTest, OnlyOneHandTakesTheMouse) {
   MultiPicture& strip = modes_.Strip();
   Run("smbar");
   const auto ask = [&] {
-    strip.MPicBtn_Click(0);
+    strip.CarveNew();
     EXPECT_TRUE(strip.WaitingForSquare() && stage_.analysis.Tools().Drawing());
   };
   ask();
@@ -223,13 +223,13 @@ TEST_F(CompareModesTest, TheStripShowsWhatIsDrawnOnAllItsPictures) {
 TEST_F(CompareModesTest, TheSliderOfTheStrobeKeepsALock) {
   Run("cmdDualPlay");
   StrobeControl& strobe = modes_.Strobe();
-  strobe.ESlider_Change(14);
+  strobe.SeekTo(14);
   EXPECT_EQ(stage_.At(1), 14);
   EXPECT_EQ(stage_.At(2), 19);
-  strobe.SSCommand1_Click(2);
+  strobe.PressButton(StrobeButton::Strobe);
   EXPECT_FALSE(strobe.StrobeRunning());
   Run("cmdDualPlay");
-  strobe.SSCommand1_Click(2);
+  strobe.PressButton(StrobeButton::Strobe);
   EXPECT_TRUE(strobe.StrobeRunning());
   Run("cmdDualPlay");
   EXPECT_FALSE(strobe.StrobeRunning()) << "a lock ends what would pull it apart";

@@ -66,7 +66,7 @@ TEST(DrawingEdits, AllAsOneNeedsNoChoiceAndFramesWhatIsSeen) {
   EXPECT_EQ(desk.edits.marks->opposite, (POINTAPI{440, 180}));
   desk.Click(1, 20, 20);
   ASSERT_FALSE(desk.edits.marks);
-  desk.Edits().ribEBBtn_Click(true);
+  desk.Edits().EditAll(true);
   EXPECT_TRUE(desk.edits.handles[kMoveHandle] && desk.edits.handles[kDeleteHandle]);
   ASSERT_TRUE(desk.edits.marks);
   EXPECT_EQ(desk.edits.marks->opposite, (POINTAPI{440, 300}));
@@ -90,7 +90,7 @@ TEST(DrawingEdits, HandlesOnThePictureFollowTheMouse) {
   EXPECT_NEAR(desk.PointOf(0, 0).y, 150, 1);
 
   // All as one: the square and the circle come with the line.
-  desk.Edits().ribEBBtn_Click(true);
+  desk.Edits().EditAll(true);
   EXPECT_EQ(desk.edits.words, "All 3 drawings");
   drag(kMoveHandle, {0, 0}, {10, 0});
   EXPECT_EQ(desk.PointOf(1, 0), (POINTAPI{110, 250}));
@@ -111,7 +111,7 @@ TEST(DrawingEdits, AMacroFitsTheWindowThatItIsLaidOver) {
   const double width = desk.MP(1).ControlWidthPixels();
   desk.Slots().SetScreen(1);
   desk.Commands().Run("Cadoffbutton");
-  desk.Edits().MacroBtn_Click(0);
+  desk.Edits().InsertMacro(0);
   ASSERT_EQ(desk.Shapes().NumShapes, 3);
   EXPECT_NEAR(desk.PointOf(0, 1).x, 300 * desk.MP(1).ControlWidthPixels() / width, 1);
   EXPECT_TRUE(desk.edits.bar && desk.edits.multi);
@@ -122,9 +122,9 @@ TEST(DrawingEdits, AMacroFitsTheWindowThatItIsLaidOver) {
   EXPECT_EQ(desk.Shapes().NumShapes, 0);
 
   desk.host.answers = {false, true};
-  desk.Edits().SSCommand1_Click(0);
+  desk.Edits().DeleteMacro(0);
   EXPECT_EQ(desk.edits.macros.size(), 1u);
-  desk.Edits().SSCommand1_Click(0);
+  desk.Edits().DeleteMacro(0);
   EXPECT_TRUE(desk.edits.macros.empty());
   EXPECT_FALSE(std::filesystem::exists(desk.folder + "/Macro.dat")) << "without macros there is no file";
   // A file that nobody can read is told of, kept, and told of again.
@@ -147,7 +147,7 @@ TEST(DrawingEdits, AMacroOfDrawingsThatCameBackFitsTheirWindow) {
   desk.Slots().SetScreen(1);
   const POINTAPI seen = desk.PointOf(0, 1);
   desk.Commands().Run("DTMacro");
-  desk.Edits().MacroBtn_Click(0);
+  desk.Edits().InsertMacro(0);
   EXPECT_EQ(desk.PointOf(0, 1), seen);
 
   // Drawings that came with the video, in which nobody has drawn since.
@@ -155,11 +155,11 @@ TEST(DrawingEdits, AMacroOfDrawingsThatCameBackFitsTheirWindow) {
   desk.Open(1, desk.path);
   const POINTAPI stored = desk.PointOf(0, 1);
   desk.Commands().Run("DTMacro");
-  desk.Edits().MacroBtn_Click(1);
+  desk.Edits().InsertMacro(1);
   EXPECT_EQ(desk.PointOf(0, 1), stored);
   const double width = desk.MP(1).ControlWidthPixels();
   desk.Slots().SetScreen(4);
-  desk.Edits().MacroBtn_Click(1);
+  desk.Edits().InsertMacro(1);
   EXPECT_NEAR(desk.PointOf(0, 1).x, stored.x * desk.MP(1).ControlWidthPixels() / width, 1);
 }
 
@@ -173,7 +173,7 @@ TEST(DrawingEdits, TheGridIsTurnedOnAndSized) {
   const Colour ink = desk.settings.NewColors[11];
   const int width = desk.MP(1).ControlWidthPixels();
   for (const int divisions : {4, 3}) {
-    desk.Edits().HScroll3_Change(divisions);
+    desk.Edits().SetGridSize(divisions);
     const auto inked = [&](int of) { return desk.MP(1).Picture().Pixel(width % of / 2 + width / of, 5) == ink; };
     EXPECT_TRUE(inked(divisions) && !inked(7 - divisions)) << divisions;
   }

@@ -38,11 +38,11 @@ class FakeCompareView final : public ICompareView {
   void SetTransScroll(int value, bool enabled) override {
     scroll = value;
     scrollEnabled = enabled;
-    overlay->TransScroll_Scroll(value);
+    overlay->SlideMix(value);
   }
   void SelectOptShow(ShowOption which) override {
     option = which;
-    overlay->OptShow_Click(static_cast<int>(which));
+    overlay->Show(which);
   }
   void SetVideoScroll(int window, int lowest, int highest, int value) override { bars[window] = {lowest, highest, value}; }
   void SetVideoButtons(int window, bool on, bool, bool) override { playing[window] = on; }

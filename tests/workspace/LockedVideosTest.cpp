@@ -48,13 +48,13 @@ TEST_F(LockedVideosTest, RangesReachAsFarAsTheShortestSide) {
 TEST_F(LockedVideosTest, PairStepsUpToItsBoundsAndNoFurther) {
   Open({{100, 2}, {50, 40}});
   stage_.Slots().CurrentWindow = 2;
-  ASSERT_TRUE(lock_.cmdDualPlay());
+  ASSERT_TRUE(lock_.ToggleLock());
   EXPECT_TRUE(lock_.IsLocked(1) && !lock_.IsLocked(3));
-  for (int step = 0; step < 5; ++step) lock_.DualControl_Click(0);
+  for (int step = 0; step < 5; ++step) lock_.MoveTogether(DualMove::Back);
   EXPECT_EQ(Positions(2), (std::vector{0, 38}));
-  for (int step = 0; step < 20; ++step) lock_.DualControl_Click(1);
+  for (int step = 0; step < 20; ++step) lock_.MoveTogether(DualMove::Forward);
   EXPECT_EQ(Positions(2), (std::vector{10, 48}));  // one short of the last picture of slot 2
-  lock_.DualControl_Click(2);
+  lock_.MoveTogether(DualMove::Rewind);
   EXPECT_EQ(Positions(2), (std::vector{0, 38}));
 
   // The shared bar takes both along and stops at the bounds.
@@ -116,12 +116,12 @@ TEST_F(LockedVideosTest, GroupHoldsAllFourAndReplacesThePairs) {
 TEST_F(LockedVideosTest, LockIsRefusedOrEndsWithItsVideos) {
   Open({{20, 5}});
   EXPECT_FALSE(lock_.CanLock());
-  EXPECT_FALSE(lock_.cmdDualPlay());
+  EXPECT_FALSE(lock_.ToggleLock());
   ASSERT_TRUE(stage_.Open(2, RawVideo(20), 5));
   stage_.Slots().SetScreen(1);
   EXPECT_FALSE(lock_.CanLock());  // one window shows no pair
   stage_.Slots().SetScreen(2);
-  ASSERT_TRUE(lock_.cmdDualPlay());
+  ASSERT_TRUE(lock_.ToggleLock());
   lock_.PlayTogether();
   ASSERT_TRUE(stage_.Slots().CloseVideo(2));
   EXPECT_FALSE(lock_.IsLocked(1));
@@ -132,7 +132,7 @@ TEST_F(LockedVideosTest, LockIsRefusedOrEndsWithItsVideos) {
 
 TEST_F(LockedVideosTest, SplittingFieldsKeepsTheLockWhereTheVideosStand) {
   Open({{20, 5}, {20, 6}});
-  ASSERT_TRUE(lock_.cmdDualPlay());
+  ASSERT_TRUE(lock_.ToggleLock());
   stage_.Slots().CurrentWindow = 2;
   stage_.Slots().ToggleSplitFields();
   EXPECT_EQ(Positions(2), (std::vector{5, 12}));
@@ -141,7 +141,7 @@ TEST_F(LockedVideosTest, SplittingFieldsKeepsTheLockWhereTheVideosStand) {
 
 TEST_F(LockedVideosTest, PlayTogetherKeepsTheOffsetAtEverySpeed) {
   Open({{60, 10}, {60, 25}});
-  ASSERT_TRUE(lock_.cmdDualPlay());
+  ASSERT_TRUE(lock_.ToggleLock());
   for (const int percent : {100, 30, 250}) {
     lock_.DualControlRewind();
     ASSERT_TRUE(lock_.setTogetherSpeed(percent));
@@ -163,7 +163,7 @@ TEST_F(LockedVideosTest, PlayTogetherKeepsTheOffsetAtEverySpeed) {
 
 TEST_F(LockedVideosTest, PlayTogetherEndsOnTheLastOrBeginsAnew) {
   Open({{30, 0}, {24, 0}});
-  ASSERT_TRUE(lock_.cmdDualPlay());  // 0 to 22 both
+  ASSERT_TRUE(lock_.ToggleLock());  // 0 to 22 both
   lock_.PlayTogether();
   stage_.host.now += 500;  // a slow machine skips, but shows the last
   stage_.host.Advance(5000);

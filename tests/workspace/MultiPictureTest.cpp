@@ -27,7 +27,7 @@ class MultiPictureTest : public testing::Test {
   void Enter(int frames, int position, const std::string& skip) {
     ASSERT_TRUE(stage_.Open(1, RawVideo(frames), position));
     strip_.setSkipBox(skip);
-    strip_.smbar_Click();
+    strip_.ToggleStrip();
     ASSERT_TRUE(strip_.Shown());
     ASSERT_EQ(strip_.PictureCount(), 9);
     stage_.host.Advance(0);
@@ -61,7 +61,7 @@ TEST_F(MultiPictureTest, StripComesFromWhereverThereAreFramesEnough) {
     Enter(wish.frames, wish.position, wish.skip);
     EXPECT_EQ(Pictures(), wish.pictures) << wish.frames << " frames at " << wish.position;
     EXPECT_EQ(stage_.At(1), wish.stands);
-    strip_.MPicBtn_Click(1);
+    strip_.LeaveStrip();
     EXPECT_FALSE(strip_.Shown());
     EXPECT_EQ(stage_.Slots().ScreenLayout, "2");
   }
@@ -86,7 +86,7 @@ TEST_F(MultiPictureTest, PicturesShowTheMiddleOrTheCarvedSquare) {
   EXPECT_NEAR(strip_.SourceLeft() + strip_.PictureWidth() / 2.0, picture.Width() / 2.0, 2);
   EXPECT_NEAR(strip_.SourceTop() + strip_.PictureHeight() / 2.0, picture.Height() / 2.0, 2);
   EXPECT_FALSE(strip_.TakeSquare(1, {10, 10}, {100, 100}));  // nobody asked
-  strip_.MPicBtn_Click(0);
+  strip_.CarveNew();
   ASSERT_EQ(stage_.host.messages.size(), 1u);
   EXPECT_EQ(stage_.host.messages[0],
             "\"New Carve\" Active. Click on the video to draw a square around the area that you want to create a "
@@ -125,7 +125,7 @@ TEST_F(MultiPictureTest, ZoomAndPanMakeTheStripAnew) {
 }
 
 TEST_F(MultiPictureTest, ModeEndsWithItsVideoAndItsStripIsSaved) {
-  strip_.smbar_Click();
+  strip_.ToggleStrip();
   EXPECT_FALSE(strip_.Shown());  // an empty window
   Enter(40, 30, "3");
   ASSERT_TRUE(stage_.Slots().CloseVideo(1));

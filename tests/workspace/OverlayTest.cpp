@@ -16,7 +16,7 @@ class OverlayTest : public testing::Test {
   void SetUp() override {
     ASSERT_TRUE(stage_.Open(1, RawVideo(40), 3));
     ASSERT_TRUE(stage_.Open(2, RawVideo(40), 21));
-    overlay_.STM_Click();
+    overlay_.ToggleTransparency();
     ASSERT_TRUE(view_.transparency);
   }
   /// A point of the mix at which the two pictures, which are of one size, differ.
@@ -36,7 +36,7 @@ class OverlayTest : public testing::Test {
   }
   Colour Mix(POINTAPI point) const { return view_.mix.Pixel(point.x, point.y); }
   void SetMix(int value) {
-    overlay_.TransScroll_Scroll(value);
+    overlay_.SlideMix(value);
     stage_.host.Advance(0);
   }
 
@@ -60,14 +60,14 @@ TEST_F(OverlayTest, SliderGoesFromOneVideoToTheOther) {
   EXPECT_EQ(view_.option, ShowOption::Transparency);
   for (const auto part : {Red, Green, Blue})
     EXPECT_NEAR(part(Mix(at)), part(Of(2, at)) * 64 / 255.0 + part(Of(1, at)) * 191 / 255.0, 1.01);
-  overlay_.STM_Click();
+  overlay_.ToggleTransparency();
   EXPECT_FALSE(view_.transparency);
   EXPECT_EQ(stage_.Slots().ScreenLayout, "4");
 }
 
 TEST_F(OverlayTest, PresetsWalkBySteps) {
   std::vector<int> seen;
-  overlay_.OptShow_Click(2);  // from 128 down to 0
+  overlay_.Show(ShowOption::VideoWindow1);  // from 128 down to 0
   for (int step = 0; step < 20; ++step) {
     stage_.host.Advance(20);
     if (seen.empty() || seen.back() != view_.scroll) seen.push_back(view_.scroll);
@@ -76,10 +76,10 @@ TEST_F(OverlayTest, PresetsWalkBySteps) {
   EXPECT_EQ(view_.option, ShowOption::VideoWindow1);
   EXPECT_EQ(Mix(Probe()), Of(1, Probe()));
   // The user's hand on the slider ends a walk.
-  overlay_.OptShow_Click(3);
+  overlay_.Show(ShowOption::VideoWindow2);
   stage_.host.Advance(60);
   EXPECT_EQ(view_.scroll, 45);
-  overlay_.TransScroll_Scroll(200);
+  overlay_.SlideMix(200);
   stage_.host.Advance(1000);
   EXPECT_EQ(overlay_.TransScroll(), 200);
   EXPECT_EQ(view_.option, ShowOption::Transparency);
@@ -87,7 +87,7 @@ TEST_F(OverlayTest, PresetsWalkBySteps) {
 
 TEST_F(OverlayTest, SplitScreenShowsTheMiddleHalfOfEachCell) {
   SetMix(0);
-  overlay_.OptShow_Click(1);
+  overlay_.Show(ShowOption::SplitScreen);
   EXPECT_FALSE(view_.scrollEnabled);
   EXPECT_EQ(Mix({500, 301}), Of(1, {500, 301})) << "the old picture has not gone yet";
   stage_.host.Advance(1000);
@@ -99,9 +99,9 @@ TEST_F(OverlayTest, SplitScreenShowsTheMiddleHalfOfEachCell) {
   EXPECT_EQ(view_.mix.Pixel(750, 300), second.Pixel(second.Width() / 2, 300 - top));
   EXPECT_EQ(view_.mix.Pixel(299, 300), 0);
   EXPECT_EQ(view_.mix.Pixel(901, 300), 0);
-  overlay_.TransScroll_Scroll(10);  // has no effect now
+  overlay_.SlideMix(10);  // has no effect now
   EXPECT_EQ(overlay_.Shown(), ShowOption::SplitScreen);
-  overlay_.OptShow_Click(0);
+  overlay_.Show(ShowOption::Transparency);
   stage_.host.Advance(1000);
   EXPECT_TRUE(view_.scrollEnabled);
   EXPECT_EQ(overlay_.TransScroll(), 128);
@@ -143,24 +143,24 @@ TEST_F(OverlayTest, EachVideoStandsWhereItsPanPutsIt) {
 }
 
 TEST_F(OverlayTest, EachVideoRunsFromItsOwnButtons) {
-  overlay_.VidCtlBtn_Click(static_cast<int>(VideoControl::Forward));
+  overlay_.ControlVideo(1, VideoControl::Forward);
   EXPECT_EQ(stage_.At(1), 4);
-  overlay_.VidCtlBtn2_Click(static_cast<int>(VideoControl::Loop));
+  overlay_.ControlVideo(2, VideoControl::Loop);
   EXPECT_TRUE(stage_.MP(2).IsPlaying());
   EXPECT_TRUE(view_.playing.at(2));
   stage_.host.Advance(3000);
   EXPECT_TRUE(stage_.MP(2).IsPlaying());
   EXPECT_EQ(stage_.At(1), 4);
-  overlay_.VidCtlBtn2_Click(static_cast<int>(VideoControl::Play));
+  overlay_.ControlVideo(2, VideoControl::Play);
   EXPECT_FALSE(stage_.MP(2).IsPlaying());
   EXPECT_FALSE(view_.playing.at(2));
-  overlay_.HScroll2_Scroll(7);
+  overlay_.SeekVideo(2, 7);
   EXPECT_EQ(stage_.At(2), 7);
   ASSERT_TRUE(locks_.DualLock(1));
-  overlay_.HScroll2_Scroll(10);
+  overlay_.SeekVideo(2, 10);
   EXPECT_EQ(stage_.At(1), 7);  // comes along
   ASSERT_TRUE(stage_.Slots().CloseVideo(2));
-  overlay_.VidCtlBtn2_Click(static_cast<int>(VideoControl::Play));  // empty: nothing to do
+  overlay_.ControlVideo(2, VideoControl::Play);  // empty: nothing to do
   EXPECT_EQ(view_.bars.at(2), (std::array{0, 0, 0}));
   SetMix(255);
   EXPECT_EQ(view_.mix.Pixel(600, 300), 0);

@@ -17,9 +17,9 @@ class StageHomeTest : public testing::Test {
     slots_.SelectWindow(5);
   }
   void Toggle(const std::string& mode) {
-    if (mode == "TMAX") slots_.TMAX_Click();
-    if (mode == "smbar") stage_.Modes().Strip().smbar_Click();
-    if (mode == "STM") stage_.Modes().Transparency().STM_Click();
+    if (mode == "TMAX") slots_.ToggleMaximize();
+    if (mode == "smbar") stage_.Modes().Strip().ToggleStrip();
+    if (mode == "STM") stage_.Modes().Transparency().ToggleTransparency();
   }
   /// Everything is as in a layout that was never left.
   void ExpectHome(const std::string& layout, int window) {
@@ -54,7 +54,7 @@ TEST_F(StageHomeTest, EveryWayThereLeadsBack) {
       {"the layout of transparency", [&](const std::string&) { stage_.Key('2'); }, "2", 1},
       {"a video sent to another window",
        [&](const std::string&) { EXPECT_EQ(slots_.SendToAnalysis(stage_.Video("sent.avi")), 3); }, "8", 3},
-      {"all videos closed", [&](const std::string&) { EXPECT_TRUE(slots_.MnuCloseAll_Click()); }, "8", 1},
+      {"all videos closed", [&](const std::string&) { EXPECT_TRUE(slots_.CloseAll()); }, "8", 1},
   };
   for (const std::string& first : modes)
     for (const std::string& last : modes)

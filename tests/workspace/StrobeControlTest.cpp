@@ -31,7 +31,7 @@ class StrobeControlTest : public testing::Test {
 
   void SetUp() override {
     ASSERT_TRUE(stage_.Open(1, RawVideo(40), 6));
-    strobe_.Combo1_Click(1);  // every second frame, a layer each 100 ms
+    strobe_.ChooseStep(1);  // every second frame, a layer each 100 ms
     ASSERT_EQ(strobe_.StrobeStep(), 2);
   }
 
@@ -41,12 +41,12 @@ class StrobeControlTest : public testing::Test {
 };
 
 TEST_F(StrobeControlTest, QuickStrobeRunsToTheEndAndASecondPressStopsIt) {
-  strobe_.StrobeBtn_Click();
+  strobe_.ToggleStrobe();
   EXPECT_TRUE(strobe_.StrobeRunning());
   stage_.host.Advance(350);
   const int at = stage_.At(1);
   EXPECT_GT(at, 6);
-  strobe_.StrobeBtn_Click();
+  strobe_.ToggleStrobe();
   EXPECT_FALSE(strobe_.StrobeRunning());
   stage_.host.Advance(2000);
   EXPECT_EQ(stage_.At(1), at);
@@ -57,13 +57,13 @@ TEST_F(StrobeControlTest, QuickStrobeRunsToTheEndAndASecondPressStopsIt) {
   strobe_.RunningChanged = [&] { told.push_back(strobe_.StrobeRunning()); };
   stage_.MP(1).DrawFrame(20);
   EXPECT_FALSE(strobe_.HasResult() || strobe_.SavePicture(TestPath("none.png")));
-  strobe_.StrobeBtn_Click();
+  strobe_.ToggleStrobe();
   stage_.host.Advance(5000);
   EXPECT_FALSE(strobe_.StrobeRunning());
   EXPECT_GE(stage_.At(1), 36);
   EXPECT_EQ(told, (std::vector<bool>{true, false}));
   stage_.Slots().SelectWindow(2);
-  strobe_.StrobeBtn_Click();  // an empty window
+  strobe_.ToggleStrobe();  // an empty window
   EXPECT_FALSE(strobe_.StrobeRunning());
 }
 
@@ -71,23 +71,23 @@ TEST_F(StrobeControlTest, WindowChoosesStartAndEnd) {
   strobe_.SetWindow(&view_);
   EXPECT_EQ(view_.captions, (Captions{"Start Here", "End Here", "Strobe"}));
   EXPECT_EQ(view_.slider, (std::array{0, 39, 6}));
-  strobe_.ESlider_Change(10);
+  strobe_.SeekTo(10);
   EXPECT_EQ(stage_.At(1), 10);
-  strobe_.SSCommand1_Click(0);
-  strobe_.ESlider_Change(5);
-  strobe_.SSCommand1_Click(1);
+  strobe_.PressButton(StrobeButton::Start);
+  strobe_.SeekTo(5);
+  strobe_.PressButton(StrobeButton::End);
   EXPECT_EQ(view_.captions, (Captions{"Start at 10", "End at 5", "Strobe"}));
-  strobe_.SSCommand1_Click(2);  // the end lies before the start
+  strobe_.PressButton(StrobeButton::Strobe);  // the end lies before the start
   EXPECT_FALSE(strobe_.StrobeRunning());
 
-  strobe_.ESlider_Change(20);
-  strobe_.SSCommand1_Click(1);
-  strobe_.SSCommand1_Click(2);
+  strobe_.SeekTo(20);
+  strobe_.PressButton(StrobeButton::End);
+  strobe_.PressButton(StrobeButton::Strobe);
   EXPECT_EQ(view_.captions[2], "Stop");
   EXPECT_FALSE(view_.result);
-  strobe_.SSCommand1_Click(2);
+  strobe_.PressButton(StrobeButton::Strobe);
   EXPECT_FALSE(strobe_.StrobeRunning());
-  strobe_.SSCommand1_Click(2);
+  strobe_.PressButton(StrobeButton::Strobe);
   stage_.host.Advance(5000);
   EXPECT_EQ(view_.captions[2], "Strobe");
   EXPECT_TRUE(view_.result);
@@ -99,9 +99,9 @@ TEST_F(StrobeControlTest, FramesAreRawWhereFieldsAreSplit) {
   stage_.Slots().ToggleSplitFields();
   strobe_.SetWindow(&view_);
   stage_.MP(1).DrawFrame(31);
-  strobe_.SSCommand1_Click(0);
+  strobe_.PressButton(StrobeButton::Start);
   EXPECT_EQ(view_.captions[0], "Start at 31");
-  strobe_.SSCommand1_Click(2);  // no end chosen: to the last frame
+  strobe_.PressButton(StrobeButton::Strobe);  // no end chosen: to the last frame
   stage_.host.Advance(5000);
   EXPECT_GE(stage_.At(1) / 2, 36);
 }
@@ -109,11 +109,11 @@ TEST_F(StrobeControlTest, FramesAreRawWhereFieldsAreSplit) {
 TEST_F(StrobeControlTest, AnotherWindowOrVideoResets) {
   ASSERT_TRUE(stage_.Open(2, RawVideo(25), 3));
   strobe_.SetWindow(&view_);
-  strobe_.SSCommand1_Click(0);
-  strobe_.SSCommand1_Click(2);
+  strobe_.PressButton(StrobeButton::Start);
+  strobe_.PressButton(StrobeButton::Strobe);
   // What happens to the stage and to other windows is none of its business.
-  stage_.Slots().TMAX_Click();
-  stage_.Slots().TMAX_Click();
+  stage_.Slots().ToggleMaximize();
+  stage_.Slots().ToggleMaximize();
   stage_.Slots().SetScreen(4);
   ASSERT_TRUE(stage_.Open(2, RawVideo(25), 3));
   ASSERT_TRUE(stage_.Open(3, RawVideo(25)));
@@ -125,13 +125,13 @@ TEST_F(StrobeControlTest, AnotherWindowOrVideoResets) {
   EXPECT_EQ(view_.captions[0], "Start Here");
   EXPECT_EQ(view_.slider, (std::array{0, 29, 0}));
 
-  strobe_.SSCommand1_Click(1);
-  strobe_.SSCommand1_Click(2);
+  strobe_.PressButton(StrobeButton::End);
+  strobe_.PressButton(StrobeButton::Strobe);
   stage_.Slots().SelectWindow(2);
   EXPECT_FALSE(strobe_.StrobeRunning());
   EXPECT_EQ(view_.captions, (Captions{"Start Here", "End Here", "Strobe"}));
   EXPECT_EQ(view_.slider, (std::array{0, 24, 3}));
-  strobe_.SSCommand1_Click(2);
+  strobe_.PressButton(StrobeButton::Strobe);
   ASSERT_TRUE(stage_.Slots().CloseVideo(2));
   EXPECT_FALSE(strobe_.StrobeRunning());
   strobe_.SetWindow(nullptr);

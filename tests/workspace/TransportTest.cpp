@@ -15,12 +15,12 @@ struct TransportTest : testing::Test {
 
 TEST_F(TransportTest, AnEmptyWindowRefusesEveryMoveAndSaysSo) {
   EXPECT_EQ(stage.window.line, "0 seconds | 00/00 frames  ");
-  transport.cmdPlay();
-  transport.cmdREwind();
-  transport.vn_Click();
+  transport.TogglePlay();
+  transport.Rewind();
+  transport.StepForward();
   transport.ToggleLoop();
   transport.ToggleSlomo();
-  transport.TMark_Click();
+  transport.AddMark();
   EXPECT_FALSE(stage.window.playing || stage.window.loop || stage.window.slomo);
   EXPECT_TRUE(stage.window.marks.empty());
 }
@@ -46,9 +46,9 @@ TEST_F(TransportTest, FieldsCountTwice) {
   ASSERT_TRUE(stage.MP(1).SplitFields()) << "camera material opens with its fields apart";
   transport.Seek(20);
   EXPECT_EQ(stage.window.line, ".33 seconds | 20/39 frames  ");
-  transport.vn_Click();
+  transport.StepForward();
   EXPECT_EQ(stage.At(1), 21);
-  transport.TMark_Click();
+  transport.AddMark();
   stage.Slots().ToggleSplitFields();
   EXPECT_EQ(stage.window.line, ".33 seconds | 10/19 frames  ");
   EXPECT_EQ(stage.window.marks, std::vector{10});
@@ -57,23 +57,23 @@ TEST_F(TransportTest, FieldsCountTwice) {
 TEST_F(TransportTest, PlayGoesOnFromHereAndFromTheEndBeginsAgain) {
   stage.Open(1, stage.Video("a.avi"));
   transport.Seek(10);
-  transport.cmdPlay();
+  transport.TogglePlay();
   EXPECT_TRUE(stage.window.playing);
   stage.host.Advance(200);
   EXPECT_GT(stage.At(1), 12);
   EXPECT_LT(stage.At(1), 20);
   EXPECT_EQ(stage.window.value, stage.At(1)) << "the bar runs with the film";
-  transport.cmdPlay();
+  transport.TogglePlay();
   EXPECT_FALSE(stage.window.playing || stage.MP(1).IsPlaying());
 
   for (const int start : {28, 29}) {
     transport.Seek(start);
-    transport.cmdPlay();
+    transport.TogglePlay();
     EXPECT_EQ(stage.At(1), 0) << start;
-    transport.cmdPlay();
+    transport.TogglePlay();
   }
   transport.Seek(27);
-  transport.cmdPlay();
+  transport.TogglePlay();
   EXPECT_EQ(stage.At(1), 27);
   stage.host.Advance(1000);
   EXPECT_EQ(stage.At(1), 29);
@@ -82,21 +82,21 @@ TEST_F(TransportTest, PlayGoesOnFromHereAndFromTheEndBeginsAgain) {
 
 TEST_F(TransportTest, StepsStopAtBothEndsAndTakeARunningFilmInHand) {
   stage.Open(1, stage.Video("a.avi"));
-  transport.vp_Click();
+  transport.StepBack();
   EXPECT_EQ(stage.At(1), 0);
   transport.Seek(29);
-  transport.vn_Click();
+  transport.StepForward();
   EXPECT_EQ(stage.At(1), 29);
 
   transport.Seek(5);
-  transport.cmdPlay();
+  transport.TogglePlay();
   stage.host.Advance(100);
   const int running = stage.At(1);
-  transport.vn_Click();
+  transport.StepForward();
   EXPECT_EQ(stage.At(1), running + 1);
   EXPECT_FALSE(stage.MP(1).IsPlaying());
-  transport.cmdPlay();
-  transport.cmdREwind();
+  transport.TogglePlay();
+  transport.Rewind();
   EXPECT_EQ(stage.At(1), 0);
   EXPECT_FALSE(stage.window.playing);
 }
@@ -153,13 +153,13 @@ TEST_F(TransportTest, LoopsOneOrAllVideosOfTheLayout) {
   transport.ToggleLoop();
   stage.host.Advance(2500);
   EXPECT_TRUE(stage.MP(1).IsPlaying());
-  transport.TLAV_Click();
+  transport.ToggleLoopAll();
   EXPECT_TRUE(stage.MP(2).IsPlaying() && transport.AllLooping());
   EXPECT_FALSE(stage.MP(3).IsPlaying()) << "the layout does not show it";
-  transport.TLAV_Click();
+  transport.ToggleLoopAll();
   EXPECT_FALSE(stage.MP(1).IsPlaying() || stage.MP(2).IsPlaying() || stage.window.loop);
   transport.ToggleLoop();
-  transport.cmdPlay();
+  transport.TogglePlay();
   EXPECT_FALSE(stage.window.loop) << "pause ends the loop";
 }
 
@@ -168,16 +168,16 @@ TEST_F(TransportTest, TenMarksForEachWindow) {
   stage.Open(2, stage.Video("b.avi"));
   for (int i = 0; i < 12; ++i) {
     transport.Seek(2 * i + 1);
-    transport.TMark_Click();
+    transport.AddMark();
   }
   EXPECT_EQ(stage.window.marks.size(), 10u);
-  transport.Mark_Click(3);
+  transport.GoToMark(3);
   EXPECT_EQ(stage.At(1), 7);
   stage.Slots().SelectWindow(2);
   EXPECT_TRUE(stage.window.marks.empty());
   stage.Slots().SelectWindow(1);
   EXPECT_EQ(stage.window.marks[9], 19);
-  transport.TMarkoff_Click();
+  transport.ClearMarks();
   EXPECT_TRUE(stage.window.marks.empty());
 }
 

@@ -61,7 +61,7 @@ TEST_F(Undo, EveryKindOfChangeIsOneStep) {
       },
       [&] { stage_.analysis.Edits().Nudge(7, -3); },
       [&] {
-        stage_.analysis.Edits().ribEBBtn_Click(true);
+        stage_.analysis.Edits().EditAll(true);
         stage_.analysis.Edits().Nudge(7, -3);
       },
       [&] { Key(kKeyDelete); },
@@ -227,17 +227,17 @@ TEST_F(Undo, TheRulerTakesItsOwnLineAndNoOther) {
   Click({200, 60});
   EXPECT_EQ(stage_.window.calibrationLength, "100pts");
   Draw(kEllipse, {300, 100}, {350, 140});
-  stage_.analysis.Ruler().CalibBtn_Click(1);
+  stage_.analysis.Ruler().CancelCalibration();
   EXPECT_EQ(Drawn().back().Kind, kEllipse) << "drawn with the panel open: it is the selected one";
   // A line that was there before may be measured too.
   Do("MenuEdit");
   Do("TCal");
-  stage_.analysis.Tools().DrawOffBtn_Click();
+  stage_.analysis.Tools().PutToolDown();
   stage_.Shapes().CurShape = 0;
   stage_.analysis.Tools().SetShapeCaption();
   EXPECT_NE(stage_.window.calibrationLength, "");
   const int count = Count();
-  stage_.analysis.Ruler().CalibBtn_Click(0, 1, kFeet, kFeet);
+  stage_.analysis.Ruler().Calibrate(1, kFeet, kFeet);
   EXPECT_EQ(Count(), count);
 }
 

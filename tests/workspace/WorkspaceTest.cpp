@@ -40,10 +40,10 @@ TEST(WorkspaceLayouts, StartsWithTheLayoutOfTheSettings) {
 
 TEST(WorkspaceLayouts, MaximizeShowsTheCurrentVideoAlone) {
   AnalysisStage stage("4");
-  EXPECT_FALSE(stage.Slots().TMAX_Click()) << "an empty window";
+  EXPECT_FALSE(stage.Slots().ToggleMaximize()) << "an empty window";
   stage.Open(3, stage.Video("a.avi"));
   stage.Slots().SelectWindow(3);
-  ASSERT_TRUE(stage.Slots().TMAX_Click());
+  ASSERT_TRUE(stage.Slots().ToggleMaximize());
   EXPECT_EQ(stage.Slots().ScreenLayout, "MAX");
   ASSERT_EQ(stage.window.cells.size(), 1u);
   EXPECT_EQ(stage.window.cells.begin()->first, 3);
@@ -78,7 +78,7 @@ TEST(WorkspaceVideos, OpeningBeginsAfreshInEverySlot) {
   EXPECT_EQ(stage.window.titles[1], "Erica Sample \u00B7 (003) FO driver");
   stage.Slots().SetZoom(2);
   stage.Slots().Pan(50, 0);
-  stage.analysis.Player().TMark_Click();
+  stage.analysis.Player().AddMark();
   stage.analysis.Player().ToggleSlomo();
   stage.Slots().ToggleFlip();
   stage.Slots().At(1).SlotFrameRate = 99;
@@ -107,7 +107,7 @@ TEST(WorkspaceVideos, BadFilesAreToldAndHarmNobody) {
   EXPECT_FALSE(stage.Slots().HasVideo(1));
   EXPECT_FALSE(FileExists(stage.folder + "/text.ved"));
   stage.Slots().SelectWindow(1);
-  stage.analysis.Player().cmdPlay();
+  stage.analysis.Player().TogglePlay();
   stage.Slots().CloseVideo(1);
   EXPECT_TRUE(stage.Open(1, stage.Video("other.avi")));
   EXPECT_TRUE(stage.Slots().HasVideo(2));
@@ -151,14 +151,14 @@ TEST(WorkspaceVideos, FillsAllTopOrBottom) {
   stage.Open(2, stage.Video("a.avi"));
   EXPECT_FALSE(stage.Slots().CanFill()) << "the current window is empty";
   stage.Slots().SelectWindow(2);
-  stage.Slots().TFT_Click();
+  stage.Slots().FillTopRow();
   EXPECT_EQ(full(), "123");
-  stage.Slots().TFB_Click();
+  stage.Slots().FillBottomRow();
   EXPECT_EQ(full(), "123456");
   stage.Slots().SetScreen(2);
   EXPECT_TRUE(stage.Slots().CanFill());
   EXPECT_FALSE(stage.Slots().CanFillRows());
-  stage.Slots().MnuCloseAll_Click();
+  stage.Slots().CloseAll();
   EXPECT_EQ(full(), "");
   EXPECT_EQ(stage.Slots().CurrentWindow, 1);
 }
@@ -231,9 +231,9 @@ TEST_F(BlockedSidecar, DrawingsStayUntilTheUserLetsThemGo) {
   ASSERT_TRUE(stage.Open(2, path));
   stage.Slots().SelectWindow(2);
   stage.Draw(kLine, {40, 50}, {200, 90});
-  ASSERT_TRUE(stage.Slots().TMAX_Click());
+  ASSERT_TRUE(stage.Slots().ToggleMaximize());
   stage.host.answers = {false, false};
-  EXPECT_FALSE(stage.Slots().MnuCloseAll_Click());
+  EXPECT_FALSE(stage.Slots().CloseAll());
   EXPECT_TRUE(stage.Slots().HasVideo(2));
   EXPECT_EQ(stage.Slots().ScreenLayout, "2");
   EXPECT_TRUE(stage.window.cells.contains(1) && stage.window.borders[1]);

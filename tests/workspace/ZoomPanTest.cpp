@@ -21,18 +21,18 @@ class ZoomPanTest : public testing::Test {
   ZoomPan& zoom_ = stage_.Modes().Zoom();
 };
 
-TEST_F(ZoomPanTest, ButtonsPressTheirKeys) {
+TEST_F(ZoomPanTest, ButtonsDoWhatTheKeysDo) {
   const Slot& slot = stage_.Slots().At(1);
   const std::pair<double, double> panned[] = {{0, -50}, {50, 0}, {0, 50}, {-50, 0}, {0, 0}};
   for (int index = 0; index < 5; ++index) {
-    zoom_.PanBtn_MouseDown(index);
-    zoom_.PanBtn_MouseUp();
+    zoom_.BeginPan(static_cast<PanMove>(index));
+    zoom_.EndPan();
     EXPECT_EQ(std::pair(slot.PanX, slot.PanY), panned[index]) << index;
     stage_.Slots().ResetZoom();
   }
   const double zoomed[] = {0.9, 1.0, 1.0};
   for (const int index : {0, 1, 2}) {
-    zoom_.ZoomBtn_Click(index);
+    zoom_.Zoom(static_cast<ZoomMove>(index));
     EXPECT_DOUBLE_EQ(slot.VideoZoom, zoomed[index]) << index;
   }
 }

@@ -23,7 +23,7 @@ LibraryLists::LibraryLists(LibraryBrowser& browser, const Settings& settings, QO
   connect(instructors_, &QListWidget::currentRowChanged, this, [this](int row) {
     if (!Leave()) return;
     emit Chosen();
-    browser_.InstructorList_Click(row);
+    browser_.ChooseInstructor(row);
     emit InstructorChosen();
     ShowStudents();
   });
@@ -31,12 +31,12 @@ LibraryLists::LibraryLists(LibraryBrowser& browser, const Settings& settings, QO
     if (!Leave()) return;
     emit Chosen();
     if (const int before = browser_.StudentIndex(); before >= 0) students_->SetCount(before, -1);
-    browser_.StudentList_Click(row);
+    browser_.ChooseStudent(row);
     ShowVideos();
   });
   connect(videos_, &QListWidget::currentRowChanged, this, [this](int row) {
     emit Chosen();
-    browser_.VideoList_Click(row);
+    browser_.ChooseVideo(row);
     emit VideoChosen();
   });
   connect(videos_, &QListWidget::itemActivated, this, &LibraryLists::VideoActivated);

@@ -62,7 +62,7 @@ AnalysisForm::AnalysisForm(IHost& host, IPrinter& printer, Settings& settings, P
 
   menus_ = new CommandMenus(analysis_->Commands().Commands(), run, this);
   colors_ = new ColorRow(menus_);
-  connect(colors_, &ColorRow::Chosen, this, [this](int index) { analysis_->ColorChoiceBtn_Click(index); });
+  connect(colors_, &ColorRow::Chosen, this, [this](int index) { analysis_->ChooseColour(index); });
   menus_->setCornerWidget(colors_, Qt::TopRightCorner);
   strip_ = new ToolStrip(analysis_->Commands().Commands(), run, this);
 
@@ -120,7 +120,7 @@ void AnalysisForm::MakeStage() {
   connect(playBar_, &PlayBar::Redocked, this, [this] { analysis_->Slots().SetPlayBar(); });
   notes_ = new NotesPanel(analysis_->Notes(), stage_);
   caption_ = new DrawCaption(stage_);
-  connect(caption_, &DrawCaption::Off, this, [this] { analysis_->DrawOffBtn_Click(); });
+  connect(caption_, &DrawCaption::Off, this, [this] { analysis_->PutToolDown(); });
   connect(caption_, &DrawCaption::Changed, this, [this] { PlaceCaption(); });
   timer_ = new VideoTimerForm(analysis_->Timer(), stage_);
   connect(timer_, &FloatCard::CloseWanted, this, [this] { Run("TVT"); });
@@ -154,9 +154,9 @@ void AnalysisForm::keyPressEvent(QKeyEvent* event) {
   if (event->isAutoRepeat() && !RepeatsWhileHeld(*event) && !nudges) return;
   const bool combined = event->modifiers() & (Qt::ControlModifier | Qt::AltModifier) && code != kKeyCtrl &&
                         !IsLetterWithCtrl(*event);
-  bool taken = code != 0 && !combined && analysis_->Commands().Form_KeyDown(code, ShiftOf(event->modifiers()));
+  bool taken = code != 0 && !combined && analysis_->Commands().PressKey(code, ShiftOf(event->modifiers()));
   if (const int character = KeyAsciiOf(*event); character != 0)
-    taken = analysis_->Commands().Form_KeyPress(character) || taken;
+    taken = analysis_->Commands().PressLetter(character) || taken;
   if (!taken) QWidget::keyPressEvent(event);
 }
 

@@ -64,11 +64,11 @@ CalibrationPanel::CalibrationPanel(RulerCalibration& ruler, const Settings& sett
   Body()->addLayout(buttons);
   connect(typed_, &QLineEdit::textChanged, this, [this] { Enable(); });
   connect(typed_, &QLineEdit::returnPressed, this, [this] {
-    if (ok_->isEnabled()) Finish(0);
+    if (ok_->isEnabled()) Calibrate();
   });
-  connect(ok_, &QPushButton::clicked, this, [this] { Finish(0); });
-  connect(cancel, &QPushButton::clicked, this, [this] { Finish(1); });
-  connect(this, &FloatCard::CloseWanted, this, [this] { Finish(1); });
+  connect(ok_, &QPushButton::clicked, this, [this] { Calibrate(); });
+  connect(cancel, &QPushButton::clicked, this, [this] { ruler_.CancelCalibration(); });
+  connect(this, &FloatCard::CloseWanted, this, [this] { ruler_.CancelCalibration(); });
   Enable();
 }
 
@@ -118,9 +118,8 @@ void CalibrationPanel::Enable() {
   ok_->setToolTip(!drawn ? tr("Draw a line first") : ok_->isEnabled() ? "" : tr("Type the length of the line first"));
 }
 
-void CalibrationPanel::Finish(int index) {
-  ruler_.CalibBtn_Click(index, Typed(typed_->text()), static_cast<LengthUnit>(UnitFrom(0)),
-                        static_cast<LengthUnit>(UnitFrom(4)));
+void CalibrationPanel::Calibrate() {
+  ruler_.Calibrate(Typed(typed_->text()), static_cast<LengthUnit>(UnitFrom(0)), static_cast<LengthUnit>(UnitFrom(4)));
 }
 
 }  // namespace kinalyx

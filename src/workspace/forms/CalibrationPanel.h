@@ -29,7 +29,7 @@ class CalibrationPanel : public FloatCard {
   QLayout* Units(const QString& title, int first);
   int UnitFrom(int first) const;
   void Enable();
-  void Finish(int index);
+  void Calibrate();
 
   RulerCalibration& ruler_;
   const Settings& settings_;

@@ -65,11 +65,11 @@ CarvePanel::CarvePanel(Carve& carve, QWidget* parent)
   Body()->addWidget(content_);
   connect(CScroll_, &QSlider::valueChanged, this, [this](int percent) {
     percent_->setText(QString("%1 %").arg(percent));
-    carve_.CScroll_Change(percent);
+    carve_.ScalePiece(percent);
   });
   connect(opacity_, &QSlider::valueChanged, this, [this](int percent) { emit OpacityChanged(percent / 100.0); });
   connect(anew_, &QPushButton::clicked, this, [this] { carve_.MarkAnew(); });
-  connect(this, &FloatCard::CloseWanted, this, [this] { carve_.TTCarve(); });
+  connect(this, &FloatCard::CloseWanted, this, [this] { carve_.ToggleCarve(); });
   Dress();
 }
 
@@ -151,15 +151,15 @@ void CarveCanvas::paintEvent(QPaintEvent*) {
 }
 
 void CarveCanvas::mousePressEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton) carve_.CarvePic_MouseDown(PicturePoint(*event));
+  if (event->button() == Qt::LeftButton) carve_.BeginMark(PicturePoint(*event));
 }
 
 void CarveCanvas::mouseMoveEvent(QMouseEvent* event) {
-  if (event->buttons() & Qt::LeftButton) carve_.CarvePic_MouseMove(PicturePoint(*event));
+  if (event->buttons() & Qt::LeftButton) carve_.MoveMark(PicturePoint(*event));
 }
 
 void CarveCanvas::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton) carve_.CarvePic_MouseUp(PicturePoint(*event));
+  if (event->button() == Qt::LeftButton) carve_.EndMark(PicturePoint(*event));
 }
 
 // ---------------------------------------------------------------- CarvePiece
@@ -201,9 +201,9 @@ POINTAPI CarvePiece::StagePoint(const QMouseEvent& event) const {
 }
 
 void CarvePiece::mousePressEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton) carve_.picRot_MouseDown(StagePoint(*event));
+  if (event->button() == Qt::LeftButton) carve_.GrabPiece(StagePoint(*event));
 }
 
-void CarvePiece::mouseMoveEvent(QMouseEvent* event) { carve_.picRot_MouseMove(StagePoint(*event)); }
+void CarvePiece::mouseMoveEvent(QMouseEvent* event) { carve_.DragPiece(StagePoint(*event)); }
 
 }  // namespace kinalyx

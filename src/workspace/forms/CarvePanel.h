@@ -85,7 +85,7 @@ class CarvePiece : public SurfaceView {
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
-  void mouseReleaseEvent(QMouseEvent*) override { carve_.picRot_MouseUp(); }
+  void mouseReleaseEvent(QMouseEvent*) override { carve_.ReleasePiece(); }
 
  private:
   POINTAPI StagePoint(const QMouseEvent& event) const;

@@ -78,9 +78,9 @@ void CompareForms::Build(CompareModes& modes, Workspace& workspace, QWidget* sta
                     [this](const std::string& path) { return modes_->Strobe().SavePicture(path); });
       },
       stage);
-  connect(strobe_, &FloatCard::CloseWanted, this, [this] { modes_->TASF_Click(); });
+  connect(strobe_, &FloatCard::CloseWanted, this, [this] { modes_->ToggleStrobeForm(); });
   zoom_ = new ZoomForm(modes.Zoom(), stage);
-  connect(zoom_, &FloatCard::CloseWanted, this, [this] { modes_->TZP_Click(); });
+  connect(zoom_, &FloatCard::CloseWanted, this, [this] { modes_->ToggleZoomForm(); });
   stage->installEventFilter(this);
   PlaceOnStage();
 }

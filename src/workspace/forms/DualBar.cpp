@@ -66,11 +66,11 @@ DualBar::DualBar(CompareModes& modes, Workspace& workspace, QWidget* parent) : Q
   row->addWidget(line_);
 
   LockedVideos& locks = modes.Locks();
-  connect(lock_, &QToolButton::clicked, this, [&locks] { locks.cmdDualPlay(); });
+  connect(lock_, &QToolButton::clicked, this, [&locks] { locks.ToggleLock(); });
   connect(lockAll_, &QToolButton::clicked, this, [&locks] { locks.LockAll(); });
-  connect(back_, &QToolButton::clicked, this, [&locks] { locks.DualControl_Click(0); });
-  connect(forward_, &QToolButton::clicked, this, [&locks] { locks.DualControl_Click(1); });
-  connect(rewind_, &QToolButton::clicked, this, [&locks] { locks.DualControl_Click(2); });
+  connect(back_, &QToolButton::clicked, this, [&locks] { locks.MoveTogether(DualMove::Back); });
+  connect(forward_, &QToolButton::clicked, this, [&locks] { locks.MoveTogether(DualMove::Forward); });
+  connect(rewind_, &QToolButton::clicked, this, [&locks] { locks.MoveTogether(DualMove::Rewind); });
   connect(play_, &QToolButton::clicked, this, [&locks] { locks.PlayTogether(); });
   connect(repeat_, &QToolButton::clicked, this, [&locks](bool on) { locks.setTogetherRepeat(on); });
   connect(speed_, &QComboBox::currentIndexChanged, this, [this, &locks] {

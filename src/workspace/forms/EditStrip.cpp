@@ -46,7 +46,7 @@ EditStrip::EditStrip(QWidget* stage) : QFrame(stage) {
   AddHandle(kDeleteHandle, "trash", tr("Delete the selected drawing (Delete)"));
   multi_ = StageButton("ribEBBtn", "select-all", tr("Edit all drawings of the window as one"), this);
   multi_->setCheckable(true);
-  connect(multi_, &QToolButton::clicked, this, [this](bool down) { edits_->ribEBBtn_Click(down); });
+  connect(multi_, &QToolButton::clicked, this, [this](bool down) { edits_->EditAll(down); });
   row->addWidget(multi_);
   row->addSpacing(kWordsGap);
   words_ = MakeLabel("EditWords", {}, nullptr, this);
@@ -67,7 +67,7 @@ void EditStrip::AddHandle(int handle, const char* icon, const QString& tip) {
     button->setCursor(handle == kMoveHandle ? Qt::SizeAllCursor : handle == kScaleHandle ? Qt::SizeVerCursor : Qt::OpenHandCursor);
     button->installEventFilter(this);
   } else {
-    connect(button, &QToolButton::clicked, this, [this, handle] { edits_->cmdEBBtn_Click(handle); });
+    connect(button, &QToolButton::clicked, this, [this, handle] { edits_->UseHandle(handle); });
   }
   layout()->addWidget(button);
   handles_[static_cast<std::size_t>(handle)] = button;
@@ -119,9 +119,9 @@ bool EditStrip::DragHandle(int handle, QEvent& event) {
   const QPointF at = mouse.position() * devicePixelRatioF() * kTwipsPerPixel;
   const auto x = static_cast<float>(at.x());
   const auto y = static_cast<float>(at.y());
-  if (type == QEvent::MouseButtonPress && mouse.button() == Qt::LeftButton) edits_->cmdEBBtn_MouseDown(handle, x, y);
-  if (type == QEvent::MouseMove && edits_->Dragging()) edits_->cmdEBBtn_MouseMove(x, y);
-  if (type == QEvent::MouseButtonRelease && mouse.button() == Qt::LeftButton) edits_->cmdEBBtn_MouseUp();
+  if (type == QEvent::MouseButtonPress && mouse.button() == Qt::LeftButton) edits_->GrabHandle(handle, x, y);
+  if (type == QEvent::MouseMove && edits_->Dragging()) edits_->DragHandle(x, y);
+  if (type == QEvent::MouseButtonRelease && mouse.button() == Qt::LeftButton) edits_->ReleaseHandle();
   if (handle == kRotateHandle && edits_->Dragging())
     emit TurnedTo(handles_[kRotateHandle]->mapTo(parentWidget(), mouse.position().toPoint()));
   // A move that leaves the button would come to the strip next, and move that.

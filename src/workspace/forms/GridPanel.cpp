@@ -47,14 +47,14 @@ GridPanel::GridPanel(DrawingEdits& edits, QWidget* stage)
 
   connect(HScroll3_, &QSlider::valueChanged, this, [this](int divisions) {
     ShowSize(divisions);
-    edits_.HScroll3_Change(divisions);
+    edits_.SetGridSize(divisions);
   });
   connect(show_, &QPushButton::clicked, this, [this] {
-    edits_.ribShowGrid_MouseDown();
+    edits_.ToggleGrid();
     Update();
   });
-  connect(close, &QPushButton::clicked, this, [this] { edits_.GridSizeClose_Click(); });
-  connect(this, &FloatCard::CloseWanted, this, [this] { edits_.GridSizeClose_Click(); });
+  connect(close, &QPushButton::clicked, this, [this] { edits_.CloseGridPanel(); });
+  connect(this, &FloatCard::CloseWanted, this, [this] { edits_.CloseGridPanel(); });
   Dress();
 }
 

@@ -80,11 +80,11 @@ MacroForm::MacroForm(DrawingEdits& edits, QWidget* stage)
   Body()->addWidget(content_);
 
   connect(lstMacro_, &QListWidget::currentRowChanged, this, [this] { lstMacro_Click(); });
-  connect(lstMacro_, &QListWidget::itemActivated, this, [this] { edits_.MacroBtn_Click(lstMacro_->currentRow()); });
-  connect(MacroBtn_, &QPushButton::clicked, this, [this] { edits_.MacroBtn_Click(lstMacro_->currentRow()); });
-  connect(cmdInfo_, &QPushButton::clicked, this, [this] { edits_.cmdInfo_Click(lstMacro_->currentRow()); });
-  connect(remove_, &QPushButton::clicked, this, [this] { edits_.SSCommand1_Click(lstMacro_->currentRow()); });
-  connect(this, &FloatCard::CloseWanted, this, [this] { edits_.AddMacro_Click(); });
+  connect(lstMacro_, &QListWidget::itemActivated, this, [this] { edits_.InsertMacro(lstMacro_->currentRow()); });
+  connect(MacroBtn_, &QPushButton::clicked, this, [this] { edits_.InsertMacro(lstMacro_->currentRow()); });
+  connect(cmdInfo_, &QPushButton::clicked, this, [this] { edits_.ShowMacroInfo(lstMacro_->currentRow()); });
+  connect(remove_, &QPushButton::clicked, this, [this] { edits_.DeleteMacro(lstMacro_->currentRow()); });
+  connect(this, &FloatCard::CloseWanted, this, [this] { edits_.ToggleMacroForm(); });
   Dress();
   lstMacro_Click();
 }

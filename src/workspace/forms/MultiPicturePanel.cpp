@@ -114,11 +114,11 @@ MultiPicturePanel::MultiPicturePanel(MultiPicture& strip, std::function<void()> 
     return button;
   };
   connect(add("MPicBtn0", tr("Carve new MultiPicture"), tr("Draw a square round what the pictures shall show")),
-          &QPushButton::clicked, this, [this] { strip_.MPicBtn_Click(0); });
+          &QPushButton::clicked, this, [this] { strip_.CarveNew(); });
   connect(add("SaveStripBtn", tr("Save Picture..."), tr("Keeps the strip as a PNG or JPEG picture")),
           &QPushButton::clicked, this, [save = std::move(save)] { save(); });
   connect(add("MPicBtn1", tr("Close MultiPicture"), tr("Back to the windows (Esc)")), &QPushButton::clicked, this,
-          [this] { strip_.MPicBtn_Click(1); });
+          [this] { strip_.LeaveStrip(); });
   column->addStretch(1);
   row->addWidget(controls);
   hide();

@@ -80,7 +80,7 @@ void NotesPanel::TextChanged() {
   full_->setText(tr("The notes are full: they hold %1 characters. The last %2 that were typed or pasted were left out.")
                      .arg(QLocale().toString(qulonglong(kMaxNotes)), QLocale().toString(left)));
   full_->setVisible(left > 0);
-  notes_.NotesBox_Change(FileText(box_->toPlainText()));
+  notes_.TakeNotes(FileText(box_->toPlainText()));
 }
 
 /// A sidecar holds no more: as many characters, as the file counts them, go from the end of what came last.

@@ -68,7 +68,7 @@ PlayBar::PlayBar(Transport& transport, QWidget* parent) : QFrame(parent), transp
   counter_->hide();
 
   markBox_ = new MarkBox(this);
-  connect(markBox_, &MarkBox::Chosen, this, [this](int mark) { transport_.Mark_Click(mark); });
+  connect(markBox_, &MarkBox::Chosen, this, [this](int mark) { transport_.GoToMark(mark); });
   marksButton_ = new QToolButton(this);
   marksButton_->setObjectName("MarksBtn");
   marksButton_->setToolTip(tr("Marks of this video"));
@@ -79,8 +79,8 @@ PlayBar::PlayBar(Transport& transport, QWidget* parent) : QFrame(parent), transp
   FixHeight(marksButton_, kMarks);
   connect(marksButton_, &QToolButton::toggled, this, [this] { PlaceCard(); });
 
-  connect(rewind_, &QToolButton::clicked, this, [this] { transport_.cmdREwind(); });
-  connect(play_, &QToolButton::clicked, this, [this] { transport_.cmdPlay(); });
+  connect(rewind_, &QToolButton::clicked, this, [this] { transport_.Rewind(); });
+  connect(play_, &QToolButton::clicked, this, [this] { transport_.TogglePlay(); });
   connect(slomo_, &QToolButton::clicked, this, [this] { transport_.ToggleSlomo(); });
   connect(loop_, &QToolButton::clicked, this, [this] { transport_.ToggleLoop(); });
   for (QToolButton* step : {back_, next_}) step->installEventFilter(this);

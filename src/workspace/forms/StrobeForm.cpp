@@ -23,7 +23,7 @@ StrobeForm::StrobeForm(StrobeControl& strobe, std::function<void()> save, QWidge
   ESlider_->setToolTip(tr("Moves the current video"));
   LeastWidth(ESlider_, 330);
   connect(ESlider_, &SeekBar::Sought, this,
-          [this](int position) { strobe_.ESlider_Change(position); });
+          [this](int position) { strobe_.SeekTo(position); });
   rows->addWidget(ESlider_);
 
   auto* buttons = new QHBoxLayout;
@@ -35,7 +35,7 @@ StrobeForm::StrobeForm(StrobeControl& strobe, std::function<void()> save, QWidge
     button->setToolTip(tips[i]);
     button->setFocusPolicy(Qt::TabFocus);
     LeastWidth(button, 104);
-    connect(button, &QPushButton::clicked, this, [this, i] { strobe_.SSCommand1_Click(i); });
+    connect(button, &QPushButton::clicked, this, [this, i] { strobe_.PressButton(static_cast<StrobeButton>(i)); });
     buttons->addWidget(button, 1);
     SSCommand1_[static_cast<std::size_t>(i)] = button;
   }
@@ -51,7 +51,7 @@ StrobeForm::StrobeForm(StrobeControl& strobe, std::function<void()> save, QWidge
   FixWidth(Combo1_, 64);
   Combo1_->setMaxVisibleItems(10);
   for (int step = 1; step <= StrobeControl::kSteps; ++step) Combo1_->addItem(QString::number(step));
-  connect(Combo1_, &QComboBox::currentIndexChanged, this, [this](int index) { strobe_.Combo1_Click(index); });
+  connect(Combo1_, &QComboBox::currentIndexChanged, this, [this](int index) { strobe_.ChooseStep(index); });
   last->addWidget(Combo1_);
   last->addStretch(1);
   save_ = new QPushButton(tr("Save Picture..."), content_);

@@ -37,7 +37,7 @@ TransFrame::TransFrame(Overlay& overlay, Workspace& workspace, QWidget* parent)
     option->setToolTip(tips[i]);
     option->setFocusPolicy(Qt::TabFocus);
     group->addButton(option);
-    connect(option, &QPushButton::clicked, this, [this, i] { overlay_.OptShow_Click(i); });
+    connect(option, &QPushButton::clicked, this, [this, i] { overlay_.Show(static_cast<ShowOption>(i)); });
     top->addWidget(option);
     options_[static_cast<std::size_t>(i)] = option;
   }
@@ -51,13 +51,13 @@ TransFrame::TransFrame(Overlay& overlay, Workspace& workspace, QWidget* parent)
   mix_->setFocusPolicy(Qt::TabFocus);
   mix_->setToolTip(tr("Vid1             l            Vid2"));
   mix_->setAccessibleName(tr("Mix of the two videos"));
-  connect(mix_, &QSlider::valueChanged, this, [this](int value) { overlay_.TransScroll_Change(value); });
+  connect(mix_, &QSlider::valueChanged, this, [this](int value) { overlay_.SetMix(value); });
   top->addWidget(mix_, 1);
   top->addSpacing(8);
   top->addWidget(MakeLabel("TransRight", tr("Vid2"), nullptr, this));
   top->addSpacing(16);
   QToolButton* close = StageButton("Closetrans", "close", tr("Leave transparency mode (Esc)"), this);
-  connect(close, &QToolButton::clicked, this, [this] { overlay_.Closetrans_Click(); });
+  connect(close, &QToolButton::clicked, this, [this] { overlay_.LeaveTransparency(); });
   top->addWidget(close);
   rows->addLayout(top);
 
@@ -95,7 +95,7 @@ void TransFrame::MakeVideo(int window, QHBoxLayout* row) {
     button->setAutoRepeatDelay(350);
     button->setAutoRepeatInterval(60);
     connect(button, &QToolButton::clicked, this, [this, window, i] {
-      window == 1 ? overlay_.VidCtlBtn_Click(i) : overlay_.VidCtlBtn2_Click(i);
+      overlay_.ControlVideo(window, static_cast<VideoControl>(i));
     });
     row->addWidget(button);
     video.buttons[static_cast<std::size_t>(i)] = button;
@@ -103,7 +103,7 @@ void TransFrame::MakeVideo(int window, QHBoxLayout* row) {
   video.scroll = new SeekBar(this);
   video.scroll->setObjectName(QString("HScroll%1").arg(window));
   connect(video.scroll, &SeekBar::Sought, this, [this, window](int position) {
-    window == 1 ? overlay_.HScroll1_Scroll(position) : overlay_.HScroll2_Scroll(position);
+    overlay_.SeekVideo(window, position);
   });
   row->addWidget(video.scroll, 1);
 }

@@ -29,14 +29,14 @@ VideoTimerForm::VideoTimerForm(VideoTimer& timer, QWidget* parent)
   rate_->setAlignment(Qt::AlignRight);
   rate_->setMaxLength(9);
   rate_->setToolTip(tr("Pictures per second of the scene; leave it empty for the video's own"));
-  connect(rate_, &QLineEdit::textEdited, this, [this](const QString& text) { timer_.txtFRBox_Change(text.toStdString()); });
+  connect(rate_, &QLineEdit::textEdited, this, [this](const QString& text) { timer_.TakeRate(text.toStdString()); });
   connect(rate_, &QLineEdit::returnPressed, this, [this] { rate_->clearFocus(); });
   row->addWidget(rate_);
   Body()->addLayout(row);
   zero_ = new QPushButton(tr("Set Zero Point"), this);
   zero_->setObjectName("VideoTimerBtn");
   zero_->setFocusPolicy(Qt::NoFocus);
-  connect(zero_, &QPushButton::clicked, this, [this] { timer_.VideoTimerBtn_Click(); });
+  connect(zero_, &QPushButton::clicked, this, [this] { timer_.SetZero(); });
   Body()->addWidget(zero_);
 }
 

@@ -31,8 +31,8 @@ ZoomForm::ZoomForm(ZoomPan& zoom, QWidget* parent) : FloatCard("ZoomForm", tr("Z
   for (int i = 0; i < 5; ++i) {
     QToolButton* pan = StageButton(QString("PanBtn%1").arg(i), pans[i].icon, pans[i].tip, content_);
     FixSize(pan, {36, 36});
-    connect(pan, &QToolButton::pressed, this, [this, i] { zoom_.PanBtn_MouseDown(i); });
-    connect(pan, &QToolButton::released, this, [this] { zoom_.PanBtn_MouseUp(); });
+    connect(pan, &QToolButton::pressed, this, [this, i] { zoom_.BeginPan(static_cast<PanMove>(i)); });
+    connect(pan, &QToolButton::released, this, [this] { zoom_.EndPan(); });
     grid->addWidget(pan, pans[i].row, pans[i].column);
   }
 
@@ -44,7 +44,7 @@ ZoomForm::ZoomForm(ZoomPan& zoom, QWidget* parent) : FloatCard("ZoomForm", tr("Z
     button->setAutoRepeat(true);
     button->setAutoRepeatDelay(350);
     button->setAutoRepeatInterval(80);
-    connect(button, &QToolButton::clicked, this, [this, i] { zoom_.ZoomBtn_Click(i); });
+    connect(button, &QToolButton::clicked, this, [this, i] { zoom_.Zoom(static_cast<ZoomMove>(i)); });
     grid->addWidget(button, zooms[i].row, zooms[i].column);
   }
   auto* whole = new QToolButton(content_);
@@ -53,14 +53,14 @@ ZoomForm::ZoomForm(ZoomPan& zoom, QWidget* parent) : FloatCard("ZoomForm", tr("Z
   whole->setToolTip(tr("Full size, centred (J)"));
   whole->setFocusPolicy(Qt::NoFocus);
   FixSize(whole, {56, 36});
-  connect(whole, &QToolButton::clicked, this, [this] { zoom_.ZoomBtn_Click(2); });
+  connect(whole, &QToolButton::clicked, this, [this] { zoom_.Zoom(ZoomMove::Whole); });
   grid->addWidget(whole, 1, 4);
   Body()->addWidget(content_);
   Dress();
 }
 
 void ZoomForm::hideEvent(QHideEvent* event) {
-  zoom_.PanBtn_MouseUp();  // the button that is down goes with the form
+  zoom_.EndPan();  // the button that is down goes with the form
   FloatCard::hideEvent(event);
 }
 
