@@ -17,7 +17,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t cou
   const Profile profile = OpenProfile(student, captions);
   fuzz::Require(profile.values[kNameField] == "Sample, Erica");
   (void)GetEmailAddress(student);
-  fuzz::Require(SaveProfile(student, captions, profile.values));
+  fuzz::Require(SaveProfile(student, captions, profile.values, profile.Stored()));
 
   folder.Write("Sample, Erica/profile.txt", bytes, count);
   if (const auto notes = LoadNotes(student)) {
