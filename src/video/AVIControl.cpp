@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "video/PlayClock.h"
+#include "video/Strobe.h"
 
 namespace kinalyx {
 namespace {
@@ -20,8 +21,7 @@ int BitsOfFormat(int code) {
 
 }  // namespace
 
-/// A play from its start to its end. One object serves all plays of its control: a picture's callbacks may
-/// end this play and begin the next while it draws.
+/// A play from its start to its end. One object serves all plays of its control.
 class AVIControl::Run final : public IPlayRun {
  public:
   explicit Run(AVIControl& control) : control_(control) {}
@@ -34,14 +34,12 @@ class AVIControl::Run final : public IPlayRun {
   }
 
   std::int64_t Tick(std::int64_t now) override {
-    const Lifetime::Watch watch(control_.life_);
     if (wrap_) {
       clock_.Wrap(now, control_.PlayEnd_);
       Show(0);
     } else if (const int due = clock_.PositionAt(now, counter_, control_.PlayEnd_ + 1); due != counter_) {
       Show(due);
     }
-    if (watch.Gone()) return now;  // and this run with it
     return clock_.Due(counter_ + 1);
   }
 
@@ -49,44 +47,38 @@ class AVIControl::Run final : public IPlayRun {
   /// Draws a position; at or behind the end draws the end, which ends the play or, with a repeat, begins it
   /// anew one interval later, so that the last picture is seen as long as any other.
   void Show(int position) {
-    const int play = ++play_;
     const bool atEnd = position >= control_.PlayEnd_;
     counter_ = std::min(position, control_.PlayEnd_);
-    wrap_ = false;
-    const Lifetime::Watch watch(control_.life_);
     control_.SetPosition(counter_);
     control_.RenderCurrent();
-    if (watch.Gone() || !atEnd || play != play_ || !control_.IsPlaying_) return;
-    wrap_ = control_.properties_.Repeat;
-    if (!wrap_) control_.FinishPlay();
+    wrap_ = atEnd && control_.properties_.Repeat;
+    if (atEnd && !wrap_) control_.FinishPlay();
   }
 
   AVIControl& control_;
   PlayClock clock_;
   int counter_ = 0;
-  int play_ = 0;
   bool wrap_ = false;
 };
 
 AVIControl::AVIControl(PlayerServices& services, IPlayerView* view)
-    : services_(services), view_(view), run_(std::make_unique<Run>(*this)) {
+    : services_(services), view_(view), run_(std::make_unique<Run>(*this)), strobe_(std::make_unique<Strobe>(*this)) {
   UpdatePenBrush();
 }
 
 AVIControl::~AVIControl() {
   services_.scheduler.Remove(*run_);
-  if (strobe_) services_.scheduler.Remove(*strobe_);
+  services_.scheduler.Remove(*strobe_);
+  News().Forget(*this);
 }
 
 // ---------------------------------------------------------------- opening
 
 bool AVIControl::Load(const std::string& FileName, bool SplitFields, bool ReverseFields) {
   const std::string path = FileName.empty() ? filename_ : FileName;
-  const Lifetime::Watch watch(life_);
+  const PlayerNews::Hold hold(News());
   StopStrobe();
-  if (IsPlaying_) StopPlay();
-  // Whoever was told of the end may have opened another file already: that one wins.
-  if (watch.Changed()) return false;
+  StopPlay();
   CloseStream();
   filename_ = path;
 
@@ -114,10 +106,9 @@ bool AVIControl::Load(const std::string& FileName, bool SplitFields, bool Revers
 }
 
 void AVIControl::Unload() {
-  const Lifetime::Watch watch(life_);
+  const PlayerNews::Hold hold(News());
   StopStrobe();
-  if (!watch.Gone() && IsPlaying_) StopPlay();
-  if (watch.Changed()) return;
+  StopPlay();
   CloseStream();
   filename_.clear();
   surface_.Clear(kBlack);
@@ -125,7 +116,6 @@ void AVIControl::Unload() {
 }
 
 void AVIControl::CloseStream() {
-  life_.Change();
   VideoStream_.reset();
   FrameBuffer_ = {};
   softened_ = false;
@@ -250,6 +240,15 @@ bool AVIControl::ReleaseMouseKeyboardInterface() {
   return true;
 }
 
+void AVIControl::Tell(PlayerNews::Kind kind, int frame) {
+  if (!sink_) return;
+  switch (kind) {
+    case PlayerNews::Kind::Signal: return sink_->Signal(frame, properties_.ID);
+    case PlayerNews::Kind::Notify: return sink_->Notify(frame, properties_.ID);
+    case PlayerNews::Kind::StrobeEnded: return sink_->StrobeEnded(properties_.ID);
+  }
+}
+
 // ---------------------------------------------------------------- positions
 
 int AVIControl::GetPosition() const {
@@ -277,17 +276,17 @@ void AVIControl::setSplitFields(bool on) {
 // ---------------------------------------------------------------- drawing
 
 void AVIControl::DrawFrame(int Position) {
-  const Lifetime::Watch watch(life_);
+  const PlayerNews::Hold hold(News());
   StopStrobe();
-  if (watch.Changed()) return;
   SetPosition(Position);
   RenderCurrent();
 }
 
 void AVIControl::Refresh() {
   if (!VideoStream_) return;
+  const PlayerNews::Hold hold(News());
   // While a strobe runs its picture is the current one.
-  strobe_ ? ShowFrameBuffer() : RenderCurrent();
+  StrobeRunning() ? ShowFrameBuffer() : RenderCurrent();
 }
 
 void AVIControl::RenderCurrent() {
@@ -315,11 +314,9 @@ bool AVIControl::ComposeCurrent() {
 }
 
 void AVIControl::PresentFrame() {
-  const Lifetime::Watch watch(life_);
   if (sink_) sink_->PreDrawFrame(surface_.hDC(), properties_.ID);
-  if (watch.Changed()) return;
   if (view_) view_->Present(surface_.Picture());
-  if (sink_) sink_->Signal(GetPosition(), properties_.ID);
+  Post(PlayerNews::Kind::Signal, GetPosition());
 }
 
 // ---------------------------------------------------------------- playing
@@ -328,11 +325,8 @@ void AVIControl::Play(int Start, int End) {
   if (filename_.empty() || !VideoStream_) return;
   if (IsPlaying_) return StopPlay();
   if (Start >= 0 && End < 0) return DrawFrame(Start);
-  const Lifetime::Watch watch(life_);
+  const PlayerNews::Hold hold(News());
   StopStrobe();
-  if (watch.Changed() || IsPlaying_) return;
-  // A new speed that waited for the end of another play holds for this one.
-  if (const auto speed = std::exchange(RestartSpeed_, std::nullopt)) properties_.Speed = *speed;
   playEndArgument_.reset();
   if (Start >= 0) {
     playEndArgument_ = PlayEnd_ = End;
@@ -350,6 +344,7 @@ void AVIControl::LoopPlay() {
 
 void AVIControl::StopPlay() {
   if (!IsPlaying_) return;
+  const PlayerNews::Hold hold(News());
   FinishPlay();
 }
 
@@ -360,26 +355,21 @@ void AVIControl::FinishPlay() {
   properties_.Repeat = false;
   // A play without arguments takes up this end; with fields it has always been stored as a frame.
   if (playEndArgument_) PlayEnd_ = properties_.SplitFields ? *playEndArgument_ / 2 : *playEndArgument_;
-  const Lifetime::Watch watch(life_);
-  if (sink_) sink_->Notify(CurrentRawFrame_, properties_.ID);
-  if (watch.Changed()) return;
-  if (RestartSpeed_ && !IsPlaying_) setSpeed(*RestartSpeed_);
+  Post(PlayerNews::Kind::Notify, CurrentRawFrame_);
 }
 
 bool AVIControl::setSpeed(int percent) {
   if (!PlayerProperties::IsSpeed(percent)) return false;
-  if (IsPlaying_) {
-    RestartLoop_ = properties_.Repeat;
-    RestartSpeed_ = percent;
-    StopPlay();
+  if (!IsPlaying_) {
+    properties_.Speed = percent;
     return true;
   }
+  const PlayerNews::Hold hold(News());
+  const bool repeat = properties_.Repeat;
+  FinishPlay();
   properties_.Speed = percent;
-  if (RestartSpeed_) {
-    RestartSpeed_.reset();
-    properties_.Repeat = RestartLoop_;
-    Play(GetPosition(), PositionCount() - 1);
-  }
+  properties_.Repeat = repeat;
+  Play(GetPosition(), PositionCount() - 1);
   return true;
 }
 

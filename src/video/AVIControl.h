@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -12,7 +11,7 @@
 #include "video/FramePipeline.h"
 #include "video/FrameSurface.h"
 #include "video/IPlayerView.h"
-#include "video/Lifetime.h"
+#include "video/PlayerNews.h"
 #include "video/PlayerProperties.h"
 #include "video/PlayerServices.h"
 
@@ -21,7 +20,8 @@ namespace kinalyx {
 /// The one video player: opens a file, holds one frame on an off-screen surface, plays by the clock.
 /// A position is a frame or, with `SplitFields`, a field: position = 2 * frame + order of the field.
 /// Knows nothing of shapes or students; what lies over the picture comes through IFrameInterface.
-/// Its callbacks may call any operation, and may even destroy it.
+/// What it has to tell its sink comes when the operation that was called has done its work, so who is told
+/// may call any operation and may even destroy it; only PreDrawFrame comes in the middle, and paints.
 class AVIControl {
  public:
   AVIControl(PlayerServices& services, IPlayerView* view);
@@ -71,15 +71,13 @@ class AVIControl {
   /// picture of `Start`, against the scene of the present frame; one layer every `Step` x 50 ms. With an
   /// `End` not above `Start` it goes on to the last frame. Returns at once. A strobe ends with its last
   /// layer, with StopStrobe, with any other movement, or at once where a picture is too large or has
-  /// not 24 bits; the picture stays until the next frame is drawn.
+  /// not 24 bits; the sink's StrobeEnded tells so, and the picture stays until the next frame is drawn.
   void Strobeframes(int Start, int End, int Step);
   /// The same against a background estimated from four frames of the video, without a pause between
   /// the layers.
   void Strobeframes2(int Start, int End, int Step);
-  bool StrobeRunning() const { return strobe_ != nullptr; }
+  bool StrobeRunning() const;
   void StopStrobe();
-  /// Called once at the end of each strobe, however it ends.
-  void OnStrobeEnd(std::function<void()> action) { strobeEnd_ = std::move(action); }
 
   // --- what a picture is
 
@@ -144,6 +142,8 @@ class AVIControl {
   bool ReleaseMouseKeyboardInterface();
   /// Where the view sends mouse and keys; null when nobody listens.
   IMouseAndKeyBoardEvents* InputSink() { return input_; }
+  /// Hands the sink what PlayerNews has kept for it.
+  void Tell(PlayerNews::Kind kind, int frame);
 
  private:
   class Run;
@@ -166,14 +166,14 @@ class AVIControl {
   void SoftenFrameBuffer();
   void ComposeFrameBuffer();
   void ShowFrameBuffer();
-  void BeginStrobe(std::unique_ptr<Strobe> strobe);
-  void EndStrobe();
+  bool ReadyForStrobe();
+  void Post(PlayerNews::Kind kind, int frame) { News().Post(*this, kind, frame); }
+  PlayerNews& News() { return services_.scheduler.News(); }
 
   PlayerServices& services_;
   IPlayerView* view_;
   IFrameInterface* sink_ = nullptr;
   IMouseAndKeyBoardEvents* input_ = nullptr;
-  Lifetime life_;  ///< the open file's; its watches are kept across callbacks
 
   FrameSurface surface_;
   std::string filename_;
@@ -189,11 +189,7 @@ class AVIControl {
   std::optional<int> playEndArgument_;
   bool IsPlaying_ = false;
   std::unique_ptr<Run> run_;
-  std::optional<int> RestartSpeed_;  ///< at which the play that is about to end goes on
-  bool RestartLoop_ = false;
-  std::unique_ptr<IPlayRun> strobe_;
-  int strobeNumber_ = 0;  ///< of the one that was begun last
-  std::function<void()> strobeEnd_;
+  std::unique_ptr<Strobe> strobe_;
 
   PlayerProperties properties_;
   bool ReverseFields_ = false;

@@ -3,8 +3,7 @@
 #include <cmath>
 #include <utility>
 
-#include "video/AVIControl.h"
-#include "video/StrobeLayers.h"
+#include "video/Strobe.h"
 
 namespace kinalyx {
 namespace {
@@ -15,84 +14,84 @@ constexpr int kLayerMs = 50;
 
 }  // namespace
 
-/// One strobe, from its reference pictures to its last layer.
-class AVIControl::Strobe final : public IPlayRun {
- public:
-  enum class Kind { Scene, Background };
+// ---------------------------------------------------------------- one strobe
 
-  Strobe(AVIControl& control, Kind kind, int start, int end, int step)
-      : control_(control), kind_(kind), frame_(start), end_(end), step_(step) {}
+void AVIControl::Strobe::Begin(Kind kind, int start, int end, int step) {
+  kind_ = kind;
+  frame_ = start;
+  end_ = end > start ? end : control_.FrameCount() - 1;
+  step_ = std::max(1, step);
+  running_ = true;
+  if (control_.surface_.Empty() || control_.FormatHeader_.bitCount != 24 || !Prepare()) return End();
+  control_.services_.scheduler.Add(*this, control_.services_.host.timeGetTime() + Wait());
+}
 
-  /// Takes the reference pictures and the start picture; false when one cannot be had.
-  bool Prepare() {
-    const int start = frame_;
-    if (kind_ == Kind::Scene) {
-      references_.resize(1);
-      if (!control_.CopyFieldOf(control_.CurrentRawFrame_, references_[0])) return false;
-      layers_.emplace(Shape());
-    } else {
-      references_.resize(4);
-      for (int i = 1; i <= 4; ++i) {
-        const int frame = static_cast<int>(std::nearbyint(i * 0.24 * control_.FrameCount()));
-        if (!control_.CopyFieldOf(std::min(frame, control_.FrameCount() - 1), references_[static_cast<std::size_t>(i - 1)]))
-          return false;
-      }
+void AVIControl::Strobe::End() {
+  control_.services_.scheduler.Remove(*this);
+  running_ = false;
+  layers_.reset();
+  references_ = {};
+  picture_ = {};
+  control_.surface_.ForgetComposed();
+  control_.Post(PlayerNews::Kind::StrobeEnded, 0);
+}
+
+std::int64_t AVIControl::Strobe::Tick(std::int64_t) {
+  if (!AddLayer()) {
+    End();
+    return 0;
+  }
+  control_.SoftenFrameBuffer();
+  control_.ShowFrameBuffer();
+  return control_.services_.host.timeGetTime() + Wait();
+}
+
+/// Takes the reference pictures and the start picture; false when one cannot be had.
+bool AVIControl::Strobe::Prepare() {
+  const int start = frame_;
+  if (kind_ == Kind::Scene) {
+    references_.resize(1);
+    if (!control_.CopyFieldOf(control_.CurrentRawFrame_, references_[0])) return false;
+    layers_.emplace(Shape());
+  } else {
+    references_.resize(4);
+    for (int i = 1; i <= 4; ++i) {
+      const int frame = static_cast<int>(std::nearbyint(i * 0.24 * control_.FrameCount()));
+      if (!control_.CopyFieldOf(std::min(frame, control_.FrameCount() - 1), references_[static_cast<std::size_t>(i - 1)]))
+        return false;
     }
-    const int first = kind_ == Kind::Scene ? start : control_.CurrentRawFrame_;
-    if (!control_.CopyFieldOf(first, control_.FrameBuffer_)) return false;
-    control_.CurrentRawFrame_ = start;
-    return true;
   }
+  const int first = kind_ == Kind::Scene ? start : control_.CurrentRawFrame_;
+  if (!control_.CopyFieldOf(first, control_.FrameBuffer_)) return false;
+  control_.CurrentRawFrame_ = start;
+  return true;
+}
 
-  std::int64_t Wait() const { return kind_ == Kind::Scene ? std::int64_t{step_} * kLayerMs : 0; }
+std::int64_t AVIControl::Strobe::Wait() const { return kind_ == Kind::Scene ? std::int64_t{step_} * kLayerMs : 0; }
 
-  std::int64_t Tick(std::int64_t) override {
-    AVIControl& control = control_;  // this object may end before the control does
-    if (!AddLayer()) {
-      control.EndStrobe();
-      return 0;
-    }
-    control.SoftenFrameBuffer();
-    const std::int64_t wait = Wait();
-    const int number = control.strobeNumber_;
-    const Lifetime::Watch watch(control.life_);
-    control.ShowFrameBuffer();
-    if (watch.Changed() || !control.strobe_ || control.strobeNumber_ != number) return 0;
-    return control.services_.host.timeGetTime() + wait;
+RowShape AVIControl::Strobe::Shape() const {
+  return {ScanLineBytes(control_.FormatHeader_.width, control_.FormatHeader_.bitCount), control_.FormatHeader_.height};
+}
+
+/// False when the strobe is over.
+bool AVIControl::Strobe::AddLayer() {
+  if (frame_ > end_ || std::int64_t{frame_} + step_ >= end_) return false;
+  frame_ += step_;
+  control_.CurrentRawFrame_ += step_;
+  const bool field = control_.CurrentField_;
+  if (!control_.CopyFieldOf(control_.CurrentRawFrame_, picture_)) return false;
+  // A control that has not softened anything yet shows its first picture as it is.
+  if (!control_.softened_) return true;
+  if (kind_ == Kind::Scene) {
+    layers_->Add(references_[0].data(), picture_.data(), field, control_.FrameBuffer_.data());
+  } else {
+    AddAgainstBackground(Shape(), {references_[0].data(), references_[1].data(), references_[2].data(), references_[3].data()},
+                         picture_.data(), field, control_.FrameBuffer_.data());
   }
+  return true;
+}
 
- private:
-  RowShape Shape() const {
-    return {ScanLineBytes(control_.FormatHeader_.width, control_.FormatHeader_.bitCount), control_.FormatHeader_.height};
-  }
-
-  /// False when the strobe is over.
-  bool AddLayer() {
-    if (frame_ > end_ || std::int64_t{frame_} + step_ >= end_) return false;
-    frame_ += step_;
-    control_.CurrentRawFrame_ += step_;
-    const bool field = control_.CurrentField_;
-    if (!control_.CopyFieldOf(control_.CurrentRawFrame_, picture_)) return false;
-    // A control that has not softened anything yet shows its first picture as it is.
-    if (!control_.softened_) return true;
-    if (kind_ == Kind::Scene) {
-      layers_->Add(references_[0].data(), picture_.data(), field, control_.FrameBuffer_.data());
-    } else {
-      AddAgainstBackground(Shape(), {references_[0].data(), references_[1].data(), references_[2].data(), references_[3].data()},
-                           picture_.data(), field, control_.FrameBuffer_.data());
-    }
-    return true;
-  }
-
-  AVIControl& control_;
-  Kind kind_;
-  int frame_;
-  int end_;
-  int step_;
-  std::optional<StrobeLayers> layers_;
-  std::vector<std::vector<std::uint8_t>> references_;
-  std::vector<std::uint8_t> picture_;
-};
+// ---------------------------------------------------------------- fields
 
 /// Copies the current field of a frame into a block of the frames' size; its other rows stay.
 bool AVIControl::CopyFieldOf(int frame, std::vector<std::uint8_t>& target) {
@@ -125,58 +124,48 @@ void AVIControl::ShowFrameBuffer() {
 
 void AVIControl::AttackBits() {
   if (!VideoStream_ || surface_.Empty() || !CopyFieldOf(CurrentRawFrame_ + kAttackDistance, FrameBuffer_)) return;
+  const PlayerNews::Hold hold(News());
   SoftenFrameBuffer();
   ShowFrameBuffer();
 }
 
 void AVIControl::Enhance(double HighAmount, double LowAmount) {
   if (!VideoStream_ || surface_.Empty()) return;
-  const Lifetime::Watch watch(life_);
+  const PlayerNews::Hold hold(News());
   if (FormatHeader_.bitCount == 24 && CopyFieldOf(CurrentRawFrame_, FrameBuffer_)) {
     const int rowBytes = ScanLineBytes(FormatHeader_.width, 24);
     if (softened_) EnhanceField(FrameBuffer_.data(), rowBytes, FormatHeader_.height, CurrentField_, HighAmount, LowAmount);
     SoftenFrameBuffer();
     ShowFrameBuffer();
-    if (watch.Gone()) return;
   }
-  services_.host.DoEvents();
-  if (watch.Changed() || FrameBuffer_.empty()) return;
+  if (FrameBuffer_.empty()) return;
   std::fill(FrameBuffer_.begin() + ScanLineBytes(FormatHeader_.width, FormatHeader_.bitCount), FrameBuffer_.end(), 0);
 }
 
 // ---------------------------------------------------------------- strobe
 
+bool AVIControl::StrobeRunning() const { return strobe_->Running(); }
+
+/// Ends whatever moves; false without a video.
+bool AVIControl::ReadyForStrobe() {
+  StopStrobe();
+  StopPlay();
+  return VideoStream_ != nullptr;
+}
+
 void AVIControl::Strobeframes(int Start, int End, int Step) {
-  BeginStrobe(std::make_unique<Strobe>(*this, Strobe::Kind::Scene, Start, End > Start ? End : FrameCount() - 1, std::max(1, Step)));
+  const PlayerNews::Hold hold(News());
+  if (ReadyForStrobe()) strobe_->Begin(Strobe::Kind::Scene, Start, End, Step);
 }
 
 void AVIControl::Strobeframes2(int Start, int End, int Step) {
-  BeginStrobe(std::make_unique<Strobe>(*this, Strobe::Kind::Background, Start, End > Start ? End : FrameCount() - 1, std::max(1, Step)));
-}
-
-void AVIControl::BeginStrobe(std::unique_ptr<Strobe> strobe) {
-  const Lifetime::Watch watch(life_);
-  StopStrobe();
-  if (!watch.Changed() && IsPlaying_) StopPlay();
-  if (watch.Changed() || !VideoStream_) return;
-  const bool possible = !surface_.Empty() && FormatHeader_.bitCount == 24 && strobe->Prepare();
-  const std::int64_t due = services_.host.timeGetTime() + strobe->Wait();
-  strobe_ = std::move(strobe);
-  ++strobeNumber_;
-  if (!possible) return EndStrobe();
-  services_.scheduler.Add(*strobe_, due);
+  const PlayerNews::Hold hold(News());
+  if (ReadyForStrobe()) strobe_->Begin(Strobe::Kind::Background, Start, End, Step);
 }
 
 void AVIControl::StopStrobe() {
-  if (strobe_) EndStrobe();
-}
-
-void AVIControl::EndStrobe() {
-  services_.scheduler.Remove(*strobe_);
-  strobe_.reset();
-  surface_.ForgetComposed();
-  const auto action = strobeEnd_;  // may replace itself
-  if (action) action();
+  const PlayerNews::Hold hold(News());
+  if (StrobeRunning()) strobe_->End();
 }
 
 }  // namespace kinalyx

@@ -5,18 +5,23 @@ namespace kinalyx {
 class Canvas;
 
 /// The frame cycle of a player, told to the window that owns it. `ID` names the player, so that one
-/// object can serve many. All calls come on the user-interface thread; an implementer may call back
-/// into the player.
+/// object can serve many. All calls come on the user-interface thread.
 class IFrameInterface {
  public:
   virtual ~IFrameInterface() = default;
   /// The frame stands on the off-screen surface and has not been shown; what is drawn on `hDC` now
-  /// becomes part of the picture. `hDC` is good for the call only.
+  /// becomes part of the picture. `hDC` is good for the call only. The player is in the middle of its work:
+  /// none of its operations may be called.
   virtual void PreDrawFrame(Canvas& hDC, int ID) = 0;
+  // The rest is told when the player has done what it was asked for; an implementer may call any of its
+  // operations.
+
   /// The picture of position `Frame` has been handed to the screen.
   virtual void Signal(int Frame, int ID) = 0;
   /// A play has run out or was stopped; `Frame` is the raw frame on which it ended.
   virtual void Notify(int Frame, int ID) = 0;
+  /// A strobe has ended, however it did; once for each.
+  virtual void StrobeEnded(int /*ID*/) {}
 };
 
 /// Mouse and keys on a player's picture, passed on unchanged with the player's `ID`.

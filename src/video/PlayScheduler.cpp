@@ -31,6 +31,7 @@ void PlayScheduler::TickDue() {
     if (next == entries_.end()) break;
     IPlayRun* run = next->run;
     ticked.push_back(run);
+    const PlayerNews::Hold hold(news_);
     const std::int64_t due = run->Tick(host_.timeGetTime());
     const auto entry = std::ranges::find(entries_, run, &Entry::run);
     if (entry != entries_.end()) entry->due = due;

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "platform/host/Host.h"
+#include "video/PlayerNews.h"
 
 namespace kinalyx {
 
@@ -12,7 +13,8 @@ class IPlayRun {
  public:
   virtual ~IPlayRun() = default;
   /// Does what is due at `now` (milliseconds of the host's clock) and returns when it wants to be
-  /// called next. A run that is over must have left the scheduler before it returns.
+  /// called next. A run that is over must have left the scheduler before it returns. What its players have
+  /// to tell is told after it.
   virtual std::int64_t Tick(std::int64_t now) = 0;
 };
 
@@ -27,6 +29,7 @@ class PlayScheduler {
   void Add(IPlayRun& run, std::int64_t due);
   /// Unknown runs are ignored; safe inside a tick of this or another run.
   void Remove(IPlayRun& run);
+  PlayerNews& News() { return news_; }
 
  private:
   struct Entry {
@@ -38,6 +41,7 @@ class PlayScheduler {
   void Arm();
 
   IHost& host_;
+  PlayerNews news_;
   std::vector<Entry> entries_;
   HostTimer timer_;
   bool ticking_ = false;

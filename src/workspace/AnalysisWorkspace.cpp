@@ -194,6 +194,8 @@ void AnalysisWorkspace::Notify(int, int ID) {
   view_.CommandsChanged();
 }
 
+void AnalysisWorkspace::StrobeEnded(int ID) { compare_.Strobe().StrobeEnded(ID); }
+
 void AnalysisWorkspace::MouseDown(int Button, int Shift, float X, float Y, int ID) {
   if (Button == kMiddleButton) return compare_.Zoom().DragBegin(ID, X, Y);
   if (!tools_.MouseDown(Button, Shift, X, Y, ID)) Select(ID);

@@ -57,6 +57,7 @@ class AnalysisWorkspace final : public IFrameInterface, public IMouseAndKeyBoard
   void PreDrawFrame(Canvas& hDC, int ID) override;
   void Signal(int Frame, int ID) override;
   void Notify(int Frame, int ID) override;
+  void StrobeEnded(int ID) override;
 
   // --- IMouseAndKeyBoardEvents
   void MouseDown(int Button, int Shift, float X, float Y, int ID) override;

@@ -35,7 +35,6 @@ class LockedVideos::Run final : public IPlayRun {
 
   void End() {
     slots_.clear();
-    ++play_;
     scheduler_.Remove(*this);
   }
 
@@ -56,18 +55,16 @@ class LockedVideos::Run final : public IPlayRun {
   }
 
  private:
-  /// Draws all videos at a distance. What they call may end this play or begin the next.
+  /// Draws all videos at a distance; what they have to tell comes when all are drawn.
   void ShowAll(int distance) {
-    const int play = ++play_;
+    const PlayerNews::Hold hold(scheduler_.News());
     const bool atEnd = distance >= last_;
     distance_ = std::min(distance, last_);
     wrap_ = false;
-    const std::vector<int> slots = slots_;
-    for (const int slot : slots) {
+    for (const int slot : slots_) {
       // A video that was set going by a control of its own ends what they do together.
       if (videos_.workspace_.MP(slot).IsPlaying()) return videos_.StopTogether();
       videos_.workspace_.MP(slot).DrawFrame(videos_.Lowest(slot) + distance_);
-      if (play != play_) return;
     }
     if (!atEnd) return;
     wrap_ = videos_.repeat_ && last_ > 0;
@@ -80,7 +77,6 @@ class LockedVideos::Run final : public IPlayRun {
   PlayClock clock_;
   int distance_ = 0;
   int last_ = 0;
-  int play_ = 0;
   bool wrap_ = false;
 };
 

@@ -121,7 +121,6 @@ void StrobeControl::Run(int start, int end) {
   result_ = 0;
   Caption(StrobeButton::Strobe, StrobeCaption::Stop);
   ShowResult();
-  player.OnStrobeEnd([this, slot] { Ended(slot); });
   RunningChanged();
   player.Strobeframes(start, end, StrobeStep());
 }
@@ -130,8 +129,8 @@ void StrobeControl::Stop() {
   if (running_ != 0) workspace_.MP(running_).StopStrobe();
 }
 
-void StrobeControl::Ended(int slot) {
-  if (slot != running_) return;
+void StrobeControl::StrobeEnded(int slot) {
+  if (slot != running_ || workspace_.MP(slot).StrobeRunning()) return;
   running_ = 0;
   result_ = slot;
   Caption(StrobeButton::Strobe, StrobeCaption::Strobe);

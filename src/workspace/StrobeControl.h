@@ -72,6 +72,7 @@ class StrobeControl {
 
   // --- from the players and the workspace
   void Signal(int slot);
+  void StrobeEnded(int slot);
   void VideoOpened(int slot);
   void VideoClosing(int slot);
   /// The current window may be another one.
@@ -85,7 +86,6 @@ class StrobeControl {
   AVIControl* Player();
   void Run(int start, int end);
   void Stop();
-  void Ended(int slot);
   void Caption(StrobeButton button, StrobeCaption caption, int frame = 0);
   void ShowSlider();
   void ShowResult();

@@ -141,13 +141,11 @@ struct StrobedPlayer : Player {
     control->Resize(200, 60);
     control->Load(WalkingBar(), false, false);
     control->DrawFrame(0);
-    control->OnStrobeEnd([this] { ++ended; });
     // Softening some field arms the strobe.
     control->setSplitFields(true);
     control->Refresh();
     control->setSplitFields(false);
   }
-  int ended = 0;
 };
 
 TEST(Strobe, ShowsAChainOfPoses) {
@@ -160,11 +158,11 @@ TEST(Strobe, ShowsAChainOfPoses) {
     EXPECT_EQ(BarsOn(player.view.shown), bars);
     if (bars.size() == 3) player->Refresh();
     EXPECT_EQ(BarsOn(player.view.shown), bars);
-    EXPECT_EQ(player.ended, 0);
+    EXPECT_EQ(player.sink.strobesEnded, 0);
   }
   player.host.Advance(150);
   EXPECT_FALSE(player->StrobeRunning());
-  EXPECT_EQ(player.ended, 1);
+  EXPECT_EQ(player.sink.strobesEnded, 1);
   EXPECT_EQ(player->Position(), 11);
   EXPECT_EQ(BarsOn(player.view.shown), (vector<int>{2, 5, 8, 11})) << "the picture stays";
   player->Refresh();
@@ -201,7 +199,7 @@ TEST(Strobe, StopsOnDemandAndBeforeAnyOtherMovementAlsoInItsOwnCallbacks) {
       EXPECT_GE(calls, 2);
       if (!inside) {
         deed(player);
-        EXPECT_TRUE(player.ended == 1 || !player.control);
+        EXPECT_TRUE(player.sink.strobesEnded == 1 || !player.control);
       }
       player.host.Advance(5000);
       EXPECT_FALSE(player.control && player->StrobeRunning());
@@ -221,7 +219,7 @@ TEST(Strobe, OfPicturesItCannotWorkOnEndsAtOnce) {
   EXPECT_EQ(player->CurFormatBits(), 32);
   player->Strobeframes(0, 10, 1);
   EXPECT_FALSE(player->StrobeRunning());
-  EXPECT_EQ(player.ended, 1);
+  EXPECT_EQ(player.sink.strobesEnded, 1);
 }
 
 TEST(Strobe, AgainstABackgroundRunsWithoutPause) {
@@ -231,7 +229,7 @@ TEST(Strobe, AgainstABackgroundRunsWithoutPause) {
   player.host.Advance(5);
   EXPECT_FALSE(player->StrobeRunning());
   EXPECT_EQ(BarsOn(player.view.shown), (vector<int>{1, 6, 10}));
-  EXPECT_EQ(player.ended, 1);
+  EXPECT_EQ(player.sink.strobesEnded, 1);
 }
 
 TEST(Enhance, PushesTheContrastOfTheShownField) {

@@ -46,6 +46,9 @@ class RecordingSink final : public IFrameInterface {
     if (onNotify) onNotify();
   }
 
+  void StrobeEnded(int) override { ++strobesEnded; }
+
+  int strobesEnded = 0;
   std::vector<std::string> calls;
   std::vector<int> signalled;
   std::vector<int> notified;
