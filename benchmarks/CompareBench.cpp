@@ -9,9 +9,9 @@
 
 #include "Bench.h"
 #include "workspace/AnalysisStage.h"
-#include "workspace/LockedVideos.h"
-#include "workspace/MultiPicture.h"
-#include "workspace/Overlay.h"
+#include "workspace/compare/LockedVideos.h"
+#include "workspace/compare/MultiPicture.h"
+#include "workspace/compare/Overlay.h"
 
 namespace kinalyx::bench {
 namespace {
@@ -31,6 +31,11 @@ class NoStripView final : public IMultiPictureView {
   void PresentStrip(const Surface& strip, int) override { Keep(strip.Row(0)); }
 };
 
+struct Nobody final : ICompareEvents {
+  void GiveWay() override {}
+  void TakeSquareTool() override {}
+} nobody;
+
 void Open(test::AnalysisStage& stage, int slot, const test::TestVideo& video, int position) {
   if (!stage.Open(slot, video, position)) throw std::runtime_error("the test video cannot be opened");
 }
@@ -46,9 +51,9 @@ const Register kOverlayMix({"overlay_mix_640x480", {Target::Of::Ratio, 4, 1}, []
   test::AnalysisStage stage("2", 1200, 600);
   Open(stage, 1, test::MjpegVideo(30), 3);
   Open(stage, 2, test::MjpegVideo(30), 20);
-  LockedVideos locks(stage.host, stage.scheduler, stage.Slots());
+  LockedVideos locks(stage.host, stage.scheduler, stage.Stage());
   NoOverlayView view;
-  Overlay overlay(stage.host, stage.settings, stage.Slots(), locks, view);
+  Overlay overlay(stage.host, stage.settings, stage.Stage(), locks, view, nobody);
   overlay.Resize(640, 480);
   overlay.ToggleTransparency();
   for (const int slot : {1, 2}) stage.MP(slot).Resize(640, 480);
@@ -71,7 +76,7 @@ const Register kStripRefresh({"strip_refresh", {Target::Of::Ratio, 4, 1.5}, [] {
   test::AnalysisStage stage("1", 1200, 600);
   Open(stage, 1, test::MjpegVideo(120), 100);
   NoStripView view;
-  MultiPicture strip(stage.host, stage.Slots(), view);
+  MultiPicture strip(stage.host, stage.Stage(), view, nobody);
   strip.ToggleStrip();
   if (strip.PictureCount() != MultiPicture::kMostPictures) throw std::runtime_error("the strip has not nine pictures");
   const double refresh = MedianOf(kRounds, [&] { strip.MFNextFrame(); });
@@ -90,11 +95,11 @@ const Register kLockedPlaySkew({"locked_play_skew", {Target::Of::AtMost, 0, 0}, 
   test::AnalysisStage stage("2", 1200, 600);
   for (const int slot : {1, 2}) {
     Open(stage, slot, test::DvVideo(330), 0);
-    stage.Slots().CurrentWindow = slot;
-    if (!stage.MP(slot).SplitFields()) stage.Slots().ToggleSplitFields();
+    stage.Stage().CurrentWindow = slot;
+    if (!stage.MP(slot).SplitFields()) stage.Videos().ToggleSplitFields();
   }
   stage.MP(2).DrawFrame(kOffset);
-  LockedVideos locks(stage.host, stage.scheduler, stage.Slots());
+  LockedVideos locks(stage.host, stage.scheduler, stage.Stage());
   locks.DualLock(1);
   int drawn = 0;
   stage.signalled = [&](int) { ++drawn; };
@@ -115,10 +120,10 @@ const Register kLockedPlaySkew({"locked_play_skew", {Target::Of::AtMost, 0, 0}, 
 const Register kDualStep({"dual_step", {Target::Of::Ratio, 2.2, 2.05}, [] {
   constexpr int kSteps = 50;
   test::AnalysisStage stage("2", 1200, 600);
-  LockedVideos locks(stage.host, stage.scheduler, stage.Slots());
+  LockedVideos locks(stage.host, stage.scheduler, stage.Stage());
   Open(stage, 1, test::DvVideo(120), 0);
   Open(stage, 2, test::DvVideo(120), 10);
-  stage.Slots().CurrentWindow = 1;
+  stage.Stage().CurrentWindow = 1;
   const auto forward = [&] { locks.DualControlStep(true); };
   // Both ways start from pictures that have been decoded once.
   for (int i = 0; i < kSteps; ++i) forward();

@@ -7,6 +7,7 @@
 #include <stdexcept>
 
 #include "Bench.h"
+#include "Nowhere.h"
 #include "platform/files/Log.h"
 #include "platform/host/QtHost.h"
 #include "support/TestPrinter.h"
@@ -57,23 +58,24 @@ Figure EightUp60() {
   PlayerServices players{*host, scheduler};
   LastStudentInfo remembered;
   test::TestPrinter printer;
-  AnalysisForm form(*host, printer, settings, players, remembered, {});
+  Nowhere nowhere;
+  AnalysisForm form(*host, printer, settings, players, remembered, nowhere);
   form.resize(1920, 1080);
   form.show();
 
-  AnalysisWorkspace& analysis = form.Analysis();
+  AnalysisWorkspace& analysis = form.Section();
   PictureCounter counter(analysis);
   for (int slot = 1; slot <= kSlots; ++slot) {
     const std::string path = ScratchFolder() + "/eight-up-" + std::to_string(slot) + ".avi";
     std::filesystem::copy_file(made, path, std::filesystem::copy_options::overwrite_existing);
-    if (!analysis.Slots().OpenVideo(slot, path)) throw std::runtime_error("a video could not be opened");
-    analysis.Slots().MP(slot).SetFrameInterface(&counter);
+    if (!analysis.Videos().OpenVideo(slot, path)) throw std::runtime_error("a video could not be opened");
+    analysis.Stage().MP(slot).SetFrameInterface(&counter);
   }
   QApplication::processEvents();
 
   counter.shown = 0;
   for (int slot = 1; slot <= kSlots; ++slot) {
-    AVIControl& player = analysis.Slots().MP(slot);
+    AVIControl& player = analysis.Stage().MP(slot);
     player.Play(0, player.VideoLength() - 1);
   }
   QElapsedTimer clock;
@@ -82,7 +84,7 @@ Figure EightUp60() {
 
   int due = 0;
   for (int slot = 1; slot <= kSlots; ++slot) {
-    AVIControl& player = analysis.Slots().MP(slot);
+    AVIControl& player = analysis.Stage().MP(slot);
     if (!player.IsPlaying()) throw std::runtime_error("a video stopped before its time");
     due += player.Position();
     player.StopPlay();

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "Bench.h"
+#include "Nowhere.h"
 #include "core/ColorSchemes.h"
 #include "core/Settings.h"
 #include "core/forms/HelpPage.h"
@@ -39,11 +40,12 @@ const Register kThemeSwitch({"theme_switch", {Target::Of::AtMost, 150, 60}, [] {
 
   auto& application = *static_cast<QApplication*>(QCoreApplication::instance());
   ApplyTheme(application, Theme::FromSlots(schemes.Colours()));
+  Nowhere nowhere;
   QStackedWidget window;
   window.resize(1280, 764);
   window.addWidget(new MenuPage(*host, settings));
   window.addWidget(new ProfilesPage(players, *printer, settings, fields, remembered, operations));
-  window.addWidget(new AnalysisForm(*host, *printer, settings, players, remembered, {}));
+  window.addWidget(new AnalysisForm(*host, *printer, settings, players, remembered, nowhere));
   window.addWidget(new SetupPage(*host, settings, schemes));
   window.addWidget(new HelpPage(QString()));
   window.show();

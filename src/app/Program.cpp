@@ -211,7 +211,7 @@ void Program::OpenPage(int index) {
   KeepLastStudent();
   if (index == kAnalysisPage) {
     main_->SetHeading(Q(vocabulary_.PageTitle(kAnalysisPage)));
-    Analysis();
+    OpenAnalysis();
     main_->OpenPage(kAnalysisPage, "Analysis");
     return;
   }
@@ -240,20 +240,19 @@ void Program::ShowFirstForm() {
 
 // ---------------------------------------------------------------- the analysis section
 
-AnalysisForm& Program::Analysis() {
+AnalysisForm& Program::OpenAnalysis() {
   if (!analysis_) {
-    Navigation navigation;
-    navigation.library = [this] { OpenPage(kProfilesPage); };
-    navigation.mainMenu = [this] { OpenPage(kMenuPage); };
-    navigation.exit = [this] { LeaveAnalysis(); };
-    analysis_ = new AnalysisForm(*host_, *printer_, settings_, players_, lastStudent_, std::move(navigation));
+    analysis_ = new AnalysisForm(*host_, *printer_, settings_, players_, lastStudent_, *this);
     main_->SetPage(kAnalysisPage, analysis_);
   }
   return *analysis_;
 }
 
+void Program::GoToLibrary() { OpenPage(kProfilesPage); }
+void Program::GoToMainMenu() { OpenPage(kMenuPage); }
+
 /// Closes all videos, which keeps what was drawn, and lets the section go until it is wanted again.
-void Program::LeaveAnalysis() {
+void Program::ExitAnalysis() {
   if (!analysis_ || !analysis_->CloseAll()) return;
   OpenPage(kMenuPage);
   // The wish may come from one of its own buttons: it goes when that has returned.
@@ -267,11 +266,11 @@ void Program::LeaveAnalysis() {
 AnalysisLink Program::LinkToAnalysis() {
   return {.isOpenInAnalysis =
               [this](const std::string& path) {
-                return analysis_ && analysis_->Analysis().Slots().CheckOpenInAnalysis(path);
+                return analysis_ && analysis_->Section().Stage().CheckOpenInAnalysis(path);
               },
           .sendToAnalysis =
               [this](const std::string& path, const std::function<void(const std::string&)>& status) {
-                return Analysis().Analysis().Slots().SendToAnalysis(path, status);
+                return OpenAnalysis().Section().Videos().SendToAnalysis(path, status);
               }};
 }
 

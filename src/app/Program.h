@@ -17,6 +17,7 @@
 #include "platform/print/Printer.h"
 #include "video/AVIControl.h"
 #include "video/PlayScheduler.h"
+#include "workspace/commands/INavigation.h"
 
 class QApplication;
 
@@ -34,7 +35,7 @@ class SplashForm;
 
 /// The whole program: makes its objects in the order in which they need each other, hands them round, and
 /// carries what one page wants of another. Whatever is decided is decided in the rooms below.
-class Program {
+class Program final : private INavigation {
  public:
   /// @param application  made before and let go after the program
   /// @param log          the same
@@ -61,8 +62,10 @@ class Program {
   void OpenPage(int index);
   void SetupVocabulary();
   void ShowFirstForm();
-  AnalysisForm& Analysis();
-  void LeaveAnalysis();
+  AnalysisForm& OpenAnalysis();
+  void GoToLibrary() override;
+  void GoToMainMenu() override;
+  void ExitAnalysis() override;
   AnalysisLink LinkToAnalysis();
   bool Shutdown();
 

@@ -12,117 +12,79 @@ constexpr int kMiddleButton = 4;
 }  // namespace
 
 AnalysisWorkspace::AnalysisWorkspace(IHost& host, Settings& settings, PlayScheduler& scheduler, IWorkspaceView& view,
-                                     IDrawingEditsView& editsView, ICompareView& compareView, Navigation navigation)
+                                     IDrawingEditsView& editsView, ICompareView& compareView, INavigation& navigation)
     : host_(host),
       settings_(settings),
       view_(view),
-      workspace_(host, settings, view),
-      compare_(host, settings, scheduler, workspace_, compareView),
-      transport_(host, settings, workspace_, compare_.Locks(), view),
+      stage_(host, settings, view, *this),
       tools_(engine_, settings, *this),
-      drawings_(workspace_, tools_),
-      autoSave_(host, settings, workspace_),
-      edits_(host, settings, workspace_, tools_, *this, editsView),
-      timer_(workspace_, transport_, view),
-      notes_(workspace_, view),
-      rateTest_(host, workspace_),
-      ruler_(settings, tools_, *this, view),
-      menuBar_({workspace_, transport_, tools_, edits_, timer_, notes_, rateTest_, ruler_, compare_}, view,
-               std::move(navigation)) {
+      keeping_(host, settings, stage_, tools_),
+      videos_(host, stage_, keeping_, *this),
+      compare_(host, settings, scheduler, stage_, compareView, *this),
+      transport_(host, settings, stage_, compare_.Locks(), view),
+      edits_(host, settings, stage_, tools_, *this, editsView),
+      timer_(stage_, transport_, view),
+      notes_(stage_, keeping_, view),
+      rateTest_(host, stage_),
+      ruler_(settings, tools_, *this, stage_, view),
+      menuBar_({stage_, videos_, transport_, tools_, edits_, timer_, notes_, rateTest_, ruler_, compare_}, view, navigation) {
   menuBar_.SetProfilesTitle(Vocabulary(settings_).Profiles());
-  transport_.PositionShown = [this] { timer_.UpdateTimer(); };
-  ConnectModes();
-  ConnectVideos();
-}
-
-void AnalysisWorkspace::ConnectModes() {
-  compare_.Entering = [this] { GiveWay(); };
-  compare_.LocksChanged = [this] {
-    transport_.ShowCurrent();
-    view_.CommandsChanged();
-  };
-  compare_.Strobe().RunningChanged = [this] { view_.CommandsChanged(); };
-  compare_.TransparencySwitched = [this](bool on) { workspace_.BarHidden = on; };
-  compare_.Strip().SquareWanted = [this] {
-    if (!tools_.Drawing() || tools_.DrawKind() != kSquare) tools_.TakeTool(kSquare);
-    view_.CommandsChanged();
-  };
-}
-
-void AnalysisWorkspace::ConnectVideos() {
-  workspace_.FootHeight = [this](int slot, int height) { return notes_.FootHeight(slot, height); };
-  workspace_.PlayerResized = [this](int slot) {
-    drawings_.PlayerResized(slot);
-    compare_.PlayerResized(slot);
-  };
-  workspace_.PictureFlipped = [this](int slot) {
-    drawings_.PictureFlipped(slot);
-    compare_.DrawingsChanged(slot);
-  };
-  workspace_.VideoOpened = [this](int slot) {
-    drawings_.VideoOpened(slot);
-    compare_.VideoOpened(slot);
-  };
-  workspace_.CollectData = [this](int slot) { return drawings_.CollectData(slot); };
-  workspace_.DataChanged = [this] { autoSave_.Changed(); };
-  workspace_.DataSaved = [this](int slot) { drawings_.DataSaved(slot); };
-  workspace_.VideoClosing = [this](int slot) {
-    edits_.VideoClosing(slot);
-    if (slot == workspace_.CurrentWindow) {
-      transport_.StepReleased();
-      ruler_.CancelCalibration();
-      if (tools_.Drawing()) tools_.PutToolDown();
-    }
-    compare_.VideoClosing(slot);
-  };
-  workspace_.VideoClosed = [this](int slot) {
-    drawings_.VideoClosed(slot);
-    timer_.Forget(slot);
-  };
-  workspace_.FocusChanged = [this] {
-    ShowFocus();
-    compare_.FocusChanged();
-  };
-  workspace_.StateChanged = [this] {
-    transport_.ShowCurrent();
-    notes_.SetupNotesPnl();
-    compare_.StateChanged();
-  };
 }
 
 void AnalysisWorkspace::AttachPlayer(int slot, AVIControl& player) {
-  workspace_.AttachPlayer(slot, player);
+  stage_.AttachPlayer(slot, player);
   player.SetFrameInterface(this);
   player.SetMouseKeyboardInterface(this);
 }
 
 void AnalysisWorkspace::DetachPlayers() {
   for (int slot = 1; slot <= kSlots; ++slot) {
-    if (!workspace_.At(slot).MP) continue;
-    workspace_.MP(slot).ReleaseFrameInterface();
-    workspace_.MP(slot).ReleaseMouseKeyboardInterface();
+    if (!stage_.At(slot).MP) continue;
+    stage_.MP(slot).ReleaseFrameInterface();
+    stage_.MP(slot).ReleaseMouseKeyboardInterface();
   }
 }
 
 void AnalysisWorkspace::Start() {
-  workspace_.FormReset();
-  workspace_.FocusSet();
+  stage_.FormReset();
+  stage_.FocusSet();
+  stage_.News().Tell();
 }
 
-/// What another current window brings with it: panels that belong to one window close, and the line, the
-/// bars and the buttons show the new one.
+// ---------------------------------------------------------------- from the rooms
+
+void AnalysisWorkspace::StageChanged(unsigned changes) {
+  if (changes & kFocusChanged) ShowFocus();
+  if (changes & (kFocusChanged | kVideoChanged | kLocksChanged)) {
+    transport_.ShowAll();
+    timer_.UpdateTimer();
+    notes_.SetupNotesPnl();
+  }
+  compare_.StageChanged(changes);
+  view_.CommandsChanged();
+}
+
+/// What another current window brings with it: panels that belong to one window close, and what was measured
+/// in the window before is shown no longer. A tool in hand stays announced.
 void AnalysisWorkspace::ShowFocus() {
   notes_.Close();
-  // A tool in hand stays announced; a measure belonged to the window before.
-  if (!tools_.Drawing()) {
+  if (!tools_.Drawing() && tools_.MeasuredWindow() != stage_.CurrentWindow) {
     tools_.DropMeasure();
     transport_.DisplayData("");
   }
   edits_.FocusChanged();
-  transport_.ShowCurrent();
 }
 
-/// A mode takes the stage, or the mouse: what is in hand is put down, and what lies on a picture goes.
+void AnalysisWorkspace::VideoClosing(int slot) {
+  edits_.VideoClosing(slot);
+  if (slot == stage_.CurrentWindow) {
+    transport_.StepReleased();
+    ruler_.CancelCalibration();
+    if (tools_.Drawing()) tools_.PutToolDown();
+  }
+  compare_.VideoClosing(slot);
+}
+
 void AnalysisWorkspace::GiveWay() {
   ruler_.CancelCalibration();  // without its tool it would wait for ever
   tools_.PutToolDown();
@@ -130,59 +92,66 @@ void AnalysisWorkspace::GiveWay() {
   notes_.Close();
 }
 
+void AnalysisWorkspace::TakeSquareTool() {
+  if (!tools_.Drawing() || tools_.DrawKind() != kSquare) tools_.TakeTool(kSquare);
+  stage_.News().Note(kCommandsChanged);
+}
+
 void AnalysisWorkspace::Select(int slot) {
-  if (slot == workspace_.CurrentWindow) return;
+  if (slot == stage_.CurrentWindow) return;
   transport_.StepReleased();
-  workspace_.SelectWindow(slot);
+  stage_.SelectWindow(slot);
 }
 
 void AnalysisWorkspace::SettingsChanged() {
   for (int slot = 1; slot <= kSlots; ++slot) {
-    workspace_.MP(slot).setDrawWidth(settings_.CadWidth);
-    workspace_.MP(slot).Refresh();
+    stage_.MP(slot).setDrawWidth(settings_.CadWidth);
+    stage_.MP(slot).Refresh();
   }
   menuBar_.SetProfilesTitle(Vocabulary(settings_).Profiles());
-  view_.CommandsChanged();
+  stage_.News().Note(kCommandsChanged);
 }
 
 // ---------------------------------------------------------------- from the window
 
 void AnalysisWorkspace::StageResized() {
-  workspace_.FormReset();
+  stage_.FormReset();
   notes_.SetupNotesPnl();
 }
 
 void AnalysisWorkspace::CellPressed(int slot) {
   Select(slot);
-  view_.FocusKeyBox();
+  stage_.FocusKeyBox();
 }
 
 void AnalysisWorkspace::CellDoubleClicked(int slot) {
   Select(slot);
-  if (!workspace_.HasVideo(slot)) menuBar_.Run("vo");
+  if (!stage_.HasVideo(slot)) menuBar_.Run("vo");
 }
 
 void AnalysisWorkspace::PutToolDown() {
   tools_.PutToolDown();
-  view_.CommandsChanged();
-  view_.FocusKeyBox();
+  stage_.News().Note(kCommandsChanged);
+  stage_.FocusKeyBox();
 }
 
 void AnalysisWorkspace::ChooseColour(int Index) {
   tools_.ChooseColour(Index);
   view_.SetColorButton(Index);
-  view_.FocusKeyBox();
+  stage_.FocusKeyBox();
 }
 
 // ---------------------------------------------------------------- from the players
 
 void AnalysisWorkspace::PreDrawFrame(Canvas& hDC, int ID) {
+  keeping_.FollowPicture(ID);
   tools_.PreDrawFrame(hDC, ID);
   edits_.FramePainted(ID);
 }
 
 void AnalysisWorkspace::Signal(int, int ID) {
   transport_.Signal(ID);
+  if (ID == stage_.CurrentWindow) timer_.UpdateTimer();
   rateTest_.Signal(ID);
   compare_.Signal(ID);
 }
@@ -191,7 +160,7 @@ void AnalysisWorkspace::Notify(int, int ID) {
   transport_.Notify(ID);
   rateTest_.Notify(ID);
   compare_.Notify(ID);
-  view_.CommandsChanged();
+  stage_.News().Note(kCommandsChanged);
 }
 
 void AnalysisWorkspace::StrobeEnded(int ID) { compare_.Strobe().StrobeEnded(ID); }
@@ -199,8 +168,8 @@ void AnalysisWorkspace::StrobeEnded(int ID) { compare_.Strobe().StrobeEnded(ID);
 void AnalysisWorkspace::MouseDown(int Button, int Shift, float X, float Y, int ID) {
   if (Button == kMiddleButton) return compare_.Zoom().DragBegin(ID, X, Y);
   if (!tools_.MouseDown(Button, Shift, X, Y, ID)) Select(ID);
-  view_.CommandsChanged();
-  view_.FocusKeyBox();
+  stage_.News().Note(kCommandsChanged);
+  stage_.FocusKeyBox();
 }
 
 void AnalysisWorkspace::MouseMove(int Button, int Shift, float X, float Y, int ID) {
@@ -210,11 +179,11 @@ void AnalysisWorkspace::MouseMove(int Button, int Shift, float X, float Y, int I
 
 void AnalysisWorkspace::MouseUp(int Button, int Shift, float X, float Y, int ID) {
   if (Button == kMiddleButton) return compare_.Zoom().DragEnd();
-  if (tools_.MouseUp(Button, Shift, X, Y, ID)) view_.CommandsChanged();
+  if (tools_.MouseUp(Button, Shift, X, Y, ID)) stage_.News().Note(kCommandsChanged);
 }
 
 void AnalysisWorkspace::DblClick(int ID) {
-  if (!workspace_.HasVideo(ID)) CellDoubleClicked(ID);
+  if (!stage_.HasVideo(ID)) CellDoubleClicked(ID);
 }
 
 void AnalysisWorkspace::KeyDown(int KeyCode, int Shift, int) { menuBar_.PressKey(KeyCode, Shift); }
@@ -224,20 +193,20 @@ void AnalysisWorkspace::KeyPress(int KeyAscii, int) { menuBar_.PressLetter(KeyAs
 // ---------------------------------------------------------------- for the drawing tools
 
 bool AnalysisWorkspace::IsPlaying(int window) {
-  return workspace_.MP(window).IsPlaying() || compare_.Locks().PlayingTogether(window);
+  return stage_.MP(window).IsPlaying() || compare_.Locks().PlayingTogether(window);
 }
 
 void AnalysisWorkspace::StopClick(int window) {
   compare_.Locks().StopTogether();
-  workspace_.MP(workspace_.CurrentWindow).StopPlay();
+  stage_.MP(stage_.CurrentWindow).StopPlay();
   transport_.StepReleased();
-  if (workspace_.IsShown(window)) workspace_.CurrentWindow = window;
+  if (stage_.IsShown(window)) stage_.CurrentWindow = window;
   view_.SetLoopButton(false);
-  workspace_.FocusSet();
+  stage_.FocusSet();
 }
 
 void AnalysisWorkspace::ReleaseLoopButton() {
-  AVIControl& player = workspace_.MP(workspace_.CurrentWindow);
+  AVIControl& player = stage_.MP(stage_.CurrentWindow);
   if (!player.Repeat()) return;
   player.StopPlay();
   player.setRepeat(false);
@@ -245,20 +214,19 @@ void AnalysisWorkspace::ReleaseLoopButton() {
 }
 
 bool AnalysisWorkspace::OnLastFrame(int window) {
-  const AVIControl& player = workspace_.MP(window);
+  const AVIControl& player = stage_.MP(window);
   return player.Position() >= player.VideoLength() - 1;
 }
 
 void AnalysisWorkspace::AdvanceFrame(int window) {
-  if (!OnLastFrame(window)) workspace_.MP(window).Play(workspace_.MP(window).Position() + 1);
+  if (!OnLastFrame(window)) stage_.MP(window).Play(stage_.MP(window).Position() + 1);
   compare_.MPManualSignal();
   compare_.Locks().AdvancePartners(window);
 }
 
-void AnalysisWorkspace::DrawingsChanged(int window) {
-  compare_.DrawingsChanged(window);
-  autoSave_.Changed();
-  view_.CommandsChanged();
+void AnalysisWorkspace::DrawingsChanged(int) {
+  keeping_.DrawingsChanged();
+  stage_.News().Note(kPicturesChanged);
 }
 
 bool AnalysisWorkspace::TakeSquare(int window, const Shape& square) {

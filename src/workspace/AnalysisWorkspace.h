@@ -5,21 +5,32 @@
 #include "drawing/DrawingTools.h"
 #include "drawing/ShapeStore.h"
 #include "video/CallbackInterfaces.h"
-#include "workspace/AutoSave.h"
-#include "workspace/CompareModes.h"
-#include "workspace/DrawingEdits.h"
-#include "workspace/MenuBar.h"
-#include "workspace/SlotDrawings.h"
+#include "workspace/IWorkspaceView.h"
+#include "workspace/commands/MenuBar.h"
+#include "workspace/compare/CompareModes.h"
+#include "workspace/edits/DrawingEdits.h"
+#include "workspace/keeping/Keeping.h"
+#include "workspace/stage/Stage.h"
+#include "workspace/videos/Videos.h"
 
 namespace kinalyx {
 
-/// The analysis section as one object: makes the slots, the transport, the drawing tools and the commands,
-/// ties them to each other, and serves the players. A window shows it through IWorkspaceView and hands it
-/// eight players; everything else works without a window.
-class AnalysisWorkspace final : public IFrameInterface, public IMouseAndKeyBoardEvents, private IDrawingWorkspace {
+/// The analysis section as one object: makes its rooms (stage, keeping, videos, compare, transport, edits,
+/// commands), ties them to each other, and serves the players. A window shows it through IWorkspaceView and
+/// hands it eight players; everything else works without a window.
+///
+/// Calls go down from here to the rooms; what they have to tell comes back as StageChanged, once for each turn
+/// of the event loop, but for what must happen in the middle (IVideoEvents, ICompareEvents). Nothing is asked of
+/// the windows before Start.
+class AnalysisWorkspace final : public IFrameInterface,
+                                public IMouseAndKeyBoardEvents,
+                                private IStageEvents,
+                                private IVideoEvents,
+                                private ICompareEvents,
+                                private IDrawingWorkspace {
  public:
   AnalysisWorkspace(IHost& host, Settings& settings, PlayScheduler& scheduler, IWorkspaceView& view,
-                    IDrawingEditsView& editsView, ICompareView& compareView, Navigation navigation);
+                    IDrawingEditsView& editsView, ICompareView& compareView, INavigation& navigation);
   AnalysisWorkspace(const AnalysisWorkspace&) = delete;
   AnalysisWorkspace& operator=(const AnalysisWorkspace&) = delete;
 
@@ -31,8 +42,10 @@ class AnalysisWorkspace final : public IFrameInterface, public IMouseAndKeyBoard
   /// Shows everything for the first time; all players must be attached.
   void Start();
 
-  Workspace& Slots() { return workspace_; }
-  Transport& Player() { return transport_; }
+  kinalyx::Stage& Stage() { return stage_; }
+  kinalyx::Videos& Videos() { return videos_; }
+  kinalyx::Keeping& Keeping() { return keeping_; }
+  kinalyx::Transport& Transport() { return transport_; }
   DrawingTools& Tools() { return tools_; }
   DrawingEdits& Edits() { return edits_; }
   MenuBar& Commands() { return menuBar_; }
@@ -70,21 +83,28 @@ class AnalysisWorkspace final : public IFrameInterface, public IMouseAndKeyBoard
   void KeyUp(int, int, int) override {}
 
  private:
-  void ConnectModes();
-  void ConnectVideos();
   void ShowFocus();
-  void GiveWay();
+  void Select(int slot);
+
+  // --- from the rooms
+  void StageChanged(unsigned changes) override;
+  void VideoOpened(int slot) override { compare_.Strobe().VideoOpened(slot); }
+  void VideoClosing(int slot) override;
+  void VideoClosed(int slot) override { timer_.Forget(slot); }
+  void FieldsSplit(int) override { compare_.Locks().FieldsSplit(); }
+  void GiveWay() override;
+  void TakeSquareTool() override;
 
   // --- IDrawingWorkspace
-  int ActiveWindow() override { return workspace_.CurrentWindow; }
+  int ActiveWindow() override { return stage_.CurrentWindow; }
   void SetActiveWindow(int window) override { Select(window); }
-  bool HasVideo(int window) override { return workspace_.HasVideo(window); }
-  int PictureWidth(int window) override { return workspace_.MP(window).ControlWidthPixels(); }
-  int PictureHeight(int window) override { return workspace_.MP(window).ControlHeightPixels(); }
+  bool HasVideo(int window) override { return stage_.HasVideo(window); }
+  int PictureWidth(int window) override { return stage_.MP(window).ControlWidthPixels(); }
+  int PictureHeight(int window) override { return stage_.MP(window).ControlHeightPixels(); }
   bool IsPlaying(int window) override;
   void StopClick(int window) override;
   void ReleaseLoopButton() override;
-  void Refresh(int window) override { workspace_.MP(window).Refresh(); }
+  void Refresh(int window) override { stage_.MP(window).Refresh(); }
   bool OnLastFrame(int window) override;
   void AdvanceFrame(int window) override;
   void DisplayData(const std::string& text) override { transport_.DisplayData(text); }
@@ -99,18 +119,16 @@ class AnalysisWorkspace final : public IFrameInterface, public IMouseAndKeyBoard
   bool CalibrationShown() override { return ruler_.Shown(); }
   void ShowCalibrationLength(const std::string& length) override { ruler_.ShowLength(length); }
 
-  void Select(int slot);
-
   IHost& host_;
   Settings& settings_;
   IWorkspaceView& view_;
   ShapeEngine engine_;
-  Workspace workspace_;
-  CompareModes compare_;
-  Transport transport_;
+  kinalyx::Stage stage_;
   DrawingTools tools_;
-  SlotDrawings drawings_;
-  AutoSave autoSave_;
+  kinalyx::Keeping keeping_;
+  kinalyx::Videos videos_;
+  CompareModes compare_;
+  kinalyx::Transport transport_;
   DrawingEdits edits_;
   VideoTimer timer_;
   VideoNotes notes_;

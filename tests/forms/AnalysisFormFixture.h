@@ -20,7 +20,7 @@ namespace kinalyx::test {
 
 /// The page of the analysis section with real players, in a folder of its own; its controls are found by
 /// their names.
-struct AnalysisFormFixture : testing::Test, UsesApplication, FormDriver {
+struct AnalysisFormFixture : testing::Test, UsesApplication, FormDriver, INavigation {
   explicit AnalysisFormFixture(QSize size = {1280, 800}) : folder(NewFolder()), settings(host, folder + "/data", folder) {
     settings.LoadSettings();
     settings.LibraryPath = folder + "/library";
@@ -29,9 +29,7 @@ struct AnalysisFormFixture : testing::Test, UsesApplication, FormDriver {
 
   /// Another page, in place of the one before.
   void Make(QSize size) {
-    form = std::make_unique<AnalysisForm>(
-        host, printer, settings, players, remembered,
-        Navigation{[this] { went = "library"; }, [this] { went = "menu"; }, [this] { went = "exit"; }});
+    form = std::make_unique<AnalysisForm>(host, printer, settings, players, remembered, *this);
     form->resize(size);
     form->show();
     form->Open();
@@ -44,13 +42,24 @@ struct AnalysisFormFixture : testing::Test, UsesApplication, FormDriver {
     return path;
   }
   /// Opens such a video in the first free window.
-  void Send(const std::string& name) { ASSERT_NE(Slots().SendToAnalysis(Video(name)), 0); }
+  void Send(const std::string& name) {
+    ASSERT_NE(Videos().SendToAnalysis(Video(name)), 0);
+    EndTurn();
+  }
+  /// The present turn of the event loop is over: the windows are told what has changed.
+  void EndTurn() { Stage().News().Tell(); }
 
-  void Click(const char* name) { QTest::mouseClick(Find<QWidget>(name), Qt::LeftButton); }
+  void Click(const char* name) {
+    QTest::mouseClick(Find<QWidget>(name), Qt::LeftButton);
+    EndTurn();
+  }
   bool Seen(const char* name) { return Find<QWidget>(name)->isVisible(); }
   bool Enabled(const char* name) { return Find<QWidget>(name)->isEnabled(); }
   /// A press and release on the picture of a window.
-  void ClickOn(const char* player, QPoint at) { QTest::mouseClick(Find<QWidget>(player), Qt::LeftButton, {}, at); }
+  void ClickOn(const char* player, QPoint at) {
+    QTest::mouseClick(Find<QWidget>(player), Qt::LeftButton, {}, at);
+    EndTurn();
+  }
   /// Takes up a tool of two points and draws with it on window 1.
   void Draw(const char* tool, QPoint from, QPoint to) {
     Click(tool);
@@ -58,10 +67,14 @@ struct AnalysisFormFixture : testing::Test, UsesApplication, FormDriver {
     QTest::mouseMove(Find<QWidget>("MP1"), (from + to) / 2);
     ClickOn("MP1", to);
   }
-  void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(Find<QWidget>("Text1"), key, modifiers); }
+  void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+    QTest::keyClick(Find<QWidget>("Text1"), key, modifiers);
+    EndTurn();
+  }
 
-  Workspace& Slots() { return form->Analysis().Slots(); }
-  ShapeList& Shapes(int slot = 1) { return form->Analysis().Tools().List(slot); }
+  kinalyx::Stage& Stage() { return form->Section().Stage(); }
+  kinalyx::Videos& Videos() { return form->Section().Videos(); }
+  ShapeList& Shapes(int slot = 1) { return form->Section().Tools().List(slot); }
   POINTAPI PointOf(int shape, int point) {
     return Shapes().Shapes[static_cast<std::size_t>(shape)].Pts[static_cast<std::size_t>(point)];
   }
@@ -79,6 +92,9 @@ struct AnalysisFormFixture : testing::Test, UsesApplication, FormDriver {
 
  private:
   QWidget& Form() override { return *form; }
+  void GoToLibrary() override { went = "library"; }
+  void GoToMainMenu() override { went = "menu"; }
+  void ExitAnalysis() override { went = "exit"; }
   static std::string NewFolder() {
     static int count = 0;
     const std::string path = TestPath("analysisform" + std::to_string(++count));

@@ -28,23 +28,23 @@ TEST_F(AnalysisFormTest, SendsOpensPlaysAndCloses) {
   EXPECT_TRUE(Seen("MP1") && Seen("MP2"));
   EXPECT_FALSE(Seen("BorderPanel3"));
   EXPECT_EQ(Find<QWidget>("MP2")->height(), Find<QWidget>("VideoPanel2")->height());
-  EXPECT_EQ(Slots().MP(2).ControlHeightPixels(), Find<QWidget>("MP2")->height());
+  EXPECT_EQ(Stage().MP(2).ControlHeightPixels(), Find<QWidget>("MP2")->height());
 
   Click("CmdButton2");
-  EXPECT_TRUE(Slots().MP(2).IsPlaying());
+  EXPECT_TRUE(Stage().MP(2).IsPlaying());
   host.Advance(300);
   EXPECT_EQ(Text("DisplayPanel"), ".30 seconds | 9/29 frames  ");
   Click("CmdButton0");
-  EXPECT_EQ(Slots().MP(2).Position(), 0);
+  EXPECT_EQ(Stage().MP(2).Position(), 0);
   Click("CmdButton3");
-  EXPECT_EQ(Slots().MP(2).Position(), 1);
+  EXPECT_EQ(Stage().MP(2).Position(), 1);
   Click("SlomoButton");
-  EXPECT_EQ(Slots().MP(2).Speed(), 25);
+  EXPECT_EQ(Stage().MP(2).Speed(), 25);
   Click("Closebtn");
-  EXPECT_FALSE(Slots().HasVideo(2) || Enabled("CmdButton2"));
+  EXPECT_FALSE(Stage().HasVideo(2) || Enabled("CmdButton2"));
   EXPECT_TRUE(Find<QToolButton>("CmdButton2")->toolTip().endsWith("Open a video first"));
   EXPECT_TRUE(form->CloseAll());
-  EXPECT_FALSE(Slots().AnyVideo());
+  EXPECT_FALSE(Stage().AnyVideo());
 }
 
 TEST_F(AnalysisFormTest, TheMouseDrawsOnThePicture) {
@@ -78,7 +78,7 @@ TEST_F(AnalysisFormTest, TheMouseDrawsOnThePicture) {
   EXPECT_EQ(PointOf(0, 0), (POINTAPI{at.x(), at.y()}));
   Click("CmdMakeShape4");
   Click("DrawOffBtn");
-  EXPECT_FALSE(form->Analysis().Tools().Drawing() || caption->isVisible());
+  EXPECT_FALSE(form->Section().Tools().Drawing() || caption->isVisible());
 }
 
 TEST_F(AnalysisFormTest, LettersInTextBoxesStayLetters) {
@@ -89,13 +89,13 @@ TEST_F(AnalysisFormTest, LettersInTextBoxesStayLetters) {
   EXPECT_EQ(form->focusWidget(), box) << "one can write at once";
   QTest::keyClicks(box, "close, play 4 more");
   EXPECT_EQ(box->toPlainText(), "close, play 4 more");
-  EXPECT_TRUE(Slots().HasVideo(1) && !Slots().MP(1).IsPlaying() && Slots().ScreenLayout == "1");
+  EXPECT_TRUE(Stage().HasVideo(1) && !Stage().MP(1).IsPlaying() && Stage().ScreenLayout == "1");
   QTest::keyClick(box, Qt::Key_Return);
   QTest::keyClicks(box, "head");
   QTest::keyClick(box, Qt::Key_F4);
-  EXPECT_EQ(form->Analysis().Tools().DrawKind(), 3) << "what a box does not want is a command";
+  EXPECT_EQ(form->Section().Tools().DrawKind(), 3) << "what a box does not want is a command";
   QTest::keyClick(box, Qt::Key_Escape);
-  EXPECT_TRUE(Slots().HasVideo(1)) << "Escape only leaves the box";
+  EXPECT_TRUE(Stage().HasVideo(1)) << "Escape only leaves the box";
   // Full: what does not fit is left out of what came last, and the panel says so.
   box->setPlainText("start end");
   box->moveCursor(QTextCursor::Start);
@@ -110,30 +110,30 @@ TEST_F(AnalysisFormTest, LettersInTextBoxesStayLetters) {
   EXPECT_FALSE(Find<QLabel>("NotesFull")->isVisible());
   box->setPlainText("close, play 4 more\nhead");
   Click("NotesClose");
-  EXPECT_EQ(Slots().At(1).data.Notes, "close, play 4 more\r\nhead");
+  EXPECT_EQ(Stage().At(1).data.Notes, "close, play 4 more\r\nhead");
   Key(Qt::Key_C);
-  EXPECT_FALSE(Slots().HasVideo(1));
+  EXPECT_FALSE(Stage().HasVideo(1));
 }
 
 TEST_F(AnalysisFormTest, KeypadAndDigitsAreTwoThings) {
   Send("a.avi");
   Key(Qt::Key_4);
-  EXPECT_EQ(Slots().ScreenLayout, "4");
+  EXPECT_EQ(Stage().ScreenLayout, "4");
   Key(Qt::Key_1, Qt::KeypadModifier);
-  EXPECT_EQ(Slots().CurrentWindow, 4);
+  EXPECT_EQ(Stage().CurrentWindow, 4);
   Key(Qt::Key_7, Qt::KeypadModifier);
-  EXPECT_EQ(Slots().ScreenLayout, "4");
+  EXPECT_EQ(Stage().ScreenLayout, "4");
   Key(Qt::Key_4, Qt::KeypadModifier);
-  EXPECT_EQ(Slots().At(1).PanX, -50);
+  EXPECT_EQ(Stage().At(1).PanX, -50);
   Key(Qt::Key_C, Qt::ControlModifier);
-  EXPECT_TRUE(Slots().HasVideo(1));
+  EXPECT_TRUE(Stage().HasVideo(1));
   Key(Qt::Key_Escape);
-  EXPECT_FALSE(Slots().HasVideo(1));
+  EXPECT_FALSE(Stage().HasVideo(1));
   Key(Qt::Key_T, Qt::ControlModifier | Qt::ShiftModifier);
-  EXPECT_TRUE(Slots().HasVideo(1)) << "what was closed comes back";
+  EXPECT_TRUE(Stage().HasVideo(1)) << "what was closed comes back";
   QKeyEvent held(QEvent::KeyPress, Qt::Key_P, {}, "p", true);
   QApplication::sendEvent(Find<QWidget>("Text1"), &held);
-  EXPECT_FALSE(Slots().MP(1).IsPlaying()) << "a held key toggles once";
+  EXPECT_FALSE(Stage().MP(1).IsPlaying()) << "a held key toggles once";
   EXPECT_EQ(KeyCodeOf(QKeyEvent(QEvent::KeyPress, Qt::Key_Left, Qt::KeypadModifier)), kKeyLeft);
   Key(Qt::Key_End);
   EXPECT_EQ(went, "menu");
@@ -154,9 +154,9 @@ TEST_F(AnalysisFormTest, TheOpenPanelStandsWhereTheSettingsSay) {
     const bool middle = std::abs(OnForm(panel).center().x() - stage.center().x()) <= 1;
     EXPECT_TRUE(choice == 0 ? right : choice == 1 ? left : middle) << choice;
     Click("CmdOpenVideo0");
-    EXPECT_TRUE(Slots().HasVideo(1));
+    EXPECT_TRUE(Stage().HasVideo(1));
     Click("CmdOpenVideo2");
-    EXPECT_FALSE(Slots().HasVideo(1));
+    EXPECT_FALSE(Stage().HasVideo(1));
     Click("CmdOpenVideo1");
     EXPECT_FALSE(panel->isVisible());
   }
@@ -186,11 +186,11 @@ TEST_F(AnalysisFormTest, TheFloatingPlayBarStaysWhereItIsPut) {
   QTest::qWait(50);
   EXPECT_GT(painted.count, 0);
   // The film strip does not cover it.
-  form->Analysis().Commands().Run("smbar");
+  form->Section().Commands().Run("smbar");
   EXPECT_FALSE(OnForm(bar).intersects(OnForm(Find<QWidget>("MultiPicturePanel"))));
   QWidget* const top = form->childAt(OnForm(bar).center());
   EXPECT_TRUE(top == bar || bar->isAncestorOf(top));
-  form->Analysis().Commands().Run("smbar");
+  form->Section().Commands().Run("smbar");
   Click("PlayBarDetachBtn");
   EXPECT_LT(bar->x(), docked.x());
   EXPECT_EQ(bar->y(), docked.y());
@@ -201,8 +201,8 @@ TEST_F(AnalysisFormTest, ThePlayBarHasAllFiguresAndMarksAtEverySize) {
   auto* bar = dynamic_cast<PlayBar*>(Find<QWidget>("Playbar"));
   ASSERT_TRUE(bar);
   for (int n = 0; n < 10; ++n) {
-    form->Analysis().Player().Seek(2 * n);
-    form->Analysis().Commands().Run("TMark");
+    form->Section().Transport().Seek(2 * n);
+    form->Section().Commands().Run("TMark");
   }
   const QString line = "3599.98 seconds | 215999/215999 frames  ";
   for (const QSize size : {QSize(1024, 768), QSize(1920, 1080)}) {
@@ -235,7 +235,7 @@ TEST_F(AnalysisFormTest, ThePlayBarHasAllFiguresAndMarksAtEverySize) {
           EXPECT_FALSE(taken.intersects(OnForm(Find<QWidget>(name)))) << name;
         for (int n = 0; n < 10; ++n) {
           Click(("Mark" + std::to_string(n)).c_str());
-          EXPECT_EQ(Slots().MP(1).Position(), 2 * n);
+          EXPECT_EQ(Stage().MP(1).Position(), 2 * n);
         }
         if (Find<QToolButton>("MarksBtn")->isChecked()) {
           Click("MarksBtn");
@@ -246,18 +246,18 @@ TEST_F(AnalysisFormTest, ThePlayBarHasAllFiguresAndMarksAtEverySize) {
     }
     Click("CmdOpenVideo1");
   }
-  form->Analysis().Commands().Run("TMarkoff");
+  form->Section().Commands().Run("TMarkoff");
   EXPECT_FALSE(Seen("Mark0") || Seen("MarksBtn"));
 }
 
 TEST_F(AnalysisFormTest, TheWheelMovesTheFilmByWholeNotches) {
   Send("a.avi");
-  form->Analysis().Player().Seek(10);
+  form->Section().Transport().Seek(10);
   auto* bar = Find<QWidget>("PlayBarHScroll");
   const auto turn = [&](QPoint by) {
     QWheelEvent wheel({20, 10}, bar->mapToGlobal(QPointF(20, 10)), {}, by, {}, {}, Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(bar, &wheel);
-    return Slots().MP(1).Position();
+    return Stage().MP(1).Position();
   };
   EXPECT_EQ(turn({0, -120}), 11);
   EXPECT_EQ(turn({0, 240}), 9);
@@ -281,7 +281,7 @@ TEST_F(AnalysisFormTest, DisabledThingsSayWhy) {
 
 TEST_F(AnalysisFormTest, TimerAndRulerWorkOverTheStage) {
   Send("a.avi");
-  form->Analysis().Player().Seek(15);
+  form->Section().Transport().Seek(15);
   Click("CmdAfunctions3");
   ASSERT_TRUE(Seen("VideoTimerForm"));
   EXPECT_EQ(Text("Label1"), "00.50");
@@ -313,7 +313,7 @@ TEST_F(AnalysisFormTest, TheOpenPanelFollowsThePageAndNotTheWindow) {
   std::filesystem::rename(Video("a.avi"), settings.LibraryPath + "/Anna/Erica/a.avi");
   std::filesystem::create_directories(settings.LibraryPath + "/Anna/Zoe");
   remembered = {"Anna", "Erica", ""};
-  form->Analysis().Commands().Run("vo");
+  form->Section().Commands().Run("vo");
   auto* panel = form->findChild<OpenVidForm*>();
   ASSERT_NE(panel, nullptr);
   const AVIControl& preview = panel->findChild<PreviewPlayer*>()->Control();
@@ -337,17 +337,17 @@ TEST_F(AnalysisFormTest, TheOpenPanelFollowsThePageAndNotTheWindow) {
 
 TEST_F(AnalysisFormTest, LettingGoWhileEverythingPlaysKeepsTheDrawings) {
   const std::string path = Video("a.avi");
-  Slots().SendToAnalysis(path);
+  Videos().SendToAnalysis(path);
   for (int n = 2; n <= 8; ++n) Send(std::to_string(n) + ".avi");
-  Slots().SelectWindow(1);
+  Stage().SelectWindow(1);
   Click("CmdMakeShape1");
   ClickOn("MP1", {90, 80});
-  form->Analysis().Player().ToggleLoopAll();
+  form->Section().Transport().ToggleLoopAll();
   host.Advance(200);
   form.reset();
   host.Advance(1000);
   Make({1280, 800});
-  Slots().SendToAnalysis(path);
+  Videos().SendToAnalysis(path);
   EXPECT_EQ(Shapes().NumShapes, 1);
 }
 

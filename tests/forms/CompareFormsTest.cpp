@@ -36,8 +36,9 @@ class CompareFormsTest : public testing::Test, test::UsesApplication, protected 
     rows->setSpacing(0);
     stageWidget_ = new QWidget(&window_);
     rows->addWidget(stageWidget_, 1);
-    forms_.Build(modes_, stage_.Slots(), stageWidget_);
+    forms_.Build(modes_, stage_.Stage(), stageWidget_);
     rows->addWidget(forms_.Foot());
+    stage_.Start();
     window_.show();
     ASSERT_TRUE(stage_.Open(1, RawVideo(40), 10));
     ASSERT_TRUE(stage_.Open(2, RawVideo(40), 15));
@@ -122,11 +123,11 @@ TEST_F(CompareFormsTest, TransparencyIsMixedFromItsPanel) {
 
   // The wheel zooms the chosen video in the mix.
   Click("SelectVid2");
-  EXPECT_EQ(stage_.Slots().CurrentWindow, 2);
+  EXPECT_EQ(stage_.Stage().CurrentWindow, 2);
   auto* panel = Find<QWidget>("TransPanel");
   Wheel(panel, {600, 200}, 120);
-  EXPECT_DOUBLE_EQ(stage_.Slots().At(2).VideoZoom, 1.1);
-  EXPECT_DOUBLE_EQ(stage_.Slots().At(1).VideoZoom, 1.0);
+  EXPECT_DOUBLE_EQ(stage_.Stage().At(2).VideoZoom, 1.1);
+  EXPECT_DOUBLE_EQ(stage_.Stage().At(1).VideoZoom, 1.0);
   // And a tool draws on it; in the split screen, on the one in whose half the mouse is.
   for (const auto& [option, x] : {std::pair{"OptShow0", 600}, {"OptShow1", 450}, {"OptShow1", 750}}) {
     Click(option);
@@ -141,8 +142,8 @@ TEST_F(CompareFormsTest, TransparencyIsMixedFromItsPanel) {
 
 TEST_F(CompareFormsTest, WheelZoomsTheVideoUnderThePointer) {
   Wheel(stageWidget_, {900, 200}, -240);
-  EXPECT_DOUBLE_EQ(stage_.Slots().At(2).VideoZoom, 0.8);
-  EXPECT_EQ(stage_.Slots().CurrentWindow, 1);
+  EXPECT_DOUBLE_EQ(stage_.Stage().At(2).VideoZoom, 0.8);
+  EXPECT_EQ(stage_.Stage().CurrentWindow, 1);
 }
 
 TEST_F(CompareFormsTest, StrobeWindowStartsStopsAndSaves) {
@@ -158,13 +159,10 @@ TEST_F(CompareFormsTest, StrobeWindowStartsStopsAndSaves) {
   EXPECT_EQ(strobe->text(), "Strobe");
   ASSERT_TRUE(save->isEnabled());
   const std::string path = TestPath("kept strobe.png");
-  forms_.askPicture = [&](const QString& suggestion) {
-    EXPECT_TRUE(suggestion.endsWith(" strobe.png"));
-    return QString::fromStdString(path);
-  };
+  formsHost_.newFiles = {path, "/nowhere at all/strobe.png"};
   Click("SaveStrobeBtn");
+  EXPECT_TRUE(formsHost_.suggested.ends_with(" strobe.png"));
   EXPECT_EQ(QImage(QString::fromStdString(path)).width(), stage_.MP(1).ControlWidthPixels());
-  forms_.askPicture = [](const QString&) { return QString("/nowhere at all/strobe.png"); };
   Click("SaveStrobeBtn");
   EXPECT_EQ(formsHost_.messages.size(), 1u);
 }
@@ -206,14 +204,14 @@ TEST_F(CompareFormsTest, StripAndZoomButtonsReachTheirModes) {
   EXPECT_EQ(modes_.Strip().Skip(), 2);
   Click("MPicBtn0");
   EXPECT_TRUE(modes_.Strip().WaitingForSquare());
-  forms_.askPicture = [](const QString&) { return QString::fromStdString(TestPath("strip.jpg")); };
+  formsHost_.newFiles = {TestPath("strip.jpg")};
   Click("SaveStripBtn");
   EXPECT_TRUE(std::filesystem::exists(TestPath("strip.jpg")));
   Click("MPicBtn1");
   EXPECT_FALSE(Seen("MFPanel"));
 
   modes_.ToggleZoomForm();
-  const Slot& slot = stage_.Slots().At(1);
+  const Slot& slot = stage_.Stage().At(1);
   Click("ZoomBtn1");
   EXPECT_DOUBLE_EQ(slot.VideoZoom, 1.1);
   Click("PanBtn2");

@@ -102,7 +102,7 @@ TEST_F(EditFormsTest, TheBarGoesWithItsWindow) {
   Click("Scn2");
   QTest::qWait(0);
   Send("b.avi");
-  EXPECT_EQ(Slots().CurrentWindow, 2);
+  EXPECT_EQ(Stage().CurrentWindow, 2);
   EXPECT_GE(strip->geometry().center().x(), form->width() / 2);
   EXPECT_EQ(Text("EditWords"), "Nothing is drawn here");
   EXPECT_TRUE(Enabled("cmdEBBtn6") && !Enabled("cmdEBBtn1"));
@@ -147,7 +147,8 @@ TEST_F(EditFormsTest, MacrosAreNamedShownInsertedAndRemoved) {
   EXPECT_EQ(Shapes().NumShapes, 2);
   EXPECT_TRUE(Find<QToolButton>("ribEBBtn")->isChecked());
   EXPECT_FALSE(Enabled("cmdEBBtn3") || Seen("EditKnob3"));
-  Slots().CloseVideo(1);
+  Videos().CloseVideo(1);
+  EndTurn();
   EXPECT_FALSE(Enabled("MacroBtn"));
   EXPECT_EQ(Find<QPushButton>("MacroBtn")->toolTip(), "Open a video first");
   host.answers = {true};
@@ -170,7 +171,8 @@ TEST_F(EditFormsTest, GridPanelAndClonePlan) {
 
   Click("Scn4");
   Send("b.avi");
-  Slots().SelectWindow(1);
+  Stage().SelectWindow(1);
+  EndTurn();
   InDialog("CloneForm", [](QDialog& dialog) { QTest::keyClick(dialog.findChild<QPushButton*>("Command2"), Qt::Key_Return); });
   Click("CmdAfunctions1");
   EXPECT_EQ(Shapes(2).NumShapes, 0) << "Cancel clones nothing";
@@ -183,7 +185,7 @@ TEST_F(EditFormsTest, GridPanelAndClonePlan) {
   });
   Click("CmdAfunctions1");
   EXPECT_EQ(Shapes(2).NumShapes, 2);
-  EXPECT_EQ(Slots().CurrentWindow, 2);
+  EXPECT_EQ(Stage().CurrentWindow, 2);
 }
 
 }  // namespace

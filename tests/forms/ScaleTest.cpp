@@ -146,7 +146,7 @@ using ScaledAnalysis = AnalysisFormFixture;
 TEST_F(ScaledAnalysis, NothingIsClippedOrCutOff) {
   Send("a.avi");
   Send("b.avi");
-  for (const char* card : {"TVT", "TCal", "TZP", "TASF", "TAGrid", "AddMacro"}) form->Analysis().Commands().Run(card);
+  for (const char* card : {"TVT", "TCal", "TZP", "TASF", "TAGrid", "AddMacro"}) form->Section().Commands().Run(card);
   const auto expectInBar = [&](std::initializer_list<const char*> names) {
     const QRect bar = OnForm(Find<QWidget>("Playbar"));
     for (const char* name : names) EXPECT_TRUE(bar.contains(OnForm(Find<QWidget>(name)))) << name;

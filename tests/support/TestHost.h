@@ -28,6 +28,8 @@ class TestHost final : public IHost {
   std::vector<std::string> questions;
   std::deque<bool> answers;           ///< taken from the front; without one the answer is no
   std::deque<std::optional<std::string>> files;
+  std::deque<std::optional<std::string>> newFiles;
+  std::string suggested;  ///< the path that the last of them was asked with
   std::deque<std::optional<std::string>> folders;
   std::vector<std::vector<std::string>> started;  ///< program and arguments
   bool drivesHang = false;            ///< what a drive is asked from now on waits for DrivesAnswer
@@ -79,6 +81,10 @@ class TestHost final : public IHost {
     return std::make_unique<Card>(*this);
   }
   std::optional<std::string> PickFile(const FileDialog&) override { return Take(files).value_or(std::nullopt); }
+  std::optional<std::string> PickNewFile(const FileDialog& dialog) override {
+    suggested = dialog.folder;
+    return Take(newFiles).value_or(std::nullopt);
+  }
   std::optional<std::string> PickFolder(const std::string&, const std::string&) override {
     return Take(folders).value_or(std::nullopt);
   }

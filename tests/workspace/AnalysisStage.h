@@ -38,6 +38,7 @@ class FakeWindow final : public IWorkspaceView {
   std::optional<Colour> colour;
   std::optional<std::string> notes;
   int openPanels = 0;
+  int updates = 0;  ///< of menus and buttons
 
  private:
   int MainPanelWidth() override { return width * kTwipsPerPixel; }
@@ -81,7 +82,7 @@ class FakeWindow final : public IWorkspaceView {
     lists = true;
   }
   bool CloseOpenPanel() override { return std::exchange(lists, false); }
-  void CommandsChanged() override {}
+  void CommandsChanged() override { ++updates; }
   void FocusKeyBox() override {}
 };
 
@@ -121,22 +122,22 @@ class FakeEditWindows final : public IDrawingEditsView {
 };
 
 /// The whole analysis section with real players and no window: what a test does to it is what a user does.
-class AnalysisStage : private IFrameInterface {
+class AnalysisStage : private IFrameInterface, private INavigation {
  public:
   /// @param width, height  pixels of the stage
-  /// @param compare  the windows of the comparing modes; without one they only remember
+  /// @param compare  the windows of the comparing modes; without them the stage starts at once, and they only remember
   explicit AnalysisStage(const std::string& layout = "1", int width = 1280, int height = 720,
                          ICompareView* compare = nullptr)
       : folder(NewFolder()),
         settings(host, folder + "/data", folder),
         analysis(host, settings, scheduler, window, edits, compare ? *compare : compareView,
-                 Navigation{[this] { ++libraryVisits; }, [this] { ++menuVisits; }, [this] { ++exits; }}) {
+                 *this) {
     settings.LoadSettings();
     window.width = width;
     window.height = height;
     compareView.overlay = &analysis.Compare().Transparency();
     compareView.overlay->Resize(width, height);
-    Slots().ScreenLayout = layout;
+    Stage().ScreenLayout = layout;
     for (int slot = 1; slot <= kSlots; ++slot) {
       auto& player = players_[static_cast<std::size_t>(slot - 1)];
       player = std::make_unique<AVIControl>(services, nullptr);
@@ -144,8 +145,10 @@ class AnalysisStage : private IFrameInterface {
       analysis.AttachPlayer(slot, *player);
       player->SetFrameInterface(this);
     }
-    analysis.Start();
+    if (!compare) Start();
   }
+  /// With windows of the test's own: they are there now, and may be spoken to.
+  void Start() { analysis.Start(); }
   ~AnalysisStage() { analysis.DetachPlayers(); }
 
   /// A video of its own, with no sidecar yet.
@@ -155,7 +158,11 @@ class AnalysisStage : private IFrameInterface {
     std::filesystem::copy_file(MakeTestVideo(kind), path, std::filesystem::copy_options::overwrite_existing);
     return path;
   }
-  bool Open(int slot, const std::string& path) { return Slots().OpenVideo(slot, path); }
+  bool Open(int slot, const std::string& path) {
+    const bool opened = Videos().OpenVideo(slot, path);
+    EndTurn();
+    return opened;
+  }
   /// Opens a video of its own file and shows a position.
   bool Open(int slot, const TestVideo& kind, int position = 0) {
     if (!Open(slot, Video("video" + std::to_string(++videos_) + ".avi", kind))) return false;
@@ -163,10 +170,12 @@ class AnalysisStage : private IFrameInterface {
     return true;
   }
 
-  Workspace& Slots() { return analysis.Slots(); }
+  kinalyx::Stage& Stage() { return analysis.Stage(); }
+  kinalyx::Videos& Videos() { return analysis.Videos(); }
+  kinalyx::Keeping& Keeping() { return analysis.Keeping(); }
   MenuBar& Commands() { return analysis.Commands(); }
   CompareModes& Modes() { return analysis.Compare(); }
-  AVIControl& MP(int slot) { return Slots().MP(slot); }
+  AVIControl& MP(int slot) { return Stage().MP(slot); }
   int At(int slot) { return MP(slot).Position(); }
   ShapeList& Shapes(int slot = 1) { return analysis.Tools().List(slot); }
   POINTAPI PointOf(int shape, int point, int slot = 1) {
@@ -174,9 +183,15 @@ class AnalysisStage : private IFrameInterface {
   }
 
   // --- the mouse, in pixels of the picture
-  void Press(int slot, int x, int y, int button = 1) { analysis.MouseDown(button, 0, float(x), float(y), slot); }
+  void Press(int slot, int x, int y, int button = 1) {
+    analysis.MouseDown(button, 0, float(x), float(y), slot);
+    EndTurn();
+  }
   void Move(int slot, int x, int y) { analysis.MouseMove(1, 0, float(x), float(y), slot); }
-  void Release(int slot, int x, int y, int button = 1) { analysis.MouseUp(button, 0, float(x), float(y), slot); }
+  void Release(int slot, int x, int y, int button = 1) {
+    analysis.MouseUp(button, 0, float(x), float(y), slot);
+    EndTurn();
+  }
   void Click(int slot, int x, int y, int button = 1) {
     Move(slot, x, y);
     Press(slot, x, y, button);
@@ -185,12 +200,21 @@ class AnalysisStage : private IFrameInterface {
   /// Takes up a tool of two points and draws with it in the current window.
   void Draw(int tool, POINTAPI from, POINTAPI to) {
     Key(kKeyF1 + tool);
-    Click(Slots().CurrentWindow, from.x, from.y);
-    Move(Slots().CurrentWindow, (from.x + to.x) / 2, (from.y + to.y) / 2);
-    Click(Slots().CurrentWindow, to.x, to.y);
+    Click(Stage().CurrentWindow, from.x, from.y);
+    Move(Stage().CurrentWindow, (from.x + to.x) / 2, (from.y + to.y) / 2);
+    Click(Stage().CurrentWindow, to.x, to.y);
   }
-  bool Key(int code, int shift = 0) { return Commands().PressKey(code, shift); }
-  void Type(char letter) { analysis.KeyPress(letter, Slots().CurrentWindow); }
+  bool Key(int code, int shift = 0) {
+    const bool taken = Commands().PressKey(code, shift);
+    EndTurn();
+    return taken;
+  }
+  void Type(char letter) {
+    analysis.KeyPress(letter, Stage().CurrentWindow);
+    EndTurn();
+  }
+  /// The present turn of the event loop is over: the windows are told what has changed.
+  void EndTurn() { Stage().News().Tell(); }
 
   const std::string folder;
   TestHost host;
@@ -216,6 +240,10 @@ class AnalysisStage : private IFrameInterface {
     if (signalled) signalled(ID);
   }
   void Notify(int Frame, int ID) override { analysis.Notify(Frame, ID); }
+  void StrobeEnded(int ID) override { analysis.StrobeEnded(ID); }
+  void GoToLibrary() override { ++libraryVisits; }
+  void GoToMainMenu() override { ++menuVisits; }
+  void ExitAnalysis() override { ++exits; }
 
   static std::string NewFolder() {
     static int count = 0;

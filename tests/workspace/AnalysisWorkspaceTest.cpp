@@ -35,7 +35,7 @@ TEST(Drawing, EveryKindComesBackWithItsVideo) {
   ASSERT_EQ(stage.Shapes().NumShapes, 8);
 
   const ShapeList drawn = stage.Shapes();
-  stage.Slots().CloseVideo(1);
+  stage.Videos().CloseVideo(1);
   EXPECT_EQ(stage.Shapes().NumShapes, 0);
   stage.Open(1, path);
   ASSERT_EQ(stage.Shapes().NumShapes, 8);
@@ -49,20 +49,20 @@ TEST(Drawing, ComesBackScaledInAnotherLayout) {
   stage.Draw(kLine, {100, 120}, {301, 243});
   const int width = stage.MP(1).ControlWidthPixels();
   const auto drawn = Points(stage.Shapes(), 0);
-  stage.Slots().CloseVideo(1);
+  stage.Videos().CloseVideo(1);
 
-  stage.Slots().SetScreen(8);
+  stage.Stage().SetScreen(8);
   stage.Open(6, stage.Video("b.avi"));
   stage.Open(6, path);  // in the place of a video of the same shape
-  stage.Slots().SelectWindow(6);
+  stage.Stage().SelectWindow(6);
   const double ratio = static_cast<double>(stage.MP(6).ControlWidthPixels()) / width;
   ASSERT_LT(ratio, 0.7);
   ASSERT_EQ(stage.Shapes(6).NumShapes, 1);
   EXPECT_NEAR(Points(stage.Shapes(6), 0)[1].x, 301 * ratio, 1);
   EXPECT_NEAR(Points(stage.Shapes(6), 0)[1].y, 243 * ratio, 1);
   // Nobody touched it there: it is written as it was drawn.
-  stage.Slots().CloseVideo(6);
-  stage.Slots().SetScreen(1);
+  stage.Videos().CloseVideo(6);
+  stage.Stage().SetScreen(1);
   stage.Open(1, path);
   EXPECT_EQ(Points(stage.Shapes(), 0), drawn);
 }
@@ -74,7 +74,7 @@ TEST(Drawing, TurnsWithAFlippedPictureAndIsStoredUnmirrored) {
   const int width = stage.MP(1).ControlWidthPixels();
   stage.Type('f');
   stage.Draw(kLine, {100, 120}, {300, 240});
-  stage.Slots().CloseVideo(1);
+  stage.Videos().CloseVideo(1);
   stage.Open(1, path);
   EXPECT_FALSE(stage.MP(1).FlipHorizontal());
   EXPECT_EQ(Points(stage.Shapes(), 0), (std::vector<POINTAPI>{{width - 100, 120}, {width - 300, 240}}));
@@ -89,7 +89,7 @@ TEST(Drawing, AToolInHandIsPutDownWithItsVideo) {
   stage.Commands().Run("MenuDraw5");
   stage.Click(1, 40, 40);
   stage.Move(1, 80, 80);
-  stage.Slots().CloseVideo(1);
+  stage.Videos().CloseVideo(1);
   EXPECT_FALSE(stage.analysis.Tools().Drawing());
   EXPECT_EQ(stage.window.text, "");
   stage.Open(1, path);
@@ -99,10 +99,10 @@ TEST(Drawing, AToolInHandIsPutDownWithItsVideo) {
 TEST(EightVideos, PlayWhileOneIsDrawnInAndOthersClose) {
   AnalysisStage stage("8");
   for (int slot = 1; slot <= 8; ++slot) ASSERT_TRUE(stage.Open(slot, stage.Video(std::to_string(slot) + ".avi")));
-  stage.analysis.Player().ToggleLoopAll();
+  stage.analysis.Transport().ToggleLoopAll();
   stage.Click(3, 10, 10);
   EXPECT_FALSE(stage.MP(1).IsPlaying()) << "a click stops the current video and chooses the other";
-  EXPECT_EQ(stage.Slots().CurrentWindow, 3);
+  EXPECT_EQ(stage.Stage().CurrentWindow, 3);
   stage.Click(3, 10, 10);
   EXPECT_FALSE(stage.MP(3).IsPlaying() || stage.window.loop || stage.window.playing);
   EXPECT_EQ(stage.Shapes(3).NumShapes, 0) << "and draws nothing";
@@ -117,11 +117,11 @@ TEST(EightVideos, PlayWhileOneIsDrawnInAndOthersClose) {
   for (const int slot : {2, 4, 5, 6, 7, 8}) EXPECT_TRUE(stage.MP(slot).IsPlaying()) << slot;
   EXPECT_NE(stage.window.lines[5], stage.window.lines[3]) << "every cell tells where its film is";
 
-  stage.Slots().CloseVideo(5);
+  stage.Videos().CloseVideo(5);
   stage.host.Advance(200);
   EXPECT_TRUE(stage.MP(6).IsPlaying() && !stage.MP(5).IsPlaying());
   EXPECT_TRUE(stage.Commands().PreparetoExit());
-  EXPECT_FALSE(stage.Slots().AnyVideo());
+  EXPECT_FALSE(stage.Stage().AnyVideo());
   stage.host.Advance(1000);
 }
 
@@ -129,16 +129,16 @@ TEST(EightVideos, CloseInsideTheirOwnCallbacks) {
   AnalysisStage stage("2");
   stage.Open(1, stage.Video("a.avi"));
   stage.Open(2, stage.Video("b.avi"));
-  stage.analysis.Player().ToggleLoopAll();
+  stage.analysis.Transport().ToggleLoopAll();
   bool closed = false;
-  stage.analysis.Player().PositionShown = [&] {
+  stage.signalled = [&](int) {
     if (closed || stage.At(1) < 5) return;
     closed = true;
-    stage.Slots().CloseAll();
+    stage.Videos().CloseAll();
   };
   stage.host.Advance(2000);
   EXPECT_TRUE(closed);
-  EXPECT_FALSE(stage.Slots().AnyVideo());
+  EXPECT_FALSE(stage.Stage().AnyVideo());
 }
 
 TEST(CommandTable, TellsWhyWhatCannotBeDoneCannot) {
@@ -153,7 +153,7 @@ TEST(CommandTable, TellsWhyWhatCannotBeDoneCannot) {
   EXPECT_EQ(commands.Find("vplay")->Reason(), "");
   EXPECT_EQ(commands.Find("TFT")->Reason(), "");
   EXPECT_EQ(commands.Find("Cadoffbutton")->Reason(), "Nothing is drawn in the current window");
-  stage.Slots().ToggleMaximize();
+  stage.Stage().ToggleMaximize();
   EXPECT_NE(commands.Find("TF")->Reason(), "");
   EXPECT_TRUE(commands.Find("TMAX")->checked());
 }
@@ -177,7 +177,7 @@ TEST(VideoTimerTest, TimesFromAnyPicture) {
 
   AnalysisStage stage("2");
   stage.Open(1, stage.Video("a.avi", MjpegVideo(61)));
-  Transport& transport = stage.analysis.Player();
+  Transport& transport = stage.analysis.Transport();
   transport.Seek(30);
   stage.Commands().Run("TVT");
   EXPECT_TRUE(stage.window.timer);
@@ -194,7 +194,7 @@ TEST(VideoTimerTest, TimesFromAnyPicture) {
   EXPECT_EQ(stage.window.rate, "240");
   stage.analysis.Timer().TakeRate("fast");
   EXPECT_EQ(stage.window.rate, "30");
-  stage.Slots().SelectWindow(2);
+  stage.Stage().SelectWindow(2);
   EXPECT_EQ(stage.window.reading, "00.00");
   stage.Commands().Run("TVT");
   EXPECT_FALSE(stage.window.timer);
@@ -218,7 +218,7 @@ TEST(AutoSaveTest, WhatIsDrawnIsOnTheDiskWhenTheHandsRest) {
   stage.Commands().Run("MenuDraw3");
   stage.Click(1, 20, 20);
   stage.Move(1, 60, 60);
-  stage.Slots().SetNotes(1, "Grip");
+  stage.Keeping().SetNotes(1, "Grip");
   stage.host.Advance(5000);
   EXPECT_FALSE(onDisk());
   EXPECT_TRUE(ReadSidecarMarks(SidecarPath(path)).HasNotes());
@@ -226,17 +226,17 @@ TEST(AutoSaveTest, WhatIsDrawnIsOnTheDiskWhenTheHandsRest) {
   // In two windows at once: a drawing deleted in one does not come back from what the other has written.
   stage.Key(kKeyEscape);
   stage.Open(2, path);
-  stage.Slots().SelectWindow(2);
+  stage.Stage().SelectWindow(2);
   stage.Draw(kEllipse, {40, 40}, {90, 120});
   stage.host.Advance(5000);
   EXPECT_TRUE(onDisk());
-  stage.Slots().SelectWindow(1);
+  stage.Stage().SelectWindow(1);
   stage.Draw(kLine, {10, 10}, {100, 100});
   stage.host.Advance(5000);
-  stage.Slots().SelectWindow(2);
+  stage.Stage().SelectWindow(2);
   stage.Commands().Run("UndoDrawing");
   stage.host.Advance(5000);
-  EXPECT_TRUE(stage.Slots().CloseAll());
+  EXPECT_TRUE(stage.Videos().CloseAll());
   stage.Open(1, path);
   ASSERT_EQ(stage.Shapes().NumShapes, 1);
   EXPECT_EQ(stage.Shapes().Shapes[0].Kind, kLine);
@@ -271,25 +271,25 @@ TEST(OneVideoTwice, KeepsTheWorkOfBothWindows) {
   const std::string path = stage.Video("a.avi");
   stage.Open(1, path);
   stage.Draw(kLine, {10, 10}, {100, 100});
-  stage.Slots().FillAll();
+  stage.Videos().FillAll();
   EXPECT_EQ(stage.Shapes(2).NumShapes, 1) << "a copy comes with what is drawn so far";
   stage.Draw(kLine, {50, 60}, {70, 80});
-  stage.Slots().SetNotes(1, "Grip");
-  EXPECT_TRUE(stage.Slots().CloseAll());
+  stage.Keeping().SetNotes(1, "Grip");
+  EXPECT_TRUE(stage.Videos().CloseAll());
   stage.Open(1, path);
   ASSERT_EQ(stage.Shapes().NumShapes, 2) << "the untouched copy has not written over it";
 
   // Drawn on and noted in both; what is there already is not added again.
   stage.Open(2, path);
   stage.Draw(kEllipse, {5, 100}, {60, 20});
-  stage.Slots().SelectWindow(2);
+  stage.Stage().SelectWindow(2);
   stage.Draw(kEllipse, {40, 40}, {90, 120});
-  stage.Slots().SetNotes(1, stage.Slots().At(1).data.Notes + " and hips");
-  stage.Slots().SetNotes(2, "Stance");
-  EXPECT_TRUE(stage.Slots().CloseAll());
+  stage.Keeping().SetNotes(1, stage.Stage().At(1).data.Notes + " and hips");
+  stage.Keeping().SetNotes(2, "Stance");
+  EXPECT_TRUE(stage.Videos().CloseAll());
   stage.Open(1, path);
   EXPECT_EQ(stage.Shapes().NumShapes, 4);
-  const std::string& notes = stage.Slots().At(1).data.Notes;
+  const std::string& notes = stage.Stage().At(1).data.Notes;
   EXPECT_TRUE(notes.find("Grip and hips") != notes.npos && notes.find("Stance") != notes.npos) << notes;
 }
 
@@ -301,31 +301,31 @@ TEST(OneVideoTwice, WhatOneWindowHasDeletedOrMovedTheOtherDoesNotBringBack) {
   stage.Open(1, path);
   stage.Draw(kLine, {10, 10}, {100, 100});
   stage.Draw(kEllipse, {40, 40}, {90, 120});
-  stage.Slots().SetNotes(1, "Gripp\r\nStance");
-  stage.Slots().FillAll();
-  stage.Slots().SelectWindow(1);
+  stage.Keeping().SetNotes(1, "Gripp\r\nStance");
+  stage.Videos().FillAll();
+  stage.Stage().SelectWindow(1);
   stage.Commands().Run("Lastcadoff");
   stage.analysis.Tools().Engine().MoveShape(stage.Shapes(1).Shapes[0], 30, 0);
-  stage.Slots().SetNotes(1, "Grip\r\nStance");
+  stage.Keeping().SetNotes(1, "Grip\r\nStance");
   stage.host.Advance(5000);
-  stage.Slots().SetNotes(2, "Gripp\r\nStance\r\nHips");
+  stage.Keeping().SetNotes(2, "Gripp\r\nStance\r\nHips");
   // From here on in another size.
-  stage.Slots().SetScreen(8);
-  stage.Slots().SelectWindow(2);
+  stage.Stage().SetScreen(8);
+  stage.Stage().SelectWindow(2);
   stage.Draw(kSquare, {5, 80}, {60, 20});
   stage.host.Advance(5000);
   EXPECT_EQ(stage.Shapes(2).NumShapes, 3) << "each window has drawings of its own";
-  EXPECT_EQ(stage.Slots().At(2).data.Notes, "Grip\r\nStance\r\nHips");
+  EXPECT_EQ(stage.Stage().At(2).data.Notes, "Grip\r\nStance\r\nHips");
   std::vector<Shape> stored = Stored(path);
   ASSERT_EQ(stored.size(), 2u);
   EXPECT_EQ(stored[0].Pts[0], (POINTAPI{40, 10}));
   EXPECT_EQ(stored[1].Kind, kSquare);
   // Both move the same one: both are kept.
-  stage.Slots().SelectWindow(1);
+  stage.Stage().SelectWindow(1);
   stage.analysis.Tools().Engine().MoveShape(stage.Shapes(1).Shapes[0], 0, 20);
-  stage.Slots().SelectWindow(2);
+  stage.Stage().SelectWindow(2);
   stage.analysis.Tools().Engine().MoveShape(stage.Shapes(2).Shapes[0], 0, 40);
-  EXPECT_TRUE(stage.Slots().CloseAll());
+  EXPECT_TRUE(stage.Videos().CloseAll());
   EXPECT_EQ(Stored(path).size(), 3u);
 }
 
@@ -334,14 +334,14 @@ TEST(TwoWorkstations, OfDifferentSizesKeepWhatNobodyTouchesToTheByte) {
   const std::string path = here.Video("a.avi");
   here.Open(1, path);
   for (int i = 0; i < 50; ++i) here.Draw(kLine, {10 + 7 * i, 11 + i}, {300 - i, 401 - 3 * i});
-  EXPECT_TRUE(here.Slots().CloseVideo(1));
+  EXPECT_TRUE(here.Videos().CloseVideo(1));
   std::vector<Shape> drawn = Stored(path);
   ASSERT_EQ(drawn.size(), 50u);
 
   there.Open(1, path);
-  there.Slots().SetScreen(8);
+  there.Stage().SetScreen(8);
   there.Commands().Run("vFlip");
-  EXPECT_TRUE(there.Slots().CloseVideo(1));
+  EXPECT_TRUE(there.Videos().CloseVideo(1));
   EXPECT_EQ(Stored(path), drawn);
 
   here.Open(1, path);
@@ -359,15 +359,15 @@ TEST(TwoWorkstations, OfDifferentSizesKeepWhatNobodyTouchesToTheByte) {
   EXPECT_EQ(stored[50].Kind, kSquare);
 
   // What is undone in a window of another size is what it was.
-  there.Slots().SetScreen(1);
+  there.Stage().SetScreen(1);
   there.Commands().Run("Cadoffbutton");
   there.host.Advance(5000);
   EXPECT_EQ(Stored(path).size(), 0u);
-  there.Slots().SetScreen(4);
+  there.Stage().SetScreen(4);
   there.Commands().Run("UndoDrawing");
-  EXPECT_TRUE(there.Slots().CloseVideo(1));
+  EXPECT_TRUE(there.Videos().CloseVideo(1));
   EXPECT_EQ(Stored(path).size(), 52u) << "with the one that was deleted here";
-  EXPECT_TRUE(here.Slots().CloseVideo(1));
+  EXPECT_TRUE(here.Videos().CloseVideo(1));
   stored = Stored(path);
   EXPECT_EQ(stored.size(), 52u);
   EXPECT_TRUE(std::equal(drawn.begin(), drawn.end(), stored.begin()));
@@ -379,27 +379,27 @@ TEST(TwoWorkstations, KeepEachOthersWorkOnOneVideo) {
   here.Open(1, path);
   there.Open(1, path);
   there.Draw(kLine, {10, 10}, {100, 100});
-  EXPECT_TRUE(there.Slots().CloseVideo(1));
-  EXPECT_TRUE(here.Slots().CloseVideo(1));
+  EXPECT_TRUE(there.Videos().CloseVideo(1));
+  EXPECT_TRUE(here.Videos().CloseVideo(1));
   here.Open(1, path);
   ASSERT_EQ(here.Shapes().NumShapes, 1) << "who has done nothing writes over nothing";
 
   there.Open(1, path);
   there.Draw(kEllipse, {40, 40}, {90, 120});
-  there.Slots().SetNotes(1, "Stance");
+  there.Keeping().SetNotes(1, "Stance");
   there.host.Advance(5000);
   here.Commands().Run("Lastcadoff");
   here.Draw(kSquare, {5, 100}, {60, 20});
-  here.Slots().SetNotes(1, "Grip");
+  here.Keeping().SetNotes(1, "Grip");
   here.host.Advance(5000);
-  EXPECT_TRUE(there.Slots().CloseVideo(1));
-  EXPECT_TRUE(here.Slots().CloseVideo(1));
+  EXPECT_TRUE(there.Videos().CloseVideo(1));
+  EXPECT_TRUE(here.Videos().CloseVideo(1));
   here.Open(1, path);
   std::vector<int> kinds;
   for (const Shape& shape : ShapesOf(here.Shapes())) kinds.push_back(shape.Kind);
   std::ranges::sort(kinds);
   EXPECT_EQ(kinds, (std::vector<int>{kSquare, kEllipse})) << "the line was deleted here";
-  const std::string& notes = here.Slots().At(1).data.Notes;
+  const std::string& notes = here.Stage().At(1).data.Notes;
   EXPECT_TRUE(notes.find("Grip") != notes.npos && notes.find("Stance") != notes.npos) << notes;
 }
 
@@ -414,11 +414,11 @@ TEST(ForeignSidecar, IsLeftAloneUntilThereIsWorkAndThenKeptBeside) {
     return std::string(std::istreambuf_iterator<char>(in), {});
   };
   stage.Open(1, path);
-  EXPECT_TRUE(stage.Slots().CloseVideo(1));
+  EXPECT_TRUE(stage.Videos().CloseVideo(1));
   EXPECT_EQ(bytesOf(sidecar), foreign) << "opened and closed, and nothing done";
   stage.Open(1, path);
   stage.Draw(kLine, {10, 10}, {100, 100});
-  EXPECT_TRUE(stage.Slots().CloseVideo(1));
+  EXPECT_TRUE(stage.Videos().CloseVideo(1));
   EXPECT_EQ(bytesOf(sidecar + ".old"), foreign);
   EXPECT_TRUE(ReadSidecarMarks(sidecar).HasDrawings());
 
@@ -428,7 +428,7 @@ TEST(ForeignSidecar, IsLeftAloneUntilThereIsWorkAndThenKeptBeside) {
   std::ofstream(sidecar) << damaged;
   stage.Open(1, path);
   stage.host.Advance(5000);
-  EXPECT_TRUE(stage.Slots().CloseVideo(1));
+  EXPECT_TRUE(stage.Videos().CloseVideo(1));
   EXPECT_EQ(bytesOf(sidecar), damaged);
 }
 
@@ -451,7 +451,7 @@ TEST(VideoNotesTest, LieUnderThePictureAndAreKeptWithTheVideo) {
   EXPECT_EQ(stage.MP(1).ControlHeightPixels(), height);
   stage.Commands().Run("TN");
   EXPECT_EQ(stage.window.notes, "");
-  stage.Slots().CloseAll();
+  stage.Videos().CloseAll();
   stage.Open(1, path);
   stage.Commands().Run("TN");
   EXPECT_EQ(stage.window.notes, "Gro\u00DFer Schwung\r\nhead still\r\ngrip");
@@ -471,7 +471,8 @@ TEST(VideoNotesTest, StayWithTheGridForTheNextVideoOfTheWindow) {
   EXPECT_TRUE(stage.Commands().Find("MenuDraw11")->checked());
   stage.Open(1, stage.folder + "/a.avi");
   EXPECT_EQ(stage.window.notes, "Grip");
-  stage.Slots().CloseVideo(1);
+  stage.Videos().CloseVideo(1);
+  stage.EndTurn();
   EXPECT_FALSE(stage.window.notes) << "without a video there is nothing to note";
   stage.Open(1, stage.folder + "/a.avi");
   EXPECT_EQ(stage.MP(1).ControlHeightPixels(), height);
@@ -490,7 +491,7 @@ TEST(DisplayRate, ReadsTheFirstTwoFiguresBehindThePoint) {
   ASSERT_EQ(stage.host.messages.size(), 1u);
   EXPECT_EQ(stage.host.messages[0], DisplayRateTest::Result(60, 29) + "\n\n30 of 30 pictures were shown.");
   EXPECT_FALSE(stage.Commands().Find("VidTest")->checked());
-  stage.analysis.Player().TogglePlay();
+  stage.analysis.Transport().TogglePlay();
   stage.host.Advance(3000);
   EXPECT_EQ(stage.host.messages.size(), 1u) << "an ordinary play is no test";
   stage.Commands().Run("VidTest");
@@ -498,7 +499,7 @@ TEST(DisplayRate, ReadsTheFirstTwoFiguresBehindThePoint) {
   stage.Key(kKeyEscape);
   stage.host.Advance(3000);
   EXPECT_EQ(stage.host.messages.size(), 1u) << "a test that is stopped has no result";
-  EXPECT_TRUE(stage.Slots().HasVideo(1));
+  EXPECT_TRUE(stage.Stage().HasVideo(1));
 }
 
 /// The figures of the length that is shown.
@@ -517,9 +518,9 @@ TEST(MeasureTest, BelongsToItsShapeAndGoesWithIt) {
   draw();
   stage.MP(1).Play(3);
   EXPECT_EQ(Shown(stage), 100) << "the next picture changes nothing";
-  stage.Slots().SetZoom(0.5);
+  stage.Stage().SetZoom(0.5);
   EXPECT_EQ(Shown(stage), 50) << "in the pixels that are shown";
-  stage.Slots().SetZoom(1);
+  stage.Stage().SetZoom(1);
   EXPECT_EQ(Shown(stage), 100);
   stage.Key('Z', kCtrl);
   EXPECT_EQ(stage.window.text, "");
@@ -556,16 +557,16 @@ TEST(RulerCalibrationTest, ItsLineIsNoDrawing) {
   stage.Commands().Run("TCal");
   stage.Click(1, 100, 300);
   stage.Click(1, 200, 300);
-  stage.Slots().SetZoom(0.3);
-  stage.Slots().ToggleFlip();
-  stage.Slots().ToggleFlip();
-  stage.Slots().SetZoom(2);
+  stage.Stage().SetZoom(0.3);
+  stage.Videos().ToggleFlip();
+  stage.Videos().ToggleFlip();
+  stage.Stage().SetZoom(2);
   EXPECT_EQ(stage.window.calibrationLength, "200pts") << "the length follows the picture";
   stage.host.Advance(3000);
   EXPECT_EQ(ReadWholeFile(SidecarPath(path)), saved);
   EXPECT_EQ(stage.Shapes().NumShapes, 2);
   stage.analysis.Ruler().Calibrate(100, kInches, kInches);
-  stage.Slots().SetZoom(1);
+  stage.Stage().SetZoom(1);
   EXPECT_EQ(stage.Shapes().NumShapes, 1);
   EXPECT_EQ(stage.PointOf(0, 0), (POINTAPI{111, 33})) << "and has not moved by a rounding";
   stage.host.Advance(3000);
@@ -590,7 +591,7 @@ TEST(RulerCalibrationTest, ItsLineIsNoDrawing) {
   stage.Draw(kLine, {100, 200}, {140, 200});
   stage.Key(kKeyF1 + kSquare);
   stage.Click(1, 30, 40);
-  stage.Slots().SetZoom(2);
+  stage.Stage().SetZoom(2);
   stage.Click(1, 90, 100);
   ASSERT_EQ(stage.Shapes().NumShapes, 2);
   EXPECT_TRUE(stage.Shapes().Shapes[1].Kind == kSquare && stage.Shapes().Shapes[1].Locked);
@@ -617,7 +618,7 @@ TEST(RulerCalibrationTest, TurnsPixelsIntoLengths) {
 
   // In another layout the picture has another size; what is seen in it has not.
   const int whole = stage.MP(1).ControlWidthPixels();
-  stage.Slots().SetScreen(4);
+  stage.Stage().SetScreen(4);
   const int part = stage.MP(1).ControlWidthPixels();
   ASSERT_NE(part, whole);
   stage.Draw(kLine, {10, 100}, {10 + part / 2, 100});
@@ -626,12 +627,12 @@ TEST(RulerCalibrationTest, TurnsPixelsIntoLengths) {
   TestVideo upright = MjpegVideo(30);
   std::swap(upright.format.width, upright.format.height);
   ASSERT_TRUE(stage.Open(2, upright));
-  stage.Slots().SelectWindow(2);
+  stage.Stage().SelectWindow(2);
   ASSERT_LT(stage.MP(2).ControlWidthPixels(), part);
   ASSERT_EQ(stage.MP(2).ControlHeightPixels(), stage.MP(1).ControlHeightPixels());
   stage.Draw(kLine, {10, 10}, {10, 110});
   const double other = Shown(stage);
-  stage.Slots().SelectWindow(1);
+  stage.Stage().SelectWindow(1);
   stage.Draw(kLine, {10, 10}, {10, 110});
   EXPECT_EQ(Shown(stage), other);
   stage.Commands().Run("Lastcadoff");
@@ -640,7 +641,7 @@ TEST(RulerCalibrationTest, TurnsPixelsIntoLengths) {
   stage.Draw(kLine, {10, 100}, {10 + part / 2, 100});
   EXPECT_NEAR(Shown(stage), whole / 2.0 / 12 * 2.54, 1) << stage.window.text;
   stage.Commands().Run("Lastcadoff");
-  stage.Slots().SetScreen(1);
+  stage.Stage().SetScreen(1);
 
   // Cancelled in the middle of its line: only that line goes, and the numbers stay.
   stage.Commands().Run("TCal");

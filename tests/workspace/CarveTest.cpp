@@ -1,4 +1,4 @@
-#include "workspace/Carve.h"
+#include "workspace/compare/Carve.h"
 
 #include <gtest/gtest.h>
 
@@ -85,7 +85,7 @@ TEST_F(CarveTest, ClicksAndEmptyWindowsGiveNoPiece) {
   carve_.MarkAnew();
   EXPECT_TRUE(view_.piece.Empty());
   MarkArea({0, 0}, {50, 50});
-  ASSERT_TRUE(stage_.Slots().CloseVideo(1));
+  ASSERT_TRUE(stage_.Videos().CloseVideo(1));
   EXPECT_FALSE(view_.carve);
   EXPECT_TRUE(view_.piece.Empty());
   carve_.ToggleCarve();

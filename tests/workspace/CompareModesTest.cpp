@@ -16,7 +16,10 @@ class CompareModesTest : public testing::Test {
     ASSERT_TRUE(stage_.Open(1, MjpegVideo(30), 10));
     ASSERT_TRUE(stage_.Open(2, MjpegVideo(40), 15));
   }
-  void Run(const char* command) { ASSERT_TRUE(stage_.Commands().Run(command)) << command; }
+  void Run(const char* command) {
+    ASSERT_TRUE(stage_.Commands().Run(command)) << command;
+    stage_.EndTurn();
+  }
 
   AnalysisStage stage_{"2"};
   CompareModes& modes_ = stage_.Modes();
@@ -34,11 +37,14 @@ TEST_F(CompareModesTest, DualControlsFollowLockAndFocus) {
   modes_.Locks().MoveTogether(DualMove::Forward);
   EXPECT_EQ(dual.line, "11 + 16");
   EXPECT_EQ(dual.position, 11);
-  stage_.Slots().SelectWindow(2);
+  stage_.Stage().SelectWindow(2);
+  stage_.EndTurn();
   EXPECT_EQ(dual.position, 16);
   modes_.Locks().PlayTogether();
+  stage_.EndTurn();
   EXPECT_TRUE(dual.playing);
-  ASSERT_TRUE(stage_.Slots().CloseVideo(1));
+  ASSERT_TRUE(stage_.Videos().CloseVideo(1));
+  stage_.EndTurn();
   EXPECT_FALSE(dual.shown || dual.playing);
 }
 
@@ -73,14 +79,15 @@ TEST_F(CompareModesTest, LockedPairRefusesTheTransportAndMovesTogether) {
   EXPECT_EQ(stage_.MP(1).Speed(), 100);
   EXPECT_EQ(stage_.At(1), 10);
   EXPECT_EQ(stage_.window.range, 28);  // the bounds of the lock
-  stage_.analysis.Player().Seek(20);
+  stage_.analysis.Transport().Seek(20);
   EXPECT_EQ(stage_.At(2), 25);
-  stage_.analysis.Player().StepPressed(true, 0);
+  stage_.analysis.Transport().StepPressed(true, 0);
   stage_.host.Advance(500);
-  stage_.analysis.Player().StepReleased();
+  stage_.analysis.Transport().StepReleased();
   EXPECT_GT(stage_.At(1), 21);
   EXPECT_EQ(stage_.At(2) - stage_.At(1), 5);
-  ASSERT_TRUE(stage_.Slots().CloseVideo(2));
+  ASSERT_TRUE(stage_.Videos().CloseVideo(2));
+  stage_.EndTurn();
   EXPECT_EQ(stage_.window.range, 29);
   stage_.Key(kKeyUp);
   EXPECT_EQ(stage_.At(1), 0);
@@ -115,7 +122,7 @@ TEST_F(CompareModesTest, OneModeAtATimeAndItsButtonsSayWhy) {
           << column << " while " << row.up;
     }
     ASSERT_TRUE(stage_.Commands().Run(row.up)) << "what is up can be left: " << row.up;
-    EXPECT_EQ(stage_.Slots().ScreenLayout, "2") << row.up;
+    EXPECT_EQ(stage_.Stage().ScreenLayout, "2") << row.up;
   }
 }
 
@@ -144,15 +151,15 @@ TEST_F(CompareModesTest, AnotherLayoutLeavesTheModesOfTheStage) {
   Run("STM");
   stage_.Key('4');
   EXPECT_FALSE(stage_.compareView.transparency);
-  EXPECT_EQ(stage_.Slots().ScreenLayout, "4");
-  EXPECT_FALSE(stage_.Slots().BarHidden);
+  EXPECT_EQ(stage_.Stage().ScreenLayout, "4");
+  EXPECT_FALSE(stage_.Stage().BarHidden);
   // Also where the new layout shows no video at all.
-  ASSERT_TRUE(stage_.Slots().CloseVideo(1));
-  stage_.Slots().SelectWindow(2);
+  ASSERT_TRUE(stage_.Videos().CloseVideo(1));
+  stage_.Stage().SelectWindow(2);
   Run("smbar");
   stage_.Key('1');
   EXPECT_FALSE(stage_.compareView.strip);
-  EXPECT_EQ(stage_.Slots().ScreenLayout, "1");
+  EXPECT_EQ(stage_.Stage().ScreenLayout, "1");
 }
 
 TEST_F(CompareModesTest, OnlyOneHandTakesTheMouse) {
@@ -171,18 +178,18 @@ TEST_F(CompareModesTest, OnlyOneHandTakesTheMouse) {
   stage_.Key(kKeyF1 + 3);
   EXPECT_TRUE(carve.Floating()) << "beside a piece one can draw";
   // A maximized window hides the source: the piece stays, and another area brings it back.
-  stage_.Slots().SelectWindow(2);
+  stage_.Stage().SelectWindow(2);
   Run("TMAX");
   EXPECT_TRUE(carve.Floating());
   carve.MarkAnew();
-  EXPECT_EQ(stage_.Slots().ScreenLayout, "2");
+  EXPECT_EQ(stage_.Stage().ScreenLayout, "2");
   EXPECT_EQ(stage_.compareView.carvePic, 1);
   EXPECT_FALSE(stage_.analysis.Tools().Drawing());
-  stage_.Slots().SelectWindow(2);
+  stage_.Stage().SelectWindow(2);
   Run("TMAX");
   EXPECT_FALSE(carve.Shown()) << "nothing is marked on a video out of sight";
   Run("TMAX");
-  stage_.Slots().SelectWindow(1);
+  stage_.Stage().SelectWindow(1);
 
   MultiPicture& strip = modes_.Strip();
   Run("smbar");
@@ -262,6 +269,7 @@ TEST_F(CompareModesTest, LeavingTheSectionLeavesNothingBehind) {
   for (const char* card : {"TASF", "MZoom"}) Run(card);
   modes_.Locks().PlayTogether();
   modes_.CloseAll();
+  stage_.EndTurn();
   const auto& view = stage_.compareView;
   EXPECT_FALSE(view.transparency || view.strobe || view.zoom || view.dual.shown || modes_.Locks().IsLocked(1));
   const int at = stage_.At(1);
@@ -270,7 +278,7 @@ TEST_F(CompareModesTest, LeavingTheSectionLeavesNothingBehind) {
   EXPECT_EQ(stage_.host.TimerCount(), 0u);
   Run("STM");
   ASSERT_TRUE(stage_.Commands().PreparetoExit());
-  EXPECT_FALSE(view.transparency || stage_.Slots().AnyVideo());
+  EXPECT_FALSE(view.transparency || stage_.Stage().AnyVideo());
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "workspace/DrawingEdits.h"
+#include "workspace/edits/DrawingEdits.h"
 
 #include <gtest/gtest.h>
 
@@ -51,9 +51,9 @@ TEST(DrawingEdits, TheBarSelectsByClickKeysAndCommands) {
 
   desk.Key(kKeyEscape);
   EXPECT_FALSE(desk.edits.bar);
-  EXPECT_TRUE(desk.Slots().HasVideo(1)) << "Escape leaves the edit only";
+  EXPECT_TRUE(desk.Stage().HasVideo(1)) << "Escape leaves the edit only";
   desk.Commands().Run("MenuEdit");
-  desk.Slots().CloseVideo(1);
+  desk.Videos().CloseVideo(1);
   EXPECT_FALSE(desk.edits.bar);
 }
 
@@ -109,7 +109,7 @@ TEST(DrawingEdits, AMacroFitsTheWindowThatItIsLaidOver) {
   EXPECT_TRUE(std::filesystem::exists(desk.folder + "/Macro.dat"));
 
   const double width = desk.MP(1).ControlWidthPixels();
-  desk.Slots().SetScreen(1);
+  desk.Stage().SetScreen(1);
   desk.Commands().Run("Cadoffbutton");
   desk.Edits().InsertMacro(0);
   ASSERT_EQ(desk.Shapes().NumShapes, 3);
@@ -137,28 +137,28 @@ TEST(DrawingEdits, AMacroFitsTheWindowThatItIsLaidOver) {
   desk.Key(kKeyEscape);
   desk.Key(kKeyEscape);
   EXPECT_FALSE(desk.edits.macroForm);
-  EXPECT_TRUE(desk.Slots().HasVideo(1));
+  EXPECT_TRUE(desk.Stage().HasVideo(1));
 }
 
 TEST(DrawingEdits, AMacroOfDrawingsThatCameBackFitsTheirWindow) {
   // Drawn in a small window, seen in a large one: the macro is what is seen.
   Desk desk("4");
   desk.edits.macroName = "Plane";
-  desk.Slots().SetScreen(1);
+  desk.Stage().SetScreen(1);
   const POINTAPI seen = desk.PointOf(0, 1);
   desk.Commands().Run("DTMacro");
   desk.Edits().InsertMacro(0);
   EXPECT_EQ(desk.PointOf(0, 1), seen);
 
   // Drawings that came with the video, in which nobody has drawn since.
-  desk.Slots().CloseVideo(1);
+  desk.Videos().CloseVideo(1);
   desk.Open(1, desk.path);
   const POINTAPI stored = desk.PointOf(0, 1);
   desk.Commands().Run("DTMacro");
   desk.Edits().InsertMacro(1);
   EXPECT_EQ(desk.PointOf(0, 1), stored);
   const double width = desk.MP(1).ControlWidthPixels();
-  desk.Slots().SetScreen(4);
+  desk.Stage().SetScreen(4);
   desk.Edits().InsertMacro(1);
   EXPECT_NEAR(desk.PointOf(0, 1).x, stored.x * desk.MP(1).ControlWidthPixels() / width, 1);
 }
@@ -187,15 +187,15 @@ TEST(DrawingEdits, TheGridIsTurnedOnAndSized) {
 TEST(DrawingEdits, DrawingsAreClonedToWhereTheyAreSeen) {
   Desk desk("1");
   EXPECT_FALSE(desk.Edits().CanClone()) << "no other video";
-  desk.Slots().SetScreen(2);
+  desk.Stage().SetScreen(2);
   desk.Open(2, desk.Video("b.avi"));
-  desk.Slots().SetScreen(1);
+  desk.Stage().SetScreen(1);
   desk.Commands().Run("DTClone");
   EXPECT_EQ(desk.Shapes(2).NumShapes, 3);
-  EXPECT_EQ(desk.Slots().CurrentWindow, 2);
-  EXPECT_EQ(desk.Slots().ScreenLayout, "2") << "a target that was hidden is shown";
+  EXPECT_EQ(desk.Stage().CurrentWindow, 2);
+  EXPECT_EQ(desk.Stage().ScreenLayout, "2") << "a target that was hidden is shown";
 
-  desk.Slots().SetScreen(4);
+  desk.Stage().SetScreen(4);
   desk.Open(4, desk.Video("c.avi"));
   desk.Commands().Run("DTClone");
   EXPECT_EQ(desk.edits.offeredTargets, (std::vector<int>{1, 4}));
@@ -203,9 +203,9 @@ TEST(DrawingEdits, DrawingsAreClonedToWhereTheyAreSeen) {
   desk.edits.cloneTarget = 4;
   desk.Commands().Run("TMAX");
   desk.Commands().Run("DTClone");
-  EXPECT_EQ(desk.Slots().ScreenLayout, "4");
+  EXPECT_EQ(desk.Stage().ScreenLayout, "4");
   EXPECT_EQ(desk.Shapes(4).NumShapes, 3);
-  EXPECT_EQ(desk.Slots().CurrentWindow, 4);
+  EXPECT_EQ(desk.Stage().CurrentWindow, 4);
   desk.Commands().Run("UndoDrawing");
   EXPECT_EQ(desk.Shapes(4).NumShapes, 0);
   EXPECT_FALSE(desk.Edits().CanClone()) << "nothing to copy here now";

@@ -3,7 +3,7 @@
 #include <array>
 #include <map>
 
-#include "workspace/CompareModes.h"
+#include "workspace/compare/CompareModes.h"
 
 namespace kinalyx::test {
 

@@ -1,4 +1,4 @@
-#include "workspace/Layout.h"
+#include "workspace/stage/Layout.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "workspace/LockedVideos.h"
+#include "workspace/compare/LockedVideos.h"
 
 #include <gtest/gtest.h>
 
@@ -47,7 +47,7 @@ TEST_F(LockedVideosTest, RangesReachAsFarAsTheShortestSide) {
 
 TEST_F(LockedVideosTest, PairStepsUpToItsBoundsAndNoFurther) {
   Open({{100, 2}, {50, 40}});
-  stage_.Slots().CurrentWindow = 2;
+  stage_.Stage().CurrentWindow = 2;
   ASSERT_TRUE(lock_.ToggleLock());
   EXPECT_TRUE(lock_.IsLocked(1) && !lock_.IsLocked(3));
   for (int step = 0; step < 5; ++step) lock_.MoveTogether(DualMove::Back);
@@ -72,7 +72,7 @@ TEST_F(LockedVideosTest, PairStepsUpToItsBoundsAndNoFurther) {
 TEST_F(LockedVideosTest, PairLockMovesOnlyFromItsOwnWindows) {
   Open({{20, 5}, {20, 6}, {20, 7}, {20, 8}});
   ASSERT_TRUE(lock_.DualLock(1));
-  stage_.Slots().CurrentWindow = 3;
+  stage_.Stage().CurrentWindow = 3;
   lock_.DualControlStep(true);  // slot 3 alone
   EXPECT_EQ(Positions(4), (std::vector{5, 6, 8, 8}));
   ASSERT_TRUE(lock_.DualLock(2));
@@ -92,14 +92,14 @@ TEST_F(LockedVideosTest, GroupHoldsAllFourAndReplacesThePairs) {
   EXPECT_FALSE(lock_.IsLocked(1) || lock_.IsLocked(3));
   ASSERT_TRUE(stage_.Open(4, RawVideo(30), 16));
   ASSERT_TRUE(lock_.DualLock(1));
-  stage_.Slots().SetScreen(2);
+  stage_.Stage().SetScreen(2);
   EXPECT_FALSE(lock_.LockAll()) << "two of them would move unseen";
-  stage_.Slots().SetScreen(8);
+  stage_.Stage().SetScreen(8);
   ASSERT_TRUE(stage_.Commands().Run("LockAll"));
   EXPECT_EQ(lock_.DualLocked, (std::array{false, false, true}));
   EXPECT_EQ(lock_.LockRangeA, (std::array{3, 17, 4, 18}));
   EXPECT_EQ(lock_.LockRangeB, (std::array{0, 14, 14, 28}));
-  stage_.Slots().CurrentWindow = 4;
+  stage_.Stage().CurrentWindow = 4;
   std::vector<int> order;
   stage_.signalled = [&](int slot) { order.push_back(slot); };
   lock_.DualControlStep(true);
@@ -118,12 +118,12 @@ TEST_F(LockedVideosTest, LockIsRefusedOrEndsWithItsVideos) {
   EXPECT_FALSE(lock_.CanLock());
   EXPECT_FALSE(lock_.ToggleLock());
   ASSERT_TRUE(stage_.Open(2, RawVideo(20), 5));
-  stage_.Slots().SetScreen(1);
+  stage_.Stage().SetScreen(1);
   EXPECT_FALSE(lock_.CanLock());  // one window shows no pair
-  stage_.Slots().SetScreen(2);
+  stage_.Stage().SetScreen(2);
   ASSERT_TRUE(lock_.ToggleLock());
   lock_.PlayTogether();
-  ASSERT_TRUE(stage_.Slots().CloseVideo(2));
+  ASSERT_TRUE(stage_.Videos().CloseVideo(2));
   EXPECT_FALSE(lock_.IsLocked(1));
   EXPECT_FALSE(lock_.PlayingTogether());
   stage_.host.Advance(1000);  // nothing of the play is left behind
@@ -133,8 +133,8 @@ TEST_F(LockedVideosTest, LockIsRefusedOrEndsWithItsVideos) {
 TEST_F(LockedVideosTest, SplittingFieldsKeepsTheLockWhereTheVideosStand) {
   Open({{20, 5}, {20, 6}});
   ASSERT_TRUE(lock_.ToggleLock());
-  stage_.Slots().CurrentWindow = 2;
-  stage_.Slots().ToggleSplitFields();
+  stage_.Stage().CurrentWindow = 2;
+  stage_.Videos().ToggleSplitFields();
   EXPECT_EQ(Positions(2), (std::vector{5, 12}));
   EXPECT_EQ(lock_.LockRangeA, (std::array{0, 18, 7, 25}));
 }

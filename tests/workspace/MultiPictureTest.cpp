@@ -1,4 +1,4 @@
-#include "workspace/MultiPicture.h"
+#include "workspace/compare/MultiPicture.h"
 
 #include <gtest/gtest.h>
 
@@ -63,7 +63,7 @@ TEST_F(MultiPictureTest, StripComesFromWhereverThereAreFramesEnough) {
     EXPECT_EQ(stage_.At(1), wish.stands);
     strip_.LeaveStrip();
     EXPECT_FALSE(strip_.Shown());
-    EXPECT_EQ(stage_.Slots().ScreenLayout, "2");
+    EXPECT_EQ(stage_.Stage().ScreenLayout, "2");
   }
 }
 
@@ -106,12 +106,12 @@ TEST_F(MultiPictureTest, PicturesShowTheMiddleOrTheCarvedSquare) {
 TEST_F(MultiPictureTest, ZoomAndPanMakeTheStripAnew) {
   Enter(60, 10, "3");
   const int left = strip_.SourceLeft();
-  stage_.Slots().SetZoom(2);
+  stage_.Stage().SetZoom(2);
   stage_.host.Advance(0);
   EXPECT_GT(strip_.SourceLeft(), left);
   // A pan leaves the size; the strip follows all the same.
   const int before = stage_.compareView.strips;
-  stage_.Slots().Pan(20 * kTwipsPerPixel, 0);
+  stage_.Stage().Pan(20 * kTwipsPerPixel, 0);
   stage_.host.Advance(0);
   EXPECT_EQ(stage_.compareView.strips, before + 1);
   // Still the strip of the same moment, although the video stands at the strip's end by now.
@@ -119,7 +119,7 @@ TEST_F(MultiPictureTest, ZoomAndPanMakeTheStripAnew) {
   // Once the video has gone on, it is the strip of where it has come to.
   stage_.MP(1).DrawFrame(25);
   stage_.MP(1).DrawFrame(45);
-  stage_.Slots().SetZoom(1);
+  stage_.Stage().SetZoom(1);
   stage_.host.Advance(0);
   EXPECT_EQ(Pictures(), (std::vector{21, 24, 27, 30, 33, 36, 39, 42, 45}));
 }
@@ -128,9 +128,9 @@ TEST_F(MultiPictureTest, ModeEndsWithItsVideoAndItsStripIsSaved) {
   strip_.ToggleStrip();
   EXPECT_FALSE(strip_.Shown());  // an empty window
   Enter(40, 30, "3");
-  ASSERT_TRUE(stage_.Slots().CloseVideo(1));
+  ASSERT_TRUE(stage_.Videos().CloseVideo(1));
   EXPECT_FALSE(strip_.Shown());
-  EXPECT_EQ(stage_.Slots().ScreenLayout, "2");
+  EXPECT_EQ(stage_.Stage().ScreenLayout, "2");
   Enter(40, 30, "3");
   const std::string path = TestPath("strip.PNG");
   EXPECT_TRUE(strip_.SavePicture(path));
@@ -138,9 +138,9 @@ TEST_F(MultiPictureTest, ModeEndsWithItsVideoAndItsStripIsSaved) {
 }
 
 TEST(MultiPictureCell, LeavesTheTopToTheStrip) {
-  EXPECT_EQ(MultiPicture::Cell(18000, 9000, false), (TwipRect{3000, 2655, 11999, 9000 - 2655}));
-  EXPECT_EQ(MultiPicture::Cell(18000, 9000, true).Width, 16000);
-  EXPECT_EQ(MultiPicture::Cell(9600, 13500, false).Height, 7200 - 2655);
+  EXPECT_EQ(CellBeneathStrip(18000, 9000, false), (TwipRect{3000, 2655, 11999, 9000 - 2655}));
+  EXPECT_EQ(CellBeneathStrip(18000, 9000, true).Width, 16000);
+  EXPECT_EQ(CellBeneathStrip(9600, 13500, false).Height, 7200 - 2655);
 }
 
 }  // namespace

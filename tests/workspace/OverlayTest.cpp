@@ -1,4 +1,4 @@
-#include "workspace/Overlay.h"
+#include "workspace/compare/Overlay.h"
 
 #include <gtest/gtest.h>
 
@@ -47,7 +47,7 @@ class OverlayTest : public testing::Test {
 };
 
 TEST_F(OverlayTest, SliderGoesFromOneVideoToTheOther) {
-  EXPECT_EQ(stage_.Slots().ScreenLayout, "2");
+  EXPECT_EQ(stage_.Stage().ScreenLayout, "2");
   EXPECT_EQ(view_.scroll, 128);
   const POINTAPI at = Probe();
   SetMix(0);
@@ -62,7 +62,7 @@ TEST_F(OverlayTest, SliderGoesFromOneVideoToTheOther) {
     EXPECT_NEAR(part(Mix(at)), part(Of(2, at)) * 64 / 255.0 + part(Of(1, at)) * 191 / 255.0, 1.01);
   overlay_.ToggleTransparency();
   EXPECT_FALSE(view_.transparency);
-  EXPECT_EQ(stage_.Slots().ScreenLayout, "4");
+  EXPECT_EQ(stage_.Stage().ScreenLayout, "4");
 }
 
 TEST_F(OverlayTest, PresetsWalkBySteps) {
@@ -134,8 +134,8 @@ TEST_F(OverlayTest, MixFollowsBothVideosOncePerTurn) {
 TEST_F(OverlayTest, EachVideoStandsWhereItsPanPutsIt) {
   SetMix(255);
   const Surface& picture = stage_.MP(2).Picture();
-  stage_.Slots().CurrentWindow = 2;
-  stage_.Slots().Pan(50 * kTwipsPerPixel, -20 * kTwipsPerPixel);
+  stage_.Stage().CurrentWindow = 2;
+  stage_.Stage().Pan(50 * kTwipsPerPixel, -20 * kTwipsPerPixel);
   stage_.host.Advance(0);
   const int left = (1200 - picture.Width()) / 2 + 50;
   EXPECT_EQ(view_.mix.Pixel(left, 300), picture.Pixel(0, 300 - (600 - picture.Height()) / 2 + 20));
@@ -159,7 +159,8 @@ TEST_F(OverlayTest, EachVideoRunsFromItsOwnButtons) {
   ASSERT_TRUE(locks_.DualLock(1));
   overlay_.SeekVideo(2, 10);
   EXPECT_EQ(stage_.At(1), 7);  // comes along
-  ASSERT_TRUE(stage_.Slots().CloseVideo(2));
+  ASSERT_TRUE(stage_.Videos().CloseVideo(2));
+  stage_.EndTurn();
   overlay_.ControlVideo(2, VideoControl::Play);  // empty: nothing to do
   EXPECT_EQ(view_.bars.at(2), (std::array{0, 0, 0}));
   SetMix(255);

@@ -36,7 +36,7 @@ class StageHomeTest : public testing::Test {
   }
 
   AnalysisStage stage_{"8"};
-  Workspace& slots_ = stage_.Slots();
+  Stage& slots_ = stage_.Stage();
 };
 
 TEST_F(StageHomeTest, EveryWayThereLeadsBack) {
@@ -53,8 +53,8 @@ TEST_F(StageHomeTest, EveryWayThereLeadsBack) {
       {"a layout without it", [&](const std::string&) { stage_.Key('4'); }, "4", 1},
       {"the layout of transparency", [&](const std::string&) { stage_.Key('2'); }, "2", 1},
       {"a video sent to another window",
-       [&](const std::string&) { EXPECT_EQ(slots_.SendToAnalysis(stage_.Video("sent.avi")), 3); }, "8", 3},
-      {"all videos closed", [&](const std::string&) { EXPECT_TRUE(slots_.CloseAll()); }, "8", 1},
+       [&](const std::string&) { EXPECT_EQ(stage_.Videos().SendToAnalysis(stage_.Video("sent.avi")), 3); }, "8", 3},
+      {"all videos closed", [&](const std::string&) { EXPECT_TRUE(stage_.Videos().CloseAll()); }, "8", 1},
   };
   for (const std::string& first : modes)
     for (const std::string& last : modes)
@@ -67,8 +67,8 @@ TEST_F(StageHomeTest, EveryWayThereLeadsBack) {
         EXPECT_EQ(stage_.compareView.transparency, last == "STM");
         way.leave(last);
         ExpectHome(way.layout, way.window);
-        slots_.ReopenClosed();  // what was closed, under the layout and the window from before
-        if (slots_.HasVideo(3)) slots_.CloseVideo(3);
+        stage_.Videos().ReopenClosed();  // what was closed, under the layout and the window from before
+        if (slots_.HasVideo(3)) stage_.Videos().CloseVideo(3);
         slots_.SetScreen(8);
         if (way.name == std::string("all videos closed")) EXPECT_EQ(slots_.CurrentWindow, 5);
         slots_.SelectWindow(5);
@@ -77,8 +77,8 @@ TEST_F(StageHomeTest, EveryWayThereLeadsBack) {
 
 TEST_F(StageHomeTest, ANewVideoInTheMixStaysThere) {
   Toggle("STM");
-  ASSERT_TRUE(slots_.CloseVideo(1));
-  EXPECT_EQ(slots_.SendToAnalysis(stage_.Video("sent.avi")), 1);
+  ASSERT_TRUE(stage_.Videos().CloseVideo(1));
+  EXPECT_EQ(stage_.Videos().SendToAnalysis(stage_.Video("sent.avi")), 1);
   EXPECT_TRUE(stage_.compareView.transparency);
   Toggle("STM");
   ExpectHome("8", 5);
@@ -86,7 +86,7 @@ TEST_F(StageHomeTest, ANewVideoInTheMixStaysThere) {
   for (const char* mode : {"smbar", "TMAX"}) {
     ASSERT_TRUE(stage_.Open(5, MjpegVideo(30)));
     Toggle(mode);
-    ASSERT_TRUE(slots_.CloseVideo(5));
+    ASSERT_TRUE(stage_.Videos().CloseVideo(5));
     ExpectHome("8", 5);
   }
 }

@@ -1,4 +1,4 @@
-#include "workspace/StrobeControl.h"
+#include "workspace/compare/StrobeControl.h"
 
 #include <gtest/gtest.h>
 
@@ -53,16 +53,16 @@ TEST_F(StrobeControlTest, QuickStrobeRunsToTheEndAndASecondPressStopsIt) {
   EXPECT_TRUE(strobe_.HasResult());  // what there is stays
 
   // The button that shows it is told of every end, also of one that comes by itself.
-  std::vector<bool> told;
-  strobe_.RunningChanged = [&] { told.push_back(strobe_.StrobeRunning()); };
+  stage_.EndTurn();
+  const int told = stage_.window.updates;
   stage_.MP(1).DrawFrame(20);
   EXPECT_FALSE(strobe_.HasResult() || strobe_.SavePicture(TestPath("none.png")));
   strobe_.ToggleStrobe();
   stage_.host.Advance(5000);
   EXPECT_FALSE(strobe_.StrobeRunning());
   EXPECT_GE(stage_.At(1), 36);
-  EXPECT_EQ(told, (std::vector<bool>{true, false}));
-  stage_.Slots().SelectWindow(2);
+  EXPECT_EQ(stage_.window.updates, told + 2);
+  stage_.Stage().SelectWindow(2);
   strobe_.ToggleStrobe();  // an empty window
   EXPECT_FALSE(strobe_.StrobeRunning());
 }
@@ -96,7 +96,7 @@ TEST_F(StrobeControlTest, WindowChoosesStartAndEnd) {
 }
 
 TEST_F(StrobeControlTest, FramesAreRawWhereFieldsAreSplit) {
-  stage_.Slots().ToggleSplitFields();
+  stage_.Videos().ToggleSplitFields();
   strobe_.SetWindow(&view_);
   stage_.MP(1).DrawFrame(31);
   strobe_.PressButton(StrobeButton::Start);
@@ -112,12 +112,12 @@ TEST_F(StrobeControlTest, AnotherWindowOrVideoResets) {
   strobe_.PressButton(StrobeButton::Start);
   strobe_.PressButton(StrobeButton::Strobe);
   // What happens to the stage and to other windows is none of its business.
-  stage_.Slots().ToggleMaximize();
-  stage_.Slots().ToggleMaximize();
-  stage_.Slots().SetScreen(4);
+  stage_.Stage().ToggleMaximize();
+  stage_.Stage().ToggleMaximize();
+  stage_.Stage().SetScreen(4);
   ASSERT_TRUE(stage_.Open(2, RawVideo(25), 3));
   ASSERT_TRUE(stage_.Open(3, RawVideo(25)));
-  ASSERT_TRUE(stage_.Slots().CloseVideo(3));
+  ASSERT_TRUE(stage_.Videos().CloseVideo(3));
   EXPECT_TRUE(strobe_.StrobeRunning());
   EXPECT_EQ(view_.captions, (Captions{"Start at 6", "End Here", "Stop"}));
   ASSERT_TRUE(stage_.Open(1, RawVideo(30)));
@@ -127,12 +127,13 @@ TEST_F(StrobeControlTest, AnotherWindowOrVideoResets) {
 
   strobe_.PressButton(StrobeButton::End);
   strobe_.PressButton(StrobeButton::Strobe);
-  stage_.Slots().SelectWindow(2);
+  stage_.Stage().SelectWindow(2);
+  stage_.EndTurn();
   EXPECT_FALSE(strobe_.StrobeRunning());
   EXPECT_EQ(view_.captions, (Captions{"Start Here", "End Here", "Strobe"}));
   EXPECT_EQ(view_.slider, (std::array{0, 24, 3}));
   strobe_.PressButton(StrobeButton::Strobe);
-  ASSERT_TRUE(stage_.Slots().CloseVideo(2));
+  ASSERT_TRUE(stage_.Videos().CloseVideo(2));
   EXPECT_FALSE(strobe_.StrobeRunning());
   strobe_.SetWindow(nullptr);
   stage_.host.Advance(1000);

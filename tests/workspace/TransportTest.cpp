@@ -1,16 +1,16 @@
-#include "workspace/Transport.h"
+#include "workspace/transport/Transport.h"
 
 #include <gtest/gtest.h>
 
 #include "AnalysisStage.h"
-#include "workspace/Countdown.h"
+#include "workspace/transport/Countdown.h"
 
 namespace kinalyx::test {
 namespace {
 
 struct TransportTest : testing::Test {
   AnalysisStage stage{"2"};
-  Transport& transport = stage.analysis.Player();
+  Transport& transport = stage.analysis.Transport();
 };
 
 TEST_F(TransportTest, AnEmptyWindowRefusesEveryMoveAndSaysSo) {
@@ -35,9 +35,9 @@ TEST_F(TransportTest, TheLineShowsSecondsAndFrames) {
   EXPECT_EQ(stage.window.value, 37);
   EXPECT_EQ(stage.window.range, 60);
   // The rate of the user goes before the one stored with the video, and that before the file's.
-  stage.Slots().At(1).data.RealFrameRate = 120;
+  stage.Stage().At(1).data.RealFrameRate = 120;
   EXPECT_EQ(transport.DisplayLine(1), ".31 seconds | 37/60 frames  ");
-  stage.Slots().At(1).SlotFrameRate = 240;
+  stage.Stage().At(1).SlotFrameRate = 240;
   EXPECT_EQ(transport.DisplayLine(1), ".15 seconds | 37/60 frames  ");
 }
 
@@ -49,7 +49,8 @@ TEST_F(TransportTest, FieldsCountTwice) {
   transport.StepForward();
   EXPECT_EQ(stage.At(1), 21);
   transport.AddMark();
-  stage.Slots().ToggleSplitFields();
+  stage.Videos().ToggleSplitFields();
+  stage.EndTurn();
   EXPECT_EQ(stage.window.line, ".33 seconds | 10/19 frames  ");
   EXPECT_EQ(stage.window.marks, std::vector{10});
 }
@@ -142,9 +143,11 @@ TEST_F(TransportTest, SlowMotionComesAndGoesDuringAPlayAndBelongsToItsWindow) {
   EXPECT_TRUE(stage.window.slomo && stage.window.playing && stage.window.loop) << "the loop outlives the change";
   stage.host.Advance(400);
   EXPECT_NEAR(stage.At(1) - before, 3, 1);
-  stage.Slots().SelectWindow(2);
+  stage.Stage().SelectWindow(2);
+  stage.EndTurn();
   EXPECT_FALSE(stage.window.slomo || stage.window.loop || stage.window.playing);
-  stage.Slots().SelectWindow(1);
+  stage.Stage().SelectWindow(1);
+  stage.EndTurn();
   EXPECT_TRUE(stage.window.slomo && stage.window.loop && stage.window.playing);
 }
 
@@ -173,9 +176,11 @@ TEST_F(TransportTest, TenMarksForEachWindow) {
   EXPECT_EQ(stage.window.marks.size(), 10u);
   transport.GoToMark(3);
   EXPECT_EQ(stage.At(1), 7);
-  stage.Slots().SelectWindow(2);
+  stage.Stage().SelectWindow(2);
+  stage.EndTurn();
   EXPECT_TRUE(stage.window.marks.empty());
-  stage.Slots().SelectWindow(1);
+  stage.Stage().SelectWindow(1);
+  stage.EndTurn();
   EXPECT_EQ(stage.window.marks[9], 19);
   transport.ClearMarks();
   EXPECT_TRUE(stage.window.marks.empty());
@@ -201,7 +206,7 @@ TEST_F(TransportTest, EveryKeyOfTheTableDoesItsWork) {
   EXPECT_TRUE(stage.analysis.Tools().Drawing());
   stage.Key(kKeyEscape);
   EXPECT_FALSE(stage.analysis.Tools().Drawing());
-  EXPECT_TRUE(stage.Slots().HasVideo(1)) << "Escape puts the tool down first";
+  EXPECT_TRUE(stage.Stage().HasVideo(1)) << "Escape puts the tool down first";
   stage.Key(kKeyHome);
   stage.Key(kKeyEnd);
   EXPECT_EQ(stage.libraryVisits + stage.menuVisits, 2);
@@ -211,22 +216,22 @@ TEST_F(TransportTest, EveryKeyOfTheTableDoesItsWork) {
   const char* const layouts[] = {"1", "2", "3T", "4", "3L", "6", "2H", "8"};
   for (int digit = 1; digit <= 8; ++digit) {
     stage.Key(kKey0 + digit);
-    EXPECT_EQ(stage.Slots().ScreenLayout, layouts[digit - 1]);
+    EXPECT_EQ(stage.Stage().ScreenLayout, layouts[digit - 1]);
   }
   for (const auto& [key, slot] : {std::pair{9, 2}, {3, 3}, {1, 4}, {7, 1}}) {
     stage.Key(kKeyNumpad0 + key);
-    EXPECT_EQ(stage.Slots().CurrentWindow, slot);
+    EXPECT_EQ(stage.Stage().CurrentWindow, slot);
   }
   stage.Key(kKey0 + 2);
   stage.Key(kKeyNumpad0 + 3);
-  EXPECT_EQ(stage.Slots().CurrentWindow, 1) << "two windows have no third";
+  EXPECT_EQ(stage.Stage().CurrentWindow, 1) << "two windows have no third";
   stage.Type('c');
-  EXPECT_FALSE(stage.Slots().HasVideo(1));
+  EXPECT_FALSE(stage.Stage().HasVideo(1));
 }
 
 TEST_F(TransportTest, PanAndZoomKeysKeepTheirLimits) {
   stage.Open(1, stage.Video("a.avi"));
-  const Slot& slot = stage.Slots().At(1);
+  const Slot& slot = stage.Stage().At(1);
   for (const char key : {'y', 'y', 'h'}) stage.Type(key);
   EXPECT_EQ(slot.PanY, -100);
   EXPECT_EQ(slot.PanX, 50);
@@ -238,7 +243,7 @@ TEST_F(TransportTest, PanAndZoomKeysKeepTheirLimits) {
   EXPECT_EQ(slot.VideoZoom, 1.0);
   stage.Key(kKeyNumpad0 + 5);
   EXPECT_EQ(slot.PanX, 0);
-  EXPECT_EQ(stage.Slots().At(2).VideoZoom, 1.0);
+  EXPECT_EQ(stage.Stage().At(2).VideoZoom, 1.0);
 }
 
 TEST(CountdownTest, CountsMinutesAndSecondsInOneNumberAndEndsOnce) {
@@ -263,10 +268,10 @@ TEST(EscapeTest, LeavesOneThingAtATimeAndTheVideosComeBack) {
   stage.Open(1, stage.Video("a.avi"));
   stage.Open(2, stage.Video("b.avi"));
   stage.MP(2).DrawFrame(7);
-  stage.Slots().SelectWindow(2);
+  stage.Stage().SelectWindow(2);
   stage.Draw(kLine, {10, 20}, {50, 60});
-  stage.Slots().ToggleFlip();
-  stage.Slots().SetZoom(2);
+  stage.Videos().ToggleFlip();
+  stage.Stage().SetZoom(2);
   const POINTAPI drawn = stage.Shapes(2).Shapes[0].Pts[0];
   stage.Commands().Run("TVT");
   stage.Commands().Run("TN");
@@ -280,34 +285,34 @@ TEST(EscapeTest, LeavesOneThingAtATimeAndTheVideosComeBack) {
     stage.Key(kKeyEscape);
     EXPECT_FALSE(open()[left]) << left;
   }
-  EXPECT_TRUE(stage.Slots().HasVideo(1) && stage.Slots().HasVideo(2));
+  EXPECT_TRUE(stage.Stage().HasVideo(1) && stage.Stage().HasVideo(2));
   EXPECT_FALSE(stage.Commands().Run("ReopenVideos")) << "nothing is closed";
 
   stage.Key(kKeyEscape);
-  EXPECT_FALSE(stage.Slots().HasVideo(1) || stage.Slots().HasVideo(2));
-  stage.Slots().SetScreen(1);
+  EXPECT_FALSE(stage.Stage().HasVideo(1) || stage.Stage().HasVideo(2));
+  stage.Stage().SetScreen(1);
   stage.analysis.KeyDown('T', kShift | kCtrl, 1);
-  EXPECT_TRUE(stage.Slots().HasVideo(1) && stage.Slots().HasVideo(2));
-  EXPECT_EQ(stage.Slots().ScreenLayout, "2");
-  EXPECT_EQ(stage.Slots().CurrentWindow, 2);
+  EXPECT_TRUE(stage.Stage().HasVideo(1) && stage.Stage().HasVideo(2));
+  EXPECT_EQ(stage.Stage().ScreenLayout, "2");
+  EXPECT_EQ(stage.Stage().CurrentWindow, 2);
   EXPECT_EQ(stage.At(2), 7);
   EXPECT_TRUE(stage.MP(2).FlipHorizontal());
-  EXPECT_EQ(stage.Slots().Current().VideoZoom, 2);
+  EXPECT_EQ(stage.Stage().Current().VideoZoom, 2);
   EXPECT_EQ(stage.Shapes(2).Shapes[0].Pts[0], drawn);
 
   // Only as long as the stage is empty, and without what has gone from the disk meanwhile.
   stage.Key(kKeyEscape);
   std::filesystem::remove(stage.folder + "/a.avi");
   EXPECT_TRUE(stage.Commands().Run("ReopenVideos"));
-  EXPECT_FALSE(stage.Slots().HasVideo(1));
-  EXPECT_TRUE(stage.Slots().HasVideo(2));
+  EXPECT_FALSE(stage.Stage().HasVideo(1));
+  EXPECT_TRUE(stage.Stage().HasVideo(2));
 
   // From within a film strip or a maximized window: the layout beneath comes back.
   for (const char* alone : {"smbar", "TMAX"}) {
     ASSERT_TRUE(stage.Commands().Run(alone)) << alone;
     stage.Commands().Run("MnuCloseAll");
     EXPECT_TRUE(stage.Commands().Run("ReopenVideos")) << alone;
-    EXPECT_EQ(stage.Slots().ScreenLayout, "2") << alone;
+    EXPECT_EQ(stage.Stage().ScreenLayout, "2") << alone;
   }
 }
 

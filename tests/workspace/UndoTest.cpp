@@ -23,7 +23,7 @@ class Undo : public testing::Test {
   void PressUndo() { Key('Z', kCtrl); }
   void PressRedo() { redone_++ % 2 ? Key('Y', kCtrl) : Key('Z', kCtrl | kShift); }
   void Do(const char* command) { EXPECT_TRUE(stage_.Commands().Run(command)) << command; }
-  int Window() { return stage_.Slots().CurrentWindow; }
+  int Window() { return stage_.Stage().CurrentWindow; }
   /// What the current window shows, finished or not.
   std::vector<Shape> Drawn() {
     const auto shapes = ShapesOf(stage_.Shapes(Window()));
@@ -120,7 +120,7 @@ TEST_F(Undo, TheSizeOfTheWindowWearsNothingOut) {
   const std::vector<Shape> moved = Drawn();
   Key(kKeyEscape);
   for (int round = 0; round < 5; ++round) {
-    for (const int layout : {8, 4, 6, 1}) stage_.Slots().SetScreen(layout);
+    for (const int layout : {8, 4, 6, 1}) stage_.Stage().SetScreen(layout);
     Do("vFlip");
     Do("vFlip");
   }
@@ -133,9 +133,9 @@ TEST_F(Undo, TheSizeOfTheWindowWearsNothingOut) {
   EXPECT_EQ(Drawn(), moved);
   PressUndo();
   EXPECT_EQ(Drawn(), drawn_) << "to the pixel, and so is what the step did not touch";
-  stage_.Slots().SetScreen(8);
+  stage_.Stage().SetScreen(8);
   PressRedo();
-  stage_.Slots().SetScreen(1);
+  stage_.Stage().SetScreen(1);
   EXPECT_EQ(Drawn(), moved) << "brought back in a small window, and seen in the large one";
   Do("vFlip");
   PressUndo();
@@ -147,7 +147,7 @@ TEST_F(Undo, AStraightLineStaysStraightWhenThePictureChangesUnderIt) {
   Do("DDSL");
   Click({120, 100});
   stage_.Type('F');
-  stage_.Slots().SetZoom(1.3);
+  stage_.Stage().SetZoom(1.3);
   const POINTAPI first = Drawn().back().Pts[0];
   Click({first.x + 4, first.y + 80});
   ASSERT_EQ(Count(), 3);
@@ -156,32 +156,32 @@ TEST_F(Undo, AStraightLineStaysStraightWhenThePictureChangesUnderIt) {
 }
 
 TEST_F(Undo, WindowsAndSavesDoNotMeddle) {
-  stage_.Slots().SetScreen(2);
+  stage_.Stage().SetScreen(2);
   const std::vector<Shape> one = Drawn();
   // The same video a second time brings what was drawn so far, and has a past of its own.
-  ASSERT_TRUE(stage_.Open(2, stage_.Slots().At(1).path));
-  stage_.Slots().SelectWindow(2);
+  ASSERT_TRUE(stage_.Open(2, stage_.Stage().At(1).path));
+  stage_.Stage().SelectWindow(2);
   EXPECT_EQ(Count(), 2);
   EXPECT_FALSE(stage_.analysis.Edits().CanUndo());
   Draw(kLine, {20, 20}, {60, 60});
-  ASSERT_TRUE(stage_.Slots().SaveData(2));
+  ASSERT_TRUE(stage_.Keeping().SaveData(2));
   PressUndo();
   EXPECT_EQ(Count(), 2) << "a save is no end of the past";
-  stage_.Slots().SelectWindow(1);
+  stage_.Stage().SelectWindow(1);
   EXPECT_EQ(Drawn(), one);
   PressUndo();
   EXPECT_EQ(Count(), 1);
-  ASSERT_TRUE(stage_.Slots().SaveData(1));
+  ASSERT_TRUE(stage_.Keeping().SaveData(1));
   PressRedo();
   EXPECT_EQ(Drawn(), one);
   // A half-drawn shape waits in its window while another one is undone.
   TakeUp(kLine);
   Click({50, 50});
-  stage_.Slots().SelectWindow(2);
+  stage_.Stage().SelectWindow(2);
   PressRedo();
   EXPECT_EQ(Count(), 3);
   EXPECT_EQ(stage_.Shapes().NumShapes, 3);
-  stage_.Slots().SelectWindow(1);
+  stage_.Stage().SelectWindow(1);
   PressUndo();
   EXPECT_EQ(Drawn(), one);
   // A clone is undone where it was laid.
@@ -191,8 +191,8 @@ TEST_F(Undo, WindowsAndSavesDoNotMeddle) {
   PressUndo();
   EXPECT_EQ(Count(), 3);
   // Another video knows nothing of it.
-  const std::string path = stage_.Slots().At(2).path;
-  ASSERT_TRUE(stage_.Slots().CloseVideo(2));
+  const std::string path = stage_.Stage().At(2).path;
+  ASSERT_TRUE(stage_.Videos().CloseVideo(2));
   ASSERT_TRUE(stage_.Open(2, path));
   ASSERT_NE(Count(), 0);
   EXPECT_FALSE(stage_.analysis.Edits().CanUndo());

@@ -1,9 +1,9 @@
-#include "workspace/ZoomPan.h"
+#include "workspace/compare/ZoomPan.h"
 
 #include <gtest/gtest.h>
 
 #include "AnalysisStage.h"
-#include "workspace/PlayerPlace.h"
+#include "workspace/stage/PlayerPlace.h"
 
 namespace kinalyx {
 namespace {
@@ -22,13 +22,13 @@ class ZoomPanTest : public testing::Test {
 };
 
 TEST_F(ZoomPanTest, ButtonsDoWhatTheKeysDo) {
-  const Slot& slot = stage_.Slots().At(1);
+  const Slot& slot = stage_.Stage().At(1);
   const std::pair<double, double> panned[] = {{0, -50}, {50, 0}, {0, 50}, {-50, 0}, {0, 0}};
   for (int index = 0; index < 5; ++index) {
     zoom_.BeginPan(static_cast<PanMove>(index));
     zoom_.EndPan();
     EXPECT_EQ(std::pair(slot.PanX, slot.PanY), panned[index]) << index;
-    stage_.Slots().ResetZoom();
+    stage_.Stage().ResetZoom();
   }
   const double zoomed[] = {0.9, 1.0, 1.0};
   for (const int index : {0, 1, 2}) {
@@ -38,32 +38,32 @@ TEST_F(ZoomPanTest, ButtonsDoWhatTheKeysDo) {
 }
 
 TEST_F(ZoomPanTest, WheelKeepsThePointUnderThePointer) {
-  stage_.Slots().At(1).PanX = 333;
-  stage_.Slots().MPResize(1);
-  const double otherZoom = stage_.Slots().At(2).VideoZoom;
+  stage_.Stage().At(1).PanX = 333;
+  stage_.Stage().MPResize(1);
+  const double otherZoom = stage_.Stage().At(2).VideoZoom;
   // A point of the picture, and where it is in the cell.
   double part = 0.3;
   for (const int notches : {1, 1, 5, 40, -3, -100}) {
-    const TwipRect before = PlayerPlace(stage_.Slots().At(1));
+    const TwipRect before = PlayerPlace(stage_.Stage().At(1));
     const double x = part * before.Width;
     const double y = part * before.Height;
     zoom_.Wheel(1, static_cast<float>(x / kTwipsPerPixel), static_cast<float>(y / kTwipsPerPixel), notches);
-    const TwipRect after = PlayerPlace(stage_.Slots().At(1));
+    const TwipRect after = PlayerPlace(stage_.Stage().At(1));
     EXPECT_NEAR(after.Left + part * after.Width, before.Left + x, kTwipsPerPixel);
     EXPECT_NEAR(after.Top + part * after.Height, before.Top + y, kTwipsPerPixel);
     part += 0.1;
   }
-  EXPECT_DOUBLE_EQ(stage_.Slots().At(1).VideoZoom, 0.2);
+  EXPECT_DOUBLE_EQ(stage_.Stage().At(1).VideoZoom, 0.2);
   zoom_.Wheel(1, 5, 5, 100);
-  EXPECT_DOUBLE_EQ(stage_.Slots().At(1).VideoZoom, 4.0);
-  EXPECT_DOUBLE_EQ(stage_.Slots().At(2).VideoZoom, otherZoom);
+  EXPECT_DOUBLE_EQ(stage_.Stage().At(1).VideoZoom, 4.0);
+  EXPECT_DOUBLE_EQ(stage_.Stage().At(2).VideoZoom, otherZoom);
   zoom_.Wheel(3, 5, 5, 1);  // an empty window
 }
 
 TEST_F(ZoomPanTest, TheMiddleButtonTakesThePictureAlong) {
-  Slot& slot = stage_.Slots().At(2);
+  Slot& slot = stage_.Stage().At(2);
   slot.VideoZoom = 2;
-  stage_.Slots().MPResize(2);
+  stage_.Stage().MPResize(2);
   const POINTAPI before = PlayerCorner(slot);
   // Over the picture, which moves beneath the pointer.
   const auto moveTo = [&](int x, int y) { stage_.Move(2, x - PlayerCorner(slot).x, y - PlayerCorner(slot).y); };
@@ -74,7 +74,7 @@ TEST_F(ZoomPanTest, TheMiddleButtonTakesThePictureAlong) {
   moveTo(500, 500);
   EXPECT_NEAR(PlayerCorner(slot).x - before.x, 40, 1);
   EXPECT_NEAR(PlayerCorner(slot).y - before.y, -40, 1);
-  EXPECT_EQ(stage_.Slots().CurrentWindow, 1);
+  EXPECT_EQ(stage_.Stage().CurrentWindow, 1);
 }
 
 }  // namespace

@@ -14,10 +14,11 @@ class DriveWatch;
 
 enum class MessageKind { Information, Warning, Critical };
 
-/// What a file dialog is asked for. `filter` has the form "Name (*.a;*.b)|*.a; *.b".
+/// What a file dialog is asked for. `filter` has the form "Name (*.a;*.b)|*.a; *.b", and further such pairs for
+/// further kinds of files.
 struct FileDialog {
   std::string title;
-  std::string folder;
+  std::string folder;  ///< where it begins; for a new file its suggested path
   std::string filter;
 };
 
@@ -69,6 +70,9 @@ class IHost {
   virtual std::unique_ptr<IWaitCard> ShowWait(const std::string& title, const std::string& text) = 0;
   /// The path of an existing file, or nothing when the user cancels.
   virtual std::optional<std::string> PickFile(const FileDialog& dialog) = 0;
+  /// The path of a file to be written, or nothing when the user cancels. A name without an ending gets the first
+  /// one of the kind that was chosen. Where the file exists already, the user has agreed to replace it.
+  virtual std::optional<std::string> PickNewFile(const FileDialog& dialog) = 0;
   /// The path of an existing folder, or nothing when the user cancels.
   virtual std::optional<std::string> PickFolder(const std::string& title, const std::string& folder) = 0;
 

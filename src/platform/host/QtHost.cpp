@@ -4,7 +4,9 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QMessageBox>
+#include <QFileInfo>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QTimerEvent>
 #include <algorithm>
@@ -30,10 +32,13 @@ QString Text(const std::string& text) { return QString::fromUtf8(text.data(), st
 
 /// "All Pictures (*.bmp;*.jpg)|*.bmp; *.jpg" in the form that Qt's dialogs read.
 QString DialogFilter(const std::string& filter) {
-  QString label = Text(filter).section('|', 0, 0);
-  QString patterns = Text(filter).section('|', 1).replace(';', ' ');
-  if (patterns.isEmpty()) return label;
-  return label.section('(', 0, 0).trimmed() + " (" + patterns.simplified() + ")";
+  const QStringList parts = Text(filter).split('|');
+  QStringList kinds;
+  for (int i = 0; i + 1 < parts.size(); i += 2) {
+    QString patterns = parts[i + 1];
+    kinds << parts[i].section('(', 0, 0).trimmed() + " (" + patterns.replace(';', ' ').simplified() + ")";
+  }
+  return kinds.isEmpty() ? Text(filter) : kinds.join(";;");
 }
 
 int ProcessorMHz() {
@@ -154,6 +159,14 @@ class QtHost final : public QObject, public IHost {
   std::optional<std::string> PickFile(const FileDialog& dialog) override {
     return Picked(QFileDialog::getOpenFileName(QApplication::activeWindow(), Title(dialog.title), Text(dialog.folder),
                                                DialogFilter(dialog.filter)));
+  }
+
+  std::optional<std::string> PickNewFile(const FileDialog& dialog) override {
+    QString kind;
+    QString path = QFileDialog::getSaveFileName(QApplication::activeWindow(), Title(dialog.title), Text(dialog.folder),
+                                                DialogFilter(dialog.filter), &kind);
+    if (!path.isEmpty() && QFileInfo(path).suffix().isEmpty()) path += kind.section("(*", 1).section(QRegularExpression("[ )]"), 0, 0);
+    return Picked(path);
   }
 
   std::optional<std::string> PickFolder(const std::string& title, const std::string& folder) override {

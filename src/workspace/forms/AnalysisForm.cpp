@@ -46,7 +46,7 @@ int ToPixels(int twips) { return static_cast<int>(std::floor(static_cast<double>
 }  // namespace
 
 AnalysisForm::AnalysisForm(IHost& host, IPrinter& printer, Settings& settings, PlayerServices& players,
-                           LastStudentInfo& remembered, Navigation navigation, QWidget* parent)
+                           LastStudentInfo& remembered, INavigation& navigation, QWidget* parent)
     : PageWidget(parent),
       host_(host),
       printer_(printer),
@@ -57,14 +57,14 @@ AnalysisForm::AnalysisForm(IHost& host, IPrinter& printer, Settings& settings, P
   edits_ = std::make_unique<EditForms>();
   compare_ = std::make_unique<CompareForms>(host);
   analysis_ = std::make_unique<AnalysisWorkspace>(host, settings, players.scheduler, static_cast<IWorkspaceView&>(*this),
-                                                  *edits_, *compare_, std::move(navigation));
-  const auto run = [this](const std::string& command) { Run(command); };
-
-  menus_ = new CommandMenus(analysis_->Commands().Commands(), run, this);
+                                                  *edits_, *compare_, navigation);
+  menus_ = new CommandMenus(analysis_->Commands().Commands(), this);
+  connect(menus_, &CommandMenus::Wanted, this, &AnalysisForm::Run);
   colors_ = new ColorRow(menus_);
   connect(colors_, &ColorRow::Chosen, this, [this](int index) { analysis_->ChooseColour(index); });
   menus_->setCornerWidget(colors_, Qt::TopRightCorner);
-  strip_ = new ToolStrip(analysis_->Commands().Commands(), run, this);
+  strip_ = new ToolStrip(analysis_->Commands().Commands(), this);
+  connect(strip_, &ToolStrip::Wanted, this, &AnalysisForm::Run);
 
   auto* rows = new QVBoxLayout(this);
   rows->setContentsMargins(0, 0, 0, 0);
@@ -76,10 +76,7 @@ AnalysisForm::AnalysisForm(IHost& host, IPrinter& printer, Settings& settings, P
   rows->addLayout(middle_, 1);
   MakeStage();
   middle_->addWidget(stage_, 1);
-  compare_->Build(analysis_->Compare(), analysis_->Slots(), stage_);
-  compare_->LockShown = [this] {
-    for (int slot = 1; slot <= kSlots; ++slot) Cell(slot).SetLocked(analysis_->Compare().Locks().IsLocked(slot));
-  };
+  compare_->Build(analysis_->Compare(), analysis_->Stage(), stage_);
   rows->addWidget(compare_->Foot());
   setFocusProxy(keyBox_);
   ScaleBars();
@@ -89,7 +86,7 @@ AnalysisForm::AnalysisForm(IHost& host, IPrinter& printer, Settings& settings, P
 AnalysisForm::~AnalysisForm() {
   stage_->removeEventFilter(this);
   for (int slot = 1; slot <= kSlots; ++slot)
-    if (analysis_->Slots().HasVideo(slot)) analysis_->Slots().SaveData(slot);
+    if (analysis_->Stage().HasVideo(slot)) analysis_->Keeping().SaveData(slot);
   analysis_->DetachPlayers();
   // The bar and the panels hold references into it: they go first.
   delete openPanel_;
@@ -116,8 +113,8 @@ void AnalysisForm::MakeStage() {
     cells_[static_cast<std::size_t>(slot - 1)] = cell;
     analysis_->AttachPlayer(slot, cell->MP().Control());
   }
-  playBar_ = new PlayBar(analysis_->Player(), stage_);
-  connect(playBar_, &PlayBar::Redocked, this, [this] { analysis_->Slots().SetPlayBar(); });
+  playBar_ = new PlayBar(analysis_->Transport(), stage_);
+  connect(playBar_, &PlayBar::Redocked, this, [this] { analysis_->Stage().SetPlayBar(); });
   notes_ = new NotesPanel(analysis_->Notes(), stage_);
   caption_ = new DrawCaption(stage_);
   connect(caption_, &DrawCaption::Off, this, [this] { analysis_->PutToolDown(); });
@@ -125,7 +122,7 @@ void AnalysisForm::MakeStage() {
   timer_ = new VideoTimerForm(analysis_->Timer(), stage_);
   connect(timer_, &FloatCard::CloseWanted, this, [this] { Run("TVT"); });
   calibration_ = new CalibrationPanel(analysis_->Ruler(), settings_, stage_);
-  edits_->Build(analysis_->Edits(), analysis_->Slots(), stage_);
+  edits_->Build(analysis_->Edits(), analysis_->Stage(), stage_);
 }
 
 bool AnalysisForm::CloseAll() {
@@ -162,7 +159,7 @@ void AnalysisForm::keyPressEvent(QKeyEvent* event) {
 
 void AnalysisForm::Open() {
   // Players are told of their size when they come on the screen, and start with an empty picture then.
-  for (int slot = 1; slot <= kSlots; ++slot) analysis_->Slots().MP(slot).Refresh();
+  for (int slot = 1; slot <= kSlots; ++slot) analysis_->Stage().MP(slot).Refresh();
   if (openPanel_ && !openPanel_->isHidden()) openPanel_->Return();
   FocusKeyBox();
 }
@@ -182,7 +179,7 @@ void AnalysisForm::changeEvent(QEvent* event) {
 /// The bars beneath the pictures grow with the text; true when they have.
 bool AnalysisForm::ScaleBars() {
   const double scale = Px(100) / 100.0;
-  return std::exchange(analysis_->Slots().BarScale, scale) != scale;
+  return std::exchange(analysis_->Stage().BarScale, scale) != scale;
 }
 
 bool AnalysisForm::eventFilter(QObject* watched, QEvent* event) {
@@ -228,7 +225,7 @@ void AnalysisForm::PaintBorder(int slot, bool current) { Cell(slot).SetCurrent(c
 void AnalysisForm::SetCellTitle(int slot, const std::string& title) { Cell(slot).SetTitle(Q(title)); }
 
 void AnalysisForm::SetCellPosition(int slot, int position, int maximum, const std::string& line) {
-  const bool covered = slot == analysis_->Slots().CurrentWindow && playBar_->Docked();
+  const bool covered = slot == analysis_->Stage().CurrentWindow && playBar_->Docked();
   Cell(slot).SetPosition(position, maximum, Q(line), covered);
 }
 
@@ -253,18 +250,18 @@ void AnalysisForm::SetMarks(const std::vector<int>& marks) { playBar_->SetMarks(
 
 /// At the top right of the current picture, under the video's name where both do not fit side by side.
 void AnalysisForm::PlaceCaption() {
-  if (!caption_ || caption_->isHidden()) return;
+  if (caption_->isHidden()) return;
   caption_->adjustSize();
-  const Slot& at = analysis_->Slots().Current();
+  const Slot& at = analysis_->Stage().Current();
   const QRect panel = Pixels({at.cell.Left + at.panel.Left, at.cell.Top + at.panel.Top, at.panel.Width, at.panel.Height});
-  const QRect title = Cell(analysis_->Slots().CurrentWindow).TitleGeometry();
+  const QRect title = Cell(analysis_->Stage().CurrentWindow).TitleGeometry();
   const bool beside = title.width() + caption_->width() + 4 * kEdge <= panel.width();
   const int left = std::max(panel.left() + kEdge, panel.right() - kEdge - caption_->width());
   caption_->move(std::min(left, std::max(0, stage_->width() - caption_->width())),
                  panel.top() + kEdge + (beside ? 0 : title.height() + 4));
   caption_->raise();
   // What is chosen in the card must not lie under the name of the tool that draws the line.
-  if (calibration_ && !calibration_->isHidden()) calibration_->raise();
+  if (!calibration_->isHidden()) calibration_->raise();
 }
 
 void AnalysisForm::SetDisplayText(const std::string& text) { caption_->SetText(Q(text)); }
@@ -306,7 +303,7 @@ void AnalysisForm::ShowCalibration(bool shown) {
 void AnalysisForm::SetCalibrationLength(const std::string& length) { calibration_->SetLength(Q(length)); }
 
 void AnalysisForm::ShowNotesform() {
-  const Slot& at = analysis_->Slots().Current();
+  const Slot& at = analysis_->Stage().Current();
   Notesform form(host_, printer_, Q(at.path.empty() ? "" : VideoName(LastName(at.path))), BoxText(at.data.Notes), this);
   form.exec();
 }
@@ -321,10 +318,10 @@ void AnalysisForm::SettingsChanged() {
 void AnalysisForm::MakeOpenPanel() {
   OpenVideoCalls calls;
   calls.open = [this](const std::string& path) {
-    return analysis_->Slots().OpenVideo(analysis_->Slots().CurrentWindow, path);
+    return analysis_->Videos().OpenVideo(analysis_->Stage().CurrentWindow, path);
   };
-  calls.openFamily = [this](const std::vector<std::string>& paths) { analysis_->Slots().OpenFamily(paths); };
-  calls.undo = [this] { analysis_->Slots().UndoLastOpen(); };
+  calls.openFamily = [this](const std::vector<std::string>& paths) { analysis_->Videos().OpenFamily(paths); };
+  calls.undo = [this] { analysis_->Videos().UndoLastOpen(); };
   calls.done = [this] { CloseOpenPanel(); };
   openChoice_ = settings_.OpenDlgChoice;
   if (openChoice_ == 0 || openChoice_ == 1) {
@@ -376,14 +373,15 @@ void AnalysisForm::CommandsChanged() {
   const bool drawing = analysis_->Tools().Drawing();
   colors_->SetLive(drawing);
   edits_->Update();
-  const bool canReopen = analysis_->Slots().CanReopen();
-  for (VideoCell* cell : cells_) {
-    cell->MP().setCursor(drawing ? Qt::CrossCursor : Qt::ArrowCursor);
-    cell->SetReopen(canReopen);
+  const bool canReopen = analysis_->Videos().CanReopen();
+  for (int slot = 1; slot <= kSlots; ++slot) {
+    Cell(slot).MP().setCursor(drawing ? Qt::CrossCursor : Qt::ArrowCursor);
+    Cell(slot).SetReopen(canReopen);
+    Cell(slot).SetLocked(analysis_->Compare().Locks().IsLocked(slot));
   }
   compare_->SetDrawing(drawing);
-  const int current = analysis_->Slots().CurrentWindow;
-  playBar_->SetState(analysis_->Slots().HasVideo(current), analysis_->Compare().Locks().IsLocked(current));
+  const int current = analysis_->Stage().CurrentWindow;
+  playBar_->SetState(analysis_->Stage().HasVideo(current), analysis_->Compare().Locks().IsLocked(current));
 }
 
 void AnalysisForm::FocusKeyBox() {

@@ -36,7 +36,7 @@ class AnalysisForm : public PageWidget, private IWorkspaceView {
   /// that are still open are written then, without a question.
   /// @param remembered  the program's one remembered library selection
   AnalysisForm(IHost& host, IPrinter& printer, Settings& settings, PlayerServices& players,
-               LastStudentInfo& remembered, Navigation navigation, QWidget* parent = nullptr);
+               LastStudentInfo& remembered, INavigation& navigation, QWidget* parent = nullptr);
   ~AnalysisForm() override;
 
   /// The keys are its own, and an open panel that was left standing is up to date.
@@ -48,7 +48,7 @@ class AnalysisForm : public PageWidget, private IWorkspaceView {
   /// A setting of the section, or the noun, has changed.
   void SettingsChanged();
 
-  AnalysisWorkspace& Analysis() { return *analysis_; }
+  AnalysisWorkspace& Section() { return *analysis_; }
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;

@@ -3,7 +3,7 @@
 #include <array>
 
 #include "core/Settings.h"
-#include "workspace/RulerCalibration.h"
+#include "workspace/edits/RulerCalibration.h"
 #include "workspace/forms/FloatCard.h"
 
 class QLabel;

@@ -12,7 +12,7 @@
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
-#include "workspace/PlayerPlace.h"
+#include "workspace/stage/PlayerPlace.h"
 #include "workspace/forms/StageLook.h"
 
 namespace kinalyx {
@@ -70,7 +70,7 @@ CarvePanel::CarvePanel(Carve& carve, QWidget* parent)
   connect(opacity_, &QSlider::valueChanged, this, [this](int percent) { emit OpacityChanged(percent / 100.0); });
   connect(anew_, &QPushButton::clicked, this, [this] { carve_.MarkAnew(); });
   connect(this, &FloatCard::CloseWanted, this, [this] { carve_.ToggleCarve(); });
-  Dress();
+  FirstDress();
 }
 
 void CarvePanel::Begin() {
@@ -91,12 +91,8 @@ void CarvePanel::SetFloating(bool floating) {
   anew_->setEnabled(floating);
 }
 
-void CarvePanel::changeEvent(QEvent* event) {
-  FloatCard::changeEvent(event);
-  if (event->type() == QEvent::StyleChange && content_) Dress();
-}
-
 void CarvePanel::Dress() {
+  FloatCard::Dress();
   WearStageSheet(content_, kCompareSheet);
   // Two lines, whatever it says: the card keeps its height.
   hint_->setFixedHeight(2 * QFontMetrics(UiFont()).lineSpacing() + 4);
@@ -104,8 +100,8 @@ void CarvePanel::Dress() {
 
 // ---------------------------------------------------------------- CarveCanvas
 
-CarveCanvas::CarveCanvas(Carve& carve, Workspace& workspace, QWidget* stage)
-    : QWidget(stage), carve_(carve), workspace_(workspace) {
+CarveCanvas::CarveCanvas(Carve& carve, Stage& theStage, QWidget* stage)
+    : QWidget(stage), carve_(carve), theStage_(theStage) {
   setObjectName("CarvePic");
   setCursor(Qt::CrossCursor);
   hide();
@@ -114,7 +110,7 @@ CarveCanvas::CarveCanvas(Carve& carve, Workspace& workspace, QWidget* stage)
 void CarveCanvas::ShowOver(int slot) {
   slot_ = slot;
   mark_ = {};
-  const Slot& at = workspace_.At(slot);
+  const Slot& at = theStage_.At(slot);
   setGeometry((at.cell.Left + at.panel.Left) / kTwipsPerPixel, (at.cell.Top + at.panel.Top) / kTwipsPerPixel,
               at.panel.Width / kTwipsPerPixel, at.panel.Height / kTwipsPerPixel);
   show();
@@ -122,7 +118,7 @@ void CarveCanvas::ShowOver(int slot) {
 }
 
 QPointF CarveCanvas::Corner() const {
-  const POINTAPI corner = PlayerCorner(workspace_.At(slot_));
+  const POINTAPI corner = PlayerCorner(theStage_.At(slot_));
   return QPointF(corner.x, corner.y) / devicePixelRatioF();
 }
 

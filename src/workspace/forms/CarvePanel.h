@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workspace/Carve.h"
+#include "workspace/compare/Carve.h"
 #include "workspace/forms/FloatCard.h"
 #include "workspace/forms/StageParts.h"
 
@@ -26,11 +26,8 @@ class CarvePanel : public FloatCard {
   /// How much of the piece is seen, 0 to 1.
   void OpacityChanged(double opacity);
 
- protected:
-  void changeEvent(QEvent* event) override;
-
  private:
-  void Dress();
+  void Dress() override;
 
   Carve& carve_;
   QWidget* content_ = nullptr;
@@ -46,7 +43,7 @@ class CarveCanvas : public QWidget {
   Q_OBJECT
 
  public:
-  CarveCanvas(Carve& carve, Workspace& workspace, QWidget* stage);
+  CarveCanvas(Carve& carve, Stage& theStage, QWidget* stage);
 
   /// Over the clip area of a slot.
   void ShowOver(int slot);
@@ -65,7 +62,7 @@ class CarveCanvas : public QWidget {
   QPointF Corner() const;
 
   Carve& carve_;
-  Workspace& workspace_;
+  Stage& theStage_;
   int slot_ = 1;
   QRect mark_;
 };

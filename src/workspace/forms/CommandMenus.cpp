@@ -5,13 +5,11 @@
 
 #include "platform/widgets/Icons.h"
 #include "platform/widgets/Theme.h"
-#include "workspace/MenuBar.h"
+#include "workspace/commands/MenuBar.h"
 
 namespace kinalyx {
 
-CommandMenus::CommandMenus(const std::vector<Command>& commands, std::function<void(const std::string&)> run,
-                           QWidget* parent)
-    : QMenuBar(parent) {
+CommandMenus::CommandMenus(const std::vector<Command>& commands, QWidget* parent) : QMenuBar(parent) {
   setObjectName("MenuBar");
   setNativeMenuBar(false);
   std::map<std::string, QMenu*> menus;
@@ -29,7 +27,7 @@ CommandMenus::CommandMenus(const std::vector<Command>& commands, std::function<v
     auto* action = new QAction(QString::fromStdString(command.caption), this);
     action->setObjectName(QString::fromStdString(command.item));
     action->setCheckable(static_cast<bool>(command.checked));
-    connect(action, &QAction::triggered, this, [run, item = command.item] { run(item); });
+    connect(action, &QAction::triggered, this, [this, item = command.item] { emit Wanted(item); });
     menu ? menu->addAction(action) : addAction(action);
     entries_.emplace_back(&command, action);
   }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QMenuBar>
-#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -16,11 +15,14 @@ class CommandMenus : public QMenuBar {
   Q_OBJECT
 
  public:
-  CommandMenus(const std::vector<Command>& commands, std::function<void(const std::string&)> run,
-               QWidget* parent = nullptr);
+  explicit CommandMenus(const std::vector<Command>& commands, QWidget* parent = nullptr);
 
   /// Enables, checks and explains the entries anew.
   void Update();
+
+ signals:
+  /// A command is wanted, by its name in the table.
+  void Wanted(const std::string& command);
 
  protected:
   void changeEvent(QEvent* event) override;

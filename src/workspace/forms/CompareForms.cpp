@@ -1,12 +1,12 @@
 #include "workspace/forms/CompareForms.h"
 
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 #include <cmath>
 
-#include "workspace/PlayerPlace.h"
+#include "platform/files/Folders.h"
+#include "workspace/stage/PlayerPlace.h"
 #include "workspace/forms/CarvePanel.h"
 #include "workspace/forms/DualBar.h"
 #include "workspace/forms/MultiPicturePanel.h"
@@ -20,39 +20,29 @@ namespace kinalyx {
 namespace {
 
 constexpr int kNotch = 120;  // eighths of a degree that one notch of a wheel turns
-constexpr int kStrip = MultiPicture::kStripHeight / kTwipsPerPixel;  // pixels of the stage's height
+constexpr int kStrip = kStripHeight / kTwipsPerPixel;  // pixels of the stage's height
+
+constexpr const char* kPictureKinds = "PNG picture (*.png)|*.png|JPEG picture (*.jpg *.jpeg)|*.jpg; *.jpeg";
 
 /// "swing strobe.png" beside the video.
-QString SuggestedName(const std::string& video, const QString& what) {
-  const QFileInfo file(QString::fromStdString(video));
-  return file.path() + "/" + file.completeBaseName() + " " + what + ".png";
+std::string SuggestedName(const std::string& video, const char* what) {
+  return FolderOf(video) + "/" + NameOfVideo(video) + " " + what + ".png";
 }
 
 }  // namespace
 
-CompareForms::CompareForms(IHost& host) : host_(host) {
-  askPicture = [this](const QString& suggestion) {
-    QString filter;
-    QString path = QFileDialog::getSaveFileName(stage_->window(), tr("Save Picture"), suggestion,
-                                                tr("PNG picture (*.png);;JPEG picture (*.jpg *.jpeg)"), &filter);
-    // A name without an ending takes that of the chosen kind.
-    if (!path.isEmpty() && QFileInfo(path).suffix().isEmpty()) path += filter.contains("*.jpg") ? ".jpg" : ".png";
-    return path;
-  };
-}
-
 CompareForms::~CompareForms() = default;
 
-void CompareForms::Build(CompareModes& modes, Workspace& workspace, QWidget* stage) {
+void CompareForms::Build(CompareModes& modes, Stage& theStage, QWidget* stage) {
   modes_ = &modes;
-  workspace_ = &workspace;
+  theStage_ = &theStage;
   stage_ = stage;
   foot_ = new QWidget(stage->parentWidget());
   auto* rows = new QVBoxLayout(foot_);
   rows->setContentsMargins(0, 0, 0, 0);
   rows->setSpacing(0);
-  TransFrame_ = new TransFrame(modes.Transparency(), workspace, foot_);
-  dual_ = new DualBar(modes, workspace, foot_);
+  TransFrame_ = new TransFrame(modes.Transparency(), theStage, foot_);
+  dual_ = new DualBar(modes, theStage, foot_);
   rows->addWidget(TransFrame_);
   rows->addWidget(dual_);
   foot_->hide();
@@ -60,24 +50,14 @@ void CompareForms::Build(CompareModes& modes, Workspace& workspace, QWidget* sta
   TransPanel_ = new SurfaceView("TransPanel", stage);
   TransPanel_->setMouseTracking(true);
   TransPanel_->installEventFilter(this);
-  strip_ = new MultiPicturePanel(
-      modes.Strip(),
-      [this] {
-        SavePicture(workspace_->CurrentWindow, tr("strip"),
-                    [this](const std::string& path) { return modes_->Strip().SavePicture(path); });
-      },
-      stage);
-  CarvePic_ = new CarveCanvas(modes.Carving(), workspace, stage);
+  strip_ = new MultiPicturePanel(modes.Strip(), stage);
+  connect(strip_, &MultiPicturePanel::SaveWanted, this, &CompareForms::SaveStrip);
+  CarvePic_ = new CarveCanvas(modes.Carving(), theStage, stage);
   picRot_ = new CarvePiece(modes.Carving(), stage);
   carve_ = new CarvePanel(modes.Carving(), stage);
   connect(carve_, &CarvePanel::OpacityChanged, picRot_, &CarvePiece::SetOpacity);
-  strobe_ = new StrobeForm(
-      modes.Strobe(),
-      [this] {
-        SavePicture(workspace_->CurrentWindow, tr("strobe"),
-                    [this](const std::string& path) { return modes_->Strobe().SavePicture(path); });
-      },
-      stage);
+  strobe_ = new StrobeForm(modes.Strobe(), stage);
+  connect(strobe_, &StrobeForm::SaveWanted, this, &CompareForms::SaveStrobe);
   connect(strobe_, &FloatCard::CloseWanted, this, [this] { modes_->ToggleStrobeForm(); });
   zoom_ = new ZoomForm(modes.Zoom(), stage);
   connect(zoom_, &FloatCard::CloseWanted, this, [this] { modes_->ToggleZoomForm(); });
@@ -85,11 +65,19 @@ void CompareForms::Build(CompareModes& modes, Workspace& workspace, QWidget* sta
   PlaceOnStage();
 }
 
-void CompareForms::SavePicture(int slot, const QString& what,
-                               const std::function<ImageResult(const std::string&)>& save) {
-  const QString path = askPicture(SuggestedName(workspace_->At(slot).path, what));
-  if (path.isEmpty()) return;
-  const ImageResult result = save(path.toStdString());
+std::optional<std::string> CompareForms::AskPictureName(const char* what) {
+  return host_.PickNewFile({"Save Picture", SuggestedName(theStage_->Current().path, what), kPictureKinds});
+}
+
+void CompareForms::SaveStrip() {
+  if (const auto path = AskPictureName("strip")) TellWhetherSaved(modes_->Strip().SavePicture(*path));
+}
+
+void CompareForms::SaveStrobe() {
+  if (const auto path = AskPictureName("strobe")) TellWhetherSaved(modes_->Strobe().SavePicture(*path));
+}
+
+void CompareForms::TellWhetherSaved(const ImageResult& result) {
   if (!result) host_.Message(MessageKind::Warning, "", "The picture could not be saved: " + result.message);
 }
 
@@ -129,13 +117,13 @@ bool CompareForms::Wheel(QWidget* over, QWheelEvent& event) {
     const int x = static_cast<int>(event.position().x()) * kTwipsPerPixel;
     const int y = static_cast<int>(event.position().y()) * kTwipsPerPixel;
     for (int each = 1; each <= kSlots && slot == 0; ++each) {
-      const TwipRect& cell = workspace_->At(each).cell;
-      if (workspace_->IsShown(each) && workspace_->HasVideo(each) && x >= cell.Left && x < cell.Left + cell.Width &&
+      const TwipRect& cell = theStage_->At(each).cell;
+      if (theStage_->IsShown(each) && theStage_->HasVideo(each) && x >= cell.Left && x < cell.Left + cell.Width &&
           y >= cell.Top && y < cell.Top + cell.Height)
         slot = each;
     }
     if (slot == 0) return false;
-    const POINTAPI corner = PlayerCornerOnStage(workspace_->At(slot));
+    const POINTAPI corner = PlayerCornerOnStage(theStage_->At(slot));
     at = {at.x - corner.x, at.y - corner.y};
   }
   wheel_ += event.angleDelta().y();
@@ -153,9 +141,9 @@ bool CompareForms::MouseOnMix(QEvent& event) {
   const auto& mouse = static_cast<QMouseEvent&>(event);
   const QPointF pointer = mouse.position() * stage_->devicePixelRatioF();
   const POINTAPI point{qRound(pointer.x()), qRound(pointer.y())};
-  const int slot = held_ != 0 && workspace_->HasVideo(held_) ? held_ : modes_->Transparency().WindowAt(point);
+  const int slot = held_ != 0 && theStage_->HasVideo(held_) ? held_ : modes_->Transparency().WindowAt(point);
   held_ = mouse.buttons() == Qt::NoButton ? 0 : slot;
-  IMouseAndKeyBoardEvents* sink = slot == 0 ? nullptr : workspace_->MP(slot).InputSink();
+  IMouseAndKeyBoardEvents* sink = slot == 0 ? nullptr : theStage_->MP(slot).InputSink();
   if (!sink) return true;
   const POINTAPI at = modes_->Transparency().InPicture(slot, point);
   const auto x = static_cast<float>(at.x);
@@ -184,41 +172,39 @@ void CompareForms::RaiseCards() {
 // ---------------------------------------------------------------- transparency
 
 void CompareForms::ShowTransparency(bool shown) {
-  if (!stage_) return;
   TransFrame_->setVisible(shown);
   TransPanel_->setVisible(shown);
   if (shown) {
     TransPanel_->raise();
     RaiseCards();
-    TransFrame_->SetCurrent(workspace_->CurrentWindow);
+    TransFrame_->SetCurrent(theStage_->CurrentWindow);
   }
   UpdateFoot();
 }
 
 void CompareForms::PresentMix(const Surface& picture) {
-  if (TransPanel_) TransPanel_->Show(picture);
+  TransPanel_->Show(picture);
 }
 
 void CompareForms::SetTransScroll(int value, bool enabled) {
-  if (TransFrame_) TransFrame_->SetTransScroll(value, enabled);
+  TransFrame_->SetTransScroll(value, enabled);
 }
 
 void CompareForms::SelectOptShow(ShowOption option) {
-  if (TransFrame_) TransFrame_->SelectOption(option);
+  TransFrame_->SelectOption(option);
 }
 
 void CompareForms::SetVideoScroll(int window, int lowest, int highest, int value) {
-  if (TransFrame_) TransFrame_->SetVideoScroll(window, lowest, highest, value);
+  TransFrame_->SetVideoScroll(window, lowest, highest, value);
 }
 
 void CompareForms::SetVideoButtons(int window, bool playing, bool looping, bool slow) {
-  if (TransFrame_) TransFrame_->SetVideoButtons(window, playing, looping, slow);
+  TransFrame_->SetVideoButtons(window, playing, looping, slow);
 }
 
 // ---------------------------------------------------------------- strip and carve
 
 void CompareForms::ShowMultiPicture(bool shown) {
-  if (!stage_) return;
   strip_->setVisible(shown);
   // The cards keep off it, so that its buttons stay in reach.
   stage_->setContentsMargins(0, shown ? kStrip : 0, 0, 0);
@@ -232,21 +218,19 @@ void CompareForms::ShowMultiPicture(bool shown) {
   RaiseCards();
 }
 
-int CompareForms::StripWidth() { return stage_ ? MultiPicturePanel::StripWidth(stage_->width()) : 0; }
+int CompareForms::StripWidth() { return MultiPicturePanel::StripWidth(stage_->width()); }
 
 void CompareForms::PresentStrip(const Surface& strip, int pictures) {
-  if (strip_) strip_->Show(strip, pictures);
+  strip_->Show(strip, pictures);
 }
 
 void CompareForms::ShowCarve(bool shown) {
-  if (!carve_) return;
   if (!shown) return carve_->hide();
   carve_->Begin();
   carve_->Open(FloatCard::Place::TopRight);
 }
 
 void CompareForms::ShowCarvePic(int slot, bool shown) {
-  if (!stage_) return;
   carve_->SetFloating(!shown);
   if (!shown) return CarvePic_->hide();
   CarvePic_->ShowOver(slot);
@@ -254,11 +238,10 @@ void CompareForms::ShowCarvePic(int slot, bool shown) {
 }
 
 void CompareForms::ShowMark(int left, int top, int width, int height) {
-  if (CarvePic_) CarvePic_->ShowMark(left, top, width, height);
+  CarvePic_->ShowMark(left, top, width, height);
 }
 
 void CompareForms::ShowPiece(const Surface& piece, POINTAPI corner) {
-  if (!picRot_) return;
   const bool wasHidden = picRot_->isHidden();
   picRot_->ShowAt(piece, corner);
   if (wasHidden) carve_->raise();
@@ -267,20 +250,16 @@ void CompareForms::ShowPiece(const Surface& piece, POINTAPI corner) {
 // ---------------------------------------------------------------- lock, zoom and strobe
 
 void CompareForms::ShowDual(const DualState& state) {
-  if (!stage_) return;
   dual_->ShowState(state);
-  TransFrame_->SetCurrent(workspace_->CurrentWindow);
+  TransFrame_->SetCurrent(theStage_->CurrentWindow);
   UpdateFoot();
-  if (LockShown) LockShown();
 }
 
 void CompareForms::ShowZoomForm(bool shown) {
-  if (!zoom_) return;
   shown ? zoom_->Open(FloatCard::Place::TopRight) : zoom_->hide();
 }
 
 void CompareForms::ShowStrobeForm(bool shown) {
-  if (!strobe_) return;
   if (!shown) return strobe_->hide();
   strobe_->Begin();
   strobe_->Open(FloatCard::Place::BottomRight);

@@ -1,10 +1,11 @@
 #pragma once
 
 #include <QObject>
-#include <functional>
+#include <optional>
+#include <string>
 
 #include "platform/host/Host.h"
-#include "workspace/CompareModes.h"
+#include "workspace/compare/CompareModes.h"
 
 class QWheelEvent;
 class QWidget;
@@ -22,36 +23,35 @@ class SurfaceView;
 class TransFrame;
 class ZoomForm;
 
-/// All windows of the comparing modes. Made before the workspace, as its view; Build then puts the windows
-/// on the stage. What the modes say before that is lost, for there is nothing to show yet.
+/// All windows of the comparing modes. Made before the theStage, as its view; Build then puts the windows
+/// on the stage, before the workspace starts to speak.
 class CompareForms : public QObject, public ICompareView {
   Q_OBJECT
 
  public:
-  explicit CompareForms(IHost& host);
+  explicit CompareForms(IHost& host) : host_(host) {}
   ~CompareForms() override;
 
   /// Makes everything. Windows that float are children of the stage and go with it; so nothing here may be
   /// called after the stage has gone.
-  void Build(CompareModes& modes, Workspace& workspace, QWidget* stage);
+  void Build(CompareModes& modes, Stage& theStage, QWidget* stage);
   /// The bars beneath the stage: whoever lays the stage out gives it its place, and it shows itself when
   /// there is something in it.
   QWidget* Foot() { return foot_; }
-  /// Whether a lock holds a slot was shown last; for the picture on the cells.
-  std::function<void()> LockShown;
 
   /// A drawing tool is in hand: it draws on the mix too, and beneath a floating piece.
   void SetDrawing(bool drawing);
-
-  /// Asks for the name of a picture to save, empty when the user cancels. Tests answer it.
-  std::function<QString(const QString& suggestion)> askPicture;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void PlaceOnStage();
-  void SavePicture(int slot, const QString& what, const std::function<ImageResult(const std::string&)>& save);
+  void SaveStrip();
+  void SaveStrobe();
+  /// Asks for a name beside the current video; nothing when the user cancels.
+  std::optional<std::string> AskPictureName(const char* what);
+  void TellWhetherSaved(const ImageResult& result);
   bool Wheel(QWidget* over, QWheelEvent& event);
   bool MouseOnMix(QEvent& event);
   void UpdateFoot();
@@ -81,7 +81,7 @@ class CompareForms : public QObject, public ICompareView {
 
   IHost& host_;
   CompareModes* modes_ = nullptr;
-  Workspace* workspace_ = nullptr;
+  Stage* theStage_ = nullptr;
   QWidget* stage_ = nullptr;
   QWidget* foot_ = nullptr;
   SurfaceView* TransPanel_ = nullptr;

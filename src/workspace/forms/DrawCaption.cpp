@@ -15,8 +15,7 @@
 
 namespace kinalyx {
 
-DrawCaption::DrawCaption(QWidget* parent) : QFrame(parent) {
-  setObjectName("DrawCaption");
+DrawCaption::DrawCaption(QWidget* parent) : StagePanel("DrawCaption", parent) {
   setProperty("look", "card");
   auto* row = new QHBoxLayout(this);
   row->setSpacing(8);
@@ -40,7 +39,7 @@ DrawCaption::DrawCaption(QWidget* parent) : QFrame(parent) {
     part->setAttribute(Qt::WA_TransparentForMouseEvents);
   off_->setCursor(Qt::ArrowCursor);
   hide();
-  Dress();
+  FirstDress();
 }
 
 QWidget* DrawCaption::Beneath(const QPoint& at) {
@@ -93,11 +92,6 @@ void DrawCaption::ShowParts(bool shown) {
   swatch_->setVisible(shown);
   off_->setVisible(shown);
   layout()->setContentsMargins(10, shown ? 4 : 6, shown ? 4 : 10, shown ? 4 : 6);
-}
-
-void DrawCaption::changeEvent(QEvent* event) {
-  QFrame::changeEvent(event);
-  if (event->type() == QEvent::StyleChange && off_) Dress();
 }
 
 void DrawCaption::Dress() {

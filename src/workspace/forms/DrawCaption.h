@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QFrame>
 #include <QPointer>
 
 #include "platform/paint/Geometry.h"
+#include "workspace/forms/StagePanel.h"
 
 class QLabel;
 class QToolButton;
@@ -13,7 +13,7 @@ namespace kinalyx {
 /// What the tool in hand says over the picture: its colour `VectorColorDisplay`, its caption or the measure
 /// of the shape, and beside the colour the button `DrawOffBtn` that puts it down. But for that button the
 /// mouse goes through it: what is to be drawn may lie just beneath.
-class DrawCaption : public QFrame {
+class DrawCaption : public StagePanel {
   Q_OBJECT
 
  public:
@@ -31,12 +31,11 @@ class DrawCaption : public QFrame {
   void Changed();
 
  protected:
-  void changeEvent(QEvent* event) override;
   bool event(QEvent* event) override;
 
  private:
   void ShowParts(bool shown);
-  void Dress();
+  void Dress() override;
   QWidget* Beneath(const QPoint& at);
 
   QFrame* swatch_;

@@ -16,8 +16,7 @@ constexpr int kHeight = 46;
 
 }  // namespace
 
-DualBar::DualBar(CompareModes& modes, Workspace& workspace, QWidget* parent) : QFrame(parent), modes_(modes) {
-  setObjectName("DualFrame");
+DualBar::DualBar(CompareModes& modes, Stage& theStage, QWidget* parent) : StagePanel("DualFrame", parent), modes_(modes) {
   setProperty("look", "bar");
   FixHeight(this, kHeight);
   auto* row = new QHBoxLayout(this);
@@ -76,11 +75,11 @@ DualBar::DualBar(CompareModes& modes, Workspace& workspace, QWidget* parent) : Q
   connect(speed_, &QComboBox::currentIndexChanged, this, [this, &locks] {
     if (!setting_) locks.setTogetherSpeed(speed_->currentData().toInt());
   });
-  connect(scroll_, &SeekBar::Sought, this, [this, &locks, &workspace](int position) {
-    locks.DualControlScroll(workspace.CurrentWindow, position);
+  connect(scroll_, &SeekBar::Sought, this, [this, &locks, &theStage](int position) {
+    locks.DualControlScroll(theStage.CurrentWindow, position);
   });
   hide();
-  Dress();
+  FirstDress();
 }
 
 void DualBar::ShowState(const DualState& state) {
@@ -102,11 +101,6 @@ void DualBar::ShowState(const DualState& state) {
   scroll_->SetBounds(state.lowest, state.highest, state.position);
   line_->setText(QString::fromStdString(state.line));
   setting_ = false;
-}
-
-void DualBar::changeEvent(QEvent* event) {
-  QFrame::changeEvent(event);
-  if (event->type() == QEvent::StyleChange && lock_) Dress();
 }
 
 void DualBar::Dress() {

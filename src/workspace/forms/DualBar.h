@@ -1,11 +1,10 @@
 #pragma once
 
-#include <QFrame>
-
 #include "platform/widgets/Figures.h"
-#include "workspace/CompareModes.h"
+#include "workspace/compare/CompareModes.h"
 #include "workspace/forms/SeekBar.h"
 #include "workspace/forms/StageParts.h"
+#include "workspace/forms/StagePanel.h"
 
 class QComboBox;
 class QPushButton;
@@ -14,19 +13,16 @@ namespace kinalyx {
 
 /// The controls of locked videos: lock, one frame back and on, rewind, play together at any speed, and the
 /// bar that moves all of them.
-class DualBar : public QFrame {
+class DualBar : public StagePanel {
   Q_OBJECT
 
  public:
-  DualBar(CompareModes& modes, Workspace& workspace, QWidget* parent);
+  DualBar(CompareModes& modes, Stage& theStage, QWidget* parent);
 
   void ShowState(const DualState& state);
 
- protected:
-  void changeEvent(QEvent* event) override;
-
  private:
-  void Dress();
+  void Dress() override;
 
   CompareModes& modes_;
   QToolButton* lock_ = nullptr;

@@ -5,7 +5,7 @@
 #include <QRect>
 #include <algorithm>
 
-#include "workspace/PlayerPlace.h"
+#include "workspace/stage/PlayerPlace.h"
 #include "workspace/forms/CloneForm.h"
 #include "workspace/forms/EditKnobs.h"
 #include "workspace/forms/EditStrip.h"
@@ -17,9 +17,9 @@ namespace kinalyx {
 
 EditForms::~EditForms() = default;
 
-void EditForms::Build(DrawingEdits& edits, Workspace& workspace, QWidget* stage) {
+void EditForms::Build(DrawingEdits& edits, Stage& theStage, QWidget* stage) {
   edits_ = &edits;
-  workspace_ = &workspace;
+  theStage_ = &theStage;
   stage_ = stage;
   knobs_ = new EditKnobs(stage);
   strip_ = new EditStrip(stage);
@@ -33,7 +33,6 @@ void EditForms::Build(DrawingEdits& edits, Workspace& workspace, QWidget* stage)
 }
 
 void EditForms::Update() {
-  if (!stage_) return;
   edits_->ShowSelection();
   macros_->Update();
   grid_->Update();
@@ -48,7 +47,7 @@ bool EditForms::eventFilter(QObject* watched, QEvent* event) {
 
 /// The part of the stage in which a window's picture shows.
 QRect EditForms::PictureRoom(int window) const {
-  const Slot& at = workspace_->At(window);
+  const Slot& at = theStage_->At(window);
   return {(at.cell.Left + at.panel.Left) / kTwipsPerPixel, (at.cell.Top + at.panel.Top) / kTwipsPerPixel,
           at.panel.Width / kTwipsPerPixel, at.panel.Height / kTwipsPerPixel};
 }
@@ -56,7 +55,6 @@ QRect EditForms::PictureRoom(int window) const {
 // ---------------------------------------------------------------- edit bar
 
 void EditForms::ShowEditBar(bool shown) {
-  if (!stage_) return;
   strip_->setVisible(shown);
   if (!shown) {
     knobs_->HideAll();
@@ -67,41 +65,39 @@ void EditForms::ShowEditBar(bool shown) {
 }
 
 void EditForms::PlaceEditBar(int window) {
-  if (stage_) strip_->PlaceOver(window, PictureRoom(window));
+  strip_->PlaceOver(window, PictureRoom(window));
 }
 
 void EditForms::EnableHandle(int handle, bool enabled) {
-  if (!stage_) return;
   strip_->EnableHandle(handle, enabled);
   knobs_->SetEnabled(handle, enabled);
 }
 
 void EditForms::SetMultiButton(bool enabled, bool down) {
-  if (stage_) strip_->SetMultiButton(enabled, down);
+  strip_->SetMultiButton(enabled, down);
 }
 
 /// The guide comes with the mouse on the strip's handle; a turn by the knob on the picture shows itself.
 void EditForms::ShowRotationGuide(bool shown) {
-  if (stage_ && !shown) knobs_->HideGuide();
+  if (!shown) knobs_->HideGuide();
 }
 
 int EditForms::HandleWidth(int handle) {
-  return stage_ ? qRound(strip_->HandleSize(handle).width() * stage_->devicePixelRatioF() * kTwipsPerPixel) : 0;
+  return qRound(strip_->HandleSize(handle).width() * stage_->devicePixelRatioF() * kTwipsPerPixel);
 }
 
 int EditForms::HandleHeight(int handle) {
-  return stage_ ? qRound(strip_->HandleSize(handle).height() * stage_->devicePixelRatioF() * kTwipsPerPixel) : 0;
+  return qRound(strip_->HandleSize(handle).height() * stage_->devicePixelRatioF() * kTwipsPerPixel);
 }
 
-bool EditForms::HandleEnabled(int handle) { return stage_ && strip_->HandleEnabled(handle); }
+bool EditForms::HandleEnabled(int handle) { return strip_->HandleEnabled(handle); }
 
 void EditForms::ShowSelection(int window, const std::optional<SelectionMarks>& marks, const std::string& words) {
-  if (!stage_) return;
   strip_->SetWords(QString::fromStdString(words));
   strip_->PlaceOver(window, PictureRoom(window));
-  if (!marks || !workspace_->IsShown(window)) return knobs_->HideAll();
+  if (!marks || !theStage_->IsShown(window)) return knobs_->HideAll();
   const qreal ratio = stage_->devicePixelRatioF();
-  const POINTAPI on = PlayerCornerOnStage(workspace_->At(window));
+  const POINTAPI on = PlayerCornerOnStage(theStage_->At(window));
   const QPointF corner = QPointF(on.x, on.y) / ratio;
   const auto onStage = [&](POINTAPI point) { return corner + QPointF(point.x, point.y) / ratio; };
   knobs_->ShowRound(QRectF(onStage(marks->corner), onStage(marks->opposite)), onStage(marks->pivot), PictureRoom(window), corner);
@@ -110,19 +106,16 @@ void EditForms::ShowSelection(int window, const std::optional<SelectionMarks>& m
 // ---------------------------------------------------------------- macros
 
 std::optional<std::string> EditForms::AskMacroName(const ShapeList& drawing) {
-  if (!stage_) return std::nullopt;
   MacroNameForm form(drawing, edits_->Look(), stage_->window());
   if (form.exec() != QDialog::Accepted) return std::nullopt;
   return form.Name().toStdString();
 }
 
 void EditForms::ShowMacroForm(bool shown) {
-  if (!stage_) return;
   shown ? macros_->CenterOnScreen() : macros_->hide();
 }
 
 void EditForms::FillMacroList(const std::vector<std::string>& names, int selected) {
-  if (!stage_) return;
   macros_->ClearMList();
   for (const std::string& name : names) macros_->AddMacro(QString::fromStdString(name));
   macros_->Choose(selected);
@@ -131,19 +124,17 @@ void EditForms::FillMacroList(const std::vector<std::string>& names, int selecte
 // ---------------------------------------------------------------- grid and clone
 
 void EditForms::ShowGridPanel(bool shown) {
-  if (!stage_) return;
   shown ? grid_->Begin() : grid_->hide();
 }
 
 std::optional<int> EditForms::AskCloneTarget(int source, const std::vector<int>& targets) {
-  if (!stage_) return std::nullopt;
   std::vector<CloneForm::Window> windows;
   for (int window = 1; window <= kSlots; ++window) {
-    if (!workspace_->IsShown(window)) continue;
-    const TwipRect& cell = workspace_->At(window).cell;
+    if (!theStage_->IsShown(window)) continue;
+    const TwipRect& cell = theStage_->At(window).cell;
     const bool open = window == source || std::ranges::find(targets, window) != targets.end();
     windows.push_back({window, {cell.Left, cell.Top, cell.Width, cell.Height},
-                       open ? QFileInfo(QString::fromStdString(workspace_->At(window).path)).completeBaseName() : QString(),
+                       open ? QFileInfo(QString::fromStdString(theStage_->At(window).path)).completeBaseName() : QString(),
                        window == source});
   }
   CloneForm form(windows, stage_->window());

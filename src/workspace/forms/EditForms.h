@@ -2,7 +2,7 @@
 
 #include <QObject>
 
-#include "workspace/DrawingEdits.h"
+#include "workspace/edits/DrawingEdits.h"
 
 class QRect;
 class QWidget;
@@ -14,8 +14,8 @@ class EditStrip;
 class GridPanel;
 class MacroForm;
 
-/// All windows of the editing of drawings. Made before the workspace, as its view; Build then puts the
-/// windows on the stage. What the editing says before that is lost, for there is nothing to show yet.
+/// All windows of the editing of drawings. Made before the theStage, as its view; Build then puts the
+/// windows on the stage, before the workspace starts to speak.
 class EditForms : public QObject, public IDrawingEditsView {
   Q_OBJECT
 
@@ -24,7 +24,7 @@ class EditForms : public QObject, public IDrawingEditsView {
 
   /// Makes everything. The windows are children of the stage and go with it; nothing here may be called
   /// after the stage has gone.
-  void Build(DrawingEdits& edits, Workspace& workspace, QWidget* stage);
+  void Build(DrawingEdits& edits, Stage& theStage, QWidget* stage);
   /// Commands or their state have changed: selection, macros and grid are shown anew.
   void Update();
 
@@ -52,7 +52,7 @@ class EditForms : public QObject, public IDrawingEditsView {
   std::optional<int> AskCloneTarget(int source, const std::vector<int>& targets) override;
 
   DrawingEdits* edits_ = nullptr;
-  Workspace* workspace_ = nullptr;
+  Stage* theStage_ = nullptr;
   QWidget* stage_ = nullptr;
   EditStrip* strip_ = nullptr;
   EditKnobs* knobs_ = nullptr;

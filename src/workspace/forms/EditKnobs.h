@@ -5,7 +5,7 @@
 #include <functional>
 #include <optional>
 
-#include "workspace/DrawingEdits.h"
+#include "workspace/edits/DrawingEdits.h"
 
 namespace kinalyx {
 

@@ -32,10 +32,8 @@ bool Dragged(int handle) { return handle >= kMoveHandle && handle <= kRotateHand
 
 }  // namespace
 
-EditStrip::EditStrip(QWidget* stage) : QFrame(stage) {
-  setObjectName("picEditBar");
+EditStrip::EditStrip(QWidget* stage) : StagePanel("picEditBar", stage) {
   setProperty("look", "card");
-  setCursor(Qt::ArrowCursor);
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(6, 4, 6, 4);
   row->setSpacing(2);
@@ -57,7 +55,7 @@ EditStrip::EditStrip(QWidget* stage) : QFrame(stage) {
   AddHandle(kEndHandle, "check", tr("Done (Esc)"));
   handles_[kEndHandle]->setProperty("main", true);
   hide();
-  Dress();
+  FirstDress();
 }
 
 void EditStrip::AddHandle(int handle, const char* icon, const QString& tip) {
@@ -148,30 +146,19 @@ void EditStrip::Arrange() {
   adjustSize();
   const QPoint wanted = moved_ ? picture_.topLeft() + *moved_
                                : QPoint(picture_.center().x() - width() / 2, picture_.bottom() - kFromEdge - height());
-  const QSize room = parentWidget()->size() - size();
-  move(std::clamp(wanted.x(), 0, std::max(0, room.width())), std::clamp(wanted.y(), 0, std::max(0, room.height())));
+  MoveInside(wanted);
 }
 
-void EditStrip::mousePressEvent(QMouseEvent* event) { grab_ = event->pos(); }
-
-void EditStrip::mouseMoveEvent(QMouseEvent* event) {
-  if (!(event->buttons() & Qt::LeftButton)) return;
-  moved_ = mapToParent(event->pos() - grab_) - picture_.topLeft();
+void EditStrip::MovedTo(QPoint corner) {
+  moved_ = corner - picture_.topLeft();
   Arrange();
-}
-
-void EditStrip::changeEvent(QEvent* event) {
-  QFrame::changeEvent(event);
-  if (event->type() == QEvent::StyleChange && words_) {
-    Dress();
-    if (!isHidden()) Arrange();
-  }
 }
 
 void EditStrip::Dress() {
   WearStageSheet(this, kStripSheet);
   DressStageButtons(this);
   words_->setMinimumWidth(QFontMetrics(UiFont(12)).horizontalAdvance("Parallelogram, 10 of 10"));
+  if (!isHidden()) Arrange();
 }
 
 }  // namespace kinalyx

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QFrame>
 #include <QToolButton>
 #include <array>
 #include <optional>
 
-#include "workspace/DrawingEdits.h"
+#include "workspace/edits/DrawingEdits.h"
+#include "workspace/forms/StagePanel.h"
 
 class QLabel;
 
@@ -13,7 +13,7 @@ namespace kinalyx {
 
 /// `picEditBar`: the strip of handles over the lower edge of the current window. Move, scale and turn are
 /// dragged, the others pressed. It is itself moved by its ground, and keeps that place in its window.
-class EditStrip : public QFrame {
+class EditStrip : public StagePanel {
   Q_OBJECT
 
  public:
@@ -39,15 +39,14 @@ class EditStrip : public QFrame {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
-  void mousePressEvent(QMouseEvent* event) override;
-  void mouseMoveEvent(QMouseEvent* event) override;
-  void changeEvent(QEvent* event) override;
+  bool Movable() const override { return true; }
+  void MovedTo(QPoint corner) override;
 
  private:
   void AddHandle(int handle, const char* icon, const QString& tip);
   bool DragHandle(int handle, QEvent& event);
   void Arrange();
-  void Dress();
+  void Dress() override;
 
   DrawingEdits* edits_ = nullptr;
   std::array<QToolButton*, kHandles> handles_{};
@@ -55,7 +54,6 @@ class EditStrip : public QFrame {
   QLabel* words_ = nullptr;
   int window_ = 0;
   QRect picture_;
-  QPoint grab_;
   std::optional<QPoint> moved_;  ///< from the picture's corner, once the user has chosen a place
 };
 

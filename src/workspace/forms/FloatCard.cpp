@@ -1,8 +1,6 @@
 #include "workspace/forms/FloatCard.h"
 
 #include <QBoxLayout>
-#include <QEvent>
-#include <QMouseEvent>
 #include <QToolButton>
 #include <algorithm>
 
@@ -20,10 +18,8 @@ constexpr int kBelowCaption = 52;  // of a tool, which stands at the top right
 
 }  // namespace
 
-FloatCard::FloatCard(const QString& name, const QString& title, QWidget* parent) : QFrame(parent) {
-  setObjectName(name);
+FloatCard::FloatCard(const QString& name, const QString& title, QWidget* parent) : StagePanel(name, parent) {
   setProperty("look", "card");
-  setCursor(Qt::ArrowCursor);
   auto* rows = new QVBoxLayout(this);
   rows->setContentsMargins(14, 8, 14, 14);
   rows->setSizeConstraint(QLayout::SetFixedSize);
@@ -47,10 +43,10 @@ FloatCard::FloatCard(const QString& name, const QString& title, QWidget* parent)
   body_->setSpacing(8);
   rows->addLayout(body_);
   hide();
-  Dress();
 }
 
 void FloatCard::Open(Place first) {
+  if (!Dressed()) FirstDress();
   ScaleForm(*this, *parentWidget());
   const QRect room = parentWidget()->contentsRect();
   const int right = room.right() - width() - kEdge;
@@ -73,28 +69,9 @@ void FloatCard::MakeRoom() {
   }
 }
 
-void FloatCard::KeepInside() {
-  const QRect room = parentWidget()->contentsRect();
-  const int right = std::max(room.left(), room.right() + 1 - width());
-  const int bottom = std::max(room.top(), room.bottom() + 1 - height());
-  move(std::clamp(x(), room.left(), right), std::clamp(y(), room.top(), bottom));
-}
-
-void FloatCard::mousePressEvent(QMouseEvent* event) {
-  grab_ = event->pos();
-  raise();
-}
-
-void FloatCard::mouseMoveEvent(QMouseEvent* event) {
-  if (!(event->buttons() & Qt::LeftButton)) return;
+void FloatCard::MovedTo(QPoint corner) {
   moved_ = true;
-  move(mapToParent(event->pos() - grab_));
-  KeepInside();
-}
-
-void FloatCard::changeEvent(QEvent* event) {
-  QFrame::changeEvent(event);
-  if (event->type() == QEvent::StyleChange && close_) Dress();
+  MoveInside(corner);
 }
 
 void FloatCard::Dress() {

@@ -55,7 +55,7 @@ GridPanel::GridPanel(DrawingEdits& edits, QWidget* stage)
   });
   connect(close, &QPushButton::clicked, this, [this] { edits_.CloseGridPanel(); });
   connect(this, &FloatCard::CloseWanted, this, [this] { edits_.CloseGridPanel(); });
-  Dress();
+  FirstDress();
 }
 
 void GridPanel::ShowSize(int divisions) { size_->setText(tr("%1 squares across the picture").arg(divisions)); }
@@ -76,11 +76,9 @@ void GridPanel::Update() {
   show_->setChecked(edits_.HasVideo() && edits_.GridOn());
 }
 
-void GridPanel::changeEvent(QEvent* event) {
-  FloatCard::changeEvent(event);
-  if (event->type() == QEvent::StyleChange && show_) Dress();
+void GridPanel::Dress() {
+  FloatCard::Dress();
+  WearStageSheet(content_, kCompareSheet);
 }
-
-void GridPanel::Dress() { WearStageSheet(content_, kCompareSheet); }
 
 }  // namespace kinalyx

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workspace/DrawingEdits.h"
+#include "workspace/edits/DrawingEdits.h"
 #include "workspace/forms/FloatCard.h"
 
 class QLabel;
@@ -21,12 +21,9 @@ class GridPanel : public FloatCard {
   /// The current window or its grid is another one.
   void Update();
 
- protected:
-  void changeEvent(QEvent* event) override;
-
  private:
   void ShowSize(int divisions);
-  void Dress();
+  void Dress() override;
 
   DrawingEdits& edits_;
   QWidget* content_ = nullptr;

@@ -85,7 +85,7 @@ MacroForm::MacroForm(DrawingEdits& edits, QWidget* stage)
   connect(cmdInfo_, &QPushButton::clicked, this, [this] { edits_.ShowMacroInfo(lstMacro_->currentRow()); });
   connect(remove_, &QPushButton::clicked, this, [this] { edits_.DeleteMacro(lstMacro_->currentRow()); });
   connect(this, &FloatCard::CloseWanted, this, [this] { edits_.ToggleMacroForm(); });
-  Dress();
+  FirstDress();
   lstMacro_Click();
 }
 
@@ -123,11 +123,9 @@ void MacroForm::Update() {
                                             : tr("Open a video first"));
 }
 
-void MacroForm::changeEvent(QEvent* event) {
-  FloatCard::changeEvent(event);
-  if (event->type() == QEvent::StyleChange && remove_) Dress();
+void MacroForm::Dress() {
+  FloatCard::Dress();
+  WearStageSheet(content_, kListSheet);
 }
-
-void MacroForm::Dress() { WearStageSheet(content_, kListSheet); }
 
 }  // namespace kinalyx

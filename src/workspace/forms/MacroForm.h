@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workspace/DrawingEdits.h"
+#include "workspace/edits/DrawingEdits.h"
 #include "workspace/forms/FloatCard.h"
 
 class QLabel;
@@ -30,12 +30,9 @@ class MacroForm : public FloatCard {
   /// A window with a video came or went.
   void Update();
 
- protected:
-  void changeEvent(QEvent* event) override;
-
  private:
   void lstMacro_Click();
-  void Dress();
+  void Dress() override;
 
   DrawingEdits& edits_;
   QWidget* content_ = nullptr;

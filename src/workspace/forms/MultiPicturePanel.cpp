@@ -71,10 +71,8 @@ class FilmStrip : public QWidget {
   int pictures_ = 0;
 };
 
-MultiPicturePanel::MultiPicturePanel(MultiPicture& strip, std::function<void()> save, QWidget* parent)
-    : QFrame(parent), strip_(strip) {
-  setObjectName("MultiPicturePanel");
-  setCursor(Qt::ArrowCursor);
+MultiPicturePanel::MultiPicturePanel(MultiPicture& strip, QWidget* parent)
+    : StagePanel("MultiPicturePanel", parent), strip_(strip) {
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(kMargin, 6, kMargin, 6);
   row->setSpacing(kMargin);
@@ -116,23 +114,18 @@ MultiPicturePanel::MultiPicturePanel(MultiPicture& strip, std::function<void()> 
   connect(add("MPicBtn0", tr("Carve new MultiPicture"), tr("Draw a square round what the pictures shall show")),
           &QPushButton::clicked, this, [this] { strip_.CarveNew(); });
   connect(add("SaveStripBtn", tr("Save Picture..."), tr("Keeps the strip as a PNG or JPEG picture")),
-          &QPushButton::clicked, this, [save = std::move(save)] { save(); });
+          &QPushButton::clicked, this, &MultiPicturePanel::SaveWanted);
   connect(add("MPicBtn1", tr("Close MultiPicture"), tr("Back to the windows (Esc)")), &QPushButton::clicked, this,
           [this] { strip_.LeaveStrip(); });
   column->addStretch(1);
   row->addWidget(controls);
   hide();
-  Dress();
+  FirstDress();
 }
 
 int MultiPicturePanel::StripWidth(int stageWidth) { return std::max(0, stageWidth - Px(kControls) - 3 * kMargin); }
 
 void MultiPicturePanel::Show(const Surface& strip, int pictures) { MFPanel_->Show(strip, pictures); }
-
-void MultiPicturePanel::changeEvent(QEvent* event) {
-  QFrame::changeEvent(event);
-  if (event->type() == QEvent::StyleChange && MFPanel_) Dress();
-}
 
 void MultiPicturePanel::Dress() {
   WearStageSheet(this, (QByteArray(kCompareSheet) + "#MultiPicturePanel { background: @ground; border: none; }").constData());

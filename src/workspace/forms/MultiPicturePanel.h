@@ -1,10 +1,8 @@
 #pragma once
 
-#include <QFrame>
-#include <functional>
-
 #include "platform/paint/PixelOps.h"
-#include "workspace/MultiPicture.h"
+#include "workspace/compare/MultiPicture.h"
+#include "workspace/forms/StagePanel.h"
 
 class QComboBox;
 
@@ -13,22 +11,22 @@ namespace kinalyx {
 class FilmStrip;
 
 /// The film strip `MFPanel` over the current video and, beside it, its buttons.
-class MultiPicturePanel : public QFrame {
+class MultiPicturePanel : public StagePanel {
   Q_OBJECT
 
  public:
-  /// `save` asks for a name and saves.
-  MultiPicturePanel(MultiPicture& strip, std::function<void()> save, QWidget* parent);
+  MultiPicturePanel(MultiPicture& strip, QWidget* parent);
 
   /// Pixels that the pictures have side by side in a stage of this width.
   static int StripWidth(int stageWidth);
   void Show(const Surface& strip, int pictures);
 
- protected:
-  void changeEvent(QEvent* event) override;
+ signals:
+  /// What it shows is to be saved as a picture.
+  void SaveWanted();
 
  private:
-  void Dress();
+  void Dress() override;
 
   MultiPicture& strip_;
   FilmStrip* MFPanel_ = nullptr;

@@ -26,8 +26,7 @@ QString BoxText(const std::string& notes) {
 
 std::string FileText(const QString& text) { return QString(text).replace("\n", "\r\n").toStdString(); }
 
-NotesPanel::NotesPanel(VideoNotes& notes, QWidget* parent) : QFrame(parent), notes_(notes) {
-  setObjectName("NotesPnl");
+NotesPanel::NotesPanel(VideoNotes& notes, QWidget* parent) : StagePanel("NotesPnl", parent), notes_(notes) {
   setProperty("look", "card");
   auto* rows = new QVBoxLayout(this);
   rows->setContentsMargins(10, 6, 10, 10);
@@ -61,7 +60,7 @@ NotesPanel::NotesPanel(VideoNotes& notes, QWidget* parent) : QFrame(parent), not
   rows->addWidget(full_);
   setFocusProxy(box_);
   hide();
-  Dress();
+  FirstDress();
 }
 
 void NotesPanel::SetText(const std::string& text) {
@@ -102,11 +101,6 @@ int NotesPanel::TakeBack(std::size_t characters) {
   cursor.removeSelectedText();
   cursor.endEditBlock();
   return end - begin;
-}
-
-void NotesPanel::changeEvent(QEvent* event) {
-  QFrame::changeEvent(event);
-  if (event->type() == QEvent::StyleChange && close_) Dress();
 }
 
 void NotesPanel::Dress() {

@@ -1,8 +1,7 @@
 #pragma once
 
-#include <QFrame>
-
-#include "workspace/VideoNotes.h"
+#include "workspace/edits/VideoNotes.h"
+#include "workspace/forms/StagePanel.h"
 
 class QLabel;
 class QPlainTextEdit;
@@ -11,7 +10,7 @@ class QToolButton;
 namespace kinalyx {
 
 /// `NotesPnl`: the notes of the current video over the lower part of its cell.
-class NotesPanel : public QFrame {
+class NotesPanel : public StagePanel {
   Q_OBJECT
 
  public:
@@ -20,13 +19,10 @@ class NotesPanel : public QFrame {
   /// Shows a text without telling it as a change; the same text leaves the cursor where it is.
   void SetText(const std::string& text);
 
- protected:
-  void changeEvent(QEvent* event) override;
-
  private:
   void TextChanged();
   int TakeBack(std::size_t characters);
-  void Dress();
+  void Dress() override;
 
   VideoNotes& notes_;
   QPlainTextEdit* box_;

@@ -1,12 +1,12 @@
 #include "workspace/forms/Notesform.h"
 
 #include <QBoxLayout>
-#include <QFileDialog>
 #include <QPlainTextEdit>
 
 #include "platform/files/FileStore.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Scale.h"
+#include "platform/widgets/Text.h"
 #include "platform/widgets/Theme.h"
 #include "workspace/forms/NotesPanel.h"
 
@@ -91,8 +91,9 @@ void Notesform::Print() {
 }
 
 void Notesform::Save() {
-  QString path = QFileDialog::getSaveFileName(this, tr("Save Notes"), file_, tr("Text Files (*.txt)"));
-  if (path.isEmpty()) return;
+  const auto chosen = host_.PickNewFile({tr("Save Notes").toStdString(), file_.toStdString(), "Text Files (*.txt)|*.txt"});
+  if (!chosen) return;
+  QString path = Q(*chosen);
   if (!path.endsWith(".txt", Qt::CaseInsensitive)) path += ".txt";
   std::string error;
   if (WriteWholeFile(path.toStdString(), FileText(notes_->toPlainText()), &error)) {

@@ -34,8 +34,7 @@ QString LongestLine(const QString& line) {
 
 }  // namespace
 
-PlayBar::PlayBar(Transport& transport, QWidget* parent) : QFrame(parent), transport_(transport) {
-  setObjectName("Playbar");
+PlayBar::PlayBar(Transport& transport, QWidget* parent) : StagePanel("Playbar", parent), transport_(transport) {
   seek_ = new SeekBar(this);
   seek_->setObjectName("PlayBarHScroll");
   connect(seek_, &SeekBar::Sought, this, [this](int position) { transport_.Seek(position); });
@@ -85,7 +84,7 @@ PlayBar::PlayBar(Transport& transport, QWidget* parent) : QFrame(parent), transp
   connect(loop_, &QToolButton::clicked, this, [this] { transport_.ToggleLoop(); });
   for (QToolButton* step : {back_, next_}) step->installEventFilter(this);
 
-  Dress();
+  FirstDress();
   SetState(false, false);
 }
 
@@ -117,14 +116,7 @@ void PlayBar::Dress() {
   loop_->setIcon(icon("loop"));
   detach_->setIcon(icon("undock"));
   marksButton_->setIcon(Icon("mark", look.mark, look.mark, look.faintInk));
-}
-
-void PlayBar::changeEvent(QEvent* event) {
-  QFrame::changeEvent(event);
-  if (event->type() == QEvent::StyleChange && marksButton_) {
-    Dress();
-    Arrange();
-  }
+  Arrange();
 }
 
 void PlayBar::SetState(bool hasVideo, bool locked) {
@@ -324,20 +316,6 @@ void PlayBar::ToggleDock() {
     raise();
     if (marksButton_->isChecked()) markBox_->raise();
   }
-}
-
-void PlayBar::KeepInside() {
-  const QRect room = parentWidget()->contentsRect();
-  move(std::clamp(x(), room.left(), std::max(room.left(), room.right() + 1 - width())),
-       std::clamp(y(), room.top(), std::max(room.top(), room.bottom() + 1 - height())));
-}
-
-void PlayBar::mousePressEvent(QMouseEvent* event) { grab_ = event->pos(); }
-
-void PlayBar::mouseMoveEvent(QMouseEvent* event) {
-  if (docked_ || !(event->buttons() & Qt::LeftButton)) return;
-  move(mapToParent(event->pos() - grab_));
-  KeepInside();
 }
 
 bool PlayBar::eventFilter(QObject* watched, QEvent* event) {

@@ -1,20 +1,20 @@
 #pragma once
 
-#include <QFrame>
 #include <QToolButton>
 #include <vector>
 
-#include "workspace/Transport.h"
+#include "workspace/transport/Transport.h"
 #include "workspace/forms/MarkBox.h"
 #include "workspace/forms/PositionLine.h"
 #include "workspace/forms/SeekBar.h"
+#include "workspace/forms/StagePanel.h"
 
 namespace kinalyx {
 
 /// `Playbar`: seek bar, transport buttons, marks and the transport's line. Wide it is one row, narrow two, and
 /// in the smallest windows the words have a third. Marks that find no room in a row are on a card that a
 /// button opens. Undocked it floats over the stage and is dragged by its ground.
-class PlayBar : public QFrame {
+class PlayBar : public StagePanel {
   Q_OBJECT
 
  public:
@@ -32,8 +32,6 @@ class PlayBar : public QFrame {
   /// by the bar of the lock.
   void SetState(bool hasVideo, bool locked);
   bool Docked() const { return docked_; }
-  /// Keeps a floating bar inside its parent.
-  void KeepInside();
 
  signals:
   /// The bar wants its docked place again.
@@ -44,9 +42,7 @@ class PlayBar : public QFrame {
   void moveEvent(QMoveEvent*) override;
   void showEvent(QShowEvent*) override;
   void hideEvent(QHideEvent*) override;
-  void mousePressEvent(QMouseEvent*) override;
-  void mouseMoveEvent(QMouseEvent*) override;
-  void changeEvent(QEvent* event) override;
+  bool Movable() const override { return !docked_; }
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
@@ -59,7 +55,7 @@ class PlayBar : public QFrame {
   void SizeButtons(int side, int playWidth);
   void ArrangeWide();
   void ArrangeNarrow();
-  void Dress();
+  void Dress() override;
   void ToggleDock();
 
   Transport& transport_;
@@ -82,7 +78,6 @@ class PlayBar : public QFrame {
   bool playing_ = false;
   bool hasVideo_ = true;
   bool locked_ = false;
-  QPoint grab_;
 };
 
 }  // namespace kinalyx

@@ -12,7 +12,7 @@
 
 namespace kinalyx {
 
-StrobeForm::StrobeForm(StrobeControl& strobe, std::function<void()> save, QWidget* parent)
+StrobeForm::StrobeForm(StrobeControl& strobe, QWidget* parent)
     : FloatCard("StrobeForm", tr("Advanced Strobe"), parent), strobe_(strobe) {
   content_ = new QWidget(this);
   auto* rows = new QVBoxLayout(content_);
@@ -57,13 +57,13 @@ StrobeForm::StrobeForm(StrobeControl& strobe, std::function<void()> save, QWidge
   save_ = new QPushButton(tr("Save Picture..."), content_);
   save_->setObjectName("SaveStrobeBtn");
   save_->setFocusPolicy(Qt::TabFocus);
-  connect(save_, &QPushButton::clicked, this, [save = std::move(save)] { save(); });
+  connect(save_, &QPushButton::clicked, this, &StrobeForm::SaveWanted);
   last->addWidget(save_);
   rows->addLayout(last);
   Body()->addWidget(content_);
   SetObstacle({});
   SetResult(false);
-  Dress();
+  FirstDress();
 }
 
 StrobeForm::~StrobeForm() {
@@ -100,11 +100,9 @@ void StrobeForm::SetResult(bool there) {
   save_->setToolTip(there ? tr("Keeps the strobe as a PNG or JPEG picture") : tr("Strobe a video first"));
 }
 
-void StrobeForm::changeEvent(QEvent* event) {
-  FloatCard::changeEvent(event);
-  if (event->type() == QEvent::StyleChange && content_) Dress();
+void StrobeForm::Dress() {
+  FloatCard::Dress();
+  WearStageSheet(content_, kCompareSheet);
 }
-
-void StrobeForm::Dress() { WearStageSheet(content_, kCompareSheet); }
 
 }  // namespace kinalyx

@@ -1,9 +1,8 @@
 #pragma once
 
 #include <array>
-#include <functional>
 
-#include "workspace/StrobeControl.h"
+#include "workspace/compare/StrobeControl.h"
 #include "workspace/forms/FloatCard.h"
 #include "workspace/forms/SeekBar.h"
 #include "workspace/forms/StageParts.h"
@@ -18,22 +17,22 @@ class StrobeForm : public FloatCard, private IStrobeView {
   Q_OBJECT
 
  public:
-  /// `save` asks for a name and saves.
-  StrobeForm(StrobeControl& strobe, std::function<void()> save, QWidget* parent);
+  StrobeForm(StrobeControl& strobe, QWidget* parent);
   ~StrobeForm() override;
 
   /// Hands itself to the strobe and shows its choices; whoever shows it gives it its place.
   void Begin();
 
- protected:
-  void changeEvent(QEvent* event) override;
+ signals:
+  /// What it shows is to be saved as a picture.
+  void SaveWanted();
 
  private:
   void SetCaption(StrobeButton button, const std::string& caption) override;
   void SetSlider(int lowest, int highest, int value) override;
   void SetObstacle(const std::string& why) override;
   void SetResult(bool there) override;
-  void Dress();
+  void Dress() override;
 
   StrobeControl& strobe_;
   QWidget* content_ = nullptr;

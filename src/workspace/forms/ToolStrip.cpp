@@ -10,7 +10,7 @@
 #include "platform/widgets/Scale.h"
 #include "platform/widgets/Text.h"
 #include "platform/widgets/Theme.h"
-#include "workspace/MenuBar.h"
+#include "workspace/commands/MenuBar.h"
 
 namespace kinalyx {
 namespace {
@@ -21,8 +21,7 @@ constexpr int kMargin = 10;
 
 const ToolStrip::Sizes ToolStrip::kSizes[3] = {{34, 2, 13}, {30, 2, 11}, {28, 1, 9}};
 
-ToolStrip::ToolStrip(const std::vector<Command>& commands, std::function<void(const std::string&)> run, QWidget* parent)
-    : QFrame(parent), run_(std::move(run)) {
+ToolStrip::ToolStrip(const std::vector<Command>& commands, QWidget* parent) : QFrame(parent) {
   setObjectName("VideoToolBar");
   setProperty("look", "strip");
   FixHeight(this, 46);
@@ -33,7 +32,7 @@ ToolStrip::ToolStrip(const std::vector<Command>& commands, std::function<void(co
     button->setProperty("placed", true);
     button->setFocusPolicy(Qt::NoFocus);
     button->setCheckable(static_cast<bool>(command.checked));
-    connect(button, &QPushButton::clicked, this, [this, name] { run_(name); });
+    connect(button, &QPushButton::clicked, this, [this, name] { emit Wanted(name); });
     tools_.push_back({&command, name, button});
   }
   std::ranges::stable_sort(tools_, {}, [](const Tool& tool) { return tool.command->group; });
@@ -138,7 +137,7 @@ void ToolStrip::ShowMore() {
     connect(action, &QAction::triggered, &menu, [&chosen, &tool] { chosen = tool.name; });
   }
   menu.exec(more_->mapToGlobal(QPoint(0, more_->height() + 4)));
-  if (!chosen.empty()) run_(chosen);
+  if (!chosen.empty()) emit Wanted(chosen);
 }
 
 }  // namespace kinalyx

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QFrame>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -19,10 +18,14 @@ class ToolStrip : public QFrame {
   Q_OBJECT
 
  public:
-  ToolStrip(const std::vector<Command>& commands, std::function<void(const std::string&)> run, QWidget* parent = nullptr);
+  explicit ToolStrip(const std::vector<Command>& commands, QWidget* parent = nullptr);
 
   /// Enables, checks and explains the buttons anew.
   void Update();
+
+ signals:
+  /// A command is wanted, by the name of its button.
+  void Wanted(const std::string& command);
 
  protected:
   void resizeEvent(QResizeEvent*) override { Arrange(); }
@@ -49,7 +52,6 @@ class ToolStrip : public QFrame {
   int WidthFor(const Sizes& sizes) const;
   void ShowMore();
 
-  std::function<void(const std::string&)> run_;
   std::vector<Tool> tools_;
   std::vector<QFrame*> dividers_;  ///< before the first button of each group but the first
   Button* more_ = nullptr;

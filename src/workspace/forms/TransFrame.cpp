@@ -13,9 +13,8 @@
 
 namespace kinalyx {
 
-TransFrame::TransFrame(Overlay& overlay, Workspace& workspace, QWidget* parent)
-    : QFrame(parent), overlay_(overlay), workspace_(workspace) {
-  setObjectName("TransFrame");
+TransFrame::TransFrame(Overlay& overlay, Stage& theStage, QWidget* parent)
+    : StagePanel("TransFrame", parent), overlay_(overlay), theStage_(theStage) {
   setProperty("look", "bar");
   auto* rows = new QVBoxLayout(this);
   rows->setContentsMargins(10, 8, 10, 6);
@@ -68,7 +67,7 @@ TransFrame::TransFrame(Overlay& overlay, Workspace& workspace, QWidget* parent)
   MakeVideo(2, bottom);
   rows->addLayout(bottom);
   hide();
-  Dress();
+  FirstDress();
 }
 
 void TransFrame::MakeVideo(int window, QHBoxLayout* row) {
@@ -78,8 +77,8 @@ void TransFrame::MakeVideo(int window, QHBoxLayout* row) {
   video.select->setCheckable(true);
   FixWidth(video.select, 26);
   connect(video.select, &QToolButton::clicked, this, [this, window] {
-    workspace_.SelectWindow(window);
-    SetCurrent(workspace_.CurrentWindow);
+    theStage_.SelectWindow(window);
+    SetCurrent(theStage_.CurrentWindow);
   });
   row->addWidget(video.select);
   const char* icons[] = {"rewind", "step-back", "play", "step-forward", "loop", "slow"};
@@ -118,7 +117,7 @@ void TransFrame::SelectOption(ShowOption option) { options_[static_cast<std::siz
 
 void TransFrame::SetVideoScroll(int window, int lowest, int highest, int value) {
   Of(window).scroll->SetBounds(lowest, highest, value);
-  const bool has = workspace_.HasVideo(window);
+  const bool has = theStage_.HasVideo(window);
   Of(window).scroll->setEnabled(has);
   for (QToolButton* button : Of(window).buttons) button->setEnabled(has);
   Of(window).select->setEnabled(has);
@@ -133,11 +132,6 @@ void TransFrame::SetVideoButtons(int window, bool playing, bool looping, bool sl
 
 void TransFrame::SetCurrent(int window) {
   for (const int each : {1, 2}) Of(each).select->setChecked(each == window);
-}
-
-void TransFrame::changeEvent(QEvent* event) {
-  QFrame::changeEvent(event);
-  if (event->type() == QEvent::StyleChange && mix_) Dress();
 }
 
 void TransFrame::Dress() {

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QFrame>
 #include <array>
 
-#include "workspace/Overlay.h"
+#include "workspace/compare/Overlay.h"
 #include "workspace/forms/SeekBar.h"
 #include "workspace/forms/StageParts.h"
+#include "workspace/forms/StagePanel.h"
 
 class QHBoxLayout;
 class QPushButton;
@@ -15,11 +15,11 @@ namespace kinalyx {
 
 /// `TransFrame`: the controls of transparency mode. Presets and the slider of the mix above; below, for each
 /// of the two videos, its own buttons and bar.
-class TransFrame : public QFrame {
+class TransFrame : public StagePanel {
   Q_OBJECT
 
  public:
-  TransFrame(Overlay& overlay, Workspace& workspace, QWidget* parent);
+  TransFrame(Overlay& overlay, Stage& theStage, QWidget* parent);
 
   void SetTransScroll(int value, bool enabled);
   void SelectOption(ShowOption option);
@@ -27,9 +27,6 @@ class TransFrame : public QFrame {
   void SetVideoButtons(int window, bool playing, bool looping, bool slow);
   /// The window that zoom and pan act on.
   void SetCurrent(int window);
-
- protected:
-  void changeEvent(QEvent* event) override;
 
  private:
   /// The controls of one video.
@@ -40,11 +37,11 @@ class TransFrame : public QFrame {
   };
 
   void MakeVideo(int window, QHBoxLayout* row);
-  void Dress();
+  void Dress() override;
   Video& Of(int window) { return videos_[static_cast<std::size_t>(window - 1)]; }
 
   Overlay& overlay_;
-  Workspace& workspace_;
+  Stage& theStage_;
   std::array<QPushButton*, 4> options_{};
   QSlider* mix_ = nullptr;
   std::array<Video, 2> videos_;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workspace/VideoTimer.h"
+#include "workspace/transport/VideoTimer.h"
 #include "workspace/forms/FloatCard.h"
 
 class QLabel;

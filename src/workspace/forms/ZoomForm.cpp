@@ -56,7 +56,7 @@ ZoomForm::ZoomForm(ZoomPan& zoom, QWidget* parent) : FloatCard("ZoomForm", tr("Z
   connect(whole, &QToolButton::clicked, this, [this] { zoom_.Zoom(ZoomMove::Whole); });
   grid->addWidget(whole, 1, 4);
   Body()->addWidget(content_);
-  Dress();
+  FirstDress();
 }
 
 void ZoomForm::hideEvent(QHideEvent* event) {
@@ -64,12 +64,8 @@ void ZoomForm::hideEvent(QHideEvent* event) {
   FloatCard::hideEvent(event);
 }
 
-void ZoomForm::changeEvent(QEvent* event) {
-  FloatCard::changeEvent(event);
-  if (event->type() == QEvent::StyleChange && content_) Dress();
-}
-
 void ZoomForm::Dress() {
+  FloatCard::Dress();
   WearStageSheet(content_, kCompareSheet);
   DressStageButtons(content_);
 }

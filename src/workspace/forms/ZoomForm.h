@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workspace/ZoomPan.h"
+#include "workspace/compare/ZoomPan.h"
 #include "workspace/forms/FloatCard.h"
 
 namespace kinalyx {
@@ -14,11 +14,10 @@ class ZoomForm : public FloatCard {
   ZoomForm(ZoomPan& zoom, QWidget* parent);
 
  protected:
-  void changeEvent(QEvent* event) override;
   void hideEvent(QHideEvent* event) override;
 
  private:
-  void Dress();
+  void Dress() override;
 
   ZoomPan& zoom_;
   QWidget* content_ = nullptr;

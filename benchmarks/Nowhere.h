@@ -1,0 +1,14 @@
+#pragma once
+
+#include "workspace/commands/INavigation.h"
+
+namespace kinalyx::bench {
+
+/// Other pages for an analysis section that stands alone.
+struct Nowhere final : INavigation {
+  void GoToLibrary() override {}
+  void GoToMainMenu() override {}
+  void ExitAnalysis() override {}
+};
+
+}  // namespace kinalyx::bench

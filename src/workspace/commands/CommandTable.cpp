@@ -1,0 +1,360 @@
+// The command table: what the menus and the tool strip hold, in their order.
+
+#include <algorithm>
+#include <iterator>
+#include <string_view>
+
+#include "video/KeyCodes.h"
+#include "workspace/commands/MenuBar.h"
+
+namespace kinalyx {
+namespace {
+
+constexpr const char* kGoTo = "&Go To";
+constexpr const char* kVideo = "&Video";
+constexpr const char* kDraw = "&Draw";
+constexpr const char* kWindows = "&Windows";
+constexpr const char* kTools = "&Tools";
+constexpr const char* kAdvanced = "Advanced";
+constexpr const char* kSetup = "Setup";
+constexpr const char* kBrisko = "Brisko";
+
+// Groups of the tool strip, from left to right.
+enum Group { kNoButton, kOpening, kScreens, kDrawing, kErasing, kPicture, kMeasuring, kSharing };
+
+struct ToolEntry {
+  const char* caption;
+  const char* tip;
+  const char* icon;
+};
+
+/// Drawing tools in the order of their keys F1 to F11, which is the order of the shape kinds.
+constexpr ToolEntry kDrawTools[] = {
+    {"F1 - FreeHand", "Freehand", "freehand"},
+    {"F2 - Plus Sign", "Plus Sign", "plus"},
+    {"F3 - Square", "Square", "square"},
+    {"F4 - Line", "Line", "line"},
+    {"F5 - Circle", "Circle", "circle"},
+    {"F6 - Angle", "Angle", "angle"},
+    {"F7 - Motion Path", "Path Trace", "path"},
+    {"F8 - Parallelogram", "Parallelogram", "parallelogram"},
+    {"F9 - Shade Zone", "Zone Tool", "zone"},
+    {"F10 - Clock Grid", "Clock Grid", "clock"},
+    {"F11 - Arrow", "Arrow", "arrow"},
+};
+
+struct ScreenButton {
+  int mode;
+  const char* tip;
+};
+
+/// Every layout has its button; the four of old carry their old names.
+constexpr ScreenButton kScreenButtons[] = {
+    {1, "Single Screen"},  {2, "Double Screen"},     {7, "Double Screen, one over the other"},
+    {5, "Triple Screen, side by side"}, {3, "Triple Screen"}, {4, "Quad Screen"},
+    {6, "Six Windows"},    {8, "Eight Windows"},
+};
+
+/// What stands in the menus or under a key as well, and is wanted least often on the strip.
+constexpr std::string_view kSpareButtons[] = {"Closeallbtn", "Scn3",           "Scn5", "Scn6", "Scn7",
+                                              "RedoBtn",     "CmdAfunctions1", "smbar", "ribShowGrid", "CmdAfunctions7"};
+
+struct KeyRow {
+  const char* item;
+  KeyStroke key;
+};
+
+constexpr KeyStroke Key(int code, std::optional<int> shift = {}) { return {KeyStroke::Kind::Code, code, shift}; }
+constexpr KeyStroke Letter(char capital) { return {KeyStroke::Kind::Letter, capital, {}}; }
+
+/// What each key does, by the name of its command. F1 to F12 and 1 to 8 are the drawing tools and the layouts,
+/// in the order of the menus.
+constexpr KeyRow kKeyRows[] = {
+    {"VLib", Key(kKeyHome)},
+    {"EKTMM", Key(kKeyEnd)},
+    {"CG", Key(kKeyPageUp)},
+    {"PDkeyA", Key(kKeyPageDown)},
+    {"vo", Letter('O')},
+    {"vr", Letter('R')},
+    {"vF", Key(kKeyUp)},
+    {"vplay", Letter('P')},
+    {"VL", Key(kKeyDown)},
+    {"vp", Key(kKeyLeft)},
+    {"vn", Key(kKeyRight)},
+    {"vloop", Letter('L')},
+    {"vs", Letter('S')},
+    {"vFlip", Letter('F')},
+    {"MZoom", Letter('Z')},
+    {"MnuClose", Letter('C')},
+    {"Escape", Key(kKeyEscape)},
+    {"ReopenVideos", Key('T', kShift | kCtrl)},
+    {"Lastcadoff", Key(kKeyDelete)},
+    {"TMark", Letter('M')},
+    {"TTES", Key(kKeyCtrl)},
+    {"PanUp", Key(kKeyNumpad0 + 8)},
+    {"PanUp", Letter('Y')},
+    {"PanDown", Key(kKeyNumpad0 + 2)},
+    {"PanDown", Letter('B')},
+    {"PanLeft", Key(kKeyNumpad0 + 4)},
+    {"PanLeft", Letter('G')},
+    {"PanRight", Key(kKeyNumpad0 + 6)},
+    {"PanRight", Letter('H')},
+    {"WholePicture", Key(kKeyNumpad0 + 5)},
+    {"WholePicture", Letter('J')},
+    {"ZoomIn", Letter('+')},
+    {"ZoomIn", Letter('=')},
+    {"ZoomOut", Letter('-')},
+    {"ZoomNone", Letter('*')},
+    {"Window1", Key(kKeyNumpad0 + 7)},
+    {"Window2", Key(kKeyNumpad0 + 9)},
+    {"Window3", Key(kKeyNumpad0 + 3)},
+    {"Window4", Key(kKeyNumpad0 + 1)},
+};
+
+using Obstacle = std::function<std::string()>;
+
+/// The obstacle of a command that needs `met` to hold.
+Obstacle Needs(std::function<bool()> met, const char* why) {
+  return [met = std::move(met), why] { return std::string(met() ? "" : why); };
+}
+
+}  // namespace
+
+std::function<std::string()> MenuBar::NeedsVideo(std::function<std::string()> further) const {
+  return [this, further = std::move(further)] {
+    return !HasVideo() ? "Open a video first" : further ? further() : std::string();
+  };
+}
+
+void MenuBar::Add(Command command) {
+  const std::string& name = command.button.empty() ? command.item : command.button;
+  command.spare = std::ranges::find(kSpareButtons, name) != std::end(kSpareButtons);
+  commands_.push_back(std::move(command));
+}
+
+void MenuBar::AddComing(const char* item, const char* menu, const char* caption, const char* button, const char* icon,
+                        const char* tip, int group) {
+  Add({item, menu, caption, button, icon, tip, group, nullptr});
+}
+
+void MenuBar::AddSeparator(const char* menu) { Add({"", menu, "", "", "", "", kNoButton, nullptr}); }
+
+void MenuBar::AddGoTo() {
+  const auto to = [this](const char* item, const char* caption, const char* icon, std::function<void()> page) {
+    Add({item, kGoTo, caption, "", icon, "", kNoButton, std::move(page)});
+  };
+  to("VLib", "Student Profiles - Home key", "students", [this] { navigation_.GoToLibrary(); });
+  to("CG", "Capture Video - Page Up key", "camera", nullptr);
+  to("PDkeyA", "Analyze Video - Page Down key", "analyze", [this] { stage_.FocusKeyBox(); });
+  to("EKTMM", "Main Menu - End key", "home", [this] { navigation_.GoToMainMenu(); });
+}
+
+void MenuBar::AddVideo() {
+  const auto hasVideo = NeedsVideo();
+  const auto anyVideo = Needs([this] { return stage_.AnyVideo(); }, "Open a video first");
+  const auto plain = [&](const char* item, const char* caption, const char* icon, std::function<void()> run) {
+    Add({item, kVideo, caption, "", icon, "", kNoButton, std::move(run), hasVideo});
+  };
+  Add({"vo", kVideo, "O - Open New Video", "Openbtn", "open", "Open Videos", kOpening, [this] { view_.ShowOpenPanel(); }});
+  plain("vr", "R - Rewind Video", "rewind", [this] { transport_.Rewind(); });
+  plain("vplay", "P - Play / Pause Toggle", "play", [this] { transport_.TogglePlay(); });
+  Add({"vloop", kVideo, "L - Loop Video", "", "loop", "", kNoButton, [this] { transport_.ToggleLoop(); }, hasVideo,
+       [this] { return HasVideo() && stage_.Current().MP->Repeat(); }});
+  Add({"vs", kVideo, "S - Speed Toggle", "", "slow", "", kNoButton, [this] { transport_.ToggleSlomo(); }, hasVideo,
+       [this] { return HasVideo() && stage_.Current().MP->Speed() != 100; }});
+  Add({"vFlip", kVideo, "F - Flip Video", "CmdAfunctions0", "flip", "Flip Video", kPicture,
+       [this] { videos_.ToggleFlip(); }, hasVideo,
+       [this] { return HasVideo() && stage_.Current().MP->FlipHorizontal(); }});
+  Add({"MZoom", kVideo, "Z - Zoom Videos", "", "zoom", "", kNoButton, [this] { compare_.ToggleZoomForm(); },
+       {}, [this] { return compare_.ZoomShown(); }});
+  Add({"MnuClose", kVideo, "C - Close Current Video", "Closebtn", "close", "Close Current Video", kOpening,
+       [this] {
+         if (videos_.CloseVideo(stage_.CurrentWindow)) transport_.DisplayData("");
+       },
+       hasVideo});
+  Add({"MnuCloseAll", kVideo, "Esc - Close All Videos", "Closeallbtn", "close-all", "Close All Videos", kOpening,
+       [this] { videos_.CloseAll(); }, anyVideo});
+  Add({"ReopenVideos", kVideo, "Ctrl+Shift+T - Reopen Closed Videos", "", "", "", kNoButton, [this] { videos_.ReopenClosed(); },
+       Needs([this] { return videos_.CanReopen(); }, "Only when all videos have just been closed")});
+  AddSeparator(kVideo);
+  plain("vF", "Up Arrow - Rewind", "", [this] { transport_.Rewind(); });
+  plain("VL", "Down Arrow - Play", "", [this] { transport_.TogglePlay(); });
+  plain("vp", "Left Arrow - Back 1 Frame", "step-back", [this] { transport_.StepBack(); });
+  plain("vn", "Right Arrow - Next Frame", "step-forward", [this] { transport_.StepForward(); });
+}
+
+void MenuBar::AddDraw() {
+  const auto hasVideo = NeedsVideo();
+  const auto hasShapes = Needs([this] { return HasVideo() && tools_.HasShapes(stage_.CurrentWindow); },
+                               "Nothing is drawn in the current window");
+  const auto inHand = [this](int kind, bool straight) {
+    return tools_.Drawing() && tools_.DrawKind() == kind && tools_.Engine().StraightMode == straight;
+  };
+  for (int kind = 0; kind < static_cast<int>(std::size(kDrawTools)); ++kind) {
+    const ToolEntry& tool = kDrawTools[kind];
+    Add({"MenuDraw" + std::to_string(kind), kDraw, tool.caption, "CmdMakeShape" + std::to_string(kind), tool.icon,
+         tool.tip, kDrawing, [this, kind] { tools_.ChooseFromMenu(kind); }, hasVideo,
+         [inHand, kind] { return inHand(kind, false); }});
+  }
+  Add({"MenuDraw11", kDraw, "F12 - Grid", "ribShowGrid", "grid", "Grid", kDrawing,
+       [this] { edits_.ToggleGrid(); }, hasVideo, [this] { return HasVideo() && edits_.GridOn(); }});
+  AddSeparator(kDraw);
+  Add({"DDSL", kDraw, "Draw Straight Line", "DDSLBtn", "straight-line", "Draw Straight Line", kDrawing,
+       [this] { tools_.TakeStraightLine(); }, hasVideo, [inHand] { return inHand(kLine, true); }});
+  Add({"DDSA", kDraw, "Draw Straight Arrow", "DDSABtn", "straight-arrow", "Draw Straight Arrow", kDrawing,
+       [this] { tools_.TakeStraightArrow(); }, hasVideo, [inHand] { return inHand(kArrow, true); }});
+  AddSeparator(kDraw);
+  Add({"UndoDrawing", kDraw, "Ctrl+Z - Undo", "UndoBtn", "undo", "Undo (Ctrl+Z)", kErasing, [this] { edits_.Undo(); },
+       Needs([this] { return HasVideo() && edits_.CanUndo(); }, "No change of the drawings in the current window to undo")});
+  Add({"RedoDrawing", kDraw, "Ctrl+Shift+Z - Redo", "RedoBtn", "redo", "Redo (Ctrl+Shift+Z)", kErasing,
+       [this] { edits_.Redo(); },
+       Needs([this] { return HasVideo() && edits_.CanRedo(); }, "No change of the drawings in the current window was undone")});
+  Add({"Lastcadoff", "", "", "", "delete-last", "Delete Last Object Drawn", kErasing,
+       [this] { tools_.DeleteLast(); }, hasShapes});
+  Add({"Cadoffbutton", "", "", "", "trash", "Delete All Drawings in Window", kErasing,
+       [this] { tools_.DeleteAll(); }, hasShapes});
+}
+
+void MenuBar::AddWindows() {
+  for (const ScreenMode& mode : ScreenModes()) {
+    const char* tip = "";
+    for (const ScreenButton& button : kScreenButtons)
+      if (button.mode == mode.Mode) tip = button.tip;
+    Add({std::string(mode.Item), kWindows, std::string(mode.Caption), "Scn" + std::to_string(mode.Mode),
+         std::string(mode.Icon), tip, kScreens, [this, number = mode.Mode] { stage_.SetScreen(number); },
+         {}, [this, code = mode.Code] { return stage_.ScreenLayout == code && !stage_.Home().Away(); }});
+  }
+}
+
+void MenuBar::AddTools() {
+  const auto hasVideo = NeedsVideo();
+  const auto rows = Needs([this] { return videos_.CanFillRows(); },
+                          "Needs a layout of four, six or eight windows and a video in the current one");
+  const auto stageFree = [this] { return compare_.StageTaken(); };
+  Add({"TF", kTools, "Fill All w/Current Video", "", "fill-all", "", kNoButton, [this] { videos_.FillAll(); },
+       Needs([this] { return videos_.CanFill(); }, "Needs a layout of several windows and a video in the current one")});
+  Add({"TFT", kTools, "Fill Top w/Current Video", "", "", "", kNoButton, [this] { videos_.FillTopRow(); }, rows});
+  Add({"TFB", kTools, "Fill Bottom w/Current Video", "", "", "", kNoButton, [this] { videos_.FillBottomRow(); }, rows});
+  AddSeparator(kTools);
+  Add({"PrintCall", kTools, "Print Video(s)", "CmdAfunctions7", "print", "Print Video(s)", kSharing,
+       [this] { view_.ShowNotesform(); }, hasVideo});
+  Add({"TLAV", kTools, "Loop All Videos", "", "loop", "", kNoButton, [this] { transport_.ToggleLoopAll(); },
+       Needs([this] { return stage_.AnyVideo(); }, "Open a video first"), [this] { return transport_.AllLooping(); }});
+  Add({"TVT", kTools, "Video Timer", "CmdAfunctions3", "timer", "Show Video Timer", kMeasuring,
+       [this] { timer_.ToggleTimer(); }, {}, [this] { return timer_.Shown(); }});
+  Add({"TZP", kTools, "Zoom/Pan", "", "zoom", "", kNoButton, [this] { compare_.ToggleZoomForm(); },
+       {}, [this] { return compare_.ZoomShown(); }});
+  Add({"TSFrames", kTools, "Strobe Frames", "StrobeBtn", "strobe", "Strobe Video", kPicture,
+       [this] { compare_.Strobe().ToggleStrobe(); },
+       [this] { return compare_.Strobe().StrobeRunning() ? "" : compare_.Strobe().Obstacle(); },
+       [this] { return compare_.Strobe().StrobeRunning(); }});
+  Add({"TMAX", kTools, "Maximize Current Video", "CmdAfunctions6", "maximize", "Maximize Current Video", kScreens,
+       [this] { stage_.ToggleMaximize(); }, NeedsVideo(stageFree), [this] { return stage_.Maximized(); }});
+  Add({"TTCarve", kTools, "Transparency Carve", "", "carve", "", kNoButton,
+       [this] { compare_.Carving().ToggleCarve(); }, [this] { return compare_.WhyNoCarve(); },
+       [this] { return compare_.Carving().Shown(); }});
+  AddSeparator(kTools);
+  Add({"TMark", kTools, "Mark Video Position", "", "mark", "", kNoButton, [this] { transport_.AddMark(); }, hasVideo});
+  Add({"TMarkoff", kTools, "Video Marks Off", "", "", "", kNoButton, [this] { transport_.ClearMarks(); },
+       Needs([this] { return !stage_.Current().marks.empty(); }, "The current video has no marks")});
+  Add({"TN", kTools, "Show Video &Notes", "Notesbutton", "notes", "Show Video Notes", kMeasuring,
+       [this] { notes_.ToggleNotes(); }, NeedsVideo(stageFree), [this] { return notes_.Shown(); }});
+}
+
+void MenuBar::AddAdvanced() {
+  const auto hasVideo = NeedsVideo();
+  // The handles lie on a picture in its window, of which the mix shows nothing.
+  const auto noMix = [this] { return compare_.Transparency().TransparencyOn() ? compare_.StageTaken() : ""; };
+  AddComing("CLive", kAdvanced, "Live Draw && Hot Zones");
+  AddComing("TRL", kAdvanced, "Record Lesson", "CmdAfunctions5", "microphone", "Record Lesson", kSharing);
+  Add({"STM", kAdvanced, "&Transparency Mode", "", "overlay", "Transparency Mode", kPicture,
+       [this] { compare_.Transparency().ToggleTransparency(); },
+       [this] { return compare_.WhyNoTransparency(); }, [this] { return compare_.Transparency().TransparencyOn(); }});
+  Add({"smbar", kAdvanced, "&Multi-Pic Mode", "", "multi-picture", "Multi-Picture Mode", kPicture,
+       [this] { compare_.Strip().ToggleStrip(); }, [this] { return compare_.WhyNoStrip(); },
+       [this] { return compare_.Strip().Shown(); }});
+  AddComing("TTES", kAdvanced, "Email- Take SnapShot");
+  AddComing("TES", kAdvanced, "Email- Send SnapShots");
+  Add({"MenuEdit", kAdvanced, "Edit Drawings", "CmdAfunctions2", "edit", "Open Edit Bar", kErasing,
+       [this] { edits_.ToggleEditBar(); }, NeedsVideo(noMix), [this] { return edits_.Editing(); }});
+  Add({"AddMacro", kAdvanced, "Insert Drawing Macro", "", "", "", kNoButton, [this] { edits_.ToggleMacroForm(); },
+       noMix, [this] { return edits_.MacroFormShown(); }});
+  Add({"DTMacro", kAdvanced, "Save Drawing Macro", "", "macro-save", "", kNoButton, [this] { edits_.SaveMacro(); },
+       hasVideo});
+  Add({"DTClone", kAdvanced, "Clone Drawings", "CmdAfunctions1", "clone", "Clone Drawings", kErasing,
+       [this] { edits_.CloneDrawings(); },
+       Needs([this] { return edits_.CanClone(); }, "Needs drawings in the current window and a video in another one")});
+  Add({"TASF", kAdvanced, "Advanced Strobe", "", "advanced-strobe", "", kNoButton, [this] { compare_.ToggleStrobeForm(); },
+       Needs([this] { return HasVideo() || compare_.StrobeShown(); }, "Open a video first"),
+       [this] { return compare_.StrobeShown(); }});
+  Add({"LockAll", kAdvanced, "Lock All Four Videos", "", "", "", kNoButton, [this] { compare_.Locks().LockAll(); },
+       Needs([this] { return compare_.Locks().CanLockAll(); },
+             "Needs videos in windows 1 to 4, in a layout of four windows or more"),
+       [this] { return compare_.Locks().AllLocked(); }});
+  Add({"cmdDualPlay", "", "", "", "lock", "Lock Videos Together", kPicture,
+       [this] { compare_.Locks().ToggleLock(); },
+       Needs([this] { return compare_.Locks().CanLock(); }, "Needs videos in windows 1 and 2, or 3 and 4, side by side"),
+       [this] { return compare_.Locks().IsLocked(stage_.CurrentWindow); }});
+}
+
+void MenuBar::AddSetup() {
+  const auto hasVideo = NeedsVideo();
+  const auto unlocked = Needs([this] { return !compare_.Locks().IsLocked(stage_.CurrentWindow); }, "Unlock the videos first");
+  AddComing("mnuDownloadVideos", kSetup, "Download Model Videos");
+  Add({"TCal", kSetup, "Calculate Distance for Lines", "CmdAfunctions4", "ruler", "Calibrate Ruler", kMeasuring,
+       [this] { ruler_.ToggleCalibration(); }, hasVideo, [this] { return ruler_.Shown(); }});
+  Add({"TAGrid", kSetup, "Adjust Grid Size", "", "", "", kNoButton, [this] { edits_.ToggleGridPanel(); },
+       {}, [this] { return edits_.GridPanelShown(); }});
+  Add({"VidTest", kSetup, "Test Video Display rate", "", "", "", kNoButton, [this] { rateTest_.StartRateTest(); },
+       NeedsVideo(unlocked), [this] { return rateTest_.Running(); }});
+  Add({"MenuReverseFields", kSetup, "Reverse Field Order", "", "", "", kNoButton,
+       [this] { videos_.ToggleReverseFields(); }, hasVideo,
+       [this] { return HasVideo() && stage_.Current().MP->ReverseFields(); }});
+  Add({"MenuSplitFields", kSetup, "Split Video Fields", "", "", "", kNoButton,
+       [this] { videos_.ToggleSplitFields(); }, hasVideo,
+       [this] { return HasVideo() && stage_.Current().MP->SplitFields(); }});
+}
+
+void MenuBar::AddBrisko() {
+  for (const auto& [item, caption] : std::initializer_list<std::pair<const char*, const char*>>{
+           {"BriskoPuttPrint", "Print Putting"},
+           {"BriskoDWedgePrint", "Print Distance Wedge"},
+           {"BriskoBunkerPrint", "Print Bunker Shot"},
+           {"BriskoChipPrint", "Print Chip Shot"},
+           {"BriskoSavePutt", "Save Putting Bmps"},
+           {"BriskoSaveDWege", "Save Distance Wedge Bmps"},
+           {"BriskoSaveBunker", "Save Bunker Shot Bmps"},
+           {"BriskoSaveChip", "Save Chip Shot Bmps"},
+           {"BriskoCreateModel", "Create Model"},
+           {"BriskoLeftySelect", "Lefty Print"}})
+    AddComing(item, kBrisko, caption);
+  Add({"MenuExit", "", "&Exit Analysis", "", "", "", kNoButton, [this] {
+         if (PreparetoExit()) navigation_.ExitAnalysis();
+       }});
+}
+
+/// What only keys do.
+void MenuBar::AddKeysAlone() {
+  const auto add = [this](std::string item, std::function<void()> run) {
+    Add({std::move(item), "", "", "", "", "", kNoButton, std::move(run)});
+  };
+  add("Escape", [this] { Escape(); });
+  add("PanUp", [this] { stage_.Pan(0, -kPanStep); });
+  add("PanDown", [this] { stage_.Pan(0, kPanStep); });
+  add("PanLeft", [this] { stage_.Pan(-kPanStep, 0); });
+  add("PanRight", [this] { stage_.Pan(kPanStep, 0); });
+  add("WholePicture", [this] { stage_.ResetZoom(); });
+  add("ZoomIn", [this] { stage_.SetZoom(stage_.Current().VideoZoom + kZoomStep); });
+  add("ZoomOut", [this] { stage_.SetZoom(stage_.Current().VideoZoom - kZoomStep); });
+  add("ZoomNone", [this] { stage_.SetZoom(1.0); });
+  for (int slot = 1; slot <= 4; ++slot) add("Window" + std::to_string(slot), [this, slot] { SelectByKeypad(slot); });
+}
+
+void MenuBar::AddKeys() {
+  const auto find = [this](const std::string& item) -> Command& { return *std::ranges::find(commands_, item, &Command::item); };
+  for (const KeyRow& row : kKeyRows) find(row.item).keys.push_back(row.key);
+  for (int tool = 0; tool < 12; ++tool) find("MenuDraw" + std::to_string(tool)).keys.push_back(Key(kKeyF1 + tool));
+  for (const ScreenMode& mode : ScreenModes()) find(std::string(mode.Item)).keys.push_back(Key(kKey0 + mode.Mode, 0));
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,18 @@
+#pragma once
+
+namespace kinalyx {
+
+/// What the commands ask of the window: the forms that they open, and that menus and buttons show them anew.
+class ICommandsView {
+ public:
+  virtual ~ICommandsView() = default;
+  virtual void ShowOpenPanel() = 0;
+  /// False when it was not open.
+  virtual bool CloseOpenPanel() = 0;
+  /// The notes that go with a printout.
+  virtual void ShowNotesform() = 0;
+  /// Enable rules, checks and pressed buttons may have changed.
+  virtual void CommandsChanged() = 0;
+};
+
+}  // namespace kinalyx

@@ -1,0 +1,165 @@
+#include "workspace/compare/CompareModes.h"
+
+#include <fmt/format.h>
+
+namespace kinalyx {
+namespace {
+
+constexpr const char* kOpenFirst = "Open a video first";
+constexpr const char* kLeaveCarve = "Leave the transparency carve first (Esc)";
+
+}  // namespace
+
+CompareModes::CompareModes(IHost& host, Settings& settings, PlayScheduler& scheduler, Stage& stage,
+                           ICompareView& view, ICompareEvents& events)
+    : stage_(stage),
+      view_(view),
+      locks_(host, scheduler, stage),
+      overlay_(host, settings, stage, locks_, view, events),
+      strip_(host, stage, view, events),
+      carve_(host, stage, view, events),
+      strobe_(settings, stage, locks_),
+      zoom_(host, stage) {}
+
+// ---------------------------------------------------------------- one mode at a time
+
+std::string CompareModes::StageTaken() const {
+  if (overlay_.TransparencyOn()) return "Leave transparency mode first (Esc)";
+  if (strip_.Shown()) return "Leave multi-picture mode first (Esc)";
+  return {};
+}
+
+std::string CompareModes::WhyNoTransparency() const {
+  if (overlay_.TransparencyOn()) return {};
+  if (carve_.Shown()) return kLeaveCarve;
+  if (strip_.Shown()) return StageTaken();
+  return overlay_.CanShow() ? "" : "Open videos in windows 1 and 2 first";
+}
+
+std::string CompareModes::WhyNoStrip() const {
+  if (strip_.Shown()) return {};
+  if (carve_.Shown()) return kLeaveCarve;
+  if (overlay_.TransparencyOn()) return StageTaken();
+  if (!strip_.CanShow()) return kOpenFirst;
+  // Its pictures are fetched by moving the video, which the others of a lock do not follow.
+  return locks_.IsLocked(stage_.CurrentWindow) ? "Unlock the videos first" : "";
+}
+
+std::string CompareModes::WhyNoCarve() const {
+  if (carve_.Shown()) return {};
+  if (const std::string taken = StageTaken(); !taken.empty()) return taken;
+  return carve_.CanShow() ? "" : kOpenFirst;
+}
+
+void CompareModes::StopWaiting() {
+  strip_.StopWaiting();
+  carve_.StopMarking();
+}
+
+// ---------------------------------------------------------------- windows
+
+void CompareModes::ToggleZoomForm() {
+  zoomShown_ = !zoomShown_;
+  view_.ShowZoomForm(zoomShown_);
+}
+
+void CompareModes::ToggleStrobeForm() {
+  strobeShown_ = !strobeShown_;
+  view_.ShowStrobeForm(strobeShown_);
+  if (!strobeShown_) strobe_.SetWindow(nullptr);
+}
+
+bool CompareModes::Escape() {
+  if (strobe_.StrobeRunning()) {
+    strobe_.ToggleStrobe();
+  } else if (carve_.Shown()) {
+    carve_.ToggleCarve();
+  } else if (overlay_.TransparencyOn()) {
+    overlay_.LeaveTransparency();
+  } else if (strip_.Shown()) {
+    strip_.ToggleStrip();
+  } else {
+    return false;
+  }
+  return true;
+}
+
+bool CompareModes::CloseCards() {
+  const bool shown = StrobeShown() || zoomShown_;
+  if (StrobeShown()) ToggleStrobeForm();
+  if (zoomShown_) ToggleZoomForm();
+  return shown;
+}
+
+void CompareModes::CloseAll() {
+  while (Escape()) {
+  }
+  locks_.StopTogether();
+  for (const int slot : {1, 3}) locks_.DualUnlock(slot);
+  CloseCards();
+}
+
+void CompareModes::MPManualSignal() {
+  overlay_.MPManualSignal();
+  carve_.MPManualSignal();
+}
+
+// ---------------------------------------------------------------- dual controls
+
+void CompareModes::ShowDual() {
+  const int slot = stage_.CurrentWindow;
+  DualState state;
+  state.locked = locks_.IsLocked(slot);
+  state.shown = state.locked || overlay_.TransparencyOn();
+  state.allLocked = locks_.AllLocked();
+  state.canLock = locks_.CanLock();
+  state.canLockAll = locks_.CanLockAll();
+  state.playing = locks_.PlayingTogether();
+  state.repeat = locks_.TogetherRepeat();
+  state.speed = locks_.TogetherSpeed();
+  if (state.locked) {
+    state.lowest = locks_.BarOf(slot).lowest;
+    state.highest = locks_.BarOf(slot).highest;
+    state.position = stage_.MP(slot).Position();
+    const int first = state.allLocked || slot <= 2 ? 1 : 3;
+    const int last = state.allLocked || slot > 2 ? 4 : 2;
+    for (int each = first; each <= last; ++each)
+      state.line += fmt::format("{}{}", each == first ? "" : " + ", stage_.MP(each).Position());
+  }
+  view_.ShowDual(state);
+}
+
+// ---------------------------------------------------------------- from the players and the stage
+
+void CompareModes::Signal(int slot) {
+  strip_.Signal(slot);
+  overlay_.Signal(slot);
+  carve_.Signal(slot);
+  strobe_.Signal(slot);
+  if (locks_.IsLocked(slot)) ShowDual();
+}
+
+void CompareModes::VideoClosing(int slot) {
+  strobe_.VideoClosing(slot);
+  carve_.VideoClosing(slot);
+  strip_.VideoClosing(slot);
+  locks_.VideoClosing(slot);
+}
+
+void CompareModes::StageChanged(unsigned changes) {
+  if (changes & kPicturesChanged) {
+    overlay_.PicturesChanged();
+    strip_.PicturesChanged();
+    carve_.PicturesChanged();
+  }
+  if (changes & (kVideoChanged | kLocksChanged)) overlay_.StateChanged();
+  if (changes & kVideoChanged) {
+    carve_.LayoutChanged();
+    strobe_.StateChanged();
+  }
+  if (changes & kLocksChanged) strobe_.LocksChanged();
+  if (changes & kFocusChanged) strobe_.FocusChanged();
+  if (changes != kCommandsChanged) ShowDual();
+}
+
+}  // namespace kinalyx

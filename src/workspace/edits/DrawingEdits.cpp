@@ -1,0 +1,305 @@
+#include "workspace/edits/DrawingEdits.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+
+#include "drawing/ShapeGeometry.h"
+#include "video/KeyCodes.h"
+
+namespace kinalyx {
+namespace {
+
+constexpr int kLeftButton = 1;
+constexpr float kTwipsToDouble = 400;  // a drag of the scale handle that doubles the selection
+constexpr int kTwoWindows = 2;         // the layout of two windows side by side
+
+/// A shape by the name of the tool that draws it, which is not always that of its kind.
+std::string_view ToolName(const Shape& shape) {
+  const ShapeInf& inf = InfOf(shape.Kind);
+  std::string_view name = inf.ToolCaption;
+  if (name.starts_with("a ")) name.remove_prefix(2);
+  return name.empty() ? inf.Name : name;
+}
+
+}  // namespace
+
+DrawingEdits::DrawingEdits(IHost& host, const Settings& settings, Stage& stage, DrawingTools& tools,
+                           IDrawingWorkspace& drawing, IDrawingEditsView& view)
+    : host_(host),
+      settings_(settings),
+      stage_(stage),
+      tools_(tools),
+      drawing_(drawing),
+      view_(view),
+      bar_(tools, drawing, view),
+      macros_(settings.AppPath, settings.DataPath) {}
+
+// ---------------------------------------------------------------- selection
+
+std::optional<SelectionMarks> DrawingEdits::Marks() {
+  const ShapeList& list = List();
+  const Shape* selected = SelectedShape(list);
+  if (!HasVideo() || !selected || !selected->Locked || tools_.Drawing()) return std::nullopt;
+  const ShapeEngine& engine = tools_.Engine();
+  const bool all = bar_.MultiEdit();
+  const ShapeBox box = engine.BoxOf(all ? ShapesOf(list) : std::span(selected, 1));
+  if (box.Empty()) return std::nullopt;
+  return SelectionMarks{box.least, box.most, all ? engine.MultiGetMid(list) : engine.GetMid(*selected)};
+}
+
+std::string DrawingEdits::SelectionWords() {
+  const ShapeList& list = List();
+  if (!HasVideo()) return "No video here";
+  if (list.NumShapes == 0) return "Nothing is drawn here";
+  if (bar_.MultiEdit()) return fmt::format("All {} drawings", list.NumShapes);
+  const Shape* selected = SelectedShape(list);
+  if (!selected) return "Click a drawing";
+  return fmt::format("{}, {} of {}", ToolName(*selected), list.CurShape + 1, list.NumShapes);
+}
+
+void DrawingEdits::ShowSelection() {
+  if (bar_.Shown()) view_.ShowSelection(stage_.CurrentWindow, Marks(), SelectionWords());
+}
+
+void DrawingEdits::FramePainted(int slot) {
+  if (slot == stage_.CurrentWindow) ShowSelection();
+}
+
+// ---------------------------------------------------------------- edit bar
+
+void DrawingEdits::EditAll(bool Value) { bar_.EditAll(Value); }
+
+void DrawingEdits::GrabHandle(int Index, float X, float Y) {
+  if (!bar_.Shown() || Dragging() || !SelectedShape(List())) return;
+  dragged_ = Index;
+  bar_.GrabHandle(Index, kLeftButton, 0, X, Y);
+}
+
+void DrawingEdits::DragHandle(float X, float Y) {
+  if (Dragging()) bar_.DragHandle(dragged_, kLeftButton, 0, X, Y);
+}
+
+void DrawingEdits::ReleaseHandle() {
+  if (!Dragging()) return;
+  const int handle = std::exchange(dragged_, -1);
+  bar_.ReleaseHandle(handle, kLeftButton, 0, 0, 0);
+}
+
+/// A point of the picture as the bar would see it within one of its handles: a turn goes about the
+/// handle's middle, whatever the selection turns about.
+std::pair<float, float> DrawingEdits::InHandle(int handle, POINTAPI at) {
+  if (handle != kRotateHandle) return {static_cast<float>(at.x * kTwipsPerPixel), static_cast<float>(at.y * kTwipsPerPixel)};
+  return {static_cast<float>(view_.HandleWidth(handle) / 2.0 + (at.x - gripPivot_.x) * kTwipsPerPixel),
+          static_cast<float>(view_.HandleHeight(handle) / 2.0 + (at.y - gripPivot_.y) * kTwipsPerPixel)};
+}
+
+void DrawingEdits::HandlePressed(int Index, POINTAPI at) {
+  const auto marks = Marks();
+  if (!marks) return;
+  grip_ = at;
+  gripPivot_ = marks->pivot;
+  const auto [x, y] = Index == kScaleHandle ? std::pair{0.0f, 0.0f} : InHandle(Index, at);
+  GrabHandle(Index, x, y);
+}
+
+void DrawingEdits::HandleDragged(POINTAPI at) {
+  if (!Dragging()) return;
+  if (dragged_ != kScaleHandle) {
+    const auto [x, y] = InHandle(dragged_, at);
+    DragHandle(x, y);
+    return;
+  }
+  // So far along the bar's drag that the selection grows as the handle gets away from the pivot.
+  const double whole = std::max(1.0f, Distance(gripPivot_, grip_));
+  DragHandle(0, static_cast<float>(kTwipsToDouble * (1 - Distance(gripPivot_, at) / whole)));
+}
+
+void DrawingEdits::Nudge(int dx, int dy) {
+  GrabHandle(kMoveHandle, 0, 0);
+  DragHandle(static_cast<float>(dx * kTwipsPerPixel), static_cast<float>(dy * kTwipsPerPixel));
+  ReleaseHandle();
+}
+
+// ---------------------------------------------------------------- undo
+
+void DrawingEdits::Undo() {
+  if (CanUndo()) tools_.Undo(stage_.CurrentWindow);
+}
+
+void DrawingEdits::Redo() {
+  if (CanRedo()) tools_.Redo(stage_.CurrentWindow);
+}
+
+// ---------------------------------------------------------------- macros
+
+void DrawingEdits::LoadMacros() {
+  const SystemInfo system = host_.System();
+  macros_.LoadMList({system.screenWidth * kTwipsPerPixel, system.screenHeight * kTwipsPerPixel});
+  TellOfMacroFiles();
+}
+
+void DrawingEdits::TellOfMacroFiles() {
+  if (const std::string notice = macros_.TakeNotice(); !notice.empty()) host_.Message(MessageKind::Warning, "Drawing macros", notice);
+}
+
+void DrawingEdits::SaveMacro() {
+  // What is under construction ends before it is copied.
+  tools_.PutToolDown();
+  const auto name = view_.AskMacroName(List());
+  if (!name || name->empty()) return;
+  LoadMacros();
+  std::string error;
+  if (!macros_.CreateMacro(*name, List(), &error))
+    host_.Message(MessageKind::Warning, "New macro", "The macro could not be saved. " + error);
+  TellOfMacroFiles();
+  if (macroFormShown_) view_.FillMacroList(macros_.MacroNames(), macros_.IndexOf(*name));
+}
+
+void DrawingEdits::ToggleMacroForm() {
+  macroFormShown_ = !macroFormShown_;
+  if (macroFormShown_) {
+    LoadMacros();
+    view_.FillMacroList(macros_.MacroNames(), macros_.NumMacros() > 0 ? 0 : -1);
+  }
+  view_.ShowMacroForm(macroFormShown_);
+}
+
+void DrawingEdits::InsertMacro(int Index) {
+  if (Index < 0 || Index >= macros_.NumMacros() || !HasVideo() || Dragging()) return;
+  EmbedMacro(macros_.Macro(Index), tools_, drawing_);
+  bar_.EditWhole();
+}
+
+void DrawingEdits::ShowMacroInfo(int Index) {
+  if (Index < 0 || Index >= macros_.NumMacros()) return;
+  const std::string info = macros_.Info(Index);
+  host_.Message(MessageKind::Information, macros_.MacroNames()[static_cast<std::size_t>(Index)],
+                info.empty() ? "This macro holds no drawings." : info);
+}
+
+void DrawingEdits::DeleteMacro(int Index) {
+  if (Index < 0 || Index >= macros_.NumMacros()) return;
+  const std::string name = macros_.MacroNames()[static_cast<std::size_t>(Index)];
+  if (!host_.Question("Remove macro", "Remove the macro \"" + name + "\"?")) return;
+  // Somebody else may have added or removed some meanwhile.
+  LoadMacros();
+  const auto& names = macros_.MacroNames();
+  if (Index >= macros_.NumMacros() || names[static_cast<std::size_t>(Index)] != name)
+    Index = static_cast<int>(std::ranges::find(names, name) - names.begin());
+  std::string error;
+  if (!macros_.KillMacro(Index, &error)) host_.Message(MessageKind::Warning, "Remove macro", "The macro could not be removed. " + error);
+  TellOfMacroFiles();
+  view_.FillMacroList(macros_.MacroNames(), std::min(Index, macros_.NumMacros() - 1));
+}
+
+// ---------------------------------------------------------------- grid and clone
+
+void DrawingEdits::ToggleGridPanel() {
+  gridPanelShown_ = !gridPanelShown_;
+  view_.ShowGridPanel(gridPanelShown_);
+}
+
+void DrawingEdits::CloseGridPanel() {
+  if (gridPanelShown_) ToggleGridPanel();
+}
+
+/// A window that stands alone is one of a layout, which comes back before anything is copied.
+int DrawingEdits::WindowsOfLayout() const {
+  return stage_.Alone() ? Val(stage_.Home().SavedLayout) : stage_.SlotsShown();
+}
+
+std::vector<int> DrawingEdits::CloneTargets() const {
+  std::vector<int> targets;
+  for (int slot = 1; slot <= std::max(kTwoWindows, WindowsOfLayout()); ++slot)
+    if (slot != stage_.CurrentWindow && stage_.HasVideo(slot)) targets.push_back(slot);
+  return targets;
+}
+
+bool DrawingEdits::CanClone() const {
+  return HasVideo() && tools_.HasShapes(stage_.CurrentWindow) && !CloneTargets().empty();
+}
+
+void DrawingEdits::CloneDrawings() {
+  if (!CanClone()) return;
+  // The copy is to be seen: a window that is hidden comes back first.
+  if (stage_.Alone()) stage_.ComeHome();
+  if (stage_.SlotsShown() < kTwoWindows) stage_.SetScreen(kTwoWindows);
+  const int source = stage_.CurrentWindow;
+  int target = source == 1 ? 2 : 1;
+  if (!tools_.CloneStart(stage_.SlotsShown())) {
+    const auto chosen = view_.AskCloneTarget(source, CloneTargets());
+    if (!chosen) return;
+    target = *chosen;
+    tools_.CopyShapes(source, target);
+    stage_.SelectWindow(target);
+  }
+  drawing_.DrawingsChanged(target);
+}
+
+// ---------------------------------------------------------------- keys
+
+bool DrawingEdits::PressKey(int KeyCode, int Shift) {
+  if (Shift & kCtrl) {
+    if (KeyCode == 'Z') Shift & kShift ? Redo() : Undo();
+    if (KeyCode == 'Y') Redo();
+    return KeyCode == 'Z' || KeyCode == 'Y';
+  }
+  if (!bar_.Shown() || tools_.Drawing()) return false;
+  const auto press = [this](int handle) {
+    if (!Dragging() && view_.HandleEnabled(handle)) bar_.UseHandle(handle);
+    return true;
+  };
+  if (KeyCode == kKeyTab) return press(kNextHandle);
+  if (KeyCode == kKeyDelete) return press(kDeleteHandle);
+  if (!(Shift & kShift)) return false;
+  switch (KeyCode) {
+    case kKeyLeft: Nudge(-1, 0); return true;
+    case kKeyRight: Nudge(1, 0); return true;
+    case kKeyUp: Nudge(0, -1); return true;
+    case kKeyDown: Nudge(0, 1); return true;
+    default: return false;
+  }
+}
+
+void DrawingEdits::PutAway() {
+  if (bar_.Shown()) EndEdit();
+  if (macroFormShown_) ToggleMacroForm();
+}
+
+void DrawingEdits::EndEdit() {
+  ReleaseHandle();
+  bar_.UseHandle(kEndHandle);
+}
+
+bool DrawingEdits::Escape() {
+  if (bar_.Shown()) {
+    EndEdit();
+  } else if (gridPanelShown_) {
+    ToggleGridPanel();
+  } else if (macroFormShown_) {
+    ToggleMacroForm();
+  } else {
+    return false;
+  }
+  return true;
+}
+
+// ---------------------------------------------------------------- from the workspace
+
+void DrawingEdits::FocusChanged() {
+  ReleaseHandle();
+  bar_.MoveEditBar();
+  ShowSelection();
+}
+
+void DrawingEdits::VideoClosing(int slot) {
+  if (slot == stage_.CurrentWindow) EndEdit();
+}
+
+void DrawingEdits::CloseAll() {
+  while (Escape()) {
+  }
+}
+
+}  // namespace kinalyx

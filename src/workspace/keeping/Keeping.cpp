@@ -1,0 +1,162 @@
+#include "workspace/keeping/Keeping.h"
+
+#include <fmt/format.h>
+
+#include <utility>
+
+#include "library/SidecarMerge.h"
+#include "platform/host/DriveWatch.h"
+
+namespace kinalyx {
+namespace {
+
+constexpr int kRest = 1000;    // milliseconds without a change before anything is written
+constexpr int kAgain = 10000;  // after the disk has refused
+
+}  // namespace
+
+Keeping::Keeping(IHost& host, const Settings& settings, Stage& stage, DrawingTools& tools)
+    : host_(host), settings_(settings), stage_(stage), drawings_(stage, tools) {}
+
+void Keeping::Read(int slot, const std::string& path, const VideoInfo& info) {
+  for (int other = 1; other <= kSlots; ++other)
+    if (stage_.At(other).path == path) SaveData(other);
+  const std::string sidecar = SidecarPath(path);
+  Kept& kept = At(slot);
+  kept = {};
+  kept.base = ReadVideoData(sidecar, info, settings_.NewColors);
+  kept.stamp = StampOf(sidecar);
+  stage_.At(slot).data = kept.base;
+  stage_.At(slot).data.Shapes = {};
+}
+
+void Keeping::VideoClosed(int slot) {
+  drawings_.VideoClosed(slot);
+  At(slot) = {};
+}
+
+// ---------------------------------------------------------------- changes
+
+void Keeping::DrawingsChanged() {
+  rest_ = HostTimer(host_, kRest, false, [this] { SaveAll(); });
+}
+
+void Keeping::FieldsChanged(int slot) {
+  At(slot).changed = true;
+  DrawingsChanged();
+}
+
+void Keeping::SetNotes(int slot, const std::string& notes) {
+  std::string& kept = stage_.At(slot).data.Notes;
+  if (!stage_.HasVideo(slot) || kept == notes) return;
+  kept = notes;
+  FieldsChanged(slot);
+}
+
+/// Nobody is disturbed at work: what cannot be written is told beside the video's name, and tried again
+/// and again. Closing the video asks.
+void Keeping::SaveAll() {
+  bool all = true;
+  for (int slot = 1; slot <= kSlots; ++slot) all = SaveAtRest(slot) && all;
+  if (!all) rest_ = HostTimer(host_, kAgain, false, [this] { SaveAll(); });
+}
+
+bool Keeping::SaveAtRest(int slot) {
+  if (!stage_.HasVideo(slot)) return true;
+  const auto answers = [&] { return host_.Drives().AnswersAtOnce(settings_.LibraryPath, stage_.At(slot).path); };
+  std::string notice;
+  const bool saved = !HasUnsaved(slot) || (answers() && SaveData(slot, &notice));
+  ShowRefused(slot, !saved);
+  if (saved && !notice.empty()) host_.Message(MessageKind::Warning, "", notice);  // something did not fit
+  return saved;
+}
+
+void Keeping::ShowRefused(int slot, bool refused) {
+  if (std::exchange(stage_.At(slot).refused, refused) != refused) stage_.ShowTitle(slot);
+}
+
+// ---------------------------------------------------------------- saving
+
+bool Keeping::SaveData(int slot, std::string* error) {
+  const Slot& at = stage_.At(slot);
+  Kept& kept = At(slot);
+  const bool changed = HasUnsaved(slot);
+  // With nothing of its own to say a slot leaves alone what another one wrote for the same video, and what
+  // could not be read.
+  if (!changed && (kept.savedElsewhere || at.data.Unread)) return true;
+  if (!host_.Drives().Answers(settings_.LibraryPath, at.path)) {
+    if (error) *error = "the drive is not answering";
+    return false;
+  }
+  if (StampOf(SidecarPath(at.path)) != kept.stamp) kept.savedElsewhere = true;
+  if (!changed && kept.savedElsewhere) return true;
+  // A video that somebody else has taken away needs no sidecar; new work on it is kept all the same.
+  if (!changed && !FileExists(at.path)) return true;
+  SlotData mine = at.data;
+  drawings_.Collect(slot, kept.base, mine);
+  return Write(slot, std::move(mine), error);
+}
+
+/// Writes what a slot has to say, and takes what is in the file then for its base.
+bool Keeping::Write(int slot, SlotData mine, std::string* error) {
+  Slot& at = stage_.At(slot);
+  Kept& kept = At(slot);
+  const std::string sidecar = SidecarPath(at.path);
+  // Both have something to say: whoever saves brings it together. What was drawn there does not stand in this
+  // window, which therefore has a base of its own.
+  MergedData merged{mine, mine.Shapes};
+  if (kept.savedElsewhere && at.MP->Info() && FileSize(sidecar).value_or(0) > 0) {
+    const SlotData theirs = ReadVideoData(sidecar, *at.MP->Info(), settings_.NewColors);
+    if (theirs.Unread) merged.whole.Unread = true;  // and what is missing in it was not deleted: it is kept beside
+    else merged = MergeVideoData(mine, theirs, kept.base);
+  }
+  SlotData& whole = merged.whole;
+  const std::string_view fitting = FittingNotes(whole.Notes);
+  if (fitting.size() < whole.Notes.size()) whole.Unread = true;  // what is about to be cut stands in the file before
+  std::string reason;
+  const bool written = WriteVideoData(sidecar, whole, &reason);
+  if (!written) host_.Note(MessageKind::Warning, "a sidecar could not be saved: " + reason);
+  if (error) *error = reason;
+  if (!written) return false;
+
+  const bool notesCame = at.data.Notes != fitting;
+  at.data.Notes = fitting;
+  at.data.Unread = false;
+  kept.stamp = StampOf(sidecar);
+  kept.changed = false;
+  kept.base = at.data;
+  kept.base.Shapes = std::move(merged.own);
+  kept.base.PictureWidth = whole.PictureWidth;
+  kept.base.PictureHeight = whole.PictureHeight;
+  drawings_.Saved(slot, kept.base);
+  for (int other = 1; other <= kSlots; ++other)
+    if (other != slot && stage_.At(other).path == at.path) At(other).savedElsewhere = true;
+  if (notesCame) stage_.News().Note(kVideoChanged);
+  return true;
+}
+
+bool Keeping::SaveOrAsk(int slot) {
+  const std::string path = stage_.At(slot).path;
+  const std::string name = NameOfVideo(path);
+  std::string error;
+  while (!SaveData(slot, &error)) {
+    // A library that cannot be written to is no reason to ask as long as nothing gets lost.
+    if (!HasUnsaved(slot)) return true;
+    if (host_.Question("Drawings not saved",
+                       fmt::format("The drawings and notes of \"{}\" could not be saved: {}. Would you like to try again?",
+                                   name, error)))
+      continue;
+    return host_.Question("Drawings not saved",
+                          fmt::format("Close \"{}\" all the same? Its new drawings and notes will be lost. Answer No to "
+                                      "keep it open.",
+                                      name));
+  }
+  const auto sidecarAlone = [path] { return !FileExists(path) && FileExists(SidecarPath(path)); };
+  if (error.empty() && host_.Drives().Ask(settings_.LibraryPath, sidecarAlone).value_or(false))
+    error = fmt::format("Somebody else has renamed, moved or deleted the video \"{}\". Its drawings and notes are kept in {}.",
+                        name, SidecarPath(path));
+  if (!error.empty()) host_.Message(MessageKind::Warning, "", error);
+  return true;
+}
+
+}  // namespace kinalyx

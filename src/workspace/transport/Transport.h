@@ -1,0 +1,86 @@
+#pragma once
+
+#include <string>
+
+#include "platform/host/Host.h"
+#include "workspace/compare/LockedVideos.h"
+#include "workspace/stage/Stage.h"
+#include "workspace/transport/ITransportView.h"
+
+namespace kinalyx {
+
+/// Everything that moves the current video: play, pause, rewind, step, seek, slow motion, loop, marks,
+/// and the line of the play bar.
+class Transport {
+ public:
+  /// Locked videos refuse the transport's own commands and move together.
+  Transport(IHost& host, Settings& settings, Stage& stage, LockedVideos& locks, ITransportView& view);
+
+  /// Play or pause. At the last position or the one before, it plays from the start.
+  void TogglePlay();
+  void Rewind();
+  void StepForward();  ///< one position on
+  void StepBack();  ///< one position back
+  /// Shows a position of the current video; the position that is shown already is left alone.
+  void Seek(int position);
+
+  /// A step button goes down (`forward` or back) at pointer position `x` in twips, moves, and comes up.
+  /// The first step is taken at once, the others while it is held: one position each, and one more for
+  /// every 100 twips that the pointer is dragged away.
+  void StepPressed(bool forward, float x);
+  void StepDragged(float x) { HeldX_ = x; }
+  void StepReleased();
+
+  void ToggleSlomo();
+  void ToggleLoop();
+  /// Loops every video of the layout; when all of them loop already, stops them.
+  void ToggleLoopAll();
+  bool AllLooping() const;
+
+  /// Keeps the present position as a mark; the eleventh of a slot is refused.
+  void AddMark();
+  /// Goes to mark `n`, from 0.
+  void GoToMark(int n);
+  void ClearMarks();
+
+  /// Writes `text` over the picture, or with "" clears it and writes the transport's line.
+  void DisplayData(const std::string& text);
+  /// The line of a slot without its effect on the window.
+  std::string DisplayLine(int slot) const;
+  /// Positions per second that times are computed with.
+  double DisplayRate(int slot) const;
+  /// Sets the range and place of the seek bar from the current video.
+  void ScrollBarSetup();
+  /// Brings bar, buttons, marks and line up to the current window.
+  void ShowCurrent();
+  /// The same, and the line under each picture.
+  void ShowAll();
+
+  // --- from the player
+  void Signal(int slot);
+  void Notify(int slot);
+
+  /// The frame number stands in the play bar; true while the video timer is open.
+  bool ShowFrameCounter = false;
+
+ private:
+  AVIControl* Player();
+  bool Locked() const { return locks_.IsLocked(stage_.CurrentWindow); }
+  bool CanLoop(int slot) const;
+  void HeldStep();
+  void ShowPosition();
+  void ShowCell(int slot);
+
+  IHost& host_;
+  Settings& settings_;
+  Stage& stage_;
+  LockedVideos& locks_;
+  ITransportView& view_;
+  HostTimer FRtimer_;
+  bool ForwardHeld_ = false;
+  bool BackHeld_ = false;
+  float HeldStartX_ = 0;
+  float HeldX_ = 0;
+};
+
+}  // namespace kinalyx
