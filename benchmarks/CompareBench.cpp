@@ -11,12 +11,12 @@
 #include "workspace/AnalysisStage.h"
 #include "workspace/compare/LockedVideos.h"
 #include "workspace/compare/MultiPicture.h"
-#include "workspace/compare/Overlay.h"
+#include "workspace/compare/Transparency.h"
 
 namespace kinalyx::bench {
 namespace {
 
-class NoOverlayView final : public IOverlayView {
+class NoTransparencyView final : public ITransparencyView {
   void ShowTransparency(bool) override {}
   void PresentMix(const Surface& picture) override { Keep(picture.Row(0)); }
   void SetTransScroll(int, bool) override {}
@@ -52,8 +52,8 @@ const Register kOverlayMix({"overlay_mix_640x480", {Target::Of::Ratio, 4, 1}, []
   Open(stage, 1, test::MjpegVideo(30), 3);
   Open(stage, 2, test::MjpegVideo(30), 20);
   LockedVideos locks(stage.host, stage.scheduler, stage.Stage());
-  NoOverlayView view;
-  Overlay overlay(stage.host, stage.settings, stage.Stage(), locks, view, nobody);
+  NoTransparencyView view;
+  Transparency overlay(stage.host, stage.settings, stage.Stage(), locks, view, nobody);
   overlay.Resize(640, 480);
   overlay.ToggleTransparency();
   for (const int slot : {1, 2}) stage.MP(slot).Resize(640, 480);

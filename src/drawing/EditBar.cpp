@@ -2,13 +2,13 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "drawing/ShapeGeometry.h"
 
 namespace kinalyx {
 namespace {
 
-constexpr int kLeftButton = 1;
 constexpr double kScaleReach = 400;  // twips of a drag that double a shape, or let it vanish
 
 }  // namespace
@@ -23,7 +23,7 @@ EditBar::~EditBar() { tools_.AttachEditBar(nullptr); }
 void EditBar::SetEditBar() {
   const ShapeList& list = List();
   const bool selected = SelectedShape(list) != nullptr;
-  for (const int handle : {kMoveHandle, kScaleHandle, kRotateHandle, kDeleteHandle}) view_.EnableHandle(handle, selected);
+  for (const EditHandle handle : {kMoveHandle, kScaleHandle, kRotateHandle, kDeleteHandle}) view_.EnableHandle(handle, selected);
   view_.EnableHandle(kNextHandle, list.NumShapes > 0);
   view_.EnableHandle(kEndHandle, true);
   MultiEdit_ = false;
@@ -45,7 +45,7 @@ void EditBar::ToggleEditBar() {
 
 void EditBar::ChangeEBMode(bool Show) {
   shown_ = Show;
-  dragged_ = -1;
+  dragged_.reset();
   const int window = workspace_.ActiveWindow();
   if (Show) {
     workspace_.MouseWanted();
@@ -80,15 +80,15 @@ void EditBar::EditAll(bool Value) {
   ShapeList& list = List();
   if (Value && !Selected() && list.NumShapes > 0) {
     list.CurShape = 0;
-    for (const int handle : {kMoveHandle, kScaleHandle, kRotateHandle, kDeleteHandle}) view_.EnableHandle(handle, true);
+    for (const EditHandle handle : {kMoveHandle, kScaleHandle, kRotateHandle, kDeleteHandle}) view_.EnableHandle(handle, true);
   }
   RefreshWindows();
 }
 
-void EditBar::UseHandle(int Index) {
+void EditBar::UseHandle(EditHandle handle) {
   if (!shown_) return;
   tools_.SetDrawWindow(workspace_.ActiveWindow());
-  switch (Index) {
+  switch (handle) {
     case kNextHandle: NextShape(); break;
     case kDeleteHandle:
       tools_.DeleteCurShape();
@@ -97,7 +97,7 @@ void EditBar::UseHandle(int Index) {
       workspace_.DrawingsChanged(workspace_.ActiveWindow());
       break;
     case kEndHandle:
-      for (const int handle : {kNextHandle, kRotateHandle, kDeleteHandle}) view_.EnableHandle(handle, true);
+      for (const EditHandle handle : {kNextHandle, kRotateHandle, kDeleteHandle}) view_.EnableHandle(handle, true);
       ChangeEBMode(false);
       break;
     default: break;
@@ -114,19 +114,19 @@ void EditBar::NextShape() {
   workspace_.Refresh(workspace_.ActiveWindow());
 }
 
-float EditBar::HandleAngle(int handle, float x, float y) {
+float EditBar::HandleAngle(EditHandle handle, float x, float y) {
   return static_cast<float>(PointAngle(view_.HandleWidth(handle) / 2.0, view_.HandleHeight(handle) / 2.0, x, y));
 }
 
-void EditBar::GrabHandle(int Index, int Button, int /*Shift*/, float X, float Y) {
-  if (!shown_ || Button != kLeftButton || Index < kMoveHandle || Index > kRotateHandle) return;
+void EditBar::GrabHandle(EditHandle handle, float X, float Y) {
+  if (!shown_ || handle < kMoveHandle || handle > kRotateHandle) return;
   Shape* shape = Selected();
   if (!shape) return;
-  dragged_ = Index;
+  dragged_ = handle;
   dragWindow_ = workspace_.ActiveWindow();
   LastDown_ = {Round(X), Round(Y)};
   tools_.BeforeChange(dragWindow_);
-  if (Index == kMoveHandle) return;
+  if (handle == kMoveHandle) return;
   const ShapeEngine& engine = tools_.Engine();
   if (MultiEdit_) {
     Pivot_ = engine.MultiGetMid(List());
@@ -135,23 +135,23 @@ void EditBar::GrabHandle(int Index, int Button, int /*Shift*/, float X, float Y)
     Pivot_ = engine.GetMid(*shape);
     engine.PrepTrans(*shape);
   }
-  if (Index != kRotateHandle) return;
-  StartAngle_ = HandleAngle(Index, X, Y);
+  if (handle != kRotateHandle) return;
+  StartAngle_ = HandleAngle(handle, X, Y);
   view_.ShowRotationGuide(true);
 }
 
-void EditBar::DragHandle(int Index, int Button, int /*Shift*/, float X, float Y) {
-  if (!shown_ || Button != kLeftButton || Index != dragged_) return;
+void EditBar::DragHandle(float X, float Y) {
+  if (!shown_ || !dragged_) return;
   ShapeList& list = tools_.List(dragWindow_);
   Shape* shape = SelectedShape(list);
   if (!shape) return;
   const ShapeEngine& engine = tools_.Engine();
-  if (Index == kScaleHandle) {
+  if (dragged_ == kScaleHandle) {
     // Upward grows, downward shrinks; beyond nothing the drawing comes out on the other side.
     const double factor = std::abs(1 - (Y - LastDown_.y) / kScaleReach);
     MultiEdit_ ? engine.MultiScaleShape(list, factor, Pivot_) : engine.ScaleShape(*shape, factor, Pivot_);
-  } else if (Index == kRotateHandle) {
-    const double degrees = RadToDeg(HandleAngle(Index, X, Y) - StartAngle_);
+  } else if (dragged_ == kRotateHandle) {
+    const double degrees = RadToDeg(HandleAngle(*dragged_, X, Y) - StartAngle_);
     MultiEdit_ ? engine.MultiRotateShape(list, degrees, Pivot_) : engine.RotateShape(*shape, degrees, Pivot_);
   } else {
     const int dx = Round((X - LastDown_.x) / kTwipsPerPixel);
@@ -164,19 +164,19 @@ void EditBar::DragHandle(int Index, int Button, int /*Shift*/, float X, float Y)
   workspace_.Refresh(dragWindow_);
 }
 
-void EditBar::ReleaseHandle(int Index, int Button, int /*Shift*/, float /*X*/, float /*Y*/) {
-  if (Button != kLeftButton || Index != dragged_ || dragged_ < 0) return;
-  dragged_ = -1;
+void EditBar::ReleaseHandle() {
+  if (!dragged_) return;
+  const EditHandle handle = *std::exchange(dragged_, std::nullopt);
   ShapeList& list = tools_.List(dragWindow_);
   const ShapeEngine& engine = tools_.Engine();
-  if (Index != kMoveHandle) {
+  if (handle != kMoveHandle) {
     if (MultiEdit_) {
       engine.MultiDoneTrans(list);
     } else if (Shape* shape = SelectedShape(list)) {
       engine.DoneTrans(*shape);
     }
   }
-  if (Index == kRotateHandle) view_.ShowRotationGuide(false);
+  if (handle == kRotateHandle) view_.ShowRotationGuide(false);
   tools_.NoteChange(dragWindow_);
   workspace_.DrawingsChanged(dragWindow_);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "drawing/DrawingTools.h"
 #include "drawing/Shape.h"
 
@@ -15,14 +17,14 @@ class IEditBarView {
   virtual void ShowEditBar(bool shown) = 0;
   /// Puts the strip over a window.
   virtual void PlaceEditBar(int window) = 0;
-  virtual void EnableHandle(int handle, bool enabled) = 0;
+  virtual void EnableHandle(EditHandle handle, bool enabled) = 0;
   /// `ribEBBtn`, the switch between one shape and all. Must not come back as EditAll.
   virtual void SetMultiButton(bool enabled, bool down) = 0;
   /// A marker at the handle while it rotates.
   virtual void ShowRotationGuide(bool shown) = 0;
   /// Size of a handle in twips, 15 to a pixel of the picture.
-  virtual int HandleWidth(int handle) = 0;
-  virtual int HandleHeight(int handle) = 0;
+  virtual int HandleWidth(EditHandle handle) = 0;
+  virtual int HandleHeight(EditHandle handle) = 0;
 };
 
 /// A strip of handles over the active window: next shape, move, scale, rotate, delete. Works on the
@@ -45,11 +47,13 @@ class EditBar final : public IEditMarks {
   /// The active window changed or moved.
   void MoveEditBar();
   void EditAll(bool Value);
-  void UseHandle(int Index);
-  /// X and Y in twips of the handle, 15 to a pixel of the picture; Button 1 is the left one.
-  void GrabHandle(int Index, int Button, int Shift, float X, float Y);
-  void DragHandle(int Index, int Button, int Shift, float X, float Y);
-  void ReleaseHandle(int Index, int Button, int Shift, float X, float Y);
+  void UseHandle(EditHandle handle);
+  /// The mouse takes a handle that is dragged, drags it, and lets it go; X and Y in twips of the handle, 15 to a
+  /// pixel of the picture. Nothing happens to the others.
+  void GrabHandle(EditHandle handle, float X, float Y);
+  void DragHandle(float X, float Y);
+  void ReleaseHandle();
+  bool Dragging() const { return dragged_.has_value(); }
 
   /// After a macro was laid over the window: all its shapes are edited as one, without next and rotate.
   void EditWhole();
@@ -57,7 +61,7 @@ class EditBar final : public IEditMarks {
  private:
   ShapeList& List() { return tools_.List(workspace_.ActiveWindow()); }
   Shape* Selected() { return SelectedShape(List()); }
-  float HandleAngle(int handle, float x, float y);
+  float HandleAngle(EditHandle handle, float x, float y);
   void NextShape();
   void RefreshWindows();
 
@@ -66,7 +70,7 @@ class EditBar final : public IEditMarks {
   IEditBarView& view_;
   bool shown_ = false;
   bool MultiEdit_ = false;
-  int dragged_ = -1;       // the handle under the mouse, -1 none
+  std::optional<EditHandle> dragged_;  // the handle under the mouse
   int dragWindow_ = 1;
   POINTAPI Pivot_;
   float StartAngle_ = 0;   // radians

@@ -30,7 +30,7 @@ class IDrawingWorkspace {
   /// The window's player stands on its last position.
   virtual bool OnLastFrame(int window) = 0;
   /// Moves the window's player one position on, and its partner when the two are locked together and the
-  /// partner is not on its last; overlays follow.
+  /// partner is not on its last; the mix follows.
   virtual void AdvanceFrame(int window) = 0;
 
   // --- display

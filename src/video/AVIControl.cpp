@@ -173,11 +173,9 @@ void AVIControl::setDrawStyle(int style) {
   UpdatePenBrush();
 }
 
-bool AVIControl::setDrawMode(int mode) {
-  if (!PlayerProperties::IsDrawMode(mode)) return false;
-  properties_.DrawMode = mode;
+void AVIControl::setDrawMode(Rop2 mode) {
+  properties_.DrawMode = static_cast<int>(mode);
   UpdatePenBrush();
-  return true;
 }
 
 void AVIControl::setDrawWidth(int width) {

@@ -106,8 +106,7 @@ class AVIControl {
   void setID(int id) { properties_.ID = id; }
   int DrawStyle() const { return properties_.DrawStyle; }
   void setDrawStyle(int style);
-  int DrawMode() const { return properties_.DrawMode; }
-  bool setDrawMode(int mode);
+  void setDrawMode(Rop2 mode);
   int DrawWidth() const { return properties_.DrawWidth; }
   void setDrawWidth(int width);
   Colour Forecolor() const { return properties_.Forecolor; }

@@ -14,22 +14,22 @@ struct Strip final : IEditBarView {
   void ShowEditBar(bool) override {}
   void PlaceEditBar(int) override {}
   void SetMultiButton(bool enable, bool) override { multi = enable; }
-  void EnableHandle(int handle, bool enable) override { enabled[handle] = enable; }
+  void EnableHandle(EditHandle handle, bool enable) override { enabled[handle] = enable; }
   void ShowRotationGuide(bool show) override { guide = show; }
-  int HandleWidth(int) override { return 600; }
-  int HandleHeight(int) override { return 600; }
+  int HandleWidth(EditHandle) override { return 600; }
+  int HandleHeight(EditHandle) override { return 600; }
 };
 
 struct EditDesk : Desk {
   Strip strip;
   EditBar bar{tools, workspace, strip};
 
-  void Drag(int handle, std::initializer_list<POINTAPI> way) {
+  void Drag(EditHandle handle, std::initializer_list<POINTAPI> way) {
     const POINTAPI first = *way.begin();
-    bar.GrabHandle(handle, 1, 0, static_cast<float>(first.x), static_cast<float>(first.y));
+    bar.GrabHandle(handle, static_cast<float>(first.x), static_cast<float>(first.y));
     for (const POINTAPI& point : way)
-      bar.DragHandle(handle, 1, 0, static_cast<float>(point.x), static_cast<float>(point.y));
-    bar.ReleaseHandle(handle, 1, 0, 0, 0);
+      bar.DragHandle(static_cast<float>(point.x), static_cast<float>(point.y));
+    bar.ReleaseHandle();
   }
 };
 
@@ -64,10 +64,10 @@ TEST(EditBar, DragsMoveScaleAndRotate) {
   desk.Drag(kScaleHandle, {{300, 500}, {300, 300}, {300, 100}});
   EXPECT_EQ(desk.Points(0), (std::vector<POINTAPI>{{55, 100}, {255, 100}})) << "400 twips up are twice as large";
   EXPECT_EQ(desk.List().Shapes[0].SavedPts.size(), 1u) << "the end of the drag lets the saved points go";
-  desk.bar.GrabHandle(kRotateHandle, 1, 0, 600, 300);
+  desk.bar.GrabHandle(kRotateHandle, 600, 300);
   EXPECT_TRUE(desk.strip.guide);
-  desk.bar.DragHandle(kRotateHandle, 1, 0, 300, 600);
-  desk.bar.ReleaseHandle(kRotateHandle, 1, 0, 300, 600);
+  desk.bar.DragHandle(300, 600);
+  desk.bar.ReleaseHandle();
   EXPECT_FALSE(desk.strip.guide);
   EXPECT_EQ(desk.Points(0)[0], (POINTAPI{155, 0}));
   for (const POINTAPI& before : {POINTAPI{55, 100}, {105, 100}, {100, 100}}) {

@@ -174,7 +174,6 @@ TEST(AVIControl, KeepsItsSettingsInABag) {
   player->ReadProperties(others);
   EXPECT_EQ(player->WriteProperties(), others);
 
-  for (const int bad : {0, 17}) EXPECT_FALSE(player->setDrawMode(bad));
   for (const int bad : {5, -1}) EXPECT_FALSE(player->setForceDisplayFormat(bad));
   EXPECT_FALSE(player->setSpeed(0));
   EXPECT_FALSE(player->setForecolor(static_cast<Colour>(0x80000019)));

@@ -101,12 +101,12 @@ class FakeEditWindows final : public IDrawingEditsView {
  private:
   void ShowEditBar(bool shown) override { bar = shown; }
   void PlaceEditBar(int) override {}
-  void EnableHandle(int handle, bool enabled) override { handles[handle] = enabled; }
+  void EnableHandle(EditHandle handle, bool enabled) override { handles[handle] = enabled; }
   void SetMultiButton(bool, bool down) override { multi = down; }
   void ShowRotationGuide(bool) override {}
-  int HandleWidth(int) override { return 32 * kTwipsPerPixel; }
-  int HandleHeight(int) override { return 32 * kTwipsPerPixel; }
-  bool HandleEnabled(int handle) override { return handles[handle]; }
+  int HandleWidth(EditHandle) override { return 32 * kTwipsPerPixel; }
+  int HandleHeight(EditHandle) override { return 32 * kTwipsPerPixel; }
+  bool HandleEnabled(EditHandle handle) override { return handles[handle]; }
   void ShowSelection(int, const std::optional<SelectionMarks>& at, const std::string& said) override {
     marks = at;
     words = said;
@@ -135,8 +135,8 @@ class AnalysisStage : private IFrameInterface, private INavigation {
     settings.LoadSettings();
     window.width = width;
     window.height = height;
-    compareView.overlay = &analysis.Compare().Transparency();
-    compareView.overlay->Resize(width, height);
+    compareView.mixer = &analysis.Compare().Transparency();
+    compareView.mixer->Resize(width, height);
     Stage().ScreenLayout = layout;
     for (int slot = 1; slot <= kSlots; ++slot) {
       auto& player = players_[static_cast<std::size_t>(slot - 1)];

@@ -76,7 +76,7 @@ TEST(DrawingEdits, HandlesOnThePictureFollowTheMouse) {
   Desk desk;
   desk.Commands().Run("MenuEdit");
   desk.Click(1, 200, 200);  // the line from 100 to 300, about 200
-  const auto drag = [&](int handle, POINTAPI from, POINTAPI to) {
+  const auto drag = [&](EditHandle handle, POINTAPI from, POINTAPI to) {
     desk.Edits().HandlePressed(handle, from);
     desk.Edits().HandleDragged({(from.x + to.x) / 2, (from.y + to.y) / 2});
     desk.Edits().HandleDragged(to);

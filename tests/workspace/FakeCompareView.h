@@ -8,10 +8,10 @@
 namespace kinalyx::test {
 
 /// The windows of the comparing modes; they only remember what they were told. A slider or an option that is
-/// set answers like a real control: it tells the overlay of its change.
+/// set answers like a real control: it tells the mode of its change.
 class FakeCompareView final : public ICompareView {
  public:
-  Overlay* overlay = nullptr;
+  Transparency* mixer = nullptr;
   bool transparency = false, strip = false, carve = false, zoom = false, strobe = false;
   Surface mix;
   int mixes = 0;  ///< shown so far
@@ -38,11 +38,11 @@ class FakeCompareView final : public ICompareView {
   void SetTransScroll(int value, bool enabled) override {
     scroll = value;
     scrollEnabled = enabled;
-    overlay->SlideMix(value);
+    mixer->SlideMix(value);
   }
   void SelectOptShow(ShowOption which) override {
     option = which;
-    overlay->Show(which);
+    mixer->Show(which);
   }
   void SetVideoScroll(int window, int lowest, int highest, int value) override { bars[window] = {lowest, highest, value}; }
   void SetVideoButtons(int window, bool on, bool, bool) override { playing[window] = on; }

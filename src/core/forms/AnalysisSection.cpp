@@ -175,7 +175,7 @@ void AnalysisSection::SetupProgram() {
   for (const auto& [index, button] : colours_) {
     const std::int32_t colour =
         index == kPathDown ? settings_.PathDownColor : settings_.NewColors[static_cast<std::size_t>(index)];
-    button->SetColour(ColorOf(colour));
+    button->SetColour(ToQColor(colour));
   }
 }
 
@@ -183,7 +183,7 @@ void AnalysisSection::NewColor_Click(int index, const QString& title) {
   if (settings_.Loading) return;
   const auto chosen = pickColour(colours_[index]->Colour(), title);
   if (!chosen) return;
-  const std::int32_t colour = ColourOf(*chosen);
+  const std::int32_t colour = FromQColor(*chosen);
   settings_.SetNewColor(index, colour);
   colours_[index]->SetColour(*chosen);
   emit AnalysisChanged();

@@ -111,7 +111,7 @@ void GeneralSection::AddColours() {
   int index = 0;
   for (const ColorScheme& scheme : ColorSchemes::All()) {
     std::array<QColor, 4> colours;
-    for (std::size_t i = 0; i < colours.size(); ++i) colours[i] = ColorOf(scheme.colours[i]);
+    for (std::size_t i = 0; i < colours.size(); ++i) colours[i] = ToQColor(scheme.colours[i]);
     auto* choice = new SchemeButton(QString("optLayout%1").arg(index), Q(scheme.caption), colours);
     choice->setCheckable(true);
     designs_->addButton(choice, index);
@@ -215,7 +215,7 @@ void GeneralSection::RunSystemTest() {
   for (std::size_t i = 0; i < rows.size(); ++i) {
     titles_[i]->setText(Q(rows[i].title));
     texts_[i]->setText(Q(rows[i].text));
-    gauges_[i]->Show(ColorOf(rows[i].colour), rows[i].percent);
+    gauges_[i]->Show(ToQColor(rows[i].colour), rows[i].percent);
   }
   results_->show();
 }

@@ -66,17 +66,17 @@ QColor ToneOf(const QColor& colour, double saturation, double lightness) {
   return QColor::fromHslF(colour.hslHueF(), static_cast<float>(saturation), light);
 }
 
-QColor ColorOf(std::int32_t colour) { return QColor(colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF); }
+QColor ToQColor(std::int32_t colour) { return QColor(colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF); }
 
-std::int32_t ColourOf(const QColor& color) { return color.red() | (color.green() << 8) | (color.blue() << 16); }
+std::int32_t FromQColor(const QColor& color) { return color.red() | (color.green() << 8) | (color.blue() << 16); }
 
 Theme Theme::FromSlots(const SchemeSlots& scheme) {
   Theme t;
   t.scheme = scheme;
-  t.accent = ColorOf(scheme[0]);
-  t.panel = ColorOf(scheme[1]);
-  t.backdrop = ColorOf(scheme[3]);
-  t.accentText = TextOnAccent(t.accent, ColorOf(scheme[2]), t.panel);
+  t.accent = ToQColor(scheme[0]);
+  t.panel = ToQColor(scheme[1]);
+  t.backdrop = ToQColor(scheme[3]);
+  t.accentText = TextOnAccent(t.accent, ToQColor(scheme[2]), t.panel);
   // A near-black accent cannot be darkened, so it answers the mouse by growing lighter.
   t.accentHover = Mix(t.accent, t.panel, 0.16);
   t.accentPressed = Mix(t.accent, t.panel, 0.28);

@@ -61,8 +61,8 @@ QColor Mix(const QColor& a, const QColor& b, double part);
 QColor Readable(const QColor& wanted, const QColor& ground, double ratio = 4.5);
 /// A colour of the same hue with another saturation and lightness (0 to 1); a black or grey gives a grey.
 QColor ToneOf(const QColor& colour, double saturation, double lightness);
-QColor ColorOf(std::int32_t colour);
-std::int32_t ColourOf(const QColor& color);
+QColor ToQColor(std::int32_t colour);
+std::int32_t FromQColor(const QColor& color);
 
 /// The program's font: Inter where it is installed, else the desktop's. `pixels` as designed beside text of
 /// 13 pixels; the font comes at the present text size.

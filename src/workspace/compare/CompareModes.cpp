@@ -15,7 +15,7 @@ CompareModes::CompareModes(IHost& host, Settings& settings, PlayScheduler& sched
     : stage_(stage),
       view_(view),
       locks_(host, scheduler, stage),
-      overlay_(host, settings, stage, locks_, view, events),
+      transparency_(host, settings, stage, locks_, view, events),
       strip_(host, stage, view, events),
       carve_(host, stage, view, events),
       strobe_(settings, stage, locks_),
@@ -24,22 +24,22 @@ CompareModes::CompareModes(IHost& host, Settings& settings, PlayScheduler& sched
 // ---------------------------------------------------------------- one mode at a time
 
 std::string CompareModes::StageTaken() const {
-  if (overlay_.TransparencyOn()) return "Leave transparency mode first (Esc)";
+  if (transparency_.TransparencyOn()) return "Leave transparency mode first (Esc)";
   if (strip_.Shown()) return "Leave multi-picture mode first (Esc)";
   return {};
 }
 
 std::string CompareModes::WhyNoTransparency() const {
-  if (overlay_.TransparencyOn()) return {};
+  if (transparency_.TransparencyOn()) return {};
   if (carve_.Shown()) return kLeaveCarve;
   if (strip_.Shown()) return StageTaken();
-  return overlay_.CanShow() ? "" : "Open videos in windows 1 and 2 first";
+  return transparency_.CanShow() ? "" : "Open videos in windows 1 and 2 first";
 }
 
 std::string CompareModes::WhyNoStrip() const {
   if (strip_.Shown()) return {};
   if (carve_.Shown()) return kLeaveCarve;
-  if (overlay_.TransparencyOn()) return StageTaken();
+  if (transparency_.TransparencyOn()) return StageTaken();
   if (!strip_.CanShow()) return kOpenFirst;
   // Its pictures are fetched by moving the video, which the others of a lock do not follow.
   return locks_.IsLocked(stage_.CurrentWindow) ? "Unlock the videos first" : "";
@@ -74,8 +74,8 @@ bool CompareModes::Escape() {
     strobe_.ToggleStrobe();
   } else if (carve_.Shown()) {
     carve_.ToggleCarve();
-  } else if (overlay_.TransparencyOn()) {
-    overlay_.LeaveTransparency();
+  } else if (transparency_.TransparencyOn()) {
+    transparency_.LeaveTransparency();
   } else if (strip_.Shown()) {
     strip_.ToggleStrip();
   } else {
@@ -100,7 +100,7 @@ void CompareModes::CloseAll() {
 }
 
 void CompareModes::MPManualSignal() {
-  overlay_.MPManualSignal();
+  transparency_.MPManualSignal();
   carve_.MPManualSignal();
 }
 
@@ -110,7 +110,7 @@ void CompareModes::ShowDual() {
   const int slot = stage_.CurrentWindow;
   DualState state;
   state.locked = locks_.IsLocked(slot);
-  state.shown = state.locked || overlay_.TransparencyOn();
+  state.shown = state.locked || transparency_.TransparencyOn();
   state.allLocked = locks_.AllLocked();
   state.canLock = locks_.CanLock();
   state.canLockAll = locks_.CanLockAll();
@@ -133,7 +133,7 @@ void CompareModes::ShowDual() {
 
 void CompareModes::Signal(int slot) {
   strip_.Signal(slot);
-  overlay_.Signal(slot);
+  transparency_.Signal(slot);
   carve_.Signal(slot);
   strobe_.Signal(slot);
   if (locks_.IsLocked(slot)) ShowDual();
@@ -148,11 +148,11 @@ void CompareModes::VideoClosing(int slot) {
 
 void CompareModes::StageChanged(unsigned changes) {
   if (changes & kPicturesChanged) {
-    overlay_.PicturesChanged();
+    transparency_.PicturesChanged();
     strip_.PicturesChanged();
     carve_.PicturesChanged();
   }
-  if (changes & (kVideoChanged | kLocksChanged)) overlay_.StateChanged();
+  if (changes & (kVideoChanged | kLocksChanged)) transparency_.StateChanged();
   if (changes & kVideoChanged) {
     carve_.LayoutChanged();
     strobe_.StateChanged();

@@ -6,7 +6,7 @@
 #include "workspace/compare/Carve.h"
 #include "workspace/compare/LockedVideos.h"
 #include "workspace/compare/MultiPicture.h"
-#include "workspace/compare/Overlay.h"
+#include "workspace/compare/Transparency.h"
 #include "workspace/compare/StrobeControl.h"
 #include "workspace/compare/ZoomPan.h"
 
@@ -29,7 +29,7 @@ struct DualState {
 };
 
 /// What the modes that compare videos ask of the window that shows them.
-class ICompareView : public IOverlayView, public IMultiPictureView, public ICarveView {
+class ICompareView : public ITransparencyView, public IMultiPictureView, public ICarveView {
  public:
   /// The controls beside the lock, and the lock picture on the cells.
   virtual void ShowDual(const DualState& state) = 0;
@@ -50,7 +50,7 @@ class CompareModes {
 
   LockedVideos& Locks() { return locks_; }
   const LockedVideos& Locks() const { return locks_; }
-  Overlay& Transparency() { return overlay_; }
+  kinalyx::Transparency& Transparency() { return transparency_; }
   MultiPicture& Strip() { return strip_; }
   Carve& Carving() { return carve_; }
   StrobeControl& Strobe() { return strobe_; }
@@ -84,7 +84,7 @@ class CompareModes {
 
   // --- from the players and the stage
   void Signal(int slot);
-  void Notify(int slot) { overlay_.Notify(slot); }
+  void Notify(int slot) { transparency_.Notify(slot); }
   void VideoClosing(int slot);
   /// @param changes  a sum of StageChange
   void StageChanged(unsigned changes);
@@ -95,7 +95,7 @@ class CompareModes {
   Stage& stage_;
   ICompareView& view_;
   LockedVideos locks_;
-  Overlay overlay_;
+  kinalyx::Transparency transparency_;
   MultiPicture strip_;
   Carve carve_;
   StrobeControl strobe_;

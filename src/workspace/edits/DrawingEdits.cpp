@@ -10,7 +10,6 @@
 namespace kinalyx {
 namespace {
 
-constexpr int kLeftButton = 1;
 constexpr float kTwipsToDouble = 400;  // a drag of the scale handle that doubles the selection
 constexpr int kTwoWindows = 2;         // the layout of two windows side by side
 
@@ -70,43 +69,37 @@ void DrawingEdits::FramePainted(int slot) {
 
 void DrawingEdits::EditAll(bool Value) { bar_.EditAll(Value); }
 
-void DrawingEdits::GrabHandle(int Index, float X, float Y) {
+void DrawingEdits::GrabHandle(EditHandle handle, float X, float Y) {
   if (!bar_.Shown() || Dragging() || !SelectedShape(List())) return;
-  dragged_ = Index;
-  bar_.GrabHandle(Index, kLeftButton, 0, X, Y);
+  held_ = handle;
+  bar_.GrabHandle(handle, X, Y);
 }
 
-void DrawingEdits::DragHandle(float X, float Y) {
-  if (Dragging()) bar_.DragHandle(dragged_, kLeftButton, 0, X, Y);
-}
+void DrawingEdits::DragHandle(float X, float Y) { bar_.DragHandle(X, Y); }
 
-void DrawingEdits::ReleaseHandle() {
-  if (!Dragging()) return;
-  const int handle = std::exchange(dragged_, -1);
-  bar_.ReleaseHandle(handle, kLeftButton, 0, 0, 0);
-}
+void DrawingEdits::ReleaseHandle() { bar_.ReleaseHandle(); }
 
 /// A point of the picture as the bar would see it within one of its handles: a turn goes about the
 /// handle's middle, whatever the selection turns about.
-std::pair<float, float> DrawingEdits::InHandle(int handle, POINTAPI at) {
+std::pair<float, float> DrawingEdits::InHandle(EditHandle handle, POINTAPI at) {
   if (handle != kRotateHandle) return {static_cast<float>(at.x * kTwipsPerPixel), static_cast<float>(at.y * kTwipsPerPixel)};
   return {static_cast<float>(view_.HandleWidth(handle) / 2.0 + (at.x - gripPivot_.x) * kTwipsPerPixel),
           static_cast<float>(view_.HandleHeight(handle) / 2.0 + (at.y - gripPivot_.y) * kTwipsPerPixel)};
 }
 
-void DrawingEdits::HandlePressed(int Index, POINTAPI at) {
+void DrawingEdits::HandlePressed(EditHandle handle, POINTAPI at) {
   const auto marks = Marks();
   if (!marks) return;
   grip_ = at;
   gripPivot_ = marks->pivot;
-  const auto [x, y] = Index == kScaleHandle ? std::pair{0.0f, 0.0f} : InHandle(Index, at);
-  GrabHandle(Index, x, y);
+  const auto [x, y] = handle == kScaleHandle ? std::pair{0.0f, 0.0f} : InHandle(handle, at);
+  GrabHandle(handle, x, y);
 }
 
 void DrawingEdits::HandleDragged(POINTAPI at) {
   if (!Dragging()) return;
-  if (dragged_ != kScaleHandle) {
-    const auto [x, y] = InHandle(dragged_, at);
+  if (held_ != kScaleHandle) {
+    const auto [x, y] = InHandle(held_, at);
     DragHandle(x, y);
     return;
   }
@@ -246,7 +239,7 @@ bool DrawingEdits::PressKey(int KeyCode, int Shift) {
     return KeyCode == 'Z' || KeyCode == 'Y';
   }
   if (!bar_.Shown() || tools_.Drawing()) return false;
-  const auto press = [this](int handle) {
+  const auto press = [this](EditHandle handle) {
     if (!Dragging() && view_.HandleEnabled(handle)) bar_.UseHandle(handle);
     return true;
   };

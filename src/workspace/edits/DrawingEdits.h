@@ -25,7 +25,7 @@ struct SelectionMarks {
 class IDrawingEditsView : public IEditBarView {
  public:
   /// What EnableHandle said last.
-  virtual bool HandleEnabled(int handle) = 0;
+  virtual bool HandleEnabled(EditHandle handle) = 0;
   /// The handles on the picture of a window, none without marks, and what the bar says of the selection.
   virtual void ShowSelection(int window, const std::optional<SelectionMarks>& marks, const std::string& words) = 0;
   /// Asks for the name of a new macro beside a picture of it; empty or nothing: none is made.
@@ -56,17 +56,17 @@ class DrawingEdits {
   // --- edit bar
   bool Editing() const { return bar_.Shown(); }
   void ToggleEditBar() { bar_.ToggleEditBar(); }
-  void UseHandle(int Index) { bar_.UseHandle(Index); }
+  void UseHandle(EditHandle handle) { bar_.UseHandle(handle); }
   void EditAll(bool Value);
   /// The left button on a handle of the bar, in twips of the handle, 15 to a pixel of the picture.
-  void GrabHandle(int Index, float X, float Y);
+  void GrabHandle(EditHandle handle, float X, float Y);
   void DragHandle(float X, float Y);
   void ReleaseHandle();
   /// The same on a handle that lies on the picture, in its pixels: the selection follows the mouse.
-  void HandlePressed(int Index, POINTAPI at);
+  void HandlePressed(EditHandle handle, POINTAPI at);
   void HandleDragged(POINTAPI at);
   void HandleReleased() { ReleaseHandle(); }
-  bool Dragging() const { return dragged_ >= 0; }
+  bool Dragging() const { return bar_.Dragging(); }
   /// Moves the selection by pixels.
   void Nudge(int dx, int dy);
   /// Shows the handles where the selection is now.
@@ -122,7 +122,7 @@ class DrawingEdits {
   ShapeList& List() { return tools_.List(stage_.CurrentWindow); }
   std::optional<SelectionMarks> Marks();
   std::string SelectionWords();
-  std::pair<float, float> InHandle(int handle, POINTAPI at);
+  std::pair<float, float> InHandle(EditHandle handle, POINTAPI at);
   void LoadMacros();
   void TellOfMacroFiles();
   std::vector<int> CloneTargets() const;
@@ -136,7 +136,7 @@ class DrawingEdits {
   IDrawingEditsView& view_;
   EditBar bar_;
   Macros macros_;
-  int dragged_ = -1;      // the handle under the mouse, -1 none
+  EditHandle held_ = kMoveHandle;  // the handle that was taken last
   POINTAPI grip_;         // where a handle on the picture was taken
   POINTAPI gripPivot_;
   bool macroFormShown_ = false;

@@ -18,7 +18,7 @@ constexpr const char* kNames[] = {"Red",   "Yellow", "Blue", "Green", "Magenta",
 class ColorButton : public QToolButton {
  public:
   ColorButton(int index, QWidget* parent) : QToolButton(parent) {
-    colour_ = ColorOf(kColorChoices[static_cast<std::size_t>(index)]);
+    colour_ = ToQColor(kColorChoices[static_cast<std::size_t>(index)]);
     setObjectName(QString("ColorChoiceBtn%1").arg(index));
     setAccessibleName(kNames[index]);
     FixSize(this, {22, 24});

@@ -58,7 +58,7 @@ class CompareForms : public QObject, public ICompareView {
   /// The cards on the stage come above what has been raised there, and keep within its margins.
   void RaiseCards();
 
-  // --- IOverlayView
+  // --- ITransparencyView
   void ShowTransparency(bool shown) override;
   void PresentMix(const Surface& picture) override;
   void SetTransScroll(int value, bool enabled) override;

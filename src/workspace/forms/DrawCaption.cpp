@@ -76,7 +76,7 @@ void DrawCaption::SetText(const QString& text) {
 
 void DrawCaption::ShowColor(Colour colour) {
   swatch_->setStyleSheet(QString("background: %1; border: 1px solid rgba(255, 255, 255, 150); border-radius: 4px;")
-                             .arg(ColorOf(colour).name()));
+                             .arg(ToQColor(colour).name()));
   ShowParts(true);
   emit Changed();
 }

@@ -68,7 +68,7 @@ void EditForms::PlaceEditBar(int window) {
   strip_->PlaceOver(window, PictureRoom(window));
 }
 
-void EditForms::EnableHandle(int handle, bool enabled) {
+void EditForms::EnableHandle(EditHandle handle, bool enabled) {
   strip_->EnableHandle(handle, enabled);
   knobs_->SetEnabled(handle, enabled);
 }
@@ -82,15 +82,15 @@ void EditForms::ShowRotationGuide(bool shown) {
   if (!shown) knobs_->HideGuide();
 }
 
-int EditForms::HandleWidth(int handle) {
+int EditForms::HandleWidth(EditHandle handle) {
   return qRound(strip_->HandleSize(handle).width() * stage_->devicePixelRatioF() * kTwipsPerPixel);
 }
 
-int EditForms::HandleHeight(int handle) {
+int EditForms::HandleHeight(EditHandle handle) {
   return qRound(strip_->HandleSize(handle).height() * stage_->devicePixelRatioF() * kTwipsPerPixel);
 }
 
-bool EditForms::HandleEnabled(int handle) { return strip_->HandleEnabled(handle); }
+bool EditForms::HandleEnabled(EditHandle handle) { return strip_->HandleEnabled(handle); }
 
 void EditForms::ShowSelection(int window, const std::optional<SelectionMarks>& marks, const std::string& words) {
   strip_->SetWords(QString::fromStdString(words));

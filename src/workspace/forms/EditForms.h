@@ -37,13 +37,13 @@ class EditForms : public QObject, public IDrawingEditsView {
   // --- IEditBarView
   void ShowEditBar(bool shown) override;
   void PlaceEditBar(int window) override;
-  void EnableHandle(int handle, bool enabled) override;
+  void EnableHandle(EditHandle handle, bool enabled) override;
   void SetMultiButton(bool enabled, bool down) override;
   void ShowRotationGuide(bool shown) override;
-  int HandleWidth(int handle) override;
-  int HandleHeight(int handle) override;
+  int HandleWidth(EditHandle handle) override;
+  int HandleHeight(EditHandle handle) override;
   // --- IDrawingEditsView
-  bool HandleEnabled(int handle) override;
+  bool HandleEnabled(EditHandle handle) override;
   void ShowSelection(int window, const std::optional<SelectionMarks>& marks, const std::string& words) override;
   std::optional<std::string> AskMacroName(const ShapeList& drawing) override;
   void ShowMacroForm(bool shown) override;

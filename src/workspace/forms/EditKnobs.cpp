@@ -21,7 +21,7 @@ constexpr const char* kHandleProperty = "handle";
 /// A disc with the icon of what it does.
 class EditKnobs::Knob : public QWidget {
  public:
-  Knob(int handle, const char* icon, const QString& tip, Qt::CursorShape cursor, QWidget* stage)
+  Knob(EditHandle handle, const char* icon, const QString& tip, Qt::CursorShape cursor, QWidget* stage)
       : QWidget(stage), icon_(icon) {
     setObjectName(QString("EditKnob%1").arg(handle));
     setProperty(kHandleProperty, handle);
@@ -67,7 +67,7 @@ POINTAPI EditKnobs::PicturePoint(QPointF onStage) const {
 
 /// Inside the picture's part of the stage, so that every knob can be reached; a held one is where the
 /// mouse is.
-void EditKnobs::PlaceKnob(int handle, QPointF centre) {
+void EditKnobs::PlaceKnob(EditHandle handle, QPointF centre) {
   QWidget* knob = KnobOf(handle);
   knob->setVisible(enabled_[static_cast<std::size_t>(handle - kMoveHandle)]);
   if (held_ == handle) {
@@ -97,7 +97,7 @@ void EditKnobs::ShowRound(const QRectF& box, QPointF pivot, const QRect& room, Q
   Cover();
 }
 
-void EditKnobs::SetEnabled(int handle, bool enabled) {
+void EditKnobs::SetEnabled(EditHandle handle, bool enabled) {
   if (handle < kMoveHandle || handle > kRotateHandle) return;
   enabled_[static_cast<std::size_t>(handle - kMoveHandle)] = enabled;
   if (shown_) KnobOf(handle)->setVisible(enabled);
@@ -106,7 +106,7 @@ void EditKnobs::SetEnabled(int handle, bool enabled) {
 
 void EditKnobs::HideAll() {
   shown_ = false;
-  held_ = -1;
+  held_.reset();
   for (QWidget* knob : knobs_) knob->hide();
   Cover();
 }
@@ -169,12 +169,12 @@ bool EditKnobs::eventFilter(QObject* watched, QEvent* event) {
   auto* knob = static_cast<QWidget*>(watched);
   mouse_ = knob->mapToParent(mouse->position());
   if (type == QEvent::MouseButtonPress && mouse->button() == Qt::LeftButton) {
-    held_ = knob->property(kHandleProperty).toInt();
-    edits_->HandlePressed(held_, PicturePoint(mouse_));
-  } else if (type == QEvent::MouseMove && held_ >= 0) {
+    held_ = static_cast<EditHandle>(knob->property(kHandleProperty).toInt());
+    edits_->HandlePressed(*held_, PicturePoint(mouse_));
+  } else if (type == QEvent::MouseMove && held_) {
     edits_->HandleDragged(PicturePoint(mouse_));
-  } else if (type == QEvent::MouseButtonRelease && mouse->button() == Qt::LeftButton && held_ >= 0) {
-    held_ = -1;
+  } else if (type == QEvent::MouseButtonRelease && mouse->button() == Qt::LeftButton && held_) {
+    held_.reset();
     edits_->HandleReleased();
     edits_->ShowSelection();
   }

@@ -2,7 +2,6 @@
 
 #include <QWidget>
 #include <array>
-#include <functional>
 #include <optional>
 
 #include "workspace/edits/DrawingEdits.h"
@@ -23,7 +22,7 @@ class EditKnobs : public QWidget {
   /// @param room    the part of the stage in which the picture shows
   /// @param corner  the picture's corner on the stage
   void ShowRound(const QRectF& box, QPointF pivot, const QRect& room, QPointF corner);
-  void SetEnabled(int handle, bool enabled);
+  void SetEnabled(EditHandle handle, bool enabled);
   void HideAll();
   /// A ring about a point of the stage with a pointer to another: how far a drag has turned.
   void ShowGuide(QPointF centre, QPointF pointer);
@@ -36,9 +35,9 @@ class EditKnobs : public QWidget {
  private:
   class Knob;
 
-  QWidget* KnobOf(int handle) const { return knobs_[static_cast<std::size_t>(handle - kMoveHandle)]; }
+  QWidget* KnobOf(EditHandle handle) const { return knobs_[static_cast<std::size_t>(handle - kMoveHandle)]; }
   POINTAPI PicturePoint(QPointF onStage) const;
-  void PlaceKnob(int handle, QPointF centre);
+  void PlaceKnob(EditHandle handle, QPointF centre);
   void Cover();
 
   DrawingEdits* edits_ = nullptr;
@@ -51,7 +50,7 @@ class EditKnobs : public QWidget {
   QPointF corner_;
   bool shown_ = false;
   std::optional<std::pair<QPointF, QPointF>> guide_;
-  int held_ = -1;
+  std::optional<EditHandle> held_;
   QPointF mouse_;  ///< while a knob is held, in pixels of the stage
 };
 

@@ -28,7 +28,7 @@ constexpr const char* kStripSheet =
     "[look=\"card\"] QToolButton[main=\"true\"] { background: @accentFill; }"
     "[look=\"card\"] QToolButton[main=\"true\"]:hover { background: @accentHover; }";
 
-bool Dragged(int handle) { return handle >= kMoveHandle && handle <= kRotateHandle; }
+bool Dragged(EditHandle handle) { return handle >= kMoveHandle && handle <= kRotateHandle; }
 
 }  // namespace
 
@@ -58,7 +58,7 @@ EditStrip::EditStrip(QWidget* stage) : StagePanel("picEditBar", stage) {
   FirstDress();
 }
 
-void EditStrip::AddHandle(int handle, const char* icon, const QString& tip) {
+void EditStrip::AddHandle(EditHandle handle, const char* icon, const QString& tip) {
   QToolButton* button = StageButton(QString("cmdEBBtn%1").arg(handle), icon, tip, this);
   button->setProperty(kHandleProperty, handle);
   if (Dragged(handle)) {
@@ -73,12 +73,12 @@ void EditStrip::AddHandle(int handle, const char* icon, const QString& tip) {
 
 // ---------------------------------------------------------------- handles
 
-void EditStrip::EnableHandle(int handle, bool enabled) {
+void EditStrip::EnableHandle(EditHandle handle, bool enabled) {
   QToolButton* button = handles_[static_cast<std::size_t>(handle)];
   if (button) button->setEnabled(enabled);
 }
 
-bool EditStrip::HandleEnabled(int handle) const {
+bool EditStrip::HandleEnabled(EditHandle handle) const {
   const QToolButton* button = handles_[static_cast<std::size_t>(handle)];
   return button && button->isEnabled();
 }
@@ -94,23 +94,23 @@ void EditStrip::SetWords(const QString& words) {
   Arrange();
 }
 
-QPoint EditStrip::HandleCentre(int handle) const {
+QPoint EditStrip::HandleCentre(EditHandle handle) const {
   const QToolButton* button = handles_[static_cast<std::size_t>(handle)];
   return button->mapTo(parentWidget(), button->rect().center());
 }
 
-QSize EditStrip::HandleSize(int handle) const {
+QSize EditStrip::HandleSize(EditHandle handle) const {
   const QToolButton* button = handles_[static_cast<std::size_t>(handle)];
   return button ? button->size() : QSize();
 }
 
 bool EditStrip::eventFilter(QObject* watched, QEvent* event) {
-  return DragHandle(watched->property(kHandleProperty).toInt(), *event);
+  return DragHandle(static_cast<EditHandle>(watched->property(kHandleProperty).toInt()), *event);
 }
 
 /// Hands the left button on to the edit bar, in twips of the handle, 15 to a pixel of the picture. The
 /// button itself sees press and release as well, so that it looks pressed.
-bool EditStrip::DragHandle(int handle, QEvent& event) {
+bool EditStrip::DragHandle(EditHandle handle, QEvent& event) {
   const auto type = event.type();
   if (type != QEvent::MouseButtonPress && type != QEvent::MouseMove && type != QEvent::MouseButtonRelease) return false;
   const auto& mouse = static_cast<QMouseEvent&>(event);

@@ -25,13 +25,13 @@ class EditStrip : public StagePanel {
   void SetEdits(DrawingEdits& edits) { edits_ = &edits; }
   /// Puts it over a picture, pixels of the stage; another one takes back what the user moved.
   void PlaceOver(int window, const QRect& picture);
-  void EnableHandle(int handle, bool enabled);
-  bool HandleEnabled(int handle) const;
+  void EnableHandle(EditHandle handle, bool enabled);
+  bool HandleEnabled(EditHandle handle) const;
   void SetMultiButton(bool enabled, bool down);
   void SetWords(const QString& words);
   /// Middle of a handle on the stage.
-  QPoint HandleCentre(int handle) const;
-  QSize HandleSize(int handle) const;
+  QPoint HandleCentre(EditHandle handle) const;
+  QSize HandleSize(EditHandle handle) const;
 
  signals:
   /// The mouse on the turning handle while it is held, in pixels of the stage.
@@ -43,8 +43,8 @@ class EditStrip : public StagePanel {
   void MovedTo(QPoint corner) override;
 
  private:
-  void AddHandle(int handle, const char* icon, const QString& tip);
-  bool DragHandle(int handle, QEvent& event);
+  void AddHandle(EditHandle handle, const char* icon, const QString& tip);
+  bool DragHandle(EditHandle handle, QEvent& event);
   void Arrange();
   void Dress() override;
 

@@ -30,7 +30,7 @@ void ShowDrawing(SurfaceView& view, const ShapeList& drawing, const ShapeLook& l
   const double light = drawing.NumShapes > 0 ? 0.42 : 0;
   const ShapeLook bold{2 * look.CadWidth, look.CadOutline, look.PathHighlight};
   view.Show(PaintMacro(drawing, qRound(view.width() * ratio), qRound(view.height() * ratio),
-                       ColourOf(Mix(StageLook::Current().ground, Qt::white, light)), bold));
+                       FromQColor(Mix(StageLook::Current().ground, Qt::white, light)), bold));
 }
 
 MacroForm::MacroForm(DrawingEdits& edits, QWidget* stage)

@@ -13,8 +13,8 @@
 
 namespace kinalyx {
 
-TransFrame::TransFrame(Overlay& overlay, Stage& theStage, QWidget* parent)
-    : StagePanel("TransFrame", parent), overlay_(overlay), theStage_(theStage) {
+TransFrame::TransFrame(Transparency& transparency, Stage& theStage, QWidget* parent)
+    : StagePanel("TransFrame", parent), transparency_(transparency), theStage_(theStage) {
   setProperty("look", "bar");
   auto* rows = new QVBoxLayout(this);
   rows->setContentsMargins(10, 8, 10, 6);
@@ -36,7 +36,7 @@ TransFrame::TransFrame(Overlay& overlay, Stage& theStage, QWidget* parent)
     option->setToolTip(tips[i]);
     option->setFocusPolicy(Qt::TabFocus);
     group->addButton(option);
-    connect(option, &QPushButton::clicked, this, [this, i] { overlay_.Show(static_cast<ShowOption>(i)); });
+    connect(option, &QPushButton::clicked, this, [this, i] { transparency_.Show(static_cast<ShowOption>(i)); });
     top->addWidget(option);
     options_[static_cast<std::size_t>(i)] = option;
   }
@@ -50,13 +50,13 @@ TransFrame::TransFrame(Overlay& overlay, Stage& theStage, QWidget* parent)
   mix_->setFocusPolicy(Qt::TabFocus);
   mix_->setToolTip(tr("Vid1             l            Vid2"));
   mix_->setAccessibleName(tr("Mix of the two videos"));
-  connect(mix_, &QSlider::valueChanged, this, [this](int value) { overlay_.SetMix(value); });
+  connect(mix_, &QSlider::valueChanged, this, [this](int value) { transparency_.SetMix(value); });
   top->addWidget(mix_, 1);
   top->addSpacing(8);
   top->addWidget(MakeLabel("TransRight", tr("Vid2"), nullptr, this));
   top->addSpacing(16);
   QToolButton* close = StageButton("Closetrans", "close", tr("Leave transparency mode (Esc)"), this);
-  connect(close, &QToolButton::clicked, this, [this] { overlay_.LeaveTransparency(); });
+  connect(close, &QToolButton::clicked, this, [this] { transparency_.LeaveTransparency(); });
   top->addWidget(close);
   rows->addLayout(top);
 
@@ -94,7 +94,7 @@ void TransFrame::MakeVideo(int window, QHBoxLayout* row) {
     button->setAutoRepeatDelay(350);
     button->setAutoRepeatInterval(60);
     connect(button, &QToolButton::clicked, this, [this, window, i] {
-      overlay_.ControlVideo(window, static_cast<VideoControl>(i));
+      transparency_.ControlVideo(window, static_cast<VideoControl>(i));
     });
     row->addWidget(button);
     video.buttons[static_cast<std::size_t>(i)] = button;
@@ -102,7 +102,7 @@ void TransFrame::MakeVideo(int window, QHBoxLayout* row) {
   video.scroll = new SeekBar(this);
   video.scroll->setObjectName(QString("HScroll%1").arg(window));
   connect(video.scroll, &SeekBar::Sought, this, [this, window](int position) {
-    overlay_.SeekVideo(window, position);
+    transparency_.SeekVideo(window, position);
   });
   row->addWidget(video.scroll, 1);
 }

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "workspace/compare/Overlay.h"
+#include "workspace/compare/Transparency.h"
 #include "workspace/forms/SeekBar.h"
 #include "workspace/forms/StageParts.h"
 #include "workspace/forms/StagePanel.h"
@@ -19,7 +19,7 @@ class TransFrame : public StagePanel {
   Q_OBJECT
 
  public:
-  TransFrame(Overlay& overlay, Stage& theStage, QWidget* parent);
+  TransFrame(Transparency& transparency, Stage& theStage, QWidget* parent);
 
   void SetTransScroll(int value, bool enabled);
   void SelectOption(ShowOption option);
@@ -40,7 +40,7 @@ class TransFrame : public StagePanel {
   void Dress() override;
   Video& Of(int window) { return videos_[static_cast<std::size_t>(window - 1)]; }
 
-  Overlay& overlay_;
+  Transparency& transparency_;
   Stage& theStage_;
   std::array<QPushButton*, 4> options_{};
   QSlider* mix_ = nullptr;

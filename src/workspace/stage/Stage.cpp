@@ -39,7 +39,7 @@ Stage::Stage(IHost& host, const Settings& settings, IStageView& view, IStageEven
 void Stage::AttachPlayer(int slot, AVIControl& player) {
   At(slot).MP = &player;
   player.setID(slot);
-  player.setDrawMode(static_cast<int>(Rop2::CopyPen));
+  player.setDrawMode(Rop2::CopyPen);
   player.setDrawWidth(settings_.CadWidth);
 }
 

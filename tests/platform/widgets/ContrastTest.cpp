@@ -141,11 +141,11 @@ TEST(Contrast, EveryFrameThatSaysSomethingCanBeMadeOutInEveryScheme) {
 TEST(Contrast, TheSchemesOwnColoursAreKept) {
   for (const ColorScheme& scheme : ColorSchemes::All()) {
     const Theme theme = Theme::FromSlots(scheme.colours);
-    EXPECT_EQ(ColourOf(theme.accent), scheme.colours[0]);
-    EXPECT_EQ(ColourOf(theme.panel), scheme.colours[1]);
-    EXPECT_EQ(ColourOf(theme.backdrop), scheme.colours[3]);
-    if (ContrastRatio(ColorOf(scheme.colours[2]), theme.accent) >= kReadable) {
-      EXPECT_EQ(ColourOf(theme.accentText), scheme.colours[2]);
+    EXPECT_EQ(FromQColor(theme.accent), scheme.colours[0]);
+    EXPECT_EQ(FromQColor(theme.panel), scheme.colours[1]);
+    EXPECT_EQ(FromQColor(theme.backdrop), scheme.colours[3]);
+    if (ContrastRatio(ToQColor(scheme.colours[2]), theme.accent) >= kReadable) {
+      EXPECT_EQ(FromQColor(theme.accentText), scheme.colours[2]);
     }
   }
 }

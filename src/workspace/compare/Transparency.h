@@ -16,9 +16,9 @@ enum class ShowOption { Transparency = 0, SplitScreen = 1, VideoWindow1 = 2, Vid
 enum class VideoControl { Rewind = 0, Back = 1, Play = 2, Forward = 3, Loop = 4, Slow = 5 };
 
 /// What transparency mode asks of the window that shows it. Windows here are 1 and 2.
-class IOverlayView {
+class ITransparencyView {
  public:
-  virtual ~IOverlayView() = default;
+  virtual ~ITransparencyView() = default;
   /// Shows or hides `TransPanel` over the stage, and `TransFrame`.
   virtual void ShowTransparency(bool shown) = 0;
   /// The picture of `TransPanel`; good for the call only.
@@ -34,9 +34,9 @@ class IOverlayView {
 /// shows half of each side by side. What is drawn on the videos is in their pictures, and so in the mix.
 /// Each video stands in the mix as its own zoom and pan place it, so that two players can be brought to
 /// lie on each other.
-class Overlay final : private ITakesStage {
+class Transparency final : private ITakesStage {
  public:
-  Overlay(IHost& host, Settings& settings, Stage& stage, LockedVideos& locks, IOverlayView& view,
+  Transparency(IHost& host, Settings& settings, Stage& stage, LockedVideos& locks, ITransparencyView& view,
           ICompareEvents& events);
 
   /// Enters or leaves the mode, which has windows 1 and 2 side by side underneath.
@@ -112,7 +112,7 @@ class Overlay final : private ITakesStage {
   Settings& settings_;
   Stage& stage_;
   LockedVideos& locks_;
-  IOverlayView& view_;
+  ITransparencyView& view_;
   ICompareEvents& events_;
   bool on_ = false;
   Surface TransPanel_;

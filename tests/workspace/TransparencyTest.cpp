@@ -1,4 +1,4 @@
-#include "workspace/compare/Overlay.h"
+#include "workspace/compare/Transparency.h"
 
 #include <gtest/gtest.h>
 
@@ -11,12 +11,12 @@ using test::AnalysisStage;
 using test::FakeCompareView;
 using test::RawVideo;
 
-class OverlayTest : public testing::Test {
+class TransparencyTest : public testing::Test {
  protected:
   void SetUp() override {
     ASSERT_TRUE(stage_.Open(1, RawVideo(40), 3));
     ASSERT_TRUE(stage_.Open(2, RawVideo(40), 21));
-    overlay_.ToggleTransparency();
+    transparency_.ToggleTransparency();
     ASSERT_TRUE(view_.transparency);
   }
   /// A point of the mix at which the two pictures, which are of one size, differ.
@@ -36,17 +36,17 @@ class OverlayTest : public testing::Test {
   }
   Colour Mix(POINTAPI point) const { return view_.mix.Pixel(point.x, point.y); }
   void SetMix(int value) {
-    overlay_.SlideMix(value);
+    transparency_.SlideMix(value);
     stage_.host.Advance(0);
   }
 
   AnalysisStage stage_{"4", 1200, 600};
   LockedVideos& locks_ = stage_.Modes().Locks();
   const FakeCompareView& view_ = stage_.compareView;
-  Overlay& overlay_ = stage_.Modes().Transparency();
+  Transparency& transparency_ = stage_.Modes().Transparency();
 };
 
-TEST_F(OverlayTest, SliderGoesFromOneVideoToTheOther) {
+TEST_F(TransparencyTest, SliderGoesFromOneVideoToTheOther) {
   EXPECT_EQ(stage_.Stage().ScreenLayout, "2");
   EXPECT_EQ(view_.scroll, 128);
   const POINTAPI at = Probe();
@@ -60,14 +60,14 @@ TEST_F(OverlayTest, SliderGoesFromOneVideoToTheOther) {
   EXPECT_EQ(view_.option, ShowOption::Transparency);
   for (const auto part : {Red, Green, Blue})
     EXPECT_NEAR(part(Mix(at)), part(Of(2, at)) * 64 / 255.0 + part(Of(1, at)) * 191 / 255.0, 1.01);
-  overlay_.ToggleTransparency();
+  transparency_.ToggleTransparency();
   EXPECT_FALSE(view_.transparency);
   EXPECT_EQ(stage_.Stage().ScreenLayout, "4");
 }
 
-TEST_F(OverlayTest, PresetsWalkBySteps) {
+TEST_F(TransparencyTest, PresetsWalkBySteps) {
   std::vector<int> seen;
-  overlay_.Show(ShowOption::VideoWindow1);  // from 128 down to 0
+  transparency_.Show(ShowOption::VideoWindow1);  // from 128 down to 0
   for (int step = 0; step < 20; ++step) {
     stage_.host.Advance(20);
     if (seen.empty() || seen.back() != view_.scroll) seen.push_back(view_.scroll);
@@ -76,18 +76,18 @@ TEST_F(OverlayTest, PresetsWalkBySteps) {
   EXPECT_EQ(view_.option, ShowOption::VideoWindow1);
   EXPECT_EQ(Mix(Probe()), Of(1, Probe()));
   // The user's hand on the slider ends a walk.
-  overlay_.Show(ShowOption::VideoWindow2);
+  transparency_.Show(ShowOption::VideoWindow2);
   stage_.host.Advance(60);
   EXPECT_EQ(view_.scroll, 45);
-  overlay_.SlideMix(200);
+  transparency_.SlideMix(200);
   stage_.host.Advance(1000);
-  EXPECT_EQ(overlay_.TransScroll(), 200);
+  EXPECT_EQ(transparency_.TransScroll(), 200);
   EXPECT_EQ(view_.option, ShowOption::Transparency);
 }
 
-TEST_F(OverlayTest, SplitScreenShowsTheMiddleHalfOfEachCell) {
+TEST_F(TransparencyTest, SplitScreenShowsTheMiddleHalfOfEachCell) {
   SetMix(0);
-  overlay_.Show(ShowOption::SplitScreen);
+  transparency_.Show(ShowOption::SplitScreen);
   EXPECT_FALSE(view_.scrollEnabled);
   EXPECT_EQ(Mix({500, 301}), Of(1, {500, 301})) << "the old picture has not gone yet";
   stage_.host.Advance(1000);
@@ -99,15 +99,15 @@ TEST_F(OverlayTest, SplitScreenShowsTheMiddleHalfOfEachCell) {
   EXPECT_EQ(view_.mix.Pixel(750, 300), second.Pixel(second.Width() / 2, 300 - top));
   EXPECT_EQ(view_.mix.Pixel(299, 300), 0);
   EXPECT_EQ(view_.mix.Pixel(901, 300), 0);
-  overlay_.SlideMix(10);  // has no effect now
-  EXPECT_EQ(overlay_.Shown(), ShowOption::SplitScreen);
-  overlay_.Show(ShowOption::Transparency);
+  transparency_.SlideMix(10);  // has no effect now
+  EXPECT_EQ(transparency_.Shown(), ShowOption::SplitScreen);
+  transparency_.Show(ShowOption::Transparency);
   stage_.host.Advance(1000);
   EXPECT_TRUE(view_.scrollEnabled);
-  EXPECT_EQ(overlay_.TransScroll(), 128);
+  EXPECT_EQ(transparency_.TransScroll(), 128);
 }
 
-TEST_F(OverlayTest, MixFollowsBothVideosOncePerTurn) {
+TEST_F(TransparencyTest, MixFollowsBothVideosOncePerTurn) {
   ASSERT_TRUE(locks_.DualLock(1));
   SetMix(255);
   const int before = view_.mixes;
@@ -131,7 +131,7 @@ TEST_F(OverlayTest, MixFollowsBothVideosOncePerTurn) {
   EXPECT_EQ(view_.mix.Pixel(600, 300), Rgb(1, 2, 3));
 }
 
-TEST_F(OverlayTest, EachVideoStandsWhereItsPanPutsIt) {
+TEST_F(TransparencyTest, EachVideoStandsWhereItsPanPutsIt) {
   SetMix(255);
   const Surface& picture = stage_.MP(2).Picture();
   stage_.Stage().CurrentWindow = 2;
@@ -142,26 +142,26 @@ TEST_F(OverlayTest, EachVideoStandsWhereItsPanPutsIt) {
   EXPECT_EQ(view_.mix.Pixel(left - 1, 300), 0);
 }
 
-TEST_F(OverlayTest, EachVideoRunsFromItsOwnButtons) {
-  overlay_.ControlVideo(1, VideoControl::Forward);
+TEST_F(TransparencyTest, EachVideoRunsFromItsOwnButtons) {
+  transparency_.ControlVideo(1, VideoControl::Forward);
   EXPECT_EQ(stage_.At(1), 4);
-  overlay_.ControlVideo(2, VideoControl::Loop);
+  transparency_.ControlVideo(2, VideoControl::Loop);
   EXPECT_TRUE(stage_.MP(2).IsPlaying());
   EXPECT_TRUE(view_.playing.at(2));
   stage_.host.Advance(3000);
   EXPECT_TRUE(stage_.MP(2).IsPlaying());
   EXPECT_EQ(stage_.At(1), 4);
-  overlay_.ControlVideo(2, VideoControl::Play);
+  transparency_.ControlVideo(2, VideoControl::Play);
   EXPECT_FALSE(stage_.MP(2).IsPlaying());
   EXPECT_FALSE(view_.playing.at(2));
-  overlay_.SeekVideo(2, 7);
+  transparency_.SeekVideo(2, 7);
   EXPECT_EQ(stage_.At(2), 7);
   ASSERT_TRUE(locks_.DualLock(1));
-  overlay_.SeekVideo(2, 10);
+  transparency_.SeekVideo(2, 10);
   EXPECT_EQ(stage_.At(1), 7);  // comes along
   ASSERT_TRUE(stage_.Videos().CloseVideo(2));
   stage_.EndTurn();
-  overlay_.ControlVideo(2, VideoControl::Play);  // empty: nothing to do
+  transparency_.ControlVideo(2, VideoControl::Play);  // empty: nothing to do
   EXPECT_EQ(view_.bars.at(2), (std::array{0, 0, 0}));
   SetMix(255);
   EXPECT_EQ(view_.mix.Pixel(600, 300), 0);

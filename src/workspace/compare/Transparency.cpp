@@ -1,4 +1,4 @@
-#include "workspace/compare/Overlay.h"
+#include "workspace/compare/Transparency.h"
 
 #include <algorithm>
 
@@ -17,17 +17,17 @@ constexpr int kFull = 255;
 
 }  // namespace
 
-Overlay::Overlay(IHost& host, Settings& settings, Stage& stage, LockedVideos& locks, IOverlayView& view,
+Transparency::Transparency(IHost& host, Settings& settings, Stage& stage, LockedVideos& locks, ITransparencyView& view,
                  ICompareEvents& events)
     : host_(host), settings_(settings), stage_(stage), locks_(locks), view_(view), events_(events) {}
 
-AVIControl* Overlay::Player(int window) { return stage_.HasVideo(window) ? &stage_.MP(window) : nullptr; }
+AVIControl* Transparency::Player(int window) { return stage_.HasVideo(window) ? &stage_.MP(window) : nullptr; }
 
 // ---------------------------------------------------------------- entering and leaving
 
-bool Overlay::CanShow() const { return on_ || (stage_.HasVideo(1) && stage_.HasVideo(2)); }
+bool Transparency::CanShow() const { return on_ || (stage_.HasVideo(1) && stage_.HasVideo(2)); }
 
-void Overlay::ToggleTransparency() {
+void Transparency::ToggleTransparency() {
   if (on_) {
     LeaveTransparency();
   } else if (CanShow()) {
@@ -35,7 +35,7 @@ void Overlay::ToggleTransparency() {
   }
 }
 
-void Overlay::Enter() {
+void Transparency::Enter() {
   events_.GiveWay();
   on_ = true;
   view_.ShowTransparency(true);
@@ -50,11 +50,11 @@ void Overlay::Enter() {
   CMDDISAct();
 }
 
-void Overlay::LeaveTransparency() {
+void Transparency::LeaveTransparency() {
   if (on_) stage_.ComeHome();
 }
 
-void Overlay::StageLost() {
+void Transparency::StageLost() {
   on_ = false;
   walk_.Stop();
   refresh_.Stop();
@@ -64,7 +64,7 @@ void Overlay::StageLost() {
   stage_.BarHidden = false;
 }
 
-void Overlay::Resize(int width, int height) {
+void Transparency::Resize(int width, int height) {
   if (width == TransPanel_.Width() && height == TransPanel_.Height()) return;
   TransPanel_ = Surface(width, height);
   dissolveTimer_.Stop();
@@ -75,24 +75,24 @@ void Overlay::Resize(int width, int height) {
 // ---------------------------------------------------------------- the picture
 
 /// In the mix a picture stands as in its cell, with the middle of the cell in the middle of the panel.
-POINTAPI Overlay::PictureCorner(int window) const {
+POINTAPI Transparency::PictureCorner(int window) const {
   const Slot& slot = stage_.At(window);
   const Surface& picture = slot.MP->Picture();
   return {(TransPanel_.Width() - picture.Width()) / 2 + SurfacePixels(slot, slot.PanX * slot.VideoZoom),
           (TransPanel_.Height() - picture.Height()) / 2 + SurfacePixels(slot, slot.PanY * slot.VideoZoom)};
 }
 
-PlacedPicture Overlay::Placed(int window) const {
+PlacedPicture Transparency::Placed(int window) const {
   if (!stage_.HasVideo(window)) return {none_};
   const POINTAPI corner = PictureCorner(window);
   return {stage_.MP(window).Picture(), corner.x, corner.y};
 }
 
-void Overlay::ComposeMix() { MixPictures(Placed(1), Placed(2), mix_, TransPanel_); }
+void Transparency::ComposeMix() { MixPictures(Placed(1), Placed(2), mix_, TransPanel_); }
 
 /// The middle half of each cell, side by side around the middle of the panel: with two cells side by side
 /// an eighth and five eighths of the stage are where the halves begin.
-void Overlay::ComposeSplit() {
+void Transparency::ComposeSplit() {
   TransPanel_.Clear(0);
   for (const int window : {1, 2}) {
     if (!stage_.HasVideo(window)) continue;
@@ -102,27 +102,27 @@ void Overlay::ComposeSplit() {
   }
 }
 
-Overlay::SplitHalf Overlay::HalfOf(int window) const {
+Transparency::SplitHalf Transparency::HalfOf(int window) const {
   const Slot& slot = stage_.At(window);
   const int half = SurfacePixels(slot, slot.cell.Width) / 2;
   const int fromX = SurfacePixels(slot, slot.cell.Width / 4.0 - slot.panel.Left - PlayerPlace(slot).Left);
   return {fromX, TransPanel_.Width() / 2 - (window == 1 ? half : 0), half};
 }
 
-int Overlay::WindowAt(POINTAPI point) const {
+int Transparency::WindowAt(POINTAPI point) const {
   const int side = point.x < TransPanel_.Width() / 2 ? 1 : 2;
   const int window = option_ == ShowOption::SplitScreen ? side : std::min(stage_.CurrentWindow, 2);
   return stage_.HasVideo(window) ? window : 0;
 }
 
-POINTAPI Overlay::InPicture(int window, POINTAPI point) const {
+POINTAPI Transparency::InPicture(int window, POINTAPI point) const {
   const POINTAPI corner = PictureCorner(window);
   if (option_ != ShowOption::SplitScreen) return {point.x - corner.x, point.y - corner.y};
   const SplitHalf half = HalfOf(window);
   return {point.x - half.toX + half.fromX, point.y - corner.y};
 }
 
-void Overlay::CMDDISAct() {
+void Transparency::CMDDISAct() {
   refresh_.Stop();
   if (!on_ || TransPanel_.Empty()) return;
   if (option_ == ShowOption::SplitScreen) {
@@ -134,21 +134,21 @@ void Overlay::CMDDISAct() {
   view_.PresentMix(TransPanel_);
 }
 
-void Overlay::Refresh() {
+void Transparency::Refresh() {
   if (!on_ || refresh_.Running()) return;
   refresh_ = HostTimer(host_, 0, false, [this] { CMDDISAct(); });
 }
 
 // ---------------------------------------------------------------- slider and presets
 
-void Overlay::SetOption(ShowOption option) {
+void Transparency::SetOption(ShowOption option) {
   option_ = option;
   guard_ = true;
   view_.SelectOptShow(option);
   guard_ = false;
 }
 
-void Overlay::SlideMix(int value) {
+void Transparency::SlideMix(int value) {
   if (guard_ || option_ == ShowOption::SplitScreen) return;
   walk_.Stop();
   mix_ = TransTarget_ = std::clamp(value, 0, kFull);
@@ -158,11 +158,11 @@ void Overlay::SlideMix(int value) {
   Refresh();
 }
 
-void Overlay::SetMix(int value) {
+void Transparency::SetMix(int value) {
   if (value != mix_) SlideMix(value);
 }
 
-void Overlay::Show(ShowOption option) {
+void Transparency::Show(ShowOption option) {
   if (guard_) return;
   const bool wasSplit = option_ == ShowOption::SplitScreen;
   const bool split = option == ShowOption::SplitScreen;
@@ -179,7 +179,7 @@ void Overlay::Show(ShowOption option) {
 }
 
 /// One step of the slide.
-void Overlay::Walk() {
+void Transparency::Walk() {
   mix_ += std::clamp(TransTarget_ - mix_, -kWalkStep, kWalkStep);
   if (mix_ == TransTarget_) walk_.Stop();
   guard_ = true;
@@ -189,7 +189,7 @@ void Overlay::Walk() {
 }
 
 /// What is shown now gives way to what comes in a pattern that thins out.
-void Overlay::BeginDissolve() {
+void Transparency::BeginDissolve() {
   if (!on_ || TransPanel_.Empty()) return;
   before_ = TransPanel_;
   dissolve_ = 1;
@@ -204,7 +204,7 @@ void Overlay::BeginDissolve() {
 
 // ---------------------------------------------------------------- each video by itself
 
-void Overlay::ControlVideo(int window, VideoControl control) {
+void Transparency::ControlVideo(int window, VideoControl control) {
   AVIControl* player = Player(window);
   if (!player) return;
   locks_.StopTogether();
@@ -220,11 +220,11 @@ void Overlay::ControlVideo(int window, VideoControl control) {
   Refresh();
 }
 
-void Overlay::SeekVideo(int window, int value) {
+void Transparency::SeekVideo(int window, int value) {
   if (!guard_ && Player(window)) locks_.Seek(window, value);
 }
 
-void Overlay::ShowControls() {
+void Transparency::ShowControls() {
   if (!on_) return;
   guard_ = true;
   for (const int window : {1, 2}) {
@@ -239,17 +239,17 @@ void Overlay::ShowControls() {
 
 // ---------------------------------------------------------------- from outside
 
-void Overlay::Signal(int slot) {
+void Transparency::Signal(int slot) {
   if (!on_ || slot > 2) return;
   ShowControls();
   Refresh();
 }
 
-void Overlay::Notify(int slot) {
+void Transparency::Notify(int slot) {
   if (slot <= 2) ShowControls();
 }
 
-void Overlay::StateChanged() {
+void Transparency::StateChanged() {
   ShowControls();
   Refresh();
 }
