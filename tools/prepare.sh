@@ -10,6 +10,7 @@ kinalyx_packages=(
   libyuv-dev libfmt-dev
 )
 kinalyx_test_packages=(libgtest-dev libgmock-dev)
+kinalyx_lint_packages=(clang-format clang-tidy)
 
 # A name that ends in "?" is welcome but not needed: it is taken only where Debian has it.
 kinalyx_install() {
