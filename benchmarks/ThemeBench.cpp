@@ -23,6 +23,12 @@
 namespace kinalyx::bench {
 namespace {
 
+/// In which nothing is open.
+class NoAnalysis final : public IAnalysisLink {
+  bool IsOpenInAnalysis(const std::string&) const override { return false; }
+  int SendToAnalysis(const std::string&, const std::function<void(const std::string&)>&) override { return 0; }
+};
+
 const Register kThemeSwitch({"theme_switch", {Target::Of::AtMost, 150, 60}, [] {
   Log log(ScratchFolder() + "/bench.log");
   const std::unique_ptr<IHost> host = MakeQtHost(log);
@@ -36,7 +42,8 @@ const Register kThemeSwitch({"theme_switch", {Target::Of::AtMost, 150, 60}, [] {
   LastStudentInfo remembered;
   PlayScheduler scheduler(*host);
   PlayerServices players{*host, scheduler};
-  LibraryOperations operations(*host, settings, {});
+  NoAnalysis analysis;
+  LibraryOperations operations(*host, settings, analysis);
 
   auto& application = *static_cast<QApplication*>(QCoreApplication::instance());
   ApplyTheme(application, Theme::FromSlots(schemes.Colours()));

@@ -37,7 +37,7 @@ QString Tip(int index, const QString& caption) {
 
 }  // namespace
 
-Main::Main(QWidget* parent) : QWidget(parent) {
+Main::Main(IMainEvents& events, QWidget* parent) : QWidget(parent), events_(events) {
   setObjectName("Main");
   setAttribute(Qt::WA_StyledBackground);
   auto* rows = new QVBoxLayout(this);
@@ -190,13 +190,10 @@ void Main::SetFullScreen(bool on) {
 
 void Main::closeEvent(QCloseEvent* event) {
   // Whoever is asked may let events run, and with them the wish to close once more.
-  const auto ask = std::exchange(closing, nullptr);
-  if (closed_ || !ask) {
-    event->setAccepted(closed_);
-    return;
+  if (!closed_ && !std::exchange(asking_, true)) {
+    closed_ = events_.MainMayClose();
+    asking_ = false;
   }
-  closed_ = ask();
-  closing = ask;
   event->setAccepted(closed_);
 }
 

@@ -3,7 +3,6 @@
 #include <QString>
 #include <QWidget>
 #include <array>
-#include <functional>
 
 #include "platform/widgets/PageWidget.h"
 
@@ -28,13 +27,22 @@ enum MainPage {
   kPageCount = 8,
 };
 
+/// What the hub window asks before it goes.
+class IMainEvents {
+ public:
+  virtual ~IMainEvents() = default;
+  /// The window is to be closed, however that was begun. With true it goes and asks no more; with false it stays.
+  virtual bool MainMayClose() = 0;
+};
+
 /// The hub window: a heading, a rail of sections and the page that is open. Decides nothing: it shows the
 /// pages that it is given and tells which one the user wants.
 class Main : public QWidget {
   Q_OBJECT
 
  public:
-  explicit Main(QWidget* parent = nullptr);
+  /// @param events  outlives the window
+  explicit Main(IMainEvents& events, QWidget* parent = nullptr);
   ~Main() override;
 
   /// Gives a page its place; the window becomes its parent. An earlier page there is let go.
@@ -59,9 +67,6 @@ class Main : public QWidget {
   /// With nothing around the window, the heading carries buttons that put it away and close it.
   void SetFullScreen(bool on);
 
-  /// Asked before the window closes, however that was begun. With true the window goes and asks no more;
-  /// with false it stays.
-  std::function<bool()> closing;
   bool Closed() const { return closed_; }
 
  signals:
@@ -78,6 +83,7 @@ class Main : public QWidget {
   QWidget* MakeHeading();
   QWidget* MakeRail();
 
+  IMainEvents& events_;
   QLabel* logo_ = nullptr;
   QLabel* title_ = nullptr;
   QLabel* company_ = nullptr;
@@ -88,6 +94,7 @@ class Main : public QWidget {
   std::array<TileButton*, 9> sections_{};
   std::array<PageWidget*, kPageCount> pages_{};
   int current_ = -1;   ///< the page that is shown; after DropPage or at first none
+  bool asking_ = false;  ///< whether it may close
   bool closed_ = false;
 };
 

@@ -5,8 +5,6 @@
 #include <QScreen>
 #include <utility>
 
-#include "app/Main.h"
-#include "core/StartUp.h"
 #include "core/forms/FirstForm.h"
 #include "core/forms/HelpPage.h"
 #include "core/forms/MenuPage.h"
@@ -39,40 +37,40 @@ Program::Program(QApplication& application, Log& log)
     : application_(application),
       host_(MakeQtHost(log)),
       printer_(MakePrinter()),
-      settings_(*host_, Settings::UserDataPath(), ProgramFolder()),
+      settings_(*host_, Settings::UserDataPath(), ProgramFolder(), *this),
       mail_(settings_.DataPath),
       vocabulary_(settings_),
       fields_(JoinPath(settings_.DataPath, "fields.ini")),
       scheduler_(*host_),
       players_{*host_, scheduler_},
-      operations_(*host_, settings_, LinkToAnalysis()) {}
+      operations_(*host_, settings_, *this) {}
 
 Program::~Program() = default;
 
 int Program::Run() {
   DressApplication();  // for what is told while the settings are read
-  StartUp(settings_, mail_, schemes_,
-          {.applyScheme =
-               [this] {
-                 const WindowPlace place = PlaceOfMain();
-                 TakeSize(place.width / kTwipsPerPixel, place.height / kTwipsPerPixel);
-                 DressApplication();
-               },
-           .ensureFields = [this] { fields_.EnsureFile(); },
-           .showSplash =
-               [this] {
-                 splash_ = std::make_unique<SplashForm>(QCoreApplication::applicationVersion());
-                 splash_->Stay(*host_);
-               },
-           .loadMain = [this] { LoadMain(); },
-           .showFirstForm = [this] { ShowFirstForm(); },
-           .closeSplash = [this] { splash_.reset(); }});
+  StartUp(settings_, mail_, schemes_, *this);
   // The main form may have been closed already, from within the first form.
   const int result = main_->Closed() ? 0 : application_.exec();
   main_.reset();
   if (RestartFlag_) host_->StartDetached(QCoreApplication::applicationFilePath().toStdString(), {});
   return result;
 }
+
+void Program::ApplyScheme() {
+  const WindowPlace place = PlaceOfMain();
+  TakeSize(place.width / kTwipsPerPixel, place.height / kTwipsPerPixel);
+  DressApplication();
+}
+
+void Program::EnsureFields() { fields_.EnsureFile(); }
+
+void Program::ShowSplash() {
+  splash_ = std::make_unique<SplashForm>(QCoreApplication::applicationVersion());
+  splash_->Stay(*host_);
+}
+
+void Program::CloseSplash() { splash_.reset(); }
 
 bool Program::TakeSize(int width, int height) {
   resizeControls_.Resize(width, height);
@@ -96,8 +94,8 @@ void Program::DressApplication() { ApplyTheme(application_, Theme::FromSlots(sch
 void Program::LoadMain() {
   fields_.SetupFields();
   lastStudent_ = {settings_.LastInstructor, settings_.LastStudent, {}};
-  main_ = std::make_unique<Main>();
-  main_->closing = [this] { return Shutdown(); };
+  IMainEvents& events = *this;
+  main_ = std::make_unique<Main>(events);
   QObject::connect(main_.get(), &Main::PageWanted, [this](int index) { OpenPage(index); });
   QObject::connect(main_.get(), &Main::Resized, [this] { MainResized(); });
 
@@ -113,7 +111,9 @@ void Program::LoadMain() {
   main_->SetPage(kImportExportPage, importExport_);
 
   setup_ = new SetupPage(*host_, settings_, schemes_);
-  setup_->SetFieldEditor(new FieldsEditor(*host_, fields_, [this] { profiles_->SetupFields(); }));
+  auto* fieldsEditor = new FieldsEditor(*host_, fields_);
+  QObject::connect(fieldsEditor, &FieldsEditor::FieldsChanged, profiles_, &ProfilesPage::SetupFields);
+  setup_->SetFieldEditor(fieldsEditor);
   main_->SetPage(kSetupPage, setup_);
   ConnectSetupPage();
 
@@ -231,6 +231,10 @@ void Program::SetupVocabulary() {
   help_->SetupVocabulary(vocabulary_);
 }
 
+void Program::SettingsReloaded() {
+  if (main_ && setup_) setup_->TakeReloaded();
+}
+
 void Program::ShowFirstForm() {
   FirstForm form(settings_, mail_, main_.get());
   QObject::connect(&form, &FirstForm::CompanyChanged, main_.get(), &Main::SetCompany);
@@ -262,22 +266,18 @@ void Program::ExitAnalysis() {
   });
 }
 
-/// What the library may know of the analysis section, which is made by the first video that is sent to it.
-AnalysisLink Program::LinkToAnalysis() {
-  return {.isOpenInAnalysis =
-              [this](const std::string& path) {
-                return analysis_ && analysis_->Section().Stage().CheckOpenInAnalysis(path);
-              },
-          .sendToAnalysis =
-              [this](const std::string& path, const std::function<void(const std::string&)>& status) {
-                return OpenAnalysis().Section().Videos().SendToAnalysis(path, status);
-              }};
+bool Program::IsOpenInAnalysis(const std::string& path) const {
+  return analysis_ && analysis_->Section().Stage().CheckOpenInAnalysis(path);
+}
+
+int Program::SendToAnalysis(const std::string& path, const std::function<void(const std::string&)>& status) {
+  return OpenAnalysis().Section().Videos().SendToAnalysis(path, status);
 }
 
 // ---------------------------------------------------------------- the end
 
 /// False when the user would rather stay than lose what could not be saved; a wish to restart ends with it.
-bool Program::Shutdown() {
+bool Program::MainMayClose() {
   const bool restart = std::exchange(RestartFlag_, false);
   if (!profiles_->MayClose()) return false;
   if (analysis_ && !analysis_->CloseAll()) return false;

@@ -1,13 +1,14 @@
 #pragma once
 
 #include <memory>
-#include <memory>
 #include <string>
 
+#include "app/Main.h"
 #include "core/ColorSchemes.h"
 #include "core/MailSettings.h"
 #include "core/ResizeControls.h"
 #include "core/Settings.h"
+#include "core/StartUp.h"
 #include "core/Vocabulary.h"
 #include "core/WindowModes.h"
 #include "library/LibraryOperations.h"
@@ -27,7 +28,6 @@ class AnalysisForm;
 class HelpPage;
 class ImportExportPage;
 class Log;
-class Main;
 class MenuPage;
 class ProfilesPage;
 class SetupPage;
@@ -35,12 +35,16 @@ class SplashForm;
 
 /// The whole program: makes its objects in the order in which they need each other, hands them round, and
 /// carries what one page wants of another. Whatever is decided is decided in the rooms below.
-class Program final : private INavigation {
+class Program final : private ISettingsEvents,
+                      private IStartUpSteps,
+                      private IMainEvents,
+                      private IAnalysisLink,
+                      private INavigation {
  public:
   /// @param application  made before and let go after the program
   /// @param log          the same
   Program(QApplication& application, Log& log);
-  ~Program();
+  ~Program() override;
   Program(const Program&) = delete;
   Program& operator=(const Program&) = delete;
 
@@ -51,7 +55,6 @@ class Program final : private INavigation {
  private:
   WindowPlace PlaceOfMain() const;
   void DressApplication();
-  void LoadMain();
   void PlaceMain();
   void FitMain();
   void KeepLastStudent();
@@ -61,13 +64,30 @@ class Program final : private INavigation {
   void ConnectSetupPage();
   void OpenPage(int index);
   void SetupVocabulary();
-  void ShowFirstForm();
   AnalysisForm& OpenAnalysis();
+
+  // --- ISettingsEvents
+  void SettingsReloaded() override;
+
+  // --- IStartUpSteps
+  void ApplyScheme() override;
+  void EnsureFields() override;
+  void ShowSplash() override;
+  void LoadMain() override;
+  void ShowFirstForm() override;
+  void CloseSplash() override;
+
+  // --- IMainEvents
+  bool MainMayClose() override;
+
+  // --- INavigation
   void GoToLibrary() override;
   void GoToMainMenu() override;
   void ExitAnalysis() override;
-  AnalysisLink LinkToAnalysis();
-  bool Shutdown();
+
+  // --- IAnalysisLink: what the library may know of the section, which is made by the first video sent to it
+  bool IsOpenInAnalysis(const std::string& path) const override;
+  int SendToAnalysis(const std::string& path, const std::function<void(const std::string&)>& status) override;
 
   QApplication& application_;
   std::unique_ptr<IHost> host_;

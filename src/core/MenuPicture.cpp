@@ -15,7 +15,7 @@ constexpr std::int32_t kPlaces = 10;
 constexpr std::int32_t kPlacesInRow = 3;
 
 bool Choose(IHost& host, Settings& settings, const char* title, const char* folder, std::string& setting,
-            const IsPicture& isPicture) {
+            IsPicture isPicture) {
   const auto picture = host.PickFile({title, JoinPath(settings.AppPath, folder), kPictureFilter});
   if (!picture) return false;
   const auto shown = host.Drives().Ask(FolderOf(*picture), [isPicture, file = *picture] { return isPicture(file); });
@@ -56,11 +56,11 @@ Background CheckBackground(IHost& host, Settings& settings) {
   return {shown};
 }
 
-bool ChooseBackground(IHost& host, Settings& settings, const IsPicture& isPicture) {
+bool ChooseBackground(IHost& host, Settings& settings, IsPicture isPicture) {
   return Choose(host, settings, "Background Picture", "pictures/backgrounds", settings.BackgroundPic, isPicture);
 }
 
-bool ChooseLogo(IHost& host, Settings& settings, const IsPicture& isPicture) {
+bool ChooseLogo(IHost& host, Settings& settings, IsPicture isPicture) {
   return Choose(host, settings, "Logo", "pictures", settings.LogoName, isPicture);
 }
 

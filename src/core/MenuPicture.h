@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <string>
 
 #include "core/Settings.h"
@@ -23,13 +22,13 @@ struct Background {
 /// answer the default only stands in for it. Never waits long.
 Background CheckBackground(IHost& host, Settings& settings);
 
-/// True when a file holds a picture that can be shown. Called on another thread.
-using IsPicture = std::function<bool(const std::string& path)>;
+/// Tells whether a file holds a picture that can be shown. Called on another thread.
+using IsPicture = bool (*)(const std::string& path);
 /// Lets the user choose another picture and writes it. False when the dialog was cancelled or, after a message,
 /// when there is no picture in the file or its drive does not answer: the old one stays.
-bool ChooseBackground(IHost& host, Settings& settings, const IsPicture& isPicture);
+bool ChooseBackground(IHost& host, Settings& settings, IsPicture isPicture);
 /// The same for the logo of printouts.
-bool ChooseLogo(IHost& host, Settings& settings, const IsPicture& isPicture);
+bool ChooseLogo(IHost& host, Settings& settings, IsPicture isPicture);
 /// Goes back to the picture that comes with the program.
 void ResetBackground(Settings& settings);
 /// Goes back to the logo that comes with the program.

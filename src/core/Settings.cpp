@@ -25,10 +25,21 @@ std::string TextOf(Number value) {
   return fmt::format("{}", value);
 }
 
+/// Hears nothing, and keeps nothing.
+ISettingsEvents& Nobody() {
+  static class final : public ISettingsEvents {
+    void SettingsReloaded() override {}
+  } nobody;
+  return nobody;
+}
+
 }  // namespace
 
+Settings::Settings(IHost& host, std::string dataPath, std::string appPath, ISettingsEvents& events)
+    : DataPath(std::move(dataPath)), AppPath(std::move(appPath)), host_(host), events_(events) {}
+
 Settings::Settings(IHost& host, std::string dataPath, std::string appPath)
-    : DataPath(std::move(dataPath)), AppPath(std::move(appPath)), host_(host) {}
+    : Settings(host, std::move(dataPath), std::move(appPath), Nobody()) {}
 
 std::string Settings::UserDataPath() { return JoinPath(DocumentsFolder(), "Kinalyx"); }
 
@@ -68,7 +79,7 @@ void Settings::MigrateOldConfig() {
 bool Settings::WriteConfigKey(const std::string& section, const std::string& key, const std::string& value) {
   if (!FileExists(ConfigFile())) {
     LoadSettings();
-    if (Reloaded) Reloaded();
+    events_.SettingsReloaded();
     return false;
   }
   return WriteTo(ConfigFile(), section, key, value);

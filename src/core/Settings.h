@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -13,6 +12,15 @@ namespace kinalyx {
 
 class IHost;
 
+/// What the settings tell.
+class ISettingsEvents {
+ public:
+  virtual ~ISettingsEvents() = default;
+  /// A key was to be written and the file had gone: it holds its first-run values again, and every member may
+  /// have changed.
+  virtual void SettingsReloaded() = 0;
+};
+
 /// All lasting settings of the workstation. Two plain INI files in the data folder hold them; one loader
 /// reads every key once, at start-up, into the members below, which carry the keys' own names. From then
 /// on the program works on the members, and every change is written through at once, key by key. Make one
@@ -21,6 +29,9 @@ class Settings {
  public:
   /// @param dataPath  the per-user data folder, made when something is first written into it
   /// @param appPath   the folder of the program file
+  /// @param events    told from within the call that writes; outlives the settings
+  Settings(IHost& host, std::string dataPath, std::string appPath, ISettingsEvents& events);
+  /// Settings that nobody shows.
   Settings(IHost& host, std::string dataPath, std::string appPath);
   Settings(const Settings&) = delete;
   Settings& operator=(const Settings&) = delete;
@@ -167,8 +178,6 @@ class Settings {
   bool Write(T& setting) {
     return WriteMember(&setting);
   }
-  /// Called after WriteConfigKey has found the file gone: every member may have changed.
-  std::function<void()> Reloaded;
   /// False for a text of more than 149 characters, which would be read back cut.
   static bool Holds(std::string_view text);
   /// What the user is told of a path that is too long.
@@ -201,6 +210,7 @@ class Settings {
   void TellBadBooleans(const std::vector<const Key*>& bad, const std::string& path, std::size_t missing);
 
   IHost& host_;
+  ISettingsEvents& events_;
   std::vector<std::string> toldKeys_;
   bool toldUnwritable_ = false;
 };

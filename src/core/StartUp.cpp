@@ -4,20 +4,17 @@
 
 namespace kinalyx {
 
-bool StartUp(Settings& settings, MailSettings& mail, ColorSchemes& schemes, const StartUpSteps& steps) {
-  const auto run = [](const std::function<void()>& step) {
-    if (step) step();
-  };
+bool StartUp(Settings& settings, MailSettings& mail, ColorSchemes& schemes, IStartUpSteps& steps) {
   const bool firstStart = !FileExists(settings.ConfigFile());
   settings.LoadSettings();
   mail.LoadMailSettings();
   schemes.ApplyDesign(settings.Design);
-  run(steps.applyScheme);
-  run(steps.ensureFields);
-  run(steps.showSplash);
-  run(steps.loadMain);
-  if (firstStart) run(steps.showFirstForm);
-  run(steps.closeSplash);
+  steps.ApplyScheme();
+  steps.EnsureFields();
+  steps.ShowSplash();
+  steps.LoadMain();
+  if (firstStart) steps.ShowFirstForm();
+  steps.CloseSplash();
   return firstStart;
 }
 

@@ -39,12 +39,11 @@ JobRunner::~JobRunner() {
   state_->changed.wait_for(lock, std::chrono::milliseconds(kPatienceMs), [&] { return state_->over; });
 }
 
-bool JobRunner::Start(std::unique_ptr<IJob> job, Watch watch, End end) {
+bool JobRunner::Start(std::unique_ptr<IJob> job, std::unique_ptr<IJobEvents> events) {
   if (Busy()) return false;
   state_ = std::make_shared<Shared>();
   state_->job = std::move(job);
-  watch_ = std::move(watch);
-  end_ = std::move(end);
+  events_ = std::move(events);
   cancelledAt_ = -1;
   if (on_ == On::Worker) std::thread([shared = state_] { Work(shared); }).detach();
   timer_ = HostTimer(host_, on_ == On::Worker ? kPollMs : 0, true, [this] { Poll(); });
@@ -89,7 +88,7 @@ void JobRunner::Poll() {
     progress = state_->progress;
     over = state_->over;
   }
-  if (watch_) watch_(progress);
+  events_->Progress(progress);
   if (over) Finish(false);
   else if (cancelledAt_ >= 0 && host_.timeGetTime() - cancelledAt_ > kPatienceMs) Finish(true);
 }
@@ -97,9 +96,8 @@ void JobRunner::Poll() {
 void JobRunner::Finish(bool abandoned) {
   timer_.Stop();
   const std::shared_ptr<Shared> shared = std::exchange(state_, nullptr);
-  const End end = std::exchange(end_, {});
-  watch_ = {};
-  if (end) end(abandoned ? nullptr : shared->job.get());
+  const std::unique_ptr<IJobEvents> events = std::move(events_);
+  events->Over(abandoned ? nullptr : shared->job.get());
 }
 
 }  // namespace kinalyx

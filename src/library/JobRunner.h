@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <string>
 
@@ -28,7 +27,18 @@ class IJob {
   virtual JobProgress Progress() const = 0;
 };
 
-/// Runs one job at a time beside the user's own work. All calls and all callbacks are on the
+/// What becomes of a job, told to whoever started it.
+class IJobEvents {
+ public:
+  virtual ~IJobEvents() = default;
+  /// How far it is; several times a second.
+  virtual void Progress(const JobProgress& progress) = 0;
+  /// It is over; called once, and may start the next job. `job` is null when it did not answer to a cancel and
+  /// was left to itself.
+  virtual void Over(IJob* job) = 0;
+};
+
+/// Runs one job at a time beside the user's own work. All calls and all events are on the
 /// user-interface thread.
 class JobRunner {
  public:
@@ -36,9 +46,6 @@ class JobRunner {
     Worker,     ///< a thread: a slow disk does not hold up the window
     HostTimer,  ///< one step at each turn of the event loop, in an order that does not change
   };
-  using Watch = std::function<void(const JobProgress&)>;
-  /// How it went: the job, or null when it did not answer to a cancel and was left to itself.
-  using End = std::function<void(IJob*)>;
 
   JobRunner(IHost& host, On on) : host_(host), on_(on) {}
   JobRunner(const JobRunner&) = delete;
@@ -47,10 +54,9 @@ class JobRunner {
   ~JobRunner();
 
   bool Busy() const { return state_ != nullptr; }
-  /// Starts a job; false when one is under way. `watch` may be empty. `end` is called once, and may
-  /// start the next job.
-  bool Start(std::unique_ptr<IJob> job, Watch watch, End end);
-  /// Asks the job under way to give up; `end` follows. A job that does not give up within three seconds,
+  /// Starts a job and keeps `events` until it is over; false when one is under way, and then nothing is told.
+  bool Start(std::unique_ptr<IJob> job, std::unique_ptr<IJobEvents> events);
+  /// Asks the job under way to give up; its end is told as always. A job that does not give up within three seconds,
   /// because the disk does not answer, is left to itself: it cleans up when the disk comes back.
   void Cancel();
 
@@ -63,8 +69,7 @@ class JobRunner {
   IHost& host_;
   On on_;
   std::shared_ptr<Shared> state_;
-  Watch watch_;
-  End end_;
+  std::unique_ptr<IJobEvents> events_;
   HostTimer timer_;
   std::int64_t cancelledAt_ = -1;
 };

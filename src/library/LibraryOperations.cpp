@@ -89,24 +89,22 @@ void ShowResult(const OperationResult& result, LibraryBrowser& browser) {
     browser.ChooseVideo(std::min(row, static_cast<int>(browser.VideoList().size()) - 1));
 }
 
-LibraryOperations::LibraryOperations(IHost& host, const Settings& settings, AnalysisLink analysis)
-    : LibraryOperations(host, settings, std::move(analysis), Environment{}) {}
+LibraryOperations::LibraryOperations(IHost& host, const Settings& settings, IAnalysisLink& analysis)
+    : LibraryOperations(host, settings, analysis, Environment{}) {}
 
-LibraryOperations::LibraryOperations(IHost& host, const Settings& settings, AnalysisLink analysis,
+LibraryOperations::LibraryOperations(IHost& host, const Settings& settings, IAnalysisLink& analysis,
                                      Environment environment)
     : host_(host),
       settings_(settings),
       words_(settings),
       tree_(settings),
-      analysis_(std::move(analysis)),
+      analysis_(analysis),
       disk_(*environment.disk),
       runner_(host, environment.jobs) {}
 
 // ---------------------------------------------------------------- guards
 
-bool LibraryOperations::IsOpen(const std::string& videoPath) const {
-  return analysis_.isOpenInAnalysis && analysis_.isOpenInAnalysis(videoPath);
-}
+bool LibraryOperations::IsOpen(const std::string& videoPath) const { return analysis_.IsOpenInAnalysis(videoPath); }
 
 std::string LibraryOperations::BusyText() const {
   return Busy() ? "Another operation is still at work. Please wait until it has finished." : "";
@@ -145,7 +143,6 @@ std::string LibraryOperations::Obstacle() const {
 }
 
 std::string LibraryOperations::OpenVideoIn(const std::string& folder, const std::string& change) const {
-  if (!analysis_.isOpenInAnalysis) return {};
   const auto videos = host_.Drives().Ask(tree_.Root(), [folder] { return AllVideosBelow(folder); });
   if (!videos) return SilentLibraryText(tree_.Root()) + " Nothing was changed.";
   if (std::ranges::none_of(*videos, [this](const std::string& path) { return IsOpen(path); })) return {};
@@ -166,10 +163,6 @@ OperationResult LibraryOperations::RefuseGone(const std::string& text) {
   OperationResult result = Refuse(text + ". It is not there any more: somebody else has renamed, moved or deleted it.");
   result.refill = true;
   return result;
-}
-
-void LibraryOperations::Tell(const std::string& status) const {
-  if (ShowStatus) ShowStatus(status);
 }
 
 std::string LibraryOperations::GuardStudent(const std::string& instructor, const std::string& student,
@@ -296,20 +289,21 @@ OperationResult LibraryOperations::RenameStudent(const std::string& instructor, 
 }
 
 void LibraryOperations::MoveStudent(const std::string& instructor, const std::string& student,
-                                    const std::string& targetInstructor, Done done) {
+                                    const std::string& targetInstructor, Events events) {
   if (const std::string refusal = GuardStudent(instructor, student, Change::Move); !refusal.empty())
-    return done(Report(refusal));
+    return events->Ended(Report(refusal));
   if (targetInstructor.empty() || targetInstructor == kGeneralFolder)
-    return done(Report(LibraryTextsFor(settings_).moveStudent));
+    return events->Ended(Report(LibraryTextsFor(settings_).moveStudent));
   const std::string taken =
       "The Database that you have chosen already contains a " + words_.noun() + " with the same name.";
   const std::string target = tree_.InstructorFolder(targetInstructor);
   // A database that another workstation has just renamed would come back.
   if (!dirExists(target))
-    return done(Refuse("The folder " + target + " cannot be found. The " + words_.noun() + " was not moved."));
+    return events->Ended(
+        Refuse("The folder " + target + " cannot be found. The " + words_.noun() + " was not moved."));
   const std::string from = tree_.StudentFolder(instructor, student);
   const std::string to = tree_.StudentFolder(targetInstructor, student);
-  if (EntryExists(to) || HasFolderNamed(target, student)) return done(Refuse(taken));
+  if (EntryExists(to) || HasFolderNamed(target, student)) return events->Ended(Refuse(taken));
   auto job = std::make_unique<StudentMoveJob>(from, to, disk_);
   Run<StudentMoveJob>(
       std::move(job),
@@ -322,12 +316,12 @@ void LibraryOperations::MoveStudent(const std::string& instructor, const std::st
         if (!copy.Error().empty()) host_.Message(MessageKind::Warning, "", copy.Error());
         return {true, words_.Noun() + " Successfully Moved to " + targetInstructor + " .", true, targetInstructor, student};
       },
-      std::move(done));
+      std::move(events));
 }
 
-void LibraryOperations::DeleteStudent(const std::string& instructor, const std::string& student, Done done) {
+void LibraryOperations::DeleteStudent(const std::string& instructor, const std::string& student, Events events) {
   if (const std::string refusal = GuardStudent(instructor, student, Change::Delete); !refusal.empty())
-    return done(Report(refusal));
+    return events->Ended(Report(refusal));
   auto job = std::make_unique<StudentRemovalJob>(tree_.StudentFolder(instructor, student), disk_);
   Run<StudentRemovalJob>(
       std::move(job),
@@ -338,7 +332,7 @@ void LibraryOperations::DeleteStudent(const std::string& instructor, const std::
         result.refill = true;
         return result;
       },
-      std::move(done));
+      std::move(events));
 }
 
 }  // namespace kinalyx

@@ -18,13 +18,14 @@ namespace kinalyx {
 class LibraryBrowser;
 class VideoTransferJob;
 
-/// What the library asks of the analysis section. An empty function stands for a section that has not
-/// been opened yet.
-struct AnalysisLink {
+/// What the library asks of the analysis section.
+class IAnalysisLink {
+ public:
+  virtual ~IAnalysisLink() = default;
   /// True when a slot, shown or hidden, holds this file.
-  std::function<bool(const std::string& path)> isOpenInAnalysis;
+  virtual bool IsOpenInAnalysis(const std::string& path) const = 0;
   /// Opens a file in the first free slot and tells of it in words; the slot, or 0 when it was not opened.
-  std::function<int(const std::string& path, const std::function<void(const std::string&)>& status)> sendToAnalysis;
+  virtual int SendToAnalysis(const std::string& path, const std::function<void(const std::string&)>& status) = 0;
 };
 
 /// A video as the lists have it.
@@ -58,6 +59,21 @@ struct OperationResult {
   std::vector<std::string> arrived{};
 };
 
+/// What a long operation tells whoever asked for it.
+class IOperationEvents {
+ public:
+  virtual ~IOperationEvents() = default;
+  /// Words for the status line while the operation is under way.
+  virtual void ShowStatus(const std::string& words) = 0;
+  /// How far it is; called several times a second.
+  virtual void ShowProgress(const JobProgress& progress) = 0;
+  /// The work is over, and how it went is told next, maybe in a box: a progress window gets out of the way. Not
+  /// called when the operation was refused.
+  virtual void WorkOver() = 0;
+  /// Called once, as the last: at once when the operation is refused, later when its work is over.
+  virtual void Ended(const OperationResult& result) = 0;
+};
+
 /// Where videos go that lie in no student's folder, as in a plain folder of files.
 struct ImportTarget {
   std::string instructor{};  ///< empty: to the library's own folder
@@ -70,34 +86,29 @@ void ShowResult(const OperationResult& result, LibraryBrowser& browser);
 /// All changes to the library tree. Everything works on files and folders directly, a video always with
 /// its sidecar. Nothing is ever replaced, and what fails leaves the library as it was.
 ///
-/// Short operations return their result. Long ones take `Done`, which is called once: at once when they
-/// are refused, later when their work is over. The window stays alive meanwhile; `ShowProgress` feeds a
-/// progress window, whose button calls Cancel. One long operation runs at a time, and while it does, the
-/// others are refused.
+/// Short operations return their result. Long ones tell it to the events that are handed over with them, which
+/// are kept until then; a form that may go meanwhile hands over events that know of it. The window stays alive
+/// meanwhile: a progress window shows how far the work is, and its button calls Cancel. One long operation runs
+/// at a time, and while it does, the others are refused.
 ///
 /// Before an operation on a student or on the video in the preview, the form stores the notes that are
 /// being written and lets go of both.
 class LibraryOperations {
  public:
-  using Done = std::function<void(const OperationResult&)>;
+  /// Never null.
+  using Events = std::shared_ptr<IOperationEvents>;
   enum class Change { Rename, Move, Delete };
   struct Environment {
     JobRunner::On jobs = JobRunner::On::Worker;
     ICopyDisk* disk = &RealCopyDisk();
   };
 
-  LibraryOperations(IHost& host, const Settings& settings, AnalysisLink analysis);
-  LibraryOperations(IHost& host, const Settings& settings, AnalysisLink analysis, Environment environment);
-
-  /// Words for the status line while an operation is under way.
-  std::function<void(const std::string&)> ShowStatus;
-  /// How far the long operation is; called several times a second.
-  std::function<void(const JobProgress&)> ShowProgress;
-  /// The long operation is over, before it tells how it went: a progress window gets out of the way.
-  std::function<void()> OperationEnded;
+  /// All that is passed outlives it.
+  LibraryOperations(IHost& host, const Settings& settings, IAnalysisLink& analysis);
+  LibraryOperations(IHost& host, const Settings& settings, IAnalysisLink& analysis, Environment environment);
 
   bool Busy() const { return runner_.Busy(); }
-  /// Stops the long operation under way; its Done tells how it ended.
+  /// Stops the long operation under way; its events tell how it ended.
   void Cancel() { runner_.Cancel(); }
 
   // --- instructors and students
@@ -118,35 +129,36 @@ class LibraryOperations {
   OperationResult RenameStudent(const std::string& instructor, const std::string& student, std::string_view name);
   OperationResult RenameStudentCancelled() const;
   void MoveStudent(const std::string& instructor, const std::string& student, const std::string& targetInstructor,
-                   Done done);
+                   Events events);
   /// Removes the folder with all that is in it. The form has asked.
-  void DeleteStudent(const std::string& instructor, const std::string& student, Done done);
+  void DeleteStudent(const std::string& instructor, const std::string& student, Events events);
 
   // --- videos
 
   /// The refusal of an action for which a video must be chosen and not be open. Empty: go on.
   std::string GuardVideo(const LibraryVideo& video);
-  OperationResult SendToAnalysis(const LibraryVideo& video);
+  /// Tells `status` what the analysis section says while it opens the video; the last of it is in the result.
+  OperationResult SendToAnalysis(const LibraryVideo& video, const std::function<void(const std::string&)>& status);
   OperationResult RenameVideo(const LibraryVideo& video, std::string_view name);
   void MoveVideo(const LibraryVideo& video, const std::string& targetInstructor, const std::string& targetStudent,
-                 Done done);
+                 Events events);
   /// Removes it and its sidecar. The form has asked.
   OperationResult DeleteVideo(const LibraryVideo& video);
   /// Copies videos to the folder of a removeable disk. A name that is taken there gets a "d".
-  void CopyToDisk(const std::vector<LibraryVideo>& videos, const std::string& disk, Done done);
+  void CopyToDisk(const std::vector<LibraryVideo>& videos, const std::string& disk, Events events);
   /// Copies the video to the Quick Launch folder, or, when it lies there, removes it from it. Asks first.
-  void QuickLaunch(const LibraryVideo& video, Done done);
+  void QuickLaunch(const LibraryVideo& video, Events events);
   /// Cuts the video in place; its sidecar stays as it is. Frames count from 0 and both belong to the cut;
   /// 0 as the last one is the end. `rate` is used for a video that does not tell its own.
-  void Trim(const LibraryVideo& video, int firstFrame, int lastFrame, int rate, Done done);
+  void Trim(const LibraryVideo& video, int firstFrame, int lastFrame, int rate, Events events);
 
   // --- whole databases
 
   /// Copies videos into a library at `targetRoot`, or from one elsewhere into this one. Folders are made as
   /// needed, and a name that is taken gets a "d". A student who is new to the target brings the profile. What
   /// cannot be opened is taken along by an import, and named in a message at its end.
-  void ExportVideos(const std::vector<LibraryVideo>& videos, const std::string& targetRoot, Done done);
-  void ImportVideos(const std::vector<LibraryVideo>& videos, Done done, const ImportTarget& loose = {});
+  void ExportVideos(const std::vector<LibraryVideo>& videos, const std::string& targetRoot, Events events);
+  void ImportVideos(const std::vector<LibraryVideo>& videos, Events events, const ImportTarget& loose = {});
 
  private:
   enum class Direction { Export, Import };
@@ -170,25 +182,23 @@ class LibraryOperations {
   /// Refuses because what the operation is about has gone meanwhile.
   OperationResult RefuseGone(const std::string& text);
   static OperationResult Report(const std::string& text) { return {false, text}; }
-  void Tell(const std::string& status) const;
   std::string BusyText() const;
   std::string StillFullText(const std::string& instructor) const;
-  void AddToQuickLaunch(const LibraryVideo& video, Done done);
+  void AddToQuickLaunch(const LibraryVideo& video, Events events);
   OperationResult RemoveFromQuickLaunch(const LibraryVideo& video);
   void Transfer(Direction direction, const std::vector<LibraryVideo>& videos, const std::string& targetRoot,
-                const ImportTarget& loose, Done done);
+                const ImportTarget& loose, Events events);
   OperationResult EndOfTransfer(const VideoTransferJob& copy, bool out, const std::vector<ImportTarget>& places);
   void TellUnreadable(const std::vector<std::string>& paths);
   /// Runs a job; `end` makes the result of it. The job is the one that was given.
   template <typename Job>
-  void Run(std::unique_ptr<Job> job, std::function<OperationResult(Job&)> end, Done done,
-           std::function<void(const JobProgress&)> watch = {});
+  void Run(std::unique_ptr<Job> job, std::function<OperationResult(Job&)> end, Events events);
 
   IHost& host_;
   const Settings& settings_;
   Vocabulary words_;
   LibraryTree tree_;
-  AnalysisLink analysis_;
+  IAnalysisLink& analysis_;
   ICopyDisk& disk_;
   JobRunner runner_;
 };

@@ -27,7 +27,7 @@ const std::string& NotesKeeper::Open(const std::string& studentFolder) {
   readable_ = true;
   if (folder_.empty()) return text_;
   std::optional<std::string> notes;
-  if (reachable_(folder_)) notes = LoadNotes(folder_);
+  if (events_.CanReachNotes(folder_)) notes = LoadNotes(folder_);
   if (const auto waiting = unsaved_.find(folder_); waiting != unsaved_.end()) {
     text_ = waiting->second.text;
     base_ = waiting->second.base;
@@ -58,12 +58,12 @@ bool NotesKeeper::Keep(std::optional<std::string_view> typed, std::string* error
   }
   for (auto notes = unsaved_.begin(); notes != unsaved_.end();) {
     auto& [folder, waiting] = *notes;
-    const bool reached = reachable_(folder);
+    const bool reached = events_.CanReachNotes(folder);
     if (!reached && error) *error = "the drive is not answering";
     const bool gone = reached && HasGone(folder);
     const bool settled = gone || (reached && Store(folder, waiting, error));
     if (settled && folder == folder_) text_ = base_ = waiting.text;
-    if (gone && Lost && !waiting.text.empty()) Lost(folder, waiting.text);
+    if (gone && !waiting.text.empty()) events_.NotesLost(folder, waiting.text);
     notes = settled ? unsaved_.erase(notes) : std::next(notes);
   }
   return unsaved_.empty();

@@ -1,25 +1,30 @@
 #pragma once
 
-#include <functional>
 #include <map>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
 
 namespace kinalyx {
+
+/// What the keeper of notes asks and tells.
+class INotesEvents {
+ public:
+  virtual ~INotesEvents() = default;
+  /// False for a student's folder whose drive does not answer: it is not touched.
+  virtual bool CanReachNotes(const std::string& folder) = 0;
+  /// These were still to be stored when their folder had gone: somebody else has renamed, moved or deleted it.
+  /// They wait no longer.
+  virtual void NotesLost(const std::string& folder, const std::string& notes) = 0;
+};
 
 /// The notes of the student who is shown, from the moment at which they are read until they are safely
 /// on the disk. Notes that could not be saved are kept in memory, shown again when the student comes
 /// back, and tried again with every save.
 class NotesKeeper {
  public:
-  /// @param reachable  false for a folder whose drive does not answer: it is not touched
-  explicit NotesKeeper(std::function<bool(const std::string& folder)> reachable) : reachable_(std::move(reachable)) {}
-
-  /// Called with notes that were still to be stored when their folder had gone: somebody else has renamed,
-  /// moved or deleted it. They wait no longer.
-  std::function<void(const std::string& folder, const std::string& notes)> Lost;
+  /// @param events  outlives it
+  explicit NotesKeeper(INotesEvents& events) : events_(events) {}
 
   /// The notes of a student's folder; "" closes. What stood open before must have been handed to Keep.
   /// @return the text to show, lines ended by CR LF
@@ -50,7 +55,7 @@ class NotesKeeper {
  private:
   bool Store(const std::string& folder, Waiting& notes, std::string* error);
 
-  std::function<bool(const std::string&)> reachable_;
+  INotesEvents& events_;
   std::string folder_;
   std::string text_;
   std::string base_;  ///< what `text_` was written upon: the file as it was read or written last

@@ -11,19 +11,28 @@ namespace kinalyx {
 
 inline constexpr const char* kOperationCancelled = "Operation Cancelled";
 
+/// A long operation while its job is at work: makes the result of the job, and tells it.
 template <typename Job>
-void LibraryOperations::Run(std::unique_ptr<Job> job, std::function<OperationResult(Job&)> end, Done done,
-                            std::function<void(const JobProgress&)> watch) {
-  const auto watchAll = [this, watch = std::move(watch)](const JobProgress& progress) {
-    if (watch) watch(progress);
-    if (ShowProgress) ShowProgress(progress);
-  };
-  runner_.Start(std::move(job), watchAll, [this, end = std::move(end), done = std::move(done)](IJob* over) {
-    if (OperationEnded) OperationEnded();
+class OperationRun final : public IJobEvents {
+ public:
+  OperationRun(std::function<OperationResult(Job&)> end, LibraryOperations::Events events)
+      : end_(std::move(end)), events_(std::move(events)) {}
+
+  void Progress(const JobProgress& progress) override { events_->ShowProgress(progress); }
+  void Over(IJob* job) override {
+    events_->WorkOver();
     // A job that was left to itself tells nothing any more.
-    if (!over) return done({false, kOperationCancelled, true});
-    done(end(static_cast<Job&>(*over)));
-  });
+    events_->Ended(job ? end_(static_cast<Job&>(*job)) : OperationResult{false, kOperationCancelled, true});
+  }
+
+ private:
+  std::function<OperationResult(Job&)> end_;
+  LibraryOperations::Events events_;
+};
+
+template <typename Job>
+void LibraryOperations::Run(std::unique_ptr<Job> job, std::function<OperationResult(Job&)> end, Events events) {
+  runner_.Start(std::move(job), std::make_unique<OperationRun<Job>>(std::move(end), std::move(events)));
 }
 
 }  // namespace kinalyx

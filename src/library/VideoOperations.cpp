@@ -91,20 +91,43 @@ VideoTransfer TransferTo(const std::string& root, const ImportTarget& place, con
   return {video.path, folder, withProfile ? SourceFolder(video) : std::string()};
 }
 
+/// Says after each video how many have arrived.
+class CountedTransfer final : public IOperationEvents {
+ public:
+  CountedTransfer(LibraryOperations::Events events, bool out) : events_(std::move(events)), out_(out) {}
+
+  void ShowStatus(const std::string& words) override { events_->ShowStatus(words); }
+  void ShowProgress(const JobProgress& progress) override {
+    if (progress.done > told_) {
+      told_ = progress.done;
+      ShowStatus(std::to_string(told_) + " of " + std::to_string(progress.total) +
+                 (out_ ? " Videos Successfully exported.....Please wait..." : " Videos Successfully Imported."));
+    }
+    events_->ShowProgress(progress);
+  }
+  void WorkOver() override { events_->WorkOver(); }
+  void Ended(const OperationResult& result) override { events_->Ended(result); }
+
+ private:
+  LibraryOperations::Events events_;
+  bool out_;
+  int told_ = 0;
+};
+
 constexpr const char* kCannotDelete = "Unable to delete the video. Try rebooting, then try again.";
 
 }  // namespace
 
 // ---------------------------------------------------------------- one video
 
-OperationResult LibraryOperations::SendToAnalysis(const LibraryVideo& video) {
+OperationResult LibraryOperations::SendToAnalysis(const LibraryVideo& video,
+                                                  const std::function<void(const std::string&)>& status) {
   if (video.path.empty()) return Report("You must select a video first.");
-  if (!analysis_.sendToAnalysis) return Report("");
   if (const std::string refusal = Unreachable(); !refusal.empty()) return Refuse(refusal);
   OperationResult result;
-  result.done = analysis_.sendToAnalysis(video.path, [&](const std::string& words) {
+  result.done = analysis_.SendToAnalysis(video.path, [&](const std::string& words) {
     result.status = words;
-    Tell(words);
+    status(words);
   }) != 0;
   return result;
 }
@@ -135,19 +158,20 @@ OperationResult LibraryOperations::DeleteVideo(const LibraryVideo& video) {
 }
 
 void LibraryOperations::MoveVideo(const LibraryVideo& video, const std::string& targetInstructor,
-                                  const std::string& targetStudent, Done done) {
-  if (const std::string refusal = GuardVideo(video); !refusal.empty()) return done(Report(refusal));
+                                  const std::string& targetStudent, Events events) {
+  if (const std::string refusal = GuardVideo(video); !refusal.empty()) return events->Ended(Report(refusal));
   if (targetInstructor.empty() || targetStudent.empty() || targetInstructor == kGeneralFolder)
-    return done(Refuse("You must select a Database and " + words_.noun() + " for the video."));
+    return events->Ended(Refuse("You must select a Database and " + words_.noun() + " for the video."));
   const std::string folder = tree_.StudentFolder(targetInstructor, targetStudent);
   if (SamePlace(folder, FolderOf(video.path)))
-    return done(Refuse("The source and destination folders are the same. The video was not moved."));
+    return events->Ended(Refuse("The source and destination folders are the same. The video was not moved."));
   const std::string name = NameOf(video);
   const std::string taken = "A video with the name \"" + name + "\" already exists in the folder named " + targetStudent +
                             ". Please rename the video and try again.";
-  if (HasVideoNamed(folder, name)) return done(Refuse(taken));
+  if (HasVideoNamed(folder, name)) return events->Ended(Refuse(taken));
   // A student whom another workstation has just renamed or moved away would come back as a bare folder.
-  if (!dirExists(folder)) return done(Refuse("The folder " + folder + " cannot be found. The video was not moved."));
+  if (!dirExists(folder))
+    return events->Ended(Refuse("The folder " + folder + " cannot be found. The video was not moved."));
   auto job = std::make_unique<VideoTransferJob>(CopyJob::Kind::Move, OnClash::Stop,
                                                 std::vector{VideoTransfer{video.path, folder, {}}}, disk_);
   Run<VideoTransferJob>(
@@ -164,16 +188,16 @@ void LibraryOperations::MoveVideo(const LibraryVideo& video, const std::string& 
         refused.status = "No videos were moved.";
         return refused;
       },
-      std::move(done));
+      std::move(events));
 }
 
-void LibraryOperations::Trim(const LibraryVideo& video, int firstFrame, int lastFrame, int rate, Done done) {
-  if (const std::string refusal = GuardVideo(video); !refusal.empty()) return done(Report(refusal));
+void LibraryOperations::Trim(const LibraryVideo& video, int firstFrame, int lastFrame, int rate, Events events) {
+  if (const std::string refusal = GuardVideo(video); !refusal.empty()) return events->Ended(Report(refusal));
   if (firstFrame < 0 || lastFrame < 0 || (lastFrame > 0 && lastFrame < firstFrame)) {
-    return done(
+    return events->Ended(
         Refuse("Your TRIM Start and End times are not correct. Please check your Start and End times and try again."));
   }
-  Tell("Saving Video.... Please Wait.");
+  events->ShowStatus("Saving Video.... Please Wait.");
   const TrimRequest request{video.path, video.path, firstFrame, lastFrame, rate, TrimRequest::Mode::Copy};
   Run<TrimJob>(
       std::make_unique<TrimJob>(JoinPath(settings_.AppPath, "avitrim"), request),
@@ -184,26 +208,26 @@ void LibraryOperations::Trim(const LibraryVideo& video, int firstFrame, int last
         host_.Message(MessageKind::Warning, "", "There was a problem saving this video.\n\n" + trim.Error());
         return Report("Last Video WAS NOT SAVED");
       },
-      std::move(done));
+      std::move(events));
 }
 
 // ---------------------------------------------------------------- Quick Launch
 
-void LibraryOperations::QuickLaunch(const LibraryVideo& video, Done done) {
-  if (video.path.empty()) return done(Report("You must select a video first."));
-  if (video.instructor == kQuickLaunch) return done(RemoveFromQuickLaunch(video));
-  AddToQuickLaunch(video, std::move(done));
+void LibraryOperations::QuickLaunch(const LibraryVideo& video, Events events) {
+  if (video.path.empty()) return events->Ended(Report("You must select a video first."));
+  if (video.instructor == kQuickLaunch) return events->Ended(RemoveFromQuickLaunch(video));
+  AddToQuickLaunch(video, std::move(events));
 }
 
-void LibraryOperations::AddToQuickLaunch(const LibraryVideo& video, Done done) {
-  if (const std::string refusal = Obstacle(); !refusal.empty()) return done(Refuse(refusal));
+void LibraryOperations::AddToQuickLaunch(const LibraryVideo& video, Events events) {
+  if (const std::string refusal = Obstacle(); !refusal.empty()) return events->Ended(Refuse(refusal));
   if (!host_.Question("Copy video to Quick Launch Folder",
                       "This will copy the current video to your Quick Launch folder. Would you like to continue?"))
-    return done({});
+    return events->Ended({});
   const std::string folder = tree_.QuickLaunchFolder();
   const std::string taken =
       "There is already a video with the same name in the Quick Launch folder. The copy process will be cancelled.";
-  if (HasVideoNamed(folder, NameOf(video))) return done(Refuse(taken));
+  if (HasVideoNamed(folder, NameOf(video))) return events->Ended(Refuse(taken));
   auto job = std::make_unique<VideoTransferJob>(CopyJob::Kind::Copy, OnClash::Stop,
                                                 std::vector{VideoTransfer{video.path, folder, {}}}, disk_);
   Run<VideoTransferJob>(
@@ -213,7 +237,7 @@ void LibraryOperations::AddToQuickLaunch(const LibraryVideo& video, Done done) {
         if (copy.Failed()) return Refuse(copy.NameTaken() ? taken : copy.Error());
         return {true, "The current video was copied to the Quick Launch folder.", true};
       },
-      std::move(done));
+      std::move(events));
 }
 
 OperationResult LibraryOperations::RemoveFromQuickLaunch(const LibraryVideo& video) {
@@ -231,13 +255,13 @@ bool LibraryOperations::HasFolder(const std::string& drive) const {
   return host_.Drives().Ask(drive, [drive] { return TouchPath(drive) && dirExists(drive); }).value_or(false);
 }
 
-void LibraryOperations::CopyToDisk(const std::vector<LibraryVideo>& videos, const std::string& disk, Done done) {
-  if (videos.empty()) return done(Report("You must select a video first."));
+void LibraryOperations::CopyToDisk(const std::vector<LibraryVideo>& videos, const std::string& disk, Events events) {
+  if (videos.empty()) return events->Ended(Report("You must select a video first."));
   for (const LibraryVideo& video : videos) {
-    if (const std::string refusal = GuardVideo(video); !refusal.empty()) return done(Report(refusal));
+    if (const std::string refusal = GuardVideo(video); !refusal.empty()) return events->Ended(Report(refusal));
   }
-  if (disk.empty() || !HasFolder(disk)) return done(Refuse("Drive Error"));
-  Tell("Copying Videos, Please Wait.....");
+  if (disk.empty() || !HasFolder(disk)) return events->Ended(Refuse("Drive Error"));
+  events->ShowStatus("Copying Videos, Please Wait.....");
   std::vector<VideoTransfer> transfers;
   for (const LibraryVideo& video : videos) transfers.push_back({video.path, disk, {}});
   auto job = std::make_unique<VideoTransferJob>(CopyJob::Kind::CopyOut, OnClash::AddD, std::move(transfers), disk_);
@@ -247,10 +271,11 @@ void LibraryOperations::CopyToDisk(const std::vector<LibraryVideo>& videos, cons
         if (copy.Failed()) host_.Message(MessageKind::Warning, "", copy.Error());
         return {!copy.Failed() && !copy.Cancelled(), std::to_string(copy.FilesDone()) + " Files Copied Successfully."};
       },
-      std::move(done));
+      std::move(events));
 }
 
-void LibraryOperations::ExportVideos(const std::vector<LibraryVideo>& videos, const std::string& targetRoot, Done done) {
+void LibraryOperations::ExportVideos(const std::vector<LibraryVideo>& videos, const std::string& targetRoot,
+                                     Events events) {
   struct Place {
     bool onSystem = false;
     bool inLibrary = false;
@@ -259,24 +284,26 @@ void LibraryOperations::ExportVideos(const std::vector<LibraryVideo>& videos, co
     return Place{IsSystemDrive(targetRoot), LiesIn(targetRoot, root)};
   }).value_or(Place());
   if (!videos.empty() && place.inLibrary)
-    return done(Refuse("The folder " + targetRoot + " belongs to this library. Choose a drive or folder outside of it."));
+    return events->Ended(
+        Refuse("The folder " + targetRoot + " belongs to this library. Choose a drive or folder outside of it."));
   if (!videos.empty() && place.onSystem &&
       !host_.Question("Export to C?",
                       "Warning! You are about to export to the C drive. Are you sure you want to continue?"))
-    return done(Report("Export Cancelled"));
-  Transfer(Direction::Export, videos, targetRoot, {}, std::move(done));
+    return events->Ended(Report("Export Cancelled"));
+  Transfer(Direction::Export, videos, targetRoot, {}, std::move(events));
 }
 
-void LibraryOperations::ImportVideos(const std::vector<LibraryVideo>& videos, Done done, const ImportTarget& loose) {
-  if (!videos.empty() && !Busy() && !BeginLibrary()) return done(Report("Import Cancelled"));
-  Transfer(Direction::Import, videos, tree_.Root(), loose, std::move(done));
+void LibraryOperations::ImportVideos(const std::vector<LibraryVideo>& videos, Events events, const ImportTarget& loose) {
+  if (!videos.empty() && !Busy() && !BeginLibrary()) return events->Ended(Report("Import Cancelled"));
+  Transfer(Direction::Import, videos, tree_.Root(), loose, std::move(events));
 }
 
 void LibraryOperations::Transfer(Direction direction, const std::vector<LibraryVideo>& videos,
-                                 const std::string& targetRoot, const ImportTarget& loose, Done done) {
-  if (videos.empty()) return done(Report("No Videos Selected"));
-  if (const std::string busy = BusyText(); !busy.empty()) return done(Refuse(busy));
-  if (!HasFolder(targetRoot)) return done(Refuse("The folder " + targetRoot + " cannot be reached. Nothing was changed."));
+                                 const std::string& targetRoot, const ImportTarget& loose, Events events) {
+  if (videos.empty()) return events->Ended(Report("No Videos Selected"));
+  if (const std::string busy = BusyText(); !busy.empty()) return events->Ended(Refuse(busy));
+  if (!HasFolder(targetRoot))
+    return events->Ended(Refuse("The folder " + targetRoot + " cannot be reached. Nothing was changed."));
   const bool out = direction == Direction::Export;
   std::vector<ImportTarget> places;
   std::vector<VideoTransfer> transfers;
@@ -291,24 +318,20 @@ void LibraryOperations::Transfer(Direction direction, const std::vector<LibraryV
   const auto toItself = host_.Drives().Ask(out ? tree_.Root() : ways.front().first, [ways] {
     return std::ranges::any_of(ways, [](const auto& way) { return SamePlace(way.first, way.second); });
   });
-  if (!toItself) return done(Refuse("The drive with the videos is not answering. No videos were copied."));
-  if (*toItself) return done(Refuse("The source and destination folders are the same. No videos were copied."));
+  if (!toItself)
+    return events->Ended(Refuse("The drive with the videos is not answering. No videos were copied."));
+  if (*toItself)
+    return events->Ended(Refuse("The source and destination folders are the same. No videos were copied."));
   if (!loose.student.empty() && !dirExists(tree_.StudentFolder(loose.instructor, loose.student)))
-    return done(RefuseGone("No videos were copied to " + loose.student));
-  Tell(out ? "Exporting Videos, Please Wait....." : "Importing Videos... Please Wait.....");
+    return events->Ended(RefuseGone("No videos were copied to " + loose.student));
+  events->ShowStatus(out ? "Exporting Videos, Please Wait....." : "Importing Videos... Please Wait.....");
   auto job = std::make_unique<VideoTransferJob>(out ? CopyJob::Kind::CopyOut : CopyJob::Kind::Copy, OnClash::AddD,
                                                 std::move(transfers), disk_);
   if (!out) job->LookAtEach();
   Run<VideoTransferJob>(
       std::move(job),
       [this, out, places](VideoTransferJob& copy) { return EndOfTransfer(copy, out, places); },
-      std::move(done),
-      [this, out, shown = 0](const JobProgress& progress) mutable {
-        if (progress.done <= shown) return;
-        shown = progress.done;
-        Tell(std::to_string(progress.done) + " of " + std::to_string(progress.total) +
-             (out ? " Videos Successfully exported.....Please wait..." : " Videos Successfully Imported."));
-      });
+      std::make_shared<CountedTransfer>(std::move(events), out));
 }
 
 /// @param places  where each of the videos was to go

@@ -27,6 +27,23 @@ struct Desk {
   }
 };
 
+/// Writes down what the start asks for.
+class HeardSteps final : public IStartUpSteps {
+ public:
+  explicit HeardSteps(const ColorSchemes& schemes) : schemes_(schemes) {}
+  std::string order;
+
+  void ApplyScheme() override { order += "scheme " + std::to_string(schemes_.Design()) + ", "; }
+  void EnsureFields() override { order += "fields, "; }
+  void ShowSplash() override { order += "splash, "; }
+  void LoadMain() override { order += "main, "; }
+  void ShowFirstForm() override { order += "first form, "; }
+  void CloseSplash() override { order += "close"; }
+
+ private:
+  const ColorSchemes& schemes_;
+};
+
 TEST(StartUp, ComesUpInOrderAndAsksOnlyOnce) {
   TempFolder folder;
   TestHost host;
@@ -34,13 +51,10 @@ TEST(StartUp, ComesUpInOrderAndAsksOnlyOnce) {
     Settings settings(host, folder.Path("data"), folder.Path("program"));
     MailSettings mail(settings.DataPath);
     ColorSchemes schemes;
-    std::string order;
-    const auto step = [&order](const char* name) { return [&order, name] { order += name; }; };
-    const StartUpSteps steps{[&] { order += "scheme " + std::to_string(schemes.Design()) + ", "; }, step("fields, "),
-                             step("splash, "), step("main, "), step("first form, "), step("close")};
+    HeardSteps steps(schemes);
     EXPECT_EQ(StartUp(settings, mail, schemes, steps), first);
-    EXPECT_EQ(order, first ? "scheme 0, fields, splash, main, first form, close"
-                           : "scheme 7, fields, splash, main, close");
+    EXPECT_EQ(steps.order, first ? "scheme 0, fields, splash, main, first form, close"
+                                 : "scheme 7, fields, splash, main, close");
     EXPECT_EQ(mail.Subject, first ? "Video Analysis from " : "Video Analysis from Links");
     settings.Set(settings.Design, "7");
     mail.TakeSender("Erica Sample", "Links");
@@ -177,15 +191,13 @@ TEST(MenuPicture, AMissingPictureIsReportedOnce) {
   EXPECT_EQ(desk.host.messages.size(), 1u);
 
   const std::string picture = desk.folder.Put("mine.jpg", "x");
-  bool readable = true;
-  const auto isPicture = [&](const std::string&) { return readable; };
+  const auto isPicture = [](const std::string& path) { return LastName(path) == "mine.jpg"; };
   desk.host.files = {std::nullopt, picture};
   EXPECT_FALSE(ChooseBackground(desk.host, s, isPicture));
   EXPECT_TRUE(ChooseBackground(desk.host, s, isPicture));
   EXPECT_EQ(CheckBackground(desk.host, s).file, picture);
   EXPECT_EQ(desk.OnDisk("General", "BackgroundPic"), picture);
 
-  readable = false;
   desk.host.files = {desk.folder.Put("letter.jpg", "no picture")};
   EXPECT_FALSE(ChooseBackground(desk.host, s, isPicture));
   EXPECT_EQ(desk.host.messages.size(), 2u);

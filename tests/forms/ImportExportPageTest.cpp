@@ -1,5 +1,6 @@
 #include "library/forms/ImportExportPage.h"
 
+#include "../library/LibraryFakes.h"
 #include "../library/TempLibrary.h"
 #include "FormDriver.h"
 #include "FormsSupport.h"
@@ -33,7 +34,8 @@ class ImportExportPageTest : public ::testing::Test, protected test::UsesApplica
   test::TempLibrary library;
   test::TempFolder disk;
   LastStudentInfo remembered;
-  LibraryOperations operations{library.host, library.settings, {}, {JobRunner::On::HostTimer}};
+  test::FakeAnalysis analysis;
+  LibraryOperations operations{library.host, library.settings, analysis, {JobRunner::On::HostTimer}};
   std::unique_ptr<ImportExportPage> page;
 
  private:

@@ -261,6 +261,16 @@ TEST_F(LibraryCommandsTest, ALongOperationShowsAWindowThatCancelsIt) {
   EXPECT_NE(Preview().Info(), nullptr);
 }
 
+TEST_F(LibraryCommandsTest, AnOperationOutlivesItsPage) {
+  ChooseStudent("Tom");
+  Press("SPBtn3");
+  Press("DelStudentBtn");
+  ASSERT_TRUE(operations->Busy());
+  page.reset();
+  Work();
+  EXPECT_FALSE(Exists("Demo/Tom"));
+}
+
 TEST_F(LibraryCommandsTest, InstructorsAreRenamedAndRemovedWhenTheyAreEmpty) {
   QTest::keyClick(List("InstructorList"), Qt::Key_F2);
   EXPECT_EQ(Text("SPDisplay"), "You must select an Instructor or Database first.");

@@ -5,6 +5,7 @@
 #include <QtTest/QTest>
 
 #include "../library/TempLibrary.h"
+#include "FakeOpener.h"
 #include "FormsSupport.h"
 #include "library/forms/PreviewPlayer.h"
 #include "platform/widgets/NameList.h"
@@ -23,15 +24,7 @@ class OpenFormTest : public ::testing::Test, protected test::UsesApplication {
       std::filesystem::copy_file(video, library.File(name), std::filesystem::copy_options::overwrite_existing);
     library.File("Demo/Tom/swing.ved", "1XXXXNXX");
     remembered = {"Demo", "Tom", library.Path("Demo/Tom")};
-    OpenVideoCalls calls;
-    calls.open = [this](const std::string& path) {
-      opened.push_back(path);
-      return true;
-    };
-    calls.openFamily = [this](const std::vector<std::string>& paths) { family = paths; };
-    calls.undo = [this] { ++undone; };
-    calls.done = [this] { ++done; };
-    form = std::make_unique<Form>(services, library.settings, remembered, calls);
+    form = std::make_unique<Form>(services, library.settings, remembered, opener);
     form->resize(form->sizeHint());
     form->show();
     form->Open();
@@ -44,10 +37,7 @@ class OpenFormTest : public ::testing::Test, protected test::UsesApplication {
   PlayScheduler scheduler{library.host};
   PlayerServices services{library.host, scheduler};
   LastStudentInfo remembered;
-  std::vector<std::string> opened;
-  std::vector<std::string> family;
-  int undone = 0;
-  int done = 0;
+  test::FakeOpener opener;
   std::unique_ptr<Form> form;
 };
 
@@ -63,13 +53,13 @@ TYPED_TEST(OpenFormTest, OpensUndoesAndIsDone) {
 
   this->Button(0)->click();
   QTest::keyClick(this->VideoList(), Qt::Key_Return);
-  EXPECT_EQ(this->opened, std::vector<std::string>(2, this->library.Path("Demo/Tom/swing.avi")));
+  EXPECT_EQ(this->opener.opened, std::vector<std::string>(2, this->library.Path("Demo/Tom/swing.avi")));
   this->Button(2)->click();
   this->Button(2)->click();
-  EXPECT_EQ(this->undone, 2);
+  EXPECT_EQ(this->opener.undone, 2);
   EXPECT_FALSE(this->Button(2)->isEnabled());
   QTest::keyClick(this->VideoList(), Qt::Key_Escape);
-  EXPECT_EQ(this->done, 1);
+  EXPECT_EQ(this->opener.done, 1);
   this->form->Leave();
   EXPECT_EQ(this->form->template findChild<PreviewPlayer*>()->Control().Info(), nullptr);
 }
@@ -82,7 +72,7 @@ TYPED_TEST(OpenFormTest, LoadsTheFilesOfAShortGameFamily) {
   EXPECT_FALSE(this->Button(2)->isEnabled()) << "belongs to none";
   this->VideoList()->setCurrentRow(1);
   this->Button(2)->click();
-  EXPECT_EQ(this->family, (std::vector<std::string>{this->library.Path("Demo/Tom/putting face on.avi"),
+  EXPECT_EQ(this->opener.family, (std::vector<std::string>{this->library.Path("Demo/Tom/putting face on.avi"),
                                                     this->library.Path("Demo/Tom/Putting Down the Line.AVI")}));
 }
 

@@ -431,7 +431,8 @@ TEST_F(ProfilesPageTest, ButtonsSayWhatTheyDoOnTheStatusLine) {
 
 TEST_F(ProfilesPageTest, FieldsAreRenamedWhenTheirBoxIsLeft) {
   int changes = 0;
-  FieldsEditor editor(library.host, fields, [&] { ++changes; });
+  FieldsEditor editor(library.host, fields);
+  QObject::connect(&editor, &FieldsEditor::FieldsChanged, [&] { ++changes; });
   auto* age = editor.findChild<QLineEdit*>("SPEdittext6");
   age->setText("Handicap");
   QTest::keyClick(age, Qt::Key_Return);

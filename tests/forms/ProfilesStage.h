@@ -3,6 +3,7 @@
 #include <memory>
 #include <set>
 
+#include "../library/LibraryFakes.h"
 #include "../library/TempLibrary.h"
 #include "FormDriver.h"
 #include "FormsSupport.h"
@@ -30,13 +31,7 @@ class ProfilesStage : public ::testing::Test, protected UsesApplication, protect
 
   void MakePage(LibraryOperations::Environment environment) {
     page.reset();
-    AnalysisLink link{[this](const std::string& path) { return open.contains(path); },
-                      [this](const std::string& path, const std::function<void(const std::string&)>& tell) {
-                        sent.push_back(path);
-                        tell("Current video was sent to Analysis.");
-                        return 1;
-                      }};
-    operations = std::make_unique<LibraryOperations>(library.host, library.settings, link, environment);
+    operations = std::make_unique<LibraryOperations>(library.host, library.settings, analysis, environment);
     page = std::make_unique<ProfilesPage>(services, printer, library.settings, fields, remembered, *operations);
     page->resize(892, 700);
     page->show();
@@ -79,8 +74,9 @@ class ProfilesStage : public ::testing::Test, protected UsesApplication, protect
   TestPrinter printer;
   ProfileFields fields{library.Data("fields.ini")};
   LastStudentInfo remembered;
-  std::vector<std::string> sent;
-  std::set<std::string> open;  ///< in the analysis section
+  FakeAnalysis analysis;
+  std::set<std::string>& open = analysis.open;
+  std::vector<std::string>& sent = analysis.sent;
   std::unique_ptr<LibraryOperations> operations;
   std::unique_ptr<ProfilesPage> page;
 

@@ -2,11 +2,13 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QColorDialog>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QSlider>
+#include <QTimer>
 #include <QWheelEvent>
 
 #include "FormDriver.h"
@@ -23,7 +25,7 @@ namespace kinalyx::test {
 namespace {
 
 /// The setup page over a data folder of its own.
-class SetupPageTest : public ::testing::Test, UsesApplication, protected FormDriver {
+class SetupPageTest : public ::testing::Test, UsesApplication, protected FormDriver, private ISettingsEvents {
  protected:
   SetupPageTest() {
     settings.LoadSettings();
@@ -36,12 +38,13 @@ class SetupPageTest : public ::testing::Test, UsesApplication, protected FormDri
 
   TempFolder folder;
   TestHost host;
-  Settings settings{host, folder.Path("data"), folder.Path("program")};
+  Settings settings{host, folder.Path("data"), folder.Path("program"), *this};
   ColorSchemes schemes;
   std::unique_ptr<SetupPage> page;
 
  private:
   QWidget& Form() override { return *page; }
+  void SettingsReloaded() override { page->TakeReloaded(); }
 };
 
 TEST_F(SetupPageTest, FillingTheControlsWritesNothing) {
@@ -122,18 +125,25 @@ TEST_F(SetupPageTest, ADraggedSliderIsWrittenWhenItIsLetGo) {
 }
 
 TEST_F(SetupPageTest, ToolColoursAreChosenInADialog) {
+  // What the user does in the dialog that the button opens: chooses a colour, or cancels.
   QString asked;
-  page->Analysis().pickColour = [&](const QColor& present, const QString& title) -> std::optional<QColor> {
-    asked = title + " " + present.name();
-    return title.contains("Line") ? std::optional(QColor(1, 2, 3)) : title.contains("PathDown") ? QColor(0, 0, 9)
-                                                                                                : std::optional<QColor>();
+  const auto press = [&](const char* button, const QColor& chosen) {
+    QTimer::singleShot(0, [&] {
+      auto* dialog = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
+      ASSERT_TRUE(dialog);
+      asked = dialog->windowTitle() + " " + dialog->currentColor().name();
+      if (chosen.isValid()) dialog->setCurrentColor(chosen);
+      if (chosen.isValid()) dialog->accept();
+      else dialog->reject();
+    });
+    Press(button);
   };
-  Press("NewColor3");
+  press("NewColor3", QColor(1, 2, 3));
   EXPECT_EQ(asked, "Change Line Color #0000ff");
   EXPECT_EQ(OnDisk("Analysis", "NewColor3"), std::to_string(1 + 256 * 2 + 65536 * 3));
-  Press("NewColor4");
+  press("NewColor4", QColor());
   EXPECT_EQ(OnDisk("Analysis", "NewColor4"), "&HFF&") << "a cancelled dialog changes nothing";
-  Press("NewColor17");
+  press("NewColor17", QColor(0, 0, 9));
   EXPECT_EQ(OnDisk("Analysis", "NewColor17"), std::to_string(65536 * 9));
   EXPECT_EQ(Find<ColourButton>("NewColor17")->Colour(), QColor(0, 0, 9));
 }

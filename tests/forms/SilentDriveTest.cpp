@@ -1,6 +1,7 @@
 #include <QComboBox>
 #include <QtTest/QTest>
 
+#include "FakeOpener.h"
 #include "ProfilesStage.h"
 #include "library/forms/ImportExportPage.h"
 #include "library/forms/OpenVidForm.h"
@@ -53,21 +54,19 @@ TEST_F(SilentDriveTest, AVideoBehindASilentDriveIsNoBadVideo) {
 }
 
 TEST_F(SilentDriveTest, TheOpenFormOpensNothingAndTellsWhy) {
-  int opened = 0;
-  OpenVideoCalls calls;
-  calls.open = [&](const std::string&) { return ++opened > 0; };
-  OpenVidForm form(services, library.settings, remembered, calls);
+  test::FakeOpener opener;
+  OpenVidForm form(services, library.settings, remembered, opener);
   remembered = {"Demo", "Sample, Erica", ""};
   form.Open();
   ASSERT_TRUE(form.Browser().HasVideo());
   library.host.drivesHang = true;
   form.CmdOpenVideo_Click(0);
-  EXPECT_EQ(opened, 0);
+  EXPECT_TRUE(opener.opened.empty());
   ASSERT_EQ(library.host.messages.size(), 1u);
   EXPECT_TRUE(library.host.messages[0].ends_with("is not answering. The video was not opened."));
   library.host.DrivesAnswer();
   form.CmdOpenVideo_Click(0);
-  EXPECT_EQ(opened, 1);
+  EXPECT_EQ(opener.opened.size(), 1u);
 }
 
 TEST_F(SilentDriveTest, AnExportDriveThatHangsLeavesTheLibraryAlone) {

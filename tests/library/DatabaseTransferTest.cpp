@@ -25,7 +25,7 @@ TEST_F(DatabaseTransfer, CopiesToADiskAndCounts) {
     return Run(&LibraryOperations::CopyToDisk, videos, folder).status;
   };
   EXPECT_EQ(copy({DL(), FO()}, drive.Path()), "3 Files Copied Successfully.");
-  EXPECT_EQ(statuses.back(), "Copying Videos, Please Wait.....");
+  EXPECT_EQ(heard->statuses.back(), "Copying Videos, Please Wait.....");
   EXPECT_EQ(drive.Get("(001) DL.avi"), "video 1");
   EXPECT_EQ(copy({DL()}, drive.Path("gone")), "Drive Error");
   EXPECT_EQ(copy({Video("Ann", "Joe Doe", "never")}, drive.Path()), "0 Files Copied Successfully.");
@@ -42,18 +42,18 @@ TEST_F(DatabaseTransfer, CopiesToADiskAndCounts) {
 TEST_F(DatabaseTransfer, ADatabaseGoesOutAndComesBackAgainAndAgain) {
   library.File("loose.avi", "loose");
   EXPECT_EQ(Export({DL(), FO(), Video("General Folder", "", "loose")}, drive.Path()).status, "3 File(s) exported successfully!");
-  EXPECT_EQ(statuses.front(), "Exporting Videos, Please Wait.....");
-  EXPECT_EQ(statuses.back(), "3 of 3 Videos Successfully exported.....Please wait...");
+  EXPECT_EQ(heard->statuses.front(), "Exporting Videos, Please Wait.....");
+  EXPECT_EQ(heard->statuses.back(), "3 of 3 Videos Successfully exported.....Please wait...");
   EXPECT_EQ(drive.Get("Ann/Joe Doe/(001) DL.ved"), "1XXXSXXX");
   EXPECT_EQ(drive.Get("Ann/Joe Doe/profile.txt"), "keeps his head down\r\n");
   EXPECT_EQ(drive.Get("loose.avi"), "loose");
 
   fs::remove_all(library.Path("Ann"));
-  statuses.clear();
+  heard->statuses.clear();
   const auto abroad = [&](const char* name) { return LibraryVideo{"Ann", "Joe Doe", drive.Path("Ann/Joe Doe/") + name}; };
   EXPECT_EQ(Import({abroad("(001) DL.avi"), abroad("(002) FO.avi")}).status, "2 File(s) Imported successfully!");
-  EXPECT_EQ(statuses.front(), "Importing Videos... Please Wait.....");
-  EXPECT_EQ(statuses.back(), "2 of 2 Videos Successfully Imported.");
+  EXPECT_EQ(heard->statuses.front(), "Importing Videos... Please Wait.....");
+  EXPECT_EQ(heard->statuses.back(), "2 of 2 Videos Successfully Imported.");
   EXPECT_EQ(Read("Ann/Joe Doe/(001) DL.ved"), "1XXXSXXX");
   const std::string profile = library.Path("Ann/Joe Doe/profile.prf");
   EXPECT_EQ(AgeIn(profile), "44");
@@ -74,7 +74,7 @@ TEST_F(DatabaseTransfer, StudentsWithoutVideosGoWithTheirDatabase) {
   library.File("Ann/New Nell/profile.txt", "begins in May\r\n");
   EXPECT_EQ(Export(VideosOf(LibraryTree(library.settings), "Ann"), drive.Path()).status,
             "2 File(s) exported successfully! 1 student without videos went along with profile and notes.");
-  EXPECT_EQ(statuses.back(), "2 of 2 Videos Successfully exported.....Please wait...");
+  EXPECT_EQ(heard->statuses.back(), "2 of 2 Videos Successfully exported.....Please wait...");
   EXPECT_EQ(drive.Get("Ann/New Nell/profile.txt"), "begins in May\r\n");
   EXPECT_EQ(AgeIn(drive.Path("Ann/New Nell/profile.prf")), "9");
 }
@@ -118,7 +118,7 @@ TEST_F(DatabaseTransfer, AFileInTheWayOfAFolderIsNamed) {
 }
 
 TEST_F(DatabaseTransfer, AnExportCanBeStoppedAndKeepsWhatHasArrived) {
-  Ops().ShowProgress = [this](const JobProgress& progress) {
+  heard->onProgress = [this](const JobProgress& progress) {
     EXPECT_TRUE(Ops().Busy());
     EXPECT_NE(Ops().DeleteVideo(DL()).status.find("still at work"), std::string::npos);
     if (progress.done == 2) Ops().Cancel();

@@ -36,35 +36,46 @@ class CountingJob final : public IJob {
   int last_;
 };
 
+/// Keeps how the last job ended.
+struct Ended {
+  bool ended = false;
+  bool abandoned = false;
+};
+class HeardJob final : public IJobEvents {
+ public:
+  explicit HeardJob(Ended& heard) : heard_(heard) {}
+  void Progress(const JobProgress&) override {}
+  void Over(IJob* job) override { heard_ = {true, job == nullptr}; }
+
+ private:
+  Ended& heard_;
+};
+
 TEST(JobRunner, AWorkerEndsAndIsLeftBehindWhenItsDiskDoesNotAnswer) {
   test::TestHost host;
   JobRunner runner(host, JobRunner::On::Worker);
-  bool ended = false;
-  bool abandoned = false;
+  Ended heard;
   const auto start = [&](const std::shared_ptr<CountingJob::Seen>& seen, int steps) {
-    return runner.Start(std::make_unique<CountingJob>(seen, steps), {}, [&](IJob* job) {
-      ended = true;
-      abandoned = job == nullptr;
-    });
+    return runner.Start(std::make_unique<CountingJob>(seen, steps), std::make_unique<HeardJob>(heard));
   };
   const auto whole = std::make_shared<CountingJob::Seen>();
   ASSERT_TRUE(start(whole, 5));
   EXPECT_FALSE(start(whole, 5)) << "one at a time";
-  while (!ended) {
+  while (!heard.ended) {
     host.Advance(1);
     std::this_thread::sleep_for(std::chrono::milliseconds(1));
   }
   EXPECT_EQ(whole->steps, 5);
-  EXPECT_FALSE(abandoned || runner.Busy());
+  EXPECT_FALSE(heard.abandoned || runner.Busy());
 
-  ended = false;
+  heard = {};
   const auto hanging = std::make_shared<CountingJob::Seen>();
   hanging->hangs = true;
   ASSERT_TRUE(start(hanging, 1 << 30));
   while (!hanging->begun) std::this_thread::yield();
   runner.Cancel();
   host.Advance(5000);
-  EXPECT_TRUE(ended && abandoned);
+  EXPECT_TRUE(heard.ended && heard.abandoned);
   EXPECT_FALSE(runner.Busy());
   hanging->hangs = false;
   while (!hanging->gone) std::this_thread::yield();

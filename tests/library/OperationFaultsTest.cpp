@@ -90,7 +90,7 @@ TEST_F(OperationFaults, LoseNothingWheneverTheUserCancels) {
     TwoDrives drives(RealCopyDisk());
     Use(twoDrives ? static_cast<ICopyDisk&>(drives) : RealCopyDisk());
     bool cancelled = false;
-    Ops().ShowProgress = [&, left = step](const JobProgress&) mutable {
+    heard->onProgress = [&, left = step](const JobProgress&) mutable {
       if (left-- > 0) return;
       cancelled = true;
       Ops().Cancel();

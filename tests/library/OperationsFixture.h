@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "library/LibraryFakes.h"
 #include "library/LibraryOperations.h"
 #include "library/TempLibrary.h"
 #include "platform/files/Folders.h"
@@ -35,10 +36,7 @@ class OperationsFixture : public testing::Test {
   LibraryOperations& Ops() {
     if (!operations) {
       operations = std::make_unique<LibraryOperations>(
-          library.host, library.settings,
-          AnalysisLink{[this](const std::string& path) { return open.contains(path); }, {}},
-          LibraryOperations::Environment{JobRunner::On::HostTimer, disk});
-      operations->ShowStatus = [this](const std::string& words) { statuses.push_back(words); };
+          library.host, library.settings, analysis, LibraryOperations::Environment{JobRunner::On::HostTimer, disk});
     }
     return *operations;
   }
@@ -58,13 +56,13 @@ class OperationsFixture : public testing::Test {
   /// Does a long operation to its end.
   template <typename... Arguments>
   OperationResult Run(auto operation, const Arguments&... arguments) {
-    ended.reset();
-    (Ops().*operation)(arguments..., Into());
+    heard->ended.reset();
+    (Ops().*operation)(arguments..., heard);
     return Ended();
   }
   OperationResult Import(const Videos& videos, const ImportTarget& loose = {}) {
-    ended.reset();
-    Ops().ImportVideos(videos, Into(), loose);
+    heard->ended.reset();
+    Ops().ImportVideos(videos, heard, loose);
     return Ended();
   }
   std::string Message() const { return library.host.messages.empty() ? "" : library.host.messages.back(); }
@@ -74,21 +72,17 @@ class OperationsFixture : public testing::Test {
 
   TempLibrary library;
   ICopyDisk* disk = &RealCopyDisk();
+  FakeAnalysis analysis;
+  std::set<std::string>& open = analysis.open;
+  const std::shared_ptr<HeardOperation> heard = std::make_shared<HeardOperation>();
   std::unique_ptr<LibraryOperations> operations;
-  std::set<std::string> open;
-  std::vector<std::string> statuses;
 
  private:
-  LibraryOperations::Done Into() {
-    return [this](const OperationResult& result) { ended = result; };
-  }
   OperationResult Ended() {
-    for (int turn = 0; !ended && turn < 10000; ++turn) library.host.Advance(1);
-    EXPECT_TRUE(ended) << "the operation never ends";
-    return ended.value_or(OperationResult());
+    for (int turn = 0; !heard->ended && turn < 10000; ++turn) library.host.Advance(1);
+    EXPECT_TRUE(heard->ended) << "the operation never ends";
+    return heard->ended.value_or(OperationResult());
   }
-
-  std::optional<OperationResult> ended;
 };
 
 }  // namespace kinalyx::test

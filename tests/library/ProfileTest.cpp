@@ -2,6 +2,7 @@
 
 #include <chrono>
 
+#include "LibraryFakes.h"
 #include "library/NotesKeeper.h"
 #include "library/TempLibrary.h"
 #include "platform/files/Folders.h"
@@ -124,7 +125,9 @@ TEST_F(ProfileTest, TwoWorkstationsKeepEachOthersFieldsAndLines) {
 
   library.File("Demo/Sample, Erica/profile.txt", "grip\r\nhips\r\n");
   bool reached = true;
-  NotesKeeper notes([&](const std::string&) { return reached; });
+  test::FakeNotesEvents events;
+  events.reach = [&](const std::string&) { return reached; };
+  NotesKeeper notes(events);
   std::string error;
   EXPECT_EQ(notes.Open(student), "grip\r\nhips\r\n");
   ASSERT_TRUE(SaveNotes(student, "grip\r\nhips\r\nfrom the other desk\r\n"));
@@ -205,7 +208,8 @@ TEST_F(ProfileTest, NotesComeBackAsTheyWereAndEmptyOnesLeaveNoFile) {
 }
 
 TEST_F(ProfileTest, NotesThatCannotBeSavedWaitInMemory) {
-  NotesKeeper notes([](const std::string&) { return true; });
+  test::FakeNotesEvents events;
+  NotesKeeper notes(events);
   std::string error;
   EXPECT_EQ(notes.Open(student), "");
   EXPECT_TRUE(notes.Keep("first\n", &error));
@@ -231,12 +235,10 @@ TEST_F(ProfileTest, NotesThatCannotBeSavedWaitInMemory) {
   EXPECT_EQ(File("profile.txt"), "second\r\n");
 
   // Somebody else renames the student: nothing is brought back under the old name, and the words are told.
-  std::string lost;
-  notes.Lost = [&](const std::string& folder, const std::string& text) { lost += LastName(folder) + ": " + text; };
   std::filesystem::rename(student, library.Path("Demo/Renamed"));
   EXPECT_TRUE(notes.Keep("third", &error));
   EXPECT_TRUE(notes.Keep("third", &error));
-  EXPECT_EQ(lost, "Sample, Erica: third\r\n");
+  EXPECT_EQ(events.lost, "Sample, Erica: third\r\n");
   EXPECT_FALSE(std::filesystem::exists(student));
 }
 

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "LibraryFakes.h"
 #include "TempLibrary.h"
 #include "library/LibraryBrowser.h"
 #include "library/LibraryOperations.h"
@@ -41,42 +42,36 @@ TEST_F(SilentLibraryTest, WhoHadChosenOtherwiseComesBackToThat) {
 }
 
 struct SilentOperationsTest : SilentLibraryTest {
-  std::vector<std::string> sent;
-  LibraryOperations operations{host, library.settings,
-                               {[](const std::string&) { return false; },
-                                [this](const std::string& path, const auto&) {
-                                  sent.push_back(path);
-                                  return 1;
-                                }},
-                               {JobRunner::On::HostTimer}};
+  FakeAnalysis analysis;
+  LibraryOperations operations{host, library.settings, analysis, {JobRunner::On::HostTimer}};
   const LibraryVideo video{"Demo", "Tom", library.Path("Demo/Tom/one.avi")};
-  OperationResult last;
-  const LibraryOperations::Done into = [this](const OperationResult& result) { last = result; };
+  const std::shared_ptr<HeardOperation> heard = std::make_shared<HeardOperation>();
 };
 
 TEST_F(SilentOperationsTest, EveryChangeIsRefusedInWords) {
+  std::optional<OperationResult>& last = heard->ended;
   const std::function<OperationResult()> changes[] = {
       [&] { return operations.AddInstructor("New"); },
       [&] { return operations.RenameInstructor("Else", "New"); },
       [&] { return operations.DeleteInstructor("Else"); },
       [&] { return operations.RenameStudent("Demo", "Tom", "Jim"); },
-      [&] { return operations.MoveStudent("Demo", "Tom", "Else", into), last; },
-      [&] { return operations.DeleteStudent("Demo", "Tom", into), last; },
-      [&] { return operations.SendToAnalysis(video); },
+      [&] { return operations.MoveStudent("Demo", "Tom", "Else", heard), last.value(); },
+      [&] { return operations.DeleteStudent("Demo", "Tom", heard), last.value(); },
+      [&] { return operations.SendToAnalysis(video, [](const std::string&) {}); },
       [&] { return operations.RenameVideo(video, "new"); },
       [&] { return operations.DeleteVideo(video); },
-      [&] { return operations.QuickLaunch(video, into), last; },
-      [&] { return operations.Trim(video, 0, 1, 30, into), last; },
-      [&] { return operations.ImportVideos({video}, into), last; }};
+      [&] { return operations.QuickLaunch(video, heard), last.value(); },
+      [&] { return operations.Trim(video, 0, 1, 30, heard), last.value(); },
+      [&] { return operations.ImportVideos({video}, heard), last.value(); }};
   const auto expectRefusals = [&] {
     for (const auto& change : changes) {
-      last = {};
+      last.reset();
       const OperationResult result = change();
       EXPECT_FALSE(result.done);
       EXPECT_TRUE(result.status.ends_with("Nothing was changed.")) << result.status;
     }
     EXPECT_TRUE(host.questions.empty());
-    EXPECT_TRUE(sent.empty());
+    EXPECT_TRUE(analysis.sent.empty());
   };
   host.drivesHang = true;
   expectRefusals();
@@ -96,8 +91,9 @@ TEST_F(SilentOperationsTest, EveryChangeIsRefusedInWords) {
 TEST_F(SilentOperationsTest, ADriveThatTakesNoCopiesIsNamed) {
   const TempFolder disk;
   host.drivesHang = true;
-  operations.ExportVideos({video}, disk.Path(), into);
-  EXPECT_NE(last.status.find(disk.Path()), std::string::npos) << last.status;
+  operations.ExportVideos({video}, disk.Path(), heard);
+  ASSERT_TRUE(heard->ended);
+  EXPECT_NE(heard->ended->status.find(disk.Path()), std::string::npos) << heard->ended->status;
   EXPECT_FALSE(operations.Busy());
   host.DrivesAnswer();
   EXPECT_TRUE(std::filesystem::is_empty(disk.Path()));
@@ -106,7 +102,9 @@ TEST_F(SilentOperationsTest, ADriveThatTakesNoCopiesIsNamed) {
 TEST_F(SilentLibraryTest, NotesWaitUntilTheDriveAnswers) {
   const std::string tom = library.Path("Demo/Tom");
   library.File("Demo/Tom/profile.txt", "old\r\n");
-  NotesKeeper notes([&](const std::string& folder) { return host.Drives().Answers(library.Root(), folder); });
+  FakeNotesEvents events;
+  events.reach = [&](const std::string& folder) { return host.Drives().Answers(library.Root(), folder); };
+  NotesKeeper notes(events);
   EXPECT_EQ(notes.Open(tom), "old\r\n");
   host.drivesHang = true;
   std::string error;

@@ -24,7 +24,7 @@ TEST_F(VideoOperations, NothingHappensWithoutAChoiceOrToAVideoThatIsOpenInAnalys
     EXPECT_EQ(operation(DL()).status,
               "This video is open in the Analysis section. You must close the video before you can continue.");
   }
-  EXPECT_EQ(Ops().SendToAnalysis({}).status, noVideo);
+  EXPECT_EQ(Ops().SendToAnalysis({}, [](const std::string&) {}).status, noVideo);
   EXPECT_EQ(Run(&LibraryOperations::QuickLaunch, LibraryVideo()).status, noVideo);
   EXPECT_EQ(Read("Ann/Joe Doe/(001) DL.avi"), "video 1");
   EXPECT_TRUE(Ops().RenameVideo(FO(), "x").done);
@@ -137,9 +137,9 @@ TEST_F(VideoOperations, TrimsByTheSmallProgram) {
 
   program("echo 50\nprintf '%s' \"$1\" > \"$(dirname \"$0\")/asked\"\necho 100\n");
   double part = 0;
-  Ops().ShowProgress = [&](const JobProgress& progress) { part = progress.part; };
+  heard->onProgress = [&](const JobProgress& progress) { part = progress.part; };
   EXPECT_EQ(trim(3, 17), "Last Video Saved Successfully");
-  EXPECT_EQ(statuses.back(), "Saving Video.... Please Wait.");
+  EXPECT_EQ(heard->statuses.back(), "Saving Video.... Please Wait.");
   EXPECT_EQ(part, 1);
   EXPECT_EQ(TempLibrary::Read(library.settings.AppPath + "/asked"), DL().path + "*" + DL().path + "*3*17*25*0*");
   EXPECT_EQ(Read("Ann/Joe Doe/(001) DL.ved"), "1XXXSXXX");
@@ -149,7 +149,7 @@ TEST_F(VideoOperations, TrimsByTheSmallProgram) {
   EXPECT_TRUE(Told("disk full"));
 
   program("trap 'exit 3' TERM\necho 10\nwhile :; do sleep 0.01; done\n");
-  Ops().ShowProgress = [&](const JobProgress& progress) {
+  heard->onProgress = [&](const JobProgress& progress) {
     if (progress.part > 0) Ops().Cancel();
   };
   EXPECT_EQ(trim(3, 17), "Operation Cancelled");

@@ -5,7 +5,6 @@
 #include <QCheckBox>
 #include <QColorDialog>
 #include <QGridLayout>
-#include <QSlider>
 
 #include "core/forms/Choices.h"
 #include "platform/widgets/Buttons.h"
@@ -44,16 +43,10 @@ constexpr int kFewestCells = 2;
 constexpr int kMostCells = 200;  // as many as the grid itself takes
 constexpr int kWidestStrobe = 30;  // frames, where the list of the strobe's own form ends
 
-std::optional<QColor> AskColour(QWidget* parent, const QColor& present, const QString& title) {
-  const QColor chosen = QColorDialog::getColor(present, parent, title, QColorDialog::DontUseNativeDialog);
-  return chosen.isValid() ? std::optional(chosen) : std::nullopt;
-}
-
 }  // namespace
 
 AnalysisSection::AnalysisSection(Settings& settings, QWidget* parent)
     : SetupSection("AnalysisSection", settings, parent) {
-  pickColour = [this](const QColor& present, const QString& title) { return AskColour(this, present, title); };
   AddLayouts();
   AddPlaying();
   AddDrawing();
@@ -94,12 +87,13 @@ void AnalysisSection::AddPlaying() {
   QVBoxLayout* rows = AddPanel(0, "Slow Motion, Strobe and Grid");
   const auto add = [&](const char* name, const char* caption, int least, int most, const char* unit, auto& setting) {
     using Number = std::remove_reference_t<decltype(setting)>;
-    return AddSlider(
-        *rows, name, caption, least, most, unit,
-        [this, &setting](int value) {
-          if (!settings_.Loading) setting = static_cast<Number>(value);
-        },
-        [this, &setting](int value) { StoreAndTell(setting, static_cast<Number>(value)); });
+    SettlingSlider* slider = AddSlider(*rows, name, caption, least, most, unit);
+    connect(slider, &QSlider::valueChanged, this, [this, &setting](int value) {
+      if (!settings_.Loading) setting = static_cast<Number>(value);  // in effect while it is dragged, written later
+    });
+    connect(slider, &SettlingSlider::Settled, this,
+            [this, &setting](int value) { StoreAndTell(setting, static_cast<Number>(value)); });
+    return slider;
   };
   slomo_ = add("Slomoscroll", "Slow motion speed", 1, 100, " %", settings_.SlomoSpeed);
   strobe_ = add("StrobeStepScroll", "Frames from one layer of a strobe to the next", 1, kWidestStrobe, "",
@@ -181,11 +175,11 @@ void AnalysisSection::SetupProgram() {
 
 void AnalysisSection::NewColor_Click(int index, const QString& title) {
   if (settings_.Loading) return;
-  const auto chosen = pickColour(colours_[index]->Colour(), title);
-  if (!chosen) return;
-  const std::int32_t colour = FromQColor(*chosen);
-  settings_.SetNewColor(index, colour);
-  colours_[index]->SetColour(*chosen);
+  const QColor chosen =
+      QColorDialog::getColor(colours_[index]->Colour(), this, title, QColorDialog::DontUseNativeDialog);
+  if (!chosen.isValid()) return;
+  settings_.SetNewColor(index, FromQColor(chosen));
+  colours_[index]->SetColour(chosen);
   emit AnalysisChanged();
 }
 

@@ -1,9 +1,6 @@
 #pragma once
 
-#include <QColor>
-#include <functional>
 #include <map>
-#include <optional>
 
 #include "core/forms/SetupSection.h"
 
@@ -22,9 +19,6 @@ class AnalysisSection : public SetupSection {
   explicit AnalysisSection(Settings& settings, QWidget* parent = nullptr);
 
   void SetupProgram() override;
-
-  /// Asks for a colour; the dialog of the program unless it is set otherwise.
-  std::function<std::optional<QColor>(const QColor& present, const QString& title)> pickColour;
 
  signals:
   /// A setting of the analysis section has changed.

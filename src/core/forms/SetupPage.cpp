@@ -64,13 +64,10 @@ SetupPage::SetupPage(IHost& host, Settings& settings, ColorSchemes& schemes, QWi
     RestartTimer_ = HostTimer(host_, 0, false, [this] { RestartTimer_Timer(); });
   });
 
-  settings_.Reloaded = [this] { TakeReloaded(); };
   SetupProgram();
   SetupVocabulary();
   PSCmd_Click(kGeneral);
 }
-
-SetupPage::~SetupPage() { settings_.Reloaded = nullptr; }
 
 QWidget* SetupPage::MakeSections() {
   auto* panel = new Panel("SetupSections", "Program Setup");

@@ -27,7 +27,6 @@ class SetupPage : public PageWidget {
   enum Section { kMainMenu = 0, kProfiles = 1, kCapture = 2, kAnalysis = 3, kGeneral = 4, kInternet = 5 };
 
   SetupPage(IHost& host, Settings& settings, ColorSchemes& schemes, QWidget* parent = nullptr);
-  ~SetupPage() override;
 
   /// Some settings of the analysis section are changed there as well: the grid's, for one.
   void Open() override;
@@ -38,6 +37,8 @@ class SetupPage : public PageWidget {
   void SetupVocabulary();
   /// Opens a section and presses its button. A section that is not built yet is refused with false.
   bool PSCmd_Click(int index);
+  /// Shows the settings after their file had gone and holds its first-run values again, and tells of each.
+  void TakeReloaded();
   int CurrentSection() const { return current_; }
 
   /// Gives the section of profiles its editor; the page becomes its parent. Until then the section is closed.
@@ -62,8 +63,6 @@ class SetupPage : public PageWidget {
 
  private:
   QWidget* MakeSections();
-  /// The settings file had gone and holds its first-run values again.
-  void TakeReloaded();
   void RestartTimer_Timer();
 
   IHost& host_;

@@ -7,7 +7,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
-#include <QSlider>
 
 #include "platform/widgets/Figures.h"
 #include "platform/widgets/Panel.h"
@@ -18,6 +17,14 @@ namespace kinalyx {
 
 namespace {
 constexpr int kWidestSection = 1400;  // as designed
+}
+
+SettlingSlider::SettlingSlider(const QString& name) : QSlider(Qt::Horizontal) {
+  setObjectName(name);
+  connect(this, &QSlider::valueChanged, this, [this](int number) {
+    if (!isSliderDown()) emit Settled(number);
+  });
+  connect(this, &QSlider::sliderReleased, this, [this] { emit Settled(value()); });
 }
 
 SetupSection::SetupSection(const QString& name, Settings& settings, QWidget* parent)
@@ -87,12 +94,10 @@ QLineEdit* SetupSection::AddText(QVBoxLayout& rows, const QString& name, const Q
   return box;
 }
 
-QSlider* SetupSection::AddSlider(QVBoxLayout& rows, const QString& name, const QString& caption, int low, int high,
-                                 const QString& unit, std::function<void(int)> moved,
-                                 std::function<void(int)> changed) {
+SettlingSlider* SetupSection::AddSlider(QVBoxLayout& rows, const QString& name, const QString& caption, int low,
+                                        int high, const QString& unit) {
   rows.addWidget(MakeLabel({}, caption, "caption"));
-  auto* slider = new QSlider(Qt::Horizontal);
-  slider->setObjectName(name);
+  auto* slider = new SettlingSlider(name);
   slider->setAccessibleName(caption);
   slider->setRange(low, high);
   auto* value = new FigureLabel(name + "Lbl");
@@ -104,12 +109,7 @@ QSlider* SetupSection::AddSlider(QVBoxLayout& rows, const QString& name, const Q
   rows.addLayout(row);
   const auto show = [value, unit](int number) { value->setText(QString::number(number) + unit); };
   show(slider->value());
-  connect(slider, &QSlider::valueChanged, slider, [slider, show, moved, changed](int number) {
-    show(number);
-    moved(number);
-    if (!slider->isSliderDown()) changed(number);
-  });
-  connect(slider, &QSlider::sliderReleased, slider, [slider, changed] { changed(slider->value()); });
+  connect(slider, &QSlider::valueChanged, value, show);
   return slider;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QScrollArea>
-#include <functional>
+#include <QSlider>
 #include <initializer_list>
 #include <type_traits>
 #include <utility>
@@ -11,10 +11,21 @@
 class QButtonGroup;
 class QHBoxLayout;
 class QLineEdit;
-class QSlider;
 class QVBoxLayout;
 
 namespace kinalyx {
+
+/// A slider that tells where it has come to rest.
+class SettlingSlider : public QSlider {
+  Q_OBJECT
+
+ public:
+  explicit SettlingSlider(const QString& name);
+
+ signals:
+  /// The user has let go, or stepped; not sent while it is dragged.
+  void Settled(int value);
+};
 
 /// One section of the setup page: two columns of panels that scroll together. Its controls write their key
 /// as soon as they change; there is nothing to confirm.
@@ -43,10 +54,9 @@ class SetupSection : public QScrollArea {
 
   /// A caption over a box for text.
   static QLineEdit* AddText(QVBoxLayout& rows, const QString& name, const QString& caption);
-  /// A slider with its value beside it. `changed` is called when the user lets go or steps; `moved` also
-  /// while it is dragged.
-  static QSlider* AddSlider(QVBoxLayout& rows, const QString& name, const QString& caption, int low, int high,
-                            const QString& unit, std::function<void(int)> moved, std::function<void(int)> changed);
+  /// A slider with its value beside it.
+  static SettlingSlider* AddSlider(QVBoxLayout& rows, const QString& name, const QString& caption, int low, int high,
+                                   const QString& unit);
   /// Radio buttons named `name` and the number.
   static QButtonGroup* AddRadios(QVBoxLayout& rows, const QString& name, std::initializer_list<const char*> captions);
 

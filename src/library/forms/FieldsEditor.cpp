@@ -11,8 +11,8 @@
 
 namespace kinalyx {
 
-FieldsEditor::FieldsEditor(IHost& host, ProfileFields& fields, std::function<void()> changed, QWidget* parent)
-    : QWidget(parent), host_(host), fields_(fields), changed_(std::move(changed)) {
+FieldsEditor::FieldsEditor(IHost& host, ProfileFields& fields, QWidget* parent)
+    : QWidget(parent), host_(host), fields_(fields) {
   auto* whole = new QVBoxLayout(this);
   whole->setContentsMargins(0, 0, 6, 0);
   auto* panel = new Panel("FieldsTitle", "Profile Fields");
@@ -47,7 +47,7 @@ void FieldsEditor::Store(int field) {
     host_.Message(MessageKind::Warning, "Profile Fields", stored.message);
     return;
   }
-  if (changed_) changed_();
+  emit FieldsChanged();
 }
 
 }  // namespace kinalyx

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QWidget>
-#include <functional>
 
 #include "library/Profile.h"
 #include "platform/host/Host.h"
@@ -16,15 +15,18 @@ class FieldsEditor : public QWidget {
   Q_OBJECT
 
  public:
-  /// @param changed  called after a caption has been stored; pages that show profiles read them again
-  FieldsEditor(IHost& host, ProfileFields& fields, std::function<void()> changed, QWidget* parent = nullptr);
+  /// All that is passed outlives the editor.
+  FieldsEditor(IHost& host, ProfileFields& fields, QWidget* parent = nullptr);
+
+ signals:
+  /// A caption has been stored; pages that show profiles read them again.
+  void FieldsChanged();
 
  private:
   void Store(int field);
 
   IHost& host_;
   ProfileFields& fields_;
-  std::function<void()> changed_;
   FieldBoxes* boxes_;
 };
 

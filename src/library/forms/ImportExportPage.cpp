@@ -3,6 +3,9 @@
 #include <QBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPointer>
+#include <memory>
+#include <utility>
 
 #include "core/Vocabulary.h"
 #include "core/forms/Choices.h"
@@ -19,6 +22,25 @@
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
+
+/// What becomes of an export or import, for as long as there is a page to show it.
+class ImportExportPage::Transfer final : public IOperationEvents {
+ public:
+  Transfer(ImportExportPage& page, bool out) : page_(&page), out_(out) {}
+
+  void ShowStatus(const std::string& words) override {
+    if (page_) page_->Say(Q(words));
+  }
+  void ShowProgress(const JobProgress&) override {}
+  void WorkOver() override {}
+  void Ended(const OperationResult& result) override {
+    if (page_) page_->ShowResult(out_, result);
+  }
+
+ private:
+  QPointer<ImportExportPage> page_;
+  bool out_;
+};
 
 ImportExportPage::ImportExportPage(IHost& host, Settings& settings, LibraryOperations& operations,
                                    const LastStudentInfo& remembered, QWidget* parent)
@@ -145,16 +167,17 @@ void ImportExportPage::IECmd_Click(int command) {
   const bool out = command == kExport;
   const auto videos = (out ? here_ : there_)->Chosen();
   if (out && !videos.empty() && otherRoot_.empty()) return Say("Choose a drive or folder first.");
-  const auto end = [this, out](const OperationResult& result) {
-    // What has arrived is shown where it is; what was chosen stays chosen no longer.
-    if (result.refill) (out ? there_ : here_)->ShowArrived(result);
-    if (result.done) (out ? here_ : there_)->Refresh();
-    DiskSpaceGauge();
-    Say(Q(result.status));
-  };
-  auto done = progress_->Begin(out ? "Export Videos" : "Import Videos", [this](const QString& words) { Say(words); }, end);
-  if (out) operations_.ExportVideos(videos, otherRoot_, std::move(done));
-  else operations_.ImportVideos(videos, std::move(done), TargetOfLooseVideos());
+  auto events = progress_->Begin(out ? "Export Videos" : "Import Videos", std::make_shared<Transfer>(*this, out));
+  if (out) operations_.ExportVideos(videos, otherRoot_, std::move(events));
+  else operations_.ImportVideos(videos, std::move(events), TargetOfLooseVideos());
+}
+
+/// What has arrived is shown where it is; what was chosen stays chosen no longer.
+void ImportExportPage::ShowResult(bool out, const OperationResult& result) {
+  if (result.refill) (out ? there_ : here_)->ShowArrived(result);
+  if (result.done) (out ? here_ : there_)->Refresh();
+  DiskSpaceGauge();
+  Say(Q(result.status));
 }
 
 /// The student who is chosen in this library gets what has none at the other place. Quick Launch takes videos

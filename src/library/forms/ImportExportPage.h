@@ -42,10 +42,13 @@ class ImportExportPage : public PageWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  class Transfer;
+
   QLayout* MakeCommands();
   QLayout* MakeDriveChoice(IHost& host, Settings& settings);
   void OpenDrive();
   ImportTarget TargetOfLooseVideos() const;
+  void ShowResult(bool out, const OperationResult& result);
   void DiskSpaceGauge();
   void Say(const QString& text);
 

@@ -30,11 +30,10 @@ constexpr ButtonLook kLooks[] = {
 }  // namespace
 
 LibraryButtons::LibraryButtons(const Settings& settings, StatusLine& status, QObject* parent)
-    : QObject(parent), settings_(settings) {
+    : QObject(parent), settings_(settings), status_(status) {
   const auto name = [](LibraryAction action) { return QString("SPBtn%1").arg(static_cast<int>(action)); };
   const auto add = [&](LibraryAction action, Button* button) {
     buttons_[static_cast<std::size_t>(action)] = button;
-    status.Explain(button, [this, action] { return Q(LibraryActionTip(action, settings_)); });
     connect(button, &QPushButton::clicked, this, [this, action] { emit Wanted(action); });
   };
   for (const auto& [action, caption, icon] : kLooks) add(action, new Button(name(action), caption, icon));
@@ -65,6 +64,7 @@ QString LibraryButtons::Tip(LibraryAction action) const { return Q(LibraryAction
 void LibraryButtons::SetupVocabulary() {
   for (int index = 0; index < kLibraryActions; ++index) {
     const auto action = static_cast<LibraryAction>(index);
+    status_.Explain(At(action), Q(LibraryActionTip(action, settings_)));
     At(action)->setToolTip(Tip(action));
     At(action)->setAccessibleName(Tip(action));
   }

@@ -30,7 +30,7 @@ class LibraryButtons : public QObject {
   void Place(std::initializer_list<LibraryAction> actions, QBoxLayout* row) const;
   /// Gives a list a menu for what is chosen in it, where the right mouse button and the menu key look for it.
   void GiveMenu(NameList* list, std::vector<LibraryAction> actions);
-  /// Tips with the present word for the person under analysis.
+  /// Tips, here and in the status line, with the present word for the person under analysis.
   void SetupVocabulary();
 
  signals:
@@ -40,6 +40,7 @@ class LibraryButtons : public QObject {
   QString Tip(LibraryAction action) const;
 
   const Settings& settings_;
+  StatusLine& status_;
   std::array<Button*, kLibraryActions> buttons_{};
 };
 

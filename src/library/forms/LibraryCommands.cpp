@@ -1,5 +1,9 @@
 #include "library/forms/LibraryCommands.h"
 
+#include <QPointer>
+#include <memory>
+#include <utility>
+
 #include "library/LibraryBrowser.h"
 #include "library/TrimJob.h"
 #include "library/forms/EditPanel.h"
@@ -9,13 +13,30 @@
 
 namespace kinalyx {
 
+class LibraryCommands::Shown final : public IOperationEvents {
+ public:
+  explicit Shown(LibraryCommands& commands) : commands_(&commands) {}
+
+  void ShowStatus(const std::string& words) override {
+    if (commands_) commands_->page_.Say(Q(words));
+  }
+  void ShowProgress(const JobProgress&) override {}
+  void WorkOver() override {}
+  void Ended(const OperationResult& result) override {
+    if (commands_) commands_->Show(result);
+  }
+
+ private:
+  QPointer<LibraryCommands> commands_;
+};
+
 LibraryCommands::LibraryCommands(IHost& host, Settings& settings, LibraryOperations& operations,
-                                 LibraryBrowser& browser, VideosPanel& videos, Page page, QWidget* over)
+                                 LibraryBrowser& browser, VideosPanel& videos, ILibraryPage& page, QWidget* over)
     : QObject(over),
       operations_(operations),
       browser_(browser),
       videos_(videos),
-      page_(std::move(page)),
+      page_(page),
       dialog_(new DialogForm(host, settings, over)),
       progress_(new ProgressForm(host, operations, over)) {
   connect(dialog_, &DialogForm::Wanted, this, &LibraryCommands::Carry);
@@ -49,8 +70,8 @@ void LibraryCommands::SendToAnalysis() {
   // What is being moved or cut just now must not be opened.
   if (operations_.Busy()) return page_.Say("Please wait until the operation under way has finished.");
   if (videos_.VideoPlay1().Control().IsPlaying()) videos_.VideoPlay1().TogglePlay();
-  operations_.ShowStatus = [this](const std::string& words) { page_.Say(Q(words)); };
-  page_.Say(Q(operations_.SendToAnalysis(ChosenVideo(browser_)).status));
+  const auto say = [this](const std::string& words) { page_.Say(Q(words)); };
+  page_.Say(Q(operations_.SendToAnalysis(ChosenVideo(browser_), say).status));
 }
 
 // ---------------------------------------------------------------- preparing
@@ -95,24 +116,20 @@ void LibraryCommands::SaveTrim() {
   const int last = videos_.Trim().LastFrame();
   const int rate = TrimRate(videos_.VideoPlay1().Control().Info());
   CloseTrim();
-  DoLong("Trim Video", [&](LibraryOperations::Done done) { operations_.Trim(video, first, last, rate, std::move(done)); });
+  DoLong("Trim Video", [&](Events events) { operations_.Trim(video, first, last, rate, std::move(events)); });
 }
 
 void LibraryCommands::QuickLaunch() {
   const LibraryVideo video = ChosenVideo(browser_);
   // Copying to it touches neither the notes nor the video.
-  if (video.instructor != kQuickLaunch) {
-    return operations_.QuickLaunch(video, progress_->Begin("Copy video to Quick Launch Folder", page_.Say,
-                                                           [this](const OperationResult& result) { Show(result); }));
-  }
-  DoLong("Removing video from program!",
-         [&](LibraryOperations::Done done) { operations_.QuickLaunch(video, std::move(done)); });
+  if (video.instructor != kQuickLaunch)
+    return operations_.QuickLaunch(video, BeginLong("Copy video to Quick Launch Folder"));
+  DoLong("Removing video from program!", [&](Events events) { operations_.QuickLaunch(video, std::move(events)); });
 }
 
 // ---------------------------------------------------------------- carrying out
 
 void LibraryCommands::Carry() {
-  using Done = LibraryOperations::Done;
   const LibraryVideo about = dialog_->About();
   switch (dialog_->CurrentMode()) {
     case Mode::RenameInstructor:
@@ -121,21 +138,21 @@ void LibraryCommands::Carry() {
     case Mode::RenameStudent:
       return Do([&] { return operations_.RenameStudent(about.instructor, about.student, dialog_->Name()); });
     case Mode::MoveStudent:
-      return DoLong(dialog_->windowTitle(), [&](Done done) {
-        operations_.MoveStudent(about.instructor, about.student, dialog_->Database(), std::move(done));
+      return DoLong(dialog_->windowTitle(), [&](Events events) {
+        operations_.MoveStudent(about.instructor, about.student, dialog_->Database(), std::move(events));
       });
     case Mode::DeleteStudent:
-      return DoLong(dialog_->windowTitle(), [&](Done done) {
-        operations_.DeleteStudent(about.instructor, about.student, std::move(done));
+      return DoLong(dialog_->windowTitle(), [&](Events events) {
+        operations_.DeleteStudent(about.instructor, about.student, std::move(events));
       });
     case Mode::RenameVideo: return Do([&] { return operations_.RenameVideo(about, dialog_->Name()); });
     case Mode::MoveVideo:
-      return DoLong(dialog_->windowTitle(), [&](Done done) {
-        operations_.MoveVideo(about, dialog_->Database(), dialog_->Student(), std::move(done));
+      return DoLong(dialog_->windowTitle(), [&](Events events) {
+        operations_.MoveVideo(about, dialog_->Database(), dialog_->Student(), std::move(events));
       });
     case Mode::CopyVideo:
-      return DoLong(dialog_->windowTitle(), [&](Done done) {
-        operations_.CopyToDisk({about}, dialog_->Drive(), std::move(done));
+      return DoLong(dialog_->windowTitle(), [&](Events events) {
+        operations_.CopyToDisk({about}, dialog_->Drive(), std::move(events));
       });
     case Mode::DeleteVideo: return Do([&] { return operations_.DeleteVideo(about); });
   }
@@ -150,16 +167,20 @@ void LibraryCommands::Do(const std::function<OperationResult()>& operation) {
   if (page_.Release()) Show(operation());
 }
 
-void LibraryCommands::DoLong(const QString& title, const std::function<void(LibraryOperations::Done)>& operation) {
+LibraryCommands::Events LibraryCommands::BeginLong(const QString& title) {
+  return progress_->Begin(title, std::make_shared<Shown>(*this));
+}
+
+void LibraryCommands::DoLong(const QString& title, const std::function<void(Events)>& operation) {
   if (!page_.Release()) return;
-  operation(progress_->Begin(title, page_.Say, [this](const OperationResult& result) { Show(result); }));
+  operation(BeginLong(title));
   if (operations_.Busy()) dialog_->accept();
 }
 
 /// What was refused can be put right in the dialog; what has been done closes it.
 void LibraryCommands::Show(const OperationResult& result) {
   if (result.done) dialog_->accept();
-  page_.Show(result);
+  page_.ShowResult(result);
   page_.Say(Q(result.status));
 }
 

@@ -14,6 +14,18 @@ class LibraryBrowser;
 class ProgressForm;
 class VideosPanel;
 
+/// What the commands need of their page.
+class ILibraryPage {
+ public:
+  virtual ~ILibraryPage() = default;
+  /// Stores the notes and lets go of student and video; false, after a message, when the notes stay.
+  virtual bool Release() = 0;
+  /// Shows what an operation has left.
+  virtual void ShowResult(const OperationResult& result) = 0;
+  /// Says something in the status line.
+  virtual void Say(const QString& text) = 0;
+};
+
 /// Carries out what the profiles page is asked to do with instructors, students and videos: asks first
 /// where something would be lost, prepares it in a `DialogForm` or in the `EditPanel`, and has the
 /// library's operations do it.
@@ -21,17 +33,10 @@ class LibraryCommands : public QObject {
   Q_OBJECT
 
  public:
-  /// What it needs of its page.
-  struct Page {
-    /// Stores the notes and lets go of student and video; false, after a message, when the notes stay.
-    std::function<bool()> Release;
-    /// Shows what an operation has left.
-    std::function<void(const OperationResult&)> Show;
-    std::function<void(const QString&)> Say;
-  };
-
+  /// All that is passed outlives it.
+  /// @param over  the page as a widget, over which dialogs open
   LibraryCommands(IHost& host, Settings& settings, LibraryOperations& operations, LibraryBrowser& browser,
-                  VideosPanel& videos, Page page, QWidget* over);
+                  VideosPanel& videos, ILibraryPage& page, QWidget* over);
 
   /// Actions on students and videos; others are not its own.
   void Run(LibraryAction action);
@@ -44,6 +49,10 @@ class LibraryCommands : public QObject {
  private:
   using Mode = DialogForm::Mode;
   using Change = LibraryOperations::Change;
+  using Events = LibraryOperations::Events;
+
+  /// What becomes of a long operation, for as long as there is somebody to show it.
+  class Shown;
 
   void PrepareStudent(Mode mode, Change change);
   void PrepareVideo(Mode mode);
@@ -55,14 +64,15 @@ class LibraryCommands : public QObject {
   void Cancelled();
   /// A short operation.
   void Do(const std::function<OperationResult()>& operation);
-  /// A long one; it is handed what it must call at its end.
-  void DoLong(const QString& title, const std::function<void(LibraryOperations::Done)>& operation);
+  /// A long one; it is handed its events.
+  void DoLong(const QString& title, const std::function<void(Events)>& operation);
+  Events BeginLong(const QString& title);
   void Show(const OperationResult& result);
 
   LibraryOperations& operations_;
   LibraryBrowser& browser_;
   VideosPanel& videos_;
-  Page page_;
+  ILibraryPage& page_;
   DialogForm* dialog_;
   ProgressForm* progress_;
 };

@@ -55,7 +55,9 @@ void LibraryLists::ShowStudents() {
 }
 
 bool LibraryLists::Leave() {
-  if (!MayLeave || MayLeave()) return true;
+  bool may = true;
+  emit Leaving(may);
+  if (may) return true;
   // The list goes on to mark the row that was pressed; the mark returns when it has done so.
   QMetaObject::invokeMethod(this, [this] {
     instructors_->Fill(Q(browser_.InstructorList()), browser_.InstructorIndex());

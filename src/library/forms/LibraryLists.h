@@ -2,7 +2,6 @@
 
 #include <QObject>
 #include <array>
-#include <functional>
 
 #include "core/Vocabulary.h"
 #include "library/LibraryBrowser.h"
@@ -26,9 +25,6 @@ class LibraryLists : public QObject {
   NameList* StudentList() { return students_; }
   NameList* VideoList() { return videos_; }
 
-  /// Asked before another instructor or student is taken; where it says no, the lists stay as they are.
-  std::function<bool()> MayLeave;
-
   /// Fills all three from the browser, which has just read the library, and tells of every change.
   void ShowAll();
   void ShowStudents();
@@ -37,6 +33,9 @@ class LibraryLists : public QObject {
   void ShowHints();
 
  signals:
+  /// Another instructor or student is about to be taken. Who needs the present one clears `may`: the lists then
+  /// stay as they are.
+  void Leaving(bool& may);
   /// The user has chosen a row in one of the lists; what it brings follows.
   void Chosen();
   void InstructorChosen();

@@ -6,6 +6,7 @@
 
 #include "core/Vocabulary.h"
 #include "library/LibraryReading.h"
+#include "library/OpenVideo.h"
 #include "library/forms/Divider.h"
 #include "library/forms/LibraryLists.h"
 #include "library/forms/PreviewPlayer.h"
@@ -22,12 +23,12 @@ namespace kinalyx {
 // ---------------------------------------------------------------- shared parts
 
 OpenVideoParts::OpenVideoParts(PlayerServices& services, const Settings& settings, LastStudentInfo& remembered,
-                               OpenVideoCalls calls, QWidget* parent)
+                               IOpenVideo& opener, QWidget* parent)
     : QFrame(parent),
       host_(services.host),
       settings_(settings),
       browser_(services.host.Drives(), settings, remembered, LibraryBrowser::Kind::OpenVideo),
-      calls_(std::move(calls)) {
+      opener_(opener) {
   setProperty("look", "panel");
   lists_ = new LibraryLists(browser_, settings, this);
   students_ = MakeLabel("StudentHeading", {}, "heading");
@@ -96,14 +97,14 @@ void OpenVideoParts::CmdOpenVideo_Click(int Index) {
   switch (Index) {
     case 0: OpenChosen(); break;
     case 1:
-      if (calls_.done) calls_.done();
-      return;  // the form may be gone
+      opener_.OpenVideoDone();
+      return;
     case 2:
       if (ShortGame()) {
         OpenFamily();
-      } else if (opened_ > 0 && calls_.undo) {
+      } else if (opened_ > 0) {
         --opened_;
-        calls_.undo();
+        opener_.UndoLastOpen();
       }
       break;
     default: break;
@@ -112,11 +113,11 @@ void OpenVideoParts::CmdOpenVideo_Click(int Index) {
 }
 
 void OpenVideoParts::OpenChosen() {
-  if (!browser_.HasVideo() || !calls_.open) return;
+  if (!browser_.HasVideo()) return;
   const std::string path = browser_.VideoPath();
   if (!browser_.Drives().Answers(browser_.Tree().Root(), path))
     return host_.Message(MessageKind::Warning, "", "The drive with this video is not answering. The video was not opened.");
-  if (calls_.open(path)) ++opened_;
+  if (opener_.OpenVideo(path)) ++opened_;
 }
 
 void OpenVideoParts::OpenFamily() {
@@ -127,7 +128,7 @@ void OpenVideoParts::OpenFamily() {
   if (paths->empty())
     return host_.Message(MessageKind::Warning, "",
                          "There are no videos here with the names that belong together with \"" + browser_.Video() + "\".");
-  if (calls_.openFamily) calls_.openFamily(*paths);
+  opener_.OpenFamily(*paths);
 }
 
 void OpenVideoParts::keyPressEvent(QKeyEvent* event) {
@@ -164,8 +165,8 @@ QLabel* Heading(const QString& title) { return MakeLabel({}, title, "heading"); 
 }  // namespace
 
 OpenVidForm::OpenVidForm(PlayerServices& services, const Settings& settings, LastStudentInfo& remembered,
-                         OpenVideoCalls calls, QWidget* parent)
-    : OpenVideoParts(services, settings, remembered, std::move(calls), parent) {
+                         IOpenVideo& opener, QWidget* parent)
+    : OpenVideoParts(services, settings, remembered, opener, parent) {
   setObjectName("OpenVidForm");
   LeastWidth(this, 250);
   auto* rows = new QVBoxLayout(this);
@@ -198,8 +199,8 @@ OpenVidForm::OpenVidForm(PlayerServices& services, const Settings& settings, Las
 }
 
 OpenVidCForm::OpenVidCForm(PlayerServices& services, const Settings& settings, LastStudentInfo& remembered,
-                           OpenVideoCalls calls, QWidget* parent)
-    : OpenVideoParts(services, settings, remembered, std::move(calls), parent) {
+                           IOpenVideo& opener, QWidget* parent)
+    : OpenVideoParts(services, settings, remembered, opener, parent) {
   setObjectName("OpenVidCForm");
   LeastWidth(this, 640);
   LeastHeight(this, 320);

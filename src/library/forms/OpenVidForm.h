@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QFrame>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -16,21 +15,10 @@ namespace kinalyx {
 
 class Button;
 class FigureLabel;
+class IOpenVideo;
 class LibraryLists;
 class PreviewPlayer;
 class SidecarMarkLabels;
-
-/// What the open forms ask of the workspace.
-struct OpenVideoCalls {
-  /// Opens a video in the current window; false when it could not be opened (the user has been told).
-  std::function<bool(const std::string& path)> open;
-  /// Opens several videos in successive windows, beginning with the current one.
-  std::function<void(const std::vector<std::string>& paths)> openFamily;
-  /// Takes the last opened video out again.
-  std::function<void()> undo;
-  /// The form is no longer wanted; the receiver hides or deletes it.
-  std::function<void()> done;
-};
 
 /// The lists, the preview and the buttons by which a video is opened in the analysis section. The two
 /// forms below arrange them.
@@ -54,7 +42,8 @@ class OpenVideoParts : public QFrame {
   void CmdOpenVideo_Click(int Index);
 
  protected:
-  OpenVideoParts(PlayerServices& services, const Settings& settings, LastStudentInfo& remembered, OpenVideoCalls calls,
+  /// All that is passed outlives the form.
+  OpenVideoParts(PlayerServices& services, const Settings& settings, LastStudentInfo& remembered, IOpenVideo& opener,
                  QWidget* parent);
   void keyPressEvent(QKeyEvent* event) override;
 
@@ -76,14 +65,14 @@ class OpenVideoParts : public QFrame {
   IHost& host_;
   const Settings& settings_;
   LibraryBrowser browser_;
-  OpenVideoCalls calls_;
+  IOpenVideo& opener_;
   int opened_ = 0;
 };
 
 /// The open panel at the side of the analysis section: a narrow column.
 class OpenVidForm : public OpenVideoParts {
  public:
-  OpenVidForm(PlayerServices& services, const Settings& settings, LastStudentInfo& remembered, OpenVideoCalls calls,
+  OpenVidForm(PlayerServices& services, const Settings& settings, LastStudentInfo& remembered, IOpenVideo& opener,
               QWidget* parent = nullptr);
   QSize sizeHint() const override { return {300, 640}; }
 };
@@ -91,7 +80,7 @@ class OpenVidForm : public OpenVideoParts {
 /// The classic open window, for the middle of the analysis section: three lists side by side.
 class OpenVidCForm : public OpenVideoParts {
  public:
-  OpenVidCForm(PlayerServices& services, const Settings& settings, LastStudentInfo& remembered, OpenVideoCalls calls,
+  OpenVidCForm(PlayerServices& services, const Settings& settings, LastStudentInfo& remembered, IOpenVideo& opener,
                QWidget* parent = nullptr);
   QSize sizeHint() const override { return {880, 500}; }
 };

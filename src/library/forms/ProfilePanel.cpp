@@ -47,11 +47,7 @@ ProfilePanel::ProfilePanel(IHost& host, IPrinter& printer, const Settings& setti
       printer_(printer),
       settings_(settings),
       vocabulary_(settings),
-      notes_([this, &settings](const std::string& folder) {
-        DriveWatch& drives = host_.Drives();
-        return resting_ ? drives.AnswersAtOnce(settings.LibraryPath, folder) : drives.Answers(settings.LibraryPath, folder);
-      }) {
-  notes_.Lost = [this](const std::string& folder, const std::string& notes) { TellLost(folder, notes); };
+      notes_(*this) {
   details_ = HeadButton("ProBtn0", "Show Details");
   edit_ = HeadButton("ProBtn1", "Edit", "edit");
   print_ = HeadButton("ProBtn2", "Print", "print");
@@ -238,8 +234,14 @@ void ProfilePanel::KeepTypedNotes() {
   if (!kept) emit Said(Q(NotSaved(reason)));
 }
 
+bool ProfilePanel::CanReachNotes(const std::string& folder) {
+  DriveWatch& drives = host_.Drives();
+  const std::string& library = settings_.LibraryPath;
+  return resting_ ? drives.AnswersAtOnce(library, folder) : drives.Answers(library, folder);
+}
+
 /// The notes can at least be read, and copied out of the box; told when the click is over.
-void ProfilePanel::TellLost(const std::string& folder, const std::string& notes) {
+void ProfilePanel::NotesLost(const std::string& folder, const std::string& notes) {
   const std::string text = "The notes of " + LastName(folder) +
                            " could not be saved: somebody else has renamed, moved or deleted the folder. These were "
                            "the notes:\n\n" +

@@ -18,7 +18,7 @@ class FieldGrid;
 
 /// The profile of the chosen student: the fields that are looked at most, on demand all twenty, and in the
 /// complete view the notes as well.
-class ProfilePanel : public Panel {
+class ProfilePanel : public Panel, private INotesEvents {
   Q_OBJECT
 
  public:
@@ -60,7 +60,10 @@ class ProfilePanel : public Panel {
   bool KeepNotes(std::string* reason);
   bool Told(const std::string& reason) const;
   void KeepTypedNotes();
-  void TellLost(const std::string& folder, const std::string& notes);
+
+  // --- INotesEvents
+  bool CanReachNotes(const std::string& folder) override;
+  void NotesLost(const std::string& folder, const std::string& notes) override;
 
   IHost& host_;
   IPrinter& printer_;

@@ -11,7 +11,6 @@
 #include "library/forms/FieldGrid.h"
 #include "library/forms/InstructorsPanel.h"
 #include "library/forms/LibraryButtons.h"
-#include "library/forms/LibraryCommands.h"
 #include "library/forms/LibraryLists.h"
 #include "library/forms/ProfileEditor.h"
 #include "library/forms/ProfilePanel.h"
@@ -60,11 +59,7 @@ ProfilesPage::ProfilesPage(PlayerServices& services, IPrinter& printer, Settings
   grid_->addWidget(profilePanel_, 1, 0, 1, 3);
   grid_->addWidget(status_, 2, 0, 1, 3);
 
-  commands_ = new LibraryCommands(services.host, settings, operations, browser_, *videos_,
-                                  {.Release = [this] { return Release(); },
-                                   .Show = [this](const OperationResult& result) { ShowResult(result); },
-                                   .Say = [this](const QString& text) { Say(text); }},
-                                  this);
+  commands_ = new LibraryCommands(services.host, settings, operations, browser_, *videos_, *this, this);
   PlaceButtons();
   ConnectParts();
   SetupVocabulary();
@@ -87,7 +82,7 @@ void ProfilesPage::PlaceButtons() {
 }
 
 void ProfilesPage::ConnectParts() {
-  lists_->MayLeave = [this] { return profilePanel_->LeaveNotes(); };
+  connect(lists_, &LibraryLists::Leaving, this, [this](bool& may) { may = profilePanel_->LeaveNotes(); });
   connect(lists_, &LibraryLists::Chosen, this, [this] {
     choosing_ = true;
     Say({});

@@ -10,6 +10,7 @@
 #include "library/LibraryBrowser.h"
 #include "library/LibraryOperations.h"
 #include "library/Profile.h"
+#include "library/forms/LibraryCommands.h"
 #include "platform/host/Host.h"
 #include "platform/widgets/PageWidget.h"
 #include "video/AVIControl.h"
@@ -21,7 +22,6 @@ namespace kinalyx {
 class IPrinter;
 class InstructorsPanel;
 class LibraryButtons;
-class LibraryCommands;
 class LibraryLists;
 class Panel;
 class ProfileEditor;
@@ -31,7 +31,7 @@ class VideosPanel;
 
 /// The library page: instructors, students and videos side by side, the preview of the selected video,
 /// and the profile of the selected student.
-class ProfilesPage : public PageWidget {
+class ProfilesPage : public PageWidget, private ILibraryPage {
   Q_OBJECT
 
  public:
@@ -55,7 +55,7 @@ class ProfilesPage : public PageWidget {
   /// The captions of the fields have changed.
   void SetupFields();
   /// The text of the status line `SPDisplay`.
-  void Say(const QString& text);
+  void Say(const QString& text) override;
 
   LibraryBrowser& Browser() { return browser_; }
   void SPBtn_Click(LibraryAction action);
@@ -70,8 +70,8 @@ class ProfilesPage : public PageWidget {
   bool ListKey(QObject* list, int key);
 
   bool CloseVideo();
-  bool Release();
-  void ShowResult(const OperationResult& result);
+  bool Release() override;
+  void ShowResult(const OperationResult& result) override;
   void InstructorChosen();
   void StudentList_Click();
   void VideoList_Click();

@@ -2,7 +2,10 @@
 
 #include <QBoxLayout>
 #include <QLabel>
+#include <QPointer>
 #include <QProgressBar>
+#include <memory>
+#include <utility>
 
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
@@ -48,16 +51,38 @@ ProgressForm::ProgressForm(IHost& host, LibraryOperations& operations, QWidget* 
   connect(cancel_, &QPushButton::clicked, this, &ProgressForm::reject);
 }
 
-ProgressForm::~ProgressForm() {
-  operations_.ShowStatus = {};
-  operations_.ShowProgress = {};
-  operations_.OperationEnded = {};
-}
+ProgressForm::~ProgressForm() = default;
 
-LibraryOperations::Done ProgressForm::Begin(const QString& title, std::function<void(const QString&)> say,
-                                            LibraryOperations::Done done) {
+/// An operation that shows in the window for as long as there is one.
+class ProgressForm::Shown final : public IOperationEvents {
+ public:
+  Shown(ProgressForm& window, LibraryOperations::Events page) : window_(&window), page_(std::move(page)) {}
+
+  void ShowStatus(const std::string& words) override {
+    if (window_) window_->ShowWords(words);
+    page_->ShowStatus(words);
+  }
+  void ShowProgress(const JobProgress& progress) override {
+    if (window_) window_->ShowProgress(progress);
+    page_->ShowProgress(progress);
+  }
+  void WorkOver() override {
+    if (window_) window_->End();
+    page_->WorkOver();
+  }
+  void Ended(const OperationResult& result) override {
+    if (window_) window_->End();
+    page_->Ended(result);
+  }
+
+ private:
+  QPointer<ProgressForm> window_;
+  LibraryOperations::Events page_;
+};
+
+LibraryOperations::Events ProgressForm::Begin(const QString& title, LibraryOperations::Events page) {
   // The one under way keeps its window; the new one is about to be refused.
-  if (operations_.Busy()) return done;
+  if (operations_.Busy()) return page;
   title_->setText(title);
   setWindowTitle(title);
   words_->clear();
@@ -66,18 +91,13 @@ LibraryOperations::Done ProgressForm::Begin(const QString& title, std::function<
   gauge_->setValue(0);
   cancel_->setText("Cancel");
   cancel_->setEnabled(true);
-  operations_.ShowStatus = [this, say = std::move(say)](const std::string& words) {
-    words_->setText(Q(words));
-    words_->setVisible(!words.empty());
-    say(Q(words));
-  };
-  operations_.ShowProgress = [this](const JobProgress& progress) { ShowProgress(progress); };
-  operations_.OperationEnded = [this] { End(); };
   began_ = -1;
-  return [this, done = std::move(done)](const OperationResult& result) {
-    End();
-    done(result);
-  };
+  return std::make_shared<Shown>(*this, std::move(page));
+}
+
+void ProgressForm::ShowWords(const std::string& words) {
+  words_->setText(Q(words));
+  words_->setVisible(!words.empty());
 }
 
 void ProgressForm::ShowProgress(const JobProgress& progress) {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QDialog>
-#include <functional>
 
 #include "library/LibraryOperations.h"
 
@@ -18,19 +17,21 @@ class ProgressForm : public QDialog {
   Q_OBJECT
 
  public:
-  /// Both outlive the window. The callbacks of `operations` are its own from the first Begin on.
+  /// Both outlive the window.
   ProgressForm(IHost& host, LibraryOperations& operations, QWidget* over);
   ~ProgressForm() override;
 
-  /// Call it for the argument of a long operation: the operation then shows here, its words go to `say`,
-  /// and `done` is called when it is over, or refused.
-  LibraryOperations::Done Begin(const QString& title, std::function<void(const QString&)> say,
-                                LibraryOperations::Done done);
+  /// Call it for the events of a long operation: the operation then shows here, and what it says and how it ends
+  /// goes on to the page. When the window has gone meanwhile, the operation shows nowhere.
+  LibraryOperations::Events Begin(const QString& title, LibraryOperations::Events page);
 
  public slots:
   void reject() override;
 
  private:
+  class Shown;
+
+  void ShowWords(const std::string& words);
   void ShowProgress(const JobProgress& progress);
   void End();
 

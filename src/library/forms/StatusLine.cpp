@@ -27,9 +27,8 @@ void StatusLine::Say(const QString& text) {
   words_->repaint();  // what is told before a piece of work is seen while it goes on
 }
 
-void StatusLine::Explain(QWidget* part, std::function<QString()> words) {
-  parts_[part] = std::move(words);
-  part->installEventFilter(this);
+void StatusLine::Explain(QWidget* part, const QString& words) {
+  if (parts_.insert_or_assign(part, words).second) part->installEventFilter(this);
 }
 
 void StatusLine::Rest() { restingMouse_ = QCursor::pos(); }
@@ -42,7 +41,7 @@ bool StatusLine::ComesToPart(const QEvent& event) const {
 
 bool StatusLine::eventFilter(QObject* object, QEvent* event) {
   if (const auto part = parts_.find(object); part != parts_.end()) {
-    if (ComesToPart(*event)) words_->setText(part->second());
+    if (ComesToPart(*event)) words_->setText(part->second);
     if (event->type() == QEvent::Leave || event->type() == QEvent::FocusOut) words_->setText(said_);
   }
   return QFrame::eventFilter(object, event);

@@ -2,7 +2,6 @@
 
 #include <QFrame>
 #include <QPoint>
-#include <functional>
 #include <map>
 
 class QLabel;
@@ -19,9 +18,8 @@ class StatusLine : public QFrame {
   explicit StatusLine(const QString& name, QWidget* parent = nullptr);
 
   void Say(const QString& text);
-  /// Explains a part of the page.
-  /// @param words  asked whenever they are to be shown
-  void Explain(QWidget* part, std::function<QString()> words);
+  /// Explains a part of the page, from now on with these words.
+  void Explain(QWidget* part, const QString& words);
   /// An operation has ended. The mouse that finds itself over a button because a dialog has gone, or the keys
   /// that come back to it, do not wipe out how it went.
   void Rest();
@@ -35,7 +33,7 @@ class StatusLine : public QFrame {
   QLabel* words_;
   QString said_;
   QPoint restingMouse_{-1, -1};  ///< where the mouse was when an operation ended
-  std::map<QObject*, std::function<QString()>> parts_;
+  std::map<QObject*, QString> parts_;
 };
 
 }  // namespace kinalyx

@@ -316,22 +316,25 @@ void AnalysisForm::SettingsChanged() {
 }
 
 void AnalysisForm::MakeOpenPanel() {
-  OpenVideoCalls calls;
-  calls.open = [this](const std::string& path) {
-    return analysis_->Videos().OpenVideo(analysis_->Stage().CurrentWindow, path);
-  };
-  calls.openFamily = [this](const std::vector<std::string>& paths) { analysis_->Videos().OpenFamily(paths); };
-  calls.undo = [this] { analysis_->Videos().UndoLastOpen(); };
-  calls.done = [this] { CloseOpenPanel(); };
   openChoice_ = settings_.OpenDlgChoice;
   if (openChoice_ == 0 || openChoice_ == 1) {
-    openPanel_ = new OpenVidForm(players_, settings_, remembered_, std::move(calls), this);
+    openPanel_ = new OpenVidForm(players_, settings_, remembered_, *this, this);
     FitOpenPanel();
     middle_->insertWidget(openChoice_ == 1 ? 0 : -1, openPanel_);
   } else {
-    openPanel_ = new OpenVidCForm(players_, settings_, remembered_, std::move(calls), stage_);
+    openPanel_ = new OpenVidCForm(players_, settings_, remembered_, *this, stage_);
   }
 }
+
+bool AnalysisForm::OpenVideo(const std::string& path) {
+  return analysis_->Videos().OpenVideo(analysis_->Stage().CurrentWindow, path);
+}
+
+void AnalysisForm::OpenFamily(const std::vector<std::string>& paths) { analysis_->Videos().OpenFamily(paths); }
+
+void AnalysisForm::UndoLastOpen() { analysis_->Videos().UndoLastOpen(); }
+
+void AnalysisForm::OpenVideoDone() { CloseOpenPanel(); }
 
 void AnalysisForm::ShowOpenPanel() {
   if (openPanel_ && openChoice_ != settings_.OpenDlgChoice) delete std::exchange(openPanel_, nullptr);

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "library/LibraryTree.h"
+#include "library/OpenVideo.h"
 #include "platform/widgets/PageWidget.h"
 #include "video/AVIControl.h"
 #include "workspace/AnalysisWorkspace.h"
@@ -28,7 +29,7 @@ class VideoTimerForm;
 
 /// The analysis section's page: menus, tool strip and the dark stage with its eight windows, play bar and
 /// small panels. It shows what AnalysisWorkspace tells it to, and hands it mouse and keys.
-class AnalysisForm : public PageWidget, private IWorkspaceView {
+class AnalysisForm : public PageWidget, private IWorkspaceView, private IOpenVideo {
   Q_OBJECT
 
  public:
@@ -99,6 +100,12 @@ class AnalysisForm : public PageWidget, private IWorkspaceView {
   bool CloseOpenPanel() override;
   void CommandsChanged() override;
   void FocusKeyBox() override;
+
+  // --- IOpenVideo
+  bool OpenVideo(const std::string& path) override;
+  void OpenFamily(const std::vector<std::string>& paths) override;
+  void UndoLastOpen() override;
+  void OpenVideoDone() override;
 
   IHost& host_;
   IPrinter& printer_;
