@@ -53,7 +53,7 @@ int Program::Run() {
   // The main form may have been closed already, from within the first form.
   const int result = main_->Closed() ? 0 : application_.exec();
   main_.reset();
-  if (RestartFlag_) host_->StartDetached(QCoreApplication::applicationFilePath().toStdString(), {});
+  if (RestartFlag_) host_->StartDetached(Std(QCoreApplication::applicationFilePath()), {});
   return result;
 }
 

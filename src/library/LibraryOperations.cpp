@@ -165,7 +165,7 @@ OperationResult LibraryOperations::RefuseGone(const std::string& text) {
   return result;
 }
 
-std::string LibraryOperations::GuardStudent(const std::string& instructor, const std::string& student,
+std::string LibraryOperations::RefuseUnlessStudentChangeable(const std::string& instructor, const std::string& student,
                                             Change change) {
   if (student.empty() || instructor.empty() || instructor == kGeneralFolder) return words_.MustSelect();
   std::string refusal = Obstacle();
@@ -174,7 +174,7 @@ std::string LibraryOperations::GuardStudent(const std::string& instructor, const
   return Shown(refusal);
 }
 
-std::string LibraryOperations::GuardVideo(const LibraryVideo& video) {
+std::string LibraryOperations::RefuseUnlessVideoChangeable(const LibraryVideo& video) {
   if (video.path.empty()) return "You must select a video first.";
   std::string refusal = Obstacle();
   if (refusal.empty() && IsOpen(video.path))
@@ -182,7 +182,7 @@ std::string LibraryOperations::GuardVideo(const LibraryVideo& video) {
   return Shown(refusal);
 }
 
-std::string LibraryOperations::GuardInstructor(const std::string& instructor, Change change) {
+std::string LibraryOperations::RefuseUnlessInstructorChangeable(const std::string& instructor, Change change) {
   if (instructor.empty() || instructor == kGeneralFolder) return "You must select an Instructor or Database first.";
   if (instructor == kQuickLaunch)
     return "The folder " + instructor + " belongs to the program. You cannot " + VerbOf(change) + " it.";
@@ -214,7 +214,8 @@ std::string LibraryOperations::StillFullText(const std::string& instructor) cons
 
 OperationResult LibraryOperations::RenameInstructor(const std::string& instructor, std::string_view typed) {
   const std::string_view name = WithoutOuterBlanks(typed);
-  if (const std::string refusal = GuardInstructor(instructor, Change::Rename); !refusal.empty()) return Report(refusal);
+  if (const std::string refusal = RefuseUnlessInstructorChangeable(instructor, Change::Rename); !refusal.empty())
+    return Report(refusal);
   if (!IsValidName(name)) return Refuse("Invalid character in Name");
   if (IsBlank(name)) return Refuse("You must type a name!");
   if (name == instructor) return Report("Rename cancelled.");
@@ -234,9 +235,10 @@ OperationResult LibraryOperations::RenameInstructor(const std::string& instructo
 }
 
 OperationResult LibraryOperations::DeleteInstructor(const std::string& instructor) {
-  if (const std::string refusal = GuardInstructor(instructor, Change::Delete); !refusal.empty()) return Report(refusal);
+  if (const std::string refusal = RefuseUnlessInstructorChangeable(instructor, Change::Delete); !refusal.empty())
+    return Report(refusal);
   const std::string folder = tree_.InstructorFolder(instructor);
-  RemoveDeadParts(folder, kDeadPartSeconds, disk_);
+  RemoveDeadParts(folder, disk_);
   if (disk_.RemoveFolder(folder) < 0) {
     const int reason = errno;
     if (reason == ENOTEMPTY || reason == EEXIST) return Refuse(StillFullText(instructor));
@@ -263,7 +265,8 @@ OperationResult LibraryOperations::RenameStudentCancelled() const { return Repor
 OperationResult LibraryOperations::RenameStudent(const std::string& instructor, const std::string& student,
                                                  std::string_view typed) {
   const std::string_view name = WithoutOuterBlanks(typed);
-  if (const std::string refusal = GuardStudent(instructor, student, Change::Rename); !refusal.empty()) return Report(refusal);
+  if (const std::string refusal = RefuseUnlessStudentChangeable(instructor, student, Change::Rename); !refusal.empty())
+    return Report(refusal);
   if (!IsValidName(name)) return Refuse("Invalid character in " + words_.Noun() + " Name.");
   if (IsBlank(name)) return Refuse("You must type a name!");
   if (name == student) return RenameStudentCancelled();
@@ -290,7 +293,7 @@ OperationResult LibraryOperations::RenameStudent(const std::string& instructor, 
 
 void LibraryOperations::MoveStudent(const std::string& instructor, const std::string& student,
                                     const std::string& targetInstructor, Events events) {
-  if (const std::string refusal = GuardStudent(instructor, student, Change::Move); !refusal.empty())
+  if (const std::string refusal = RefuseUnlessStudentChangeable(instructor, student, Change::Move); !refusal.empty())
     return events->Ended(Report(refusal));
   if (targetInstructor.empty() || targetInstructor == kGeneralFolder)
     return events->Ended(Report(LibraryTextsFor(settings_).moveStudent));
@@ -320,7 +323,7 @@ void LibraryOperations::MoveStudent(const std::string& instructor, const std::st
 }
 
 void LibraryOperations::DeleteStudent(const std::string& instructor, const std::string& student, Events events) {
-  if (const std::string refusal = GuardStudent(instructor, student, Change::Delete); !refusal.empty())
+  if (const std::string refusal = RefuseUnlessStudentChangeable(instructor, student, Change::Delete); !refusal.empty())
     return events->Ended(Report(refusal));
   auto job = std::make_unique<StudentRemovalJob>(tree_.StudentFolder(instructor, student), disk_);
   Run<StudentRemovalJob>(

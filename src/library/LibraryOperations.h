@@ -100,7 +100,7 @@ class LibraryOperations {
   enum class Change { Rename, Move, Delete };
   struct Environment {
     JobRunner::On jobs = JobRunner::On::Worker;
-    ICopyDisk* disk = &RealCopyDisk();
+    IDisk* disk = &RealDisk();
   };
 
   /// All that is passed outlives it.
@@ -117,7 +117,7 @@ class LibraryOperations {
   OperationResult AddInstructor(std::string_view name);
   /// The refusal of a change to an instructor or database: one must be chosen that is a folder of the user's
   /// own, none of its videos be open, and for Delete it must be empty. Empty: go on.
-  std::string GuardInstructor(const std::string& instructor, Change change);
+  std::string RefuseUnlessInstructorChangeable(const std::string& instructor, Change change);
   OperationResult RenameInstructor(const std::string& instructor, std::string_view name);
   /// Removes the folder of an instructor who has neither students nor files.
   OperationResult DeleteInstructor(const std::string& instructor);
@@ -125,7 +125,7 @@ class LibraryOperations {
   OperationResult AddStudent(const std::string& instructor, const FieldTexts& captions, const FieldTexts& values);
   /// The refusal of a change for which a student must be chosen and none of the student's videos be open;
   /// forms ask before they open their panel. Empty: go on.
-  std::string GuardStudent(const std::string& instructor, const std::string& student, Change change);
+  std::string RefuseUnlessStudentChangeable(const std::string& instructor, const std::string& student, Change change);
   OperationResult RenameStudent(const std::string& instructor, const std::string& student, std::string_view name);
   OperationResult RenameStudentCancelled() const;
   void MoveStudent(const std::string& instructor, const std::string& student, const std::string& targetInstructor,
@@ -136,7 +136,7 @@ class LibraryOperations {
   // --- videos
 
   /// The refusal of an action for which a video must be chosen and not be open. Empty: go on.
-  std::string GuardVideo(const LibraryVideo& video);
+  std::string RefuseUnlessVideoChangeable(const LibraryVideo& video);
   /// Tells `status` what the analysis section says while it opens the video; the last of it is in the result.
   OperationResult SendToAnalysis(const LibraryVideo& video, const std::function<void(const std::string&)>& status);
   OperationResult RenameVideo(const LibraryVideo& video, std::string_view name);
@@ -199,7 +199,7 @@ class LibraryOperations {
   Vocabulary words_;
   LibraryTree tree_;
   IAnalysisLink& analysis_;
-  ICopyDisk& disk_;
+  IDisk& disk_;
   JobRunner runner_;
 };
 

@@ -307,13 +307,6 @@ std::string SidecarPath(std::string_view videoPath) {
   return stem + "ved";
 }
 
-std::string OldSidecarPath(const std::string& sidecarPath) {
-  const std::string first = sidecarPath + ".old";
-  std::string old = first;
-  for (int number = 2; EntryExists(old); ++number) old = first + std::to_string(number);
-  return old;
-}
-
 SlotData DefaultVideoData(const VideoInfo& video) {
   SlotData data;
   const FieldOptions fields = DefaultFields(video).value_or(FieldOptions{});
@@ -349,7 +342,7 @@ bool WriteVideoData(const std::string& path, const SlotData& data, std::string* 
   const Bytes bytes = BytesOf(data, &notice);
   std::string old;
   if (data.Unread && FileExists(path)) {
-    old = OldSidecarPath(path);
+    old = KeptPath(path);
     if (disk.Rename(path, old) < 0) {
       if (error) *error = std::strerror(errno);
       return false;

@@ -33,7 +33,7 @@ struct SlotData {
   int PictureHeight = 0;             ///< pixels
 
   /// The file holds something that could not be read: it is foreign or damaged, or the disk refused. Who has
-  /// nothing new to say leaves it alone; a write keeps it beside, see OldSidecarPath.
+  /// nothing new to say leaves it alone; a write keeps it beside, see KeptPath.
   bool Unread = false;
 };
 
@@ -52,9 +52,6 @@ inline constexpr int kMostPictureSide = 32767 / kTwipsPerPixel;
 /// The sidecar of a video: its path with the last three characters replaced by "ved". One that is there in
 /// other letters, as "VED" from another system, is the sidecar as long as there is none in small ones.
 std::string SidecarPath(std::string_view videoPath);
-
-/// Where a sidecar that must make way is kept: "X.ved.old", with a number behind where that is taken already.
-std::string OldSidecarPath(const std::string& sidecarPath);
 
 /// What holds for a video without a sidecar: both field options for dvsd of 720 x 480 or 720 x 576, split
 /// fields alone for IV50 of height 480 at 32 pictures a second or more, nothing for any other.

@@ -7,11 +7,11 @@
 
 namespace kinalyx {
 
-StudentMoveJob::StudentMoveJob(const std::string& from, const std::string& to, ICopyDisk& disk)
+StudentMoveJob::StudentMoveJob(const std::string& from, const std::string& to, IDisk& disk)
     : target_(FolderOf(to)), disk_(disk), copy_(CopyJob::Kind::Move, {{{from, to}}}, disk) {}
 
 bool StudentMoveJob::Step() {
-  if (!std::exchange(begun_, true)) RemoveDeadParts(target_, kDeadPartSeconds, disk_);
+  if (!std::exchange(begun_, true)) RemoveDeadParts(target_, disk_);
   return copy_.Step() == CopyJob::State::Running;
 }
 
@@ -24,7 +24,7 @@ JobProgress StudentMoveJob::Progress() const {
 
 bool StudentRemovalJob::Step() {
   if (hidden_.empty()) {
-    RemoveDeadParts(FolderOf(folder_), kDeadPartSeconds, disk_);
+    RemoveDeadParts(FolderOf(folder_), disk_);
     hidden_ = PartNameBeside(folder_);
     return RenameEntry(folder_, hidden_, &error_, disk_);
   }

@@ -11,7 +11,7 @@ namespace kinalyx {
 /// Moves a student's folder.
 class StudentMoveJob final : public IJob {
  public:
-  StudentMoveJob(const std::string& from, const std::string& to, ICopyDisk& disk);
+  StudentMoveJob(const std::string& from, const std::string& to, IDisk& disk);
   bool Step() override;
   void Cancel() override { copy_.Cancel(); }
   JobProgress Progress() const override;
@@ -19,7 +19,7 @@ class StudentMoveJob final : public IJob {
 
  private:
   std::string target_;
-  ICopyDisk& disk_;
+  IDisk& disk_;
   bool begun_ = false;
   CopyJob copy_;
 };
@@ -29,7 +29,7 @@ class StudentMoveJob final : public IJob {
 /// a killed removal leaves hidden goes with the dead parts of copies.
 class StudentRemovalJob final : public IJob {
  public:
-  StudentRemovalJob(std::string folder, ICopyDisk& disk) : folder_(std::move(folder)), disk_(disk) {}
+  StudentRemovalJob(std::string folder, IDisk& disk) : folder_(std::move(folder)), disk_(disk) {}
   bool Step() override;
   void Cancel() override;
   JobProgress Progress() const override;
@@ -38,7 +38,7 @@ class StudentRemovalJob final : public IJob {
 
  private:
   std::string folder_;
-  ICopyDisk& disk_;
+  IDisk& disk_;
   std::string hidden_;
   bool removed_ = false;
   std::string error_;

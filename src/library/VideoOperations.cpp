@@ -23,7 +23,7 @@ using OnClash = VideoTransferJob::OnClash;
 std::string NameOf(const LibraryVideo& video) { return VideoName(LastName(video.path)); }
 
 /// Removes a video, then its sidecar unless another video needs it; false when the video stays.
-bool RemoveVideo(const std::string& path, ICopyDisk& disk) {
+bool RemoveVideo(const std::string& path, IDisk& disk) {
   const std::string sidecar = SharesSidecar(path) ? std::string() : ExistingSidecar(path);
   if (!RemoveTree(path, nullptr, disk)) return false;
   // An old sidecar does no harm: it makes way for the next video of its name.
@@ -33,7 +33,7 @@ bool RemoveVideo(const std::string& path, ICopyDisk& disk) {
 
 /// Renames a video with its sidecar, which goes first and back again when its video cannot follow; one that a
 /// second video shares is copied. False, with the reason, when the two stand as before.
-bool RenameWithSidecar(const std::string& from, const std::string& to, std::string* error, ICopyDisk& disk) {
+bool RenameWithSidecar(const std::string& from, const std::string& to, std::string* error, IDisk& disk) {
   const std::string sidecar = ExistingSidecar(from);
   if (sidecar.empty()) return RenameEntry(from, to, error, disk);
   const std::string newSidecar = SidecarPath(to);
@@ -134,7 +134,7 @@ OperationResult LibraryOperations::SendToAnalysis(const LibraryVideo& video,
 
 OperationResult LibraryOperations::RenameVideo(const LibraryVideo& video, std::string_view typed) {
   const std::string_view name = WithoutOuterBlanks(typed);
-  if (const std::string refusal = GuardVideo(video); !refusal.empty()) return Report(refusal);
+  if (const std::string refusal = RefuseUnlessVideoChangeable(video); !refusal.empty()) return Report(refusal);
   if (!IsValidName(name)) return Refuse("Invalid character in " + words_.noun() + " name.");
   if (IsBlank(name)) return Refuse("You must type a name!");
   const std::string folder = FolderOf(video.path);
@@ -152,14 +152,15 @@ OperationResult LibraryOperations::RenameVideo(const LibraryVideo& video, std::s
 }
 
 OperationResult LibraryOperations::DeleteVideo(const LibraryVideo& video) {
-  if (const std::string refusal = GuardVideo(video); !refusal.empty()) return Report(refusal);
+  if (const std::string refusal = RefuseUnlessVideoChangeable(video); !refusal.empty()) return Report(refusal);
   if (!RemoveVideo(video.path, disk_)) return Refuse(kCannotDelete);
   return {true, "Video Successfully Deleted!", true, video.instructor, video.student};
 }
 
 void LibraryOperations::MoveVideo(const LibraryVideo& video, const std::string& targetInstructor,
                                   const std::string& targetStudent, Events events) {
-  if (const std::string refusal = GuardVideo(video); !refusal.empty()) return events->Ended(Report(refusal));
+  if (const std::string refusal = RefuseUnlessVideoChangeable(video); !refusal.empty())
+    return events->Ended(Report(refusal));
   if (targetInstructor.empty() || targetStudent.empty() || targetInstructor == kGeneralFolder)
     return events->Ended(Refuse("You must select a Database and " + words_.noun() + " for the video."));
   const std::string folder = tree_.StudentFolder(targetInstructor, targetStudent);
@@ -192,7 +193,8 @@ void LibraryOperations::MoveVideo(const LibraryVideo& video, const std::string& 
 }
 
 void LibraryOperations::Trim(const LibraryVideo& video, int firstFrame, int lastFrame, int rate, Events events) {
-  if (const std::string refusal = GuardVideo(video); !refusal.empty()) return events->Ended(Report(refusal));
+  if (const std::string refusal = RefuseUnlessVideoChangeable(video); !refusal.empty())
+    return events->Ended(Report(refusal));
   if (firstFrame < 0 || lastFrame < 0 || (lastFrame > 0 && lastFrame < firstFrame)) {
     return events->Ended(
         Refuse("Your TRIM Start and End times are not correct. Please check your Start and End times and try again."));
@@ -241,7 +243,7 @@ void LibraryOperations::AddToQuickLaunch(const LibraryVideo& video, Events event
 }
 
 OperationResult LibraryOperations::RemoveFromQuickLaunch(const LibraryVideo& video) {
-  if (const std::string refusal = GuardVideo(video); !refusal.empty()) return Report(refusal);
+  if (const std::string refusal = RefuseUnlessVideoChangeable(video); !refusal.empty()) return Report(refusal);
   if (!host_.Question("Removing video from program!",
                       "Are you sure that you want to delete the current video from the Quick Launch folder?"))
     return {};
@@ -258,7 +260,8 @@ bool LibraryOperations::HasFolder(const std::string& drive) const {
 void LibraryOperations::CopyToDisk(const std::vector<LibraryVideo>& videos, const std::string& disk, Events events) {
   if (videos.empty()) return events->Ended(Report("You must select a video first."));
   for (const LibraryVideo& video : videos) {
-    if (const std::string refusal = GuardVideo(video); !refusal.empty()) return events->Ended(Report(refusal));
+    if (const std::string refusal = RefuseUnlessVideoChangeable(video); !refusal.empty())
+      return events->Ended(Report(refusal));
   }
   if (disk.empty() || !HasFolder(disk)) return events->Ended(Refuse("Drive Error"));
   events->ShowStatus("Copying Videos, Please Wait.....");

@@ -51,12 +51,12 @@ bool SharesSidecar(const std::string& videoPath) {
                                [&](const std::string& file) { return VideoName(file) == name; }) > 1;
 }
 
-bool SetAsideOrphan(const std::string& folder, std::string_view name, ICopyDisk& disk) {
+bool SetAsideOrphan(const std::string& folder, std::string_view name, IDisk& disk) {
   // In small letters and in large ones there may be more than one.
   for (;;) {
     const std::string orphan = SidecarPath(JoinPath(folder, std::string(name) + ".avi"));
     if (!EntryExists(orphan)) return true;
-    if (HasVideoNamed(folder, name) || !RenameEntry(orphan, OldSidecarPath(orphan), nullptr, disk)) return false;
+    if (HasVideoNamed(folder, name) || !RenameEntry(orphan, KeptPath(orphan), nullptr, disk)) return false;
   }
 }
 
@@ -73,7 +73,7 @@ CopyUnit VideoUnit(const std::string& videoPath, const std::string& folder, std:
 // ---------------------------------------------------------------- many of them
 
 VideoTransferJob::VideoTransferJob(CopyJob::Kind kind, OnClash onClash, std::vector<VideoTransfer> videos,
-                                   ICopyDisk& disk)
+                                   IDisk& disk)
     : kind_(kind), onClash_(onClash), videos_(std::move(videos)), disk_(disk) {}
 
 bool VideoTransferJob::Fail(const std::string& error) {
@@ -130,7 +130,7 @@ bool VideoTransferJob::Begin() {
     folders.insert(video.folder);
     if (!video.path.empty()) bytesTotal_ += BytesWithSidecar(video.path);
   }
-  for (const std::string& folder : folders) RemoveDeadParts(folder, kDeadPartSeconds, disk_);
+  for (const std::string& folder : folders) RemoveDeadParts(folder, disk_);
   // A move asks for itself, as it may need none.
   if (kind_ == CopyJob::Kind::Move || videos_.empty()) return true;
   const std::int64_t free = FreeBytes(videos_.front().folder);

@@ -22,8 +22,8 @@ std::string ExistingSidecar(const std::string& videoPath);
 /// extension alone.
 bool SharesSidecar(const std::string& videoPath);
 /// Makes way for a video: a sidecar of its name that lies there without a video is kept beside, see
-/// OldSidecarPath, so that its drawings neither vanish nor appear on another video. False when it stays there.
-bool SetAsideOrphan(const std::string& folder, std::string_view name, ICopyDisk& disk);
+/// KeptPath, so that its drawings neither vanish nor appear on another video. False when it stays there.
+bool SetAsideOrphan(const std::string& folder, std::string_view name, IDisk& disk);
 /// A video and its sidecar on the way to a folder, under a new name without extension.
 CopyUnit VideoUnit(const std::string& videoPath, const std::string& folder, std::string_view name);
 
@@ -45,7 +45,7 @@ class VideoTransferJob final : public IJob {
   };
 
   VideoTransferJob(CopyJob::Kind kind, OnClash onClash, std::vector<VideoTransfer> videos,
-                   ICopyDisk& disk = RealCopyDisk());
+                   IDisk& disk = RealDisk());
   /// Looks at each video when it has arrived, whether it can be opened.
   void LookAtEach() { looks_ = true; }
 
@@ -81,7 +81,7 @@ class VideoTransferJob final : public IJob {
   CopyJob::Kind kind_;
   OnClash onClash_;
   std::vector<VideoTransfer> videos_;
-  ICopyDisk& disk_;
+  IDisk& disk_;
   std::size_t next_ = 0;
   std::string name_;  ///< that the next video shall have, so far as it has been tried; "" not yet
   std::optional<CopyJob> copy_;

@@ -7,6 +7,7 @@
 
 #include "DrawingSupport.h"
 #include "support/TempFolder.h"
+#include "support/TestDisks.h"
 
 namespace kinalyx::test {
 namespace {
@@ -14,21 +15,15 @@ namespace {
 namespace fs = std::filesystem;
 
 /// A disk of which one folder may be read only.
-class GuardedDisk final : public IDisk {
+class GuardedDisk final : public HastyDisk {
  public:
   std::string guarded;
 
-  int Open(const std::string& path) override {
-    if (guarded.empty() || !path.starts_with(guarded)) return RealDisk().Open(path);
+  int OpenNew(const std::string& path) override {
+    if (guarded.empty() || !path.starts_with(guarded)) return HastyDisk::OpenNew(path);
     errno = EROFS;
     return -1;
   }
-  long Write(int file, const void* bytes, std::size_t count) override { return RealDisk().Write(file, bytes, count); }
-  int Flush(int) override { return 0; }
-  int Close(int file) override { return RealDisk().Close(file); }
-  int Rename(const std::string& from, const std::string& to) override { return RealDisk().Rename(from, to); }
-  int FlushFolder(const std::string&) override { return 0; }
-  int Remove(const std::string& path) override { return RealDisk().Remove(path); }
 };
 
 class MacrosTest : public testing::Test {

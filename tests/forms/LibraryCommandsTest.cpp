@@ -13,7 +13,7 @@
 #include "ProfilesStage.h"
 #include "library/forms/ProgressForm.h"
 #include "library/forms/TrimSlider.h"
-#include "support/CopyDisks.h"
+#include "support/TestDisks.h"
 
 namespace kinalyx {
 namespace {
@@ -217,12 +217,11 @@ TEST_F(LibraryCommandsTest, AVideoGoesToADiskThatIsRemembered) {
 }
 
 /// A disk that takes no byte until it is let go.
-class StuckDisk final : public test::TwoDrives {
+class StuckDisk final : public test::PassingDisk {
  public:
-  StuckDisk() : TwoDrives(RealCopyDisk()) {}
   long Transfer(int from, int to, std::size_t count) override {
     while (stuck) std::this_thread::yield();
-    return TwoDrives::Transfer(from, to, count);
+    return PassingDisk::Transfer(from, to, count);
   }
   std::atomic<bool> stuck = true;
 };

@@ -77,7 +77,7 @@ TEST_F(OperationFaults, LoseNothingWhicheverCallToTheDiskFails) {
   TryEverything(*this, [this](const Operation& operation, bool twoDrives, int call, OperationResult& result) {
     FailingDisk failing(call);
     TwoDrives drives(failing);
-    Use(twoDrives ? static_cast<ICopyDisk&>(drives) : failing);
+    Use(twoDrives ? static_cast<IDisk&>(drives) : failing);
     result = operation.run(*this);
     EXPECT_TRUE(result.done || !library.host.messages.empty()) << "a failure is told";
     operations.reset();
@@ -87,8 +87,8 @@ TEST_F(OperationFaults, LoseNothingWhicheverCallToTheDiskFails) {
 
 TEST_F(OperationFaults, LoseNothingWheneverTheUserCancels) {
   TryEverything(*this, [this](const Operation& operation, bool twoDrives, int step, OperationResult& result) {
-    TwoDrives drives(RealCopyDisk());
-    Use(twoDrives ? static_cast<ICopyDisk&>(drives) : RealCopyDisk());
+    TwoDrives drives;
+    Use(twoDrives ? static_cast<IDisk&>(drives) : RealDisk());
     bool cancelled = false;
     heard->onProgress = [&, left = step](const JobProgress&) mutable {
       if (left-- > 0) return;

@@ -12,7 +12,7 @@
 #include "library/LibraryOperations.h"
 #include "library/TempLibrary.h"
 #include "platform/files/Folders.h"
-#include "support/CopyDisks.h"
+#include "support/TestDisks.h"
 
 namespace kinalyx::test {
 
@@ -41,7 +41,7 @@ class OperationsFixture : public testing::Test {
     return *operations;
   }
   /// From now on the operations work on another disk.
-  void Use(ICopyDisk& other) {
+  void Use(IDisk& other) {
     operations.reset();
     disk = &other;
   }
@@ -71,7 +71,7 @@ class OperationsFixture : public testing::Test {
   std::string Read(const std::string& name) const { return TempLibrary::Read(library.Path(name)); }
 
   TempLibrary library;
-  ICopyDisk* disk = &RealCopyDisk();
+  IDisk* disk = &RealDisk();
   FakeAnalysis analysis;
   std::set<std::string>& open = analysis.open;
   const std::shared_ptr<HeardOperation> heard = std::make_shared<HeardOperation>();

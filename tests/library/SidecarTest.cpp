@@ -3,6 +3,7 @@
 #include <array>
 
 #include "library/TempLibrary.h"
+#include "support/TestDisks.h"
 
 namespace kinalyx {
 namespace {
@@ -222,18 +223,12 @@ TEST_F(SidecarTest, LongNotesAndLargeWindowsNeverBreakTheFile) {
 }
 
 TEST_F(SidecarTest, ASaveThatFailsLeavesTheOldFileAndTellsWhy) {
-  class FullDisk final : public IDisk {
+  class FullDisk final : public test::PassingDisk {
    public:
-    int Open(const std::string& at) override { return RealDisk().Open(at); }
     long Write(int, const void*, std::size_t) override {
       errno = ENOSPC;
       return -1;
     }
-    int Flush(int file) override { return RealDisk().Flush(file); }
-    int Close(int file) override { return RealDisk().Close(file); }
-    int Rename(const std::string& from, const std::string& to) override { return RealDisk().Rename(from, to); }
-    int FlushFolder(const std::string& folder) override { return RealDisk().FlushFolder(folder); }
-    int Remove(const std::string& at) override { return RealDisk().Remove(at); }
   } disk;
   library.File("x.ved", "1WRSXXXX");
   std::string error;

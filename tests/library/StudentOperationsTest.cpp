@@ -176,7 +176,6 @@ TEST_F(StudentOperations, DeletesAStudentWholeOrNotAtAll) {
   // Nothing can be removed for the whole time.
   class Stubborn final : public TwoDrives {
    public:
-    Stubborn() : TwoDrives(RealCopyDisk()) {}
     int Remove(const std::string&) override {
       errno = EBUSY;
       return -1;
@@ -187,7 +186,7 @@ TEST_F(StudentOperations, DeletesAStudentWholeOrNotAtAll) {
   EXPECT_TRUE(Told("could not be removed"));
   EXPECT_EQ(Read("Ann/Joe Doe/(001) DL.avi"), "video 1");
 
-  Use(RealCopyDisk());
+  Use(RealDisk());
   EXPECT_EQ(Delete("Ann", "Joe Doe").status, "Student Successfully removed from the system.");
   EXPECT_TRUE(fs::is_empty(library.Path("Ann")));
 }

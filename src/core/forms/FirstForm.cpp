@@ -11,6 +11,7 @@
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
+#include "platform/widgets/Text.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
@@ -62,18 +63,18 @@ FirstForm::FirstForm(Settings& settings, MailSettings& mail, QWidget* over)
 
   // Known already when the settings of an older version were taken over.
   if (!settings_.UserName.empty()) {
-    name_->setText(QString::fromStdString(settings_.UserName));
+    name_->setText(Q(settings_.UserName));
     settings_.Set(settings_.UserName, settings_.UserName);
   }
   if (!settings_.CompanyName.empty() && settings_.CompanyName != kNoCompany) {
-    company_->setText(QString::fromStdString(settings_.CompanyName));
+    company_->setText(Q(settings_.CompanyName));
     settings_.Set(settings_.CompanyName, settings_.CompanyName);
   }
 
   connect(name_, &QLineEdit::textChanged, this,
-          [this](const QString& text) { settings_.Set(settings_.UserName, text.toStdString()); });
+          [this](const QString& text) { settings_.Set(settings_.UserName, Std(text)); });
   connect(company_, &QLineEdit::textChanged, this, [this](const QString& text) {
-    settings_.Set(settings_.CompanyName, text.toStdString());
+    settings_.Set(settings_.CompanyName, Std(text));
     emit CompanyChanged(text);
   });
   connect(finished, &QPushButton::clicked, this, &FirstForm::Finish);

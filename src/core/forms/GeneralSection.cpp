@@ -84,9 +84,9 @@ void GeneralSection::AddWho() {
   noun_ = AddText(*rows, "Text3", "What you call one person: Student, Golfer, Client ...");
   noun_->setPlaceholderText("Student");
   connect(name_, &QLineEdit::textChanged, this,
-          [this](const QString& text) { Store(settings_.UserName, text.toStdString()); });
+          [this](const QString& text) { Store(settings_.UserName, Std(text)); });
   connect(company_, &QLineEdit::textChanged, this, [this](const QString& text) {
-    if (Store(settings_.CompanyName, text.toStdString())) emit CompanyChanged(text);
+    if (Store(settings_.CompanyName, Std(text))) emit CompanyChanged(text);
   });
   connect(noun_, &QLineEdit::editingFinished, this, &GeneralSection::Text3_LostFocus);
 }
@@ -185,14 +185,14 @@ void GeneralSection::Text3_LostFocus() {
   const QString text = noun_->text().trimmed();  // the word stands in the middle of sentences
   if (text.isEmpty()) {
     noun_->setText(Q(settings_.PrimaryName[0]));  // no page could be named without a word
-  } else if (SetPrimaryName(settings_, text.toStdString())) {
+  } else if (SetPrimaryName(settings_, Std(text))) {
     emit VocabularyChanged();
   }
 }
 
 void GeneralSection::cboResolution_Click(int row) {
   if (settings_.Loading || row < 0) return;
-  if (ChooseWindowMode(settings_, resolution_->itemData(row).toString().toStdString())) emit RestartWanted();
+  if (ChooseWindowMode(settings_, Std(resolution_->itemData(row).toString()))) emit RestartWanted();
 }
 
 void GeneralSection::optLayout_Click(int index) {

@@ -13,6 +13,7 @@
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
+#include "platform/widgets/Text.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
@@ -29,7 +30,7 @@ class Reader : public QTextBrowser {
   using QTextBrowser::QTextBrowser;
 
   void SetupVocabulary(const Vocabulary& words) {
-    const auto text = [](const std::string& word) { return QString::fromStdString(word).toHtmlEscaped(); };
+    const auto text = [](const std::string& word) { return Q(word).toHtmlEscaped(); };
     words_ = {{"Students", text(words.Nouns())}, {"students", text(words.nouns())},
               {"Student", text(words.Noun())},   {"student", text(words.noun())}};
     reload();

@@ -9,6 +9,7 @@
 #include "core/MenuPicture.h"
 #include "platform/files/Folders.h"
 #include "platform/host/DriveWatch.h"
+#include "platform/widgets/Text.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
@@ -108,7 +109,7 @@ void MenuCanvas::SetupMenu(IHost& host, Settings& settings) {
 
 void MenuCanvas::SetupCaptionLabels(const Settings& settings) {
   lines_.clear();
-  for (std::size_t i = 1; i <= 5; ++i) lines_ << QString::fromStdString(settings.Heading[i]).trimmed();
+  for (std::size_t i = 1; i <= 5; ++i) lines_ << Q(settings.Heading[i]).trimmed();
   position_ = settings.CaptionPosition;
   setAccessibleName(lines_.join(' ').simplified());
   update();

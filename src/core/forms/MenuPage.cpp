@@ -8,6 +8,7 @@
 #include "core/forms/MenuCanvas.h"
 #include "core/forms/PictureFile.h"
 #include "platform/widgets/Buttons.h"
+#include "platform/widgets/Text.h"
 
 namespace kinalyx {
 
@@ -49,7 +50,7 @@ MenuPage::MenuPage(IHost& host, Settings& settings, QWidget* parent)
 void MenuPage::SetupVocabulary() {
   const Vocabulary words(settings_);
   for (std::size_t i = 1; i < tiles_.size(); ++i)
-    tiles_[i]->setText(QString::fromStdString(words.PageButton(static_cast<int>(i))));
+    tiles_[i]->setText(Q(words.PageButton(static_cast<int>(i))));
 }
 
 void MenuPage::Open() {

@@ -14,6 +14,7 @@
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
+#include "platform/widgets/Text.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
@@ -51,7 +52,7 @@ void MenuSection::AddHeading() {
     lines_[i]->setMaxLength(149);
     heading->addWidget(lines_[i]);
     connect(lines_[i], &QLineEdit::textChanged, this, [this, i](const QString& text) {
-      if (!Store(settings_.Heading[static_cast<std::size_t>(i + 1)], text.toStdString())) return;
+      if (!Store(settings_.Heading[static_cast<std::size_t>(i + 1)], Std(text))) return;
       sample_->SetupCaptionLabels(settings_);
       emit MenuChanged();
     });
@@ -123,7 +124,7 @@ void MenuSection::AddLogo() {
 
 void MenuSection::ShowLogo() {
   again_.Stop();
-  const QString file = QString::fromStdString(settings_.LogoName);
+  const QString file = Q(settings_.LogoName);
   logoName_->setText(logoName_->fontMetrics().elidedText(QFileInfo(file).fileName(), Qt::ElideMiddle, Px(kNameRoom)));
   logoName_->setToolTip(file);
   DriveWatch& drives = host_.Drives();
@@ -149,7 +150,7 @@ void MenuSection::ShowLogo() {
 
 void MenuSection::SetupProgram() {
   for (int i = 0; i < 5; ++i) {
-    const QString line = QString::fromStdString(settings_.Heading[static_cast<std::size_t>(i + 1)]);
+    const QString line = Q(settings_.Heading[static_cast<std::size_t>(i + 1)]);
     if (lines_[i]->text() != line) lines_[i]->setText(line);
   }
   sample_->SetupMenu(host_, settings_);

@@ -7,6 +7,7 @@
 
 #include "platform/files/Folders.h"
 #include "platform/host/DriveWatch.h"
+#include "platform/widgets/Text.h"
 
 namespace kinalyx {
 
@@ -17,7 +18,7 @@ constexpr int kLongestSide = 4096;
 }  // namespace
 
 QImage ReadPicture(const std::string& file) {
-  QImageReader reader(QString::fromStdString(file));
+  QImageReader reader(Q(file));
   reader.setAutoTransform(true);
   reader.setDecideFormatFromContent(true);
   const QSize size = reader.size();

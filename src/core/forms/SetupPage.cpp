@@ -14,6 +14,7 @@
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
+#include "platform/widgets/Text.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
@@ -106,7 +107,7 @@ void SetupPage::Open() {
 }
 
 void SetupPage::SetupVocabulary() {
-  buttons_->button(kProfiles)->setText(QString::fromStdString(Vocabulary(settings_).Profiles()));
+  buttons_->button(kProfiles)->setText(Q(Vocabulary(settings_).Profiles()));
 }
 
 bool SetupPage::PSCmd_Click(int index) {
@@ -136,7 +137,7 @@ void SetupPage::TakeReloaded() {
   SetupVocabulary();
   emit DesignChanged();
   emit VocabularyChanged();
-  emit CompanyChanged(QString::fromStdString(settings_.CompanyName));
+  emit CompanyChanged(Q(settings_.CompanyName));
   emit MenuChanged();
   emit LibraryChanged();
   emit AnalysisChanged();

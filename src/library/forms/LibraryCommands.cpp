@@ -77,27 +77,27 @@ void LibraryCommands::SendToAnalysis() {
 // ---------------------------------------------------------------- preparing
 
 void LibraryCommands::PrepareInstructor(Mode mode, Change change) {
-  const std::string refusal = operations_.GuardInstructor(browser_.Instructor(), change);
+  const std::string refusal = operations_.RefuseUnlessInstructorChangeable(browser_.Instructor(), change);
   if (!refusal.empty()) return page_.Say(Q(refusal));
   dialog_->Open(mode, ChosenVideo(browser_));
 }
 
 void LibraryCommands::PrepareStudent(Mode mode, Change change) {
-  const std::string refusal = operations_.GuardStudent(browser_.Instructor(), browser_.Student(), change);
+  const std::string refusal = operations_.RefuseUnlessStudentChangeable(browser_.Instructor(), browser_.Student(), change);
   if (!refusal.empty()) return page_.Say(Q(refusal));
   dialog_->Open(mode, ChosenVideo(browser_));
 }
 
 void LibraryCommands::PrepareVideo(Mode mode) {
   const LibraryVideo video = ChosenVideo(browser_);
-  const std::string refusal = operations_.GuardVideo(video);
+  const std::string refusal = operations_.RefuseUnlessVideoChangeable(video);
   if (!refusal.empty()) return page_.Say(Q(refusal));
   videos_.VideoPlay1().Control().StopPlay();
   dialog_->Open(mode, video);
 }
 
 void LibraryCommands::OpenTrim() {
-  const std::string refusal = operations_.GuardVideo(ChosenVideo(browser_));
+  const std::string refusal = operations_.RefuseUnlessVideoChangeable(ChosenVideo(browser_));
   if (!refusal.empty()) return page_.Say(Q(refusal));
   if (!videos_.VideoPlay1().Control().Info()) return page_.Say("This video cannot be opened.");
   videos_.VideoPlay1().Control().StopPlay();

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
 #include <map>
 #include <memory>
@@ -25,70 +24,6 @@ namespace {
 
 /// Deeper folders than this are taken for a loop.
 constexpr int kMostDepth = 64;
-/// Bytes at a time where the system cannot copy by itself.
-constexpr std::size_t kBuffer = 1 << 20;
-
-template <typename Call>
-auto Again(Call call) {
-  decltype(call()) result;
-  do {
-    result = call();
-  } while (result < 0 && errno == EINTR);
-  return result;
-}
-
-class SystemCopyDisk final : public ICopyDisk {
- public:
-  int OpenSource(const std::string& path, bool followLink) override {
-    // Not waiting at a pipe that somebody has put in the file's place.
-    return ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | (followLink ? 0 : O_NOFOLLOW));
-  }
-  int OpenNew(const std::string& path) override {
-    return ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
-  }
-  long Transfer(int from, int to, std::size_t count) override {
-    const ssize_t moved = Again([&] { return ::copy_file_range(from, nullptr, to, nullptr, count, 0); });
-    if (moved > 0) return moved;
-    // Two file systems, or one without this call; some say "nothing left" where there is something.
-    if (moved < 0 && errno != EXDEV && errno != EINVAL && errno != ENOSYS && errno != EOPNOTSUPP) return -1;
-    const std::size_t wanted = std::min(count, kBuffer);
-    const std::unique_ptr<char[]> buffer = std::make_unique_for_overwrite<char[]>(wanted);
-    const ssize_t got = Again([&] { return ::read(from, buffer.get(), wanted); });
-    for (ssize_t done = 0; done < got;) {
-      const ssize_t written =
-          Again([&] { return ::write(to, buffer.get() + done, static_cast<std::size_t>(got - done)); });
-      if (written == 0) errno = ENOSPC;
-      if (written <= 0) return -1;
-      done += written;
-    }
-    return got;
-  }
-  int Flush(int file) override { return ::fsync(file); }
-  int Close(int file) override { return ::close(file); }
-  int RenameNew(const std::string& from, const std::string& to) override {
-    if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) return 0;
-    if (errno != EINVAL && errno != ENOSYS) return -1;
-    // A file system without that call. The moment between the question and the answer stays open here.
-    if (EntryExists(to)) {
-      errno = EEXIST;
-      return -1;
-    }
-    return std::rename(from.c_str(), to.c_str());
-  }
-  int MakeFolder(const std::string& path) override { return ::mkdir(path.c_str(), 0777); }
-  int MakeLink(const std::string& target, const std::string& path) override {
-    return ::symlink(target.c_str(), path.c_str());
-  }
-  int FlushFolder(const std::string& path) override {
-    const int folder = ::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (folder < 0) return -1;
-    const int result = ::fsync(folder);
-    ::close(folder);
-    return result;
-  }
-  int Remove(const std::string& path) override { return ::unlink(path.c_str()); }
-  int RemoveFolder(const std::string& path) override { return ::rmdir(path.c_str()); }
-};
 
 bool SameEntry(const struct stat& a, const struct stat& b) { return a.st_dev == b.st_dev && a.st_ino == b.st_ino; }
 
@@ -116,19 +51,9 @@ std::string Quoted(const std::string& path) { return "\"" + LastName(path) + "\"
 
 }  // namespace
 
-ICopyDisk& RealCopyDisk() {
-  static SystemCopyDisk disk;  // holds no state
-  return disk;
-}
-
-bool EntryExists(const std::string& path) {
-  struct stat info {};
-  return ::lstat(path.c_str(), &info) == 0;
-}
-
 // ---------------------------------------------------------------- looking at the sources
 
-CopyJob::CopyJob(Kind kind, std::vector<CopyUnit> units, ICopyDisk& disk)
+CopyJob::CopyJob(Kind kind, std::vector<CopyUnit> units, IDisk& disk)
     : kind_(kind), wanted_(std::move(units)), disk_(disk) {
   progress_.unitsTotal = static_cast<int>(wanted_.size());
 }
@@ -499,7 +424,7 @@ CopyJob::State RunToEnd(CopyJob& job) {
 
 namespace {
 
-bool RemoveBelow(const std::string& path, int depth, int& reason, ICopyDisk& disk) {
+bool RemoveBelow(const std::string& path, int depth, int& reason, IDisk& disk) {
   struct stat info {};
   if (::lstat(path.c_str(), &info) != 0) {
     if (errno == ENOENT) return true;
@@ -526,14 +451,14 @@ bool RemoveBelow(const std::string& path, int depth, int& reason, ICopyDisk& dis
 
 }  // namespace
 
-bool RemoveTree(const std::string& path, std::string* error, ICopyDisk& disk) {
+bool RemoveTree(const std::string& path, std::string* error, IDisk& disk) {
   int reason = 0;
   if (RemoveBelow(path, 0, reason, disk)) return true;
   if (error) *error = std::strerror(reason);
   return false;
 }
 
-bool RenameEntry(const std::string& from, const std::string& to, std::string* error, ICopyDisk& disk) {
+bool RenameEntry(const std::string& from, const std::string& to, std::string* error, IDisk& disk) {
   const auto refuse = [error](int reason) {
     if (error) *error = std::strerror(reason);
     return false;

@@ -9,31 +9,10 @@
 
 #include <sys/types.h>
 
+#include "platform/files/Disk.h"
 #include "platform/files/Folders.h"
 
 namespace kinalyx {
-
-/// The calls by which a copy changes the disk, so that a test can make each of them fail in turn.
-/// Results as the system calls have them: negative is a failure, with the reason in errno.
-class ICopyDisk {
- public:
-  virtual ~ICopyDisk() = default;
-  virtual int OpenSource(const std::string& path, bool followLink) = 0;
-  virtual int OpenNew(const std::string& path) = 0;  ///< fails when there is something of that name
-  /// Copies the next bytes, at most `count`; 0 at the end of the source.
-  virtual long Transfer(int from, int to, std::size_t count) = 0;
-  virtual int Flush(int file) = 0;
-  virtual int Close(int file) = 0;
-  virtual int RenameNew(const std::string& from, const std::string& to) = 0;  ///< never replaces anything
-  virtual int MakeFolder(const std::string& path) = 0;
-  virtual int MakeLink(const std::string& target, const std::string& path) = 0;
-  virtual int FlushFolder(const std::string& path) = 0;
-  virtual int Remove(const std::string& path) = 0;        ///< a file or a link
-  virtual int RemoveFolder(const std::string& path) = 0;  ///< an empty folder
-};
-
-/// The disk of this machine.
-ICopyDisk& RealCopyDisk();
 
 /// A file or a whole folder, and the full path that it shall have.
 struct CopyEntry {
@@ -72,7 +51,7 @@ class CopyJob {
   };
   enum class State { Running, Done, Cancelled, Failed };
 
-  CopyJob(Kind kind, std::vector<CopyUnit> units, ICopyDisk& disk = RealCopyDisk());
+  CopyJob(Kind kind, std::vector<CopyUnit> units, IDisk& disk = RealDisk());
   CopyJob(const CopyJob&) = delete;
   CopyJob& operator=(const CopyJob&) = delete;
   /// A job under way is cancelled.
@@ -136,7 +115,7 @@ class CopyJob {
 
   Kind kind_;
   std::vector<CopyUnit> wanted_;
-  ICopyDisk& disk_;
+  IDisk& disk_;
   State state_ = State::Running;
   CopyProgress progress_;
   std::string error_;
@@ -158,14 +137,11 @@ CopyJob::State RunToEnd(CopyJob& job);
 
 /// Removes a file or a folder with all that is in it. Links are removed, never followed. On failure as
 /// much as possible is gone; false, with the first reason in `error` (may be null).
-bool RemoveTree(const std::string& path, std::string* error = nullptr, ICopyDisk& disk = RealCopyDisk());
+bool RemoveTree(const std::string& path, std::string* error = nullptr, IDisk& disk = RealDisk());
 
 /// Gives a file or folder another name, which must be free; within one file system. Names that differ in
 /// case alone are no obstacle on a disk that does not tell them apart.
 bool RenameEntry(const std::string& from, const std::string& to, std::string* error = nullptr,
-                 ICopyDisk& disk = RealCopyDisk());
-
-/// True when there is something at the path, a dangling link included.
-bool EntryExists(const std::string& path);
+                 IDisk& disk = RealDisk());
 
 }  // namespace kinalyx

@@ -1,7 +1,6 @@
 #include "platform/files/FileStore.h"
 
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
 #include <filesystem>
 #include <system_error>
@@ -19,31 +18,6 @@ namespace kinalyx {
 namespace fs = std::filesystem;
 
 namespace {
-
-class SystemDisk final : public IDisk {
- public:
-  int Open(const std::string& path) override {
-    return ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
-  }
-  long Write(int file, const void* bytes, std::size_t count) override {
-    long written = -1;
-    do {
-      written = static_cast<long>(::write(file, bytes, count));
-    } while (written < 0 && errno == EINTR);
-    return written;
-  }
-  int Flush(int file) override { return ::fsync(file); }
-  int Close(int file) override { return ::close(file); }
-  int Rename(const std::string& from, const std::string& to) override { return std::rename(from.c_str(), to.c_str()); }
-  int FlushFolder(const std::string& folder) override {
-    const int handle = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (handle < 0) return -1;
-    const int result = ::fsync(handle);
-    ::close(handle);
-    return result;
-  }
-  int Remove(const std::string& path) override { return ::unlink(path.c_str()); }
-};
 
 /// Where a save to `path` really goes: the end of a chain of links.
 fs::path TargetOf(const std::string& path) {
@@ -71,13 +45,6 @@ bool WriteAll(IDisk& disk, int file, std::span<const std::uint8_t> bytes) {
 
 }  // namespace
 
-void IDisk::RemoveDead(const std::string& folder) { RemoveDeadParts(folder); }
-
-IDisk& RealDisk() {
-  static SystemDisk disk;  // holds no state
-  return disk;
-}
-
 bool WriteWholeFile(const std::string& path, std::span<const std::uint8_t> bytes, std::string* error, IDisk& disk) {
   const auto refuse = [error](int reason) {
     if (error) *error = std::strerror(reason);
@@ -95,7 +62,7 @@ bool WriteWholeFile(const std::string& path, std::span<const std::uint8_t> bytes
 
   // A name of its own: another window or workstation may be saving the same file at this moment.
   const std::string beside = PartNameBeside(target.string());
-  const int file = disk.Open(beside);
+  const int file = disk.OpenNew(beside);
   if (file < 0) return refuse(errno);
   if (exists) fs::permissions(beside, old.permissions(), failed);  // before the flush, which then covers it
   bool good = WriteAll(disk, file, bytes) && disk.Flush(file) >= 0;
@@ -111,14 +78,14 @@ bool WriteWholeFile(const std::string& path, std::span<const std::uint8_t> bytes
   const std::string folder = FolderOf(target.string());
   if (!good) {
     disk.Remove(beside);
-    disk.RemoveDead(folder);  // the next attempt may need their room
+    RemoveDeadParts(folder, disk);  // the next attempt may need their room
     return refuse(reason);
   }
   // A name that was there stands for the old file or the new one, both whole, until the system has written
   // its folder in a few seconds. A new name would be nothing until then. Some network drives cannot flush a
   // folder, and nothing can be taken back now, so a refusal here is no failure of the save.
   if (!exists) disk.FlushFolder(folder);
-  disk.RemoveDead(folder);
+  RemoveDeadParts(folder, disk);
   return true;
 }
 

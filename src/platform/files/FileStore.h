@@ -8,26 +8,9 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/files/Disk.h"
+
 namespace kinalyx {
-
-/// The few calls by which a save reaches the disk, so that a test can make each of them fail in turn.
-/// Results as the system calls have them: negative is a failure.
-class IDisk {
- public:
-  virtual ~IDisk() = default;
-  virtual int Open(const std::string& path) = 0;  ///< a new file; fails when there is something
-  virtual long Write(int file, const void* bytes, std::size_t count) = 0;
-  virtual int Flush(int file) = 0;
-  virtual int Close(int file) = 0;
-  virtual int Rename(const std::string& from, const std::string& to) = 0;
-  virtual int FlushFolder(const std::string& folder) = 0;
-  virtual int Remove(const std::string& path) = 0;
-  /// Sweeps up what killed saves and copies have left in a folder.
-  virtual void RemoveDead(const std::string& folder);
-};
-
-/// The disk of this machine.
-IDisk& RealDisk();
 
 /// Replaces a whole file: writes beside it under a name of its own, flushes, renames over it. The file holds
 /// either the old or the new bytes, whatever happens and whoever else saves it; of two saves at once one

@@ -107,6 +107,11 @@ bool FileExists(const std::string& path) {
   return fs::exists(status) && !fs::is_directory(status);
 }
 
+bool EntryExists(const std::string& path) {
+  struct stat info {};
+  return ::lstat(path.c_str(), &info) == 0;
+}
+
 bool dirExists(const std::string& path) {
   std::error_code failed;
   return fs::is_directory(path, failed);
@@ -151,8 +156,7 @@ std::optional<FileStamp> StampOf(int file) {
 std::string KeptPath(const std::string& path) {
   const std::string first = path + ".old";
   std::string kept = first;
-  std::error_code failed;
-  for (int number = 2; fs::exists(fs::symlink_status(kept, failed)); ++number) kept = first + std::to_string(number);
+  for (int number = 2; EntryExists(kept); ++number) kept = first + std::to_string(number);
   return kept;
 }
 

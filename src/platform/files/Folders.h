@@ -17,6 +17,8 @@ std::string DocumentsFolder();
 std::string ProgramFolder();
 
 bool FileExists(const std::string& path);
+/// True when there is something at the path, a dangling link included.
+bool EntryExists(const std::string& path);
 /// True when the path exists and is a folder.
 bool dirExists(const std::string& path);
 /// True for one file or folder under two paths, as a link gives it; false when one of them is not there.
@@ -39,7 +41,7 @@ struct FileStamp {
 /// Nothing when it cannot be asked.
 std::optional<FileStamp> StampOf(const std::string& path);
 std::optional<FileStamp> StampOf(int file);
-/// Where a file that must make way is kept: "X.old", with a number behind where that is taken already.
+/// Where a file that must make way is kept beside: "X.old", with a number behind where that is taken already.
 std::string KeptPath(const std::string& path);
 /// Free bytes of the drive that holds `path` (or the nearest folder above it that exists); -1 unknown.
 std::int64_t FreeBytes(const std::string& path);

@@ -12,6 +12,7 @@
 
 #include <sys/stat.h>
 
+#include "platform/files/FileCopy.h"
 #include "platform/files/Folders.h"
 #include "platform/files/TextEncoding.h"
 
@@ -34,7 +35,7 @@ bool IsPartName(std::string_view name) {
 }
 
 /// Now, as the drive of a folder has it; nothing when nothing can be written there.
-std::optional<std::time_t> DriveTime(const std::string& folder, ICopyDisk& disk) {
+std::optional<std::time_t> DriveTime(const std::string& folder, IDisk& disk) {
   const std::string probe = PartNameBeside(JoinPath(folder, "now"));
   const int file = disk.OpenNew(probe);
   if (file < 0) return std::nullopt;
@@ -72,7 +73,7 @@ std::string PartNameBeside(const std::string& path) {
   return JoinPath(FolderOf(path), "." + std::string(CutUtf8(LastName(path), 200)) + number.data() + std::string(kEnding));
 }
 
-void RemoveDeadParts(const std::string& folder, int idleSeconds, ICopyDisk& disk) {
+void RemoveDeadParts(const std::string& folder, IDisk& disk) {
   std::vector<std::string> parts;
   std::error_code failed;
   for (fs::directory_iterator at(folder, failed), end; !failed && at != end; at.increment(failed)) {
@@ -82,7 +83,7 @@ void RemoveDeadParts(const std::string& folder, int idleSeconds, ICopyDisk& disk
   const auto now = DriveTime(folder, disk);
   if (!now) return;
   for (const std::string& part : parts) {
-    if (UntouchedSince(part, *now - idleSeconds)) RemoveTree(part, nullptr, disk);
+    if (UntouchedSince(part, *now - disk.DeadPartSeconds())) RemoveTree(part, nullptr, disk);
   }
 }
 

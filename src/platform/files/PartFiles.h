@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "platform/files/FileCopy.h"
+#include "platform/files/Disk.h"
 
 namespace kinalyx {
 
@@ -11,13 +11,9 @@ namespace kinalyx {
 /// folder.
 std::string PartNameBeside(const std::string& path);
 
-/// How long a part lies untouched before it counts as dead. A copy that is alive writes every few seconds; a
-/// slow drive may need minutes for what it has in its buffers.
-inline constexpr int kDeadPartSeconds = 3600;
-
 /// Removes from a folder the parts that were left there by a program that was killed or cut off. Those that
 /// anybody has touched meanwhile stay, by the clock of the drive itself; so does everything where the folder
 /// cannot be written to. Folders below are not looked into.
-void RemoveDeadParts(const std::string& folder, int idleSeconds = kDeadPartSeconds, ICopyDisk& disk = RealCopyDisk());
+void RemoveDeadParts(const std::string& folder, IDisk& disk = RealDisk());
 
 }  // namespace kinalyx

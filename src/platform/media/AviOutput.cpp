@@ -56,7 +56,7 @@ bool AviOutput::Finish(bool replace, std::string& message) {
     if (file >= 0) ::close(file);
     if (!flushed) return fail(std::strerror(reason));
     if (std::rename(partial_.c_str(), path_.c_str()) != 0) return fail(std::strerror(errno));
-  } else if (RealCopyDisk().RenameNew(partial_, path_) < 0) {
+  } else if (RealDisk().RenameNew(partial_, path_) < 0) {
     return fail(std::strerror(errno));
   }
   partial_.clear();

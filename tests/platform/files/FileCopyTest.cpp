@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <map>
 
-#include "support/CopyDisks.h"
+#include "support/TestDisks.h"
 #include "support/TempFolder.h"
 
 namespace kinalyx::test {
@@ -79,8 +79,8 @@ TEST(CopyJob, MovesAStudentWithinADriveAndBetweenTwo) {
     SCOPED_TRACE(twoDrives);
     TempFolder folder;
     MakeStudent(folder);
-    TwoDrives drives(RealCopyDisk());
-    CopyJob job(CopyJob::Kind::Move, WholeStudent(folder), twoDrives ? drives : RealCopyDisk());
+    TwoDrives drives;
+    CopyJob job(CopyJob::Kind::Move, WholeStudent(folder), twoDrives ? drives : RealDisk());
     ASSERT_EQ(RunToEnd(job), CopyJob::State::Done) << job.Error();
     const std::map<std::string, std::string> wanted = {
         {"Ann", "/"}, {"Bob", "/"}, {"Bob/Smith, Jr.", "/"}, {"Bob/Smith, Jr./(001) DL.avi", Digest(kVideo)},
@@ -95,7 +95,7 @@ TEST(CopyJob, AMoveBetweenDrivesRemovesOnlyWhatItCopied) {
   // Another workstation works on the student while the copy is under way, and just before the old one goes.
   class BusyDrives final : public TwoDrives {
    public:
-    explicit BusyDrives(const TempFolder& folder) : TwoDrives(RealCopyDisk()), folder_(folder) {}
+    explicit BusyDrives(const TempFolder& folder) : folder_(folder) {}
     int RenameNew(const std::string& from, const std::string& to) override {
       const int result = TwoDrives::RenameNew(from, to);
       if (result == 0) folder_.Put("Ann/Smith, Jr./(001) DL.ved", "1XXXXXXX and more");
@@ -203,7 +203,7 @@ TEST(CopyJob, LosesNothingWhicheverCallFails) {
       const std::vector<CopyUnit> units = one.student ? WholeStudent(folder) : OneVideo(folder);
       FailingDisk disk(call);
       TwoDrives drives(disk);
-      CopyJob job(one.kind, units, one.twoDrives ? static_cast<ICopyDisk&>(drives) : disk);
+      CopyJob job(one.kind, units, one.twoDrives ? static_cast<IDisk&>(drives) : disk);
       RunToEnd(job);
       failed = disk.Failed();
       const auto after = Contents(folder);

@@ -7,83 +7,30 @@
 
 #include <sys/stat.h>
 
-#include "platform/files/PartFiles.h"
 #include "support/TempFolder.h"
+#include "support/TestDisks.h"
 
 namespace kinalyx::test {
 namespace {
 
-/// The real disk, on which one chosen call fails. Writes take at most a few bytes at a time, as a disk may.
-class FailingDisk final : public IDisk {
- public:
-  int failAt = 0;  ///< number of the call that fails, from 1; 0 none
-  int calls = 0;
-  bool renamed = false;
-
-  int Open(const std::string& path) override { return Fails() ? -1 : RealDisk().Open(path); }
-  long Write(int file, const void* bytes, std::size_t count) override {
-    return Fails() ? -1 : RealDisk().Write(file, bytes, std::min<std::size_t>(count, 4));
-  }
-  int Flush(int file) override { return Fails() ? -1 : RealDisk().Flush(file); }
-  int Close(int file) override {
-    const int result = RealDisk().Close(file);  // a failing close still gives the handle back
-    return Fails() ? -1 : result;
-  }
-  int Rename(const std::string& from, const std::string& to) override {
-    if (Fails()) return -1;
-    renamed = true;
-    return RealDisk().Rename(from, to);
-  }
-  int FlushFolder(const std::string& folder) override { return Fails() ? -1 : RealDisk().FlushFolder(folder); }
-  int Remove(const std::string& path) override { return RealDisk().Remove(path); }
-
- private:
-  bool Fails() {
-    if (++calls != failAt) return false;
-    errno = ENOSPC;
-    return true;
-  }
-};
-
-/// The real disk, but nothing waits for it, and parts are dead at once.
-class HastyDisk final : public IDisk {
- public:
-  bool sweeps = false;
-
-  int Open(const std::string& path) override { return RealDisk().Open(path); }
-  long Write(int file, const void* bytes, std::size_t count) override {
-    return RealDisk().Write(file, bytes, std::min<std::size_t>(count, 700));
-  }
-  int Flush(int) override { return 0; }
-  int Close(int file) override { return RealDisk().Close(file); }
-  int Rename(const std::string& from, const std::string& to) override { return RealDisk().Rename(from, to); }
-  int FlushFolder(const std::string&) override { return 0; }
-  int Remove(const std::string& path) override { return RealDisk().Remove(path); }
-  void RemoveDead(const std::string& folder) override {
-    if (sweeps) RemoveDeadParts(folder, 0);
-  }
-};
-
 /// Saves with every call to the disk failing in turn, until a save made no more calls; returns how many it made.
 int FailEachCall(bool replaces) {
-  int failAt = 0;
-  for (bool failed = true; failed;) {
+  int calls = 0;
+  for (bool failed = true; failed; calls += failed) {
     TempFolder folder;
     const std::string path = replaces ? folder.Put("profile.prf", "the old bytes") : folder.Path("profile.prf");
-    FailingDisk disk;
-    disk.failAt = ++failAt;
+    FailingDisk disk(calls);
     std::string error;
     const bool saved = WriteWholeFile(path, std::string_view("the new bytes"), &error, disk);
-    EXPECT_EQ(saved, disk.renamed) << "call " << failAt;
     const bool there = replaces || saved;
-    EXPECT_EQ(folder.FileCount(), there ? 1u : 0u) << "call " << failAt;
+    EXPECT_EQ(folder.FileCount(), there ? 1u : 0u) << "call " << calls;
     if (there) {
-      EXPECT_EQ(folder.Get("profile.prf"), saved ? "the new bytes" : "the old bytes") << "call " << failAt;
+      EXPECT_EQ(folder.Get("profile.prf"), saved ? "the new bytes" : "the old bytes") << "call " << calls;
     }
     EXPECT_EQ(error.empty(), saved);
-    failed = disk.calls >= failAt;
+    failed = disk.Failed();
   }
-  return failAt - 1;
+  return calls;
 }
 
 TEST(FileStore, EachFailureLeavesTheOldFileOrTheNewOne) {
@@ -120,8 +67,7 @@ TEST(FileStore, ASaveSweepsUpAfterThoseThatWereKilled) {
   const TempFolder folder;
   folder.Put(".swing.ved.0123456789abcdef.part", "half");
   folder.Put(".swing.ved.new", "somebody's own");
-  HastyDisk disk;
-  disk.sweeps = true;
+  ImpatientDisk disk;
   EXPECT_TRUE(WriteWholeFile(folder.Path("swing.ved"), std::string_view("whole"), nullptr, disk));
   EXPECT_EQ(folder.FileCount(), 2u);
   EXPECT_EQ(folder.Get("swing.ved"), "whole");

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "support/TempFolder.h"
+#include "support/TestDisks.h"
 
 namespace kinalyx::test {
 namespace {
@@ -23,7 +24,8 @@ TEST(DeadParts, GoWhenNobodyHasTouchedThemForLong) {
 
   RemoveDeadParts(folder.Path());  // written just now: somebody is still at it
   EXPECT_TRUE(fs::exists(video) && fs::exists(student + "/lessons/First.avi"));
-  RemoveDeadParts(folder.Path(), 0);
+  ImpatientDisk impatient;
+  RemoveDeadParts(folder.Path(), impatient);
   EXPECT_TRUE(fs::is_empty(folder.Path()));
 }
 
@@ -36,10 +38,11 @@ TEST(DeadParts, NothingElseIsTakenForOne) {
   // What lies below belongs to another folder's turn.
   fs::create_directories(folder.Path("lessons"));
   Write(PartNameBeside(folder.Path("lessons/First.avi")));
-  RemoveDeadParts(folder.Path(), 0);
+  ImpatientDisk impatient;
+  RemoveDeadParts(folder.Path(), impatient);
   for (const char* name : names) EXPECT_EQ(folder.Get(name), "mine") << name;
   EXPECT_FALSE(fs::is_empty(folder.Path("lessons")));
-  RemoveDeadParts(folder.Path("gone"), 0);
+  RemoveDeadParts(folder.Path("gone"), impatient);
 }
 
 }  // namespace

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+namespace kinalyx {
+
+/// The calls by which saves, copies and removals change the disk, so that a test can make each of them fail in
+/// turn. Results as the system calls have them: negative is a failure, with the reason in errno.
+class IDisk {
+ public:
+  virtual ~IDisk() = default;
+  virtual int OpenSource(const std::string& path, bool followLink) = 0;  ///< for reading
+  virtual int OpenNew(const std::string& path) = 0;  ///< for writing; fails when there is something of that name
+  virtual long Write(int file, const void* bytes, std::size_t count) = 0;  ///< bytes written; may be fewer
+  /// Copies the next bytes, at most `count`; 0 at the end of the source.
+  virtual long Transfer(int from, int to, std::size_t count) = 0;
+  virtual int Flush(int file) = 0;
+  virtual int Close(int file) = 0;
+  virtual int Rename(const std::string& from, const std::string& to) = 0;     ///< replaces a file of that name
+  virtual int RenameNew(const std::string& from, const std::string& to) = 0;  ///< never replaces anything
+  virtual int MakeFolder(const std::string& path) = 0;
+  virtual int MakeLink(const std::string& target, const std::string& path) = 0;
+  virtual int FlushFolder(const std::string& path) = 0;
+  virtual int Remove(const std::string& path) = 0;        ///< a file or a link
+  virtual int RemoveFolder(const std::string& path) = 0;  ///< an empty folder
+  /// How long a part lies untouched before it counts as dead. A copy that is alive writes every few seconds; a
+  /// slow drive may need minutes for what it has in its buffers.
+  virtual int DeadPartSeconds() const { return 3600; }
+};
+
+/// The disk of this machine.
+IDisk& RealDisk();
+
+}  // namespace kinalyx
