@@ -65,8 +65,8 @@ const Register kTrimCopy({"trim_copy", {Target::Of::Ratio, 1.3, 1.0}, [] {
     their.push_back(MeasureMs([&] { BareCut(source, target); }));
     std::remove(target.c_str());
     our.push_back(MeasureMs([&] {
-      const TrimResult result = TrimVideo({source, target, kFirst, kLast, 30, TrimRequest::Mode::Copy});
-      if (!result.done || !result.copied || result.frames != kLast - kFirst + 1) throw std::runtime_error(result.message);
+      const auto cut = TrimVideo({source, target, kFirst, kLast, 30, TrimRequest::Mode::Copy});
+      if (!cut || !cut->copied || cut->frames != kLast - kFirst + 1) throw std::runtime_error(cut.Why());
     }));
     std::remove(target.c_str());
   }

@@ -21,7 +21,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t cou
 
   folder.Write("Sample, Erica/profile.txt", bytes, count);
   if (const auto notes = LoadNotes(student)) {
-    fuzz::Require(SaveNotes(student, *notes));
+    fuzz::Require(static_cast<bool>(SaveNotes(student, *notes)));
     fuzz::Require(LoadNotes(student).has_value());
   }
   return 0;

@@ -18,12 +18,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t cou
   (void)ReadSidecarMarks(path);
   SlotData first = ReadVideoData(path, video, kColours);
   first.Unread = false;  // or each would be kept beside
-  std::string error;
-  if (!WriteVideoData(path, first, &error)) return 0;
+  const auto written = WriteVideoData(path, first);
+  if (!written) return 0;
   const SlotData again = ReadVideoData(path, video, kColours);
   fuzz::Require(again.Wide == first.Wide && again.SplitFields == first.SplitFields);
   fuzz::Require(again.Shapes.NumShapes == first.Shapes.NumShapes);
-  if (error.empty()) fuzz::Require(again.Notes == first.Notes);
+  if (written->empty()) fuzz::Require(again.Notes == first.Notes);
   fuzz::Require(!again.Unread);
   return 0;
 }

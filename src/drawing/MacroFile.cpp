@@ -58,64 +58,54 @@ void MacroFile::Read(ScreenTwips screen) {
   }
 }
 
-MacroFile::Outcome MacroFile::Add(const NamedMacro& macro, std::string& error) {
+Outcome MacroFile::Add(const NamedMacro& macro) {
   const auto add = [&](std::vector<NamedMacro>& all) { all.push_back(macro); };
-  return Change(add, error);
+  return Change(add);
 }
 
-MacroFile::Outcome MacroFile::Remove(const NamedMacro& macro, bool every, std::string& error) {
+Outcome MacroFile::Remove(const NamedMacro& macro, bool every) {
   const auto remove = [&](std::vector<NamedMacro>& all) {
     if (every) std::erase(all, macro);
     else if (const auto found = std::ranges::find(all, macro); found != all.end()) all.erase(found);
   };
-  return Change(remove, error);
+  return Change(remove);
 }
 
-MacroFile::Outcome MacroFile::Change(const std::function<void(std::vector<NamedMacro>&)>& edit, std::string& error) {
+Outcome MacroFile::Change(const std::function<void(std::vector<NamedMacro>&)>& edit) {
   const FileLock lock(path_);
-  if (lock.Busy()) {
-    error = "Another window or workstation is writing to the file of the macros. Try again.";
-    return Outcome::Refused;
-  }
+  if (lock.Busy())
+    return {Fault::Refused, "Another window or workstation is writing to the file of the macros. Try again."};
   Read(screen_);
   auto all = all_;
   edit(all);
-  if (all == all_) return Outcome::Stored;
-  if (all.size() > kMostShapeLists) {
-    error = fmt::format("There can be no more than {} macros.", kMostShapeLists);
-    return Outcome::Refused;
-  }
-  return Store(all, error);
+  if (all == all_) return {};
+  if (all.size() > kMostShapeLists)
+    return {Fault::Refused, fmt::format("There can be no more than {} macros.", kMostShapeLists)};
+  return Store(all);
 }
 
-MacroFile::Outcome MacroFile::Store(const std::vector<NamedMacro>& all, std::string& error) {
+Outcome MacroFile::Store(const std::vector<NamedMacro>& all) {
   const auto bytes = BytesOf(all);
   if (bytes.size() > kShapeFileLimit && all.size() > all_.size()) {
-    error = fmt::format("The file of the macros would need {} bytes. Beyond {} it could not be read whole. Remove a macro first.",
-                        bytes.size(), kShapeFileLimit);
-    return Outcome::Refused;
+    return {Fault::Refused,
+            fmt::format("The file of the macros would need {} bytes. Beyond {} it could not be read whole. Remove a macro first.",
+                        bytes.size(), kShapeFileLimit)};
   }
-  if (state_ == State::Unreadable) {
-    error = "It cannot be read.";
-    return Outcome::Unwritable;
-  }
+  if (state_ == State::Unreadable) return {Fault::Unwritable, "It cannot be read."};
   if (state_ == State::Uneven) {
     const auto old = ReadWholeFile(path_);
     const std::string kept = KeptPath(path_);
-    if (!old) {
-      error = std::strerror(errno);
-      return Outcome::Unwritable;
-    }
-    if (!WriteWholeFile(kept, *old, &error, disk_)) return Outcome::Unwritable;
+    if (!old) return {Fault::Unwritable, std::strerror(errno)};
+    if (const Outcome saved = WriteWholeFile(kept, *old, disk_); !saved) return {Fault::Unwritable, saved.Why()};
     notice_ = fmt::format("What could not all be read is kept as \"{}\".", kept);
   }
-  if (!WriteWholeFile(path_, bytes, &error, disk_)) return Outcome::Unwritable;
+  if (const Outcome saved = WriteWholeFile(path_, bytes, disk_); !saved) return {Fault::Unwritable, saved.Why()};
   // Where the disk does not let it go, a file without macros stays.
   if (all.empty()) disk_.Remove(path_);
   Parse(bytes);  // as the next reader will have it
   state_ = State::Whole;
   stamp_ = StampOf(path_);
-  return Outcome::Stored;
+  return {};
 }
 
 }  // namespace kinalyx

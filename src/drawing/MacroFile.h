@@ -25,12 +25,6 @@ struct NamedMacro {
 /// time, never to what was read before: what others added or removed meanwhile stays so.
 class MacroFile {
  public:
-  enum class Outcome {
-    Stored,
-    Refused,     ///< whatever the place: no room in the file's form, or somebody else is at it
-    Unwritable,  ///< here; perhaps elsewhere
-  };
-
   MacroFile(std::string path, IDisk& disk) : path_(std::move(path)), disk_(disk) {}
 
   const std::string& Path() const { return path_; }
@@ -40,11 +34,12 @@ class MacroFile {
   /// come out even those that can be read are taken.
   void Read(ScreenTwips screen);
 
-  /// Puts one behind the others. `error` says why not.
-  Outcome Add(const NamedMacro& macro, std::string& error);
+  /// Puts one behind the others. `Refused` when the file's form has no room or somebody else is at it,
+  /// `Unwritable` when the disk does not take it here; so with every change.
+  Outcome Add(const NamedMacro& macro);
   /// Removes the first that is just the same, or every one; none is no failure. The last one takes the file
   /// with it.
-  Outcome Remove(const NamedMacro& macro, bool every, std::string& error);
+  Outcome Remove(const NamedMacro& macro, bool every);
 
   /// What the user should know of the file and was not told yet; empty when there is nothing.
   std::string TakeNotice() { return std::exchange(notice_, {}); }
@@ -53,8 +48,8 @@ class MacroFile {
   enum class State { Whole, Uneven, Unreadable };
 
   bool Parse(const std::vector<std::uint8_t>& bytes);
-  Outcome Change(const std::function<void(std::vector<NamedMacro>&)>& edit, std::string& error);
-  Outcome Store(const std::vector<NamedMacro>& all, std::string& error);
+  Outcome Change(const std::function<void(std::vector<NamedMacro>&)>& edit);
+  Outcome Store(const std::vector<NamedMacro>& all);
 
   std::string path_;
   IDisk& disk_;

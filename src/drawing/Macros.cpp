@@ -12,11 +12,6 @@ namespace {
 
 constexpr const char* kFileName = "Macro.dat";
 
-bool Refuse(std::string* error, std::string text) {
-  if (error) *error = std::move(text);
-  return false;
-}
-
 }  // namespace
 
 Macros::Macros(std::string appPath, std::string dataPath, IDisk& disk)
@@ -40,30 +35,26 @@ void Macros::Gather() {
   for (const NamedMacro& macro : shown_) names_.push_back(macro.name);
 }
 
-bool Macros::CreateMacro(const std::string& Name, const ShapeList& list, std::string* error) {
-  if (Name.empty()) return Refuse(error, "The macro needs a name.");
+Outcome Macros::CreateMacro(const std::string& Name, const ShapeList& list) {
+  if (Name.empty()) return Outcome::Failed("The macro needs a name.");
   NamedMacro macro{Name, list};
   macro.list.Shapes = DrawingsOf(list);
   macro.list.NumShapes = static_cast<std::int16_t>(macro.list.Shapes.size());
-  std::string reason;
-  MacroFile::Outcome outcome = shared_.Add(macro, reason);
-  if (outcome == MacroFile::Outcome::Unwritable && !OneFile()) outcome = own_.Add(macro, reason);
+  Outcome stored = shared_.Add(macro);
+  if (stored.Kind() == Fault::Unwritable && !OneFile()) stored = own_.Add(macro);
   Gather();
-  return outcome == MacroFile::Outcome::Stored || Refuse(error, reason);
+  return stored;
 }
 
-bool Macros::KillMacro(int Index, std::string* error) {
-  if (Index < 0 || Index >= NumMacros()) return true;
+Outcome Macros::KillMacro(int Index) {
+  if (Index < 0 || Index >= NumMacros()) return {};
   const NamedMacro macro = shown_[static_cast<std::size_t>(Index)];
   const bool shared = Index < static_cast<int>(shared_.All().size());
-  std::string reason;
-  MacroFile::Outcome outcome = shared ? shared_.Remove(macro, false, reason) : own_.Remove(macro, false, reason);
-  if (shared && outcome == MacroFile::Outcome::Stored && !OneFile()) outcome = own_.Remove(macro, true, reason);
+  Outcome removed = shared ? shared_.Remove(macro, false) : own_.Remove(macro, false);
+  if (shared && removed && !OneFile()) removed = own_.Remove(macro, true);
   Gather();
-  if (outcome == MacroFile::Outcome::Stored) return true;
-  if (outcome == MacroFile::Outcome::Unwritable)
-    reason = fmt::format("It lies in \"{}\": {}", shared ? shared_.Path() : own_.Path(), reason);
-  return Refuse(error, reason);
+  if (removed.Kind() != Fault::Unwritable) return removed;
+  return {Fault::Unwritable, fmt::format("It lies in \"{}\": {}", shared ? shared_.Path() : own_.Path(), removed.Why())};
 }
 
 int Macros::IndexOf(const std::string& Name) const {

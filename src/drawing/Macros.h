@@ -29,13 +29,13 @@ class Macros {
   /// of this one, may keep macros in them too.
   void LoadMList(ScreenTwips screen);
 
-  /// Keeps a copy of a window's drawings, behind what others have stored meanwhile. Refused, with `error` for
-  /// the user, without a name, beyond 256 macros in a file, when the file would become too long to be read
+  /// Keeps a copy of a window's drawings, behind what others have stored meanwhile. Refused, and the user
+  /// is to be told why, without a name, beyond 256 macros in a file, when the file would become too long to be read
   /// whole, and when the disk refuses in both places.
-  bool CreateMacro(const std::string& Name, const ShapeList& list, std::string* error = nullptr);
+  Outcome CreateMacro(const std::string& Name, const ShapeList& list);
   /// Removes a macro from the file that holds it. One that somebody else has removed or replaced meanwhile, and
   /// indexes outside the list, do nothing.
-  bool KillMacro(int Index, std::string* error = nullptr);
+  Outcome KillMacro(int Index);
   /// The last one of a name; -1 none.
   int IndexOf(const std::string& Name) const;
 

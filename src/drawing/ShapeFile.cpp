@@ -255,7 +255,7 @@ Bytes WriteShapeFile(const ShapeFileContent& content) {
   return bytes;
 }
 
-bool SaveShapeList(const std::string& path, const ShapeLists& lists) {
+Outcome SaveShapeList(const std::string& path, const ShapeLists& lists) {
   ShapeFileContent content{1, {}, {}};
   for (int window = 1; window <= ShapeLists::kWindows; ++window) content.Lists.push_back(lists(window));
   return WriteWholeFile(path, WriteShapeFile(content));
@@ -272,12 +272,12 @@ bool LoadShapeList(const std::string& path, ScreenTwips screen, ShapeLists& list
   return true;
 }
 
-bool SaveVideoSL(const std::string& videoPath, const ShapeList& list) {
+Outcome SaveVideoSL(const std::string& videoPath, const ShapeList& list) {
   const std::string path = VideoShapesPath(videoPath);
   if (!ShapesOf(list).empty()) return WriteWholeFile(path, WriteShapeFile({0, {list}, {}}));
   std::error_code failed;
   std::filesystem::remove(path, failed);
-  return !failed;
+  return failed ? Outcome::Failed(failed.message()) : Outcome();
 }
 
 bool LoadVideoSL(const std::string& videoPath, ScreenTwips screen, ShapeList& list) {

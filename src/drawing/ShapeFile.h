@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "drawing/Shape.h"
+#include "platform/files/Result.h"
 
 namespace kinalyx {
 
@@ -52,12 +53,12 @@ std::vector<std::uint8_t> WriteShapeFile(const ShapeFileContent& content);
 
 // The drawings of all windows under a name, and those of one window beside its video.
 
-/// Stores all eight lists. False when the disk refuses.
-bool SaveShapeList(const std::string& path, const ShapeLists& lists);
+/// Stores all eight lists.
+Outcome SaveShapeList(const std::string& path, const ShapeLists& lists);
 /// Reads all eight lists back; a missing or foreign file leaves them as they are, with false.
 bool LoadShapeList(const std::string& path, ScreenTwips screen, ShapeLists& lists);
 /// Stores one list beside a video, under its name with ".dat"; a list without shapes leaves no file.
-bool SaveVideoSL(const std::string& videoPath, const ShapeList& list);
+Outcome SaveVideoSL(const std::string& videoPath, const ShapeList& list);
 bool LoadVideoSL(const std::string& videoPath, ScreenTwips screen, ShapeList& list);
 
 }  // namespace kinalyx

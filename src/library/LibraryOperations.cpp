@@ -199,9 +199,9 @@ OperationResult LibraryOperations::AddInstructor(std::string_view typed) {
   const std::string_view name = WithoutOuterBlanks(typed);
   if (!Busy() && IsValidName(name) && !BeginLibrary()) return Report({});
   if (const std::string refusal = Obstacle(); !refusal.empty()) return Refuse(refusal);
-  const Outcome outcome = kinalyx::AddInstructor(tree_.Root(), name);
-  if (!outcome.done) return Refuse(outcome.message);
-  return {true, outcome.message, true, std::string(name)};
+  const auto added = kinalyx::AddInstructor(tree_.Root(), name);
+  if (!added) return Refuse(added.Why());
+  return {true, *added, true, std::string(name)};
 }
 
 std::string LibraryOperations::StillFullText(const std::string& instructor) const {
@@ -225,11 +225,10 @@ OperationResult LibraryOperations::RenameInstructor(const std::string& instructo
   // These two stand for something else in the list.
   if (SameName(name, kGeneralFolder) || SameName(name, kQuickLaunch)) return Refuse(taken);
   if (HasFolderNamed(tree_.Root(), name, instructor)) return Refuse(taken);
-  std::string error;
-  if (!RenameEntry(from, to, &error, disk_)) {
+  if (const Outcome renamed = RenameEntry(from, to, disk_); !renamed) {
     const std::string text = instructor + " could not be renamed";
     if (EntryExists(to)) return Refuse(taken);
-    return EntryExists(from) ? Refuse(text + ": " + error) : RefuseGone(text);
+    return EntryExists(from) ? Refuse(text + ": " + renamed.Why()) : RefuseGone(text);
   }
   return {true, instructor + " successfully renamed.", true, std::string(name)};
 }
@@ -255,9 +254,9 @@ OperationResult LibraryOperations::AddStudent(const std::string& instructor, con
   if (const std::string refusal = Obstacle(); !refusal.empty()) return Refuse(refusal);
   FieldTexts named = values;
   named[kNameField] = WithoutOuterBlanks(values[kNameField]);
-  const Outcome outcome = kinalyx::AddStudent(tree_.InstructorFolder(instructor), captions, named, words_.noun());
-  if (!outcome.done) return Refuse(outcome.message);
-  return {true, outcome.message, true, instructor, named[kNameField]};
+  const auto added = kinalyx::AddStudent(tree_.InstructorFolder(instructor), captions, named, words_.noun());
+  if (!added) return Refuse(added.Why());
+  return {true, *added, true, instructor, named[kNameField]};
 }
 
 OperationResult LibraryOperations::RenameStudentCancelled() const { return Report(words_.Noun() + " rename cancelled."); }
@@ -274,12 +273,11 @@ OperationResult LibraryOperations::RenameStudent(const std::string& instructor, 
   const std::string to = tree_.StudentFolder(instructor, name);
   const std::string taken = "The name you have chosen already exists in the database.";
   if (HasFolderNamed(tree_.InstructorFolder(instructor), name, student)) return Refuse(taken);
-  std::string error;
-  if (!RenameEntry(from, to, &error, disk_)) {
+  if (const Outcome renamed = RenameEntry(from, to, disk_); !renamed) {
     // Another workstation may have taken the name just now.
     if (EntryExists(to)) return Refuse(taken);
     const std::string text = "The " + words_.noun() + " could not be renamed";
-    return EntryExists(from) ? Refuse(text + ": " + error) : RefuseGone(text);
+    return EntryExists(from) ? Refuse(text + ": " + renamed.Why()) : RefuseGone(text);
   }
   OperationResult result{true, words_.Noun() + " successfully renamed.", true, instructor, std::string(name)};
   // A student without a profile gains a whole one at the next look.

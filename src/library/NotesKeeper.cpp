@@ -38,35 +38,35 @@ const std::string& NotesKeeper::Open(const std::string& studentFolder) {
   return text_;
 }
 
-bool NotesKeeper::Store(const std::string& folder, Waiting& notes, std::string* error) {
+Outcome NotesKeeper::Store(const std::string& folder, Waiting& notes) {
   const auto theirs = LoadNotes(folder);
-  if (!theirs) {
-    if (error) *error = "the notes that are there cannot be read";
-    return false;
-  }
+  if (!theirs) return Outcome::Failed("the notes that are there cannot be read");
   std::string merged = WithLineEnds(MergeTexts(notes.base, notes.text, *theirs));
-  if (merged != *theirs && !SaveNotes(folder, merged, error)) return false;
+  if (merged != *theirs) {
+    if (Outcome saved = SaveNotes(folder, merged); !saved) return saved;
+  }
   notes.text = std::move(merged);
-  return true;
+  return {};
 }
 
-bool NotesKeeper::Keep(std::optional<std::string_view> typed, std::string* error) {
+Outcome NotesKeeper::Keep(std::optional<std::string_view> typed) {
   if (typed && !folder_.empty() && readable_) {
     text_ = WithLineEnds(*typed);
     if (text_ == base_) unsaved_.erase(folder_);  // taken back
     else unsaved_[folder_] = {text_, base_};
   }
+  Outcome all;
   for (auto notes = unsaved_.begin(); notes != unsaved_.end();) {
     auto& [folder, waiting] = *notes;
     const bool reached = events_.CanReachNotes(folder);
-    if (!reached && error) *error = "the drive is not answering";
     const bool gone = reached && HasGone(folder);
-    const bool settled = gone || (reached && Store(folder, waiting, error));
-    if (settled && folder == folder_) text_ = base_ = waiting.text;
+    const Outcome stored = gone ? Outcome() : reached ? Store(folder, waiting) : Outcome::Failed("the drive is not answering");
+    if (stored && folder == folder_) text_ = base_ = waiting.text;
     if (gone && !waiting.text.empty()) events_.NotesLost(folder, waiting.text);
-    notes = settled ? unsaved_.erase(notes) : std::next(notes);
+    if (!stored) all = stored;
+    notes = stored ? unsaved_.erase(notes) : std::next(notes);
   }
-  return unsaved_.empty();
+  return all;
 }
 
 }  // namespace kinalyx

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/files/Result.h"
+
 namespace kinalyx {
 
 /// What the keeper of notes asks and tells.
@@ -33,11 +35,11 @@ class NotesKeeper {
   bool Readable() const { return readable_; }
   const std::string& StudentFolder() const { return folder_; }
 
-  /// Stores what waits, each together with what somebody else has written there meanwhile. False when some of
-  /// it, of whichever student, could not be stored; `error` then tells why.
+  /// Stores what waits, each together with what somebody else has written there meanwhile. Fails when some of
+  /// it, of whichever student, could not be stored.
   /// @param typed  what the user has made of the text of the open student; nothing when it was not touched,
   ///               and then nothing is written for it
-  bool Keep(std::optional<std::string_view> typed, std::string* error);
+  Outcome Keep(std::optional<std::string_view> typed);
   /// The notes of the open student as the user should see them: what Open gave or was typed last, and after
   /// Keep with what somebody else has written, lines ended by CR LF.
   const std::string& Text() const { return text_; }
@@ -53,7 +55,7 @@ class NotesKeeper {
   bool OpenIsUnsaved() const { return unsaved_.contains(folder_); }
 
  private:
-  bool Store(const std::string& folder, Waiting& notes, std::string* error);
+  Outcome Store(const std::string& folder, Waiting& notes);
 
   INotesEvents& events_;
   std::string folder_;

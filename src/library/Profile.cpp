@@ -114,11 +114,11 @@ Outcome ProfileFields::SetCaption(int field, std::string_view caption) {
   if (key.empty()) key = kFirstRunCaptions[field];
   for (int other = 0; other < kProfileFields; ++other) {
     if (other != field && FoldCase(captions_[Index(other)]) == FoldCase(key))
-      return {false, "Another field has the name \"" + key + "\" already."};
+      return Outcome::Failed("Another field has the name \"" + key + "\" already.");
   }
   const bool stored = WritePrivateProfileString(kFieldsSection, std::to_string(field), key, path_);
   SetupFields();
-  return {stored, stored ? "" : "The file " + path_ + " cannot be written."};
+  return stored ? Outcome() : Outcome::Failed("The file " + path_ + " cannot be written.");
 }
 
 // ---------------------------------------------------------------- profiles
@@ -189,7 +189,7 @@ std::string WithLineEnds(std::string_view text) {
 std::optional<std::string> LoadNotes(const std::string& studentFolder) {
   const std::string path = NotesPath(studentFolder);
   if (!FileExists(path)) {
-    WriteWholeFile(path, std::string_view());
+    (void)WriteWholeFile(path, std::string_view());
     return std::string();
   }
   const auto text = ReadTextFile(path);
@@ -197,49 +197,48 @@ std::optional<std::string> LoadNotes(const std::string& studentFolder) {
   return WithLineEnds(*text);
 }
 
-bool SaveNotes(const std::string& studentFolder, std::string_view notes, std::string* error) {
+Outcome SaveNotes(const std::string& studentFolder, std::string_view notes) {
   const std::string path = NotesPath(studentFolder);
-  if (!notes.empty()) return WriteWholeFile(path, std::string_view(WithLineEnds(notes)), error);
-  if (KillFile(path)) return true;
-  if (error) *error = "The file " + path + " cannot be deleted.";
-  return false;
+  if (!notes.empty()) return WriteWholeFile(path, std::string_view(WithLineEnds(notes)));
+  return KillFile(path) ? Outcome() : Outcome::Failed("The file " + path + " cannot be deleted.");
 }
 
 // ---------------------------------------------------------------- new entries
 
 namespace {
 
-/// Makes a folder that nobody else has: one that another workstation has just made is theirs. Gives why it
-/// could not, or nothing.
-std::optional<std::string> MakeNewFolder(const std::string& path) {
+/// Makes a folder that nobody else has: one that another workstation has just made is theirs.
+Outcome MakeNewFolder(const std::string& path) {
   std::error_code failed;
-  if (std::filesystem::create_directory(path, failed)) return std::nullopt;
-  return failed ? failed.message() : "it has just been made by somebody else";
+  if (std::filesystem::create_directory(path, failed)) return {};
+  return Outcome::Failed(failed ? failed.message() : "it has just been made by somebody else");
 }
 
 }  // namespace
 
-Outcome AddStudent(const std::string& instructorFolder, const FieldTexts& captions, const FieldTexts& values,
-                   std::string_view noun) {
+Result<std::string> AddStudent(const std::string& instructorFolder, const FieldTexts& captions,
+                               const FieldTexts& values, std::string_view noun) {
   const std::string& name = values[kNameField];
   const std::string person(noun);
-  if (IsBlank(name)) return {false, "You must enter a name for the new " + person + "."};
+  if (IsBlank(name)) return Outcome::Failed("You must enter a name for the new " + person + ".");
   const std::string folder = JoinPath(instructorFolder, name);
   if (HasFolderNamed(instructorFolder, name))
-    return {false, "The " + person + " name that you have chosen already exists on the system."};
-  if (!IsValidName(name)) return {false, "Invalid character in name."};
-  if (MakeNewFolder(folder) || !MakeProfile(folder, captions, values))
-    return {false, "An error has occurred while creating the profile"};
-  return {true, "New " + person + " successfully created."};
+    return Outcome::Failed("The " + person + " name that you have chosen already exists on the system.");
+  if (!IsValidName(name)) return Outcome::Failed("Invalid character in name.");
+  if (!MakeNewFolder(folder) || !MakeProfile(folder, captions, values))
+    return Outcome::Failed("An error has occurred while creating the profile");
+  return "New " + person + " successfully created.";
 }
 
-Outcome AddInstructor(const std::string& root, std::string_view name) {
-  if (!IsValidName(name)) return {false, "Invalid character in Name"};
-  if (IsBlank(name)) return {false, "You must type a name!"};
+Result<std::string> AddInstructor(const std::string& root, std::string_view name) {
+  if (!IsValidName(name)) return Outcome::Failed("Invalid character in Name");
+  if (IsBlank(name)) return Outcome::Failed("You must type a name!");
   const std::string folder = JoinPath(root, name);
-  if (SameName(name, kGeneralFolder) || HasFolderNamed(root, name)) return {false, std::string(name) + " already exists."};
-  if (const auto reason = MakeNewFolder(folder)) return {false, "The folder " + folder + " cannot be made: " + *reason + "."};
-  return {true, std::string(name) + " successfully added!"};
+  if (SameName(name, kGeneralFolder) || HasFolderNamed(root, name))
+    return Outcome::Failed(std::string(name) + " already exists.");
+  if (const Outcome made = MakeNewFolder(folder); !made)
+    return Outcome::Failed("The folder " + folder + " cannot be made: " + made.Why() + ".");
+  return std::string(name) + " successfully added!";
 }
 
 }  // namespace kinalyx

@@ -6,6 +6,8 @@
 #include <string_view>
 #include <utility>
 
+#include "platform/files/Result.h"
+
 namespace kinalyx {
 
 inline constexpr int kProfileFields = 20;
@@ -14,12 +16,6 @@ inline constexpr int kVideosOnFileField = 9;  ///< filled by the program
 inline constexpr int kMaxFieldText = 49;      ///< characters of a value or a caption
 
 using FieldTexts = std::array<std::string, kProfileFields>;
-
-/// What an operation tells the user.
-struct Outcome {
-  bool done = false;
-  std::string message;
-};
 
 /// The captions of the profile fields, the same for the whole workstation, kept in `fields.ini`. They are
 /// also the keys of every profile: renaming one makes its old values unreachable until it is named back.
@@ -76,8 +72,8 @@ bool SaveProfile(const std::string& studentFolder, const FieldTexts& captions, c
 std::optional<std::string> LoadNotes(const std::string& studentFolder);
 /// The lines of a text, each ended by CR LF, however they were ended before.
 std::string WithLineEnds(std::string_view text);
-/// Stores the notes; empty notes remove the file. False with the reason when the disk refuses.
-bool SaveNotes(const std::string& studentFolder, std::string_view notes, std::string* error = nullptr);
+/// Stores the notes; empty notes remove the file.
+Outcome SaveNotes(const std::string& studentFolder, std::string_view notes);
 
 /// The address in a student's profile; nothing when there is none.
 std::optional<std::string> GetEmailAddress(const std::string& studentFolder);
@@ -86,10 +82,12 @@ std::optional<std::string> GetEmailAddress(const std::string& studentFolder);
 
 /// Makes a student's folder and profile under an instructor's folder. The student's name is field 0.
 /// @param noun  `PrimaryName1`, as the messages use it
-Outcome AddStudent(const std::string& instructorFolder, const FieldTexts& captions, const FieldTexts& values,
-                   std::string_view noun);
+/// @return what to tell the user
+Result<std::string> AddStudent(const std::string& instructorFolder, const FieldTexts& captions,
+                               const FieldTexts& values, std::string_view noun);
 
 /// Makes the folder of an instructor or database under the library root.
-Outcome AddInstructor(const std::string& root, std::string_view name);
+/// @return what to tell the user
+Result<std::string> AddInstructor(const std::string& root, std::string_view name);
 
 }  // namespace kinalyx

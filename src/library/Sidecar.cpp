@@ -250,10 +250,8 @@ void PutFullNotes(Bytes& bytes, std::string_view text) {
   bytes.insert(bytes.end(), text.begin(), text.end());
 }
 
-Bytes BytesOf(const SlotData& data, std::string* error) {
+Bytes BytesOf(const SlotData& data) {
   const std::string_view text = FittingNotes(data.Notes);
-  if (error && text.size() < data.Notes.size())
-    *error = fmt::format("The notes are longer than {} characters. What follows was not saved.", kMaxNotes);
   const std::string notes = ToWindows1252(text);
   const bool shapes = !ShapesOf(data.Shapes).empty();
   Bytes bytes = Head(data.Wide, data.ReverseFields, data.SplitFields);
@@ -272,7 +270,7 @@ Bytes BytesOf(const SlotData& data, std::string* error) {
   return bytes;
 }
 
-bool WriteFlags(const std::string& path, bool wide, bool reverseFields, bool splitFields) {
+Outcome WriteFlags(const std::string& path, bool wide, bool reverseFields, bool splitFields) {
   Bytes bytes = Head(wide, reverseFields, splitFields);
   bytes.insert(bytes.end(), 4, 'X');
   return WriteWholeFile(path, bytes);
@@ -325,7 +323,7 @@ SlotData ReadVideoData(const std::string& path, const VideoInfo& video, std::spa
     case 'V': {
       SlotData data = ReadOldFormat(reader, video, toolColours);
       // When this cannot be written the old file stands, and is converted the next time.
-      if (!data.Unread) WriteVideoData(path, data);
+      if (!data.Unread) (void)WriteVideoData(path, data);
       return data;
     }
     default: {
@@ -336,33 +334,28 @@ SlotData ReadVideoData(const std::string& path, const VideoInfo& video, std::spa
   }
 }
 
-bool WriteVideoData(const std::string& path, const SlotData& data, std::string* error, IDisk& disk) {
-  if (error) error->clear();
-  std::string notice;
-  const Bytes bytes = BytesOf(data, &notice);
+Result<std::string> WriteVideoData(const std::string& path, const SlotData& data, IDisk& disk) {
   std::string old;
   if (data.Unread && FileExists(path)) {
     old = KeptPath(path);
-    if (disk.Rename(path, old) < 0) {
-      if (error) *error = std::strerror(errno);
-      return false;
-    }
+    if (disk.Rename(path, old) < 0) return Outcome::FailedBySystem(errno);
   }
-  if (!WriteWholeFile(path, bytes, error, disk)) {
+  if (Outcome written = WriteWholeFile(path, BytesOf(data), disk); !written) {
     if (!old.empty()) disk.Rename(old, path);
-    return false;
+    return written;
   }
-  if (!notice.empty() && !old.empty()) notice += fmt::format(" What was stored before is kept in {}.", old);
-  if (error) *error = notice;
-  return true;
+  if (FittingNotes(data.Notes).size() == data.Notes.size()) return std::string();
+  std::string notice = fmt::format("The notes are longer than {} characters. What follows was not saved.", kMaxNotes);
+  if (!old.empty()) notice += fmt::format(" What was stored before is kept in {}.", old);
+  return notice;
 }
 
-bool WriteCaptureVideoData(const std::string& path, bool fromCamera, bool wide, const Settings& settings) {
+Outcome WriteCaptureVideoData(const std::string& path, bool fromCamera, bool wide, const Settings& settings) {
   return fromCamera ? WriteFlags(path, wide, settings.ReverseFields, settings.SplitFields)
                     : WriteFlags(path, wide, settings.HDReverseFields, settings.HDSplitFields);
 }
 
-bool WriteImportedVideoData(const std::string& path, const VideoInfo& video, bool reverseFields) {
+Outcome WriteImportedVideoData(const std::string& path, const VideoInfo& video, bool reverseFields) {
   const bool wide = video.height > 0 && 2 * video.width > 3 * video.height;
   const bool dv = IsCompressor(video, "dvsd");
   return WriteFlags(path, wide, dv || reverseFields, dv);

@@ -66,19 +66,18 @@ SlotData DefaultVideoData(const VideoInfo& video);
 /// @param toolColours  colours for the drawings of an old file, by kind of shape: the settings' NewColors
 SlotData ReadVideoData(const std::string& path, const VideoInfo& video, std::span<const Colour> toolColours);
 
-/// Replaces the sidecar; the file is the old or the new one, whole, whatever happens. False when the
-/// disk refuses. `error` (may be null) gets the reason, or, with a result of true, what had to be left
-/// out (notes past kMaxNotes) and where the file before is kept; else it is emptied.
-bool WriteVideoData(const std::string& path, const SlotData& data, std::string* error = nullptr,
-                    IDisk& disk = RealDisk());
+/// Replaces the sidecar; the file is the old or the new one, whole, whatever happens.
+/// @return what the user must know of a save that has succeeded: what had to be left out (notes past kMaxNotes)
+///         and where the file before is kept; mostly empty
+Result<std::string> WriteVideoData(const std::string& path, const SlotData& data, IDisk& disk = RealDisk());
 
 /// The first sidecar of a video that has just been captured or saved: 8 bytes, flags alone. The fields
 /// come from the settings for camera captures, or, without `fromCamera`, for high definition imports.
-bool WriteCaptureVideoData(const std::string& path, bool fromCamera, bool wide, const Settings& settings);
+Outcome WriteCaptureVideoData(const std::string& path, bool fromCamera, bool wide, const Settings& settings);
 
 /// The first sidecar of an imported video, likewise 8 bytes. Wide when width / height is above 1.5;
 /// dvsd turns both field options on, any other video takes `reverseFields` as the user chose.
-bool WriteImportedVideoData(const std::string& path, const VideoInfo& video, bool reverseFields);
+Outcome WriteImportedVideoData(const std::string& path, const VideoInfo& video, bool reverseFields);
 
 /// What the browsers show of a sidecar: the two flag characters of its drawings and its notes.
 struct SidecarMarks {

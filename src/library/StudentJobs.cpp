@@ -26,10 +26,14 @@ bool StudentRemovalJob::Step() {
   if (hidden_.empty()) {
     RemoveDeadParts(FolderOf(folder_), disk_);
     hidden_ = PartNameBeside(folder_);
-    return RenameEntry(folder_, hidden_, &error_, disk_);
+    const Outcome hidden = RenameEntry(folder_, hidden_, disk_);
+    error_ = hidden.Why();
+    return static_cast<bool>(hidden);
   }
-  removed_ = RemoveTree(hidden_, &error_, disk_);
-  if (!removed_) RenameEntry(hidden_, folder_, nullptr, disk_);
+  const Outcome removal = RemoveTree(hidden_, disk_);
+  removed_ = static_cast<bool>(removal);
+  error_ = removal.Why();
+  if (!removed_) (void)RenameEntry(hidden_, folder_, disk_);
   return false;
 }
 

@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 #include <string_view>
+#include <utility>
 
 #include "platform/files/Folders.h"
 #include "platform/files/PartFiles.h"
@@ -26,7 +27,9 @@ int TrimRate(const VideoInfo* info) {
 bool TrimJob::Step() {
   if (!process_) {
     RemoveDeadParts(FolderOf(request_.destination));
-    process_ = ChildProcess::Start(program_, {FormatTrimCommand(request_)}, &error_);
+    auto started = ChildProcess::Start(program_, {FormatTrimCommand(request_)});
+    if (started) process_ = std::move(*started);
+    else error_ = started.Why();
     return process_ != nullptr;
   }
   const bool runs = process_->Poll(kPollMs, [this](std::string_view line) {

@@ -25,32 +25,30 @@ std::string NameOf(const LibraryVideo& video) { return VideoName(LastName(video.
 /// Removes a video, then its sidecar unless another video needs it; false when the video stays.
 bool RemoveVideo(const std::string& path, IDisk& disk) {
   const std::string sidecar = SharesSidecar(path) ? std::string() : ExistingSidecar(path);
-  if (!RemoveTree(path, nullptr, disk)) return false;
+  if (!RemoveTree(path, disk)) return false;
   // An old sidecar does no harm: it makes way for the next video of its name.
-  if (!sidecar.empty()) RemoveTree(sidecar, nullptr, disk);
+  if (!sidecar.empty()) (void)RemoveTree(sidecar, disk);
   return true;
 }
 
 /// Renames a video with its sidecar, which goes first and back again when its video cannot follow; one that a
-/// second video shares is copied. False, with the reason, when the two stand as before.
-bool RenameWithSidecar(const std::string& from, const std::string& to, std::string* error, IDisk& disk) {
+/// second video shares is copied. After a failure the two stand as before.
+Outcome RenameWithSidecar(const std::string& from, const std::string& to, IDisk& disk) {
   const std::string sidecar = ExistingSidecar(from);
-  if (sidecar.empty()) return RenameEntry(from, to, error, disk);
+  if (sidecar.empty()) return RenameEntry(from, to, disk);
   const std::string newSidecar = SidecarPath(to);
   if (SharesSidecar(from)) {
     CopyJob copy(CopyJob::Kind::Copy, {{{sidecar, newSidecar}}}, disk);
-    if (RunToEnd(copy) != CopyJob::State::Done) {
-      *error = copy.Error();
-      return false;
-    }
-    if (RenameEntry(from, to, error, disk)) return true;
-    RemoveTree(newSidecar, nullptr, disk);
-    return false;
+    if (RunToEnd(copy) != CopyJob::State::Done) return Outcome::Failed(copy.Error());
+    Outcome renamed = RenameEntry(from, to, disk);
+    if (!renamed) (void)RemoveTree(newSidecar, disk);
+    return renamed;
   }
-  if (!RenameEntry(sidecar, newSidecar, error, disk)) return false;
-  if (RenameEntry(from, to, error, disk)) return true;
-  RenameEntry(newSidecar, sidecar, nullptr, disk);
-  return false;
+  Outcome renamed = RenameEntry(sidecar, newSidecar, disk);
+  if (!renamed) return renamed;
+  renamed = RenameEntry(from, to, disk);
+  if (!renamed) (void)RenameEntry(newSidecar, sidecar, disk);
+  return renamed;
 }
 
 /// True when another video in its folder has the name, or the video itself. Its own name in another case is
@@ -143,10 +141,10 @@ OperationResult LibraryOperations::RenameVideo(const LibraryVideo& video, std::s
   if (IsTakenBeside(video.path, name)) return Refuse(taken);
   // Where only the case of a name changes, the disk may take the old sidecar for the new one.
   if (!SetAsideOrphan(folder, name, disk_) && !SamePlace(ExistingSidecar(video.path), SidecarPath(to))) return Refuse(taken);
-  if (std::string error; !RenameWithSidecar(video.path, to, &error, disk_)) {
+  if (const Outcome renamed = RenameWithSidecar(video.path, to, disk_); !renamed) {
     if (EntryExists(to) || EntryExists(SidecarPath(to))) return Refuse(taken);
     const std::string text = "The video could not be renamed";
-    return EntryExists(video.path) ? Refuse(text + ": " + error) : RefuseGone(text);
+    return EntryExists(video.path) ? Refuse(text + ": " + renamed.Why()) : RefuseGone(text);
   }
   return {true, "Video renamed successfully.", true, video.instructor, video.student, std::string(name)};
 }

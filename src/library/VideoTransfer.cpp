@@ -56,7 +56,7 @@ bool SetAsideOrphan(const std::string& folder, std::string_view name, IDisk& dis
   for (;;) {
     const std::string orphan = SidecarPath(JoinPath(folder, std::string(name) + ".avi"));
     if (!EntryExists(orphan)) return true;
-    if (HasVideoNamed(folder, name) || !RenameEntry(orphan, KeptPath(orphan), nullptr, disk)) return false;
+    if (HasVideoNamed(folder, name) || !RenameEntry(orphan, KeptPath(orphan), disk)) return false;
   }
 }
 

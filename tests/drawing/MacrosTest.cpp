@@ -114,9 +114,8 @@ TEST_F(MacrosTest, AnUnwritableProgramFolderGivesWayToTheUsersOwn) {
   disk.guarded = app_;
   EXPECT_TRUE(macros.CreateMacro("Mine", list_));
   EXPECT_TRUE(fs::exists(own));
-  std::string error;
-  EXPECT_FALSE(macros.KillMacro(0, &error));
-  EXPECT_NE(error.find(file_.string()), std::string::npos) << error;
+  const Outcome refused = macros.KillMacro(0);
+  EXPECT_NE(refused.Why().find(file_.string()), std::string::npos) << refused.Why();
 
   // The shared one can be written again: both are shown, and each keeps to itself.
   disk.guarded.clear();
@@ -136,7 +135,7 @@ TEST_F(MacrosTest, AnUnwritableProgramFolderGivesWayToTheUsersOwn) {
   EXPECT_EQ(again.MacroNames(), std::vector<std::string>{"Everybody's too"});
 
   disk.guarded = root_.Path();
-  EXPECT_FALSE(again.CreateMacro("Lost", list_, &error));
+  EXPECT_FALSE(again.CreateMacro("Lost", list_));
   EXPECT_EQ(again.NumMacros(), 1) << "what is not on the disk is not in the list";
   Macros one(app_, app_);
   one.LoadMList({});
@@ -199,9 +198,7 @@ TEST_F(MacrosTest, TheFileStaysShortEnoughToBeRead) {
   ShapeList large;
   for (int i = 0; i < 300; ++i) Add(large, Finished(kLine, {{i, i}, {i + 9, i}}));
   EXPECT_TRUE(macros.CreateMacro("First", large));
-  std::string error;
-  EXPECT_FALSE(macros.CreateMacro("Second", large, &error));
-  EXPECT_NE(error.find("32767"), std::string::npos);
+  EXPECT_NE(macros.CreateMacro("Second", large).Why().find("32767"), std::string::npos);
   EXPECT_EQ(macros.NumMacros(), 1);
   EXPECT_LE(fs::file_size(file_), kShapeFileLimit);
 

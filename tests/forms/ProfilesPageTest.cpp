@@ -267,10 +267,10 @@ TEST_F(ProfilesPageTest, NotesAreAPrintoutOfTheStudent) {
   EXPECT_EQ(printer.printed[0].title + "|" + printer.printed[0].subtitle + "|" + printer.printed[0].text,
             "Tom|Student Notes|Grip\nschwächer");
   EXPECT_EQ(Text("SPDisplay"), "The notes were printed.");
-  printer.answer = {PrintResult::Kind::Cancelled, ""};
+  printer.answer = {Fault::Cancelled, ""};
   Press("ProBtn2");
   EXPECT_EQ(Text("SPDisplay"), "The notes were not printed.");
-  printer.answer = {PrintResult::Kind::Failed, "No paper."};
+  printer.answer = {Fault::Failed, "No paper."};
   Press("ProBtn2");
   EXPECT_EQ(library.host.messages.back(), "The notes were not printed. No paper.");
 }
@@ -365,7 +365,7 @@ TEST_F(ProfilesPageTest, AProfileIsEdited) {
   Press("ProBtn1");
   EXPECT_EQ(Text("SPDisplay"), "You must select a student first.");
   ChooseStudent("Tom");
-  fields.SetCaption(6, "Handicap");
+  ASSERT_TRUE(fields.SetCaption(6, "Handicap"));
   page->SetupFields();
   EXPECT_NE(Text("ProInfoLbl6"), "");  // the path of the file, until saved again
   Press("ProBtn1");
@@ -379,8 +379,7 @@ TEST_F(ProfilesPageTest, AProfileIsEdited) {
   // Renamed under the open editor: what has been typed goes under the new name, what has not stays where it is.
   Press("ProBtn1");
   Type("ProInfoBox7", "180");
-  fields.SetCaption(6, "Age");
-  fields.SetCaption(7, "Size");
+  ASSERT_TRUE(fields.SetCaption(6, "Age") && fields.SetCaption(7, "Size"));
   page->SetupFields();
   EXPECT_EQ(Find<QLineEdit>("ProInfoBox6")->text(), "");
   EXPECT_EQ(Find<QLineEdit>("ProInfoBox7")->text(), "180");

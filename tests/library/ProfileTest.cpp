@@ -35,11 +35,11 @@ class ProfileTest : public ::testing::Test {
 TEST_F(ProfileTest, FieldCaptionsAreMadeOnceAndFieldZeroStaysName) {
   EXPECT_EQ(fields.Caption(0), "Name");
   EXPECT_EQ(fields.Caption(19), "Physical Restrictions");
-  EXPECT_TRUE(fields.SetCaption(6, "Handicap = now").done);
-  EXPECT_TRUE(fields.SetCaption(0, "Somebody").done);
-  EXPECT_TRUE(fields.SetCaption(7, std::string(60, 'x')).done);
-  EXPECT_TRUE(fields.SetCaption(8, "  ").done);
-  EXPECT_FALSE(fields.SetCaption(5, "handicap  now").done);
+  EXPECT_TRUE(fields.SetCaption(6, "Handicap = now"));
+  EXPECT_TRUE(fields.SetCaption(0, "Somebody"));
+  EXPECT_TRUE(fields.SetCaption(7, std::string(60, 'x')));
+  EXPECT_TRUE(fields.SetCaption(8, "  "));
+  EXPECT_FALSE(fields.SetCaption(5, "handicap  now"));
   ReadFields();
   EXPECT_EQ(fields.Caption(0), "Name");
   EXPECT_EQ(fields.Caption(5), "Years in Sport");
@@ -85,7 +85,7 @@ TEST_F(ProfileTest, OldProfilesKeepTheirNameUnderItsPresentKey) {
 TEST_F(ProfileTest, ARenamedFieldShowsTheFilesPathUntilSavedAgain) {
   values[6] = "31";
   ASSERT_TRUE(Save(values));
-  fields.SetCaption(6, "Handicap");
+  ASSERT_TRUE(fields.SetCaption(6, "Handicap"));
   const Profile renamed = Open();
   EXPECT_EQ(renamed.values[6], (student + "/profile.prf").substr(0, 49));
   EXPECT_TRUE(renamed.missing[6]);
@@ -93,7 +93,7 @@ TEST_F(ProfileTest, ARenamedFieldShowsTheFilesPathUntilSavedAgain) {
   values[6] = "12";
   ASSERT_TRUE(Save(values));
   EXPECT_EQ(Open().values[6], "12");
-  fields.SetCaption(6, "Age");
+  ASSERT_TRUE(fields.SetCaption(6, "Age"));
   EXPECT_EQ(Open().values[6], "31");
 }
 
@@ -128,22 +128,21 @@ TEST_F(ProfileTest, TwoWorkstationsKeepEachOthersFieldsAndLines) {
   test::FakeNotesEvents events;
   events.reach = [&](const std::string&) { return reached; };
   NotesKeeper notes(events);
-  std::string error;
   EXPECT_EQ(notes.Open(student), "grip\r\nhips\r\n");
   ASSERT_TRUE(SaveNotes(student, "grip\r\nhips\r\nfrom the other desk\r\n"));
-  EXPECT_TRUE(notes.Keep(std::nullopt, &error));
+  EXPECT_TRUE(notes.Keep(std::nullopt));
   EXPECT_EQ(notes.Text(), "grip\r\nhips\r\n") << "who only looks writes nothing";
-  EXPECT_TRUE(notes.Keep("weak grip\nhips\n", &error)) << error;
+  EXPECT_TRUE(notes.Keep("weak grip\nhips\n"));
   EXPECT_EQ(File("profile.txt"), "weak grip\r\nhips\r\nfrom the other desk\r\n");
   EXPECT_EQ(notes.Text(), File("profile.txt"));
 
   // While the drive is silent the other desk goes on, and so does this one.
   reached = false;
-  EXPECT_FALSE(notes.Keep("weak grip\nhips\nfrom the other desk\nmine\n", &error));
+  EXPECT_FALSE(notes.Keep("weak grip\nhips\nfrom the other desk\nmine\n"));
   ASSERT_TRUE(SaveNotes(student, "first\r\n" + File("profile.txt")));
-  EXPECT_FALSE(notes.Keep("weak grip\nhips\nfrom the other desk\nmine\nmore\n", &error));
+  EXPECT_FALSE(notes.Keep("weak grip\nhips\nfrom the other desk\nmine\nmore\n"));
   reached = true;
-  EXPECT_TRUE(notes.Keep(std::nullopt, &error));
+  EXPECT_TRUE(notes.Keep(std::nullopt));
   EXPECT_EQ(File("profile.txt"), "first\r\nweak grip\r\nhips\r\nfrom the other desk\r\nmine\r\nmore\r\n");
   EXPECT_EQ(notes.Text(), File("profile.txt"));
 }
@@ -155,7 +154,7 @@ TEST_F(ProfileTest, AHandEditedListOfFieldsDoesNoHarm) {
   EXPECT_EQ(fields.Caption(2), "");
   values[0] = "Tom";
   for (const int field : {1, 3, 5}) values[static_cast<std::size_t>(field)] = "value";
-  ASSERT_TRUE(AddStudent(library.Path("Demo"), fields.Captions(), values, "student").done);
+  ASSERT_TRUE(AddStudent(library.Path("Demo"), fields.Captions(), values, "student"));
   student = library.Path("Demo/Tom");
   const Profile profile = Open();
   EXPECT_EQ(profile.values[1], "value");
@@ -164,11 +163,14 @@ TEST_F(ProfileTest, AHandEditedListOfFieldsDoesNoHarm) {
   EXPECT_EQ(profile.values[5], "value") << "a field that is called like the marker at the end of a profile";
 }
 
+/// What the user is told.
+std::string Words(const Result<std::string>& added) { return added ? *added : added.Why(); }
+
 TEST_F(ProfileTest, NewNamesAreCheckedInOrder) {
   values[3] = "555";
   const auto addStudent = [&](const std::string& name) {
     values[0] = name;
-    return AddStudent(library.Path("Demo"), fields.Captions(), values, "golfer").message;
+    return Words(AddStudent(library.Path("Demo"), fields.Captions(), values, "golfer"));
   };
   EXPECT_EQ(addStudent("  "), "You must enter a name for the new golfer.");
   EXPECT_EQ(addStudent("Sample, Erica"), "The golfer name that you have chosen already exists on the system.");
@@ -183,10 +185,10 @@ TEST_F(ProfileTest, NewNamesAreCheckedInOrder) {
       {"", "Invalid character in Name"},      {"50%", "Invalid character in Name"},
       {"   ", "You must type a name!"},       {"Anna", "Anna successfully added!"},
       {"Anna", "Anna already exists."},       {"General Folder", "General Folder already exists."}};
-  for (const auto& [name, words] : instructors) EXPECT_EQ(AddInstructor(library.Root(), name).message, words);
+  for (const auto& [name, words] : instructors) EXPECT_EQ(Words(AddInstructor(library.Root(), name)), words);
   EXPECT_TRUE(std::filesystem::is_directory(library.Path("Anna")));
   const std::string file = library.File("no folder");
-  EXPECT_EQ(AddInstructor(file, "Ben").message, "The folder " + file + "/Ben cannot be made: Not a directory.");
+  EXPECT_EQ(AddInstructor(file, "Ben").Why(), "The folder " + file + "/Ben cannot be made: Not a directory.");
 }
 
 TEST_F(ProfileTest, NotesComeBackAsTheyWereAndEmptyOnesLeaveNoFile) {
@@ -210,34 +212,32 @@ TEST_F(ProfileTest, NotesComeBackAsTheyWereAndEmptyOnesLeaveNoFile) {
 TEST_F(ProfileTest, NotesThatCannotBeSavedWaitInMemory) {
   test::FakeNotesEvents events;
   NotesKeeper notes(events);
-  std::string error;
   EXPECT_EQ(notes.Open(student), "");
-  EXPECT_TRUE(notes.Keep("first\n", &error));
+  EXPECT_TRUE(notes.Keep("first\n"));
   EXPECT_EQ(File("profile.txt"), "first\r\n");
 
   // A folder stands where the file should go: no save can succeed.
   std::filesystem::remove(student + "/profile.txt");
   std::filesystem::create_directories(student + "/profile.txt/x");
-  EXPECT_FALSE(notes.Keep("second\n", &error));
-  EXPECT_FALSE(error.empty());
+  EXPECT_NE(notes.Keep("second\n").Why(), "");
   const std::string other = library.Folder("Demo/Tom");
   EXPECT_EQ(notes.Open(other), "");
-  EXPECT_FALSE(notes.Keep("Tom's", &error));
+  EXPECT_FALSE(notes.Keep("Tom's"));
   EXPECT_EQ(TempLibrary::Read(other + "/profile.txt"), "Tom's\r\n");
   EXPECT_EQ(notes.Open(student), "second\r\n");
-  EXPECT_TRUE(notes.Keep("", &error));  // taken back: nothing waits any more
-  EXPECT_FALSE(notes.Keep("second\n", &error));
+  EXPECT_TRUE(notes.Keep(""));  // taken back: nothing waits any more
+  EXPECT_FALSE(notes.Keep("second\n"));
   EXPECT_TRUE(notes.OpenIsUnsaved());
 
   std::filesystem::remove_all(student + "/profile.txt");
-  EXPECT_TRUE(notes.Keep("second\n", &error));
+  EXPECT_TRUE(notes.Keep("second\n"));
   EXPECT_FALSE(notes.OpenIsUnsaved());
   EXPECT_EQ(File("profile.txt"), "second\r\n");
 
   // Somebody else renames the student: nothing is brought back under the old name, and the words are told.
   std::filesystem::rename(student, library.Path("Demo/Renamed"));
-  EXPECT_TRUE(notes.Keep("third", &error));
-  EXPECT_TRUE(notes.Keep("third", &error));
+  EXPECT_TRUE(notes.Keep("third"));
+  EXPECT_TRUE(notes.Keep("third"));
   EXPECT_EQ(events.lost, "Sample, Erica: third\r\n");
   EXPECT_FALSE(std::filesystem::exists(student));
 }

@@ -57,8 +57,8 @@ TEST(SidecarLoss, SurvivesTwoHundredKilledSaves) {
     ASSERT_GE(child, 0);
     if (child == 0) {
       for (;;) {
-        WriteVideoData(path, after);
-        WriteVideoData(path, before);
+        (void)WriteVideoData(path, after);
+        (void)WriteVideoData(path, before);
       }
     }
     usleep(std::uniform_int_distribution<unsigned>(0, 8000)(random));

@@ -50,9 +50,8 @@ class SidecarTest : public ::testing::Test {
     return ReadVideoData(path, video, kToolColours);
   }
   std::string Written(const SlotData& data) {
-    std::string error = "left from before";
-    EXPECT_TRUE(WriteVideoData(path, data, &error));
-    EXPECT_EQ(error, "");
+    const auto written = WriteVideoData(path, data);
+    EXPECT_TRUE(written && written->empty());
     return TempLibrary::Read(path);
   }
 
@@ -193,19 +192,21 @@ TEST_F(SidecarTest, NotesInAnyLettersComeBackAndOtherProgramsReadWhatTheyCan) {
 TEST_F(SidecarTest, LongNotesAndLargeWindowsNeverBreakTheFile) {
   SlotData data;
   data.CValue = 1.25f;  // stands behind the notes
-  std::string error;
+  std::string notice;
   const auto back = [&] {
-    EXPECT_TRUE(WriteVideoData(path, data, &error));
+    const auto written = WriteVideoData(path, data);
+    EXPECT_TRUE(written);
+    notice = *written;
     const SlotData read = ReadVideoData(path, {}, kToolColours);
     EXPECT_EQ(read.CValue, 1.25f);
     return read;
   };
   for (int i = 0; i < 5461; ++i) data.Notes += "F\u00FC\u03BBe\r\n";
   EXPECT_EQ(back().Notes, data.Notes);
-  EXPECT_EQ(error, "");
+  EXPECT_EQ(notice, "");
   data.Notes = std::string(kMaxNotes - 1, 'x') + "\r\nlost";
   EXPECT_EQ(back().Notes, std::string(kMaxNotes - 1, 'x'));
-  EXPECT_NE(error, "");
+  EXPECT_NE(notice, "");
   // Longer ones were written once; they are there, and kept when something else takes their place.
   const SlotData longer = Read("1XXXXNXX" + kReserved + Int16(40000) + std::string(40000, 'y'));
   EXPECT_EQ(longer.Notes.size(), 40000u);
@@ -231,19 +232,17 @@ TEST_F(SidecarTest, ASaveThatFailsLeavesTheOldFileAndTellsWhy) {
     }
   } disk;
   library.File("x.ved", "1WRSXXXX");
-  std::string error;
-  EXPECT_FALSE(WriteVideoData(path, {}, &error, disk));
-  EXPECT_NE(error, "");
+  EXPECT_NE(WriteVideoData(path, {}, disk).Why(), "");
   EXPECT_EQ(TempLibrary::Read(path), "1WRSXXXX");
-  EXPECT_FALSE(WriteVideoData("/nowhere/x.ved", {}, &error));
+  EXPECT_FALSE(WriteVideoData("/nowhere/x.ved", {}));
 
   // What nobody could read makes way for a save that succeeds, and takes the place of nothing.
   SlotData unread = Read("2 of another program");
   ASSERT_TRUE(unread.Unread);
-  EXPECT_FALSE(WriteVideoData(path, unread, &error, disk));
+  EXPECT_FALSE(WriteVideoData(path, unread, disk));
   EXPECT_EQ(TempLibrary::Read(path), "2 of another program");
   library.File("x.ved.old", "drawings of long ago");
-  EXPECT_TRUE(WriteVideoData(path, unread, &error));
+  EXPECT_TRUE(WriteVideoData(path, unread));
   EXPECT_EQ(TempLibrary::Read(path + ".old"), "drawings of long ago");
   EXPECT_EQ(TempLibrary::Read(path + ".old2"), "2 of another program");
 }

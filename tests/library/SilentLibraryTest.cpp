@@ -107,16 +107,14 @@ TEST_F(SilentLibraryTest, NotesWaitUntilTheDriveAnswers) {
   NotesKeeper notes(events);
   EXPECT_EQ(notes.Open(tom), "old\r\n");
   host.drivesHang = true;
-  std::string error;
-  EXPECT_TRUE(notes.Keep("old\n", &error)) << "what has not changed asks nothing of the drive";
-  EXPECT_FALSE(notes.Keep("new\n", &error));
-  EXPECT_EQ(error, "the drive is not answering");
+  EXPECT_TRUE(notes.Keep("old\n")) << "what has not changed asks nothing of the drive";
+  EXPECT_EQ(notes.Keep("new\n").Why(), "the drive is not answering");
   notes.Open(library.Path("Demo/Ann"));
   EXPECT_FALSE(notes.Readable()) << "nothing is typed over notes that nobody has seen";
 
   host.DrivesAnswer();
   EXPECT_EQ(notes.Open(tom), "new\r\n");
-  EXPECT_TRUE(notes.Keep("new\n", &error));
+  EXPECT_TRUE(notes.Keep("new\n"));
   EXPECT_EQ(TempLibrary::Read(tom + "/profile.txt"), "new\r\n");
 }
 

@@ -9,10 +9,10 @@ namespace kinalyx::test {
 /// A printer that keeps what it is given, and answers what it is told.
 class TestPrinter final : public IPrinter {
  public:
-  PrintResult answer;
+  Outcome answer;
   std::vector<PrintedText> printed;
 
-  PrintResult Print(const PrintedText& text) override {
+  Outcome Print(const PrintedText& text) override {
     printed.push_back(text);
     return answer;
   }

@@ -91,14 +91,14 @@ std::string MakeTestVideo(const TestVideo& video) {
   if (const auto made = TheCache().made.find(name); made != TheCache().made.end()) return made->second;
 
   const std::string path = TestPath(name);
-  auto writer = VideoWriter::Create(path, f, nullptr);
+  auto writer = VideoWriter::Create(path, f);
   if (!writer) return {};
   std::vector<std::uint8_t> pixels;
   for (int number = 0; number < video.frames; ++number) {
     PaintTestPicture(video, number, pixels);
-    if (!writer->Write({pixels.data(), f.width, f.height, f.width * 4, 32, false})) return {};
+    if (!(*writer)->Write({pixels.data(), f.width, f.height, f.width * 4, 32, false})) return {};
   }
-  if (!writer->Close()) return {};
+  if (!(*writer)->Close()) return {};
   TheCache().made[name] = path;
   return path;
 }

@@ -117,14 +117,14 @@ std::string WalkingBar() {
   format.width = 200;
   format.height = 60;
   const std::string path = TestPath("bar.avi");
-  auto writer = VideoWriter::Create(path, format, nullptr);
+  auto writer = VideoWriter::Create(path, format);
   for (int n = 0; n < 20; ++n) {
     vector<std::uint8_t> rows(200 * 60 * 3, 40);
     for (int y = 0; y < 60; ++y)
       std::fill_n(rows.begin() + (y * 200 + n * 8 + 4) * 3, 8 * 3, std::uint8_t{240});
-    writer->Write({rows.data(), 200, 60, 600, 24, false});
+    (*writer)->Write({rows.data(), 200, 60, 600, 24, false});
   }
-  writer->Close();
+  (*writer)->Close();
   return path;
 }
 

@@ -50,10 +50,10 @@ int main(int count, char** arguments) {
     }
     return !stopped;
   };
-  const kinalyx::TrimResult result = kinalyx::TrimVideo(*request, progress);
-  if (result.cancelled) return kCancelled;
-  if (!result.done) {
-    std::fprintf(stderr, "%s\n", result.message.c_str());
+  const auto cut = kinalyx::TrimVideo(*request, progress);
+  if (cut.Kind() == kinalyx::Fault::Cancelled) return kCancelled;
+  if (!cut) {
+    std::fprintf(stderr, "%s\n", cut.Why().c_str());
     return kFailed;
   }
   return kDone;

@@ -68,16 +68,15 @@ std::string MakeFolders(const std::vector<DemoInstructor>& plan, const std::stri
     shots.push_back({&video, JoinPath(folder, video.name + ".avi"), owner + ", " + video.name});
   };
   for (const DemoInstructor& instructor : plan) {
-    if (const Outcome made = AddInstructor(root, instructor.name); !made.done) return made.message;
+    if (const auto made = AddInstructor(root, instructor.name); !made) return made.Why();
     const std::string folder = JoinPath(root, instructor.name);
     for (const DemoVideo& video : instructor.videos) film(video, folder, instructor.name);
     for (const DemoStudent& student : instructor.students) {
       const std::string& name = student.profile[kNameField];
-      if (const Outcome made = AddStudent(folder, fields.Captions(), student.profile, "student"); !made.done)
-        return made.message;
+      if (const auto made = AddStudent(folder, fields.Captions(), student.profile, "student"); !made)
+        return made.Why();
       const std::string home = JoinPath(folder, name);
-      std::string error;
-      if (!SaveNotes(home, student.notes, &error)) return error;
+      if (const Outcome saved = SaveNotes(home, student.notes); !saved) return saved.Why();
       for (const DemoVideo& video : student.videos) film(video, home, name);
     }
   }

@@ -62,7 +62,7 @@ bool WriteNotes(const DemoVideo& video, const std::string& path) {
   SlotData data;
   data.Notes = video.notes;
   data.SplitFields = data.ReverseFields = video.format == DemoFormat::DvInterlaced;
-  return WriteVideoData(SidecarPath(path), data);
+  return static_cast<bool>(WriteVideoData(SidecarPath(path), data));
 }
 
 }  // namespace
@@ -72,9 +72,8 @@ std::string MakeVideo(const DemoVideo& video, const std::string& path, const std
   const bool interlaced = video.format == DemoFormat::DvInterlaced;
   // Digital video tape has 720 pixels where a 4:3 picture of square ones would have 640.
   const double stretch = interlaced ? 720.0 / 640 : 1;
-  std::string error;
-  const std::unique_ptr<VideoWriter> writer = VideoWriter::Create(path, format, &error);
-  if (!writer) return error;
+  const auto writer = VideoWriter::Create(path, format);
+  if (!writer) return writer.Why();
 
   SwingMovie movie(video.style, video.view, format.width, format.height, stretch, video.place);
   const double frameTime = static_cast<double>(format.scale) / format.rate;
@@ -85,9 +84,9 @@ std::string MakeVideo(const DemoVideo& video, const std::string& path, const std
     const double time = frame * frameTime - kBefore;
     if (time > end) break;
     const Surface& picture = interlaced ? InterlacedAt(movie, time, frameTime / 2, woven) : movie.At(time);
-    if (!writer->Write(RowsOf(picture))) return "The disk is full or refuses a video.";
+    if (!(*writer)->Write(RowsOf(picture))) return "The disk is full or refuses a video.";
   }
-  if (!writer->Close()) return "The disk is full or refuses a video.";
+  if (!(*writer)->Close()) return "The disk is full or refuses a video.";
   return WriteNotes(video, path) ? "" : "The disk is full or refuses the notes of a video.";
 }
 

@@ -43,8 +43,8 @@ void FieldsEditor::Store(int field) {
   if (Std(box.text()) == fields_.Caption(field)) return;
   const Outcome stored = fields_.SetCaption(field, Std(box.text()));
   box.setText(Q(fields_.Caption(field)));
-  if (!stored.done) {
-    host_.Message(MessageKind::Warning, "Profile Fields", stored.message);
+  if (!stored) {
+    host_.Message(MessageKind::Warning, "Profile Fields", stored.Why());
     return;
   }
   emit FieldsChanged();

@@ -128,12 +128,12 @@ void ProfilePanel::PrintNotes() {
     emit Said("There are no notes to print.");
     return;
   }
-  const PrintResult result = printer_.Print(
+  const Outcome printed = printer_.Print(
       {LastName(notes_.StudentFolder()), vocabulary_.Notes(), notes, settings_.CompanyName});
-  if (result.kind == PrintResult::Kind::Failed)
-    host_.Message(MessageKind::Warning, vocabulary_.Notes(), "The notes were not printed. " + result.reason);
+  if (printed.Kind() == Fault::Failed)
+    host_.Message(MessageKind::Warning, vocabulary_.Notes(), "The notes were not printed. " + printed.Why());
   else
-    emit Said(result.kind == PrintResult::Kind::Printed ? "The notes were printed." : "The notes were not printed.");
+    emit Said(printed ? "The notes were printed." : "The notes were not printed.");
 }
 
 void ProfilePanel::OpenStudent(const std::string& studentFolder) {
@@ -151,11 +151,11 @@ void ProfilePanel::OpenStudent(const std::string& studentFolder) {
 bool ProfilePanel::SaveNotes() {
   telling_.Stop();
   rest_.Stop();
-  std::string reason;
-  if (KeepNotes(&reason)) return true;
-  const std::string text = NotSaved(reason);
-  const bool told = Told(reason);
-  toldReason_ = reason;
+  const Outcome kept = KeepNotes();
+  if (kept) return true;
+  const std::string text = NotSaved(kept.Why());
+  const bool told = Told(kept.Why());
+  toldReason_ = kept.Why();
   toldNotes_ = notes_.Unsaved();
   emit Said(Q(text));
   if (!told) host_.Message(MessageKind::Warning, Std(notesTitle_->text()), text);
@@ -163,11 +163,11 @@ bool ProfilePanel::SaveNotes() {
 }
 
 bool ProfilePanel::LeaveNotes() {
-  std::string reason;
-  if (KeepNotes(&reason)) return true;
+  const Outcome kept = KeepNotes();
+  if (kept) return true;
   // A box that opens under a pressed mouse button leaves the list dragging.
   telling_ = HostTimer(host_, 0, false, [this] { SaveNotes(); });
-  return Told(reason) || !notes_.OpenIsUnsaved();
+  return Told(kept.Why()) || !notes_.OpenIsUnsaved();
 }
 
 /// The user knows that these notes could not be stored, and why.
@@ -213,12 +213,12 @@ void ProfilePanel::ShowNotes(const std::string& text) {
 }
 
 /// What nobody has typed in is not looked at: the editor need not give back what it was given.
-bool ProfilePanel::KeepNotes(std::string* reason) {
+Outcome ProfilePanel::KeepNotes() {
   rest_.Stop();
   std::optional<std::string> typed;
   if (std::exchange(typed_, false)) typed = TypedNotes();
   const std::string shown = typed ? WithLineEnds(*typed) : notes_.Text();
-  const bool kept = notes_.Keep(typed, reason);
+  Outcome kept = notes_.Keep(typed);
   if (notes_.Text() != shown) ShowNotes(notes_.Text());  // what somebody else has written
   if (kept) toldNotes_.clear();
   return kept;
@@ -228,10 +228,9 @@ bool ProfilePanel::KeepNotes(std::string* reason) {
 /// tried again when they are left.
 void ProfilePanel::KeepTypedNotes() {
   resting_ = true;
-  std::string reason;
-  const bool kept = KeepNotes(&reason);
+  const Outcome kept = KeepNotes();
   resting_ = false;
-  if (!kept) emit Said(Q(NotSaved(reason)));
+  if (!kept) emit Said(Q(NotSaved(kept.Why())));
 }
 
 bool ProfilePanel::CanReachNotes(const std::string& folder) {

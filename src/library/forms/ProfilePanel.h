@@ -57,7 +57,7 @@ class ProfilePanel : public Panel, private INotesEvents {
   std::string TypedNotes() const;
   void ShowNotes(const std::string& text);
   void PrintNotes();
-  bool KeepNotes(std::string* reason);
+  Outcome KeepNotes();
   bool Told(const std::string& reason) const;
   void KeepTypedNotes();
 

@@ -402,7 +402,7 @@ void CopyJob::RollBack() {
       // What cannot be renamed back is whole in its new place and stays there.
       if (disk_.RenameNew(entry->to, entry->staged) < 0) continue;
     }
-    if (!entry->byRename && begun_) RemoveTree(entry->staged, nullptr, disk_);
+    if (!entry->byRename && begun_) (void)RemoveTree(entry->staged, disk_);  // else it goes with the dead parts
   }
   for (auto folder = madeFolders_.rbegin(); folder != madeFolders_.rend(); ++folder) disk_.RemoveFolder(*folder);
   madeFolders_.clear();
@@ -451,29 +451,25 @@ bool RemoveBelow(const std::string& path, int depth, int& reason, IDisk& disk) {
 
 }  // namespace
 
-bool RemoveTree(const std::string& path, std::string* error, IDisk& disk) {
+Outcome RemoveTree(const std::string& path, IDisk& disk) {
   int reason = 0;
-  if (RemoveBelow(path, 0, reason, disk)) return true;
-  if (error) *error = std::strerror(reason);
-  return false;
+  if (RemoveBelow(path, 0, reason, disk)) return {};
+  return Outcome::FailedBySystem(reason);
 }
 
-bool RenameEntry(const std::string& from, const std::string& to, std::string* error, IDisk& disk) {
-  const auto refuse = [error](int reason) {
-    if (error) *error = std::strerror(reason);
-    return false;
-  };
-  if (from == to) return true;
+Outcome RenameEntry(const std::string& from, const std::string& to, IDisk& disk) {
+  const auto refuse = [](int reason) { return Outcome::FailedBySystem(reason); };
+  if (from == to) return {};
   struct stat old {};
   struct stat taken {};
   if (::lstat(from.c_str(), &old) != 0) return refuse(errno);
-  if (::lstat(to.c_str(), &taken) != 0) return disk.RenameNew(from, to) < 0 ? refuse(errno) : true;
+  if (::lstat(to.c_str(), &taken) != 0) return disk.RenameNew(from, to) < 0 ? refuse(errno) : Outcome();
   if (!SameEntry(old, taken) || FoldCase(from) != FoldCase(to)) return refuse(EEXIST);
   // The disk takes both for one name, unless they are two links to one file. Over a third name the new
   // spelling is taken by every disk. For that moment it is all there is, and no part that might be swept up.
   const std::string between = PartNameBeside(from) + ".renamed";
   if (disk.RenameNew(from, between) < 0) return refuse(errno);
-  if (disk.RenameNew(between, to) >= 0) return true;
+  if (disk.RenameNew(between, to) >= 0) return {};
   const int reason = errno;
   disk.RenameNew(between, from);
   return refuse(reason);

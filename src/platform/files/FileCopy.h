@@ -11,6 +11,7 @@
 
 #include "platform/files/Disk.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Result.h"
 
 namespace kinalyx {
 
@@ -136,12 +137,11 @@ class CopyJob {
 CopyJob::State RunToEnd(CopyJob& job);
 
 /// Removes a file or a folder with all that is in it. Links are removed, never followed. On failure as
-/// much as possible is gone; false, with the first reason in `error` (may be null).
-bool RemoveTree(const std::string& path, std::string* error = nullptr, IDisk& disk = RealDisk());
+/// much as possible is gone, and the first reason is told.
+Outcome RemoveTree(const std::string& path, IDisk& disk = RealDisk());
 
 /// Gives a file or folder another name, which must be free; within one file system. Names that differ in
 /// case alone are no obstacle on a disk that does not tell them apart.
-bool RenameEntry(const std::string& from, const std::string& to, std::string* error = nullptr,
-                 IDisk& disk = RealDisk());
+Outcome RenameEntry(const std::string& from, const std::string& to, IDisk& disk = RealDisk());
 
 }  // namespace kinalyx

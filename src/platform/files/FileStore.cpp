@@ -1,7 +1,6 @@
 #include "platform/files/FileStore.h"
 
 #include <cerrno>
-#include <cstring>
 #include <filesystem>
 #include <system_error>
 
@@ -45,11 +44,8 @@ bool WriteAll(IDisk& disk, int file, std::span<const std::uint8_t> bytes) {
 
 }  // namespace
 
-bool WriteWholeFile(const std::string& path, std::span<const std::uint8_t> bytes, std::string* error, IDisk& disk) {
-  const auto refuse = [error](int reason) {
-    if (error) *error = std::strerror(reason);
-    return false;
-  };
+Outcome WriteWholeFile(const std::string& path, std::span<const std::uint8_t> bytes, IDisk& disk) {
+  const auto refuse = [](int reason) { return Outcome::FailedBySystem(reason); };
   const fs::path target = TargetOf(path);
   std::error_code failed;
   const fs::file_status old = fs::status(target, failed);
@@ -86,11 +82,11 @@ bool WriteWholeFile(const std::string& path, std::span<const std::uint8_t> bytes
   // folder, and nothing can be taken back now, so a refusal here is no failure of the save.
   if (!exists) disk.FlushFolder(folder);
   RemoveDeadParts(folder, disk);
-  return true;
+  return {};
 }
 
-bool WriteWholeFile(const std::string& path, std::string_view text, std::string* error, IDisk& disk) {
-  return WriteWholeFile(path, std::span(reinterpret_cast<const std::uint8_t*>(text.data()), text.size()), error, disk);
+Outcome WriteWholeFile(const std::string& path, std::string_view text, IDisk& disk) {
+  return WriteWholeFile(path, std::span(reinterpret_cast<const std::uint8_t*>(text.data()), text.size()), disk);
 }
 
 std::optional<std::vector<std::uint8_t>> ReadWholeFile(const std::string& path, std::int64_t limit) {

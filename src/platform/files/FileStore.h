@@ -9,19 +9,17 @@
 #include <vector>
 
 #include "platform/files/Disk.h"
+#include "platform/files/Result.h"
 
 namespace kinalyx {
 
 /// Replaces a whole file: writes beside it under a name of its own, flushes, renames over it. The file holds
 /// either the old or the new bytes, whatever happens and whoever else saves it; of two saves at once one
 /// stands whole. After a power cut within seconds of the call the old bytes may stand again, but a file that
-/// is new stays. On failure nothing is left behind, the old file stands, and `error` (may be null) gets the
-/// reason in the system's words. A file with read-only permission, or one that is a link, is treated as an
+/// is new stays. On failure nothing is left behind, and the old file stands. A file with read-only permission, or one that is a link, is treated as an
 /// editor would: the link's target is replaced, read-only is refused.
-bool WriteWholeFile(const std::string& path, std::span<const std::uint8_t> bytes, std::string* error = nullptr,
-                    IDisk& disk = RealDisk());
-bool WriteWholeFile(const std::string& path, std::string_view text, std::string* error = nullptr,
-                    IDisk& disk = RealDisk());
+Outcome WriteWholeFile(const std::string& path, std::span<const std::uint8_t> bytes, IDisk& disk = RealDisk());
+Outcome WriteWholeFile(const std::string& path, std::string_view text, IDisk& disk = RealDisk());
 
 /// All bytes of a file of at most `limit` bytes; nothing when it cannot be read or is larger.
 std::optional<std::vector<std::uint8_t>> ReadWholeFile(const std::string& path, std::int64_t limit = 64 << 20);

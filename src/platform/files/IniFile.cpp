@@ -102,7 +102,7 @@ class Document {
   bool Save(const std::string& path) const {
     std::string text;
     for (const auto& line : lines_) text.append(line).append("\n");
-    return WriteWholeFile(path, std::string_view(text));
+    return static_cast<bool>(WriteWholeFile(path, std::string_view(text)));
   }
 
   void Set(std::string_view section, std::string_view key, std::string_view value) {

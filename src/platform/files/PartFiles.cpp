@@ -83,7 +83,7 @@ void RemoveDeadParts(const std::string& folder, IDisk& disk) {
   const auto now = DriveTime(folder, disk);
   if (!now) return;
   for (const std::string& part : parts) {
-    if (UntouchedSince(part, *now - disk.DeadPartSeconds())) RemoveTree(part, nullptr, disk);
+    if (UntouchedSince(part, *now - disk.DeadPartSeconds())) (void)RemoveTree(part, disk);  // or the next time
   }
 }
 

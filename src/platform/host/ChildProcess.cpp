@@ -24,12 +24,9 @@ constexpr int kPatience = 300;
 
 }  // namespace
 
-std::unique_ptr<ChildProcess> ChildProcess::Start(const std::string& program,
-                                                  const std::vector<std::string>& arguments, std::string* error) {
-  const auto refuse = [error](int reason) {
-    if (error) *error = std::strerror(reason);
-    return nullptr;
-  };
+Result<std::unique_ptr<ChildProcess>> ChildProcess::Start(const std::string& program,
+                                                          const std::vector<std::string>& arguments) {
+  const auto refuse = [](int reason) { return Outcome::FailedBySystem(reason); };
   int output[2];
   int errors[2];
   if (::pipe2(output, O_CLOEXEC) != 0) return refuse(errno);

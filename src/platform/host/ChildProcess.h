@@ -9,6 +9,8 @@
 
 #include <sys/types.h>
 
+#include "platform/files/Result.h"
+
 namespace kinalyx {
 
 /// A program that works for this one and is waited for. Threads may take turns with it, as with a job that
@@ -16,10 +18,9 @@ namespace kinalyx {
 /// it is killed, is why this is no QProcess, which belongs to the thread that made it and kills at once.
 class ChildProcess {
  public:
-  /// Starts a program; its output is read by Poll, its input is empty. Null, with the reason in `error`
-  /// (may be null), when it cannot be started.
-  static std::unique_ptr<ChildProcess> Start(const std::string& program, const std::vector<std::string>& arguments,
-                                             std::string* error);
+  /// Starts a program; its output is read by Poll, its input is empty.
+  static Result<std::unique_ptr<ChildProcess>> Start(const std::string& program,
+                                                     const std::vector<std::string>& arguments);
   /// Stops the program when it still runs, and waits for it.
   ~ChildProcess();
   ChildProcess(const ChildProcess&) = delete;

@@ -115,15 +115,24 @@ CodecHandle OpenEncoder(const char* name, const AVFrame& picture, AVRational rat
   return opened < 0 ? nullptr : std::move(codec);
 }
 
+/// Only an AVI file may stand under the name of one.
+bool IsAviFile(const std::string& path) {
+  AVFormatContext* context = nullptr;
+  if (avformat_open_input(&context, ("file:" + path).c_str(), av_find_input_format("avi"), nullptr) < 0) return false;
+  avformat_close_input(&context);
+  return true;
+}
+
 /// One cut under way.
 class Trimmer {
  public:
   Trimmer(const TrimRequest& request, const std::function<bool(double)>& progress)
       : request_(request), progress_(progress) {}
 
-  TrimResult Run();
+  Result<TrimmedVideo> Run();
 
  private:
+  bool Cut();
   bool ChooseFrames();
   bool ChooseTarget();
   bool CopyWholeFile();
@@ -134,19 +143,21 @@ class Trimmer {
   bool WritePicture(AVPacket& packet, std::int64_t frame);
   bool Encode(AVCodecContext& codec, const AVFrame* picture);
   bool Fail(const std::string& message) {
-    result_.message = message;
+    message_ = message;
     return false;
   }
   bool Fail(int error) { return Fail(AvError(error)); }
   bool GoOn(int framesDone) {
     if (!progress_ || progress_(static_cast<double>(framesDone) / count_)) return true;
-    result_.cancelled = true;
+    cancelled_ = true;
     return false;
   }
 
   const TrimRequest& request_;
   const std::function<bool(double)>& progress_;
-  TrimResult result_;
+  TrimmedVideo video_;
+  bool cancelled_ = false;
+  std::string message_;  ///< why it failed
   std::unique_ptr<Demuxer> demuxer_;
   const PictureIndex* index_ = nullptr;
   VideoInfo info_;
@@ -161,31 +172,31 @@ class Trimmer {
   AVStream* pictures_ = nullptr;
 };
 
-TrimResult Trimmer::Run() {
+Result<TrimmedVideo> Trimmer::Run() {
+  if (Cut()) return video_;
+  return Outcome(cancelled_ ? Fault::Cancelled : Fault::Failed, message_);
+}
+
+bool Trimmer::Cut() {
   OpenFault fault = OpenFault::None;
-  demuxer_ = Demuxer::Open(request_.source, fault, result_.message);
-  if (!demuxer_) return result_;
+  demuxer_ = Demuxer::Open(request_.source, fault, message_);
+  if (!demuxer_) return false;
   index_ = &demuxer_->Index();
   info_ = demuxer_->Describe();
-  if (!ChooseFrames() || !ChooseTarget()) return result_;
+  if (!ChooseFrames() || !ChooseTarget()) return false;
+  video_.frames = count_;
 
   const bool copy = request_.mode == TrimRequest::Mode::Copy;
-  if (copy && whole_ && CopyWholeFile()) return result_;
-  if (result_.cancelled || !result_.message.empty()) return result_;
+  if (copy && whole_ && IsAviFile(request_.source)) return CopyWholeFile();
   output_ = std::make_unique<AviOutput>(target_);
-  if (const int opened = output_->Open(); opened < 0) {
-    Fail(opened);
-    return result_;
-  }
-  result_.copied = copy && CanCopyPictures();
-  if (!(result_.copied ? CopyPictures() : CodePictures())) return result_;
+  if (const int opened = output_->Open(); opened < 0) return Fail(opened);
+  video_.copied = copy && CanCopyPictures();
+  if (!(video_.copied ? CopyPictures() : CodePictures())) return false;
   struct stat old {};
   const bool keepRights = replaces_ && ::stat(target_.c_str(), &old) == 0;
-  if (!output_->Finish(replaces_, result_.message)) return result_;
+  if (!output_->Finish(replaces_, message_)) return false;
   if (keepRights) ::chmod(target_.c_str(), old.st_mode & 0777);
-  result_.done = true;
-  result_.frames = count_;
-  return result_;
+  return true;
 }
 
 bool Trimmer::ChooseFrames() {
@@ -216,28 +227,17 @@ bool Trimmer::ChooseTarget() {
 }
 
 bool Trimmer::CopyWholeFile() {
-  AVFormatContext* context = nullptr;
-  // Only an AVI file may stand under the name of one.
-  if (avformat_open_input(&context, ("file:" + request_.source).c_str(), av_find_input_format("avi"), nullptr) < 0)
-    return false;
-  avformat_close_input(&context);
-  result_.copied = true;
-  result_.frames = count_;
-  if (replaces_) {
-    result_.done = true;
-    return true;
-  }
+  video_.copied = true;
+  if (replaces_) return true;
   CopyJob job(CopyJob::Kind::Copy, {{{request_.source, target_}}});
   while (job.Step() == CopyJob::State::Running) {
     const CopyProgress& done = job.Progress();
     const double part = done.bytesTotal > 0 ? static_cast<double>(done.bytesDone) / static_cast<double>(done.bytesTotal) : 0;
     if (!progress_ || progress_(part)) continue;
     job.Cancel();
-    result_.cancelled = true;
+    cancelled_ = true;
   }
-  result_.done = job.Status() == CopyJob::State::Done;
-  result_.message = job.Error();
-  return true;
+  return job.Status() == CopyJob::State::Done || Fail(job.Error());
 }
 
 bool Trimmer::OpenStreams(const AVCodecParameters& parameters) {
@@ -296,8 +296,8 @@ bool Trimmer::CodePictures() {
   const AVCodecID id = demuxer_->Codec().codec_id;
   const AVRational pixelShape = demuxer_->Codec().sample_aspect_ratio;
   auto reader = demuxer_->Again();
-  auto decoder = reader ? PictureDecoder::Open(std::move(reader), result_.message) : nullptr;
-  if (!decoder) return Fail(result_.message.empty() ? "the file has gone" : result_.message);
+  auto decoder = reader ? PictureDecoder::Open(std::move(reader), message_) : nullptr;
+  if (!decoder) return Fail(message_.empty() ? "the file has gone" : message_);
   PictureSource source(std::move(decoder));
   CodecHandle codec;
   std::optional<PictureFitter> fitter;
@@ -339,7 +339,7 @@ bool Trimmer::Encode(AVCodecContext& codec, const AVFrame* picture) {
 
 }  // namespace
 
-TrimResult TrimVideo(const TrimRequest& request, const std::function<bool(double)>& progress) {
+Result<TrimmedVideo> TrimVideo(const TrimRequest& request, const std::function<bool(double)>& progress) {
   return Trimmer(request, progress).Run();
 }
 

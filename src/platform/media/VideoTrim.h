@@ -3,6 +3,8 @@
 #include <functional>
 #include <string>
 
+#include "platform/files/Result.h"
+
 namespace kinalyx {
 
 /// One cut of a video.
@@ -20,12 +22,10 @@ struct TrimRequest {
   Mode mode = Mode::Copy;
 };
 
-struct TrimResult {
-  bool done = false;
-  bool cancelled = false;
+/// What came of a cut.
+struct TrimmedVideo {
   bool copied = false;  ///< the pictures kept their bits
   int frames = 0;       ///< in the new video
-  std::string message;  ///< why it failed
 };
 
 /// Cuts a video, exact to the frame, into an AVI file. Pictures are copied as they are when each of them
@@ -33,7 +33,8 @@ struct TrimResult {
 /// is one that we can write. Sound is cut to the sample. The file is written beside its final name and
 /// renamed, so the destination is never half a video, and a source that is trimmed in place is lost in
 /// no case.
-/// @param progress  gets the part that is done, 0 to 1; false from it stops the work and leaves no trace
-TrimResult TrimVideo(const TrimRequest& request, const std::function<bool(double)>& progress = {});
+/// @param progress  gets the part that is done, 0 to 1; false from it stops the work, leaves no trace, and makes
+///                  the fault `Cancelled`
+Result<TrimmedVideo> TrimVideo(const TrimRequest& request, const std::function<bool(double)>& progress = {});
 
 }  // namespace kinalyx

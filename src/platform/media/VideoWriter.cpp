@@ -209,18 +209,16 @@ bool VideoWriter::Engine::Encode(const AVFrame* picture) {
 
 VideoWriter::VideoWriter(std::unique_ptr<Engine> engine) : engine_(std::move(engine)) {}
 
-std::unique_ptr<VideoWriter> VideoWriter::Create(const std::string& path, const VideoFormat& format,
-                                                 std::string* error) {
+Result<std::unique_ptr<VideoWriter>> VideoWriter::Create(const std::string& path, const VideoFormat& format) {
   HearLibrary();
   auto engine = std::make_unique<Engine>();
   engine->path = path;
   engine->partial = path + ".part";
   engine->format = format;
-  const std::string fault = engine->Open();
+  const std::string why = engine->Open();
   std::unique_ptr<VideoWriter> writer(new VideoWriter(std::move(engine)));
-  if (fault.empty()) return writer;
-  if (error) *error = fault;
-  return nullptr;
+  if (!why.empty()) return Outcome::Failed(why);
+  return writer;
 }
 
 VideoWriter::~VideoWriter() {

@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "platform/files/Result.h"
 #include "platform/paint/PixelOps.h"
 
 namespace kinalyx {
@@ -27,8 +28,8 @@ struct VideoFormat {
 /// Close, so a half-written video never stands under it.
 class VideoWriter {
  public:
-  /// Null, with the reason in `error`, when the file or the codec cannot be opened.
-  static std::unique_ptr<VideoWriter> Create(const std::string& path, const VideoFormat& format, std::string* error);
+  /// Fails when the file or the codec cannot be opened.
+  static Result<std::unique_ptr<VideoWriter>> Create(const std::string& path, const VideoFormat& format);
   /// Without Close, removes what was written.
   ~VideoWriter();
 

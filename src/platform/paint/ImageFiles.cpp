@@ -8,7 +8,7 @@
 namespace kinalyx {
 namespace {
 
-ImageResult Failure(ImageFault fault, const QString& message) { return {fault, message.toStdString()}; }
+Outcome Failure(const QString& why) { return Outcome::Failed(why.toStdString()); }
 
 /// A view, or a copy where the rows' order of bytes has no image format of its own.
 QImage ImageOf(const PixelRows& rows) {
@@ -21,33 +21,33 @@ QImage ImageOf(const PixelRows& rows) {
   return rows.bottomUp ? view.mirrored() : view;
 }
 
-ImageResult Save(const PixelRows& rows, const std::string& path, const char* format, int quality) {
+Outcome Save(const PixelRows& rows, const std::string& path, const char* format, int quality) {
   const QImage image = ImageOf(rows);
-  if (image.isNull()) return Failure(ImageFault::BadArgument, QStringLiteral("There is no picture to save."));
+  if (image.isNull()) return Failure(QStringLiteral("There is no picture to save."));
   // Renaming over it would put a file in the place of a device or a pipe.
   const QFileInfo old(QString::fromStdString(path));
-  if (old.exists() && !old.isFile()) return Failure(ImageFault::NoAccess, QStringLiteral("That name is not a file's."));
+  if (old.exists() && !old.isFile()) return Failure(QStringLiteral("That name is not a file's."));
   QSaveFile file(QString::fromStdString(path));
-  if (!file.open(QIODevice::WriteOnly)) return Failure(ImageFault::NoAccess, file.errorString());
+  if (!file.open(QIODevice::WriteOnly)) return Failure(file.errorString());
   QImageWriter writer(&file, format);
   writer.setQuality(quality);
   if (!writer.write(image)) {
     const QString reason = file.error() != QFileDevice::NoError ? file.errorString() : writer.errorString();
     file.cancelWriting();
-    return Failure(ImageFault::DiskRefused, reason);
+    return Failure(reason);
   }
-  if (!file.commit()) return Failure(ImageFault::DiskRefused, file.errorString());
+  if (!file.commit()) return Failure(file.errorString());
   return {};
 }
 
 }  // namespace
 
-ImageResult SaveJpeg(const PixelRows& rows, const std::string& path, int quality) {
+Outcome SaveJpeg(const PixelRows& rows, const std::string& path, int quality) {
   if (quality < 0 || quality > 100)
-    return Failure(ImageFault::BadArgument, QStringLiteral("The quality must be 0 to 100."));
+    return Failure(QStringLiteral("The quality must be 0 to 100."));
   return Save(rows, path, "jpg", quality);
 }
 
-ImageResult SavePng(const PixelRows& rows, const std::string& path) { return Save(rows, path, "png", -1); }
+Outcome SavePng(const PixelRows& rows, const std::string& path) { return Save(rows, path, "png", -1); }
 
 }  // namespace kinalyx

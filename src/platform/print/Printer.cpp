@@ -94,11 +94,11 @@ class Pages {
   double line_ = 0;
 };
 
-PrintResult Failed(const QPrinter& printer) {
+Outcome Failed(const QPrinter& printer) {
   const QString file = printer.outputFileName();
   const QString reason = file.isEmpty() ? QString("The printer %1 does not take the pages.").arg(printer.printerName())
                                         : QString("The file %1 cannot be written.").arg(file);
-  return {PrintResult::Kind::Failed, reason.toStdString()};
+  return Outcome::Failed(reason.toStdString());
 }
 
 /// A PDF file ends in a mark of its own; one that was cut short, on a full disk, does not.
@@ -109,13 +109,13 @@ bool IsWhole(const QString& path) {
   return file.read(32).contains("%%EOF");
 }
 
-PrintResult PrintOn(QPrinter& printer, const PrintedText& text) {
+Outcome PrintOn(QPrinter& printer, const PrintedText& text) {
   printer.setDocName(Text(text.title));
   Pages pages(text, printer);
   const int first = std::max(1, printer.fromPage());
   const int last = printer.toPage() > 0 ? std::min(printer.toPage(), pages.Count()) : pages.Count();
   if (first > last)
-    return {PrintResult::Kind::Failed, QString("There are only %1 pages.").arg(pages.Count()).toStdString()};
+    return Outcome::Failed(QString("There are only %1 pages.").arg(pages.Count()).toStdString());
   const bool backwards = printer.pageOrder() == QPrinter::LastPageFirst;
   QPainter painter;
   if (!painter.begin(&printer)) return Failed(printer);
@@ -135,11 +135,11 @@ void SetMargins(QPrinter& printer) {
 
 class DesktopPrinter final : public IPrinter {
  public:
-  PrintResult Print(const PrintedText& text) override {
+  Outcome Print(const PrintedText& text) override {
     QPrinter printer(QPrinter::HighResolution);
     SetMargins(printer);
     QPrintDialog dialog(&printer, QApplication::activeWindow());
-    if (dialog.exec() != QDialog::Accepted) return {PrintResult::Kind::Cancelled, {}};
+    if (dialog.exec() != QDialog::Accepted) return {Fault::Cancelled, {}};
     return PrintOn(printer, text);
   }
 };
@@ -148,7 +148,7 @@ class DesktopPrinter final : public IPrinter {
 
 std::unique_ptr<IPrinter> MakePrinter() { return std::make_unique<DesktopPrinter>(); }
 
-PrintResult PrintToPdf(const PrintedText& text, const std::string& path) {
+Outcome PrintToPdf(const PrintedText& text, const std::string& path) {
   QPrinter printer(QPrinter::HighResolution);
   printer.setOutputFormat(QPrinter::PdfFormat);
   printer.setOutputFileName(Text(path));

@@ -3,6 +3,8 @@
 #include <memory>
 #include <string>
 
+#include "platform/files/Result.h"
+
 namespace kinalyx {
 
 /// A text as it comes on paper: A4 or whatever the printer holds, over as many pages as it needs.
@@ -13,24 +15,18 @@ struct PrintedText {
   std::string footer;    ///< at the foot of every page, beside its number; may be empty
 };
 
-struct PrintResult {
-  enum class Kind { Printed, Cancelled, Failed };
-  Kind kind = Kind::Printed;
-  std::string reason;  ///< why it failed, a whole sentence
-};
-
 /// Where texts are printed.
 class IPrinter {
  public:
   virtual ~IPrinter() = default;
-  /// Asks the user for the printer, the pages and the copies, and prints.
-  virtual PrintResult Print(const PrintedText& text) = 0;
+  /// Asks the user for the printer, the pages and the copies, and prints. A failure is told in a whole sentence.
+  virtual Outcome Print(const PrintedText& text) = 0;
 };
 
 /// The printers of the desktop, behind its dialog. Needs the running application; on its thread only.
 std::unique_ptr<IPrinter> MakePrinter();
 
 /// Prints into a PDF file without asking. One of that name is replaced.
-PrintResult PrintToPdf(const PrintedText& text, const std::string& path);
+Outcome PrintToPdf(const PrintedText& text, const std::string& path);
 
 }  // namespace kinalyx

@@ -178,7 +178,7 @@ void MultiPicture::TakeFrame() {
   if (!MultiFrameMode_) view_.PresentStrip(strip_, PictureCount_);
 }
 
-ImageResult MultiPicture::SavePicture(const std::string& path) const { return ExportPicture(strip_, path); }
+Outcome MultiPicture::SavePicture(const std::string& path) const { return ExportPicture(strip_, path); }
 
 // ---------------------------------------------------------------- from outside
 

@@ -71,7 +71,7 @@ class MultiPicture final : private ITakesStage {
 
   const Surface& Strip() const { return strip_; }
   /// Writes the strip as a picture; the name's ending chooses JPEG (.jpg, .jpeg) or else PNG.
-  ImageResult SavePicture(const std::string& path) const;
+  Outcome SavePicture(const std::string& path) const;
 
   // --- from the players and the stage
   /// A picture of a slot was shown: the strip runs with it, picture by picture.

@@ -19,8 +19,8 @@ bool EndsWith(const std::string& path, const std::string& ending) {
 
 }  // namespace
 
-ImageResult ExportPicture(const Surface& picture, const std::string& path) {
-  if (picture.Empty()) return {ImageFault::BadArgument, "There is no picture to save."};
+Outcome ExportPicture(const Surface& picture, const std::string& path) {
+  if (picture.Empty()) return Outcome::Failed("There is no picture to save.");
   const bool jpeg = EndsWith(path, ".jpg") || EndsWith(path, ".jpeg");
   return jpeg ? SaveJpeg(RowsOf(picture), path, kQuality) : SavePng(RowsOf(picture), path);
 }

@@ -138,8 +138,8 @@ void StrobeControl::StrobeEnded(int slot) {
   stage_.News().Note(kCommandsChanged);
 }
 
-ImageResult StrobeControl::SavePicture(const std::string& path) const {
-  if (!HasResult()) return {ImageFault::BadArgument, "There is no strobe picture to save."};
+Outcome StrobeControl::SavePicture(const std::string& path) const {
+  if (!HasResult()) return Outcome::Failed("There is no strobe picture to save.");
   return ExportPicture(stage_.MP(result_).Picture(), path);
 }
 

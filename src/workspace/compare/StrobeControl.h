@@ -65,7 +65,7 @@ class StrobeControl {
   /// A strobe stands on the current video: nothing else has been drawn since.
   bool HasResult() const { return result_ != 0 && result_ == stage_.CurrentWindow; }
   /// Writes it as a picture, with what is drawn on it: JPEG for a name in .jpg or .jpeg, else PNG.
-  ImageResult SavePicture(const std::string& path) const;
+  Outcome SavePicture(const std::string& path) const;
 
   // --- from the players and the stage
   void Signal(int slot);

@@ -142,9 +142,8 @@ void DrawingEdits::SaveMacro() {
   const auto name = view_.AskMacroName(List());
   if (!name || name->empty()) return;
   LoadMacros();
-  std::string error;
-  if (!macros_.CreateMacro(*name, List(), &error))
-    host_.Message(MessageKind::Warning, "New macro", "The macro could not be saved. " + error);
+  if (const Outcome saved = macros_.CreateMacro(*name, List()); !saved)
+    host_.Message(MessageKind::Warning, "New macro", "The macro could not be saved. " + saved.Why());
   TellOfMacroFiles();
   if (macroFormShown_) view_.FillMacroList(macros_.MacroNames(), macros_.IndexOf(*name));
 }
@@ -180,8 +179,8 @@ void DrawingEdits::DeleteMacro(int Index) {
   const auto& names = macros_.MacroNames();
   if (Index >= macros_.NumMacros() || names[static_cast<std::size_t>(Index)] != name)
     Index = static_cast<int>(std::ranges::find(names, name) - names.begin());
-  std::string error;
-  if (!macros_.KillMacro(Index, &error)) host_.Message(MessageKind::Warning, "Remove macro", "The macro could not be removed. " + error);
+  if (const Outcome removed = macros_.KillMacro(Index); !removed)
+    host_.Message(MessageKind::Warning, "Remove macro", "The macro could not be removed. " + removed.Why());
   TellOfMacroFiles();
   view_.FillMacroList(macros_.MacroNames(), std::min(Index, macros_.NumMacros() - 1));
 }

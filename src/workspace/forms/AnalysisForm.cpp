@@ -86,7 +86,7 @@ AnalysisForm::AnalysisForm(IHost& host, IPrinter& printer, Settings& settings, P
 AnalysisForm::~AnalysisForm() {
   stage_->removeEventFilter(this);
   for (int slot = 1; slot <= kSlots; ++slot)
-    if (analysis_->Stage().HasVideo(slot)) analysis_->Keeping().SaveData(slot);
+    if (analysis_->Stage().HasVideo(slot)) std::ignore = analysis_->Keeping().SaveData(slot);
   analysis_->DetachPlayers();
   // The bar and the panels hold references into it: they go first.
   delete openPanel_;

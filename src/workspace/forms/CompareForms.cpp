@@ -70,15 +70,15 @@ std::optional<std::string> CompareForms::AskPictureName(const char* what) {
 }
 
 void CompareForms::SaveStrip() {
-  if (const auto path = AskPictureName("strip")) TellWhetherSaved(modes_->Strip().SavePicture(*path));
+  if (const auto path = AskPictureName("strip")) TellUnlessSaved(modes_->Strip().SavePicture(*path));
 }
 
 void CompareForms::SaveStrobe() {
-  if (const auto path = AskPictureName("strobe")) TellWhetherSaved(modes_->Strobe().SavePicture(*path));
+  if (const auto path = AskPictureName("strobe")) TellUnlessSaved(modes_->Strobe().SavePicture(*path));
 }
 
-void CompareForms::TellWhetherSaved(const ImageResult& result) {
-  if (!result) host_.Message(MessageKind::Warning, "", "The picture could not be saved: " + result.message);
+void CompareForms::TellUnlessSaved(const Outcome& saved) {
+  if (!saved) host_.Message(MessageKind::Warning, "", "The picture could not be saved: " + saved.Why());
 }
 
 // ---------------------------------------------------------------- stage, wheel and drag

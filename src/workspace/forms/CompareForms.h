@@ -51,7 +51,7 @@ class CompareForms : public QObject, public ICompareView {
   void SaveStrobe();
   /// Asks for a name beside the current video; nothing when the user cancels.
   std::optional<std::string> AskPictureName(const char* what);
-  void TellWhetherSaved(const ImageResult& result);
+  void TellUnlessSaved(const Outcome& saved);
   bool Wheel(QWidget* over, QWheelEvent& event);
   bool MouseOnMix(QEvent& event);
   void UpdateFoot();

@@ -85,9 +85,9 @@ void Notesform::Open() {
 void Notesform::Print() {
   const QString notes = notes_->toPlainText();
   if (notes.trimmed().isEmpty()) return host_.Message(MessageKind::Information, "", tr("There are no notes to print.").toStdString());
-  const PrintResult result = printer_.Print({video_.toStdString(), tr("Video Notes").toStdString(), notes.toStdString(), {}});
-  if (result.kind == PrintResult::Kind::Failed)
-    host_.Message(MessageKind::Warning, "", tr("The notes were not printed. %1").arg(QString::fromStdString(result.reason)).toStdString());
+  const Outcome printed = printer_.Print({video_.toStdString(), tr("Video Notes").toStdString(), notes.toStdString(), {}});
+  if (printed.Kind() == Fault::Failed)
+    host_.Message(MessageKind::Warning, "", tr("The notes were not printed. %1").arg(QString::fromStdString(printed.Why())).toStdString());
 }
 
 void Notesform::Save() {
@@ -95,11 +95,10 @@ void Notesform::Save() {
   if (!chosen) return;
   QString path = Q(*chosen);
   if (!path.endsWith(".txt", Qt::CaseInsensitive)) path += ".txt";
-  std::string error;
-  if (WriteWholeFile(path.toStdString(), FileText(notes_->toPlainText()), &error)) {
+  if (const Outcome saved = WriteWholeFile(path.toStdString(), FileText(notes_->toPlainText())); saved) {
     file_ = path;
   } else {
-    host_.Message(MessageKind::Warning, "", tr("The notes could not be saved: %1.").arg(QString::fromStdString(error)).toStdString());
+    host_.Message(MessageKind::Warning, "", tr("The notes could not be saved: %1.").arg(QString::fromStdString(saved.Why())).toStdString());
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include <tuple>
 #include <utility>
 
 #include "library/SidecarMerge.h"
@@ -20,7 +21,7 @@ Keeping::Keeping(IHost& host, const Settings& settings, Stage& stage, DrawingToo
 
 void Keeping::Read(int slot, const std::string& path, const VideoInfo& info) {
   for (int other = 1; other <= kSlots; ++other)
-    if (stage_.At(other).path == path) SaveData(other);
+    if (stage_.At(other).path == path) std::ignore = SaveData(other);  // what it refuses is told when that closes
   const std::string sidecar = SidecarPath(path);
   Kept& kept = At(slot);
   kept = {};
@@ -64,11 +65,14 @@ void Keeping::SaveAll() {
 bool Keeping::SaveAtRest(int slot) {
   if (!stage_.HasVideo(slot)) return true;
   const auto answers = [&] { return host_.Drives().AnswersAtOnce(settings_.LibraryPath, stage_.At(slot).path); };
-  std::string notice;
-  const bool saved = !HasUnsaved(slot) || (answers() && SaveData(slot, &notice));
+  if (!HasUnsaved(slot)) {
+    ShowRefused(slot, false);
+    return true;
+  }
+  const Result<std::string> saved = answers() ? SaveData(slot) : Outcome::Failed("");
   ShowRefused(slot, !saved);
-  if (saved && !notice.empty()) host_.Message(MessageKind::Warning, "", notice);  // something did not fit
-  return saved;
+  if (saved && !saved->empty()) host_.Message(MessageKind::Warning, "", *saved);
+  return static_cast<bool>(saved);
 }
 
 void Keeping::ShowRefused(int slot, bool refused) {
@@ -77,28 +81,26 @@ void Keeping::ShowRefused(int slot, bool refused) {
 
 // ---------------------------------------------------------------- saving
 
-bool Keeping::SaveData(int slot, std::string* error) {
+Result<std::string> Keeping::SaveData(int slot) {
   const Slot& at = stage_.At(slot);
   Kept& kept = At(slot);
   const bool changed = HasUnsaved(slot);
   // With nothing of its own to say a slot leaves alone what another one wrote for the same video, and what
   // could not be read.
-  if (!changed && (kept.savedElsewhere || at.data.Unread)) return true;
-  if (!host_.Drives().Answers(settings_.LibraryPath, at.path)) {
-    if (error) *error = "the drive is not answering";
-    return false;
-  }
+  const std::string nothingLeftOut;
+  if (!changed && (kept.savedElsewhere || at.data.Unread)) return nothingLeftOut;
+  if (!host_.Drives().Answers(settings_.LibraryPath, at.path)) return Outcome::Failed("the drive is not answering");
   if (StampOf(SidecarPath(at.path)) != kept.stamp) kept.savedElsewhere = true;
-  if (!changed && kept.savedElsewhere) return true;
+  if (!changed && kept.savedElsewhere) return nothingLeftOut;
   // A video that somebody else has taken away needs no sidecar; new work on it is kept all the same.
-  if (!changed && !FileExists(at.path)) return true;
+  if (!changed && !FileExists(at.path)) return nothingLeftOut;
   SlotData mine = at.data;
   drawings_.Collect(slot, kept.base, mine);
-  return Write(slot, std::move(mine), error);
+  return Write(slot, std::move(mine));
 }
 
 /// Writes what a slot has to say, and takes what is in the file then for its base.
-bool Keeping::Write(int slot, SlotData mine, std::string* error) {
+Result<std::string> Keeping::Write(int slot, SlotData mine) {
   Slot& at = stage_.At(slot);
   Kept& kept = At(slot);
   const std::string sidecar = SidecarPath(at.path);
@@ -113,11 +115,11 @@ bool Keeping::Write(int slot, SlotData mine, std::string* error) {
   SlotData& whole = merged.whole;
   const std::string_view fitting = FittingNotes(whole.Notes);
   if (fitting.size() < whole.Notes.size()) whole.Unread = true;  // what is about to be cut stands in the file before
-  std::string reason;
-  const bool written = WriteVideoData(sidecar, whole, &reason);
-  if (!written) host_.Note(MessageKind::Warning, "a sidecar could not be saved: " + reason);
-  if (error) *error = reason;
-  if (!written) return false;
+  const Result<std::string> written = WriteVideoData(sidecar, whole);
+  if (!written) {
+    host_.Note(MessageKind::Warning, "a sidecar could not be saved: " + written.Why());
+    return written;
+  }
 
   const bool notesCame = at.data.Notes != fitting;
   at.data.Notes = fitting;
@@ -132,19 +134,19 @@ bool Keeping::Write(int slot, SlotData mine, std::string* error) {
   for (int other = 1; other <= kSlots; ++other)
     if (other != slot && stage_.At(other).path == at.path) At(other).savedElsewhere = true;
   if (notesCame) stage_.News().Note(kVideoChanged);
-  return true;
+  return written;
 }
 
 bool Keeping::SaveOrAsk(int slot) {
   const std::string path = stage_.At(slot).path;
   const std::string name = NameOfVideo(path);
-  std::string error;
-  while (!SaveData(slot, &error)) {
+  Result<std::string> saved = SaveData(slot);
+  for (; !saved; saved = SaveData(slot)) {
     // A library that cannot be written to is no reason to ask as long as nothing gets lost.
     if (!HasUnsaved(slot)) return true;
     if (host_.Question("Drawings not saved",
                        fmt::format("The drawings and notes of \"{}\" could not be saved: {}. Would you like to try again?",
-                                   name, error)))
+                                   name, saved.Why())))
       continue;
     return host_.Question("Drawings not saved",
                           fmt::format("Close \"{}\" all the same? Its new drawings and notes will be lost. Answer No to "
@@ -152,10 +154,10 @@ bool Keeping::SaveOrAsk(int slot) {
                                       name));
   }
   const auto sidecarAlone = [path] { return !FileExists(path) && FileExists(SidecarPath(path)); };
-  if (error.empty() && host_.Drives().Ask(settings_.LibraryPath, sidecarAlone).value_or(false))
-    error = fmt::format("Somebody else has renamed, moved or deleted the video \"{}\". Its drawings and notes are kept in {}.",
+  if (saved->empty() && host_.Drives().Ask(settings_.LibraryPath, sidecarAlone).value_or(false))
+    *saved = fmt::format("Somebody else has renamed, moved or deleted the video \"{}\". Its drawings and notes are kept in {}.",
                         name, SidecarPath(path));
-  if (!error.empty()) host_.Message(MessageKind::Warning, "", error);
+  if (!saved->empty()) host_.Message(MessageKind::Warning, "", *saved);
   return true;
 }
 

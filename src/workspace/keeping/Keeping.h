@@ -6,6 +6,7 @@
 
 #include "core/Settings.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Result.h"
 #include "platform/host/Host.h"
 #include "workspace/keeping/SlotDrawings.h"
 #include "workspace/stage/Stage.h"
@@ -39,9 +40,9 @@ class Keeping {
 
   /// True when the slot holds drawings, notes or fields that its sidecar does not.
   bool HasUnsaved(int slot) { return drawings_.Changed(slot, At(slot).base) || At(slot).changed; }
-  /// Writes the sidecar of a slot now; false with the reason when the disk refuses. With true, `error` tells
-  /// what did not fit.
-  bool SaveData(int slot, std::string* error = nullptr);
+  /// Writes the sidecar of a slot now, where it has something to say. Gives what had to be left out, in words for
+  /// the user: mostly nothing.
+  Result<std::string> SaveData(int slot);
   /// The same for a video that is about to close: when it fails the user may try again, lose the new work, or
   /// keep the video open, which is the only case of false.
   bool SaveOrAsk(int slot);
@@ -56,7 +57,7 @@ class Keeping {
   };
 
   Kept& At(int slot) { return kept_[static_cast<std::size_t>(slot - 1)]; }
-  bool Write(int slot, SlotData mine, std::string* error);
+  Result<std::string> Write(int slot, SlotData mine);
   void SaveAll();
   bool SaveAtRest(int slot);
   void ShowRefused(int slot, bool refused);

@@ -233,9 +233,7 @@ TEST(RenameEntry, TakesAFreeNameOnly) {
   TempFolder folder;
   folder.Put("a.avi", "a");
   folder.Put("b.avi", "b");
-  std::string error;
-  EXPECT_FALSE(RenameEntry(folder.Path("a.avi"), folder.Path("b.avi"), &error));
-  EXPECT_NE(error, "");
+  EXPECT_NE(RenameEntry(folder.Path("a.avi"), folder.Path("b.avi")).Why(), "");
   EXPECT_EQ(folder.Get("b.avi"), "b");
   EXPECT_TRUE(RenameEntry(folder.Path("a.avi"), folder.Path("A.avi")));
   EXPECT_EQ(folder.Get("A.avi"), "a");

@@ -20,14 +20,13 @@ int FailEachCall(bool replaces) {
     TempFolder folder;
     const std::string path = replaces ? folder.Put("profile.prf", "the old bytes") : folder.Path("profile.prf");
     FailingDisk disk(calls);
-    std::string error;
-    const bool saved = WriteWholeFile(path, std::string_view("the new bytes"), &error, disk);
+    const Outcome saved = WriteWholeFile(path, std::string_view("the new bytes"), disk);
     const bool there = replaces || saved;
     EXPECT_EQ(folder.FileCount(), there ? 1u : 0u) << "call " << calls;
     if (there) {
       EXPECT_EQ(folder.Get("profile.prf"), saved ? "the new bytes" : "the old bytes") << "call " << calls;
     }
-    EXPECT_EQ(error.empty(), saved);
+    EXPECT_NE(saved.Why().empty(), !saved);
     failed = disk.Failed();
   }
   return calls;
@@ -48,7 +47,7 @@ TEST(FileStore, ManyWritersAtOnceLeaveWholeFilesToEveryReader) {
     writers.emplace_back([&, letter] {
       HastyDisk disk;
       const std::string text(1000 * static_cast<std::size_t>(letter - 'a' + 1), letter);
-      for (int i = 0; i < 300; ++i) refused += !WriteWholeFile(path, text, nullptr, disk);
+      for (int i = 0; i < 300; ++i) refused += !WriteWholeFile(path, text, disk);
       --writing;
     });
   }
@@ -68,7 +67,7 @@ TEST(FileStore, ASaveSweepsUpAfterThoseThatWereKilled) {
   folder.Put(".swing.ved.0123456789abcdef.part", "half");
   folder.Put(".swing.ved.new", "somebody's own");
   ImpatientDisk disk;
-  EXPECT_TRUE(WriteWholeFile(folder.Path("swing.ved"), std::string_view("whole"), nullptr, disk));
+  EXPECT_TRUE(WriteWholeFile(folder.Path("swing.ved"), std::string_view("whole"), disk));
   EXPECT_EQ(folder.FileCount(), 2u);
   EXPECT_EQ(folder.Get("swing.ved"), "whole");
 }
@@ -76,10 +75,9 @@ TEST(FileStore, ASaveSweepsUpAfterThoseThatWereKilled) {
 TEST(FileStore, TreatsOddTargetsAsAnEditorWould) {
   TempFolder folder;
   const auto write = [&folder](std::string_view name, std::string_view text) {
-    std::string error;
-    const bool written = WriteWholeFile(folder.Path(name), text, &error);
-    EXPECT_EQ(written, error.empty());
-    return written;
+    const Outcome written = WriteWholeFile(folder.Path(name), text);
+    EXPECT_NE(written.Why().empty(), !written);
+    return static_cast<bool>(written);
   };
   ::chmod(folder.Put("read-only", "kept").c_str(), 0444);
   EXPECT_FALSE(write("read-only", "new"));

@@ -146,7 +146,7 @@ TEST(VideoFile, CodecsKeepTheColours) {
     VideoFormat format = DvVideo(3).format;
     format.codec = codec;
     const std::string path = TestPath("colours" + std::to_string(static_cast<int>(codec)) + ".avi");
-    auto writer = VideoWriter::Create(path, format, nullptr);
+    auto writer = VideoWriter::Create(path, format);
     ASSERT_TRUE(writer);
     std::vector<std::uint8_t> rows(720 * 480 * 3);
     for (int i = 0; i < 720 * 480; ++i) {
@@ -155,8 +155,8 @@ TEST(VideoFile, CodecsKeepTheColours) {
       rows[i * 3 + 1] = 60;
       rows[i * 3 + 2] = upper ? 210 : 20;
     }
-    for (int n = 0; n < 3; ++n) ASSERT_TRUE(writer->Write({rows.data(), 720, 480, 720 * 3, 24, false}));
-    ASSERT_TRUE(writer->Close());
+    for (int n = 0; n < 3; ++n) ASSERT_TRUE((*writer)->Write({rows.data(), 720, 480, 720 * 3, 24, false}));
+    ASSERT_TRUE((*writer)->Close());
     const auto file = VideoFile::Open(path).file;
     ASSERT_TRUE(file);
     const FrameRows shown = file->Frame(2, 24);

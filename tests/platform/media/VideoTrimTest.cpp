@@ -126,11 +126,11 @@ TEST(VideoTrim, CutsEveryKindOfVideoExactly) {
     for (const auto mode : {TrimRequest::Mode::Copy, TrimRequest::Mode::Recompress}) {
       for (const auto& [first, last] : {std::pair{7, 19}, {0, 11}, {13, 0}}) {
         SCOPED_TRACE(source + " " + std::to_string(first) + " to " + std::to_string(last));
-        const TrimResult result = TrimVideo({source, target, first, last, 30, mode});
-        ASSERT_TRUE(result.done) << result.message;
-        EXPECT_EQ(result.copied, before->everyFrameIsKey && mode == TrimRequest::Mode::Copy);
+        const auto result = TrimVideo({source, target, first, last, 30, mode});
+        ASSERT_TRUE(result) << result.Why();
+        EXPECT_EQ(result->copied, before->everyFrameIsKey && mode == TrimRequest::Mode::Copy);
         const int end = last == 0 ? video.frames - 1 : last;
-        EXPECT_EQ(result.frames, end - first + 1);
+        EXPECT_EQ(result->frames, end - first + 1);
         if (video.fieldsDiffer) {
           EXPECT_EQ(NumbersOf(target, 0), Numbers(2 * first, 2 * end, 2));
           EXPECT_EQ(NumbersOf(target, 1), Numbers(2 * first + 1, 2 * end + 1, 2));
@@ -140,7 +140,7 @@ TEST(VideoTrim, CutsEveryKindOfVideoExactly) {
         const auto after = ReadVideoInfo(target);
         ASSERT_TRUE(after);
         EXPECT_EQ(after->rate * before->scale, before->rate * after->scale);
-        if (result.copied || video.fieldsDiffer) {
+        if (result->copied || video.fieldsDiffer) {
           EXPECT_EQ(after->compressor, before->compressor);
         }
         fs::remove(target);
@@ -166,8 +166,8 @@ TEST(VideoTrim, KeepsTheSoundInStepAndFramesThatRepeat) {
     for (const auto mode : {TrimRequest::Mode::Copy, TrimRequest::Mode::Recompress}) {
       SCOPED_TRACE(std::to_string(one.first) + (mode == TrimRequest::Mode::Copy ? " copied" : " coded"));
       const std::string target = folder.Path("cut.avi");
-      const TrimResult result = TrimVideo({source, target, one.first, one.last, 30, mode});
-      ASSERT_TRUE(result.done) << result.message;
+      const auto result = TrimVideo({source, target, one.first, one.last, 30, mode});
+      ASSERT_TRUE(result) << result.Why();
       EXPECT_EQ(NumbersOf(target), one.numbers);
       const std::vector<std::int16_t> sound = SoundOf(target);
       ASSERT_EQ(sound.size(), one.numbers.size() * kSamplesPerFrame);
@@ -184,10 +184,10 @@ TEST(VideoTrim, ReplacesItsOwnSourceAndNothingElse) {
   TempFolder folder;
   const std::string own = folder.Path("own.avi");
   fs::copy_file(MakeTestVideo(MjpegVideo(60)), own);
-  ASSERT_TRUE(TrimVideo({own, own, 5, 9}).done);
+  ASSERT_TRUE(TrimVideo({own, own, 5, 9}));
   EXPECT_EQ(NumbersOf(own), Numbers(5, 9));
   fs::permissions(own, fs::perms::owner_read);
-  EXPECT_EQ(TrimVideo({own, own, 1, 2}).message, "the video is read-only");
+  EXPECT_EQ(TrimVideo({own, own, 1, 2}).Why(), "the video is read-only");
   EXPECT_EQ(NumbersOf(own), Numbers(5, 9));
 
   const std::string other = folder.Put("other.avi", "other");
@@ -195,14 +195,14 @@ TEST(VideoTrim, ReplacesItsOwnSourceAndNothingElse) {
   const TrimRequest refusals[] = {{own, other, 0, 0}, {own, other, 1, 2}, {own, none, 3, 2}, {own, none, 5, 0},
                                   {folder.Path("none.avi"), none, 0, 0}, {own, folder.Path("nowhere/x.avi"), 1, 2}};
   for (const TrimRequest& refused : refusals)
-    EXPECT_FALSE(TrimVideo(refused).done) << refused.destination << " from " << refused.firstFrame;
+    EXPECT_FALSE(TrimVideo(refused)) << refused.destination << " from " << refused.firstFrame;
   EXPECT_EQ(folder.Get("other.avi"), "other");
   EXPECT_EQ(folder.FileCount(), 2u);
 
   // The whole of a video is a copy of the file, whatever its codec.
   const std::string film = MakeTestVideo(H264Video(300));
-  const TrimResult whole = TrimVideo({film, folder.Path("film.avi"), 0, 299});
-  EXPECT_TRUE(whole.done && whole.copied);
+  const auto whole = TrimVideo({film, folder.Path("film.avi"), 0, 299});
+  EXPECT_TRUE(whole && whole->copied);
   EXPECT_EQ(fs::file_size(folder.Path("film.avi")), fs::file_size(film));
 }
 
@@ -212,13 +212,12 @@ TEST(VideoTrim, ACancelLeavesTheOldVideo) {
   for (const auto mode : {TrimRequest::Mode::Copy, TrimRequest::Mode::Recompress}) {
     fs::copy_file(MakeTestVideo(MjpegVideo(60)), own, fs::copy_options::overwrite_existing);
     double last = 0;
-    const TrimResult result = TrimVideo({own, own, 10, 50, 30, mode}, [&last](double part) {
+    const auto result = TrimVideo({own, own, 10, 50, 30, mode}, [&last](double part) {
       EXPECT_GE(part, last);
       last = part;
       return part < 0.5;
     });
-    EXPECT_TRUE(result.cancelled);
-    EXPECT_FALSE(result.done);
+    EXPECT_EQ(result.Kind(), Fault::Cancelled);
     EXPECT_EQ(NumbersOf(own).size(), 60u);
     EXPECT_EQ(folder.FileCount(), 1u);
   }

@@ -15,7 +15,7 @@ struct PrinterTest : ::testing::Test {
   /// Prints and counts the pages that came out.
   int PagesOf(const PrintedText& text) {
     const std::string path = folder.Path("out.pdf");
-    EXPECT_EQ(PrintToPdf(text, path).kind, PrintResult::Kind::Printed);
+    EXPECT_TRUE(PrintToPdf(text, path));
     std::ifstream file(path, std::ios::binary);
     const std::string pdf(std::istreambuf_iterator<char>(file), {});
     int pages = 0;
@@ -48,9 +48,9 @@ TEST_F(PrinterTest, ATextTakesAsManyPagesAsItNeeds) {
 TEST_F(PrinterTest, WhatCannotBeWrittenIsToldOf) {
   const PrintedText notes{"Tom", "", "Grip", ""};
   for (const std::string& path : {folder.Path("none/out.pdf"), folder.Path(), std::string("/dev/full")}) {
-    const PrintResult result = PrintToPdf(notes, path);
-    EXPECT_EQ(result.kind, PrintResult::Kind::Failed) << path;
-    EXPECT_NE(result.reason.find(path), std::string::npos) << result.reason;
+    const Outcome printed = PrintToPdf(notes, path);
+    EXPECT_EQ(printed.Kind(), Fault::Failed) << path;
+    EXPECT_NE(printed.Why().find(path), std::string::npos) << printed.Why();
   }
 }
 
