@@ -307,7 +307,8 @@ bool AVIControl::ComposeCurrent() {
   // only a field needs a buffer to be rebuilt in.
   const FrameRows rows = VideoStream_->Frame(CurrentRawFrame_, 32);
   if (!rows) return false;
-  surface_.Compose({rows.bits, rows.width, rows.height, rows.rowBytes, rows.bitCount, true}, properties_.FlipHorizontal);
+  surface_.Compose({rows.bits, rows.width, rows.height, rows.rowBytes, rows.bitCount, true}, properties_.FlipHorizontal,
+                   services_.scratch);
   return true;
 }
 

@@ -112,7 +112,7 @@ void AVIControl::ComposeFrameBuffer() {
   const int bits = FormatHeader_.bitCount;
   surface_.Compose({FrameBuffer_.data(), FormatHeader_.width, FormatHeader_.height, ScanLineBytes(FormatHeader_.width, bits),
                     bits, true},
-                   properties_.FlipHorizontal);
+                   properties_.FlipHorizontal, services_.scratch);
 }
 
 /// Shows the buffer, which may hold what no position has.

@@ -18,8 +18,8 @@ void FrameSurface::UpdatePenBrush(const Pen& pen, Rop2 mode) {
   FrameGraphics_.SetBrush(std::nullopt);
 }
 
-void FrameSurface::Compose(const PixelRows& picture, bool flip) {
-  StretchRows(picture, MainSurface_, scratch_);
+void FrameSurface::Compose(const PixelRows& picture, bool flip, ScaleScratch& scratch) {
+  StretchRows(picture, MainSurface_, scratch);
   if (flip) MirrorHorizontal(MainSurface_, ScratchSurface_);
 }
 

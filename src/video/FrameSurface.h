@@ -35,7 +35,7 @@ class FrameSurface {
   void Clear(Colour colour) { MainSurface_.Clear(colour); }
 
   /// Stretches a picture over the whole surface, and mirrors it when `flip` is set.
-  void Compose(const PixelRows& picture, bool flip);
+  void Compose(const PixelRows& picture, bool flip, ScaleScratch& scratch);
   /// Says that what was composed last is this picture, before anything is drawn over it.
   void Composed(const Content& content);
   /// Brings a picture back as it was composed; false when it is not kept.
@@ -49,7 +49,6 @@ class FrameSurface {
   Surface MainSurface_;
   Surface ScratchSurface_;  ///< for mirroring
   Canvas FrameGraphics_{MainSurface_};
-  ScaleScratch scratch_;
   std::optional<Content> composed_;  ///< stood on the main surface last, before it was drawn over
   Surface Kept_;                     ///< the same as it was composed, once it has been wanted twice
   bool isKept_ = false;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/host/Host.h"
+#include "platform/paint/PixelOps.h"
 #include "video/PlayScheduler.h"
 
 namespace kinalyx {
@@ -11,6 +12,9 @@ struct PlayerServices {
   PlayScheduler& scheduler;
   /// Pictures per second of the file that was loaded last, by any player; 29 counts as 30.
   int VideoFrameRate = 30;
+  /// Where a picture is widened before it is scaled. One for all: they scale one after the other, and what is
+  /// still in the processor's cache is written over fastest.
+  ScaleScratch scratch{};
 };
 
 }  // namespace kinalyx
