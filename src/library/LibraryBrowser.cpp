@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "library/LibraryReading.h"
+#include "library/VideoNames.h"
 #include "platform/files/Folders.h"
 #include "platform/files/TextEncoding.h"
 
@@ -141,7 +142,7 @@ void LibraryBrowser::ReadVideos() {
   }
   videos_.clear();
   videos_.reserve(files_.size());
-  for (const std::string& file : files_) videos_.push_back(VideoName(file));
+  for (const std::string& file : files_) videos_.push_back(ShownName(file));
   video_ = videos_.empty() ? -1 : 0;
 }
 

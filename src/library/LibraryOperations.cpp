@@ -11,6 +11,7 @@
 #include "library/LibraryReading.h"
 #include "library/RunOperation.h"
 #include "library/StudentJobs.h"
+#include "library/VideoNames.h"
 #include "platform/files/Folders.h"
 #include "platform/files/IniFile.h"
 #include "platform/files/PartFiles.h"
@@ -36,7 +37,7 @@ constexpr int kLevels = 3;
 /// The paths of the videos in a folder and in those below it: lessons are videos too.
 std::vector<std::string> AllVideosBelow(const std::string& folder, int levels = kLevels) {
   std::vector<std::string> paths;
-  for (const std::string& file : ListFiles(folder, ".avi")) paths.push_back(JoinPath(folder, file));
+  for (const std::string& file : ListVideos(folder)) paths.push_back(JoinPath(folder, file));
   if (levels == 1) return paths;
   for (const std::string& name : ListFolders(folder)) {
     const std::vector<std::string> below = AllVideosBelow(JoinPath(folder, name), levels - 1);
@@ -207,7 +208,7 @@ OperationResult LibraryOperations::AddInstructor(std::string_view typed) {
 std::string LibraryOperations::StillFullText(const std::string& instructor) const {
   const std::string folder = tree_.InstructorFolder(instructor);
   // Other programs leave things that no list of ours shows.
-  if (ListFolders(folder).empty() && ListFiles(folder, ".avi").empty())
+  if (ListFolders(folder).empty() && ListVideos(folder).empty())
     return "There are other files in the folder " + folder + ". Move or delete them first.";
   return instructor + " still has " + words_.nouns() + " or videos. Move or delete them first.";
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/Settings.h"
+#include "library/VideoNames.h"
 #include "platform/files/Folders.h"
 #include "platform/files/TextEncoding.h"
 
@@ -46,22 +47,7 @@ std::vector<std::string> LibraryTree::Students(std::string_view instructor) cons
 
 std::vector<std::string> LibraryTree::VideoFiles(std::string_view instructor, std::string_view student) const {
   if (instructor.empty()) return {};
-  return ListFiles(StudentFolder(instructor, student), ".avi");
-}
-
-OtherFilms LibraryTree::FilmsOfOtherKinds(std::string_view instructor, std::string_view student) const {
-  static constexpr std::string_view kKinds[] = {"3gp", "flv", "m2ts", "m4v", "mkv", "mov", "mp4",
-                                                "mpeg", "mpg", "mts", "webm", "wmv"};
-  OtherFilms films;
-  if (instructor.empty()) return films;
-  for (const std::string& file : ListFiles(StudentFolder(instructor, student), "")) {
-    const std::string kind = FoldCase(file.substr(std::min(file.rfind('.'), file.size() - 1) + 1));
-    if (std::ranges::find(kKinds, kind) == std::end(kKinds)) continue;
-    ++films.count;
-    if (std::ranges::find(films.kinds, kind) == films.kinds.end()) films.kinds.push_back(kind);
-  }
-  std::ranges::sort(films.kinds);
-  return films;
+  return ListVideos(StudentFolder(instructor, student));
 }
 
 std::string LibraryTree::InstructorFolder(std::string_view instructor) const {
@@ -76,9 +62,5 @@ std::string LibraryTree::StudentFolder(std::string_view instructor, std::string_
 }
 
 std::string LibraryTree::QuickLaunchFolder() const { return JoinPath(Root(), kQuickLaunch); }
-
-std::string VideoName(std::string_view file) {
-  return std::string(file.substr(0, file.size() > 4 ? file.size() - 4 : 0));
-}
 
 }  // namespace kinalyx

@@ -35,12 +35,6 @@ bool HasFolderNamed(const std::string& folder, std::string_view name, std::strin
 /// The selection that one list remembers for another: instructor, student, and the folder at that time.
 using LastStudentInfo = std::array<std::string, 3>;
 
-/// Films of kinds that the program cannot show.
-struct OtherFilms {
-  int count = 0;
-  std::vector<std::string> kinds;  ///< their extensions, each once: "mov", "mp4"
-};
-
 /// Answers where things lie in the library of the settings, or in one at another root. A root that
 /// changes is followed.
 class LibraryTree {
@@ -55,11 +49,9 @@ class LibraryTree {
   std::vector<std::string> Instructors() const;
   /// None for "General Folder".
   std::vector<std::string> Students(std::string_view instructor) const;
-  /// File names with their extension (.avi in either case). Without a student those that lie directly
+  /// Names of the video files, with their endings. Without a student those that lie directly
   /// in the instructor's folder, or in the root for "General Folder".
   std::vector<std::string> VideoFiles(std::string_view instructor, std::string_view student) const;
-  /// What lies beside them and is a film as well.
-  OtherFilms FilmsOfOtherKinds(std::string_view instructor, std::string_view student) const;
 
   std::string InstructorFolder(std::string_view instructor) const;
   std::string StudentFolder(std::string_view instructor, std::string_view student) const;
@@ -69,8 +61,5 @@ class LibraryTree {
  private:
   const std::string& root_;
 };
-
-/// A file name as the lists show it: without its last four characters.
-std::string VideoName(std::string_view file);
 
 }  // namespace kinalyx

@@ -16,6 +16,7 @@
 #include "core/Numbers.h"
 #include "core/Settings.h"
 #include "drawing/ShapeFile.h"
+#include "library/VideoNames.h"
 #include "platform/files/FileCopy.h"
 #include "platform/files/Folders.h"
 #include "platform/files/TextEncoding.h"
@@ -294,7 +295,9 @@ std::string_view FittingNotes(std::string_view notes) {
 std::size_t NotesLength(std::string_view notes) { return ToWindows1252(notes).size(); }
 
 std::string SidecarPath(std::string_view videoPath) {
-  const std::string stem(videoPath.substr(0, videoPath.size() - std::min<std::size_t>(3, videoPath.size())));
+  const std::string name = SidecarName(videoPath);
+  const std::string folder(videoPath.substr(0, videoPath.size() - LastName(videoPath).size()));
+  const std::string stem = folder + name.substr(0, name.size() - 3);
   constexpr unsigned kEndings = 8;  // each of the three letters small or large; first all small
   for (unsigned large = 0; large < kEndings; ++large) {
     std::string path = stem + "ved";

@@ -16,7 +16,7 @@ namespace kinalyx {
 class Settings;
 
 /// What the analysis section knows of one video, beside the video itself: how its fields are shown, the
-/// drawings on it and the instructor's notes. It lives in the sidecar file, `X.ved` next to `X.avi`.
+/// drawings on it and the instructor's notes. It lives in the sidecar file, `X.ved` next to `X.avi`, `X.mp4.ved` next to `X.mp4`.
 struct SlotData {
   bool Wide = false;
   bool ReverseFields = false;
@@ -49,7 +49,7 @@ std::string_view FittingNotes(std::string_view notes);
 /// a larger one are stored as those of a smaller one.
 inline constexpr int kMostPictureSide = 32767 / kTwipsPerPixel;
 
-/// The sidecar of a video: its path with the last three characters replaced by "ved". One that is there in
+/// The sidecar of a video, see SidecarName. One that is there in
 /// other letters, as "VED" from another system, is the sidecar as long as there is none in small ones.
 std::string SidecarPath(std::string_view videoPath);
 

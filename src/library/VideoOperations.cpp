@@ -11,6 +11,7 @@
 #include "library/RunOperation.h"
 #include "library/Sidecar.h"
 #include "library/TrimJob.h"
+#include "library/VideoNames.h"
 #include "library/VideoTransfer.h"
 #include "platform/files/Folders.h"
 
@@ -20,7 +21,7 @@ namespace {
 
 using OnClash = VideoTransferJob::OnClash;
 
-std::string NameOf(const LibraryVideo& video) { return VideoName(LastName(video.path)); }
+std::string NameOf(const LibraryVideo& video) { return VideoName(video.path); }
 
 /// Removes a video, then its sidecar unless another video needs it; false when the video stays.
 bool RemoveVideo(const std::string& path, IDisk& disk) {
@@ -51,12 +52,12 @@ Outcome RenameWithSidecar(const std::string& from, const std::string& to, IDisk&
   return renamed;
 }
 
-/// True when another video in its folder has the name, or the video itself. Its own name in another case is
-/// free for it.
+/// True when another video of its format in its folder has the name, or the video itself. Its own name in another
+/// case is free for it.
 bool IsTakenBeside(const std::string& videoPath, std::string_view name) {
   const std::string own = LastName(videoPath);
-  return std::ranges::any_of(ListFiles(FolderOf(videoPath), ".avi"), [&](const std::string& file) {
-    return SameName(VideoName(file), name) && (file != own || VideoName(file) == name);
+  return std::ranges::any_of(ListVideos(FolderOf(videoPath)), [&](const std::string& file) {
+    return SameFormat(file, own) && SameName(VideoName(file), name) && (file != own || VideoName(file) == name);
   });
 }
 
@@ -136,17 +137,18 @@ OperationResult LibraryOperations::RenameVideo(const LibraryVideo& video, std::s
   if (!IsValidName(name)) return Refuse("Invalid character in " + words_.noun() + " name.");
   if (IsBlank(name)) return Refuse("You must type a name!");
   const std::string folder = FolderOf(video.path);
-  const std::string to = JoinPath(folder, std::string(name) + video.path.substr(video.path.size() - 4));
+  const std::string file = std::string(name) + VideoExtension(video.path);
+  const std::string to = JoinPath(folder, file);
   const std::string taken = "The video name you have chosen already exists, please try again.";
   if (IsTakenBeside(video.path, name)) return Refuse(taken);
   // Where only the case of a name changes, the disk may take the old sidecar for the new one.
-  if (!SetAsideOrphan(folder, name, disk_) && !SamePlace(ExistingSidecar(video.path), SidecarPath(to))) return Refuse(taken);
+  if (!SetAsideOrphan(folder, file, disk_) && !SamePlace(ExistingSidecar(video.path), SidecarPath(to))) return Refuse(taken);
   if (const Outcome renamed = RenameWithSidecar(video.path, to, disk_); !renamed) {
     if (EntryExists(to) || EntryExists(SidecarPath(to))) return Refuse(taken);
     const std::string text = "The video could not be renamed";
     return EntryExists(video.path) ? Refuse(text + ": " + renamed.Why()) : RefuseGone(text);
   }
-  return {true, "Video renamed successfully.", true, video.instructor, video.student, std::string(name)};
+  return {true, "Video renamed successfully.", true, video.instructor, video.student, ShownName(file)};
 }
 
 OperationResult LibraryOperations::DeleteVideo(const LibraryVideo& video) {
@@ -167,7 +169,7 @@ void LibraryOperations::MoveVideo(const LibraryVideo& video, const std::string& 
   const std::string name = NameOf(video);
   const std::string taken = "A video with the name \"" + name + "\" already exists in the folder named " + targetStudent +
                             ". Please rename the video and try again.";
-  if (HasVideoNamed(folder, name)) return events->Ended(Refuse(taken));
+  if (HasVideoNamed(folder, LastName(video.path))) return events->Ended(Refuse(taken));
   // A student whom another workstation has just renamed or moved away would come back as a bare folder.
   if (!dirExists(folder))
     return events->Ended(Refuse("The folder " + folder + " cannot be found. The video was not moved."));
@@ -203,7 +205,7 @@ void LibraryOperations::Trim(const LibraryVideo& video, int firstFrame, int last
       std::make_unique<TrimJob>(JoinPath(settings_.AppPath, "avitrim"), request),
       [this, video](TrimJob& trim) -> OperationResult {
         if (trim.Saved())
-          return {true, "Last Video Saved Successfully", true, video.instructor, video.student, NameOf(video)};
+          return {true, "Last Video Saved Successfully", true, video.instructor, video.student, ShownName(video.path)};
         if (trim.Cancelled()) return Report(kOperationCancelled);
         host_.Message(MessageKind::Warning, "", "There was a problem saving this video.\n\n" + trim.Error());
         return Report("Last Video WAS NOT SAVED");
@@ -227,7 +229,7 @@ void LibraryOperations::AddToQuickLaunch(const LibraryVideo& video, Events event
   const std::string folder = tree_.QuickLaunchFolder();
   const std::string taken =
       "There is already a video with the same name in the Quick Launch folder. The copy process will be cancelled.";
-  if (HasVideoNamed(folder, NameOf(video))) return events->Ended(Refuse(taken));
+  if (HasVideoNamed(folder, LastName(video.path))) return events->Ended(Refuse(taken));
   auto job = std::make_unique<VideoTransferJob>(CopyJob::Kind::Copy, OnClash::Stop,
                                                 std::vector{VideoTransfer{video.path, folder, {}}}, disk_);
   Run<VideoTransferJob>(
@@ -345,7 +347,7 @@ OperationResult LibraryOperations::EndOfTransfer(const VideoTransferJob& copy, b
     result.instructor = places.front().instructor.empty() ? std::string(kGeneralFolder) : places.front().instructor;
     result.student = places.front().student;
     for (const std::string& path : copy.Arrived())
-      if (FolderOf(path) == folder) result.arrived.push_back(VideoName(LastName(path)));
+      if (FolderOf(path) == folder) result.arrived.push_back(ShownName(path));
   }
   if (copy.Cancelled()) {
     host_.Message(MessageKind::Information, "", kOperationCancelled);
@@ -366,7 +368,7 @@ OperationResult LibraryOperations::EndOfTransfer(const VideoTransferJob& copy, b
 void LibraryOperations::TellUnreadable(const std::vector<std::string>& paths) {
   constexpr std::size_t kNamed = 12;
   std::string names;
-  for (std::size_t i = 0; i < std::min(paths.size(), kNamed); ++i) names += "\n" + VideoName(LastName(paths[i]));
+  for (std::size_t i = 0; i < std::min(paths.size(), kNamed); ++i) names += "\n" + ShownName(paths[i]);
   if (paths.size() > kNamed) names += "\nand " + std::to_string(paths.size() - kNamed) + " more";
   const bool one = paths.size() == 1;
   host_.Message(MessageKind::Warning, "Import Videos",

@@ -9,6 +9,7 @@
 #include "library/LibraryTree.h"
 #include "library/Profile.h"
 #include "library/Sidecar.h"
+#include "library/VideoNames.h"
 #include "platform/files/Folders.h"
 #include "platform/files/PartFiles.h"
 #include "platform/media/VideoFile.h"
@@ -16,8 +17,6 @@
 namespace kinalyx {
 
 namespace {
-
-std::string Extension(const std::string& videoPath) { return videoPath.substr(videoPath.size() - 4); }
 
 std::int64_t BytesWithSidecar(const std::string& videoPath) {
   const std::string sidecar = ExistingSidecar(videoPath);
@@ -34,10 +33,11 @@ std::string InTheWay(std::string folder) {
 
 // ---------------------------------------------------------------- a video and what belongs to it
 
-bool HasVideoNamed(const std::string& folder, std::string_view name) {
-  if (EntryExists(JoinPath(folder, std::string(name) + ".avi"))) return true;
-  return std::ranges::any_of(ListFiles(folder, ".avi"),
-                             [&](const std::string& file) { return SameName(VideoName(file), name); });
+bool HasVideoNamed(const std::string& folder, std::string_view file) {
+  if (EntryExists(JoinPath(folder, file))) return true;
+  return std::ranges::any_of(ListVideos(folder), [&](const std::string& other) {
+    return SameFormat(other, file) && SameName(VideoName(other), VideoName(file));
+  });
 }
 
 std::string ExistingSidecar(const std::string& videoPath) {
@@ -46,27 +46,27 @@ std::string ExistingSidecar(const std::string& videoPath) {
 }
 
 bool SharesSidecar(const std::string& videoPath) {
-  const std::string name = VideoName(LastName(videoPath));
-  return std::ranges::count_if(ListFiles(FolderOf(videoPath), ".avi"),
-                               [&](const std::string& file) { return VideoName(file) == name; }) > 1;
+  const std::string sidecar = SidecarName(videoPath);
+  return std::ranges::count_if(ListVideos(FolderOf(videoPath)),
+                               [&](const std::string& file) { return SidecarName(file) == sidecar; }) > 1;
 }
 
-bool SetAsideOrphan(const std::string& folder, std::string_view name, IDisk& disk) {
+bool SetAsideOrphan(const std::string& folder, std::string_view file, IDisk& disk) {
   // In small letters and in large ones there may be more than one.
   for (;;) {
-    const std::string orphan = SidecarPath(JoinPath(folder, std::string(name) + ".avi"));
+    const std::string orphan = SidecarPath(JoinPath(folder, file));
     if (!EntryExists(orphan)) return true;
-    if (HasVideoNamed(folder, name) || !RenameEntry(orphan, KeptPath(orphan), disk)) return false;
+    if (HasVideoNamed(folder, file) || !RenameEntry(orphan, KeptPath(orphan), disk)) return false;
   }
 }
 
-CopyUnit VideoUnit(const std::string& videoPath, const std::string& folder, std::string_view name) {
+CopyUnit VideoUnit(const std::string& videoPath, const std::string& folder, std::string_view file) {
   CopyUnit unit;
   // First the sidecar: a video never stands anywhere without its drawings.
   const std::string sidecar = ExistingSidecar(videoPath);
   if (!sidecar.empty())
-    unit.push_back({sidecar, JoinPath(folder, std::string(name) + ".ved"), SharesSidecar(videoPath)});
-  unit.push_back({videoPath, JoinPath(folder, std::string(name) + Extension(videoPath))});
+    unit.push_back({sidecar, JoinPath(folder, SidecarName(file)), SharesSidecar(videoPath)});
+  unit.push_back({videoPath, JoinPath(folder, file)});
   return unit;
 }
 
@@ -92,14 +92,16 @@ bool VideoTransferJob::Step() {
   return next_ < videos_.size() && BeginOne();
 }
 
+std::string VideoTransferJob::FileName() const { return name_ + VideoExtension(videos_[next_].path); }
+
 /// Finds the name under which the next video can stand at its target.
 bool VideoTransferJob::BeginOne() {
   const VideoTransfer& video = videos_[next_];
   if (const std::string file = InTheWay(video.folder); !file.empty())
     return Fail("There is a file named \"" + file + "\" where a folder is needed.");
   if (video.path.empty()) return TakeStudent(video);
-  if (name_.empty()) name_ = VideoName(LastName(video.path));
-  while (HasVideoNamed(video.folder, name_) || !SetAsideOrphan(video.folder, name_, disk_)) {
+  if (name_.empty()) name_ = VideoName(video.path);
+  while (HasVideoNamed(video.folder, FileName()) || !SetAsideOrphan(video.folder, FileName(), disk_)) {
     if (onClash_ == OnClash::Stop) {
       nameTaken_ = true;
       return Fail("There is already a video with the name \"" + name_ + "\".");
@@ -107,7 +109,7 @@ bool VideoTransferJob::BeginOne() {
     name_ += 'd';
   }
   if (kind_ != CopyJob::Kind::Move) TakeProfile(video);
-  copy_.emplace(kind_, std::vector<CopyUnit>{VideoUnit(video.path, video.folder, name_)}, disk_);
+  copy_.emplace(kind_, std::vector<CopyUnit>{VideoUnit(video.path, video.folder, FileName())}, disk_);
   return true;
 }
 
@@ -157,7 +159,7 @@ bool VideoTransferJob::EndOfOne() {
   const CopyJob::State state = copy_->Status();
   if (state == CopyJob::State::Done) {
     const VideoTransfer& video = videos_[next_];
-    arrived_.push_back(JoinPath(video.folder, name_ + Extension(video.path)));
+    arrived_.push_back(JoinPath(video.folder, FileName()));
     if (looks_ && !ReadVideoInfo(arrived_.back())) unreadable_.push_back(arrived_.back());
     filesDone_ += copy_->Progress().filesDone;
     bytesDone_ += copy_->Progress().bytesTotal;

@@ -13,9 +13,9 @@ namespace kinalyx {
 
 // --- a video and what belongs to it
 
-/// True when a folder holds a video that the lists show by this name, in whatever case, or when the disk
-/// takes the name for one that is there.
-bool HasVideoNamed(const std::string& folder, std::string_view name);
+/// True when a folder holds a video of this file's name and format, in whatever case, or when the disk takes the
+/// name for one that is there.
+bool HasVideoNamed(const std::string& folder, std::string_view file);
 /// The sidecar of a video when it has one, else "".
 std::string ExistingSidecar(const std::string& videoPath);
 /// True when the sidecar belongs to a second video as well, whose name differs in the case of its
@@ -23,9 +23,9 @@ std::string ExistingSidecar(const std::string& videoPath);
 bool SharesSidecar(const std::string& videoPath);
 /// Makes way for a video: a sidecar of its name that lies there without a video is kept beside, see
 /// KeptPath, so that its drawings neither vanish nor appear on another video. False when it stays there.
-bool SetAsideOrphan(const std::string& folder, std::string_view name, IDisk& disk);
-/// A video and its sidecar on the way to a folder, under a new name without extension.
-CopyUnit VideoUnit(const std::string& videoPath, const std::string& folder, std::string_view name);
+bool SetAsideOrphan(const std::string& folder, std::string_view file, IDisk& disk);
+/// A video and its sidecar on the way to a folder, under a new file name.
+CopyUnit VideoUnit(const std::string& videoPath, const std::string& folder, std::string_view file);
 
 // --- many of them
 
@@ -71,6 +71,8 @@ class VideoTransferJob final : public IJob {
   bool NameTaken() const { return nameTaken_; }
 
  private:
+  /// Of the next video, as far as it has been tried.
+  std::string FileName() const;
   bool Begin();
   bool BeginOne();
   bool TakeStudent(const VideoTransfer& student);

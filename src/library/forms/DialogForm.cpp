@@ -7,6 +7,7 @@
 #include "library/DiskSpace.h"
 #include "library/LibraryActions.h"
 #include "library/LibraryReading.h"
+#include "library/VideoNames.h"
 #include "library/forms/BoxLimits.h"
 #include "library/forms/DriveChoice.h"
 #include "platform/files/Folders.h"
@@ -63,7 +64,7 @@ QWidget* Framed(QLabel* caption, NameList* list) {
 
 /// A video's name as the lists show it; "" when none is chosen.
 std::string VideoOf(const LibraryVideo& about) {
-  return about.path.empty() ? std::string() : VideoName(LastName(about.path));
+  return about.path.empty() ? std::string() : VideoName(about.path);
 }
 
 /// A name that is short enough to stand in a sentence or a heading of the dialog.

@@ -36,8 +36,7 @@ LibrarySide::LibrarySide(DriveWatch& drives, const QString& title, const Setting
     : Panel(QString("IETitle%1").arg(index), title, parent),
       settings_(settings),
       browser_(drives, tree, remembered_, LibraryBrowser::Kind::Exchange),
-      lists_(new LibraryLists(browser_, settings, this, names)),
-      imported_(index == 1) {
+      lists_(new LibraryLists(browser_, settings, this, names)) {
   studentsTitle_ = MakeLabel(QString("IEStudents%1").arg(index), {}, "caption");
   count_ = MakeLabel(QString("IECount%1").arg(index), {}, "muted");
   lists_->VideoList()->setSelectionMode(QAbstractItemView::ExtendedSelection);
@@ -51,11 +50,6 @@ LibrarySide::LibrarySide(DriveWatch& drives, const QString& title, const Setting
   Body()->addLayout(upper, 1);
   Body()->addWidget(Divider());
   Body()->addLayout(Captioned(MakeLabel({}, "Videos", "caption"), lists_->VideoList()), 1);
-  others_ = MakeLabel(QString("IEOthers%1").arg(index), {}, "muted");
-  others_->setWordWrap(true);
-  others_->setContentsMargins(kGap, 4, kGap, 6);
-  others_->hide();
-  Body()->addWidget(others_);
 
   selectAll_ = new Button(QString("IESelectAll%1").arg(index), "Select All", {}, Look::Quiet);
   wholeDatabase_ = new Button(QString("IEWhole%1").arg(index), "Whole Database", {}, Look::Quiet);
@@ -110,24 +104,6 @@ void LibrarySide::StudentChosen() {
   lists_->VideoList()->clearSelection();
   if (browser_.HasStudent()) ChooseWhole(false);
   ShowCount();
-  TellOtherFilms();
-}
-
-/// Who has brought films of a camera that records other files would find an empty list.
-void LibrarySide::TellOtherFilms() {
-  OtherFilms films;
-  if (imported_ && !browser_.Silent()) {
-    const auto look = [instructor = browser_.Instructor(), student = browser_.Student()](const LibraryTree& tree) {
-      return tree.FilmsOfOtherKinds(instructor, student);
-    };
-    films = AskLibrary(browser_.Drives(), browser_.Tree(), look).value_or(OtherFilms());
-  }
-  const QString kinds = Q(films.kinds).join(", ");
-  others_->setText(films.count == 1 ? QString("1 film of another kind (%1) lies here. It cannot be imported yet.").arg(kinds)
-                                    : QString("%1 films of other kinds (%2) lie here. They cannot be imported yet.")
-                                          .arg(films.count)
-                                          .arg(kinds));
-  others_->setVisible(films.count > 0);
 }
 
 void LibrarySide::SelectAll() {

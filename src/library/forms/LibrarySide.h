@@ -43,7 +43,6 @@ class LibrarySide : public Panel {
  private:
   void StudentChosen();
   void ShowCount();
-  void TellOtherFilms();
   void SelectAll();
   void ChooseWhole(bool whole);
 
@@ -52,10 +51,8 @@ class LibrarySide : public Panel {
   LibraryBrowser browser_;
   LibraryLists* lists_;
   std::vector<LibraryVideo> whole_;  ///< of the database that is taken as a whole
-  bool imported_;                    ///< from here videos come into the library
   QLabel* studentsTitle_;
   QLabel* count_;
-  QLabel* others_;
   Button* selectAll_;
   Button* wholeDatabase_;
 };

@@ -304,7 +304,7 @@ void AnalysisForm::SetCalibrationLength(const std::string& length) { calibration
 
 void AnalysisForm::ShowNotesform() {
   const Slot& at = analysis_->Stage().Current();
-  Notesform form(host_, printer_, Q(at.path.empty() ? "" : VideoName(LastName(at.path))), BoxText(at.data.Notes), this);
+  Notesform form(host_, printer_, Q(at.path.empty() ? "" : NameOfVideo(at.path)), BoxText(at.data.Notes), this);
   form.exec();
 }
 

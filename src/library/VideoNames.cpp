@@ -1,0 +1,66 @@
+#include "library/VideoNames.h"
+
+#include <algorithm>
+#include <cctype>
+#include <iterator>
+
+#include "platform/files/Folders.h"
+#include "platform/files/TextEncoding.h"
+
+namespace kinalyx {
+namespace {
+
+constexpr std::string_view kAvi = ".avi";
+constexpr std::string_view kEndings[] = {kAvi,    ".mp4", ".mov",  ".m4v", ".mkv", ".webm", ".mts", ".m2ts", ".ts",
+                                         ".mpg", ".mpeg", ".wmv", ".3gp", ".vob", ".flv",  ".ogg", ".asf"};
+
+/// The ending with its dot, as it is written; empty when the name has none or is nothing else.
+std::string_view EndingOf(std::string_view file) {
+  if (const auto slash = file.rfind('/'); slash != std::string_view::npos) file.remove_prefix(slash + 1);
+  const auto dot = file.rfind('.');
+  return dot == std::string_view::npos || dot == 0 ? std::string_view() : file.substr(dot);
+}
+
+bool IsAvi(std::string_view file) { return FoldCase(EndingOf(file)) == kAvi; }
+
+}  // namespace
+
+bool IsVideoName(std::string_view file) {
+  return std::ranges::find(kEndings, FoldCase(EndingOf(file))) != std::end(kEndings);
+}
+
+std::vector<std::string> ListVideos(const std::string& folder) {
+  std::vector<std::string> files = ListFiles(folder, "");
+  std::erase_if(files, [](const std::string& file) { return !IsVideoName(file); });
+  return files;
+}
+
+std::string VideoName(std::string_view file) {
+  const std::string name = LastName(file);
+  return name.substr(0, name.size() - EndingOf(name).size());
+}
+
+std::string VideoExtension(std::string_view file) { return std::string(EndingOf(file)); }
+
+std::string FormatMark(std::string_view file) {
+  if (IsAvi(file)) return {};
+  std::string mark(EndingOf(file).substr(EndingOf(file).empty() ? 0 : 1));
+  std::ranges::transform(mark, mark.begin(), [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
+  return mark;
+}
+
+std::string ShownName(std::string_view file) {
+  const std::string mark = FormatMark(file);
+  return mark.empty() ? VideoName(file) : VideoName(file) + " \u00B7 " + mark;
+}
+
+bool SameFormat(std::string_view file, std::string_view other) {
+  return FoldCase(EndingOf(file)) == FoldCase(EndingOf(other));
+}
+
+std::string SidecarName(std::string_view videoPath) {
+  const std::string name = LastName(videoPath);
+  return IsAvi(name) ? VideoName(name) + ".ved" : name + ".ved";
+}
+
+}  // namespace kinalyx
