@@ -19,7 +19,7 @@ BadVideos::Fate BadVideos::Offer(const LibraryVideo& video) {
     kept_.insert(**state);
     return Fate::Kept;
   }
-  return operations_.DeleteVideo(video).done ? Fate::Deleted : Fate::Kept;
+  return operations_.DeleteVideo(video).Done() ? Fate::Deleted : Fate::Kept;
 }
 
 }  // namespace kinalyx

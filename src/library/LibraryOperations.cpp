@@ -157,7 +157,7 @@ OperationResult LibraryOperations::Refuse(const std::string& text) {
 }
 
 std::string LibraryOperations::Shown(const std::string& refusal) {
-  return refusal.empty() ? refusal : Refuse(refusal).status;
+  return refusal.empty() ? refusal : Refuse(refusal).Status();
 }
 
 OperationResult LibraryOperations::RefuseGone(const std::string& text) {
@@ -202,7 +202,7 @@ OperationResult LibraryOperations::AddInstructor(std::string_view typed) {
   if (const std::string refusal = Obstacle(); !refusal.empty()) return Refuse(refusal);
   const auto added = kinalyx::AddInstructor(tree_.Root(), name);
   if (!added) return Refuse(added.Why());
-  return {true, *added, true, std::string(name)};
+  return {*added, true, std::string(name)};
 }
 
 std::string LibraryOperations::StillFullText(const std::string& instructor) const {
@@ -231,7 +231,7 @@ OperationResult LibraryOperations::RenameInstructor(const std::string& instructo
     if (EntryExists(to)) return Refuse(taken);
     return EntryExists(from) ? Refuse(text + ": " + renamed.Why()) : RefuseGone(text);
   }
-  return {true, instructor + " successfully renamed.", true, std::string(name)};
+  return {instructor + " successfully renamed.", true, std::string(name)};
 }
 
 OperationResult LibraryOperations::DeleteInstructor(const std::string& instructor) {
@@ -245,7 +245,7 @@ OperationResult LibraryOperations::DeleteInstructor(const std::string& instructo
     const std::string text = instructor + " could not be removed";
     return reason == ENOENT ? RefuseGone(text) : Refuse(text + ": " + std::generic_category().message(reason));
   }
-  return {true, instructor + " successfully removed from the system.", true};
+  return {instructor + " successfully removed from the system.", true};
 }
 
 OperationResult LibraryOperations::AddStudent(const std::string& instructor, const FieldTexts& captions,
@@ -257,7 +257,7 @@ OperationResult LibraryOperations::AddStudent(const std::string& instructor, con
   named[kNameField] = WithoutOuterBlanks(values[kNameField]);
   const auto added = kinalyx::AddStudent(tree_.InstructorFolder(instructor), captions, named, words_.noun());
   if (!added) return Refuse(added.Why());
-  return {true, *added, true, instructor, named[kNameField]};
+  return {*added, true, instructor, named[kNameField]};
 }
 
 OperationResult LibraryOperations::RenameStudentCancelled() const { return Report(words_.Noun() + " rename cancelled."); }
@@ -280,12 +280,12 @@ OperationResult LibraryOperations::RenameStudent(const std::string& instructor, 
     const std::string text = "The " + words_.noun() + " could not be renamed";
     return EntryExists(from) ? Refuse(text + ": " + renamed.Why()) : RefuseGone(text);
   }
-  OperationResult result{true, words_.Noun() + " successfully renamed.", true, instructor, std::string(name)};
+  OperationResult result{words_.Noun() + " successfully renamed.", true, instructor, std::string(name)};
   // A student without a profile gains a whole one at the next look.
   const std::string profile = ProfilePath(to);
   if (FileExists(profile) && !WritePrivateProfileString("Profile", "Name", name, profile)) {
     host_.Message(MessageKind::Warning, "", "An error has occurred while editing the profile");
-    result.status = "An error has occurred while editing the profile";
+    result.words = std::string("An error has occurred while editing the profile");
   }
   return result;
 }
@@ -316,7 +316,7 @@ void LibraryOperations::MoveStudent(const std::string& instructor, const std::st
         if (copy.Status() != CopyJob::State::Done)
           return EntryExists(from) ? Refuse(copy.Error()) : RefuseGone("The " + words_.noun() + " was not moved");
         if (!copy.Error().empty()) host_.Message(MessageKind::Warning, "", copy.Error());
-        return {true, words_.Noun() + " Successfully Moved to " + targetInstructor + " .", true, targetInstructor, student};
+        return {words_.Noun() + " Successfully Moved to " + targetInstructor + " .", true, targetInstructor, student};
       },
       std::move(events));
 }
@@ -328,7 +328,7 @@ void LibraryOperations::DeleteStudent(const std::string& instructor, const std::
   Run<StudentRemovalJob>(
       std::move(job),
       [this, instructor](StudentRemovalJob& removal) -> OperationResult {
-        if (removal.Removed()) return {true, words_.Noun() + " Successfully removed from the system.", true, instructor};
+        if (removal.Removed()) return {words_.Noun() + " Successfully removed from the system.", true, instructor};
         if (removal.Error().empty()) return Report(kOperationCancelled);
         OperationResult result = Refuse("The " + words_.noun() + " could not be removed: " + removal.Error());
         result.refill = true;

@@ -11,6 +11,7 @@
 #include "library/LibraryTree.h"
 #include "library/Profile.h"
 #include "platform/files/FileCopy.h"
+#include "platform/files/Result.h"
 #include "platform/host/Host.h"
 
 namespace kinalyx {
@@ -48,8 +49,8 @@ std::vector<std::string> MoveTargets(const LibraryTree& tree, const LibraryVideo
 
 /// What an operation leaves to the form that asked for it.
 struct OperationResult {
-  bool done = false;
-  std::string status{};  ///< for the status line; a refusal that needs to be read has been shown as well
+  /// Words for the status line. A refusal that needs to be read has been shown in a box as well.
+  Result<std::string> words = Outcome::Failed({});
   bool refill = false;  ///< the lists are to be read again
   /// What to choose then; empty ones stay as they are, as far as they still exist.
   std::string instructor{};
@@ -57,6 +58,9 @@ struct OperationResult {
   std::string video{};
   /// Names of the videos that have come there, where there may be several.
   std::vector<std::string> arrived{};
+
+  bool Done() const { return static_cast<bool>(words); }
+  const std::string& Status() const { return words ? *words : words.Why(); }
 };
 
 /// What a long operation tells whoever asked for it.
@@ -181,7 +185,7 @@ class LibraryOperations {
   std::string Shown(const std::string& refusal);
   /// Refuses because what the operation is about has gone meanwhile.
   OperationResult RefuseGone(const std::string& text);
-  static OperationResult Report(const std::string& text) { return {false, text}; }
+  static OperationResult Report(const std::string& text) { return {Outcome::Failed(text)}; }
   std::string BusyText() const;
   std::string StillFullText(const std::string& instructor) const;
   void AddToQuickLaunch(const LibraryVideo& video, Events events);

@@ -22,7 +22,7 @@ class OperationRun final : public IJobEvents {
   void Over(IJob* job) override {
     events_->WorkOver();
     // A job that was left to itself tells nothing any more.
-    events_->Ended(job ? end_(static_cast<Job&>(*job)) : OperationResult{false, kOperationCancelled, true});
+    events_->Ended(job ? end_(static_cast<Job&>(*job)) : OperationResult{Outcome::Failed(kOperationCancelled), true});
   }
 
  private:

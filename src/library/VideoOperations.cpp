@@ -123,12 +123,12 @@ OperationResult LibraryOperations::SendToAnalysis(const LibraryVideo& video,
                                                   const std::function<void(const std::string&)>& status) {
   if (video.path.empty()) return Report("You must select a video first.");
   if (const std::string refusal = Unreachable(); !refusal.empty()) return Refuse(refusal);
-  OperationResult result;
-  result.done = analysis_.SendToAnalysis(video.path, [&](const std::string& words) {
-    result.status = words;
+  std::string last;
+  const int slot = analysis_.SendToAnalysis(video.path, [&](const std::string& words) {
+    last = words;
     status(words);
-  }) != 0;
-  return result;
+  });
+  return slot != 0 ? OperationResult{last} : Report(last);
 }
 
 OperationResult LibraryOperations::RenameVideo(const LibraryVideo& video, std::string_view typed) {
@@ -148,13 +148,13 @@ OperationResult LibraryOperations::RenameVideo(const LibraryVideo& video, std::s
     const std::string text = "The video could not be renamed";
     return EntryExists(video.path) ? Refuse(text + ": " + renamed.Why()) : RefuseGone(text);
   }
-  return {true, "Video renamed successfully.", true, video.instructor, video.student, ShownName(file)};
+  return {std::string("Video renamed successfully."), true, video.instructor, video.student, ShownName(file)};
 }
 
 OperationResult LibraryOperations::DeleteVideo(const LibraryVideo& video) {
   if (const std::string refusal = RefuseUnlessVideoChangeable(video); !refusal.empty()) return Report(refusal);
   if (!RemoveVideo(video.path, disk_)) return Refuse(kCannotDelete);
-  return {true, "Video Successfully Deleted!", true, video.instructor, video.student};
+  return {std::string("Video Successfully Deleted!"), true, video.instructor, video.student};
 }
 
 void LibraryOperations::MoveVideo(const LibraryVideo& video, const std::string& targetInstructor,
@@ -180,13 +180,13 @@ void LibraryOperations::MoveVideo(const LibraryVideo& video, const std::string& 
       [=, this](VideoTransferJob& move) -> OperationResult {
         if (!move.Failed() && !move.Cancelled()) {
           if (!move.Error().empty()) host_.Message(MessageKind::Warning, "", move.Error());
-          return {true, "Selected video successfully moved.", true};
+          return {std::string("Selected video successfully moved."), true};
         }
         OperationResult refused;
         if (move.NameTaken()) refused = Refuse(taken);
         else if (move.Failed() && !EntryExists(video.path)) refused = RefuseGone("The video was not moved");
         else if (move.Failed()) refused = Refuse(move.Error());
-        refused.status = "No videos were moved.";
+        refused.words = Outcome::Failed("No videos were moved.");
         return refused;
       },
       std::move(events));
@@ -205,7 +205,7 @@ void LibraryOperations::Trim(const LibraryVideo& video, int firstFrame, int last
       std::make_unique<TrimJob>(JoinPath(settings_.AppPath, "avitrim"), request),
       [this, video](TrimJob& trim) -> OperationResult {
         if (trim.Saved())
-          return {true, "Last Video Saved Successfully", true, video.instructor, video.student, ShownName(video.path)};
+          return {std::string("Last Video Saved Successfully"), true, video.instructor, video.student, ShownName(video.path)};
         if (trim.Cancelled()) return Report(kOperationCancelled);
         host_.Message(MessageKind::Warning, "", "There was a problem saving this video.\n\n" + trim.Error());
         return Report("Last Video WAS NOT SAVED");
@@ -237,7 +237,7 @@ void LibraryOperations::AddToQuickLaunch(const LibraryVideo& video, Events event
       [this, taken](VideoTransferJob& copy) -> OperationResult {
         if (copy.Cancelled()) return Report(kOperationCancelled);
         if (copy.Failed()) return Refuse(copy.NameTaken() ? taken : copy.Error());
-        return {true, "The current video was copied to the Quick Launch folder.", true};
+        return {std::string("The current video was copied to the Quick Launch folder."), true};
       },
       std::move(events));
 }
@@ -248,7 +248,7 @@ OperationResult LibraryOperations::RemoveFromQuickLaunch(const LibraryVideo& vid
                       "Are you sure that you want to delete the current video from the Quick Launch folder?"))
     return {};
   if (!RemoveVideo(video.path, disk_)) return Refuse(kCannotDelete);
-  return {true, "The current video was removed from the Quick Launch folder.", true, video.instructor};
+  return {std::string("The current video was removed from the Quick Launch folder."), true, video.instructor};
 }
 
 // ---------------------------------------------------------------- to other drives and back
@@ -272,7 +272,8 @@ void LibraryOperations::CopyToDisk(const std::vector<LibraryVideo>& videos, cons
       std::move(job),
       [this](VideoTransferJob& copy) -> OperationResult {
         if (copy.Failed()) host_.Message(MessageKind::Warning, "", copy.Error());
-        return {!copy.Failed() && !copy.Cancelled(), std::to_string(copy.FilesDone()) + " Files Copied Successfully."};
+        const std::string words = std::to_string(copy.FilesDone()) + " Files Copied Successfully.";
+        return copy.Failed() || copy.Cancelled() ? Report(words) : OperationResult{words};
       },
       std::move(events));
 }
@@ -351,16 +352,17 @@ OperationResult LibraryOperations::EndOfTransfer(const VideoTransferJob& copy, b
   }
   if (copy.Cancelled()) {
     host_.Message(MessageKind::Information, "", kOperationCancelled);
-    result.status = out ? "Export Cancelled" : "Import Cancelled";
+    result.words = Outcome::Failed(out ? "Export Cancelled" : "Import Cancelled");
     return result;
   }
   if (copy.Failed()) host_.Message(MessageKind::Warning, "", copy.Error());
-  result.done = !copy.Failed();
-  result.status =
+  std::string words =
       std::to_string(copy.VideosDone()) + (out ? " File(s) exported successfully!" : " File(s) Imported successfully!");
   if (const int bare = copy.StudentsDone(); bare > 0)
-    result.status += " " + std::to_string(bare) + " " + (bare == 1 ? words_.noun() : words_.nouns()) +
+    words += " " + std::to_string(bare) + " " + (bare == 1 ? words_.noun() : words_.nouns()) +
                      " without videos went along with profile and notes.";
+  if (copy.Failed()) result.words = Outcome::Failed(std::move(words));
+  else result.words = std::move(words);
   if (const auto& bad = copy.Unreadable(); !bad.empty()) TellUnreadable(bad);
   return result;
 }

@@ -22,14 +22,14 @@ struct DatabaseTransfer : OperationsFixture {
 
 TEST_F(DatabaseTransfer, CopiesToADiskAndCounts) {
   const auto copy = [&](const Videos& videos, const std::string& folder) {
-    return Run(&LibraryOperations::CopyToDisk, videos, folder).status;
+    return Run(&LibraryOperations::CopyToDisk, videos, folder).Status();
   };
   EXPECT_EQ(copy({DL(), FO()}, drive.Path()), "3 Files Copied Successfully.");
   EXPECT_EQ(heard->statuses.back(), "Copying Videos, Please Wait.....");
   EXPECT_EQ(drive.Get("(001) DL.avi"), "video 1");
   EXPECT_EQ(copy({DL()}, drive.Path("gone")), "Drive Error");
   EXPECT_EQ(copy({Video("Ann", "Joe Doe", "never")}, drive.Path()), "0 Files Copied Successfully.");
-  EXPECT_EQ(Import({}).status, "No Videos Selected");
+  EXPECT_EQ(Import({}).Status(), "No Videos Selected");
 
   // A folder with the name of a video is none, and its name is taken all the same.
   const LibraryVideo capitals{"Ann", "Joe Doe", library.Path("Ann/Joe Doe/(002) FO.AVI")};
@@ -41,7 +41,7 @@ TEST_F(DatabaseTransfer, CopiesToADiskAndCounts) {
 
 TEST_F(DatabaseTransfer, ADatabaseGoesOutAndComesBackAgainAndAgain) {
   library.File("loose.avi", "loose");
-  EXPECT_EQ(Export({DL(), FO(), Video("General Folder", "", "loose")}, drive.Path()).status, "3 File(s) exported successfully!");
+  EXPECT_EQ(Export({DL(), FO(), Video("General Folder", "", "loose")}, drive.Path()).Status(), "3 File(s) exported successfully!");
   EXPECT_EQ(heard->statuses.front(), "Exporting Videos, Please Wait.....");
   EXPECT_EQ(heard->statuses.back(), "3 of 3 Videos Successfully exported.....Please wait...");
   EXPECT_EQ(drive.Get("Ann/Joe Doe/(001) DL.ved"), "1XXXSXXX");
@@ -51,7 +51,7 @@ TEST_F(DatabaseTransfer, ADatabaseGoesOutAndComesBackAgainAndAgain) {
   fs::remove_all(library.Path("Ann"));
   heard->statuses.clear();
   const auto abroad = [&](const char* name) { return LibraryVideo{"Ann", "Joe Doe", drive.Path("Ann/Joe Doe/") + name}; };
-  EXPECT_EQ(Import({abroad("(001) DL.avi"), abroad("(002) FO.avi")}).status, "2 File(s) Imported successfully!");
+  EXPECT_EQ(Import({abroad("(001) DL.avi"), abroad("(002) FO.avi")}).Status(), "2 File(s) Imported successfully!");
   EXPECT_EQ(heard->statuses.front(), "Importing Videos... Please Wait.....");
   EXPECT_EQ(heard->statuses.back(), "2 of 2 Videos Successfully Imported.");
   EXPECT_EQ(Read("Ann/Joe Doe/(001) DL.ved"), "1XXXSXXX");
@@ -62,7 +62,7 @@ TEST_F(DatabaseTransfer, ADatabaseGoesOutAndComesBackAgainAndAgain) {
   WritePrivateProfileString("Profile", "Age", "45", profile);
   fs::remove(library.Path("Ann/Joe Doe/profile.txt"));
   for (const char* name : {"(001) DLd", "(001) DLdd"}) {
-    EXPECT_TRUE(Import({abroad("(001) DL.avi")}).done);
+    EXPECT_TRUE(Import({abroad("(001) DL.avi")}).Done());
     EXPECT_EQ(Read(std::string("Ann/Joe Doe/") + name + ".ved"), "1XXXSXXX");
   }
   EXPECT_EQ(AgeIn(profile), "45");
@@ -72,7 +72,7 @@ TEST_F(DatabaseTransfer, ADatabaseGoesOutAndComesBackAgainAndAgain) {
 TEST_F(DatabaseTransfer, StudentsWithoutVideosGoWithTheirDatabase) {
   library.File("Ann/New Nell/profile.prf", "[Profile]\nName=New Nell\nAge=9\n");
   library.File("Ann/New Nell/profile.txt", "begins in May\r\n");
-  EXPECT_EQ(Export(VideosOf(LibraryTree(library.settings), "Ann"), drive.Path()).status,
+  EXPECT_EQ(Export(VideosOf(LibraryTree(library.settings), "Ann"), drive.Path()).Status(),
             "2 File(s) exported successfully! 1 student without videos went along with profile and notes.");
   EXPECT_EQ(heard->statuses.back(), "2 of 2 Videos Successfully exported.....Please wait...");
   EXPECT_EQ(drive.Get("Ann/New Nell/profile.txt"), "begins in May\r\n");
@@ -84,7 +84,7 @@ TEST_F(DatabaseTransfer, APlainFolderComesToTheChosenStudentAndWhatIsNoVideoIsNa
   drive.Put("letter.avi", "no video");
   const auto loose = [&](const char* name) { return LibraryVideo{"General Folder", "", drive.Path(name)}; };
   const OperationResult both = Import({loose("good.avi"), loose("letter.avi")}, {"Bob", "Sue"});
-  EXPECT_EQ(both.status, "2 File(s) Imported successfully!");
+  EXPECT_EQ(both.Status(), "2 File(s) Imported successfully!");
   EXPECT_EQ(both.instructor + "/" + both.student, "Bob/Sue");
   EXPECT_EQ(both.arrived, (std::vector<std::string>{"good", "letter"}));
   EXPECT_TRUE(Exists("Bob/Sue/letter.avi")) << "nothing that was chosen is left behind";
@@ -94,36 +94,36 @@ TEST_F(DatabaseTransfer, APlainFolderComesToTheChosenStudentAndWhatIsNoVideoIsNa
   EXPECT_EQ(Import({loose("good.avi")}).instructor, "General Folder");
   EXPECT_TRUE(Exists("good.avi"));
   // What lies directly with an instructor would be in no list.
-  EXPECT_TRUE(Import({{"Range Day", "", drive.Path("good.avi")}}, {"Ann", "Joe Doe"}).done);
+  EXPECT_TRUE(Import({{"Range Day", "", drive.Path("good.avi")}}, {"Ann", "Joe Doe"}).Done());
   EXPECT_TRUE(Exists("Ann/Joe Doe/good.avi"));
   EXPECT_FALSE(Exists("Range Day"));
-  EXPECT_FALSE(Import({loose("good.avi")}, {"Bob", "Gone"}).done);
+  EXPECT_FALSE(Import({loose("good.avi")}, {"Bob", "Gone"}).Done());
   EXPECT_FALSE(Exists("Bob/Gone"));
 }
 
 TEST_F(DatabaseTransfer, TheLibraryIsNoDriveOfItsOwn) {
   fs::create_directory_symlink(library.Root(), library.Root() + " link");
   for (const std::string& own : {library.Root(), library.Path("Bob"), library.Root() + " link"}) {
-    EXPECT_EQ(Export({DL()}, own).status,
+    EXPECT_EQ(Export({DL()}, own).Status(),
               "The folder " + own + " belongs to this library. Choose a drive or folder outside of it.");
   }
-  EXPECT_EQ(Import({DL()}).status, "The source and destination folders are the same. No videos were copied.");
+  EXPECT_EQ(Import({DL()}).Status(), "The source and destination folders are the same. No videos were copied.");
   EXPECT_FALSE(Exists("Bob/Ann") || Exists("Ann/Joe Doe/(001) DLd.avi"));
 }
 
 TEST_F(DatabaseTransfer, AFileInTheWayOfAFolderIsNamed) {
   drive.Put("Ann", "a file");
-  EXPECT_EQ(Export({DL()}, drive.Path()).status, "0 File(s) exported successfully!");
+  EXPECT_EQ(Export({DL()}, drive.Path()).Status(), "0 File(s) exported successfully!");
   EXPECT_EQ(Message(), "There is a file named \"Ann\" where a folder is needed.");
 }
 
 TEST_F(DatabaseTransfer, AnExportCanBeStoppedAndKeepsWhatHasArrived) {
   heard->onProgress = [this](const JobProgress& progress) {
     EXPECT_TRUE(Ops().Busy());
-    EXPECT_NE(Ops().DeleteVideo(DL()).status.find("still at work"), std::string::npos);
+    EXPECT_NE(Ops().DeleteVideo(DL()).Status().find("still at work"), std::string::npos);
     if (progress.done == 2) Ops().Cancel();
   };
-  EXPECT_EQ(Export(Videos(20, DL()), drive.Path()).status, "Export Cancelled");
+  EXPECT_EQ(Export(Videos(20, DL()), drive.Path()).Status(), "Export Cancelled");
   EXPECT_EQ(Message(), "Operation Cancelled");
   EXPECT_FALSE(Ops().Busy());
   EXPECT_EQ(ListFiles(drive.Path("Ann/Joe Doe"), ".avi").size(), 2u);

@@ -42,14 +42,14 @@ void ExpectNothingLost(const OperationsFixture& t, const OperationResult& result
     EXPECT_EQ(bytes, "1XXXSXXX");
     // What a finished move could not take away is told of, and does no harm.
     const std::string video = TempLibrary::Read(fs::path(path).replace_extension(".avi").string());
-    const bool told = result.done && !t.library.host.messages.empty();
+    const bool told = result.Done() && !t.library.host.messages.empty();
     EXPECT_TRUE(video == "video 1" || (video.empty() && told)) << path;
   }
   // A copy of a move whose source could not be removed is there twice.
-  EXPECT_GE(videos, 1) << result.status;
-  EXPECT_GE(drawings, 1) << result.status;
-  EXPECT_GE(profiles, 1) << result.status;
-  EXPECT_TRUE(result.done || t.Exists("Ann/Joe Doe/(001) DL.avi")) << result.status;
+  EXPECT_GE(videos, 1) << result.Status();
+  EXPECT_GE(drawings, 1) << result.Status();
+  EXPECT_GE(profiles, 1) << result.Status();
+  EXPECT_TRUE(result.Done() || t.Exists("Ann/Joe Doe/(001) DL.avi")) << result.Status();
 }
 
 /// Does each operation again and again, within a drive and between two, on a fresh library; `tryOne` does it,
@@ -79,7 +79,7 @@ TEST_F(OperationFaults, LoseNothingWhicheverCallToTheDiskFails) {
     TwoDrives drives(failing);
     Use(twoDrives ? static_cast<IDisk&>(drives) : failing);
     result = operation.run(*this);
-    EXPECT_TRUE(result.done || !library.host.messages.empty()) << "a failure is told";
+    EXPECT_TRUE(result.Done() || !library.host.messages.empty()) << "a failure is told";
     operations.reset();
     return failing.Failed();
   });

@@ -138,7 +138,11 @@ TEST_F(ProfileTest, TwoWorkstationsKeepEachOthersFieldsAndLines) {
 
   // While the drive is silent the other desk goes on, and so does this one.
   reached = false;
-  EXPECT_FALSE(notes.Keep("weak grip\nhips\nfrom the other desk\nmine\n"));
+  EXPECT_TRUE(notes.Keep(notes.Text())) << "what has not changed asks nothing of the drive";
+  EXPECT_EQ(notes.Keep("weak grip\nhips\nfrom the other desk\nmine\n").Why(), "the drive is not answering");
+  notes.Open(library.Path("Demo/Ann"));
+  EXPECT_FALSE(notes.Readable()) << "nothing is typed over notes that nobody has seen";
+  notes.Open(student);
   ASSERT_TRUE(SaveNotes(student, "first\r\n" + File("profile.txt")));
   EXPECT_FALSE(notes.Keep("weak grip\nhips\nfrom the other desk\nmine\nmore\n"));
   reached = true;

@@ -4,7 +4,6 @@
 #include "TempLibrary.h"
 #include "library/LibraryBrowser.h"
 #include "library/LibraryOperations.h"
-#include "library/NotesKeeper.h"
 
 namespace kinalyx::test {
 namespace {
@@ -67,8 +66,8 @@ TEST_F(SilentOperationsTest, EveryChangeIsRefusedInWords) {
     for (const auto& change : changes) {
       last.reset();
       const OperationResult result = change();
-      EXPECT_FALSE(result.done);
-      EXPECT_TRUE(result.status.ends_with("Nothing was changed.")) << result.status;
+      EXPECT_FALSE(result.Done());
+      EXPECT_TRUE(result.Status().ends_with("Nothing was changed.")) << result.Status();
     }
     EXPECT_TRUE(host.questions.empty());
     EXPECT_TRUE(analysis.sent.empty());
@@ -85,7 +84,7 @@ TEST_F(SilentOperationsTest, EveryChangeIsRefusedInWords) {
   expectRefusals();
   EXPECT_FALSE(std::filesystem::exists(library.Root()));
   std::filesystem::rename(library.Root() + " away", library.Root());
-  EXPECT_TRUE(operations.RenameVideo(video, "new").done);
+  EXPECT_TRUE(operations.RenameVideo(video, "new").Done());
 }
 
 TEST_F(SilentOperationsTest, ADriveThatTakesNoCopiesIsNamed) {
@@ -93,29 +92,10 @@ TEST_F(SilentOperationsTest, ADriveThatTakesNoCopiesIsNamed) {
   host.drivesHang = true;
   operations.ExportVideos({video}, disk.Path(), heard);
   ASSERT_TRUE(heard->ended);
-  EXPECT_NE(heard->ended->status.find(disk.Path()), std::string::npos) << heard->ended->status;
+  EXPECT_NE(heard->ended->Status().find(disk.Path()), std::string::npos) << heard->ended->Status();
   EXPECT_FALSE(operations.Busy());
   host.DrivesAnswer();
   EXPECT_TRUE(std::filesystem::is_empty(disk.Path()));
-}
-
-TEST_F(SilentLibraryTest, NotesWaitUntilTheDriveAnswers) {
-  const std::string tom = library.Path("Demo/Tom");
-  library.File("Demo/Tom/profile.txt", "old\r\n");
-  FakeNotesEvents events;
-  events.reach = [&](const std::string& folder) { return host.Drives().Answers(library.Root(), folder); };
-  NotesKeeper notes(events);
-  EXPECT_EQ(notes.Open(tom), "old\r\n");
-  host.drivesHang = true;
-  EXPECT_TRUE(notes.Keep("old\n")) << "what has not changed asks nothing of the drive";
-  EXPECT_EQ(notes.Keep("new\n").Why(), "the drive is not answering");
-  notes.Open(library.Path("Demo/Ann"));
-  EXPECT_FALSE(notes.Readable()) << "nothing is typed over notes that nobody has seen";
-
-  host.DrivesAnswer();
-  EXPECT_EQ(notes.Open(tom), "new\r\n");
-  EXPECT_TRUE(notes.Keep("new\n"));
-  EXPECT_EQ(TempLibrary::Read(tom + "/profile.txt"), "new\r\n");
 }
 
 }  // namespace

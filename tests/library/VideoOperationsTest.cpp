@@ -20,24 +20,24 @@ TEST_F(VideoOperations, NothingHappensWithoutAChoiceOrToAVideoThatIsOpenInAnalys
   const std::string noVideo = "You must select a video first.";
   open = {DL().path};
   for (const auto& operation : operations) {
-    EXPECT_EQ(operation({}).status, noVideo);
-    EXPECT_EQ(operation(DL()).status,
+    EXPECT_EQ(operation({}).Status(), noVideo);
+    EXPECT_EQ(operation(DL()).Status(),
               "This video is open in the Analysis section. You must close the video before you can continue.");
   }
-  EXPECT_EQ(Ops().SendToAnalysis({}, [](const std::string&) {}).status, noVideo);
-  EXPECT_EQ(Run(&LibraryOperations::QuickLaunch, LibraryVideo()).status, noVideo);
+  EXPECT_EQ(Ops().SendToAnalysis({}, [](const std::string&) {}).Status(), noVideo);
+  EXPECT_EQ(Run(&LibraryOperations::QuickLaunch, LibraryVideo()).Status(), noVideo);
   EXPECT_EQ(Read("Ann/Joe Doe/(001) DL.avi"), "video 1");
-  EXPECT_TRUE(Ops().RenameVideo(FO(), "x").done);
+  EXPECT_TRUE(Ops().RenameVideo(FO(), "x").Done());
 }
 
 TEST_F(VideoOperations, RenamesAVideoWithItsSidecar) {
-  for (const char* bad : {"50%", ""}) EXPECT_EQ(Ops().RenameVideo(DL(), bad).status, "Invalid character in student name.");
-  EXPECT_EQ(Ops().RenameVideo(DL(), "(002) FO").status,
+  for (const char* bad : {"50%", ""}) EXPECT_EQ(Ops().RenameVideo(DL(), bad).Status(), "Invalid character in student name.");
+  EXPECT_EQ(Ops().RenameVideo(DL(), "(002) FO").Status(),
             "The video name you have chosen already exists, please try again.");
   // Drawings that lost their video must not turn up on another.
   library.File("Ann/Joe Doe/a.b.ved", "orphan");
   const OperationResult result = Ops().RenameVideo(DL(), " a.b ");
-  EXPECT_EQ(result.status, "Video renamed successfully.");
+  EXPECT_EQ(result.Status(), "Video renamed successfully.");
   EXPECT_EQ(result.video, "a.b");
   EXPECT_EQ(Read("Ann/Joe Doe/a.b.avi"), "video 1");
   EXPECT_EQ(Read("Ann/Joe Doe/a.b.ved"), "1XXXSXXX");
@@ -45,13 +45,13 @@ TEST_F(VideoOperations, RenamesAVideoWithItsSidecar) {
   EXPECT_FALSE(Exists("Ann/Joe Doe/(001) DL.ved"));
   // One without a sidecar goes alone and gains none.
   library.File("Ann/Joe Doe/free.ved", "orphan");
-  EXPECT_TRUE(Ops().RenameVideo(FO(), "free").done);
+  EXPECT_TRUE(Ops().RenameVideo(FO(), "free").Done());
   EXPECT_FALSE(Exists("Ann/Joe Doe/free.ved"));
   // Where the orphan cannot be moved out of the way, the video stays.
   library.File("Ann/Joe Doe/next.ved", "orphan");
   FailingDisk failing(0);
   Use(failing);
-  EXPECT_FALSE(Ops().RenameVideo(Video("Ann", "Joe Doe", "free"), "next").done);
+  EXPECT_FALSE(Ops().RenameVideo(Video("Ann", "Joe Doe", "free"), "next").Done());
   EXPECT_TRUE(failing.Failed());
   EXPECT_FALSE(Exists("Ann/Joe Doe/next.avi"));
 
@@ -62,23 +62,23 @@ TEST_F(VideoOperations, RenamesAVideoWithItsSidecar) {
 TEST_F(VideoOperations, ASidecarThatTwoVideosShareIsLeftToTheOther) {
   LibraryVideo capitals = DL();
   capitals.path = library.File("Ann/Joe Doe/(001) DL.AVI", "video in capitals");
-  EXPECT_TRUE(Run(&LibraryOperations::MoveVideo, capitals, "Bob", "Sue").done);
+  EXPECT_TRUE(Run(&LibraryOperations::MoveVideo, capitals, "Bob", "Sue").Done());
   EXPECT_EQ(Read("Bob/Sue/(001) DL.AVI"), "video in capitals");
   EXPECT_EQ(Read("Bob/Sue/(001) DL.ved"), "1XXXSXXX");
   EXPECT_EQ(Read("Ann/Joe Doe/(001) DL.ved"), "1XXXSXXX");
   library.File("Ann/Joe Doe/(001) DL.AVI", "again");
-  EXPECT_TRUE(Ops().RenameVideo(capitals, "again").done);
+  EXPECT_TRUE(Ops().RenameVideo(capitals, "again").Done());
   EXPECT_EQ(Read("Ann/Joe Doe/again.ved") + Read("Ann/Joe Doe/(001) DL.ved"), "1XXXSXXX1XXXSXXX");
   library.File("Ann/Joe Doe/(001) DL.AVI", "and again");
-  EXPECT_EQ(Ops().DeleteVideo(capitals).status, "Video Successfully Deleted!");
+  EXPECT_EQ(Ops().DeleteVideo(capitals).Status(), "Video Successfully Deleted!");
   EXPECT_TRUE(Exists("Ann/Joe Doe/(001) DL.ved"));
-  EXPECT_TRUE(Ops().DeleteVideo(DL()).done);
+  EXPECT_TRUE(Ops().DeleteVideo(DL()).Done());
   EXPECT_FALSE(Exists("Ann/Joe Doe/(001) DL.avi") || Exists("Ann/Joe Doe/(001) DL.ved"));
 }
 
 TEST_F(VideoOperations, MovesAVideo) {
   const auto move = [&](const char* instructor, const char* student) {
-    return Run(&LibraryOperations::MoveVideo, DL(), instructor, student).status;
+    return Run(&LibraryOperations::MoveVideo, DL(), instructor, student).Status();
   };
   EXPECT_EQ(move("Bob", ""), "You must select a Database and student for the video.");
   const std::string same = "The source and destination folders are the same. The video was not moved.";
@@ -102,7 +102,7 @@ TEST_F(VideoOperations, MovesAVideo) {
 TEST_F(VideoOperations, QuickLaunchTakesCopiesAndGivesThemUp) {
   const auto quickLaunch = [&](const LibraryVideo& video, bool answer) {
     library.host.answers = {answer};
-    return Run(&LibraryOperations::QuickLaunch, video).status;
+    return Run(&LibraryOperations::QuickLaunch, video).Status();
   };
   EXPECT_EQ(quickLaunch(DL(), false), "");
   EXPECT_FALSE(Exists("Quick Launch"));
@@ -129,7 +129,7 @@ TEST_F(VideoOperations, TrimsByTheSmallProgram) {
     std::ofstream(path) << "#!/bin/sh\n" << script;
     fs::permissions(path, fs::perms::owner_all);
   };
-  const auto trim = [&](int first, int last) { return Run(&LibraryOperations::Trim, DL(), first, last, 25).status; };
+  const auto trim = [&](int first, int last) { return Run(&LibraryOperations::Trim, DL(), first, last, 25).Status(); };
   EXPECT_EQ(trim(8, 4),
             "Your TRIM Start and End times are not correct. Please check your Start and End times and try again.");
   EXPECT_EQ(trim(1, 4), "Last Video WAS NOT SAVED");  // there is no program

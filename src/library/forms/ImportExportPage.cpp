@@ -175,9 +175,9 @@ void ImportExportPage::IECmd_Click(int command) {
 /// What has arrived is shown where it is; what was chosen stays chosen no longer.
 void ImportExportPage::ShowResult(bool out, const OperationResult& result) {
   if (result.refill) (out ? there_ : here_)->ShowArrived(result);
-  if (result.done) (out ? here_ : there_)->Refresh();
+  if (result.Done()) (out ? here_ : there_)->Refresh();
   DiskSpaceGauge();
-  Say(Q(result.status));
+  Say(Q(result.Status()));
 }
 
 /// The student who is chosen in this library gets what has none at the other place. Quick Launch takes videos

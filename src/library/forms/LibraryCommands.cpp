@@ -71,7 +71,7 @@ void LibraryCommands::SendToAnalysis() {
   if (operations_.Busy()) return page_.Say("Please wait until the operation under way has finished.");
   if (videos_.VideoPlay1().Control().IsPlaying()) videos_.VideoPlay1().TogglePlay();
   const auto say = [this](const std::string& words) { page_.Say(Q(words)); };
-  page_.Say(Q(operations_.SendToAnalysis(ChosenVideo(browser_), say).status));
+  page_.Say(Q(operations_.SendToAnalysis(ChosenVideo(browser_), say).Status()));
 }
 
 // ---------------------------------------------------------------- preparing
@@ -160,7 +160,7 @@ void LibraryCommands::Carry() {
 
 void LibraryCommands::Cancelled() {
   const bool renamesStudent = dialog_->CurrentMode() == Mode::RenameStudent;
-  page_.Say(renamesStudent ? Q(operations_.RenameStudentCancelled().status) : QString());
+  page_.Say(renamesStudent ? Q(operations_.RenameStudentCancelled().Status()) : QString());
 }
 
 void LibraryCommands::Do(const std::function<OperationResult()>& operation) {
@@ -179,9 +179,9 @@ void LibraryCommands::DoLong(const QString& title, const std::function<void(Even
 
 /// What was refused can be put right in the dialog; what has been done closes it.
 void LibraryCommands::Show(const OperationResult& result) {
-  if (result.done) dialog_->accept();
+  if (result.Done()) dialog_->accept();
   page_.ShowResult(result);
-  page_.Say(Q(result.status));
+  page_.Say(Q(result.Status()));
 }
 
 }  // namespace kinalyx

@@ -379,23 +379,23 @@ void ProfilesPage::ProAddSaveBtn() {
     return;
   }
   const OperationResult added = operations_.AddStudent(instructor, fields_.Captions(), values);
-  if (added.done) {
+  if (added.Done()) {
     CloseEditor();
     ShowResult(added);
   }
-  Say(Q(added.status));
+  Say(Q(added.Status()));
 }
 
 void ProfilesPage::AddInstructor(const QString& name) {
   const OperationResult added = operations_.AddInstructor(Std(name));
-  if (added.done) {
+  if (added.Done()) {
     instructors_->ShowNameBox(false);
     LastStudent_ = {added.instructor, "", browser_.Tree().InstructorFolder(added.instructor)};
     kinalyx::ShowResult(added, browser_);
     editor_->SetInstructors(RealInstructors());  // what has been typed into the panel stays
     lists_->ShowAll();
   }
-  Say(Q(added.status));
+  Say(Q(added.Status()));
 }
 
 }  // namespace kinalyx
