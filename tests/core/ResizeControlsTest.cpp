@@ -15,14 +15,8 @@ TEST(ResizeControls, RatiosAreAgainstTheSizeBefore) {
     EXPECT_EQ(controls.HeightRatio, down);
     EXPECT_EQ(controls.FontRatio, down);
   }
-}
-
-TEST(ResizeControls, FontsFollowTheHeightBelowOnePointSix) {
-  for (const auto& [height, font] : {std::pair{0.75F, 0.75F}, {1.59F, 1.59F}, {1.6F, 1.5F}, {3.0F, 1.5F}})
-    EXPECT_EQ(FontRatioOf(height), font);
-  ResizeControls controls;
-  controls.Resize(1280, 960);  // exactly 1.6 times as high
-  EXPECT_EQ(controls.FontRatio, 1.5F);
+  EXPECT_EQ(FontRatioOf(1.59F), 1.59F);
+  EXPECT_EQ(FontRatioOf(1.6F), 1.5F);
 }
 
 TEST(ResizeControls, TextIsThatOfTheSizeWhateverTheWay) {

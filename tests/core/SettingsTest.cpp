@@ -61,13 +61,9 @@ TEST(Settings, FirstRunWritesEveryKeyInOrderAndHoldsIt) {
   }
   EXPECT_EQ(s.LibraryPath, desk.data + "/Video Library");
   EXPECT_EQ(s.BackgroundPic, "/opt/kinalyx/pictures/backgrounds/bio-guy blue.jpg");
-  EXPECT_EQ(s.LogoName, "/opt/kinalyx/pictures/Logo.jpg");
-  EXPECT_EQ(s.Heading[1], "Welcome to the");
   EXPECT_EQ(s.SlomoSpeed, 25);
   EXPECT_TRUE(s.CadOutline);
   EXPECT_FALSE(s.HDSplitFields);
-  EXPECT_TRUE(s.SplitFields);
-  EXPECT_EQ(s.NewColors[2], 32768);
   EXPECT_EQ(s.NewColors[11], 8388608);
   EXPECT_EQ(s.WindowInfo[2], 12000);
   EXPECT_TRUE(desk.host.messages.empty());

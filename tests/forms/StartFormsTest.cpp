@@ -17,27 +17,17 @@
 #include "core/forms/MenuPage.h"
 #include "core/forms/MenuSection.h"
 #include "core/forms/SplashForm.h"
-#include "platform/files/IniFile.h"
 #include "platform/widgets/Theme.h"
-#include "support/TempFolder.h"
-#include "support/TestHost.h"
+#include "support/TestDesk.h"
 
 namespace kinalyx::test {
 namespace {
 
-struct Desk : UsesApplication {
-  TempFolder folder;
-  TestHost host;
-  Settings settings{host, folder.Path("data"), folder.Path("program")};
+struct Desk : UsesApplication, TestDesk {
   MailSettings mail{settings.DataPath};
 
-  Desk() {
-    settings.LoadSettings();
-    mail.LoadMailSettings();
-  }
-  std::string OnDisk(const char* key) {
-    return ReadProfileValue("General", key, settings.ConfigFile()).value_or("missing");
-  }
+  Desk() { mail.LoadMailSettings(); }
+  std::optional<std::string> OnDisk(const char* key) const { return TestDesk::OnDisk("General", key); }
 };
 
 template <typename Widget>
