@@ -24,7 +24,7 @@ namespace kinalyx {
 namespace {
 
 constexpr QSize kLeastMain(1000, 680);
-/// A window that keeps its size for so long has got where it is dragged to.
+/// After so long without a change of size a drag is taken as ended.
 constexpr int kSettledMs = 150;
 /// By then a desktop has put its frame around a new window.
 constexpr int kFramedMs = 150;

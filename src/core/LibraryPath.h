@@ -12,8 +12,8 @@ std::string LocalLibraryPath(const Settings& settings);
 
 /// Asks whether the library is to lie in a folder of the user's choice, then for the folder, and takes it.
 /// The root of a drive gives a folder "Video Library" on it. A folder that does not exist yet is made, with
-/// "Amateurs" and "Models" inside. True when the settings have changed to that folder. A folder that cannot be
-/// used is told. Who is asked for a folder and names none has the network flag cleared.
+/// "Amateurs" and "Models" inside. True when the settings now name that folder. The user is told of a folder that
+/// cannot be used. If the user cancels the choice of a folder, the network flag is cleared.
 bool SwitchNetworkOn(IHost& host, Settings& settings);
 
 /// Back to the library on this machine.

@@ -38,7 +38,7 @@ void ResetLogo(Settings& settings);
 void NextCaptionPosition(Settings& settings);
 
 /// Where a place stands on the page: three rows of three on the left half, and the lower right corner; the
-/// upper right is left to the face of whom the picture shows. Parts of the free width and height, 0 the left
+/// upper right stays free for the face in the picture. Parts of the free width and height, 0 the left
 /// or upper edge, 1 the right or lower. A position outside 1 to 10 counts as 1.
 struct CaptionPlace {
   double across = 0;

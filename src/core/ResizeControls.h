@@ -2,7 +2,7 @@
 
 namespace kinalyx {
 
-/// By what the fonts grow when a form grows by `heightRatio` in height: by as much, but from 1.6 on by 1.5.
+/// The growth of the fonts for a form whose height grows by `heightRatio`: the same, but from 1.6 on only 1.5.
 /// A window that is twice as high is there for larger pictures, not for letters of twice the size.
 float FontRatioOf(float heightRatio);
 
@@ -13,12 +13,12 @@ class ResizeControls {
   static constexpr int kDesignWidth = 800;
   static constexpr int kDesignHeight = 600;
 
-  /// By how much the last change of size was, each against the size before; 1 before the first.
+  /// Growth in the last change of size, as ratios of the new size to the old; 1 before the first change.
   float HeightRatio = 1;
   float WidthRatio = 1;
   float FontRatio = 1;
 
-  /// The main form has got this size in logical pixels. Nothing changes for a size that is none.
+  /// The main form has this size now, in logical pixels. An empty size, of a window put away, changes nothing.
   void Resize(int width, int height);
 
   /// Text of the forms in logical pixels, never less than can be read with ease. Worked out from the design

@@ -120,8 +120,8 @@ class Settings {
   std::array<std::string, 3> PrimaryName;   ///< "Student", "student", "students"
   std::array<std::int32_t, 4> WindowInfo{}; ///< top, left, width, height of the main form in twips
 
-  std::string LastInstructor;               ///< where the library was left; what is not there any more
-  std::string LastStudent;                  ///< does not count
+  std::string LastInstructor;               ///< where the library was left; names of folders
+  std::string LastStudent;                  ///< that have gone are ignored
 
   // --- capture.ini, [General]
   std::array<std::string, 2> Camera;        ///< keys Camera1 and Camera2

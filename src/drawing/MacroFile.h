@@ -30,8 +30,8 @@ class MacroFile {
   const std::string& Path() const { return path_; }
   const std::vector<NamedMacro>& All() const { return all_; }
 
-  /// Reads it, unless it is as it was read or written last. A missing one holds nothing; of one that does not
-  /// come out even those that can be read are taken.
+  /// Reads it, unless it is as it was read or written last. A missing one holds nothing; of a damaged one
+  /// those macros that can be read are taken.
   void Read(ScreenTwips screen);
 
   /// Puts one behind the others. `Refused` when the file's form has no room or somebody else is at it,

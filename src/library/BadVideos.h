@@ -23,8 +23,8 @@ class BadVideos {
   BadVideos(IHost& host, const Settings& settings, LibraryOperations& operations)
       : host_(host), settings_(settings), operations_(operations) {}
 
-  /// Asks the user about a video that could not be opened. Who has kept it is not asked again, unless the
-  /// file is another one by then. A video whose drive does not answer is kept without a word.
+  /// Asks the user about a video that could not be opened. A video that was kept is not asked about
+  /// again, unless the file has changed since. A video whose drive does not answer is kept without a word.
   Fate Offer(const LibraryVideo& video);
 
  private:

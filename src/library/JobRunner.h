@@ -56,8 +56,8 @@ class JobRunner {
   bool Busy() const { return state_ != nullptr; }
   /// Starts a job and keeps `events` until it is over; false when one is under way, and then nothing is told.
   bool Start(std::unique_ptr<IJob> job, std::unique_ptr<IJobEvents> events);
-  /// Asks the job under way to give up; its end is told as always. A job that does not give up within three seconds,
-  /// because the disk does not answer, is left to itself: it cleans up when the disk comes back.
+  /// Asks the job under way to give up; its end is told as always. A job that does not give up within three
+  /// seconds, because the disk does not answer, is left to itself: it cleans up when the disk comes back.
   void Cancel();
 
  private:

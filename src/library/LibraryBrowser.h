@@ -32,7 +32,7 @@ class LibraryBrowser {
   /// Reads the library afresh and goes to the remembered instructor, student and first video; without
   /// a remembered one to "General Folder". With `keepInstructor` the instructor chosen now stays.
   void CapfolderSetup(bool keepInstructor = false);
-  /// The same for who comes back: where that is the same student, the video that was chosen is chosen again.
+  /// The same on coming back to the page: if the student is still the same, so is the chosen video.
   void Return(bool keepInstructor = false);
   /// Reads the lists again and keeps what is chosen, as far as it still exists.
   void Refresh();

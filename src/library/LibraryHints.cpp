@@ -10,7 +10,7 @@ using Kind = LibraryBrowser::Kind;
 
 bool HasInstructors(const LibraryBrowser& browser) { return browser.InstructorList().size() > 1; }
 
-/// For those who choose what goes in or out.
+/// The hints of the import and export page.
 LibraryHints ExchangeHints(const LibraryBrowser& browser, const Vocabulary& words) {
   LibraryHints hints;
   if (!HasInstructors(browser)) hints.students = "No instructors or databases here.";

@@ -31,7 +31,7 @@ std::string VerbOf(Change change) {
   return {};
 }
 
-/// From an instructor's folder down to the lessons of a student. Links that lead back are not followed for ever.
+/// Levels from the folder of an instructor to the lessons of a student; a limit, for links may lead back.
 constexpr int kLevels = 3;
 
 /// The paths of the videos in a folder and in those below it: lessons are videos too.
@@ -68,7 +68,7 @@ std::vector<LibraryVideo> VideosOf(const LibraryTree& tree, const std::string& i
 
 std::vector<std::string> MoveTargets(const LibraryTree& tree, const LibraryVideo& about) {
   std::vector<std::string> databases = tree.Instructors();
-  // A student cannot move to where he is, and Quick Launch keeps no students.
+  // A student cannot move to the present instructor, and Quick Launch keeps no students.
   std::erase_if(databases, [&](const std::string& name) {
     return name == kGeneralFolder || name == kQuickLaunch || (about.path.empty() && name == about.instructor);
   });
@@ -81,7 +81,7 @@ void ShowResult(const OperationResult& result, LibraryBrowser& browser) {
   const std::string video = browser.Video();
   const int row = browser.VideoIndex();
   browser.Refresh();
-  // A choice that stands is not made again: it would go back to the first video.
+  // A choice that is unchanged is not made again: that would go back to the first video.
   if (!result.instructor.empty() && result.instructor != browser.Instructor()) browser.SelectInstructor(result.instructor);
   if (!result.student.empty() && result.student != browser.Student()) browser.SelectStudent(result.student);
   if (!result.video.empty()) browser.SelectVideo(result.video);
@@ -132,7 +132,7 @@ bool LibraryOperations::BeginLibrary() {
       !host_.Question("Video Library",
                       "The video library at " + root + " is not there any more. Do you want to begin a new one in its place?"))
     return false;
-  // No folder above it is made: there lie the settings.
+  // No folder above it is made: that would be the one of the settings.
   std::error_code failed;
   std::filesystem::create_directory(root, failed);
   return true;

@@ -52,7 +52,7 @@ struct OperationResult {
   /// Words for the status line. A refusal that needs to be read has been shown in a box as well.
   Result<std::string> words = Outcome::Failed({});
   bool refill = false;  ///< the lists are to be read again
-  /// What to choose then; empty ones stay as they are, as far as they still exist.
+  /// What the lists choose then; where a name is empty, the present choice stays if it still exists.
   std::string instructor{};
   std::string student{};
   std::string video{};

@@ -34,7 +34,7 @@ enum class LibraryPlace {
   Gone,     ///< it cannot be reached, or something else stands in its place
   Silent,   ///< its drive does not answer
 };
-/// @param settings  who has not chosen an instructor yet has not had a library on this machine
+/// @param settings  without a `LastInstructor` there has been no library on this machine yet
 LibraryPlace PlaceOfLibrary(DriveWatch& drives, const Settings& settings);
 
 /// What is told of a library whose drive does not answer.

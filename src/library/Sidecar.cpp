@@ -35,8 +35,8 @@ constexpr std::string_view kFullNotesTag = "UTF";
 
 // ---------------------------------------------------------------- reading
 
-/// Takes values off the front of a file. Past its end numbers read as zero and text as blanks; whatever does
-/// not come out even is noticed.
+/// Takes values off the front of a file. Past its end numbers read as zero and text as blanks; `Even`
+/// tells whether everything was there and in its range.
 class Reader {
  public:
   /// @param padding  bytes at the end of `bytes` that do not belong to the file
@@ -182,7 +182,7 @@ SlotData ReadPresentFormat(Reader& reader, bool flagsAlone) {
   if (value) data.CValue = static_cast<float>(ReadNumber(reader.Text()));
   if (rate) data.RealFrameRate = ReadInt32(reader.Text());
   auto full = reader.FullNotes();
-  // Who has changed the notes and does not know of the full ones has the last word.
+  // A program that does not know the full notes may have changed the others; then those count.
   data.Notes = full && ToWindows1252(*full) == narrow ? std::move(*full) : FromWindows1252(narrow);
   data.Unread = !reader.Even() || !reader.AtEnd();
   return data;

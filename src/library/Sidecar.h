@@ -25,15 +25,15 @@ struct SlotData {
   float CValue = 0;
   std::int32_t RealFrameRate = 0;    ///< pictures per second; 0 means the rate stored in the video
 
-  /// The drawings, in pixels of a window of `PictureWidth` x `PictureHeight`. Who shows them in a window
-  /// of another size stretches them.
+  /// The drawings, in pixels of a window of `PictureWidth` x `PictureHeight`. A window of
+  /// another size stretches them to show them.
   ShapeList Shapes;
   int NextShape = 0;                 ///< the slot's running shape counter
   int PictureWidth = 0;              ///< pixels; 0 when no shapes were stored
   int PictureHeight = 0;             ///< pixels
 
-  /// The file holds something that could not be read: it is foreign or damaged, or the disk refused. Who has
-  /// nothing new to say leaves it alone; a write keeps it beside, see KeptPath.
+  /// The file holds something that could not be read: it is foreign or damaged, or the disk refused. As
+  /// long as there is nothing new to store it is left alone; a write keeps it beside, see KeptPath.
   bool Unread = false;
 };
 

@@ -31,7 +31,7 @@ std::vector<Shape> Fitted(const SlotData& data, const Size& size) {
   return {shapes.begin(), shapes.end()};
 }
 
-/// The same kind, colour and points, but for what rounding to another size does to them.
+/// The same kind and colour, and the same points up to the rounding of another size.
 bool IsNear(const Shape& a, const Shape& b) {
   constexpr std::int64_t kRounding = 2;  // pixels
   const auto near = [](POINTAPI p, POINTAPI q) {
@@ -40,8 +40,8 @@ bool IsNear(const Shape& a, const Shape& b) {
   return a.Kind == b.Kind && a.Colour == b.Colour && std::ranges::equal(BoundPoints(a), BoundPoints(b), near);
 }
 
-/// Pairs the shapes of two lists that are the same, each with one at most. For each of `list` the place in
-/// `others`, or nothing.
+/// Greedy matching: pairs equal shapes of two lists, each with one at most, exact pairs first. For each of
+/// `list` the place in `others`, or nothing.
 std::vector<std::optional<std::size_t>> Pairs(const std::vector<Shape>& list, const std::vector<Shape>& others, bool exact) {
   std::vector<std::optional<std::size_t>> places(list.size());
   std::vector<bool> taken(others.size());
@@ -82,7 +82,7 @@ void MergeShapes(MergedData& merged, const SlotData& mine, const SlotData& their
   for (std::size_t i = 0; i < own.size(); ++i) mineOf[own[i].Id] = i;
   // For each of theirs: nothing when it is new, else the place in `own`, own.size() when I have deleted it.
   std::vector<std::optional<std::size_t>> fates(there.size());
-  std::vector<bool> settled(own.size());  // what stands in the file of it is decided
+  std::vector<bool> settled(own.size());  // it is decided what the file gets of it
   for (std::size_t i = 0; i < before.size(); ++i) {
     const auto found = mineOf.find(before[i].Id);
     const std::size_t at = found == mineOf.end() ? own.size() : found->second;
@@ -107,7 +107,7 @@ void MergeShapes(MergedData& merged, const SlotData& mine, const SlotData& their
   std::vector<Shape> mineAlone;
   for (std::size_t i = 0; i < own.size(); ++i)
     if (!settled[i]) mineAlone.push_back(own[i]);
-  // What both have made just the same is one thing.
+  // A shape that both have made alike is stored once.
   const auto twice = Pairs(mineAlone, fresh, true);
   for (std::size_t i = 0; i < mineAlone.size(); ++i)
     if (!twice[i]) shapes.push_back(mineAlone[i]);

@@ -11,8 +11,8 @@ struct MergedData {
   ShapeList own;
 };
 
-/// Brings together what two have made of one video's data since it was the same. What I have not touched
-/// follows the other; where both have changed the same thing both forms are kept.
+/// A three-way merge of one video's data against `base`, in which both sides were the same. What I have not
+/// touched follows the other; where both have changed the same thing both forms are kept.
 ///
 /// My shapes are known by their numbers: one that `base` has too, with the same number and, fitted to the
 /// size of `mine`, the same points, is untouched. Theirs are known by their records, byte for byte, which is why the

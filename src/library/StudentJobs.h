@@ -25,8 +25,8 @@ class StudentMoveJob final : public IJob {
 };
 
 /// Removes a student's folder. First it is hidden under another name, so that no half of a student is
-/// ever shown; what cannot be removed appears again. A cancel comes too late once that has happened. What
-/// a killed removal leaves hidden goes with the dead parts of copies.
+/// ever shown; what cannot be removed appears again. Once it is hidden, a cancel comes too late. What a
+/// killed removal leaves hidden is swept up with the dead parts of copies.
 class StudentRemovalJob final : public IJob {
  public:
   StudentRemovalJob(std::string folder, IDisk& disk) : folder_(std::move(folder)), disk_(disk) {}

@@ -12,7 +12,7 @@ namespace {
 
 using Lines = std::span<const std::string_view>;
 
-/// So many pairs of lines are compared at most. Longer texts that differ from end to end are taken as replaced.
+/// At most so many pairs of lines are compared. Longer texts that differ from end to end count as replaced.
 constexpr std::size_t kMostPairs = 4'000'000;
 
 /// The text without its first line, and that line without its end.
@@ -44,8 +44,8 @@ struct Step {
   std::string_view line;
 };
 
-/// The shortest way through two texts in which each line of either stands once: those that both have, those of
-/// the first alone, those of the second alone. The first one's come first.
+/// The shortest edit script from one text to the other, by their longest common subsequence of lines. Equal
+/// lines at the beginning and end are taken off first; in a gap the lines of the first come first.
 std::vector<Step> Align(Lines first, Lines second) {
   std::vector<Step> way;
   while (!first.empty() && !second.empty() && first.front() == second.front()) {
@@ -63,7 +63,7 @@ std::vector<Step> Align(Lines first, Lines second) {
   std::size_t i = 0;
   std::size_t k = 0;
   if (!first.empty() && second.size() <= kMostPairs / first.size()) {
-    // common[i][k]: how many lines in order the rests behind i and k share.
+    // common[i][k]: length of the longest common subsequence of the lines from i and from k on.
     const std::size_t width = second.size() + 1;
     std::vector<std::uint32_t> common((first.size() + 1) * width);
     for (std::size_t a = first.size(); a-- > 0;)
@@ -87,7 +87,7 @@ std::vector<Step> Align(Lines first, Lines second) {
   return way;
 }
 
-/// What somebody has made of a text, by line of the text.
+/// What one side has made of the base, by line of the base.
 struct Changes {
   explicit Changes(std::size_t lines) : kept(lines), before(lines + 1), instead(lines + 1) {}
 
@@ -99,7 +99,7 @@ struct Changes {
 Changes ChangesOf(Lines base, Lines after) {
   Changes changes(base.size());
   std::size_t line = 0;
-  std::size_t first = 0;  // of the lines that have gone since the last one that both have
+  std::size_t first = 0;  // the first of the removed lines since the last common one
   std::vector<std::string_view> added;
   const auto store = [&] {
     (line > first ? changes.instead : changes.before)[first] = std::move(added);

@@ -5,7 +5,7 @@
 
 namespace kinalyx {
 
-/// Brings together what two have made of one text, line by line. Lines that one of them did not touch follow
+/// A three-way merge of texts, line by line. Lines that one of the two did not touch follow
 /// the other; where both have written in the same place, the lines of both stand there, each once and mine
 /// first. A line that one has removed and the other has changed stays as it was changed.
 ///

@@ -32,8 +32,8 @@ bool RemoveVideo(const std::string& path, IDisk& disk) {
   return true;
 }
 
-/// Renames a video with its sidecar, which goes first and back again when its video cannot follow; one that a
-/// second video shares is copied. After a failure the two stand as before.
+/// Renames a video with its sidecar. The sidecar goes first, and back again when the video cannot follow; one
+/// that a second video shares is copied. After a failure the two stand as before.
 Outcome RenameWithSidecar(const std::string& from, const std::string& to, IDisk& disk) {
   const std::string sidecar = ExistingSidecar(from);
   if (sidecar.empty()) return RenameEntry(from, to, disk);
@@ -69,7 +69,7 @@ bool LiesIn(const std::string& folder, const std::string& other) {
   return !failed && (inner + "/").starts_with(JoinPath(outer, "/"));
 }
 
-/// True for a video that goes to the same instructor and student at the other place, as far as lists show it there.
+/// True for a video that keeps its instructor and student at the other place, because the lists there show it.
 bool HasOwnPlace(const LibraryVideo& video, bool out) {
   // What lies directly with an instructor would be in no list of this library.
   const bool listed = out || !video.student.empty() || video.instructor == kQuickLaunch;
@@ -85,7 +85,7 @@ VideoTransfer TransferTo(const std::string& root, const ImportTarget& place, con
   std::string folder = root;
   if (!place.instructor.empty()) folder = JoinPath(folder, place.instructor);
   if (!place.student.empty()) folder = JoinPath(folder, place.student);
-  // The profile of a student stays at home where only videos are put to another one.
+  // When videos only go to another student, the profile of their own does not go along.
   const bool withProfile = ownPlace && !video.student.empty();
   return {video.path, folder, withProfile ? SourceFolder(video) : std::string()};
 }

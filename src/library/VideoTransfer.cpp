@@ -23,7 +23,7 @@ std::int64_t BytesWithSidecar(const std::string& videoPath) {
   return FileSize(videoPath).value_or(0) + (sidecar.empty() ? 0 : FileSize(sidecar).value_or(0));
 }
 
-/// The name of what stands on the way to a folder and is none; "" when the way is free.
+/// The name of the file that stands where a folder is needed on the way to `folder`; "" when there is none.
 std::string InTheWay(std::string folder) {
   while (!EntryExists(folder) && folder != "." && folder != "/") folder = FolderOf(folder);
   return dirExists(folder) ? std::string() : LastName(folder);

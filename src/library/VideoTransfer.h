@@ -85,7 +85,7 @@ class VideoTransferJob final : public IJob {
   std::vector<VideoTransfer> videos_;
   IDisk& disk_;
   std::size_t next_ = 0;
-  std::string name_;  ///< that the next video shall have, so far as it has been tried; "" not yet
+  std::string name_;  ///< the name that is tried for the next video; "" when none has been tried yet
   std::optional<CopyJob> copy_;
   std::int64_t bytesTotal_ = 0;
   std::int64_t bytesDone_ = 0;

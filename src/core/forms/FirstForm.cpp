@@ -96,7 +96,7 @@ void FirstForm::paintEvent(QPaintEvent*) {
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
-/// Enter goes on to the next box: who presses it in an empty form has not finished.
+/// Enter goes on to the next box; only in the last one it finishes the form.
 void FirstForm::keyPressEvent(QKeyEvent* event) {
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (enter && name_->hasFocus()) company_->setFocus(Qt::TabFocusReason);

@@ -15,7 +15,7 @@ class FirstForm : public QDialog {
   Q_OBJECT
 
  public:
-  /// @param over  the window in whose middle the form stands
+  /// @param over  the window over whose middle the form opens
   FirstForm(Settings& settings, MailSettings& mail, QWidget* over = nullptr);
 
  signals:

@@ -14,7 +14,7 @@ class Gauge;
 class IHost;
 class PathBox;
 
-/// Who works here, the word for the people, window, colours, library and the system test.
+/// The names of instructor and company, the word for the people, window, colours, library, system test.
 class GeneralSection : public SetupSection {
   Q_OBJECT
 

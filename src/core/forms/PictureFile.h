@@ -9,8 +9,8 @@ namespace kinalyx {
 
 class DriveWatch;
 
-/// Reads a picture of the user's, upright; a null image when there is none in the file. One that is larger than
-/// any screen comes smaller. May be called on any thread.
+/// Reads a picture file of the user, turned upright; a null image when the file holds no picture. One that is
+/// larger than any screen is scaled down. May be called on any thread.
 QImage ReadPicture(const std::string& file);
 /// True when a file holds a picture that can be shown. May be called on any thread.
 bool HoldsPicture(const std::string& file);

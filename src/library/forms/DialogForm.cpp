@@ -72,7 +72,7 @@ std::string Short(const QLabel& label, const std::string& name) {
   return Std(label.fontMetrics().elidedText(Q(name), Qt::ElideMiddle, Px(300)));
 }
 
-/// A list that has got the keys has a current row; that alone is no choice.
+/// A list with the focus always has a current row; only a selected row is a choice.
 std::string ChosenIn(const NameList& list) {
   const auto chosen = list.selectedItems();
   return chosen.isEmpty() ? std::string() : Std(chosen.first()->text());
@@ -181,7 +181,7 @@ void DialogForm::Open(Mode mode, const LibraryVideo& about) {
   action_->setObjectName(look.button);
   action_->SetIcon(look.icon);
   OpenPart();
-  // Who presses Enter without reading deletes nothing.
+  // Enter pressed without reading must not delete anything.
   const bool deletes = look.part == ModeLook::Part::Delete;
   action_->setDefault(!deletes);
   cancel_->setDefault(deletes);
@@ -273,7 +273,7 @@ void DialogForm::OpenMove() {
   LibraryVideo about = about_;
   if (!video) about.path.clear();
   const auto databases = Read([about](const LibraryTree& tree) { return MoveTargets(tree, about); });
-  // Who clears up moves one after the other to the same place.
+  // When clearing up, users move one after the other to the same place.
   const auto rowOf = [&](const std::string& name) {
     const auto found = std::ranges::find(databases, name);
     return found == databases.end() ? -1 : static_cast<int>(found - databases.begin());

@@ -180,8 +180,8 @@ void ImportExportPage::ShowResult(bool out, const OperationResult& result) {
   Say(Q(result.Status()));
 }
 
-/// The student who is chosen in this library gets what has none at the other place. Quick Launch takes videos
-/// itself; under any other instructor they would be in no list.
+/// Videos that have no student at the other place go to the student who is chosen in this library. Quick Launch
+/// takes videos itself; directly under any other instructor they would be in no list.
 ImportTarget ImportExportPage::TargetOfLooseVideos() const {
   const LibraryBrowser& library = here_->Browser();
   if (library.HasStudent() || library.IsQuickLaunch()) return {library.Instructor(), library.Student()};

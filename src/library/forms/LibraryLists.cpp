@@ -80,7 +80,7 @@ void LibraryLists::ShowVideos() {
   emit VideoChosen();
 }
 
-/// True when the folder whose lists these are cannot be reached.
+/// True when the root folder of the lists cannot be reached.
 bool LibraryLists::RootGone() {
   if (browser_.Silent()) return false;
   const std::string& root = browser_.Tree().Root();

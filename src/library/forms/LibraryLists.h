@@ -33,8 +33,8 @@ class LibraryLists : public QObject {
   void ShowHints();
 
  signals:
-  /// Another instructor or student is about to be taken. Who needs the present one clears `may`: the lists then
-  /// stay as they are.
+  /// Another instructor or student is about to be taken. A receiver that needs the present one clears `may`: the
+  /// lists then stay as they are.
   void Leaving(bool& may);
   /// The user has chosen a row in one of the lists; what it brings follows.
   void Chosen();

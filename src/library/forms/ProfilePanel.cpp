@@ -26,7 +26,7 @@ namespace {
 /// The fields that an instructor looks at most: name, phone, e-mail, videos, years, hand, goals, injuries.
 const std::vector<int> kBriefFields{0, 3, 4, 9, 5, 8, 12, 17};
 
-/// Who has not typed for so long rests.
+/// After so long without a key the user counts as resting.
 constexpr int kRestMs = 1000;
 
 std::string NotSaved(const std::string& reason) {
@@ -194,7 +194,7 @@ void ProfilePanel::ShowNotes(const std::string& text) {
   while (back < least - front && wanted[wanted.size() - 1 - back] == shown[shown.size() - 1 - back]) ++back;
   const qsizetype shownEnd = shown.size() - back;
   const qsizetype wantedEnd = wanted.size() - back;
-  // Who stands right before what is added does not go with it.
+  // A cursor right before the added text stays before it.
   const auto placeOf = [&](qsizetype place) {
     return static_cast<int>(place <= front ? place : place >= shownEnd ? place - shownEnd + wantedEnd : std::min(place, wantedEnd));
   };

@@ -108,7 +108,7 @@ void ProfilesPage::ConnectParts() {
 // ---------------------------------------------------------------- life of the page
 
 void ProfilesPage::Open() {
-  // Who had gone to an instructor without choosing a student finds that instructor again.
+  // An instructor that was chosen without a student is still chosen on coming back.
   const bool keep = !editor_->isHidden() || (browser_.InstructorIndex() > 0 && !browser_.HasStudent());
   browser_.Return(keep);
   shownStudent_.clear();
@@ -150,7 +150,7 @@ bool ProfilesPage::Release() {
 }
 
 void ProfilesPage::ShowResult(const OperationResult& result) {
-  // Who has left the page meanwhile finds everything read anew on coming back.
+  // A page that has been left meanwhile reads everything anew when it is opened again.
   if (!isVisible()) return;
   status_->Rest();
   kinalyx::ShowResult(result, browser_);

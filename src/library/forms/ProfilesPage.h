@@ -43,7 +43,7 @@ class ProfilesPage : public PageWidget, private ILibraryPage {
   /// Reads the library and goes to the remembered student.
   void Open() override;
   /// Stores the notes and closes the preview. False, after a message, when the notes could not be stored, and the
-  /// page is as it was. Who knows it already may go: they are kept in memory.
+  /// page is as it was. Once the user has been told so it is true: the notes are kept in memory.
   bool Leave() override;
   /// The program is about to close: stores the notes that are in memory alone. False when some cannot be.
   bool SaveLastNotes();

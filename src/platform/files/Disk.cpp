@@ -30,7 +30,7 @@ auto Again(Call call) {
 class SystemDisk final : public IDisk {
  public:
   int OpenSource(const std::string& path, bool followLink) override {
-    // Not waiting at a pipe that somebody has put in the file's place.
+    // O_NONBLOCK: a pipe that somebody has put in the place of the file must not hold us up.
     return ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | (followLink ? 0 : O_NOFOLLOW));
   }
   int OpenNew(const std::string& path) override {
@@ -61,7 +61,7 @@ class SystemDisk final : public IDisk {
   int RenameNew(const std::string& from, const std::string& to) override {
     if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) return 0;
     if (errno != EINVAL && errno != ENOSYS) return -1;
-    // A file system without that call. The moment between the question and the answer stays open here.
+    // A file system without that call: here a race remains between the look and the rename.
     if (EntryExists(to)) {
       errno = EEXIST;
       return -1;

@@ -109,7 +109,7 @@ bool CopyJob::MeasureEntry(Entry& entry) {
   struct stat target {};
   while (::stat(folder.c_str(), &target) != 0 && folder != "/" && folder != ".") folder = FolderOf(folder);
   if (!S_ISDIR(info.st_mode) && !S_ISREG(info.st_mode)) return Refuse(Quoted(entry.from) + " is no file.");
-  // A link may be renamed in its own folder; elsewhere it might lead astray.
+  // A relative link keeps its target only as long as it stays in its folder.
   const bool renames = isLink ? FolderOf(entry.from) == FolderOf(entry.to) : target.st_dev == info.st_dev;
   entry.byRename = !entry.keep && renames;
   if (!entry.byRename) return StageCopy(entry);
@@ -122,7 +122,7 @@ bool CopyJob::StageCopy(Entry& entry) {
   entry.nodes.clear();
   entry.staged = PartNameBeside(entry.to);
   struct stat info {};
-  // A video may be a link to a file elsewhere: whoever copies it wants the video.
+  // A video may be a link to a file elsewhere: its copy must hold the video.
   if (::stat(entry.from.c_str(), &info) != 0) {
     Fail(entry.from, errno);
     return false;
@@ -245,7 +245,7 @@ bool CopyJob::MakeParents(const std::string& path) {
     return true;
   }
   if (errno != EEXIST) return false;
-  // Another workstation may have been quicker; but a file of that name makes no way.
+  // Another workstation may have made the folder first; but a file of that name is in the way.
   if (dirExists(folder)) return true;
   errno = ENOTDIR;
   return false;
@@ -257,7 +257,7 @@ bool CopyJob::BeginUnit() {
   madeFolders_.clear();
   begun_ = true;
   for (const Entry& entry : unit.entries) {
-    // Told now rather than after all bytes have been copied; what appears meanwhile is noticed in the end.
+    // Told before all bytes are copied; a name that is taken meanwhile is noticed by the rename at the end.
     if (EntryExists(entry.to)) {
       Fail(entry.to, EEXIST);
       return false;
@@ -267,7 +267,7 @@ bool CopyJob::BeginUnit() {
       return false;
     }
   }
-  // The video is named rather than what goes before it.
+  // The progress names the video, the last entry, rather than its sidecar.
   if (!unit.entries.empty()) progress_.current = LastName(unit.entries.back().from);
   return true;
 }
@@ -308,7 +308,7 @@ bool CopyJob::CommitUnit() {
     if (disk_.RenameNew(entry.staged, entry.to) < 0) {
       const int reason = errno;
       if (entry.byRename && reason == EXDEV) {
-        // Two places of one device that still do not take renames from each other: copy this unit.
+        // One device, but mounted at two places, which takes no rename between them: copy this unit.
         RollBack();
         for (Entry& again : unit.entries) {
           if (!StageCopy(again)) return false;

@@ -4,18 +4,18 @@
 
 namespace kinalyx {
 
-/// Keeps other windows and workstations from a file while it is read, changed and written anew. It is a lock
-/// among those who ask for it, on a hidden file beside that goes with the lock; the system takes it back from
-/// a program that is killed. Where a drive knows no locks, or the folder cannot be written to, there is none.
+/// Keeps other windows and workstations from a file while it is read, changed and written anew. The lock is
+/// advisory: it lies on a hidden file beside, which is removed with it, and the system releases that of a killed
+/// program. Where the drive has no locks, or the folder cannot be written to, nothing is locked.
 class FileLock {
  public:
-  /// Waits so long for whoever holds it.
+  /// Waits at most so long for another holder.
   explicit FileLock(const std::string& path, int patienceMs = 2000);
   ~FileLock();
   FileLock(const FileLock&) = delete;
   FileLock& operator=(const FileLock&) = delete;
 
-  /// True when somebody else held it all the time.
+  /// True when another holder kept it all that time.
   bool Busy() const { return busy_; }
 
  private:

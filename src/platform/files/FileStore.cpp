@@ -90,7 +90,7 @@ Outcome WriteWholeFile(const std::string& path, std::string_view text, IDisk& di
 }
 
 std::optional<std::vector<std::uint8_t>> ReadWholeFile(const std::string& path, std::int64_t limit) {
-  // Not waiting at a pipe that somebody has put in the file's place.
+  // O_NONBLOCK: a pipe that somebody has put in the place of the file must not hold us up.
   const int file = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
   if (file < 0) return std::nullopt;
   std::optional<std::vector<std::uint8_t>> result;

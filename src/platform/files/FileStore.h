@@ -16,8 +16,8 @@ namespace kinalyx {
 /// Replaces a whole file: writes beside it under a name of its own, flushes, renames over it. The file holds
 /// either the old or the new bytes, whatever happens and whoever else saves it; of two saves at once one
 /// stands whole. After a power cut within seconds of the call the old bytes may stand again, but a file that
-/// is new stays. On failure nothing is left behind, and the old file stands. A file with read-only permission, or one that is a link, is treated as an
-/// editor would: the link's target is replaced, read-only is refused.
+/// is new stays. On failure nothing is left behind, and the old file stands. Files that are read-only or links
+/// are treated as an editor would: a link's target is replaced, read-only is refused.
 Outcome WriteWholeFile(const std::string& path, std::span<const std::uint8_t> bytes, IDisk& disk = RealDisk());
 Outcome WriteWholeFile(const std::string& path, std::string_view text, IDisk& disk = RealDisk());
 

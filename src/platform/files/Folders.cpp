@@ -33,8 +33,8 @@ FileStamp AsStamp(const struct stat& state) {
 
 QString ToQt(const std::string& text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
 
-/// Sorts names as the user's language does, so that an accent comes after the plain letter or where that
-/// language has it, with runs of digits by value. What it takes for equal is sorted byte by byte.
+/// Natural sort by the collation of the user's language: an accent comes after the plain letter or where the
+/// language has it, runs of digits count by value. Names that collate alike are sorted byte by byte.
 void SortNames(std::vector<std::string>& names) {
   if (names.size() < 2) return;
   // Made anew each time: lists are read by several threads, and it costs less than reading a folder. The

@@ -9,12 +9,12 @@ namespace kinalyx {
 
 enum class LogLevel { Note, Warning, Error };
 
-/// What went wrong while the program ran, for whoever is asked to help: a text file of one line a message,
+/// What went wrong while the program ran, for those who are asked to help: a text file of one line a message,
 /// with its time. It never grows beyond a limit: a full file becomes `<path>.old`, and the old one goes.
 ///
 /// Messages may come from any thread, and nobody waits for the disk: a thread of the log's own writes, and
-/// is left to itself when the drive does not answer. A log that cannot be written is no fault of anybody's
-/// work, so that is passed over. Paths are left out of all messages, for they hold the names of people.
+/// is left to itself when the drive does not answer. A log that cannot be written must not
+/// disturb anybody's work. Paths are left out of all messages, for they hold the names of people.
 class Log {
  public:
   static constexpr std::int64_t kMostBytes = 256 * 1024;

@@ -66,7 +66,7 @@ bool UntouchedSince(const std::string& path, std::time_t moment) {
 }  // namespace
 
 std::string PartNameBeside(const std::string& path) {
-  // Drawn from the system each time: a program that splits in two would go on with the same row of numbers.
+  // Drawn from the system each time: after a fork both processes would go on with the same sequence.
   std::random_device dice;
   std::array<char, 24> number{};
   std::snprintf(number.data(), number.size(), ".%08x%08x", dice(), dice());
