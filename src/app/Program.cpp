@@ -15,6 +15,7 @@
 #include "library/forms/ProfilesPage.h"
 #include "platform/files/Folders.h"
 #include "platform/host/QtHost.h"
+#include "platform/widgets/FileDrop.h"
 #include "platform/widgets/Scale.h"
 #include "platform/widgets/Text.h"
 #include "platform/widgets/Theme.h"
@@ -47,9 +48,10 @@ Program::Program(QApplication& application, Log& log)
 
 Program::~Program() = default;
 
-int Program::Run() {
+int Program::Run(const std::vector<std::string>& files) {
   DressApplication();  // for what is told while the settings are read
   StartUp(settings_, mail_, schemes_, *this);
+  if (!files.empty() && !main_->Closed()) OpenFiles(files);
   // The main form may have been closed already, from within the first form.
   const int result = main_->Closed() ? 0 : application_.exec();
   main_.reset();
@@ -98,6 +100,8 @@ void Program::LoadMain() {
   main_ = std::make_unique<Main>(events);
   QObject::connect(main_.get(), &Main::PageWanted, [this](int index) { OpenPage(index); });
   QObject::connect(main_.get(), &Main::Resized, [this] { MainResized(); });
+  QObject::connect(new FileDrop(main_.get()), &FileDrop::Dropped,
+                   [this](const std::vector<std::string>& paths) { OpenFiles(paths); });
 
   menu_ = new MenuPage(*host_, settings_);
   main_->SetPage(kMenuPage, menu_);
@@ -250,6 +254,12 @@ AnalysisForm& Program::OpenAnalysis() {
     main_->SetPage(kAnalysisPage, analysis_);
   }
   return *analysis_;
+}
+
+/// Videos from the command line, or dropped where no page takes them.
+void Program::OpenFiles(const std::vector<std::string>& paths) {
+  OpenPage(kAnalysisPage);
+  if (main_->CurrentPage() == kAnalysisPage) OpenAnalysis().Section().OpenFiles(0, paths);
 }
 
 void Program::GoToLibrary() { OpenPage(kProfilesPage); }

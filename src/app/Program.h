@@ -50,7 +50,8 @@ class Program final : private ISettingsEvents,
 
   /// Brings the program up and runs it to its end; the result is that of the process. When the user has
   /// asked for a restart, a new copy has been started by then.
-  int Run();
+  /// @param files  given on the command line: the videos among them are opened in the analysis section
+  int Run(const std::vector<std::string>& files);
 
  private:
   WindowPlace PlaceOfMain() const;
@@ -65,6 +66,7 @@ class Program final : private ISettingsEvents,
   void OpenPage(int index);
   void SetupVocabulary();
   AnalysisForm& OpenAnalysis();
+  void OpenFiles(const std::vector<std::string>& paths);
 
   // --- ISettingsEvents
   void SettingsReloaded() override;

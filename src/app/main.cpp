@@ -1,11 +1,16 @@
 #include <QApplication>
+#include <QFileInfo>
+#include <QUrl>
 #include <clocale>
+#include <string>
+#include <vector>
 
 #include "app/Program.h"
 #include "core/Settings.h"
 #include "platform/files/Folders.h"
 #include "platform/files/Log.h"
 #include "platform/media/MediaLog.h"
+#include "platform/widgets/Text.h"
 
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
@@ -16,7 +21,12 @@ int main(int argc, char** argv) {
   using namespace kinalyx;
   Log log(JoinPath(Settings::UserDataPath(), "kinalyx.log"));
   SetMediaLog(&log);
-  const int result = Program(application, log).Run();
+  std::vector<std::string> files;
+  for (const QString& argument : QApplication::arguments().mid(1)) {
+    const QUrl url(argument);
+    files.push_back(Std(url.isLocalFile() ? url.toLocalFile() : QFileInfo(argument).absoluteFilePath()));
+  }
+  const int result = Program(application, log).Run(files);
   SetMediaLog(nullptr);
   return result;
 }

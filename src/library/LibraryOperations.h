@@ -162,6 +162,9 @@ class LibraryOperations {
   /// needed, and a name that is taken gets a "d". A student who is new to the target brings the profile. What
   /// cannot be opened is taken along by an import, and named in a message at its end.
   void ExportVideos(const std::vector<LibraryVideo>& videos, const std::string& targetRoot, Events events);
+  /// Copies videos from anywhere on this machine to one place of the library; folders bring all videos in them
+  /// and below. What lies there already stays out of it.
+  void AddVideos(const std::vector<std::string>& paths, const ImportTarget& target, Events events);
   void ImportVideos(const std::vector<LibraryVideo>& videos, Events events, const ImportTarget& loose = {});
 
  private:

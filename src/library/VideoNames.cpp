@@ -1,8 +1,11 @@
 #include "library/VideoNames.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <cctype>
 #include <iterator>
+#include <set>
 
 #include "platform/files/Folders.h"
 #include "platform/files/TextEncoding.h"
@@ -33,6 +36,39 @@ std::vector<std::string> ListVideos(const std::string& folder) {
   std::vector<std::string> files = ListFiles(folder, "");
   std::erase_if(files, [](const std::string& file) { return !IsVideoName(file); });
   return files;
+}
+
+namespace {
+
+constexpr int kDeepest = 12;  // folders below a dropped one; a link may lead round
+
+void Gather(const std::string& folder, int depth, std::vector<std::string>& videos) {
+  for (const std::string& file : ListVideos(folder)) videos.push_back(JoinPath(folder, file));
+  if (depth == 0) return;
+  for (const std::string& below : ListFolders(folder)) Gather(JoinPath(folder, below), depth - 1, videos);
+}
+
+}  // namespace
+
+std::vector<std::string> VideosAmong(const std::vector<std::string>& paths) {
+  std::vector<std::string> videos;
+  for (const std::string& path : paths) {
+    if (dirExists(path)) Gather(path, kDeepest, videos);
+    else if (IsVideoName(path) && FileExists(path)) videos.push_back(path);
+  }
+  std::set<std::string> seen;
+  std::erase_if(videos, [&](const std::string& path) { return !seen.insert(path).second; });
+  return videos;
+}
+
+std::string VideoFilter() {
+  std::string patterns;
+  for (const std::string_view ending : kEndings) {
+    std::string large(ending);
+    std::ranges::transform(large, large.begin(), [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
+    patterns += fmt::format("{}*{}; *{}", patterns.empty() ? "" : "; ", ending, large);
+  }
+  return "Videos|" + patterns + "|All files|*";
 }
 
 std::string VideoName(std::string_view file) {

@@ -14,6 +14,12 @@ bool IsVideoName(std::string_view file);
 /// Names of the videos in a folder, sorted as ListFiles sorts them.
 std::vector<std::string> ListVideos(const std::string& folder);
 
+/// The videos among files and folders: of a folder all that lie in it and below it, hidden folders left out. Each
+/// once, in the order of `paths`.
+std::vector<std::string> VideosAmong(const std::vector<std::string>& paths);
+/// All endings for the filter of a file dialog.
+std::string VideoFilter();
+
 /// "(003) FO driver" from the name or path of a video.
 std::string VideoName(std::string_view file);
 /// ".avi", ".MP4": the ending as it is written.

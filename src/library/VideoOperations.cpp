@@ -302,6 +302,23 @@ void LibraryOperations::ImportVideos(const std::vector<LibraryVideo>& videos, Ev
   Transfer(Direction::Import, videos, tree_.Root(), loose, std::move(events));
 }
 
+void LibraryOperations::AddVideos(const std::vector<std::string>& paths, const ImportTarget& target, Events events) {
+  if (paths.empty()) return events->Ended(Report("No Videos Selected"));
+  if (target.student.empty() && target.instructor != kGeneralFolder && target.instructor != kQuickLaunch)
+    return events->Ended(Refuse("Select the " + words_.noun() + " who is to get the videos first."));
+  const std::string folder = tree_.StudentFolder(target.instructor, target.student);
+  const auto found = host_.Drives().Ask(paths.front(), [paths, folder] {
+    std::vector<std::string> videos = VideosAmong(paths);
+    std::erase_if(videos, [&](const std::string& path) { return SamePlace(FolderOf(path), folder); });
+    return videos;
+  });
+  if (!found) return events->Ended(Refuse("The drive with the videos is not answering. No videos were copied."));
+  if (found->empty()) return events->Ended(Refuse("There is no video among these files that is not here already."));
+  std::vector<LibraryVideo> videos;
+  for (const std::string& path : *found) videos.push_back({{}, {}, path});
+  ImportVideos(videos, std::move(events), target.instructor == kGeneralFolder ? ImportTarget{} : target);
+}
+
 void LibraryOperations::Transfer(Direction direction, const std::vector<LibraryVideo>& videos,
                                  const std::string& targetRoot, const ImportTarget& loose, Events events) {
   if (videos.empty()) return events->Ended(Report("No Videos Selected"));

@@ -3,6 +3,8 @@
 #include <utility>
 
 #include "core/Vocabulary.h"
+#include "library/VideoNames.h"
+#include "platform/host/DriveWatch.h"
 
 namespace kinalyx {
 namespace {
@@ -127,6 +129,21 @@ void AnalysisWorkspace::CellPressed(int slot) {
 void AnalysisWorkspace::CellDoubleClicked(int slot) {
   Select(slot);
   if (!stage_.HasVideo(slot)) menuBar_.Run("vo");
+}
+
+void AnalysisWorkspace::OpenFiles(int slot, const std::vector<std::string>& paths) {
+  if (paths.empty()) return;
+  const auto videos = host_.Drives().Ask(paths.front(), [paths] { return VideosAmong(paths); });
+  if (!videos) return host_.Message(MessageKind::Warning, "", "The drive with the videos is not answering.");
+  if (videos->empty()) return host_.Message(MessageKind::Information, "", "There is no video among these files.");
+  if (slot > 0) {
+    Select(slot);
+    return videos_.OpenFamily(*videos);
+  }
+  std::string status;
+  for (const std::string& path : *videos)
+    if (videos_.SendToAnalysis(path, [&](const std::string& words) { status = words; }) == 0) break;
+  if (stage_.VideoCount() == kSlots && !status.empty()) host_.Message(MessageKind::Information, "", status);
 }
 
 void AnalysisWorkspace::PutToolDown() {

@@ -28,6 +28,8 @@ class TestHost final : public IHost {
   std::vector<std::string> questions;
   std::deque<bool> answers;           ///< taken from the front; without one the answer is no
   std::deque<std::optional<std::string>> files;
+  std::vector<std::string> manyFiles;  ///< what the next choice of several files gives
+  std::vector<std::string> shownFolders;
   std::deque<std::optional<std::string>> newFiles;
   std::string suggested;  ///< the path that the last of them was asked with
   std::deque<std::optional<std::string>> folders;
@@ -81,6 +83,11 @@ class TestHost final : public IHost {
     return std::make_unique<Card>(*this);
   }
   std::optional<std::string> PickFile(const FileDialog&) override { return Take(files).value_or(std::nullopt); }
+  std::vector<std::string> PickFiles(const FileDialog&) override { return std::exchange(manyFiles, {}); }
+  bool ShowFolder(const std::string& folder) override {
+    shownFolders.push_back(folder);
+    return true;
+  }
   std::optional<std::string> PickNewFile(const FileDialog& dialog) override {
     suggested = dialog.folder;
     return Take(newFiles).value_or(std::nullopt);

@@ -6,6 +6,7 @@
 
 #include "library/LibraryBrowser.h"
 #include "library/TrimJob.h"
+#include "library/VideoNames.h"
 #include "library/forms/EditPanel.h"
 #include "library/forms/ProgressForm.h"
 #include "library/forms/VideosPanel.h"
@@ -33,6 +34,7 @@ class LibraryCommands::Shown final : public IOperationEvents {
 LibraryCommands::LibraryCommands(IHost& host, Settings& settings, LibraryOperations& operations,
                                  LibraryBrowser& browser, VideosPanel& videos, ILibraryPage& page, QWidget* over)
     : QObject(over),
+      host_(host),
       operations_(operations),
       browser_(browser),
       videos_(videos),
@@ -72,6 +74,22 @@ void LibraryCommands::SendToAnalysis() {
   if (videos_.VideoPlay1().Control().IsPlaying()) videos_.VideoPlay1().TogglePlay();
   const auto say = [this](const std::string& words) { page_.Say(Q(words)); };
   page_.Say(Q(operations_.SendToAnalysis(ChosenVideo(browser_), say).Status()));
+}
+
+// ---------------------------------------------------------------- videos from elsewhere
+
+void LibraryCommands::AddVideos() {
+  const std::vector<std::string> paths = host_.PickFiles({"Add Videos", "", VideoFilter()});
+  if (!paths.empty()) AddVideos(paths, browser_.Student());
+}
+
+void LibraryCommands::AddVideos(const std::vector<std::string>& paths, const std::string& student) {
+  const ImportTarget target{browser_.Instructor(), student};
+  DoLong("Add Videos", [&](Events events) { operations_.AddVideos(paths, target, std::move(events)); });
+}
+
+void LibraryCommands::ShowFolder() {
+  if (!host_.ShowFolder(browser_.Folder())) page_.Say("The folder is " + Q(browser_.Folder()));
 }
 
 // ---------------------------------------------------------------- preparing

@@ -43,6 +43,12 @@ class LibraryCommands : public QObject {
   void RenameInstructor();
   void DeleteInstructor();
   void SendToAnalysis();
+  /// Asks for videos and copies them to the student who is chosen.
+  void AddVideos();
+  /// Copies files and folders that were dropped or pasted to a student of the chosen instructor.
+  void AddVideos(const std::vector<std::string>& paths, const std::string& student);
+  /// Shows where the chosen student's videos lie.
+  void ShowFolder();
   /// Closes the trim panel, if it is open, and cuts nothing.
   void CloseTrim();
 
@@ -69,6 +75,7 @@ class LibraryCommands : public QObject {
   Events BeginLong(const QString& title);
   void Show(const OperationResult& result);
 
+  IHost& host_;
   LibraryOperations& operations_;
   LibraryBrowser& browser_;
   VideosPanel& videos_;

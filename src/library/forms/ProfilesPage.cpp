@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QBoxLayout>
+#include <QClipboard>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QPointer>
@@ -18,6 +19,7 @@
 #include "library/forms/VideosPanel.h"
 #include "platform/host/DriveWatch.h"
 #include "platform/widgets/Buttons.h"
+#include "platform/widgets/FileDrop.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Text.h"
 #include "platform/widgets/Theme.h"
@@ -94,6 +96,9 @@ void ProfilesPage::ConnectParts() {
   connect(lists_, &LibraryLists::PlayWanted, this, [this] { videos_->VideoPlay1().TogglePlay(); });
   for (QWidget* list : {lists_->InstructorList(), lists_->StudentList(), lists_->VideoList()}) list->installEventFilter(this);
   connect(buttons_, &LibraryButtons::Wanted, this, &ProfilesPage::SPBtn_Click);
+  connect(videos_, &VideosPanel::AddWanted, commands_, [this] { commands_->AddVideos(); });
+  connect(videos_, &VideosPanel::FolderWanted, commands_, &LibraryCommands::ShowFolder);
+  connect(new FileDrop(this), &FileDrop::Dropped, this, &ProfilesPage::TakeDropped);
   connect(instructors_, &InstructorsPanel::AddWanted, this, &ProfilesPage::AddInstructor);
   connect(instructors_, &InstructorsPanel::AddCancelled, this, [this] { Say({}); });
   connect(instructors_, &InstructorsPanel::RenameWanted, commands_, &LibraryCommands::RenameInstructor);
@@ -199,7 +204,20 @@ bool ProfilesPage::ListKey(QObject* list, int key) {
   return true;
 }
 
+/// What is dropped on the name of a student goes to that student, everything else to the one who is chosen.
+void ProfilesPage::TakeDropped(const std::vector<std::string>& paths, QPoint at) {
+  NameList* students = lists_->StudentList();
+  const QPoint inList = students->viewport()->mapFrom(this, at);
+  const QListWidgetItem* student = students->viewport()->rect().contains(inList) ? students->itemAt(inList) : nullptr;
+  commands_->AddVideos(paths, student ? Std(student->text()) : browser_.Student());
+}
+
 void ProfilesPage::keyPressEvent(QKeyEvent* event) {
+  if (event->matches(QKeySequence::Paste)) {
+    const auto paths = FilesIn(QGuiApplication::clipboard()->mimeData());
+    if (!paths.empty()) commands_->AddVideos(paths, browser_.Student());
+    return;
+  }
   if (event->key() == Qt::Key_Escape && !editor_->isHidden()) {
     CancelEditor();
   } else if (event->key() == Qt::Key_Escape && profilePanel_->CurrentView() == ProfilePanel::View::Complete) {

@@ -69,6 +69,7 @@ class ProfilesPage : public PageWidget, private ILibraryPage {
   void ConnectParts();
   bool ListKey(QObject* list, int key);
 
+  void TakeDropped(const std::vector<std::string>& paths, QPoint at);
   bool CloseVideo();
   bool Release() override;
   void ShowResult(const OperationResult& result) override;

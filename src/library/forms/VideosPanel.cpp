@@ -12,6 +12,7 @@
 #include "library/forms/Divider.h"
 #include "library/forms/EditPanel.h"
 #include "library/forms/SidecarMarkLabels.h"
+#include "platform/widgets/Buttons.h"
 #include "platform/widgets/Figures.h"
 #include "platform/widgets/Scale.h"
 #include "platform/widgets/Text.h"
@@ -78,9 +79,8 @@ VideosPanel::VideosPanel(PlayerServices& services, const Settings& settings, Nam
 
   auto* middle = new QHBoxLayout;
   middle->setSpacing(0);
-  LeastWidth(list_, 140);
   preview_ = new PreviewPlayer(services);
-  middle->addWidget(list_, 31);
+  middle->addLayout(MakeList(), 31);
   middle->addWidget(Divider(true));
   middle->addWidget(preview_, 69);
   Body()->addLayout(middle, 1);
@@ -93,6 +93,26 @@ VideosPanel::VideosPanel(PlayerServices& services, const Settings& settings, Nam
   trim_->hide();
   layout()->addWidget(trim_);
   ShowVideo("");
+}
+
+/// The list, and beneath it how it gets longer.
+QLayout* VideosPanel::MakeList() {
+  auto* rows = new QVBoxLayout;
+  rows->setSpacing(0);
+  LeastWidth(list_, 140);
+  rows->addWidget(list_, 1);
+  auto* buttons = new QHBoxLayout;
+  buttons->setContentsMargins(8, 6, 8, 6);
+  auto* add = new Button("AddVideosBtn", "Add Videos", "plus", Look::Quiet);
+  add->setToolTip("Copies videos from this computer, a telephone or a card to the student. They can also be dropped here.");
+  connect(add, &QPushButton::clicked, this, &VideosPanel::AddWanted);
+  auto* folder = IconButton("OpenFolderBtn", "open", "Shows the folder of these videos");
+  connect(folder, &QPushButton::clicked, this, &VideosPanel::FolderWanted);
+  buttons->addWidget(add);
+  buttons->addWidget(folder);
+  buttons->addStretch(1);
+  rows->addLayout(buttons);
+  return rows;
 }
 
 /// What the video is, in one line beneath the picture, and the marks of its drawings and notes.

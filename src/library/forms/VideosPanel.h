@@ -36,11 +36,18 @@ class VideosPanel : public Panel {
   bool TrimShown() const;
   void FocusList() { list_->setFocus(); }
 
+ signals:
+  /// Videos from elsewhere are to come to this list.
+  void AddWanted();
+  /// The folder of this list is to be shown.
+  void FolderWanted();
+
  protected:
   void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;
 
  private:
+  QLayout* MakeList();
   QWidget* MakeSummary();
   QWidget* MakeStats();
   void ShowStats(const VideoStats& stats);

@@ -70,12 +70,16 @@ class IHost {
   virtual std::unique_ptr<IWaitCard> ShowWait(const std::string& title, const std::string& text) = 0;
   /// The path of an existing file, or nothing when the user cancels.
   virtual std::optional<std::string> PickFile(const FileDialog& dialog) = 0;
+  /// The paths of existing files, several if the user likes; none when the user cancels.
+  virtual std::vector<std::string> PickFiles(const FileDialog& dialog) = 0;
   /// The path of a file to be written, or nothing when the user cancels. A name without an ending gets the first
   /// one of the kind that was chosen. Where the file exists already, the user has agreed to replace it.
   virtual std::optional<std::string> PickNewFile(const FileDialog& dialog) = 0;
   /// The path of an existing folder, or nothing when the user cancels.
   virtual std::optional<std::string> PickFolder(const std::string& title, const std::string& folder) = 0;
 
+  /// Shows a folder in the desktop's file manager; false when there is none.
+  virtual bool ShowFolder(const std::string& folder) = 0;
   /// Starts a program that outlives this one; false when it cannot be started.
   virtual bool StartDetached(const std::string& program, const std::vector<std::string>& arguments) = 0;
 

@@ -1,6 +1,7 @@
 #include "platform/host/QtHost.h"
 
 #include <QApplication>
+#include <QDesktopServices>
 #include <QFileDialog>
 #include <QLabel>
 #include <QMessageBox>
@@ -9,6 +10,7 @@
 #include <QRegularExpression>
 #include <QScreen>
 #include <QTimerEvent>
+#include <QUrl>
 #include <algorithm>
 #include <chrono>
 #include <cstdlib>
@@ -161,6 +163,14 @@ class QtHost final : public QObject, public IHost {
                                                DialogFilter(dialog.filter)));
   }
 
+  std::vector<std::string> PickFiles(const FileDialog& dialog) override {
+    std::vector<std::string> paths;
+    for (const QString& path : QFileDialog::getOpenFileNames(QApplication::activeWindow(), Title(dialog.title),
+                                                             Text(dialog.folder), DialogFilter(dialog.filter)))
+      paths.push_back(path.toStdString());
+    return paths;
+  }
+
   std::optional<std::string> PickNewFile(const FileDialog& dialog) override {
     QString kind;
     QString path = QFileDialog::getSaveFileName(QApplication::activeWindow(), Title(dialog.title), Text(dialog.folder),
@@ -171,6 +181,10 @@ class QtHost final : public QObject, public IHost {
 
   std::optional<std::string> PickFolder(const std::string& title, const std::string& folder) override {
     return Picked(QFileDialog::getExistingDirectory(QApplication::activeWindow(), Title(title), Text(folder)));
+  }
+
+  bool ShowFolder(const std::string& folder) override {
+    return QDesktopServices::openUrl(QUrl::fromLocalFile(Text(folder)));
   }
 
   bool StartDetached(const std::string& program, const std::vector<std::string>& arguments) override {

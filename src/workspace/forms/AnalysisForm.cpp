@@ -12,6 +12,7 @@
 #include "core/WindowModes.h"
 #include "library/forms/OpenVidForm.h"
 #include "platform/files/Folders.h"
+#include "platform/widgets/FileDrop.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
 #include "platform/widgets/Text.h"
@@ -123,6 +124,15 @@ void AnalysisForm::MakeStage() {
   connect(timer_, &FloatCard::CloseWanted, this, [this] { Run("TVT"); });
   calibration_ = new CalibrationPanel(analysis_->Ruler(), settings_, stage_);
   edits_->Build(analysis_->Edits(), analysis_->Stage(), stage_);
+  connect(new FileDrop(stage_), &FileDrop::Dropped, this, &AnalysisForm::TakeDropped);
+}
+
+/// What is dropped beside the windows comes into the current one.
+void AnalysisForm::TakeDropped(const std::vector<std::string>& paths, QPoint at) {
+  int slot = analysis_->Stage().CurrentWindow;
+  for (int each = 1; each <= kSlots; ++each)
+    if (!Cell(each).isHidden() && Cell(each).geometry().contains(at)) slot = each;
+  analysis_->OpenFiles(slot, paths);
 }
 
 bool AnalysisForm::CloseAll() {

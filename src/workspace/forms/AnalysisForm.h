@@ -63,6 +63,7 @@ class AnalysisForm : public PageWidget, private IWorkspaceView, private IOpenVid
   void FitOpenPanel();
   bool ScaleBars();
   void Run(const std::string& command);
+  void TakeDropped(const std::vector<std::string>& paths, QPoint at);
   void PlaceCaption();
   QRect Pixels(const TwipRect& place) const;
   bool Typing() const;
