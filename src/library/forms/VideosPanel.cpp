@@ -103,10 +103,11 @@ QLayout* VideosPanel::MakeList() {
   rows->addWidget(list_, 1);
   auto* buttons = new QHBoxLayout;
   buttons->setContentsMargins(8, 6, 8, 6);
+  buttons->setSpacing(8);
   auto* add = new Button("AddVideosBtn", "Add Videos", "plus", Look::Quiet);
   add->setToolTip("Copies videos from this computer, a telephone or a card to the student. They can also be dropped here.");
   connect(add, &QPushButton::clicked, this, &VideosPanel::AddWanted);
-  auto* folder = IconButton("OpenFolderBtn", "open", "Shows the folder of these videos");
+  auto* folder = IconButton("OpenFolderBtn", "open", "Shows the folder of these videos", Look::Quiet);
   connect(folder, &QPushButton::clicked, this, &VideosPanel::FolderWanted);
   buttons->addWidget(add);
   buttons->addWidget(folder);
