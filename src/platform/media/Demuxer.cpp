@@ -1,13 +1,9 @@
 #include "platform/media/Demuxer.h"
 
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <array>
 #include <cctype>
 #include <cmath>
-#include <cstdio>
 #include <cstring>
 #include <string_view>
 #include <utility>
@@ -18,7 +14,8 @@ namespace {
 // Containers of moving pictures. The library could open much more, among it texts that name other files
 // or addresses; a file out of a student's mail shall not make it do that.
 constexpr char kContainers[] =
-    "avi,mov,matroska,mpegts,mpeg,mpegvideo,asf,flv,dv,mjpeg,mxf,ogg,nut,rm,ivf,h264,hevc,m4v,gif,wtv,yuv4mpegpipe";
+    "avi,mov,matroska,webm,mpegts,mpeg,mpegvideo,asf,flv,dv,mjpeg,mxf,ogg,nut,rm,ivf,h264,hevc,m4v,gif,wtv,"
+    "yuv4mpegpipe,av1,obu,vc1,vc1test,dirac,cavsvideo,h261,h263,gxf,nsv,nuv,pva,dhav,smk,bink,roq,apng,smjpeg,mpjpeg";
 constexpr std::size_t kPaletteColours = 256;
 constexpr std::int64_t kMostPackets = 1 << 25;
 /// Larger pictures than this many pixels are taken for a damaged header.
@@ -47,7 +44,8 @@ std::string FourCC(const AVCodecParameters& codec) {
 std::unique_ptr<Demuxer> Demuxer::Open(const std::string& path, OpenFault& fault, std::string& message) {
   HearLibrary();
   std::unique_ptr<Demuxer> demuxer(new Demuxer);
-  fault = demuxer->OpenStream(path, message);
+  auto file = FileInput::Open(path, message);
+  fault = file ? demuxer->OpenStream(std::move(file), message) : OpenFault::NotFound;
   if (fault != OpenFault::None) return nullptr;
   if (!demuxer->IndexFromContainer()) {
     demuxer->chunksOfFrame_ = 1;
@@ -64,51 +62,26 @@ std::unique_ptr<Demuxer> Demuxer::Open(const std::string& path, OpenFault& fault
 std::unique_ptr<Demuxer> Demuxer::Again() const {
   std::unique_ptr<Demuxer> demuxer(new Demuxer);
   std::string ignored;
-  if (demuxer->OpenStream(path_, ignored, stream_) != OpenFault::None) return nullptr;
+  auto file = file_->Again();
+  if (!file || demuxer->OpenStream(std::move(file), ignored, stream_) != OpenFault::None) return nullptr;
   demuxer->index_ = index_;
   return demuxer->Rewind() ? std::move(demuxer) : nullptr;
 }
 
-OpenFault Demuxer::OpenStream(const std::string& path, std::string& message, const AVStream* known) {
-  struct stat status {};
-  if (stat(path.c_str(), &status) != 0 || access(path.c_str(), R_OK) != 0) {
-    message = std::strerror(errno);
-    return OpenFault::NotFound;
-  }
-  // A pipe or a device would be waited for without end.
-  if (!S_ISREG(status.st_mode)) {
-    message = "not a file";
-    return OpenFault::NotFound;
-  }
-  fileBytes_ = status.st_size;
-  if (fileBytes_ == 0) {
+OpenFault Demuxer::OpenStream(std::unique_ptr<FileInput> file, std::string& message, const AVStream* known) {
+  file_ = std::move(file);
+  if (file_->Bytes() == 0) {
     message = "the file is empty";
     return OpenFault::NoFrames;
   }
-  path_ = path;
-
-  AVDictionary* options = nullptr;
-  av_dict_set(&options, "format_whitelist", kContainers, 0);
-  av_dict_set(&options, "protocol_whitelist", "file", 0);
-  AVFormatContext* context = nullptr;
-  const int result = avformat_open_input(&context, ("file:" + path).c_str(), nullptr, &options);
-  av_dict_free(&options);
-  if (result < 0) {
-    message = AvError(result);
+  int error = 0;
+  input_ = file_->OpenContainer(kContainers, error);
+  if (!input_) {
+    message = AvError(error);
     return OpenFault::NoMedia;
   }
-  input_.reset(context);
   isAvi_ = OneOf("avi", input_->iformat->name);
 
-  const auto findStream = [&] {
-    for (unsigned i = 0; i < input_->nb_streams; ++i) {
-      AVStream* stream = input_->streams[i];
-      const bool picture = stream->codecpar->codec_type == AVMEDIA_TYPE_VIDEO;
-      if (picture && !(stream->disposition & AV_DISPOSITION_ATTACHED_PIC) && !stream_) stream_ = stream;
-      if (stream->codecpar->codec_type == AVMEDIA_TYPE_AUDIO) hasSound_ = true;
-    }
-    return stream_ != nullptr;
-  };
   const auto saysEnough = [&] {
     // The headers of these two containers say all that a codec without memory needs.
     if (!isAvi_ && !OneOf("mov", input_->iformat->name)) return false;
@@ -116,17 +89,17 @@ OpenFault Demuxer::OpenStream(const std::string& path, std::string& message, con
     return descriptor && (descriptor->props & AV_CODEC_PROP_INTRA_ONLY) && stream_->codecpar->width > 0 &&
            stream_->codecpar->height > 0;
   };
-  const bool found = findStream();
-  DiscardOthers();
+  const bool found = FindStream();
+  // Before the pictures are looked into, which tell a shape of their own.
+  const AVRational pixelOfContainer = found ? stream_->sample_aspect_ratio : AVRational{0, 1};
   if (found && known && stream_->index == known->index) {
     if (avcodec_parameters_copy(stream_->codecpar, known->codecpar) < 0) return OpenFault::NoMedia;
   } else if (!found || !saysEnough()) {
     if (const int probed = avformat_find_stream_info(input_.get(), nullptr); probed < 0) message = AvError(probed);
-    if (!findStream()) {
+    if (!FindStream()) {
       message = "no video stream";
       return OpenFault::NoMedia;
     }
-    DiscardOthers();
   }
   const AVCodecParameters& codec = *stream_->codecpar;
   if (!avcodec_find_decoder(codec.codec_id)) {
@@ -137,11 +110,42 @@ OpenFault Demuxer::OpenStream(const std::string& path, std::string& message, con
     message = "absurd picture size";
     return OpenFault::NoMedia;
   }
+  FindShape(pixelOfContainer);
   FindPalette();
   // A program stream tells few times and makes up the rest, otherwise after a seek than before it.
   tellsTimes_ = !OneOf("mpeg", input_->iformat->name);
   tellsShowTimes_ = tellsTimes_ && !isAvi_ && !(input_->iformat->flags & AVFMT_NOTIMESTAMPS);
   return OpenFault::None;
+}
+
+/// Takes the first stream of moving pictures and passes over all others.
+bool Demuxer::FindStream() {
+  for (unsigned i = 0; i < input_->nb_streams; ++i) {
+    AVStream* stream = input_->streams[i];
+    const bool picture = stream->codecpar->codec_type == AVMEDIA_TYPE_VIDEO;
+    if (picture && !(stream->disposition & AV_DISPOSITION_ATTACHED_PIC) && !stream_) stream_ = stream;
+    if (stream->codecpar->codec_type == AVMEDIA_TYPE_AUDIO) hasSound_ = true;
+  }
+  DiscardOthers();
+  return stream_ != nullptr;
+}
+
+void Demuxer::FindShape(AVRational pixelOfContainer) {
+  const AVCodecParameters& codec = *stream_->codecpar;
+  if (isAvi_) {
+    // What is drawn on these is stored in the pixels that they always had here. Nearly none tell a shape of
+    // their own, and tape tells it otherwise on every machine.
+    if (codec.codec_id != AV_CODEC_ID_DVVIDEO) shape_.TakePixel(pixelOfContainer.num, pixelOfContainer.den);
+  } else {
+    const AVRational pixel = av_guess_sample_aspect_ratio(input_.get(), stream_, nullptr);
+    shape_.TakePixel(pixel.num, pixel.den);
+  }
+  std::size_t bytes = 0;
+  const std::uint8_t* matrix = av_stream_get_side_data(stream_, AV_PKT_DATA_DISPLAYMATRIX, &bytes);
+  std::array<std::int32_t, 9> numbers{};
+  if (!matrix || bytes < sizeof numbers) return;
+  std::memcpy(numbers.data(), matrix, sizeof numbers);
+  shape_.Obey(numbers.data());
 }
 
 void Demuxer::FindPalette() {
@@ -195,7 +199,7 @@ bool Demuxer::IndexFromContainer() {
   for (int i = 0; i < entries; ++i) {
     const AVIndexEntry* entry = avformat_index_get_entry(stream_, i);
     // A file cut short keeps an index that was written in front.
-    if (entry->pos >= fileBytes_) continue;
+    if (entry->pos >= file_->Bytes()) continue;
     if (isAvi_ && (entry->timestamp < 0 || entry->timestamp > kMostPackets)) return false;
     index.Add(entry->timestamp, entry->flags & AVINDEX_KEYFRAME, entry->flags & AVINDEX_DISCARD_FRAME);
     if (isAvi_) index.PlaceLast(static_cast<int>(entry->timestamp) / chunksOfFrame_);
@@ -244,13 +248,11 @@ bool Demuxer::LastIndexedIsLast() {
 /// Looks at what an AVI file holds behind its last indexed packet, which the demuxer does not tell:
 /// the number of empty chunks of our stream, or -1 when there are packets that the index lacks.
 int Demuxer::CountTrailingRepeats(std::int64_t afterLast) const {
-  const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path_.c_str(), "rb"), &std::fclose);
-  if (!file) return 0;
   int repeats = 0;
   std::int64_t at = afterLast;
   for (int chunks = 0; chunks < 100000; ++chunks) {
     std::array<unsigned char, 8> head{};
-    if (fseeko(file.get(), at, SEEK_SET) != 0 || std::fread(head.data(), 1, head.size(), file.get()) != head.size()) break;
+    if (!file_->ReadAt(at, head)) break;
     const std::uint32_t size = head[4] | head[5] << 8 | head[6] << 16 | static_cast<std::uint32_t>(head[7]) << 24;
     const bool numbered = std::isdigit(head[0]) && std::isdigit(head[1]);
     if (numbered && (head[0] - '0') * 10 + head[1] - '0' == stream_->index) {
@@ -304,8 +306,9 @@ bool Demuxer::KnowsFirstPacket() {
 
 VideoInfo Demuxer::Describe() const {
   VideoInfo info;
-  info.width = stream_->codecpar->width;
-  info.height = stream_->codecpar->height;
+  const PictureSize upright = shape_.SizeOf(stream_->codecpar->width, stream_->codecpar->height);
+  info.width = upright.width;
+  info.height = upright.height;
   info.frameCount = index_->FrameCount();
   // An AVI file counts time in frames; others may show each for as long as they like.
   AVRational rate = isAvi_ ? av_div_q(av_inv_q(stream_->time_base), {chunksOfFrame_, 1}) : stream_->avg_frame_rate;
@@ -318,7 +321,7 @@ VideoInfo Demuxer::Describe() const {
   info.compressor = FourCC(*stream_->codecpar);
   info.hasSound = hasSound_;
   info.everyFrameIsKey = index_->EveryPacketIsKey();
-  info.fileBytes = fileBytes_;
+  info.fileBytes = file_->Bytes();
   return info;
 }
 

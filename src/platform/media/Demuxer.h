@@ -6,7 +6,9 @@
 #include <vector>
 
 #include "platform/media/AvHandles.h"
+#include "platform/media/FileInput.h"
 #include "platform/media/PictureIndex.h"
+#include "platform/media/PictureShape.h"
 #include "platform/media/VideoFile.h"
 
 namespace kinalyx {
@@ -35,9 +37,11 @@ class Demuxer {
 
   const PictureIndex& Index() const { return *index_; }
   const AVCodecParameters& Codec() const { return *stream_->codecpar; }
-  /// What the file tells of itself; width and height as its header has them.
+  /// What the file tells of itself.
   VideoInfo Describe() const;
   FrameTimes Times() const;
+  /// What makes the decoded pictures upright ones.
+  const PictureShape& Shape() const { return shape_; }
   /// True when the container itself says when each packet's picture is shown.
   bool TellsShowTimes() const { return tellsShowTimes_; }
 
@@ -51,7 +55,9 @@ class Demuxer {
  private:
   Demuxer() = default;
   /// `known` is the stream as an earlier reader of the file found it; null looks for it.
-  OpenFault OpenStream(const std::string& path, std::string& message, const AVStream* known = nullptr);
+  OpenFault OpenStream(std::unique_ptr<FileInput> file, std::string& message, const AVStream* known = nullptr);
+  bool FindStream();
+  void FindShape(AVRational pixelOfContainer);
   void DiscardOthers();
   bool IndexFromContainer();
   int CountChunksOfFrame() const;
@@ -64,14 +70,14 @@ class Demuxer {
   void FindPalette();
   void AddPalette(AVPacket& packet);
 
-  std::string path_;
+  std::unique_ptr<FileInput> file_;
   InputHandle input_;
   AVStream* stream_ = nullptr;
   bool isAvi_ = false;
   bool tellsTimes_ = true;
   bool tellsShowTimes_ = false;
   bool hasSound_ = false;
-  std::int64_t fileBytes_ = 0;
+  PictureShape shape_;
   int chunksOfFrame_ = 1;  ///< of an AVI file: the picture's own and empty ones behind it
   std::shared_ptr<const PictureIndex> index_;
   int next_ = 0;

@@ -4,6 +4,8 @@
 #include <thread>
 #include <utility>
 
+#include "platform/media/Colours.h"
+
 namespace kinalyx {
 namespace {
 
@@ -149,6 +151,7 @@ void PictureDecoder::Receive(const Sink& sink) {
     pictureOfPacket_.erase(found);
     if (picture < firstPicture_) continue;
     cameOut_[picture] = true;
+    if (frame->colorspace == AVCOL_SPC_UNSPECIFIED) NameMatrix(*frame, MatrixOf(*frame));
     sink(picture, std::move(frame));
   }
 }

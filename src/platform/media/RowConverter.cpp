@@ -5,31 +5,27 @@
 #include <cstddef>
 #include <cstdlib>
 
+#include "platform/media/Colours.h"
+
 namespace kinalyx {
 namespace {
 
-bool IsFullRange(const AVFrame& frame) {
-  switch (frame.format) {
-    case AV_PIX_FMT_YUVJ420P:
-    case AV_PIX_FMT_YUVJ422P:
-    case AV_PIX_FMT_YUVJ444P:
-    case AV_PIX_FMT_YUVJ411P:
-    case AV_PIX_FMT_YUVJ440P: return true;
-    default: return frame.color_range == AVCOL_RANGE_JPEG;
-  }
-}
-
-/// Without a word in the stream, small pictures have the colours of tape and large ones those of HD.
-bool IsHd(const AVFrame& frame) {
-  if (frame.colorspace == AVCOL_SPC_BT709) return true;
-  return frame.colorspace == AVCOL_SPC_UNSPECIFIED && frame.height >= 720 && !IsFullRange(frame);
-}
-
-const libyuv::YuvConstants* MatrixOf(const AVFrame& frame) {
+const libyuv::YuvConstants& ConstantsOf(const AVFrame& frame) {
   const bool full = IsFullRange(frame);
-  if (IsHd(frame)) return full ? &libyuv::kYuvF709Constants : &libyuv::kYuvH709Constants;
-  return full ? &libyuv::kYuvJPEGConstants : &libyuv::kYuvI601Constants;
+  switch (MatrixOf(frame)) {
+    case Matrix::Hd: return full ? libyuv::kYuvF709Constants : libyuv::kYuvH709Constants;
+    case Matrix::Wide: return full ? libyuv::kYuvV2020Constants : libyuv::kYuv2020Constants;
+    case Matrix::Tape: break;
+  }
+  return full ? libyuv::kYuvJPEGConstants : libyuv::kYuvI601Constants;
 }
+
+bool IsPlain420(const AVFrame& frame) {
+  return frame.format == AV_PIX_FMT_YUV420P || frame.format == AV_PIX_FMT_YUVJ420P;
+}
+
+/// Rows of 4:2:0 share their colour with the next row of their own field. So the fields are converted one by one.
+bool HasFieldsApart(const AVFrame& frame) { return frame.interlaced_frame && frame.height % 4 == 0; }
 
 /// Doubles a row of samples: each keeps its place, and the mean of two stands between them.
 void DoubleRow(const std::uint8_t* from, int count, std::uint8_t* to) {
@@ -40,73 +36,168 @@ void DoubleRow(const std::uint8_t* from, int count, std::uint8_t* to) {
   to[2 * count - 2] = to[2 * count - 1] = from[count - 1];
 }
 
+/// Where the library's function for 4:2:0 and 4:2:2 pictures of a sample type are the same but for the height of
+/// their colour, one call converts a picture, or two its fields.
+template <typename Sample, typename Convert>
+bool ByFields(const AVFrame& frame, std::uint8_t* bits, int stride, int height, Convert convert) {
+  const int fields = HasFieldsApart(frame) ? 2 : 1;
+  const bool upward = height < 0;
+  for (int field = 0; field < fields; ++field) {
+    const Sample* planes[3];
+    int pitches[3];
+    for (int p = 0; p < 3; ++p) {
+      planes[p] = reinterpret_cast<const Sample*>(frame.data[p] + static_cast<std::ptrdiff_t>(field) * frame.linesize[p]);
+      pitches[p] = fields * frame.linesize[p] / static_cast<int>(sizeof(Sample));
+    }
+    const int row = fields == 2 && upward ? 1 - field : field;
+    if (convert(planes[0], pitches[0], planes[1], pitches[1], planes[2], pitches[2],
+                bits + static_cast<std::ptrdiff_t>(row) * stride, fields * stride, &ConstantsOf(frame), frame.width,
+                height / fields) != 0)
+      return false;
+  }
+  return true;
+}
+
+/// The turn that follows when a picture is first made upside down (or, mirrored, the right way up), and is to
+/// stand with its bottom row first: a mirror is a half turn of a picture upside down.
+libyuv::RotationMode TurnOf(const PictureShape& shape) {
+  const int quarters = (8 - shape.turns - (shape.mirrored ? 2 : 0)) % 4;
+  return static_cast<libyuv::RotationMode>(quarters * 90);
+}
+
 }  // namespace
 
-bool RowConverter::Convert(const AVFrame& frame, int bitCount, std::vector<std::uint8_t>& rows) {
-  const int rowBytes = RowBytes(frame.width, bitCount);
-  rows.resize(static_cast<std::size_t>(rowBytes) * static_cast<std::size_t>(frame.height));
-  if (bitCount == 32) return ToArgb(frame, rows.data(), rowBytes);
+FrameRows RowConverter::Convert(const AVFrame& frame, int bitCount, std::vector<std::uint8_t>& bits) {
+  const PictureSize size = shape_.SizeOf(frame.width, frame.height);
+  const int rowBytes = RowBytes(size.width, bitCount);
+  bits.resize(static_cast<std::size_t>(rowBytes) * static_cast<std::size_t>(size.height));
+  const FrameRows rows{bits.data(), size.width, size.height, rowBytes, bitCount};
+  if (bitCount == 32) return Upright(frame, bits.data(), rowBytes) ? rows : FrameRows{};
 
-  if (frame.format == AV_PIX_FMT_BGR24 && std::abs(frame.linesize[0]) >= frame.width * 3) {
-    libyuv::CopyPlane(frame.data[0], frame.linesize[0], rows.data(), rowBytes, frame.width * 3, -frame.height);
-    return true;
+  if (shape_.IsPlain() && frame.format == AV_PIX_FMT_BGR24 && std::abs(frame.linesize[0]) >= frame.width * 3) {
+    libyuv::CopyPlane(frame.data[0], frame.linesize[0], bits.data(), rowBytes, frame.width * 3, -frame.height);
+    return rows;
   }
-  const int wideStride = frame.width * 4;
-  wide_.resize(static_cast<std::size_t>(wideStride) * static_cast<std::size_t>(frame.height));
-  return ToArgb(frame, wide_.data(), wideStride) &&
-         libyuv::ARGBToRGB24(wide_.data(), wideStride, rows.data(), rowBytes, frame.width, frame.height) == 0;
+  const int wideStride = size.width * 4;
+  wide_.resize(static_cast<std::size_t>(wideStride) * static_cast<std::size_t>(size.height));
+  const bool good = Upright(frame, wide_.data(), wideStride) &&
+                    libyuv::ARGBToRGB24(wide_.data(), wideStride, bits.data(), rowBytes, size.width, size.height) == 0;
+  return good ? rows : FrameRows{};
 }
 
-bool RowConverter::ToArgb(const AVFrame& frame, std::uint8_t* target, int stride) {
+bool RowConverter::Upright(const AVFrame& frame, std::uint8_t* bits, int stride) {
+  if (shape_.IsPlain()) return ToArgb(frame, {bits, stride, -frame.height});
+  if (TurnPlanes(frame)) return ToArgb(*turned_, {bits, stride, turned_->height});
+
+  const int wide = shape_.StretchedWidth(frame.width);
+  const int height = frame.height;
+  const libyuv::RotationMode turn = TurnOf(shape_);
+  std::uint8_t* lying = bits;
+  int lyingStride = stride;
+  if (turn != libyuv::kRotate0) {
+    lyingStride = wide * 4;
+    lying_.resize(static_cast<std::size_t>(lyingStride) * static_cast<std::size_t>(height));
+    lying = lying_.data();
+  }
+  const int toward = shape_.mirrored ? height : -height;
+  if (wide == frame.width) {
+    if (!ToArgb(frame, {lying, lyingStride, toward})) return false;
+  } else {
+    const int narrowStride = frame.width * 4;
+    narrow_.resize(static_cast<std::size_t>(narrowStride) * static_cast<std::size_t>(height));
+    if (!ToArgb(frame, {narrow_.data(), narrowStride, toward})) return false;
+    if (libyuv::ARGBScale(narrow_.data(), narrowStride, frame.width, height, lying, lyingStride, wide, height,
+                          libyuv::kFilterLinear) != 0)
+      return false;
+  }
+  return turn == libyuv::kRotate0 ||
+         libyuv::ARGBRotate(lying, lyingStride, bits, stride, wide, height, turn) == 0;
+}
+
+/// The planes of the usual pictures of telephones are turned before they become pixels, which are nearly three
+/// times as many bytes. False where that would not give the same.
+bool RowConverter::TurnPlanes(const AVFrame& frame) {
+  const libyuv::RotationMode turn = TurnOf(shape_);
+  const bool whole = frame.width % 2 == 0 && frame.height % 2 == 0;
+  if (turn == libyuv::kRotate0 || !IsPlain420(frame) || !whole || HasFieldsApart(frame) || shape_.pixelWidth != 1)
+    return false;
+  const PictureSize size = shape_.SizeOf(frame.width, frame.height);
+  if (!turned_ || turned_->width != size.width || turned_->height != size.height) {
+    turned_ = NewFrame();
+    if (!turned_) return false;
+    turned_->width = size.width;
+    turned_->height = size.height;
+    turned_->format = AV_PIX_FMT_YUV420P;
+    if (av_frame_get_buffer(turned_.get(), 0) < 0) {
+      turned_.reset();
+      return false;
+    }
+  }
+  turned_->color_primaries = frame.color_primaries;
+  turned_->color_range = IsFullRange(frame) ? AVCOL_RANGE_JPEG : AVCOL_RANGE_MPEG;
+  turned_->color_trc = frame.color_trc;
+  NameMatrix(*turned_, MatrixOf(frame));
+  const int toward = shape_.mirrored ? frame.height : -frame.height;
+  return libyuv::I420Rotate(frame.data[0], frame.linesize[0], frame.data[1], frame.linesize[1], frame.data[2],
+                            frame.linesize[2], turned_->data[0], turned_->linesize[0], turned_->data[1],
+                            turned_->linesize[1], turned_->data[2], turned_->linesize[2], frame.width, toward,
+                            turn) == 0;
+}
+
+bool RowConverter::ToArgb(const AVFrame& frame, const Target& target) {
+  const auto [bits, stride, height] = target;
   const std::uint8_t* const* data = frame.data;
   const int* pitch = frame.linesize;
-  const int width = frame.width;
-  const int upsideDown = -frame.height;
   switch (frame.format) {
     case AV_PIX_FMT_YUV420P:
-    case AV_PIX_FMT_YUVJ420P:
-      return libyuv::I420ToARGBMatrix(data[0], pitch[0], data[1], pitch[1], data[2], pitch[2], target, stride,
-                                      MatrixOf(frame), width, upsideDown) == 0;
+    case AV_PIX_FMT_YUVJ420P: return ByFields<std::uint8_t>(frame, bits, stride, height, &libyuv::I420ToARGBMatrix);
+    case AV_PIX_FMT_YUV420P10: return ByFields<std::uint16_t>(frame, bits, stride, height, &libyuv::I010ToARGBMatrix);
+    case AV_PIX_FMT_YUV420P12: return ByFields<std::uint16_t>(frame, bits, stride, height, &libyuv::I012ToARGBMatrix);
     case AV_PIX_FMT_YUV422P:
-    case AV_PIX_FMT_YUVJ422P:
-      return libyuv::I422ToARGBMatrix(data[0], pitch[0], data[1], pitch[1], data[2], pitch[2], target, stride,
-                                      MatrixOf(frame), width, upsideDown) == 0;
+    case AV_PIX_FMT_YUVJ422P: return ByFields<std::uint8_t>(frame, bits, stride, height, &libyuv::I422ToARGBMatrix);
+    case AV_PIX_FMT_YUV422P10: return ByFields<std::uint16_t>(frame, bits, stride, height, &libyuv::I210ToARGBMatrix);
     case AV_PIX_FMT_YUV444P:
-    case AV_PIX_FMT_YUVJ444P:
-      return libyuv::I444ToARGBMatrix(data[0], pitch[0], data[1], pitch[1], data[2], pitch[2], target, stride,
-                                      MatrixOf(frame), width, upsideDown) == 0;
-    case AV_PIX_FMT_YUV411P: {
-      const int quarter = (width + 3) / 4;
-      const std::size_t plane = 2 * static_cast<std::size_t>(quarter) * static_cast<std::size_t>(frame.height);
-      chroma_.resize(2 * plane);
-      for (int p = 0; p < 2; ++p) {
-        for (int y = 0; y < frame.height; ++y) {
-          DoubleRow(data[p + 1] + static_cast<std::ptrdiff_t>(y) * pitch[p + 1], quarter,
-                    chroma_.data() + p * plane + static_cast<std::size_t>(y) * 2 * quarter);
-        }
-      }
-      return libyuv::I422ToARGBMatrix(data[0], pitch[0], chroma_.data(), 2 * quarter, chroma_.data() + plane,
-                                      2 * quarter, target, stride, MatrixOf(frame), width, upsideDown) == 0;
-    }
-    case AV_PIX_FMT_BGR24: return libyuv::RGB24ToARGB(data[0], pitch[0], target, stride, width, upsideDown) == 0;
-    default: return ByScaler(frame, target, stride);
+    case AV_PIX_FMT_YUVJ444P: return ByFields<std::uint8_t>(frame, bits, stride, height, &libyuv::I444ToARGBMatrix);
+    case AV_PIX_FMT_YUV444P10: return ByFields<std::uint16_t>(frame, bits, stride, height, &libyuv::I410ToARGBMatrix);
+    case AV_PIX_FMT_YUV411P: return Quarter411(frame, target);
+    case AV_PIX_FMT_BGR24: return libyuv::RGB24ToARGB(data[0], pitch[0], bits, stride, frame.width, height) == 0;
+    default: return ByScaler(frame, target);
   }
 }
 
-bool RowConverter::ByScaler(const AVFrame& frame, std::uint8_t* target, int stride) {
+bool RowConverter::Quarter411(const AVFrame& frame, const Target& target) {
+  const int quarter = (frame.width + 3) / 4;
+  const std::size_t plane = 2 * static_cast<std::size_t>(quarter) * static_cast<std::size_t>(frame.height);
+  chroma_.resize(2 * plane);
+  for (int p = 0; p < 2; ++p) {
+    for (int y = 0; y < frame.height; ++y) {
+      DoubleRow(frame.data[p + 1] + static_cast<std::ptrdiff_t>(y) * frame.linesize[p + 1], quarter,
+                chroma_.data() + p * plane + static_cast<std::size_t>(y) * 2 * quarter);
+    }
+  }
+  return libyuv::I422ToARGBMatrix(frame.data[0], frame.linesize[0], chroma_.data(), 2 * quarter, chroma_.data() + plane,
+                                  2 * quarter, target.bits, target.stride, &ConstantsOf(frame), frame.width,
+                                  target.height) == 0;
+}
+
+bool RowConverter::ByScaler(const AVFrame& frame, const Target& target) {
   const auto format = static_cast<AVPixelFormat>(frame.format);
   scaler_.reset(sws_getCachedContext(scaler_.release(), frame.width, frame.height, format, frame.width, frame.height,
                                      AV_PIX_FMT_BGRA, SWS_BILINEAR, nullptr, nullptr, nullptr));
   if (!scaler_) return false;
-  const int* matrix = sws_getCoefficients(IsHd(frame) ? SWS_CS_ITU709 : SWS_CS_ITU601);
+  const Matrix colours = MatrixOf(frame);
+  const int* matrix = sws_getCoefficients(colours == Matrix::Hd     ? SWS_CS_ITU709
+                                          : colours == Matrix::Wide ? SWS_CS_BT2020
+                                                                    : SWS_CS_ITU601);
   sws_setColorspaceDetails(scaler_.get(), matrix, IsFullRange(frame), matrix, 1, 0, 1 << 16, 1 << 16);
-  std::uint8_t* const planes[] = {target + static_cast<std::ptrdiff_t>(frame.height - 1) * stride};
-  const int strides[] = {-stride};
+  const bool upward = target.height < 0;
+  std::uint8_t* const planes[] = {target.bits + (upward ? static_cast<std::ptrdiff_t>(frame.height - 1) * target.stride : 0)};
+  const int strides[] = {upward ? -target.stride : target.stride};
   if (sws_scale(scaler_.get(), frame.data, frame.linesize, 0, frame.height, planes, strides) != frame.height)
     return false;
   // Transparency of a strange format is no business of a video.
-  for (std::size_t i = 3; i < static_cast<std::size_t>(stride) * static_cast<std::size_t>(frame.height); i += 4)
-    target[i] = 255;
+  for (std::size_t i = 3; i < static_cast<std::size_t>(target.stride) * static_cast<std::size_t>(frame.height); i += 4)
+    target.bits[i] = 255;
   return true;
 }
 

@@ -4,24 +4,43 @@
 #include <vector>
 
 #include "platform/media/AvHandles.h"
+#include "platform/media/PictureShape.h"
+#include "platform/media/VideoFile.h"
 
 namespace kinalyx {
 
-/// Turns decoded pictures into rows of blue, green, red, bottom row first.
+/// Turns decoded pictures into rows of blue, green, red, bottom row first, upright and in square pixels. The
+/// pictures may be of any size: what has been made smaller comes out as small.
 class RowConverter {
  public:
+  explicit RowConverter(PictureShape shape = {}) : shape_(shape) {}
+
   /// Bytes from one row to the next: whole pixels, padded to a multiple of 4.
   static int RowBytes(int width, int bitCount) { return (width * (bitCount / 8) + 3) & ~3; }
 
-  /// Writes a picture as rows of 24 or 32 bits; the fourth byte of 32 is 255. False for a picture that
-  /// cannot be converted, and `rows` is then undefined.
-  bool Convert(const AVFrame& frame, int bitCount, std::vector<std::uint8_t>& rows);
+  /// Writes a picture to `bits` as rows of 24 or 32 bits, and gives the view of them; the fourth byte of 32 is
+  /// 255. An empty view for a picture that cannot be converted.
+  FrameRows Convert(const AVFrame& frame, int bitCount, std::vector<std::uint8_t>& bits);
 
  private:
-  bool ToArgb(const AVFrame& frame, std::uint8_t* target, int stride);
-  bool ByScaler(const AVFrame& frame, std::uint8_t* target, int stride);
+  /// Pixels of 32 bits as they are being made. Negative heights stand for rows that go upward.
+  struct Target {
+    std::uint8_t* bits = nullptr;
+    int stride = 0;
+    int height = 0;
+  };
 
+  bool Upright(const AVFrame& frame, std::uint8_t* bits, int stride);
+  bool TurnPlanes(const AVFrame& frame);
+  bool ToArgb(const AVFrame& frame, const Target& target);
+  bool Quarter411(const AVFrame& frame, const Target& target);
+  bool ByScaler(const AVFrame& frame, const Target& target);
+
+  PictureShape shape_;
   std::vector<std::uint8_t> wide_;    ///< 32-bit pixels on the way to 24
+  std::vector<std::uint8_t> lying_;   ///< before the turn
+  std::vector<std::uint8_t> narrow_;  ///< before the stretch
+  FrameHandle turned_;                ///< planes after the turn, where they can be turned as they are
   std::vector<std::uint8_t> chroma_;  ///< chroma on the way from a quarter of the width to a half
   ScalerHandle scaler_;
 };

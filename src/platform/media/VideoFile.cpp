@@ -13,13 +13,14 @@ namespace kinalyx {
 
 struct VideoFile::Engine {
   Engine(std::unique_ptr<PictureDecoder> decoder)
-      : info(decoder->Source().Describe()), times(decoder->Source().Times()), index(decoder->Index()), pictures(std::move(decoder)) {}
+      : info(decoder->Source().Describe()), times(decoder->Source().Times()), index(decoder->Index()),
+        converter(decoder->Source().Shape()), pictures(std::move(decoder)) {}
 
   VideoInfo info;
   FrameTimes times;
   const PictureIndex& index;
-  PictureSource pictures;
   RowConverter converter;
+  PictureSource pictures;
 
   std::vector<std::uint8_t> bits;  ///< the rows handed out last
   FrameRows rows;
@@ -54,10 +55,9 @@ FrameRows VideoFile::Frame(int n, int bitCount) {
 
   engine.rows = {};
   const FrameHandle frame = engine.pictures.Picture(picture);
-  if (!frame || !engine.converter.Convert(*frame, bitCount, engine.bits)) return {};
+  if (!frame) return {};
   engine.rowsPicture = picture;
-  engine.rows = {engine.bits.data(), frame->width, frame->height, RowConverter::RowBytes(frame->width, bitCount),
-                 bitCount};
+  engine.rows = engine.converter.Convert(*frame, bitCount, engine.bits);
   return engine.rows;
 }
 

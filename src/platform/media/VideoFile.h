@@ -5,21 +5,9 @@
 #include <memory>
 #include <string>
 
-namespace kinalyx {
+#include "platform/media/VideoInfo.h"
 
-/// What a video file says of itself.
-struct VideoInfo {
-  int width = 0;              ///< pixels
-  int height = 0;             ///< pixels
-  int frameCount = 0;         ///< pictures, in the order in which they are shown
-  std::int64_t rate = 0;      ///< pictures per `scale` seconds; 0 when the file does not tell
-  std::int64_t scale = 1;
-  double durationMs = 0;      ///< playing time of all pictures
-  std::string compressor;     ///< the four-character code as found ("dvsd", "MJPG"), or the codec's name
-  bool hasSound = false;
-  bool everyFrameIsKey = false;
-  std::int64_t fileBytes = 0;
-};
+namespace kinalyx {
 
 /// One picture as rows of blue, green, red (24 bits) or blue, green, red, unused (32 bits), bottom row
 /// first, each row padded to a multiple of 4 bytes. The view is good until the next call on its file.
