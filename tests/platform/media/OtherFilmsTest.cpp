@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <cstring>
+#include <filesystem>
 #include <random>
 
 #include "platform/media/Films.h"
@@ -53,8 +53,30 @@ TEST(OtherFilms, OfEightBitsHaveTheirColoursWhereverTheyAreEntered) {
   }
 }
 
+TEST(OtherFilms, AreKnownByTheirContentWhateverTheirNameSays) {
+  const std::pair<Film, std::string> cases[] = {{{"a.mp4", "mpeg4", 10}, "a.avi"},
+                                                {{"b.mkv", "mpeg4", 10}, "b.mp4"},
+                                                {{"c.mpg", "mpeg2video", 10}, "c.wmv"},
+                                                {{"d.avi", "mpeg4", 10}, "d.mov"},
+                                                {{"e.ts", "mpeg2video", 10}, "e"}};
+  for (const auto& [film, other] : cases) {
+    MakeFilm(film, TestPath(film.name));
+    std::filesystem::rename(TestPath(film.name), TestPath(other));
+    const auto opened = VideoFile::Open(TestPath(other));
+    ASSERT_TRUE(opened.file) << other << ": " << opened.message;
+    EXPECT_EQ(opened.file->Info().frameCount, 10) << other;
+    EXPECT_EQ(ReadNumber(opened.file->Frame(7, 24)), 7) << other;
+  }
+}
+
 /// A phone that lowers its rate in the dark: 40 ms, then 80, then 16.
 std::int64_t Uneven(int n) { return n < 20 ? n * 40 : n < 40 ? 800 + (n - 20) * 80 : 2400 + (n - 40) * 16; }
+
+/// As a browser or a camera that fears for its battery writes it.
+Film Fragmented(Film film) {
+  film.muxing = "movflags=frag_keyframe+empty_moov";
+  return film;
+}
 
 INSTANTIATE_TEST_SUITE_P(
     Films, OtherFilms,
@@ -67,7 +89,16 @@ INSTANTIATE_TEST_SUITE_P(
                     Film{"old.avi", "mpeg4", 90, 30, 2, "", true}, Film{"old.mp4", "mpeg4", 90, 30, 2},
                     Film{"disc.mpg", "mpeg2video", 90, 15, 2}, Film{"disc.avi", "mpeg2video", 90, 15, 2},
                     Film{"stream.ts", "libx264", 80, 20, 2, "preset=veryfast"},
-                    Film{"tape.avi", "ffvhuff", 30, 1, 0, "pred=left", true}),
+                    Film{"tape.avi", "ffvhuff", 30, 1, 0, "pred=left", true},
+                    Film{"phone.mov", "libx265", 60, 24, 3, "preset=ultrafast:x265-params=log-level=none"},
+                    Film{"open.mp4", "libx265", 60, 15, 3, "preset=ultrafast:x265-params=log-level=none\\:open-gop=1"},
+                    Film{"web.webm", "libvpx-vp9", 30, 12, 0, "deadline=realtime:cpu-used=8"},
+                    Film{"camera.mts", "libx264", 50, 20, 2, "preset=veryfast"},
+                    Film{"camera.m2ts", "mpeg2video", 50, 15, 2}, Film{"disc.vob", "mpeg2video", 50, 15, 2},
+                    Film{"disc.mpeg", "mpeg1video", 50, 15, 2}, Film{"desk.wmv", "wmv2", 40, 15, 0, "", true},
+                    Film{"desk.asf", "wmv1", 40, 15, 0}, Film{"old.3gp", "mpeg4", 40, 15, 0},
+                    Film{"web.flv", "flv", 40, 15, 0}, Film{"web.ogg", "libtheora", 40, 16, 0},
+                    Film{"phone.m4v", "mpeg4", 40, 15, 2}, Fragmented({"parts.mp4", "libx264", 60, 20, 2, "preset=veryfast"})),
     [](const auto& info) {
       std::string name = info.param.name + "_" + info.param.encoder;
       for (char& c : name)
