@@ -4,6 +4,7 @@
 #include <array>
 #include <cctype>
 #include <cmath>
+#include <cstdlib>
 #include <cstring>
 #include <string_view>
 #include <utility>
@@ -189,34 +190,51 @@ void Demuxer::DiscardOthers() {
 }
 
 bool Demuxer::IndexFromContainer() {
-  const bool isMov = OneOf("mov", input_->iformat->name);
-  const int entries = avformat_index_get_entries_count(stream_);
-  if ((!isAvi_ && !isMov) || entries == 0) return false;
+  if (isAvi_) return IndexFromAvi();
+  return OneOf("mov", input_->iformat->name) && IndexFromMov();
+}
 
-  if (isAvi_) chunksOfFrame_ = CountChunksOfFrame();
+bool Demuxer::IndexFromAvi() {
+  const int entries = avformat_index_get_entries_count(stream_);
+  if (entries == 0) return false;
+  chunksOfFrame_ = CountChunksOfFrame();
   PictureIndex index;
   std::int64_t afterLast = 0;
   for (int i = 0; i < entries; ++i) {
     const AVIndexEntry* entry = avformat_index_get_entry(stream_, i);
     // A file cut short keeps an index that was written in front.
     if (entry->pos >= file_->Bytes()) continue;
-    if (isAvi_ && (entry->timestamp < 0 || entry->timestamp > kMostPackets)) return false;
+    if (entry->timestamp < 0 || entry->timestamp > kMostPackets) return false;
     index.Add(entry->timestamp, entry->flags & AVINDEX_KEYFRAME, entry->flags & AVINDEX_DISCARD_FRAME);
-    if (isAvi_) index.PlaceLast(static_cast<int>(entry->timestamp) / chunksOfFrame_);
+    index.PlaceLast(static_cast<int>(entry->timestamp) / chunksOfFrame_);
     afterLast = std::max(afterLast, entry->pos + 8 + entry->size + entry->size % 2);
   }
   if (index.PacketCount() == 0 || !index.TimesGrow()) return false;
-
-  int frames = 0;
-  if (isAvi_) {
-    const int trailing = CountTrailingRepeats(afterLast);
-    if (trailing < 0) return false;
-    frames = (static_cast<int>(index.Time(index.PacketCount() - 1)) + trailing) / chunksOfFrame_ + 1;
-  }
+  const int trailing = CountTrailingRepeats(afterLast);
+  if (trailing < 0) return false;
+  const int frames = (static_cast<int>(index.Time(index.PacketCount() - 1)) + trailing) / chunksOfFrame_ + 1;
   index.Finish(frames, WaitsForKey(stream_->codecpar->codec_id));
   index_ = std::make_shared<PictureIndex>(std::move(index));
-  if (isMov && !LastIndexedIsLast()) return false;
   return KnowsFirstPacket();
+}
+
+/// When a picture is shown stands nowhere but with its packet. The headers know where that is: so a reader that
+/// reads nothing gives all packets with their times, at the cost of none of them.
+bool Demuxer::IndexFromMov() {
+  const std::unique_ptr<FileInput> file = file_->Again();
+  int error = 0;
+  const InputHandle walk = file ? file->OpenContainer(kContainers, error) : nullptr;
+  if (!walk || walk->nb_streams != input_->nb_streams) return false;
+  for (unsigned i = 0; i < walk->nb_streams; ++i)
+    walk->streams[i]->discard = static_cast<int>(i) == stream_->index ? AVDISCARD_DEFAULT : AVDISCARD_ALL;
+  walk->flags |= AVFMT_FLAG_NOPARSE;
+  file->BecomeHollow();
+  PictureIndex index;
+  ReadIndex(*walk, index);
+  if (index.PacketCount() == 0 || !index.TimesGrow()) return false;
+  index.Finish(0, WaitsForKey(stream_->codecpar->codec_id));
+  index_ = std::make_shared<PictureIndex>(std::move(index));
+  return LastIndexedIsLast() && KnowsFirstPacket();
 }
 
 /// Some writers take fields for frames, and put an empty chunk behind each picture of the whole file.
@@ -273,23 +291,26 @@ int Demuxer::CountTrailingRepeats(std::int64_t afterLast) const {
 void Demuxer::IndexByReading() {
   Rewind();
   PictureIndex index;
-  const PacketHandle packet = NewPacket();
-  bool timed = tellsTimes_;
-  std::int64_t previous = 0;
-  while (index.PacketCount() < kMostPackets && av_read_frame(input_.get(), packet.get()) >= 0) {
-    if (packet->stream_index == stream_->index && packet->size > 0) {
-      std::int64_t time = packet->dts != AV_NOPTS_VALUE ? packet->dts : packet->pts;
-      if (time == AV_NOPTS_VALUE || (index.PacketCount() > 0 && time <= previous)) timed = false;
-      if (!timed) time = index.PacketCount() ? previous : 0;
-      index.Add(time, packet->flags & AV_PKT_FLAG_KEY, packet->flags & AV_PKT_FLAG_DISCARD);
-      if (isAvi_ && timed && time >= 0 && time < kMostPackets) index.PlaceLast(static_cast<int>(time));
-      previous = time;
-    }
-    av_packet_unref(packet.get());
-  }
+  ReadIndex(*input_, index);
   index.Finish(0, WaitsForKey(stream_->codecpar->codec_id));
   index_ = std::make_shared<PictureIndex>(std::move(index));
   Rewind();
+}
+
+void Demuxer::ReadIndex(AVFormatContext& input, PictureIndex& index) const {
+  const PacketHandle packet = NewPacket();
+  bool timed = tellsTimes_;
+  std::int64_t previous = 0;
+  for (; index.PacketCount() < kMostPackets && av_read_frame(&input, packet.get()) >= 0; av_packet_unref(packet.get())) {
+    if (packet->stream_index != stream_->index || packet->size == 0) continue;
+    std::int64_t time = packet->dts != AV_NOPTS_VALUE ? packet->dts : packet->pts;
+    if (time == AV_NOPTS_VALUE || (index.PacketCount() > 0 && time <= previous)) timed = false;
+    if (!timed) time = index.PacketCount() ? previous : 0;
+    index.Add(time, packet->flags & AV_PKT_FLAG_KEY, packet->flags & AV_PKT_FLAG_DISCARD);
+    if (tellsShowTimes_ && packet->pts != AV_NOPTS_VALUE) index.TimeLast(packet->pts, packet->duration);
+    if (isAvi_ && timed && time >= 0 && time < kMostPackets) index.PlaceLast(static_cast<int>(time));
+    previous = time;
+  }
 }
 
 bool Demuxer::KnowsFirstPacket() {
@@ -317,6 +338,8 @@ VideoInfo Demuxer::Describe() const {
     info.rate = rate.num;
     info.scale = rate.den;
   }
+  info.rateVaries = Times().Vary(*index_);
+  info.captureRate = CaptureRate();
   info.durationMs = Times().Of(index_->FrameCount(), *index_);
   info.compressor = FourCC(*stream_->codecpar);
   info.hasSound = hasSound_;
@@ -325,13 +348,23 @@ VideoInfo Demuxer::Describe() const {
   return info;
 }
 
+/// Telephones store slow motion as it is to be shown, and beside it how it was taken.
+double Demuxer::CaptureRate() const {
+  constexpr double kFastest = 1e6;
+  for (const AVDictionary* notes : {input_->metadata, stream_->metadata}) {
+    const AVDictionaryEntry* entry = av_dict_get(notes, "com.android.capture.fps", nullptr, 0);
+    const double rate = entry ? std::strtod(entry->value, nullptr) : 0;
+    if (rate > 0 && rate <= kFastest) return rate;
+  }
+  return 0;
+}
+
 FrameTimes Demuxer::Times() const {
   FrameTimes times;
   times.unitMs = av_q2d(stream_->time_base) * 1000 * chunksOfFrame_;
   times.unitIsFrame = isAvi_;
   const AVRational rate = stream_->avg_frame_rate.num > 0 ? stream_->avg_frame_rate : stream_->r_frame_rate;
   if (rate.num > 0 && rate.den > 0) times.meanMs = 1000 / av_q2d(rate);
-  times.duration = stream_->duration;
   return times;
 }
 
@@ -339,18 +372,35 @@ double FrameTimes::Of(int frame, const PictureIndex& index) const {
   const int frames = index.FrameCount();
   frame = std::clamp(frame, 0, frames);
   if (unitIsFrame) return frame * unitMs;
-  if (!index.TimesGrow()) return frame * meanMs;
+  if (index.HasShowTimes()) return static_cast<double>(index.ShowTime(frame) - index.ShowTime(0)) * unitMs;
+  if (!index.TimesGrow() || frame == frames) return frame * meanMs;
   // Decoding times run ahead of the times of showing by a fixed delay, and in step with them.
   const std::int64_t first = index.Time(index.PacketOfOrder(0));
-  if (frame < frames) return static_cast<double>(index.Time(index.PacketOfOrder(frame)) - first) * unitMs;
-  const int last = index.PacketOfOrder(frames - 1);
-  std::int64_t length = last > 0 ? index.Time(last) - index.Time(last - 1) : 0;
-  if (duration > 0 && last == index.PacketCount() - 1) {
-    const std::int64_t all = duration - (index.Time(last) - index.Time(0));
-    // The last picture's own length, unless an edit of the film makes nonsense of it.
-    if (all > 0 && all < 100 * std::max<std::int64_t>(length, 1)) length = all;
+  return static_cast<double>(index.Time(index.PacketOfOrder(frame)) - first) * unitMs;
+}
+
+int FrameTimes::FrameAt(double ms, const PictureIndex& index) const {
+  // Times that went through other hands come back rounded.
+  constexpr double kRoundingMs = 1e-6;
+  int low = 0;
+  int high = std::max(0, index.FrameCount() - 1);
+  while (low < high) {
+    const int middle = low + (high - low + 1) / 2;
+    if (Of(middle, index) <= ms + kRoundingMs) low = middle;
+    else high = middle - 1;
   }
-  return static_cast<double>(index.Time(last) - first + length) * unitMs;
+  return low;
+}
+
+bool FrameTimes::Vary(const PictureIndex& index) const {
+  constexpr double kLeastPart = 0.2;
+  const int frames = index.FrameCount();
+  if (unitIsFrame || !index.HasShowTimes() || frames < 3) return false;
+  const double mean = Of(frames - 1, index) / (frames - 1);
+  for (int n = 1; n < frames; ++n) {
+    if (std::abs(Of(n, index) - Of(n - 1, index) - mean) > kLeastPart * mean + unitMs) return true;
+  }
+  return false;
 }
 
 bool Demuxer::Rewind() {

@@ -18,10 +18,13 @@ struct FrameTimes {
   double unitMs = 0;          ///< of the times in the index
   bool unitIsFrame = false;   ///< frames follow one another in units
   double meanMs = 0;          ///< from frame to frame, where the packets have no times
-  std::int64_t duration = 0;  ///< units; 0 or less when it is not told
 
   /// Milliseconds from the start of the first frame to the start of this one; the frame count gives the end.
   double Of(int frame, const PictureIndex& index) const;
+  /// The frame that is shown at a time in ms from the start of the first; the nearest one outside.
+  int FrameAt(double ms, const PictureIndex& index) const;
+  /// True when frames are shown for times that differ by more than the container's rounding.
+  bool Vary(const PictureIndex& index) const;
 };
 
 /// The packets of a file's first video stream, each with its number in the index. All other streams
@@ -60,10 +63,17 @@ class Demuxer {
   void FindShape(AVRational pixelOfContainer);
   void DiscardOthers();
   bool IndexFromContainer();
+  /// What the headers of an AVI file tell of its packets; false when that is not all.
+  bool IndexFromAvi();
+  /// A walk through the packets of a film whose headers tell where they are; false when there are others.
+  bool IndexFromMov();
+  double CaptureRate() const;
   int CountChunksOfFrame() const;
   bool LastIndexedIsLast();
   int CountTrailingRepeats(std::int64_t afterLast) const;
   void IndexByReading();
+  /// Takes all packets of our stream that a reader still gives.
+  void ReadIndex(AVFormatContext& input, PictureIndex& index) const;
   bool Rewind();
   bool KnowsFirstPacket();
   /// The colours of a picture of 8 bits or less stand in the file's header; a decoder takes them from a packet.

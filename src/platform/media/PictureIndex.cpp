@@ -8,8 +8,11 @@ namespace kinalyx {
 void PictureIndex::Add(std::int64_t time, bool key, bool hidden) {
   if (!packets_.empty() && time <= packets_.back().time) timesGrow_ = false;
   packets_.push_back({time, 0, key, hidden});
+  showings_.push_back({});
   if (!frameOfOrder_.empty()) frameOfOrder_.push_back(frameOfOrder_.back() + 1);
 }
+
+void PictureIndex::TimeLast(std::int64_t shown, std::int64_t length) { showings_.back() = {shown, length}; }
 
 void PictureIndex::PlaceLast(int frame) {
   const auto last = static_cast<int>(packets_.size()) - 1;
@@ -40,7 +43,32 @@ void PictureIndex::Finish(int frames, bool dropBeforeKey) {
     ++pictures_;
   }
   frameOfOrder_ = std::move(shownFrames);
+  OrderShowTimes();
   frames_ = pictures_ == 0 ? 0 : std::max(frames, FrameOfPicture(pictures_ - 1) + 1);
+}
+
+void PictureIndex::OrderShowTimes() {
+  std::vector<Showing> shown;
+  shown.reserve(static_cast<std::size_t>(pictures_));
+  for (std::size_t i = 0; i < packets_.size(); ++i) {
+    if (!packets_[i].hidden) shown.push_back(showings_[i]);
+  }
+  showings_ = {};
+  showTimes_.clear();
+  if (shown.empty() || std::ranges::find(shown, kNoTime, &Showing::begin) != shown.end()) return;
+  // Within a chunk by time, as they are shown; the chunks follow one another.
+  for (std::size_t k = 0; k < keys_.size(); ++k) {
+    const auto from = shown.begin() + packets_[keys_[k]].order;
+    const auto to = k + 1 < keys_.size() ? shown.begin() + packets_[keys_[k + 1]].order : shown.end();
+    std::ranges::sort(from, to, {}, &Showing::begin);
+  }
+  if (!std::ranges::is_sorted(shown, {}, &Showing::begin)) return;
+  for (const Showing& showing : shown) showTimes_.push_back(showing.begin);
+  const Showing& last = shown.back();
+  const std::int64_t before = shown.size() > 1 ? last.begin - shown[shown.size() - 2].begin : 0;
+  // Some writers close the film with a length of nonsense.
+  const bool likely = last.length > 0 && (before == 0 || last.length <= 100 * before);
+  showTimes_.push_back(last.begin + (likely ? last.length : before));
 }
 
 int PictureIndex::PictureOfFrame(int frame) const {

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <optional>
 #include <vector>
 
@@ -17,9 +18,14 @@ namespace kinalyx {
 /// be learnt from the packets themselves.
 class PictureIndex {
  public:
+  static constexpr std::int64_t kNoTime = std::numeric_limits<std::int64_t>::min();
+
   /// Takes the next packet of the file. `time` is the decoding time by which the demuxer knows it again,
   /// in units of the stream. `hidden` packets are decoded but not shown.
   void Add(std::int64_t time, bool key, bool hidden);
+  /// Tells when the picture of the last packet added is shown, and for how long (0: not told), in units of the
+  /// stream. Times of showing hold only when all packets have one.
+  void TimeLast(std::int64_t shown, std::int64_t length);
   /// Tells the frame at which the last packet added stands; without a call they follow one another.
   void PlaceLast(int frame);
   /// Closes the index. `frames` counts trailing repeats as well and may not be below what was placed.
@@ -36,6 +42,11 @@ class PictureIndex {
   /// The picture that frame n shows; frames before the first picture show that one.
   int PictureOfFrame(int frame) const;
   int FrameOfPicture(int picture) const;
+
+  /// True when every picture has its own time of showing.
+  bool HasShowTimes() const { return !showTimes_.empty(); }
+  /// When picture n begins to be shown; the picture count gives the end of the last.
+  std::int64_t ShowTime(int picture) const { return showTimes_[picture]; }
 
   std::int64_t Time(int packet) const { return packets_[packet].time; }
   bool IsHidden(int packet) const { return packets_[packet].hidden; }
@@ -59,9 +70,16 @@ class PictureIndex {
     bool key = false;
     bool hidden = false;
   };
+  struct Showing {
+    std::int64_t begin = kNoTime;
+    std::int64_t length = 0;
+  };
+  void OrderShowTimes();
 
   std::vector<Packet> packets_;
   std::vector<std::int32_t> keys_;
+  std::vector<Showing> showings_;         ///< of packets, until the index is finished
+  std::vector<std::int64_t> showTimes_;   ///< of pictures, and the end of the last; empty when they are not known
   std::vector<std::int32_t> frameOfOrder_;  ///< empty while frames and pictures are the same
   int pictures_ = 0;
   int frames_ = 0;

@@ -47,6 +47,8 @@ const VideoInfo& VideoFile::Info() const { return engine_->info; }
 
 double VideoFile::SampleToTime(int n) const { return engine_->times.Of(n, engine_->index); }
 
+int VideoFile::FrameAtTime(double ms) const { return engine_->times.FrameAt(ms, engine_->index); }
+
 FrameRows VideoFile::Frame(int n, int bitCount) {
   Engine& engine = *engine_;
   if (n < 0 || n >= engine.info.frameCount || (bitCount != 24 && bitCount != 32)) return {};

@@ -46,6 +46,8 @@ class VideoFile {
 
   /// Playing time in milliseconds of the start of frame n; n = frameCount gives the end.
   double SampleToTime(int n) const;
+  /// The frame that is shown at a playing time in milliseconds; before the start the first, after the end the last.
+  int FrameAtTime(double ms) const;
 
   /// The picture of frame n with 24 or 32 bits per pixel. A damaged packet gives the nearest picture
   /// that could be decoded before it; no picture at all, an n outside 0 to frameCount - 1, another bit

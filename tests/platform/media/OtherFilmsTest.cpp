@@ -29,9 +29,18 @@ TEST_P(OtherFilms, GiveEveryFrameWhicheverWayItIsReached) {
   for (int n = 0; n < film.frames; ++n) ASSERT_NO_FATAL_FAILURE(expect(n)) << "forward";
 
   if (film.time) {
-    for (const int n : {0, 10, 20, 30, 39, 50, 59})
-      EXPECT_NEAR(file.SampleToTime(n), static_cast<double>(film.time(n)), 100) << n;
+    EXPECT_TRUE(file.Info().rateVaries);
+    for (int n = 0; n < film.frames; ++n) {
+      const auto begin = static_cast<double>(film.time(n));
+      ASSERT_NEAR(file.SampleToTime(n), begin, 0.01);
+      for (const double after : {0.0, 7.5, 15.0}) ASSERT_EQ(file.FrameAtTime(file.SampleToTime(n) + after), n);
+    }
+    const double last = file.SampleToTime(film.frames) - static_cast<double>(film.time(film.frames - 1));
+    EXPECT_TRUE(last >= 16 && last <= 40) << last;
+    EXPECT_EQ(file.FrameAtTime(-100), 0);
+    EXPECT_EQ(file.FrameAtTime(1e9), film.frames - 1);
   } else {
+    EXPECT_FALSE(file.Info().rateVaries);
     EXPECT_NEAR(file.SampleToTime(film.frames), film.frames * 40.0, 45);
     EXPECT_NEAR(file.SampleToTime(10), 400, 1.5);
   }
@@ -69,6 +78,19 @@ TEST(OtherFilms, AreKnownByTheirContentWhateverTheirNameSays) {
   }
 }
 
+TEST(OtherFilms, OfSlowMotionTellHowTheyWereTaken) {
+  Film film{"slow.mp4", "mpeg4", 10};
+  film.metadata["com.android.capture.fps"] = "240.000000";
+  film.muxing = "movflags=use_metadata_tags";
+  MakeFilm(film, TestPath(film.name));
+  const auto slow = ReadVideoInfo(TestPath(film.name));
+  ASSERT_TRUE(slow);
+  EXPECT_EQ(slow->captureRate, 240);
+  film.metadata["com.android.capture.fps"] = "nan";
+  MakeFilm(film, TestPath(film.name));
+  EXPECT_EQ(ReadVideoInfo(TestPath(film.name))->captureRate, 0);
+}
+
 /// A phone that lowers its rate in the dark: 40 ms, then 80, then 16.
 std::int64_t Uneven(int n) { return n < 20 ? n * 40 : n < 40 ? 800 + (n - 20) * 80 : 2400 + (n - 40) * 16; }
 
@@ -82,6 +104,7 @@ INSTANTIATE_TEST_SUITE_P(
     Films, OtherFilms,
     testing::Values(Film{"phone.mp4", "libx264", 120, 50, 3, "preset=veryfast:sc_threshold=0"},
                     Film{"uneven.mp4", "libx264", 60, 25, 2, "preset=veryfast", false, Uneven},
+                    Film{"uneven.mkv", "libx264", 60, 25, 3, "preset=veryfast", false, Uneven},
                     Film{"sound.avi", "libx264", 100, 40, 2, "preset=veryfast:b_strategy=0", true},
                     Film{"pyramid.avi", "libx264", 120, 60, 7, "preset=veryfast:b_strategy=0:x264-params=b-pyramid=normal"},
                     Film{"open.avi", "libx264", 120, 24, 3, "preset=veryfast:b_strategy=0:sc_threshold=0:x264-params=open-gop=1"},
