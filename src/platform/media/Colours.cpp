@@ -26,6 +26,8 @@ Matrix MatrixOf(const AVFrame& frame) {
   return frame.height >= 720 && !IsFullRange(frame) ? Matrix::Hd : Matrix::Tape;
 }
 
+bool HasFieldsApart(const AVFrame& frame) { return frame.interlaced_frame && frame.height % 4 == 0; }
+
 void NameMatrix(AVFrame& frame, Matrix matrix) {
   switch (matrix) {
     case Matrix::Tape: frame.colorspace = AVCOL_SPC_SMPTE170M; break;

@@ -11,6 +11,8 @@ enum class Matrix { Tape, Hd, Wide };  ///< BT.601, 709, 2020
 bool IsFullRange(const AVFrame& frame);
 /// Without a word in the stream, small pictures have the colours of tape and large ones those of HD.
 Matrix MatrixOf(const AVFrame& frame);
+/// Rows of 4:2:0 share their colour with the next row of their own field: two fields are two pictures.
+bool HasFieldsApart(const AVFrame& frame);
 /// Writes the matrix into the picture, so that it is kept when the picture is scaled or turned.
 void NameMatrix(AVFrame& frame, Matrix matrix);
 

@@ -342,6 +342,11 @@ VideoInfo Demuxer::Describe() const {
   info.captureRate = CaptureRate();
   info.durationMs = Times().Of(index_->FrameCount(), *index_);
   info.compressor = FourCC(*stream_->codecpar);
+  // Tape has two fields, the lower first, and is not looked into.
+  const bool tape = stream_->codecpar->codec_id == AV_CODEC_ID_DVVIDEO;
+  const AVFieldOrder order = tape ? AV_FIELD_BB : stream_->codecpar->field_order;
+  info.interlaced = order != AV_FIELD_UNKNOWN && order != AV_FIELD_PROGRESSIVE;
+  info.topFieldFirst = order == AV_FIELD_TT || order == AV_FIELD_BT;
   info.hasSound = hasSound_;
   info.everyFrameIsKey = index_->EveryPacketIsKey();
   info.fileBytes = file_->Bytes();

@@ -24,9 +24,6 @@ bool IsPlain420(const AVFrame& frame) {
   return frame.format == AV_PIX_FMT_YUV420P || frame.format == AV_PIX_FMT_YUVJ420P;
 }
 
-/// Rows of 4:2:0 share their colour with the next row of their own field. So the fields are converted one by one.
-bool HasFieldsApart(const AVFrame& frame) { return frame.interlaced_frame && frame.height % 4 == 0; }
-
 /// Doubles a row of samples: each keeps its place, and the mean of two stands between them.
 void DoubleRow(const std::uint8_t* from, int count, std::uint8_t* to) {
   for (int x = 0; x < count - 1; ++x) {
@@ -36,10 +33,22 @@ void DoubleRow(const std::uint8_t* from, int count, std::uint8_t* to) {
   to[2 * count - 2] = to[2 * count - 1] = from[count - 1];
 }
 
+/// The colours of a picture as they come from a range from 0 to 255, or 1023, whatever its own. libyuv keeps blue of
+/// the narrow range a little too weak, which does not matter on a usual screen and much in what is brightened later.
+const libyuv::YuvConstants& FullConstantsOf(const AVFrame& frame) {
+  switch (MatrixOf(frame)) {
+    case Matrix::Hd: return libyuv::kYuvF709Constants;
+    case Matrix::Wide: return libyuv::kYuvV2020Constants;
+    case Matrix::Tape: break;
+  }
+  return libyuv::kYuvJPEGConstants;
+}
+
 /// Where the library's function for 4:2:0 and 4:2:2 pictures of a sample type are the same but for the height of
 /// their colour, one call converts a picture, or two its fields.
 template <typename Sample, typename Convert>
-bool ByFields(const AVFrame& frame, std::uint8_t* bits, int stride, int height, Convert convert) {
+bool ByFields(const AVFrame& frame, const RowTarget& target, const libyuv::YuvConstants& colours, Convert convert) {
+  const auto [bits, stride, height] = target;
   const int fields = HasFieldsApart(frame) ? 2 : 1;
   const bool upward = height < 0;
   for (int field = 0; field < fields; ++field) {
@@ -51,8 +60,7 @@ bool ByFields(const AVFrame& frame, std::uint8_t* bits, int stride, int height, 
     }
     const int row = fields == 2 && upward ? 1 - field : field;
     if (convert(planes[0], pitches[0], planes[1], pitches[1], planes[2], pitches[2],
-                bits + static_cast<std::ptrdiff_t>(row) * stride, fields * stride, &ConstantsOf(frame), frame.width,
-                height / fields) != 0)
+                bits + static_cast<std::ptrdiff_t>(row) * stride, fields * stride, &colours, frame.width, height / fields) != 0)
       return false;
   }
   return true;
@@ -114,58 +122,95 @@ bool RowConverter::Upright(const AVFrame& frame, std::uint8_t* bits, int stride)
          libyuv::ARGBRotate(lying, lyingStride, bits, stride, wide, height, turn) == 0;
 }
 
-/// The planes of the usual pictures of telephones are turned before they become pixels, which are nearly three
-/// times as many bytes. False where that would not give the same.
+/// The planes of the usual pictures of telephones are turned before they become pixels, which are more bytes. False
+/// where that would not give the same.
 bool RowConverter::TurnPlanes(const AVFrame& frame) {
   const libyuv::RotationMode turn = TurnOf(shape_);
   const bool whole = frame.width % 2 == 0 && frame.height % 2 == 0;
-  if (turn == libyuv::kRotate0 || !IsPlain420(frame) || !whole || HasFieldsApart(frame) || shape_.pixelWidth != 1)
+  const bool wide = frame.format == AV_PIX_FMT_YUV420P10;
+  if (turn == libyuv::kRotate0 || !(wide || IsPlain420(frame)) || !whole || HasFieldsApart(frame) || shape_.pixelWidth != 1)
     return false;
   const PictureSize size = shape_.SizeOf(frame.width, frame.height);
-  if (!turned_ || turned_->width != size.width || turned_->height != size.height) {
+  if (!turned_ || turned_->width != size.width || turned_->height != size.height || turned_->format != frame.format) {
     turned_ = NewFrame();
     if (!turned_) return false;
     turned_->width = size.width;
     turned_->height = size.height;
-    turned_->format = AV_PIX_FMT_YUV420P;
+    turned_->format = frame.format;
     if (av_frame_get_buffer(turned_.get(), 0) < 0) {
       turned_.reset();
       return false;
     }
   }
   turned_->color_primaries = frame.color_primaries;
-  turned_->color_range = IsFullRange(frame) ? AVCOL_RANGE_JPEG : AVCOL_RANGE_MPEG;
+  turned_->color_range = frame.color_range;
   turned_->color_trc = frame.color_trc;
   NameMatrix(*turned_, MatrixOf(frame));
   const int toward = shape_.mirrored ? frame.height : -frame.height;
-  return libyuv::I420Rotate(frame.data[0], frame.linesize[0], frame.data[1], frame.linesize[1], frame.data[2],
-                            frame.linesize[2], turned_->data[0], turned_->linesize[0], turned_->data[1],
-                            turned_->linesize[1], turned_->data[2], turned_->linesize[2], frame.width, toward,
-                            turn) == 0;
+  const auto rotate = [&]<typename Sample>(auto function) {
+    const auto from = [&](int p) { return reinterpret_cast<const Sample*>(frame.data[p]); };
+    const auto to = [&](int p) { return reinterpret_cast<Sample*>(turned_->data[p]); };
+    const auto pitch = [](int bytes) { return bytes / static_cast<int>(sizeof(Sample)); };
+    return function(from(0), pitch(frame.linesize[0]), from(1), pitch(frame.linesize[1]), from(2), pitch(frame.linesize[2]),
+                    to(0), pitch(turned_->linesize[0]), to(1), pitch(turned_->linesize[1]), to(2),
+                    pitch(turned_->linesize[2]), frame.width, toward, turn) == 0;
+  };
+  return wide ? rotate.operator()<std::uint16_t>(&libyuv::I010Rotate)
+              : rotate.operator()<std::uint8_t>(&libyuv::I420Rotate);
 }
 
-bool RowConverter::ToArgb(const AVFrame& frame, const Target& target) {
-  const auto [bits, stride, height] = target;
-  const std::uint8_t* const* data = frame.data;
-  const int* pitch = frame.linesize;
+bool RowConverter::ToArgb(const AVFrame& frame, const RowTarget& target) {
+  if (ToneMapper::Wants(frame)) return ByTones(frame, target);
   switch (frame.format) {
     case AV_PIX_FMT_YUV420P:
-    case AV_PIX_FMT_YUVJ420P: return ByFields<std::uint8_t>(frame, bits, stride, height, &libyuv::I420ToARGBMatrix);
-    case AV_PIX_FMT_YUV420P10: return ByFields<std::uint16_t>(frame, bits, stride, height, &libyuv::I010ToARGBMatrix);
-    case AV_PIX_FMT_YUV420P12: return ByFields<std::uint16_t>(frame, bits, stride, height, &libyuv::I012ToARGBMatrix);
+    case AV_PIX_FMT_YUVJ420P: return ByFields<std::uint8_t>(frame, target, ConstantsOf(frame), &libyuv::I420ToARGBMatrix);
+    case AV_PIX_FMT_YUV420P10: return ByFields<std::uint16_t>(frame, target, ConstantsOf(frame), &libyuv::I010ToARGBMatrix);
+    case AV_PIX_FMT_YUV420P12: return ByFields<std::uint16_t>(frame, target, ConstantsOf(frame), &libyuv::I012ToARGBMatrix);
     case AV_PIX_FMT_YUV422P:
-    case AV_PIX_FMT_YUVJ422P: return ByFields<std::uint8_t>(frame, bits, stride, height, &libyuv::I422ToARGBMatrix);
-    case AV_PIX_FMT_YUV422P10: return ByFields<std::uint16_t>(frame, bits, stride, height, &libyuv::I210ToARGBMatrix);
+    case AV_PIX_FMT_YUVJ422P: return ByFields<std::uint8_t>(frame, target, ConstantsOf(frame), &libyuv::I422ToARGBMatrix);
+    case AV_PIX_FMT_YUV422P10: return ByFields<std::uint16_t>(frame, target, ConstantsOf(frame), &libyuv::I210ToARGBMatrix);
     case AV_PIX_FMT_YUV444P:
-    case AV_PIX_FMT_YUVJ444P: return ByFields<std::uint8_t>(frame, bits, stride, height, &libyuv::I444ToARGBMatrix);
-    case AV_PIX_FMT_YUV444P10: return ByFields<std::uint16_t>(frame, bits, stride, height, &libyuv::I410ToARGBMatrix);
+    case AV_PIX_FMT_YUVJ444P: return ByFields<std::uint8_t>(frame, target, ConstantsOf(frame), &libyuv::I444ToARGBMatrix);
+    case AV_PIX_FMT_YUV444P10: return ByFields<std::uint16_t>(frame, target, ConstantsOf(frame), &libyuv::I410ToARGBMatrix);
     case AV_PIX_FMT_YUV411P: return Quarter411(frame, target);
-    case AV_PIX_FMT_BGR24: return libyuv::RGB24ToARGB(data[0], pitch[0], bits, stride, frame.width, height) == 0;
+    case AV_PIX_FMT_BGR24: return libyuv::RGB24ToARGB(frame.data[0], frame.linesize[0], target.bits, target.stride, frame.width,
+                                                     target.height) == 0;
     default: return ByScaler(frame, target);
   }
 }
 
-bool RowConverter::Quarter411(const AVFrame& frame, const Target& target) {
+bool RowConverter::ByTones(const AVFrame& frame, const RowTarget& target) {
+  const libyuv::YuvConstants& colours = FullConstantsOf(frame);
+  bool good = false;
+  switch (frame.format) {
+    case AV_PIX_FMT_YUV420P:
+    case AV_PIX_FMT_YUVJ420P: good = ByFields<std::uint8_t>(frame, target, colours, &libyuv::I420ToAR30Matrix); break;
+    case AV_PIX_FMT_YUV420P10: good = ByFields<std::uint16_t>(frame, target, colours, &libyuv::I010ToAR30Matrix); break;
+    case AV_PIX_FMT_YUV420P12: good = ByFields<std::uint16_t>(frame, target, colours, &libyuv::I012ToAR30Matrix); break;
+    case AV_PIX_FMT_YUV422P10: good = ByFields<std::uint16_t>(frame, target, colours, &libyuv::I210ToAR30Matrix); break;
+    case AV_PIX_FMT_YUV444P10: good = ByFields<std::uint16_t>(frame, target, colours, &libyuv::I410ToAR30Matrix); break;
+    default: return ToTenBits(frame) && ByTones(*tenBits_, target);
+  }
+  if (good) tones_.Map(frame, target.bits, target.stride, frame.height);
+  return good;
+}
+
+/// Brings a picture of a rare format into one of those that ByTones knows.
+bool RowConverter::ToTenBits(const AVFrame& frame) {
+  tenBits_ = NewFrame();
+  if (!tenBits_ || av_frame_copy_props(tenBits_.get(), &frame) < 0) return false;
+  tenBits_->width = frame.width;
+  tenBits_->height = frame.height;
+  tenBits_->format = AV_PIX_FMT_YUV444P10;
+  scaler_.reset(sws_getCachedContext(scaler_.release(), frame.width, frame.height, static_cast<AVPixelFormat>(frame.format),
+                                     frame.width, frame.height, AV_PIX_FMT_YUV444P10, SWS_BILINEAR, nullptr, nullptr,
+                                     nullptr));
+  if (!scaler_ || av_frame_get_buffer(tenBits_.get(), 0) < 0) return false;
+  return sws_scale(scaler_.get(), frame.data, frame.linesize, 0, frame.height, tenBits_->data, tenBits_->linesize) ==
+         frame.height;
+}
+
+bool RowConverter::Quarter411(const AVFrame& frame, const RowTarget& target) {
   const int quarter = (frame.width + 3) / 4;
   const std::size_t plane = 2 * static_cast<std::size_t>(quarter) * static_cast<std::size_t>(frame.height);
   chroma_.resize(2 * plane);
@@ -180,7 +225,7 @@ bool RowConverter::Quarter411(const AVFrame& frame, const Target& target) {
                                   target.height) == 0;
 }
 
-bool RowConverter::ByScaler(const AVFrame& frame, const Target& target) {
+bool RowConverter::ByScaler(const AVFrame& frame, const RowTarget& target) {
   const auto format = static_cast<AVPixelFormat>(frame.format);
   scaler_.reset(sws_getCachedContext(scaler_.release(), frame.width, frame.height, format, frame.width, frame.height,
                                      AV_PIX_FMT_BGRA, SWS_BILINEAR, nullptr, nullptr, nullptr));

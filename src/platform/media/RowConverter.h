@@ -5,9 +5,17 @@
 
 #include "platform/media/AvHandles.h"
 #include "platform/media/PictureShape.h"
+#include "platform/media/ToneMapper.h"
 #include "platform/media/VideoFile.h"
 
 namespace kinalyx {
+
+/// Where pixels of 32 bits are written. A negative height stands for rows that go upward.
+struct RowTarget {
+  std::uint8_t* bits = nullptr;
+  int stride = 0;
+  int height = 0;
+};
 
 /// Turns decoded pictures into rows of blue, green, red, bottom row first, upright and in square pixels. The
 /// pictures may be of any size: what has been made smaller comes out as small.
@@ -23,18 +31,13 @@ class RowConverter {
   FrameRows Convert(const AVFrame& frame, int bitCount, std::vector<std::uint8_t>& bits);
 
  private:
-  /// Pixels of 32 bits as they are being made. Negative heights stand for rows that go upward.
-  struct Target {
-    std::uint8_t* bits = nullptr;
-    int stride = 0;
-    int height = 0;
-  };
-
   bool Upright(const AVFrame& frame, std::uint8_t* bits, int stride);
   bool TurnPlanes(const AVFrame& frame);
-  bool ToArgb(const AVFrame& frame, const Target& target);
-  bool Quarter411(const AVFrame& frame, const Target& target);
-  bool ByScaler(const AVFrame& frame, const Target& target);
+  bool ToArgb(const AVFrame& frame, const RowTarget& target);
+  bool ByTones(const AVFrame& frame, const RowTarget& target);
+  bool ToTenBits(const AVFrame& frame);
+  bool Quarter411(const AVFrame& frame, const RowTarget& target);
+  bool ByScaler(const AVFrame& frame, const RowTarget& target);
 
   PictureShape shape_;
   std::vector<std::uint8_t> wide_;    ///< 32-bit pixels on the way to 24
@@ -42,6 +45,8 @@ class RowConverter {
   std::vector<std::uint8_t> narrow_;  ///< before the stretch
   FrameHandle turned_;                ///< planes after the turn, where they can be turned as they are
   std::vector<std::uint8_t> chroma_;  ///< chroma on the way from a quarter of the width to a half
+  FrameHandle tenBits_;
+  ToneMapper tones_;
   ScalerHandle scaler_;
 };
 
