@@ -8,6 +8,7 @@ extern "C" {
 #include <libswscale/swscale.h>
 }
 
+#include <atomic>
 #include <memory>
 #include <string>
 
@@ -42,6 +43,10 @@ inline PacketHandle NewPacket() { return PacketHandle(av_packet_alloc()); }
 /// The library prints its remarks on the console, where nobody reads them, unless somebody else takes them.
 /// Before the first use of the library; see MediaLog.h.
 void HearLibrary();
+
+/// Counts what a decoder has to complain of, whose `opaque` points here: it says more in its messages than in its
+/// results. Needs HearLibrary.
+using Complaints = std::atomic<int>;
 
 /// The library's own words for an error code.
 inline std::string AvError(int code) {

@@ -57,6 +57,8 @@ std::unique_ptr<Demuxer> Demuxer::Open(const std::string& path, OpenFault& fault
     message = "the video stream holds no picture";
     return nullptr;
   }
+  const PacketHandle first = demuxer->FirstPacket();
+  demuxer->preamble_ = first ? std::make_shared<Preamble>(demuxer->Codec(), *first) : std::make_shared<Preamble>();
   return demuxer;
 }
 
@@ -66,6 +68,7 @@ std::unique_ptr<Demuxer> Demuxer::Again() const {
   auto file = file_->Again();
   if (!file || demuxer->OpenStream(std::move(file), ignored, stream_) != OpenFault::None) return nullptr;
   demuxer->index_ = index_;
+  demuxer->preamble_ = preamble_;
   return demuxer->Rewind() ? std::move(demuxer) : nullptr;
 }
 
@@ -313,16 +316,20 @@ void Demuxer::ReadIndex(AVFormatContext& input, PictureIndex& index) const {
   }
 }
 
-bool Demuxer::KnowsFirstPacket() {
-  const PacketHandle packet = NewPacket();
-  bool known = false;
+PacketHandle Demuxer::FirstPacket() {
+  PacketHandle packet = NewPacket();
   while (av_read_frame(input_.get(), packet.get()) >= 0) {
-    const bool ours = packet->stream_index == stream_->index;
-    if (ours) known = index_->FindPacket(packet->dts) == 0;
+    if (packet->stream_index == stream_->index) return Rewind() ? std::move(packet) : nullptr;
     av_packet_unref(packet.get());
-    if (ours) break;
   }
-  return Rewind() && known;
+  Rewind();
+  return nullptr;
+}
+
+bool Demuxer::KnowsFirstPacket() {
+  if (!Rewind()) return false;
+  const PacketHandle first = FirstPacket();
+  return first && index_->FindPacket(first->dts) == 0;
 }
 
 VideoInfo Demuxer::Describe() const {

@@ -9,6 +9,7 @@
 #include "platform/media/FileInput.h"
 #include "platform/media/PictureIndex.h"
 #include "platform/media/PictureShape.h"
+#include "platform/media/Preamble.h"
 #include "platform/media/VideoFile.h"
 
 namespace kinalyx {
@@ -45,6 +46,8 @@ class Demuxer {
   FrameTimes Times() const;
   /// What makes the decoded pictures upright ones.
   const PictureShape& Shape() const { return shape_; }
+  /// What a decoder that begins in the middle has to be told first.
+  const Preamble& FirstWords() const { return *preamble_; }
   /// True when the container itself says when each packet's picture is shown.
   bool TellsShowTimes() const { return tellsShowTimes_; }
 
@@ -75,6 +78,8 @@ class Demuxer {
   /// Takes all packets of our stream that a reader still gives.
   void ReadIndex(AVFormatContext& input, PictureIndex& index) const;
   bool Rewind();
+  /// Reads the packet with which the stream begins, and goes back to the beginning; null when there is none.
+  PacketHandle FirstPacket();
   bool KnowsFirstPacket();
   /// The colours of a picture of 8 bits or less stand in the file's header; a decoder takes them from a packet.
   void FindPalette();
@@ -90,6 +95,7 @@ class Demuxer {
   PictureShape shape_;
   int chunksOfFrame_ = 1;  ///< of an AVI file: the picture's own and empty ones behind it
   std::shared_ptr<const PictureIndex> index_;
+  std::shared_ptr<const Preamble> preamble_;
   int next_ = 0;
   bool synced_ = true;  ///< false after a seek, until a packet has been recognised
   std::vector<std::uint32_t> headerPalette_;  ///< opaque; empty for codecs that have none

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdarg>
 #include <mutex>
+#include <string_view>
 
 #include "platform/files/Log.h"
 #include "platform/media/AvHandles.h"
@@ -16,8 +17,18 @@ namespace {
 std::mutex mutex;
 Log* target = nullptr;
 
+/// Only decoders of ours have an `opaque`, and the library hands it on to their threads.
+void CountComplaint(void* context, std::string_view message) {
+  // To forget a picture that never came is no loss: that is so wherever a stream of open groups is entered.
+  if (message.starts_with("mmco:")) return;
+  const AVClass* kind = context ? *static_cast<AVClass**>(context) : nullptr;
+  if (kind != avcodec_get_class()) return;
+  if (void* counter = static_cast<AVCodecContext*>(context)->opaque) ++*static_cast<Complaints*>(counter);
+}
+
 void Take(void* context, int level, const char* format, va_list arguments) {
   if (level > AV_LOG_WARNING) return;
+  if (level <= AV_LOG_ERROR) CountComplaint(context, format);
   const std::lock_guard lock(mutex);
   if (!target) return;
   std::array<char, 512> text{};

@@ -14,6 +14,9 @@ constexpr int kMostThreads = 4;
 /// shown sixteen places apart, and the decoder holds sixteen back.
 constexpr int kReorderLag = 32;
 
+/// As many pixels are decoded in a few seconds: no reason to show a damaged picture other than from the start.
+constexpr std::int64_t kShortWay = std::int64_t{300} * 1920 * 1080;
+
 bool Has(const AVCodecDescriptor* descriptor, int property) { return descriptor && (descriptor->props & property); }
 
 }  // namespace
@@ -37,12 +40,13 @@ bool PictureDecoder::OpenCodec(std::string& message) {
     message = "no decoder";
     return false;
   }
-  const bool alone = Has(descriptor, AV_CODEC_PROP_INTRA_ONLY);
+  standsAlone_ = Has(descriptor, AV_CODEC_PROP_INTRA_ONLY);
   // Pictures that stand for themselves come fast enough, and a thread would only delay them.
   const int threads = std::clamp(static_cast<int>(std::thread::hardware_concurrency()), 1, kMostThreads);
-  context->thread_count = alone ? 1 : threads;
+  context->thread_count = standsAlone_ || careful_ ? 1 : threads;
   // Without a word in the stream about its order the decoder must expect the worst, or it drops pictures.
   context->strict_std_compliance = FF_COMPLIANCE_STRICT;
+  context->opaque = &complaints_;
   if (const int result = avcodec_open2(context.get(), codec, nullptr); result < 0) {
     message = AvError(result);
     return false;
@@ -66,6 +70,11 @@ bool PictureDecoder::OpenCodec(std::string& message) {
 bool PictureDecoder::Start(int chunk) {
   running_ = false;
   std::string ignored;
+  // What is concealed looks like what was decoded last, before a flush too, or left out, or is in the hands of
+  // another thread: a careful run shows what any decoder would that goes through the stream alone and in order.
+  careful_ = carefulStarts_.contains(chunk);
+  if (careful_ || wasCareful_) Stop();
+  wasCareful_ = careful_;
   if (!codec_ && !OpenCodec(ignored)) return false;
   if (!demuxer_->Seek(Index().ChunkStart(chunk))) return false;
   avcodec_flush_buffers(codec_.get());
@@ -78,7 +87,9 @@ bool PictureDecoder::Start(int chunk) {
   next_ = Index().ChunkStart(chunk);
   firstPicture_ = settled_ = Index().ChunkFirstPicture(chunk);
   wholeFrom_ = 0;
-  cameOut_.assign(static_cast<std::size_t>(Index().PictureCount()), false);
+  fates_.assign(static_cast<std::size_t>(Index().PictureCount()), Fate::Open);
+  strange_.clear();
+  heardComplaints_ = complaints_;
   drained_ = false;
   running_ = true;
   return true;
@@ -116,33 +127,35 @@ void PictureDecoder::Step(int wholeFrom, const Sink& sink) {
     Receive(sink);
     drained_ = true;
     if (next_ < Index().PacketCount()) readableEnd_ = std::min(readableEnd_, Index().PicturesBefore(next_));
-    Settle();
+    Settle(Index().PictureCount());
     return;
   }
-  if (chunk_ > 0 && placed->number == Index().ChunkStart(chunk_) && placed->picture > firstPicture_) {
-    keyPictureOfChunk_[chunk_] = firstPicture_ = placed->picture;
+  const bool first = placed->number == Index().ChunkStart(chunk_);
+  if (chunk_ > 0 && first) {
+    if (placed->picture > firstPicture_) keyPictureOfChunk_[chunk_] = firstPicture_ = placed->picture;
+    demuxer_->FirstWords().PutBefore(*placed->packet);
   }
   next_ = placed->number + 1;
   const bool unwanted = placed->picture >= 0 && placed->picture < wholeFrom;
-  if (unwanted && IsImmediate()) {
-    Settle();
-    return;
+  if (!unwanted || !IsImmediate()) {
+    codec_->skip_frame = unwanted && !careful_ ? AVDISCARD_NONREF : AVDISCARD_DEFAULT;
+    // The number travels through the decoder as the time.
+    placed->packet->pts = placed->packet->dts = placed->number;
+    pictureOfPacket_[placed->number] = placed->picture;
+    avcodec_send_packet(codec_.get(), placed->packet.get());
+    Receive(sink);
+    while (!pictureOfPacket_.empty() && pictureOfPacket_.begin()->first < next_ - 2 * (lag_ + 1))
+      pictureOfPacket_.erase(pictureOfPacket_.begin());
   }
-  codec_->skip_frame = unwanted ? AVDISCARD_NONREF : AVDISCARD_DEFAULT;
-  // The number travels through the decoder as the time.
-  placed->packet->pts = placed->packet->dts = placed->number;
-  pictureOfPacket_[placed->number] = placed->picture;
-  avcodec_send_packet(codec_.get(), placed->packet.get());
-  Receive(sink);
-  while (!pictureOfPacket_.empty() && pictureOfPacket_.begin()->first < next_ - 2 * (lag_ + 1))
-    pictureOfPacket_.erase(pictureOfPacket_.begin());
-  Settle();
+  Settle(Index().PicturesBefore(std::max(0, next_ - lag_)));
 }
 
 void PictureDecoder::Receive(const Sink& sink) {
   for (;;) {
     FrameHandle frame = NewFrame();
-    if (avcodec_receive_frame(codec_.get(), frame.get()) < 0) return;
+    const bool came = avcodec_receive_frame(codec_.get(), frame.get()) >= 0;
+    HearComplaints();
+    if (!came) return;
     const auto number = static_cast<int>(frame->pts != AV_NOPTS_VALUE ? frame->pts : next_ - 1);
     const auto found = pictureOfPacket_.find(number);
     if (found == pictureOfPacket_.end()) continue;
@@ -150,27 +163,76 @@ void PictureDecoder::Receive(const Sink& sink) {
     // A packet makes one picture; what a decoder gives twice or conceals before the run began is none.
     pictureOfPacket_.erase(found);
     if (picture < firstPicture_) continue;
-    cameOut_[picture] = true;
+    const bool strange = (frame->flags & AV_FRAME_FLAG_CORRUPT) || frame->decode_error_flags ||
+                         strange_.contains(Index().ChunkOfPicture(picture));
+    if (strange && !IsOwnFault(picture)) continue;
+    fates_[picture] = Fate::CameOut;
     if (frame->colorspace == AVCOL_SPC_UNSPECIFIED) NameMatrix(*frame, MatrixOf(*frame));
     sink(picture, std::move(frame));
   }
 }
 
-void PictureDecoder::Settle() {
-  settled_ = drained_ ? Index().PictureCount() : Index().PicturesBefore(std::max(0, next_ - lag_));
+/// A message comes without a packet: any that the threads have in hand may be meant.
+void PictureDecoder::HearComplaints() {
+  const int complaints = complaints_;
+  if (complaints == heardComplaints_) return;
+  heardComplaints_ = complaints;
+  const int last = std::max(0, next_ - 1);
+  const int first = std::max(Index().ChunkStart(chunk_), last - kMostThreads);
+  strange_.insert(Index().ChunkOfPacket(std::min(first, last)));
+  strange_.insert(Index().ChunkOfPacket(last));
+}
+
+bool PictureDecoder::IsOwnFault(int picture) {
+  const int chunk = Index().ChunkOfPicture(picture);
+  strange_.insert(chunk);
+  if (standsAlone_) return true;
+  const auto isKnown = [&](int n) { return n > chunk_ && ownFaults_.contains(n); };
+  const bool wellBefore = chunk > chunk_ && (!strange_.contains(chunk - 1) || isKnown(chunk - 1));
+  // To the last pixel a picture is concealed alike only when all before it is the same.
+  const std::int64_t pixels = std::int64_t{codec_->width} * codec_->height * Index().ChunkStart(chunk);
+  const bool own = chunk_ == 0 || ((wellBefore || isKnown(chunk)) && pixels > kShortWay);
+  if (!own) {
+    // The way back doubles: however far it has to go, it costs no more than twice the last run.
+    Doubt(picture, std::max(0, chunk - std::max(1, 2 * (chunk - chunk_))));
+    return false;
+  }
+  ownFaults_.insert(chunk);
+  if (!careful_) {
+    carefulStarts_.insert(chunk_);
+    Doubt(picture, chunk_);
+  }
+  return careful_;
+}
+
+void PictureDecoder::Doubt(int picture, int entry) {
+  fates_[picture] = Fate::Doubtful;
+  const int chunk = Index().ChunkOfPicture(picture);
+  const auto known = entries_.find(chunk);
+  if (known == entries_.end() || known->second > entry) entries_[chunk] = entry;
+}
+
+/// Pictures below have come out, or never will in this run.
+void PictureDecoder::Settle(int settled) {
+  for (int picture = std::max({settled_, firstPicture_, wholeFrom_}); picture < settled; ++picture) {
+    if (fates_[picture] == Fate::Open && picture < readableEnd_) IsOwnFault(picture);
+  }
+  settled_ = std::max(settled_, settled);
 }
 
 bool PictureDecoder::Reaches(int picture) const {
   return running_ && !drained_ && picture >= firstPicture_ && picture >= wholeFrom_ && picture >= settled_ &&
-         !cameOut_[picture];
+         fates_[picture] == Fate::Open;
 }
 
 bool PictureDecoder::Lost(int picture) const {
-  return running_ && picture >= firstPicture_ && picture >= wholeFrom_ && picture < settled_ && !cameOut_[picture];
+  return running_ && picture >= firstPicture_ && picture >= wholeFrom_ && picture < settled_ &&
+         fates_[picture] == Fate::Open;
 }
 
 int PictureDecoder::StartChunkFor(int picture) const {
-  const int chunk = Index().ChunkOfPicture(picture);
+  int chunk = Index().ChunkOfPicture(picture);
+  if (const auto entry = entries_.find(chunk); entry != entries_.end()) return entry->second;
   const auto key = keyPictureOfChunk_.find(chunk);
   return key != keyPictureOfChunk_.end() && picture < key->second ? chunk - 1 : chunk;
 }
