@@ -48,6 +48,9 @@ std::unique_ptr<Demuxer> Demuxer::Open(const std::string& path, OpenFault& fault
   auto file = FileInput::Open(path, message);
   fault = file ? demuxer->OpenStream(std::move(file), message) : OpenFault::NotFound;
   if (fault != OpenFault::None) return nullptr;
+  const PacketHandle first = demuxer->FirstPacket();
+  demuxer->preamble_ = first ? std::make_shared<Preamble>(demuxer->Codec(), *first) : std::make_shared<Preamble>();
+  if (first) demuxer->FindFields(*first);
   if (!demuxer->IndexFromContainer()) {
     demuxer->chunksOfFrame_ = 1;
     demuxer->IndexByReading();
@@ -57,8 +60,6 @@ std::unique_ptr<Demuxer> Demuxer::Open(const std::string& path, OpenFault& fault
     message = "the video stream holds no picture";
     return nullptr;
   }
-  const PacketHandle first = demuxer->FirstPacket();
-  demuxer->preamble_ = first ? std::make_shared<Preamble>(demuxer->Codec(), *first) : std::make_shared<Preamble>();
   return demuxer;
 }
 
@@ -69,6 +70,8 @@ std::unique_ptr<Demuxer> Demuxer::Again() const {
   if (!file || demuxer->OpenStream(std::move(file), ignored, stream_) != OpenFault::None) return nullptr;
   demuxer->index_ = index_;
   demuxer->preamble_ = preamble_;
+  demuxer->fields_ = fields_;
+  if (joiner_) demuxer->joiner_ = std::make_unique<FieldJoiner>(demuxer->Codec(), firstField_);
   return demuxer->Rewind() ? std::move(demuxer) : nullptr;
 }
 
@@ -194,7 +197,7 @@ void Demuxer::DiscardOthers() {
 
 bool Demuxer::IndexFromContainer() {
   if (isAvi_) return IndexFromAvi();
-  return OneOf("mov", input_->iformat->name) && IndexFromMov();
+  return OneOf("mov", input_->iformat->name) && !joiner_ && IndexFromMov();
 }
 
 bool Demuxer::IndexFromAvi() {
@@ -233,7 +236,7 @@ bool Demuxer::IndexFromMov() {
   walk->flags |= AVFMT_FLAG_NOPARSE;
   file->BecomeHollow();
   PictureIndex index;
-  ReadIndex(*walk, index);
+  ReadIndex([&](AVPacket& packet) { return ReadPacket(*walk, stream_->index, packet); }, index);
   if (index.PacketCount() == 0 || !index.TimesGrow()) return false;
   index.Finish(0, WaitsForKey(stream_->codecpar->codec_id));
   index_ = std::make_shared<PictureIndex>(std::move(index));
@@ -294,18 +297,17 @@ int Demuxer::CountTrailingRepeats(std::int64_t afterLast) const {
 void Demuxer::IndexByReading() {
   Rewind();
   PictureIndex index;
-  ReadIndex(*input_, index);
+  ReadIndex([this](AVPacket& packet) { return ReadNext(packet); }, index);
   index.Finish(0, WaitsForKey(stream_->codecpar->codec_id));
   index_ = std::make_shared<PictureIndex>(std::move(index));
   Rewind();
 }
 
-void Demuxer::ReadIndex(AVFormatContext& input, PictureIndex& index) const {
+void Demuxer::ReadIndex(const std::function<bool(AVPacket&)>& read, PictureIndex& index) const {
   const PacketHandle packet = NewPacket();
   bool timed = tellsTimes_;
   std::int64_t previous = 0;
-  for (; index.PacketCount() < kMostPackets && av_read_frame(&input, packet.get()) >= 0; av_packet_unref(packet.get())) {
-    if (packet->stream_index != stream_->index || packet->size == 0) continue;
+  for (; index.PacketCount() < kMostPackets && read(*packet); av_packet_unref(packet.get())) {
     std::int64_t time = packet->dts != AV_NOPTS_VALUE ? packet->dts : packet->pts;
     if (time == AV_NOPTS_VALUE || (index.PacketCount() > 0 && time <= previous)) timed = false;
     if (!timed) time = index.PacketCount() ? previous : 0;
@@ -316,14 +318,37 @@ void Demuxer::ReadIndex(AVFormatContext& input, PictureIndex& index) const {
   }
 }
 
+bool Demuxer::ReadNext(AVPacket& packet) {
+  return joiner_ ? joiner_->Read(*input_, stream_->index, packet) : ReadPacket(*input_, stream_->index, packet);
+}
+
+void Demuxer::FindFields(const AVPacket& first) {
+  const AVCodecParameters& codec = *stream_->codecpar;
+  FieldParser parser(codec);
+  const auto structure = parser.Look(first);
+  // Tape has two fields, the lower first.
+  fields_ = codec.codec_id == AV_CODEC_ID_DVVIDEO ? AV_FIELD_BB : codec.field_order;
+  if (fields_ == AV_FIELD_UNKNOWN) fields_ = parser.Order();
+  const bool interlaced = fields_ != AV_FIELD_UNKNOWN && fields_ != AV_FIELD_PROGRESSIVE;
+  if (codec.codec_id != AV_CODEC_ID_H264 || !interlaced || isAvi_) return;
+  const bool topFirst = fields_ == AV_FIELD_TT || fields_ == AV_FIELD_BT;
+  firstField_ = structure == FieldParser::Structure::TopField || structure == FieldParser::Structure::BottomField
+                    ? structure
+                    : topFirst ? FieldParser::Structure::TopField : FieldParser::Structure::BottomField;
+  joiner_ = std::make_unique<FieldJoiner>(codec, firstField_);
+  if (!OneOf("mov", input_->iformat->name)) return;
+  // Films hardly ever part the fields of a picture, and need not be read through where they do not.
+  constexpr int kLooks = 64;
+  const PacketHandle packet = NewPacket();
+  for (int i = 0; i < kLooks && !joiner_->HasJoined() && ReadNext(*packet); ++i) av_packet_unref(packet.get());
+  if (!joiner_->HasJoined()) joiner_.reset();
+  Rewind();
+}
+
 PacketHandle Demuxer::FirstPacket() {
   PacketHandle packet = NewPacket();
-  while (av_read_frame(input_.get(), packet.get()) >= 0) {
-    if (packet->stream_index == stream_->index) return Rewind() ? std::move(packet) : nullptr;
-    av_packet_unref(packet.get());
-  }
-  Rewind();
-  return nullptr;
+  const bool found = ReadPacket(*input_, stream_->index, *packet);
+  return Rewind() && found ? std::move(packet) : nullptr;
 }
 
 bool Demuxer::KnowsFirstPacket() {
@@ -338,10 +363,7 @@ VideoInfo Demuxer::Describe() const {
   info.width = upright.width;
   info.height = upright.height;
   info.frameCount = index_->FrameCount();
-  // An AVI file counts time in frames; others may show each for as long as they like.
-  AVRational rate = isAvi_ ? av_div_q(av_inv_q(stream_->time_base), {chunksOfFrame_, 1}) : stream_->avg_frame_rate;
-  if (rate.num <= 0 || rate.den <= 0) rate = stream_->r_frame_rate;
-  if (rate.num > 0 && rate.den > 0) {
+  if (const AVRational rate = Rate(); rate.num > 0 && rate.den > 0) {
     info.rate = rate.num;
     info.scale = rate.den;
   }
@@ -349,15 +371,26 @@ VideoInfo Demuxer::Describe() const {
   info.captureRate = CaptureRate();
   info.durationMs = Times().Of(index_->FrameCount(), *index_);
   info.compressor = FourCC(*stream_->codecpar);
-  // Tape has two fields, the lower first, and is not looked into.
-  const bool tape = stream_->codecpar->codec_id == AV_CODEC_ID_DVVIDEO;
-  const AVFieldOrder order = tape ? AV_FIELD_BB : stream_->codecpar->field_order;
-  info.interlaced = order != AV_FIELD_UNKNOWN && order != AV_FIELD_PROGRESSIVE;
-  info.topFieldFirst = order == AV_FIELD_TT || order == AV_FIELD_BT;
+  info.interlaced = fields_ != AV_FIELD_UNKNOWN && fields_ != AV_FIELD_PROGRESSIVE;
+  info.topFieldFirst = fields_ == AV_FIELD_TT || fields_ == AV_FIELD_BT;
   info.hasSound = hasSound_;
   info.everyFrameIsKey = index_->EveryPacketIsKey();
   info.fileBytes = file_->Bytes();
   return info;
+}
+
+AVRational Demuxer::Rate() const {
+  // An AVI file counts time in frames; others may show each for as long as they like.
+  if (isAvi_) return av_div_q(av_inv_q(stream_->time_base), {chunksOfFrame_, 1});
+  const int last = index_->PictureCount() - 1;
+  if (joiner_ && last > 0 && index_->HasShowTimes() && index_->ShowTime(last) > index_->ShowTime(0)) {
+    // What the container says counts fields.
+    AVRational rate{0, 1};
+    av_reduce(&rate.num, &rate.den, std::int64_t{last} * stream_->time_base.den,
+              (index_->ShowTime(last) - index_->ShowTime(0)) * stream_->time_base.num, INT32_MAX);
+    return rate;
+  }
+  return stream_->avg_frame_rate.num > 0 && stream_->avg_frame_rate.den > 0 ? stream_->avg_frame_rate : stream_->r_frame_rate;
 }
 
 /// Telephones store slow motion as it is to be shown, and beside it how it was taken.
@@ -375,7 +408,7 @@ FrameTimes Demuxer::Times() const {
   FrameTimes times;
   times.unitMs = av_q2d(stream_->time_base) * 1000 * chunksOfFrame_;
   times.unitIsFrame = isAvi_;
-  const AVRational rate = stream_->avg_frame_rate.num > 0 ? stream_->avg_frame_rate : stream_->r_frame_rate;
+  const AVRational rate = Rate();
   if (rate.num > 0 && rate.den > 0) times.meanMs = 1000 / av_q2d(rate);
   return times;
 }
@@ -416,6 +449,7 @@ bool FrameTimes::Vary(const PictureIndex& index) const {
 }
 
 bool Demuxer::Rewind() {
+  if (joiner_) joiner_->Reset();
   next_ = 0;
   palette_ = headerPalette_;
   const bool timed = index_ && index_->TimesGrow();
@@ -432,6 +466,7 @@ bool Demuxer::Seek(int packet) {
   for (int chunk = index_->ChunkOfPacket(packet); chunk > 0; chunk /= 2) {
     const int start = index_->ChunkStart(chunk);
     if (av_seek_frame(input_.get(), stream_->index, index_->Time(start), AVSEEK_FLAG_BACKWARD) < 0) continue;
+    if (joiner_) joiner_->Reset();
     synced_ = false;
     next_ = start;
     return true;
@@ -440,11 +475,7 @@ bool Demuxer::Seek(int packet) {
 }
 
 int Demuxer::Read(AVPacket& packet) {
-  while (next_ < index_->PacketCount() && av_read_frame(input_.get(), &packet) >= 0) {
-    if (packet.stream_index != stream_->index || packet.size == 0) {
-      av_packet_unref(&packet);
-      continue;
-    }
+  while (next_ < index_->PacketCount() && ReadNext(packet)) {
     AddPalette(packet);
     if (index_->TimesGrow()) {
       const std::int64_t time = packet.dts != AV_NOPTS_VALUE ? packet.dts : packet.pts;

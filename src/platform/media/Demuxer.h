@@ -1,11 +1,13 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "platform/media/AvHandles.h"
+#include "platform/media/FieldJoiner.h"
 #include "platform/media/FileInput.h"
 #include "platform/media/PictureIndex.h"
 #include "platform/media/PictureShape.h"
@@ -71,12 +73,17 @@ class Demuxer {
   /// A walk through the packets of a film whose headers tell where they are; false when there are others.
   bool IndexFromMov();
   double CaptureRate() const;
+  /// Learns from the first packet which field is first, and whether fields come in packets of their own.
+  void FindFields(const AVPacket& first);
+  /// Reads our stream's next packet; false at the end.
+  bool ReadNext(AVPacket& packet);
+  AVRational Rate() const;
   int CountChunksOfFrame() const;
   bool LastIndexedIsLast();
   int CountTrailingRepeats(std::int64_t afterLast) const;
   void IndexByReading();
-  /// Takes all packets of our stream that a reader still gives.
-  void ReadIndex(AVFormatContext& input, PictureIndex& index) const;
+  /// Takes all packets that `read` still gives.
+  void ReadIndex(const std::function<bool(AVPacket&)>& read, PictureIndex& index) const;
   bool Rewind();
   /// Reads the packet with which the stream begins, and goes back to the beginning; null when there is none.
   PacketHandle FirstPacket();
@@ -93,6 +100,9 @@ class Demuxer {
   bool tellsShowTimes_ = false;
   bool hasSound_ = false;
   PictureShape shape_;
+  AVFieldOrder fields_ = AV_FIELD_UNKNOWN;
+  FieldParser::Structure firstField_ = FieldParser::Structure::Unknown;  ///< of fields in packets of their own
+  std::unique_ptr<FieldJoiner> joiner_;                                  ///< of such a stream
   int chunksOfFrame_ = 1;  ///< of an AVI file: the picture's own and empty ones behind it
   std::shared_ptr<const PictureIndex> index_;
   std::shared_ptr<const Preamble> preamble_;

@@ -3,6 +3,7 @@
 #include <cstring>
 #include <random>
 
+#include "platform/media/FieldStream.h"
 #include "platform/media/Films.h"
 #include "platform/media/RowConverter.h"
 #include "platform/media/VideoFile.h"
@@ -129,6 +130,22 @@ TEST(Straight, WhatIsDamagedIsTheSameTooFromWhereverItIsReached) {
   };
   MakeFilm(film, TestPath(film.name));
   ExpectAsStraight(TestPath(film.name));
+}
+
+TEST(Straight, TwoFieldsThatAreCodedApartAreOnePicture) {
+  for (const auto& [name, apart] : {std::pair{"camera.mts", false}, {"apart.ts", true}, {"apart.mkv", true},
+                                    {"apart.mp4", true}, {"whole.mp4", false}, {"whole.avi", false}}) {
+    SCOPED_TRACE(name);
+    const std::string path = TestPath(name);
+    MakeFieldStream(path, 40, apart);
+    const auto info = ReadVideoInfo(path);
+    ASSERT_TRUE(info);
+    EXPECT_EQ(info->frameCount, 40);
+    EXPECT_TRUE(info->interlaced && info->topFieldFirst);
+    EXPECT_NEAR(static_cast<double>(info->rate) / static_cast<double>(info->scale), 25, 0.01);
+    EXPECT_NEAR(info->durationMs, 1600, 1);
+    ExpectAsStraight(path);
+  }
 }
 
 TEST(Straight, WhatAnEditOfTheFilmHidesIsNoFrame) {
