@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
+#include <cerrno>
 #include <cmath>
 #include <cstdlib>
 #include <cstring>
+#include <span>
 #include <string_view>
 #include <utility>
 
@@ -18,9 +20,8 @@ constexpr char kContainers[] =
     "avi,mov,matroska,webm,mpegts,mpeg,mpegvideo,asf,flv,dv,mjpeg,mxf,ogg,nut,rm,ivf,h264,hevc,m4v,gif,wtv,"
     "yuv4mpegpipe,av1,obu,vc1,vc1test,dirac,cavsvideo,h261,h263,gxf,nsv,nuv,pva,dhav,smk,bink,roq,apng,smjpeg,mpjpeg";
 constexpr std::size_t kPaletteColours = 256;
-constexpr std::int64_t kMostPackets = 1 << 25;
-/// Larger pictures than this many pixels are taken for a damaged header.
-constexpr std::int64_t kMostPixels = 1 << 26;
+/// Nine hours of 240 pictures a second.
+constexpr std::int64_t kMostPackets = 1 << 23;
 
 /// Codecs that show nothing of the packets before the first key packet.
 bool WaitsForKey(AVCodecID codec) {
@@ -38,6 +39,44 @@ std::string FourCC(const AVCodecParameters& codec) {
     text += static_cast<char>(c);
   }
   return text;
+}
+
+/// A film whose writer was stopped has its pictures, and no word of where they are.
+bool LacksFilmIndex(const FileInput& file) {
+  std::int64_t place = 0;
+  bool film = false;
+  for (int boxes = 0; boxes < 1000; ++boxes) {
+    std::array<std::uint8_t, 16> head{};
+    if (!file.ReadAt(place, std::span(head).first(8))) return film;
+    const std::string_view name(reinterpret_cast<const char*>(head.data()) + 4, 4);
+    if (name == "moov") return false;
+    if (name == "ftyp" || name == "mdat") film = true;
+    std::uint64_t size = 0;
+    for (int i = 0; i < 4; ++i) size = size << 8 | head[static_cast<std::size_t>(i)];
+    if (size == 1 && file.ReadAt(place, head)) {
+      size = 0;
+      for (int i = 8; i < 16; ++i) size = size << 8 | head[static_cast<std::size_t>(i)];
+    }
+    if (size < 8 || size > static_cast<std::uint64_t>(file.Bytes())) return film;
+    place += static_cast<std::int64_t>(size);
+  }
+  return false;
+}
+
+std::string WhyRefused(const FileInput& file, int error) {
+  if (LacksFilmIndex(file)) return "the recording was cut off: its index is missing";
+  // Not one of the containers, or none that is whole.
+  if (error == AVERROR_INVALIDDATA || error == AVERROR(EINVAL)) return "no video of a kind that is known here, or damaged";
+  return AvError(error);
+}
+
+/// Lets the library look into the pictures, with the same bounds as our own decoder.
+int Probe(AVFormatContext& input) {
+  std::vector<AVDictionary*> options(input.nb_streams);
+  for (AVDictionary*& option : options) av_dict_set_int(&option, "max_pixels", kMostPixels, 0);
+  const int result = avformat_find_stream_info(&input, options.data());
+  for (AVDictionary*& option : options) av_dict_free(&option);
+  return result;
 }
 
 }  // namespace
@@ -84,7 +123,7 @@ OpenFault Demuxer::OpenStream(std::unique_ptr<FileInput> file, std::string& mess
   int error = 0;
   input_ = file_->OpenContainer(kContainers, error);
   if (!input_) {
-    message = AvError(error);
+    message = WhyRefused(*file_, error);
     return OpenFault::NoMedia;
   }
   isAvi_ = OneOf("avi", input_->iformat->name);
@@ -102,7 +141,7 @@ OpenFault Demuxer::OpenStream(std::unique_ptr<FileInput> file, std::string& mess
   if (found && known && stream_->index == known->index) {
     if (avcodec_parameters_copy(stream_->codecpar, known->codecpar) < 0) return OpenFault::NoMedia;
   } else if (!found || !saysEnough()) {
-    if (const int probed = avformat_find_stream_info(input_.get(), nullptr); probed < 0) message = AvError(probed);
+    if (const int probed = Probe(*input_); probed < 0) message = AvError(probed);
     if (!FindStream()) {
       message = "no video stream";
       return OpenFault::NoMedia;
@@ -113,8 +152,8 @@ OpenFault Demuxer::OpenStream(std::unique_ptr<FileInput> file, std::string& mess
     message = "no decoder for " + FourCC(codec);
     return OpenFault::NoMedia;
   }
-  if (codec.width < 0 || codec.height < 0 || static_cast<std::int64_t>(codec.width) * codec.height > kMostPixels) {
-    message = "absurd picture size";
+  if (!IsLikelySize({codec.width, codec.height})) {
+    message = "absurd picture size: " + std::to_string(codec.width) + " x " + std::to_string(codec.height);
     return OpenFault::NoMedia;
   }
   FindShape(pixelOfContainer);
@@ -147,6 +186,7 @@ void Demuxer::FindShape(AVRational pixelOfContainer) {
     const AVRational pixel = av_guess_sample_aspect_ratio(input_.get(), stream_, nullptr);
     shape_.TakePixel(pixel.num, pixel.den);
   }
+  if (!IsLikelySize(shape_.SizeOf(codec.width, codec.height))) shape_.TakePixel(1, 1);
   std::size_t bytes = 0;
   const std::uint8_t* matrix = av_stream_get_side_data(stream_, AV_PKT_DATA_DISPLAYMATRIX, &bytes);
   std::array<std::int32_t, 9> numbers{};

@@ -45,7 +45,9 @@ void SetMediaLog(Log* log) {
 }
 
 void HearLibrary() {
-  static const bool once = (av_log_set_callback(&Take), true);
+  // No picture or table of a likely file needs more in one piece.
+  constexpr std::size_t kMostBytes = std::size_t{320} << 20;
+  static const bool once = (av_log_set_callback(&Take), av_max_alloc(kMostBytes), true);
   (void)once;
 }
 

@@ -10,6 +10,7 @@ namespace kinalyx {
 namespace {
 
 constexpr int kMostThreads = 4;
+constexpr std::int64_t kManyPixels = 4096 * 2304;
 /// Packets between a picture's own and the one that pushes it out, at the utmost: it may be stored and
 /// shown sixteen places apart, and the decoder holds sixteen back.
 constexpr int kReorderLag = 32;
@@ -42,11 +43,14 @@ bool PictureDecoder::OpenCodec(std::string& message) {
   }
   standsAlone_ = Has(descriptor, AV_CODEC_PROP_INTRA_ONLY);
   // Pictures that stand for themselves come fast enough, and a thread would only delay them.
-  const int threads = std::clamp(static_cast<int>(std::thread::hardware_concurrency()), 1, kMostThreads);
+  const int processors = std::clamp(static_cast<int>(std::thread::hardware_concurrency()), 1, kMostThreads);
+  // Each thread has a picture of its own in hand.
+  const int threads = std::int64_t{parameters.width} * parameters.height > kManyPixels ? 1 : processors;
   context->thread_count = standsAlone_ || careful_ ? 1 : threads;
   // Without a word in the stream about its order the decoder must expect the worst, or it drops pictures.
   context->strict_std_compliance = FF_COMPLIANCE_STRICT;
   context->opaque = &complaints_;
+  context->max_pixels = kMostPixels;
   if (const int result = avcodec_open2(context.get(), codec, nullptr); result < 0) {
     message = AvError(result);
     return false;

@@ -9,6 +9,15 @@ struct PictureSize {
   int height = 0;
 };
 
+/// Larger pictures are taken for a damaged or hostile header: 8K has fewer pixels. They bound the memory of a
+/// file, for a decoder needs up to twenty pictures.
+constexpr std::int64_t kMostPixels = 8192 * 4320;
+constexpr int kLongestSide = 16384;
+inline bool IsLikelySize(PictureSize size) {
+  return size.width >= 0 && size.height >= 0 && size.width <= kLongestSide && size.height <= kLongestSide &&
+         std::int64_t{size.width} * size.height <= kMostPixels;
+}
+
 /// How a decoded picture becomes the upright one in square pixels: its rows are stretched, then mirrored, then
 /// turned. Rows are never mixed with one another, since they may belong to two fields.
 struct PictureShape {

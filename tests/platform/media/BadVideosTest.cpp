@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
@@ -7,6 +8,7 @@
 #include <vector>
 
 #include "platform/files/Log.h"
+#include "platform/media/Films.h"
 #include "platform/media/MediaLog.h"
 #include "platform/media/VideoFile.h"
 #include "support/TempFolder.h"
@@ -115,10 +117,35 @@ TEST(BadVideos, WithNoGoodPacketShowNothing) {
   for (const int n : {0, 59, 30, 2}) EXPECT_FALSE(file->Frame(n, 24));
 }
 
+Film SmallFilm(const std::string& name, const std::string& encoder, int bFrames, const std::string& muxing = "") {
+  Film film{name, encoder, 30, 10, bFrames};
+  film.muxing = muxing;
+  return film;
+}
+
+/// One of each container, the sizes of their pictures and packets told in many ways.
+std::vector<std::pair<std::string, std::string>> FilmsOfAllContainers() {
+  std::vector<std::pair<std::string, std::string>> films;
+  for (const Film& film :
+       {SmallFilm("bad.mp4", "mpeg4", 2), SmallFilm("front.mp4", "mpeg4", 2, "movflags=faststart"),
+        SmallFilm("parts.mp4", "mpeg4", 0, "movflags=frag_keyframe+empty_moov"), SmallFilm("bad.mov", "mjpeg", 0),
+        SmallFilm("bad.mkv", "mpeg4", 2), SmallFilm("bad.ts", "mpeg2video", 2), SmallFilm("bad.mpg", "mpeg2video", 2),
+        SmallFilm("bad.wmv", "wmv2", 0), SmallFilm("bad.flv", "flv", 0), SmallFilm("bad.ogg", "libtheora", 0)}) {
+    Film made = film;
+    if (made.encoder == "mjpeg") made.format = AV_PIX_FMT_YUVJ420P;
+    MakeFilm(made, TestPath(made.name));
+    films.emplace_back(made.name, BytesOf(TestPath(made.name)));
+  }
+  return films;
+}
+
 TEST(BadVideos, OfAnyKindOfDamageDoNoHarm) {
   std::mt19937 random(11);
-  for (const TestVideo& video : {MjpegVideo(12), H264Video(40), DvVideo(3), RawVideo(6)}) {
-    const std::string avi = BytesOf(MakeTestVideo(video));
+  std::vector<std::string> videos;
+  for (const TestVideo& video : {MjpegVideo(12), H264Video(40), DvVideo(3), RawVideo(6)})
+    videos.push_back(BytesOf(MakeTestVideo(video)));
+  for (const auto& [name, bytes] : FilmsOfAllContainers()) videos.push_back(bytes);
+  for (const std::string& avi : videos) {
     for (int round = 0; round < 12; ++round) {
       std::string damaged = avi;
       // Some in the headers and the index, the rest anywhere.
@@ -133,6 +160,71 @@ TEST(BadVideos, OfAnyKindOfDamageDoNoHarm) {
       for (const int n : {0, frames - 1, frames / 2, frames / 2 - 1, 0}) file->Frame(n, 24);
     }
   }
+}
+
+TEST(BadVideos, OfEveryContainerAreRefusedWithAWordOrShowWhatIsLeft) {
+  const auto films = FilmsOfAllContainers();
+  for (const auto& [name, whole] : films) {
+    for (const std::size_t part : {std::size_t{1}, std::size_t{50}, whole.size() / 3, whole.size() / 2, whole.size() - 1}) {
+      SCOPED_TRACE(testing::Message() << part << " bytes of " << name);
+      const auto result = VideoFile::Open(FileWith(name, whole.substr(0, part)));
+      if (!result.file) {
+        EXPECT_NE(result.fault, OpenFault::None);
+        EXPECT_FALSE(result.message.empty());
+        continue;
+      }
+      const int frames = result.file->Info().frameCount;
+      EXPECT_TRUE(frames > 0 && frames <= 30) << frames;
+      EXPECT_EQ(ReadNumber(result.file->Frame(0, 24)), 0);
+      result.file->Frame(frames - 1, 24);
+    }
+    EXPECT_EQ(VideoFile::Open(FileWith(name, std::string(3000, 'x'))).fault, OpenFault::NoMedia) << name;
+    EXPECT_EQ(VideoFile::Open(FileWith(name, "")).fault, OpenFault::NoFrames) << name;
+  }
+  // A telephone that died: all pictures are there, and nothing tells where.
+  const auto& [name, whole] = films.front();
+  const auto cut = VideoFile::Open(FileWith(name, whole.substr(0, whole.size() / 2)));
+  EXPECT_EQ(cut.fault, OpenFault::NoMedia);
+  EXPECT_NE(cut.message.find("cut off"), std::string::npos) << cut.message;
+}
+
+/// A film in which a box of four letters says something else: `value` stands `offset` bytes behind the letters.
+std::string WithLie(std::string film, const std::string& box, std::size_t offset, std::uint32_t value) {
+  const std::size_t place = film.rfind(box) + box.size() + offset;
+  for (std::size_t i = 0; i < 4; ++i) film[place + i] = static_cast<char>(value >> (24 - 8 * i));
+  return film;
+}
+
+TEST(BadVideos, AnIndexThatLiesNeitherHangsNorTakesTheMemory) {
+  Film film = SmallFilm("honest.mp4", "mpeg4", 0);
+  MakeFilm(film, TestPath(film.name));
+  const std::string honest = BytesOf(TestPath(film.name));
+  struct Lie {
+    const char* box;
+    std::size_t offset;
+  };
+  for (const Lie& lie : {Lie{"stsz", 4}, {"stsz", 8}, {"stsz", 12}, {"stco", 4}, {"stco", 8}, {"stsc", 4}, {"stsc", 12},
+                         {"stts", 4}, {"stts", 8}, {"stts", 12}, {"stss", 4}, {"elst", 4}, {"elst", 8}, {"elst", 12},
+                         {"mdhd", 12}, {"mvhd", 12}}) {
+    for (const std::uint32_t value : {0u, 1u, 0x7FFFFFFFu, 0xFFFFFFFFu, 50000000u}) {
+      SCOPED_TRACE(testing::Message() << lie.box << " + " << lie.offset << " = " << value);
+      const auto result = VideoFile::Open(FileWith("lie.mp4", WithLie(honest, lie.box, lie.offset, value)));
+      EXPECT_TRUE(result.file || !result.message.empty());
+      if (!result.file) continue;
+      const int last = result.file->Info().frameCount - 1;
+      for (const int n : {0, last, last / 2}) {
+        result.file->Frame(n, 24);
+        EXPECT_TRUE(std::isfinite(result.file->SampleToTime(n)));
+      }
+    }
+  }
+  // What no camera has: refused before anything is made room for.
+  std::string wide = BytesOf(MakeTestVideo(RawVideo(4)));
+  const std::uint32_t columns = 65535;
+  std::memcpy(wide.data() + wide.find("strf") + 12, &columns, 4);
+  const auto refused = VideoFile::Open(FileWith("wide.avi", wide));
+  EXPECT_EQ(refused.fault, OpenFault::NoMedia);
+  EXPECT_NE(refused.message.find("65535"), std::string::npos) << refused.message;
 }
 
 TEST(BadVideos, MayVanishWhileOpen) {
