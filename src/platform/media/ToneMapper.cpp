@@ -12,6 +12,10 @@ namespace {
 
 constexpr int kSignals = 1024;
 constexpr int kLights = 65536;
+/// A colour that the screen does not have comes out darker than black or brighter than all; it finds its place
+/// without being asked, for the table begins so far below black and ends so far above.
+constexpr int kBelow = kLights * 7 / 10;
+constexpr int kAbove = kLights * 7 / 10;
 /// White paper in a picture of high dynamic range, and the brightest light that is told from brighter ones.
 constexpr double kPaperNits = 203;
 constexpr double kBrightestNits = 1000;
@@ -85,14 +89,15 @@ void ToneMapper::Learn(const AVFrame& frame) {
     const double nits = frame.color_trc == AVCOL_TRC_SMPTE2084 ? NitsOfPq(signal) : NitsOfHlg(signal);
     const auto light = static_cast<float>(std::min(1.0, nits / kBrightestNits) * (kLights - 1));
     for (std::size_t c = 0; c < 3; ++c) {
-      light_[0][i][c] = primaries.ofRed[c] * light;
+      light_[0][i][c] = primaries.ofRed[c] * light + kBelow;
       light_[1][i][c] = primaries.ofGreen[c] * light;
       light_[2][i][c] = primaries.ofBlue[c] * light;
     }
   }
-  shown_.resize(kLights);
-  for (std::size_t i = 0; i < kLights; ++i) {
-    const double light = static_cast<double>(i) / (kLights - 1) * kBrightestNits / kPaperNits;
+  shown_.resize(kBelow + kLights + kAbove);
+  for (std::size_t i = 0; i < shown_.size(); ++i) {
+    const double part = std::clamp((static_cast<double>(i) - kBelow) / (kLights - 1), 0.0, 1.0);
+    const double light = part * kBrightestNits / kPaperNits;
     shown_[i] = static_cast<std::uint8_t>(std::lround(ScreenValue(Press(light))));
   }
 }
@@ -100,8 +105,6 @@ void ToneMapper::Learn(const AVFrame& frame) {
 void ToneMapper::Map(const AVFrame& frame, std::uint8_t* bits, int stride, int rows) {
   using Places = std::int32_t __attribute__((vector_size(16)));
   Learn(frame);
-  constexpr Four kLeast = {0, 0, 0, 0};
-  constexpr Four kMost = {kLights - 1, kLights - 1, kLights - 1, kLights - 1};
   const Four* red = light_[0].data();
   const Four* green = light_[1].data();
   const Four* blue = light_[2].data();
@@ -111,9 +114,7 @@ void ToneMapper::Map(const AVFrame& frame, std::uint8_t* bits, int stride, int r
     for (int x = 0; x < frame.width; ++x, pixel += 4) {
       std::uint32_t signals = 0;
       std::memcpy(&signals, pixel, 4);
-      Four light = red[signals >> 20 & 1023] + green[signals >> 10 & 1023] + blue[signals & 1023];
-      light = light < kLeast ? kLeast : light;
-      light = light > kMost ? kMost : light;
+      const Four light = red[signals >> 20 & 1023] + green[signals >> 10 & 1023] + blue[signals & 1023];
       const Places place = __builtin_convertvector(light, Places);
       const std::uint32_t value = 0xFF000000U | static_cast<std::uint32_t>(shown[place[2]]) << 16 |
                                   static_cast<std::uint32_t>(shown[place[1]]) << 8 | shown[place[0]];
