@@ -66,8 +66,8 @@ bool LacksFilmIndex(const FileInput& file) {
 std::string WhyRefused(const FileInput& file, int error) {
   if (LacksFilmIndex(file)) return "the recording was cut off: its index is missing";
   // Not one of the containers, or none that is whole.
-  if (error == AVERROR_INVALIDDATA || error == AVERROR(EINVAL)) return "no video of a kind that is known here, or damaged";
-  return AvError(error);
+  const bool strange = error == AVERROR_INVALIDDATA || error == AVERROR(EINVAL);
+  return strange ? "no video of a kind that is known here, or damaged" : AvError(error);
 }
 
 /// Lets the library look into the pictures, with the same bounds as our own decoder.
@@ -178,14 +178,11 @@ bool Demuxer::FindStream() {
 
 void Demuxer::FindShape(AVRational pixelOfContainer) {
   const AVCodecParameters& codec = *stream_->codecpar;
-  if (isAvi_) {
-    // What is drawn on these is stored in the pixels that they always had here. Nearly none tell a shape of
-    // their own, and tape tells it otherwise on every machine.
-    if (codec.codec_id != AV_CODEC_ID_DVVIDEO) shape_.TakePixel(pixelOfContainer.num, pixelOfContainer.den);
-  } else {
-    const AVRational pixel = av_guess_sample_aspect_ratio(input_.get(), stream_, nullptr);
-    shape_.TakePixel(pixel.num, pixel.den);
-  }
+  // What is drawn on tape and on AVI files is stored in the pixels that they always had here. Nearly none of the
+  // files tells a shape of its own, and tape tells it otherwise on every machine.
+  AVRational pixel = isAvi_ ? pixelOfContainer : av_guess_sample_aspect_ratio(input_.get(), stream_, nullptr);
+  if (codec.codec_id == AV_CODEC_ID_DVVIDEO) pixel = {1, 1};
+  shape_.TakePixel(pixel.num, pixel.den);
   if (!IsLikelySize(shape_.SizeOf(codec.width, codec.height))) shape_.TakePixel(1, 1);
   std::size_t bytes = 0;
   const std::uint8_t* matrix = av_stream_get_side_data(stream_, AV_PKT_DATA_DISPLAYMATRIX, &bytes);
@@ -430,7 +427,8 @@ AVRational Demuxer::Rate() const {
               (index_->ShowTime(last) - index_->ShowTime(0)) * stream_->time_base.num, INT32_MAX);
     return rate;
   }
-  return stream_->avg_frame_rate.num > 0 && stream_->avg_frame_rate.den > 0 ? stream_->avg_frame_rate : stream_->r_frame_rate;
+  const AVRational mean = stream_->avg_frame_rate;
+  return mean.num > 0 && mean.den > 0 ? mean : stream_->r_frame_rate;
 }
 
 /// Telephones store slow motion as it is to be shown, and beside it how it was taken.

@@ -39,7 +39,8 @@ Structure FieldParser::Look(const AVPacket& packet) {
   if (!parser_) return Structure::Unknown;
   std::uint8_t* data = nullptr;
   int size = 0;
-  av_parser_parse2(parser_.get(), notes_.get(), &data, &size, packet.data, packet.size, packet.pts, packet.dts, packet.pos);
+  av_parser_parse2(parser_.get(), notes_.get(), &data, &size, packet.data, packet.size, packet.pts, packet.dts,
+                   packet.pos);
   switch (parser_->picture_structure) {
     case AV_PICTURE_STRUCTURE_TOP_FIELD: return Structure::TopField;
     case AV_PICTURE_STRUCTURE_BOTTOM_FIELD: return Structure::BottomField;

@@ -55,12 +55,14 @@ bool ByFields(const AVFrame& frame, const RowTarget& target, const libyuv::YuvCo
     const Sample* planes[3];
     int pitches[3];
     for (int p = 0; p < 3; ++p) {
-      planes[p] = reinterpret_cast<const Sample*>(frame.data[p] + static_cast<std::ptrdiff_t>(field) * frame.linesize[p]);
+      const std::ptrdiff_t row = static_cast<std::ptrdiff_t>(field) * frame.linesize[p];
+      planes[p] = reinterpret_cast<const Sample*>(frame.data[p] + row);
       pitches[p] = fields * frame.linesize[p] / static_cast<int>(sizeof(Sample));
     }
     const int row = fields == 2 && upward ? 1 - field : field;
-    if (convert(planes[0], pitches[0], planes[1], pitches[1], planes[2], pitches[2],
-                bits + static_cast<std::ptrdiff_t>(row) * stride, fields * stride, &colours, frame.width, height / fields) != 0)
+    std::uint8_t* const to = bits + static_cast<std::ptrdiff_t>(row) * stride;
+    if (convert(planes[0], pitches[0], planes[1], pitches[1], planes[2], pitches[2], to, fields * stride, &colours,
+                frame.width, height / fields) != 0)
       return false;
   }
   return true;
@@ -128,8 +130,8 @@ bool RowConverter::TurnPlanes(const AVFrame& frame) {
   const libyuv::RotationMode turn = TurnOf(shape_);
   const bool whole = frame.width % 2 == 0 && frame.height % 2 == 0;
   const bool wide = frame.format == AV_PIX_FMT_YUV420P10;
-  if (turn == libyuv::kRotate0 || !(wide || IsPlain420(frame)) || !whole || HasFieldsApart(frame) || shape_.pixelWidth != 1)
-    return false;
+  if (turn == libyuv::kRotate0 || shape_.pixelWidth != 1) return false;
+  if (!(wide || IsPlain420(frame)) || !whole || HasFieldsApart(frame)) return false;
   const PictureSize size = shape_.SizeOf(frame.width, frame.height);
   if (!turned_ || turned_->width != size.width || turned_->height != size.height || turned_->format != frame.format) {
     turned_ = NewFrame();
@@ -151,9 +153,10 @@ bool RowConverter::TurnPlanes(const AVFrame& frame) {
     const auto from = [&](int p) { return reinterpret_cast<const Sample*>(frame.data[p]); };
     const auto to = [&](int p) { return reinterpret_cast<Sample*>(turned_->data[p]); };
     const auto pitch = [](int bytes) { return bytes / static_cast<int>(sizeof(Sample)); };
-    return function(from(0), pitch(frame.linesize[0]), from(1), pitch(frame.linesize[1]), from(2), pitch(frame.linesize[2]),
-                    to(0), pitch(turned_->linesize[0]), to(1), pitch(turned_->linesize[1]), to(2),
-                    pitch(turned_->linesize[2]), frame.width, toward, turn) == 0;
+    const int* in = frame.linesize;
+    const int* out = turned_->linesize;
+    return function(from(0), pitch(in[0]), from(1), pitch(in[1]), from(2), pitch(in[2]), to(0), pitch(out[0]), to(1),
+                    pitch(out[1]), to(2), pitch(out[2]), frame.width, toward, turn) == 0;
   };
   return wide ? rotate.operator()<std::uint16_t>(&libyuv::I010Rotate)
               : rotate.operator()<std::uint8_t>(&libyuv::I420Rotate);
@@ -161,20 +164,22 @@ bool RowConverter::TurnPlanes(const AVFrame& frame) {
 
 bool RowConverter::ToArgb(const AVFrame& frame, const RowTarget& target) {
   if (ToneMapper::Wants(frame)) return ByTones(frame, target);
+  const libyuv::YuvConstants& colours = ConstantsOf(frame);
   switch (frame.format) {
     case AV_PIX_FMT_YUV420P:
-    case AV_PIX_FMT_YUVJ420P: return ByFields<std::uint8_t>(frame, target, ConstantsOf(frame), &libyuv::I420ToARGBMatrix);
-    case AV_PIX_FMT_YUV420P10: return ByFields<std::uint16_t>(frame, target, ConstantsOf(frame), &libyuv::I010ToARGBMatrix);
-    case AV_PIX_FMT_YUV420P12: return ByFields<std::uint16_t>(frame, target, ConstantsOf(frame), &libyuv::I012ToARGBMatrix);
+    case AV_PIX_FMT_YUVJ420P: return ByFields<std::uint8_t>(frame, target, colours, &libyuv::I420ToARGBMatrix);
+    case AV_PIX_FMT_YUV420P10: return ByFields<std::uint16_t>(frame, target, colours, &libyuv::I010ToARGBMatrix);
+    case AV_PIX_FMT_YUV420P12: return ByFields<std::uint16_t>(frame, target, colours, &libyuv::I012ToARGBMatrix);
     case AV_PIX_FMT_YUV422P:
-    case AV_PIX_FMT_YUVJ422P: return ByFields<std::uint8_t>(frame, target, ConstantsOf(frame), &libyuv::I422ToARGBMatrix);
-    case AV_PIX_FMT_YUV422P10: return ByFields<std::uint16_t>(frame, target, ConstantsOf(frame), &libyuv::I210ToARGBMatrix);
+    case AV_PIX_FMT_YUVJ422P: return ByFields<std::uint8_t>(frame, target, colours, &libyuv::I422ToARGBMatrix);
+    case AV_PIX_FMT_YUV422P10: return ByFields<std::uint16_t>(frame, target, colours, &libyuv::I210ToARGBMatrix);
     case AV_PIX_FMT_YUV444P:
-    case AV_PIX_FMT_YUVJ444P: return ByFields<std::uint8_t>(frame, target, ConstantsOf(frame), &libyuv::I444ToARGBMatrix);
-    case AV_PIX_FMT_YUV444P10: return ByFields<std::uint16_t>(frame, target, ConstantsOf(frame), &libyuv::I410ToARGBMatrix);
+    case AV_PIX_FMT_YUVJ444P: return ByFields<std::uint8_t>(frame, target, colours, &libyuv::I444ToARGBMatrix);
+    case AV_PIX_FMT_YUV444P10: return ByFields<std::uint16_t>(frame, target, colours, &libyuv::I410ToARGBMatrix);
     case AV_PIX_FMT_YUV411P: return Quarter411(frame, target);
-    case AV_PIX_FMT_BGR24: return libyuv::RGB24ToARGB(frame.data[0], frame.linesize[0], target.bits, target.stride, frame.width,
-                                                     target.height) == 0;
+    case AV_PIX_FMT_BGR24:
+      return libyuv::RGB24ToARGB(frame.data[0], frame.linesize[0], target.bits, target.stride, frame.width,
+                                 target.height) == 0;
     default: return ByScaler(frame, target);
   }
 }
@@ -202,9 +207,9 @@ bool RowConverter::ToTenBits(const AVFrame& frame) {
   tenBits_->width = frame.width;
   tenBits_->height = frame.height;
   tenBits_->format = AV_PIX_FMT_YUV444P10;
-  scaler_.reset(sws_getCachedContext(scaler_.release(), frame.width, frame.height, static_cast<AVPixelFormat>(frame.format),
-                                     frame.width, frame.height, AV_PIX_FMT_YUV444P10, SWS_BILINEAR, nullptr, nullptr,
-                                     nullptr));
+  const auto format = static_cast<AVPixelFormat>(frame.format);
+  scaler_.reset(sws_getCachedContext(scaler_.release(), frame.width, frame.height, format, frame.width, frame.height,
+                                     AV_PIX_FMT_YUV444P10, SWS_BILINEAR, nullptr, nullptr, nullptr));
   if (!scaler_ || av_frame_get_buffer(tenBits_.get(), 0) < 0) return false;
   return sws_scale(scaler_.get(), frame.data, frame.linesize, 0, frame.height, tenBits_->data, tenBits_->linesize) ==
          frame.height;
@@ -236,7 +241,8 @@ bool RowConverter::ByScaler(const AVFrame& frame, const RowTarget& target) {
                                                                     : SWS_CS_ITU601);
   sws_setColorspaceDetails(scaler_.get(), matrix, IsFullRange(frame), matrix, 1, 0, 1 << 16, 1 << 16);
   const bool upward = target.height < 0;
-  std::uint8_t* const planes[] = {target.bits + (upward ? static_cast<std::ptrdiff_t>(frame.height - 1) * target.stride : 0)};
+  const std::ptrdiff_t first = upward ? static_cast<std::ptrdiff_t>(frame.height - 1) * target.stride : 0;
+  std::uint8_t* const planes[] = {target.bits + first};
   const int strides[] = {upward ? -target.stride : target.stride};
   if (sws_scale(scaler_.get(), frame.data, frame.linesize, 0, frame.height, planes, strides) != frame.height)
     return false;

@@ -165,7 +165,8 @@ TEST(BadVideos, OfAnyKindOfDamageDoNoHarm) {
 TEST(BadVideos, OfEveryContainerAreRefusedWithAWordOrShowWhatIsLeft) {
   const auto films = FilmsOfAllContainers();
   for (const auto& [name, whole] : films) {
-    for (const std::size_t part : {std::size_t{1}, std::size_t{50}, whole.size() / 3, whole.size() / 2, whole.size() - 1}) {
+    const std::size_t size = whole.size();
+    for (const std::size_t part : {std::size_t{1}, std::size_t{50}, size / 3, size / 2, size - 1}) {
       SCOPED_TRACE(testing::Message() << part << " bytes of " << name);
       const auto result = VideoFile::Open(FileWith(name, whole.substr(0, part)));
       if (!result.file) {

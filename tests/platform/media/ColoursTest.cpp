@@ -35,7 +35,8 @@ void PaintPatches(AVFrame& frame, const std::vector<std::array<int, 3>>& patches
     for (int y = 0; y < frame.height / (p ? 2 : 1); ++y) {
       std::uint8_t* row = frame.data[p] + y * frame.linesize[p];
       for (int x = 0; x < frame.width / (p ? 2 : 1); ++x) {
-        const auto value = static_cast<std::uint16_t>(patches[static_cast<std::size_t>(x / (p ? 8 : 16))][static_cast<std::size_t>(p)]);
+        const auto& patch = patches[static_cast<std::size_t>(x / (p ? 8 : 16))];
+        const auto value = static_cast<std::uint16_t>(patch[static_cast<std::size_t>(p)]);
         if (wide) std::memcpy(row + 2 * x, &value, 2);
         else row[x] = static_cast<std::uint8_t>(value);
       }
@@ -67,12 +68,14 @@ std::vector<Rgb> ShownPatches(Film film, const std::vector<std::array<int, 3>>& 
 void ExpectNear(const std::vector<Rgb>& shown, const std::vector<Rgb>& expected) {
   ASSERT_EQ(shown.size(), expected.size());
   for (std::size_t i = 0; i < shown.size(); ++i) {
-    for (std::size_t c = 0; c < 3; ++c) EXPECT_NEAR(shown[i][c], expected[i][c], c == 2 ? 11 : 3) << "patch " << i << ", part " << c;
+    for (std::size_t c = 0; c < 3; ++c)
+      EXPECT_NEAR(shown[i][c], expected[i][c], c == 2 ? 11 : 3) << "patch " << i << ", part " << c;
   }
 }
 
 TEST(Colours, FollowWhatTheStreamSaysOfMatrixAndRange) {
-  const std::vector<Rgb> colours = {{0.9, 0.2, 0.1}, {0.1, 0.7, 0.3}, {0.2, 0.3, 0.9}, {0.5, 0.5, 0.5}, {1, 1, 1}, {0, 0, 0}};
+  const std::vector<Rgb> colours = {{0.9, 0.2, 0.1}, {0.1, 0.7, 0.3}, {0.2, 0.3, 0.9},
+                                    {0.5, 0.5, 0.5}, {1, 1, 1},       {0, 0, 0}};
   struct Case {
     AVColorSpace matrix;
     double red;
@@ -103,6 +106,8 @@ TEST(Colours, FollowWhatTheStreamSaysOfMatrixAndRange) {
   }
 }
 
+std::array<int, 3> WideSamplesOf(const Rgb& signals) { return SamplesOf(signals, 0.2627, 0.0593, false, 10); }
+
 double PqOf(double nits) {
   const double power = std::pow(nits / 10000, 0.1593017578125);
   return std::pow((0.8359375 + 18.8515625 * power) / (1 + 18.6875 * power), 78.84375);
@@ -115,7 +120,7 @@ TEST(Colours, OfHighRangeLookNatural) {
   lights.push_back({0.6274 * 51, 0.0691 * 51, 0.0164 * 51});
   lights.push_back({0.0433 * 51, 0.0114 * 51, 0.8956 * 51});
   std::vector<std::array<int, 3>> patches;
-  for (const Rgb& light : lights) patches.push_back(SamplesOf({PqOf(light[0]), PqOf(light[1]), PqOf(light[2])}, 0.2627, 0.0593, false, 10));
+  for (const Rgb& light : lights) patches.push_back(WideSamplesOf({PqOf(light[0]), PqOf(light[1]), PqOf(light[2])}));
   Film film{"bright.mp4", "libx265"};
   film.options = "preset=ultrafast:crf=2:x265-params=log-level=none";
   film.format = AV_PIX_FMT_YUV420P10;
@@ -148,7 +153,7 @@ TEST(Colours, OfHighRangeLookNatural) {
     codec.colorspace = AVCOL_SPC_BT2020_NCL;
   };
   patches.clear();
-  for (const double signal : {0.0, 0.38, 0.75, 1.0}) patches.push_back(SamplesOf({signal, signal, signal}, 0.2627, 0.0593, false, 10));
+  for (const double signal : {0.0, 0.38, 0.75, 1.0}) patches.push_back(WideSamplesOf({signal, signal, signal}));
   const auto hybrid = ShownPatches(film, patches);
   ASSERT_EQ(hybrid.size(), 4u);
   EXPECT_LE(hybrid[0][1], 2);

@@ -51,7 +51,8 @@ std::string Headers() {
   constexpr unsigned kMainProfile = 77;
   std::string sequence = Bits().Put(kMainProfile, 8).Put(0, 8).Put(30, 8).Codes({0, 0, 2, 1}).Put(0, 1).Codes({1, 0})
                              .Put(0b00100, 5).Unit(0x67);  // pictures may be fields
-  std::string picture = Bits().Codes({0, 0}).Put(0, 2).Codes({0, 0, 0}).Put(0, 3).Codes({0, 0, 0}).Put(0b100, 3).Unit(0x68);
+  std::string picture =
+      Bits().Codes({0, 0}).Put(0, 2).Codes({0, 0, 0}).Put(0, 3).Codes({0, 0, 0}).Put(0b100, 3).Unit(0x68);
   return sequence + picture;
 }
 
@@ -62,8 +63,8 @@ std::string Field(int n, bool lower) {
   if (key) bits.Codes({static_cast<unsigned>(n / kGroup % 2)}).Put(0, 2);
   else bits.Put(0, 1);
   bits.Codes({0, 1});
-  for (int block = 0; block < 2; ++block)
-    bits.Codes({25}).Raw(std::string(256, static_cast<char>(lower ? 200 - 3 * n : 40 + 3 * n)) + std::string(128, '\x80'));
+  const auto brightness = static_cast<char>(lower ? 200 - 3 * n : 40 + 3 * n);
+  for (int block = 0; block < 2; ++block) bits.Codes({25}).Raw(std::string(256, brightness) + std::string(128, '\x80'));
   const std::string delimiter("\0\0\0\1\x09\x10", 6);
   return delimiter + (key ? Headers() : std::string()) + bits.Unit(key ? 0x65 : 0x21);
 }

@@ -185,9 +185,9 @@ bool SamePicture(const AVFrame& one, const AVFrame& other) {
   if (one.width != other.width || one.height != other.height || one.format != other.format) return false;
   const auto bytesOf = [](const AVFrame& frame) {
     const auto format = static_cast<AVPixelFormat>(frame.format);
-    std::vector<std::uint8_t> bytes(static_cast<std::size_t>(av_image_get_buffer_size(format, frame.width, frame.height, 1)));
-    av_image_copy_to_buffer(bytes.data(), static_cast<int>(bytes.size()), frame.data, frame.linesize, format, frame.width,
-                            frame.height, 1);
+    const int size = av_image_get_buffer_size(format, frame.width, frame.height, 1);
+    std::vector<std::uint8_t> bytes(static_cast<std::size_t>(size));
+    av_image_copy_to_buffer(bytes.data(), size, frame.data, frame.linesize, format, frame.width, frame.height, 1);
     return bytes;
   };
   return bytesOf(one) == bytesOf(other);

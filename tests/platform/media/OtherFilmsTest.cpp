@@ -121,7 +121,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Film{"disc.mpeg", "mpeg1video", 50, 15, 2}, Film{"desk.wmv", "wmv2", 40, 15, 0, "", true},
                     Film{"desk.asf", "wmv1", 40, 15, 0}, Film{"old.3gp", "mpeg4", 40, 15, 0},
                     Film{"web.flv", "flv", 40, 15, 0}, Film{"web.ogg", "libtheora", 40, 16, 0},
-                    Film{"phone.m4v", "mpeg4", 40, 15, 2}, Fragmented({"parts.mp4", "libx264", 60, 20, 2, "preset=veryfast"})),
+                    Film{"phone.m4v", "mpeg4", 40, 15, 2},
+                    Fragmented({"parts.mp4", "libx264", 60, 20, 2, "preset=veryfast"})),
     [](const auto& info) {
       std::string name = info.param.name + "_" + info.param.encoder;
       for (char& c : name)

@@ -24,8 +24,8 @@ void PaintCorners(AVFrame& frame, int n) {
       for (int x = 0; x < width; ++x) {
         const int across = x * 255 / width;
         const int down = y * 255 / height;
-        frame.data[p][y * frame.linesize[p] + x] =
-            static_cast<std::uint8_t>(p == 0 ? (across * 3 + down + n * 8) / 5 + 20 : p == 1 ? 60 + across / 2 : 200 - down / 2);
+        const int values[] = {(across * 3 + down + n * 8) / 5 + 20, 60 + across / 2, 200 - down / 2};
+        frame.data[p][y * frame.linesize[p] + x] = static_cast<std::uint8_t>(values[p]);
       }
     }
   }
@@ -103,15 +103,23 @@ TEST(Shapes, PixelsBecomeSquareByStretchingRowsAlone) {
   }
 }
 
-TEST(Shapes, AviFilesOfTodayKeepTheirPixels) {
-  // The stream inside tells a shape; the container, on whose pixels drawings lie, does not.
-  Film film = FilmOf("inside.avi", AV_PIX_FMT_YUV420P);
-  film.pixel = {4, 3};
-  film.tellsPixel = false;
-  const auto file = OpenFilm(film);
-  ASSERT_TRUE(file);
-  EXPECT_EQ(file->Info().width, 96);
-  EXPECT_EQ(file->Frame(1, 24).width, 96);
+TEST(Shapes, TapeAndAviFilesOfTodayKeepTheirPixels) {
+  // The stream inside tells a shape; the container, on whose pixels drawings lie, does not. Tape tells one in both.
+  Film inside = FilmOf("inside.avi", AV_PIX_FMT_YUV420P);
+  inside.pixel = {4, 3};
+  inside.tellsPixel = false;
+  Film tape = FilmOf("tape.avi", AV_PIX_FMT_YUV420P);
+  tape.encoder = "dvvideo";
+  tape.options = "";
+  tape.width = 720;
+  tape.height = 576;
+  tape.pixel = {16, 11};
+  for (const Film& film : {inside, tape}) {
+    const auto file = OpenFilm(film);
+    ASSERT_TRUE(file) << film;
+    EXPECT_EQ(file->Info().width, film.width) << film;
+    EXPECT_EQ(file->Frame(1, 24).width, film.width) << film;
+  }
 }
 
 }  // namespace

@@ -26,7 +26,8 @@ void ExpectAsStraight(const std::string& path) {
   const auto expect = [&](int n) {
     const FrameRows rows = file.Frame(n, 24);
     ASSERT_TRUE(rows) << n;
-    ASSERT_EQ(std::memcmp(rows.bits, expected[static_cast<std::size_t>(n)].data(), expected[static_cast<std::size_t>(n)].size()), 0)
+    const auto& wanted = expected[static_cast<std::size_t>(n)];
+    ASSERT_EQ(std::memcmp(rows.bits, wanted.data(), wanted.size()), 0)
         << "frame " << n << " shows " << ReadNumber(rows).value_or(-1);
   };
   std::mt19937 random(9);
