@@ -1,6 +1,20 @@
 #include "platform/media/Colours.h"
 
+#include <cstring>
+
 namespace kinalyx {
+namespace {
+
+/// A value that is none of its type's must not even be looked at as one.
+template <typename Enum>
+void MakeKnown(Enum& value, int count, Enum otherwise) {
+  int number = 0;
+  static_assert(sizeof number == sizeof value);
+  std::memcpy(&number, &value, sizeof number);
+  if (number < 0 || number >= count) value = otherwise;
+}
+
+}  // namespace
 
 bool IsFullRange(const AVFrame& frame) {
   switch (frame.format) {
@@ -27,6 +41,14 @@ Matrix MatrixOf(const AVFrame& frame) {
 }
 
 bool HasFieldsApart(const AVFrame& frame) { return frame.interlaced_frame && frame.height % 4 == 0; }
+
+void SettleColours(AVFrame& frame) {
+  MakeKnown(frame.colorspace, AVCOL_SPC_NB, AVCOL_SPC_UNSPECIFIED);
+  MakeKnown(frame.color_primaries, AVCOL_PRI_NB, AVCOL_PRI_UNSPECIFIED);
+  MakeKnown(frame.color_trc, AVCOL_TRC_NB, AVCOL_TRC_UNSPECIFIED);
+  MakeKnown(frame.color_range, AVCOL_RANGE_NB, AVCOL_RANGE_UNSPECIFIED);
+  if (frame.colorspace == AVCOL_SPC_UNSPECIFIED) NameMatrix(frame, MatrixOf(frame));
+}
 
 void NameMatrix(AVFrame& frame, Matrix matrix) {
   switch (matrix) {

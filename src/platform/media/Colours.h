@@ -13,6 +13,9 @@ bool IsFullRange(const AVFrame& frame);
 Matrix MatrixOf(const AVFrame& frame);
 /// Rows of 4:2:0 share their colour with the next row of their own field: two fields are two pictures.
 bool HasFieldsApart(const AVFrame& frame);
+/// What a decoder says of colours is what the stream holds, also where that is nonsense. Makes it sense, and names
+/// the matrix, so that it is known also when the picture has been made smaller. For every picture, before all else.
+void SettleColours(AVFrame& frame);
 /// Writes the matrix into the picture, so that it is kept when the picture is scaled or turned.
 void NameMatrix(AVFrame& frame, Matrix matrix);
 

@@ -171,7 +171,7 @@ void PictureDecoder::Receive(const Sink& sink) {
                          strange_.contains(Index().ChunkOfPicture(picture));
     if (strange && !IsOwnFault(picture)) continue;
     fates_[picture] = Fate::CameOut;
-    if (frame->colorspace == AVCOL_SPC_UNSPECIFIED) NameMatrix(*frame, MatrixOf(*frame));
+    SettleColours(*frame);
     sink(picture, std::move(frame));
   }
 }
