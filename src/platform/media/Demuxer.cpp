@@ -109,6 +109,8 @@ std::unique_ptr<Demuxer> Demuxer::Again() const {
   if (!file || demuxer->OpenStream(std::move(file), ignored, stream_) != OpenFault::None) return nullptr;
   demuxer->index_ = index_;
   demuxer->preamble_ = preamble_;
+  demuxer->landmarks_ = landmarks_;
+  demuxer->tellsShowTimes_ = tellsShowTimes_;
   demuxer->fields_ = fields_;
   if (joiner_) demuxer->joiner_ = std::make_unique<FieldJoiner>(demuxer->Codec(), firstField_);
   return demuxer->Rewind() ? std::move(demuxer) : nullptr;
@@ -336,23 +338,33 @@ void Demuxer::IndexByReading() {
   PictureIndex index;
   ReadIndex([this](AVPacket& packet) { return ReadNext(packet); }, index);
   index.Finish(0, WaitsForKey(stream_->codecpar->codec_id));
+  // Some containers say that they tell times, and leave most packets without.
+  tellsShowTimes_ = tellsShowTimes_ && index.HasShowTimes();
   index_ = std::make_shared<PictureIndex>(std::move(index));
   Rewind();
 }
 
-void Demuxer::ReadIndex(const std::function<bool(AVPacket&)>& read, PictureIndex& index) const {
+void Demuxer::ReadIndex(const std::function<bool(AVPacket&)>& read, PictureIndex& index) {
   const PacketHandle packet = NewPacket();
   bool timed = tellsTimes_;
   std::int64_t previous = 0;
+  std::int64_t place = -1;
+  std::int64_t placeBefore = -1;
+  std::vector<Landmark> landmarks;
   for (; index.PacketCount() < kMostPackets && read(*packet); av_packet_unref(packet.get())) {
     std::int64_t time = packet->dts != AV_NOPTS_VALUE ? packet->dts : packet->pts;
     if (time == AV_NOPTS_VALUE || (index.PacketCount() > 0 && time <= previous)) timed = false;
+    if (packet->pos > place) placeBefore = std::exchange(place, packet->pos);
+    if ((packet->flags & AV_PKT_FLAG_KEY) && placeBefore >= 0 && packet->pos == place)
+      landmarks.push_back({index.PacketCount(), place, packet->size, placeBefore});
     if (!timed) time = index.PacketCount() ? previous : 0;
     index.Add(time, packet->flags & AV_PKT_FLAG_KEY, packet->flags & AV_PKT_FLAG_DISCARD);
     if (tellsShowTimes_ && packet->pts != AV_NOPTS_VALUE) index.TimeLast(packet->pts, packet->duration);
     if (isAvi_ && timed && time >= 0 && time < kMostPackets) index.PlaceLast(static_cast<int>(time));
     previous = time;
   }
+  if (timed || isAvi_ || (input_->iformat->flags & AVFMT_NO_BYTE_SEEK)) landmarks.clear();
+  landmarks_ = std::make_shared<const std::vector<Landmark>>(std::move(landmarks));
 }
 
 bool Demuxer::ReadNext(AVPacket& packet) {
@@ -489,6 +501,7 @@ bool FrameTimes::Vary(const PictureIndex& index) const {
 bool Demuxer::Rewind() {
   if (joiner_) joiner_->Reset();
   next_ = 0;
+  sought_ = nullptr;
   palette_ = headerPalette_;
   const bool timed = index_ && index_->TimesGrow();
   synced_ = !timed;
@@ -499,8 +512,9 @@ bool Demuxer::Rewind() {
 }
 
 bool Demuxer::Seek(int packet) {
-  // Packets without a time of their own are counted from the start of the file.
-  if (!index_->TimesGrow() || packet == 0) return Rewind();
+  if (packet == 0) return Rewind();
+  // Packets without a time of their own are counted, from the start of the file where there is no landmark.
+  if (!index_->TimesGrow()) return SeekLandmark(packet) || Rewind();
   for (int chunk = index_->ChunkOfPacket(packet); chunk > 0; chunk /= 2) {
     const int start = index_->ChunkStart(chunk);
     if (av_seek_frame(input_.get(), stream_->index, index_->Time(start), AVSEEK_FLAG_BACKWARD) < 0) continue;
@@ -512,22 +526,42 @@ bool Demuxer::Seek(int packet) {
   return Rewind();
 }
 
+bool Demuxer::SeekLandmark(int packet) {
+  if (!landmarks_) return false;
+  auto after = std::ranges::upper_bound(*landmarks_, packet, {}, &Landmark::packet);
+  if (after == landmarks_->begin()) return false;
+  const Landmark& landmark = *--after;
+  if (av_seek_frame(input_.get(), stream_->index, landmark.before, AVSEEK_FLAG_BYTE) < 0) return false;
+  if (joiner_) joiner_->Reset();
+  sought_ = &landmark;
+  strangers_ = 0;
+  synced_ = false;
+  next_ = landmark.packet;
+  return true;
+}
+
+bool Demuxer::Recognise(const AVPacket& packet) {
+  if (index_->TimesGrow()) {
+    const std::int64_t time = packet.dts != AV_NOPTS_VALUE ? packet.dts : packet.pts;
+    if (synced_ && index_->Time(next_) == time) return true;
+    const std::optional<int> found = index_->FindPacket(time);
+    if (found) next_ = *found;
+    synced_ = synced_ || found;
+    return found.has_value();
+  }
+  if (synced_) return true;
+  if (packet.pos == sought_->place && packet.size == sought_->size) return synced_ = true;
+  // The landmark looks otherwise when it is entered here: then all is counted after all.
+  constexpr int kMostStrangers = 64;
+  if (packet.pos > sought_->place || ++strangers_ > kMostStrangers) Rewind();
+  return false;
+}
+
 int Demuxer::Read(AVPacket& packet) {
   while (next_ < index_->PacketCount() && ReadNext(packet)) {
     AddPalette(packet);
-    if (index_->TimesGrow()) {
-      const std::int64_t time = packet.dts != AV_NOPTS_VALUE ? packet.dts : packet.pts;
-      if (!synced_ || index_->Time(next_) != time) {
-        const std::optional<int> found = index_->FindPacket(time);
-        if (!found) {
-          av_packet_unref(&packet);
-          continue;
-        }
-        next_ = *found;
-        synced_ = true;
-      }
-    }
-    return next_++;
+    if (Recognise(packet)) return next_++;
+    av_packet_unref(&packet);
   }
   return -1;
 }

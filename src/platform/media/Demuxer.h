@@ -82,8 +82,19 @@ class Demuxer {
   bool LastIndexedIsLast();
   int CountTrailingRepeats(std::int64_t afterLast) const;
   void IndexByReading();
+  /// A key packet by which a reader knows where it is in a stream without times.
+  struct Landmark {
+    int packet = 0;
+    std::int64_t place = 0;  ///< in the file, as the library tells it
+    int size = 0;
+    std::int64_t before = 0; ///< the place of the packet before: entered there, this one comes out whole
+  };
   /// Takes all packets that `read` still gives.
-  void ReadIndex(const std::function<bool(AVPacket&)>& read, PictureIndex& index) const;
+  void ReadIndex(const std::function<bool(AVPacket&)>& read, PictureIndex& index);
+  /// Goes to a landmark at or before a packet; false when there is none.
+  bool SeekLandmark(int packet);
+  /// Tells which packet this is, and counts on from it; false for one that cannot be told.
+  bool Recognise(const AVPacket& packet);
   bool Rewind();
   /// Reads the packet with which the stream begins, and goes back to the beginning; null when there is none.
   PacketHandle FirstPacket();
@@ -106,6 +117,9 @@ class Demuxer {
   int chunksOfFrame_ = 1;  ///< of an AVI file: the picture's own and empty ones behind it
   std::shared_ptr<const PictureIndex> index_;
   std::shared_ptr<const Preamble> preamble_;
+  std::shared_ptr<const std::vector<Landmark>> landmarks_;  ///< of a stream without times
+  const Landmark* sought_ = nullptr;                        ///< the one to which the last seek went
+  int strangers_ = 0;                                       ///< packets since then that were not it
   int next_ = 0;
   bool synced_ = true;  ///< false after a seek, until a packet has been recognised
   std::vector<std::uint32_t> headerPalette_;  ///< opaque; empty for codecs that have none

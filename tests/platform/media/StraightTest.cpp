@@ -3,6 +3,7 @@
 #include <cstring>
 #include <random>
 
+#include "platform/media/Demuxer.h"
 #include "platform/media/FieldStream.h"
 #include "platform/media/Films.h"
 #include "platform/media/RowConverter.h"
@@ -131,6 +132,22 @@ TEST(Straight, WhatIsDamagedIsTheSameTooFromWhereverItIsReached) {
   };
   MakeFilm(film, TestPath(film.name));
   ExpectAsStraight(TestPath(film.name));
+}
+
+TEST(Straight, AStreamWithoutTimesIsNotReadFromItsStartForEveryJump) {
+  for (const Film& film : {Film{"long.mpg", "mpeg2video", 120, 12, 2}, Film{"long.m2v", "mpeg2video", 120, 12, 2}}) {
+    SCOPED_TRACE(testing::Message() << film);
+    MakeFilm(film, TestPath(film.name));
+    OpenFault fault = OpenFault::None;
+    std::string message;
+    const auto demuxer = Demuxer::Open(TestPath(film.name), fault, message);
+    ASSERT_TRUE(demuxer) << message;
+    ASSERT_TRUE(demuxer->Seek(100));
+    const PacketHandle packet = NewPacket();
+    const int first = demuxer->Read(*packet);
+    EXPECT_TRUE(first > 60 && first <= 100) << first;
+    ExpectAsStraight(TestPath(film.name));
+  }
 }
 
 TEST(Straight, TwoFieldsThatAreCodedApartAreOnePicture) {
