@@ -1,12 +1,13 @@
 #include "BareDecoder.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 #include "Bench.h"
 
 namespace kinalyx::bench {
 
-BareDecoder::BareDecoder(const std::string& path) {
+BareDecoder::BareDecoder(const std::string& path, int threads) {
   HearLibrary();
   AVFormatContext* context = nullptr;
   if (avformat_open_input(&context, path.c_str(), nullptr, nullptr) < 0) throw std::runtime_error("cannot open " + path);
@@ -17,7 +18,7 @@ BareDecoder::BareDecoder(const std::string& path) {
   if (stream_ < 0) throw std::runtime_error("no video stream");
   codec_.reset(avcodec_alloc_context3(decoder));
   avcodec_parameters_to_context(codec_.get(), context->streams[stream_]->codecpar);
-  codec_->thread_count = 1;
+  codec_->thread_count = threads;
   if (avcodec_open2(codec_.get(), decoder, nullptr) < 0) throw std::runtime_error("no decoder");
 }
 
@@ -56,6 +57,20 @@ void BareDecoder::SeekTo(int picture) {
   const int key = entry < 0 ? 0 : static_cast<int>(avformat_index_get_entry(stream, entry)->timestamp);
   for (int n = key; n <= picture; ++n)
     if (!Next()) throw std::runtime_error("the video ends early");
+}
+
+void BareDecoder::SeekToTime(double seconds) {
+  const AVStream* stream = input_->streams[stream_];
+  // Half a picture early, for times are rounded.
+  const double unit = av_q2d(stream->time_base);
+  const auto time = static_cast<std::int64_t>((seconds - 0.5 / av_q2d(stream->avg_frame_rate)) / unit);
+  if (av_seek_frame(input_.get(), stream_, std::max<std::int64_t>(0, time), AVSEEK_FLAG_BACKWARD) < 0)
+    throw std::runtime_error("cannot seek");
+  avcodec_flush_buffers(codec_.get());
+  drained_ = false;
+  do {
+    if (!Next()) throw std::runtime_error("the video ends early");
+  } while (frame_->pts < time);
 }
 
 }  // namespace kinalyx::bench

@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include <cstdlib>
 #include <map>
 
 #include "support/TempFolder.h"
@@ -41,6 +42,8 @@ void PaintRow(std::uint8_t* row, int width, int y, int number) {
 }
 
 struct Cache {
+  /// What the program remembers of videos goes where they go.
+  Cache() { setenv("XDG_CACHE_HOME", folder.Path("cache").c_str(), 1); }
   TempFolder folder;
   std::map<std::string, std::string> made;  ///< paths of the videos by what they are
 };

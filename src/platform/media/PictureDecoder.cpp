@@ -154,6 +154,20 @@ void PictureDecoder::Step(int wholeFrom, const Sink& sink) {
   Settle(Index().PicturesBefore(std::max(0, next_ - lag_)));
 }
 
+FrameHandle PictureDecoder::KeyPicture(int chunk, int& picture) {
+  if (!Start(chunk)) return nullptr;
+  const auto placed = NextPlaced();
+  running_ = false;
+  if (!placed || placed->picture < 0) return nullptr;
+  picture = placed->picture;
+  codec_->skip_frame = AVDISCARD_DEFAULT;
+  FrameHandle frame = NewFrame();
+  if (avcodec_send_packet(codec_.get(), placed->packet.get()) < 0) return nullptr;
+  // The end of the stream makes it come out; the next run begins with a flush.
+  avcodec_send_packet(codec_.get(), nullptr);
+  return avcodec_receive_frame(codec_.get(), frame.get()) < 0 ? nullptr : std::move(frame);
+}
+
 void PictureDecoder::Receive(const Sink& sink) {
   for (;;) {
     FrameHandle frame = NewFrame();
@@ -239,6 +253,11 @@ int PictureDecoder::StartChunkFor(int picture) const {
   if (const auto entry = entries_.find(chunk); entry != entries_.end()) return entry->second;
   const auto key = keyPictureOfChunk_.find(chunk);
   return key != keyPictureOfChunk_.end() && picture < key->second ? chunk - 1 : chunk;
+}
+
+int PictureDecoder::FirstOfRun(int chunk) const {
+  const auto key = keyPictureOfChunk_.find(chunk);
+  return key != keyPictureOfChunk_.end() ? key->second : Index().ChunkFirstPicture(chunk);
 }
 
 }  // namespace kinalyx

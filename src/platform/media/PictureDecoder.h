@@ -42,6 +42,10 @@ class PictureDecoder {
   /// decoded without them.
   void Step(int wholeFrom, const Sink& sink);
 
+  /// The key picture of a chunk alone, and its number, without waiting for those behind it; null when it cannot
+  /// be decoded. Ends the run.
+  FrameHandle KeyPicture(int chunk, int& picture);
+
   /// True when this run may still give the picture.
   bool Reaches(int picture) const;
   /// True when this run should have given the picture and did not, and no other run would: it cannot be decoded.
@@ -52,6 +56,9 @@ class PictureDecoder {
   int ReadableEnd() const { return readableEnd_; }
   /// The chunk at which a run must begin to give this picture.
   int StartChunkFor(int picture) const;
+  /// The first picture that a run from this chunk gives, as far as it is known yet: some pictures may be shown
+  /// before the key picture and need the chunk before.
+  int FirstOfRun(int chunk) const;
 
  private:
   PictureDecoder() = default;

@@ -21,6 +21,14 @@ FrameHandle PictureStore::Get(int picture) const {
   return FrameHandle(found == pictures_.end() ? nullptr : av_frame_clone(found->second.frame.get()));
 }
 
+int PictureStore::Nearest(int picture) const {
+  if (pictures_.empty()) return -1;
+  const auto above = pictures_.lower_bound(picture);
+  if (above == pictures_.begin()) return above->first;
+  const int below = std::prev(above)->first;
+  return above != pictures_.end() && above->first - picture < picture - below ? above->first : below;
+}
+
 void PictureStore::Put(int picture, FrameHandle frame) {
   if (const auto old = pictures_.find(picture); old != pictures_.end()) Drop(old);
   pictureBytes_ = BytesOf(*frame);

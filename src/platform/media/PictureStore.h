@@ -14,6 +14,8 @@ class PictureStore {
   bool Has(int picture) const { return pictures_.contains(picture); }
   /// Another hold on a picture; null when it is not here.
   FrameHandle Get(int picture) const;
+  /// The number of the picture nearest to this one; -1 when there is none.
+  int Nearest(int picture) const;
   void Put(int picture, FrameHandle frame);
   /// How many pictures of the kind that was put in last fit into so many bytes; at least `least`.
   int Fitting(std::size_t bytes, int least) const;
@@ -21,6 +23,8 @@ class PictureStore {
   /// `weightAbove` times as far as those below. The focus itself stays.
   void Trim(std::size_t bytes, int focus, int weightAbove);
   std::size_t Bytes() const { return bytes_; }
+  /// Of the picture that was put in last; 0 before.
+  std::size_t PictureBytes() const { return pictureBytes_; }
   int Count() const { return static_cast<int>(pictures_.size()); }
 
  private:

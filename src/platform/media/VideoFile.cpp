@@ -1,37 +1,117 @@
 #include "platform/media/VideoFile.h"
 
+#include <chrono>
+#include <climits>
 #include <cstdint>
+#include <cstdlib>
+#include <mutex>
+#include <optional>
 #include <utility>
 #include <vector>
 
+#include "platform/files/Folders.h"
 #include "platform/media/Demuxer.h"
 #include "platform/media/PictureDecoder.h"
 #include "platform/media/PictureSource.h"
 #include "platform/media/RowConverter.h"
+#include "platform/media/StandInCoder.h"
+#include "platform/media/StandInPass.h"
 
 namespace kinalyx {
 
+namespace {
+
+/// A move by no more than this is a step.
+constexpr int kStep = 16;
+/// Larger pictures take longer to be turned into rows than a stand-in to be unpacked.
+constexpr int kLargePixels = 2'500'000;
+
+/// Whom to tell that a better picture has come. Held during the call, so that nobody is called who has gone.
+class News {
+ public:
+  void Set(std::function<void()> tell) {
+    const std::lock_guard lock(mutex_);
+    tell_ = std::move(tell);
+  }
+  void Tell() {
+    const std::lock_guard lock(mutex_);
+    if (tell_) tell_();
+  }
+
+ private:
+  std::mutex mutex_;
+  std::function<void()> tell_;
+};
+
+}  // namespace
+
 struct VideoFile::Engine {
-  Engine(std::unique_ptr<PictureDecoder> decoder)
-      : info(decoder->Source().Describe()), times(decoder->Source().Times()), index(decoder->Index()),
-        converter(decoder->Source().Shape()), pictures(std::move(decoder)) {}
+  Engine(std::unique_ptr<PictureDecoder> decoder, const std::string& path, const std::optional<FileStamp>& stamp);
+
+  ~Engine();
+  PictureListener ListenerFor(bool withPass);
+
+  bool Takes(int n, int bitCount) const {
+    return n >= 0 && n < info.frameCount && (bitCount == 24 || bitCount == 32);
+  }
+  bool Shows(int picture, int bitCount, bool exact) const {
+    return rows && rowsPicture == picture && rows.bitCount == bitCount && rowsExact == exact;
+  }
+  const FrameRows& RowsOf(int picture, const FrameHandle& frame, int bitCount, bool exact);
+  const FrameRows& StandInOf(int picture, int bitCount);
+  FrameAtHand At(int picture, bool exact) const { return {rows, index.FrameOfPicture(picture), exact}; }
+  FrameAtHand PictureNow(int picture, int bitCount);
+  FrameAtHand NearestNow(int picture, int bitCount);
 
   VideoInfo info;
   FrameTimes times;
   const PictureIndex& index;
+  News news;
   RowConverter converter;
+  StandInCoder unpacker;
+  std::unique_ptr<Demuxer> forPass;
   PictureSource pictures;
+  std::unique_ptr<StandInPass> pass;  ///< null where every picture comes fast
 
-  std::vector<std::uint8_t> bits;  ///< the rows handed out last
+  std::vector<std::uint8_t> wholeBits;  ///< of the rows handed out last, or
+  std::vector<std::uint8_t> smallBits;
   FrameRows rows;
   int rowsPicture = -1;
+  bool rowsExact = false;
+  int asked = 0;     ///< the picture that FrameNow was asked for last
+  int lastMove = 0;  ///< to it, from the one before
 };
+
+VideoFile::Engine::Engine(std::unique_ptr<PictureDecoder> decoder, const std::string& path, const std::optional<FileStamp>& stamp)
+    : info(decoder->Source().Describe()),
+      times(decoder->Source().Times()),
+      index(decoder->Index()),
+      converter(decoder->Source().Shape()),
+      forPass(StandInPass::IsWorthIt(decoder->Source()) ? decoder->Source().Again() : nullptr),
+      pictures(std::move(decoder), ListenerFor(forPass != nullptr)) {
+  if (forPass) pass = std::make_unique<StandInPass>(std::move(forPass), stamp, path);
+}
+
+VideoFile::Engine::~Engine() {
+  // They call one another.
+  pictures.Stop();
+}
+
+PictureListener VideoFile::Engine::ListenerFor(bool withPass) {
+  PictureListener listener;
+  listener.news = [this] { news.Tell(); };
+  if (!withPass) return listener;
+  listener.keepSmall = [this](int picture, const AVFrame& frame) { pass->Keep(picture, frame); };
+  listener.hasSmall = [this](int picture) { return pass->Has(picture); };
+  return listener;
+}
 
 VideoFile::VideoFile(std::unique_ptr<Engine> engine) : engine_(std::move(engine)) {}
 VideoFile::~VideoFile() = default;
 
 VideoFile::Result VideoFile::Open(const std::string& path) {
   Result result;
+  const std::optional<FileStamp> stamp = StampOf(path);
   auto demuxer = Demuxer::Open(path, result.fault, result.message);
   if (!demuxer) return result;
   auto decoder = PictureDecoder::Open(std::move(demuxer), result.message);
@@ -39,7 +119,9 @@ VideoFile::Result VideoFile::Open(const std::string& path) {
     result.fault = OpenFault::NoMedia;
     return result;
   }
-  result.file.reset(new VideoFile(std::make_unique<Engine>(std::move(decoder))));
+  // A file that changes while it is opened is no file to remember anything of.
+  const bool still = stamp && StampOf(path) == stamp;
+  result.file.reset(new VideoFile(std::make_unique<Engine>(std::move(decoder), path, still ? stamp : std::nullopt)));
   return result;
 }
 
@@ -49,18 +131,88 @@ double VideoFile::SampleToTime(int n) const { return engine_->times.Of(n, engine
 
 int VideoFile::FrameAtTime(double ms) const { return engine_->times.FrameAt(ms, engine_->index); }
 
+const FrameRows& VideoFile::Engine::RowsOf(int picture, const FrameHandle& frame, int bitCount, bool exact) {
+  if (Shows(picture, bitCount, exact)) return rows;
+  // Each size has a buffer of its own: growing one costs as much as the picture itself.
+  rows = frame ? converter.Convert(*frame, bitCount, exact ? wholeBits : smallBits) : FrameRows();
+  rowsPicture = picture;
+  rowsExact = exact;
+  return rows;
+}
+
+const FrameRows& VideoFile::Engine::StandInOf(int picture, int bitCount) {
+  if (Shows(picture, bitCount, false)) return rows;
+  const StandInShelf::Bytes packed = pass->Get(picture);
+  return RowsOf(picture, packed ? unpacker.Unpack(*packed) : nullptr, bitCount, false);
+}
+
 FrameRows VideoFile::Frame(int n, int bitCount) {
   Engine& engine = *engine_;
-  if (n < 0 || n >= engine.info.frameCount || (bitCount != 24 && bitCount != 32)) return {};
+  if (!engine.Takes(n, bitCount)) return {};
   const int picture = engine.index.PictureOfFrame(n);
-  if (engine.rows && engine.rowsPicture == picture && engine.rows.bitCount == bitCount) return engine.rows;
+  PassTurn::GiveWay();
+  if (engine.pass) engine.pass->MoveTo(picture);
+  if (engine.Shows(picture, bitCount, true)) return engine.rows;
+  return engine.RowsOf(picture, engine.pictures.Picture(picture), bitCount, true);
+}
 
-  engine.rows = {};
-  const FrameHandle frame = engine.pictures.Picture(picture);
-  if (!frame) return {};
-  engine.rowsPicture = picture;
-  engine.rows = engine.converter.Convert(*frame, bitCount, engine.bits);
-  return engine.rows;
+FrameAtHand VideoFile::FrameNow(int n, int bitCount) {
+  Engine& engine = *engine_;
+  if (!engine.Takes(n, bitCount)) return {};
+  PassTurn::GiveWay();
+  const int picture = engine.index.PictureOfFrame(n);
+  FrameAtHand found = engine.PictureNow(picture, bitCount);
+  // Some frames repeat the picture of the one before.
+  if (found.rows && engine.rowsPicture == picture) found.frame = n;
+  return found;
+}
+
+FrameAtHand VideoFile::Engine::PictureNow(int picture, int bitCount) {
+  if (pass) pass->MoveTo(picture);
+  const int move = picture - std::exchange(asked, picture);
+  if (move != 0) lastMove = move;
+  if (Shows(picture, bitCount, true)) return At(picture, true);
+  // While the hand moves over large pictures the small ones will do.
+  const bool small = pass && pass->Has(picture) && (move != 0 && info.width * info.height > kLargePixels);
+  if (!small) {
+    if (const FrameHandle frame = pictures.PictureNow(picture)) {
+      if (RowsOf(picture, frame, bitCount, true)) {
+        pictures.MoveTo(picture);
+        return At(picture, true);
+      }
+    }
+  }
+  if (pass && pass->Has(picture) && StandInOf(picture, bitCount)) {
+    pictures.Want(picture, PictureSource::Way::AfterRest);
+    return At(picture, false);
+  }
+  return NearestNow(picture, bitCount);
+}
+
+FrameAtHand VideoFile::Engine::NearestNow(int picture, int bitCount) {
+  const auto away = [&](int other) { return other < 0 ? INT_MAX : std::abs(other - picture); };
+  const int decoded = pictures.Nearest(picture);
+  const int standIn = pass ? pass->Nearest(picture) : -1;
+  const bool goingBack = lastMove < 0 && lastMove >= -kStep;
+  const int gap = std::min(away(decoded), away(standIn));
+  using Way = PictureSource::Way;
+  const int key = index.ChunkFirstPicture(index.ChunkOfPicture(picture));
+  const bool stepsForward = lastMove > 0 && lastMove <= kStep;
+  const bool keyHelps = away(key) < gap;
+  pictures.Want(picture, !pass || stepsForward ? Way::Now : goingBack ? Way::WithThoseBelow : keyHelps ? Way::KeyFirst : Way::AfterRest);
+  if (gap == INT_MAX) return {};
+  // A stand-in may be damaged, and a decoded picture may have been given up in between.
+  if (away(standIn) < away(decoded) && StandInOf(standIn, bitCount)) return At(standIn, false);
+  if (decoded < 0 || !RowsOf(decoded, pictures.PictureNow(decoded), bitCount, false)) return {};
+  return At(decoded, false);
+}
+
+void VideoFile::OnBetterPicture(std::function<void()> news) { engine_->news.Set(std::move(news)); }
+
+bool VideoFile::EveryFrameIsAtHand() const { return !engine_->pass || engine_->pass->Done(); }
+
+void VideoFile::SetShownSize(int width, int height) {
+  if (engine_->pass) engine_->pass->SetShownSize(width, height);
 }
 
 std::unique_ptr<VideoInfo> ReadVideoInfo(const std::string& path) {

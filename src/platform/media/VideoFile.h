@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -19,6 +20,15 @@ struct FrameRows {
   int bitCount = 0;
 
   explicit operator bool() const { return bits != nullptr; }
+};
+
+/// A picture that could be had without waiting.
+struct FrameAtHand {
+  /// Other than those of Frame they may be smaller than the video, in its proportions. Empty only when no
+  /// picture of the file has been decoded yet, or for what Frame refuses.
+  FrameRows rows;
+  int frame = -1;      ///< whose picture this is: the one asked for, or one near it
+  bool exact = false;  ///< the rows are what Frame gives; else a stand-in, to be seen and not measured
 };
 
 enum class OpenFault {
@@ -53,6 +63,19 @@ class VideoFile {
   /// that could be decoded before it; no picture at all, an n outside 0 to frameCount - 1, another bit
   /// count, or a file that vanished give an empty view. Never waits longer than the decode needs.
   FrameRows Frame(int n, int bitCount);
+
+  /// What there is of frame n at once: its exact picture, or else a stand-in, which is its own picture at about
+  /// the size of the window or the nearest other one. The exact picture is then on its way until another frame
+  /// is asked for, and the news tell when there is something better. Same arguments and view as Frame.
+  FrameAtHand FrameNow(int n, int bitCount);
+  /// `news` is called, from a thread of this file, whenever a better picture than the last one that FrameNow
+  /// gave has come: ask again. It must not call this file and must not block; null for none. After the return
+  /// the old one is not called any more.
+  void OnBetterPicture(std::function<void()> news);
+  /// True when FrameNow gives every frame its own picture at once, as far as it can be decoded at all.
+  bool EveryFrameIsAtHand() const;
+  /// The pixels that the picture has on the screen, for the size of stand-ins. 960 x 540 until it is told.
+  void SetShownSize(int width, int height);
 
  private:
   struct Engine;

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <vector>
+
+#include "platform/media/AvHandles.h"
+#include "platform/media/RowConverter.h"
+
+namespace kinalyx {
+
+/// Packs pictures small, and unpacks them in a few milliseconds. What is packed are the colours as they are
+/// shown, so nothing of the stream has to be known when it is unpacked. Each object for one thread.
+class StandInCoder {
+ public:
+  /// The steps in which the longer side of stand-ins grows with the window, in pixels. Larger ones would not
+  /// be unpacked in time.
+  static int LongSideFor(int shownWidth, int shownHeight);
+
+  /// The picture with its longer side cut down to `longSide`; empty when it cannot be converted.
+  std::vector<std::uint8_t> Pack(const AVFrame& frame, int longSide);
+  /// Null for bytes that are no picture.
+  FrameHandle Unpack(std::span<const std::uint8_t> packed);
+
+ private:
+  FrameHandle Scale(const AVFrame& frame, int width, int height);
+  bool OpenEncoder(int width, int height);
+
+  RowConverter converter_;
+  ScalerHandle scaler_;
+  std::vector<std::uint8_t> rows_;
+  FrameHandle small_;
+  CodecHandle encoder_;
+  CodecHandle decoder_;
+};
+
+}  // namespace kinalyx
