@@ -1,6 +1,7 @@
 #include "video/AVIControl.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "video/PlayClock.h"
@@ -12,6 +13,7 @@ namespace {
 constexpr Colour kYellow = 65535;
 constexpr Colour kRed = 255;
 constexpr Colour kBlack = 0;
+constexpr int kBetterMs = 10;  // between two looks for a better picture than a stand-in
 
 /// Bits of a display format code; 0 lets the decoder choose.
 int BitsOfFormat(int code) {
@@ -28,22 +30,24 @@ class AVIControl::Run final : public IPlayRun {
 
   void Begin(int start) {
     const std::int64_t now = control_.services_.host.timeGetTime();
-    clock_.Start(now, start, control_.FrameTimeMs_ / control_.properties_.Speed * 100.0);
-    control_.services_.scheduler.Add(*this, clock_.Due(start + 1));
+    clock_.Start(now, control_.BeatOf(start), control_.FrameTimeMs_ / control_.properties_.Speed * 100.0);
+    control_.services_.scheduler.Add(*this, DueAfter(start));
     Show(start);
   }
 
   std::int64_t Tick(std::int64_t now) override {
     if (wrap_) {
-      clock_.Wrap(now, control_.PlayEnd_);
+      clock_.Wrap(now, control_.BeatOf(control_.PlayEnd_ + 1));
       Show(0);
-    } else if (const int due = clock_.PositionAt(now, counter_, control_.PlayEnd_ + 1); due != counter_) {
+    } else if (const int due = control_.PositionAtBeat(clock_.BeatAt(now)); due > counter_) {
       Show(due);
     }
-    return clock_.Due(counter_ + 1);
+    return DueAfter(counter_);
   }
 
  private:
+  std::int64_t DueAfter(int position) const { return clock_.Due(control_.BeatOf(position + 1)); }
+
   /// Draws a position; at or behind the end draws the end, which ends the play or, with a repeat, begins it
   /// anew one interval later, so that the last picture is seen as long as any other.
   void Show(int position) {
@@ -90,6 +94,8 @@ bool AVIControl::Load(const std::string& FileName, bool SplitFields, bool Revers
     return false;
   }
   VideoStream_ = std::move(opened.file);
+  VideoStream_->SetShownSize(ControlWidthPixels(), ControlHeightPixels());
+  VideoStream_->OnBetterPicture([flag = hasBetter_] { *flag = true; });
   setBackColor(kBlack);
   const VideoInfo& info = VideoStream_->Info();
   const auto rate = info.scale > 0 ? static_cast<int>(info.rate / info.scale) : 0;
@@ -116,6 +122,7 @@ void AVIControl::Unload() {
 }
 
 void AVIControl::CloseStream() {
+  better_.Stop();
   VideoStream_.reset();
   FrameBuffer_ = {};
   softened_ = false;
@@ -160,6 +167,7 @@ bool AVIControl::ReadFirstFrame() {
 void AVIControl::Resize(int width, int height) {
   if (width == ControlWidthPixels() && height == ControlHeightPixels()) return;
   surface_.CreateSurfaces(std::max(0, width), std::max(0, height));
+  if (VideoStream_) VideoStream_->SetShownSize(ControlWidthPixels(), ControlHeightPixels());
   Refresh();
 }
 
@@ -264,6 +272,20 @@ void AVIControl::SetPosition(int position) {
   CurrentField_ = (p % 2 == 1) != ReverseFields_;
 }
 
+double AVIControl::BeatOf(int position) const {
+  // The fields of a picture share its time, whatever that is.
+  if (!VideoStream_ || !Info()->rateVaries || properties_.SplitFields || FrameTimeMs_ <= 0) return position;
+  return VideoStream_->SampleToTime(position) / FrameTimeMs_;
+}
+
+int AVIControl::PositionAtBeat(double beat) const {
+  const int end = PositionCount();
+  if (!VideoStream_ || !Info()->rateVaries || properties_.SplitFields || FrameTimeMs_ <= 0)
+    return static_cast<int>(std::clamp<double>(std::floor(beat), 0, end));
+  const double ms = beat * FrameTimeMs_;
+  return ms >= VideoStream_->SampleToTime(end) ? end : VideoStream_->FrameAtTime(ms);
+}
+
 int AVIControl::PositionCount() const { return properties_.SplitFields ? 2 * FrameCount() : FrameCount(); }
 
 void AVIControl::setSplitFields(bool on) {
@@ -290,12 +312,25 @@ void AVIControl::Refresh() {
 void AVIControl::RenderCurrent() {
   if (!VideoStream_ || surface_.Empty()) return;
   const FrameSurface::Content wanted{CurrentRawFrame_, properties_.SplitFields, CurrentField_, properties_.FlipHorizontal};
+  better_.Stop();
   if (!surface_.BringBack(wanted) && ComposeCurrent()) surface_.Composed(wanted);
   PresentFrame();
 }
 
-/// Brings the current frame or field on the main surface. A picture that cannot be had any more (the
-/// file has gone) leaves the last one standing, with false.
+void AVIControl::setExactPictures(bool on) {
+  exactPictures_ = on;
+  if (on && better_.Running()) Refresh();
+}
+
+/// Looks now and then whether there is a better picture than the stand-in that is shown.
+void AVIControl::AwaitBetter() {
+  better_ = HostTimer(services_.host, kBetterMs, true, [this] {
+    if (hasBetter_->exchange(false)) Refresh();
+  });
+}
+
+/// Brings the current frame or field on the main surface; true when it is the exact one. A picture that cannot be
+/// had any more (the file has gone) leaves the last one standing.
 bool AVIControl::ComposeCurrent() {
   if (properties_.SplitFields) {
     if (!CopyFieldOf(CurrentRawFrame_, FrameBuffer_)) return false;
@@ -303,13 +338,25 @@ bool AVIControl::ComposeCurrent() {
     ComposeFrameBuffer();
     return true;
   }
-  // A whole frame is shown from the decoder's own rows, and 32 bits of each pixel are scaled fastest;
-  // only a field needs a buffer to be rebuilt in.
-  const FrameRows rows = VideoStream_->Frame(CurrentRawFrame_, 32);
+  return ComposeWhole();
+}
+
+/// A whole frame is shown from the decoder's own rows, and 32 bits of each pixel are scaled fastest; only a field
+/// needs a buffer to be rebuilt in.
+bool AVIControl::ComposeWhole() {
+  FrameAtHand found;
+  if (VideoStream_->HasStandIns() && !exactPictures_) {
+    hasBetter_->store(false);
+    found = VideoStream_->FrameNow(CurrentRawFrame_, 32);
+    if (!found.exact) AwaitBetter();
+  } else {
+    found = {VideoStream_->Frame(CurrentRawFrame_, 32), CurrentRawFrame_, true};
+  }
+  const FrameRows& rows = found.rows;
   if (!rows) return false;
   surface_.Compose({rows.bits, rows.width, rows.height, rows.rowBytes, rows.bitCount, true}, properties_.FlipHorizontal,
                    services_.scratch);
-  return true;
+  return found.exact;
 }
 
 void AVIControl::PresentFrame() {

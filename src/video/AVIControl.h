@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -53,13 +54,25 @@ class AVIControl {
   void DrawFrame(int Position);
   /// Composes the current frame again, and so all that is drawn over it.
   void Refresh();
+  /// A picture that takes long to decode is shown by a stand-in at once, smaller or that of a frame nearby, and
+  /// gives way to the exact one as soon as that has come: the sink is told again of the same position. With
+  /// true the exact one is waited for, for those who keep what is shown.
+  void setExactPictures(bool on);
+  /// What is shown is the picture of the position itself, at full quality.
+  bool PictureIsExact() const { return !better_.Running(); }
   bool IsPlaying() const { return IsPlaying_; }
   int CurrentFrame() const { return GetPosition(); }
   int Position() const { return GetPosition(); }
   /// Number of positions: frames, or fields with `SplitFields`.
   int VideoLength() const { return PositionCount(); }
-  /// Milliseconds that a position lasts at full speed; 0 without a video.
+  /// Milliseconds that a position lasts at full speed, on the average; 0 without a video.
   double PositionTime() const { return FrameTimeMs_; }
+  /// Milliseconds from the start of the video to a position, by the file's own times.
+  double TimeOf(int position) const { return BeatOf(position) * FrameTimeMs_; }
+  /// Where a position would stand if all lasted equally long: of most videos the position itself.
+  double BeatOf(int position) const;
+  /// The position that is shown at a beat; at most one past the last.
+  int PositionAtBeat(double beat) const;
 
   // --- pictures made of fields
 
@@ -158,6 +171,8 @@ class AVIControl {
   void CloseStream();
   void MeasureTime();
   void RenderCurrent();
+  bool ComposeWhole();
+  void AwaitBetter();
   bool ComposeCurrent();
   void PresentFrame();
   void FinishPlay();
@@ -178,6 +193,9 @@ class AVIControl {
   std::string filename_;
   std::unique_ptr<VideoFile> VideoStream_;
   double FrameTimeMs_ = 0;
+  bool exactPictures_ = false;
+  HostTimer better_;  ///< runs while a stand-in is shown
+  std::shared_ptr<std::atomic<bool>> hasBetter_ = std::make_shared<std::atomic<bool>>();  ///< set by the file's threads
   FormatHeader FormatHeader_;
   std::vector<std::uint8_t> FrameBuffer_;  ///< empty until a field is wanted
   bool softened_ = false;                  ///< a field has been softened since the file was opened

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <filesystem>
+#include <thread>
 
 #include "Player.h"
 #include "support/TempFolder.h"
@@ -159,6 +161,35 @@ TEST(AVIControl, FollowsItsSize) {
   player->DrawFrame(6);
   player->Resize(200, 150);
   EXPECT_EQ(player.Shown(), 6);
+}
+
+TEST(AVIControl, AStandInGivesWayToTheExactPicture) {
+  TestVideo large = H264Video(120);
+  large.format.width = 1280;
+  large.format.height = 720;
+  large.format.keyInterval = 60;
+  Player player;
+  ASSERT_TRUE(player.Load(large));
+  const auto waitForExact = [&] {
+    for (int waited = 0; waited < 6000 && !player->PictureIsExact(); ++waited) {
+      std::this_thread::sleep_for(std::chrono::milliseconds(10));
+      player.host.Advance(10);
+    }
+  };
+  for (const int position : {110, 50, 49, 7}) {
+    player->DrawFrame(position);
+    EXPECT_EQ(player->Position(), position) << "whatever is shown meanwhile";
+    EXPECT_EQ(player.sink.signalled.back(), position);
+    waitForExact();
+    ASSERT_EQ(player.Shown(), position);
+  }
+  player->setExactPictures(true);
+  for (const int position : {118, 61, 3}) {
+    player->DrawFrame(position);
+    ASSERT_EQ(player.Shown(), position) << "at once";
+  }
+  player->Unload();
+  EXPECT_EQ(player.host.TimerCount(), 0u);
 }
 
 TEST(AVIControl, KeepsItsSettingsInABag) {

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include <numeric>
 
 #include "Player.h"
@@ -105,14 +107,14 @@ TEST(Play, ALateLoopKeepsItsBeat) {
 TEST(Play, KeepsItsRateForAnHour) {
   PlayClock clock;
   clock.Start(5000, 10, 1000.0 / 30);
-  EXPECT_EQ(clock.PositionAt(5000 + 3600000, 0, 1 << 30), 10 + 3600 * 30);
+  EXPECT_EQ(std::floor(clock.BeatAt(5000 + 3600000)), 10 + 3600 * 30);
   EXPECT_EQ(clock.Due(10 + 3600 * 30), 5000 + 3600000);
   for (int position = 10; position < 2000; ++position) {
-    ASSERT_EQ(clock.PositionAt(clock.Due(position), 0, 1 << 30), position);
-    ASSERT_LT(clock.PositionAt(clock.Due(position) - 1, 0, 1 << 30), position);
+    ASSERT_EQ(std::floor(clock.BeatAt(clock.Due(position))), position);
+    ASSERT_LT(std::floor(clock.BeatAt(clock.Due(position) - 1)), position);
   }
   clock.Start(5000, 0, 1000.0 / 30);
-  for (int round = 0; round < 3600 * 3; ++round) clock.Wrap(clock.Due(10), 9);
+  for (int round = 0; round < 3600 * 3; ++round) clock.Wrap(clock.Due(10), 10);
   EXPECT_EQ(clock.Due(0), 5000 + 3600000);
 
   Player player;

@@ -209,6 +209,8 @@ FrameAtHand VideoFile::Engine::NearestNow(int picture, int bitCount) {
 
 void VideoFile::OnBetterPicture(std::function<void()> news) { engine_->news.Set(std::move(news)); }
 
+bool VideoFile::HasStandIns() const { return engine_->pass != nullptr; }
+
 bool VideoFile::EveryFrameIsAtHand() const { return !engine_->pass || engine_->pass->Done(); }
 
 void VideoFile::SetShownSize(int width, int height) {

@@ -72,6 +72,9 @@ class VideoFile {
   /// gave has come: ask again. It must not call this file and must not block; null for none. After the return
   /// the old one is not called any more.
   void OnBetterPicture(std::function<void()> news);
+  /// True for a file whose pictures take long, so that FrameNow may give stand-ins; with any other the picture of
+  /// Frame comes as fast.
+  bool HasStandIns() const;
   /// True when FrameNow gives every frame its own picture at once, as far as it can be decoded at all.
   bool EveryFrameIsAtHand() const;
   /// The pixels that the picture has on the screen, for the size of stand-ins. 960 x 540 until it is told.

@@ -28,8 +28,8 @@ class LockedVideos::Run final : public IPlayRun {
   void Begin(std::vector<int> slots, int distance, int last, double interval) {
     slots_ = std::move(slots);
     last_ = last;
-    clock_.Start(videos_.host_.timeGetTime(), distance, interval);
-    scheduler_.Add(*this, clock_.Due(distance + 1));
+    clock_.Start(videos_.host_.timeGetTime(), BeatOf(distance), interval);
+    scheduler_.Add(*this, clock_.Due(BeatOf(distance + 1)));
     ShowAll(distance);
   }
 
@@ -40,21 +40,27 @@ class LockedVideos::Run final : public IPlayRun {
 
   /// Goes on from the distance that is shown.
   void SetInterval(double interval) {
-    clock_.Start(videos_.host_.timeGetTime(), distance_, interval);
-    scheduler_.Add(*this, clock_.Due(distance_ + 1));
+    clock_.Start(videos_.host_.timeGetTime(), BeatOf(distance_), interval);
+    scheduler_.Add(*this, clock_.Due(BeatOf(distance_ + 1)));
   }
 
   std::int64_t Tick(std::int64_t now) override {
     if (wrap_) {
-      clock_.Wrap(now, last_);
+      clock_.Wrap(now, BeatOf(last_ + 1));
       ShowAll(0);
-    } else if (const int due = clock_.PositionAt(now, distance_, last_ + 1); due != distance_) {
+    } else if (const int due = DistanceAt(clock_.BeatAt(now)); due > distance_) {
       ShowAll(due);
     }
-    return clock_.Due(distance_ + 1);
+    return Running() ? clock_.Due(BeatOf(distance_ + 1)) : now;
   }
 
  private:
+  const AVIControl& Lead() const { return videos_.stage_.MP(slots_.front()); }
+  int LeadStart() const { return videos_.Lowest(slots_.front()); }
+  /// The lead's times are the clock: a distance falls due when the lead's own picture does.
+  double BeatOf(int distance) const { return Lead().BeatOf(LeadStart() + distance) - Lead().BeatOf(LeadStart()); }
+  int DistanceAt(double beat) const { return Lead().PositionAtBeat(Lead().BeatOf(LeadStart()) + beat) - LeadStart(); }
+
   /// Draws all videos at a distance; what they have to tell comes when all are drawn.
   void ShowAll(int distance) {
     const PlayerNews::Hold hold(scheduler_.News());

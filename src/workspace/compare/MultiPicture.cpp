@@ -35,6 +35,7 @@ void MultiPicture::ToggleStrip() {
 void MultiPicture::Enter() {
   events_.GiveWay();
   slot_ = stage_.CurrentWindow;
+  stage_.MP(slot_).setExactPictures(true);  // the strip keeps what is shown
   shown_ = true;
   waiting_ = false;
   from_ = last_ = -1;
@@ -48,6 +49,7 @@ void MultiPicture::Enter() {
 
 void MultiPicture::StageLost() {
   shown_ = waiting_ = MultiFrameMode_ = false;
+  stage_.MP(slot_).setExactPictures(false);
   rebuild_.Stop();
   strip_ = Surface();
   view_.ShowMultiPicture(false);

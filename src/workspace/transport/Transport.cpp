@@ -135,10 +135,24 @@ void Transport::ClearMarks() {
   view_.SetMarks({});
 }
 
-double Transport::DisplayRate(int slot) const {
+/// Positions per second as they were taken, where they are told otherwise than by the times of the pictures; else 0.
+double Transport::KnownRate(int slot) const {
   const Slot& at = stage_.At(slot);
   if (at.SlotFrameRate > 0) return at.SlotFrameRate;
   if (at.data.RealFrameRate > 0) return at.data.RealFrameRate;
+  const double taken = at.MP->Info() ? at.MP->Info()->captureRate : 0;
+  return taken * (at.MP->SplitFields() ? 2 : 1);
+}
+
+double Transport::SecondsAt(int slot) const {
+  const AVIControl& player = stage_.MP(slot);
+  const bool ownTimes = player.Info() && player.Info()->rateVaries && KnownRate(slot) <= 0;
+  return ownTimes ? player.TimeOf(player.Position()) / 1000 : player.Position() / DisplayRate(slot);
+}
+
+double Transport::DisplayRate(int slot) const {
+  if (const double known = KnownRate(slot); known > 0) return known;
+  const Slot& at = stage_.At(slot);
   const double rate = at.frameRate * (at.MP->SplitFields() ? 2 : 1);
   return rate > 0 ? rate : 30;  // the file does not tell
 }
@@ -146,8 +160,7 @@ double Transport::DisplayRate(int slot) const {
 std::string Transport::DisplayLine(int slot) const {
   if (!stage_.HasVideo(slot)) return "0 seconds | 00/00 frames  ";
   const Slot& at = stage_.At(slot);
-  const double rate = DisplayRate(slot);
-  return fmt::format("{} seconds | {}/{} frames  ", Seconds(at.MP->Position() / rate), at.MP->Position(),
+  return fmt::format("{} seconds | {}/{} frames  ", Seconds(SecondsAt(slot)), at.MP->Position(),
                      at.MP->VideoLength() - 1);
 }
 

@@ -47,8 +47,11 @@ class Transport {
   void DisplayData(const std::string& text);
   /// The line of a slot without its effect on the window.
   std::string DisplayLine(int slot) const;
-  /// Positions per second that times are computed with.
+  /// Positions per second that times are computed with: what the user has set, or what the file knows of how it
+  /// was taken, or its own.
   double DisplayRate(int slot) const;
+  /// Seconds from the start of a slot's video to where it stands.
+  double SecondsAt(int slot) const;
   /// Sets the range and place of the seek bar from the current video.
   void ScrollBarSetup();
   /// Brings bar, buttons, marks and line up to the current window.
@@ -70,6 +73,7 @@ class Transport {
   void HeldStep();
   void ShowPosition();
   void ShowCell(int slot);
+  double KnownRate(int slot) const;
 
   IHost& host_;
   Settings& settings_;

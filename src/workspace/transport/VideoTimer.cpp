@@ -30,7 +30,9 @@ double VideoTimer::Rate(int slot) const {
 }
 
 double VideoTimer::Seconds(int slot) const {
-  return std::floor(stage_.MP(slot).Position() / Rate(slot) * 100 + 0.5) / 100;
+  const double own = TimerRate_[static_cast<std::size_t>(slot)];
+  const double seconds = own > 0 ? stage_.MP(slot).Position() / own : transport_.SecondsAt(slot);
+  return std::floor(seconds * 100 + 0.5) / 100;
 }
 
 void VideoTimer::UpdateTimer() {
