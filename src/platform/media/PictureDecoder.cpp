@@ -162,10 +162,17 @@ FrameHandle PictureDecoder::KeyPicture(int chunk, int& picture) {
   picture = placed->picture;
   codec_->skip_frame = AVDISCARD_DEFAULT;
   FrameHandle frame = NewFrame();
+  if (chunk > 0) demuxer_->FirstWords().PutBefore(*placed->packet);
   if (avcodec_send_packet(codec_.get(), placed->packet.get()) < 0) return nullptr;
   // The end of the stream makes it come out; the next run begins with a flush.
   avcodec_send_packet(codec_.get(), nullptr);
-  return avcodec_receive_frame(codec_.get(), frame.get()) < 0 ? nullptr : std::move(frame);
+  const bool came = avcodec_receive_frame(codec_.get(), frame.get()) >= 0;
+  // What a run would not believe is not taken from here either; the run that follows finds it out.
+  const bool complained = complaints_ != heardComplaints_;
+  heardComplaints_ = complaints_;
+  if (!came || complained || (frame->flags & AV_FRAME_FLAG_CORRUPT) || frame->decode_error_flags) return nullptr;
+  SettleColours(*frame);
+  return frame;
 }
 
 void PictureDecoder::Receive(const Sink& sink) {
