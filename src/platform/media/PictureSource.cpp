@@ -178,7 +178,7 @@ void PictureSource::Work() {
     }
     readableEnd_ = std::min(readableEnd_, DecoderFor(*task).ReadableEnd());
     if (!reachable) lost_.insert(task->target);
-    const std::size_t least = store_.Bytes() > 0 ? static_cast<std::size_t>(least_) * (store_.Bytes() / std::max(1, store_.Count())) : 0;
+    const std::size_t least = static_cast<std::size_t>(least_) * (store_.Bytes() / std::max(1, store_.Count()));
     store_.Trim(std::max(share_, least), wanted_ >= 0 ? wanted_ : focus_, step_ < 0 ? 4 : 1);
     if (awaited_ && wanted_ >= 0 && IsKnown(wanted_)) arrived_.notify_one();
     if (task->key >= 0) {
@@ -250,6 +250,11 @@ std::optional<PictureSource::Task> PictureSource::ChooseWanted() {
   if (!onTheWay && small) stretch_ = SmallStretchTo(wanted_);
   if (!onTheWay && !small) stretch_ = StretchBelow(wanted_ + 1);
   auto task = NextOfStretch();
+  if (!task && small) {
+    // It has turned out to hang on the key picture before.
+    stretch_ = SmallStretchTo(wanted_);
+    task = NextOfStretch();
+  }
   if (task) task->awaited = awaited_;
   return task;
 }

@@ -57,8 +57,9 @@ FrameHandle StandInCoder::Scale(const AVFrame& frame, int width, int height) {
   const auto format = static_cast<AVPixelFormat>(frame.format);
   scaler_.reset(sws_getCachedContext(scaler_.release(), frame.width, frame.height, format, width, height, format,
                                      SWS_AREA, nullptr, nullptr, nullptr));
-  if (!scaler_ || sws_scale(scaler_.get(), frame.data, frame.linesize, 0, frame.height, to, pitch) != height) return nullptr;
-  return scaled;
+  if (!scaler_) return nullptr;
+  const int rows = sws_scale(scaler_.get(), frame.data, frame.linesize, 0, frame.height, to, pitch);
+  return rows == height ? std::move(scaled) : nullptr;
 }
 
 bool StandInCoder::OpenEncoder(int width, int height) {
@@ -89,7 +90,7 @@ std::vector<std::uint8_t> StandInCoder::Pack(const AVFrame& frame, int longSide)
   const int longer = std::max(frame.width, frame.height);
   FrameHandle scaled;
   if (longer > longSide) {
-    const auto part = [&](int side) { return std::max(2, static_cast<int>(std::int64_t{side} * longSide / longer) & ~1); };
+    const auto part = [&](int side) { return std::max(2, side * longSide / longer & ~1); };
     scaled = Scale(frame, part(frame.width), part(frame.height));
     if (!scaled) return {};
   }

@@ -52,7 +52,9 @@ Heading HeadingOf(const FileStamp& video, int pictures) {
 
 std::string NameOf(const FileStamp& video) {
   std::uint64_t hash = 14695981039346656037u;
-  for (const std::uint64_t part : {video.number, static_cast<std::uint64_t>(video.bytes), static_cast<std::uint64_t>(video.written)}) {
+  const auto bytes = static_cast<std::uint64_t>(video.bytes);
+  const auto written = static_cast<std::uint64_t>(video.written);
+  for (const std::uint64_t part : {video.number, bytes, written}) {
     hash = (hash ^ part) * 1099511628211u;
     hash ^= hash >> 29;
   }

@@ -39,7 +39,8 @@ bool StandInPass::IsWorthIt(const Demuxer& source) {
   if (index.EveryPacketIsKey()) return pixels > kFastAlone;
   int longest = 0;
   int first = 0;
-  for (int chunk = index.ChunkOfPacket(0), last = index.ChunkOfPacket(index.PacketCount() - 1); chunk <= last; ++chunk) {
+  const int last = index.ChunkOfPacket(index.PacketCount() - 1);
+  for (int chunk = 0; chunk <= last; ++chunk) {
     const int end = chunk < last ? index.ChunkFirstPicture(chunk + 1) : index.PictureCount();
     longest = std::max(longest, end - first);
     first = end;

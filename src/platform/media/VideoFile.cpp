@@ -82,7 +82,8 @@ struct VideoFile::Engine {
   int lastMove = 0;  ///< to it, from the one before
 };
 
-VideoFile::Engine::Engine(std::unique_ptr<PictureDecoder> decoder, const std::string& path, const std::optional<FileStamp>& stamp)
+VideoFile::Engine::Engine(std::unique_ptr<PictureDecoder> decoder, const std::string& path,
+                          const std::optional<FileStamp>& stamp)
     : info(decoder->Source().Describe()),
       times(decoder->Source().Times()),
       index(decoder->Index()),
@@ -199,7 +200,9 @@ FrameAtHand VideoFile::Engine::NearestNow(int picture, int bitCount) {
   const int key = index.ChunkFirstPicture(index.ChunkOfPicture(picture));
   const bool stepsForward = lastMove > 0 && lastMove <= kStep;
   const bool keyHelps = away(key) < gap;
-  pictures.Want(picture, !pass || stepsForward ? Way::Now : goingBack ? Way::WithThoseBelow : keyHelps ? Way::KeyFirst : Way::AfterRest);
+  if (!pass || stepsForward) pictures.Want(picture, Way::Now);
+  else if (goingBack) pictures.Want(picture, Way::WithThoseBelow);
+  else pictures.Want(picture, keyHelps ? Way::KeyFirst : Way::AfterRest);
   if (gap == INT_MAX) return {};
   // A stand-in may be damaged, and a decoded picture may have been given up in between.
   if (away(standIn) < away(decoded) && StandInOf(standIn, bitCount)) return At(standIn, false);
