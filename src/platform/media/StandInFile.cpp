@@ -18,6 +18,8 @@ extern "C" {
 #include <system_error>
 #include <utility>
 
+#include "platform/files/Folders.h"
+
 namespace kinalyx {
 namespace {
 

@@ -9,9 +9,9 @@
 #include <string>
 #include <vector>
 
-#include "platform/files/Folders.h"
-
 namespace kinalyx {
+
+struct FileStamp;
 
 /// Where stand-ins are kept on the disk, and how much.
 struct StandInLimits {

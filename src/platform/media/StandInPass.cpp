@@ -9,6 +9,8 @@
 #include <string>
 #include <utility>
 
+#include "platform/files/Folders.h"
+
 namespace kinalyx {
 namespace {
 
@@ -48,10 +50,11 @@ bool StandInPass::IsWorthIt(const Demuxer& source) {
   return pixels * longest > kFastTogether;
 }
 
-StandInPass::StandInPass(std::unique_ptr<Demuxer> source, std::optional<FileStamp> video, std::string path)
+StandInPass::StandInPass(std::unique_ptr<Demuxer> source, std::unique_ptr<const FileStamp> video,
+                         std::string path)
     : index_(source->Index()),
       path_(std::move(path)),
-      video_(video),
+      video_(std::move(video)),
       pictures_(index_.PictureCount()),
       videoLongSide_(std::max(source->Codec().width, source->Codec().height)),
       shelf_(pictures_),
@@ -237,6 +240,6 @@ void StandInPass::DoKey(int chunk) {
   if (const FrameHandle frame = decoder_->KeyPicture(chunk, picture)) Keep(picture, *frame);
 }
 
-bool StandInPass::VideoIsTheSame() const { return !video_ || StampOf(path_) == video_; }
+bool StandInPass::VideoIsTheSame() const { return !video_ || StampOf(path_) == *video_; }
 
 }  // namespace kinalyx

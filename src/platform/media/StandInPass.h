@@ -23,8 +23,8 @@ class StandInPass {
   /// False for a video of which any picture is decoded as fast as a stand-in.
   static bool IsWorthIt(const Demuxer& source);
 
-  /// `video` is the state of the file, for what is kept on the disk; without it nothing is.
-  StandInPass(std::unique_ptr<Demuxer> source, std::optional<FileStamp> video, std::string path);
+  /// `video` is the state of the file, for what is kept on the disk; with null nothing is.
+  StandInPass(std::unique_ptr<Demuxer> source, std::unique_ptr<const FileStamp> video, std::string path);
   ~StandInPass();
 
   /// The user is at this picture.
@@ -60,7 +60,7 @@ class StandInPass {
 
   const PictureIndex& index_;
   const std::string path_;
-  const std::optional<FileStamp> video_;
+  const std::unique_ptr<const FileStamp> video_;
   const int pictures_;
   const int videoLongSide_;
   StandInShelf shelf_;

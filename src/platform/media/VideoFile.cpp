@@ -90,7 +90,9 @@ VideoFile::Engine::Engine(std::unique_ptr<PictureDecoder> decoder, const std::st
       converter(decoder->Source().Shape()),
       forPass(StandInPass::IsWorthIt(decoder->Source()) ? decoder->Source().Again() : nullptr),
       pictures(std::move(decoder), ListenerFor(forPass != nullptr)) {
-  if (forPass) pass = std::make_unique<StandInPass>(std::move(forPass), stamp, path);
+  if (!forPass) return;
+  auto video = stamp ? std::make_unique<const FileStamp>(*stamp) : nullptr;
+  pass = std::make_unique<StandInPass>(std::move(forPass), std::move(video), path);
 }
 
 VideoFile::Engine::~Engine() {

@@ -11,6 +11,7 @@
 #include <thread>
 #include <vector>
 
+#include "platform/files/Folders.h"
 #include "platform/media/PassTurn.h"
 #include "platform/media/StandInShelf.h"
 #include "support/TempFolder.h"
