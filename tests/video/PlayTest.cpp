@@ -43,20 +43,15 @@ TEST(Play, ShowsEveryPositionWhenItFallsDueAndTellsItsEnd) {
   EXPECT_EQ(player.sink.notified, vector<int>{20});
   EXPECT_EQ(player.host.TimerCount(), 0u) << "an idle player costs nothing";
 
-  // Without arguments the last end stands.
+  // Without arguments the last end stands; a start alone shows one position.
   player->DrawFrame(18);
   player->Play();
   player.host.Advance(1000);
   EXPECT_EQ(player->Position(), 20);
-  EXPECT_EQ(player.sink.notified.size(), 2u);
-}
-
-TEST(Play, WithAStartAloneShowsOnePosition) {
-  Film player;
   player->Play(5);
   EXPECT_FALSE(player->IsPlaying());
   EXPECT_EQ(player.Shown(), 5);
-  EXPECT_TRUE(player.sink.notified.empty());
+  EXPECT_EQ(player.sink.notified.size(), 2u);
 }
 
 TEST(Play, SkipsLatePositionsAndDrawsTheLast) {
@@ -81,10 +76,9 @@ TEST(Play, IsAPauseWhilePlaying) {
   player->Play(0, 29);
   EXPECT_FALSE(player->IsPlaying());
   EXPECT_FALSE(player->Repeat()) << "a stop ends the repeat";
-  EXPECT_EQ(player->Position(), 5);
-  EXPECT_EQ(player.sink.notified, vector<int>{5});
   player.host.Advance(1000);
   EXPECT_EQ(player->Position(), 5);
+  EXPECT_EQ(player.sink.notified, vector<int>{5});
 }
 
 // Two videos of one length that are looped together must not drift apart because one was shown late.
@@ -152,9 +146,7 @@ TEST(Play, GoesOnToTheEndAtANewSpeed) {
   player->Play(0, 8);
   player.host.Advance(160);
   EXPECT_TRUE(player->setSpeed(50));
-  EXPECT_TRUE(player->IsPlaying());
   EXPECT_TRUE(player->Repeat()) << "the repeat survives a change of speed";
-  EXPECT_EQ(player->Speed(), 50);
   EXPECT_EQ(player->Position(), 4);
   player.host.Advance(80);
   EXPECT_EQ(player->Position(), 5);
@@ -164,7 +156,6 @@ TEST(Play, GoesOnToTheEndAtANewSpeed) {
 
   player->StopPlay();
   player->setSpeed(200);
-  EXPECT_FALSE(player->IsPlaying());
   player->Play(0, 29);
   player.host.Advance(20 * 10);
   EXPECT_EQ(player->Position(), 10);

@@ -45,7 +45,6 @@ class RecordingSink final : public IFrameInterface {
     notified.push_back(Frame);
     if (onNotify) onNotify();
   }
-
   void StrobeEnded(int) override { ++strobesEnded; }
 
   int strobesEnded = 0;
