@@ -33,27 +33,6 @@ struct EditDesk : Desk {
   }
 };
 
-TEST(EditBar, HandlesFollowTheSelection) {
-  EditDesk desk;
-  desk.bar.UseHandle(kEndHandle);
-  EXPECT_FALSE(desk.bar.Shown()) << "no handle works while the bar is down";
-  desk.bar.ToggleEditBar();
-  EXPECT_FALSE(desk.strip.enabled[kNextHandle] || desk.strip.enabled[kMoveHandle]);
-  EXPECT_TRUE(desk.strip.enabled[kEndHandle]);
-
-  desk.Draw(kFlag, {{10, 10}});
-  EXPECT_TRUE(desk.strip.enabled[kDeleteHandle]);
-  EXPECT_FALSE(desk.strip.multi) << "one shape needs no multi mode";
-  desk.Draw(kFlag, {{20, 10}});
-  EXPECT_TRUE(desk.strip.multi);
-  desk.bar.UseHandle(kNextHandle);
-  EXPECT_EQ(desk.List().CurShape, 0) << "round again";
-  desk.bar.UseHandle(kDeleteHandle);
-  EXPECT_EQ(desk.Points(0)[0].x, 20);
-  desk.bar.UseHandle(kEndHandle);
-  EXPECT_FALSE(desk.bar.Shown());
-}
-
 TEST(EditBar, DragsMoveScaleAndRotate) {
   EditDesk desk;
   desk.Draw(kLine, {{100, 100}, {200, 100}});

@@ -75,7 +75,6 @@ TEST(ShapeFile, AContainerIsReadFromHandWrittenBytes) {
   ShapeFileContent content;
   ASSERT_TRUE(ReadShapeFile(bytes, {28800, 16200}, content));
   ASSERT_EQ(content.Lists.size(), 2u);
-  EXPECT_EQ(content.Lists[0].NumShapes, 0);
   EXPECT_EQ(content.Lists[0].CurShape, -1);
   ASSERT_EQ(content.Lists[1].NumShapes, 1);
   EXPECT_EQ(content.Lists[1].CanvasWidth, 14400) << "half the screen where nothing is stored";
@@ -85,7 +84,6 @@ TEST(ShapeFile, AContainerIsReadFromHandWrittenBytes) {
   EXPECT_EQ(WriteShapeFile(content), bytes);
 
   ASSERT_TRUE(ReadShapeFile(Hex("'SL' 0100 0800 'EOF'"), {}, content));
-  EXPECT_EQ(content.Lists.size(), 8u);
   EXPECT_FALSE(ReadShapeFile(Hex("'XL' 0100 0200 'EOF'"), {}, content));
   EXPECT_FALSE(ReadShapeFile({}, {}, content));
   EXPECT_EQ(content.Lists.size(), 8u) << "untouched";
@@ -155,20 +153,17 @@ TEST(ShapeFile, NoBytesBringTheReaderDown) {
 
 TEST(ShapeFile, ListsAreStoredUnderANameAndBesideAVideo) {
   TempFolder folder;
-  ShapeLists lists;
+  ShapeLists lists, read;
   Add(lists(3), Finished(kLine, {{1, 2}, {3, 4}}));
   lists(3).CanvasWidth = lists(3).CanvasHeight = 900;
-  ASSERT_TRUE(SaveShapeList(folder.Path("all"), lists));
-  ShapeLists read;
   Add(read(1), Finished(kFlag, {{9, 9}}));
-  ASSERT_TRUE(LoadShapeList(folder.Path("all"), {}, read));
+  ASSERT_TRUE(SaveShapeList(folder.Path("all"), lists) && LoadShapeList(folder.Path("all"), {}, read));
   EXPECT_EQ(read(3), lists(3));
   EXPECT_EQ(read(1).NumShapes, 0);
 
   const std::string video = folder.Path("swing.avi");
-  ASSERT_TRUE(SaveVideoSL(video, lists(3)));
   ShapeList list;
-  ASSERT_TRUE(LoadVideoSL(video, {}, list));
+  ASSERT_TRUE(SaveVideoSL(video, lists(3)) && LoadVideoSL(video, {}, list));
   EXPECT_EQ(list, lists(3));
   ASSERT_TRUE(SaveVideoSL(video, {}));
   EXPECT_EQ(folder.FileCount(), 1u) << "without drawings there is no file beside the video";

@@ -43,6 +43,8 @@ TEST(ShapePainting, EveryKindIsDrawnWhereItsRuleSays) {
       {"parallelogram", kParallelogram, {{20, 20}, {80, 20}, {110, 90}}, {{50, 20}, {95, 55}, {80, 90}, {35, 55}}, {{65, 55}}},
       // Ring at nine tenths, ticks from eight to ten tenths.
       {"clock", kClock, {{0, 0}, {200, 200}}, {{190, 100}, {183, 100}, {197, 100}, {100, 183}}, {{170, 100}, {100, 100}}},
+      // Turned by fifteen degrees; 83 from the centre, that far below the level.
+      {"turned clock", kClock, {{0, 0}, {200, 200}, {15, 0}}, {{180, 121}}, {{183, 100}}},
       // Tip to the right: notch 18 back, barbs 30 long at twenty degrees.
       {"arrow", kArrow, {{20, 100}, {120, 100}}, {{60, 100}, {92, 90}, {92, 110}, {106, 95}}, {{108, 100}, {85, 92}}},
       {"stick man", kStickMan,
@@ -62,25 +64,15 @@ TEST(ShapePainting, EveryKindIsDrawnWhereItsRuleSays) {
   }
 }
 
-TEST(ShapePainting, ATurnedClockMovesItsTicks) {
-  Easel easel;
-  Shape clock = Finished(kClock, {{0, 0}, {200, 200}});
-  clock.Pts[2].x = 15;
-  easel.Draw(clock);
-  EXPECT_EQ(easel.At(183, 100), kGround);
-  EXPECT_EQ(easel.At(180, 121), kRed);  // 83 from the centre, fifteen degrees below the level
-}
-
 TEST(ShapePainting, WhatIsTooSmallDrawsNothingAndIsNoError) {
   Easel easel;
+  for (int kind : {kFreehand, kSquare, kLine, kEllipse, kAngle, kSwingPath, kParallelogram, kZone, kClock, kArrow})
+    easel.Draw(Finished(kind, {{50, 50}}));
+  easel.Draw({});
   Shape arrow = Finished(kArrow, {{50, 50}});
   arrow.Pts = {{50, 50}, {50, 50}, {}};
   arrow.NumBound = arrow.NumPts = 2;
   easel.Draw(arrow);
-  for (int kind : {kFreehand, kSquare, kLine, kEllipse, kAngle, kSwingPath, kParallelogram, kZone, kClock, kArrow})
-    easel.Draw(Finished(kind, {{50, 50}}));
-  Shape empty;
-  easel.Draw(empty);
   // What a damaged file may hold: kinds that do not exist, counts without points.
   Shape odd = Finished(kLine, {{1, 1}, {90, 90}});
   odd.Kind = 4711;
@@ -89,16 +81,6 @@ TEST(ShapePainting, WhatIsTooSmallDrawsNothingAndIsNoError) {
   odd.Pts.clear();
   easel.Draw(odd);
   EXPECT_EQ(LargestDifference(easel.surface, Easel().surface), 0);
-}
-
-TEST(ShapePainting, AnUnfinishedShapeMarksItsNewestPoint) {
-  Easel easel;
-  Shape line = Finished(kLine, {{50, 50}});
-  line.Locked = false;
-  easel.Draw(line);
-  EXPECT_EQ(easel.At(52, 50), kRed);
-  EXPECT_EQ(easel.At(50, 48), kRed);
-  EXPECT_EQ(easel.At(60, 50), kGround);
 }
 
 TEST(ShapePainting, AZoneTintsThePictureAndHasNoRim) {
@@ -112,15 +94,21 @@ TEST(ShapePainting, AZoneTintsThePictureAndHasNoRim) {
   EXPECT_EQ(easel.canvas.CurrentROP2(), Rop2::CopyPen);
 }
 
-TEST(ShapePainting, AnOutlineIsABlackRim) {
+TEST(ShapePainting, AnOutlineIsABlackRimAndAnUnfinishedShapeMarksItsNewestPoint) {
   Easel easel;
   easel.look.CadOutline = true;
   EXPECT_TRUE(PaintShape(Finished(kLine, {{10, 50}, {150, 50}}), kRed, easel.canvas, easel.look));
   EXPECT_EQ(easel.At(80, 50), kRed);
-  EXPECT_EQ(easel.At(80, 48), 0);
-  EXPECT_EQ(easel.At(80, 52), 0);
+  for (const int rim : {48, 52}) EXPECT_EQ(easel.At(80, rim), 0);
   EXPECT_EQ(easel.At(80, 54), kGround);
   EXPECT_EQ(easel.canvas.CurrentPen().width, 3);
+
+  Easel other;
+  Shape line = Finished(kLine, {{50, 50}});
+  line.Locked = false;
+  other.Draw(line);
+  for (const POINTAPI& point : {POINTAPI{52, 50}, {50, 48}}) EXPECT_EQ(other.At(point.x, point.y), kRed);
+  EXPECT_EQ(other.At(60, 50), kGround);
 }
 
 TEST(ShapePainting, AFinishedPathShinesWhereItWasFastest) {
@@ -134,8 +122,6 @@ TEST(ShapePainting, AFinishedPathShinesWhereItWasFastest) {
   Easel easel;
   const Colour blue = Rgb(0, 0, 255);
   easel.canvas.SetPen({blue, 3, 0});
-  easel.Draw(path);
-  EXPECT_EQ(highlight(easel), 0);
   easel.look.PathHighlight = true;
   easel.Draw(path);
   EXPECT_GT(highlight(easel), 10) << "white in the middle of the longest stretch";
@@ -143,13 +129,15 @@ TEST(ShapePainting, AFinishedPathShinesWhereItWasFastest) {
   EXPECT_EQ(easel.At(31, 20), kRed) << "the highlight begins red";
   EXPECT_EQ(easel.canvas.CurrentPen().colour, blue);
 
+  // Not unless it is asked for, nor before the path is finished, nor on two clicks.
+  const Shape finished = path;
   path.Locked = false;
-  for (const Shape& plain : {path, Finished(kSwingPath, {{10, 20}, {190, 20}})}) {
+  for (const auto& [plain, asked] : {std::pair{finished, false}, {path, true}, {Finished(kSwingPath, {{10, 20}, {190, 20}}), true}}) {
     Easel other;
-    other.look.PathHighlight = true;
+    other.look.PathHighlight = asked;
     other.Draw(plain);
     EXPECT_NE(other.At(100, 20), kGround);
-    EXPECT_EQ(highlight(other), 0) << "not before it is finished, nor on two clicks";
+    EXPECT_EQ(highlight(other), 0);
   }
 }
 
@@ -168,10 +156,8 @@ TEST(ShapePainting, TheGridHasSquareCells) {
   ASSERT_EQ(even.size(), 10u) << "the eleventh lies on the border, outside the picture";
   EXPECT_EQ(even[1] - even[0], 64);
   EXPECT_EQ(uprights(645, 10).front(), 2);
-  // 100 / 30: cells of 3, ten pixels over: three more columns, one pixel over.
-  EXPECT_EQ(uprights(100, 30).size(), 34u);
-  EXPECT_TRUE(uprights(100, 0).empty());
-  EXPECT_TRUE(uprights(100, 101).empty());
+  EXPECT_EQ(uprights(100, 30).size(), 34u) << "cells of 3, ten pixels over: three more columns, one pixel over";
+  for (const int none : {0, 101}) EXPECT_TRUE(uprights(100, none).empty());
 }
 
 /// What the painter shows must be what painting each shape anew would show.
