@@ -12,6 +12,7 @@
 
 #include "FakeCompareView.h"
 #include "core/Settings.h"
+#include "library/Sidecar.h"
 #include "support/TestHost.h"
 #include "support/TestVideos.h"
 #include "video/KeyCodes.h"
@@ -170,6 +171,19 @@ class AnalysisStage : private IFrameInterface, private INavigation {
     return true;
   }
 
+  /// Closes the video of a window and opens it there again, as it lies on the disk.
+  bool Reopen(int slot) {
+    const std::string path = Stage().At(slot).path;
+    return Videos().CloseVideo(slot) && Open(slot, path);
+  }
+  bool Run(const char* command) {
+    const bool done = Commands().Run(command);
+    EndTurn();
+    return done;
+  }
+  /// The hands rest so long that all is saved.
+  void Rest() { host.Advance(5000); }
+
   kinalyx::Stage& Stage() { return analysis.Stage(); }
   kinalyx::Videos& Videos() { return analysis.Videos(); }
   kinalyx::Keeping& Keeping() { return analysis.Keeping(); }
@@ -178,6 +192,11 @@ class AnalysisStage : private IFrameInterface, private INavigation {
   AVIControl& MP(int slot) { return Stage().MP(slot); }
   int At(int slot) { return MP(slot).Position(); }
   ShapeList& Shapes(int slot = 1) { return analysis.Tools().List(slot); }
+  /// What was clicked of a shape.
+  std::vector<POINTAPI> Points(int shape, int slot = 1) {
+    const auto points = BoundPoints(Shapes(slot).Shapes[static_cast<std::size_t>(shape)]);
+    return {points.begin(), points.end()};
+  }
   POINTAPI PointOf(int shape, int point, int slot = 1) {
     return Shapes(slot).Shapes[static_cast<std::size_t>(shape)].Pts[static_cast<std::size_t>(point)];
   }
@@ -254,6 +273,13 @@ class AnalysisStage : private IFrameInterface, private INavigation {
 
   std::array<std::unique_ptr<AVIControl>, kSlots> players_;
   int videos_ = 0;
+};
+
+/// A section with a video in its first window.
+struct OpenStage : AnalysisStage {
+  explicit OpenStage(const std::string& layout = "1") : AnalysisStage(layout) { Open(1, path); }
+  const std::string path = Video("a.avi");
+  const std::string sidecar = SidecarPath(path);
 };
 
 }  // namespace kinalyx::test

@@ -89,6 +89,12 @@ TEST_F(StageHomeTest, ANewVideoInTheMixStaysThere) {
     ASSERT_TRUE(stage_.Videos().CloseVideo(5));
     ExpectHome("8", 5);
   }
+  // Another layout leaves them also where it shows no video at all.
+  ASSERT_TRUE(stage_.Videos().CloseVideo(1));
+  ASSERT_TRUE(stage_.Open(5, MjpegVideo(30)));
+  Toggle("smbar");
+  stage_.Key('1');
+  ExpectHome("1", 1);
 }
 
 }  // namespace

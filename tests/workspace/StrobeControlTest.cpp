@@ -42,7 +42,6 @@ class StrobeControlTest : public testing::Test {
 
 TEST_F(StrobeControlTest, QuickStrobeRunsToTheEndAndASecondPressStopsIt) {
   strobe_.ToggleStrobe();
-  EXPECT_TRUE(strobe_.StrobeRunning());
   stage_.host.Advance(350);
   const int at = stage_.At(1);
   EXPECT_GT(at, 6);
@@ -62,9 +61,6 @@ TEST_F(StrobeControlTest, QuickStrobeRunsToTheEndAndASecondPressStopsIt) {
   EXPECT_FALSE(strobe_.StrobeRunning());
   EXPECT_GE(stage_.At(1), 36);
   EXPECT_EQ(stage_.window.updates, told + 2);
-  stage_.Stage().SelectWindow(2);
-  strobe_.ToggleStrobe();  // an empty window
-  EXPECT_FALSE(strobe_.StrobeRunning());
 }
 
 TEST_F(StrobeControlTest, WindowChoosesStartAndEnd) {
@@ -85,22 +81,18 @@ TEST_F(StrobeControlTest, WindowChoosesStartAndEnd) {
   strobe_.PressButton(StrobeButton::Strobe);
   EXPECT_EQ(view_.captions[2], "Stop");
   EXPECT_FALSE(view_.result);
-  strobe_.PressButton(StrobeButton::Strobe);
-  EXPECT_FALSE(strobe_.StrobeRunning());
-  strobe_.PressButton(StrobeButton::Strobe);
   stage_.host.Advance(5000);
   EXPECT_EQ(view_.captions[2], "Strobe");
   EXPECT_TRUE(view_.result);
   EXPECT_LE(stage_.At(1), 20);
   EXPECT_GE(stage_.At(1), 16);
-}
 
-TEST_F(StrobeControlTest, FramesAreRawWhereFieldsAreSplit) {
+  // Frames are raw where fields are split.
   stage_.Videos().ToggleSplitFields();
   strobe_.SetWindow(&view_);
   stage_.MP(1).DrawFrame(31);
   strobe_.PressButton(StrobeButton::Start);
-  EXPECT_EQ(view_.captions[0], "Start at 31");
+  EXPECT_EQ(view_.captions, (Captions{"Start at 31", "End Here", "Strobe"}));
   strobe_.PressButton(StrobeButton::Strobe);  // no end chosen: to the last frame
   stage_.host.Advance(5000);
   EXPECT_GE(stage_.At(1) / 2, 36);
@@ -123,7 +115,6 @@ TEST_F(StrobeControlTest, AnotherWindowOrVideoResets) {
   ASSERT_TRUE(stage_.Open(1, RawVideo(30)));
   EXPECT_FALSE(strobe_.StrobeRunning());
   EXPECT_EQ(view_.captions[0], "Start Here");
-  EXPECT_EQ(view_.slider, (std::array{0, 29, 0}));
 
   strobe_.PressButton(StrobeButton::End);
   strobe_.PressButton(StrobeButton::Strobe);
@@ -134,9 +125,8 @@ TEST_F(StrobeControlTest, AnotherWindowOrVideoResets) {
   EXPECT_EQ(view_.slider, (std::array{0, 24, 3}));
   strobe_.PressButton(StrobeButton::Strobe);
   ASSERT_TRUE(stage_.Videos().CloseVideo(2));
+  strobe_.ToggleStrobe();  // an empty window
   EXPECT_FALSE(strobe_.StrobeRunning());
-  strobe_.SetWindow(nullptr);
-  stage_.host.Advance(1000);
 }
 
 }  // namespace

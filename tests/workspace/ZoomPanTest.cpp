@@ -30,17 +30,15 @@ TEST_F(ZoomPanTest, ButtonsDoWhatTheKeysDo) {
     EXPECT_EQ(std::pair(slot.PanX, slot.PanY), panned[index]) << index;
     stage_.Stage().ResetZoom();
   }
-  const double zoomed[] = {0.9, 1.0, 1.0};
-  for (const int index : {0, 1, 2}) {
-    zoom_.Zoom(static_cast<ZoomMove>(index));
-    EXPECT_DOUBLE_EQ(slot.VideoZoom, zoomed[index]) << index;
+  for (const auto& [move, zoomed] : {std::pair{0, 0.9}, {0, 0.8}, {1, 0.9}, {2, 1.0}}) {
+    zoom_.Zoom(static_cast<ZoomMove>(move));
+    EXPECT_DOUBLE_EQ(slot.VideoZoom, zoomed) << move;
   }
 }
 
 TEST_F(ZoomPanTest, WheelKeepsThePointUnderThePointer) {
   stage_.Stage().At(1).PanX = 333;
   stage_.Stage().MPResize(1);
-  const double otherZoom = stage_.Stage().At(2).VideoZoom;
   // A point of the picture, and where it is in the cell.
   double part = 0.3;
   for (const int notches : {1, 1, 5, 40, -3, -100}) {
@@ -56,7 +54,6 @@ TEST_F(ZoomPanTest, WheelKeepsThePointUnderThePointer) {
   EXPECT_DOUBLE_EQ(stage_.Stage().At(1).VideoZoom, 0.2);
   zoom_.Wheel(1, 5, 5, 100);
   EXPECT_DOUBLE_EQ(stage_.Stage().At(1).VideoZoom, 4.0);
-  EXPECT_DOUBLE_EQ(stage_.Stage().At(2).VideoZoom, otherZoom);
   zoom_.Wheel(3, 5, 5, 1);  // an empty window
 }
 

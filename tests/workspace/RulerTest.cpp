@@ -1,0 +1,166 @@
+#include "workspace/edits/RulerCalibration.h"
+
+#include <gtest/gtest.h>
+
+#include "AnalysisStage.h"
+#include "platform/files/FileStore.h"
+
+namespace kinalyx::test {
+namespace {
+
+/// The figures of the length that is shown.
+double Shown(const AnalysisStage& stage) {
+  const auto at = stage.window.text.find("H-V");
+  return at == std::string::npos ? -1 : std::stod(stage.window.text.substr(at + 3));
+}
+
+TEST(MeasureTest, BelongsToItsShapeAndGoesWithIt) {
+  OpenStage stage;
+  const auto draw = [&] {
+    stage.Draw(kLine, {100, 100}, {200, 100});
+    EXPECT_EQ(Shown(stage), 100);
+  };
+  draw();
+  stage.MP(1).Play(3);
+  EXPECT_EQ(Shown(stage), 100) << "the next picture changes nothing";
+  stage.Stage().SetZoom(0.5);
+  EXPECT_EQ(Shown(stage), 50) << "in the pixels that are shown";
+  stage.Stage().SetZoom(1);
+  stage.Run("UndoDrawing");
+  EXPECT_EQ(stage.window.text, "");
+  for (const char* command : {"Lastcadoff", "Cadoffbutton"}) {
+    draw();
+    stage.Run(command);
+    EXPECT_EQ(stage.window.text, "") << command;
+  }
+  draw();
+  stage.Open(1, stage.Video("b.avi"));
+  EXPECT_EQ(stage.window.text, "");
+
+  // Under construction it has taken the place of the tool's name, which comes back.
+  stage.Key(kKeyF1 + kLine);
+  const std::string tool = stage.window.text;
+  EXPECT_TRUE(stage.window.colour);
+  stage.Click(1, 100, 100);
+  stage.Move(1, 150, 100);
+  EXPECT_EQ(Shown(stage), 50);
+  EXPECT_FALSE(stage.window.colour);
+  stage.Run("Lastcadoff");
+  EXPECT_EQ(stage.window.text, tool);
+  EXPECT_TRUE(stage.window.colour && stage.analysis.Tools().Drawing());
+}
+
+TEST(RulerTest, ItsLineIsNoDrawing) {
+  OpenStage stage;
+  const auto stored = [&] {
+    stage.Rest();
+    return ReadWholeFile(stage.sidecar);
+  };
+  stage.Draw(kSquare, {111, 33}, {157, 77});
+  const auto saved = stored();
+  ASSERT_TRUE(saved);
+  stage.Run("TCal");
+  stage.Click(1, 100, 300);
+  stage.Click(1, 200, 300);
+  stage.Stage().SetZoom(0.3);
+  for (int turn = 0; turn < 2; ++turn) stage.Videos().ToggleFlip();
+  stage.Stage().SetZoom(2);
+  EXPECT_EQ(stage.window.calibrationLength, "200pts") << "the length follows the picture";
+  EXPECT_EQ(stored(), saved);
+  EXPECT_EQ(stage.Shapes().NumShapes, 2);
+  stage.analysis.Ruler().Calibrate(100, kInches, kInches);
+  stage.Stage().SetZoom(1);
+  EXPECT_EQ(stage.Shapes().NumShapes, 1);
+  EXPECT_EQ(stage.PointOf(0, 0), (POINTAPI{111, 33})) << "and has not moved by a rounding";
+  EXPECT_EQ(stored(), saved);
+
+  // Undo knows nothing of it, and leaves it where it is.
+  stage.Run("TCal");
+  stage.Click(1, 100, 200);
+  stage.Click(1, 140, 200);
+  stage.Key('Z', kCtrl);
+  EXPECT_EQ(stage.window.calibrationLength, "40pts");
+  // Deleted it cannot be measured any more.
+  stage.Run("Lastcadoff");
+  EXPECT_EQ(stage.window.calibrationLength, "");
+  EXPECT_EQ(stage.Shapes().NumShapes, 0) << "the square was undone";
+
+  // A zoom between the two clicks of a drawing finds it, not the line that lies there.
+  stage.Draw(kLine, {100, 200}, {140, 200});
+  stage.Key(kKeyF1 + kSquare);
+  stage.Click(1, 30, 40);
+  stage.Stage().SetZoom(2);
+  stage.Click(1, 90, 100);
+  ASSERT_EQ(stage.Shapes().NumShapes, 2);
+  EXPECT_EQ(stage.Points(1), (std::vector<POINTAPI>{{60, 80}, {90, 100}}));
+}
+
+TEST(RulerTest, TurnsPixelsIntoLengths) {
+  OpenStage stage;
+  const auto measure = [&](POINTAPI from, POINTAPI to) {
+    stage.Draw(kLine, from, to);
+    return Shown(stage);
+  };
+  stage.Run("TCal");
+  stage.Click(1, 50, 300);
+  stage.Click(1, 170, 300);
+  EXPECT_EQ(stage.window.calibrationLength, "120pts");
+  stage.analysis.Ruler().Calibrate(10, kInches, kCentimetres);
+  EXPECT_EQ(stage.Shapes().NumShapes, 0) << "the measuring line goes";
+  EXPECT_EQ(stage.settings.CalibNumber, 120);
+  EXPECT_FLOAT_EQ(stage.settings.CalibNumberOut, 12);
+  EXPECT_EQ(measure({100, 150}, {220, 150}), 25.4);
+  EXPECT_NE(stage.window.text.find("25.4cm"), std::string::npos) << stage.window.text;
+
+  // In another layout the picture has another size; what is seen in it has not.
+  const int whole = stage.MP(1).ControlWidthPixels();
+  stage.Stage().SetScreen(4);
+  const int part = stage.MP(1).ControlWidthPixels();
+  ASSERT_NE(part, whole);
+  EXPECT_NEAR(measure({10, 100}, {10 + part / 2, 100}), whole / 2.0 / 12 * 2.54, 1);
+  // Upright or not, a picture as high shows things as large.
+  TestVideo upright = MjpegVideo(30);
+  std::swap(upright.format.width, upright.format.height);
+  ASSERT_TRUE(stage.Open(2, upright));
+  stage.Stage().SelectWindow(2);
+  ASSERT_LT(stage.MP(2).ControlWidthPixels(), part);
+  const double other = measure({10, 10}, {10, 110});
+  stage.Stage().SelectWindow(1);
+  EXPECT_EQ(measure({10, 10}, {10, 110}), other);
+  stage.settings.CalibHeight = 0;  // as older settings have it
+  EXPECT_NEAR(measure({10, 100}, {10 + part / 2, 100}), whole / 2.0 / 12 * 2.54, 1);
+
+  // Cancelled in the middle of its line: only that line goes, and the numbers stay.
+  const int drawn = stage.Shapes().NumShapes;
+  stage.Run("TCal");
+  stage.Click(1, 20, 20);
+  stage.Move(1, 60, 60);
+  stage.Key(kKeyEscape);
+  EXPECT_FALSE(stage.window.calibration || stage.analysis.Tools().Drawing());
+  EXPECT_EQ(stage.Shapes().NumShapes, drawn);
+  EXPECT_EQ(stage.settings.CalibNumber, 120);
+}
+
+TEST(RulerTest, TakesItsOwnLineAndNoOther) {
+  OpenStage stage;
+  stage.Draw(kLine, {101, 203}, {307, 209});
+  stage.Run("TCal");
+  stage.Click(1, 100, 60);
+  stage.Click(1, 200, 60);
+  stage.Draw(kEllipse, {300, 100}, {350, 140});
+  stage.analysis.Ruler().CancelCalibration();
+  ASSERT_EQ(stage.Shapes().NumShapes, 2);
+  EXPECT_EQ(stage.Shapes().Shapes[1].Kind, kEllipse) << "drawn with the panel open: it is the selected one";
+  // A line that was there before may be measured too.
+  stage.Run("MenuEdit");
+  stage.Run("TCal");
+  stage.analysis.Tools().PutToolDown();
+  stage.Shapes().CurShape = 0;
+  stage.analysis.Tools().SetShapeCaption();
+  EXPECT_NE(stage.window.calibrationLength, "");
+  stage.analysis.Ruler().Calibrate(1, kFeet, kFeet);
+  EXPECT_EQ(stage.Shapes().NumShapes, 2);
+}
+
+}  // namespace
+}  // namespace kinalyx::test
