@@ -10,7 +10,8 @@ namespace kinalyx::bench {
 BareDecoder::BareDecoder(const std::string& path, int threads) {
   HearLibrary();
   AVFormatContext* context = nullptr;
-  if (avformat_open_input(&context, path.c_str(), nullptr, nullptr) < 0) throw std::runtime_error("cannot open " + path);
+  if (avformat_open_input(&context, path.c_str(), nullptr, nullptr) < 0)
+    throw std::runtime_error("cannot open " + path);
   input_.reset(context);
   const AVCodec* decoder = nullptr;
   if (avformat_find_stream_info(context, nullptr) < 0) throw std::runtime_error("no stream info");

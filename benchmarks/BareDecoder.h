@@ -8,8 +8,8 @@
 
 namespace kinalyx::bench {
 
-/// The bare library at the same work, for comparison: one thread unless more are asked for, pictures in the order of the file,
-/// each turned into 24-bit rows in one pass. Throws when the file is not what it should be.
+/// The bare library at the same work, for comparison: one thread unless more are asked for, pictures in the order of
+/// the file, each turned into 24-bit rows in one pass. Throws when the file is not what it should be.
 class BareDecoder {
  public:
   explicit BareDecoder(const std::string& path, int threads = 1);

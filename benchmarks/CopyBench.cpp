@@ -55,30 +55,33 @@ double MeasureFresh(const std::string& target, const std::function<void()>& work
 }
 
 const Register kCopyLibrary({"copy_library", {Target::Of::Ratio, 1.3, 1.0}, [] {
-  const std::string from = ScratchFolder() + "/library";
-  const std::string ours = ScratchFolder() + "/ours";
-  const std::string theirs = ScratchFolder() + "/theirs";
-  const std::vector<VideoTransfer> videos = MakeLibrary(from, ours);
-  const std::string command = "cp -r --preserve=timestamps '" + from + "' '" + theirs + "'";
-  std::vector<double> our;
-  std::vector<double> their;
-  for (int round = 0; round < kRounds; ++round) {
-    their.push_back(MeasureFresh(theirs, [&] {
-      if (std::system(command.c_str()) != 0) throw std::runtime_error("cp failed");
-    }));
-    fs::remove_all(theirs);
-    our.push_back(MeasureFresh(ours, [&] {
-      VideoTransferJob job(CopyJob::Kind::Copy, VideoTransferJob::OnClash::AddD, videos);
-      while (job.Step()) {
-      }
-      if (job.VideosDone() != kVideos || job.FilesDone() != 2 * kVideos) throw std::runtime_error(job.Error());
-    }));
-    fs::remove_all(ours);
-  }
-  fs::remove_all(from);
-  // A disk that is still busy with earlier rounds holds up some copies for seconds: the best of each counts.
-  return Figure{*std::ranges::min_element(our), "ms", *std::ranges::min_element(their)};
-}});
+                               const std::string from = ScratchFolder() + "/library";
+                               const std::string ours = ScratchFolder() + "/ours";
+                               const std::string theirs = ScratchFolder() + "/theirs";
+                               const std::vector<VideoTransfer> videos = MakeLibrary(from, ours);
+                               const std::string command =
+                                   "cp -r --preserve=timestamps '" + from + "' '" + theirs + "'";
+                               std::vector<double> our;
+                               std::vector<double> their;
+                               for (int round = 0; round < kRounds; ++round) {
+                                 their.push_back(MeasureFresh(theirs, [&] {
+                                   if (std::system(command.c_str()) != 0) throw std::runtime_error("cp failed");
+                                 }));
+                                 fs::remove_all(theirs);
+                                 our.push_back(MeasureFresh(ours, [&] {
+                                   VideoTransferJob job(CopyJob::Kind::Copy, VideoTransferJob::OnClash::AddD, videos);
+                                   while (job.Step()) {
+                                   }
+                                   if (job.VideosDone() != kVideos || job.FilesDone() != 2 * kVideos)
+                                     throw std::runtime_error(job.Error());
+                                 }));
+                                 fs::remove_all(ours);
+                               }
+                               fs::remove_all(from);
+                               // A disk that is still busy with earlier rounds holds up some copies for seconds: the
+                               // best of each counts.
+                               return Figure{*std::ranges::min_element(our), "ms", *std::ranges::min_element(their)};
+                             }});
 
 }  // namespace
 }  // namespace kinalyx::bench

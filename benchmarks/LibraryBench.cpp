@@ -43,41 +43,41 @@ std::size_t ReadNames(const fs::path& folder) {
   return letters;
 }
 
-const Register kListLibrary({"list_library", {Target::Of::Ratio, 10, 3}, [] {
-  const fs::path root = fs::path(ScratchFolder()) / "library";
-  MakeLibrary(root);
-  test::TestHost host;
-  Settings settings(host, (fs::path(ScratchFolder()) / "data").string(), "");
-  settings.LoadSettings();
-  settings.LibraryPath = root.string();
-  LastStudentInfo remembered;
-  LibraryBrowser browser(host.Drives(), settings, remembered, LibraryBrowser::Kind::Profiles);
-  LibraryLists lists(browser, settings, nullptr);
-  const std::unique_ptr<QObject> owned[] = {std::unique_ptr<QObject>(lists.InstructorList()),
-                                            std::unique_ptr<QObject>(lists.StudentList()),
-                                            std::unique_ptr<QObject>(lists.VideoList())};
-  browser.CapfolderSetup();
-  lists.ShowAll();
+const Register kListLibrary(
+    {"list_library", {Target::Of::Ratio, 10, 3}, [] {
+       const fs::path root = fs::path(ScratchFolder()) / "library";
+       MakeLibrary(root);
+       test::TestHost host;
+       Settings settings(host, (fs::path(ScratchFolder()) / "data").string(), "");
+       settings.LoadSettings();
+       settings.LibraryPath = root.string();
+       LastStudentInfo remembered;
+       LibraryBrowser browser(host.Drives(), settings, remembered, LibraryBrowser::Kind::Profiles);
+       LibraryLists lists(browser, settings, nullptr);
+       const std::unique_ptr<QObject> owned[] = {std::unique_ptr<QObject>(lists.InstructorList()),
+                                                 std::unique_ptr<QObject>(lists.StudentList()),
+                                                 std::unique_ptr<QObject>(lists.VideoList())};
+       browser.CapfolderSetup();
+       lists.ShowAll();
 
-  std::vector<double> ours;
-  std::vector<double> bare;
-  for (int round = 0; round < 15; ++round) {
-    std::size_t letters = 0;
-    bare.push_back(MeasureMs([&] {
-      letters = ReadNames(root / "Instructor") + ReadNames(root / "Instructor" / "Student, Number 0");
-    }));
-    Keep(&letters);
-    lists.InstructorList()->setCurrentRow(0);
-    ours.push_back(MeasureMs([&] {
-      lists.InstructorList()->setCurrentRow(1);
-      lists.StudentList()->setCurrentRow(0);
-    }));
-    if (lists.StudentList()->count() != kStudents || lists.VideoList()->count() != kVideos)
-      throw std::runtime_error("the lists are not full");
-    remembered = {};
-  }
-  return Figure{Median(ours), "ms", Median(bare)};
-}});
+       std::vector<double> ours;
+       std::vector<double> bare;
+       for (int round = 0; round < 15; ++round) {
+         std::size_t letters = 0;
+         bare.push_back(MeasureMs(
+             [&] { letters = ReadNames(root / "Instructor") + ReadNames(root / "Instructor" / "Student, Number 0"); }));
+         Keep(&letters);
+         lists.InstructorList()->setCurrentRow(0);
+         ours.push_back(MeasureMs([&] {
+           lists.InstructorList()->setCurrentRow(1);
+           lists.StudentList()->setCurrentRow(0);
+         }));
+         if (lists.StudentList()->count() != kStudents || lists.VideoList()->count() != kVideos)
+           throw std::runtime_error("the lists are not full");
+         remembered = {};
+       }
+       return Figure{Median(ours), "ms", Median(bare)};
+     }});
 
 }  // namespace
 }  // namespace kinalyx::bench

@@ -32,7 +32,8 @@ class Texture {
     pixels_.resize(static_cast<std::size_t>(width_) * rows);
     for (int y = 0; y < rows; ++y) {
       for (int x = 0; x < width_; ++x) {
-        const double value = 128 + 45 * std::sin(x / wave) * std::sin(y / (wave * 1.4)) + 30 * std::sin((x + 2 * y) / (wave * 0.4));
+        const double value =
+            128 + 45 * std::sin(x / wave) * std::sin(y / (wave * 1.4)) + 30 * std::sin((x + 2 * y) / (wave * 0.4));
         pixels_[static_cast<std::size_t>(y) * width_ + x] = static_cast<std::uint8_t>(std::clamp(value, 24.0, 227.0));
       }
     }
@@ -123,10 +124,12 @@ void Encode(const PhoneClip& clip, const std::string& path) {
     frame->pts = n;
     Check(av_frame_get_buffer(frame.get(), 0), "memory");
     for (int y = 0; y < clip.height; ++y)
-      grain.Add(n, y, light.Row(n, y, 1), frame->data[0] + static_cast<std::ptrdiff_t>(y) * frame->linesize[0], clip.width);
+      grain.Add(n, y, light.Row(n, y, 1), frame->data[0] + static_cast<std::ptrdiff_t>(y) * frame->linesize[0],
+                clip.width);
     for (int p = 1; p <= 2; ++p) {
       for (int y = 0; y < clip.height / 2; ++y)
-        std::memcpy(frame->data[p] + static_cast<std::ptrdiff_t>(y) * frame->linesize[p], colour.Row(n + 40 * p, y, 2), clip.width / 2);
+        std::memcpy(frame->data[p] + static_cast<std::ptrdiff_t>(y) * frame->linesize[p], colour.Row(n + 40 * p, y, 2),
+                    clip.width / 2);
     }
     drain(frame.get());
   }
@@ -140,7 +143,8 @@ std::string MakePhoneClip(const PhoneClip& clip) {
   namespace fs = std::filesystem;
   const fs::path folder = fs::read_symlink("/proc/self/exe").parent_path().parent_path() / "clips";
   fs::create_directories(folder);
-  const fs::path path = folder / fmt::format("{}-{}x{}-{}-{}s.mp4", clip.encoder, clip.width, clip.height, clip.rate, clip.seconds);
+  const fs::path path =
+      folder / fmt::format("{}-{}x{}-{}-{}s.mp4", clip.encoder, clip.width, clip.height, clip.rate, clip.seconds);
   if (fs::exists(path)) return path;
   const fs::path part = path.string() + ".part";
   Encode(clip, part);

@@ -106,7 +106,8 @@ void CheckRight(Window& window, int frames) {
     const auto standIn = InWindow(now.rows);
     const double right = Decibels(standIn, InWindow(window->Frame(n, 32)));
     const double wrong = Decibels(standIn, InWindow(window->Frame(n + 1, 32)));
-    if (right < kRightDb || wrong > right - 6) throw std::runtime_error("a stand-in is not right: " + std::to_string(right) + " dB");
+    if (right < kRightDb || wrong > right - 6)
+      throw std::runtime_error("a stand-in is not right: " + std::to_string(right) + " dB");
   }
 }
 
@@ -156,7 +157,9 @@ Figure ScrubCold() {
 double WorkedSeconds() {
   rusage usage{};
   getrusage(RUSAGE_SELF, &usage);
-  const auto seconds = [](const timeval& time) { return static_cast<double>(time.tv_sec) + 1e-6 * static_cast<double>(time.tv_usec); };
+  const auto seconds = [](const timeval& time) {
+    return static_cast<double>(time.tv_sec) + 1e-6 * static_cast<double>(time.tv_usec);
+  };
   return seconds(usage.ru_utime) + seconds(usage.ru_stime);
 }
 
@@ -168,7 +171,8 @@ Figure BackgroundPass() {
   const double start = WorkedSeconds();
   {
     BareDecoder bare(path, std::clamp(static_cast<int>(std::thread::hardware_concurrency()), 1, 4));
-    while (bare.Next()) {}
+    while (bare.Next()) {
+    }
   }
   const double decoded = WorkedSeconds();
   {

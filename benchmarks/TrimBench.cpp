@@ -55,23 +55,24 @@ void BareCut(const std::string& from, const std::string& to) {
   if (written != kLast - kFirst + 1) throw std::runtime_error("the library cut another stretch");
 }
 
-const Register kTrimCopy({"trim_copy", {Target::Of::Ratio, 1.3, 1.0}, [] {
-  // About 120 KB a frame, as from a camera's tape.
-  const std::string source = test::MakeTestVideo(test::DvVideo(kFrames));
-  const std::string target = ScratchFolder() + "/cut.avi";
-  std::vector<double> our;
-  std::vector<double> their;
-  for (int round = 0; round < kRounds; ++round) {
-    their.push_back(MeasureMs([&] { BareCut(source, target); }));
-    std::remove(target.c_str());
-    our.push_back(MeasureMs([&] {
-      const auto cut = TrimVideo({source, target, kFirst, kLast, 30, TrimRequest::Mode::Copy});
-      if (!cut || !cut->copied || cut->frames != kLast - kFirst + 1) throw std::runtime_error(cut.Why());
-    }));
-    std::remove(target.c_str());
-  }
-  return Figure{Median(our), "ms", Median(their)};
-}});
+const Register kTrimCopy(
+    {"trim_copy", {Target::Of::Ratio, 1.3, 1.0}, [] {
+       // About 120 KB a frame, as from a camera's tape.
+       const std::string source = test::MakeTestVideo(test::DvVideo(kFrames));
+       const std::string target = ScratchFolder() + "/cut.avi";
+       std::vector<double> our;
+       std::vector<double> their;
+       for (int round = 0; round < kRounds; ++round) {
+         their.push_back(MeasureMs([&] { BareCut(source, target); }));
+         std::remove(target.c_str());
+         our.push_back(MeasureMs([&] {
+           const auto cut = TrimVideo({source, target, kFirst, kLast, 30, TrimRequest::Mode::Copy});
+           if (!cut || !cut->copied || cut->frames != kLast - kFirst + 1) throw std::runtime_error(cut.Why());
+         }));
+         std::remove(target.c_str());
+       }
+       return Figure{Median(our), "ms", Median(their)};
+     }});
 
 }  // namespace
 }  // namespace kinalyx::bench

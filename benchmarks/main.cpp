@@ -43,7 +43,7 @@ void Print(const Row& row, int nameWidth) {
              optional(row.failure.empty(), row.figure.value), row.figure.unit,
              optional(row.HasBaseline(), row.figure.baseline), optional(row.HasBaseline(), row.Ratio()), sign,
              row.target.limit, row.target.goal,
-             !row.failure.empty() ? "FAILED: " + row.failure
+             !row.failure.empty()           ? "FAILED: " + row.failure
              : !row.Meets(row.target.limit) ? "MISSED"
              : row.Meets(row.target.goal)   ? "goal"
                                             : "ok");

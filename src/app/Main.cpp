@@ -23,8 +23,8 @@ struct Section {
 };
 
 constexpr Section kSections[] = {
-    {1, "Student Profiles", "students"}, {2, "Capture Videos", "camera"},          {3, "Analyze Videos", "analyze"},
-    {4, "Send Lesson", "send"},          {5, "Import/Export", "import-export"},    {6, "Program Setup", "setup"},
+    {1, "Student Profiles", "students"}, {2, "Capture Videos", "camera"},       {3, "Analyze Videos", "analyze"},
+    {4, "Send Lesson", "send"},          {5, "Import/Export", "import-export"}, {6, "Program Setup", "setup"},
     {7, "Help and Demos", "help"},       {8, "To Main Menu", "home"},
 };
 
@@ -171,7 +171,8 @@ void Main::SetSectionComing(int index) {
 bool Main::eventFilter(QObject* object, QEvent* event) {
   if (object == logo_ && event->type() == QEvent::MouseButtonRelease) {
     const auto* mouse = static_cast<QMouseEvent*>(event);
-    if (mouse->button() == Qt::LeftButton && logo_->rect().contains(mouse->position().toPoint())) emit PageWanted(kMenuPage);
+    if (mouse->button() == Qt::LeftButton && logo_->rect().contains(mouse->position().toPoint()))
+      emit PageWanted(kMenuPage);
   }
   return QWidget::eventFilter(object, event);
 }

@@ -93,7 +93,7 @@ class Main : public QWidget {
   QStackedWidget* stack_ = nullptr;
   std::array<TileButton*, 9> sections_{};
   std::array<PageWidget*, kPageCount> pages_{};
-  int current_ = -1;   ///< the page that is shown; after DropPage or at first none
+  int current_ = -1;     ///< the page that is shown; after DropPage or at first none
   bool asking_ = false;  ///< whether it may close
   bool closed_ = false;
 };

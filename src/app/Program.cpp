@@ -304,8 +304,8 @@ bool Program::MainMayClose() {
   }
   KeepLastStudent();
   const QRect place = main_->frameGeometry();
-  settings_.StoreWindowPlace(place.top() * kTwipsPerPixel, place.left() * kTwipsPerPixel, place.width() * kTwipsPerPixel,
-                             place.height() * kTwipsPerPixel);
+  settings_.StoreWindowPlace(place.top() * kTwipsPerPixel, place.left() * kTwipsPerPixel,
+                             place.width() * kTwipsPerPixel, place.height() * kTwipsPerPixel);
   return true;
 }
 

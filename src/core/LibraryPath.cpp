@@ -64,8 +64,6 @@ std::string TakeLibraryFolder(Settings& settings, std::string folder) {
   return {};
 }
 
-void SwitchNetworkOff(Settings& settings) {
-  Take(settings, false, LocalLibraryPath(settings));
-}
+void SwitchNetworkOff(Settings& settings) { Take(settings, false, LocalLibraryPath(settings)); }
 
 }  // namespace kinalyx

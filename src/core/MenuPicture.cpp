@@ -9,8 +9,7 @@ namespace kinalyx {
 
 namespace {
 
-constexpr const char* kPictureFilter =
-    "All Picture Files (*.bmp;*.jpg;*.gif;*.ico)|*.bmp; *.jpg; *.gif; *.ico";
+constexpr const char* kPictureFilter = "All Picture Files (*.bmp;*.jpg;*.gif;*.ico)|*.bmp; *.jpg; *.gif; *.ico";
 constexpr std::int32_t kPlaces = 10;
 constexpr std::int32_t kPlacesInRow = 3;
 
@@ -20,9 +19,10 @@ bool Choose(IHost& host, Settings& settings, const char* title, const char* fold
   if (!picture) return false;
   const auto shown = host.Drives().Ask(FolderOf(*picture), [isPicture, file = *picture] { return isPicture(file); });
   if (!shown.value_or(false)) {
-    host.Message(MessageKind::Warning, title,
-                 shown ? fmt::format("There is no picture in the file {} that can be shown. The old picture stays.", *picture)
-                       : fmt::format("The drive with the file {} is not answering. The old picture stays.", *picture));
+    host.Message(
+        MessageKind::Warning, title,
+        shown ? fmt::format("There is no picture in the file {} that can be shown. The old picture stays.", *picture)
+              : fmt::format("The drive with the file {} is not answering. The old picture stays.", *picture));
     return false;
   }
   if (!Settings::Holds(*picture)) {

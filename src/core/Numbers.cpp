@@ -37,7 +37,8 @@ Scan ScanNumber(std::string_view text) {
   if (plus && text.substr(1).starts_with('-')) return {};
   // from_chars also takes the words inf and nan, which are no numbers here.
   const std::size_t digits = text.find_first_not_of("+-");
-  if (digits == std::string_view::npos || (text[digits] != '.' && (text[digits] < '0' || text[digits] > '9'))) return {};
+  if (digits == std::string_view::npos || (text[digits] != '.' && (text[digits] < '0' || text[digits] > '9')))
+    return {};
   double value = 0;
   const auto [stop, error] = std::from_chars(begin + (plus ? 1 : 0), end, value);
   if (error == std::errc::result_out_of_range) {

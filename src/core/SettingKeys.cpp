@@ -76,7 +76,7 @@ std::vector<Settings::Key> Settings::ConfigKeys() {
   add("CadOutline", "True", &CadOutline);
   add("RandomColor", "0", &RandomColor);
   // Freehand, plus, square, line, circle, angle, path, parallelogram, zone, clock, arrow, grid, no button.
-  const char* const kColours[] = {"&HC0C000", "&HFFFF&",   "&H8000&", "&HFF0000", "&HFF&",        "&HFF00&", "&HFFFF&",
+  const char* const kColours[] = {"&HC0C000", "&HFFFF&",  "&H8000&", "&HFF0000", "&HFF&",       "&HFF00&", "&HFFFF&",
                                   "&HFF&",    "&HFF0000", "&HFFFF&", "&HFF&",    "&H00800000&", "&HFFFF&"};
   for (std::size_t i = 0; i < NewColors.size(); ++i) add(fmt::format("NewColor{}", i), kColours[i], &NewColors[i]);
   add("StrobeStep", "1", &StrobeStep);

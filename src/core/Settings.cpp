@@ -54,7 +54,8 @@ bool Settings::LoadSettings() {
   const bool created = !FileExists(file);
   if (created && !MakeFile(keys, file)) return false;
   ReadKeys(keys, file);
-  LogEnabled = ReadBoolean(ProfileReader(file).String("Analysis", "LogEnabled", "False", kValueCapacity)).value_or(false);
+  LogEnabled =
+      ReadBoolean(ProfileReader(file).String("Analysis", "LogEnabled", "False", kValueCapacity)).value_or(false);
   ScreenMode = TextOf(ReadInt16(ScreenMode));
   if (created) MigrateOldConfig();
   return true;
@@ -108,20 +109,22 @@ bool Settings::WriteTo(const std::string& file, const std::string& section, cons
   host_.Note(MessageKind::Warning, "a setting could not be saved");
   if (std::exchange(toldUnwritable_, true)) return false;
   // Told when the click that changed the setting is over, so that no slider is left dragging.
-  host_.StartTimer(0, false, [&host = host_, text = fmt::format("The settings cannot be saved in {}, so changes last "
-                                                                "until the program closes.", DataPath)] {
-    host.Message(MessageKind::Warning, "", text);
-  });
+  host_.StartTimer(0, false,
+                   [&host = host_, text = fmt::format("The settings cannot be saved in {}, so changes last "
+                                                      "until the program closes.",
+                                                      DataPath)] { host.Message(MessageKind::Warning, "", text); });
   return false;
 }
 
 bool Settings::Holds(std::string_view text) {
   // Characters, of which the bytes that go on with one are none.
-  return std::ranges::count_if(text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }) < kValueCapacity;
+  return std::ranges::count_if(text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }) <
+         kValueCapacity;
 }
 
 std::string Settings::TooLongText(const std::string& path) {
-  return "The path " + path + " is longer than the 149 characters that the settings can hold. Choose a place with a shorter path.";
+  return "The path " + path +
+         " is longer than the 149 characters that the settings can hold. Choose a place with a shorter path.";
 }
 
 bool Settings::SetNewColor(int index, std::int32_t colour) {
@@ -162,7 +165,8 @@ bool Settings::MakeFile(const std::vector<Key>& keys, const std::string& path) {
     toldUnwritable_ = true;
     host_.Message(MessageKind::Warning, "",
                   fmt::format("The settings cannot be saved in {}. The program works with its first settings, and "
-                              "changes last until it closes.", DataPath));
+                              "changes last until it closes.",
+                              DataPath));
   }
   return false;
 }
@@ -170,10 +174,22 @@ bool Settings::MakeFile(const std::vector<Key>& keys, const std::string& path) {
 bool Settings::Take(const Key& key, const std::string& text) {
   struct {
     const std::string& text;
-    bool operator()(std::string* held) const { *held = text; return true; }
-    bool operator()(std::int16_t* held) const { *held = ReadInt16(text); return true; }
-    bool operator()(std::int32_t* held) const { *held = ReadInt32(text); return true; }
-    bool operator()(float* held) const { *held = static_cast<float>(ReadNumber(text)); return true; }
+    bool operator()(std::string* held) const {
+      *held = text;
+      return true;
+    }
+    bool operator()(std::int16_t* held) const {
+      *held = ReadInt16(text);
+      return true;
+    }
+    bool operator()(std::int32_t* held) const {
+      *held = ReadInt32(text);
+      return true;
+    }
+    bool operator()(float* held) const {
+      *held = static_cast<float>(ReadNumber(text));
+      return true;
+    }
     bool operator()(bool* held) const {
       const auto value = ReadBoolean(text);
       *held = value.value_or(*held);
@@ -217,8 +233,9 @@ void Settings::TellBadBooleans(const std::vector<const Key*>& bad, const std::st
                                  count == 1 ? "1 setting" : fmt::format("{} settings", count), path, names,
                                  count == 1 ? "its first value holds" : "their first values hold");
   if (missing > 0)
-    text += missing == 1 ? ", and 1 other is missing and has no usable value until it is set again"
-                         : fmt::format(", and {} others are missing and have no usable value until they are set again", missing);
+    text += missing == 1
+                ? ", and 1 other is missing and has no usable value until it is set again"
+                : fmt::format(", and {} others are missing and have no usable value until they are set again", missing);
   host_.Message(MessageKind::Warning, "", text + ".");
 }
 

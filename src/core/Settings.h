@@ -45,21 +45,21 @@ class Settings {
   bool Loading = false;
 
   // --- [General]
-  std::string WindowMode;   ///< "1" full screen, "2" large, "3" medium, "4" small window
-  std::string ScreenMode;   ///< number of the analysis layout opened by default
-  std::string UserName;     ///< the instructor
+  std::string WindowMode;  ///< "1" full screen, "2" large, "3" medium, "4" small window
+  std::string ScreenMode;  ///< number of the analysis layout opened by default
+  std::string UserName;    ///< the instructor
   std::string CompanyName;
-  bool UseNetwork = false;  ///< the library lies in a folder of the user's choice
-  std::string LibraryPath;  ///< root of the video library
-  bool Logo = false;        ///< print the logo
-  std::string LogoName;     ///< its picture file
-  std::string BackgroundPic;          ///< picture of the main menu page
-  std::int32_t CaptionPosition = 0;   ///< 1 to 10, where the heading lines stand on it
-  std::array<std::string, 6> Heading; ///< lines 1 to 5; element 0 is not used
+  bool UseNetwork = false;             ///< the library lies in a folder of the user's choice
+  std::string LibraryPath;             ///< root of the video library
+  bool Logo = false;                   ///< print the logo
+  std::string LogoName;                ///< its picture file
+  std::string BackgroundPic;           ///< picture of the main menu page
+  std::int32_t CaptionPosition = 0;    ///< 1 to 10, where the heading lines stand on it
+  std::array<std::string, 6> Heading;  ///< lines 1 to 5; element 0 is not used
   std::string Exporter;
   std::string CDBurner;
   std::string UpdateCheck;
-  std::int32_t RestartOption = 0;     ///< page to reopen after a self-restart; 1 the setup page
+  std::int32_t RestartOption = 0;  ///< page to reopen after a self-restart; 1 the setup page
 
   // --- [VidCap]
   bool ImportCaptureMode = false;
@@ -91,46 +91,46 @@ class Settings {
   bool AnalogResize = false;
   bool HDResize = false;
   bool AutoResize = false;
-  std::int32_t RealFR = 0;      ///< pictures per second
+  std::int32_t RealFR = 0;  ///< pictures per second
   std::int32_t HDRealFR = 0;
   std::int32_t AutoRealFR = 0;
 
   // --- [Analysis]
   std::int16_t GridSize = 0;
-  std::int16_t SlomoSpeed = 0;     ///< percent, 1 to 100
-  std::int32_t CadWidth = 0;       ///< line width of drawings in pixels
+  std::int16_t SlomoSpeed = 0;  ///< percent, 1 to 100
+  std::int32_t CadWidth = 0;    ///< line width of drawings in pixels
   bool CadOutline = false;
-  std::int32_t RandomColor = 0;    ///< 0 single colours, 1 randomized
+  std::int32_t RandomColor = 0;              ///< 0 single colours, 1 randomized
   std::array<std::int32_t, 13> NewColors{};  ///< keys NewColor0 to NewColor12: colour of each tool
   std::int32_t StrobeStep = 0;
   std::int32_t OpenDlgChoice = 0;  ///< open panel: 0 right, 1 left, 2 middle
   std::int32_t ShortGame = 0;      ///< short-game naming: 1 on, anything else off
 
   // --- [Ruler]
-  std::int32_t CalibNumber = 0;    ///< measured pixels
-  float CalibNumberOut = 0;        ///< pixels per inch in a picture of the height CalibHeight
-  std::int32_t CalibWidth = 0;     ///< pixels of the picture's width when it was calibrated; 0 unknown
-  std::int32_t CalibHeight = 0;    ///< and of its height; 0 in settings that know only the width, or neither
+  std::int32_t CalibNumber = 0;  ///< measured pixels
+  float CalibNumberOut = 0;      ///< pixels per inch in a picture of the height CalibHeight
+  std::int32_t CalibWidth = 0;   ///< pixels of the picture's width when it was calibrated; 0 unknown
+  std::int32_t CalibHeight = 0;  ///< and of its height; 0 in settings that know only the width, or neither
   std::int32_t CalibInput = 0;
   std::int32_t CalibOutput = 0;
-  std::string NTSCorPAL;           ///< "0" NTSC, 60 fields a second; "1" PAL, 50
+  std::string NTSCorPAL;  ///< "0" NTSC, 60 fields a second; "1" PAL, 50
 
   // --- [Layout]
-  std::string Design;                       ///< colour scheme, "0" to "7"
-  std::array<std::string, 3> PrimaryName;   ///< "Student", "student", "students"
-  std::array<std::int32_t, 4> WindowInfo{}; ///< top, left, width, height of the main form in twips
+  std::string Design;                        ///< colour scheme, "0" to "7"
+  std::array<std::string, 3> PrimaryName;    ///< "Student", "student", "students"
+  std::array<std::int32_t, 4> WindowInfo{};  ///< top, left, width, height of the main form in twips
 
-  std::string LastInstructor;               ///< where the library was left; names of folders
-  std::string LastStudent;                  ///< that have gone are ignored
+  std::string LastInstructor;  ///< where the library was left; names of folders
+  std::string LastStudent;     ///< that have gone are ignored
 
   // --- capture.ini, [General]
-  std::array<std::string, 2> Camera;        ///< keys Camera1 and Camera2
+  std::array<std::string, 2> Camera;  ///< keys Camera1 and Camera2
   std::array<std::string, 2> CameraSize;
   std::array<std::string, 2> CameraInput;
   std::array<std::string, 2> CameraFormat;
   std::string SoundCardSource;
   std::string SoundCardInput;
-  std::array<std::string, 2> CurrentCamera; ///< the pair that the capture code compares with
+  std::array<std::string, 2> CurrentCamera;  ///< the pair that the capture code compares with
 
   /// Number of the analysis layout that `ScreenMode` names.
   std::int16_t ScreenModeNumber() const;

@@ -9,7 +9,7 @@
 
 namespace kinalyx {
 
-constexpr std::int32_t kGaugeRed = 192;      ///< red + 256 * green + 65536 * blue
+constexpr std::int32_t kGaugeRed = 192;  ///< red + 256 * green + 65536 * blue
 constexpr std::int32_t kGaugeGreen = 32768;
 
 /// One row of the system test: what was measured, and a filled bar.
@@ -17,7 +17,7 @@ struct SystemTestRow {
   std::string title;  ///< "Video Colors" and so on
   std::string text;   ///< of `Label1`
   std::int32_t colour = kGaugeRed;
-  int percent = 0;    ///< of `FloodPanel`; 0 when the machine does not tell
+  int percent = 0;  ///< of `FloodPanel`; 0 when the machine does not tell
 };
 
 /// What the machine was found to have.

@@ -15,7 +15,7 @@ class Vocabulary {
   const std::string& Noun() const { return settings_.PrimaryName[0]; }   ///< "Student"
   const std::string& noun() const { return settings_.PrimaryName[1]; }   ///< "student"
   const std::string& nouns() const { return settings_.PrimaryName[2]; }  ///< "students"
-  std::string Nouns() const;                                            ///< "Students", heading of lists
+  std::string Nouns() const;                                             ///< "Students", heading of lists
 
   std::string Profiles() const;             ///< "Student Profiles"
   std::string Profile() const;              ///< "Student Profile"

@@ -9,7 +9,7 @@
 namespace kinalyx {
 namespace {
 
-constexpr int kGridEntry = 11;   // of the Draw menu and of the tool colours
+constexpr int kGridEntry = 11;  // of the Draw menu and of the tool colours
 constexpr int kLeftButton = 1;
 constexpr Colour kSelected = 65280;  // green
 constexpr Colour kOthers = 255;      // red, while one shape is selected
@@ -356,7 +356,8 @@ void DrawingTools::PreDrawFrame(Canvas& hDC, int Window) {
   const auto shapes = ShapesOf(list);
   ChooseColours(list);
   const GridLook grid{list.GridOn, settings_.GridSize, settings_.NewColors[kGridEntry]};
-  const ShapeLook look{settings_.CadWidth, settings_.CadOutline, engine_.PathHighlight, engine_.EllipseFromCentre, &engine_.Log};
+  const ShapeLook look{settings_.CadWidth, settings_.CadOutline, engine_.PathHighlight, engine_.EllipseFromCentre,
+                       &engine_.Log};
   const auto failed = painters_[static_cast<std::size_t>(Window - 1)].Paint(hDC, shapes, colours_, grid, look);
   TellFailure(Window, failed ? &shapes[*failed] : nullptr);
 

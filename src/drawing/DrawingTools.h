@@ -62,7 +62,7 @@ class DrawingTools final : public IShapeLocked {
   void TakeTool(int Index);
   /// The Draw menu: index 11 turns the grid on or off, the others are tools.
   void ChooseFromMenu(int Index);
-  void TakeStraightLine();  ///< a straight line
+  void TakeStraightLine();   ///< a straight line
   void TakeStraightArrow();  ///< a straight arrow
   void PutToolDown();
   void DeleteLast();

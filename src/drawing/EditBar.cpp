@@ -23,7 +23,8 @@ EditBar::~EditBar() { tools_.AttachEditBar(nullptr); }
 void EditBar::SetEditBar() {
   const ShapeList& list = List();
   const bool selected = SelectedShape(list) != nullptr;
-  for (const EditHandle handle : {kMoveHandle, kScaleHandle, kRotateHandle, kDeleteHandle}) view_.EnableHandle(handle, selected);
+  for (const EditHandle handle : {kMoveHandle, kScaleHandle, kRotateHandle, kDeleteHandle})
+    view_.EnableHandle(handle, selected);
   view_.EnableHandle(kNextHandle, list.NumShapes > 0);
   view_.EnableHandle(kEndHandle, true);
   MultiEdit_ = false;
@@ -80,7 +81,8 @@ void EditBar::EditAll(bool Value) {
   ShapeList& list = List();
   if (Value && !Selected() && list.NumShapes > 0) {
     list.CurShape = 0;
-    for (const EditHandle handle : {kMoveHandle, kScaleHandle, kRotateHandle, kDeleteHandle}) view_.EnableHandle(handle, true);
+    for (const EditHandle handle : {kMoveHandle, kScaleHandle, kRotateHandle, kDeleteHandle})
+      view_.EnableHandle(handle, true);
   }
   RefreshWindows();
 }

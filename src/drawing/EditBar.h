@@ -8,7 +8,14 @@
 namespace kinalyx {
 
 /// The handles of the edit bar, by their index.
-enum EditHandle { kNextHandle = 0, kMoveHandle = 1, kScaleHandle = 2, kRotateHandle = 3, kDeleteHandle = 4, kEndHandle = 6 };
+enum EditHandle {
+  kNextHandle = 0,
+  kMoveHandle = 1,
+  kScaleHandle = 2,
+  kRotateHandle = 3,
+  kDeleteHandle = 4,
+  kEndHandle = 6
+};
 
 /// What the edit bar asks of the strip that shows it.
 class IEditBarView {
@@ -73,8 +80,8 @@ class EditBar final : public IEditMarks {
   std::optional<EditHandle> dragged_;  // the handle under the mouse
   int dragWindow_ = 1;
   POINTAPI Pivot_;
-  float StartAngle_ = 0;   // radians
-  POINTAPI LastDown_;      // twips
+  float StartAngle_ = 0;  // radians
+  POINTAPI LastDown_;     // twips
 };
 
 }  // namespace kinalyx

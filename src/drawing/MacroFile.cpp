@@ -52,9 +52,10 @@ void MacroFile::Read(ScreenTwips screen) {
     notice_ = fmt::format("The macros in \"{}\" cannot be read.", path_);
   } else if (!Parse(*bytes)) {
     state_ = State::Uneven;
-    notice_ = fmt::format("The macros in \"{}\" could not all be read: the file is damaged, too long, or of another program. "
-                          "It will be kept under another name before anything is changed in it.",
-                          path_);
+    notice_ = fmt::format(
+        "The macros in \"{}\" could not all be read: the file is damaged, too long, or of another program. "
+        "It will be kept under another name before anything is changed in it.",
+        path_);
   }
 }
 
@@ -87,9 +88,11 @@ Outcome MacroFile::Change(const std::function<void(std::vector<NamedMacro>&)>& e
 Outcome MacroFile::Store(const std::vector<NamedMacro>& all) {
   const auto bytes = BytesOf(all);
   if (bytes.size() > kShapeFileLimit && all.size() > all_.size()) {
-    return {Fault::Refused,
-            fmt::format("The file of the macros would need {} bytes. Beyond {} it could not be read whole. Remove a macro first.",
-                        bytes.size(), kShapeFileLimit)};
+    return {
+        Fault::Refused,
+        fmt::format(
+            "The file of the macros would need {} bytes. Beyond {} it could not be read whole. Remove a macro first.",
+            bytes.size(), kShapeFileLimit)};
   }
   if (state_ == State::Unreadable) return {Fault::Unwritable, "It cannot be read."};
   if (state_ == State::Uneven) {

@@ -54,7 +54,8 @@ Outcome Macros::KillMacro(int Index) {
   if (shared && removed && !OneFile()) removed = own_.Remove(macro, true);
   Gather();
   if (removed.Kind() != Fault::Unwritable) return removed;
-  return {Fault::Unwritable, fmt::format("It lies in \"{}\": {}", shared ? shared_.Path() : own_.Path(), removed.Why())};
+  return {Fault::Unwritable,
+          fmt::format("It lies in \"{}\": {}", shared ? shared_.Path() : own_.Path(), removed.Why())};
 }
 
 int Macros::IndexOf(const std::string& Name) const {

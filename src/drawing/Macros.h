@@ -43,13 +43,17 @@ class Macros {
   std::string TakeNotice();
 
   int NumShapesInMacro(int Index) const { return Macro(Index).NumShapes; }
-  int GetMacroShapeType(int Index, int Shape) const { return ShapesOf(Macro(Index))[static_cast<std::size_t>(Shape)].Kind; }
+  int GetMacroShapeType(int Index, int Shape) const {
+    return ShapesOf(Macro(Index))[static_cast<std::size_t>(Shape)].Kind;
+  }
   /// How many shapes of each kind a macro has, a line for each.
   std::string Info(int Index) const;
 
  private:
   /// The user's data folder may be the program's.
-  bool OneFile() const { return SamePlace(FolderOf(shared_.Path()), FolderOf(own_.Path())) || SamePlace(shared_.Path(), own_.Path()); }
+  bool OneFile() const {
+    return SamePlace(FolderOf(shared_.Path()), FolderOf(own_.Path())) || SamePlace(shared_.Path(), own_.Path());
+  }
   void Gather();
 
   MacroFile shared_;

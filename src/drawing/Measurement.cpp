@@ -11,9 +11,9 @@
 namespace kinalyx {
 namespace {
 
-constexpr int kReference = 60;           // pixels from the corner to the point that stands for level or upright
+constexpr int kReference = 60;  // pixels from the corner to the point that stands for level or upright
 constexpr double kDegrees = 180 / 3.141592653;
-constexpr std::size_t kFigures = 5;      // characters of a length
+constexpr std::size_t kFigures = 5;  // characters of a length
 constexpr double kCmPerInch = 2.54;
 constexpr double kMetresPerInch = 0.0254;
 constexpr std::int64_t kInchesPerMile = 63360;
@@ -27,7 +27,9 @@ double SquaredDistance(POINTAPI a, POINTAPI b) {
   return dx * dx + dy * dy;
 }
 
-bool Calibrated(const Calibration& calibration) { return calibration.CalibNumber != 0 && calibration.CalibNumberOut > 0; }
+bool Calibrated(const Calibration& calibration) {
+  return calibration.CalibNumber != 0 && calibration.CalibNumberOut > 0;
+}
 
 std::string Figures(double value) { return NumberText(value).substr(0, kFigures); }
 

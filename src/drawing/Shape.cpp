@@ -10,11 +10,11 @@ namespace kinalyx {
 namespace {
 
 /// How many of `size` elements a count of a record may address.
-std::size_t Usable(int count, std::size_t size) {
-  return std::min(static_cast<std::size_t>(std::max(count, 0)), size);
-}
+std::size_t Usable(int count, std::size_t size) { return std::min(static_cast<std::size_t>(std::max(count, 0)), size); }
 
-std::size_t WindowIndex(int window) { return static_cast<std::size_t>(std::clamp(window, 1, ShapeLists::kWindows) - 1); }
+std::size_t WindowIndex(int window) {
+  return static_cast<std::size_t>(std::clamp(window, 1, ShapeLists::kWindows) - 1);
+}
 
 template <typename List>
 auto* Selected(List& list) {
@@ -47,7 +47,9 @@ int ClockRotation(const Shape& shape) {
   return shape.Kind == kClock && shape.Pts.size() > 2 ? static_cast<std::int16_t>(shape.Pts[2].x) : 0;
 }
 
-std::span<Shape> ShapesOf(ShapeList& list) { return std::span(list.Shapes).first(Usable(list.NumShapes, list.Shapes.size())); }
+std::span<Shape> ShapesOf(ShapeList& list) {
+  return std::span(list.Shapes).first(Usable(list.NumShapes, list.Shapes.size()));
+}
 
 std::span<const Shape> ShapesOf(const ShapeList& list) {
   return std::span(list.Shapes).first(Usable(list.NumShapes, list.Shapes.size()));
@@ -55,7 +57,8 @@ std::span<const Shape> ShapesOf(const ShapeList& list) {
 
 std::vector<Shape> DrawingsOf(const ShapeList& list) {
   std::vector<Shape> drawings;
-  std::ranges::copy_if(ShapesOf(list), std::back_inserter(drawings), [](const Shape& shape) { return !shape.Measuring; });
+  std::ranges::copy_if(ShapesOf(list), std::back_inserter(drawings),
+                       [](const Shape& shape) { return !shape.Measuring; });
   return drawings;
 }
 
@@ -78,7 +81,8 @@ void FlipShapes(ShapeList& list, int width) {
 void StretchShapes(ShapeList& list, double ScaleX, double ScaleY) {
   for (Shape& shape : ShapesOf(list)) {
     const std::size_t count = PointsOf(shape).size();
-    for (POINTAPI& point : std::span(shape.Pts).first(count)) point = {Round(point.x * ScaleX), Round(point.y * ScaleY)};
+    for (POINTAPI& point : std::span(shape.Pts).first(count))
+      point = {Round(point.x * ScaleX), Round(point.y * ScaleY)};
   }
 }
 

@@ -13,7 +13,18 @@ namespace kinalyx {
 
 /// The kinds of shape, in the order of the table and of the drawing files.
 enum ShapeKind : std::int16_t {
-  kFreehand, kFlag, kSquare, kLine, kEllipse, kAngle, kSwingPath, kParallelogram, kZone, kClock, kArrow, kStickMan
+  kFreehand,
+  kFlag,
+  kSquare,
+  kLine,
+  kEllipse,
+  kAngle,
+  kSwingPath,
+  kParallelogram,
+  kZone,
+  kClock,
+  kArrow,
+  kStickMan
 };
 
 /// One kind of shape.
@@ -69,8 +80,8 @@ struct Shape {
   }
   /// The same but for what has no meaning outside a running transform.
   friend bool IsSameDrawing(const Shape& a, const Shape& b) {
-    return a.NumBound == b.NumBound && a.NumPts == b.NumPts && a.Kind == b.Kind && a.Locked == b.Locked && a.Pts == b.Pts &&
-           a.Colour == b.Colour;
+    return a.NumBound == b.NumBound && a.NumPts == b.NumPts && a.Kind == b.Kind && a.Locked == b.Locked &&
+           a.Pts == b.Pts && a.Colour == b.Colour;
   }
 };
 
@@ -84,10 +95,10 @@ int ClockRotation(const Shape& shape);
 
 /// The shapes of one video window.
 struct ShapeList {
-  std::vector<Shape> Shapes;    ///< may hold one stale shape behind the last
-  std::int16_t NumShapes = 0;   ///< shapes that count
-  bool Adding = false;          ///< the last shape is under construction
-  std::int16_t CurShape = -1;   ///< the selected shape; below 0: none
+  std::vector<Shape> Shapes;   ///< may hold one stale shape behind the last
+  std::int16_t NumShapes = 0;  ///< shapes that count
+  bool Adding = false;         ///< the last shape is under construction
+  std::int16_t CurShape = -1;  ///< the selected shape; below 0: none
   bool GridOn = false;
   /// Size of the window when something was last drawn, in twips (15 to a pixel of the picture); 0: unknown.
   std::int32_t CanvasWidth = 0;

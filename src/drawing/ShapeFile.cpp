@@ -172,7 +172,8 @@ Shape ReadShapeBody(std::span<const std::uint8_t>& bytes) {
   shape.Pts = ReadPoints(reader);
   shape.SavedPts = ReadPoints(reader);
   shape.Colour = reader.Int32();
-  const auto most = static_cast<std::int16_t>(std::min<std::size_t>(shape.Pts.size(), std::numeric_limits<std::int16_t>::max()));
+  const auto most =
+      static_cast<std::int16_t>(std::min<std::size_t>(shape.Pts.size(), std::numeric_limits<std::int16_t>::max()));
   shape.NumPts = std::clamp<std::int16_t>(shape.NumPts, 0, most);
   shape.NumBound = std::clamp<std::int16_t>(shape.NumBound, 0, shape.NumPts);
   bytes = reader.Rest();

@@ -79,7 +79,9 @@ LongStretch SmoothLine(Shape& shape, int Step, double Tension, bool FindLongest)
     double x;
     double y;
   };
-  const auto at = [&](std::size_t i) { return RealXY{static_cast<double>(clicks[i].x), static_cast<double>(clicks[i].y)}; };
+  const auto at = [&](std::size_t i) {
+    return RealXY{static_cast<double>(clicks[i].x), static_cast<double>(clicks[i].y)};
+  };
   // The curve runs on beyond each end as far as it came in.
   const auto beyond = [&](std::size_t end, std::size_t inner) {
     return RealXY{2.0 * clicks[end].x - clicks[inner].x, 2.0 * clicks[end].y - clicks[inner].y};

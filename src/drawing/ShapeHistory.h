@@ -11,7 +11,7 @@ namespace kinalyx {
 
 /// How a window shows its drawings.
 struct DrawingView {
-  int width = 0;   ///< of the picture, pixels; 0: not known
+  int width = 0;  ///< of the picture, pixels; 0: not known
   int height = 0;
   bool mirrored = false;
 

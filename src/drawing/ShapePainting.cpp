@@ -10,14 +10,14 @@
 namespace kinalyx {
 namespace {
 
-constexpr int kMarkerRadius = 2;      // of the newest point of an unfinished shape
-constexpr double kBarbLength = 30;    // of an arrow
-constexpr double kNotchPart = 0.6;    // how far back from the tip the barbs meet, of their length
-constexpr double kHeadRadius = 30;    // of a stick man
+constexpr int kMarkerRadius = 2;    // of the newest point of an unfinished shape
+constexpr double kBarbLength = 30;  // of an arrow
+constexpr double kNotchPart = 0.6;  // how far back from the tip the barbs meet, of their length
+constexpr double kHeadRadius = 30;  // of a stick man
 constexpr int kPathStep = 20;
 constexpr double kPathTension = 0.2;
-constexpr Colour kHighlightEnds = 255;            // red
-constexpr Colour kHighlightMiddle = 0xFFFFFF;     // white
+constexpr Colour kHighlightEnds = 255;         // red
+constexpr Colour kHighlightMiddle = 0xFFFFFF;  // white
 
 POINTAPI Rounded(double x, double y) { return {Round(x), Round(y)}; }
 
@@ -75,7 +75,8 @@ bool DrawParallelogram(Canvas& hDC, std::span<const POINTAPI> points) {
   const POINTAPI& p = points[0];
   const POINTAPI& q = points[1];
   const POINTAPI& r = points[2];
-  const POINTAPI corners[] = {p, q, r, Rounded(static_cast<double>(r.x) - q.x + p.x, static_cast<double>(r.y) - q.y + p.y)};
+  const POINTAPI corners[] = {p, q, r,
+                              Rounded(static_cast<double>(r.x) - q.x + p.x, static_cast<double>(r.y) - q.y + p.y)};
   return hDC.Polygon(corners);
 }
 
@@ -131,7 +132,8 @@ bool DrawStickMan(Canvas& hDC, std::span<const POINTAPI> points, const ShapeLook
   bool drawn = DrawEllipse(hDC, x - kHeadRadius, y - kHeadRadius, x + kHeadRadius, y + kHeadRadius);
   if (points.size() < 2) return drawn;
   const double neck = PointAngle(points[0], points[1]);
-  drawn = APILine(hDC, Rounded(x + std::cos(neck) * kHeadRadius, y + std::sin(neck) * kHeadRadius), points[1], look) && drawn;
+  drawn = APILine(hDC, Rounded(x + std::cos(neck) * kHeadRadius, y + std::sin(neck) * kHeadRadius), points[1], look) &&
+          drawn;
   static constexpr std::array<std::array<std::size_t, 2>, 11> kLimbs{
       {{1, 2}, {2, 3}, {3, 4}, {1, 5}, {5, 6}, {6, 7}, {1, 8}, {8, 9}, {9, 10}, {8, 11}, {11, 12}}};
   for (const auto& [from, to] : kLimbs)

@@ -8,9 +8,9 @@ namespace kinalyx {
 
 /// How the shapes of the program look.
 struct ShapeLook {
-  int CadWidth = 5;            ///< pixels; the width of the highlight of a path
-  bool CadOutline = true;      ///< a black rim under every line
-  bool PathHighlight = false;  ///< finished paths show their fastest stretch
+  int CadWidth = 5;                ///< pixels; the width of the highlight of a path
+  bool CadOutline = true;          ///< a black rim under every line
+  bool PathHighlight = false;      ///< finished paths show their fastest stretch
   bool EllipseFromCentre = false;  ///< the first point of an ellipse or clock is its centre
   const ShapeLog* Log = nullptr;   ///< told of what is drawn; not owned
 

@@ -125,7 +125,8 @@ void ShapeEngine::RenderShape(Shape& shape) const {
     shape.Pts.assign(kSteps + 1, POINTAPI{});
     for (int i = 0; i < kSteps; ++i) {
       const double angle = DegToRad(static_cast<std::int16_t>(i * 10));
-      shape.Pts[static_cast<std::size_t>(i)] = RoundPoint(std::cos(angle) * rx + centre.x, std::sin(angle) * ry + centre.y);
+      shape.Pts[static_cast<std::size_t>(i)] =
+          RoundPoint(std::cos(angle) * rx + centre.x, std::sin(angle) * ry + centre.y);
     }
     shape.Pts[kSteps - 1] = shape.Pts[0];
     shape.NumBound = shape.NumPts = kSteps;

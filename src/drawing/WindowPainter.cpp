@@ -40,13 +40,14 @@ void WindowPainter::Align(std::span<const Shape> shapes, std::span<const Colour>
   std::size_t front = 0;
   while (front < common && entries_[front].content.Shows(shapes[front], colours[front])) ++front;
   std::size_t back = 0;
-  while (back < common - front &&
-         entries_[entries_.size() - 1 - back].content.Shows(shapes[shapes.size() - 1 - back], colours[shapes.size() - 1 - back]))
+  while (back < common - front && entries_[entries_.size() - 1 - back].content.Shows(shapes[shapes.size() - 1 - back],
+                                                                                     colours[shapes.size() - 1 - back]))
     ++back;
   spare_.clear();
   spare_.resize(shapes.size());
   std::move(entries_.begin(), entries_.begin() + static_cast<std::ptrdiff_t>(front), spare_.begin());
-  std::move(entries_.end() - static_cast<std::ptrdiff_t>(back), entries_.end(), spare_.end() - static_cast<std::ptrdiff_t>(back));
+  std::move(entries_.end() - static_cast<std::ptrdiff_t>(back), entries_.end(),
+            spare_.end() - static_cast<std::ptrdiff_t>(back));
   entries_.swap(spare_);
   spare_.clear();
   bytes_ = grid_.Bytes();

@@ -16,8 +16,7 @@ namespace kinalyx {
 DiskSpace DiskSpaceGauge(const std::string& path) {
   std::error_code failed;
   const auto space = std::filesystem::space(path, failed);
-  if (failed || space.capacity == 0 || space.available == 0)
-    return {false, 0, "0% Free", "Disk Full or Not Available"};
+  if (failed || space.capacity == 0 || space.available == 0) return {false, 0, "0% Free", "Disk Full or Not Available"};
   const double part = static_cast<double>(space.available) / static_cast<double>(space.capacity);
   const int percent = static_cast<int>(std::lrint(part * 100));
   return {true, percent, std::to_string(percent) + " % Free", {}};
@@ -95,7 +94,8 @@ std::vector<std::string> RemoveableDrivesIn(std::string_view text) {
   for (const Mount& mount : mounts) {
     // What the system's own drive shows at a second place is no other drive.
     const bool ofSystem = system != mounts.end() && mount.source == system->source;
-    if (mount.HoldsFiles() && mount.ComesAndGoes() && !ofSystem && std::ranges::find(drives, mount.path) == drives.end())
+    if (mount.HoldsFiles() && mount.ComesAndGoes() && !ofSystem &&
+        std::ranges::find(drives, mount.path) == drives.end())
       drives.push_back(mount.path);
   }
   return drives;

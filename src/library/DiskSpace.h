@@ -9,9 +9,9 @@ namespace kinalyx {
 /// What `DiskSpaceGauge` shows of a drive.
 struct DiskSpace {
   bool available = false;
-  int percentFree = 0;   ///< 0 to 100, for the bar `SpaceFlood`
-  std::string Label6;    ///< "37 % Free", or "0% Free" when the drive fails
-  std::string message;   ///< "Disk Full or Not Available" when the drive fails, else empty
+  int percentFree = 0;  ///< 0 to 100, for the bar `SpaceFlood`
+  std::string Label6;   ///< "37 % Free", or "0% Free" when the drive fails
+  std::string message;  ///< "Disk Full or Not Available" when the drive fails, else empty
 
   /// There is little room for videos.
   bool Little() const { return percentFree < 10; }

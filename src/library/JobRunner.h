@@ -9,7 +9,7 @@ namespace kinalyx {
 
 /// How far a long piece of work has come.
 struct JobProgress {
-  int done = 0;         ///< things done, of `total`
+  int done = 0;  ///< things done, of `total`
   int total = 0;
   double part = 0;      ///< 0 to 1
   std::string current;  ///< what is under way

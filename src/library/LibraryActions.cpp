@@ -38,8 +38,8 @@ LibraryTexts LibraryTextsFor(const Settings& settings) {
                  " information and choose \"Save\".",
       .moveStudent = "Select the Database from the list on the left that you want to move the selected " + noun +
                      " to and click the \"Move\" button.",
-      .deleteWarning = "Warning!!! This will remove the " + noun + ", the " + noun + " profile, and all of the " + noun +
-                       " videos from your system.",
+      .deleteWarning = "Warning!!! This will remove the " + noun + ", the " + noun + " profile, and all of the " +
+                       noun + " videos from your system.",
       .deleteFinish = "Click the Delete " + noun + " button to finish.",
       .trim = "Trim by selecting new start and end points, then click the 'Save' button to edit the video.",
   };

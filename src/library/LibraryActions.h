@@ -35,11 +35,11 @@ std::string StatisticsCaption(bool shown);
 
 /// The texts of the panels in which an operation is prepared, with the user's word in its place.
 struct LibraryTexts {
-  std::string addHelp;        ///< `ProAddPnl`
-  std::string moveStudent;    ///< the lists from which the target of a move is chosen
+  std::string addHelp;      ///< `ProAddPnl`
+  std::string moveStudent;  ///< the lists from which the target of a move is chosen
   std::string deleteWarning;
   std::string deleteFinish;
-  std::string trim;           ///< `EditPanel`
+  std::string trim;  ///< `EditPanel`
 };
 LibraryTexts LibraryTextsFor(const Settings& settings);
 

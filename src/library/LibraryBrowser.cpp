@@ -184,7 +184,8 @@ std::vector<std::string> ShortGameFamily(const std::string& folder, std::string_
   const std::vector<std::string> present = ListFiles(folder, ".avi");
   std::vector<std::string> paths;
   for (const std::string_view file : family->files) {
-    const auto found = std::ranges::find(present, FoldCase(file), [](const std::string& name) { return FoldCase(name); });
+    const auto found =
+        std::ranges::find(present, FoldCase(file), [](const std::string& name) { return FoldCase(name); });
     if (found != present.end()) paths.push_back(JoinPath(folder, *found));
   }
   return paths;

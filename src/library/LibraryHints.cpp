@@ -33,7 +33,8 @@ LibraryHints HintsOf(const LibraryBrowser& browser, const Vocabulary& words, boo
   const bool exchange = browser.Purpose() == Kind::Exchange;
   if (exchange && root.empty()) return {"Choose a drive or folder first.", ""};
   if (gone && exchange) return {"The folder " + root + " cannot be reached.", ""};
-  if (gone) return {"The library folder " + root + " cannot be reached; choose another in Program Setup, under General.", ""};
+  if (gone)
+    return {"The library folder " + root + " cannot be reached; choose another in Program Setup, under General.", ""};
   if (exchange) return ExchangeHints(browser, words);
 
   // Only the profiles page has the buttons that add somebody.
@@ -53,7 +54,9 @@ LibraryHints HintsOf(const LibraryBrowser& browser, const Vocabulary& words, boo
   if (browser.IsGeneralFolder()) hints.videos = "No videos lie in the library folder itself.";
   else if (browser.IsQuickLaunch()) hints.videos = "No videos yet. Copy one here with Quick Launch +.";
   else if (!browser.HasStudent()) hints.videos = "Choose a " + words.noun() + " to see the videos.";
-  else hints.videos = "No videos yet. Capture or import one, or copy AVI files into the folder of this " + words.noun() + ".";
+  else
+    hints.videos =
+        "No videos yet. Capture or import one, or copy AVI files into the folder of this " + words.noun() + ".";
   return hints;
 }
 

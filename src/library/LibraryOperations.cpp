@@ -82,7 +82,8 @@ void ShowResult(const OperationResult& result, LibraryBrowser& browser) {
   const int row = browser.VideoIndex();
   browser.Refresh();
   // A choice that is unchanged is not made again: that would go back to the first video.
-  if (!result.instructor.empty() && result.instructor != browser.Instructor()) browser.SelectInstructor(result.instructor);
+  if (!result.instructor.empty() && result.instructor != browser.Instructor())
+    browser.SelectInstructor(result.instructor);
   if (!result.student.empty() && result.student != browser.Student()) browser.SelectStudent(result.student);
   if (!result.video.empty()) browser.SelectVideo(result.video);
   // Where a video has gone, the next one takes its place.
@@ -129,8 +130,8 @@ bool LibraryOperations::BeginLibrary() {
   const LibraryPlace place = PlaceOfLibrary(host_.Drives(), settings_);
   if (place != LibraryPlace::ToBegin && place != LibraryPlace::Removed) return true;
   if (place == LibraryPlace::Removed &&
-      !host_.Question("Video Library",
-                      "The video library at " + root + " is not there any more. Do you want to begin a new one in its place?"))
+      !host_.Question("Video Library", "The video library at " + root +
+                                           " is not there any more. Do you want to begin a new one in its place?"))
     return false;
   // No folder above it is made: that would be the one of the settings.
   std::error_code failed;
@@ -147,8 +148,8 @@ std::string LibraryOperations::OpenVideoIn(const std::string& folder, const std:
   const auto videos = host_.Drives().Ask(tree_.Root(), [folder] { return AllVideosBelow(folder); });
   if (!videos) return SilentLibraryText(tree_.Root()) + " Nothing was changed.";
   if (std::ranges::none_of(*videos, [this](const std::string& path) { return IsOpen(path); })) return {};
-  return "A video from this database is open in the Analysis section. You must close the video before you can " + change +
-         ".";
+  return "A video from this database is open in the Analysis section. You must close the video before you can " +
+         change + ".";
 }
 
 OperationResult LibraryOperations::Refuse(const std::string& text) {
@@ -167,7 +168,7 @@ OperationResult LibraryOperations::RefuseGone(const std::string& text) {
 }
 
 std::string LibraryOperations::RefuseUnlessStudentChangeable(const std::string& instructor, const std::string& student,
-                                            Change change) {
+                                                             Change change) {
   if (student.empty() || instructor.empty() || instructor == kGeneralFolder) return words_.MustSelect();
   std::string refusal = Obstacle();
   if (refusal.empty())
@@ -260,7 +261,9 @@ OperationResult LibraryOperations::AddStudent(const std::string& instructor, con
   return {*added, true, instructor, named[kNameField]};
 }
 
-OperationResult LibraryOperations::RenameStudentCancelled() const { return Report(words_.Noun() + " rename cancelled."); }
+OperationResult LibraryOperations::RenameStudentCancelled() const {
+  return Report(words_.Noun() + " rename cancelled.");
+}
 
 OperationResult LibraryOperations::RenameStudent(const std::string& instructor, const std::string& student,
                                                  std::string_view typed) {
@@ -301,8 +304,7 @@ void LibraryOperations::MoveStudent(const std::string& instructor, const std::st
   const std::string target = tree_.InstructorFolder(targetInstructor);
   // A database that another workstation has just renamed would come back.
   if (!dirExists(target))
-    return events->Ended(
-        Refuse("The folder " + target + " cannot be found. The " + words_.noun() + " was not moved."));
+    return events->Ended(Refuse("The folder " + target + " cannot be found. The " + words_.noun() + " was not moved."));
   const std::string from = tree_.StudentFolder(instructor, student);
   const std::string to = tree_.StudentFolder(targetInstructor, student);
   if (EntryExists(to) || HasFolderNamed(target, student)) return events->Ended(Refuse(taken));

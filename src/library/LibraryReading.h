@@ -17,9 +17,8 @@ namespace kinalyx {
 /// @param reading  called with a tree of its own; as DriveWatch::Ask wants it
 template <typename Reading>
 auto AskLibrary(DriveWatch& drives, const LibraryTree& tree, Reading reading) {
-  return drives.Ask(tree.Root(), [root = tree.Root(), reading = std::move(reading)] {
-    return reading(LibraryTree(root));
-  });
+  return drives.Ask(tree.Root(),
+                    [root = tree.Root(), reading = std::move(reading)] { return reading(LibraryTree(root)); });
 }
 
 /// The marks of a video; nothing when the drive of the library with the folder `root` does not answer. With

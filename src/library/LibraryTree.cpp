@@ -21,9 +21,7 @@ bool IsBlank(std::string_view text) {
   return std::ranges::all_of(text, [](char c) { return c == ' '; });
 }
 
-std::string_view WithoutOuterBlanks(std::string_view name) {
-  return IsBlank(name) ? name : Trimmed(name, " ");
-}
+std::string_view WithoutOuterBlanks(std::string_view name) { return IsBlank(name) ? name : Trimmed(name, " "); }
 
 bool SameName(std::string_view a, std::string_view b) { return FoldCase(a) == FoldCase(b); }
 

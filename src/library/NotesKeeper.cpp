@@ -14,9 +14,7 @@ namespace {
 
 /// True when a student's folder has gone although the folder above it is there. When both are gone, a drive
 /// has been taken away.
-bool HasGone(const std::string& folder) {
-  return !dirExists(folder) && dirExists(FolderOf(folder));
-}
+bool HasGone(const std::string& folder) { return !dirExists(folder) && dirExists(FolderOf(folder)); }
 
 }  // namespace
 
@@ -60,7 +58,9 @@ Outcome NotesKeeper::Keep(std::optional<std::string_view> typed) {
     auto& [folder, waiting] = *notes;
     const bool reached = events_.CanReachNotes(folder);
     const bool gone = reached && HasGone(folder);
-    const Outcome stored = gone ? Outcome() : reached ? Store(folder, waiting) : Outcome::Failed("the drive is not answering");
+    const Outcome stored = gone      ? Outcome()
+                           : reached ? Store(folder, waiting)
+                                     : Outcome::Failed("the drive is not answering");
     if (stored && folder == folder_) text_ = base_ = waiting.text;
     if (gone && !waiting.text.empty()) events_.NotesLost(folder, waiting.text);
     if (!stored) all = stored;

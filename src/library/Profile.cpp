@@ -17,10 +17,10 @@ namespace kinalyx {
 namespace {
 
 constexpr const char* kFirstRunCaptions[kProfileFields] = {
-    "Name",          "Address",          "City, State, Zip", "Phone #",         "E-Mail Address",
-    "Years in Sport", "Age",             "Height",           "R/L Handed",      "Videos on File",
-    "Strengths",     "Weaknesses",       "Short term Goals", "Long term Goals", "Practice per Month",
-    "Play per Month", "Tournaments",     "Past Injuries",    "Current Injuries", "Physical Restrictions"};
+    "Name",           "Address",     "City, State, Zip", "Phone #",          "E-Mail Address",
+    "Years in Sport", "Age",         "Height",           "R/L Handed",       "Videos on File",
+    "Strengths",      "Weaknesses",  "Short term Goals", "Long term Goals",  "Practice per Month",
+    "Play per Month", "Tournaments", "Past Injuries",    "Current Injuries", "Physical Restrictions"};
 
 constexpr const char* kOldNameKeys[] = {"Student Name", "Client Name", "Golfer Name", "Bowler Name", "Patient Name"};
 
@@ -155,7 +155,8 @@ bool SaveProfile(const std::string& studentFolder, const FieldTexts& captions, c
   const ProfileReader reader(ProfilePath(studentFolder));
   return WriteProfileEntries(Entries(studentFolder, captions, values,
                                      [&](std::size_t field) {
-                                       return values[field] != base[field] || !reader.Value(kProfileSection, captions[field]);
+                                       return values[field] != base[field] ||
+                                              !reader.Value(kProfileSection, captions[field]);
                                      }),
                              ProfilePath(studentFolder));
 }

@@ -89,7 +89,8 @@ class Reader {
   std::optional<std::string> FullNotes() {
     const auto rest = bytes_.first(Left());
     constexpr std::size_t kHead = kFullNotesTag.size() + 4;
-    if (rest.size() < kHead || !std::equal(kFullNotesTag.begin(), kFullNotesTag.end(), rest.begin())) return std::nullopt;
+    if (rest.size() < kHead || !std::equal(kFullNotesTag.begin(), kFullNotesTag.end(), rest.begin()))
+      return std::nullopt;
     std::uint32_t length = 0;
     for (std::size_t i = 0; i < 4; ++i) length |= std::uint32_t{rest[kFullNotesTag.size() + i]} << (8 * i);
     std::string text(rest.begin() + kHead, rest.end());
@@ -125,7 +126,9 @@ class Reader {
   bool even_ = true;
 };
 
-bool IsCompressor(const VideoInfo& video, std::string_view name) { return FoldCase(video.compressor) == FoldCase(name); }
+bool IsCompressor(const VideoInfo& video, std::string_view name) {
+  return FoldCase(video.compressor) == FoldCase(name);
+}
 
 /// How the fields of a video are shown that has no sidecar to say it; nothing for most kinds.
 struct FieldOptions {

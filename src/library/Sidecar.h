@@ -16,21 +16,22 @@ namespace kinalyx {
 class Settings;
 
 /// What the analysis section knows of one video, beside the video itself: how its fields are shown, the
-/// drawings on it and the instructor's notes. It lives in the sidecar file, `X.ved` next to `X.avi`, `X.mp4.ved` next to `X.mp4`.
+/// drawings on it and the instructor's notes. It lives in the sidecar file, `X.ved` next to `X.avi`, `X.mp4.ved` next
+/// to `X.mp4`.
 struct SlotData {
   bool Wide = false;
   bool ReverseFields = false;
   bool SplitFields = false;
-  std::string Notes;                 ///< UTF-8; line ends as they stand in the notes box
+  std::string Notes;  ///< UTF-8; line ends as they stand in the notes box
   float CValue = 0;
-  std::int32_t RealFrameRate = 0;    ///< pictures per second; 0 means the rate stored in the video
+  std::int32_t RealFrameRate = 0;  ///< pictures per second; 0 means the rate stored in the video
 
   /// The drawings, in pixels of a window of `PictureWidth` x `PictureHeight`. A window of
   /// another size stretches them to show them.
   ShapeList Shapes;
-  int NextShape = 0;                 ///< the slot's running shape counter
-  int PictureWidth = 0;              ///< pixels; 0 when no shapes were stored
-  int PictureHeight = 0;             ///< pixels
+  int NextShape = 0;      ///< the slot's running shape counter
+  int PictureWidth = 0;   ///< pixels; 0 when no shapes were stored
+  int PictureHeight = 0;  ///< pixels
 
   /// The file holds something that could not be read: it is foreign or damaged, or the disk refused. As
   /// long as there is nothing new to store it is left alone; a write keeps it beside, see KeptPath.

@@ -42,7 +42,8 @@ bool IsNear(const Shape& a, const Shape& b) {
 
 /// Greedy matching: pairs equal shapes of two lists, each with one at most, exact pairs first. For each of
 /// `list` the place in `others`, or nothing.
-std::vector<std::optional<std::size_t>> Pairs(const std::vector<Shape>& list, const std::vector<Shape>& others, bool exact) {
+std::vector<std::optional<std::size_t>> Pairs(const std::vector<Shape>& list, const std::vector<Shape>& others,
+                                              bool exact) {
   std::vector<std::optional<std::size_t>> places(list.size());
   std::vector<bool> taken(others.size());
   const auto pair = [&](auto same) {
@@ -69,7 +70,8 @@ void Put(ShapeList& list, std::vector<Shape> shapes) {
 }
 
 /// Gives `merged` the drawings. @param size  the one in which they are stored
-void MergeShapes(MergedData& merged, const SlotData& mine, const SlotData& theirs, const SlotData& base, const Size& size) {
+void MergeShapes(MergedData& merged, const SlotData& mine, const SlotData& theirs, const SlotData& base,
+                 const Size& size) {
   std::vector<Shape> own = Fitted(mine, size);
   const std::vector<Shape> there = Fitted(theirs, size);
   const std::vector<Shape> before = Fitted(base, size);
@@ -120,7 +122,7 @@ void MergeShapes(MergedData& merged, const SlotData& mine, const SlotData& their
 MergedData MergeVideoData(const SlotData& mine, const SlotData& theirs, const SlotData& base) {
   MergedData merged{mine, {}};
   SlotData& whole = merged.whole;
-  const auto follow = [&](auto SlotData::* value) {
+  const auto follow = [&](auto SlotData::*value) {
     if (mine.*value == base.*value) whole.*value = theirs.*value;
   };
   follow(&SlotData::Wide);

@@ -41,6 +41,8 @@ void StudentRemovalJob::Cancel() {
   while (!hidden_.empty() && !removed_ && error_.empty()) Step();
 }
 
-JobProgress StudentRemovalJob::Progress() const { return {removed_ ? 1 : 0, 1, removed_ ? 1.0 : 0.0, LastName(folder_)}; }
+JobProgress StudentRemovalJob::Progress() const {
+  return {removed_ ? 1 : 0, 1, removed_ ? 1.0 : 0.0, LastName(folder_)};
+}
 
 }  // namespace kinalyx

@@ -54,7 +54,8 @@ std::vector<Step> Align(Lines first, Lines second) {
     second = second.subspan(1);
   }
   std::size_t tail = 0;
-  while (tail < std::min(first.size(), second.size()) && first[first.size() - 1 - tail] == second[second.size() - 1 - tail])
+  while (tail < std::min(first.size(), second.size()) &&
+         first[first.size() - 1 - tail] == second[second.size() - 1 - tail])
     ++tail;
   const Lines end = first.last(tail);
   first = first.first(first.size() - tail);
@@ -68,8 +69,9 @@ std::vector<Step> Align(Lines first, Lines second) {
     std::vector<std::uint32_t> common((first.size() + 1) * width);
     for (std::size_t a = first.size(); a-- > 0;)
       for (std::size_t b = second.size(); b-- > 0;)
-        common[a * width + b] = first[a] == second[b] ? common[(a + 1) * width + b + 1] + 1
-                                                      : std::max(common[(a + 1) * width + b], common[a * width + b + 1]);
+        common[a * width + b] = first[a] == second[b]
+                                    ? common[(a + 1) * width + b + 1] + 1
+                                    : std::max(common[(a + 1) * width + b], common[a * width + b + 1]);
     while (i < first.size() && k < second.size()) {
       if (first[i] == second[k]) {
         way.push_back({Step::Both, first[i++]});

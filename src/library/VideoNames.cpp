@@ -14,7 +14,7 @@ namespace kinalyx {
 namespace {
 
 constexpr std::string_view kAvi = ".avi";
-constexpr std::string_view kEndings[] = {kAvi,    ".mp4", ".mov",  ".m4v", ".mkv", ".webm", ".mts", ".m2ts", ".ts",
+constexpr std::string_view kEndings[] = {kAvi,   ".mp4",  ".mov", ".m4v", ".mkv", ".webm", ".mts", ".m2ts", ".ts",
                                          ".mpg", ".mpeg", ".wmv", ".3gp", ".vob", ".flv",  ".ogg", ".asf"};
 
 /// The ending with its dot, as it is written; empty when the name has none or is nothing else.

@@ -142,7 +142,8 @@ OperationResult LibraryOperations::RenameVideo(const LibraryVideo& video, std::s
   const std::string taken = "The video name you have chosen already exists, please try again.";
   if (IsTakenBeside(video.path, name)) return Refuse(taken);
   // Where only the case of a name changes, the disk may take the old sidecar for the new one.
-  if (!SetAsideOrphan(folder, file, disk_) && !SamePlace(ExistingSidecar(video.path), SidecarPath(to))) return Refuse(taken);
+  if (!SetAsideOrphan(folder, file, disk_) && !SamePlace(ExistingSidecar(video.path), SidecarPath(to)))
+    return Refuse(taken);
   if (const Outcome renamed = RenameWithSidecar(video.path, to, disk_); !renamed) {
     if (EntryExists(to) || EntryExists(SidecarPath(to))) return Refuse(taken);
     const std::string text = "The video could not be renamed";
@@ -167,8 +168,8 @@ void LibraryOperations::MoveVideo(const LibraryVideo& video, const std::string& 
   if (SamePlace(folder, FolderOf(video.path)))
     return events->Ended(Refuse("The source and destination folders are the same. The video was not moved."));
   const std::string name = NameOf(video);
-  const std::string taken = "A video with the name \"" + name + "\" already exists in the folder named " + targetStudent +
-                            ". Please rename the video and try again.";
+  const std::string taken = "A video with the name \"" + name + "\" already exists in the folder named " +
+                            targetStudent + ". Please rename the video and try again.";
   if (HasVideoNamed(folder, LastName(video.path))) return events->Ended(Refuse(taken));
   // A student whom another workstation has just renamed or moved away would come back as a bare folder.
   if (!dirExists(folder))
@@ -205,7 +206,8 @@ void LibraryOperations::Trim(const LibraryVideo& video, int firstFrame, int last
       std::make_unique<TrimJob>(JoinPath(settings_.AppPath, "avitrim"), request),
       [this, video](TrimJob& trim) -> OperationResult {
         if (trim.Saved())
-          return {std::string("Last Video Saved Successfully"), true, video.instructor, video.student, ShownName(video.path)};
+          return {std::string("Last Video Saved Successfully"), true, video.instructor, video.student,
+                  ShownName(video.path)};
         if (trim.Cancelled()) return Report(kOperationCancelled);
         host_.Message(MessageKind::Warning, "", "There was a problem saving this video.\n\n" + trim.Error());
         return Report("Last Video WAS NOT SAVED");
@@ -284,9 +286,12 @@ void LibraryOperations::ExportVideos(const std::vector<LibraryVideo>& videos, co
     bool onSystem = false;
     bool inLibrary = false;
   };
-  const auto place = host_.Drives().Ask(targetRoot, [targetRoot, root = tree_.Root()] {
-    return Place{IsSystemDrive(targetRoot), LiesIn(targetRoot, root)};
-  }).value_or(Place());
+  const auto place = host_.Drives()
+                         .Ask(targetRoot,
+                              [targetRoot, root = tree_.Root()] {
+                                return Place{IsSystemDrive(targetRoot), LiesIn(targetRoot, root)};
+                              })
+                         .value_or(Place());
   if (!videos.empty() && place.inLibrary)
     return events->Ended(
         Refuse("The folder " + targetRoot + " belongs to this library. Choose a drive or folder outside of it."));
@@ -297,7 +302,8 @@ void LibraryOperations::ExportVideos(const std::vector<LibraryVideo>& videos, co
   Transfer(Direction::Export, videos, targetRoot, {}, std::move(events));
 }
 
-void LibraryOperations::ImportVideos(const std::vector<LibraryVideo>& videos, Events events, const ImportTarget& loose) {
+void LibraryOperations::ImportVideos(const std::vector<LibraryVideo>& videos, Events events,
+                                     const ImportTarget& loose) {
   if (!videos.empty() && !Busy() && !BeginLibrary()) return events->Ended(Report("Import Cancelled"));
   Transfer(Direction::Import, videos, tree_.Root(), loose, std::move(events));
 }
@@ -339,8 +345,7 @@ void LibraryOperations::Transfer(Direction direction, const std::vector<LibraryV
   const auto toItself = host_.Drives().Ask(out ? tree_.Root() : ways.front().first, [ways] {
     return std::ranges::any_of(ways, [](const auto& way) { return SamePlace(way.first, way.second); });
   });
-  if (!toItself)
-    return events->Ended(Refuse("The drive with the videos is not answering. No videos were copied."));
+  if (!toItself) return events->Ended(Refuse("The drive with the videos is not answering. No videos were copied."));
   if (*toItself)
     return events->Ended(Refuse("The source and destination folders are the same. No videos were copied."));
   if (!loose.student.empty() && !dirExists(tree_.StudentFolder(loose.instructor, loose.student)))
@@ -350,8 +355,7 @@ void LibraryOperations::Transfer(Direction direction, const std::vector<LibraryV
                                                 std::move(transfers), disk_);
   if (!out) job->LookAtEach();
   Run<VideoTransferJob>(
-      std::move(job),
-      [this, out, places](VideoTransferJob& copy) { return EndOfTransfer(copy, out, places); },
+      std::move(job), [this, out, places](VideoTransferJob& copy) { return EndOfTransfer(copy, out, places); },
       std::make_shared<CountedTransfer>(std::move(events), out));
 }
 
@@ -377,7 +381,7 @@ OperationResult LibraryOperations::EndOfTransfer(const VideoTransferJob& copy, b
       std::to_string(copy.VideosDone()) + (out ? " File(s) exported successfully!" : " File(s) Imported successfully!");
   if (const int bare = copy.StudentsDone(); bare > 0)
     words += " " + std::to_string(bare) + " " + (bare == 1 ? words_.noun() : words_.nouns()) +
-                     " without videos went along with profile and notes.";
+             " without videos went along with profile and notes.";
   if (copy.Failed()) result.words = Outcome::Failed(std::move(words));
   else result.words = std::move(words);
   if (const auto& bad = copy.Unreadable(); !bad.empty()) TellUnreadable(bad);

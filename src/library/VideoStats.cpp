@@ -26,8 +26,7 @@ VideoStats NoVideoStats() {
 }
 
 VideoStats StatsOf(const VideoInfo& video, int bits) {
-  const double rate =
-      video.scale > 0 ? static_cast<double>(video.rate) / static_cast<double>(video.scale) : 0.0;
+  const double rate = video.scale > 0 ? static_cast<double>(video.rate) / static_cast<double>(video.scale) : 0.0;
   return {video.compressor,
           fmt::to_string(video.width),
           fmt::to_string(video.height),

@@ -64,16 +64,14 @@ CopyUnit VideoUnit(const std::string& videoPath, const std::string& folder, std:
   CopyUnit unit;
   // First the sidecar: a video never stands anywhere without its drawings.
   const std::string sidecar = ExistingSidecar(videoPath);
-  if (!sidecar.empty())
-    unit.push_back({sidecar, JoinPath(folder, SidecarName(file)), SharesSidecar(videoPath)});
+  if (!sidecar.empty()) unit.push_back({sidecar, JoinPath(folder, SidecarName(file)), SharesSidecar(videoPath)});
   unit.push_back({videoPath, JoinPath(folder, file)});
   return unit;
 }
 
 // ---------------------------------------------------------------- many of them
 
-VideoTransferJob::VideoTransferJob(CopyJob::Kind kind, OnClash onClash, std::vector<VideoTransfer> videos,
-                                   IDisk& disk)
+VideoTransferJob::VideoTransferJob(CopyJob::Kind kind, OnClash onClash, std::vector<VideoTransfer> videos, IDisk& disk)
     : kind_(kind), onClash_(onClash), videos_(std::move(videos)), disk_(disk) {}
 
 bool VideoTransferJob::Fail(const std::string& error) {

@@ -40,12 +40,11 @@ struct VideoTransfer {
 class VideoTransferJob final : public IJob {
  public:
   enum class OnClash {
-    Stop,    ///< a video of that name at the target ends the job
-    AddD,    ///< the name gets a "d" at its end until it is free
+    Stop,  ///< a video of that name at the target ends the job
+    AddD,  ///< the name gets a "d" at its end until it is free
   };
 
-  VideoTransferJob(CopyJob::Kind kind, OnClash onClash, std::vector<VideoTransfer> videos,
-                   IDisk& disk = RealDisk());
+  VideoTransferJob(CopyJob::Kind kind, OnClash onClash, std::vector<VideoTransfer> videos, IDisk& disk = RealDisk());
   /// Looks at each video when it has arrived, whether it can be opened.
   void LookAtEach() { looks_ = true; }
 

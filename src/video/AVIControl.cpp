@@ -311,7 +311,8 @@ void AVIControl::Refresh() {
 
 void AVIControl::RenderCurrent() {
   if (!VideoStream_ || surface_.Empty()) return;
-  const FrameSurface::Content wanted{CurrentRawFrame_, properties_.SplitFields, CurrentField_, properties_.FlipHorizontal};
+  const FrameSurface::Content wanted{CurrentRawFrame_, properties_.SplitFields, CurrentField_,
+                                     properties_.FlipHorizontal};
   better_.Stop();
   if (!surface_.BringBack(wanted) && ComposeCurrent()) surface_.Composed(wanted);
   PresentFrame();

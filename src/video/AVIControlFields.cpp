@@ -57,7 +57,8 @@ bool AVIControl::Strobe::Prepare() {
     references_.resize(4);
     for (int i = 1; i <= 4; ++i) {
       const int frame = static_cast<int>(std::nearbyint(i * 0.24 * control_.FrameCount()));
-      if (!control_.CopyFieldOf(std::min(frame, control_.FrameCount() - 1), references_[static_cast<std::size_t>(i - 1)]))
+      if (!control_.CopyFieldOf(std::min(frame, control_.FrameCount() - 1),
+                                references_[static_cast<std::size_t>(i - 1)]))
         return false;
     }
   }
@@ -85,7 +86,8 @@ bool AVIControl::Strobe::AddLayer() {
   if (kind_ == Kind::Scene) {
     layers_->Add(references_[0].data(), picture_.data(), field, control_.FrameBuffer_.data());
   } else {
-    AddAgainstBackground(Shape(), {references_[0].data(), references_[1].data(), references_[2].data(), references_[3].data()},
+    AddAgainstBackground(Shape(),
+                         {references_[0].data(), references_[1].data(), references_[2].data(), references_[3].data()},
                          picture_.data(), field, control_.FrameBuffer_.data());
   }
   return true;
@@ -110,8 +112,8 @@ void AVIControl::SoftenFrameBuffer() {
 
 void AVIControl::ComposeFrameBuffer() {
   const int bits = FormatHeader_.bitCount;
-  surface_.Compose({FrameBuffer_.data(), FormatHeader_.width, FormatHeader_.height, ScanLineBytes(FormatHeader_.width, bits),
-                    bits, true},
+  surface_.Compose({FrameBuffer_.data(), FormatHeader_.width, FormatHeader_.height,
+                    ScanLineBytes(FormatHeader_.width, bits), bits, true},
                    properties_.FlipHorizontal, services_.scratch);
 }
 
@@ -134,7 +136,8 @@ void AVIControl::Enhance(double HighAmount, double LowAmount) {
   const PlayerNews::Hold hold(News());
   if (FormatHeader_.bitCount == 24 && CopyFieldOf(CurrentRawFrame_, FrameBuffer_)) {
     const int rowBytes = ScanLineBytes(FormatHeader_.width, 24);
-    if (softened_) EnhanceField(FrameBuffer_.data(), rowBytes, FormatHeader_.height, CurrentField_, HighAmount, LowAmount);
+    if (softened_)
+      EnhanceField(FrameBuffer_.data(), rowBytes, FormatHeader_.height, CurrentField_, HighAmount, LowAmount);
     SoftenFrameBuffer();
     ShowFrameBuffer();
   }

@@ -69,7 +69,8 @@ void SoftenField(std::uint8_t* rows, int rowBytes, int height, bool currentField
 void EnhanceField(std::uint8_t* rows, int rowBytes, int height, bool currentField, double highAmount,
                   double lowAmount) {
   std::array<std::uint8_t, 256> table;
-  for (int value = 0; value < 256; ++value) table[static_cast<std::size_t>(value)] = Enhanced(value, highAmount, lowAmount);
+  for (int value = 0; value < 256; ++value)
+    table[static_cast<std::size_t>(value)] = Enhanced(value, highAmount, lowAmount);
   const int first = currentField ? 2 : 1;
   const int last = height - 1 - (currentField ? 2 : 1) - 2;
   for (int row = first; row <= last; row += 2) {

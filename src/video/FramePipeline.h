@@ -36,7 +36,6 @@ void SoftenField(std::uint8_t* rows, int rowBytes, int height, bool currentField
 /// Pushes the contrast of a field: bytes above 128 are raised by `highAmount`, all others lowered by
 /// `lowAmount`. A byte that would leave the range stays what it was. The first pixel of each row and
 /// the outermost rows are left out.
-void EnhanceField(std::uint8_t* rows, int rowBytes, int height, bool currentField, double highAmount,
-                  double lowAmount);
+void EnhanceField(std::uint8_t* rows, int rowBytes, int height, bool currentField, double highAmount, double lowAmount);
 
 }  // namespace kinalyx

@@ -30,7 +30,9 @@ class PlayClock {
   }
 
   /// The beat, and the part of one, that has been reached at `now`.
-  double BeatAt(std::int64_t now) const { return (static_cast<double>(now - origin_) - first_ + 2 * kGrain) / interval_; }
+  double BeatAt(std::int64_t now) const {
+    return (static_cast<double>(now - origin_) - first_ + 2 * kGrain) / interval_;
+  }
 
   /// The first whole millisecond at which BeatAt reaches `beat`.
   std::int64_t Due(double beat) const {

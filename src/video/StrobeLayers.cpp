@@ -12,8 +12,8 @@ constexpr int kFirstColumn = 3;
 
 // The row loops have no branch that depends on a pixel, so that the compiler turns them into vector code.
 
-void AddRow(const std::uint8_t* __restrict scene, const std::uint8_t* __restrict picture, std::uint8_t* __restrict touched,
-            std::uint8_t* __restrict sum, int count) {
+void AddRow(const std::uint8_t* __restrict scene, const std::uint8_t* __restrict picture,
+            std::uint8_t* __restrict touched, std::uint8_t* __restrict sum, int count) {
   for (int c = 0; c < count; ++c) {
     const std::uint8_t a = scene[c];
     const std::uint8_t b = picture[c];
@@ -64,7 +64,8 @@ FieldRows StrobeRows(int height, bool currentField) {
 StrobeLayers::StrobeLayers(RowShape shape)
     : shape_(shape), touched_(static_cast<std::size_t>(shape.rowBytes) * static_cast<std::size_t>(shape.height), 0) {}
 
-void StrobeLayers::Add(const std::uint8_t* reference, const std::uint8_t* picture, bool currentField, std::uint8_t* sum) {
+void StrobeLayers::Add(const std::uint8_t* reference, const std::uint8_t* picture, bool currentField,
+                       std::uint8_t* sum) {
   const FieldRows rows = StrobeRows(shape_.height, currentField);
   for (int row = rows.first; row <= rows.last; row += 2) {
     const std::ptrdiff_t at = std::ptrdiff_t{row} * shape_.rowBytes + kFirstColumn;

@@ -11,11 +11,31 @@ constexpr Colour kWhite = Rgb(255, 255, 255);
 constexpr Colour kNavy = Rgb(0, 0, 128);
 
 /// The classic palette, from the scroll bars to the background of tips.
-constexpr std::array<Colour, 25> kPalette = {kGrey,     Rgb(0, 128, 128), kNavy,     kDarkGrey, kGrey,
-                                             kWhite,    0,                0,         0,         kWhite,
-                                             kGrey,     kGrey,            kDarkGrey, kNavy,     kWhite,
-                                             kGrey,     kDarkGrey,        kDarkGrey, 0,         kGrey,
-                                             kWhite,    0,                kGrey,     0,         Rgb(255, 255, 225)};
+constexpr std::array<Colour, 25> kPalette = {kGrey,
+                                             Rgb(0, 128, 128),
+                                             kNavy,
+                                             kDarkGrey,
+                                             kGrey,
+                                             kWhite,
+                                             0,
+                                             0,
+                                             0,
+                                             kWhite,
+                                             kGrey,
+                                             kGrey,
+                                             kDarkGrey,
+                                             kNavy,
+                                             kWhite,
+                                             kGrey,
+                                             kDarkGrey,
+                                             kDarkGrey,
+                                             0,
+                                             kGrey,
+                                             kWhite,
+                                             0,
+                                             kGrey,
+                                             0,
+                                             Rgb(255, 255, 225)};
 
 }  // namespace
 

@@ -29,7 +29,8 @@ AnalysisWorkspace::AnalysisWorkspace(IHost& host, Settings& settings, PlaySchedu
       notes_(stage_, keeping_, view),
       rateTest_(host, stage_),
       ruler_(settings, tools_, *this, stage_, view),
-      menuBar_({stage_, videos_, transport_, tools_, edits_, timer_, notes_, rateTest_, ruler_, compare_}, view, navigation) {
+      menuBar_({stage_, videos_, transport_, tools_, edits_, timer_, notes_, rateTest_, ruler_, compare_}, view,
+               navigation) {
   menuBar_.SetProfilesTitle(Vocabulary(settings_).Profiles());
 }
 

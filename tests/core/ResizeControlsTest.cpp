@@ -7,9 +7,10 @@ namespace {
 
 TEST(ResizeControls, RatiosAreAgainstTheSizeBefore) {
   ResizeControls controls;
-  for (const auto& [width, height, across, down] :
-       {std::tuple{1024, 768, 1024.0F / 800.0F, 768.0F / 600.0F}, {1280, 1024, 1280.0F / 1024.0F, 1024.0F / 768.0F},
-        {640, 512, 0.5F, 0.5F}, {0, 0, 0.5F, 0.5F}}) {  // at last a window that is put away
+  for (const auto& [width, height, across, down] : {std::tuple{1024, 768, 1024.0F / 800.0F, 768.0F / 600.0F},
+                                                    {1280, 1024, 1280.0F / 1024.0F, 1024.0F / 768.0F},
+                                                    {640, 512, 0.5F, 0.5F},
+                                                    {0, 0, 0.5F, 0.5F}}) {  // at last a window that is put away
     controls.Resize(width, height);
     EXPECT_EQ(controls.WidthRatio, across);
     EXPECT_EQ(controls.HeightRatio, down);

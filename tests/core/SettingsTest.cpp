@@ -20,19 +20,39 @@ struct Desk {
   std::string file = data + "/config10.ini";
   Settings settings{host, data, "/opt/kinalyx"};
 
-  std::optional<std::string> OnDisk(const char* section, const char* key) { return ReadProfileValue(section, key, file); }
+  std::optional<std::string> OnDisk(const char* section, const char* key) {
+    return ReadProfileValue(section, key, file);
+  }
   void Write(const char* section, const char* key, const std::string& value) {
     ASSERT_TRUE(WritePrivateProfileString(section, key, value, file));
   }
 };
 
 TEST(Numbers, ReadLenientlyAndRoundTiesToEven) {
-  const std::pair<const char*, std::int32_t> cases[] = {
-      {"50", 50},         {"  50 percent", 50}, {"-7", -7},          {"+7", 7},          {"", 0},
-      {"abc", 0},         {"/home/x", 0},       {"2.5", 2},          {"3.5", 4},         {"-2.5", -2},
-      {".6", 1},          {"1e3", 1000},        {"nan", 0},          {"inf", 0},         {"--5", 0},
-      {"&HFFFF&", 65535}, {"&H00800000&", 8388608}, {"&hff", 255},   {"&HC0C000", 12632064}, {"&H", 0},
-      {"&HFFFFFFFF", -1}, {"9999999999", 2147483647}, {"-1e99", -2147483648}, {"1e999", 2147483647}};
+  const std::pair<const char*, std::int32_t> cases[] = {{"50", 50},
+                                                        {"  50 percent", 50},
+                                                        {"-7", -7},
+                                                        {"+7", 7},
+                                                        {"", 0},
+                                                        {"abc", 0},
+                                                        {"/home/x", 0},
+                                                        {"2.5", 2},
+                                                        {"3.5", 4},
+                                                        {"-2.5", -2},
+                                                        {".6", 1},
+                                                        {"1e3", 1000},
+                                                        {"nan", 0},
+                                                        {"inf", 0},
+                                                        {"--5", 0},
+                                                        {"&HFFFF&", 65535},
+                                                        {"&H00800000&", 8388608},
+                                                        {"&hff", 255},
+                                                        {"&HC0C000", 12632064},
+                                                        {"&H", 0},
+                                                        {"&HFFFFFFFF", -1},
+                                                        {"9999999999", 2147483647},
+                                                        {"-1e99", -2147483648},
+                                                        {"1e999", 2147483647}};
   for (const auto& [text, number] : cases) EXPECT_EQ(ReadInt32(text), number) << text;
   EXPECT_EQ(ReadInt16("40000"), 32767);
   EXPECT_EQ(ReadBoolean("True"), true);
@@ -52,9 +72,10 @@ TEST(Settings, FirstRunWritesEveryKeyInOrderAndHoldsIt) {
        {"[General]\nWindowMode=1\nScreenMode=1\nUserName=\nCompanyName=Company Name\nUseNetwork=False\n",
         "Heading1=Welcome to the\n", "Heading5=Program\nExporter=A:\\\nCDBurner=0\nUpdateCheck=0\nRestartOption=0\n",
         "[VidCap]\nImportCaptureMode=True\nVideoInSource=25\n", "TriggerTime0=15\nTriggerTime1=10\nOneClickTime=25\n",
-        "\nHDSplitFields=False\n", "AutoRealFR=30\n", "[Analysis]\nGridSize=50\nSlomoSpeed=25\nCadWidth=5\nCadOutline=True\n",
-        "NewColor0=&HC0C000\n", "NewColor11=&H00800000&\nNewColor12=&HFFFF&\nStrobeStep=1\nOpenDlgChoice=0\n",
-        "[Ruler]\nCalibNumber=0\n", "[Layout]\nDesign=0\nPrimaryName0=Student\n", "WindowInfo3=9000\n"}) {
+        "\nHDSplitFields=False\n", "AutoRealFR=30\n",
+        "[Analysis]\nGridSize=50\nSlomoSpeed=25\nCadWidth=5\nCadOutline=True\n", "NewColor0=&HC0C000\n",
+        "NewColor11=&H00800000&\nNewColor12=&HFFFF&\nStrobeStep=1\nOpenDlgChoice=0\n", "[Ruler]\nCalibNumber=0\n",
+        "[Layout]\nDesign=0\nPrimaryName0=Student\n", "WindowInfo3=9000\n"}) {
     const std::size_t found = text.find(line, at);
     ASSERT_NE(found, std::string::npos) << line;
     at = found;
@@ -131,9 +152,9 @@ TEST(Settings, BadBooleansAreNamedOnceAndKeepTheirFirstValue) {
   EXPECT_TRUE(desk.settings.Logo);
   EXPECT_FALSE(desk.settings.UseNetwork);
   desk.settings.LoadSettings();
-  EXPECT_EQ(desk.host.messages,
-            std::vector<std::string>{"2 settings in " + desk.file +
-                                     " could not be read (UseNetwork, Logo), so their first values hold for this run."});
+  EXPECT_EQ(desk.host.messages, std::vector<std::string>{
+                                    "2 settings in " + desk.file +
+                                    " could not be read (UseNetwork, Logo), so their first values hold for this run."});
   desk.folder.Put("Kinalyx/config10.ini", "[Gen");
   desk.settings.LoadSettings();
   ASSERT_EQ(desk.host.messages.size(), 2u);

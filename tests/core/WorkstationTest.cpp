@@ -42,8 +42,8 @@ TEST(StartUp, ComesUpInOrderAndAsksOnlyOnce) {
     ColorSchemes schemes;
     HeardSteps steps(schemes);
     EXPECT_EQ(StartUp(settings, mail, schemes, steps), first);
-    EXPECT_EQ(steps.order, first ? "scheme 0, fields, splash, main, first form, close"
-                                 : "scheme 7, fields, splash, main, close");
+    EXPECT_EQ(steps.order,
+              first ? "scheme 0, fields, splash, main, first form, close" : "scheme 7, fields, splash, main, close");
     EXPECT_EQ(mail.Subject, first ? "Video Analysis from " : "Video Analysis from Links");
     settings.Set(settings.Design, "7");
     mail.TakeSender("Erica Sample", "Links");

@@ -56,7 +56,8 @@ double WorstBone(const Pose& p, const Skeleton& skeleton) {
     worst = std::max({worst, OffLength(leg->hip, leg->knee, b.thigh), OffLength(leg->knee, leg->ankle, b.shin),
                       OffLength(leg->heel, leg->toe, b.foot), OffLength(p.pelvis, leg->hip, b.hipHalf)});
   for (const ArmPose* arm : {&p.leadArm, &p.trailArm})
-    worst = std::max({worst, OffLength(arm->shoulder, arm->elbow, b.upperArm), OffLength(arm->elbow, arm->hand, b.foreArm)});
+    worst = std::max(
+        {worst, OffLength(arm->shoulder, arm->elbow, b.upperArm), OffLength(arm->elbow, arm->hand, b.foreArm)});
   return worst;
 }
 

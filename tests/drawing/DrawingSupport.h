@@ -84,7 +84,8 @@ struct Desk {
     settings.CadOutline = true;
     settings.GridSize = 10;
     settings.NTSCorPAL = "0";
-    settings.NewColors = {0xC0C000, 0xFFFF, 0x8000, 0xFF0000, 0xFF, 0xFF00, 0xFFFF, 0xFF, 0xFF0000, 0xFFFF, 0xFF, 0x800000, 0xFFFF};
+    settings.NewColors = {0xC0C000, 0xFFFF,   0x8000, 0xFF0000, 0xFF,     0xFF00, 0xFFFF,
+                          0xFF,     0xFF0000, 0xFFFF, 0xFF,     0x800000, 0xFFFF};
   }
 
   ShapeList& List(int window = 1) { return engine.ShapeLists(window); }
@@ -93,7 +94,9 @@ struct Desk {
     const auto points = BoundPoints(List().Shapes[shape]);
     return {points.begin(), points.end()};
   }
-  void Move(int x, int y, int window = 1) { tools.MouseMove(0, 0, static_cast<float>(x), static_cast<float>(y), window); }
+  void Move(int x, int y, int window = 1) {
+    tools.MouseMove(0, 0, static_cast<float>(x), static_cast<float>(y), window);
+  }
   bool Down(int x, int y, int window = 1, int button = 1) {
     return tools.MouseDown(button, 0, static_cast<float>(x), static_cast<float>(y), window);
   }

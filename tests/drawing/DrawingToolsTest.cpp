@@ -38,8 +38,14 @@ TEST(DrawingTools, ALineFromTwoClicksEndsItsTool) {
 TEST(DrawingTools, EveryToolMakesItsKindOfItsClicksInItsColour) {
   Desk desk;
   const POINTAPI points[] = {{10, 10}, {90, 90}, {10, 90}};
-  for (const auto& [kind, clicks] : {std::pair{kFlag, 1}, {kSquare, 2}, {kEllipse, 2}, {kAngle, 3},
-                                     {kParallelogram, 3}, {kZone, 3}, {kClock, 2}, {kArrow, 2}}) {
+  for (const auto& [kind, clicks] : {std::pair{kFlag, 1},
+                                     {kSquare, 2},
+                                     {kEllipse, 2},
+                                     {kAngle, 3},
+                                     {kParallelogram, 3},
+                                     {kZone, 3},
+                                     {kClock, 2},
+                                     {kArrow, 2}}) {
     SCOPED_TRACE(kind);
     desk.tools.ChooseFromMenu(kind);
     for (int i = 0; i < clicks; ++i) {
@@ -191,8 +197,8 @@ TEST(DrawingTools, WithTheEditBarClicksSelect) {
   EXPECT_FALSE(desk.Up(300, 110)) << "the bar is not up";
   bar.shown = true;
   // A hundred pixels from two it is the first; the left button only.
-  for (const auto& [at, button, selected] : {std::tuple{POINTAPI{300, 110}, 1, 1}, {{200, 100}, 1, 0}, {{600, 400}, 1, -1},
-                                             {{300, 110}, 2, -1}}) {
+  for (const auto& [at, button, selected] :
+       {std::tuple{POINTAPI{300, 110}, 1, 1}, {{200, 100}, 1, 0}, {{600, 400}, 1, -1}, {{300, 110}, 2, -1}}) {
     EXPECT_TRUE(desk.Up(at.x, at.y, 1, button));
     EXPECT_EQ(desk.List().CurShape, selected) << at.x;
   }

@@ -27,8 +27,7 @@ struct EditDesk : Desk {
   void Drag(EditHandle handle, std::initializer_list<POINTAPI> way) {
     const POINTAPI first = *way.begin();
     bar.GrabHandle(handle, static_cast<float>(first.x), static_cast<float>(first.y));
-    for (const POINTAPI& point : way)
-      bar.DragHandle(static_cast<float>(point.x), static_cast<float>(point.y));
+    for (const POINTAPI& point : way) bar.DragHandle(static_cast<float>(point.x), static_cast<float>(point.y));
     bar.ReleaseHandle();
   }
 };
@@ -38,7 +37,8 @@ TEST(EditBar, DragsMoveScaleAndRotate) {
   desk.Draw(kLine, {{100, 100}, {200, 100}});
   desk.bar.ToggleEditBar();
   // Ten steps of seven twips are less than a pixel each and five pixels together.
-  desk.Drag(kMoveHandle, {{0, 0}, {7, 0}, {14, 0}, {21, 0}, {28, 0}, {35, 0}, {42, 0}, {49, 0}, {56, 0}, {63, 0}, {70, 0}});
+  desk.Drag(kMoveHandle,
+            {{0, 0}, {7, 0}, {14, 0}, {21, 0}, {28, 0}, {35, 0}, {42, 0}, {49, 0}, {56, 0}, {63, 0}, {70, 0}});
   EXPECT_EQ(desk.Points(0)[0], (POINTAPI{105, 100}));
   desk.Drag(kScaleHandle, {{300, 500}, {300, 300}, {300, 100}});
   EXPECT_EQ(desk.Points(0), (std::vector<POINTAPI>{{55, 100}, {255, 100}})) << "400 twips up are twice as large";

@@ -89,8 +89,8 @@ TEST_F(MacrosTest, AllWhoUseOneFolderKeepEachOthers) {
   all.LoadMList({});
   auto names = all.MacroNames();
   std::ranges::sort(names);
-  EXPECT_EQ(names, (std::vector<std::string>{"0-1", "0-3", "0-5", "0-7", "0-9", "1-1", "1-3", "1-5", "1-7", "1-9", "2-1", "2-3", "2-5",
-                                             "2-7", "2-9"}));
+  EXPECT_EQ(names, (std::vector<std::string>{"0-1", "0-3", "0-5", "0-7", "0-9", "1-1", "1-3", "1-5", "1-7", "1-9",
+                                             "2-1", "2-3", "2-5", "2-7", "2-9"}));
   EXPECT_EQ(std::distance(fs::directory_iterator(app_), {}), 1) << "no lock and no part stays";
 
   // What somebody has replaced under the same name is not what was to be removed.

@@ -10,15 +10,16 @@ const Calibration kNone{};
 TEST(Measurement, AnglesAreWholeDegrees) {
   EXPECT_EQ(GetAngle({0, 0}, {0, 0}, {100, 0}, AngleMode::ToVertical), 90);
   const POINTAPI corner{0, 0};
-  for (const auto& [end, degrees] : {std::pair{POINTAPI{0, 10}, 90}, {{10, 10}, 45}, {{-20, 0}, 180},
-                                      {{20, 0}, 0}, {{0, 0}, 0}, {{99, 16}, 9}})
+  for (const auto& [end, degrees] :
+       {std::pair{POINTAPI{0, 10}, 90}, {{10, 10}, 45}, {{-20, 0}, 180}, {{20, 0}, 0}, {{0, 0}, 0}, {{99, 16}, 9}})
     EXPECT_EQ(GetAngle({10, 0}, corner, end, AngleMode::Opening), degrees) << "9.18 is cut";
 }
 
 TEST(Measurement, LinesAndAnglesReadInDegreesAndPixels) {
   EXPECT_EQ(ShapeCaption(Finished(kLine, {{50, 10}, {50, 117}}), kNone), "0°- 90° angle H-V     107 px");
   EXPECT_EQ(ShapeCaption(Finished(kLine, {{10, 50}, {110, 50}}), kNone), "90°- 0° angle H-V     100 px");
-  EXPECT_EQ(ShapeCaption(Finished(kLine, {{0, 0}, {100, 100}}), kNone), "45°- 45° angle H-V     141.4 px") << "cut, not rounded";
+  EXPECT_EQ(ShapeCaption(Finished(kLine, {{0, 0}, {100, 100}}), kNone), "45°- 45° angle H-V     141.4 px")
+      << "cut, not rounded";
   EXPECT_EQ(ShapeCaption(Finished(kLine, {{0, 0}}), kNone), std::nullopt);
   EXPECT_EQ(ShapeCaption(Finished(kAngle, {{0, 0}, {0, 100}, {100, 200}}), kNone),
             " 135° - 225° angle I-O     45° - 45° angle H-V ");
@@ -28,9 +29,7 @@ TEST(Measurement, LinesAndAnglesReadInDegreesAndPixels) {
 
 TEST(Measurement, CalibratedLinesReadInTheChosenUnit) {
   const Shape line = Finished(kLine, {{0, 0}, {0, 1000}});
-  const auto text = [&](int unit, float perInch) {
-    return *ShapeCaption(line, {100, perInch, unit, false});
-  };
+  const auto text = [&](int unit, float perInch) { return *ShapeCaption(line, {100, perInch, unit, false}); };
   const std::string head = "0°- 90° angle H-V     ";
   EXPECT_EQ(text(kInches, 81), head + "12.34\"") << "12.3456 is cut";
   EXPECT_EQ(text(kFeet, 10), head + "8.333'");

@@ -54,8 +54,9 @@ TEST(ShapeFile, AShapeBodyIsReadAndWrittenByteForByte) {
   clock.SavedPts.resize(1);
   written.clear();
   WriteShapeBody(clock, written);
-  EXPECT_EQ(written, Hex("0200 0200 0900 FFFF 0100 03000000 00000000 01000000 02000000 03000000 04000000 0F000000 00000000 "
-                         "0100 01000000 00000000 00000000 00000000 05000000"));
+  EXPECT_EQ(written,
+            Hex("0200 0200 0900 FFFF 0100 03000000 00000000 01000000 02000000 03000000 04000000 0F000000 00000000 "
+                "0100 01000000 00000000 00000000 00000000 05000000"));
   rest = written;
   EXPECT_EQ(ReadShapeBody(rest), clock);
 }
@@ -70,8 +71,8 @@ TEST(ShapeFile, ACountBeyondTheFileTakesNoMemory) {
 }
 
 TEST(ShapeFile, AContainerIsReadFromHandWrittenBytes) {
-  const Bytes bytes = Hex("'SL' 0000 0100 'INF' 01 " + kLineBody + "00000000 E0100000 'MNL' 0100 02000000 00000000 0300 '" +
-                          "One' 0200 'Z' FC 'EOF'");
+  const Bytes bytes = Hex("'SL' 0000 0100 'INF' 01 " + kLineBody +
+                          "00000000 E0100000 'MNL' 0100 02000000 00000000 0300 '" + "One' 0200 'Z' FC 'EOF'");
   ShapeFileContent content;
   ASSERT_TRUE(ReadShapeFile(bytes, {28800, 16200}, content));
   ASSERT_EQ(content.Lists.size(), 2u);

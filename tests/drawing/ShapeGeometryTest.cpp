@@ -10,8 +10,8 @@ namespace {
 const ShapeEngine kEngine;
 
 TEST(ShapeGeometry, RoundsTiesToEvenAndStaysInRange) {
-  for (const auto& [value, rounded] : {std::pair{0.5, 0}, {1.5, 2}, {-2.5, -2}, {1e300, std::numeric_limits<int>::max()},
-                                       {std::nan(""), 0}})
+  for (const auto& [value, rounded] :
+       {std::pair{0.5, 0}, {1.5, 2}, {-2.5, -2}, {1e300, std::numeric_limits<int>::max()}, {std::nan(""), 0}})
     EXPECT_EQ(Round(value), rounded) << value;
   EXPECT_EQ(Round16(-1e9), -32768);
 }
@@ -44,7 +44,8 @@ TEST(ShapeGeometry, KindsThatTwoPointsCannotTurnBecomeOthers) {
   EXPECT_EQ(square.Kind, kParallelogram);
   EXPECT_TRUE(square.Locked);
   ASSERT_EQ(square.NumBound, 3);
-  EXPECT_EQ(std::vector(square.Pts.begin(), square.Pts.begin() + 3), (std::vector<POINTAPI>{{0, 50}, {100, 50}, {100, 0}}));
+  EXPECT_EQ(std::vector(square.Pts.begin(), square.Pts.begin() + 3),
+            (std::vector<POINTAPI>{{0, 50}, {100, 50}, {100, 0}}));
 
   Shape flag = Finished(kFlag, {{50, 60}});
   Shape scaled = flag;
@@ -125,7 +126,8 @@ TEST(ShapeGeometry, APathFromADamagedFileStaysBounded) {
   Shape path;
   path.Kind = kSwingPath;
   path.NumBound = path.NumPts = 32767;
-  for (int i = 0; i < 32767; ++i) path.Pts.push_back(i % 2 ? POINTAPI{2147483647, 2147483647} : POINTAPI{-2147483647 - 1, 0});
+  for (int i = 0; i < 32767; ++i)
+    path.Pts.push_back(i % 2 ? POINTAPI{2147483647, 2147483647} : POINTAPI{-2147483647 - 1, 0});
   SmoothLine(path, 20, 0.2, true);
   EXPECT_LE(path.Pts.size(), 32767u);
   path.Locked = true;

@@ -40,16 +40,38 @@ TEST(ShapePainting, EveryKindIsDrawnWhereItsRuleSays) {
       {"circle", kEllipse, {{20, 20}, {120, 80}}, {{20, 50}, {120, 50}, {70, 20}, {70, 80}}, {{70, 50}, {22, 22}}},
       {"angle", kAngle, {{10, 10}, {10, 100}, {100, 100}}, {{10, 50}, {50, 100}}, {{55, 55}}},
       // The fourth corner lies opposite the second.
-      {"parallelogram", kParallelogram, {{20, 20}, {80, 20}, {110, 90}}, {{50, 20}, {95, 55}, {80, 90}, {35, 55}}, {{65, 55}}},
+      {"parallelogram",
+       kParallelogram,
+       {{20, 20}, {80, 20}, {110, 90}},
+       {{50, 20}, {95, 55}, {80, 90}, {35, 55}},
+       {{65, 55}}},
       // Ring at nine tenths, ticks from eight to ten tenths.
-      {"clock", kClock, {{0, 0}, {200, 200}}, {{190, 100}, {183, 100}, {197, 100}, {100, 183}}, {{170, 100}, {100, 100}}},
+      {"clock",
+       kClock,
+       {{0, 0}, {200, 200}},
+       {{190, 100}, {183, 100}, {197, 100}, {100, 183}},
+       {{170, 100}, {100, 100}}},
       // Turned by fifteen degrees; 83 from the centre, that far below the level.
       {"turned clock", kClock, {{0, 0}, {200, 200}, {15, 0}}, {{180, 121}}, {{183, 100}}},
       // Tip to the right: notch 18 back, barbs 30 long at twenty degrees.
       {"arrow", kArrow, {{20, 100}, {120, 100}}, {{60, 100}, {92, 90}, {92, 110}, {106, 95}}, {{108, 100}, {85, 92}}},
-      {"stick man", kStickMan,
-       {{100, 40}, {100, 90}, {80, 100}, {70, 110}, {60, 120}, {120, 100}, {130, 110}, {140, 120}, {100, 130}, {90, 150}, {80, 180}, {110, 150}, {120, 180}},
-       {{100, 10}, {70, 40}, {100, 80}, {100, 110}, {65, 115}, {135, 115}, {85, 165}, {115, 165}}, {{100, 40}}}};
+      {"stick man",
+       kStickMan,
+       {{100, 40},
+        {100, 90},
+        {80, 100},
+        {70, 110},
+        {60, 120},
+        {120, 100},
+        {130, 110},
+        {140, 120},
+        {100, 130},
+        {90, 150},
+        {80, 180},
+        {110, 150},
+        {120, 180}},
+       {{100, 10}, {70, 40}, {100, 80}, {100, 110}, {65, 115}, {135, 115}, {85, 165}, {115, 165}},
+       {{100, 40}}}};
   for (const Case& entry : cases) {
     SCOPED_TRACE(entry.name);
     Easel easel;
@@ -60,7 +82,8 @@ TEST(ShapePainting, EveryKindIsDrawnWhereItsRuleSays) {
     shape.Locked = true;
     easel.Draw(shape);
     for (const POINTAPI& point : entry.on) EXPECT_EQ(easel.At(point.x, point.y), kRed) << point.x << ", " << point.y;
-    for (const POINTAPI& point : entry.off) EXPECT_EQ(easel.At(point.x, point.y), kGround) << point.x << ", " << point.y;
+    for (const POINTAPI& point : entry.off)
+      EXPECT_EQ(easel.At(point.x, point.y), kGround) << point.x << ", " << point.y;
   }
 }
 
@@ -132,7 +155,8 @@ TEST(ShapePainting, AFinishedPathShinesWhereItWasFastest) {
   // Not unless it is asked for, nor before the path is finished, nor on two clicks.
   const Shape finished = path;
   path.Locked = false;
-  for (const auto& [plain, asked] : {std::pair{finished, false}, {path, true}, {Finished(kSwingPath, {{10, 20}, {190, 20}}), true}}) {
+  for (const auto& [plain, asked] :
+       {std::pair{finished, false}, {path, true}, {Finished(kSwingPath, {{10, 20}, {190, 20}}), true}}) {
     Easel other;
     other.look.PathHighlight = asked;
     other.Draw(plain);
@@ -234,7 +258,8 @@ TEST_F(WindowPainterTest, AnEmptySurfaceIsNoError) {
   colours_.assign(5, kRed);
   EXPECT_EQ(painter_.Paint(canvas, ShapesOf(list_), colours_, grid_, look_), std::nullopt);
   EXPECT_FALSE(DrawShape(list_.Shapes[0], canvas, look_));
-  EXPECT_EQ(ShapeEngine().DrawShapeError(list_.Shapes[0]), "Error drawing 'Line' object with 2 points, and 0 unbound points");
+  EXPECT_EQ(ShapeEngine().DrawShapeError(list_.Shapes[0]),
+            "Error drawing 'Line' object with 2 points, and 0 unbound points");
 }
 
 }  // namespace

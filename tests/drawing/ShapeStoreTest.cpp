@@ -28,7 +28,8 @@ TEST(ShapeStore, AnAngleIsFinishedByItsThirdPoint) {
   ShapeList list;
   Shape& angle = *engine.AddShape(list, kAngle, 0);
   EXPECT_EQ(angle.Colour, 77) << "no colour means the current one";
-  for (const auto& [point, fixed] : {std::pair{POINTAPI{10, 10}, false}, {{11, 10}, true}, {{50, 10}, false}, {{11, 10}, false}})
+  for (const auto& [point, fixed] :
+       {std::pair{POINTAPI{10, 10}, false}, {{11, 10}, true}, {{50, 10}, false}, {{11, 10}, false}})
     EXPECT_FALSE(engine.AddPoint(angle, point, fixed));
   EXPECT_EQ(angle.NumPts, 2);
   EXPECT_EQ(angle.Pts[1], (POINTAPI{50, 10})) << "back on the last fixed point, the floating one stays where it was";
@@ -96,11 +97,13 @@ TEST(ShapeStore, TheLogTellsOfADrawingWhenTheSettingsAskForIt) {
   std::istringstream log(drawn());
   std::vector<std::string> calls;
   for (std::string line; std::getline(log, line);) {
-    EXPECT_TRUE(std::regex_match(line.substr(0, 24), std::regex(R"(\d\d:\d\d:\d\d - )" + std::string(today) + " - "))) << line;
+    EXPECT_TRUE(std::regex_match(line.substr(0, 24), std::regex(R"(\d\d:\d\d:\d\d - )" + std::string(today) + " - ")))
+        << line;
     calls.push_back(line.substr(24));
   }
   EXPECT_THAT(calls, testing::IsSupersetOf({"Calling AddShape(3)", "Calling AddPoint((10, 20), True)",
-                                            "Calling AddPoint((90, 20), True)", "Calling LockShape()", "Calling KillShape(0)"}));
+                                            "Calling AddPoint((90, 20), True)", "Calling LockShape()",
+                                            "Calling KillShape(0)"}));
 }
 
 TEST(ShapeStore, ListsStretchAndFlip) {

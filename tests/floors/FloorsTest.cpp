@@ -80,7 +80,8 @@ std::vector<Source> ReadSources(const fs::path& root) {
 /// and the text library, which everybody may see. A header that nobody has declared is its own library.
 std::string LibraryOf(const std::string& header, const House& house) {
   static const std::regex kFree(R"(fmt/\w+\.h|sys/\w+\.h|\w+|(\w+)\.h)");
-  static const Names kSystem{"dirent", "fcntl", "langinfo", "locale", "malloc", "poll", "pthread", "sched", "signal", "spawn", "unistd"};
+  static const Names kSystem{"dirent",  "fcntl", "langinfo", "locale", "malloc", "poll",
+                             "pthread", "sched", "signal",   "spawn",  "unistd"};
   static const std::regex kQt("(Qt[A-Z]\\w*/)?Q[A-Za-z]\\w*");
   if (std::regex_match(header, kQt)) return "Qt6";
   for (const auto& [library, own] : house.foreign) {
@@ -132,7 +133,8 @@ std::vector<std::string> Faults(const House& house, const std::vector<Source>& s
       if (other == source.room) continue;
       (source.IsHeader() ? shown : used)[source.room].insert(other);
       if (!room.shows.contains(other) && !room.uses.contains(other)) fault("includes " + include + ", an unnamed room");
-      else if (source.IsHeader() && !room.shows.contains(other)) fault("shows " + include + ", a room named after USES");
+      else if (source.IsHeader() && !room.shows.contains(other))
+        fault("shows " + include + ", a room named after USES");
       if (inner.contains(name)) fault("includes " + include + ", which shows a foreign library");
     }
   }

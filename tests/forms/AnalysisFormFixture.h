@@ -21,7 +21,8 @@ namespace kinalyx::test {
 /// The page of the analysis section with real players, in a folder of its own; its controls are found by
 /// their names.
 struct AnalysisFormFixture : testing::Test, UsesApplication, FormDriver, INavigation {
-  explicit AnalysisFormFixture(QSize size = {1280, 800}) : folder(NewFolder()), settings(host, folder + "/data", folder) {
+  explicit AnalysisFormFixture(QSize size = {1280, 800})
+      : folder(NewFolder()), settings(host, folder + "/data", folder) {
     settings.LoadSettings();
     settings.LibraryPath = folder + "/library";
     Make(size);

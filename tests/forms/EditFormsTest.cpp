@@ -90,7 +90,8 @@ TEST_F(EditFormsTest, HandlesLieOnTheSelectionAndFollowTheMouse) {
   EXPECT_EQ(Shapes().NumShapes, 1);
   EXPECT_FALSE(Enabled("ribEBBtn")) << "one drawing is no many";
   Click("cmdEBBtn6");
-  for (const char* name : {"picEditBar", "EditKnob1", "EditMarks"}) EXPECT_FALSE(Find<QWidget>(name)->isVisible()) << name;
+  for (const char* name : {"picEditBar", "EditKnob1", "EditMarks"})
+    EXPECT_FALSE(Find<QWidget>(name)->isVisible()) << name;
 }
 
 TEST_F(EditFormsTest, TheBarGoesWithItsWindow) {
@@ -173,7 +174,8 @@ TEST_F(EditFormsTest, GridPanelAndClonePlan) {
   Send("b.avi");
   Stage().SelectWindow(1);
   EndTurn();
-  InDialog("CloneForm", [](QDialog& dialog) { QTest::keyClick(dialog.findChild<QPushButton*>("Command2"), Qt::Key_Return); });
+  InDialog("CloneForm",
+           [](QDialog& dialog) { QTest::keyClick(dialog.findChild<QPushButton*>("Command2"), Qt::Key_Return); });
   Click("CmdAfunctions1");
   EXPECT_EQ(Shapes(2).NumShapes, 0) << "Cancel clones nothing";
   InDialog("CloneForm", [](QDialog& dialog) {

@@ -24,7 +24,8 @@ class ApplicationForTests final : public ::testing::Environment {
 };
 
 // The test framework owns it.
-inline ::testing::Environment* const kApplicationForTests = ::testing::AddGlobalTestEnvironment(new ApplicationForTests);
+inline ::testing::Environment* const kApplicationForTests =
+    ::testing::AddGlobalTestEnvironment(new ApplicationForTests);
 
 /// Minimises a window and brings it back, as a desktop does.
 inline void PutAwayAndBack(QWidget& window) {

@@ -121,7 +121,8 @@ TEST_F(LibraryCommandsTest, NotesThatCannotBeStoredHoldUpTheOperation) {
 TEST_F(LibraryCommandsTest, AVideoThatIsOpenInAnalysisIsRefusedBeforeAnyDialog) {
   ChooseStudent("Sample, Erica");
   open = {page->Browser().VideoPath()};
-  const std::string video = "This video is open in the Analysis section. You must close the video before you can continue.";
+  const std::string video =
+      "This video is open in the Analysis section. You must close the video before you can continue.";
   for (const char* button : {"SPBtn5", "SPBtn6", "SPBtn7", "SPBtn8", "SPBtn9"}) {
     Press(button);
     EXPECT_EQ(library.host.messages.back(), video) << button;

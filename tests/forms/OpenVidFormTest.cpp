@@ -20,7 +20,8 @@ class OpenFormTest : public ::testing::Test, protected test::UsesApplication {
  protected:
   OpenFormTest() {
     const std::string video = test::MakeTestVideo(test::MjpegVideo(8));
-    for (const char* name : {"Demo/Tom/swing.avi", "Demo/Tom/putting face on.avi", "Demo/Tom/Putting Down the Line.AVI"})
+    for (const char* name :
+         {"Demo/Tom/swing.avi", "Demo/Tom/putting face on.avi", "Demo/Tom/Putting Down the Line.AVI"})
       std::filesystem::copy_file(video, library.File(name), std::filesystem::copy_options::overwrite_existing);
     library.File("Demo/Tom/swing.ved", "1XXXXNXX");
     remembered = {"Demo", "Tom", library.Path("Demo/Tom")};
@@ -30,7 +31,9 @@ class OpenFormTest : public ::testing::Test, protected test::UsesApplication {
     form->Open();
   }
 
-  QPushButton* Button(int index) { return form->template findChild<QPushButton*>(QString("CmdOpenVideo%1").arg(index)); }
+  QPushButton* Button(int index) {
+    return form->template findChild<QPushButton*>(QString("CmdOpenVideo%1").arg(index));
+  }
   NameList* VideoList() { return form->template findChild<NameList*>("VideoList"); }
 
   test::TempLibrary library;
@@ -73,7 +76,7 @@ TYPED_TEST(OpenFormTest, LoadsTheFilesOfAShortGameFamily) {
   this->VideoList()->setCurrentRow(1);
   this->Button(2)->click();
   EXPECT_EQ(this->opener.family, (std::vector<std::string>{this->library.Path("Demo/Tom/putting face on.avi"),
-                                                    this->library.Path("Demo/Tom/Putting Down the Line.AVI")}));
+                                                           this->library.Path("Demo/Tom/Putting Down the Line.AVI")}));
 }
 
 }  // namespace

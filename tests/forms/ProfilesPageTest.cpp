@@ -348,8 +348,9 @@ TEST_F(ProfilesPageTest, ALibraryThatHasGoneIsToldOf) {
   library.settings.LastInstructor = "Demo";  // as it is kept when a page is left
   std::filesystem::rename(library.Root(), library.Root() + " gone");
   Choose("InstructorList", "Demo");
-  EXPECT_EQ(List("StudentList")->Hint().toStdString(),
-            "The library folder " + library.Root() + " cannot be reached; choose another in Program Setup, under General.");
+  EXPECT_EQ(
+      List("StudentList")->Hint().toStdString(),
+      "The library folder " + library.Root() + " cannot be reached; choose another in Program Setup, under General.");
   LeavePage();
   Return();
   EXPECT_EQ(Rows("InstructorList"), QStringList("General Folder"));

@@ -51,13 +51,18 @@ std::string Clipped(const QWidget& form) {
     const QSize taken = widget->fontMetrics().size(0, words) + QSize(beside, 0);
     // The room of a line may be less than what the font keeps for accents.
     if (widget->width() < taken.width() || widget->height() + 3 < taken.height())
-      found << QString("%1 '%2' %3x%4 in %5x%6").arg(widget->objectName(), words).arg(taken.width()).arg(taken.height())
-                   .arg(widget->width()).arg(widget->height());
+      found << QString("%1 '%2' %3x%4 in %5x%6")
+                   .arg(widget->objectName(), words)
+                   .arg(taken.width())
+                   .arg(taken.height())
+                   .arg(widget->width())
+                   .arg(widget->height());
   };
   for (const auto* label : form.findChildren<QLabel*>())
     if (!label->wordWrap()) check(label, label->text(), 0);
   for (const auto* button : form.findChildren<QAbstractButton*>())
-    if (button->property("look") != "tile") check(button, button->text(), button->icon().isNull() ? 0 : button->iconSize().width());
+    if (button->property("look") != "tile")
+      check(button, button->text(), button->icon().isNull() ? 0 : button->iconSize().width());
   return found.join("; ").toStdString();
 }
 
@@ -103,8 +108,12 @@ TEST(Scale, FormsThatStandTakeTheSizesOfTheMainWindowAndGiveThemBack) {
     QTest::qWait(0);
     const auto pixels = [](const QWidget* widget) { return QFontInfo(widget->font()).pixelSize(); };
     const auto* test = page.findChild<QPushButton*>("SystemTestBtn");
-    return Seen{pixels(page.findChild<QLineEdit*>("UserNameBox")), pixels(form.findChild<QLabel*>("UserInfo0Lbl")),
-                page.findChild<QLineEdit*>("UserNameBox")->height(), test->height(), test->iconSize().width(), form.width()};
+    return Seen{pixels(page.findChild<QLineEdit*>("UserNameBox")),
+                pixels(form.findChild<QLabel*>("UserInfo0Lbl")),
+                page.findChild<QLineEdit*>("UserNameBox")->height(),
+                test->height(),
+                test->iconSize().width(),
+                form.width()};
   };
   const Seen small = look();
   EXPECT_EQ(small, (Seen{13, 11, 34, 34, 20, 440}));
@@ -157,8 +166,8 @@ TEST_F(ScaledAnalysis, NothingIsClippedOrCutOff) {
       Click(layout);
       QTest::qWait(0);
       EXPECT_EQ(Clipped(*form), "");
-      for (const char* name : {"CmdMakeShape0", "CmdMakeShape10", "DDSABtn", "Notesbutton", "CmdAfunctions4", "CmdButton3",
-                               "ColorChoiceBtn11", "Playbar"}) {
+      for (const char* name : {"CmdMakeShape0", "CmdMakeShape10", "DDSABtn", "Notesbutton", "CmdAfunctions4",
+                               "CmdButton3", "ColorChoiceBtn11", "Playbar"}) {
         QWidget* widget = Find<QWidget>(name);
         EXPECT_TRUE(widget->isVisible() && form->rect().contains(OnForm(widget))) << name;
       }

@@ -65,7 +65,8 @@ TEST_F(SetupPageTest, FillingTheControlsWritesNothing) {
 
 TEST_F(SetupPageTest, EveryControlWritesItsKeyAtOnce) {
   QSignalSpy analysis(page.get(), &SetupPage::AnalysisChanged);
-  for (const char* button : {"ScreenOpt4", "ODSetupOpt1", "ShortGameCheck", "Check1_8", "CadOutlineCheck", "DCSetupOpt1", "SSOption2_1"})
+  for (const char* button :
+       {"ScreenOpt4", "ODSetupOpt1", "ShortGameCheck", "Check1_8", "CadOutlineCheck", "DCSetupOpt1", "SSOption2_1"})
     Press(button);
   Find<QSlider>("Slomoscroll")->setValue(40);
   Find<QSlider>("GridSizeScroll")->setValue(12);
@@ -92,16 +93,22 @@ TEST_F(SetupPageTest, EveryControlWritesItsKeyAtOnce) {
   const struct {
     const char *section, *key;
     std::string value;
-  } written[] = {
-      {"General", "ScreenMode", "4"},         {"Analysis", "OpenDlgChoice", "1"},
-      {"Analysis", "ShortGame", "1"},         {"Analysis", "GridSize", "12"},
-      {"Analysis", "SlomoSpeed", "40"},
-      {"Analysis", "StrobeStep", "4"},        {"Analysis", "CadWidth", "8"},
-      {"Analysis", "CadOutline", "False"},    {"Analysis", "RandomColor", "1"},
-      {"Ruler", "NTSCorPAL", "1"},            {"General", "Logo", "False"},
-      {"General", "CompanyName", "Links"},    {"General", "Heading2", "Links Golf"},
-      {"General", "CaptionPosition", "2"},    {"General", "UserName", "Erica S\xC3\xA4mple"},
-      {"General", "LogoName", folder.Path("our.png")}};
+  } written[] = {{"General", "ScreenMode", "4"},
+                 {"Analysis", "OpenDlgChoice", "1"},
+                 {"Analysis", "ShortGame", "1"},
+                 {"Analysis", "GridSize", "12"},
+                 {"Analysis", "SlomoSpeed", "40"},
+                 {"Analysis", "StrobeStep", "4"},
+                 {"Analysis", "CadWidth", "8"},
+                 {"Analysis", "CadOutline", "False"},
+                 {"Analysis", "RandomColor", "1"},
+                 {"Ruler", "NTSCorPAL", "1"},
+                 {"General", "Logo", "False"},
+                 {"General", "CompanyName", "Links"},
+                 {"General", "Heading2", "Links Golf"},
+                 {"General", "CaptionPosition", "2"},
+                 {"General", "UserName", "Erica S\xC3\xA4mple"},
+                 {"General", "LogoName", folder.Path("our.png")}};
   for (const auto& [section, key, value] : written) EXPECT_EQ(OnDisk(section, key), value) << key;
 
   Press("DefaultLogoBtn");
@@ -191,7 +198,8 @@ TEST_F(SetupPageTest, TheWheelTurnsThePageAndChangesNothing) {
     auto* control = Find<QWidget>(name);
     control->setFocus();
     const QPointF at = control->rect().center();
-    QWheelEvent wheel(at, control->mapToGlobal(at), {}, QPoint(0, -120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QWheelEvent wheel(at, control->mapToGlobal(at), {}, QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
     QApplication::sendEvent(control, &wheel);
   }
   EXPECT_EQ(settings.WindowMode, "1");

@@ -41,7 +41,8 @@ TEST_F(DatabaseTransfer, CopiesToADiskAndCounts) {
 
 TEST_F(DatabaseTransfer, ADatabaseGoesOutAndComesBackAgainAndAgain) {
   library.File("loose.avi", "loose");
-  EXPECT_EQ(Export({DL(), FO(), Video("General Folder", "", "loose")}, drive.Path()).Status(), "3 File(s) exported successfully!");
+  EXPECT_EQ(Export({DL(), FO(), Video("General Folder", "", "loose")}, drive.Path()).Status(),
+            "3 File(s) exported successfully!");
   EXPECT_EQ(heard->statuses.front(), "Exporting Videos, Please Wait.....");
   EXPECT_EQ(heard->statuses.back(), "3 of 3 Videos Successfully exported.....Please wait...");
   EXPECT_EQ(drive.Get("Ann/Joe Doe/(001) DL.ved"), "1XXXSXXX");
@@ -50,7 +51,9 @@ TEST_F(DatabaseTransfer, ADatabaseGoesOutAndComesBackAgainAndAgain) {
 
   fs::remove_all(library.Path("Ann"));
   heard->statuses.clear();
-  const auto abroad = [&](const char* name) { return LibraryVideo{"Ann", "Joe Doe", drive.Path("Ann/Joe Doe/") + name}; };
+  const auto abroad = [&](const char* name) {
+    return LibraryVideo{"Ann", "Joe Doe", drive.Path("Ann/Joe Doe/") + name};
+  };
   EXPECT_EQ(Import({abroad("(001) DL.avi"), abroad("(002) FO.avi")}).Status(), "2 File(s) Imported successfully!");
   EXPECT_EQ(heard->statuses.front(), "Importing Videos... Please Wait.....");
   EXPECT_EQ(heard->statuses.back(), "2 of 2 Videos Successfully Imported.");

@@ -37,7 +37,8 @@ TEST_F(LibraryHintsTest, EachEmptyListSaysWhatFillsIt) {
     const char *instructor, *student;
     const char *students, *videos;
   } kCases[] = {
-      {Kind::Profiles, "", "", "Choose an instructor to see the golfers.", "No videos lie in the library folder itself."},
+      {Kind::Profiles, "", "", "Choose an instructor to see the golfers.",
+       "No videos lie in the library folder itself."},
       {Kind::Profiles, "Demo", "", "No golfers here yet. Add the first one beneath this list.",
        "Choose a golfer to see the videos."},
       {Kind::OpenVideo, "Demo", "Tom", "No golfers here yet.",

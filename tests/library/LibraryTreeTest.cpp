@@ -25,9 +25,9 @@ struct LibraryBrowserTest : ::testing::Test {
 };
 
 TEST_F(LibraryBrowserTest, ShowsEveryVideoUnderItsOwnFolderOnly) {
-  for (const char* name : {"loose.avi", "notes.txt", "Demo/stray.avi", "Demo/Sample, Erica/a.b.avi",
-                           "Demo/Sample, Erica/(10) FO.AVI", "Demo/Sample, Erica/(9) FO.avi",
-                           "Demo/Sample, Erica/(9) FO.ved", "Quick Launch/fast.avi"})
+  for (const char* name :
+       {"loose.avi", "notes.txt", "Demo/stray.avi", "Demo/Sample, Erica/a.b.avi", "Demo/Sample, Erica/(10) FO.AVI",
+        "Demo/Sample, Erica/(9) FO.avi", "Demo/Sample, Erica/(9) FO.ved", "Quick Launch/fast.avi"})
     library.File(name);
   browser.CapfolderSetup();
   EXPECT_EQ(browser.InstructorList(), (Names{"General Folder", "Demo", "Quick Launch"}));
@@ -143,15 +143,19 @@ TEST(VideoStats, ReadsLikeASentence) {
   video.frameCount = 90;
   video.durationMs = 3003;
   video.fileBytes = 11'534'336;
-  EXPECT_EQ(StatsOf(video, 24), (VideoStats{"dvsd", "720", "480", "29.97 FPS", "90 Frames", "3 Seconds", "11.0 MB",
-                                            "24 BPP", "No sound"}));
+  EXPECT_EQ(StatsOf(video, 24),
+            (VideoStats{"dvsd", "720", "480", "29.97 FPS", "90 Frames", "3 Seconds", "11.0 MB", "24 BPP", "No sound"}));
   EXPECT_EQ(StatsOf({}, 0)[3], "0 FPS");
 }
 
 TEST(VideoStats, FileSizesTakeTheUnitThatReadsBest) {
-  const std::pair<std::int64_t, const char*> sizes[] = {
-      {-1, "0 bytes"},      {1023, "1023 bytes"},   {1024, "1.00 KB"},          {10'239, "10.0 KB"},
-      {1'048'575, "1.00 MB"}, {1'500'000'000, "1.40 GB"}, {std::int64_t(1) << 52, "4096.0 TB"}};
+  const std::pair<std::int64_t, const char*> sizes[] = {{-1, "0 bytes"},
+                                                        {1023, "1023 bytes"},
+                                                        {1024, "1.00 KB"},
+                                                        {10'239, "10.0 KB"},
+                                                        {1'048'575, "1.00 MB"},
+                                                        {1'500'000'000, "1.40 GB"},
+                                                        {std::int64_t(1) << 52, "4096.0 TB"}};
   for (const auto& [bytes, text] : sizes) EXPECT_EQ(FormatFileSize(bytes), text);
 }
 

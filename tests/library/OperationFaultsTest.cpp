@@ -21,8 +21,12 @@ const Operation kOperations[] = {
        return t.Run(&LibraryOperations::QuickLaunch, t.DL());
      }},
     {"rename student", [](OperationsFixture& t) { return t.Ops().RenameStudent("Ann", "Joe Doe", "new"); }},
-    {"move student", [](OperationsFixture& t) { return t.Run(&LibraryOperations::MoveStudent, "Ann", "Joe Doe", "Bob"); }},
-    {"import", [](OperationsFixture& t) { return t.Import({{"Carl", "Joe Doe", t.DL().path}}); }},
+    {"move student",
+     [](OperationsFixture& t) { return t.Run(&LibraryOperations::MoveStudent, "Ann", "Joe Doe", "Bob"); }},
+    {"import",
+     [](OperationsFixture& t) {
+       return t.Import({{"Carl", "Joe Doe", t.DL().path}});
+     }},
 };
 
 /// The first video, its drawings and the profile are somewhere, nothing is left behind, and drawings never

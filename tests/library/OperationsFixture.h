@@ -35,8 +35,8 @@ class OperationsFixture : public testing::Test {
 
   LibraryOperations& Ops() {
     if (!operations) {
-      operations = std::make_unique<LibraryOperations>(
-          library.host, library.settings, analysis, LibraryOperations::Environment{JobRunner::On::HostTimer, disk});
+      operations = std::make_unique<LibraryOperations>(library.host, library.settings, analysis,
+                                                       LibraryOperations::Environment{JobRunner::On::HostTimer, disk});
     }
     return *operations;
   }
@@ -47,7 +47,8 @@ class OperationsFixture : public testing::Test {
   }
 
   LibraryVideo Video(const std::string& instructor, const std::string& student, const std::string& name) {
-    const std::string folder = instructor == kGeneralFolder ? "" : instructor + "/" + (student.empty() ? "" : student + "/");
+    const std::string folder =
+        instructor == kGeneralFolder ? "" : instructor + "/" + (student.empty() ? "" : student + "/");
     return {instructor, student, library.Path(folder + name + ".avi")};
   }
   LibraryVideo DL() { return Video("Ann", "Joe Doe", "(001) DL"); }

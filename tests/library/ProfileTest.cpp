@@ -68,7 +68,8 @@ TEST_F(ProfileTest, AFolderWithoutAProfileGainsOne) {
 
 TEST_F(ProfileTest, OldProfilesKeepTheirNameUnderItsPresentKey) {
   library.File("Demo/Sample, Erica/profile.prf",
-               "[Profile]\r\nBowler Name=Second\r\nGolfer Name=Erica Sample\r\nAge=31\r\nAddress=Stra\xDF" "e 5\r\n");
+               "[Profile]\r\nBowler Name=Second\r\nGolfer Name=Erica Sample\r\nAge=31\r\nAddress=Stra\xDF"
+               "e 5\r\n");
   const Profile profile = Open();
   EXPECT_EQ(profile.values[0], "Sample, Erica");  // the folder is the authority
   EXPECT_EQ(profile.values[6], "31");
@@ -186,9 +187,9 @@ TEST_F(ProfileTest, NewNamesAreCheckedInOrder) {
   EXPECT_EQ(addStudent(std::string(300, 'x')), "An error has occurred while creating the profile");
 
   const std::pair<const char*, const char*> instructors[] = {
-      {"", "Invalid character in Name"},      {"50%", "Invalid character in Name"},
-      {"   ", "You must type a name!"},       {"Anna", "Anna successfully added!"},
-      {"Anna", "Anna already exists."},       {"General Folder", "General Folder already exists."}};
+      {"", "Invalid character in Name"}, {"50%", "Invalid character in Name"},
+      {"   ", "You must type a name!"},  {"Anna", "Anna successfully added!"},
+      {"Anna", "Anna already exists."},  {"General Folder", "General Folder already exists."}};
   for (const auto& [name, words] : instructors) EXPECT_EQ(Words(AddInstructor(library.Root(), name)), words);
   EXPECT_TRUE(std::filesystem::is_directory(library.Path("Anna")));
   const std::string file = library.File("no folder");

@@ -50,17 +50,22 @@ TEST(SidecarMerge, WhatIHaveNotTouchedFollowsTheOther) {
     own.Shapes = merged.own;
     own.PictureWidth = width;
     own.PictureHeight = height;
-    EXPECT_EQ(MergeVideoData(own, InFile(merged.whole, width, height), own).whole.Shapes, InFile(merged.whole, width, height).Shapes);
+    EXPECT_EQ(MergeVideoData(own, InFile(merged.whole, width, height), own).whole.Shapes,
+              InFile(merged.whole, width, height).Shapes);
   }
   const MergedData uneven = MergeVideoData(mine, InFile(theirs, 500, 333), base);
   EXPECT_EQ(uneven.whole.Shapes.NumShapes, 6);
-  EXPECT_EQ(uneven.whole.Shapes.Shapes[3], InFile(theirs, 500, 333).Shapes.Shapes[4]) << "what is theirs stays to the point";
+  EXPECT_EQ(uneven.whole.Shapes.Shapes[3], InFile(theirs, 500, 333).Shapes.Shapes[4])
+      << "what is theirs stays to the point";
 }
 
 TEST(SidecarMerge, TheSameChangeIsOneAndTwinsStayTwo) {
   const SlotData base = Drawn({Line(1, 10), Line(2, 10)});
-  EXPECT_EQ(MergeVideoData(Drawn({Line(1, 10), Line(2, 15)}), Drawn({Line(0, 10), Line(0, 15)}), base).whole.Shapes.NumShapes, 2);
-  EXPECT_EQ(MergeVideoData(Drawn({Line(1, 10)}), InFile(base), base).whole.Shapes.NumShapes, 1) << "one of two alike deleted";
+  EXPECT_EQ(
+      MergeVideoData(Drawn({Line(1, 10), Line(2, 15)}), Drawn({Line(0, 10), Line(0, 15)}), base).whole.Shapes.NumShapes,
+      2);
+  EXPECT_EQ(MergeVideoData(Drawn({Line(1, 10)}), InFile(base), base).whole.Shapes.NumShapes, 1)
+      << "one of two alike deleted";
   SlotData mine = base, theirs = InFile(base);
   mine.SplitFields = true;
   theirs.Wide = true;

@@ -18,9 +18,9 @@ std::string Int32(int value) { return Int16(value & 0xFFFF) + Int16((value >> 16
 
 /// A finished line from (1, 2) to (300, -4) as other programs store it, without its colour.
 std::string LineRecord() {
-  return Int16(2) + Int16(2) + Int16(3) + Int16(-1)                                          // counts, kind, locked
+  return Int16(2) + Int16(2) + Int16(3) + Int16(-1)  // counts, kind, locked
          + Int16(1) + Int32(3) + Int32(0) + Int32(1) + Int32(2) + Int32(300) + Int32(-4) + Int32(0) + Int32(0)  // Pts
-         + Int16(0);                                                                         // SavedPts
+         + Int16(0);  // SavedPts
 }
 
 Shape Line() {
@@ -61,7 +61,11 @@ class SidecarTest : public ::testing::Test {
 
 TEST_F(SidecarTest, ReadsAndWritesEveryBlockByteForByte) {
   const std::string bytes = "1WRSSNCF" + kReserved + Int16(9600) + Int16(7200) + Int16(1) + Int16(7) + LineRecord() +
-                            Int32(0xFF) + Int16(11) + "Gr\xFC\xDF" "e\r\n50\x80" "!" + Int16(4) + "29.5" + Int16(4) + "29.5";
+                            Int32(0xFF) + Int16(11) +
+                            "Gr\xFC\xDF"
+                            "e\r\n50\x80"
+                            "!" +
+                            Int16(4) + "29.5" + Int16(4) + "29.5";
   const SlotData data = Read(bytes);
   EXPECT_TRUE(data.Wide && data.ReverseFields && data.SplitFields);
   EXPECT_EQ(data.PictureWidth, 640);
@@ -96,7 +100,7 @@ TEST_F(SidecarTest, WithoutOneTheVideoDecidesHowItsFieldsAreShown) {
     VideoInfo video;
     bool reverse, split;
   } kinds[] = {
-      {Video("dvsd", 720, 480, 30), true, true},  {Video("DVSD", 720, 576, 25), true, true},
+      {Video("dvsd", 720, 480, 30), true, true},   {Video("DVSD", 720, 576, 25), true, true},
       {Video("dvsd", 640, 480, 30), false, false}, {Video("IV50", 640, 480, 32), false, true},
       {Video("IV50", 640, 480, 31), false, false}, {Video("MJPG", 720, 480, 60), false, false},
   };
@@ -114,8 +118,8 @@ TEST_F(SidecarTest, WithoutOneTheVideoDecidesHowItsFieldsAreShown) {
 }
 
 TEST_F(SidecarTest, ConvertsOldFilesOnSight) {
-  const std::string old = "VRXSN" + Int16(4800) + Int16(3600) + Int16(2) + Int16(5) + LineRecord() + LineRecord() +
-                          Int16(3) + "old";
+  const std::string old =
+      "VRXSN" + Int16(4800) + Int16(3600) + Int16(2) + Int16(5) + LineRecord() + LineRecord() + Int16(3) + "old";
   const SlotData data = Read(old);
   EXPECT_TRUE(data.ReverseFields && data.SplitFields);
   EXPECT_EQ(data.PictureWidth, 320);
@@ -129,7 +133,8 @@ TEST_F(SidecarTest, ConvertsOldFilesOnSight) {
   EXPECT_EQ(ReadVideoData(path, {}, kToolColours).Shapes, data.Shapes);
 
   // What the picture demands goes before what the file says; the last record may end the file.
-  const SlotData dv = Read("V--SX" + Int16(0) + Int16(0) + Int16(1) + Int16(1) + LineRecord(), Video("dvsd", 720, 480, 30));
+  const SlotData dv =
+      Read("V--SX" + Int16(0) + Int16(0) + Int16(1) + Int16(1) + LineRecord(), Video("dvsd", 720, 480, 30));
   EXPECT_TRUE(dv.ReverseFields && dv.SplitFields);
   EXPECT_EQ(dv.Shapes.Shapes[0], Line());
 }
@@ -141,7 +146,8 @@ TEST_F(SidecarTest, AFileCutShortGivesWhatItHoldsAndNothingInvented) {
     const SlotData data = Read(whole.substr(0, length));
     EXPECT_LE(data.Shapes.NumShapes, 2);
     EXPECT_EQ(data.Unread, length != 0 && length != whole.size()) << length;
-    for (const Shape& shape : ShapesOf(data.Shapes)) EXPECT_LE(static_cast<std::size_t>(shape.NumPts), shape.Pts.size());
+    for (const Shape& shape : ShapesOf(data.Shapes))
+      EXPECT_LE(static_cast<std::size_t>(shape.NumPts), shape.Pts.size());
   }
   EXPECT_FALSE(Read(whole).Unread);
   EXPECT_EQ(Read(whole.substr(0, whole.size() - 2)).Notes, "not  ");
@@ -158,11 +164,12 @@ TEST_F(SidecarTest, WhatDoesNotComeOutEvenIsUnreadAndNotConverted) {
   const std::string head = "1XXXSNXX" + kReserved + Int16(9600) + Int16(7200) + Int16(1) + Int16(1);
   const std::string tail = Int16(5) + "notes";
   ASSERT_FALSE(Read(head + drawing + tail).Unread);
-  const std::string dimensions = std::string(drawing).replace(8, 1, "\2"), points = std::string(drawing).replace(11, 1, "\1"),
+  const std::string dimensions = std::string(drawing).replace(8, 1, "\2"),
+                    points = std::string(drawing).replace(11, 1, "\1"),
                     bound = std::string(drawing).replace(0, 1, "\4"), lower = std::string(drawing).replace(14, 1, "\1");
   for (const std::string& bytes :
-       {head + dimensions + tail, head + points + tail, head + bound + tail, head + lower + tail,   // one byte
-        head + drawing + tail + "X", "1XXXTNXX" + head.substr(8) + drawing + tail,                  // left over
+       {head + dimensions + tail, head + points + tail, head + bound + tail, head + lower + tail,      // one byte
+        head + drawing + tail + "X", "1XXXTNXX" + head.substr(8) + drawing + tail,                     // left over
         "1XXXSXXX" + kReserved + Int16(1) + Int16(1) + Int16(-1) + Int16(1), std::string("1XXXXNXX"),  // missing
         "VRXSN" + head.substr(28) + LineRecord() + tail + "X"}) {
     EXPECT_TRUE(Read(bytes).Unread);
@@ -176,14 +183,16 @@ TEST_F(SidecarTest, NotesInAnyLettersComeBackAndOtherProgramsReadWhatTheyCan) {
   SlotData data;
   data.Notes = text;
   const std::string bytes = Written(data);
-  EXPECT_EQ(bytes, "1XXXXNXX" + kReserved + Int16(int(narrow.size())) + narrow + "UTF" + Int32(int(text.size())) + text);
+  EXPECT_EQ(bytes,
+            "1XXXXNXX" + kReserved + Int16(int(narrow.size())) + narrow + "UTF" + Int32(int(text.size())) + text);
   EXPECT_EQ(Read(bytes).Notes, text);
   EXPECT_FALSE(Read(bytes).Unread);
   // A program that knows nothing of them has changed the notes since.
   std::string edited = bytes;
   edited.replace(edited.find("nogi"), 4, "legs");
   EXPECT_EQ(Read(edited).Notes, "?ukasz: legs ?\u00F3?wia\r\n?");
-  for (const std::string& damaged : {bytes.substr(0, bytes.size() - 1), bytes + "X", bytes.substr(0, bytes.size() - 1) + "\xFF"}) {
+  for (const std::string& damaged :
+       {bytes.substr(0, bytes.size() - 1), bytes + "X", bytes.substr(0, bytes.size() - 1) + "\xFF"}) {
     EXPECT_TRUE(Read(damaged).Unread);
     EXPECT_EQ(Read(damaged).Notes.substr(0, 6), "?ukasz");
   }

@@ -93,7 +93,8 @@ TEST_F(StudentOperations, AddsAStudentWhereNobodyElseIs) {
   values[kNameField] = " Tom ";
   EXPECT_EQ(Ops().AddStudent("Ann", captions, values).student, "Tom");
   EXPECT_EQ(ReadProfileValue("Profile", "Name", library.Path("Ann/Tom/profile.prf")), "Tom");
-  for (const char* nowhere : {"", "General Folder", "Carl"}) EXPECT_FALSE(Ops().AddStudent(nowhere, captions, values).Done());
+  for (const char* nowhere : {"", "General Folder", "Carl"})
+    EXPECT_FALSE(Ops().AddStudent(nowhere, captions, values).Done());
   EXPECT_FALSE(Exists("Tom") || Exists("Carl"));
 }
 
@@ -143,16 +144,19 @@ TEST_F(StudentOperations, NamesThatDifferInCaseAloneAreTaken) {
   EXPECT_FALSE(Ops().AddInstructor("ANN").Done());
   EXPECT_FALSE(Ops().AddInstructor("general folder").Done());
   EXPECT_FALSE(Ops().RenameInstructor("Bob", "ann").Done());
-  EXPECT_EQ(Ops().RenameStudent("Ann", "Joe Doe", "zoë").Status(), "The name you have chosen already exists in the database.");
+  EXPECT_EQ(Ops().RenameStudent("Ann", "Joe Doe", "zoë").Status(),
+            "The name you have chosen already exists in the database.");
   EXPECT_FALSE(Move("Ann", "Joe Doe", "Bob").Done());
-  EXPECT_EQ(Ops().RenameVideo(DL(), "(002) fo").Status(), "The video name you have chosen already exists, please try again.");
+  EXPECT_EQ(Ops().RenameVideo(DL(), "(002) fo").Status(),
+            "The video name you have chosen already exists, please try again.");
   EXPECT_EQ(ListFolders(library.Path("Ann")), (std::vector<std::string>{"Joe Doe", "Zoë"}));
   EXPECT_TRUE(Ops().RenameVideo(DL(), "(001) dl").Done()) << "its own name in another case is free for it";
 }
 
 TEST_F(StudentOperations, RenamesAnInstructorAndRemovesOneWhoIsEmpty) {
   for (const char* taken : {"Bob", "General Folder", "Quick Launch"})
-    EXPECT_EQ(Ops().RenameInstructor("Ann", taken).Status(), "There is already an Instructor or Database with this name.");
+    EXPECT_EQ(Ops().RenameInstructor("Ann", taken).Status(),
+              "There is already an Instructor or Database with this name.");
   EXPECT_EQ(Ops().RenameInstructor("Ann", "A:B").Status(), "Invalid character in Name");
   library.Folder("Quick Launch");
   EXPECT_FALSE(Ops().RenameInstructor("Quick Launch", "X").Done());

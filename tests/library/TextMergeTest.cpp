@@ -29,7 +29,8 @@ TEST(TextMerge, KeepsTheChangesOfBoth) {
        "a\n\nx\n\nmine\ntheirs\n"},
       {"one empties the notes, the other adds to them", "a\nb", "", "a\nb\nc", "c"},
       {"one adds to a line that the other corrects", "x", "x\nm", "y", "y\nm"},
-      {"one goes on in a line before which the other writes", "a\n日本\n", "a\n日本語\n", "a\nb\n日本\n", "a\nb\n日本語\n"},
+      {"one goes on in a line before which the other writes", "a\n日本\n", "a\n日本語\n", "a\nb\n日本\n",
+       "a\nb\n日本語\n"},
       {"both begin", "", "mine", "theirs", "mine\r\ntheirs"},
   };
   for (const Case& one : cases) EXPECT_EQ(MergeTexts(one.base, one.mine, one.theirs), one.merged) << one.story;

@@ -31,7 +31,8 @@ TEST_F(VideoOperations, NothingHappensWithoutAChoiceOrToAVideoThatIsOpenInAnalys
 }
 
 TEST_F(VideoOperations, RenamesAVideoWithItsSidecar) {
-  for (const char* bad : {"50%", ""}) EXPECT_EQ(Ops().RenameVideo(DL(), bad).Status(), "Invalid character in student name.");
+  for (const char* bad : {"50%", ""})
+    EXPECT_EQ(Ops().RenameVideo(DL(), bad).Status(), "Invalid character in student name.");
   EXPECT_EQ(Ops().RenameVideo(DL(), "(002) FO").Status(),
             "The video name you have chosen already exists, please try again.");
   // Drawings that lost their video must not turn up on another.
@@ -87,7 +88,8 @@ TEST_F(VideoOperations, MovesAVideo) {
   EXPECT_EQ(move("Bob", "Link"), same);
   library.File("Bob/Sue/(001) DL.AVI", "Sue's own");
   EXPECT_EQ(move("Bob", "Sue"),
-            "A video with the name \"(001) DL\" already exists in the folder named Sue. Please rename the video and try again.");
+            "A video with the name \"(001) DL\" already exists in the folder named Sue. Please rename the video and "
+            "try again.");
   move("Bob", "Nobody");
   EXPECT_TRUE(Told("cannot be found"));
   EXPECT_FALSE(Exists("Bob/Nobody"));
@@ -110,8 +112,9 @@ TEST_F(VideoOperations, QuickLaunchTakesCopiesAndGivesThemUp) {
   EXPECT_EQ(library.host.titles.back(), "Copy video to Quick Launch Folder");
   EXPECT_EQ(Read("Quick Launch/(001) DL.ved"), "1XXXSXXX");
   EXPECT_TRUE(Exists("Ann/Joe Doe/(001) DL.avi"));
-  EXPECT_EQ(quickLaunch(DL(), true),
-            "There is already a video with the same name in the Quick Launch folder. The copy process will be cancelled.");
+  EXPECT_EQ(
+      quickLaunch(DL(), true),
+      "There is already a video with the same name in the Quick Launch folder. The copy process will be cancelled.");
 
   const LibraryVideo there = Video("Quick Launch", "", "(001) DL");
   EXPECT_EQ(quickLaunch(there, false), "");

@@ -26,7 +26,7 @@ class TestHost final : public IHost {
   std::vector<std::string> titles;    ///< their titles
   std::vector<std::string> notes;     ///< what was written to the log
   std::vector<std::string> questions;
-  std::deque<bool> answers;           ///< taken from the front; without one the answer is no
+  std::deque<bool> answers;  ///< taken from the front; without one the answer is no
   std::deque<std::optional<std::string>> files;
   std::vector<std::string> manyFiles;  ///< what the next choice of several files gives
   std::vector<std::string> shownFolders;
@@ -34,10 +34,10 @@ class TestHost final : public IHost {
   std::string suggested;  ///< the path that the last of them was asked with
   std::deque<std::optional<std::string>> folders;
   std::vector<std::vector<std::string>> started;  ///< program and arguments
-  bool drivesHang = false;            ///< what a drive is asked from now on waits for DrivesAnswer
-  bool stopsWaiting = true;           ///< the user presses "Stop Waiting" as soon as there is a card
-  std::vector<std::string> waits;     ///< texts of the cards that were shown
-  std::function<void()> onDoEvents;   ///< what the user does while the program lets events run
+  bool drivesHang = false;                        ///< what a drive is asked from now on waits for DrivesAnswer
+  bool stopsWaiting = true;                       ///< the user presses "Stop Waiting" as soon as there is a card
+  std::vector<std::string> waits;                 ///< texts of the cards that were shown
+  std::function<void()> onDoEvents;               ///< what the user does while the program lets events run
 
   /// Turns the clock on, running every timer at its own moment.
   void Advance(std::int64_t milliseconds) {

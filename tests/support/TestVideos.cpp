@@ -88,9 +88,10 @@ void PaintTestPicture(const TestVideo& video, int number, std::vector<std::uint8
 
 std::string MakeTestVideo(const TestVideo& video) {
   const VideoFormat& f = video.format;
-  const std::string name = fmt::format("{}{}-{}x{}-{}-{}-g{}b{}q{}{}{}-{}.avi", f.fourCC, static_cast<int>(f.codec),
-                                       f.width, f.height, f.rate, f.scale, f.keyInterval, f.bFrames, f.quality,
-                                       f.bottomFieldFirst ? "-bff" : "", video.fieldsDiffer ? "-fields" : "", video.frames);
+  const std::string name =
+      fmt::format("{}{}-{}x{}-{}-{}-g{}b{}q{}{}{}-{}.avi", f.fourCC, static_cast<int>(f.codec), f.width, f.height,
+                  f.rate, f.scale, f.keyInterval, f.bFrames, f.quality, f.bottomFieldFirst ? "-bff" : "",
+                  video.fieldsDiffer ? "-fields" : "", video.frames);
   if (const auto made = TheCache().made.find(name); made != TheCache().made.end()) return made->second;
 
   const std::string path = TestPath(name);

@@ -21,10 +21,10 @@ struct TestVideo {
 };
 
 /// Ready-made kinds for tests that do not care about the details.
-TestVideo DvVideo(int frames);                 ///< 720 x 480, 29.97, interlaced, fields differ
-TestVideo MjpegVideo(int frames);              ///< 320 x 240, 30
-TestVideo H264Video(int frames);               ///< 320 x 240, 30, GOP 250, two B frames
-TestVideo RawVideo(int frames);                ///< 90 x 60, 30, bottom-up
+TestVideo DvVideo(int frames);     ///< 720 x 480, 29.97, interlaced, fields differ
+TestVideo MjpegVideo(int frames);  ///< 320 x 240, 30
+TestVideo H264Video(int frames);   ///< 320 x 240, 30, GOP 250, two B frames
+TestVideo RawVideo(int frames);    ///< 90 x 60, 30, bottom-up
 
 /// Makes the video in a temporary folder, once per process for equal wishes, and gives its path. Empty
 /// when it could not be written. The file belongs to the cache: copy it before changing it.

@@ -172,13 +172,24 @@ TEST(AVIControl, AStandInGivesWayToTheExactPicture) {
 TEST(AVIControl, KeepsItsSettingsInABag) {
   Player player;
   player->ReadProperties({});
-  const PropertyBag defaults{{"Loop", 0}, {"DrawStyle", 0}, {"DrawMode", 13}, {"DrawWidth", 1}, {"ForeColor", 0x80000012},
-                             {"BackColor", 0x8000000F}, {"KeyColor", 0}, {"FlipH", 0}, {"SplitFields", 0},
-                             {"ForceFormat", 3}, {"Speed", 100}, {"ID", 0}, {"Soften", 0}, {"CompSpeed", 1}};
+  const PropertyBag defaults{{"Loop", 0},
+                             {"DrawStyle", 0},
+                             {"DrawMode", 13},
+                             {"DrawWidth", 1},
+                             {"ForeColor", 0x80000012},
+                             {"BackColor", 0x8000000F},
+                             {"KeyColor", 0},
+                             {"FlipH", 0},
+                             {"SplitFields", 0},
+                             {"ForceFormat", 3},
+                             {"Speed", 100},
+                             {"ID", 0},
+                             {"Soften", 0},
+                             {"CompSpeed", 1}};
   EXPECT_EQ(player->WriteProperties(), defaults);
-  const PropertyBag others{{"Loop", -1}, {"DrawStyle", 2}, {"DrawMode", 7}, {"DrawWidth", 3}, {"ForeColor", 255},
-                           {"BackColor", 5}, {"KeyColor", 77}, {"FlipH", -1}, {"SplitFields", -1},
-                           {"ForceFormat", 4}, {"Speed", 25}, {"ID", 8}, {"Soften", -1}, {"CompSpeed", 9}};
+  const PropertyBag others{{"Loop", -1},     {"DrawStyle", 2}, {"DrawMode", 7}, {"DrawWidth", 3},    {"ForeColor", 255},
+                           {"BackColor", 5}, {"KeyColor", 77}, {"FlipH", -1},   {"SplitFields", -1}, {"ForceFormat", 4},
+                           {"Speed", 25},    {"ID", 8},        {"Soften", -1},  {"CompSpeed", 9}};
   player->ReadProperties(others);
   EXPECT_EQ(player->WriteProperties(), others);
 

@@ -12,7 +12,8 @@ namespace {
 using std::vector;
 
 TEST(ScanLineBytes, PadsRowsToFourBytes) {
-  for (const auto& [bits, bytes] : {std::pair{24, 272}, {32, 360}, {16, 180}, {8, 92}, {4, 48}, {2, 24}, {1, 12}, {12, 0}, {0, 0}})
+  for (const auto& [bits, bytes] :
+       {std::pair{24, 272}, {32, 360}, {16, 180}, {8, 92}, {4, 48}, {2, 24}, {1, 12}, {12, 0}, {0, 0}})
     EXPECT_EQ(ScanLineBytes(90, bits), bytes) << bits;
   EXPECT_EQ(ScanLineBytes(88, 24), 264);
 }
@@ -70,7 +71,8 @@ TEST(StrobeLayers, LayPosesOverTheStartPicture) {
   for (const auto& [field, worked] : {std::pair{false, vector<int>{1, 3, 5}}, {true, {2, 4}}}) {
     auto sum = picture(77);
     StrobeLayers layers(RowShape{kRow, kHeight});
-    for (const auto& [shown, expected] : {std::pair{120, 77}, {80, 77}, {121, 121}, {200, 33 + 66 + 40}, {79, 33 + 26 + 46}}) {
+    for (const auto& [shown, expected] :
+         {std::pair{120, 77}, {80, 77}, {121, 121}, {200, 33 + 66 + 40}, {79, 33 + 26 + 46}}) {
       layers.Add(picture(100).data(), picture(shown).data(), field, sum.data());
       for (int i = 0; i < kRow * kHeight; ++i) {
         const bool laid = i % kRow >= 3 && std::ranges::count(worked, i / kRow) > 0;
@@ -92,8 +94,7 @@ std::string WalkingBar() {
   auto writer = VideoWriter::Create(path, format);
   for (int n = 0; n < 20; ++n) {
     vector<std::uint8_t> rows(200 * 60 * 3, 40);
-    for (int y = 0; y < 60; ++y)
-      std::fill_n(rows.begin() + (y * 200 + n * 8 + 4) * 3, 8 * 3, std::uint8_t{240});
+    for (int y = 0; y < 60; ++y) std::fill_n(rows.begin() + (y * 200 + n * 8 + 4) * 3, 8 * 3, std::uint8_t{240});
     (*writer)->Write({rows.data(), 200, 60, 600, 24, false});
   }
   (*writer)->Close();
@@ -125,7 +126,8 @@ TEST(Strobe, ShowsAChainOfPoses) {
   player->Strobeframes(2, 12, 3);
   EXPECT_TRUE(player->StrobeRunning());
   // A layer after each three times 50 ms. Somebody draws meanwhile: the poses stay.
-  for (const auto& [milliseconds, bars] : {std::pair{149, vector<int>{0}}, {1, {2, 5}}, {150, {2, 5, 8}}, {150, {2, 5, 8, 11}}}) {
+  for (const auto& [milliseconds, bars] :
+       {std::pair{149, vector<int>{0}}, {1, {2, 5}}, {150, {2, 5, 8}}, {150, {2, 5, 8, 11}}}) {
     player.host.Advance(milliseconds);
     EXPECT_EQ(BarsOn(player.view.shown), bars);
     if (bars.size() == 3) player->Refresh();
@@ -150,8 +152,10 @@ TEST(Strobe, WithoutAnEndGoesToTheLastFrame) {
 
 TEST(Strobe, StopsOnDemandAndBeforeAnyOtherMovementAlsoInItsOwnCallbacks) {
   using Deed = void (*)(Player&);
-  const Deed deeds[] = {[](Player& player) { player->StopStrobe(); }, [](Player& player) { player->DrawFrame(3); },
-                        [](Player& player) { player->Play(0, 5); },   [](Player& player) { player->Unload(); },
+  const Deed deeds[] = {[](Player& player) { player->StopStrobe(); },
+                        [](Player& player) { player->DrawFrame(3); },
+                        [](Player& player) { player->Play(0, 5); },
+                        [](Player& player) { player->Unload(); },
                         [](Player& player) { player->Load("", false, false); },
                         [](Player& player) { player->Strobeframes(0, 9, 9); },
                         [](Player& player) { player.control.reset(); }};

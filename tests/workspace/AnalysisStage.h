@@ -47,7 +47,8 @@ class FakeWindow final : public IWorkspaceView {
   void PlaceCell(int slot, const TwipRect& border, const TwipRect&) override { cells[slot] = border; }
   void HideCell(int slot) override { cells.erase(slot); }
   void PlacePlayer(int slot, const TwipRect& place, bool shown) override {
-    if (shown) players[static_cast<std::size_t>(slot)]->Resize(place.Width / kTwipsPerPixel, place.Height / kTwipsPerPixel);
+    if (shown)
+      players[static_cast<std::size_t>(slot)]->Resize(place.Width / kTwipsPerPixel, place.Height / kTwipsPerPixel);
   }
   void PaintBorder(int slot, bool current) override { borders[slot] = current; }
   void SetCellTitle(int slot, const std::string& title) override { titles[slot] = title; }
@@ -131,8 +132,7 @@ class AnalysisStage : private IFrameInterface, private INavigation {
                          ICompareView* compare = nullptr)
       : folder(NewFolder()),
         settings(host, folder + "/data", folder),
-        analysis(host, settings, scheduler, window, edits, compare ? *compare : compareView,
-                 *this) {
+        analysis(host, settings, scheduler, window, edits, compare ? *compare : compareView, *this) {
     settings.LoadSettings();
     window.width = width;
     window.height = height;

@@ -103,8 +103,8 @@ TEST(CommandsTest, EscapeLeavesOneThingAtATimeAndTheVideosComeBack) {
   stage.Type('o');
   stage.Key(kKeyF1);
   const auto open = [&] {
-    return std::array{stage.analysis.Tools().Drawing(), stage.window.lists, stage.window.notes.has_value(), stage.window.timer,
-                      stage.Modes().ZoomShown()};
+    return std::array{stage.analysis.Tools().Drawing(), stage.window.lists, stage.window.notes.has_value(),
+                      stage.window.timer, stage.Modes().ZoomShown()};
   };
   for (std::size_t left = 0; left < 5; ++left) {
     EXPECT_TRUE(open()[left]) << left;

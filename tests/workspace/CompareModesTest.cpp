@@ -69,16 +69,32 @@ TEST_F(CompareModesTest, OneModeAtATimeAndItsButtonsSayWhy) {
     const char* up;
     std::map<std::string, std::string> refused;  ///< every other command of the columns runs
   };
-  const char* const columns[] = {"STM", "smbar", "TTCarve", "TMAX", "TN", "MenuEdit", "AddMacro", "TSFrames", "VidTest",
-                                 "MenuDraw3", "TCal", "TVT", "TZP", "vFlip", "cmdDualPlay", "SSix"};
+  const char* const columns[] = {"STM",      "smbar",    "TTCarve",     "TMAX",      "TN",   "MenuEdit",
+                                 "AddMacro", "TSFrames", "VidTest",     "MenuDraw3", "TCal", "TVT",
+                                 "TZP",      "vFlip",    "cmdDualPlay", "SSix"};
   const Row rows[] = {
-      {"STM", {{"smbar", transparency}, {"TTCarve", transparency}, {"TMAX", transparency}, {"TN", transparency},
-               {"MenuEdit", transparency}, {"AddMacro", transparency}}},
-      {"smbar", {{"STM", strip}, {"TTCarve", strip}, {"TMAX", strip}, {"TN", strip}, {"TSFrames", strip},
-                 {"cmdDualPlay", "Needs videos in windows 1 and 2, or 3 and 4, side by side"}}},
+      {"STM",
+       {{"smbar", transparency},
+        {"TTCarve", transparency},
+        {"TMAX", transparency},
+        {"TN", transparency},
+        {"MenuEdit", transparency},
+        {"AddMacro", transparency}}},
+      {"smbar",
+       {{"STM", strip},
+        {"TTCarve", strip},
+        {"TMAX", strip},
+        {"TN", strip},
+        {"TSFrames", strip},
+        {"cmdDualPlay", "Needs videos in windows 1 and 2, or 3 and 4, side by side"}}},
       {"TTCarve", {{"STM", carve}, {"smbar", carve}}},
       {"cmdDualPlay", {{"smbar", locked}, {"TSFrames", locked}, {"VidTest", locked}}},
-      {"TSFrames", {}}, {"MenuEdit", {}}, {"TN", {}}, {"TCal", {}}, {"TVT", {}}, {"TZP", {}},
+      {"TSFrames", {}},
+      {"MenuEdit", {}},
+      {"TN", {}},
+      {"TCal", {}},
+      {"TVT", {}},
+      {"TZP", {}},
       {"TMAX", {{"cmdDualPlay", "Needs videos in windows 1 and 2, or 3 and 4, side by side"}}},
   };
   for (const Row& row : rows) {

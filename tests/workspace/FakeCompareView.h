@@ -44,7 +44,9 @@ class FakeCompareView final : public ICompareView {
     option = which;
     mixer->Show(which);
   }
-  void SetVideoScroll(int window, int lowest, int highest, int value) override { bars[window] = {lowest, highest, value}; }
+  void SetVideoScroll(int window, int lowest, int highest, int value) override {
+    bars[window] = {lowest, highest, value};
+  }
   void SetVideoButtons(int window, bool on, bool, bool) override { playing[window] = on; }
   void ShowMultiPicture(bool shown) override { strip = shown; }
   int StripWidth() override { return stripWidth; }

@@ -14,8 +14,9 @@ namespace {
 
 TEST(KeepingTest, EveryKindComesBackWithItsVideo) {
   OpenStage stage;
-  const std::pair<ShapeKind, int> clicks[] = {{kFlag, 1},          {kSquare, 2}, {kLine, 2},  {kEllipse, 2}, {kAngle, 3},
-                                              {kParallelogram, 3}, {kZone, 3},   {kClock, 2}, {kArrow, 2}};
+  const std::pair<ShapeKind, int> clicks[] = {{kFlag, 1},    {kSquare, 2}, {kLine, 2},
+                                              {kEllipse, 2}, {kAngle, 3},  {kParallelogram, 3},
+                                              {kZone, 3},    {kClock, 2},  {kArrow, 2}};
   std::vector<std::vector<POINTAPI>> drawn;
   for (const auto& [kind, count] : clicks) {
     stage.Key(kKeyF1 + int{kind});
@@ -104,7 +105,9 @@ TEST(KeepingTest, ADiskThatRefusesIsToldAndTriedAgain) {
 
 TEST(KeepingTest, AForeignSidecarIsLeftAloneUntilThereIsWorkAndThenKeptBeside) {
   OpenStage stage;
-  const std::string foreign = "\x7F" "another program's bytes";
+  const std::string foreign =
+      "\x7F"
+      "another program's bytes";
   const auto bytesOf = [](const std::string& file) {
     const auto bytes = ReadWholeFile(file);
     return bytes ? std::string(bytes->begin(), bytes->end()) : "";

@@ -17,8 +17,8 @@ TEST(Layout, EveryLayoutCoversTheStageWithEqualCells) {
       EXPECT_EQ(cells[i].Width, kWidth / mode.Columns + (mode.Code == "3L" && i == 2 ? 10 : 0)) << mode.Code;
       EXPECT_LE(cells[i].Left + cells[i].Width, kWidth + 10) << mode.Code;
       for (std::size_t j = 0; j < i; ++j)
-        EXPECT_TRUE(cells[i].Left >= cells[j].Left + cells[j].Width || cells[j].Left >= cells[i].Left + cells[i].Width ||
-                    cells[i].Top >= cells[j].Top + cells[j].Height)
+        EXPECT_TRUE(cells[i].Left >= cells[j].Left + cells[j].Width ||
+                    cells[j].Left >= cells[i].Left + cells[i].Width || cells[i].Top >= cells[j].Top + cells[j].Height)
             << mode.Code << " " << i << " lies on " << j;
     }
   }

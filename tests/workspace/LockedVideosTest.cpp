@@ -33,8 +33,8 @@ TEST_F(LockedVideosTest, RangesReachAsFarAsTheShortestSide) {
     std::array<int, 4> range;
   } cases[] = {
       {100, 20, 50, 30, {0, 38, 10, 48}},
-      {100, 0, 50, 30, {0, 18, 30, 48}},   // nothing before slot 1: neither can go back
-      {30, 29, 30, 10, {19, 28, 0, 9}},    // nothing after slot 1: the highest lies below where it stands
+      {100, 0, 50, 30, {0, 18, 30, 48}},  // nothing before slot 1: neither can go back
+      {30, 29, 30, 10, {19, 28, 0, 9}},   // nothing after slot 1: the highest lies below where it stands
       {30, 12, 30, 12, {0, 28, 0, 28}},
   };
   for (const auto& pair : cases) {

@@ -48,11 +48,11 @@ TEST_F(MultiPictureTest, StripComesFromWhereverThereAreFramesEnough) {
     std::vector<int> pictures;
     int stands;
   } cases[] = {
-      {40, 30, "3", {6, 9, 12, 15, 18, 21, 24, 27, 30}, 30},          // enough before the position
-      {40, 18, "3 ", {15, 18, 21, 24, 27, 30, 33, 36, 39}, 39},       // too few before and after: ends at the end
-      {60, 10, "3", {0, 3, 6, 9, 12, 15, 18, 21, 24}, 24},            // too few before: begins at the first
-      {12, 5, "3", {-1, -1, -1, -1, -1, 2, 5, 8, 11}, 11},            // too short: what there is
-      {40, 30, "none", {22, 23, 24, 25, 26, 27, 28, 29, 30}, 30},     // no number counts as one
+      {40, 30, "3", {6, 9, 12, 15, 18, 21, 24, 27, 30}, 30},       // enough before the position
+      {40, 18, "3 ", {15, 18, 21, 24, 27, 30, 33, 36, 39}, 39},    // too few before and after: ends at the end
+      {60, 10, "3", {0, 3, 6, 9, 12, 15, 18, 21, 24}, 24},         // too few before: begins at the first
+      {12, 5, "3", {-1, -1, -1, -1, -1, 2, 5, 8, 11}, 11},         // too short: what there is
+      {40, 30, "none", {22, 23, 24, 25, 26, 27, 28, 29, 30}, 30},  // no number counts as one
   };
   for (const auto& wish : cases) {
     Enter(wish.frames, wish.position, wish.skip);

@@ -211,7 +211,7 @@ TEST(DisplayRate, ReadsTheFirstTwoFiguresBehindThePoint) {
 }
 
 TEST(CountdownTest, CountsMinutesAndSecondsInOneNumberAndEndsOnce) {
-  const std::pair<int, const char*> next[] = {{300, "2:59"}, {259, "2:58"}, {101, "1:00"}, {100, ":59"},
+  const std::pair<int, const char*> next[] = {{300, "2:59"}, {259, "2:58"},  {101, "1:00"}, {100, ":59"},
                                               {10, ":9"},    {1000, "9:59"}, {1, ":"}};
   for (const auto& [value, text] : next) EXPECT_EQ(CountdownText(CountdownNext(value)), text) << value;
 
@@ -219,7 +219,8 @@ TEST(CountdownTest, CountsMinutesAndSecondsInOneNumberAndEndsOnce) {
   Countdown countdown(host);
   std::string shown;
   int ended = 0;
-  countdown.Start(1000, [&](const std::string& text) { shown = text; }, [&] { ++ended; });
+  countdown.Start(
+      1000, [&](const std::string& text) { shown = text; }, [&] { ++ended; });
   host.Advance(599'000);
   EXPECT_EQ(shown, ":1") << "ten minutes last ten minutes";
   EXPECT_EQ(ended, 0);

@@ -38,7 +38,9 @@ class Undo : public testing::Test {
 
 TEST_F(Undo, EveryKindOfChangeIsOneStep) {
   const auto changes = std::vector<std::function<void()>>{
-      [&] { Draw(kEllipse, {300, 100}, {350, 140}); },
+      [&] {
+        Draw(kEllipse, {300, 100}, {350, 140});
+      },
       [&] { Do("Lastcadoff"); },
       [&] { Do("Cadoffbutton"); },
       [&] {  // a stroke

@@ -73,8 +73,7 @@ std::string MakeFolders(const std::vector<DemoInstructor>& plan, const std::stri
     for (const DemoVideo& video : instructor.videos) film(video, folder, instructor.name);
     for (const DemoStudent& student : instructor.students) {
       const std::string& name = student.profile[kNameField];
-      if (const auto made = AddStudent(folder, fields.Captions(), student.profile, "student"); !made)
-        return made.Why();
+      if (const auto made = AddStudent(folder, fields.Captions(), student.profile, "student"); !made) return made.Why();
       const std::string home = JoinPath(folder, name);
       if (const Outcome saved = SaveNotes(home, student.notes); !saved) return saved.Why();
       for (const DemoVideo& video : student.videos) film(video, home, name);

@@ -227,8 +227,7 @@ std::string DrawPictures(const std::string& folder) {
   char name[] = "kinalyx-demo";
   char* words[] = {name, nullptr};
   const QGuiApplication application(count, words);
-  if (const Outcome saved = SaveJpeg(RowsOf(Logo()), JoinPath(folder, "Logo.jpg"), 92); !saved)
-    return saved.Why();
+  if (const Outcome saved = SaveJpeg(RowsOf(Logo()), JoinPath(folder, "Logo.jpg"), 92); !saved) return saved.Why();
   for (const Mood& mood : Moods())
     if (const Outcome saved = SaveJpeg(RowsOf(MenuPicture(mood)), JoinPath(backgrounds, mood.name + ".jpg"), 88);
         !saved)

@@ -29,18 +29,10 @@ VideoFormat FormatOf(DemoFormat format) {
       set(VideoFormat::Codec::Dv, 720, 480, 30000, 1001);
       result.bottomFieldFirst = true;
       break;
-    case DemoFormat::Mjpeg:
-      set(VideoFormat::Codec::Mjpeg, 640, 480, 60);
-      break;
-    case DemoFormat::H264:
-      set(VideoFormat::Codec::H264, 640, 480, 30);
-      break;
-    case DemoFormat::H264Large:
-      set(VideoFormat::Codec::H264, 1280, 720, 60);
-      break;
-    case DemoFormat::Uncompressed:
-      set(VideoFormat::Codec::RawRgb, 320, 240, 30);
-      break;
+    case DemoFormat::Mjpeg: set(VideoFormat::Codec::Mjpeg, 640, 480, 60); break;
+    case DemoFormat::H264: set(VideoFormat::Codec::H264, 640, 480, 30); break;
+    case DemoFormat::H264Large: set(VideoFormat::Codec::H264, 1280, 720, 60); break;
+    case DemoFormat::Uncompressed: set(VideoFormat::Codec::RawRgb, 320, 240, 30); break;
   }
   return result;
 }

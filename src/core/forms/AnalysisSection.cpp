@@ -22,8 +22,13 @@ struct LayoutChoice {
 };
 
 constexpr LayoutChoice kLayouts[] = {
-    {1, "single", "Single"}, {2, "double", "Double"}, {3, "triple-triangular", "Triple"}, {4, "quad", "Quad"},
-    {5, "triple", "Triple, side by side"},  {6, "six", "Six"},       {8, "eight", "Eight"},
+    {1, "single", "Single"},
+    {2, "double", "Double"},
+    {3, "triple-triangular", "Triple"},
+    {4, "quad", "Quad"},
+    {5, "triple", "Triple, side by side"},
+    {6, "six", "Six"},
+    {8, "eight", "Eight"},
 };
 
 struct Tool {
@@ -33,14 +38,15 @@ struct Tool {
 
 constexpr int kPathDown = 17;
 constexpr Tool kTools[] = {
-    {0, "Freehand"},       {1, "Plus Sign"},  {2, "Square"},     {3, "Line"},   {4, "Circle"}, {5, "Angle"},
-    {6, "Path Trace"},     {kPathDown, "PathDown"}, {7, "Parallelogram"}, {8, "Shade Zone"}, {9, "Clock Grid"},
-    {10, "Arrow"},         {11, "Grid"},
+    {0, "Freehand"},      {1, "Plus Sign"},  {2, "Square"},     {3, "Line"},
+    {4, "Circle"},        {5, "Angle"},      {6, "Path Trace"}, {kPathDown, "PathDown"},
+    {7, "Parallelogram"}, {8, "Shade Zone"}, {9, "Clock Grid"}, {10, "Arrow"},
+    {11, "Grid"},
 };
 
 constexpr int kWidest = 10;  // pixels that a line can be chosen to have
 constexpr int kFewestCells = 2;
-constexpr int kMostCells = 200;  // as many as the grid itself takes
+constexpr int kMostCells = 200;    // as many as the grid itself takes
 constexpr int kWidestStrobe = 30;  // frames, where the list of the strobe's own form ends
 
 }  // namespace
@@ -75,7 +81,8 @@ void AnalysisSection::AddLayouts() {
   rows->addSpacing(6);
   shortGame_ = new QCheckBox("Short-game video names");
   shortGame_->setObjectName("ShortGameCheck");
-  shortGame_->setToolTip("The list of videos to open loads the files of a shot together, in place of undoing the last open");
+  shortGame_->setToolTip(
+      "The list of videos to open loads the files of a shot together, in place of undoing the last open");
   rows->addWidget(shortGame_);
   connect(shortGame_, &QCheckBox::toggled, this, [this](bool on) { StoreAndTell(settings_.ShortGame, on ? 1 : 0); });
   connect(layouts_, &QButtonGroup::idClicked, this,
@@ -98,7 +105,8 @@ void AnalysisSection::AddPlaying() {
   slomo_ = add("Slomoscroll", "Slow motion speed", 1, 100, " %", settings_.SlomoSpeed);
   strobe_ = add("StrobeStepScroll", "Frames from one layer of a strobe to the next", 1, kWidestStrobe, "",
                 settings_.StrobeStep);
-  grid_ = add("GridSizeScroll", "Columns of the grid over the picture", kFewestCells, kMostCells, "", settings_.GridSize);
+  grid_ =
+      add("GridSizeScroll", "Columns of the grid over the picture", kFewestCells, kMostCells, "", settings_.GridSize);
 }
 
 void AnalysisSection::AddDrawing() {
@@ -132,7 +140,8 @@ void AnalysisSection::AddColours() {
     const QString title = QString("Change %1 Color").arg(tool.caption);
     auto* button = new ColourButton(QString("NewColor%1").arg(tool.index), tool.caption);
     button->setToolTip(title);
-    connect(button, &QAbstractButton::clicked, this, [this, index = tool.index, title] { NewColor_Click(index, title); });
+    connect(button, &QAbstractButton::clicked, this,
+            [this, index = tool.index, title] { NewColor_Click(index, title); });
     grid->addWidget(button, place / 2, place % 2);
     colours_[tool.index] = button;
     ++place;

@@ -37,8 +37,11 @@ void SampleButton::paintEvent(QPaintEvent*) {
   const double ring = isChecked() || hasFocus() ? 2 : 1;
   const QRectF box = QRectF(rect()).adjusted(ring / 2, ring / 2, -ring / 2, -ring / 2);
   const bool hovered = underMouse() && isEnabled();
-  painter.setPen(QPen(isChecked() ? theme.accent : hasFocus() ? theme.ring
-                                  : hovered ? theme.accent : theme.outline, ring));
+  painter.setPen(QPen(isChecked()  ? theme.accent
+                      : hasFocus() ? theme.ring
+                      : hovered    ? theme.accent
+                                   : theme.outline,
+                      ring));
   painter.setBrush(isChecked() ? theme.panel : isDown() ? theme.panel : hovered ? theme.selection : theme.field);
   painter.drawRoundedRect(box, 7, 7);
 
@@ -95,7 +98,8 @@ WidthButton::WidthButton(const QString& name, int pixels, QWidget* parent)
 void WidthButton::PaintSample(QPainter& painter, const QRectF& room) {
   painter.setPen(QPen(CurrentTheme().text, pixels_, Qt::SolidLine, Qt::RoundCap));
   const double half = pixels_ / 2.0;
-  painter.drawLine(QPointF(room.left() + half, room.center().y() + 5), QPointF(room.right() - half, room.center().y() - 5));
+  painter.drawLine(QPointF(room.left() + half, room.center().y() + 5),
+                   QPointF(room.right() - half, room.center().y() - 5));
 }
 
 Gauge::Gauge(const QString& name, QWidget* parent) : QProgressBar(parent) {

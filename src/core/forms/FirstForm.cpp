@@ -46,8 +46,10 @@ FirstForm::FirstForm(Settings& settings, MailSettings& mail, QWidget* over)
   rows->setContentsMargins(28, 26, 28, 24);
   rows->setSpacing(5);
   rows->addWidget(MakeLabel("TitleLbl", "Welcome to Kinalyx", "title"));
-  QLabel* words = MakeLabel("IntroLbl", "Both appear on printouts and in your mails. They can be changed at any time "
-                                        "under Program Setup.", "muted");
+  QLabel* words = MakeLabel("IntroLbl",
+                            "Both appear on printouts and in your mails. They can be changed at any time "
+                            "under Program Setup.",
+                            "muted");
   words->setWordWrap(true);
   rows->addWidget(words);
   rows->addSpacing(12);

@@ -83,8 +83,7 @@ void GeneralSection::AddWho() {
   company_ = AddText(*rows, "CompanyNameBox", "Company name");
   noun_ = AddText(*rows, "Text3", "What you call one person: Student, Golfer, Client ...");
   noun_->setPlaceholderText("Student");
-  connect(name_, &QLineEdit::textChanged, this,
-          [this](const QString& text) { Store(settings_.UserName, Std(text)); });
+  connect(name_, &QLineEdit::textChanged, this, [this](const QString& text) { Store(settings_.UserName, Std(text)); });
   connect(company_, &QLineEdit::textChanged, this, [this](const QString& text) {
     if (Store(settings_.CompanyName, Std(text))) emit CompanyChanged(text);
   });

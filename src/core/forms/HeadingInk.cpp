@@ -11,9 +11,9 @@ namespace {
 
 const QColor kDark(0x10, 0x16, 0x1c);
 constexpr double kContrast = 4.5;
-constexpr int kSamples = 40;         // a side
-constexpr double kOutliers = 0.03;   // of the pixels, at either end
-constexpr double kDarkIsWorth = 0.1; // of veil that it must save: headings are white by custom
+constexpr int kSamples = 40;          // a side
+constexpr double kOutliers = 0.03;    // of the pixels, at either end
+constexpr double kDarkIsWorth = 0.1;  // of veil that it must save: headings are white by custom
 
 double VeilNeeded(const QColor& letters, const QColor& veil, const QColor& ground) {
   for (int step = 0; step < 20; ++step) {

@@ -31,8 +31,10 @@ class Reader : public QTextBrowser {
 
   void SetupVocabulary(const Vocabulary& words) {
     const auto text = [](const std::string& word) { return Q(word).toHtmlEscaped(); };
-    words_ = {{"Students", text(words.Nouns())}, {"students", text(words.nouns())},
-              {"Student", text(words.Noun())},   {"student", text(words.noun())}};
+    words_ = {{"Students", text(words.Nouns())},
+              {"students", text(words.nouns())},
+              {"Student", text(words.Noun())},
+              {"student", text(words.noun())}};
     reload();
   }
 
@@ -140,16 +142,15 @@ void HelpPage::changeEvent(QEvent* event) {
 void HelpPage::TakeTheme() {
   const Theme theme = CurrentTheme();
   browser_->document()->setDefaultStyleSheet(
-      WithSizes(
-              "body { font-size: @14; }"
-              "h1 { color: %1; font-size: @24; font-weight: 600; margin-top: 18px; margin-bottom: 8px; }"
-              "h2 { color: %1; font-size: @16; font-weight: 600; margin-top: 20px; margin-bottom: 4px; }"
-              "a { color: %1; text-decoration: underline; }"
-              "p, li { margin-bottom: 6px; line-height: 150%; }"
-              "td { line-height: 125%; }"
-              ".pic { margin-top: 8px; margin-bottom: 12px; }"  // a line of pictures is as high as they are
-              ".nav { color: %2; font-size: @12; }"
-              ".nav a { text-decoration: none; }")
+      WithSizes("body { font-size: @14; }"
+                "h1 { color: %1; font-size: @24; font-weight: 600; margin-top: 18px; margin-bottom: 8px; }"
+                "h2 { color: %1; font-size: @16; font-weight: 600; margin-top: 20px; margin-bottom: 4px; }"
+                "a { color: %1; text-decoration: underline; }"
+                "p, li { margin-bottom: 6px; line-height: 150%; }"
+                "td { line-height: 125%; }"
+                ".pic { margin-top: 8px; margin-bottom: 12px; }"  // a line of pictures is as high as they are
+                ".nav { color: %2; font-size: @12; }"
+                ".nav a { text-decoration: none; }")
           .arg(theme.heading.name(), theme.muted.name()));
 }
 

@@ -52,7 +52,8 @@ QPixmap SchemeGround(const QSize& pixels) {
     QColor ink = theme.panel;
     ink.setAlphaF(0.45 - 0.12 * i);
     painter.setPen(QPen(ink, pixels.height() / 260.0 * (i == 1 ? 1.4 : 0.8), Qt::SolidLine, Qt::RoundCap));
-    painter.drawArc(QRectF(pivot.x() - radius, pivot.y() - radius, 2 * radius, 2 * radius), (34 - 4 * i) * 16, 146 * 16);
+    painter.drawArc(QRectF(pivot.x() - radius, pivot.y() - radius, 2 * radius, 2 * radius), (34 - 4 * i) * 16,
+                    146 * 16);
   }
   return result;
 }
@@ -174,8 +175,9 @@ void MenuCanvas::PaintHeading(QPainter& painter) {
   }
   PaintVeil(painter, block, ink_, pixels);
 
-  const Qt::Alignment side3 =
-      place.across < 0.4 ? Qt::AlignLeft : place.across > 0.6 ? Qt::AlignRight : Qt::AlignHCenter;
+  const Qt::Alignment side3 = place.across < 0.4   ? Qt::AlignLeft
+                              : place.across > 0.6 ? Qt::AlignRight
+                                                   : Qt::AlignHCenter;
   QColor shadow = ink_.veil;
   shadow.setAlpha(55);
   for (int i = 0; i < count; ++i) {
@@ -183,7 +185,8 @@ void MenuCanvas::PaintHeading(QPainter& painter) {
     const QRectF line(left - 2, top + i * lineHeight, blockWidth + 4, lineHeight);
     const auto flags = static_cast<int>(side3 | Qt::AlignVCenter | Qt::TextDontClip | Qt::TextSingleLine);
     painter.setPen(shadow);
-    for (const double away : {0.07, 0.035}) painter.drawText(line.translated(pixels * away / 2, pixels * away), flags, lines_[i]);
+    for (const double away : {0.07, 0.035})
+      painter.drawText(line.translated(pixels * away / 2, pixels * away), flags, lines_[i]);
     painter.setPen(ink_.letters);
     painter.drawText(line, flags, lines_[i]);
   }

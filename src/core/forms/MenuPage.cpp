@@ -49,8 +49,7 @@ MenuPage::MenuPage(IHost& host, Settings& settings, QWidget* parent)
 
 void MenuPage::SetupVocabulary() {
   const Vocabulary words(settings_);
-  for (std::size_t i = 1; i < tiles_.size(); ++i)
-    tiles_[i]->setText(Q(words.PageButton(static_cast<int>(i))));
+  for (std::size_t i = 1; i < tiles_.size(); ++i) tiles_[i]->setText(Q(words.PageButton(static_cast<int>(i))));
 }
 
 void MenuPage::Open() {

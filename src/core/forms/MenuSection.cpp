@@ -143,7 +143,8 @@ void MenuSection::ShowLogo() {
   const qreal ratio = devicePixelRatioF();
   const QSize room = (logo_->size() - QSize(12, 12)) * ratio;
   const bool fits = picture.width() <= room.width() && picture.height() <= room.height();
-  QPixmap shown = QPixmap::fromImage(fits ? picture : picture.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+  QPixmap shown =
+      QPixmap::fromImage(fits ? picture : picture.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation));
   shown.setDevicePixelRatio(ratio);
   logo_->setPixmap(shown);
 }

@@ -27,8 +27,8 @@ struct SectionButton {
 };
 
 constexpr SectionButton kSections[] = {
-    {"Main Menu", "home"},    {"Profiles", "students"},         {"Capture", "camera"},
-    {"Analysis", "analyze"},  {"General", "setup"},             {"Internet", "network"},
+    {"Main Menu", "home"},   {"Profiles", "students"}, {"Capture", "camera"},
+    {"Analysis", "analyze"}, {"General", "setup"},     {"Internet", "network"},
 };
 
 }  // namespace
@@ -61,9 +61,8 @@ SetupPage::SetupPage(IHost& host, Settings& settings, ColorSchemes& schemes, QWi
     SetupVocabulary();
     emit VocabularyChanged();
   });
-  connect(general_, &GeneralSection::RestartWanted, this, [this] {
-    RestartTimer_ = HostTimer(host_, 0, false, [this] { RestartTimer_Timer(); });
-  });
+  connect(general_, &GeneralSection::RestartWanted, this,
+          [this] { RestartTimer_ = HostTimer(host_, 0, false, [this] { RestartTimer_Timer(); }); });
 
   SetupProgram();
   SetupVocabulary();
@@ -106,9 +105,7 @@ void SetupPage::Open() {
   settings_.Loading = before;
 }
 
-void SetupPage::SetupVocabulary() {
-  buttons_->button(kProfiles)->setText(Q(Vocabulary(settings_).Profiles()));
-}
+void SetupPage::SetupVocabulary() { buttons_->button(kProfiles)->setText(Q(Vocabulary(settings_).Profiles())); }
 
 bool SetupPage::PSCmd_Click(int index) {
   if (index < 0 || index >= static_cast<int>(pages_.size()) || !pages_[static_cast<std::size_t>(index)]) return false;

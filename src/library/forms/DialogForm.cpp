@@ -63,9 +63,7 @@ QWidget* Framed(QLabel* caption, NameList* list) {
 }
 
 /// A video's name as the lists show it; "" when none is chosen.
-std::string VideoOf(const LibraryVideo& about) {
-  return about.path.empty() ? std::string() : VideoName(about.path);
-}
+std::string VideoOf(const LibraryVideo& about) { return about.path.empty() ? std::string() : VideoName(about.path); }
 
 /// A name that is short enough to stand in a sentence or a heading of the dialog.
 std::string Short(const QLabel& label, const std::string& name) {
@@ -95,7 +93,8 @@ DialogForm::DialogForm(IHost& host, Settings& settings, QWidget* over)
   renamePanel_ = MakeRenamePanel();
   movePanel_ = MakeMovePanel();
   copyPanel_ = MakeCopyPanel(host, settings);
-  for (QWidget* row : {static_cast<QWidget*>(title_), static_cast<QWidget*>(text_), renamePanel_, movePanel_, copyPanel_})
+  for (QWidget* row :
+       {static_cast<QWidget*>(title_), static_cast<QWidget*>(text_), renamePanel_, movePanel_, copyPanel_})
     rows->addWidget(row);
   auto* actions = new QHBoxLayout;
   cancel_ = new Button("DialogCancel", "Cancel", {}, Look::Quiet);
@@ -218,7 +217,8 @@ DialogForm::Words DialogForm::WordsOfMode() const {
               "Move"};
     case Mode::CopyVideo:
       return {"Copy Video to a Disk",
-              "Copies the video " + video + " with its drawings and notes. Select the removeable disk, or any other folder.",
+              "Copies the video " + video +
+                  " with its drawings and notes. Select the removeable disk, or any other folder.",
               "Copy"};
     case Mode::DeleteVideo:
       return {"Delete this video: " + video,
@@ -256,7 +256,9 @@ void DialogForm::FocusPart() {
 void DialogForm::OpenRename() {
   const bool instructor = mode_ == Mode::RenameInstructor;
   oldName_ = instructor ? about_.instructor : mode_ == Mode::RenameStudent ? about_.student : VideoOf(about_);
-  nameTitle_->setText(mode_ == Mode::RenameStudent ? Q(Vocabulary(settings_).Name()) : instructor ? "Name" : "Video Name");
+  nameTitle_->setText(mode_ == Mode::RenameStudent ? Q(Vocabulary(settings_).Name())
+                      : instructor                 ? "Name"
+                                                   : "Video Name");
   name_->setAccessibleName(nameTitle_->text());
   name_->setText(Q(oldName_));
   name_->selectAll();
@@ -328,13 +330,9 @@ void DialogForm::ShowAction() {
 
 std::string DialogForm::Name() const { return Std(name_->text()); }
 
-std::string DialogForm::Database() const {
-  return ChosenIn(*databases_);
-}
+std::string DialogForm::Database() const { return ChosenIn(*databases_); }
 
-std::string DialogForm::Student() const {
-  return studentsPart_->isHidden() ? std::string() : ChosenIn(*students_);
-}
+std::string DialogForm::Student() const { return studentsPart_->isHidden() ? std::string() : ChosenIn(*students_); }
 
 std::string DialogForm::Drive() const { return drive_->Path(); }
 

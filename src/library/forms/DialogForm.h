@@ -20,9 +20,15 @@ class DialogForm : public QDialog {
 
  public:
   enum class Mode {
-    RenameInstructor, DeleteInstructor,
-    RenameStudent, MoveStudent, DeleteStudent,
-    RenameVideo, MoveVideo, CopyVideo, DeleteVideo,
+    RenameInstructor,
+    DeleteInstructor,
+    RenameStudent,
+    MoveStudent,
+    DeleteStudent,
+    RenameVideo,
+    MoveVideo,
+    CopyVideo,
+    DeleteVideo,
   };
 
   /// What is passed outlives the form.

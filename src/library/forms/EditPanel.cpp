@@ -23,7 +23,8 @@ EditPanel::EditPanel(PreviewPlayer& preview, const QString& help, QWidget* paren
   text->setWordWrap(true);
   HScroll1_ = new TrimSlider("HScroll1");
   rows->addWidget(text);
-  QLabel* warning = MakeLabel("EditWarning", "Save writes over the video itself: the frames outside are gone for good.", "muted");
+  QLabel* warning =
+      MakeLabel("EditWarning", "Save writes over the video itself: the frames outside are gone for good.", "muted");
   warning->setWordWrap(true);
   rows->addWidget(warning);
   rows->addWidget(HScroll1_);

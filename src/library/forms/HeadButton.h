@@ -9,8 +9,9 @@ namespace kinalyx {
 inline Button* HeadButton(const QString& name, const QString& caption, const QString& icon = {}) {
   auto* button = new Button(name, caption, icon, Look::Flat);
   FixIcon(button, 16);
-  WearSheet(button, "QPushButton { min-height: @26-4; max-height: @26-4; padding: 0 @8; }"
-                    "QPushButton[square=\"true\"] { min-width: @22-2; max-width: @22-2; border-width: 1px; padding: 0; }");
+  WearSheet(button,
+            "QPushButton { min-height: @26-4; max-height: @26-4; padding: 0 @8; }"
+            "QPushButton[square=\"true\"] { min-width: @22-2; max-width: @22-2; border-width: 1px; padding: 0; }");
   return button;
 }
 

@@ -55,8 +55,10 @@ ImportExportPage::ImportExportPage(IHost& host, Settings& settings, LibraryOpera
 
   auto* sides = new QHBoxLayout;
   sides->setSpacing(kGap);
-  here_ = new LibrarySide(host.Drives(), "This Library", settings, LibraryTree(settings), {"List4", "List5", "List6"}, 0);
-  there_ = new LibrarySide(host.Drives(), "Drive or Folder", settings, LibraryTree(otherRoot_), {"List7", "List8", "List9"}, 1);
+  here_ =
+      new LibrarySide(host.Drives(), "This Library", settings, LibraryTree(settings), {"List4", "List5", "List6"}, 0);
+  there_ = new LibrarySide(host.Drives(), "Drive or Folder", settings, LibraryTree(otherRoot_),
+                           {"List7", "List8", "List9"}, 1);
   sides->addWidget(here_, 1);
   sides->addLayout(MakeCommands());
   sides->addWidget(there_, 1);
@@ -120,10 +122,11 @@ QLayout* ImportExportPage::MakeDriveChoice(IHost& host, Settings& settings) {
 
 void ImportExportPage::SetupVocabulary() {
   const Vocabulary words(settings_);
-  help_->setText(QString("Select an instructor, a %1 and the videos on one side, then choose Export or Import. Each video "
-                         "takes its drawings and notes along, and a %1 who is new on the other side brings the profile. "
-                         "Videos from a plain folder, shown under General Folder, come to the %1 chosen in this library.")
-                     .arg(Q(words.noun())));
+  help_->setText(
+      QString("Select an instructor, a %1 and the videos on one side, then choose Export or Import. Each video "
+              "takes its drawings and notes along, and a %1 who is new on the other side brings the profile. "
+              "Videos from a plain folder, shown under General Folder, come to the %1 chosen in this library.")
+          .arg(Q(words.noun())));
   here_->SetupVocabulary();
   there_->SetupVocabulary();
 }

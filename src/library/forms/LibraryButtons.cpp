@@ -19,12 +19,18 @@ struct ButtonLook {
 };
 
 constexpr ButtonLook kLooks[] = {
-    {LibraryAction::AddStudent, "", "add"},          {LibraryAction::RenameStudent, "", "rename"},
-    {LibraryAction::MoveStudent, "", "move"},        {LibraryAction::DeleteStudent, "", "trash"},
-    {LibraryAction::SendToAnalysis, "Analyze", "analyze"}, {LibraryAction::Trim, "", "trim"},
-    {LibraryAction::RenameVideo, "", "rename"},      {LibraryAction::MoveVideo, "", "move"},
-    {LibraryAction::CopyVideo, "", "copy"},          {LibraryAction::DeleteVideo, "", "trash"},
-    {LibraryAction::Profile, "", "notes"},           {LibraryAction::QuickLaunch, "Quick Launch +", ""},
+    {LibraryAction::AddStudent, "", "add"},
+    {LibraryAction::RenameStudent, "", "rename"},
+    {LibraryAction::MoveStudent, "", "move"},
+    {LibraryAction::DeleteStudent, "", "trash"},
+    {LibraryAction::SendToAnalysis, "Analyze", "analyze"},
+    {LibraryAction::Trim, "", "trim"},
+    {LibraryAction::RenameVideo, "", "rename"},
+    {LibraryAction::MoveVideo, "", "move"},
+    {LibraryAction::CopyVideo, "", "copy"},
+    {LibraryAction::DeleteVideo, "", "trash"},
+    {LibraryAction::Profile, "", "notes"},
+    {LibraryAction::QuickLaunch, "Quick Launch +", ""},
 };
 
 }  // namespace
@@ -37,8 +43,7 @@ LibraryButtons::LibraryButtons(const Settings& settings, StatusLine& status, QOb
     connect(button, &QPushButton::clicked, this, [this, action] { emit Wanted(action); });
   };
   for (const auto& [action, caption, icon] : kLooks) add(action, new Button(name(action), caption, icon));
-  add(LibraryAction::Statistics,
-      HeadButton(name(LibraryAction::Statistics), Q(StatisticsCaption(false)), "stats"));
+  add(LibraryAction::Statistics, HeadButton(name(LibraryAction::Statistics), Q(StatisticsCaption(false)), "stats"));
   At(LibraryAction::Profile)->setCheckable(true);
 }
 
@@ -53,7 +58,8 @@ void LibraryButtons::GiveMenu(NameList* list, std::vector<LibraryAction> actions
     auto* menu = new QMenu(list);
     menu->setObjectName("ListMenu");
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    for (const LibraryAction action : actions) menu->addAction(Tip(action), this, [this, action] { emit Wanted(action); });
+    for (const LibraryAction action : actions)
+      menu->addAction(Tip(action), this, [this, action] { emit Wanted(action); });
     menu->popup(list->viewport()->mapToGlobal(place));
   });
 }

@@ -101,7 +101,8 @@ void LibraryCommands::PrepareInstructor(Mode mode, Change change) {
 }
 
 void LibraryCommands::PrepareStudent(Mode mode, Change change) {
-  const std::string refusal = operations_.RefuseUnlessStudentChangeable(browser_.Instructor(), browser_.Student(), change);
+  const std::string refusal =
+      operations_.RefuseUnlessStudentChangeable(browser_.Instructor(), browser_.Student(), change);
   if (!refusal.empty()) return page_.Say(Q(refusal));
   dialog_->Open(mode, ChosenVideo(browser_));
 }
@@ -169,9 +170,8 @@ void LibraryCommands::Carry() {
         operations_.MoveVideo(about, dialog_->Database(), dialog_->Student(), std::move(events));
       });
     case Mode::CopyVideo:
-      return DoLong(dialog_->windowTitle(), [&](Events events) {
-        operations_.CopyToDisk({about}, dialog_->Drive(), std::move(events));
-      });
+      return DoLong(dialog_->windowTitle(),
+                    [&](Events events) { operations_.CopyToDisk({about}, dialog_->Drive(), std::move(events)); });
     case Mode::DeleteVideo: return Do([&] { return operations_.DeleteVideo(about); });
   }
 }

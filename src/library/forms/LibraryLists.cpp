@@ -59,11 +59,14 @@ bool LibraryLists::Leave() {
   emit Leaving(may);
   if (may) return true;
   // The list goes on to mark the row that was pressed; the mark returns when it has done so.
-  QMetaObject::invokeMethod(this, [this] {
-    instructors_->Fill(Q(browser_.InstructorList()), browser_.InstructorIndex());
-    students_->Fill(Q(browser_.StudentList()), browser_.StudentIndex());
-    ShowCount();
-  }, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(
+      this,
+      [this] {
+        instructors_->Fill(Q(browser_.InstructorList()), browser_.InstructorIndex());
+        students_->Fill(Q(browser_.StudentList()), browser_.StudentIndex());
+        ShowCount();
+      },
+      Qt::QueuedConnection);
   return false;
 }
 

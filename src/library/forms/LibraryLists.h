@@ -60,7 +60,7 @@ class LibraryLists : public QObject {
   LibraryBrowser& browser_;
   const Settings& settings_;
   Vocabulary vocabulary_;
-  HostTimer again_;      ///< looks after a library that is silent
+  HostTimer again_;  ///< looks after a library that is silent
   NameList* instructors_;
   NameList* students_;
   NameList* videos_;

@@ -115,7 +115,9 @@ void LibrarySide::SelectAll() {
 void LibrarySide::ChooseWhole(bool whole) {
   whole_.clear();
   if (whole) {
-    const auto all = [instructor = browser_.Instructor()](const LibraryTree& tree) { return VideosOf(tree, instructor); };
+    const auto all = [instructor = browser_.Instructor()](const LibraryTree& tree) {
+      return VideosOf(tree, instructor);
+    };
     auto videos = AskLibrary(browser_.Drives(), browser_.Tree(), all);
     whole = videos.has_value();
     whole_ = std::move(videos).value_or(std::vector<LibraryVideo>());
@@ -145,8 +147,8 @@ std::vector<LibraryVideo> LibrarySide::Chosen() const {
 
 void LibrarySide::ShowCount() {
   const auto whole = std::ranges::count_if(whole_, [](const LibraryVideo& one) { return !one.path.empty(); });
-  const auto count = wholeDatabase_->isChecked() ? static_cast<qsizetype>(whole)
-                                                 : lists_->VideoList()->selectedItems().size();
+  const auto count =
+      wholeDatabase_->isChecked() ? static_cast<qsizetype>(whole) : lists_->VideoList()->selectedItems().size();
   count_->setText(QString("%1 Videos Selected").arg(count));
   selectAll_->setEnabled(lists_->VideoList()->count() > 0);
 }

@@ -89,16 +89,15 @@ void OpenVideoParts::ShowButtons() {
   const Vocabulary words(settings_);
   buttons_[2]->setText(ShortGame() ? QString("Load %1 Files").arg(Q(words.Noun())) : QString("Undo Last Open"));
   buttons_[2]->setEnabled(ShortGame() ? IsShortGameName(browser_.Video()) : opened_ > 0);
-  buttons_[2]->setToolTip(ShortGame() ? "Opens what belongs together with a distance wedge, chip, bunker or putting video" : "");
+  buttons_[2]->setToolTip(
+      ShortGame() ? "Opens what belongs together with a distance wedge, chip, bunker or putting video" : "");
 }
 
 void OpenVideoParts::CmdOpenVideo_Click(int Index) {
   if (preview_->Control().IsPlaying()) preview_->TogglePlay();
   switch (Index) {
     case 0: OpenChosen(); break;
-    case 1:
-      opener_.OpenVideoDone();
-      return;
+    case 1: opener_.OpenVideoDone(); return;
     case 2:
       if (ShortGame()) {
         OpenFamily();
@@ -116,7 +115,8 @@ void OpenVideoParts::OpenChosen() {
   if (!browser_.HasVideo()) return;
   const std::string path = browser_.VideoPath();
   if (!browser_.Drives().Answers(browser_.Tree().Root(), path))
-    return host_.Message(MessageKind::Warning, "", "The drive with this video is not answering. The video was not opened.");
+    return host_.Message(MessageKind::Warning, "",
+                         "The drive with this video is not answering. The video was not opened.");
   if (opener_.OpenVideo(path)) ++opened_;
 }
 
@@ -124,10 +124,12 @@ void OpenVideoParts::OpenFamily() {
   const auto family = [folder = browser_.Folder(), video = browser_.Video()] { return ShortGameFamily(folder, video); };
   const auto paths = browser_.Drives().Ask(browser_.Tree().Root(), family);
   if (!paths)
-    return host_.Message(MessageKind::Warning, "", "The drive with these videos is not answering. They were not opened.");
-  if (paths->empty())
     return host_.Message(MessageKind::Warning, "",
-                         "There are no videos here with the names that belong together with \"" + browser_.Video() + "\".");
+                         "The drive with these videos is not answering. They were not opened.");
+  if (paths->empty())
+    return host_.Message(
+        MessageKind::Warning, "",
+        "There are no videos here with the names that belong together with \"" + browser_.Video() + "\".");
   opener_.OpenFamily(*paths);
 }
 
@@ -172,8 +174,7 @@ OpenVidForm::OpenVidForm(PlayerServices& services, const Settings& settings, Las
   auto* rows = new QVBoxLayout(this);
   rows->setContentsMargins(1, 1, 1, 1);
   rows->setSpacing(0);
-  for (NameList* list : {lists_->InstructorList(), lists_->StudentList(), lists_->VideoList()})
-    LeastHeight(list, 62);
+  for (NameList* list : {lists_->InstructorList(), lists_->StudentList(), lists_->VideoList()}) LeastHeight(list, 62);
   // Three instructors and four of the others can be seen in the smallest window, and a picture beneath them.
   rows->addWidget(Headed(Heading("Instructors"), lists_->InstructorList()), 10);
   rows->addWidget(Headed(students_, lists_->StudentList()), 12);

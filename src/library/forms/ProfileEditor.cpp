@@ -91,8 +91,7 @@ void ProfileEditor::OpenNew(const FieldTexts& captions) {
 void ProfileEditor::OpenEdit(const FieldTexts& captions, const FieldTexts& values) {
   new_ = false;
   SetTitle(Title());
-  text_->setText(
-      QString("Edit the fields of the %1 and choose \"Save\" to modify.").arg(Q(vocabulary_.noun())));
+  text_->setText(QString("Edit the fields of the %1 and choose \"Save\" to modify.").arg(Q(vocabulary_.noun())));
   boxes_->Box(kNameField).setReadOnly(true);
   Fill(captions, values);
   instructorPart_->hide();
@@ -118,7 +117,9 @@ void ProfileEditor::SetInstructors(const std::vector<std::string>& names) {
   instructors_->addItems(Q(names));
 }
 
-void ProfileEditor::SetInstructor(const std::string& name) { instructors_->setCurrentIndex(instructors_->findText(Q(name))); }
+void ProfileEditor::SetInstructor(const std::string& name) {
+  instructors_->setCurrentIndex(instructors_->findText(Q(name)));
+}
 
 void ProfileEditor::FocusFirst() { boxes_->Box(new_ ? kNameField : kNameField + 1).setFocus(); }
 

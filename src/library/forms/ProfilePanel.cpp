@@ -95,7 +95,8 @@ ProfilePanel::ProfilePanel(IHost& host, IPrinter& printer, const Settings& setti
 void ProfilePanel::SetupVocabulary() {
   notesTitle_->setText(Q(vocabulary_.Notes()));
   editor_->setAccessibleName(Q(vocabulary_.Notes()));
-  editor_->setPlaceholderText(QString("What you want to remember about this %1. Saved by itself.").arg(Q(vocabulary_.noun())));
+  editor_->setPlaceholderText(
+      QString("What you want to remember about this %1. Saved by itself.").arg(Q(vocabulary_.noun())));
   if (notes_.StudentFolder().empty()) SetTitle(Q(vocabulary_.Profile()));
 }
 
@@ -128,12 +129,11 @@ void ProfilePanel::PrintNotes() {
     emit Said("There are no notes to print.");
     return;
   }
-  const Outcome printed = printer_.Print(
-      {LastName(notes_.StudentFolder()), vocabulary_.Notes(), notes, settings_.CompanyName});
+  const Outcome printed =
+      printer_.Print({LastName(notes_.StudentFolder()), vocabulary_.Notes(), notes, settings_.CompanyName});
   if (printed.Kind() == Fault::Failed)
     host_.Message(MessageKind::Warning, vocabulary_.Notes(), "The notes were not printed. " + printed.Why());
-  else
-    emit Said(printed ? "The notes were printed." : "The notes were not printed.");
+  else emit Said(printed ? "The notes were printed." : "The notes were not printed.");
 }
 
 void ProfilePanel::OpenStudent(const std::string& studentFolder) {
@@ -196,7 +196,9 @@ void ProfilePanel::ShowNotes(const std::string& text) {
   const qsizetype wantedEnd = wanted.size() - back;
   // A cursor right before the added text stays before it.
   const auto placeOf = [&](qsizetype place) {
-    return static_cast<int>(place <= front ? place : place >= shownEnd ? place - shownEnd + wantedEnd : std::min(place, wantedEnd));
+    return static_cast<int>(place <= front      ? place
+                            : place >= shownEnd ? place - shownEnd + wantedEnd
+                                                : std::min(place, wantedEnd));
   };
   QTextCursor own = editor_->textCursor();
   const int anchor = placeOf(own.anchor());

@@ -72,8 +72,8 @@ class ProfilePanel : public Panel, private INotesEvents {
   bool resting_ = false;  ///< it is the clock that stores the notes
   NotesKeeper notes_;
   HostTimer telling_;
-  HostTimer rest_;  ///< runs while notes have been typed that the disk has not got yet
-  std::string toldReason_;                       ///< why notes could not be stored, as the last box told it
+  HostTimer rest_;          ///< runs while notes have been typed that the disk has not got yet
+  std::string toldReason_;  ///< why notes could not be stored, as the last box told it
   std::map<std::string, NotesKeeper::Waiting> toldNotes_;  ///< and which
   View view_ = View::Brief;
   FieldGrid* fields_;

@@ -94,7 +94,8 @@ void ProfilesPage::ConnectParts() {
   connect(lists_, &LibraryLists::VideoChosen, this, &ProfilesPage::VideoList_Click);
   connect(lists_, &LibraryLists::VideoActivated, commands_, &LibraryCommands::SendToAnalysis);
   connect(lists_, &LibraryLists::PlayWanted, this, [this] { videos_->VideoPlay1().TogglePlay(); });
-  for (QWidget* list : {lists_->InstructorList(), lists_->StudentList(), lists_->VideoList()}) list->installEventFilter(this);
+  for (QWidget* list : {lists_->InstructorList(), lists_->StudentList(), lists_->VideoList()})
+    list->installEventFilter(this);
   connect(buttons_, &LibraryButtons::Wanted, this, &ProfilesPage::SPBtn_Click);
   connect(videos_, &VideosPanel::AddWanted, commands_, [this] { commands_->AddVideos(); });
   connect(videos_, &VideosPanel::FolderWanted, commands_, &LibraryCommands::ShowFolder);
@@ -346,8 +347,8 @@ void ProfilesPage::OpenEditor(bool edit) {
   profilePanel_->SaveNotes();
   instructors_->SetUsable(!edit);
   instructors_->SetChangeable(false);
-  for (QWidget* part : {static_cast<QWidget*>(students_), static_cast<QWidget*>(videos_),
-                        static_cast<QWidget*>(profilePanel_)})
+  for (QWidget* part :
+       {static_cast<QWidget*>(students_), static_cast<QWidget*>(videos_), static_cast<QWidget*>(profilePanel_)})
     part->hide();
   grid_->addWidget(editor_, 0, 1, 2, 2);
   editor_->show();
@@ -357,8 +358,9 @@ void ProfilesPage::OpenEditor(bool edit) {
 
 bool ProfilesPage::MayDropEdits() {
   return !editor_->Changed() ||
-         services_.host.Question(Std(editor_->Title()),
-                                 "What you have typed has not been saved. Do you want to close the form without saving it?");
+         services_.host.Question(
+             Std(editor_->Title()),
+             "What you have typed has not been saved. Do you want to close the form without saving it?");
 }
 
 void ProfilesPage::CancelEditor() {

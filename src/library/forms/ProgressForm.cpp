@@ -109,7 +109,8 @@ void ProgressForm::ShowProgress(const JobProgress& progress) {
   }
   gauge_->setValue(qRound(progress.part * kParts));
   QString current = Q(progress.current);
-  if (progress.total > 1) current = QString("%1 of %2   %3").arg(qMin(progress.done + 1, progress.total)).arg(progress.total).arg(current);
+  if (progress.total > 1)
+    current = QString("%1 of %2   %3").arg(qMin(progress.done + 1, progress.total)).arg(progress.total).arg(current);
   current_->setText(current_->fontMetrics().elidedText(current, Qt::ElideMiddle, width() - 48));
 }
 

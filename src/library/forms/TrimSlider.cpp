@@ -11,7 +11,7 @@ namespace kinalyx {
 
 namespace {
 
-constexpr double kMargin = 16;       ///< room for the ends
+constexpr double kMargin = 16;  ///< room for the ends
 constexpr double kHandleWidth = 12;
 constexpr double kTrackTop = 14;
 constexpr double kTrackHeight = 22;

@@ -105,7 +105,8 @@ QLayout* VideosPanel::MakeList() {
   buttons->setContentsMargins(8, 6, 8, 6);
   buttons->setSpacing(8);
   auto* add = new Button("AddVideosBtn", "Add Videos", "plus", Look::Quiet);
-  add->setToolTip("Copies videos from this computer, a telephone or a card to the student. They can also be dropped here.");
+  add->setToolTip(
+      "Copies videos from this computer, a telephone or a card to the student. They can also be dropped here.");
   connect(add, &QPushButton::clicked, this, &VideosPanel::AddWanted);
   auto* folder = IconButton("OpenFolderBtn", "open", "Shows the folder of these videos", Look::Quiet);
   connect(folder, &QPushButton::clicked, this, &VideosPanel::FolderWanted);
@@ -141,7 +142,7 @@ QWidget* VideosPanel::MakeStats() {
   grid->setHorizontalSpacing(kGap);
   grid->setVerticalSpacing(0);
   const char* const kCaptions[] = {"Format",   "Width",     "Height", "Rate", "Length",
-                                   "Duration", "File size", "Color", "Sound"};
+                                   "Duration", "File size", "Color",  "Sound"};
   for (int line = 0; line < 9; ++line) {
     auto* caption = MakeLabel(QString("StatCaption%1").arg(line), kCaptions[line], "caption");
     auto* value = new FigureLabel(QString("ProInfoLbl%1").arg(kFirstStat + line), kNoStat);
@@ -183,8 +184,8 @@ bool VideosPanel::ShowVideo(const std::string& path) {
 
 void VideosPanel::ShowStats(const VideoStats& stats) {
   for (std::size_t line = 0; line < stats.size(); ++line) stats_[line]->setText(Q(stats[line]));
-  summary_->SetFacts({Q(stats[0]), Q(stats[1]) + QString(" \u00D7 ") + Q(stats[2]), Q(stats[3]), Q(stats[4]), Q(stats[5]),
-                      Q(stats[6])});
+  summary_->SetFacts({Q(stats[0]), Q(stats[1]) + QString(" \u00D7 ") + Q(stats[2]), Q(stats[3]), Q(stats[4]),
+                      Q(stats[5]), Q(stats[6])});
 }
 
 void VideosPanel::ShowStatsPanel(bool shown) { statsPart_->setVisible(shown); }
@@ -202,9 +203,7 @@ void VideosPanel::ShowTrim(bool shown) {
 
 bool VideosPanel::TrimShown() const { return !trim_->isHidden(); }
 
-void VideosPanel::SetCount(int videos) {
-  count_->setText(videos > 0 ? QString::number(videos) : QString());
-}
+void VideosPanel::SetCount(int videos) { count_->setText(videos > 0 ? QString::number(videos) : QString()); }
 
 void VideosPanel::resizeEvent(QResizeEvent* event) {
   Panel::resizeEvent(event);

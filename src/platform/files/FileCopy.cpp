@@ -385,10 +385,11 @@ std::string CopyJob::RemoveCopied(const Entry& entry) {
   if (!kept.empty()) {
     std::string text = Quoted(kept.front());
     if (kept.size() > 1) text += " and " + std::to_string(kept.size() - 1) + " more";
-    return text + " came or changed while " + Quoted(entry.from) + " was moved, and stayed in the old place: " +
-           FolderOf(kept.front());
+    return text + " came or changed while " + Quoted(entry.from) +
+           " was moved, and stayed in the old place: " + FolderOf(kept.front());
   }
-  return reason ? Quoted(entry.from) + " could not be removed from its old place: " + std::strerror(reason) : std::string();
+  return reason ? Quoted(entry.from) + " could not be removed from its old place: " + std::strerror(reason)
+                : std::string();
 }
 
 void CopyJob::RollBack() {

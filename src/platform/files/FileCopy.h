@@ -76,8 +76,8 @@ class CopyJob {
   struct Node {
     NodeKind kind = NodeKind::File;
     std::string from;
-    std::string to;       ///< under the hidden name of its entry
-    std::string target;   ///< of a link
+    std::string to;      ///< under the hidden name of its entry
+    std::string target;  ///< of a link
     std::int64_t size = 0;
     timespec accessed{};
     timespec modified{};
@@ -87,7 +87,7 @@ class CopyJob {
   struct Entry {
     std::string from;
     std::string to;
-    std::string staged;      ///< what is renamed to `to`: the hidden copy, or the source itself
+    std::string staged;  ///< what is renamed to `to`: the hidden copy, or the source itself
     bool byRename = false;
     bool keep = false;
     bool committed = false;
@@ -127,8 +127,8 @@ class CopyJob {
   std::size_t entry_ = 0;
   std::size_t node_ = 0;
   bool measured_ = false;
-  bool begun_ = false;                     ///< the unit under way has made its folders
-  std::vector<std::string> madeFolders_;   ///< by the unit under way, above its entries
+  bool begun_ = false;                    ///< the unit under way has made its folders
+  std::vector<std::string> madeFolders_;  ///< by the unit under way, above its entries
   int source_ = -1;
   int target_ = -1;
 };

@@ -107,7 +107,8 @@ class Document {
 
   void Set(std::string_view section, std::string_view key, std::string_view value) {
     std::string plain(value);
-    std::replace_if(plain.begin(), plain.end(), [](char c) { return c == '\r' || c == '\n' || c == '\0'; }, ' ');
+    std::replace_if(
+        plain.begin(), plain.end(), [](char c) { return c == '\r' || c == '\n' || c == '\0'; }, ' ');
     const std::string line = std::string(Trimmed(key)) + "=" + plain;
     bool replaced = false;
     ForEachKey(lines_, section, [&](std::size_t i, const Line& found) {

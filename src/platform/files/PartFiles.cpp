@@ -70,7 +70,8 @@ std::string PartNameBeside(const std::string& path) {
   std::random_device dice;
   std::array<char, 24> number{};
   std::snprintf(number.data(), number.size(), ".%08x%08x", dice(), dice());
-  return JoinPath(FolderOf(path), "." + std::string(CutUtf8(LastName(path), 200)) + number.data() + std::string(kEnding));
+  return JoinPath(FolderOf(path),
+                  "." + std::string(CutUtf8(LastName(path), 200)) + number.data() + std::string(kEnding));
 }
 
 void RemoveDeadParts(const std::string& folder, IDisk& disk) {

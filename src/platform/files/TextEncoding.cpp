@@ -10,9 +10,9 @@ namespace {
 
 // What Windows-1252 has at 0x80 to 0x9F; 0 marks the five bytes without a character.
 constexpr std::array<std::uint16_t, 32> kHighControls = {
-    0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0,
-    0x017D, 0,      0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A,
-    0x0153, 0,      0x017E, 0x0178};
+    0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0,      0x017D, 0,      0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
 
 void Append(std::string& text, std::uint32_t code) {
   if (code < 0x80) {
@@ -114,9 +114,7 @@ std::string ToWindows1252(std::string_view text) {
   return bytes;
 }
 
-std::string AsUtf8(std::string_view bytes) {
-  return IsValidUtf8(bytes) ? std::string(bytes) : FromWindows1252(bytes);
-}
+std::string AsUtf8(std::string_view bytes) { return IsValidUtf8(bytes) ? std::string(bytes) : FromWindows1252(bytes); }
 
 std::string FoldCase(std::string_view text) {
   return EachCharacter(text, [](char32_t code) { return QChar::toCaseFolded(code); });

@@ -78,7 +78,9 @@ class DriveWatch {
   template <typename Reading>
   std::optional<std::invoke_result_t<Reading&>> Ask(const std::string& place, Reading work, Patience patience) {
     const auto answer = std::make_shared<std::optional<std::invoke_result_t<Reading&>>>();
-    if (!Carry(place, [answer, work = std::move(work)]() mutable { *answer = work(); }, patience)) return std::nullopt;
+    if (!Carry(
+            place, [answer, work = std::move(work)]() mutable { *answer = work(); }, patience))
+      return std::nullopt;
     return std::move(*answer);
   }
   bool Carry(const std::string& place, Work work, Patience patience);

@@ -24,10 +24,10 @@ struct FileDialog {
 
 /// What the machine tells of itself, for the system test and the window layouts.
 struct SystemInfo {
-  int screenWidth = 0;       ///< pixels
-  int screenHeight = 0;      ///< pixels
+  int screenWidth = 0;   ///< pixels
+  int screenHeight = 0;  ///< pixels
   int bitsPerPixel = 0;
-  int processorMHz = 0;      ///< 0 when the system does not tell
+  int processorMHz = 0;  ///< 0 when the system does not tell
   std::int64_t ramKilobytes = 0;
 };
 

@@ -175,7 +175,8 @@ class QtHost final : public QObject, public IHost {
     QString kind;
     QString path = QFileDialog::getSaveFileName(QApplication::activeWindow(), Title(dialog.title), Text(dialog.folder),
                                                 DialogFilter(dialog.filter), &kind);
-    if (!path.isEmpty() && QFileInfo(path).suffix().isEmpty()) path += kind.section("(*", 1).section(QRegularExpression("[ )]"), 0, 0);
+    if (!path.isEmpty() && QFileInfo(path).suffix().isEmpty())
+      path += kind.section("(*", 1).section(QRegularExpression("[ )]"), 0, 0);
     return Picked(path);
   }
 
@@ -202,8 +203,7 @@ class QtHost final : public QObject, public IHost {
       info.bitsPerPixel = screen->depth();
     }
     struct sysinfo memory {};
-    if (sysinfo(&memory) == 0)
-      info.ramKilobytes = static_cast<std::int64_t>(memory.totalram) * memory.mem_unit / 1024;
+    if (sysinfo(&memory) == 0) info.ramKilobytes = static_cast<std::int64_t>(memory.totalram) * memory.mem_unit / 1024;
     info.processorMHz = ProcessorMHz();
     return info;
   }

@@ -200,14 +200,17 @@ void Demuxer::FindPalette() {
   if (!isAvi_ || bits < 1 || bits > 8) return;
   // The library marks rows that run upward by a word behind the colours.
   constexpr std::string_view kUpward("BottomUp", 9);
-  std::string_view extra(reinterpret_cast<const char*>(codec.extradata), static_cast<std::size_t>(codec.extradata_size));
+  std::string_view extra(reinterpret_cast<const char*>(codec.extradata),
+                         static_cast<std::size_t>(codec.extradata_size));
   if (extra.ends_with(kUpward)) extra.remove_suffix(kUpward.size());
   const std::size_t colours = std::min<std::size_t>(std::size_t{1} << bits, extra.size() / 4);
   if (colours == 0) return;
   extra.remove_prefix(extra.size() - 4 * colours);
   headerPalette_.assign(kPaletteColours, 0);
   for (std::size_t i = 0; i < colours; ++i) {
-    const auto byte = [&](std::size_t n) { return static_cast<std::uint32_t>(static_cast<unsigned char>(extra[4 * i + n])); };
+    const auto byte = [&](std::size_t n) {
+      return static_cast<std::uint32_t>(static_cast<unsigned char>(extra[4 * i + n]));
+    };
     headerPalette_[i] = 0xFF000000 | byte(2) << 16 | byte(1) << 8 | byte(0);
   }
   palette_ = headerPalette_;
@@ -383,7 +386,8 @@ void Demuxer::FindFields(const AVPacket& first) {
   const bool topFirst = fields_ == AV_FIELD_TT || fields_ == AV_FIELD_BT;
   firstField_ = structure == FieldParser::Structure::TopField || structure == FieldParser::Structure::BottomField
                     ? structure
-                    : topFirst ? FieldParser::Structure::TopField : FieldParser::Structure::BottomField;
+                : topFirst ? FieldParser::Structure::TopField
+                           : FieldParser::Structure::BottomField;
   joiner_ = std::make_unique<FieldJoiner>(codec, firstField_);
   if (!OneOf("mov", input_->iformat->name)) return;
   // Films hardly ever part the fields of a picture, and need not be read through where they do not.

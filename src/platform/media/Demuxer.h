@@ -18,9 +18,9 @@ namespace kinalyx {
 
 /// What the container says about when frames are shown.
 struct FrameTimes {
-  double unitMs = 0;          ///< of the times in the index
-  bool unitIsFrame = false;   ///< frames follow one another in units
-  double meanMs = 0;          ///< from frame to frame, where the packets have no times
+  double unitMs = 0;         ///< of the times in the index
+  bool unitIsFrame = false;  ///< frames follow one another in units
+  double meanMs = 0;         ///< from frame to frame, where the packets have no times
 
   /// Milliseconds from the start of the first frame to the start of this one; the frame count gives the end.
   double Of(int frame, const PictureIndex& index) const;
@@ -87,7 +87,7 @@ class Demuxer {
     int packet = 0;
     std::int64_t place = 0;  ///< in the file, as the library tells it
     int size = 0;
-    std::int64_t before = 0; ///< the place of the packet before: entered there, this one comes out whole
+    std::int64_t before = 0;  ///< the place of the packet before: entered there, this one comes out whole
   };
   /// Takes all packets that `read` still gives.
   void ReadIndex(const std::function<bool(AVPacket&)>& read, PictureIndex& index);
@@ -121,7 +121,7 @@ class Demuxer {
   const Landmark* sought_ = nullptr;                        ///< the one to which the last seek went
   int strangers_ = 0;                                       ///< packets since then that were not it
   int next_ = 0;
-  bool synced_ = true;  ///< false after a seek, until a packet has been recognised
+  bool synced_ = true;                        ///< false after a seek, until a packet has been recognised
   std::vector<std::uint32_t> headerPalette_;  ///< opaque; empty for codecs that have none
   std::vector<std::uint32_t> palette_;        ///< at the place of the next packet
 };

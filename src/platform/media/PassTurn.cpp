@@ -100,8 +100,7 @@ bool OnBattery(const std::string& folder) {
     const std::string type = FirstLine(supply.path() / "type");
     if (type == "Battery" && FirstLine(supply.path() / "scope") != "Device")
       discharging = discharging || FirstLine(supply.path() / "status") == "Discharging";
-    else if (FirstLine(supply.path() / "online") == "1")
-      return false;
+    else if (FirstLine(supply.path() / "online") == "1") return false;
   }
   return discharging;
 }

@@ -106,7 +106,8 @@ void PictureDecoder::Stop() {
 }
 
 bool PictureDecoder::Filter(AVPacket& packet) {
-  return !filter_ || (av_bsf_send_packet(filter_.get(), &packet) >= 0 && av_bsf_receive_packet(filter_.get(), &packet) >= 0);
+  return !filter_ ||
+         (av_bsf_send_packet(filter_.get(), &packet) >= 0 && av_bsf_receive_packet(filter_.get(), &packet) >= 0);
 }
 
 std::optional<PlacedPacket> PictureDecoder::NextPlaced() {

@@ -88,7 +88,7 @@ class PictureDecoder {
   int next_ = 0;
   int firstPicture_ = 0;
   int wholeFrom_ = 0;
-  int settled_ = 0;              ///< pictures below have come out or never will
+  int settled_ = 0;  ///< pictures below have come out or never will
   enum class Fate : std::uint8_t { Open, CameOut, Doubtful };
   std::vector<Fate> fates_;      ///< of the pictures, in this run
   std::set<int> strange_;        ///< chunks of this run in which something was strange
@@ -98,8 +98,8 @@ class PictureDecoder {
   bool standsAlone_ = false;     ///< no picture needs another
   int heardComplaints_ = 0;
   int readableEnd_ = 0;
-  std::map<int, int> pictureOfPacket_;   ///< of the packets in the decoder
-  std::map<int, int> keyPictureOfChunk_; ///< of chunks that begin with leading pictures
+  std::map<int, int> pictureOfPacket_;    ///< of the packets in the decoder
+  std::map<int, int> keyPictureOfChunk_;  ///< of chunks that begin with leading pictures
 };
 
 }  // namespace kinalyx

@@ -77,9 +77,7 @@ int PictureIndex::PictureOfFrame(int frame) const {
   return std::max(0, static_cast<int>(after - frameOfOrder_.begin()) - 1);
 }
 
-int PictureIndex::FrameOfPicture(int picture) const {
-  return frameOfOrder_.empty() ? picture : frameOfOrder_[picture];
-}
+int PictureIndex::FrameOfPicture(int picture) const { return frameOfOrder_.empty() ? picture : frameOfOrder_[picture]; }
 
 int PictureIndex::PacketOfOrder(int order) const {
   // The last packet with this order is the shown one: hidden ones before it carry the same.

@@ -78,8 +78,8 @@ class PictureIndex {
 
   std::vector<Packet> packets_;
   std::vector<std::int32_t> keys_;
-  std::vector<Showing> showings_;         ///< of packets, until the index is finished
-  std::vector<std::int64_t> showTimes_;   ///< of pictures, and the end of the last; empty when they are not known
+  std::vector<Showing> showings_;           ///< of packets, until the index is finished
+  std::vector<std::int64_t> showTimes_;     ///< of pictures, and the end of the last; empty when they are not known
   std::vector<std::int32_t> frameOfOrder_;  ///< empty while frames and pictures are the same
   int pictures_ = 0;
   int frames_ = 0;

@@ -49,8 +49,8 @@ class PictureSource {
   /// How a picture is to be brought that somebody wants without waiting for it.
   enum class Way {
     Now,
-    AfterRest,     ///< when the hand has not moved for a moment: it sees a small one meanwhile
-    KeyFirst,      ///< the key picture below at once, the picture itself after a rest
+    AfterRest,       ///< when the hand has not moved for a moment: it sees a small one meanwhile
+    KeyFirst,        ///< the key picture below at once, the picture itself after a rest
     WithThoseBelow,  ///< now, and with small pictures of all below it that hang together with it
   };
   /// Has a picture decoded, unless another is wanted before; the news tell when it is there.
@@ -69,7 +69,7 @@ class PictureSource {
   struct Task {
     bool back = false;  ///< for the decoder that works on stretches
     bool small = false;
-    int key = -1;       ///< a chunk of which only the key picture is wanted; -1 for the target
+    int key = -1;  ///< a chunk of which only the key picture is wanted; -1 for the target
     int target = 0;
     int wholeFrom = 0;
     bool awaited = false;  ///< somebody stands still until it comes
@@ -116,12 +116,12 @@ class PictureSource {
   int step_ = 1;  ///< from the last picture asked for to the next, as far as can be foreseen
   int lastDelta_ = 0;
   int wanted_ = -1;
-  bool awaited_ = false;  ///< somebody stands still until the wanted picture comes; else the news tell it
+  bool awaited_ = false;         ///< somebody stands still until the wanted picture comes; else the news tell it
   Clock::time_point notBefore_;  ///< until then the hand may go on
   int keyFirst_ = -1;            ///< the chunk whose key picture comes before the wanted one
   bool withThoseBelow_ = false;
-  bool yield_ = false;    ///< another file needs the memory of the decoders
-  bool yielded_ = false;  ///< and has it: nothing is decoded ahead until the next question
+  bool yield_ = false;     ///< another file needs the memory of the decoders
+  bool yielded_ = false;   ///< and has it: nothing is decoded ahead until the next question
   bool thorough_ = false;  ///< the wanted picture stands in for a lost one: leave nothing out on the way
   bool fillingAhead_ = true;
   std::optional<Stretch> stretch_;

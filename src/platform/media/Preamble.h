@@ -19,8 +19,8 @@ class Preamble {
   void PutBefore(AVPacket& packet) const;
 
  private:
-  std::string words_;    ///< empty where there is nothing to say
-  std::string replaces_; ///< a packet in which this stands speaks for itself; empty: none does
+  std::string words_;     ///< empty where there is nothing to say
+  std::string replaces_;  ///< a packet in which this stands speaks for itself; empty: none does
 };
 
 }  // namespace kinalyx

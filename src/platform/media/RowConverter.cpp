@@ -120,8 +120,7 @@ bool RowConverter::Upright(const AVFrame& frame, std::uint8_t* bits, int stride)
                           libyuv::kFilterLinear) != 0)
       return false;
   }
-  return turn == libyuv::kRotate0 ||
-         libyuv::ARGBRotate(lying, lyingStride, bits, stride, wide, height, turn) == 0;
+  return turn == libyuv::kRotate0 || libyuv::ARGBRotate(lying, lyingStride, bits, stride, wide, height, turn) == 0;
 }
 
 /// The planes of the usual pictures of telephones are turned before they become pixels, which are more bytes. False

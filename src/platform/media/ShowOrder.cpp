@@ -81,7 +81,8 @@ int ShowOrder::PictureOfFront() const {
   if (rule_ == Rule::AsStored) return picture;
   for (auto later = waiting_.begin() + 1; later != waiting_.end() && later->key.chunk == front.key.chunk; ++later)
     picture += !index_.IsHidden(later->number) && later->key < front.key;
-  for (const Past& earlier : past_) picture -= !earlier.hidden && earlier.key.chunk == front.key.chunk && earlier.key > front.key;
+  for (const Past& earlier : past_)
+    picture -= !earlier.hidden && earlier.key.chunk == front.key.chunk && earlier.key > front.key;
   return std::clamp(picture, 0, index_.PictureCount() - 1);
 }
 

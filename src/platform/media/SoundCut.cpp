@@ -88,8 +88,8 @@ bool SoundCut::OpenConverter() {
   AVChannelLayout layout{};
   av_channel_layout_default(&layout, channels_);
   SwrContext* context = nullptr;
-  const int made = swr_alloc_set_opts2(&context, &layout, AV_SAMPLE_FMT_S16, rate_, &layout, codec_->sample_fmt, rate_, 0,
-                                       nullptr);
+  const int made =
+      swr_alloc_set_opts2(&context, &layout, AV_SAMPLE_FMT_S16, rate_, &layout, codec_->sample_fmt, rate_, 0, nullptr);
   converter_.reset(context);
   return made >= 0 && swr_init(context) >= 0;
 }

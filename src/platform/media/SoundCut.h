@@ -47,7 +47,7 @@ class SoundCut {
   PacketHandle packet_ = NewPacket();
   FrameHandle frame_ = NewFrame();
 
-  int rate_ = 0;               ///< samples per second
+  int rate_ = 0;  ///< samples per second
   int channels_ = 0;
   double zero_ = 0;            ///< seconds of the file's clock at which the stretch begins
   std::int64_t end_ = 0;       ///< samples of the stretch

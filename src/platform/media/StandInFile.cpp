@@ -123,8 +123,9 @@ void StandInFile::Scan(int pictures, const Found& found) {
   Record record{};
   while (pread(file_, &record, sizeof record, end_) == sizeof record) {
     const std::int64_t at = end_ + static_cast<std::int64_t>(sizeof record);
-    const bool sound = record.mark == kMark && record.picture >= 0 && record.picture < pictures && record.longSide > 0 &&
-                       record.bytes > 0 && record.bytes <= kLargestPicture && at + record.bytes <= status.st_size;
+    const bool sound = record.mark == kMark && record.picture >= 0 && record.picture < pictures &&
+                       record.longSide > 0 && record.bytes > 0 && record.bytes <= kLargestPicture &&
+                       at + record.bytes <= status.st_size;
     if (!sound) break;
     found({record.picture, record.longSide, at, record.bytes, record.sum});
     end_ = at + record.bytes;

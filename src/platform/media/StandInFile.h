@@ -15,9 +15,9 @@ struct FileStamp;
 
 /// Where stand-ins are kept on the disk, and how much.
 struct StandInLimits {
-  std::string folder;                       ///< made when missing
-  std::int64_t all = std::int64_t{2} << 30;  ///< bytes of all files; the oldest go first
-  std::int64_t one = std::int64_t{1} << 30;  ///< bytes of the stand-ins of one video
+  std::string folder;                              ///< made when missing
+  std::int64_t all = std::int64_t{2} << 30;        ///< bytes of all files; the oldest go first
+  std::int64_t one = std::int64_t{1} << 30;        ///< bytes of the stand-ins of one video
   std::int64_t leaveFree = std::int64_t{2} << 30;  ///< bytes that the drive keeps
 
   /// kinalyx/ in the user's cache folder.

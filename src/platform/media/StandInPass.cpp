@@ -50,8 +50,7 @@ bool StandInPass::IsWorthIt(const Demuxer& source) {
   return pixels * longest > kFastTogether;
 }
 
-StandInPass::StandInPass(std::unique_ptr<Demuxer> source, std::unique_ptr<const FileStamp> video,
-                         std::string path)
+StandInPass::StandInPass(std::unique_ptr<Demuxer> source, std::unique_ptr<const FileStamp> video, std::string path)
     : index_(source->Index()),
       path_(std::move(path)),
       video_(std::move(video)),

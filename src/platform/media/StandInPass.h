@@ -45,7 +45,7 @@ class StandInPass {
   struct Job {
     bool key = false;  ///< the key picture of the chunk alone
     int chunk = 0;
-    int picture = 0;   ///< the first one missing
+    int picture = 0;  ///< the first one missing
   };
 
   void Work();

@@ -49,8 +49,8 @@ std::optional<TrimRequest> ParseTrimCommand(std::string_view text) {
     if (source.empty() || destination.empty()) continue;
     const bool exists = FileExists(source);
     if (request && !exists) continue;
-    request = {source, destination, *first, *last, *rate,
-               *mode == 0 ? TrimRequest::Mode::Copy : TrimRequest::Mode::Recompress};
+    request = {source, destination, *first,
+               *last,  *rate,       *mode == 0 ? TrimRequest::Mode::Copy : TrimRequest::Mode::Recompress};
     if (exists) break;
   }
   return request;

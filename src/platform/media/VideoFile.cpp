@@ -51,9 +51,7 @@ struct VideoFile::Engine {
   ~Engine();
   PictureListener ListenerFor(bool withPass);
 
-  bool Takes(int n, int bitCount) const {
-    return n >= 0 && n < info.frameCount && (bitCount == 24 || bitCount == 32);
-  }
+  bool Takes(int n, int bitCount) const { return n >= 0 && n < info.frameCount && (bitCount == 24 || bitCount == 32); }
   bool Shows(int picture, int bitCount, bool exact) const {
     return rows && rowsPicture == picture && rows.bitCount == bitCount && rowsExact == exact;
   }

@@ -33,9 +33,9 @@ struct FrameAtHand {
 
 enum class OpenFault {
   None,
-  NotFound,   ///< there is no such file, or it cannot be read
-  NoMedia,    ///< the file holds nothing that can be decoded as a video stream
-  NoFrames,   ///< a video stream with not one picture
+  NotFound,  ///< there is no such file, or it cannot be read
+  NoMedia,   ///< the file holds nothing that can be decoded as a video stream
+  NoFrames,  ///< a video stream with not one picture
 };
 
 /// One open video. Gives the picture of any frame number exactly, in any order: frame n is the nth
@@ -87,9 +87,9 @@ class VideoFile {
 };
 
 struct VideoFile::Result {
-  std::unique_ptr<VideoFile> file;    ///< null on any fault
+  std::unique_ptr<VideoFile> file;  ///< null on any fault
   OpenFault fault = OpenFault::None;
-  std::string message;                ///< the library's own words, for a log or a tip
+  std::string message;  ///< the library's own words, for a log or a tip
 };
 
 /// Only the properties, without a worker or a picture; nothing when the file is no video.

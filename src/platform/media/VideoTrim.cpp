@@ -90,7 +90,8 @@ CodecHandle OpenEncoder(const char* name, const AVFrame& picture, AVRational rat
   codec->color_range = picture.color_range;
   codec->colorspace = picture.colorspace;
   const auto wanted = static_cast<AVPixelFormat>(picture.format);
-  codec->pix_fmt = encoder->pix_fmts ? avcodec_find_best_pix_fmt_of_list(encoder->pix_fmts, wanted, 0, nullptr) : wanted;
+  codec->pix_fmt =
+      encoder->pix_fmts ? avcodec_find_best_pix_fmt_of_list(encoder->pix_fmts, wanted, 0, nullptr) : wanted;
   AVDictionary* options = nullptr;
   switch (encoder->id) {
     case AV_CODEC_ID_DVVIDEO:
@@ -232,7 +233,8 @@ bool Trimmer::CopyWholeFile() {
   CopyJob job(CopyJob::Kind::Copy, {{{request_.source, target_}}});
   while (job.Step() == CopyJob::State::Running) {
     const CopyProgress& done = job.Progress();
-    const double part = done.bytesTotal > 0 ? static_cast<double>(done.bytesDone) / static_cast<double>(done.bytesTotal) : 0;
+    const double part =
+        done.bytesTotal > 0 ? static_cast<double>(done.bytesDone) / static_cast<double>(done.bytesTotal) : 0;
     if (!progress_ || progress_(part)) continue;
     job.Cancel();
     cancelled_ = true;

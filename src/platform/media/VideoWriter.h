@@ -15,13 +15,13 @@ struct VideoFormat {
   Codec codec = Codec::Mjpeg;
   int width = 640;
   int height = 480;
-  int rate = 30;             ///< pictures per `scale` seconds
+  int rate = 30;  ///< pictures per `scale` seconds
   int scale = 1;
-  int keyInterval = 250;     ///< H.264: pictures from one key frame to the next
-  int bFrames = 2;           ///< H.264: pictures between two references
-  int quality = 4;           ///< MJPEG: 1 best to 31; H.264: used as constant rate factor times 5
+  int keyInterval = 250;          ///< H.264: pictures from one key frame to the next
+  int bFrames = 2;                ///< H.264: pictures between two references
+  int quality = 4;                ///< MJPEG: 1 best to 31; H.264: used as constant rate factor times 5
   bool bottomFieldFirst = false;  ///< DV: the pictures are interlaced, bottom field first
-  std::string fourCC;        ///< overrides the codec's usual code when 4 characters long
+  std::string fourCC;             ///< overrides the codec's usual code when 4 characters long
 };
 
 /// Writes pictures into a new video file. The file is written beside its final name and renamed by

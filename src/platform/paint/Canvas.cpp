@@ -85,8 +85,9 @@ struct Canvas::Engine {
     const auto pixel = [](double value, int limit) {
       return static_cast<int>(std::clamp(std::floor(value), -1.0, static_cast<double>(limit)));
     };
-    const QRect box(QPoint(pixel(bounds.left - margin, surface->Width()), pixel(bounds.top - margin, surface->Height())),
-                    QPoint(pixel(bounds.right + margin, surface->Width()), pixel(bounds.bottom + margin, surface->Height())));
+    const QRect box(
+        QPoint(pixel(bounds.left - margin, surface->Width()), pixel(bounds.top - margin, surface->Height())),
+        QPoint(pixel(bounds.right + margin, surface->Width()), pixel(bounds.bottom + margin, surface->Height())));
     return box & QRect(0, 0, surface->Width(), surface->Height());
   }
 
@@ -180,8 +181,7 @@ struct Canvas::Engine {
 
   bool Stroke(std::span<const RealPoint> line) {
     if (!HasPen()) return !surface->Empty();
-    if (std::all_of(line.begin(), line.end(),
-                    [&](const RealPoint& p) { return p.x == line[0].x && p.y == line[0].y; }))
+    if (std::all_of(line.begin(), line.end(), [&](const RealPoint& p) { return p.x == line[0].x && p.y == line[0].y; }))
       return Dot(line[0]);
     ClipLine(line, Band(), pieces);
     if (pieces.starts.empty()) return !surface->Empty();
@@ -234,9 +234,7 @@ void Canvas::SetPen(const Pen& pen) {
 
 const Pen& Canvas::CurrentPen() const { return engine_->pen; }
 
-void Canvas::SetROP2(Rop2 mode) {
-  engine_->mode = mode == Rop2::MergePen ? mode : Rop2::CopyPen;
-}
+void Canvas::SetROP2(Rop2 mode) { engine_->mode = mode == Rop2::MergePen ? mode : Rop2::CopyPen; }
 
 Rop2 Canvas::CurrentROP2() const { return engine_->mode; }
 

@@ -24,9 +24,9 @@ struct Pen {
 };
 
 /// Draws lines and figures on a surface that it does not own and that must outlive it. In copy mode
-/// strokes are antialiased with round ends and joints; merging touches whole pixels. A point means the middle of its pixel; a line of even width lies one
-/// half pixel up and left of it, so that upright lines stay crisp. Coordinates are pixels, any 32-bit
-/// value, clipped to the surface. Each figure returns false when it could not be drawn (an empty
+/// strokes are antialiased with round ends and joints; merging touches whole pixels. A point means the middle of its
+/// pixel; a line of even width lies one half pixel up and left of it, so that upright lines stay crisp. Coordinates are
+/// pixels, any 32-bit value, clipped to the surface. Each figure returns false when it could not be drawn (an empty
 /// surface); too few points draw nothing and count as drawn. The surface may be read, written and
 /// given another size between two figures.
 class Canvas {

@@ -43,8 +43,7 @@ Outcome Save(const PixelRows& rows, const std::string& path, const char* format,
 }  // namespace
 
 Outcome SaveJpeg(const PixelRows& rows, const std::string& path, int quality) {
-  if (quality < 0 || quality > 100)
-    return Failure(QStringLiteral("The quality must be 0 to 100."));
+  if (quality < 0 || quality > 100) return Failure(QStringLiteral("The quality must be 0 to 100."));
   return Save(rows, path, "jpg", quality);
 }
 

@@ -114,8 +114,7 @@ Outcome PrintOn(QPrinter& printer, const PrintedText& text) {
   Pages pages(text, printer);
   const int first = std::max(1, printer.fromPage());
   const int last = printer.toPage() > 0 ? std::min(printer.toPage(), pages.Count()) : pages.Count();
-  if (first > last)
-    return Outcome::Failed(QString("There are only %1 pages.").arg(pages.Count()).toStdString());
+  if (first > last) return Outcome::Failed(QString("There are only %1 pages.").arg(pages.Count()).toStdString());
   const bool backwards = printer.pageOrder() == QPrinter::LastPageFirst;
   QPainter painter;
   if (!painter.begin(&printer)) return Failed(printer);

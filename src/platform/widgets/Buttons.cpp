@@ -92,7 +92,9 @@ TileButton::TileButton(const QString& name, const QString& caption, const QStrin
 
 QSize TileButton::sizeHint() const { return place_ == Place::Rail ? QSize(Px(116), Px(74)) : QSize(Px(150), Px(132)); }
 
-QSize TileButton::minimumSizeHint() const { return place_ == Place::Rail ? QSize(Px(116), Px(58)) : QSize(Px(96), Px(108)); }
+QSize TileButton::minimumSizeHint() const {
+  return place_ == Place::Rail ? QSize(Px(116), Px(58)) : QSize(Px(96), Px(108));
+}
 
 void TileButton::keyPressEvent(QKeyEvent* event) {
   if (PressesButton(*event)) click();

@@ -23,7 +23,8 @@ FileDrop::FileDrop(QWidget* target) : QObject(target) {
 
 bool FileDrop::eventFilter(QObject* watched, QEvent* event) {
   const auto type = event->type();
-  if (type != QEvent::DragEnter && type != QEvent::DragMove && type != QEvent::Drop) return QObject::eventFilter(watched, event);
+  if (type != QEvent::DragEnter && type != QEvent::DragMove && type != QEvent::Drop)
+    return QObject::eventFilter(watched, event);
   auto& drop = static_cast<QDropEvent&>(*event);
   const auto paths = FilesIn(drop.mimeData());
   if (paths.empty()) return QObject::eventFilter(watched, event);

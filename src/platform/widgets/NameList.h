@@ -5,8 +5,8 @@
 
 namespace kinalyx {
 
-/// Paints the rows of lists of names: 30 pixels high beside 13 pixels of text, the chosen one filled with the accent, with an
-/// optional count to the right.
+/// Paints the rows of lists of names: 30 pixels high beside 13 pixels of text, the chosen one filled with the accent,
+/// with an optional count to the right.
 class NameDelegate : public QStyledItemDelegate {
  public:
   /// Item data: the count as text; none shows none.

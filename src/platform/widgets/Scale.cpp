@@ -66,7 +66,9 @@ bool SetTextPixels(QApplication& application, int pixels) {
   return true;
 }
 
-int Px(double designed) { return static_cast<int>(std::lround(designed * std::max(TextPixels(), kTextPixels) / kTextPixels)); }
+int Px(double designed) {
+  return static_cast<int>(std::lround(designed * std::max(TextPixels(), kTextPixels) / kTextPixels));
+}
 
 QString WithSizes(const QString& sheet) {
   static const QRegularExpression kLength("@(\\d+)(?:-(\\d+)|/(\\d+))?");

@@ -26,12 +26,12 @@ constexpr int kIndicator = 18;
 /// What check marks, radio dots and combo boxes are drawn with.
 struct ControlInks {
   QColor field;
-  QColor idle;      ///< fill of what is disabled
+  QColor idle;  ///< fill of what is disabled
   QColor outline;
   QColor idleLine;
-  QColor active;    ///< outline under the mouse and with the keys, fill of what is on
-  QColor mark;      ///< on `active`
-  QColor sign;      ///< the arrow
+  QColor active;  ///< outline under the mouse and with the keys, fill of what is on
+  QColor mark;    ///< on `active`
+  QColor sign;    ///< the arrow
   QColor faint;
 };
 
@@ -81,7 +81,8 @@ class Style : public QProxyStyle {
     }
   }
 
-  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* data) const override {
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* data) const override {
     switch (hint) {
       case SH_ComboBox_Popup: return 0;
       case SH_Slider_AbsoluteSetButtons: return Qt::LeftButton;
@@ -223,7 +224,8 @@ class Style : public QProxyStyle {
     const QPointF middle(option.rect.right() - 15, option.rect.center().y() + 1.0);
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(enabled ? inks.sign : inks.faint, 1.7, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPolyline(QPolygonF{middle + QPointF(-4.5, -2.2), middle + QPointF(0, 2.3), middle + QPointF(4.5, -2.2)});
+    painter.drawPolyline(
+        QPolygonF{middle + QPointF(-4.5, -2.2), middle + QPointF(0, 2.3), middle + QPointF(4.5, -2.2)});
     painter.restore();
   }
 };

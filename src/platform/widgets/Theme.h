@@ -28,25 +28,25 @@ inline constexpr int kCaptionPixels = 11;
 /// or white until they stand out 4.5 : 1 from what they are written on; disabled ones 3 : 1.
 struct Theme {
   SchemeSlots scheme{};
-  QColor accent;        ///< slot 0: buttons, headings, selected rows
+  QColor accent;  ///< slot 0: buttons, headings, selected rows
   QColor accentHover;
   QColor accentPressed;
-  QColor accentText;    ///< slot 2, or the slot that can be read on the accent
-  QColor panel;         ///< slot 1: headings of panels, the rail
-  QColor backdrop;      ///< slot 3
-  QColor field;         ///< lists, boxes and the bodies of panels: a light tint of slot 1
-  QColor line;          ///< borders of panels, and dividers
-  QColor outline;       ///< of fields and check marks, which show by nothing else: 3 : 1 on `field`
-  QColor text;          ///< on `field`, `panel` and `backdrop`
-  QColor heading;       ///< slot 0 as text on `panel`
-  QColor muted;         ///< captions
-  QColor faint;         ///< disabled text
-  QColor idle;          ///< fill of disabled fields: nearer to the backdrop than to what can be filled in
-  QColor selection;     ///< hovered rows
-  QColor ring;          ///< round what has the keys: 3 : 1 on all grounds
-  QColor stage;         ///< behind videos, the same in every scheme
-  QColor stageLine;     ///< frame of an idle window on the stage
-  QColor stageFrame;    ///< frame of the current window and what is on: a light tone of slot 0
+  QColor accentText;  ///< slot 2, or the slot that can be read on the accent
+  QColor panel;       ///< slot 1: headings of panels, the rail
+  QColor backdrop;    ///< slot 3
+  QColor field;       ///< lists, boxes and the bodies of panels: a light tint of slot 1
+  QColor line;        ///< borders of panels, and dividers
+  QColor outline;     ///< of fields and check marks, which show by nothing else: 3 : 1 on `field`
+  QColor text;        ///< on `field`, `panel` and `backdrop`
+  QColor heading;     ///< slot 0 as text on `panel`
+  QColor muted;       ///< captions
+  QColor faint;       ///< disabled text
+  QColor idle;        ///< fill of disabled fields: nearer to the backdrop than to what can be filled in
+  QColor selection;   ///< hovered rows
+  QColor ring;        ///< round what has the keys: 3 : 1 on all grounds
+  QColor stage;       ///< behind videos, the same in every scheme
+  QColor stageLine;   ///< frame of an idle window on the stage
+  QColor stageFrame;  ///< frame of the current window and what is on: a light tone of slot 0
   QColor stageText;
   QColor stageOutline;  ///< of fields on the stage and on its cards
 

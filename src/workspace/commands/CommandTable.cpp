@@ -30,16 +30,11 @@ struct ToolEntry {
 
 /// Drawing tools in the order of their keys F1 to F11, which is the order of the shape kinds.
 constexpr ToolEntry kDrawTools[] = {
-    {"F1 - FreeHand", "Freehand", "freehand"},
-    {"F2 - Plus Sign", "Plus Sign", "plus"},
-    {"F3 - Square", "Square", "square"},
-    {"F4 - Line", "Line", "line"},
-    {"F5 - Circle", "Circle", "circle"},
-    {"F6 - Angle", "Angle", "angle"},
-    {"F7 - Motion Path", "Path Trace", "path"},
-    {"F8 - Parallelogram", "Parallelogram", "parallelogram"},
-    {"F9 - Shade Zone", "Zone Tool", "zone"},
-    {"F10 - Clock Grid", "Clock Grid", "clock"},
+    {"F1 - FreeHand", "Freehand", "freehand"},  {"F2 - Plus Sign", "Plus Sign", "plus"},
+    {"F3 - Square", "Square", "square"},        {"F4 - Line", "Line", "line"},
+    {"F5 - Circle", "Circle", "circle"},        {"F6 - Angle", "Angle", "angle"},
+    {"F7 - Motion Path", "Path Trace", "path"}, {"F8 - Parallelogram", "Parallelogram", "parallelogram"},
+    {"F9 - Shade Zone", "Zone Tool", "zone"},   {"F10 - Clock Grid", "Clock Grid", "clock"},
     {"F11 - Arrow", "Arrow", "arrow"},
 };
 
@@ -50,14 +45,20 @@ struct ScreenButton {
 
 /// Every layout has its button; the four of old carry their old names.
 constexpr ScreenButton kScreenButtons[] = {
-    {1, "Single Screen"},  {2, "Double Screen"},     {7, "Double Screen, one over the other"},
-    {5, "Triple Screen, side by side"}, {3, "Triple Screen"}, {4, "Quad Screen"},
-    {6, "Six Windows"},    {8, "Eight Windows"},
+    {1, "Single Screen"},
+    {2, "Double Screen"},
+    {7, "Double Screen, one over the other"},
+    {5, "Triple Screen, side by side"},
+    {3, "Triple Screen"},
+    {4, "Quad Screen"},
+    {6, "Six Windows"},
+    {8, "Eight Windows"},
 };
 
 /// What stands in the menus or under a key as well, and is wanted least often on the strip.
-constexpr std::string_view kSpareButtons[] = {"Closeallbtn", "Scn3",           "Scn5", "Scn6", "Scn7",
-                                              "RedoBtn",     "CmdAfunctions1", "smbar", "ribShowGrid", "CmdAfunctions7"};
+constexpr std::string_view kSpareButtons[] = {"Closeallbtn", "Scn3",          "Scn5",           "Scn6",
+                                              "Scn7",        "RedoBtn",       "CmdAfunctions1", "smbar",
+                                              "ribShowGrid", "CmdAfunctions7"};
 
 struct KeyRow {
   const char* item;
@@ -155,7 +156,8 @@ void MenuBar::AddVideo() {
   const auto plain = [&](const char* item, const char* caption, const char* icon, std::function<void()> run) {
     Add({item, kVideo, caption, "", icon, "", kNoButton, std::move(run), hasVideo});
   };
-  Add({"vo", kVideo, "O - Open New Video", "Openbtn", "open", "Open Videos", kOpening, [this] { view_.ShowOpenPanel(); }});
+  Add({"vo", kVideo, "O - Open New Video", "Openbtn", "open", "Open Videos", kOpening,
+       [this] { view_.ShowOpenPanel(); }});
   plain("vr", "R - Rewind Video", "rewind", [this] { transport_.Rewind(); });
   plain("vplay", "P - Play / Pause Toggle", "play", [this] { transport_.TogglePlay(); });
   Add({"vloop", kVideo, "L - Loop Video", "", "loop", "", kNoButton, [this] { transport_.ToggleLoop(); }, hasVideo,
@@ -165,8 +167,16 @@ void MenuBar::AddVideo() {
   Add({"vFlip", kVideo, "F - Flip Video", "CmdAfunctions0", "flip", "Flip Video", kPicture,
        [this] { videos_.ToggleFlip(); }, hasVideo,
        [this] { return HasVideo() && stage_.Current().MP->FlipHorizontal(); }});
-  Add({"MZoom", kVideo, "Z - Zoom Videos", "", "zoom", "", kNoButton, [this] { compare_.ToggleZoomForm(); },
-       {}, [this] { return compare_.ZoomShown(); }});
+  Add({"MZoom",
+       kVideo,
+       "Z - Zoom Videos",
+       "",
+       "zoom",
+       "",
+       kNoButton,
+       [this] { compare_.ToggleZoomForm(); },
+       {},
+       [this] { return compare_.ZoomShown(); }});
   Add({"MnuClose", kVideo, "C - Close Current Video", "Closebtn", "close", "Close Current Video", kOpening,
        [this] {
          if (videos_.CloseVideo(stage_.CurrentWindow)) transport_.DisplayData("");
@@ -174,7 +184,8 @@ void MenuBar::AddVideo() {
        hasVideo});
   Add({"MnuCloseAll", kVideo, "Esc - Close All Videos", "Closeallbtn", "close-all", "Close All Videos", kOpening,
        [this] { videos_.CloseAll(); }, anyVideo});
-  Add({"ReopenVideos", kVideo, "Ctrl+Shift+T - Reopen Closed Videos", "", "", "", kNoButton, [this] { videos_.ReopenClosed(); },
+  Add({"ReopenVideos", kVideo, "Ctrl+Shift+T - Reopen Closed Videos", "", "", "", kNoButton,
+       [this] { videos_.ReopenClosed(); },
        Needs([this] { return videos_.CanReopen(); }, "Only when all videos have just been closed")});
   AddSeparator(kVideo);
   plain("vF", "Up Arrow - Rewind", "", [this] { transport_.Rewind(); });
@@ -196,8 +207,8 @@ void MenuBar::AddDraw() {
          tool.tip, kDrawing, [this, kind] { tools_.ChooseFromMenu(kind); }, hasVideo,
          [inHand, kind] { return inHand(kind, false); }});
   }
-  Add({"MenuDraw11", kDraw, "F12 - Grid", "ribShowGrid", "grid", "Grid", kDrawing,
-       [this] { edits_.ToggleGrid(); }, hasVideo, [this] { return HasVideo() && edits_.GridOn(); }});
+  Add({"MenuDraw11", kDraw, "F12 - Grid", "ribShowGrid", "grid", "Grid", kDrawing, [this] { edits_.ToggleGrid(); },
+       hasVideo, [this] { return HasVideo() && edits_.GridOn(); }});
   AddSeparator(kDraw);
   Add({"DDSL", kDraw, "Draw Straight Line", "DDSLBtn", "straight-line", "Draw Straight Line", kDrawing,
        [this] { tools_.TakeStraightLine(); }, hasVideo, [inHand] { return inHand(kLine, true); }});
@@ -205,14 +216,16 @@ void MenuBar::AddDraw() {
        [this] { tools_.TakeStraightArrow(); }, hasVideo, [inHand] { return inHand(kArrow, true); }});
   AddSeparator(kDraw);
   Add({"UndoDrawing", kDraw, "Ctrl+Z - Undo", "UndoBtn", "undo", "Undo (Ctrl+Z)", kErasing, [this] { edits_.Undo(); },
-       Needs([this] { return HasVideo() && edits_.CanUndo(); }, "No change of the drawings in the current window to undo")});
+       Needs([this] { return HasVideo() && edits_.CanUndo(); },
+             "No change of the drawings in the current window to undo")});
   Add({"RedoDrawing", kDraw, "Ctrl+Shift+Z - Redo", "RedoBtn", "redo", "Redo (Ctrl+Shift+Z)", kErasing,
        [this] { edits_.Redo(); },
-       Needs([this] { return HasVideo() && edits_.CanRedo(); }, "No change of the drawings in the current window was undone")});
-  Add({"Lastcadoff", "", "", "", "delete-last", "Delete Last Object Drawn", kErasing,
-       [this] { tools_.DeleteLast(); }, hasShapes});
-  Add({"Cadoffbutton", "", "", "", "trash", "Delete All Drawings in Window", kErasing,
-       [this] { tools_.DeleteAll(); }, hasShapes});
+       Needs([this] { return HasVideo() && edits_.CanRedo(); },
+             "No change of the drawings in the current window was undone")});
+  Add({"Lastcadoff", "", "", "", "delete-last", "Delete Last Object Drawn", kErasing, [this] { tools_.DeleteLast(); },
+       hasShapes});
+  Add({"Cadoffbutton", "", "", "", "trash", "Delete All Drawings in Window", kErasing, [this] { tools_.DeleteAll(); },
+       hasShapes});
 }
 
 void MenuBar::AddWindows() {
@@ -220,9 +233,16 @@ void MenuBar::AddWindows() {
     const char* tip = "";
     for (const ScreenButton& button : kScreenButtons)
       if (button.mode == mode.Mode) tip = button.tip;
-    Add({std::string(mode.Item), kWindows, std::string(mode.Caption), "Scn" + std::to_string(mode.Mode),
-         std::string(mode.Icon), tip, kScreens, [this, number = mode.Mode] { stage_.SetScreen(number); },
-         {}, [this, code = mode.Code] { return stage_.ScreenLayout == code && !stage_.Home().Away(); }});
+    Add({std::string(mode.Item),
+         kWindows,
+         std::string(mode.Caption),
+         "Scn" + std::to_string(mode.Mode),
+         std::string(mode.Icon),
+         tip,
+         kScreens,
+         [this, number = mode.Mode] { stage_.SetScreen(number); },
+         {},
+         [this, code = mode.Code] { return stage_.ScreenLayout == code && !stage_.Home().Away(); }});
   }
 }
 
@@ -232,7 +252,8 @@ void MenuBar::AddTools() {
                           "Needs a layout of four, six or eight windows and a video in the current one");
   const auto stageFree = [this] { return compare_.StageTaken(); };
   Add({"TF", kTools, "Fill All w/Current Video", "", "fill-all", "", kNoButton, [this] { videos_.FillAll(); },
-       Needs([this] { return videos_.CanFill(); }, "Needs a layout of several windows and a video in the current one")});
+       Needs([this] { return videos_.CanFill(); },
+             "Needs a layout of several windows and a video in the current one")});
   Add({"TFT", kTools, "Fill Top w/Current Video", "", "", "", kNoButton, [this] { videos_.FillTopRow(); }, rows});
   Add({"TFB", kTools, "Fill Bottom w/Current Video", "", "", "", kNoButton, [this] { videos_.FillBottomRow(); }, rows});
   AddSeparator(kTools);
@@ -240,10 +261,26 @@ void MenuBar::AddTools() {
        [this] { view_.ShowNotesform(); }, hasVideo});
   Add({"TLAV", kTools, "Loop All Videos", "", "loop", "", kNoButton, [this] { transport_.ToggleLoopAll(); },
        Needs([this] { return stage_.AnyVideo(); }, "Open a video first"), [this] { return transport_.AllLooping(); }});
-  Add({"TVT", kTools, "Video Timer", "CmdAfunctions3", "timer", "Show Video Timer", kMeasuring,
-       [this] { timer_.ToggleTimer(); }, {}, [this] { return timer_.Shown(); }});
-  Add({"TZP", kTools, "Zoom/Pan", "", "zoom", "", kNoButton, [this] { compare_.ToggleZoomForm(); },
-       {}, [this] { return compare_.ZoomShown(); }});
+  Add({"TVT",
+       kTools,
+       "Video Timer",
+       "CmdAfunctions3",
+       "timer",
+       "Show Video Timer",
+       kMeasuring,
+       [this] { timer_.ToggleTimer(); },
+       {},
+       [this] { return timer_.Shown(); }});
+  Add({"TZP",
+       kTools,
+       "Zoom/Pan",
+       "",
+       "zoom",
+       "",
+       kNoButton,
+       [this] { compare_.ToggleZoomForm(); },
+       {},
+       [this] { return compare_.ZoomShown(); }});
   Add({"TSFrames", kTools, "Strobe Frames", "StrobeBtn", "strobe", "Strobe Video", kPicture,
        [this] { compare_.Strobe().ToggleStrobe(); },
        [this] { return compare_.Strobe().StrobeRunning() ? "" : compare_.Strobe().Obstacle(); },
@@ -268,8 +305,8 @@ void MenuBar::AddAdvanced() {
   AddComing("CLive", kAdvanced, "Live Draw && Hot Zones");
   AddComing("TRL", kAdvanced, "Record Lesson", "CmdAfunctions5", "microphone", "Record Lesson", kSharing);
   Add({"STM", kAdvanced, "&Transparency Mode", "", "overlay", "Transparency Mode", kPicture,
-       [this] { compare_.Transparency().ToggleTransparency(); },
-       [this] { return compare_.WhyNoTransparency(); }, [this] { return compare_.Transparency().TransparencyOn(); }});
+       [this] { compare_.Transparency().ToggleTransparency(); }, [this] { return compare_.WhyNoTransparency(); },
+       [this] { return compare_.Transparency().TransparencyOn(); }});
   Add({"smbar", kAdvanced, "&Multi-Pic Mode", "", "multi-picture", "Multi-Picture Mode", kPicture,
        [this] { compare_.Strip().ToggleStrip(); }, [this] { return compare_.WhyNoStrip(); },
        [this] { return compare_.Strip().Shown(); }});
@@ -284,49 +321,58 @@ void MenuBar::AddAdvanced() {
   Add({"DTClone", kAdvanced, "Clone Drawings", "CmdAfunctions1", "clone", "Clone Drawings", kErasing,
        [this] { edits_.CloneDrawings(); },
        Needs([this] { return edits_.CanClone(); }, "Needs drawings in the current window and a video in another one")});
-  Add({"TASF", kAdvanced, "Advanced Strobe", "", "advanced-strobe", "", kNoButton, [this] { compare_.ToggleStrobeForm(); },
+  Add({"TASF", kAdvanced, "Advanced Strobe", "", "advanced-strobe", "", kNoButton,
+       [this] { compare_.ToggleStrobeForm(); },
        Needs([this] { return HasVideo() || compare_.StrobeShown(); }, "Open a video first"),
        [this] { return compare_.StrobeShown(); }});
   Add({"LockAll", kAdvanced, "Lock All Four Videos", "", "", "", kNoButton, [this] { compare_.Locks().LockAll(); },
        Needs([this] { return compare_.Locks().CanLockAll(); },
              "Needs videos in windows 1 to 4, in a layout of four windows or more"),
        [this] { return compare_.Locks().AllLocked(); }});
-  Add({"cmdDualPlay", "", "", "", "lock", "Lock Videos Together", kPicture,
-       [this] { compare_.Locks().ToggleLock(); },
-       Needs([this] { return compare_.Locks().CanLock(); }, "Needs videos in windows 1 and 2, or 3 and 4, side by side"),
+  Add({"cmdDualPlay", "", "", "", "lock", "Lock Videos Together", kPicture, [this] { compare_.Locks().ToggleLock(); },
+       Needs([this] { return compare_.Locks().CanLock(); },
+             "Needs videos in windows 1 and 2, or 3 and 4, side by side"),
        [this] { return compare_.Locks().IsLocked(stage_.CurrentWindow); }});
 }
 
 void MenuBar::AddSetup() {
   const auto hasVideo = NeedsVideo();
-  const auto unlocked = Needs([this] { return !compare_.Locks().IsLocked(stage_.CurrentWindow); }, "Unlock the videos first");
+  const auto unlocked =
+      Needs([this] { return !compare_.Locks().IsLocked(stage_.CurrentWindow); }, "Unlock the videos first");
   AddComing("mnuDownloadVideos", kSetup, "Download Model Videos");
   Add({"TCal", kSetup, "Calculate Distance for Lines", "CmdAfunctions4", "ruler", "Calibrate Ruler", kMeasuring,
        [this] { ruler_.ToggleCalibration(); }, hasVideo, [this] { return ruler_.Shown(); }});
-  Add({"TAGrid", kSetup, "Adjust Grid Size", "", "", "", kNoButton, [this] { edits_.ToggleGridPanel(); },
-       {}, [this] { return edits_.GridPanelShown(); }});
+  Add({"TAGrid",
+       kSetup,
+       "Adjust Grid Size",
+       "",
+       "",
+       "",
+       kNoButton,
+       [this] { edits_.ToggleGridPanel(); },
+       {},
+       [this] { return edits_.GridPanelShown(); }});
   Add({"VidTest", kSetup, "Test Video Display rate", "", "", "", kNoButton, [this] { rateTest_.StartRateTest(); },
        NeedsVideo(unlocked), [this] { return rateTest_.Running(); }});
   Add({"MenuReverseFields", kSetup, "Reverse Field Order", "", "", "", kNoButton,
        [this] { videos_.ToggleReverseFields(); }, hasVideo,
        [this] { return HasVideo() && stage_.Current().MP->ReverseFields(); }});
-  Add({"MenuSplitFields", kSetup, "Split Video Fields", "", "", "", kNoButton,
-       [this] { videos_.ToggleSplitFields(); }, hasVideo,
-       [this] { return HasVideo() && stage_.Current().MP->SplitFields(); }});
+  Add({"MenuSplitFields", kSetup, "Split Video Fields", "", "", "", kNoButton, [this] { videos_.ToggleSplitFields(); },
+       hasVideo, [this] { return HasVideo() && stage_.Current().MP->SplitFields(); }});
 }
 
 void MenuBar::AddBrisko() {
-  for (const auto& [item, caption] : std::initializer_list<std::pair<const char*, const char*>>{
-           {"BriskoPuttPrint", "Print Putting"},
-           {"BriskoDWedgePrint", "Print Distance Wedge"},
-           {"BriskoBunkerPrint", "Print Bunker Shot"},
-           {"BriskoChipPrint", "Print Chip Shot"},
-           {"BriskoSavePutt", "Save Putting Bmps"},
-           {"BriskoSaveDWege", "Save Distance Wedge Bmps"},
-           {"BriskoSaveBunker", "Save Bunker Shot Bmps"},
-           {"BriskoSaveChip", "Save Chip Shot Bmps"},
-           {"BriskoCreateModel", "Create Model"},
-           {"BriskoLeftySelect", "Lefty Print"}})
+  for (const auto& [item, caption] :
+       std::initializer_list<std::pair<const char*, const char*>>{{"BriskoPuttPrint", "Print Putting"},
+                                                                  {"BriskoDWedgePrint", "Print Distance Wedge"},
+                                                                  {"BriskoBunkerPrint", "Print Bunker Shot"},
+                                                                  {"BriskoChipPrint", "Print Chip Shot"},
+                                                                  {"BriskoSavePutt", "Save Putting Bmps"},
+                                                                  {"BriskoSaveDWege", "Save Distance Wedge Bmps"},
+                                                                  {"BriskoSaveBunker", "Save Bunker Shot Bmps"},
+                                                                  {"BriskoSaveChip", "Save Chip Shot Bmps"},
+                                                                  {"BriskoCreateModel", "Create Model"},
+                                                                  {"BriskoLeftySelect", "Lefty Print"}})
     AddComing(item, kBrisko, caption);
   Add({"MenuExit", "", "&Exit Analysis", "", "", "", kNoButton, [this] {
          if (PreparetoExit()) navigation_.ExitAnalysis();
@@ -351,7 +397,9 @@ void MenuBar::AddKeysAlone() {
 }
 
 void MenuBar::AddKeys() {
-  const auto find = [this](const std::string& item) -> Command& { return *std::ranges::find(commands_, item, &Command::item); };
+  const auto find = [this](const std::string& item) -> Command& {
+    return *std::ranges::find(commands_, item, &Command::item);
+  };
   for (const KeyRow& row : kKeyRows) find(row.item).keys.push_back(row.key);
   for (int tool = 0; tool < 12; ++tool) find("MenuDraw" + std::to_string(tool)).keys.push_back(Key(kKeyF1 + tool));
   for (const ScreenMode& mode : ScreenModes()) find(std::string(mode.Item)).keys.push_back(Key(kKey0 + mode.Mode, 0));

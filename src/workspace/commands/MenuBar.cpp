@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cctype>
 
-
 namespace kinalyx {
 MenuBar::MenuBar(const CommandTargets& targets, ICommandsView& view, INavigation& navigation)
     : stage_(targets.stage),
@@ -97,7 +96,8 @@ bool MenuBar::Press(KeyStroke::Kind kind, int value, int shift) {
   const auto meant = [&](const KeyStroke& key) {
     return key.kind == kind && key.value == value && key.shift.value_or(shift) == shift;
   };
-  const auto command = std::ranges::find_if(commands_, [&](const Command& each) { return std::ranges::any_of(each.keys, meant); });
+  const auto command =
+      std::ranges::find_if(commands_, [&](const Command& each) { return std::ranges::any_of(each.keys, meant); });
   if (command == commands_.end()) return false;
   Run(command->item);
   return true;

@@ -51,13 +51,13 @@ struct Command {
   std::string caption;  ///< with the key that calls it; empty for a separator
   std::string button;   ///< the system's name of the tool button, where it is another
   std::string icon;
-  std::string tip;      ///< of the button; what it is called there
-  int group = 0;        ///< buttons of one group stand together on the strip, in the order of the groups
+  std::string tip;            ///< of the button; what it is called there
+  int group = 0;              ///< buttons of one group stand together on the strip, in the order of the groups
   std::function<void()> run;  ///< empty: the command comes later
   /// Why it cannot run now, in words for the user; empty text: it can. No function: it always can.
   std::function<std::string()> obstacle = {};
   std::function<bool()> checked = {};  ///< empty: the command has no state
-  bool spare = false;         ///< its button is among the first to leave a strip that is too narrow
+  bool spare = false;                  ///< its button is among the first to leave a strip that is too narrow
   std::vector<KeyStroke> keys = {};
 
   /// The feature is not built yet; such a command is disabled and says so.

@@ -10,8 +10,8 @@ constexpr const char* kLeaveCarve = "Leave the transparency carve first (Esc)";
 
 }  // namespace
 
-CompareModes::CompareModes(IHost& host, Settings& settings, PlayScheduler& scheduler, Stage& stage,
-                           ICompareView& view, ICompareEvents& events)
+CompareModes::CompareModes(IHost& host, Settings& settings, PlayScheduler& scheduler, Stage& stage, ICompareView& view,
+                           ICompareEvents& events)
     : stage_(stage),
       view_(view),
       locks_(host, scheduler, stage),

@@ -14,18 +14,18 @@ namespace kinalyx {
 
 /// What the controls of locked videos show.
 struct DualState {
-  bool shown = false;     ///< a lock holds the current window, or transparency mode is up
-  bool locked = false;    ///< the current window is locked
+  bool shown = false;   ///< a lock holds the current window, or transparency mode is up
+  bool locked = false;  ///< the current window is locked
   bool allLocked = false;
   bool canLock = false;
   bool canLockAll = false;
   bool playing = false;
   bool repeat = false;
-  int speed = 100;        ///< percent
-  int lowest = 0;         ///< ends of the shared bar
+  int speed = 100;  ///< percent
+  int lowest = 0;   ///< ends of the shared bar
   int highest = 0;
   int position = 0;
-  std::string line;       ///< where the videos stand, "12 + 29"
+  std::string line;  ///< where the videos stand, "12 + 29"
 };
 
 /// What the modes that compare videos ask of the window that shows them.

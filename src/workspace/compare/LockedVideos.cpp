@@ -282,7 +282,9 @@ void LockedVideos::AdvancePartners(int slot) {
 
 bool LockedVideos::PlayingTogether() const { return run_->Running(); }
 
-bool LockedVideos::PlayingTogether(int slot) const { return std::ranges::find(run_->Slots(), slot) != run_->Slots().end(); }
+bool LockedVideos::PlayingTogether(int slot) const {
+  return std::ranges::find(run_->Slots(), slot) != run_->Slots().end();
+}
 
 void LockedVideos::PlayTogether() {
   if (run_->Running()) return StopTogether();

@@ -64,21 +64,23 @@ void MultiPicture::VideoClosing(int slot) {
 int MultiPicture::SourceLeft() const {
   const Slot& slot = stage_.At(slot_);
   const double middle = SurfacePixels(slot, slot.panel.Width) / 2.0;
-  return static_cast<int>(std::lround(middle + part_.left * SurfacePixels(slot, slot.panel.Height))) - PlayerCorner(slot).x;
+  return static_cast<int>(std::lround(middle + part_.left * SurfacePixels(slot, slot.panel.Height))) -
+         PlayerCorner(slot).x;
 }
 
 int MultiPicture::SourceTop() const {
   const Slot& slot = stage_.At(slot_);
   const double middle = SurfacePixels(slot, slot.panel.Height) / 2.0;
-  return static_cast<int>(std::lround(middle + part_.top * SurfacePixels(slot, slot.panel.Height))) - PlayerCorner(slot).y;
+  return static_cast<int>(std::lround(middle + part_.top * SurfacePixels(slot, slot.panel.Height))) -
+         PlayerCorner(slot).y;
 }
 
 /// A third of the video in its middle, as high as the cell; an upright video gives more of its width.
 void MultiPicture::ChooseMiddle() {
   const Slot& slot = stage_.At(slot_);
   const double cell = static_cast<double>(slot.panel.Width) / std::max(1, slot.panel.Height);
-  const double shape = slot.data.Wide ? 16.0 / 9.0
-                                      : static_cast<double>(slot.MP->VideoWidth()) / std::max(1, slot.MP->VideoHeight());
+  const double shape =
+      slot.data.Wide ? 16.0 / 9.0 : static_cast<double>(slot.MP->VideoWidth()) / std::max(1, slot.MP->VideoHeight());
   const double seen = std::min(cell, shape);
   const double width = std::max(seen / 3, std::min(seen, kPictureShape));
   part_ = {-width / 2, -0.5, width, 1.0};

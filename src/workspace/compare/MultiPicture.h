@@ -106,15 +106,15 @@ class MultiPicture final : private ITakesStage {
   bool shown_ = false;
   bool waiting_ = false;
   bool MultiFrameMode_ = false;  ///< the strip is being filled: what the video shows meanwhile is not the user's doing
-  int slot_ = 0;          ///< whose video the strip shows
+  int slot_ = 0;                 ///< whose video the strip shows
   Part part_;
   int PictureWidth_ = 0;
   int PictureHeight_ = 0;
   int PictureCount_ = kMostPictures;
   int skip_ = 5;
-  int from_ = -1;         ///< where the video stood when the strip was filled; -1 once it has moved on
-  int last_ = -1;         ///< position of the last picture in the strip
-  POINTAPI source_;       ///< corner of the source when the strip was made
+  int from_ = -1;    ///< where the video stood when the strip was filled; -1 once it has moved on
+  int last_ = -1;    ///< position of the last picture in the strip
+  POINTAPI source_;  ///< corner of the source when the strip was made
   Surface strip_;
   HostTimer rebuild_;
 };

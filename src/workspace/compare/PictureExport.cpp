@@ -12,9 +12,8 @@ constexpr int kQuality = 92;  // of JPEG files
 
 bool EndsWith(const std::string& path, const std::string& ending) {
   return path.size() >= ending.size() &&
-         std::equal(ending.rbegin(), ending.rend(), path.rbegin(), [](char wanted, char found) {
-           return wanted == std::tolower(static_cast<unsigned char>(found));
-         });
+         std::equal(ending.rbegin(), ending.rend(), path.rbegin(),
+                    [](char wanted, char found) { return wanted == std::tolower(static_cast<unsigned char>(found)); });
 }
 
 }  // namespace

@@ -91,8 +91,8 @@ class StrobeControl {
   Stage& stage_;
   LockedVideos& locks_;
   IStrobeView* view_ = nullptr;
-  int running_ = 0;  ///< slot whose video is strobed; 0 none
-  int result_ = 0;   ///< slot on which a strobe stands; 0 none
+  int running_ = 0;     ///< slot whose video is strobed; 0 none
+  int result_ = 0;      ///< slot on which a strobe stands; 0 none
   int window_ = 0;      ///< where start and end were chosen
   int StartFrame_ = 0;  ///< raw frames, 0 when none is chosen
   int EndFrame_ = 0;

@@ -9,8 +9,8 @@ namespace kinalyx {
 namespace {
 
 constexpr std::string_view kDouble = "2";  // the layout that shows windows 1 and 2 side by side
-constexpr int kWalkStep = 15;        // of the slider on its way to a preset
-constexpr int kWalkInterval = 20;    // milliseconds between two steps
+constexpr int kWalkStep = 15;              // of the slider on its way to a preset
+constexpr int kWalkInterval = 20;          // milliseconds between two steps
 constexpr int kDissolveInterval = 45;
 constexpr int kHalf = 128;
 constexpr int kFull = 255;
@@ -18,7 +18,7 @@ constexpr int kFull = 255;
 }  // namespace
 
 Transparency::Transparency(IHost& host, Settings& settings, Stage& stage, LockedVideos& locks, ITransparencyView& view,
-                 ICompareEvents& events)
+                           ICompareEvents& events)
     : host_(host), settings_(settings), stage_(stage), locks_(locks), view_(view), events_(events) {}
 
 AVIControl* Transparency::Player(int window) { return stage_.HasVideo(window) ? &stage_.MP(window) : nullptr; }
@@ -152,9 +152,7 @@ void Transparency::SlideMix(int value) {
   if (guard_ || option_ == ShowOption::SplitScreen) return;
   walk_.Stop();
   mix_ = TransTarget_ = std::clamp(value, 0, kFull);
-  SetOption(mix_ == 0       ? ShowOption::VideoWindow1
-            : mix_ == kFull ? ShowOption::VideoWindow2
-                            : ShowOption::Transparency);
+  SetOption(mix_ == 0 ? ShowOption::VideoWindow1 : mix_ == kFull ? ShowOption::VideoWindow2 : ShowOption::Transparency);
   Refresh();
 }
 

@@ -37,7 +37,7 @@ class ITransparencyView {
 class Transparency final : private ITakesStage {
  public:
   Transparency(IHost& host, Settings& settings, Stage& stage, LockedVideos& locks, ITransparencyView& view,
-          ICompareEvents& events);
+               ICompareEvents& events);
 
   /// Enters or leaves the mode, which has windows 1 and 2 side by side underneath.
   void ToggleTransparency();
@@ -116,13 +116,13 @@ class Transparency final : private ITakesStage {
   ICompareEvents& events_;
   bool on_ = false;
   Surface TransPanel_;
-  Surface before_;        ///< what dissolves
-  const Surface none_;    ///< stands for the picture of an empty window
-  int dissolve_ = 0;      ///< level of the pattern that `before_` still has
+  Surface before_;      ///< what dissolves
+  const Surface none_;  ///< stands for the picture of an empty window
+  int dissolve_ = 0;    ///< level of the pattern that `before_` still has
   ShowOption option_ = ShowOption::Transparency;
   int mix_ = 128;
-  int TransTarget_ = 128; ///< of the slide
-  bool guard_ = false;    ///< the controls are being set; what they say is no command
+  int TransTarget_ = 128;  ///< of the slide
+  bool guard_ = false;     ///< the controls are being set; what they say is no command
   HostTimer refresh_;
   HostTimer walk_;
   HostTimer dissolveTimer_;

@@ -42,7 +42,7 @@ class ZoomPan {
   Stage& stage_;
   HostTimer pantimer_;
   PanMove held_ = PanMove::Centre;  ///< the pan button that is down
-  int dragSlot_ = 0;  ///< 0 while nothing is dragged
+  int dragSlot_ = 0;                ///< 0 while nothing is dragged
   float dragX_ = 0;
   float dragY_ = 0;
 };

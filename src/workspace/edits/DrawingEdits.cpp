@@ -82,7 +82,8 @@ void DrawingEdits::ReleaseHandle() { bar_.ReleaseHandle(); }
 /// A point of the picture as the bar would see it within one of its handles: a turn goes about the
 /// handle's middle, whatever the selection turns about.
 std::pair<float, float> DrawingEdits::InHandle(EditHandle handle, POINTAPI at) {
-  if (handle != kRotateHandle) return {static_cast<float>(at.x * kTwipsPerPixel), static_cast<float>(at.y * kTwipsPerPixel)};
+  if (handle != kRotateHandle)
+    return {static_cast<float>(at.x * kTwipsPerPixel), static_cast<float>(at.y * kTwipsPerPixel)};
   return {static_cast<float>(view_.HandleWidth(handle) / 2.0 + (at.x - gripPivot_.x) * kTwipsPerPixel),
           static_cast<float>(view_.HandleHeight(handle) / 2.0 + (at.y - gripPivot_.y) * kTwipsPerPixel)};
 }
@@ -133,7 +134,8 @@ void DrawingEdits::LoadMacros() {
 }
 
 void DrawingEdits::TellOfMacroFiles() {
-  if (const std::string notice = macros_.TakeNotice(); !notice.empty()) host_.Message(MessageKind::Warning, "Drawing macros", notice);
+  if (const std::string notice = macros_.TakeNotice(); !notice.empty())
+    host_.Message(MessageKind::Warning, "Drawing macros", notice);
 }
 
 void DrawingEdits::SaveMacro() {
@@ -233,7 +235,7 @@ void DrawingEdits::CloneDrawings() {
 
 bool DrawingEdits::PressKey(int KeyCode, int Shift) {
   if (Shift & kCtrl) {
-    if (KeyCode == 'Z') Shift & kShift ? Redo() : Undo();
+    if (KeyCode == 'Z') Shift& kShift ? Redo() : Undo();
     if (KeyCode == 'Y') Redo();
     return KeyCode == 'Z' || KeyCode == 'Y';
   }

@@ -42,8 +42,8 @@ class IDrawingEditsView : public IEditBarView {
 /// undo, macros, the size of the grid, and copies for other windows.
 class DrawingEdits {
  public:
-  DrawingEdits(IHost& host, const Settings& settings, Stage& stage, DrawingTools& tools,
-               IDrawingWorkspace& drawing, IDrawingEditsView& view);
+  DrawingEdits(IHost& host, const Settings& settings, Stage& stage, DrawingTools& tools, IDrawingWorkspace& drawing,
+               IDrawingEditsView& view);
 
   DrawingTools& Tools() { return tools_; }
   const Macros& MacroList() const { return macros_; }
@@ -137,7 +137,7 @@ class DrawingEdits {
   EditBar bar_;
   Macros macros_;
   EditHandle held_ = kMoveHandle;  // the handle that was taken last
-  POINTAPI grip_;         // where a handle on the picture was taken
+  POINTAPI grip_;                  // where a handle on the picture was taken
   POINTAPI gripPivot_;
   bool macroFormShown_ = false;
   bool gridPanelShown_ = false;

@@ -35,9 +35,9 @@
 namespace kinalyx {
 namespace {
 
-constexpr int kEdge = 8;  // between a caption and the edge of its picture
-constexpr int kOpenPanelWidth = 290;    // as designed, beside the stage of a large window
-constexpr int kOpenPanelNarrow = 264;   // and of a small one
+constexpr int kEdge = 8;               // between a caption and the edge of its picture
+constexpr int kOpenPanelWidth = 290;   // as designed, beside the stage of a large window
+constexpr int kOpenPanelNarrow = 264;  // and of a small one
 constexpr int kOpenPanelWidest = 360;
 constexpr int kDesignedWidth = 1280;
 constexpr double kOpenPanelShare = 0.65;  // of the stage, where the panel stands over it
@@ -57,8 +57,8 @@ AnalysisForm::AnalysisForm(IHost& host, IPrinter& printer, Settings& settings, P
   setObjectName("AnalysisForm");
   edits_ = std::make_unique<EditForms>();
   compare_ = std::make_unique<CompareForms>(host);
-  analysis_ = std::make_unique<AnalysisWorkspace>(host, settings, players.scheduler, static_cast<IWorkspaceView&>(*this),
-                                                  *edits_, *compare_, navigation);
+  analysis_ = std::make_unique<AnalysisWorkspace>(host, settings, players.scheduler,
+                                                  static_cast<IWorkspaceView&>(*this), *edits_, *compare_, navigation);
   menus_ = new CommandMenus(analysis_->Commands().Commands(), this);
   connect(menus_, &CommandMenus::Wanted, this, &AnalysisForm::Run);
   colors_ = new ColorRow(menus_);
@@ -159,8 +159,8 @@ void AnalysisForm::keyPressEvent(QKeyEvent* event) {
   }
   const bool nudges = analysis_->Edits().Editing() && event->modifiers() & Qt::ShiftModifier;
   if (event->isAutoRepeat() && !RepeatsWhileHeld(*event) && !nudges) return;
-  const bool combined = event->modifiers() & (Qt::ControlModifier | Qt::AltModifier) && code != kKeyCtrl &&
-                        !IsLetterWithCtrl(*event);
+  const bool combined =
+      event->modifiers() & (Qt::ControlModifier | Qt::AltModifier) && code != kKeyCtrl && !IsLetterWithCtrl(*event);
   bool taken = code != 0 && !combined && analysis_->Commands().PressKey(code, ShiftOf(event->modifiers()));
   if (const int character = KeyAsciiOf(*event); character != 0)
     taken = analysis_->Commands().PressLetter(character) || taken;
@@ -263,7 +263,8 @@ void AnalysisForm::PlaceCaption() {
   if (caption_->isHidden()) return;
   caption_->adjustSize();
   const Slot& at = analysis_->Stage().Current();
-  const QRect panel = Pixels({at.cell.Left + at.panel.Left, at.cell.Top + at.panel.Top, at.panel.Width, at.panel.Height});
+  const QRect panel =
+      Pixels({at.cell.Left + at.panel.Left, at.cell.Top + at.panel.Top, at.panel.Width, at.panel.Height});
   const QRect title = Cell(analysis_->Stage().CurrentWindow).TitleGeometry();
   const bool beside = title.width() + caption_->width() + 4 * kEdge <= panel.width();
   const int left = std::max(panel.left() + kEdge, panel.right() - kEdge - caption_->width());
@@ -359,8 +360,9 @@ void AnalysisForm::ShowOpenPanel() {
 void AnalysisForm::FitOpenPanel() {
   if (!openPanel_ || openPanel_->parentWidget() == stage_) return;
   const bool small = ScreenClass(width() * kTwipsPerPixel) == 1;
-  openPanel_->setFixedWidth(small ? Px(kOpenPanelNarrow)
-                                  : std::clamp(width() * kOpenPanelWidth / kDesignedWidth, Px(kOpenPanelWidth), Px(kOpenPanelWidest)));
+  openPanel_->setFixedWidth(
+      small ? Px(kOpenPanelNarrow)
+            : std::clamp(width() * kOpenPanelWidth / kDesignedWidth, Px(kOpenPanelWidth), Px(kOpenPanelWidest)));
 }
 
 /// Beside the stage the layout places it; over the stage it stands in the middle.
@@ -368,7 +370,10 @@ void AnalysisForm::PlaceOpenPanel() {
   FitOpenPanel();
   if (!openPanel_ || openPanel_->isHidden() || openPanel_->parentWidget() != stage_) return;
   const QSize room = stage_->size() - QSize(2 * kEdge, 2 * kEdge);
-  openPanel_->resize((room * kOpenPanelShare).expandedTo(openPanel_->sizeHint()).boundedTo(room).expandedTo(openPanel_->minimumSize()));
+  openPanel_->resize((room * kOpenPanelShare)
+                         .expandedTo(openPanel_->sizeHint())
+                         .boundedTo(room)
+                         .expandedTo(openPanel_->minimumSize()));
   openPanel_->move(stage_->rect().center() - openPanel_->rect().center());
 }
 

@@ -36,8 +36,8 @@ class AnalysisForm : public PageWidget, private IWorkspaceView, private IOpenVid
   /// What is passed must outlive the form. The form may be let go at any time from the event loop; videos
   /// that are still open are written then, without a question.
   /// @param remembered  the program's one remembered library selection
-  AnalysisForm(IHost& host, IPrinter& printer, Settings& settings, PlayerServices& players,
-               LastStudentInfo& remembered, INavigation& navigation, QWidget* parent = nullptr);
+  AnalysisForm(IHost& host, IPrinter& printer, Settings& settings, PlayerServices& players, LastStudentInfo& remembered,
+               INavigation& navigation, QWidget* parent = nullptr);
   ~AnalysisForm() override;
 
   /// The keys are its own, and an open panel that was left standing is up to date.

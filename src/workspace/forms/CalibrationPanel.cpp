@@ -24,8 +24,8 @@ double Typed(const QString& text) {
 
 CalibrationPanel::CalibrationPanel(RulerCalibration& ruler, const Settings& settings, QWidget* parent)
     : FloatCard("TransFrame5", tr("Calibrate Ruler"), parent), ruler_(ruler), settings_(settings) {
-  QLabel* words = MakeLabel("CalibHelp", tr("Draw a line along something whose length you know, then type that length."),
-                            nullptr, this);
+  QLabel* words = MakeLabel(
+      "CalibHelp", tr("Draw a line along something whose length you know, then type that length."), nullptr, this);
   words->setWordWrap(true);
   FixWidth(words, 280);
   Body()->addWidget(words);

@@ -24,8 +24,9 @@ CloneForm::CloneForm(const std::vector<Window>& windows, QWidget* parent) : QDia
   auto* rows = new QVBoxLayout(this);
   rows->setContentsMargins(kGap, kGap, kGap, kGap);
   rows->setSpacing(kGap);
-  auto* words = MakeLabel("CloneText",
-                          tr("Clone all drawings to another window. Select the window to copy to and click 'OK'"), nullptr, this);
+  auto* words =
+      MakeLabel("CloneText", tr("Clone all drawings to another window. Select the window to copy to and click 'OK'"),
+                nullptr, this);
   words->setWordWrap(true);
   FixWidth(words, kPlanWidth);
   rows->addWidget(words);
@@ -38,7 +39,8 @@ CloneForm::CloneForm(const std::vector<Window>& windows, QWidget* parent) : QDia
   for (const Window& window : windows) whole |= window.place;
   const auto scaled = [](int at, int size, int room) { return size > 0 ? at * room / size : 0; };
   for (const Window& window : windows) {
-    auto* button = new Button(QString("WindowBtn%1").arg(window.number), QString::number(window.number), {}, Look::Quiet, plan);
+    auto* button =
+        new Button(QString("WindowBtn%1").arg(window.number), QString::number(window.number), {}, Look::Quiet, plan);
     const int left = scaled(window.place.left() - whole.left(), whole.width(), plan->width());
     const int top = scaled(window.place.top() - whole.top(), whole.height(), plan->height());
     const int right = scaled(window.place.left() + window.place.width() - whole.left(), whole.width(), plan->width());
@@ -52,8 +54,10 @@ CloneForm::CloneForm(const std::vector<Window>& windows, QWidget* parent) : QDia
     button->setEnabled(!window.source && !window.video.isEmpty());
     const QString name = window.source ? tr("this window") : window.video;
     if (!name.isEmpty())
-      button->setText(QString("%1\n%2").arg(window.number).arg(button->fontMetrics().elidedText(name, Qt::ElideRight, button->width() - 12)));
-    button->setToolTip(window.source           ? tr("The drawings of this window are copied")
+      button->setText(QString("%1\n%2")
+                          .arg(window.number)
+                          .arg(button->fontMetrics().elidedText(name, Qt::ElideRight, button->width() - 12)));
+    button->setToolTip(window.source            ? tr("The drawings of this window are copied")
                        : window.video.isEmpty() ? tr("No video in this window")
                                                 : window.video);
     windows_->addButton(button, window.number);

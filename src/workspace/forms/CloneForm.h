@@ -15,8 +15,8 @@ class CloneForm : public QDialog {
   /// One window of the layout.
   struct Window {
     int number = 0;
-    QRect place;      ///< in any unit, the same for all
-    QString video;    ///< empty: none
+    QRect place;    ///< in any unit, the same for all
+    QString video;  ///< empty: none
     bool source = false;
   };
   CloneForm(const std::vector<Window>& windows, QWidget* parent);

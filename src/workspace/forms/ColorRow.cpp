@@ -11,7 +11,7 @@
 namespace kinalyx {
 namespace {
 
-constexpr const char* kNames[] = {"Red",   "Yellow", "Blue", "Green", "Magenta",   "Teal",
+constexpr const char* kNames[] = {"Red",    "Yellow",     "Blue", "Green", "Magenta",   "Teal",
                                   "Orange", "Dark green", "Cyan", "White", "Dark blue", "Pink"};
 
 /// A dot of its colour with a rim that shows it on any ground; a ring round the one that is pressed.

@@ -19,7 +19,7 @@
 namespace kinalyx {
 namespace {
 
-constexpr int kNotch = 120;  // eighths of a degree that one notch of a wheel turns
+constexpr int kNotch = 120;                            // eighths of a degree that one notch of a wheel turns
 constexpr int kStrip = kStripHeight / kTwipsPerPixel;  // pixels of the stage's height
 
 constexpr const char* kPictureKinds = "PNG picture (*.png)|*.png|JPEG picture (*.jpg *.jpeg)|*.jpg; *.jpeg";
@@ -94,8 +94,7 @@ void CompareForms::PlaceOnStage() {
 
 bool CompareForms::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Resize && watched == stage_) PlaceOnStage();
-  if (event->type() == QEvent::Wheel)
-    return Wheel(static_cast<QWidget*>(watched), *static_cast<QWheelEvent*>(event));
+  if (event->type() == QEvent::Wheel) return Wheel(static_cast<QWidget*>(watched), *static_cast<QWheelEvent*>(event));
   if (watched == TransPanel_) return MouseOnMix(*event);
   return false;
 }
@@ -182,17 +181,11 @@ void CompareForms::ShowTransparency(bool shown) {
   UpdateFoot();
 }
 
-void CompareForms::PresentMix(const Surface& picture) {
-  TransPanel_->Show(picture);
-}
+void CompareForms::PresentMix(const Surface& picture) { TransPanel_->Show(picture); }
 
-void CompareForms::SetTransScroll(int value, bool enabled) {
-  TransFrame_->SetTransScroll(value, enabled);
-}
+void CompareForms::SetTransScroll(int value, bool enabled) { TransFrame_->SetTransScroll(value, enabled); }
 
-void CompareForms::SelectOptShow(ShowOption option) {
-  TransFrame_->SelectOption(option);
-}
+void CompareForms::SelectOptShow(ShowOption option) { TransFrame_->SelectOption(option); }
 
 void CompareForms::SetVideoScroll(int window, int lowest, int highest, int value) {
   TransFrame_->SetVideoScroll(window, lowest, highest, value);
@@ -220,9 +213,7 @@ void CompareForms::ShowMultiPicture(bool shown) {
 
 int CompareForms::StripWidth() { return MultiPicturePanel::StripWidth(stage_->width()); }
 
-void CompareForms::PresentStrip(const Surface& strip, int pictures) {
-  strip_->Show(strip, pictures);
-}
+void CompareForms::PresentStrip(const Surface& strip, int pictures) { strip_->Show(strip, pictures); }
 
 void CompareForms::ShowCarve(bool shown) {
   if (!shown) return carve_->hide();
@@ -237,9 +228,7 @@ void CompareForms::ShowCarvePic(int slot, bool shown) {
   carve_->raise();
 }
 
-void CompareForms::ShowMark(int left, int top, int width, int height) {
-  CarvePic_->ShowMark(left, top, width, height);
-}
+void CompareForms::ShowMark(int left, int top, int width, int height) { CarvePic_->ShowMark(left, top, width, height); }
 
 void CompareForms::ShowPiece(const Surface& piece, POINTAPI corner) {
   const bool wasHidden = picRot_->isHidden();
@@ -255,9 +244,7 @@ void CompareForms::ShowDual(const DualState& state) {
   UpdateFoot();
 }
 
-void CompareForms::ShowZoomForm(bool shown) {
-  shown ? zoom_->Open(FloatCard::Place::TopRight) : zoom_->hide();
-}
+void CompareForms::ShowZoomForm(bool shown) { shown ? zoom_->Open(FloatCard::Place::TopRight) : zoom_->hide(); }
 
 void CompareForms::ShowStrobeForm(bool shown) {
   if (!shown) return strobe_->hide();

@@ -16,7 +16,8 @@ constexpr int kHeight = 46;
 
 }  // namespace
 
-DualBar::DualBar(CompareModes& modes, Stage& theStage, QWidget* parent) : StagePanel("DualFrame", parent), modes_(modes) {
+DualBar::DualBar(CompareModes& modes, Stage& theStage, QWidget* parent)
+    : StagePanel("DualFrame", parent), modes_(modes) {
   setProperty("look", "bar");
   FixHeight(this, kHeight);
   auto* row = new QHBoxLayout(this);
@@ -75,9 +76,8 @@ DualBar::DualBar(CompareModes& modes, Stage& theStage, QWidget* parent) : StageP
   connect(speed_, &QComboBox::currentIndexChanged, this, [this, &locks] {
     if (!setting_) locks.setTogetherSpeed(speed_->currentData().toInt());
   });
-  connect(scroll_, &SeekBar::Sought, this, [this, &locks, &theStage](int position) {
-    locks.DualControlScroll(theStage.CurrentWindow, position);
-  });
+  connect(scroll_, &SeekBar::Sought, this,
+          [this, &locks, &theStage](int position) { locks.DualControlScroll(theStage.CurrentWindow, position); });
   hide();
   FirstDress();
 }

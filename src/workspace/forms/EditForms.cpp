@@ -64,18 +64,14 @@ void EditForms::ShowEditBar(bool shown) {
   edits_->ShowSelection();
 }
 
-void EditForms::PlaceEditBar(int window) {
-  strip_->PlaceOver(window, PictureRoom(window));
-}
+void EditForms::PlaceEditBar(int window) { strip_->PlaceOver(window, PictureRoom(window)); }
 
 void EditForms::EnableHandle(EditHandle handle, bool enabled) {
   strip_->EnableHandle(handle, enabled);
   knobs_->SetEnabled(handle, enabled);
 }
 
-void EditForms::SetMultiButton(bool enabled, bool down) {
-  strip_->SetMultiButton(enabled, down);
-}
+void EditForms::SetMultiButton(bool enabled, bool down) { strip_->SetMultiButton(enabled, down); }
 
 /// The guide comes with the mouse on the strip's handle; a turn by the knob on the picture shows itself.
 void EditForms::ShowRotationGuide(bool shown) {
@@ -100,7 +96,8 @@ void EditForms::ShowSelection(int window, const std::optional<SelectionMarks>& m
   const POINTAPI on = PlayerCornerOnStage(theStage_->At(window));
   const QPointF corner = QPointF(on.x, on.y) / ratio;
   const auto onStage = [&](POINTAPI point) { return corner + QPointF(point.x, point.y) / ratio; };
-  knobs_->ShowRound(QRectF(onStage(marks->corner), onStage(marks->opposite)), onStage(marks->pivot), PictureRoom(window), corner);
+  knobs_->ShowRound(QRectF(onStage(marks->corner), onStage(marks->opposite)), onStage(marks->pivot),
+                    PictureRoom(window), corner);
 }
 
 // ---------------------------------------------------------------- macros
@@ -111,9 +108,7 @@ std::optional<std::string> EditForms::AskMacroName(const ShapeList& drawing) {
   return form.Name().toStdString();
 }
 
-void EditForms::ShowMacroForm(bool shown) {
-  shown ? macros_->CenterOnScreen() : macros_->hide();
-}
+void EditForms::ShowMacroForm(bool shown) { shown ? macros_->CenterOnScreen() : macros_->hide(); }
 
 void EditForms::FillMacroList(const std::vector<std::string>& names, int selected) {
   macros_->ClearMList();
@@ -123,9 +118,7 @@ void EditForms::FillMacroList(const std::vector<std::string>& names, int selecte
 
 // ---------------------------------------------------------------- grid and clone
 
-void EditForms::ShowGridPanel(bool shown) {
-  shown ? grid_->Begin() : grid_->hide();
-}
+void EditForms::ShowGridPanel(bool shown) { shown ? grid_->Begin() : grid_->hide(); }
 
 std::optional<int> EditForms::AskCloneTarget(int source, const std::vector<int>& targets) {
   std::vector<CloneForm::Window> windows;
@@ -133,9 +126,11 @@ std::optional<int> EditForms::AskCloneTarget(int source, const std::vector<int>&
     if (!theStage_->IsShown(window)) continue;
     const TwipRect& cell = theStage_->At(window).cell;
     const bool open = window == source || std::ranges::find(targets, window) != targets.end();
-    windows.push_back({window, {cell.Left, cell.Top, cell.Width, cell.Height},
-                       open ? QFileInfo(QString::fromStdString(theStage_->At(window).path)).completeBaseName() : QString(),
-                       window == source});
+    windows.push_back(
+        {window,
+         {cell.Left, cell.Top, cell.Width, cell.Height},
+         open ? QFileInfo(QString::fromStdString(theStage_->At(window).path)).completeBaseName() : QString(),
+         window == source});
   }
   CloneForm form(windows, stage_->window());
   if (form.exec() != QDialog::Accepted || form.Target() == 0) return std::nullopt;

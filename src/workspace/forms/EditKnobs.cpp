@@ -11,9 +11,9 @@
 namespace kinalyx {
 namespace {
 
-constexpr int kKnob = 26;         // pixels; large enough for a hurried hand
-constexpr int kStem = 34;         // from the box up to the knob that turns
-constexpr double kRing = 46;      // radius of the guide
+constexpr int kKnob = 26;     // pixels; large enough for a hurried hand
+constexpr int kStem = 34;     // from the box up to the knob that turns
+constexpr double kRing = 46;  // radius of the guide
 constexpr const char* kHandleProperty = "handle";
 
 }  // namespace
@@ -41,7 +41,8 @@ class EditKnobs::Knob : public QWidget {
     painter.setBrush(underMouse() ? look.accent : look.accentFill);
     painter.drawEllipse(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5));
     constexpr int kIcon = 14;
-    painter.drawPixmap((width() - kIcon) / 2, (height() - kIcon) / 2, IconPixmap(icon_, Qt::white, kIcon, devicePixelRatioF()));
+    painter.drawPixmap((width() - kIcon) / 2, (height() - kIcon) / 2,
+                       IconPixmap(icon_, Qt::white, kIcon, devicePixelRatioF()));
   }
   void enterEvent(QEnterEvent*) override { update(); }
   void leaveEvent(QEvent*) override { update(); }

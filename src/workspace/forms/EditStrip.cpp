@@ -21,7 +21,8 @@ constexpr const char* kHandleProperty = "handle";
 constexpr const char* kStripSheet =
     "[look=\"card\"] { background: @card; border: 1px solid @cardLine; border-radius: 8px; }"
     "[look=\"card\"] QLabel { color: @ink; background: transparent; border: none; }"
-    "[look=\"card\"] QToolButton { border: none; border-radius: 6px; background: transparent; color: @ink; padding: 0; }"
+    "[look=\"card\"] QToolButton { border: none; border-radius: 6px; background: transparent; color: @ink; padding: 0; "
+    "}"
     "[look=\"card\"] QToolButton:hover { background: @hover; }"
     "[look=\"card\"] QToolButton:pressed, [look=\"card\"] QToolButton:checked { background: @accentFill; }"
     "[look=\"card\"] QToolButton:disabled { background: transparent; }"
@@ -62,7 +63,9 @@ void EditStrip::AddHandle(EditHandle handle, const char* icon, const QString& ti
   QToolButton* button = StageButton(QString("cmdEBBtn%1").arg(handle), icon, tip, this);
   button->setProperty(kHandleProperty, handle);
   if (Dragged(handle)) {
-    button->setCursor(handle == kMoveHandle ? Qt::SizeAllCursor : handle == kScaleHandle ? Qt::SizeVerCursor : Qt::OpenHandCursor);
+    button->setCursor(handle == kMoveHandle    ? Qt::SizeAllCursor
+                      : handle == kScaleHandle ? Qt::SizeVerCursor
+                                               : Qt::OpenHandCursor);
     button->installEventFilter(this);
   } else {
     connect(button, &QToolButton::clicked, this, [this, handle] { edits_->UseHandle(handle); });

@@ -72,7 +72,8 @@ void GridPanel::Begin() {
 
 void GridPanel::Update() {
   show_->setEnabled(edits_.HasVideo());
-  show_->setToolTip(edits_.HasVideo() ? tr("Turns the grid of the current window on or off (F12)") : tr("Open a video first"));
+  show_->setToolTip(edits_.HasVideo() ? tr("Turns the grid of the current window on or off (F12)")
+                                      : tr("Open a video first"));
   show_->setChecked(edits_.HasVideo() && edits_.GridOn());
 }
 

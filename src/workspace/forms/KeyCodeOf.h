@@ -4,8 +4,9 @@ class QKeyEvent;
 
 namespace kinalyx {
 
-/// The system's code of a key, see KeyCodes.h; 0 for a key without one. Letters have one with Ctrl only. Digits of the keypad have codes of
-/// their own; with the keypad's digits switched off its keys are the arrows and the others printed there.
+/// The system's code of a key, see KeyCodes.h; 0 for a key without one. Letters have one with Ctrl only. Digits of the
+/// keypad have codes of their own; with the keypad's digits switched off its keys are the arrows and the others printed
+/// there.
 int KeyCodeOf(const QKeyEvent& event);
 
 /// True for a letter held with Ctrl, and Shift or not: a shortcut, which has the letter's own code.

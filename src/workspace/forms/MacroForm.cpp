@@ -47,7 +47,8 @@ MacroForm::MacroForm(DrawingEdits& edits, QWidget* stage)
   lstMacro_->setTextElideMode(Qt::ElideRight);
   lstMacro_->setUniformItemSizes(true);
   auto* overList = new QVBoxLayout(lstMacro_->viewport());
-  none_ = MakeLabel("NoMacros", tr("No macros yet. Draw something, then choose Save Drawing Macro."), nullptr, lstMacro_);
+  none_ =
+      MakeLabel("NoMacros", tr("No macros yet. Draw something, then choose Save Drawing Macro."), nullptr, lstMacro_);
   none_->setProperty("muted", true);
   none_->setWordWrap(true);
   none_->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -118,9 +119,10 @@ void MacroForm::lstMacro_Click() {
 void MacroForm::Update() {
   const bool any = lstMacro_->currentRow() >= 0;
   MacroBtn_->setEnabled(any && edits_.HasVideo());
-  MacroBtn_->setToolTip(!any                ? tr("There are no macros yet; save a drawing as one first")
-                        : edits_.HasVideo() ? tr("Lays the drawing over the current video in place of what is drawn there")
-                                            : tr("Open a video first"));
+  MacroBtn_->setToolTip(!any ? tr("There are no macros yet; save a drawing as one first")
+                        : edits_.HasVideo()
+                            ? tr("Lays the drawing over the current video in place of what is drawn there")
+                            : tr("Open a video first"));
 }
 
 void MacroForm::Dress() {

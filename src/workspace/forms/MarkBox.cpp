@@ -29,15 +29,16 @@ MarkBox::MarkBox(QWidget* parent) : QFrame(parent) {
 }
 
 void MarkBox::Dress() {
-  WearStageSheet(this, card_ ? "#MarkBox { background: @card; border: 1px solid @cardLine; border-radius: 8px; }"
-                               "#MarkBox QToolButton { border: none; border-radius: 6px; background: @hover; color: @mark;"
-                               "  padding: 0 6px; font-size: @11; }"
-                               "#MarkBox QToolButton:hover, #MarkBox QToolButton:pressed { background: @accentFill; }"
-                             : "#MarkBox { background: transparent; border: none; }"
-                               "#MarkBox QToolButton { border: none; border-radius: 6px; background: @card; color: @mark;"
-                               "  padding: 0 6px; font-size: @11; }"
-                               "#MarkBox QToolButton:hover { background: @hover; }"
-                               "#MarkBox QToolButton:pressed { background: @accentFill; }");
+  WearStageSheet(this,
+                 card_ ? "#MarkBox { background: @card; border: 1px solid @cardLine; border-radius: 8px; }"
+                         "#MarkBox QToolButton { border: none; border-radius: 6px; background: @hover; color: @mark;"
+                         "  padding: 0 6px; font-size: @11; }"
+                         "#MarkBox QToolButton:hover, #MarkBox QToolButton:pressed { background: @accentFill; }"
+                       : "#MarkBox { background: transparent; border: none; }"
+                         "#MarkBox QToolButton { border: none; border-radius: 6px; background: @card; color: @mark;"
+                         "  padding: 0 6px; font-size: @11; }"
+                         "#MarkBox QToolButton:hover { background: @hover; }"
+                         "#MarkBox QToolButton:pressed { background: @accentFill; }");
 }
 
 void MarkBox::SetMarks(const std::vector<int>& marks) {

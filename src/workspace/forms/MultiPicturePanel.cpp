@@ -128,7 +128,8 @@ int MultiPicturePanel::StripWidth(int stageWidth) { return std::max(0, stageWidt
 void MultiPicturePanel::Show(const Surface& strip, int pictures) { MFPanel_->Show(strip, pictures); }
 
 void MultiPicturePanel::Dress() {
-  WearStageSheet(this, (QByteArray(kCompareSheet) + "#MultiPicturePanel { background: @ground; border: none; }").constData());
+  WearStageSheet(this,
+                 (QByteArray(kCompareSheet) + "#MultiPicturePanel { background: @ground; border: none; }").constData());
 }
 
 }  // namespace kinalyx

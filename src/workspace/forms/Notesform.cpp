@@ -42,7 +42,8 @@ Notesform::Notesform(IHost& host, IPrinter& printer, const QString& video, const
   actions->addStretch(1);
   const QString prints[] = {tr("Print Highlighted Window"), tr("Print All Windows"), tr("Close without Printing")};
   for (int i = 0; i < 3; ++i) {
-    auto* button = new Button(QString("SSCommand1_%1").arg(i), prints[i], i < 2 ? "print" : "", i < 2 ? Look::Filled : Look::Quiet, this);
+    auto* button = new Button(QString("SSCommand1_%1").arg(i), prints[i], i < 2 ? "print" : "",
+                              i < 2 ? Look::Filled : Look::Quiet, this);
     actions->addWidget(button);
     if (i < 2) {
       Coming(button);
@@ -84,21 +85,26 @@ void Notesform::Open() {
 
 void Notesform::Print() {
   const QString notes = notes_->toPlainText();
-  if (notes.trimmed().isEmpty()) return host_.Message(MessageKind::Information, "", tr("There are no notes to print.").toStdString());
-  const Outcome printed = printer_.Print({video_.toStdString(), tr("Video Notes").toStdString(), notes.toStdString(), {}});
+  if (notes.trimmed().isEmpty())
+    return host_.Message(MessageKind::Information, "", tr("There are no notes to print.").toStdString());
+  const Outcome printed =
+      printer_.Print({video_.toStdString(), tr("Video Notes").toStdString(), notes.toStdString(), {}});
   if (printed.Kind() == Fault::Failed)
-    host_.Message(MessageKind::Warning, "", tr("The notes were not printed. %1").arg(QString::fromStdString(printed.Why())).toStdString());
+    host_.Message(MessageKind::Warning, "",
+                  tr("The notes were not printed. %1").arg(QString::fromStdString(printed.Why())).toStdString());
 }
 
 void Notesform::Save() {
-  const auto chosen = host_.PickNewFile({tr("Save Notes").toStdString(), file_.toStdString(), "Text Files (*.txt)|*.txt"});
+  const auto chosen =
+      host_.PickNewFile({tr("Save Notes").toStdString(), file_.toStdString(), "Text Files (*.txt)|*.txt"});
   if (!chosen) return;
   QString path = Q(*chosen);
   if (!path.endsWith(".txt", Qt::CaseInsensitive)) path += ".txt";
   if (const Outcome saved = WriteWholeFile(path.toStdString(), FileText(notes_->toPlainText())); saved) {
     file_ = path;
   } else {
-    host_.Message(MessageKind::Warning, "", tr("The notes could not be saved: %1.").arg(QString::fromStdString(saved.Why())).toStdString());
+    host_.Message(MessageKind::Warning, "",
+                  tr("The notes could not be saved: %1.").arg(QString::fromStdString(saved.Why())).toStdString());
   }
 }
 

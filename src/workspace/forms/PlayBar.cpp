@@ -156,7 +156,7 @@ void PlayBar::SetPlayPicture(bool playing) {
 void PlayBar::SetLine(const QString& line, const QString& counter) {
   const QString longest = LongestLine(line);
   const bool rearrange = longest.section('/', 1) != longest_.section('/', 1) || longest.size() > longest_.size() ||
-                   counter.size() != counter_->text().size();
+                         counter.size() != counter_->text().size();
   if (rearrange) longest_ = longest;
   if (line_->text() != line) line_->setText(line);
   counter_->setText(counter);
@@ -207,13 +207,15 @@ void PlayBar::PlaceCard() {
   const QSize stage = parentWidget()->size();
   markBox_->ShowCard(parentWidget(), std::min(stage.width(), width()) - 8);
   const int above = y() - markBox_->height() - 4;
-  markBox_->move(std::clamp(geometry().right() - 4 - markBox_->width(), 0, std::max(0, stage.width() - markBox_->width())),
-                 above >= 0 ? above : geometry().bottom() + 4);
+  markBox_->move(
+      std::clamp(geometry().right() - 4 - markBox_->width(), 0, std::max(0, stage.width() - markBox_->width())),
+      above >= 0 ? above : geometry().bottom() + 4);
 }
 
 int PlayBar::CounterWidth() const {
-  return counter_->text().isEmpty() ? 0
-                                    : std::max(Px(kCounter), FiguresWidth(counter_->fontMetrics(), counter_->text()) + 10);
+  return counter_->text().isEmpty()
+             ? 0
+             : std::max(Px(kCounter), FiguresWidth(counter_->fontMetrics(), counter_->text()) + 10);
 }
 
 void PlayBar::SizeButtons(int side, int playWidth) {

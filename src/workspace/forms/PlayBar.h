@@ -73,7 +73,7 @@ class PlayBar : public StagePanel {
   MarkBox* markBox_;
   QToolButton* marksButton_ = nullptr;  ///< opens the card of the marks
   std::vector<int> marks_;
-  QString longest_;           ///< the line for which there is room
+  QString longest_;  ///< the line for which there is room
   bool docked_ = true;
   bool playing_ = false;
   bool hasVideo_ = true;

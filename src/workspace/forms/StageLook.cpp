@@ -50,10 +50,17 @@ void WearStageSheet(QWidget* widget, const char* sheet) {
   const StageLook look = StageLook::Current();
   const std::pair<const char*, QColor> colours[] = {
       // Longer names first where one begins another.
-      {"@accentFill", look.accentFill}, {"@accentHover", look.accentHover}, {"@accent", look.accent},
-      {"@cardLine", look.cardLine},     {"@card", look.card},               {"@outline", look.outline},
-      {"@faintInk", look.faintInk},     {"@ground", look.ground},           {"@hover", look.hover},
-      {"@ink", look.ink},               {"@mark", look.mark},
+      {"@accentFill", look.accentFill},
+      {"@accentHover", look.accentHover},
+      {"@accent", look.accent},
+      {"@cardLine", look.cardLine},
+      {"@card", look.card},
+      {"@outline", look.outline},
+      {"@faintInk", look.faintInk},
+      {"@ground", look.ground},
+      {"@hover", look.hover},
+      {"@ink", look.ink},
+      {"@mark", look.mark},
   };
   QString dressed = QString::fromLatin1(sheet);
   for (const auto& [name, colour] : colours) dressed.replace(QLatin1String(name), colour.name());

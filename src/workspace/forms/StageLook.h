@@ -10,17 +10,17 @@ namespace kinalyx {
 /// Colours of what stands on the dark stage. The stage is the same in every scheme; only the accent
 /// follows the scheme's buttons.
 struct StageLook {
-  QColor ground;      ///< the stage
-  QColor card;        ///< panels that float over it, with a breath of the scheme
+  QColor ground;  ///< the stage
+  QColor card;    ///< panels that float over it, with a breath of the scheme
   QColor cardLine;
-  QColor outline;     ///< of fields, which show by nothing else
+  QColor outline;  ///< of fields, which show by nothing else
   QColor hover;
-  QColor ink;         ///< words and icons
-  QColor faintInk;    ///< what is disabled, and hints
-  QColor accent;      ///< frame of the current window, the film's line up to the knob
-  QColor accentFill;  ///< pressed and checked buttons
-  QColor accentHover; ///< the same under the mouse
-  QColor mark;        ///< marks of a video
+  QColor ink;          ///< words and icons
+  QColor faintInk;     ///< what is disabled, and hints
+  QColor accent;       ///< frame of the current window, the film's line up to the knob
+  QColor accentFill;   ///< pressed and checked buttons
+  QColor accentHover;  ///< the same under the mouse
+  QColor mark;         ///< marks of a video
 
   static StageLook Current();
 };

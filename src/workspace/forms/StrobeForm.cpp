@@ -22,13 +22,13 @@ StrobeForm::StrobeForm(StrobeControl& strobe, QWidget* parent)
   ESlider_->setObjectName("ESlider");
   ESlider_->setToolTip(tr("Moves the current video"));
   LeastWidth(ESlider_, 330);
-  connect(ESlider_, &SeekBar::Sought, this,
-          [this](int position) { strobe_.SeekTo(position); });
+  connect(ESlider_, &SeekBar::Sought, this, [this](int position) { strobe_.SeekTo(position); });
   rows->addWidget(ESlider_);
 
   auto* buttons = new QHBoxLayout;
   buttons->setSpacing(8);
-  const QString tips[] = {tr("The picture that is shown is the first pose"), tr("The picture that is shown is the last pose"), {}};
+  const QString tips[] = {
+      tr("The picture that is shown is the first pose"), tr("The picture that is shown is the last pose"), {}};
   for (int i = 0; i < 3; ++i) {
     auto* button = new QPushButton(content_);
     button->setObjectName(QString("SSCommand1_%1").arg(i));
@@ -91,8 +91,9 @@ void StrobeForm::SetSlider(int lowest, int highest, int value) {
 
 void StrobeForm::SetObstacle(const std::string& why) {
   SSCommand1_[2]->setEnabled(why.empty());
-  SSCommand1_[2]->setToolTip(why.empty() ? tr("Lays the poses from start to end into one picture; without an end, to the last one")
-                                         : QString::fromStdString(why));
+  SSCommand1_[2]->setToolTip(
+      why.empty() ? tr("Lays the poses from start to end into one picture; without an end, to the last one")
+                  : QString::fromStdString(why));
 }
 
 void StrobeForm::SetResult(bool there) {

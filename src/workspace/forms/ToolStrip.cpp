@@ -80,7 +80,8 @@ void ToolStrip::Arrange() {
   give([](const Command& command) { return command.spare; });
   give([](const Command&) { return true; });
   // Without what is behind "More tools" the others may have more room.
-  Place(*std::ranges::find_if(kSizes, [&](const Sizes& wider) { return &wider == &sizes || WidthFor(wider) <= width(); }));
+  Place(*std::ranges::find_if(kSizes,
+                              [&](const Sizes& wider) { return &wider == &sizes || WidthFor(wider) <= width(); }));
 }
 
 void ToolStrip::Place(const Sizes& sizes) {
@@ -128,7 +129,8 @@ void ToolStrip::ShowMore() {
   for (const Tool& tool : tools_) {
     if (tool.placed) continue;
     const QString reason = Q(tool.command->Reason());
-    QAction* action = menu.addAction(Icon(Q(tool.command->icon), theme.heading, theme.accentText), Q(tool.command->tip));
+    QAction* action =
+        menu.addAction(Icon(Q(tool.command->icon), theme.heading, theme.accentText), Q(tool.command->tip));
     action->setEnabled(reason.isEmpty());
     if (!reason.isEmpty()) {
       action->setToolTip(reason);

@@ -72,7 +72,8 @@ TransFrame::TransFrame(Transparency& transparency, Stage& theStage, QWidget* par
 
 void TransFrame::MakeVideo(int window, QHBoxLayout* row) {
   Video& video = Of(window);
-  video.select = StageButton(QString("SelectVid%1").arg(window), "", tr("Zoom and pan move video %1").arg(window), this);
+  video.select =
+      StageButton(QString("SelectVid%1").arg(window), "", tr("Zoom and pan move video %1").arg(window), this);
   video.select->setText(QString::number(window));
   video.select->setCheckable(true);
   FixWidth(video.select, 26);
@@ -82,9 +83,9 @@ void TransFrame::MakeVideo(int window, QHBoxLayout* row) {
   });
   row->addWidget(video.select);
   const char* icons[] = {"rewind", "step-back", "play", "step-forward", "loop", "slow"};
-  const QString tips[] = {tr("Rewind video %1"),           tr("Video %1 back one frame; hold to go on"),
-                          tr("Play or pause video %1"),    tr("Video %1 forward one frame; hold to go on"),
-                          tr("Run video %1 in a loop"),    tr("Slow motion of video %1")};
+  const QString tips[] = {tr("Rewind video %1"),        tr("Video %1 back one frame; hold to go on"),
+                          tr("Play or pause video %1"), tr("Video %1 forward one frame; hold to go on"),
+                          tr("Run video %1 in a loop"), tr("Slow motion of video %1")};
   const QString name = window == 1 ? "VidCtlBtn%1" : "VidCtlBtn2_%1";
   for (int i = 0; i < 6; ++i) {
     QToolButton* button = StageButton(name.arg(i), icons[i], tips[i].arg(window), this);
@@ -93,17 +94,15 @@ void TransFrame::MakeVideo(int window, QHBoxLayout* row) {
     button->setAutoRepeat(control == VideoControl::Back || control == VideoControl::Forward);
     button->setAutoRepeatDelay(350);
     button->setAutoRepeatInterval(60);
-    connect(button, &QToolButton::clicked, this, [this, window, i] {
-      transparency_.ControlVideo(window, static_cast<VideoControl>(i));
-    });
+    connect(button, &QToolButton::clicked, this,
+            [this, window, i] { transparency_.ControlVideo(window, static_cast<VideoControl>(i)); });
     row->addWidget(button);
     video.buttons[static_cast<std::size_t>(i)] = button;
   }
   video.scroll = new SeekBar(this);
   video.scroll->setObjectName(QString("HScroll%1").arg(window));
-  connect(video.scroll, &SeekBar::Sought, this, [this, window](int position) {
-    transparency_.SeekVideo(window, position);
-  });
+  connect(video.scroll, &SeekBar::Sought, this,
+          [this, window](int position) { transparency_.SeekVideo(window, position); });
   row->addWidget(video.scroll, 1);
 }
 

@@ -49,7 +49,8 @@ class VideoPanel : public QWidget {
              reopen_ ? QStringList{open, back} : QStringList{open});
     painter.setFont(UiFont(kCaptionPixels));
     painter.setPen(Mix(look.faintInk, look.ground, 0.35));
-    painter.drawText(QRect(10, 8, width() - 20, Px(16)), Qt::AlignLeft | Qt::AlignTop, VideoCell::tr("Window %1").arg(slot_));
+    painter.drawText(QRect(10, 8, width() - 20, Px(16)), Qt::AlignLeft | Qt::AlignTop,
+                     VideoCell::tr("Window %1").arg(slot_));
   }
 
  private:
@@ -57,7 +58,8 @@ class VideoPanel : public QWidget {
   static void DrawHint(QPainter& painter, QRect room, const QStringList& sentences) {
     constexpr int kFlags = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
     for (const QString& sentence : sentences) {
-      const int high = painter.boundingRect(QRect(room.topLeft(), QSize(room.width(), 10000)), kFlags, sentence).height();
+      const int high =
+          painter.boundingRect(QRect(room.topLeft(), QSize(room.width(), 10000)), kFlags, sentence).height();
       if (high > room.height()) return;
       painter.drawText(room, kFlags, sentence);
       room.setTop(room.top() + high);
@@ -81,7 +83,8 @@ VideoCell::VideoCell(int slot, PlayerServices& services, QWidget* parent) : QWid
   title_->setTextFormat(Qt::PlainText);
   title_->setIndent(0);  // the padding of its sheet is all the blank there is
   title_->setAttribute(Qt::WA_TransparentForMouseEvents);
-  WearSheet(title_, "background: rgba(12, 15, 19, 190); color: #e6ecf2; border-radius: @11; padding: 0 10px; font-size: @12;");
+  WearSheet(title_,
+            "background: rgba(12, 15, 19, 190); color: #e6ecf2; border-radius: @11; padding: 0 10px; font-size: @12;");
   title_->hide();
   lock_ = new QLabel(this);
   lock_->setObjectName(QString("LockPicture%1").arg(slot));

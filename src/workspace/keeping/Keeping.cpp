@@ -144,19 +144,22 @@ bool Keeping::SaveOrAsk(int slot) {
   for (; !saved; saved = SaveData(slot)) {
     // A library that cannot be written to is no reason to ask as long as nothing gets lost.
     if (!HasUnsaved(slot)) return true;
-    if (host_.Question("Drawings not saved",
-                       fmt::format("The drawings and notes of \"{}\" could not be saved: {}. Would you like to try again?",
-                                   name, saved.Why())))
+    if (host_.Question(
+            "Drawings not saved",
+            fmt::format("The drawings and notes of \"{}\" could not be saved: {}. Would you like to try again?", name,
+                        saved.Why())))
       continue;
-    return host_.Question("Drawings not saved",
-                          fmt::format("Close \"{}\" all the same? Its new drawings and notes will be lost. Answer No to "
-                                      "keep it open.",
-                                      name));
+    return host_.Question(
+        "Drawings not saved",
+        fmt::format("Close \"{}\" all the same? Its new drawings and notes will be lost. Answer No to "
+                    "keep it open.",
+                    name));
   }
   const auto sidecarAlone = [path] { return !FileExists(path) && FileExists(SidecarPath(path)); };
   if (saved->empty() && host_.Drives().Ask(settings_.LibraryPath, sidecarAlone).value_or(false))
-    *saved = fmt::format("Somebody else has renamed, moved or deleted the video \"{}\". Its drawings and notes are kept in {}.",
-                        name, SidecarPath(path));
+    *saved = fmt::format(
+        "Somebody else has renamed, moved or deleted the video \"{}\". Its drawings and notes are kept in {}.", name,
+        SidecarPath(path));
   if (!saved->empty()) host_.Message(MessageKind::Warning, "", *saved);
   return true;
 }

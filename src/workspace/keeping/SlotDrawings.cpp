@@ -68,7 +68,8 @@ void SlotDrawings::Notice(int slot) {
     if (itself != kept.fitted.end() && (IsSameDrawing(*itself, shapes[i]) || was(kept.origins[at]))) {
       stays[at] = true;
       origins.push_back(kept.origins[at]);
-    } else if (const auto before = std::find_if(kept.past.rbegin(), kept.past.rend(), was); before != kept.past.rend()) {
+    } else if (const auto before = std::find_if(kept.past.rbegin(), kept.past.rend(), was);
+               before != kept.past.rend()) {
       origins.push_back(*before);
     } else {
       origins.push_back({InView(now, drawn.view, {drawn.view.width, drawn.view.height, false}), drawn.view.width,
@@ -165,7 +166,8 @@ void SlotDrawings::Collect(int slot, const SlotData& base, SlotData& data) {
 void SlotDrawings::Saved(int slot, const SlotData& base) {
   Kept& kept = At(slot);
   const auto stored = ShapesOf(base.Shapes);
-  for (Origin& origin : kept.origins) origin.stored = std::ranges::find(stored, origin.shape.Id, &Shape::Id) != stored.end();
+  for (Origin& origin : kept.origins)
+    origin.stored = std::ranges::find(stored, origin.shape.Id, &Shape::Id) != stored.end();
   for (Origin& origin : kept.past) origin.stored = false;
 }
 

@@ -62,11 +62,11 @@ double NearestZoom(double zoom);
 
 /// How a slot shows its video.
 struct VideoPlacement {
-  int VideoWidth = 0;    ///< pixels of the file's picture
+  int VideoWidth = 0;  ///< pixels of the file's picture
   int VideoHeight = 0;
-  bool Wide = false;     ///< shown 16:9
-  double Zoom = 1.0;     ///< 1 fills the height of the cell
-  double PanX = 0;       ///< twips before zoom
+  bool Wide = false;  ///< shown 16:9
+  double Zoom = 1.0;  ///< 1 fills the height of the cell
+  double PanX = 0;    ///< twips before zoom
   double PanY = 0;
 };
 

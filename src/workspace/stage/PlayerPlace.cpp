@@ -5,9 +5,9 @@
 namespace kinalyx {
 
 TwipRect PlayerPlace(const Slot& slot) {
-  return PlaceVideo({slot.MP->VideoWidth(), slot.MP->VideoHeight(), slot.data.Wide, slot.VideoZoom, slot.PanX,
-                     slot.PanY},
-                    slot.panel.Width, slot.panel.Height);
+  return PlaceVideo(
+      {slot.MP->VideoWidth(), slot.MP->VideoHeight(), slot.data.Wide, slot.VideoZoom, slot.PanX, slot.PanY},
+      slot.panel.Width, slot.panel.Height);
 }
 
 double PixelRatio(const Slot& slot) {

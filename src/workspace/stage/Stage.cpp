@@ -71,9 +71,7 @@ void Stage::Clear(int slot) {
 
 int Stage::SlotsShown() const { return Alone() ? 1 : Val(ScreenLayout); }
 
-bool Stage::IsShown(int slot) const {
-  return Alone() ? slot == CurrentWindow : slot >= 1 && slot <= Val(ScreenLayout);
-}
+bool Stage::IsShown(int slot) const { return Alone() ? slot == CurrentWindow : slot >= 1 && slot <= Val(ScreenLayout); }
 
 void Stage::SetScreen(int Mode, bool Force) {
   const ScreenMode* mode = FindScreenMode(Mode);
@@ -131,7 +129,8 @@ void Stage::MPResize(int slot) {
   const int oldWidth = at.MP->ControlWidthPixels();
   const int oldHeight = at.MP->ControlHeightPixels();
   view_.PlacePlayer(slot, PlayerPlace(at), true);
-  if (oldWidth != at.MP->ControlWidthPixels() || oldHeight != at.MP->ControlHeightPixels()) news_.Note(kPicturesChanged);
+  if (oldWidth != at.MP->ControlWidthPixels() || oldHeight != at.MP->ControlHeightPixels())
+    news_.Note(kPicturesChanged);
   at.MP->Refresh();
 }
 

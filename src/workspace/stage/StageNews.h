@@ -8,11 +8,11 @@ namespace kinalyx {
 
 /// What may have changed; a sum of these is told at once.
 enum StageChange : unsigned {
-  kCommandsChanged = 0,   ///< what commands can do, or show: told with every change, and by itself
-  kFocusChanged = 1,      ///< another slot is current
-  kVideoChanged = 2,      ///< a video came or went, counts or plays in another way, or stands in another layout
-  kPicturesChanged = 4,   ///< pictures have another size, are mirrored, or carry other drawings
-  kLocksChanged = 8,      ///< a lock was made or ended, its bounds moved, or its play began, ended or paused
+  kCommandsChanged = 0,  ///< what commands can do, or show: told with every change, and by itself
+  kFocusChanged = 1,     ///< another slot is current
+  kVideoChanged = 2,     ///< a video came or went, counts or plays in another way, or stands in another layout
+  kPicturesChanged = 4,  ///< pictures have another size, are mirrored, or carry other drawings
+  kLocksChanged = 8,     ///< a lock was made or ended, its bounds moved, or its play began, ended or paused
 };
 
 /// Who is told what has changed.

@@ -81,7 +81,8 @@ void Transport::HeldStep() {
   if (!player) return;
   if (Locked()) return locks_.DualControlStep(ForwardHeld_);
   const int step = std::abs(static_cast<int>(std::floor(HeldX_ - HeldStartX_))) / 100;
-  if (ForwardHeld_ && player->Position() + step < player->VideoLength() - 1) player->Play(player->Position() + step + 1);
+  if (ForwardHeld_ && player->Position() + step < player->VideoLength() - 1)
+    player->Play(player->Position() + step + 1);
   if (BackHeld_ && player->Position() - step > 0) player->Play(player->Position() - step - 1);
 }
 

@@ -20,7 +20,7 @@ class Transport {
   void TogglePlay();
   void Rewind();
   void StepForward();  ///< one position on
-  void StepBack();  ///< one position back
+  void StepBack();     ///< one position back
   /// Shows a position of the current video; the position that is shown already is left alone.
   void Seek(int position);
 

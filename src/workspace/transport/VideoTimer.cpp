@@ -68,7 +68,8 @@ void VideoTimer::Forget(int slot) {
 
 std::string VideoTimer::Reading(double seconds) {
   const auto hundredths = std::llround(seconds * 100);
-  return fmt::format("{}{:02}.{:02}", hundredths < 0 ? "-" : "", std::abs(hundredths) / 100, std::abs(hundredths) % 100);
+  return fmt::format("{}{:02}.{:02}", hundredths < 0 ? "-" : "", std::abs(hundredths) / 100,
+                     std::abs(hundredths) % 100);
 }
 
 }  // namespace kinalyx

@@ -53,9 +53,9 @@ void Videos::RefuseVideo(int slot, const std::string& path, bool hasStream) {
   stage_.News().Note(kVideoChanged);
   host_.Message(MessageKind::Warning, "",
                 !FileExists(path) ? "The video \"" + LastName(path) + "\" is no longer there."
-                : hasStream       ? "The video \"" + LastName(path) + "\" is damaged: it holds no picture that can be shown."
-                                  : "The specified file does not contain media streams, make sure you choose a "
-                                    "valid media file");
+                : hasStream ? "The video \"" + LastName(path) + "\" is damaged: it holds no picture that can be shown."
+                            : "The specified file does not contain media streams, make sure you choose a "
+                              "valid media file");
 }
 
 int Videos::SendToAnalysis(const std::string& path, const std::function<void(const std::string&)>& status) {
@@ -77,7 +77,8 @@ int Videos::SendToAnalysis(const std::string& path, const std::function<void(con
   // What has the stage gives way, unless the video came into one of the windows that it shows.
   if (!stage_.IsShown(slot)) stage_.ComeHome();
   const int used = stage_.VideoCount();
-  if (!stage_.Home().Away() && used > Val(stage_.ScreenLayout)) stage_.SetScreen(used == 5 || used == 7 ? used + 1 : used);
+  if (!stage_.Home().Away() && used > Val(stage_.ScreenLayout))
+    stage_.SetScreen(used == 5 || used == 7 ? used + 1 : used);
   stage_.SelectWindow(slot);
   tell("Current video was sent to Analysis.");
   return slot;
@@ -159,7 +160,8 @@ bool Videos::CloseAll() {
   for (int slot = 1; slot <= kSlots; ++slot) {
     if (!stage_.HasVideo(slot)) continue;
     const Slot& at = stage_.At(slot);
-    closed.videos.push_back({slot, at.path, at.MP->Position(), at.MP->FlipHorizontal(), at.VideoZoom, at.PanX, at.PanY});
+    closed.videos.push_back(
+        {slot, at.path, at.MP->Position(), at.MP->FlipHorizontal(), at.VideoZoom, at.PanX, at.PanY});
   }
   bool all = true;
   for (const ClosedVideo& video : closed.videos) all = CloseVideo(video.slot) && all;

@@ -16,7 +16,9 @@ namespace fs = std::filesystem;
 
 /// A readable stand-in for the bytes of a file.
 std::string Digest(const std::string& bytes) {
-  return bytes.size() < 40 ? bytes : std::to_string(bytes.size()) + " bytes, " + std::to_string(std::hash<std::string>{}(bytes));
+  return bytes.size() < 40
+             ? bytes
+             : std::to_string(bytes.size()) + " bytes, " + std::to_string(std::hash<std::string>{}(bytes));
 }
 
 /// All that is in a folder: relative path and digest, "/" for folders, "-> target" for links.
@@ -82,10 +84,14 @@ TEST(CopyJob, MovesAStudentWithinADriveAndBetweenTwo) {
     TwoDrives drives;
     CopyJob job(CopyJob::Kind::Move, WholeStudent(folder), twoDrives ? drives : RealDisk());
     ASSERT_EQ(RunToEnd(job), CopyJob::State::Done) << job.Error();
-    const std::map<std::string, std::string> wanted = {
-        {"Ann", "/"}, {"Bob", "/"}, {"Bob/Smith, Jr.", "/"}, {"Bob/Smith, Jr./(001) DL.avi", Digest(kVideo)},
-        {"Bob/Smith, Jr./(001) DL.ved", "1XXXXXXX"}, {"Bob/Smith, Jr./elsewhere", "-> /etc"},
-        {"Bob/Smith, Jr./lessons", "/"}, {"Bob/Smith, Jr./lessons/One.avi", "lesson"}};
+    const std::map<std::string, std::string> wanted = {{"Ann", "/"},
+                                                       {"Bob", "/"},
+                                                       {"Bob/Smith, Jr.", "/"},
+                                                       {"Bob/Smith, Jr./(001) DL.avi", Digest(kVideo)},
+                                                       {"Bob/Smith, Jr./(001) DL.ved", "1XXXXXXX"},
+                                                       {"Bob/Smith, Jr./elsewhere", "-> /etc"},
+                                                       {"Bob/Smith, Jr./lessons", "/"},
+                                                       {"Bob/Smith, Jr./lessons/One.avi", "lesson"}};
     EXPECT_EQ(Contents(folder), wanted);
     EXPECT_EQ(job.Error(), "");
   }
@@ -121,7 +127,9 @@ TEST(CopyJob, AMoveBetweenDrivesRemovesOnlyWhatItCopied) {
   EXPECT_TRUE(after.contains("Ann/Smith, Jr./(001) DL.avi")) << "what changed under the copy is in doubt";
   EXPECT_FALSE(after.contains("Ann/Smith, Jr./lessons/One.avi") || after.contains("Ann/Smith, Jr./elsewhere"));
   EXPECT_TRUE(after.contains("Bob/Smith, Jr./lessons/One.avi") && after.contains("Bob/Smith, Jr./(001) DL.ved"));
-  EXPECT_NE(job.Error().find("\"Two.avi\" and 2 more came or changed while \"Smith, Jr.\" was moved"), std::string::npos) << job.Error();
+  EXPECT_NE(job.Error().find("\"Two.avi\" and 2 more came or changed while \"Smith, Jr.\" was moved"),
+            std::string::npos)
+      << job.Error();
 }
 
 TEST(CopyJob, ACancelTakesBackTheUnitUnderWayAndKeepsThoseThatAreDone) {
@@ -189,8 +197,10 @@ TEST(CopyJob, LosesNothingWhicheverCallFails) {
     bool twoDrives;
   };
   using enum CopyJob::Kind;
-  const Case cases[] = {{"copy a video", false, Copy, false},   {"move a video", false, Move, false},
-                        {"copy a student", true, Copy, false},  {"move a student", true, Move, false},
+  const Case cases[] = {{"copy a video", false, Copy, false},
+                        {"move a video", false, Move, false},
+                        {"copy a student", true, Copy, false},
+                        {"move a student", true, Move, false},
                         {"move a video to another drive", false, Move, true},
                         {"move a student to another drive", true, Move, true}};
   for (const Case& one : cases) {
@@ -212,7 +222,8 @@ TEST(CopyJob, LosesNothingWhicheverCallFails) {
         for (const auto& [name, bytes] : before) {
           const std::string path = folder.Path(name);
           if (path != entry.from && !path.starts_with(entry.from + "/")) continue;
-          const std::string moved = fs::path(entry.to + path.substr(entry.from.size())).lexically_relative(folder.Path()).string();
+          const std::string moved =
+              fs::path(entry.to + path.substr(entry.from.size())).lexically_relative(folder.Path()).string();
           const bool old = after.contains(name) && after.at(name) == bytes;
           const bool arrived = after.contains(moved) && after.at(moved) == bytes;
           EXPECT_TRUE(arrived || !after.contains(moved)) << moved;

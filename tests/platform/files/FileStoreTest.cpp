@@ -110,7 +110,11 @@ TEST(FileStore, ReadsOnlyOrdinaryFilesOfBearableSize) {
   ASSERT_EQ(::mkfifo(folder.Path("pipe").c_str(), 0600), 0);
   for (const std::string& none : {folder.Path("none"), folder.Path(), folder.Path("pipe")})
     EXPECT_FALSE(ReadWholeFile(none)) << "must neither wait nor read";
-  EXPECT_EQ(ReadTextFile(folder.Put("old", "Gr\xFC\xDF" "e")), "Gr\xC3\xBC\xC3\x9F" "e");
+  EXPECT_EQ(ReadTextFile(folder.Put("old",
+                                    "Gr\xFC\xDF"
+                                    "e")),
+            "Gr\xC3\xBC\xC3\x9F"
+            "e");
 }
 
 }  // namespace

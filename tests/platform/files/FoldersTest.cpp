@@ -35,10 +35,9 @@ TEST(Folders, ListAsAReaderSorts) {
   std::filesystem::create_symlink(folder.Path("gone"), folder.Path("dangling.avi"));
 
   EXPECT_EQ(ListFiles(folder.Path(), ".avi"),
-            (Names{"(009) iron.avi", "(9) swing.AVI", "(10) swing.avi", "A.avi", "b.avi", "c.avi", "e.avi", "\xC3\xA9t.avi",
-                   "\xC3\x89z.avi", "f.avi"}));
-  EXPECT_EQ(ListFolders(folder.Path()),
-            (Names{"anna", "folder.avi", "link", "Student 2", "Student 10", "Tom"}));
+            (Names{"(009) iron.avi", "(9) swing.AVI", "(10) swing.avi", "A.avi", "b.avi", "c.avi", "e.avi",
+                   "\xC3\xA9t.avi", "\xC3\x89z.avi", "f.avi"}));
+  EXPECT_EQ(ListFolders(folder.Path()), (Names{"anna", "folder.avi", "link", "Student 2", "Student 10", "Tom"}));
   EXPECT_TRUE(ListFolders(folder.Path("none")).empty());
   EXPECT_TRUE(ListFiles(folder.Path("b.avi"), ".avi").empty());
 }
@@ -65,8 +64,8 @@ TEST(Folders, TellFilesFromFolders) {
 }
 
 TEST(Folders, JoinAndTakeApart) {
-  for (const auto& [folder, name, joined] : {std::tuple{"/a", "b", "/a/b"}, {"/a/", "b", "/a/b"}, {"/a/", "/b", "/a/b"},
-                                             {"", "b", "b"}, {"/", "b", "/b"}})
+  for (const auto& [folder, name, joined] :
+       {std::tuple{"/a", "b", "/a/b"}, {"/a/", "b", "/a/b"}, {"/a/", "/b", "/a/b"}, {"", "b", "b"}, {"/", "b", "/b"}})
     EXPECT_EQ(JoinPath(folder, name), joined);
   for (const auto& [path, last] : {std::pair{"/a/b.avi", "b.avi"}, {"/a/b/", "b"}, {"b", "b"}, {"/", "/"}})
     EXPECT_EQ(LastName(path), last);
@@ -80,7 +79,8 @@ TEST(Folders, DocumentsAreWhereTheDesktopSaysSo) {
   EXPECT_TRUE(dirExists(home.Path("Documents")));
 
   std::filesystem::create_directory(home.Path("settings"));
-  home.Put("settings/user-dirs.dirs", "# folders\nXDG_MUSIC_DIR=\"$HOME/Music\"\nXDG_DOCUMENTS_DIR=\"$HOME/Dokumente/\"\n");
+  home.Put("settings/user-dirs.dirs",
+           "# folders\nXDG_MUSIC_DIR=\"$HOME/Music\"\nXDG_DOCUMENTS_DIR=\"$HOME/Dokumente/\"\n");
   EXPECT_EQ(DocumentsFolder(), home.Path("Dokumente"));
   EXPECT_TRUE(dirExists(home.Path("Dokumente")));
 

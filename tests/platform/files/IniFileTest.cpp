@@ -19,11 +19,14 @@ TEST(IniFile, ReadsAsTheUserWroteIt) {
                                       "Empty=other\r\n"
                                       "[GENERAL]\r\n"
                                       "Late=second part of the section\r\n");
-  for (const auto& [section, key, value] : {std::tuple{"general", "USER name", "Erica = Sample"}, {"General", "Empty", ""},
-                                            {"General", "Quoted", "\"as it stands\""}, {"Other", "empty", "other"},
+  for (const auto& [section, key, value] : {std::tuple{"general", "USER name", "Erica = Sample"},
+                                            {"General", "Empty", ""},
+                                            {"General", "Quoted", "\"as it stands\""},
+                                            {"Other", "empty", "other"},
                                             {"General", "Late", "second part of the section"}})
     EXPECT_EQ(ReadProfileValue(section, key, path), value) << key;
-  for (const char* none : {"Name", "Lost", "no key here"}) EXPECT_EQ(ReadProfileValue("General", none, path), std::nullopt) << none;
+  for (const char* none : {"Name", "Lost", "no key here"})
+    EXPECT_EQ(ReadProfileValue("General", none, path), std::nullopt) << none;
   EXPECT_EQ(ReadProfileValue("Missing", "Empty", path), std::nullopt);
   EXPECT_EQ(ReadProfileValue("General", "Empty", folder.Path("none.ini")), std::nullopt);
 }
@@ -32,17 +35,26 @@ TEST(IniFile, CutsByCharactersAndFallsBack) {
   TempFolder folder;
   const std::string umlauts = "\xC3\xA4\xC3\xB6\xC3\xBC";
   const std::string path = folder.Put("a.ini", std::string("[A]\nWord=").append(umlauts).append("xyz\n"));
-  for (const auto& [size, cut] : {std::pair{4, umlauts}, {3, umlauts.substr(0, 4)}, {50, umlauts + "xyz"}, {0, std::string()}})
+  for (const auto& [size, cut] :
+       {std::pair{4, umlauts}, {3, umlauts.substr(0, 4)}, {50, umlauts + "xyz"}, {0, std::string()}})
     EXPECT_EQ(GetPrivateProfileString("A", "Word", "", size, path), cut);
   EXPECT_EQ(GetPrivateProfileString("A", "None", path, 6, path), path.substr(0, 5));
 }
 
 TEST(IniFile, OldFilesOfAnotherEncodingBecomeUtf8) {
   TempFolder folder;
-  const std::string path = folder.Put("old.ini", "[Profil]\nGr\xF6\xDF" "e=1,80 m\nPreis=20 \x80\n");
-  EXPECT_EQ(ReadProfileValue("Profil", "GR\xC3\x96\xC3\x9F" "E", path), "1,80 m");
+  const std::string path = folder.Put("old.ini",
+                                      "[Profil]\nGr\xF6\xDF"
+                                      "e=1,80 m\nPreis=20 \x80\n");
+  EXPECT_EQ(ReadProfileValue("Profil",
+                             "GR\xC3\x96\xC3\x9F"
+                             "E",
+                             path),
+            "1,80 m");
   ASSERT_TRUE(WritePrivateProfileString("Profil", "Ort", "M\xC3\xBCnchen", path));
-  EXPECT_EQ(folder.Get("old.ini"), "[Profil]\nGr\xC3\xB6\xC3\x9F" "e=1,80 m\nPreis=20 \xE2\x82\xAC\nOrt=M\xC3\xBCnchen\n");
+  EXPECT_EQ(folder.Get("old.ini"),
+            "[Profil]\nGr\xC3\xB6\xC3\x9F"
+            "e=1,80 m\nPreis=20 \xE2\x82\xAC\nOrt=M\xC3\xBCnchen\n");
 
   const std::string marked = folder.Put("marked.ini", "\xEF\xBB\xBF[A]\nKey=1\n");
   EXPECT_EQ(ReadProfileValue("A", "Key", marked), "1");

@@ -31,8 +31,9 @@ TEST(Log, HoldsOneLineAMessageAndNoPaths) {
     log.Write(LogLevel::Error, "video", "cannot read '/srv/Anna Lindqvist/O'Brien.avi': I/O error");
     ASSERT_TRUE(log.Flush(kLongWaitMs));
   }
-  EXPECT_THAT(*ReadTextFile(path), MatchesRegex("[0-9]{4}-[0-9]{2}-[0-9]{2} [0-9:]{8} warning save: refused: No space left "
-                                                "on device\n[^\n]* error video: cannot read '...': I/O error\n"));
+  EXPECT_THAT(*ReadTextFile(path),
+              MatchesRegex("[0-9]{4}-[0-9]{2}-[0-9]{2} [0-9:]{8} warning save: refused: No space left "
+                           "on device\n[^\n]* error video: cannot read '...': I/O error\n"));
 
   EXPECT_EQ(WithoutPaths("/srv/Anna"), "...");
   EXPECT_EQ(WithoutPaths("open(\"/a/b c\", 3) and /x/y z.avi: gone"), "open(\"...\", 3) and ...");

@@ -31,9 +31,14 @@ TEST(DeadParts, GoWhenNobodyHasTouchedThemForLong) {
 
 TEST(DeadParts, NothingElseIsTakenForOne) {
   const TempFolder folder;
-  const char* const names[] = {"Swing.avi", ".Swing.avi.part", ".Swing.avi.0123.part", ".0123456789abcdef.part",
-                               "Swing.avi.0123456789abcdef.part", ".Swing.avi.0123456789ABCDEF.part",
-                               ".Swing.avi.0123456789abcdef.part.renamed", ".Swing.ved.new"};
+  const char* const names[] = {"Swing.avi",
+                               ".Swing.avi.part",
+                               ".Swing.avi.0123.part",
+                               ".0123456789abcdef.part",
+                               "Swing.avi.0123456789abcdef.part",
+                               ".Swing.avi.0123456789ABCDEF.part",
+                               ".Swing.avi.0123456789abcdef.part.renamed",
+                               ".Swing.ved.new"};
   for (const char* name : names) folder.Put(name, "mine");
   // What lies below belongs to another folder's turn.
   fs::create_directories(folder.Path("lessons"));

@@ -61,7 +61,8 @@ TEST(BadVideos, WhatTheLibrarySaysOfThemGoesToTheLog) {
 TEST(BadVideos, AreRefusedWithTheirReason) {
   const std::string avi = BytesOf(MakeTestVideo(MjpegVideo(60)));
   std::string sound = avi;  // a sound file in the same container
-  for (std::size_t at = sound.find("vids"); at != std::string::npos; at = sound.find("vids", at)) sound.replace(at, 4, "auds");
+  for (std::size_t at = sound.find("vids"); at != std::string::npos; at = sound.find("vids", at))
+    sound.replace(at, 4, "auds");
   const std::pair<std::string, OpenFault> cases[] = {
       {TestPath("nowhere.avi"), OpenFault::NotFound},
       {TestPath(""), OpenFault::NotFound},
@@ -204,9 +205,22 @@ TEST(BadVideos, AnIndexThatLiesNeitherHangsNorTakesTheMemory) {
     const char* box;
     std::size_t offset;
   };
-  for (const Lie& lie : {Lie{"stsz", 4}, {"stsz", 8}, {"stsz", 12}, {"stco", 4}, {"stco", 8}, {"stsc", 4}, {"stsc", 12},
-                         {"stts", 4}, {"stts", 8}, {"stts", 12}, {"stss", 4}, {"elst", 4}, {"elst", 8}, {"elst", 12},
-                         {"mdhd", 12}, {"mvhd", 12}}) {
+  for (const Lie& lie : {Lie{"stsz", 4},
+                         {"stsz", 8},
+                         {"stsz", 12},
+                         {"stco", 4},
+                         {"stco", 8},
+                         {"stsc", 4},
+                         {"stsc", 12},
+                         {"stts", 4},
+                         {"stts", 8},
+                         {"stts", 12},
+                         {"stss", 4},
+                         {"elst", 4},
+                         {"elst", 8},
+                         {"elst", 12},
+                         {"mdhd", 12},
+                         {"mvhd", 12}}) {
     for (const std::uint32_t value : {0u, 1u, 0x7FFFFFFFu, 0xFFFFFFFFu, 50000000u}) {
       SCOPED_TRACE(testing::Message() << lie.box << " + " << lie.offset << " = " << value);
       const auto result = VideoFile::Open(FileWith("lie.mp4", WithLie(honest, lie.box, lie.offset, value)));

@@ -49,8 +49,15 @@ class Bits {
 
 std::string Headers() {
   constexpr unsigned kMainProfile = 77;
-  std::string sequence = Bits().Put(kMainProfile, 8).Put(0, 8).Put(30, 8).Codes({0, 0, 2, 1}).Put(0, 1).Codes({1, 0})
-                             .Put(0b00100, 5).Unit(0x67);  // pictures may be fields
+  std::string sequence = Bits()
+                             .Put(kMainProfile, 8)
+                             .Put(0, 8)
+                             .Put(30, 8)
+                             .Codes({0, 0, 2, 1})
+                             .Put(0, 1)
+                             .Codes({1, 0})
+                             .Put(0b00100, 5)
+                             .Unit(0x67);  // pictures may be fields
   std::string picture =
       Bits().Codes({0, 0}).Put(0, 2).Codes({0, 0, 0}).Put(0, 3).Codes({0, 0, 0}).Put(0b100, 3).Unit(0x68);
   return sequence + picture;

@@ -14,7 +14,7 @@ namespace kinalyx::test {
 
 /// Videos as cameras and other programs make them: other containers, codecs, timings, shapes, with sound.
 struct Film {
-  std::string name;       ///< the extension chooses the container
+  std::string name;  ///< the extension chooses the container
   std::string encoder;
   int frames = 60;
   int gop = 25;
@@ -25,14 +25,14 @@ struct Film {
   int width = 320;
   int height = 240;
   AVPixelFormat format = AV_PIX_FMT_YUV420P;
-  std::vector<std::int32_t> matrix = {};             ///< of display, 9 numbers; empty: none
-  AVRational pixel{0, 1};                            ///< its shape; 0: not told
-  bool tellsPixel = true;                            ///< also in the container
+  std::vector<std::int32_t> matrix = {};  ///< of display, 9 numbers; empty: none
+  AVRational pixel{0, 1};                 ///< its shape; 0: not told
+  bool tellsPixel = true;                 ///< also in the container
   std::function<void(AVCodecContext&)> tune = nullptr;
   std::function<void(AVFrame&, int)> paint = nullptr;  ///< empty: the picture carries its number (320 x 240 only)
   std::map<std::string, std::string> metadata = {};
-  std::string muxing = "";   ///< options of the container, as key=value:key=value
-  std::function<void(AVPacket&)> mangle = nullptr;   ///< of every packet, before it is stored
+  std::string muxing = "";                          ///< options of the container, as key=value:key=value
+  std::function<void(AVPacket&)> mangle = nullptr;  ///< of every packet, before it is stored
 };
 
 std::ostream& operator<<(std::ostream& out, const Film& film);

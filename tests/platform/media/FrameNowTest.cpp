@@ -73,7 +73,8 @@ TEST(FrameNow, GivesWhatThereIsAndTellsWhenTheExactPictureHasCome) {
   Listener listener;
   file->OnBetterPicture([&] { listener.Hear(); });
   ASSERT_TRUE(file->Frame(0, 32));
-  for (const int n : {499, 3, 249, 250, 120, 121, 119, 0}) ASSERT_NO_FATAL_FAILURE(ExpectBecomesExact(*file, listener, n));
+  for (const int n : {499, 3, 249, 250, 120, 121, 119, 0})
+    ASSERT_NO_FATAL_FAILURE(ExpectBecomesExact(*file, listener, n));
   EXPECT_FALSE(file->FrameNow(-1, 32).rows || file->FrameNow(500, 32).rows || file->FrameNow(0, 16).rows);
 }
 

@@ -14,7 +14,8 @@ class OtherFilms : public testing::TestWithParam<Film> {};
 
 TEST_P(OtherFilms, GiveEveryFrameWhicheverWayItIsReached) {
   const Film& film = GetParam();
-  const std::string path = TestPath(film.encoder + std::to_string(film.gop) + std::to_string(film.bFrames) + "-" + film.name);
+  const std::string path =
+      TestPath(film.encoder + std::to_string(film.gop) + std::to_string(film.bFrames) + "-" + film.name);
   MakeFilm(film, path);
   if (HasFatalFailure() || IsSkipped()) return;
   const auto opened = VideoFile::Open(path);
@@ -24,7 +25,8 @@ TEST_P(OtherFilms, GiveEveryFrameWhicheverWayItIsReached) {
   EXPECT_EQ(file.Info().hasSound, film.sound);
   const auto expect = [&](int n) { ASSERT_EQ(ReadNumber(file.Frame(n, 24)), n); };
   std::mt19937 random(5);
-  for (int i = 0; i < 30; ++i) ASSERT_NO_FATAL_FAILURE(expect(static_cast<int>(random() % static_cast<unsigned>(film.frames)))) << "jump";
+  for (int i = 0; i < 30; ++i)
+    ASSERT_NO_FATAL_FAILURE(expect(static_cast<int>(random() % static_cast<unsigned>(film.frames)))) << "jump";
   for (int n = film.frames - 1; n >= 0; --n) ASSERT_NO_FATAL_FAILURE(expect(n)) << "backward";
   for (int n = 0; n < film.frames; ++n) ASSERT_NO_FATAL_FAILURE(expect(n)) << "forward";
 
@@ -102,27 +104,25 @@ Film Fragmented(Film film) {
 
 INSTANTIATE_TEST_SUITE_P(
     Films, OtherFilms,
-    testing::Values(Film{"phone.mp4", "libx264", 120, 50, 3, "preset=veryfast:sc_threshold=0"},
-                    Film{"uneven.mp4", "libx264", 60, 25, 2, "preset=veryfast", false, Uneven},
-                    Film{"uneven.mkv", "libx264", 60, 25, 3, "preset=veryfast", false, Uneven},
-                    Film{"sound.avi", "libx264", 100, 40, 2, "preset=veryfast:b_strategy=0", true},
-                    Film{"pyramid.avi", "libx264", 120, 60, 7, "preset=veryfast:b_strategy=0:x264-params=b-pyramid=normal"},
-                    Film{"open.avi", "libx264", 120, 24, 3, "preset=veryfast:b_strategy=0:sc_threshold=0:x264-params=open-gop=1"},
-                    Film{"camera.mkv", "libx264", 100, 40, 3, "preset=veryfast"},
-                    Film{"old.avi", "mpeg4", 90, 30, 2, "", true}, Film{"old.mp4", "mpeg4", 90, 30, 2},
-                    Film{"disc.mpg", "mpeg2video", 90, 15, 2}, Film{"disc.avi", "mpeg2video", 90, 15, 2},
-                    Film{"stream.ts", "libx264", 80, 20, 2, "preset=veryfast"},
-                    Film{"tape.avi", "ffvhuff", 30, 1, 0, "pred=left", true},
-                    Film{"phone.mov", "libx265", 60, 24, 3, "preset=ultrafast:x265-params=log-level=none"},
-                    Film{"open.mp4", "libx265", 60, 15, 3, "preset=ultrafast:x265-params=log-level=none\\:open-gop=1"},
-                    Film{"web.webm", "libvpx-vp9", 30, 12, 0, "deadline=realtime:cpu-used=8"},
-                    Film{"camera.mts", "libx264", 50, 20, 2, "preset=veryfast"},
-                    Film{"camera.m2ts", "mpeg2video", 50, 15, 2}, Film{"disc.vob", "mpeg2video", 50, 15, 2},
-                    Film{"disc.mpeg", "mpeg1video", 50, 15, 2}, Film{"desk.wmv", "wmv2", 40, 15, 0, "", true},
-                    Film{"desk.asf", "wmv1", 40, 15, 0}, Film{"old.3gp", "mpeg4", 40, 15, 0},
-                    Film{"web.flv", "flv", 40, 15, 0}, Film{"web.ogg", "libtheora", 40, 16, 0},
-                    Film{"phone.m4v", "mpeg4", 40, 15, 2},
-                    Fragmented({"parts.mp4", "libx264", 60, 20, 2, "preset=veryfast"})),
+    testing::Values(
+        Film{"phone.mp4", "libx264", 120, 50, 3, "preset=veryfast:sc_threshold=0"},
+        Film{"uneven.mp4", "libx264", 60, 25, 2, "preset=veryfast", false, Uneven},
+        Film{"uneven.mkv", "libx264", 60, 25, 3, "preset=veryfast", false, Uneven},
+        Film{"sound.avi", "libx264", 100, 40, 2, "preset=veryfast:b_strategy=0", true},
+        Film{"pyramid.avi", "libx264", 120, 60, 7, "preset=veryfast:b_strategy=0:x264-params=b-pyramid=normal"},
+        Film{"open.avi", "libx264", 120, 24, 3, "preset=veryfast:b_strategy=0:sc_threshold=0:x264-params=open-gop=1"},
+        Film{"camera.mkv", "libx264", 100, 40, 3, "preset=veryfast"}, Film{"old.avi", "mpeg4", 90, 30, 2, "", true},
+        Film{"old.mp4", "mpeg4", 90, 30, 2}, Film{"disc.mpg", "mpeg2video", 90, 15, 2},
+        Film{"disc.avi", "mpeg2video", 90, 15, 2}, Film{"stream.ts", "libx264", 80, 20, 2, "preset=veryfast"},
+        Film{"tape.avi", "ffvhuff", 30, 1, 0, "pred=left", true},
+        Film{"phone.mov", "libx265", 60, 24, 3, "preset=ultrafast:x265-params=log-level=none"},
+        Film{"open.mp4", "libx265", 60, 15, 3, "preset=ultrafast:x265-params=log-level=none\\:open-gop=1"},
+        Film{"web.webm", "libvpx-vp9", 30, 12, 0, "deadline=realtime:cpu-used=8"},
+        Film{"camera.mts", "libx264", 50, 20, 2, "preset=veryfast"}, Film{"camera.m2ts", "mpeg2video", 50, 15, 2},
+        Film{"disc.vob", "mpeg2video", 50, 15, 2}, Film{"disc.mpeg", "mpeg1video", 50, 15, 2},
+        Film{"desk.wmv", "wmv2", 40, 15, 0, "", true}, Film{"desk.asf", "wmv1", 40, 15, 0},
+        Film{"old.3gp", "mpeg4", 40, 15, 0}, Film{"web.flv", "flv", 40, 15, 0}, Film{"web.ogg", "libtheora", 40, 16, 0},
+        Film{"phone.m4v", "mpeg4", 40, 15, 2}, Fragmented({"parts.mp4", "libx264", 60, 20, 2, "preset=veryfast"})),
     [](const auto& info) {
       std::string name = info.param.name + "_" + info.param.encoder;
       for (char& c : name)

@@ -54,8 +54,14 @@ TEST(Shapes, EveryTurnAndMirrorOfTheContainerIsObeyed) {
   for (const AVPixelFormat format : {AV_PIX_FMT_YUV420P, AV_PIX_FMT_YUV444P}) {
     const auto lying = OpenFilm(FilmOf("lying.mp4", format));
     ASSERT_TRUE(lying);
-    for (const auto& [a, b, c, d] : {std::array{1, 0, 0, 1}, {0, 1, -1, 0}, {-1, 0, 0, -1}, {0, -1, 1, 0},
-                                     {-1, 0, 0, 1}, {1, 0, 0, -1}, {0, 1, 1, 0}, {0, -1, -1, 0}}) {
+    for (const auto& [a, b, c, d] : {std::array{1, 0, 0, 1},
+                                     {0, 1, -1, 0},
+                                     {-1, 0, 0, -1},
+                                     {0, -1, 1, 0},
+                                     {-1, 0, 0, 1},
+                                     {1, 0, 0, -1},
+                                     {0, 1, 1, 0},
+                                     {0, -1, -1, 0}}) {
       SCOPED_TRACE(testing::Message() << a << b << c << d << " of format " << format);
       Film film = FilmOf("turned.mp4", format);
       film.matrix = {a * kOne, b * kOne, 0, c * kOne, d * kOne, 0, 0, 0, 1 << 30};

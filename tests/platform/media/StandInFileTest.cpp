@@ -36,7 +36,8 @@ class StandInFileTest : public testing::Test {
   /// Opens the file of a video, and reads what it tells of.
   std::unique_ptr<StandInFile> Open(const FileStamp& video = kVideo) {
     found.clear();
-    return StandInFile::Open(limits, video, kPictures, [this](const StandInFile::Place& place) { found[place.picture] = place; });
+    return StandInFile::Open(limits, video, kPictures,
+                             [this](const StandInFile::Place& place) { found[place.picture] = place; });
   }
   void Fill(int pictures, const FileStamp& video = kVideo) {
     const auto file = Open(video);

@@ -151,8 +151,12 @@ TEST(Straight, AStreamWithoutTimesIsNotReadFromItsStartForEveryJump) {
 }
 
 TEST(Straight, TwoFieldsThatAreCodedApartAreOnePicture) {
-  for (const auto& [name, apart] : {std::pair{"camera.mts", false}, {"apart.ts", true}, {"apart.mkv", true},
-                                    {"apart.mp4", true}, {"whole.mp4", false}, {"whole.avi", false}}) {
+  for (const auto& [name, apart] : {std::pair{"camera.mts", false},
+                                    {"apart.ts", true},
+                                    {"apart.mkv", true},
+                                    {"apart.mp4", true},
+                                    {"whole.mp4", false},
+                                    {"whole.avi", false}}) {
     SCOPED_TRACE(name);
     const std::string path = TestPath(name);
     MakeFieldStream(path, 40, apart);

@@ -72,7 +72,8 @@ TEST_P(AnyWay, GivesTheSamePictureForAFrame) {
   const auto expect = [&](VideoFile& file, int n) {
     const FrameRows rows = file.Frame(n, 24);
     ASSERT_TRUE(rows) << n;
-    ASSERT_EQ(Fingerprint(rows), expected[static_cast<std::size_t>(n)]) << "frame " << n << " shows " << ReadNumber(rows, field).value_or(-1);
+    ASSERT_EQ(Fingerprint(rows), expected[static_cast<std::size_t>(n)])
+        << "frame " << n << " shows " << ReadNumber(rows, field).value_or(-1);
   };
 
   auto file = OpenTestVideo(kind.video);
@@ -93,10 +94,11 @@ TEST_P(AnyWay, GivesTheSamePictureForAFrame) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Videos, AnyWay,
-                         testing::Values(Kind{"dv", DvVideo(24)}, Kind{"mjpeg", MjpegVideo(60)}, Kind{"raw", RawVideo(40)},
-                                         Kind{"mjpeg_poor", MjpegVideo(60), 1}, OddSize({"odd_size", MjpegVideo(20)}),
-                                         H264("h264", 300, 250, 2, 256 << 10), H264("h264_poor", 300, 250, 2, 3000),
-                                         H264("h264_poorest", 120, 50, 3, 1), H264("h264_short_chunks", 100, 12, 3, 4000),
+                         testing::Values(Kind{"dv", DvVideo(24)}, Kind{"mjpeg", MjpegVideo(60)},
+                                         Kind{"raw", RawVideo(40)}, Kind{"mjpeg_poor", MjpegVideo(60), 1},
+                                         OddSize({"odd_size", MjpegVideo(20)}), H264("h264", 300, 250, 2, 256 << 10),
+                                         H264("h264_poor", 300, 250, 2, 3000), H264("h264_poorest", 120, 50, 3, 1),
+                                         H264("h264_short_chunks", 100, 12, 3, 4000),
                                          OddSize(H264("h264_no_b", 100, 60, 0, 6000))),
                          [](const auto& info) { return info.param.name; });
 

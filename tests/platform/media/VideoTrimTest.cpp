@@ -72,11 +72,11 @@ std::string VideoWithSound(const TempFolder& folder, int frames, const std::func
   }
   const std::string picture = Chunk("strf", Number(40) + Number(width) + Number(height) + Number(1, 2) + Number(24, 2) +
                                                 Number(0) + Number(rowBytes * height) + std::string(16, '\0'));
-  const std::string sound = Chunk("strf", Number(1, 2) + Number(1, 2) + Number(kSoundRate) + Number(2 * kSoundRate) +
-                                              Number(2, 2) + Number(16, 2));
-  const std::string main = Chunk("avih", Number(40000) + Number(0) + Number(0) + Number(0x10) + Number(frames) +
-                                             Number(0) + Number(2) + Number(0) + Number(width) + Number(height) +
-                                             std::string(16, '\0'));
+  const std::string sound = Chunk(
+      "strf", Number(1, 2) + Number(1, 2) + Number(kSoundRate) + Number(2 * kSoundRate) + Number(2, 2) + Number(16, 2));
+  const std::string main =
+      Chunk("avih", Number(40000) + Number(0) + Number(0) + Number(0x10) + Number(frames) + Number(0) + Number(2) +
+                        Number(0) + Number(width) + Number(height) + std::string(16, '\0'));
   const std::string header = Chunk(
       "LIST", "hdrl" + main + Chunk("LIST", "strl" + StreamHeader("vids", 1, 25, frames, 0) + picture) +
                   Chunk("LIST", "strl" + StreamHeader("auds", 1, kSoundRate, frames * kSamplesPerFrame, 2) + sound));
@@ -192,8 +192,12 @@ TEST(VideoTrim, ReplacesItsOwnSourceAndNothingElse) {
 
   const std::string other = folder.Put("other.avi", "other");
   const std::string none = folder.Path("x.avi");
-  const TrimRequest refusals[] = {{own, other, 0, 0}, {own, other, 1, 2}, {own, none, 3, 2}, {own, none, 5, 0},
-                                  {folder.Path("none.avi"), none, 0, 0}, {own, folder.Path("nowhere/x.avi"), 1, 2}};
+  const TrimRequest refusals[] = {{own, other, 0, 0},
+                                  {own, other, 1, 2},
+                                  {own, none, 3, 2},
+                                  {own, none, 5, 0},
+                                  {folder.Path("none.avi"), none, 0, 0},
+                                  {own, folder.Path("nowhere/x.avi"), 1, 2}};
   for (const TrimRequest& refused : refusals)
     EXPECT_FALSE(TrimVideo(refused)) << refused.destination << " from " << refused.firstFrame;
   EXPECT_EQ(folder.Get("other.avi"), "other");
@@ -231,8 +235,8 @@ TEST(TrimCommand, IsOneTextOfSixFields) {
   ASSERT_TRUE(back);
   EXPECT_EQ(FormatTrimCommand(*back), text);
   EXPECT_EQ(ParseTrimCommand("a.avi*b.avi* 1 * 2 *30*0*")->lastFrame, 2);
-  for (const char* bad : {"", "*", "a*b*1*2*30*0", "a*b*1*2*30*1*", "a*b*-1*2*30*0*", "a*b*x*2*30*0*", "a*1*2*30*0*", "*b*1*2*30*0*",
-                          "a**1*2*30*0*", "a*b*1*99999999999*30*0*"})
+  for (const char* bad : {"", "*", "a*b*1*2*30*0", "a*b*1*2*30*1*", "a*b*-1*2*30*0*", "a*b*x*2*30*0*", "a*1*2*30*0*",
+                          "*b*1*2*30*0*", "a**1*2*30*0*", "a*b*1*99999999999*30*0*"})
     EXPECT_FALSE(ParseTrimCommand(bad)) << bad;
   // A star in a folder's name.
   TempFolder folder;

@@ -55,8 +55,8 @@ TEST(CopyPart, LeavesOutWhatLiesOutsideEither) {
   const Surface source = Noise(30, 20, 5);
   const struct {
     int x, y, width, height, toX, toY;
-  } cases[] = {{5, 4, 10, 8, 2, 3}, {-4, -2, 12, 9, 0, 0}, {25, 15, 20, 20, 1, 1},
-               {0, 0, 30, 20, -6, 14}, {0, 0, 9, 0, 0, 0}, {40, 2, 9, 9, 0, 0}};
+  } cases[] = {{5, 4, 10, 8, 2, 3},    {-4, -2, 12, 9, 0, 0}, {25, 15, 20, 20, 1, 1},
+               {0, 0, 30, 20, -6, 14}, {0, 0, 9, 0, 0, 0},    {40, 2, 9, 9, 0, 0}};
   const auto within = [](int x, int y, int width, int height) { return x >= 0 && x < width && y >= 0 && y < height; };
   for (const auto& part : cases) {
     const Surface before = Noise(24, 18, 6);
@@ -66,8 +66,10 @@ TEST(CopyPart, LeavesOutWhatLiesOutsideEither) {
       for (int x = 0; x < target.Width(); ++x) {
         const int right = x - part.toX;
         const int down = y - part.toY;
-        const bool copied = within(right, down, part.width, part.height) && within(right + part.x, down + part.y, 30, 20);
-        ASSERT_EQ(target.Pixel(x, y), copied ? source.Pixel(right + part.x, down + part.y) : before.Pixel(x, y)) << x << " " << y;
+        const bool copied =
+            within(right, down, part.width, part.height) && within(right + part.x, down + part.y, 30, 20);
+        ASSERT_EQ(target.Pixel(x, y), copied ? source.Pixel(right + part.x, down + part.y) : before.Pixel(x, y))
+            << x << " " << y;
       }
     }
   }

@@ -128,8 +128,12 @@ TEST(Canvas, DegenerateFiguresDrawALineOrADot) {
       EXPECT_EQ(touched([&] { return canvas.Polyline(same); }), dot);
       EXPECT_EQ(touched([&] { return canvas.Polygon(same); }), dot);
       EXPECT_EQ(touched([&] { return canvas.Ellipse(here, here); }), dot);
-      EXPECT_EQ(touched([&] { return canvas.Ellipse({5, 20}, {30, 20}); }),
-                touched([&] { return canvas.Line({5, 20}, {30, 20}); }));
+      EXPECT_EQ(touched([&] {
+                  return canvas.Ellipse({5, 20}, {30, 20});
+                }),
+                touched([&] {
+                  return canvas.Line({5, 20}, {30, 20});
+                }));
       EXPECT_TRUE(touched([&] { return canvas.Polyline({}); }).empty());
       EXPECT_TRUE(touched([&] { return canvas.Polyline(std::span(same).first(1)); }).empty());
       canvas.SetPen({kWhite, width, 5});
@@ -140,7 +144,8 @@ TEST(Canvas, DegenerateFiguresDrawALineOrADot) {
 
 TEST(Canvas, EllipsesTakeTheirCornersInAnyOrder) {
   for (const Rop2 mode : {Rop2::CopyPen, Rop2::MergePen}) {
-    for (const auto& [a, b] : {std::pair<POINTAPI, POINTAPI>{{10, 8}, {40, 28}}, {{40, 28}, {10, 8}}, {{40, 8}, {10, 28}}}) {
+    for (const auto& [a, b] :
+         {std::pair<POINTAPI, POINTAPI>{{10, 8}, {40, 28}}, {{40, 28}, {10, 8}}, {{40, 8}, {10, 28}}}) {
       Sheet sheet(50, 40, 1, mode);
       sheet.canvas.Ellipse(a, b);
       for (const auto& [x, y] : {std::pair{10, 18}, {40, 18}, {25, 8}, {25, 28}})

@@ -82,7 +82,8 @@ TEST(Layer, LeavesAloneWhatItDoesNotTouch) {
   const auto line = [](Canvas& canvas) { canvas.Line({0, 0}, {9, 9}); };
   Surface picture = Noise(50, 40, 9);
   const Surface before = picture;
-  const Layer empty[] = {Layer(), Layer::Record(50, 40, nothing), Layer::Record(50, 40, outside), Layer::Record(0, 40, line)};
+  const Layer empty[] = {Layer(), Layer::Record(50, 40, nothing), Layer::Record(50, 40, outside),
+                         Layer::Record(0, 40, line)};
   for (const Layer& layer : empty) {
     EXPECT_TRUE(layer.Empty());
     EXPECT_EQ(layer.Bytes(), 0u);

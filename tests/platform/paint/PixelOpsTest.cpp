@@ -23,7 +23,8 @@ Rows ToRows(const Surface& picture, int bitCount, bool bottomUp) {
   const int rowBytes = (picture.Width() * pixelBytes + 3) / 4 * 4;
   Rows result{std::vector<std::uint8_t>(static_cast<std::size_t>(rowBytes) * picture.Height(), 0x5A), {}};
   for (int y = 0; y < picture.Height(); ++y) {
-    std::uint8_t* row = result.bytes.data() + static_cast<std::size_t>(bottomUp ? picture.Height() - 1 - y : y) * rowBytes;
+    std::uint8_t* row =
+        result.bytes.data() + static_cast<std::size_t>(bottomUp ? picture.Height() - 1 - y : y) * rowBytes;
     for (int x = 0; x < picture.Width(); ++x) std::memcpy(row + x * pixelBytes, picture.Row(y) + x * 4, 3);
   }
   result.rows = {result.bytes.data(), picture.Width(), picture.Height(), rowBytes, bitCount, bottomUp};

@@ -19,7 +19,8 @@ struct PrinterTest : ::testing::Test {
     std::ifstream file(path, std::ios::binary);
     const std::string pdf(std::istreambuf_iterator<char>(file), {});
     int pages = 0;
-    for (std::size_t at = pdf.find("/Type /Page\n"); at != std::string::npos; at = pdf.find("/Type /Page\n", at + 1)) ++pages;
+    for (std::size_t at = pdf.find("/Type /Page\n"); at != std::string::npos; at = pdf.find("/Type /Page\n", at + 1))
+      ++pages;
     return pages;
   }
 

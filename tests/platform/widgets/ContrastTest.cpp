@@ -86,7 +86,8 @@ QList<Pair> PairsOfTheme(const Theme& t) {
     pairs.append({"heading", t.heading, ground});
     pairs.append({"faint, disabled", t.faint, ground});
   }
-  for (const QColor& ground : {t.accent, t.accentHover, t.accentPressed}) pairs.append({"accentText", t.accentText, ground});
+  for (const QColor& ground : {t.accent, t.accentHover, t.accentPressed})
+    pairs.append({"accentText", t.accentText, ground});
   pairs.append({"stageText", t.stageText, t.stage});
   pairs.append({"stageFrame", t.stageFrame, t.stage});
   return pairs;
