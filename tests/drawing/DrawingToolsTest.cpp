@@ -167,6 +167,18 @@ TEST(DrawingTools, RandomColoursStepButNotForPathsAndZones) {
   EXPECT_EQ(desk.workspace.button, 0) << "after twelve it begins again";
 }
 
+TEST(DrawingTools, AShapeBelongsToTheWindowOfItsFirstPress) {
+  Desk desk;
+  desk.tools.TakeTool(kLine);
+  desk.Click(10, 10, 2);
+  EXPECT_EQ(desk.workspace.active, 2);
+  desk.Move(300, 300, 1);
+  EXPECT_EQ(desk.List(2).Shapes[0].NumPts, 1) << "the mouse in another window moves nothing";
+  desk.Click(90, 90, 2);
+  EXPECT_TRUE(desk.List(2).Shapes[0].Locked);
+  EXPECT_EQ(desk.List(1).NumShapes, 0);
+}
+
 TEST(DrawingTools, DrawingsAreDeletedLastFirstOrAllAtOnce) {
   Desk desk;
   for (int i = 0; i < 3; ++i) desk.Draw(kFlag, {{i, i}});

@@ -23,6 +23,16 @@ TEST(ShapeGeometry, AnglesRunClockwiseFromTheRight) {
   EXPECT_NEAR(PointAngle(0, 0, 10, -10), 5.4977871, 1e-6);
 }
 
+TEST(ShapeGeometry, OnlyFinishedShapesMove) {
+  Shape line = Finished(kLine, {{1, 2}, {3, 4}});
+  kEngine.MoveShape(line, 10, -20);
+  const std::vector<POINTAPI> moved = {{11, -18}, {13, -16}, {}};
+  EXPECT_EQ(line.Pts, moved) << "the spare slot is no point";
+  line.Locked = false;
+  kEngine.MoveShape(line, 5, 5);
+  EXPECT_EQ(line.Pts, moved);
+}
+
 TEST(ShapeGeometry, ADragIsOneTransformFromWhereItBegan) {
   Shape line = Finished(kLine, {{100, 100}, {200, 100}});
   kEngine.PrepTrans(line);

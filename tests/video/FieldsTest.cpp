@@ -82,6 +82,21 @@ TEST(StrobeLayers, LayPosesOverTheStartPicture) {
   }
 }
 
+TEST(StrobeLayers, KeepAPoseOnlyWhereThePictureIsGround) {
+  // The ground is the mean of three of four pictures, without the one that lies furthest off.
+  constexpr int kRow = 8;
+  const auto row = [](int value) { return vector<std::uint8_t>(kRow * 5, static_cast<std::uint8_t>(value)); };
+  const auto ground = row(100), odd = row(200);
+  for (const auto& [pose, picture, kept] :
+       {std::tuple{200, 100, 200}, {200, 120, 200}, {200, 121, 121}, {120, 100, 100}}) {
+    auto sum = row(pose);
+    AddAgainstBackground({kRow, 5}, {ground.data(), odd.data(), ground.data(), ground.data()}, row(picture).data(),
+                         false, sum.data());
+    EXPECT_EQ(sum[kRow + 3], kept) << picture;
+    EXPECT_EQ(sum[kRow + 2], pose) << "the first pixel of a row stays";
+  }
+}
+
 // ---------------------------------------------------------------- in the player
 
 /// A white bar that walks over a dark ground: at x = 8n + 4 in frame n, 8 pixels wide.
