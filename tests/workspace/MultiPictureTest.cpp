@@ -3,12 +3,15 @@
 #include <gtest/gtest.h>
 
 #include "AnalysisStage.h"
+#include "support/Pictures.h"
 
 namespace kinalyx {
 namespace {
 
 using test::AnalysisStage;
+using test::LoadPicture;
 using test::RawVideo;
+using test::TestPath;
 
 class MultiPictureTest : public testing::Test {
  protected:
@@ -116,6 +119,15 @@ TEST_F(MultiPictureTest, ZoomAndPanMakeTheStripAnew) {
   stage_.Stage().SetZoom(1);
   stage_.host.Advance(0);
   EXPECT_EQ(Pictures(), (std::vector{21, 24, 27, 30, 33, 36, 39, 42, 45}));
+}
+
+TEST_F(MultiPictureTest, StripIsSaved) {
+  strip_.ToggleStrip();
+  EXPECT_FALSE(strip_.Shown());  // an empty window
+  Enter(40, 30, "3");
+  const std::string path = TestPath("strip.PNG");
+  EXPECT_TRUE(strip_.SavePicture(path));
+  EXPECT_EQ(LoadPicture(path).Width(), 9 * strip_.PictureWidth());
 }
 
 TEST(MultiPictureCell, LeavesTheTopToTheStrip) {
