@@ -152,6 +152,8 @@ TEST(AVIControl, FollowsItsSize) {
   player->DrawFrame(6);
   player->Resize(200, 150);
   EXPECT_EQ(player.Shown(), 6);
+}
+
 TEST(AVIControl, AStandInGivesWayToTheExactPicture) {
   TestVideo large = H264Video(120);
   large.format.width = 1280;
