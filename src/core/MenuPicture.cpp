@@ -76,7 +76,8 @@ void NextCaptionPosition(Settings& settings) {
 CaptionPlace PlaceOfCaption(std::int32_t position) {
   if (position == kPlaces) return {1, 1};
   const std::int32_t place = position < 1 || position > kPlaces ? 0 : position - 1;
-  return {place % kPlacesInRow / 4.0, place / kPlacesInRow / 2.0};
+  const int row = place / kPlacesInRow;
+  return {place % kPlacesInRow / 4.0, row / 2.0};
 }
 
 }  // namespace kinalyx

@@ -104,6 +104,37 @@ TEST_F(DatabaseTransfer, APlainFolderComesToTheChosenStudentAndWhatIsNoVideoIsNa
   EXPECT_FALSE(Exists("Bob/Gone"));
 }
 
+TEST_F(DatabaseTransfer, FilesAndFoldersOfATelephoneComeToOneStudent) {
+  for (const char* folder : {"DCIM/100", "DCIM/.thumbnails"}) fs::create_directories(drive.Path(folder));
+  drive.Put("DCIM/100/IMG_1.MOV", "portrait");
+  drive.Put("DCIM/100/IMG_1.MOV.ved", "1XXXSXXX");
+  drive.Put("DCIM/100/IMG_2.jpg", "a picture");
+  drive.Put("DCIM/.thumbnails/IMG_1.mp4", "hidden");
+  drive.Put("loose.mp4", "m");
+  const auto add = [&](const std::vector<std::string>& paths, const ImportTarget& target) {
+    return Run(&LibraryOperations::AddVideos, paths, target);
+  };
+  const std::string all = drive.Path("DCIM");
+  EXPECT_FALSE(add({all}, {"Bob", ""}).Done());
+  EXPECT_EQ(add({all, drive.Path("loose.mp4"), drive.Path("loose.mp4")}, {"Bob", "Sue"}).Status(),
+            "2 File(s) Imported successfully!");
+  EXPECT_EQ(Read("Bob/Sue/IMG_1.MOV.ved"), "1XXXSXXX");
+  EXPECT_EQ(Read("Bob/Sue/loose.mp4"), "m");
+  EXPECT_FALSE(Exists("Bob/Sue/IMG_2.jpg"));
+  EXPECT_FALSE(add({library.Path("Bob/Sue")}, {"Bob", "Sue"}).Done()) << "they are here already";
+
+  // A video of the same name in another format is another video.
+  library.File("Bob/Sue/IMG_1.avi", "a");
+  library.File("Bob/Sue/IMG_1.ved", "1XXXXNXX");
+  const LibraryVideo movie{"Bob", "Sue", library.Path("Bob/Sue/IMG_1.MOV")};
+  EXPECT_EQ(Ops().RenameVideo(movie, "Swing").video, "Swing \u00B7 MOV") << "Swing.avi is no MOV";
+  EXPECT_EQ(Read("Bob/Sue/Swing.MOV.ved"), "1XXXSXXX");
+  EXPECT_EQ(Read("Bob/Sue/IMG_1.ved"), "1XXXXNXX");
+  EXPECT_TRUE(Ops().DeleteVideo({"Bob", "Sue", library.Path("Bob/Sue/Swing.MOV")}).Done());
+  EXPECT_FALSE(Exists("Bob/Sue/Swing.MOV.ved"));
+  EXPECT_TRUE(Exists("Bob/Sue/Swing.avi"));
+}
+
 TEST_F(DatabaseTransfer, TheLibraryIsNoDriveOfItsOwn) {
   fs::create_directory_symlink(library.Root(), library.Root() + " link");
   for (const std::string& own : {library.Root(), library.Path("Bob"), library.Root() + " link"}) {

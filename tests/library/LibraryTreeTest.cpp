@@ -1,6 +1,7 @@
 #include "library/LibraryTree.h"
 
 #include "library/LibraryBrowser.h"
+#include "library/Sidecar.h"
 #include "library/TodayText.h"
 #include "library/VideoStats.h"
 #include "library/TempLibrary.h"
@@ -51,6 +52,21 @@ TEST_F(LibraryBrowserTest, ShowsEveryVideoUnderItsOwnFolderOnly) {
   browser.ChooseInstructor(99);
   EXPECT_EQ(browser.VideoPath(), "");
   EXPECT_TRUE(browser.VideoList().empty());
+}
+
+TEST_F(LibraryBrowserTest, ListsVideosOfEveryKindWithTheMarkOfTheirFormat) {
+  for (const char* name : {"Demo/Tom/swing.avi", "Demo/Tom/swing.mp4", "Demo/Tom/Żółw.MOV", "Demo/Tom/a.b.m2ts",
+                           "Demo/Tom/swing.mp4.ved", "Demo/Tom/.hidden.mp4", "Demo/Tom/letter.doc", "Demo/Tom/mp4"})
+    library.File(name);
+  browser.CapfolderSetup();
+  browser.ChooseInstructor(1);
+  ASSERT_TRUE(browser.SelectStudent("Tom"));
+  EXPECT_EQ(browser.VideoList(), (Names{"a.b \u00B7 M2TS", "swing", "swing \u00B7 MP4", "Żółw \u00B7 MOV"}));
+  ASSERT_TRUE(browser.SelectVideo("swing \u00B7 MP4"));
+  EXPECT_EQ(browser.VideoPath(), library.Path("Demo/Tom/swing.mp4"));
+  EXPECT_EQ(SidecarPath(library.Path("Demo/Tom/swing.avi")), library.Path("Demo/Tom/swing.ved"));
+  EXPECT_EQ(SidecarPath(library.Path("Demo/Tom/swing.mp4")), library.Path("Demo/Tom/swing.mp4.ved"));
+  EXPECT_EQ(SidecarPath(library.Path("Demo/Tom/a.b.m2ts")), library.Path("Demo/Tom/a.b.m2ts.ved"));
 }
 
 TEST_F(LibraryBrowserTest, OneListRestoresWhatAnotherChose) {

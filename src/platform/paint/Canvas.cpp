@@ -157,7 +157,7 @@ struct Canvas::Engine {
     return Paint(Reach({at.x, at.y, at.x, at.y}), [&](QPainter& on) {
       if (pen.width <= 2) {
         // A disc this small would come out as a shadow of a pixel, or not at all.
-        const double middle = mode == Rop2::CopyPen ? pen.width / 2.0 : pen.width / 2;
+        const double middle = mode == Rop2::CopyPen ? pen.width / 2.0 : std::floor(pen.width / 2.0);
         on.fillRect(QRectF(at.x - middle, at.y - middle, pen.width, pen.width), ToQt(pen.colour));
         return;
       }
