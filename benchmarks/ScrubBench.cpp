@@ -21,6 +21,7 @@
 
 #include "BareDecoder.h"
 #include "Bench.h"
+#include "support/TestVideos.h"
 #include "BenchPlayer.h"
 #include "PhoneClips.h"
 
@@ -44,7 +45,7 @@ void ForgetStandIns() {
 /// A video in a window, and somebody who hears of better pictures.
 class Window {
  public:
-  explicit Window(const std::string& path) : file_(VideoFile::Open(path).file) {
+  explicit Window(const std::string& path) : file_(test::OpenedVideo(path)) {
     if (!file_) throw std::runtime_error("cannot open " + path);
     file_->SetShownSize(kWindowWidth, kWindowHeight);
     file_->OnBetterPicture([this] {

@@ -10,11 +10,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t cou
   static const fuzz::InputFolder folder;
   SetPictureBudget(std::size_t{16} << 20);
   const auto opened = VideoFile::Open(folder.Write("x", bytes, count));
-  if (!opened.file) {
-    fuzz::Require(opened.fault != OpenFault::None && !opened.message.empty());
+  if (!opened) {
+    fuzz::Require(opened.Kind() != Fault::None && !opened.Why().empty());
     return 0;
   }
-  VideoFile& file = *opened.file;
+  VideoFile& file = **opened;
   const VideoInfo& info = file.Info();
   fuzz::Require(info.frameCount > 0 && info.width >= 0 && info.height >= 0);
   const int last = info.frameCount - 1;

@@ -87,13 +87,13 @@ bool AVIControl::Load(const std::string& FileName, bool SplitFields, bool Revers
   filename_ = path;
 
   auto opened = VideoFile::Open(path);
-  if (!opened.file) {
-    services_.host.Note(MessageKind::Warning, "a video could not be opened: " + opened.message);
-    setBackColor(opened.fault == OpenFault::NoFrames ? kRed : kYellow);
+  if (!opened) {
+    services_.host.Note(MessageKind::Warning, "a video could not be opened: " + opened.Why());
+    setBackColor(opened.Kind() == Fault::NoFrames ? kRed : kYellow);
     Unload();
     return false;
   }
-  VideoStream_ = std::move(opened.file);
+  VideoStream_ = std::move(*opened);
   VideoStream_->SetShownSize(ControlWidthPixels(), ControlHeightPixels());
   VideoStream_->OnBetterPicture([flag = hasBetter_] { *flag = true; });
   setBackColor(kBlack);

@@ -134,4 +134,9 @@ std::optional<int> ReadNumber(const FrameRows& rows, int field) {
   return number;
 }
 
+std::unique_ptr<VideoFile> OpenedVideo(const std::string& path) {
+  auto opened = VideoFile::Open(path);
+  return opened ? std::move(*opened) : nullptr;
+}
+
 }  // namespace kinalyx::test

@@ -39,4 +39,7 @@ void PaintTestPicture(const TestVideo& video, int number, std::vector<std::uint8
 /// `field` 0 or 1 reads only the rows of that field, counted from the top.
 std::optional<int> ReadNumber(const FrameRows& rows, int field = -1);
 
+/// The open video, or null.
+std::unique_ptr<VideoFile> OpenedVideo(const std::string& path);
+
 }  // namespace kinalyx::test

@@ -15,6 +15,9 @@ enum class Fault {
   Refused,     ///< by a rule, or by somebody else who is at it: another place would not help
   Unwritable,  ///< in this place; another may serve
   Cancelled,   ///< by the user
+  NotFound,    ///< there is no such file, or it cannot be read
+  NoMedia,     ///< the file holds nothing that can be decoded as a video stream
+  NoFrames,    ///< a video stream with not one picture
 };
 
 /// How an operation went: done, or not, and then why.
@@ -51,6 +54,8 @@ class [[nodiscard]] Result {
   T* operator->() { return &*value_; }
   const T* operator->() const { return &*value_; }
   Fault Kind() const { return outcome_.Kind(); }
+  /// Why there is nothing, to be handed on.
+  const Outcome& Failure() const { return outcome_; }
   const std::string& Why() const { return outcome_.Why(); }
 
  private:

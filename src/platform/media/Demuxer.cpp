@@ -81,12 +81,13 @@ int Probe(AVFormatContext& input) {
 
 }  // namespace
 
-std::unique_ptr<Demuxer> Demuxer::Open(const std::string& path, OpenFault& fault, std::string& message) {
+Result<std::unique_ptr<Demuxer>> Demuxer::Open(const std::string& path) {
   HearLibrary();
   std::unique_ptr<Demuxer> demuxer(new Demuxer);
-  auto file = FileInput::Open(path, message);
-  fault = file ? demuxer->OpenStream(std::move(file), message) : OpenFault::NotFound;
-  if (fault != OpenFault::None) return nullptr;
+  std::string refusal;
+  auto file = FileInput::Open(path, refusal);
+  if (!file) return Outcome(Fault::NotFound, refusal);
+  if (const Outcome opened = demuxer->OpenStream(std::move(file)); !opened) return opened;
   const PacketHandle first = demuxer->FirstPacket();
   demuxer->preamble_ = first ? std::make_shared<Preamble>(demuxer->Codec(), *first) : std::make_shared<Preamble>();
   if (first) demuxer->FindFields(*first);
@@ -94,19 +95,14 @@ std::unique_ptr<Demuxer> Demuxer::Open(const std::string& path, OpenFault& fault
     demuxer->chunksOfFrame_ = 1;
     demuxer->IndexByReading();
   }
-  if (demuxer->index_->FrameCount() < 1) {
-    fault = OpenFault::NoFrames;
-    message = "the video stream holds no picture";
-    return nullptr;
-  }
+  if (demuxer->index_->FrameCount() < 1) return Outcome(Fault::NoFrames, "the video stream holds no picture");
   return demuxer;
 }
 
 std::unique_ptr<Demuxer> Demuxer::Again() const {
   std::unique_ptr<Demuxer> demuxer(new Demuxer);
-  std::string ignored;
   auto file = file_->Again();
-  if (!file || demuxer->OpenStream(std::move(file), ignored, stream_) != OpenFault::None) return nullptr;
+  if (!file || !demuxer->OpenStream(std::move(file), stream_)) return nullptr;
   demuxer->index_ = index_;
   demuxer->preamble_ = preamble_;
   demuxer->landmarks_ = landmarks_;
@@ -116,18 +112,12 @@ std::unique_ptr<Demuxer> Demuxer::Again() const {
   return demuxer->Rewind() ? std::move(demuxer) : nullptr;
 }
 
-OpenFault Demuxer::OpenStream(std::unique_ptr<FileInput> file, std::string& message, const AVStream* known) {
+Outcome Demuxer::OpenStream(std::unique_ptr<FileInput> file, const AVStream* known) {
   file_ = std::move(file);
-  if (file_->Bytes() == 0) {
-    message = "the file is empty";
-    return OpenFault::NoFrames;
-  }
+  if (file_->Bytes() == 0) return Outcome(Fault::NoFrames, "the file is empty");
   int error = 0;
   input_ = file_->OpenContainer(kContainers, error);
-  if (!input_) {
-    message = WhyRefused(*file_, error);
-    return OpenFault::NoMedia;
-  }
+  if (!input_) return Outcome(Fault::NoMedia, WhyRefused(*file_, error));
   isAvi_ = OneOf("avi", input_->iformat->name);
 
   const auto saysEnough = [&] {
@@ -141,29 +131,23 @@ OpenFault Demuxer::OpenStream(std::unique_ptr<FileInput> file, std::string& mess
   // Before the pictures are looked into, which tell a shape of their own.
   const AVRational pixelOfContainer = found ? stream_->sample_aspect_ratio : AVRational{0, 1};
   if (found && known && stream_->index == known->index) {
-    if (avcodec_parameters_copy(stream_->codecpar, known->codecpar) < 0) return OpenFault::NoMedia;
+    if (avcodec_parameters_copy(stream_->codecpar, known->codecpar) < 0)
+      return Outcome(Fault::NoMedia, "the stream cannot be read");
   } else if (!found || !saysEnough()) {
-    if (const int probed = Probe(*input_); probed < 0) message = AvError(probed);
-    if (!FindStream()) {
-      message = "no video stream";
-      return OpenFault::NoMedia;
-    }
+    Probe(*input_);
+    if (!FindStream()) return Outcome(Fault::NoMedia, "no video stream");
   }
   const AVCodecParameters& codec = *stream_->codecpar;
-  if (!avcodec_find_decoder(codec.codec_id)) {
-    message = "no decoder for " + FourCC(codec);
-    return OpenFault::NoMedia;
-  }
-  if (!IsLikelySize({codec.width, codec.height})) {
-    message = "absurd picture size: " + std::to_string(codec.width) + " x " + std::to_string(codec.height);
-    return OpenFault::NoMedia;
-  }
+  if (!avcodec_find_decoder(codec.codec_id)) return Outcome(Fault::NoMedia, "no decoder for " + FourCC(codec));
+  if (!IsLikelySize({codec.width, codec.height}))
+    return Outcome(Fault::NoMedia,
+                   "absurd picture size: " + std::to_string(codec.width) + " x " + std::to_string(codec.height));
   FindShape(pixelOfContainer);
   FindPalette();
   // A program stream tells few times and makes up the rest, otherwise after a seek than before it.
   tellsTimes_ = !OneOf("mpeg", input_->iformat->name);
   tellsShowTimes_ = tellsTimes_ && !isAvi_ && !(input_->iformat->flags & AVFMT_NOTIMESTAMPS);
-  return OpenFault::None;
+  return Outcome();
 }
 
 /// Takes the first stream of moving pictures and passes over all others.

@@ -34,8 +34,8 @@ struct FrameTimes {
 /// are passed over unread where the container allows it.
 class Demuxer {
  public:
-  /// Opens a file and indexes it; null on a fault, which `fault` and `message` then tell.
-  static std::unique_ptr<Demuxer> Open(const std::string& path, OpenFault& fault, std::string& message);
+  /// Opens a file and indexes it. A failure is NotFound, NoMedia or NoFrames.
+  static Result<std::unique_ptr<Demuxer>> Open(const std::string& path);
 
   /// A second reader of the same file, at its beginning; it shares the index and asks the file for little
   /// else. Null when the file has gone.
@@ -63,7 +63,7 @@ class Demuxer {
  private:
   Demuxer() = default;
   /// `known` is the stream as an earlier reader of the file found it; null looks for it.
-  OpenFault OpenStream(std::unique_ptr<FileInput> file, std::string& message, const AVStream* known = nullptr);
+  Outcome OpenStream(std::unique_ptr<FileInput> file, const AVStream* known = nullptr);
   bool FindStream();
   void FindShape(AVRational pixelOfContainer);
   void DiscardOthers();

@@ -22,25 +22,23 @@ bool Has(const AVCodecDescriptor* descriptor, int property) { return descriptor 
 
 }  // namespace
 
-std::unique_ptr<PictureDecoder> PictureDecoder::Open(std::unique_ptr<Demuxer> demuxer, std::string& message) {
+Result<std::unique_ptr<PictureDecoder>> PictureDecoder::Open(std::unique_ptr<Demuxer> demuxer) {
   std::unique_ptr<PictureDecoder> decoder(new PictureDecoder);
   decoder->demuxer_ = std::move(demuxer);
   const Demuxer& source = *decoder->demuxer_;
   decoder->order_ = std::make_unique<ShowOrder>(source.Index(), source.Codec(), source.TellsShowTimes());
   decoder->readableEnd_ = source.Index().PictureCount();
-  if (!decoder->OpenCodec(message)) return nullptr;
+  if (const Outcome opened = decoder->OpenCodec(); !opened) return opened;
   return decoder;
 }
 
-bool PictureDecoder::OpenCodec(std::string& message) {
+Outcome PictureDecoder::OpenCodec() {
   const AVCodecParameters& parameters = demuxer_->Codec();
   const AVCodecDescriptor* descriptor = avcodec_descriptor_get(parameters.codec_id);
   const AVCodec* codec = avcodec_find_decoder(parameters.codec_id);
   CodecHandle context(codec ? avcodec_alloc_context3(codec) : nullptr);
-  if (!context || avcodec_parameters_to_context(context.get(), &parameters) < 0) {
-    message = "no decoder";
-    return false;
-  }
+  if (!context || avcodec_parameters_to_context(context.get(), &parameters) < 0)
+    return Outcome(Fault::NoMedia, "no decoder");
   standsAlone_ = Has(descriptor, AV_CODEC_PROP_INTRA_ONLY);
   // Pictures that stand for themselves come fast enough, and a thread would only delay them.
   const int processors = std::clamp(static_cast<int>(std::thread::hardware_concurrency()), 1, kMostThreads);
@@ -51,10 +49,8 @@ bool PictureDecoder::OpenCodec(std::string& message) {
   context->strict_std_compliance = FF_COMPLIANCE_STRICT;
   context->opaque = &complaints_;
   context->max_pixels = kMostPixels;
-  if (const int result = avcodec_open2(context.get(), codec, nullptr); result < 0) {
-    message = AvError(result);
-    return false;
-  }
+  if (const int result = avcodec_open2(context.get(), codec, nullptr); result < 0)
+    return Outcome(Fault::NoMedia, AvError(result));
   lag_ = Has(descriptor, AV_CODEC_PROP_REORDER) ? kReorderLag : 0;
   if (context->active_thread_type & FF_THREAD_FRAME && context->thread_count > 1) lag_ += context->thread_count;
   if (lag_ == 0 && codec->capabilities & AV_CODEC_CAP_DELAY) lag_ = 1;
@@ -68,18 +64,17 @@ bool PictureDecoder::OpenCodec(std::string& message) {
       if (avcodec_parameters_copy(filter->par_in, &parameters) < 0 || av_bsf_init(filter) < 0) filter_.reset();
     }
   }
-  return true;
+  return Outcome();
 }
 
 bool PictureDecoder::Start(int chunk) {
   running_ = false;
-  std::string ignored;
   // What is concealed looks like what was decoded last, before a flush too, or left out, or is in the hands of
   // another thread: a careful run shows what any decoder would that goes through the stream alone and in order.
   careful_ = carefulStarts_.contains(chunk);
   if (careful_ || wasCareful_) Stop();
   wasCareful_ = careful_;
-  if (!codec_ && !OpenCodec(ignored)) return false;
+  if (!codec_ && !OpenCodec()) return false;
   if (!demuxer_->Seek(Index().ChunkStart(chunk))) return false;
   avcodec_flush_buffers(codec_.get());
   if (filter_) av_bsf_flush(filter_.get());

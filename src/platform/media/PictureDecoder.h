@@ -27,7 +27,7 @@ class PictureDecoder {
   using Sink = std::function<void(int picture, FrameHandle frame)>;
 
   /// Null when there is no decoder for the stream; `message` then tells why.
-  static std::unique_ptr<PictureDecoder> Open(std::unique_ptr<Demuxer> demuxer, std::string& message);
+  static Result<std::unique_ptr<PictureDecoder>> Open(std::unique_ptr<Demuxer> demuxer);
 
   const Demuxer& Source() const { return *demuxer_; }
   const PictureIndex& Index() const { return demuxer_->Index(); }
@@ -62,7 +62,7 @@ class PictureDecoder {
 
  private:
   PictureDecoder() = default;
-  bool OpenCodec(std::string& message);
+  Outcome OpenCodec();
   std::optional<PlacedPacket> NextPlaced();
   bool Filter(AVPacket& packet);
   void Receive(const Sink& sink);

@@ -339,8 +339,9 @@ bool PictureSource::Advance(const Task& task, Decoded& decoded) {
   }
   if (task.back && !immediate_ && !backward_) {
     // Its own reader, so that the one that goes forward keeps its place.
-    std::string ignored;
-    if (auto demuxer = forward_->Source().Again()) backward_ = PictureDecoder::Open(std::move(demuxer), ignored);
+    auto demuxer = forward_->Source().Again();
+    if (demuxer)
+      if (auto opened = PictureDecoder::Open(std::move(demuxer))) backward_ = std::move(*opened);
   }
   PictureDecoder& decoder = DecoderFor(task);
   const int startChunk = decoder.StartChunkFor(task.target);

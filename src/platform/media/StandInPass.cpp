@@ -209,12 +209,12 @@ void StandInPass::Do(const Job& job) {
     return;
   }
   if (!decoder_) {
-    std::string ignored;
-    decoder_ = PictureDecoder::Open(std::move(source_), ignored);
-    if (!decoder_) {
+    auto opened = PictureDecoder::Open(std::move(source_));
+    if (!opened) {
       changed_ = true;
       return;
     }
+    decoder_ = std::move(*opened);
   }
   decoding_ = true;
   if (job.key) return DoKey(job.chunk);

@@ -110,20 +110,16 @@ PictureListener VideoFile::Engine::ListenerFor(bool withPass) {
 VideoFile::VideoFile(std::unique_ptr<Engine> engine) : engine_(std::move(engine)) {}
 VideoFile::~VideoFile() = default;
 
-VideoFile::Result VideoFile::Open(const std::string& path) {
-  Result result;
+Result<std::unique_ptr<VideoFile>> VideoFile::Open(const std::string& path) {
   const std::optional<FileStamp> stamp = StampOf(path);
-  auto demuxer = Demuxer::Open(path, result.fault, result.message);
-  if (!demuxer) return result;
-  auto decoder = PictureDecoder::Open(std::move(demuxer), result.message);
-  if (!decoder) {
-    result.fault = OpenFault::NoMedia;
-    return result;
-  }
+  auto demuxer = Demuxer::Open(path);
+  if (!demuxer) return demuxer.Failure();
+  auto decoder = PictureDecoder::Open(std::move(*demuxer));
+  if (!decoder) return decoder.Failure();
   // A file that changes while it is opened is no file to remember anything of.
   const bool still = stamp && StampOf(path) == stamp;
-  result.file.reset(new VideoFile(std::make_unique<Engine>(std::move(decoder), path, still ? stamp : std::nullopt)));
-  return result;
+  return std::unique_ptr<VideoFile>(
+      new VideoFile(std::make_unique<Engine>(std::move(*decoder), path, still ? stamp : std::nullopt)));
 }
 
 const VideoInfo& VideoFile::Info() const { return engine_->info; }
@@ -221,10 +217,8 @@ void VideoFile::SetShownSize(int width, int height) {
 }
 
 std::unique_ptr<VideoInfo> ReadVideoInfo(const std::string& path) {
-  OpenFault fault = OpenFault::None;
-  std::string message;
-  const auto demuxer = Demuxer::Open(path, fault, message);
-  return demuxer ? std::make_unique<VideoInfo>(demuxer->Describe()) : nullptr;
+  const auto demuxer = Demuxer::Open(path);
+  return demuxer ? std::make_unique<VideoInfo>((*demuxer)->Describe()) : nullptr;
 }
 
 }  // namespace kinalyx

@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 
+#include "platform/files/Result.h"
 #include "platform/media/VideoInfo.h"
 
 namespace kinalyx {
@@ -31,23 +32,15 @@ struct FrameAtHand {
   bool exact = false;  ///< the rows are what Frame gives; else a stand-in, to be seen and not measured
 };
 
-enum class OpenFault {
-  None,
-  NotFound,  ///< there is no such file, or it cannot be read
-  NoMedia,   ///< the file holds nothing that can be decoded as a video stream
-  NoFrames,  ///< a video stream with not one picture
-};
-
 /// One open video. Gives the picture of any frame number exactly, in any order: frame n is the nth
 /// picture that a decode from the start would show, whichever way it is reached. Decodes ahead on a
 /// worker of its own and keeps a bounded store of pictures; the memory budget is shared by all open
 /// files of the process. Used from one thread at a time.
 class VideoFile {
  public:
-  struct Result;
-
-  /// Opens a file and indexes its pictures. Never throws; see Result.
-  static Result Open(const std::string& path);
+  /// Opens a file and indexes its pictures. Never throws; a failure is NotFound, NoMedia or NoFrames, in the
+  /// words of the library for a log or a tip.
+  static Result<std::unique_ptr<VideoFile>> Open(const std::string& path);
   ~VideoFile();
   VideoFile(const VideoFile&) = delete;
   VideoFile& operator=(const VideoFile&) = delete;
@@ -84,12 +77,6 @@ class VideoFile {
   struct Engine;
   explicit VideoFile(std::unique_ptr<Engine> engine);
   std::unique_ptr<Engine> engine_;
-};
-
-struct VideoFile::Result {
-  std::unique_ptr<VideoFile> file;  ///< null on any fault
-  OpenFault fault = OpenFault::None;
-  std::string message;  ///< the library's own words, for a log or a tip
 };
 
 /// Only the properties, without a worker or a picture; nothing when the file is no video.

@@ -179,9 +179,9 @@ Result<TrimmedVideo> Trimmer::Run() {
 }
 
 bool Trimmer::Cut() {
-  OpenFault fault = OpenFault::None;
-  demuxer_ = Demuxer::Open(request_.source, fault, message_);
-  if (!demuxer_) return false;
+  auto opened = Demuxer::Open(request_.source);
+  if (!opened) return Fail(opened.Why());
+  demuxer_ = std::move(*opened);
   index_ = &demuxer_->Index();
   info_ = demuxer_->Describe();
   if (!ChooseFrames() || !ChooseTarget()) return false;
@@ -298,9 +298,10 @@ bool Trimmer::CodePictures() {
   const AVCodecID id = demuxer_->Codec().codec_id;
   const AVRational pixelShape = demuxer_->Codec().sample_aspect_ratio;
   auto reader = demuxer_->Again();
-  auto decoder = reader ? PictureDecoder::Open(std::move(reader), message_) : nullptr;
-  if (!decoder) return Fail(message_.empty() ? "the file has gone" : message_);
-  PictureSource source(std::move(decoder));
+  if (!reader) return Fail("the file has gone");
+  auto decoder = PictureDecoder::Open(std::move(reader));
+  if (!decoder) return Fail(decoder.Why());
+  PictureSource source(std::move(*decoder));
   CodecHandle codec;
   std::optional<PictureFitter> fitter;
   for (int frame = 0; frame < count_; ++frame) {

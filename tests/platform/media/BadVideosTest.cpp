@@ -50,7 +50,7 @@ TEST(BadVideos, WhatTheLibrarySaysOfThemGoesToTheLog) {
   const TempFolder folder;
   Log log(folder.Path("kinalyx.log"));
   SetMediaLog(&log);
-  if (const auto file = VideoFile::Open(path).file) file->Frame(1, 24);
+  if (const auto file = OpenedVideo(path)) file->Frame(1, 24);
   SetMediaLog(nullptr);
   ASSERT_TRUE(log.Flush(20000));
   const std::string text = folder.Get("kinalyx.log");
@@ -63,20 +63,20 @@ TEST(BadVideos, AreRefusedWithTheirReason) {
   std::string sound = avi;  // a sound file in the same container
   for (std::size_t at = sound.find("vids"); at != std::string::npos; at = sound.find("vids", at))
     sound.replace(at, 4, "auds");
-  const std::pair<std::string, OpenFault> cases[] = {
-      {TestPath("nowhere.avi"), OpenFault::NotFound},
-      {TestPath(""), OpenFault::NotFound},
-      {"/dev/zero", OpenFault::NotFound},
-      {FileWith("empty.avi", ""), OpenFault::NoFrames},
-      {FileWith("header.avi", avi.substr(0, avi.find("movi") + 4)), OpenFault::NoFrames},
-      {FileWith("text.avi", std::string(5000, 'x')), OpenFault::NoMedia},
-      {FileWith("list.avi", "#EXTM3U\n#EXTINF:1,\n/etc/hostname\n"), OpenFault::NoMedia},
-      {FileWith("riff.avi", avi.substr(0, 40)), OpenFault::NoMedia},
-      {FileWith("sound.avi", sound), OpenFault::NoMedia}};
+  const std::pair<std::string, Fault> cases[] = {
+      {TestPath("nowhere.avi"), Fault::NotFound},
+      {TestPath(""), Fault::NotFound},
+      {"/dev/zero", Fault::NotFound},
+      {FileWith("empty.avi", ""), Fault::NoFrames},
+      {FileWith("header.avi", avi.substr(0, avi.find("movi") + 4)), Fault::NoFrames},
+      {FileWith("text.avi", std::string(5000, 'x')), Fault::NoMedia},
+      {FileWith("list.avi", "#EXTM3U\n#EXTINF:1,\n/etc/hostname\n"), Fault::NoMedia},
+      {FileWith("riff.avi", avi.substr(0, 40)), Fault::NoMedia},
+      {FileWith("sound.avi", sound), Fault::NoMedia}};
   for (const auto& [path, fault] : cases) {
     const auto result = VideoFile::Open(path);
-    EXPECT_EQ(result.fault, fault) << path;
-    EXPECT_FALSE(result.file || result.message.empty()) << path;
+    EXPECT_EQ(result.Kind(), fault) << path;
+    EXPECT_FALSE(result || result.Why().empty()) << path;
     EXPECT_FALSE(ReadVideoInfo(path)) << path;
   }
 }
@@ -85,7 +85,7 @@ TEST(BadVideos, CutInTheMiddleShowWhatIsLeft) {
   for (const TestVideo& video : {MjpegVideo(60), H264Video(300), DvVideo(24), RawVideo(40)}) {
     const std::string avi = BytesOf(MakeTestVideo(video));
     const std::string path = FileWith("cut.avi", avi.substr(0, avi.size() / 2));
-    const auto file = VideoFile::Open(path).file;
+    const auto file = OpenedVideo(path);
     ASSERT_TRUE(file);
     const int frames = file->Info().frameCount;
     EXPECT_GT(frames, video.frames / 8);
@@ -102,7 +102,7 @@ TEST(BadVideos, ADamagedPacketShowsThePictureBefore) {
   std::string avi = BytesOf(MakeTestVideo(MjpegVideo(60)));
   const auto chunks = ChunksOf(avi, 20);
   for (std::size_t n = 10; n < 13; ++n) std::memset(avi.data() + chunks[n] + 8, 0, WordAt(avi, chunks[n] + 4));
-  const auto file = VideoFile::Open(FileWith("damaged.avi", avi)).file;
+  const auto file = OpenedVideo(FileWith("damaged.avi", avi));
   ASSERT_TRUE(file);
   ASSERT_EQ(file->Info().frameCount, 60);
   for (const int n : {9, 10, 11, 12, 13, 12, 11, 40, 12})
@@ -112,7 +112,7 @@ TEST(BadVideos, ADamagedPacketShowsThePictureBefore) {
 TEST(BadVideos, WithNoGoodPacketShowNothing) {
   std::string avi = BytesOf(MakeTestVideo(MjpegVideo(60)));
   for (const std::size_t chunk : ChunksOf(avi, 59)) std::memset(avi.data() + chunk + 8, 1, WordAt(avi, chunk + 4));
-  const auto file = VideoFile::Open(FileWith("rubble.avi", avi)).file;
+  const auto file = OpenedVideo(FileWith("rubble.avi", avi));
   ASSERT_TRUE(file);
   EXPECT_EQ(file->Info().frameCount, 60);
   for (const int n : {0, 59, 30, 2}) EXPECT_FALSE(file->Frame(n, 24));
@@ -155,7 +155,7 @@ TEST(BadVideos, OfAnyKindOfDamageDoNoHarm) {
         damaged[random() % reach] = static_cast<char>(random());
       }
       if (round % 4 == 3) damaged.resize(random() % damaged.size());
-      const auto file = VideoFile::Open(FileWith("any.avi", damaged)).file;
+      const auto file = OpenedVideo(FileWith("any.avi", damaged));
       if (!file) continue;
       const int frames = file->Info().frameCount;
       for (const int n : {0, frames - 1, frames / 2, frames / 2 - 1, 0}) file->Frame(n, 24);
@@ -170,24 +170,24 @@ TEST(BadVideos, OfEveryContainerAreRefusedWithAWordOrShowWhatIsLeft) {
     for (const std::size_t part : {std::size_t{1}, std::size_t{50}, size / 3, size / 2, size - 1}) {
       SCOPED_TRACE(testing::Message() << part << " bytes of " << name);
       const auto result = VideoFile::Open(FileWith(name, whole.substr(0, part)));
-      if (!result.file) {
-        EXPECT_NE(result.fault, OpenFault::None);
-        EXPECT_FALSE(result.message.empty());
+      if (!result) {
+        EXPECT_NE(result.Kind(), Fault::None);
+        EXPECT_FALSE(result.Why().empty());
         continue;
       }
-      const int frames = result.file->Info().frameCount;
+      const int frames = (*result)->Info().frameCount;
       EXPECT_TRUE(frames > 0 && frames <= 30) << frames;
-      EXPECT_EQ(ReadNumber(result.file->Frame(0, 24)), 0);
-      result.file->Frame(frames - 1, 24);
+      EXPECT_EQ(ReadNumber((*result)->Frame(0, 24)), 0);
+      (*result)->Frame(frames - 1, 24);
     }
-    EXPECT_EQ(VideoFile::Open(FileWith(name, std::string(3000, 'x'))).fault, OpenFault::NoMedia) << name;
-    EXPECT_EQ(VideoFile::Open(FileWith(name, "")).fault, OpenFault::NoFrames) << name;
+    EXPECT_EQ(VideoFile::Open(FileWith(name, std::string(3000, 'x'))).Kind(), Fault::NoMedia) << name;
+    EXPECT_EQ(VideoFile::Open(FileWith(name, "")).Kind(), Fault::NoFrames) << name;
   }
   // A telephone that died: all pictures are there, and nothing tells where.
   const auto& [name, whole] = films.front();
   const auto cut = VideoFile::Open(FileWith(name, whole.substr(0, whole.size() / 2)));
-  EXPECT_EQ(cut.fault, OpenFault::NoMedia);
-  EXPECT_NE(cut.message.find("cut off"), std::string::npos) << cut.message;
+  EXPECT_EQ(cut.Kind(), Fault::NoMedia);
+  EXPECT_NE(cut.Why().find("cut off"), std::string::npos) << cut.Why();
 }
 
 /// A film in which a box of four letters says something else: `value` stands `offset` bytes behind the letters.
@@ -224,12 +224,12 @@ TEST(BadVideos, AnIndexThatLiesNeitherHangsNorTakesTheMemory) {
     for (const std::uint32_t value : {0u, 1u, 0x7FFFFFFFu, 0xFFFFFFFFu, 50000000u}) {
       SCOPED_TRACE(testing::Message() << lie.box << " + " << lie.offset << " = " << value);
       const auto result = VideoFile::Open(FileWith("lie.mp4", WithLie(honest, lie.box, lie.offset, value)));
-      EXPECT_TRUE(result.file || !result.message.empty());
-      if (!result.file) continue;
-      const int last = result.file->Info().frameCount - 1;
+      EXPECT_TRUE(result || !result.Why().empty());
+      if (!result) continue;
+      const int last = (*result)->Info().frameCount - 1;
       for (const int n : {0, last, last / 2}) {
-        result.file->Frame(n, 24);
-        EXPECT_TRUE(std::isfinite(result.file->SampleToTime(n)));
+        (*result)->Frame(n, 24);
+        EXPECT_TRUE(std::isfinite((*result)->SampleToTime(n)));
       }
     }
   }
@@ -238,15 +238,15 @@ TEST(BadVideos, AnIndexThatLiesNeitherHangsNorTakesTheMemory) {
   const std::uint32_t columns = 65535;
   std::memcpy(wide.data() + wide.find("strf") + 12, &columns, 4);
   const auto refused = VideoFile::Open(FileWith("wide.avi", wide));
-  EXPECT_EQ(refused.fault, OpenFault::NoMedia);
-  EXPECT_NE(refused.message.find("65535"), std::string::npos) << refused.message;
+  EXPECT_EQ(refused.Kind(), Fault::NoMedia);
+  EXPECT_NE(refused.Why().find("65535"), std::string::npos) << refused.Why();
 }
 
 TEST(BadVideos, MayVanishWhileOpen) {
   const std::string source = MakeTestVideo(H264Video(300));
   const std::string path = TestPath("vanishing.avi");
   fs::copy_file(source, path, fs::copy_options::overwrite_existing);
-  const auto file = VideoFile::Open(path).file;
+  const auto file = OpenedVideo(path);
   ASSERT_TRUE(file);
   ASSERT_EQ(ReadNumber(file->Frame(20, 24)), 20);
   fs::remove(path);
@@ -254,7 +254,7 @@ TEST(BadVideos, MayVanishWhileOpen) {
 
   // Cut off under our hands, as by a copy over it: what is read no more shows what could be read.
   fs::copy_file(source, path, fs::copy_options::overwrite_existing);
-  const auto cut = VideoFile::Open(path).file;
+  const auto cut = OpenedVideo(path);
   ASSERT_TRUE(cut);
   fs::resize_file(path, fs::file_size(path) / 3);
   const FrameRows last = cut->Frame(299, 24);
@@ -288,7 +288,7 @@ std::string WithEmptyChunks(const std::vector<int>& pictures) {
 TEST(BadVideos, FramesLeftOutRepeatTheOneBefore) {
   // A capture that lost frames stores empty chunks in their place.
   const std::vector<int> pictures = {0, 1, 2, -1, -1, 3, 4, 5, 6, -1, 7, 8, 9, 10, 11, -1};
-  const auto file = VideoFile::Open(FileWith("dropped.avi", WithEmptyChunks(pictures))).file;
+  const auto file = OpenedVideo(FileWith("dropped.avi", WithEmptyChunks(pictures)));
   ASSERT_TRUE(file);
   ASSERT_EQ(file->Info().frameCount, 16);
   const int shown[] = {0, 1, 2, 2, 2, 3, 4, 5, 6, 6, 7, 8, 9, 10, 11, 11};
@@ -298,7 +298,7 @@ TEST(BadVideos, FramesLeftOutRepeatTheOneBefore) {
 TEST(BadVideos, AnEmptyChunkBehindEveryPictureIsNoFrame) {
   std::vector<int> pictures;
   for (int n = 0; n < 12; ++n) pictures.insert(pictures.end(), {n, -1});
-  const auto file = VideoFile::Open(FileWith("doubled.avi", WithEmptyChunks(pictures))).file;
+  const auto file = OpenedVideo(FileWith("doubled.avi", WithEmptyChunks(pictures)));
   ASSERT_TRUE(file);
   ASSERT_EQ(file->Info().frameCount, 12);
   EXPECT_EQ(file->Info().rate / file->Info().scale, 15);

@@ -53,7 +53,7 @@ std::vector<Rgb> ShownPatches(Film film, const std::vector<std::array<int, 3>>& 
   film.paint = [&](AVFrame& frame, int) { PaintPatches(frame, patches); };
   const std::string path = TestPath(film.name);
   MakeFilm(film, path);
-  const auto file = VideoFile::Open(path).file;
+  const auto file = OpenedVideo(path);
   std::vector<Rgb> shown;
   if (!file) return shown;
   const FrameRows rows = file->Frame(1, 24);
@@ -185,7 +185,7 @@ TEST(Colours, EachFieldKeepsItsOwn) {
       };
       SCOPED_TRACE(testing::Message() << film);
       MakeFilm(film, TestPath(film.name));
-      const auto file = VideoFile::Open(TestPath(film.name)).file;
+      const auto file = OpenedVideo(TestPath(film.name));
       ASSERT_TRUE(file);
       EXPECT_TRUE(file->Info().interlaced);
       EXPECT_EQ(file->Info().topFieldFirst, topFirst);

@@ -68,7 +68,7 @@ void ExpectBecomesExact(VideoFile& file, Listener& listener, int n) {
 }
 
 TEST(FrameNow, GivesWhatThereIsAndTellsWhenTheExactPictureHasCome) {
-  const auto file = VideoFile::Open(MakeTestVideo(LongGop(500))).file;
+  const auto file = OpenedVideo(MakeTestVideo(LongGop(500)));
   ASSERT_TRUE(file);
   Listener listener;
   file->OnBetterPicture([&] { listener.Hear(); });
@@ -121,7 +121,7 @@ class Cache {
 
 TEST(FrameNow, HasEveryFrameAtHandAfterThePassAndReplacesItByTheExactOne) {
   const Cache cache;
-  const auto file = VideoFile::Open(MakeTestVideo(Large(200))).file;
+  const auto file = OpenedVideo(MakeTestVideo(Large(200)));
   ASSERT_TRUE(file);
   Listener listener;
   file->OnBetterPicture([&] { listener.Hear(); });
@@ -140,7 +140,7 @@ TEST(FrameNow, HasEveryFrameAtHandAfterThePassAndReplacesItByTheExactOne) {
 
 TEST(FrameNow, GoesBackThroughAVideoThatHasJustBeenOpened) {
   const Cache cache;
-  const auto file = VideoFile::Open(MakeTestVideo(Large(200))).file;
+  const auto file = OpenedVideo(MakeTestVideo(Large(200)));
   ASSERT_TRUE(file);
   Listener listener;
   file->OnBetterPicture([&] { listener.Hear(); });
@@ -161,7 +161,7 @@ TEST(FrameNow, RemembersAVideoAndTrustsNothingThatIsDamaged) {
   const std::string path = TestPath("remembered.avi");
   std::filesystem::copy_file(MakeTestVideo(Large(200)), path, std::filesystem::copy_options::overwrite_existing);
   {
-    const auto file = VideoFile::Open(path).file;
+    const auto file = OpenedVideo(path);
     ASSERT_TRUE(file);
     ASSERT_NO_FATAL_FAILURE(WaitForPass(*file));
   }
@@ -176,7 +176,7 @@ TEST(FrameNow, RemembersAVideoAndTrustsNothingThatIsDamaged) {
     }
   }
   {
-    const auto file = VideoFile::Open(path).file;
+    const auto file = OpenedVideo(path);
     ASSERT_TRUE(file);
     Listener listener;
     file->OnBetterPicture([&] { listener.Hear(); });
@@ -187,7 +187,7 @@ TEST(FrameNow, RemembersAVideoAndTrustsNothingThatIsDamaged) {
   TestVideo other = Large(150);
   other.format.keyInterval = 250;
   std::filesystem::copy_file(MakeTestVideo(other), path, std::filesystem::copy_options::overwrite_existing);
-  const auto file = VideoFile::Open(path).file;
+  const auto file = OpenedVideo(path);
   ASSERT_TRUE(file);
   ASSERT_NO_FATAL_FAILURE(WaitForPass(*file));
   ASSERT_NO_FATAL_FAILURE(ExpectAllAtHand(*file, 150));
@@ -197,7 +197,7 @@ TEST(FrameNow, EightVideosCloseInTheMiddleOfTheirPasses) {
   const Cache cache;
   const Budget budget(2 << 20);
   std::vector<std::unique_ptr<VideoFile>> files;
-  for (int i = 0; i < 8; ++i) files.push_back(VideoFile::Open(MakeTestVideo(Large(200))).file);
+  for (int i = 0; i < 8; ++i) files.push_back(OpenedVideo(MakeTestVideo(Large(200))));
   std::mt19937 random(9);
   for (int round = 0; !files.empty(); ++round) {
     for (const auto& file : files) {

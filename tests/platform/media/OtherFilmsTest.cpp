@@ -19,8 +19,8 @@ TEST_P(OtherFilms, GiveEveryFrameWhicheverWayItIsReached) {
   MakeFilm(film, path);
   if (HasFatalFailure() || IsSkipped()) return;
   const auto opened = VideoFile::Open(path);
-  ASSERT_TRUE(opened.file) << opened.message;
-  VideoFile& file = *opened.file;
+  ASSERT_TRUE(opened) << opened.Why();
+  VideoFile& file = **opened;
   ASSERT_EQ(file.Info().frameCount, film.frames);
   EXPECT_EQ(file.Info().hasSound, film.sound);
   const auto expect = [&](int n) { ASSERT_EQ(ReadNumber(file.Frame(n, 24)), n); };
@@ -53,9 +53,9 @@ TEST(OtherFilms, OfEightBitsHaveTheirColoursWhereverTheyAreEntered) {
   MakeFilm({"palette.avi", "rawvideo", 20, 1, 0}, path);
   if (HasFatalFailure()) return;
   const auto opened = VideoFile::Open(path);
-  ASSERT_TRUE(opened.file) << opened.message;
+  ASSERT_TRUE(opened) << opened.Why();
   for (const int n : {13, 0, 19, 1, 5, 4}) {
-    const FrameRows rows = opened.file->Frame(n, 24);
+    const FrameRows rows = (*opened)->Frame(n, 24);
     ASSERT_TRUE(rows);
     const std::uint8_t* pixel = rows.bits + 5 * rows.rowBytes + 3 * 7;
     EXPECT_EQ(pixel[0], n);
@@ -74,9 +74,9 @@ TEST(OtherFilms, AreKnownByTheirContentWhateverTheirNameSays) {
     MakeFilm(film, TestPath(film.name));
     std::filesystem::rename(TestPath(film.name), TestPath(other));
     const auto opened = VideoFile::Open(TestPath(other));
-    ASSERT_TRUE(opened.file) << other << ": " << opened.message;
-    EXPECT_EQ(opened.file->Info().frameCount, 10) << other;
-    EXPECT_EQ(ReadNumber(opened.file->Frame(7, 24)), 7) << other;
+    ASSERT_TRUE(opened) << other << ": " << opened.Why();
+    EXPECT_EQ((*opened)->Info().frameCount, 10) << other;
+    EXPECT_EQ(ReadNumber((*opened)->Frame(7, 24)), 7) << other;
   }
 }
 

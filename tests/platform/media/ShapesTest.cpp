@@ -43,7 +43,7 @@ Film FilmOf(const std::string& name, AVPixelFormat format) {
 std::unique_ptr<VideoFile> OpenFilm(const Film& film) {
   const std::string path = TestPath(film.name);
   MakeFilm(film, path);
-  return VideoFile::Open(path).file;
+  return OpenedVideo(path);
 }
 
 const std::uint8_t* PixelOf(const FrameRows& rows, int x, int y) {

@@ -16,8 +16,8 @@ namespace {
 /// Whichever way a frame is reached, it is what the bare library shows in its place, decoding from the start.
 void ExpectAsStraight(const std::string& path) {
   const auto opened = VideoFile::Open(path);
-  ASSERT_TRUE(opened.file) << opened.message;
-  VideoFile& file = *opened.file;
+  ASSERT_TRUE(opened) << opened.Why();
+  VideoFile& file = **opened;
   const auto straight = DecodeStraight(path);
   const int frames = file.Info().frameCount;
   ASSERT_EQ(static_cast<std::size_t>(frames), straight.size());
@@ -138,13 +138,11 @@ TEST(Straight, AStreamWithoutTimesIsNotReadFromItsStartForEveryJump) {
   for (const Film& film : {Film{"long.mpg", "mpeg2video", 120, 12, 2}, Film{"long.m2v", "mpeg2video", 120, 12, 2}}) {
     SCOPED_TRACE(testing::Message() << film);
     MakeFilm(film, TestPath(film.name));
-    OpenFault fault = OpenFault::None;
-    std::string message;
-    const auto demuxer = Demuxer::Open(TestPath(film.name), fault, message);
-    ASSERT_TRUE(demuxer) << message;
-    ASSERT_TRUE(demuxer->Seek(100));
+    const auto demuxer = Demuxer::Open(TestPath(film.name));
+    ASSERT_TRUE(demuxer) << demuxer.Why();
+    ASSERT_TRUE((*demuxer)->Seek(100));
     const PacketHandle packet = NewPacket();
-    const int first = demuxer->Read(*packet);
+    const int first = (*demuxer)->Read(*packet);
     EXPECT_TRUE(first > 60 && first <= 100) << first;
     ExpectAsStraight(TestPath(film.name));
   }
@@ -176,7 +174,7 @@ TEST(Straight, WhatAnEditOfTheFilmHidesIsNoFrame) {
   film.time = [](int n) { return (n - 13) * 40; };
   film.muxing = "avoid_negative_ts=disabled";
   MakeFilm(film, TestPath(film.name));
-  const auto file = VideoFile::Open(TestPath(film.name)).file;
+  const auto file = OpenedVideo(TestPath(film.name));
   ASSERT_TRUE(file);
   EXPECT_EQ(file->Info().frameCount, 90 - 13);
   EXPECT_EQ(ReadNumber(file->Frame(0, 24)), 13);

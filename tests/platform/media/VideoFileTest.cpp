@@ -20,7 +20,7 @@ class Budget {
   ~Budget() { SetPictureBudget(std::size_t{256} << 20); }
 };
 
-std::unique_ptr<VideoFile> OpenTestVideo(const TestVideo& video) { return VideoFile::Open(MakeTestVideo(video)).file; }
+std::unique_ptr<VideoFile> OpenTestVideo(const TestVideo& video) { return OpenedVideo(MakeTestVideo(video)); }
 
 std::uint64_t Fingerprint(const FrameRows& rows) {
   std::uint64_t sum = 14695981039346656037u;
@@ -159,7 +159,7 @@ TEST(VideoFile, CodecsKeepTheColours) {
     }
     for (int n = 0; n < 3; ++n) ASSERT_TRUE((*writer)->Write({rows.data(), 720, 480, 720 * 3, 24, false}));
     ASSERT_TRUE((*writer)->Close());
-    const auto file = VideoFile::Open(path).file;
+    const auto file = OpenedVideo(path);
     ASSERT_TRUE(file);
     const FrameRows shown = file->Frame(2, 24);
     ASSERT_TRUE(shown);
@@ -177,8 +177,8 @@ TEST(VideoFile, OpensFilesUnderAnyName) {
     const std::string path = TestPath(name);
     std::filesystem::copy_file(source, path, std::filesystem::copy_options::overwrite_existing);
     const auto opened = VideoFile::Open(path);
-    ASSERT_TRUE(opened.file) << name << ": " << opened.message;
-    EXPECT_EQ(ReadNumber(opened.file->Frame(59, 24)), 59) << name;
+    ASSERT_TRUE(opened) << name << ": " << opened.Why();
+    EXPECT_EQ(ReadNumber((*opened)->Frame(59, 24)), 59) << name;
   }
 }
 

@@ -105,7 +105,7 @@ std::vector<std::int16_t> SoundOf(const std::string& path) {
 /// The numbers that the pictures of a video carry; -1 for one that cannot be read.
 std::vector<int> NumbersOf(const std::string& path, int field = -1) {
   std::vector<int> numbers;
-  const auto file = VideoFile::Open(path).file;
+  const auto file = OpenedVideo(path);
   for (int n = 0; file && n < file->Info().frameCount; ++n)
     numbers.push_back(ReadNumber(file->Frame(n, 24), field).value_or(-1));
   return numbers;
