@@ -4,6 +4,7 @@
 #include <atomic>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <string>
 
 #include "platform/media/TrimCommand.h"
@@ -22,7 +23,8 @@ constexpr char kHelp[] =
     "  FIRST, LAST  frames, counted from 0; both belong to the cut; a LAST of 0 is the end of the video\n"
     "  RATE         pictures per second, for a source that does not tell its own\n"
     "  MODE         0 copies the pictures where the cut allows it, 2 codes them anew\n\n"
-    "The destination is an AVI file. It may be the source itself; any other file is left alone.\n"
+    "The destination is a file of the same kind, or an AVI file where its name says so. It may be the source\n"
+    "itself; any other file is left alone.\n"
     "Prints the percentage that is done, line by line. Result: 0 done, 1 failed, 2 wrong command line,\n"
     "3 stopped by a signal; the destination is then as it was before.\n";
 
@@ -38,6 +40,7 @@ int main(int count, char** arguments) {
     return command == "--help" ? kDone : kUsage;
   }
 
+  ::setenv("SVT_LOG", "1", 0);  // one of the encoders tells its settings where only errors belong
   std::signal(SIGTERM, [](int) { stopped = true; });
   std::signal(SIGINT, [](int) { stopped = true; });
   std::signal(SIGPIPE, SIG_IGN);  // the work is finished although nobody reads how far it is

@@ -112,6 +112,14 @@ std::unique_ptr<Demuxer> Demuxer::Again() const {
   return demuxer->Rewind() ? std::move(demuxer) : nullptr;
 }
 
+InputHandle Demuxer::OpenOthers(std::unique_ptr<FileInput>& file) const {
+  file = file_->Again();
+  int error = 0;
+  InputHandle input = file ? file->OpenContainer(kContainers, error) : nullptr;
+  if (!input || Probe(*input) < 0) return nullptr;
+  return input;
+}
+
 Outcome Demuxer::OpenStream(std::unique_ptr<FileInput> file, const AVStream* known) {
   file_ = std::move(file);
   if (file_->Bytes() == 0) return Outcome(Fault::NoFrames, "the file is empty");

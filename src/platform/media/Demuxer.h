@@ -43,6 +43,12 @@ class Demuxer {
 
   const PictureIndex& Index() const { return *index_; }
   const AVCodecParameters& Codec() const { return *stream_->codecpar; }
+  /// The container and our stream of it as the library found them.
+  const AVFormatContext& Container() const { return *input_; }
+  const AVStream& Stream() const { return *stream_; }
+  /// The file once more, at its beginning, for its other streams; it is read through `file`, which must outlive it.
+  /// Null when that cannot be.
+  InputHandle OpenOthers(std::unique_ptr<FileInput>& file) const;
   /// What the file tells of itself.
   VideoInfo Describe() const;
   FrameTimes Times() const;

@@ -6,8 +6,6 @@
 namespace kinalyx {
 namespace {
 
-/// No stream shows a picture more than this many packets after or before its place in the file.
-constexpr std::size_t kReach = 16;
 /// Room between two anchor pictures for those shown between them.
 constexpr std::int64_t kAnchorStep = 1 << 20;
 

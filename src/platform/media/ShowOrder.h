@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <deque>
 #include <optional>
@@ -22,6 +23,9 @@ struct PlacedPacket {
 /// Nothing is decoded for it.
 class ShowOrder {
  public:
+  /// No stream shows a picture more than this many packets after or before its place in the file.
+  static constexpr std::size_t kReach = 16;
+
   ShowOrder(const PictureIndex& index, const AVCodecParameters& codec, bool tellsShowTimes);
 
   /// True when pictures are shown in the order of their packets.

@@ -20,7 +20,7 @@ constexpr double kTolerance = 0.05;
 
 void SoundCut::ResamplerDeleter::operator()(SwrContext* context) const { swr_free(&context); }
 
-std::unique_ptr<SoundCut> SoundCut::Open(const std::string& path, double start, double end, AviOutput& output) {
+std::unique_ptr<SoundCut> SoundCut::Open(const std::string& path, double start, double end, VideoOutput& output) {
   std::unique_ptr<SoundCut> sound(new SoundCut(output));
   if (!sound->OpenSource(path, start) || !sound->OpenConverter()) return nullptr;
   sound->end_ = std::llround((end - start) * sound->rate_);

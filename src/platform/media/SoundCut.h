@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "platform/media/AvHandles.h"
-#include "platform/media/AviOutput.h"
+#include "platform/media/VideoOutput.h"
 
 struct SwrContext;
 
@@ -20,14 +20,14 @@ class SoundCut {
   /// Adds a stream for the sound of a file to an output. Null when the file has no sound that can be
   /// decoded.
   /// @param start, end  of the stretch, seconds from the first picture
-  static std::unique_ptr<SoundCut> Open(const std::string& path, double start, double end, AviOutput& output);
+  static std::unique_ptr<SoundCut> Open(const std::string& path, double start, double end, VideoOutput& output);
 
   /// Writes sound up to a time, seconds from the start of the stretch; a negative result is an error of
   /// the output. Sound that cannot be read ends the stream.
   int WriteUntil(double seconds);
 
  private:
-  explicit SoundCut(AviOutput& output) : output_(output) {}
+  explicit SoundCut(VideoOutput& output) : output_(output) {}
   bool OpenSource(const std::string& path, double start);
   bool OpenConverter();
   bool Decode();
@@ -38,7 +38,7 @@ class SoundCut {
     void operator()(SwrContext* context) const;
   };
 
-  AviOutput& output_;
+  VideoOutput& output_;
   AVStream* target_ = nullptr;
   InputHandle input_;
   const AVStream* stream_ = nullptr;

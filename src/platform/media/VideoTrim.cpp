@@ -12,11 +12,13 @@
 
 #include "platform/files/FileCopy.h"
 #include "platform/files/Folders.h"
-#include "platform/media/AviOutput.h"
+#include "platform/media/ContainerCut.h"
 #include "platform/media/Demuxer.h"
 #include "platform/media/PictureDecoder.h"
+#include "platform/media/PictureFitter.h"
 #include "platform/media/PictureSource.h"
 #include "platform/media/SoundCut.h"
+#include "platform/media/VideoOutput.h"
 
 namespace kinalyx {
 namespace {
@@ -27,37 +29,6 @@ struct ParametersDeleter {
   void operator()(AVCodecParameters* parameters) const { avcodec_parameters_free(&parameters); }
 };
 using ParametersHandle = std::unique_ptr<AVCodecParameters, ParametersDeleter>;
-
-/// Gives pictures of any kind the format and size that an encoder wants.
-class PictureFitter {
- public:
-  PictureFitter(AVPixelFormat format, int width, int height) : format_(format), width_(width), height_(height) {}
-
-  /// The picture itself where it fits, else a changed one, good until the next call; null without memory.
-  const AVFrame* Fit(const AVFrame& picture) {
-    if (picture.format == format_ && picture.width == width_ && picture.height == height_) return &picture;
-    // Pictures may change in mid-stream; the library keeps its context while they do not.
-    scaler_.reset(sws_getCachedContext(scaler_.release(), picture.width, picture.height,
-                                       static_cast<AVPixelFormat>(picture.format), width_, height_, format_,
-                                       SWS_BICUBIC | SWS_ACCURATE_RND | SWS_FULL_CHR_H_INT, nullptr, nullptr, nullptr));
-    fitted_ = NewFrame();
-    fitted_->format = format_;
-    fitted_->width = width_;
-    fitted_->height = height_;
-    if (!scaler_ || av_frame_get_buffer(fitted_.get(), 0) < 0) return nullptr;
-    sws_scale(scaler_.get(), picture.data, picture.linesize, 0, picture.height, fitted_->data, fitted_->linesize);
-    fitted_->interlaced_frame = picture.interlaced_frame;
-    fitted_->top_field_first = picture.top_field_first;
-    return fitted_.get();
-  }
-
- private:
-  AVPixelFormat format_;
-  int width_;
-  int height_;
-  ScalerHandle scaler_;
-  FrameHandle fitted_;
-};
 
 /// The encoders to try for a source, the one nearest to it first.
 std::initializer_list<const char*> EncodersFor(AVCodecID source) {
@@ -116,13 +87,14 @@ CodecHandle OpenEncoder(const char* name, const AVFrame& picture, AVRational rat
   return opened < 0 ? nullptr : std::move(codec);
 }
 
-/// Only an AVI file may stand under the name of one.
 bool IsAviFile(const std::string& path) {
   AVFormatContext* context = nullptr;
   if (avformat_open_input(&context, ("file:" + path).c_str(), av_find_input_format("avi"), nullptr) < 0) return false;
   avformat_close_input(&context);
   return true;
 }
+
+bool IsAviName(const std::string& path) { return av_match_ext(path.c_str(), "avi") != 0; }
 
 /// One cut under way.
 class Trimmer {
@@ -137,6 +109,7 @@ class Trimmer {
   bool ChooseFrames();
   bool ChooseTarget();
   bool CopyWholeFile();
+  bool CutInside(bool copy);
   bool CanCopyPictures() const { return index_->EveryPacketIsKey() && index_->TimesGrow(); }
   bool CopyPictures();
   bool CodePictures();
@@ -168,7 +141,7 @@ class Trimmer {
   bool whole_ = false;
   bool replaces_ = false;
   std::string target_;
-  std::unique_ptr<AviOutput> output_;
+  std::unique_ptr<VideoOutput> output_;
   std::unique_ptr<SoundCut> sound_;
   AVStream* pictures_ = nullptr;
 };
@@ -188,8 +161,12 @@ bool Trimmer::Cut() {
   video_.frames = count_;
 
   const bool copy = request_.mode == TrimRequest::Mode::Copy;
-  if (copy && whole_ && IsAviFile(request_.source)) return CopyWholeFile();
-  output_ = std::make_unique<AviOutput>(target_);
+  const bool isAvi = IsAviFile(request_.source);
+  const bool ownContainer = !isAvi && (replaces_ || !IsAviName(target_));
+  // Only an AVI file may stand under the name of one.
+  if (copy && whole_ && (isAvi || ownContainer)) return CopyWholeFile();
+  if (ownContainer) return CutInside(copy);
+  output_ = std::make_unique<VideoOutput>(target_);
   if (const int opened = output_->Open(); opened < 0) return Fail(opened);
   video_.copied = copy && CanCopyPictures();
   if (!(video_.copied ? CopyPictures() : CodePictures())) return false;
@@ -197,6 +174,15 @@ bool Trimmer::Cut() {
   const bool keepRights = replaces_ && ::stat(target_.c_str(), &old) == 0;
   if (!output_->Finish(replaces_, message_)) return false;
   if (keepRights) ::chmod(target_.c_str(), old.st_mode & 0777);
+  return true;
+}
+
+bool Trimmer::CutInside(bool copy) {
+  const CutOrder order{target_, replaces_, first_, count_, rate_, copy};
+  const auto cut = CutInOwnContainer(std::move(demuxer_), order, progress_);
+  cancelled_ = cut.Kind() == Fault::Cancelled;
+  if (!cut) return Fail(cut.Why());
+  video_ = *cut;
   return true;
 }
 

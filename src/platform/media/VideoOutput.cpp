@@ -1,4 +1,4 @@
-#include "platform/media/AviOutput.h"
+#include "platform/media/VideoOutput.h"
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -12,14 +12,14 @@
 
 namespace kinalyx {
 
-AviOutput::~AviOutput() {
+VideoOutput::~VideoOutput() {
   output_.reset();
   if (!partial_.empty()) std::remove(partial_.c_str());
 }
 
-int AviOutput::Open() {
+int VideoOutput::Open(const char* muxer) {
   AVFormatContext* context = nullptr;
-  if (const int result = avformat_alloc_output_context2(&context, nullptr, "avi", nullptr); result < 0) return result;
+  if (const int result = avformat_alloc_output_context2(&context, nullptr, muxer, nullptr); result < 0) return result;
   output_.reset(context);
   const std::string partial = PartNameBeside(path_);
   const int result = avio_open(&context->pb, ("file:" + partial).c_str(), AVIO_FLAG_WRITE);
@@ -27,27 +27,32 @@ int AviOutput::Open() {
   return result;
 }
 
-AVStream* AviOutput::AddStream() { return avformat_new_stream(output_.get(), nullptr); }
+AVStream* VideoOutput::AddStream() { return avformat_new_stream(output_.get(), nullptr); }
 
-int AviOutput::Start() { return avformat_write_header(output_.get(), nullptr); }
+int VideoOutput::Start(AVDictionary** options) { return avformat_write_header(output_.get(), options); }
 
-int AviOutput::Write(AVPacket& packet, const AVStream& stream, AVRational unit) {
+int VideoOutput::Write(AVPacket& packet, const AVStream& stream, AVRational unit) {
   packet.stream_index = stream.index;
   packet.pos = -1;
   av_packet_rescale_ts(&packet, unit, stream.time_base);
   return av_interleaved_write_frame(output_.get(), &packet);
 }
 
-bool AviOutput::Finish(bool replace, std::string& message) {
-  const auto fail = [&](const std::string& reason) {
-    message = reason;
-    return false;
-  };
+bool VideoOutput::Close(std::string& message) {
   int result = av_write_trailer(output_.get());
   const int closed = avio_closep(&output_->pb);
   output_.reset();
   if (result >= 0) result = closed;
-  if (result < 0) return fail(AvError(result));
+  if (result < 0) message = AvError(result);
+  return result >= 0;
+}
+
+bool VideoOutput::Finish(bool replace, std::string& message) {
+  const auto fail = [&](const std::string& reason) {
+    message = reason;
+    return false;
+  };
+  if (output_ && !Close(message)) return false;
   if (replace) {
     // What it replaces is gone for good: first this one must be safe.
     const int file = ::open(partial_.c_str(), O_RDONLY | O_CLOEXEC);

@@ -7,23 +7,30 @@
 
 namespace kinalyx {
 
-/// An AVI file that is being written, under a hidden name beside its final one. Only for the sources of
+/// A video file that is being written, under a hidden name beside its final one. Only for the sources of
 /// this room. Results as the library has them: negative is an error.
-class AviOutput {
+class VideoOutput {
  public:
-  explicit AviOutput(std::string path) : path_(std::move(path)) {}
+  explicit VideoOutput(std::string path) : path_(std::move(path)) {}
   /// Without Finish, removes what was written.
-  ~AviOutput();
-  AviOutput(const AviOutput&) = delete;
-  AviOutput& operator=(const AviOutput&) = delete;
+  ~VideoOutput();
+  VideoOutput(const VideoOutput&) = delete;
+  VideoOutput& operator=(const VideoOutput&) = delete;
 
-  int Open();
+  /// @param muxer  the container, as the library names it
+  int Open(const char* muxer = "avi");
+  /// For notes and wishes, between Open and Start.
+  AVFormatContext& Container() { return *output_; }
   /// A new stream, owned by this object; null when there is no memory. Fill in its parameters and its
   /// wish for a time base before Start.
   AVStream* AddStream();
-  int Start();
+  /// @param options  of the container; those that it knows are taken out
+  int Start(AVDictionary** options = nullptr);
   /// Takes a packet's content; its times are in `unit`.
   int Write(AVPacket& packet, const AVStream& stream, AVRational unit);
+  /// Completes the file under its hidden name, where it can be looked at.
+  bool Close(std::string& message);
+  const std::string& HiddenPath() const { return partial_; }
   /// Completes the file and gives it its name. With `replace` a file of that name gives way, after this
   /// one has reached the disk; without, the name must be free.
   bool Finish(bool replace, std::string& message);
