@@ -3,6 +3,10 @@
 #include <fstream>
 #include <functional>
 
+#include "platform/media/Films.h"
+#include "platform/media/VideoFile.h"
+#include "support/TestVideos.h"
+
 namespace kinalyx::test {
 namespace {
 
@@ -156,6 +160,28 @@ TEST_F(VideoOperations, TrimsByTheSmallProgram) {
     if (progress.part > 0) Ops().Cancel();
   };
   EXPECT_EQ(trim(3, 17), "Operation Cancelled");
+}
+
+TEST_F(VideoOperations, TrimsAFilmInItsOwnContainerAndLeavesItsSidecar) {
+  const std::string film = library.File("Ann/Joe Doe/swing.mp4");
+  MakeFilm({"swing.mp4", "mpeg4", 50, 12}, film);
+  if (HasFatalFailure() || IsSkipped()) return;
+  library.File("Ann/Joe Doe/swing.mp4.ved", "1XXXSXXX");
+  fs::create_directories(library.settings.AppPath);
+  fs::create_symlink(KINALYX_AVITRIM, library.settings.AppPath + "/avitrim");
+  const OperationResult trimmed = Run(&LibraryOperations::Trim, LibraryVideo{"Ann", "Joe Doe", film}, 15, 34, 25);
+  EXPECT_EQ(trimmed.Status(), "Last Video Saved Successfully") << Message();
+  const auto cut = VideoFile::Open(film);
+  ASSERT_TRUE(cut.file) << cut.message;
+  ASSERT_EQ(cut.file->Info().frameCount, 20);
+  EXPECT_EQ(cut.file->Info().compressor, "mp4v");
+  for (const int n : {0, 7, 19}) EXPECT_EQ(ReadNumber(cut.file->Frame(n, 24)), 15 + n);
+  EXPECT_EQ(Read("Ann/Joe Doe/swing.mp4.ved"), "1XXXSXXX");
+  // A film that is none is told, and stays.
+  library.File("Ann/Joe Doe/swing.mp4", "no film");
+  EXPECT_EQ(Run(&LibraryOperations::Trim, LibraryVideo{"Ann", "Joe Doe", film}, 15, 34, 25).Status(),
+            "Last Video WAS NOT SAVED");
+  EXPECT_EQ(Read("Ann/Joe Doe/swing.mp4"), "no film");
 }
 
 }  // namespace

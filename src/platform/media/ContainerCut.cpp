@@ -72,7 +72,7 @@ class ContainerCut {
   bool WritePicture(AVPacket& packet, int picture);
   bool Complete();
   bool ShowsTheCut();
-  bool ShowsTheSamePictures(std::unique_ptr<Demuxer> made);
+  bool ShowsThePictures(std::unique_ptr<Demuxer> made);
   bool Commit();
   const AVOutputFormat* FormatFor(const AVCodecParameters& codec) const;
   /// Seconds of the file's clock at which picture n of the cut is shown.
@@ -113,6 +113,7 @@ bool ContainerCut::Cut() {
   sound_ = demuxer_->Describe().hasSound ? SoundCopy::Open(*demuxer_) : nullptr;
   planned_ = plan_.Make(*demuxer_, order_.first, order_.count, av_inv_q(order_.rate), [this] { return GoOn(0); });
   if (cancelled_) return false;
+  if (plan_.FileEndsEarly()) return Fail("the file cannot be read to the end of the cut");
   copied_ = order_.copy;
   if (copied_ && CutByCopying()) return Commit();
   if (cancelled_) return false;
@@ -193,7 +194,7 @@ bool ContainerCut::CutByCoding() {
   const bool opened =
       codec && made && avcodec_parameters_from_context(made, codec.get()) >= 0 && OpenOutput(*format, *made, true);
   avcodec_parameters_free(&made);
-  if (!codec) return Fail("this video can be cut only at other pictures: there is no encoder for its kind");
+  if (!codec) return Fail("videos of this kind can be cut at some pictures only, and not at these");
   if (!opened) return message_.empty() ? Fail("out of memory") : false;
   if (!CodePictures(*source, *codec) || !Complete()) return false;
   return ShowsTheCut() || Fail("the cut did not come out as it should; the video is unchanged");
@@ -319,10 +320,10 @@ bool ContainerCut::ShowsTheCut() {
   for (int n = 0; n < order_.count; ++n) {
     if (std::abs(times.Of(n, made->Index()) - (old.Of(order_.first + n, index_) - start)) > kRoundingMs) return false;
   }
-  return !copied_ || ShowsTheSamePictures(std::move(made));
+  return ShowsThePictures(std::move(made));
 }
 
-bool ContainerCut::ShowsTheSamePictures(std::unique_ptr<Demuxer> made) {
+bool ContainerCut::ShowsThePictures(std::unique_ptr<Demuxer> made) {
   // At the seams, and where the first run of pictures ends: between them packets follow one another as before.
   std::set<int> looks = {0, order_.count - 1};
   const int chunk = index_.ChunkOfPicture(order_.first) + 1;
@@ -336,9 +337,10 @@ bool ContainerCut::ShowsTheSamePictures(std::unique_ptr<Demuxer> made) {
   if (!before || !after) return false;
   return std::ranges::all_of(looks, [&](int n) {
     if (n < 0) return true;
-    const FrameHandle old = before->Picture(order_.first + n);
     const FrameHandle now = after->Picture(n);
-    return old && now && IsSame(*old, *now);
+    if (!now || !copied_) return now != nullptr;
+    const FrameHandle old = before->Picture(order_.first + n);
+    return old && IsSame(*old, *now);
   });
 }
 

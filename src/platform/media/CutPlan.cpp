@@ -63,6 +63,7 @@ bool CutPlan::Make(Demuxer& demuxer, int firstPicture, int count, AVRational fra
     }
     if (needsChunkBefore) continue;
     packets_.resize(needed);
+    fileEndsEarly_ = missing > 0 && demuxer.NextPacket() < index_->PacketCount();
     if (missing > 0 || packets_.empty()) return false;
     if (!decodingTimes) InventDecodingTimes();
     return true;

@@ -26,6 +26,8 @@ class CutPlan {
   /// @return false when the packets cannot be had
   bool Make(Demuxer& demuxer, int firstPicture, int count, AVRational frameLength, const std::function<bool()>& goOn);
 
+  /// True when the planning met the end of the file before the end of the cut.
+  bool FileEndsEarly() const { return fileEndsEarly_; }
   /// Of all times of the cut.
   AVRational Unit() const { return unit_; }
   /// When picture n of the cut begins to be shown; their count gives the end.
@@ -49,6 +51,7 @@ class CutPlan {
   int first_ = 0;
   int count_ = 0;
   bool timed_ = false;
+  bool fileEndsEarly_ = false;
   AVRational unit_{1, 25};
   std::vector<PlannedPacket> packets_;
 };

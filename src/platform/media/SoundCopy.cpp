@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <string_view>
 
 #include "platform/media/CutContainer.h"
 
@@ -10,6 +11,14 @@ namespace {
 
 /// Sound before the stretch that codecs with a memory need to be in their stride.
 constexpr double kRunUp = 0.1;
+
+/// Bytes of one sample of all channels where sound is plain samples, which can be cut anywhere; else 0.
+int PlainBytes(const AVCodecParameters& codec) {
+  const int bits = av_get_exact_bits_per_sample(codec.codec_id);
+  const bool planar = std::string_view(avcodec_get_name(codec.codec_id)).ends_with("_planar");
+  const bool plain = std::string_view(avcodec_get_name(codec.codec_id)).starts_with("pcm_") && !planar && bits >= 8;
+  return plain ? bits / 8 * codec.ch_layout.nb_channels : 0;
+}
 
 }  // namespace
 
@@ -87,11 +96,30 @@ bool SoundCopy::Take(Track& track) {
     track.ended = true;
     return false;
   }
+  const int plain = PlainBytes(*track.source->codecpar);
+  if (plain > 0) return TakePlain(track, time, plain);
   // Where nothing can be hidden the packet comes along that lies for the most part in the stretch.
   if (hidesStart_ ? begin + length <= -kRunUp : begin + length / 2 < 0) return false;
   const std::int64_t moved = time - std::llround(start_ / unit);
   if (moved <= track.last) return false;
   track.last = packet_->pts = packet_->dts = moved;
+  return true;
+}
+
+bool SoundCopy::TakePlain(Track& track, std::int64_t time, int sampleBytes) {
+  const int rate = track.source->codecpar->sample_rate;
+  const AVRational unit = track.source->time_base;
+  const std::int64_t count = packet_->size / sampleBytes;
+  const std::int64_t begin = std::llround((static_cast<double>(time) * av_q2d(unit) - start_) * rate);
+  const std::int64_t from = std::clamp<std::int64_t>(-begin, 0, count);
+  const std::int64_t to = std::clamp<std::int64_t>(std::llround((end_ - start_) * rate) - begin, from, count);
+  if (from == to) return false;
+  packet_->data += from * sampleBytes;
+  packet_->size = static_cast<int>((to - from) * sampleBytes);
+  packet_->pts = packet_->dts = av_rescale_q(begin + from, {1, rate}, unit);
+  packet_->duration = av_rescale_q(to - from, {1, rate}, unit);
+  if (packet_->pts <= track.last) return false;
+  track.last = packet_->pts;
   return true;
 }
 

@@ -42,6 +42,8 @@ class SoundCopy {
   bool ReadNext();
   /// True for a packet of the stretch, whose times are then those of the cut.
   bool Take(Track& track);
+  /// The same for plain samples, which are cut exactly. `time` is the packet's, in units of the stream.
+  bool TakePlain(Track& track, std::int64_t time, int sampleBytes);
 
   std::unique_ptr<FileInput> file_;
   InputHandle input_;

@@ -83,6 +83,8 @@ FrameHandle ToneOf(int n) {
   tone->sample_rate = 8000;
   av_frame_get_buffer(tone.get(), 0);
   tone->pts = n * 320;
+  auto* samples = reinterpret_cast<std::int16_t*>(tone->data[0]);
+  for (int i = 0; i < 320; ++i) samples[i] = FilmSample(n * 320 + i);
   return tone;
 }
 
@@ -126,6 +128,8 @@ void Receive(AVCodecContext& codec, std::vector<FrameHandle>& pictures) {
 }
 
 }  // namespace
+
+std::int16_t FilmSample(int n) { return static_cast<std::int16_t>(n * 7 % 30011); }
 
 std::ostream& operator<<(std::ostream& out, const Film& film) { return out << film.name << " by " << film.encoder; }
 

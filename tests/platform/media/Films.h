@@ -19,8 +19,8 @@ struct Film {
   int frames = 60;
   int gop = 25;
   int bFrames = 2;
-  std::string options = "";  ///< of the encoder, as key=value:key=value
-  bool sound = false;
+  std::string options = "";                         ///< of the encoder, as key=value:key=value
+  bool sound = false;                               ///< plain samples, 8000 a second
   std::function<std::int64_t(int)> time = nullptr;  ///< of a frame, in ms; empty: 40 each
   int width = 320;
   int height = 240;
@@ -36,6 +36,9 @@ struct Film {
 };
 
 std::ostream& operator<<(std::ostream& out, const Film& film);
+
+/// Sample n of a film's sound, so that each tells where it belongs.
+std::int16_t FilmSample(int n);
 
 /// Writes the film. Skips the test where this machine has no such encoder.
 void MakeFilm(const Film& film, const std::string& path);
