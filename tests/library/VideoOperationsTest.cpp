@@ -172,10 +172,10 @@ TEST_F(VideoOperations, TrimsAFilmInItsOwnContainerAndLeavesItsSidecar) {
   const OperationResult trimmed = Run(&LibraryOperations::Trim, LibraryVideo{"Ann", "Joe Doe", film}, 15, 34, 25);
   EXPECT_EQ(trimmed.Status(), "Last Video Saved Successfully") << Message();
   const auto cut = VideoFile::Open(film);
-  ASSERT_TRUE(cut.file) << cut.message;
-  ASSERT_EQ(cut.file->Info().frameCount, 20);
-  EXPECT_EQ(cut.file->Info().compressor, "mp4v");
-  for (const int n : {0, 7, 19}) EXPECT_EQ(ReadNumber(cut.file->Frame(n, 24)), 15 + n);
+  ASSERT_TRUE(cut) << cut.Why();
+  ASSERT_EQ((*cut)->Info().frameCount, 20);
+  EXPECT_EQ((*cut)->Info().compressor, "mp4v");
+  for (const int n : {0, 7, 19}) EXPECT_EQ(ReadNumber((*cut)->Frame(n, 24)), 15 + n);
   EXPECT_EQ(Read("Ann/Joe Doe/swing.mp4.ved"), "1XXXSXXX");
   // A film that is none is told, and stays.
   library.File("Ann/Joe Doe/swing.mp4", "no film");

@@ -43,9 +43,11 @@ bool IsSame(const AVFrame& one, const AVFrame& other) {
   return samples(one) == samples(other);
 }
 
-std::unique_ptr<PictureSource> PicturesOf(std::unique_ptr<Demuxer> demuxer, std::string& message) {
-  auto decoder = demuxer ? PictureDecoder::Open(std::move(demuxer), message) : nullptr;
-  return decoder ? std::make_unique<PictureSource>(std::move(decoder)) : nullptr;
+Result<std::unique_ptr<PictureSource>> PicturesOf(std::unique_ptr<Demuxer> demuxer) {
+  if (!demuxer) return Outcome::Failed("the file has gone");
+  auto decoder = PictureDecoder::Open(std::move(demuxer));
+  if (!decoder) return decoder.Failure();
+  return std::make_unique<PictureSource>(std::move(*decoder));
 }
 
 class ContainerCut {
@@ -180,8 +182,9 @@ bool ContainerCut::CopyPackets() {
 
 bool ContainerCut::CutByCoding() {
   message_.clear();
-  const auto source = PicturesOf(demuxer_->Again(), message_);
-  if (!source) return Fail(message_.empty() ? "the file has gone" : message_);
+  const auto pictures = PicturesOf(demuxer_->Again());
+  if (!pictures) return Fail(pictures.Why());
+  const auto& source = *pictures;
   const FrameHandle first = source->Picture(order_.first);
   if (!first) return Fail("a picture cannot be decoded");
   // The sound decides which of the containers it is; for the pictures there may be another codec.
@@ -310,10 +313,10 @@ bool ContainerCut::Complete() {
 
 /// What was made is opened as any video is.
 bool ContainerCut::ShowsTheCut() {
-  OpenFault fault = OpenFault::None;
-  std::string why;
-  auto made = Demuxer::Open(output_->HiddenPath(), fault, why);
-  if (!made || made->Index().FrameCount() != order_.count) return false;
+  auto opened = Demuxer::Open(output_->HiddenPath());
+  if (!opened) return false;
+  auto made = std::move(*opened);
+  if (made->Index().FrameCount() != order_.count) return false;
   const FrameTimes times = made->Times();
   const FrameTimes old = demuxer_->Times();
   const double start = old.Of(order_.first, index_);
@@ -331,15 +334,14 @@ bool ContainerCut::ShowsThePictures(std::unique_ptr<Demuxer> made) {
     looks.insert(index_.ChunkFirstPicture(chunk) - 1 - order_.first);
     looks.insert(index_.ChunkFirstPicture(chunk) - order_.first);
   }
-  std::string ignored;
-  const auto before = PicturesOf(demuxer_->Again(), ignored);
-  const auto after = PicturesOf(std::move(made), ignored);
+  const auto before = PicturesOf(demuxer_->Again());
+  const auto after = PicturesOf(std::move(made));
   if (!before || !after) return false;
   return std::ranges::all_of(looks, [&](int n) {
     if (n < 0) return true;
-    const FrameHandle now = after->Picture(n);
+    const FrameHandle now = (*after)->Picture(n);
     if (!now || !copied_) return now != nullptr;
-    const FrameHandle old = before->Picture(order_.first + n);
+    const FrameHandle old = (*before)->Picture(order_.first + n);
     return old && IsSame(*old, *now);
   });
 }

@@ -61,8 +61,8 @@ std::string BytesOf(const std::string& path) {
 
 /// Every picture of a cut carries its number in the film, and is shown when it was shown there.
 void ExpectFrames(const std::string& cut, const std::string& film, int first, int last) {
-  const auto before = VideoFile::Open(film).file;
-  const auto after = VideoFile::Open(cut).file;
+  const auto before = OpenedVideo(film);
+  const auto after = OpenedVideo(cut);
   ASSERT_TRUE(before && after);
   ASSERT_EQ(after->Info().frameCount, last - first + 1);
   for (int n = first; n <= last; ++n) {
@@ -71,7 +71,7 @@ void ExpectFrames(const std::string& cut, const std::string& film, int first, in
   }
   // Entered in the middle it shows the same.
   const int middle = (last - first) / 2;
-  EXPECT_EQ(ReadNumber(VideoFile::Open(cut).file->Frame(middle, 24)), first + middle);
+  EXPECT_EQ(ReadNumber(OpenedVideo(cut)->Frame(middle, 24)), first + middle);
 }
 
 struct Kind {
@@ -153,11 +153,11 @@ TEST(ContainerTrim, KeepsUnevenTimesTurnShapeAndNotes) {
   for (const auto mode : {TrimRequest::Mode::Copy, TrimRequest::Mode::Recompress}) {
     const std::string own = TestPath(film.name);
     MakeFilm(film, own);
-    const auto before = VideoFile::Open(own).file;
+    const auto before = OpenedVideo(own);
     // A cut of a cut: what the first one hides is in the way of the second.
     ASSERT_TRUE(TrimVideo({own, own, 5, 50, 30, mode}));
     ASSERT_TRUE(TrimVideo({own, own, 8, 31, 30, mode}));
-    const auto after = VideoFile::Open(own).file;
+    const auto after = OpenedVideo(own);
     ASSERT_TRUE(after);
     ASSERT_EQ(after->Info().frameCount, 24);
     for (int n = 0; n < 24; ++n)
