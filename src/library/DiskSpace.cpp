@@ -6,10 +6,9 @@
 #include <array>
 #include <cmath>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <system_error>
-#include <utility>
+
+#include "library/Mounts.h"
 
 namespace kinalyx {
 
@@ -34,55 +33,9 @@ std::string RemoveableDiskText(const std::string& path) {
 
 namespace {
 
-/// A path as the list of mounts writes it: a blank in it stands as "\040".
-std::string Unescaped(std::string_view text) {
-  std::string path;
-  for (std::size_t at = 0; at < text.size(); ++at) {
-    const auto isOctal = [](char c) { return c >= '0' && c <= '7'; };
-    if (text[at] == '\\' && at + 3 < text.size() && std::ranges::all_of(text.substr(at + 1, 3), isOctal)) {
-      path += static_cast<char>((text[at + 1] - '0') * 64 + (text[at + 2] - '0') * 8 + text[at + 3] - '0');
-      at += 3;
-    } else {
-      path += text[at];
-    }
-  }
-  return path;
-}
-
-/// One line of the list of mounts.
-struct Mount {
-  std::string_view source;
-  std::string path;
-  std::string_view type;
-
-  /// A drive or a share, and no file system that the kernel makes up.
-  bool HoldsFiles() const {
-    constexpr std::array<std::string_view, 6> kShares = {"nfs", "nfs4", "cifs", "smb3", "davfs", "fuse.sshfs"};
-    return source.starts_with("/dev/") || std::ranges::find(kShares, type) != kShares.end();
-  }
-  bool ComesAndGoes() const {
-    constexpr std::array<std::string_view, 3> kPlaces = {"/media/", "/run/media/", "/mnt/"};
-    return std::ranges::any_of(kPlaces, [this](std::string_view place) { return path.starts_with(place); });
-  }
-};
-
-std::string_view TakeUntil(std::string_view& text, char end) {
-  const std::string_view part = text.substr(0, text.find(end));
-  text.remove_prefix(std::min(part.size() + 1, text.size()));
-  return part;
-}
-
-std::vector<Mount> MountsIn(std::string_view text) {
-  std::vector<Mount> mounts;
-  while (!text.empty()) {
-    std::string_view line = TakeUntil(text, '\n');
-    Mount mount;
-    mount.source = TakeUntil(line, ' ');
-    mount.path = Unescaped(TakeUntil(line, ' '));
-    mount.type = TakeUntil(line, ' ');
-    mounts.push_back(std::move(mount));
-  }
-  return mounts;
+bool ComesAndGoes(const Mount& mount) {
+  constexpr std::array<std::string_view, 3> kPlaces = {"/media/", "/run/media/", "/mnt/"};
+  return std::ranges::any_of(kPlaces, [&](std::string_view place) { return mount.path.starts_with(place); });
 }
 
 }  // namespace
@@ -94,18 +47,14 @@ std::vector<std::string> RemoveableDrivesIn(std::string_view text) {
   for (const Mount& mount : mounts) {
     // What the system's own drive shows at a second place is no other drive.
     const bool ofSystem = system != mounts.end() && mount.source == system->source;
-    if (mount.HoldsFiles() && mount.ComesAndGoes() && !ofSystem &&
-        std::ranges::find(drives, mount.path) == drives.end())
+    if (mount.HoldsFiles() && ComesAndGoes(mount) && !ofSystem && std::ranges::find(drives, mount.path) == drives.end())
       drives.push_back(mount.path);
   }
   return drives;
 }
 
 // Not by QStorageInfo: that asks each drive how full it is, and hangs with the first that does not answer.
-std::vector<std::string> RemoveableDrives() {
-  std::ifstream file("/proc/self/mounts");
-  return RemoveableDrivesIn(std::string(std::istreambuf_iterator<char>(file), {}));
-}
+std::vector<std::string> RemoveableDrives() { return RemoveableDrivesIn(MountsText()); }
 
 bool IsSystemDrive(const std::string& path) {
   struct stat place {};
