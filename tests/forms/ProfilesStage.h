@@ -32,7 +32,8 @@ class ProfilesStage : public ::testing::Test, protected UsesApplication, protect
   void MakePage(LibraryOperations::Environment environment) {
     page.reset();
     operations = std::make_unique<LibraryOperations>(library.host, library.settings, analysis, environment);
-    page = std::make_unique<ProfilesPage>(services, printer, library.settings, fields, remembered, *operations);
+    page = std::make_unique<ProfilesPage>(services, printer, library.settings, fields, remembered, *operations, nullptr,
+                                          DeviceWatch::Environment{[this] { return devices; }, send_});
     page->resize(892, 700);
     page->show();
     page->Open();
@@ -78,9 +79,23 @@ class ProfilesStage : public ::testing::Test, protected UsesApplication, protect
   std::set<std::string>& open = analysis.open;
   std::vector<std::string>& sent = analysis.sent;
   std::unique_ptr<LibraryOperations> operations;
+  std::vector<DevicePlace> devices;  ///< that are plugged in
+  bool devicesHang = false;          ///< what they are asked from now on never comes back
   std::unique_ptr<ProfilesPage> page;
 
  private:
+  struct Errand final : IErrand {
+    explicit Errand(bool over) : over_(over) {}
+    bool Over(int) override { return over_; }
+
+   private:
+    bool over_;
+  };
+  DriveWatch::Send send_ = [this](const DriveWatch::Work& work) {
+    if (!devicesHang) work();
+    return std::make_shared<Errand>(!devicesHang);
+  };
+
   QWidget& Form() override { return *page; }
 };
 

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "library/LibraryReading.h"
+#include "library/forms/DeviceBar.h"
 #include "library/forms/FieldGrid.h"
 #include "library/forms/InstructorsPanel.h"
 #include "library/forms/LibraryButtons.h"
@@ -27,7 +28,8 @@
 namespace kinalyx {
 
 ProfilesPage::ProfilesPage(PlayerServices& services, IPrinter& printer, Settings& settings, ProfileFields& fields,
-                           LastStudentInfo& remembered, LibraryOperations& operations, QWidget* parent)
+                           LastStudentInfo& remembered, LibraryOperations& operations, QWidget* parent,
+                           DeviceWatch::Environment devices)
     : PageWidget(parent),
       services_(services),
       settings_(settings),
@@ -59,7 +61,9 @@ ProfilesPage::ProfilesPage(PlayerServices& services, IPrinter& printer, Settings
   grid_->addWidget(students_, 0, 1);
   grid_->addWidget(videos_, 0, 2);
   grid_->addWidget(profilePanel_, 1, 0, 1, 3);
-  grid_->addWidget(status_, 2, 0, 1, 3);
+  devices_ = new DeviceBar(services.host, settings, std::move(devices), this);
+  grid_->addWidget(devices_, 2, 0, 1, 3);
+  grid_->addWidget(status_, 3, 0, 1, 3);
 
   commands_ = new LibraryCommands(services.host, settings, operations, browser_, *videos_, *this, this);
   PlaceButtons();
@@ -99,6 +103,8 @@ void ProfilesPage::ConnectParts() {
   connect(buttons_, &LibraryButtons::Wanted, this, &ProfilesPage::SPBtn_Click);
   connect(videos_, &VideosPanel::AddWanted, commands_, [this] { commands_->AddVideos(); });
   connect(videos_, &VideosPanel::FolderWanted, commands_, &LibraryCommands::ShowFolder);
+  connect(devices_, &DeviceBar::ShowWanted, this, &ProfilesPage::ShowDevice);
+  connect(devices_, &DeviceBar::AddWanted, this, &ProfilesPage::AddFromDevice);
   connect(new FileDrop(this), &FileDrop::Dropped, this, &ProfilesPage::TakeDropped);
   connect(instructors_, &InstructorsPanel::AddWanted, this, &ProfilesPage::AddInstructor);
   connect(instructors_, &InstructorsPanel::AddCancelled, this, [this] { Say({}); });
@@ -120,6 +126,7 @@ void ProfilesPage::Open() {
   shownStudent_.clear();
   shownVideo_.clear();
   lists_->ShowAll();
+  devices_->Start();
   Say({});
   if (!focusWidget()) (browser_.HasStudent() ? lists_->StudentList() : lists_->InstructorList())->setFocus();
 }
@@ -127,6 +134,7 @@ void ProfilesPage::Open() {
 bool ProfilesPage::Leave() {
   if (!CloseVideo()) return false;
   instructors_->ShowNameBox(false);
+  devices_->Stop();
   return true;
 }
 
@@ -156,6 +164,7 @@ bool ProfilesPage::Release() {
 }
 
 void ProfilesPage::ShowResult(const OperationResult& result) {
+  devices_->AddingEnded(result.Done());
   // A page that has been left meanwhile reads everything anew when it is opened again.
   if (!isVisible()) return;
   status_->Rest();
@@ -203,6 +212,16 @@ bool ProfilesPage::ListKey(QObject* list, int key) {
     return false;
   }
   return true;
+}
+
+void ProfilesPage::ShowDevice() {
+  if (!browser_.HasStudent()) return Say(Q(vocabulary_.MustSelect()));
+  devices_->ShowVideos(browser_.Student());
+}
+
+void ProfilesPage::AddFromDevice(const std::vector<std::string>& paths) {
+  commands_->AddVideos(paths, browser_.Student());
+  if (!operations_.Busy()) devices_->AddingEnded(false);  // it was refused, or notes could not be stored
 }
 
 /// What is dropped on the name of a student goes to that student, everything else to the one who is chosen.

@@ -6,6 +6,7 @@
 #include "core/Settings.h"
 #include "core/Vocabulary.h"
 #include "library/BadVideos.h"
+#include "library/DeviceWatch.h"
 #include "library/LibraryActions.h"
 #include "library/LibraryBrowser.h"
 #include "library/LibraryOperations.h"
@@ -19,6 +20,7 @@ class QGridLayout;
 
 namespace kinalyx {
 
+class DeviceBar;
 class IPrinter;
 class InstructorsPanel;
 class LibraryButtons;
@@ -37,7 +39,8 @@ class ProfilesPage : public PageWidget, private ILibraryPage {
  public:
   /// All that is passed outlives the page.
   ProfilesPage(PlayerServices& services, IPrinter& printer, Settings& settings, ProfileFields& fields,
-               LastStudentInfo& remembered, LibraryOperations& operations, QWidget* parent = nullptr);
+               LastStudentInfo& remembered, LibraryOperations& operations, QWidget* parent = nullptr,
+               DeviceWatch::Environment devices = {});
   ~ProfilesPage() override;
 
   /// Reads the library and goes to the remembered student.
@@ -69,6 +72,8 @@ class ProfilesPage : public PageWidget, private ILibraryPage {
   void ConnectParts();
   bool ListKey(QObject* list, int key);
 
+  void ShowDevice();
+  void AddFromDevice(const std::vector<std::string>& paths);
   void TakeDropped(const std::vector<std::string>& paths, QPoint at);
   bool CloseVideo();
   bool Release() override;
@@ -112,6 +117,7 @@ class ProfilesPage : public PageWidget, private ILibraryPage {
   ProfilePanel* profilePanel_;
   ProfileEditor* editor_;
   LibraryButtons* buttons_;
+  DeviceBar* devices_;
   StatusLine* status_;
 };
 

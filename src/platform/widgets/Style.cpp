@@ -101,7 +101,8 @@ class Style : public QProxyStyle {
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override {
     switch (element) {
-      case PE_IndicatorCheckBox: DrawIndicator(*option, *painter, false); return;
+      case PE_IndicatorCheckBox:
+      case PE_IndicatorItemViewItemCheck: DrawIndicator(*option, *painter, false); return;
       case PE_IndicatorRadioButton: DrawIndicator(*option, *painter, true); return;
       case PE_FrameFocusRect: return;
       case PE_PanelLineEdit:

@@ -87,6 +87,11 @@ QComboBox QAbstractItemView { background: @field; color: @text; border: 1px soli
 QComboBox QAbstractItemView::item { min-height: @30; padding: 0 8px; border-radius: 5px; }
 QComboBox QAbstractItemView::item:selected { background: @accent; color: @accentText; }
 QListView { background: @field; color: @text; border: none; outline: 0; }
+QTreeView { background: @field; color: @text; border: 1px solid @line; border-radius: 8px; outline: 0;
+  selection-background-color: @accent; selection-color: @accentText; }
+QHeaderView { background: transparent; border: none; }
+QHeaderView::section { background: @panel; color: @muted; border: none; border-bottom: 1px solid @line;
+  padding: 4px 8px; }
 QCheckBox, QRadioButton { color: @text; background: transparent; }
 QCheckBox:disabled, QRadioButton:disabled { color: @faint; }
 QSlider { min-height: 24px; }
