@@ -120,10 +120,10 @@ std::vector<DeviceVideo> FindDeviceVideos(const std::string& device, const std::
 
 VideoGlance GlanceAt(const std::string& path, int width, int height) {
   VideoGlance glance;
-  const VideoFile::Result opened = VideoFile::Open(path);
-  if (!opened.file) return glance;
-  glance.seconds = opened.file->Info().durationMs / 1000;
-  const FrameRows rows = opened.file->Frame(0, 32);
+  const auto opened = VideoFile::Open(path);
+  if (!opened) return glance;
+  glance.seconds = (*opened)->Info().durationMs / 1000;
+  const FrameRows rows = (*opened)->Frame(0, 32);
   if (!rows || rows.width <= 0 || rows.height <= 0) return glance;
   const double scale = std::min(double(width) / rows.width, double(height) / rows.height);
   glance.picture = Surface(std::max(1, int(rows.width * scale)), std::max(1, int(rows.height * scale)));
