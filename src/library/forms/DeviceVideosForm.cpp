@@ -23,7 +23,7 @@ namespace kinalyx {
 namespace {
 
 enum Column { kVideo, kDate, kLength, kSize, kMark };
-constexpr int kWidths[] = {300, 130, 60, 80, 90};  // pixels beside 13 pixels of text
+constexpr int kWidths[] = {270, 150, 74, 84, 90};  // pixels beside 13 pixels of text
 
 /// Of the small pictures, beside 13 pixels of text.
 constexpr QSize kPicture{64, 40};
@@ -73,6 +73,7 @@ DeviceVideosForm::DeviceVideosForm(IHost& host, DriveWatch::Send send, QWidget* 
                        static_cast<QWidget*>(note_)})
     rows->addWidget(row);
   tick_ = new Button("DeviceTick", {}, {}, Look::Quiet);
+  tick_->setProperty("square", false);
   cancel_ = new Button("DeviceCancel", "Cancel", {}, Look::Quiet);
   add_ = new Button("DeviceAdd", {}, "plus");
   add_->setProperty("square", false);
