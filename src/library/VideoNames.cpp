@@ -32,11 +32,7 @@ bool IsVideoName(std::string_view file) {
   return std::ranges::find(kEndings, FoldCase(EndingOf(file))) != std::end(kEndings);
 }
 
-std::vector<std::string> ListVideos(const std::string& folder) {
-  std::vector<std::string> files = ListFiles(folder, "");
-  std::erase_if(files, [](const std::string& file) { return !IsVideoName(file); });
-  return files;
-}
+std::vector<std::string> ListVideos(const std::string& folder) { return ListFiles(folder, IsVideoName); }
 
 namespace {
 

@@ -204,6 +204,10 @@ std::vector<std::string> ListFiles(const std::string& folder, std::string_view e
   });
 }
 
+std::vector<std::string> ListFiles(const std::string& folder, bool (*wanted)(std::string_view name)) {
+  return List(folder, Entry::File, wanted);
+}
+
 std::string JoinPath(std::string_view folder, std::string_view name) {
   std::string path(folder);
   const bool slash = path.ends_with('/') || name.starts_with('/');

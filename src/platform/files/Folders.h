@@ -57,6 +57,8 @@ bool TouchPath(const std::string& path);
 std::vector<std::string> ListFolders(const std::string& folder);
 /// Names of the files that end in `extension` (".avi"; either case), sorted likewise.
 std::vector<std::string> ListFiles(const std::string& folder, std::string_view extension);
+/// Those whose names are wanted.
+std::vector<std::string> ListFiles(const std::string& folder, bool (*wanted)(std::string_view name));
 
 /// Puts a slash between two parts of a path, unless one is there.
 std::string JoinPath(std::string_view folder, std::string_view name);
