@@ -56,7 +56,7 @@ LibraryHints HintsOf(const LibraryBrowser& browser, const Vocabulary& words, boo
   else if (!browser.HasStudent()) hints.videos = "Choose a " + words.noun() + " to see the videos.";
   else
     hints.videos =
-        "No videos yet. Capture or import one, or copy AVI files into the folder of this " + words.noun() + ".";
+        "No videos yet. Capture or import one, or copy video files into the folder of this " + words.noun() + ".";
   return hints;
 }
 

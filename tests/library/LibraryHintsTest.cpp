@@ -42,7 +42,7 @@ TEST_F(LibraryHintsTest, EachEmptyListSaysWhatFillsIt) {
       {Kind::Profiles, "Demo", "", "No golfers here yet. Add the first one beneath this list.",
        "Choose a golfer to see the videos."},
       {Kind::OpenVideo, "Demo", "Tom", "No golfers here yet.",
-       "No videos yet. Capture or import one, or copy AVI files into the folder of this golfer."},
+       "No videos yet. Capture or import one, or copy video files into the folder of this golfer."},
       {Kind::OpenVideo, "Quick Launch", "", "Quick Launch keeps videos, no golfers.",
        "No videos yet. Copy one here with Quick Launch +."},
       {Kind::Exchange, "Demo", "", "No golfers here.", "Choose a golfer, or take the whole database."},
