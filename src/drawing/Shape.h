@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -57,6 +58,16 @@ inline constexpr std::array<ShapeInf, kShapeKinds> ShapeInfs{{
 /// is never painted.
 const ShapeInf& InfOf(int Kind);
 
+/// The frames on which a drawing is seen.
+struct ShapeTime {
+  int First = 0;  ///< frames, from 0
+  int Last = -1;  ///< before First: on all of them
+  int Fade = 0;   ///< frames before First over which it comes, and behind Last over which it goes
+
+  bool Always() const { return Last < First; }
+  friend bool operator==(const ShapeTime&, const ShapeTime&) = default;
+};
+
 /// One drawn object. Points are pixels of the window's picture, y downward.
 struct Shape {
   std::int16_t NumBound = 0;  ///< points that the user has fixed
@@ -75,11 +86,21 @@ struct Shape {
   /// has given it one. No file holds it, and what is equal may differ in it.
   std::uint32_t Id = 0;
 
+  // What the records of the sidecar and of shape files have no place for.
+
+  ShapeTime Time;
+  std::string Text;     ///< UTF-8; stands where the first point is, in place of the figure
+  std::string Unknown;  ///< what a later version has written of this drawing, as JSON; only carried along
+
   friend bool operator==(const Shape& a, const Shape& b) {
     return IsSameDrawing(a, b) && a.Measuring == b.Measuring && a.SavedPts == b.SavedPts;
   }
   /// The same but for what has no meaning outside a running transform.
   friend bool IsSameDrawing(const Shape& a, const Shape& b) {
+    return IsSameRecord(a, b) && a.Time == b.Time && a.Text == b.Text && a.Unknown == b.Unknown;
+  }
+  /// The same in all that a record holds.
+  friend bool IsSameRecord(const Shape& a, const Shape& b) {
     return a.NumBound == b.NumBound && a.NumPts == b.NumPts && a.Kind == b.Kind && a.Locked == b.Locked &&
            a.Pts == b.Pts && a.Colour == b.Colour;
   }

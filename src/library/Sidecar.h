@@ -1,10 +1,13 @@
 #pragma once
 
+#include <compare>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "drawing/Shape.h"
 #include "platform/files/FileStore.h"
@@ -14,6 +17,51 @@
 namespace kinalyx {
 
 class Settings;
+
+/// A picture of a video: where split fields count as two, the second of a frame has a moment of its own.
+struct VideoMoment {
+  int Frame = 0;
+  bool SecondField = false;
+
+  /// As a player counts, and back.
+  int Position(bool splitFields) const { return splitFields ? 2 * Frame + (SecondField ? 1 : 0) : Frame; }
+  static VideoMoment At(int position, bool splitFields) {
+    return splitFields ? VideoMoment{position / 2, position % 2 != 0} : VideoMoment{position, false};
+  }
+  friend auto operator<=>(const VideoMoment&, const VideoMoment&) = default;
+};
+
+/// A moment that the user keeps.
+struct VideoMark {
+  VideoMoment Moment;
+  std::string Name;     ///< UTF-8, mostly empty
+  std::string Unknown;  ///< what a later version has written of it, as JSON; only carried along
+
+  friend bool operator==(const VideoMark&, const VideoMark&) = default;
+};
+
+/// How long things are in a video.
+struct VideoRuler {
+  double PixelsPerInch = 0;  ///< above 0, in a picture of this size
+  int Width = 0;             ///< pixels
+  int Height = 0;
+  int Unit = 0;  ///< of the display, as in Measurement
+
+  friend bool operator==(const VideoRuler&, const VideoRuler&) = default;
+};
+
+/// What was found in a video and has no place in its sidecar. It lives in a file of its own, see Study.h, as
+/// the times of the drawings do.
+struct StudyData {
+  std::vector<VideoMark> Marks;
+  std::optional<VideoRuler> Ruler;
+  double TrueRate = 0;  ///< pictures per second when it was taken, as the user knows it; 0: as the file says
+  std::optional<VideoMoment> LockedAt;  ///< the picture on which it was locked to another video last
+  std::string Unknown;                  ///< what a later version has written, as JSON; only carried along
+  bool Unread = false;                  ///< as SlotData::Unread
+
+  friend bool operator==(const StudyData&, const StudyData&) = default;
+};
 
 /// What the analysis section knows of one video, beside the video itself: how its fields are shown, the
 /// drawings on it and the instructor's notes. It lives in the sidecar file, `X.ved` next to `X.avi`, `X.mp4.ved` next
@@ -36,6 +84,8 @@ struct SlotData {
   /// The file holds something that could not be read: it is foreign or damaged, or the disk refused. As
   /// long as there is nothing new to store it is left alone; a write keeps it beside, see KeptPath.
   bool Unread = false;
+
+  StudyData Study;
 };
 
 /// Longest notes that a sidecar holds, in characters: their length is stored in 16 bits, signed. The notes

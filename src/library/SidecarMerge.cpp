@@ -7,6 +7,7 @@
 #include <optional>
 #include <vector>
 
+#include "library/ShapePairs.h"
 #include "library/TextMerge.h"
 
 namespace kinalyx {
@@ -31,38 +32,6 @@ std::vector<Shape> Fitted(const SlotData& data, const Size& size) {
   return {shapes.begin(), shapes.end()};
 }
 
-/// The same kind and colour, and the same points up to the rounding of another size.
-bool IsNear(const Shape& a, const Shape& b) {
-  constexpr std::int64_t kRounding = 2;  // pixels
-  const auto near = [](POINTAPI p, POINTAPI q) {
-    return std::llabs(std::int64_t{p.x} - q.x) <= kRounding && std::llabs(std::int64_t{p.y} - q.y) <= kRounding;
-  };
-  return a.Kind == b.Kind && a.Colour == b.Colour && std::ranges::equal(BoundPoints(a), BoundPoints(b), near);
-}
-
-/// Greedy matching: pairs equal shapes of two lists, each with one at most, exact pairs first. For each of
-/// `list` the place in `others`, or nothing.
-std::vector<std::optional<std::size_t>> Pairs(const std::vector<Shape>& list, const std::vector<Shape>& others,
-                                              bool exact) {
-  std::vector<std::optional<std::size_t>> places(list.size());
-  std::vector<bool> taken(others.size());
-  const auto pair = [&](auto same) {
-    std::size_t next = 0;  // lists mostly have the same order
-    for (std::size_t i = 0; i < list.size(); ++i) {
-      for (std::size_t tries = 0; tries < others.size() && !places[i]; ++tries) {
-        const std::size_t place = (next + tries) % others.size();
-        if (taken[place] || !same(list[i], others[place])) continue;
-        taken[place] = true;
-        places[i] = place;
-        next = place + 1;
-      }
-    }
-  };
-  pair([](const Shape& a, const Shape& b) { return IsSameDrawing(a, b); });
-  if (!exact) pair(IsNear);
-  return places;
-}
-
 void Put(ShapeList& list, std::vector<Shape> shapes) {
   if (shapes.size() > kMostShapes) shapes.resize(kMostShapes);
   list.NumShapes = static_cast<std::int16_t>(shapes.size());
@@ -77,7 +46,7 @@ void MergeShapes(MergedData& merged, const SlotData& mine, const SlotData& their
   const std::vector<Shape> before = Fitted(base, size);
   const bool exact = !SizeOf(base).Known() || !SizeOf(theirs).Known() || SizeOf(theirs).IsMultipleOf(SizeOf(base)) ||
                      SizeOf(base).IsMultipleOf(SizeOf(theirs));
-  const auto places = Pairs(before, there, exact);
+  const auto places = PairShapes(before, there, exact ? Likeness::Drawing : Likeness::Near);
 
   const std::vector<Shape> mineThen = Fitted(base, SizeOf(mine));
   std::map<std::uint32_t, std::size_t> mineOf;  // by number: the place in `own`
@@ -110,11 +79,40 @@ void MergeShapes(MergedData& merged, const SlotData& mine, const SlotData& their
   for (std::size_t i = 0; i < own.size(); ++i)
     if (!settled[i]) mineAlone.push_back(own[i]);
   // A shape that both have made alike is stored once.
-  const auto twice = Pairs(mineAlone, fresh, true);
+  const auto twice = PairShapes(mineAlone, fresh, Likeness::Drawing);
   for (std::size_t i = 0; i < mineAlone.size(); ++i)
     if (!twice[i]) shapes.push_back(mineAlone[i]);
   Put(merged.whole.Shapes, std::move(shapes));
   Put(merged.own, std::move(own));
+}
+
+/// Mine, without those that they have taken away, and with those that they have made. A mark that either has
+/// changed is another one.
+std::vector<VideoMark> MergeMarks(const std::vector<VideoMark>& mine, const std::vector<VideoMark>& theirs,
+                                  const std::vector<VideoMark>& base) {
+  const auto in = [](const std::vector<VideoMark>& marks, const VideoMark& mark) {
+    return std::ranges::find(marks, mark) != marks.end();
+  };
+  std::vector<VideoMark> merged;
+  for (const VideoMark& mark : mine)
+    if (in(theirs, mark) || !in(base, mark)) merged.push_back(mark);
+  for (const VideoMark& mark : theirs)
+    if (!in(mine, mark) && !in(base, mark)) merged.push_back(mark);
+  return merged;
+}
+
+StudyData MergeStudies(const StudyData& mine, const StudyData& theirs, const StudyData& base) {
+  StudyData merged = mine;
+  const auto follow = [&](auto StudyData::*value) {
+    if (mine.*value == base.*value) merged.*value = theirs.*value;
+  };
+  follow(&StudyData::Ruler);
+  follow(&StudyData::TrueRate);
+  follow(&StudyData::LockedAt);
+  follow(&StudyData::Unknown);
+  merged.Marks = MergeMarks(mine.Marks, theirs.Marks, base.Marks);
+  merged.Unread = theirs.Unread;
+  return merged;
 }
 
 }  // namespace
@@ -131,6 +129,7 @@ MergedData MergeVideoData(const SlotData& mine, const SlotData& theirs, const Sl
   follow(&SlotData::CValue);
   follow(&SlotData::RealFrameRate);
   follow(&SlotData::NextShape);
+  whole.Study = MergeStudies(mine.Study, theirs.Study, base.Study);
   whole.Notes = MergeTexts(base.Notes, mine.Notes, theirs.Notes);
   whole.Unread = theirs.Unread;
 

@@ -95,4 +95,9 @@ std::string SidecarName(std::string_view videoPath) {
   return IsAvi(name) ? VideoName(name) + ".ved" : name + ".ved";
 }
 
+std::string StudyName(std::string_view videoPath) {
+  const std::string sidecar = SidecarName(videoPath);
+  return sidecar.substr(0, sidecar.size() - 4) + ".study";
+}
+
 }  // namespace kinalyx

@@ -35,5 +35,7 @@ bool SameFormat(std::string_view file, std::string_view other);
 /// The sidecar's name for a video: of "X.avi" it is "X.ved", of any other "X.mp4.ved", so that two files of one
 /// name never share drawings.
 std::string SidecarName(std::string_view videoPath);
+/// The name of what was found in a video: that of the sidecar, with ".study" in place of ".ved".
+std::string StudyName(std::string_view videoPath);
 
 }  // namespace kinalyx

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <limits>
 #include <system_error>
 #include <utility>
 
@@ -10,6 +11,7 @@
 #include "library/LibraryReading.h"
 #include "library/RunOperation.h"
 #include "library/Sidecar.h"
+#include "library/Study.h"
 #include "library/TrimJob.h"
 #include "library/VideoNames.h"
 #include "library/VideoTransfer.h"
@@ -23,32 +25,41 @@ using OnClash = VideoTransferJob::OnClash;
 
 std::string NameOf(const LibraryVideo& video) { return VideoName(video.path); }
 
-/// Removes a video, then its sidecar unless another video needs it; false when the video stays.
+/// Removes a video, then its companions unless another video needs them; false when the video stays.
 bool RemoveVideo(const std::string& path, IDisk& disk) {
-  const std::string sidecar = SharesSidecar(path) ? std::string() : ExistingSidecar(path);
+  const auto companions = SharesCompanions(path) ? std::vector<Companion>() : CompanionsOf(path);
   if (!RemoveTree(path, disk)) return false;
-  // An old sidecar does no harm: it makes way for the next video of its name.
-  if (!sidecar.empty()) (void)RemoveTree(sidecar, disk);
+  // What stays does no harm: it makes way for the next video of its name.
+  for (const Companion& companion : companions) (void)RemoveTree(companion.path, disk);
   return true;
 }
 
-/// Renames a video with its sidecar. The sidecar goes first, and back again when the video cannot follow; one
-/// that a second video shares is copied. After a failure the two stand as before.
-Outcome RenameWithSidecar(const std::string& from, const std::string& to, IDisk& disk) {
-  const std::string sidecar = ExistingSidecar(from);
-  if (sidecar.empty()) return RenameEntry(from, to, disk);
-  const std::string newSidecar = SidecarPath(to);
-  if (SharesSidecar(from)) {
-    CopyJob copy(CopyJob::Kind::Copy, {{{sidecar, newSidecar}}}, disk);
-    if (RunToEnd(copy) != CopyJob::State::Done) return Outcome::Failed(copy.Error());
-    Outcome renamed = RenameEntry(from, to, disk);
-    if (!renamed) (void)RemoveTree(newSidecar, disk);
-    return renamed;
+/// Renames a video with its companions. They go first, and back again when the video cannot follow; those that a
+/// second video shares are copied. After a failure all stand as before.
+Outcome RenameWithCompanions(const std::string& from, const std::string& to, IDisk& disk) {
+  const bool shared = SharesCompanions(from);
+  std::vector<std::pair<std::string, std::string>> gone;  // from and to
+  const auto goBack = [&] {
+    for (const auto& [old, present] : gone)
+      (void)(shared ? RemoveTree(present, disk) : RenameEntry(present, old, disk));
+  };
+  for (const Companion& companion : CompanionsOf(from)) {
+    const std::string target = JoinPath(FolderOf(to), companion.nameFor(to));
+    Outcome moved;
+    if (shared) {
+      CopyJob copy(CopyJob::Kind::Copy, {{{companion.path, target}}}, disk);
+      if (RunToEnd(copy) != CopyJob::State::Done) moved = Outcome::Failed(copy.Error());
+    } else {
+      moved = RenameEntry(companion.path, target, disk);
+    }
+    if (!moved) {
+      goBack();
+      return moved;
+    }
+    gone.emplace_back(companion.path, target);
   }
-  Outcome renamed = RenameEntry(sidecar, newSidecar, disk);
-  if (!renamed) return renamed;
-  renamed = RenameEntry(from, to, disk);
-  if (!renamed) (void)RenameEntry(newSidecar, sidecar, disk);
+  Outcome renamed = RenameEntry(from, to, disk);
+  if (!renamed) goBack();
   return renamed;
 }
 
@@ -113,6 +124,7 @@ class CountedTransfer final : public IOperationEvents {
   int told_ = 0;
 };
 
+constexpr int kLastOfAll = std::numeric_limits<int>::max();  // frame
 constexpr const char* kCannotDelete = "Unable to delete the video. Try rebooting, then try again.";
 
 }  // namespace
@@ -142,10 +154,11 @@ OperationResult LibraryOperations::RenameVideo(const LibraryVideo& video, std::s
   const std::string taken = "The video name you have chosen already exists, please try again.";
   if (IsTakenBeside(video.path, name)) return Refuse(taken);
   // Where only the case of a name changes, the disk may take the old sidecar for the new one.
-  if (!SetAsideOrphan(folder, file, disk_) && !SamePlace(ExistingSidecar(video.path), SidecarPath(to)))
+  if (!SetAsideOrphans(folder, file, disk_) && !SamePlace(SidecarPath(video.path), SidecarPath(to)) &&
+      !SamePlace(StudyPath(video.path), StudyPath(to)))
     return Refuse(taken);
-  if (const Outcome renamed = RenameWithSidecar(video.path, to, disk_); !renamed) {
-    if (EntryExists(to) || EntryExists(SidecarPath(to))) return Refuse(taken);
+  if (const Outcome renamed = RenameWithCompanions(video.path, to, disk_); !renamed) {
+    if (EntryExists(to) || EntryExists(SidecarPath(to)) || EntryExists(StudyPath(to))) return Refuse(taken);
     const std::string text = "The video could not be renamed";
     return EntryExists(video.path) ? Refuse(text + ": " + renamed.Why()) : RefuseGone(text);
   }
@@ -204,10 +217,13 @@ void LibraryOperations::Trim(const LibraryVideo& video, int firstFrame, int last
   const TrimRequest request{video.path, video.path, firstFrame, lastFrame, rate, TrimRequest::Mode::Copy};
   Run<TrimJob>(
       std::make_unique<TrimJob>(JoinPath(settings_.AppPath, "avitrim"), request),
-      [this, video](TrimJob& trim) -> OperationResult {
-        if (trim.Saved())
+      [this, video, firstFrame, lastFrame](TrimJob& trim) -> OperationResult {
+        if (trim.Saved()) {
+          // A video that cannot be studied further is no reason to speak of a failed trim.
+          (void)TrimStudy(StudyPath(video.path), firstFrame, lastFrame > 0 ? lastFrame : kLastOfAll);
           return {std::string("Last Video Saved Successfully"), true, video.instructor, video.student,
                   ShownName(video.path)};
+        }
         if (trim.Cancelled()) return Report(kOperationCancelled);
         host_.Message(MessageKind::Warning, "", "There was a problem saving this video.\n\n" + trim.Error());
         return Report("Last Video WAS NOT SAVED");

@@ -9,6 +9,7 @@
 #include "library/LibraryTree.h"
 #include "library/Profile.h"
 #include "library/Sidecar.h"
+#include "library/Study.h"
 #include "library/VideoNames.h"
 #include "platform/files/Folders.h"
 #include "platform/files/PartFiles.h"
@@ -18,9 +19,10 @@ namespace kinalyx {
 
 namespace {
 
-std::int64_t BytesWithSidecar(const std::string& videoPath) {
-  const std::string sidecar = ExistingSidecar(videoPath);
-  return FileSize(videoPath).value_or(0) + (sidecar.empty() ? 0 : FileSize(sidecar).value_or(0));
+std::int64_t BytesWithCompanions(const std::string& videoPath) {
+  std::int64_t bytes = FileSize(videoPath).value_or(0);
+  for (const Companion& companion : CompanionsOf(videoPath)) bytes += FileSize(companion.path).value_or(0);
+  return bytes;
 }
 
 /// The name of the file that stands where a folder is needed on the way to `folder`; "" when there is none.
@@ -40,31 +42,35 @@ bool HasVideoNamed(const std::string& folder, std::string_view file) {
   });
 }
 
-std::string ExistingSidecar(const std::string& videoPath) {
-  const std::string sidecar = SidecarPath(videoPath);
-  return FileExists(sidecar) ? sidecar : std::string();
+std::vector<Companion> CompanionsOf(const std::string& videoPath) {
+  std::vector<Companion> companions{{SidecarPath(videoPath), SidecarName}, {StudyPath(videoPath), StudyName}};
+  std::erase_if(companions, [](const Companion& one) { return !FileExists(one.path); });
+  return companions;
 }
 
-bool SharesSidecar(const std::string& videoPath) {
+bool SharesCompanions(const std::string& videoPath) {
   const std::string sidecar = SidecarName(videoPath);
   return std::ranges::count_if(ListVideos(FolderOf(videoPath)),
                                [&](const std::string& file) { return SidecarName(file) == sidecar; }) > 1;
 }
 
-bool SetAsideOrphan(const std::string& folder, std::string_view file, IDisk& disk) {
-  // In small letters and in large ones there may be more than one.
-  for (;;) {
-    const std::string orphan = SidecarPath(JoinPath(folder, file));
-    if (!EntryExists(orphan)) return true;
-    if (HasVideoNamed(folder, file) || !RenameEntry(orphan, KeptPath(orphan), disk)) return false;
-  }
+bool SetAsideOrphans(const std::string& folder, std::string_view file, IDisk& disk) {
+  const std::string video = JoinPath(folder, file);
+  const auto setAside = [&](const std::string& orphan) {
+    return !HasVideoNamed(folder, file) && RenameEntry(orphan, KeptPath(orphan), disk);
+  };
+  // In small letters and in large ones there may be more than one sidecar.
+  for (std::string orphan = SidecarPath(video); EntryExists(orphan); orphan = SidecarPath(video))
+    if (!setAside(orphan)) return false;
+  const std::string study = StudyPath(video);
+  return !EntryExists(study) || setAside(study);
 }
 
 CopyUnit VideoUnit(const std::string& videoPath, const std::string& folder, std::string_view file) {
   CopyUnit unit;
-  // First the sidecar: a video never stands anywhere without its drawings.
-  const std::string sidecar = ExistingSidecar(videoPath);
-  if (!sidecar.empty()) unit.push_back({sidecar, JoinPath(folder, SidecarName(file)), SharesSidecar(videoPath)});
+  // First what belongs to it: a video never stands anywhere without its drawings.
+  for (const Companion& companion : CompanionsOf(videoPath))
+    unit.push_back({companion.path, JoinPath(folder, companion.nameFor(file)), SharesCompanions(videoPath)});
   unit.push_back({videoPath, JoinPath(folder, file)});
   return unit;
 }
@@ -99,7 +105,7 @@ bool VideoTransferJob::BeginOne() {
     return Fail("There is a file named \"" + file + "\" where a folder is needed.");
   if (video.path.empty()) return TakeStudent(video);
   if (name_.empty()) name_ = VideoName(video.path);
-  while (HasVideoNamed(video.folder, FileName()) || !SetAsideOrphan(video.folder, FileName(), disk_)) {
+  while (HasVideoNamed(video.folder, FileName()) || !SetAsideOrphans(video.folder, FileName(), disk_)) {
     if (onClash_ == OnClash::Stop) {
       nameTaken_ = true;
       return Fail("There is already a video with the name \"" + name_ + "\".");
@@ -128,7 +134,7 @@ bool VideoTransferJob::Begin() {
   std::set<std::string> folders;
   for (const VideoTransfer& video : videos_) {
     folders.insert(video.folder);
-    if (!video.path.empty()) bytesTotal_ += BytesWithSidecar(video.path);
+    if (!video.path.empty()) bytesTotal_ += BytesWithCompanions(video.path);
   }
   for (const std::string& folder : folders) RemoveDeadParts(folder, disk_);
   // A move asks for itself, as it may need none.

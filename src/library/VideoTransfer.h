@@ -16,15 +16,20 @@ namespace kinalyx {
 /// True when a folder holds a video of this file's name and format, in whatever case, or when the disk takes the
 /// name for one that is there.
 bool HasVideoNamed(const std::string& folder, std::string_view file);
-/// The sidecar of a video when it has one, else "".
-std::string ExistingSidecar(const std::string& videoPath);
-/// True when the sidecar belongs to a second video as well, whose name differs in the case of its
+/// A file that lies beside a video and belongs to it: its sidecar, its study file.
+struct Companion {
+  std::string path;
+  std::string (*nameFor)(std::string_view);  ///< the name that it has beside a video of this file name
+};
+/// Those of a video that exist.
+std::vector<Companion> CompanionsOf(const std::string& videoPath);
+/// True when they belong to a second video as well, whose name differs in the case of its
 /// extension alone.
-bool SharesSidecar(const std::string& videoPath);
-/// Makes way for a video: a sidecar of its name that lies there without a video is kept beside, see
+bool SharesCompanions(const std::string& videoPath);
+/// Makes way for a video: what lies there as a companion of its name, but without a video, is kept beside, see
 /// KeptPath, so that its drawings neither vanish nor appear on another video. False when it stays there.
-bool SetAsideOrphan(const std::string& folder, std::string_view file, IDisk& disk);
-/// A video and its sidecar on the way to a folder, under a new file name.
+bool SetAsideOrphans(const std::string& folder, std::string_view file, IDisk& disk);
+/// A video and its companions on the way to a folder, under a new file name.
 CopyUnit VideoUnit(const std::string& videoPath, const std::string& folder, std::string_view file);
 
 // --- many of them
@@ -36,7 +41,7 @@ struct VideoTransfer {
   std::string studentFolder;  ///< whose profile and notes go along when the target has none; "" for none
 };
 
-/// Takes videos to other folders, each with its sidecar, one after the other.
+/// Takes videos to other folders, each with its companions, one after the other.
 class VideoTransferJob final : public IJob {
  public:
   enum class OnClash {

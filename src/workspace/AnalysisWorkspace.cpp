@@ -23,7 +23,7 @@ AnalysisWorkspace::AnalysisWorkspace(IHost& host, Settings& settings, PlaySchedu
       keeping_(host, settings, stage_, tools_),
       videos_(host, stage_, keeping_, *this),
       compare_(host, settings, scheduler, stage_, compareView, *this),
-      transport_(host, settings, stage_, compare_.Locks(), view),
+      transport_(host, settings, stage_, keeping_, compare_.Locks(), view),
       edits_(host, settings, stage_, tools_, *this, editsView),
       timer_(stage_, transport_, view),
       notes_(stage_, keeping_, view),

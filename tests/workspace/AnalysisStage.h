@@ -63,7 +63,10 @@ class FakeWindow final : public IWorkspaceView {
     line = words;
     counter = number;
   }
-  void SetMarks(const std::vector<int>& positions) override { marks = positions; }
+  void SetMarks(const std::vector<ShownMark>& shown) override {
+    marks.clear();
+    for (const ShownMark& mark : shown) marks.push_back(mark.position);
+  }
   void SetDisplayText(const std::string& words) override { text = words; }
   void ShowVectorColor(Colour shown) override { colour = shown; }
   void HideVectorColor() override { colour.reset(); }

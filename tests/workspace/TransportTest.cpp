@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <set>
+
 #include "AnalysisStage.h"
 #include "workspace/transport/Countdown.h"
 
@@ -139,6 +142,29 @@ TEST_F(TransportTest, LoopsOneOrAllVideosOfTheLayout) {
   transport.ToggleLoop();
   transport.TogglePlay();
   EXPECT_FALSE(stage.window.loop) << "pause ends the loop";
+}
+
+// They belong to the video, not to the window, and two windows put together what they found.
+TEST_F(TransportTest, MarksStayWithTheirVideo) {
+  const std::string path = stage.Video("marked.avi");
+  stage.Open(1, path);
+  stage.Open(2, path);
+  transport.Seek(7);
+  transport.AddMark();
+  transport.NameMark(0, "Aufprall, 衝撃");
+  stage.Stage().SelectWindow(2);
+  transport.Seek(3);
+  transport.AddMark();
+  stage.Rest();
+  ASSERT_TRUE(stage.Videos().CloseAll());
+  stage.Stage().SelectWindow(1);
+  stage.Open(1, path);
+  EXPECT_EQ(std::set(stage.window.marks.begin(), stage.window.marks.end()), (std::set{3, 7}));
+  const auto& marks = stage.Stage().At(1).data.Study.Marks;
+  EXPECT_TRUE(std::ranges::any_of(marks, [](const VideoMark& mark) { return mark.Name == "Aufprall, 衝撃"; }));
+  transport.ClearMarks();
+  ASSERT_TRUE(stage.Reopen(1));
+  EXPECT_TRUE(stage.Stage().At(1).data.Study.Marks.empty());
 }
 
 TEST_F(TransportTest, TenMarksForEachWindow) {

@@ -27,7 +27,7 @@ TEST(VideosTest, OpeningBeginsAfreshInEverySlot) {
   const Slot& slot = stage.Stage().At(1);
   EXPECT_EQ(slot.VideoZoom, 1.0);
   EXPECT_EQ(slot.PanX + slot.SlotFrameRate, 0);
-  EXPECT_TRUE(slot.marks.empty());
+  EXPECT_TRUE(slot.data.Study.Marks.empty());
   EXPECT_EQ(slot.MP->Speed(), 100);
   EXPECT_FALSE(slot.MP->FlipHorizontal() || stage.window.slomo);
   EXPECT_TRUE(FileExists(stage.folder + "/Erica Sample/(003) FO driver.ved")) << "the one before was written";

@@ -293,7 +293,7 @@ void MenuBar::AddTools() {
   AddSeparator(kTools);
   Add({"TMark", kTools, "Mark Video Position", "", "mark", "", kNoButton, [this] { transport_.AddMark(); }, hasVideo});
   Add({"TMarkoff", kTools, "Video Marks Off", "", "", "", kNoButton, [this] { transport_.ClearMarks(); },
-       Needs([this] { return !stage_.Current().marks.empty(); }, "The current video has no marks")});
+       Needs([this] { return !stage_.Current().data.Study.Marks.empty(); }, "The current video has no marks")});
   Add({"TN", kTools, "Show Video &Notes", "Notesbutton", "notes", "Show Video Notes", kMeasuring,
        [this] { notes_.ToggleNotes(); }, NeedsVideo(stageFree), [this] { return notes_.Shown(); }});
 }

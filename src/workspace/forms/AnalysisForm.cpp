@@ -254,7 +254,7 @@ void AnalysisForm::SetLoopButton(bool down) { playBar_->SetLoop(down); }
 void AnalysisForm::SetDisplayLine(const std::string& line, const std::string& counter) {
   playBar_->SetLine(Q(line), Q(counter));
 }
-void AnalysisForm::SetMarks(const std::vector<int>& marks) { playBar_->SetMarks(marks); }
+void AnalysisForm::SetMarks(const std::vector<ShownMark>& marks) { playBar_->SetMarks(marks); }
 
 // ---------------------------------------------------------------- drawing
 

@@ -85,7 +85,7 @@ class AnalysisForm : public PageWidget, private IWorkspaceView, private IOpenVid
   void SetSlomoButton(bool down) override;
   void SetLoopButton(bool down) override;
   void SetDisplayLine(const std::string& line, const std::string& counter) override;
-  void SetMarks(const std::vector<int>& marks) override;
+  void SetMarks(const std::vector<ShownMark>& marks) override;
   void SetDisplayText(const std::string& text) override;
   void ShowVectorColor(Colour colour) override;
   void HideVectorColor() override;

@@ -1,8 +1,12 @@
 #include "workspace/forms/MarkBox.h"
 
+#include <QCursor>
+#include <QInputDialog>
+#include <QMenu>
 #include <algorithm>
 
 #include "platform/widgets/Scale.h"
+#include "platform/widgets/Text.h"
 #include "workspace/forms/StageLook.h"
 
 namespace kinalyx {
@@ -11,6 +15,7 @@ namespace {
 constexpr int kGap = 3;
 constexpr int kCardEdge = 6;
 constexpr int kHeight = 22;
+constexpr int kLongestName = 40;  // characters
 
 }  // namespace
 
@@ -22,7 +27,9 @@ MarkBox::MarkBox(QWidget* parent) : QFrame(parent) {
     mark->setFocusPolicy(Qt::NoFocus);
     mark->setToolTip(tr("Go to this mark"));
     mark->hide();
+    mark->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(mark, &QToolButton::clicked, this, [this, i] { emit Chosen(i); });
+    connect(mark, &QWidget::customContextMenuRequested, this, [this, i] { ShowMenu(i); });
     marks_[static_cast<std::size_t>(i)] = mark;
   }
   hide();
@@ -41,11 +48,33 @@ void MarkBox::Dress() {
                          "#MarkBox QToolButton:pressed { background: @accentFill; }");
 }
 
-void MarkBox::SetMarks(const std::vector<int>& marks) {
+void MarkBox::ShowMenu(int mark) {
+  QMenu menu(this);
+  menu.setObjectName("MarkMenu");
+  for (const QString& name : {tr("Address"), tr("Top"), tr("Impact"), tr("Finish")})
+    menu.addAction(name, this, [this, mark, name] { emit Named(mark, name); });
+  menu.addAction(tr("Other Name..."), this, [this, mark] {
+    bool typed = false;
+    const QString name =
+        QInputDialog::getText(this, tr("Name of the mark"), tr("Name:"), QLineEdit::Normal, {}, &typed);
+    if (typed) emit Named(mark, name.trimmed().left(kLongestName));
+  });
+  menu.addSeparator();
+  menu.addAction(tr("No Name"), this, [this, mark] { emit Named(mark, {}); });
+  menu.addAction(tr("Remove Mark"), this, [this, mark] { emit Removed(mark); });
+  menu.exec(QCursor::pos());
+}
+
+void MarkBox::SetMarks(const std::vector<ShownMark>& marks) {
   count_ = static_cast<int>(std::min(marks.size(), marks_.size()));
   for (std::size_t i = 0; i < marks_.size(); ++i) {
     const bool used = static_cast<int>(i) < count_;
-    if (used) marks_[i]->setText(QString::number(marks[i]));
+    if (used) {
+      const QString name = Q(marks[i].name);
+      marks_[i]->setText(name.isEmpty() ? QString::number(marks[i].position) : name);
+      marks_[i]->setToolTip(name.isEmpty() ? tr("Go to this mark. A right click names it.")
+                                           : tr("Go to \"%1\", picture %2").arg(name).arg(marks[i].position));
+    }
     marks_[i]->setVisible(used);
   }
 }

@@ -5,17 +5,19 @@
 #include <array>
 #include <vector>
 
+#include "workspace/transport/ITransportView.h"
+
 namespace kinalyx {
 
-/// The buttons of a video's marks, `Mark0` to `Mark9`, each with its position: a row inside the play bar, or
-/// where the bar has no room for all of them a card beside it.
+/// The buttons of a video's marks, `Mark0` to `Mark9`, each with its name or its position: a row inside the play bar,
+/// or where the bar has no room for all of them a card beside it.
 class MarkBox : public QFrame {
   Q_OBJECT
 
  public:
   explicit MarkBox(QWidget* parent);
 
-  void SetMarks(const std::vector<int>& marks);
+  void SetMarks(const std::vector<ShownMark>& marks);
   int Count() const { return count_; }
   /// Pixels that all buttons take side by side.
   int RowWidth() const;
@@ -28,8 +30,12 @@ class MarkBox : public QFrame {
 
  signals:
   void Chosen(int mark);
+  /// A mark shall have this name; empty: none.
+  void Named(int mark, const QString& name);
+  void Removed(int mark);
 
  private:
+  void ShowMenu(int mark);
   void Lay(int columns, int edge);
   int ButtonWidth() const;
 

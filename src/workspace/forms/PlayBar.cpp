@@ -68,6 +68,9 @@ PlayBar::PlayBar(Transport& transport, QWidget* parent) : StagePanel("Playbar", 
 
   markBox_ = new MarkBox(this);
   connect(markBox_, &MarkBox::Chosen, this, [this](int mark) { transport_.GoToMark(mark); });
+  connect(markBox_, &MarkBox::Named, this,
+          [this](int mark, const QString& name) { transport_.NameMark(mark, Std(name)); });
+  connect(markBox_, &MarkBox::Removed, this, [this](int mark) { transport_.RemoveMark(mark); });
   marksButton_ = new QToolButton(this);
   marksButton_->setObjectName("MarksBtn");
   marksButton_->setToolTip(tr("Marks of this video"));
@@ -163,10 +166,12 @@ void PlayBar::SetLine(const QString& line, const QString& counter) {
   if (rearrange) Arrange();
 }
 
-void PlayBar::SetMarks(const std::vector<int>& marks) {
+void PlayBar::SetMarks(const std::vector<ShownMark>& marks) {
   if (marks == marks_) return;
   marks_ = marks;
-  seek_->SetMarks(marks);
+  std::vector<int> positions;
+  for (const ShownMark& mark : marks) positions.push_back(mark.position);
+  seek_->SetMarks(std::move(positions));
   markBox_->SetMarks(marks);
   marksButton_->setText(QString::number(markBox_->Count()));
   if (marks.empty()) marksButton_->setChecked(false);

@@ -26,7 +26,7 @@ class PlayBar : public StagePanel {
   void SetSlomo(bool down) { slomo_->setChecked(down); }
   void SetLoop(bool down) { loop_->setChecked(down); }
   void SetLine(const QString& line, const QString& counter);
-  void SetMarks(const std::vector<int>& marks);
+  void SetMarks(const std::vector<ShownMark>& marks);
 
   /// Without a video in the current window there is nothing to press; locked videos are played and rewound
   /// by the bar of the lock.
@@ -72,7 +72,7 @@ class PlayBar : public StagePanel {
   QToolButton* detach_;
   MarkBox* markBox_;
   QToolButton* marksButton_ = nullptr;  ///< opens the card of the marks
-  std::vector<int> marks_;
+  std::vector<ShownMark> marks_;
   QString longest_;  ///< the line for which there is room
   bool docked_ = true;
   bool playing_ = false;

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "library/SidecarMerge.h"
+#include "library/Study.h"
 #include "platform/host/DriveWatch.h"
 
 namespace kinalyx {
@@ -19,14 +20,23 @@ constexpr int kAgain = 10000;  // after the disk has refused
 Keeping::Keeping(IHost& host, const Settings& settings, Stage& stage, DrawingTools& tools)
     : host_(host), settings_(settings), stage_(stage), drawings_(stage, tools) {}
 
+Keeping::Stamps Keeping::Stamps::Of(const std::string& videoPath) {
+  return {StampOf(SidecarPath(videoPath)), StampOf(StudyPath(videoPath))};
+}
+
+SlotData Keeping::ReadBoth(const std::string& videoPath, const VideoInfo& info) const {
+  SlotData data = ReadVideoData(SidecarPath(videoPath), info, settings_.NewColors);
+  ReadStudy(StudyPath(videoPath), data);
+  return data;
+}
+
 void Keeping::Read(int slot, const std::string& path, const VideoInfo& info) {
   for (int other = 1; other <= kSlots; ++other)
     if (stage_.At(other).path == path) std::ignore = SaveData(other);  // what it refuses is told when that closes
-  const std::string sidecar = SidecarPath(path);
   Kept& kept = At(slot);
   kept = {};
-  kept.base = ReadVideoData(sidecar, info, settings_.NewColors);
-  kept.stamp = StampOf(sidecar);
+  kept.base = ReadBoth(path, info);
+  kept.stamps = Stamps::Of(path);
   stage_.At(slot).data = kept.base;
   stage_.At(slot).data.Shapes = {};
 }
@@ -88,9 +98,9 @@ Result<std::string> Keeping::SaveData(int slot) {
   // With nothing of its own to say a slot leaves alone what another one wrote for the same video, and what
   // could not be read.
   const std::string nothingLeftOut;
-  if (!changed && (kept.savedElsewhere || at.data.Unread)) return nothingLeftOut;
+  if (!changed && (kept.savedElsewhere || at.data.Unread || at.data.Study.Unread)) return nothingLeftOut;
   if (!host_.Drives().Answers(settings_.LibraryPath, at.path)) return Outcome::Failed("the drive is not answering");
-  if (StampOf(SidecarPath(at.path)) != kept.stamp) kept.savedElsewhere = true;
+  if (Stamps::Of(at.path) != kept.stamps) kept.savedElsewhere = true;
   if (!changed && kept.savedElsewhere) return nothingLeftOut;
   // A video that somebody else has taken away needs no sidecar; new work on it is kept all the same.
   if (!changed && !FileExists(at.path)) return nothingLeftOut;
@@ -104,27 +114,34 @@ Result<std::string> Keeping::Write(int slot, SlotData mine) {
   Slot& at = stage_.At(slot);
   Kept& kept = At(slot);
   const std::string sidecar = SidecarPath(at.path);
+  const std::string study = StudyPath(at.path);
   // Both have something to say: whoever saves brings it together. What was drawn there does not stand in this
   // window, which therefore has a base of its own.
   MergedData merged{mine, mine.Shapes};
-  if (kept.savedElsewhere && at.MP->Info() && FileSize(sidecar).value_or(0) > 0) {
-    const SlotData theirs = ReadVideoData(sidecar, *at.MP->Info(), settings_.NewColors);
+  const bool anything = FileSize(sidecar).value_or(0) > 0 || FileExists(study);
+  if (kept.savedElsewhere && at.MP->Info() && anything) {
+    const SlotData theirs = ReadBoth(at.path, *at.MP->Info());
     if (theirs.Unread) merged.whole.Unread = true;  // and what is missing in it was not deleted: it is kept beside
     else merged = MergeVideoData(mine, theirs, kept.base);
   }
   SlotData& whole = merged.whole;
   const std::string_view fitting = FittingNotes(whole.Notes);
   if (fitting.size() < whole.Notes.size()) whole.Unread = true;  // what is about to be cut stands in the file before
-  const Result<std::string> written = WriteVideoData(sidecar, whole);
+  // First the study: it knows drawings by their records, so that those which stand already keep what is theirs
+  // should the sidecar be refused.
+  const Outcome studied = WriteStudy(study, whole);
+  const Result<std::string> written = studied ? WriteVideoData(sidecar, whole) : studied;
   if (!written) {
     host_.Note(MessageKind::Warning, "a sidecar could not be saved: " + written.Why());
     return written;
   }
 
-  const bool notesCame = at.data.Notes != fitting;
+  whole.Study.Unread = false;
+  const bool somethingCame = at.data.Notes != fitting || at.data.Study != whole.Study;
   at.data.Notes = fitting;
   at.data.Unread = false;
-  kept.stamp = StampOf(sidecar);
+  at.data.Study = whole.Study;
+  kept.stamps = Stamps::Of(at.path);
   kept.changed = false;
   kept.base = at.data;
   kept.base.Shapes = std::move(merged.own);
@@ -133,7 +150,7 @@ Result<std::string> Keeping::Write(int slot, SlotData mine) {
   drawings_.Saved(slot, kept.base);
   for (int other = 1; other <= kSlots; ++other)
     if (other != slot && stage_.At(other).path == at.path) At(other).savedElsewhere = true;
-  if (notesCame) stage_.News().Note(kVideoChanged);
+  if (somethingCame) stage_.News().Note(kVideoChanged);
   return written;
 }
 

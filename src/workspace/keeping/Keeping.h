@@ -15,8 +15,8 @@ namespace kinalyx {
 
 /// Keeps what is drawn, noted and switched on the videos of the eight slots: reads it from their sidecars, and
 /// writes it as soon as the user's hands rest, so that a power cut costs a second of work and not the lesson.
-/// A sidecar that another slot, another window or another workstation has written meanwhile is brought
-/// together with what this slot has made since it read it.
+/// What has no place in a sidecar stands in a study file beside it. A file that another slot, another window or another
+/// workstation has written meanwhile is brought together with what this slot has made since it read it.
 class Keeping {
  public:
   Keeping(IHost& host, const Settings& settings, Stage& stage, DrawingTools& tools);
@@ -33,7 +33,7 @@ class Keeping {
   void FollowPicture(int slot) { drawings_.FollowPicture(slot); }
   /// Drawings may have changed: they are saved when the hands rest.
   void DrawingsChanged();
-  /// The fields of a slot's data have changed.
+  /// The fields of a slot's data, or its study, have changed.
   void FieldsChanged(int slot);
   /// The notes of a slot's video.
   void SetNotes(int slot, const std::string& notes);
@@ -48,15 +48,24 @@ class Keeping {
   bool SaveOrAsk(int slot);
 
  private:
-  /// What is known of a slot's sidecar.
+  /// The two files beside a video: its sidecar and its study.
+  struct Stamps {
+    std::optional<FileStamp> sidecar;
+    std::optional<FileStamp> study;
+
+    static Stamps Of(const std::string& videoPath);
+    bool operator==(const Stamps&) const = default;
+  };
+  /// What is known of a slot's sidecar and study.
   struct Kept {
     SlotData base;  ///< this slot's own work as it was read or written last, its drawings as the file has them
-    std::optional<FileStamp> stamp;  ///< of the sidecar, as it was then
-    bool savedElsewhere = false;     ///< another slot, or another workstation, has written it since
-    bool changed = false;            ///< fields or notes differ from what it held
+    Stamps stamps;  ///< of its files, as they were then
+    bool savedElsewhere = false;  ///< another slot, or another workstation, has written them since
+    bool changed = false;         ///< fields, notes or study differ from what they held
   };
 
   Kept& At(int slot) { return kept_[static_cast<std::size_t>(slot - 1)]; }
+  SlotData ReadBoth(const std::string& videoPath, const VideoInfo& info) const;
   Result<std::string> Write(int slot, SlotData mine);
   void SaveAll();
   bool SaveAtRest(int slot);

@@ -25,9 +25,8 @@ struct Slot {
   double VideoZoom = 1.0;
   double PanX = 0;  ///< twips before zoom
   double PanY = 0;
-  int SlotFrameRate = 0;   ///< set by the user; 0 means the video's own
-  std::vector<int> marks;  ///< positions, at most ten
-  bool refused = false;    ///< its work could not be written when it was tried last
+  int SlotFrameRate = 0;  ///< set by the user; 0 means the video's own
+  bool refused = false;   ///< its work could not be written when it was tried last
 
   TwipRect cell;   ///< the place in the grid
   TwipRect panel;  ///< the clip area, relative to the cell

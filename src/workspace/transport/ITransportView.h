@@ -5,6 +5,14 @@
 
 namespace kinalyx {
 
+/// A mark as the play bar shows it.
+struct ShownMark {
+  int position = 0;
+  std::string name;
+
+  friend bool operator==(const ShownMark&, const ShownMark&) = default;
+};
+
 /// What the transport asks of the window with the play bar.
 class ITransportView {
  public:
@@ -19,8 +27,8 @@ class ITransportView {
   virtual void SetLoopButton(bool down) = 0;
   /// The transport's line, and the frame counter's text (empty: not shown).
   virtual void SetDisplayLine(const std::string& line, const std::string& counter) = 0;
-  /// Marks of the current slot as positions; empty hides the mark box.
-  virtual void SetMarks(const std::vector<int>& marks) = 0;
+  /// Marks of the current slot; empty hides the mark box.
+  virtual void SetMarks(const std::vector<ShownMark>& marks) = 0;
   /// A text over the current picture, such as the tool's caption; empty hides it.
   virtual void SetDisplayText(const std::string& text) = 0;
   virtual void ShowVideoTimer(bool shown) = 0;

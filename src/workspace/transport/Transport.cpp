@@ -25,8 +25,9 @@ std::string Seconds(double seconds) {
 
 }  // namespace
 
-Transport::Transport(IHost& host, Settings& settings, Stage& stage, LockedVideos& locks, ITransportView& view)
-    : host_(host), settings_(settings), stage_(stage), locks_(locks), view_(view) {}
+Transport::Transport(IHost& host, Settings& settings, Stage& stage, Keeping& keeping, LockedVideos& locks,
+                     ITransportView& view)
+    : host_(host), settings_(settings), stage_(stage), keeping_(keeping), locks_(locks), view_(view) {}
 
 /// The player of the current window; null while it is empty.
 AVIControl* Transport::Player() {
@@ -120,20 +121,50 @@ void Transport::ToggleLoopAll() {
 
 void Transport::AddMark() {
   Slot& slot = stage_.Current();
-  if (slot.path.empty() || slot.marks.size() >= kMarks) return;
-  slot.marks.push_back(slot.MP->Position());
-  view_.SetMarks(slot.marks);
+  if (slot.path.empty() || slot.data.Study.Marks.size() >= kMarks) return;
+  slot.data.Study.Marks.push_back({VideoMoment::At(slot.MP->Position(), slot.MP->SplitFields()), {}, {}});
+  MarksChanged();
 }
 
 void Transport::GoToMark(int n) {
   const Slot& slot = stage_.Current();
-  if (n < 0 || n >= static_cast<int>(slot.marks.size())) return;
-  Seek(slot.marks[static_cast<std::size_t>(n)]);
+  if (n < 0 || n >= static_cast<int>(slot.data.Study.Marks.size())) return;
+  Seek(slot.data.Study.Marks[static_cast<std::size_t>(n)].Moment.Position(slot.MP->SplitFields()));
+}
+
+void Transport::NameMark(int n, const std::string& name) {
+  auto& marks = stage_.Current().data.Study.Marks;
+  if (n < 0 || n >= static_cast<int>(marks.size())) return;
+  std::string& present = marks[static_cast<std::size_t>(n)].Name;
+  if (std::exchange(present, name) != name) MarksChanged();
+}
+
+void Transport::RemoveMark(int n) {
+  auto& marks = stage_.Current().data.Study.Marks;
+  if (n < 0 || n >= static_cast<int>(marks.size())) return;
+  marks.erase(marks.begin() + n);
+  MarksChanged();
 }
 
 void Transport::ClearMarks() {
-  stage_.Current().marks.clear();
-  view_.SetMarks({});
+  auto& marks = stage_.Current().data.Study.Marks;
+  if (marks.empty()) return;
+  marks.clear();
+  MarksChanged();
+}
+
+void Transport::MarksChanged() {
+  keeping_.FieldsChanged(stage_.CurrentWindow);
+  ShowMarks();
+  stage_.News().Note(kCommandsChanged);
+}
+
+void Transport::ShowMarks() {
+  const Slot& slot = stage_.Current();
+  std::vector<ShownMark> marks;
+  for (const VideoMark& mark : slot.data.Study.Marks)
+    marks.push_back({mark.Moment.Position(slot.MP->SplitFields()), mark.Name});
+  view_.SetMarks(marks);
 }
 
 /// Positions per second as they were taken, where they are told otherwise than by the times of the pictures; else 0.
@@ -141,7 +172,8 @@ double Transport::KnownRate(int slot) const {
   const Slot& at = stage_.At(slot);
   if (at.SlotFrameRate > 0) return at.SlotFrameRate;
   if (at.data.RealFrameRate > 0) return at.data.RealFrameRate;
-  const double taken = at.MP->Info() ? at.MP->Info()->captureRate : 0;
+  const double told = at.MP->Info() ? at.MP->Info()->captureRate : 0;
+  const double taken = at.data.Study.TrueRate > 0 ? at.data.Study.TrueRate : told;
   return taken * (at.MP->SplitFields() ? 2 : 1);
 }
 
@@ -203,7 +235,7 @@ void Transport::ShowCurrent() {
   view_.SetSlomoButton(player && player->Speed() != 100);
   view_.SetLoopButton(player && player->Repeat());
   view_.SetPlayPicture(player && (player->IsPlaying() || locks_.PlayingTogether(stage_.CurrentWindow)));
-  view_.SetMarks(stage_.Current().marks);
+  ShowMarks();
 }
 
 void Transport::ShowAll() {

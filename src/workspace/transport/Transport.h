@@ -4,6 +4,7 @@
 
 #include "platform/host/Host.h"
 #include "workspace/compare/LockedVideos.h"
+#include "workspace/keeping/Keeping.h"
 #include "workspace/stage/Stage.h"
 #include "workspace/transport/ITransportView.h"
 
@@ -14,7 +15,7 @@ namespace kinalyx {
 class Transport {
  public:
   /// Locked videos refuse the transport's own commands and move together.
-  Transport(IHost& host, Settings& settings, Stage& stage, LockedVideos& locks, ITransportView& view);
+  Transport(IHost& host, Settings& settings, Stage& stage, Keeping& keeping, LockedVideos& locks, ITransportView& view);
 
   /// Play or pause. At the last position or the one before, it plays from the start.
   void TogglePlay();
@@ -37,10 +38,12 @@ class Transport {
   void ToggleLoopAll();
   bool AllLooping() const;
 
-  /// Keeps the present position as a mark; the eleventh of a slot is refused.
+  /// Keeps the present position as a mark of the current video; the eleventh is refused.
   void AddMark();
   /// Goes to mark `n`, from 0.
   void GoToMark(int n);
+  void NameMark(int n, const std::string& name);
+  void RemoveMark(int n);
   void ClearMarks();
 
   /// Writes `text` over the picture, or with "" clears it and writes the transport's line.
@@ -74,10 +77,13 @@ class Transport {
   void ShowPosition();
   void ShowCell(int slot);
   double KnownRate(int slot) const;
+  void MarksChanged();
+  void ShowMarks();
 
   IHost& host_;
   Settings& settings_;
   Stage& stage_;
+  Keeping& keeping_;
   LockedVideos& locks_;
   ITransportView& view_;
   HostTimer FRtimer_;

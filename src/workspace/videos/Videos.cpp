@@ -220,7 +220,6 @@ void Videos::ToggleSplitFields() {
   const int frame = at.MP->SplitFields() ? at.MP->Position() / 2 : at.MP->Position();
   at.data.SplitFields = !at.MP->SplitFields();
   keeping_.FieldsChanged(slot);
-  for (int& mark : at.marks) mark = at.data.SplitFields ? 2 * mark : mark / 2;
   at.MP->setSplitFields(at.data.SplitFields);
   at.MP->DrawFrame(at.data.SplitFields ? 2 * frame : frame);
   events_.FieldsSplit(slot);
