@@ -31,6 +31,15 @@ const ShapeInf& InfOf(int Kind) {
   return Kind >= 0 && Kind < kShapeKinds ? ShapeInfs[static_cast<std::size_t>(Kind)] : kUnknown;
 }
 
+int ShapeTime::OpacityOn(int frame) const {
+  constexpr int kFull = 255;
+  if (Always()) return kFull;
+  const std::int64_t away = std::max(std::int64_t{First} - frame, std::int64_t{frame} - Last);
+  if (away <= 0) return kFull;
+  const std::int64_t fade = std::max(0, Fade);
+  return away > fade ? 0 : static_cast<int>(kFull * (fade + 1 - away) / (fade + 1));
+}
+
 std::span<const POINTAPI> PointsOf(const Shape& shape) {
   return std::span(shape.Pts).first(Usable(shape.NumPts, shape.Pts.size()));
 }

@@ -65,6 +65,8 @@ struct ShapeTime {
   int Fade = 0;   ///< frames before First over which it comes, and behind Last over which it goes
 
   bool Always() const { return Last < First; }
+  /// 0 where it is not seen, 255 where it is seen in full.
+  int OpacityOn(int frame) const;
   friend bool operator==(const ShapeTime&, const ShapeTime&) = default;
 };
 
