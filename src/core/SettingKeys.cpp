@@ -82,6 +82,10 @@ std::vector<Settings::Key> Settings::ConfigKeys() {
   add("StrobeStep", "1", &StrobeStep);
   add("OpenDlgChoice", "0", &OpenDlgChoice);
   add("ShortGame", "0", &ShortGame);
+  // What is 0 where the file of an older version has no such key, and works there as it did.
+  add("ShapeLabels", "1", &ShapeLabels);
+  add("AngleFrom", "0", &AngleFrom);
+  add("SpeedUnit", "0", &SpeedUnit);
 
   section = "Ruler";
   add("CalibNumber", "0", &CalibNumber);
@@ -90,6 +94,7 @@ std::vector<Settings::Key> Settings::ConfigKeys() {
   add("CalibHeight", "0", &CalibHeight);
   add("CalibInput", "1", &CalibInput);
   add("CalibOutput", "1", &CalibOutput);
+  add("RulerPerVideo", "1", &RulerPerVideo);
   add("NTSCorPAL", "0", &NTSCorPAL);
 
   section = "Layout";

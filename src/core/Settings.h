@@ -12,6 +12,9 @@ namespace kinalyx {
 
 class IHost;
 
+/// A value of `AngleFrom`.
+constexpr std::int32_t kFromUpright = 1;
+
 /// What the settings tell.
 class ISettingsEvents {
  public:
@@ -105,6 +108,9 @@ class Settings {
   std::int32_t StrobeStep = 0;
   std::int32_t OpenDlgChoice = 0;  ///< open panel: 0 right, 1 left, 2 middle
   std::int32_t ShortGame = 0;      ///< short-game naming: 1 on, anything else off
+  std::int32_t ShapeLabels = 0;    ///< 1: figures stand beside drawings
+  std::int32_t AngleFrom = 0;      ///< lines lean from the level, or kFromUpright
+  std::int32_t SpeedUnit = 0;      ///< of the figures beside paths, see ShapeLabels.h
 
   // --- [Ruler]
   std::int32_t CalibNumber = 0;  ///< measured pixels
@@ -113,7 +119,8 @@ class Settings {
   std::int32_t CalibHeight = 0;  ///< and of its height; 0 in settings that know only the width, or neither
   std::int32_t CalibInput = 0;
   std::int32_t CalibOutput = 0;
-  std::string NTSCorPAL;  ///< "0" NTSC, 60 fields a second; "1" PAL, 50
+  std::int32_t RulerPerVideo = 0;  ///< 1: a video is measured by its own ruler alone
+  std::string NTSCorPAL;           ///< "0" NTSC, 60 fields a second; "1" PAL, 50
 
   // --- [Layout]
   std::string Design;                        ///< colour scheme, "0" to "7"

@@ -39,6 +39,7 @@ void DrawingTools::TakeTool(int Index) {
   workspace_.MouseWanted();
   workspace_.ReleaseLoopButton();
   Drawing_ = true;
+  HideDrawings(false);  // who draws wants to see it
   NewShapePending_ = true;
   DrawKind_ = Index;
   measure_.reset();
@@ -351,6 +352,30 @@ void DrawingTools::ChooseColours(const ShapeList& list) {
   }
 }
 
+/// None where all are seen in full.
+void DrawingTools::ChooseOpacities(const ShapeList& list, int frame) {
+  opacities_.clear();
+  const auto seen = [&](const Shape& shape) { return shape.Locked ? shape.Time.OpacityOn(frame) : 255; };
+  const auto shapes = ShapesOf(list);
+  if (!hidden_ && std::ranges::all_of(shapes, [](const Shape& shape) { return shape.Time.Always(); })) return;
+  for (const Shape& shape : shapes)
+    opacities_.push_back(static_cast<std::uint8_t>(hidden_ && shape.Locked ? 0 : seen(shape)));
+}
+
+void DrawingTools::HideDrawings(bool hidden) {
+  if (std::exchange(hidden_, hidden) != hidden) RefreshAll();
+}
+
+void DrawingTools::ToggleLabels() {
+  settings_.Set(settings_.ShapeLabels, LabelsShown() ? 0 : 1);
+  RefreshAll();
+}
+
+void DrawingTools::RefreshAll() {
+  for (int window = 1; window <= ShapeLists::kWindows; ++window)
+    if (workspace_.HasVideo(window)) workspace_.Refresh(window);
+}
+
 void DrawingTools::PreDrawFrame(Canvas& hDC, int Window) {
   const ShapeList& list = List(Window);
   const auto shapes = ShapesOf(list);
@@ -358,7 +383,9 @@ void DrawingTools::PreDrawFrame(Canvas& hDC, int Window) {
   const GridLook grid{list.GridOn, settings_.GridSize, settings_.NewColors[kGridEntry]};
   const ShapeLook look{settings_.CadWidth, settings_.CadOutline, engine_.PathHighlight, engine_.EllipseFromCentre,
                        &engine_.Log};
-  const auto failed = painters_[static_cast<std::size_t>(Window - 1)].Paint(hDC, shapes, colours_, grid, look);
+  ChooseOpacities(list, workspace_.FrameOf(Window));
+  const auto failed =
+      painters_[static_cast<std::size_t>(Window - 1)].Paint(hDC, shapes, colours_, grid, look, opacities_);
   TellFailure(Window, failed ? &shapes[*failed] : nullptr);
 
   const auto finishedPath = [](const Shape& shape) {
@@ -390,11 +417,30 @@ void DrawingTools::TellFailure(int window, const Shape* failed) {
 /// that was calibrated has twice as many pixels to an inch.
 Calibration DrawingTools::CalibrationOf(int window) const {
   const auto ratio = [](int now, int then) { return now > 0 && then > 0 ? static_cast<double>(now) / then : 1; };
-  // Pictures of one layout share their height, whatever their proportion. Older settings know only the width.
-  const double grown = settings_.CalibHeight > 0 ? ratio(workspace_.PictureHeight(window), settings_.CalibHeight)
-                                                 : ratio(workspace_.PictureWidth(window), settings_.CalibWidth);
-  return {settings_.CalibNumber, static_cast<float>(settings_.CalibNumberOut * grown), settings_.CalibOutput,
-          settings_.NTSCorPAL != "0"};
+  Calibration calibration;
+  calibration.pal = settings_.NTSCorPAL != "0";
+  calibration.perSecond = workspace_.PositionsPerSecond(window);
+  const int height = workspace_.PictureHeight(window);
+  if (const auto ruler = workspace_.RulerOf(window)) {
+    calibration.CalibNumber = ruler->Height;
+    calibration.CalibNumberOut = static_cast<float>(ruler->PixelsPerInch * ratio(height, ruler->Height));
+    calibration.CalibOutput = ruler->Unit;
+  } else if (settings_.RulerPerVideo == 0) {
+    // Pictures of one layout share their height, whatever their proportion. Older settings know only the width.
+    const double grown = settings_.CalibHeight > 0 ? ratio(height, settings_.CalibHeight)
+                                                   : ratio(workspace_.PictureWidth(window), settings_.CalibWidth);
+    calibration.CalibNumber = settings_.CalibNumber;
+    calibration.CalibNumberOut = static_cast<float>(settings_.CalibNumberOut * grown);
+    calibration.CalibOutput = settings_.CalibOutput;
+  }
+  return calibration;
+}
+
+MeasureScale DrawingTools::ScaleOf(int window) const {
+  const Calibration calibration = CalibrationOf(window);
+  const bool calibrated = calibration.CalibNumber != 0 && calibration.CalibNumberOut > 0;
+  return {calibrated ? calibration.CalibNumberOut : 0.0, calibration.CalibOutput, calibration.perSecond,
+          settings_.AngleFrom == kFromUpright, settings_.SpeedUnit};
 }
 
 void DrawingTools::SetShapeCaption() {

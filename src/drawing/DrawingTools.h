@@ -9,6 +9,7 @@
 #include "core/Settings.h"
 #include "drawing/IDrawingWorkspace.h"
 #include "drawing/Measurement.h"
+#include "drawing/ShapeLabels.h"
 #include "drawing/ShapeHistory.h"
 #include "drawing/ShapeStore.h"
 #include "drawing/WindowPainter.h"
@@ -82,6 +83,13 @@ class DrawingTools final : public IShapeLocked {
   bool MouseUp(int Button, int Shift, float X, float Y, int Window);
 
   // --- frame
+  /// Takes all finished drawings off the pictures, in every window, until they are wanted again; what is being
+  /// drawn stays in sight.
+  void HideDrawings(bool hidden);
+  bool Hidden() const { return hidden_; }
+  /// Figures stand beside the drawings of every window.
+  void ToggleLabels();
+  bool LabelsShown() const { return settings_.ShapeLabels != 0; }
   /// Paints the grid and the shapes of a window, and the measure of the current shape with them.
   void PreDrawFrame(Canvas& hDC, int Window);
 
@@ -158,7 +166,10 @@ class DrawingTools final : public IShapeLocked {
   void SetEditBar();
   void StepHistory(int window, bool (ShapeHistory::*step)(ShapeList&));
   void ChooseColours(const ShapeList& list);
+  void ChooseOpacities(const ShapeList& list, int frame);
+  void RefreshAll();
   Calibration CalibrationOf(int window) const;
+  MeasureScale ScaleOf(int window) const;
   void ShowMeasure(Measure measure);
   void FollowMeasure();
   void TellFailure(int window, const Shape* failed);
@@ -171,6 +182,8 @@ class DrawingTools final : public IShapeLocked {
   std::array<ShapeHistory, ShapeLists::kWindows> histories_;
   std::array<std::string, ShapeLists::kWindows> failures_;  // what the user was told last
   std::vector<Colour> colours_;
+  std::vector<std::uint8_t> opacities_;
+  bool hidden_ = false;
 
   bool Drawing_ = false;
   bool NewShapePending_ = false;  ///< the next press of the mouse begins a shape

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
+#include "drawing/Measurement.h"
 #include "drawing/Shape.h"
 #include "platform/paint/Geometry.h"
 
@@ -55,6 +57,13 @@ class IDrawingWorkspace {
   virtual void DrawingsChanged(int) {}
   /// Offers a finished square to a waiting zoom or carve; true takes it, and it is no drawing then.
   virtual bool TakeSquare(int, const Shape&) { return false; }
+  // --- what a window's video is measured by
+  /// Its own ruler.
+  virtual std::optional<VideoRuler> RulerOf(int) { return std::nullopt; }
+  /// Positions that were taken in one second; 0 not known.
+  virtual double PositionsPerSecond(int) { return 0; }
+  /// The frame that it shows.
+  virtual int FrameOf(int) { return 0; }
   virtual bool CalibrationShown() { return false; }
   /// The length of the measuring line, "123.4pts".
   virtual void ShowCalibrationLength(const std::string&) {}

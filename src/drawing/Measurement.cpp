@@ -50,8 +50,16 @@ std::string AngleCaption(std::span<const POINTAPI> points) {
 /// What moved from the last click to the mouse did so in one field.
 std::string SpeedCaption(POINTAPI from, POINTAPI to, const Calibration& calibration) {
   const double inches = ReadNumber(Figures(LineLength(from, to) / calibration.CalibNumberOut));
-  const double perHour = inches * (calibration.pal ? kFieldsPerHour50 : kFieldsPerHour60);
-  return fmt::format("{}MPH", std::llrint(perHour) / kInchesPerMile);
+  const double fieldsPerHour = calibration.pal ? kFieldsPerHour50 : kFieldsPerHour60;
+  const auto miles = [&](double perHour) { return std::llrint(inches * perHour) / kInchesPerMile; };
+  std::string text = fmt::format("{}MPH", miles(fieldsPerHour));
+  // Rates such as 59.94 count as what they are called by.
+  constexpr double kSecondsPerHour = 3600, kSame = 0.01;
+  const double perHour = calibration.perSecond * kSecondsPerHour;
+  if (perHour > 0 && std::abs(perHour / fieldsPerHour - 1) > kSame)
+    text += fmt::format(" at {:.0f} a second, in truth {}MPH at {:.4g}", fieldsPerHour / kSecondsPerHour,
+                        miles(perHour), calibration.perSecond);
+  return text;
 }
 
 }  // namespace

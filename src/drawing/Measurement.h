@@ -10,12 +10,23 @@ namespace kinalyx {
 /// Units of a typed or shown length.
 enum LengthUnit { kInches, kFeet, kCentimetres, kMetres };
 
-/// How pixels become lengths; the settings of the section "Ruler".
+/// How long things are in a video.
+struct VideoRuler {
+  double PixelsPerInch = 0;  ///< above 0, in a picture of this size
+  int Width = 0;             ///< pixels
+  int Height = 0;
+  int Unit = kInches;  ///< of the display, a LengthUnit
+
+  friend bool operator==(const VideoRuler&, const VideoRuler&) = default;
+};
+
+/// How pixels become lengths.
 struct Calibration {
   int CalibNumber = 0;       ///< the measured length in pixels; 0: not calibrated
   float CalibNumberOut = 0;  ///< pixels per inch, in the picture as it is shown
   int CalibOutput = kFeet;   ///< unit of the display
   bool pal = false;          ///< 50 fields a second instead of 60
+  double perSecond = 0;      ///< positions of the video that were taken in a second; 0: not known
 };
 
 enum class AngleMode {
@@ -36,7 +47,8 @@ std::string NumberText(double value);
 std::string LengthText(double pixels, const Calibration& calibration);
 
 /// What a shape measures, for the display: the angles and length of a line, the opening of an angle, the
-/// speed along a path from its last click to the mouse. Nothing for all else, and for an uncalibrated path.
+/// speed along a path from its last click to the mouse, by 60 or 50 positions a second, and where the video has
+/// another rate, by that too. Nothing for all else, and for an uncalibrated path.
 std::optional<std::string> ShapeCaption(const Shape& shape, const Calibration& calibration);
 
 /// Pixels per inch from a line of `pixels` and the length typed for it; nothing for a length that is 0.

@@ -101,7 +101,7 @@ Layer WindowPainter::Record(const Job& job, const std::function<void(Canvas&)>& 
 
 /// Lays a long list that rests in one go; false while there is no such layer.
 bool WindowPainter::LayWhole(const Job& job, Surface& surface) {
-  if (!AllRest(job)) {
+  if (!AllRest(job) || !job.opacities.empty()) {
     DropWhole();
     return false;
   }
@@ -123,12 +123,19 @@ bool WindowPainter::PaintOne(const Job& job, std::size_t i, Canvas& canvas, int&
   const Shape& shape = job.shapes[i];
   Entry& entry = entries_[i];
   bool drawn = true;
-  if (!entry.content.Shows(shape, job.colours[i])) {
+  const bool changed = !entry.content.Shows(shape, job.colours[i]);
+  if (changed) {
     entry.content.Take(shape, job.colours[i]);
     bytes_ -= entry.layer.Bytes();
     entry.layer = Layer();
     entry.kept = false;
-  } else if (!entry.kept && mayKeep > 0 && bytes_ < kMostBytes) {
+  }
+  // One that comes or goes is seen through glass, which takes a layer.
+  constexpr int kFull = 255;
+  const int opacity = job.opacities.empty() ? kFull : job.opacities[i];
+  if (opacity == 0) return true;
+  const bool glass = opacity < kFull;
+  if (!entry.kept && (glass || (!changed && mayKeep > 0)) && bytes_ < kMostBytes) {
     --mayKeep;
     entry.layer = Record(job, [&](Canvas& kept) { drawn = PaintShape(shape, job.colours[i], kept, job.look); });
     // A shape that fails is tried, and told of, on each frame.
@@ -136,16 +143,16 @@ bool WindowPainter::PaintOne(const Job& job, std::size_t i, Canvas& canvas, int&
     bytes_ += entry.layer.Bytes();
   }
   if (!entry.kept) return PaintShape(shape, job.colours[i], canvas, job.look);
-  entry.layer.LayOver(canvas.Target());
+  entry.layer.LayOver(canvas.Target(), opacity);
   return true;
 }
 
 std::optional<std::size_t> WindowPainter::Paint(Canvas& canvas, std::span<const Shape> shapes,
                                                 std::span<const Colour> colours, const GridLook& grid,
-                                                const ShapeLook& look) {
+                                                const ShapeLook& look, std::span<const std::uint8_t> opacities) {
   const Surface& surface = canvas.Target();
   if (surface.Empty()) return std::nullopt;
-  const Job job{shapes, colours, look, canvas.CurrentPen()};
+  const Job job{shapes, colours, opacities, look, canvas.CurrentPen()};
   Begin({surface.Width(), surface.Height(), job.pen.width, job.pen.style, look});
   PaintGrid(canvas, grid);
   if (entries_.size() != shapes.size()) DropWhole();

@@ -29,10 +29,12 @@ struct GridLook {
 class WindowPainter {
  public:
   /// Paints the grid and the shapes, first to last, with `colours[i]` for shape i. The canvas's pen is
-  /// left as it was. Returns the index of the first shape that could not be drawn; an empty surface takes
+  /// left as it was. `opacities[i]` is 0 for a shape that is not seen now, 255 for one that is seen in full; none
+  /// mean that all are. Returns the index of the first shape that could not be drawn; an empty surface takes
   /// nothing and is no error.
   std::optional<std::size_t> Paint(Canvas& canvas, std::span<const Shape> shapes, std::span<const Colour> colours,
-                                   const GridLook& grid, const ShapeLook& look);
+                                   const GridLook& grid, const ShapeLook& look,
+                                   std::span<const std::uint8_t> opacities = {});
   /// Bytes held for the next frames.
   std::size_t Bytes() const { return bytes_; }
 
@@ -68,6 +70,7 @@ class WindowPainter {
   struct Job {
     std::span<const Shape> shapes;
     std::span<const Colour> colours;
+    std::span<const std::uint8_t> opacities;
     const ShapeLook& look;
     Pen pen;
   };

@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "drawing/Measurement.h"
 #include "drawing/Shape.h"
 #include "platform/files/FileStore.h"
 #include "platform/media/VideoFile.h"
@@ -38,16 +39,6 @@ struct VideoMark {
   std::string Unknown;  ///< what a later version has written of it, as JSON; only carried along
 
   friend bool operator==(const VideoMark&, const VideoMark&) = default;
-};
-
-/// How long things are in a video.
-struct VideoRuler {
-  double PixelsPerInch = 0;  ///< above 0, in a picture of this size
-  int Width = 0;             ///< pixels
-  int Height = 0;
-  int Unit = 0;  ///< of the display, as in Measurement
-
-  friend bool operator==(const VideoRuler&, const VideoRuler&) = default;
 };
 
 /// What was found in a video and has no place in its sidecar. It lives in a file of its own, see Study.h, as

@@ -25,11 +25,12 @@ AnalysisWorkspace::AnalysisWorkspace(IHost& host, Settings& settings, PlaySchedu
       compare_(host, settings, scheduler, stage_, compareView, *this),
       transport_(host, settings, stage_, keeping_, compare_.Locks(), view),
       edits_(host, settings, stage_, tools_, *this, editsView),
+      times_(stage_, tools_, *this),
       timer_(stage_, transport_, view),
       notes_(stage_, keeping_, view),
       rateTest_(host, stage_),
-      ruler_(settings, tools_, *this, stage_, view),
-      menuBar_({stage_, videos_, transport_, tools_, edits_, timer_, notes_, rateTest_, ruler_, compare_}, view,
+      ruler_(host, settings, tools_, *this, stage_, keeping_, view),
+      menuBar_({stage_, videos_, transport_, tools_, edits_, times_, timer_, notes_, rateTest_, ruler_, compare_}, view,
                navigation) {
   menuBar_.SetProfilesTitle(Vocabulary(settings_).Profiles());
 }
@@ -231,6 +232,15 @@ void AnalysisWorkspace::ReleaseLoopButton() {
   view_.SetLoopButton(false);
 }
 
+double AnalysisWorkspace::PositionsPerSecond(int window) {
+  return stage_.HasVideo(window) ? transport_.DisplayRate(window) : 0;
+}
+
+int AnalysisWorkspace::FrameOf(int window) {
+  const AVIControl& player = stage_.MP(window);
+  return player.SplitFields() ? player.Position() / 2 : player.Position();
+}
+
 bool AnalysisWorkspace::OnLastFrame(int window) {
   const AVIControl& player = stage_.MP(window);
   return player.Position() >= player.VideoLength() - 1;
@@ -242,7 +252,8 @@ void AnalysisWorkspace::AdvanceFrame(int window) {
   compare_.Locks().AdvancePartners(window);
 }
 
-void AnalysisWorkspace::DrawingsChanged(int) {
+void AnalysisWorkspace::DrawingsChanged(int window) {
+  ruler_.DrawingFinished(window);
   keeping_.DrawingsChanged();
   stage_.News().Note(kPicturesChanged);
 }

@@ -9,6 +9,7 @@
 #include "workspace/commands/MenuBar.h"
 #include "workspace/compare/CompareModes.h"
 #include "workspace/edits/DrawingEdits.h"
+#include "workspace/edits/DrawingTimes.h"
 #include "workspace/keeping/Keeping.h"
 #include "workspace/stage/Stage.h"
 #include "workspace/videos/Videos.h"
@@ -48,6 +49,7 @@ class AnalysisWorkspace final : public IFrameInterface,
   kinalyx::Transport& Transport() { return transport_; }
   DrawingTools& Tools() { return tools_; }
   DrawingEdits& Edits() { return edits_; }
+  DrawingTimes& Times() { return times_; }
   MenuBar& Commands() { return menuBar_; }
   VideoTimer& Timer() { return timer_; }
   VideoNotes& Notes() { return notes_; }
@@ -93,7 +95,10 @@ class AnalysisWorkspace final : public IFrameInterface,
   void StageChanged(unsigned changes) override;
   void VideoOpened(int slot) override { compare_.Strobe().VideoOpened(slot); }
   void VideoClosing(int slot) override;
-  void VideoClosed(int slot) override { timer_.Forget(slot); }
+  void VideoClosed(int slot) override {
+    timer_.Forget(slot);
+    ruler_.VideoClosed(slot);
+  }
   void FieldsSplit(int) override { compare_.Locks().FieldsSplit(); }
   void GiveWay() override;
   void TakeSquareTool() override;
@@ -119,6 +124,9 @@ class AnalysisWorkspace final : public IFrameInterface,
   void MouseWanted() override { compare_.StopWaiting(); }
   void DrawingsChanged(int window) override;
   bool TakeSquare(int window, const Shape& square) override;
+  std::optional<VideoRuler> RulerOf(int window) override { return stage_.At(window).data.Study.Ruler; }
+  double PositionsPerSecond(int window) override;
+  int FrameOf(int window) override;
   bool CalibrationShown() override { return ruler_.Shown(); }
   void ShowCalibrationLength(const std::string& length) override { ruler_.ShowLength(length); }
 
@@ -133,6 +141,7 @@ class AnalysisWorkspace final : public IFrameInterface,
   CompareModes compare_;
   kinalyx::Transport transport_;
   DrawingEdits edits_;
+  DrawingTimes times_;
   VideoTimer timer_;
   VideoNotes notes_;
   DisplayRateTest rateTest_;

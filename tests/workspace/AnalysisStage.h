@@ -36,6 +36,7 @@ class FakeWindow final : public IWorkspaceView {
   std::string line, counter, text, calibrationLength, reading, rate;
   bool negative = false, timer = false, calibration = false, lists = false;
   std::vector<int> marks;
+  std::string videoRuler;
   std::optional<Colour> colour;
   std::optional<std::string> notes;
   int openPanels = 0;
@@ -80,8 +81,10 @@ class FakeWindow final : public IWorkspaceView {
     rate = perSecond;
   }
   void ShowCalibration(bool shown) override { calibration = shown; }
+  void SetVideoRuler(const std::string& words) override { videoRuler = words; }
   void SetCalibrationLength(const std::string& length) override { calibrationLength = length; }
   void ShowNotesform() override {}
+  void ShowRateForm() override {}
   void ShowOpenPanel() override {
     ++openPanels;
     lists = true;

@@ -95,8 +95,46 @@ TEST(RulerTest, ItsLineIsNoDrawing) {
   EXPECT_EQ(stage.Points(1), (std::vector<POINTAPI>{{60, 80}, {90, 100}}));
 }
 
+// What was calibrated on one video says nothing of the next, unless the user wants it so.
+TEST(RulerTest, BelongsToItsVideo) {
+  OpenStage stage("2");
+  const std::string second = stage.Video("second.avi");
+  stage.Run("TCal");
+  stage.Click(1, 50, 100);
+  stage.Click(1, 150, 100);
+  stage.analysis.Ruler().Calibrate(1, kMetres, kMetres);
+  stage.Draw(kLine, {20, 30}, {70, 30});
+  EXPECT_NEAR(Shown(stage), 0.5, 0.002);
+  EXPECT_TRUE(stage.host.questions.empty());
+
+  ASSERT_TRUE(stage.Open(2, second));
+  stage.Stage().SelectWindow(2);
+  for (int line = 1; line <= 2; ++line) {  // asked once, answered with no
+    stage.Draw(kLine, {20, 30 * line}, {70, 30 * line});
+    stage.host.Advance(10);
+    EXPECT_NE(stage.window.text.find("px"), std::string::npos) << stage.window.text;
+  }
+  ASSERT_EQ(stage.host.questions.size(), 1u);
+  EXPECT_NE(stage.host.questions[0].find("second"), std::string::npos);
+
+  ASSERT_TRUE(stage.Reopen(2));
+  stage.host.answers = {true};
+  stage.Draw(kLine, {20, 90}, {70, 90});
+  stage.host.Advance(10);
+  EXPECT_TRUE(stage.Stage().At(2).data.Study.Ruler);
+  ASSERT_TRUE(stage.Reopen(2));
+  stage.Draw(kLine, {20, 120}, {70, 120});
+  EXPECT_NEAR(Shown(stage), 0.5, 0.002) << "kept with the video";
+  stage.Run("TCal");
+  EXPECT_NE(stage.window.videoRuler.find("1 meter is"), std::string::npos) << stage.window.videoRuler;
+  stage.analysis.Ruler().RemoveRuler();
+  EXPECT_EQ(stage.window.videoRuler, "");
+  EXPECT_TRUE(stage.Stage().At(1).data.Study.Ruler) << "the other keeps its own";
+}
+
 TEST(RulerTest, TurnsPixelsIntoLengths) {
   OpenStage stage;
+  stage.settings.RulerPerVideo = 0;
   const auto measure = [&](POINTAPI from, POINTAPI to) {
     stage.Draw(kLine, from, to);
     return Shown(stage);

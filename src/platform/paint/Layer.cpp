@@ -223,6 +223,31 @@ void Layer::LayOver(Surface& target) const {
   }
 }
 
+void Layer::LayOver(Surface& target, int opacity) const {
+  constexpr int kFull = 255;
+  if (opacity >= kFull) return LayOver(target);
+  if (opacity <= 0 || !content_ || target.Width() != content_->width || target.Height() != content_->height) return;
+  std::uint8_t* pixels = target.Row(0);
+  const std::size_t total = static_cast<std::size_t>(content_->width) * content_->height;
+  std::vector<std::uint8_t> laid;
+  // A drawing that comes or goes is seen for moments, so its pixels may be taken one by one.
+  const auto through = [&](std::size_t place, std::size_t bytes, auto lay) {
+    std::uint8_t* there = pixels + place * 4;
+    laid.assign(std::max<std::size_t>(bytes, kBlockBytes), 0);
+    std::memcpy(laid.data(), there, bytes);
+    lay(laid.data());
+    for (std::size_t i = 0; i < bytes; ++i)
+      there[i] = static_cast<std::uint8_t>((laid[i] * opacity + there[i] * (kFull - opacity) + kFull / 2) / kFull);
+  };
+  for (const Coat& coat : content_->coats) {
+    for (std::size_t i = 0; i < coat.places.size(); ++i)
+      through(coat.places[i], std::min<std::size_t>(kBlockBytes, (total - coat.places[i]) * 4),
+              [&](std::uint8_t* at) { BlendBlock(at, coat.blocks[i]); });
+    for (const Run& run : coat.runs)
+      through(run.place, run.count * 4, [&](std::uint8_t* at) { MergeRun(at, run.pen, run.count); });
+  }
+}
+
 bool Layer::Empty() const { return !content_; }
 
 std::size_t Layer::Bytes() const {

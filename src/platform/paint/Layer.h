@@ -27,6 +27,8 @@ class Layer {
 
   /// Lays the drawing over `target`; a target of another size is left alone.
   void LayOver(Surface& target) const;
+  /// The same as through glass: `opacity` 0 shows nothing of it, 255 all.
+  void LayOver(Surface& target, int opacity) const;
   bool Empty() const;
   /// Bytes held, for bounding a store of layers.
   std::size_t Bytes() const;

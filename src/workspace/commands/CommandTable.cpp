@@ -91,6 +91,9 @@ constexpr KeyRow kKeyRows[] = {
     {"ReopenVideos", Key('T', kShift | kCtrl)},
     {"Lastcadoff", Key(kKeyDelete)},
     {"TMark", Letter('M')},
+    {"NextDrawing", Letter('N')},
+    {"HideDrawings", Letter('V')},
+    {"ShapeLabels", Letter('D')},
     {"TTES", Key(kKeyCtrl)},
     {"PanUp", Key(kKeyNumpad0 + 8)},
     {"PanUp", Letter('Y')},
@@ -228,6 +231,54 @@ void MenuBar::AddDraw() {
        hasShapes});
 }
 
+/// When drawings are seen.
+void MenuBar::AddTimes() {
+  const auto hasDrawing =
+      Needs([this] { return HasVideo() && times_.Time(); }, "Nothing is drawn in the current window");
+  const auto plain = [&](const char* item, const char* caption, std::function<void()> run,
+                         std::function<bool(const ShapeTime&)> is) {
+    Add({item, kDraw, caption, "", "", "", kNoButton, std::move(run), hasDrawing, [this, is = std::move(is)] {
+           const auto time = times_.Time();
+           return HasVideo() && time && is(*time);
+         }});
+  };
+  AddSeparator(kDraw);
+  plain(
+      "DrawingAlways", "Show Drawing on Whole Video", [this] { times_.ShowAlways(); }, &ShapeTime::Always);
+  plain(
+      "DrawingHere", "Show Drawing on This Picture", [this] { times_.ShowHere(); },
+      [](const ShapeTime& time) { return time.First == time.Last; });
+  plain(
+      "DrawingFromHere", "Show Drawing From Here", [this] { times_.ShowFromHere(); },
+      [](const ShapeTime&) { return false; });
+  plain(
+      "DrawingUntilHere", "Show Drawing Until Here", [this] { times_.ShowUntilHere(); },
+      [](const ShapeTime&) { return false; });
+  Add({"NextDrawing", kDraw, "N - Next Drawing", "", "", "", kNoButton, [this] { times_.GoToNext(); },
+       Needs([this] { return HasVideo() && times_.AnyTimed(); },
+             "No drawing of the current video belongs to a moment")});
+  Add({"HideDrawings",
+       kDraw,
+       "V - Hide Drawings",
+       "",
+       "",
+       "",
+       kNoButton,
+       [this] { tools_.HideDrawings(!tools_.Hidden()); },
+       {},
+       [this] { return tools_.Hidden(); }});
+  Add({"ShapeLabels",
+       kDraw,
+       "D - Figures Beside Drawings",
+       "",
+       "",
+       "",
+       kNoButton,
+       [this] { tools_.ToggleLabels(); },
+       {},
+       [this] { return tools_.LabelsShown(); }});
+}
+
 void MenuBar::AddWindows() {
   for (const ScreenMode& mode : ScreenModes()) {
     const char* tip = "";
@@ -342,6 +393,7 @@ void MenuBar::AddSetup() {
   AddComing("mnuDownloadVideos", kSetup, "Download Model Videos");
   Add({"TCal", kSetup, "Calculate Distance for Lines", "CmdAfunctions4", "ruler", "Calibrate Ruler", kMeasuring,
        [this] { ruler_.ToggleCalibration(); }, hasVideo, [this] { return ruler_.Shown(); }});
+  Add({"TrueRate", kSetup, "True Frame Rate...", "", "", "", kNoButton, [this] { view_.ShowRateForm(); }, hasVideo});
   Add({"TAGrid",
        kSetup,
        "Adjust Grid Size",

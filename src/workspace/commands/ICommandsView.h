@@ -11,6 +11,8 @@ class ICommandsView {
   virtual bool CloseOpenPanel() = 0;
   /// The notes that go with a printout.
   virtual void ShowNotesform() = 0;
+  /// The rate at which the current video was taken.
+  virtual void ShowRateForm() = 0;
   /// Enable rules, checks and pressed buttons may have changed.
   virtual void CommandsChanged() = 0;
 };

@@ -10,6 +10,7 @@ MenuBar::MenuBar(const CommandTargets& targets, ICommandsView& view, INavigation
       transport_(targets.transport),
       tools_(targets.tools),
       edits_(targets.edits),
+      times_(targets.times),
       timer_(targets.timer),
       notes_(targets.notes),
       rateTest_(targets.rateTest),
@@ -20,6 +21,7 @@ MenuBar::MenuBar(const CommandTargets& targets, ICommandsView& view, INavigation
   AddGoTo();
   AddVideo();
   AddDraw();
+  AddTimes();
   AddWindows();
   AddTools();
   AddAdvanced();

@@ -9,6 +9,7 @@
 #include "workspace/compare/CompareModes.h"
 #include "workspace/transport/DisplayRateTest.h"
 #include "workspace/edits/DrawingEdits.h"
+#include "workspace/edits/DrawingTimes.h"
 #include "workspace/edits/RulerCalibration.h"
 #include "workspace/transport/Transport.h"
 #include "workspace/edits/VideoNotes.h"
@@ -27,6 +28,7 @@ struct CommandTargets {
   Transport& transport;
   DrawingTools& tools;
   DrawingEdits& edits;
+  DrawingTimes& times;
   VideoTimer& timer;
   VideoNotes& notes;
   DisplayRateTest& rateTest;
@@ -94,6 +96,7 @@ class MenuBar {
   void AddGoTo();
   void AddVideo();
   void AddDraw();
+  void AddTimes();
   void AddWindows();
   void AddTools();
   void AddAdvanced();
@@ -118,6 +121,7 @@ class MenuBar {
   Transport& transport_;
   DrawingTools& tools_;
   DrawingEdits& edits_;
+  DrawingTimes& times_;
   VideoTimer& timer_;
   VideoNotes& notes_;
   DisplayRateTest& rateTest_;

@@ -16,6 +16,8 @@ class IStudyView {
   /// The calibration panel; it comes with the units of the settings and empty fields.
   virtual void ShowCalibration(bool shown) = 0;
   virtual void SetCalibrationLength(const std::string& length) = 0;
+  /// What the current video's own ruler says; empty: it has none.
+  virtual void SetVideoRuler(const std::string& words) = 0;
 };
 
 }  // namespace kinalyx

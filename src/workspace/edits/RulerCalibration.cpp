@@ -1,5 +1,9 @@
 #include "workspace/edits/RulerCalibration.h"
 
+#include <fmt/format.h>
+
+#include <algorithm>
+
 #include "core/Numbers.h"
 
 namespace kinalyx {
@@ -12,6 +16,7 @@ void RulerCalibration::ToggleCalibration() {
   shown_ = true;
   Label4_.clear();
   view_.ShowCalibration(true);
+  view_.SetVideoRuler(RulerWords());
   if (!tools_.Drawing() || tools_.DrawKind() != kLine) tools_.TakeTool(kLine);
 }
 
@@ -31,6 +36,7 @@ void RulerCalibration::Calibrate(double typed, LengthUnit input, LengthUnit outp
     settings_.Set(settings_.CalibNumberOut, *scale);
     settings_.Set(settings_.CalibWidth, width_);
     settings_.Set(settings_.CalibHeight, height_);
+    SetRuler(tools_.MeasuredWindow(), VideoRuler{*scale, width_, height_, output});
   }
   settings_.Set(settings_.CalibInput, input);
   settings_.Set(settings_.CalibOutput, output);
@@ -39,6 +45,51 @@ void RulerCalibration::Calibrate(double typed, LengthUnit input, LengthUnit outp
 
 void RulerCalibration::CancelCalibration() {
   if (shown_) Close();
+}
+
+void RulerCalibration::SetRuler(int window, const std::optional<VideoRuler>& ruler) {
+  if (!stage_.HasVideo(window)) return;
+  stage_.At(window).data.Study.Ruler = ruler;
+  keeping_.FieldsChanged(window);
+  stage_.MP(window).Refresh();
+}
+
+void RulerCalibration::RemoveRuler() {
+  SetRuler(stage_.CurrentWindow, std::nullopt);
+  view_.SetVideoRuler(RulerWords());
+}
+
+std::string RulerCalibration::RulerWords() const {
+  const auto& ruler = stage_.Current().data.Study.Ruler;
+  if (!ruler) return {};
+  constexpr double kInchesPerUnit[] = {1, 12, 1 / 2.54, 100 / 2.54};
+  constexpr const char* kUnits[] = {"inch", "foot", "centimeter", "meter"};
+  const auto unit = static_cast<std::size_t>(std::clamp(ruler->Unit, 0, 3));
+  return fmt::format("In this video 1 {} is {:.4g} pixels.", kUnits[unit], ruler->PixelsPerInch * kInchesPerUnit[unit]);
+}
+
+void RulerCalibration::DrawingFinished(int window) {
+  auto& asked = asked_[static_cast<std::size_t>(window)];
+  if (asked || shown_ || settings_.RulerPerVideo == 0 || settings_.CalibNumberOut <= 0 || settings_.CalibHeight <= 0 ||
+      !stage_.HasVideo(window) || stage_.At(window).data.Study.Ruler)
+    return;
+  const ShapeList& list = tools_.List(window);
+  const auto shapes = ShapesOf(list);
+  if (list.Adding || shapes.empty()) return;
+  const int kind = shapes.back().Kind;
+  if (kind != kLine && kind != kArrow && kind != kSwingPath) return;
+  asked = true;
+  // From the event loop: the click that has finished the drawing is still under way.
+  offer_ = HostTimer(host_, 0, false, [this, window] { Offer(window); });
+}
+
+void RulerCalibration::Offer(int window) {
+  if (!stage_.HasVideo(window)) return;
+  if (host_.Question("Ruler", fmt::format("\"{}\" has no ruler of its own yet. Would you like to measure it with the "
+                                          "one that you used last?",
+                                          NameOfVideo(stage_.At(window).path))))
+    SetRuler(window,
+             VideoRuler{settings_.CalibNumberOut, settings_.CalibWidth, settings_.CalibHeight, settings_.CalibOutput});
 }
 
 void RulerCalibration::Close() {

@@ -19,6 +19,7 @@
 #include "video/KeyCodes.h"
 #include "video/forms/VideoView.h"
 #include "workspace/forms/CalibrationPanel.h"
+#include "workspace/forms/RateForm.h"
 #include "workspace/forms/ColorRow.h"
 #include "workspace/forms/CommandMenus.h"
 #include "workspace/forms/CompareForms.h"
@@ -312,6 +313,15 @@ void AnalysisForm::ShowCalibration(bool shown) {
 }
 
 void AnalysisForm::SetCalibrationLength(const std::string& length) { calibration_->SetLength(Q(length)); }
+
+void AnalysisForm::SetVideoRuler(const std::string& words) { calibration_->SetVideoRuler(Q(words)); }
+
+void AnalysisForm::ShowRateForm() {
+  const Transport& transport = analysis_->Transport();
+  RateForm form(transport.TrueRate(), transport.RateOfFile(), this);
+  if (form.exec() == QDialog::Accepted) analysis_->Transport().SetTrueRate(form.Rate());
+  FocusKeyBox();
+}
 
 void AnalysisForm::ShowNotesform() {
   const Slot& at = analysis_->Stage().Current();

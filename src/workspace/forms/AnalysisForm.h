@@ -96,6 +96,8 @@ class AnalysisForm : public PageWidget, private IWorkspaceView, private IOpenVid
   void SetVideoTimer(const std::string& reading, bool negative, const std::string& rate) override;
   void ShowCalibration(bool shown) override;
   void SetCalibrationLength(const std::string& length) override;
+  void SetVideoRuler(const std::string& words) override;
+  void ShowRateForm() override;
   void ShowNotesform() override;
   void ShowOpenPanel() override;
   bool CloseOpenPanel() override;

@@ -50,6 +50,18 @@ CalibrationPanel::CalibrationPanel(RulerCalibration& ruler, const Settings& sett
   columns->addLayout(Units(tr("Show lines in"), 4));
   Body()->addLayout(columns);
 
+  auto* present = new QHBoxLayout;
+  rulerWords_ = MakeLabel("VideoRuler", "", nullptr, this);
+  rulerWords_->setProperty("muted", true);
+  present->addWidget(rulerWords_, 1);
+  remove_ = new QPushButton(tr("Remove"), this);
+  remove_->setObjectName("RemoveRuler");
+  remove_->setToolTip(tr("This video is measured in pixels again"));
+  remove_->setFocusPolicy(Qt::TabFocus);
+  connect(remove_, &QPushButton::clicked, this, [this] { ruler_.RemoveRuler(); });
+  present->addWidget(remove_);
+  Body()->addLayout(present);
+
   auto* buttons = new QHBoxLayout;
   ok_ = new QPushButton(tr("OK"), this);
   ok_->setObjectName("CalibBtn0");
@@ -110,6 +122,11 @@ void CalibrationPanel::SetLength(const QString& length) {
   Enable();
   // The next thing that is wanted is a number, and its figures must not be taken for commands.
   if (!length.isEmpty()) typed_->setFocus();
+}
+
+void CalibrationPanel::SetVideoRuler(const QString& words) {
+  rulerWords_->setText(words.isEmpty() ? tr("This video has no ruler yet.") : words);
+  remove_->setEnabled(!words.isEmpty());
 }
 
 void CalibrationPanel::Enable() {

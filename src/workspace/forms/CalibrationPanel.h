@@ -24,6 +24,8 @@ class CalibrationPanel : public FloatCard {
   /// Empty fields, and the units of the settings.
   void Begin();
   void SetLength(const QString& length);
+  /// Empty: the video has none of its own.
+  void SetVideoRuler(const QString& words);
 
  private:
   QLayout* Units(const QString& title, int first);
@@ -36,6 +38,8 @@ class CalibrationPanel : public FloatCard {
   QLabel* length_;
   QLineEdit* typed_;
   QPushButton* ok_;
+  QLabel* rulerWords_;
+  QPushButton* remove_;
   std::array<QRadioButton*, 8> units_{};  ///< 0 to 3 of the typed length, 4 to 7 of the display
 };
 

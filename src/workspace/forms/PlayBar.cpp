@@ -7,6 +7,7 @@
 
 #include "platform/widgets/Icons.h"
 #include "platform/widgets/Scale.h"
+#include "platform/widgets/Text.h"
 #include "platform/widgets/Theme.h"
 #include "workspace/forms/StageLook.h"
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 #include <cstdlib>
 
 #include "workspace/videos/PlayerMoves.h"
@@ -175,6 +176,21 @@ double Transport::KnownRate(int slot) const {
   const double told = at.MP->Info() ? at.MP->Info()->captureRate : 0;
   const double taken = at.data.Study.TrueRate > 0 ? at.data.Study.TrueRate : told;
   return taken * (at.MP->SplitFields() ? 2 : 1);
+}
+
+double Transport::RateOfFile() const {
+  const Slot& at = stage_.Current();
+  const double told = at.MP->Info() ? at.MP->Info()->captureRate : 0;
+  return told > 0 ? told : at.frameRate;
+}
+
+void Transport::SetTrueRate(double rate) {
+  if (!stage_.HasVideo(stage_.CurrentWindow)) return;
+  const double taken = rate > 0 && rate <= kFastestRate ? rate : 0;
+  if (std::exchange(stage_.Current().data.Study.TrueRate, taken) == taken) return;
+  keeping_.FieldsChanged(stage_.CurrentWindow);
+  stage_.Current().MP->Refresh();
+  stage_.News().Note(kVideoChanged);
 }
 
 double Transport::SecondsAt(int slot) const {

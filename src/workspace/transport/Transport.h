@@ -53,6 +53,13 @@ class Transport {
   /// Positions per second that times are computed with: what the user has set, or what the file knows of how it
   /// was taken, or its own.
   double DisplayRate(int slot) const;
+  /// Pictures per second at which the current video was taken, as the user knows it (0: as its file says), and
+  /// as its file says.
+  double TrueRate() const { return stage_.Current().data.Study.TrueRate; }
+  double RateOfFile() const;
+  /// Values beyond kFastestRate, and what is no rate, count as 0.
+  void SetTrueRate(double rate);
+  static constexpr double kFastestRate = 100000;
   /// Seconds from the start of a slot's video to where it stands.
   double SecondsAt(int slot) const;
   /// Sets the range and place of the seek bar from the current video.
