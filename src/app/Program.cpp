@@ -15,6 +15,7 @@
 #include "library/forms/ProfilesPage.h"
 #include "platform/files/Folders.h"
 #include "platform/host/QtHost.h"
+#include "platform/widgets/OfferBar.h"
 #include "platform/widgets/FileDrop.h"
 #include "platform/widgets/Scale.h"
 #include "platform/widgets/Text.h"
@@ -105,6 +106,11 @@ void Program::LoadMain() {
 
   menu_ = new MenuPage(*host_, settings_);
   main_->SetPage(kMenuPage, menu_);
+  reopen_ = new OfferBar("ReopenOffer", main_.get());
+  QObject::connect(reopen_, &OfferBar::Accepted, main_.get(), [this] {
+    OpenPage(kAnalysisPage);
+    if (main_->CurrentPage() == kAnalysisPage) OpenAnalysis().Section().Commands().Run("ReopenVideos");
+  });
   QObject::connect(menu_, &MenuPage::PageWanted, [this](int index) { OpenPage(index); });
   QObject::connect(menu_, &MenuPage::MenuChanged, [this] { setup_->SetupProgram(); });
 
@@ -274,6 +280,10 @@ void Program::ExitAnalysis() {
   host_->StartTimer(0, false, [this] {
     if (main_ && !analysis_) main_->DropPage(kAnalysisPage);
   });
+}
+
+void Program::OfferReopen(const std::string& words) {
+  if (main_ && !main_->Closed()) reopen_->Offer(Q(words), QObject::tr("Reopen (Ctrl+Shift+T)"));
 }
 
 bool Program::IsOpenInAnalysis(const std::string& path) const {

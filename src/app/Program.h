@@ -25,6 +25,7 @@ class QApplication;
 namespace kinalyx {
 
 class AnalysisForm;
+class OfferBar;
 class HelpPage;
 class ImportExportPage;
 class Log;
@@ -86,6 +87,7 @@ class Program final : private ISettingsEvents,
   void GoToLibrary() override;
   void GoToMainMenu() override;
   void ExitAnalysis() override;
+  void OfferReopen(const std::string& words) override;
 
   // --- IAnalysisLink: what the library may know of the section, which is made by the first video sent to it
   bool IsOpenInAnalysis(const std::string& path) const override;
@@ -111,6 +113,7 @@ class Program final : private ISettingsEvents,
   ProfilesPage* profiles_ = nullptr;
   ImportExportPage* importExport_ = nullptr;
   AnalysisForm* analysis_ = nullptr;
+  OfferBar* reopen_ = nullptr;
   SetupPage* setup_ = nullptr;
   HelpPage* help_ = nullptr;
   ResizeControls resizeControls_;

@@ -1,9 +1,12 @@
 #include "workspace/AnalysisWorkspace.h"
 
+#include <fmt/format.h>
+
 #include <utility>
 
 #include "core/Vocabulary.h"
 #include "library/VideoNames.h"
+#include "platform/files/Folders.h"
 #include "platform/host/DriveWatch.h"
 
 namespace kinalyx {
@@ -18,10 +21,11 @@ AnalysisWorkspace::AnalysisWorkspace(IHost& host, Settings& settings, PlaySchedu
     : host_(host),
       settings_(settings),
       view_(view),
+      navigation_(navigation),
       stage_(host, settings, view, *this),
       tools_(engine_, settings, *this),
       keeping_(host, settings, stage_, tools_),
-      videos_(host, stage_, keeping_, *this),
+      videos_(host, stage_, keeping_, *this, JoinPath(settings.DataPath, "session.json")),
       compare_(host, settings, scheduler, stage_, compareView, *this),
       transport_(host, settings, stage_, keeping_, compare_.Locks(), view),
       edits_(host, settings, stage_, tools_, *this, editsView),
@@ -64,8 +68,22 @@ void AnalysisWorkspace::StageChanged(unsigned changes) {
     timer_.UpdateTimer();
     notes_.SetupNotesPnl();
   }
+  if (changes & kLocksChanged) KeepLocks();
   compare_.StageChanged(changes);
+  videos_.StageChanged();
   view_.CommandsChanged();
+}
+
+/// A video keeps the picture on which it was locked to another.
+void AnalysisWorkspace::KeepLocks() {
+  for (int slot = 1; slot <= kSlots; ++slot) {
+    bool& before = locked_[static_cast<std::size_t>(slot)];
+    const bool now = compare_.Locks().IsLocked(slot);
+    if (std::exchange(before, now) || !now) continue;
+    const AVIControl& player = stage_.MP(slot);
+    stage_.At(slot).data.Study.LockedAt = VideoMoment::At(player.Position(), player.SplitFields());
+    keeping_.FieldsChanged(slot);
+  }
 }
 
 /// What another current window brings with it: panels that belong to one window close, and what was measured
@@ -87,6 +105,16 @@ void AnalysisWorkspace::VideoClosing(int slot) {
     if (tools_.Drawing()) tools_.PutToolDown();
   }
   compare_.VideoClosing(slot);
+}
+
+void AnalysisWorkspace::VideosGone(int count, const std::string& name) {
+  navigation_.OfferReopen(count == 1 ? fmt::format("\"{}\" was closed.", name)
+                                     : fmt::format("{} videos were closed.", count));
+}
+
+void AnalysisWorkspace::LockAgain(const std::array<bool, 3>& locks) {
+  for (std::size_t i = 0; i < locks.size(); ++i)
+    if (locks[i]) compare_.Locks().DualLock(static_cast<int>(i) + 1);
 }
 
 void AnalysisWorkspace::GiveWay() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <optional>
 #include <string>
 
 #include "drawing/DrawingTools.h"
@@ -89,6 +91,7 @@ class AnalysisWorkspace final : public IFrameInterface,
 
  private:
   void ShowFocus();
+  void KeepLocks();
   void Select(int slot);
 
   // --- from the rooms
@@ -99,6 +102,9 @@ class AnalysisWorkspace final : public IFrameInterface,
     timer_.Forget(slot);
     ruler_.VideoClosed(slot);
   }
+  void VideosGone(int count, const std::string& name) override;
+  std::array<bool, 3> Locks() const override { return compare_.Locks().DualLocked; }
+  void LockAgain(const std::array<bool, 3>& locks) override;
   void FieldsSplit(int) override { compare_.Locks().FieldsSplit(); }
   void GiveWay() override;
   void TakeSquareTool() override;
@@ -133,6 +139,7 @@ class AnalysisWorkspace final : public IFrameInterface,
   IHost& host_;
   Settings& settings_;
   IWorkspaceView& view_;
+  INavigation& navigation_;
   ShapeEngine engine_;
   kinalyx::Stage stage_;
   DrawingTools tools_;
@@ -148,6 +155,7 @@ class AnalysisWorkspace final : public IFrameInterface,
   RulerCalibration ruler_;
   MenuBar menuBar_;
   HostTimer drawError_;
+  std::array<bool, kSlots + 1> locked_{};
 };
 
 }  // namespace kinalyx

@@ -249,6 +249,7 @@ class AnalysisStage : private IFrameInterface, private INavigation {
   FakeWindow window;
   FakeCompareView compareView;
   FakeEditWindows edits;
+  std::vector<std::string> offers;  ///< to bring back what was closed
   int libraryVisits = 0, menuVisits = 0, exits = 0;
   AnalysisWorkspace analysis;
 
@@ -269,6 +270,7 @@ class AnalysisStage : private IFrameInterface, private INavigation {
   void GoToLibrary() override { ++libraryVisits; }
   void GoToMainMenu() override { ++menuVisits; }
   void ExitAnalysis() override { ++exits; }
+  void OfferReopen(const std::string& words) override { offers.push_back(words); }
 
   static std::string NewFolder() {
     static int count = 0;

@@ -233,6 +233,7 @@ TEST_F(CompareModesTest, LeavingTheSectionLeavesNothingBehind) {
   stage_.EndTurn();
   const auto& view = stage_.compareView;
   EXPECT_FALSE(view.transparency || view.strobe || view.zoom || view.dual.shown || modes_.Locks().IsLocked(1));
+  stage_.Rest();  // what is kept has been kept
   EXPECT_EQ(stage_.host.TimerCount(), 0u);
   Run("STM");
   ASSERT_TRUE(stage_.Commands().PreparetoExit());

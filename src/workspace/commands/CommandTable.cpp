@@ -186,10 +186,10 @@ void MenuBar::AddVideo() {
        },
        hasVideo});
   Add({"MnuCloseAll", kVideo, "Esc - Close All Videos", "Closeallbtn", "close-all", "Close All Videos", kOpening,
-       [this] { videos_.CloseAll(); }, anyVideo});
+       [this] { videos_.CloseAll(videos_.Stood()); }, anyVideo});
   Add({"ReopenVideos", kVideo, "Ctrl+Shift+T - Reopen Closed Videos", "", "", "", kNoButton,
        [this] { videos_.ReopenClosed(); },
-       Needs([this] { return videos_.CanReopen(); }, "Only when all videos have just been closed")});
+       Needs([this] { return videos_.CanReopen(); }, "No video was closed, or every window is taken")});
   AddSeparator(kVideo);
   plain("vF", "Up Arrow - Rewind", "", [this] { transport_.Rewind(); });
   plain("VL", "Down Arrow - Play", "", [this] { transport_.TogglePlay(); });
@@ -345,6 +345,8 @@ void MenuBar::AddTools() {
   Add({"TMark", kTools, "Mark Video Position", "", "mark", "", kNoButton, [this] { transport_.AddMark(); }, hasVideo});
   Add({"TMarkoff", kTools, "Video Marks Off", "", "", "", kNoButton, [this] { transport_.ClearMarks(); },
        Needs([this] { return !stage_.Current().data.Study.Marks.empty(); }, "The current video has no marks")});
+  Add({"LineUp", kTools, "Line Up Videos by Mark", "", "lock", "", kNoButton, [this] { compare_.LineUp().ByMark(); },
+       [this] { return compare_.LineUp().Obstacle(); }});
   Add({"TN", kTools, "Show Video &Notes", "Notesbutton", "notes", "Show Video Notes", kMeasuring,
        [this] { notes_.ToggleNotes(); }, NeedsVideo(stageFree), [this] { return notes_.Shown(); }});
 }

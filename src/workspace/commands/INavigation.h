@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 namespace kinalyx {
 
 /// Where the Go To menu leads: the other pages, and whoever owns them.
@@ -11,6 +13,9 @@ class INavigation {
   /// The analysis section is left: its videos are closed, and its window may go at the next turn of the
   /// event loop.
   virtual void ExitAnalysis() = 0;
+  /// Offers for a while, on whichever page, to bring back what was closed; `words` say what that is. Who accepts
+  /// comes to the analysis section, and its command "ReopenVideos" runs.
+  virtual void OfferReopen(const std::string& words) = 0;
 };
 
 }  // namespace kinalyx

@@ -50,13 +50,14 @@ void MenuBar::SetProfilesTitle(const std::string& title) {
 }
 
 bool MenuBar::PreparetoExit() {
+  StoodStage stood = videos_.Stood();  // with its locks, which go now
   compare_.CloseAll();
   ruler_.CancelCalibration();
   if (tools_.Drawing()) tools_.PutToolDown();
   edits_.CloseAll();
   notes_.Close();
   timer_.Close();
-  return videos_.CloseAll();
+  return videos_.CloseAll(std::move(stood));
 }
 
 // ---------------------------------------------------------------- keys

@@ -15,6 +15,7 @@ CompareModes::CompareModes(IHost& host, Settings& settings, PlayScheduler& sched
     : stage_(stage),
       view_(view),
       locks_(host, scheduler, stage),
+      lineUp_(stage, locks_),
       transparency_(host, settings, stage, locks_, view, events),
       strip_(host, stage, view, events),
       carve_(host, stage, view, events),

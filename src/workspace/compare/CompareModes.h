@@ -4,6 +4,7 @@
 
 #include "video/PlayScheduler.h"
 #include "workspace/compare/Carve.h"
+#include "workspace/compare/LineUp.h"
 #include "workspace/compare/LockedVideos.h"
 #include "workspace/compare/MultiPicture.h"
 #include "workspace/compare/Transparency.h"
@@ -49,6 +50,7 @@ class CompareModes {
                ICompareEvents& events);
 
   LockedVideos& Locks() { return locks_; }
+  kinalyx::LineUp& LineUp() { return lineUp_; }
   const LockedVideos& Locks() const { return locks_; }
   kinalyx::Transparency& Transparency() { return transparency_; }
   MultiPicture& Strip() { return strip_; }
@@ -95,6 +97,7 @@ class CompareModes {
   Stage& stage_;
   ICompareView& view_;
   LockedVideos locks_;
+  kinalyx::LineUp lineUp_;
   kinalyx::Transparency transparency_;
   MultiPicture strip_;
   Carve carve_;

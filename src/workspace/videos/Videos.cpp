@@ -1,13 +1,15 @@
 #include "workspace/videos/Videos.h"
 
+#include <algorithm>
+#include <tuple>
 #include <utility>
 
 #include "platform/files/Folders.h"
 
 namespace kinalyx {
 
-Videos::Videos(IHost& host, Stage& stage, Keeping& keeping, IVideoEvents& events)
-    : host_(host), stage_(stage), keeping_(keeping), events_(events) {}
+Videos::Videos(IHost& host, Stage& stage, Keeping& keeping, IVideoEvents& events, std::string sessionPath)
+    : host_(host), stage_(stage), keeping_(keeping), events_(events), sessionPath_(std::move(sessionPath)) {}
 
 // ---------------------------------------------------------------- opening
 
@@ -126,6 +128,15 @@ void Videos::FillBottomRow() {
 
 bool Videos::CloseVideo(int slot) {
   const bool had = stage_.HasVideo(slot);
+  StoodStage closed;
+  if (had) closed.videos.push_back(Stood(slot));
+  if (!Close(slot)) return false;
+  if (had) Remember(std::move(closed));
+  return true;
+}
+
+bool Videos::Close(int slot) {
+  const bool had = stage_.HasVideo(slot);
   if (!Vacate(slot)) return false;
   if (!had) return true;
   stage_.News().Note(kVideoChanged);
@@ -154,18 +165,17 @@ bool Videos::Vacate(int slot) {
   return true;
 }
 
-bool Videos::CloseAll() {
+bool Videos::CloseAll(std::optional<StoodStage> stood) {
   stage_.ComeHome();
-  ClosedStage closed{{}, stage_.ScreenLayout, stage_.CurrentWindow};
-  for (int slot = 1; slot <= kSlots; ++slot) {
-    if (!stage_.HasVideo(slot)) continue;
-    const Slot& at = stage_.At(slot);
-    closed.videos.push_back(
-        {slot, at.path, at.MP->Position(), at.MP->FlipHorizontal(), at.VideoZoom, at.PanX, at.PanY});
-  }
+  StoodStage closed = stood ? std::move(*stood) : Stood();
   bool all = true;
-  for (const ClosedVideo& video : closed.videos) all = CloseVideo(video.slot) && all;
-  if (!closed.videos.empty()) closed_ = std::move(closed);
+  for (const StoodVideo& video : closed.videos) all = Close(video.slot) && all;
+  rest_ = {};
+  if (!closed.videos.empty()) {
+    std::ignore = WriteSession(sessionPath_, closed);  // a convenience: who cannot keep it loses nothing
+    session_ = closed;
+    Remember(std::move(closed));
+  }
   stage_.CurrentWindow = 1;
   stage_.FocusSet();
   return all;
@@ -176,26 +186,93 @@ void Videos::UndoLastOpen() {
   stage_.SelectWindow(stage_.CurrentWindow - 1);
 }
 
-void Videos::Reopen(const ClosedVideo& video) {
-  if (!OpenVideo(video.slot, video.path)) return;
-  Slot& at = stage_.At(video.slot);
+// ---------------------------------------------------------------- bringing back
+
+StoodVideo Videos::Stood(int slot) const {
+  const Slot& at = stage_.At(slot);
+  return {
+      slot,    at.path, VideoMoment::At(at.MP->Position(), at.MP->SplitFields()), at.MP->FlipHorizontal(), at.VideoZoom,
+      at.PanX, at.PanY};
+}
+
+StoodStage Videos::Stood() const {
+  // What has the stage to itself for a while is not where it comes home to.
+  const bool away = !FindScreenMode(stage_.ScreenLayout);
+  StoodStage stage{{}, away ? stage_.Home().SavedLayout : stage_.ScreenLayout, stage_.CurrentWindow, events_.Locks()};
+  for (int slot = 1; slot <= kSlots; ++slot)
+    if (stage_.HasVideo(slot)) stage.videos.push_back(Stood(slot));
+  return stage;
+}
+
+void Videos::Remember(StoodStage closed) {
+  constexpr std::size_t kMost = 20;
+  const int count = static_cast<int>(closed.videos.size());
+  const std::string name = NameOfVideo(closed.videos.front().path);
+  sessionRead_ = true;  // what was closed in this run comes first, and what was open before it is in it, or gone
+  closed_.push_back(std::move(closed));
+  if (closed_.size() > kMost) closed_.erase(closed_.begin());
+  events_.VideosGone(count, name);
+}
+
+bool Videos::CanReopen() {
+  if (!std::exchange(sessionRead_, true))
+    if (auto session = ReadSession(sessionPath_)) closed_.push_back(std::move(*session));
+  return !closed_.empty() && stage_.VideoCount() < kSlots;
+}
+
+/// The slot into which it came: its own, or when that is taken the first free one.
+std::optional<int> Videos::Reopen(const StoodVideo& video) {
+  int slot = video.slot;
+  if (stage_.HasVideo(slot)) slot = 1;
+  while (slot <= kSlots && stage_.HasVideo(slot)) ++slot;
+  if (slot > kSlots || !OpenVideo(slot, video.path)) return std::nullopt;
+  Slot& at = stage_.At(slot);
   at.VideoZoom = video.zoom;
   at.PanX = video.panX;
   at.PanY = video.panY;
-  if (video.flipped) Flip(video.slot);
-  stage_.MPResize(video.slot);
-  at.MP->DrawFrame(video.position);
+  if (video.flipped) Flip(slot);
+  stage_.MPResize(slot);
+  at.MP->DrawFrame(std::clamp(video.moment.Position(at.MP->SplitFields()), 0, at.MP->VideoLength() - 1));
+  return slot;
 }
 
 void Videos::ReopenClosed() {
   if (!CanReopen()) return;
-  stage_.ComeHome();
-  const ClosedStage closed = std::exchange(closed_, {});
-  stage_.ScreenLayout = closed.layout;
-  stage_.FormReset();
-  for (const ClosedVideo& video : closed.videos) Reopen(video);
-  stage_.SelectWindow(closed.currentWindow);
+  const StoodStage closed = std::move(closed_.back());
+  closed_.pop_back();
+  const bool empty = !stage_.AnyVideo();
+  if (empty && !closed.layout.empty()) {
+    stage_.ComeHome();
+    stage_.ScreenLayout = closed.layout;
+    stage_.FormReset();
+  }
+  int shown = 0;
+  bool all = true;
+  for (const StoodVideo& video : closed.videos) {
+    const auto slot = Reopen(video);
+    if (!slot) all = false;
+    else if (shown == 0 || video.slot == closed.currentWindow) shown = *slot;
+  }
+  if (shown > 0 && !stage_.IsShown(shown)) {
+    stage_.ComeHome();
+    stage_.SetScreen(std::min(kSlots, std::max(shown, stage_.VideoCount() + stage_.VideoCount() % 2)));
+  }
+  if (empty && !closed.layout.empty()) stage_.SelectWindow(closed.currentWindow);
+  else if (shown > 0) stage_.SelectWindow(shown);
+  if (empty && all) events_.LockAgain(closed.locks);
   stage_.News().Note(kVideoChanged);
+}
+
+void Videos::SaveSession() {
+  rest_ = {};
+  StoodStage now = Stood();
+  if (now.videos.empty() || now == session_) return;
+  if (WriteSession(sessionPath_, now)) session_ = std::move(now);
+}
+
+void Videos::StageChanged() {
+  constexpr int kRest = 3000;  // milliseconds
+  rest_ = stage_.AnyVideo() ? HostTimer(host_, kRest, false, [this] { SaveSession(); }) : HostTimer();
 }
 
 // ---------------------------------------------------------------- mirror and fields

@@ -1,11 +1,15 @@
 #pragma once
 
+#include <array>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "platform/host/Host.h"
 #include "workspace/keeping/Keeping.h"
 #include "workspace/stage/Stage.h"
+#include "workspace/videos/StoodStage.h"
 
 namespace kinalyx {
 
@@ -21,12 +25,18 @@ class IVideoEvents {
   virtual void VideoClosed(int slot) = 0;
   /// Its positions are fields now, or frames again.
   virtual void FieldsSplit(int slot) = 0;
+  /// So many videos were closed, and can be brought back. `name` is that of a single one.
+  virtual void VideosGone(int count, const std::string& name) = 0;
+  /// Which videos are locked together, and shall be again: slots 1 and 2, slots 3 and 4, all four.
+  virtual std::array<bool, 3> Locks() const = 0;
+  virtual void LockAgain(const std::array<bool, 3>& locks) = 0;
 };
 
 /// The roads by which videos enter and leave the slots, and what is switched on each: the mirror and the fields.
 class Videos {
  public:
-  Videos(IHost& host, Stage& stage, Keeping& keeping, IVideoEvents& events);
+  /// @param sessionPath  of the file that keeps the stage from one run of the program to the next
+  Videos(IHost& host, Stage& stage, Keeping& keeping, IVideoEvents& events, std::string sessionPath);
 
   /// The one road by which a video enters a slot. False when it could not be opened, or when the video
   /// there before could not be closed; the user has been told.
@@ -35,12 +45,19 @@ class Videos {
   /// try again, lose them, or keep the video open, which is the only case of false.
   bool CloseVideo(int slot);
   /// False when the user kept one open.
-  bool CloseAll();
-  /// Opens again what CloseAll closed last: the same videos at the same pictures, mirrored and
-  /// zoomed as they were, in the same layout.
-  /// Nothing happens once a video stands in a slot.
+  /// @param stood  the stage as it shall come back, where that is no longer what stands on it
+  bool CloseAll(std::optional<StoodStage> stood = {});
+  /// What stands on the stage now.
+  StoodStage Stood() const;
+  /// Opens again what was closed last, one video or all: at the same pictures, mirrored and zoomed as they were.
+  /// On an empty stage the layout and the locks come back too; else the videos go where there is room. At first
+  /// that is what stood on the stage when the program ended, yesterday or whenever.
   void ReopenClosed();
-  bool CanReopen() const { return !closed_.videos.empty() && !stage_.AnyVideo(); }
+  bool CanReopen();
+  /// Keeps what stands on the stage for the next start of the program. With nothing on it, what was kept stays.
+  void SaveSession();
+  /// The stage is another one: it is kept when the hands rest.
+  void StageChanged();
   /// Opens a file in the first free slot and widens the layout when more slots are in use than it shows.
   /// Returns the slot, or 0 with nothing changed. `status` gets the words for a status line.
   int SendToAnalysis(const std::string& path, const std::function<void(const std::string&)>& status = {});
@@ -63,33 +80,24 @@ class Videos {
   void ToggleReverseFields();
 
  private:
-  /// A video as it stood when all were closed.
-  struct ClosedVideo {
-    int slot = 1;
-    std::string path;
-    int position = 0;
-    bool flipped = false;
-    double zoom = 1;
-    double panX = 0;
-    double panY = 0;
-  };
-  struct ClosedStage {
-    std::vector<ClosedVideo> videos;
-    std::string layout;
-    int currentWindow = 1;
-  };
-
   bool Vacate(int slot);
   bool Fill(int first, int last);
   void RefuseVideo(int slot, const std::string& path, bool hasStream);
   void Flip(int slot);
-  void Reopen(const ClosedVideo& video);
+  std::optional<int> Reopen(const StoodVideo& video);
+  StoodVideo Stood(int slot) const;
+  bool Close(int slot);
+  void Remember(StoodStage closed);
 
   IHost& host_;
   Stage& stage_;
   Keeping& keeping_;
   IVideoEvents& events_;
-  ClosedStage closed_;  ///< what was closed last, all at once
+  const std::string sessionPath_;
+  std::vector<StoodStage> closed_;     ///< the latest last
+  bool sessionRead_ = false;           ///< what the program had on the stage the last time is in `closed_`
+  std::optional<StoodStage> session_;  ///< as it was written last
+  HostTimer rest_;
 };
 
 }  // namespace kinalyx
