@@ -106,7 +106,7 @@ void Program::LoadMain() {
 
   menu_ = new MenuPage(*host_, settings_);
   main_->SetPage(kMenuPage, menu_);
-  reopen_ = new OfferBar("ReopenOffer", main_.get());
+  reopen_ = new OfferBar("ReopenOffer", QObject::tr("Reopen (Ctrl+Shift+T)"), main_.get());
   QObject::connect(reopen_, &OfferBar::Accepted, main_.get(), [this] {
     OpenPage(kAnalysisPage);
     if (main_->CurrentPage() == kAnalysisPage) OpenAnalysis().Section().Commands().Run("ReopenVideos");
@@ -283,7 +283,7 @@ void Program::ExitAnalysis() {
 }
 
 void Program::OfferReopen(const std::string& words) {
-  if (main_ && !main_->Closed()) reopen_->Offer(Q(words), QObject::tr("Reopen (Ctrl+Shift+T)"));
+  if (main_ && !main_->Closed()) reopen_->Offer(Q(words));
 }
 
 bool Program::IsOpenInAnalysis(const std::string& path) const {

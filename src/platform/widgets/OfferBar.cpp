@@ -17,24 +17,24 @@ constexpr int kAboveFoot = 56;  // pixels, as designed: over a play bar
 
 }  // namespace
 
-OfferBar::OfferBar(const QString& name, QWidget* over) : QFrame(over) {
+OfferBar::OfferBar(const QString& name, const QString& action, QWidget* over) : QFrame(over) {
   setObjectName(name);
   setProperty("look", "panel");
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(kGap, 6, 6, 6);
   row->setSpacing(kGap);
   words_ = MakeLabel(name + "Words", {});
-  accept_ = new Button(name + "Accept", {});
+  auto* accept = new Button(name + "Accept", action);
   auto* dismiss = new Button(name + "Dismiss", "Dismiss", {}, Look::Quiet);
-  accept_->setFocusPolicy(Qt::NoFocus);
+  accept->setFocusPolicy(Qt::NoFocus);
   dismiss->setFocusPolicy(Qt::NoFocus);
   row->addWidget(words_);
-  row->addWidget(accept_);
+  row->addWidget(accept);
   row->addWidget(dismiss);
   end_.setSingleShot(true);
   connect(&end_, &QTimer::timeout, this, &QWidget::hide);
   connect(dismiss, &QPushButton::clicked, this, &QWidget::hide);
-  connect(accept_, &QPushButton::clicked, this, [this] {
+  connect(accept, &QPushButton::clicked, this, [this] {
     hide();
     emit Accepted();
   });
@@ -42,9 +42,8 @@ OfferBar::OfferBar(const QString& name, QWidget* over) : QFrame(over) {
   hide();
 }
 
-void OfferBar::Offer(const QString& words, const QString& action) {
+void OfferBar::Offer(const QString& words) {
   words_->setText(words);
-  accept_->setText(action);
   end_.start(kShownMs);
   show();
   Place();

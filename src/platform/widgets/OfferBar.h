@@ -7,18 +7,17 @@ class QLabel;
 
 namespace kinalyx {
 
-class Button;
-
 /// A bar at the foot of a window that offers one thing for ten seconds and then goes by itself. It takes no focus.
 class OfferBar : public QFrame {
   Q_OBJECT
 
  public:
-  /// @param over  the window at whose foot it stands, whatever page that shows
-  OfferBar(const QString& name, QWidget* over);
+  /// @param action  what its button does
+  /// @param over    the window at whose foot it stands, whatever page that shows
+  OfferBar(const QString& name, const QString& action, QWidget* over);
 
   /// A new offer takes the place of the one before.
-  void Offer(const QString& words, const QString& action);
+  void Offer(const QString& words);
 
  signals:
   void Accepted();
@@ -30,7 +29,6 @@ class OfferBar : public QFrame {
   void Place();
 
   QLabel* words_;
-  Button* accept_;
   QTimer end_;
 };
 

@@ -13,6 +13,7 @@ namespace {
 constexpr const char* kGoTo = "&Go To";
 constexpr const char* kVideo = "&Video";
 constexpr const char* kDraw = "&Draw";
+constexpr const char* kMoments = "&Draw/Seen When";
 constexpr const char* kWindows = "&Windows";
 constexpr const char* kTools = "&Tools";
 constexpr const char* kAdvanced = "Advanced";
@@ -237,24 +238,22 @@ void MenuBar::AddTimes() {
       Needs([this] { return HasVideo() && times_.Time(); }, "Nothing is drawn in the current window");
   const auto plain = [&](const char* item, const char* caption, std::function<void()> run,
                          std::function<bool(const ShapeTime&)> is) {
-    Add({item, kDraw, caption, "", "", "", kNoButton, std::move(run), hasDrawing, [this, is = std::move(is)] {
+    Add({item, kMoments, caption, "", "", "", kNoButton, std::move(run), hasDrawing, [this, is = std::move(is)] {
            const auto time = times_.Time();
            return HasVideo() && time && is(*time);
          }});
   };
   AddSeparator(kDraw);
   plain(
-      "DrawingAlways", "Show Drawing on Whole Video", [this] { times_.ShowAlways(); }, &ShapeTime::Always);
+      "DrawingAlways", "On Whole Video", [this] { times_.ShowAlways(); }, &ShapeTime::Always);
   plain(
-      "DrawingHere", "Show Drawing on This Picture", [this] { times_.ShowHere(); },
+      "DrawingHere", "On This Picture", [this] { times_.ShowHere(); },
       [](const ShapeTime& time) { return time.First == time.Last; });
   plain(
-      "DrawingFromHere", "Show Drawing From Here", [this] { times_.ShowFromHere(); },
-      [](const ShapeTime&) { return false; });
+      "DrawingFromHere", "From Here On", [this] { times_.ShowFromHere(); }, [](const ShapeTime&) { return false; });
   plain(
-      "DrawingUntilHere", "Show Drawing Until Here", [this] { times_.ShowUntilHere(); },
-      [](const ShapeTime&) { return false; });
-  Add({"NextDrawing", kDraw, "N - Next Drawing", "", "", "", kNoButton, [this] { times_.GoToNext(); },
+      "DrawingUntilHere", "Until Here", [this] { times_.ShowUntilHere(); }, [](const ShapeTime&) { return false; });
+  Add({"NextDrawing", kMoments, "N - Next Drawing", "", "", "", kNoButton, [this] { times_.GoToNext(); },
        Needs([this] { return HasVideo() && times_.AnyTimed(); },
              "No drawing of the current video belongs to a moment")});
   Add({"HideDrawings",

@@ -4,6 +4,7 @@
 #include <map>
 
 #include "platform/widgets/Icons.h"
+#include "platform/widgets/Text.h"
 #include "platform/widgets/Theme.h"
 #include "workspace/commands/MenuBar.h"
 
@@ -17,7 +18,10 @@ CommandMenus::CommandMenus(const std::vector<Command>& commands, QWidget* parent
     if (command.menu.empty() && command.caption.empty()) continue;  // a button alone
     QMenu*& menu = menus[command.menu];
     if (!menu && !command.menu.empty()) {
-      menu = addMenu(QString::fromStdString(command.menu));
+      // A menu within a menu has both names.
+      const QString name = QString::fromStdString(command.menu);
+      QMenu* outer = name.contains('/') ? menus[Std(name.section('/', 0, 0))] : nullptr;
+      menu = outer ? outer->addMenu(name.section('/', 1)) : addMenu(name);
       menu->setToolTipsVisible(true);
     }
     if (command.caption.empty()) {
