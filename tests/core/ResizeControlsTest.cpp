@@ -1,7 +1,5 @@
 #include "core/ResizeControls.h"
 
-#include <gtest/gtest.h>
-
 namespace kinalyx::test {
 namespace {
 

@@ -9,6 +9,12 @@
 
 namespace kinalyx::test {
 
+/// All bytes of a file; empty when it is missing.
+inline std::string BytesOf(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
 /// A folder of a test's own, gone with the object.
 class TempFolder {
  public:
@@ -31,11 +37,7 @@ class TempFolder {
     std::ofstream(Path(name), std::ios::binary) << bytes;
     return Path(name);
   }
-  /// All bytes of a file; empty when it is missing.
-  std::string Get(std::string_view name) const {
-    std::ifstream file(Path(name), std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-  }
+  std::string Get(std::string_view name) const { return BytesOf(Path(name)); }
   std::size_t FileCount() const {
     return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator(path_), {}));
   }

@@ -4,6 +4,7 @@
 
 #include <cstdlib>
 #include <map>
+#include <stdexcept>
 
 #include "support/TempFolder.h"
 
@@ -136,7 +137,8 @@ std::optional<int> ReadNumber(const FrameRows& rows, int field) {
 
 std::unique_ptr<VideoFile> OpenedVideo(const std::string& path) {
   auto opened = VideoFile::Open(path);
-  return opened ? std::move(*opened) : nullptr;
+  if (!opened) throw std::runtime_error(path + ": " + std::string(opened.Why()));
+  return std::move(*opened);
 }
 
 }  // namespace kinalyx::test

@@ -39,7 +39,14 @@ void PaintTestPicture(const TestVideo& video, int number, std::vector<std::uint8
 /// `field` 0 or 1 reads only the rows of that field, counted from the top.
 std::optional<int> ReadNumber(const FrameRows& rows, int field = -1);
 
-/// The open video, or null.
+/// Less memory for pictures; gives the default back at the end of a test.
+class Budget {
+ public:
+  explicit Budget(std::size_t bytes) { SetPictureBudget(bytes); }
+  ~Budget() { SetPictureBudget(std::size_t{256} << 20); }
+};
+
+/// The open video; throws when it cannot be opened.
 std::unique_ptr<VideoFile> OpenedVideo(const std::string& path);
 
 }  // namespace kinalyx::test

@@ -7,18 +7,11 @@ namespace {
 
 TEST(IniFile, ReadsAsTheUserWroteIt) {
   TempFolder folder;
-  const std::string path = folder.Put("a.ini",
-                                      "Lost=outside\r\n"
-                                      "; Name=in a comment\r\n"
-                                      "[ General ]\r\n"
-                                      "  User Name = Erica = Sample \r\n"
-                                      "Empty=\r\n"
-                                      "Quoted=\"as it stands\"\r\n"
-                                      "no key here\r\n"
-                                      "[other]\r\n"
-                                      "Empty=other\r\n"
-                                      "[GENERAL]\r\n"
-                                      "Late=second part of the section\r\n");
+  const std::string path =
+      folder.Put("a.ini",
+                 "Lost=outside\r\n; Name=in a comment\r\n[ General ]\r\n  User Name = Erica = Sample \r\nEmpty=\r\n"
+                 "Quoted=\"as it stands\"\r\nno key here\r\n[other]\r\nEmpty=other\r\n[GENERAL]\r\nLate=second part of "
+                 "the section\r\n");
   for (const auto& [section, key, value] : {std::tuple{"general", "USER name", "Erica = Sample"},
                                             {"General", "Empty", ""},
                                             {"General", "Quoted", "\"as it stands\""},
@@ -62,38 +55,15 @@ TEST(IniFile, OldFilesOfAnotherEncodingBecomeUtf8) {
 
 TEST(IniFile, WritesInPlaceAndKeepsEverythingElse) {
   TempFolder folder;
-  const std::string before =
-      "; by hand\n"
-      "[One]\n"
-      "a=1\n"
-      "; between\n"
-      "B = 2\n"
-      "\n"
-      "strange line\n"
-      "\n"
-      "[Two]\n"
-      "c=3";
+  const std::string before = "; by hand\n[One]\na=1\n; between\nB = 2\n\nstrange line\n\n[Two]\nc=3";
   const std::string path = folder.Put("a.ini", before);
   ASSERT_TRUE(WritePrivateProfileString("one", "b", "changed", path));
   ASSERT_TRUE(WritePrivateProfileString("One", "New", "added", path));
   ASSERT_TRUE(WritePrivateProfileString("TWO", "d", "two\r\nlines", path));
   ASSERT_TRUE(WritePrivateProfileString("Three", "e", "", path));
   EXPECT_EQ(folder.Get("a.ini"),
-            "; by hand\n"
-            "[One]\n"
-            "a=1\n"
-            "; between\n"
-            "b=changed\n"
-            "\n"
-            "strange line\n"
-            "New=added\n"
-            "\n"
-            "[Two]\n"
-            "c=3\n"
-            "d=two  lines\n"
-            "\n"
-            "[Three]\n"
-            "e=\n");
+            "; by hand\n[One]\na=1\n; between\nb=changed\n\nstrange line\nNew=added\n\n"
+            "[Two]\nc=3\nd=two  lines\n\n[Three]\ne=\n");
   EXPECT_TRUE(DeleteProfileKey("Two", "C", path));
   EXPECT_TRUE(DeleteProfileKey("Two", "never", path));
   EXPECT_EQ(ReadProfileValue("Two", "c", path), std::nullopt);

@@ -1,12 +1,9 @@
 #include "platform/files/Log.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <algorithm>
-#include <string>
 #include <thread>
-#include <vector>
 
 #include "platform/files/FileStore.h"
 #include "platform/files/Folders.h"

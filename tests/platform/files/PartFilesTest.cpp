@@ -1,7 +1,5 @@
 #include "platform/files/PartFiles.h"
 
-#include <gtest/gtest.h>
-
 #include "support/TempFolder.h"
 #include "support/TestDisks.h"
 

@@ -1,7 +1,5 @@
 #include "platform/paint/Blend.h"
 
-#include <gtest/gtest.h>
-
 #include <bit>
 #include <cmath>
 

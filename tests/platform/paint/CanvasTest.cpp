@@ -1,14 +1,11 @@
 #include "platform/paint/Canvas.h"
 
-#include <gtest/gtest.h>
-
 #include <array>
 #include <cstdint>
 #include <limits>
 #include <random>
 #include <set>
 #include <utility>
-#include <vector>
 
 #include "support/Surfaces.h"
 

@@ -1,9 +1,6 @@
 #include "platform/paint/ImageFiles.h"
 
-#include <gtest/gtest.h>
 #include <sys/stat.h>
-
-#include <filesystem>
 
 #include "support/Pictures.h"
 #include "support/Surfaces.h"

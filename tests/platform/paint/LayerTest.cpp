@@ -1,10 +1,7 @@
 #include "platform/paint/Layer.h"
 
-#include <gtest/gtest.h>
-
 #include <array>
 #include <random>
-#include <vector>
 
 #include "support/Surfaces.h"
 

@@ -1,11 +1,8 @@
 #include "platform/paint/PixelOps.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <cstring>
 #include <random>
-#include <vector>
 
 #include "support/Surfaces.h"
 

@@ -1,10 +1,6 @@
 #include "platform/print/Printer.h"
 
-#include <gtest/gtest.h>
-
 #include <QApplication>
-#include <fstream>
-#include <iterator>
 
 #include "support/TempFolder.h"
 
@@ -16,8 +12,7 @@ struct PrinterTest : ::testing::Test {
   int PagesOf(const PrintedText& text) {
     const std::string path = folder.Path("out.pdf");
     EXPECT_TRUE(PrintToPdf(text, path));
-    std::ifstream file(path, std::ios::binary);
-    const std::string pdf(std::istreambuf_iterator<char>(file), {});
+    const std::string pdf = BytesOf(path);
     int pages = 0;
     for (std::size_t at = pdf.find("/Type /Page\n"); at != std::string::npos; at = pdf.find("/Type /Page\n", at + 1))
       ++pages;
