@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <algorithm>
 
 #include "Player.h"
@@ -156,13 +154,6 @@ TEST(Strobe, ShowsAChainOfPoses) {
   EXPECT_EQ(BarsOn(player.view.shown), (vector<int>{2, 5, 8, 11})) << "the picture stays";
   player->Refresh();
   EXPECT_EQ(BarsOn(player.view.shown), vector<int>{11}) << "until it is drawn anew";
-}
-
-TEST(Strobe, WithoutAnEndGoesToTheLastFrame) {
-  StrobedPlayer player;
-  player->Strobeframes(4, 4, 5);
-  player.host.Advance(5000);
-  EXPECT_EQ(BarsOn(player.view.shown), (vector<int>{4, 9, 14}));
 }
 
 TEST(Strobe, StopsOnDemandAndBeforeAnyOtherMovementAlsoInItsOwnCallbacks) {
