@@ -2,6 +2,7 @@
 
 #include <libyuv.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdlib>
 
@@ -24,13 +25,16 @@ bool IsPlain420(const AVFrame& frame) {
   return frame.format == AV_PIX_FMT_YUV420P || frame.format == AV_PIX_FMT_YUVJ420P;
 }
 
-/// Doubles a row of samples: each keeps its place, and the mean of two stands between them.
-void DoubleRow(const std::uint8_t* from, int count, std::uint8_t* to) {
-  for (int x = 0; x < count - 1; ++x) {
-    to[2 * x] = from[x];
-    to[2 * x + 1] = static_cast<std::uint8_t>((from[x] + from[x + 1] + 1) >> 1);
-  }
-  to[2 * count - 2] = to[2 * count - 1] = from[count - 1];
+/// Rows of colour that are made at a time: few enough for the processor to have them still at hand when they are used.
+constexpr int kBand = 16;
+
+/// Doubles the samples of some rows: each keeps its place, and the mean of two stands between them. `means` has room
+/// for as many samples as come in.
+void DoubleSamples(const std::uint8_t* from, int stride, int count, int rows, std::uint8_t* means, std::uint8_t* to) {
+  if (count > 1) libyuv::InterpolatePlane(from, stride, from + 1, stride, means, count, count - 1, rows, 128);
+  for (int y = 0; y < rows; ++y)
+    means[y * count + count - 1] = from[static_cast<std::ptrdiff_t>(y) * stride + count - 1];
+  libyuv::MergeUVPlane(from, stride, means, count, to, 2 * count, count, rows);
 }
 
 /// The colours of a picture as they come from a range from 0 to 255, or 1023, whatever its own. libyuv keeps blue of
@@ -84,10 +88,7 @@ FrameRows RowConverter::Convert(const AVFrame& frame, int bitCount, std::vector<
   const FrameRows rows{bits.data(), size.width, size.height, rowBytes, bitCount};
   if (bitCount == 32) return Upright(frame, bits.data(), rowBytes) ? rows : FrameRows{};
 
-  if (shape_.IsPlain() && frame.format == AV_PIX_FMT_BGR24 && std::abs(frame.linesize[0]) >= frame.width * 3) {
-    libyuv::CopyPlane(frame.data[0], frame.linesize[0], bits.data(), rowBytes, frame.width * 3, -frame.height);
-    return rows;
-  }
+  if (shape_.IsPlain() && ToRgb24(frame, {bits.data(), rowBytes, -frame.height})) return rows;
   const int wideStride = size.width * 4;
   wide_.resize(static_cast<std::size_t>(wideStride) * static_cast<std::size_t>(size.height));
   const bool good = Upright(frame, wide_.data(), wideStride) &&
@@ -175,7 +176,7 @@ bool RowConverter::ToArgb(const AVFrame& frame, const RowTarget& target) {
     case AV_PIX_FMT_YUV444P:
     case AV_PIX_FMT_YUVJ444P: return ByFields<std::uint8_t>(frame, target, colours, &libyuv::I444ToARGBMatrix);
     case AV_PIX_FMT_YUV444P10: return ByFields<std::uint16_t>(frame, target, colours, &libyuv::I410ToARGBMatrix);
-    case AV_PIX_FMT_YUV411P: return Quarter411(frame, target);
+    case AV_PIX_FMT_YUV411P: return Quarter411(frame, target, &libyuv::I422ToARGBMatrix);
     case AV_PIX_FMT_BGR24:
       return libyuv::RGB24ToARGB(frame.data[0], frame.linesize[0], target.bits, target.stride, frame.width,
                                  target.height) == 0;
@@ -214,19 +215,43 @@ bool RowConverter::ToTenBits(const AVFrame& frame) {
          frame.height;
 }
 
-bool RowConverter::Quarter411(const AVFrame& frame, const RowTarget& target) {
-  const int quarter = (frame.width + 3) / 4;
-  const std::size_t plane = 2 * static_cast<std::size_t>(quarter) * static_cast<std::size_t>(frame.height);
-  chroma_.resize(2 * plane);
-  for (int p = 0; p < 2; ++p) {
-    for (int y = 0; y < frame.height; ++y) {
-      DoubleRow(frame.data[p + 1] + static_cast<std::ptrdiff_t>(y) * frame.linesize[p + 1], quarter,
-                chroma_.data() + p * plane + static_cast<std::size_t>(y) * 2 * quarter);
-    }
+/// Where rows of 24 bits can be made without the wider ones in between. False for any other picture.
+bool RowConverter::ToRgb24(const AVFrame& frame, const RowTarget& target) {
+  if (ToneMapper::Wants(frame)) return false;
+  const libyuv::YuvConstants& colours = ConstantsOf(frame);
+  switch (frame.format) {
+    case AV_PIX_FMT_YUV420P:
+    case AV_PIX_FMT_YUVJ420P: return ByFields<std::uint8_t>(frame, target, colours, &libyuv::I420ToRGB24Matrix);
+    case AV_PIX_FMT_YUV422P:
+    case AV_PIX_FMT_YUVJ422P: return ByFields<std::uint8_t>(frame, target, colours, &libyuv::I422ToRGB24Matrix);
+    case AV_PIX_FMT_YUV411P: return Quarter411(frame, target, &libyuv::I422ToRGB24Matrix);
+    case AV_PIX_FMT_BGR24:
+      if (std::abs(frame.linesize[0]) < frame.width * 3) return false;
+      libyuv::CopyPlane(frame.data[0], frame.linesize[0], target.bits, target.stride, frame.width * 3, target.height);
+      return true;
+    default: return false;
   }
-  return libyuv::I422ToARGBMatrix(frame.data[0], frame.linesize[0], chroma_.data(), 2 * quarter, chroma_.data() + plane,
-                                  2 * quarter, target.bits, target.stride, &ConstantsOf(frame), frame.width,
-                                  target.height) == 0;
+}
+
+template <typename Function>
+bool RowConverter::Quarter411(const AVFrame& frame, const RowTarget& target, Function convert) {
+  const int quarter = (frame.width + 3) / 4;
+  const std::size_t plane = std::size_t{2} * kBand * static_cast<std::size_t>(quarter);
+  chroma_.resize(3 * plane);
+  std::uint8_t* const doubled[] = {chroma_.data(), chroma_.data() + plane};
+  std::uint8_t* const means = doubled[1] + plane;
+  const bool upward = target.height < 0;
+  for (int y = 0; y < frame.height; y += kBand) {
+    const int rows = std::min(kBand, frame.height - y);
+    const auto from = [&](int p) { return frame.data[p] + static_cast<std::ptrdiff_t>(y) * frame.linesize[p]; };
+    for (const int p : {0, 1}) DoubleSamples(from(p + 1), frame.linesize[p + 1], quarter, rows, means, doubled[p]);
+    const int lowest = upward ? frame.height - y - rows : y;
+    if (convert(from(0), frame.linesize[0], doubled[0], 2 * quarter, doubled[1], 2 * quarter,
+                target.bits + static_cast<std::ptrdiff_t>(lowest) * target.stride, target.stride, &ConstantsOf(frame),
+                frame.width, upward ? -rows : rows) != 0)
+      return false;
+  }
+  return true;
 }
 
 bool RowConverter::ByScaler(const AVFrame& frame, const RowTarget& target) {

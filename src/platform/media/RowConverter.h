@@ -10,7 +10,7 @@
 
 namespace kinalyx {
 
-/// Where pixels of 32 bits are written. A negative height stands for rows that go upward.
+/// Where pixels are written. A negative height stands for rows that go upward.
 struct RowTarget {
   std::uint8_t* bits = nullptr;
   int stride = 0;
@@ -33,10 +33,12 @@ class RowConverter {
  private:
   bool Upright(const AVFrame& frame, std::uint8_t* bits, int stride);
   bool TurnPlanes(const AVFrame& frame);
+  bool ToRgb24(const AVFrame& frame, const RowTarget& target);
   bool ToArgb(const AVFrame& frame, const RowTarget& target);
   bool ByTones(const AVFrame& frame, const RowTarget& target);
   bool ToTenBits(const AVFrame& frame);
-  bool Quarter411(const AVFrame& frame, const RowTarget& target);
+  template <typename Function>
+  bool Quarter411(const AVFrame& frame, const RowTarget& target, Function convert);
   bool ByScaler(const AVFrame& frame, const RowTarget& target);
 
   PictureShape shape_;
@@ -44,7 +46,7 @@ class RowConverter {
   std::vector<std::uint8_t> lying_;   ///< before the turn
   std::vector<std::uint8_t> narrow_;  ///< before the stretch
   FrameHandle turned_;                ///< planes after the turn, where they can be turned as they are
-  std::vector<std::uint8_t> chroma_;  ///< chroma on the way from a quarter of the width to a half
+  std::vector<std::uint8_t> chroma_;  ///< some rows of chroma on the way from a quarter of the width to a half
   FrameHandle tenBits_;
   ToneMapper tones_;
   ScalerHandle scaler_;
