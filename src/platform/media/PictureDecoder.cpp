@@ -18,6 +18,8 @@ constexpr int kReorderLag = 32;
 /// As many pixels are decoded in a few seconds: no reason to show a damaged picture other than from the start.
 constexpr std::int64_t kShortWay = std::int64_t{300} * 1920 * 1080;
 
+int Processors() { return std::clamp(static_cast<int>(std::thread::hardware_concurrency()), 1, kMostThreads); }
+
 bool Has(const AVCodecDescriptor* descriptor, int property) { return descriptor && (descriptor->props & property); }
 
 }  // namespace
@@ -32,28 +34,36 @@ Result<std::unique_ptr<PictureDecoder>> PictureDecoder::Open(std::unique_ptr<Dem
   return decoder;
 }
 
-Outcome PictureDecoder::OpenCodec() {
+Result<CodecHandle> PictureDecoder::NewCodec(int threads, int threadType, Complaints& complaints) const {
   const AVCodecParameters& parameters = demuxer_->Codec();
-  const AVCodecDescriptor* descriptor = avcodec_descriptor_get(parameters.codec_id);
   const AVCodec* codec = avcodec_find_decoder(parameters.codec_id);
   CodecHandle context(codec ? avcodec_alloc_context3(codec) : nullptr);
   if (!context || avcodec_parameters_to_context(context.get(), &parameters) < 0)
     return Outcome(Fault::NoMedia, "no decoder");
-  standsAlone_ = Has(descriptor, AV_CODEC_PROP_INTRA_ONLY);
-  // Pictures that stand for themselves come fast enough, and a thread would only delay them.
-  const int processors = std::clamp(static_cast<int>(std::thread::hardware_concurrency()), 1, kMostThreads);
-  // Each thread has a picture of its own in hand.
-  const int threads = std::int64_t{parameters.width} * parameters.height > kManyPixels ? 1 : processors;
-  context->thread_count = standsAlone_ || careful_ ? 1 : threads;
+  context->thread_count = threads;
+  context->thread_type = threadType;
   // Without a word in the stream about its order the decoder must expect the worst, or it drops pictures.
   context->strict_std_compliance = FF_COMPLIANCE_STRICT;
-  context->opaque = &complaints_;
+  context->opaque = &complaints;
   context->max_pixels = kMostPixels;
   if (const int result = avcodec_open2(context.get(), codec, nullptr); result < 0)
     return Outcome(Fault::NoMedia, AvError(result));
+  return context;
+}
+
+Outcome PictureDecoder::OpenCodec() {
+  const AVCodecParameters& parameters = demuxer_->Codec();
+  const AVCodecDescriptor* descriptor = avcodec_descriptor_get(parameters.codec_id);
+  standsAlone_ = Has(descriptor, AV_CODEC_PROP_INTRA_ONLY);
+  // Each thread has a picture of its own in hand.
+  const int threads = std::int64_t{parameters.width} * parameters.height > kManyPixels ? 1 : Processors();
+  // Pictures that stand for themselves come fast enough, and a thread would only delay them.
+  auto opened = NewCodec(standsAlone_ || careful_ ? 1 : threads, FF_THREAD_FRAME | FF_THREAD_SLICE, complaints_);
+  if (!opened) return opened.Failure();
+  CodecHandle context = std::move(*opened);
   lag_ = Has(descriptor, AV_CODEC_PROP_REORDER) ? kReorderLag : 0;
   if (context->active_thread_type & FF_THREAD_FRAME && context->thread_count > 1) lag_ += context->thread_count;
-  if (lag_ == 0 && codec->capabilities & AV_CODEC_CAP_DELAY) lag_ = 1;
+  if (lag_ == 0 && context->codec->capabilities & AV_CODEC_CAP_DELAY) lag_ = 1;
   codec_ = std::move(context);
 
   if (parameters.codec_id == AV_CODEC_ID_MPEG4 && !demuxer_->TellsShowTimes()) {
@@ -75,14 +85,8 @@ bool PictureDecoder::Start(int chunk) {
   if (careful_ || wasCareful_) Stop();
   wasCareful_ = careful_;
   if (!codec_ && !OpenCodec()) return false;
-  if (!demuxer_->Seek(Index().ChunkStart(chunk))) return false;
-  avcodec_flush_buffers(codec_.get());
-  if (filter_) av_bsf_flush(filter_.get());
-  order_->Reset();
-  pictureOfPacket_.clear();
-  // Entered in the middle, a stream need not say that it is whole again: the index knows.
-  codec_->flags2 = chunk > 0 ? codec_->flags2 | AV_CODEC_FLAG2_SHOW_ALL : codec_->flags2 & ~AV_CODEC_FLAG2_SHOW_ALL;
-  chunk_ = chunk;
+  keyCodec_.reset();
+  if (!Enter(*codec_, chunk)) return false;
   next_ = Index().ChunkStart(chunk);
   firstPicture_ = settled_ = Index().ChunkFirstPicture(chunk);
   wholeFrom_ = 0;
@@ -94,10 +98,24 @@ bool PictureDecoder::Start(int chunk) {
   return true;
 }
 
+/// Sets the reader and a decoder to the start of a chunk.
+bool PictureDecoder::Enter(AVCodecContext& codec, int chunk) {
+  if (!demuxer_->Seek(Index().ChunkStart(chunk))) return false;
+  avcodec_flush_buffers(&codec);
+  if (filter_) av_bsf_flush(filter_.get());
+  order_->Reset();
+  pictureOfPacket_.clear();
+  // Entered in the middle, a stream need not say that it is whole again: the index knows.
+  codec.flags2 = chunk > 0 ? codec.flags2 | AV_CODEC_FLAG2_SHOW_ALL : codec.flags2 & ~AV_CODEC_FLAG2_SHOW_ALL;
+  chunk_ = chunk;
+  return true;
+}
+
 void PictureDecoder::Stop() {
   running_ = false;
   order_->Reset();
   codec_.reset();
+  keyCodec_.reset();
 }
 
 bool PictureDecoder::Filter(AVPacket& packet) {
@@ -151,22 +169,26 @@ void PictureDecoder::Step(int wholeFrom, const Sink& sink) {
 }
 
 FrameHandle PictureDecoder::KeyPicture(int chunk, int& picture) {
-  if (!Start(chunk)) return nullptr;
-  const auto placed = NextPlaced();
   running_ = false;
+  if (!keyCodec_) {
+    auto opened = NewCodec(Processors(), FF_THREAD_SLICE, keyComplaints_);
+    if (!opened) return nullptr;
+    keyCodec_ = std::move(*opened);
+  }
+  if (!Enter(*keyCodec_, chunk)) return nullptr;
+  const auto placed = NextPlaced();
   if (!placed || placed->picture < 0) return nullptr;
   picture = placed->picture;
-  codec_->skip_frame = AVDISCARD_DEFAULT;
   FrameHandle frame = NewFrame();
   if (chunk > 0) demuxer_->FirstWords().PutBefore(*placed->packet);
-  if (avcodec_send_packet(codec_.get(), placed->packet.get()) < 0) return nullptr;
-  // The end of the stream makes it come out; the next run begins with a flush.
-  avcodec_send_packet(codec_.get(), nullptr);
-  const bool came = avcodec_receive_frame(codec_.get(), frame.get()) >= 0;
+  const int complaints = keyComplaints_;
+  if (avcodec_send_packet(keyCodec_.get(), placed->packet.get()) < 0) return nullptr;
+  // The end of the stream makes it come out; the next one begins with a flush.
+  avcodec_send_packet(keyCodec_.get(), nullptr);
+  const bool came = avcodec_receive_frame(keyCodec_.get(), frame.get()) >= 0;
   // What a run would not believe is not taken from here either; the run that follows finds it out.
-  const bool complained = complaints_ != heardComplaints_;
-  heardComplaints_ = complaints_;
-  if (!came || complained || (frame->flags & AV_FRAME_FLAG_CORRUPT) || frame->decode_error_flags) return nullptr;
+  if (!came || keyComplaints_ != complaints || (frame->flags & AV_FRAME_FLAG_CORRUPT) || frame->decode_error_flags)
+    return nullptr;
   SettleColours(*frame);
   return frame;
 }

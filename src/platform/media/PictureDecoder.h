@@ -43,7 +43,7 @@ class PictureDecoder {
   void Step(int wholeFrom, const Sink& sink);
 
   /// The key picture of a chunk alone, and its number, without waiting for those behind it; null when it cannot
-  /// be decoded. Ends the run.
+  /// be decoded. Ends the run, and holds memory until the next one begins.
   FrameHandle KeyPicture(int chunk, int& picture);
 
   /// True when this run may still give the picture.
@@ -63,6 +63,8 @@ class PictureDecoder {
  private:
   PictureDecoder() = default;
   Outcome OpenCodec();
+  Result<CodecHandle> NewCodec(int threads, int threadType, Complaints& complaints) const;
+  bool Enter(AVCodecContext& codec, int chunk);
   std::optional<PlacedPacket> NextPlaced();
   bool Filter(AVPacket& packet);
   void Receive(const Sink& sink);
@@ -77,8 +79,10 @@ class PictureDecoder {
   std::unique_ptr<ShowOrder> order_;
   Complaints complaints_{0};  ///< of the threads of the next
   CodecHandle codec_;
-  FilterHandle filter_;  ///< parts pictures that were packed together; null for most streams
-  int lag_ = 0;          ///< packets that may go in before a picture comes out
+  Complaints keyComplaints_{0};
+  CodecHandle keyCodec_;  ///< for key pictures alone: all threads work on the same one
+  FilterHandle filter_;   ///< parts pictures that were packed together; null for most streams
+  int lag_ = 0;           ///< packets that may go in before a picture comes out
 
   bool running_ = false;
   bool drained_ = false;

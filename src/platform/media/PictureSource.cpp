@@ -12,6 +12,9 @@ using namespace std::chrono_literals;
 
 /// Pictures decoded ahead in play: enough to ride out a busy moment.
 constexpr int kAhead = 12;
+/// The same of a video that has just been opened and takes long: the first move may lead anywhere, and would have
+/// to wait for those that are in hand.
+constexpr int kAheadAtFirst = 2;
 /// A move by no more than this is a step; anything else is a jump to another place.
 constexpr int kStepForward = 16;
 constexpr int kStepBack = 4;
@@ -274,7 +277,8 @@ bool PictureSource::WantsSmallStretch() {
 
 /// The next picture to be decoded ahead, in the direction of the steps; nothing while there are enough.
 std::optional<int> PictureSource::NextAhead() {
-  const int window = std::clamp(store_.Fitting(share_, least_) / 3, 1, kAhead);
+  const bool justOpened = lastDelta_ == 0 && listener_.keepSmall;
+  const int window = std::clamp(store_.Fitting(share_, least_) / 3, 1, justOpened ? kAheadAtFirst : kAhead);
   for (int i = 1; i <= window; ++i) {
     const int picture = focus_ + i * step_;
     if (picture < 0 || picture >= readableEnd_) break;

@@ -86,14 +86,16 @@ bool StandInCoder::OpenEncoder(int width, int height) {
   return encoder_ != nullptr;
 }
 
-std::vector<std::uint8_t> StandInCoder::Pack(const AVFrame& frame, int longSide) {
+FrameHandle StandInCoder::Smaller(const AVFrame& frame, int longSide) {
   const int longer = std::max(frame.width, frame.height);
-  FrameHandle scaled;
-  if (longer > longSide) {
-    const auto part = [&](int side) { return std::max(2, side * longSide / longer & ~1); };
-    scaled = Scale(frame, part(frame.width), part(frame.height));
-    if (!scaled) return {};
-  }
+  if (longer <= longSide) return nullptr;
+  const auto part = [&](int side) { return std::max(2, side * longSide / longer & ~1); };
+  return Scale(frame, part(frame.width), part(frame.height));
+}
+
+std::vector<std::uint8_t> StandInCoder::Pack(const AVFrame& frame, int longSide) {
+  const FrameHandle scaled = Smaller(frame, longSide);
+  if (!scaled && std::max(frame.width, frame.height) > longSide) return {};
   const AVFrame& source = scaled ? *scaled : frame;
   if (!converter_.Convert(source, 32, rows_) || !OpenEncoder(source.width, source.height)) return {};
   if (av_frame_make_writable(small_.get()) < 0) return {};

@@ -17,6 +17,8 @@ class StandInCoder {
   /// be unpacked in time.
   static int LongSideFor(int shownWidth, int shownHeight);
 
+  /// The picture made smaller, so that its longer side is `longSide`; null when it is no larger, or cannot be.
+  FrameHandle Smaller(const AVFrame& frame, int longSide);
   /// The picture with its longer side cut down to `longSide`; empty when it cannot be converted.
   std::vector<std::uint8_t> Pack(const AVFrame& frame, int longSide);
   /// Null for bytes that are no picture.

@@ -25,6 +25,9 @@ namespace {
 constexpr int kStep = 16;
 /// Larger pictures take longer to be turned into rows than a stand-in to be unpacked.
 constexpr int kLargePixels = 2'500'000;
+/// Until it is told.
+constexpr int kShownWidth = 960;
+constexpr int kShownHeight = 540;
 
 /// Whom to tell that a better picture has come. Held during the call, so that nobody is called who has gone.
 class News {
@@ -66,7 +69,8 @@ struct VideoFile::Engine {
   const PictureIndex& index;
   News news;
   RowConverter converter;
-  StandInCoder unpacker;
+  StandInCoder coder;
+  int longSide = StandInCoder::LongSideFor(kShownWidth, kShownHeight);  ///< of stand-ins, as large as they are shown
   std::unique_ptr<Demuxer> forPass;
   PictureSource pictures;
   std::unique_ptr<StandInPass> pass;  ///< null where every picture comes fast
@@ -111,6 +115,8 @@ VideoFile::VideoFile(std::unique_ptr<Engine> engine) : engine_(std::move(engine)
 VideoFile::~VideoFile() = default;
 
 Result<std::unique_ptr<VideoFile>> VideoFile::Open(const std::string& path) {
+  // The first picture is waited for.
+  PassTurn::GiveWay();
   const std::optional<FileStamp> stamp = StampOf(path);
   auto demuxer = Demuxer::Open(path);
   if (!demuxer) return demuxer.Failure();
@@ -118,6 +124,7 @@ Result<std::unique_ptr<VideoFile>> VideoFile::Open(const std::string& path) {
   if (!decoder) return decoder.Failure();
   // A file that changes while it is opened is no file to remember anything of.
   const bool still = stamp && StampOf(path) == stamp;
+  PassTurn::GiveWay();
   return std::unique_ptr<VideoFile>(
       new VideoFile(std::make_unique<Engine>(std::move(*decoder), path, still ? stamp : std::nullopt)));
 }
@@ -130,8 +137,10 @@ int VideoFile::FrameAtTime(double ms) const { return engine_->times.FrameAt(ms, 
 
 const FrameRows& VideoFile::Engine::RowsOf(int picture, const FrameHandle& frame, int bitCount, bool exact) {
   if (Shows(picture, bitCount, exact)) return rows;
+  // What is only to be seen for a moment need not be larger than it is seen.
+  const FrameHandle smaller = frame && !exact && pass ? coder.Smaller(*frame, longSide) : nullptr;
   // Each size has a buffer of its own: growing one costs as much as the picture itself.
-  rows = frame ? converter.Convert(*frame, bitCount, exact ? wholeBits : smallBits) : FrameRows();
+  rows = frame ? converter.Convert(smaller ? *smaller : *frame, bitCount, exact ? wholeBits : smallBits) : FrameRows();
   rowsPicture = picture;
   rowsExact = exact;
   return rows;
@@ -140,7 +149,7 @@ const FrameRows& VideoFile::Engine::RowsOf(int picture, const FrameHandle& frame
 const FrameRows& VideoFile::Engine::StandInOf(int picture, int bitCount) {
   if (Shows(picture, bitCount, false)) return rows;
   const StandInShelf::Bytes packed = pass->Get(picture);
-  return RowsOf(picture, packed ? unpacker.Unpack(*packed) : nullptr, bitCount, false);
+  return RowsOf(picture, packed ? coder.Unpack(*packed) : nullptr, bitCount, false);
 }
 
 FrameRows VideoFile::Frame(int n, int bitCount) {
@@ -213,6 +222,7 @@ bool VideoFile::HasStandIns() const { return engine_->pass != nullptr; }
 bool VideoFile::EveryFrameIsAtHand() const { return !engine_->pass || engine_->pass->Done(); }
 
 void VideoFile::SetShownSize(int width, int height) {
+  engine_->longSide = StandInCoder::LongSideFor(width, height);
   if (engine_->pass) engine_->pass->SetShownSize(width, height);
 }
 
