@@ -7,7 +7,7 @@ kinalyx_packages=(
   g++ cmake ninja-build ccache pkg-config
   qt6-base-dev qt6-svg-dev libgl-dev fonts-inter
   libavformat-dev libavcodec-dev libavutil-dev libswscale-dev libswresample-dev
-  libyuv-dev libfmt-dev nlohmann-json3-dev
+  libyuv-dev libfmt-dev nlohmann-json3-dev libxxhash-dev
 )
 kinalyx_test_packages=(libgtest-dev libgmock-dev)
 kinalyx_lint_packages=(clang-format clang-tidy)

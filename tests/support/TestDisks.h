@@ -17,7 +17,11 @@ class PassingDisk : public IDisk {
   int OpenNew(const std::string& path) override { return disk_.OpenNew(path); }
   long Write(int file, const void* bytes, std::size_t count) override { return disk_.Write(file, bytes, count); }
   long Transfer(int from, int to, std::size_t count) override { return disk_.Transfer(from, to, count); }
+  long Read(int file, void* bytes, std::size_t count) override { return disk_.Read(file, bytes, count); }
+  int Clone(int from, int to) override { return disk_.Clone(from, to); }
   int Flush(int file) override { return disk_.Flush(file); }
+  void BeginFlush(int file) override { disk_.BeginFlush(file); }
+  void ForgetCached(int file) override { disk_.ForgetCached(file); }
   int Close(int file) override { return disk_.Close(file); }
   int Rename(const std::string& from, const std::string& to) override { return disk_.Rename(from, to); }
   int RenameNew(const std::string& from, const std::string& to) override { return disk_.RenameNew(from, to); }
@@ -32,7 +36,7 @@ class PassingDisk : public IDisk {
   IDisk& disk_;
 };
 
-/// Fails one call, counted from 0, and from then on works again. Writes take at most a few bytes at a time, as a
+/// Fails one call, counted from 0, and from then on works again. Writes take half of what they are given, as a
 /// disk may.
 class FailingDisk final : public PassingDisk {
  public:
@@ -44,13 +48,16 @@ class FailingDisk final : public PassingDisk {
   }
   int OpenNew(const std::string& path) override { return Bad() ? -1 : PassingDisk::OpenNew(path); }
   long Write(int file, const void* bytes, std::size_t count) override {
-    return Bad() ? -1 : PassingDisk::Write(file, bytes, std::min<std::size_t>(count, 4));
+    return Bad() ? -1 : PassingDisk::Write(file, bytes, std::min(count, std::max<std::size_t>(4, count / 2)));
   }
   long Transfer(int from, int to, std::size_t count) override {
     if (!Bad()) return PassingDisk::Transfer(from, to, count);
     PassingDisk::Transfer(from, to, count / 2);  // a disk that fills up takes a part first
     errno = ENOSPC;
     return -1;
+  }
+  long Read(int file, void* bytes, std::size_t count) override {
+    return Bad() ? -1 : PassingDisk::Read(file, bytes, count);
   }
   int Flush(int file) override { return Bad() ? -1 : PassingDisk::Flush(file); }
   int Close(int file) override {

@@ -6,6 +6,8 @@
 #include <memory>
 
 #include <fcntl.h>
+#include <linux/fs.h>
+#include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -46,8 +48,8 @@ class SystemDisk final : public IDisk {
     if (moved < 0 && errno != EXDEV && errno != EINVAL && errno != ENOSYS && errno != EOPNOTSUPP) return -1;
     const std::size_t wanted = std::min(count, kBuffer);
     const std::unique_ptr<char[]> buffer = std::make_unique_for_overwrite<char[]>(wanted);
-    const ssize_t got = Again([&] { return ::read(from, buffer.get(), wanted); });
-    for (ssize_t done = 0; done < got;) {
+    const long got = Read(from, buffer.get(), wanted);
+    for (long done = 0; done < got;) {
       const long written = Write(to, buffer.get() + done, static_cast<std::size_t>(got - done));
       if (written == 0) errno = ENOSPC;
       if (written <= 0) return -1;
@@ -55,7 +57,13 @@ class SystemDisk final : public IDisk {
     }
     return got;
   }
+  long Read(int file, void* bytes, std::size_t count) override {
+    return Again([&] { return ::read(file, bytes, count); });
+  }
+  int Clone(int from, int to) override { return ::ioctl(to, FICLONE, from); }
   int Flush(int file) override { return ::fsync(file); }
+  void BeginFlush(int file) override { ::sync_file_range(file, 0, 0, SYNC_FILE_RANGE_WRITE); }
+  void ForgetCached(int file) override { ::posix_fadvise(file, 0, 0, POSIX_FADV_DONTNEED); }
   int Close(int file) override { return ::close(file); }
   int Rename(const std::string& from, const std::string& to) override { return std::rename(from.c_str(), to.c_str()); }
   int RenameNew(const std::string& from, const std::string& to) override {

@@ -15,7 +15,14 @@ class IDisk {
   virtual long Write(int file, const void* bytes, std::size_t count) = 0;  ///< bytes written; may be fewer
   /// Copies the next bytes, at most `count`; 0 at the end of the source.
   virtual long Transfer(int from, int to, std::size_t count) = 0;
+  virtual long Read(int file, void* bytes, std::size_t count) = 0;  ///< bytes read; 0 at the end
+  /// Has an empty new file share all bytes of another, which costs nothing; most file systems cannot.
+  virtual int Clone(int from, int to) = 0;
   virtual int Flush(int file) = 0;
+  /// Begins to flush and waits for nothing: what flushes a large file in the end has little left to do.
+  virtual void BeginFlush(int file) = 0;
+  /// What is read of a flushed file next comes from the disk, not from memory, where the system can do that.
+  virtual void ForgetCached(int file) = 0;
   virtual int Close(int file) = 0;
   virtual int Rename(const std::string& from, const std::string& to) = 0;     ///< replaces a file of that name
   virtual int RenameNew(const std::string& from, const std::string& to) = 0;  ///< never replaces anything

@@ -24,6 +24,8 @@ namespace {
 
 /// Deeper folders than this are taken for a loop.
 constexpr int kMostDepth = 64;
+/// What a step without bytes counts for.
+constexpr std::int64_t kSmallStep = 4096;
 
 bool SameEntry(const struct stat& a, const struct stat& b) { return a.st_dev == b.st_dev && a.st_ino == b.st_ino; }
 
@@ -69,8 +71,16 @@ bool CopyJob::Refuse(const std::string& text) {
 CopyJob::State CopyJob::Fail(const std::string& name, int reason) {
   RollBack();
   nameTaken_ = reason == EEXIST || reason == ENOTEMPTY;
-  const char* verb = kind_ == Kind::Move ? " could not be moved: " : " could not be copied: ";
-  error_ = Quoted(name) + verb + (nameTaken_ ? "there is already something of that name." : std::strerror(reason));
+  error_ = Quoted(name) + Verb() + (nameTaken_ ? "there is already something of that name." : std::strerror(reason));
+  state_ = State::Failed;
+  return state_;
+}
+
+CopyJob::State CopyJob::FailUnlike(const std::string& name) {
+  RollBack();
+  error_ = Quoted(name) + Verb() +
+           "what the drive gave back is not what was written to it. The original is still in its place. Try again; if "
+           "it happens once more, the drive, the card reader or its cable is failing.";
   state_ = State::Failed;
   return state_;
 }
@@ -128,7 +138,7 @@ bool CopyJob::StageCopy(Entry& entry) {
     return false;
   }
   if (S_ISDIR(info.st_mode)) return MeasureFolder(entry, entry.from, entry.staged, 0);
-  entry.nodes.push_back({NodeKind::File, entry.from, entry.staged, {}, info.st_size, info.st_atim, info.st_mtim, true});
+  entry.nodes.push_back({NodeKind::File, entry.from, entry.staged, {}, info.st_size, {}, {}, true});
   progress_.bytesTotal += info.st_size;
   return true;
 }
@@ -154,7 +164,7 @@ bool CopyJob::MeasureFolder(Entry& entry, const std::string& from, const std::st
     } else if (S_ISLNK(info.st_mode)) {
       entry.nodes.push_back({NodeKind::Link, inFrom, inTo, LinkTarget(inFrom)});
     } else if (S_ISREG(info.st_mode)) {
-      entry.nodes.push_back({NodeKind::File, inFrom, inTo, {}, info.st_size, info.st_atim, info.st_mtim});
+      entry.nodes.push_back({NodeKind::File, inFrom, inTo, {}, info.st_size});
       progress_.bytesTotal += info.st_size;
     } else {
       return Refuse(Quoted(inFrom) + " is no file.");
@@ -215,22 +225,15 @@ CopyJob::State CopyJob::Step(std::int64_t maxBytes) {
       continue;
     }
     Node& node = entry.nodes[node_];
-    if (source_ < 0) {
+    if (!file_) {
       if (!BeginNode(node)) return Fail(node.from, errno);
       if (node.kind != NodeKind::File) {
         ++node_;
-        maxBytes -= 4096;
+        maxBytes -= kSmallStep;
         continue;
       }
     }
-    const long moved = disk_.Transfer(source_, target_, static_cast<std::size_t>(maxBytes));
-    if (moved < 0) return Fail(node.from, errno);
-    progress_.bytesDone += moved;
-    maxBytes -= std::max<long>(moved, 4096);
-    if (moved == 0) {
-      if (!FinishFile(node)) return Fail(node.from, errno);
-      ++node_;
-    }
+    if (!GoOn(node, maxBytes)) return state_;
   }
   if (entry_ == unit.entries.size() && CommitUnit() && unit_ == units_.size()) state_ = State::Done;
   return state_;
@@ -278,28 +281,29 @@ bool CopyJob::BeginNode(Node& node) {
     case NodeKind::Link: return disk_.MakeLink(node.target, node.to) == 0;
     case NodeKind::File: break;
   }
-  source_ = disk_.OpenSource(node.from, node.followLink);
-  if (source_ < 0) return false;
-  node.copied = StampOf(source_);
-  target_ = disk_.OpenNew(node.to);
-  return target_ >= 0;
+  // The source of a move is removed next, and a card is emptied: the copy must be on the disk by then, and be right.
+  using Care = FileTransfer::Care;
+  const bool checked = kind_ == Kind::Move || kind_ == Kind::CopyIn;
+  file_.emplace(disk_, checked ? Care::Checked : kind_ == Kind::CopyOut ? Care::Flushed : Care::Usual);
+  bytesBefore_ = progress_.bytesDone;
+  return file_->Begin(node.from, node.followLink, node.to);
 }
 
-bool CopyJob::FinishFile(Node& node) {
-  if (StampOf(source_) != node.copied) node.copied.reset();  // the copy may hold some of each
-  struct stat old {};
-  struct stat copy {};
-  // Private files stay private, but what comes from a read-only disc can be written to in the library. A
-  // file system without rights or times refuses, and nothing is lost by that.
-  if (::fstat(source_, &old) == 0 && ::fstat(target_, &copy) == 0)
-    (void)::fchmod(target_, (old.st_mode & copy.st_mode & 0777) | S_IRUSR | S_IWUSR);
-  const timespec times[] = {node.accessed, node.modified};
-  (void)::futimens(target_, times);
-  const bool moves = !units_[unit_].entries[entry_].keep;
-  // The source of a move is removed next: its copy must have reached the disk by then.
-  if ((moves || kind_ == Kind::CopyOut) && disk_.Flush(target_) < 0) return false;
-  ::close(std::exchange(source_, -1));
-  return disk_.Close(std::exchange(target_, -1)) >= 0;
+/// Goes on with the file under way; false when it failed.
+bool CopyJob::GoOn(Node& node, std::int64_t& maxBytes) {
+  const long moved = file_->Go(static_cast<std::size_t>(maxBytes));
+  if (moved < 0) {
+    if (file_->Differs()) FailUnlike(node.from);
+    else Fail(node.from, errno);
+    return false;
+  }
+  progress_.bytesDone = bytesBefore_ + file_->BytesDone();
+  maxBytes -= std::max<std::int64_t>(moved, kSmallStep);
+  if (moved > 0) return true;
+  node.copied = file_->Copied();
+  file_.reset();
+  ++node_;
+  return true;
 }
 
 bool CopyJob::CommitUnit() {
@@ -331,6 +335,7 @@ bool CopyJob::CommitUnit() {
       (void)::utimensat(AT_FDCWD, place.c_str(), times, AT_SYMLINK_NOFOLLOW);
     }
   }
+  if (kind_ == Kind::CopyIn) FlushPlaces(unit);
   RemoveSources(unit);
   progress_.filesDone += static_cast<int>(unit.entries.size());
   ++progress_.unitsDone;
@@ -339,10 +344,15 @@ bool CopyJob::CommitUnit() {
   return true;
 }
 
+/// The new names must be on the disk as well. Some file systems cannot be asked for that, and need not.
+void CopyJob::FlushPlaces(const Unit& unit) {
+  for (const Entry& entry : unit.entries) disk_.FlushFolder(FolderOf(entry.to));
+}
+
 void CopyJob::RemoveSources(Unit& unit) {
   const bool copied = std::ranges::any_of(unit.entries, [](const Entry& e) { return !e.keep && !e.byRename; });
   if (!copied) return;
-  for (const Entry& entry : unit.entries) disk_.FlushFolder(FolderOf(entry.to));
+  FlushPlaces(unit);
   for (const Entry& entry : unit.entries) {
     if (entry.keep || entry.byRename) continue;
     const std::string left = RemoveCopied(entry);
@@ -393,8 +403,7 @@ std::string CopyJob::RemoveCopied(const Entry& entry) {
 }
 
 void CopyJob::RollBack() {
-  if (source_ >= 0) ::close(std::exchange(source_, -1));
-  if (target_ >= 0) disk_.Close(std::exchange(target_, -1));
+  file_.reset();
   if (unit_ >= units_.size()) return;
   Unit& unit = units_[unit_];
   for (auto entry = unit.entries.rbegin(); entry != unit.entries.rend(); ++entry) {

@@ -10,6 +10,7 @@
 #include <sys/types.h>
 
 #include "platform/files/Disk.h"
+#include "platform/files/FileTransfer.h"
 #include "platform/files/Folders.h"
 #include "platform/files/Result.h"
 
@@ -39,14 +40,16 @@ struct CopyProgress {
 /// - Everything is written under hidden names beside the final ones and renamed when its unit is whole;
 ///   a final name never stands for half a file, and never replaces one that is already there.
 /// - Room is asked for before the first byte is written.
-/// - Within a file system a move is a rename; across two it is a copy, flushed, and then a removal of what
-///   was copied and is as it was then. What came or changed meanwhile stays, with the folders around it.
+/// - Within a file system a move is a rename; across two it is a copy, checked as FileTransfer says, and then a
+///   removal of what was copied and is as it was then. What came or changed meanwhile stays, with the folders around
+///   it.
 /// - Times are kept. Links inside a folder are copied as links and never followed.
 /// - After a failure or a cancel, units that are done stay done and the one under way leaves no trace.
 class CopyJob {
  public:
   enum class Kind {
     Copy,
+    CopyIn,   ///< from a card or telephone that is emptied next: checked
     CopyOut,  ///< to a drive that may be pulled out at any moment: flushed before it gets its name
     Move,
   };
@@ -79,7 +82,7 @@ class CopyJob {
     std::string to;      ///< under the hidden name of its entry
     std::string target;  ///< of a link
     std::int64_t size = 0;
-    timespec accessed{};
+    timespec accessed{};  ///< times of a folder
     timespec modified{};
     bool followLink = false;
     std::optional<FileStamp> copied = std::nullopt;  ///< the file as it was while it was copied
@@ -104,14 +107,17 @@ class CopyJob {
   bool EnoughRoom();
   bool BeginUnit();
   bool BeginNode(Node& node);
-  bool FinishFile(Node& node);
+  bool GoOn(Node& node, std::int64_t& maxBytes);
   bool CommitUnit();
+  void FlushPlaces(const Unit& unit);
   void RemoveSources(Unit& unit);
   /// Removes what was copied and is as it was then; what is left, in words for the user.
   std::string RemoveCopied(const Entry& entry);
   void RollBack();
   bool MakeParents(const std::string& path);
   State Fail(const std::string& name, int reason);
+  State FailUnlike(const std::string& name);
+  const char* Verb() const { return kind_ == Kind::Move ? " could not be moved: " : " could not be copied: "; }
   bool Refuse(const std::string& text);
 
   Kind kind_;
@@ -129,8 +135,8 @@ class CopyJob {
   bool measured_ = false;
   bool begun_ = false;                    ///< the unit under way has made its folders
   std::vector<std::string> madeFolders_;  ///< by the unit under way, above its entries
-  int source_ = -1;
-  int target_ = -1;
+  std::optional<FileTransfer> file_;      ///< of the node under way
+  std::int64_t bytesBefore_ = 0;          ///< of the files before it
 };
 
 /// Runs a job to its end; for short work and for workers.

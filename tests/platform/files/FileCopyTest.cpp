@@ -5,6 +5,7 @@
 #include <chrono>
 #include <filesystem>
 #include <map>
+#include <utility>
 
 #include "support/TestDisks.h"
 #include "support/TempFolder.h"
@@ -199,6 +200,7 @@ TEST(CopyJob, LosesNothingWhicheverCallFails) {
   using enum CopyJob::Kind;
   const Case cases[] = {{"copy a video", false, Copy, false},
                         {"move a video", false, Move, false},
+                        {"import a video", false, CopyIn, false},
                         {"copy a student", true, Copy, false},
                         {"move a student", true, Move, false},
                         {"move a video to another drive", false, Move, true},
@@ -238,6 +240,82 @@ TEST(CopyJob, LosesNothingWhicheverCallFails) {
     }
     EXPECT_TRUE(call >= 2 && call < 200) << one.name;
   }
+}
+
+/// Changes one byte in the middle of the first video that passes by: on its way to the disk, or on its way back.
+class LyingDisk final : public TwoDrives {
+ public:
+  enum class Lies { Writing, Reading };
+  explicit LyingDisk(Lies when) : when_(when) {}
+
+  int OpenSource(const std::string& path, bool follow) override {
+    const int file = TwoDrives::OpenSource(path, follow);
+    if (path.find(".part") != std::string::npos) copy_ = file;
+    return file;
+  }
+  long Write(int file, const void* bytes, std::size_t count) override {
+    std::string text(static_cast<const char*>(bytes), count);
+    if (when_ == Lies::Writing) Spoil(text.data(), text.size());
+    return TwoDrives::Write(file, text.data(), count);
+  }
+  long Read(int file, void* bytes, std::size_t count) override {
+    const long got = TwoDrives::Read(file, bytes, count);
+    if (when_ == Lies::Reading && file == copy_) Spoil(static_cast<char*>(bytes), static_cast<std::size_t>(got));
+    return got;
+  }
+
+ private:
+  void Spoil(char* bytes, std::size_t count) {
+    if (count >= 1000 && !std::exchange(done_, true)) bytes[count / 2] ^= 1;
+  }
+
+  Lies when_;
+  int copy_ = -1;
+  bool done_ = false;
+};
+
+TEST(CopyJob, ACopyThatIsNotLikeItsOriginalGoesAndTheOriginalStays) {
+  for (const LyingDisk::Lies when : {LyingDisk::Lies::Writing, LyingDisk::Lies::Reading}) {
+    for (const CopyJob::Kind kind : {CopyJob::Kind::Move, CopyJob::Kind::CopyIn}) {
+      SCOPED_TRACE(std::to_string(int(when)) + " " + std::to_string(int(kind)));
+      TempFolder folder;
+      MakeStudent(folder);
+      const auto before = Contents(folder);
+      LyingDisk disk(when);
+      CopyJob lied(kind, WholeStudent(folder), disk);
+      EXPECT_EQ(RunToEnd(lied), CopyJob::State::Failed);
+      EXPECT_TRUE(lied.Error().starts_with("\"(001) DL.avi\" could not be ")) << lied.Error();
+      EXPECT_NE(lied.Error().find("not what was written"), std::string::npos) << lied.Error();
+      EXPECT_EQ(Contents(folder), before);
+      CopyJob again(kind, WholeStudent(folder), disk);
+      EXPECT_EQ(RunToEnd(again), CopyJob::State::Done) << again.Error();
+      EXPECT_EQ(again.Progress().bytesDone, again.Progress().bytesTotal);
+      EXPECT_EQ(Digest(folder.Get("Bob/Smith, Jr./(001) DL.avi")), Digest(kVideo));
+    }
+  }
+}
+
+TEST(CopyJob, WhatAFileSystemSharesIsNotReadAgain) {
+  class SharingDisk final : public TwoDrives {
+   public:
+    int Clone(int from, int to) override {
+      while (Transfer(from, to, 1 << 20) > 0) {
+      }
+      return 0;
+    }
+    long Read(int, void*, std::size_t) override {
+      ADD_FAILURE() << "read";
+      return -1;
+    }
+  };
+  TempFolder folder;
+  MakeStudent(folder);
+  SharingDisk disk;
+  CopyJob job(CopyJob::Kind::Move, OneVideo(folder), disk);
+  EXPECT_EQ(RunToEnd(job), CopyJob::State::Done) << job.Error();
+  EXPECT_EQ(job.Progress().bytesDone, job.Progress().bytesTotal);
+  EXPECT_EQ(Digest(folder.Get("Bob/New/(001) DL.avi")), Digest(kVideo));
+  EXPECT_FALSE(EntryExists(folder.Path("Ann/Smith, Jr./(001) DL.avi")));
 }
 
 TEST(RenameEntry, TakesAFreeNameOnly) {
