@@ -367,7 +367,7 @@ void LibraryOperations::Transfer(Direction direction, const std::vector<LibraryV
   if (!loose.student.empty() && !dirExists(tree_.StudentFolder(loose.instructor, loose.student)))
     return events->Ended(RefuseGone("No videos were copied to " + loose.student));
   events->ShowStatus(out ? "Exporting Videos, Please Wait....." : "Importing Videos... Please Wait.....");
-  auto job = std::make_unique<VideoTransferJob>(out ? CopyJob::Kind::CopyOut : CopyJob::Kind::Copy, OnClash::AddD,
+  auto job = std::make_unique<VideoTransferJob>(out ? CopyJob::Kind::CopyOut : CopyJob::Kind::CopyIn, OnClash::AddD,
                                                 std::move(transfers), disk_);
   if (!out) job->LookAtEach();
   Run<VideoTransferJob>(
