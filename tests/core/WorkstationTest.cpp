@@ -185,7 +185,16 @@ TEST(MenuPicture, AMissingPictureIsReportedOnce) {
 
   const std::string picture = desk.folder.Put("mine.jpg", "x");
   const auto isPicture = [](const std::string& path) { return LastName(path) == "mine.jpg"; };
-  s.Set(s.BackgroundPic, picture);
+  desk.host.files = {std::nullopt, picture};
+  EXPECT_FALSE(ChooseBackground(desk.host, s, isPicture));
+  EXPECT_TRUE(ChooseBackground(desk.host, s, isPicture));
+  EXPECT_EQ(CheckBackground(desk.host, s).file, picture);
+  EXPECT_EQ(desk.OnDisk("General", "BackgroundPic"), picture);
+
+  desk.host.files = {desk.folder.Put("letter.jpg", "no picture")};
+  EXPECT_FALSE(ChooseBackground(desk.host, s, isPicture));
+  EXPECT_EQ(desk.host.messages.size(), 2u);
+  EXPECT_EQ(desk.OnDisk("General", "BackgroundPic"), picture) << "the old one stays";
 
   // A drive that does not answer says nothing of its files, whether it is silent or fails.
   desk.host.drivesHang = true;
@@ -198,7 +207,7 @@ TEST(MenuPicture, AMissingPictureIsReportedOnce) {
   std::filesystem::create_symlink("loop.jpg", desk.folder.Path("loop.jpg"));
   s.Set(s.BackgroundPic, desk.folder.Path("loop.jpg"));
   EXPECT_TRUE(CheckBackground(desk.host, s).standsIn);
-  EXPECT_EQ(desk.host.messages.size(), 2u);
+  EXPECT_EQ(desk.host.messages.size(), 3u);
   EXPECT_EQ(desk.OnDisk("General", "BackgroundPic"), desk.folder.Path("loop.jpg"));
   ResetBackground(s);
   EXPECT_EQ(desk.OnDisk("General", "BackgroundPic"), DefaultBackground(s));

@@ -137,6 +137,20 @@ TEST(AVIControl, MirrorsThePictureButNotWhatIsDrawnOnIt) {
   EXPECT_EQ(player.view.shown.Pixel(3, 15), plain.Pixel(3, 15)) << "nothing of a drawing stays";
 }
 
+TEST(AVIControl, FollowsItsSize) {
+  Player player;
+  ASSERT_TRUE(player.Load(MjpegVideo(60)));
+  player->DrawFrame(5);
+  player->Resize(300, 100);
+  EXPECT_EQ(player.view.shown.Width(), 300);
+  EXPECT_EQ(player.view.shown.Height(), 100);
+  EXPECT_EQ(player.Shown(), 5);
+  player->Resize(0, 0);
+  player->DrawFrame(6);
+  player->Resize(200, 150);
+  EXPECT_EQ(player.Shown(), 6);
+}
+
 TEST(AVIControl, AStandInGivesWayToTheExactPicture) {
   TestVideo large = H264Video(120);
   large.format.width = 1280;

@@ -156,6 +156,13 @@ TEST(Strobe, ShowsAChainOfPoses) {
   EXPECT_EQ(BarsOn(player.view.shown), vector<int>{11}) << "until it is drawn anew";
 }
 
+TEST(Strobe, WithoutAnEndGoesToTheLastFrame) {
+  StrobedPlayer player;
+  player->Strobeframes(4, 4, 5);
+  player.host.Advance(5000);
+  EXPECT_EQ(BarsOn(player.view.shown), (vector<int>{4, 9, 14}));
+}
+
 TEST(Strobe, StopsOnDemandAndBeforeAnyOtherMovementAlsoInItsOwnCallbacks) {
   using Deed = void (*)(Player&);
   const Deed deeds[] = {[](Player& player) { player->StopStrobe(); },

@@ -1,5 +1,7 @@
 #include "platform/host/DriveWatch.h"
 
+#include <gtest/gtest.h>
+
 #include "support/TestHost.h"
 
 namespace kinalyx::test {
@@ -43,6 +45,18 @@ TEST_F(DriveWatchTest, ADriveThatWasGivenUpIsNotWaitedForUntilItAnswers) {
   EXPECT_EQ(told, 1);
   EXPECT_EQ(Ask(kShare), 7);
   EXPECT_EQ(host.waits.size(), 1u);
+}
+
+TEST_F(DriveWatchTest, TheUserCanHaveItTriedAgain) {
+  host.drivesHang = true;
+  EXPECT_EQ(Ask(kShare), std::nullopt);
+  drives.TryAgain(kShare);
+  EXPECT_EQ(Ask(kShare), std::nullopt);
+  EXPECT_EQ(host.waits.size(), 2u);
+
+  drives.TryAgain(kShare);
+  host.drivesHang = false;
+  EXPECT_EQ(Ask(kShare), 7) << "what hangs from before is in nobody's way";
 }
 
 TEST_F(DriveWatchTest, WhoWaitsLongEnoughGetsTheAnswerAndNothingIsAskedTwiceMeanwhile) {

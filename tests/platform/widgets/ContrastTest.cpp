@@ -139,6 +139,18 @@ TEST(Contrast, EveryFrameThatSaysSomethingCanBeMadeOutInEveryScheme) {
   }
 }
 
+TEST(Contrast, TheSchemesOwnColoursAreKept) {
+  for (const ColorScheme& scheme : ColorSchemes::All()) {
+    const Theme theme = Theme::FromSlots(scheme.colours);
+    EXPECT_EQ(FromQColor(theme.accent), scheme.colours[0]);
+    EXPECT_EQ(FromQColor(theme.panel), scheme.colours[1]);
+    EXPECT_EQ(FromQColor(theme.backdrop), scheme.colours[3]);
+    if (ContrastRatio(ToQColor(scheme.colours[2]), theme.accent) >= kReadable) {
+      EXPECT_EQ(FromQColor(theme.accentText), scheme.colours[2]);
+    }
+  }
+}
+
 TEST(Contrast, RatioAndReadableAgreeWithTheGuides) {
   EXPECT_NEAR(ContrastRatio(Qt::black, Qt::white), 21, 0.01);
   EXPECT_NEAR(ContrastRatio(QColor(0x76, 0x76, 0x76), Qt::white), 4.54, 0.01);
