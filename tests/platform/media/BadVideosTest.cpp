@@ -1,11 +1,7 @@
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <cstring>
-#include <filesystem>
 #include <fstream>
 #include <random>
-#include <vector>
 
 #include "platform/files/Log.h"
 #include "platform/media/Films.h"
@@ -18,11 +14,6 @@ namespace kinalyx::test {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string BytesOf(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
 
 std::string FileWith(const std::string& name, const std::string& bytes) {
   const std::string path = TestPath(name);
@@ -50,7 +41,7 @@ TEST(BadVideos, WhatTheLibrarySaysOfThemGoesToTheLog) {
   const TempFolder folder;
   Log log(folder.Path("kinalyx.log"));
   SetMediaLog(&log);
-  if (const auto file = OpenedVideo(path)) file->Frame(1, 24);
+  OpenedVideo(path)->Frame(1, 24);
   SetMediaLog(nullptr);
   ASSERT_TRUE(log.Flush(20000));
   const std::string text = folder.Get("kinalyx.log");
@@ -86,7 +77,6 @@ TEST(BadVideos, CutInTheMiddleShowWhatIsLeft) {
     const std::string avi = BytesOf(MakeTestVideo(video));
     const std::string path = FileWith("cut.avi", avi.substr(0, avi.size() / 2));
     const auto file = OpenedVideo(path);
-    ASSERT_TRUE(file);
     const int frames = file->Info().frameCount;
     EXPECT_GT(frames, video.frames / 8);
     EXPECT_LT(frames, video.frames);
@@ -103,7 +93,6 @@ TEST(BadVideos, ADamagedPacketShowsThePictureBefore) {
   const auto chunks = ChunksOf(avi, 20);
   for (std::size_t n = 10; n < 13; ++n) std::memset(avi.data() + chunks[n] + 8, 0, WordAt(avi, chunks[n] + 4));
   const auto file = OpenedVideo(FileWith("damaged.avi", avi));
-  ASSERT_TRUE(file);
   ASSERT_EQ(file->Info().frameCount, 60);
   for (const int n : {9, 10, 11, 12, 13, 12, 11, 40, 12})
     EXPECT_EQ(ReadNumber(file->Frame(n, 24)), n >= 10 && n < 13 ? 9 : n) << n;
@@ -113,7 +102,6 @@ TEST(BadVideos, WithNoGoodPacketShowNothing) {
   std::string avi = BytesOf(MakeTestVideo(MjpegVideo(60)));
   for (const std::size_t chunk : ChunksOf(avi, 59)) std::memset(avi.data() + chunk + 8, 1, WordAt(avi, chunk + 4));
   const auto file = OpenedVideo(FileWith("rubble.avi", avi));
-  ASSERT_TRUE(file);
   EXPECT_EQ(file->Info().frameCount, 60);
   for (const int n : {0, 59, 30, 2}) EXPECT_FALSE(file->Frame(n, 24));
 }
@@ -155,10 +143,10 @@ TEST(BadVideos, OfAnyKindOfDamageDoNoHarm) {
         damaged[random() % reach] = static_cast<char>(random());
       }
       if (round % 4 == 3) damaged.resize(random() % damaged.size());
-      const auto file = OpenedVideo(FileWith("any.avi", damaged));
+      const auto file = VideoFile::Open(FileWith("any.avi", damaged));
       if (!file) continue;
-      const int frames = file->Info().frameCount;
-      for (const int n : {0, frames - 1, frames / 2, frames / 2 - 1, 0}) file->Frame(n, 24);
+      const int frames = (*file)->Info().frameCount;
+      for (const int n : {0, frames - 1, frames / 2, frames / 2 - 1, 0}) (*file)->Frame(n, 24);
     }
   }
 }
@@ -201,29 +189,14 @@ TEST(BadVideos, AnIndexThatLiesNeitherHangsNorTakesTheMemory) {
   Film film = SmallFilm("honest.mp4", "mpeg4", 0);
   MakeFilm(film, TestPath(film.name));
   const std::string honest = BytesOf(TestPath(film.name));
-  struct Lie {
-    const char* box;
-    std::size_t offset;
-  };
-  for (const Lie& lie : {Lie{"stsz", 4},
-                         {"stsz", 8},
-                         {"stsz", 12},
-                         {"stco", 4},
-                         {"stco", 8},
-                         {"stsc", 4},
-                         {"stsc", 12},
-                         {"stts", 4},
-                         {"stts", 8},
-                         {"stts", 12},
-                         {"stss", 4},
-                         {"elst", 4},
-                         {"elst", 8},
-                         {"elst", 12},
-                         {"mdhd", 12},
-                         {"mvhd", 12}}) {
+  using Lie = std::pair<const char*, std::size_t>;  // in which box, how far behind its name
+  const Lie lies[] = {{"stsz", 4},  {"stsz", 8},  {"stsz", 12}, {"stco", 4},  {"stco", 8}, {"stsc", 4},
+                      {"stsc", 12}, {"stts", 4},  {"stts", 8},  {"stts", 12}, {"stss", 4}, {"elst", 4},
+                      {"elst", 8},  {"elst", 12}, {"mdhd", 12}, {"mvhd", 12}};
+  for (const auto& [box, offset] : lies) {
     for (const std::uint32_t value : {0u, 1u, 0x7FFFFFFFu, 0xFFFFFFFFu, 50000000u}) {
-      SCOPED_TRACE(testing::Message() << lie.box << " + " << lie.offset << " = " << value);
-      const auto result = VideoFile::Open(FileWith("lie.mp4", WithLie(honest, lie.box, lie.offset, value)));
+      SCOPED_TRACE(testing::Message() << box << " + " << offset << " = " << value);
+      const auto result = VideoFile::Open(FileWith("lie.mp4", WithLie(honest, box, offset, value)));
       EXPECT_TRUE(result || !result.Why().empty());
       if (!result) continue;
       const int last = (*result)->Info().frameCount - 1;
@@ -247,7 +220,6 @@ TEST(BadVideos, MayVanishWhileOpen) {
   const std::string path = TestPath("vanishing.avi");
   fs::copy_file(source, path, fs::copy_options::overwrite_existing);
   const auto file = OpenedVideo(path);
-  ASSERT_TRUE(file);
   ASSERT_EQ(ReadNumber(file->Frame(20, 24)), 20);
   fs::remove(path);
   EXPECT_EQ(ReadNumber(file->Frame(280, 24)), 280);
@@ -255,7 +227,6 @@ TEST(BadVideos, MayVanishWhileOpen) {
   // Cut off under our hands, as by a copy over it: what is read no more shows what could be read.
   fs::copy_file(source, path, fs::copy_options::overwrite_existing);
   const auto cut = OpenedVideo(path);
-  ASSERT_TRUE(cut);
   fs::resize_file(path, fs::file_size(path) / 3);
   const FrameRows last = cut->Frame(299, 24);
   EXPECT_TRUE(last);
@@ -289,7 +260,6 @@ TEST(BadVideos, FramesLeftOutRepeatTheOneBefore) {
   // A capture that lost frames stores empty chunks in their place.
   const std::vector<int> pictures = {0, 1, 2, -1, -1, 3, 4, 5, 6, -1, 7, 8, 9, 10, 11, -1};
   const auto file = OpenedVideo(FileWith("dropped.avi", WithEmptyChunks(pictures)));
-  ASSERT_TRUE(file);
   ASSERT_EQ(file->Info().frameCount, 16);
   const int shown[] = {0, 1, 2, 2, 2, 3, 4, 5, 6, 6, 7, 8, 9, 10, 11, 11};
   for (int n = 15; n >= 0; --n) EXPECT_EQ(ReadNumber(file->Frame(n, 24)), shown[n]) << n;
@@ -299,7 +269,6 @@ TEST(BadVideos, AnEmptyChunkBehindEveryPictureIsNoFrame) {
   std::vector<int> pictures;
   for (int n = 0; n < 12; ++n) pictures.insert(pictures.end(), {n, -1});
   const auto file = OpenedVideo(FileWith("doubled.avi", WithEmptyChunks(pictures)));
-  ASSERT_TRUE(file);
   ASSERT_EQ(file->Info().frameCount, 12);
   EXPECT_EQ(file->Info().rate / file->Info().scale, 15);
   EXPECT_NEAR(file->SampleToTime(12), 24 * 1000 / 30.0, 0.1);

@@ -1,10 +1,7 @@
 #include "platform/media/FieldStream.h"
 
-#include <gtest/gtest.h>
-
 #include <cstring>
 #include <memory>
-#include <vector>
 
 #include "platform/media/AvHandles.h"
 

@@ -1,6 +1,5 @@
 #include "platform/media/Films.h"
 
-#include <gtest/gtest.h>
 #include <libyuv.h>
 
 #include <algorithm>
@@ -77,14 +76,14 @@ FrameHandle PictureOf(const Film& film, const AVCodecContext& codec, int n) {
 
 FrameHandle ToneOf(int n) {
   FrameHandle tone = NewFrame();
-  tone->nb_samples = 320;
+  tone->nb_samples = kFilmSamplesPerFrame;
   tone->format = AV_SAMPLE_FMT_S16;
   av_channel_layout_default(&tone->ch_layout, 1);
   tone->sample_rate = 8000;
   av_frame_get_buffer(tone.get(), 0);
-  tone->pts = n * 320;
+  tone->pts = n * kFilmSamplesPerFrame;
   auto* samples = reinterpret_cast<std::int16_t*>(tone->data[0]);
-  for (int i = 0; i < 320; ++i) samples[i] = FilmSample(n * 320 + i);
+  for (int i = 0; i < kFilmSamplesPerFrame; ++i) samples[i] = FilmSample(n * kFilmSamplesPerFrame + i);
   return tone;
 }
 
@@ -127,6 +126,33 @@ void Receive(AVCodecContext& codec, std::vector<FrameHandle>& pictures) {
     pictures.push_back(std::move(frame));
 }
 
+std::vector<FrameHandle> DecodeAll(const std::string& path, AVMediaType kind) {
+  std::vector<FrameHandle> frames;
+  AVFormatContext* context = nullptr;
+  if (avformat_open_input(&context, ("file:" + path).c_str(), nullptr, nullptr) < 0) return frames;
+  const InputHandle input(context);
+  if (avformat_find_stream_info(context, nullptr) < 0) return frames;
+  const int number = av_find_best_stream(context, kind, -1, -1, nullptr, 0);
+  if (number < 0) return frames;
+  const AVCodecParameters& parameters = *context->streams[number]->codecpar;
+  const AVCodec* decoder = avcodec_find_decoder(parameters.codec_id);
+  const CodecHandle codec(avcodec_alloc_context3(decoder));
+  avcodec_parameters_to_context(codec.get(), &parameters);
+  codec->pkt_timebase = context->streams[number]->time_base;
+  codec->thread_count = 1;
+  codec->strict_std_compliance = FF_COMPLIANCE_STRICT;
+  if (avcodec_open2(codec.get(), decoder, nullptr) < 0) return frames;
+  const PacketHandle packet = NewPacket();
+  for (; av_read_frame(context, packet.get()) >= 0; av_packet_unref(packet.get())) {
+    if (packet->stream_index != number) continue;
+    avcodec_send_packet(codec.get(), packet.get());
+    Receive(*codec, frames);
+  }
+  avcodec_send_packet(codec.get(), nullptr);
+  Receive(*codec, frames);
+  return frames;
+}
+
 }  // namespace
 
 std::int16_t FilmSample(int n) { return static_cast<std::int16_t>(n * 7 % 30011); }
@@ -159,30 +185,15 @@ void MakeFilm(const Film& film, const std::string& path) {
   ASSERT_GE(av_write_trailer(muxer.output), 0);
 }
 
-std::vector<FrameHandle> DecodeStraight(const std::string& path) {
-  std::vector<FrameHandle> pictures;
-  AVFormatContext* context = nullptr;
-  if (avformat_open_input(&context, ("file:" + path).c_str(), nullptr, nullptr) < 0) return pictures;
-  const InputHandle input(context);
-  if (avformat_find_stream_info(context, nullptr) < 0) return pictures;
-  const int number = av_find_best_stream(context, AVMEDIA_TYPE_VIDEO, -1, -1, nullptr, 0);
-  if (number < 0) return pictures;
-  const AVCodecParameters& parameters = *context->streams[number]->codecpar;
-  const AVCodec* decoder = avcodec_find_decoder(parameters.codec_id);
-  const CodecHandle codec(avcodec_alloc_context3(decoder));
-  avcodec_parameters_to_context(codec.get(), &parameters);
-  codec->thread_count = 1;
-  codec->strict_std_compliance = FF_COMPLIANCE_STRICT;
-  if (avcodec_open2(codec.get(), decoder, nullptr) < 0) return pictures;
-  const PacketHandle packet = NewPacket();
-  for (; av_read_frame(context, packet.get()) >= 0; av_packet_unref(packet.get())) {
-    if (packet->stream_index != number) continue;
-    avcodec_send_packet(codec.get(), packet.get());
-    Receive(*codec, pictures);
+std::vector<FrameHandle> DecodeStraight(const std::string& path) { return DecodeAll(path, AVMEDIA_TYPE_VIDEO); }
+
+std::vector<std::int16_t> SoundOf(const std::string& path) {
+  std::vector<std::int16_t> samples;
+  for (const FrameHandle& frame : DecodeAll(path, AVMEDIA_TYPE_AUDIO)) {
+    const auto* data = reinterpret_cast<const std::int16_t*>(frame->data[0]);
+    samples.insert(samples.end(), data, data + frame->nb_samples);
   }
-  avcodec_send_packet(codec.get(), nullptr);
-  Receive(*codec, pictures);
-  return pictures;
+  return samples;
 }
 
 bool SamePicture(const AVFrame& one, const AVFrame& other) {

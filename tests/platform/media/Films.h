@@ -37,8 +37,13 @@ struct Film {
 
 std::ostream& operator<<(std::ostream& out, const Film& film);
 
+constexpr int kFilmSamplesPerFrame = 320;
+
 /// Sample n of a film's sound, so that each tells where it belongs.
 std::int16_t FilmSample(int n);
+
+/// All sound of a file as the bare library decodes it, in plain samples of 16 bits.
+std::vector<std::int16_t> SoundOf(const std::string& path);
 
 /// Writes the film. Skips the test where this machine has no such encoder.
 void MakeFilm(const Film& film, const std::string& path);

@@ -1,15 +1,11 @@
 #include "platform/media/StandInFile.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <chrono>
-#include <filesystem>
 #include <fstream>
 #include <map>
 #include <memory>
 #include <thread>
-#include <vector>
 
 #include "platform/files/Folders.h"
 #include "platform/media/PassTurn.h"

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <cstring>
 #include <random>
 
@@ -106,20 +104,6 @@ TEST(Straight, AStretchThatIsReachedByAJumpIsTheSame) {
   }
 }
 
-TEST(Straight, AnOldEncoderMakesADifferenceBehindItsFirstPictures) {
-  // Else the films of old encoders above would show nothing.
-  const Film today = OfEncoder("today.mp4", "164");
-  const Film old = OfEncoder("old.mp4", "33 ");
-  MakeFilm(today, TestPath(today.name));
-  MakeFilm(old, TestPath(old.name));
-  const auto one = DecodeStraight(TestPath(today.name));
-  const auto other = DecodeStraight(TestPath(old.name));
-  ASSERT_EQ(one.size(), other.size());
-  std::size_t differences = 0;
-  for (std::size_t n = 40; n < one.size(); ++n) differences += !SamePicture(*one[n], *other[n]);
-  EXPECT_GT(differences, 0u);
-}
-
 TEST(Straight, WhatIsDamagedIsTheSameTooFromWhereverItIsReached) {
   // Two chunks of a film that are shown as well as can be, whoever decodes them.
   Film film{"torn.mp4", "libx264", 120, 20, 2, "preset=veryfast:b_strategy=0:sc_threshold=0"};
@@ -149,7 +133,8 @@ TEST(Straight, AStreamWithoutTimesIsNotReadFromItsStartForEveryJump) {
 }
 
 TEST(Straight, TwoFieldsThatAreCodedApartAreOnePicture) {
-  for (const auto& [name, apart] : {std::pair{"camera.mts", false},
+  using Case = std::pair<const char*, bool>;
+  for (const auto& [name, apart] : {Case{"camera.mts", false},
                                     {"apart.ts", true},
                                     {"apart.mkv", true},
                                     {"apart.mp4", true},
@@ -175,7 +160,6 @@ TEST(Straight, WhatAnEditOfTheFilmHidesIsNoFrame) {
   film.muxing = "avoid_negative_ts=disabled";
   MakeFilm(film, TestPath(film.name));
   const auto file = OpenedVideo(TestPath(film.name));
-  ASSERT_TRUE(file);
   EXPECT_EQ(file->Info().frameCount, 90 - 13);
   EXPECT_EQ(ReadNumber(file->Frame(0, 24)), 13);
   EXPECT_NEAR(file->SampleToTime(10), 400, 0.01);

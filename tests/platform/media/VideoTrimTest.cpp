@@ -1,12 +1,8 @@
 #include "platform/media/VideoTrim.h"
 
-#include <gtest/gtest.h>
-
-#include <cstring>
-#include <filesystem>
-#include <fstream>
 #include <functional>
 
+#include "platform/media/Films.h"
 #include "platform/media/TrimCommand.h"
 #include "platform/media/VideoFile.h"
 #include "support/TempFolder.h"
@@ -17,96 +13,23 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kSamplesPerFrame = 441;  // 25 frames a second
-constexpr int kSoundRate = 25 * kSamplesPerFrame;
-
-std::string Number(std::uint32_t value, int bytes = 4) {
-  std::string text;
-  for (int i = 0; i < bytes; ++i) text += static_cast<char>(value >> 8 * i);
-  return text;
-}
-
-std::string Chunk(const char* name, const std::string& content) {
-  return name + Number(static_cast<std::uint32_t>(content.size())) + content + std::string(content.size() % 2, '\0');
-}
-
-std::string StreamHeader(const char* kind, int scale, int rate, int length, int sampleBytes) {
-  return Chunk("strh", std::string(kind) + Number(0) + Number(0) + Number(0) + Number(0) + Number(scale) +
-                           Number(rate) + Number(0) + Number(length) + Number(1 << 16) + Number(0) +
-                           Number(sampleBytes) + Number(0) + Number(0));
-}
-
-/// Sample n of the sound, so that each tells where it belongs.
-std::int16_t Sample(int n) { return static_cast<std::int16_t>(n * 7 % 30011); }
-
-/// A video of plain pixels with sound, written byte by byte. Frames for which `left` is true have no
-/// picture of their own: the file holds an empty chunk, and the picture before stays.
+/// A video with sound of which some frames are left out: the file holds an empty chunk, and the picture before stays.
 std::string VideoWithSound(const TempFolder& folder, int frames, const std::function<bool(int)>& left) {
-  TestVideo video = RawVideo(frames);
-  const int width = video.format.width;
-  const int height = video.format.height;
-  const int rowBytes = (width * 3 + 3) / 4 * 4;
-  std::string movi = "movi";
-  std::string index;
-  const auto add = [&](const char* name, const std::string& content) {
-    index += name + Number(0x10) + Number(static_cast<std::uint32_t>(movi.size())) +
-             Number(static_cast<std::uint32_t>(content.size()));
-    movi += Chunk(name, content);
+  Film film{"sound.avi", "mjpeg", frames, 1, 0, "", true};
+  film.format = AV_PIX_FMT_YUVJ420P;
+  film.mangle = [&](AVPacket& packet) {
+    if (left(static_cast<int>(packet.pts))) av_shrink_packet(&packet, 0);
   };
-  std::vector<std::uint8_t> pixels;
-  for (int n = 0; n < frames; ++n) {
-    std::string picture;
-    if (!left(n)) {
-      PaintTestPicture(video, n, pixels);
-      picture.assign(static_cast<std::size_t>(rowBytes * height), '\0');
-      for (int y = 0; y < height; ++y) {
-        for (int x = 0; x < width; ++x)
-          std::memcpy(&picture[(height - 1 - y) * rowBytes + x * 3], &pixels[(y * width + x) * 4], 3);
-      }
-    }
-    add("00db", picture);
-    std::string sound;
-    for (int i = 0; i < kSamplesPerFrame; ++i)
-      sound += Number(static_cast<std::uint16_t>(Sample(n * kSamplesPerFrame + i)), 2);
-    add("01wb", sound);
-  }
-  const std::string picture = Chunk("strf", Number(40) + Number(width) + Number(height) + Number(1, 2) + Number(24, 2) +
-                                                Number(0) + Number(rowBytes * height) + std::string(16, '\0'));
-  const std::string sound = Chunk(
-      "strf", Number(1, 2) + Number(1, 2) + Number(kSoundRate) + Number(2 * kSoundRate) + Number(2, 2) + Number(16, 2));
-  const std::string main =
-      Chunk("avih", Number(40000) + Number(0) + Number(0) + Number(0x10) + Number(frames) + Number(0) + Number(2) +
-                        Number(0) + Number(width) + Number(height) + std::string(16, '\0'));
-  const std::string header = Chunk(
-      "LIST", "hdrl" + main + Chunk("LIST", "strl" + StreamHeader("vids", 1, 25, frames, 0) + picture) +
-                  Chunk("LIST", "strl" + StreamHeader("auds", 1, kSoundRate, frames * kSamplesPerFrame, 2) + sound));
-  return folder.Put("sound.avi", Chunk("RIFF", "AVI " + header + Chunk("LIST", movi) + Chunk("idx1", index)));
-}
-
-/// All sound of an AVI file.
-std::vector<std::int16_t> SoundOf(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  const std::string avi{std::istreambuf_iterator<char>(file), {}};
-  std::vector<std::int16_t> samples;
-  for (std::size_t at = avi.find("movi") + 4; at + 8 <= avi.size();) {
-    std::uint32_t size = 0;
-    std::memcpy(&size, avi.data() + at + 4, 4);
-    if (avi.compare(at, 4, "idx1") == 0) break;
-    if (avi.compare(at, 4, "01wb") == 0) {
-      const std::size_t before = samples.size();
-      samples.resize(before + size / 2);
-      std::memcpy(samples.data() + before, avi.data() + at + 8, size);
-    }
-    at += 8 + size + size % 2;
-  }
-  return samples;
+  const std::string path = folder.Path(film.name);
+  MakeFilm(film, path);
+  return path;
 }
 
 /// The numbers that the pictures of a video carry; -1 for one that cannot be read.
 std::vector<int> NumbersOf(const std::string& path, int field = -1) {
   std::vector<int> numbers;
   const auto file = OpenedVideo(path);
-  for (int n = 0; file && n < file->Info().frameCount; ++n)
+  for (int n = 0; n < file->Info().frameCount; ++n)
     numbers.push_back(ReadNumber(file->Frame(n, 24), field).value_or(-1));
   return numbers;
 }
@@ -170,10 +93,10 @@ TEST(VideoTrim, KeepsTheSoundInStepAndFramesThatRepeat) {
       ASSERT_TRUE(result) << result.Why();
       EXPECT_EQ(NumbersOf(target), one.numbers);
       const std::vector<std::int16_t> sound = SoundOf(target);
-      ASSERT_EQ(sound.size(), one.numbers.size() * kSamplesPerFrame);
+      ASSERT_EQ(sound.size(), one.numbers.size() * kFilmSamplesPerFrame);
       int wrong = 0;
       for (std::size_t i = 0; i < sound.size(); ++i)
-        wrong += sound[i] != Sample(one.first * kSamplesPerFrame + static_cast<int>(i));
+        wrong += sound[i] != FilmSample(one.first * kFilmSamplesPerFrame + static_cast<int>(i));
       EXPECT_EQ(wrong, 0);
       fs::remove(target);
     }

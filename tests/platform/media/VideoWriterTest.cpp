@@ -1,11 +1,8 @@
 #include "platform/media/VideoWriter.h"
 
-#include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include <filesystem>
 #include <fstream>
-#include <vector>
 
 #include "platform/media/VideoFile.h"
 #include "support/TestVideos.h"
