@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cstddef>
 #include <cstdlib>
 #include <string>
 #include <utility>
@@ -30,6 +31,8 @@ constexpr int kReadThrough = 8;
 /// A decoder that has to wait for longer gives its memory back.
 constexpr auto kPatience = 1s;
 constexpr int kNiceness = 5;
+/// Decoded pictures that wait to be packed, at the utmost.
+constexpr std::size_t kMostToPack = 3;
 
 }  // namespace
 
@@ -60,6 +63,7 @@ StandInPass::StandInPass(std::unique_ptr<Demuxer> source, std::unique_ptr<const 
       longSide_(std::min(StandInCoder::LongSideFor(960, 540), videoLongSide_)),
       source_(std::move(source)),
       share_(Purse::StandIns, [this] { wake_.notify_one(); }),
+      packer_([this] { PackAll(); }),
       thread_([this] { Work(); }) {}
 
 StandInPass::~StandInPass() {
@@ -67,8 +71,11 @@ StandInPass::~StandInPass() {
     const std::lock_guard lock(mutex_);
     stop_ = true;
     wake_.notify_one();
+    handed_.notify_one();
+    packed_.notify_one();
   }
   thread_.join();
+  packer_.join();
 }
 
 void StandInPass::MoveTo(int picture) {
@@ -111,7 +118,7 @@ bool StandInPass::Done() const {
   return done_;
 }
 
-// ---------------------------------------------------------------- the thread
+// ---------------------------------------------------------------- the decoder's thread
 
 void StandInPass::Work() {
   // The threads of the decoder inherit it.
@@ -125,7 +132,7 @@ void StandInPass::Work() {
   while (!stop_) {
     shelf_.Trim(share_.Bytes(), focus_);
     const std::optional<Job> job = Choose();
-    done_ = !job;
+    done_ = !job && toPack_.empty();
     turn_.Want(job.has_value());
     if (!job) {
       Rest();
@@ -190,7 +197,7 @@ std::optional<StandInPass::Job> StandInPass::JobIn(int chunk) {
   for (int first = index_.ChunkFirstPicture(chunk); first < end;) {
     const std::optional<int> missing = shelf_.Missing(first, end, longSide_, focus_);
     if (!missing) break;
-    if (!lost_.contains(*missing)) return Job{false, chunk, *missing};
+    if (!lost_.contains(*missing) && !handedOver_.contains(*missing)) return Job{false, chunk, *missing};
     first = *missing + 1;
   }
   return std::nullopt;
@@ -225,18 +232,42 @@ void StandInPass::Do(const Job& job) {
     lost_.insert(target);
     return;
   }
-  decoder_->Step(0, [this](int picture, FrameHandle frame) {
-    Keep(picture, *frame);
-    // What cannot be packed is not tried again.
-    if (!shelf_.Has(picture)) lost_.insert(picture);
-  });
+  decoder_->Step(0, [this](int picture, FrameHandle frame) { HandOver(picture, std::move(frame)); });
   if (decoder_->Lost(target)) lost_.insert(target);
 }
 
 void StandInPass::DoKey(int chunk) {
   keysTried_.insert(chunk);
   int picture = -1;
-  if (const FrameHandle frame = decoder_->KeyPicture(chunk, picture)) Keep(picture, *frame);
+  if (FrameHandle frame = decoder_->KeyPicture(chunk, picture)) HandOver(picture, std::move(frame));
+}
+
+void StandInPass::HandOver(int picture, FrameHandle frame) {
+  std::unique_lock lock(mutex_);
+  packed_.wait(lock, [this] { return stop_ || toPack_.size() < kMostToPack; });
+  handedOver_.insert(picture);
+  toPack_.emplace_back(picture, std::move(frame));
+  handed_.notify_one();
+}
+
+// ---------------------------------------------------------------- the packer's thread
+
+void StandInPass::PackAll() {
+  setpriority(PRIO_PROCESS, static_cast<id_t>(gettid()), kNiceness);
+  std::unique_lock lock(mutex_);
+  for (;;) {
+    handed_.wait(lock, [this] { return stop_ || !toPack_.empty(); });
+    if (stop_) return;
+    const auto& [picture, frame] = toPack_.front();
+    lock.unlock();
+    Keep(picture, *frame);
+    lock.lock();
+    // What cannot be packed is not tried again.
+    if (shelf_.Has(picture)) handedOver_.erase(picture);
+    toPack_.pop_front();
+    packed_.notify_one();
+    if (toPack_.empty()) wake_.notify_one();
+  }
 }
 
 bool StandInPass::VideoIsTheSame() const { return !video_ || StampOf(path_) == *video_; }

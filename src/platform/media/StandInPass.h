@@ -1,11 +1,13 @@
 #pragma once
 
 #include <condition_variable>
+#include <deque>
 #include <memory>
 #include <mutex>
 #include <optional>
 #include <set>
 #include <thread>
+#include <utility>
 
 #include "platform/media/BudgetShare.h"
 #include "platform/media/PassTurn.h"
@@ -55,6 +57,8 @@ class StandInPass {
   int EndOfChunk(int chunk) const;
   void Do(const Job& job);
   void DoKey(int chunk);
+  void HandOver(int picture, FrameHandle frame);
+  void PackAll();
   void Rest();
   bool VideoIsTheSame() const;
 
@@ -74,6 +78,12 @@ class StandInPass {
   bool done_ = false;
   bool stop_ = false;
 
+  // Decoding goes on while pictures are packed.
+  std::deque<std::pair<int, FrameHandle>> toPack_;  ///< the first one is in the packer's hands
+  std::set<int> handedOver_;                        ///< those, and what could not be packed
+  std::condition_variable handed_;
+  std::condition_variable packed_;
+
   std::mutex keepMutex_;  ///< for who puts something on the shelf
   StandInCoder coder_;
 
@@ -87,7 +97,8 @@ class StandInPass {
   bool changed_ = false;  ///< the file is another one, or cannot be decoded: nothing more is made of it
 
   BudgetShare share_;
-  std::thread thread_;  ///< last: it uses all the rest
+  std::thread packer_;  ///< these two last: they use all the rest
+  std::thread thread_;
 };
 
 }  // namespace kinalyx
