@@ -4,6 +4,7 @@
 #include <array>
 #include <cerrno>
 #include <cstring>
+#include <iterator>
 #include <map>
 #include <memory>
 #include <string_view>
@@ -49,6 +50,18 @@ bool NamesIn(const std::string& folder, std::vector<std::string>& names) {
   return errno == 0;
 }
 
+bool IsNameTaken(int reason) { return reason == EEXIST || reason == ENOTEMPTY; }
+
+/// In words for the user, where the system's own tell too little.
+std::string ReasonText(int reason) {
+  if (IsNameTaken(reason)) return "there is already something of that name.";
+  if (reason == ENOSPC || reason == EDQUOT) return "the disk is full.";
+  const int gone[] = {EIO, ENODEV, ENXIO, ENOTCONN};
+  if (std::ranges::find(gone, reason) != std::end(gone))
+    return "the drive cannot be read or written. It may have been pulled out.";
+  return std::strerror(reason);
+}
+
 std::string Quoted(const std::string& path) { return "\"" + LastName(path) + "\""; }
 
 }  // namespace
@@ -70,8 +83,8 @@ bool CopyJob::Refuse(const std::string& text) {
 
 CopyJob::State CopyJob::Fail(const std::string& name, int reason) {
   RollBack();
-  nameTaken_ = reason == EEXIST || reason == ENOTEMPTY;
-  error_ = Quoted(name) + Verb() + (nameTaken_ ? "there is already something of that name." : std::strerror(reason));
+  nameTaken_ = IsNameTaken(reason);
+  error_ = Quoted(name) + Verb() + ReasonText(reason);
   state_ = State::Failed;
   return state_;
 }
