@@ -23,8 +23,11 @@ EditPanel::EditPanel(PreviewPlayer& preview, const QString& help, QWidget* paren
   text->setWordWrap(true);
   HScroll1_ = new TrimSlider("HScroll1");
   rows->addWidget(text);
-  QLabel* warning =
-      MakeLabel("EditWarning", "Save writes over the video itself: the frames outside are gone for good.", "muted");
+  QLabel* warning = MakeLabel(
+      "EditWarning",
+      "Save writes over the video itself: the frames outside cannot be brought back. An MP4 or MOV may keep a "
+      "few of them in the file, hidden, because others are built on them.",
+      "muted");
   warning->setWordWrap(true);
   rows->addWidget(warning);
   rows->addWidget(HScroll1_);

@@ -84,6 +84,8 @@ void LibraryCommands::AddVideos() {
 }
 
 void LibraryCommands::AddVideos(const std::vector<std::string>& paths, const std::string& student) {
+  // What arrives is chosen, and the one that is being trimmed would be put aside.
+  if (videos_.TrimShown()) return page_.Say("Save or cancel the trim first, then add videos.");
   const ImportTarget target{browser_.Instructor(), student};
   DoLong("Add Videos", [&](Events events) { operations_.AddVideos(paths, target, std::move(events)); });
 }

@@ -104,13 +104,13 @@ QLayout* VideosPanel::MakeList() {
   auto* buttons = new QHBoxLayout;
   buttons->setContentsMargins(8, 6, 8, 6);
   buttons->setSpacing(8);
-  auto* add = new Button("AddVideosBtn", "Add Videos", "plus", Look::Quiet);
-  add->setToolTip(
+  add_ = new Button("AddVideosBtn", "Add Videos", "plus", Look::Quiet);
+  add_->setToolTip(
       "Copies videos from this computer, a telephone or a card to the student. They can also be dropped here.");
-  connect(add, &QPushButton::clicked, this, &VideosPanel::AddWanted);
+  connect(add_, &QPushButton::clicked, this, &VideosPanel::AddWanted);
   auto* folder = IconButton("OpenFolderBtn", "open", "Shows the folder of these videos", Look::Quiet);
   connect(folder, &QPushButton::clicked, this, &VideosPanel::FolderWanted);
-  buttons->addWidget(add);
+  buttons->addWidget(add_);
   buttons->addWidget(folder);
   buttons->addStretch(1);
   rows->addLayout(buttons);
@@ -197,6 +197,7 @@ void VideosPanel::ShowTrim(bool shown) {
   trim_->setVisible(shown);
   Foot()->parentWidget()->setVisible(!shown);
   list_->setEnabled(!shown);
+  add_->setEnabled(!shown);
   preview_->SetBarShown(!shown);
   if (shown) trim_->Open();
 }

@@ -9,6 +9,7 @@
 
 namespace kinalyx {
 
+class Button;
 class EditPanel;
 class FigureLabel;
 class Settings;
@@ -30,7 +31,7 @@ class VideosPanel : public Panel {
   bool StatsShown() const;
   void SetCount(int videos);
 
-  /// The panel in which the shown video is trimmed, in the place of the buttons.
+  /// The panel in which the shown video is trimmed, in the place of the buttons; no others are added meanwhile.
   EditPanel& Trim() { return *trim_; }
   void ShowTrim(bool shown);
   bool TrimShown() const;
@@ -59,6 +60,7 @@ class VideosPanel : public Panel {
   PreviewPlayer* preview_ = nullptr;
   QWidget* statsPart_;
   EditPanel* trim_;
+  Button* add_ = nullptr;
   FigureLabel* count_;
   class SummaryLine* summary_;
   SidecarMarkLabels* marks_;

@@ -200,7 +200,9 @@ bool ContainerCut::CutByCoding() {
   if (!codec) return Fail("videos of this kind can be cut at some pictures only, and not at these");
   if (!opened) return message_.empty() ? Fail("out of memory") : false;
   if (!CodePictures(*source, *codec) || !Complete()) return false;
-  return ShowsTheCut() || Fail("the cut did not come out as it should; the video is unchanged");
+  if (ShowsTheCut()) return true;
+  return Fail(order_.count == 1 ? "a video of this kind cannot be a single picture; keep two or more. It is unchanged"
+                                : "the cut did not come out as it should; the video is unchanged");
 }
 
 bool ContainerCut::CodePictures(PictureSource& source, AVCodecContext& codec) {
