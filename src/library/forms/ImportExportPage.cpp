@@ -17,6 +17,7 @@
 #include "library/forms/StatusLine.h"
 #include "platform/host/DriveWatch.h"
 #include "platform/widgets/Buttons.h"
+#include "platform/widgets/FileDrop.h"
 #include "platform/widgets/Scale.h"
 #include "platform/widgets/Text.h"
 #include "platform/widgets/Theme.h"
@@ -74,6 +75,10 @@ ImportExportPage::ImportExportPage(IHost& host, Settings& settings, LibraryOpera
     Say({});
     DiskSpaceGauge();
   });
+  auto* drop = new FileDrop(this);
+  connect(drop, &FileDrop::Dropped, this, &ImportExportPage::TakeDropped);
+  connect(drop, &FileDrop::Over, this, &ImportExportPage::ShowDropTarget);
+  connect(drop, &FileDrop::Left, this, [this] { Say({}); });
   SetupVocabulary();
 }
 
@@ -173,6 +178,20 @@ void ImportExportPage::IECmd_Click(int command) {
   auto events = progress_->Begin(out ? "Export Videos" : "Import Videos", std::make_shared<Transfer>(*this, out));
   if (out) operations_.ExportVideos(videos, otherRoot_, std::move(events));
   else operations_.ImportVideos(videos, std::move(events), TargetOfLooseVideos());
+}
+
+/// Files from elsewhere come to who is chosen in this library.
+void ImportExportPage::TakeDropped(const std::vector<std::string>& paths) {
+  const ImportTarget target{here_->Browser().Instructor(), here_->Browser().Student()};
+  operations_.AddVideos(paths, target, progress_->Begin("Add Videos", std::make_shared<Transfer>(*this, false)));
+}
+
+void ImportExportPage::ShowDropTarget() {
+  const LibraryBrowser& library = here_->Browser();
+  if (library.HasStudent()) Say("Drop to copy the videos to " + Q(library.Student()) + ".");
+  else if (library.IsGeneralFolder() || library.IsQuickLaunch())
+    Say("Drop to copy the videos to " + Q(library.Instructor()) + ".");
+  else Say("Select the " + Q(Vocabulary(settings_).noun()) + " who is to get the videos first.");
 }
 
 /// What has arrived is shown where it is; what was chosen stays chosen no longer.

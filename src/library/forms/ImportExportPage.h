@@ -47,6 +47,8 @@ class ImportExportPage : public PageWidget {
   QLayout* MakeCommands();
   QLayout* MakeDriveChoice(IHost& host, Settings& settings);
   void OpenDrive();
+  void TakeDropped(const std::vector<std::string>& paths);
+  void ShowDropTarget();
   ImportTarget TargetOfLooseVideos() const;
   void ShowResult(bool out, const OperationResult& result);
   void DiskSpaceGauge();

@@ -105,7 +105,10 @@ void ProfilesPage::ConnectParts() {
   connect(videos_, &VideosPanel::FolderWanted, commands_, &LibraryCommands::ShowFolder);
   connect(devices_, &DeviceBar::ShowWanted, this, &ProfilesPage::ShowDevice);
   connect(devices_, &DeviceBar::AddWanted, this, &ProfilesPage::AddFromDevice);
-  connect(new FileDrop(this), &FileDrop::Dropped, this, &ProfilesPage::TakeDropped);
+  auto* drop = new FileDrop(this);
+  connect(drop, &FileDrop::Dropped, this, &ProfilesPage::TakeDropped);
+  connect(drop, &FileDrop::Over, this, &ProfilesPage::ShowDropTarget);
+  connect(drop, &FileDrop::Left, this, [this] { Say({}); });
   connect(instructors_, &InstructorsPanel::AddWanted, this, &ProfilesPage::AddInstructor);
   connect(instructors_, &InstructorsPanel::AddCancelled, this, [this] { Say({}); });
   connect(instructors_, &InstructorsPanel::RenameWanted, commands_, &LibraryCommands::RenameInstructor);
@@ -224,12 +227,24 @@ void ProfilesPage::AddFromDevice(const std::vector<std::string>& paths) {
   if (!operations_.Busy()) devices_->AddingEnded(false);  // it was refused, or notes could not be stored
 }
 
-/// What is dropped on the name of a student goes to that student, everything else to the one who is chosen.
 void ProfilesPage::TakeDropped(const std::vector<std::string>& paths, QPoint at) {
+  Say({});
+  commands_->AddVideos(paths, StudentAt(at));
+}
+
+void ProfilesPage::ShowDropTarget(QPoint at) {
+  const std::string student = StudentAt(at);
+  if (!student.empty()) Say("Drop to copy the videos to " + Q(student) + ".");
+  else if (browser_.IsGeneralFolder() || browser_.IsQuickLaunch())
+    Say("Drop to copy the videos to " + Q(browser_.Instructor()) + ".");
+  else Say("Drop the videos on the name of a " + Q(vocabulary_.noun()) + ".");
+}
+
+std::string ProfilesPage::StudentAt(QPoint at) const {
   NameList* students = lists_->StudentList();
   const QPoint inList = students->viewport()->mapFrom(this, at);
   const QListWidgetItem* student = students->viewport()->rect().contains(inList) ? students->itemAt(inList) : nullptr;
-  commands_->AddVideos(paths, student ? Std(student->text()) : browser_.Student());
+  return student ? Std(student->text()) : browser_.Student();
 }
 
 void ProfilesPage::keyPressEvent(QKeyEvent* event) {

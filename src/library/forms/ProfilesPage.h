@@ -75,6 +75,9 @@ class ProfilesPage : public PageWidget, private ILibraryPage {
   void ShowDevice();
   void AddFromDevice(const std::vector<std::string>& paths);
   void TakeDropped(const std::vector<std::string>& paths, QPoint at);
+  void ShowDropTarget(QPoint at);
+  /// Who gets what is dropped there: the student whose name it is, else the one who is chosen.
+  std::string StudentAt(QPoint at) const;
   bool CloseVideo();
   bool Release() override;
   void ShowResult(const OperationResult& result) override;

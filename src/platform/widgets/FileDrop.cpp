@@ -23,6 +23,7 @@ FileDrop::FileDrop(QWidget* target) : QObject(target) {
 
 bool FileDrop::eventFilter(QObject* watched, QEvent* event) {
   const auto type = event->type();
+  if (type == QEvent::DragLeave) emit Left();
   if (type != QEvent::DragEnter && type != QEvent::DragMove && type != QEvent::Drop)
     return QObject::eventFilter(watched, event);
   auto& drop = static_cast<QDropEvent&>(*event);
@@ -31,7 +32,9 @@ bool FileDrop::eventFilter(QObject* watched, QEvent* event) {
   // What is dropped is read or copied, never taken away.
   drop.setDropAction(Qt::CopyAction);
   drop.accept();
-  if (type == QEvent::Drop) emit Dropped(paths, drop.position().toPoint());
+  const QPoint at = drop.position().toPoint();
+  if (type == QEvent::Drop) emit Dropped(paths, at);
+  else emit Over(at);
   return true;
 }
 

@@ -23,6 +23,10 @@ class FileDrop : public QObject {
   explicit FileDrop(QWidget* target);
 
  signals:
+  /// Files are held over the widget; where they would go is to be shown.
+  void Over(QPoint at);
+  /// They have been taken away, and nothing was dropped.
+  void Left();
   /// @param at  where, in the widget
   void Dropped(const std::vector<std::string>& paths, QPoint at);
 
