@@ -1,5 +1,7 @@
 #include "platform/paint/Canvas.h"
 
+#include <QFontMetricsF>
+#include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 #include <QPainterPath>
@@ -19,11 +21,13 @@ namespace {
 constexpr double kBand = 8192;
 constexpr int kWidestPen = 1000;
 
-QColor ToQt(Colour colour) { return QColor(Red(colour), Green(colour), Blue(colour)); }
+QColor ToQt(Colour colour, int opacity = 255) {
+  return QColor(Red(colour), Green(colour), Blue(colour), std::clamp(opacity, 0, 255));
+}
 
 QPen ToQt(const Pen& pen) {
   if (pen.style == 5) return QPen(Qt::NoPen);
-  QPen result(ToQt(pen.colour), pen.width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+  QPen result(ToQt(pen.colour, pen.opacity), pen.width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
   if (pen.style < 1 || pen.style > 4) return result;
   // Dash lengths count in pen widths; thin pens take them as if they were three pixels wide. Round
   // ends would close the gaps.
@@ -35,6 +39,16 @@ QPen ToQt(const Pen& pen) {
   result.setDashPattern(dashes);
   return result;
 }
+
+/// Half-bold letters of the program's own face; a line of them is `height` pixels high.
+QFont Letters(int height) {
+  QFont font("Inter");
+  font.setPixelSize(std::clamp(height * 4 / 5, 1, 4000));
+  font.setWeight(QFont::DemiBold);
+  return font;
+}
+
+bool HasFonts() { return qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr; }
 
 RealPoint ToReal(POINTAPI point) { return {static_cast<double>(point.x), static_cast<double>(point.y)}; }
 
@@ -110,7 +124,7 @@ struct Canvas::Engine {
     const double middle = pen.width % 2 ? 0.5 : 0.0;
     painter.setTransform(QTransform::fromTranslate(middle, middle));
     painter.setPen(ToQt(pen));
-    painter.setBrush(brush ? QBrush(ToQt(*brush)) : QBrush(Qt::NoBrush));
+    painter.setBrush(brush ? QBrush(ToQt(*brush, pen.opacity)) : QBrush(Qt::NoBrush));
   }
 
   /// Runs `draw` on a painter set up for the current mode; all that it touches lies in `reach`.
@@ -158,11 +172,11 @@ struct Canvas::Engine {
       if (pen.width <= 2) {
         // A disc this small would come out as a shadow of a pixel, or not at all.
         const double middle = mode == Rop2::CopyPen ? pen.width / 2.0 : std::floor(pen.width / 2.0);
-        on.fillRect(QRectF(at.x - middle, at.y - middle, pen.width, pen.width), ToQt(pen.colour));
+        on.fillRect(QRectF(at.x - middle, at.y - middle, pen.width, pen.width), ToQt(pen.colour, pen.opacity));
         return;
       }
       const QPen before = on.pen();
-      QPen round(ToQt(pen.colour), pen.width, Qt::SolidLine, Qt::RoundCap);
+      QPen round(ToQt(pen.colour, pen.opacity), pen.width, Qt::SolidLine, Qt::RoundCap);
       on.setPen(round);
       on.drawPoint(QPointF(at.x, at.y));
       on.setPen(before);
@@ -280,6 +294,34 @@ bool Canvas::Ellipse(POINTAPI corner, POINTAPI opposite) {
 bool Canvas::Line(POINTAPI from, POINTAPI to) {
   const POINTAPI points[] = {from, to};
   return Polyline(points);
+}
+
+POINTAPI Canvas::TextSize(std::string_view words, int height) {
+  const QString text = QString::fromUtf8(words.data(), static_cast<qsizetype>(words.size()));
+  const double width = HasFonts() ? QFontMetricsF(Letters(height)).horizontalAdvance(text)
+                                  : 0.5 * height * static_cast<double>(text.size());
+  return {static_cast<std::int32_t>(std::ceil(std::min(width, 1e6))), height};
+}
+
+bool Canvas::Text(POINTAPI middle, std::string_view words, int height) {
+  if (engine_->surface->Empty()) return false;
+  const RealPoint at = ToReal(middle);
+  if (words.empty() || !HasFonts() || !engine_->Band().Holds(at)) return true;
+  const POINTAPI size = TextSize(words, height);
+  const QFont font = Letters(height);
+  const QFontMetricsF metrics(font);
+  QPainterPath letters;
+  letters.addText(at.x - size.x / 2.0, at.y + (metrics.ascent() - metrics.descent()) / 2, font,
+                  QString::fromUtf8(words.data(), static_cast<qsizetype>(words.size())));
+  const QRectF box = letters.boundingRect();
+  return engine_->Paint(engine_->Reach({box.left(), box.top(), box.right(), box.bottom()}), [&](QPainter& on) {
+    const Pen& pen = engine_->pen;
+    // The rim grows outward alone.
+    if (pen.width > 1)
+      on.strokePath(letters,
+                    QPen(ToQt(pen.colour, pen.opacity), pen.width - 1, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    on.fillPath(letters, ToQt(pen.colour, pen.opacity));
+  });
 }
 
 Surface& Canvas::Target() { return *engine_->surface; }

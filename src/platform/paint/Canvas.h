@@ -3,6 +3,7 @@
 #include <memory>
 #include <optional>
 #include <span>
+#include <string_view>
 
 #include "platform/paint/Geometry.h"
 #include "platform/paint/Surface.h"
@@ -19,8 +20,9 @@ class IFigureRecorder;
 
 struct Pen {
   Colour colour = 0;
-  int width = 1;  ///< pixels, 1 to 1000; other values count as the nearest
-  int style = 0;  ///< 0 solid, 1 dash, 2 dot, 3 dash dot, 4 dash dot dot, 5 none; others are solid
+  int width = 1;      ///< pixels, 1 to 1000; other values count as the nearest
+  int style = 0;      ///< 0 solid, 1 dash, 2 dot, 3 dash dot, 4 dash dot dot, 5 none; others are solid
+  int opacity = 255;  ///< of lines and fillings in copy mode; 0 shows nothing
 };
 
 /// Draws lines and figures on a surface that it does not own and that must outlive it. In copy mode
@@ -52,6 +54,12 @@ class Canvas {
   /// without any extent a dot.
   bool Ellipse(POINTAPI corner, POINTAPI opposite);
   bool Line(POINTAPI from, POINTAPI to);
+  /// One line of letters round their middle, in the pen's colour; what the pen is wider than one pixel makes them
+  /// fatter. `height` as in TextSize.
+  bool Text(POINTAPI middle, std::string_view words, int height);
+  /// Width and height in pixels of one line of letters; `height` is that of the line. UTF-8. An estimate where the
+  /// program has no fonts, and nothing is drawn there.
+  static POINTAPI TextSize(std::string_view words, int height);
 
   Surface& Target();
 
