@@ -86,6 +86,7 @@ std::vector<Settings::Key> Settings::ConfigKeys() {
   add("ShapeLabels", "1", &ShapeLabels);
   add("AngleFrom", "0", &AngleFrom);
   add("SpeedUnit", "0", &SpeedUnit);
+  add("KeysAndTools", "0", &KeysAndTools);
 
   section = "Ruler";
   add("CalibNumber", "0", &CalibNumber);

@@ -24,6 +24,10 @@ class ISettingsEvents {
   virtual void SettingsReloaded() = 0;
 };
 
+/// What keys and drawing tools do where the way of old and that of an editor differ.
+constexpr std::int32_t kClassicKeys = 0;
+constexpr std::int32_t kEditorKeys = 1;
+
 /// All lasting settings of the workstation. Two plain INI files in the data folder hold them; one loader
 /// reads every key once, at start-up, into the members below, which carry the keys' own names. From then
 /// on the program works on the members, and every change is written through at once, key by key. Make one
@@ -111,6 +115,7 @@ class Settings {
   std::int32_t ShapeLabels = 0;    ///< 1: figures stand beside drawings
   std::int32_t AngleFrom = 0;      ///< lines lean from the level, or kFromUpright
   std::int32_t SpeedUnit = 0;      ///< of the figures beside paths, see ShapeLabels.h
+  std::int32_t KeysAndTools = 0;   ///< kClassicKeys or kEditorKeys; anything else is classic
 
   // --- [Ruler]
   std::int32_t CalibNumber = 0;  ///< measured pixels
