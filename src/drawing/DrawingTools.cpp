@@ -9,10 +9,19 @@
 namespace kinalyx {
 namespace {
 
-constexpr int kGridEntry = 11;  // of the Draw menu and of the tool colours
-constexpr int kLeftButton = 1;
+constexpr int kGridEntry = 11;       // of the Draw menu and of the tool colours
 constexpr Colour kSelected = 65280;  // green
 constexpr Colour kOthers = 255;      // red, while one shape is selected
+constexpr int kGlassGrid = 110;      // opacity of a grid that is laid on as glass
+
+/// The colours of the tools and the grid that a first run writes, and those that take their place in the editor's
+/// way as long as nobody has chosen others: they stand out on grass and on mats.
+constexpr std::array<Colour, 13> kFirstColours{0xC0C000, 0xFFFF,   0x8000, 0xFF0000, 0xFF,     0xFF00, 0xFFFF,
+                                               0xFF,     0xFF0000, 0xFFFF, 0xFF,     0x800000, 0xFFFF};
+constexpr Colour kYellow = kColorChoices[1], kOrange = kColorChoices[6], kCyan = kColorChoices[8],
+                 kWhite = kColorChoices[9];
+constexpr std::array<Colour, 13> kEditorColours{kYellow, kWhite,  kCyan,  kYellow, kOrange, kYellow, kYellow,
+                                                kCyan,   kOrange, kWhite, kOrange, kWhite,  kYellow};
 
 }  // namespace
 
@@ -31,13 +40,16 @@ bool DrawingTools::HasShapes(int window) const { return engine_.ShapeLists(windo
 
 void DrawingTools::TakeTool(int Index) {
   if (InfOf(Index).ToolCaption.empty() || !workspace_.HasVideo(workspace_.ActiveWindow())) return;
-  if (Drawing_ && Index == DrawKind_) {
+  if (Drawing_ && Index == DrawKind_ && inHand_ == ToolInHand::Plain) {
     PutDown();
     return;
   }
   EndConstruction();
+  hand_.LetGo();
   workspace_.MouseWanted();
   workspace_.ReleaseLoopButton();
+  inHand_ = ToolInHand::Plain;
+  stays_ = false;
   Drawing_ = true;
   HideDrawings(false);  // who draws wants to see it
   NewShapePending_ = true;
@@ -66,8 +78,23 @@ void DrawingTools::StraightTool(int kind) {
   if (Drawing_ && DrawKind_ == kind) engine_.StraightMode = true;
 }
 
+void DrawingTools::TakeCentreCircle() { Hold(ToolInHand::CentreCircle, kEllipse); }
+void DrawingTools::TakeTextTool() { Hold(ToolInHand::Text, kFlag); }
+
+/// Takes a tool of a kind up in another way than the plain one, or puts it down when it is held so already.
+void DrawingTools::Hold(ToolInHand way, int kind) {
+  if (Drawing_ && inHand_ == way) return PutDown();
+  const bool stays = !Drawing_ && stays_;
+  if (Drawing_) PutDown();
+  TakeTool(kind);
+  if (!Drawing_) return;
+  inHand_ = way;
+  stays_ = stays && way == ToolInHand::Text;
+  Announce(kind);
+}
+
 void DrawingTools::PutToolDown() {
-  if (Drawing_) TakeTool(DrawKind_);
+  if (Drawing_) PutDown();
 }
 
 void DrawingTools::DeleteLast() {
@@ -90,7 +117,15 @@ void DrawingTools::ChooseColour(int Index) {
   if (Index < 0 || Index >= static_cast<int>(kColorChoices.size())) return;
   engine_.CadColor = kColorChoices[static_cast<std::size_t>(Index)];
   workspace_.SetColorButton(Index);
-  if (Drawing_) workspace_.ShowVectorColor(engine_.CadColor);
+  Drawing_ ? workspace_.ShowVectorColor(engine_.CadColor) : hand_.SetColour(engine_.CadColor);
+}
+
+void DrawingTools::ChooseWidth(int pixels) {
+  if (Drawing_) {
+    PenWidth_ = static_cast<std::int16_t>(std::clamp(pixels, 0, 100));
+  } else {
+    hand_.SetWidth(std::clamp(pixels, 1, 100));
+  }
 }
 
 void DrawingTools::SetGridMode(bool Value) {
@@ -124,12 +159,18 @@ void DrawingTools::AnnouncementOver() {
   EndAnnouncement();
 }
 
+Colour DrawingTools::ToolColour(int index) const {
+  const auto i = static_cast<std::size_t>(index);
+  const Colour chosen = settings_.NewColors[i];
+  return Editor() && chosen == kFirstColours[i] ? kEditorColours[i] : chosen;
+}
+
 void DrawingTools::VectorColorUpdate(int Kind) {
   int button = RandomColorIndex_;
   if (settings_.RandomColor == 1 && Kind != kSwingPath && Kind != kZone) {
     engine_.CadColor = kColorChoices[static_cast<std::size_t>(button)];
   } else {
-    engine_.CadColor = settings_.NewColors[static_cast<std::size_t>(Kind)];
+    engine_.CadColor = ToolColour(Kind);
     const auto found = std::ranges::find(kColorChoices, engine_.CadColor);
     button = found == kColorChoices.end() ? -1 : static_cast<int>(found - kColorChoices.begin());
   }
@@ -138,7 +179,10 @@ void DrawingTools::VectorColorUpdate(int Kind) {
 }
 
 void DrawingTools::Announce(int kind) {
-  workspace_.ShowToolCaption("                 Drawing " + std::string(InfOf(kind).ToolCaption) + " in Color       ");
+  const std::string_view tool = inHand_ == ToolInHand::Text           ? "Text"
+                                : inHand_ == ToolInHand::CentreCircle ? "a Circle from its Center"
+                                                                      : InfOf(kind).ToolCaption;
+  workspace_.ShowToolCaption("                 Drawing " + std::string(tool) + " in Color       ");
   workspace_.ShowVectorColor(engine_.CadColor);
 }
 
@@ -160,6 +204,9 @@ void DrawingTools::PutDown() {
   workspace_.MouseWanted();
   DrawingOff();
   DrawKind_ = 0;
+  inHand_ = ToolInHand::Plain;
+  stays_ = false;
+  PenWidth_ = 0;
   engine_.StraightMode = false;
   engine_.StraightAnchor.Set = false;
   if (announced) AnnouncementOver();
@@ -200,148 +247,11 @@ void DrawingTools::FinishOpenShape(ShapeList& list) {
   if (shape.NumBound < 2) engine_.KillShape(list, list.NumShapes - 1);
 }
 
-// ---------------------------------------------------------------- mouse
-
-bool DrawingTools::MouseDown(int Button, int /*Shift*/, float X, float Y, int Window) {
-  if (workspace_.IsPlaying(workspace_.ActiveWindow())) {
-    workspace_.StopClick(Window);
-    EndConstruction();
-    workspace_.MouseWanted();
-    DrawingOff();
-    EndAnnouncement();
-    return true;
-  }
-  if (!Drawing_ || !workspace_.HasVideo(Window)) return false;
-  if (Window != workspace_.ActiveWindow()) workspace_.SetActiveWindow(Window);
-  const POINTAPI point{Round(X), Round(Y)};
-  ShapeList& list = List(Window);
-  // What was under construction may have gone with its video.
-  const bool begins = NewShapePending_ || !UnderConstruction();
-  if (begins) {
-    NewShapePending_ = false;
-    BeforeChange(Window);
-    Shape* const shape = engine_.AddShape(list, DrawKind_, 0);
-    if (!shape) {
-      PutDown();
-      return true;
-    }
-    shape->Measuring = DrawKind_ == kLine && workspace_.CalibrationShown();
-  }
-  // A new shape may begin where the last one was pressed.
-  if (!begins && point == LastDown_) return true;
-  if (list.Adding) {
-    Shape& shape = *LastShape(list);
-    if (Button == kLeftButton) {
-      if (engine_.AddPoint(shape, engine_.ConstrainPoint(point), false)) list.Adding = false;
-    } else if (engine_.LOPShape(shape.Kind) && shape.NumPts > 1) {
-      FinishOpenShape(list);
-      ShapeFinished(Window);
-    }
-  }
-  LastDown_ = point;
-  DrawWindow_ = Window;
-  SetEditBar();
-  return true;
-}
-
-bool DrawingTools::MouseMove(int /*Button*/, int /*Shift*/, float X, float Y, int Window) {
-  if (!Drawing_ || Window != DrawWindow_) return false;
-  ShapeList& list = List(DrawWindow_);
-  if (!list.Adding) return false;
-  Shape& shape = *LastShape(list);
-  const POINTAPI point = engine_.ConstrainPoint({Round(X), Round(Y)});
-  if (engine_.AddPoint(shape, point, shape.Kind == kFreehand)) {
-    list.Adding = false;
-    SetEditBar();
-  }
-  list.CurShape = static_cast<std::int16_t>(list.NumShapes - 1);
-  workspace_.Refresh(DrawWindow_);
-  SetShapeCaption();
-  return true;
-}
-
-bool DrawingTools::MouseUp(int Button, int /*Shift*/, float X, float Y, int Window) {
-  const POINTAPI point{Round(X), Round(Y)};
-  if (!Drawing_) {
-    if (!bar_ || !bar_->Shown()) return false;
-    if (Window != workspace_.ActiveWindow()) {
-      workspace_.SetActiveWindow(Window);
-    } else if (Button == kLeftButton) {
-      Select(Window, point);
-    }
-    return true;
-  }
-  if (!workspace_.HasVideo(Window)) return false;
-
-  ShapeList& list = List(Window);
-  list.CanvasWidth = workspace_.PictureWidth(Window) * kTwipsPerPixel;
-  list.CanvasHeight = workspace_.PictureHeight(Window) * kTwipsPerPixel;
-  if (const Shape* last = LastShape(list);
-      last && ((last->Kind == kAngle && last->NumPts >= 2) || (last->Kind == kLine && last->NumPts >= 1)))
-    workspace_.HideVectorColor();
-  if (Button == kLeftButton && list.Adding) BindPoint(list, point, Window);
-  if (list.Adding) return true;
-  ShapeFinished(Window);
-  // The measure outlives the tool, whose end has cleared the display.
-  if (Window == DrawWindow_ && (DrawKind_ == kLine || DrawKind_ == kAngle)) SetShapeCaption();
-  return true;
-}
-
-void DrawingTools::BindPoint(ShapeList& list, POINTAPI point, int window) {
-  Shape& shape = *LastShape(list);
-  list.CurShape = static_cast<std::int16_t>(list.NumShapes - 1);
-  if (engine_.AddPoint(shape, engine_.ConstrainPoint(point), true)) list.Adding = false;
-  if (shape.Kind == kFreehand) {
-    // One stroke is one shape.
-    FinishOpenShape(list);
-  } else if (shape.Kind == kSwingPath) {
-    if (workspace_.OnLastFrame(window)) {
-      FinishOpenShape(list);
-    } else {
-      workspace_.AdvanceFrame(window);
-    }
-  } else if (shape.Kind == kSquare && !list.Adding && workspace_.TakeSquare(window, shape)) {
-    engine_.KillShape(list, list.NumShapes - 1);
-  }
-}
-
-/// What follows when a window's list takes no more points: the picture shows it, and it can be undone.
-void DrawingTools::ShapeFinished(int window) {
-  ShapeList& list = List(window);
-  list.CurShape = std::min<std::int16_t>(list.CurShape, static_cast<std::int16_t>(list.NumShapes - 1));
-  NoteChange(window);
-  SetEditBar();
-  workspace_.Refresh(window);
-  workspace_.DrawingsChanged(window);
-}
-
-void DrawingTools::Select(int window, POINTAPI point) {
-  ShapeList& list = List(window);
-  DrawWindow_ = window;
-  int nearest = -1;
-  std::int32_t least = HitRadius + 1;
-  int index = 0;
-  for (const Shape& shape : ShapesOf(list)) {
-    const std::int32_t distance = Round(Distance(engine_.GetMid(shape), point));
-    if (distance < least) {
-      least = distance;
-      nearest = index;
-    }
-    ++index;
-  }
-  list.CurShape = static_cast<std::int16_t>(nearest);
-  workspace_.Refresh(window);
-  SetEditBar();
-}
-
-void DrawingTools::SetEditBar() {
-  if (bar_) bar_->SetEditBar();
-}
-
 // ---------------------------------------------------------------- frame
 
 void DrawingTools::ChooseColours(const ShapeList& list) {
-  const bool marks = bar_ && bar_->Shown();
+  // An editor marks the selection by a halo and leaves every drawing its colour.
+  const bool marks = BarShown() && !Editor();
   const bool all = marks && bar_->MultiEdit();
   colours_.clear();
   int index = 0;
@@ -380,9 +290,9 @@ void DrawingTools::PreDrawFrame(Canvas& hDC, int Window) {
   const ShapeList& list = List(Window);
   const auto shapes = ShapesOf(list);
   ChooseColours(list);
-  const GridLook grid{list.GridOn, settings_.GridSize, settings_.NewColors[kGridEntry]};
-  const ShapeLook look{settings_.CadWidth, settings_.CadOutline, engine_.PathHighlight, engine_.EllipseFromCentre,
-                       &engine_.Log};
+  const GridLook grid{list.GridOn, settings_.GridSize, ToolColour(kGridEntry), Editor() ? kGlassGrid : 255};
+  const ShapeLook look{settings_.CadWidth,        settings_.CadOutline, engine_.PathHighlight,
+                       engine_.EllipseFromCentre, &engine_.Log,         Editor()};
   ChooseOpacities(list, workspace_.FrameOf(Window));
   const auto failed =
       painters_[static_cast<std::size_t>(Window - 1)].Paint(hDC, shapes, colours_, grid, look, opacities_);
@@ -514,6 +424,23 @@ void DrawingTools::DeleteCurShape() {
   NoteChange(DrawWindow_);
 }
 
+void DrawingTools::RemoveShape(int window, int index) {
+  ShapeList& list = List(window);
+  if (index < 0 || index >= list.NumShapes || list.Adding) return;
+  BeforeChange(window);
+  engine_.KillShape(list, index);
+  if (list.CurShape >= index) --list.CurShape;
+  NoteChange(window);
+  SetEditBar();
+  workspace_.Refresh(window);
+  workspace_.DrawingsChanged(window);
+}
+
+TakenMarks DrawingTools::MarksOf(const Shape& shape) const {
+  const int width = IsTakenWithin(shape) ? 1 : shape.Width > 0 ? shape.Width : UsualWidth();
+  return {OutlineOf(shape, engine_.EllipseFromCentre), width, HandlesOf(shape)};
+}
+
 void DrawingTools::DeleteLastCAD(int Window) {
   ShapeList& list = List(Resolve(Window));
   BeforeChange(Resolve(Window));
@@ -563,6 +490,7 @@ void DrawingTools::CopyShapes(int FromWindow, int ToWindow) {
 
 void DrawingTools::ForgetPast(int window, const DrawingView& view) {
   History(window).Reset(List(window), view);
+  if (hand_.Window() == window) hand_.LetGo();
   if (measure_ && measure_->window == window) DropMeasure();
 }
 

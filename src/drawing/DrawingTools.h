@@ -9,6 +9,7 @@
 #include "core/Settings.h"
 #include "drawing/IDrawingWorkspace.h"
 #include "drawing/Measurement.h"
+#include "drawing/ShapeHand.h"
 #include "drawing/ShapeLabels.h"
 #include "drawing/ShapeHistory.h"
 #include "drawing/ShapeStore.h"
@@ -23,6 +24,13 @@ inline constexpr std::array<Colour, 12> kColorChoices{
 
 constexpr int kGridSizeLeast = 2;
 constexpr int kGridSizeMost = 200;
+
+/// Ways of holding one of the tools.
+enum class ToolInHand {
+  Plain,
+  CentreCircle,  ///< a circle from its centre to its edge
+  Text,          ///< letters where the mouse is clicked
+};
 
 /// What the edit bar adds to painting and clicks.
 class IEditMarks {
@@ -49,10 +57,20 @@ class DrawingTools final : public IShapeLocked {
   void AttachEditBar(IEditMarks* bar) { bar_ = bar; }
   ShapeEngine& Engine() { return engine_; }
   ShapeList& List(int window) { return engine_.ShapeLists(window); }
+  const ShapeList& List(int window) const { return engine_.ShapeLists(window); }
+  /// What is done to drawings without a tool.
+  ShapeHand& Hand() { return hand_; }
+  const ShapeHand& Hand() const { return hand_; }
 
   // --- state
   bool Drawing() const { return Drawing_; }
   int DrawKind() const { return DrawKind_; }
+  ToolInHand InHand() const { return inHand_; }
+  bool StaysInHand() const { return Drawing_ && stays_; }
+  /// The user has chosen the keys and tools of an editor.
+  bool Editor() const { return settings_.KeysAndTools == kEditorKeys; }
+  /// Pixels of a line that has no width of its own.
+  int UsualWidth() const { return settings_.CadWidth; }
   int DrawWindow() const { return DrawWindow_; }
   bool HasShapes(int window) const;
   /// The measure of a shape does not outlive what comes now; a tool in hand is announced again.
@@ -65,10 +83,23 @@ class DrawingTools final : public IShapeLocked {
   void ChooseFromMenu(int Index);
   void TakeStraightLine();   ///< a straight line
   void TakeStraightArrow();  ///< a straight arrow
+  void TakeCentreCircle();
+  void TakeTextTool();
+  /// The tool in hand makes one shape after the other until it is put down.
+  void StayInHand() {
+    stays_ = Drawing_;
+    straight_ = engine_.StraightMode;
+  }
   void PutToolDown();
   void DeleteLast();
   void DeleteAll();
+  /// For the tool in hand, or what is taken.
   void ChooseColour(int Index);
+  /// Pixels, likewise; the tool keeps them for all shapes to come, 0 what the settings say.
+  void ChooseWidth(int pixels);
+  int PenWidth() const { return PenWidth_ > 0 ? PenWidth_ : settings_.CadWidth; }
+  /// Letters round a point, or, `anew`, in place of those that are taken; without any nothing is written.
+  void WriteText(int window, POINTAPI at, const std::string& text, bool anew);
   void SetGridMode(bool Value);
   /// Divisions across the picture, kGridSizeLeast to kGridSizeMost; other values count as the nearest.
   void SetGridSize(int Value);
@@ -81,6 +112,10 @@ class DrawingTools final : public IShapeLocked {
   bool MouseDown(int Button, int Shift, float X, float Y, int Window);
   bool MouseMove(int Button, int Shift, float X, float Y, int Window);
   bool MouseUp(int Button, int Shift, float X, float Y, int Window);
+  /// The second press of a fast pair, after MouseDown has had it.
+  void MouseTwice(POINTAPI at, int Window) {
+    if (!Drawing_ && !BarShown()) hand_.PressTwice(at, Window);
+  }
 
   // --- frame
   /// Takes all finished drawings off the pictures, in every window, until they are wanted again; what is being
@@ -96,6 +131,9 @@ class DrawingTools final : public IShapeLocked {
   // --- shapes of a window; -1 means the active one
   /// Removes the selected shape of the window that was drawn in last.
   void DeleteCurShape();
+  void RemoveShape(int window, int index);
+  /// The halo and the handles of a shape.
+  TakenMarks MarksOf(const Shape& shape) const;
   void DeleteLastCAD(int Window);
   void DeleteAllCAD(int Window);
   void RedrawCanvas(int Window);
@@ -159,7 +197,14 @@ class DrawingTools final : public IShapeLocked {
   bool UnderConstruction() const;
   bool EndConstruction();
   void FinishOpenShape(ShapeList& list);
-  void BindPoint(ShapeList& list, POINTAPI point, int window);
+  void BindPoint(ShapeList& list, POINTAPI point, bool even, int window);
+  void BeginAtPress(Shape& shape, POINTAPI now);
+  POINTAPI Aim(Shape& shape, POINTAPI point, bool even);
+  void GoOnDrawing();
+  void WantText(int window, POINTAPI at);
+  void Hold(ToolInHand way, int kind);
+  bool BarShown() const { return bar_ && bar_->Shown(); }
+  Colour ToolColour(int index) const;
   void ShapeFinished(int window);
   void StraightTool(int kind);
   void Select(int window, POINTAPI point);
@@ -191,6 +236,13 @@ class DrawingTools final : public IShapeLocked {
   int DrawWindow_ = 1;
   int RandomColorIndex_ = 0;
   POINTAPI LastDown_;
+  std::optional<POINTAPI> press_;  ///< where the left button went down, while it is down
+  ToolInHand inHand_ = ToolInHand::Plain;
+  bool stays_ = false;
+  bool straight_ = false;  ///< of a tool that stays: straight mode
+  std::int16_t PenWidth_ = 0;
+  Colour textColour_ = 0;  ///< of the text tool when it asked for letters
+  ShapeHand hand_{*this, workspace_};
   std::optional<Measure> measure_;  ///< what is shown, also when its tool has ended
 };
 

@@ -39,6 +39,7 @@ void EditBar::ToggleEditBar() {
   const int window = workspace_.ActiveWindow();
   if (!workspace_.HasVideo(window)) return;
   tools_.PutToolDown();
+  tools_.Hand().LetGo();
   ShapeList& list = List();
   if (!Selected()) list.CurShape = static_cast<std::int16_t>(list.NumShapes - 1);
   ChangeEBMode(true);

@@ -9,6 +9,9 @@
 
 namespace kinalyx {
 
+/// What lies under a hand without a tool.
+enum class HandPointer { Nothing, Shape, Point };
+
 /// What the drawing tools need of the workspace whose windows they draw in. Windows count from 1.
 class IDrawingWorkspace {
  public:
@@ -48,6 +51,16 @@ class IDrawingWorkspace {
   /// A figure could not be drawn. Told once, not on each frame; comes while a frame is composed, so a
   /// message box must wait until that is over.
   virtual void ShowDrawError(const std::string& text) = 0;
+
+  // --- a drawing in the free hand
+  /// Another drawing is taken, none any more, or it has another look.
+  virtual void ShapeTaken() {}
+  virtual void ShowPointer(int /*window*/, HandPointer) {}
+  /// Opens the menu of the drawing that is taken.
+  virtual void ShowShapeMenu(int /*window*/, POINTAPI) {}
+  /// Asks for letters round a point of the picture, where some may stand already. They come by
+  /// DrawingTools::WriteText, later or never.
+  virtual void AskText(int /*window*/, POINTAPI, const std::string& /*text*/) {}
 
   // --- what other parts of the workspace do with drawings
   /// A tool was taken up or put down, or the edit bar opened: what else waits for the mouse on a picture

@@ -40,6 +40,11 @@ int ShapeTime::OpacityOn(int frame) const {
   return away > fade ? 0 : static_cast<int>(kFull * (fade + 1 - away) / (fade + 1));
 }
 
+int LetterHeight(const Shape& shape) {
+  constexpr int kUsual = 28;
+  return shape.Width > 0 ? std::clamp<int>(shape.Width, kLeastLetters, kMostLetters) : kUsual;
+}
+
 std::span<const POINTAPI> PointsOf(const Shape& shape) {
   return std::span(shape.Pts).first(Usable(shape.NumPts, shape.Pts.size()));
 }
@@ -92,6 +97,9 @@ void StretchShapes(ShapeList& list, double ScaleX, double ScaleY) {
     const std::size_t count = PointsOf(shape).size();
     for (POINTAPI& point : std::span(shape.Pts).first(count))
       point = {Round(point.x * ScaleX), Round(point.y * ScaleY)};
+    // Letters grow with the picture, as figures do; the pen does not.
+    if (IsText(shape))
+      shape.Width = Round16(std::clamp(LetterHeight(shape) * ScaleY, 1.0 * kLeastLetters, 1.0 * kMostLetters));
   }
 }
 

@@ -91,15 +91,16 @@ struct Shape {
   // What the records of the sidecar and of shape files have no place for.
 
   ShapeTime Time;
-  std::string Text;     ///< UTF-8; stands where the first point is, in place of the figure
-  std::string Unknown;  ///< what a later version has written of this drawing, as JSON; only carried along
+  std::string Text;        ///< UTF-8; stands where the first point is, in place of the figure
+  std::int16_t Width = 0;  ///< pixels of its line, or of the height of its letters; 0: as the settings say
+  std::string Unknown;     ///< what a later version has written of this drawing, as JSON; only carried along
 
   friend bool operator==(const Shape& a, const Shape& b) {
     return IsSameDrawing(a, b) && a.Measuring == b.Measuring && a.SavedPts == b.SavedPts;
   }
   /// The same but for what has no meaning outside a running transform.
   friend bool IsSameDrawing(const Shape& a, const Shape& b) {
-    return IsSameRecord(a, b) && a.Time == b.Time && a.Text == b.Text && a.Unknown == b.Unknown;
+    return IsSameRecord(a, b) && a.Time == b.Time && a.Text == b.Text && a.Width == b.Width && a.Unknown == b.Unknown;
   }
   /// The same in all that a record holds.
   friend bool IsSameRecord(const Shape& a, const Shape& b) {
@@ -107,6 +108,13 @@ struct Shape {
            a.Pts == b.Pts && a.Colour == b.Colour;
   }
 };
+
+constexpr int kLeastLetters = 6;  ///< pixels of height
+constexpr int kMostLetters = 400;
+/// Letters in place of the figure.
+inline bool IsText(const Shape& shape) { return !shape.Text.empty(); }
+/// Pixels from the top to the foot of a line of letters; any shape.
+int LetterHeight(const Shape& shape);
 
 /// The points that exist, also when the counts of a damaged file promise more.
 std::span<const POINTAPI> PointsOf(const Shape& shape);

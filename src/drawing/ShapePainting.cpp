@@ -10,12 +10,19 @@
 namespace kinalyx {
 namespace {
 
-constexpr int kMarkerRadius = 2;    // of the newest point of an unfinished shape
-constexpr double kBarbLength = 30;  // of an arrow
-constexpr double kNotchPart = 0.6;  // how far back from the tip the barbs meet, of their length
-constexpr double kHeadRadius = 30;  // of a stick man
+constexpr int kMarkerRadius = 2;       // of the newest point of an unfinished shape
+constexpr double kNotchPart = 0.6;     // how far back from the tip the barbs meet, of their length
+constexpr double kHeadRadius = 30;     // of a stick man
+constexpr double kSoftBarb = 14;       // the same where heads grow with their line,
+constexpr double kSoftBarbGrowth = 3;  // for each pixel of its width
+constexpr double kSoftSpread = 24;     // degrees
 constexpr int kPathStep = 20;
 constexpr double kPathTension = 0.2;
+constexpr int kFeather = 2;  // pixels of soft shadow round the rim
+constexpr int kFeatherOpacity = 70;
+constexpr int kGlass = 80;                     // opacity of a zone that is laid on as glass
+constexpr int kGlassEdge = 2;                  // pixels
+constexpr double kStrokeStep = 4;              // pixels between the points of a stroke that runs smoothly
 constexpr Colour kHighlightEnds = 255;         // red
 constexpr Colour kHighlightMiddle = 0xFFFFFF;  // white
 
@@ -80,8 +87,22 @@ bool DrawParallelogram(Canvas& hDC, std::span<const POINTAPI> points) {
   return hDC.Polygon(corners);
 }
 
+/// A triangle of coloured glass with an edge.
+bool DrawGlass(Canvas& hDC, std::span<const POINTAPI> points) {
+  const Pen pen = hDC.CurrentPen();
+  hDC.SetPen({pen.colour, 1, 5, kGlass});
+  hDC.SetBrush(pen.colour);
+  bool drawn = hDC.Polygon(points);
+  hDC.SetBrush(std::nullopt);
+  hDC.SetPen({pen.colour, kGlassEdge, 0});
+  drawn = hDC.Polygon(points) && drawn;
+  hDC.SetPen(pen);
+  return drawn;
+}
+
 /// A tint over the video: the filled triangle is merged into the picture.
 bool DrawZone(Canvas& hDC, std::span<const POINTAPI> points, const ShapeLook& look) {
+  if (look.Soft) return DrawGlass(hDC, points);
   hDC.SetROP2(Rop2::MergePen);
   hDC.SetBrush(hDC.CurrentPen().colour);
   bool drawn;
@@ -112,33 +133,33 @@ bool DrawClock(Canvas& hDC, const Shape& shape, std::span<const POINTAPI> points
 }
 
 bool DrawArrow(Canvas& hDC, POINTAPI tail, POINTAPI tip, const ShapeLook& look) {
-  const double length = Distance(tail, tip);
-  if (length == 0) return true;
-  const double angle = PointAngle(tip, tail);
-  const double t = 1 / (length / kBarbLength) * kNotchPart;
-  const POINTAPI notch = Rounded(Lerp(tip.x, tail.x, t), Lerp(tip.y, tail.y, t));
-  const double spread = DegToRad(20);
-  const auto barb = [&](double direction) {
-    return Rounded(tip.x + std::cos(direction) * kBarbLength, tip.y + std::sin(direction) * kBarbLength);
-  };
-  const POINTAPI head[] = {notch, barb(angle - spread), tip, barb(angle + spread), notch};
-  const POINTAPI shaft[] = {notch, tail};
-  const bool drawn = EvalDrawShape(hDC, head, false, look);
+  const Pen pen = hDC.CurrentPen();
+  const auto head =
+      look.Soft ? ArrowHead(tail, tip, kSoftBarb + kSoftBarbGrowth * pen.width, kSoftSpread) : ArrowHead(tail, tip);
+  if (head.empty()) return true;
+  const POINTAPI shaft[] = {head[0], tail};
+  if (look.Soft) hDC.SetBrush(pen.colour);
+  const bool drawn = EvalDrawShape(hDC, look.Soft ? std::span(head).first(4) : std::span(head), look.Soft, look);
+  hDC.SetBrush(std::nullopt);
   return hDC.Polyline(shaft) && drawn;
 }
 
 bool DrawStickMan(Canvas& hDC, std::span<const POINTAPI> points, const ShapeLook& look) {
   const double x = points[0].x, y = points[0].y;
   bool drawn = DrawEllipse(hDC, x - kHeadRadius, y - kHeadRadius, x + kHeadRadius, y + kHeadRadius);
-  if (points.size() < 2) return drawn;
-  const double neck = PointAngle(points[0], points[1]);
-  drawn = APILine(hDC, Rounded(x + std::cos(neck) * kHeadRadius, y + std::sin(neck) * kHeadRadius), points[1], look) &&
-          drawn;
-  static constexpr std::array<std::array<std::size_t, 2>, 11> kLimbs{
-      {{1, 2}, {2, 3}, {3, 4}, {1, 5}, {5, 6}, {6, 7}, {1, 8}, {8, 9}, {9, 10}, {8, 11}, {11, 12}}};
-  for (const auto& [from, to] : kLimbs)
-    if (to < points.size()) drawn = APILine(hDC, points[from], points[to], look) && drawn;
+  for (const auto& limb : StickManLines(points))
+    if (limb.size() == 2) drawn = APILine(hDC, limb[0], limb[1], look) && drawn;
   return drawn;
+}
+
+/// A stroke of the free hand without the stairs of its single pixels.
+std::vector<POINTAPI> WithoutStairs(std::span<const POINTAPI> points) {
+  std::vector<POINTAPI> line{points.front()};
+  for (const POINTAPI& point : points.subspan(1))
+    if (Distance(line.back(), point) >= kStrokeStep) line.push_back(point);
+  if (line.size() > 1 && line.back() != points.back()) line.back() = points.back();
+  if (line.size() < 2) line.push_back(points.back());
+  return line;
 }
 
 /// Red at both ends of the stretch, white in its middle.
@@ -167,7 +188,7 @@ bool DrawSwingPath(Canvas& hDC, const Shape& shape, std::span<const POINTAPI> po
   const int count = stretch.LongEnd - stretch.LongStart;
   const Pen pen = hDC.CurrentPen();
   for (int i = 0; i < count; ++i) {
-    hDC.SetPen({HighlightColour(i, count), look.CadWidth, 0});
+    hDC.SetPen({HighlightColour(i, count), shape.Width > 0 ? shape.Width : look.CadWidth, 0});
     const auto at = static_cast<std::size_t>(stretch.LongStart + i);
     drawn = APILine(hDC, smooth.Pts[at], smooth.Pts[at + 1], look) && drawn;
   }
@@ -175,22 +196,66 @@ bool DrawSwingPath(Canvas& hDC, const Shape& shape, std::span<const POINTAPI> po
   return drawn;
 }
 
+bool DrawLetters(Canvas& hDC, const Shape& shape, POINTAPI at) { return hDC.Text(at, shape.Text, LetterHeight(shape)); }
+
 }  // namespace
+
+std::vector<POINTAPI> ArrowHead(POINTAPI tail, POINTAPI tip, double barb, double degrees) {
+  const double length = Distance(tail, tip);
+  if (length == 0) return {};
+  const double angle = PointAngle(tip, tail);
+  const double t = 1 / (length / barb) * kNotchPart;
+  const POINTAPI notch = Rounded(Lerp(tip.x, tail.x, t), Lerp(tip.y, tail.y, t));
+  const double spread = DegToRad(Round16(degrees));
+  const auto end = [&](double direction) {
+    return Rounded(tip.x + std::cos(direction) * barb, tip.y + std::sin(direction) * barb);
+  };
+  return {notch, end(angle - spread), tip, end(angle + spread), notch};
+}
+
+std::vector<std::vector<POINTAPI>> StickManLines(std::span<const POINTAPI> points) {
+  constexpr int kHeadSides = 24;
+  const double x = points[0].x, y = points[0].y;
+  std::vector<std::vector<POINTAPI>> lines(1);
+  for (int i = 0; i <= kHeadSides; ++i) {
+    const double turn = kTwoPi * i / kHeadSides;
+    lines[0].push_back(Rounded(x + std::cos(turn) * kHeadRadius, y + std::sin(turn) * kHeadRadius));
+  }
+  if (points.size() < 2) return lines;
+  const double neck = PointAngle(points[0], points[1]);
+  lines.push_back({Rounded(x + std::cos(neck) * kHeadRadius, y + std::sin(neck) * kHeadRadius), points[1]});
+  static constexpr std::array<std::array<std::size_t, 2>, 11> kLimbs{
+      {{1, 2}, {2, 3}, {3, 4}, {1, 5}, {5, 6}, {6, 7}, {1, 8}, {8, 9}, {9, 10}, {8, 11}, {11, 12}}};
+  for (const auto& [from, to] : kLimbs)
+    if (to < points.size()) lines.push_back({points[from], points[to]});
+  return lines;
+}
+
+std::vector<POINTAPI> SmoothedPath(const Shape& path) {
+  Shape smooth = path;
+  smooth.NumBound = static_cast<std::int16_t>(PointsOf(path).size());
+  SmoothLine(smooth, kPathStep, kPathTension, false);
+  const auto points = PointsOf(smooth);
+  return {points.begin(), points.end()};
+}
 
 bool DrawShape(const Shape& shape, Canvas& hDC, const ShapeLook& look) {
   const auto points = PointsOf(shape);
   if (points.empty() || !InfOf(shape.Kind).Drawable) return true;
   bool marked = true;
-  if (!shape.Locked) {
+  if (!shape.Locked && !look.Soft) {
     const double x = points.back().x, y = points.back().y;
     marked = DrawEllipse(hDC, x - kMarkerRadius, y - kMarkerRadius, x + kMarkerRadius, y + kMarkerRadius);
   }
   const auto drawKind = [&] {
+    if (IsText(shape)) return DrawLetters(hDC, shape, points[0]);
     if (shape.Kind == kFlag) return DrawFlag(hDC, points[0], look);
     if (shape.Kind == kStickMan) return DrawStickMan(hDC, points, look);
     if (points.size() < 2) return true;
     switch (shape.Kind) {
       case kFreehand:
+        if (look.Soft) return EvalDrawShape(hDC, WithoutStairs(points), false, look);
+        [[fallthrough]];
       case kAngle: return EvalDrawShape(hDC, points, false, look);
       case kSquare: return DrawSquare(hDC, points[0], points[1]);
       case kLine: return hDC.Polyline(points);
@@ -211,14 +276,19 @@ bool DrawShape(const Shape& shape, Canvas& hDC, const ShapeLook& look) {
 
 bool PaintShape(const Shape& shape, Colour colour, Canvas& hDC, const ShapeLook& look) {
   const Pen pen = hDC.CurrentPen();
+  const bool isText = IsText(shape);
+  const int width = isText ? 1 : shape.Width > 0 ? shape.Width : pen.width;
+  const int black = isText ? 2 + LetterHeight(shape) / 10 : width + 2;
   bool drawn = true;
   if (look.CadOutline && shape.Kind != kZone) {
     ShapeLook rim = look;
     rim.PathHighlight = false;
-    hDC.SetPen({0, pen.width + 2, pen.style});
+    hDC.SetPen({0, black + kFeather, pen.style, kFeatherOpacity});
     drawn = DrawShape(shape, hDC, rim);
+    hDC.SetPen({0, black, pen.style});
+    drawn = DrawShape(shape, hDC, rim) && drawn;
   }
-  hDC.SetPen({colour, pen.width, pen.style});
+  hDC.SetPen({colour, width, pen.style});
   drawn = DrawShape(shape, hDC, look) && drawn;
   hDC.SetPen(pen);
   return drawn;

@@ -83,6 +83,8 @@ void ShapeEngine::CopyShapeInto(const ShapeList& SourceList, ShapeList& DestList
   const Shape source = SourceList.Shapes[static_cast<std::size_t>(Index)];
   Shape* copy = AddShape(DestList, source.Kind, source.Colour);
   if (!copy) return;
+  copy->Text = source.Text;
+  copy->Width = source.Width;
   for (const POINTAPI& point : BoundPoints(source)) AddPoint(*copy, point, true);
   if (!source.Locked) return;
   LockShape(*copy);

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "platform/paint/Canvas.h"
+
 namespace kinalyx {
 namespace {
 
@@ -35,7 +37,12 @@ void AddTo(ShapeBox& box, const Shape& shape, bool fromCentre) {
     box.Add({middle.x - dx, middle.y - dy});
     box.Add({middle.x + dx, middle.y + dy});
   };
-  if (shape.Kind == kFlag && !points.empty()) around(points[0], kFlagReach, kFlagReach);
+  if (IsText(shape) && !points.empty()) {
+    const POINTAPI size = Canvas::TextSize(shape.Text, LetterHeight(shape));
+    around(points[0], size.x / 2, size.y / 2);
+  } else if (shape.Kind == kFlag && !points.empty()) {
+    around(points[0], kFlagReach, kFlagReach);
+  }
   if (points.size() < 2) return;
   const POINTAPI span{points[1].x - points[0].x, points[1].y - points[0].y};
   if ((shape.Kind == kEllipse || shape.Kind == kClock) && fromCentre) {
@@ -60,6 +67,7 @@ void ShapeEngine::PrepTrans(Shape& shape) const {
   const auto points = BoundPoints(shape);
   shape.SavedPts.assign(points.begin(), points.end());
   shape.SavedPts.resize(points.size() + 1);
+  if (IsText(shape)) shape.SavedPts.back().x = LetterHeight(shape);
 }
 
 void ShapeEngine::DoneTrans(Shape& shape) const {
@@ -69,7 +77,7 @@ void ShapeEngine::DoneTrans(Shape& shape) const {
 
 void ShapeEngine::RotateShape(Shape& shape, double Angle, POINTAPI Centre) const {
   Log.Tell("Calling RotateShape({}, ({}, {}))", Angle, Centre.x, Centre.y);
-  if (!shape.Locked) return;
+  if (!shape.Locked || IsText(shape)) return;  // letters stay upright
   if (shape.Kind == kFlag || shape.Kind == kSquare || shape.Kind == kEllipse) {
     RenderShape(shape);
     DoneTrans(shape);
@@ -90,7 +98,10 @@ void ShapeEngine::RotateShape(Shape& shape, double Angle, POINTAPI Centre) const
 void ShapeEngine::ScaleShape(Shape& shape, double Factor, POINTAPI Centre) const {
   Log.Tell("Calling ScaleShape({}, ({}, {}))", Factor, Centre.x, Centre.y);
   if (!shape.Locked) return;
-  if (shape.Kind == kFlag) {
+  if (IsText(shape)) {
+    const double height = shape.SavedPts.empty() ? LetterHeight(shape) : shape.SavedPts.back().x;
+    shape.Width = Round16(std::clamp(height * Factor, 1.0 * kLeastLetters, 1.0 * kMostLetters));
+  } else if (shape.Kind == kFlag) {
     RenderShape(shape);
     PrepTrans(shape);
   }
@@ -100,6 +111,7 @@ void ShapeEngine::ScaleShape(Shape& shape, double Factor, POINTAPI Centre) const
 void ShapeEngine::RenderShape(Shape& shape) const {
   Log.Tell("Calling RenderShape()");
   const auto points = BoundPoints(shape);
+  if (IsText(shape)) return;
   if (shape.Kind == kFlag && !points.empty()) {
     const double x = points[0].x;
     const double y = points[0].y;

@@ -20,7 +20,7 @@ constexpr int kRestingFrames = 4;
 
 bool WindowPainter::Content::Shows(const Shape& shape, Colour ink) const {
   return kind == shape.Kind && locked == shape.Locked && colour == ink && rotation == ClockRotation(shape) &&
-         std::ranges::equal(points, PointsOf(shape));
+         width == shape.Width && text == shape.Text && std::ranges::equal(points, PointsOf(shape));
 }
 
 void WindowPainter::Content::Take(const Shape& shape, Colour ink) {
@@ -28,6 +28,8 @@ void WindowPainter::Content::Take(const Shape& shape, Colour ink) {
   locked = shape.Locked;
   colour = ink;
   rotation = ClockRotation(shape);
+  width = shape.Width;
+  text = shape.Text;
   const auto now = PointsOf(shape);
   points.assign(now.begin(), now.end());
 }
@@ -71,7 +73,7 @@ void WindowPainter::PaintGrid(Canvas& canvas, const GridLook& grid) {
     bytes_ -= grid_.Bytes();
     grid_ = grid.on ? Layer::Record(frame_.width, frame_.height,
                                     [&](Canvas& kept) {
-                                      kept.SetPen({grid.colour, 1, frame_.penStyle});
+                                      kept.SetPen({grid.colour, 1, frame_.penStyle, grid.opacity});
                                       DrawGrid(kept, frame_.width, frame_.height, grid.divisions);
                                     })
                     : Layer();

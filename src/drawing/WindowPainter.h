@@ -5,6 +5,7 @@
 #include <functional>
 #include <optional>
 #include <span>
+#include <string>
 #include <vector>
 
 #include "drawing/Shape.h"
@@ -19,6 +20,7 @@ struct GridLook {
   bool on = false;
   int divisions = 0;
   Colour colour = 0;
+  int opacity = 255;
 
   friend bool operator==(const GridLook&, const GridLook&) = default;
 };
@@ -45,6 +47,8 @@ class WindowPainter {
     bool locked = false;
     Colour colour = 0;
     int rotation = 0;
+    std::int16_t width = 0;
+    std::string text;
     std::vector<POINTAPI> points;
 
     bool Shows(const Shape& shape, Colour ink) const;

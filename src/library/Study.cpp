@@ -126,11 +126,12 @@ Shape ShapeOf(const Json& json) {
   shape.Time = {Whole(json, "first", 0, kMost, 0), Whole(json, "last", 0, kMost, -1), Whole(json, "fade", 0, kMost, 0)};
   if (shape.Time.Always()) shape.Time = {};
   shape.Text = Text(json, "text");
-  shape.Unknown = UnknownOf(json, {"kind", "color", "points", "first", "last", "fade", "text"});
+  shape.Width = static_cast<std::int16_t>(Whole(json, "width", 0, std::numeric_limits<std::int16_t>::max(), 0));
+  shape.Unknown = UnknownOf(json, {"kind", "color", "points", "first", "last", "fade", "text", "width"});
   return shape;
 }
 
-bool HasMore(const Shape& shape) { return !shape.Time.Always() || !shape.Text.empty() || !shape.Unknown.empty(); }
+bool HasMore(const Shape& shape) { return !shape.Time.Always() || !shape.Text.empty() || shape.Width > 0 || !shape.Unknown.empty(); }
 
 /// What a drawing of the sidecar is compared by.
 Shape Bare(const Shape& shape) {
@@ -165,6 +166,7 @@ void ReadDrawings(const Json& json, SlotData& data) {
     if (ColourText(shape.Colour) != colours[i]) continue;
     shape.Time = stored.Shapes[i].Time;
     shape.Text = std::move(stored.Shapes[i].Text);
+    shape.Width = stored.Shapes[i].Width;
     shape.Unknown = std::move(stored.Shapes[i].Unknown);
   }
 }
@@ -181,6 +183,7 @@ void PutDrawings(Json& json, const SlotData& data) {
       drawing["fade"] = shape.Time.Fade;
     }
     if (!shape.Text.empty()) drawing["text"] = shape.Text;
+    if (shape.Width > 0) drawing["width"] = shape.Width;
     drawings.push_back(std::move(drawing));
   }
   if (drawings.empty()) return;

@@ -42,6 +42,8 @@ class TestWorkspace final : public IDrawingWorkspace {
   Colour vectorColor = -1;  ///< -1 while hidden
   int button = -1;
   int drawingsChanged = 0;
+  POINTAPI asked{};  ///< where letters are wanted
+  std::string askedText;
 
   int ActiveWindow() override { return active; }
   void SetActiveWindow(int window) override { active = window; }
@@ -64,6 +66,10 @@ class TestWorkspace final : public IDrawingWorkspace {
   void SetColorButton(int index) override { button = index; }
   void ShowDrawError(const std::string& text) override { ADD_FAILURE() << text; }
   void DrawingsChanged(int) override { ++drawingsChanged; }
+  void AskText(int, POINTAPI at, const std::string& text) override {
+    asked = at;
+    askedText = text;
+  }
   bool TakeSquare(int, const Shape&) override { return false; }
   bool CalibrationShown() override { return false; }
   void ShowCalibrationLength(const std::string&) override {}

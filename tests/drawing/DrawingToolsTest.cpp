@@ -68,14 +68,14 @@ TEST(DrawingTools, AFreehandIsOneStrokeAndAPathGoesOnToItsEnd) {
   desk.Move(30, 10);
   desk.Up(40, 20);
   ASSERT_EQ(desk.List().NumShapes, 1);
-  EXPECT_EQ(desk.List().Shapes[0].NumBound, 3);
+  EXPECT_EQ(desk.Points(0), (std::vector<POINTAPI>{{10, 10}, {20, 15}, {30, 10}, {40, 20}}));
   desk.Draw(kFreehand, {{10, 10}});
   EXPECT_EQ(desk.List().NumShapes, 1) << "a mere click is no stroke";
   EXPECT_FALSE(desk.tools.Drawing());
 
   desk.Draw(kSwingPath, {{10, 10}, {30, 10}, {60, 20}});
   EXPECT_TRUE(desk.tools.Drawing());
-  desk.Click(80, 30, 1, 2);
+  desk.Down(60, 20, 1, 2);  // where the last click was
   EXPECT_FALSE(desk.tools.Drawing() || desk.List().Adding) << "the other button ends a path";
   EXPECT_EQ(desk.List().Shapes[1].NumBound, 3);
   EXPECT_EQ(desk.List().Shapes[1].NumPts, 3);
@@ -95,10 +95,10 @@ TEST(DrawingTools, TheSamePixelTwiceIsOnePoint) {
   // A new shape may begin on the pixel where the last one was pressed.
   desk.tools.TakeTool(kLine);
   desk.Down(90, 50);
-  desk.Move(90, 90);
-  desk.Up(90, 90);
+  desk.Move(93, 52);
+  desk.Up(93, 52);
   ASSERT_EQ(desk.List().NumShapes, 2);
-  EXPECT_EQ(desk.List().Shapes[1].NumPts, 1);
+  EXPECT_EQ(desk.Points(1), (std::vector<POINTAPI>{{93, 52}})) << "a hand that trembles drags nothing";
 }
 
 TEST(DrawingTools, PickingAToolTwicePutsItDown) {
@@ -245,6 +245,66 @@ TEST(DrawingTools, AFrameIsPaintedWithMarksAndMeasure) {
     EXPECT_EQ(desk.workspace.display, display);
     EXPECT_EQ(surface.Pixel(20, 11), shown ? 0x800000 : 0) << "ten columns";
   }
+}
+
+TEST(DrawingTools, ADragDrawsAFigureInOneGo) {
+  Desk desk;
+  const auto drag = [&](int kind, POINTAPI from, POINTAPI to, int shift = 0) {
+    if (!desk.tools.Drawing()) desk.tools.TakeTool(kind);
+    desk.Down(from.x, from.y);
+    for (int step = 1; step <= 4; ++step)
+      desk.tools.MouseMove(1, shift, static_cast<float>(from.x + (to.x - from.x) * step / 4),
+                           static_cast<float>(from.y + (to.y - from.y) * step / 4), 1);
+    desk.tools.MouseUp(1, shift, static_cast<float>(to.x), static_cast<float>(to.y), 1);
+  };
+  struct Drawn {
+    int kind, shift;
+    POINTAPI to, second;
+  };
+  for (const Drawn& each : {Drawn{kLine, 0, {190, 130}, {190, 130}},
+                            {kLine, 1, {190, 130}, {190, 100}},     // level
+                            {kArrow, 1, {190, 160}, {175, 175}},    // on the diagonal
+                            {kEllipse, 1, {190, 130}, {190, 190}},  // round
+                            {kSquare, 1, {60, 190}, {10, 190}}}) {
+    drag(each.kind, {100, 100}, each.to, each.shift);
+    EXPECT_FALSE(desk.tools.Drawing());
+    EXPECT_EQ(desk.Points(static_cast<std::size_t>(desk.List().NumShapes) - 1),
+              (std::vector<POINTAPI>{{100, 100}, each.second}))
+        << each.kind;
+  }
+  drag(kAngle, {100, 100}, {200, 100});
+  EXPECT_TRUE(desk.tools.Drawing()) << "one side of an angle is none yet";
+  desk.Click(200, 200);
+  EXPECT_EQ(desk.Points(5), (std::vector<POINTAPI>{{100, 100}, {200, 100}, {200, 200}}));
+
+  desk.tools.TakeCentreCircle();
+  EXPECT_EQ(desk.workspace.caption, "                 Drawing a Circle from its Center in Color       ");
+  drag(kEllipse, {100, 100}, {130, 140});
+  EXPECT_EQ(desk.Points(6), (std::vector<POINTAPI>{{50, 50}, {150, 150}})) << "kept as any circle";
+  EXPECT_EQ(desk.List().Shapes[6].Kind, kEllipse);
+}
+
+TEST(DrawingTools, AToolMayStayInHand) {
+  Desk desk;
+  desk.tools.TakeStraightLine();
+  desk.tools.StayInHand();
+  desk.tools.ChooseColour(6);
+  desk.tools.ChooseWidth(9);
+  desk.Click(100, 100);
+  desk.Click(200, 110);
+  EXPECT_EQ(desk.workspace.display, "90°- 0° angle H-V     100 px") << "the measure is read between two lines";
+  desk.Click(100, 200);
+  desk.Click(200, 210);
+  ASSERT_TRUE(desk.tools.StaysInHand());
+  for (const std::size_t line : {0u, 1u}) {
+    EXPECT_EQ(desk.Points(line)[1].y, desk.Points(line)[0].y);
+    EXPECT_EQ(desk.List().Shapes[line].Colour, kColorChoices[6]);
+    EXPECT_EQ(desk.List().Shapes[line].Width, 9);
+  }
+  desk.tools.PutToolDown();
+  desk.Draw(kLine, {{10, 10}, {50, 60}});
+  EXPECT_FALSE(desk.tools.Drawing());
+  EXPECT_EQ(desk.List().Shapes[2].Width, 0) << "the next tool is the usual one";
 }
 
 }  // namespace

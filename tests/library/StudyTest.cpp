@@ -31,6 +31,7 @@ SlotData Studied() {
   data.Shapes.NumShapes = 3;
   data.Shapes.Shapes[1].Time = {12, 20, 5};
   data.Shapes.Shapes[2].Text = "Łokieć, 肘";
+  data.Shapes.Shapes[0].Width = 9;
   data.Study.Marks = {{{84, true}, "Impact", ""}, {{3, false}, "", ""}};
   data.Study.Ruler = VideoRuler{31.25, 640, 480, 3};
   data.Study.TrueRate = 240;
@@ -54,6 +55,7 @@ struct StudyTest : testing::Test {
     for (Shape& shape : data.Shapes.Shapes) {
       shape.Time = {};
       shape.Text.clear();
+      shape.Width = 0;
     }
     data.Study = {};
     return data;
