@@ -386,6 +386,7 @@ OperationResult LibraryOperations::EndOfTransfer(const VideoTransferJob& copy, b
     result.student = places.front().student;
     for (const std::string& path : copy.Arrived())
       if (FolderOf(path) == folder) result.arrived.push_back(ShownName(path));
+    result.video = result.arrived.front();
   }
   if (copy.Cancelled()) {
     host_.Message(MessageKind::Information, "", kOperationCancelled);
