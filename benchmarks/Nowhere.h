@@ -9,6 +9,7 @@ struct Nowhere final : INavigation {
   void GoToLibrary() override {}
   void GoToMainMenu() override {}
   void ExitAnalysis() override {}
+  void OfferReopen(const std::string&) override {}
 };
 
 }  // namespace kinalyx::bench

@@ -19,10 +19,11 @@ struct ColorScheme {
 /// The colours that the program wears at present.
 class ColorSchemes {
  public:
-  /// The eight schemes; the index is the setting `Design`.
+  /// The nine schemes; the last is dark, with no colour of its own beside that of the film. The index is the setting
+  /// `Design`.
   static std::span<const ColorScheme> All();
 
-  /// Fills the present colours from the setting `Design`. Any value but "0" to "7" leaves them as they
+  /// Fills the present colours from the setting `Design`. Any value but "0" to "8" leaves them as they
   /// are and gives false; before the first call they are those of scheme 0.
   bool ApplyDesign(std::string_view design);
 

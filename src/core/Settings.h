@@ -128,7 +128,7 @@ class Settings {
   std::string NTSCorPAL;           ///< "0" NTSC, 60 fields a second; "1" PAL, 50
 
   // --- [Layout]
-  std::string Design;                        ///< colour scheme, "0" to "7"
+  std::string Design;                        ///< colour scheme, "0" to "8"
   std::array<std::string, 3> PrimaryName;    ///< "Student", "student", "students"
   std::array<std::int32_t, 4> WindowInfo{};  ///< top, left, width, height of the main form in twips
 

@@ -272,6 +272,21 @@ void DrawingTools::ChooseOpacities(const ShapeList& list, int frame) {
     opacities_.push_back(static_cast<std::uint8_t>(hidden_ && shape.Locked ? 0 : seen(shape)));
 }
 
+/// Those of what is seen in full. The ruler's line has its length in its panel.
+void DrawingTools::PaintLabels(Canvas& canvas, int window) {
+  constexpr int kFull = 255;
+  const auto shapes = ShapesOf(List(window));
+  labels_.clear();
+  if (!shapes.empty()) {
+    const MeasureScale scale = ScaleOf(window);
+    for (std::size_t i = 0; i < shapes.size(); ++i) {
+      if (shapes[i].Measuring || (!opacities_.empty() && opacities_[i] < kFull)) continue;
+      if (auto label = LabelOf(shapes[i], scale)) labels_.push_back(std::move(*label));
+    }
+  }
+  labelPainters_[static_cast<std::size_t>(window - 1)].Paint(canvas, labels_);
+}
+
 void DrawingTools::HideDrawings(bool hidden) {
   if (std::exchange(hidden_, hidden) != hidden) RefreshAll();
 }
@@ -297,6 +312,7 @@ void DrawingTools::PreDrawFrame(Canvas& hDC, int Window) {
   const auto failed =
       painters_[static_cast<std::size_t>(Window - 1)].Paint(hDC, shapes, colours_, grid, look, opacities_);
   TellFailure(Window, failed ? &shapes[*failed] : nullptr);
+  if (LabelsShown()) PaintLabels(hDC, Window);
 
   const auto finishedPath = [](const Shape& shape) {
     return shape.Kind == kSwingPath && shape.Locked && shape.NumPts >= 2;

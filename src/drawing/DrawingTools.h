@@ -8,6 +8,7 @@
 
 #include "core/Settings.h"
 #include "drawing/IDrawingWorkspace.h"
+#include "drawing/LabelPainter.h"
 #include "drawing/Measurement.h"
 #include "drawing/ShapeHand.h"
 #include "drawing/ShapeLabels.h"
@@ -212,6 +213,7 @@ class DrawingTools final : public IShapeLocked {
   void StepHistory(int window, bool (ShapeHistory::*step)(ShapeList&));
   void ChooseColours(const ShapeList& list);
   void ChooseOpacities(const ShapeList& list, int frame);
+  void PaintLabels(Canvas& canvas, int window);
   void RefreshAll();
   Calibration CalibrationOf(int window) const;
   MeasureScale ScaleOf(int window) const;
@@ -228,6 +230,8 @@ class DrawingTools final : public IShapeLocked {
   std::array<std::string, ShapeLists::kWindows> failures_;  // what the user was told last
   std::vector<Colour> colours_;
   std::vector<std::uint8_t> opacities_;
+  std::array<LabelPainter, ShapeLists::kWindows> labelPainters_;
+  std::vector<ShapeLabel> labels_;
   bool hidden_ = false;
 
   bool Drawing_ = false;

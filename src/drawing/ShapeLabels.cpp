@@ -6,13 +6,15 @@
 #include <cmath>
 #include <numbers>
 #include <span>
+#include <utility>
 
 namespace kinalyx {
 namespace {
 
 constexpr double kDegrees = 180 / std::numbers::pi;
 constexpr double kMetresPerInch = 0.0254;
-constexpr double kBeside = 18;  // pixels from a line to the middle of its figures
+constexpr double kBeside = 20;   // pixels from a line to the middle of its figures above it
+constexpr double kLetter = 9;    // and about so wide is each of them
 constexpr double kInAngle = 38;  // from a corner into the angle
 
 struct Way {
@@ -42,9 +44,10 @@ std::optional<ShapeLabel> LineLabel(std::span<const POINTAPI> points, const Meas
   // Above the line; beside one that stands.
   double x = way.y / length, y = -way.x / length;
   if (y > 0 || (y == 0 && x < 0)) x = -x, y = -y;
-  return ShapeLabel{At((points[0].x + points[1].x) / 2.0 + x * kBeside * (1 + std::abs(x)),
-                       (points[0].y + points[1].y) / 2.0 + y * kBeside),
-                    fmt::format("{}  {:.1f}°", LengthLabel(length, scale), scale.FromUpright ? 90 - level : level)};
+  std::string text = fmt::format("{}  {:.1f}°", LengthLabel(length, scale), scale.FromUpright ? 90 - level : level);
+  const double aside = kBeside + kLetter / 2 * static_cast<double>(text.size());
+  return ShapeLabel{At((points[0].x + points[1].x) / 2.0 + x * aside, (points[0].y + points[1].y) / 2.0 + y * kBeside),
+                    std::move(text)};
 }
 
 std::optional<ShapeLabel> AngleLabel(std::span<const POINTAPI> points) {

@@ -58,7 +58,7 @@ TEST(ColorSchemes, UnknownDesignsChangeNothing) {
   EXPECT_TRUE(schemes.ApplyDesign("7"));
   EXPECT_EQ(schemes.Colours()[0], 0);
   EXPECT_EQ(schemes.Colours()[3], 16777215);
-  for (const char* bad : {"", "8", "-1", "07", "x"}) EXPECT_FALSE(schemes.ApplyDesign(bad));
+  for (const char* bad : {"", "9", "-1", "07", "x"}) EXPECT_FALSE(schemes.ApplyDesign(bad));
   EXPECT_EQ(schemes.Design(), 7);
   EXPECT_EQ(ColorSchemes::All()[7].caption, "Outdoor Mode");
 }

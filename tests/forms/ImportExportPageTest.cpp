@@ -1,5 +1,10 @@
 #include "library/forms/ImportExportPage.h"
 
+#include <QApplication>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QUrl>
+
 #include "../library/LibraryFakes.h"
 #include "../library/TempLibrary.h"
 #include "FormDriver.h"
@@ -60,6 +65,20 @@ TEST_F(ImportExportPageTest, CountsWhatIsChosenAndOpensWhereTheUserWas) {
   EXPECT_EQ(Text("IECount0"), "0 Videos Selected");
   EXPECT_TRUE(Text("Label6").endsWith(" % Free"));
   EXPECT_EQ(remembered[1], "Joe");  // this page remembers nothing for others
+}
+
+TEST_F(ImportExportPageTest, WhatIsDroppedComesToWhoIsChosen) {
+  disk.Put("Żółw.mp4", "5");
+  UseDisk();
+  QMimeData files;
+  files.setUrls({QUrl::fromLocalFile(disk.Path("Żółw.mp4").c_str())});
+  QDragEnterEvent over({50, 50}, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(page.get(), &over);
+  EXPECT_EQ(Text("IEDisplay"), "Drop to copy the videos to Joe.");
+  QDropEvent drop({50, 50}, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(page.get(), &drop);
+  Work();
+  EXPECT_EQ(test::TempLibrary::Read(library.Path("Ann/Joe/Żółw.mp4")), "5");
 }
 
 TEST_F(ImportExportPageTest, AWholeDatabaseGoesOutAndComesBack) {

@@ -316,6 +316,7 @@ TEST_F(LibraryCommandsTest, TheTrimPanelFollowsThePreviewAndCountsFrames) {
   ASSERT_TRUE(slider->isVisible());
   EXPECT_EQ(slider->Frames(), 8);
   EXPECT_FALSE(Find<QPushButton>("EditSaveBtn")->isEnabled());
+  EXPECT_FALSE(Find<QPushButton>("AddVideosBtn")->isEnabled());
   for (int step = 0; step < 2; ++step) QTest::keyClick(slider, Qt::Key_Right);
   EXPECT_EQ(Preview().Position() / 2, 2);
   Press("StartHerebtn");
@@ -336,7 +337,7 @@ TEST_F(LibraryCommandsTest, TheTrimPanelFollowsThePreviewAndCountsFrames) {
 
   QTest::keyClick(slider, Qt::Key_Escape);
   EXPECT_FALSE(slider->isVisible());
-  EXPECT_TRUE(List("VideoList")->isEnabled());
+  EXPECT_TRUE(List("VideoList")->isEnabled() && Find<QPushButton>("AddVideosBtn")->isEnabled());
   Press("SPBtn5");
   Choose("StudentList", "Tom");
   EXPECT_FALSE(slider->isVisible()) << "another video ends it as well";

@@ -112,12 +112,12 @@ void TileButton::paintEvent(QPaintEvent*) {
   QColor ground = rail ? Qt::transparent : isEnabled() ? theme.panel : Mix(theme.panel, theme.line, 0.35);
   QColor ink = isEnabled() ? theme.heading : theme.faint;
   if (!rail) {
-    // A hint of the picture shines through; the words are set for the darkest that it can be.
+    // A hint of the picture shines through; the words are set for the worst that it can be.
     constexpr double kOpacity = 0.92;
-    ink = Readable(ink, Mix(ground, Qt::black, 1 - kOpacity));
+    ink = Readable(ink, Mix(ground, theme.dark ? Qt::white : Qt::black, 1 - kOpacity));
     ground.setAlphaF(kOpacity);
   }
-  if (hovered) ground = rail ? Mix(theme.panel, theme.line, 0.6) : Mix(theme.panel, Qt::white, 0.75);
+  if (hovered) ground = rail ? Mix(theme.panel, theme.line, 0.6) : Mix(theme.panel, Qt::white, theme.dark ? 0.1 : 0.75);
   if (chosen) {
     ground = theme.accent;
     ink = theme.accentText;

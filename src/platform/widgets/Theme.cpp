@@ -77,15 +77,17 @@ Theme Theme::FromSlots(const SchemeSlots& scheme) {
   t.panel = ToQColor(scheme[1]);
   t.backdrop = ToQColor(scheme[3]);
   t.accentText = TextOnAccent(t.accent, ToQColor(scheme[2]), t.panel);
+  t.dark = ContrastRatio(t.panel, Qt::white) > ContrastRatio(t.panel, Qt::black);
   // A near-black accent cannot be darkened, so it answers the mouse by growing lighter.
   t.accentHover = Mix(t.accent, t.panel, 0.16);
   t.accentPressed = Mix(t.accent, t.panel, 0.28);
-  t.field = Mix(t.panel, Qt::white, 0.88);
-  t.line = Mix(Mix(t.panel, t.backdrop, 0.5), t.accent, 0.22);
+  t.field = t.dark ? Mix(t.panel, Qt::black, 0.3) : Mix(t.panel, Qt::white, 0.88);
+  t.line = Mix(Mix(t.panel, t.backdrop, 0.5), t.accent, t.dark ? 0.5 : 0.22);
   t.outline = Readable(Mix(t.line, t.accent, 0.2), t.field, 3);
   t.idle = Mix(t.panel, t.backdrop, 0.5);
-  t.text = Readable(Mix(Mix(t.accent, t.panel, 0.06), Qt::black, 0.55), t.backdrop, 7);
-  t.heading = Readable(t.accent, t.panel);
+  t.text = t.dark ? Mix(t.panel, Qt::white, 0.86)
+                  : Readable(Mix(Mix(t.accent, t.panel, 0.06), Qt::black, 0.55), t.backdrop, 7);
+  t.heading = t.dark ? Mix(t.panel, Qt::white, 0.94) : Readable(t.accent, t.panel);
   t.muted = Readable(Readable(Mix(t.text, t.panel, 0.38), t.panel), t.backdrop);
   // Not inviting, but still to be made out, also on the fill of a disabled button.
   t.faint = Readable(Readable(Mix(t.text, t.panel, 0.58), Mix(t.panel, t.line, 0.35), 3), t.backdrop, 3);
@@ -94,7 +96,7 @@ Theme Theme::FromSlots(const SchemeSlots& scheme) {
   t.stage = QColor(0x12, 0x16, 0x1b);
   t.stageLine = QColor(0x2a, 0x31, 0x39);
   t.stageFrame = ToneOf(t.accent, 0.75, 0.64);
-  t.stageText = Mix(t.panel, Qt::white, 0.5);
+  t.stageText = Mix(t.panel, Qt::white, t.dark ? 0.86 : 0.5);
   t.stageOutline = Mix(t.stage, Qt::white, 0.42);
   return t;
 }

@@ -28,13 +28,14 @@ inline constexpr int kCaptionPixels = 11;
 /// or white until they stand out 4.5 : 1 from what they are written on; disabled ones 3 : 1.
 struct Theme {
   SchemeSlots scheme{};
-  QColor accent;  ///< slot 0: buttons, headings, selected rows
+  bool dark = false;  ///< light letters on dark panels
+  QColor accent;      ///< slot 0: buttons, headings, selected rows
   QColor accentHover;
   QColor accentPressed;
   QColor accentText;  ///< slot 2, or the slot that can be read on the accent
   QColor panel;       ///< slot 1: headings of panels, the rail
   QColor backdrop;    ///< slot 3
-  QColor field;       ///< lists, boxes and the bodies of panels: a light tint of slot 1
+  QColor field;       ///< lists, boxes and the bodies of panels: a light tint of slot 1, a deep shade of a dark one
   QColor line;        ///< borders of panels, and dividers
   QColor outline;     ///< of fields and check marks, which show by nothing else: 3 : 1 on `field`
   QColor text;        ///< on `field`, `panel` and `backdrop`
