@@ -188,6 +188,17 @@ void AnalysisWorkspace::ChooseColour(int Index) {
   stage_.FocusKeyBox();
 }
 
+void AnalysisWorkspace::ChooseWidth(int pixels) {
+  tools_.ChooseWidth(pixels);
+  stage_.News().Note(kCommandsChanged);
+  stage_.FocusKeyBox();
+}
+
+void AnalysisWorkspace::ShapeTaken() {
+  edits_.ShowTaken();
+  stage_.News().Note(kCommandsChanged);
+}
+
 // ---------------------------------------------------------------- from the players
 
 void AnalysisWorkspace::PreDrawFrame(Canvas& hDC, int ID) {
@@ -214,6 +225,7 @@ void AnalysisWorkspace::StrobeEnded(int ID) { compare_.Strobe().StrobeEnded(ID);
 
 void AnalysisWorkspace::MouseDown(int Button, int Shift, float X, float Y, int ID) {
   if (Button == kMiddleButton) return compare_.Zoom().DragBegin(ID, X, Y);
+  pressedAt_ = {static_cast<std::int32_t>(X), static_cast<std::int32_t>(Y)};
   if (!tools_.MouseDown(Button, Shift, X, Y, ID)) Select(ID);
   stage_.News().Note(kCommandsChanged);
   stage_.FocusKeyBox();
@@ -230,7 +242,8 @@ void AnalysisWorkspace::MouseUp(int Button, int Shift, float X, float Y, int ID)
 }
 
 void AnalysisWorkspace::DblClick(int ID) {
-  if (!stage_.HasVideo(ID)) CellDoubleClicked(ID);
+  if (!stage_.HasVideo(ID)) return CellDoubleClicked(ID);
+  tools_.MouseTwice(pressedAt_, ID);
 }
 
 void AnalysisWorkspace::KeyDown(int KeyCode, int Shift, int) { menuBar_.PressKey(KeyCode, Shift); }

@@ -72,6 +72,8 @@ class AnalysisWorkspace final : public IFrameInterface,
   void OpenFiles(int slot, const std::vector<std::string>& paths);
   void PutToolDown();
   void ChooseColour(int Index);
+  /// Pixels of the line of the tool in hand, or of what is taken.
+  void ChooseWidth(int pixels);
 
   // --- IFrameInterface
   void PreDrawFrame(Canvas& hDC, int ID) override;
@@ -127,6 +129,10 @@ class AnalysisWorkspace final : public IFrameInterface,
   void HideVectorColor() override { view_.HideVectorColor(); }
   void SetColorButton(int index) override { view_.SetColorButton(index); }
   void ShowDrawError(const std::string& text) override;
+  void ShapeTaken() override;
+  void ShowPointer(int window, HandPointer pointer) override { edits_.ShowPointer(window, pointer); }
+  void ShowShapeMenu(int window, POINTAPI at) override { edits_.ShowShapeMenu(window, at); }
+  void AskText(int window, POINTAPI at, const std::string& text) override { edits_.AskText(window, at, text); }
   void MouseWanted() override { compare_.StopWaiting(); }
   void DrawingsChanged(int window) override;
   bool TakeSquare(int window, const Shape& square) override;
@@ -156,6 +162,7 @@ class AnalysisWorkspace final : public IFrameInterface,
   MenuBar menuBar_;
   HostTimer drawError_;
   std::array<bool, kSlots + 1> locked_{};
+  POINTAPI pressedAt_;  ///< where the mouse went down last
 };
 
 }  // namespace kinalyx

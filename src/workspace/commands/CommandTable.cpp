@@ -57,9 +57,9 @@ constexpr ScreenButton kScreenButtons[] = {
 };
 
 /// What stands in the menus or under a key as well, and is wanted least often on the strip.
-constexpr std::string_view kSpareButtons[] = {"Closeallbtn", "Scn3",          "Scn5",           "Scn6",
-                                              "Scn7",        "RedoBtn",       "CmdAfunctions1", "smbar",
-                                              "ribShowGrid", "CmdAfunctions7"};
+constexpr std::string_view kSpareButtons[] = {"Closeallbtn", "Scn3",           "Scn5",           "Scn6",
+                                              "Scn7",        "RedoBtn",        "CmdAfunctions1", "smbar",
+                                              "ribShowGrid", "CmdAfunctions7", "CentreCircleBtn"};
 
 struct KeyRow {
   const char* item;
@@ -203,8 +203,11 @@ void MenuBar::AddDraw() {
   const auto hasShapes = Needs([this] { return HasVideo() && tools_.HasShapes(stage_.CurrentWindow); },
                                "Nothing is drawn in the current window");
   const auto inHand = [this](int kind, bool straight) {
-    return tools_.Drawing() && tools_.DrawKind() == kind && tools_.Engine().StraightMode == straight;
+    return tools_.Drawing() && tools_.InHand() == ToolInHand::Plain && tools_.DrawKind() == kind &&
+           tools_.Engine().StraightMode == straight;
   };
+  const auto heldAs = [this](ToolInHand way) { return tools_.Drawing() && tools_.InHand() == way; };
+  const std::size_t firstTool = commands_.size();
   for (int kind = 0; kind < static_cast<int>(std::size(kDrawTools)); ++kind) {
     const ToolEntry& tool = kDrawTools[kind];
     Add({"MenuDraw" + std::to_string(kind), kDraw, tool.caption, "CmdMakeShape" + std::to_string(kind), tool.icon,
@@ -218,6 +221,15 @@ void MenuBar::AddDraw() {
        [this] { tools_.TakeStraightLine(); }, hasVideo, [inHand] { return inHand(kLine, true); }});
   Add({"DDSA", kDraw, "Draw Straight Arrow", "DDSABtn", "straight-arrow", "Draw Straight Arrow", kDrawing,
        [this] { tools_.TakeStraightArrow(); }, hasVideo, [inHand] { return inHand(kArrow, true); }});
+  Add({"DrawCentreCircle", kDraw, "Draw Circle from Center", "CentreCircleBtn", "centre-circle",
+       "Draw Circle from Center", kDrawing, [this] { tools_.TakeCentreCircle(); }, hasVideo,
+       [heldAs] { return heldAs(ToolInHand::CentreCircle); }});
+  Add({"DrawText", kDraw, "Draw Text", "DrawTextBtn", "text", "Draw Text", kDrawing, [this] { tools_.TakeTextTool(); },
+       hasVideo, [heldAs] { return heldAs(ToolInHand::Text); }});
+  for (std::size_t i = firstTool; i < commands_.size(); ++i) {
+    Command& tool = commands_[i];
+    if (tool.group == kDrawing && tool.item != "MenuDraw11") tool.twice = [this] { tools_.StayInHand(); };
+  }
   AddSeparator(kDraw);
   Add({"UndoDrawing", kDraw, "Ctrl+Z - Undo", "UndoBtn", "undo", "Undo (Ctrl+Z)", kErasing, [this] { edits_.Undo(); },
        Needs([this] { return HasVideo() && edits_.CanUndo(); },

@@ -45,6 +45,15 @@ bool MenuBar::Run(const std::string& name) {
   return true;
 }
 
+void MenuBar::RunTwice(const std::string& name) {
+  const Command* command = Find(name);
+  if (!command || !command->twice || !command->Reason().empty()) return;
+  // The first click may have put down what was in hand.
+  if (command->checked && !command->checked()) command->run();
+  command->twice();
+  stage_.News().Note(kCommandsChanged);
+}
+
 void MenuBar::SetProfilesTitle(const std::string& title) {
   std::ranges::find(commands_, "VLib", &Command::item)->caption = title + " - Home key";
 }

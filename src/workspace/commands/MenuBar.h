@@ -59,6 +59,7 @@ struct Command {
   /// Why it cannot run now, in words for the user; empty text: it can. No function: it always can.
   std::function<std::string()> obstacle = {};
   std::function<bool()> checked = {};  ///< empty: the command has no state
+  std::function<void()> twice = {};    ///< what a double click on its button does besides; empty: nothing
   bool spare = false;                  ///< its button is among the first to leave a strip that is too narrow
   std::vector<KeyStroke> keys = {};
 
@@ -78,6 +79,8 @@ class MenuBar {
   const std::vector<Command>& Commands() const { return commands_; }
   /// Runs a command by its item or button name when it is enabled; false when it is not or unknown.
   bool Run(const std::string& name);
+  /// After a double click on its button, whose first click has run it.
+  void RunTwice(const std::string& name);
   /// Null for an unknown name.
   const Command* Find(const std::string& name) const;
   /// The title of the profiles page, with the user's word for a student, as the Go To menu shows it.

@@ -61,7 +61,34 @@ void DrawingEdits::ShowSelection() {
   if (bar_.Shown()) view_.ShowSelection(stage_.CurrentWindow, Marks(), SelectionWords());
 }
 
+/// While the bar is up, an editor has the same halo round what it works on.
+void DrawingEdits::ShowTaken() {
+  const int window = stage_.CurrentWindow;
+  auto marks = tools_.Hand().MarksIn(window);
+  if (bar_.Shown() && tools_.Editor() && !bar_.MultiEdit()) {
+    const Shape* selected = SelectedShape(List());
+    if (selected && selected->Locked) marks = tools_.MarksOf(*selected);
+    if (marks) marks->handles.clear();
+  }
+  view_.ShowTaken(window, marks);
+}
+
+void DrawingEdits::ShowShapeMenu(int window, POINTAPI at) {
+  if (Taken()) view_.ShowShapeMenu(window, at);
+}
+
+void DrawingEdits::WriteText(int window, POINTAPI at, const std::string& text, bool anew) {
+  tools_.WriteText(window, at, text, anew);
+  stage_.News().Note(kCommandsChanged);
+}
+
+void DrawingEdits::EditText() {
+  const Shape* taken = tools_.Hand().Taken();
+  if (taken && IsText(*taken)) view_.AskText(tools_.Hand().Window(), PointsOf(*taken)[0], taken->Text, true);
+}
+
 void DrawingEdits::FramePainted(int slot) {
+  if (slot == stage_.CurrentWindow) ShowTaken();
   if (slot == stage_.CurrentWindow) ShowSelection();
 }
 
@@ -237,8 +264,13 @@ bool DrawingEdits::PressKey(int KeyCode, int Shift) {
   if (Shift & kCtrl) {
     if (KeyCode == 'Z') Shift& kShift ? Redo() : Undo();
     if (KeyCode == 'Y') Redo();
+    if (KeyCode == 'D' && Taken()) {
+      Hand().Duplicate();
+      return true;
+    }
     return KeyCode == 'Z' || KeyCode == 'Y';
   }
+  if (Taken() && !tools_.Drawing() && !bar_.Shown()) return PressKeyInHand(KeyCode, Shift);
   if (!bar_.Shown() || tools_.Drawing()) return false;
   const auto press = [this](EditHandle handle) {
     if (!Dragging() && view_.HandleEnabled(handle)) bar_.UseHandle(handle);
@@ -256,7 +288,24 @@ bool DrawingEdits::PressKey(int KeyCode, int Shift) {
   }
 }
 
+/// Keys for the drawing that is taken.
+bool DrawingEdits::PressKeyInHand(int KeyCode, int Shift) {
+  if (KeyCode == kKeyDelete) {
+    Hand().Remove();
+    return true;
+  }
+  if (!(Shift & kShift)) return false;
+  switch (KeyCode) {
+    case kKeyLeft: Hand().Nudge(-1, 0); return true;
+    case kKeyRight: Hand().Nudge(1, 0); return true;
+    case kKeyUp: Hand().Nudge(0, -1); return true;
+    case kKeyDown: Hand().Nudge(0, 1); return true;
+    default: return false;
+  }
+}
+
 void DrawingEdits::PutAway() {
+  Hand().LetGo();
   if (bar_.Shown()) EndEdit();
   if (macroFormShown_) ToggleMacroForm();
 }
@@ -267,7 +316,9 @@ void DrawingEdits::EndEdit() {
 }
 
 bool DrawingEdits::Escape() {
-  if (bar_.Shown()) {
+  if (Taken()) {
+    Hand().LetGo();
+  } else if (bar_.Shown()) {
     EndEdit();
   } else if (gridPanelShown_) {
     ToggleGridPanel();
@@ -283,7 +334,9 @@ bool DrawingEdits::Escape() {
 
 void DrawingEdits::FocusChanged() {
   ReleaseHandle();
+  if (Hand().Window() != stage_.CurrentWindow) Hand().LetGo();
   bar_.MoveEditBar();
+  ShowTaken();
   ShowSelection();
 }
 

@@ -28,6 +28,14 @@ class IDrawingEditsView : public IEditBarView {
   virtual bool HandleEnabled(EditHandle handle) = 0;
   /// The handles on the picture of a window, none without marks, and what the bar says of the selection.
   virtual void ShowSelection(int window, const std::optional<SelectionMarks>& marks, const std::string& words) = 0;
+  /// The halo and the handles of the drawing that is taken, in pixels of a window's picture; none without marks.
+  virtual void ShowTaken(int /*window*/, const std::optional<TakenMarks>& /*marks*/) {}
+  virtual void ShowPointer(int /*window*/, HandPointer) {}
+  /// The menu of the drawing that is taken, at a point of the picture.
+  virtual void ShowShapeMenu(int /*window*/, POINTAPI /*at*/) {}
+  /// A box round a point of the picture in which letters are typed; `anew`: in place of those that are taken. What
+  /// is typed comes back by WriteText, also when the box is left; nothing after Escape.
+  virtual void AskText(int /*window*/, POINTAPI /*at*/, const std::string& /*text*/, bool /*anew*/) {}
   /// Asks for the name of a new macro beside a picture of it; empty or nothing: none is made.
   virtual std::optional<std::string> AskMacroName(const ShapeList& drawing) = 0;
   virtual void ShowMacroForm(bool shown) = 0;
@@ -72,6 +80,17 @@ class DrawingEdits {
   /// Shows the handles where the selection is now.
   void ShowSelection();
 
+  // --- the drawing that is taken without the bar
+  ShapeHand& Hand() { return tools_.Hand(); }
+  bool Taken() const { return tools_.Hand().Taken() != nullptr; }
+  void ShowTaken();
+  void ShowPointer(int window, HandPointer pointer) { view_.ShowPointer(window, pointer); }
+  void ShowShapeMenu(int window, POINTAPI at);
+  void AskText(int window, POINTAPI at, const std::string& text) { view_.AskText(window, at, text, !text.empty()); }
+  void WriteText(int window, POINTAPI at, const std::string& text, bool anew);
+  /// Types the letters of what is taken anew.
+  void EditText();
+
   // --- undo of the current window's drawings; not while one is dragged
   bool CanUndo() const { return !Dragging() && tools_.CanUndo(stage_.CurrentWindow); }
   bool CanRedo() const { return !Dragging() && tools_.CanRedo(stage_.CurrentWindow); }
@@ -101,7 +120,8 @@ class DrawingEdits {
   bool CanClone() const;
 
   // --- keys
-  /// Ctrl+Z, Ctrl+Shift+Z and Ctrl+Y; and while the bar is up Tab, Delete, and Shift with an arrow.
+  /// Ctrl+Z, Ctrl+Shift+Z and Ctrl+Y; while a drawing is taken Delete, Ctrl+D, and Shift with an arrow; and while
+  /// the bar is up Tab, Delete, and Shift with an arrow.
   /// Shift is 1, Ctrl 2. True when the key was one of these.
   bool PressKey(int KeyCode, int Shift);
   /// Leaves the edit, or closes a panel, the innermost first; false when there is nothing to leave.
@@ -120,6 +140,7 @@ class DrawingEdits {
   /// A drag that is under way ends where it is.
   void EndEdit();
   ShapeList& List() { return tools_.List(stage_.CurrentWindow); }
+  bool PressKeyInHand(int KeyCode, int Shift);
   std::optional<SelectionMarks> Marks();
   std::string SelectionWords();
   std::pair<float, float> InHandle(EditHandle handle, POINTAPI at);
