@@ -65,13 +65,13 @@ TEST_F(SetupPageTest, FillingTheControlsWritesNothing) {
 
 TEST_F(SetupPageTest, EveryControlWritesItsKeyAtOnce) {
   QSignalSpy analysis(page.get(), &SetupPage::AnalysisChanged);
-  for (const char* button :
-       {"ScreenOpt4", "ODSetupOpt1", "ShortGameCheck", "Check1_8", "CadOutlineCheck", "DCSetupOpt1", "SSOption2_1"})
+  for (const char* button : {"ScreenOpt4", "ODSetupOpt1", "ShortGameCheck", "Check1_8", "CadOutlineCheck",
+                             "DCSetupOpt1", "SSOption2_1", "KeysOpt1"})
     Press(button);
   Find<QSlider>("Slomoscroll")->setValue(40);
   Find<QSlider>("GridSizeScroll")->setValue(12);
   Find<QSlider>("StrobeStepScroll")->setValue(4);
-  EXPECT_EQ(analysis.count(), 10);
+  EXPECT_EQ(analysis.count(), 11);
 
   QSignalSpy company(page.get(), &SetupPage::CompanyChanged);
   QSignalSpy menu(page.get(), &SetupPage::MenuChanged);
@@ -96,6 +96,7 @@ TEST_F(SetupPageTest, EveryControlWritesItsKeyAtOnce) {
   } written[] = {{"General", "ScreenMode", "4"},
                  {"Analysis", "OpenDlgChoice", "1"},
                  {"Analysis", "ShortGame", "1"},
+                 {"Analysis", "KeysAndTools", "1"},
                  {"Analysis", "GridSize", "12"},
                  {"Analysis", "SlomoSpeed", "40"},
                  {"Analysis", "StrobeStep", "4"},

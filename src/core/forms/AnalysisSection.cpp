@@ -125,6 +125,13 @@ void AnalysisSection::AddDrawing() {
   outline_ = new QCheckBox("Dark outline around drawings");
   outline_->setObjectName("CadOutlineCheck");
   rows->addWidget(outline_);
+  rows->addSpacing(6);
+  rows->addWidget(MakeLabel({}, "Keys and tools", "caption"));
+  keys_ = AddRadios(*rows, "KeysOpt", {"Classic", "Editor"});
+  keys_->button(kEditorKeys)
+      ->setToolTip(
+          "What was drawn is taken at once; a click takes the line under it; soft lines in colors that stand out");
+  connect(keys_, &QButtonGroup::idClicked, this, [this](int way) { StoreAndTell(settings_.KeysAndTools, way); });
   connect(widths_, &QButtonGroup::idClicked, this, [this](int width) { StoreAndTell(settings_.CadWidth, width); });
   connect(outline_, &QCheckBox::toggled, this, [this](bool on) { StoreAndTell(settings_.CadOutline, on); });
 }
@@ -169,6 +176,7 @@ void AnalysisSection::SetupProgram() {
   choose(sides_, settings_.OpenDlgChoice);
   choose(widths_, settings_.CadWidth);
   choose(colouring_, settings_.RandomColor);
+  choose(keys_, settings_.KeysAndTools == kEditorKeys ? kEditorKeys : kClassicKeys);
   choose(standards_, settings_.NTSCorPAL == "0" ? 0 : 1);  // what is not 0 measures as PAL
   slomo_->setValue(settings_.SlomoSpeed);
   strobe_->setValue(settings_.StrobeStep);

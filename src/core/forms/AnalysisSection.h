@@ -41,6 +41,7 @@ class AnalysisSection : public SetupSection {
   QButtonGroup* sides_ = nullptr;
   QButtonGroup* widths_ = nullptr;
   QButtonGroup* colouring_ = nullptr;
+  QButtonGroup* keys_ = nullptr;
   QButtonGroup* standards_ = nullptr;
   QSlider* slomo_ = nullptr;
   QSlider* strobe_ = nullptr;

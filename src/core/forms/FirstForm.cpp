@@ -1,10 +1,13 @@
 #include "core/forms/FirstForm.h"
 
 #include <QBoxLayout>
+#include <QButtonGroup>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
+#include <QRadioButton>
+#include <tuple>
 
 #include "core/MailSettings.h"
 #include "core/Settings.h"
@@ -55,6 +58,7 @@ FirstForm::FirstForm(Settings& settings, MailSettings& mail, QWidget* over)
   rows->addSpacing(12);
   name_ = AddBox(*rows, "UserInfo0", "Enter Your Name Here");
   company_ = AddBox(*rows, "UserInfo1", "Enter Your Company Name Here");
+  AddKeys(*rows);
   rows->addSpacing(10);
   auto* actions = new QHBoxLayout;
   actions->addStretch(1);
@@ -80,6 +84,26 @@ FirstForm::FirstForm(Settings& settings, MailSettings& mail, QWidget* over)
     emit CompanyChanged(text);
   });
   connect(finished, &QPushButton::clicked, this, &FirstForm::Finish);
+}
+
+void FirstForm::AddKeys(QVBoxLayout& rows) {
+  rows.addWidget(MakeLabel("KeysLbl", "Keys and tools", "caption"));
+  auto* choice = new QHBoxLayout;
+  choice->setSpacing(18);
+  auto* ways = new QButtonGroup(this);
+  for (const auto& [way, words, tip] :
+       {std::tuple{kClassicKeys, "Classic", "Keys and drawing tools as they have always been"},
+        {kEditorKeys, "Editor", "What was drawn is taken at once; soft lines in colors that stand out"}}) {
+    auto* button = new QRadioButton(words);
+    button->setObjectName(QString("KeysOpt%1").arg(way));
+    button->setToolTip(tip);
+    button->setChecked((settings_.KeysAndTools == kEditorKeys) == (way == kEditorKeys));
+    ways->addButton(button, way);
+    choice->addWidget(button);
+  }
+  choice->addStretch(1);
+  rows.addLayout(choice);
+  connect(ways, &QButtonGroup::idClicked, this, [this](int way) { settings_.Set(settings_.KeysAndTools, way); });
 }
 
 void FirstForm::showEvent(QShowEvent* event) {

@@ -3,14 +3,15 @@
 #include <QDialog>
 
 class QLineEdit;
+class QVBoxLayout;
 
 namespace kinalyx {
 
 class MailSettings;
 class Settings;
 
-/// Asks a new user for name and company, on the very first start. Every change is kept at once; "Finished"
-/// also makes them the sender and the subject of mails.
+/// Asks a new user for name, company and way of working, on the very first start. Every change is kept at once;
+/// "Finished" also makes them the sender and the subject of mails.
 class FirstForm : public QDialog {
   Q_OBJECT
 
@@ -27,6 +28,7 @@ class FirstForm : public QDialog {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  void AddKeys(QVBoxLayout& rows);
   void Finish();
 
   Settings& settings_;
