@@ -2,11 +2,15 @@
 
 #include <QApplication>
 #include <QHelpEvent>
+#include <QMimeData>
 #include <QPainter>
 #include <QSignalBlocker>
 #include <QToolTip>
+#include <QUrl>
+#include <algorithm>
 
 #include "platform/widgets/Figures.h"
+#include "platform/widgets/Icons.h"
 #include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 
@@ -17,6 +21,14 @@ void NameDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
   const bool chosen = option.state & QStyle::State_Selected;
   const bool enabled = option.state & QStyle::State_Enabled;
   painter->save();
+  if (index.data(kHeadingRole).toBool()) {
+    painter->setFont(UiFont(kCaptionPixels, 600));
+    painter->setPen(theme.muted);
+    painter->drawText(option.rect.adjusted(kGap, 0, -kGap, -4), Qt::AlignLeft | Qt::AlignBottom,
+                      index.data().toString());
+    painter->restore();
+    return;
+  }
   QColor ink = enabled ? theme.text : theme.faint;
   if (chosen) {
     painter->fillRect(option.rect, enabled ? theme.accent : theme.faint);
@@ -40,12 +52,52 @@ void NameDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
   painter->setPen(ink);
   const QString name = painter->fontMetrics().elidedText(index.data().toString(), Qt::ElideRight, room.width());
   painter->drawText(room, Qt::AlignLeft | Qt::AlignVCenter, name);
+  if (details_ != Details::None) PaintDetails(*painter, option, index, chosen ? ink : enabled ? theme.muted : ink);
   painter->restore();
 }
 
-QRect NameDelegate::NameRoom(const QStyleOptionViewItem& option, const QString& count) {
+/// The picture, and the line beneath the name: as many of its parts as find room, and of the first as much as there is.
+void NameDelegate::PaintDetails(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index,
+                                const QColor& ink) const {
+  const QRect room = NameRoom(option, {}).translated(0, option.rect.height() / 2 - Px(2));
+  painter.setFont(UiFont(kCaptionPixels));
+  painter.setPen(ink);
+  const QStringList details = index.data(kDetailsRole).toStringList();
+  int left = room.left();
+  for (const QString& detail : details) {
+    const int wide = FiguresWidth(painter.fontMetrics(), detail);
+    if (left > room.left() && left + wide > room.right() + 1) break;
+    const QRect place(left, room.top(), qMin(wide, room.right() + 1 - left), room.height());
+    if (wide <= place.width()) DrawFigures(painter, place, Qt::AlignLeft | Qt::AlignVCenter, detail);
+    else
+      painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
+                       painter.fontMetrics().elidedText(detail, Qt::ElideRight, place.width()));
+    left += wide + 10;
+  }
+  if (details_ != Details::Picture) return;
+  const QSize size(Px(kPicture.width()), Px(kPicture.height()));
+  const QRect frame(option.rect.left() + 6, option.rect.top() + (option.rect.height() - size.height()) / 2,
+                    size.width(), size.height());
+  painter.fillRect(frame, CurrentTheme().stage);
+  const QVariant data = index.data(kPictureRole);
+  const auto picture = data.value<QImage>();
+  if (data.isValid() && picture.isNull()) {
+    const int side = Px(18);
+    const QPixmap sign = IconPixmap("warning", CurrentTheme().stageText, side, painter.device()->devicePixelRatioF());
+    painter.drawPixmap(frame.center().x() - side / 2, frame.center().y() - side / 2, sign);
+  } else if (!picture.isNull()) {
+    const QSize fitted = picture.size().scaled(frame.size(), Qt::KeepAspectRatio);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, fitted, frame), picture);
+  }
+}
+
+QRect NameDelegate::NameRoom(const QStyleOptionViewItem& option, const QString& count) const {
   const int taken = count.isEmpty() ? 0 : FiguresWidth(QFontMetrics(UiFont(kCaptionPixels)), count) + 8;
-  return option.rect.adjusted(kGap, 0, -kGap - taken, 0);
+  const int picture = details_ == Details::Picture ? Px(kPicture.width()) + 4 : 0;
+  QRect room = option.rect.adjusted(kGap + picture, 0, -kGap - taken, 0);
+  if (details_ != Details::None) room.setBottom(room.top() + room.height() / 2 + Px(2));
+  return room;
 }
 
 bool NameDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
@@ -64,12 +116,14 @@ bool NameDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const Q
 }
 
 QSize NameDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
-  return QSize(QStyledItemDelegate::sizeHint(option, index).width(), Px(kRowHeight));
+  const int height = details_ == Details::Picture ? kPicture.height() + 8 : details_ == Details::Line ? 44 : kRowHeight;
+  return QSize(QStyledItemDelegate::sizeHint(option, index).width(),
+               Px(index.data(kHeadingRole).toBool() ? kRowHeight : height));
 }
 
-NameList::NameList(const QString& name, QWidget* parent) : QListWidget(parent) {
+NameList::NameList(const QString& name, QWidget* parent) : QListWidget(parent), delegate_(new NameDelegate(this)) {
   setObjectName(name);
-  setItemDelegate(new NameDelegate(this));
+  setItemDelegate(delegate_);
   setUniformItemSizes(true);
   setMouseTracking(true);
   setFrameShape(QFrame::NoFrame);
@@ -110,6 +164,34 @@ void NameList::SetCount(int row, int count) {
   if (QListWidgetItem* entry = item(row)) {
     entry->setData(NameDelegate::kCountRole, count < 0 ? QVariant() : QVariant(QString::number(count)));
   }
+}
+
+void NameList::SetDetails(NameDelegate::Details details) {
+  delegate_->SetDetails(details);
+  scheduleDelayedItemsLayout();
+  viewport()->update();
+}
+
+void NameList::LetDrag() {
+  setDragEnabled(true);
+  setDragDropMode(DragOnly);
+}
+
+std::vector<int> NameList::ChosenRows() const {
+  std::vector<int> rows;
+  for (const QModelIndex& index : selectedIndexes()) rows.push_back(index.row());
+  std::ranges::sort(rows);
+  return rows;
+}
+
+QMimeData* NameList::mimeData(const QList<QListWidgetItem*>& items) const {
+  QList<QUrl> files;
+  for (const QListWidgetItem* item : items)
+    if (const QString path = item->data(NameDelegate::kPathRole).toString(); !path.isEmpty())
+      files << QUrl::fromLocalFile(path);
+  auto* data = QListWidget::mimeData(items);
+  if (data && !files.isEmpty()) data->setUrls(files);
+  return data;
 }
 
 void NameList::paintEvent(QPaintEvent* event) {
