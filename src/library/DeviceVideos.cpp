@@ -4,7 +4,6 @@
 #include <sys/stat.h>
 
 #include <algorithm>
-#include <cmath>
 #include <iterator>
 #include <map>
 #include <utility>
@@ -13,8 +12,6 @@
 #include "library/VideoNames.h"
 #include "platform/files/Folders.h"
 #include "platform/files/TextEncoding.h"
-#include "platform/media/VideoFile.h"
-#include "platform/paint/PixelOps.h"
 
 namespace kinalyx {
 
@@ -118,28 +115,7 @@ std::vector<DeviceVideo> FindDeviceVideos(const std::string& device, const std::
   return videos;
 }
 
-VideoGlance GlanceAt(const std::string& path, int width, int height) {
-  VideoGlance glance;
-  const auto opened = VideoFile::Open(path);
-  if (!opened) return glance;
-  glance.seconds = (*opened)->Info().durationMs / 1000;
-  const FrameRows rows = (*opened)->Frame(0, 32);
-  if (!rows || rows.width <= 0 || rows.height <= 0) return glance;
-  const double scale = std::min(double(width) / rows.width, double(height) / rows.height);
-  glance.picture = Surface(std::max(1, int(rows.width * scale)), std::max(1, int(rows.height * scale)));
-  ScaleScratch scratch;
-  StretchRows({rows.bits, rows.width, rows.height, rows.rowBytes, rows.bitCount}, glance.picture, scratch);
-  return glance;
-}
-
 // ---------------------------------------------------------------- in words
-
-std::string LengthText(double seconds) {
-  if (!(seconds > 0)) return {};
-  const long whole = std::lround(seconds);
-  return whole < 3600 ? fmt::format("{}:{:02}", whole / 60, whole % 60)
-                      : fmt::format("{}:{:02}:{:02}", whole / 3600, whole / 60 % 60, whole % 60);
-}
 
 std::string DeviceText(const std::string& device, std::size_t videos, std::size_t fresh) {
   if (videos == 1) return fmt::format("One new video on \"{}\"", device);

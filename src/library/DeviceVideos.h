@@ -5,8 +5,6 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/paint/Surface.h"
-
 namespace kinalyx {
 
 // What a telephone, a camera or a memory card has brought. Everything here but the list of mounts touches a drive
@@ -46,16 +44,6 @@ std::vector<std::string> CameraFolders(const std::string& device);
 /// device that goes meanwhile gives what was found till then.
 std::vector<DeviceVideo> FindDeviceVideos(const std::string& device, const std::string& root);
 
-/// What the list shows of a video besides its name.
-struct VideoGlance {
-  double seconds = 0;  ///< how long it plays; 0 for what cannot be opened
-  Surface picture;     ///< the first one, in the video's proportions; empty when there is none
-};
-/// Opens a video and takes its first picture, which fits into `width` x `height` pixels.
-VideoGlance GlanceAt(const std::string& path, int width, int height);
-
-/// "0:07", "12:30", "1:02:03"; empty for a length that is not known.
-std::string LengthText(double seconds);
 /// "24 videos on "SAMSUNG", 6 of them new"; at least one is.
 std::string DeviceText(const std::string& device, std::size_t videos, std::size_t fresh);
 

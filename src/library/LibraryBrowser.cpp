@@ -21,6 +21,20 @@ std::string At(const std::vector<std::string>& names, int row) {
   return row < 0 ? std::string() : names[static_cast<std::size_t>(row)];
 }
 
+/// Sorts files, which come sorted by name, as far as the folder tells.
+void SortFiles(std::vector<std::string>& files, const std::string& folder, VideoSort sort) {
+  if (sort.by == VideoSort::By::Name && sort.turned) std::ranges::reverse(files);
+  if (sort.by != VideoSort::By::Date && sort.by != VideoSort::By::Size) return;
+  std::vector<double> values;
+  for (const std::string& file : files) {
+    const FileStamp stamp = StampOf(JoinPath(folder, file)).value_or(FileStamp());
+    values.push_back(static_cast<double>(sort.by == VideoSort::By::Date ? stamp.written : stamp.bytes));
+  }
+  std::vector<std::string> sorted;
+  for (const std::size_t row : OrderBy(values, sort.turned)) sorted.push_back(std::move(files[row]));
+  files = std::move(sorted);
+}
+
 int Checked(const std::vector<std::string>& names, int row) {
   return row >= 0 && row < static_cast<int>(names.size()) ? row : -1;
 }
@@ -111,6 +125,35 @@ bool LibraryBrowser::SelectVideo(std::string_view name) {
   return row >= 0;
 }
 
+void LibraryBrowser::SortVideos(VideoSort sort) {
+  sort_ = sort;
+  const std::string video = Video();
+  ReadVideos();
+  if (const int row = RowOf(videos_, video); row >= 0) video_ = row;
+}
+
+bool LibraryBrowser::Arrange(const std::vector<std::size_t>& rows) {
+  if (rows.size() != files_.size() || std::ranges::is_sorted(rows)) return false;
+  const std::string video = Video();
+  std::vector<std::string> files;
+  std::vector<std::string> videos;
+  for (const std::size_t row : rows) {
+    files.push_back(files_[row]);
+    videos.push_back(videos_[row]);
+  }
+  files_ = std::move(files);
+  videos_ = std::move(videos);
+  video_ = RowOf(videos_, video);
+  return true;
+}
+
+std::vector<std::string> LibraryBrowser::VideoPaths() const {
+  std::vector<std::string> paths;
+  const std::string folder = Folder();
+  for (const std::string& file : files_) paths.push_back(JoinPath(folder, file));
+  return paths;
+}
+
 bool LibraryBrowser::IsQuickLaunch() const { return Instructor() == kQuickLaunch; }
 
 std::string LibraryBrowser::Instructor() const { return At(instructors_, instructor_); }
@@ -136,8 +179,10 @@ void LibraryBrowser::FillStudents() {
 void LibraryBrowser::ReadVideos() {
   files_.clear();
   if (HasStudent() || IsGeneralFolder() || IsQuickLaunch()) {
-    files_ = Read([instructor = Instructor(), student = Student()](const LibraryTree& tree) {
-      return tree.VideoFiles(instructor, student);
+    files_ = Read([instructor = Instructor(), student = Student(), sort = sort_](const LibraryTree& tree) {
+      std::vector<std::string> files = tree.VideoFiles(instructor, student);
+      SortFiles(files, tree.StudentFolder(instructor, student), sort);
+      return files;
     });
   }
   videos_.clear();

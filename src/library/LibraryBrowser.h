@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "library/LibraryTree.h"
+#include "library/ListChoices.h"
 #include "platform/host/DriveWatch.h"
 
 namespace kinalyx {
@@ -39,6 +40,14 @@ class LibraryBrowser {
   /// True when the library's drive did not answer the last time that it was read. What could not be read is
   /// empty then, and the remembered selection stays.
   bool Silent() const { return silent_; }
+  /// How the videos are sorted from now on; they are read again, and the chosen one stays. Lengths are not known here:
+  /// for these Arrange is called when they are.
+  void SortVideos(VideoSort sort);
+  /// How they are sorted when they are read next.
+  void SetSort(VideoSort sort) { sort_ = sort; }
+  /// Puts the videos in another order; the chosen one stays. True when that changes anything.
+  /// @param rows  the present row of each
+  bool Arrange(const std::vector<std::size_t>& rows);
   /// Reads a library that was silent, and goes to what was chosen or remembered.
   void TryAgain();
 
@@ -74,6 +83,8 @@ class LibraryBrowser {
   std::string Folder() const;
   /// The chosen video's file, "" when none is chosen.
   std::string VideoPath() const;
+  /// Paths of all videos of the list.
+  std::vector<std::string> VideoPaths() const;
   /// Path of any video of the list.
   std::string VideoPathAt(int row) const;
 
@@ -97,6 +108,7 @@ class LibraryBrowser {
   std::vector<std::string> students_;
   std::vector<std::string> files_;
   std::vector<std::string> videos_;
+  VideoSort sort_;
   int instructor_ = -1;
   int student_ = -1;
   int video_ = -1;

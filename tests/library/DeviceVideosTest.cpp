@@ -8,6 +8,7 @@
 
 #include "TempLibrary.h"
 #include "library/DeviceWatch.h"
+#include "library/VideoGlance.h"
 #include "platform/files/Folders.h"
 #include "support/TempFolder.h"
 #include "support/TestVideos.h"

@@ -10,6 +10,7 @@
 #include <QTreeWidget>
 #include <utility>
 
+#include "library/VideoGlance.h"
 #include "library/VideoNames.h"
 #include "library/VideoStats.h"
 #include "platform/widgets/Buttons.h"
