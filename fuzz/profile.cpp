@@ -9,15 +9,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t cou
   using namespace kinalyx;
   static const fuzz::InputFolder folder;
   std::filesystem::create_directories(folder.Path("Sample, Erica"));
-  FieldTexts captions{"Name", "Address", "City, State, Zip", "Phone #", "E-Mail Address"};
-  for (int i = 5; i < kProfileFields; ++i) captions[static_cast<std::size_t>(i)] = "Field " + std::to_string(i);
+  ProfileFields fields(folder.Path("fields.ini"));
+  fields.SetupFields();
 
   folder.Write("Sample, Erica/profile.prf", bytes, count);
   const std::string student = folder.Path("Sample, Erica");
-  const Profile profile = OpenProfile(student, captions);
+  const Profile profile = OpenProfile(student, fields);
   fuzz::Require(profile.values[kNameField] == "Sample, Erica");
   (void)GetEmailAddress(student);
-  fuzz::Require(SaveProfile(student, captions, profile.values, profile.Stored()));
+  fuzz::Require(SaveProfile(student, fields, profile.values, profile.Stored()));
 
   folder.Write("Sample, Erica/profile.txt", bytes, count);
   if (const auto notes = LoadNotes(student)) {

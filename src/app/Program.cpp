@@ -14,6 +14,7 @@
 #include "library/forms/ImportExportPage.h"
 #include "library/forms/ProfilesPage.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Trash.h"
 #include "platform/host/QtHost.h"
 #include "platform/widgets/OfferBar.h"
 #include "platform/widgets/FileDrop.h"
@@ -45,7 +46,7 @@ Program::Program(QApplication& application, Log& log)
       fields_(JoinPath(settings_.DataPath, "fields.ini")),
       scheduler_(*host_),
       players_{*host_, scheduler_},
-      operations_(*host_, settings_, *this) {}
+      operations_(*host_, settings_, *this, {.trash = &DesktopTrash()}) {}
 
 Program::~Program() = default;
 
@@ -292,6 +293,11 @@ bool Program::IsOpenInAnalysis(const std::string& path) const {
 
 int Program::SendToAnalysis(const std::string& path, const std::function<void(const std::string&)>& status) {
   return OpenAnalysis().Section().Videos().SendToAnalysis(path, status);
+}
+
+/// The wish comes from a page that is left by it: it goes when that has returned.
+void Program::GoToAnalysis() {
+  going_ = HostTimer(*host_, 0, false, [this] { OpenPage(kAnalysisPage); });
 }
 
 // ---------------------------------------------------------------- the end

@@ -92,6 +92,7 @@ class Program final : private ISettingsEvents,
   // --- IAnalysisLink: what the library may know of the section, which is made by the first video sent to it
   bool IsOpenInAnalysis(const std::string& path) const override;
   int SendToAnalysis(const std::string& path, const std::function<void(const std::string&)>& status) override;
+  void GoToAnalysis() override;
 
   QApplication& application_;
   std::unique_ptr<IHost> host_;
@@ -119,6 +120,7 @@ class Program final : private ISettingsEvents,
   ResizeControls resizeControls_;
   HostTimer settling_;
   HostTimer framing_;
+  HostTimer going_;
   bool RestartFlag_ = false;
 };
 

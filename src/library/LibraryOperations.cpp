@@ -6,6 +6,7 @@
 #include <system_error>
 #include <utility>
 
+#include "library/FolderContents.h"
 #include "library/LibraryActions.h"
 #include "library/LibraryBrowser.h"
 #include "library/LibraryReading.h"
@@ -45,6 +46,24 @@ std::vector<std::string> AllVideosBelow(const std::string& folder, int levels = 
   }
   return paths;
 }
+
+/// Passes on what an operation tells, but not its end where another one goes on in its place.
+class OrGoesOn final : public IOperationEvents {
+ public:
+  explicit OrGoesOn(LibraryOperations::Events events) : events_(std::move(events)) {}
+  void GoOn() { goesOn_ = true; }
+
+  void ShowStatus(const std::string& words) override { events_->ShowStatus(words); }
+  void ShowProgress(const JobProgress& progress) override { events_->ShowProgress(progress); }
+  void WorkOver() override { events_->WorkOver(); }
+  void Ended(const OperationResult& result) override {
+    if (!goesOn_) events_->Ended(result);
+  }
+
+ private:
+  LibraryOperations::Events events_;
+  bool goesOn_ = false;
+};
 
 }  // namespace
 
@@ -102,11 +121,29 @@ LibraryOperations::LibraryOperations(IHost& host, const Settings& settings, IAna
       tree_(settings),
       analysis_(analysis),
       disk_(*environment.disk),
+      trash_(environment.trash),
       runner_(host, environment.jobs) {}
 
 // ---------------------------------------------------------------- guards
 
 bool LibraryOperations::IsOpen(const std::string& videoPath) const { return analysis_.IsOpenInAnalysis(videoPath); }
+
+ITrash* LibraryOperations::TrashOf(const std::string& path) const {
+  return trash_ && trash_->Has(path) ? trash_ : nullptr;
+}
+
+bool LibraryOperations::GoesForGood(const std::string& what) {
+  return host_.Question("Delete", what + " cannot be moved to the trash. Do you want to delete it for good?");
+}
+
+std::string LibraryOperations::DeletionText(const LibraryVideo& about, bool wholeStudent) {
+  const std::string path = wholeStudent ? tree_.StudentFolder(about.instructor, about.student) : about.path;
+  const auto text = host_.Drives().Ask(tree_.Root(), [path, wholeStudent, trash = trash_] {
+    const std::string fate = TrashText(trash && trash->Has(path));
+    return wholeStudent ? ContentsText(ContentsOf(path)) + " " + fate : fate;
+  });
+  return text.value_or("");
+}
 
 std::string LibraryOperations::BusyText() const {
   return Busy() ? "Another operation is still at work. Please wait until it has finished." : "";
@@ -326,7 +363,25 @@ void LibraryOperations::MoveStudent(const std::string& instructor, const std::st
 void LibraryOperations::DeleteStudent(const std::string& instructor, const std::string& student, Events events) {
   if (const std::string refusal = RefuseUnlessStudentChangeable(instructor, student, Change::Delete); !refusal.empty())
     return events->Ended(Report(refusal));
-  auto job = std::make_unique<StudentRemovalJob>(tree_.StudentFolder(instructor, student), disk_);
+  const std::string folder = tree_.StudentFolder(instructor, student);
+  ITrash* const trash = TrashOf(folder);
+  if (!trash) return RemoveStudent(instructor, folder, std::move(events));
+  const auto answered = std::make_shared<OrGoesOn>(events);
+  Run<StudentTrashJob>(
+      std::make_unique<StudentTrashJob>(folder, *trash),
+      [=, this](const StudentTrashJob& removal) -> OperationResult {
+        if (removal.Taken()) return {words_.Noun() + " Successfully removed from the system.", true, instructor};
+        if (!EntryExists(folder)) return RefuseGone("The " + words_.noun() + " was not removed");
+        if (!GoesForGood("The " + words_.noun() + " " + student)) return Report(kOperationCancelled);
+        answered->GoOn();
+        RemoveStudent(instructor, folder, events);
+        return {};
+      },
+      answered);
+}
+
+void LibraryOperations::RemoveStudent(const std::string& instructor, const std::string& folder, Events events) {
+  auto job = std::make_unique<StudentRemovalJob>(folder, disk_);
   Run<StudentRemovalJob>(
       std::move(job),
       [this, instructor](StudentRemovalJob& removal) -> OperationResult {

@@ -12,6 +12,7 @@
 #include "library/Profile.h"
 #include "platform/files/FileCopy.h"
 #include "platform/files/Result.h"
+#include "platform/files/Trash.h"
 #include "platform/host/Host.h"
 
 namespace kinalyx {
@@ -27,6 +28,8 @@ class IAnalysisLink {
   virtual bool IsOpenInAnalysis(const std::string& path) const = 0;
   /// Opens a file in the first free slot and tells of it in words; the slot, or 0 when it was not opened.
   virtual int SendToAnalysis(const std::string& path, const std::function<void(const std::string&)>& status) = 0;
+  /// Shows the section, with what was sent to it.
+  virtual void GoToAnalysis() = 0;
 };
 
 /// A video as the lists have it.
@@ -105,6 +108,7 @@ class LibraryOperations {
   struct Environment {
     JobRunner::On jobs = JobRunner::On::Worker;
     IDisk* disk = &RealDisk();
+    ITrash* trash = nullptr;  ///< where what is deleted goes; null: it is gone
   };
 
   /// All that is passed outlives it.
@@ -134,7 +138,11 @@ class LibraryOperations {
   OperationResult RenameStudentCancelled() const;
   void MoveStudent(const std::string& instructor, const std::string& student, const std::string& targetInstructor,
                    Events events);
-  /// Removes the folder with all that is in it. The form has asked.
+  /// What goes with a student or a video that is deleted, and whether it can be taken back; said by the form that
+  /// asks.
+  std::string DeletionText(const LibraryVideo& about, bool wholeStudent);
+  /// Removes the folder with all that is in it, to the trash where there is one. The form has asked; a trash that
+  /// turns out not to take it is asked about.
   void DeleteStudent(const std::string& instructor, const std::string& student, Events events);
 
   // --- videos
@@ -143,11 +151,20 @@ class LibraryOperations {
   std::string RefuseUnlessVideoChangeable(const LibraryVideo& video);
   /// Tells `status` what the analysis section says while it opens the video; the last of it is in the result.
   OperationResult SendToAnalysis(const LibraryVideo& video, const std::function<void(const std::string&)>& status);
+  /// Sends several, one after the other into free windows, until there is no more room.
+  OperationResult SendToAnalysis(const std::vector<LibraryVideo>& videos,
+                                 const std::function<void(const std::string&)>& status);
+  /// Shows the analysis section.
+  void GoToAnalysis() { analysis_.GoToAnalysis(); }
   OperationResult RenameVideo(const LibraryVideo& video, std::string_view name);
   void MoveVideo(const LibraryVideo& video, const std::string& targetInstructor, const std::string& targetStudent,
                  Events events);
-  /// Removes it and its sidecar. The form has asked.
+  /// All or none are begun with: what is open, or taken at the target, refuses all.
+  void MoveVideos(const std::vector<LibraryVideo>& videos, const std::string& targetInstructor,
+                  const std::string& targetStudent, Events events);
+  /// Removes it and its sidecar, likewise. The form has asked.
   OperationResult DeleteVideo(const LibraryVideo& video);
+  OperationResult DeleteVideos(const std::vector<LibraryVideo>& videos);
   /// Copies videos to the folder of a removeable disk. A name that is taken there gets a "d".
   void CopyToDisk(const std::vector<LibraryVideo>& videos, const std::string& disk, Events events);
   /// Copies the video to the Quick Launch folder, or, when it lies there, removes it from it. Asks first.
@@ -190,6 +207,12 @@ class LibraryOperations {
   OperationResult RefuseGone(const std::string& text);
   static OperationResult Report(const std::string& text) { return {Outcome::Failed(text)}; }
   std::string BusyText() const;
+  /// The trash for a file or folder; null when there is none.
+  ITrash* TrashOf(const std::string& path) const;
+  /// Asks whether something shall go that the trash does not take.
+  bool GoesForGood(const std::string& what);
+  void RemoveStudent(const std::string& instructor, const std::string& folder, Events events);
+  bool RemoveVideo(const std::string& path);
   std::string StillFullText(const std::string& instructor) const;
   void AddToQuickLaunch(const LibraryVideo& video, Events events);
   OperationResult RemoveFromQuickLaunch(const LibraryVideo& video);
@@ -207,6 +230,7 @@ class LibraryOperations {
   LibraryTree tree_;
   IAnalysisLink& analysis_;
   IDisk& disk_;
+  ITrash* trash_;
   JobRunner runner_;
 };
 

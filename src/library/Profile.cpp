@@ -25,6 +25,8 @@ constexpr const char* kFirstRunCaptions[kProfileFields] = {
 constexpr const char* kOldNameKeys[] = {"Student Name", "Client Name", "Golfer Name", "Bowler Name", "Patient Name"};
 
 constexpr const char* kFieldsSection = "Fields";
+constexpr const char* kEarlierSection = "Earlier";
+constexpr std::size_t kMostEarlier = 8;
 constexpr const char* kProfileSection = "Profile";
 constexpr const char* kEmailKey = "E-Mail Address";
 
@@ -85,6 +87,31 @@ std::string AsKey(std::string_view caption) {
   return key;
 }
 
+/// Several captions in one value, held apart by what none of them can have in it.
+std::string Joined(const std::vector<std::string>& names) {
+  std::string text;
+  for (const std::string& name : names) text += (text.empty() ? "" : "=") + name;
+  return text;
+}
+
+std::vector<std::string> NamesIn(std::string_view text) {
+  std::vector<std::string> names;
+  while (!text.empty() && names.size() < kMostEarlier) {
+    const std::size_t end = std::min(text.find('='), text.size());
+    if (std::string name = AsKey(text.substr(0, end)); !name.empty()) names.push_back(std::move(name));
+    text.remove_prefix(std::min(end + 1, text.size()));
+  }
+  return names;
+}
+
+/// The key under which a profile has the value of a field: its caption, or an earlier one; empty when it has none.
+std::string KeyOf(const ProfileReader& reader, const ProfileFields& fields, int field) {
+  const auto holds = [&](const std::string& key) { return !key.empty() && reader.Value(kProfileSection, key); };
+  if (holds(fields.Caption(field))) return fields.Caption(field);
+  const auto found = std::ranges::find_if(fields.Earlier(field), holds);
+  return found == fields.Earlier(field).end() ? std::string() : *found;
+}
+
 }  // namespace
 
 // ---------------------------------------------------------------- captions
@@ -106,17 +133,29 @@ void ProfileFields::SetupFields() {
     // Without the file at all there is nothing to mend by hand: the first-run captions serve.
     const std::string fallback = reader.Open() ? path_ : std::string(kFirstRunCaptions[field]);
     captions_[Index(field)] = AsKey(reader.String(kFieldsSection, std::to_string(field), fallback, kMaxFieldText + 1));
+    earlier_[Index(field)] = NamesIn(reader.Value(kEarlierSection, std::to_string(field)).value_or(""));
   }
 }
 
 Outcome ProfileFields::SetCaption(int field, std::string_view caption) {
   std::string key = field == kNameField ? std::string() : AsKey(caption);
   if (key.empty()) key = kFirstRunCaptions[field];
+  const auto isKey = [&](const std::string& name) { return FoldCase(name) == FoldCase(key); };
   for (int other = 0; other < kProfileFields; ++other) {
-    if (other != field && FoldCase(captions_[Index(other)]) == FoldCase(key))
-      return Outcome::Failed("Another field has the name \"" + key + "\" already.");
+    if (other == field) continue;
+    if (isKey(captions_[Index(other)])) return Outcome::Failed("Another field has the name \"" + key + "\" already.");
+    if (std::ranges::any_of(Earlier(other), isKey))
+      return Outcome::Failed("The values of the field \"" + Caption(other) + "\" are stored under \"" + key +
+                             "\", its name of before. Please choose another name.");
   }
-  const bool stored = WritePrivateProfileString(kFieldsSection, std::to_string(field), key, path_);
+  std::vector<std::string> earlier = Earlier(field);
+  if (!Caption(field).empty()) earlier.insert(earlier.begin(), Caption(field));
+  std::erase_if(earlier, isKey);
+  earlier.resize(std::min(earlier.size(), kMostEarlier));
+  const std::string number = std::to_string(field);
+  std::vector<ProfileEntry> entries{{kFieldsSection, number, key}};
+  if (!earlier.empty() || !Earlier(field).empty()) entries.push_back({kEarlierSection, number, Joined(earlier)});
+  const bool stored = WriteProfileEntries(entries, path_);
   SetupFields();
   return stored ? Outcome() : Outcome::Failed("The file " + path_ + " cannot be written.");
 }
@@ -132,9 +171,9 @@ FieldTexts Profile::Stored() const {
 
 std::string ProfilePath(const std::string& studentFolder) { return JoinPath(studentFolder, "profile.prf"); }
 
-Profile OpenProfile(const std::string& studentFolder, const FieldTexts& captions) {
+Profile OpenProfile(const std::string& studentFolder, const ProfileFields& fields) {
   const std::string path = ProfilePath(studentFolder);
-  if (!FileExists(path)) MakeProfile(studentFolder, captions, {});
+  if (!FileExists(path)) MakeProfile(studentFolder, fields.Captions(), {});
   MendName(studentFolder);
   const ProfileReader reader(path);
   Profile profile;
@@ -143,22 +182,38 @@ Profile OpenProfile(const std::string& studentFolder, const FieldTexts& captions
     return profile;
   }
   for (int field = 0; field < kProfileFields; ++field) {
-    if (captions[Index(field)].empty()) continue;
-    profile.missing[Index(field)] = !reader.Value(kProfileSection, captions[Index(field)]);
-    profile.values[Index(field)] = reader.String(kProfileSection, captions[Index(field)], path, kMaxFieldText + 1);
+    if (fields.Caption(field).empty()) continue;
+    const std::string key = KeyOf(reader, fields, field);
+    profile.missing[Index(field)] = key.empty();
+    profile.values[Index(field)] = reader.String(kProfileSection, key, path, kMaxFieldText + 1);
   }
   return profile;
 }
 
-bool SaveProfile(const std::string& studentFolder, const FieldTexts& captions, const FieldTexts& values,
+FieldTexts ReadFields(const std::string& studentFolder, const ProfileFields& fields) {
+  const ProfileReader reader(ProfilePath(studentFolder));
+  FieldTexts values;
+  for (int field = 0; reader.Open() && field < kProfileFields; ++field) {
+    const std::string key = KeyOf(reader, fields, field);
+    if (!key.empty()) values[Index(field)] = reader.String(kProfileSection, key, "", kMaxFieldText + 1);
+  }
+  return values;
+}
+
+bool SaveProfile(const std::string& studentFolder, const ProfileFields& fields, const FieldTexts& values,
                  const FieldTexts& base) {
   const ProfileReader reader(ProfilePath(studentFolder));
-  return WriteProfileEntries(Entries(studentFolder, captions, values,
-                                     [&](std::size_t field) {
-                                       return values[field] != base[field] ||
-                                              !reader.Value(kProfileSection, captions[field]);
-                                     }),
-                             ProfilePath(studentFolder));
+  const auto changed = [&](std::size_t field) { return values[field] != base[field]; };
+  std::vector<ProfileEntry> entries = Entries(studentFolder, fields.Captions(), values, [&](std::size_t field) {
+    return changed(field) || !reader.Value(kProfileSection, fields.Captions()[field]);
+  });
+  // A name that a field has had is in use at another workstation, or may come back.
+  for (int field = 1; field < kProfileFields; ++field) {
+    for (const std::string& name : fields.Earlier(field))
+      if (changed(Index(field)) && field != kVideosOnFileField && reader.Value(kProfileSection, name))
+        entries.push_back({kProfileSection, name, Stored(values[Index(field)])});
+  }
+  return WriteProfileEntries(entries, ProfilePath(studentFolder));
 }
 
 std::optional<std::string> GetEmailAddress(const std::string& studentFolder) {
@@ -169,11 +224,11 @@ std::optional<std::string> GetEmailAddress(const std::string& studentFolder) {
 
 // ---------------------------------------------------------------- notes
 
-namespace {
-
 std::string NotesPath(const std::string& studentFolder) { return JoinPath(studentFolder, "profile.txt"); }
 
-}  // namespace
+std::string ReadNotes(const std::string& studentFolder) {
+  return ReadTextFile(NotesPath(studentFolder)).value_or(std::string());
+}
 
 std::string WithLineEnds(std::string_view text) {
   std::string lines;

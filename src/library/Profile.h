@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "platform/files/Result.h"
 
@@ -18,7 +19,9 @@ inline constexpr int kMaxFieldText = 49;      ///< characters of a value or a ca
 using FieldTexts = std::array<std::string, kProfileFields>;
 
 /// The captions of the profile fields, the same for the whole workstation, kept in `fields.ini`. They are
-/// also the keys of every profile: renaming one makes its old values unreachable until it is named back.
+/// also the keys of every profile. A field that is renamed remembers its earlier captions there, and finds the
+/// values under them: no profile is rewritten for it, and another workstation that knows only the old name still
+/// has its values.
 class ProfileFields {
  public:
   /// `path` is that of fields.ini.
@@ -30,21 +33,24 @@ class ProfileFields {
   void SetupFields();
   const FieldTexts& Captions() const { return captions_; }
   const std::string& Caption(int field) const { return captions_[static_cast<std::size_t>(field)]; }
+  /// What a field was called before, the latest first.
+  const std::vector<std::string>& Earlier(int field) const { return earlier_[static_cast<std::size_t>(field)]; }
   /// Renames a field and stores it. What an INI key cannot hold is left out, an empty caption gives the
   /// first-run one back, field 0 stays "Name". Refused, with a message, when another field has the
-  /// caption already, for both would then share one value, and when the disk refuses.
+  /// caption already, or had it earlier, for both would then share one value, and when the disk refuses.
   Outcome SetCaption(int field, std::string_view caption);
 
  private:
   std::string path_;
   FieldTexts captions_;
+  std::array<std::vector<std::string>, kProfileFields> earlier_;
 };
 
 /// The values of one student.
 struct Profile {
   FieldTexts values;
-  /// The key is not in the file, and `values` shows the file's path: the field was renamed after the
-  /// profile was made.
+  /// The file has the key under none of its names, and `values` shows the file's path: the profile was made by
+  /// a workstation with other fields.
   std::array<bool, kProfileFields> missing{};
 
   /// What the file holds: the missing ones are empty.
@@ -57,16 +63,23 @@ std::string ProfilePath(const std::string& studentFolder);
 /// Reads a profile, and mends it on the way: a folder without one gains one, the name moves to its
 /// present key from the old ones, and is that of the folder. Values are cut at 49 characters. Where
 /// nothing can be read or made, the name is all there is.
-Profile OpenProfile(const std::string& studentFolder, const FieldTexts& captions);
+Profile OpenProfile(const std::string& studentFolder, const ProfileFields& fields);
+
+/// The values of a profile as they stand, without mending or making anything; empty where there are none.
+FieldTexts ReadFields(const std::string& studentFolder, const ProfileFields& fields);
 
 /// Writes the values that are not those of `base`, and those that the file has not got; the others stay as
 /// they are on the disk, where somebody else may have changed them. An empty value is stored as one blank. Name
 /// and count of videos are the program's: the folder's name and a blank stand for them. False when the disk
-/// refuses.
+/// refuses. Where the file has an earlier name of a field too, that gets the same value.
 /// @param base  the values as they were read before they were changed
-bool SaveProfile(const std::string& studentFolder, const FieldTexts& captions, const FieldTexts& values,
+bool SaveProfile(const std::string& studentFolder, const ProfileFields& fields, const FieldTexts& values,
                  const FieldTexts& base);
 
+/// `profile.txt` of a student's folder.
+std::string NotesPath(const std::string& studentFolder);
+/// The notes of a student as they stand; empty where there are none. Nothing is made.
+std::string ReadNotes(const std::string& studentFolder);
 /// The notes of a student, UTF-8, each line ended by CR LF. A missing file is made, empty. Nothing when
 /// there is a file that cannot be read: it must not be written over.
 std::optional<std::string> LoadNotes(const std::string& studentFolder);

@@ -379,4 +379,12 @@ SidecarMarks ReadSidecarMarks(const std::string& path) {
   return marks;
 }
 
+std::string ReadSidecarNotes(const std::string& path) {
+  if (!ReadSidecarMarks(path).HasNotes()) return {};
+  Bytes bytes = ReadWholeFile(path).value_or(Bytes());
+  bytes.insert(bytes.end(), kColourBytes, 0);
+  Reader reader(bytes, kColourBytes);
+  return reader.Character() == '1' ? ReadPresentFormat(reader, false).Notes : std::string();
+}
+
 }  // namespace kinalyx

@@ -132,5 +132,7 @@ struct SidecarMarks {
 
 /// Reads those two bytes and no more; blanks where there are none.
 SidecarMarks ReadSidecarMarks(const std::string& path);
+/// The notes alone, of a file of the present format; empty where there are none.
+std::string ReadSidecarNotes(const std::string& path);
 
 }  // namespace kinalyx

@@ -22,6 +22,13 @@ JobProgress StudentMoveJob::Progress() const {
   return progress;
 }
 
+bool StudentTrashJob::Step() {
+  taken_ = trash_.Take(folder_);
+  return false;
+}
+
+JobProgress StudentTrashJob::Progress() const { return {taken_ ? 1 : 0, 1, taken_ ? 1.0 : 0.0, LastName(folder_)}; }
+
 bool StudentRemovalJob::Step() {
   if (hidden_.empty()) {
     RemoveDeadParts(FolderOf(folder_), disk_);

@@ -5,6 +5,7 @@
 
 #include "library/JobRunner.h"
 #include "platform/files/FileCopy.h"
+#include "platform/files/Trash.h"
 
 namespace kinalyx {
 
@@ -22,6 +23,21 @@ class StudentMoveJob final : public IJob {
   IDisk& disk_;
   bool begun_ = false;
   CopyJob copy_;
+};
+
+/// Moves a student's folder to the trash, in one step.
+class StudentTrashJob final : public IJob {
+ public:
+  StudentTrashJob(std::string folder, ITrash& trash) : folder_(std::move(folder)), trash_(trash) {}
+  bool Step() override;
+  void Cancel() override {}
+  JobProgress Progress() const override;
+  bool Taken() const { return taken_; }
+
+ private:
+  std::string folder_;
+  ITrash& trash_;
+  bool taken_ = false;
 };
 
 /// Removes a student's folder. First it is hidden under another name, so that no half of a student is

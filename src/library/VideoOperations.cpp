@@ -25,15 +25,6 @@ using OnClash = VideoTransferJob::OnClash;
 
 std::string NameOf(const LibraryVideo& video) { return VideoName(video.path); }
 
-/// Removes a video, then its companions unless another video needs them; false when the video stays.
-bool RemoveVideo(const std::string& path, IDisk& disk) {
-  const auto companions = SharesCompanions(path) ? std::vector<Companion>() : CompanionsOf(path);
-  if (!RemoveTree(path, disk)) return false;
-  // What stays does no harm: it makes way for the next video of its name.
-  for (const Companion& companion : companions) (void)RemoveTree(companion.path, disk);
-  return true;
-}
-
 /// Renames a video with its companions. They go first, and back again when the video cannot follow; those that a
 /// second video shares are copied. After a failure all stand as before.
 Outcome RenameWithCompanions(const std::string& from, const std::string& to, IDisk& disk) {
@@ -143,6 +134,19 @@ OperationResult LibraryOperations::SendToAnalysis(const LibraryVideo& video,
   return slot != 0 ? OperationResult{last} : Report(last);
 }
 
+OperationResult LibraryOperations::SendToAnalysis(const std::vector<LibraryVideo>& videos,
+                                                  const std::function<void(const std::string&)>& status) {
+  if (videos.size() == 1) return SendToAnalysis(videos.front(), status);
+  std::size_t sent = 0;
+  OperationResult last = Report("You must select a video first.");
+  while (sent < videos.size() && (last = SendToAnalysis(videos[sent], status)).Done()) ++sent;
+  if (sent == 0) return last;
+  const std::string all = std::to_string(videos.size());
+  if (sent == videos.size()) last.words = all + " videos were sent to Analysis.";
+  else last.words = std::to_string(sent) + " of " + all + " videos were sent to Analysis. " + last.Status();
+  return last;
+}
+
 OperationResult LibraryOperations::RenameVideo(const LibraryVideo& video, std::string_view typed) {
   const std::string_view name = WithoutOuterBlanks(typed);
   if (const std::string refusal = RefuseUnlessVideoChangeable(video); !refusal.empty()) return Report(refusal);
@@ -165,42 +169,86 @@ OperationResult LibraryOperations::RenameVideo(const LibraryVideo& video, std::s
   return {std::string("Video renamed successfully."), true, video.instructor, video.student, ShownName(file)};
 }
 
+/// Removes a video, then its companions unless another video needs them; false when the video stays.
+bool LibraryOperations::RemoveVideo(const std::string& path) {
+  const auto companions = SharesCompanions(path) ? std::vector<Companion>() : CompanionsOf(path);
+  ITrash* const trash = TrashOf(path);
+  const bool taken = trash && trash->Take(path);
+  if (trash && !taken && EntryExists(path) && !GoesForGood("The video " + ShownName(path))) return false;
+  if (!taken && !RemoveTree(path, disk_)) return false;
+  // What stays does no harm: it makes way for the next video of its name.
+  for (const Companion& companion : companions)
+    if (!(taken && trash->Take(companion.path))) (void)RemoveTree(companion.path, disk_);
+  return true;
+}
+
 OperationResult LibraryOperations::DeleteVideo(const LibraryVideo& video) {
   if (const std::string refusal = RefuseUnlessVideoChangeable(video); !refusal.empty()) return Report(refusal);
-  if (!RemoveVideo(video.path, disk_)) return Refuse(kCannotDelete);
+  if (!RemoveVideo(video.path)) return Refuse(kCannotDelete);
   return {std::string("Video Successfully Deleted!"), true, video.instructor, video.student};
+}
+
+OperationResult LibraryOperations::DeleteVideos(const std::vector<LibraryVideo>& videos) {
+  if (videos.size() == 1) return DeleteVideo(videos.front());
+  for (const LibraryVideo& video : videos)
+    if (const std::string refusal = RefuseUnlessVideoChangeable(video); !refusal.empty()) return Report(refusal);
+  std::size_t deleted = 0;
+  while (deleted < videos.size() && RemoveVideo(videos[deleted].path)) ++deleted;
+  OperationResult result;
+  if (deleted < videos.size()) result = Refuse(kCannotDelete);
+  else result.words = std::to_string(deleted) + " Videos Successfully Deleted!";
+  result.refill = deleted > 0;
+  return result;
 }
 
 void LibraryOperations::MoveVideo(const LibraryVideo& video, const std::string& targetInstructor,
                                   const std::string& targetStudent, Events events) {
-  if (const std::string refusal = RefuseUnlessVideoChangeable(video); !refusal.empty())
-    return events->Ended(Report(refusal));
+  MoveVideos({video}, targetInstructor, targetStudent, std::move(events));
+}
+
+void LibraryOperations::MoveVideos(const std::vector<LibraryVideo>& videos, const std::string& targetInstructor,
+                                   const std::string& targetStudent, Events events) {
+  for (const LibraryVideo& video : videos) {
+    if (const std::string refusal = RefuseUnlessVideoChangeable(video); !refusal.empty())
+      return events->Ended(Report(refusal));
+  }
   if (targetInstructor.empty() || targetStudent.empty() || targetInstructor == kGeneralFolder)
     return events->Ended(Refuse("You must select a Database and " + words_.noun() + " for the video."));
   const std::string folder = tree_.StudentFolder(targetInstructor, targetStudent);
-  if (SamePlace(folder, FolderOf(video.path)))
+  if (SamePlace(folder, FolderOf(videos.front().path)))
     return events->Ended(Refuse("The source and destination folders are the same. The video was not moved."));
-  const std::string name = NameOf(video);
-  const std::string taken = "A video with the name \"" + name + "\" already exists in the folder named " +
-                            targetStudent + ". Please rename the video and try again.";
-  if (HasVideoNamed(folder, LastName(video.path))) return events->Ended(Refuse(taken));
+  const auto taken = [targetStudent](const LibraryVideo& video) {
+    return "A video with the name \"" + NameOf(video) + "\" already exists in the folder named " + targetStudent +
+           ". Please rename the video and try again.";
+  };
+  std::vector<VideoTransfer> transfers;
+  for (const LibraryVideo& video : videos) {
+    if (HasVideoNamed(folder, LastName(video.path))) return events->Ended(Refuse(taken(video)));
+    transfers.push_back({video.path, folder, {}});
+  }
   // A student whom another workstation has just renamed or moved away would come back as a bare folder.
   if (!dirExists(folder))
     return events->Ended(Refuse("The folder " + folder + " cannot be found. The video was not moved."));
-  auto job = std::make_unique<VideoTransferJob>(CopyJob::Kind::Move, OnClash::Stop,
-                                                std::vector{VideoTransfer{video.path, folder, {}}}, disk_);
+  auto job = std::make_unique<VideoTransferJob>(CopyJob::Kind::Move, OnClash::Stop, std::move(transfers), disk_);
   Run<VideoTransferJob>(
       std::move(job),
       [=, this](VideoTransferJob& move) -> OperationResult {
+        const auto done = static_cast<std::size_t>(move.VideosDone());
+        const std::string count = std::to_string(done);
         if (!move.Failed() && !move.Cancelled()) {
           if (!move.Error().empty()) host_.Message(MessageKind::Warning, "", move.Error());
+          if (videos.size() > 1) return {count + " videos successfully moved.", true};
           return {std::string("Selected video successfully moved."), true};
         }
         OperationResult refused;
-        if (move.NameTaken()) refused = Refuse(taken);
-        else if (move.Failed() && !EntryExists(video.path)) refused = RefuseGone("The video was not moved");
+        const LibraryVideo& last = videos[std::min(done, videos.size() - 1)];
+        if (move.NameTaken()) refused = Refuse(taken(last));
+        else if (move.Failed() && !EntryExists(last.path)) refused = RefuseGone("The video was not moved");
         else if (move.Failed()) refused = Refuse(move.Error());
-        refused.words = Outcome::Failed("No videos were moved.");
+        refused.words =
+            Outcome::Failed(done == 0 ? "No videos were moved."
+                                      : count + " of " + std::to_string(videos.size()) + " videos were moved.");
+        refused.refill = refused.refill || done > 0;
         return refused;
       },
       std::move(events));
@@ -265,7 +313,7 @@ OperationResult LibraryOperations::RemoveFromQuickLaunch(const LibraryVideo& vid
   if (!host_.Question("Removing video from program!",
                       "Are you sure that you want to delete the current video from the Quick Launch folder?"))
     return {};
-  if (!RemoveVideo(video.path, disk_)) return Refuse(kCannotDelete);
+  if (!RemoveVideo(video.path)) return Refuse(kCannotDelete);
   return {std::string("The current video was removed from the Quick Launch folder."), true, video.instructor};
 }
 

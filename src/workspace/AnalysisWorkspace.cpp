@@ -163,12 +163,13 @@ void AnalysisWorkspace::CellDoubleClicked(int slot) {
 
 void AnalysisWorkspace::OpenFiles(int slot, const std::vector<std::string>& paths) {
   if (paths.empty()) return;
-  const auto videos = host_.Drives().Ask(paths.front(), [paths] { return VideosAmong(paths); });
+  auto videos = host_.Drives().Ask(paths.front(), [paths] { return VideosAmong(paths); });
   if (!videos) return host_.Message(MessageKind::Warning, "", "The drive with the videos is not answering.");
   if (videos->empty()) return host_.Message(MessageKind::Information, "", "There is no video among these files.");
   if (slot > 0) {
     Select(slot);
-    return videos_.OpenFamily(*videos);
+    if (!videos_.OpenVideo(slot, videos->front())) return;
+    videos->erase(videos->begin());
   }
   std::string status;
   for (const std::string& path : *videos)

@@ -67,8 +67,8 @@ class AnalysisWorkspace final : public IFrameInterface,
   /// A mouse press on a cell beside its picture, and a double click there: an empty window opens a video.
   void CellPressed(int slot);
   void CellDoubleClicked(int slot);
-  /// Opens the videos among files and folders as they lie: from a window on, on whose cell they were dropped, or,
-  /// for slot 0, in free ones as long as there are any.
+  /// Opens the videos among files and folders as they lie: the first in the window on whose cell they were dropped,
+  /// the others, or, for slot 0, all of them, in free ones as long as there are any.
   void OpenFiles(int slot, const std::vector<std::string>& paths);
   void PutToolDown();
   void ChooseColour(int Index);

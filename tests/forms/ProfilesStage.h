@@ -33,7 +33,7 @@ class ProfilesStage : public ::testing::Test, protected UsesApplication, protect
     page.reset();
     operations = std::make_unique<LibraryOperations>(library.host, library.settings, analysis, environment);
     page = std::make_unique<ProfilesPage>(services, printer, library.settings, fields, remembered, *operations, nullptr,
-                                          DeviceWatch::Environment{[this] { return devices; }, send_});
+                                          DeviceWatch::Environment{[this] { return devices; }, send_}, GlanceStore(""));
     page->resize(892, 700);
     page->show();
     page->Open();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -9,6 +10,7 @@
 
 #include "library/LibraryOperations.h"
 #include "library/NotesKeeper.h"
+#include "platform/files/Folders.h"
 
 namespace kinalyx::test {
 
@@ -23,6 +25,23 @@ class FakeAnalysis final : public IAnalysisLink {
     sent.push_back(path);
     status("Current video was sent to Analysis.");
     return 1;
+  }
+  void GoToAnalysis() override { ++shown; }
+  int shown = 0;  ///< how often the section was asked for
+};
+
+/// A trash that can be full, or missing.
+class FakeTrash final : public ITrash {
+ public:
+  bool there = true;
+  bool full = false;
+  std::vector<std::string> taken;
+
+  bool Has(const std::string&) const override { return there; }
+  bool Take(const std::string& path) override {
+    if (full) return false;
+    taken.push_back(LastName(path));
+    return std::filesystem::remove_all(path) > 0;
   }
 };
 

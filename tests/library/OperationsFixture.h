@@ -36,7 +36,7 @@ class OperationsFixture : public testing::Test {
   LibraryOperations& Ops() {
     if (!operations) {
       operations = std::make_unique<LibraryOperations>(library.host, library.settings, analysis,
-                                                       LibraryOperations::Environment{JobRunner::On::HostTimer, disk});
+                                                       LibraryOperations::Environment{JobRunner::On::HostTimer, disk, trash});
     }
     return *operations;
   }
@@ -73,6 +73,7 @@ class OperationsFixture : public testing::Test {
 
   TempLibrary library;
   IDisk* disk = &RealDisk();
+  ITrash* trash = nullptr;
   FakeAnalysis analysis;
   std::set<std::string>& open = analysis.open;
   const std::shared_ptr<HeardOperation> heard = std::make_shared<HeardOperation>();

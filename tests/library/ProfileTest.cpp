@@ -21,8 +21,8 @@ class ProfileTest : public ::testing::Test {
     fields.EnsureFile();
     fields.SetupFields();
   }
-  Profile Open() { return OpenProfile(student, fields.Captions()); }
-  bool Save(const FieldTexts& values) { return SaveProfile(student, fields.Captions(), values, Open().Stored()); }
+  Profile Open() { return OpenProfile(student, fields); }
+  bool Save(const FieldTexts& values) { return SaveProfile(student, fields, values, Open().Stored()); }
   std::string File(const std::string& name) const { return TempLibrary::Read(student + "/" + name); }
   bool Exists(const std::string& name) const { return std::filesystem::exists(student + "/" + name); }
 
@@ -83,19 +83,34 @@ TEST_F(ProfileTest, OldProfilesKeepTheirNameUnderItsPresentKey) {
   EXPECT_EQ(Open().values[1] + ", " + Open().values[10], "Straße 5, Łydki, 腰");
 }
 
-TEST_F(ProfileTest, ARenamedFieldShowsTheFilesPathUntilSavedAgain) {
+TEST_F(ProfileTest, ARenamedFieldKeepsItsValues) {
   values[6] = "31";
   ASSERT_TRUE(Save(values));
   ASSERT_TRUE(fields.SetCaption(6, "Handicap"));
-  const Profile renamed = Open();
-  EXPECT_EQ(renamed.values[6], (student + "/profile.prf").substr(0, 49));
-  EXPECT_TRUE(renamed.missing[6]);
+  ASSERT_TRUE(fields.SetCaption(6, "Index"));
+  ReadFields();
+  EXPECT_EQ(Open().values[6], "31");
+  EXPECT_FALSE(Open().missing[6]);
+  EXPECT_EQ(
+      fields.SetCaption(7, "age").Why(),
+      "The values of the field \"Index\" are stored under \"age\", its name of before. Please choose another name.");
 
+  // The workstation that calls it by the old name has the new value too, and so has who names it back.
+  values = Open().Stored();
   values[6] = "12";
   ASSERT_TRUE(Save(values));
-  EXPECT_EQ(Open().values[6], "12");
+  EXPECT_NE(File("profile.prf").find("\nAge=12\n"), std::string::npos);
+  EXPECT_NE(File("profile.prf").find("\nIndex=12\n"), std::string::npos);
   ASSERT_TRUE(fields.SetCaption(6, "Age"));
-  EXPECT_EQ(Open().values[6], "31");
+  EXPECT_EQ(Open().values[6], "12");
+  EXPECT_TRUE(fields.SetCaption(6, "Years")) << "over and over";
+  EXPECT_EQ(fields.Earlier(6).size(), 3u);
+}
+
+TEST_F(ProfileTest, AFieldThatAProfileHasNeverHadShowsThePathOfTheFile) {
+  library.File("Demo/Sample, Erica/profile.prf", "[Profile]\nAddress=Rue 5\n");
+  EXPECT_EQ(Open().values[6], (student + "/profile.prf").substr(0, 49));
+  EXPECT_TRUE(Open().missing[6]);
 }
 
 TEST_F(ProfileTest, ValuesComeBackCutAt49CharactersNotBytes) {
@@ -121,7 +136,7 @@ TEST_F(ProfileTest, TwoWorkstationsKeepEachOthersFieldsAndLines) {
   there[10] = "Łydki";
   ASSERT_TRUE(Save(there));
   here[6] = "45";
-  ASSERT_TRUE(SaveProfile(student, fields.Captions(), here, base));
+  ASSERT_TRUE(SaveProfile(student, fields, here, base));
   EXPECT_EQ(Open().values[6] + Open().values[7] + Open().values[10], "45181Łydki");
 
   library.File("Demo/Sample, Erica/profile.txt", "grip\r\nhips\r\n");
@@ -183,7 +198,7 @@ TEST_F(ProfileTest, NewNamesAreCheckedInOrder) {
   EXPECT_EQ(addStudent("../Elsewhere"), "Invalid character in name.");
   EXPECT_FALSE(std::filesystem::exists(library.Path("Elsewhere")));
   EXPECT_EQ(addStudent("Tom"), "New golfer successfully created.");
-  EXPECT_EQ(OpenProfile(library.Path("Demo/Tom"), fields.Captions()).values[3], "555");
+  EXPECT_EQ(OpenProfile(library.Path("Demo/Tom"), fields).values[3], "555");
   EXPECT_EQ(addStudent(std::string(300, 'x')), "An error has occurred while creating the profile");
 
   const std::pair<const char*, const char*> instructors[] = {

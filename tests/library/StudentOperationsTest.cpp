@@ -194,5 +194,44 @@ TEST_F(StudentOperations, DeletesAStudentWholeOrNotAtAll) {
   EXPECT_TRUE(fs::is_empty(library.Path("Ann")));
 }
 
+TEST_F(StudentOperations, WhatIsDeletedIsSaidBeforeAndGoesToTheTrash) {
+  FakeTrash bin;
+  trash = &bin;
+  library.File("Ann/Joe Doe/contract.pdf");
+  library.File("Ann/Joe Doe/plans/2026/week 1.avi");
+  const std::string contents =
+      "There are 8 files in the folder: 2 videos with all drawings and notes, 1 lesson, the profile, 2 files that the "
+      "lists do not show: ";
+  std::string told = Ops().DeletionText(DL(), true);
+  EXPECT_TRUE(told.starts_with(contents)) << told;
+  EXPECT_NE(told.find("plans/2026/week 1.avi"), std::string::npos);
+  EXPECT_TRUE(told.ends_with("It goes to the trash of the desktop, from where it can be taken back."));
+
+  EXPECT_TRUE(Ops().DeleteVideo(DL()).Done());
+  EXPECT_EQ(bin.taken, (std::vector<std::string>{"(001) DL.avi", "(001) DL.ved"}));
+  EXPECT_EQ(Delete("Ann", "Joe Doe").Status(), "Student Successfully removed from the system.");
+  EXPECT_EQ(bin.taken.back(), "Joe Doe");
+  EXPECT_TRUE(library.host.questions.empty());
+}
+
+TEST_F(StudentOperations, ATrashThatDoesNotTakeItIsAskedAbout) {
+  FakeTrash bin;
+  bin.full = true;
+  trash = &bin;
+  EXPECT_EQ(Delete("Ann", "Joe Doe").Status(), "Operation Cancelled");
+  EXPECT_FALSE(Ops().DeleteVideo(DL()).Done());
+  EXPECT_EQ(library.host.questions.size(), 2u);
+  EXPECT_EQ(Read("Ann/Joe Doe/(001) DL.avi"), "video 1");
+  library.host.answers = {true, true};
+  EXPECT_TRUE(Ops().DeleteVideo(DL()).Done());
+  EXPECT_EQ(Delete("Ann", "Joe Doe").Status(), "Student Successfully removed from the system.");
+  EXPECT_TRUE(fs::is_empty(library.Path("Ann")));
+
+  bin.there = false;
+  EXPECT_EQ(Ops().DeletionText(Video("Bob", "Sue", "Swing"), false),
+            "This drive has no trash: what is deleted is gone.");
+  EXPECT_EQ(Delete("Bob", "Sue").Status(), "Student Successfully removed from the system.");
+}
+
 }  // namespace
 }  // namespace kinalyx::test

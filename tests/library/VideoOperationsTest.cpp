@@ -28,7 +28,7 @@ TEST_F(VideoOperations, NothingHappensWithoutAChoiceOrToAVideoThatIsOpenInAnalys
     EXPECT_EQ(operation(DL()).Status(),
               "This video is open in the Analysis section. You must close the video before you can continue.");
   }
-  EXPECT_EQ(Ops().SendToAnalysis({}, [](const std::string&) {}).Status(), noVideo);
+  EXPECT_EQ(Ops().SendToAnalysis(LibraryVideo(), [](const std::string&) {}).Status(), noVideo);
   EXPECT_EQ(Run(&LibraryOperations::QuickLaunch, LibraryVideo()).Status(), noVideo);
   EXPECT_EQ(Read("Ann/Joe Doe/(001) DL.avi"), "video 1");
   EXPECT_TRUE(Ops().RenameVideo(FO(), "x").Done());

@@ -168,9 +168,11 @@ QWidget* DialogForm::MakeCopyPanel(IHost& host, Settings& settings) {
 
 // ---------------------------------------------------------------- opening
 
-void DialogForm::Open(Mode mode, const LibraryVideo& about) {
+void DialogForm::Open(Mode mode, const LibraryVideo& about, std::size_t videos, const std::string& goes) {
   mode_ = mode;
   about_ = about;
+  videos_ = videos;
+  goes_ = goes.empty() ? goes : goes + "\n\n";
   const Words words = WordsOfMode();
   setWindowTitle(Q(words.title));
   title_->setText(Q(words.title));
@@ -196,6 +198,8 @@ DialogForm::Words DialogForm::WordsOfMode() const {
   const std::string video = Short(*title_, VideoOf(about_));
   const std::string student = Short(*title_, about_.student);
   const std::string instructor = Short(*title_, about_.instructor);
+  const bool several = videos_ > 1;
+  const std::string these = std::to_string(videos_) + " videos";
   switch (mode_) {
     case Mode::RenameInstructor:
       return {"Rename Instructor or Database", "Type the new name of " + instructor + ".", "Rename"};
@@ -207,24 +211,25 @@ DialogForm::Words DialogForm::WordsOfMode() const {
     case Mode::RenameStudent: return {words.Rename(), "Type the new name of " + student + ".", "Rename"};
     case Mode::MoveStudent: return {words.MoveThis() + ": " + student, texts.moveStudent, "Move"};
     case Mode::DeleteStudent:
-      return {words.DeleteThis() + ": " + student, texts.deleteWarning + "\n\n" + texts.deleteFinish,
+      return {words.DeleteThis() + ": " + student, texts.deleteWarning + "\n\n" + goes_ + texts.deleteFinish,
               "Delete " + words.Noun()};
     case Mode::RenameVideo: return {"Rename Video", "Type the new name of " + video + ".", "Rename"};
     case Mode::MoveVideo:
-      return {"Move this video: " + video,
-              "Select the Database and the " + words.noun() +
-                  " that you want to move the video to and click the \"Move\" button.",
+      return {several ? "Move these " + these : "Move this video: " + video,
+              "Select the Database and the " + words.noun() + " that you want to move the " +
+                  (several ? "videos" : "video") + " to and click the \"Move\" button.",
               "Move"};
     case Mode::CopyVideo:
-      return {"Copy Video to a Disk",
-              "Copies the video " + video +
-                  " with its drawings and notes. Select the removeable disk, or any other folder.",
+      return {several ? "Copy Videos to a Disk" : "Copy Video to a Disk",
+              "Copies the " + (several ? these + " with their" : "video " + video + " with its") +
+                  " drawings and notes. Select the removeable disk, or any other folder.",
               "Copy"};
     case Mode::DeleteVideo:
-      return {"Delete this video: " + video,
-              "Warning! This will remove the video with its drawings and notes from your system.\n\nClick the Delete "
-              "Video button to finish.",
-              "Delete Video"};
+      return {several ? "Delete these " + these : "Delete this video: " + video,
+              "Warning! This will remove the " + (several ? these + " with their" : "video with its") +
+                  " drawings and notes from your system.\n\n" + goes_ + "Click the Delete " +
+                  (several ? "Videos" : "Video") + " button to finish.",
+              several ? "Delete Videos" : "Delete Video"};
   }
   return {};
 }

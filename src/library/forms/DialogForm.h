@@ -35,7 +35,9 @@ class DialogForm : public QDialog {
   DialogForm(IHost& host, Settings& settings, QWidget* over);
 
   /// Shows the panel of a mode for what is chosen in the lists.
-  void Open(Mode mode, const LibraryVideo& about);
+  /// @param videos  how many it is about, where it is about videos
+  /// @param goes    what goes with what is deleted
+  void Open(Mode mode, const LibraryVideo& about, std::size_t videos = 1, const std::string& goes = {});
   Mode CurrentMode() const { return mode_; }
   /// What was chosen when the form was opened.
   const LibraryVideo& About() const { return about_; }
@@ -77,6 +79,8 @@ class DialogForm : public QDialog {
   LibraryTree tree_;
   Mode mode_ = Mode::RenameStudent;
   LibraryVideo about_;
+  std::size_t videos_ = 1;
+  std::string goes_;
   std::string oldName_;
   std::string lastDatabase_;  ///< the target of the last move
   std::string lastStudent_;

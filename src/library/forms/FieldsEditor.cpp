@@ -22,10 +22,7 @@ FieldsEditor::FieldsEditor(IHost& host, ProfileFields& fields, QWidget* parent)
   rows->setContentsMargins(kGap, 10, kGap, 14);
   rows->setSpacing(10);
   rows->addWidget(MakeLabel("FieldsText", "What each line of a profile is called", "caption"));
-  QLabel* note = MakeLabel("FieldsNote",
-                           "Values that are stored already stay under the old name of a field. They can be seen "
-                           "again when the field gets that name back.",
-                           "muted");
+  QLabel* note = MakeLabel("FieldsNote", "A field that is renamed keeps its values.", "muted");
   note->setWordWrap(true);
   rows->addWidget(note);
   boxes_ = new FieldBoxes("SPEditlbl", "SPEdittext");

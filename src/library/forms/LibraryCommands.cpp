@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "library/LibraryBrowser.h"
+#include "library/ListChoices.h"
 #include "library/TrimJob.h"
 #include "library/VideoNames.h"
 #include "library/forms/EditPanel.h"
@@ -32,11 +33,13 @@ class LibraryCommands::Shown final : public IOperationEvents {
 };
 
 LibraryCommands::LibraryCommands(IHost& host, Settings& settings, LibraryOperations& operations,
-                                 LibraryBrowser& browser, VideosPanel& videos, ILibraryPage& page, QWidget* over)
+                                 LibraryBrowser& browser, const ListChoices& choices, VideosPanel& videos,
+                                 ILibraryPage& page, QWidget* over)
     : QObject(over),
       host_(host),
       operations_(operations),
       browser_(browser),
+      choices_(choices),
       videos_(videos),
       page_(page),
       dialog_(new DialogForm(host, settings, over)),
@@ -55,9 +58,9 @@ void LibraryCommands::Run(LibraryAction action) {
     case LibraryAction::SendToAnalysis: return SendToAnalysis();
     case LibraryAction::Trim: return OpenTrim();
     case LibraryAction::RenameVideo: return PrepareVideo(Mode::RenameVideo);
-    case LibraryAction::MoveVideo: return PrepareVideo(Mode::MoveVideo);
-    case LibraryAction::CopyVideo: return PrepareVideo(Mode::CopyVideo);
-    case LibraryAction::DeleteVideo: return PrepareVideo(Mode::DeleteVideo);
+    case LibraryAction::MoveVideo: return PrepareVideos(Mode::MoveVideo);
+    case LibraryAction::CopyVideo: return PrepareVideos(Mode::CopyVideo);
+    case LibraryAction::DeleteVideo: return PrepareVideos(Mode::DeleteVideo);
     case LibraryAction::QuickLaunch: return QuickLaunch();
     case LibraryAction::AddStudent:
     case LibraryAction::Profile:
@@ -73,7 +76,17 @@ void LibraryCommands::SendToAnalysis() {
   if (operations_.Busy()) return page_.Say("Please wait until the operation under way has finished.");
   if (videos_.VideoPlay1().Control().IsPlaying()) videos_.VideoPlay1().TogglePlay();
   const auto say = [this](const std::string& words) { page_.Say(Q(words)); };
-  page_.Say(Q(operations_.SendToAnalysis(ChosenVideo(browser_), say).Status()));
+  const OperationResult sent = operations_.SendToAnalysis(Chosen(), say);
+  page_.Say(Q(sent.Status()));
+  if (sent.Done() && choices_.GoesAlong()) operations_.GoToAnalysis();
+}
+
+std::vector<LibraryVideo> LibraryCommands::Chosen() const {
+  std::vector<LibraryVideo> videos;
+  for (const int row : videos_.ChosenRows())
+    videos.push_back({browser_.Instructor(), browser_.Student(), browser_.VideoPathAt(row)});
+  if (videos.empty()) videos.push_back(ChosenVideo(browser_));
+  return videos;
 }
 
 // ---------------------------------------------------------------- videos from elsewhere
@@ -106,7 +119,9 @@ void LibraryCommands::PrepareStudent(Mode mode, Change change) {
   const std::string refusal =
       operations_.RefuseUnlessStudentChangeable(browser_.Instructor(), browser_.Student(), change);
   if (!refusal.empty()) return page_.Say(Q(refusal));
-  dialog_->Open(mode, ChosenVideo(browser_));
+  const LibraryVideo about = ChosenVideo(browser_);
+  const bool goes = mode == Mode::DeleteStudent;
+  dialog_->Open(mode, about, 1, goes ? operations_.DeletionText(about, true) : std::string());
 }
 
 void LibraryCommands::PrepareVideo(Mode mode) {
@@ -115,6 +130,19 @@ void LibraryCommands::PrepareVideo(Mode mode) {
   if (!refusal.empty()) return page_.Say(Q(refusal));
   videos_.VideoPlay1().Control().StopPlay();
   dialog_->Open(mode, video);
+}
+
+/// For what can be done with several at once.
+void LibraryCommands::PrepareVideos(Mode mode) {
+  prepared_ = Chosen();
+  for (const LibraryVideo& video : prepared_) {
+    const std::string refusal = operations_.RefuseUnlessVideoChangeable(video);
+    if (!refusal.empty()) return page_.Say(Q(refusal));
+  }
+  videos_.VideoPlay1().Control().StopPlay();
+  const bool goes = mode == Mode::DeleteVideo;
+  dialog_->Open(mode, prepared_.front(), prepared_.size(),
+                goes ? operations_.DeletionText(prepared_.front(), false) : std::string());
 }
 
 void LibraryCommands::OpenTrim() {
@@ -169,12 +197,12 @@ void LibraryCommands::Carry() {
     case Mode::RenameVideo: return Do([&] { return operations_.RenameVideo(about, dialog_->Name()); });
     case Mode::MoveVideo:
       return DoLong(dialog_->windowTitle(), [&](Events events) {
-        operations_.MoveVideo(about, dialog_->Database(), dialog_->Student(), std::move(events));
+        operations_.MoveVideos(prepared_, dialog_->Database(), dialog_->Student(), std::move(events));
       });
     case Mode::CopyVideo:
       return DoLong(dialog_->windowTitle(),
-                    [&](Events events) { operations_.CopyToDisk({about}, dialog_->Drive(), std::move(events)); });
-    case Mode::DeleteVideo: return Do([&] { return operations_.DeleteVideo(about); });
+                    [&](Events events) { operations_.CopyToDisk(prepared_, dialog_->Drive(), std::move(events)); });
+    case Mode::DeleteVideo: return Do([&] { return operations_.DeleteVideos(prepared_); });
   }
 }
 

@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QString>
 #include <functional>
+#include <vector>
 
 #include "library/LibraryActions.h"
 #include "library/LibraryOperations.h"
@@ -11,6 +12,7 @@
 namespace kinalyx {
 
 class LibraryBrowser;
+class ListChoices;
 class ProgressForm;
 class VideosPanel;
 
@@ -36,7 +38,7 @@ class LibraryCommands : public QObject {
   /// All that is passed outlives it.
   /// @param over  the page as a widget, over which dialogs open
   LibraryCommands(IHost& host, Settings& settings, LibraryOperations& operations, LibraryBrowser& browser,
-                  VideosPanel& videos, ILibraryPage& page, QWidget* over);
+                  const ListChoices& choices, VideosPanel& videos, ILibraryPage& page, QWidget* over);
 
   /// Actions on students and videos; others are not its own.
   void Run(LibraryAction action);
@@ -60,8 +62,11 @@ class LibraryCommands : public QObject {
   /// What becomes of a long operation, for as long as there is somebody to show it.
   class Shown;
 
+  /// The videos that are chosen, the shown one where the list marks none.
+  std::vector<LibraryVideo> Chosen() const;
   void PrepareStudent(Mode mode, Change change);
   void PrepareVideo(Mode mode);
+  void PrepareVideos(Mode mode);
   void PrepareInstructor(Mode mode, Change change);
   void OpenTrim();
   void SaveTrim();
@@ -78,8 +83,10 @@ class LibraryCommands : public QObject {
   IHost& host_;
   LibraryOperations& operations_;
   LibraryBrowser& browser_;
+  const ListChoices& choices_;
   VideosPanel& videos_;
   ILibraryPage& page_;
+  std::vector<LibraryVideo> prepared_;  ///< what the dialog is about, where it is about videos
   DialogForm* dialog_;
   ProgressForm* progress_;
 };

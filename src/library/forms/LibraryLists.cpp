@@ -83,6 +83,8 @@ void LibraryLists::ShowVideos() {
   emit VideoChosen();
 }
 
+void LibraryLists::ShowOrder() { videos_->Fill(Q(browser_.VideoList()), browser_.VideoIndex()); }
+
 /// True when the root folder of the lists cannot be reached.
 bool LibraryLists::RootGone() {
   if (browser_.Silent()) return false;
@@ -131,9 +133,7 @@ bool LibraryLists::eventFilter(QObject* object, QEvent* event) {
     case Qt::Key_Return:
     case Qt::Key_Enter: return at == 2 ? QObject::eventFilter(object, event) : go(next);
     case Qt::Key_Space:
-      // Where several can be chosen, it chooses.
-      if (at != 2 || videos_->selectionMode() != QAbstractItemView::SingleSelection)
-        return QObject::eventFilter(object, event);
+      if (at != 2 || !spacePlays_) return QObject::eventFilter(object, event);
       emit PlayWanted();
       return true;
     default: return QObject::eventFilter(object, event);

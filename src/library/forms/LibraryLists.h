@@ -29,6 +29,10 @@ class LibraryLists : public QObject {
   void ShowAll();
   void ShowStudents();
   void ShowVideos();
+  /// The videos have another order; what is chosen stays, and nobody is told.
+  void ShowOrder();
+  /// The space bar chooses a video in place of playing it.
+  void SpaceChooses() { spacePlays_ = false; }
   /// Says in empty lists what to do.
   void ShowHints();
 
@@ -64,6 +68,7 @@ class LibraryLists : public QObject {
   NameList* instructors_;
   NameList* students_;
   NameList* videos_;
+  bool spacePlays_ = true;
 };
 
 }  // namespace kinalyx

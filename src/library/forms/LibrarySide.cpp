@@ -39,6 +39,7 @@ LibrarySide::LibrarySide(DriveWatch& drives, const QString& title, const Setting
       lists_(new LibraryLists(browser_, settings, this, names)) {
   studentsTitle_ = MakeLabel(QString("IEStudents%1").arg(index), {}, "caption");
   count_ = MakeLabel(QString("IECount%1").arg(index), {}, "muted");
+  lists_->SpaceChooses();
   lists_->VideoList()->setSelectionMode(QAbstractItemView::ExtendedSelection);
   lists_->VideoList()->setToolTip("Ctrl and Shift with a click choose several, Ctrl+A all");
 

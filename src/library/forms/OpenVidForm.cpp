@@ -5,12 +5,14 @@
 #include <QLabel>
 
 #include "core/Vocabulary.h"
+#include "library/BadVideos.h"
 #include "library/LibraryReading.h"
 #include "library/OpenVideo.h"
 #include "library/forms/Divider.h"
 #include "library/forms/LibraryLists.h"
 #include "library/forms/PreviewPlayer.h"
 #include "library/forms/SidecarMarkLabels.h"
+#include "library/forms/VideoRows.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Figures.h"
 #include "platform/widgets/Panel.h"
@@ -32,7 +34,11 @@ OpenVideoParts::OpenVideoParts(PlayerServices& services, const Settings& setting
   setProperty("look", "panel");
   lists_ = new LibraryLists(browser_, settings, this);
   students_ = MakeLabel("StudentHeading", {}, "heading");
+  lists_->VideoList()->setSelectionMode(QAbstractItemView::ExtendedSelection);
+  lists_->VideoList()->LetDrag();
+  lists_->VideoList()->setToolTip("Ctrl and Shift with a click choose several; they can be dragged to a window");
   preview_ = new PreviewPlayer(services);
+  rows_ = new VideoRows(services.host, DriveWatch::SendWorker, browser_, *lists_->VideoList());
   marks_ = new SidecarMarkLabels;
   count_ = new FigureLabel("VideoCount");
   count_->setProperty("look", "caption");
@@ -62,7 +68,10 @@ void OpenVideoParts::Return() {
   lists_->ShowAll();
 }
 
-void OpenVideoParts::Leave() { preview_->Unload(); }
+void OpenVideoParts::Leave() {
+  preview_->Unload();
+  rows_->Stop();
+}
 
 void OpenVideoParts::SettingsChanged() {
   students_->setText(Q(Vocabulary(settings_).Nouns()));
@@ -73,13 +82,14 @@ void OpenVideoParts::VideoList_Click() {
   const std::string path = browser_.VideoPath();
   std::optional<SidecarMarks> marks;
   if (!path.empty()) marks = AskVideoMarks(browser_.Drives(), browser_.Tree().Root(), path);
-  if (marks) preview_->Load(path);  // a file that cannot be opened shows the player's colour
-  else preview_->Unload();
+  if (!marks) preview_->Unload();
+  else if (!preview_->Load(path)) preview_->ShowWords(Q(BadVideoText(false)));
   marks_->Show(marks.value_or(SidecarMarks()));
   ShowButtons();
 }
 
 void OpenVideoParts::VidCountUpdate() {
+  rows_->Show();
   const auto count = browser_.VideoList().size();
   count_->setText(count ? QString::number(count) : QString());
 }
@@ -113,11 +123,22 @@ void OpenVideoParts::CmdOpenVideo_Click(int Index) {
 
 void OpenVideoParts::OpenChosen() {
   if (!browser_.HasVideo()) return;
+  if (const std::vector<int> rows = lists_->VideoList()->ChosenRows(); rows.size() > 1) return OpenSeveral(rows);
   const std::string path = browser_.VideoPath();
   if (!browser_.Drives().Answers(browser_.Tree().Root(), path))
     return host_.Message(MessageKind::Warning, "",
                          "The drive with this video is not answering. The video was not opened.");
   if (opener_.OpenVideo(path)) ++opened_;
+}
+
+/// Several that are chosen come into successive windows.
+void OpenVideoParts::OpenSeveral(const std::vector<int>& rows) {
+  std::vector<std::string> paths;
+  for (const int row : rows) paths.push_back(browser_.VideoPathAt(row));
+  if (!browser_.Drives().Answers(browser_.Tree().Root(), paths.front()))
+    return host_.Message(MessageKind::Warning, "",
+                         "The drive with these videos is not answering. They were not opened.");
+  opener_.OpenFamily(paths);
 }
 
 void OpenVideoParts::OpenFamily() {

@@ -19,6 +19,7 @@ class IOpenVideo;
 class LibraryLists;
 class PreviewPlayer;
 class SidecarMarkLabels;
+class VideoRows;
 
 /// The lists, the preview and the buttons by which a video is opened in the analysis section. The two
 /// forms below arrange them.
@@ -50,6 +51,7 @@ class OpenVideoParts : public QFrame {
   LibraryLists* lists_;
   QLabel* students_;  // the heading with the noun
   PreviewPlayer* preview_;
+  VideoRows* rows_;
   SidecarMarkLabels* marks_;
   FigureLabel* count_;
   Button* buttons_[3] = {};
@@ -60,6 +62,7 @@ class OpenVideoParts : public QFrame {
   bool ShortGame() const { return settings_.ShortGame == 1; }
   void ShowButtons();
   void OpenChosen();
+  void OpenSeveral(const std::vector<int>& rows);
   void OpenFamily();
 
   IHost& host_;

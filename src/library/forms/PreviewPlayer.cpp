@@ -1,6 +1,7 @@
 #include "library/forms/PreviewPlayer.h"
 
 #include <QBoxLayout>
+#include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QSignalBlocker>
@@ -75,6 +76,11 @@ PreviewPlayer::PreviewPlayer(PlayerServices& services, QWidget* parent) : QFrame
   view_->setObjectName("VideoPlay1");
   view_->setCursor(Qt::PointingHandCursor);
   view_->hide();
+  words_ = MakeLabel("PreviewWords", {}, nullptr, stage_);
+  words_->setAlignment(Qt::AlignCenter);
+  words_->setWordWrap(true);
+  words_->setStyleSheet("color: " + CurrentTheme().stageText.name());
+  words_->hide();
   rows->addWidget(stage_, 1);
 
   bar_ = new QFrame;
@@ -111,6 +117,7 @@ PreviewPlayer::~PreviewPlayer() {
 }
 
 bool PreviewPlayer::Load(const std::string& path) {
+  ShowWords({});
   const bool opened = Control().Load(path, false, false);
   if (opened) {
     const SlotData fields = DefaultVideoData(*Control().Info());
@@ -120,7 +127,7 @@ bool PreviewPlayer::Load(const std::string& path) {
   const QSignalBlocker quiet(seek_);
   seek_->setRange(0, qMax(0, Control().VideoLength() - 1));
   seek_->setValue(0);
-  view_->show();
+  view_->setVisible(opened);
   PlaceView();
   if (opened) Control().DrawFrame(0);
   ShowState();
@@ -130,9 +137,15 @@ bool PreviewPlayer::Load(const std::string& path) {
 void PreviewPlayer::Unload() {
   Control().Unload();
   view_->hide();
+  ShowWords({});
   const QSignalBlocker quiet(seek_);
   seek_->setRange(0, 0);
   ShowState();
+}
+
+void PreviewPlayer::ShowWords(const QString& words) {
+  words_->setText(words);
+  words_->setVisible(!words.isEmpty());
 }
 
 void PreviewPlayer::TogglePlay() {
@@ -174,14 +187,14 @@ void PreviewPlayer::paintEvent(QPaintEvent* event) {
   painter.fillRect(rect(), CurrentTheme().stage);
 }
 
-/// The largest place on the stage that has the picture's proportions. A file that could not be opened
-/// shows the player's colour in a frame of 4 : 3.
+/// The largest place on the stage that has the picture's proportions.
 void PreviewPlayer::PlaceView() {
   layout()->activate();
   const int width = Control().Info() ? Control().VideoWidth() : 4;
   const int height = Control().Info() ? Control().VideoHeight() : 3;
   const QSize place = QSize(width, height).scaled(stage_->size(), Qt::KeepAspectRatio);
   view_->setGeometry(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, place, stage_->rect()));
+  words_->setGeometry(stage_->rect().marginsRemoved({kGap, kGap, kGap, kGap}));
 }
 
 void PreviewPlayer::ShowState() {

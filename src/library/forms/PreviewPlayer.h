@@ -5,6 +5,7 @@
 #include "video/CallbackInterfaces.h"
 #include "video/forms/VideoView.h"
 
+class QLabel;
 class QSlider;
 
 namespace kinalyx {
@@ -22,10 +23,12 @@ class PreviewPlayer : public QFrame, private IFrameInterface, private IMouseAndK
   ~PreviewPlayer() override;
 
   AVIControl& Control() { return view_->Control(); }
-  /// Shows the first picture; false when the file cannot be opened. Interlaced material is shown field
-  /// by field, as the analysis section would without a sidecar.
+  /// Shows the first picture; false, with an empty stage, when the file cannot be opened. Interlaced material is shown
+  /// field by field, as the analysis section would without a sidecar.
   bool Load(const std::string& path);
   void Unload();
+  /// What the stage says in the place of a picture, until the next Load or Unload.
+  void ShowWords(const QString& words);
   /// Plays on from the present picture, from the first one when the last is shown; or pauses.
   void TogglePlay();
   /// The same from one frame to another.
@@ -73,6 +76,7 @@ class PreviewPlayer : public QFrame, private IFrameInterface, private IMouseAndK
 
   QWidget* stage_;
   VideoView* view_;
+  QLabel* words_;
   QFrame* bar_;
   Button* play_;
   QSlider* seek_;

@@ -6,6 +6,8 @@
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QPointer>
+#include <QShortcut>
+#include <algorithm>
 #include <utility>
 
 #include "library/LibraryReading.h"
@@ -16,8 +18,11 @@
 #include "library/forms/LibraryLists.h"
 #include "library/forms/ProfileEditor.h"
 #include "library/forms/ProfilePanel.h"
+#include "library/forms/SearchBar.h"
 #include "library/forms/StatusLine.h"
+#include "library/forms/VideoRows.h"
 #include "library/forms/VideosPanel.h"
+#include "platform/files/Folders.h"
 #include "platform/host/DriveWatch.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/FileDrop.h"
@@ -29,7 +34,7 @@ namespace kinalyx {
 
 ProfilesPage::ProfilesPage(PlayerServices& services, IPrinter& printer, Settings& settings, ProfileFields& fields,
                            LastStudentInfo& remembered, LibraryOperations& operations, QWidget* parent,
-                           DeviceWatch::Environment devices)
+                           DeviceWatch::Environment devices, GlanceStore glances)
     : PageWidget(parent),
       services_(services),
       settings_(settings),
@@ -38,11 +43,14 @@ ProfilesPage::ProfilesPage(PlayerServices& services, IPrinter& printer, Settings
       LastStudent_(remembered),
       operations_(operations),
       browser_(services.host.Drives(), settings, remembered, LibraryBrowser::Kind::Profiles),
+      choices_(JoinPath(settings.DataPath, "lists.ini")),
       badVideos_(services.host, settings, operations),
       lists_(new LibraryLists(browser_, settings, this)) {
   setObjectName("ProfilesPage");
-  grid_ = new QGridLayout(this);
-  grid_->setContentsMargins(14, 14, 14, 14);
+  auto* rows = new QVBoxLayout(this);
+  rows->setContentsMargins(14, 14, 14, 14);
+  rows->setSpacing(kGap);
+  grid_ = new QGridLayout;
   grid_->setSpacing(kGap);
   grid_->setColumnStretch(0, 3);
   grid_->setColumnStretch(1, 3);
@@ -53,8 +61,14 @@ ProfilesPage::ProfilesPage(PlayerServices& services, IPrinter& printer, Settings
   buttons_ = new LibraryButtons(settings, *status_, this);
   instructors_ = new InstructorsPanel(lists_->InstructorList());
   students_ = new Panel("StudentsTitle", "Students");
-  videos_ = new VideosPanel(services, settings, lists_->VideoList());
+  videos_ = new VideosPanel(services, settings, choices_, lists_->VideoList());
+  rows_ = new VideoRows(services.host, devices.send, browser_, *lists_->VideoList(), std::move(glances));
+  lists_->VideoList()->setSelectionMode(QAbstractItemView::ExtendedSelection);
+  lists_->VideoList()->LetDrag();
   profilePanel_ = new ProfilePanel(services.host, printer, settings);
+  search_ = new SearchBar(services.host, devices.send, settings.LibraryPath, fields, this);
+  rows->addWidget(search_);
+  rows->addLayout(grid_, 1);
   editor_ = new ProfileEditor(settings, this);
   editor_->hide();
   grid_->addWidget(instructors_, 0, 0);
@@ -65,9 +79,11 @@ ProfilesPage::ProfilesPage(PlayerServices& services, IPrinter& printer, Settings
   grid_->addWidget(devices_, 2, 0, 1, 3);
   grid_->addWidget(status_, 3, 0, 1, 3);
 
-  commands_ = new LibraryCommands(services.host, settings, operations, browser_, *videos_, *this, this);
+  commands_ = new LibraryCommands(services.host, settings, operations, browser_, choices_, *videos_, *this, this);
   PlaceButtons();
   ConnectParts();
+  browser_.SetSort(choices_.Sort());
+  rows_->SetByLength(choices_.Sort().by == VideoSort::By::Length, choices_.Sort().turned);
   SetupVocabulary();
   SetupFields();
 }
@@ -89,18 +105,28 @@ void ProfilesPage::PlaceButtons() {
 
 void ProfilesPage::ConnectParts() {
   connect(lists_, &LibraryLists::Leaving, this, [this](bool& may) { may = profilePanel_->LeaveNotes(); });
-  connect(lists_, &LibraryLists::Chosen, this, [this] {
-    choosing_ = true;
-    Say({});
-  });
+  connect(lists_, &LibraryLists::Chosen, this, [this] { Say({}); });
   connect(lists_, &LibraryLists::InstructorChosen, this, &ProfilesPage::InstructorChosen);
   connect(lists_, &LibraryLists::StudentChosen, this, &ProfilesPage::StudentList_Click);
   connect(lists_, &LibraryLists::VideoChosen, this, &ProfilesPage::VideoList_Click);
   connect(lists_, &LibraryLists::VideoActivated, commands_, &LibraryCommands::SendToAnalysis);
+  connect(lists_->VideoList(), &QListWidget::clicked, this, &ProfilesPage::OfferBadVideo);
   connect(lists_, &LibraryLists::PlayWanted, this, [this] { videos_->VideoPlay1().TogglePlay(); });
   for (QWidget* list : {lists_->InstructorList(), lists_->StudentList(), lists_->VideoList()})
     list->installEventFilter(this);
   connect(buttons_, &LibraryButtons::Wanted, this, &ProfilesPage::SPBtn_Click);
+  connect(search_, &SearchBar::Wanted, this, &ProfilesPage::GoTo);
+  connect(search_, &SearchBar::Left, lists_->StudentList(), [list = lists_->StudentList()] { list->setFocus(); });
+  auto* find = new QShortcut(QKeySequence::Find, this);
+  find->setContext(Qt::WidgetWithChildrenShortcut);
+  connect(find, &QShortcut::activated, search_, &SearchBar::FocusBox);
+  rows_->SetPictures(videos_->PicturesAreShown());
+  connect(videos_, &VideosPanel::PicturesShown, rows_, &VideoRows::SetPictures);
+  connect(videos_, &VideosPanel::SortChanged, this, &ProfilesPage::SortVideos);
+  connect(rows_, &VideoRows::Arranged, this, [this] {
+    lists_->ShowOrder();
+    rows_->Show();
+  });
   connect(videos_, &VideosPanel::AddWanted, commands_, [this] { commands_->AddVideos(); });
   connect(videos_, &VideosPanel::FolderWanted, commands_, &LibraryCommands::ShowFolder);
   connect(devices_, &DeviceBar::ShowWanted, this, &ProfilesPage::ShowDevice);
@@ -138,6 +164,7 @@ bool ProfilesPage::Leave() {
   if (!CloseVideo()) return false;
   instructors_->ShowNameBox(false);
   devices_->Stop();
+  rows_->Stop();
   return true;
 }
 
@@ -151,7 +178,6 @@ bool ProfilesPage::MayClose() { return editor_->isHidden() || MayDropEdits(); }
 /// Stores the notes and closes the preview.
 bool ProfilesPage::CloseVideo() {
   if (!profilePanel_->SaveNotes()) return false;
-  question_.Stop();
   commands_->CloseTrim();
   videos_->VideoPlay1().Unload();
   shownVideo_.clear();
@@ -229,7 +255,12 @@ void ProfilesPage::AddFromDevice(const std::vector<std::string>& paths) {
 
 void ProfilesPage::TakeDropped(const std::vector<std::string>& paths, QPoint at) {
   Say({});
-  commands_->AddVideos(paths, StudentAt(at));
+  const std::string student = StudentAt(at);
+  // A drag that ends in the list in which it began is none.
+  const std::vector<std::string> here = browser_.VideoPaths();
+  const bool own =
+      std::ranges::all_of(paths, [&](const std::string& path) { return std::ranges::find(here, path) != here.end(); });
+  if (!own || student != browser_.Student()) commands_->AddVideos(paths, student);
 }
 
 void ProfilesPage::ShowDropTarget(QPoint at) {
@@ -278,13 +309,22 @@ void ProfilesPage::InstructorChosen() {
 
 void ProfilesPage::StudentList_Click() {
   videos_->SetCount(static_cast<int>(browser_.VideoList().size()));
+  rows_->Show();
   OpenProfile();
+}
+
+void ProfilesPage::SortVideos() {
+  const VideoSort sort = choices_.Sort();
+  browser_.SortVideos(sort);
+  lists_->ShowOrder();
+  rows_->SetByLength(sort.by == VideoSort::By::Length, sort.turned);
+  rows_->Show();
 }
 
 void ProfilesPage::OpenProfile() {
   std::string folder = browser_.HasStudent() ? browser_.Folder() : std::string();
   if (!folder.empty() && !LibraryAnswers(folder)) folder.clear();
-  profile_ = folder.empty() ? Profile() : kinalyx::OpenProfile(folder, fields_.Captions());
+  profile_ = folder.empty() ? Profile() : kinalyx::OpenProfile(folder, fields_);
   if (!folder.empty()) profile_.values[kVideosOnFileField] = std::to_string(browser_.VideoList().size());
   profilePanel_->Fields().SetValues(profile_.values);
   // Notes that are being typed are not read anew when only a caption or a list has changed.
@@ -299,22 +339,19 @@ bool ProfilesPage::LibraryAnswers(const std::string& path) {
 }
 
 void ProfilesPage::VideoList_Click() {
-  const bool chosen = std::exchange(choosing_, false);
   const std::string path = browser_.VideoPath();
   if (path == shownVideo_ && !path.empty()) return;
   commands_->CloseTrim();
   shownVideo_ = path;
-  question_.Stop();
-  if (videos_->ShowVideo(path)) return;
-  // One that is only shown again, as the page opens, is told of in the line beneath the picture.
-  if (!chosen) return;
-  // Asked when the click is over: a box that opens under a pressed mouse button leaves the list dragging.
-  question_ = HostTimer(services_.host, 0, false, [this, video = ChosenVideo(browser_)] { OfferToDelete(video); });
+  shownOpens_ = videos_->ShowVideo(path);
 }
 
-void ProfilesPage::OfferToDelete(const LibraryVideo& video) {
+/// Only a click is taken as the wish to do something about a video that cannot be opened. Who comes by with the keys
+/// reads of it in the place of its picture.
+void ProfilesPage::OfferBadVideo() {
+  if (shownOpens_ || shownVideo_ != browser_.VideoPath()) return;
   const QPointer<QWidget> keys = QApplication::focusWidget();
-  if (badVideos_.Offer(video) != BadVideos::Fate::Kept) {
+  if (badVideos_.Offer(ChosenVideo(browser_)) != BadVideos::Fate::Kept) {
     browser_.Refresh();
     lists_->ShowAll();
   }
@@ -322,6 +359,28 @@ void ProfilesPage::OfferToDelete(const LibraryVideo& video) {
   if (!isVisible()) return;
   if (keys && keys->isVisible() && isAncestorOf(keys)) keys->setFocus();
   else lists_->VideoList()->setFocus();
+}
+
+/// Goes to what was found, as if it had been chosen in the lists.
+void ProfilesPage::GoTo(const SearchHit& hit) {
+  using Kind = SearchHit::Kind;
+  if (!editor_->isHidden()) {
+    if (!MayDropEdits()) return;
+    CloseEditor();
+  }
+  if (!profilePanel_->LeaveNotes()) return;
+  browser_.Refresh();
+  const bool there = browser_.SelectInstructor(hit.instructor) &&
+                     (hit.student.empty() || browser_.SelectStudent(hit.student)) &&
+                     (hit.video.empty() || browser_.SelectVideo(hit.video));
+  lists_->ShowAll();
+  NameList* const list = !hit.video.empty()     ? lists_->VideoList()
+                         : !hit.student.empty() ? lists_->StudentList()
+                                                : lists_->InstructorList();
+  ShowProfileView(there && (hit.kind == Kind::StudentNotes || hit.kind == Kind::Field));
+  list->setFocus();
+  list->scrollToItem(list->currentItem());
+  Say(there ? QString() : QString("It is not there any more."));
 }
 
 // ---------------------------------------------------------------- commands
@@ -418,7 +477,7 @@ void ProfilesPage::ProAddSaveBtn() {
   const FieldTexts values = editor_->Values();
   if (!editor_->IsNew()) {
     if (!LibraryAnswers(editedFolder_)) return Say(Q(SilentLibraryText(settings_.LibraryPath)));
-    if (!SaveProfile(editedFolder_, fields_.Captions(), values, editor_->Opened())) {
+    if (!SaveProfile(editedFolder_, fields_, values, editor_->Opened())) {
       Say("An error has occurred while editing the profile");
       return;
     }

@@ -7,9 +7,12 @@
 #include "core/Vocabulary.h"
 #include "library/BadVideos.h"
 #include "library/DeviceWatch.h"
+#include "library/GlanceStore.h"
 #include "library/LibraryActions.h"
 #include "library/LibraryBrowser.h"
+#include "library/LibraryIndex.h"
 #include "library/LibraryOperations.h"
+#include "library/ListChoices.h"
 #include "library/Profile.h"
 #include "library/forms/LibraryCommands.h"
 #include "platform/host/Host.h"
@@ -28,7 +31,9 @@ class LibraryLists;
 class Panel;
 class ProfileEditor;
 class ProfilePanel;
+class SearchBar;
 class StatusLine;
+class VideoRows;
 class VideosPanel;
 
 /// The library page: instructors, students and videos side by side, the preview of the selected video,
@@ -40,7 +45,7 @@ class ProfilesPage : public PageWidget, private ILibraryPage {
   /// All that is passed outlives the page.
   ProfilesPage(PlayerServices& services, IPrinter& printer, Settings& settings, ProfileFields& fields,
                LastStudentInfo& remembered, LibraryOperations& operations, QWidget* parent = nullptr,
-               DeviceWatch::Environment devices = {});
+               DeviceWatch::Environment devices = {}, GlanceStore glances = GlanceStore::OfUser());
   ~ProfilesPage() override;
 
   /// Reads the library and goes to the remembered student.
@@ -83,8 +88,10 @@ class ProfilesPage : public PageWidget, private ILibraryPage {
   void ShowResult(const OperationResult& result) override;
   void InstructorChosen();
   void StudentList_Click();
+  void SortVideos();
+  void GoTo(const SearchHit& hit);
   void VideoList_Click();
-  void OfferToDelete(const LibraryVideo& video);
+  void OfferBadVideo();
   void OpenProfile();
   bool LibraryAnswers(const std::string& path);
   void ShowProfileView(bool shown);
@@ -103,20 +110,22 @@ class ProfilesPage : public PageWidget, private ILibraryPage {
   LastStudentInfo& LastStudent_;
   LibraryOperations& operations_;
   LibraryBrowser browser_;
+  ListChoices choices_;
   BadVideos badVideos_;
   LibraryLists* lists_;
   LibraryCommands* commands_;
   Profile profile_;
-  HostTimer question_;
-  bool choosing_ = false;  ///< the user has just chosen in a list
   std::string shownStudent_;
   std::string shownVideo_;
+  bool shownOpens_ = true;    ///< the video that is shown could be opened
   std::string editedFolder_;  ///< of the student whose profile is in the editor
 
+  SearchBar* search_;
   QGridLayout* grid_;
   InstructorsPanel* instructors_;
   Panel* students_;
   VideosPanel* videos_;
+  VideoRows* rows_;
   ProfilePanel* profilePanel_;
   ProfileEditor* editor_;
   LibraryButtons* buttons_;

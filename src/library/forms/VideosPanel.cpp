@@ -4,13 +4,17 @@
 #include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
+#include <QMenu>
 #include <QPainter>
+#include <utility>
 
 #include "core/Settings.h"
+#include "library/BadVideos.h"
 #include "library/LibraryActions.h"
 #include "library/LibraryReading.h"
 #include "library/forms/Divider.h"
 #include "library/forms/EditPanel.h"
+#include "library/forms/HeadButton.h"
 #include "library/forms/SidecarMarkLabels.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Figures.h"
@@ -69,21 +73,40 @@ class SummaryLine final : public QWidget {
 
 // ---------------------------------------------------------------- panel
 
-VideosPanel::VideosPanel(PlayerServices& services, const Settings& settings, NameList* list, QWidget* parent)
-    : Panel("VideosTitle", "Videos", parent), drives_(services.host.Drives()), settings_(settings), list_(list) {
+VideosPanel::VideosPanel(PlayerServices& services, const Settings& settings, ListChoices& choices, NameList* list,
+                         QWidget* parent)
+    : Panel("VideosTitle", "Videos", parent),
+      drives_(services.host.Drives()),
+      settings_(settings),
+      choices_(choices),
+      list_(list) {
   count_ = new FigureLabel("VideoCount");
   count_->setProperty("look", "caption");
   Head()->insertWidget(1, count_);
   Head()->setStretch(0, 0);
   Head()->addStretch(1);
+  sort_ = HeadButton("VideoSortBtn", Q(SortCaption(choices_.Sort().by)));
+  sort_->setToolTip("By what the videos are sorted");
+  pictures_ = HeadButton("VideoPicturesBtn", {}, "rows");
+  pictures_->setToolTip("Pictures and details of the videos, or names alone");
+  pictures_->setAccessibleName("Pictures and details");
+  pictures_->setCheckable(true);
+  pictures_->setChecked(choices_.Pictures());
+  Head()->addWidget(sort_);
+  Head()->addWidget(pictures_);
+  connect(sort_, &QPushButton::clicked, this, &VideosPanel::OpenSortMenu);
+  connect(pictures_, &QPushButton::clicked, this, [this](bool shown) {
+    choices_.SetPictures(shown);
+    LimitList();
+  });
 
-  auto* middle = new QHBoxLayout;
-  middle->setSpacing(0);
+  middle_ = new QHBoxLayout;
+  middle_->setSpacing(0);
   preview_ = new PreviewPlayer(services);
-  middle->addLayout(MakeList(), 31);
-  middle->addWidget(Divider(true));
-  middle->addWidget(preview_, 69);
-  Body()->addLayout(middle, 1);
+  middle_->addLayout(MakeList());
+  middle_->addWidget(Divider(true));
+  middle_->addWidget(preview_);
+  Body()->addLayout(middle_, 1);
 
   Body()->addWidget(MakeSummary());
   statsPart_ = MakeStats();
@@ -174,6 +197,8 @@ bool VideosPanel::ShowVideo(const std::string& path) {
   }
   if (!preview_->Load(path)) {
     summary_->SetFacts({"This video cannot be opened."});
+    const auto arriving = drives_.Ask(settings_.LibraryPath, [path] { return StillArriving(path); });
+    preview_->ShowWords(Q(BadVideoText(arriving.value_or(false))));
     return false;
   }
   const AVIControl& control = preview_->Control();
@@ -216,9 +241,43 @@ void VideosPanel::changeEvent(QEvent* event) {
   if (event->type() == QEvent::StyleChange && preview_) LimitList();
 }
 
+/// The picture may take all that a large window has, but a list needs no more than this. Where that is too little for
+/// pictures beside the names, there are none.
 void VideosPanel::LimitList() {
-  // The picture may take all that a large window has, but a list of names needs no more than this.
-  list_->setMaximumWidth(qMax(Px(140), qMin(Px(420), width() * 31 / 100)));
+  const bool pictures = choices_.Pictures() && width() >= Px(440);
+  const int percent = pictures ? 42 : 31;
+  middle_->setStretch(0, percent);
+  middle_->setStretch(2, 100 - percent);
+  list_->setMaximumWidth(qMax(Px(140), qMin(Px(420), width() * percent / 100)));
+  if (pictures != std::exchange(picturesShown_, pictures)) emit PicturesShown(pictures);
+}
+
+// ---------------------------------------------------------------- order
+
+void VideosPanel::OpenSortMenu() {
+  auto* menu = new QMenu(sort_);
+  menu->setObjectName("VideoSortMenu");
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  for (int each = 0; each < kVideoSorts; ++each) {
+    const auto by = static_cast<VideoSort::By>(each);
+    const bool present = by == choices_.Sort().by;
+    const QString caption = Q(SortCaption(by)) + (present ? ", the other way round" : "");
+    menu->addAction(caption, this, [this, by] { Sort(by); });
+  }
+  menu->addSeparator();
+  QAction* goes = menu->addAction("Go to Analysis with what is sent");
+  goes->setCheckable(true);
+  goes->setChecked(choices_.GoesAlong());
+  connect(goes, &QAction::triggered, this, [this](bool along) { choices_.SetGoesAlong(along); });
+  menu->popup(sort_->mapToGlobal(QPoint(0, sort_->height())));
+}
+
+/// What it is sorted by already turns round.
+void VideosPanel::Sort(VideoSort::By by) {
+  const VideoSort before = choices_.Sort();
+  choices_.SetSort({by, by == before.by && !before.turned});
+  sort_->setText(Q(SortCaption(by)));
+  emit SortChanged();
 }
 
 }  // namespace kinalyx

@@ -16,6 +16,7 @@ QString Plain(char32_t letter) {
     case U'ø': return "o";
     case U'ħ': return "h";
     case U'ı': return "i";
+    case U'ß': return "ss";
     case U'æ': return "ae";
     case U'œ': return "oe";
     case U'þ': return "th";

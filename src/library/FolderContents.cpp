@@ -1,0 +1,80 @@
+#include "library/FolderContents.h"
+
+#include <fmt/format.h>
+
+#include <filesystem>
+#include <system_error>
+
+#include "library/LibraryTree.h"
+#include "library/VideoNames.h"
+#include "platform/files/Folders.h"
+
+namespace kinalyx {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::size_t kNamed = 3;
+constexpr int kMostFiles = 100000;
+
+void Count(FolderContents& contents, const std::string& name) {
+  ++contents.files;
+  const std::string above = FolderOf(name);
+  const bool here = above == ".";
+  const bool lesson = SameName(above, "lessons");
+  const std::string ending = VideoExtension(name);
+  if (here && IsVideoName(name)) ++contents.videos;
+  else if (lesson && IsVideoName(name)) ++contents.lessons;
+  else if (here && (SameName(name, "profile.prf") || SameName(name, "profile.txt"))) contents.profile = true;
+  else if (!SameName(ending, ".ved") || !(here || lesson)) {
+    ++contents.unlisted;
+    if (contents.unlistedNames.size() < kNamed) contents.unlistedNames.push_back(name);
+  }
+}
+
+std::string Counted(int count, const char* one, const char* several) {
+  return fmt::format("{} {}", count, count == 1 ? one : several);
+}
+
+}  // namespace
+
+FolderContents ContentsOf(const std::string& folder) {
+  FolderContents contents;
+  std::error_code failed;
+  for (auto entry = fs::recursive_directory_iterator(folder, fs::directory_options::skip_permission_denied, failed);
+       !failed && entry != fs::recursive_directory_iterator() && contents.files < kMostFiles; entry.increment(failed)) {
+    std::error_code unknown;
+    if (!entry->is_directory(unknown) || entry->is_symlink(unknown))
+      Count(contents, entry->path().lexically_relative(folder).string());
+  }
+  return contents;
+}
+
+std::string ContentsText(const FolderContents& contents) {
+  if (contents.files == 0) return "There are no files in the folder.";
+  std::vector<std::string> parts;
+  if (contents.videos > 0)
+    parts.push_back(Counted(contents.videos, "video", "videos") + " with all drawings and notes");
+  if (contents.lessons > 0) parts.push_back(Counted(contents.lessons, "lesson", "lessons"));
+  if (contents.profile) parts.emplace_back("the profile");
+  if (contents.unlisted > 0) {
+    std::string others = Counted(contents.unlisted, "file", "files") +
+                         " that the lists do not show: " + fmt::format("{}", fmt::join(contents.unlistedNames, ", "));
+    if (const int more = contents.unlisted - static_cast<int>(contents.unlistedNames.size()); more > 0)
+      others += fmt::format(" and {} more", more);
+    parts.push_back(others);
+  }
+  const bool one = contents.files == 1;
+  std::string text =
+      fmt::format("There {} {} in the folder", one ? "is" : "are", Counted(contents.files, "file", "files"));
+  if (!parts.empty()) text += fmt::format(": {}", fmt::join(parts, ", "));
+  return text + ".";
+}
+
+std::string TrashText(bool toTrash) {
+  return toTrash ? "It goes to the trash of the desktop, from where it can be taken back."
+                 : "This drive has no trash: what is deleted is gone.";
+}
+
+}  // namespace kinalyx
