@@ -27,6 +27,7 @@ namespace {
 class NoAnalysis final : public IAnalysisLink {
   bool IsOpenInAnalysis(const std::string&) const override { return false; }
   int SendToAnalysis(const std::string&, const std::function<void(const std::string&)>&) override { return 0; }
+  void GoToAnalysis() override {}
 };
 
 const Register kThemeSwitch({"theme_switch", {Target::Of::AtMost, 150, 60}, [] {

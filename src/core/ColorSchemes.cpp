@@ -11,7 +11,7 @@ constexpr ColorScheme kSchemes[] = {
     {"Green Tan", {16384, 13828095, 0, 11591390}},           {"Black Blue", {0, 15984088, 16777215, 15850180}},
     {"Silver Blue", {6955778, 15984088, 0, 15850180}},       {"Dark Brown", {2237013, 14480885, 16777215, 11788021}},
     {"Ruby Red", {2104651, 14480885, 16777215, 11788021}},   {"Outdoor Mode", {0, 14737632, 16777215, 16777215}},
-    {"Dark Room", {0x86776B, 0x2E2925, 0xFFFFFF, 0x221E1B}},
+    {"Dark Room", {0x78695C, 0x211D19, 0xFFFFFF, 0x1A1613}},
 };
 
 }  // namespace

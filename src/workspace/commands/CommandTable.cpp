@@ -57,9 +57,10 @@ constexpr ScreenButton kScreenButtons[] = {
 };
 
 /// What stands in the menus or under a key as well, and is wanted least often on the strip.
-constexpr std::string_view kSpareButtons[] = {"Closeallbtn", "Scn3",           "Scn5",           "Scn6",
-                                              "Scn7",        "RedoBtn",        "CmdAfunctions1", "smbar",
-                                              "ribShowGrid", "CmdAfunctions7", "CentreCircleBtn"};
+constexpr std::string_view kSpareButtons[] = {
+    "Closeallbtn",     "Scn3",           "Scn5",  "Scn6",        "Scn7",
+    "RedoBtn",         "CmdAfunctions1", "smbar", "ribShowGrid", "CmdAfunctions7",
+    "CentreCircleBtn", "Cadoffbutton"};
 
 struct KeyRow {
   const char* item;

@@ -33,8 +33,8 @@ int FailEachCall(bool replaces) {
 }
 
 TEST(FileStore, EachFailureLeavesTheOldFileOrTheNewOne) {
-  EXPECT_EQ(FailEachCall(true), 8) << "open, four writes, flush, close, rename";
-  EXPECT_EQ(FailEachCall(false), 9) << "a new name is flushed with its folder";
+  EXPECT_EQ(FailEachCall(true), 7) << "open, three writes, flush, close, rename";
+  EXPECT_EQ(FailEachCall(false), 8) << "a new name is flushed with its folder";
 }
 
 TEST(FileStore, ManyWritersAtOnceLeaveWholeFilesToEveryReader) {
