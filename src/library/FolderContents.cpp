@@ -68,7 +68,8 @@ std::string ContentsText(const FolderContents& contents) {
   const bool one = contents.files == 1;
   std::string text =
       fmt::format("There {} {} in the folder", one ? "is" : "are", Counted(contents.files, "file", "files"));
-  if (!parts.empty()) text += fmt::format(": {}", fmt::join(parts, ", "));
+  for (std::size_t part = 0; part < parts.size(); ++part)
+    text += (part == 0 ? ": " : part + 1 == parts.size() ? " and " : ", ") + parts[part];
   return text + ".";
 }
 

@@ -200,8 +200,8 @@ TEST_F(StudentOperations, WhatIsDeletedIsSaidBeforeAndGoesToTheTrash) {
   library.File("Ann/Joe Doe/contract.pdf");
   library.File("Ann/Joe Doe/plans/2026/week 1.avi");
   const std::string contents =
-      "There are 8 files in the folder: 2 videos with all drawings and notes, 1 lesson, the profile, 2 files that the "
-      "lists do not show: ";
+      "There are 8 files in the folder: 2 videos with all drawings and notes, 1 lesson, the profile and 2 files that "
+      "the lists do not show: ";
   std::string told = Ops().DeletionText(DL(), true);
   EXPECT_TRUE(told.starts_with(contents)) << told;
   EXPECT_NE(told.find("plans/2026/week 1.avi"), std::string::npos);

@@ -66,9 +66,8 @@ ProfilesPage::ProfilesPage(PlayerServices& services, IPrinter& printer, Settings
   lists_->VideoList()->setSelectionMode(QAbstractItemView::ExtendedSelection);
   lists_->VideoList()->LetDrag();
   profilePanel_ = new ProfilePanel(services.host, printer, settings);
-  search_ = new SearchBar(services.host, devices.send, settings.LibraryPath, fields, this);
-  rows->addWidget(search_);
   rows->addLayout(grid_, 1);
+  const DriveWatch::Send send = devices.send;
   editor_ = new ProfileEditor(settings, this);
   editor_->hide();
   grid_->addWidget(instructors_, 0, 0);
@@ -78,6 +77,9 @@ ProfilesPage::ProfilesPage(PlayerServices& services, IPrinter& printer, Settings
   devices_ = new DeviceBar(services.host, settings, std::move(devices), this);
   grid_->addWidget(devices_, 2, 0, 1, 3);
   grid_->addWidget(status_, 3, 0, 1, 3);
+  // The lists come before it for the Tab key, and have the keys first.
+  search_ = new SearchBar(services.host, send, settings.LibraryPath, fields, this);
+  rows->insertWidget(0, search_);
 
   commands_ = new LibraryCommands(services.host, settings, operations, browser_, choices_, *videos_, *this, this);
   PlaceButtons();

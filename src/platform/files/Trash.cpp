@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QStandardPaths>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -34,6 +35,9 @@ class FreedesktopTrash final : public ITrash {
     return ::access((dirExists(own) ? own : top).c_str(), W_OK) == 0;
   }
   bool Take(const std::string& path) override {
+    // Where the folder of the user's data is missing, Qt takes the present folder for the trash.
+    const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    if (!QDir::isAbsolutePath(data) || !QDir().mkpath(data)) return false;
     return QFile::moveToTrash(QString::fromUtf8(path.data(), static_cast<qsizetype>(path.size())));
   }
 };
