@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QPushButton>
 #include <QSlider>
 #include <QTimer>
@@ -92,6 +93,57 @@ TEST_F(EditFormsTest, HandlesLieOnTheSelectionAndFollowTheMouse) {
   Click("cmdEBBtn6");
   for (const char* name : {"picEditBar", "EditKnob1", "EditMarks"})
     EXPECT_FALSE(Find<QWidget>(name)->isVisible()) << name;
+}
+
+TEST_F(EditFormsTest, AClickTakesADrawingAndThePaletteIsForIt) {
+  EXPECT_FALSE(Enabled("ColorChoiceBtn6"));
+  ClickOn("MP1", {260, 220});
+  EXPECT_TRUE(Seen("TakenHalo"));
+  EXPECT_TRUE(OnForm(Find<QWidget>("TakenHalo")).contains(OnForm(Find<QWidget>("MP1")).topLeft() + QPoint(200, 220)));
+  Click("ColorChoiceBtn6");
+  Click("WidthChoiceBtn9");
+  EXPECT_EQ(Shapes().Shapes[0].Colour, kColorChoices[6]);
+  EXPECT_EQ(Shapes().Shapes[0].Width, 9);
+  EXPECT_TRUE(Find<QToolButton>("WidthChoiceBtn9")->isChecked());
+  DragOn(Find<QWidget>("MP1"), {0, -40}, {320, 220});
+  EXPECT_EQ(PointOf(0, 1), (POINTAPI{320, 180}));
+  Key(Qt::Key_Delete);
+  EXPECT_EQ(Shapes().NumShapes, 1);
+  EXPECT_FALSE(Seen("TakenHalo") || Enabled("ColorChoiceBtn6"));
+  ClickOn("MP1", {230, 300});
+  Key(Qt::Key_Escape);
+  EXPECT_FALSE(Seen("TakenHalo"));
+  EXPECT_TRUE(Stage().HasVideo(1)) << "Escape lets go before it closes the videos";
+
+  QTest::mouseClick(Find<QWidget>("MP1"), Qt::RightButton, {}, {230, 300});
+  QTest::qWait(0);
+  Find<QMenu>("ShapeMenu")->close();
+  Trigger("ShapeDuplicate");
+  EXPECT_EQ(Shapes().NumShapes, 2);
+}
+
+TEST_F(EditFormsTest, AToolStaysAfterADoubleClickAndLettersAreTypedOnThePicture) {
+  Click("CmdMakeShape3");
+  QTest::mouseDClick(Find<QWidget>("CmdMakeShape3"), Qt::LeftButton);
+  EndTurn();
+  for (const int y : {100, 140}) {
+    ClickOn("MP1", {100, y});
+    ClickOn("MP1", {180, y});
+  }
+  EXPECT_EQ(Shapes().NumShapes, 4);
+  EXPECT_TRUE(Find<QPushButton>("CmdMakeShape3")->isChecked());
+  Key(Qt::Key_Escape);
+
+  Find<QAction>("DrawText")->trigger();
+  ClickOn("MP1", {300, 120});
+  auto* box = Find<QLineEdit>("LetterBox");
+  ASSERT_TRUE(box->isVisible());
+  QTest::keyClicks(box, "Hip first");
+  QTest::keyClick(box, Qt::Key_Return);
+  EndTurn();
+  EXPECT_FALSE(box->isVisible());
+  ASSERT_EQ(Shapes().NumShapes, 5);
+  EXPECT_EQ(Shapes().Shapes[4].Text, "Hip first");
 }
 
 TEST_F(EditFormsTest, TheBarGoesWithItsWindow) {

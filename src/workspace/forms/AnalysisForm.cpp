@@ -64,9 +64,12 @@ AnalysisForm::AnalysisForm(IHost& host, IPrinter& printer, Settings& settings, P
   connect(menus_, &CommandMenus::Wanted, this, &AnalysisForm::Run);
   colors_ = new ColorRow(menus_);
   connect(colors_, &ColorRow::Chosen, this, [this](int index) { analysis_->ChooseColour(index); });
+  connect(colors_, &ColorRow::WidthChosen, this, [this](int pixels) { analysis_->ChooseWidth(pixels); });
   menus_->setCornerWidget(colors_, Qt::TopRightCorner);
   strip_ = new ToolStrip(analysis_->Commands().Commands(), this);
   connect(strip_, &ToolStrip::Wanted, this, &AnalysisForm::Run);
+  connect(strip_, &ToolStrip::WantedTwice, this,
+          [this](const std::string& command) { analysis_->Commands().RunTwice(command); });
 
   auto* rows = new QVBoxLayout(this);
   rows->setContentsMargins(0, 0, 0, 0);
@@ -125,6 +128,8 @@ void AnalysisForm::MakeStage() {
   connect(timer_, &FloatCard::CloseWanted, this, [this] { Run("TVT"); });
   calibration_ = new CalibrationPanel(analysis_->Ruler(), settings_, stage_);
   edits_->Build(analysis_->Edits(), analysis_->Stage(), stage_);
+  connect(edits_.get(), &EditForms::KeysFree, this, [this] { FocusKeyBox(); });
+  connect(edits_.get(), &EditForms::PointerChanged, this, &AnalysisForm::ShowPointer);
   connect(new FileDrop(stage_), &FileDrop::Dropped, this, &AnalysisForm::TakeDropped);
 }
 
@@ -158,7 +163,8 @@ void AnalysisForm::keyPressEvent(QKeyEvent* event) {
     if (code == kKeyEscape) FocusKeyBox();
     return;
   }
-  const bool nudges = analysis_->Edits().Editing() && event->modifiers() & Qt::ShiftModifier;
+  const bool nudges =
+      (analysis_->Edits().Editing() || analysis_->Edits().Taken()) && event->modifiers() & Qt::ShiftModifier;
   if (event->isAutoRepeat() && !RepeatsWhileHeld(*event) && !nudges) return;
   const bool combined =
       event->modifiers() & (Qt::ControlModifier | Qt::AltModifier) && code != kKeyCtrl && !IsLetterWithCtrl(*event);
@@ -399,17 +405,36 @@ void AnalysisForm::CommandsChanged() {
   menus_->Update();
   strip_->Update();
   const bool drawing = analysis_->Tools().Drawing();
-  colors_->SetLive(drawing);
+  const Shape* taken = analysis_->Tools().Hand().Taken();
+  colors_->SetLive(drawing || taken);
+  colors_->PressWidth(drawing ? analysis_->Tools().PenWidth()
+                      : taken ? taken->Width > 0 ? taken->Width : analysis_->Tools().UsualWidth()
+                              : 0);
+  if (!drawing) PressColour(taken);
   edits_->Update();
   const bool canReopen = analysis_->Videos().CanReopen();
   for (int slot = 1; slot <= kSlots; ++slot) {
-    Cell(slot).MP().setCursor(drawing ? Qt::CrossCursor : Qt::ArrowCursor);
+    const bool crossed = Cell(slot).MP().cursor().shape() == Qt::CrossCursor;
+    if (drawing != crossed) Cell(slot).MP().setCursor(drawing ? Qt::CrossCursor : Qt::ArrowCursor);
     Cell(slot).SetReopen(canReopen);
     Cell(slot).SetLocked(analysis_->Compare().Locks().IsLocked(slot));
   }
   compare_->SetDrawing(drawing);
   const int current = analysis_->Stage().CurrentWindow;
   playBar_->SetState(analysis_->Stage().HasVideo(current), analysis_->Compare().Locks().IsLocked(current));
+}
+
+/// The button of the colour that the drawing has which is taken.
+void AnalysisForm::PressColour(const Shape* taken) {
+  const auto found = taken ? std::ranges::find(kColorChoices, taken->Colour) : kColorChoices.end();
+  colors_->Press(found == kColorChoices.end() ? -1 : static_cast<int>(found - kColorChoices.begin()));
+}
+
+void AnalysisForm::ShowPointer(int slot, HandPointer pointer) {
+  const auto shape = pointer == HandPointer::Point   ? Qt::PointingHandCursor
+                     : pointer == HandPointer::Shape ? Qt::SizeAllCursor
+                                                     : Qt::ArrowCursor;
+  if (Cell(slot).MP().cursor().shape() != shape) Cell(slot).MP().setCursor(shape);
 }
 
 void AnalysisForm::FocusKeyBox() {

@@ -65,6 +65,8 @@ class AnalysisForm : public PageWidget, private IWorkspaceView, private IOpenVid
   void Run(const std::string& command);
   void TakeDropped(const std::vector<std::string>& paths, QPoint at);
   void PlaceCaption();
+  void PressColour(const Shape* taken);
+  void ShowPointer(int slot, HandPointer pointer);
   QRect Pixels(const TwipRect& place) const;
   bool Typing() const;
   VideoCell& Cell(int slot) { return *cells_[static_cast<std::size_t>(slot - 1)]; }

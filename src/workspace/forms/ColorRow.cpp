@@ -3,6 +3,7 @@
 #include <QBoxLayout>
 #include <QPainter>
 #include <QToolButton>
+#include <algorithm>
 
 #include "drawing/DrawingTools.h"
 #include "platform/widgets/Scale.h"
@@ -50,7 +51,40 @@ class ColorButton : public QToolButton {
   QColor colour_;
 };
 
+/// A line of its width; a ground round the one that is pressed.
+class LineButton : public QToolButton {
+ public:
+  LineButton(const LineWidth& width, QWidget* parent) : QToolButton(parent), pixels_(width.pixels) {
+    setObjectName(QString("WidthChoiceBtn%1").arg(width.pixels));
+    setAccessibleName(width.name);
+    FixSize(this, {22, 24});
+    setCheckable(true);
+    setFocusPolicy(Qt::NoFocus);
+    setCursor(Qt::PointingHandCursor);
+    setAttribute(Qt::WA_Hover);
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    const Theme theme = CurrentTheme();
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (isChecked() || (isEnabled() && underMouse())) {
+      painter.setPen(QPen(isChecked() ? theme.heading : theme.muted, 1.5));
+      painter.drawRoundedRect(QRectF(rect()).adjusted(1, 2, -1, -2), 5, 5);
+    }
+    painter.setPen(QPen(isEnabled() ? theme.text : Mix(theme.faint, theme.panel, 0.5), std::min(pixels_, 7) * 0.8,
+                        Qt::SolidLine, Qt::RoundCap));
+    painter.drawLine(QPointF(width() * 0.27, height() * 0.66), QPointF(width() * 0.73, height() * 0.34));
+  }
+
+ private:
+  int pixels_;
+};
+
 }  // namespace
+
+QString ColorRow::NameOf(int index) { return kNames[index]; }
 
 ColorRow::ColorRow(QWidget* parent) : QWidget(parent) {
   setObjectName("ColorRow");
@@ -63,7 +97,17 @@ ColorRow::ColorRow(QWidget* parent) : QWidget(parent) {
     row->addWidget(button);
     buttons_[static_cast<std::size_t>(i)] = button;
   }
+  row->addSpacing(4);
+  for (std::size_t i = 0; i < widths_.size(); ++i) {
+    widths_[i] = new LineButton(kLineWidths[i], this);
+    connect(widths_[i], &QToolButton::clicked, this, [this, i] { emit WidthChosen(kLineWidths[i].pixels); });
+    row->addWidget(widths_[i]);
+  }
   SetLive(false);
+}
+
+void ColorRow::PressWidth(int pixels) {
+  for (std::size_t i = 0; i < widths_.size(); ++i) widths_[i]->setChecked(kLineWidths[i].pixels == pixels);
 }
 
 void ColorRow::Press(int index) {
@@ -76,7 +120,11 @@ void ColorRow::SetLive(bool live) {
     QToolButton* button = buttons_[static_cast<std::size_t>(i)];
     button->setEnabled(live);
     button->setToolTip(live ? tr("Draw in this color: %1").arg(QString(kNames[i]).toLower())
-                            : tr("Take up a drawing tool to choose its color"));
+                            : tr("Take up a drawing tool, or click a drawing, to choose its color"));
+  }
+  for (std::size_t i = 0; i < widths_.size(); ++i) {
+    widths_[i]->setEnabled(live);
+    widths_[i]->setToolTip(tr("%1 lines").arg(QString(kLineWidths[i].name)));
   }
 }
 

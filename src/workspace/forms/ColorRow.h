@@ -2,12 +2,20 @@
 
 #include <QWidget>
 #include <array>
+#include <iterator>
 
 class QToolButton;
 
 namespace kinalyx {
 
-/// The twelve colour buttons `ColorChoiceBtn`, for the tool in hand.
+/// A width that a line can be given by a click.
+struct LineWidth {
+  int pixels;
+  const char* name;
+};
+inline constexpr LineWidth kLineWidths[] = {{3, "Thin"}, {5, "Medium"}, {9, "Thick"}};
+
+/// The twelve colour buttons `ColorChoiceBtn` and three widths, for the tool in hand or the drawing that is taken.
 class ColorRow : public QWidget {
   Q_OBJECT
 
@@ -16,14 +24,19 @@ class ColorRow : public QWidget {
 
   /// Presses one button, -1 none; tells nobody.
   void Press(int index);
-  /// The row works only while a tool is in hand.
+  /// Presses the button of a width in pixels; none when there is no such button.
+  void PressWidth(int pixels);
+  /// The row works only while there is something to be coloured.
   void SetLive(bool live);
+  static QString NameOf(int index);
 
  signals:
   void Chosen(int index);
+  void WidthChosen(int pixels);
 
  private:
   std::array<QToolButton*, 12> buttons_{};
+  std::array<QToolButton*, std::size(kLineWidths)> widths_{};
 };
 
 }  // namespace kinalyx

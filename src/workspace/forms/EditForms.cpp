@@ -2,16 +2,23 @@
 
 #include <QEvent>
 #include <QFileInfo>
+#include <QMenu>
+#include <QPainter>
+#include <QTimer>
 #include <QRect>
 #include <algorithm>
 
+#include "platform/widgets/Theme.h"
+#include "workspace/forms/ColorRow.h"
 #include "workspace/stage/PlayerPlace.h"
 #include "workspace/forms/CloneForm.h"
 #include "workspace/forms/EditKnobs.h"
 #include "workspace/forms/EditStrip.h"
 #include "workspace/forms/GridPanel.h"
+#include "workspace/forms/LetterBox.h"
 #include "workspace/forms/MacroForm.h"
 #include "workspace/forms/MacroNameForm.h"
+#include "workspace/forms/TakenHalo.h"
 
 namespace kinalyx {
 
@@ -21,6 +28,9 @@ void EditForms::Build(DrawingEdits& edits, Stage& theStage, QWidget* stage) {
   edits_ = &edits;
   theStage_ = &theStage;
   stage_ = stage;
+  halo_ = new TakenHalo(stage);
+  // Right over the pictures: whatever floats above them hides it too.
+  if (auto* bar = stage->findChild<QWidget*>("Playbar", Qt::FindDirectChildrenOnly)) halo_->stackUnder(bar);
   knobs_ = new EditKnobs(stage);
   strip_ = new EditStrip(stage);
   macros_ = new MacroForm(edits, stage);
@@ -29,11 +39,17 @@ void EditForms::Build(DrawingEdits& edits, Stage& theStage, QWidget* stage) {
   strip_->SetEdits(edits);
   connect(strip_, &EditStrip::TurnedTo, this,
           [this](QPoint mouse) { knobs_->ShowGuide(strip_->HandleCentre(kRotateHandle), mouse); });
+  letters_ = new LetterBox(stage);
+  connect(letters_, &LetterBox::Typed, this, [this](const QString& text) {
+    edits_->WriteText(asked_.window, asked_.at, text.toStdString(), asked_.anew);
+  });
+  connect(letters_, &LetterBox::Done, this, &EditForms::KeysFree);
   stage->installEventFilter(this);
 }
 
 void EditForms::Update() {
   edits_->ShowSelection();
+  edits_->ShowTaken();
   macros_->Update();
   grid_->Update();
 }
@@ -50,6 +66,70 @@ QRect EditForms::PictureRoom(int window) const {
   const Slot& at = theStage_->At(window);
   return {(at.cell.Left + at.panel.Left) / kTwipsPerPixel, (at.cell.Top + at.panel.Top) / kTwipsPerPixel,
           at.panel.Width / kTwipsPerPixel, at.panel.Height / kTwipsPerPixel};
+}
+
+QPointF EditForms::PictureCorner(int window) const {
+  const POINTAPI on = PlayerCornerOnStage(theStage_->At(window));
+  return QPointF(on.x, on.y) / stage_->devicePixelRatioF();
+}
+
+QPoint EditForms::OnStage(int window, POINTAPI at) const {
+  return (PictureCorner(window) + QPointF(at.x, at.y) / stage_->devicePixelRatioF()).toPoint();
+}
+
+// ---------------------------------------------------------------- what is taken
+
+void EditForms::ShowTaken(int window, const std::optional<TakenMarks>& marks) {
+  if (!marks || !theStage_->IsShown(window)) return halo_->hide();
+  halo_->ShowMarks(*marks, PictureRoom(window), PictureCorner(window));
+}
+
+void EditForms::AskText(int window, POINTAPI at, const std::string& text, bool anew) {
+  asked_ = {window, at, anew};
+  letters_->Ask(OnStage(window, at), PictureRoom(window), QString::fromStdString(text));
+}
+
+/// Opened from the event loop: the press that asked for it is over then.
+void EditForms::ShowShapeMenu(int window, POINTAPI at) {
+  QTimer::singleShot(0, this, [this, window, at] {
+    const Shape* taken = edits_->Hand().Taken();
+    if (!taken) return;
+    auto* menu = new QMenu(stage_);
+    menu->setObjectName("ShapeMenu");
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    const auto add = [&](const char* name, const QString& words, auto run) {
+      QAction* action = menu->addAction(words);
+      action->setObjectName(name);
+      connect(action, &QAction::triggered, this, run);
+      return action;
+    };
+    if (IsText(*taken)) add("ShapeText", tr("Change Text..."), [this] { edits_->EditText(); });
+    QMenu* colours = menu->addMenu(tr("Color"));
+    for (int i = 0; i < static_cast<int>(kColorChoices.size()); ++i) {
+      const Colour colour = kColorChoices[static_cast<std::size_t>(i)];
+      QPixmap dot(32, 32);
+      dot.fill(Qt::transparent);
+      QPainter painter(&dot);
+      painter.setRenderHint(QPainter::Antialiasing);
+      painter.setPen(QColor(0, 0, 0, 120));
+      painter.setBrush(ToQColor(colour));
+      painter.drawEllipse(QRectF(4, 4, 24, 24));
+      painter.end();
+      connect(colours->addAction(QIcon(dot), ColorRow::NameOf(i)), &QAction::triggered, this,
+              [this, colour] { edits_->Hand().SetColour(colour); });
+    }
+    QMenu* widths = menu->addMenu(tr("Width"));
+    for (const LineWidth& width : kLineWidths)
+      connect(widths->addAction(tr(width.name)), &QAction::triggered, this,
+              [this, pixels = width.pixels] { edits_->Hand().SetWidth(pixels); });
+    menu->addSeparator();
+    add("ShapeDuplicate", tr("Duplicate\tCtrl+D"), [this] { edits_->Hand().Duplicate(); });
+    add("ShapeToFront", tr("Bring to Front"), [this] { edits_->Hand().BringToFront(); });
+    add("ShapeBar", tr("Edit Bar: Size and Turn"), [this] { edits_->ToggleEditBar(); });
+    menu->addSeparator();
+    add("ShapeDelete", tr("Delete\tDel"), [this] { edits_->Hand().Remove(); });
+    menu->popup(stage_->mapToGlobal(OnStage(window, at)));
+  });
 }
 
 // ---------------------------------------------------------------- edit bar
@@ -93,8 +173,7 @@ void EditForms::ShowSelection(int window, const std::optional<SelectionMarks>& m
   strip_->PlaceOver(window, PictureRoom(window));
   if (!marks || !theStage_->IsShown(window)) return knobs_->HideAll();
   const qreal ratio = stage_->devicePixelRatioF();
-  const POINTAPI on = PlayerCornerOnStage(theStage_->At(window));
-  const QPointF corner = QPointF(on.x, on.y) / ratio;
+  const QPointF corner = PictureCorner(window);
   const auto onStage = [&](POINTAPI point) { return corner + QPointF(point.x, point.y) / ratio; };
   knobs_->ShowRound(QRectF(onStage(marks->corner), onStage(marks->opposite)), onStage(marks->pivot),
                     PictureRoom(window), corner);

@@ -33,6 +33,7 @@ ToolStrip::ToolStrip(const std::vector<Command>& commands, QWidget* parent) : QF
     button->setFocusPolicy(Qt::NoFocus);
     button->setCheckable(static_cast<bool>(command.checked));
     connect(button, &QPushButton::clicked, this, [this, name] { emit Wanted(name); });
+    if (command.twice) button->installEventFilter(this);
     tools_.push_back({&command, name, button});
   }
   std::ranges::stable_sort(tools_, {}, [](const Tool& tool) { return tool.command->group; });
@@ -119,6 +120,12 @@ void ToolStrip::Place(const Sizes& sizes) {
 void ToolStrip::changeEvent(QEvent* event) {
   QFrame::changeEvent(event);
   if (event->type() == QEvent::StyleChange && more_) Arrange();
+}
+
+bool ToolStrip::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::MouseButtonDblClick) return false;
+  emit WantedTwice(Std(watched->objectName()));
+  return true;  // or its release were a second click
 }
 
 void ToolStrip::ShowMore() {

@@ -26,10 +26,13 @@ class ToolStrip : public QFrame {
  signals:
   /// A command is wanted, by the name of its button.
   void Wanted(const std::string& command);
+  /// Its button was clicked twice; the first click has wanted it.
+  void WantedTwice(const std::string& command);
 
  protected:
   void resizeEvent(QResizeEvent*) override { Arrange(); }
   void changeEvent(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   /// How large the buttons are, and how far apart.
