@@ -15,7 +15,9 @@ constexpr double kDegrees = 180 / std::numbers::pi;
 constexpr double kMetresPerInch = 0.0254;
 constexpr double kBeside = 20;   // pixels from a line to the middle of its figures above it
 constexpr double kLetter = 9;    // and about so wide is each of them
-constexpr double kInAngle = 38;  // from a corner into the angle
+constexpr double kInAngle = 38;  // from a corner into the angle, at least
+constexpr double kHalfPlate = 28;  // and so far that the figures of a sharp one find room
+constexpr double kDeepest = 90;
 
 struct Way {
   double x = 0;
@@ -57,7 +59,8 @@ std::optional<ShapeLabel> AngleLabel(std::span<const POINTAPI> points) {
   const double opening = std::abs(std::atan2(a.x * b.y - a.y * b.x, a.x * b.x + a.y * b.y)) * kDegrees;
   Way middle{a.x / a.Length() + b.x / b.Length(), a.y / a.Length() + b.y / b.Length()};
   if (middle.Length() < 1e-6) middle = {-a.y, a.x};  // a straight angle opens to either side
-  const double far = kInAngle / middle.Length();
+  const double half = std::max(0.01, std::sin(opening / kDegrees / 2));
+  const double far = std::clamp(kHalfPlate / half, kInAngle, kDeepest) / middle.Length();
   return ShapeLabel{At(points[1].x + middle.x * far, points[1].y + middle.y * far), fmt::format("{:.1f}°", opening)};
 }
 

@@ -124,7 +124,7 @@ QFrame[look="panel"] { background: @field; border: 1px solid @line; border-radiu
 QFrame[look="panelHead"] { background: @panel; border: none; border-bottom: 1px solid @line;
   border-top-left-radius: 7px; border-top-right-radius: 7px; }
 QFrame[look="panelFoot"] { background: transparent; border: none; border-top: 1px solid @line; }
-QFrame[look="header"] { background: @accent; border: none; }
+QFrame[look="header"] { background: @headBar; border: none; }
 QFrame[look="rail"] { background: @panel; border: none; border-right: 1px solid @line; }
 QFrame[look="strip"] { background: @panel; border: none; border-bottom: 1px solid @line; }
 QFrame[look="status"] { background: @idle; border: none; border-radius: 6px; }
@@ -182,6 +182,7 @@ QHeaderView::section { background: @panel; color: @heading; font-weight: 600; bo
 QString StyleSheetOf(const Theme& t) {
   const std::pair<const char*, QColor> colours[] = {
       // Longer names first where one begins another.
+      {"@headBar", t.dark ? t.panel : t.accent},
       {"@accentTextSoft", Mix(t.accentText, t.accent, 0.15)},
       {"@accentText", t.accentText},
       {"@accentHover", t.accentHover},
