@@ -125,6 +125,9 @@ QFrame[look="panelHead"] { background: @panel; border: none; border-bottom: 1px 
   border-top-left-radius: 7px; border-top-right-radius: 7px; }
 QFrame[look="panelFoot"] { background: transparent; border: none; border-top: 1px solid @line; }
 QFrame[look="header"] { background: @headBar; border: none; }
+QFrame[look="header"] QPushButton { background: @headBar; border-color: @headBar; }
+QFrame[look="header"] QPushButton:hover { background: @accentHover; border-color: @accentHover; }
+QFrame[look="header"] QPushButton:pressed { background: @accentPressed; border-color: @accentPressed; }
 QFrame[look="rail"] { background: @panel; border: none; border-right: 1px solid @line; }
 QFrame[look="strip"] { background: @panel; border: none; border-bottom: 1px solid @line; }
 QFrame[look="status"] { background: @idle; border: none; border-radius: 6px; }
