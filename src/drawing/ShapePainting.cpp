@@ -20,7 +20,7 @@ constexpr int kPathStep = 20;
 constexpr double kPathTension = 0.2;
 constexpr int kFeather = 2;  // pixels of soft shadow round the rim
 constexpr int kFeatherOpacity = 70;
-constexpr int kGlass = 80;                     // opacity of a zone that is laid on as glass
+constexpr int kGlass = 105;                    // opacity of a zone that is laid on as glass
 constexpr int kGlassEdge = 2;                  // pixels
 constexpr double kStrokeStep = 4;              // pixels between the points of a stroke that runs smoothly
 constexpr Colour kHighlightEnds = 255;         // red
@@ -132,10 +132,11 @@ bool DrawClock(Canvas& hDC, const Shape& shape, std::span<const POINTAPI> points
   return drawn;
 }
 
-bool DrawArrow(Canvas& hDC, POINTAPI tail, POINTAPI tip, const ShapeLook& look) {
+/// `width` is that of the line itself: its rim goes round the same head.
+bool DrawArrow(Canvas& hDC, POINTAPI tail, POINTAPI tip, int width, const ShapeLook& look) {
   const Pen pen = hDC.CurrentPen();
   const auto head =
-      look.Soft ? ArrowHead(tail, tip, kSoftBarb + kSoftBarbGrowth * pen.width, kSoftSpread) : ArrowHead(tail, tip);
+      look.Soft ? ArrowHead(tail, tip, kSoftBarb + kSoftBarbGrowth * width, kSoftSpread) : ArrowHead(tail, tip);
   if (head.empty()) return true;
   const POINTAPI shaft[] = {head[0], tail};
   if (look.Soft) hDC.SetBrush(pen.colour);
@@ -267,7 +268,7 @@ bool DrawShape(const Shape& shape, Canvas& hDC, const ShapeLook& look) {
       case kParallelogram: return DrawParallelogram(hDC, points);
       case kZone: return DrawZone(hDC, points, look);
       case kClock: return DrawClock(hDC, shape, points, look);
-      case kArrow: return DrawArrow(hDC, points[0], points[1], look);
+      case kArrow: return DrawArrow(hDC, points[0], points[1], shape.Width > 0 ? shape.Width : look.CadWidth, look);
       default: return true;
     }
   };
