@@ -13,9 +13,9 @@ namespace {
 
 constexpr double kDegrees = 180 / std::numbers::pi;
 constexpr double kMetresPerInch = 0.0254;
-constexpr double kBeside = 20;   // pixels from a line to the middle of its figures above it
-constexpr double kLetter = 9;    // and about so wide is each of them
-constexpr double kInAngle = 38;  // from a corner into the angle, at least
+constexpr double kBeside = 20;     // pixels from a line to the middle of its figures above it
+constexpr double kLetter = 9;      // and about so wide is each of them
+constexpr double kInAngle = 38;    // from a corner into the angle, at least
 constexpr double kHalfPlate = 28;  // and so far that the figures of a sharp one find room
 constexpr double kDeepest = 90;
 

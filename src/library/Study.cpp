@@ -131,7 +131,9 @@ Shape ShapeOf(const Json& json) {
   return shape;
 }
 
-bool HasMore(const Shape& shape) { return !shape.Time.Always() || !shape.Text.empty() || shape.Width > 0 || !shape.Unknown.empty(); }
+bool HasMore(const Shape& shape) {
+  return !shape.Time.Always() || !shape.Text.empty() || shape.Width > 0 || !shape.Unknown.empty();
+}
 
 /// What a drawing of the sidecar is compared by.
 Shape Bare(const Shape& shape) {

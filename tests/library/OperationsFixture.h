@@ -35,8 +35,9 @@ class OperationsFixture : public testing::Test {
 
   LibraryOperations& Ops() {
     if (!operations) {
-      operations = std::make_unique<LibraryOperations>(library.host, library.settings, analysis,
-                                                       LibraryOperations::Environment{JobRunner::On::HostTimer, disk, trash});
+      operations =
+          std::make_unique<LibraryOperations>(library.host, library.settings, analysis,
+                                              LibraryOperations::Environment{JobRunner::On::HostTimer, disk, trash});
     }
     return *operations;
   }
