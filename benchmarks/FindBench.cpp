@@ -124,6 +124,7 @@ Figure Thumbnails() {
   NameList& list = *lists.VideoList();
   list.resize(240, 480);
   list.show();
+  QApplication::processEvents();  // what a window costs as it opens is not meant
   VideoRows rows(host, kSend, browser, list, GlanceStore(""));
   rows.SetPictures(true);
   browser.CapfolderSetup();
