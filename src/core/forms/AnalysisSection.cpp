@@ -158,11 +158,30 @@ void AnalysisSection::AddColours() {
 }
 
 void AnalysisSection::AddMeasuring() {
-  QVBoxLayout* rows = AddPanel(1, "Measured Speed");
+  QVBoxLayout* rows = AddPanel(1, "Measuring");
   rows->addWidget(MakeLabel({}, "Standard of the cameras", "caption"));
   standards_ = AddRadios(*rows, "SSOption2_", {"NTSC, 60 fields a second", "PAL, 50 fields a second"});
+  rows->addSpacing(6);
+  labels_ = new QCheckBox("Figures beside drawings");
+  labels_->setObjectName("ShapeLabelsCheck");
+  rows->addWidget(labels_);
+  ownRuler_ = new QCheckBox("Each video has a ruler of its own");
+  ownRuler_->setObjectName("RulerPerVideoCheck");
+  ownRuler_->setToolTip("Without it what was calibrated last measures every video");
+  rows->addWidget(ownRuler_);
+  rows->addSpacing(6);
+  rows->addWidget(MakeLabel({}, "Lines lean", "caption"));
+  angles_ = AddRadios(*rows, "AngleOpt", {"From the level", "From the upright"});
+  rows->addSpacing(6);
+  rows->addWidget(MakeLabel({}, "Speeds beside paths", "caption"));
+  speeds_ = AddRadios(*rows, "SpeedOpt",
+                      {"As the ruler has it", "Miles per hour", "Kilometers per hour", "Meters per second"});
   connect(standards_, &QButtonGroup::idClicked, this,
           [this](int standard) { StoreAndTell(settings_.NTSCorPAL, std::to_string(standard)); });
+  connect(labels_, &QCheckBox::toggled, this, [this](bool on) { StoreAndTell(settings_.ShapeLabels, on ? 1 : 0); });
+  connect(ownRuler_, &QCheckBox::toggled, this, [this](bool on) { StoreAndTell(settings_.RulerPerVideo, on ? 1 : 0); });
+  connect(angles_, &QButtonGroup::idClicked, this, [this](int from) { StoreAndTell(settings_.AngleFrom, from); });
+  connect(speeds_, &QButtonGroup::idClicked, this, [this](int unit) { StoreAndTell(settings_.SpeedUnit, unit); });
 }
 
 void AnalysisSection::SetupProgram() {
@@ -178,6 +197,10 @@ void AnalysisSection::SetupProgram() {
   choose(colouring_, settings_.RandomColor);
   choose(keys_, settings_.KeysAndTools == kEditorKeys ? kEditorKeys : kClassicKeys);
   choose(standards_, settings_.NTSCorPAL == "0" ? 0 : 1);  // what is not 0 measures as PAL
+  choose(angles_, settings_.AngleFrom);
+  choose(speeds_, settings_.SpeedUnit);
+  labels_->setChecked(settings_.ShapeLabels != 0);
+  ownRuler_->setChecked(settings_.RulerPerVideo != 0);
   slomo_->setValue(settings_.SlomoSpeed);
   strobe_->setValue(settings_.StrobeStep);
   grid_->setValue(settings_.GridSize);

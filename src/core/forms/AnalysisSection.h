@@ -43,11 +43,15 @@ class AnalysisSection : public SetupSection {
   QButtonGroup* colouring_ = nullptr;
   QButtonGroup* keys_ = nullptr;
   QButtonGroup* standards_ = nullptr;
+  QButtonGroup* angles_ = nullptr;
+  QButtonGroup* speeds_ = nullptr;
   QSlider* slomo_ = nullptr;
   QSlider* strobe_ = nullptr;
   QSlider* grid_ = nullptr;
   QCheckBox* outline_ = nullptr;
   QCheckBox* shortGame_ = nullptr;
+  QCheckBox* labels_ = nullptr;
+  QCheckBox* ownRuler_ = nullptr;
   std::map<int, ColourButton*> colours_;
 };
 

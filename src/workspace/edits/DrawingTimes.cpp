@@ -5,10 +5,11 @@
 
 namespace kinalyx {
 
-/// The selected drawing, else the last.
+/// The drawing that is taken or selected, else the last.
 const Shape* DrawingTimes::Chosen() const {
   ShapeList& list = tools_.List(stage_.CurrentWindow);
-  const Shape* shape = SelectedShape(list);
+  const Shape* shape = tools_.Hand().Window() == stage_.CurrentWindow ? tools_.Hand().Taken() : nullptr;
+  if (!shape) shape = SelectedShape(list);
   if (!shape) shape = LastShape(list);
   return shape && shape->Locked && !shape->Measuring ? shape : nullptr;
 }

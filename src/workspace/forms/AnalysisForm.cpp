@@ -127,7 +127,7 @@ void AnalysisForm::MakeStage() {
   timer_ = new VideoTimerForm(analysis_->Timer(), stage_);
   connect(timer_, &FloatCard::CloseWanted, this, [this] { Run("TVT"); });
   calibration_ = new CalibrationPanel(analysis_->Ruler(), settings_, stage_);
-  edits_->Build(analysis_->Edits(), analysis_->Stage(), stage_);
+  edits_->Build(analysis_->Edits(), analysis_->Times(), analysis_->Stage(), stage_);
   connect(edits_.get(), &EditForms::KeysFree, this, [this] { FocusKeyBox(); });
   connect(edits_.get(), &EditForms::PointerChanged, this, &AnalysisForm::ShowPointer);
   connect(new FileDrop(stage_), &FileDrop::Dropped, this, &AnalysisForm::TakeDropped);

@@ -24,8 +24,9 @@ namespace kinalyx {
 
 EditForms::~EditForms() = default;
 
-void EditForms::Build(DrawingEdits& edits, Stage& theStage, QWidget* stage) {
+void EditForms::Build(DrawingEdits& edits, DrawingTimes& times, Stage& theStage, QWidget* stage) {
   edits_ = &edits;
+  times_ = &times;
   theStage_ = &theStage;
   stage_ = stage;
   halo_ = new TakenHalo(stage);
@@ -122,6 +123,18 @@ void EditForms::ShowShapeMenu(int window, POINTAPI at) {
     for (const LineWidth& width : kLineWidths)
       connect(widths->addAction(tr(width.name)), &QAction::triggered, this,
               [this, pixels = width.pixels] { edits_->Hand().SetWidth(pixels); });
+    QMenu* times = menu->addMenu(tr("Seen When"));
+    const ShapeTime& time = taken->Time;
+    const auto addTime = [&](const QString& words, bool now, void (DrawingTimes::*show)()) {
+      QAction* action = times->addAction(words);
+      action->setCheckable(true);
+      action->setChecked(now);
+      connect(action, &QAction::triggered, this, [this, show] { (times_->*show)(); });
+    };
+    addTime(tr("On Whole Video"), time.Always(), &DrawingTimes::ShowAlways);
+    addTime(tr("On This Picture"), !time.Always() && time.First == time.Last, &DrawingTimes::ShowHere);
+    addTime(tr("From Here On"), false, &DrawingTimes::ShowFromHere);
+    addTime(tr("Until Here"), false, &DrawingTimes::ShowUntilHere);
     menu->addSeparator();
     add("ShapeDuplicate", tr("Duplicate\tCtrl+D"), [this] { edits_->Hand().Duplicate(); });
     add("ShapeToFront", tr("Bring to Front"), [this] { edits_->Hand().BringToFront(); });

@@ -3,6 +3,7 @@
 #include <QObject>
 
 #include "workspace/edits/DrawingEdits.h"
+#include "workspace/edits/DrawingTimes.h"
 
 class QRect;
 class QWidget;
@@ -26,7 +27,7 @@ class EditForms : public QObject, public IDrawingEditsView {
 
   /// Makes everything. The windows are children of the stage and go with it; nothing here may be called
   /// after the stage has gone.
-  void Build(DrawingEdits& edits, Stage& theStage, QWidget* stage);
+  void Build(DrawingEdits& edits, DrawingTimes& times, Stage& theStage, QWidget* stage);
   /// Commands or their state have changed: selection, macros and grid are shown anew.
   void Update();
 
@@ -66,6 +67,7 @@ class EditForms : public QObject, public IDrawingEditsView {
   std::optional<int> AskCloneTarget(int source, const std::vector<int>& targets) override;
 
   DrawingEdits* edits_ = nullptr;
+  DrawingTimes* times_ = nullptr;
   Stage* theStage_ = nullptr;
   QWidget* stage_ = nullptr;
   EditStrip* strip_ = nullptr;
