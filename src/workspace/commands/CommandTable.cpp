@@ -60,7 +60,7 @@ constexpr ScreenButton kScreenButtons[] = {
 constexpr std::string_view kSpareButtons[] = {
     "Closeallbtn",     "Scn3",           "Scn5",  "Scn6",        "Scn7",
     "RedoBtn",         "CmdAfunctions1", "smbar", "ribShowGrid", "CmdAfunctions7",
-    "CentreCircleBtn", "Cadoffbutton"};
+    "CentreCircleBtn", "DDSLBtn"};
 
 struct KeyRow {
   const char* item;
