@@ -284,8 +284,10 @@ bool PaintShape(const Shape& shape, Colour colour, Canvas& hDC, const ShapeLook&
   if (look.CadOutline && shape.Kind != kZone) {
     ShapeLook rim = look;
     rim.PathHighlight = false;
-    hDC.SetPen({0, black + kFeather, pen.style, kFeatherOpacity});
-    drawn = DrawShape(shape, hDC, rim);
+    if (look.Soft) {
+      hDC.SetPen({0, black + kFeather, pen.style, kFeatherOpacity});
+      drawn = DrawShape(shape, hDC, rim);
+    }
     hDC.SetPen({0, black, pen.style});
     drawn = DrawShape(shape, hDC, rim) && drawn;
   }
