@@ -63,6 +63,7 @@ struct VideoFile::Engine {
   FrameAtHand At(int picture, bool exact) const { return {rows, index.FrameOfPicture(picture), exact}; }
   FrameAtHand PictureNow(int picture, int bitCount);
   FrameAtHand NearestNow(int picture, int bitCount);
+  FrameHandle GlimpseOf(int& picture);
 
   VideoInfo info;
   FrameTimes times;
@@ -77,6 +78,7 @@ struct VideoFile::Engine {
 
   std::vector<std::uint8_t> wholeBits;  ///< of the rows handed out last, or
   std::vector<std::uint8_t> smallBits;
+  std::vector<std::uint8_t> glimpseBits;
   FrameRows rows;
   int rowsPicture = -1;
   bool rowsExact = false;
@@ -213,6 +215,37 @@ FrameAtHand VideoFile::Engine::NearestNow(int picture, int bitCount) {
   if (away(standIn) < away(decoded) && StandInOf(standIn, bitCount)) return At(standIn, false);
   if (decoded < 0 || !RowsOf(decoded, pictures.PictureNow(decoded), bitCount, false)) return {};
   return At(decoded, false);
+}
+
+/// The frame of the picture that is nearest, whose number is then in `picture`.
+FrameHandle VideoFile::Engine::GlimpseOf(int& picture) {
+  if (FrameHandle frame = pictures.PictureNow(picture)) return frame;
+  if (!pass) return pictures.Picture(picture);
+  const auto away = [&](int other) { return other < 0 ? INT_MAX : std::abs(other - picture); };
+  const int standIn = pass->Nearest(picture);
+  const int decoded = pictures.Nearest(picture);
+  if (standIn >= 0 && away(standIn) <= away(decoded)) {
+    const StandInShelf::Bytes packed = pass->Get(standIn);
+    if (FrameHandle frame = packed ? unpacker.Unpack(*packed) : nullptr) {
+      picture = standIn;
+      return frame;
+    }
+  }
+  picture = decoded;
+  return decoded < 0 ? nullptr : pictures.PictureNow(decoded);
+}
+
+FrameAtHand VideoFile::Glimpse(int n) {
+  Engine& engine = *engine_;
+  if (!engine.Takes(n, 32)) return {};
+  const int wanted = engine.index.PictureOfFrame(n);
+  int picture = wanted;
+  const FrameHandle frame = engine.GlimpseOf(picture);
+  if (!frame) return {};
+  FrameAtHand found;
+  found.rows = engine.converter.Convert(*frame, 32, engine.glimpseBits);
+  found.frame = picture == wanted ? n : engine.index.FrameOfPicture(picture);
+  return found;
 }
 
 void VideoFile::OnBetterPicture(std::function<void()> news) { engine_->news.Set(std::move(news)); }

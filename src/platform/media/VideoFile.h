@@ -61,6 +61,10 @@ class VideoFile {
   /// the size of the window or the nearest other one. The exact picture is then on its way until another frame
   /// is asked for, and the news tell when there is something better. Same arguments and view as Frame.
   FrameAtHand FrameNow(int n, int bitCount);
+  /// A picture for a glance at frame n, which moves nothing and orders nothing: the nearest of those that have been
+  /// decoded, and of the stand-ins, with 32 bits. Where every picture comes fast it is the frame itself. The view is
+  /// good until the next glimpse; those of the other operations stay good.
+  FrameAtHand Glimpse(int n);
   /// `news` is called, from a thread of this file, whenever a better picture than the last one that FrameNow
   /// gave has come: ask again. It must not call this file and must not block; null for none. After the return
   /// the old one is not called any more.
