@@ -28,40 +28,53 @@ class AVIControl::Run final : public IPlayRun {
  public:
   explicit Run(AVIControl& control) : control_(control) {}
 
-  void Begin(int start) {
+  void Begin(int start, bool back) {
     const std::int64_t now = control_.services_.host.timeGetTime();
-    clock_.Start(now, control_.BeatOf(start), control_.FrameTimeMs_ / control_.properties_.Speed * 100.0);
+    back_ = back;
+    // Going back, the clock counts how far below the end of the first picture the play has come.
+    top_ = control_.BeatOf(start + 1);
+    clock_.Start(now, back ? 0 : control_.BeatOf(start), control_.FrameTimeMs_ / control_.properties_.Speed * 100.0);
     control_.services_.scheduler.Add(*this, DueAfter(start));
     Show(start);
   }
 
   std::int64_t Tick(std::int64_t now) override {
     if (wrap_) {
-      clock_.Wrap(now, control_.BeatOf(control_.PlayEnd_ + 1));
-      Show(0);
-    } else if (const int due = control_.PositionAtBeat(clock_.BeatAt(now)); due > counter_) {
+      const int first = control_.PlayRange().first;
+      clock_.Wrap(now, control_.BeatOf(control_.PlayEnd_ + 1), control_.BeatOf(first));
+      Show(first);
+    } else if (const int due = DueAt(now); back_ ? due < counter_ : due > counter_) {
       Show(due);
     }
     return DueAfter(counter_);
   }
 
  private:
-  std::int64_t DueAfter(int position) const { return clock_.Due(control_.BeatOf(position + 1)); }
+  int DueAt(std::int64_t now) const {
+    const double beat = clock_.BeatAt(now);
+    return control_.PositionAtBeat(back_ ? std::max(0.0, top_ - beat) : beat);
+  }
+  std::int64_t DueAfter(int position) const {
+    return clock_.Due(back_ ? top_ - control_.BeatOf(position) : control_.BeatOf(position + 1));
+  }
 
   /// Draws a position; at or behind the end draws the end, which ends the play or, with a repeat, begins it
   /// anew one interval later, so that the last picture is seen as long as any other.
   void Show(int position) {
-    const bool atEnd = position >= control_.PlayEnd_;
-    counter_ = std::min(position, control_.PlayEnd_);
+    const int end = back_ ? control_.PlayRange().first : control_.PlayEnd_;
+    const bool atEnd = back_ ? position <= end : position >= end;
+    counter_ = atEnd ? end : position;
     control_.SetPosition(counter_);
     control_.RenderCurrent();
-    wrap_ = atEnd && control_.properties_.Repeat;
+    wrap_ = atEnd && !back_ && control_.properties_.Repeat;
     if (atEnd && !wrap_) control_.FinishPlay();
   }
 
   AVIControl& control_;
   PlayClock clock_;
+  double top_ = 0;
   int counter_ = 0;
+  bool back_ = false;
   bool wrap_ = false;
 };
 
@@ -124,6 +137,7 @@ void AVIControl::Unload() {
 void AVIControl::CloseStream() {
   better_.Stop();
   VideoStream_.reset();
+  range_.reset();
   FrameBuffer_ = {};
   softened_ = false;
   surface_.DropKept();
@@ -289,6 +303,7 @@ int AVIControl::PositionAtBeat(double beat) const {
 int AVIControl::PositionCount() const { return properties_.SplitFields ? 2 * FrameCount() : FrameCount(); }
 
 void AVIControl::setSplitFields(bool on) {
+  if (on != properties_.SplitFields) range_.reset();
   properties_.SplitFields = on;
   MeasureTime();
 }
@@ -360,6 +375,20 @@ bool AVIControl::ComposeWhole() {
   return found.exact;
 }
 
+int AVIControl::Glimpse(int position, int width, Surface& target) {
+  if (!VideoStream_ || width <= 0) return -1;
+  const int each = properties_.SplitFields ? 2 : 1;
+  const FrameAtHand found = VideoStream_->Glimpse(position / each);
+  const FrameRows& rows = found.rows;
+  if (!rows) return -1;
+  const int height =
+      std::max(1, static_cast<int>(std::lround(static_cast<double>(width) * VideoHeight() / VideoWidth())));
+  if (target.Width() != width || target.Height() != height) target = Surface(width, height);
+  StretchRows({rows.bits, rows.width, rows.height, rows.rowBytes, rows.bitCount, true}, target, services_.scratch);
+  if (Surface scratch; properties_.FlipHorizontal) MirrorHorizontal(target, scratch);
+  return found.frame * each;
+}
+
 void AVIControl::PresentFrame() {
   if (sink_) sink_->PreDrawFrame(surface_.hDC(), properties_.ID);
   if (view_) view_->Present(surface_.Picture());
@@ -381,7 +410,22 @@ void AVIControl::Play(int Start, int End) {
   }
   IsPlaying_ = true;
   // The raw frame doubles as the play's first position, also where no start was given.
-  run_->Begin(CurrentRawFrame_);
+  run_->Begin(CurrentRawFrame_, false);
+}
+
+void AVIControl::PlayBack() {
+  if (filename_.empty() || !VideoStream_) return;
+  if (IsPlaying_) return StopPlay();
+  const PlayerNews::Hold hold(News());
+  StopStrobe();
+  playEndArgument_.reset();
+  IsPlaying_ = playsBack_ = true;
+  run_->Begin(GetPosition(), true);
+}
+
+AVIControl::Range AVIControl::PlayRange() const {
+  const Range whole{0, std::max(0, PositionCount() - 1)};
+  return range_ && range_->first >= 0 && range_->first < range_->last && range_->last <= whole.last ? *range_ : whole;
 }
 
 void AVIControl::LoopPlay() {
@@ -399,6 +443,7 @@ void AVIControl::StopPlay() {
 void AVIControl::FinishPlay() {
   services_.scheduler.Remove(*run_);
   IsPlaying_ = false;
+  playsBack_ = false;
   properties_.Repeat = false;
   // A play without arguments takes up this end; with fields it has always been stored as a frame.
   if (playEndArgument_) PlayEnd_ = properties_.SplitFields ? *playEndArgument_ / 2 : *playEndArgument_;
@@ -413,10 +458,14 @@ bool AVIControl::setSpeed(int percent) {
   }
   const PlayerNews::Hold hold(News());
   const bool repeat = properties_.Repeat;
+  const bool back = playsBack_;
   FinishPlay();
   properties_.Speed = percent;
   properties_.Repeat = repeat;
-  Play(GetPosition(), PositionCount() - 1);
+  // Behind the range it goes on to the end of the video.
+  const int last = PlayRange().last;
+  if (back) PlayBack();
+  else Play(GetPosition(), GetPosition() < last ? last : PositionCount() - 1);
   return true;
 }
 

@@ -49,9 +49,23 @@ class AVIControl {
   /// tells its end, when IsPlaying is false and Repeat with it.
   void Play(int Start = -1, int End = -1);
   void LoopPlay();
+  /// Plays backward from the present position to the first one, or that of the range. While playing it is a pause.
+  void PlayBack();
+  bool PlaysBack() const { return IsPlaying_ && playsBack_; }
   /// Ends a running play on the position that is shown, and the repeat with it.
   void StopPlay();
   void DrawFrame(int Position);
+  /// The positions between which a play runs that was asked for no others, and to whose first one a repeat returns.
+  struct Range {
+    int first = 0;
+    int last = 0;
+
+    friend bool operator==(const Range&, const Range&) = default;
+  };
+  /// The whole video, unless the user wants a part of it.
+  Range PlayRange() const;
+  /// Keeps a part of the open video; nothing, or what is no part of it, for the whole.
+  void setPlayRange(const std::optional<Range>& range) { range_ = range; }
   /// Composes the current frame again, and so all that is drawn over it.
   void Refresh();
   /// A picture that takes long to decode is shown by a stand-in at once, smaller or that of a frame nearby, and
@@ -73,6 +87,11 @@ class AVIControl {
   double BeatOf(int position) const;
   /// The position that is shown at a beat; at most one past the last.
   int PositionAtBeat(double beat) const;
+
+  /// A small picture of a position for a glance, which changes nothing that is shown: the nearest that is at hand, in
+  /// the video's proportions and mirrored as the control is, `width` pixels wide. Gives the position whose picture it
+  /// is; -1 without one.
+  int Glimpse(int position, int width, Surface& target);
 
   // --- pictures made of fields
 
@@ -205,6 +224,8 @@ class AVIControl {
   int PlayEnd_ = 0;
   std::optional<int> playEndArgument_;
   bool IsPlaying_ = false;
+  bool playsBack_ = false;
+  std::optional<Range> range_;
   std::unique_ptr<Run> run_;
   std::unique_ptr<Strobe> strobe_;
 

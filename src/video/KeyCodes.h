@@ -7,6 +7,7 @@ enum KeyCode : int {
   kKeyTab = 9,
   kKeyCtrl = 17,
   kKeyEscape = 27,
+  kKeySpace = 32,
   kKeyPageUp = 33,
   kKeyPageDown = 34,
   kKeyEnd = 35,

@@ -19,14 +19,14 @@ class PlayClock {
     first_ = -interval_ * beat;
   }
 
-  /// Begins anew at beat 0, due when the round was over, which is at beat `end`, so that videos looped together
-  /// stay together; at `now` when that is a whole round ago.
-  void Wrap(std::int64_t now, double end) {
+  /// Begins anew at beat `begin`, due when the round was over, which is at beat `end`, so that videos looped
+  /// together stay together; at `now` when that is a whole round ago.
+  void Wrap(std::int64_t now, double end, double begin = 0) {
     const double over = first_ + interval_ * end;
-    if (static_cast<double>(now - origin_) - over >= interval_ * (end - 1)) return Start(now, 0, interval_);
+    if (static_cast<double>(now - origin_) - over >= interval_ * (end - begin - 1)) return Start(now, begin, interval_);
     const double whole = std::floor(over);
     origin_ += static_cast<std::int64_t>(whole);
-    first_ = over - whole;
+    first_ = over - whole - interval_ * begin;
   }
 
   /// The beat, and the part of one, that has been reached at `now`.

@@ -6,6 +6,8 @@
 
 namespace kinalyx {
 
+class ISoundOutput;
+
 /// What all players of the program share. Outlives them.
 struct PlayerServices {
   IHost& host;
@@ -15,6 +17,7 @@ struct PlayerServices {
   /// Where a picture is widened before it is scaled. One for all: they scale one after the other, and what is
   /// still in the processor's cache is written over fastest.
   ScaleScratch scratch{};
+  ISoundOutput* sound = nullptr;  ///< null: nothing is ever heard
 };
 
 }  // namespace kinalyx

@@ -127,6 +127,43 @@ TEST(Play, KeepsItsRateForAnHour) {
   EXPECT_EQ(player->Position(), 9);
 }
 
+TEST(Play, BackwardEveryPositionHasItsTimeToo) {
+  Film player;
+  player->DrawFrame(20);
+  player.sink.signalled.clear();
+  player->PlayBack();
+  EXPECT_TRUE(player->PlaysBack());
+  for (const auto& [milliseconds, shown] : {std::pair{39, 20}, {1, 19}, {10 * 40, 9}}) {
+    player.host.Advance(milliseconds);
+    EXPECT_EQ(player.Shown(), shown);
+  }
+  ASSERT_TRUE(player->setSpeed(50));
+  EXPECT_TRUE(player->PlaysBack()) << "another speed is no other way";
+  player.host.Advance(80 * 9 - 1);
+  EXPECT_EQ(player.Shown(), 1);
+  player.host.Advance(1);
+  EXPECT_EQ(player.Shown(), 0);
+  EXPECT_FALSE(player->IsPlaying() || player->PlaysBack());
+}
+
+TEST(Play, OfAPartRepeatsThePart) {
+  Film player;
+  player->setPlayRange(AVIControl::Range{5, 9});
+  player->setRepeat(true);
+  player->Play(7, 9);
+  player.sink.signalled.clear();
+  player.host.Advance(8 * 40);
+  EXPECT_EQ(player.sink.signalled, (vector<int>{8, 9, 5, 6, 7, 8, 9, 5}));
+  player->StopPlay();
+  player->PlayBack();
+  player.host.Advance(1000);
+  EXPECT_EQ(player->Position(), 5);
+  for (const AVIControl::Range& none : std::initializer_list<AVIControl::Range>{{9, 9}, {-1, 5}, {3, 25}}) {
+    player->setPlayRange(none);
+    EXPECT_EQ(player->PlayRange(), (AVIControl::Range{0, 24})) << "that is no part of the video";
+  }
+}
+
 TEST(Play, GoesOnToTheEndAtANewSpeed) {
   Film player;
   player->setRepeat(true);
