@@ -81,6 +81,9 @@ std::vector<Settings::Key> Settings::ConfigKeys() {
   for (std::size_t i = 0; i < NewColors.size(); ++i) add(fmt::format("NewColor{}", i), kColours[i], &NewColors[i]);
   add("StrobeStep", "1", &StrobeStep);
   add("OpenDlgChoice", "0", &OpenDlgChoice);
+  add("VideoFit", "1", &VideoFit);
+  add("SoundVolume", "80", &SoundVolume);
+  add("BarPictures", "1", &BarPictures);
   add("ShortGame", "0", &ShortGame);
   // What is 0 where the file of an older version has no such key, and works there as it did.
   add("ShapeLabels", "1", &ShapeLabels);

@@ -104,8 +104,11 @@ class Settings {
 
   // --- [Analysis]
   std::int16_t GridSize = 0;
-  std::int16_t SlomoSpeed = 0;  ///< percent, 1 to 100
-  std::int32_t CadWidth = 0;    ///< line width of drawings in pixels
+  std::int16_t SlomoSpeed = 0;   ///< percent, 1 to 100
+  std::int32_t VideoFit = 0;     ///< a video that is opened: 1 is shown whole, anything else fills its window's height
+  std::int32_t SoundVolume = 0;  ///< percent; 0 is silent
+  std::int32_t BarPictures = 0;  ///< 1: pictures of the video along its bar, where there is room
+  std::int32_t CadWidth = 0;     ///< line width of drawings in pixels
   bool CadOutline = false;
   std::int32_t RandomColor = 0;              ///< 0 single colours, 1 randomized
   std::array<std::int32_t, 13> NewColors{};  ///< keys NewColor0 to NewColor12: colour of each tool

@@ -65,13 +65,15 @@ TEST_F(SetupPageTest, FillingTheControlsWritesNothing) {
 
 TEST_F(SetupPageTest, EveryControlWritesItsKeyAtOnce) {
   QSignalSpy analysis(page.get(), &SetupPage::AnalysisChanged);
-  for (const char* button : {"ScreenOpt4", "ODSetupOpt1", "ShortGameCheck", "Check1_8", "CadOutlineCheck",
-                             "DCSetupOpt1", "SSOption2_1", "KeysOpt1"})
+  for (const char* button :
+       {"ScreenOpt4", "ODSetupOpt1", "ShortGameCheck", "FitOpt0", "BarPicturesCheck", "Check1_8", "CadOutlineCheck",
+        "DCSetupOpt1", "SSOption2_1", "KeysOpt1", "ShapeLabelsCheck", "RulerPerVideoCheck", "AngleOpt1", "SpeedOpt2"})
     Press(button);
   Find<QSlider>("Slomoscroll")->setValue(40);
+  Find<QSlider>("SoundVolumeScroll")->setValue(30);
   Find<QSlider>("GridSizeScroll")->setValue(12);
   Find<QSlider>("StrobeStepScroll")->setValue(4);
-  EXPECT_EQ(analysis.count(), 11);
+  EXPECT_EQ(analysis.count(), 18);
 
   QSignalSpy company(page.get(), &SetupPage::CompanyChanged);
   QSignalSpy menu(page.get(), &SetupPage::MenuChanged);
@@ -100,6 +102,9 @@ TEST_F(SetupPageTest, EveryControlWritesItsKeyAtOnce) {
                  {"Analysis", "GridSize", "12"},
                  {"Analysis", "SlomoSpeed", "40"},
                  {"Analysis", "StrobeStep", "4"},
+                 {"Analysis", "VideoFit", "0"},
+                 {"Analysis", "BarPictures", "0"},
+                 {"Analysis", "SoundVolume", "30"},
                  {"Analysis", "CadWidth", "8"},
                  {"Analysis", "CadOutline", "False"},
                  {"Analysis", "RandomColor", "1"},

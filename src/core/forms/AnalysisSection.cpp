@@ -54,6 +54,7 @@ constexpr int kWidestStrobe = 30;  // frames, where the list of the strobe's own
 AnalysisSection::AnalysisSection(Settings& settings, QWidget* parent)
     : SetupSection("AnalysisSection", settings, parent) {
   AddLayouts();
+  AddShowing();
   AddPlaying();
   AddDrawing();
   AddColours();
@@ -90,8 +91,21 @@ void AnalysisSection::AddLayouts() {
   connect(sides_, &QButtonGroup::idClicked, this, [this](int side) { StoreAndTell(settings_.OpenDlgChoice, side); });
 }
 
+void AnalysisSection::AddShowing() {
+  QVBoxLayout* rows = AddPanel(1, "Showing");
+  rows->addWidget(MakeLabel({}, "A video in its window", "caption"));
+  fits_ = AddRadios(*rows, "FitOpt", {"Fills the height of the window", "Is seen as a whole"});
+  rows->addSpacing(6);
+  barPictures_ = new QCheckBox("Pictures of the video over its bar, where there is room");
+  barPictures_->setObjectName("BarPicturesCheck");
+  rows->addWidget(barPictures_);
+  connect(fits_, &QButtonGroup::idClicked, this, [this](int fit) { StoreAndTell(settings_.VideoFit, fit); });
+  connect(barPictures_, &QCheckBox::toggled, this,
+          [this](bool on) { StoreAndTell(settings_.BarPictures, on ? 1 : 0); });
+}
+
 void AnalysisSection::AddPlaying() {
-  QVBoxLayout* rows = AddPanel(0, "Slow Motion, Strobe and Grid");
+  QVBoxLayout* rows = AddPanel(0, "Slow Motion, Sound, Strobe and Grid");
   const auto add = [&](const char* name, const char* caption, int least, int most, const char* unit, auto& setting) {
     using Number = std::remove_reference_t<decltype(setting)>;
     SettlingSlider* slider = AddSlider(*rows, name, caption, least, most, unit);
@@ -103,6 +117,7 @@ void AnalysisSection::AddPlaying() {
     return slider;
   };
   slomo_ = add("Slomoscroll", "Slow motion speed", 1, 100, " %", settings_.SlomoSpeed);
+  volume_ = add("SoundVolumeScroll", "Volume at full speed", 0, 100, " %", settings_.SoundVolume);
   strobe_ = add("StrobeStepScroll", "Frames from one layer of a strobe to the next", 1, kWidestStrobe, "",
                 settings_.StrobeStep);
   grid_ =
@@ -201,7 +216,10 @@ void AnalysisSection::SetupProgram() {
   choose(speeds_, settings_.SpeedUnit);
   labels_->setChecked(settings_.ShapeLabels != 0);
   ownRuler_->setChecked(settings_.RulerPerVideo != 0);
+  choose(fits_, settings_.VideoFit == 1 ? 1 : 0);
+  barPictures_->setChecked(settings_.BarPictures == 1);
   slomo_->setValue(settings_.SlomoSpeed);
+  volume_->setValue(settings_.SoundVolume);
   strobe_->setValue(settings_.StrobeStep);
   grid_->setValue(settings_.GridSize);
   outline_->setChecked(settings_.CadOutline);

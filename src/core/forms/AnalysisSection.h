@@ -26,6 +26,7 @@ class AnalysisSection : public SetupSection {
 
  private:
   void AddLayouts();
+  void AddShowing();
   void AddPlaying();
   void AddDrawing();
   void AddColours();
@@ -45,10 +46,13 @@ class AnalysisSection : public SetupSection {
   QButtonGroup* standards_ = nullptr;
   QButtonGroup* angles_ = nullptr;
   QButtonGroup* speeds_ = nullptr;
+  QButtonGroup* fits_ = nullptr;
   QSlider* slomo_ = nullptr;
+  QSlider* volume_ = nullptr;
   QSlider* strobe_ = nullptr;
   QSlider* grid_ = nullptr;
   QCheckBox* outline_ = nullptr;
+  QCheckBox* barPictures_ = nullptr;
   QCheckBox* shortGame_ = nullptr;
   QCheckBox* labels_ = nullptr;
   QCheckBox* ownRuler_ = nullptr;
