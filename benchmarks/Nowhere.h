@@ -10,6 +10,7 @@ struct Nowhere final : INavigation {
   void GoToMainMenu() override {}
   void ExitAnalysis() override {}
   void OfferReopen(const std::string&) override {}
+  void QuitProgram() override {}
 };
 
 }  // namespace kinalyx::bench

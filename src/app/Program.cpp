@@ -45,7 +45,7 @@ Program::Program(QApplication& application, Log& log)
       vocabulary_(settings_),
       fields_(JoinPath(settings_.DataPath, "fields.ini")),
       scheduler_(*host_),
-      players_{*host_, scheduler_},
+      players_{.host = *host_, .scheduler = scheduler_, .sound = &sound_},
       operations_(*host_, settings_, *this, {.trash = &DesktopTrash()}) {}
 
 Program::~Program() = default;
@@ -285,6 +285,13 @@ void Program::ExitAnalysis() {
 
 void Program::OfferReopen(const std::string& words) {
   if (main_ && !main_->Closed()) reopen_->Offer(Q(words));
+}
+
+void Program::QuitProgram() {
+  // The wish comes from a key of the page, which may go with the window.
+  host_->StartTimer(0, false, [this] {
+    if (main_) main_->close();
+  });
 }
 
 bool Program::IsOpenInAnalysis(const std::string& path) const {

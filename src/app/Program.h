@@ -14,6 +14,7 @@
 #include "library/LibraryOperations.h"
 #include "library/LibraryTree.h"
 #include "library/Profile.h"
+#include "platform/graph/SoundOutput.h"
 #include "platform/host/Host.h"
 #include "platform/print/Printer.h"
 #include "video/AVIControl.h"
@@ -88,6 +89,7 @@ class Program final : private ISettingsEvents,
   void GoToMainMenu() override;
   void ExitAnalysis() override;
   void OfferReopen(const std::string& words) override;
+  void QuitProgram() override;
 
   // --- IAnalysisLink: what the library may know of the section, which is made by the first video sent to it
   bool IsOpenInAnalysis(const std::string& path) const override;
@@ -104,6 +106,7 @@ class Program final : private ISettingsEvents,
   ProfileFields fields_;
   LastStudentInfo lastStudent_;
   PlayScheduler scheduler_;
+  SoundOutput sound_;
   PlayerServices players_;
   LibraryOperations operations_;
 

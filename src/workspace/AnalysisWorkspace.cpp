@@ -12,12 +12,14 @@
 namespace kinalyx {
 namespace {
 
+constexpr int kLeftButton = 1;
 constexpr int kMiddleButton = 4;
 
 }  // namespace
 
 AnalysisWorkspace::AnalysisWorkspace(IHost& host, Settings& settings, PlayScheduler& scheduler, IWorkspaceView& view,
-                                     IDrawingEditsView& editsView, ICompareView& compareView, INavigation& navigation)
+                                     IDrawingEditsView& editsView, ICompareView& compareView, INavigation& navigation,
+                                     ISoundOutput* sound)
     : host_(host),
       settings_(settings),
       view_(view),
@@ -28,14 +30,17 @@ AnalysisWorkspace::AnalysisWorkspace(IHost& host, Settings& settings, PlaySchedu
       videos_(host, stage_, keeping_, *this, JoinPath(settings.DataPath, "session.json")),
       compare_(host, settings, scheduler, stage_, compareView, *this),
       transport_(host, settings, stage_, keeping_, compare_.Locks(), view),
+      sound_(host, settings, stage_, compare_.Locks(), sound),
       edits_(host, settings, stage_, tools_, *this, editsView),
       times_(stage_, tools_, *this),
       timer_(stage_, transport_, view),
       notes_(stage_, keeping_, view),
       rateTest_(host, stage_),
       ruler_(host, settings, tools_, *this, stage_, keeping_, view),
-      menuBar_({stage_, videos_, transport_, tools_, edits_, times_, timer_, notes_, rateTest_, ruler_, compare_}, view,
-               navigation) {
+      menuBar_({stage_, keeping_, videos_, transport_, tools_, edits_, times_, timer_, notes_, rateTest_, ruler_,
+                compare_},
+               view, navigation) {
+  menuBar_.TakeKeys(settings_.KeysAndTools == kEditorKeys);
   menuBar_.SetProfilesTitle(Vocabulary(settings_).Profiles());
 }
 
@@ -71,6 +76,7 @@ void AnalysisWorkspace::StageChanged(unsigned changes) {
   if (changes & kLocksChanged) KeepLocks();
   compare_.StageChanged(changes);
   videos_.StageChanged();
+  sound_.Follow();
   view_.CommandsChanged();
 }
 
@@ -140,8 +146,10 @@ void AnalysisWorkspace::SettingsChanged() {
     stage_.MP(slot).setDrawWidth(settings_.CadWidth);
     stage_.MP(slot).Refresh();
   }
+  stage_.SettingsChanged();
+  menuBar_.TakeKeys(settings_.KeysAndTools == kEditorKeys);
   menuBar_.SetProfilesTitle(Vocabulary(settings_).Profiles());
-  stage_.News().Note(kCommandsChanged);
+  stage_.News().Note(kVideoChanged);
 }
 
 // ---------------------------------------------------------------- from the window
@@ -213,12 +221,14 @@ void AnalysisWorkspace::Signal(int, int ID) {
   if (ID == stage_.CurrentWindow) timer_.UpdateTimer();
   rateTest_.Signal(ID);
   compare_.Signal(ID);
+  sound_.Follow();
 }
 
 void AnalysisWorkspace::Notify(int, int ID) {
   transport_.Notify(ID);
   rateTest_.Notify(ID);
   compare_.Notify(ID);
+  sound_.Follow();
   stage_.News().Note(kCommandsChanged);
 }
 
@@ -227,7 +237,10 @@ void AnalysisWorkspace::StrobeEnded(int ID) { compare_.Strobe().StrobeEnded(ID);
 void AnalysisWorkspace::MouseDown(int Button, int Shift, float X, float Y, int ID) {
   if (Button == kMiddleButton) return compare_.Zoom().DragBegin(ID, X, Y);
   pressedAt_ = {static_cast<std::int32_t>(X), static_cast<std::int32_t>(Y)};
-  if (!tools_.MouseDown(Button, Shift, X, Y, ID)) Select(ID);
+  if (!tools_.MouseDown(Button, Shift, X, Y, ID)) {
+    Select(ID);
+    if (Button == kLeftButton && !edits_.Editing()) compare_.Zoom().HandDown(ID, X, Y);
+  }
   stage_.News().Note(kCommandsChanged);
   stage_.FocusKeyBox();
 }
@@ -239,6 +252,7 @@ void AnalysisWorkspace::MouseMove(int Button, int Shift, float X, float Y, int I
 
 void AnalysisWorkspace::MouseUp(int Button, int Shift, float X, float Y, int ID) {
   if (Button == kMiddleButton) return compare_.Zoom().DragEnd();
+  if (Button == kLeftButton && compare_.Zoom().HandUp()) return;
   if (tools_.MouseUp(Button, Shift, X, Y, ID)) stage_.News().Note(kCommandsChanged);
 }
 

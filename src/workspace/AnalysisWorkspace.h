@@ -14,6 +14,7 @@
 #include "workspace/edits/DrawingTimes.h"
 #include "workspace/keeping/Keeping.h"
 #include "workspace/stage/Stage.h"
+#include "workspace/transport/PlaySound.h"
 #include "workspace/videos/Videos.h"
 
 namespace kinalyx {
@@ -32,8 +33,10 @@ class AnalysisWorkspace final : public IFrameInterface,
                                 private ICompareEvents,
                                 private IDrawingWorkspace {
  public:
+  /// @param sound  where playing videos are heard; null: nowhere
   AnalysisWorkspace(IHost& host, Settings& settings, PlayScheduler& scheduler, IWorkspaceView& view,
-                    IDrawingEditsView& editsView, ICompareView& compareView, INavigation& navigation);
+                    IDrawingEditsView& editsView, ICompareView& compareView, INavigation& navigation,
+                    ISoundOutput* sound = nullptr);
   AnalysisWorkspace(const AnalysisWorkspace&) = delete;
   AnalysisWorkspace& operator=(const AnalysisWorkspace&) = delete;
 
@@ -57,6 +60,8 @@ class AnalysisWorkspace final : public IFrameInterface,
   VideoNotes& Notes() { return notes_; }
   RulerCalibration& Ruler() { return ruler_; }
   CompareModes& Compare() { return compare_; }
+
+  PlaySound& Sound() { return sound_; }
 
   /// Line width, outline, colours or the word for a student have been changed on another page.
   void SettingsChanged();
@@ -153,6 +158,7 @@ class AnalysisWorkspace final : public IFrameInterface,
   kinalyx::Videos videos_;
   CompareModes compare_;
   kinalyx::Transport transport_;
+  PlaySound sound_;
   DrawingEdits edits_;
   DrawingTimes times_;
   VideoTimer timer_;

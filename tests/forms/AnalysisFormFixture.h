@@ -97,6 +97,7 @@ struct AnalysisFormFixture : testing::Test, UsesApplication, FormDriver, INaviga
   void GoToMainMenu() override { went = "menu"; }
   void ExitAnalysis() override { went = "exit"; }
   void OfferReopen(const std::string&) override {}
+  void QuitProgram() override { went = "quit"; }
   static std::string NewFolder() {
     static int count = 0;
     const std::string path = TestPath("analysisform" + std::to_string(++count));

@@ -27,7 +27,7 @@ TEST_F(AnalysisFormTest, SendsOpensPlaysAndCloses) {
   Send("b.avi");
   EXPECT_TRUE(Seen("MP1") && Seen("MP2"));
   EXPECT_FALSE(Seen("BorderPanel3"));
-  EXPECT_EQ(Find<QWidget>("MP2")->height(), Find<QWidget>("VideoPanel2")->height());
+  EXPECT_EQ(Find<QWidget>("MP2")->width(), Find<QWidget>("VideoPanel2")->width()) << "seen as a whole";
   EXPECT_EQ(Stage().MP(2).ControlHeightPixels(), Find<QWidget>("MP2")->height());
 
   Click("CmdButton2");
@@ -248,6 +248,60 @@ TEST_F(AnalysisFormTest, ThePlayBarHasAllFiguresAndMarksAtEverySize) {
   }
   form->Section().Commands().Run("TMarkoff");
   EXPECT_FALSE(Seen("Mark0") || Seen("MarksBtn"));
+}
+
+TEST_F(AnalysisFormTest, EveryBarSeeksAtOnceAndShowsWhatIsUnderThePointer) {
+  Click("Scn2");
+  Send("a.avi");
+  Send("b.avi");
+  ASSERT_EQ(Stage().CurrentWindow, 2);
+  const auto position = [this](int slot) { return Stage().MP(slot).Position(); };
+  // The bar of the window that is not current.
+  auto* cell = Find<QWidget>("BorderPanel1");
+  auto* film = Find<QWidget>("FilmRow1");
+  const int y = film->geometry().bottom() + 15;
+  const auto at = [&](double part) { return QPoint(16 + qRound((cell->width() - 32) * part), y); };
+  QTest::mousePress(cell, Qt::LeftButton, {}, at(0.5));
+  EXPECT_NEAR(position(1), 15, 1);
+  QTest::mouseMove(cell, at(0.9));
+  EXPECT_NEAR(position(1), 26, 1);
+  EXPECT_EQ(Stage().CurrentWindow, 2) << "the line stays under the hand";
+  QTest::mouseRelease(cell, Qt::LeftButton, {}, at(0.9));
+  EndTurn();
+  EXPECT_EQ(Stage().CurrentWindow, 1);
+  EXPECT_EQ(position(2), 0);
+  // The pictures over it.
+  QTest::mouseClick(Find<QWidget>("FilmRow2"), Qt::LeftButton, {}, {film->width() / 2, 10});
+  EndTurn();
+  EXPECT_NEAR(position(2), 15, 1);
+  EXPECT_EQ(Stage().CurrentWindow, 2);
+  // A pointer that rests sees what is there, and moves nothing.
+  EXPECT_FALSE(Seen("SeekPreview"));
+  QTest::mouseMove(Find<QWidget>("PlayBarHScroll"), {40, 10});
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Seen("SeekPreview"); }));
+  EXPECT_NEAR(position(2), 15, 1);
+  QEvent leave(QEvent::Leave);
+  QCoreApplication::sendEvent(Find<QWidget>("PlayBarHScroll"), &leave);
+  EXPECT_FALSE(Seen("SeekPreview"));
+
+  Key(Qt::Key_Space);
+  EXPECT_TRUE(Stage().MP(2).IsPlaying() && !Stage().MP(1).IsPlaying());
+  Key(Qt::Key_Space, Qt::ShiftModifier);
+  Key(Qt::Key_Space, Qt::ShiftModifier);
+  EXPECT_TRUE(Stage().MP(2).IsPlaying() && Stage().MP(1).IsPlaying());
+}
+
+TEST_F(AnalysisFormTest, WhatIsNotSeenAsAWholeSaysSoAndComesBackByAClick) {
+  Click("Scn2");
+  Send("a.avi");
+  EXPECT_FALSE(Seen("ZoomFigure1"));
+  Key(Qt::Key_W);
+  ASSERT_TRUE(Seen("ZoomFigure1"));
+  EXPECT_GT(Find<QWidget>("MP1")->width(), Find<QWidget>("VideoPanel1")->width());
+  Click("ZoomFigure1");
+  EXPECT_LE(Find<QWidget>("MP1")->width(), Find<QWidget>("VideoPanel1")->width());
+  Key(Qt::Key_Plus);
+  EXPECT_EQ(Find<QToolButton>("ZoomFigure1")->text(), "110 %");
 }
 
 TEST_F(AnalysisFormTest, TheWheelMovesTheFilmByWholeNotches) {

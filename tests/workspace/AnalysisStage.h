@@ -27,11 +27,14 @@ class FakeWindow final : public IWorkspaceView {
   int height = 720;
   std::array<AVIControl*, kSlots + 1> players{};
   std::map<int, TwipRect> cells;  ///< shown ones
-  std::map<int, bool> borders;    ///< true: current
+  std::map<int, TwipRect> films;
+  std::map<int, bool> borders;  ///< true: current
   std::map<int, std::string> titles;
   std::map<int, std::string> lines;
+  std::map<int, std::string> zooms;
   TwipRect playBar;
-  int range = -1, value = -1;
+  int range = -1, value = -1, speed = 0;
+  std::pair<int, int> played;
   bool playing = false, slomo = false, loop = false;
   std::string line, counter, text, calibrationLength, reading, rate;
   bool negative = false, timer = false, calibration = false, lists = false;
@@ -47,6 +50,7 @@ class FakeWindow final : public IWorkspaceView {
   int MainPanelHeight() override { return height * kTwipsPerPixel; }
   void PlaceCell(int slot, const TwipRect& border, const TwipRect&) override { cells[slot] = border; }
   void HideCell(int slot) override { cells.erase(slot); }
+  void PlaceFilm(int slot, const TwipRect& place) override { films[slot] = place; }
   void PlacePlayer(int slot, const TwipRect& place, bool shown) override {
     if (shown)
       players[static_cast<std::size_t>(slot)]->Resize(place.Width / kTwipsPerPixel, place.Height / kTwipsPerPixel);
@@ -54,11 +58,14 @@ class FakeWindow final : public IWorkspaceView {
   void PaintBorder(int slot, bool current) override { borders[slot] = current; }
   void SetCellTitle(int slot, const std::string& title) override { titles[slot] = title; }
   void SetCellPosition(int slot, int, int, const std::string& words) override { lines[slot] = words; }
+  void SetZoomFigure(int slot, const std::string& figure) override { zooms[slot] = figure; }
   void PlacePlayBar(const TwipRect& place) override { playBar = place; }
   void SetScrollRange(int, int maximum) override { range = maximum; }
   void SetScrollValue(int position) override { value = position; }
+  void SetPlayRange(int first, int last) override { played = {first, last}; }
   void SetPlayPicture(bool on) override { playing = on; }
   void SetSlomoButton(bool down) override { slomo = down; }
+  void SetSpeed(int percent) override { speed = percent; }
   void SetLoopButton(bool down) override { loop = down; }
   void SetDisplayLine(const std::string& words, const std::string& number) override {
     line = words;
@@ -134,12 +141,15 @@ class AnalysisStage : private IFrameInterface, private INavigation {
  public:
   /// @param width, height  pixels of the stage
   /// @param compare  the windows of the comparing modes; without them the stage starts at once, and they only remember
+  /// @param sound  where playing videos are heard
   explicit AnalysisStage(const std::string& layout = "1", int width = 1280, int height = 720,
-                         ICompareView* compare = nullptr)
+                         ICompareView* compare = nullptr, ISoundOutput* sound = nullptr)
       : folder(NewFolder()),
         settings(host, folder + "/data", folder),
-        analysis(host, settings, scheduler, window, edits, compare ? *compare : compareView, *this) {
+        analysis(host, settings, scheduler, window, edits, compare ? *compare : compareView, *this, sound) {
     settings.LoadSettings();
+    // Places are counted in pictures that fill their cells.
+    settings.VideoFit = settings.BarPictures = 0;
     window.width = width;
     window.height = height;
     compareView.mixer = &analysis.Compare().Transparency();
@@ -250,7 +260,7 @@ class AnalysisStage : private IFrameInterface, private INavigation {
   FakeCompareView compareView;
   FakeEditWindows edits;
   std::vector<std::string> offers;  ///< to bring back what was closed
-  int libraryVisits = 0, menuVisits = 0, exits = 0;
+  int libraryVisits = 0, menuVisits = 0, exits = 0, quits = 0;
   AnalysisWorkspace analysis;
 
   std::function<void(int slot)> signalled;         ///< after the section itself was told
@@ -271,6 +281,7 @@ class AnalysisStage : private IFrameInterface, private INavigation {
   void GoToMainMenu() override { ++menuVisits; }
   void ExitAnalysis() override { ++exits; }
   void OfferReopen(const std::string& words) override { offers.push_back(words); }
+  void QuitProgram() override { ++quits; }
 
   static std::string NewFolder() {
     static int count = 0;

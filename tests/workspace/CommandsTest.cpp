@@ -71,6 +71,34 @@ TEST(CommandsTest, EveryKeyOfTheTableDoesItsWork) {
   EXPECT_FALSE(stage.Stage().HasVideo(1));
 }
 
+TEST(CommandsTest, TheKeysOfAnEditorTakeThePlaceOfThoseInTheirWay) {
+  OpenStage stage("2");
+  const auto caption = [&](const char* item) { return stage.Commands().Find(item)->caption; };
+  EXPECT_EQ(caption("vo") + stage.Commands().KeyOf("vloop"), "O - Open New VideoL");
+  stage.settings.KeysAndTools = kEditorKeys;
+  stage.analysis.SettingsChanged();
+  EXPECT_EQ(caption("vo") + stage.Commands().KeyOf("vloop"), "Ctrl+O - Open New VideoCtrl+L");
+  EXPECT_EQ(caption("VLib"), "Student Profiles - Ctrl+Home");
+  stage.Type('o');
+  stage.Key(kKeyHome);
+  EXPECT_EQ(stage.window.openPanels + stage.libraryVisits, 0);
+  stage.Key('O', kCtrl);
+  stage.Key(kKeyHome, kCtrl);
+  stage.Key('Q', kCtrl);
+  EXPECT_EQ((std::array{stage.window.openPanels, stage.libraryVisits, stage.quits}), (std::array{1, 1, 1}));
+  stage.Draw(kLine, {10, 20}, {50, 60});
+  EXPECT_FALSE(std::filesystem::exists(stage.sidecar));
+  stage.Key('S', kCtrl);
+  EXPECT_TRUE(std::filesystem::exists(stage.sidecar));
+  EXPECT_EQ(stage.window.text, "Saved");
+  stage.host.Advance(2000);
+  EXPECT_EQ(stage.window.text, "");
+  stage.Type('f');
+  EXPECT_TRUE(stage.MP(1).FlipHorizontal()) << "all others stay as they are";
+  stage.Key('W', kCtrl);
+  EXPECT_FALSE(stage.Stage().HasVideo(1));
+}
+
 TEST(CommandsTest, PanAndZoomKeysKeepTheirLimits) {
   OpenStage stage;
   const Slot& slot = stage.Stage().At(1);

@@ -32,6 +32,98 @@ TEST_F(TransportTest, TheLineShowsSecondsAndFrames) {
   EXPECT_EQ(transport.DisplayLine(1), ".15 seconds | 37/60 frames  ");
 }
 
+TEST_F(TransportTest, AllVideosMoveByTheirOwnCommandsOrByThoseOfOne) {
+  stage.Stage().SetScreen(4);
+  for (const int slot : {1, 2, 3, 4}) stage.Open(slot, MjpegVideo(30), slot);
+  const auto positions = [&] { return std::array{stage.At(1), stage.At(2), stage.At(3), stage.At(4)}; };
+  stage.Modes().Locks().DualLock(1);
+  stage.Run("ForwardAll");
+  EXPECT_EQ(positions(), (std::array{2, 3, 4, 5}));
+  stage.Key(kKeyLeft, kCtrl);
+  EXPECT_EQ(positions(), (std::array{1, 2, 3, 4}));
+  stage.Key(kKeySpace, kShift);
+  stage.host.Advance(100);
+  EXPECT_EQ(positions(), (std::array{4, 5, 6, 7})) << "locked or not, all play";
+  stage.Key(kKeySpace, kShift);
+  EXPECT_FALSE(transport.All().Playing());
+
+  // From now on the buttons of one are those of all.
+  stage.Stage().SelectWindow(3);
+  stage.Type('a');
+  stage.Type('r');
+  EXPECT_EQ(positions(), (std::array{0, 1, 0, 0}));
+  stage.Key(kKeySpace);
+  EXPECT_TRUE(stage.window.playing && transport.All().Playing());
+  transport.SetSpeed(50);
+  stage.host.Advance(200);
+  EXPECT_EQ(positions(), (std::array{3, 4, 3, 3}));
+  stage.Key(kKeySpace);
+  stage.Type('a');
+  transport.StepForward();
+  EXPECT_EQ(positions(), (std::array{3, 4, 4, 3}));
+  // Videos that are out of sight stay where they are.
+  stage.Stage().SetScreen(2);
+  stage.Run("RewindAll");
+  EXPECT_EQ(positions(), (std::array{0, 1, 4, 3}));
+}
+
+TEST_F(TransportTest, WithTheKeysOfAnEditorALockedPairIsDrivenAsOneVideo) {
+  for (const int slot : {1, 2}) stage.Open(slot, MjpegVideo(60), 10 * slot);
+  stage.Modes().Locks().DualLock(1);
+  stage.EndTurn();
+  stage.Key(kKeyRight);
+  EXPECT_EQ(stage.At(1), 10) << "the classic keys leave it alone";
+  stage.Key(kKeySpace);
+  EXPECT_TRUE(stage.Modes().Locks().PlayingTogether()) << "but Space plays it";
+  stage.Key(kKeySpace);
+
+  stage.settings.KeysAndTools = kEditorKeys;
+  stage.analysis.SettingsChanged();
+  for (const auto& [key, shift, first] : {std::tuple{kKeyRight, 0, 11},
+                                          {kKeyRight, kShift, 21},
+                                          {kKeyLeft, kShift, 11},
+                                          {kKeyLeft, 0, 10},
+                                          {kKeyEnd, 0, 48},
+                                          {kKeyHome, 0, 0}}) {
+    stage.Key(key, shift);
+    EXPECT_EQ(stage.At(1), first);
+    EXPECT_EQ(stage.At(2), first + 10);
+  }
+  stage.Type('l');
+  stage.host.Advance(10 * 1000 / 30 + 1);
+  EXPECT_EQ(stage.At(2), 20);
+  stage.Type('j');
+  stage.host.Advance(5 * 1000 / 30 + 1);
+  EXPECT_EQ(stage.At(1), 5);
+  stage.Type('j');
+  EXPECT_EQ(stage.window.speed, 150) << "once more is faster";
+  stage.Type('k');
+  EXPECT_FALSE(stage.Modes().Locks().PlayingTogether());
+  EXPECT_EQ(stage.At(2), stage.At(1) + 10);
+}
+
+TEST_F(TransportTest, APartOfTheVideoIsPlayedUntilItsEndsAreTakenOff) {
+  stage.Open(1, MjpegVideo(60));
+  const auto mark = [&](const char* item, int position) {
+    transport.Seek(position);
+    stage.Run(item);
+  };
+  mark("RangeStart", 20);
+  mark("RangeEnd", 24);
+  EXPECT_EQ(stage.window.played, (std::pair{20, 24}));
+  transport.ToggleLoop();
+  std::set<int> seen;
+  stage.signalled = [&](int) { seen.insert(stage.At(1)); };
+  stage.host.Advance(1000);
+  EXPECT_EQ(seen, (std::set{20, 21, 22, 23, 24}));
+  transport.ToggleLoop();
+  mark("RangeStart", 40);
+  EXPECT_EQ(stage.window.played, (std::pair{40, 59})) << "a beginning behind the end takes the end off";
+  mark("RangeStart", 40);
+  EXPECT_FALSE(transport.HasRange());
+  EXPECT_FALSE(stage.Run("RangeOff"));
+}
+
 TEST_F(TransportTest, FieldsCountTwice) {
   stage.Open(1, stage.Video("dv.avi", DvVideo(20)));
   ASSERT_TRUE(stage.MP(1).SplitFields()) << "camera material opens with its fields apart";

@@ -74,5 +74,59 @@ TEST_F(ZoomPanTest, TheMiddleButtonTakesThePictureAlong) {
   EXPECT_EQ(stage_.Stage().CurrentWindow, 1);
 }
 
+TEST_F(ZoomPanTest, APictureFitsOrFillsAndSaysWhatIsNotSeen) {
+  // Two windows side by side are higher than wide.
+  const Slot& slot = stage_.Stage().At(1);
+  EXPECT_TRUE(ReachesOver(slot));
+  EXPECT_EQ(stage_.window.zooms[1], "Sides cut off");
+  stage_.Type('w');
+  EXPECT_TRUE(slot.Fits && !ReachesOver(slot));
+  EXPECT_NEAR(PlayerPlace(slot).Width, slot.panel.Width, kTwipsPerPixel);
+  EXPECT_EQ(stage_.window.zooms[1], "");
+  EXPECT_FALSE(stage_.Stage().At(2).Fits);
+  stage_.Type('+');
+  EXPECT_EQ(stage_.window.zooms[1], "110 %");
+  stage_.Type('w');
+  EXPECT_EQ(slot.VideoZoom, 1);
+
+  // The setting is for those to come, and for all when it changes.
+  stage_.settings.VideoFit = 1;
+  stage_.analysis.SettingsChanged();
+  EXPECT_TRUE(slot.Fits && stage_.Stage().At(2).Fits);
+  ASSERT_TRUE(stage_.Reopen(2));
+  EXPECT_TRUE(stage_.Stage().At(2).Fits);
+}
+
+TEST_F(ZoomPanTest, TheFreeHandMovesWhatIsLargerThanItsWindowAndLeavesNoGap) {
+  Slot& slot = stage_.Stage().At(1);
+  stage_.Stage().SetFits(1, true);
+  const auto drag = [&](int dx, int dy) {
+    const POINTAPI before = PlayerCorner(slot);
+    stage_.Press(1, 100 - before.x, 100 - before.y);
+    for (const int part : {1, 2, 4})
+      stage_.Move(1, 100 + dx * part / 4 - PlayerCorner(slot).x, 100 + dy * part / 4 - PlayerCorner(slot).y);
+    stage_.Release(1, 0, 0);
+    return POINTAPI{PlayerCorner(slot).x - before.x, PlayerCorner(slot).y - before.y};
+  };
+  EXPECT_EQ(drag(60, 60), (POINTAPI{0, 0})) << "all of it is seen";
+  slot.VideoZoom = 4;
+  stage_.Stage().MPResize(1);
+  EXPECT_EQ(drag(2, 0), (POINTAPI{0, 0})) << "a click";
+  const POINTAPI moved = drag(40, -30);
+  EXPECT_NEAR(moved.x, 40, 1);
+  EXPECT_NEAR(moved.y, -30, 1);
+  drag(20000, 20000);
+  EXPECT_NEAR(PlayerPlace(slot).Left, 0, kTwipsPerPixel);
+  EXPECT_NEAR(PlayerPlace(slot).Top, 0, kTwipsPerPixel);
+  zoom_.PanBy(1, -30000, -10);
+  EXPECT_NEAR(PlayerPlace(slot).Left, slot.panel.Width - PlayerPlace(slot).Width, kTwipsPerPixel);
+  EXPECT_NEAR(PlayerPlace(slot).Top, -10 * kTwipsPerPixel, kTwipsPerPixel);
+  // With a tool in hand the button draws.
+  const TwipRect before = PlayerPlace(slot);
+  stage_.Key(kKeyF1 + kLine);
+  drag(40, 40);
+  EXPECT_EQ(PlayerPlace(slot), before);
+}
+
 }  // namespace
 }  // namespace kinalyx

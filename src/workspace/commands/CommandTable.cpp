@@ -6,6 +6,7 @@
 
 #include "video/KeyCodes.h"
 #include "workspace/commands/MenuBar.h"
+#include "workspace/transport/Speeds.h"
 
 namespace kinalyx {
 namespace {
@@ -62,9 +63,13 @@ constexpr std::string_view kSpareButtons[] = {
     "RedoBtn",         "CmdAfunctions1", "smbar", "ribShowGrid", "CmdAfunctions7",
     "CentreCircleBtn", "DDSLBtn"};
 
+/// Which keys a row belongs to.
+enum class KeySet { Both, Classic, Editor };
+
 struct KeyRow {
   const char* item;
   KeyStroke key;
+  KeySet set = KeySet::Both;
 };
 
 constexpr KeyStroke Key(int code, std::optional<int> shift = {}) { return {KeyStroke::Kind::Code, code, shift}; }
@@ -73,18 +78,19 @@ constexpr KeyStroke Letter(char capital) { return {KeyStroke::Kind::Letter, capi
 /// What each key does, by the name of its command. F1 to F12 and 1 to 8 are the drawing tools and the layouts,
 /// in the order of the menus.
 constexpr KeyRow kKeyRows[] = {
-    {"VLib", Key(kKeyHome)},
-    {"EKTMM", Key(kKeyEnd)},
+    {"VLib", Key(kKeyHome), KeySet::Classic},
+    {"EKTMM", Key(kKeyEnd), KeySet::Classic},
     {"CG", Key(kKeyPageUp)},
     {"PDkeyA", Key(kKeyPageDown)},
-    {"vo", Letter('O')},
+    {"vo", Letter('O'), KeySet::Classic},
     {"vr", Letter('R')},
     {"vF", Key(kKeyUp)},
     {"vplay", Letter('P')},
+    {"PlayPause", Key(kKeySpace, 0)},
     {"VL", Key(kKeyDown)},
     {"vp", Key(kKeyLeft)},
     {"vn", Key(kKeyRight)},
-    {"vloop", Letter('L')},
+    {"vloop", Letter('L'), KeySet::Classic},
     {"vs", Letter('S')},
     {"vFlip", Letter('F')},
     {"MZoom", Letter('Z')},
@@ -96,7 +102,7 @@ constexpr KeyRow kKeyRows[] = {
     {"NextDrawing", Letter('N')},
     {"HideDrawings", Letter('V')},
     {"ShapeLabels", Letter('D')},
-    {"TTES", Key(kKeyCtrl)},
+    {"TTES", Key(kKeyCtrl), KeySet::Classic},
     {"PanUp", Key(kKeyNumpad0 + 8)},
     {"PanUp", Letter('Y')},
     {"PanDown", Key(kKeyNumpad0 + 2)},
@@ -106,15 +112,57 @@ constexpr KeyRow kKeyRows[] = {
     {"PanRight", Key(kKeyNumpad0 + 6)},
     {"PanRight", Letter('H')},
     {"WholePicture", Key(kKeyNumpad0 + 5)},
-    {"WholePicture", Letter('J')},
+    {"WholePicture", Letter('J'), KeySet::Classic},
     {"ZoomIn", Letter('+')},
     {"ZoomIn", Letter('=')},
     {"ZoomOut", Letter('-')},
     {"ZoomNone", Letter('*')},
+    {"FitPicture", Letter('W')},
+    {"Slower", Letter('[')},
+    {"Faster", Letter(']')},
+    {"AllVideos", Letter('A')},
+    {"PlayAll", Key(kKeySpace, kShift)},
+    {"RewindAll", Key(kKeyUp, kCtrl)},
+    {"BackAll", Key(kKeyLeft, kCtrl)},
+    {"ForwardAll", Key(kKeyRight, kCtrl)},
+    {"VLib", Key(kKeyHome, kCtrl), KeySet::Editor},
+    {"EKTMM", Key(kKeyEnd, kCtrl), KeySet::Editor},
+    {"vo", Key('O', kCtrl), KeySet::Editor},
+    {"vloop", Key('L', kCtrl), KeySet::Editor},
+    {"WholePicture", Key(kKey0, 0), KeySet::Editor},
+    {"PlayBackward", Letter('J'), KeySet::Editor},
+    {"Pause", Letter('K'), KeySet::Editor},
+    {"PlayForward", Letter('L'), KeySet::Editor},
+    {"RangeStart", Letter('I'), KeySet::Editor},
+    {"RangeEnd", Letter('O'), KeySet::Editor},
+    {"ToFirst", Key(kKeyHome, 0), KeySet::Editor},
+    {"ToLast", Key(kKeyEnd, 0), KeySet::Editor},
+    {"LeapBack", Key(kKeyLeft, kShift), KeySet::Editor},
+    {"LeapForward", Key(kKeyRight, kShift), KeySet::Editor},
+    {"SaveNow", Key('S', kCtrl), KeySet::Editor},
+    {"MnuClose", Key('W', kCtrl), KeySet::Editor},
+    {"Quit", Key('Q', kCtrl), KeySet::Editor},
     {"Window1", Key(kKeyNumpad0 + 7)},
     {"Window2", Key(kKeyNumpad0 + 9)},
     {"Window3", Key(kKeyNumpad0 + 3)},
     {"Window4", Key(kKeyNumpad0 + 1)},
+};
+
+struct CaptionRow {
+  const char* item;
+  const char* classic;
+  const char* editor;
+};
+
+/// The captions that name a key which the two sets have for different things.
+constexpr CaptionRow kCaptionRows[] = {
+    {"EKTMM", "Main Menu - End key", "Main Menu - Ctrl+End"},
+    {"vo", "O - Open New Video", "Ctrl+O - Open New Video"},
+    {"vloop", "L - Loop Video", "Ctrl+L - Loop Video"},
+    {"PlayBackward", "Play Backward", "J - Play Backward"},
+    {"RangeStart", "Play From Here", "I - Play From Here"},
+    {"RangeEnd", "Play Up To Here", "O - Play Up To Here"},
+    {"SaveNow", "Save Drawings and Notes", "Ctrl+S - Save Drawings and Notes"},
 };
 
 using Obstacle = std::function<std::string()>;
@@ -197,6 +245,29 @@ void MenuBar::AddVideo() {
   plain("VL", "Down Arrow - Play", "", [this] { transport_.TogglePlay(); });
   plain("vp", "Left Arrow - Back 1 Frame", "step-back", [this] { transport_.StepBack(); });
   plain("vn", "Right Arrow - Next Frame", "step-forward", [this] { transport_.StepForward(); });
+  AddPlaying();
+}
+
+void MenuBar::AddPlaying() {
+  const auto hasVideo = NeedsVideo();
+  const auto unlocked =
+      NeedsVideo([this] { return compare_.Locks().IsLocked(stage_.CurrentWindow) ? "Unlock the videos first" : ""; });
+  const auto add = [&](const char* item, const char* caption, Obstacle obstacle, std::function<void()> run) {
+    Add({item, kVideo, caption, "", "", "", kNoButton, std::move(run), std::move(obstacle)});
+  };
+  AddSeparator(kVideo);
+  Add({"FitPicture", kVideo, "W - Fit Picture in Window", "", "fit", "", kNoButton,
+       [this] { compare_.Zoom().ToggleFit(); }, hasVideo, [this] { return HasVideo() && stage_.Current().Fits; }});
+  add("Slower", "[ - Slower", hasVideo, [this] { transport_.SetSpeed(NextSpeed(transport_.Speed(), false)); });
+  add("Faster", "] - Faster", hasVideo, [this] { transport_.SetSpeed(NextSpeed(transport_.Speed(), true)); });
+  add("PlayBackward", "Play Backward", hasVideo, [this] { transport_.PlayBackward(); });
+  add("RangeStart", "Play From Here", unlocked, [this] { transport_.ToggleRangeStart(); });
+  add("RangeEnd", "Play Up To Here", unlocked, [this] { transport_.ToggleRangeEnd(); });
+  add("RangeOff", "Play Whole Video",
+      Needs([this] { return transport_.HasRange(); }, "The whole of the current video is played"),
+      [this] { transport_.PlayWholeVideo(); });
+  add("SaveNow", "Save Drawings and Notes", Needs([this] { return stage_.AnyVideo(); }, "Open a video first"),
+      [this] { SaveNow(); });
 }
 
 void MenuBar::AddDraw() {
@@ -324,6 +395,18 @@ void MenuBar::AddTools() {
        [this] { view_.ShowNotesform(); }, hasVideo});
   Add({"TLAV", kTools, "Loop All Videos", "", "loop", "", kNoButton, [this] { transport_.ToggleLoopAll(); },
        Needs([this] { return stage_.AnyVideo(); }, "Open a video first"), [this] { return transport_.AllLooping(); }});
+  const auto several = Needs([this] { return transport_.All().Several(); }, "Needs videos in two windows or more");
+  Add({"AllVideos", kTools, "A - Move All Videos", "", "", "", kNoButton, [this] { transport_.ToggleMovesAll(); },
+       several, [this] { return transport_.MovesAll(); }});
+  Add({"PlayAll", kTools, "Shift+Space - Play / Pause All Videos", "", "play", "", kNoButton,
+       [this] { transport_.All().TogglePlay(); }, several});
+  Add({"RewindAll", kTools, "Ctrl+Up Arrow - Rewind All Videos", "", "rewind", "", kNoButton,
+       [this] { transport_.All().Rewind(); }, several});
+  Add({"BackAll", kTools, "Ctrl+Left Arrow - All Back 1 Frame", "", "step-back", "", kNoButton,
+       [this] { transport_.All().Step(false); }, several});
+  Add({"ForwardAll", kTools, "Ctrl+Right Arrow - All Next Frame", "", "step-forward", "", kNoButton,
+       [this] { transport_.All().Step(true); }, several});
+  AddSeparator(kTools);
   Add({"TVT",
        kTools,
        "Video Timer",
@@ -451,6 +534,14 @@ void MenuBar::AddKeysAlone() {
     Add({std::move(item), "", "", "", "", "", kNoButton, std::move(run)});
   };
   add("Escape", [this] { Escape(); });
+  add("PlayPause", [this] { transport_.PlayPause(); });
+  add("PlayForward", [this] { transport_.PlayForward(); });
+  add("Pause", [this] { transport_.Pause(); });
+  add("ToFirst", [this] { transport_.ToFirst(); });
+  add("ToLast", [this] { transport_.ToLast(); });
+  add("LeapBack", [this] { transport_.Leap(false); });
+  add("LeapForward", [this] { transport_.Leap(true); });
+  add("Quit", [this] { navigation_.QuitProgram(); });
   add("PanUp", [this] { stage_.Pan(0, -kPanStep); });
   add("PanDown", [this] { stage_.Pan(0, kPanStep); });
   add("PanLeft", [this] { stage_.Pan(-kPanStep, 0); });
@@ -462,13 +553,18 @@ void MenuBar::AddKeysAlone() {
   for (int slot = 1; slot <= 4; ++slot) add("Window" + std::to_string(slot), [this, slot] { SelectByKeypad(slot); });
 }
 
-void MenuBar::AddKeys() {
+void MenuBar::TakeKeys(bool editor) {
+  editor_ = editor;
   const auto find = [this](const std::string& item) -> Command& {
     return *std::ranges::find(commands_, item, &Command::item);
   };
-  for (const KeyRow& row : kKeyRows) find(row.item).keys.push_back(row.key);
+  for (Command& command : commands_) command.keys.clear();
+  for (const KeyRow& row : kKeyRows)
+    if (row.set == KeySet::Both || (row.set == KeySet::Editor) == editor) find(row.item).keys.push_back(row.key);
   for (int tool = 0; tool < 12; ++tool) find("MenuDraw" + std::to_string(tool)).keys.push_back(Key(kKeyF1 + tool));
   for (const ScreenMode& mode : ScreenModes()) find(std::string(mode.Item)).keys.push_back(Key(kKey0 + mode.Mode, 0));
+  for (const CaptionRow& row : kCaptionRows) find(row.item).caption = editor ? row.editor : row.classic;
+  SetProfilesTitle(profiles_);
 }
 
 }  // namespace kinalyx

@@ -16,6 +16,8 @@ class INavigation {
   /// Offers for a while, on whichever page, to bring back what was closed; `words` say what that is. Who accepts
   /// comes to the analysis section, and its command "ReopenVideos" runs.
   virtual void OfferReopen(const std::string& words) = 0;
+  /// The program ends, as if its window were closed.
+  virtual void QuitProgram() = 0;
 };
 
 }  // namespace kinalyx

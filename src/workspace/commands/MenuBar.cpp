@@ -3,9 +3,12 @@
 #include <algorithm>
 #include <cctype>
 
+#include "video/KeyCodes.h"
+
 namespace kinalyx {
 MenuBar::MenuBar(const CommandTargets& targets, ICommandsView& view, INavigation& navigation)
     : stage_(targets.stage),
+      keeping_(targets.keeping),
       videos_(targets.videos),
       transport_(targets.transport),
       tools_(targets.tools),
@@ -28,7 +31,7 @@ MenuBar::MenuBar(const CommandTargets& targets, ICommandsView& view, INavigation
   AddSetup();
   AddBrisko();
   AddKeysAlone();
-  AddKeys();
+  TakeKeys(false);
 }
 
 const Command* MenuBar::Find(const std::string& name) const {
@@ -55,7 +58,8 @@ void MenuBar::RunTwice(const std::string& name) {
 }
 
 void MenuBar::SetProfilesTitle(const std::string& title) {
-  std::ranges::find(commands_, "VLib", &Command::item)->caption = title + " - Home key";
+  profiles_ = title;
+  std::ranges::find(commands_, "VLib", &Command::item)->caption = title + (editor_ ? " - Ctrl+Home" : " - Home key");
 }
 
 bool MenuBar::PreparetoExit() {
@@ -67,6 +71,11 @@ bool MenuBar::PreparetoExit() {
   notes_.Close();
   timer_.Close();
   return videos_.CloseAll(std::move(stood));
+}
+
+void MenuBar::SaveNow() {
+  const bool saved = keeping_.SaveAll();
+  if (!tools_.Drawing()) transport_.Announce(saved ? "Saved" : "Not saved");
 }
 
 // ---------------------------------------------------------------- keys
@@ -103,13 +112,42 @@ void MenuBar::Escape() {
   }
 }
 
+std::string KeyText(const KeyStroke& key) {
+  constexpr std::pair<int, const char*> kNames[] = {
+      {kKeySpace, "Space"}, {kKeyHome, "Home"},       {kKeyEnd, "End"},           {kKeyLeft, "Left Arrow"},
+      {kKeyUp, "Up Arrow"}, {kKeyDown, "Down Arrow"}, {kKeyRight, "Right Arrow"}, {kKeyEscape, "Esc"},
+      {kKeyDelete, "Del"},  {kKeyPageUp, "Page Up"},  {kKeyPageDown, "Page Down"}};
+  std::string text = key.shift.value_or(0) & kCtrl ? "Ctrl+" : "";
+  if (key.shift.value_or(0) & kShift) text += "Shift+";
+  if (key.kind == KeyStroke::Kind::Code) {
+    for (const auto& [code, name] : kNames)
+      if (code == key.value) return text + name;
+    if (key.value >= kKeyNumpad0 && key.value <= kKeyNumpad9)
+      return text + "keypad " + std::to_string(key.value - kKeyNumpad0);
+    if (key.value >= kKeyF1 && key.value <= kKeyF12) return text + "F" + std::to_string(key.value - kKeyF1 + 1);
+  }
+  return text + static_cast<char>(key.value);
+}
+
+std::string MenuBar::KeyOf(const std::string& name) const {
+  const Command* command = Find(name);
+  return command && !command->keys.empty() ? KeyText(command->keys.front()) : "";
+}
+
 /// Runs what a key stands for; true when it stands for something, which need not be possible now.
 bool MenuBar::Press(KeyStroke::Kind kind, int value, int shift) {
-  const auto meant = [&](const KeyStroke& key) {
-    return key.kind == kind && key.value == value && key.shift.value_or(shift) == shift;
+  // With Shift a key may be another one; where it is not, it is the key itself.
+  const auto exactly = [&](const KeyStroke& key) {
+    return key.kind == kind && key.value == value && key.shift == shift;
   };
-  const auto command =
-      std::ranges::find_if(commands_, [&](const Command& each) { return std::ranges::any_of(each.keys, meant); });
+  const auto loosely = [&](const KeyStroke& key) {
+    return key.kind == kind && key.value == value && !key.shift && (!(shift & kCtrl) || value == kKeyCtrl);
+  };
+  auto command =
+      std::ranges::find_if(commands_, [&](const Command& each) { return std::ranges::any_of(each.keys, exactly); });
+  if (command == commands_.end())
+    command =
+        std::ranges::find_if(commands_, [&](const Command& each) { return std::ranges::any_of(each.keys, loosely); });
   if (command == commands_.end()) return false;
   Run(command->item);
   return true;

@@ -10,6 +10,7 @@
 #include "workspace/transport/DisplayRateTest.h"
 #include "workspace/edits/DrawingEdits.h"
 #include "workspace/edits/DrawingTimes.h"
+#include "workspace/keeping/Keeping.h"
 #include "workspace/edits/RulerCalibration.h"
 #include "workspace/transport/Transport.h"
 #include "workspace/edits/VideoNotes.h"
@@ -24,6 +25,7 @@ namespace kinalyx {
 /// What the commands work on.
 struct CommandTargets {
   Stage& stage;
+  Keeping& keeping;
   Videos& videos;
   Transport& transport;
   DrawingTools& tools;
@@ -42,8 +44,11 @@ struct KeyStroke {
 
   Kind kind = Kind::Code;
   int value = 0;               ///< see KeyCodes.h; of a letter its capital
-  std::optional<int> shift{};  ///< the sum of the keys that must be held with it; nothing: any
+  std::optional<int> shift{};  ///< the sum of the keys that must be held with it; nothing: any but Ctrl
 };
+
+/// What the key is called: "Left", "Ctrl+O", "J".
+std::string KeyText(const KeyStroke& key);
 
 /// One command of the analysis section: an entry of a menu, a button of the tool strip, what a key does, or all
 /// of them. The table is the dictionary from the system's names to the operations of the logic.
@@ -75,6 +80,11 @@ class MenuBar {
  public:
   MenuBar(const CommandTargets& targets, ICommandsView& view, INavigation& navigation);
 
+  /// Takes the keys of an editor, or the classic ones; captions and tips follow.
+  void TakeKeys(bool editor);
+  /// What a command is called by, in words for a tip; empty for one without a key.
+  std::string KeyOf(const std::string& name) const;
+
   /// All commands in the order of the menus.
   const std::vector<Command>& Commands() const { return commands_; }
   /// Runs a command by its item or button name when it is enabled; false when it is not or unknown.
@@ -98,6 +108,7 @@ class MenuBar {
  private:
   void AddGoTo();
   void AddVideo();
+  void AddPlaying();
   void AddDraw();
   void AddTimes();
   void AddWindows();
@@ -106,7 +117,7 @@ class MenuBar {
   void AddSetup();
   void AddBrisko();
   void AddKeysAlone();
-  void AddKeys();
+  void SaveNow();
   bool Press(KeyStroke::Kind kind, int value, int shift);
   void Add(Command command);
   /// An entry, or a button beside it, whose feature is not built yet.
@@ -120,6 +131,7 @@ class MenuBar {
   void Escape();
 
   Stage& stage_;
+  Keeping& keeping_;
   Videos& videos_;
   Transport& transport_;
   DrawingTools& tools_;
@@ -133,6 +145,8 @@ class MenuBar {
   ICommandsView& view_;
   INavigation& navigation_;
   std::vector<Command> commands_;
+  std::string profiles_ = "Student Profiles";
+  bool editor_ = false;
 };
 
 }  // namespace kinalyx

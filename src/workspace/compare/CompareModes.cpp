@@ -115,7 +115,7 @@ void CompareModes::ShowDual() {
   state.allLocked = locks_.AllLocked();
   state.canLock = locks_.CanLock();
   state.canLockAll = locks_.CanLockAll();
-  state.playing = locks_.PlayingTogether();
+  state.playing = locks_.PlayingTogether(slot);
   state.repeat = locks_.TogetherRepeat();
   state.speed = locks_.TogetherSpeed();
   if (state.locked) {

@@ -25,12 +25,23 @@ class LockedVideos::Run final : public IPlayRun {
   bool Running() const { return !slots_.empty(); }
   const std::vector<int>& Slots() const { return slots_; }
 
-  void Begin(std::vector<int> slots, int distance, int last, double interval) {
+  bool Back() const { return back_; }
+
+  /// The distances of a play, and where it begins.
+  struct Way {
+    int start = 0;
+    int first = 0;
+    int last = 0;
+    bool back = false;
+  };
+  void Begin(std::vector<int> slots, const Way& way, double interval) {
     slots_ = std::move(slots);
-    last_ = last;
-    clock_.Start(videos_.host_.timeGetTime(), BeatOf(distance), interval);
-    scheduler_.Add(*this, clock_.Due(BeatOf(distance + 1)));
-    ShowAll(distance);
+    first_ = way.first;
+    last_ = way.last;
+    back_ = way.back;
+    wrap_ = false;
+    StartClock(way.start, interval);
+    ShowAll(way.start);
   }
 
   void End() {
@@ -39,19 +50,16 @@ class LockedVideos::Run final : public IPlayRun {
   }
 
   /// Goes on from the distance that is shown.
-  void SetInterval(double interval) {
-    clock_.Start(videos_.host_.timeGetTime(), BeatOf(distance_), interval);
-    scheduler_.Add(*this, clock_.Due(BeatOf(distance_ + 1)));
-  }
+  void SetInterval(double interval) { StartClock(distance_, interval); }
 
   std::int64_t Tick(std::int64_t now) override {
     if (wrap_) {
-      clock_.Wrap(now, BeatOf(last_ + 1));
-      ShowAll(0);
-    } else if (const int due = DistanceAt(clock_.BeatAt(now)); due > distance_) {
+      clock_.Wrap(now, BeatOf(last_ + 1), BeatOf(first_));
+      ShowAll(first_);
+    } else if (const int due = DistanceDue(now); back_ ? due < distance_ : due > distance_) {
       ShowAll(due);
     }
-    return Running() ? clock_.Due(BeatOf(distance_ + 1)) : now;
+    return Running() ? DueAfter(distance_) : now;
   }
 
  private:
@@ -60,36 +68,57 @@ class LockedVideos::Run final : public IPlayRun {
   /// The lead's times are the clock: a distance falls due when the lead's own picture does.
   double BeatOf(int distance) const { return Lead().BeatOf(LeadStart() + distance) - Lead().BeatOf(LeadStart()); }
   int DistanceAt(double beat) const { return Lead().PositionAtBeat(Lead().BeatOf(LeadStart()) + beat) - LeadStart(); }
+  /// Going back, the clock counts how far below the end of the first pictures the play has come.
+  int DistanceDue(std::int64_t now) const {
+    const double beat = clock_.BeatAt(now);
+    return DistanceAt(back_ ? std::max(0.0, top_ - beat) : beat);
+  }
+  std::int64_t DueAfter(int distance) const {
+    return clock_.Due(back_ ? top_ - BeatOf(distance) : BeatOf(distance + 1));
+  }
+
+  void StartClock(int distance, double interval) {
+    top_ = BeatOf(distance + 1);
+    clock_.Start(videos_.host_.timeGetTime(), back_ ? 0 : BeatOf(distance), interval);
+    scheduler_.Add(*this, DueAfter(distance));
+  }
 
   /// Draws all videos at a distance; what they have to tell comes when all are drawn.
   void ShowAll(int distance) {
     const PlayerNews::Hold hold(scheduler_.News());
-    const bool atEnd = distance >= last_;
-    distance_ = std::min(distance, last_);
+    const bool atEnd = back_ ? distance <= first_ : distance >= last_;
+    distance_ = atEnd ? (back_ ? first_ : last_) : distance;
     wrap_ = false;
     for (const int slot : slots_) {
       // A video that was set going by a control of its own ends what they do together.
-      if (videos_.stage_.MP(slot).IsPlaying()) return videos_.StopTogether();
+      if (videos_.stage_.MP(slot).IsPlaying()) return videos_.Stop(*this);
       videos_.stage_.MP(slot).DrawFrame(videos_.Lowest(slot) + distance_);
     }
     if (!atEnd) return;
-    wrap_ = videos_.repeat_ && last_ > 0;
-    if (!wrap_) videos_.StopTogether();
+    wrap_ = videos_.repeat_ && !back_ && last_ > first_;
+    if (!wrap_) videos_.Stop(*this);
   }
 
   PlayScheduler& scheduler_;
   LockedVideos& videos_;
   std::vector<int> slots_;
   PlayClock clock_;
+  double top_ = 0;
   int distance_ = 0;
+  int first_ = 0;
   int last_ = 0;
+  bool back_ = false;
   bool wrap_ = false;
 };
 
 LockedVideos::LockedVideos(IHost& host, PlayScheduler& scheduler, Stage& stage)
-    : host_(host), stage_(stage), run_(std::make_unique<Run>(scheduler, *this)) {}
+    : host_(host),
+      stage_(stage),
+      runs_{std::make_unique<Run>(scheduler, *this), std::make_unique<Run>(scheduler, *this)} {}
 
-LockedVideos::~LockedVideos() { run_->End(); }
+LockedVideos::~LockedVideos() {
+  for (const auto& run : runs_) run->End();
+}
 
 // ---------------------------------------------------------------- locking
 
@@ -155,7 +184,7 @@ void LockedVideos::Clear(int lock) {
 void LockedVideos::DualUnlock(int slot) {
   const int lock = LockOf(slot);
   if (lock < 0) return;
-  if (PlayingTogether(slot)) StopTogether();
+  StopTogether(slot);
   Clear(lock);
   NoteChange();
 }
@@ -197,7 +226,7 @@ void LockedVideos::FieldsSplit() {
       return stage_.MP(slot).VideoLength() == lengths_[static_cast<std::size_t>(slot - 1)];
     });
     if (same) continue;
-    if (run_->Running()) StopTogether();
+    StopTogether(slots.front());
     SetRanges(slots);
     NoteChange();
   }
@@ -239,28 +268,28 @@ void LockedVideos::MoveTogether(DualMove move) {
 }
 
 void LockedVideos::DualControlStep(bool Forward) {
-  StopTogether();
-  const int move = Forward ? 1 : -1;
-  const std::vector<int> slots = LockedWith(stage_.CurrentWindow);
-  if (slots.empty()) {
-    const int slot = stage_.CurrentWindow;
-    if (stage_.HasVideo(slot)) StepBy(stage_.MP(slot), move);
-    return;
-  }
-  for (const int slot : slots) {
-    const int position = stage_.MP(slot).Position();
-    if (Forward ? position >= Highest(slot) : position <= Lowest(slot)) return;
-  }
-  for (const int slot : slots) GoTo(stage_.MP(slot), stage_.MP(slot).Position() + move);
+  const int slot = stage_.CurrentWindow;
+  if (IsLocked(slot)) return StepTogether(slot, Forward);
+  if (stage_.HasVideo(slot)) StepBy(stage_.MP(slot), Forward ? 1 : -1);
 }
 
-void LockedVideos::DualControlRewind() {
-  StopTogether();
-  for (const int slot : SlotsOf(LockOf(stage_.CurrentWindow))) GoTo(stage_.MP(slot), Lowest(slot));
+void LockedVideos::StepTogether(int slot, bool forward) {
+  StopTogether(slot);
+  const std::vector<int> slots = LockedWith(slot);
+  for (const int each : slots) {
+    const int position = stage_.MP(each).Position();
+    if (forward ? position >= Highest(each) : position <= Lowest(each)) return;
+  }
+  for (const int each : slots) GoTo(stage_.MP(each), stage_.MP(each).Position() + (forward ? 1 : -1));
+}
+
+void LockedVideos::RewindTogether(int slot) {
+  StopTogether(slot);
+  for (const int each : SlotsOf(LockOf(slot))) GoTo(stage_.MP(each), Lowest(each));
 }
 
 void LockedVideos::DualControlScroll(int slot, int Position) {
-  StopTogether();
+  StopTogether(slot);
   const std::vector<int> slots = LockedWith(slot);
   if (slots.empty()) return;
   const int lowest = Lowest(slot);
@@ -280,35 +309,56 @@ void LockedVideos::AdvancePartners(int slot) {
 
 // ---------------------------------------------------------------- playing together
 
-bool LockedVideos::PlayingTogether() const { return run_->Running(); }
-
-bool LockedVideos::PlayingTogether(int slot) const {
-  return std::ranges::find(run_->Slots(), slot) != run_->Slots().end();
+bool LockedVideos::PlayingTogether() const {
+  return std::ranges::any_of(runs_, [](const auto& run) { return run->Running(); });
 }
 
-void LockedVideos::PlayTogether() {
-  if (run_->Running()) return StopTogether();
-  std::vector<int> slots = LockedWith(stage_.CurrentWindow);
+bool LockedVideos::PlayingTogether(int slot) const { return LeadOf(slot) != 0; }
+
+int LockedVideos::LeadOf(int slot) const {
+  const std::vector<int>& slots = RunOf(slot).Slots();
+  return std::ranges::find(slots, slot) != slots.end() ? slots.front() : 0;
+}
+
+bool LockedVideos::PlaysBack(int slot) const { return PlayingTogether(slot) && RunOf(slot).Back(); }
+
+void LockedVideos::PlayTogether(int slot, bool forward) {
+  if (PlayingTogether(slot)) return StopTogether(slot);
+  std::vector<int> slots = LockedWith(slot);
   if (slots.empty()) return;
-  for (const int slot : slots) stage_.MP(slot).StopPlay();
-  const int lead = slots.front();
-  const int last = std::max(0, Highest(lead) - Lowest(lead));
-  int distance = std::clamp(stage_.MP(lead).Position() - Lowest(lead), 0, last);
-  if (distance >= last - 1) distance = 0;
-  run_->Begin(std::move(slots), distance, last, stage_.MP(lead).PositionTime() * 100 / speed_);
+  for (const int each : slots) stage_.MP(each).StopPlay();
+  const AVIControl& lead = stage_.MP(slot);
+  const int lowest = Lowest(slot);
+  const int end = std::max(0, Highest(slot) - lowest);
+  Run::Way way;
+  way.back = !forward;
+  way.first = std::clamp(lead.PlayRange().first - lowest, 0, end);
+  way.last = std::clamp(lead.PlayRange().last - lowest, way.first, end);
+  way.start = std::clamp(lead.Position() - lowest, 0, end);
+  if (forward && (way.start < way.first || way.start >= way.last - 1)) way.start = way.first;
+  RunOf(slot).Begin(std::move(slots), way, lead.PositionTime() * 100 / speed_);
   NoteChange();
+}
+
+void LockedVideos::Stop(Run& run) {
+  if (!run.Running()) return;
+  run.End();
+  NoteChange();
+}
+
+void LockedVideos::StopTogether(int slot) {
+  if (PlayingTogether(slot)) Stop(RunOf(slot));
 }
 
 void LockedVideos::StopTogether() {
-  if (!run_->Running()) return;
-  run_->End();
-  NoteChange();
+  for (const auto& run : runs_) Stop(*run);
 }
 
 bool LockedVideos::setTogetherSpeed(int percent) {
   if (percent < 1 || percent > kFastest) return false;
   speed_ = percent;
-  if (run_->Running()) run_->SetInterval(stage_.MP(run_->Slots().front()).PositionTime() * 100 / speed_);
+  for (const auto& run : runs_)
+    if (run->Running()) run->SetInterval(stage_.MP(run->Slots().front()).PositionTime() * 100 / speed_);
   NoteChange();
   return true;
 }

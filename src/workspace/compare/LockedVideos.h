@@ -48,6 +48,8 @@ class LockedVideos {
 
   /// While true the transport's own commands are refused for the slot.
   bool IsLocked(int slot) const;
+  /// The slots locked with this one, it first; empty without a lock.
+  std::vector<int> LockedWith(int slot) const;
 
   struct Bounds {
     int lowest = 0;
@@ -66,8 +68,11 @@ class LockedVideos {
   /// Moves the videos locked with the current window one position. At an end of the lock nothing moves.
   /// A current window without a lock steps alone.
   void DualControlStep(bool Forward);
+  /// The same for the videos locked with any slot, of which it has one.
+  void StepTogether(int slot, bool forward);
   /// Shows the lowest position of each video locked with the current window.
-  void DualControlRewind();
+  void DualControlRewind() { RewindTogether(stage_.CurrentWindow); }
+  void RewindTogether(int slot);
   /// Brings a slot's video to a position inside its bounds, and those locked with it along.
   void DualControlScroll(int slot, int Position);
   /// The same for any slot with a video: without a lock it moves alone. A position that is shown already is
@@ -80,12 +85,20 @@ class LockedVideos {
 
   /// Plays the videos locked with the current window by one clock, or pauses them. From the last
   /// position, or the one before, they start at the first. Late positions are skipped for all alike; the
-  /// last is always drawn.
-  void PlayTogether();
+  /// last is always drawn. Where the user wants a part of the current video, that part is played.
+  void PlayTogether() { PlayTogether(stage_.CurrentWindow, true); }
+  /// The same from any slot, forward or back to the lowest positions.
+  void PlayTogether(int slot, bool forward);
+  /// Ends what the videos locked with a slot do together; without a slot, what all do.
+  void StopTogether(int slot);
   void StopTogether();
+  /// Some play together.
   bool PlayingTogether() const;
-  /// The common play moves this slot's video.
+  /// A common play moves this slot's video.
   bool PlayingTogether(int slot) const;
+  /// The slot from which it was begun, whose times are its clock; 0 without one.
+  int LeadOf(int slot) const;
+  bool PlaysBack(int slot) const;
   /// Percent of the current window's own speed, 1 to 1000; others are refused with false. A play goes on
   /// at the new speed.
   bool setTogetherSpeed(int percent);
@@ -109,18 +122,18 @@ class LockedVideos {
   int LockOf(int slot) const;
   std::vector<int> SlotsOf(int lock) const;
   bool AllOpen(const std::vector<int>& slots) const;
-  /// The slots locked with this one, it first; empty without a lock.
-  std::vector<int> LockedWith(int slot) const;
+  Run& RunOf(int slot) const { return *runs_[slot <= 2 || AllLocked() ? 0 : 1]; }
   int Lowest(int slot) const;
   int Highest(int slot) const;
   void SetRanges(const std::vector<int>& slots);
   void Clear(int lock);
+  void Stop(Run& run);
   void NoteChange() { stage_.News().Note(kLocksChanged); }
 
   IHost& host_;
   Stage& stage_;
-  std::unique_ptr<Run> run_;
-  std::array<int, 4> lengths_{};  ///< of the locked videos when their ranges were set
+  std::array<std::unique_ptr<Run>, 2> runs_;  ///< of the first pair or all four, and of the second pair
+  std::array<int, 4> lengths_{};              ///< of the locked videos when their ranges were set
   int speed_ = 100;
   bool repeat_ = false;
 };

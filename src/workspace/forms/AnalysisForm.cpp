@@ -29,6 +29,7 @@
 #include "workspace/forms/NotesPanel.h"
 #include "workspace/forms/Notesform.h"
 #include "workspace/forms/PlayBar.h"
+#include "workspace/forms/SeekPreview.h"
 #include "workspace/forms/ToolStrip.h"
 #include "workspace/forms/VideoCell.h"
 #include "workspace/forms/VideoTimerForm.h"
@@ -58,8 +59,9 @@ AnalysisForm::AnalysisForm(IHost& host, IPrinter& printer, Settings& settings, P
   setObjectName("AnalysisForm");
   edits_ = std::make_unique<EditForms>();
   compare_ = std::make_unique<CompareForms>(host);
-  analysis_ = std::make_unique<AnalysisWorkspace>(host, settings, players.scheduler,
-                                                  static_cast<IWorkspaceView&>(*this), *edits_, *compare_, navigation);
+  analysis_ =
+      std::make_unique<AnalysisWorkspace>(host, settings, players.scheduler, static_cast<IWorkspaceView&>(*this),
+                                          *edits_, *compare_, navigation, players.sound);
   menus_ = new CommandMenus(analysis_->Commands().Commands(), this);
   connect(menus_, &CommandMenus::Wanted, this, &AnalysisForm::Run);
   colors_ = new ColorRow(menus_);
@@ -115,11 +117,23 @@ void AnalysisForm::MakeStage() {
     auto* cell = new VideoCell(slot, players_, stage_);
     connect(cell, &VideoCell::Pressed, this, [this, slot] { analysis_->CellPressed(slot); });
     connect(cell, &VideoCell::DoubleClicked, this, [this, slot] { analysis_->CellDoubleClicked(slot); });
+    connect(cell, &VideoCell::Sought, this,
+            [this, slot](int position) { analysis_->Transport().Seek(slot, position); });
+    connect(cell, &VideoCell::SeekEnded, this, [this, slot] { analysis_->CellPressed(slot); });
+    connect(cell, &VideoCell::Hovered, this,
+            [this, cell, slot](int position, QPoint at) { preview_->Want(slot, position, cell->mapToParent(at)); });
+    connect(cell, &VideoCell::Left, this, [this] { preview_->Away(); });
+    connect(cell, &VideoCell::WholeWanted, this, [this, slot] { analysis_->Stage().SetFits(slot, true); });
     cells_[static_cast<std::size_t>(slot - 1)] = cell;
     analysis_->AttachPlayer(slot, cell->MP().Control());
   }
   playBar_ = new PlayBar(analysis_->Transport(), stage_);
   connect(playBar_, &PlayBar::Redocked, this, [this] { analysis_->Stage().SetPlayBar(); });
+  preview_ = new SeekPreview(analysis_->Stage(), analysis_->Transport(), stage_);
+  connect(playBar_, &PlayBar::Hovered, this,
+          [this](int position, QPoint above) { preview_->Want(analysis_->Stage().CurrentWindow, position, above); });
+  connect(playBar_, &PlayBar::VolumeChosen, this, [this](int volume) { analysis_->Sound().SetVolume(volume); });
+  connect(playBar_, &PlayBar::Left, preview_, &SeekPreview::Away);
   notes_ = new NotesPanel(analysis_->Notes(), stage_);
   caption_ = new DrawCaption(stage_);
   connect(caption_, &DrawCaption::Off, this, [this] { analysis_->PutToolDown(); });
@@ -166,8 +180,7 @@ void AnalysisForm::keyPressEvent(QKeyEvent* event) {
   const bool nudges =
       (analysis_->Edits().Editing() || analysis_->Edits().Taken()) && event->modifiers() & Qt::ShiftModifier;
   if (event->isAutoRepeat() && !RepeatsWhileHeld(*event) && !nudges) return;
-  const bool combined =
-      event->modifiers() & (Qt::ControlModifier | Qt::AltModifier) && code != kKeyCtrl && !IsLetterWithCtrl(*event);
+  const bool combined = event->modifiers() & Qt::AltModifier && code != kKeyCtrl;
   bool taken = code != 0 && !combined && analysis_->Commands().PressKey(code, ShiftOf(event->modifiers()));
   if (const int character = KeyAsciiOf(*event); character != 0)
     taken = analysis_->Commands().PressLetter(character) || taken;
@@ -178,11 +191,20 @@ void AnalysisForm::Open() {
   // Players are told of their size when they come on the screen, and start with an empty picture then.
   for (int slot = 1; slot <= kSlots; ++slot) analysis_->Stage().MP(slot).Refresh();
   if (openPanel_ && !openPanel_->isHidden()) openPanel_->Return();
+  // What is put away is not heard: the window tells.
+  window()->installEventFilter(this);
+  HearIfSeen(true);
   FocusKeyBox();
+}
+
+void AnalysisForm::HearIfSeen(bool onPage) {
+  onPage_ = onPage;
+  analysis_->Sound().SetAudible(onPage && !window()->isMinimized());
 }
 
 bool AnalysisForm::Leave() {
   if (openPanel_) openPanel_->Leave();
+  HearIfSeen(false);
   return true;
 }
 
@@ -206,6 +228,7 @@ bool AnalysisForm::eventFilter(QObject* watched, QEvent* event) {
     keyPressEvent(static_cast<QKeyEvent*>(event));
     return true;
   }
+  if (watched == window() && event->type() == QEvent::WindowStateChange) HearIfSeen(onPage_);
   if (watched == stage_ && event->type() == QEvent::Resize) {
     analysis_->StageResized();
     timer_->KeepInside();
@@ -232,6 +255,8 @@ void AnalysisForm::PlaceCell(int slot, const TwipRect& border, const TwipRect& v
   Cell(slot).Place(Pixels(border), Pixels(video));
 }
 
+void AnalysisForm::PlaceFilm(int slot, const TwipRect& place) { Cell(slot).PlaceFilm(Pixels(place)); }
+
 void AnalysisForm::HideCell(int slot) { Cell(slot).hide(); }
 
 void AnalysisForm::PlacePlayer(int slot, const TwipRect& place, bool shown) {
@@ -240,6 +265,11 @@ void AnalysisForm::PlacePlayer(int slot, const TwipRect& place, bool shown) {
 
 void AnalysisForm::PaintBorder(int slot, bool current) { Cell(slot).SetCurrent(current); }
 void AnalysisForm::SetCellTitle(int slot, const std::string& title) { Cell(slot).SetTitle(Q(title)); }
+
+void AnalysisForm::SetZoomFigure(int slot, const std::string& figure) {
+  Cell(slot).SetZoomFigure(Q(figure));
+  if (slot == analysis_->Stage().CurrentWindow) compare_->ShowZoom();
+}
 
 void AnalysisForm::SetCellPosition(int slot, int position, int maximum, const std::string& line) {
   const bool covered = slot == analysis_->Stage().CurrentWindow && playBar_->Docked();
@@ -255,6 +285,8 @@ void AnalysisForm::PlacePlayBar(const TwipRect& place) {
 
 void AnalysisForm::SetScrollRange(int minimum, int maximum) { playBar_->SetScrollRange(minimum, maximum); }
 void AnalysisForm::SetScrollValue(int position) { playBar_->SetScrollValue(position); }
+void AnalysisForm::SetPlayRange(int first, int last) { playBar_->SetPlayRange(first, last); }
+void AnalysisForm::SetSpeed(int percent) { playBar_->SetSpeed(percent); }
 void AnalysisForm::SetPlayPicture(bool playing) { playBar_->SetPlayPicture(playing); }
 void AnalysisForm::SetSlomoButton(bool down) { playBar_->SetSlomo(down); }
 void AnalysisForm::SetLoopButton(bool down) { playBar_->SetLoop(down); }
@@ -416,12 +448,16 @@ void AnalysisForm::CommandsChanged() {
   for (int slot = 1; slot <= kSlots; ++slot) {
     const bool crossed = Cell(slot).MP().cursor().shape() == Qt::CrossCursor;
     if (drawing != crossed) Cell(slot).MP().setCursor(drawing ? Qt::CrossCursor : Qt::ArrowCursor);
-    Cell(slot).SetReopen(canReopen);
+    Cell(slot).SetHints(Q(analysis_->Commands().KeyOf("vo")), canReopen);
     Cell(slot).SetLocked(analysis_->Compare().Locks().IsLocked(slot));
   }
   compare_->SetDrawing(drawing);
-  const int current = analysis_->Stage().CurrentWindow;
-  playBar_->SetState(analysis_->Stage().HasVideo(current), analysis_->Compare().Locks().IsLocked(current));
+  compare_->ShowZoom();
+  const Transport& transport = analysis_->Transport();
+  playBar_->SetState(analysis_->Stage().HasVideo(analysis_->Stage().CurrentWindow), transport.Refused());
+  playBar_->SetMovesAll(transport.MovesAll(), transport.All().Several());
+  playBar_->SetSound(analysis_->Sound().CanBeHeard(), analysis_->Sound().Volume());
+  playBar_->SetLoopKey(Q(analysis_->Commands().KeyOf("vloop")));
 }
 
 /// The button of the colour that the drawing has which is taken.

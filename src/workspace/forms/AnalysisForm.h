@@ -23,6 +23,7 @@ class IPrinter;
 class NotesPanel;
 class OpenVideoParts;
 class PlayBar;
+class SeekPreview;
 class ToolStrip;
 class VideoCell;
 class VideoTimerForm;
@@ -69,6 +70,7 @@ class AnalysisForm : public PageWidget, private IWorkspaceView, private IOpenVid
   void ShowPointer(int slot, HandPointer pointer);
   QRect Pixels(const TwipRect& place) const;
   bool Typing() const;
+  void HearIfSeen(bool onPage);
   VideoCell& Cell(int slot) { return *cells_[static_cast<std::size_t>(slot - 1)]; }
 
   // --- IWorkspaceView
@@ -76,15 +78,19 @@ class AnalysisForm : public PageWidget, private IWorkspaceView, private IOpenVid
   int MainPanelHeight() override;
   void PlaceCell(int slot, const TwipRect& border, const TwipRect& video) override;
   void HideCell(int slot) override;
+  void PlaceFilm(int slot, const TwipRect& place) override;
   void PlacePlayer(int slot, const TwipRect& place, bool shown) override;
   void PaintBorder(int slot, bool current) override;
   void SetCellTitle(int slot, const std::string& title) override;
   void SetCellPosition(int slot, int position, int maximum, const std::string& line) override;
+  void SetZoomFigure(int slot, const std::string& figure) override;
   void PlacePlayBar(const TwipRect& place) override;
   void SetScrollRange(int minimum, int maximum) override;
   void SetScrollValue(int position) override;
+  void SetPlayRange(int first, int last) override;
   void SetPlayPicture(bool playing) override;
   void SetSlomoButton(bool down) override;
+  void SetSpeed(int percent) override;
   void SetLoopButton(bool down) override;
   void SetDisplayLine(const std::string& line, const std::string& counter) override;
   void SetMarks(const std::vector<ShownMark>& marks) override;
@@ -128,12 +134,14 @@ class AnalysisForm : public PageWidget, private IWorkspaceView, private IOpenVid
   QWidget* keyBox_ = nullptr;
   std::array<VideoCell*, kSlots> cells_{};
   PlayBar* playBar_ = nullptr;
+  SeekPreview* preview_ = nullptr;
   DrawCaption* caption_ = nullptr;
   NotesPanel* notes_ = nullptr;
   VideoTimerForm* timer_ = nullptr;
   CalibrationPanel* calibration_ = nullptr;
   OpenVideoParts* openPanel_ = nullptr;  ///< made when first wanted
-  int openChoice_ = -1;                  ///< the place for which it was made
+  bool onPage_ = true;
+  int openChoice_ = -1;  ///< the place for which it was made
 };
 
 }  // namespace kinalyx

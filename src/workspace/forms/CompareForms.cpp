@@ -94,12 +94,46 @@ void CompareForms::PlaceOnStage() {
 
 bool CompareForms::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Resize && watched == stage_) PlaceOnStage();
+  if (event->type() == QEvent::NativeGesture) return Pinch(*static_cast<QNativeGestureEvent*>(event));
   if (event->type() == QEvent::Wheel) return Wheel(static_cast<QWidget*>(watched), *static_cast<QWheelEvent*>(event));
   if (watched == TransPanel_) return MouseOnMix(*event);
   return false;
 }
 
-/// The wheel zooms the video under the pointer; over the mix, that of the current window.
+/// The window with a video under a point of the stage; 0 for none. Cards and panels over the stage keep what the
+/// mouse does there to themselves.
+int CompareForms::SlotUnder(QPointF pointer) const {
+  QWidget* top = stage_->childAt(pointer.toPoint());
+  while (top && top->parentWidget() != stage_) top = top->parentWidget();
+  if (top && !qobject_cast<VideoCell*>(top)) return 0;
+  const int x = static_cast<int>(pointer.x()) * kTwipsPerPixel;
+  const int y = static_cast<int>(pointer.y()) * kTwipsPerPixel;
+  for (int slot = 1; slot <= kSlots; ++slot) {
+    const TwipRect& cell = theStage_->At(slot).cell;
+    if (theStage_->IsShown(slot) && theStage_->HasVideo(slot) && x >= cell.Left && x < cell.Left + cell.Width &&
+        y >= cell.Top && y < cell.Top + cell.Height)
+      return slot;
+  }
+  return 0;
+}
+
+/// Two fingers that draw apart on a touchpad zoom in at the pointer.
+bool CompareForms::Pinch(QNativeGestureEvent& event) {
+  if (event.gestureType() == Qt::BeginNativeGesture) pinch_ = 0;
+  const QPointF pointer = stage_->mapFromGlobal(event.globalPosition());
+  const int slot = event.gestureType() == Qt::ZoomNativeGesture ? SlotUnder(pointer) : 0;
+  if (slot == 0) return false;
+  pinch_ += event.value() * theStage_->At(slot).VideoZoom;
+  const int notches = static_cast<int>(pinch_ / kZoomStep);
+  pinch_ -= notches * kZoomStep;
+  const QPointF on = pointer * stage_->devicePixelRatioF();
+  const POINTAPI corner = PlayerCornerOnStage(theStage_->At(slot));
+  modes_->Zoom().Wheel(slot, static_cast<float>(on.x() - corner.x), static_cast<float>(on.y() - corner.y), notches);
+  return true;
+}
+
+/// The wheel zooms the video under the pointer, and two fingers on a touchpad move it; over the mix, that of the
+/// current window.
 bool CompareForms::Wheel(QWidget* over, QWheelEvent& event) {
   const QPointF pointer = event.position() * stage_->devicePixelRatioF();
   POINTAPI at{qRound(pointer.x()), qRound(pointer.y())};
@@ -109,21 +143,18 @@ bool CompareForms::Wheel(QWidget* over, QWheelEvent& event) {
     if (slot == 0) return true;
     at = modes_->Transparency().InPicture(slot, at);
   } else {
-    // Cards and panels over the stage keep the wheel to themselves.
-    QWidget* top = stage_->childAt(event.position().toPoint());
-    while (top && top->parentWidget() != stage_) top = top->parentWidget();
-    if (top && !qobject_cast<VideoCell*>(top)) return false;
-    const int x = static_cast<int>(event.position().x()) * kTwipsPerPixel;
-    const int y = static_cast<int>(event.position().y()) * kTwipsPerPixel;
-    for (int each = 1; each <= kSlots && slot == 0; ++each) {
-      const TwipRect& cell = theStage_->At(each).cell;
-      if (theStage_->IsShown(each) && theStage_->HasVideo(each) && x >= cell.Left && x < cell.Left + cell.Width &&
-          y >= cell.Top && y < cell.Top + cell.Height)
-        slot = each;
-    }
+    slot = SlotUnder(event.position());
     if (slot == 0) return false;
     const POINTAPI corner = PlayerCornerOnStage(theStage_->At(slot));
     at = {at.x - corner.x, at.y - corner.y};
+  }
+  // A wheel has no phases.
+  const bool fingers =
+      event.phase() != Qt::NoScrollPhase || event.pointingDevice()->type() == QInputDevice::DeviceType::TouchPad;
+  if (fingers && !(event.modifiers() & Qt::ControlModifier)) {
+    const QPointF by = event.pixelDelta().isNull() ? QPointF(event.angleDelta()) / 2 : QPointF(event.pixelDelta());
+    modes_->Zoom().PanBy(slot, by.x(), by.y());
+    return true;
   }
   wheel_ += event.angleDelta().y();
   const int notches = wheel_ / kNotch;
@@ -245,6 +276,11 @@ void CompareForms::ShowDual(const DualState& state) {
 }
 
 void CompareForms::ShowZoomForm(bool shown) { shown ? zoom_->Open(FloatCard::Place::TopRight) : zoom_->hide(); }
+
+void CompareForms::ShowZoom() {
+  const Slot& slot = theStage_->Current();
+  zoom_->ShowZoom(slot.VideoZoom, slot.Fits);
+}
 
 void CompareForms::ShowStrobeForm(bool shown) {
   if (!shown) return strobe_->hide();

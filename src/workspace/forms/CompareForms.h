@@ -7,6 +7,7 @@
 #include "platform/host/Host.h"
 #include "workspace/compare/CompareModes.h"
 
+class QNativeGestureEvent;
 class QWheelEvent;
 class QWidget;
 
@@ -41,6 +42,8 @@ class CompareForms : public QObject, public ICompareView {
 
   /// A drawing tool is in hand: it draws on the mix too, and beneath a floating piece.
   void SetDrawing(bool drawing);
+  /// The zoom of the current window may have changed.
+  void ShowZoom();
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -53,6 +56,8 @@ class CompareForms : public QObject, public ICompareView {
   std::optional<std::string> AskPictureName(const char* what);
   void TellUnlessSaved(const Outcome& saved);
   bool Wheel(QWidget* over, QWheelEvent& event);
+  bool Pinch(QNativeGestureEvent& event);
+  int SlotUnder(QPointF pointer) const;
   bool MouseOnMix(QEvent& event);
   void UpdateFoot();
   /// The cards on the stage come above what has been raised there, and keep within its margins.
@@ -93,8 +98,9 @@ class CompareForms : public QObject, public ICompareView {
   CarvePiece* picRot_ = nullptr;
   StrobeForm* strobe_ = nullptr;
   ZoomForm* zoom_ = nullptr;
-  int held_ = 0;   ///< window whose video a mouse button was pressed on in the mix; 0 none
-  int wheel_ = 0;  ///< turns of the wheel that have not made a notch yet
+  int held_ = 0;      ///< window whose video a mouse button was pressed on in the mix; 0 none
+  double pinch_ = 0;  ///< of two fingers that have not zoomed by a tenth yet
+  int wheel_ = 0;     ///< turns of the wheel that have not made a notch yet
 };
 
 }  // namespace kinalyx

@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <QStyle>
 #include <algorithm>
+#include <utility>
 
 #include "platform/widgets/Icons.h"
 #include "platform/widgets/Scale.h"
@@ -15,11 +16,13 @@ namespace kinalyx {
 namespace {
 
 // As designed.
-constexpr int kOneRowWidth = 892;
+constexpr int kOneRowWidth = 952;
 constexpr int kMargin = 10;
 constexpr int kButton = 32;
 constexpr int kPlayWidth = 44;
 constexpr QSize kButtonSizes[] = {{kButton, kPlayWidth}, {30, 36}, {24, 30}};  // others, and the one that plays
+constexpr int kSpeedWidth = 46;
+constexpr int kSpeedLeast = 38;
 constexpr int kCounter = 46;
 constexpr int kMarks = 22;  // height
 constexpr int kLeastSeek = 80;
@@ -39,6 +42,9 @@ PlayBar::PlayBar(Transport& transport, QWidget* parent) : StagePanel("Playbar", 
   seek_ = new SeekBar(this);
   seek_->setObjectName("PlayBarHScroll");
   connect(seek_, &SeekBar::Sought, this, [this](int position) { transport_.Seek(position); });
+  connect(seek_, &SeekBar::Hovered, this,
+          [this](int position, int x) { emit Hovered(position, QPoint(this->x() + seek_->x() + x, this->y())); });
+  connect(seek_, &SeekBar::Left, this, &PlayBar::Left);
 
   buttons_ = new QWidget(this);
   auto* row = new QHBoxLayout(buttons_);
@@ -46,13 +52,23 @@ PlayBar::PlayBar(Transport& transport, QWidget* parent) : StagePanel("Playbar", 
   row->setSpacing(4);
   rewind_ = Button("CmdButton0", tr("Rewind (Up Arrow)"));
   back_ = Button("CmdButton1", tr("Back one picture (Left Arrow); hold to go on"));
-  play_ = Button("CmdButton2", tr("Play / Pause (P)"));
+  play_ = Button("CmdButton2", tr("Play / Pause (Space or P)"));
   next_ = Button("CmdButton3", tr("Next picture (Right Arrow); hold to go on"));
   slomo_ = Button("SlomoButton", tr("Slow motion (S)"));
   loop_ = Button("LoopButton", tr("Loop (L)"));
   slomo_->setCheckable(true);
   loop_->setCheckable(true);
-  for (QToolButton* button : {rewind_, back_, play_, next_, slomo_, loop_}) row->addWidget(button);
+  speed_ = new SpeedButton(buttons_);
+  speed_->setAccessibleName(tr("Speed ([ and ]); the wheel turns it"));
+  all_ = Button("AllVideosBtn", tr("These buttons and their keys move all videos (A)"));
+  all_->setCheckable(true);
+  all_->hide();
+  sound_ = new SoundButton(buttons_);
+  sound_->hide();
+  connect(sound_, &SoundButton::Chosen, this, &PlayBar::VolumeChosen);
+  for (QToolButton* button :
+       std::initializer_list<QToolButton*>{rewind_, back_, play_, next_, slomo_, speed_, loop_, all_, sound_})
+    row->addWidget(button);
 
   detach_ = new QToolButton(this);
   detach_->setObjectName("PlayBarDetachBtn");
@@ -86,6 +102,8 @@ PlayBar::PlayBar(Transport& transport, QWidget* parent) : StagePanel("Playbar", 
   connect(play_, &QToolButton::clicked, this, [this] { transport_.TogglePlay(); });
   connect(slomo_, &QToolButton::clicked, this, [this] { transport_.ToggleSlomo(); });
   connect(loop_, &QToolButton::clicked, this, [this] { transport_.ToggleLoop(); });
+  connect(speed_, &SpeedButton::Chosen, this, [this](int percent) { transport_.SetSpeed(percent); });
+  connect(all_, &QToolButton::clicked, this, [this] { transport_.ToggleMovesAll(); });
   for (QToolButton* step : {back_, next_}) step->installEventFilter(this);
 
   FirstDress();
@@ -106,6 +124,8 @@ void PlayBar::Dress() {
                  "#Playbar #CmdButton2 { background: @accentFill; }"
                  "#Playbar #CmdButton2:hover { background: @accentHover; }"
                  "#Playbar #CmdButton2:disabled { background: @card; }"
+                 "#Playbar #SpeedButton { font-size: @13; }"
+                 "#Playbar #SpeedButton[slow=\"true\"] { color: @mark; }"
                  "#Playbar #MarksBtn { background: @card; color: @mark; padding: 0 5px; font-size: @11; }"
                  "#Playbar #MarksBtn:hover { background: @hover; }"
                  "#Playbar #MarksBtn:checked { background: @accentFill; }");
@@ -118,6 +138,8 @@ void PlayBar::Dress() {
   next_->setIcon(icon("step-forward"));
   slomo_->setIcon(icon("slow"));
   loop_->setIcon(icon("loop"));
+  all_->setIcon(icon("all-videos"));
+  sound_->Dress();
   detach_->setIcon(icon("undock"));
   marksButton_->setIcon(Icon("mark", look.mark, look.mark, look.faintInk));
   Arrange();
@@ -127,15 +149,41 @@ void PlayBar::SetState(bool hasVideo, bool locked) {
   if (hasVideo == hasVideo_ && locked == locked_) return;
   hasVideo_ = hasVideo;
   locked_ = locked;
-  const QString noVideo = hasVideo ? QString() : tr("Open a video first");
-  const QString refused = hasVideo && locked ? tr("The videos are locked: use the bar below") : noVideo;
+  ShowTips();
+}
+
+void PlayBar::SetLoopKey(const QString& key) {
+  const QString name = tr("Loop (%1)").arg(key);
+  if (loop_->accessibleName() == name) return;
+  loop_->setAccessibleName(name);
+  ShowTips();
+}
+
+void PlayBar::SetMovesAll(bool on, bool possible) {
+  all_->setChecked(on);
+  if (std::exchange(several_, possible) == possible) return;
+  all_->setVisible(possible);
+  Arrange();
+}
+
+void PlayBar::SetSound(bool possible, int volume) {
+  sound_->SetVolume(volume);
+  if (std::exchange(hasSound_, possible) == possible) return;
+  sound_->setVisible(possible);
+  Arrange();
+}
+
+/// What each button does, and why it does not.
+void PlayBar::ShowTips() {
+  const QString noVideo = hasVideo_ ? QString() : tr("Open a video first");
+  const QString refused = hasVideo_ && locked_ ? tr("The videos are locked: use the bar below") : noVideo;
   const auto set = [](QToolButton* button, const QString& obstacle) {
     button->setEnabled(obstacle.isEmpty());
     button->setToolTip(button->accessibleName() + (obstacle.isEmpty() ? "" : " \u2014 ") + obstacle);
   };
-  for (QToolButton* button : {back_, next_}) set(button, noVideo);
+  for (QToolButton* button : std::initializer_list<QToolButton*>{back_, next_, speed_, all_}) set(button, noVideo);
   for (QToolButton* button : {rewind_, play_, slomo_, loop_}) set(button, refused);
-  seek_->setEnabled(hasVideo);
+  seek_->setEnabled(hasVideo_);
   for (QWidget* part : {buttons_, static_cast<QWidget*>(seek_)}) part->setToolTip(noVideo);
 }
 
@@ -225,7 +273,9 @@ int PlayBar::CounterWidth() const {
 }
 
 void PlayBar::SizeButtons(int side, int playWidth) {
-  for (QToolButton* button : {rewind_, back_, next_, slomo_, loop_}) button->setFixedSize(side, Px(kButton));
+  for (QToolButton* button : {rewind_, back_, next_, slomo_, loop_, all_, static_cast<QToolButton*>(sound_)})
+    button->setFixedSize(side, Px(kButton));
+  speed_->setFixedSize(side < Px(kButton) ? Px(kSpeedLeast) : Px(kSpeedWidth), Px(kButton));
   play_->setFixedSize(playWidth, Px(kButton));
   buttons_->layout()->setSpacing(side < Px(kButton) ? 1 : 4);
   buttons_->layout()->activate();
@@ -234,6 +284,8 @@ void PlayBar::SizeButtons(int side, int playWidth) {
 /// One row: buttons, the line of the film, marks, counter, words.
 void PlayBar::ArrangeWide() {
   SetSmallWords(false);
+  all_->setVisible(several_);
+  sound_->setVisible(hasSound_);
   detach_->show();
   SizeButtons(Px(kButton), Px(kPlayWidth));
   const int buttonsWidth = buttons_->sizeHint().width();
@@ -265,10 +317,22 @@ void PlayBar::ArrangeWide() {
 void PlayBar::ArrangeNarrow() {
   int left = 0;  // behind the buttons
   int end = width() - kMargin - detach_->width();
+  const auto fits = [&] {
+    left = kMargin - 6 + buttons_->sizeHint().width() + 4;
+    return left <= end;
+  };
+  all_->setVisible(several_);
+  sound_->setVisible(hasSound_);
   for (const QSize& size : kButtonSizes) {
     SizeButtons(Px(size.width()), Px(size.height()));
-    left = kMargin - 6 + buttons_->sizeHint().width() + 4;
+    if (fits()) break;
+  }
+  // In the smallest windows the keys and menus are left.
+  for (QToolButton* spare : std::initializer_list<QToolButton*>{sound_, all_}) {
     if (left <= end) break;
+    spare->hide();
+    buttons_->layout()->activate();
+    fits();
   }
   detach_->setVisible(left <= end);
   if (detach_->isHidden()) end = width() - kMargin;

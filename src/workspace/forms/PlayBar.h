@@ -7,6 +7,8 @@
 #include "workspace/forms/MarkBox.h"
 #include "workspace/forms/PositionLine.h"
 #include "workspace/forms/SeekBar.h"
+#include "workspace/forms/SoundButton.h"
+#include "workspace/forms/SpeedButton.h"
 #include "workspace/forms/StagePanel.h"
 
 namespace kinalyx {
@@ -25,6 +27,14 @@ class PlayBar : public StagePanel {
   void SetPlayPicture(bool playing);
   void SetSlomo(bool down) { slomo_->setChecked(down); }
   void SetLoop(bool down) { loop_->setChecked(down); }
+  void SetSpeed(int percent) { speed_->SetSpeed(percent); }
+  void SetPlayRange(int first, int last) { seek_->SetPlayRange(first, last); }
+  /// The buttons are for all videos in sight; `possible` while there are several.
+  void SetMovesAll(bool on, bool possible);
+  /// The loudspeaker is there for a video that has sound.
+  void SetSound(bool possible, int volume);
+  /// What the loop is called by, for its tip.
+  void SetLoopKey(const QString& key);
   void SetLine(const QString& line, const QString& counter);
   void SetMarks(const std::vector<ShownMark>& marks);
 
@@ -36,6 +46,11 @@ class PlayBar : public StagePanel {
  signals:
   /// The bar wants its docked place again.
   void Redocked();
+  /// The pointer is over a position of the film's line, and `above` a point over it on the stage; or it has gone.
+  void Hovered(int position, QPoint above);
+  void Left();
+  /// Percent.
+  void VolumeChosen(int volume);
 
  protected:
   void resizeEvent(QResizeEvent*) override;
@@ -47,6 +62,7 @@ class PlayBar : public StagePanel {
 
  private:
   QToolButton* Button(const char* name, const QString& tip);
+  void ShowTips();
   void Arrange();
   bool MarksFit(int room);
   void PlaceCard();
@@ -69,6 +85,9 @@ class PlayBar : public StagePanel {
   QToolButton* next_;
   QToolButton* slomo_;
   QToolButton* loop_;
+  SpeedButton* speed_;
+  QToolButton* all_;
+  SoundButton* sound_;
   QToolButton* detach_;
   MarkBox* markBox_;
   QToolButton* marksButton_ = nullptr;  ///< opens the card of the marks
@@ -78,6 +97,8 @@ class PlayBar : public StagePanel {
   bool playing_ = false;
   bool hasVideo_ = true;
   bool locked_ = false;
+  bool several_ = false;
+  bool hasSound_ = false;
 };
 
 }  // namespace kinalyx

@@ -21,6 +21,7 @@ SeekBar::SeekBar(QWidget* parent) : QWidget(parent) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   setFocusPolicy(Qt::NoFocus);
   setCursor(Qt::PointingHandCursor);
+  setMouseTracking(true);
 }
 
 void SeekBar::SetBounds(int minimum, int maximum, int value) {
@@ -48,15 +49,26 @@ void SeekBar::SetMarks(std::vector<int> marks) {
   update();
 }
 
+void SeekBar::SetPlayRange(int first, int last) {
+  if (first == playFirst_ && last == playLast_) return;
+  playFirst_ = first;
+  playLast_ = last;
+  update();
+}
+
 double SeekBar::XOf(int position) const {
   const double span = width() - 2 * kKnob;
   return kKnob + (maximum_ > minimum_ ? span * (position - minimum_) / (maximum_ - minimum_) : 0);
 }
 
+int SeekBar::PositionAt(double x) const {
+  const double span = std::max(1.0, width() - 2 * kKnob);
+  return std::clamp(minimum_ + qRound((x - kKnob) / span * (maximum_ - minimum_)), minimum_, maximum_);
+}
+
 void SeekBar::SeekTo(double x) {
-  const double span = width() - 2 * kKnob;
-  if (maximum_ <= minimum_ || span <= 0) return;
-  const int position = std::clamp(minimum_ + qRound((x - kKnob) / span * (maximum_ - minimum_)), minimum_, maximum_);
+  if (maximum_ <= minimum_) return;
+  const int position = PositionAt(x);
   if (position != value_) {
     SetValue(position);
     emit Sought(position);
@@ -77,6 +89,12 @@ void SeekBar::paintEvent(QPaintEvent*) {
   painter.setBrush(look.accent);
   painter.drawRoundedRect(QRectF(kKnob, y - kTrack / 2, x - kKnob, kTrack), 2, 2);
   painter.setBrush(look.mark);
+  if (playFirst_ > minimum_ || (playLast_ < maximum_ && playLast_ > playFirst_)) {
+    const double from = XOf(std::max(playFirst_, minimum_));
+    const double to = XOf(std::min(playLast_, maximum_));
+    painter.drawRect(QRectF(from, y + 5, to - from, 2));
+    for (const double end : {from, to}) painter.drawRect(QRectF(end - 1, y + 2, 2, 5));
+  }
   for (const int mark : marks_)
     if (mark >= minimum_ && mark <= maximum_) painter.drawRoundedRect(QRectF(XOf(mark) - 1.5, y - 6, 3, 12), 1, 1);
   painter.setBrush(Qt::white);
@@ -97,6 +115,9 @@ void SeekBar::mousePressEvent(QMouseEvent* event) {
 
 void SeekBar::mouseMoveEvent(QMouseEvent* event) {
   if (dragging_) SeekTo(event->position().x());
+  // Under a drag the window itself shows the picture.
+  if (dragging_ || !isEnabled() || maximum_ <= minimum_) emit Left();
+  else emit Hovered(PositionAt(event->position().x()), qRound(event->position().x()));
 }
 
 void SeekBar::mouseReleaseEvent(QMouseEvent*) { dragging_ = false; }

@@ -18,6 +18,8 @@ class SeekBar : public QWidget {
   void SetValue(int value);
   void SetBounds(int minimum, int maximum, int value);
   void SetMarks(std::vector<int> marks);
+  /// The part that is played; what reaches over the ends of the bar is the whole.
+  void SetPlayRange(int first, int last);
   int Value() const { return value_; }
   int Minimum() const { return minimum_; }
   int Maximum() const { return maximum_; }
@@ -28,6 +30,9 @@ class SeekBar : public QWidget {
  signals:
   /// The user wants this position.
   void Sought(int position);
+  /// The pointer is over a position, `x` pixels from the left end; or it has gone.
+  void Hovered(int position, int x);
+  void Left();
 
  protected:
   void paintEvent(QPaintEvent*) override;
@@ -35,14 +40,18 @@ class SeekBar : public QWidget {
   void mouseMoveEvent(QMouseEvent*) override;
   void mouseReleaseEvent(QMouseEvent*) override;
   void wheelEvent(QWheelEvent*) override;
+  void leaveEvent(QEvent*) override { emit Left(); }
 
  private:
   double XOf(int position) const;
+  int PositionAt(double x) const;
   void SeekTo(double x);
 
   int minimum_ = 0;
   int maximum_ = 0;
   int value_ = 0;
+  int playFirst_ = 0;
+  int playLast_ = 0;
   bool dragging_ = false;
   int turned_ = 0;  ///< of the wheel, eighths of a degree that make no notch yet
   std::vector<int> marks_;

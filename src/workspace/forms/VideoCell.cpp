@@ -3,16 +3,23 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "platform/widgets/Figures.h"
 #include "platform/widgets/Icons.h"
 #include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
+#include "workspace/forms/FilmRow.h"
 #include "workspace/forms/PositionLine.h"
 #include "workspace/forms/StageLook.h"
 
 namespace kinalyx {
+namespace {
+
+constexpr double kReach = 11;  // pixels beside the line of a strip that still mean it
+
+}  // namespace
 
 /// The clip area: black round a picture; empty it tells how to fill it.
 class VideoPanel : public QWidget {
@@ -27,8 +34,11 @@ class VideoPanel : public QWidget {
     update();
   }
 
-  void SetReopen(bool possible) {
-    if (std::exchange(reopen_, possible) != possible) update();
+  void SetHints(const QString& openKey, bool canReopen) {
+    if (openKey == openKey_ && canReopen == reopen_) return;
+    openKey_ = openKey;
+    reopen_ = canReopen;
+    update();
   }
 
  protected:
@@ -43,7 +53,7 @@ class VideoPanel : public QWidget {
                        IconPixmap("open", look.faintInk, icon, devicePixelRatioF()));
     painter.setFont(UiFont(kTextPixels));
     painter.setPen(look.faintInk);
-    const QString open = VideoCell::tr("Double click or press O to open a video");
+    const QString open = VideoCell::tr("Double click or press %1 to open a video").arg(openKey_);
     const QString back = VideoCell::tr("Ctrl+Shift+T brings back those that were closed");
     DrawHint(painter, QRect(12, top + icon + 10, width() - 24, height() - (top + icon + 10) - 6),
              reopen_ ? QStringList{open, back} : QStringList{open});
@@ -68,6 +78,7 @@ class VideoPanel : public QWidget {
 
   int slot_;
   bool filled_ = false;
+  QString openKey_ = "O";
   bool reopen_ = false;  // the videos that were closed can come back
 };
 
@@ -93,13 +104,53 @@ VideoCell::VideoCell(int slot, PlayerServices& services, QWidget* parent) : QWid
   WearSheet(lock_, "background: rgba(12, 15, 19, 190); border-radius: @11;");
   FixSize(lock_, {30, 23});
   lock_->hide();
+  zoom_ = new QToolButton(this);
+  zoom_->setObjectName(QString("ZoomFigure%1").arg(slot));
+  zoom_->setFocusPolicy(Qt::NoFocus);
+  zoom_->setToolTip(tr("Not all of the picture is seen: a click brings the whole of it back"));
+  WearSheet(zoom_,
+            "QToolButton { background: rgba(12, 15, 19, 190); color: #e6ecf2; border: none; border-radius: @11;"
+            "  padding: 0 10px; font-size: @12; } QToolButton:hover { background: rgba(46, 54, 64, 230); }");
+  connect(zoom_, &QToolButton::clicked, this, &VideoCell::WholeWanted);
+  zoom_->hide();
+  film_ = new FilmRow(player_->Control(), this);
+  film_->setObjectName(QString("FilmRow%1").arg(slot));
+  connect(film_, &FilmRow::Sought, this, &VideoCell::Sought);
+  connect(film_, &FilmRow::SeekEnded, this, &VideoCell::SeekEnded);
+  connect(film_, &FilmRow::Hovered, this,
+          [this](int position, int x) { emit Hovered(position, QPoint(film_->x() + x, film_->y())); });
+  connect(film_, &FilmRow::Left, this, &VideoCell::Left);
+  film_->hide();
+  setMouseTracking(true);
   hide();
+}
+
+void VideoCell::PlaceFilm(const QRect& place) {
+  film_->setVisible(place.height() > 0);
+  film_->setGeometry(place);
+}
+
+void VideoCell::SetZoomFigure(const QString& figure) {
+  zoom_->setText(figure);
+  zoom_->setVisible(!figure.isEmpty());
+  PlaceZoom();
+}
+
+/// At the foot of the picture, away from its name and from what a tool says.
+void VideoCell::PlaceZoom() {
+  if (zoom_->isHidden()) return;
+  const QFontMetrics metrics(UiFont(12));
+  const QRect room = panel_->geometry();
+  const QSize size(metrics.horizontalAdvance(zoom_->text()) + 22, Px(23));
+  zoom_->setGeometry(room.right() - 8 - size.width(), room.bottom() - 8 - size.height(), size.width(), size.height());
+  zoom_->raise();
 }
 
 void VideoCell::Place(const QRect& cell, const QRect& panel) {
   setGeometry(cell);
   panel_->setGeometry(panel);
   PlaceTitle();
+  PlaceZoom();
   show();
 }
 
@@ -122,7 +173,7 @@ void VideoCell::SetCurrent(bool current) {
   update();
 }
 
-void VideoCell::SetReopen(bool possible) { panel_->SetReopen(possible); }
+void VideoCell::SetHints(const QString& openKey, bool canReopen) { panel_->SetHints(openKey, canReopen); }
 
 void VideoCell::SetTitle(const QString& title) {
   name_ = title;
@@ -152,6 +203,7 @@ void VideoCell::SetPosition(int position, int maximum, const QString& line, bool
   position_ = position;
   maximum_ = maximum;
   line_ = line;
+  if (!film_->isHidden()) film_->SetPosition(position, maximum);
   if (!covered) update(0, panel_->geometry().bottom() + 1, width(), height());
 }
 
@@ -164,29 +216,79 @@ void VideoCell::paintEvent(QPaintEvent* event) {
   painter.setPen(QPen(current_ ? look.accent : CurrentTheme().stageLine, 2));
   painter.drawRoundedRect(QRectF(rect()).adjusted(3, 3, -3, -3), 3, 3);
 
-  const QRect strip(panel_->x(), panel_->geometry().bottom() + 1, panel_->width(),
-                    height() - panel_->geometry().bottom() - 5);
-  if (line_.isEmpty() || strip.height() < 24) return;
-  painter.setFont(UiFont(12));
-  const QString line = FittingLine(painter.fontMetrics(), strip.width() - 24, line_);
-  const int words = FiguresWidth(painter.fontMetrics(), line);
-  const bool tall = strip.height() > Px(50);
-  const double y = tall ? strip.top() + 14 : strip.center().y();
-  const double left = strip.left() + 12;
-  const double right = tall ? strip.right() - 12 : strip.right() - 26 - words;
+  const Strip strip = StripNow();
+  if (strip.words.isEmpty()) return;
   painter.setPen(Qt::NoPen);
-  if (right - left > 20) {
+  if (strip.HasLine()) {
+    const double length = strip.right - strip.left;
     painter.setBrush(CurrentTheme().stageLine);
-    painter.drawRoundedRect(QRectF(left, y - 1.5, right - left, 3), 1.5, 1.5);
+    painter.drawRoundedRect(QRectF(strip.left, strip.y - 1.5, length, 3), 1.5, 1.5);
     painter.setBrush(look.faintInk);
-    const double done = maximum_ > 0 ? (right - left) * position_ / maximum_ : 0;
-    painter.drawRoundedRect(QRectF(left, y - 1.5, done, 3), 1.5, 1.5);
-    painter.drawEllipse(QPointF(left + done, y), 4, 4);
+    const double done = maximum_ > 0 ? length * position_ / maximum_ : 0;
+    painter.drawRoundedRect(QRectF(strip.left, strip.y - 1.5, done, 3), 1.5, 1.5);
+    painter.drawEllipse(QPointF(strip.left + done, strip.y), 4, 4);
   }
+  painter.setFont(UiFont(12));
   painter.setPen(look.faintInk);
-  const QRect room = tall ? QRect(strip.left() + 12, strip.top() + 26, strip.width() - 24, strip.height() - 34)
-                          : strip.adjusted(12, 0, -12, 0);
-  DrawFigures(painter, room, Qt::AlignRight, line);
+  const QRect& all = strip.all;
+  const QRect room = strip.tall ? QRect(all.left() + 12, all.top() + 26, all.width() - 24, all.height() - 34)
+                                : all.adjusted(12, 0, -12, 0);
+  DrawFigures(painter, room, Qt::AlignRight, strip.words);
+}
+
+// ---------------------------------------------------------------- the strip beneath the picture
+
+VideoCell::Strip VideoCell::StripNow() const {
+  Strip strip;
+  const int top = (film_->isHidden() ? panel_ : static_cast<const QWidget*>(film_))->geometry().bottom() + 1;
+  strip.all = QRect(panel_->x(), top, panel_->width(), height() - top - 4);
+  if (line_.isEmpty() || strip.all.height() < 24) return strip;
+  const QFontMetrics metrics(UiFont(12));
+  strip.words = FittingLine(metrics, strip.all.width() - 24, line_);
+  strip.tall = strip.all.height() > Px(50);
+  strip.y = strip.tall ? strip.all.top() + 14 : strip.all.center().y();
+  strip.left = strip.all.left() + 12;
+  strip.right = strip.tall ? strip.all.right() - 12 : strip.all.right() - 26 - FiguresWidth(metrics, strip.words);
+  return strip;
+}
+
+bool VideoCell::Strip::IsOnLine(QPointF pointer) const {
+  return HasLine() && pointer.x() >= left - kReach && pointer.x() <= right + kReach &&
+         std::abs(pointer.y() - y) <= kReach;
+}
+
+int VideoCell::PositionAt(const Strip& strip, double x) const {
+  return std::clamp(qRound((x - strip.left) / (strip.right - strip.left) * maximum_), 0, maximum_);
+}
+
+void VideoCell::SeekTo(double x) {
+  const int position = PositionAt(StripNow(), x);
+  if (position != position_) emit Sought(position);
+}
+
+/// A press on the line moves the film at once, and the window becomes the current one when it is let go: until then
+/// the line stays where it is.
+void VideoCell::mousePressEvent(QMouseEvent* event) {
+  const Strip strip = StripNow();
+  const QPointF at = event->position();
+  seeking_ = event->button() == Qt::LeftButton && maximum_ > 0 && strip.IsOnLine(at);
+  if (!seeking_) return emit Pressed();
+  emit Left();
+  SeekTo(at.x());
+}
+
+void VideoCell::mouseMoveEvent(QMouseEvent* event) {
+  const QPointF at = event->position();
+  if (seeking_) return SeekTo(at.x());
+  const Strip strip = StripNow();
+  const bool over = maximum_ > 0 && strip.IsOnLine(at);
+  setCursor(over ? Qt::PointingHandCursor : Qt::ArrowCursor);
+  if (over) emit Hovered(PositionAt(strip, at.x()), QPoint(qRound(at.x()), strip.all.top()));
+  else emit Left();
+}
+
+void VideoCell::mouseReleaseEvent(QMouseEvent*) {
+  if (std::exchange(seeking_, false)) emit SeekEnded();
 }
 
 }  // namespace kinalyx

@@ -55,8 +55,23 @@ ZoomForm::ZoomForm(ZoomPan& zoom, QWidget* parent) : FloatCard("ZoomForm", tr("Z
   FixSize(whole, {56, 36});
   connect(whole, &QToolButton::clicked, this, [this] { zoom_.Zoom(ZoomMove::Whole); });
   grid->addWidget(whole, 1, 4);
+  figure_ = new FigureLabel("ZoomPercent", {}, content_);
+  figure_->setAlignment(Qt::AlignCenter);
+  figure_->setToolTip(tr("Zoom of the current window"));
+  grid->addWidget(figure_, 3, 4);
+  fit_ = StageButton("ZoomFitBtn", "fit", tr("Fit the whole picture in its window, or fill the window (W)"), content_);
+  fit_->setCheckable(true);
+  FixSize(fit_, {36, 36});
+  connect(fit_, &QToolButton::clicked, this, [this] { zoom_.ToggleFit(); });
+  grid->addWidget(fit_, 3, 1);
+  ShowZoom(1, false);
   Body()->addWidget(content_);
   FirstDress();
+}
+
+void ZoomForm::ShowZoom(double zoom, bool fits) {
+  figure_->setText(tr("%1 %").arg(qRound(zoom * 100)));
+  fit_->setChecked(fits);
 }
 
 void ZoomForm::hideEvent(QHideEvent* event) {

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QToolButton>
+
+#include "platform/widgets/Figures.h"
 #include "workspace/compare/ZoomPan.h"
 #include "workspace/forms/FloatCard.h"
 
@@ -13,6 +16,9 @@ class ZoomForm : public FloatCard {
  public:
   ZoomForm(ZoomPan& zoom, QWidget* parent);
 
+  /// How the current picture stands in its window.
+  void ShowZoom(double zoom, bool fits);
+
  protected:
   void hideEvent(QHideEvent* event) override;
 
@@ -21,6 +27,8 @@ class ZoomForm : public FloatCard {
 
   ZoomPan& zoom_;
   QWidget* content_ = nullptr;
+  FigureLabel* figure_ = nullptr;
+  QToolButton* fit_ = nullptr;
 };
 
 }  // namespace kinalyx

@@ -64,12 +64,12 @@ void Keeping::SetNotes(int slot, const std::string& notes) {
   FieldsChanged(slot);
 }
 
-/// Nobody is disturbed at work: what cannot be written is told beside the video's name, and tried again
-/// and again. Closing the video asks.
-void Keeping::SaveAll() {
+/// Nobody is disturbed at work; closing the video asks.
+bool Keeping::SaveAll() {
   bool all = true;
   for (int slot = 1; slot <= kSlots; ++slot) all = SaveAtRest(slot) && all;
   if (!all) rest_ = HostTimer(host_, kAgain, false, [this] { SaveAll(); });
+  return all;
 }
 
 bool Keeping::SaveAtRest(int slot) {

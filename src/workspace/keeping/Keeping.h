@@ -43,6 +43,9 @@ class Keeping {
   /// Writes the sidecar of a slot now, where it has something to say. Gives what had to be left out, in words for
   /// the user: mostly nothing.
   Result<std::string> SaveData(int slot);
+  /// Writes what is not written yet, of all slots. What cannot be written is told beside the video's name, and tried
+  /// again and again; the result is then false.
+  bool SaveAll();
   /// The same for a video that is about to close: when it fails the user may try again, lose the new work, or
   /// keep the video open, which is the only case of false.
   bool SaveOrAsk(int slot);
@@ -67,7 +70,6 @@ class Keeping {
   Kept& At(int slot) { return kept_[static_cast<std::size_t>(slot - 1)]; }
   SlotData ReadBoth(const std::string& videoPath, const VideoInfo& info) const;
   Result<std::string> Write(int slot, SlotData mine);
-  void SaveAll();
   bool SaveAtRest(int slot);
   void ShowRefused(int slot, bool refused);
 

@@ -16,11 +16,15 @@ class IStageView {
   /// Places `BorderPanel` and, inside it, `VideoPanel` (relative to the border).
   virtual void PlaceCell(int slot, const TwipRect& border, const TwipRect& video) = 0;
   virtual void HideCell(int slot) = 0;
+  /// Places the row of pictures of the video, relative to the border; an empty one is hidden.
+  virtual void PlaceFilm(int slot, const TwipRect& place) = 0;
   /// Places `MP` inside its `VideoPanel`, or hides it.
   virtual void PlacePlayer(int slot, const TwipRect& place, bool shown) = 0;
   virtual void PaintBorder(int slot, bool current) = 0;
   /// The name over the picture; empty for an empty slot.
   virtual void SetCellTitle(int slot, const std::string& title) = 0;
+  /// What a picture that is not seen as a whole says of itself, such as its zoom; empty for the others.
+  virtual void SetZoomFigure(int slot, const std::string& figure) = 0;
   /// Where the docked play bar stands, relative to `MainPanel`.
   virtual void PlacePlayBar(const TwipRect& place) = 0;
   /// Takes the keyboard focus off a pressed button.

@@ -69,7 +69,9 @@ double NearestZoom(double zoom) { return std::round(std::clamp(zoom, kSmallestZo
 
 TwipRect PlaceVideo(const VideoPlacement& video, int panelWidth, int panelHeight) {
   if (video.VideoWidth <= 0 || video.VideoHeight <= 0) return {};
-  const int height = static_cast<int>(panelHeight * video.Zoom);
+  const double shape = video.Wide ? 1.77777777777778 : static_cast<double>(video.VideoWidth) / video.VideoHeight;
+  const double whole = video.Fits ? std::min<double>(panelHeight, panelWidth / shape) : panelHeight;
+  const int height = static_cast<int>(whole * video.Zoom);
   const int width = video.Wide ? static_cast<int>(height * 1.77777777777778)
                                : static_cast<int>(static_cast<double>(height) * video.VideoWidth / video.VideoHeight);
   return {static_cast<int>(std::floor((panelWidth - width) / 2.0 + video.PanX * video.Zoom)),

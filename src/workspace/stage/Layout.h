@@ -65,13 +65,15 @@ struct VideoPlacement {
   int VideoWidth = 0;  ///< pixels of the file's picture
   int VideoHeight = 0;
   bool Wide = false;  ///< shown 16:9
-  double Zoom = 1.0;  ///< 1 fills the height of the cell
+  double Zoom = 1.0;  ///< 1 fills the height of the cell, or is the largest size at which all of it is seen
   double PanX = 0;    ///< twips before zoom
   double PanY = 0;
+  bool Fits = false;  ///< zoom 1 shows all of it
 };
 
 /// Where the player stands in a cell of this size: centred, as high as the cell at zoom 1, in the
-/// video's proportion; it may reach beyond the cell. An empty rectangle for a video without a size.
+/// video's proportion; it may reach beyond the cell, but for one that fits at that zoom. An empty rectangle for a video
+/// without a size.
 TwipRect PlaceVideo(const VideoPlacement& video, int panelWidth, int panelHeight);
 
 /// The last slot of the top row that "fill top" reaches: 2 of "4", 3 of "6", 4 of "8"; 0 for the others.

@@ -6,8 +6,13 @@ namespace kinalyx {
 
 TwipRect PlayerPlace(const Slot& slot) {
   return PlaceVideo(
-      {slot.MP->VideoWidth(), slot.MP->VideoHeight(), slot.data.Wide, slot.VideoZoom, slot.PanX, slot.PanY},
+      {slot.MP->VideoWidth(), slot.MP->VideoHeight(), slot.data.Wide, slot.VideoZoom, slot.PanX, slot.PanY, slot.Fits},
       slot.panel.Width, slot.panel.Height);
+}
+
+bool ReachesOver(const Slot& slot) {
+  const TwipRect place = PlayerPlace(slot);
+  return place.Width > slot.panel.Width + kTwipsPerPixel || place.Height > slot.panel.Height + kTwipsPerPixel;
 }
 
 double PixelRatio(const Slot& slot) {

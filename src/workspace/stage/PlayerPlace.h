@@ -9,6 +9,8 @@ namespace kinalyx {
 
 /// The place of the player in its cell's clip area.
 TwipRect PlayerPlace(const Slot& slot);
+/// The picture is larger than its clip area, by more than a rounding.
+bool ReachesOver(const Slot& slot);
 /// Pixels of the player's surface to one pixel of the layout: 2 on a screen of double density.
 double PixelRatio(const Slot& slot);
 /// Twips of the layout as pixels of surfaces, rounded down.

@@ -13,7 +13,9 @@ namespace {
 constexpr int kBorder = 4 * kTwipsPerPixel;      // gap and frame round a cell
 constexpr int kBarHeight = 40 * kTwipsPerPixel;  // strip under the picture where the play bar stands
 constexpr int kTallBarHeight = 72 * kTwipsPerPixel;
-constexpr int kNarrowCell = 900 * kTwipsPerPixel;  // below this width the bar takes two rows
+constexpr int kNarrowCell = 960 * kTwipsPerPixel;  // below this width the bar takes two rows
+constexpr int kFilmHeight = 40 * kTwipsPerPixel;   // row of pictures of the video
+constexpr int kFilmFrom = 480 * kTwipsPerPixel;    // cells of this height have room for it
 constexpr int kFootHeight = 150 * kTwipsPerPixel;
 
 /// "Erica Sample · (003) FO driver" from the path of a video.
@@ -34,6 +36,8 @@ std::string NameOfVideo(const std::string& path) {
 Stage::Stage(IHost& host, const Settings& settings, IStageView& view, IStageEvents& events)
     : settings_(settings), view_(view), news_(host, events) {
   if (const ScreenMode* mode = FindScreenMode(settings.ScreenModeNumber())) ScreenLayout = mode->Code;
+  fitByDefault_ = FitByDefault();
+  for (Slot& slot : slots_) slot.Fits = fitByDefault_;
 }
 
 void Stage::AttachPlayer(int slot, AVIControl& player) {
@@ -63,6 +67,7 @@ void Stage::Clear(int slot) {
   empty.MP = at.MP;
   empty.cell = at.cell;
   empty.panel = at.panel;
+  empty.Fits = FitByDefault();
   at = std::move(empty);
   ShowTitle(slot);
 }
@@ -109,7 +114,10 @@ void Stage::FormReset() {
                 std::max(at.cell.Height - 2 * kBorder - (BarHidden ? 0 : BarHeight(at.cell)), kTwipsPerPixel)};
     at.foot = slot == foot_ ? std::min(kFootHeight, at.panel.Height / 2) : 0;
     at.panel.Height -= at.foot;
+    const int film = FilmHeight(at.cell);
+    at.panel.Height -= film;
     view_.PlaceCell(slot, at.cell, at.panel);
+    view_.PlaceFilm(slot, {kBorder, kBorder + at.panel.Height + at.foot, at.panel.Width, film});
     view_.PaintBorder(slot, slot == CurrentWindow);
     MPResize(slot);
   }
@@ -123,6 +131,11 @@ int Stage::BarHeight(const TwipRect& cell) const {
   return static_cast<int>(std::lround(height * BarScale));
 }
 
+int Stage::FilmHeight(const TwipRect& cell) const {
+  const bool room = cell.Height >= kFilmFrom * BarScale && !BarHidden && !MultiFrame();
+  return room && settings_.BarPictures == 1 ? static_cast<int>(std::lround(kFilmHeight * BarScale)) : 0;
+}
+
 void Stage::MPResize(int slot) {
   Slot& at = At(slot);
   if (!HasVideo(slot)) return HidePlayer(slot);
@@ -132,10 +145,42 @@ void Stage::MPResize(int slot) {
   if (oldWidth != at.MP->ControlWidthPixels() || oldHeight != at.MP->ControlHeightPixels())
     news_.Note(kPicturesChanged);
   at.MP->Refresh();
+  ShowZoom(slot);
+}
+
+void Stage::HidePlayer(int slot) {
+  view_.PlacePlayer(slot, {}, false);
+  view_.SetZoomFigure(slot, "");
+}
+
+/// A picture that is not seen as a whole says so.
+void Stage::ShowZoom(int slot) {
+  const Slot& at = At(slot);
+  const bool moved = at.VideoZoom != 1 || at.PanX != 0 || at.PanY != 0;
+  const std::string percent = std::to_string(std::lround(at.VideoZoom * 100)) + " %";
+  view_.SetZoomFigure(slot, moved ? percent : ReachesOver(at) ? "Sides cut off" : "");
 }
 
 void Stage::ShowColour(int slot) {
   if (IsShown(slot)) view_.PlacePlayer(slot, {0, 0, At(slot).panel.Width, At(slot).panel.Height}, true);
+}
+
+void Stage::SetFits(int slot, bool on) {
+  Slot& at = At(slot);
+  at.Fits = on;
+  at.PanX = at.PanY = 0;
+  at.VideoZoom = 1;
+  MPResize(slot);
+  news_.Note(kCommandsChanged);
+}
+
+void Stage::SettingsChanged() {
+  FormReset();
+  if (std::exchange(fitByDefault_, FitByDefault()) == FitByDefault()) return;
+  for (int slot = 1; slot <= kSlots; ++slot) {
+    if (HasVideo(slot) && IsShown(slot)) SetFits(slot, FitByDefault());
+    else At(slot).Fits = FitByDefault();
+  }
 }
 
 void Stage::SetPlayBar() {

@@ -25,6 +25,7 @@ struct Slot {
   double VideoZoom = 1.0;
   double PanX = 0;  ///< twips before zoom
   double PanY = 0;
+  bool Fits = false;      ///< zoom 1 shows all of the picture; else it fills the height of its cell
   int SlotFrameRate = 0;  ///< set by the user; 0 means the video's own
   bool refused = false;   ///< its work could not be written when it was tried last
 
@@ -81,9 +82,14 @@ class Stage {
   /// Places the player of a slot in its cell; its drawings follow its size.
   void MPResize(int slot);
   /// A slot's video has come or gone: its player is shown in its place, or hidden.
-  void HidePlayer(int slot) { view_.PlacePlayer(slot, {}, false); }
+  void HidePlayer(int slot);
   /// Fills a slot's cell with its player, which has nothing to show but its colour.
   void ShowColour(int slot);
+  /// Shows all of a slot's picture, or lets it fill the height of its cell; at zoom 1 and in the middle.
+  void SetFits(int slot, bool on);
+  /// Takes over from the settings what stands beneath the pictures, and whether they fit or fill where that has
+  /// changed there.
+  void SettingsChanged();
   /// Docks the play bar under the picture of the current window.
   void SetPlayBar();
   /// A panel stands at the foot of a slot's picture, which makes room for it; 0 for none.
@@ -126,14 +132,18 @@ class Stage {
  private:
   static bool HoldsVideo(const Slot& slot) { return !slot.path.empty(); }
   void ShowLayout(int window);
+  bool FitByDefault() const { return settings_.VideoFit == 1; }
+  void ShowZoom(int slot);
   int BarHeight(const TwipRect& cell) const;
+  int FilmHeight(const TwipRect& cell) const;
 
   const Settings& settings_;
   IStageView& view_;
   StageNews news_;
   std::array<Slot, kSlots> slots_;
   StageHome home_;
-  int foot_ = 0;  ///< slot that gives room to a panel; 0 none
+  bool fitByDefault_ = false;  ///< what the settings said last
+  int foot_ = 0;               ///< slot that gives room to a panel; 0 none
 };
 
 }  // namespace kinalyx

@@ -22,8 +22,12 @@ class ITransportView {
   virtual void SetCellPosition(int slot, int position, int maximum, const std::string& line) = 0;
   virtual void SetScrollRange(int minimum, int maximum) = 0;
   virtual void SetScrollValue(int position) = 0;
+  /// The part of the current video that is played; from its first to its last position for the whole.
+  virtual void SetPlayRange(int first, int last) = 0;
   virtual void SetPlayPicture(bool playing) = 0;
   virtual void SetSlomoButton(bool down) = 0;
+  /// Percent of the video's own speed.
+  virtual void SetSpeed(int percent) = 0;
   virtual void SetLoopButton(bool down) = 0;
   /// The transport's line, and the frame counter's text (empty: not shown).
   virtual void SetDisplayLine(const std::string& line, const std::string& counter) = 0;

@@ -7,6 +7,7 @@
 #include <utility>
 #include <cstdlib>
 
+#include "workspace/transport/Speeds.h"
 #include "workspace/videos/PlayerMoves.h"
 
 namespace kinalyx {
@@ -14,7 +15,9 @@ namespace {
 
 constexpr int kRepeatDelay = 350;    // milliseconds before a held step button repeats
 constexpr int kRepeatInterval = 60;  // milliseconds between two steps of a held button
+constexpr int kAnnounced = 1500;     // milliseconds that a word for a moment stands
 constexpr std::size_t kMarks = 10;
+constexpr int kLeap = 10;  // pictures
 
 /// Seconds with two figures after the point and none before it below one: "1.23", ".50".
 std::string Seconds(double seconds) {
@@ -28,46 +31,169 @@ std::string Seconds(double seconds) {
 
 Transport::Transport(IHost& host, Settings& settings, Stage& stage, Keeping& keeping, LockedVideos& locks,
                      ITransportView& view)
-    : host_(host), settings_(settings), stage_(stage), keeping_(keeping), locks_(locks), view_(view) {}
+    : host_(host),
+      settings_(settings),
+      stage_(stage),
+      keeping_(keeping),
+      locks_(locks),
+      view_(view),
+      all_(stage, locks) {}
 
 /// The player of the current window; null while it is empty.
-AVIControl* Transport::Player() {
+AVIControl* Transport::Player() const {
   return stage_.HasVideo(stage_.CurrentWindow) ? &stage_.MP(stage_.CurrentWindow) : nullptr;
 }
 
+bool Transport::Playing() const {
+  const AVIControl* player = Player();
+  return player && (player->IsPlaying() || locks_.PlayingTogether(stage_.CurrentWindow));
+}
+
+// ---------------------------------------------------------------- play, step and seek
+
 void Transport::TogglePlay() {
-  if (AVIControl* player = Locked() ? nullptr : Player()) {
-    view_.SetPlayPicture(!player->IsPlaying());
-    kinalyx::TogglePlay(*player);
+  if (!Refused()) PlayPause();
+  stage_.FocusKeyBox();
+}
+
+void Transport::PlayPause() {
+  if (AVIControl* player = Player()) {
+    if (MovesAll()) {
+      all_.TogglePlay();
+      ShowCurrent();
+    } else if (Locked()) {
+      locks_.PlayTogether();
+    } else {
+      view_.SetPlayPicture(!player->IsPlaying());
+      kinalyx::TogglePlay(*player);
+    }
   }
   stage_.FocusKeyBox();
 }
 
 void Transport::Rewind() {
-  if (AVIControl* player = Locked() ? nullptr : Player()) GoTo(*player, 0);
+  if (AVIControl* player = Refused() ? nullptr : Player()) {
+    if (MovesAll()) {
+      all_.Rewind();
+    } else if (Locked()) {
+      locks_.DualControlRewind();
+    } else {
+      GoTo(*player, 0);
+    }
+  }
   stage_.FocusKeyBox();
 }
 
-void Transport::StepForward() {
-  if (AVIControl* player = Locked() ? nullptr : Player()) StepBy(*player, 1);
+void Transport::Step(bool forward) {
+  AVIControl* player = Refused() ? nullptr : Player();
+  if (!player) return;
+  if (MovesAll()) {
+    all_.Step(forward);
+  } else if (Locked()) {
+    locks_.DualControlStep(forward);
+  } else {
+    StepBy(*player, forward ? 1 : -1);
+  }
 }
 
-void Transport::StepBack() {
-  if (AVIControl* player = Locked() ? nullptr : Player()) StepBy(*player, -1);
+void Transport::Seek(int position) { Seek(stage_.CurrentWindow, position); }
+
+void Transport::Seek(int slot, int position) {
+  if (stage_.HasVideo(slot)) locks_.Seek(slot, position);
 }
 
-void Transport::Seek(int position) {
-  if (Player()) locks_.Seek(stage_.CurrentWindow, position);
+void Transport::Leap(bool forward) {
+  const int move = forward ? kLeap : -kLeap;
+  if (MovesAll()) {
+    all_.Move(move);
+  } else if (AVIControl* player = Player()) {
+    Seek(player->Position() + move);
+  }
 }
+
+void Transport::ToFirst() {
+  if (Player()) Seek(locks_.BarOf(stage_.CurrentWindow).lowest);
+}
+
+void Transport::ToLast() {
+  if (Player()) Seek(locks_.BarOf(stage_.CurrentWindow).highest);
+}
+
+void Transport::PlayForward() { Play(true); }
+void Transport::PlayBackward() { Play(false); }
+
+void Transport::Play(bool forward) {
+  AVIControl* player = Player();
+  if (!player) return;
+  const bool back = player->PlaysBack() || locks_.PlaysBack(stage_.CurrentWindow);
+  if (Playing() && back != forward) return SetSpeed(NextSpeed(Speed(), true));
+  Pause();
+  if (MovesAll()) {
+    forward ? all_.TogglePlay() : all_.PlayBack();
+  } else if (Locked()) {
+    locks_.PlayTogether(stage_.CurrentWindow, forward);
+  } else {
+    forward ? kinalyx::TogglePlay(*player) : player->PlayBack();
+  }
+  ShowCurrent();
+}
+
+void Transport::Pause() {
+  if (MovesAll()) return all_.Pause();
+  locks_.StopTogether(stage_.CurrentWindow);
+  if (AVIControl* player = Player()) player->StopPlay();
+}
+
+void Transport::ToggleMovesAll() {
+  movesAll_ = !MovesAll();
+  stage_.News().Note(kVideoChanged);
+}
+
+// ---------------------------------------------------------------- the part that is played
+
+bool Transport::HasRange() const {
+  const AVIControl* player = Player();
+  return player && player->PlayRange() != AVIControl::Range{0, player->VideoLength() - 1};
+}
+
+void Transport::SetRange(int first, int last) {
+  Player()->setPlayRange(AVIControl::Range{first, last});
+  ShowCurrent();
+  stage_.News().Note(kCommandsChanged);
+}
+
+void Transport::ToggleRangeStart() {
+  AVIControl* player = Player();
+  if (!player) return;
+  const auto [first, last] = player->PlayRange();
+  const int here = player->Position();
+  if (here == first) return SetRange(0, last);
+  SetRange(here, here < last ? last : player->VideoLength() - 1);
+}
+
+void Transport::ToggleRangeEnd() {
+  AVIControl* player = Player();
+  if (!player) return;
+  const auto [first, last] = player->PlayRange();
+  const int here = player->Position();
+  if (here == last) return SetRange(first, player->VideoLength() - 1);
+  SetRange(here > first ? first : 0, here);
+}
+
+void Transport::PlayWholeVideo() {
+  if (AVIControl* player = Player()) SetRange(0, player->VideoLength() - 1);
+}
+
+// ---------------------------------------------------------------- a step button that is held
 
 void Transport::StepPressed(bool forward, float x) {
   ForwardHeld_ = forward;
   BackHeld_ = !forward;
   HeldStartX_ = HeldX_ = x;
-  if (Locked()) {
+  if (Locked() && !MovesAll()) {
     locks_.DualControlStep(forward);
   } else {
-    forward ? StepForward() : StepBack();
+    Step(forward);
   }
   FRtimer_ = HostTimer(host_, kRepeatDelay, false,
                        [this] { FRtimer_ = HostTimer(host_, kRepeatInterval, true, [this] { HeldStep(); }); });
@@ -81,6 +207,7 @@ void Transport::StepReleased() {
 void Transport::HeldStep() {
   AVIControl* player = Player();
   if (!player) return;
+  if (MovesAll()) return all_.Step(ForwardHeld_);
   if (Locked()) return locks_.DualControlStep(ForwardHeld_);
   const int step = std::abs(static_cast<int>(std::floor(HeldX_ - HeldStartX_))) / 100;
   if (ForwardHeld_ && player->Position() + step < player->VideoLength() - 1)
@@ -88,37 +215,58 @@ void Transport::HeldStep() {
   if (BackHeld_ && player->Position() - step > 0) player->Play(player->Position() - step - 1);
 }
 
+// ---------------------------------------------------------------- speed and loop
+
 void Transport::ToggleSlomo() {
-  if (AVIControl* player = Locked() ? nullptr : Player()) ToggleSlow(*player, settings_.SlomoSpeed);
+  if (AVIControl* player = Refused() ? nullptr : Player()) {
+    if (MovesAll() || Locked()) {
+      SetSpeed(Speed() == 100 ? std::clamp<int>(settings_.SlomoSpeed, 1, 100) : 100);
+    } else {
+      ToggleSlow(*player, settings_.SlomoSpeed);
+    }
+  }
   ShowCurrent();
+}
+
+int Transport::Speed() const {
+  if (Locked()) return locks_.TogetherSpeed();
+  const AVIControl* player = Player();
+  return player ? player->Speed() : 100;
+}
+
+void Transport::SetSpeed(int percent) {
+  if (AVIControl* player = Player()) {
+    if (MovesAll()) {
+      all_.SetSpeed(percent);
+    } else if (Locked()) {
+      locks_.setTogetherSpeed(percent);
+    } else {
+      player->setSpeed(percent);
+    }
+  }
+  ShowCurrent();
+  stage_.FocusKeyBox();
 }
 
 void Transport::ToggleLoop() {
-  if (AVIControl* player = Locked() ? nullptr : Player()) SetLoop(*player, !player->Repeat());
-  ShowCurrent();
-}
-
-/// "Loop all" takes the videos in sight that move by themselves.
-bool Transport::CanLoop(int slot) const {
-  return stage_.IsShown(slot) && stage_.HasVideo(slot) && !locks_.IsLocked(slot);
-}
-
-bool Transport::AllLooping() const {
-  bool any = false;
-  for (int slot = 1; slot <= kSlots; ++slot) {
-    if (!CanLoop(slot)) continue;
-    if (!stage_.MP(slot).Repeat()) return false;
-    any = true;
+  if (AVIControl* player = Refused() ? nullptr : Player()) {
+    if (MovesAll()) {
+      all_.ToggleLoop();
+    } else if (Locked()) {
+      locks_.setTogetherRepeat(!locks_.TogetherRepeat());
+    } else {
+      SetLoop(*player, !player->Repeat());
+    }
   }
-  return any;
+  ShowCurrent();
 }
 
 void Transport::ToggleLoopAll() {
-  const bool on = !AllLooping();
-  for (int slot = 1; slot <= kSlots; ++slot)
-    if (CanLoop(slot)) SetLoop(stage_.MP(slot), on);
+  all_.ToggleLoop();
   ShowCurrent();
 }
+
+// ---------------------------------------------------------------- marks
 
 void Transport::AddMark() {
   Slot& slot = stage_.Current();
@@ -168,6 +316,8 @@ void Transport::ShowMarks() {
   view_.SetMarks(marks);
 }
 
+// ---------------------------------------------------------------- what is shown
+
 /// Positions per second as they were taken, where they are told otherwise than by the times of the pictures; else 0.
 double Transport::KnownRate(int slot) const {
   const Slot& at = stage_.At(slot);
@@ -193,10 +343,10 @@ void Transport::SetTrueRate(double rate) {
   stage_.News().Note(kVideoChanged);
 }
 
-double Transport::SecondsAt(int slot) const {
+double Transport::SecondsAt(int slot, int position) const {
   const AVIControl& player = stage_.MP(slot);
   const bool ownTimes = player.Info() && player.Info()->rateVaries && KnownRate(slot) <= 0;
-  return ownTimes ? player.TimeOf(player.Position()) / 1000 : player.Position() / DisplayRate(slot);
+  return ownTimes ? player.TimeOf(position) / 1000 : position / DisplayRate(slot);
 }
 
 double Transport::DisplayRate(int slot) const {
@@ -213,9 +363,19 @@ std::string Transport::DisplayLine(int slot) const {
                      at.MP->VideoLength() - 1);
 }
 
+std::string Transport::TimeText(int slot, int position) const {
+  return fmt::format("{} s | {}", Seconds(SecondsAt(slot, position)), position);
+}
+
 void Transport::DisplayData(const std::string& text) {
+  announced_.Stop();
   view_.SetDisplayText(text);
   if (text.empty()) ShowPosition();
+}
+
+void Transport::Announce(const std::string& text) {
+  DisplayData(text);
+  announced_ = HostTimer(host_, kAnnounced, false, [this] { DisplayData(""); });
 }
 
 void Transport::ShowPosition() {
@@ -240,6 +400,8 @@ void Transport::ScrollBarSetup() {
   AVIControl* player = Player();
   const auto [lowest, highest] = locks_.BarOf(stage_.CurrentWindow);
   view_.SetScrollRange(lowest, highest);
+  const AVIControl::Range played = player ? player->PlayRange() : AVIControl::Range{lowest, highest};
+  view_.SetPlayRange(played.first, played.last);
   view_.SetScrollValue(player ? player->Position() : 0);
 }
 
@@ -248,9 +410,11 @@ void Transport::ShowCurrent() {
   ScrollBarSetup();
   ShowPosition();
   ShowCell(stage_.CurrentWindow);
-  view_.SetSlomoButton(player && player->Speed() != 100);
-  view_.SetLoopButton(player && player->Repeat());
-  view_.SetPlayPicture(player && (player->IsPlaying() || locks_.PlayingTogether(stage_.CurrentWindow)));
+  const bool ofLock = Locked() && !Refused();
+  view_.SetSlomoButton(player && (ofLock ? Speed() : player->Speed()) != 100);
+  view_.SetSpeed(Speed());
+  view_.SetLoopButton(player && (ofLock ? locks_.TogetherRepeat() : player->Repeat()));
+  view_.SetPlayPicture(MovesAll() ? all_.Playing() : Playing());
   ShowMarks();
 }
 
@@ -267,7 +431,7 @@ void Transport::Signal(int slot) {
 }
 
 void Transport::Notify(int slot) {
-  if (slot == stage_.CurrentWindow) ShowCurrent();
+  if (slot == stage_.CurrentWindow || MovesAll()) ShowCurrent();
 }
 
 }  // namespace kinalyx

@@ -17,14 +17,18 @@ void StepBy(AVIControl& player, int positions) {
 
 void TogglePlay(AVIControl& player) {
   if (player.IsPlaying()) return player.StopPlay();
-  const int last = player.VideoLength() - 1;
-  player.Play(player.Position() >= last - 1 ? 0 : player.Position(), last);
+  const auto [first, last] = player.PlayRange();
+  const int position = player.Position();
+  player.Play(position < first || position >= last - 1 ? first : position, last);
 }
 
 void SetLoop(AVIControl& player, bool on) {
   player.StopPlay();
   player.setRepeat(on);
-  if (on) player.Play(player.Position(), player.VideoLength() - 1);
+  if (!on) return;
+  const auto [first, last] = player.PlayRange();
+  const int position = player.Position();
+  player.Play(position < first || position > last ? first : position, last);
 }
 
 void ToggleSlow(AVIControl& player, int slow) {

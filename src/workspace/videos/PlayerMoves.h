@@ -11,7 +11,8 @@ namespace kinalyx {
 void GoTo(AVIControl& player, int position);
 /// One or more positions on or back; at the end of the video nothing moves.
 void StepBy(AVIControl& player, int positions);
-/// Plays to the end, or stops. At the last position or the one before, it plays from the start.
+/// Plays to the end, or stops. At the last position or the one before, it plays from the start. Where the user
+/// wants a part of the video, the part is played.
 void TogglePlay(AVIControl& player);
 /// Plays on to the end and then again and again, or stops.
 void SetLoop(AVIControl& player, bool on);

@@ -39,6 +39,7 @@ std::optional<StoodVideo> VideoOf(const Json& json) {
   video.path = Member<std::string>(json, "path", {});
   video.moment = {Whole(json, "frame", 0, kMostFrames, 0), Whole(json, "field", 0, 1, 0) == 1};
   video.flipped = Member(json, "flipped", false);
+  video.fits = Member(json, "fits", false);
   const double zoom = Member(json, "zoom", 1.0);
   video.zoom = zoom > 0 && zoom < kFarthest ? zoom : 1;
   video.panX = std::clamp(Member(json, "panX", 0.0), -kFarthest, kFarthest);
@@ -76,6 +77,7 @@ Outcome WriteSession(const std::string& path, const StoodStage& stage) {
                               {"field", video.moment.SecondField ? 1 : 0},
                               {"flipped", video.flipped},
                               {"zoom", video.zoom},
+                              {"fits", video.fits},
                               {"panX", video.panX},
                               {"panY", video.panY}});
   return WriteWholeFile(path, json.dump(1, ' ', false, Json::error_handler_t::replace) + "\n");

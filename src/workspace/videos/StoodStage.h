@@ -17,6 +17,7 @@ struct StoodVideo {
   VideoMoment moment;
   bool flipped = false;
   double zoom = 1;
+  bool fits = false;  ///< all of it is seen
   double panX = 0;  ///< twips before zoom
   double panY = 0;
 

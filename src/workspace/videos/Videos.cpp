@@ -190,9 +190,14 @@ void Videos::UndoLastOpen() {
 
 StoodVideo Videos::Stood(int slot) const {
   const Slot& at = stage_.At(slot);
-  return {
-      slot,    at.path, VideoMoment::At(at.MP->Position(), at.MP->SplitFields()), at.MP->FlipHorizontal(), at.VideoZoom,
-      at.PanX, at.PanY};
+  return {.slot = slot,
+          .path = at.path,
+          .moment = VideoMoment::At(at.MP->Position(), at.MP->SplitFields()),
+          .flipped = at.MP->FlipHorizontal(),
+          .zoom = at.VideoZoom,
+          .fits = at.Fits,
+          .panX = at.PanX,
+          .panY = at.PanY};
 }
 
 StoodStage Videos::Stood() const {
@@ -228,6 +233,7 @@ std::optional<int> Videos::Reopen(const StoodVideo& video) {
   if (slot > kSlots || !OpenVideo(slot, video.path)) return std::nullopt;
   Slot& at = stage_.At(slot);
   at.VideoZoom = video.zoom;
+  at.Fits = video.fits;
   at.PanX = video.panX;
   at.PanY = video.panY;
   if (video.flipped) Flip(slot);
