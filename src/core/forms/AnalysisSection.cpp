@@ -96,7 +96,7 @@ void AnalysisSection::AddShowing() {
   rows->addWidget(MakeLabel({}, "A video in its window", "caption"));
   fits_ = AddRadios(*rows, "FitOpt", {"Fills the height of the window", "Is seen as a whole"});
   rows->addSpacing(6);
-  barPictures_ = new QCheckBox("Pictures of the video over its bar, where there is room");
+  barPictures_ = new QCheckBox("Pictures of the video over its bar");
   barPictures_->setObjectName("BarPicturesCheck");
   rows->addWidget(barPictures_);
   connect(fits_, &QButtonGroup::idClicked, this, [this](int fit) { StoreAndTell(settings_.VideoFit, fit); });

@@ -226,7 +226,7 @@ FrameHandle VideoFile::Engine::GlimpseOf(int& picture) {
   const int decoded = pictures.Nearest(picture);
   if (standIn >= 0 && away(standIn) <= away(decoded)) {
     const StandInShelf::Bytes packed = pass->Get(standIn);
-    if (FrameHandle frame = packed ? unpacker.Unpack(*packed) : nullptr) {
+    if (FrameHandle frame = packed ? coder.Unpack(*packed) : nullptr) {
       picture = standIn;
       return frame;
     }
