@@ -98,6 +98,7 @@ void AnalysisSection::AddShowing() {
   rows->addSpacing(6);
   barPictures_ = new QCheckBox("Pictures of the video over its bar");
   barPictures_->setObjectName("BarPicturesCheck");
+  barPictures_->setToolTip("Where the window is high enough");
   rows->addWidget(barPictures_);
   connect(fits_, &QButtonGroup::idClicked, this, [this](int fit) { StoreAndTell(settings_.VideoFit, fit); });
   connect(barPictures_, &QCheckBox::toggled, this,

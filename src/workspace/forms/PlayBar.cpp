@@ -272,6 +272,13 @@ int PlayBar::CounterWidth() const {
              : std::max(Px(kCounter), FiguresWidth(counter_->fontMetrics(), counter_->text()) + 10);
 }
 
+/// What gives way in the smallest windows.
+void PlayBar::ShowSpares() {
+  speed_->show();
+  all_->setVisible(several_);
+  sound_->setVisible(hasSound_);
+}
+
 void PlayBar::SizeButtons(int side, int playWidth) {
   for (QToolButton* button : {rewind_, back_, next_, slomo_, loop_, all_, static_cast<QToolButton*>(sound_)})
     button->setFixedSize(side, Px(kButton));
@@ -284,8 +291,7 @@ void PlayBar::SizeButtons(int side, int playWidth) {
 /// One row: buttons, the line of the film, marks, counter, words.
 void PlayBar::ArrangeWide() {
   SetSmallWords(false);
-  all_->setVisible(several_);
-  sound_->setVisible(hasSound_);
+  ShowSpares();
   detach_->show();
   SizeButtons(Px(kButton), Px(kPlayWidth));
   const int buttonsWidth = buttons_->sizeHint().width();
@@ -321,14 +327,13 @@ void PlayBar::ArrangeNarrow() {
     left = kMargin - 6 + buttons_->sizeHint().width() + 4;
     return left <= end;
   };
-  all_->setVisible(several_);
-  sound_->setVisible(hasSound_);
+  ShowSpares();
   for (const QSize& size : kButtonSizes) {
     SizeButtons(Px(size.width()), Px(size.height()));
     if (fits()) break;
   }
   // In the smallest windows the keys and menus are left.
-  for (QToolButton* spare : std::initializer_list<QToolButton*>{sound_, all_}) {
+  for (QToolButton* spare : std::initializer_list<QToolButton*>{sound_, all_, speed_}) {
     if (left <= end) break;
     spare->hide();
     buttons_->layout()->activate();

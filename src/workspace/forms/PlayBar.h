@@ -63,6 +63,7 @@ class PlayBar : public StagePanel {
  private:
   QToolButton* Button(const char* name, const QString& tip);
   void ShowTips();
+  void ShowSpares();
   void Arrange();
   bool MarksFit(int room);
   void PlaceCard();
