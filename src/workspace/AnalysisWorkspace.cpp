@@ -37,9 +37,9 @@ AnalysisWorkspace::AnalysisWorkspace(IHost& host, Settings& settings, PlaySchedu
       notes_(stage_, keeping_, view),
       rateTest_(host, stage_),
       ruler_(host, settings, tools_, *this, stage_, keeping_, view),
-      menuBar_({stage_, keeping_, videos_, transport_, tools_, edits_, times_, timer_, notes_, rateTest_, ruler_,
-                compare_},
-               view, navigation) {
+      menuBar_(
+          {stage_, keeping_, videos_, transport_, tools_, edits_, times_, timer_, notes_, rateTest_, ruler_, compare_},
+          view, navigation) {
   menuBar_.TakeKeys(settings_.KeysAndTools == kEditorKeys);
   menuBar_.SetProfilesTitle(Vocabulary(settings_).Profiles());
 }

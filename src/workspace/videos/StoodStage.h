@@ -18,7 +18,7 @@ struct StoodVideo {
   bool flipped = false;
   double zoom = 1;
   bool fits = false;  ///< all of it is seen
-  double panX = 0;  ///< twips before zoom
+  double panX = 0;    ///< twips before zoom
   double panY = 0;
 
   friend bool operator==(const StoodVideo&, const StoodVideo&) = default;
