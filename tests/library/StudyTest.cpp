@@ -161,6 +161,10 @@ TEST_F(StudyOperations, ItGoesWhereverItsVideoGoes) {
   EXPECT_EQ(TempLibrary::Read(library.Path("Ann/Joe Doe/Drive.study")), study);
   EXPECT_FALSE(FileExists(library.Path("Ann/Joe Doe/(001) DL.study")));
 
+  library.host.answers = {true};
+  Run(&LibraryOperations::QuickLaunch, Video("Ann", "Joe Doe", "Drive"));
+  EXPECT_EQ(TempLibrary::Read(library.Path("Quick Launch/Drive.study")), study);
+
   // When the video cannot follow, both companions go back.
   FailingDisk disk(2);
   Use(disk);

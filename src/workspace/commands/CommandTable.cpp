@@ -102,6 +102,7 @@ constexpr KeyRow kKeyRows[] = {
     {"NextDrawing", Letter('N')},
     {"HideDrawings", Letter('V')},
     {"ShapeLabels", Letter('D')},
+    {"LineUp", Letter('U')},
     {"TTES", Key(kKeyCtrl), KeySet::Classic},
     {"PanUp", Key(kKeyNumpad0 + 8)},
     {"PanUp", Letter('Y')},
@@ -440,7 +441,7 @@ void MenuBar::AddTools() {
   Add({"TMark", kTools, "Mark Video Position", "", "mark", "", kNoButton, [this] { transport_.AddMark(); }, hasVideo});
   Add({"TMarkoff", kTools, "Video Marks Off", "", "", "", kNoButton, [this] { transport_.ClearMarks(); },
        Needs([this] { return !stage_.Current().data.Study.Marks.empty(); }, "The current video has no marks")});
-  Add({"LineUp", kTools, "Line Up Videos by Mark", "", "lock", "", kNoButton, [this] { compare_.LineUp().ByMark(); },
+  Add({"LineUp", kTools, "U - Line Up Videos by Mark", "", "lock", "", kNoButton, [this] { compare_.LineUp().ByMark(); },
        [this] { return compare_.LineUp().Obstacle(); }});
   Add({"TN", kTools, "Show Video &Notes", "Notesbutton", "notes", "Show Video Notes", kMeasuring,
        [this] { notes_.ToggleNotes(); }, NeedsVideo(stageFree), [this] { return notes_.Shown(); }});
