@@ -6,26 +6,30 @@
 namespace kinalyx {
 namespace {
 
-constexpr int kLetters = 19;  // pixels of a line of figures
-constexpr int kPlate = 23;    // and of its plate
+constexpr int kLeastLetters = 14;  // pixels of a line of figures, in a small picture
+constexpr int kMostLetters = 19;
+constexpr int kLinesOfPicture = 25;  // as many as a picture is high between
+constexpr int kMargin = 4;           // of a plate, above and below together
 constexpr int kPlateOpacity = 190;
 constexpr Colour kPlateColour = Rgb(12, 16, 22);
 constexpr Colour kLetterColour = Rgb(255, 255, 255);
 
 void PaintPlate(Canvas& canvas, const ShapeLabel& label) {
   const Surface& surface = canvas.Target();
-  const int half = Canvas::TextSize(label.Text, kLetters).x / 2;
-  const int edge = half + kPlate / 2;
+  const int letters = std::clamp(surface.Height() / kLinesOfPicture, kLeastLetters, kMostLetters);
+  const int plate = letters + kMargin;
+  const int half = Canvas::TextSize(label.Text, letters).x / 2;
+  const int edge = half + plate / 2;
   const auto inside = [](int value, int margin, int limit) {
     return std::clamp(value, std::min(margin, limit / 2), std::max(limit - margin, limit / 2));
   };
   const POINTAPI middle{inside(label.Middle.x, edge, surface.Width()),
-                        inside(label.Middle.y, kPlate / 2 + 1, surface.Height())};
+                        inside(label.Middle.y, plate / 2 + 1, surface.Height())};
   // A broad line with round ends is a plate.
-  canvas.SetPen({.colour = kPlateColour, .width = kPlate, .style = 0, .opacity = kPlateOpacity});
+  canvas.SetPen({.colour = kPlateColour, .width = plate, .style = 0, .opacity = kPlateOpacity});
   canvas.Line({middle.x - half, middle.y}, {middle.x + half, middle.y});
   canvas.SetPen({.colour = kLetterColour, .width = 1, .style = 0});
-  canvas.Text(middle, label.Text, kLetters);
+  canvas.Text(middle, label.Text, letters);
 }
 
 }  // namespace
