@@ -247,8 +247,9 @@ void Program::SettingsReloaded() {
 }
 
 void Program::ShowFirstForm() {
-  FirstForm form(settings_, mail_, main_.get());
+  FirstForm form(settings_, mail_, schemes_, main_.get());
   QObject::connect(&form, &FirstForm::CompanyChanged, main_.get(), &Main::SetCompany);
+  QObject::connect(&form, &FirstForm::DesignChanged, main_.get(), [this] { DressApplication(); });
   form.exec();
   setup_->SetupProgram();
 }

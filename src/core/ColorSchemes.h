@@ -11,6 +11,9 @@ namespace kinalyx {
 /// 3 the backdrop of forms.
 using SchemeColorArray = std::array<std::int32_t, 4>;
 
+constexpr int kBlueWhite = 0;
+constexpr int kDarkRoom = 8;
+
 struct ColorScheme {
   std::string_view caption;  ///< of its `optLayout` choice
   SchemeColorArray colours;

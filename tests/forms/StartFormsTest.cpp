@@ -9,6 +9,7 @@
 #include <QTimer>
 
 #include "FormsSupport.h"
+#include "core/ColorSchemes.h"
 #include "core/MailSettings.h"
 #include "core/Vocabulary.h"
 #include "core/forms/FirstForm.h"
@@ -25,6 +26,7 @@ namespace {
 
 struct Desk : UsesApplication, TestDesk {
   MailSettings mail{settings.DataPath};
+  ColorSchemes schemes;
 
   Desk() { mail.LoadMailSettings(); }
   std::optional<std::string> OnDisk(const char* key) const { return TestDesk::OnDisk("General", key); }
@@ -40,7 +42,7 @@ Widget* Find(QWidget& form, const char* name) {
 TEST(FirstForm, KeepsEachChangeAndMakesTheSender) {
   Desk desk;
   desk.settings.UserName = "Old Coach";  // known to an older version
-  FirstForm form(desk.settings, desk.mail);
+  FirstForm form(desk.settings, desk.mail, desk.schemes);
   QSignalSpy company(&form, &FirstForm::CompanyChanged);
   EXPECT_EQ(Find<QLineEdit>(form, "UserInfo0")->text(), "Old Coach");
   EXPECT_EQ(desk.OnDisk("UserName"), "Old Coach");
@@ -58,13 +60,13 @@ TEST(FirstForm, KeepsEachChangeAndMakesTheSender) {
   EXPECT_EQ(ReadProfileValue("General", "SenderName", desk.mail.File()), "Erica Sample");
   EXPECT_EQ(ReadProfileValue("General", "Subject", desk.mail.File()), "Video Analysis from Links");
   EXPECT_EQ(desk.mail.Subject, "Video Analysis from Links");
-  FirstForm again(desk.settings, desk.mail);
+  FirstForm again(desk.settings, desk.mail, desk.schemes);
   EXPECT_EQ(Find<QLineEdit>(again, "UserInfo1")->text(), "Links");
 }
 
 TEST(FirstForm, EnterGoesOnToTheNextBoxBeforeItFinishes) {
   Desk desk;
-  FirstForm form(desk.settings, desk.mail);
+  FirstForm form(desk.settings, desk.mail, desk.schemes);
   form.show();
   form.activateWindow();
   QApplication::processEvents();
@@ -80,6 +82,25 @@ TEST(FirstForm, EnterGoesOnToTheNextBoxBeforeItFinishes) {
   enter();
   EXPECT_FALSE(form.isVisible());
   EXPECT_EQ(desk.mail.Subject, "Video Analysis from Company Name");
+}
+
+TEST(FirstForm, PutsANewUserIntoTheDarkRoomUnlessHeLeavesIt) {
+  Desk desk;
+  const auto design = [&] { return desk.TestDesk::OnDisk("Layout", "Design"); };
+  FirstForm form(desk.settings, desk.mail, desk.schemes);
+  QSignalSpy worn(&form, &FirstForm::DesignChanged);
+  form.show();
+  EXPECT_EQ(desk.schemes.Design(), kDarkRoom);
+  Find<QAbstractButton>(form, "LookOpt0")->click();
+  Find<QAbstractButton>(form, "LookOpt8")->click();
+  EXPECT_EQ(worn.count(), 3) << "each look is worn as it is chosen";
+  EXPECT_EQ(design(), "0") << "and kept when the form is finished";
+  form.reject();
+  EXPECT_EQ(desk.schemes.Design(), kBlueWhite) << "the next start wears what was kept";
+  form.show();
+  Find<QPushButton>(form, "SSCommand1")->click();
+  EXPECT_EQ(design(), "8");
+  EXPECT_EQ(desk.schemes.Design(), kDarkRoom);
 }
 
 TEST(SplashForm, NamesTheVersionAndStaysItsTime) {

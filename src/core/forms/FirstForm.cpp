@@ -7,8 +7,10 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QRadioButton>
+#include <string>
 #include <tuple>
 
+#include "core/ColorSchemes.h"
 #include "core/MailSettings.h"
 #include "core/Settings.h"
 #include "platform/widgets/Buttons.h"
@@ -36,10 +38,30 @@ QLineEdit* AddBox(QVBoxLayout& rows, const QString& name, const QString& words) 
   return box;
 }
 
+/// A row of choices under a caption; each has a number, words and a tip, and is called after its number.
+QButtonGroup* AddChoice(QWidget& form, QVBoxLayout& rows, const QString& name, const QString& caption,
+                        std::initializer_list<std::tuple<int, const char*, const char*>> choices, int chosen) {
+  rows.addWidget(MakeLabel(name + "Lbl", caption, "caption"));
+  auto* row = new QHBoxLayout;
+  row->setSpacing(18);
+  auto* group = new QButtonGroup(&form);
+  for (const auto& [number, words, tip] : choices) {
+    auto* button = new QRadioButton(words);
+    button->setObjectName(QString("%1Opt%2").arg(name).arg(number));
+    button->setToolTip(tip);
+    button->setChecked(number == chosen);
+    group->addButton(button, number);
+    row->addWidget(button);
+  }
+  row->addStretch(1);
+  rows.addLayout(row);
+  return group;
+}
+
 }  // namespace
 
-FirstForm::FirstForm(Settings& settings, MailSettings& mail, QWidget* over)
-    : QDialog(over), settings_(settings), mail_(mail) {
+FirstForm::FirstForm(Settings& settings, MailSettings& mail, ColorSchemes& schemes, QWidget* over)
+    : QDialog(over), settings_(settings), mail_(mail), schemes_(schemes) {
   setObjectName("FirstForm");
   setWindowTitle("Kinalyx Initial Setup");
   setModal(true);
@@ -50,14 +72,16 @@ FirstForm::FirstForm(Settings& settings, MailSettings& mail, QWidget* over)
   rows->setSpacing(5);
   rows->addWidget(MakeLabel("TitleLbl", "Welcome to Kinalyx", "title"));
   QLabel* words = MakeLabel("IntroLbl",
-                            "Both appear on printouts and in your mails. They can be changed at any time "
-                            "under Program Setup.",
+                            "Name and company appear on printouts and in your mails. All of this can be changed "
+                            "at any time under Program Setup.",
                             "muted");
   words->setWordWrap(true);
   rows->addWidget(words);
   rows->addSpacing(12);
   name_ = AddBox(*rows, "UserInfo0", "Enter Your Name Here");
   company_ = AddBox(*rows, "UserInfo1", "Enter Your Company Name Here");
+  AddLook(*rows);
+  rows->addSpacing(6);
   AddKeys(*rows);
   rows->addSpacing(10);
   auto* actions = new QHBoxLayout;
@@ -86,29 +110,32 @@ FirstForm::FirstForm(Settings& settings, MailSettings& mail, QWidget* over)
   connect(finished, &QPushButton::clicked, this, &FirstForm::Finish);
 }
 
+/// A new user begins in the dark room, where the film is the only color.
+void FirstForm::AddLook(QVBoxLayout& rows) {
+  looks_ = AddChoice(*this, rows, "Look", "Look",
+                     {{kDarkRoom, "Dark Room", "Dark: the film is the only color"},
+                      {kBlueWhite, "Blue White", "Light, as it has always been"}},
+                     kDarkRoom);
+  connect(looks_, &QButtonGroup::idClicked, this, &FirstForm::WearLook);
+}
+
 void FirstForm::AddKeys(QVBoxLayout& rows) {
-  rows.addWidget(MakeLabel("KeysLbl", "Keys and tools", "caption"));
-  auto* choice = new QHBoxLayout;
-  choice->setSpacing(18);
-  auto* ways = new QButtonGroup(this);
-  for (const auto& [way, words, tip] :
-       {std::tuple{kClassicKeys, "Classic", "Keys and drawing tools as they have always been"},
-        {kEditorKeys, "Editor", "What was drawn is taken at once; soft lines in colors that stand out"}}) {
-    auto* button = new QRadioButton(words);
-    button->setObjectName(QString("KeysOpt%1").arg(way));
-    button->setToolTip(tip);
-    button->setChecked((settings_.KeysAndTools == kEditorKeys) == (way == kEditorKeys));
-    ways->addButton(button, way);
-    choice->addWidget(button);
-  }
-  choice->addStretch(1);
-  rows.addLayout(choice);
+  const QButtonGroup* ways =
+      AddChoice(*this, rows, "Keys", "Keys and tools",
+                {{kClassicKeys, "Classic", "Keys and drawing tools as they have always been"},
+                 {kEditorKeys, "Editor", "What was drawn is taken at once; soft lines in colors that stand out"}},
+                settings_.KeysAndTools == kEditorKeys ? kEditorKeys : kClassicKeys);
   connect(ways, &QButtonGroup::idClicked, this, [this](int way) { settings_.Set(settings_.KeysAndTools, way); });
+}
+
+void FirstForm::WearLook(int design) {
+  if (design != schemes_.Design() && schemes_.ApplyDesign(std::to_string(design))) emit DesignChanged();
 }
 
 void FirstForm::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
   if (event->spontaneous()) return;  // it comes back from being minimised
+  WearLook(looks_->checkedId());
   ScaleForm(*this, parentWidget() ? *parentWidget() : *this);
   name_->setFocus();
 }
@@ -130,8 +157,14 @@ void FirstForm::keyPressEvent(QKeyEvent* event) {
 }
 
 void FirstForm::Finish() {
+  settings_.Set(settings_.Design, std::to_string(looks_->checkedId()));
   mail_.TakeSender(settings_.UserName, settings_.CompanyName);
   accept();
+}
+
+void FirstForm::reject() {
+  if (schemes_.ApplyDesign(settings_.Design)) emit DesignChanged();
+  QDialog::reject();
 }
 
 }  // namespace kinalyx

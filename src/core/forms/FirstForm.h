@@ -2,25 +2,33 @@
 
 #include <QDialog>
 
+class QButtonGroup;
 class QLineEdit;
 class QVBoxLayout;
 
 namespace kinalyx {
 
+class ColorSchemes;
 class MailSettings;
 class Settings;
 
-/// Asks a new user for name, company and way of working, on the very first start. Every change is kept at once;
-/// "Finished" also makes them the sender and the subject of mails.
+/// Asks a new user for name, company, look and way of working, on the very first start. Every change is kept at
+/// once but for the look, which is shown at once and kept by "Finished"; that also makes name and company the
+/// sender and the subject of mails.
 class FirstForm : public QDialog {
   Q_OBJECT
 
  public:
   /// @param over  the window over whose middle the form opens
-  FirstForm(Settings& settings, MailSettings& mail, QWidget* over = nullptr);
+  FirstForm(Settings& settings, MailSettings& mail, ColorSchemes& schemes, QWidget* over = nullptr);
+
+  /// Goes without being finished: the look is again that of the settings.
+  void reject() override;
 
  signals:
   void CompanyChanged(const QString& company);
+  /// The schemes have taken another look, which is to be worn.
+  void DesignChanged();
 
  protected:
   void showEvent(QShowEvent* event) override;
@@ -28,11 +36,15 @@ class FirstForm : public QDialog {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  void AddLook(QVBoxLayout& rows);
   void AddKeys(QVBoxLayout& rows);
+  void WearLook(int design);
   void Finish();
 
   Settings& settings_;
   MailSettings& mail_;
+  ColorSchemes& schemes_;
+  QButtonGroup* looks_ = nullptr;
   QLineEdit* name_ = nullptr;
   QLineEdit* company_ = nullptr;
 };
