@@ -161,11 +161,11 @@ void Main::SetSectionCaption(int index, const QString& caption) {
   TileButton* section = sections_[static_cast<std::size_t>(index)];
   if (!section) return;
   section->setText(caption);
-  if (section->isEnabled()) section->setToolTip(Tip(index, caption));
+  section->setToolTip(Tip(index, caption));
 }
 
 void Main::SetSectionComing(int index) {
-  if (TileButton* section = sections_[static_cast<std::size_t>(index)]) Coming(section);
+  if (TileButton* section = sections_[static_cast<std::size_t>(index)]) SetComing(section);
 }
 
 bool Main::eventFilter(QObject* object, QEvent* event) {

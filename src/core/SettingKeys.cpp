@@ -112,6 +112,7 @@ std::vector<Settings::Key> Settings::ConfigKeys() {
   add("WindowInfo3", "9000", &WindowInfo[3]);
   add("LastInstructor", "", &LastInstructor);
   add("LastStudent", "", &LastStudent);
+  add("StripRows", "0", &StripRows);
   return keys;
 }
 

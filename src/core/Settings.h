@@ -137,6 +137,7 @@ class Settings {
 
   std::string LastInstructor;  ///< where the library was left; names of folders
   std::string LastStudent;     ///< that have gone are ignored
+  std::int32_t StripRows = 0;  ///< the second row of the tool strip: 0 closed, 1 open
 
   // --- capture.ini, [General]
   std::array<std::string, 2> Camera;  ///< keys Camera1 and Camera2

@@ -129,7 +129,7 @@ TEST(MenuPage, TilesLeadToPagesAndCarryTheNoun) {
   ASSERT_EQ(wanted.count(), 2);
   EXPECT_EQ(wanted[0][0], 1);
   EXPECT_EQ(wanted[1][0], 7);
-  EXPECT_EQ(Find<QPushButton>(page, "MainCmd2")->toolTip(), "coming");
+  EXPECT_TRUE(Find<QPushButton>(page, "MainCmd2")->isHidden()) << "until it is built";
   EXPECT_EQ(Find<QPushButton>(page, "MainCmd1")->text(), "Student Profiles");
   SetPrimaryName(desk.settings, "Patient");
   page.SetupVocabulary();

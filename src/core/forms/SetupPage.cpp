@@ -83,7 +83,7 @@ QWidget* SetupPage::MakeSections() {
     button->setCheckable(true);
     buttons_->addButton(button, index);
     rows->addWidget(button);
-    if (index == kCapture || index == kInternet || index == kProfiles) Coming(button);
+    if (index == kCapture || index == kInternet || index == kProfiles) SetComing(button);
     ++index;
   }
   rows->addStretch(1);
@@ -123,9 +123,7 @@ void SetupPage::SetFieldEditor(QWidget* editor) {
   }
   page = editor;
   stack_->addWidget(editor);
-  QAbstractButton* button = buttons_->button(kProfiles);
-  button->setEnabled(true);
-  button->setToolTip({});
+  SetComing(buttons_->button(kProfiles), false);
 }
 
 void SetupPage::TakeReloaded() {

@@ -146,9 +146,9 @@ void TileButton::paintEvent(QPaintEvent*) {
   painter.drawText(QRect(room.left(), top + iconSide + gap, room.width(), words.height() + 2), flags, text());
 }
 
-void Coming(QWidget* widget) {
-  widget->setEnabled(false);
-  widget->setToolTip("coming");
+void SetComing(QWidget* widget, bool coming) {
+  widget->setEnabled(!coming);
+  widget->setVisible(!coming);
 }
 
 }  // namespace kinalyx

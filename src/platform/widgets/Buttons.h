@@ -58,7 +58,7 @@ class TileButton : public QPushButton {
   Place place_;
 };
 
-/// For what is not built yet: disables a control and says "coming" in its tip.
-void Coming(QWidget* widget);
+/// For what is not built yet, or has been since: a control that comes later is out of sight and out of reach.
+void SetComing(QWidget* widget, bool coming = true);
 
 }  // namespace kinalyx

@@ -68,7 +68,7 @@ struct Command {
   bool spare = false;                  ///< its button is among the first to leave a strip that is too narrow
   std::vector<KeyStroke> keys = {};
 
-  /// The feature is not built yet; such a command is disabled and says so.
+  /// The feature is not built yet; such a command is nowhere to be seen.
   bool Coming() const { return !run; }
   /// Why it is disabled, empty while it is not.
   std::string Reason() const { return Coming() ? "coming" : obstacle ? obstacle() : ""; }

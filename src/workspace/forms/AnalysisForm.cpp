@@ -68,7 +68,8 @@ AnalysisForm::AnalysisForm(IHost& host, IPrinter& printer, Settings& settings, P
   connect(colors_, &ColorRow::Chosen, this, [this](int index) { analysis_->ChooseColour(index); });
   connect(colors_, &ColorRow::WidthChosen, this, [this](int pixels) { analysis_->ChooseWidth(pixels); });
   menus_->setCornerWidget(colors_, Qt::TopRightCorner);
-  strip_ = new ToolStrip(analysis_->Commands().Commands(), this);
+  strip_ = new ToolStrip(analysis_->Commands().Commands(), settings.StripRows != 0, this);
+  connect(strip_, &ToolStrip::SecondRowOpened, this, [this](bool open) { settings_.Set(settings_.StripRows, open); });
   connect(strip_, &ToolStrip::Wanted, this, &AnalysisForm::Run);
   connect(strip_, &ToolStrip::WantedTwice, this,
           [this](const std::string& command) { analysis_->Commands().RunTwice(command); });

@@ -6,6 +6,7 @@
 #include "platform/widgets/Icons.h"
 #include "platform/widgets/Text.h"
 #include "platform/widgets/Theme.h"
+#include "workspace/commands/KeyWords.h"
 #include "workspace/commands/MenuBar.h"
 
 namespace kinalyx {
@@ -16,6 +17,7 @@ CommandMenus::CommandMenus(const std::vector<Command>& commands, QWidget* parent
   std::map<std::string, QMenu*> menus;
   for (const Command& command : commands) {
     if (command.menu.empty() && command.caption.empty()) continue;  // a button alone
+    if (command.Coming() && !command.caption.empty()) continue;     // and a menu of nothing else is none
     QMenu*& menu = menus[command.menu];
     if (!menu && !command.menu.empty()) {
       // A menu within a menu has both names.
@@ -42,7 +44,7 @@ CommandMenus::CommandMenus(const std::vector<Command>& commands, QWidget* parent
 void CommandMenus::Update() {
   for (const auto& [command, action] : entries_) {
     const std::string reason = command->Reason();
-    action->setText(QString::fromStdString(command->caption));
+    action->setText(QString::fromStdString(CaptionWithKey(*command)));
     action->setEnabled(reason.empty());
     action->setToolTip(QString::fromStdString(reason.empty() ? command->tip : reason));
     if (command->checked) action->setChecked(command->checked());

@@ -9,8 +9,8 @@ namespace kinalyx {
 
 struct Command;
 
-/// The menus of the analysis section, from the command table. Entries carry the system's names as
-/// objectName.
+/// The menus of the analysis section, from the command table, with the keys beside the captions. Entries carry
+/// the system's names as objectName; what is not built yet has none.
 class CommandMenus : public QMenuBar {
   Q_OBJECT
 

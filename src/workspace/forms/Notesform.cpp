@@ -46,7 +46,7 @@ Notesform::Notesform(IHost& host, IPrinter& printer, const QString& video, const
                               i < 2 ? Look::Filled : Look::Quiet, this);
     actions->addWidget(button);
     if (i < 2) {
-      Coming(button);
+      SetComing(button);
     } else {
       connect(button, &QPushButton::clicked, this, &QDialog::reject);
     }

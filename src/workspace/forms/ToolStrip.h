@@ -4,21 +4,21 @@
 #include <string>
 #include <vector>
 
-class QMenu;
-
 namespace kinalyx {
 
 class Button;
 struct Command;
 
-/// The strip of tool buttons, from the command table. It always takes one row: where the window is too
-/// narrow the buttons draw together, and what still finds no place waits behind the last one, "More
-/// tools" — features that are still to come first, then those at the right end.
+/// The strip of tool buttons in their groups, from the command table. In a wide window each group has its name
+/// beneath it. Where the window is too narrow for one row the buttons draw together, and what still finds no place
+/// stands in a second row, which the last button opens and closes: first what can be spared, then what is at the
+/// right end, but never the layout in use.
 class ToolStrip : public QFrame {
   Q_OBJECT
 
  public:
-  explicit ToolStrip(const std::vector<Command>& commands, QWidget* parent = nullptr);
+  /// @param open  the second row is seen where there is anything for it
+  ToolStrip(const std::vector<Command>& commands, bool open, QWidget* parent = nullptr);
 
   /// Enables, checks and explains the buttons anew.
   void Update();
@@ -28,10 +28,13 @@ class ToolStrip : public QFrame {
   void Wanted(const std::string& command);
   /// Its button was clicked twice; the first click has wanted it.
   void WantedTwice(const std::string& command);
+  /// The user has opened or closed the second row.
+  void SecondRowOpened(bool open);
 
  protected:
   void resizeEvent(QResizeEvent*) override { Arrange(); }
   void changeEvent(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
@@ -47,17 +50,27 @@ class ToolStrip : public QFrame {
     const Command* command;
     std::string name;
     Button* button;
-    bool placed = true;
+    bool first = true;  ///< stands in the first row
+
+    bool IsLayoutInUse() const;
+  };
+  struct Name {
+    QRect place;
+    QString words;
   };
 
   void Arrange();
-  void Place(const Sizes& sizes);
+  void DropWhatDoesNotFit(const Sizes& sizes);
+  void PlaceRow(bool first, int top, const Sizes& sizes);
   int WidthFor(const Sizes& sizes) const;
-  void ShowMore();
+  bool AllInFirst() const;
 
   std::vector<Tool> tools_;
-  std::vector<QFrame*> dividers_;  ///< before the first button of each group but the first
+  std::vector<QRect> dividers_;  ///< between the groups of a row
+  std::vector<Name> names_;      ///< beneath the groups
   Button* more_ = nullptr;
+  std::string layout_;  ///< the button of the layout in use
+  bool open_;
 };
 
 }  // namespace kinalyx
