@@ -113,6 +113,7 @@ std::vector<Settings::Key> Settings::ConfigKeys() {
   add("LastInstructor", "", &LastInstructor);
   add("LastStudent", "", &LastStudent);
   add("StripRows", "0", &StripRows);
+  add("CardPlaces", "", &CardPlaces);
   return keys;
 }
 

@@ -138,6 +138,7 @@ class Settings {
   std::string LastInstructor;  ///< where the library was left; names of folders
   std::string LastStudent;     ///< that have gone are ignored
   std::int32_t StripRows = 0;  ///< the second row of the tool strip: 0 closed, 1 open
+  std::string CardPlaces;      ///< where the cards of the stage were put, see CardDesk.h
 
   // --- capture.ini, [General]
   std::array<std::string, 2> Camera;  ///< keys Camera1 and Camera2

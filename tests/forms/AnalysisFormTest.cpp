@@ -373,6 +373,37 @@ TEST_F(AnalysisFormTest, TheStripShowsTheLayoutInUseAndKeepsTheRestInASecondRow)
   EXPECT_TRUE(Seen("RedoBtn") && !Seen("MoreTools"));
 }
 
+TEST_F(AnalysisFormTest, CardsOpenBesideTheAthleteAndStayWhereTheyWerePut) {
+  Send("a.avi");
+  Send("b.avi");
+  const auto open = [&](const char* command) {
+    form->Section().Commands().Run(command);
+    EndTurn();
+    QTest::qWait(150);
+    return Find<QWidget>(command == std::string("TVT") ? "VideoTimerForm" : "ZoomForm");
+  };
+  const int middle = Find<QWidget>("MainPanel")->width() / 2;
+  EXPECT_LT(open("TVT")->geometry().right(), middle) << "window 2 is the current one";
+  auto* zoom = open("TZP");
+  const QPoint grip(40, 10);
+  const auto drag = [&](QEvent::Type kind, QPoint at, Qt::MouseButtons held) {
+    QMouseEvent event(kind, at, zoom->mapToGlobal(QPointF(at)),
+                      kind == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, held, {});
+    QCoreApplication::sendEvent(zoom, &event);
+  };
+  drag(QEvent::MouseButtonPress, grip, Qt::LeftButton);
+  drag(QEvent::MouseMove, grip + QPoint(middle, 200), Qt::LeftButton);
+  EXPECT_EQ(settings.CardPlaces, "") << "not at each step";
+  drag(QEvent::MouseButtonRelease, grip, Qt::NoButton);
+  const QPoint put = zoom->pos();
+  EXPECT_GT(put.x(), middle);
+
+  settings.LoadSettings();
+  Make({1280, 800});
+  zoom = open("TZP");
+  EXPECT_LE((zoom->pos() - put).manhattanLength(), 4);
+}
+
 TEST_F(AnalysisFormTest, TimerAndRulerWorkOverTheStage) {
   Send("a.avi");
   form->Section().Transport().Seek(15);

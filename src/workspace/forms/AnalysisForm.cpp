@@ -19,6 +19,7 @@
 #include "video/KeyCodes.h"
 #include "video/forms/VideoView.h"
 #include "workspace/forms/CalibrationPanel.h"
+#include "workspace/forms/CardDesk.h"
 #include "workspace/forms/RateForm.h"
 #include "workspace/forms/ColorRow.h"
 #include "workspace/forms/CommandMenus.h"
@@ -85,6 +86,8 @@ AnalysisForm::AnalysisForm(IHost& host, IPrinter& printer, Settings& settings, P
   MakeStage();
   middle_->addWidget(stage_, 1);
   compare_->Build(analysis_->Compare(), analysis_->Stage(), stage_);
+  desk_ = std::make_unique<CardDesk>(settings_, analysis_->Stage());
+  for (FloatCard* card : stage_->findChildren<FloatCard*>(Qt::FindDirectChildrenOnly)) card->LieOn(*desk_);
   rows->addWidget(compare_->Foot());
   setFocusProxy(keyBox_);
   ScaleBars();
@@ -336,7 +339,7 @@ void AnalysisForm::HideNotesPnl() {
   FocusKeyBox();
 }
 
-void AnalysisForm::ShowVideoTimer(bool shown) { shown ? timer_->Open(FloatCard::Place::TopRight) : timer_->hide(); }
+void AnalysisForm::ShowVideoTimer(bool shown) { shown ? timer_->Open(FloatCard::Place::Top) : timer_->hide(); }
 
 void AnalysisForm::SetVideoTimer(const std::string& reading, bool negative, const std::string& rate) {
   timer_->SetReading(Q(reading), negative, Q(rate));

@@ -14,6 +14,7 @@ class QHBoxLayout;
 namespace kinalyx {
 
 class CalibrationPanel;
+class CardDesk;
 class ColorRow;
 class CompareForms;
 class CommandMenus;
@@ -126,6 +127,7 @@ class AnalysisForm : public PageWidget, private IWorkspaceView, private IOpenVid
   std::unique_ptr<EditForms> edits_;  ///< a view of what follows
   std::unique_ptr<CompareForms> compare_;
   std::unique_ptr<AnalysisWorkspace> analysis_;
+  std::unique_ptr<CardDesk> desk_;
   CommandMenus* menus_ = nullptr;
   ColorRow* colors_ = nullptr;
   ToolStrip* strip_ = nullptr;

@@ -114,7 +114,7 @@ void CalibrationPanel::Begin() {
   units_[static_cast<std::size_t>(std::clamp(settings_.CalibInput, 0, 3))]->setChecked(true);
   units_[static_cast<std::size_t>(4 + std::clamp(settings_.CalibOutput, 0, 3))]->setChecked(true);
   Enable();
-  Open();
+  Open(Place::Top);
 }
 
 void CalibrationPanel::SetLength(const QString& length) {

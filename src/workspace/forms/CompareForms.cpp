@@ -249,7 +249,7 @@ void CompareForms::PresentStrip(const Surface& strip, int pictures) { strip_->Sh
 void CompareForms::ShowCarve(bool shown) {
   if (!shown) return carve_->hide();
   carve_->Begin();
-  carve_->Open(FloatCard::Place::TopRight);
+  carve_->Open(FloatCard::Place::Top);
 }
 
 void CompareForms::ShowCarvePic(int slot, bool shown) {
@@ -275,7 +275,7 @@ void CompareForms::ShowDual(const DualState& state) {
   UpdateFoot();
 }
 
-void CompareForms::ShowZoomForm(bool shown) { shown ? zoom_->Open(FloatCard::Place::TopRight) : zoom_->hide(); }
+void CompareForms::ShowZoomForm(bool shown) { shown ? zoom_->Open(FloatCard::Place::Top) : zoom_->hide(); }
 
 void CompareForms::ShowZoom() {
   const Slot& slot = theStage_->Current();
@@ -285,7 +285,7 @@ void CompareForms::ShowZoom() {
 void CompareForms::ShowStrobeForm(bool shown) {
   if (!shown) return strobe_->hide();
   strobe_->Begin();
-  strobe_->Open(FloatCard::Place::BottomRight);
+  strobe_->Open(FloatCard::Place::Bottom);
 }
 
 }  // namespace kinalyx

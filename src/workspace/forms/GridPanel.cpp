@@ -67,7 +67,7 @@ void GridPanel::Begin() {
   }
   ShowSize(HScroll3_->value());
   Update();
-  Open();
+  Open(Place::Top);
 }
 
 void GridPanel::Update() {
