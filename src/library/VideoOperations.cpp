@@ -338,7 +338,8 @@ void LibraryOperations::CopyToDisk(const std::vector<LibraryVideo>& videos, cons
       std::move(job),
       [this](VideoTransferJob& copy) -> OperationResult {
         if (copy.Failed()) host_.Message(MessageKind::Warning, "", copy.Error());
-        const std::string words = std::to_string(copy.FilesDone()) + " Files Copied Successfully.";
+        const int files = copy.FilesDone();
+        const std::string words = std::to_string(files) + (files == 1 ? " File" : " Files") + " Copied Successfully.";
         return copy.Failed() || copy.Cancelled() ? Report(words) : OperationResult{words};
       },
       std::move(events));

@@ -31,7 +31,7 @@ VideoStats StatsOf(const VideoInfo& video, int bits) {
           fmt::to_string(video.width),
           fmt::to_string(video.height),
           Short(rate) + " FPS",
-          fmt::format("{} Frames", video.frameCount),
+          fmt::format("{} Frame{}", video.frameCount, video.frameCount == 1 ? "" : "s"),
           Short(video.durationMs / 1000) + " Seconds",
           FormatFileSize(video.fileBytes),
           fmt::format("{} BPP", bits),

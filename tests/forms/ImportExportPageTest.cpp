@@ -54,7 +54,7 @@ TEST_F(ImportExportPageTest, CountsWhatIsChosenAndOpensWhereTheUserWas) {
   EXPECT_EQ(Rows("List6"), QStringList({"one", "two"}));
   EXPECT_EQ(Text("IECount0"), "0 Videos Selected");
   List("List6")->item(1)->setSelected(true);
-  EXPECT_EQ(Text("IECount0"), "1 Videos Selected");
+  EXPECT_EQ(Text("IECount0"), "1 Video Selected");
   Press("IESelectAll0");
   EXPECT_EQ(Text("IECount0"), "2 Videos Selected");
   Choose("List5", "Kim");

@@ -150,7 +150,7 @@ void LibrarySide::ShowCount() {
   const auto whole = std::ranges::count_if(whole_, [](const LibraryVideo& one) { return !one.path.empty(); });
   const auto count =
       wholeDatabase_->isChecked() ? static_cast<qsizetype>(whole) : lists_->VideoList()->selectedItems().size();
-  count_->setText(QString("%1 Videos Selected").arg(count));
+  count_->setText(QString(count == 1 ? "%1 Video Selected" : "%1 Videos Selected").arg(count));
   selectAll_->setEnabled(lists_->VideoList()->count() > 0);
 }
 

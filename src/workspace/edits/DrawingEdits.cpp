@@ -51,7 +51,7 @@ std::string DrawingEdits::SelectionWords() {
   const ShapeList& list = List();
   if (!HasVideo()) return "No video here";
   if (list.NumShapes == 0) return "Nothing is drawn here";
-  if (bar_.MultiEdit()) return fmt::format("All {} drawings", list.NumShapes);
+  if (bar_.MultiEdit()) return list.NumShapes == 1 ? "1 drawing" : fmt::format("All {} drawings", list.NumShapes);
   const Shape* selected = SelectedShape(list);
   if (!selected) return "Click a drawing";
   return fmt::format("{}, {} of {}", ToolName(*selected), list.CurShape + 1, list.NumShapes);

@@ -8,6 +8,7 @@
 #include <QRect>
 #include <algorithm>
 
+#include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 #include "workspace/forms/ColorRow.h"
 #include "workspace/stage/PlayerPlace.h"
@@ -17,10 +18,16 @@
 #include "workspace/forms/GridPanel.h"
 #include "workspace/forms/LetterBox.h"
 #include "workspace/forms/MacroForm.h"
-#include "workspace/forms/MacroNameForm.h"
+#include "workspace/forms/NameForm.h"
+#include "workspace/forms/StageParts.h"
 #include "workspace/forms/TakenHalo.h"
 
 namespace kinalyx {
+namespace {
+
+constexpr int kLongestMacroName = 60;  // characters
+
+}  // namespace
 
 EditForms::~EditForms() = default;
 
@@ -195,7 +202,12 @@ void EditForms::ShowSelection(int window, const std::optional<SelectionMarks>& m
 // ---------------------------------------------------------------- macros
 
 std::optional<std::string> EditForms::AskMacroName(const ShapeList& drawing) {
-  MacroNameForm form(drawing, edits_->Look(), stage_->window());
+  NameForm form("MacroName", tr("New macro"), tr("Please enter the name of this macro"), kLongestMacroName,
+                stage_->window());
+  auto* picture = new SurfaceView("MacroNamePic", &form);
+  FixSize(picture, {320, 200});
+  ShowDrawing(*picture, drawing, edits_->Look());
+  form.ShowAbove(picture);
   if (form.exec() != QDialog::Accepted) return std::nullopt;
   return form.Name().toStdString();
 }

@@ -1,12 +1,12 @@
 #include "workspace/forms/MarkBox.h"
 
 #include <QCursor>
-#include <QInputDialog>
 #include <QMenu>
 #include <algorithm>
 
 #include "platform/widgets/Scale.h"
 #include "platform/widgets/Text.h"
+#include "workspace/forms/NameForm.h"
 #include "workspace/forms/StageLook.h"
 
 namespace kinalyx {
@@ -54,10 +54,8 @@ void MarkBox::ShowMenu(int mark) {
   for (const QString& name : {tr("Address"), tr("Top"), tr("Impact"), tr("Finish")})
     menu.addAction(name, this, [this, mark, name] { emit Named(mark, name); });
   menu.addAction(tr("Other Name..."), this, [this, mark] {
-    bool typed = false;
-    const QString name =
-        QInputDialog::getText(this, tr("Name of the mark"), tr("Name:"), QLineEdit::Normal, {}, &typed);
-    if (typed) emit Named(mark, name.trimmed().left(kLongestName));
+    NameForm form("MarkName", tr("Name of the mark"), tr("What is seen here?"), kLongestName, window());
+    if (form.exec() == QDialog::Accepted) emit Named(mark, form.Name());
   });
   menu.addSeparator();
   menu.addAction(tr("No Name"), this, [this, mark] { emit Named(mark, {}); });
