@@ -26,6 +26,7 @@ constexpr int kSpeedLeast = 38;
 constexpr int kCounter = 46;
 constexpr int kMarks = 22;  // height
 constexpr int kLeastSeek = 80;
+constexpr int kAmpleSeek = 420;  // of the film's line, before the plain words get room
 
 /// The longest line that a video will bring, so that nothing moves while it plays: its last position, at ten
 /// pictures a second or more. A slower one makes room as it goes.
@@ -79,6 +80,7 @@ PlayBar::PlayBar(Transport& transport, QWidget* parent) : StagePanel("Playbar", 
   connect(detach_, &QToolButton::clicked, this, [this] { ToggleDock(); });
 
   line_ = new PositionLine("DisplayPanel", {}, this);
+  plain_ = new FigureLabel("PlainLine", {}, this);
   counter_ = new FigureLabel("FrameCounter", {}, this);
   counter_->setToolTip(tr("Number of the picture that is shown"));
   counter_->hide();
@@ -117,6 +119,7 @@ void PlayBar::Dress() {
                  "#Playbar QLabel { color: @ink; background: transparent; font-size: @13; }"
                  "#Playbar QLabel[small=\"true\"] { font-size: @11; }"
                  "#Playbar #FrameCounter { color: @mark; }"
+                 "#Playbar #PlainLine { color: @faintInk; }"
                  "#Playbar QToolButton { border: none; border-radius: 6px; background: transparent; color: @ink;"
                  "  padding: 0; }"
                  "#Playbar QToolButton:hover { background: @hover; }"
@@ -211,6 +214,7 @@ void PlayBar::SetLine(const QString& line, const QString& counter) {
                          counter.size() != counter_->text().size();
   if (rearrange) longest_ = longest;
   if (line_->text() != line) line_->setText(line);
+  plain_->setText(PlainLine(line));
   counter_->setText(counter);
   if (rearrange) Arrange();
 }
@@ -237,6 +241,8 @@ void PlayBar::Arrange() {
   counter_->setVisible(!counter_->text().isEmpty());
   line_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   counter_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  plain_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  plain_->hide();
   detach_->raise();
   width() >= Px(kOneRowWidth) ? ArrangeWide() : ArrangeNarrow();
   PlaceCard();
@@ -305,6 +311,13 @@ void PlayBar::ArrangeWide() {
     part->setGeometry(end, y - high / 2, wide, high);
   };
   take(line_, std::min(FiguresWidth(line_->fontMetrics(), longest_), end - start - Px(kLeastSeek)), Px(24));
+  const QString plain = PlainLine(longest_);
+  if (const int wide = FiguresWidth(plain_->fontMetrics(), plain) + 14;
+      !plain.isEmpty() && end - start - wide > Px(kAmpleSeek)) {
+    take(plain_, wide, Px(24));
+    plain_->show();
+    end -= 14;
+  }
   take(counter_, CounterWidth(), Px(24));
   if (MarksFit((end - start) / 2)) {
     if (!marks_.empty()) {

@@ -79,6 +79,7 @@ class PlayBar : public StagePanel {
   SeekBar* seek_;
   QWidget* buttons_;
   PositionLine* line_;
+  FigureLabel* plain_;  ///< the line in other words, in wide windows
   FigureLabel* counter_;
   QToolButton* rewind_;
   QToolButton* back_;

@@ -16,6 +16,17 @@ QString FittingLine(const QFontMetrics& metrics, int width, const QString& line)
   return cut.isEmpty() ? cut : cut + QChar(0x2026);
 }
 
+QString PlainLine(const QString& line) {
+  const QString time = line.section(' ', 0, 0);
+  const QString places = line.section(" | ", 1).section(' ', 0, 0);
+  bool seconds = false, position = false, last = false;
+  const double at = time.toDouble(&seconds);
+  const int picture = places.section('/', 0, 0).toInt(&position) + 1;
+  const int pictures = places.section('/', 1).toInt(&last) + 1;
+  if (!seconds || !position || !last) return {};
+  return QObject::tr("%1 s, picture %2 of %3").arg(at, 0, 'f', 1).arg(picture).arg(pictures);
+}
+
 void PositionLine::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));

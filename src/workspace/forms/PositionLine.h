@@ -11,6 +11,9 @@ namespace kinalyx {
 /// is ever cut.
 QString FittingLine(const QFontMetrics& metrics, int width, const QString& line);
 
+/// The same in other words, "3.1 s, picture 94 of 216001"; empty for a line of another form.
+QString PlainLine(const QString& line);
+
 /// Shows the line in the form that it has room for; its text and its tip are the whole line.
 class PositionLine : public FigureLabel {
  public:

@@ -17,6 +17,7 @@
 namespace kinalyx {
 namespace {
 
+constexpr int kSlimFoot = 28;  // as designed, where the play bar does not lie over it
 constexpr double kReach = 11;  // pixels beside the line of a strip that still mean it
 
 }  // namespace
@@ -214,9 +215,11 @@ void VideoCell::paintEvent(QPaintEvent* event) {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setBrush(Qt::NoBrush);
   painter.setPen(QPen(current_ ? look.accent : CurrentTheme().stageLine, 2));
-  painter.drawRoundedRect(QRectF(rect()).adjusted(3, 3, -3, -3), 3, 3);
-
   const Strip strip = StripNow();
+  // Without the play bar over it the foot is as slim as its line.
+  const double bottom = current_ ? height() : strip.all.bottom() + (line_.isEmpty() ? 4 : 2);
+  painter.drawRoundedRect(QRectF(0, 0, width(), bottom).adjusted(3, 3, -3, -3), 3, 3);
+
   if (strip.words.isEmpty()) return;
   painter.setPen(Qt::NoPen);
   if (strip.HasLine()) {
@@ -241,7 +244,9 @@ void VideoCell::paintEvent(QPaintEvent* event) {
 VideoCell::Strip VideoCell::StripNow() const {
   Strip strip;
   const int top = (film_->isHidden() ? panel_ : static_cast<const QWidget*>(film_))->geometry().bottom() + 1;
-  strip.all = QRect(panel_->x(), top, panel_->width(), height() - top - 4);
+  const int slim = line_.isEmpty() ? 0 : std::max(24, Px(kSlimFoot));
+  const int room = height() - top - 4;
+  strip.all = QRect(panel_->x(), top, panel_->width(), current_ ? room : std::min(room, slim));
   if (line_.isEmpty() || strip.all.height() < 24) return strip;
   const QFontMetrics metrics(UiFont(12));
   strip.words = FittingLine(metrics, strip.all.width() - 24, line_);
