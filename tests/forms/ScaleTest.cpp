@@ -97,7 +97,7 @@ TEST(Scale, FormsThatStandTakeTheSizesOfTheMainWindowAndGiveThemBack) {
   MailSettings mail(settings.DataPath);
   Dressed dressed({1280, 800});
   SetupPage page(host, settings, schemes);
-  FirstForm form(settings, mail, &page);
+  FirstForm form(settings, mail, schemes, &page);
   page.show();
   form.show();
   struct Seen {
@@ -119,7 +119,7 @@ TEST(Scale, FormsThatStandTakeTheSizesOfTheMainWindowAndGiveThemBack) {
   EXPECT_EQ(small, (Seen{13, 11, 34, 34, 20, 440}));
   dressed.Resize({1920, 1080});
   EXPECT_EQ(look(), (Seen{15, 13, 39, 39, 23, 508}));
-  FirstForm later(settings, mail, &page);
+  FirstForm later(settings, mail, schemes, &page);
   EXPECT_EQ(later.width(), 508) << "a form that opens later";
   dressed.Resize({1366, 768});
   EXPECT_EQ(look(), small);

@@ -3,6 +3,7 @@
 #include <QBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QStyle>
 
 #include "library/DiskSpace.h"
 #include "library/LibraryActions.h"
@@ -185,6 +186,9 @@ void DialogForm::Open(Mode mode, const LibraryVideo& about, std::size_t videos, 
   // Enter pressed without reading must not delete anything.
   const bool deletes = look.part == ModeLook::Part::Delete;
   action_->setDefault(!deletes);
+  action_->setProperty("destroys", deletes);
+  action_->style()->unpolish(action_);
+  action_->style()->polish(action_);
   cancel_->setDefault(deletes);
   ShowAction();
   ScaleForm(*this, *parentWidget());

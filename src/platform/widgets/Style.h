@@ -15,6 +15,7 @@ QStyle* MakeStyle();
 /// The style sheet that every window wears. Dynamic properties choose a look:
 /// - QPushButton `look`: none filled with the accent; "quiet" outlined; "flat" only under the mouse;
 ///   "section" a row of a list of sections; "tile" the big ones; "stage" on the dark stage
+/// - QPushButton `destroys`: true for one that deletes; nothing else is red
 /// - QPushButton `over`: "picture" for a "stage" button on a picture of any brightness
 /// - QPushButton `placed`: true for one that is given its size and place by hand
 /// - QLabel `look`: "caption", "heading", "brand", "pageTitle", "title", "muted", "mark", "markOff", "logo"

@@ -16,6 +16,11 @@ QPushButton:pressed { background: @accentPressed; border-color: @accentPressed; 
 QPushButton:checked { background: @accentPressed; border-color: @accentPressed; }
 QPushButton:focus { border-color: @focus; }
 QPushButton:disabled { background: @disabledFill; border-color: @disabledFill; color: @faint; }
+QPushButton[destroys="true"] { background: #b3261e; color: #ffffff; border-color: #b3261e; }
+QPushButton[destroys="true"]:hover { background: #c5372e; border-color: #c5372e; }
+QPushButton[destroys="true"]:pressed { background: #8f1d17; border-color: #8f1d17; }
+QPushButton[destroys="true"]:focus { border-color: #f2d6d4; }
+QPushButton[destroys="true"]:disabled { background: @disabledFill; border-color: @disabledFill; color: @faint; }
 QPushButton[square="true"] { padding: 0; min-width: @34-4; max-width: @34-4; }
 
 QPushButton[look="quiet"] { background: @field; color: @heading; border: 1px solid @outline; min-height: @34-2;

@@ -17,7 +17,7 @@
 namespace kinalyx {
 namespace {
 
-constexpr int kSlimFoot = 28;  // as designed, where the play bar does not lie over it
+constexpr int kSlimFoot = 34;  // as designed, where the play bar does not lie over it
 constexpr double kReach = 11;  // pixels beside the line of a strip that still mean it
 
 }  // namespace
@@ -216,9 +216,7 @@ void VideoCell::paintEvent(QPaintEvent* event) {
   painter.setBrush(Qt::NoBrush);
   painter.setPen(QPen(current_ ? look.accent : CurrentTheme().stageLine, 2));
   const Strip strip = StripNow();
-  // Without the play bar over it the foot is as slim as its line.
-  const double bottom = current_ ? height() : strip.all.bottom() + (line_.isEmpty() ? 4 : 2);
-  painter.drawRoundedRect(QRectF(0, 0, width(), bottom).adjusted(3, 3, -3, -3), 3, 3);
+  painter.drawRoundedRect(QRectF(3, 3, width() - 6, strip.all.bottom() - 1), 3, 3);
 
   if (strip.words.isEmpty()) return;
   painter.setPen(Qt::NoPen);
@@ -234,8 +232,9 @@ void VideoCell::paintEvent(QPaintEvent* event) {
   painter.setFont(UiFont(12));
   painter.setPen(look.faintInk);
   const QRect& all = strip.all;
-  const QRect room = strip.tall ? QRect(all.left() + 12, all.top() + 26, all.width() - 24, all.height() - 34)
-                                : all.adjusted(12, 0, -12, 0);
+  const int words = qRound(strip.y) + (current_ ? 12 : 7);  // where they begin
+  const QRect room =
+      strip.tall ? QRect(all.left() + 12, words, all.width() - 24, all.bottom() - words) : all.adjusted(12, 0, -12, 0);
   DrawFigures(painter, room, Qt::AlignRight, strip.words);
 }
 
@@ -244,14 +243,16 @@ void VideoCell::paintEvent(QPaintEvent* event) {
 VideoCell::Strip VideoCell::StripNow() const {
   Strip strip;
   const int top = (film_->isHidden() ? panel_ : static_cast<const QWidget*>(film_))->geometry().bottom() + 1;
-  const int slim = line_.isEmpty() ? 0 : std::max(24, Px(kSlimFoot));
+  // Without the play bar over it the foot is as slim as its line.
+  const int slim = line_.isEmpty() ? 0 : Px(kSlimFoot);
   const int room = height() - top - 4;
   strip.all = QRect(panel_->x(), top, panel_->width(), current_ ? room : std::min(room, slim));
   if (line_.isEmpty() || strip.all.height() < 24) return strip;
   const QFontMetrics metrics(UiFont(12));
   strip.words = FittingLine(metrics, strip.all.width() - 24, line_);
-  strip.tall = strip.all.height() > Px(50);
-  strip.y = strip.tall ? strip.all.top() + 14 : strip.all.center().y();
+  // Slim or not, the words stand below the line where there is room for both.
+  strip.tall = strip.all.height() > (current_ ? Px(50) : Px(30));
+  strip.y = !strip.tall ? strip.all.center().y() : strip.all.top() + (current_ ? 14 : 9);
   strip.left = strip.all.left() + 12;
   strip.right = strip.tall ? strip.all.right() - 12 : strip.all.right() - 26 - FiguresWidth(metrics, strip.words);
   return strip;
