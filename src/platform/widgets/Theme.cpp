@@ -62,7 +62,7 @@ QColor Readable(const QColor& wanted, const QColor& ground, double ratio) {
 
 QColor ToneOf(const QColor& colour, double saturation, double lightness) {
   const auto light = static_cast<float>(lightness);
-  if (colour.hslSaturationF() < 0.1) return QColor::fromHslF(0.58f, 0.08f, light);
+  if (colour.hslSaturationF() < 0.15) return QColor::fromHslF(0.58f, 0.08f, light);
   return QColor::fromHslF(colour.hslHueF(), static_cast<float>(saturation), light);
 }
 

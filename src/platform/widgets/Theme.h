@@ -60,7 +60,7 @@ double ContrastRatio(const QColor& a, const QColor& b);
 QColor Mix(const QColor& a, const QColor& b, double part);
 /// `wanted`, moved towards black or white just far enough to reach `ratio` on `ground`.
 QColor Readable(const QColor& wanted, const QColor& ground, double ratio = 4.5);
-/// A colour of the same hue with another saturation and lightness (0 to 1); a black or grey gives a grey.
+/// A colour of the same hue with another saturation and lightness (0 to 1); a black, a grey or a slate gives a grey.
 QColor ToneOf(const QColor& colour, double saturation, double lightness);
 QColor ToQColor(std::int32_t colour);
 std::int32_t FromQColor(const QColor& color);

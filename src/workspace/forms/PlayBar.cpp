@@ -153,6 +153,7 @@ void PlayBar::SetState(bool hasVideo, bool locked) {
   hasVideo_ = hasVideo;
   locked_ = locked;
   ShowTips();
+  Arrange();
 }
 
 void PlayBar::SetLoopKey(const QString& key) {
@@ -311,7 +312,7 @@ void PlayBar::ArrangeWide() {
     part->setGeometry(end, y - high / 2, wide, high);
   };
   take(line_, std::min(FiguresWidth(line_->fontMetrics(), longest_), end - start - Px(kLeastSeek)), Px(24));
-  const QString plain = PlainLine(longest_);
+  const QString plain = hasVideo_ ? PlainLine(longest_) : QString();
   if (const int wide = FiguresWidth(plain_->fontMetrics(), plain) + 14;
       !plain.isEmpty() && end - start - wide > Px(kAmpleSeek)) {
     take(plain_, wide, Px(24));

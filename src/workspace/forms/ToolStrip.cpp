@@ -102,23 +102,26 @@ void ToolStrip::Arrange() {
   }
   const bool all = AllInFirst();
   const bool named = width() >= Px(kWideEnough);
-  const int row = Px(sizes->side) + (named ? Px(kNameHeight) : 0);
+  const int side = Px(sizes->side);
+  const int row = side + (named ? Px(kNameHeight) : 0);
   names_.clear();
   dividers_.clear();
   PlaceRow(true, kAround, *sizes);
+  if (!named) names_.clear();
+  const std::size_t names = names_.size();
   if (all || !open_) {
     for (const Tool& tool : tools_)
       if (!tool.first) tool.button->hide();
   } else {
     PlaceRow(false, kAround + row + 4, *sizes);
+    names_.resize(names);  // its groups are too narrow for names
   }
-  if (!named) names_.clear();
   more_->setVisible(!all);
   more_->setChecked(open_);
   more_->setToolTip(open_ ? tr("Close the second row") : tr("More tools, in a second row"));
-  more_->setFixedSize(Px(sizes->side), Px(sizes->side));
-  more_->move(width() - kMargin - more_->width(), kAround);
-  setFixedHeight(2 * kAround + row + (all || !open_ ? 0 : row + 4));
+  more_->setFixedSize(side, side);
+  more_->move(width() - kMargin - side, kAround);
+  setFixedHeight(2 * kAround + row + (all || !open_ ? 0 : side + 4));
   update();
 }
 

@@ -9,9 +9,9 @@ namespace kinalyx {
 class Button;
 struct Command;
 
-/// The strip of tool buttons in their groups, from the command table. In a wide window each group has its name
-/// beneath it. Where the window is too narrow for one row the buttons draw together, and what still finds no place
-/// stands in a second row, which the last button opens and closes: first what can be spared, then what is at the
+/// The strip of tool buttons in their groups, from the command table. In a wide window each group of the first row has
+/// its name beneath it. Where the window is too narrow for one row the buttons draw together, and what still finds no
+/// place stands in a second row, which the last button opens and closes: first what can be spared, then what is at the
 /// right end, but never the layout in use.
 class ToolStrip : public QFrame {
   Q_OBJECT
@@ -67,7 +67,7 @@ class ToolStrip : public QFrame {
 
   std::vector<Tool> tools_;
   std::vector<QRect> dividers_;  ///< between the groups of a row
-  std::vector<Name> names_;      ///< beneath the groups
+  std::vector<Name> names_;      ///< beneath the groups of the first row
   Button* more_ = nullptr;
   std::string layout_;  ///< the button of the layout in use
   bool open_;
