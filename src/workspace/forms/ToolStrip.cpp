@@ -19,7 +19,7 @@ constexpr int kMargin = 10;
 constexpr int kAround = 6;         // above and below the buttons
 constexpr int kNameHeight = 11;    // beneath them
 constexpr int kNamePixels = 10;    // of its letters
-constexpr int kWideEnough = 1280;  // for the names of the groups
+constexpr int kWideEnough = 1280;  // pixels, for the names of the groups
 
 }  // namespace
 
@@ -101,7 +101,7 @@ void ToolStrip::Arrange() {
     if (sizes == std::end(kSizes)) sizes = &kSizes[2];
   }
   const bool all = AllInFirst();
-  const bool named = width() >= Px(kWideEnough);
+  const bool named = width() >= kWideEnough;
   const int side = Px(sizes->side);
   const int row = side + (named ? Px(kNameHeight) : 0);
   names_.clear();
