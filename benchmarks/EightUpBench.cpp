@@ -7,13 +7,7 @@
 #include <stdexcept>
 
 #include "Bench.h"
-#include "Nowhere.h"
-#include "platform/files/Log.h"
-#include "platform/host/QtHost.h"
-#include "support/TestPrinter.h"
-#include "support/TestVideos.h"
-#include "video/PlayScheduler.h"
-#include "workspace/forms/AnalysisForm.h"
+#include "BenchStage.h"
 
 namespace kinalyx::bench {
 namespace {
@@ -42,33 +36,14 @@ class PictureCounter final : public IFrameInterface {
 };
 
 Figure EightUp60() {
-  test::TestVideo video = test::MjpegVideo(kFrames);
-  video.format.width = 640;
-  video.format.height = 480;
-  video.format.rate = 60;
-  const std::string made = test::MakeTestVideo(video);
-  if (made.empty()) throw std::runtime_error("the test video could not be made");
-
-  Log log(ScratchFolder() + "/bench.log");
-  const auto host = MakeQtHost(log);
-  Settings settings(*host, ScratchFolder() + "/eight-up", ScratchFolder());
-  settings.LoadSettings();
-  settings.ScreenMode = "8";
-  PlayScheduler scheduler(*host);
-  PlayerServices players{*host, scheduler};
-  LastStudentInfo remembered;
-  test::TestPrinter printer;
-  Nowhere nowhere;
-  AnalysisForm form(*host, printer, settings, players, remembered, nowhere);
-  form.resize(1920, 1080);
-  form.show();
-
-  AnalysisWorkspace& analysis = form.Section();
+  const std::string made = StageVideo(kFrames, 60);
+  BenchStage stage("eight-up", "8", {1920, 1080});
+  AnalysisWorkspace& analysis = stage.Section();
   PictureCounter counter(analysis);
   for (int slot = 1; slot <= kSlots; ++slot) {
     const std::string path = ScratchFolder() + "/eight-up-" + std::to_string(slot) + ".avi";
     std::filesystem::copy_file(made, path, std::filesystem::copy_options::overwrite_existing);
-    if (!analysis.Videos().OpenVideo(slot, path)) throw std::runtime_error("a video could not be opened");
+    stage.Open(slot, path);
     analysis.Stage().MP(slot).SetFrameInterface(&counter);
   }
   QApplication::processEvents();
@@ -90,7 +65,7 @@ Figure EightUp60() {
     player.StopPlay();
     player.SetFrameInterface(&analysis);
   }
-  form.CloseAll();
+  stage.Form().CloseAll();
   return {due > 0 ? static_cast<double>(counter.shown) / due : 0, "share"};
 }
 

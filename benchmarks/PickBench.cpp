@@ -5,13 +5,7 @@
 #include <stdexcept>
 
 #include "Bench.h"
-#include "Nowhere.h"
-#include "platform/files/Log.h"
-#include "platform/host/QtHost.h"
-#include "support/TestPrinter.h"
-#include "support/TestVideos.h"
-#include "video/PlayScheduler.h"
-#include "workspace/forms/AnalysisForm.h"
+#include "BenchStage.h"
 
 namespace kinalyx::bench {
 namespace {
@@ -36,25 +30,11 @@ void DrawHundred(AnalysisWorkspace& analysis) {
 }
 
 Figure PickShape() {
-  test::TestVideo video = test::MjpegVideo(20);
-  video.format.width = 640;
-  video.format.height = 480;
-  const std::string path = test::MakeTestVideo(video);
-  if (path.empty()) throw std::runtime_error("the test video could not be made");
-  Log log(ScratchFolder() + "/bench.log");
-  const auto host = MakeQtHost(log);
-  Settings settings(*host, ScratchFolder() + "/pick", ScratchFolder());
-  settings.LoadSettings();
-  PlayScheduler scheduler(*host);
-  PlayerServices players{*host, scheduler};
-  LastStudentInfo remembered;
-  test::TestPrinter printer;
-  Nowhere nowhere;
-  AnalysisForm form(*host, printer, settings, players, remembered, nowhere);
-  form.resize(1280, 800);
-  form.show();
-  AnalysisWorkspace& analysis = form.Section();
-  if (!analysis.Videos().OpenVideo(1, path)) throw std::runtime_error("the video could not be opened");
+  const std::string path = StageVideo(20);
+  BenchStage stage("pick", "1", {1280, 800});
+  AnalysisForm& form = stage.Form();
+  AnalysisWorkspace& analysis = stage.Section();
+  stage.Open(1, path);
   QApplication::processEvents();
   DrawHundred(analysis);
   for (int i = 0; i < 20; ++i) {

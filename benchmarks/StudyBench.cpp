@@ -7,14 +7,8 @@
 #include <vector>
 
 #include "Bench.h"
-#include "Nowhere.h"
+#include "BenchStage.h"
 #include "drawing/LabelPainter.h"
-#include "platform/files/Log.h"
-#include "platform/host/QtHost.h"
-#include "support/TestPrinter.h"
-#include "support/TestVideos.h"
-#include "video/PlayScheduler.h"
-#include "workspace/forms/AnalysisForm.h"
 
 namespace kinalyx::bench {
 namespace {
@@ -53,36 +47,19 @@ Figure LabelCost() {
 
 /// Eight videos come back at their pictures. Baseline: the same eight opened one by one, and shown there.
 Figure SessionReopen() {
-  test::TestVideo video = test::MjpegVideo(300);
-  video.format.width = 640;
-  video.format.height = 480;
-  const std::string made = test::MakeTestVideo(video);
-  if (made.empty()) throw std::runtime_error("the test video could not be made");
+  const std::string made = StageVideo(300);
   std::vector<std::string> paths;
   for (int slot = 1; slot <= kSlots; ++slot) {
     paths.push_back(ScratchFolder() + "/session-" + std::to_string(slot) + ".avi");
     std::filesystem::copy_file(made, paths.back(), std::filesystem::copy_options::overwrite_existing);
   }
-  Log log(ScratchFolder() + "/bench.log");
-  const auto host = MakeQtHost(log);
-  Settings settings(*host, ScratchFolder() + "/session", ScratchFolder());
-  settings.LoadSettings();
-  settings.ScreenMode = "8";
-  PlayScheduler scheduler(*host);
-  PlayerServices players{*host, scheduler};
-  LastStudentInfo remembered;
-  test::TestPrinter printer;
-  Nowhere nowhere;
-  AnalysisForm form(*host, printer, settings, players, remembered, nowhere);
-  form.resize(1920, 1080);
-  form.show();
-  AnalysisWorkspace& analysis = form.Section();
+  BenchStage stage("session", "8", {1920, 1080});
+  AnalysisWorkspace& analysis = stage.Section();
   std::vector<double> together, singly;
   for (int round = 0; round < 5; ++round) {
     singly.push_back(MeasureMs([&] {
       for (int slot = 1; slot <= kSlots; ++slot) {
-        if (!analysis.Videos().OpenVideo(slot, paths[static_cast<std::size_t>(slot - 1)]))
-          throw std::runtime_error("a video could not be opened");
+        stage.Open(slot, paths[static_cast<std::size_t>(slot - 1)]);
         analysis.Stage().MP(slot).DrawFrame(100 + slot);
         QApplication::processEvents();
       }
@@ -97,7 +74,7 @@ Figure SessionReopen() {
     analysis.Videos().CloseAll();
     QApplication::processEvents();
   }
-  form.CloseAll();
+  stage.Form().CloseAll();
   return {Median(together), "ms", Median(singly)};
 }
 

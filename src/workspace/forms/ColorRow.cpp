@@ -15,18 +15,23 @@ namespace {
 constexpr const char* kNames[] = {"Red",    "Yellow",     "Blue", "Green", "Magenta",   "Teal",
                                   "Orange", "Dark green", "Cyan", "White", "Dark blue", "Pink"};
 
+/// One of the choices of the palette, which leaves the keys to the workspace.
+void MakeChoice(QToolButton& button, const QString& name, const QString& accessibleName) {
+  button.setObjectName(name);
+  button.setAccessibleName(accessibleName);
+  FixSize(&button, {22, 24});
+  button.setCheckable(true);
+  button.setFocusPolicy(Qt::NoFocus);
+  button.setCursor(Qt::PointingHandCursor);
+  button.setAttribute(Qt::WA_Hover);
+}
+
 /// A dot of its colour with a rim that shows it on any ground; a ring round the one that is pressed.
 class ColorButton : public QToolButton {
  public:
   ColorButton(int index, QWidget* parent) : QToolButton(parent) {
     colour_ = ToQColor(kColorChoices[static_cast<std::size_t>(index)]);
-    setObjectName(QString("ColorChoiceBtn%1").arg(index));
-    setAccessibleName(kNames[index]);
-    FixSize(this, {22, 24});
-    setCheckable(true);
-    setFocusPolicy(Qt::NoFocus);
-    setCursor(Qt::PointingHandCursor);
-    setAttribute(Qt::WA_Hover);
+    MakeChoice(*this, QString("ColorChoiceBtn%1").arg(index), kNames[index]);
   }
 
  protected:
@@ -55,13 +60,7 @@ class ColorButton : public QToolButton {
 class LineButton : public QToolButton {
  public:
   LineButton(const LineWidth& width, QWidget* parent) : QToolButton(parent), pixels_(width.pixels) {
-    setObjectName(QString("WidthChoiceBtn%1").arg(width.pixels));
-    setAccessibleName(width.name);
-    FixSize(this, {22, 24});
-    setCheckable(true);
-    setFocusPolicy(Qt::NoFocus);
-    setCursor(Qt::PointingHandCursor);
-    setAttribute(Qt::WA_Hover);
+    MakeChoice(*this, QString("WidthChoiceBtn%1").arg(width.pixels), width.name);
   }
 
  protected:
