@@ -56,7 +56,7 @@ bool CutPlan::Make(Demuxer& demuxer, int firstPicture, int count, AVRational fra
       decodingTimes = decodingTimes && packet.dts != AV_NOPTS_VALUE && packet.pts != AV_NOPTS_VALUE;
       planned.shown =
           timed_ ? (packet.pts != AV_NOPTS_VALUE ? packet.pts : packet.dts) - zero : planned.picture - first_;
-      planned.decoded = packet.dts - zero;
+      if (packet.dts != AV_NOPTS_VALUE) planned.decoded = packet.dts - zero;  // else it is invented below
       if (!IsWanted(planned)) continue;
       --missing;
       needed = packets_.size();
