@@ -32,7 +32,7 @@ constexpr int kSettledMs = 150;
 /// By then a desktop has put its frame around a new window.
 constexpr int kFramedMs = 150;
 /// Sections whose subsystems are not built yet.
-constexpr int kComing[] = {kCapturePage, kLessonPage};
+constexpr int kComing[] = {kLessonPage};
 
 }  // namespace
 
@@ -118,13 +118,22 @@ void Program::LoadMain() {
   profiles_ = new ProfilesPage(players_, *printer_, settings_, fields_, lastStudent_, operations_);
   main_->SetPage(kProfilesPage, profiles_);
 
+  capture_ = std::make_unique<CaptureRoom>(CaptureRoom::Parts{.services = players_,
+                                                              .settings = settings_,
+                                                              .fields = fields_,
+                                                              .remembered = lastStudent_,
+                                                              .ways = *this});
+  capturePage_ = capture_->MakePage();
+  main_->SetPage(kCapturePage, capturePage_);
+
   importExport_ = new ImportExportPage(*host_, settings_, operations_, lastStudent_);
   main_->SetPage(kImportExportPage, importExport_);
 
   setup_ = new SetupPage(*host_, settings_, schemes_);
   auto* fieldsEditor = new FieldsEditor(*host_, fields_);
   QObject::connect(fieldsEditor, &FieldsEditor::FieldsChanged, profiles_, &ProfilesPage::SetupFields);
-  setup_->SetFieldEditor(fieldsEditor);
+  setup_->SetSection(SetupPage::kProfiles, fieldsEditor);
+  setup_->SetSection(SetupPage::kCapture, capture_->MakeSection());
   main_->SetPage(kSetupPage, setup_);
   ConnectSetupPage();
 
@@ -239,6 +248,7 @@ void Program::SetupVocabulary() {
   profiles_->SetupVocabulary();
   if (analysis_) analysis_->SettingsChanged();
   importExport_->SetupVocabulary();
+  capturePage_->SetupVocabulary();
   help_->SetupVocabulary(vocabulary_);
 }
 
@@ -306,6 +316,19 @@ int Program::SendToAnalysis(const std::string& path, const std::function<void(co
 /// The wish comes from a page that is left by it: it goes when that has returned.
 void Program::GoToAnalysis() {
   going_ = HostTimer(*host_, 0, false, [this] { OpenPage(kAnalysisPage); });
+}
+
+// ---------------------------------------------------------------- the capture section
+
+bool Program::OpenInAnalysis(const std::vector<std::string>& paths) {
+  if (paths.empty() || !OpenAnalysis().Section().OpenTogether(paths)) return false;
+  GoToAnalysis();
+  return true;
+}
+
+void Program::GoToCaptureSetup() {
+  OpenPage(kSetupPage);
+  if (main_->CurrentPage() == kSetupPage) setup_->PSCmd_Click(SetupPage::kCapture);
 }
 
 // ---------------------------------------------------------------- the end

@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "app/CaptureRoom.h"
 #include "app/Main.h"
 #include "core/ColorSchemes.h"
 #include "core/MailSettings.h"
@@ -41,7 +42,8 @@ class Program final : private ISettingsEvents,
                       private IStartUpSteps,
                       private IMainEvents,
                       private IAnalysisLink,
-                      private INavigation {
+                      private INavigation,
+                      private ICaptureWays {
  public:
   /// @param application  made before and let go after the program
   /// @param log          the same
@@ -96,6 +98,10 @@ class Program final : private ISettingsEvents,
   int SendToAnalysis(const std::string& path, const std::function<void(const std::string&)>& status) override;
   void GoToAnalysis() override;
 
+  // --- ICaptureWays
+  bool OpenInAnalysis(const std::vector<std::string>& paths) override;
+  void GoToCaptureSetup() override;
+
   QApplication& application_;
   std::unique_ptr<IHost> host_;
   std::unique_ptr<IPrinter> printer_;
@@ -110,11 +116,14 @@ class Program final : private ISettingsEvents,
   PlayerServices players_;
   LibraryOperations operations_;
 
+  std::unique_ptr<CaptureRoom> capture_;  ///< its page and section go with the main form, before it
+
   std::unique_ptr<SplashForm> splash_;
   std::unique_ptr<Main> main_;
   // Owned by the main form.
   MenuPage* menu_ = nullptr;
   ProfilesPage* profiles_ = nullptr;
+  CapturePage* capturePage_ = nullptr;
   ImportExportPage* importExport_ = nullptr;
   AnalysisForm* analysis_ = nullptr;
   OfferBar* reopen_ = nullptr;

@@ -114,6 +114,9 @@ std::vector<Settings::Key> Settings::ConfigKeys() {
   add("LastStudent", "", &LastStudent);
   add("StripRows", "0", &StripRows);
   add("CardPlaces", "", &CardPlaces);
+  section = "VidCap";
+  for (std::size_t i = 0; i < NetworkCamera.size(); ++i)
+    add(fmt::format("NetworkCamera{}", i + 1), "", &NetworkCamera[i]);
   return keys;
 }
 

@@ -140,6 +140,8 @@ class Settings {
   std::int32_t StripRows = 0;  ///< the second row of the tool strip: 0 closed, 1 open
   std::string CardPlaces;      ///< where the cards of the stage were put, see CardDesk.h
 
+  std::array<std::string, 4> NetworkCamera;  ///< [VidCap]: addresses; what holds no "://" is none
+
   // --- capture.ini, [General]
   std::array<std::string, 2> Camera;  ///< keys Camera1 and Camera2
   std::array<std::string, 2> CameraSize;

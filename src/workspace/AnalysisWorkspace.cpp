@@ -185,6 +185,15 @@ void AnalysisWorkspace::OpenFiles(int slot, const std::vector<std::string>& path
   if (stage_.VideoCount() == kSlots && !status.empty()) host_.Message(MessageKind::Information, "", status);
 }
 
+bool AnalysisWorkspace::OpenTogether(const std::vector<std::string>& paths) {
+  std::vector<int> slots;
+  for (const std::string& path : paths)
+    if (const int slot = videos_.SendToAnalysis(path)) slots.push_back(slot);
+  if (slots.size() == 2 && slots[1] == slots[0] + 1 && (slots[0] == 1 || slots[0] == 3))
+    compare_.Locks().DualLock(slots[0] == 1 ? 1 : 2);
+  return !slots.empty();
+}
+
 void AnalysisWorkspace::PutToolDown() {
   tools_.PutToolDown();
   stage_.News().Note(kCommandsChanged);

@@ -75,6 +75,8 @@ class AnalysisWorkspace final : public IFrameInterface,
   /// Opens the videos among files and folders as they lie: the first in the window on whose cell they were dropped,
   /// the others, or, for slot 0, all of them, in free ones as long as there are any.
   void OpenFiles(int slot, const std::vector<std::string>& paths);
+  /// Sends videos to free windows; two of them are locked where they stand side by side. False when none was opened.
+  bool OpenTogether(const std::vector<std::string>& paths);
   void PutToolDown();
   void ChooseColour(int Index);
   /// Pixels of the line of the tool in hand, or of what is taken.

@@ -115,15 +115,15 @@ bool SetupPage::PSCmd_Click(int index) {
   return true;
 }
 
-void SetupPage::SetFieldEditor(QWidget* editor) {
-  QWidget*& page = pages_[kProfiles];
-  if (page) {
-    stack_->removeWidget(page);
-    delete page;
+void SetupPage::SetSection(Section section, QWidget* page) {
+  QWidget*& place = pages_[section];
+  if (place) {
+    stack_->removeWidget(place);
+    delete place;
   }
-  page = editor;
-  stack_->addWidget(editor);
-  SetComing(buttons_->button(kProfiles), false);
+  place = page;
+  stack_->addWidget(page);
+  SetComing(buttons_->button(section), false);
 }
 
 void SetupPage::TakeReloaded() {

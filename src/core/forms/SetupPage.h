@@ -41,8 +41,9 @@ class SetupPage : public PageWidget {
   void TakeReloaded();
   int CurrentSection() const { return current_; }
 
-  /// Gives the section of profiles its editor; the page becomes its parent. Until then the section is closed.
-  void SetFieldEditor(QWidget* editor);
+  /// Gives a section that comes from another room its page, which this page becomes the parent of. Until then the
+  /// section is closed.
+  void SetSection(Section section, QWidget* page);
 
   AnalysisSection& Analysis() { return *analysis_; }
 

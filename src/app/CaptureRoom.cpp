@@ -1,0 +1,30 @@
+#include "app/CaptureRoom.h"
+
+#include "capture/forms/CaptureSection.h"
+#include "library/TodayText.h"
+#include "platform/graph/DeviceList.h"
+#include "platform/graph/LiveGraph.h"
+
+namespace kinalyx {
+
+CaptureRoom::CaptureRoom(Parts parts)
+    : parts_(parts), devices_(MakeDevices()), setup_(parts.settings, *devices_), naming_(parts.settings, ChangeDateFormat) {}
+
+CaptureRoom::~CaptureRoom() = default;
+
+CapturePage* CaptureRoom::MakePage() {
+  return new CapturePage({.services = parts_.services,
+                          .settings = parts_.settings,
+                          .fields = parts_.fields,
+                          .remembered = parts_.remembered,
+                          .setup = setup_,
+                          .naming = naming_,
+                          .ways = parts_.ways,
+                          .makeGraph = [](IGraphEvents& events) { return MakeLiveGraph(events); }});
+}
+
+CaptureSection* CaptureRoom::MakeSection() {
+  return new CaptureSection(parts_.services.host, parts_.settings, setup_, naming_);
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <memory>
+
+#include "capture/CaptureSetup.h"
+#include "capture/VideoNaming.h"
+#include "capture/forms/CapturePage.h"
+
+namespace kinalyx {
+
+class CaptureSection;
+
+/// The capture side of the program: the devices of the machine, the choices, the names, and the page and the section
+/// of Program Setup that show them. The devices are looked for from now on, in a thread of their own.
+class CaptureRoom {
+ public:
+  struct Parts {
+    PlayerServices& services;
+    Settings& settings;
+    ProfileFields& fields;
+    LastStudentInfo& remembered;
+    ICaptureWays& ways;
+  };
+  /// All outlives the room; the widgets that it makes belong to who takes them and go first.
+  explicit CaptureRoom(Parts parts);
+  ~CaptureRoom();
+
+  CapturePage* MakePage();
+  CaptureSection* MakeSection();
+
+ private:
+  Parts parts_;
+  std::unique_ptr<IDevices> devices_;
+  CaptureSetup setup_;
+  VideoNaming naming_;
+};
+
+}  // namespace kinalyx

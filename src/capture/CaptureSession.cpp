@@ -1,0 +1,323 @@
+#include "capture/CaptureSession.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <utility>
+
+#include "capture/templates/CaptureTemplate.h"
+#include "core/Settings.h"
+#include "platform/files/Folders.h"
+
+namespace kinalyx {
+
+namespace {
+
+constexpr int kReadyMs = 4000;   ///< how long it is told that a video was kept
+constexpr int kTallyMs = 200;    ///< how often the figures of a recording are brought up to date
+constexpr int kRetryMs = 3000;   ///< after a camera has failed
+constexpr double kPalFrame = 0.04;
+constexpr double kNtscFrame = 0.0333667;
+
+// Labels of the templates, by camera.
+constexpr std::string_view kSources[] = {"VideoSource", "VideoSource 2"};
+constexpr std::string_view kGates[] = {"MV Trigger Source", "MV Trigger Source 2"};
+constexpr std::string_view kWriters[] = {"FileWriter", "FileWriter 2"};
+
+constexpr std::string_view kCapturing = "Capturing Video. Press button again to STOP capture";
+constexpr std::string_view kTrimFront = "Trim Excess from the FRONT of the video or Choose Save";
+constexpr std::string_view kTrimEnd = "Trim Excess from the END of the video or Choose Save";
+constexpr std::string_view kClickSave = "Click on \"Save Capture\" to save";
+constexpr std::string_view kReady = "Ready to Record Video";
+
+}  // namespace
+
+std::string_view CaptionOf(CapturePhase phase) {
+  switch (phase) {
+    case CapturePhase::Writing: return "Stop Capture";
+    case CapturePhase::Reviewing: return "Back to Live Video";
+    case CapturePhase::LivePreview: break;
+  }
+  return "Start Capture";
+}
+
+CaptureSession::CaptureSession(Parts parts) : parts_(parts) {}
+CaptureSession::~CaptureSession() = default;
+
+// ---------------------------------------------------------------- the page
+
+void CaptureSession::Open() {
+  open_ = true;
+  parts_.naming.SetCameraUse(parts_.setup.Use());
+  if (phase_ == CapturePhase::LivePreview && !saving_) BuildCaptureGraph();
+}
+
+bool CaptureSession::Leave() {
+  if (saving_) {
+    parts_.host.Message(MessageKind::Information, "", "The last video is still being saved.");
+    return false;
+  }
+  if (phase_ == CapturePhase::Writing) StopCapture();
+  if (phase_ == CapturePhase::Reviewing) {
+    if (!parts_.host.Question("", "The recording has not been saved. Do you want to throw it away?")) return false;
+    BackToLive();
+  }
+  open_ = false;
+  StopCaptureGraph();
+  return true;
+}
+
+void CaptureSession::Rebuild() {
+  parts_.naming.SetCameraUse(parts_.setup.Use());
+  if (open_ && phase_ == CapturePhase::LivePreview && !saving_) BuildCaptureGraph();
+}
+
+// ---------------------------------------------------------------- the graph
+
+/// One after the other: stop, clear, load, bind, run. What cannot be had is told in the place of the picture.
+bool CaptureSession::BuildCaptureGraph() {
+  StopCaptureGraph();
+  retry_.Stop();
+  words_ = {};
+  two_ = parts_.setup.Use() == CameraUse::Both;
+  const auto fail = [this](const std::string& why) {
+    words_[0] = why;
+    parts_.page.CaptureChanged();
+    return false;
+  };
+  if (IsImport(parts_.setup.Kind())) return fail({});
+  const std::string_view text =
+      CaptureTemplate(false, parts_.setup.Method(), parts_.setup.Use(), parts_.setup.DVMode());
+  if (const Outcome loaded = graph_->GraphXmlLoad(text); !loaded) return fail(loaded.Why());
+  AssignGraphCameras();
+  if (!two_) {
+    const bool pal = parts_.settings.NTSCorPAL != "0";
+    (void)graph_->GraphSetFrameTime(kSources[0], pal ? kPalFrame : kNtscFrame);
+  }
+  ArmGates(false);
+  if (const Outcome run = graph_->GraphRun(); !run) return fail(run.Why());
+  built_ = true;
+  if (status_.empty()) Say(std::string(kReady));
+  parts_.page.CaptureChanged();
+  return true;
+}
+
+/// The first source shows the camera at work, whichever that is.
+void CaptureSession::AssignGraphCameras() {
+  BindSource(kSources[0], parts_.setup.Use() == CameraUse::Second ? 1 : 0);
+  if (two_) BindSource(kSources[1], 1);
+}
+
+void CaptureSession::BindSource(std::string_view label, int camera) {
+  const int window = label == kSources[1] ? 1 : 0;
+  std::string& words = words_[static_cast<std::size_t>(window)];
+  const CameraChoice& choice = parts_.setup.Shown(camera);
+  if (choice.name.empty()) {
+    words = parts_.setup.Devices().Known() ? "No camera is connected. Plug one in, and it shows here."
+                                           : "Looking for cameras...";
+    return;
+  }
+  if (!parts_.setup.ShownDevice(camera) && parts_.setup.Devices().Known()) {
+    words = fmt::format("{} is not connected. Plug it in, and it shows here.", choice.name);
+    return;
+  }
+  if (const Outcome bound = graph_->GraphSetDevice(label, choice.name); !bound) {
+    words = bound.Why();
+    return;
+  }
+  words = "Starting the camera...";
+  const std::optional<PictureSize> size = SizeOf(choice.size);
+  if (!size) return;
+  const Outcome set = graph_->GraphSetVideoFormat(label, size->width, size->height, choice.format);
+  if (!set) words = set.Why();
+}
+
+void CaptureSession::StopCaptureGraph() {
+  tallyTimer_.Stop();
+  if (!graph_) return;
+  if (built_) (void)graph_->GraphStop();
+  graph_->GraphClear();
+  built_ = false;
+}
+
+void CaptureSession::ArmGates(bool on) {
+  for (const std::string_view label : kGates)
+    if (auto* gate = graph_->GraphFilterByLabel<ITriggerSourceFilter>(label)) gate->Arm(on);
+}
+
+LivePicture CaptureSession::Latest(int camera) {
+  const std::string_view label = camera == 1 ? "Video Renderer 2" : "Video Renderer";
+  if (auto* renderer = graph_->GraphFilterByLabel<IRendererFilter>(label)) return renderer->Latest();
+  return {};
+}
+
+void CaptureSession::WantSize(int camera, int width, int height) {
+  const std::string_view label = camera == 1 ? "Video Renderer 2" : "Video Renderer";
+  if (auto* renderer = graph_->GraphFilterByLabel<IRendererFilter>(label)) renderer->WantSize(width, height);
+}
+
+RecordingTally CaptureSession::Tally(int camera) const { return tallies_[static_cast<std::size_t>(camera)]; }
+
+// ---------------------------------------------------------------- start, stop, back
+
+void CaptureSession::PressCapture() {
+  if (saving_) return;
+  switch (phase_) {
+    case CapturePhase::LivePreview: StartCapture(); break;
+    case CapturePhase::Writing: StopCapture(); break;
+    case CapturePhase::Reviewing: BackToLive(); break;
+  }
+}
+
+void CaptureSession::StartCapture() {
+  if (!built_ && !BuildCaptureGraph()) return;
+  ReadyTimer_.Stop();
+  tallies_ = {};
+  const Outcome ready = parts_.files.Prepare();
+  if (!ready) return Say(ready.Why());
+  for (int camera = 0; camera < (two_ ? 2 : 1); ++camera) {
+    const Outcome set = graph_->GraphSetFileSink(kWriters[camera], parts_.files.Path(camera));
+    if (!set) return Say(set.Why());
+  }
+  phase_ = CapturePhase::Writing;
+  ArmGates(true);
+  tallyTimer_ = HostTimer(parts_.host, kTallyMs, true, [this] { ShowTally(); });
+  Say(std::string(kCapturing));
+}
+
+void CaptureSession::ShowTally() {
+  for (int camera = 0; camera < 2; ++camera) {
+    if (auto* writer = graph_->GraphFilterByLabel<IWriterFilter>(kWriters[camera]))
+      tallies_[static_cast<std::size_t>(camera)] = writer->Tally();
+  }
+  parts_.page.CaptureChanged();
+}
+
+void CaptureSession::StopCapture() {
+  ArmGates(false);
+  if (built_) (void)graph_->GraphStop();
+  ShowTally();
+  StopCaptureGraph();
+  Review();
+}
+
+void CaptureSession::Review() {
+  TrimStartFrame_ = TrimEndFrame_ = 0;
+  phase_ = CapturePhase::Reviewing;
+  bool opened = parts_.page.ReviewPlayer(0).Load(parts_.files.Path(0));
+  if (two_) opened = parts_.page.ReviewPlayer(1).Load(parts_.files.Path(1)) || opened;
+  if (!opened) {
+    const std::string& fault = tallies_[0].fault;
+    BackToLive();
+    Say(fault.empty() ? "The camera gave no picture. Nothing was recorded." : fault);
+    return;
+  }
+  const std::string& fault = tallies_[0].fault.empty() ? tallies_[1].fault : tallies_[0].fault;
+  Say(fault.empty() ? std::string(kTrimFront) : fault + " The recording up to there is kept.");
+}
+
+void CaptureSession::BackToLive() {
+  parts_.page.ReviewPlayer(0).Unload();
+  parts_.page.ReviewPlayer(1).Unload();
+  parts_.files.Discard();
+  TrimStartFrame_ = TrimEndFrame_ = 0;
+  tallies_ = {};
+  phase_ = CapturePhase::LivePreview;
+  status_.clear();
+  if (open_) BuildCaptureGraph();
+  parts_.page.CaptureChanged();
+}
+
+void CaptureSession::TrimFront() {
+  TrimStartFrame_ = parts_.page.ReviewPlayer(0).CurrentFrame();
+  Say(std::string(kTrimEnd));
+}
+
+void CaptureSession::TrimEnd() {
+  TrimEndFrame_ = parts_.page.ReviewPlayer(0).CurrentFrame();
+  Say(std::string(kClickSave));
+}
+
+// ---------------------------------------------------------------- keeping
+
+bool CaptureSession::RefuseUnlessNamed() {
+  if (parts_.naming.ShortGame() && FileExists(parts_.naming.CapturedVideoPath())) {
+    parts_.host.Message(MessageKind::Information, "", "File already exists. Choose a different name.");
+    return false;
+  }
+  if (!parts_.naming.Shown().empty()) return true;
+  parts_.host.Message(MessageKind::Information, "", "You must name the video before saving!");
+  parts_.naming.ChangeName();
+  return false;
+}
+
+void CaptureSession::Save() {
+  if (saving_ || phase_ != CapturePhase::Reviewing) return;
+  if (!RefuseUnlessNamed()) {
+    sendNext_ = false;
+    return;
+  }
+  if (TrimEndFrame_ > 0 && TrimEndFrame_ <= TrimStartFrame_) {
+    sendNext_ = false;
+    parts_.host.Message(MessageKind::Information, "",
+                        "Your TRIM Start and End times are not correct. Please check your Start and End times and try "
+                        "again.");
+    return;
+  }
+  saving_ = true;
+  jobPart_ = 0;
+  Say("Saving Video.... Please Wait.");
+}
+
+void CaptureSession::SendToAnalysis() {
+  if (saving_ || phase_ != CapturePhase::Reviewing) return;
+  sendNext_ = true;
+  Save();
+}
+
+void CaptureSession::Say(std::string status) {
+  status_ = std::move(status);
+  parts_.page.CaptureChanged();
+}
+
+void CaptureSession::SayReadyLater() {
+  ReadyTimer_ = HostTimer(parts_.host, kReadyMs, false, [this] {
+    if (phase_ == CapturePhase::LivePreview) Say(std::string(kReady));
+  });
+}
+
+// ---------------------------------------------------------------- what the graph tells
+
+void CaptureSession::PictureCame(const std::string& label) {
+  const int camera = label == "Video Renderer 2" ? 1 : 0;
+  std::string& words = words_[static_cast<std::size_t>(camera)];
+  const bool first = !words.empty();
+  words.clear();
+  if (first) parts_.page.CaptureChanged();
+  parts_.page.LivePictureCame(camera);
+}
+
+void CaptureSession::SourceFailed(const std::string& label, const std::string& why) {
+  const int camera = label == kSources[1] ? 1 : 0;
+  words_[static_cast<std::size_t>(camera)] = why;
+  if (phase_ == CapturePhase::Writing) {
+    ShowTally();
+    std::string& fault = tallies_[static_cast<std::size_t>(camera)].fault;
+    if (fault.empty()) fault = why;
+    StopCapture();
+    return;
+  }
+  // A camera that another program has, or that is being plugged in anew, is asked again.
+  if (phase_ == CapturePhase::LivePreview && open_)
+    retry_ = HostTimer(parts_.host, kRetryMs, false, [this] { Rebuild(); });
+  parts_.page.CaptureChanged();
+}
+
+void CaptureSession::SinkFailed(const std::string& label, const std::string& why) {
+  if (phase_ != CapturePhase::Writing) return;
+  ShowTally();
+  tallies_[label == kWriters[1] ? 1 : 0].fault = why;
+  StopCapture();
+}
+
+}  // namespace kinalyx

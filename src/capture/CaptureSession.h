@@ -1,0 +1,126 @@
+#pragma once
+
+#include <array>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "capture/CaptureSetup.h"
+#include "capture/ICaptureViews.h"
+#include "capture/RecordingSaver.h"
+#include "capture/VideoNaming.h"
+#include "capture/WorkingFiles.h"
+#include "library/JobRunner.h"
+#include "platform/graph/IGraph.h"
+#include "platform/host/Host.h"
+
+namespace kinalyx {
+
+/// Where a session is, which is what the caption of `Capturebtn` says.
+enum class CapturePhase { LivePreview, Writing, Reviewing };
+
+/// "Start Capture", "Stop Capture", "Back to Live Video".
+std::string_view CaptionOf(CapturePhase phase);
+
+/// The way from the live picture over a recording to a video in the student's folder: start, stop, look, cut, keep.
+/// One graph at a time, built anew for each live view. Nothing here waits for a camera or a disk.
+class CaptureSession : private IGraphEvents {
+ public:
+  struct Parts {
+    IHost& host;
+    Settings& settings;
+    CaptureSetup& setup;
+    VideoNaming& naming;
+    WorkingFiles& files;
+    ICapturePage& page;
+    ICaptureWays& ways;
+    JobRunner& jobs;
+    std::string trimProgram;  ///< path of `avitrim`
+  };
+  /// All parts outlive this.
+  explicit CaptureSession(Parts parts);
+  ~CaptureSession() override;
+  /// The graph on which the cameras run, made with the session as its events. Before anything else.
+  void SetGraph(std::unique_ptr<IGraph> graph) { graph_ = std::move(graph); }
+  IGraphEvents& GraphEvents() { return *this; }
+
+  // --- the page
+
+  /// The page is on the screen: cameras come up.
+  void Open();
+  /// The page is left: what runs is stopped. False when the user wants to keep what is under review.
+  bool Leave();
+  /// Other choices: the live view is built anew. Nothing while something is being written or looked at.
+  void Rebuild();
+
+  // --- its buttons
+
+  void PressCapture();
+  void TrimFront();
+  void TrimEnd();
+  void Save();
+  void SendToAnalysis();
+
+  // --- what the page shows
+
+  CapturePhase Phase() const { return phase_; }
+  const std::string& Status() const { return status_; }
+  /// A recording is being kept; its buttons rest.
+  bool Saving() const { return saving_; }
+  double SavedPart() const { return jobPart_; }
+  bool TwoCameras() const { return two_; }
+  int TrimStartFrame() const { return TrimStartFrame_; }
+  int TrimEndFrame() const { return TrimEndFrame_; }
+  const std::string& LastSavedVideo() const { return LastSavedVideo_; }
+  /// What stands in the place of a camera's picture; empty when it gives one.
+  const std::string& CameraWords(int camera) const { return words_[static_cast<std::size_t>(camera)]; }
+  LivePicture Latest(int camera);
+  void WantSize(int camera, int width, int height);
+  /// Of the recording under way or under review.
+  RecordingTally Tally(int camera) const;
+
+ private:
+  class SaveEvents;
+
+  bool BuildCaptureGraph();
+  void AssignGraphCameras();
+  void BindSource(std::string_view label, int camera);
+  void StopCaptureGraph();
+  void ArmGates(bool on);
+  void StartCapture();
+  void StopCapture();
+  void BackToLive();
+  void Review();
+  bool RefuseUnlessNamed();
+  void Saved(const SavedRecording& saved);
+  void Say(std::string status);
+  void SayReadyLater();
+  void ShowTally();
+
+  void PictureCame(const std::string& label) override;
+  void SourceFailed(const std::string& label, const std::string& why) override;
+  void SinkFailed(const std::string& label, const std::string& why) override;
+  void EndOfStream() override {}
+
+  Parts parts_;
+  std::unique_ptr<IGraph> graph_;
+  CapturePhase phase_ = CapturePhase::LivePreview;
+  std::string status_;
+  std::array<std::string, 2> words_;
+  std::array<RecordingTally, 2> tallies_;
+  bool open_ = false;
+  bool built_ = false;
+  bool two_ = false;
+  bool saving_ = false;
+  bool sendNext_ = false;
+  double jobPart_ = 0;
+  int TrimStartFrame_ = 0;
+  int TrimEndFrame_ = 0;
+  std::string LastSavedVideo_;
+  std::string LastSavedVideo2_;
+  HostTimer ReadyTimer_;
+  HostTimer tallyTimer_;
+  HostTimer retry_;
+};
+
+}  // namespace kinalyx

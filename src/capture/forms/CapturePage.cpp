@@ -1,0 +1,491 @@
+#include "capture/forms/CapturePage.h"
+
+#include <QBoxLayout>
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QShortcut>
+#include <QSignalBlocker>
+#include <QSlider>
+#include <QStackedWidget>
+
+#include "capture/forms/CameraControlsForm.h"
+#include "capture/forms/FindCamForm.h"
+#include "capture/forms/LiveView.h"
+#include "capture/forms/NamingPanel.h"
+#include "library/TodayText.h"
+#include "library/forms/Divider.h"
+#include "library/forms/LibraryLists.h"
+#include "library/forms/PreviewPlayer.h"
+#include "library/forms/SearchBar.h"
+#include "library/forms/StatusLine.h"
+#include "platform/files/Folders.h"
+#include "platform/widgets/Buttons.h"
+#include "platform/widgets/Figures.h"
+#include "platform/widgets/NameList.h"
+#include "platform/widgets/Panel.h"
+#include "platform/widgets/Scale.h"
+#include "platform/widgets/Text.h"
+#include "platform/widgets/Theme.h"
+
+namespace kinalyx {
+
+namespace {
+
+constexpr int kSideWidth = 256;  // as designed
+enum StagePage { kLivePage, kReviewPage };
+
+QComboBox* MakeList(const QString& name, const QString& tip, int letters) {
+  auto* list = new QComboBox;
+  list->setObjectName(name);
+  list->setToolTip(tip);
+  list->setAccessibleName(tip);
+  list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  list->setMinimumContentsLength(letters);
+  return list;
+}
+
+/// Rows of a list, with one of them chosen; a choice that is not among them stands first and says so.
+void FillList(QComboBox& list, const std::vector<std::string>& rows, const std::string& chosen) {
+  const QSignalBlocker quiet(list);
+  list.clear();
+  for (const std::string& row : rows) list.addItem(Q(row));
+  int at = list.findText(Q(chosen));
+  if (at < 0 && !chosen.empty()) {
+    list.insertItem(0, Q(chosen));
+    at = 0;
+  }
+  list.setCurrentIndex(at);
+}
+
+QButtonGroup* MakeChoice(QHBoxLayout& row, const QString& name, std::initializer_list<const char*> captions,
+                         QObject* owner) {
+  auto* group = new QButtonGroup(owner);
+  int index = 0;
+  for (const char* caption : captions) {
+    auto* button = new Button(name + QString::number(index), caption, {}, Look::Quiet);
+    button->setCheckable(true);
+    group->addButton(button, index++);
+    row.addWidget(button);
+  }
+  return group;
+}
+
+}  // namespace
+
+/// A recording under review, counted by frames whether it is shown by frames or by fields.
+class CapturePage::Player final : public IReviewPlayer {
+ public:
+  explicit Player(PreviewPlayer& player) : player_(player) {}
+  bool Load(const std::string& path) override { return player_.Load(path); }
+  void Unload() override { player_.Unload(); }
+  int CurrentFrame() override { return player_.Frame(); }
+  int FrameCount() override { return player_.FrameCount(); }
+  void ShowFrame(int frame) override { player_.ShowFrame(frame); }
+
+ private:
+  PreviewPlayer& player_;
+};
+
+CapturePage::CapturePage(Parts parts, QWidget* parent)
+    : PageWidget(parent),
+      parts_(std::move(parts)),
+      vocabulary_(parts_.settings),
+      browser_(parts_.services.host.Drives(), parts_.settings, parts_.remembered, LibraryBrowser::Kind::Profiles),
+      files_(JoinPath(parts_.settings.DataPath, "capture")),
+      jobs_(parts_.services.host, JobRunner::On::Worker) {
+  setObjectName("CapturePage");
+  IHost& host = parts_.services.host;
+  session_ = std::make_unique<CaptureSession>(CaptureSession::Parts{
+      .host = host,
+      .settings = parts_.settings,
+      .setup = parts_.setup,
+      .naming = parts_.naming,
+      .files = files_,
+      .page = *this,
+      .ways = parts_.ways,
+      .jobs = jobs_,
+      .trimProgram = JoinPath(parts_.settings.AppPath, "avitrim"),
+  });
+  session_->SetGraph(parts_.makeGraph(session_->GraphEvents()));
+
+  auto* columns = new QHBoxLayout(this);
+  columns->setContentsMargins(14, 14, 14, 14);
+  columns->setSpacing(kGap);
+  status_ = new StatusLine("CapStatus");
+  columns->addWidget(MakeSide());
+  auto* middle = new QVBoxLayout;
+  middle->setSpacing(kGap);
+  middle->addWidget(MakeCameras());
+  middle->addWidget(MakeStage(), 1);
+  middle->addWidget(MakeActions());
+  middle->addWidget(status_);
+  columns->addLayout(middle, 1);
+  ConnectParts();
+  SetupVocabulary();
+  FillCameras();
+  ShowPhase();
+}
+
+CapturePage::~CapturePage() {
+  parts_.setup.SetEvents(nullptr);
+  session_.reset();
+}
+
+// ---------------------------------------------------------------- the parts of the page
+
+QWidget* CapturePage::MakeSide() {
+  auto* side = new QWidget;
+  FixWidth(side, kSideWidth);
+  auto* rows = new QVBoxLayout(side);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->setSpacing(kGap);
+  lists_ = new LibraryLists(browser_, parts_.settings, this, {"InstructorList", "StudentList", "CapVideoList"});
+  lists_->VideoList()->setParent(this);
+  lists_->VideoList()->hide();
+  search_ = new SearchBar(parts_.services.host, DriveWatch::SendWorker, parts_.settings.LibraryPath, parts_.fields, this);
+  rows->addWidget(search_);
+  students_ = new Panel("CapFolderTitle", {});
+  MostWidth(students_, kSideWidth);
+  auto* label = MakeLabel({}, "Instructors", "caption");
+  label->setContentsMargins(kGap, 8, kGap, 2);
+  students_->Body()->addWidget(label);
+  students_->Body()->addWidget(lists_->InstructorList(), 2);
+  students_->Body()->addWidget(Divider());
+  students_->Body()->addWidget(lists_->StudentList(), 3);
+  rows->addWidget(students_, 1);
+  names_ = new NamingPanel(parts_.naming);
+  rows->addWidget(names_);
+  return side;
+}
+
+QWidget* CapturePage::MakeCameras() {
+  auto* ground = new QWidget;
+  auto* rows = new QVBoxLayout(ground);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->setSpacing(6);
+  auto* first = new QHBoxLayout;
+  first->setSpacing(6);
+  OneCamTwoOpt_ = MakeChoice(*first, "OneCamTwoOpt", {"One Cam", "Two Cam"}, this);
+  choice_ = new QWidget;
+  auto* choices = new QHBoxLayout(choice_);
+  choices->setContentsMargins(kGap, 0, 0, 0);
+  choices->setSpacing(6);
+  CamChoiceBtn_ = MakeChoice(*choices, "CamChoiceBtn", {"Camera 1", "Camera 2"}, this);
+  first->addWidget(choice_);
+  first->addStretch(1);
+  auto* setup = new Button("CapSetupBtn", "Capture Setup", "setup", Look::Quiet);
+  setup->setToolTip("Kinds of cameras, naming, default cameras, cameras on the network");
+  connect(setup, &QPushButton::clicked, this, [this] { parts_.ways.GoToCaptureSetup(); });
+  first->addWidget(setup);
+  rows->addLayout(first);
+  for (int camera = 0; camera < 2; ++camera) {
+    auto* line = new QWidget;
+    line->setObjectName(QString("CameraLine%1").arg(camera + 1));
+    auto* row = new QHBoxLayout(line);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(6);
+    const QString number = QString::number(camera + 1);
+    QLabel* label = MakeLabel({}, "Camera " + number, "muted");
+    LeastWidth(label, 62);
+    row->addWidget(label);
+    sources_[camera] = MakeList("VideoSource_Camera" + number, "Camera " + number, 12);
+    sizes_[camera] = MakeList("VideoSize_Camera" + number, "Size of the picture", 9);
+    formats_[camera] = MakeList("VideoFormat_Camera" + number, "How the pictures come", 12);
+    row->addWidget(sources_[camera], 3);
+    row->addWidget(sizes_[camera], 1);
+    row->addWidget(formats_[camera], 2);
+    auto* knobs = IconButton(QString("CamConfig_Camera%1").arg(camera), "scale",
+                             "Exposure, gain, focus and white balance of the camera", Look::Quiet);
+    connect(knobs, &QPushButton::clicked, this, [this, camera] {
+      CameraControlsForm form(parts_.setup.Devices(), parts_.setup.Shown(camera).name, this);
+      form.exec();
+    });
+    row->addWidget(knobs);
+    rows->addWidget(line);
+    connect(sources_[camera], &QComboBox::textActivated, this,
+            [this, camera](const QString& name) { parts_.setup.ChooseSource(camera, Std(name)); });
+    connect(sizes_[camera], &QComboBox::textActivated, this,
+            [this, camera](const QString& size) { parts_.setup.ChooseSize(camera, Std(size)); });
+    connect(formats_[camera], &QComboBox::textActivated, this,
+            [this, camera](const QString& format) { parts_.setup.ChooseFormat(camera, Std(format)); });
+  }
+  return ground;
+}
+
+QWidget* CapturePage::MakeStage() {
+  stage_ = new QStackedWidget;
+  stage_->setObjectName("Videobox");
+  auto* live = MakeFrame("stage");
+  auto* review = MakeFrame("stage");
+  auto* liveRow = new QHBoxLayout(live);
+  auto* reviewRow = new QHBoxLayout(review);
+  for (QHBoxLayout* row : {liveRow, reviewRow}) {
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(2);
+  }
+  for (int camera = 0; camera < 2; ++camera) {
+    live_[camera] = new LiveView(QString("ezVidCap%1").arg(camera + 1));
+    liveRow->addWidget(live_[camera], 1);
+    connect(live_[camera], &LiveView::RoomChanged, this,
+            [this, camera](QSize room) { session_->WantSize(camera, room.width(), room.height()); });
+    review_[camera] = new PreviewPlayer(parts_.services);
+    review_[camera]->setObjectName(camera == 0 ? "VidPlayer" : "TestPlayer");
+    reviewRow->addWidget(review_[camera], 1);
+    players_[camera] = std::make_unique<Player>(*review_[camera]);
+  }
+  review_[1]->SetBarShown(false);
+  stage_->addWidget(live);
+  stage_->addWidget(review);
+  return stage_;
+}
+
+QWidget* CapturePage::MakeActions() {
+  auto* ground = new QWidget;
+  auto* rows = new QVBoxLayout(ground);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->setSpacing(6);
+  reviewBar_ = new QWidget;
+  auto* seek = new QHBoxLayout(reviewBar_);
+  seek->setContentsMargins(0, 0, 0, 0);
+  VidScroll_ = new QSlider(Qt::Horizontal);
+  VidScroll_->setObjectName("VidScroll");
+  VidScroll_->setAccessibleName("Frame of the recording");
+  frame_ = new FigureLabel("VidFrameLbl");
+  seek->addWidget(VidScroll_, 1);
+  seek->addWidget(frame_);
+  rows->addWidget(reviewBar_);
+
+  auto* row = new QHBoxLayout;
+  row->setSpacing(8);
+  Capturebtn_ = new Button("Capturebtn", "Start Capture", "camera");
+  LeastWidth(Capturebtn_, 190);
+  Capturebtn_->setToolTip("Space");
+  StartHerebtn_ = new Button("StartHerebtn", "Trim Front of Video", "trim", Look::Quiet);
+  StartHerebtn_->setToolTip("The video begins at the picture that is shown (I)");
+  EndHerebtn_ = new Button("EndHerebtn", "Trim End of Video", "trim", Look::Quiet);
+  EndHerebtn_->setToolTip("The video ends at the picture that is shown (O)");
+  CapSavebtn_ = new Button("CapSavebtn", "Save Capture", "save");
+  CapSavebtn_->setToolTip("Ctrl+S");
+  CapSendbtn_ = new Button("CapSendbtn", "Send to Analysis", "send");
+  CapSendbtn_->setToolTip("Saves the recording and opens it in the analysis section (Return)");
+  row->addWidget(Capturebtn_);
+  row->addStretch(1);
+  row->addWidget(StartHerebtn_);
+  row->addWidget(EndHerebtn_);
+  row->addWidget(CapSavebtn_);
+  row->addWidget(CapSendbtn_);
+  rows->addLayout(row);
+  return ground;
+}
+
+void CapturePage::ConnectParts() {
+  connect(lists_, &LibraryLists::InstructorChosen, this, &CapturePage::FolderChosen);
+  connect(lists_, &LibraryLists::StudentChosen, this, &CapturePage::FolderChosen);
+  connect(search_, &SearchBar::Wanted, this, &CapturePage::GoTo);
+  connect(search_, &SearchBar::Left, this, [this] { lists_->StudentList()->setFocus(); });
+  connect(names_, &NamingPanel::Told, status_, &StatusLine::Say);
+  connect(OneCamTwoOpt_, &QButtonGroup::idClicked, this, &CapturePage::OneCamTwoOpt_Click);
+  connect(CamChoiceBtn_, &QButtonGroup::idClicked, this, &CapturePage::CamChoiceBtn_Click);
+  connect(Capturebtn_, &QPushButton::clicked, this, &CapturePage::Capturebtn_Click);
+  connect(StartHerebtn_, &QPushButton::clicked, this, &CapturePage::StartHerebtn_Click);
+  connect(EndHerebtn_, &QPushButton::clicked, this, &CapturePage::EndHerebtn_Click);
+  connect(CapSavebtn_, &QPushButton::clicked, this, &CapturePage::CapSavebtn_Click);
+  connect(CapSendbtn_, &QPushButton::clicked, this, &CapturePage::CapSendbtn_Click);
+  connect(VidScroll_, &QSlider::valueChanged, this, &CapturePage::SeekReview);
+  connect(review_[0], &PreviewPlayer::Moved, this, &CapturePage::ShowReview);
+  const auto key = [this](const QKeySequence& keys, auto action) {
+    connect(new QShortcut(keys, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut), &QShortcut::activated, this,
+            action);
+  };
+  key(QKeySequence("Ctrl+F"), [this] { search_->FocusBox(); });
+  key(QKeySequence("Ctrl+S"), [this] { CapSavebtn_Click(); });
+  parts_.setup.SetEvents(this);
+}
+
+// ---------------------------------------------------------------- coming and going
+
+void CapturePage::Open() {
+  browser_.Return(true);
+  lists_->ShowAll();
+  FolderChosen();
+  names_->SetupNameMode();
+  FillCameras();
+  session_->Open();
+  ShowPhase();
+  AskForUnfinished();
+  AskForCamera();
+  Capturebtn_->setFocus();
+}
+
+bool CapturePage::Leave() {
+  search_->HideResults();
+  return session_->Leave();
+}
+
+void CapturePage::SetupVocabulary() { students_->SetTitle("For Which " + Q(vocabulary_.Noun())); }
+
+void CapturePage::FolderChosen() { parts_.naming.SetFolder(browser_.Folder()); }
+
+void CapturePage::GoTo(const SearchHit& hit) {
+  browser_.Refresh();
+  const bool there =
+      browser_.SelectInstructor(hit.instructor) && (hit.student.empty() || browser_.SelectStudent(hit.student));
+  lists_->ShowAll();
+  FolderChosen();
+  if (!there) status_->Say("It is not there any more.");
+  Capturebtn_->setFocus();
+}
+
+/// Once for each opening of the page: a camera that the program was told to start with is not there.
+void CapturePage::AskForCamera() {
+  while (!asked_) {
+    const std::optional<int> missing = parts_.setup.MissingCamera();
+    if (!missing) return;
+    FindCamForm form(*missing, this);
+    if (form.exec() != QDialog::Accepted) asked_ = true;
+  }
+}
+
+void CapturePage::AskForUnfinished() {}
+
+// ---------------------------------------------------------------- handlers
+
+void CapturePage::Capturebtn_Click() { session_->PressCapture(); }
+void CapturePage::StartHerebtn_Click() { session_->TrimFront(); }
+void CapturePage::EndHerebtn_Click() { session_->TrimEnd(); }
+void CapturePage::CapSavebtn_Click() { session_->Save(); }
+void CapturePage::CapSendbtn_Click() { session_->SendToAnalysis(); }
+void CapturePage::OneCamTwoOpt_Click(int index) { parts_.setup.ChooseCameraCount(index == 0); }
+void CapturePage::CamChoiceBtn_Click(int index) { parts_.setup.ChooseCamera(index); }
+
+void CapturePage::keyPressEvent(QKeyEvent* event) {
+  const bool review = session_->Phase() == CapturePhase::Reviewing;
+  switch (event->key()) {
+    case Qt::Key_Space: return Capturebtn_Click();
+    case Qt::Key_Left:
+      if (review) return SeekReview(players_[0]->CurrentFrame() - 1);
+      break;
+    case Qt::Key_Right:
+      if (review) return SeekReview(players_[0]->CurrentFrame() + 1);
+      break;
+    case Qt::Key_I:
+      if (review) return StartHerebtn_Click();
+      break;
+    case Qt::Key_O:
+      if (review) return EndHerebtn_Click();
+      break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      if (review) return CapSendbtn_Click();
+      break;
+    default: break;
+  }
+  PageWidget::keyPressEvent(event);
+}
+
+// ---------------------------------------------------------------- what is shown
+
+void CapturePage::FillCameras() {
+  const auto names = [](const std::vector<Device>& devices) {
+    std::vector<std::string> rows;
+    for (const Device& device : devices) rows.push_back(device.name);
+    return rows;
+  };
+  const bool two = !parts_.setup.SingleCamera();
+  for (int camera = 0; camera < 2; ++camera) {
+    const CameraChoice& choice = parts_.setup.Shown(camera);
+    const Device* device = parts_.setup.ShownDevice(camera);
+    FillList(*sources_[camera], names(parts_.setup.Cameras()), choice.name);
+    FillList(*sizes_[camera], device ? SizesOf(*device) : std::vector<std::string>(), choice.size);
+    FillList(*formats_[camera], device ? FormatsOf(*device, choice.size) : std::vector<std::string>(), choice.format);
+    sources_[camera]->parentWidget()->setVisible(two || static_cast<int>(parts_.setup.Use()) == camera);
+  }
+  OneCamTwoOpt_->button(two ? 1 : 0)->setChecked(true);
+  choice_->setVisible(!two);
+  CamChoiceBtn_->button(parts_.setup.Use() == CameraUse::Second ? 1 : 0)->setChecked(true);
+}
+
+QString CapturePage::BadgeText(int camera) const {
+  const RecordingTally tally = session_->Tally(camera);
+  const double seconds = static_cast<double>(tally.lastNs - tally.firstNs) / 1e9;
+  QString text = QString("%1:%2")
+                     .arg(static_cast<int>(seconds) / 60)
+                     .arg(std::max(0.0, seconds - 60 * (static_cast<int>(seconds) / 60)), 4, 'f', 1, QChar('0'));
+  if (tally.lost > 0) text += QString("   %1 %2 lost").arg(tally.lost).arg(tally.lost == 1 ? "picture" : "pictures");
+  return text;
+}
+
+void CapturePage::ShowPhase() {
+  const CapturePhase phase = session_->Phase();
+  const bool review = phase == CapturePhase::Reviewing;
+  const bool writing = phase == CapturePhase::Writing;
+  const bool two = session_->TwoCameras();
+  Capturebtn_->setText(Q(std::string(CaptionOf(phase))));
+  Capturebtn_->SetIcon(writing ? "square" : review ? "rewind" : "camera");
+  Capturebtn_->setProperty("danger", writing);
+  Capturebtn_->setEnabled(!session_->Saving());
+  for (Button* button : {StartHerebtn_, EndHerebtn_, CapSavebtn_, CapSendbtn_}) {
+    button->setVisible(review);
+    button->setEnabled(!session_->Saving());
+  }
+  StartHerebtn_->setText(session_->TrimStartFrame() > 0 ? QString("Start at %1").arg(session_->TrimStartFrame())
+                                                        : QString("Trim Front of Video"));
+  EndHerebtn_->setText(session_->TrimEndFrame() > 0 ? QString("End at %1").arg(session_->TrimEndFrame())
+                                                    : QString("Trim End of Video"));
+  reviewBar_->setVisible(review);
+  stage_->setCurrentIndex(review ? kReviewPage : kLivePage);
+  live_[1]->setVisible(two);
+  review_[1]->setVisible(two);
+  for (int camera = 0; camera < 2; ++camera) {
+    live_[camera]->SetWords(Q(session_->CameraWords(camera)));
+    live_[camera]->SetBadge(writing ? BadgeText(camera) : QString());
+    live_[camera]->SetCaption(two ? QString("Camera %1").arg(camera + 1) : QString());
+  }
+  // What is being recorded is not changed under way.
+  const bool live = phase == CapturePhase::LivePreview && !session_->Saving();
+  for (int camera = 0; camera < 2; ++camera) {
+    sources_[camera]->setEnabled(live);
+    sizes_[camera]->setEnabled(live);
+    formats_[camera]->setEnabled(live);
+  }
+  for (QButtonGroup* group : {OneCamTwoOpt_, CamChoiceBtn_})
+    for (QAbstractButton* button : group->buttons()) button->setEnabled(live);
+  status_->Say(Q(session_->Status()));
+  if (review) ShowReview();
+}
+
+void CapturePage::ShowReview() {
+  const int count = players_[0]->FrameCount();
+  const int frame = players_[0]->CurrentFrame();
+  const QSignalBlocker quiet(VidScroll_);
+  VidScroll_->setRange(0, std::max(0, count - 1));
+  VidScroll_->setValue(frame);
+  frame_->setText(QString("%1 of %2").arg(frame + 1).arg(count));
+}
+
+void CapturePage::SeekReview(int frame) {
+  for (int camera = 0; camera < (session_->TwoCameras() ? 2 : 1); ++camera)
+    players_[camera]->ShowFrame(std::clamp(frame, 0, std::max(0, players_[camera]->FrameCount() - 1)));
+  ShowReview();
+}
+
+void CapturePage::CaptureChanged() { ShowPhase(); }
+
+void CapturePage::LivePictureCame(int camera) { live_[camera]->ShowPicture(session_->Latest(camera)); }
+
+IReviewPlayer& CapturePage::ReviewPlayer(int camera) { return *players_[camera]; }
+
+void CapturePage::CaptureChoiceChanged() {
+  FillCameras();
+  session_->Rebuild();
+  ShowPhase();
+}
+
+void CapturePage::CaptureDevicesChanged() {
+  FillCameras();
+  if (isVisible()) AskForCamera();
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,127 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <memory>
+
+#include "capture/CaptureSession.h"
+#include "capture/CaptureSetup.h"
+#include "capture/ICaptureViews.h"
+#include "capture/VideoNaming.h"
+#include "core/Vocabulary.h"
+#include "library/LibraryBrowser.h"
+#include "library/LibraryIndex.h"
+#include "library/Profile.h"
+#include "platform/widgets/PageWidget.h"
+#include "video/PlayerServices.h"
+
+class QButtonGroup;
+class QComboBox;
+class QLabel;
+class QSlider;
+class QStackedWidget;
+
+namespace kinalyx {
+
+class Button;
+class LibraryLists;
+class LiveView;
+class NamingPanel;
+class Panel;
+class PreviewPlayer;
+class SearchBar;
+class StatusLine;
+
+/// The capture page: who is recorded and under what name on the left, the cameras in the middle, and beneath them the
+/// one large button that starts, stops and goes back, with what belongs to each of these states.
+class CapturePage : public PageWidget, private ICapturePage, private ICaptureSetupEvents {
+  Q_OBJECT
+
+ public:
+  /// What the page works with; all of it outlives the page.
+  struct Parts {
+    PlayerServices& services;
+    Settings& settings;
+    ProfileFields& fields;
+    LastStudentInfo& remembered;
+    CaptureSetup& setup;
+    VideoNaming& naming;
+    ICaptureWays& ways;
+    std::function<std::unique_ptr<IGraph>(IGraphEvents&)> makeGraph;
+  };
+  explicit CapturePage(Parts parts, QWidget* parent = nullptr);
+  ~CapturePage() override;
+
+  void Open() override;
+  bool Leave() override;
+  void SetupVocabulary();
+
+  // --- handlers
+  void Capturebtn_Click();
+  void StartHerebtn_Click();
+  void EndHerebtn_Click();
+  void CapSavebtn_Click();
+  void CapSendbtn_Click();
+  void OneCamTwoOpt_Click(int index);
+  void CamChoiceBtn_Click(int index);
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  class Player;
+
+  QWidget* MakeSide();
+  QWidget* MakeCameras();
+  QWidget* MakeStage();
+  QWidget* MakeActions();
+  void ConnectParts();
+  void FolderChosen();
+  void GoTo(const SearchHit& hit);
+  void FillCameras();
+  void ShowPhase();
+  void ShowReview();
+  QString BadgeText(int camera) const;
+  void AskForCamera();
+  void AskForUnfinished();
+  void SeekReview(int frame);
+
+  void CaptureChanged() override;
+  void LivePictureCame(int camera) override;
+  IReviewPlayer& ReviewPlayer(int camera) override;
+  void CaptureChoiceChanged() override;
+  void CaptureDevicesChanged() override;
+
+  Parts parts_;
+  Vocabulary vocabulary_;
+  LibraryBrowser browser_;
+  WorkingFiles files_;
+  JobRunner jobs_;
+  std::unique_ptr<CaptureSession> session_;
+  LibraryLists* lists_;
+  SearchBar* search_;
+  Panel* students_;
+  NamingPanel* names_;
+  QButtonGroup* OneCamTwoOpt_;
+  QButtonGroup* CamChoiceBtn_;
+  QWidget* choice_;
+  std::array<QComboBox*, 2> sources_{};
+  std::array<QComboBox*, 2> sizes_{};
+  std::array<QComboBox*, 2> formats_{};
+  std::array<LiveView*, 2> live_{};
+  std::array<PreviewPlayer*, 2> review_{};
+  std::array<std::unique_ptr<Player>, 2> players_;
+  QStackedWidget* stage_;
+  QSlider* VidScroll_;
+  QLabel* frame_;
+  QWidget* reviewBar_;
+  Button* Capturebtn_;
+  Button* StartHerebtn_;
+  Button* EndHerebtn_;
+  Button* CapSavebtn_;
+  Button* CapSendbtn_;
+  StatusLine* status_;
+  bool asked_ = false;  ///< for a camera that is missing
+};
+
+}  // namespace kinalyx
