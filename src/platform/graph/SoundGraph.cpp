@@ -2,25 +2,15 @@
 
 #include <gst/app/gstappsrc.h>
 
-#include <mutex>
-
 namespace kinalyx {
 namespace {
 
 constexpr double kAheadSeconds = 0.5;  // of sound that waits in the graph
 
-/// The library is begun with the first sound: it looks through its plugins for a moment.
-bool Begun() {
-  static std::once_flag once;
-  static bool begun = false;
-  std::call_once(once, [] { begun = gst_init_check(nullptr, nullptr, nullptr); });
-  return begun;
-}
-
 }  // namespace
 
 std::unique_ptr<SoundGraph> SoundGraph::Make(const std::string& sink, Clock::time_point zero, int rate, int channels) {
-  if (!Begun()) return nullptr;
+  if (!GstBegun()) return nullptr;
   const std::string description =
       "appsrc name=source format=time ! audioconvert ! audioresample ! volume name=volume ! " + sink;
   GError* error = nullptr;
@@ -41,7 +31,7 @@ std::unique_ptr<SoundGraph> SoundGraph::Make(const std::string& sink, Clock::tim
   gst_app_src_set_caps(GST_APP_SRC(graph->source_.get()), caps);
   gst_caps_unref(caps);
   // Times count from `zero` by the clock that the pictures go by, whenever the sink is ready.
-  const Ref<GstClock> clock(gst_system_clock_obtain());
+  const GstRef<GstClock> clock(gst_system_clock_obtain());
   gst_pipeline_use_clock(GST_PIPELINE(made), clock.get());
   gst_element_set_start_time(made, GST_CLOCK_TIME_NONE);
   const auto ago = std::chrono::duration_cast<std::chrono::nanoseconds>(Clock::now() - zero).count();

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <gst/gst.h>
-
 #include <chrono>
 #include <cstdint>
 #include <memory>
 #include <span>
 #include <string>
+
+#include "platform/graph/GstHandles.h"
 
 namespace kinalyx {
 
@@ -31,18 +31,12 @@ class SoundGraph {
   bool Works();
 
  private:
-  struct Unref {
-    void operator()(void* object) const { gst_object_unref(object); }
-  };
-  template <typename T>
-  using Ref = std::unique_ptr<T, Unref>;
-
   SoundGraph() = default;
 
-  Ref<GstElement> pipeline_;
-  Ref<GstElement> source_;
-  Ref<GstElement> volume_;
-  Ref<GstBus> bus_;
+  GstRef<GstElement> pipeline_;
+  GstRef<GstElement> source_;
+  GstRef<GstElement> volume_;
+  GstRef<GstBus> bus_;
   int rate_ = 0;
   int channels_ = 0;
 };

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <gst/gst.h>
+
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/graph/GstHandles.h"
+#include "platform/graph/IDevices.h"
+
+namespace kinalyx {
+
+/// The way from a device's name to what gives its pictures or its sound. The list of devices keeps it up to date and
+/// shares it with the graphs; any thread may ask. Only for the sources of this room.
+class DeviceSources {
+ public:
+  /// A device of the list with what it is for the library; none for the Test Camera and for one on the network.
+  struct Entry {
+    Device device;
+    std::shared_ptr<GstDevice> local;
+  };
+
+  void Replace(std::vector<Entry> entries);
+
+  /// An element with one source pad, floating, to be put into a pipeline; null when no camera has that name. It is
+  /// live, and gives what the mode nearest to `wanted` promises: raw pictures, or image/jpeg and the like as the
+  /// camera has compressed them. A camera on the network gives what it likes.
+  /// @param wanted  size, rate (0: the highest) and format (empty: the best); null for what suits most
+  GstElement* MakeCameraSource(const std::string& name, const PictureMode* wanted) const;
+  /// The same for a microphone: raw sound.
+  GstElement* MakeMicrophoneSource(const std::string& name) const;
+
+ private:
+  std::optional<Entry> Find(const std::string& name, Device::Kind kind) const;
+
+  mutable std::mutex mutex_;
+  std::vector<Entry> entries_;
+};
+
+}  // namespace kinalyx

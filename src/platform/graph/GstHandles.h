@@ -1,0 +1,25 @@
+#pragma once
+
+#include <gst/gst.h>
+
+#include <memory>
+
+namespace kinalyx {
+
+struct GstUnref {
+  void operator()(void* object) const { gst_object_unref(object); }
+};
+/// Keeps an object of the library for graphs.
+template <typename T>
+using GstRef = std::unique_ptr<T, GstUnref>;
+
+struct GstCapsUnref {
+  void operator()(GstCaps* caps) const { gst_caps_unref(caps); }
+};
+using GstCapsRef = std::unique_ptr<GstCaps, GstCapsUnref>;
+
+/// The library is begun with the first call, which may take seconds where its plugins have changed; not on the
+/// user-interface thread. False when it cannot be.
+bool GstBegun();
+
+}  // namespace kinalyx
