@@ -118,6 +118,7 @@ void Program::LoadMain() {
   profiles_ = new ProfilesPage(players_, *printer_, settings_, fields_, lastStudent_, operations_);
   main_->SetPage(kProfilesPage, profiles_);
 
+  settings_.LoadCaptureSettings();
   capture_ = std::make_unique<CaptureRoom>(CaptureRoom::Parts{.services = players_,
                                                               .settings = settings_,
                                                               .fields = fields_,
@@ -147,7 +148,6 @@ void Program::LoadMain() {
   main_->SetCompany(Q(settings_.CompanyName));
   SetupVocabulary();
   setup_->SetupProgram();
-  settings_.LoadCaptureSettings();
 
   if (TakeRestartRequest(settings_)) {
     setup_->PSCmd_Click(SetupPage::kGeneral);

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "capture/CaptureSession.h"
+#include "capture/CaptureSetup.h"
 
 namespace kinalyx::test {
 

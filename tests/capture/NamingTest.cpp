@@ -1,6 +1,7 @@
 #include "capture/VideoNaming.h"
 
 #include "library/TempLibrary.h"
+#include "library/VideoNames.h"
 #include "platform/files/Folders.h"
 
 namespace kinalyx::test {

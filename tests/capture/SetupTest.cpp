@@ -8,6 +8,7 @@ namespace {
 
 class SetupTest : public testing::Test, public ICaptureSetupEvents {
  protected:
+  SetupTest() { settings.LoadCaptureSettings(); }
   void CaptureChoiceChanged() override { ++builds; }
   void CaptureDevicesChanged() override { ++lists; }
   void Start() {
