@@ -349,9 +349,8 @@ void AVIControl::AwaitBetter() {
 /// had any more (the file has gone) leaves the last one standing.
 bool AVIControl::ComposeCurrent() {
   if (properties_.SplitFields) {
-    if (!CopyFieldOf(CurrentRawFrame_, FrameBuffer_)) return false;
-    SoftenFrameBuffer();
-    ComposeFrameBuffer();
+    if (!CopySoftFieldOf(CurrentRawFrame_, services_.field)) return false;
+    ComposeField(services_.field);
     return true;
   }
   return ComposeWhole();

@@ -196,8 +196,9 @@ class AVIControl {
   void PresentFrame();
   void FinishPlay();
   bool CopyFieldOf(int frame, std::vector<std::uint8_t>& target);
+  bool CopySoftFieldOf(int frame, std::vector<std::uint8_t>& target);
   void SoftenFrameBuffer();
-  void ComposeFrameBuffer();
+  void ComposeField(const std::vector<std::uint8_t>& field);
   void ShowFrameBuffer();
   bool ReadyForStrobe();
   void Post(PlayerNews::Kind kind, int frame) { News().Post(*this, kind, frame); }
@@ -216,7 +217,7 @@ class AVIControl {
   HostTimer better_;  ///< runs while a stand-in is shown
   std::shared_ptr<std::atomic<bool>> hasBetter_ = std::make_shared<std::atomic<bool>>();  ///< set by the file's threads
   FormatHeader FormatHeader_;
-  std::vector<std::uint8_t> FrameBuffer_;  ///< empty until a field is wanted
+  std::vector<std::uint8_t> FrameBuffer_;  ///< what Enhance and strobes compose; empty until then
   bool softened_ = false;                  ///< a field has been softened since the file was opened
 
   int CurrentRawFrame_ = 0;

@@ -104,15 +104,26 @@ bool AVIControl::CopyFieldOf(int frame, std::vector<std::uint8_t>& target) {
   return true;
 }
 
+/// The same, softened.
+bool AVIControl::CopySoftFieldOf(int frame, std::vector<std::uint8_t>& target) {
+  if (FormatHeader_.bitCount != 24) return CopyFieldOf(frame, target);
+  const FrameRows rows = VideoStream_->Frame(frame, FormatHeader_.bitCount);
+  if (!rows || rows.width != FormatHeader_.width || rows.height != FormatHeader_.height) return false;
+  target.resize(static_cast<std::size_t>(FormatHeader_.imageSize));
+  CopySoftField(rows.bits, rows.rowBytes, rows.height, CurrentField_, target.data());
+  softened_ = true;
+  return true;
+}
+
 void AVIControl::SoftenFrameBuffer() {
   if (FormatHeader_.bitCount != 24) return;
   SoftenField(FrameBuffer_.data(), ScanLineBytes(FormatHeader_.width, 24), FormatHeader_.height, CurrentField_);
   softened_ = true;
 }
 
-void AVIControl::ComposeFrameBuffer() {
+void AVIControl::ComposeField(const std::vector<std::uint8_t>& field) {
   const int bits = FormatHeader_.bitCount;
-  surface_.Compose({FrameBuffer_.data(), FormatHeader_.width, FormatHeader_.height,
+  surface_.Compose({field.data(), FormatHeader_.width, FormatHeader_.height,
                     ScanLineBytes(FormatHeader_.width, bits), bits, true},
                    properties_.FlipHorizontal, services_.scratch);
 }
@@ -120,7 +131,7 @@ void AVIControl::ComposeFrameBuffer() {
 /// Shows the buffer, which may hold what no position has.
 void AVIControl::ShowFrameBuffer() {
   surface_.ForgetComposed();
-  ComposeFrameBuffer();
+  ComposeField(FrameBuffer_);
   PresentFrame();
 }
 

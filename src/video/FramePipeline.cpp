@@ -66,6 +66,20 @@ void SoftenField(std::uint8_t* rows, int rowBytes, int height, bool currentField
     std::memcpy(Row(rows, rowBytes, lastRow), Row(rows, rowBytes, lastRow - 1), static_cast<std::size_t>(rowBytes));
 }
 
+void CopySoftField(const std::uint8_t* frame, int rowBytes, int height, bool currentField, std::uint8_t* target) {
+  const int first = currentField ? 0 : 1;
+  const auto bytes = static_cast<std::size_t>(rowBytes);
+  int last = -1;  // the row that was copied last
+  for (int row = first; row < height; row += 2) {
+    std::uint8_t* const copied = Row(target, rowBytes, row);
+    std::memcpy(copied, frame + static_cast<std::ptrdiff_t>(row) * rowBytes, bytes);
+    if (last >= 0) MeanOfRows(Row(target, rowBytes, last), copied, Row(target, rowBytes, row - 1), rowBytes);
+    else if (row == 1) std::memcpy(target, copied, bytes);
+    last = row;
+  }
+  if (last >= 0 && last < height - 1) std::memcpy(Row(target, rowBytes, height - 1), Row(target, rowBytes, last), bytes);
+}
+
 void EnhanceField(std::uint8_t* rows, int rowBytes, int height, bool currentField, double highAmount,
                   double lowAmount) {
   std::array<std::uint8_t, 256> table;

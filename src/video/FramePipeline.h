@@ -33,6 +33,9 @@ void smooth(std::uint8_t* rows, int rowBytes, int firstRow, int lastColumn, int 
 /// `currentField` was copied. The outermost missing row, which has one neighbour only, is a copy of it.
 void SoftenField(std::uint8_t* rows, int rowBytes, int height, bool currentField);
 
+/// CopyField and SoftenField in one go, which reads and writes each row while the processor has it at hand.
+void CopySoftField(const std::uint8_t* frame, int rowBytes, int height, bool currentField, std::uint8_t* target);
+
 /// Pushes the contrast of a field: bytes above 128 are raised by `highAmount`, all others lowered by
 /// `lowAmount`. A byte that would leave the range stays what it was. The first pixel of each row and
 /// the outermost rows are left out.

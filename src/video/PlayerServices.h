@@ -1,5 +1,8 @@
 #pragma once
 
+#include <cstdint>
+#include <vector>
+
 #include "platform/host/Host.h"
 #include "platform/paint/PixelOps.h"
 #include "video/PlayScheduler.h"
@@ -17,6 +20,7 @@ struct PlayerServices {
   /// Where a picture is widened before it is scaled. One for all: they scale one after the other, and what is
   /// still in the processor's cache is written over fastest.
   ScaleScratch scratch{};
+  std::vector<std::uint8_t> field{};  ///< where a field is rebuilt before it is scaled, shared for the same reason
   ISoundOutput* sound = nullptr;  ///< null: nothing is ever heard
 };
 

@@ -42,6 +42,9 @@ TEST(SoftenField, RebuildsExactlyTheRowsThatTheFieldLeavesOut) {
     EXPECT_EQ(buffer, rows(one.copied));
     if (height > 1) SoftenField(buffer.data(), kRow, height, one.field);
     EXPECT_EQ(buffer, rows(one.softened));
+    auto together = rows(vector<int>(one.frame.size(), 9));
+    CopySoftField(rows(one.frame).data(), kRow, height, one.field, together.data());
+    EXPECT_EQ(together, rows(one.softened));
   }
 }
 
