@@ -107,6 +107,11 @@ bool AVIControl::CopyFieldOf(int frame, std::vector<std::uint8_t>& target) {
 /// The same, softened.
 bool AVIControl::CopySoftFieldOf(int frame, std::vector<std::uint8_t>& target) {
   if (FormatHeader_.bitCount != 24) return CopyFieldOf(frame, target);
+  if (VideoStream_->Field(frame, CurrentField_, target)) {
+    SoftenField(target.data(), ScanLineBytes(FormatHeader_.width, 24), FormatHeader_.height, CurrentField_);
+    softened_ = true;
+    return true;
+  }
   const FrameRows rows = VideoStream_->Frame(frame, FormatHeader_.bitCount);
   if (!rows || rows.width != FormatHeader_.width || rows.height != FormatHeader_.height) return false;
   target.resize(static_cast<std::size_t>(FormatHeader_.imageSize));
@@ -123,9 +128,9 @@ void AVIControl::SoftenFrameBuffer() {
 
 void AVIControl::ComposeField(const std::vector<std::uint8_t>& field) {
   const int bits = FormatHeader_.bitCount;
-  surface_.Compose({field.data(), FormatHeader_.width, FormatHeader_.height,
-                    ScanLineBytes(FormatHeader_.width, bits), bits, true},
-                   properties_.FlipHorizontal, services_.scratch);
+  surface_.Compose(
+      {field.data(), FormatHeader_.width, FormatHeader_.height, ScanLineBytes(FormatHeader_.width, bits), bits, true},
+      properties_.FlipHorizontal, services_.scratch);
 }
 
 /// Shows the buffer, which may hold what no position has.

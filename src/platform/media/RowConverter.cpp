@@ -96,6 +96,23 @@ FrameRows RowConverter::Convert(const AVFrame& frame, int bitCount, std::vector<
   return good ? rows : FrameRows{};
 }
 
+bool RowConverter::ConvertField(const AVFrame& frame, int first, std::vector<std::uint8_t>& bits) {
+  const bool ownColour = frame.format == AV_PIX_FMT_YUV411P || frame.format == AV_PIX_FMT_YUV422P;
+  if (!ownColour || !shape_.IsPlain() || frame.height < 2 || ToneMapper::Wants(frame)) return false;
+  const int rowBytes = RowBytes(frame.width, 24);
+  bits.resize(static_cast<std::size_t>(rowBytes) * static_cast<std::size_t>(frame.height));
+  // The field as a picture of its own, over the same bytes.
+  AVFrame field = frame;
+  field.height = (frame.height - first + 1) / 2;
+  field.interlaced_frame = 0;
+  const int top = (frame.height - 1 - first) % 2;
+  for (int p = 0; p < 3; ++p) {
+    field.data[p] += static_cast<std::ptrdiff_t>(top) * frame.linesize[p];
+    field.linesize[p] *= 2;
+  }
+  return ToRgb24(field, {bits.data() + static_cast<std::ptrdiff_t>(first) * rowBytes, 2 * rowBytes, -field.height});
+}
+
 bool RowConverter::Upright(const AVFrame& frame, std::uint8_t* bits, int stride) {
   if (shape_.IsPlain()) return ToArgb(frame, {bits, stride, -frame.height});
   if (TurnPlanes(frame)) return ToArgb(*turned_, {bits, stride, turned_->height});

@@ -29,6 +29,10 @@ class RowConverter {
   /// Writes a picture to `bits` as rows of 24 or 32 bits, and gives the view of them; the fourth byte of 32 is
   /// 255. An empty view for a picture that cannot be converted.
   FrameRows Convert(const AVFrame& frame, int bitCount, std::vector<std::uint8_t>& bits);
+  /// Writes every other row of a picture, those that Convert would put there as rows of 24 bits, and leaves the rows
+  /// between as they are. False, with nothing written, for a picture whose rows are not each of their own colour.
+  /// @param first  the lowest row that is written, 0 or 1
+  bool ConvertField(const AVFrame& frame, int first, std::vector<std::uint8_t>& bits);
 
  private:
   bool Upright(const AVFrame& frame, std::uint8_t* bits, int stride);

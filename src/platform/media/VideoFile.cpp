@@ -164,6 +164,17 @@ FrameRows VideoFile::Frame(int n, int bitCount) {
   return engine.RowsOf(picture, engine.pictures.Picture(picture), bitCount, true);
 }
 
+bool VideoFile::Field(int n, bool lowest, std::vector<std::uint8_t>& bits) {
+  Engine& engine = *engine_;
+  if (!engine.Takes(n, 24)) return false;
+  const int picture = engine.index.PictureOfFrame(n);
+  if (engine.pass || engine.Shows(picture, 24, true)) return false;
+  PassTurn::GiveWay();
+  const FrameHandle frame = engine.pictures.Picture(picture);
+  const bool usual = frame && frame->width == engine.info.width && frame->height == engine.info.height;
+  return usual && engine.converter.ConvertField(*frame, lowest ? 0 : 1, bits);
+}
+
 FrameAtHand VideoFile::FrameNow(int n, int bitCount) {
   Engine& engine = *engine_;
   if (!engine.Takes(n, bitCount)) return {};

@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "platform/files/Result.h"
 #include "platform/media/VideoInfo.h"
@@ -56,6 +57,11 @@ class VideoFile {
   /// that could be decoded before it; no picture at all, an n outside 0 to frameCount - 1, another bit
   /// count, or a file that vanished give an empty view. Never waits longer than the decode needs.
   FrameRows Frame(int n, int bitCount);
+
+  /// Writes the rows of one field of frame n among those of a picture of 24 bits; the rows between stay. False where
+  /// that is no faster than taking them from Frame, or the picture cannot be had: ask Frame.
+  /// @param lowest  whether the lowest row belongs to the field
+  bool Field(int n, bool lowest, std::vector<std::uint8_t>& bits);
 
   /// What there is of frame n at once: its exact picture, or else a stand-in, which is its own picture at about
   /// the size of the window or the nearest other one. The exact picture is then on its way until another frame

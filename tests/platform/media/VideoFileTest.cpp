@@ -128,6 +128,24 @@ TEST(VideoFile, RowsStandBottomUpAndPadded) {
   EXPECT_FALSE(file->Frame(0, 16));
 }
 
+TEST(VideoFile, AFieldIsEveryOtherRowOfItsFrame) {
+  const auto fields = OpenTestVideo(DvVideo(3));
+  const auto frames = OpenTestVideo(DvVideo(3));
+  for (const bool lowest : {true, false}) {
+    std::vector<std::uint8_t> bits(static_cast<std::size_t>(720) * 3 * 480, 7);
+    ASSERT_TRUE(fields->Field(1, lowest, bits));
+    const FrameRows whole = frames->Frame(1, 24);
+    for (int row = 0; row < 480; ++row) {
+      const auto* const at = bits.data() + static_cast<std::ptrdiff_t>(row) * whole.rowBytes;
+      if ((row % 2 == 0) == lowest) ASSERT_EQ(std::memcmp(at, whole.bits + row * whole.rowBytes, 2160), 0) << row;
+      else ASSERT_TRUE(std::all_of(at, at + 2160, [](int byte) { return byte == 7; })) << row;
+    }
+  }
+  std::vector<std::uint8_t> bits;
+  EXPECT_FALSE(fields->Field(3, true, bits));
+  EXPECT_FALSE(OpenTestVideo(MjpegVideo(3))->Field(0, true, bits)) << "two rows share their colour";
+}
+
 TEST(VideoFile, CodecsKeepTheColours) {
   // Red over blue: swapped colour differences, a wrong range or rows upside down would all show.
   for (const auto codec : {VideoFormat::Codec::Dv, VideoFormat::Codec::Mjpeg, VideoFormat::Codec::H264}) {
