@@ -13,9 +13,9 @@ namespace kinalyx {
 
 namespace {
 
-constexpr int kReadyMs = 4000;   ///< how long it is told that a video was kept
-constexpr int kTallyMs = 200;    ///< how often the figures of a recording are brought up to date
-constexpr int kRetryMs = 3000;   ///< after a camera has failed
+constexpr int kReadyMs = 4000;  ///< how long it is told that a video was kept
+constexpr int kTallyMs = 200;   ///< how often the figures of a recording are brought up to date
+constexpr int kRetryMs = 3000;  ///< after a camera has failed
 constexpr double kPalFrame = 0.04;
 constexpr double kNtscFrame = 0.0333667;
 
@@ -198,14 +198,26 @@ void CaptureSession::StopCapture() {
   if (built_) (void)graph_->GraphStop();
   ShowTally();
   StopCaptureGraph();
-  Review();
+  UnfinishedRecording recording;
+  recording.paths = {parts_.files.Path(0), two_ ? parts_.files.Path(1) : std::string()};
+  recording.tallies = tallies_;
+  Review(std::move(recording));
 }
 
-void CaptureSession::Review() {
+void CaptureSession::ReviewUnfinished(const UnfinishedRecording& recording) {
+  if (phase_ != CapturePhase::LivePreview || saving_) return;
+  StopCaptureGraph();
+  two_ = !recording.paths[1].empty();
+  tallies_ = recording.tallies;
+  Review(recording);
+}
+
+void CaptureSession::Review(UnfinishedRecording recording) {
   TrimStartFrame_ = TrimEndFrame_ = 0;
+  reviewed_ = std::move(recording);
   phase_ = CapturePhase::Reviewing;
-  bool opened = parts_.page.ReviewPlayer(0).Load(parts_.files.Path(0));
-  if (two_) opened = parts_.page.ReviewPlayer(1).Load(parts_.files.Path(1)) || opened;
+  bool opened = parts_.page.ReviewPlayer(0).Load(reviewed_.paths[0]);
+  if (two_) opened = parts_.page.ReviewPlayer(1).Load(reviewed_.paths[1]) || opened;
   if (!opened) {
     const std::string& fault = tallies_[0].fault;
     BackToLive();
@@ -219,11 +231,11 @@ void CaptureSession::Review() {
 void CaptureSession::BackToLive() {
   parts_.page.ReviewPlayer(0).Unload();
   parts_.page.ReviewPlayer(1).Unload();
-  parts_.files.Discard();
+  const Outcome thrown = ThrowAway(std::exchange(reviewed_, {}));
   TrimStartFrame_ = TrimEndFrame_ = 0;
   tallies_ = {};
   phase_ = CapturePhase::LivePreview;
-  status_.clear();
+  status_ = thrown.Why();
   if (open_) BuildCaptureGraph();
   parts_.page.CaptureChanged();
 }

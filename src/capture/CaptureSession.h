@@ -8,6 +8,7 @@
 #include "capture/CaptureSetup.h"
 #include "capture/ICaptureViews.h"
 #include "capture/RecordingSaver.h"
+#include "capture/UnfinishedRecordings.h"
 #include "capture/VideoNaming.h"
 #include "capture/WorkingFiles.h"
 #include "library/JobRunner.h"
@@ -60,6 +61,9 @@ class CaptureSession : private IGraphEvents {
   void TrimEnd();
   void Save();
   void SendToAnalysis();
+  /// Looks at a recording that an earlier run left, as if it had just been stopped. Nothing while another is written
+  /// or looked at.
+  void ReviewUnfinished(const UnfinishedRecording& recording);
 
   // --- what the page shows
 
@@ -68,6 +72,7 @@ class CaptureSession : private IGraphEvents {
   /// A recording is being kept; its buttons rest.
   bool Saving() const { return saving_; }
   double SavedPart() const { return jobPart_; }
+  /// Two windows are shown.
   bool TwoCameras() const { return two_; }
   int TrimStartFrame() const { return TrimStartFrame_; }
   int TrimEndFrame() const { return TrimEndFrame_; }
@@ -90,7 +95,7 @@ class CaptureSession : private IGraphEvents {
   void StartCapture();
   void StopCapture();
   void BackToLive();
-  void Review();
+  void Review(UnfinishedRecording recording);
   bool RefuseUnlessNamed();
   void Saved(const SavedRecording& saved);
   void Say(std::string status);
@@ -108,6 +113,7 @@ class CaptureSession : private IGraphEvents {
   std::string status_;
   std::array<std::string, 2> words_;
   std::array<RecordingTally, 2> tallies_;
+  UnfinishedRecording reviewed_;  ///< what is under review, whether it was just recorded or left by an earlier run
   bool open_ = false;
   bool built_ = false;
   bool two_ = false;

@@ -135,8 +135,8 @@ CameraUse CaptureSetup::Use() const {
 namespace {
 using CheckMember = bool Settings::*;
 constexpr std::array<CheckMember, 9> kChecks{
-    &Settings::ReverseFields, &Settings::SplitFields,       &Settings::Recompress,
-    &Settings::HDReverseFields, &Settings::HDSplitFields,   &Settings::HDRecompress,
+    &Settings::ReverseFields,     &Settings::SplitFields,     &Settings::Recompress,
+    &Settings::HDReverseFields,   &Settings::HDSplitFields,   &Settings::HDRecompress,
     &Settings::AutoReverseFields, &Settings::AutoSplitFields, &Settings::AutoRecompress};
 }  // namespace
 
@@ -274,7 +274,8 @@ void CaptureSetup::TakeDevices() {
       const auto free = std::ranges::find_if(devices_.Cameras(), [&](const Device& device) {
         return device.name != shown_[1 - index].name && (camera == 0 || device.name != settings_.Camera[0]);
       });
-      if (!waits && free != devices_.Cameras().end()) choice = {.name = free->name, .size = {}, .format = {}, .input = {}};
+      if (!waits && free != devices_.Cameras().end())
+        choice = {.name = free->name, .size = {}, .format = {}, .input = {}};
     }
     if (const Device* device = ShownDevice(camera)) FitChoice(choice, *device);
     settings_.CurrentCamera[index] = choice.name;

@@ -14,7 +14,8 @@ constexpr std::array<SourceWords, 5> kKinds{{
      "camera that utilizes ALL of the Kinalyx features.\n\nConnect the camcorder and turn it on before you start the "
      "program. It captures 60 frames per second."},
     {SourceKind::Webcam, "Webcam, Tuner Card/Cable", "Webcam or Analog Capture Card", "another.svg",
-     "Use the 'Webcam and Tuner' selection if you are using a webcam, tuner\\video capture card, or tuner cable. To get "
+     "Use the 'Webcam and Tuner' selection if you are using a webcam, tuner\\video capture card, or tuner cable. To "
+     "get "
      "started, click the button below and choose the webcam or tuner card from the dropdown list.\n\nA telephone on a "
      "tripod that shows its picture on the network is a camera for Kinalyx too: give its address below."},
     {SourceKind::HighDefImport, "High Def Camera Import", "High Definition Camera", "hdcam.svg",

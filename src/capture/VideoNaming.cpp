@@ -171,8 +171,7 @@ void VideoNaming::GetVideoName() {
       paths_[camera] = name.empty() || folder_.empty() ? std::string() : JoinPath(folder_, name + ".avi");
     }
     // Both cameras under one name would be one file.
-    if (!paths_[0].empty() && paths_[0] == paths_[1])
-      paths_[1] = JoinPath(folder_, NameOf(false, number) + " 2.avi");
+    if (!paths_[0].empty() && paths_[0] == paths_[1]) paths_[1] = JoinPath(folder_, NameOf(false, number) + " 2.avi");
     if (paths_[0].empty() || (!taken(paths_[0]) && !taken(paths_[1]))) break;
   }
   if (events_ && (before[0] != paths_[0] || before[1] != paths_[1])) events_->NameChanged();

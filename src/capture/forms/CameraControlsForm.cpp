@@ -42,7 +42,8 @@ CameraControlsForm::CameraControlsForm(IDevices& devices, const std::string& cam
   rows->addLayout(buttons);
   connect(close, &QPushButton::clicked, this, &QDialog::accept);
   connect(standard, &QPushButton::clicked, this, [this] {
-    for (const CameraControl& control : devices_.Controls(camera_)) (void)devices_.SetControl(camera_, control.id, control.standard);
+    for (const CameraControl& control : devices_.Controls(camera_))
+      (void)devices_.SetControl(camera_, control.id, control.standard);
     Fill();
   });
   Fill();
@@ -58,7 +59,8 @@ void CameraControlsForm::Fill() {
   const std::vector<CameraControl> controls = devices_.Controls(camera_);
   for (const CameraControl& control : controls) knobs_->addWidget(MakeKnob(control));
   if (controls.empty()) {
-    QLabel* none = MakeLabel("CameraNoKnobs", "This camera has nothing to set from here. What it can do, its own buttons or its app do.");
+    QLabel* none = MakeLabel(
+        "CameraNoKnobs", "This camera has nothing to set from here. What it can do, its own buttons or its app do.");
     none->setWordWrap(true);
     knobs_->addWidget(none);
   }

@@ -3,8 +3,10 @@
 #include <QBoxLayout>
 #include <QButtonGroup>
 #include <QComboBox>
+#include <QDateTime>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLocale>
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QSlider>
@@ -94,7 +96,8 @@ CapturePage::CapturePage(Parts parts, QWidget* parent)
       vocabulary_(parts_.settings),
       browser_(parts_.services.host.Drives(), parts_.settings, parts_.remembered, LibraryBrowser::Kind::Profiles),
       files_(JoinPath(parts_.settings.DataPath, "capture")),
-      jobs_(parts_.services.host, JobRunner::On::Worker) {
+      jobs_(parts_.services.host, JobRunner::On::Worker),
+      finder_(parts_.services.host, JobRunner::On::Worker) {
   setObjectName("CapturePage");
   IHost& host = parts_.services.host;
   session_ = std::make_unique<CaptureSession>(CaptureSession::Parts{
@@ -117,6 +120,7 @@ CapturePage::CapturePage(Parts parts, QWidget* parent)
   columns->addWidget(MakeSide());
   auto* middle = new QVBoxLayout;
   middle->setSpacing(kGap);
+  middle->addWidget(MakeUnfinishedBar());
   middle->addWidget(MakeCameras());
   middle->addWidget(MakeStage(), 1);
   middle->addWidget(MakeActions());
@@ -144,7 +148,8 @@ QWidget* CapturePage::MakeSide() {
   lists_ = new LibraryLists(browser_, parts_.settings, this, {"InstructorList", "StudentList", "CapVideoList"});
   lists_->VideoList()->setParent(this);
   lists_->VideoList()->hide();
-  search_ = new SearchBar(parts_.services.host, DriveWatch::SendWorker, parts_.settings.LibraryPath, parts_.fields, this);
+  search_ =
+      new SearchBar(parts_.services.host, DriveWatch::SendWorker, parts_.settings.LibraryPath, parts_.fields, this);
   rows->addWidget(search_);
   students_ = new Panel("CapFolderTitle", {});
   MostWidth(students_, kSideWidth);
@@ -314,7 +319,7 @@ void CapturePage::Open() {
   FillCameras();
   session_->Open();
   ShowPhase();
-  AskForUnfinished();
+  LookForUnfinished();
   AskForCamera();
   Capturebtn_->setFocus();
 }
@@ -348,7 +353,65 @@ void CapturePage::AskForCamera() {
   }
 }
 
-void CapturePage::AskForUnfinished() {}
+/// What the search for recordings that were left finds, for as long as there is a page.
+class CapturePage::Finding final : public IJobEvents {
+ public:
+  explicit Finding(CapturePage& page) : page_(page) {}
+  void Progress(const JobProgress&) override {}
+  void Over(IJob* job) override {
+    if (const auto* found = dynamic_cast<FindUnfinished*>(job)) page_.unfinished_ = found->Found();
+    page_.ShowUnfinished();
+  }
+
+ private:
+  CapturePage& page_;
+};
+
+void CapturePage::LookForUnfinished() {
+  if (std::exchange(looked_, true)) return;
+  finder_.Start(std::make_unique<FindUnfinished>(JoinPath(parts_.settings.DataPath, "capture")),
+                std::make_unique<Finding>(*this));
+}
+
+/// The latest recording that was left: what it is, and what can be done with it.
+void CapturePage::ShowUnfinished() {
+  const bool shown = !unfinished_.empty() && session_->Phase() == CapturePhase::LivePreview && !session_->Saving();
+  unfinishedBar_->setVisible(shown);
+  if (!shown) return;
+  const UnfinishedRecording& latest = unfinished_.front();
+  const QString when = QLocale().toString(QDateTime::fromSecsSinceEpoch(latest.written), QLocale::ShortFormat);
+  unfinishedWords_->setText(
+      QString("An unfinished recording was found: %1 s, %2").arg(latest.seconds, 0, 'f', 1).arg(when));
+}
+
+QWidget* CapturePage::MakeUnfinishedBar() {
+  unfinishedBar_ = MakeFrame("panel");
+  unfinishedBar_->setObjectName("UnfinishedBar");
+  auto* row = new QHBoxLayout(unfinishedBar_);
+  row->setContentsMargins(kGap, 6, 8, 6);
+  row->setSpacing(8);
+  unfinishedWords_ = MakeLabel("UnfinishedWords", {});
+  auto* away = new Button("UnfinishedAway", "Throw Away", "trash", Look::Quiet);
+  auto* look = new Button("UnfinishedLook", "Look at It", "play");
+  row->addWidget(unfinishedWords_, 1);
+  row->addWidget(away);
+  row->addWidget(look);
+  unfinishedBar_->hide();
+  connect(look, &QPushButton::clicked, this, [this] {
+    const UnfinishedRecording recording = unfinished_.front();
+    unfinished_.erase(unfinished_.begin());
+    session_->ReviewUnfinished(recording);
+    ShowPhase();
+  });
+  connect(away, &QPushButton::clicked, this, [this] {
+    if (!parts_.services.host.Question("", "Do you want to throw the unfinished recording away?")) return;
+    const Outcome gone = ThrowAway(unfinished_.front());
+    if (!gone) status_->Say(Q(gone.Why()));
+    unfinished_.erase(unfinished_.begin());
+    ShowUnfinished();
+  });
+  return unfinishedBar_;
+}
 
 // ---------------------------------------------------------------- handlers
 
@@ -453,6 +516,7 @@ void CapturePage::ShowPhase() {
   for (QButtonGroup* group : {OneCamTwoOpt_, CamChoiceBtn_})
     for (QAbstractButton* button : group->buttons()) button->setEnabled(live);
   status_->Say(Q(session_->Status()));
+  ShowUnfinished();
   if (review) ShowReview();
 }
 

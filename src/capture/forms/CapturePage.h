@@ -17,6 +17,7 @@
 
 class QButtonGroup;
 class QComboBox;
+class QFrame;
 class QLabel;
 class QSlider;
 class QStackedWidget;
@@ -70,11 +71,13 @@ class CapturePage : public PageWidget, private ICapturePage, private ICaptureSet
 
  private:
   class Player;
+  class Finding;
 
   QWidget* MakeSide();
   QWidget* MakeCameras();
   QWidget* MakeStage();
   QWidget* MakeActions();
+  QWidget* MakeUnfinishedBar();
   void ConnectParts();
   void FolderChosen();
   void GoTo(const SearchHit& hit);
@@ -83,7 +86,8 @@ class CapturePage : public PageWidget, private ICapturePage, private ICaptureSet
   void ShowReview();
   QString BadgeText(int camera) const;
   void AskForCamera();
-  void AskForUnfinished();
+  void LookForUnfinished();
+  void ShowUnfinished();
   void SeekReview(int frame);
 
   void CaptureChanged() override;
@@ -97,6 +101,8 @@ class CapturePage : public PageWidget, private ICapturePage, private ICaptureSet
   LibraryBrowser browser_;
   WorkingFiles files_;
   JobRunner jobs_;
+  JobRunner finder_;
+  std::vector<UnfinishedRecording> unfinished_;  ///< that earlier runs have left, the latest first
   std::unique_ptr<CaptureSession> session_;
   LibraryLists* lists_;
   SearchBar* search_;
@@ -115,13 +121,16 @@ class CapturePage : public PageWidget, private ICapturePage, private ICaptureSet
   QSlider* VidScroll_;
   QLabel* frame_;
   QWidget* reviewBar_;
+  QFrame* unfinishedBar_;
+  QLabel* unfinishedWords_;
   Button* Capturebtn_;
   Button* StartHerebtn_;
   Button* EndHerebtn_;
   Button* CapSavebtn_;
   Button* CapSendbtn_;
   StatusLine* status_;
-  bool asked_ = false;  ///< for a camera that is missing
+  bool asked_ = false;   ///< for a camera that is missing
+  bool looked_ = false;  ///< for recordings that were left
 };
 
 }  // namespace kinalyx

@@ -126,14 +126,18 @@ void CaptureSection::AddDefault(QVBoxLayout& rows, int camera) {
   store_[camera] = new Button(QString("CamConfig_Camera%1").arg(camera + kStoreFirst),
                               QString("Set as Camera %1").arg(camera + 1), {}, Look::Quiet);
   store_[camera]->setToolTip("The program starts with this camera, its size and its format from now on");
-  connect(store_[camera], &QPushButton::clicked, this, [this, camera] { CamConfig_Camera_Click(camera + kStoreFirst); });
+  connect(store_[camera], &QPushButton::clicked, this,
+          [this, camera] { CamConfig_Camera_Click(camera + kStoreFirst); });
   row->addWidget(store_[camera], 0, Qt::AlignTop);
   rows.addLayout(row);
 }
 
 void CaptureSection::AddNetwork() {
   QVBoxLayout* rows = AddPanel(1, "Cameras on the Network");
-  QLabel* help = MakeLabel({}, "A telephone on a tripod is a camera: start a camera app on it and type the address that it shows. A name may stand before it.", "caption");
+  QLabel* help = MakeLabel({},
+                           "A telephone on a tripod is a camera: start a camera app on it and type the address that it "
+                           "shows. A name may stand before it.",
+                           "caption");
   help->setWordWrap(true);
   rows->addWidget(help);
   for (int i = 0; i < static_cast<int>(network_.size()); ++i) {
@@ -141,7 +145,9 @@ void CaptureSection::AddNetwork() {
     box->setObjectName(QString("NetworkCamera%1").arg(i + 1));
     box->setAccessibleName(QString("Address of network camera %1").arg(i + 1));
     box->setMaxLength(149);
-    box->setPlaceholderText(i == 0 ? "Telephone http://192.168.0.20:8080/video" : i == 1 ? "rtsp://192.168.0.21/stream" : "");
+    box->setPlaceholderText(i == 0   ? "Telephone http://192.168.0.20:8080/video"
+                            : i == 1 ? "rtsp://192.168.0.21/stream"
+                                     : "");
     rows->addWidget(box);
     network_[i] = box;
     connect(box, &QLineEdit::editingFinished, this, [this, i, box] {
@@ -252,8 +258,10 @@ void CaptureSection::ShowKind() {
   const bool folder = kind == SourceKind::HighDefImport || kind == SourceKind::AutoImport;
   folderButton_->setVisible(folder);
   folder_->setVisible(folder);
-  folderButton_->setText(kind == SourceKind::HighDefImport ? "Set Camera Default Folder" : "Set Automatic Import Folder");
-  if (folder) folder_->setText(setup_.ImportFolder().empty() ? QString("No folder is chosen yet.") : Q(setup_.ImportFolder()));
+  folderButton_->setText(kind == SourceKind::HighDefImport ? "Set Camera Default Folder"
+                                                           : "Set Automatic Import Folder");
+  if (folder)
+    folder_->setText(setup_.ImportFolder().empty() ? QString("No folder is chosen yet.") : Q(setup_.ImportFolder()));
   const int first = kind == SourceKind::AutoImport ? 6 : IsImport(kind) ? 3 : 0;
   for (int i = 0; i < static_cast<int>(CapChoice_.size()); ++i) CapChoice_[i]->setVisible(i / 3 == first / 3);
 }
@@ -267,7 +275,8 @@ void CaptureSection::ShowCameras() {
     const CameraStatus status = setup_.ShowCameraStatus(camera);
     status_[camera]->setText(Q(status.text));
     // The green of a camera that is there, in every scheme.
-    status_[camera]->setStyleSheet(status.present ? "background: #00FF00; color: #000000; padding: 1px 6px;" : QString());
+    status_[camera]->setStyleSheet(status.present ? "background: #00FF00; color: #000000; padding: 1px 6px;"
+                                                  : QString());
     const bool used = camera == 0 || !setup_.SingleCamera();
     shown_[camera]->setVisible(used);
     store_[camera]->setEnabled(used && setup_.ShownDevice(camera));

@@ -64,9 +64,9 @@ void LiveView::SetCaption(const QString& caption) {
 
 /// Where the picture stands in the widget, in its own proportions.
 QRectF LiveView::PictureRoom() const {
-  const double aspect = picture_.aspect > 0       ? picture_.aspect
-                        : picture_.height > 0     ? static_cast<double>(picture_.width) / picture_.height
-                                                  : 4.0 / 3;
+  const double aspect = picture_.aspect > 0   ? picture_.aspect
+                        : picture_.height > 0 ? static_cast<double>(picture_.width) / picture_.height
+                                              : 4.0 / 3;
   const double width = std::min<double>(this->width(), height() * aspect);
   const QSizeF size(width, width / aspect);
   return {QPointF((this->width() - size.width()) / 2, (height() - size.height()) / 2), size};

@@ -124,7 +124,7 @@ void NamingPanel::NameChanged() {
   const QSignalBlocker quiet(VidNametxt_);
   if (naming_.Text().empty() && naming_.Mode() == NameMode::Manual) VidNametxt_->clear();
   const std::string shown = naming_.Shown();
-  VidNameLbl_->setText(!shown.empty()              ? Q(shown)
+  VidNameLbl_->setText(!shown.empty()             ? Q(shown)
                        : naming_.Folder().empty() ? QString("Choose who it is for")
                                                   : QString("Type a name"));
 }
@@ -156,8 +156,7 @@ void NamingPanel::CloseBox() {
 }
 
 bool NamingPanel::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == box_ && event->type() == QEvent::KeyPress &&
-      static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+  if (watched == box_ && event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
     CloseBox();
     return true;
   }
