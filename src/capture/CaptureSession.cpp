@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "capture/CaptureData.h"
 #include "capture/templates/CaptureTemplate.h"
 #include "core/Settings.h"
 #include "platform/files/Folders.h"
@@ -276,9 +277,76 @@ void CaptureSession::Save() {
                         "again.");
     return;
   }
+  SaveRequest request;
+  request.recorded = reviewed_.paths;
+  request.videos = {parts_.naming.CapturedVideoPath(), parts_.naming.CapturedVideoPath2()};
+  // The second camera alone is recorded by the first writer.
+  if (!two_ && parts_.setup.Use() == CameraUse::Second) request.videos[0] = request.videos[1];
+  request.tallies = tallies_;
+  request.firstFrame = TrimStartFrame_;
+  request.lastFrame = TrimEndFrame_;
+  request.recompress = !parts_.setup.DVMode() && parts_.settings.Recompress && parts_.page.ReviewPlayer(0).IsRaw();
+  request.flags = CaptureFlags(parts_.settings, parts_.page.ReviewPlayer(0).IsWide());
+  // The choices about fields are made for camcorders; what another camera gives as whole pictures has none.
+  if (!parts_.setup.DVMode() && !parts_.page.ReviewPlayer(0).HasFields())
+    request.flags.SplitFields = request.flags.ReverseFields = false;
+  request.trimProgram = parts_.trimProgram;
   saving_ = true;
   jobPart_ = 0;
+  parts_.page.ReviewPlayer(0).Unload();
+  parts_.page.ReviewPlayer(1).Unload();
   Say("Saving Video.... Please Wait.");
+  parts_.jobs.Start(std::make_unique<RecordingSaver>(std::move(request)), std::make_unique<SaveEvents>(*this));
+}
+
+/// What becomes of a save.
+class CaptureSession::SaveEvents final : public IJobEvents {
+ public:
+  explicit SaveEvents(CaptureSession& session) : session_(session) {}
+  void Progress(const JobProgress& progress) override {
+    session_.jobPart_ = progress.part;
+    session_.parts_.page.CaptureChanged();
+  }
+  void Over(IJob* job) override {
+    const auto* saver = dynamic_cast<RecordingSaver*>(job);
+    SavedRecording none;
+    none.why = "The disk does not answer.";
+    session_.Saved(saver ? saver->Saved() : none);
+  }
+
+ private:
+  CaptureSession& session_;
+};
+
+/// All is kept and the way back to the live picture open, or nothing is and the recording stays under review.
+void CaptureSession::Saved(const SavedRecording& saved) {
+  saving_ = false;
+  const bool send = std::exchange(sendNext_, false);
+  if (!saved.Done()) {
+    const UnfinishedRecording again = reviewed_;
+    const int start = TrimStartFrame_;
+    const int end = TrimEndFrame_;
+    Review(again);
+    TrimStartFrame_ = start;
+    TrimEndFrame_ = end;
+    Say("Last Video WAS NOT SAVED");
+    if (!saved.cancelled)
+      parts_.host.Message(MessageKind::Warning, "", "There was a problem saving this video.\n\n" + saved.why);
+    return;
+  }
+  LastSavedVideo_ = saved.videos[0];
+  const bool both = two_;
+  std::vector<std::string> paths{saved.videos[0]};
+  if (both) paths.push_back(saved.videos[1]);
+  parts_.naming.NameUsed();
+  BackToLive();
+  Say(both ? "Both Videos Saved Successfully" : "Last Video Saved Successfully");
+  SayReadyLater();
+  if (!send) return;
+  Say("Loading Analysis Section...");
+  const bool opened = parts_.ways.OpenInAnalysis(paths);
+  Say(opened ? "Last video saved was sent to Analysis." : "The video is saved. The analysis section did not open it.");
+  SayReadyLater();
 }
 
 void CaptureSession::SendToAnalysis() {

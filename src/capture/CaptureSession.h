@@ -123,7 +123,6 @@ class CaptureSession : private IGraphEvents {
   int TrimStartFrame_ = 0;
   int TrimEndFrame_ = 0;
   std::string LastSavedVideo_;
-  std::string LastSavedVideo2_;
   HostTimer ReadyTimer_;
   HostTimer tallyTimer_;
   HostTimer retry_;

@@ -15,6 +15,12 @@ class IReviewPlayer {
   virtual int CurrentFrame() = 0;
   virtual int FrameCount() = 0;
   virtual void ShowFrame(int frame) = 0;
+  /// Its pictures are not compressed.
+  virtual bool IsRaw() = 0;
+  /// Each is of two fields.
+  virtual bool HasFields() = 0;
+  /// They are of 16 by 9, or wider.
+  virtual bool IsWide() = 0;
 };
 
 /// What a session asks of its page, and tells it.

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "capture/CaptureSetup.h"
+#include "capture/CaptureSession.h"
 
 namespace kinalyx::test {
 
@@ -41,9 +41,82 @@ class FakeDevices final : public IDevices {
 inline Device MakeCamera(std::string name) {
   Device device;
   device.name = std::move(name);
-  device.modes = {{640, 480, 30, "YUY2"}, {1280, 720, 30, "MJPG"}, {1280, 720, 10, "YUY2"}, {1920, 1080, 60, "MJPG"},
+  device.modes = {{640, 480, 30, "YUY2"},
+                  {1280, 720, 30, "MJPG"},
+                  {1280, 720, 10, "YUY2"},
+                  {1920, 1080, 60, "MJPG"},
                   {3840, 2160, 30, "MJPG"}};
   return device;
 }
+
+/// A graph that remembers what it was told, and of which the test is the cameras.
+class FakeGraph final : public IGraph {
+ public:
+  struct Gate final : ITriggerSourceFilter {
+    bool armed = false;
+    void Arm(bool on) override { armed = on; }
+  };
+  struct Writer final : IWriterFilter {
+    RecordingTally tally;
+    RecordingTally Tally() override { return tally; }
+  };
+
+  std::string loaded;
+  std::map<std::string, std::string, std::less<>> devices;
+  std::map<std::string, std::string, std::less<>> formats;
+  std::map<std::string, std::string, std::less<>> sinks;
+  std::map<std::string, double, std::less<>> times;
+  bool running = false;
+  Gate gates[2];
+  Writer writers[2];
+
+  Outcome GraphXmlLoad(std::string_view text) override {
+    GraphClear();
+    loaded = text;
+    return {};
+  }
+  Outcome GraphSetDevice(std::string_view label, std::string_view device) override {
+    devices[std::string(label)] = device;
+    return {};
+  }
+  Outcome GraphSetVideoFormat(std::string_view label, int width, int height, std::string_view format) override {
+    formats[std::string(label)] = std::to_string(width) + "x" + std::to_string(height) + " " + std::string(format);
+    return {};
+  }
+  Outcome GraphSetFrameTime(std::string_view label, double seconds) override {
+    times[std::string(label)] = seconds;
+    return {};
+  }
+  Outcome GraphSetAudioPin(int) override { return {}; }
+  Outcome GraphSetFileSource(std::string_view, std::string_view) override { return {}; }
+  Outcome GraphSetFileSink(std::string_view label, std::string_view path) override {
+    sinks[std::string(label)] = path;
+    return {};
+  }
+  Outcome GraphRun() override {
+    running = true;
+    return {};
+  }
+  Outcome GraphStop() override {
+    running = false;
+    return {};
+  }
+  void GraphClear() override {
+    loaded.clear();
+    devices.clear();
+    formats.clear();
+    sinks.clear();
+    running = false;
+    for (Gate& gate : gates) gate.armed = false;
+  }
+
+ protected:
+  IGraphFilter* Filter(std::string_view label) override {
+    const bool second = label.ends_with('2');
+    if (label.starts_with("MV Trigger")) return &gates[second];
+    if (label.starts_with("FileWriter")) return &writers[second];
+    return nullptr;
+  }
+};
 
 }  // namespace kinalyx::test

@@ -36,6 +36,7 @@ namespace kinalyx {
 namespace {
 
 constexpr int kSideWidth = 256;  // as designed
+constexpr double kWide = 1.5;    // width by height
 enum StagePage { kLivePage, kReviewPage };
 
 QComboBox* MakeList(const QString& name, const QString& tip, int letters) {
@@ -85,6 +86,18 @@ class CapturePage::Player final : public IReviewPlayer {
   int CurrentFrame() override { return player_.Frame(); }
   int FrameCount() override { return player_.FrameCount(); }
   void ShowFrame(int frame) override { player_.ShowFrame(frame); }
+  bool IsRaw() override {
+    const VideoInfo* info = player_.Control().Info();
+    return info && (info->compressor == "rawvideo" || info->compressor == "YUY2" || info->compressor == "DIB ");
+  }
+  bool HasFields() override {
+    const VideoInfo* info = player_.Control().Info();
+    return info && info->interlaced;
+  }
+  bool IsWide() override {
+    const VideoInfo* info = player_.Control().Info();
+    return info && info->height > 0 && static_cast<double>(info->width) / info->height > kWide;
+  }
 
  private:
   PreviewPlayer& player_;

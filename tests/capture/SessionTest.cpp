@@ -1,0 +1,204 @@
+#include "capture/CaptureSession.h"
+
+#include "Fakes.h"
+#include "capture/templates/CaptureTemplates.h"
+#include "library/TempLibrary.h"
+#include "library/VideoNames.h"
+#include "platform/files/Folders.h"
+
+namespace kinalyx::test {
+namespace {
+
+struct FakePlayer final : IReviewPlayer {
+  std::string path;
+  int frame = 0;
+  bool Load(const std::string& file) override {
+    path = FileExists(file) ? file : "";
+    return !path.empty();
+  }
+  void Unload() override { path.clear(); }
+  int CurrentFrame() override { return frame; }
+  int FrameCount() override { return 100; }
+  void ShowFrame(int at) override { frame = at; }
+  bool IsRaw() override { return false; }
+  bool HasFields() override { return false; }
+  bool IsWide() override { return true; }
+};
+
+class SessionTest : public testing::Test, public ICapturePage, public ICaptureWays, public INamingEvents {
+ protected:
+  SessionTest() {
+    settings.LoadCaptureSettings();
+    settings.VideoInSource = static_cast<int>(SourceKind::Webcam);
+    settings.DVMode = false;
+    devices.cameras = {MakeCamera("Left"), MakeCamera("Right")};
+    setup = std::make_unique<CaptureSetup>(settings, devices);
+    naming.SetFolder(folder);
+    naming.SetEvents(this);
+    auto made = std::make_unique<FakeGraph>();
+    graph = made.get();
+    session.emplace(CaptureSession::Parts{.host = library.host,
+                                          .settings = settings,
+                                          .setup = *setup,
+                                          .naming = naming,
+                                          .files = files,
+                                          .page = *this,
+                                          .ways = *this,
+                                          .jobs = jobs,
+                                          .trimProgram = ""});
+    session->SetGraph(std::move(made));
+    session->Open();
+  }
+
+  void CaptureChanged() override {}
+  void LivePictureCame(int) override {}
+  IReviewPlayer& ReviewPlayer(int camera) override { return players[camera]; }
+  bool OpenInAnalysis(const std::vector<std::string>& paths) override {
+    opened = paths;
+    return true;
+  }
+  void GoToCaptureSetup() override {}
+  void NameChanged() override {}
+  void NameWanted() override { ++namesWanted; }
+
+  /// Records: the cameras write what the test gives them.
+  void Record(const std::string& bytes = "pictures") {
+    session->PressCapture();
+    for (const auto& [label, path] : graph->sinks) std::ofstream(path) << bytes;
+    session->PressCapture();
+  }
+  void RunJobs() {
+    for (int i = 0; i < 200 && session->Saving(); ++i) library.host.Advance(20);
+  }
+
+  TempLibrary library;
+  Settings& settings = library.settings;
+  FakeDevices devices;
+  std::string folder = library.Folder("Anna/Łucja");
+  std::unique_ptr<CaptureSetup> setup;
+  VideoNaming naming{settings, [] { return std::string("11/25/2026"); }};
+  WorkingFiles files{library.Data("capture")};
+  JobRunner jobs{library.host, JobRunner::On::HostTimer};
+  FakePlayer players[2];
+  FakeGraph* graph = nullptr;
+  std::optional<CaptureSession> session;
+  std::vector<std::string> opened;
+  int namesWanted = 0;
+};
+
+TEST_F(SessionTest, BuildsTheGraphOfItsCameras) {
+  EXPECT_EQ(graph->loaded, MVOneCamSSAN);
+  EXPECT_EQ(graph->devices["VideoSource"], "Left");
+  EXPECT_EQ(graph->formats["VideoSource"], "1920x1080 MJPG");
+  EXPECT_DOUBLE_EQ(graph->times["VideoSource"], 0.0333667);
+  EXPECT_TRUE(graph->running);
+  EXPECT_FALSE(graph->gates[0].armed) << "it is only looked at";
+  setup->ChooseCamera(1);
+  session->Rebuild();
+  EXPECT_EQ(graph->devices["VideoSource"], "Right") << "the second camera alone stands under the first label";
+  EXPECT_EQ(naming.Shown(), "(001) FO- 11-25-2026");
+  setup->ChooseCameraCount(false);
+  session->Rebuild();
+  EXPECT_EQ(graph->loaded, MVTwoCamSS);
+  EXPECT_EQ(graph->devices["VideoSource"], "Left");
+  EXPECT_EQ(graph->devices["VideoSource 2"], "Right");
+  setup->ChooseKind(SourceKind::ManualImport);
+  session->Rebuild();
+  EXPECT_EQ(graph->loaded, "") << "files need no camera";
+}
+
+TEST_F(SessionTest, GoesFromLiveOverWritingAndReviewBackToLive) {
+  EXPECT_EQ(CaptionOf(session->Phase()), "Start Capture");
+  session->PressCapture();
+  EXPECT_EQ(CaptionOf(session->Phase()), "Stop Capture");
+  EXPECT_EQ(session->Status(), "Capturing Video. Press button again to STOP capture");
+  EXPECT_EQ(LastName(graph->sinks["FileWriter"]), "capture.avi");
+  EXPECT_TRUE(graph->gates[0].armed);
+  const std::string path = graph->sinks["FileWriter"];
+  std::ofstream(path) << "x";
+  session->Rebuild();
+  EXPECT_TRUE(graph->running) << "a recording is not disturbed";
+  session->PressCapture();
+  EXPECT_EQ(CaptionOf(session->Phase()), "Back to Live Video");
+  EXPECT_EQ(session->Status(), "Trim Excess from the FRONT of the video or Choose Save");
+  EXPECT_EQ(players[0].path, path);
+  players[0].frame = 12;
+  session->TrimFront();
+  EXPECT_EQ(session->Status(), "Trim Excess from the END of the video or Choose Save");
+  players[0].frame = 80;
+  session->TrimEnd();
+  EXPECT_EQ(session->Status(), "Click on \"Save Capture\" to save");
+  session->PressCapture();
+  EXPECT_EQ(session->Phase(), CapturePhase::LivePreview);
+  EXPECT_FALSE(FileExists(path));
+  EXPECT_EQ(session->TrimStartFrame(), 0);
+  EXPECT_TRUE(graph->running);
+}
+
+TEST_F(SessionTest, SavesUnderTheNextNameAndSendsBothCamerasOn) {
+  setup->ChooseCameraCount(false);
+  session->Rebuild();
+  Record();
+  session->SendToAnalysis();
+  EXPECT_EQ(session->Status(), "Saving Video.... Please Wait.");
+  RunJobs();
+  ASSERT_EQ(opened.size(), 2u);
+  EXPECT_EQ(VideoName(opened[0]), "(001) DL- 11-25-2026");
+  EXPECT_EQ(VideoName(opened[1]), "(001) FO- 11-25-2026");
+  EXPECT_TRUE(FileExists(opened[1]));
+  EXPECT_TRUE(FileExists(SidecarName(opened[0])));
+  EXPECT_EQ(naming.Shown(), "(002) DL- 11-25-2026");
+  EXPECT_EQ(session->Phase(), CapturePhase::LivePreview);
+  library.host.Advance(10'000);
+  EXPECT_EQ(session->Status(), "Ready to Record Video");
+}
+
+TEST_F(SessionTest, RefusesToSaveWithoutANameAndWithTrimsThatCross) {
+  naming.ChooseMode(NameMode::Manual);
+  Record();
+  session->Save();
+  EXPECT_EQ(library.host.messages.back(), "You must name the video before saving!");
+  EXPECT_EQ(namesWanted, 1);
+  ASSERT_TRUE(naming.SetText("schody"));
+  players[0].frame = 50;
+  session->TrimFront();
+  players[0].frame = 10;
+  session->TrimEnd();
+  session->Save();
+  EXPECT_NE(library.host.messages.back().find("not correct"), std::string::npos);
+  EXPECT_EQ(session->Phase(), CapturePhase::Reviewing);
+}
+
+TEST_F(SessionTest, AFolderThatIsGoneKeepsTheRecordingUnderReview) {
+  Record();
+  std::filesystem::remove_all(folder);
+  std::ofstream(folder) << "a file in its place";
+  session->Save();
+  RunJobs();
+  EXPECT_EQ(session->Status(), "Last Video WAS NOT SAVED");
+  EXPECT_EQ(session->Phase(), CapturePhase::Reviewing);
+  EXPECT_TRUE(FileExists(players[0].path));
+}
+
+TEST_F(SessionTest, WhatACameraGaveBeforeItWentIsReviewed) {
+  session->PressCapture();
+  std::ofstream(graph->sinks["FileWriter"]) << "x";
+  session->GraphEvents().SourceFailed("VideoSource", "The camera has gone.");
+  EXPECT_EQ(session->Phase(), CapturePhase::Reviewing);
+  EXPECT_NE(session->Status().find("The camera has gone."), std::string::npos);
+  session->PressCapture();
+  EXPECT_EQ(session->Phase(), CapturePhase::LivePreview);
+}
+
+TEST_F(SessionTest, LeavingAsksBeforeARecordingIsLost) {
+  Record();
+  library.host.answers = {false};
+  EXPECT_FALSE(session->Leave());
+  EXPECT_EQ(session->Phase(), CapturePhase::Reviewing);
+  library.host.answers = {true};
+  EXPECT_TRUE(session->Leave());
+  EXPECT_FALSE(graph->running);
+}
+
+}  // namespace
+}  // namespace kinalyx::test
