@@ -11,7 +11,7 @@
 
 namespace kinalyx {
 
-/// How the pictures of a recording are packed.
+/// How the pictures of a recording are packed. Rows of raw pictures are padded to 4 bytes, the top row first.
 struct RecordingFormat {
   enum class Codec { Mjpeg, RawBgr24, RawYuy2, Dv };
   Codec codec = Codec::Mjpeg;
@@ -28,11 +28,13 @@ struct RecordingFormat {
 /// grow past 4 GB. One thread uses it.
 class RecordingFile {
  public:
+  /// Begins a file; there must be none of that name. As long as it is open, nobody else mends it.
   static Result<std::unique_ptr<RecordingFile>> Create(const std::string& path, const RecordingFormat& format);
   /// Closes.
   ~RecordingFile();
 
-  /// Appends one picture. After a failure nothing more is taken, and Close keeps what is there.
+  /// Appends one picture; when this returns, it outlives the program. After a failure nothing more is taken, and Close
+  /// keeps what is there.
   /// @param ns  time at which the camera took it; ever later ones. One that is not later than the one before is
   ///            left out and counts as nothing.
   Outcome Write(std::span<const std::byte> picture, std::int64_t ns);
@@ -47,11 +49,13 @@ class RecordingFile {
   std::unique_ptr<Engine> engine_;
 };
 
-/// Whether a file is a recording that was broken off: it lacks its index.
+/// Whether a file is a recording that was broken off: it lacks its index, and nobody is writing it.
 bool IsUnfinishedRecording(const std::string& path);
 /// Makes a recording that was broken off whole, in place: its index is made anew from what it holds, a picture that
-/// was cut goes. The file is the old or the new one, whatever happens.
-/// @return what it holds now; with no picture at all it fails, and the file stays as it was
+/// was cut goes, and over damaged places it goes on with the next picture. One that is itself broken off can be done
+/// again. Refused while somebody writes the file.
+/// @return what it holds now, with times from its first picture on; with no picture at all it fails with NoFrames, and
+///         the file stays as it was
 Result<RecordingTally> MendRecording(const std::string& path);
 
 }  // namespace kinalyx

@@ -1,0 +1,174 @@
+#include <sys/resource.h>
+
+#include <cmath>
+#include <csignal>
+#include <random>
+#include <span>
+
+#include "platform/media/RecordingFile.h"
+#include "platform/media/VideoFile.h"
+#include "platform/paint/ImageFiles.h"
+#include "support/TempFolder.h"
+#include "support/TestVideos.h"
+
+namespace kinalyx::test {
+namespace {
+
+namespace fs = std::filesystem;
+using Codec = RecordingFormat::Codec;
+
+RecordingFormat FormatOf(Codec codec, double promised) { return {codec, 90, 60, promised}; }
+
+/// A picture as a camera gives it, with its number in it.
+std::string CameraPicture(Codec codec, int number) {
+  std::vector<std::uint8_t> pixels;
+  PaintTestPicture(RawVideo(1), number, pixels);
+  const PixelRows rows{pixels.data(), 90, 60, 360, 32, false};
+  if (codec == Codec::Mjpeg) {
+    const TempFolder folder;
+    EXPECT_TRUE(SaveJpeg(rows, folder.Path("x.jpg"), 90));
+    return folder.Get("x.jpg");
+  }
+  std::string bytes;
+  for (int y = 0; y < 60; ++y) {
+    for (int x = 0; x < 90; ++x) bytes.append(reinterpret_cast<const char*>(&pixels[360 * y + 4 * x]), 3);
+    bytes.append(2, '\0');
+  }
+  return bytes;
+}
+
+Outcome Record(RecordingFile& file, Codec codec, int number, double seconds) {
+  const std::string bytes = CameraPicture(codec, number);
+  return file.Write(std::as_bytes(std::span(bytes)), 5'000'000'000 + std::llround(seconds * 1e9));
+}
+
+/// The numbers that the frames of a video carry, looked at backward.
+std::vector<int> NumbersOf(const std::string& path) {
+  const auto video = OpenedVideo(path);
+  std::vector<int> numbers(static_cast<std::size_t>(video->Info().frameCount));
+  for (int n = video->Info().frameCount; n-- > 0;)
+    numbers[static_cast<std::size_t>(n)] = ReadNumber(video->Frame(n, 32)).value_or(-1);
+  return numbers;
+}
+
+TEST(RecordingFile, EveryPictureStandsInItsPlace) {
+  for (const Codec codec : {Codec::Mjpeg, Codec::RawBgr24}) {
+    const TempFolder folder;
+    const std::string path = folder.Path("x.avi");
+    auto file = RecordingFile::Create(path, FormatOf(codec, 30));
+    ASSERT_TRUE(file) << file.Why();
+    std::vector<int> expected;
+    for (int n = 0; n < 90; ++n) {
+      const bool lost = (n > 20 && n <= 23) || n == 50;
+      if (!lost) {
+        EXPECT_TRUE(Record(**file, codec, n, n / 29.5));
+      }
+      expected.push_back(lost ? expected.back() : n);
+    }
+    EXPECT_TRUE(Record(**file, codec, 7, 1)) << "a stamp from before: left out";
+    ASSERT_TRUE((*file)->Close());
+    const RecordingTally& tally = (*file)->Tally();
+    EXPECT_EQ(tally.pictures, 86);
+    EXPECT_EQ(tally.lost, 4);
+    EXPECT_EQ(tally.bytes, static_cast<std::int64_t>(fs::file_size(path)));
+    EXPECT_FALSE(tally.open);
+    EXPECT_FALSE(Record(**file, codec, 90, 4)) << "closed";
+    EXPECT_FALSE(IsUnfinishedRecording(path));
+    EXPECT_EQ(NumbersOf(path), expected);
+    const auto info = ReadVideoInfo(path);
+    EXPECT_NEAR(static_cast<double>(info->rate) / static_cast<double>(info->scale), 29.5, 29.5e-5);
+    EXPECT_FALSE(RecordingFile::Create(path, FormatOf(codec, 30))) << "never replaces one that is there";
+  }
+}
+
+/// What a camera does to its stamps.
+struct Camera {
+  const char* what;
+  double promised;
+  double real;
+  double tremble;  ///< part of a picture time by which stamps are off, at most
+  double written;  ///< the rate that the file has
+  std::int64_t lost = 0;
+  std::function<double(int)> bend = [](int) { return 0.0; };  ///< seconds by which picture n comes late
+  std::function<bool(int)> loses = [](int) { return false; };
+};
+
+TEST(RecordingFile, RateAndGapsAreThoseOfTheStamps) {
+  const Camera cameras[] = {
+      {"keeps its word", 30, 30, 0, 30},
+      {"trembles", 60, 60, 0.3, 60},
+      {"television", 30, 30000 / 1001.0, 0.2, 30000 / 1001.0},
+      {"slower than promised", 30, 29.5, 0.2, 29.5},
+      {"much slower", 30, 25, 0.1, 25},
+      {"half in the dark", 30, 15.01, 0.1, 15.01},
+      {"faster", 30, 59.3, 0, 59.3},
+      {"promises nothing", 0, 47.9, 0.1, 47.9},
+      {"loses the second", 30, 29.5, 0.1, 29.5, 1, [](int) { return 0.0; }, [](int n) { return n == 1; }},
+      {"loses many", 120, 120, 0.2, 120, 116, [](int) { return 0.0; }, [](int n) { return n % 10 == 5 || n == 96; }},
+      {"drifts", 30, 30, 0.1, 30 / 1.02, 0, [](int n) { return n * 0.02 / 30; }},
+      {"becomes faster in the light", 30, 30, 0.1, 30, 0, [](int n) { return std::min(n, 40) / 30.0; }},
+      {"becomes slower in the dark", 30, 30, 0.1, 30, 199, [](int n) { return std::max(n - 950, 0) / 30.0; }},
+      {"bursts after waiting", 30, 30, 0, 30, 6,
+       [](int n) { return n >= 300 && n < 306 ? (306 - n) / 30.0 - (306 - n) * 0.002 : 0; }},
+  };
+  constexpr int kPictures = 1150;
+  for (const Camera& camera : cameras) {
+    const TempFolder folder;
+    auto file = RecordingFile::Create(folder.Path("x.avi"), FormatOf(Codec::Mjpeg, camera.promised));
+    ASSERT_TRUE(file);
+    std::mt19937 dice(1);
+    std::uniform_real_distribution<> tremble(-camera.tremble, camera.tremble);
+    for (int n = 0; n < kPictures; ++n) {
+      const double at = (n + tremble(dice)) / camera.real + camera.bend(n);
+      if (camera.loses(n)) continue;
+      EXPECT_TRUE((*file)->Write(std::as_bytes(std::span("picture")), std::llround(at * 1e9) + 1'000'000'000));
+    }
+    ASSERT_TRUE((*file)->Close());
+    const RecordingTally& tally = (*file)->Tally();
+    EXPECT_NEAR(tally.rate, camera.written, 0.001 * camera.written) << camera.what;
+    EXPECT_EQ(tally.lost, camera.lost) << camera.what;
+  }
+}
+
+/// What is on the disk when the program is killed now.
+std::string BreakOff(const TempFolder& folder, const std::string& path) {
+  fs::copy_file(path, folder.Path("broken.avi"), fs::copy_options::overwrite_existing);
+  return folder.Path("broken.avi");
+}
+
+TEST(RecordingFile, WhatIsBrokenOffIsMadeWhole) {
+  const TempFolder folder;
+  const std::string path = folder.Path("x.avi");
+  auto file = RecordingFile::Create(path, FormatOf(Codec::Mjpeg, 30));
+  ASSERT_TRUE(file);
+  EXPECT_FALSE(IsUnfinishedRecording(path)) << "somebody is at it";
+  EXPECT_EQ(MendRecording(path).Kind(), Fault::Refused);
+  const std::string empty = BreakOff(folder, path);
+  EXPECT_TRUE(IsUnfinishedRecording(empty));
+  EXPECT_EQ(MendRecording(empty).Kind(), Fault::NoFrames);
+
+  std::vector<int> expected;
+  for (int n = 0; n < 100; ++n) {
+    const bool lost = n % 9 == 4;
+    if (!lost) EXPECT_TRUE(Record(**file, Codec::Mjpeg, n, n / 25.0));
+    expected.push_back(lost ? expected.back() : n);
+    if (n % 11 != 10 || lost) continue;
+    const std::string broken = BreakOff(folder, path);
+    // The last picture was on its way.
+    fs::resize_file(broken, fs::file_size(broken) - static_cast<std::uintmax_t>(n));
+    ASSERT_TRUE(IsUnfinishedRecording(broken));
+    const auto mended = MendRecording(broken);
+    ASSERT_TRUE(mended) << mended.Why();
+    EXPECT_FALSE(IsUnfinishedRecording(broken));
+    auto whole = expected;
+    whole.pop_back();
+    EXPECT_EQ(mended->pictures + mended->lost, static_cast<std::int64_t>(whole.size()));
+    EXPECT_EQ(NumbersOf(broken), whole) << n;
+    if (n > 30) {
+      EXPECT_NEAR(mended->rate, 25, 0.03);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace kinalyx::test
