@@ -191,8 +191,9 @@ void ChunkWalk::TakeChunk(std::int64_t at, const Head& head) {
 /// @return where to go on
 std::int64_t ChunkWalk::TakeDamaged(std::int64_t at, const std::optional<Head>& head, std::int64_t next) {
   const bool picture = head && head->name == kPictureChunk;
-  if (picture && head->end < next) {
-    // It is whole, and what follows it is not.
+  // It is whole, and what follows it is not; or its own size is a little too small.
+  const std::int64_t behind = picture ? next - head->end : 0;
+  if (behind == kHeadBytes || behind > std::int64_t{head ? head->bytes : 0} / 2) {
     TakePicture(at, head->bytes);
     return head->end;
   }

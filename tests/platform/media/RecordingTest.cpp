@@ -150,7 +150,9 @@ TEST(RecordingFile, WhatIsBrokenOffIsMadeWhole) {
   std::vector<int> expected;
   for (int n = 0; n < 100; ++n) {
     const bool lost = n % 9 == 4;
-    if (!lost) EXPECT_TRUE(Record(**file, Codec::Mjpeg, n, n / 25.0));
+    if (!lost) {
+      EXPECT_TRUE(Record(**file, Codec::Mjpeg, n, n / 25.0));
+    }
     expected.push_back(lost ? expected.back() : n);
     if (n % 11 != 10 || lost) continue;
     const std::string broken = BreakOff(folder, path);
@@ -168,6 +170,76 @@ TEST(RecordingFile, WhatIsBrokenOffIsMadeWhole) {
       EXPECT_NEAR(mended->rate, 25, 0.03);
     }
   }
+}
+
+TEST(RecordingFile, ADamagedByteCostsOnePicture) {
+  const TempFolder folder;
+  const std::string path = folder.Path("x.avi");
+  std::size_t at = 0;
+  {
+    auto file = RecordingFile::Create(path, FormatOf(Codec::Mjpeg, 30));
+    ASSERT_TRUE(file);
+    for (int n = 0; n < 40; ++n) {
+      if (n == 20) at = fs::file_size(path);
+      EXPECT_TRUE(Record(**file, Codec::Mjpeg, n, n / 30.0));
+    }
+    BreakOff(folder, path);
+  }
+  const std::string whole = folder.Get("broken.avi");
+  for (std::size_t i = 0; i < 12; ++i) {
+    std::string damaged = whole;
+    damaged[at + i] = static_cast<char>(damaged[at + i] ^ 0x16);
+    const std::string broken = folder.Put("damaged.avi", damaged);
+    ASSERT_TRUE(MendRecording(broken)) << i;
+    const std::vector<int> numbers = NumbersOf(broken);
+    ASSERT_EQ(numbers.size(), 40u) << i;
+    for (int n = 0; n < 40; ++n) EXPECT_TRUE(n == 20 || numbers[static_cast<std::size_t>(n)] == n) << i << ": " << n;
+  }
+}
+
+/// A disk on which no file grows beyond a size.
+class FullDisk {
+ public:
+  explicit FullDisk(std::uintmax_t bytes) {
+    getrlimit(RLIMIT_FSIZE, &before_);
+    const rlimit now{bytes, before_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &now);
+  }
+  ~FullDisk() {
+    setrlimit(RLIMIT_FSIZE, &before_);
+    std::signal(SIGXFSZ, handler_);
+  }
+
+ private:
+  rlimit before_{};
+  void (*handler_)(int) = std::signal(SIGXFSZ, SIG_IGN);
+};
+
+TEST(RecordingFile, AFullDiskCostsNoMoreThanTheLastPictures) {
+  const TempFolder folder;
+  const std::string path = folder.Path("x.avi");
+  auto file = RecordingFile::Create(path, FormatOf(Codec::Mjpeg, 30));
+  ASSERT_TRUE(file);
+  std::vector<int> taken;
+  std::string broken;
+  {
+    const FullDisk full(200'000);
+    Outcome written;
+    for (int n = 0; written; ++n) {
+      written = Record(**file, Codec::Mjpeg, n, n / 30.0);
+      if (written) taken.push_back(n);
+    }
+    broken = BreakOff(folder, path);
+    EXPECT_FALSE(Record(**file, Codec::Mjpeg, 0, 100)) << "it has ended";
+    EXPECT_TRUE((*file)->Close());
+    EXPECT_TRUE(MendRecording(broken));
+  }
+  EXPECT_FALSE((*file)->Tally().fault.empty());
+  EXPECT_EQ((*file)->Tally().bytes, static_cast<std::int64_t>(fs::file_size(path)));
+  const std::vector<int> kept = NumbersOf(path);
+  EXPECT_GT(kept.size() + 5, taken.size());
+  EXPECT_TRUE(std::equal(kept.begin(), kept.end(), taken.begin()));
+  EXPECT_EQ(NumbersOf(broken), kept);
 }
 
 }  // namespace
