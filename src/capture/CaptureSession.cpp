@@ -90,11 +90,12 @@ bool CaptureSession::BuildCaptureGraph() {
   const std::string_view text =
       CaptureTemplate(false, parts_.setup.Method(), parts_.setup.Use(), parts_.setup.DVMode());
   if (const Outcome loaded = graph_->GraphXmlLoad(text); !loaded) return fail(loaded.Why());
-  AssignGraphCameras();
   if (!two_) {
+    // For a camera that does not tell at which rate it gives the size that is chosen.
     const bool pal = parts_.settings.NTSCorPAL != "0";
     (void)graph_->GraphSetFrameTime(kSources[0], pal ? kPalFrame : kNtscFrame);
   }
+  AssignGraphCameras();
   ArmGates(false);
   if (const Outcome run = graph_->GraphRun(); !run) return fail(run.Why());
   built_ = true;
@@ -129,8 +130,10 @@ void CaptureSession::BindSource(std::string_view label, int camera) {
   words = "Starting the camera...";
   const std::optional<PictureSize> size = SizeOf(choice.size);
   if (!size) return;
-  const Outcome set = graph_->GraphSetVideoFormat(label, size->width, size->height, choice.format);
+  const Outcome set = graph_->GraphSetVideoFormat(label, size->width, size->height, FormatCode(choice.format));
   if (!set) words = set.Why();
+  const double rate = FormatRate(choice.format);
+  if (rate > 0) (void)graph_->GraphSetFrameTime(label, 1 / rate);
 }
 
 void CaptureSession::StopCaptureGraph() {
@@ -188,8 +191,12 @@ void CaptureSession::StartCapture() {
 
 void CaptureSession::ShowTally() {
   for (int camera = 0; camera < 2; ++camera) {
-    if (auto* writer = graph_->GraphFilterByLabel<IWriterFilter>(kWriters[camera]))
-      tallies_[static_cast<std::size_t>(camera)] = writer->Tally();
+    RecordingTally& tally = tallies_[static_cast<std::size_t>(camera)];
+    auto* writer = graph_->GraphFilterByLabel<IWriterFilter>(kWriters[camera]);
+    if (!writer) continue;
+    const std::string fault = std::move(tally.fault);
+    tally = writer->Tally();
+    if (tally.fault.empty()) tally.fault = fault;
   }
   parts_.page.CaptureChanged();
 }
@@ -264,6 +271,25 @@ bool CaptureSession::RefuseUnlessNamed() {
   return false;
 }
 
+/// What becomes of a save.
+class CaptureSession::SaveEvents final : public IJobEvents {
+ public:
+  explicit SaveEvents(CaptureSession& session) : session_(session) {}
+  void Progress(const JobProgress& progress) override {
+    session_.jobPart_ = progress.part;
+    session_.parts_.page.CaptureChanged();
+  }
+  void Over(IJob* job) override {
+    const auto* saver = dynamic_cast<RecordingSaver*>(job);
+    SavedRecording none;
+    none.why = "The disk does not answer.";
+    session_.Saved(saver ? saver->Saved() : none);
+  }
+
+ private:
+  CaptureSession& session_;
+};
+
 void CaptureSession::Save() {
   if (saving_ || phase_ != CapturePhase::Reviewing) return;
   if (!RefuseUnlessNamed()) {
@@ -298,25 +324,6 @@ void CaptureSession::Save() {
   Say("Saving Video.... Please Wait.");
   parts_.jobs.Start(std::make_unique<RecordingSaver>(std::move(request)), std::make_unique<SaveEvents>(*this));
 }
-
-/// What becomes of a save.
-class CaptureSession::SaveEvents final : public IJobEvents {
- public:
-  explicit SaveEvents(CaptureSession& session) : session_(session) {}
-  void Progress(const JobProgress& progress) override {
-    session_.jobPart_ = progress.part;
-    session_.parts_.page.CaptureChanged();
-  }
-  void Over(IJob* job) override {
-    const auto* saver = dynamic_cast<RecordingSaver*>(job);
-    SavedRecording none;
-    none.why = "The disk does not answer.";
-    session_.Saved(saver ? saver->Saved() : none);
-  }
-
- private:
-  CaptureSession& session_;
-};
 
 /// All is kept and the way back to the live picture open, or nothing is and the recording stays under review.
 void CaptureSession::Saved(const SavedRecording& saved) {
@@ -381,9 +388,7 @@ void CaptureSession::SourceFailed(const std::string& label, const std::string& w
   const int camera = label == kSources[1] ? 1 : 0;
   words_[static_cast<std::size_t>(camera)] = why;
   if (phase_ == CapturePhase::Writing) {
-    ShowTally();
-    std::string& fault = tallies_[static_cast<std::size_t>(camera)].fault;
-    if (fault.empty()) fault = why;
+    tallies_[static_cast<std::size_t>(camera)].fault = why;
     StopCapture();
     return;
   }
@@ -395,7 +400,6 @@ void CaptureSession::SourceFailed(const std::string& label, const std::string& w
 
 void CaptureSession::SinkFailed(const std::string& label, const std::string& why) {
   if (phase_ != CapturePhase::Writing) return;
-  ShowTally();
   tallies_[label == kWriters[1] ? 1 : 0].fault = why;
   StopCapture();
 }

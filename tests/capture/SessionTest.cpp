@@ -2,6 +2,7 @@
 
 #include "Fakes.h"
 #include "capture/templates/CaptureTemplates.h"
+#include "library/Sidecar.h"
 #include "library/TempLibrary.h"
 #include "library/VideoNames.h"
 #include "platform/files/Folders.h"
@@ -90,7 +91,7 @@ TEST_F(SessionTest, BuildsTheGraphOfItsCameras) {
   EXPECT_EQ(graph->loaded, MVOneCamSSAN);
   EXPECT_EQ(graph->devices["VideoSource"], "Left");
   EXPECT_EQ(graph->formats["VideoSource"], "1920x1080 MJPG");
-  EXPECT_DOUBLE_EQ(graph->times["VideoSource"], 0.0333667);
+  EXPECT_DOUBLE_EQ(graph->times["VideoSource"], 1.0 / 60);
   EXPECT_TRUE(graph->running);
   EXPECT_FALSE(graph->gates[0].armed) << "it is only looked at";
   setup->ChooseCamera(1);
@@ -146,7 +147,7 @@ TEST_F(SessionTest, SavesUnderTheNextNameAndSendsBothCamerasOn) {
   EXPECT_EQ(VideoName(opened[0]), "(001) DL- 11-25-2026");
   EXPECT_EQ(VideoName(opened[1]), "(001) FO- 11-25-2026");
   EXPECT_TRUE(FileExists(opened[1]));
-  EXPECT_TRUE(FileExists(SidecarName(opened[0])));
+  EXPECT_TRUE(FileExists(SidecarPath(opened[0])));
   EXPECT_EQ(naming.Shown(), "(002) DL- 11-25-2026");
   EXPECT_EQ(session->Phase(), CapturePhase::LivePreview);
   library.host.Advance(10'000);
