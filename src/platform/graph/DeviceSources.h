@@ -17,6 +17,8 @@ namespace kinalyx {
 /// shares it with the graphs; any thread may ask. Only for the sources of this room.
 class DeviceSources {
  public:
+  virtual ~DeviceSources() = default;
+
   /// A device of the list with what it is for the library; none for the Test Camera and for one on the network.
   struct Entry {
     Device device;
@@ -29,9 +31,9 @@ class DeviceSources {
   /// live, and gives what the mode nearest to `wanted` promises: raw pictures, or image/jpeg and the like as the
   /// camera has compressed them. A camera on the network gives what it likes.
   /// @param wanted  size, rate (0: the highest) and format (empty: the best); null for what suits most
-  GstElement* MakeCameraSource(const std::string& name, const PictureMode* wanted) const;
+  virtual GstElement* MakeCameraSource(const std::string& name, const PictureMode* wanted) const;
   /// The same for a microphone: raw sound.
-  GstElement* MakeMicrophoneSource(const std::string& name) const;
+  virtual GstElement* MakeMicrophoneSource(const std::string& name) const;
 
  private:
   std::optional<Entry> Find(const std::string& name, Device::Kind kind) const;

@@ -18,6 +18,13 @@ struct GstCapsUnref {
 };
 using GstCapsRef = std::unique_ptr<GstCaps, GstCapsUnref>;
 
+struct GstMiniUnref {
+  void operator()(GstMessage* message) const { gst_message_unref(message); }
+  void operator()(GstSample* sample) const { gst_sample_unref(sample); }
+};
+using GstMessageRef = std::unique_ptr<GstMessage, GstMiniUnref>;
+using GstSampleRef = std::unique_ptr<GstSample, GstMiniUnref>;
+
 /// The library is begun with the first call, which may take seconds where its plugins have changed; not on the
 /// user-interface thread. False when it cannot be.
 bool GstBegun();

@@ -1,0 +1,82 @@
+#include "platform/graph/CapsPlug.h"
+
+#include <utility>
+
+#include "platform/graph/GstHandles.h"
+
+namespace kinalyx {
+namespace {
+
+/// Lives with the probe on the first element's output, and works in its streaming thread.
+class Plug {
+ public:
+  Plug(GstBin* bin, GstElement* to, std::shared_ptr<ICapsChooser> chooser)
+      : bin_(bin), to_(to), chooser_(std::move(chooser)) {}
+
+  static GstPadProbeReturn Passes(GstPad* pad, GstPadProbeInfo* info, gpointer self) {
+    auto& plug = *static_cast<Plug*>(self);
+    if (info->type & GST_PAD_PROBE_TYPE_BUFFER) {
+      if (!plug.chooser_->Changed()) return GST_PAD_PROBE_OK;
+      const GstCapsRef caps(gst_pad_get_current_caps(pad));
+      if (caps) plug.Fit(pad, caps.get());
+    } else if (GST_EVENT_TYPE(GST_PAD_PROBE_INFO_EVENT(info)) == GST_EVENT_CAPS) {
+      GstCaps* caps = nullptr;
+      gst_event_parse_caps(GST_PAD_PROBE_INFO_EVENT(info), &caps);
+      plug.Fit(pad, caps);
+    }
+    return GST_PAD_PROBE_OK;
+  }
+
+ private:
+  void Fit(GstPad* from, const GstCaps* caps) {
+    std::string wanted = chooser_->BinFor(caps);
+    if (wanted == description_) return;
+    Unplug(from);
+    GError* error = nullptr;
+    GstElement* made = gst_parse_bin_from_description(wanted.c_str(), true, &error);
+    if (!made) {
+      GST_ELEMENT_ERROR(GST_ELEMENT(bin_), CORE, MISSING_PLUGIN, ("%s", error ? error->message : ""), (nullptr));
+      g_clear_error(&error);
+      return;
+    }
+    g_clear_error(&error);
+    description_ = std::move(wanted);
+    inner_ = made;
+    gst_bin_add(bin_, inner_);  // takes it
+    gst_element_link(inner_, to_);
+    gst_element_sync_state_with_parent(inner_);
+    const GstRef<GstPad> in(gst_element_get_static_pad(inner_, "sink"));
+    gst_pad_link(from, in.get());
+  }
+
+  void Unplug(GstPad* from) {
+    if (!inner_) return;
+    const GstRef<GstPad> in(gst_element_get_static_pad(inner_, "sink"));
+    gst_pad_unlink(from, in.get());
+    gst_element_unlink(inner_, to_);
+    // The bin would let it go before it has come to rest.
+    const GstRef<GstElement> gone(GST_ELEMENT(gst_object_ref(inner_)));
+    gst_bin_remove(bin_, inner_);
+    gst_element_set_state(gone.get(), GST_STATE_NULL);
+    inner_ = nullptr;
+    description_.clear();
+  }
+
+  GstBin* bin_;  // these live longer than the probe
+  GstElement* to_;
+  GstElement* inner_ = nullptr;
+  std::string description_;
+  std::shared_ptr<ICapsChooser> chooser_;
+};
+
+}  // namespace
+
+void PlugByCaps(GstBin* bin, GstElement* from, GstElement* to, std::shared_ptr<ICapsChooser> chooser) {
+  const GstRef<GstPad> pad(gst_element_get_static_pad(from, "src"));
+  auto plug = std::make_unique<Plug>(bin, to, std::move(chooser));
+  const auto kinds = static_cast<GstPadProbeType>(GST_PAD_PROBE_TYPE_BUFFER | GST_PAD_PROBE_TYPE_EVENT_DOWNSTREAM);
+  gst_pad_add_probe(pad.get(), kinds, Plug::Passes, plug.release(),
+                    [](gpointer self) { std::unique_ptr<Plug>(static_cast<Plug*>(self)); });
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,118 @@
+#include "platform/graph/GraphEnds.h"
+
+#include <gst/app/gstappsink.h>
+
+#include <utility>
+
+#include "platform/graph/CapsChoices.h"
+#include "platform/graph/PictureBytes.h"
+#include "platform/graph/PreviewPainter.h"
+
+namespace kinalyx {
+namespace {
+
+/// Takes pictures out of a graph, in a streaming thread.
+class PictureTaker {
+ public:
+  virtual ~PictureTaker() = default;
+  /// @param ns  nanoseconds of CLOCK_MONOTONIC at which it was taken
+  virtual void Take(GstSample* sample, std::int64_t ns) = 0;
+};
+
+struct Taking {
+  std::unique_ptr<PictureTaker> taker;
+  std::int64_t beginNs;
+
+  static GstFlowReturn Sample(GstAppSink* sink, gpointer self) {
+    const auto& taking = *static_cast<Taking*>(self);
+    const GstSampleRef sample(gst_app_sink_pull_sample(sink));
+    if (!sample) return GST_FLOW_EOS;
+    const GstClockTime at = GST_BUFFER_PTS(gst_sample_get_buffer(sample.get()));
+    if (GST_CLOCK_TIME_IS_VALID(at)) taking.taker->Take(sample.get(), taking.beginNs + static_cast<std::int64_t>(at));
+    return GST_FLOW_OK;
+  }
+};
+
+/// An end of the graph that waits for no clock.
+GstElement* MakeEnd(std::unique_ptr<PictureTaker> taker, std::int64_t beginNs) {
+  GstElement* sink = gst_element_factory_make("appsink", nullptr);
+  if (!sink) return nullptr;
+  g_object_set(sink, "sync", FALSE, "async", FALSE, "enable-last-sample", FALSE, "wait-on-eos", FALSE, nullptr);
+  GstAppSinkCallbacks callbacks{};
+  callbacks.new_sample = Taking::Sample;
+  auto taking = std::make_unique<Taking>(std::move(taker), beginNs);
+  gst_app_sink_set_callbacks(GST_APP_SINK(sink), &callbacks, taking.release(),
+                             [](gpointer self) { std::unique_ptr<Taking>(static_cast<Taking*>(self)); });
+  return sink;
+}
+
+class Shower final : public PictureTaker {
+ public:
+  Shower(std::shared_ptr<RendererFace> face, GraphNews news) : face_(std::move(face)), news_(std::move(news)) {}
+
+  void Take(GstSample* sample, std::int64_t ns) override {
+    LivePicture picture = painter_.Paint(sample, face_->Wanted());
+    if (!picture.pixels) return;
+    picture.takenAt = ns;
+    face_->Show(std::move(picture), news_);
+  }
+
+ private:
+  std::shared_ptr<RendererFace> face_;
+  GraphNews news_;
+  PreviewPainter painter_;
+};
+
+class Filer final : public PictureTaker {
+ public:
+  explicit Filer(std::shared_ptr<RecordingLane> lane) : lane_(std::move(lane)) {}
+
+  void Take(GstSample* sample, std::int64_t ns) override {
+    auto picture = PackPicture(sample);
+    if (!picture) return;
+    picture->ns = ns;
+    lane_->Push(std::move(*picture));
+  }
+
+ private:
+  std::shared_ptr<RecordingLane> lane_;
+};
+
+/// A queue of so much, from which those leave whom the other end cannot take: the oldest or the newest.
+enum class Leaves { Newest = 1, Oldest = 2 };
+GstElement* AppendQueue(FilterBin& bin, guint pictures, GstClockTime time, Leaves leaves) {
+  bin.Append("errorignore");
+  GstElement* queue = bin.Append("queue");
+  if (queue)
+    g_object_set(queue, "max-size-buffers", pictures, "max-size-bytes", 0U, "max-size-time", time, "leaky",
+                 static_cast<int>(leaves), "silent", TRUE, nullptr);
+  return queue;
+}
+
+/// Drops what the face would only pass over before it is decoded.
+void DropWhileFull(GstElement* queue, std::shared_ptr<RendererFace> face) {
+  using Held = std::shared_ptr<RendererFace>;
+  const GstRef<GstPad> pad(gst_element_get_static_pad(queue, "sink"));
+  gst_pad_add_probe(
+      pad.get(), GST_PAD_PROBE_TYPE_BUFFER,
+      [](GstPad*, GstPadProbeInfo*, gpointer held) {
+        return (*static_cast<Held*>(held))->Full() ? GST_PAD_PROBE_DROP : GST_PAD_PROBE_OK;
+      },
+      std::make_unique<Held>(std::move(face)).release(),
+      [](gpointer held) { std::unique_ptr<Held>(static_cast<Held*>(held)); });
+}
+
+}  // namespace
+
+void AppendPreview(FilterBin& bin, std::shared_ptr<RendererFace> face, const GraphNews& news, std::int64_t beginNs) {
+  GstElement* queue = AppendQueue(bin, 1, 0, Leaves::Oldest);
+  if (queue) DropWhileFull(queue, face);
+  bin.AppendPlugged(MakeEnd(std::make_unique<Shower>(face, news), beginNs), ChooseForPreview(face));
+}
+
+void AppendFile(FilterBin& bin, std::shared_ptr<RecordingLane> lane, std::int64_t beginNs) {
+  AppendQueue(bin, 0, 2 * GST_SECOND, Leaves::Newest);
+  bin.AppendPlugged(MakeEnd(std::make_unique<Filer>(std::move(lane)), beginNs), ChooseForFile());
+}
+
+}  // namespace kinalyx

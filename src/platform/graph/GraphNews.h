@@ -1,0 +1,47 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <utility>
+
+#include "platform/graph/IGraph.h"
+#include "platform/host/Post.h"
+
+namespace kinalyx {
+
+/// Tells the user interface what happens in the threads of one run of a graph. Any thread may tell; nothing arrives
+/// any more once the user interface has muted it.
+class GraphNews {
+ public:
+  GraphNews(IGraphEvents& events, std::shared_ptr<IPost> post)
+      : post_(std::move(post)), events_(std::make_shared<IGraphEvents*>(&events)) {}
+
+  /// On the user-interface thread.
+  void Mute() { *events_ = nullptr; }
+
+  void PictureCame(const std::string& label) const {
+    Tell([label](IGraphEvents& events) { events.PictureCame(label); });
+  }
+  void SourceFailed(const std::string& label, const std::string& why) const {
+    Tell([label, why](IGraphEvents& events) { events.SourceFailed(label, why); });
+  }
+  void SinkFailed(const std::string& label, const std::string& why) const {
+    Tell([label, why](IGraphEvents& events) { events.SinkFailed(label, why); });
+  }
+  void EndOfStream() const {
+    Tell([](IGraphEvents& events) { events.EndOfStream(); });
+  }
+
+ private:
+  template <typename Telling>
+  void Tell(Telling tell) const {
+    post_->Post([events = events_, tell = std::move(tell)] {
+      if (*events) tell(**events);
+    });
+  }
+
+  std::shared_ptr<IPost> post_;
+  std::shared_ptr<IGraphEvents*> events_;  ///< shared by all copies; what it points to is the user interface's alone
+};
+
+}  // namespace kinalyx

@@ -1,0 +1,43 @@
+#include "platform/graph/GraphWords.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <string_view>
+
+namespace kinalyx {
+
+std::string WordsForFailure(GstMessage* error, bool camera) {
+  GError* fault = nullptr;
+  gst_message_parse_error(error, &fault, nullptr);
+  const std::string_view name = camera ? "camera" : "microphone";
+  std::string words = fmt::format("The {} has stopped: {}", name, fault->message);
+  if (fault->domain == GST_RESOURCE_ERROR) {
+    switch (fault->code) {
+      case GST_RESOURCE_ERROR_BUSY: words = fmt::format("Another program is using the {}.", name); break;
+      case GST_RESOURCE_ERROR_NOT_FOUND: words = fmt::format("The {} is not there any more.", name); break;
+      case GST_RESOURCE_ERROR_NOT_AUTHORIZED:
+        words = fmt::format("The {} may not be used: it wants a password.", name);
+        break;
+      case GST_RESOURCE_ERROR_OPEN_READ:
+      case GST_RESOURCE_ERROR_OPEN_READ_WRITE: words = fmt::format("The {} cannot be opened.", name); break;
+      case GST_RESOURCE_ERROR_READ:
+        words = fmt::format("The {} gives nothing any more. Is it still plugged in?", name);
+        break;
+      default: break;
+    }
+  }
+  g_clear_error(&fault);
+  return words;
+}
+
+double LoudestOf(const GstStructure* level) {
+  double loudest = -200;
+  const GValue* peaks = gst_structure_get_value(level, "peak");
+  if (!peaks) return loudest;
+  const auto* channels = static_cast<const GValueArray*>(g_value_get_boxed(peaks));
+  for (guint i = 0; i < channels->n_values; ++i) loudest = std::max(loudest, g_value_get_double(&channels->values[i]));
+  return loudest;
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <gst/gst.h>
+
+#include <string>
+
+namespace kinalyx {
+
+/// Why a source has failed, in words for the user.
+std::string WordsForFailure(GstMessage* error, bool camera);
+/// The loudest channel of a message of a level meter, in decibels.
+double LoudestOf(const GstStructure* level);
+
+}  // namespace kinalyx

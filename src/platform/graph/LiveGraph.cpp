@@ -1,0 +1,206 @@
+#include "platform/graph/LiveGraph.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <chrono>
+#include <initializer_list>
+#include <optional>
+#include <utility>
+
+#include "platform/graph/GraphRun.h"
+
+namespace kinalyx {
+namespace {
+
+using namespace std::chrono_literals;
+using Clock = std::chrono::steady_clock;
+
+constexpr auto kFilesPatience = 2s;    // with which the files of a run are waited for
+constexpr auto kDevicesPatience = 1s;  // with which, at the end of all, its devices are
+
+}  // namespace
+
+struct LiveGraph::Engine {
+  Engine(IGraphEvents& told, std::shared_ptr<const DeviceSources> devices, std::shared_ptr<IPost> posting)
+      : events(told), sources(std::move(devices)), post(std::move(posting)) {}
+
+  void MakeFaces();
+  /// Whether a gate says when that file is written; else it is written all the time.
+  bool Gated(const std::shared_ptr<WriterFace>& writer) const;
+  /// The setting of a filter that has one of these roles; null where it is none.
+  FilterSetting* SettingOf(std::string_view label, std::initializer_list<FilterRole> roles);
+  Outcome StopRun();
+
+  IGraphEvents& events;
+  const std::shared_ptr<const DeviceSources> sources;
+  const std::shared_ptr<IPost> post;
+  GraphPlan plan;
+  std::vector<FilterSetting> settings;
+  FilterFaces faces;
+  std::unique_ptr<kinalyx::GraphRun> run;   ///< under way
+  std::unique_ptr<kinalyx::GraphRun> past;  ///< stopped, and perhaps still letting its devices go
+};
+
+namespace {
+
+Outcome NoFilter(std::string_view what, std::string_view label) {
+  return Outcome::Failed(fmt::format("The graph has no {} \"{}\".", what, label));
+}
+
+}  // namespace
+
+LiveGraph::LiveGraph(IGraphEvents& events, std::shared_ptr<const DeviceSources> sources, std::shared_ptr<IPost> post)
+    : engine_(std::make_unique<Engine>(events, std::move(sources), std::move(post))) {}
+
+LiveGraph::~LiveGraph() {
+  (void)engine_->StopRun();
+  if (engine_->past) engine_->past->WaitEnded(Clock::now() + kDevicesPatience);
+}
+
+Outcome LiveGraph::GraphXmlLoad(std::string_view text) {
+  GraphClear();
+  Result<GraphPlan> plan = ReadTemplate(text);
+  if (!plan) return plan.Failure();
+  engine_->plan = std::move(*plan);
+  engine_->settings.resize(engine_->plan.filters.size());
+  engine_->MakeFaces();
+  return Outcome();
+}
+
+void LiveGraph::Engine::MakeFaces() {
+  const std::size_t count = plan.filters.size();
+  faces.renderers.resize(count);
+  faces.writers.resize(count);
+  faces.gates.resize(count);
+  faces.triggers.resize(count);
+  for (std::size_t i = 0; i < count; ++i) {
+    const auto& [label, row, state] = plan.filters[i];
+    if (row->role == FilterRole::Renderer) faces.renderers[i] = std::make_shared<RendererFace>(label);
+    else if (row->role == FilterRole::Writer) faces.writers[i] = std::make_shared<WriterFace>();
+    else if (row->role == FilterRole::AudioTrigger) faces.triggers[i] = std::make_shared<AudioTriggerFace>();
+  }
+  const auto moment = std::make_shared<GateMoment>();
+  for (std::size_t i = 0; i < count; ++i) {
+    if (plan.filters[i].row->role != FilterRole::Gate) continue;
+    const auto writer = plan.Downstream(i, FilterRole::Writer);
+    faces.gates[i] = std::make_shared<GateFace>(moment, writer ? faces.writers[*writer] : nullptr);
+  }
+}
+
+bool LiveGraph::Engine::Gated(const std::shared_ptr<WriterFace>& writer) const {
+  return std::ranges::any_of(faces.gates, [&](const auto& gate) { return gate && gate->Writer() == writer; });
+}
+
+FilterSetting* LiveGraph::Engine::SettingOf(std::string_view label, std::initializer_list<FilterRole> roles) {
+  const auto found = plan.Find(label);
+  if (!found || std::ranges::find(roles, plan.filters[*found].row->role) == roles.end()) return nullptr;
+  return &settings[*found];
+}
+
+Outcome LiveGraph::GraphSetDevice(std::string_view label, std::string_view device) {
+  FilterSetting* setting =
+      engine_->SettingOf(label, {FilterRole::Camera, FilterRole::Microphone, FilterRole::AudioTrigger});
+  if (!setting) return NoFilter("camera or microphone", label);
+  setting->device = device;
+  return Outcome();
+}
+
+Outcome LiveGraph::GraphSetVideoFormat(std::string_view label, int width, int height, std::string_view format) {
+  FilterSetting* setting = engine_->SettingOf(label, {FilterRole::Camera});
+  if (!setting) return NoFilter("camera", label);
+  if (width <= 0 || height <= 0) return Outcome::Failed(fmt::format("A picture cannot be {} x {}.", width, height));
+  const double rate = setting->mode ? setting->mode->rate : 0;
+  setting->mode = PictureMode{width, height, rate, std::string(format)};
+  return Outcome();
+}
+
+Outcome LiveGraph::GraphSetFrameTime(std::string_view label, double seconds) {
+  FilterSetting* setting = engine_->SettingOf(label, {FilterRole::Camera});
+  if (!setting) return NoFilter("camera", label);
+  if (!(seconds > 0)) return Outcome::Failed("A picture takes longer than no time.");
+  if (!setting->mode) setting->mode = PictureMode{};
+  setting->mode->rate = 1 / seconds;
+  return Outcome();
+}
+
+Outcome LiveGraph::GraphSetAudioPin(int index) {
+  return index >= 0 ? Outcome() : Outcome::Failed("There is no such input of the microphone.");
+}
+
+Outcome LiveGraph::GraphSetFileSource(std::string_view label, std::string_view path) {
+  FilterSetting* setting = engine_->SettingOf(label, {FilterRole::FileSource});
+  if (!setting) return NoFilter("source file", label);
+  setting->path = path;
+  return Outcome();
+}
+
+Outcome LiveGraph::GraphSetFileSink(std::string_view label, std::string_view path) {
+  const auto found = engine_->plan.Find(label);
+  if (!found || !engine_->faces.writers[*found]) return NoFilter("file to be written", label);
+  engine_->faces.writers[*found]->SetPath(std::string(path));
+  return Outcome();
+}
+
+Outcome LiveGraph::GraphRun() {
+  if (engine_->plan.filters.empty()) return Outcome::Failed("There is no graph that could run.");
+  const Outcome stopped = engine_->StopRun();
+  GraphNews news(engine_->events, engine_->post);
+  const FilterFaces& faces = engine_->faces;
+  for (std::size_t i = 0; i < faces.writers.size(); ++i)
+    if (faces.writers[i])
+      faces.writers[i]->SetLane(std::make_shared<RecordingLane>(engine_->plan.filters[i].label, news));
+  for (const auto& gate : faces.gates)
+    if (gate) gate->Begin();
+  for (const auto& writer : faces.writers)
+    if (writer && !engine_->Gated(writer)) writer->Open();
+  auto order = std::make_shared<GraphOrder>();
+  order->plan = engine_->plan;
+  order->settings = engine_->settings;
+  order->faces = faces;
+  order->sources = engine_->sources;
+  order->beginNs = MonotonicNow();
+  engine_->run = std::make_unique<kinalyx::GraphRun>(std::move(order), news, std::move(engine_->past));
+  return stopped;
+}
+
+Outcome LiveGraph::GraphStop() { return engine_->StopRun(); }
+
+/// Files first: what is still on its way belongs to them.
+Outcome LiveGraph::Engine::StopRun() {
+  if (!run) return Outcome();
+  for (const auto& gate : faces.gates)
+    if (gate) gate->Arm(false);
+  for (const auto& writer : faces.writers)
+    if (writer && !Gated(writer)) writer->CloseNow();
+  const auto until = Clock::now() + kFilesPatience;
+  bool closed = true;
+  for (const auto& writer : faces.writers) {
+    if (!writer) continue;
+    closed = writer->Lane()->WaitClosed(until) && closed;
+    writer->SetLane(nullptr);
+  }
+  run->Stop();
+  past = std::move(run);
+  return closed ? Outcome()
+                : Outcome::Failed("The disk does not answer. The recording will be looked for at the next start.");
+}
+
+void LiveGraph::GraphClear() {
+  (void)engine_->StopRun();
+  engine_->plan = {};
+  engine_->settings.clear();
+  engine_->faces = {};
+}
+
+IGraphFilter* LiveGraph::Filter(std::string_view label) {
+  const auto found = engine_->plan.Find(label);
+  if (!found) return nullptr;
+  const FilterFaces& faces = engine_->faces;
+  if (faces.renderers[*found]) return faces.renderers[*found].get();
+  if (faces.writers[*found]) return faces.writers[*found].get();
+  if (faces.gates[*found]) return faces.gates[*found].get();
+  return faces.triggers[*found].get();
+}
+
+}  // namespace kinalyx
