@@ -4,11 +4,16 @@
 #include "library/TodayText.h"
 #include "platform/graph/DeviceList.h"
 #include "platform/graph/LiveGraph.h"
+#include "platform/host/Post.h"
 
 namespace kinalyx {
 
 CaptureRoom::CaptureRoom(Parts parts)
-    : parts_(parts), devices_(MakeDevices()), setup_(parts.settings, *devices_), naming_(parts.settings, ChangeDateFormat) {}
+    : parts_(parts),
+      post_(MakeQtPost()),
+      devices_(std::make_unique<DeviceList>(parts.services.host, post_)),
+      setup_(parts.settings, *devices_),
+      naming_(parts.settings, ChangeDateFormat) {}
 
 CaptureRoom::~CaptureRoom() = default;
 
@@ -20,7 +25,9 @@ CapturePage* CaptureRoom::MakePage() {
                           .setup = setup_,
                           .naming = naming_,
                           .ways = parts_.ways,
-                          .makeGraph = [](IGraphEvents& events) { return MakeLiveGraph(events); }});
+                          .makeGraph = [this](IGraphEvents& events) {
+                            return std::make_unique<LiveGraph>(events, devices_->Sources(), post_);
+                          }});
 }
 
 CaptureSection* CaptureRoom::MakeSection() {

@@ -9,6 +9,8 @@
 namespace kinalyx {
 
 class CaptureSection;
+class DeviceList;
+class IPost;
 
 /// The capture side of the program: the devices of the machine, the choices, the names, and the page and the section
 /// of Program Setup that show them. The devices are looked for from now on, in a thread of their own.
@@ -30,7 +32,8 @@ class CaptureRoom {
 
  private:
   Parts parts_;
-  std::unique_ptr<IDevices> devices_;
+  std::shared_ptr<IPost> post_;
+  std::unique_ptr<DeviceList> devices_;
   CaptureSetup setup_;
   VideoNaming naming_;
 };

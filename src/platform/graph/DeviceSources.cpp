@@ -3,40 +3,79 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/graph/NetworkCamera.h"
 #include "platform/graph/PictureModes.h"
 #include "platform/graph/TestCamera.h"
 
 namespace kinalyx {
+namespace {
 
-void DeviceSources::Replace(std::vector<Entry> entries) {
-  const std::lock_guard lock(mutex_);
-  entries_ = std::move(entries);
+/// A bin of a source and what it shall give.
+GstElement* Behind(GstElement* source, GstCapsRef caps) {
+  if (!source || !caps) return source;
+  GstElement* filter = gst_element_factory_make("capsfilter", nullptr);
+  g_object_set(filter, "caps", caps.get(), nullptr);
+  GstElement* bin = gst_bin_new(nullptr);
+  gst_bin_add_many(GST_BIN(bin), source, filter, nullptr);
+  gst_element_link(source, filter);
+  const GstRef<GstPad> pad(gst_element_get_static_pad(filter, "src"));
+  gst_element_add_pad(bin, gst_ghost_pad_new("src", pad.get()));
+  return bin;
 }
 
-std::optional<DeviceSources::Entry> DeviceSources::Find(const std::string& name, Device::Kind kind) const {
+GstElement* MakeLocal(const FoundDevice& camera, const PictureMode* wanted) {
+  GstElement* source = gst_device_create_element(camera.local.get(), nullptr);
+  // Where the camera itself does not stamp its pictures, they count as taken when they come.
+  if (source && g_object_class_find_property(G_OBJECT_GET_CLASS(source), "do-timestamp")) {
+    g_object_set(source, "do-timestamp", TRUE, nullptr);
+  }
+  const auto mode = NearestMode(camera.device.modes, wanted);
+  const GstCapsRef caps(gst_device_get_caps(camera.local.get()));
+  if (!mode || !caps) return source;
+  return Behind(source, CapsFor(*caps, *mode, wanted ? wanted->rate : 0));
+}
+
+GstElement* MakeFireWire(const FoundDevice& camera) {
+  GstElement* source = GstBegun() ? gst_element_factory_make("dv1394src", nullptr) : nullptr;
+  if (source) g_object_set(source, "guid", static_cast<guint64>(camera.guid), nullptr);
+  return source;
+}
+
+}  // namespace
+
+void DeviceSources::Replace(std::vector<FoundDevice> devices) {
   const std::lock_guard lock(mutex_);
-  const auto found = std::find_if(entries_.begin(), entries_.end(), [&](const Entry& entry) {
-    return entry.device.kind == kind && entry.device.name == name;
+  devices_ = std::move(devices);
+}
+
+std::optional<FoundDevice> DeviceSources::Find(const std::string& name, Device::Kind kind) const {
+  const std::lock_guard lock(mutex_);
+  const auto found = std::find_if(devices_.begin(), devices_.end(), [&](const FoundDevice& one) {
+    return one.device.kind == kind && one.device.name == name;
   });
-  return found == entries_.end() ? std::nullopt : std::optional(*found);
+  return found == devices_.end() ? std::nullopt : std::optional(*found);
 }
 
 GstElement* DeviceSources::MakeCameraSource(const std::string& name, const PictureMode* wanted) const {
-  const auto entry = Find(name, Device::Kind::Camera);
-  if (!entry) return nullptr;
-  const auto mode = NearestMode(entry->device.modes, wanted);
-  switch (entry->device.origin) {
-    case Device::Origin::Test: return mode ? MakeTestCamera(*mode) : nullptr;
-    case Device::Origin::Network:
-    case Device::Origin::Local:
-    case Device::Origin::FireWire: return nullptr;
+  const auto camera = Find(name, Device::Kind::Camera);
+  if (!camera) return nullptr;
+  switch (camera->device.origin) {
+    case Device::Origin::Local: return camera->local ? MakeLocal(*camera, wanted) : nullptr;
+    case Device::Origin::FireWire: return MakeFireWire(*camera);
+    case Device::Origin::Network: return MakeNetworkSource(camera->device.address);
+    case Device::Origin::Test: return MakeTestCamera(*NearestMode(TestCameraModes(), wanted));
   }
   return nullptr;
 }
 
 GstElement* DeviceSources::MakeMicrophoneSource(const std::string& name) const {
-  const auto entry = Find(name, Device::Kind::Microphone);
-  return entry && entry->local ? gst_device_create_element(entry->local.get(), nullptr) : nullptr;
+  const auto microphone = Find(name, Device::Kind::Microphone);
+  return microphone && microphone->local ? gst_device_create_element(microphone->local.get(), nullptr) : nullptr;
+}
+
+std::string DeviceSources::PathOf(const std::string& camera) const {
+  const auto found = Find(camera, Device::Kind::Camera);
+  return found ? found->path : std::string();
 }
 
 }  // namespace kinalyx

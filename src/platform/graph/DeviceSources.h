@@ -2,14 +2,12 @@
 
 #include <gst/gst.h>
 
-#include <memory>
 #include <mutex>
 #include <optional>
 #include <string>
 #include <vector>
 
-#include "platform/graph/GstHandles.h"
-#include "platform/graph/IDevices.h"
+#include "platform/graph/FoundDevice.h"
 
 namespace kinalyx {
 
@@ -19,13 +17,7 @@ class DeviceSources {
  public:
   virtual ~DeviceSources() = default;
 
-  /// A device of the list with what it is for the library; none for the Test Camera and for one on the network.
-  struct Entry {
-    Device device;
-    std::shared_ptr<GstDevice> local;
-  };
-
-  void Replace(std::vector<Entry> entries);
+  void Replace(std::vector<FoundDevice> devices);
 
   /// An element with one source pad, floating, to be put into a pipeline; null when no camera has that name. It is
   /// live, and gives what the mode nearest to `wanted` promises: raw pictures, or image/jpeg and the like as the
@@ -35,11 +27,14 @@ class DeviceSources {
   /// The same for a microphone: raw sound.
   virtual GstElement* MakeMicrophoneSource(const std::string& name) const;
 
+  /// The file of a camera by which the system knows it; empty where there is none.
+  std::string PathOf(const std::string& camera) const;
+
  private:
-  std::optional<Entry> Find(const std::string& name, Device::Kind kind) const;
+  std::optional<FoundDevice> Find(const std::string& name, Device::Kind kind) const;
 
   mutable std::mutex mutex_;
-  std::vector<Entry> entries_;
+  std::vector<FoundDevice> devices_;
 };
 
 }  // namespace kinalyx

@@ -43,7 +43,11 @@ struct CameraControl {
   int value = 0;
   std::vector<std::string> choices;  ///< of a choice: value 0 is the first; an empty text is no choice
   bool active = true;                ///< false while an automatic has it in hand
+  bool operator==(const CameraControl&) const = default;
 };
+
+/// The `id` of a control that chooses what is plugged into a tuner card.
+constexpr std::uint32_t kInputControl = 0;
 
 /// What is told of devices, from the event loop of the user interface.
 class IDevicesEvents {
@@ -69,8 +73,11 @@ class IDevices {
   /// a blank and the address, or made of the host.
   virtual void SetNetworkCameras(const std::vector<std::string>& addresses) = 0;
 
-  /// The knobs of a local camera; empty where it has none.
+  /// The knobs of a local camera, as far as it has told; empty where it has none. Each call has the camera asked anew,
+  /// and DevicesChanged is told when the answer is another.
   virtual std::vector<CameraControl> Controls(const std::string& camera) = 0;
+  /// Refused where there is no such knob, or it is out of its limits or not active. What the camera itself refuses
+  /// jumps back.
   virtual Outcome SetControl(const std::string& camera, std::uint32_t id, int value) = 0;
 };
 

@@ -9,12 +9,8 @@ namespace kinalyx::test {
 namespace {
 
 TEST(DeviceSources, TheTestCameraCountsItsPicturesInEveryMode) {
-  Device camera;
-  camera.name = "Test Camera";
-  camera.origin = Device::Origin::Test;
-  camera.modes = TestCameraModes();
   DeviceSources sources;
-  sources.Replace({{camera, nullptr}});
+  sources.Replace(DeviceRoll().Call({}));
   for (const PictureMode& mode : TestCameraModes()) {
     SCOPED_TRACE(testing::Message() << mode.width << " " << mode.format);
     const Takings takings = Take(sources.MakeCameraSource("Test Camera", &mode), 12);

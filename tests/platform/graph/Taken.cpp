@@ -18,6 +18,8 @@ Takings Take(GstElement* source, std::size_t pictures, int milliseconds) {
   gst_bin_add(GST_BIN(pipeline.get()), source);
   gst_element_link(source, decoder.get());
   const GstRef<GstElement> sink(gst_bin_get_by_name(GST_BIN(pipeline.get()), "sink"));
+  const GstRef<GstClock> clock(gst_system_clock_obtain());
+  gst_pipeline_use_clock(GST_PIPELINE(pipeline.get()), clock.get());
   const GstRef<GstBus> bus(gst_element_get_bus(pipeline.get()));
   gst_element_set_state(pipeline.get(), GST_STATE_PLAYING);
   const auto over = std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds);
