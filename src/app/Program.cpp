@@ -5,6 +5,7 @@
 #include <QScreen>
 #include <utility>
 
+#include "capture/forms/CaptureSection.h"
 #include "core/forms/FirstForm.h"
 #include "core/forms/HelpPage.h"
 #include "core/forms/MenuPage.h"

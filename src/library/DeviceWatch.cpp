@@ -18,7 +18,7 @@ bool Holds(const std::vector<DevicePlace>& places, const std::string& path) {
 
 }  // namespace
 
-std::size_t Device::Fresh() const {
+std::size_t OfferedDevice::Fresh() const {
   return static_cast<std::size_t>(std::ranges::count(videos, false, &DeviceVideo::inLibrary));
 }
 
@@ -84,14 +84,14 @@ void DeviceWatch::Take(Known& known) {
 }
 
 void DeviceWatch::TellIfChanged() {
-  const Device* device = Offered();
+  const OfferedDevice* device = Offered();
   const std::string words =
       device ? device->place.path + DeviceText(device->place.name, device->videos.size(), device->Fresh())
              : std::string();
   if (std::exchange(told_, words) != words) changed_();
 }
 
-const Device* DeviceWatch::Offered() const {
+const OfferedDevice* DeviceWatch::Offered() const {
   const auto isOffered = [](const Known& known) { return !known.putAside && known.device.Fresh() > 0; };
   const auto found = std::ranges::find_if(known_, isOffered);
   return found == known_.end() ? nullptr : &found->device;

@@ -13,7 +13,7 @@
 namespace kinalyx {
 
 /// A device and what was found on it.
-struct Device {
+struct OfferedDevice {
   DevicePlace place;
   std::vector<DeviceVideo> videos;  ///< newest first
 
@@ -39,7 +39,7 @@ class DeviceWatch {
 
   /// The first device with new videos that was not put aside; null when there is none. Good until the next turn
   /// of the event loop.
-  const Device* Offered() const;
+  const OfferedDevice* Offered() const;
   bool IsThere(const std::string& place) const;
   /// A device is offered no more until it is plugged in anew.
   void PutAside(const std::string& place);
@@ -51,7 +51,7 @@ class DeviceWatch {
 
  private:
   struct Known {
-    Device device;
+    OfferedDevice device;
     bool putAside = false;
     std::shared_ptr<IErrand> errand;  ///< null when nothing is being read
     std::shared_ptr<std::vector<DeviceVideo>> found;

@@ -33,7 +33,7 @@ DeviceBar::DeviceBar(IHost& host, const Settings& settings, DeviceWatch::Environ
   form_ = new DeviceVideosForm(host, watch_.Sender(), over);
   connect(show, &QPushButton::clicked, this, &DeviceBar::ShowWanted);
   connect(later, &QPushButton::clicked, this, [this] {
-    if (const Device* device = watch_.Offered()) watch_.PutAside(std::string(device->place.path));
+    if (const OfferedDevice* device = watch_.Offered()) watch_.PutAside(std::string(device->place.path));
   });
   connect(form_, &DeviceVideosForm::AddWanted, this, [this](const std::vector<std::string>& paths) {
     adding_ = form_->Place();
@@ -44,13 +44,13 @@ DeviceBar::DeviceBar(IHost& host, const Settings& settings, DeviceWatch::Environ
 
 void DeviceBar::ShowOffer() {
   if (form_->isVisible() && !watch_.IsThere(form_->Place())) form_->ShowGone();
-  const Device* device = watch_.Offered();
+  const OfferedDevice* device = watch_.Offered();
   if (device) words_->setText(Q(DeviceText(device->place.name, device->videos.size(), device->Fresh())));
   setVisible(device != nullptr);
 }
 
 void DeviceBar::ShowVideos(const std::string& student) {
-  if (const Device* device = watch_.Offered()) form_->Open(*device, student);
+  if (const OfferedDevice* device = watch_.Offered()) form_->Open(*device, student);
 }
 
 void DeviceBar::AddingEnded(bool done) {

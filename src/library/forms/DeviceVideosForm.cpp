@@ -109,7 +109,7 @@ void DeviceVideosForm::MakeList() {
 
 // ---------------------------------------------------------------- opening
 
-void DeviceVideosForm::Open(const Device& device, const std::string& student) {
+void DeviceVideosForm::Open(const OfferedDevice& device, const std::string& student) {
   device_ = device;
   gone_ = false;
   const QString title = "Videos on \"" + Q(device_.place.name) + "\"";

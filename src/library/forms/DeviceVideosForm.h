@@ -26,7 +26,7 @@ class DeviceVideosForm : public QDialog {
   DeviceVideosForm(IHost& host, DriveWatch::Send send, QWidget* over);
 
   /// @param student  who gets the videos
-  void Open(const Device& device, const std::string& student);
+  void Open(const OfferedDevice& device, const std::string& student);
   /// The path of the device that was shown last.
   const std::string& Place() const { return device_.place.path; }
   /// The device has been pulled out: nothing can be added any more.
@@ -52,7 +52,7 @@ class DeviceVideosForm : public QDialog {
 
   IHost& host_;
   DriveWatch::Send send_;
-  Device device_;
+  OfferedDevice device_;
   bool gone_ = false;
   HostTimer timer_;
   std::shared_ptr<Glanced> look_;  ///< under way
