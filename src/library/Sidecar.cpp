@@ -361,6 +361,10 @@ Outcome WriteCaptureVideoData(const std::string& path, bool fromCamera, bool wid
                     : WriteFlags(path, wide, settings.HDReverseFields, settings.HDSplitFields);
 }
 
+Outcome WriteVideoFlags(const std::string& path, const SlotData& data) {
+  return WriteFlags(path, data.Wide, data.ReverseFields, data.SplitFields);
+}
+
 Outcome WriteImportedVideoData(const std::string& path, const VideoInfo& video, bool reverseFields) {
   const bool wide = video.height > 0 && 2 * video.width > 3 * video.height;
   const bool dv = IsCompressor(video, "dvsd");

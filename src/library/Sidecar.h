@@ -117,6 +117,9 @@ Result<std::string> WriteVideoData(const std::string& path, const SlotData& data
 /// come from the settings for camera captures, or, without `fromCamera`, for high definition imports.
 Outcome WriteCaptureVideoData(const std::string& path, bool fromCamera, bool wide, const Settings& settings);
 
+/// The same with the flags of `data`.
+Outcome WriteVideoFlags(const std::string& path, const SlotData& data);
+
 /// The first sidecar of an imported video, likewise 8 bytes. Wide when width / height is above 1.5;
 /// dvsd turns both field options on, any other video takes `reverseFields` as the user chose.
 Outcome WriteImportedVideoData(const std::string& path, const VideoInfo& video, bool reverseFields);

@@ -47,6 +47,16 @@ std::int64_t PlacedFile::Bytes() const {
   return ::fstat(file_, &status) == 0 ? status.st_size : 0;
 }
 
+timespec PlacedFile::Written() const {
+  struct stat status {};
+  return ::fstat(file_, &status) == 0 ? status.st_mtim : timespec{0, UTIME_OMIT};
+}
+
+void PlacedFile::SetWritten(const timespec& time) const {
+  const timespec times[] = {{0, UTIME_OMIT}, time};
+  (void)::futimens(file_, times);
+}
+
 std::size_t PlacedFile::Read(std::int64_t place, std::span<std::uint8_t> to) const {
   std::size_t done = 0;
   while (done < to.size()) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <sys/uio.h>
+#include <time.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -23,6 +24,9 @@ class PlacedFile {
   ~PlacedFile();
 
   std::int64_t Bytes() const;
+  /// When it was written last; a mend is no news.
+  timespec Written() const;
+  void SetWritten(const timespec& time) const;
   /// Fills `to` as far as the file goes, and tells how far that is.
   std::size_t Read(std::int64_t place, std::span<std::uint8_t> to) const;
   /// Unwritable when there is no room.

@@ -245,10 +245,13 @@ Result<RecordingTally> MendRecording(const std::string& path) {
   parts.Resume(walk.TakeParts(), walk.End());
   if (parts.Pictures() == 0) return Outcome(Fault::NoFrames, "the recording holds no picture");
   if (parts.PartCount() > RecordingHead::kMostParts) return Outcome::Failed("the recording is too badly damaged");
+  const timespec written = parts.File().Written();
   Outcome done = walk.Repair();
   if (done) done = parts.File().Cut(walk.End());
   if (done) done = parts.Finish(head->Rate());
   if (!done) return done;
+  // It was taken then, not now.
+  parts.File().SetWritten(written);
   RecordingTally tally;
   tally.pictures = parts.Pictures();
   tally.lost = parts.Places() - parts.Pictures();
