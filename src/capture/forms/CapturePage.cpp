@@ -12,6 +12,7 @@
 #include <QSlider>
 #include <QStackedWidget>
 
+#include "capture/SourceKinds.h"
 #include "capture/forms/CameraControlsForm.h"
 #include "capture/forms/FindCamForm.h"
 #include "capture/forms/LiveView.h"
@@ -36,6 +37,7 @@ namespace kinalyx {
 namespace {
 
 constexpr int kSideWidth = 256;  // as designed
+constexpr int kStride = 10;      // pictures that a larger step goes
 constexpr double kWide = 1.5;    // width by height
 enum StagePage { kLivePage, kReviewPage };
 
@@ -143,6 +145,7 @@ CapturePage::CapturePage(Parts parts, QWidget* parent)
   SetupVocabulary();
   FillCameras();
   ShowPhase();
+  emit ReviewShown(false);
 }
 
 CapturePage::~CapturePage() {
@@ -185,6 +188,12 @@ QWidget* CapturePage::MakeCameras() {
   rows->setSpacing(6);
   auto* first = new QHBoxLayout;
   first->setSpacing(6);
+  kind_ = MakeList("CapKindList", "Where videos come from", 16);
+  for (const SourceWords& words : SourceKinds())
+    kind_->addItem(Q(std::string(words.caption)), static_cast<int>(words.kind));
+  connect(kind_, &QComboBox::activated, this,
+          [this](int row) { parts_.setup.ChooseKind(static_cast<SourceKind>(kind_->itemData(row).toInt())); });
+  first->addWidget(kind_);
   OneCamTwoOpt_ = MakeChoice(*first, "OneCamTwoOpt", {"One Cam", "Two Cam"}, this);
   choice_ = new QWidget;
   auto* choices = new QHBoxLayout(choice_);
@@ -214,7 +223,7 @@ QWidget* CapturePage::MakeCameras() {
     row->addWidget(sources_[camera], 3);
     row->addWidget(sizes_[camera], 1);
     row->addWidget(formats_[camera], 2);
-    auto* knobs = IconButton(QString("CamConfig_Camera%1").arg(camera), "scale",
+    auto* knobs = IconButton(QString("CamConfig_Camera%1").arg(camera), "sliders",
                              "Exposure, gain, focus and white balance of the camera", Look::Quiet);
     connect(knobs, &QPushButton::clicked, this, [this, camera] {
       CameraControlsForm form(parts_.setup.Devices(), parts_.setup.Shown(camera).name, this);
@@ -253,7 +262,7 @@ QWidget* CapturePage::MakeStage() {
     reviewRow->addWidget(review_[camera], 1);
     players_[camera] = std::make_unique<Player>(*review_[camera]);
   }
-  review_[1]->SetBarShown(false);
+  for (PreviewPlayer* player : review_) player->SetBarShown(false);
   stage_->addWidget(live);
   stage_->addWidget(review);
   return stage_;
@@ -267,6 +276,8 @@ QWidget* CapturePage::MakeActions() {
   reviewBar_ = new QWidget;
   auto* seek = new QHBoxLayout(reviewBar_);
   seek->setContentsMargins(0, 0, 0, 0);
+  play_ = IconButton("ReviewPlay", "play", "Play or pause (P)", Look::Quiet);
+  seek->addWidget(play_);
   VidScroll_ = new QSlider(Qt::Horizontal);
   VidScroll_->setObjectName("VidScroll");
   VidScroll_->setAccessibleName("Frame of the recording");
@@ -277,7 +288,7 @@ QWidget* CapturePage::MakeActions() {
 
   auto* row = new QHBoxLayout;
   row->setSpacing(8);
-  Capturebtn_ = new Button("Capturebtn", "Start Capture", "camera");
+  Capturebtn_ = new Button("Capturebtn", "Start Capture", "record");
   LeastWidth(Capturebtn_, 190);
   Capturebtn_->setToolTip("Space");
   StartHerebtn_ = new Button("StartHerebtn", "Trim Front of Video", "trim", Look::Quiet);
@@ -311,12 +322,29 @@ void CapturePage::ConnectParts() {
   connect(EndHerebtn_, &QPushButton::clicked, this, &CapturePage::EndHerebtn_Click);
   connect(CapSavebtn_, &QPushButton::clicked, this, &CapturePage::CapSavebtn_Click);
   connect(CapSendbtn_, &QPushButton::clicked, this, &CapturePage::CapSendbtn_Click);
+  connect(play_, &QPushButton::clicked, this, &CapturePage::PlayReview);
+  connect(review_[0], &PreviewPlayer::StateChanged, this,
+          [this] { play_->SetIcon(review_[0]->Control().IsPlaying() ? "pause" : "play"); });
   connect(VidScroll_, &QSlider::valueChanged, this, &CapturePage::SeekReview);
   connect(review_[0], &PreviewPlayer::Moved, this, &CapturePage::ShowReview);
   const auto key = [this](const QKeySequence& keys, auto action) {
-    connect(new QShortcut(keys, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut), &QShortcut::activated, this,
-            action);
+    auto* shortcut = new QShortcut(keys, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
+    connect(shortcut, &QShortcut::activated, this, action);
+    return shortcut;
   };
+  // What moves in a recording under review works from whatever button has the keys.
+  const auto reviewKey = [&](const char* keys, auto action) {
+    connect(this, &CapturePage::ReviewShown, key(QKeySequence(keys), action), &QShortcut::setEnabled);
+  };
+  reviewKey("Left", [this] { SeekReview(players_[0]->CurrentFrame() - 1); });
+  reviewKey("Right", [this] { SeekReview(players_[0]->CurrentFrame() + 1); });
+  reviewKey("Shift+Left", [this] { SeekReview(players_[0]->CurrentFrame() - kStride); });
+  reviewKey("Shift+Right", [this] { SeekReview(players_[0]->CurrentFrame() + kStride); });
+  reviewKey("Home", [this] { SeekReview(0); });
+  reviewKey("End", [this] { SeekReview(players_[0]->FrameCount() - 1); });
+  reviewKey("I", [this] { StartHerebtn_Click(); });
+  reviewKey("O", [this] { EndHerebtn_Click(); });
+  reviewKey("P", [this] { PlayReview(); });
   key(QKeySequence("Ctrl+F"), [this] { search_->FocusBox(); });
   key(QKeySequence("Ctrl+S"), [this] { CapSavebtn_Click(); });
   parts_.setup.SetEvents(this);
@@ -436,28 +464,14 @@ void CapturePage::CapSendbtn_Click() { session_->SendToAnalysis(); }
 void CapturePage::OneCamTwoOpt_Click(int index) { parts_.setup.ChooseCameraCount(index == 0); }
 void CapturePage::CamChoiceBtn_Click(int index) { parts_.setup.ChooseCamera(index); }
 
+void CapturePage::PlayReview() {
+  for (int camera = 0; camera < (session_->TwoCameras() ? 2 : 1); ++camera) review_[camera]->TogglePlay();
+}
+
 void CapturePage::keyPressEvent(QKeyEvent* event) {
-  const bool review = session_->Phase() == CapturePhase::Reviewing;
-  switch (event->key()) {
-    case Qt::Key_Space: return Capturebtn_Click();
-    case Qt::Key_Left:
-      if (review) return SeekReview(players_[0]->CurrentFrame() - 1);
-      break;
-    case Qt::Key_Right:
-      if (review) return SeekReview(players_[0]->CurrentFrame() + 1);
-      break;
-    case Qt::Key_I:
-      if (review) return StartHerebtn_Click();
-      break;
-    case Qt::Key_O:
-      if (review) return EndHerebtn_Click();
-      break;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-      if (review) return CapSendbtn_Click();
-      break;
-    default: break;
-  }
+  if (event->key() == Qt::Key_Space) return Capturebtn_Click();
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (enter && session_->Phase() == CapturePhase::Reviewing) return CapSendbtn_Click();
   PageWidget::keyPressEvent(event);
 }
 
@@ -476,10 +490,14 @@ void CapturePage::FillCameras() {
     FillList(*sources_[camera], names(parts_.setup.Cameras()), choice.name);
     FillList(*sizes_[camera], device ? SizesOf(*device) : std::vector<std::string>(), choice.size);
     FillList(*formats_[camera], device ? FormatsOf(*device, choice.size) : std::vector<std::string>(), choice.format);
-    sources_[camera]->parentWidget()->setVisible(two || static_cast<int>(parts_.setup.Use()) == camera);
+    sources_[camera]->parentWidget()->setVisible(!IsImport(parts_.setup.Kind()) &&
+                                                 (two || static_cast<int>(parts_.setup.Use()) == camera));
   }
+  const bool live = !IsImport(parts_.setup.Kind());
+  kind_->setCurrentIndex(kind_->findData(static_cast<int>(parts_.setup.Kind())));
   OneCamTwoOpt_->button(two ? 1 : 0)->setChecked(true);
-  choice_->setVisible(!two);
+  for (QAbstractButton* button : OneCamTwoOpt_->buttons()) button->setVisible(live);
+  choice_->setVisible(live && !two);
   CamChoiceBtn_->button(parts_.setup.Use() == CameraUse::Second ? 1 : 0)->setChecked(true);
 }
 
@@ -499,8 +517,7 @@ void CapturePage::ShowPhase() {
   const bool writing = phase == CapturePhase::Writing;
   const bool two = session_->TwoCameras();
   Capturebtn_->setText(Q(std::string(CaptionOf(phase))));
-  Capturebtn_->SetIcon(writing ? "square" : review ? "rewind" : "camera");
-  Capturebtn_->setProperty("danger", writing);
+  Capturebtn_->SetIcon(writing ? "stop" : review ? "rewind" : "record");
   Capturebtn_->setEnabled(!session_->Saving());
   for (Button* button : {StartHerebtn_, EndHerebtn_, CapSavebtn_, CapSendbtn_}) {
     button->setVisible(review);
@@ -511,6 +528,7 @@ void CapturePage::ShowPhase() {
   EndHerebtn_->setText(session_->TrimEndFrame() > 0 ? QString("End at %1").arg(session_->TrimEndFrame())
                                                     : QString("Trim End of Video"));
   reviewBar_->setVisible(review);
+  if (review != reviewShown_) emit ReviewShown(reviewShown_ = review);
   stage_->setCurrentIndex(review ? kReviewPage : kLivePage);
   live_[1]->setVisible(two);
   review_[1]->setVisible(two);

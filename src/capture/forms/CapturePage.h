@@ -66,6 +66,10 @@ class CapturePage : public PageWidget, private ICapturePage, private ICaptureSet
   void OneCamTwoOpt_Click(int index);
   void CamChoiceBtn_Click(int index);
 
+ signals:
+  /// A recording is under review, or no more.
+  void ReviewShown(bool shown);
+
  protected:
   void keyPressEvent(QKeyEvent* event) override;
 
@@ -89,6 +93,7 @@ class CapturePage : public PageWidget, private ICapturePage, private ICaptureSet
   void LookForUnfinished();
   void ShowUnfinished();
   void SeekReview(int frame);
+  void PlayReview();
 
   void CaptureChanged() override;
   void LivePictureCame(int camera) override;
@@ -108,6 +113,7 @@ class CapturePage : public PageWidget, private ICapturePage, private ICaptureSet
   SearchBar* search_;
   Panel* students_;
   NamingPanel* names_;
+  QComboBox* kind_;
   QButtonGroup* OneCamTwoOpt_;
   QButtonGroup* CamChoiceBtn_;
   QWidget* choice_;
@@ -123,13 +129,15 @@ class CapturePage : public PageWidget, private ICapturePage, private ICaptureSet
   QWidget* reviewBar_;
   QFrame* unfinishedBar_;
   QLabel* unfinishedWords_;
+  Button* play_;
   Button* Capturebtn_;
   Button* StartHerebtn_;
   Button* EndHerebtn_;
   Button* CapSavebtn_;
   Button* CapSendbtn_;
   StatusLine* status_;
-  bool asked_ = false;   ///< for a camera that is missing
+  bool asked_ = false;  ///< for a camera that is missing
+  bool reviewShown_ = false;
   bool looked_ = false;  ///< for recordings that were left
 };
 

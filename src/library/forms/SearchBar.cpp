@@ -37,7 +37,7 @@ SearchBar::SearchBar(IHost& host, DriveWatch::Send send, const std::string& root
   box_->setClearButtonEnabled(true);
   box_->addAction(Icon("find", CurrentTheme().muted), QLineEdit::LeadingPosition);
   MostWidth(box_, kWidth);
-  row->addWidget(box_, 1);
+  row->addWidget(box_, 1000);
   row->addStretch(1);
 
   results_ = MakeFrame("panel", over);
