@@ -76,7 +76,8 @@ class PreviewChooser final : public ICapsChooser {
 
   std::string BinFor(const GstCaps* caps) override {
     const Coming coming(caps);
-    const std::string planes = fmt::format("videoconvert ! capsfilter caps=\"video/x-raw,format={}\"", PreviewPainter::kFormats);
+    const std::string planes =
+        fmt::format("videoconvert ! capsfilter caps=\"video/x-raw,format={}\"", PreviewPainter::kFormats);
     asked_ = face_->Wanted();
     if (coming.Raw()) return planes;
     if (coming.Jpeg()) return "jpegdec ! " + planes;

@@ -20,8 +20,7 @@ class PictureTaker {
 };
 
 struct Taking {
-  std::unique_ptr<PictureTaker> taker;
-  std::int64_t beginNs;
+  Taking(std::unique_ptr<PictureTaker> who, std::int64_t begin) : taker(std::move(who)), beginNs(begin) {}
 
   static GstFlowReturn Sample(GstAppSink* sink, gpointer self) {
     const auto& taking = *static_cast<Taking*>(self);
@@ -31,6 +30,9 @@ struct Taking {
     if (GST_CLOCK_TIME_IS_VALID(at)) taking.taker->Take(sample.get(), taking.beginNs + static_cast<std::int64_t>(at));
     return GST_FLOW_OK;
   }
+
+  std::unique_ptr<PictureTaker> taker;
+  std::int64_t beginNs;
 };
 
 /// An end of the graph that waits for no clock.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <atomic>
 #include <condition_variable>
+#include <iterator>
 #include <mutex>
 #include <string_view>
 #include <thread>
@@ -36,12 +37,13 @@ struct GraphRun::Part {
   void CloseFiles();
   bool WaitEnded(Clock::time_point until);
   void Stop();
+  bool SharesDevice(const Part& other) const;
   FilterRole RoleOf(const std::string& label) const { return order->plan.filters[*order->plan.Find(label)].row->role; }
 
   const std::shared_ptr<const GraphOrder> order;
   const std::vector<std::size_t> filters;
   const GraphNews news;
-  std::vector<std::shared_ptr<Part>> before;  ///< whose devices may be needed
+  std::vector<std::shared_ptr<Part>> before;  ///< who may still have a device that is needed
   std::shared_ptr<std::atomic<int>> running;  ///< parts of this run that have not come to their end
 
   std::mutex mutex;
@@ -56,7 +58,9 @@ GraphRun::GraphRun(std::shared_ptr<const GraphOrder> order, GraphNews news, std:
   for (auto& filters : PartsOf(order->plan)) parts_.push_back(std::make_shared<Part>(order, std::move(filters), news));
   const auto running = std::make_shared<std::atomic<int>>(static_cast<int>(parts_.size()));
   for (const auto& part : parts_) {
-    if (before) part->before = before->parts_;
+    if (before)
+      std::ranges::copy_if(before->parts_, std::back_inserter(part->before),
+                           [&](const auto& other) { return part->SharesDevice(*other); });
     part->running = running;
     std::thread([part] { part->Work(); }).detach();
   }
@@ -71,6 +75,16 @@ void GraphRun::Stop() {
 
 bool GraphRun::WaitEnded(Clock::time_point until) const {
   return std::ranges::all_of(parts_, [&](const auto& part) { return part->WaitEnded(until); });
+}
+
+bool GraphRun::Part::SharesDevice(const Part& other) const {
+  const auto has = [](const Part& part, const std::string& device) {
+    return std::ranges::any_of(part.filters, [&](std::size_t i) { return part.order->settings[i].device == device; });
+  };
+  return std::ranges::any_of(filters, [&](std::size_t i) {
+    const std::string& device = order->settings[i].device;
+    return !device.empty() && has(other, device);
+  });
 }
 
 void GraphRun::Part::Stop() {

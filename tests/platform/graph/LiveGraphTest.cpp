@@ -13,8 +13,10 @@
 #include "platform/graph/DeviceSources.h"
 #include "platform/graph/TestCamera.h"
 #include "platform/graph/TestPicture.h"
+#include "platform/media/RecordingFile.h"
 #include "platform/media/VideoFile.h"
 #include "support/TempFolder.h"
+#include "support/TestVideos.h"
 
 namespace kinalyx::test {
 namespace {
@@ -60,6 +62,20 @@ struct Told final : IGraphEvents {
   bool ended = false;
 };
 
+/// How many pictures of the Test Camera a file has; -1 where their numbers do not follow each other.
+std::int64_t PicturesInARow(const std::string& path) {
+  const auto video = OpenedVideo(path);
+  std::optional<int> before;
+  for (int n = 0; n < video->Info().frameCount; ++n) {
+    const FrameRows rows = video->Frame(n, 32);
+    const std::uint8_t* top = rows.bits + static_cast<std::ptrdiff_t>(rows.height - 1) * rows.rowBytes;
+    const auto number = ReadFrameNumber(top, rows.width, rows.height, -rows.rowBytes);
+    if (!number || (before && *number != *before + 1)) return -1;
+    before = *number;
+  }
+  return video->Info().frameCount;
+}
+
 class LiveGraphs : public testing::Test {
  protected:
   static void SetUpTestSuite() {
@@ -101,6 +117,7 @@ TEST_F(LiveGraphs, OneCameraIsSeenAndWrittenFromClickToClick) {
   const LivePicture seen = Seen();
   ASSERT_TRUE(seen.pixels);
   EXPECT_EQ(std::pair(seen.width, seen.height), std::pair(320, 240));
+  EXPECT_EQ(told.pictures["Video Renderer"], 1) << "told once until it is asked for";
 
   for (const char* name : {"first.avi", "second.avi"}) {
     SCOPED_TRACE(name);
@@ -109,15 +126,88 @@ TEST_F(LiveGraphs, OneCameraIsSeenAndWrittenFromClickToClick) {
     EXPECT_TRUE(Comes([&] { return Tally().pictures >= 20; }));
     Gate().Arm(false);
     EXPECT_TRUE(Comes([&] { return !Tally().open; }));
-    const RecordingTally tally = Tally();
-    EXPECT_EQ(tally.lost, 0);
-    EXPECT_NEAR(tally.rate, 30, 0.05);
-    const auto video = VideoFile::Open(folder.Path(name));
-    ASSERT_TRUE(video);
+    EXPECT_EQ(Tally().lost, 0);
+    EXPECT_NEAR(Tally().rate, 30, 0.05);
+    EXPECT_EQ(PicturesInARow(folder.Path(name)), Tally().pictures);
   }
   EXPECT_TRUE(graph.GraphStop());
   EXPECT_TRUE(told.failed.empty());
   EXPECT_TRUE(told.sinks.empty());
+}
+
+TEST_F(LiveGraphs, TwoCamerasBeginTogether) {
+  cameras->played["slow"] =
+      "videotestsrc is-live=true ! capsfilter caps=video/x-raw,format=NV12,width=800,height=600,"
+      "framerate=20/1 ! identity sleep-time=30000";
+  ASSERT_TRUE(graph.GraphXmlLoad(MVTwoCamSS));
+  ASSERT_TRUE(graph.GraphSetDevice("VideoSource", "Test Camera"));
+  ASSERT_TRUE(graph.GraphSetVideoFormat("VideoSource", 640, 480, "YUY2"));
+  ASSERT_TRUE(graph.GraphSetDevice("VideoSource 2", "slow"));
+  ASSERT_TRUE(graph.GraphSetFileSink("FileWriter", folder.Path("1.avi")));
+  ASSERT_TRUE(graph.GraphSetFileSink("FileWriter 2", folder.Path("2.avi")));
+  ASSERT_TRUE(graph.GraphRun());
+  ASSERT_TRUE(Comes([&] { return told.pictures["Video Renderer"] > 0 && told.pictures["Video Renderer 2"] > 0; }));
+  Gate().Arm(true);
+  Gate("MV Trigger Source 2").Arm(true);
+  EXPECT_TRUE(Comes([&] { return Tally().pictures >= 20 && Tally("FileWriter 2").pictures >= 10; }));
+  EXPECT_TRUE(graph.GraphStop());
+  const RecordingTally first = Tally(), second = Tally("FileWriter 2");
+  EXPECT_LT(std::abs(first.firstNs - second.firstNs), 50'000'000);
+  EXPECT_EQ(PicturesInARow(folder.Path("1.avi")), first.pictures) << "kept as it came";
+  const auto packed = ReadVideoInfo(folder.Path("2.avi"));
+  ASSERT_TRUE(packed);
+  EXPECT_EQ(packed->frameCount, second.pictures) << "too large to be kept raw, and written all the same";
+}
+
+TEST_F(LiveGraphs, ACameraThatNeverAnswersHoldsUpNobody) {
+  ASSERT_TRUE(graph.GraphXmlLoad(MVTwoCamSS));
+  ASSERT_TRUE(graph.GraphSetDevice("VideoSource", "hangs"));
+  const auto begun = Clock::now();
+  ASSERT_TRUE(graph.GraphRun());
+  ASSERT_TRUE(graph.GraphStop());
+  ASSERT_TRUE(graph.GraphSetDevice("VideoSource 2", "Test Camera"));
+  ASSERT_TRUE(graph.GraphRun());
+  EXPECT_LT(Clock::now() - begun, 1s);
+  EXPECT_TRUE(Comes([&] { return told.pictures["Video Renderer 2"] > 0; })) << "the other one is seen";
+  cameras->freed = true;
+  EXPECT_TRUE(graph.GraphStop());
+}
+
+TEST_F(LiveGraphs, WhatACameraGaveBeforeItEndedIsKept) {
+  cameras->played["pulled"] =
+      "videotestsrc is-live=true num-buffers=25 ! capsfilter caps=video/x-raw,width=320,height=240,framerate=50/1";
+  cameras->played["mute"] = "appsrc is-live=true";
+  ASSERT_TRUE(graph.GraphXmlLoad(MVTwoCamSS));
+  ASSERT_TRUE(graph.GraphSetDevice("VideoSource", "pulled"));
+  ASSERT_TRUE(graph.GraphSetDevice("VideoSource 2", "mute"));
+  ASSERT_TRUE(graph.GraphSetFileSink("FileWriter", folder.Path("x.avi")));
+  Gate().Arm(true);
+  ASSERT_TRUE(graph.GraphRun());
+  ASSERT_TRUE(Comes([&] { return told.failed.contains("VideoSource") && !Tally().open; }));
+  EXPECT_EQ(told.failed["VideoSource"], "The camera has ended.");
+  EXPECT_FALSE(IsUnfinishedRecording(folder.Path("x.avi")));
+  EXPECT_EQ(ReadVideoInfo(folder.Path("x.avi"))->frameCount, 25);
+  EXPECT_TRUE(Comes([&] { return told.failed.contains("VideoSource 2"); }));
+  EXPECT_EQ(told.failed["VideoSource 2"], "The camera gives no picture.");
+}
+
+TEST_F(LiveGraphs, NothingIsToldOfAGraphThatHasGone) {
+  cameras->played["broken"] = "videotestsrc is-live=true ! identity error-after=2";
+  ASSERT_TRUE(graph.GraphXmlLoad(MVOneCamSSAN));
+  ASSERT_TRUE(graph.GraphSetDevice("VideoSource", "broken"));
+  ASSERT_TRUE(graph.GraphSetFileSink("FileWriter", "/no/such/folder/x.avi"));
+  Gate().Arm(true);
+  ASSERT_TRUE(graph.GraphRun());
+  ASSERT_TRUE(Comes([&] { return told.failed.contains("VideoSource") && told.sinks.contains("FileWriter"); }));
+  ASSERT_TRUE(graph.GraphRun());
+  std::this_thread::sleep_for(300ms);
+  told = {};
+  graph.GraphClear();
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(told.failed.empty() && told.pictures.empty());
+  EXPECT_EQ(graph.GraphFilterByLabel<IWriterFilter>("FileWriter"), nullptr);
+  EXPECT_FALSE(graph.GraphSetDevice("VideoSource", "broken"));
+  EXPECT_FALSE(graph.GraphRun());
 }
 
 }  // namespace
