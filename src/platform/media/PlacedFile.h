@@ -1,7 +1,7 @@
 #pragma once
 
 #include <sys/uio.h>
-#include <time.h>
+#include <ctime>
 
 #include <cstddef>
 #include <cstdint>

@@ -28,11 +28,11 @@ using Clock = std::chrono::steady_clock;
 class PlayedCameras final : public DeviceSources {
  public:
   PlayedCameras() {
-    Device test;
-    test.name = "Test Camera";
-    test.origin = Device::Origin::Test;
-    test.modes = TestCameraModes();
-    Replace({{test, nullptr}});
+    FoundDevice test;
+    test.device.name = "Test Camera";
+    test.device.origin = Device::Origin::Test;
+    test.device.modes = TestCameraModes();
+    Replace({test});
   }
 
   GstElement* MakeCameraSource(const std::string& name, const PictureMode* wanted) const override {
