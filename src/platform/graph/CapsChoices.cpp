@@ -38,9 +38,10 @@ struct Coming {
 
 std::string ToJpeg(const Coming& coming) {
   const std::string decoded = coming.Raw() ? "" : "decodebin ! ";
-  // Colours of half the height would mix those of the two fields.
-  if (coming.fields) return decoded + "videoconvert ! video/x-raw,format=Y42B ! " + kToJpeg;
-  return decoded + "videoconvert ! " + kToJpeg;
+  // Colours of half the height would mix those of the two fields. The samples of a JPEG take the whole range, which the
+  // encoder does not see to.
+  return decoded + fmt::format("videoconvert ! video/x-raw,format={},colorimetry=1:4:0:0 ! {}",
+                               coming.fields ? "Y42B" : "I420", kToJpeg);
 }
 
 class EntryChooser final : public ICapsChooser {

@@ -76,7 +76,7 @@ GstElement* MakeTestCamera(const PictureMode& mode) {
       "videotestsrc name=source is-live=true pattern=black ! "
       "capsfilter caps=video/x-raw,format={},width={},height={},framerate={}/1,pixel-aspect-ratio=1/1{}",
       compressed ? "I420" : "YUY2", mode.width, mode.height, static_cast<int>(mode.rate),
-      compressed ? " ! jpegenc quality=90" : "");
+      compressed ? " ! videoconvert ! video/x-raw,format=I420,colorimetry=1:4:0:0 ! jpegenc quality=90" : "");
   GError* error = nullptr;
   GstElement* camera = gst_parse_bin_from_description(description.c_str(), true, &error);
   g_clear_error(&error);
