@@ -6,7 +6,7 @@
 #   tools/trial-devices.sh            then, in another terminal, what it prints
 #   tools/trial-devices.sh 8091       with another port for the network camera
 #
-# Needs pipewire, wireplumber, gstreamer1.0-pipewire, gstreamer1.0-tools, pulseaudio, dbus and ffmpeg.
+# Needs pipewire, pipewire-bin, wireplumber, gstreamer1.0-pipewire, pulseaudio, dbus and ffmpeg.
 set -euo pipefail
 
 port=${1:-8090}
@@ -50,15 +50,17 @@ Pull the camera out          kill \$(cat $XDG_RUNTIME_DIR/camera)
 Take all away                Ctrl+C
 TEXT
 
+mkfifo "$XDG_RUNTIME_DIR/wishes"
+exec 3<>"$XDG_RUNTIME_DIR/wishes"
 pause=0
 while true; do
   if gone "$camera" && [ $((pause--)) -le 0 ]; then
-    # Without a format the source would choose one that PipeWire has no name for.
-    begin gst-launch-1.0 -q videotestsrc is-live=true pattern=ball ! \
-      video/x-raw,format=YUY2,width=640,height=480,framerate=30/1 ! \
-      pipewiresink mode=provide stream-properties="props,media.class=Video/Source,node.description=TrialCamera"
+    # It is there as long as who made it, who is there as long as the pipe.
+    pw-cli <"$XDG_RUNTIME_DIR/wishes" >>"$XDG_RUNTIME_DIR/log" 2>&1 &
     camera=$!
     echo "$camera" >"$XDG_RUNTIME_DIR/camera"
+    echo "create-node spa-node-factory { factory.name=videotestsrc library.name=videotestsrc/libspa-videotestsrc" \
+      "node.name=trial node.description=TrialCamera media.class=Video/Source }" >&3
     pause=2
   fi
   # It ends with each who looks.

@@ -29,6 +29,10 @@ GstElement* MakeLocal(const FoundDevice& camera, const PictureMode* wanted) {
   if (source && g_object_class_find_property(G_OBJECT_GET_CLASS(source), "do-timestamp")) {
     g_object_set(source, "do-timestamp", TRUE, nullptr);
   }
+  // PipeWire takes its memory back when a camera goes, whoever may still be looking at a picture in it.
+  if (source && g_object_class_find_property(G_OBJECT_GET_CLASS(source), "always-copy")) {
+    g_object_set(source, "always-copy", TRUE, nullptr);
+  }
   const auto mode = NearestMode(camera.device.modes, wanted);
   const GstCapsRef caps(gst_device_get_caps(camera.local.get()));
   if (!mode || !caps) return source;

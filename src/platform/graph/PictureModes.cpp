@@ -17,6 +17,7 @@ constexpr int kRawWidth = 640;  // up to which raw pictures are kept as they are
 constexpr int kRawHeight = 480;
 constexpr int kUnaskedWidth = 1280;
 constexpr int kUnaskedHeight = 720;
+constexpr double kUnaskedRate = 30;
 constexpr double kFastest = 1000;  // pictures a second; who promises more promises anything
 constexpr std::size_t kMostSizes = 64;
 
@@ -203,8 +204,9 @@ GstCapsRef CapsFor(const GstCaps& caps, const PictureMode& mode, double rate) {
     GstStructure* both = gst_structure_intersect(offered, wished);
     gst_structure_free(wished);
     if (!both) continue;
-    const double aim = rate > 0 ? rate : HighestRate(gst_structure_get_value(both, "framerate"));
-    if (aim > 0 && gst_structure_has_field(both, "framerate")) {
+    const double highest = HighestRate(gst_structure_get_value(both, "framerate"));
+    const double aim = rate > 0 ? rate : highest > 0 ? highest : kUnaskedRate;
+    if (gst_structure_has_field(both, "framerate")) {
       int numerator = 0;
       int denominator = 1;
       gst_util_double_to_fraction(aim, &numerator, &denominator);
