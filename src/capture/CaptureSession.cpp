@@ -311,11 +311,14 @@ void CaptureSession::Save() {
   request.tallies = tallies_;
   request.firstFrame = TrimStartFrame_;
   request.lastFrame = TrimEndFrame_;
-  request.recompress = !parts_.setup.DVMode() && parts_.settings.Recompress && parts_.page.ReviewPlayer(0).IsRaw();
+  const bool recompress = !parts_.setup.DVMode() && parts_.settings.Recompress;
+  for (int camera = 0; camera < 2; ++camera)
+    request.recompress[static_cast<std::size_t>(camera)] = recompress && parts_.page.ReviewPlayer(camera).IsRaw();
   request.flags = CaptureFlags(parts_.settings, parts_.page.ReviewPlayer(0).IsWide());
   // The choices about fields are made for camcorders; what another camera gives as whole pictures has none.
   if (!parts_.setup.DVMode() && !parts_.page.ReviewPlayer(0).HasFields())
     request.flags.SplitFields = request.flags.ReverseFields = false;
+  request.dv = parts_.setup.DVMode();
   request.trimProgram = parts_.trimProgram;
   saving_ = true;
   jobPart_ = 0;

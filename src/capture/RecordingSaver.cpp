@@ -51,7 +51,8 @@ RecordingSaver::~RecordingSaver() {
 
 bool RecordingSaver::Step() {
   if (!saved_.Done() || done_) return false;
-  if (Cuts() && cut_ < Cameras()) return CutOn();
+  while (!trim_ && cut_ < Cameras() && !Cuts(cut_)) ++cut_;
+  if (cut_ < Cameras()) return CutOn();
   return move_ ? MoveOn() : BeginMove();
 }
 
@@ -63,7 +64,7 @@ bool RecordingSaver::CutOn() {
     TrimRequest cut{recorded, PartNameBeside(recorded), request_.firstFrame, request_.lastFrame, TrimRate(info.get())};
     // The second camera may have a picture less.
     cut.lastFrame = std::min(cut.lastFrame, info->frameCount - 1);
-    if (request_.recompress) cut.mode = TrimRequest::Mode::Recompress;
+    if (request_.recompress[cut_]) cut.mode = TrimRequest::Mode::Recompress;
     sources_[cut_] = cut.destination;
     trim_.emplace(request_.trimProgram, std::move(cut));
   }
@@ -130,7 +131,7 @@ void RecordingSaver::Cancel() {
 }
 
 JobProgress RecordingSaver::Progress() const {
-  const std::size_t cuts = Cuts() ? Cameras() : 0;
+  const std::size_t cuts = Cameras();
   double part = static_cast<double>(cut_);
   if (trim_) part += trim_->Progress().part;
   if (move_ && move_->Progress().bytesTotal > 0)

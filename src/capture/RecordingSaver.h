@@ -20,7 +20,7 @@ struct SaveRequest {
   std::array<RecordingTally, 2> tallies;
   int firstFrame = 0;
   int lastFrame = 0;        ///< 0: to the end
-  bool recompress = false;  ///< codes the pictures anew
+  std::array<bool, 2> recompress{};  ///< codes the pictures anew
   bool dv = false;          ///< from tape: the pictures tell their fields themselves, and get no sidecar
   SlotData flags;           ///< of the sidecars, see CaptureFlags
   std::string trimProgram;  ///< path of `avitrim`
@@ -51,7 +51,9 @@ class RecordingSaver final : public IJob {
 
  private:
   std::size_t Cameras() const { return request_.recorded[1].empty() ? 1 : 2; }
-  bool Cuts() const { return request_.recompress || request_.firstFrame > 0 || request_.lastFrame > 0; }
+  bool Cuts(std::size_t camera) const {
+    return request_.recompress[camera] || request_.firstFrame > 0 || request_.lastFrame > 0;
+  }
   bool CutOn();
   bool BeginMove();
   void TakeNextNumber();

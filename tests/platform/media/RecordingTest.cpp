@@ -3,11 +3,12 @@
 #include <cmath>
 #include <csignal>
 #include <random>
+#include <functional>
 #include <span>
 
 #include "platform/media/RecordingFile.h"
 #include "platform/media/VideoFile.h"
-#include "platform/paint/ImageFiles.h"
+#include "support/Recordings.h"
 #include "support/TempFolder.h"
 #include "support/TestVideos.h"
 
@@ -17,45 +18,11 @@ namespace {
 namespace fs = std::filesystem;
 using Codec = RecordingFormat::Codec;
 
-RecordingFormat FormatOf(Codec codec, double promised) { return {codec, 90, 60, promised}; }
-
-/// A picture as a camera gives it, with its number in it.
-std::string CameraPicture(Codec codec, int number) {
-  std::vector<std::uint8_t> pixels;
-  PaintTestPicture(RawVideo(1), number, pixels);
-  const PixelRows rows{pixels.data(), 90, 60, 360, 32, false};
-  if (codec == Codec::Mjpeg) {
-    const TempFolder folder;
-    EXPECT_TRUE(SaveJpeg(rows, folder.Path("x.jpg"), 90));
-    return folder.Get("x.jpg");
-  }
-  std::string bytes;
-  for (int y = 0; y < 60; ++y) {
-    for (int x = 0; x < 90; ++x) bytes.append(reinterpret_cast<const char*>(&pixels[360 * y + 4 * x]), 3);
-    bytes.append(2, '\0');
-  }
-  return bytes;
-}
-
-Outcome Record(RecordingFile& file, Codec codec, int number, double seconds) {
-  const std::string bytes = CameraPicture(codec, number);
-  return file.Write(std::as_bytes(std::span(bytes)), 5'000'000'000 + std::llround(seconds * 1e9));
-}
-
-/// The numbers that the frames of a video carry, looked at backward.
-std::vector<int> NumbersOf(const std::string& path) {
-  const auto video = OpenedVideo(path);
-  std::vector<int> numbers(static_cast<std::size_t>(video->Info().frameCount));
-  for (int n = video->Info().frameCount; n-- > 0;)
-    numbers[static_cast<std::size_t>(n)] = ReadNumber(video->Frame(n, 32)).value_or(-1);
-  return numbers;
-}
-
 TEST(RecordingFile, EveryPictureStandsInItsPlace) {
   for (const Codec codec : {Codec::Mjpeg, Codec::RawBgr24}) {
     const TempFolder folder;
     const std::string path = folder.Path("x.avi");
-    auto file = RecordingFile::Create(path, FormatOf(codec, 30));
+    auto file = RecordingFile::Create(path, CameraFormat(codec, 30));
     ASSERT_TRUE(file) << file.Why();
     std::vector<int> expected;
     for (int n = 0; n < 90; ++n) {
@@ -77,7 +44,7 @@ TEST(RecordingFile, EveryPictureStandsInItsPlace) {
     EXPECT_EQ(NumbersOf(path), expected);
     const auto info = ReadVideoInfo(path);
     EXPECT_NEAR(static_cast<double>(info->rate) / static_cast<double>(info->scale), 29.5, 29.5e-5);
-    EXPECT_FALSE(RecordingFile::Create(path, FormatOf(codec, 30))) << "never replaces one that is there";
+    EXPECT_FALSE(RecordingFile::Create(path, CameraFormat(codec, 30))) << "never replaces one that is there";
   }
 }
 
@@ -114,7 +81,7 @@ TEST(RecordingFile, RateAndGapsAreThoseOfTheStamps) {
   constexpr int kPictures = 1150;
   for (const Camera& camera : cameras) {
     const TempFolder folder;
-    auto file = RecordingFile::Create(folder.Path("x.avi"), FormatOf(Codec::Mjpeg, camera.promised));
+    auto file = RecordingFile::Create(folder.Path("x.avi"), CameraFormat(Codec::Mjpeg, camera.promised));
     ASSERT_TRUE(file);
     std::mt19937 dice(1);
     std::uniform_real_distribution<> tremble(-camera.tremble, camera.tremble);
@@ -139,7 +106,7 @@ std::string BreakOff(const TempFolder& folder, const std::string& path) {
 TEST(RecordingFile, WhatIsBrokenOffIsMadeWhole) {
   const TempFolder folder;
   const std::string path = folder.Path("x.avi");
-  auto file = RecordingFile::Create(path, FormatOf(Codec::Mjpeg, 30));
+  auto file = RecordingFile::Create(path, CameraFormat(Codec::Mjpeg, 30));
   ASSERT_TRUE(file);
   EXPECT_FALSE(IsUnfinishedRecording(path)) << "somebody is at it";
   EXPECT_EQ(MendRecording(path).Kind(), Fault::Refused);
@@ -177,7 +144,7 @@ TEST(RecordingFile, ADamagedByteCostsOnePicture) {
   const std::string path = folder.Path("x.avi");
   std::size_t at = 0;
   {
-    auto file = RecordingFile::Create(path, FormatOf(Codec::Mjpeg, 30));
+    auto file = RecordingFile::Create(path, CameraFormat(Codec::Mjpeg, 30));
     ASSERT_TRUE(file);
     for (int n = 0; n < 40; ++n) {
       if (n == 20) at = fs::file_size(path);
@@ -218,7 +185,7 @@ class FullDisk {
 TEST(RecordingFile, AFullDiskCostsNoMoreThanTheLastPictures) {
   const TempFolder folder;
   const std::string path = folder.Path("x.avi");
-  auto file = RecordingFile::Create(path, FormatOf(Codec::Mjpeg, 30));
+  auto file = RecordingFile::Create(path, CameraFormat(Codec::Mjpeg, 30));
   ASSERT_TRUE(file);
   std::vector<int> taken;
   std::string broken;
