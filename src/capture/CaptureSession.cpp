@@ -209,13 +209,34 @@ void CaptureSession::StopCapture() {
   UnfinishedRecording recording;
   recording.paths = {parts_.files.Path(0), two_ ? parts_.files.Path(1) : std::string()};
   recording.tallies = tallies_;
+  LeaveOutEmpty(recording);
   Review(std::move(recording));
+}
+
+/// Of two cameras, one may have given no picture: the other one's recording is looked at alone.
+void CaptureSession::LeaveOutEmpty(UnfinishedRecording& recording) {
+  secondAlone_ = !two_ && parts_.setup.Use() == CameraUse::Second;
+  if (!two_) return;
+  const std::array there{FileExists(recording.paths[0]), FileExists(recording.paths[1])};
+  if (there[0] && there[1]) return;
+  secondAlone_ = there[1];
+  if (secondAlone_) {
+    std::swap(recording.paths[0], recording.paths[1]);
+    std::swap(recording.tallies[0], recording.tallies[1]);
+  }
+  const std::string& why = recording.tallies[1].fault;
+  recording.tallies[0].fault =
+      fmt::format("Camera {} recorded nothing.{}{}", secondAlone_ ? 1 : 2, why.empty() ? "" : " ", why);
+  recording.paths[1].clear();
+  two_ = false;
+  tallies_ = recording.tallies;
 }
 
 void CaptureSession::ReviewUnfinished(const UnfinishedRecording& recording) {
   if (phase_ != CapturePhase::LivePreview || saving_) return;
   StopCaptureGraph();
   two_ = !recording.paths[1].empty();
+  secondAlone_ = false;
   tallies_ = recording.tallies;
   Review(recording);
 }
@@ -306,8 +327,7 @@ void CaptureSession::Save() {
   SaveRequest request;
   request.recorded = reviewed_.paths;
   request.videos = {parts_.naming.CapturedVideoPath(), parts_.naming.CapturedVideoPath2()};
-  // The second camera alone is recorded by the first writer.
-  if (!two_ && parts_.setup.Use() == CameraUse::Second) request.videos[0] = request.videos[1];
+  if (secondAlone_) request.videos[0] = request.videos[1];
   request.tallies = tallies_;
   request.firstFrame = TrimStartFrame_;
   request.lastFrame = TrimEndFrame_;

@@ -95,6 +95,7 @@ class CaptureSession : private IGraphEvents {
   void StartCapture();
   void StopCapture();
   void BackToLive();
+  void LeaveOutEmpty(UnfinishedRecording& recording);
   void Review(UnfinishedRecording recording);
   bool RefuseUnlessNamed();
   void Saved(const SavedRecording& saved);
@@ -117,6 +118,7 @@ class CaptureSession : private IGraphEvents {
   bool open_ = false;
   bool built_ = false;
   bool two_ = false;
+  bool secondAlone_ = false;  ///< what is under review was taken by camera 2 alone
   bool saving_ = false;
   bool sendNext_ = false;
   double jobPart_ = 0;

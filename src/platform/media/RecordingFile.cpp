@@ -40,6 +40,7 @@ struct RecordingFile::Engine {
   Outcome Keep(Outcome outcome);
   Outcome Take(std::span<const std::byte> picture, std::int64_t ns);
   void Count();
+  bool RunsWild(std::int64_t ns) const;
   double RateOfFile() const;
 
   std::optional<RecordingParts> parts;  ///< until it is closed
@@ -50,6 +51,14 @@ struct RecordingFile::Engine {
   std::size_t pictureBytes;
   std::int64_t notedNs = 0;
 };
+
+/// Far more pictures than the camera can take: a source whose camera has just been pulled out may give its last one
+/// again and again.
+bool RecordingFile::Engine::RunsWild(std::int64_t ns) const {
+  constexpr double kAtMost = 2.5;  // times what it promises
+  const double seconds = 1 + static_cast<double>(ns - tally.firstNs) * 1e-9;
+  return tally.pictures > 0 && static_cast<double>(tally.pictures) > kAtMost * promisedRate * seconds;
+}
 
 /// Remembers the first failure.
 Outcome RecordingFile::Engine::Keep(Outcome outcome) {
@@ -108,6 +117,7 @@ Outcome RecordingFile::Write(std::span<const std::byte> picture, std::int64_t ns
   if (!tally.open) return Outcome::Failed("the recording is closed");
   // What holds nothing leaves its place empty, as a picture that never came.
   if (picture.empty() || (tally.pictures > 0 && ns <= tally.lastNs)) return Outcome();
+  if (engine_->RunsWild(ns)) return Outcome();
   if (engine_->pictureBytes > 0 && picture.size() != engine_->pictureBytes)
     return engine_->Keep(Outcome::Failed("a picture of another size has come"));
   return engine_->Keep(engine_->Take(picture, ns));
