@@ -22,7 +22,7 @@ namespace kinalyx::templates {
 struct Graph {
   std::array<std::string_view, 5> chains;  ///< read as one text
   std::string_view written = R"(C:\windows\video.avi)";
-  const FilterKind* reader = nullptr;  ///< of a source file
+  const FilterKind* reader = &kFileReader;  ///< of a source file
   std::string_view read = {};
 };
 
@@ -94,7 +94,7 @@ class ChainReader {
   }
 
   constexpr const FilterKind* KindOf(std::string_view label) const {
-    if (graph_.reader && label == graph_.reader->label) return graph_.reader;
+    if (label == graph_.reader->label) return graph_.reader;
     for (const FilterKind& kind : kFilterKinds)
       if (label.starts_with(kind.label)) return &kind;
     throw std::invalid_argument("no filter is called so");

@@ -62,20 +62,19 @@ class TextMaker {
   constexpr void AddFilter(std::size_t index) {
     const ChainReader::Filter& filter = chains_.Filters()[index];
     const FilterKind& kind = *filter.kind;
-    const bool reads = &kind == graph_.reader;
     text_.Add("<FILTER");
     AddId("id", index);
     text_.AddAttribute("label", filter.label);
-    if (reads) text_.AddAttribute("type", "SOURCE");
+    if (kind.reads) text_.AddAttribute("type", "SOURCE");
     if (kind.writes) text_.AddAttribute("type", "SINK");
     text_.Add("><CLASSID");
     text_.AddAttribute("clsid", kind.classId);
     text_.Add("/><PARAM data=\"");
     AddState(filter);
     text_.Add("\"/>");
-    if (reads || kind.writes) {
+    if (kind.reads || kind.writes) {
       text_.Add("<FILE");
-      text_.AddAttribute("path", reads ? graph_.read : graph_.written);
+      text_.AddAttribute("path", kind.reads ? graph_.read : graph_.written);
       text_.Add("/>");
     }
     if (kind.renders) text_.Add(R"(<VMR streams="1"/>)");
@@ -105,8 +104,8 @@ class TextMaker {
   }
 
   constexpr void AddLink(const ChainReader::Link& link) {
-    const Medium* taken = chains_.Filters()[link.to].kind->takes;
-    const Medium& medium = taken ? *taken : *chains_.Filters()[link.from].kind->gives;
+    const Medium& taken = chains_.Filters()[link.to].kind->takes;
+    const Medium& medium = taken.size > 0 ? taken : chains_.Filters()[link.from].kind->gives;
     text_.Add("<CONNECTION>");
     AddPin("PIN1", link.from, link.out);
     AddPin("PIN2", link.to, link.in);
