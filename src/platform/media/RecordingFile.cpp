@@ -33,6 +33,7 @@ struct RecordingFile::Engine {
   Engine(PlacedFile file, const RecordingFormat& format)
       : parts(std::in_place, std::move(file), RecordingHead(format)),
         clock(format.promisedRate),
+        promises(format.promisedRate > 0),
         promisedRate(parts->Head().Rate()),
         rowBytes(RowsToTurn(format)),
         pictureBytes(PictureBytes(format)) {}
@@ -46,6 +47,7 @@ struct RecordingFile::Engine {
   std::optional<RecordingParts> parts;  ///< until it is closed
   RecordingClock clock;
   RecordingTally tally;
+  bool promises;  ///< the camera tells its rate
   double promisedRate;
   std::size_t rowBytes;
   std::size_t pictureBytes;
@@ -57,7 +59,7 @@ struct RecordingFile::Engine {
 bool RecordingFile::Engine::RunsWild(std::int64_t ns) const {
   constexpr double kAtMost = 2.5;  // times what it promises
   const double seconds = 1 + static_cast<double>(ns - tally.firstNs) * 1e-9;
-  return tally.pictures > 0 && static_cast<double>(tally.pictures) > kAtMost * promisedRate * seconds;
+  return promises && tally.pictures > 0 && static_cast<double>(tally.pictures) > kAtMost * promisedRate * seconds;
 }
 
 /// Remembers the first failure.
