@@ -28,7 +28,7 @@ std::optional<FoundVideo> LookAt(const std::string& path) {
   const std::optional<FileStamp> stamp = StampOf(path);
   const Result<RecordingTally> mended = MendRecording(path);
   // One that was killed before its first picture holds nothing that anybody could miss.
-  if (mended.Kind() == Fault::NoFrames) KillFile(path);
+  if (mended.Kind() == Fault::NoFrames || (stamp && stamp->bytes == 0)) KillFile(path);
   const std::unique_ptr<VideoInfo> info = ReadVideoInfo(path);
   if (!stamp || mended.Kind() == Fault::Refused || !info) return std::nullopt;
   FoundVideo video;

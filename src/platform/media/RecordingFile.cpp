@@ -4,6 +4,7 @@
 #include <optional>
 #include <utility>
 
+#include "platform/files/Folders.h"
 #include "platform/media/RecordingClock.h"
 #include "platform/media/RecordingParts.h"
 
@@ -103,7 +104,10 @@ Result<std::unique_ptr<RecordingFile>> RecordingFile::Create(const std::string& 
   Result<PlacedFile> file = PlacedFile::Open(path, PlacedFile::Which::New);
   if (!file) return file.Failure();
   auto engine = std::make_unique<Engine>(std::move(*file), format);
-  if (const Outcome begun = engine->parts->Begin(); !begun) return begun;
+  if (const Outcome begun = engine->parts->Begin(); !begun) {
+    (void)KillFile(path);
+    return begun;
+  }
   engine->tally.open = true;
   engine->Count();
   return std::unique_ptr<RecordingFile>(new RecordingFile(std::move(engine)));
