@@ -12,7 +12,7 @@ kinalyx_packages=(
   gstreamer1.0-x gstreamer1.0-pulseaudio gstreamer1.0-pipewire
   libyuv-dev libfmt-dev nlohmann-json3-dev libxxhash-dev
 )
-kinalyx_test_packages=(libgtest-dev libgmock-dev)
+kinalyx_test_packages=(libgtest-dev libgmock-dev ffmpeg)
 kinalyx_lint_packages=(clang-format clang-tidy)
 
 # A name that ends in "?" is welcome but not needed: it is taken only where Debian has it.
