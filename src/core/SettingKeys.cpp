@@ -68,6 +68,8 @@ std::vector<Settings::Key> Settings::ConfigKeys() {
   add("RealFR", "30", &RealFR);
   add("HDRealFR", "30", &HDRealFR);
   add("AutoRealFR", "30", &AutoRealFR);
+  add("KeepPictureSize", "1", &KeepPictureSize);
+  add("ImportEdge", "0", &ImportEdge);
 
   section = "Analysis";
   add("GridSize", "50", &GridSize);

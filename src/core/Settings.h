@@ -101,6 +101,8 @@ class Settings {
   std::int32_t RealFR = 0;  ///< pictures per second
   std::int32_t HDRealFR = 0;
   std::int32_t AutoRealFR = 0;
+  std::int32_t KeepPictureSize = 0;  ///< 1: what is imported stays as large as it is, else the templates say
+  std::int32_t ImportEdge = 0;       ///< 1: what is imported as tape is sharpened a little
 
   // --- [Analysis]
   std::int16_t GridSize = 0;
