@@ -93,6 +93,12 @@ void ImportSession::Refresh() {
   Changed();
 }
 
+void ImportSession::LookAgain() {
+  if (kind_ != ImportKind::Camera) return;
+  TakeFolder(false, true);
+  Changed();
+}
+
 /// @param atOnce  nobody has asked for it just now: a drive that does not answer is not waited for
 void ImportSession::TakeFolder(bool writers, bool atOnce) {
   const std::string folder = Folder();

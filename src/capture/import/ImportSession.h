@@ -72,6 +72,8 @@ class ImportSession {
   void ChooseKind(ImportKind kind);
   /// Reads the folder of this kind anew; nothing for files picked by hand.
   void Refresh();
+  /// The same for a camera that may have been plugged in meanwhile; a drive that does not answer is not waited for.
+  void LookAgain();
   /// `List1_Click`; an unknown path selects nothing. Forgets the trim.
   void Select(const std::string& path);
   /// "Browse": picks files and adds them; the first new one is selected.

@@ -123,8 +123,10 @@ Outcome Conversion::Engine::Open() {
   info = demuxer->Describe();
   const PictureIndex& index = demuxer->Index();
   const FrameTimes times = demuxer->Times();
-  first = times.FrameAt(request.startMs, index);
-  const int last = request.endMs > 0 ? times.FrameAt(request.endMs, index) : info.frameCount - 1;
+  // A time that was counted from the mean rate may fall a little short of the picture that is meant.
+  const double slackMs = info.durationMs / info.frameCount / 4;
+  first = times.FrameAt(request.startMs + slackMs, index);
+  const int last = request.endMs > 0 ? times.FrameAt(request.endMs + slackMs, index) : info.frameCount - 1;
   if (last < first || (request.endMs > 0 && request.endMs < request.startMs))
     return Outcome::Failed("the end lies before the start");
   count = last - first + 1;

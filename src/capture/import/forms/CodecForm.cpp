@@ -1,0 +1,72 @@
+#include "capture/import/forms/CodecForm.h"
+
+#include <QBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QTreeWidget>
+
+#include "platform/media/MediaFormats.h"
+#include "platform/widgets/Buttons.h"
+#include "platform/widgets/Panel.h"
+#include "platform/widgets/Scale.h"
+#include "platform/widgets/Text.h"
+#include "platform/widgets/Theme.h"
+
+namespace kinalyx {
+
+namespace {
+
+enum Column { kName, kWhere, kReads, kWrites };
+constexpr int kWidths[] = {150, 280, 80, 80};  // as designed
+
+}  // namespace
+
+CodecForm::CodecForm(QWidget* over) : QDialog(over) {
+  setObjectName("CodecForm");
+  setWindowTitle("Kinds of Video");
+  setWindowModality(Qt::WindowModal);
+  auto* rows = new QVBoxLayout(this);
+  rows->setContentsMargins(24, 20, 24, 20);
+  rows->setSpacing(kGap);
+  rows->setSizeConstraint(QLayout::SetFixedSize);
+  rows->addWidget(MakeLabel("CodecTitle", "Kinds of Video", "title"));
+
+  QStringList missing;
+  auto* list = new QTreeWidget;
+  list->setObjectName("CodecList");
+  list->setAccessibleName("Kinds of video");
+  list->setRootIsDecorated(false);
+  list->setUniformRowHeights(true);
+  list->setSelectionMode(QAbstractItemView::NoSelection);
+  list->setHeaderLabels({"Pictures", "Stored by", "Reads", "Writes"});
+  list->header()->setSectionsMovable(false);
+  for (const MediaFormat& format : KnownFormats()) {
+    const auto mark = [](bool able) { return able ? QString("Yes") : QString("\u2013"); };
+    list->addTopLevelItem(
+        new QTreeWidgetItem({Q(format.name), Q(format.where), mark(format.reads), mark(format.writes)}));
+    if (!format.reads) missing << Q(format.name);
+  }
+  FixSize(list, {610, 360});
+  rows->addWidget(list);
+
+  auto* note = MakeLabel("CodecNote",
+                         missing.isEmpty()
+                             ? QString("All of them can be opened here. What is imported becomes Motion JPEG or DV.")
+                             : "Missing: " + missing.join(", ") +
+                                   ". Install the package libavcodec-extra, and start "
+                                   "the program again.",
+                         "muted");
+  note->setWordWrap(true);
+  rows->addWidget(note);
+  auto* close = new Button("CodecClose", "Close");
+  close->setDefault(true);
+  auto* actions = new QHBoxLayout;
+  actions->addStretch(1);
+  actions->addWidget(close);
+  rows->addLayout(actions);
+  connect(close, &QPushButton::clicked, this, &QDialog::accept);
+  ScaleForm(*this, *over->window());
+  for (int column = kName; column < kWrites; ++column) list->setColumnWidth(column, Px(kWidths[column]));
+}
+
+}  // namespace kinalyx
