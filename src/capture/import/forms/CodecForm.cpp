@@ -39,11 +39,13 @@ CodecForm::CodecForm(QWidget* over) : QDialog(over) {
   list->setUniformRowHeights(true);
   list->setSelectionMode(QAbstractItemView::NoSelection);
   list->setHeaderLabels({"Pictures", "Stored by", "Reads", "Writes"});
+  list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   list->header()->setSectionsMovable(false);
   for (const MediaFormat& format : KnownFormats()) {
     const auto mark = [](bool able) { return able ? QString("Yes") : QString("\u2013"); };
-    list->addTopLevelItem(
-        new QTreeWidgetItem({Q(format.name), Q(format.where), mark(format.reads), mark(format.writes)}));
+    auto* item = new QTreeWidgetItem({Q(format.name), Q(format.where), mark(format.reads), mark(format.writes)});
+    item->setSizeHint(kName, QSize(0, Px(kRowHeight)));
+    list->addTopLevelItem(item);
     if (!format.reads) missing << Q(format.name);
   }
   FixSize(list, {610, 360});

@@ -32,6 +32,7 @@ namespace {
 constexpr int kShowMs = 40;
 constexpr int kLookAgainMs = 3000;
 constexpr int kParts = 1000;
+constexpr const char* kChooseOne = "Choose a video to look at it, and to mark the part that you want.";
 
 QVBoxLayout* BareRows(QWidget* owner, int spacing) {
   auto* rows = new QVBoxLayout(owner);
@@ -102,6 +103,7 @@ QWidget* ImportPanel::MakeFiles() {
   QVBoxLayout* rows = BareRows(shown, 0);
   preview_ = new PreviewPlayer(services_);
   preview_->SetBarShown(false);
+  preview_->ShowWords(kChooseOne);
   rows->addWidget(preview_, 1);
   rows->addWidget(MakeTrim());
   middle->addWidget(shown, 62);
@@ -407,7 +409,7 @@ void ImportPanel::ShowPreview() {
   HScroll_->SetFrames(0);
   if (path.empty()) {
     preview_->Unload();
-    preview_->ShowWords("Choose a video to look at it, and to mark the part that you want.");
+    preview_->ShowWords(kChooseOne);
   } else if (!services_.host.Drives().Answers(FolderOf(path), path)) {
     preview_->Unload();
     preview_->ShowWords("The drive with this video is not answering.");
@@ -426,7 +428,7 @@ void ImportPanel::ShowTrim() {
     part->setEnabled(open);
   const auto start = session_.TrimStart();
   const auto end = session_.TrimEnd();
-  clear_->setEnabled(start || end);
+  clear_->setVisible(start || end);
   // Taken back by the session, the marks go too.
   if (open && !start && !end && !HScroll_->KeepsAll()) {
     const QSignalBlocker quiet(HScroll_);
