@@ -254,7 +254,7 @@ void CaptureSession::Review(UnfinishedRecording recording) {
     return;
   }
   const std::string& fault = tallies_[0].fault.empty() ? tallies_[1].fault : tallies_[0].fault;
-  Say(fault.empty() ? std::string(kTrimFront) : fault + " The recording up to there is kept.");
+  Say(fault.empty() ? std::string(kTrimFront) : fault + " What was recorded is kept.");
 }
 
 void CaptureSession::BackToLive() {

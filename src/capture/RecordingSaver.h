@@ -19,11 +19,11 @@ struct SaveRequest {
   std::array<std::string, 2> videos;    ///< the full paths under which they are kept
   std::array<RecordingTally, 2> tallies;
   int firstFrame = 0;
-  int lastFrame = 0;        ///< 0: to the end
+  int lastFrame = 0;                 ///< 0: to the end
   std::array<bool, 2> recompress{};  ///< codes the pictures anew
-  bool dv = false;          ///< from tape: the pictures tell their fields themselves, and get no sidecar
-  SlotData flags;           ///< of the sidecars, see CaptureFlags
-  std::string trimProgram;  ///< path of `avitrim`
+  bool dv = false;                   ///< from tape: the pictures tell their fields themselves, and get no sidecar
+  SlotData flags;                    ///< of the sidecars, see CaptureFlags
+  std::string trimProgram;           ///< path of `avitrim`
 };
 
 /// What has come of it: all videos are kept, or none is and the working files are as they were.

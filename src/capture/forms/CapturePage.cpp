@@ -17,6 +17,7 @@
 #include "capture/forms/FindCamForm.h"
 #include "capture/forms/LiveView.h"
 #include "capture/forms/NamingPanel.h"
+#include "capture/import/forms/ImportPanel.h"
 #include "library/TodayText.h"
 #include "library/forms/Divider.h"
 #include "library/forms/LibraryLists.h"
@@ -138,7 +139,10 @@ CapturePage::CapturePage(Parts parts, QWidget* parent)
   middle->addWidget(MakeUnfinishedBar());
   middle->addWidget(MakeCameras());
   middle->addWidget(MakeStage(), 1);
-  middle->addWidget(MakeActions());
+  actions_ = MakeActions();
+  middle->addWidget(actions_);
+  import_ = new ImportPanel(parts_.services, parts_.settings, parts_.naming);
+  middle->addWidget(import_, 1);
   middle->addWidget(status_);
   columns->addLayout(middle, 1);
   ConnectParts();
@@ -188,7 +192,7 @@ QWidget* CapturePage::MakeCameras() {
   rows->setSpacing(6);
   auto* first = new QHBoxLayout;
   first->setSpacing(6);
-  kind_ = MakeList("CapKindList", "Where videos come from", 16);
+  kind_ = MakeList("CapKindList", "Where videos come from", 22);
   for (const SourceWords& words : SourceKinds())
     kind_->addItem(Q(std::string(words.caption)), static_cast<int>(words.kind));
   connect(kind_, &QComboBox::activated, this,
@@ -286,8 +290,6 @@ QWidget* CapturePage::MakeActions() {
   seek->addWidget(frame_);
   rows->addWidget(reviewBar_);
 
-  auto* row = new QHBoxLayout;
-  row->setSpacing(8);
   Capturebtn_ = new Button("Capturebtn", "Start Capture", "record");
   LeastWidth(Capturebtn_, 190);
   Capturebtn_->setToolTip("Space");
@@ -299,14 +301,29 @@ QWidget* CapturePage::MakeActions() {
   CapSavebtn_->setToolTip("Ctrl+S");
   CapSendbtn_ = new Button("CapSendbtn", "Send to Analysis", "send");
   CapSendbtn_->setToolTip("Saves the recording and opens it in the analysis section (Return)");
-  row->addWidget(Capturebtn_);
-  row->addStretch(1);
-  row->addWidget(StartHerebtn_);
-  row->addWidget(EndHerebtn_);
-  row->addWidget(CapSavebtn_);
-  row->addWidget(CapSendbtn_);
-  rows->addLayout(row);
+  buttons_ = new QBoxLayout(QBoxLayout::LeftToRight);
+  buttons_->setSpacing(8);
+  const auto add = [this](std::initializer_list<QWidget*> buttons, int stretchAt) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(8);
+    for (QWidget* button : buttons) row->addWidget(button);
+    row->insertStretch(stretchAt, 1);
+    buttons_->addLayout(row, stretchAt > 0 ? 1 : 0);
+  };
+  add({Capturebtn_, StartHerebtn_, EndHerebtn_}, 1);
+  add({CapSavebtn_, CapSendbtn_}, 0);
+  rows->addLayout(buttons_);
   return ground;
+}
+
+/// In a narrow window the buttons of the review take two rows.
+void CapturePage::resizeEvent(QResizeEvent* event) {
+  PageWidget::resizeEvent(event);
+  int wanted = 0;
+  for (const Button* button : {Capturebtn_, StartHerebtn_, EndHerebtn_, CapSavebtn_, CapSendbtn_})
+    wanted += button->sizeHint().width() + 8;
+  const int room = width() - Px(kSideWidth) - 4 * kGap;
+  buttons_->setDirection(room >= wanted ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
 }
 
 void CapturePage::ConnectParts() {
@@ -314,6 +331,11 @@ void CapturePage::ConnectParts() {
   connect(lists_, &LibraryLists::StudentChosen, this, &CapturePage::FolderChosen);
   connect(search_, &SearchBar::Wanted, this, &CapturePage::GoTo);
   connect(search_, &SearchBar::Left, this, [this] { lists_->StudentList()->setFocus(); });
+  connect(import_, &ImportPanel::SetupWanted, this, [this] { parts_.ways.GoToCaptureSetup(); });
+  connect(import_, &ImportPanel::VideoSaved, this, [this] {
+    parts_.naming.NameUsed();
+    VideoKept();
+  });
   connect(names_, &NamingPanel::Told, status_, &StatusLine::Say);
   connect(OneCamTwoOpt_, &QButtonGroup::idClicked, this, &CapturePage::OneCamTwoOpt_Click);
   connect(CamChoiceBtn_, &QButtonGroup::idClicked, this, &CapturePage::CamChoiceBtn_Click);
@@ -358,6 +380,7 @@ void CapturePage::Open() {
   FolderChosen();
   names_->SetupNameMode();
   FillCameras();
+  ShowKind();
   session_->Open();
   ShowPhase();
   LookForUnfinished();
@@ -420,7 +443,7 @@ void CapturePage::ShowUnfinished() {
   unfinishedBar_->setVisible(shown);
   if (!shown) return;
   const UnfinishedRecording& latest = unfinished_.front();
-  const QString when = QLocale().toString(QDateTime::fromSecsSinceEpoch(latest.written), QLocale::ShortFormat);
+  const QString when = QLocale().toString(QDateTime::fromSecsSinceEpoch(latest.written), "d MMM, HH:mm");
   unfinishedWords_->setText(
       QString("An unfinished recording was found: %1 s, %2").arg(latest.seconds, 0, 'f', 1).arg(when));
 }
@@ -566,7 +589,30 @@ void CapturePage::SeekReview(int frame) {
   ShowReview();
 }
 
-void CapturePage::CaptureChanged() { ShowPhase(); }
+/// Cameras, or files.
+void CapturePage::ShowKind() {
+  const SourceKind kind = parts_.setup.Kind();
+  const bool files = IsImport(kind);
+  stage_->setVisible(!files);
+  actions_->setVisible(!files);
+  status_->setVisible(!files);
+  import_->setVisible(files);
+  if (!files) return;
+  import_->SetKind(static_cast<ImportKind>(kind));
+  import_->Open();
+}
+
+/// The folder has a video more.
+void CapturePage::VideoKept() {
+  browser_.Refresh();
+  lists_->ShowAll();
+  FolderChosen();
+}
+
+void CapturePage::CaptureChanged() {
+  if (session_ && std::exchange(lastSaved_, session_->LastSavedVideo()) != session_->LastSavedVideo()) VideoKept();
+  ShowPhase();
+}
 
 void CapturePage::LivePictureCame(int camera) { live_[camera]->ShowPicture(session_->Latest(camera)); }
 
@@ -574,6 +620,7 @@ IReviewPlayer& CapturePage::ReviewPlayer(int camera) { return *players_[camera];
 
 void CapturePage::CaptureChoiceChanged() {
   FillCameras();
+  ShowKind();
   session_->Rebuild();
   ShowPhase();
 }

@@ -15,6 +15,7 @@
 #include "platform/widgets/PageWidget.h"
 #include "video/PlayerServices.h"
 
+class QBoxLayout;
 class QButtonGroup;
 class QComboBox;
 class QFrame;
@@ -25,6 +26,7 @@ class QStackedWidget;
 namespace kinalyx {
 
 class Button;
+class ImportPanel;
 class LibraryLists;
 class LiveView;
 class NamingPanel;
@@ -72,6 +74,7 @@ class CapturePage : public PageWidget, private ICapturePage, private ICaptureSet
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   class Player;
@@ -86,7 +89,9 @@ class CapturePage : public PageWidget, private ICapturePage, private ICaptureSet
   void FolderChosen();
   void GoTo(const SearchHit& hit);
   void FillCameras();
+  void ShowKind();
   void ShowPhase();
+  void VideoKept();
   void ShowReview();
   QString BadgeText(int camera) const;
   void AskForCamera();
@@ -124,6 +129,10 @@ class CapturePage : public PageWidget, private ICapturePage, private ICaptureSet
   std::array<PreviewPlayer*, 2> review_{};
   std::array<std::unique_ptr<Player>, 2> players_;
   QStackedWidget* stage_;
+  QWidget* actions_;
+  QBoxLayout* buttons_;
+  ImportPanel* import_;
+  std::string lastSaved_;
   QSlider* VidScroll_;
   QLabel* frame_;
   QWidget* reviewBar_;

@@ -1,0 +1,141 @@
+#include "capture/forms/CapturePage.h"
+
+#include <QComboBox>
+
+#include <fstream>
+
+#include "../capture/Fakes.h"
+#include "../library/TempLibrary.h"
+#include "FormDriver.h"
+#include "FormsSupport.h"
+#include "capture/forms/CaptureSection.h"
+#include "library/Profile.h"
+#include "platform/files/Folders.h"
+#include "support/TestVideos.h"
+
+namespace kinalyx {
+namespace {
+
+class CapturePageTest : public ::testing::Test,
+                        protected test::UsesApplication,
+                        protected test::FormDriver,
+                        private ICaptureWays {
+ protected:
+  CapturePageTest() {
+    library.Folder("Ann/Joe");
+    settings.LoadCaptureSettings();
+    settings.VideoInSource = static_cast<int>(SourceKind::Webcam);
+    settings.DVMode = settings.ImportCaptureMode = false;
+    devices.cameras = {test::MakeCamera("Left"), test::MakeCamera("Right")};
+    setup = std::make_unique<CaptureSetup>(settings, devices);
+    remembered = {"Ann", "Joe", library.Path("Ann/Joe")};
+    page = std::make_unique<CapturePage>(CapturePage::Parts{.services = services,
+                                                            .settings = settings,
+                                                            .fields = fields,
+                                                            .remembered = remembered,
+                                                            .setup = *setup,
+                                                            .naming = naming,
+                                                            .ways = *this,
+                                                            .makeGraph = [this](IGraphEvents&) {
+                                                              auto made = std::make_unique<test::FakeGraph>();
+                                                              graph = made.get();
+                                                              return made;
+                                                            }});
+    page->resize(892, 700);
+    page->show();
+    page->Open();
+  }
+
+  bool Seen(const char* name) { return Find<QWidget>(name)->isVisible(); }
+  QString Button(const char* name) { return Find<QAbstractButton>(name)->text(); }
+  void Record() {
+    Press("Capturebtn");
+    const std::string video = test::MakeTestVideo(test::MjpegVideo(12));
+    for (const auto& [label, path] : graph->sinks) std::filesystem::copy_file(video, path);
+    Press("Capturebtn");
+  }
+
+  test::TempLibrary library;
+  Settings& settings = library.settings;
+  ProfileFields fields{library.Data("fields.ini")};
+  LastStudentInfo remembered;
+  PlayScheduler scheduler{library.host};
+  PlayerServices services{.host = library.host, .scheduler = scheduler};
+  test::FakeDevices devices;
+  std::unique_ptr<CaptureSetup> setup;
+  VideoNaming naming{settings, [] { return std::string("11/25/2026"); }};
+  test::FakeGraph* graph = nullptr;
+  std::vector<std::string> opened;
+  std::unique_ptr<CapturePage> page;
+
+ private:
+  QWidget& Form() override { return *page; }
+  bool OpenInAnalysis(const std::vector<std::string>& paths) override {
+    opened = paths;
+    return true;
+  }
+  void GoToCaptureSetup() override {}
+};
+
+TEST_F(CapturePageTest, ShowsWhatBelongsToEachPhase) {
+  EXPECT_EQ(Button("Capturebtn"), "Start Capture");
+  EXPECT_EQ(Text("VidNameLbl"), "(001) DL- 11-25-2026");
+  EXPECT_FALSE(Seen("CapSavebtn"));
+  EXPECT_FALSE(Seen("ezVidCap2"));
+  Record();
+  EXPECT_EQ(Button("Capturebtn"), "Back to Live Video");
+  EXPECT_TRUE(Seen("CapSavebtn"));
+  EXPECT_EQ(Text("VidFrameLbl"), "1 of 12");
+  EXPECT_FALSE(Find<QComboBox>("VideoSource_Camera1")->isEnabled());
+  page->EndHerebtn_Click();
+  EXPECT_EQ(Button("EndHerebtn"), "Trim End of Video") << "picture 0 is no end";
+  Press("Capturebtn");
+  EXPECT_EQ(Button("Capturebtn"), "Start Capture");
+}
+
+TEST_F(CapturePageTest, TwoCamerasHaveTwoWindowsAndTwoLines) {
+  EXPECT_FALSE(Seen("CameraLine2"));
+  Press("OneCamTwoOpt1");
+  EXPECT_TRUE(Seen("ezVidCap2"));
+  EXPECT_TRUE(Seen("CameraLine2"));
+  EXPECT_FALSE(Seen("CamChoiceBtn0"));
+  EXPECT_EQ(Find<QComboBox>("VideoSource_Camera2")->currentText(), "Right");
+  EXPECT_FALSE(settings.OneCam);
+}
+
+TEST_F(CapturePageTest, ANameIsTypedForTheNextVideo) {
+  Press("ChangeNamebtn");
+  EXPECT_EQ(Find<QLineEdit>("ChangeNameBox")->text(), "DL- 11-25-2026");
+  Type("ChangeNameBox", "bad/name");
+  Press("ChangeNameOk");
+  EXPECT_TRUE(Seen("NameFrame"));
+  EXPECT_TRUE(Text("CapStatus").contains("cannot hold"));
+  Type("ChangeNameBox", "Żabka");
+  Press("ChangeNameOk");
+  EXPECT_EQ(Text("VidNameLbl"), "(001) Żabka");
+}
+
+TEST_F(CapturePageTest, FilesTakeThePlaceOfCameras) {
+  setup->ChooseKind(SourceKind::ManualImport);
+  EXPECT_FALSE(Seen("Videobox"));
+  EXPECT_FALSE(Seen("OneCamTwoOpt0"));
+  EXPECT_TRUE(Seen("List1"));
+  setup->ChooseKind(SourceKind::Webcam);
+  EXPECT_TRUE(Seen("Capturebtn"));
+}
+
+TEST_F(CapturePageTest, TheSetupSavesTheCameraThatIsShown) {
+  CaptureSection section(library.host, settings, *setup, naming);
+  section.show();
+  section.CamConfig_Camera_Click(3);
+  EXPECT_EQ(settings.Camera[0], "Left");
+  EXPECT_EQ(section.findChild<QLabel*>("CameraStatus1")->text(), "Default Camera 1");
+  section.DVorAnOpt_Click(8);
+  library.host.folders = {library.Folder("inbox")};
+  section.CamConfig_Camera_Click(2);
+  EXPECT_EQ(settings.AutoImportFolder, library.Path("inbox") + "/");
+  EXPECT_EQ(section.findChild<QAbstractButton*>("CamConfig_Camera2")->text(), "Set Automatic Import Folder");
+}
+
+}  // namespace
+}  // namespace kinalyx
