@@ -16,7 +16,7 @@ class IDeviceProvider;
 class IPost;
 
 /// The devices of this machine, watched by threads of its own from the moment it is made. A way to devices that hangs
-/// is left to itself, so neither the window nor the end of the program waits for it.
+/// is left to itself, so neither the window nor the end of the program waits for it. A program has one at a time.
 class DeviceList final : public IDevices {
  public:
   DeviceList(IHost& host, std::shared_ptr<IPost> post);

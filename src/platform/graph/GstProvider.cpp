@@ -66,10 +66,6 @@ FoundDevice Describe(GstDevice* device, Device::Kind kind) {
 
 GstProvider::GstProvider(std::string name) : name_(std::move(name)) {}
 
-GstProvider::~GstProvider() {
-  if (begun_) gst_device_provider_stop(provider_.get());
-}
-
 bool GstProvider::Begin() {
   if (!GstBegun()) return false;
   if (!provider_) {
@@ -78,6 +74,8 @@ bool GstProvider::Begin() {
     const std::lock_guard lock(mutex_);
     bus_.reset(gst_device_provider_get_bus(provider_.get()));
   }
+  // It is never stopped: where clients of PipeWire come and go at that moment, its provider damages the memory of the
+  // program. The library has but one of each name, so a second start is none.
   begun_ = gst_device_provider_start(provider_.get());
   return begun_;
 }

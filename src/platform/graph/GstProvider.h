@@ -13,7 +13,6 @@ class GstProvider final : public IDeviceProvider {
  public:
   /// @param name  of its factory
   explicit GstProvider(std::string name);
-  ~GstProvider() override;
 
   std::optional<std::vector<FoundDevice>> Next() override;
   void Wake() override;
