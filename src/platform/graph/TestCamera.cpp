@@ -37,7 +37,8 @@ void Copy(const Surface& surface, bool compressed, std::uint8_t* to) {
   if (compressed) {
     std::uint8_t* blue = to + width * height;
     std::uint8_t* red = blue + width * height / 4;
-    libyuv::ARGBToI420(surface.Row(0), surface.Stride(), to, width, blue, width / 2, red, width / 2, width, height);
+    // JPEG has the whole range of brightness.
+    libyuv::ARGBToJ420(surface.Row(0), surface.Stride(), to, width, blue, width / 2, red, width / 2, width, height);
   } else {
     libyuv::ARGBToYUY2(surface.Row(0), surface.Stride(), to, width * 2, width, height);
   }
@@ -73,10 +74,10 @@ GstElement* MakeTestCamera(const PictureMode& mode) {
   if (!GstBegun()) return nullptr;
   const bool compressed = mode.format == "MJPG";
   const std::string description = fmt::format(
-      "videotestsrc name=source is-live=true pattern=black ! "
-      "capsfilter caps=video/x-raw,format={},width={},height={},framerate={}/1,pixel-aspect-ratio=1/1{}",
+      "videotestsrc name=source is-live=true pattern=black ! capsfilter caps=video/x-raw,format={},width={},height={},"
+      "framerate={}/1,pixel-aspect-ratio=1/1,colorimetry={}",
       compressed ? "I420" : "YUY2", mode.width, mode.height, static_cast<int>(mode.rate),
-      compressed ? " ! videoconvert ! video/x-raw,format=I420,colorimetry=1:4:0:0 ! jpegenc quality=90" : "");
+      compressed ? "1:4:0:0 ! jpegenc quality=90" : "bt601");
   GError* error = nullptr;
   GstElement* camera = gst_parse_bin_from_description(description.c_str(), true, &error);
   g_clear_error(&error);
