@@ -27,9 +27,9 @@ constexpr auto kEndPatience = 300ms;
 std::vector<std::unique_ptr<IDeviceProvider>> AllProviders() {
   std::vector<std::unique_ptr<IDeviceProvider>> providers;
   // The shortest way comes first: a camera by the system, a microphone by the sound server.
-  for (const char* name : {"v4l2deviceprovider", "pulsedeviceprovider", "pipewiredeviceprovider"}) {
-    providers.push_back(std::make_unique<GstProvider>(name));
-  }
+  providers.push_back(std::make_unique<GstProvider>("v4l2deviceprovider"));
+  providers.push_back(std::make_unique<GstProvider>("pulsedeviceprovider"));
+  providers.push_back(std::make_unique<GstProvider>("pipewiredeviceprovider", PipeWireSocket()));
   providers.push_back(std::make_unique<FireWireProvider>());
   return providers;
 }

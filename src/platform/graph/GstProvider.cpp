@@ -10,6 +10,7 @@ namespace kinalyx {
 namespace {
 
 constexpr auto kTryAgain = std::chrono::seconds(5);  // where a server is not there
+constexpr GstClockTime kLook = 2 * GST_SECOND;       // between two looks whether a server is still there
 constexpr GstClockTime kSettle = 100 * GST_MSECOND;  // what is plugged in tells several things at once
 
 std::string Taken(gchar* text) {
@@ -64,20 +65,30 @@ FoundDevice Describe(GstDevice* device, Device::Kind kind) {
 
 }  // namespace
 
-GstProvider::GstProvider(std::string name) : name_(std::move(name)) {}
+GstProvider::GstProvider(std::string name, std::string socket) : name_(std::move(name)), server_(std::move(socket)) {}
+
+GstProvider::~GstProvider() { LetGo(); }
 
 bool GstProvider::Begin() {
-  if (!GstBegun()) return false;
+  // PipeWire's provider takes itself for begun without its server.
+  if (!server_.Open() || !GstBegun()) return false;
   if (!provider_) {
     provider_.reset(gst_device_provider_factory_get_by_name(name_.c_str()));
     if (!provider_) return false;
+    // That one is there for the whole program, and may have begun with a server that has gone since.
+    if (server_.Watches()) {
+      provider_.reset(GST_DEVICE_PROVIDER(gst_object_ref_sink(g_object_new(G_OBJECT_TYPE(provider_.get()), nullptr))));
+    }
     const std::lock_guard lock(mutex_);
     bus_.reset(gst_device_provider_get_bus(provider_.get()));
   }
-  // It is never stopped: where clients of PipeWire come and go at that moment, its provider damages the memory of the
-  // program. The library has but one of each name, so a second start is none.
   begun_ = gst_device_provider_start(provider_.get());
   return begun_;
+}
+
+void GstProvider::LetGo() {
+  begun_ = listed_ = false;
+  static_cast<void>(provider_.release());
 }
 
 std::optional<std::vector<FoundDevice>> GstProvider::Next() {
@@ -89,7 +100,13 @@ std::optional<std::vector<FoundDevice>> GstProvider::Next() {
     return std::nullopt;
   }
   GstBus* bus = bus_.get();
-  GstMessage* message = gst_bus_timed_pop(bus, GST_CLOCK_TIME_NONE);
+  GstMessage* message = gst_bus_timed_pop(bus, server_.Watches() ? kLook : GST_CLOCK_TIME_NONE);
+  if (server_.Gone()) {
+    if (message) gst_message_unref(message);
+    gst_device_provider_stop(provider_.get());  // nobody comes and goes there any more
+    LetGo();
+    return std::nullopt;
+  }
   bool changed = false;
   for (; message; message = gst_bus_timed_pop(bus, kSettle)) {
     const GstMessageType type = GST_MESSAGE_TYPE(message);
