@@ -371,6 +371,7 @@ void CaptureSession::Saved(const SavedRecording& saved) {
   parts_.naming.NameUsed();
   BackToLive();
   Say(both ? "Both Videos Saved Successfully" : "Last Video Saved Successfully");
+  if (!saved.note.empty()) parts_.host.Message(MessageKind::Warning, "", saved.note);
   SayReadyLater();
   if (!send) return;
   Say("Loading Analysis Section...");

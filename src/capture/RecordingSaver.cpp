@@ -82,10 +82,8 @@ bool RecordingSaver::BeginMove() {
   for (std::size_t i = 0; i < Cameras(); ++i) {
     const std::string folder = FolderOf(request_.videos[i]);
     const std::string name = LastName(request_.videos[i]);
-    if (!request_.dv) {
-      const Outcome kept = KeepCaptureData(sources_[i], request_.tallies[i], request_.flags);
-      if (!kept) return Fail(kept.Why());
-    }
+    // A disk that the recording has filled has no room for a sidecar: then it is written where the video goes.
+    described_[i] = request_.dv || KeepCaptureData(sources_[i], request_.tallies[i], request_.flags);
     if (!SetAsideOrphans(folder, name, disk_)) return Fail("Notes of another video of this name are in the way.");
     std::ranges::move(VideoUnit(sources_[i], folder, name), std::back_inserter(unit));
   }
@@ -104,10 +102,7 @@ void RecordingSaver::TakeNextNumber() {
 bool RecordingSaver::MoveOn() {
   switch (move_->Step()) {
     case CopyJob::State::Running: return true;
-    case CopyJob::State::Done:
-      saved_.videos = request_.videos;
-      done_ = true;
-      return false;
+    case CopyJob::State::Done: Finish(); return false;
     case CopyJob::State::Cancelled: saved_.cancelled = true; return false;
     case CopyJob::State::Failed: break;
   }
@@ -115,6 +110,16 @@ bool RecordingSaver::MoveOn() {
   // Another window was quicker.
   move_.reset();
   return true;
+}
+
+void RecordingSaver::Finish() {
+  done_ = true;
+  saved_.videos = request_.videos;
+  for (std::size_t i = 0; i < Cameras(); ++i) {
+    if (described_[i]) continue;
+    const Outcome kept = KeepCaptureData(saved_.videos[i], request_.tallies[i], request_.flags);
+    if (!kept) saved_.note = "How its fields are shown could not be noted: " + kept.Why();
+  }
 }
 
 bool RecordingSaver::Fail(std::string why) {

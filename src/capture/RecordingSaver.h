@@ -30,6 +30,7 @@ struct SaveRequest {
 struct SavedRecording {
   std::array<std::string, 2> videos;  ///< where they stand now; under the next number where the name was taken
   std::string why;                    ///< nothing was kept, for this reason
+  std::string note;                   ///< what the user must know although it was
   bool cancelled = false;
 
   bool Done() const { return why.empty() && !cancelled; }
@@ -58,6 +59,7 @@ class RecordingSaver final : public IJob {
   bool BeginMove();
   void TakeNextNumber();
   bool MoveOn();
+  void Finish();
   bool Fail(std::string why);
 
   SaveRequest request_;
@@ -65,6 +67,7 @@ class RecordingSaver final : public IJob {
   SavedRecording saved_;
   std::array<std::string, 2> sources_;  ///< what is kept: the working files, or what was cut of them
   std::size_t cut_ = 0;                 ///< cameras that have been cut
+  std::array<bool, 2> described_{};     ///< they have their sidecars
   std::optional<TrimJob> trim_;
   std::optional<CopyJob> move_;
   bool done_ = false;
