@@ -11,6 +11,8 @@
 #include <string_view>
 #include <utility>
 
+#include "platform/media/AviFields.h"
+
 namespace kinalyx {
 namespace {
 
@@ -373,6 +375,7 @@ void Demuxer::FindFields(const AVPacket& first) {
   // Tape has two fields, the lower first.
   fields_ = codec.codec_id == AV_CODEC_ID_DVVIDEO ? AV_FIELD_BB : codec.field_order;
   if (fields_ == AV_FIELD_UNKNOWN) fields_ = parser.Order();
+  if (fields_ == AV_FIELD_UNKNOWN && isAvi_) fields_ = FieldsToldByAvi(*file_, stream_->index);
   const bool interlaced = fields_ != AV_FIELD_UNKNOWN && fields_ != AV_FIELD_PROGRESSIVE;
   if (codec.codec_id != AV_CODEC_ID_H264 || !interlaced || isAvi_) return;
   const bool topFirst = fields_ == AV_FIELD_TT || fields_ == AV_FIELD_BT;

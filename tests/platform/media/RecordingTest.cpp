@@ -139,6 +139,24 @@ TEST(RecordingFile, WhatIsBrokenOffIsMadeWhole) {
   }
 }
 
+TEST(RecordingFile, TheOrderOfFieldsIsKept) {
+  using Fields = RecordingFormat::Fields;
+  for (const Codec codec : {Codec::Mjpeg, Codec::RawBgr24}) {
+    for (const Fields fields : {Fields::None, Fields::TopFirst, Fields::BottomFirst}) {
+      const TempFolder folder;
+      RecordingFormat format = CameraFormat(codec, 25);
+      format.fields = fields;
+      auto file = RecordingFile::Create(folder.Path("x.avi"), format);
+      ASSERT_TRUE(file);
+      EXPECT_TRUE(Record(**file, codec, 1, 0));
+      ASSERT_TRUE((*file)->Close());
+      const auto info = ReadVideoInfo(folder.Path("x.avi"));
+      EXPECT_EQ(info->interlaced, fields != Fields::None);
+      EXPECT_EQ(info->topFieldFirst, fields == Fields::TopFirst);
+    }
+  }
+}
+
 TEST(RecordingFile, ADamagedByteCostsOnePicture) {
   const TempFolder folder;
   const std::string path = folder.Path("x.avi");
