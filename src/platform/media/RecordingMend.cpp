@@ -110,8 +110,13 @@ std::optional<std::int64_t> ChunkWalk::FindNext(std::int64_t from) const {
 }
 
 void ChunkWalk::TakePicture(std::int64_t at, std::uint32_t bytes) {
-  // A part whose head is damaged has the one before go on in its place.
-  if (at - parts_.back().base > kLargestPart) parts_.emplace_back().base = at;
+  // What follows the index of a part belongs to the next one, also where the head of that is damaged.
+  if (parts_.back().indexAt > 0 || at - parts_.back().base > kLargestPart) {
+    RecordingPart headless;
+    headless.base = at;
+    headless.headless = true;
+    parts_.push_back(std::move(headless));
+  }
   RecordingPart& part = parts_.back();
   part.chunks.push_back({static_cast<std::uint32_t>(at - part.base), bytes});
   end_ = part.EndOf(part.chunks.back());
@@ -148,8 +153,9 @@ std::int64_t ChunkWalk::TakeClosedParts(const RecordingHead& head) {
     std::tie(part.indexAt, part.indexBytes) = head.Part(i);
     std::array<std::uint8_t, kChunkHead> size{};
     if (!ReadIndex(part) || file_.Read(at, size) < size.size()) break;
-    at += static_cast<std::int64_t>(kChunkHead + TakeNumber(size, 4));
-    if (at < part.indexAt + part.indexBytes || !GoesOnAt(at)) break;
+    const auto next = at + kHeadBytes + static_cast<std::int64_t>(TakeNumber(size, 4));
+    if (next < part.indexAt + part.indexBytes || !GoesOnAt(next)) break;
+    at = next;
     if (!part.chunks.empty()) end_ = part.EndOf(part.chunks.back());
     parts_.push_back(std::move(part));
   }

@@ -154,7 +154,8 @@ Outcome RecordingParts::ClosePart() {
 Outcome RecordingParts::WriteHead(std::int64_t listEnd) {
   head_.SetPlaces(places_, parts_.front().places);
   head_.SetLargestPicture(largest_);
-  const std::int64_t base = parts_.back().base;
+  const auto last = std::ranges::find(parts_.rbegin(), parts_.rend(), false, &RecordingPart::headless);
+  const std::int64_t base = last->base;
   if (base == 0) {
     head_.SetFirstPart(listEnd, end_);
   } else {

@@ -26,6 +26,7 @@ struct RecordingPart {
   std::vector<RecordingChunk> chunks;  ///< of a part that has no index yet
   std::int64_t indexAt = 0;            ///< 0: it has none yet
   std::uint32_t indexBytes = 0;
+  bool headless = false;  ///< of a damaged file: for all others it belongs to the one before
 
   /// Where a chunk's bytes end, their padding counted.
   std::int64_t EndOf(const RecordingChunk& chunk) const { return base + chunk.at + 8 + chunk.bytes + chunk.bytes % 2; }
