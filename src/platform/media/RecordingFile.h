@@ -36,7 +36,7 @@ class RecordingFile {
   /// Appends one picture; when this returns, it outlives the program. After a failure nothing more is taken, and Close
   /// keeps what is there.
   /// @param ns  time at which the camera took it; ever later ones. One that is not later than the one before is
-  ///            left out and counts as nothing.
+  ///            left out and counts as nothing. So is a raw picture that is cut; what is behind a whole one is too.
   Outcome Write(std::span<const std::byte> picture, std::int64_t ns);
   /// How it stands.
   const RecordingTally& Tally() const;
