@@ -16,6 +16,8 @@ namespace {
 constexpr std::size_t kChunkHead = 8;
 constexpr std::int64_t kHeadBytes = kChunkHead;
 constexpr std::size_t kPartHead = 24;
+constexpr std::int64_t kPartHeadBytes = kPartHead;
+constexpr std::int64_t kFirstPicture = RecordingHead::kBytes;
 constexpr std::size_t kIndexHead = 32;
 /// Offsets within a part are numbers of 32 bits.
 constexpr std::int64_t kLargestPart = std::int64_t{1} << 31;
@@ -63,7 +65,7 @@ class ChunkWalk {
   const std::int64_t bytes_;
   std::vector<RecordingPart> parts_;
   std::vector<Patch> patches_;
-  std::int64_t end_ = static_cast<std::int64_t>(RecordingHead::kBytes);
+  std::int64_t end_ = kFirstPicture;
 };
 
 bool IsKnown(std::uint32_t name) {
@@ -83,7 +85,7 @@ std::optional<ChunkWalk::Head> ChunkWalk::HeadAt(std::int64_t at) const {
   if (file_.Read(at, bytes) < bytes.size() || TakeNumber(bytes, 8) != ChunkName("AVIX") ||
       TakeNumber(bytes, 12) != kListChunk || TakeNumber(bytes, 20) != ChunkName("movi"))
     return std::nullopt;
-  head.end = at + static_cast<std::int64_t>(kPartHead);
+  head.end = at + kPartHeadBytes;
   return head;
 }
 
@@ -124,14 +126,15 @@ void ChunkWalk::TakePicture(std::int64_t at, std::uint32_t bytes) {
 
 /// What the index of a part tells; false when it is not whole.
 bool ChunkWalk::ReadIndex(RecordingPart& part) const {
-  if (part.indexBytes < kIndexHead || part.indexAt < end_ || part.indexAt + part.indexBytes > bytes_) return false;
+  const std::int64_t first = part.headless ? part.base : part.base + (part.base == 0 ? kFirstPicture : kPartHeadBytes);
+  if (part.indexBytes < kIndexHead || part.indexAt < first || part.indexAt + part.indexBytes > bytes_) return false;
   std::vector<std::uint8_t> index(part.indexBytes);
   if (file_.Read(part.indexAt, index) < index.size() || TakeNumber(index, 0) != kPartIndexChunk ||
       TakeNumber(index, 20, 8) != static_cast<std::uint64_t>(part.base))
     return false;
   const auto count = static_cast<std::size_t>(TakeNumber(index, 12));
   if (index.size() != kIndexHead + 8 * count) return false;
-  std::int64_t before = end_;
+  std::int64_t before = first;
   for (std::size_t i = 0; i < count; ++i) {
     const std::uint64_t content = TakeNumber(index, kIndexHead + 8 * i);
     const RecordingChunk chunk{static_cast<std::uint32_t>(content - kChunkHead),
@@ -185,8 +188,13 @@ void ChunkWalk::Go(const RecordingHead& knows) {
 void ChunkWalk::TakeChunk(std::int64_t at, const Head& head) {
   if (head.name == kPictureChunk) TakePicture(at, head.bytes);
   if (head.name == kPartIndexChunk) {
-    parts_.back().indexAt = at;
-    parts_.back().indexBytes = head.bytes + static_cast<std::uint32_t>(kChunkHead);
+    // One that tells something else than what is there is made anew.
+    RecordingPart told;
+    told.base = parts_.back().base;
+    told.headless = parts_.back().headless;
+    told.indexAt = at;
+    told.indexBytes = head.bytes + static_cast<std::uint32_t>(kChunkHead);
+    if (ReadIndex(told) && told.chunks.size() == parts_.back().chunks.size()) parts_.back() = std::move(told);
   }
   if (head.name != kFileChunk) return;
   parts_.emplace_back().base = at;
