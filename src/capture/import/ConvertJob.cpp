@@ -6,6 +6,7 @@
 #include "capture/import/ConversionTemplate.h"
 #include "capture/import/ImportFiles.h"
 #include "library/Sidecar.h"
+#include "library/Study.h"
 #include "platform/files/Folders.h"
 #include "platform/files/PartFiles.h"
 #include "platform/media/VideoFile.h"
@@ -39,6 +40,14 @@ Outcome WriteFirstSidecar(const std::string& video, const VideoInfo& source, con
   }
   const auto kept = WriteVideoData(path, data);
   return kept ? Outcome() : kept.Failure();
+}
+
+/// Slow motion that tells how it was taken: the new video has no place for that, and speeds go by it.
+Outcome KeepTrueRate(const std::string& video, const VideoInfo& source) {
+  if (source.captureRate <= 0) return Outcome();
+  SlotData data;
+  data.Study.TrueRate = source.captureRate;
+  return WriteStudy(StudyPath(video), data);
 }
 
 }  // namespace
@@ -99,6 +108,8 @@ void ConvertJob::Finish() {
   state_ = State::Saved;
   if (const Outcome written = WriteFirstSidecar(order_.destination, source_, order_); !written)
     remark_ = "How its fields are shown could not be stored: " + written.Why();
+  if (const Outcome kept = KeepTrueRate(order_.destination, source_); !kept)
+    remark_ = "How fast it was taken could not be stored: " + kept.Why();
   if (!order_.moveSource) return;
   const auto moved = MoveToConverted(order_.source);
   if (moved) movedTo_ = *moved;

@@ -292,8 +292,9 @@ void ImportSession::TellSaved(const ConvertJob& job) {
   else if (!job.MovedTo().empty()) SetStatus("File Conversion, Save and Move Complete");
   else SetStatus("Last Video Saved Successfully. The original is still in its folder: " + job.Remark());
   if (kind_ != ImportKind::Manual) TakeFolder(autoActive_, true);
-  parts_.naming.GetVideoName();
+  // Who hears of it may use a name up that was typed for this video alone.
   parts_.events.VideoImported(video);
+  parts_.naming.GetVideoName();
   if (autoActive_) {
     const std::size_t left = list_.Count(State::Waiting) + list_.Count(State::Arriving);
     SetAutoStatus(left == 1 ? "1 video left to import" : fmt::format("{} videos left to import", left));

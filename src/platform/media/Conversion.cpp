@@ -29,6 +29,9 @@ constexpr int kMostThreads = 8;
 /// Of the encoder's scale from 1 to 31: what was filmed is looked at closely.
 constexpr int kQuality = FF_QP2LAMBDA * 2;
 
+/// Pictures from one look at the disk to the next: a long video shall not fill it first and fail then.
+constexpr int kLookForRoom = 64;
+
 using Codec = ConversionRequest::Codec;
 using Fields = PictureForm::Fields;
 
@@ -78,6 +81,7 @@ struct Conversion::Engine {
   bool Encode(const AVFrame* picture);
   bool WritePacket(AVPacket& packet, std::int64_t place);
   bool Finish();
+  bool HasRoom() const;
   int PlaceOf(int frame) const {
     return steady.places.empty() ? frame : steady.places[static_cast<std::size_t>(frame)];
   }
@@ -106,6 +110,7 @@ struct Conversion::Engine {
   std::unique_ptr<SoundCut> sound;
   AVStream* stream = nullptr;
   std::int64_t lastPlace = -1;  ///< that has been written
+  std::int64_t bytes = 0;       ///< of the pictures that have been written
   CodecHandle codec;
   std::optional<ConversionPictures> pictures;
   PacketHandle packet = NewPacket();
@@ -177,8 +182,15 @@ bool Conversion::Engine::TakeFrame(int frame) {
   if (!made) return Fail("a picture cannot be converted");
   made->pts = PlaceOf(frame);
   if (codec->flags & AV_CODEC_FLAG_QSCALE) made->quality = codec->global_quality;
-  ++converted.pictures;
+  if (++converted.pictures % kLookForRoom == 0 && !HasRoom()) return Fail("there is not enough room on the disk");
   return Encode(made.get());
+}
+
+/// What is still to come will be about as large as what has been written.
+bool Conversion::Engine::HasRoom() const {
+  const std::int64_t free = FreeBytes(request.destination);
+  const double each = static_cast<double>(bytes) / converted.pictures;
+  return free < 0 || each * (count - next) < static_cast<double>(free);
 }
 
 bool Conversion::Engine::Begin(const AVFrame& shown) {
@@ -225,6 +237,7 @@ bool Conversion::Engine::WritePacket(AVPacket& content, std::int64_t place) {
   if (result >= 0) {
     lastPlace = content.pts = content.dts = place;
     content.duration = 1;
+    bytes += content.size;
     result = output->Write(content, *stream, av_inv_q(rate));
   }
   return result >= 0 || Fail(result);

@@ -9,6 +9,7 @@
 #include "capture/import/ImportFiles.h"
 #include "capture/import/ImportSession.h"
 #include "library/Sidecar.h"
+#include "library/Study.h"
 #include "platform/media/Films.h"
 #include "support/TempFolder.h"
 #include "support/TestHost.h"
@@ -253,11 +254,13 @@ TEST_F(Import, GivenUpInTheMiddleLeavesNothing) {
   EXPECT_TRUE(imported_.empty());
 }
 
-TEST_F(Import, TheSidecarTellsOfFieldsAndOfWideTape) {
+TEST_F(Import, TheSidecarTellsOfFieldsOfWideTapeAndOfTheTrueRate) {
   Film film{"hd.mov", "mpeg2video", 4, 1, 0};
   film.width = 1280;
   film.height = 720;
   film.paint = [](AVFrame& picture, int) { picture.interlaced_frame = picture.top_field_first = 1; };
+  film.metadata = {{"com.android.capture.fps", "240"}};
+  film.muxing = "movflags=use_metadata_tags";
   film.tune = [](AVCodecContext& codec) {
     codec.flags |= AV_CODEC_FLAG_INTERLACED_DCT;
     codec.field_order = AV_FIELD_TT;
@@ -272,7 +275,9 @@ TEST_F(Import, TheSidecarTellsOfFieldsAndOfWideTape) {
     const auto info = ReadVideoInfo(path);
     ASSERT_TRUE(info);
     EXPECT_EQ(info->width, keep ? 1280 : 720);
-    const SlotData data = ReadVideoData(SidecarPath(path), *info, {});
+    SlotData data = ReadVideoData(SidecarPath(path), *info, {});
+    ReadStudy(StudyPath(path), data);
+    EXPECT_EQ(data.Study.TrueRate, 240);
     EXPECT_TRUE(data.Wide && data.SplitFields);
     EXPECT_EQ(data.ReverseFields, !keep);
   }

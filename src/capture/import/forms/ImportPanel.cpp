@@ -172,7 +172,7 @@ void ImportPanel::MakeFoot() {
   keepSize_->setObjectName("KeepPictureSizeCheck");
   keepSize_->setToolTip("Without it, large pictures become tape of 720 x 480, as in earlier versions");
   const char* const kCaptions[] = {"Reverse fields", "Sharpen"};
-  const char* const kTips[] = {"The lower field of interlaced tape was taken first",
+  const char* const kTips[] = {"Shows the two fields of interlaced pictures in the other order",
                                "Brings out the edges of what is made tape a little"};
   files_->Foot()->addWidget(keepSize_);
   for (std::size_t i = 0; i < VidSetupCheck_.size(); ++i) {
