@@ -35,20 +35,44 @@ std::vector<Rate> RatesFor(double meanMs, double shortestMs) {
   return rates;
 }
 
-/// A place for each picture, within one of its time; nothing where that cannot be.
-/// @param follow  one after another, without an empty place
-std::optional<std::vector<int>> PlacesAt(Rate rate, std::span<const double> beginsMs, bool follow) {
+/// Places of pictures at a rate.
+struct Placing {
+  Rate rate;
   std::vector<int> places;
-  places.reserve(beginsMs.size());
+  bool follow;   ///< one after another, without an empty place
+  double error;  ///< of the picture that is farthest from its time, in places
+};
+
+/// A place for each picture, within one of its time; nothing where that cannot be.
+std::optional<Placing> PlaceAt(Rate rate, std::span<const double> beginsMs, bool follow) {
+  Placing placing{rate, {}, follow, 0};
+  placing.places.reserve(beginsMs.size());
   int next = 0;
   for (const double begin : beginsMs) {
     const double wanted = (begin - beginsMs.front()) * rate.PerMs();
     const int place = follow ? next : std::max(next, static_cast<int>(std::lround(wanted)));
-    if (std::abs(place - wanted) > 1) return std::nullopt;
-    places.push_back(place);
+    placing.error = std::max(placing.error, std::abs(place - wanted));
+    if (placing.error > 1) return std::nullopt;
+    placing.places.push_back(place);
     next = place + 1;
   }
-  return places;
+  return placing;
+}
+
+/// The lowest rate that does, or the best of those that are hardly higher.
+std::optional<Placing> BestPlacing(const std::vector<Rate>& rates, std::span<const double> beginsMs) {
+  constexpr double kHardlyHigher = 1.005;
+  std::optional<Placing> best;
+  double highest = 0;
+  for (const Rate rate : rates) {
+    if (best && rate.PerMs() > highest) break;
+    auto placing = PlaceAt(rate, beginsMs, true);
+    if (!placing) placing = PlaceAt(rate, beginsMs, false);
+    if (!placing || (best && placing->error >= best->error)) continue;
+    if (!best) highest = kHardlyHigher * rate.PerMs();
+    best = std::move(placing);
+  }
+  return best;
 }
 
 }  // namespace
@@ -64,13 +88,12 @@ SteadyRate SteadyRateFor(std::span<const double> timesMs) {
 
   double shortestMs = meanMs;
   for (std::size_t i = 1; i < begins.size(); ++i) shortestMs = std::min(shortestMs, begins[i] - begins[i - 1]);
-  for (const Rate rate : RatesFor(meanMs, shortestMs)) {
-    if (PlacesAt(rate, begins, true)) return {rate.rate, rate.scale, pictures, {}};
-    if (auto places = PlacesAt(rate, begins, false)) {
-      const int end = static_cast<int>(std::lround(lengthMs * rate.PerMs()));
-      const int frames = std::max(places->back() + 1, end);
-      return {rate.rate, rate.scale, frames, std::move(*places)};
-    }
+  auto best = BestPlacing(RatesFor(meanMs, shortestMs), begins);
+  if (best && best->follow) return {best->rate.rate, best->rate.scale, pictures, {}};
+  if (best) {
+    const int end = static_cast<int>(std::lround(lengthMs * best->rate.PerMs()));
+    const int frames = std::max(best->places.back() + 1, end);
+    return {best->rate.rate, best->rate.scale, frames, std::move(best->places)};
   }
   // Of a clock that says nothing sensible only the order is kept.
   return {even.rate, even.scale, pictures, {}};

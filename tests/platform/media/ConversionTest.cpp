@@ -119,10 +119,12 @@ TEST(SteadyRate, IsTheLowestThatKeepsEveryPicture) {
     EXPECT_GE(steady.frames, pictures);
     return static_cast<double>(steady.rate) / steady.scale;
   };
-  // A clock that counts whole milliseconds, one that drifts, every tenth picture left out, and two that coincide.
+  // A clock that counts whole milliseconds, one that drifts, every tenth picture left out, later two of three, and two
+  // pictures that coincide.
   EXPECT_NEAR(rateOf(3600, [](int n) { return std::floor(n * 1001.0 / 30); }), 29.97, 0.001);
   EXPECT_NEAR(rateOf(36000, [](int n) { return n * 1000 / 239.4 + (n % 3) * 0.6; }), 239.4, 0.01);
   EXPECT_NEAR(rateOf(300, [](int n) { return (n + n / 9) * 1000.0 / 60; }), 54, 0.1);
+  EXPECT_EQ(rateOf(90, [](int n) { return (n < 20 ? n : 3 * n - 40) * 1000.0 / 30; }), 30);
   EXPECT_GT(rateOf(300, [](int n) { return n < 150 ? n * 40.0 : (n - 1) * 40.0; }), 24);
 }
 
