@@ -291,6 +291,10 @@ void DrawingTools::HideDrawings(bool hidden) {
   if (std::exchange(hidden_, hidden) != hidden) RefreshAll();
 }
 
+bool DrawingTools::IsSeen(const Shape& shape, int window) const {
+  return !shape.Locked || (!hidden_ && shape.Time.OpacityOn(workspace_.FrameOf(window)) > 0);
+}
+
 void DrawingTools::ToggleLabels() {
   settings_.Set(settings_.ShapeLabels, LabelsShown() ? 0 : 1);
   RefreshAll();

@@ -123,6 +123,8 @@ class DrawingTools final : public IShapeLocked {
   /// drawn stays in sight.
   void HideDrawings(bool hidden);
   bool Hidden() const { return hidden_; }
+  /// The picture that a window shows has something of this drawing of it; what is not seen is left alone by the mouse.
+  bool IsSeen(const Shape& shape, int window) const;
   /// Figures stand beside the drawings of every window.
   void ToggleLabels();
   bool LabelsShown() const { return settings_.ShapeLabels != 0; }

@@ -237,15 +237,16 @@ void DrawingTools::Select(int window, POINTAPI point) {
   ShapeList& list = List(window);
   DrawWindow_ = window;
   int nearest = -1;
+  const auto seen = [&](const Shape& shape) { return IsSeen(shape, window); };
   if (Editor()) {
-    const auto found = ShapeAt(ShapesOf(list), point, kSelectReach, engine_.EllipseFromCentre);
+    const auto found = ShapeAt(ShapesOf(list), point, kSelectReach, engine_.EllipseFromCentre, seen);
     nearest = found ? static_cast<int>(*found) : -1;
   } else {
     std::int32_t least = HitRadius + 1;
     int index = 0;
     for (const Shape& shape : ShapesOf(list)) {
       const std::int32_t distance = Round(Distance(engine_.GetMid(shape), point));
-      if (distance < least) {
+      if (distance < least && seen(shape)) {
         least = distance;
         nearest = index;
       }

@@ -40,6 +40,7 @@ void EditBar::ToggleEditBar() {
   if (!workspace_.HasVideo(window)) return;
   tools_.PutToolDown();
   tools_.Hand().LetGo();
+  tools_.HideDrawings(false);  // who edits wants to see
   ShapeList& list = List();
   if (!Selected()) list.CurShape = static_cast<std::int16_t>(list.NumShapes - 1);
   ChangeEBMode(true);

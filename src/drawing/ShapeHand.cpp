@@ -38,6 +38,11 @@ const Shape* ShapeHand::Taken() const {
   return index ? &ShapesOf(std::as_const(tools_).List(window_))[*index] : nullptr;
 }
 
+bool ShapeHand::TakenIsSeen() const {
+  const Shape* shape = Taken();
+  return shape && tools_.IsSeen(*shape, window_);
+}
+
 std::optional<TakenMarks> ShapeHand::MarksIn(int window) const {
   const Shape* shape = window == window_ ? Taken() : nullptr;
   if (!shape) return std::nullopt;
@@ -46,7 +51,7 @@ std::optional<TakenMarks> ShapeHand::MarksIn(int window) const {
 
 std::optional<std::size_t> ShapeHand::HandleAt(POINTAPI at, int window) const {
   const Shape* shape = window == window_ ? Taken() : nullptr;
-  if (!shape) return std::nullopt;
+  if (!shape || !tools_.IsSeen(*shape, window)) return std::nullopt;
   const auto handles = HandlesOf(*shape);
   std::optional<std::size_t> nearest;
   double least = kHandleReach;
@@ -61,7 +66,7 @@ std::optional<std::size_t> ShapeHand::HandleAt(POINTAPI at, int window) const {
 
 std::optional<std::size_t> ShapeHand::ShapeUnder(POINTAPI at, int window) const {
   return ShapeAt(ShapesOf(std::as_const(tools_).List(window)), at, kLineReach + tools_.UsualWidth() / 2.0,
-                 tools_.Engine().EllipseFromCentre);
+                 tools_.Engine().EllipseFromCentre, [&](const Shape& shape) { return tools_.IsSeen(shape, window); });
 }
 
 HandPointer ShapeHand::PointerAt(POINTAPI at, int window) const {

@@ -44,6 +44,8 @@ class ShapeHand {
   // --- what is taken
   /// Null for none; good until the list changes.
   const Shape* Taken() const;
+  /// Something is taken, and the picture that its window shows has something of it.
+  bool TakenIsSeen() const;
   /// The window of what is taken.
   int Window() const { return window_; }
   void Take(int window, std::size_t index);

@@ -106,11 +106,12 @@ double DistanceTo(const Shape& shape, POINTAPI point, bool fromCentre) {
   return least;
 }
 
-std::optional<std::size_t> ShapeAt(std::span<const Shape> shapes, POINTAPI point, double reach, bool fromCentre) {
+std::optional<std::size_t> ShapeAt(std::span<const Shape> shapes, POINTAPI point, double reach, bool fromCentre,
+                                   const std::function<bool(const Shape&)>& isSeen) {
   std::optional<std::size_t> nearest;
   double least = reach;
   for (std::size_t i = 0; i < shapes.size(); ++i) {
-    if (!shapes[i].Locked || shapes[i].Measuring) continue;
+    if (!shapes[i].Locked || shapes[i].Measuring || !isSeen(shapes[i])) continue;
     const double distance = DistanceTo(shapes[i], point, fromCentre);
     if (distance > least) continue;
     least = distance;

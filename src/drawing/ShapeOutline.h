@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <span>
 #include <vector>
@@ -20,9 +21,10 @@ std::vector<Polyline> OutlineOf(const Shape& shape, bool fromCentre);
 bool IsTakenWithin(const Shape& shape);
 /// Pixels from a point to the nearest of a shape's lines; 0 inside what can be taken within its outline.
 double DistanceTo(const Shape& shape, POINTAPI point, bool fromCentre);
-/// The finished shape that a click means: the nearest within `reach` pixels, of equal ones the uppermost. The
-/// ruler's line is none.
-std::optional<std::size_t> ShapeAt(std::span<const Shape> shapes, POINTAPI point, double reach, bool fromCentre);
+/// The finished shape that a click means: of those that are seen the nearest within `reach` pixels, of equal ones the
+/// uppermost. The ruler's line is none.
+std::optional<std::size_t> ShapeAt(std::span<const Shape> shapes, POINTAPI point, double reach, bool fromCentre,
+                                   const std::function<bool(const Shape&)>& isSeen);
 
 /// The points by which a finished shape is changed: its own, the four corners of a box; none for a stroke of the
 /// free hand and for what has only its place.

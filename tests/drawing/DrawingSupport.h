@@ -58,6 +58,7 @@ class TestWorkspace final : public IDrawingWorkspace {
   void ReleaseLoopButton() override {}
   void Refresh(int window) override { ++refreshed[window]; }
   bool OnLastFrame(int window) override { return frame[window] == 9; }
+  int FrameOf(int window) override { return frame[window]; }
   void AdvanceFrame(int window) override { ++frame[window]; }
   void DisplayData(const std::string& text) override { display = text; }
   void ShowToolCaption(const std::string& text) override { caption = text; }

@@ -35,6 +35,31 @@ TEST(ShapeHand, APressTakesWhatLiesUnderIt) {
   EXPECT_EQ(hand.Taken(), nullptr) << "the click that stops a video takes nothing";
 }
 
+TEST(ShapeHand, WhatIsNotSeenIsLeftAlone) {
+  Desk desk;
+  desk.Draw(kLine, {{100, 100}, {200, 100}});
+  desk.List().Shapes[0].Time = {3, 5, 2};
+  ShapeHand& hand = desk.tools.Hand();
+  const auto taken = [&](int frame, bool hidden = false) {
+    desk.workspace.frame[1] = frame;
+    desk.tools.HideDrawings(hidden);
+    hand.LetGo();
+    EXPECT_EQ(hand.PointerAt({150, 100}, 1) != HandPointer::Nothing, desk.Down(150, 100)) << frame;
+    desk.Up(150, 100);
+    return hand.TakenIsSeen();
+  };
+  EXPECT_FALSE(taken(8));
+  EXPECT_FALSE(taken(4, true));
+  EXPECT_TRUE(taken(6)) << "while it fades it can be caught";
+  desk.workspace.frame[1] = 9;
+  EXPECT_FALSE(hand.TakenIsSeen()) << "it stays taken, so that its moment can be changed";
+  ASSERT_TRUE(hand.Taken());
+  desk.Down(100, 100);
+  desk.Move(50, 50);
+  desk.Up(50, 50);
+  EXPECT_EQ(desk.Points(0)[0], (POINTAPI{100, 100})) << "nor by its handle";
+}
+
 TEST(ShapeHand, ADragMovesThePointOrTheWholeAsOneStep) {
   Desk desk;
   const auto drag = [&](POINTAPI from, POINTAPI to, int shift = 0) {

@@ -264,7 +264,7 @@ bool DrawingEdits::PressKey(int KeyCode, int Shift) {
   if (Shift & kCtrl) {
     if (KeyCode == 'Z') Shift& kShift ? Redo() : Undo();
     if (KeyCode == 'Y') Redo();
-    if (KeyCode == 'D' && Taken()) {
+    if (KeyCode == 'D' && Hand().TakenIsSeen()) {
       Hand().Duplicate();
       return true;
     }
@@ -288,8 +288,9 @@ bool DrawingEdits::PressKey(int KeyCode, int Shift) {
   }
 }
 
-/// Keys for the drawing that is taken.
+/// Keys for the drawing that is taken. One that is not seen now stays as it is, and nothing else goes in its place.
 bool DrawingEdits::PressKeyInHand(int KeyCode, int Shift) {
+  if (!Hand().TakenIsSeen()) return KeyCode == kKeyDelete;
   if (KeyCode == kKeyDelete) {
     Hand().Remove();
     return true;
