@@ -78,7 +78,8 @@ TEST(Session, ADamagedFileOffersNothing) {
 TEST(LineUp, BringsVideosToTheirMarksAndLocksThem) {
   OpenStage stage("2");
   stage.Open(2, stage.Video("second.avi"));
-  EXPECT_FALSE(stage.Run("LineUp"));
+  stage.Type('u');
+  EXPECT_EQ(stage.window.text, "The videos have no marks yet: M makes one where each of them stands");
   for (const auto& [slot, top, impact] : {std::tuple{1, 5, 14}, {2, 9, 20}}) {
     stage.Stage().SelectWindow(slot);
     for (const auto& [position, name] : {std::pair{top, "Top"}, {impact, "Impact"}}) {
@@ -89,7 +90,13 @@ TEST(LineUp, BringsVideosToTheirMarksAndLocksThem) {
     stage.MP(slot).DrawFrame(0);
   }
   stage.MP(2).DrawFrame(17);  // nearer to its impact
-  EXPECT_TRUE(stage.Run("LineUp"));
+  EXPECT_EQ(stage.analysis.Transport().NamesElsewhere(), (std::vector<std::string>{"Top", "Impact"}));
+  stage.analysis.Transport().NameMark(1, "Landing");
+  stage.analysis.Transport().RemoveMark(0);
+  stage.Type('u');
+  EXPECT_EQ(stage.window.text, "No two videos have a mark of the same name: a right click on a mark names it");
+  stage.analysis.Transport().NameMark(0, " IMPACT ");
+  stage.Type('u');
   EXPECT_EQ(stage.At(1), 14);
   EXPECT_EQ(stage.At(2), 20);
   EXPECT_TRUE(stage.Modes().Locks().IsLocked(1));

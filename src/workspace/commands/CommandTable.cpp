@@ -442,7 +442,11 @@ void MenuBar::AddTools() {
   Add({"TMarkoff", kTools, "Video Marks Off", "", "", "", kNoButton, [this] { transport_.ClearMarks(); },
        Needs([this] { return !stage_.Current().data.Study.Marks.empty(); }, "The current video has no marks")});
   Add({"LineUp", kTools, "U - Line Up Videos by Mark", "", "lock", "", kNoButton,
-       [this] { compare_.LineUp().ByMark(); }, [this] { return compare_.LineUp().Obstacle(); }});
+       [this] {
+         const std::string why = compare_.LineUp().Obstacle();
+         why.empty() ? compare_.LineUp().ByMark() : transport_.Announce(why);
+       },
+       several});
   Add({"TN", kTools, "Show Video &Notes", "Notesbutton", "notes", "Show Video Notes", kMeasuring,
        [this] { notes_.ToggleNotes(); }, NeedsVideo(stageFree), [this] { return notes_.Shown(); }});
 }

@@ -4,9 +4,16 @@
 #include <cstdlib>
 #include <limits>
 
+#include "platform/files/TextEncoding.h"
 #include "workspace/videos/PlayerMoves.h"
 
 namespace kinalyx {
+namespace {
+
+/// What two names have in common that mean the same.
+std::string Meant(const std::string& name) { return FoldCase(Trimmed(name, " \t")); }
+
+}  // namespace
 
 std::vector<int> LineUp::Shown() const {
   std::vector<int> slots;
@@ -15,12 +22,13 @@ std::vector<int> LineUp::Shown() const {
   return slots;
 }
 
-/// The first mark of that name of each video that has one.
+/// The first mark of that name of each video that has one, however it is written.
 std::vector<LineUp::Place> LineUp::Places(const std::string& name) const {
   std::vector<Place> places;
+  const std::string meant = Meant(name);
   for (const int slot : Shown()) {
     const auto& marks = stage_.At(slot).data.Study.Marks;
-    const auto mark = std::ranges::find(marks, name, &VideoMark::Name);
+    const auto mark = std::ranges::find_if(marks, [&](const VideoMark& each) { return Meant(each.Name) == meant; });
     if (mark != marks.end()) places.push_back({slot, mark->Moment});
   }
   return places;
@@ -50,8 +58,13 @@ std::vector<LineUp::Place> LineUp::Best() const {
 }
 
 std::string LineUp::Obstacle() const {
-  return Best().empty() ? "Needs two videos of the layout with a mark of the same name, or that were locked before"
-                        : "";
+  if (!Best().empty()) return "";
+  std::vector<int> bare = Shown();
+  if (bare.size() < 2) return "Needs videos in two windows or more";
+  std::erase_if(bare, [this](int slot) { return !stage_.At(slot).data.Study.Marks.empty(); });
+  if (bare.empty()) return "No two videos have a mark of the same name: a right click on a mark names it";
+  if (bare.size() == 1) return "The video in window " + std::to_string(bare.front()) + " has no mark: M makes one";
+  return "The videos have no marks yet: M makes one where each of them stands";
 }
 
 void LineUp::ByMark() {

@@ -51,10 +51,18 @@ void MarkBox::Dress() {
 void MarkBox::ShowMenu(int mark) {
   QMenu menu(this);
   menu.setObjectName("MarkMenu");
-  for (const QString& name : {tr("Address"), tr("Top"), tr("Impact"), tr("Finish")})
-    menu.addAction(name, this, [this, mark, name] { emit Named(mark, name); });
+  const QStringList usual{tr("Address"), tr("Top"), tr("Impact"), tr("Finish")};
+  const auto offer = [&](const QString& name) {
+    // An ampersand in a name is no key.
+    menu.addAction(QString(name).replace("&", "&&"), this, [this, mark, name] { emit Named(mark, name); });
+  };
+  for (const QString& name : usual) offer(name);
+  menu.addSeparator();
+  for (const QString& name : names_)
+    if (!usual.contains(name, Qt::CaseInsensitive)) offer(name);
   menu.addAction(tr("Other Name..."), this, [this, mark] {
     NameForm form("MarkName", tr("Name of the mark"), tr("What is seen here?"), kLongestName, window());
+    form.BeginWith(present_.value(mark));
     if (form.exec() == QDialog::Accepted) emit Named(mark, form.Name());
   });
   menu.addSeparator();
@@ -63,7 +71,10 @@ void MarkBox::ShowMenu(int mark) {
   menu.exec(QCursor::pos());
 }
 
-void MarkBox::SetMarks(const std::vector<ShownMark>& marks) {
+void MarkBox::SetMarks(const std::vector<ShownMark>& marks, const QStringList& names) {
+  present_.clear();
+  for (const ShownMark& mark : marks) present_ << Q(mark.name);
+  names_ = names;
   count_ = static_cast<int>(std::min(marks.size(), marks_.size()));
   for (std::size_t i = 0; i < marks_.size(); ++i) {
     const bool used = static_cast<int>(i) < count_;

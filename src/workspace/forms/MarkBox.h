@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFrame>
+#include <QStringList>
 #include <QToolButton>
 #include <array>
 #include <vector>
@@ -17,7 +18,8 @@ class MarkBox : public QFrame {
  public:
   explicit MarkBox(QWidget* parent);
 
-  void SetMarks(const std::vector<ShownMark>& marks);
+  /// @param names  that marks of other videos have, and that may be meant here too
+  void SetMarks(const std::vector<ShownMark>& marks, const QStringList& names);
   int Count() const { return count_; }
   /// Pixels that all buttons take side by side.
   int RowWidth() const;
@@ -40,6 +42,8 @@ class MarkBox : public QFrame {
   int ButtonWidth() const;
 
   std::array<QToolButton*, 10> marks_{};
+  QStringList present_;  ///< names of the marks
+  QStringList names_;    ///< of others
   int count_ = 0;
   bool card_ = false;
 };

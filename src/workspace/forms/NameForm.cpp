@@ -46,6 +46,11 @@ void NameForm::ShowAbove(QWidget* picture) {
   rows->insertWidget(0, picture, 0, Qt::AlignHCenter);
 }
 
+void NameForm::BeginWith(const QString& name) {
+  name_->setText(name);
+  name_->selectAll();
+}
+
 QString NameForm::Name() const { return name_->text().trimmed(); }
 
 void NameForm::showEvent(QShowEvent* event) {

@@ -17,6 +17,8 @@ class NameForm : public QDialog {
 
   /// Takes a picture over, which stands above the question.
   void ShowAbove(QWidget* picture);
+  /// The name that it has, to be changed or typed over.
+  void BeginWith(const QString& name);
   /// Without blanks round it, and never empty once the form was accepted.
   QString Name() const;
 

@@ -221,12 +221,15 @@ void PlayBar::SetLine(const QString& line, const QString& counter) {
 }
 
 void PlayBar::SetMarks(const std::vector<ShownMark>& marks) {
-  if (marks == marks_) return;
+  QStringList names;
+  for (const std::string& name : transport_.NamesElsewhere()) names << Q(name);
+  if (marks == marks_ && names == names_) return;
   marks_ = marks;
+  names_ = names;
   std::vector<int> positions;
   for (const ShownMark& mark : marks) positions.push_back(mark.position);
   seek_->SetMarks(std::move(positions));
-  markBox_->SetMarks(marks);
+  markBox_->SetMarks(marks, names);
   marksButton_->setText(QString::number(markBox_->Count()));
   if (marks.empty()) marksButton_->setChecked(false);
   Arrange();

@@ -94,7 +94,8 @@ class PlayBar : public StagePanel {
   MarkBox* markBox_;
   QToolButton* marksButton_ = nullptr;  ///< opens the card of the marks
   std::vector<ShownMark> marks_;
-  QString longest_;  ///< the line for which there is room
+  QStringList names_;  // of marks elsewhere
+  QString longest_;    ///< the line for which there is room
   bool docked_ = true;
   bool playing_ = false;
   bool hasVideo_ = true;

@@ -15,7 +15,8 @@ namespace {
 
 constexpr int kRepeatDelay = 350;    // milliseconds before a held step button repeats
 constexpr int kRepeatInterval = 60;  // milliseconds between two steps of a held button
-constexpr int kAnnounced = 1500;     // milliseconds that a word for a moment stands
+constexpr int kAnnounced = 1500;     // milliseconds that a word for a moment stands,
+constexpr int kReading = 60;         // and more where so much for each letter is more
 constexpr std::size_t kMarks = 10;
 constexpr int kLeap = 10;  // pictures
 
@@ -302,6 +303,16 @@ void Transport::ClearMarks() {
   MarksChanged();
 }
 
+std::vector<std::string> Transport::NamesElsewhere() const {
+  std::vector<std::string> names;
+  for (int slot = 1; slot <= kSlots; ++slot) {
+    if (slot == stage_.CurrentWindow || !stage_.HasVideo(slot)) continue;
+    for (const VideoMark& mark : stage_.At(slot).data.Study.Marks)
+      if (!mark.Name.empty() && std::ranges::find(names, mark.Name) == names.end()) names.push_back(mark.Name);
+  }
+  return names;
+}
+
 void Transport::MarksChanged() {
   keeping_.FieldsChanged(stage_.CurrentWindow);
   ShowMarks();
@@ -375,7 +386,8 @@ void Transport::DisplayData(const std::string& text) {
 
 void Transport::Announce(const std::string& text) {
   DisplayData(text);
-  announced_ = HostTimer(host_, kAnnounced, false, [this] { DisplayData(""); });
+  announced_ = HostTimer(host_, std::max(kAnnounced, kReading * static_cast<int>(text.size())), false,
+                         [this] { DisplayData(""); });
 }
 
 void Transport::ShowPosition() {

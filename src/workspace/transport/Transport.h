@@ -74,6 +74,8 @@ class Transport {
   /// Goes to mark `n`, from 0.
   void GoToMark(int n);
   void NameMark(int n, const std::string& name);
+  /// What marks are called in the other open videos, each name once.
+  std::vector<std::string> NamesElsewhere() const;
   void RemoveMark(int n);
   void ClearMarks();
 
