@@ -526,6 +526,7 @@ void DrawingTools::ViewChanged(int window, const DrawingView& view) {
 }
 
 void DrawingTools::Undo(int window) {
+  if (TakeBackPoint(window)) return;
   if (List(window).Adding) {
     const int before = List(window).NumShapes;
     PutDown();

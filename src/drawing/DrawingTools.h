@@ -92,6 +92,9 @@ class DrawingTools final : public IShapeLocked {
     straight_ = engine_.StraightMode;
   }
   void PutToolDown();
+  bool TracingPath() const;
+  /// The path or stroke that is traced ends where it is.
+  void EndPath();
   void DeleteLast();
   void DeleteAll();
   /// For the tool in hand, or what is taken.
@@ -167,8 +170,9 @@ class DrawingTools final : public IShapeLocked {
   std::optional<DrawnShapes> AsDrawn(int window) const { return History(window).AsDrawn(engine_.ShapeLists(window)); }
   bool CanUndo(int window) const { return History(window).CanUndo() || engine_.ShapeLists(window).Adding; }
   bool CanRedo(int window) const { return History(window).CanRedo(); }
-  /// A shape under construction is all that an undo takes back; an open line is finished first, and then
-  /// goes as a step that can be redone. Either way the tool is put down.
+  /// Of a path under construction an undo takes back the last point, and the picture that it belongs to comes back;
+  /// of another shape all. A stroke is finished first, and then goes as a step that can be redone. The tool of a
+  /// path stays in hand, another is put down.
   void Undo(int window);
   void Redo(int window);
 
@@ -200,6 +204,8 @@ class DrawingTools final : public IShapeLocked {
   bool UnderConstruction() const;
   bool EndConstruction();
   void FinishOpenShape(ShapeList& list);
+  void EndOpenShape(int window);
+  bool TakeBackPoint(int window);
   void BindPoint(ShapeList& list, POINTAPI point, bool even, int window);
   void BeginAtPress(Shape& shape, POINTAPI now);
   POINTAPI Aim(Shape& shape, POINTAPI point, bool even);

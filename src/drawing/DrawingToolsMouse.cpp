@@ -87,9 +87,7 @@ bool DrawingTools::MouseDown(int Button, int Shift, float X, float Y, int Window
     if (Button == kLeftButton) {
       if (engine_.AddPoint(shape, Aim(shape, point, Shift & kShiftKey), false)) list.Adding = false;
     } else if (engine_.LOPShape(shape.Kind) && shape.NumPts > 1) {
-      FinishOpenShape(list);
-      ShapeFinished(Window);
-      GoOnDrawing();
+      EndOpenShape(Window);
     }
   }
   LastDown_ = point;
@@ -157,6 +155,43 @@ bool DrawingTools::MouseUp(int Button, int Shift, float X, float Y, int Window) 
   // A square that marked something for a zoom or a carve is no drawing any more.
   if (const Shape* last = LastShape(list); Editor() && !Drawing_ && last && last->Id == drawn && !last->Measuring)
     hand_.Take(Window, ShapesOf(list).size() - 1);
+  return true;
+}
+
+void DrawingTools::EndOpenShape(int window) {
+  FinishOpenShape(List(window));
+  ShapeFinished(window);
+  GoOnDrawing();
+}
+
+bool DrawingTools::TracingPath() const {
+  const ShapeList& list = List(DrawWindow_);
+  return Drawing_ && list.Adding && !ShapesOf(list).empty() && ShapesOf(list).back().Kind == kSwingPath;
+}
+
+void DrawingTools::EndPath() {
+  if (TracingPath() && LastShape(List(DrawWindow_))->NumPts > 1) EndOpenShape(DrawWindow_);
+}
+
+bool DrawingTools::TakeBackPoint(int window) {
+  if (window != DrawWindow_ || !TracingPath()) return false;
+  ShapeList& list = List(window);
+  Shape& path = *LastShape(list);
+  if (path.NumBound < 1) return false;
+  // The one that follows the mouse, if any, takes its place.
+  path.Pts.erase(path.Pts.begin() + path.NumBound - 1);
+  --path.NumBound;
+  --path.NumPts;
+  if (path.NumBound == 0) {
+    engine_.KillShape(list, list.NumShapes - 1);
+    list.Adding = false;
+    list.CurShape = std::min<std::int16_t>(list.CurShape, static_cast<std::int16_t>(list.NumShapes - 1));
+    NewShapePending_ = true;
+  }
+  workspace_.RetreatFrame(window);
+  SetEditBar();
+  workspace_.Refresh(window);
+  SetShapeCaption();
   return true;
 }
 

@@ -37,6 +37,8 @@ class IDrawingWorkspace {
   /// Moves the window's player one position on, and its partner when the two are locked together and the
   /// partner is not on its last; the mix follows.
   virtual void AdvanceFrame(int window) = 0;
+  /// The same one back.
+  virtual void RetreatFrame(int window) = 0;
 
   // --- display
   /// The line of the play bar; empty brings the position back.

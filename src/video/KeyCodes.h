@@ -4,7 +4,9 @@ namespace kinalyx {
 
 /// Key codes as the key tables of the workspace name them.
 enum KeyCode : int {
+  kKeyBackspace = 8,
   kKeyTab = 9,
+  kKeyReturn = 13,
   kKeyCtrl = 17,
   kKeyEscape = 27,
   kKeySpace = 32,

@@ -311,10 +311,12 @@ bool AnalysisWorkspace::OnLastFrame(int window) {
   return player.Position() >= player.VideoLength() - 1;
 }
 
-void AnalysisWorkspace::AdvanceFrame(int window) {
-  if (!OnLastFrame(window)) stage_.MP(window).Play(stage_.MP(window).Position() + 1);
+/// A step of a path: locked videos go along as far as they can.
+void AnalysisWorkspace::MoveFrame(int window, int by) {
+  AVIControl& player = stage_.MP(window);
+  if (const int to = player.Position() + by; to >= 0 && to < player.VideoLength()) player.Play(to);
   compare_.MPManualSignal();
-  compare_.Locks().AdvancePartners(window);
+  compare_.Locks().StepPartners(window, by);
 }
 
 void AnalysisWorkspace::DrawingsChanged(int window) {

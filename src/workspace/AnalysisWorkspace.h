@@ -102,6 +102,7 @@ class AnalysisWorkspace final : public IFrameInterface,
   void ShowFocus();
   void KeepLocks();
   void Select(int slot);
+  void MoveFrame(int window, int by);
 
   // --- from the rooms
   void StageChanged(unsigned changes) override;
@@ -129,7 +130,8 @@ class AnalysisWorkspace final : public IFrameInterface,
   void ReleaseLoopButton() override;
   void Refresh(int window) override { stage_.MP(window).Refresh(); }
   bool OnLastFrame(int window) override;
-  void AdvanceFrame(int window) override;
+  void AdvanceFrame(int window) override { MoveFrame(window, 1); }
+  void RetreatFrame(int window) override { MoveFrame(window, -1); }
   void DisplayData(const std::string& text) override { transport_.DisplayData(text); }
   void ShowToolCaption(const std::string& caption) override { view_.SetDisplayText(caption); }
   void ShowVectorColor(Colour colour) override { view_.ShowVectorColor(colour); }

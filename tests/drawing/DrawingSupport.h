@@ -60,6 +60,7 @@ class TestWorkspace final : public IDrawingWorkspace {
   bool OnLastFrame(int window) override { return frame[window] == 9; }
   int FrameOf(int window) override { return frame[window]; }
   void AdvanceFrame(int window) override { ++frame[window]; }
+  void RetreatFrame(int window) override { --frame[window]; }
   void DisplayData(const std::string& text) override { display = text; }
   void ShowToolCaption(const std::string& text) override { caption = text; }
   void ShowVectorColor(Colour colour) override { vectorColor = colour; }

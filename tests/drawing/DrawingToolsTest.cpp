@@ -86,6 +86,25 @@ TEST(DrawingTools, AFreehandIsOneStrokeAndAPathGoesOnToItsEnd) {
   EXPECT_EQ(desk.List().Shapes[2].NumBound, 2);
 }
 
+TEST(DrawingTools, APathIsTakenBackPointByPoint) {
+  Desk desk;
+  desk.Draw(kSwingPath, {{10, 10}, {30, 10}, {60, 20}});
+  desk.Move(90, 90);
+  desk.tools.Undo(1);
+  EXPECT_EQ(desk.Points(0), (std::vector<POINTAPI>{{10, 10}, {30, 10}}));
+  EXPECT_EQ(desk.List().Shapes[0].NumPts, 3) << "the mouse goes on drawing";
+  EXPECT_EQ(desk.workspace.frame[1], 2) << "a point is a picture";
+  desk.Click(60, 20);
+  for (int points = 3; points > 0; --points) desk.tools.Undo(1);
+  EXPECT_EQ(desk.List().NumShapes + desk.workspace.frame[1], 0);
+  EXPECT_TRUE(desk.tools.Drawing());
+  desk.Click(40, 40);
+  desk.Click(50, 50);
+  desk.tools.EndPath();
+  EXPECT_EQ(desk.Points(0), (std::vector<POINTAPI>{{40, 40}, {50, 50}}));
+  EXPECT_FALSE(desk.tools.Drawing() || desk.tools.TracingPath());
+}
+
 TEST(DrawingTools, TheSamePixelTwiceIsOnePoint) {
   Desk desk;
   desk.Draw(kLine, {{50, 50}, {50, 50}});

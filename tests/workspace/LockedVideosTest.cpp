@@ -65,7 +65,7 @@ TEST_F(LockedVideosTest, PairStepsUpToItsBoundsAndNoFurther) {
   EXPECT_EQ(lock_.BoundsOf(2)->lowest, 38);
   EXPECT_EQ(lock_.BoundsOf(2)->highest, 48);
 
-  lock_.AdvancePartners(2);
+  lock_.StepPartners(2, 1);
   EXPECT_EQ(Positions(2), (std::vector{11, 48}));
 }
 

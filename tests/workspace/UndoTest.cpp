@@ -94,9 +94,11 @@ TEST_F(Undo, AHalfDrawnShapeIsAllThatGoes) {
     EXPECT_EQ(Drawn(), drawn_) << tool;
     EXPECT_FALSE(stage_.analysis.Tools().Drawing()) << "nor is the tool left waiting for its next point";
   }
-  // A path is kept as far as it goes. Redo with another shape in hand gives that up, and brings the path back.
+  // A path goes point by point. Redo with another shape in hand gives that up, and brings the path back.
   TakeUp(kSwingPath);
-  for (const int x : {60, 90, 130}) Click({x, 80});
+  for (const int x : {60, 90, 130, 170}) Click({x, 80});
+  stage_.Key(kKeyBackspace);
+  stage_.Key(kKeyReturn);
   PressUndo();
   EXPECT_EQ(Drawn(), drawn_);
   TakeUp(kLine);

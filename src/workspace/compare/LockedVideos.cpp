@@ -302,9 +302,9 @@ void LockedVideos::Seek(int slot, int position) {
   IsLocked(slot) ? DualControlScroll(slot, position) : GoTo(stage_.MP(slot), position);
 }
 
-void LockedVideos::AdvancePartners(int slot) {
+void LockedVideos::StepPartners(int slot, int by) {
   for (const int each : LockedWith(slot))
-    if (each != slot) StepBy(stage_.MP(each), 1);
+    if (each != slot) StepBy(stage_.MP(each), by);
 }
 
 // ---------------------------------------------------------------- playing together

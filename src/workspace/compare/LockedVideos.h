@@ -78,8 +78,8 @@ class LockedVideos {
   /// The same for any slot with a video: without a lock it moves alone. A position that is shown already is
   /// left alone.
   void Seek(int slot, int position);
-  /// Moves each video locked with a slot one position on, but for one that is on its last.
-  void AdvancePartners(int slot);
+  /// Moves each video locked with a slot by positions, but for one that has not so many left.
+  void StepPartners(int slot, int by);
 
   // --- playing together
 

@@ -270,6 +270,10 @@ bool DrawingEdits::PressKey(int KeyCode, int Shift) {
     }
     return KeyCode == 'Z' || KeyCode == 'Y';
   }
+  if (tools_.TracingPath() && (KeyCode == kKeyReturn || KeyCode == kKeyBackspace)) {
+    KeyCode == kKeyReturn ? tools_.EndPath() : Undo();
+    return true;
+  }
   if (Taken() && !tools_.Drawing() && !bar_.Shown()) return PressKeyInHand(KeyCode, Shift);
   if (!bar_.Shown() || tools_.Drawing()) return false;
   const auto press = [this](EditHandle handle) {

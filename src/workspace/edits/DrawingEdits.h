@@ -120,9 +120,9 @@ class DrawingEdits {
   bool CanClone() const;
 
   // --- keys
-  /// Ctrl+Z, Ctrl+Shift+Z and Ctrl+Y; while a drawing is taken Delete, Ctrl+D, and Shift with an arrow; and while
-  /// the bar is up Tab, Delete, and Shift with an arrow.
-  /// Shift is 1, Ctrl 2. True when the key was one of these.
+  /// Ctrl+Z, Ctrl+Shift+Z and Ctrl+Y; while a path is traced Return, which ends it, and Backspace; while a drawing is
+  /// taken Delete, Ctrl+D, and Shift with an arrow; and while the bar is up Tab, Delete, and Shift with an arrow. Shift
+  /// is 1, Ctrl 2. True when the key was one of these.
   bool PressKey(int KeyCode, int Shift);
   /// Leaves the edit, or closes a panel, the innermost first; false when there is nothing to leave.
   bool Escape();

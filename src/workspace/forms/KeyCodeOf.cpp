@@ -20,6 +20,9 @@ int KeyCodeOf(const QKeyEvent& event) {
   if (IsLetterWithCtrl(event)) return key;
   switch (key) {
     case Qt::Key_Tab: return kKeyTab;
+    case Qt::Key_Backspace: return kKeyBackspace;
+    case Qt::Key_Return:
+    case Qt::Key_Enter: return kKeyReturn;
     case Qt::Key_Space: return kKeySpace;
     case Qt::Key_Left: return kKeyLeft;
     case Qt::Key_Right: return kKeyRight;
