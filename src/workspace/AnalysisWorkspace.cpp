@@ -13,6 +13,7 @@ namespace kinalyx {
 namespace {
 
 constexpr int kLeftButton = 1;
+constexpr int kRightButton = 2;
 constexpr int kMiddleButton = 4;
 
 }  // namespace
@@ -249,6 +250,7 @@ void AnalysisWorkspace::MouseDown(int Button, int Shift, float X, float Y, int I
   if (!tools_.MouseDown(Button, Shift, X, Y, ID)) {
     Select(ID);
     if (Button == kLeftButton && !edits_.Editing()) compare_.Zoom().HandDown(ID, X, Y);
+    if (Button == kRightButton) view_.ShowWindowMenu();
   }
   stage_.News().Note(kCommandsChanged);
   stage_.FocusKeyBox();

@@ -43,6 +43,7 @@ class FakeWindow final : public IWorkspaceView {
   std::optional<Colour> colour;
   std::optional<std::string> notes;
   int openPanels = 0;
+  int windowMenus = 0;
   int updates = 0;  ///< of menus and buttons
 
  private:
@@ -96,6 +97,7 @@ class FakeWindow final : public IWorkspaceView {
     ++openPanels;
     lists = true;
   }
+  void ShowWindowMenu() override { ++windowMenus; }
   bool CloseOpenPanel() override { return std::exchange(lists, false); }
   void CommandsChanged() override { ++updates; }
   void FocusKeyBox() override {}

@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "AnalysisStage.h"
+#include "workspace/commands/KeyWords.h"
 
 namespace kinalyx::test {
 namespace {
@@ -73,12 +74,15 @@ TEST(CommandsTest, EveryKeyOfTheTableDoesItsWork) {
 
 TEST(CommandsTest, TheKeysOfAnEditorTakeThePlaceOfThoseInTheirWay) {
   OpenStage stage("2");
-  const auto caption = [&](const char* item) { return stage.Commands().Find(item)->caption; };
-  EXPECT_EQ(caption("vo") + stage.Commands().KeyOf("vloop"), "O - Open New VideoL");
+  const auto caption = [&](const char* item) { return CaptionWithKey(*stage.Commands().Find(item)); };
+  EXPECT_EQ(caption("vo"), "O - Open New Video");
+  EXPECT_EQ(caption("FitPicture") + stage.Commands().KeyOf("vloop"), "Fit Picture in Window\tWL");
   stage.settings.KeysAndTools = kEditorKeys;
   stage.analysis.SettingsChanged();
-  EXPECT_EQ(caption("vo") + stage.Commands().KeyOf("vloop"), "Ctrl+O - Open New VideoCtrl+L");
-  EXPECT_EQ(caption("VLib"), "Student Profiles - Ctrl+Home");
+  EXPECT_EQ(caption("vo") + stage.Commands().KeyOf("vloop"), "Open New Video\tCtrl+OCtrl+L");
+  EXPECT_EQ(caption("vplay"), "Play / Pause Toggle\tSpace");
+  EXPECT_EQ(caption("VLib"), "Student Profiles\tCtrl+Home");
+  EXPECT_EQ(caption("MnuCloseAll"), "Close All Videos\tEsc");
   stage.Type('o');
   stage.Key(kKeyHome);
   EXPECT_EQ(stage.window.openPanels + stage.libraryVisits, 0);
@@ -97,6 +101,26 @@ TEST(CommandsTest, TheKeysOfAnEditorTakeThePlaceOfThoseInTheirWay) {
   EXPECT_TRUE(stage.MP(1).FlipHorizontal()) << "all others stay as they are";
   stage.Key('W', kCtrl);
   EXPECT_FALSE(stage.Stage().HasVideo(1));
+}
+
+TEST(CommandsTest, ARightClickOffersWhatCanBeDoneThere) {
+  OpenStage stage("2");
+  const auto items = [&] {
+    std::string all;
+    for (const Command* command : stage.Commands().WindowMenu()) all += command ? command->item + " " : "| ";
+    return all;
+  };
+  stage.Click(1, 100, 100, 2);
+  EXPECT_EQ(stage.window.windowMenus, 1);
+  EXPECT_EQ(items(), "vo MnuClose | FitPicture TMAX vFlip | TMark | vloop TSFrames TN PrintCall ");
+  stage.Stage().SelectWindow(2);
+  EXPECT_EQ(items(), "vo ");
+  stage.Stage().SelectWindow(1);
+  stage.Draw(kLine, {10, 100}, {200, 100});
+  stage.Click(1, 100, 100, 2);
+  stage.Type('p');
+  stage.Click(1, 300, 300, 2);
+  EXPECT_EQ(stage.window.windowMenus, 1) << "a drawing has its own, and a video that plays is stopped";
 }
 
 TEST(CommandsTest, PanAndZoomKeysKeepTheirLimits) {

@@ -86,7 +86,8 @@ constexpr KeyRow kKeyRows[] = {
     {"vr", Letter('R')},
     {"vF", Key(kKeyUp)},
     {"vplay", Letter('P')},
-    {"PlayPause", Key(kKeySpace, 0)},
+    {"PlayPause", Key(kKeySpace, 0), KeySet::Classic},
+    {"vplay", Key(kKeySpace, 0), KeySet::Editor},
     {"VL", Key(kKeyDown)},
     {"vp", Key(kKeyLeft)},
     {"vn", Key(kKeyRight)},
@@ -97,6 +98,8 @@ constexpr KeyRow kKeyRows[] = {
     {"MnuClose", Letter('C')},
     {"Escape", Key(kKeyEscape)},
     {"ReopenVideos", Key('T', kShift | kCtrl)},
+    {"UndoDrawing", Key('Z', kCtrl)},
+    {"RedoDrawing", Key('Z', kShift | kCtrl)},
     {"Lastcadoff", Key(kKeyDelete)},
     {"TMark", Letter('M')},
     {"NextDrawing", Letter('N')},
@@ -149,22 +152,10 @@ constexpr KeyRow kKeyRows[] = {
     {"Window4", Key(kKeyNumpad0 + 1)},
 };
 
-struct CaptionRow {
-  const char* item;
-  const char* classic;
-  const char* editor;
-};
-
-/// The captions that name a key which the two sets have for different things.
-constexpr CaptionRow kCaptionRows[] = {
-    {"EKTMM", "Main Menu - End key", "Main Menu - Ctrl+End"},
-    {"vo", "O - Open New Video", "Ctrl+O - Open New Video"},
-    {"vloop", "L - Loop Video", "Ctrl+L - Loop Video"},
-    {"PlayBackward", "Play Backward", "J - Play Backward"},
-    {"RangeStart", "Play From Here", "I - Play From Here"},
-    {"RangeEnd", "Play Up To Here", "O - Play Up To Here"},
-    {"SaveNow", "Save Drawings and Notes", "Ctrl+S - Save Drawings and Notes"},
-};
+/// What fits a window, in the order of its menu; an empty name divides.
+constexpr const char* kWindowMenu[] = {"vo",   "ReopenVideos", "MnuClose", "",      "FitPicture",
+                                       "TMAX", "vFlip",        "",         "TMark", "LineUp",
+                                       "",     "vloop",        "TSFrames", "TN",    "PrintCall"};
 
 using Obstacle = std::function<std::string()>;
 
@@ -238,8 +229,7 @@ void MenuBar::AddVideo() {
        hasVideo});
   Add({"MnuCloseAll", kVideo, "Esc - Close All Videos", "Closeallbtn", "close-all", "Close All Videos", kOpening,
        [this] { videos_.CloseAll(videos_.Stood()); }, anyVideo});
-  Add({"ReopenVideos", kVideo, "Ctrl+Shift+T - Reopen Closed Videos", "", "", "", kNoButton,
-       [this] { videos_.ReopenClosed(); },
+  Add({"ReopenVideos", kVideo, "Reopen Closed Videos", "", "", "", kNoButton, [this] { videos_.ReopenClosed(); },
        Needs([this] { return videos_.CanReopen(); }, "No video was closed, or every window is taken")});
   AddSeparator(kVideo);
   plain("vF", "Up Arrow - Rewind", "", [this] { transport_.Rewind(); });
@@ -257,10 +247,10 @@ void MenuBar::AddPlaying() {
     Add({item, kVideo, caption, "", "", "", kNoButton, std::move(run), std::move(obstacle)});
   };
   AddSeparator(kVideo);
-  Add({"FitPicture", kVideo, "W - Fit Picture in Window", "", "fit", "", kNoButton,
-       [this] { compare_.Zoom().ToggleFit(); }, hasVideo, [this] { return HasVideo() && stage_.Current().Fits; }});
-  add("Slower", "[ - Slower", hasVideo, [this] { transport_.SetSpeed(NextSpeed(transport_.Speed(), false)); });
-  add("Faster", "] - Faster", hasVideo, [this] { transport_.SetSpeed(NextSpeed(transport_.Speed(), true)); });
+  Add({"FitPicture", kVideo, "Fit Picture in Window", "", "fit", "", kNoButton, [this] { compare_.Zoom().ToggleFit(); },
+       hasVideo, [this] { return HasVideo() && stage_.Current().Fits; }});
+  add("Slower", "Slower", hasVideo, [this] { transport_.SetSpeed(NextSpeed(transport_.Speed(), false)); });
+  add("Faster", "Faster", hasVideo, [this] { transport_.SetSpeed(NextSpeed(transport_.Speed(), true)); });
   add("PlayBackward", "Play Backward", hasVideo, [this] { transport_.PlayBackward(); });
   add("RangeStart", "Play From Here", unlocked, [this] { transport_.ToggleRangeStart(); });
   add("RangeEnd", "Play Up To Here", unlocked, [this] { transport_.ToggleRangeEnd(); });
@@ -304,11 +294,10 @@ void MenuBar::AddDraw() {
     if (tool.group == kDrawing && tool.item != "MenuDraw11") tool.twice = [this] { tools_.StayInHand(); };
   }
   AddSeparator(kDraw);
-  Add({"UndoDrawing", kDraw, "Ctrl+Z - Undo", "UndoBtn", "undo", "Undo (Ctrl+Z)", kErasing, [this] { edits_.Undo(); },
+  Add({"UndoDrawing", kDraw, "Undo", "UndoBtn", "undo", "Undo (Ctrl+Z)", kErasing, [this] { edits_.Undo(); },
        Needs([this] { return HasVideo() && edits_.CanUndo(); },
              "No change of the drawings in the current window to undo")});
-  Add({"RedoDrawing", kDraw, "Ctrl+Shift+Z - Redo", "RedoBtn", "redo", "Redo (Ctrl+Shift+Z)", kErasing,
-       [this] { edits_.Redo(); },
+  Add({"RedoDrawing", kDraw, "Redo", "RedoBtn", "redo", "Redo (Ctrl+Shift+Z)", kErasing, [this] { edits_.Redo(); },
        Needs([this] { return HasVideo() && edits_.CanRedo(); },
              "No change of the drawings in the current window was undone")});
   Add({"Lastcadoff", "", "", "", "delete-last", "Delete Last Object Drawn", kErasing, [this] { tools_.DeleteLast(); },
@@ -338,12 +327,12 @@ void MenuBar::AddTimes() {
       "DrawingFromHere", "From Here On", [this] { times_.ShowFromHere(); }, [](const ShapeTime&) { return false; });
   plain(
       "DrawingUntilHere", "Until Here", [this] { times_.ShowUntilHere(); }, [](const ShapeTime&) { return false; });
-  Add({"NextDrawing", kMoments, "N - Next Drawing", "", "", "", kNoButton, [this] { times_.GoToNext(); },
+  Add({"NextDrawing", kMoments, "Next Drawing", "", "", "", kNoButton, [this] { times_.GoToNext(); },
        Needs([this] { return HasVideo() && times_.AnyTimed(); },
              "No drawing of the current video belongs to a moment")});
   Add({"HideDrawings",
        kDraw,
-       "V - Hide Drawings",
+       "Hide Drawings",
        "",
        "",
        "",
@@ -353,7 +342,7 @@ void MenuBar::AddTimes() {
        [this] { return tools_.Hidden(); }});
   Add({"ShapeLabels",
        kDraw,
-       "D - Figures Beside Drawings",
+       "Figures Beside Drawings",
        "",
        "",
        "",
@@ -397,15 +386,15 @@ void MenuBar::AddTools() {
   Add({"TLAV", kTools, "Loop All Videos", "", "loop", "", kNoButton, [this] { transport_.ToggleLoopAll(); },
        Needs([this] { return stage_.AnyVideo(); }, "Open a video first"), [this] { return transport_.AllLooping(); }});
   const auto several = Needs([this] { return transport_.All().Several(); }, "Needs videos in two windows or more");
-  Add({"AllVideos", kTools, "A - Move All Videos", "", "", "", kNoButton, [this] { transport_.ToggleMovesAll(); },
-       several, [this] { return transport_.MovesAll(); }});
-  Add({"PlayAll", kTools, "Shift+Space - Play / Pause All Videos", "", "play", "", kNoButton,
+  Add({"AllVideos", kTools, "Move All Videos", "", "", "", kNoButton, [this] { transport_.ToggleMovesAll(); }, several,
+       [this] { return transport_.MovesAll(); }});
+  Add({"PlayAll", kTools, "Play / Pause All Videos", "", "play", "", kNoButton,
        [this] { transport_.All().TogglePlay(); }, several});
-  Add({"RewindAll", kTools, "Ctrl+Up Arrow - Rewind All Videos", "", "rewind", "", kNoButton,
-       [this] { transport_.All().Rewind(); }, several});
-  Add({"BackAll", kTools, "Ctrl+Left Arrow - All Back 1 Frame", "", "step-back", "", kNoButton,
-       [this] { transport_.All().Step(false); }, several});
-  Add({"ForwardAll", kTools, "Ctrl+Right Arrow - All Next Frame", "", "step-forward", "", kNoButton,
+  Add({"RewindAll", kTools, "Rewind All Videos", "", "rewind", "", kNoButton, [this] { transport_.All().Rewind(); },
+       several});
+  Add({"BackAll", kTools, "All Back 1 Frame", "", "step-back", "", kNoButton, [this] { transport_.All().Step(false); },
+       several});
+  Add({"ForwardAll", kTools, "All Next Frame", "", "step-forward", "", kNoButton,
        [this] { transport_.All().Step(true); }, several});
   AddSeparator(kTools);
   Add({"TVT",
@@ -441,7 +430,7 @@ void MenuBar::AddTools() {
   Add({"TMark", kTools, "Mark Video Position", "", "mark", "", kNoButton, [this] { transport_.AddMark(); }, hasVideo});
   Add({"TMarkoff", kTools, "Video Marks Off", "", "", "", kNoButton, [this] { transport_.ClearMarks(); },
        Needs([this] { return !stage_.Current().data.Study.Marks.empty(); }, "The current video has no marks")});
-  Add({"LineUp", kTools, "U - Line Up Videos by Mark", "", "lock", "", kNoButton,
+  Add({"LineUp", kTools, "Line Up Videos by Mark", "", "lock", "", kNoButton,
        [this] {
          const std::string why = compare_.LineUp().Obstacle();
          why.empty() ? compare_.LineUp().ByMark() : transport_.Announce(why);
@@ -533,6 +522,17 @@ void MenuBar::AddBrisko() {
        }});
 }
 
+std::vector<const Command*> MenuBar::WindowMenu() const {
+  std::vector<const Command*> live;
+  for (const char* item : kWindowMenu) {
+    const Command* command = Find(item);
+    if (!command && !live.empty() && live.back()) live.push_back(nullptr);
+    if (command && command->Reason().empty()) live.push_back(command);
+  }
+  while (!live.empty() && !live.back()) live.pop_back();
+  return live;
+}
+
 /// What only keys do.
 void MenuBar::AddKeysAlone() {
   const auto add = [this](std::string item, std::function<void()> run) {
@@ -559,17 +559,21 @@ void MenuBar::AddKeysAlone() {
 }
 
 void MenuBar::TakeKeys(bool editor) {
-  editor_ = editor;
   const auto find = [this](const std::string& item) -> Command& {
     return *std::ranges::find(commands_, item, &Command::item);
   };
-  for (Command& command : commands_) command.keys.clear();
-  for (const KeyRow& row : kKeyRows)
-    if (row.set == KeySet::Both || (row.set == KeySet::Editor) == editor) find(row.item).keys.push_back(row.key);
+  for (Command& command : commands_) {
+    command.keys.clear();
+    command.keyInColumn = editor;
+  }
+  for (const KeyRow& row : kKeyRows) {
+    if (row.set != KeySet::Both && (row.set == KeySet::Editor) != editor) continue;
+    // What an editor is used to is what the menus tell.
+    auto& keys = find(row.item).keys;
+    keys.insert(row.set == KeySet::Editor ? keys.begin() : keys.end(), row.key);
+  }
   for (int tool = 0; tool < 12; ++tool) find("MenuDraw" + std::to_string(tool)).keys.push_back(Key(kKeyF1 + tool));
   for (const ScreenMode& mode : ScreenModes()) find(std::string(mode.Item)).keys.push_back(Key(kKey0 + mode.Mode, 0));
-  for (const CaptionRow& row : kCaptionRows) find(row.item).caption = editor ? row.editor : row.classic;
-  SetProfilesTitle(profiles_);
 }
 
 }  // namespace kinalyx

@@ -7,6 +7,8 @@ class ICommandsView {
  public:
   virtual ~ICommandsView() = default;
   virtual void ShowOpenPanel() = 0;
+  /// Opens the menu of the current window at the mouse.
+  virtual void ShowWindowMenu() = 0;
   /// False when it was not open.
   virtual bool CloseOpenPanel() = 0;
   /// The notes that go with a printout.

@@ -58,8 +58,7 @@ void MenuBar::RunTwice(const std::string& name) {
 }
 
 void MenuBar::SetProfilesTitle(const std::string& title) {
-  profiles_ = title;
-  std::ranges::find(commands_, "VLib", &Command::item)->caption = title + (editor_ ? " - Ctrl+Home" : " - Home key");
+  std::ranges::find(commands_, "VLib", &Command::item)->caption = title + " - Home key";
 }
 
 bool MenuBar::PreparetoExit() {

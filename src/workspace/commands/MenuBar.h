@@ -67,6 +67,7 @@ struct Command {
   std::function<void()> twice = {};    ///< what a double click on its button does besides; empty: nothing
   bool spare = false;                  ///< its button is among the first to leave a strip that is too narrow
   std::vector<KeyStroke> keys = {};
+  bool keyInColumn = false;  ///< its key stands in the column of the keys also where the caption names one
 
   /// The feature is not built yet; such a command is nowhere to be seen.
   bool Coming() const { return !run; }
@@ -80,7 +81,7 @@ class MenuBar {
  public:
   MenuBar(const CommandTargets& targets, ICommandsView& view, INavigation& navigation);
 
-  /// Takes the keys of an editor, or the classic ones; captions and tips follow.
+  /// Takes the keys of an editor, or the classic ones; menus and tips follow.
   void TakeKeys(bool editor);
   /// What a command is called by, in words for a tip; empty for one without a key.
   std::string KeyOf(const std::string& name) const;
@@ -93,6 +94,8 @@ class MenuBar {
   void RunTwice(const std::string& name);
   /// Null for an unknown name.
   const Command* Find(const std::string& name) const;
+  /// What can be done with the current window, for a menu of its own; null divides.
+  std::vector<const Command*> WindowMenu() const;
   /// The title of the profiles page, with the user's word for a student, as the Go To menu shows it.
   void SetProfilesTitle(const std::string& title);
   /// Puts the tools down, writes and closes all videos and their small windows. False when the user
@@ -145,8 +148,6 @@ class MenuBar {
   ICommandsView& view_;
   INavigation& navigation_;
   std::vector<Command> commands_;
-  std::string profiles_ = "Student Profiles";
-  bool editor_ = false;
 };
 
 }  // namespace kinalyx

@@ -124,6 +124,10 @@ void AnalysisForm::MakeStage() {
     connect(cell, &VideoCell::Sought, this,
             [this, slot](int position) { analysis_->Transport().Seek(slot, position); });
     connect(cell, &VideoCell::SeekEnded, this, [this, slot] { analysis_->CellPressed(slot); });
+    connect(cell, &VideoCell::MenuWanted, this, [this, slot] {
+      analysis_->CellPressed(slot);
+      ShowWindowMenu();
+    });
     connect(cell, &VideoCell::Hovered, this,
             [this, cell, slot](int position, QPoint at) { preview_->Want(slot, position, cell->mapToParent(at)); });
     connect(cell, &VideoCell::Left, this, [this] { preview_->Away(); });
@@ -407,6 +411,8 @@ void AnalysisForm::ShowOpenPanel() {
   PlaceOpenPanel();
   openPanel_->Open();
 }
+
+void AnalysisForm::ShowWindowMenu() { menus_->ShowAtMouse(analysis_->Commands().WindowMenu()); }
 
 /// Beside the stage it has its share of the width; a small window leaves more to the videos.
 void AnalysisForm::FitOpenPanel() {

@@ -109,6 +109,7 @@ class AnalysisForm : public PageWidget, private IWorkspaceView, private IOpenVid
   void ShowRateForm() override;
   void ShowNotesform() override;
   void ShowOpenPanel() override;
+  void ShowWindowMenu() override;
   bool CloseOpenPanel() override;
   void CommandsChanged() override;
   void FocusKeyBox() override;

@@ -1,6 +1,8 @@
 #include "workspace/forms/CommandMenus.h"
 
+#include <QCursor>
 #include <QEvent>
+#include <QTimer>
 #include <map>
 
 #include "platform/widgets/Icons.h"
@@ -49,6 +51,27 @@ void CommandMenus::Update() {
     action->setToolTip(QString::fromStdString(reason.empty() ? command->tip : reason));
     if (command->checked) action->setChecked(command->checked());
   }
+}
+
+void CommandMenus::ShowAtMouse(const std::vector<const Command*>& commands) {
+  auto* menu = new QMenu(this);
+  menu->setObjectName("WindowMenu");
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  const Theme theme = CurrentTheme();
+  for (const Command* command : commands) {
+    if (!command) {
+      menu->addSeparator();
+      continue;
+    }
+    QAction* action = menu->addAction(QString::fromStdString(CaptionInColumns(*command)));
+    action->setObjectName("Window" + QString::fromStdString(command->item));
+    action->setCheckable(static_cast<bool>(command->checked));
+    if (command->checked) action->setChecked(command->checked());
+    else if (!command->icon.empty())
+      action->setIcon(Icon(QString::fromStdString(command->icon), theme.heading, theme.accentText));
+    connect(action, &QAction::triggered, this, [this, item = command->item] { emit Wanted(item); });
+  }
+  QTimer::singleShot(0, menu, [menu] { menu->popup(QCursor::pos()); });
 }
 
 void CommandMenus::changeEvent(QEvent* event) {

@@ -19,6 +19,8 @@ class CommandMenus : public QMenuBar {
 
   /// Enables, checks and explains the entries anew.
   void Update();
+  /// Opens a menu of these commands at the mouse, once the press that wants it is over; null divides.
+  void ShowAtMouse(const std::vector<const Command*>& commands);
 
  signals:
   /// A command is wanted, by its name in the table.

@@ -105,10 +105,13 @@ void FilmRow::paintEvent(QPaintEvent*) {
 }
 
 void FilmRow::mousePressEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton || maximum_ <= 0) return;
-  seeking_ = true;
+  if (maximum_ <= 0) return;
+  const bool menu = event->button() == Qt::RightButton;
+  if (!menu && event->button() != Qt::LeftButton) return;
   emit Left();
   emit Sought(PositionAt(event->position().x()));
+  if (menu) return emit MenuWanted();
+  seeking_ = true;
 }
 
 void FilmRow::mouseMoveEvent(QMouseEvent* event) {

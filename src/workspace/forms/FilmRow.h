@@ -24,6 +24,8 @@ class FilmRow : public QWidget {
   /// The user wants this position; and has let go of it.
   void Sought(int position);
   void SeekEnded();
+  /// The same position by the right button, for a menu.
+  void MenuWanted();
   /// The pointer is over a position, `x` pixels from the left end; or it has gone.
   void Hovered(int position, int x);
   void Left();

@@ -118,6 +118,7 @@ VideoCell::VideoCell(int slot, PlayerServices& services, QWidget* parent) : QWid
   film_->setObjectName(QString("FilmRow%1").arg(slot));
   connect(film_, &FilmRow::Sought, this, &VideoCell::Sought);
   connect(film_, &FilmRow::SeekEnded, this, &VideoCell::SeekEnded);
+  connect(film_, &FilmRow::MenuWanted, this, &VideoCell::MenuWanted);
   connect(film_, &FilmRow::Hovered, this,
           [this](int position, int x) { emit Hovered(position, QPoint(film_->x() + x, film_->y())); });
   connect(film_, &FilmRow::Left, this, &VideoCell::Left);
@@ -278,6 +279,7 @@ void VideoCell::mousePressEvent(QMouseEvent* event) {
   const Strip strip = StripNow();
   const QPointF at = event->position();
   seeking_ = event->button() == Qt::LeftButton && maximum_ > 0 && strip.IsOnLine(at);
+  if (event->button() == Qt::RightButton) return emit MenuWanted();
   if (!seeking_) return emit Pressed();
   emit Left();
   SeekTo(at.x());

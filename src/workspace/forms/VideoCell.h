@@ -42,6 +42,8 @@ class VideoCell : public QWidget {
  signals:
   /// A press beside the picture.
   void Pressed();
+  /// The right button was pressed there, or on the pictures of the film, at the position that it means.
+  void MenuWanted();
   void DoubleClicked();
   /// The user wants this position, by the strip beneath the picture; and has let go of it.
   void Sought(int position);
