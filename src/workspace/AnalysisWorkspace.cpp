@@ -170,20 +170,29 @@ void AnalysisWorkspace::CellDoubleClicked(int slot) {
   if (!stage_.HasVideo(slot)) menuBar_.Run("vo");
 }
 
-void AnalysisWorkspace::OpenFiles(int slot, const std::vector<std::string>& paths) {
-  if (paths.empty()) return;
+int AnalysisWorkspace::OpenFiles(int slot, const std::vector<std::string>& paths) {
+  if (paths.empty()) return 0;
+  const auto refuse = [this](MessageKind kind, const char* words) {
+    host_.Message(kind, "", words);
+    return 0;
+  };
   auto videos = host_.Drives().Ask(paths.front(), [paths] { return VideosAmong(paths); });
-  if (!videos) return host_.Message(MessageKind::Warning, "", "The drive with the videos is not answering.");
-  if (videos->empty()) return host_.Message(MessageKind::Information, "", "There is no video among these files.");
+  if (!videos) return refuse(MessageKind::Warning, "The drive with the videos is not answering.");
+  if (videos->empty()) return refuse(MessageKind::Information, "There is no video among these files.");
+  int opened = 0;
   if (slot > 0) {
     Select(slot);
-    if (!videos_.OpenVideo(slot, videos->front())) return;
+    if (!videos_.OpenVideo(slot, videos->front())) return 0;
     videos->erase(videos->begin());
+    ++opened;
   }
   std::string status;
-  for (const std::string& path : *videos)
+  for (const std::string& path : *videos) {
     if (videos_.SendToAnalysis(path, [&](const std::string& words) { status = words; }) == 0) break;
+    ++opened;
+  }
   if (stage_.VideoCount() == kSlots && !status.empty()) host_.Message(MessageKind::Information, "", status);
+  return opened;
 }
 
 bool AnalysisWorkspace::OpenTogether(const std::vector<std::string>& paths) {

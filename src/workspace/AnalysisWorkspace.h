@@ -73,8 +73,8 @@ class AnalysisWorkspace final : public IFrameInterface,
   void CellPressed(int slot);
   void CellDoubleClicked(int slot);
   /// Opens the videos among files and folders as they lie: the first in the window on whose cell they were dropped,
-  /// the others, or, for slot 0, all of them, in free ones as long as there are any.
-  void OpenFiles(int slot, const std::vector<std::string>& paths);
+  /// the others, or, for slot 0, all of them, in free ones as long as there are any. Returns how many were opened.
+  int OpenFiles(int slot, const std::vector<std::string>& paths);
   /// Sends videos to free windows; two of them are locked where they stand side by side. False when none was opened.
   bool OpenTogether(const std::vector<std::string>& paths);
   void PutToolDown();

@@ -19,7 +19,11 @@ class FakeOpener final : public IOpenVideo {
     opened.push_back(path);
     return true;
   }
-  void OpenFamily(const std::vector<std::string>& paths) override { family = paths; }
+  int OpenFamily(const std::vector<std::string>& paths) override {
+    family = paths;
+    return static_cast<int>(paths.size());
+  }
+  int PickAndOpen() override { return 2; }
   void UndoLastOpen() override { ++undone; }
   void OpenVideoDone() override { ++done; }
 };

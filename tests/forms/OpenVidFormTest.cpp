@@ -61,6 +61,10 @@ TYPED_TEST(OpenFormTest, OpensUndoesAndIsDone) {
   this->Button(2)->click();
   EXPECT_EQ(this->opener.undone, 2);
   EXPECT_FALSE(this->Button(2)->isEnabled());
+  this->form->NoteOpened(1);  // dropped on a window
+  this->form->template findChild<QPushButton*>("OpenFromDiskBtn")->click();
+  for (int each = 0; each < 4; ++each) this->Button(2)->click();
+  EXPECT_EQ(this->opener.undone, 5);
   QTest::keyClick(this->VideoList(), Qt::Key_Escape);
   EXPECT_EQ(this->opener.done, 1);
   this->form->Leave();

@@ -98,6 +98,7 @@ class FakeWindow final : public IWorkspaceView {
     lists = true;
   }
   void ShowWindowMenu() override { ++windowMenus; }
+  void OpenFromDisk() override {}
   bool CloseOpenPanel() override { return std::exchange(lists, false); }
   void CommandsChanged() override { ++updates; }
   void FocusKeyBox() override {}

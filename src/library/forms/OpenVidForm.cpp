@@ -45,6 +45,9 @@ OpenVideoParts::OpenVideoParts(PlayerServices& services, const Settings& setting
   buttons_[0] = new Button("CmdOpenVideo0", "Open", "open");
   buttons_[1] = new Button("CmdOpenVideo1", "Done", {}, Look::Quiet);
   buttons_[2] = new Button("CmdOpenVideo2", "Undo Last Open", {}, Look::Quiet);
+  disk_ = new Button("OpenFromDiskBtn", "From Disk...", {}, Look::Quiet);
+  disk_->setToolTip("Opens videos that lie anywhere, as they lie: nothing is copied to the library");
+  connect(disk_, &QPushButton::clicked, this, [this] { NoteOpened(opener_.PickAndOpen()); });
   for (int index = 0; index < 3; ++index)
     connect(buttons_[index], &QPushButton::clicked, this, [this, index] { CmdOpenVideo_Click(index); });
   connect(lists_, &LibraryLists::StudentChosen, this, &OpenVideoParts::VidCountUpdate);
@@ -71,6 +74,11 @@ void OpenVideoParts::Return() {
 void OpenVideoParts::Leave() {
   preview_->Unload();
   rows_->Stop();
+}
+
+void OpenVideoParts::NoteOpened(int videos) {
+  opened_ += videos;
+  ShowButtons();
 }
 
 void OpenVideoParts::SettingsChanged() {
@@ -138,7 +146,7 @@ void OpenVideoParts::OpenSeveral(const std::vector<int>& rows) {
   if (!browser_.Drives().Answers(browser_.Tree().Root(), paths.front()))
     return host_.Message(MessageKind::Warning, "",
                          "The drive with these videos is not answering. They were not opened.");
-  opener_.OpenFamily(paths);
+  opened_ += opener_.OpenFamily(paths);
 }
 
 void OpenVideoParts::OpenFamily() {
@@ -212,6 +220,7 @@ OpenVidForm::OpenVidForm(PlayerServices& services, const Settings& settings, Las
   first->addStretch(1);
   first->addWidget(buttons_[0]);
   auto* second = new QHBoxLayout;
+  second->addWidget(disk_);
   second->addWidget(buttons_[2]);
   second->addStretch(1);
   second->addWidget(buttons_[1]);
@@ -244,6 +253,7 @@ OpenVidCForm::OpenVidCForm(PlayerServices& services, const Settings& settings, L
   row->setContentsMargins(8, 8, 8, 8);
   row->addWidget(marks_);
   row->addStretch(1);
+  row->addWidget(disk_);
   row->addWidget(buttons_[2]);
   row->addWidget(buttons_[1]);
   row->addWidget(buttons_[0]);

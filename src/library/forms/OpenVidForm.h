@@ -39,6 +39,8 @@ class OpenVideoParts : public QFrame {
   /// together.
   void SettingsChanged();
   LibraryBrowser& Browser() { return browser_; }
+  /// So many videos were opened otherwise while it stood open, which can be undone here as well.
+  void NoteOpened(int videos);
   /// 0 open, 1 done, 2 load the student's files or undo the last open.
   void CmdOpenVideo_Click(int Index);
 
@@ -55,6 +57,7 @@ class OpenVideoParts : public QFrame {
   SidecarMarkLabels* marks_;
   FigureLabel* count_;
   Button* buttons_[3] = {};
+  Button* disk_;
 
  private:
   void VideoList_Click();

@@ -153,9 +153,9 @@ constexpr KeyRow kKeyRows[] = {
 };
 
 /// What fits a window, in the order of its menu; an empty name divides.
-constexpr const char* kWindowMenu[] = {"vo",   "ReopenVideos", "MnuClose", "",      "FitPicture",
-                                       "TMAX", "vFlip",        "",         "TMark", "LineUp",
-                                       "",     "vloop",        "TSFrames", "TN",    "PrintCall"};
+constexpr const char* kWindowMenu[] = {
+    "vo", "OpenFromDisk", "ReopenVideos", "MnuClose", "",      "FitPicture", "TMAX", "vFlip",
+    "",   "TMark",        "LineUp",       "",         "vloop", "TSFrames",   "TN",   "PrintCall"};
 
 using Obstacle = std::function<std::string()>;
 
@@ -203,6 +203,7 @@ void MenuBar::AddVideo() {
   };
   Add({"vo", kVideo, "O - Open New Video", "Openbtn", "open", "Open Videos", kOpening,
        [this] { view_.ShowOpenPanel(); }});
+  Add({"OpenFromDisk", kVideo, "Open From Disk...", "", "", "", kNoButton, [this] { view_.OpenFromDisk(); }});
   plain("vr", "R - Rewind Video", "rewind", [this] { transport_.Rewind(); });
   plain("vplay", "P - Play / Pause Toggle", "play", [this] { transport_.TogglePlay(); });
   Add({"vloop", kVideo, "L - Loop Video", "", "loop", "", kNoButton, [this] { transport_.ToggleLoop(); }, hasVideo,

@@ -7,6 +7,8 @@ class ICommandsView {
  public:
   virtual ~ICommandsView() = default;
   virtual void ShowOpenPanel() = 0;
+  /// Asks for videos that lie anywhere, and opens them.
+  virtual void OpenFromDisk() = 0;
   /// Opens the menu of the current window at the mouse.
   virtual void ShowWindowMenu() = 0;
   /// False when it was not open.

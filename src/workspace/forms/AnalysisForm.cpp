@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "core/WindowModes.h"
+#include "library/VideoNames.h"
 #include "library/forms/OpenVidForm.h"
 #include "platform/files/Folders.h"
 #include "platform/widgets/FileDrop.h"
@@ -160,7 +161,12 @@ void AnalysisForm::TakeDropped(const std::vector<std::string>& paths, QPoint at)
   int slot = analysis_->Stage().CurrentWindow;
   for (int each = 1; each <= kSlots; ++each)
     if (!Cell(each).isHidden() && Cell(each).geometry().contains(at)) slot = each;
-  analysis_->OpenFiles(slot, paths);
+  NoteOpened(analysis_->OpenFiles(slot, paths));
+}
+
+/// The panel can undo what came by other roads while it is open.
+void AnalysisForm::NoteOpened(int videos) {
+  if (openPanel_ && !openPanel_->isHidden()) openPanel_->NoteOpened(videos);
 }
 
 bool AnalysisForm::CloseAll() {
@@ -397,7 +403,16 @@ bool AnalysisForm::OpenVideo(const std::string& path) {
   return analysis_->Videos().OpenVideo(analysis_->Stage().CurrentWindow, path);
 }
 
-void AnalysisForm::OpenFamily(const std::vector<std::string>& paths) { analysis_->Videos().OpenFamily(paths); }
+int AnalysisForm::OpenFamily(const std::vector<std::string>& paths) { return analysis_->Videos().OpenFamily(paths); }
+
+int AnalysisForm::PickAndOpen() {
+  const int opened = analysis_->OpenFiles(analysis_->Stage().CurrentWindow,
+                                          host_.PickFiles({"Open Videos From Disk", "", VideoFilter()}));
+  FocusKeyBox();
+  return opened;
+}
+
+void AnalysisForm::OpenFromDisk() { NoteOpened(PickAndOpen()); }
 
 void AnalysisForm::UndoLastOpen() { analysis_->Videos().UndoLastOpen(); }
 

@@ -65,6 +65,7 @@ class AnalysisForm : public PageWidget, private IWorkspaceView, private IOpenVid
   void FitOpenPanel();
   bool ScaleBars();
   void Run(const std::string& command);
+  void NoteOpened(int videos);
   void TakeDropped(const std::vector<std::string>& paths, QPoint at);
   void PlaceCaption();
   void PressColour(const Shape* taken);
@@ -110,13 +111,15 @@ class AnalysisForm : public PageWidget, private IWorkspaceView, private IOpenVid
   void ShowNotesform() override;
   void ShowOpenPanel() override;
   void ShowWindowMenu() override;
+  void OpenFromDisk() override;
   bool CloseOpenPanel() override;
   void CommandsChanged() override;
   void FocusKeyBox() override;
 
   // --- IOpenVideo
   bool OpenVideo(const std::string& path) override;
-  void OpenFamily(const std::vector<std::string>& paths) override;
+  int OpenFamily(const std::vector<std::string>& paths) override;
+  int PickAndOpen() override;
   void UndoLastOpen() override;
   void OpenVideoDone() override;
 

@@ -86,15 +86,17 @@ int Videos::SendToAnalysis(const std::string& path, const std::function<void(con
   return slot;
 }
 
-void Videos::OpenFamily(const std::vector<std::string>& paths) {
-  bool first = true;
+int Videos::OpenFamily(const std::vector<std::string>& paths) {
+  int opened = 0;
   for (const std::string& path : paths) {
-    if (!std::exchange(first, false)) {
-      if (!stage_.IsShown(stage_.CurrentWindow + 1)) return;
+    if (opened > 0) {
+      if (!stage_.IsShown(stage_.CurrentWindow + 1)) break;
       stage_.SelectWindow(stage_.CurrentWindow + 1);
     }
-    if (!OpenVideo(stage_.CurrentWindow, path)) return;
+    if (!OpenVideo(stage_.CurrentWindow, path)) break;
+    ++opened;
   }
+  return opened;
 }
 
 // ---------------------------------------------------------------- filling

@@ -62,8 +62,8 @@ class Videos {
   /// Returns the slot, or 0 with nothing changed. `status` gets the words for a status line.
   int SendToAnalysis(const std::string& path, const std::function<void(const std::string&)>& status = {});
   /// Opens several files in successive windows, beginning with the current one; a window that the layout
-  /// does not show ends it.
-  void OpenFamily(const std::vector<std::string>& paths);
+  /// does not show ends it. Returns how many were opened.
+  int OpenFamily(const std::vector<std::string>& paths);
   /// Closes the current video and goes back to the window before.
   void UndoLastOpen();
 
