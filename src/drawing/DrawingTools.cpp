@@ -456,6 +456,18 @@ void DrawingTools::RemoveShape(int window, int index) {
   workspace_.DrawingsChanged(window);
 }
 
+void DrawingTools::KeepInside(Shape& shape, int window) {
+  const auto points = BoundPoints(shape);
+  const int width = workspace_.PictureWidth(window), height = workspace_.PictureHeight(window);
+  if (!IsText(shape) || points.empty() || width <= 0 || height <= 0) return;
+  const POINTAPI letters = Canvas::TextSize(shape.Text, LetterHeight(shape));
+  const auto inside = [](int middle, int size, int room) {
+    const int margin = std::min(size / 2 + 4, room / 2);
+    return std::clamp(middle, margin, room - margin);
+  };
+  points[0] = {inside(points[0].x, letters.x, width), inside(points[0].y, letters.y, height)};
+}
+
 TakenMarks DrawingTools::MarksOf(const Shape& shape) const {
   const int width = IsTakenWithin(shape) ? 1 : shape.Width > 0 ? shape.Width : UsualWidth();
   return {OutlineOf(shape, engine_.EllipseFromCentre), width, HandlesOf(shape)};

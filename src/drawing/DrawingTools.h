@@ -138,6 +138,8 @@ class DrawingTools final : public IShapeLocked {
   /// Removes the selected shape of the window that was drawn in last.
   void DeleteCurShape();
   void RemoveShape(int window, int index);
+  /// Moves letters so far that all of them are on their window's picture; other shapes stay.
+  void KeepInside(Shape& shape, int window);
   /// The halo and the handles of a shape.
   TakenMarks MarksOf(const Shape& shape) const;
   void DeleteLastCAD(int Window);

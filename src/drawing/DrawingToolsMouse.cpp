@@ -258,6 +258,7 @@ void DrawingTools::WriteText(int window, POINTAPI at, const std::string& text, b
   if (!shape) return;
   shape->Text = text;
   engine_.AddPoint(*shape, at, true);
+  KeepInside(*shape, window);
   list.Adding = false;
   list.CanvasWidth = workspace_.PictureWidth(window) * kTwipsPerPixel;
   list.CanvasHeight = workspace_.PictureHeight(window) * kTwipsPerPixel;

@@ -155,7 +155,8 @@ void ShapeHand::LetGo() {
 
 void ShapeHand::Begin() const { tools_.BeforeChange(window_); }
 
-void ShapeHand::Changed() const {
+void ShapeHand::Changed() {
+  if (Shape* shape = Mutable()) tools_.KeepInside(*shape, window_);
   tools_.NoteChange(window_);
   tools_.SetShapeCaption();
   workspace_.Refresh(window_);

@@ -80,7 +80,7 @@ class ShapeHand {
   double Reach(const Shape& shape) const;
   std::optional<std::size_t> ShapeUnder(POINTAPI at, int window) const;
   void Begin() const;
-  void Changed() const;
+  void Changed();
 
   DrawingTools& tools_;
   IDrawingWorkspace& workspace_;

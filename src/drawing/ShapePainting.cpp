@@ -20,6 +20,9 @@ constexpr int kPathStep = 20;
 constexpr double kPathTension = 0.2;
 constexpr int kFeather = 2;  // pixels of soft shadow round the rim
 constexpr int kFeatherOpacity = 70;
+constexpr int kGlow = 9;  // pixels of shadow round letters, in steps
+constexpr int kGlowStep = 3;
+constexpr int kGlowOpacity = 40;
 constexpr int kGlass = 105;                    // opacity of a zone that is laid on as glass
 constexpr int kGlassEdge = 2;                  // pixels
 constexpr double kStrokeStep = 4;              // pixels between the points of a stroke that runs smoothly
@@ -284,7 +287,12 @@ bool PaintShape(const Shape& shape, Colour colour, Canvas& hDC, const ShapeLook&
   if (look.CadOutline && shape.Kind != kZone) {
     ShapeLook rim = look;
     rim.PathHighlight = false;
-    if (look.Soft) {
+    // Letters are thinner than lines: on a bright sky it is their shadow that makes them stand out.
+    for (int glow = isText ? kGlow : 0; glow > 0; glow -= kGlowStep) {
+      hDC.SetPen({0, black + glow, pen.style, kGlowOpacity});
+      drawn = DrawShape(shape, hDC, rim) && drawn;
+    }
+    if (look.Soft && !isText) {
       hDC.SetPen({0, black + kFeather, pen.style, kFeatherOpacity});
       drawn = DrawShape(shape, hDC, rim);
     }

@@ -153,6 +153,9 @@ TEST(ShapeHand, LettersStandWhereTheMouseWasClicked) {
   EXPECT_EQ(desk.List().Shapes[0].Text, "Łokieć 肘");
   desk.tools.WriteText(1, {200, 150}, "", true);
   EXPECT_EQ(desk.List().NumShapes, 0) << "without letters there is nothing";
+  desk.tools.WriteText(1, {639, 2}, "Knie beugen", false);
+  const Polyline box = OutlineOf(desk.List().Shapes[0], false)[0];
+  EXPECT_TRUE(box[2].x <= 640 && box[0].y >= 0) << "at the edge they stay on the picture";
 }
 
 TEST(ShapeHand, AnEditorMarksByAHaloAndTakesWhatWasDrawn) {
