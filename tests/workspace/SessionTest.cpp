@@ -26,6 +26,24 @@ TEST(Session, OneVideoThatWasClosedComesBack) {
   EXPECT_FALSE(stage.Run("ReopenVideos")) << "no more than was closed";
 }
 
+TEST(Session, WhatIsOpenAgainDoesNotComeASecondTime) {
+  OpenStage stage("2");
+  stage.Open(2, stage.path);
+  stage.Type('c');
+  EXPECT_TRUE(stage.Run("ReopenVideos")) << "it stood in two windows";
+  EXPECT_EQ(stage.Stage().VideoCount(), 2);
+  stage.Type('c');
+  stage.Open(1, stage.path);
+  EXPECT_FALSE(stage.Run("ReopenVideos"));
+
+  stage.Open(2, stage.Video("b.avi"));
+  ASSERT_TRUE(stage.Videos().CloseAll());
+  stage.Open(1, stage.Video("b.avi"));
+  EXPECT_TRUE(stage.Run("ReopenVideos")) << "of two one is missing";
+  EXPECT_EQ(stage.Stage().At(2).path, stage.path);
+  EXPECT_EQ(stage.Stage().VideoCount(), 2);
+}
+
 TEST(Session, TheNextDayFindsTheStageAsItWas) {
   OpenStage stage("4");
   const std::string other = stage.Video("\u0141ucja \u885d\u6483.avi", DvVideo(20));

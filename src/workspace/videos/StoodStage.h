@@ -30,6 +30,8 @@ struct StoodStage {
   std::string layout;  ///< empty: it stays as it is
   int currentWindow = 1;
   std::array<bool, 3> locks{};  ///< slots 1 and 2, slots 3 and 4, all four
+  /// Of what was closed: the videos that stayed, one path for each window. No file holds them.
+  std::vector<std::string> stayed{};
 
   friend bool operator==(const StoodStage&, const StoodStage&) = default;
 };

@@ -1,6 +1,7 @@
 #include "workspace/videos/Videos.h"
 
 #include <algorithm>
+#include <iterator>
 #include <tuple>
 #include <utility>
 
@@ -216,14 +217,39 @@ void Videos::Remember(StoodStage closed) {
   const int count = static_cast<int>(closed.videos.size());
   const std::string name = NameOfVideo(closed.videos.front().path);
   sessionRead_ = true;  // what was closed in this run comes first, and what was open before it is in it, or gone
+  closed.stayed = OpenPaths();
   closed_.push_back(std::move(closed));
   if (closed_.size() > kMost) closed_.erase(closed_.begin());
   events_.VideosGone(count, name);
 }
 
+std::vector<std::string> Videos::OpenPaths() const {
+  std::vector<std::string> paths;
+  for (int slot = 1; slot <= kSlots; ++slot)
+    if (stage_.HasVideo(slot)) paths.push_back(stage_.At(slot).path);
+  return paths;
+}
+
+/// What of it is not open again. A video that stood in several windows is wanted so often.
+std::vector<StoodVideo> Videos::Missing(const StoodStage& closed) const {
+  std::vector<std::string> open = OpenPaths();
+  const auto strike = [&open](const std::string& path) {
+    const auto found = std::ranges::find(open, path);
+    if (found == open.end()) return false;
+    open.erase(found);
+    return true;
+  };
+  for (const std::string& path : closed.stayed) strike(path);
+  std::vector<StoodVideo> missing;
+  std::ranges::copy_if(closed.videos, std::back_inserter(missing),
+                       [&](const StoodVideo& video) { return !strike(video.path); });
+  return missing;
+}
+
 bool Videos::CanReopen() {
   if (!std::exchange(sessionRead_, true))
     if (auto session = ReadSession(sessionPath_)) closed_.push_back(std::move(*session));
+  while (!closed_.empty() && Missing(closed_.back()).empty()) closed_.pop_back();
   return !closed_.empty() && stage_.VideoCount() < kSlots;
 }
 
@@ -246,6 +272,7 @@ std::optional<int> Videos::Reopen(const StoodVideo& video) {
 
 void Videos::ReopenClosed() {
   if (!CanReopen()) return;
+  const std::vector<StoodVideo> missing = Missing(closed_.back());
   const StoodStage closed = std::move(closed_.back());
   closed_.pop_back();
   const bool empty = !stage_.AnyVideo();
@@ -256,7 +283,7 @@ void Videos::ReopenClosed() {
   }
   int shown = 0;
   bool all = true;
-  for (const StoodVideo& video : closed.videos) {
+  for (const StoodVideo& video : missing) {
     const auto slot = Reopen(video);
     if (!slot) all = false;
     else if (shown == 0 || video.slot == closed.currentWindow) shown = *slot;

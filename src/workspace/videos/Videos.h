@@ -51,7 +51,8 @@ class Videos {
   StoodStage Stood() const;
   /// Opens again what was closed last, one video or all: at the same pictures, mirrored and zoomed as they were.
   /// On an empty stage the layout and the locks come back too; else the videos go where there is room. At first
-  /// that is what stood on the stage when the program ended, yesterday or whenever.
+  /// that is what stood on the stage when the program ended, yesterday or whenever. What has been opened again
+  /// meanwhile stays as it is and does not come a second time.
   void ReopenClosed();
   bool CanReopen();
   /// Keeps what stands on the stage for the next start of the program. With nothing on it, what was kept stays.
@@ -84,6 +85,8 @@ class Videos {
   bool Fill(int first, int last);
   void RefuseVideo(int slot, const std::string& path, bool hasStream);
   void Flip(int slot);
+  std::vector<StoodVideo> Missing(const StoodStage& closed) const;
+  std::vector<std::string> OpenPaths() const;
   std::optional<int> Reopen(const StoodVideo& video);
   StoodVideo Stood(int slot) const;
   bool Close(int slot);
