@@ -97,6 +97,9 @@ TEST(CommandsTest, TheKeysOfAnEditorTakeThePlaceOfThoseInTheirWay) {
   EXPECT_EQ(stage.window.text, "Saved");
   stage.host.Advance(2000);
   EXPECT_EQ(stage.window.text, "");
+  stage.Open(2, stage.Video("b.avi"));
+  stage.Key('S', kCtrl);
+  EXPECT_EQ(stage.window.text, "Saved: a, b");
   stage.Type('f');
   EXPECT_TRUE(stage.MP(1).FlipHorizontal()) << "all others stay as they are";
   stage.Key('W', kCtrl);

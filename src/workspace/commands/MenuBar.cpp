@@ -1,7 +1,10 @@
 #include "workspace/commands/MenuBar.h"
 
+#include <fmt/ranges.h>
+
 #include <algorithm>
 #include <cctype>
+#include <set>
 
 #include "video/KeyCodes.h"
 
@@ -74,7 +77,18 @@ bool MenuBar::PreparetoExit() {
 
 void MenuBar::SaveNow() {
   const bool saved = keeping_.SaveAll();
-  if (!tools_.Drawing()) transport_.Announce(saved ? "Saved" : "Not saved");
+  if (!tools_.Drawing()) transport_.Announce(saved ? WordsOfSaved() : "Not saved");
+}
+
+/// One video is the one before the eyes; of several the names are told, as far as they can be read in passing.
+std::string MenuBar::WordsOfSaved() const {
+  constexpr std::size_t kReadInPassing = 2;
+  std::set<std::string> names;
+  for (int slot = 1; slot <= kSlots; ++slot)
+    if (stage_.HasVideo(slot)) names.insert(NameOfVideo(stage_.At(slot).path));
+  if (names.size() < 2) return "Saved";
+  return names.size() > kReadInPassing ? fmt::format("Saved: all {} videos", names.size())
+                                       : fmt::format("Saved: {}", fmt::join(names, ", "));
 }
 
 // ---------------------------------------------------------------- keys

@@ -121,6 +121,7 @@ class MenuBar {
   void AddBrisko();
   void AddKeysAlone();
   void SaveNow();
+  std::string WordsOfSaved() const;
   bool Press(KeyStroke::Kind kind, int value, int shift);
   void Add(Command command);
   /// An entry, or a button beside it, whose feature is not built yet.
