@@ -1,11 +1,15 @@
 #include "library/LibraryActions.h"
 
+#include <fmt/format.h>
+
 #include "core/Settings.h"
 #include "library/LibraryTree.h"
 
 namespace kinalyx {
 
-std::string LibraryActionTip(LibraryAction action, const Settings& settings) {
+namespace {
+
+std::string TipForOne(LibraryAction action, const Settings& settings) {
   const std::string& noun = settings.PrimaryName[1];
   switch (action) {
     case LibraryAction::AddStudent: return "Add new " + noun + " to the library.";
@@ -23,6 +27,22 @@ std::string LibraryActionTip(LibraryAction action, const Settings& settings) {
     case LibraryAction::QuickLaunch: return "Copy the current video to the Quick Launch folder.";
   }
   return {};
+}
+
+}  // namespace
+
+std::string LibraryActionTip(LibraryAction action, const Settings& settings, int videos) {
+  std::string tip = TipForOne(action, settings);
+  if (videos < 2) return tip;
+  const std::string several = fmt::format("the {} selected videos", videos);
+  for (const std::string_view one : {"the current video", "current video"})
+    if (const auto at = tip.find(one); at != std::string::npos) return tip.replace(at, one.size(), several);
+  return tip;
+}
+
+bool TakesSeveralVideos(LibraryAction action) {
+  return action == LibraryAction::SendToAnalysis || action == LibraryAction::MoveVideo ||
+         action == LibraryAction::CopyVideo || action == LibraryAction::DeleteVideo;
 }
 
 std::string QuickLaunchCaption(std::string_view instructor) {

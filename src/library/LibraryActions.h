@@ -25,8 +25,10 @@ enum class LibraryAction {
 };
 inline constexpr int kLibraryActions = 13;
 
-/// What the status line shows while the mouse is over a button.
-std::string LibraryActionTip(LibraryAction action, const Settings& settings);
+/// What the status line shows while the mouse is over a button; with `videos` that are selected instead of one.
+std::string LibraryActionTip(LibraryAction action, const Settings& settings, int videos = 1);
+/// Actions that can be carried out on several videos at once.
+bool TakesSeveralVideos(LibraryAction action);
 
 /// "Quick Launch -" while the Quick Launch folder is shown, else "Quick Launch +".
 std::string QuickLaunchCaption(std::string_view instructor);

@@ -304,6 +304,16 @@ TEST_F(LibraryCommandsTest, AListHasItsButtonsInAMenuAsWell) {
   EXPECT_TRUE(DialogShown());
   EXPECT_EQ(Text("DialogTitle"), "Rename Video");
   menu->close();
+  const auto menus = [&] { return page->findChildren<QMenu*>("ListMenu"); };
+  List("VideoList")->selectAll();
+  emit List("VideoList")->customContextMenuRequested(QPoint(5, 5));
+  ASSERT_EQ(menus().back()->actions().size(), 4);
+  EXPECT_EQ(menus().back()->actions()[3]->text(),
+            QString("Delete the %1 selected videos").arg(List("VideoList")->count()));
+  menus().back()->close();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  emit List("VideoList")->customContextMenuRequested(QPoint(5, List("VideoList")->viewport()->height() - 2));
+  EXPECT_TRUE(menus().isEmpty()) << "nothing is meant beside the names";
 }
 
 // ---------------------------------------------------------------- trimming

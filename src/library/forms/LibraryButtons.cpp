@@ -54,18 +54,23 @@ void LibraryButtons::Place(std::initializer_list<LibraryAction> actions, QBoxLay
 void LibraryButtons::GiveMenu(NameList* list, std::vector<LibraryAction> actions) {
   list->setContextMenuPolicy(Qt::CustomContextMenu);
   connect(list, &QWidget::customContextMenuRequested, this, [this, list, actions = std::move(actions)](QPoint place) {
-    if (list->selectedItems().isEmpty()) return;
+    // Beside the names nothing is meant.
+    if (!list->itemAt(place)) return;
+    const auto chosen = static_cast<int>(list->selectedItems().size());
     auto* menu = new QMenu(list);
     menu->setObjectName("ListMenu");
     menu->setAttribute(Qt::WA_DeleteOnClose);
     for (const LibraryAction action : actions)
-      menu->addAction(Tip(action), this, [this, action] { emit Wanted(action); });
+      if (chosen < 2 || TakesSeveralVideos(action))
+        menu->addAction(Tip(action, chosen), this, [this, action] { emit Wanted(action); });
     menu->popup(list->viewport()->mapToGlobal(place));
   });
 }
 
 /// The sentence of the status line without its full stop.
-QString LibraryButtons::Tip(LibraryAction action) const { return Q(LibraryActionTip(action, settings_)).chopped(1); }
+QString LibraryButtons::Tip(LibraryAction action, int videos) const {
+  return Q(LibraryActionTip(action, settings_, videos)).chopped(1);
+}
 
 void LibraryButtons::SetupVocabulary() {
   for (int index = 0; index < kLibraryActions; ++index) {

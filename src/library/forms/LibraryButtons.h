@@ -37,7 +37,7 @@ class LibraryButtons : public QObject {
   void Wanted(LibraryAction action);
 
  private:
-  QString Tip(LibraryAction action) const;
+  QString Tip(LibraryAction action, int videos = 1) const;
 
   const Settings& settings_;
   StatusLine& status_;
