@@ -245,7 +245,8 @@ void VideosPanel::changeEvent(QEvent* event) {
 /// pictures beside the names, there are none.
 void VideosPanel::LimitList() {
   const bool pictures = choices_.Pictures() && width() >= Px(440);
-  const int percent = pictures ? 42 : 31;
+  // A name is read whole before its video is seen large.
+  const int percent = !pictures ? 31 : width() < Px(560) ? 50 : 42;
   middle_->setStretch(0, percent);
   middle_->setStretch(2, 100 - percent);
   list_->setMaximumWidth(qMax(Px(140), qMin(Px(420), width() * percent / 100)));

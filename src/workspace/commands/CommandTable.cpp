@@ -13,6 +13,7 @@ namespace {
 
 constexpr const char* kGoTo = "&Go To";
 constexpr const char* kVideo = "&Video";
+constexpr const char* kPlaying = "&Video/Speed and Part Played";
 constexpr const char* kDraw = "&Draw";
 constexpr const char* kMoments = "&Draw/Seen When";
 constexpr const char* kWindows = "&Windows";
@@ -245,7 +246,7 @@ void MenuBar::AddPlaying() {
   const auto unlocked =
       NeedsVideo([this] { return compare_.Locks().IsLocked(stage_.CurrentWindow) ? "Unlock the videos first" : ""; });
   const auto add = [&](const char* item, const char* caption, Obstacle obstacle, std::function<void()> run) {
-    Add({item, kVideo, caption, "", "", "", kNoButton, std::move(run), std::move(obstacle)});
+    Add({item, kPlaying, caption, "", "", "", kNoButton, std::move(run), std::move(obstacle)});
   };
   AddSeparator(kVideo);
   Add({"FitPicture", kVideo, "Fit Picture in Window", "", "fit", "", kNoButton, [this] { compare_.Zoom().ToggleFit(); },
@@ -258,8 +259,8 @@ void MenuBar::AddPlaying() {
   add("RangeOff", "Play Whole Video",
       Needs([this] { return transport_.HasRange(); }, "The whole of the current video is played"),
       [this] { transport_.PlayWholeVideo(); });
-  add("SaveNow", "Save Drawings and Notes", Needs([this] { return stage_.AnyVideo(); }, "Open a video first"),
-      [this] { SaveNow(); });
+  Add({"SaveNow", kVideo, "Save Drawings and Notes", "", "", "", kNoButton, [this] { SaveNow(); },
+       Needs([this] { return stage_.AnyVideo(); }, "Open a video first")});
 }
 
 void MenuBar::AddDraw() {
