@@ -151,6 +151,8 @@ class DrawingTools final : public IShapeLocked {
   void SetDrawWindow(int window) { DrawWindow_ = window; }
   /// Shows what the selected shape measures.
   void SetShapeCaption();
+  /// Pixels of a window's picture have a length: a ruler is set.
+  bool Calibrated(int window) const { return ScaleOf(window).PixelsPerInch > 0; }
   /// The window that is measured in.
   int MeasuredWindow() const { return measure_ ? measure_->window : DrawWindow_; }
   /// Takes the ruler's line off the picture, whichever it lies on.

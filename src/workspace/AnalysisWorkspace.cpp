@@ -332,6 +332,7 @@ void AnalysisWorkspace::MoveFrame(int window, int by) {
 
 void AnalysisWorkspace::DrawingsChanged(int window) {
   ruler_.DrawingFinished(window);
+  ruler_.PathFinished(window);
   keeping_.DrawingsChanged();
   stage_.News().Note(kPicturesChanged);
 }

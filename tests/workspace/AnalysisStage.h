@@ -44,6 +44,7 @@ class FakeWindow final : public IWorkspaceView {
   std::optional<std::string> notes;
   int openPanels = 0;
   int windowMenus = 0;
+  int rulerOffers = 0;
   int updates = 0;  ///< of menus and buttons
 
  private:
@@ -89,6 +90,7 @@ class FakeWindow final : public IWorkspaceView {
     rate = perSecond;
   }
   void ShowCalibration(bool shown) override { calibration = shown; }
+  void OfferRuler(const std::string&) override { ++rulerOffers; }
   void SetVideoRuler(const std::string& words) override { videoRuler = words; }
   void SetCalibrationLength(const std::string& length) override { calibrationLength = length; }
   void ShowNotesform() override {}

@@ -132,6 +132,22 @@ TEST(RulerTest, BelongsToItsVideo) {
   EXPECT_TRUE(stage.Stage().At(1).data.Study.Ruler) << "the other keeps its own";
 }
 
+TEST(RulerTest, APathWithoutOneOffersIt) {
+  OpenStage stage;
+  stage.settings.CalibNumberOut = 0;
+  const auto trace = [&] {
+    stage.Key(kKeyF1 + kSwingPath);
+    for (const int x : {60, 90, 130}) stage.Click(1, x, 80);
+    stage.Key(kKeyReturn);
+    stage.analysis.Tools().ChooseColour(3);
+  };
+  trace();
+  EXPECT_EQ(stage.window.rulerOffers, 1) << "and says it once";
+  stage.Stage().At(1).data.Study.Ruler = VideoRuler{10, 640, 480, 0};
+  trace();
+  EXPECT_EQ(stage.window.rulerOffers, 1);
+}
+
 TEST(RulerTest, TurnsPixelsIntoLengths) {
   OpenStage stage;
   stage.settings.RulerPerVideo = 0;

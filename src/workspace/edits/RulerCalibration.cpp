@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "core/Numbers.h"
 
@@ -81,6 +82,15 @@ void RulerCalibration::DrawingFinished(int window) {
   asked = true;
   // From the event loop: the click that has finished the drawing is still under way.
   offer_ = HostTimer(host_, 0, false, [this, window] { Offer(window); });
+}
+
+void RulerCalibration::PathFinished(int window) {
+  const ShapeList& list = tools_.List(window);
+  const auto shapes = ShapesOf(list);
+  if (list.Adding || shapes.empty() || shown_ || !stage_.HasVideo(window)) return;
+  const Shape& path = shapes.back();
+  if (path.Kind != kSwingPath || tools_.Calibrated(window) || std::exchange(told_, path.Id) == path.Id) return;
+  view_.OfferRuler("Set the ruler for speeds along the path.");
 }
 
 void RulerCalibration::Offer(int window) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -47,6 +48,8 @@ class RulerCalibration {
   /// A drawing of a window was finished. Where it cannot be measured for want of a ruler, the one used last is
   /// offered, once for each opening of a video.
   void DrawingFinished(int window);
+  /// The same for a path, which has no speeds without a ruler: says so, once for each path.
+  void PathFinished(int window);
   /// The next video of the slot is asked for anew.
   void VideoClosed(int slot) { asked_[static_cast<std::size_t>(slot)] = false; }
 
@@ -64,6 +67,7 @@ class RulerCalibration {
   Keeping& keeping_;
   IStudyView& view_;
   std::array<bool, kSlots + 1> asked_{};
+  std::uint32_t told_ = 0;  ///< the path of which it was said last that it has no speeds
   HostTimer offer_;
   bool shown_ = false;
   std::string Label4_;

@@ -14,6 +14,7 @@
 #include "library/forms/OpenVidForm.h"
 #include "platform/files/Folders.h"
 #include "platform/widgets/FileDrop.h"
+#include "platform/widgets/OfferBar.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
 #include "platform/widgets/Text.h"
@@ -150,6 +151,8 @@ void AnalysisForm::MakeStage() {
   timer_ = new VideoTimerForm(analysis_->Timer(), stage_);
   connect(timer_, &FloatCard::CloseWanted, this, [this] { Run("TVT"); });
   calibration_ = new CalibrationPanel(analysis_->Ruler(), settings_, stage_);
+  rulerOffer_ = new OfferBar("RulerOffer", tr("Set Ruler"), stage_);
+  connect(rulerOffer_, &OfferBar::Accepted, this, [this] { Run("TCal"); });
   edits_->Build(analysis_->Edits(), analysis_->Times(), analysis_->Stage(), stage_);
   connect(edits_.get(), &EditForms::KeysFree, this, [this] { FocusKeyBox(); });
   connect(edits_.get(), &EditForms::PointerChanged, this, &AnalysisForm::ShowPointer);
@@ -355,8 +358,11 @@ void AnalysisForm::SetVideoTimer(const std::string& reading, bool negative, cons
   timer_->SetReading(Q(reading), negative, Q(rate));
 }
 
+void AnalysisForm::OfferRuler(const std::string& words) { rulerOffer_->Offer(Q(words)); }
+
 void AnalysisForm::ShowCalibration(bool shown) {
   if (shown) {
+    rulerOffer_->hide();
     calibration_->Begin();
   } else {
     calibration_->hide();

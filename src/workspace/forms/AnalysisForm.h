@@ -22,6 +22,7 @@ class DrawCaption;
 class EditForms;
 class IPrinter;
 class NotesPanel;
+class OfferBar;
 class OpenVideoParts;
 class PlayBar;
 class SeekPreview;
@@ -105,6 +106,7 @@ class AnalysisForm : public PageWidget, private IWorkspaceView, private IOpenVid
   void ShowVideoTimer(bool shown) override;
   void SetVideoTimer(const std::string& reading, bool negative, const std::string& rate) override;
   void ShowCalibration(bool shown) override;
+  void OfferRuler(const std::string& words) override;
   void SetCalibrationLength(const std::string& length) override;
   void SetVideoRuler(const std::string& words) override;
   void ShowRateForm() override;
@@ -145,6 +147,7 @@ class AnalysisForm : public PageWidget, private IWorkspaceView, private IOpenVid
   NotesPanel* notes_ = nullptr;
   VideoTimerForm* timer_ = nullptr;
   CalibrationPanel* calibration_ = nullptr;
+  OfferBar* rulerOffer_ = nullptr;
   OpenVideoParts* openPanel_ = nullptr;  ///< made when first wanted
   bool onPage_ = true;
   int openChoice_ = -1;  ///< the place for which it was made
