@@ -4,7 +4,6 @@
 
 #include <string>
 #include <string_view>
-#include <utility>
 
 #include "platform/graph/PreviewPainter.h"
 
@@ -73,23 +72,14 @@ class FileChooser final : public ICapsChooser {
 
 class PreviewChooser final : public ICapsChooser {
  public:
-  explicit PreviewChooser(std::shared_ptr<const RendererFace> face) : face_(std::move(face)) {}
-
   std::string BinFor(const GstCaps* caps) override {
     const Coming coming(caps);
     const std::string planes =
         fmt::format("videoconvert ! capsfilter caps=\"video/x-raw,format={}\"", PreviewPainter::kFormats);
-    asked_ = face_->Wanted();
     if (coming.Raw()) return planes;
-    if (coming.Jpeg()) return "jpegdec ! " + planes;
-    return "decodebin ! " + planes;
+    // In full size, whatever the window's: decoding a smaller picture takes as long.
+    return (coming.Jpeg() ? "jpegdec ! " : "decodebin ! ") + planes;
   }
-
-  bool Changed() override { return face_->Wanted() != asked_; }
-
- private:
-  const std::shared_ptr<const RendererFace> face_;
-  RendererFace::Size asked_;
 };
 
 }  // namespace
@@ -98,8 +88,6 @@ std::shared_ptr<ICapsChooser> ChooseEntry(FilterEntry entry) { return std::make_
 
 std::shared_ptr<ICapsChooser> ChooseForFile() { return std::make_shared<FileChooser>(); }
 
-std::shared_ptr<ICapsChooser> ChooseForPreview(std::shared_ptr<const RendererFace> face) {
-  return std::make_shared<PreviewChooser>(std::move(face));
-}
+std::shared_ptr<ICapsChooser> ChooseForPreview() { return std::make_shared<PreviewChooser>(); }
 
 }  // namespace kinalyx

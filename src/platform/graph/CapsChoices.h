@@ -4,7 +4,6 @@
 
 #include "platform/graph/CapsPlug.h"
 #include "platform/graph/FilterTable.h"
-#include "platform/graph/GraphFaces.h"
 
 namespace kinalyx {
 
@@ -13,7 +12,7 @@ std::shared_ptr<ICapsChooser> ChooseEntry(FilterEntry entry);
 /// What goes to a file: what is compressed stays as it came, and so do raw pictures of up to 640 x 480; a disk could
 /// not follow larger ones, which become JPEG.
 std::shared_ptr<ICapsChooser> ChooseForFile();
-/// Planes of bytes for the painter of a preview, decoded no larger than its window needs.
-std::shared_ptr<ICapsChooser> ChooseForPreview(std::shared_ptr<const RendererFace> face);
+/// Planes of bytes for the painter of a preview.
+std::shared_ptr<ICapsChooser> ChooseForPreview();
 
 }  // namespace kinalyx

@@ -14,16 +14,10 @@ class Plug {
       : bin_(bin), to_(to), chooser_(std::move(chooser)) {}
 
   static GstPadProbeReturn Passes(GstPad* pad, GstPadProbeInfo* info, gpointer self) {
-    auto& plug = *static_cast<Plug*>(self);
-    if (info->type & GST_PAD_PROBE_TYPE_BUFFER) {
-      if (!plug.chooser_->Changed()) return GST_PAD_PROBE_OK;
-      const GstCapsRef caps(gst_pad_get_current_caps(pad));
-      if (caps) plug.Fit(pad, caps.get());
-    } else if (GST_EVENT_TYPE(GST_PAD_PROBE_INFO_EVENT(info)) == GST_EVENT_CAPS) {
-      GstCaps* caps = nullptr;
-      gst_event_parse_caps(GST_PAD_PROBE_INFO_EVENT(info), &caps);
-      plug.Fit(pad, caps);
-    }
+    if (GST_EVENT_TYPE(GST_PAD_PROBE_INFO_EVENT(info)) != GST_EVENT_CAPS) return GST_PAD_PROBE_OK;
+    GstCaps* caps = nullptr;
+    gst_event_parse_caps(GST_PAD_PROBE_INFO_EVENT(info), &caps);
+    static_cast<Plug*>(self)->Fit(pad, caps);
     return GST_PAD_PROBE_OK;
   }
 
@@ -69,13 +63,37 @@ class Plug {
   std::shared_ptr<ICapsChooser> chooser_;
 };
 
+/// What is made of the pictures is no business of those from whom they come: a camera that negotiated anew would fail
+/// in the moment in which nothing is plugged in.
+GstPadProbeReturn KeepApart(GstPad*, GstPadProbeInfo* info, gpointer) {
+  if (info->type & GST_PAD_PROBE_TYPE_EVENT_UPSTREAM) {
+    const bool anew = GST_EVENT_TYPE(GST_PAD_PROBE_INFO_EVENT(info)) == GST_EVENT_RECONFIGURE;
+    return anew ? GST_PAD_PROBE_DROP : GST_PAD_PROBE_OK;
+  }
+  GstQuery* query = GST_PAD_PROBE_INFO_QUERY(info);
+  switch (GST_QUERY_TYPE(query)) {
+    case GST_QUERY_CAPS: {
+      GstCaps* filter = nullptr;
+      gst_query_parse_caps(query, &filter);
+      const GstCapsRef all(filter ? gst_caps_ref(filter) : gst_caps_new_any());
+      gst_query_set_caps_result(query, all.get());
+      return GST_PAD_PROBE_HANDLED;
+    }
+    case GST_QUERY_ACCEPT_CAPS: gst_query_set_accept_caps_result(query, TRUE); return GST_PAD_PROBE_HANDLED;
+    case GST_QUERY_ALLOCATION: return GST_PAD_PROBE_DROP;
+    default: return GST_PAD_PROBE_OK;
+  }
+}
+
 }  // namespace
 
 void PlugByCaps(GstBin* bin, GstElement* from, GstElement* to, std::shared_ptr<ICapsChooser> chooser) {
+  const GstRef<GstPad> input(gst_element_get_static_pad(from, "sink"));
+  constexpr int kApart = GST_PAD_PROBE_TYPE_QUERY_DOWNSTREAM | GST_PAD_PROBE_TYPE_EVENT_UPSTREAM;
+  gst_pad_add_probe(input.get(), static_cast<GstPadProbeType>(kApart), KeepApart, nullptr, nullptr);
   const GstRef<GstPad> pad(gst_element_get_static_pad(from, "src"));
   auto plug = std::make_unique<Plug>(bin, to, std::move(chooser));
-  const auto kinds = static_cast<GstPadProbeType>(GST_PAD_PROBE_TYPE_BUFFER | GST_PAD_PROBE_TYPE_EVENT_DOWNSTREAM);
-  gst_pad_add_probe(pad.get(), kinds, Plug::Passes, plug.release(),
+  gst_pad_add_probe(pad.get(), GST_PAD_PROBE_TYPE_EVENT_DOWNSTREAM, Plug::Passes, plug.release(),
                     [](gpointer self) { std::unique_ptr<Plug>(static_cast<Plug*>(self)); });
 }
 

@@ -13,8 +13,6 @@ class ICapsChooser {
   virtual ~ICapsChooser() = default;
   /// A bin with one input and one output, as the library for graphs describes it. Called in a streaming thread.
   virtual std::string BinFor(const GstCaps* caps) = 0;
-  /// True, once, when the answer may have become another since it was asked. Asked with every picture.
-  virtual bool Changed() { return false; }
 };
 
 /// Keeps, between an element and its successor, the bin that fits what comes: what a camera gives is not known before

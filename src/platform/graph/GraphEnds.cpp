@@ -109,7 +109,7 @@ void DropWhileFull(GstElement* queue, std::shared_ptr<RendererFace> face) {
 void AppendPreview(FilterBin& bin, std::shared_ptr<RendererFace> face, const GraphNews& news, std::int64_t beginNs) {
   GstElement* queue = AppendQueue(bin, 1, 0, Leaves::Oldest);
   if (queue) DropWhileFull(queue, face);
-  bin.AppendPlugged(MakeEnd(std::make_unique<Shower>(face, news), beginNs), ChooseForPreview(face));
+  bin.AppendPlugged(MakeEnd(std::make_unique<Shower>(face, news), beginNs), ChooseForPreview());
 }
 
 void AppendFile(FilterBin& bin, std::shared_ptr<RecordingLane> lane, std::int64_t beginNs) {
