@@ -111,6 +111,7 @@ TEST(LineUp, BringsVideosToTheirMarksAndLocksThem) {
   EXPECT_EQ(stage.analysis.Transport().NamesElsewhere(), (std::vector<std::string>{"Top", "Impact"}));
   stage.analysis.Transport().NameMark(1, "Landing");
   stage.analysis.Transport().RemoveMark(0);
+  stage.EndTurn();
   stage.Type('u');
   EXPECT_EQ(stage.window.text, "No two videos have a mark of the same name: a right click on a mark names it");
   stage.analysis.Transport().NameMark(0, " IMPACT ");
