@@ -1,11 +1,18 @@
 #include "platform/graph/CapsPlug.h"
 
+#include <gst/video/video.h>
+
 #include <utility>
 
 #include "platform/graph/GstHandles.h"
 
 namespace kinalyx {
 namespace {
+
+/// All that a bin can be plugged in for; first what is changed least on its way to a file.
+constexpr const char* kTaken =
+    "video/x-raw,format={YUY2,BGR,I420,NV12,UYVY,BGRx,RGB}; video/x-raw,format=" GST_VIDEO_FORMATS_ALL
+    "; image/jpeg; video/x-dv; video/x-h264; video/x-h265; video/x-vp8; video/x-vp9; video/mpeg; video/x-msmpeg";
 
 /// Lives with the probe on the first element's output, and works in its streaming thread.
 class Plug {
@@ -75,8 +82,9 @@ GstPadProbeReturn KeepApart(GstPad*, GstPadProbeInfo* info, gpointer) {
     case GST_QUERY_CAPS: {
       GstCaps* filter = nullptr;
       gst_query_parse_caps(query, &filter);
-      const GstCapsRef all(filter ? gst_caps_ref(filter) : gst_caps_new_any());
-      gst_query_set_caps_result(query, all.get());
+      GstCapsRef taken(gst_caps_from_string(kTaken));
+      if (filter) taken.reset(gst_caps_intersect_full(taken.get(), filter, GST_CAPS_INTERSECT_FIRST));
+      gst_query_set_caps_result(query, taken.get());
       return GST_PAD_PROBE_HANDLED;
     }
     case GST_QUERY_ACCEPT_CAPS: gst_query_set_accept_caps_result(query, TRUE); return GST_PAD_PROBE_HANDLED;

@@ -1,5 +1,7 @@
 #include "platform/graph/GraphRun.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <atomic>
 #include <condition_variable>
@@ -23,15 +25,19 @@ constexpr auto kForerunner = 5s;                      // that the run before may
 
 }  // namespace
 
-/// What the thread of a part and the user interface share.
+/// What the threads of a part and the user interface share. One thread does what may hang: it builds, starts and takes
+/// down. The other one watches, and tells what there is to tell even while the first hangs.
 struct GraphRun::Part {
   Part(std::shared_ptr<const GraphOrder> ordered, std::vector<std::size_t> own, GraphNews told)
       : order(std::move(ordered)), filters(std::move(own)), news(std::move(told)) {}
 
-  void Work();
-  void Watch(const Strand& strand);
-  bool Look(const Strand& strand);
-  bool Hear(GstMessage* message, const Strand& strand);
+  void Build();
+  void Start(GstElement* pipeline) const;
+  void Watch();
+  bool AwaitStrand();
+  bool Look();
+  bool Hear(GstMessage* message);
+  bool HearEnd();
   bool HearError(GstMessage* message);
   void HearLevel(GstMessage* message);
   void CloseFiles();
@@ -48,9 +54,10 @@ struct GraphRun::Part {
 
   std::mutex mutex;
   std::condition_variable changed;
-  GstRef<GstBus> bus;  ///< while there is something to wake
-  bool stop = false;
-  bool ended = false;
+  GstRef<GstBus> bus;  ///< once there is a strand
+  std::vector<std::shared_ptr<SourceWatch>> sources;
+  bool stop = false;   ///< it is to be taken down
+  bool ended = false;  ///< it has been
 };
 
 GraphRun::GraphRun(std::shared_ptr<const GraphOrder> order, GraphNews news, std::unique_ptr<GraphRun> before)
@@ -62,7 +69,8 @@ GraphRun::GraphRun(std::shared_ptr<const GraphOrder> order, GraphNews news, std:
       std::ranges::copy_if(before->parts_, std::back_inserter(part->before),
                            [&](const auto& other) { return part->SharesDevice(*other); });
     part->running = running;
-    std::thread([part] { part->Work(); }).detach();
+    std::thread([part] { part->Build(); }).detach();
+    std::thread([part] { part->Watch(); }).detach();
   }
 }
 
@@ -99,83 +107,102 @@ bool GraphRun::Part::WaitEnded(Clock::time_point until) {
   return changed.wait_until(lock, until, [this] { return ended; });
 }
 
-void GraphRun::Part::Work() {
+void GraphRun::Part::Build() {
   const auto patience = Clock::now() + kForerunner;
   for (const auto& part : std::exchange(before, {})) part->WaitEnded(patience);
   std::string culprit;
   Result<Strand> strand = BuildStrand(*order, filters, news, culprit);
-  if (strand) {
+  std::unique_lock lock(mutex);
+  if (!strand) {
+    if (!stop) news.SourceFailed(culprit, strand.Why());
+    stop = true;
+  } else if (!stop) {
     GstElement* pipeline = strand->pipeline.get();
-    std::unique_lock lock(mutex);
     bus.reset(gst_element_get_bus(pipeline));
-    const bool wanted = !stop;
+    sources = strand->sources;
+    changed.notify_all();
     lock.unlock();
-    if (wanted) Watch(*strand);
-    gst_element_set_state(pipeline, GST_STATE_NULL);
-    CloseFiles();
+    Start(pipeline);
     lock.lock();
-    bus.reset();
+    changed.wait(lock, [this] { return stop; });
     lock.unlock();
+    gst_element_set_state(pipeline, GST_STATE_NULL);
     strand->pipeline.reset();
-  } else {
-    news.SourceFailed(culprit, strand.Why());
+    lock.lock();
   }
-  const std::lock_guard lock(mutex);
   ended = true;
   changed.notify_all();
 }
 
-/// Runs a strand until it is stopped, fails or ends.
-void GraphRun::Part::Watch(const Strand& strand) {
-  GstElement* pipeline = strand.pipeline.get();
+void GraphRun::Part::Start(GstElement* pipeline) const {
   // All strands go by the same clock and the same zero, so the times of their pictures can be compared.
   const GstRef<GstClock> clock(gst_system_clock_obtain());
   gst_pipeline_use_clock(GST_PIPELINE(pipeline), clock.get());
   gst_element_set_start_time(pipeline, GST_CLOCK_TIME_NONE);
   gst_element_set_base_time(pipeline, static_cast<GstClockTime>(order->beginNs));
   gst_element_set_state(pipeline, GST_STATE_PLAYING);  // what fails is told on the bus
+}
+
+/// Until the part is stopped, fails or ends; then it is taken down.
+void GraphRun::Part::Watch() {
   const int kinds = GST_MESSAGE_ERROR | GST_MESSAGE_EOS | GST_MESSAGE_ELEMENT | GST_MESSAGE_APPLICATION;
-  for (;;) {
+  bool over = !AwaitStrand();
+  while (!over) {
     const GstMessageRef message(gst_bus_timed_pop_filtered(bus.get(), kLook, static_cast<GstMessageType>(kinds)));
     {
       const std::lock_guard lock(mutex);
       if (stop) return;
     }
-    if (message ? Hear(message.get(), strand) : Look(strand)) return;
+    over = message ? Hear(message.get()) : Look();
   }
+  CloseFiles();
+  Stop();
 }
 
-/// @return  the strand is over
-bool GraphRun::Part::Look(const Strand& strand) {
+/// @return  false when there is nothing to be watched
+bool GraphRun::Part::AwaitStrand() {
+  std::unique_lock lock(mutex);
+  const auto until = Clock::now() + kForerunner + std::chrono::nanoseconds(kNoPictureNs);
+  if (changed.wait_until(lock, until, [this] { return stop || bus; })) return !stop;
+  news.SourceFailed(order->plan.filters[filters.front()].label, "The camera does not answer.");
+  return false;
+}
+
+/// @return  the part is over
+bool GraphRun::Part::Look() {
   bool over = false;
-  for (const auto& source : strand.sources) {
+  for (const auto& source : sources) {
+    const std::string_view name = source->camera ? "camera" : "microphone";
     if (source->ended) {
-      news.SourceFailed(source->label, source->camera ? "The camera has ended." : "The microphone has ended.");
-      over = true;
+      news.SourceFailed(source->label, fmt::format("The {} has ended.", name));
     } else if (MonotonicNow() - source->lastNs > kNoPictureNs) {
-      news.SourceFailed(source->label,
-                        source->camera ? "The camera gives no picture." : "The microphone gives no sound.");
-      over = true;
+      news.SourceFailed(source->label, fmt::format("The {} gives no {}.", name, source->camera ? "picture" : "sound"));
+    } else {
+      continue;
     }
+    over = true;
   }
   return over;
 }
 
-bool GraphRun::Part::Hear(GstMessage* message, const Strand& strand) {
+bool GraphRun::Part::Hear(GstMessage* message) {
   switch (GST_MESSAGE_TYPE(message)) {
     case GST_MESSAGE_ERROR: return HearError(message);
-    case GST_MESSAGE_EOS:
-      if (Look(strand)) return true;
-      CloseFiles();
-      for (const std::size_t filter : filters) {
-        const auto& writer = order->faces.writers[filter];
-        if (writer) writer->Lane()->WaitClosed(Clock::now() + kForerunner);
-      }
-      if (--*running == 0) news.EndOfStream();
-      return true;
+    case GST_MESSAGE_EOS: return Look() || HearEnd();
     case GST_MESSAGE_ELEMENT: HearLevel(message); return false;
     default: return false;
   }
+}
+
+/// A file has been read to its end.
+bool GraphRun::Part::HearEnd() {
+  CloseFiles();
+  for (const std::size_t filter : filters)
+    if (const auto& writer = order->faces.writers[filter]) {
+      if (const auto lane = writer->Lane()) lane->WaitClosed(Clock::now() + kForerunner);
+    }
+  if (--*running == 0) news.EndOfStream();
+  return true;
 }
 
 /// A window that cannot show, or a file that cannot be written, is no reason to stop the rest.
@@ -188,9 +215,9 @@ bool GraphRun::Part::HearError(GstMessage* message) {
     news.SinkFailed(label, "The pictures of the camera cannot be written.");
     return false;
   }
-  if (role == FilterRole::Camera || role == FilterRole::Microphone || role == FilterRole::AudioTrigger)
-    news.SourceFailed(label, WordsForFailure(message, role == FilterRole::Camera));
-  else news.SourceFailed(order->plan.filters[filters.front()].label, WordsForFailure(message, true));
+  const bool sound = role == FilterRole::Microphone || role == FilterRole::AudioTrigger;
+  const bool source = sound || (role == FilterRole::Camera && !label.empty());
+  news.SourceFailed(source ? label : order->plan.filters[filters.front()].label, WordsForFailure(message, !sound));
   return true;
 }
 

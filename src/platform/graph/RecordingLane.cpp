@@ -31,6 +31,7 @@ struct RecordingLane::Desk {
   Desk(std::string sink, GraphNews told) : label(std::move(sink)), news(std::move(told)) {}
 
   static void Work(const std::shared_ptr<Desk>& desk);
+  Clock::time_point GiveUp() const { return takes.empty() ? Clock::time_point::max() : takes.front().giveUp; }
   bool TakeIsOver() const { return !takes.empty() && (writtenNs >= takes.front().lastNs || failed); }
   void Write(std::unique_lock<std::mutex>& lock);
   void EndTake(std::unique_lock<std::mutex>& lock);
@@ -111,10 +112,14 @@ RecordingTally RecordingLane::Tally() const {
 void RecordingLane::Desk::Work(const std::shared_ptr<Desk>& desk) {
   std::unique_lock lock(desk->mutex);
   for (;;) {
-    const auto stirred = [&] { return !desk->pictures.empty() || desk->TakeIsOver() || desk->quit; };
-    const auto giveUp = desk->takes.empty() ? Clock::time_point::max() : desk->takes.front().giveUp;
-    const bool late = giveUp == Clock::time_point::max() ? (desk->changed.wait(lock, stirred), false)
-                                                         : !desk->changed.wait_until(lock, giveUp, stirred);
+    const auto giveUp = desk->GiveUp();
+    const auto stirred = [&] {
+      return !desk->pictures.empty() || desk->TakeIsOver() || desk->quit || desk->GiveUp() != giveUp;
+    };
+    bool late = false;
+    if (giveUp == Clock::time_point::max()) desk->changed.wait(lock, stirred);
+    else late = !desk->changed.wait_until(lock, giveUp, stirred);
+    if (!late && desk->GiveUp() != giveUp) continue;
     if (late || desk->TakeIsOver() || (desk->pictures.empty() && !desk->takes.empty())) desk->EndTake(lock);
     else if (!desk->pictures.empty()) desk->Write(lock);
     else break;

@@ -1,6 +1,7 @@
 #include "platform/graph/LiveGraph.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QCoreApplication>
 #include <chrono>
@@ -173,13 +174,15 @@ TEST_F(LiveGraphs, ACameraThatNeverAnswersHoldsUpNobody) {
   EXPECT_TRUE(graph.GraphStop());
 }
 
-TEST_F(LiveGraphs, WhatACameraGaveBeforeItEndedIsKept) {
+TEST_F(LiveGraphs, WhatACameraGaveBeforeItEndedIsKeptAndOneThatHangsIsTold) {
+  // Nobody writes into the pipe, so it cannot even be opened.
+  ASSERT_EQ(mkfifo(folder.Path("pipe").c_str(), 0600), 0);
+  cameras->played["starts never"] = "filesrc location=" + folder.Path("pipe");
   cameras->played["pulled"] =
       "videotestsrc is-live=true num-buffers=25 ! capsfilter caps=video/x-raw,width=320,height=240,framerate=50/1";
-  cameras->played["mute"] = "appsrc is-live=true";
   ASSERT_TRUE(graph.GraphXmlLoad(MVTwoCamSS));
   ASSERT_TRUE(graph.GraphSetDevice("VideoSource", "pulled"));
-  ASSERT_TRUE(graph.GraphSetDevice("VideoSource 2", "mute"));
+  ASSERT_TRUE(graph.GraphSetDevice("VideoSource 2", "starts never"));
   ASSERT_TRUE(graph.GraphSetFileSink("FileWriter", folder.Path("x.avi")));
   Gate().Arm(true);
   ASSERT_TRUE(graph.GraphRun());
@@ -189,6 +192,8 @@ TEST_F(LiveGraphs, WhatACameraGaveBeforeItEndedIsKept) {
   EXPECT_EQ(ReadVideoInfo(folder.Path("x.avi"))->frameCount, 25);
   EXPECT_TRUE(Comes([&] { return told.failed.contains("VideoSource 2"); }));
   EXPECT_EQ(told.failed["VideoSource 2"], "The camera gives no picture.");
+  EXPECT_TRUE(graph.GraphStop());
+  std::ofstream(folder.Path("pipe"));  // lets the thread go
 }
 
 TEST_F(LiveGraphs, NothingIsToldOfAGraphThatHasGone) {
