@@ -58,6 +58,7 @@ class ChunkWalk {
   bool ReadIndex(RecordingPart& part) const;
   std::int64_t TakeClosedParts(const RecordingHead& head);
   void TakeChunk(std::int64_t at, const Head& head);
+  void TakeIndex(std::int64_t at, std::uint32_t bytes);
   std::int64_t TakeDamaged(std::int64_t at, const std::optional<Head>& head, std::int64_t next);
   void TakePicture(std::int64_t at, std::uint32_t bytes);
 
@@ -187,18 +188,28 @@ void ChunkWalk::Go(const RecordingHead& knows) {
 
 void ChunkWalk::TakeChunk(std::int64_t at, const Head& head) {
   if (head.name == kPictureChunk) TakePicture(at, head.bytes);
-  if (head.name == kPartIndexChunk) {
-    // One that tells something else than what is there is made anew.
-    RecordingPart told;
-    told.base = parts_.back().base;
-    told.headless = parts_.back().headless;
-    told.indexAt = at;
-    told.indexBytes = head.bytes + static_cast<std::uint32_t>(kChunkHead);
-    if (ReadIndex(told) && told.chunks.size() == parts_.back().chunks.size()) parts_.back() = std::move(told);
-  }
+  if (head.name == kPartIndexChunk) TakeIndex(at, head.bytes + static_cast<std::uint32_t>(kChunkHead));
   if (head.name != kFileChunk) return;
   parts_.emplace_back().base = at;
   end_ = head.end;
+}
+
+/// What the index of a part tells holds against heads that are damaged; an index of something else is made anew.
+void ChunkWalk::TakeIndex(std::int64_t at, std::uint32_t bytes) {
+  RecordingPart& walked = parts_.back();
+  RecordingPart told;
+  told.base = walked.base;
+  told.headless = walked.headless;
+  told.indexAt = at;
+  told.indexBytes = bytes;
+  if (walked.indexAt > 0 || !ReadIndex(told) || told.chunks.size() != walked.chunks.size()) return;
+  std::erase_if(patches_, [&](const Patch& patch) { return patch.at >= told.base; });
+  for (std::size_t i = 0; i < told.chunks.size(); ++i) {
+    const RecordingChunk& chunk = told.chunks[i];
+    if (chunk != walked.chunks[i]) patches_.push_back({told.base + chunk.at, kPictureChunk, chunk.bytes});
+  }
+  if (!told.chunks.empty()) end_ = told.EndOf(told.chunks.back());
+  walked = std::move(told);
 }
 
 /// @param next  where things are in order again
