@@ -1,11 +1,31 @@
 #include "capture/import/ImportList.h"
 
 #include <algorithm>
+#include <unordered_map>
 #include <utility>
 
 namespace kinalyx {
 
 using State = ImportRow::State;
+
+namespace {
+
+/// What is known of a file, brought up to date by another look at it.
+ImportRow SeenAgain(ImportRow row, const ImportFile& file) {
+  const bool same = row.file.stamp == file.stamp && !file.written;
+  const bool atWork = row.state == State::Converting || row.state == State::Queued;
+  row.file = file;
+  row.stillTicks = same ? row.stillTicks + 1 : 0;
+  if (!same && !atWork) {
+    row.state = State::Arriving;
+    row.remark.clear();
+  } else if (same && row.state == State::Arriving) {
+    row.state = State::Waiting;
+  }
+  return row;
+}
+
+}  // namespace
 
 const ImportRow* ImportList::Find(const std::string& path) const {
   const auto found = std::ranges::find(
@@ -16,29 +36,21 @@ const ImportRow* ImportList::Find(const std::string& path) const {
 ImportRow* ImportList::Find(const std::string& path) { return const_cast<ImportRow*>(std::as_const(*this).Find(path)); }
 
 void ImportList::TakeFolder(const std::vector<ImportFile>& files) {
-  std::vector<ImportRow> rows;
-  rows.reserve(files.size());
+  std::unordered_map<std::string, ImportRow> known;
+  for (ImportRow& row : rows_) known.emplace(row.file.path, std::move(row));
+  rows_.clear();
+  rows_.reserve(files.size());
   for (const ImportFile& file : files) {
-    const ImportRow* known = Find(file.path);
-    ImportRow row = known ? *known : ImportRow{};
-    const bool same = known && known->file.stamp == file.stamp && !file.written;
-    const bool atWork = row.state == State::Converting || row.state == State::Queued;
-    row.file = file;
-    row.stillTicks = same ? row.stillTicks + 1 : 0;
-    if (!same && !atWork) {
-      row.state = file.written || known ? State::Arriving : State::Waiting;
-      row.remark.clear();
-    } else if (row.state == State::Arriving && row.stillTicks > 0) {
-      row.state = State::Waiting;
+    const auto found = known.find(file.path);
+    if (found == known.end()) {
+      rows_.push_back({file, file.written ? State::Arriving : State::Waiting, {}, 0});
+      continue;
     }
-    rows.push_back(std::move(row));
+    rows_.push_back(SeenAgain(std::move(found->second), file));
+    known.erase(found);
   }
-  for (const ImportRow& row : rows_) {
-    const bool gone =
-        std::ranges::none_of(rows, [&](const ImportRow& other) { return other.file.path == row.file.path; });
-    if (gone && row.state == State::Converting) rows.push_back(row);
-  }
-  rows_ = std::move(rows);
+  for (auto& [path, row] : known)
+    if (row.state == State::Converting) rows_.push_back(std::move(row));
 }
 
 void ImportList::Add(const std::vector<ImportFile>& files) {

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <utility>
 
 #include "platform/files/Folders.h"
@@ -201,13 +202,15 @@ bool ImportSession::NextName() {
   return false;
 }
 
+bool ImportSession::CanSave(const std::string& path) const {
+  const ImportRow* row = list_.Find(path);
+  return row && row->state != State::Converting && row->state != State::Queued;
+}
+
 bool ImportSession::Save(const std::vector<std::string>& paths) {
   if (!HasFolder()) return false;
   std::vector<std::string> wanted;
-  for (const std::string& path : paths) {
-    const ImportRow* row = list_.Find(path);
-    if (row && row->state != State::Converting && row->state != State::Queued) wanted.push_back(path);
-  }
+  std::ranges::copy_if(paths, std::back_inserter(wanted), [this](const std::string& path) { return CanSave(path); });
   if (wanted.empty()) return false;
   if (std::ranges::find(wanted, selected_) != wanted.end() && !TrimIsGood()) {
     parts_.host.Message(MessageKind::Warning, "", kBadTrim);

@@ -86,6 +86,8 @@ class ImportSession {
   void SetStartPoint(double ms);
   void SetEndPoint(double ms);
   void ClearTrim();
+  /// False for a file that is being converted, or whose turn comes, and for one that is not in the list.
+  bool CanSave(const std::string& path) const;
   /// "Save": converts these files, one after the other, each under the next name. The trim goes for the selected one.
   /// False, with a message, when it does not begin.
   bool Save(const std::vector<std::string>& paths);

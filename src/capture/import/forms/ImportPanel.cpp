@@ -314,6 +314,7 @@ void ImportPanel::SSCommand8_Click(int index) {
 std::vector<std::string> ImportPanel::ToSave() const {
   std::vector<std::string> chosen = rows_->Chosen();
   if (chosen.empty() && !session_.Selected().empty()) chosen.push_back(session_.Selected());
+  std::erase_if(chosen, [this](const std::string& path) { return !session_.CanSave(path); });
   return chosen;
 }
 
