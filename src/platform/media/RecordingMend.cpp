@@ -204,9 +204,10 @@ void ChunkWalk::TakeIndex(std::int64_t at, std::uint32_t bytes) {
   told.indexBytes = bytes;
   if (walked.indexAt > 0 || !ReadIndex(told) || told.chunks.size() != walked.chunks.size()) return;
   std::erase_if(patches_, [&](const Patch& patch) { return patch.at >= told.base; });
-  for (std::size_t i = 0; i < told.chunks.size(); ++i) {
-    const RecordingChunk& chunk = told.chunks[i];
-    if (chunk != walked.chunks[i]) patches_.push_back({told.base + chunk.at, kPictureChunk, chunk.bytes});
+  for (const RecordingChunk& chunk : told.chunks) {
+    const auto head = HeadAt(told.base + chunk.at);
+    if (!head || head->name != kPictureChunk || head->bytes != chunk.bytes)
+      patches_.push_back({told.base + chunk.at, kPictureChunk, chunk.bytes});
   }
   if (!told.chunks.empty()) end_ = told.EndOf(told.chunks.back());
   walked = std::move(told);

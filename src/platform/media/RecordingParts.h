@@ -17,8 +17,6 @@ namespace kinalyx {
 struct RecordingChunk {
   std::uint32_t at = 0;     ///< of its head, from the base of the part
   std::uint32_t bytes = 0;  ///< 0: an empty place
-
-  friend bool operator==(const RecordingChunk&, const RecordingChunk&) = default;
 };
 
 /// One of the parts of which a large AVI file consists.
