@@ -95,7 +95,7 @@ class Feeder {
   std::thread thread_;
 };
 
-constexpr const char* kSource = "appsrc is-live=true format=time do-timestamp=true max-buffers=2 leaky-type=upstream";
+constexpr const char* kSource = "appsrc is-live=true format=time do-timestamp=true max-buffers=4 leaky-type=upstream";
 
 /// Cameras "1920x1080" and the like.
 class Cameras final : public DeviceSources {

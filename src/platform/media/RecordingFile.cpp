@@ -58,7 +58,7 @@ struct RecordingFile::Engine {
 /// Far more pictures than the camera can take: a source whose camera has just been pulled out may give its last one
 /// again and again.
 bool RecordingFile::Engine::RunsWild(std::int64_t ns) const {
-  constexpr double kAtMost = 2.5;  // times what it promises
+  constexpr double kAtMost = 4;  // times what it promises
   const double seconds = 1 + static_cast<double>(ns - tally.firstNs) * 1e-9;
   return promises && tally.pictures > 0 && static_cast<double>(tally.pictures) > kAtMost * promisedRate * seconds;
 }
