@@ -9,6 +9,7 @@
 #include <functional>
 #include <map>
 #include <thread>
+#include <utility>
 
 #include "capture/templates/CaptureTemplates.h"
 #include "platform/graph/DeviceSources.h"
@@ -194,6 +195,25 @@ TEST_F(LiveGraphs, WhatACameraGaveBeforeItEndedIsKeptAndOneThatHangsIsTold) {
   EXPECT_EQ(told.failed["VideoSource 2"], "The camera gives no picture.");
   EXPECT_TRUE(graph.GraphStop());
   std::ofstream(folder.Path("pipe"));  // lets the thread go
+}
+
+TEST_F(LiveGraphs, DamagedPicturesAreWrittenAsTheyComeAndStopNobody) {
+  cameras->played["bad cable"] =
+      "videotestsrc is-live=true ! capsfilter caps=video/x-raw,width=320,height=240,framerate=50/1 ! jpegenc ! "
+      "breakmydata probability=0.002";
+  ASSERT_TRUE(graph.GraphXmlLoad(MVOneCamSSAN));
+  ASSERT_TRUE(graph.GraphSetDevice("VideoSource", "bad cable"));
+  ASSERT_TRUE(graph.GraphSetFileSink("FileWriter", folder.Path("x.avi")));
+  Gate().Arm(true);
+  ASSERT_TRUE(graph.GraphRun());
+  int seen = 0;
+  EXPECT_TRUE(Comes([&] {
+    if (std::exchange(told.pictures["Video Renderer"], 0) > 0 && Seen().pixels) ++seen;
+    return seen >= 20 && Tally().pictures >= 60;
+  }));
+  EXPECT_TRUE(graph.GraphStop());
+  EXPECT_EQ(Tally().lost, 0);
+  EXPECT_TRUE(told.failed.empty()) << told.failed.begin()->second;
 }
 
 TEST_F(LiveGraphs, NothingIsToldOfAGraphThatHasGone) {
