@@ -14,7 +14,7 @@ class TestPicture {
   TestPicture(int width, int height);
 
   /// @param number     of the picture, 0 to 2^24 - 1; larger ones begin anew
-  /// @param seconds    on the way of the club; it is at rest in the middle of its swing at no time
+  /// @param seconds    since the club hung straight down for the first time
   /// @param timeOfDay  seconds since midnight
   const Surface& Draw(std::int64_t number, double seconds, double timeOfDay);
 
