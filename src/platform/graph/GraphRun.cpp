@@ -20,7 +20,8 @@ using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
 constexpr GstClockTime kLook = 100 * GST_MSECOND;     // between two looks at the sources
-constexpr std::int64_t kNoPictureNs = 5'000'000'000;  // after which a camera is not believed any more
+constexpr std::int64_t kNoPictureNs = 5'000'000'000;  // after which a camera that starts is not believed any more
+constexpr std::int64_t kSilenceNs = 3'000'000'000;    // and one that has given pictures
 constexpr auto kForerunner = 5s;                      // that the run before may need to let a device go
 
 }  // namespace
@@ -175,7 +176,7 @@ bool GraphRun::Part::Look() {
     const std::string_view name = source->camera ? "camera" : "microphone";
     if (source->ended) {
       news.SourceFailed(source->label, fmt::format("The {} has ended.", name));
-    } else if (MonotonicNow() - source->lastNs > kNoPictureNs) {
+    } else if (MonotonicNow() - source->lastNs > (source->given ? kSilenceNs : kNoPictureNs)) {
       news.SourceFailed(source->label, fmt::format("The {} gives no {}.", name, source->camera ? "picture" : "sound"));
     } else {
       continue;
@@ -217,7 +218,9 @@ bool GraphRun::Part::HearError(GstMessage* message) {
   }
   const bool sound = role == FilterRole::Microphone || role == FilterRole::AudioTrigger;
   const bool source = sound || (role == FilterRole::Camera && !label.empty());
-  news.SourceFailed(source ? label : order->plan.filters[filters.front()].label, WordsForFailure(message, !sound));
+  const bool given = std::ranges::any_of(sources, [](const auto& watch) { return watch->given.load(); });
+  news.SourceFailed(source ? label : order->plan.filters[filters.front()].label,
+                    WordsForFailure(message, !sound, given));
   return true;
 }
 

@@ -7,12 +7,13 @@
 
 namespace kinalyx {
 
-std::string WordsForFailure(GstMessage* error, bool camera) {
+std::string WordsForFailure(GstMessage* error, bool camera, bool given) {
   GError* fault = nullptr;
   gst_message_parse_error(error, &fault, nullptr);
   const std::string_view name = camera ? "camera" : "microphone";
   std::string words = fmt::format("The {} has stopped: {}", name, fault->message);
-  if (fault->domain == GST_STREAM_ERROR) words = fmt::format("The {} gives nothing any more.", name);
+  if (fault->domain == GST_STREAM_ERROR)
+    words = fmt::format("The {} {}.", name, given ? "gives nothing any more" : "does not answer");
   if (fault->domain == GST_RESOURCE_ERROR) {
     switch (fault->code) {
       case GST_RESOURCE_ERROR_BUSY: words = fmt::format("Another program is using the {}.", name); break;

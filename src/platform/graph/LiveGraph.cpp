@@ -125,7 +125,8 @@ Outcome LiveGraph::GraphSetFrameTime(std::string_view label, double seconds) {
 }
 
 Outcome LiveGraph::GraphSetAudioPin(int index) {
-  return index >= 0 ? Outcome() : Outcome::Failed("There is no such input of the microphone.");
+  // Each line of a sound card is a microphone of its own in the list of devices.
+  return index == 0 ? Outcome() : Outcome::Failed("There is no such input of the microphone.");
 }
 
 Outcome LiveGraph::GraphSetFileSource(std::string_view label, std::string_view path) {
