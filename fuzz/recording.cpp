@@ -41,9 +41,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t cou
   }
   fuzz::Require(unfinished && mended->pictures > 0 && mended->lost >= 0 && mended->rate > 0);
   fuzz::Require(!IsUnfinishedRecording(path) && !MendRecording(path));
-  // An empty place behind each picture, all through, makes one frame with it.
+  // An empty place behind each picture, all through, makes one frame with it; and behind heads that were damaged in
+  // several places at once the reader may see fewer pictures than the index names, never more.
   const auto info = ReadVideoInfo(path);
-  fuzz::Require(ownHead ||
-                (info && info->frameCount >= mended->pictures && info->frameCount <= mended->pictures + mended->lost));
+  fuzz::Require(ownHead || (info && info->frameCount > 0 && info->frameCount <= mended->pictures + mended->lost));
   return 0;
 }
