@@ -120,11 +120,8 @@ void Program::LoadMain() {
   main_->SetPage(kProfilesPage, profiles_);
 
   settings_.LoadCaptureSettings();
-  capture_ = std::make_unique<CaptureRoom>(CaptureRoom::Parts{.services = players_,
-                                                              .settings = settings_,
-                                                              .fields = fields_,
-                                                              .remembered = lastStudent_,
-                                                              .ways = *this});
+  capture_ = std::make_unique<CaptureRoom>(CaptureRoom::Parts{
+      .services = players_, .settings = settings_, .fields = fields_, .remembered = lastStudent_, .ways = *this});
   capturePage_ = capture_->MakePage();
   main_->SetPage(kCapturePage, capturePage_);
 

@@ -77,7 +77,8 @@ void CopySoftField(const std::uint8_t* frame, int rowBytes, int height, bool cur
     else if (row == 1) std::memcpy(target, copied, bytes);
     last = row;
   }
-  if (last >= 0 && last < height - 1) std::memcpy(Row(target, rowBytes, height - 1), Row(target, rowBytes, last), bytes);
+  if (last >= 0 && last < height - 1)
+    std::memcpy(Row(target, rowBytes, height - 1), Row(target, rowBytes, last), bytes);
 }
 
 void EnhanceField(std::uint8_t* rows, int rowBytes, int height, bool currentField, double highAmount,

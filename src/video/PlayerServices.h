@@ -21,7 +21,7 @@ struct PlayerServices {
   /// still in the processor's cache is written over fastest.
   ScaleScratch scratch{};
   std::vector<std::uint8_t> field{};  ///< where a field is rebuilt before it is scaled, shared for the same reason
-  ISoundOutput* sound = nullptr;  ///< null: nothing is ever heard
+  ISoundOutput* sound = nullptr;      ///< null: nothing is ever heard
 };
 
 }  // namespace kinalyx

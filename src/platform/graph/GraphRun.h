@@ -9,9 +9,9 @@
 
 namespace kinalyx {
 
-/// One run of a graph, from GraphRun to GraphStop. Each part that hangs together has threads of its own, which build it,
-/// watch it and take it down, so that a device that never answers holds up nobody, not even the other camera. A thread
-/// that hangs is left to itself with all that it uses.
+/// One run of a graph, from GraphRun to GraphStop. Each part that hangs together has threads of its own, which build
+/// it, watch it and take it down, so that a device that never answers holds up nobody, not even the other camera. A
+/// thread that hangs is left to itself with all that it uses.
 class GraphRun {
   struct Part;
 
