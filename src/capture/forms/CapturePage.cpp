@@ -597,7 +597,10 @@ void CapturePage::ShowKind() {
   actions_->setVisible(!files);
   status_->setVisible(!files);
   import_->setVisible(files);
-  if (!files) return;
+  if (!files) {
+    import_->Session().EndWatch();
+    return;
+  }
   import_->SetKind(static_cast<ImportKind>(kind));
   import_->Open();
 }

@@ -79,8 +79,9 @@ std::string ImportSession::Folder() const {
 // ---------------------------------------------------------------- the list
 
 void ImportSession::ChooseKind(ImportKind kind) {
-  if (autoActive_) StopAuto();
   if (kind_ != kind) {
+    EndWatch();
+    queue_.clear();
     list_.Clear();
     status_.clear();
     Select({});
@@ -90,7 +91,7 @@ void ImportSession::ChooseKind(ImportKind kind) {
 }
 
 void ImportSession::Refresh() {
-  TakeFolder(false, false);
+  TakeFolder(autoActive_, false);
   Changed();
 }
 
@@ -326,7 +327,7 @@ void ImportSession::Unqueue() {
 
 void ImportSession::ToggleAuto() {
   if (autoActive_) {
-    StopAuto();
+    EndWatch();
     return;
   }
   if (!HasFolder() || !NextName()) return;
@@ -336,11 +337,13 @@ void ImportSession::ToggleAuto() {
   AutoTimer();
 }
 
-void ImportSession::StopAuto() {
+void ImportSession::EndWatch() {
+  if (!autoActive_) return;
   autoTimer_.Stop();
   autoActive_ = false;
   counting_.clear();
   SetAutoStatus(kAutoOff);
+  Changed();
 }
 
 void ImportSession::AutoTimer() {
@@ -364,7 +367,7 @@ void ImportSession::CountDown() {
   parts_.naming.GetVideoName();
   const std::string& video = parts_.naming.CapturedVideoPath();
   if (video.empty()) {
-    StopAuto();
+    EndWatch();
     Trouble(kNoName);
     parts_.naming.ChangeName();
     return;

@@ -68,7 +68,7 @@ class ImportSession {
 
   // --- what the user does
 
-  /// Takes another kind and reads its folder; the watch ends.
+  /// Takes another kind: the watch ends, and what waits is not converted any more. Reads its folder.
   void ChooseKind(ImportKind kind);
   /// Reads the folder of this kind anew; nothing for files picked by hand.
   void Refresh();
@@ -93,6 +93,8 @@ class ImportSession {
   bool Save(const std::vector<std::string>& paths);
   /// `AutoConvertBtn_Click`.
   void ToggleAuto();
+  /// Videos come from elsewhere now: nothing is watched any more.
+  void EndWatch();
   /// Gives up the file that is being converted and those behind it.
   void CancelConversion();
 
@@ -124,7 +126,6 @@ class ImportSession {
   void CountDown();
   void SetStatus(std::string status);
   void SetAutoStatus(std::string status);
-  void StopAuto();
   void Changed() { parts_.events.ImportChanged(); }
 
   Parts parts_;
