@@ -8,6 +8,7 @@
 #include <QTimer>
 #include <atomic>
 #include <chrono>
+#include <cmath>
 #include <cstdint>
 #include <filesystem>
 #include <memory>
@@ -193,10 +194,14 @@ Recorded RecordTwo(Clock::duration time) {
   window.Show(time);
   recorded.seconds = ProcessorSeconds() - before;
   (void)window.Graph().GraphStop();
-  double pictures = 0;
-  for (const char* writer : kWriters)
-    pictures += static_cast<double>(window.Graph().GraphFilterByLabel<IWriterFilter>(writer)->Tally().pictures);
-  recorded.share = pictures / (2 * kRate * std::chrono::duration<double>(time).count());
+  double pictures = 0, given = 0;
+  for (const char* writer : kWriters) {
+    const RecordingTally tally = window.Graph().GraphFilterByLabel<IWriterFilter>(writer)->Tally();
+    pictures += static_cast<double>(tally.pictures);
+    given += std::round(static_cast<double>(tally.lastNs - tally.firstNs) * kRate / 1e9) + 1;
+  }
+  if (given < kRate) throw std::runtime_error("nothing was written");
+  recorded.share = pictures / given;
   for (const std::string& file : files) std::filesystem::remove(file);
   return recorded;
 }

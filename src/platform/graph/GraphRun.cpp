@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <atomic>
 #include <condition_variable>
-#include <iterator>
 #include <mutex>
 #include <string_view>
 #include <thread>
@@ -22,7 +21,7 @@ using Clock = std::chrono::steady_clock;
 constexpr GstClockTime kLook = 100 * GST_MSECOND;     // between two looks at the sources
 constexpr std::int64_t kNoPictureNs = 5'000'000'000;  // after which a camera that starts is not believed any more
 constexpr std::int64_t kSilenceNs = 3'000'000'000;    // and one that has given pictures
-constexpr auto kForerunner = 5s;                      // that the run before may need to let a device go
+constexpr auto kForerunner = 3s;                      // that the run before may need to let a device go
 
 }  // namespace
 
@@ -50,7 +49,7 @@ struct GraphRun::Part {
   const std::shared_ptr<const GraphOrder> order;
   const std::vector<std::size_t> filters;
   const GraphNews news;
-  std::vector<std::shared_ptr<Part>> before;  ///< who may still have a device that is needed
+  std::vector<std::shared_ptr<Part>> before;  ///< who has a device that is needed; not changed any more
   std::shared_ptr<std::atomic<int>> running;  ///< parts of this run that have not come to their end
 
   std::mutex mutex;
@@ -66,9 +65,7 @@ GraphRun::GraphRun(std::shared_ptr<const GraphOrder> order, GraphNews news, std:
   for (auto& filters : PartsOf(order->plan)) parts_.push_back(std::make_shared<Part>(order, std::move(filters), news));
   const auto running = std::make_shared<std::atomic<int>>(static_cast<int>(parts_.size()));
   for (const auto& part : parts_) {
-    if (before)
-      std::ranges::copy_if(before->parts_, std::back_inserter(part->before),
-                           [&](const auto& other) { return part->SharesDevice(*other); });
+    if (before) part->before = before->StillAtWork(*part);
     part->running = running;
     std::thread([part] { part->Build(); }).detach();
     std::thread([part] { part->Watch(); }).detach();
@@ -76,6 +73,19 @@ GraphRun::GraphRun(std::shared_ptr<const GraphOrder> order, GraphNews news, std:
 }
 
 GraphRun::~GraphRun() { Stop(); }
+
+/// The parts of this run, and those for which they wait in vain, that have not let go a device of another part.
+std::vector<std::shared_ptr<GraphRun::Part>> GraphRun::StillAtWork(const Part& other) const {
+  std::vector<std::shared_ptr<Part>> busy;
+  const auto look = [&](const std::shared_ptr<Part>& part) {
+    if (part->SharesDevice(other) && !part->WaitEnded(Clock::now())) busy.push_back(part);
+  };
+  for (const auto& part : parts_) {
+    look(part);
+    std::ranges::for_each(part->before, look);
+  }
+  return busy;
+}
 
 void GraphRun::Stop() {
   news_.Mute();
@@ -110,9 +120,11 @@ bool GraphRun::Part::WaitEnded(Clock::time_point until) {
 
 void GraphRun::Part::Build() {
   const auto patience = Clock::now() + kForerunner;
-  for (const auto& part : std::exchange(before, {})) part->WaitEnded(patience);
-  std::string culprit;
-  Result<Strand> strand = BuildStrand(*order, filters, news, culprit);
+  const bool ours = std::ranges::all_of(before, [&](const auto& part) { return part->WaitEnded(patience); });
+  std::string culprit = order->plan.filters[filters.front()].label;
+  // One that hangs is not asked again: each time would leave one more thread hanging.
+  Result<Strand> strand = Outcome::Failed("The camera does not answer.");
+  if (ours) strand = BuildStrand(*order, filters, news, culprit);
   std::unique_lock lock(mutex);
   if (!strand) {
     if (!stop) news.SourceFailed(culprit, strand.Why());

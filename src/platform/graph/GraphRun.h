@@ -29,6 +29,8 @@ class GraphRun {
   bool WaitEnded(std::chrono::steady_clock::time_point until) const;
 
  private:
+  std::vector<std::shared_ptr<Part>> StillAtWork(const Part& other) const;
+
   GraphNews news_;
   std::vector<std::shared_ptr<Part>> parts_;  ///< shared with the threads
 };

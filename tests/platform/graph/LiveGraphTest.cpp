@@ -39,6 +39,7 @@ class PlayedCameras final : public DeviceSources {
 
   GstElement* MakeCameraSource(const std::string& name, const PictureMode* wanted) const override {
     if (name == "hangs") {
+      ++hanging;
       while (!freed) std::this_thread::sleep_for(10ms);
       return nullptr;
     }
@@ -50,6 +51,7 @@ class PlayedCameras final : public DeviceSources {
 
   std::map<std::string, std::string> played;
   std::atomic<bool> freed = false;
+  mutable std::atomic<int> hanging = 0;
 };
 
 struct Told final : IGraphEvents {
@@ -171,6 +173,9 @@ TEST_F(LiveGraphs, ACameraThatNeverAnswersHoldsUpNobody) {
   ASSERT_TRUE(graph.GraphRun());
   EXPECT_LT(Clock::now() - begun, 1s);
   EXPECT_TRUE(Comes([&] { return told.pictures["Video Renderer 2"] > 0; })) << "the other one is seen";
+  EXPECT_TRUE(Comes([&] { return told.failed.contains("VideoSource"); }));
+  EXPECT_EQ(told.failed["VideoSource"], "The camera does not answer.");
+  EXPECT_EQ(cameras->hanging, 1) << "each further try would leave a thread hanging";
   cameras->freed = true;
   EXPECT_TRUE(graph.GraphStop());
 }
