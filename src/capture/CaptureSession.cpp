@@ -99,6 +99,7 @@ bool CaptureSession::BuildCaptureGraph() {
   ArmGates(false);
   if (const Outcome run = graph_->GraphRun(); !run) return fail(run.Why());
   built_ = true;
+  RunCamcorder(true);
   if (status_.empty()) Say(std::string(kReady));
   parts_.page.CaptureChanged();
   return true;
@@ -139,9 +140,21 @@ void CaptureSession::BindSource(std::string_view label, int camera) {
 void CaptureSession::StopCaptureGraph() {
   tallyTimer_.Stop();
   if (!graph_) return;
-  if (built_) (void)graph_->GraphStop();
+  if (built_) {
+    (void)graph_->GraphStop();
+    RunCamcorder(false);
+  }
   graph_->GraphClear();
   built_ = false;
+}
+
+/// A camcorder with a tape is run and stopped by the system's own tool for it; without the tool its own buttons do.
+void CaptureSession::RunCamcorder(bool run) {
+  const CaptureMethod method = parts_.setup.Method();
+  const bool ours = method == CaptureMethod::StartStop || method == CaptureMethod::OneClick;
+  if (run ? !(parts_.setup.DVMode() && ours) : !camcorderRuns_) return;
+  camcorderRuns_ = run;
+  (void)parts_.host.StartDetached("dvcont", {run ? "play" : "stop"});
 }
 
 void CaptureSession::ArmGates(bool on) {
@@ -203,7 +216,7 @@ void CaptureSession::ShowTally() {
 
 void CaptureSession::StopCapture() {
   ArmGates(false);
-  if (built_) (void)graph_->GraphStop();
+  if (built_) (void)graph_->GraphStop();  // the files are closed, and the figures those of whole files
   ShowTally();
   StopCaptureGraph();
   UnfinishedRecording recording;

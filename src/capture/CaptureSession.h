@@ -91,6 +91,7 @@ class CaptureSession : private IGraphEvents {
   void AssignGraphCameras();
   void BindSource(std::string_view label, int camera);
   void StopCaptureGraph();
+  void RunCamcorder(bool run);
   void ArmGates(bool on);
   void StartCapture();
   void StopCapture();
@@ -119,6 +120,7 @@ class CaptureSession : private IGraphEvents {
   bool built_ = false;
   bool two_ = false;
   bool secondAlone_ = false;  ///< what is under review was taken by camera 2 alone
+  bool camcorderRuns_ = false;
   bool saving_ = false;
   bool sendNext_ = false;
   double jobPart_ = 0;

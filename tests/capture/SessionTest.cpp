@@ -191,6 +191,21 @@ TEST_F(SessionTest, WhatACameraGaveBeforeItWentIsReviewed) {
   EXPECT_EQ(session->Phase(), CapturePhase::LivePreview);
 }
 
+TEST_F(SessionTest, ACamcorderIsRunAndStopped) {
+  using Commands = std::vector<std::vector<std::string>>;
+  EXPECT_EQ(library.host.started, Commands{}) << "a webcam has no tape";
+  setup->ChooseKind(SourceKind::Firewire);
+  session->Rebuild();
+  EXPECT_EQ(graph->loaded, MVOneCamSS);
+  EXPECT_EQ(library.host.started, (Commands{{"dvcont", "play"}}));
+  Record();
+  EXPECT_EQ(library.host.started, (Commands{{"dvcont", "play"}, {"dvcont", "stop"}}));
+  session->Save();
+  RunJobs();
+  EXPECT_TRUE(FileExists(naming.Folder() + "/(001) DL- 11-25-2026.avi"));
+  EXPECT_FALSE(FileExists(naming.Folder() + "/(001) DL- 11-25-2026.ved")) << "what tape tells, it tells itself";
+}
+
 TEST_F(SessionTest, LeavingAsksBeforeARecordingIsLost) {
   Record();
   library.host.answers = {false};
