@@ -35,7 +35,7 @@ struct FieldChoice {
 constexpr FieldChoice kFieldChoices[] = {
     {"Swap the two fields", "When movement jumps back and forth in a video of two fields"},
     {"Show field by field", "Twice the pictures, of half the height"},
-    {"Recompress what is trimmed", "Else it is copied as it is, and begins at a key picture"},
+    {"Recompress", "Pictures that come raw are compressed as the video is saved"},
 };
 
 QPixmap PictureOf(const Settings& settings, std::string_view name, QSize size, double ratio) {
