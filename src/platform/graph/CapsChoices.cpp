@@ -62,7 +62,7 @@ class FileChooser final : public ICapsChooser {
  public:
   std::string BinFor(const GstCaps* caps) override {
     const Coming coming(caps);
-    if (coming.Jpeg() || coming.kind == "video/x-dv" || coming.kind == "video/x-msmpeg") return "identity";
+    if (coming.Jpeg() || coming.kind == "video/x-dv") return "identity";
     const bool small = coming.width <= kRawWidth && coming.height <= kRawHeight;
     if (!coming.Raw() || !small) return ToJpeg(coming);
     if (coming.format == "YUY2" || coming.format == "BGR") return "identity";

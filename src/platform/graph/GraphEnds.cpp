@@ -83,7 +83,7 @@ class Filer final : public PictureTaker {
 /// A queue of so much, from which those leave whom the other end cannot take: the oldest or the newest.
 enum class Leaves { Newest = 1, Oldest = 2 };
 GstElement* AppendQueue(FilterBin& bin, guint pictures, GstClockTime time, Leaves leaves) {
-  bin.Append("errorignore");
+  if (GstElement* guard = bin.Append("errorignore")) g_object_set(guard, "ignore-notlinked", TRUE, nullptr);
   GstElement* queue = bin.Append("queue");
   if (queue)
     g_object_set(queue, "max-size-buffers", pictures, "max-size-bytes", 0U, "max-size-time", time, "leaky",

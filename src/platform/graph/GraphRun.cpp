@@ -21,6 +21,7 @@ using Clock = std::chrono::steady_clock;
 constexpr GstClockTime kLook = 100 * GST_MSECOND;     // between two looks at the sources
 constexpr std::int64_t kNoPictureNs = 5'000'000'000;  // after which a camera that starts is not believed any more
 constexpr std::int64_t kSilenceNs = 3'000'000'000;    // and one that has given pictures
+constexpr std::int64_t kLastWayNs = 1'000'000'000;    // that the last picture may need to its file
 constexpr auto kForerunner = 3s;                      // that the run before may need to let a device go
 
 }  // namespace
@@ -35,7 +36,7 @@ struct GraphRun::Part {
   void Start(GstElement* pipeline) const;
   void Watch();
   bool AwaitStrand();
-  bool Look();
+  bool Look(bool drained);
   bool Hear(GstMessage* message);
   bool HearEnd();
   bool HearError(GstMessage* message);
@@ -166,7 +167,7 @@ void GraphRun::Part::Watch() {
       const std::lock_guard lock(mutex);
       if (stop) return;
     }
-    over = message ? Hear(message.get()) : Look();
+    over = message ? Hear(message.get()) : Look(false);
   }
   CloseFiles();
   Stop();
@@ -181,14 +182,16 @@ bool GraphRun::Part::AwaitStrand() {
   return false;
 }
 
+/// @param drained  what the sources gave has come to its end
 /// @return  the part is over
-bool GraphRun::Part::Look() {
+bool GraphRun::Part::Look(bool drained) {
   bool over = false;
   for (const auto& source : sources) {
     const std::string_view name = source->camera ? "camera" : "microphone";
-    if (source->ended) {
+    const std::int64_t silence = MonotonicNow() - source->lastNs;
+    if (source->ended && (drained || silence > kLastWayNs)) {
       news.SourceFailed(source->label, fmt::format("The {} has ended.", name));
-    } else if (MonotonicNow() - source->lastNs > (source->given ? kSilenceNs : kNoPictureNs)) {
+    } else if (silence > (source->given ? kSilenceNs : kNoPictureNs)) {
       news.SourceFailed(source->label, fmt::format("The {} gives no {}.", name, source->camera ? "picture" : "sound"));
     } else {
       continue;
@@ -201,7 +204,7 @@ bool GraphRun::Part::Look() {
 bool GraphRun::Part::Hear(GstMessage* message) {
   switch (GST_MESSAGE_TYPE(message)) {
     case GST_MESSAGE_ERROR: return HearError(message);
-    case GST_MESSAGE_EOS: return Look() || HearEnd();
+    case GST_MESSAGE_EOS: return Look(true) || HearEnd();
     case GST_MESSAGE_ELEMENT: HearLevel(message); return false;
     default: return false;
   }

@@ -49,6 +49,10 @@ class PlayedCameras final : public DeviceSources {
     return gst_parse_bin_from_description(found->second.c_str(), true, nullptr);
   }
 
+  GstElement* MakeMicrophoneSource(const std::string&) const override {
+    return gst_parse_bin_from_description("audiotestsrc is-live=true volume=0.5", true, nullptr);
+  }
+
   std::map<std::string, std::string> played;
   std::atomic<bool> freed = false;
   mutable std::atomic<int> hanging = 0;
@@ -219,6 +223,20 @@ TEST_F(LiveGraphs, DamagedPicturesAreWrittenAsTheyComeAndStopNobody) {
   EXPECT_TRUE(graph.GraphStop());
   EXPECT_EQ(Tally().lost, 0);
   EXPECT_TRUE(told.failed.empty()) << told.failed.begin()->second;
+}
+
+TEST_F(LiveGraphs, AMicrophoneIsMeasuredWhileALessonIsWritten) {
+  ASSERT_TRUE(graph.GraphXmlLoad(MVScreenRecorder));
+  ASSERT_TRUE(graph.GraphSetDevice("VideoSource", "Test Camera"));
+  ASSERT_TRUE(graph.GraphSetDevice("AudioSource", "microphone"));
+  ASSERT_TRUE(graph.GraphSetDevice("Audio Trigger", "microphone"));
+  ASSERT_TRUE(graph.GraphSetFileSink("File writer", folder.Path("x.avi")));
+  ASSERT_TRUE(graph.GraphRun());
+  auto& trigger = Of<IAudioTriggerFilter>("Audio Trigger");
+  EXPECT_TRUE(Comes([&] { return std::abs(trigger.Level() - 0.5) < 0.02 && Tally("File writer").pictures >= 10; }));
+  EXPECT_TRUE(graph.GraphStop());
+  EXPECT_EQ(ReadVideoInfo(folder.Path("x.avi"))->frameCount, Tally("File writer").pictures);
+  EXPECT_TRUE(told.failed.empty());
 }
 
 TEST_F(LiveGraphs, NothingIsToldOfAGraphThatHasGone) {
