@@ -96,6 +96,10 @@ bool CaptureSession::BuildCaptureGraph() {
     (void)graph_->GraphSetFrameTime(kSources[0], pal ? kPalFrame : kNtscFrame);
   }
   AssignGraphCameras();
+  for (int camera = 0; camera < 2; ++camera) {
+    const PictureSize& wanted = wanted_[static_cast<std::size_t>(camera)];
+    if (IRendererFilter* renderer = Renderer(camera)) renderer->WantSize(wanted.width, wanted.height);
+  }
   ArmGates(false);
   if (const Outcome run = graph_->GraphRun(); !run) return fail(run.Why());
   built_ = true;
@@ -162,15 +166,21 @@ void CaptureSession::ArmGates(bool on) {
     if (auto* gate = graph_->GraphFilterByLabel<ITriggerSourceFilter>(label)) gate->Arm(on);
 }
 
+/// The window of a camera; the graph of one camcorder calls it otherwise than the others do.
+IRendererFilter* CaptureSession::Renderer(int camera) {
+  if (camera == 1) return graph_->GraphFilterByLabel<IRendererFilter>("Video Renderer 2");
+  auto* renderer = graph_->GraphFilterByLabel<IRendererFilter>("Video Renderer");
+  return renderer ? renderer : graph_->GraphFilterByLabel<IRendererFilter>("Video Renderer 1");
+}
+
 LivePicture CaptureSession::Latest(int camera) {
-  const std::string_view label = camera == 1 ? "Video Renderer 2" : "Video Renderer";
-  if (auto* renderer = graph_->GraphFilterByLabel<IRendererFilter>(label)) return renderer->Latest();
-  return {};
+  IRendererFilter* renderer = Renderer(camera);
+  return renderer ? renderer->Latest() : LivePicture();
 }
 
 void CaptureSession::WantSize(int camera, int width, int height) {
-  const std::string_view label = camera == 1 ? "Video Renderer 2" : "Video Renderer";
-  if (auto* renderer = graph_->GraphFilterByLabel<IRendererFilter>(label)) renderer->WantSize(width, height);
+  wanted_[static_cast<std::size_t>(camera)] = {width, height};
+  if (IRendererFilter* renderer = Renderer(camera)) renderer->WantSize(width, height);
 }
 
 RecordingTally CaptureSession::Tally(int camera) const { return tallies_[static_cast<std::size_t>(camera)]; }

@@ -92,6 +92,7 @@ class CaptureSession : private IGraphEvents {
   void BindSource(std::string_view label, int camera);
   void StopCaptureGraph();
   void RunCamcorder(bool run);
+  IRendererFilter* Renderer(int camera);
   void ArmGates(bool on);
   void StartCapture();
   void StopCapture();
@@ -114,6 +115,7 @@ class CaptureSession : private IGraphEvents {
   CapturePhase phase_ = CapturePhase::LivePreview;
   std::string status_;
   std::array<std::string, 2> words_;
+  std::array<PictureSize, 2> wanted_{};  ///< of the windows, for the graphs to come; 0 x 0 before they are known
   std::array<RecordingTally, 2> tallies_;
   UnfinishedRecording reviewed_;  ///< what is under review, whether it was just recorded or left by an earlier run
   bool open_ = false;
