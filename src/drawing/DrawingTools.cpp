@@ -272,19 +272,26 @@ void DrawingTools::ChooseOpacities(const ShapeList& list, int frame) {
     opacities_.push_back(static_cast<std::uint8_t>(hidden_ && shape.Locked ? 0 : seen(shape)));
 }
 
-/// Those of what is seen in full. The ruler's line has its length in its panel.
-void DrawingTools::PaintLabels(Canvas& canvas, int window) {
+std::vector<ShapeLabel> DrawingTools::LabelsOf(int window) {
   constexpr int kFull = 255;
-  const auto shapes = ShapesOf(List(window));
-  labels_.clear();
-  if (!shapes.empty()) {
-    const MeasureScale scale = ScaleOf(window);
-    for (std::size_t i = 0; i < shapes.size(); ++i) {
-      if (shapes[i].Measuring || (!opacities_.empty() && opacities_[i] < kFull)) continue;
-      if (auto label = LabelOf(shapes[i], scale)) labels_.push_back(std::move(*label));
-    }
+  std::vector<ShapeLabel> labels;
+  const ShapeList& list = List(window);
+  const auto shapes = ShapesOf(list);
+  if (shapes.empty()) return labels;
+  ChooseOpacities(list, workspace_.FrameOf(window));
+  const MeasureScale scale = ScaleOf(window);
+  for (std::size_t i = 0; i < shapes.size(); ++i) {
+    // The ruler's line has its length in its panel.
+    if (shapes[i].Measuring || !HasLabel(shapes[i]) || (!opacities_.empty() && opacities_[i] < kFull)) continue;
+    const auto exact = workspace_.ExactOf(window, shapes[i]);
+    if (auto label = LabelOf(shapes[i], scale, exact ? &*exact : nullptr)) labels.push_back(std::move(*label));
   }
-  labelPainters_[static_cast<std::size_t>(window - 1)].Paint(canvas, labels_);
+  return labels;
+}
+
+bool DrawingTools::ShowsSpeeds(int window) const {
+  const auto isPath = [](const Shape& shape) { return shape.Kind == kSwingPath && shape.Locked; };
+  return LabelsShown() && std::ranges::any_of(ShapesOf(List(window)), isPath) && ScaleOf(window).PixelsPerInch > 0;
 }
 
 void DrawingTools::HideDrawings(bool hidden) {
@@ -316,7 +323,7 @@ void DrawingTools::PreDrawFrame(Canvas& hDC, int Window) {
   const auto failed =
       painters_[static_cast<std::size_t>(Window - 1)].Paint(hDC, shapes, colours_, grid, look, opacities_);
   TellFailure(Window, failed ? &shapes[*failed] : nullptr);
-  if (LabelsShown()) PaintLabels(hDC, Window);
+  if (LabelsShown()) labelPainters_[static_cast<std::size_t>(Window - 1)].Paint(hDC, LabelsOf(Window));
 
   const auto finishedPath = [](const Shape& shape) {
     return shape.Kind == kSwingPath && shape.Locked && shape.NumPts >= 2;
@@ -369,8 +376,15 @@ Calibration DrawingTools::CalibrationOf(int window) const {
 MeasureScale DrawingTools::ScaleOf(int window) const {
   const Calibration calibration = CalibrationOf(window);
   const bool calibrated = calibration.CalibNumber != 0 && calibration.CalibNumberOut > 0;
-  return {calibrated ? calibration.CalibNumberOut : 0.0, calibration.CalibOutput, calibration.perSecond,
-          settings_.AngleFrom == kFromUpright, settings_.SpeedUnit};
+  return {.Width = workspace_.PictureWidth(window),
+          .Height = workspace_.PictureHeight(window),
+          .Proportion = workspace_.Proportion(window),
+          .PixelsPerInch = calibrated ? calibration.CalibNumberOut : 0.0,
+          .Unit = calibration.CalibOutput,
+          .PerSecond = calibration.perSecond,
+          .Now = workspace_.PositionNow(window),
+          .FromUpright = settings_.AngleFrom == kFromUpright,
+          .Speed = settings_.SpeedUnit};
 }
 
 void DrawingTools::SetShapeCaption() {

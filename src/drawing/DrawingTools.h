@@ -131,6 +131,10 @@ class DrawingTools final : public IShapeLocked {
   /// Figures stand beside the drawings of every window.
   void ToggleLabels();
   bool LabelsShown() const { return settings_.ShapeLabels != 0; }
+  /// Paths of a window have speeds beside them.
+  bool ShowsSpeeds(int window) const;
+  /// The figures beside the drawings of a window; of those that come or go, none.
+  std::vector<ShapeLabel> LabelsOf(int window);
   /// Paints the grid and the shapes of a window, and the measure of the current shape with them.
   void PreDrawFrame(Canvas& hDC, int Window);
 
@@ -225,7 +229,6 @@ class DrawingTools final : public IShapeLocked {
   void StepHistory(int window, bool (ShapeHistory::*step)(ShapeList&));
   void ChooseColours(const ShapeList& list);
   void ChooseOpacities(const ShapeList& list, int frame);
-  void PaintLabels(Canvas& canvas, int window);
   void RefreshAll();
   Calibration CalibrationOf(int window) const;
   MeasureScale ScaleOf(int window) const;
@@ -243,7 +246,6 @@ class DrawingTools final : public IShapeLocked {
   std::vector<Colour> colours_;
   std::vector<std::uint8_t> opacities_;
   std::array<LabelPainter, ShapeLists::kWindows> labelPainters_;
-  std::vector<ShapeLabel> labels_;
   bool hidden_ = false;
 
   bool Drawing_ = false;

@@ -14,6 +14,12 @@ constexpr int kShiftKey = 1;
 constexpr float kDragReach = 6;      // pixels from press to release that draw a figure in one go
 constexpr double kSelectReach = 12;  // pixels from a line to the click that selects it while the bar is up
 
+/// A path knows its positions as long as its points have followed each other.
+void NoteStep(Shape& path, const std::optional<PathTime>& now) {
+  if (path.NumBound == 1) path.Steps = now;
+  else if (path.Steps && now != PathTime{path.Steps->First + path.NumBound - 1, path.Steps->Fields}) path.Steps.reset();
+}
+
 }  // namespace
 
 /// A point for a shape under construction: straight mode holds it to its line; Shift to an eighth of a turn, or to a
@@ -204,6 +210,7 @@ void DrawingTools::BindPoint(ShapeList& list, POINTAPI point, bool even, int win
     // One stroke is one shape.
     FinishOpenShape(list);
   } else if (shape.Kind == kSwingPath) {
+    NoteStep(shape, workspace_.PositionNow(window));
     if (workspace_.OnLastFrame(window)) {
       FinishOpenShape(list);
     } else {

@@ -5,6 +5,7 @@
 
 #include "drawing/Measurement.h"
 #include "drawing/Shape.h"
+#include "drawing/ShapeLabels.h"
 #include "platform/paint/Geometry.h"
 
 namespace kinalyx {
@@ -75,8 +76,14 @@ class IDrawingWorkspace {
   // --- what a window's video is measured by
   /// Its own ruler.
   virtual std::optional<VideoRuler> RulerOf(int) { return std::nullopt; }
+  /// A drawing of a window as it was drawn, or as its file has it; nothing when that is what the window shows.
+  virtual std::optional<ExactDrawing> ExactOf(int, const Shape&) { return std::nullopt; }
+  /// Width by height of the window's picture before it is fitted to whole pixels; 0 not known.
+  virtual double Proportion(int) { return 0; }
   /// Positions that were taken in one second; 0 not known.
   virtual double PositionsPerSecond(int) { return 0; }
+  /// The position that it shows, as its player counts.
+  virtual std::optional<PathTime> PositionNow(int) { return std::nullopt; }
   /// The frame that it shows.
   virtual int FrameOf(int) { return 0; }
   virtual bool CalibrationShown() { return false; }

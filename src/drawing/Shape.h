@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -70,6 +71,14 @@ struct ShapeTime {
   friend bool operator==(const ShapeTime&, const ShapeTime&) = default;
 };
 
+/// When the points of a path were drawn, one position of the player after the other.
+struct PathTime {
+  int First = 0;        ///< position of the first point; may be below 0 where the video was cut
+  bool Fields = false;  ///< positions are fields, not frames
+
+  friend bool operator==(const PathTime&, const PathTime&) = default;
+};
+
 /// One drawn object. Points are pixels of the window's picture, y downward.
 struct Shape {
   std::int16_t NumBound = 0;  ///< points that the user has fixed
@@ -91,16 +100,18 @@ struct Shape {
   // What the records of the sidecar and of shape files have no place for.
 
   ShapeTime Time;
-  std::string Text;        ///< UTF-8; stands where the first point is, in place of the figure
-  std::int16_t Width = 0;  ///< pixels of its line, or of the height of its letters; 0: as the settings say
-  std::string Unknown;     ///< what a later version has written of this drawing, as JSON; only carried along
+  std::string Text;               ///< UTF-8; stands where the first point is, in place of the figure
+  std::int16_t Width = 0;         ///< pixels of its line, or of the height of its letters; 0: as the settings say
+  std::optional<PathTime> Steps;  ///< of a path, where it is known
+  std::string Unknown;            ///< what a later version has written of this drawing, as JSON; only carried along
 
   friend bool operator==(const Shape& a, const Shape& b) {
     return IsSameDrawing(a, b) && a.Measuring == b.Measuring && a.SavedPts == b.SavedPts;
   }
   /// The same but for what has no meaning outside a running transform.
   friend bool IsSameDrawing(const Shape& a, const Shape& b) {
-    return IsSameRecord(a, b) && a.Time == b.Time && a.Text == b.Text && a.Width == b.Width && a.Unknown == b.Unknown;
+    return IsSameRecord(a, b) && a.Time == b.Time && a.Text == b.Text && a.Width == b.Width && a.Steps == b.Steps &&
+           a.Unknown == b.Unknown;
   }
   /// The same in all that a record holds.
   friend bool IsSameRecord(const Shape& a, const Shape& b) {

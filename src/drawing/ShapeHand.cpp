@@ -45,7 +45,7 @@ bool ShapeHand::TakenIsSeen() const {
 
 std::optional<TakenMarks> ShapeHand::MarksIn(int window) const {
   const Shape* shape = window == window_ ? Taken() : nullptr;
-  if (!shape) return std::nullopt;
+  if (!shape || tools_.Hidden() || shape->Time.OpacityOn(workspace_.FrameOf(window)) == 0) return std::nullopt;
   return tools_.MarksOf(*shape);
 }
 

@@ -50,7 +50,7 @@ class ShapeHand {
   int Window() const { return window_; }
   void Take(int window, std::size_t index);
   void LetGo();
-  /// Nothing when nothing is taken in this window.
+  /// Nothing when nothing is taken in this window, or what is taken is not seen on its picture.
   std::optional<TakenMarks> MarksIn(int window) const;
   /// What a press here would take hold of.
   HandPointer PointerAt(POINTAPI at, int window) const;

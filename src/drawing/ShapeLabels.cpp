@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <numbers>
 #include <span>
 #include <utility>
@@ -18,6 +19,8 @@ constexpr double kLetter = 9;      // and about so wide is each of them
 constexpr double kInAngle = 38;    // from a corner into the angle, at least
 constexpr double kHalfPlate = 28;  // and so far that the figures of a sharp one find room
 constexpr double kDeepest = 90;
+constexpr double kHalfSpeeds = 84;  // about half as wide are two speeds
+constexpr double kFarEnough = 12;   // pixels between a path and its figures; more is no better
 
 struct Way {
   double x = 0;
@@ -38,25 +41,51 @@ std::string Figures(double value) {
   return fmt::format("{:.{}f}", value, decimals);
 }
 
-std::optional<ShapeLabel> LineLabel(std::span<const POINTAPI> points, const MeasureScale& scale) {
-  const Way way = From(points[0], points[1]);
-  const double length = way.Length();
-  if (length == 0) return std::nullopt;
+/// The points of a drawing as they were drawn, in true pixels of the picture that is shown.
+class Measured {
+ public:
+  Measured(const Shape& shape, int width, int height, const MeasureScale& scale) : points_(PointsOf(shape)) {
+    if (width <= 0 || height <= 0 || scale.Width <= 0 || scale.Height <= 0) return;
+    down_ = static_cast<double>(scale.Height) / height;
+    across_ = (scale.Proportion > 0 ? scale.Height * scale.Proportion : scale.Width) / width;
+  }
+
+  Way Between(std::size_t from, std::size_t to) const {
+    const Way way = From(points_[from], points_[to]);
+    return {way.x * across_, way.y * down_};
+  }
+  std::size_t Count() const { return points_.size(); }
+
+ private:
+  std::span<const POINTAPI> points_;
+  double across_ = 1;
+  double down_ = 1;
+};
+
+std::optional<ShapeLabel> LineLabel(std::span<const POINTAPI> points, const Measured& measured,
+                                    const MeasureScale& scale) {
+  const Way seen = From(points[0], points[1]);
+  const Way way = measured.Between(0, 1);
+  if (seen.Length() == 0 || way.Length() == 0) return std::nullopt;
   const double level = std::atan2(std::abs(way.y), std::abs(way.x)) * kDegrees;
+  std::string text = fmt::format("{:.1f}°", scale.FromUpright ? 90 - level : level);
+  if (scale.PixelsPerInch > 0) text = LengthLabel(way.Length() / scale.PixelsPerInch, scale.Unit) + "  " + text;
   // Above the line; beside one that stands.
-  double x = way.y / length, y = -way.x / length;
+  double x = seen.y / seen.Length(), y = -seen.x / seen.Length();
   if (y > 0 || (y == 0 && x < 0)) x = -x, y = -y;
-  std::string text = fmt::format("{}  {:.1f}°", LengthLabel(length, scale), scale.FromUpright ? 90 - level : level);
   const double aside = kBeside + kLetter / 2 * static_cast<double>(text.size());
   return ShapeLabel{At((points[0].x + points[1].x) / 2.0 + x * aside, (points[0].y + points[1].y) / 2.0 + y * kBeside),
                     std::move(text)};
 }
 
-std::optional<ShapeLabel> AngleLabel(std::span<const POINTAPI> points) {
+std::optional<ShapeLabel> AngleLabel(std::span<const POINTAPI> points, const Measured& measured) {
   const Way a = From(points[1], points[0]);
   const Way b = From(points[1], points[2]);
   if (a.Length() == 0 || b.Length() == 0) return std::nullopt;
-  const double opening = std::abs(std::atan2(a.x * b.y - a.y * b.x, a.x * b.x + a.y * b.y)) * kDegrees;
+  const Way one = measured.Between(1, 0);
+  const Way other = measured.Between(1, 2);
+  const double opening =
+      std::abs(std::atan2(one.x * other.y - one.y * other.x, one.x * other.x + one.y * other.y)) * kDegrees;
   Way middle{a.x / a.Length() + b.x / b.Length(), a.y / a.Length() + b.y / b.Length()};
   if (middle.Length() < 1e-6) middle = {-a.y, a.x};  // a straight angle opens to either side
   const double half = std::max(0.01, std::sin(opening / kDegrees / 2));
@@ -64,24 +93,62 @@ std::optional<ShapeLabel> AngleLabel(std::span<const POINTAPI> points) {
   return ShapeLabel{At(points[1].x + middle.x * far, points[1].y + middle.y * far), fmt::format("{:.1f}°", opening)};
 }
 
-std::optional<ShapeLabel> PathLabel(std::span<const POINTAPI> points, const MeasureScale& scale) {
-  if (scale.PixelsPerInch <= 0 || scale.PerSecond <= 0) return std::nullopt;
-  double greatest = 0, last = 0;
-  for (std::size_t i = 1; i < points.size(); ++i) {
-    last = From(points[i - 1], points[i]).Length() / scale.PixelsPerInch * scale.PerSecond;
-    greatest = std::max(greatest, last);
+/// The step of a path that ends, or for the first point begins, at the position that is shown; else its last one.
+std::size_t StepNow(const Shape& path, std::size_t points, const std::optional<PathTime>& now) {
+  const std::size_t last = points - 1;
+  if (!path.Steps || !now) return last;
+  std::int64_t shown = now->First;
+  if (now->Fields && !path.Steps->Fields) shown /= 2;
+  if (!now->Fields && path.Steps->Fields) shown *= 2;
+  const std::int64_t point = shown - path.Steps->First;
+  return point >= 0 && point <= static_cast<std::int64_t>(last) ? std::max<std::size_t>(1, point) : last;
+}
+
+/// A place for figures about so wide beside the end of a path: of those round it the one that is farthest from the
+/// path, when it has been moved into the picture.
+POINTAPI BesidePath(std::span<const POINTAPI> points, const MeasureScale& scale) {
+  const auto inside = [](double value, double margin, int limit) {
+    return limit > 2 * margin ? std::clamp(value, margin, limit - margin) : value;
+  };
+  const POINTAPI end = points.back();
+  POINTAPI best = end;
+  double farthest = -1;
+  for (const Way& to : {Way{0, -2}, Way{1, 0}, Way{-1, 0}, Way{0, 2}, Way{1, -1}, Way{-1, -1}, Way{1, 1}, Way{-1, 1}}) {
+    const double x = inside(end.x + to.x * (kHalfSpeeds + kBeside), kHalfSpeeds, scale.Width);
+    const double y = inside(end.y + to.y * kBeside, kBeside / 2, scale.Height);
+    double nearest = kFarEnough;
+    for (std::size_t i = 0; i + 1 < points.size(); ++i)
+      for (const double part : {0.0, 0.25, 0.5, 0.75, 1.0}) {
+        const double dx = std::abs(std::lerp(points[i].x, points[i + 1].x, part) - x) - kHalfSpeeds;
+        const double dy = std::abs(std::lerp(points[i].y, points[i + 1].y, part) - y) - kBeside / 2;
+        nearest = std::min(nearest, std::max(dx, dy));
+      }
+    if (nearest <= farthest) continue;
+    farthest = nearest;
+    best = At(x, y);
   }
-  std::string text = SpeedLabel(last, scale);
+  return best;
+}
+
+std::optional<ShapeLabel> PathLabel(const Shape& path, std::span<const POINTAPI> points, const Measured& measured,
+                                    const MeasureScale& scale) {
+  if (scale.PixelsPerInch <= 0 || scale.PerSecond <= 0) return std::nullopt;
+  double perSecond = scale.PerSecond;
+  if (path.Steps && scale.Now && path.Steps->Fields != scale.Now->Fields) perSecond *= path.Steps->Fields ? 2 : 0.5;
+  const auto speed = [&](std::size_t step) {
+    return measured.Between(step - 1, step).Length() / scale.PixelsPerInch * perSecond;
+  };
+  double greatest = 0;
+  for (std::size_t step = 1; step < points.size(); ++step) greatest = std::max(greatest, speed(step));
+  std::string text = SpeedLabel(speed(StepNow(path, points.size(), scale.Now)), scale);
   if (points.size() > 2) text = fmt::format("{}  max {}", text, SpeedLabel(greatest, scale));
-  return ShapeLabel{At(points.back().x, points.back().y - 2 * kBeside), std::move(text)};
+  return ShapeLabel{BesidePath(points, scale), std::move(text)};
 }
 
 }  // namespace
 
-std::string LengthLabel(double pixels, const MeasureScale& scale) {
-  if (scale.PixelsPerInch <= 0) return fmt::format("{:.0f} px", pixels);
-  const double inches = pixels / scale.PixelsPerInch;
-  switch (scale.Unit) {
+std::string LengthLabel(double inches, int unit) {
+  switch (unit) {
     case kFeet: return Figures(inches / 12) + " ft";
     case kCentimetres: return Figures(inches * kMetresPerInch * 100) + " cm";
     case kMetres: return Figures(inches * kMetresPerInch) + " m";
@@ -99,13 +166,20 @@ std::string SpeedLabel(double inchesPerSecond, const MeasureScale& scale) {
   }
 }
 
-std::optional<ShapeLabel> LabelOf(const Shape& shape, const MeasureScale& scale) {
-  const auto points = PointsOf(shape);
-  if (!shape.Text.empty() || points.size() < 2) return std::nullopt;
-  if (shape.Kind == kLine || shape.Kind == kArrow) return LineLabel(points, scale);
-  if (shape.Kind == kAngle && points.size() == 3) return AngleLabel(points);
-  if (shape.Kind == kSwingPath) return PathLabel(points, scale);
-  return std::nullopt;
+bool HasLabel(const Shape& shape) {
+  return shape.Text.empty() &&
+         (shape.Kind == kLine || shape.Kind == kArrow || shape.Kind == kAngle || shape.Kind == kSwingPath);
+}
+
+std::optional<ShapeLabel> LabelOf(const Shape& shown, const MeasureScale& scale, const ExactDrawing* exact) {
+  const auto points = PointsOf(shown);
+  if (!HasLabel(shown) || points.size() < 2) return std::nullopt;
+  const bool same = exact && PointsOf(exact->Shape).size() == points.size();
+  const Measured measured = same ? Measured(exact->Shape, exact->Width, exact->Height, scale)
+                                 : Measured(shown, scale.Width, scale.Height, scale);
+  if (shown.Kind == kSwingPath) return PathLabel(shown, points, measured, scale);
+  if (shown.Kind == kAngle) return points.size() == 3 ? AngleLabel(points, measured) : std::nullopt;
+  return LineLabel(points, measured, scale);
 }
 
 }  // namespace kinalyx

@@ -15,6 +15,8 @@ namespace {
 
 constexpr std::size_t kMostShapes = std::numeric_limits<std::int16_t>::max();
 
+constexpr int kAlmost = 8;  // a picture that lacks so small a part of another is as exact
+
 struct Size {
   int width = 0;
   int height = 0;
@@ -142,6 +144,10 @@ MergedData MergeVideoData(const SlotData& mine, const SlotData& theirs, const Sl
   return merged;
 }
 
-int WholeTimes(int side, int wanted) { return side > 0 ? std::max(1, std::min(wanted, kMostPictureSide) / side) : 1; }
+int WholeTimes(int side, int wanted) {
+  if (side <= 0 || side >= kMostPictureSide) return 1;
+  const int enough = (wanted - wanted / kAlmost + side - 1) / side;
+  return std::clamp(enough, 1, kMostPictureSide / side);
+}
 
 }  // namespace kinalyx

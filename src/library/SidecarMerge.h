@@ -22,7 +22,7 @@ struct MergedData {
 MergedData MergeVideoData(const SlotData& mine, const SlotData& theirs, const SlotData& base);
 
 /// How many times a side of pictures in a file is to be taken so that drawings of a larger picture keep their
-/// exactness: as often as it goes into `wanted` and the file can tell of, at least once. Points are multiplied
+/// exactness: until it is about `wanted` or more, as far as the file can tell of it. Points are multiplied
 /// by a whole number, so that every record stays as exact as it is, and can be known again.
 int WholeTimes(int side, int wanted);
 

@@ -127,12 +127,14 @@ Shape ShapeOf(const Json& json) {
   if (shape.Time.Always()) shape.Time = {};
   shape.Text = Text(json, "text");
   shape.Width = static_cast<std::int16_t>(Whole(json, "width", 0, std::numeric_limits<std::int16_t>::max(), 0));
-  shape.Unknown = UnknownOf(json, {"kind", "color", "points", "first", "last", "fade", "text", "width"});
+  if (const auto steps = json.find("path"); steps != json.end() && steps->is_object())
+    shape.Steps = PathTime{Whole(*steps, "first", -kMost, kMost, 0), Whole(*steps, "fields", 0, 1, 0) == 1};
+  shape.Unknown = UnknownOf(json, {"kind", "color", "points", "first", "last", "fade", "text", "width", "path"});
   return shape;
 }
 
 bool HasMore(const Shape& shape) {
-  return !shape.Time.Always() || !shape.Text.empty() || shape.Width > 0 || !shape.Unknown.empty();
+  return !shape.Time.Always() || !shape.Text.empty() || shape.Width > 0 || shape.Steps || !shape.Unknown.empty();
 }
 
 /// What a drawing of the sidecar is compared by.
@@ -169,6 +171,7 @@ void ReadDrawings(const Json& json, SlotData& data) {
     shape.Time = stored.Shapes[i].Time;
     shape.Text = std::move(stored.Shapes[i].Text);
     shape.Width = stored.Shapes[i].Width;
+    shape.Steps = stored.Shapes[i].Steps;
     shape.Unknown = std::move(stored.Shapes[i].Unknown);
   }
 }
@@ -186,6 +189,7 @@ void PutDrawings(Json& json, const SlotData& data) {
     }
     if (!shape.Text.empty()) drawing["text"] = shape.Text;
     if (shape.Width > 0) drawing["width"] = shape.Width;
+    if (shape.Steps) drawing["path"] = {{"first", shape.Steps->First}, {"fields", shape.Steps->Fields ? 1 : 0}};
     drawings.push_back(std::move(drawing));
   }
   if (drawings.empty()) return;
@@ -304,6 +308,8 @@ Outcome TrimStudy(const std::string& path, int first, int last) {
       drawing["first"] = from;
       drawing["last"] = to;
     }
+    if (const auto steps = drawing.find("path"); steps != drawing.end() && steps->is_object())
+      (*steps)["first"] = Whole(*steps, "first", -kMost, kMost, 0) - first * (1 + Whole(*steps, "fields", 0, 1, 0));
     drawings.push_back(std::move(drawing));
   }
   cut["drawings"] = std::move(drawings);

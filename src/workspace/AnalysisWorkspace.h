@@ -13,6 +13,7 @@
 #include "workspace/edits/DrawingEdits.h"
 #include "workspace/edits/DrawingTimes.h"
 #include "workspace/keeping/Keeping.h"
+#include "workspace/stage/PlayerPlace.h"
 #include "workspace/stage/Stage.h"
 #include "workspace/transport/PlaySound.h"
 #include "workspace/videos/Videos.h"
@@ -62,6 +63,7 @@ class AnalysisWorkspace final : public IFrameInterface,
   CompareModes& Compare() { return compare_; }
 
   PlaySound& Sound() { return sound_; }
+
 
   /// Line width, outline, colours or the word for a student have been changed on another page.
   void SettingsChanged();
@@ -146,7 +148,14 @@ class AnalysisWorkspace final : public IFrameInterface,
   void DrawingsChanged(int window) override;
   bool TakeSquare(int window, const Shape& square) override;
   std::optional<VideoRuler> RulerOf(int window) override { return stage_.At(window).data.Study.Ruler; }
+  std::optional<ExactDrawing> ExactOf(int window, const Shape& shape) override {
+    return keeping_.ExactOf(window, shape);
+  }
+  double Proportion(int window) override { return ProportionOf(stage_.At(window)); }
   double PositionsPerSecond(int window) override;
+  std::optional<PathTime> PositionNow(int window) override {
+    return PathTime{stage_.MP(window).Position(), stage_.MP(window).SplitFields()};
+  }
   int FrameOf(int window) override;
   bool CalibrationShown() override { return ruler_.Shown(); }
   void ShowCalibrationLength(const std::string& length) override { ruler_.ShowLength(length); }

@@ -24,8 +24,8 @@ std::string Label(const Shape& shape, const MeasureScale& scale = {}) {
 TEST(ShapeLabels, ALineReadsTheSameWhicheverWayItWasDrawn) {
   // Four mirror images of one line, both ways: 300 right, 173 up.
   for (const auto& [x, y] : {std::pair{300, 173}, {300, -173}, {-300, 173}, {-300, -173}}) {
-    EXPECT_EQ(Label(Drawn(kLine, {{400, 300}, {400 + x, 300 + y}})), "346 px  30.0°");
-    EXPECT_EQ(Label(Drawn(kArrow, {{400, 300}, {400 + x, 300 + y}}), {.FromUpright = true}), "346 px  60.0°");
+    EXPECT_EQ(Label(Drawn(kLine, {{400, 300}, {400 + x, 300 + y}})), "30.0°");
+    EXPECT_EQ(Label(Drawn(kArrow, {{400, 300}, {400 + x, 300 + y}}), {.FromUpright = true}), "60.0°");
   }
   const auto level = LabelOf(Drawn(kLine, {{0, 50}, {100, 50}}), {});
   EXPECT_LT(level->Middle.y, 50) << "above the line";
@@ -39,6 +39,7 @@ TEST(ShapeLabels, LengthsAreInTheUnitOfTheRuler) {
   EXPECT_EQ(Label(line, {.PixelsPerInch = 2, .Unit = kFeet}), "4.17 ft  90.0°");
   EXPECT_EQ(Label(line, {.PixelsPerInch = 2, .Unit = kCentimetres}), "127 cm  90.0°");
   EXPECT_EQ(Label(line, {.PixelsPerInch = 2, .Unit = kMetres}), "1.27 m  90.0°");
+  EXPECT_EQ(Label(line), "90.0°") << "pixels would be others in every window";
 }
 
 TEST(ShapeLabels, AnAngleIsReadAtItsCorner) {
@@ -62,6 +63,24 @@ TEST(ShapeLabels, SpeedsGoByTheRateAtWhichItWasTaken) {
   EXPECT_EQ(Label(path, scale), "61.0 m/s  max 122 m/s");
   scale = {.PixelsPerInch = 10, .Unit = kFeet, .PerSecond = 60};
   EXPECT_EQ(Label(path, scale), "34.1 mph  max 68.2 mph");
+  // A path that knows its pictures says how fast it was on the one that is shown; one drawn on fields, too.
+  Shape known = path;
+  known.Steps = PathTime{10, false};
+  for (const auto& [position, speed] : {std::pair{9, "34.1"}, {10, "68.2"}, {11, "68.2"}, {12, "68.2"}, {13, "34.1"}}) {
+    scale.Now = PathTime{position, false};
+    EXPECT_EQ(Label(known, scale), std::string(speed) + " mph  max 68.2 mph") << position;
+    scale.Now = PathTime{2 * position + 1, true};
+    scale.PerSecond = 120;
+    EXPECT_EQ(Label(known, scale), std::string(speed) + " mph  max 68.2 mph") << "fields, " << position;
+    scale.PerSecond = 60;
+  }
+  // The figures keep off the path, wherever it ends, and inside the picture.
+  scale.Width = scale.Height = 1000;
+  for (const POINTAPI& end : {POINTAPI{400, 60}, {700, 400}, {400, 900}, {990, 500}}) {
+    const auto label = LabelOf(Drawn(kSwingPath, {{400, 400}, {420, 380}, end}), scale);
+    EXPECT_TRUE(std::abs(label->Middle.y - end.y) >= 10 || std::abs(label->Middle.x - end.x) >= 84) << end.x;
+    EXPECT_LE(label->Middle.x, 1000 - 84);
+  }
   scale.PixelsPerInch = 0;
   EXPECT_EQ(Label(path, scale), "") << "pixels a second tell nobody anything";
 }

@@ -32,6 +32,7 @@ SlotData Studied() {
   data.Shapes.Shapes[1].Time = {12, 20, 5};
   data.Shapes.Shapes[2].Text = "Łokieć, 肘";
   data.Shapes.Shapes[0].Width = 9;
+  data.Shapes.Shapes[2].Steps = PathTime{40, true};
   data.Study.Marks = {{{84, true}, "Impact", ""}, {{3, false}, "", ""}};
   data.Study.Ruler = VideoRuler{31.25, 640, 480, 3};
   data.Study.TrueRate = 240;
@@ -56,6 +57,7 @@ struct StudyTest : testing::Test {
       shape.Time = {};
       shape.Text.clear();
       shape.Width = 0;
+      shape.Steps.reset();
     }
     data.Study = {};
     return data;
@@ -150,6 +152,7 @@ TEST_F(StudyTest, FollowsATrim) {
   EXPECT_EQ(data.Study.Marks, (std::vector<VideoMark>{{{69, true}, "Impact", ""}}));
   EXPECT_EQ(data.Study.LockedAt, (VideoMoment{69, false}));
   EXPECT_EQ(data.Shapes.Shapes[1].Time, (ShapeTime{0, 5, 5}));
+  EXPECT_EQ(data.Shapes.Shapes[2].Steps, (PathTime{10, true})) << "two fields to a frame";
 }
 
 using StudyOperations = OperationsFixture;

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "AnalysisStage.h"
 #include "platform/files/FileStore.h"
 
@@ -146,6 +148,41 @@ TEST(RulerTest, APathWithoutOneOffersIt) {
   stage.Stage().At(1).data.Study.Ruler = VideoRuler{10, 640, 480, 0};
   trace();
   EXPECT_EQ(stage.window.rulerOffers, 1);
+}
+
+// Whole pixels round, and windows of all sizes round otherwise; what is read off a drawing must not.
+TEST(RulerTest, AFigureIsTheSameInEveryWindow) {
+  OpenStage stage;
+  stage.Run("TCal");
+  stage.Click(1, 50, 100);
+  stage.Click(1, 171, 100);
+  stage.analysis.Ruler().Calibrate(1, kMetres, kMetres);
+  stage.Draw(kLine, {101, 203}, {157, 241});
+  stage.Key(kKeyF1 + kSwingPath);
+  for (const POINTAPI& point : {POINTAPI{20, 30}, {31, 33}, {47, 45}, {52, 64}}) stage.Click(1, point.x, point.y);
+  stage.Click(1, 52, 64, 2);
+  stage.Stage().SetScreen(8);  // and one in a window that is much smaller
+  stage.Draw(kArrow, {11, 13}, {47, 31});
+  const auto figures = [&] {
+    std::string all;
+    for (const ShapeLabel& label : stage.analysis.Tools().LabelsOf(1)) all += label.Text + "; ";
+    return all;
+  };
+  const std::string drawn = figures();
+  EXPECT_EQ(std::ranges::count(drawn, ';'), 3) << drawn;
+  for (int round = 0; round < 2; ++round) {
+    for (const int layout : {8, 4, 2, 6, 1}) {
+      stage.Stage().SetScreen(layout);
+      EXPECT_EQ(figures(), drawn) << layout;
+    }
+    for (const double zoom : {0.3, 1.7, 1.0}) {
+      stage.Stage().SetZoom(zoom);
+      EXPECT_EQ(figures(), drawn) << zoom;
+    }
+    stage.Rest();
+    EXPECT_EQ(figures(), drawn) << "saved";
+    if (round == 0) ASSERT_TRUE(stage.Reopen(1));
+  }
 }
 
 TEST(RulerTest, TurnsPixelsIntoLengths) {

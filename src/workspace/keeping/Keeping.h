@@ -31,6 +31,8 @@ class Keeping {
 
   /// Fits the drawings of a slot to its picture, where that has another size or is mirrored.
   void FollowPicture(int slot) { drawings_.FollowPicture(slot); }
+  /// A drawing of a slot as its sidecar has it, or will.
+  std::optional<ExactDrawing> ExactOf(int slot, const Shape& shape) const { return drawings_.ExactOf(slot, shape); }
   /// Drawings may have changed: they are saved when the hands rest.
   void DrawingsChanged();
   /// The fields of a slot's data, or its study, have changed.

@@ -37,6 +37,7 @@ void SlotDrawings::VideoOpened(int slot, SlotData& base) {
   kept = {};
   kept.fitted = DrawingsOf(base.Shapes);
   kept.view = {base.PictureWidth, base.PictureHeight, false};
+  TakeFile(kept, base);
   for (const Shape& shape : kept.fitted) kept.origins.push_back({shape, base.PictureWidth, base.PictureHeight, true});
   ShapeList& list = List(slot);
   Clear(list);
@@ -121,6 +122,36 @@ void SlotDrawings::FollowPicture(int slot) {
   Fit(slot, view);
 }
 
+void SlotDrawings::TakeFile(Kept& kept, const SlotData& base) {
+  kept.file = ShapesOf(base.Shapes).empty() ? DrawingView{} : DrawingView{base.PictureWidth, base.PictureHeight, false};
+}
+
+/// The picture to which what was drawn in one of this size will belong in the file: whole multiples of the one that
+/// is there, or of the one in which the first drawing was made.
+DrawingView SlotDrawings::SizeInFile(const Kept& kept, int width, int height) {
+  DrawingView size = kept.file;
+  if ((size.width <= 0 || size.height <= 0) && !kept.origins.empty())
+    size = {kept.origins.front().width, kept.origins.front().height, false};
+  if (size.width <= 0 || size.height <= 0) size = {width, height, false};
+  size = {std::min(size.width, kMostPictureSide), std::min(size.height, kMostPictureSide), false};
+  return {size.width * WholeTimes(size.width, width), size.height * WholeTimes(size.height, height), false};
+}
+
+std::optional<ExactDrawing> SlotDrawings::ExactOf(int slot, const Shape& shape) const {
+  const Kept& kept = At(slot);
+  const auto fitted = shape.Id == 0 ? kept.fitted.end() : std::ranges::find(kept.fitted, shape.Id, &Shape::Id);
+  DrawingView view{kept.view.width, kept.view.height, false};
+  const Shape* drawn = &shape;
+  if (fitted != kept.fitted.end() && IsSameDrawing(*fitted, shape)) {
+    const Origin& origin = kept.origins[static_cast<std::size_t>(fitted - kept.fitted.begin())];
+    drawn = &origin.shape;
+    view = {origin.width, origin.height, false};
+  }
+  if (view.width <= 0 || view.height <= 0) return std::nullopt;
+  const DrawingView size = SizeInFile(kept, view.width, view.height);
+  return ExactDrawing{InView(*drawn, view, size), size.width, size.height};
+}
+
 /// What is drawn, but for a shape that is being drawn at this moment.
 std::span<const SlotDrawings::Origin> SlotDrawings::Finished(int slot) {
   Notice(slot);
@@ -147,9 +178,7 @@ void SlotDrawings::Collect(int slot, const SlotData& base, SlotData& data) {
       width = std::max(width, origin.width);
       height = std::max(height, origin.height);
     }
-    const bool kept = !stored.empty() && size.width > 0 && size.height > 0;
-    size.width = kept ? size.width * WholeTimes(size.width, width) : std::min(width, kMostPictureSide);
-    size.height = kept ? size.height * WholeTimes(size.height, height) : std::min(height, kMostPictureSide);
+    size = SizeInFile(At(slot), width, height);
   }
   std::vector<Shape> shapes;
   for (const Origin& origin : origins) {
@@ -166,6 +195,7 @@ void SlotDrawings::Collect(int slot, const SlotData& base, SlotData& data) {
 void SlotDrawings::Saved(int slot, const SlotData& base) {
   Kept& kept = At(slot);
   const auto stored = ShapesOf(base.Shapes);
+  TakeFile(kept, base);
   for (Origin& origin : kept.origins)
     origin.stored = std::ranges::find(stored, origin.shape.Id, &Shape::Id) != stored.end();
   for (Origin& origin : kept.past) origin.stored = false;

@@ -27,6 +27,9 @@ class SlotDrawings {
   void VideoOpened(int slot, SlotData& base);
   /// The picture may have another size, or be mirrored: what is drawn follows. Called before it is painted.
   void FollowPicture(int slot);
+  /// A drawing of the list as the file has it, or will: in the file's picture, where the same figures are read off it
+  /// in every window, today and tomorrow.
+  std::optional<ExactDrawing> ExactOf(int slot, const Shape& shape) const;
   /// True when they differ from those of the base.
   bool Changed(int slot, const SlotData& base);
   /// Puts them into `data`, unmirrored: those that were not touched as the base has them, in the base's size or
@@ -50,11 +53,15 @@ class SlotDrawings {
     std::vector<Shape> fitted;    ///< the drawings as they were fitted last
     DrawingView view;             ///< to which
     bool placed = false;          ///< to a picture on the stage, no longer to that of the file
+    DrawingView file;             ///< the picture to which the base's drawings belong; 0 wide without any
   };
 
+  const Kept& At(int slot) const { return kept_[static_cast<std::size_t>(slot - 1)]; }
   Kept& At(int slot) { return kept_[static_cast<std::size_t>(slot - 1)]; }
   void Notice(int slot);
   std::span<const Origin> Finished(int slot);
+  static DrawingView SizeInFile(const Kept& kept, int width, int height);
+  static void TakeFile(Kept& kept, const SlotData& base);
   void Fit(int slot, const DrawingView& view);
   ShapeList& List(int slot) { return tools_.List(slot); }
 

@@ -69,10 +69,10 @@ double NearestZoom(double zoom) { return std::round(std::clamp(zoom, kSmallestZo
 
 TwipRect PlaceVideo(const VideoPlacement& video, int panelWidth, int panelHeight) {
   if (video.VideoWidth <= 0 || video.VideoHeight <= 0) return {};
-  const double shape = video.Wide ? 1.77777777777778 : static_cast<double>(video.VideoWidth) / video.VideoHeight;
+  const double shape = video.Wide ? kWideProportion : static_cast<double>(video.VideoWidth) / video.VideoHeight;
   const double whole = video.Fits ? std::min<double>(panelHeight, panelWidth / shape) : panelHeight;
   const int height = static_cast<int>(whole * video.Zoom);
-  const int width = video.Wide ? static_cast<int>(height * 1.77777777777778)
+  const int width = video.Wide ? static_cast<int>(height * kWideProportion)
                                : static_cast<int>(static_cast<double>(height) * video.VideoWidth / video.VideoHeight);
   return {static_cast<int>(std::floor((panelWidth - width) / 2.0 + video.PanX * video.Zoom)),
           static_cast<int>(std::floor((panelHeight - height) / 2.0 + video.PanY * video.Zoom)), width, height};

@@ -57,6 +57,9 @@ inline constexpr int kStripHeight = 2655;
 /// for a wide video, less the strip above it.
 TwipRect CellBeneathStrip(int panelWidth, int panelHeight, bool wide);
 
+/// Width by height of a wide picture.
+constexpr double kWideProportion = 1.77777777777778;
+
 /// The nearest zoom that a video may have: tenths from 0.2 to 4. They stay tenths, however often one is added.
 double NearestZoom(double zoom);
 

@@ -10,6 +10,11 @@ TwipRect PlayerPlace(const Slot& slot) {
       slot.panel.Width, slot.panel.Height);
 }
 
+double ProportionOf(const Slot& slot) {
+  if (slot.path.empty() || slot.MP->VideoHeight() <= 0) return 0;
+  return slot.data.Wide ? kWideProportion : static_cast<double>(slot.MP->VideoWidth()) / slot.MP->VideoHeight();
+}
+
 bool ReachesOver(const Slot& slot) {
   const TwipRect place = PlayerPlace(slot);
   return place.Width > slot.panel.Width + kTwipsPerPixel || place.Height > slot.panel.Height + kTwipsPerPixel;

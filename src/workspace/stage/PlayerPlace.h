@@ -7,6 +7,8 @@ namespace kinalyx {
 
 /// Where a slot's video stands, as its zoom and pan put it; the slot must hold a video.
 
+/// Width by height of the picture, before it is fitted to whole pixels; 0 without a video.
+double ProportionOf(const Slot& slot);
 /// The place of the player in its cell's clip area.
 TwipRect PlayerPlace(const Slot& slot);
 /// The picture is larger than its clip area, by more than a rounding.
