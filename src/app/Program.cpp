@@ -311,6 +311,12 @@ int Program::SendToAnalysis(const std::string& path, const std::function<void(co
   return OpenAnalysis().Section().Videos().SendToAnalysis(path, status);
 }
 
+/// Without the section its file alone remembers what stood there.
+void Program::PathChanged(const std::string& from, const std::string& to) {
+  if (analysis_) analysis_->Section().Videos().PathChanged(from, to);
+  else AnalysisWorkspace::FollowInSession(settings_, from, to);
+}
+
 /// The wish comes from a page that is left by it: it goes when that has returned.
 void Program::GoToAnalysis() {
   going_ = HostTimer(*host_, 0, false, [this] { OpenPage(kAnalysisPage); });

@@ -97,6 +97,7 @@ class Program final : private ISettingsEvents,
   bool IsOpenInAnalysis(const std::string& path) const override;
   int SendToAnalysis(const std::string& path, const std::function<void(const std::string&)>& status) override;
   void GoToAnalysis() override;
+  void PathChanged(const std::string& from, const std::string& to) override;
 
   // --- ICaptureWays
   bool OpenInAnalysis(const std::vector<std::string>& paths) override;

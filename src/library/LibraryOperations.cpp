@@ -269,6 +269,7 @@ OperationResult LibraryOperations::RenameInstructor(const std::string& instructo
     if (EntryExists(to)) return Refuse(taken);
     return EntryExists(from) ? Refuse(text + ": " + renamed.Why()) : RefuseGone(text);
   }
+  analysis_.PathChanged(from, to);
   return {instructor + " successfully renamed.", true, std::string(name)};
 }
 
@@ -320,6 +321,7 @@ OperationResult LibraryOperations::RenameStudent(const std::string& instructor, 
     const std::string text = "The " + words_.noun() + " could not be renamed";
     return EntryExists(from) ? Refuse(text + ": " + renamed.Why()) : RefuseGone(text);
   }
+  analysis_.PathChanged(from, to);
   OperationResult result{words_.Noun() + " successfully renamed.", true, instructor, std::string(name)};
   // A student without a profile gains a whole one at the next look.
   const std::string profile = ProfilePath(to);
@@ -354,6 +356,7 @@ void LibraryOperations::MoveStudent(const std::string& instructor, const std::st
         if (copy.NameTaken()) return Refuse(taken);
         if (copy.Status() != CopyJob::State::Done)
           return EntryExists(from) ? Refuse(copy.Error()) : RefuseGone("The " + words_.noun() + " was not moved");
+        analysis_.PathChanged(from, to);
         if (!copy.Error().empty()) host_.Message(MessageKind::Warning, "", copy.Error());
         return {words_.Noun() + " Successfully Moved to " + targetInstructor + " .", true, targetInstructor, student};
       },

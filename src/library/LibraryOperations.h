@@ -30,6 +30,8 @@ class IAnalysisLink {
   virtual int SendToAnalysis(const std::string& path, const std::function<void(const std::string&)>& status) = 0;
   /// Shows the section, with what was sent to it.
   virtual void GoToAnalysis() = 0;
+  /// A video, or a folder with all in it, has another path now: whoever remembers it follows.
+  virtual void PathChanged(const std::string& /*from*/, const std::string& /*to*/) {}
 };
 
 /// A video as the lists have it.

@@ -166,6 +166,7 @@ OperationResult LibraryOperations::RenameVideo(const LibraryVideo& video, std::s
     const std::string text = "The video could not be renamed";
     return EntryExists(video.path) ? Refuse(text + ": " + renamed.Why()) : RefuseGone(text);
   }
+  analysis_.PathChanged(video.path, to);
   return {std::string("Video renamed successfully."), true, video.instructor, video.student, ShownName(file)};
 }
 
@@ -235,6 +236,8 @@ void LibraryOperations::MoveVideos(const std::vector<LibraryVideo>& videos, cons
       [=, this](VideoTransferJob& move) -> OperationResult {
         const auto done = static_cast<std::size_t>(move.VideosDone());
         const std::string count = std::to_string(done);
+        for (std::size_t i = 0; i < done; ++i)
+          analysis_.PathChanged(videos[i].path, JoinPath(folder, LastName(videos[i].path)));
         if (!move.Failed() && !move.Cancelled()) {
           if (!move.Error().empty()) host_.Message(MessageKind::Warning, "", move.Error());
           if (videos.size() > 1) return {count + " videos successfully moved.", true};

@@ -16,6 +16,8 @@ constexpr int kLeftButton = 1;
 constexpr int kRightButton = 2;
 constexpr int kMiddleButton = 4;
 
+std::string SessionPath(const Settings& settings) { return JoinPath(settings.DataPath, "session.json"); }
+
 }  // namespace
 
 AnalysisWorkspace::AnalysisWorkspace(IHost& host, Settings& settings, PlayScheduler& scheduler, IWorkspaceView& view,
@@ -28,7 +30,7 @@ AnalysisWorkspace::AnalysisWorkspace(IHost& host, Settings& settings, PlaySchedu
       stage_(host, settings, view, *this),
       tools_(engine_, settings, *this),
       keeping_(host, settings, stage_, tools_),
-      videos_(host, stage_, keeping_, *this, JoinPath(settings.DataPath, "session.json")),
+      videos_(host, stage_, keeping_, *this, SessionPath(settings)),
       compare_(host, settings, scheduler, stage_, compareView, *this),
       transport_(host, settings, stage_, keeping_, compare_.Locks(), view),
       sound_(host, settings, stage_, compare_.Locks(), sound),
@@ -43,6 +45,10 @@ AnalysisWorkspace::AnalysisWorkspace(IHost& host, Settings& settings, PlaySchedu
           view, navigation) {
   menuBar_.TakeKeys(settings_.KeysAndTools == kEditorKeys);
   menuBar_.SetProfilesTitle(Vocabulary(settings_).Profiles());
+}
+
+void AnalysisWorkspace::FollowInSession(const Settings& settings, const std::string& from, const std::string& to) {
+  kinalyx::FollowInSession(SessionPath(settings), from, to);
 }
 
 void AnalysisWorkspace::AttachPlayer(int slot, AVIControl& player) {

@@ -64,6 +64,8 @@ class AnalysisWorkspace final : public IFrameInterface,
 
   PlaySound& Sound() { return sound_; }
 
+  /// A video, or a folder with videos, has another path while there is no section: it opens again from there.
+  static void FollowInSession(const Settings& settings, const std::string& from, const std::string& to);
 
   /// Line width, outline, colours or the word for a student have been changed on another page.
   void SettingsChanged();

@@ -27,6 +27,8 @@ class FakeAnalysis final : public IAnalysisLink {
     return 1;
   }
   void GoToAnalysis() override { ++shown; }
+  void PathChanged(const std::string& from, const std::string& to) override { moved.emplace_back(from, to); }
+  std::vector<std::pair<std::string, std::string>> moved;
   int shown = 0;  ///< how often the section was asked for
 };
 

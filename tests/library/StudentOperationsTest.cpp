@@ -64,6 +64,7 @@ TEST_F(StudentOperations, MovesAStudent) {
 
   library.Folder("Carl");
   EXPECT_EQ(Move("Ann", "Joe Doe", "Carl").Status(), "Student Successfully Moved to Carl .");
+  EXPECT_EQ(analysis.moved.at(0), std::pair(library.Path("Ann/Joe Doe"), library.Path("Carl/Joe Doe")));
   EXPECT_FALSE(Exists("Ann/Joe Doe"));
   EXPECT_EQ(Read("Carl/Joe Doe/lessons/First.avi"), "lesson");
   EXPECT_EQ(Read("Carl/Joe Doe/(001) DL.ved"), "1XXXSXXX");

@@ -99,7 +99,10 @@ TEST_F(VideoOperations, MovesAVideo) {
   EXPECT_FALSE(Exists("Bob/Nobody"));
 
   library.Folder("Bob/Tim");
+  EXPECT_TRUE(analysis.moved.empty());
   EXPECT_EQ(move("Bob", "Tim"), "Selected video successfully moved.");
+  EXPECT_EQ(analysis.moved.at(0),
+            std::pair(library.Path("Ann/Joe Doe/(001) DL.avi"), library.Path("Bob/Tim/(001) DL.avi")));
   EXPECT_EQ(Read("Bob/Tim/(001) DL.avi"), "video 1");
   EXPECT_EQ(Read("Bob/Tim/(001) DL.ved"), "1XXXSXXX");
   EXPECT_FALSE(Exists("Ann/Joe Doe/(001) DL.avi") || Exists("Ann/Joe Doe/(001) DL.ved"));

@@ -75,6 +75,24 @@ TEST(Session, TheNextDayFindsTheStageAsItWas) {
   EXPECT_TRUE(next.Modes().Locks().IsLocked(1) && next.Modes().Locks().IsLocked(2));
 }
 
+// The library renames and moves what was closed; it comes back from where it has gone.
+TEST(Session, FollowsWhatTheProgramMoved) {
+  AnalysisStage stage;
+  const std::string before = stage.folder + "/Ann", after = stage.folder + "/Ann Weiss";
+  ASSERT_TRUE(stage.Open(1, stage.Video("Ann/a.avi")));
+  stage.MP(1).DrawFrame(9);
+  stage.Rest();
+  stage.Type('c');
+  std::filesystem::rename(before, after);
+  stage.Videos().PathChanged(before, after);
+  stage.Videos().PathChanged(stage.folder + "/An", stage.folder + "/wrong");  // another folder that begins alike
+  EXPECT_EQ(ReadSession(SessionOf(stage))->videos.front().path, after + "/a.avi");
+  ASSERT_TRUE(stage.Run("ReopenVideos"));
+  EXPECT_EQ(stage.Stage().At(1).path, after + "/a.avi");
+  EXPECT_EQ(stage.At(1), 9);
+  EXPECT_TRUE(stage.host.messages.empty());
+}
+
 // A power cut asks nobody to close first.
 TEST(Session, IsKeptWhileTheVideosAreOpen) {
   OpenStage stage;

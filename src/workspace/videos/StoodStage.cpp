@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <nlohmann/json.hpp>
+#include <tuple>
 
 #include "platform/files/FileStore.h"
 #include "workspace/stage/Layout.h"
@@ -66,6 +67,22 @@ std::optional<StoodStage> ReadSession(const std::string& path) {
   if (const auto locks = json.find("locks"); locks != json.end() && locks->is_array() && locks->size() == 3)
     for (std::size_t i = 0; i < 3; ++i) stage.locks[i] = (*locks)[i].is_boolean() && (*locks)[i].get<bool>();
   return stage;
+}
+
+bool StoodStage::Follow(const std::string& from, const std::string& to) {
+  bool any = false;
+  for (StoodVideo& video : videos) {
+    const bool below =
+        video.path.starts_with(from) && (video.path.size() == from.size() || video.path[from.size()] == '/');
+    if (below) video.path.replace(0, from.size(), to);
+    any = any || below;
+  }
+  return any;
+}
+
+void FollowInSession(const std::string& path, const std::string& from, const std::string& to) {
+  auto session = ReadSession(path);
+  if (session && session->Follow(from, to)) std::ignore = WriteSession(path, *session);  // a convenience
 }
 
 Outcome WriteSession(const std::string& path, const StoodStage& stage) {

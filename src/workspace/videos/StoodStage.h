@@ -33,6 +33,8 @@ struct StoodStage {
   /// Of what was closed: the videos that stayed, one path for each window. No file holds them.
   std::vector<std::string> stayed{};
 
+  /// What stood at `from`, a video or a folder with videos, stands at `to` now. False when that was nothing of it.
+  bool Follow(const std::string& from, const std::string& to);
   friend bool operator==(const StoodStage&, const StoodStage&) = default;
 };
 
@@ -40,6 +42,8 @@ struct StoodStage {
 
 /// Nothing when there is no such file, or nothing in it that makes sense.
 std::optional<StoodStage> ReadSession(const std::string& path);
+/// The same in the file.
+void FollowInSession(const std::string& path, const std::string& from, const std::string& to);
 Outcome WriteSession(const std::string& path, const StoodStage& stage);
 
 }  // namespace kinalyx

@@ -49,13 +49,14 @@ bool Videos::OpenVideo(int slot, const std::string& path) {
 void Videos::RefuseVideo(int slot, const std::string& path, bool hasStream) {
   Slot& at = stage_.At(slot);
   at.data = {};
-  if (!hasStream) at.MP->Load(path, false, false);  // fails, and leaves the colour that says why
+  const bool gone = !FileExists(path);
+  if (!hasStream && !gone) at.MP->Load(path, false, false);  // fails, and leaves the colour that says why
   if (stage_.Maximized() && !stage_.HasVideo(stage_.CurrentWindow)) stage_.ComeHome();
-  // That colour stands in the cell until another video takes the place.
-  stage_.ShowColour(slot);
+  // That colour stands in the cell until another video takes the place; where there is no file there is nothing to say.
+  gone ? stage_.HidePlayer(slot) : stage_.ShowColour(slot);
   stage_.News().Note(kVideoChanged);
   host_.Message(MessageKind::Warning, "",
-                !FileExists(path) ? "The video \"" + LastName(path) + "\" is no longer there."
+                gone        ? "The video \"" + LastName(path) + "\" is no longer there."
                 : hasStream ? "The video \"" + LastName(path) + "\" is damaged: it holds no picture that can be shown."
                             : "The specified file does not contain media streams, make sure you choose a "
                               "valid media file");
@@ -303,6 +304,12 @@ void Videos::SaveSession() {
   StoodStage now = Stood();
   if (now.videos.empty() || now == session_) return;
   if (WriteSession(sessionPath_, now)) session_ = std::move(now);
+}
+
+void Videos::PathChanged(const std::string& from, const std::string& to) {
+  for (StoodStage& closed : closed_) closed.Follow(from, to);
+  if (session_) session_->Follow(from, to);
+  FollowInSession(sessionPath_, from, to);
 }
 
 void Videos::StageChanged() {

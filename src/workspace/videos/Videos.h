@@ -57,6 +57,8 @@ class Videos {
   bool CanReopen();
   /// Keeps what stands on the stage for the next start of the program. With nothing on it, what was kept stays.
   void SaveSession();
+  /// A video, or a folder, has another path now: what was closed comes back from there.
+  void PathChanged(const std::string& from, const std::string& to);
   /// The stage is another one: it is kept when the hands rest.
   void StageChanged();
   /// Opens a file in the first free slot and widens the layout when more slots are in use than it shows.
