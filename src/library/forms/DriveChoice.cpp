@@ -52,7 +52,7 @@ std::string DriveChoice::Path() const { return Std(list_->currentText()); }
 
 void DriveChoice::Browse() {
   const bool there = host_.Drives().Ask(Path(), [path = Path()] { return dirExists(path); }).value_or(false);
-  const std::string at = there ? Path() : DocumentsFolder();
+  const std::string at = there ? Path() : std::string();
   if (const auto folder = host_.PickFolder("Select a drive or folder for your videos.", at)) Store(*folder);
 }
 

@@ -18,7 +18,7 @@ enum class MessageKind { Information, Warning, Critical };
 /// further kinds of files.
 struct FileDialog {
   std::string title;
-  std::string folder;  ///< where it begins; for a new file its suggested path
+  std::string folder;  ///< where it begins, empty: where something was picked last; for a new file its suggested path
   std::string filter;
 };
 

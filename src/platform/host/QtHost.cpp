@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QDir>
 #include <QFileDialog>
 #include <QLabel>
 #include <QMessageBox>
@@ -9,6 +10,7 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QScreen>
+#include <QStandardPaths>
 #include <QTimerEvent>
 #include <QUrl>
 #include <algorithm>
@@ -159,15 +161,19 @@ class QtHost final : public QObject, public IHost {
   }
 
   std::optional<std::string> PickFile(const FileDialog& dialog) override {
-    return Picked(QFileDialog::getOpenFileName(QApplication::activeWindow(), Title(dialog.title), Text(dialog.folder),
-                                               DialogFilter(dialog.filter)));
+    const QString path = QFileDialog::getOpenFileName(QApplication::activeWindow(), Title(dialog.title),
+                                                      Start(dialog.folder), DialogFilter(dialog.filter));
+    if (!path.isEmpty()) lastFolder_ = QFileInfo(path).path();
+    return Picked(path);
   }
 
   std::vector<std::string> PickFiles(const FileDialog& dialog) override {
     std::vector<std::string> paths;
     for (const QString& path : QFileDialog::getOpenFileNames(QApplication::activeWindow(), Title(dialog.title),
-                                                             Text(dialog.folder), DialogFilter(dialog.filter)))
+                                                             Start(dialog.folder), DialogFilter(dialog.filter))) {
       paths.push_back(path.toStdString());
+      lastFolder_ = QFileInfo(path).path();
+    }
     return paths;
   }
 
@@ -181,7 +187,9 @@ class QtHost final : public QObject, public IHost {
   }
 
   std::optional<std::string> PickFolder(const std::string& title, const std::string& folder) override {
-    return Picked(QFileDialog::getExistingDirectory(QApplication::activeWindow(), Title(title), Text(folder)));
+    const QString path = QFileDialog::getExistingDirectory(QApplication::activeWindow(), Title(title), Start(folder));
+    if (!path.isEmpty()) lastFolder_ = path;
+    return Picked(path);
   }
 
   bool ShowFolder(const std::string& folder) override {
@@ -249,12 +257,21 @@ class QtHost final : public QObject, public IHost {
     return title.empty() ? QCoreApplication::applicationName() : Text(title);
   }
 
+  /// Where a dialog begins that is told no place, or one that is gone.
+  QString Start(const std::string& folder) const {
+    for (const QString& place :
+         {Text(folder), lastFolder_, QStandardPaths::writableLocation(QStandardPaths::MoviesLocation)})
+      if (!place.isEmpty() && QFileInfo::exists(place)) return place;
+    return QDir::homePath();
+  }
+
   static std::optional<std::string> Picked(const QString& path) {
     if (path.isEmpty()) return std::nullopt;
     return path.toStdString();
   }
 
   Log& log_;
+  QString lastFolder_;  ///< from which something was picked last
   DriveWatch drives_{*this};
   // Qt gives the number of a finished timer to the next one; ours are never used twice.
   TimerId lastTimer_ = 0;

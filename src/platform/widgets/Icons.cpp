@@ -22,8 +22,8 @@ QByteArray ReadDrawing(const QString& name) {
 /// Reads its drawing when it is first drawn: most icons of a page are tinted many times before anybody sees them.
 class TintedEngine : public QIconEngine {
  public:
-  TintedEngine(QString name, QColor normal, QColor checked, QColor disabled)
-      : name_(std::move(name)), normal_(normal), checked_(checked), disabled_(disabled) {}
+  TintedEngine(QString name, QColor normal, QColor checked, QColor disabled, QColor selected)
+      : name_(std::move(name)), normal_(normal), checked_(checked), disabled_(disabled), selected_(selected) {}
 
   void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override {
     if (!drawing_) drawing_ = ReadDrawing(name_);
@@ -52,6 +52,7 @@ class TintedEngine : public QIconEngine {
  private:
   QColor Colour(QIcon::Mode mode, QIcon::State state) const {
     if (mode == QIcon::Disabled) return disabled_.isValid() ? disabled_ : CurrentTheme().faint;
+    if (mode == QIcon::Selected && selected_.isValid()) return selected_;
     return state == QIcon::On && checked_.isValid() ? checked_ : normal_;
   }
 
@@ -60,16 +61,17 @@ class TintedEngine : public QIconEngine {
   QColor normal_;
   QColor checked_;
   QColor disabled_;
+  QColor selected_;
 };
 
 }  // namespace
 
-QIcon Icon(const QString& name, QColor colour, QColor checked, QColor disabled) {
-  return QIcon(new TintedEngine(name, colour, checked, disabled));
+QIcon Icon(const QString& name, QColor colour, QColor checked, QColor disabled, QColor selected) {
+  return QIcon(new TintedEngine(name, colour, checked, disabled, selected));
 }
 
 QPixmap IconPixmap(const QString& name, QColor colour, int size, qreal pixelRatio) {
-  TintedEngine engine(name, colour, {}, {});
+  TintedEngine engine(name, colour, {}, {}, {});
   QPixmap picture = engine.pixmap(QSize(size, size) * pixelRatio, QIcon::Normal, QIcon::Off);
   picture.setDevicePixelRatio(pixelRatio);
   return picture;

@@ -95,7 +95,9 @@ class Style : public QProxyStyle {
 
   QIcon standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const override {
     const char* name = NameOf(which);
-    return name ? Icon(name, CurrentTheme().heading) : QProxyStyle::standardIcon(which, option, widget);
+    // In the file dialog the chosen place has the ground of the accent.
+    return name ? Icon(name, CurrentTheme().heading, {}, {}, CurrentTheme().accentText)
+                : QProxyStyle::standardIcon(which, option, widget);
   }
 
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
