@@ -280,6 +280,7 @@ void Program::OpenFiles(const std::vector<std::string>& paths) {
 
 void Program::GoToLibrary() { OpenPage(kProfilesPage); }
 void Program::GoToMainMenu() { OpenPage(kMenuPage); }
+void Program::GoToHelp() { OpenPage(kHelpPage); }
 
 /// Closes all videos, which keeps what was drawn, and lets the section go until it is wanted again.
 void Program::ExitAnalysis() {

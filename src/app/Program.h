@@ -89,6 +89,7 @@ class Program final : private ISettingsEvents,
   // --- INavigation
   void GoToLibrary() override;
   void GoToMainMenu() override;
+  void GoToHelp() override;
   void ExitAnalysis() override;
   void OfferReopen(const std::string& words) override;
   void QuitProgram() override;

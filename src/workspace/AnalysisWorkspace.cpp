@@ -39,10 +39,12 @@ AnalysisWorkspace::AnalysisWorkspace(IHost& host, Settings& settings, PlaySchedu
       timer_(stage_, transport_, view),
       notes_(stage_, keeping_, view),
       rateTest_(host, stage_),
-      ruler_(host, settings, tools_, *this, stage_, keeping_, view),
-      menuBar_(
-          {stage_, keeping_, videos_, transport_, tools_, edits_, times_, timer_, notes_, rateTest_, ruler_, compare_},
-          view, navigation) {
+      hint_(host, view),
+      speedHint_(stage_, transport_, tools_, hint_),
+      ruler_(settings, tools_, *this, stage_, keeping_, view, hint_),
+      menuBar_({stage_, keeping_, videos_, transport_, tools_, edits_, times_, timer_, notes_, rateTest_, ruler_, hint_,
+                compare_},
+               view, navigation) {
   menuBar_.TakeKeys(settings_.KeysAndTools == kEditorKeys);
   menuBar_.SetProfilesTitle(Vocabulary(settings_).Profiles());
 }
@@ -84,6 +86,7 @@ void AnalysisWorkspace::StageChanged(unsigned changes) {
   compare_.StageChanged(changes);
   videos_.StageChanged();
   sound_.Follow();
+  speedHint_.Look();
   view_.CommandsChanged();
 }
 
@@ -118,6 +121,13 @@ void AnalysisWorkspace::VideoClosing(int slot) {
     if (tools_.Drawing()) tools_.PutToolDown();
   }
   compare_.VideoClosing(slot);
+}
+
+void AnalysisWorkspace::VideoClosed(int slot) {
+  timer_.Forget(slot);
+  ruler_.VideoClosed(slot);
+  speedHint_.VideoClosed(slot);
+  hint_.Hide(slot);
 }
 
 void AnalysisWorkspace::VideosGone(int count, const std::string& name) {

@@ -12,6 +12,8 @@
 #include "workspace/compare/CompareModes.h"
 #include "workspace/edits/DrawingEdits.h"
 #include "workspace/edits/DrawingTimes.h"
+#include "workspace/edits/SpeedHint.h"
+#include "workspace/edits/StageHint.h"
 #include "workspace/keeping/Keeping.h"
 #include "workspace/stage/PlayerPlace.h"
 #include "workspace/stage/Stage.h"
@@ -112,10 +114,7 @@ class AnalysisWorkspace final : public IFrameInterface,
   void StageChanged(unsigned changes) override;
   void VideoOpened(int slot) override { compare_.Strobe().VideoOpened(slot); }
   void VideoClosing(int slot) override;
-  void VideoClosed(int slot) override {
-    timer_.Forget(slot);
-    ruler_.VideoClosed(slot);
-  }
+  void VideoClosed(int slot) override;
   void VideosGone(int count, const std::string& name) override;
   std::array<bool, 3> Locks() const override { return compare_.Locks().DualLocked; }
   void LockAgain(const std::array<bool, 3>& locks) override;
@@ -179,6 +178,8 @@ class AnalysisWorkspace final : public IFrameInterface,
   VideoTimer timer_;
   VideoNotes notes_;
   DisplayRateTest rateTest_;
+  StageHint hint_;
+  SpeedHint speedHint_;
   RulerCalibration ruler_;
   MenuBar menuBar_;
   HostTimer drawError_;

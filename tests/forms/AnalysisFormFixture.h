@@ -95,6 +95,7 @@ struct AnalysisFormFixture : testing::Test, UsesApplication, FormDriver, INaviga
   QWidget& Form() override { return *form; }
   void GoToLibrary() override { went = "library"; }
   void GoToMainMenu() override { went = "menu"; }
+  void GoToHelp() override { went = "help"; }
   void ExitAnalysis() override { went = "exit"; }
   void OfferReopen(const std::string&) override {}
   void QuitProgram() override { went = "quit"; }

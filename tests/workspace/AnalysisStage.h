@@ -37,14 +37,15 @@ class FakeWindow final : public IWorkspaceView {
   std::pair<int, int> played;
   bool playing = false, slomo = false, loop = false;
   std::string line, counter, text, calibrationLength, reading, rate;
-  bool negative = false, timer = false, calibration = false, lists = false;
+  bool negative = false, timer = false, calibration = false, lists = false, markList = false;
+  int markNamings = 0;
   std::vector<int> marks;
   std::string videoRuler;
+  std::map<int, std::pair<std::string, std::string>> hints;  ///< words and command
   std::optional<Colour> colour;
   std::optional<std::string> notes;
   int openPanels = 0;
   int windowMenus = 0;
-  int rulerOffers = 0;
   int updates = 0;  ///< of menus and buttons
 
  private:
@@ -90,8 +91,10 @@ class FakeWindow final : public IWorkspaceView {
     rate = perSecond;
   }
   void ShowCalibration(bool shown) override { calibration = shown; }
-  void OfferRuler(const std::string&) override { ++rulerOffers; }
   void SetVideoRuler(const std::string& words) override { videoRuler = words; }
+  void ShowHint(int slot, const std::string& words, const std::string& command) override {
+    hints[slot] = {words, command};
+  }
   void SetCalibrationLength(const std::string& length) override { calibrationLength = length; }
   void ShowNotesform() override {}
   void ShowRateForm() override {}
@@ -101,6 +104,8 @@ class FakeWindow final : public IWorkspaceView {
   }
   void ShowWindowMenu() override { ++windowMenus; }
   void OpenFromDisk() override {}
+  bool CloseMomentary() override { return std::exchange(markList, false); }
+  void NameLastMark() override { ++markNamings; }
   bool CloseOpenPanel() override { return std::exchange(lists, false); }
   void CommandsChanged() override { ++updates; }
   void FocusKeyBox() override {}
@@ -265,7 +270,7 @@ class AnalysisStage : private IFrameInterface, private INavigation {
   FakeCompareView compareView;
   FakeEditWindows edits;
   std::vector<std::string> offers;  ///< to bring back what was closed
-  int libraryVisits = 0, menuVisits = 0, exits = 0, quits = 0;
+  int libraryVisits = 0, menuVisits = 0, helpVisits = 0, exits = 0, quits = 0;
   AnalysisWorkspace analysis;
 
   std::function<void(int slot)> signalled;         ///< after the section itself was told
@@ -284,6 +289,7 @@ class AnalysisStage : private IFrameInterface, private INavigation {
   void StrobeEnded(int ID) override { analysis.StrobeEnded(ID); }
   void GoToLibrary() override { ++libraryVisits; }
   void GoToMainMenu() override { ++menuVisits; }
+  void GoToHelp() override { ++helpVisits; }
   void ExitAnalysis() override { ++exits; }
   void OfferReopen(const std::string& words) override { offers.push_back(words); }
   void QuitProgram() override { ++quits; }

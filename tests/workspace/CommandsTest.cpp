@@ -157,11 +157,13 @@ TEST(CommandsTest, EscapeLeavesOneThingAtATimeAndTheVideosComeBack) {
   stage.Run("MZoom");
   stage.Type('o');
   stage.Key(kKeyF1);
+  stage.window.markList = true;
   const auto open = [&] {
-    return std::array{stage.analysis.Tools().Drawing(), stage.window.lists, stage.window.notes.has_value(),
-                      stage.window.timer, stage.Modes().ZoomShown()};
+    return std::array{stage.window.markList, stage.analysis.Tools().Drawing(),
+                      stage.window.lists,    stage.window.notes.has_value(),
+                      stage.window.timer,    stage.Modes().ZoomShown()};
   };
-  for (std::size_t left = 0; left < 5; ++left) {
+  for (std::size_t left = 0; left < 6; ++left) {
     EXPECT_TRUE(open()[left]) << left;
     stage.Key(kKeyEscape);
     EXPECT_FALSE(open()[left]) << left;

@@ -111,18 +111,20 @@ TEST(RulerTest, BelongsToItsVideo) {
 
   ASSERT_TRUE(stage.Open(2, second));
   stage.Stage().SelectWindow(2);
-  for (int line = 1; line <= 2; ++line) {  // asked once, answered with no
+  const auto& hint = stage.window.hints[2];
+  for (int line = 1; line <= 2; ++line) {
     stage.Draw(kLine, {20, 30 * line}, {70, 30 * line});
-    stage.host.Advance(10);
+    EXPECT_EQ(hint.second, line == 1 ? "LastRuler" : "") << "said once, and passed over";
+    stage.host.Advance(30000);
+    EXPECT_EQ(hint.first, "") << "it goes by itself";
     EXPECT_NE(stage.window.text.find("px"), std::string::npos) << stage.window.text;
   }
-  ASSERT_EQ(stage.host.questions.size(), 1u);
-  EXPECT_NE(stage.host.questions[0].find("second"), std::string::npos);
+  EXPECT_TRUE(stage.host.questions.empty()) << "nobody is stopped in the middle of work";
 
   ASSERT_TRUE(stage.Reopen(2));
-  stage.host.answers = {true};
   stage.Draw(kLine, {20, 90}, {70, 90});
-  stage.host.Advance(10);
+  ASSERT_TRUE(stage.Run(hint.second.c_str()));
+  EXPECT_EQ(hint.first, "");
   EXPECT_TRUE(stage.Stage().At(2).data.Study.Ruler);
   ASSERT_TRUE(stage.Reopen(2));
   stage.Draw(kLine, {20, 120}, {70, 120});
@@ -144,10 +146,44 @@ TEST(RulerTest, APathWithoutOneOffersIt) {
     stage.analysis.Tools().ChooseColour(3);
   };
   trace();
-  EXPECT_EQ(stage.window.rulerOffers, 1) << "and says it once";
+  const auto& hint = stage.window.hints[1];
+  EXPECT_EQ(hint, std::pair(std::string("Set the ruler for speeds along the path."), std::string("TCal")));
   stage.Stage().At(1).data.Study.Ruler = VideoRuler{10, 640, 480, 0};
   trace();
-  EXPECT_EQ(stage.window.rulerOffers, 1);
+  EXPECT_EQ(hint.second, "TrueRate") << "with a ruler it is about the rate";
+}
+
+// What a telephone writes as 30 pictures a second may have been taken at 240.
+TEST(RulerTest, SpeedsSayByWhichRateTheyReckon) {
+  OpenStage stage;
+  stage.Run("TCal");
+  stage.Click(1, 50, 100);
+  stage.Click(1, 150, 100);
+  stage.analysis.Ruler().Calibrate(1, kMetres, kMetres);
+  stage.Key(kKeyF1 + kSwingPath);
+  for (int x = 20; x <= 80; x += 20) stage.Click(1, x, x * x / 20);
+  const auto& hint = stage.window.hints[1];
+  EXPECT_EQ(hint.first, "") << "while nothing is measured yet";
+  stage.Click(1, 80, 320, 2);
+  EXPECT_NE(hint.first.find("30 pictures a second"), std::string::npos) << hint.first;
+  EXPECT_EQ(hint.second, "TrueRate");
+  const auto speeds = [&] { return stage.analysis.Tools().LabelsOf(1).at(0).Text; };
+  const std::string untold = speeds();
+  stage.analysis.Transport().SetTrueRate(240);
+  EXPECT_NE(speeds(), untold);
+  ASSERT_TRUE(stage.Reopen(1));
+  EXPECT_EQ(hint.first, "") << "told once, it is known";
+
+  // Each picture of the path has a speed of its own, also tomorrow.
+  std::vector<std::string> seen;
+  for (int position = 0; position <= 5; ++position) {
+    stage.MP(1).DrawFrame(position);
+    seen.push_back(speeds());
+  }
+  EXPECT_EQ(seen[0], seen[1]) << "the first step begins with the first point";
+  EXPECT_NE(seen[1], seen[2]);
+  EXPECT_NE(seen[2], seen[3]);
+  EXPECT_EQ(seen[3], seen[5]) << "past its end it says how fast it ended";
 }
 
 // Whole pixels round, and windows of all sizes round otherwise; what is read off a drawing must not.

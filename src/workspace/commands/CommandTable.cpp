@@ -194,6 +194,7 @@ void MenuBar::AddGoTo() {
   to("CG", "Capture Video - Page Up key", "camera", nullptr);
   to("PDkeyA", "Analyze Video - Page Down key", "analyze", [this] { stage_.FocusKeyBox(); });
   to("EKTMM", "Main Menu - End key", "home", [this] { navigation_.GoToMainMenu(); });
+  to("GoHelp", "Help and Demos", "help", [this] { navigation_.GoToHelp(); });
 }
 
 void MenuBar::AddVideo() {
@@ -291,6 +292,8 @@ void MenuBar::AddDraw() {
        [heldAs] { return heldAs(ToolInHand::CentreCircle); }});
   Add({"DrawText", kDraw, "Draw Text", "DrawTextBtn", "text", "Draw Text", kDrawing, [this] { tools_.TakeTextTool(); },
        hasVideo, [heldAs] { return heldAs(ToolInHand::Text); }});
+  commands_[firstTool + kAngle].how = "click one end, the corner, the other end";
+  commands_[firstTool + kSwingPath].how = "one click on each picture, which moves on by itself; a right click ends it";
   for (std::size_t i = firstTool; i < commands_.size(); ++i) {
     Command& tool = commands_[i];
     if (tool.group == kDrawing && tool.item != "MenuDraw11") tool.twice = [this] { tools_.StayInHand(); };
@@ -429,7 +432,7 @@ void MenuBar::AddTools() {
        [this] { compare_.Carving().ToggleCarve(); }, [this] { return compare_.WhyNoCarve(); },
        [this] { return compare_.Carving().Shown(); }});
   AddSeparator(kTools);
-  Add({"TMark", kTools, "Mark Video Position", "", "mark", "", kNoButton, [this] { transport_.AddMark(); }, hasVideo});
+  Add({"TMark", kTools, "Mark Video Position", "", "mark", "", kNoButton, [this] { AddMark(); }, hasVideo});
   Add({"TMarkoff", kTools, "Video Marks Off", "", "", "", kNoButton, [this] { transport_.ClearMarks(); },
        Needs([this] { return !stage_.Current().data.Study.Marks.empty(); }, "The current video has no marks")});
   Add({"LineUp", kTools, "Line Up Videos by Mark", "", "lock", "", kNoButton,
@@ -535,7 +538,7 @@ std::vector<const Command*> MenuBar::WindowMenu() const {
   return live;
 }
 
-/// What only keys do.
+/// What only keys and hints do.
 void MenuBar::AddKeysAlone() {
   const auto add = [this](std::string item, std::function<void()> run) {
     Add({std::move(item), "", "", "", "", "", kNoButton, std::move(run)});
@@ -549,6 +552,8 @@ void MenuBar::AddKeysAlone() {
   add("LeapBack", [this] { transport_.Leap(false); });
   add("LeapForward", [this] { transport_.Leap(true); });
   add("Quit", [this] { navigation_.QuitProgram(); });
+  add("LastRuler", [this] { ruler_.TakeLastRuler(); });
+  add("NameMark", [this] { view_.NameLastMark(); });
   add("PanUp", [this] { stage_.Pan(0, -kPanStep); });
   add("PanDown", [this] { stage_.Pan(0, kPanStep); });
   add("PanLeft", [this] { stage_.Pan(-kPanStep, 0); });

@@ -13,6 +13,10 @@ class ICommandsView {
   virtual void ShowWindowMenu() = 0;
   /// False when it was not open.
   virtual bool CloseOpenPanel() = 0;
+  /// Closes what was opened over the stage for a moment, as the list of marks; false when nothing was.
+  virtual bool CloseMomentary() = 0;
+  /// Offers names for the mark that was made last.
+  virtual void NameLastMark() = 0;
   /// The notes that go with a printout.
   virtual void ShowNotesform() = 0;
   /// The rate at which the current video was taken.

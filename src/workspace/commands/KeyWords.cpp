@@ -44,7 +44,8 @@ std::string CaptionWithKey(const Command& command) {
 std::string TipWithKey(const Command& command) {
   const std::string key = FirstKey(command);
   const bool named = key.empty() || command.tip.empty() || command.tip.ends_with('(' + key + ')');
-  return named ? command.tip : command.tip + " (" + key + ')';
+  const std::string tip = named ? command.tip : command.tip + " (" + key + ')';
+  return command.how.empty() ? tip : tip + ": " + command.how;
 }
 
 }  // namespace kinalyx

@@ -21,6 +21,7 @@ MenuBar::MenuBar(const CommandTargets& targets, ICommandsView& view, INavigation
       notes_(targets.notes),
       rateTest_(targets.rateTest),
       ruler_(targets.ruler),
+      hint_(targets.hint),
       compare_(targets.compare),
       view_(view),
       navigation_(navigation) {
@@ -91,6 +92,16 @@ std::string MenuBar::WordsOfSaved() const {
                                        : fmt::format("Saved: {}", fmt::join(names, ", "));
 }
 
+/// A mark that is named is found again, and videos line up by it.
+void MenuBar::AddMark() {
+  const std::size_t before = stage_.Current().data.Study.Marks.size();
+  transport_.AddMark();
+  if (stage_.Current().data.Study.Marks.size() == before) return;
+  const int position = stage_.Current().MP->Position();
+  hint_.Show(stage_.CurrentWindow, "Marked picture " + std::to_string(position) + ". Name it...", "NameMark",
+             StageHint::kShort);
+}
+
 // ---------------------------------------------------------------- keys
 
 void MenuBar::SelectByKeypad(int slot) {
@@ -99,8 +110,10 @@ void MenuBar::SelectByKeypad(int slot) {
 }
 
 void MenuBar::Escape() {
-  // What is in hand is put down first; only a free hand closes the videos.
-  if (rateTest_.Running()) {
+  // What lies over the stage goes, then what is in hand is put down; only a free hand closes the videos.
+  if (view_.CloseMomentary()) {
+    // a list that was opened for a moment has gone
+  } else if (rateTest_.Running()) {
     rateTest_.Stop();
   } else if (ruler_.Shown()) {
     ruler_.CancelCalibration();

@@ -35,6 +35,7 @@ struct CommandTargets {
   VideoNotes& notes;
   DisplayRateTest& rateTest;
   RulerCalibration& ruler;
+  StageHint& hint;
   CompareModes& compare;
 };
 
@@ -68,6 +69,7 @@ struct Command {
   bool spare = false;                  ///< its button is among the first to leave a strip that is too narrow
   std::vector<KeyStroke> keys = {};
   bool keyInColumn = false;  ///< its key stands in the column of the keys also where the caption names one
+  std::string how = {};  ///< one uses it, for the tip
 
   /// The feature is not built yet; such a command is nowhere to be seen.
   bool Coming() const { return !run; }
@@ -122,6 +124,7 @@ class MenuBar {
   void AddKeysAlone();
   void SaveNow();
   std::string WordsOfSaved() const;
+  void AddMark();
   bool Press(KeyStroke::Kind kind, int value, int shift);
   void Add(Command command);
   /// An entry, or a button beside it, whose feature is not built yet.
@@ -145,6 +148,7 @@ class MenuBar {
   VideoNotes& notes_;
   DisplayRateTest& rateTest_;
   RulerCalibration& ruler_;
+  StageHint& hint_;
   CompareModes& compare_;
   ICommandsView& view_;
   INavigation& navigation_;

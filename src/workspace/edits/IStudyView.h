@@ -15,11 +15,11 @@ class IStudyView {
   virtual void HideNotesPnl() = 0;
   /// The calibration panel; it comes with the units of the settings and empty fields.
   virtual void ShowCalibration(bool shown) = 0;
-  /// A quiet word that a ruler is wanted, with a button that opens its panel.
-  virtual void OfferRuler(const std::string& words) = 0;
   virtual void SetCalibrationLength(const std::string& length) = 0;
   /// What the current video's own ruler says; empty: it has none.
   virtual void SetVideoRuler(const std::string& words) = 0;
+  /// A sentence over the picture of a slot that runs a command when it is clicked; without words there is none.
+  virtual void ShowHint(int slot, const std::string& words, const std::string& command) = 0;
 };
 
 }  // namespace kinalyx

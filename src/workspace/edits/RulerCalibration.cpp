@@ -3,11 +3,17 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <string_view>
 #include <utility>
 
 #include "core/Numbers.h"
 
 namespace kinalyx {
+namespace {
+
+constexpr std::string_view kPoints = "pts";
+
+}  // namespace
 
 void RulerCalibration::ToggleCalibration() {
   if (shown_) {
@@ -26,7 +32,9 @@ void RulerCalibration::ShowLength(const std::string& length) {
   Label4_ = length;
   width_ = drawing_.PictureWidth(tools_.MeasuredWindow());
   height_ = drawing_.PictureHeight(tools_.MeasuredWindow());
-  view_.SetCalibrationLength(length);
+  // As the display says it; of old the panel has a word of its own.
+  const bool points = length.ends_with(kPoints) && tools_.Editor();
+  view_.SetCalibrationLength(points ? length.substr(0, length.size() - kPoints.size()) + " px" : length);
 }
 
 void RulerCalibration::Calibrate(double typed, LengthUnit input, LengthUnit output) {
@@ -53,6 +61,7 @@ void RulerCalibration::SetRuler(int window, const std::optional<VideoRuler>& rul
   stage_.At(window).data.Study.Ruler = ruler;
   keeping_.FieldsChanged(window);
   stage_.MP(window).Refresh();
+  stage_.News().Note(kCommandsChanged);
 }
 
 void RulerCalibration::RemoveRuler() {
@@ -80,8 +89,7 @@ void RulerCalibration::DrawingFinished(int window) {
   const int kind = shapes.back().Kind;
   if (kind != kLine && kind != kArrow && kind != kSwingPath) return;
   asked = true;
-  // From the event loop: the click that has finished the drawing is still under way.
-  offer_ = HostTimer(host_, 0, false, [this, window] { Offer(window); });
+  hint_.Show(window, "No ruler here yet. Measure with the one used last?", "LastRuler");
 }
 
 void RulerCalibration::PathFinished(int window) {
@@ -89,17 +97,16 @@ void RulerCalibration::PathFinished(int window) {
   const auto shapes = ShapesOf(list);
   if (list.Adding || shapes.empty() || shown_ || !stage_.HasVideo(window)) return;
   const Shape& path = shapes.back();
+  if (settings_.CalibNumberOut > 0) return;  // the last one has been offered
   if (path.Kind != kSwingPath || tools_.Calibrated(window) || std::exchange(told_, path.Id) == path.Id) return;
-  view_.OfferRuler("Set the ruler for speeds along the path.");
+  hint_.Show(window, "Set the ruler for speeds along the path.", "TCal");
 }
 
-void RulerCalibration::Offer(int window) {
-  if (!stage_.HasVideo(window)) return;
-  if (host_.Question("Ruler", fmt::format("\"{}\" has no ruler of its own yet. Would you like to measure it with the "
-                                          "one that you used last?",
-                                          NameOfVideo(stage_.At(window).path))))
-    SetRuler(window,
-             VideoRuler{settings_.CalibNumberOut, settings_.CalibWidth, settings_.CalibHeight, settings_.CalibOutput});
+void RulerCalibration::TakeLastRuler() {
+  if (settings_.CalibNumberOut <= 0 || settings_.CalibHeight <= 0) return;
+  hint_.Hide(stage_.CurrentWindow);
+  SetRuler(stage_.CurrentWindow,
+           VideoRuler{settings_.CalibNumberOut, settings_.CalibWidth, settings_.CalibHeight, settings_.CalibOutput});
 }
 
 void RulerCalibration::Close() {

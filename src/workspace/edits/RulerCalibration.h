@@ -7,8 +7,8 @@
 
 #include "drawing/DrawingTools.h"
 #include "drawing/Measurement.h"
-#include "platform/host/Host.h"
 #include "workspace/edits/IStudyView.h"
+#include "workspace/edits/StageHint.h"
 #include "workspace/keeping/Keeping.h"
 #include "workspace/stage/Stage.h"
 
@@ -18,15 +18,15 @@ namespace kinalyx {
 /// from then on lines read in inches, feet, centimetres or metres.
 class RulerCalibration {
  public:
-  RulerCalibration(IHost& host, Settings& settings, DrawingTools& tools, IDrawingWorkspace& drawing, Stage& stage,
-                   Keeping& keeping, IStudyView& view)
-      : host_(host),
-        settings_(settings),
+  RulerCalibration(Settings& settings, DrawingTools& tools, IDrawingWorkspace& drawing, Stage& stage, Keeping& keeping,
+                   IStudyView& view, StageHint& hint)
+      : settings_(settings),
         tools_(tools),
         drawing_(drawing),
         stage_(stage),
         keeping_(keeping),
-        view_(view) {}
+        view_(view),
+        hint_(hint) {}
 
   /// Opens the panel and takes up the line tool.
   void ToggleCalibration();
@@ -45,6 +45,8 @@ class RulerCalibration {
 
   /// The current video has no ruler any more.
   void RemoveRuler();
+  /// The current video is measured by the ruler that was used last.
+  void TakeLastRuler();
   /// A drawing of a window was finished. Where it cannot be measured for want of a ruler, the one used last is
   /// offered, once for each opening of a video.
   void DrawingFinished(int window);
@@ -57,18 +59,16 @@ class RulerCalibration {
   void Close();
   void SetRuler(int window, const std::optional<VideoRuler>& ruler);
   std::string RulerWords() const;
-  void Offer(int window);
 
-  IHost& host_;
   Settings& settings_;
   DrawingTools& tools_;
   IDrawingWorkspace& drawing_;
   Stage& stage_;
   Keeping& keeping_;
   IStudyView& view_;
+  StageHint& hint_;
   std::array<bool, kSlots + 1> asked_{};
   std::uint32_t told_ = 0;  ///< the path of which it was said last that it has no speeds
-  HostTimer offer_;
   bool shown_ = false;
   std::string Label4_;
   int width_ = 0;  ///< of the picture when the length was taken, pixels

@@ -14,7 +14,6 @@
 #include "library/forms/OpenVidForm.h"
 #include "platform/files/Folders.h"
 #include "platform/widgets/FileDrop.h"
-#include "platform/widgets/OfferBar.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
 #include "platform/widgets/Text.h"
@@ -133,6 +132,13 @@ void AnalysisForm::MakeStage() {
     connect(cell, &VideoCell::Hovered, this,
             [this, cell, slot](int position, QPoint at) { preview_->Want(slot, position, cell->mapToParent(at)); });
     connect(cell, &VideoCell::Left, this, [this] { preview_->Away(); });
+    connect(cell, &VideoCell::HintPressed, this, [this, slot] {
+      analysis_->CellPressed(slot);
+      const std::string command = hints_[static_cast<std::size_t>(slot)];
+      ShowHint(slot, {}, {});
+      Run(command);
+    });
+    connect(cell, &VideoCell::ReopenWanted, this, [this] { Run("ReopenVideos"); });
     connect(cell, &VideoCell::WholeWanted, this, [this, slot] { analysis_->Stage().SetFits(slot, true); });
     cells_[static_cast<std::size_t>(slot - 1)] = cell;
     analysis_->AttachPlayer(slot, cell->MP().Control());
@@ -151,8 +157,6 @@ void AnalysisForm::MakeStage() {
   timer_ = new VideoTimerForm(analysis_->Timer(), stage_);
   connect(timer_, &FloatCard::CloseWanted, this, [this] { Run("TVT"); });
   calibration_ = new CalibrationPanel(analysis_->Ruler(), settings_, stage_);
-  rulerOffer_ = new OfferBar("RulerOffer", tr("Set Ruler"), stage_);
-  connect(rulerOffer_, &OfferBar::Accepted, this, [this] { Run("TCal"); });
   edits_->Build(analysis_->Edits(), analysis_->Times(), analysis_->Stage(), stage_);
   connect(edits_.get(), &EditForms::KeysFree, this, [this] { FocusKeyBox(); });
   connect(edits_.get(), &EditForms::PointerChanged, this, &AnalysisForm::ShowPointer);
@@ -358,11 +362,8 @@ void AnalysisForm::SetVideoTimer(const std::string& reading, bool negative, cons
   timer_->SetReading(Q(reading), negative, Q(rate));
 }
 
-void AnalysisForm::OfferRuler(const std::string& words) { rulerOffer_->Offer(Q(words)); }
-
 void AnalysisForm::ShowCalibration(bool shown) {
   if (shown) {
-    rulerOffer_->hide();
     calibration_->Begin();
   } else {
     calibration_->hide();
@@ -373,6 +374,15 @@ void AnalysisForm::ShowCalibration(bool shown) {
 void AnalysisForm::SetCalibrationLength(const std::string& length) { calibration_->SetLength(Q(length)); }
 
 void AnalysisForm::SetVideoRuler(const std::string& words) { calibration_->SetVideoRuler(Q(words)); }
+
+void AnalysisForm::ShowHint(int slot, const std::string& words, const std::string& command) {
+  hints_[static_cast<std::size_t>(slot)] = command;
+  Cell(slot).SetHint(Q(words));
+}
+
+bool AnalysisForm::CloseMomentary() { return playBar_->CloseMarks(); }
+
+void AnalysisForm::NameLastMark() { playBar_->NameLastMark(); }
 
 void AnalysisForm::ShowRateForm() {
   const Transport& transport = analysis_->Transport();

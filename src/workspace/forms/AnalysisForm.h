@@ -22,7 +22,6 @@ class DrawCaption;
 class EditForms;
 class IPrinter;
 class NotesPanel;
-class OfferBar;
 class OpenVideoParts;
 class PlayBar;
 class SeekPreview;
@@ -106,15 +105,17 @@ class AnalysisForm : public PageWidget, private IWorkspaceView, private IOpenVid
   void ShowVideoTimer(bool shown) override;
   void SetVideoTimer(const std::string& reading, bool negative, const std::string& rate) override;
   void ShowCalibration(bool shown) override;
-  void OfferRuler(const std::string& words) override;
   void SetCalibrationLength(const std::string& length) override;
   void SetVideoRuler(const std::string& words) override;
+  void ShowHint(int slot, const std::string& words, const std::string& command) override;
   void ShowRateForm() override;
   void ShowNotesform() override;
   void ShowOpenPanel() override;
   void ShowWindowMenu() override;
   void OpenFromDisk() override;
   bool CloseOpenPanel() override;
+  bool CloseMomentary() override;
+  void NameLastMark() override;
   void CommandsChanged() override;
   void FocusKeyBox() override;
 
@@ -141,13 +142,13 @@ class AnalysisForm : public PageWidget, private IWorkspaceView, private IOpenVid
   QWidget* stage_ = nullptr;
   QWidget* keyBox_ = nullptr;
   std::array<VideoCell*, kSlots> cells_{};
+  std::array<std::string, kSlots + 1> hints_{};  ///< the commands of what the cells say
   PlayBar* playBar_ = nullptr;
   SeekPreview* preview_ = nullptr;
   DrawCaption* caption_ = nullptr;
   NotesPanel* notes_ = nullptr;
   VideoTimerForm* timer_ = nullptr;
   CalibrationPanel* calibration_ = nullptr;
-  OfferBar* rulerOffer_ = nullptr;
   OpenVideoParts* openPanel_ = nullptr;  ///< made when first wanted
   bool onPage_ = true;
   int openChoice_ = -1;  ///< the place for which it was made

@@ -29,6 +29,10 @@ class MarkBox : public QFrame {
   /// caller.
   void ShowCard(QWidget* stage, int widest);
   void Dress();
+  /// Opens the menu of names of the last one.
+  void NameLast() {
+    if (count_ > 0) ShowMenu(count_ - 1);
+  }
 
  signals:
   void Chosen(int mark);

@@ -235,6 +235,12 @@ void PlayBar::SetMarks(const std::vector<ShownMark>& marks) {
   Arrange();
 }
 
+bool PlayBar::CloseMarks() {
+  const bool open = marksButton_->isVisible() && marksButton_->isChecked();
+  if (open) marksButton_->setChecked(false);
+  return open;
+}
+
 void PlayBar::moveEvent(QMoveEvent*) { PlaceCard(); }
 void PlayBar::showEvent(QShowEvent*) { PlaceCard(); }
 void PlayBar::hideEvent(QHideEvent*) { PlaceCard(); }

@@ -37,6 +37,10 @@ class PlayBar : public StagePanel {
   void SetLoopKey(const QString& key);
   void SetLine(const QString& line, const QString& counter);
   void SetMarks(const std::vector<ShownMark>& marks);
+  /// Closes the card of the marks; false when it was not open.
+  bool CloseMarks();
+  /// Offers names for the mark that was made last.
+  void NameLastMark() { markBox_->NameLast(); }
 
   /// Without a video in the current window there is nothing to press; locked videos are played and rewound
   /// by the bar of the lock.

@@ -28,36 +28,46 @@ class VideoPanel : public QWidget {
   VideoPanel(int slot, QWidget* parent) : QWidget(parent), slot_(slot) {
     setObjectName(QString("VideoPanel%1").arg(slot));
     setAttribute(Qt::WA_OpaquePaintEvent);
+    back_ = new QToolButton(this);
+    back_->setObjectName(QString("ReopenHint%1").arg(slot));
+    back_->setText(VideoCell::tr("Reopen closed videos"));
+    back_->setToolTip(VideoCell::tr("Brings back what was closed last (Ctrl+Shift+T)"));
+    back_->setCursor(Qt::PointingHandCursor);
+    back_->setFocusPolicy(Qt::NoFocus);
+    back_->hide();
   }
 
+  QToolButton* Back() { return back_; }
   void SetFilled(bool filled) {
     filled_ = filled;
-    update();
+    Arrange();
   }
 
   void SetHints(const QString& openKey, bool canReopen) {
     if (openKey == openKey_ && canReopen == reopen_) return;
     openKey_ = openKey;
     reopen_ = canReopen;
-    update();
+    Arrange();
   }
 
  protected:
+  void resizeEvent(QResizeEvent*) override { Arrange(); }
+  void changeEvent(QEvent* event) override {
+    if (event->type() == QEvent::StyleChange) Arrange();
+    QWidget::changeEvent(event);
+  }
+
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
     painter.fillRect(rect(), filled_ ? Qt::black : Mix(CurrentTheme().stage, Qt::black, 0.35));
     if (filled_) return;
     const StageLook look = StageLook::Current();
-    const int icon = Px(34);
-    const int top = std::max(8, height() / 2 - Px(46));
-    painter.drawPixmap(QPointF((width() - icon) / 2.0, top),
+    const int icon = Px(kPicture);
+    painter.drawPixmap(QPointF((width() - icon) / 2.0, Top()),
                        IconPixmap("open", look.faintInk, icon, devicePixelRatioF()));
     painter.setFont(UiFont(kTextPixels));
     painter.setPen(look.faintInk);
-    const QString open = VideoCell::tr("Double click or press %1 to open a video").arg(openKey_);
-    const QString back = VideoCell::tr("Ctrl+Shift+T brings back those that were closed");
-    DrawHint(painter, QRect(12, top + icon + 10, width() - 24, height() - (top + icon + 10) - 6),
-             reopen_ ? QStringList{open, back} : QStringList{open});
+    if (const QRect words = Words(); words.height() <= Room().height()) painter.drawText(words, kFlags, Open());
     painter.setFont(UiFont(kCaptionPixels));
     painter.setPen(Mix(look.faintInk, look.ground, 0.35));
     painter.drawText(QRect(10, 8, width() - 20, Px(16)), Qt::AlignLeft | Qt::AlignTop,
@@ -65,22 +75,37 @@ class VideoPanel : public QWidget {
   }
 
  private:
-  /// A sentence that has no room is left out whole, and all after it.
-  static void DrawHint(QPainter& painter, QRect room, const QStringList& sentences) {
-    constexpr int kFlags = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
-    for (const QString& sentence : sentences) {
-      const int high =
-          painter.boundingRect(QRect(room.topLeft(), QSize(room.width(), 10000)), kFlags, sentence).height();
-      if (high > room.height()) return;
-      painter.drawText(room, kFlags, sentence);
-      room.setTop(room.top() + high);
-    }
+  static constexpr int kFlags = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
+  static constexpr int kPicture = 34;  // as designed
+
+  QString Open() const { return VideoCell::tr("Double click or press %1 to open a video").arg(openKey_); }
+  int Top() const { return std::max(8, height() / 2 - Px(46)); }
+  QRect Room() const {
+    const int below = Top() + Px(kPicture) + 10;
+    return {12, below, width() - 24, height() - below - 6};
+  }
+  /// As high as the sentence needs.
+  QRect Words() const {
+    return QFontMetrics(UiFont(kTextPixels))
+        .boundingRect({Room().topLeft(), QSize(Room().width(), 10000)}, kFlags, Open());
+  }
+  /// The button beneath the sentence, where there is room for both.
+  void Arrange() {
+    WearStageSheet(back_,
+                   "QToolButton { background: @card; color: @ink; border: 1px solid @cardLine; border-radius: @11;"
+                   "  padding: 0 12px; font-size: @13; } QToolButton:hover { background: @hover; }");
+    const QSize size(back_->sizeHint().width(), Px(28));
+    const int top = Words().bottom() + 10;
+    back_->setGeometry((width() - size.width()) / 2, top, size.width(), size.height());
+    back_->setVisible(!filled_ && reopen_ && top + size.height() + 4 < height() && size.width() + 16 < width());
+    update();
   }
 
   int slot_;
   bool filled_ = false;
   QString openKey_ = "O";
   bool reopen_ = false;  // the videos that were closed can come back
+  QToolButton* back_;
 };
 
 VideoCell::VideoCell(int slot, PlayerServices& services, QWidget* parent) : QWidget(parent) {
@@ -114,6 +139,16 @@ VideoCell::VideoCell(int slot, PlayerServices& services, QWidget* parent) : QWid
             "  padding: 0 10px; font-size: @12; } QToolButton:hover { background: rgba(46, 54, 64, 230); }");
   connect(zoom_, &QToolButton::clicked, this, &VideoCell::WholeWanted);
   zoom_->hide();
+  hint_ = new QToolButton(this);
+  hint_->setObjectName(QString("Hint%1").arg(slot));
+  hint_->setFocusPolicy(Qt::NoFocus);
+  hint_->setCursor(Qt::PointingHandCursor);
+  WearSheet(hint_,
+            "QToolButton { background: rgba(12, 15, 19, 215); color: #ffd479; border: none; border-radius: @11;"
+            "  padding: 0 10px; font-size: @12; } QToolButton:hover { background: rgba(46, 54, 64, 235); }");
+  connect(hint_, &QToolButton::clicked, this, &VideoCell::HintPressed);
+  connect(panel_->Back(), &QToolButton::clicked, this, &VideoCell::ReopenWanted);
+  hint_->hide();
   film_ = new FilmRow(player_->Control(), this);
   film_->setObjectName(QString("FilmRow%1").arg(slot));
   connect(film_, &FilmRow::Sought, this, &VideoCell::Sought);
@@ -138,14 +173,34 @@ void VideoCell::SetZoomFigure(const QString& figure) {
   PlaceZoom();
 }
 
+void VideoCell::SetHint(const QString& words) {
+  hintWords_ = words;
+  hint_->setVisible(!words.isEmpty());
+  PlaceHint();
+}
+
+/// At the foot on the left; it gives way to the figure of the zoom.
+void VideoCell::PlaceHint() {
+  if (hint_->isHidden()) return;
+  const QFontMetrics metrics(UiFont(12));
+  const QRect room = panel_->geometry();
+  const int most = room.width() - 16 - (zoom_->isHidden() ? 0 : zoom_->width() + 6);
+  const QString text = metrics.elidedText(hintWords_, Qt::ElideRight, std::max(40, most - 22));
+  hint_->setText(text);
+  hint_->setToolTip(text == hintWords_ ? QString() : hintWords_);
+  hint_->setGeometry(room.left() + 8, room.bottom() - 8 - Px(23), metrics.horizontalAdvance(text) + 22, Px(23));
+  hint_->raise();
+}
+
 /// At the foot of the picture, away from its name and from what a tool says.
 void VideoCell::PlaceZoom() {
-  if (zoom_->isHidden()) return;
+  if (zoom_->isHidden()) return PlaceHint();
   const QFontMetrics metrics(UiFont(12));
   const QRect room = panel_->geometry();
   const QSize size(metrics.horizontalAdvance(zoom_->text()) + 22, Px(23));
   zoom_->setGeometry(room.right() - 8 - size.width(), room.bottom() - 8 - size.height(), size.width(), size.height());
   zoom_->raise();
+  PlaceHint();
 }
 
 void VideoCell::Place(const QRect& cell, const QRect& panel) {

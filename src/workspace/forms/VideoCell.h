@@ -31,6 +31,8 @@ class VideoCell : public QWidget {
   void SetTitle(const QString& title);
   /// An empty cell tells by which key a video is opened, and how those that were closed come back.
   void SetHints(const QString& openKey, bool canReopen);
+  /// A sentence at the foot of the picture that is pressed like a button; empty for none.
+  void SetHint(const QString& words);
   /// The lock picture behind the name.
   void SetLocked(bool locked);
   /// What the strip beneath the picture shows; `covered` while the play bar lies over it.
@@ -53,6 +55,9 @@ class VideoCell : public QWidget {
   void Left();
   /// The whole picture is wanted back.
   void WholeWanted();
+  /// What the hint speaks of is wanted; what was closed is wanted back.
+  void HintPressed();
+  void ReopenWanted();
 
  protected:
   void paintEvent(QPaintEvent*) override;
@@ -78,6 +83,7 @@ class VideoCell : public QWidget {
   };
   void PlaceTitle();
   void PlaceZoom();
+  void PlaceHint();
   Strip StripNow() const;
   int PositionAt(const Strip& strip, double x) const;
   void SeekTo(double x);
@@ -87,6 +93,8 @@ class VideoCell : public QWidget {
   QLabel* title_;
   QLabel* lock_;
   QToolButton* zoom_;
+  QToolButton* hint_;
+  QString hintWords_;
   FilmRow* film_;
   QString name_;
   QString line_;

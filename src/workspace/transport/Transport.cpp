@@ -339,6 +339,11 @@ double Transport::KnownRate(int slot) const {
   return taken * (at.MP->SplitFields() ? 2 : 1);
 }
 
+std::optional<double> Transport::UntoldRate(int slot) const {
+  const bool untold = stage_.HasVideo(slot) && KnownRate(slot) <= 0;
+  return untold ? std::optional(DisplayRate(slot) / (stage_.MP(slot).SplitFields() ? 2 : 1)) : std::nullopt;
+}
+
 double Transport::RateOfFile() const {
   const Slot& at = stage_.Current();
   const double told = at.MP->Info() ? at.MP->Info()->captureRate : 0;

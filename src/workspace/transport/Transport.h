@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "platform/host/Host.h"
@@ -94,6 +95,8 @@ class Transport {
   /// as its file says.
   double TrueRate() const { return stage_.Current().data.Study.TrueRate; }
   double RateOfFile() const;
+  /// Pictures per second of a slot's video where neither the user nor the file tells how it was taken.
+  std::optional<double> UntoldRate(int slot) const;
   /// Values beyond kFastestRate, and what is no rate, count as 0.
   void SetTrueRate(double rate);
   static constexpr double kFastestRate = 100000;
