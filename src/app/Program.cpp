@@ -341,6 +341,7 @@ void Program::GoToCaptureSetup() {
 /// False when the user would rather stay than lose what could not be saved; a wish to restart ends with it.
 bool Program::MainMayClose() {
   const bool restart = std::exchange(RestartFlag_, false);
+  if (main_->CurrentPage() == kCapturePage && !main_->LeavePage()) return false;
   if (!profiles_->MayClose()) return false;
   if (analysis_ && !analysis_->CloseAll()) return false;
   if (!profiles_->SaveLastNotes() &&

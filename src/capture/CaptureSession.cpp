@@ -17,6 +17,7 @@ namespace {
 constexpr int kReadyMs = 4000;  ///< how long it is told that a video was kept
 constexpr int kTallyMs = 200;   ///< how often the figures of a recording are brought up to date
 constexpr int kRetryMs = 3000;  ///< after a camera has failed
+constexpr int kSecondClickMs = 700;
 constexpr double kPalFrame = 0.04;
 constexpr double kNtscFrame = 0.0333667;
 
@@ -65,6 +66,7 @@ bool CaptureSession::Leave() {
   }
   open_ = false;
   StopCaptureGraph();
+  DropPutAway();
   return true;
 }
 
@@ -192,13 +194,32 @@ void CaptureSession::PressCapture() {
   switch (phase_) {
     case CapturePhase::LivePreview: StartCapture(); break;
     case CapturePhase::Writing: StopCapture(); break;
-    case CapturePhase::Reviewing: BackToLive(); break;
+    case CapturePhase::Reviewing:
+      // The second click of a double click on "Stop Capture" is no wish to lose what was recorded.
+      if (parts_.host.timeGetTime() - stoppedAt_ >= kSecondClickMs) PutAway();
+      break;
   }
+}
+
+/// The recording makes way for the live picture, and can be had back for a while.
+void CaptureSession::PutAway() {
+  DropPutAway();
+  putAway_ = std::exchange(reviewed_, {});
+  BackToLive();
+}
+
+void CaptureSession::DropPutAway() { (void)ThrowAway(std::exchange(putAway_, {})); }
+
+void CaptureSession::BringBack() {
+  if (!CanBringBack() || phase_ != CapturePhase::LivePreview || saving_) return;
+  const UnfinishedRecording recording = std::exchange(putAway_, {});
+  ReviewUnfinished(recording);
 }
 
 void CaptureSession::StartCapture() {
   if (!built_ && !BuildCaptureGraph()) return;
   ReadyTimer_.Stop();
+  DropPutAway();
   tallies_ = {};
   const Outcome ready = parts_.files.Prepare();
   if (!ready) return Say(ready.Why());
@@ -225,6 +246,7 @@ void CaptureSession::ShowTally() {
 }
 
 void CaptureSession::StopCapture() {
+  stoppedAt_ = parts_.host.timeGetTime();
   ArmGates(false);
   if (built_) (void)graph_->GraphStop();  // the files are closed, and the figures those of whole files
   ShowTally();
@@ -292,13 +314,16 @@ void CaptureSession::BackToLive() {
   parts_.page.CaptureChanged();
 }
 
+/// A front behind the end takes the end away, and the other way round.
 void CaptureSession::TrimFront() {
   TrimStartFrame_ = parts_.page.ReviewPlayer(0).CurrentFrame();
+  if (TrimEndFrame_ <= TrimStartFrame_) TrimEndFrame_ = 0;
   Say(std::string(kTrimEnd));
 }
 
 void CaptureSession::TrimEnd() {
   TrimEndFrame_ = parts_.page.ReviewPlayer(0).CurrentFrame();
+  if (TrimStartFrame_ >= TrimEndFrame_) TrimStartFrame_ = 0;
   Say(std::string(kClickSave));
 }
 

@@ -64,6 +64,10 @@ class CaptureSession : private IGraphEvents {
   /// Looks at a recording that an earlier run left, as if it had just been stopped. Nothing while another is written
   /// or looked at.
   void ReviewUnfinished(const UnfinishedRecording& recording);
+  /// Looks again at what "Back to Live Video" has put away; it lies there until the next recording begins or the page
+  /// is left.
+  void BringBack();
+  bool CanBringBack() const { return !putAway_.paths[0].empty(); }
 
   // --- what the page shows
 
@@ -97,6 +101,8 @@ class CaptureSession : private IGraphEvents {
   void StartCapture();
   void StopCapture();
   void BackToLive();
+  void PutAway();
+  void DropPutAway();
   void LeaveOutEmpty(UnfinishedRecording& recording);
   void Review(UnfinishedRecording recording);
   bool RefuseUnlessNamed();
@@ -118,6 +124,8 @@ class CaptureSession : private IGraphEvents {
   std::array<PictureSize, 2> wanted_{};  ///< of the windows, for the graphs to come; 0 x 0 before they are known
   std::array<RecordingTally, 2> tallies_;
   UnfinishedRecording reviewed_;  ///< what is under review, whether it was just recorded or left by an earlier run
+  UnfinishedRecording putAway_;   ///< by "Back to Live Video"
+  std::int64_t stoppedAt_ = 0;
   bool open_ = false;
   bool built_ = false;
   bool two_ = false;

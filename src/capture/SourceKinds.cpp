@@ -17,7 +17,8 @@ constexpr std::array<SourceWords, 5> kKinds{{
      "Use the 'Webcam and Tuner' selection if you are using a webcam, tuner\\video capture card, or tuner cable. To "
      "get "
      "started, click the button below and choose the webcam or tuner card from the dropdown list.\n\nA telephone on a "
-     "tripod that shows its picture on the network is a camera for Kinalyx too: give its address below."},
+     "tripod that shows its picture on the network is a camera for Kinalyx too: give its address under Cameras on the "
+     "Network."},
     {SourceKind::HighDefImport, "High Def Camera Import", "High Definition Camera", "hdcam.svg",
      "A high definition camera stores its videos as files. Connect it to the computer, choose its folder, usually "
      "F:\\DCIM\\VIDEO or DCIM on its card, and Kinalyx converts the videos into the student's folder."},

@@ -89,6 +89,7 @@ TEST_F(CapturePageTest, ShowsWhatBelongsToEachPhase) {
   EXPECT_FALSE(Find<QComboBox>("VideoSource_Camera1")->isEnabled());
   page->EndHerebtn_Click();
   EXPECT_EQ(Button("EndHerebtn"), "Trim End of Video") << "picture 0 is no end";
+  library.host.Advance(1000);
   Press("Capturebtn");
   EXPECT_EQ(Button("Capturebtn"), "Start Capture");
 }
@@ -113,6 +114,11 @@ TEST_F(CapturePageTest, ANameIsTypedForTheNextVideo) {
   Type("ChangeNameBox", "Żabka");
   Press("ChangeNameOk");
   EXPECT_EQ(Text("VidNameLbl"), "(001) Żabka");
+  Record();
+  Press("ChangeNamebtn");
+  Type("ChangeNameBox", "Skok");
+  page->CapSavebtn_Click();
+  EXPECT_EQ(naming.Shown(), "(001) Skok") << "what was typed counts without its button";
 }
 
 TEST_F(CapturePageTest, FilesTakeThePlaceOfCameras) {

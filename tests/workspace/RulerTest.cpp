@@ -218,6 +218,7 @@ TEST(RulerTest, AFigureIsTheSameInEveryWindow) {
     stage.Rest();
     EXPECT_EQ(figures(), drawn) << "saved";
     if (round == 0) ASSERT_TRUE(stage.Reopen(1));
+    stage.MP(1).DrawFrame(4);
   }
 }
 

@@ -28,6 +28,7 @@
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Figures.h"
 #include "platform/widgets/NameList.h"
+#include "platform/widgets/OfferBar.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
 #include "platform/widgets/Text.h"
@@ -173,11 +174,13 @@ QWidget* CapturePage::MakeSide() {
   rows->addWidget(search_);
   students_ = new Panel("CapFolderTitle", {});
   MostWidth(students_, kSideWidth);
-  auto* label = MakeLabel({}, "Instructors", "caption");
-  label->setContentsMargins(kGap, 8, kGap, 2);
-  students_->Body()->addWidget(label);
+  studentsTitle_ = MakeLabel("CapStudents", {}, "caption");
+  QLabel* instructors = MakeLabel({}, "Instructors", "caption");
+  for (QLabel* label : {instructors, studentsTitle_}) label->setContentsMargins(kGap, 8, kGap, 2);
+  students_->Body()->addWidget(instructors);
   students_->Body()->addWidget(lists_->InstructorList(), 2);
   students_->Body()->addWidget(Divider());
+  students_->Body()->addWidget(studentsTitle_);
   students_->Body()->addWidget(lists_->StudentList(), 3);
   rows->addWidget(students_, 1);
   names_ = new NamingPanel(parts_.naming);
@@ -192,12 +195,13 @@ QWidget* CapturePage::MakeCameras() {
   rows->setSpacing(6);
   auto* first = new QHBoxLayout;
   first->setSpacing(6);
-  kind_ = MakeList("CapKindList", "Where videos come from", 22);
+  kind_ = MakeList("CapKindList", "Where videos come from", 8);
   for (const SourceWords& words : SourceKinds())
     kind_->addItem(Q(std::string(words.caption)), static_cast<int>(words.kind));
   connect(kind_, &QComboBox::activated, this,
           [this](int row) { parts_.setup.ChooseKind(static_cast<SourceKind>(kind_->itemData(row).toInt())); });
-  first->addWidget(kind_);
+  MostWidth(kind_, 230);
+  first->addWidget(kind_, 3);
   OneCamTwoOpt_ = MakeChoice(*first, "OneCamTwoOpt", {"One Cam", "Two Cam"}, this);
   choice_ = new QWidget;
   auto* choices = new QHBoxLayout(choice_);
@@ -336,6 +340,13 @@ void CapturePage::ConnectParts() {
     parts_.naming.NameUsed();
     VideoKept();
   });
+  // Who has chosen somebody with the mouse records next.
+  connect(lists_->StudentList(), &QListWidget::clicked, this, [this] { Capturebtn_->setFocus(); });
+  back_ = new OfferBar("BringBackOffer", "Bring It Back", this);
+  connect(back_, &OfferBar::Accepted, this, [this] {
+    session_->BringBack();
+    ShowPhase();
+  });
   connect(names_, &NamingPanel::Told, status_, &StatusLine::Say);
   connect(OneCamTwoOpt_, &QButtonGroup::idClicked, this, &CapturePage::OneCamTwoOpt_Click);
   connect(CamChoiceBtn_, &QButtonGroup::idClicked, this, &CapturePage::CamChoiceBtn_Click);
@@ -393,7 +404,10 @@ bool CapturePage::Leave() {
   return session_->Leave();
 }
 
-void CapturePage::SetupVocabulary() { students_->SetTitle("For Which " + Q(vocabulary_.Noun())); }
+void CapturePage::SetupVocabulary() {
+  students_->SetTitle("For Which " + Q(vocabulary_.Noun()));
+  studentsTitle_->setText(Q(vocabulary_.Nouns()));
+}
 
 void CapturePage::FolderChosen() { parts_.naming.SetFolder(browser_.Folder()); }
 
@@ -443,7 +457,9 @@ void CapturePage::ShowUnfinished() {
   unfinishedBar_->setVisible(shown);
   if (!shown) return;
   const UnfinishedRecording& latest = unfinished_.front();
-  const QString when = QLocale().toString(QDateTime::fromSecsSinceEpoch(latest.written), "d MMM, HH:mm");
+  const bool latestIsToday = QDateTime::fromSecsSinceEpoch(latest.written).date() == QDate::currentDate();
+  const QString when =
+      QLocale().toString(QDateTime::fromSecsSinceEpoch(latest.written), latestIsToday ? "HH:mm" : "d MMM, HH:mm");
   unfinishedWords_->setText(
       QString("An unfinished recording was found: %1 s, %2").arg(latest.seconds, 0, 'f', 1).arg(when));
 }
@@ -479,20 +495,34 @@ QWidget* CapturePage::MakeUnfinishedBar() {
 
 // ---------------------------------------------------------------- handlers
 
-void CapturePage::Capturebtn_Click() { session_->PressCapture(); }
+void CapturePage::Capturebtn_Click() {
+  session_->PressCapture();
+  if (session_->Phase() == CapturePhase::Reviewing) VidScroll_->setFocus();
+  if (session_->CanBringBack()) back_->Offer("The recording was put away.");
+}
 void CapturePage::StartHerebtn_Click() { session_->TrimFront(); }
 void CapturePage::EndHerebtn_Click() { session_->TrimEnd(); }
-void CapturePage::CapSavebtn_Click() { session_->Save(); }
-void CapturePage::CapSendbtn_Click() { session_->SendToAnalysis(); }
+void CapturePage::CapSavebtn_Click() {
+  if (names_->TakeTyped()) session_->Save();
+}
+void CapturePage::CapSendbtn_Click() {
+  if (names_->TakeTyped()) session_->SendToAnalysis();
+}
 void CapturePage::OneCamTwoOpt_Click(int index) { parts_.setup.ChooseCameraCount(index == 0); }
 void CapturePage::CamChoiceBtn_Click(int index) { parts_.setup.ChooseCamera(index); }
 
+/// What would be kept, as far as the ends are chosen.
 void CapturePage::PlayReview() {
-  for (int camera = 0; camera < (session_->TwoCameras() ? 2 : 1); ++camera) review_[camera]->TogglePlay();
+  for (int camera = 0; camera < (session_->TwoCameras() ? 2 : 1); ++camera) {
+    const int last = session_->TrimEndFrame() > 0 ? session_->TrimEndFrame() : players_[camera]->FrameCount() - 1;
+    review_[camera]->TogglePlay(session_->TrimStartFrame(), std::min(last, players_[camera]->FrameCount() - 1));
+  }
 }
 
 void CapturePage::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Space) return Capturebtn_Click();
+  // Space starts and stops, and plays what has been recorded; it never puts it away.
+  if (event->key() == Qt::Key_Space)
+    return session_->Phase() == CapturePhase::Reviewing ? PlayReview() : Capturebtn_Click();
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (enter && session_->Phase() == CapturePhase::Reviewing) return CapSendbtn_Click();
   PageWidget::keyPressEvent(event);

@@ -30,6 +30,7 @@ class ImportPanel;
 class LibraryLists;
 class LiveView;
 class NamingPanel;
+class OfferBar;
 class Panel;
 class PreviewPlayer;
 class SearchBar;
@@ -117,7 +118,9 @@ class CapturePage : public PageWidget, private ICapturePage, private ICaptureSet
   LibraryLists* lists_;
   SearchBar* search_;
   Panel* students_;
+  QLabel* studentsTitle_;
   NamingPanel* names_;
+  OfferBar* back_;
   QComboBox* kind_;
   QButtonGroup* OneCamTwoOpt_;
   QButtonGroup* CamChoiceBtn_;

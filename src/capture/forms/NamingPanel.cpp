@@ -142,12 +142,15 @@ void NamingPanel::ChangeNamebtn_Click() {
   box_->selectAll();
 }
 
-void NamingPanel::TakeName() {
+bool NamingPanel::TakeTyped() { return NameFrame_->isHidden() || TakeName(); }
+
+bool NamingPanel::TakeName() {
   if (!naming_.TakeChangedName(Std(box_->text()))) {
     emit Told(box_->text().trimmed().isEmpty() ? QString("Type a name for the video.") : QString(kNoName));
-    return;
+    return false;
   }
   CloseBox();
+  return true;
 }
 
 void NamingPanel::CloseBox() {

@@ -25,6 +25,8 @@ class NamingPanel : public Panel, private INamingEvents {
 
   /// Shows the panels of the naming that is chosen, `SetupNameMode`.
   void SetupNameMode();
+  /// Takes a name that is being typed, as its button would. False, told, when it is no name.
+  bool TakeTyped();
 
  signals:
   /// Something that the user should read: why a text cannot be a name.
@@ -37,7 +39,7 @@ class NamingPanel : public Panel, private INamingEvents {
   void NameChanged() override;
   void NameWanted() override;
   void ChangeNamebtn_Click();
-  void TakeName();
+  bool TakeName();
   void CloseBox();
 
   VideoNaming& naming_;

@@ -10,7 +10,9 @@ namespace kinalyx {
 class RecordingClock {
  public:
   /// @param promisedRate  pictures a second; 0 when nothing is promised
-  explicit RecordingClock(double promisedRate) : period_(promisedRate > 0 ? 1 / promisedRate : 0) {}
+  explicit RecordingClock(double promisedRate)
+      : period_(promisedRate > 0 ? 1 / promisedRate : 0),
+        shortest_(promisedRate > 0 ? kLeastOfPromised / promisedRate : 1e-5) {}
 
   /// Takes the stamp of the next picture, which must be later than the one before.
   /// @return places that stay empty before it
@@ -35,12 +37,16 @@ class RecordingClock {
   void Follow(double time, std::int64_t steps);
   void BeginAnew(double time);
 
+  /// No camera is faster than it promises by more than this: what looks so is a burst of pictures held up on their way.
+  static constexpr double kLeastOfPromised = 0.95;
+
   std::int64_t firstNs_ = 0;
   double paused_ = 0;        ///< seconds that have no places
   std::int64_t places_ = 0;  ///< pictures and empty places so far
   std::int64_t due_ = 0;     ///< the place where the last picture belongs by its stamp; it stands there or later
   double phase_ = 0;         ///< the time of that place, freed of its trembling
   double period_ = 0;        ///< of one picture
+  double shortest_;          ///< that it can be
   int followed_ = 0;
 
   // A camera that promises twice what it keeps looks at first as one that loses every second picture.

@@ -69,7 +69,7 @@ struct Command {
   bool spare = false;                  ///< its button is among the first to leave a strip that is too narrow
   std::vector<KeyStroke> keys = {};
   bool keyInColumn = false;  ///< its key stands in the column of the keys also where the caption names one
-  std::string how = {};  ///< one uses it, for the tip
+  std::string how = {};      ///< one uses it, for the tip
 
   /// The feature is not built yet; such a command is nowhere to be seen.
   bool Coming() const { return !run; }
