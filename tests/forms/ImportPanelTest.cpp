@@ -89,6 +89,10 @@ TEST_F(ImportPanelTest, AFileIsChosenTrimmedAndSaved) {
   EXPECT_EQ(List("List1")->item(1)->data(NameDelegate::kCountRole).toString(), "Saved");
   EXPECT_FALSE(Shown("TrimStartLbl"));
   EXPECT_FALSE(Shown("ImportProgress"));
+  std::string analyzed;
+  QObject::connect(panel.get(), &ImportPanel::AnalyzeWanted, [&](const std::string& path) { analyzed = path; });
+  Press("ImportAnalyzeBtn");
+  EXPECT_EQ(analyzed, saved);
 }
 
 TEST_F(ImportPanelTest, EachKindSaysWhatToDo) {

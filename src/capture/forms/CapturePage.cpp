@@ -336,6 +336,8 @@ void CapturePage::ConnectParts() {
   connect(search_, &SearchBar::Wanted, this, &CapturePage::GoTo);
   connect(search_, &SearchBar::Left, this, [this] { lists_->StudentList()->setFocus(); });
   connect(import_, &ImportPanel::SetupWanted, this, [this] { parts_.ways.GoToCaptureSetup(); });
+  connect(import_, &ImportPanel::AnalyzeWanted, this,
+          [this](const std::string& path) { parts_.ways.OpenInAnalysis({path}); });
   connect(import_, &ImportPanel::VideoSaved, this, [this] {
     parts_.naming.NameUsed();
     VideoKept();

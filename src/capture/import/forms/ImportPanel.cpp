@@ -214,6 +214,10 @@ QWidget* ImportPanel::MakeProgress() {
   inside->addWidget(gauge_);
   inside->addWidget(cancel);
   row->addWidget(progress_);
+  analyze_ = new Button("ImportAnalyzeBtn", "Analyze", "analyze", Look::Quiet);
+  analyze_->setToolTip("Opens the video that was saved last in the analysis section");
+  row->addWidget(analyze_);
+  connect(analyze_, &QPushButton::clicked, this, [this] { emit AnalyzeWanted(saved_); });
   connect(cancel, &QPushButton::clicked, this, [this] { session_.CancelConversion(); });
   return strip;
 }
@@ -338,6 +342,11 @@ void ImportPanel::ImportChanged() {
   if (!soon_.isActive()) soon_.start(kShowMs);
 }
 
+void ImportPanel::VideoImported(const std::string& path) {
+  saved_ = path;
+  emit VideoSaved(path);
+}
+
 void ImportPanel::ShowAll() {
   soon_.stop();
   rows_->Show(session_.Rows(), session_.Progress().part);
@@ -453,6 +462,7 @@ void ImportPanel::ShowTime() {
 
 void ImportPanel::ShowProgress() {
   progress_->setVisible(session_.Busy());
+  analyze_->setVisible(!session_.Busy() && !saved_.empty());
   gauge_->setValue(static_cast<int>(session_.Progress().part * kParts));
   status_->setText(Q(session_.Status()));
   status_->parentWidget()->setVisible(session_.Busy() || !session_.Status().empty());

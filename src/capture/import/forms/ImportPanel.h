@@ -47,6 +47,8 @@ class ImportPanel : public QWidget, private IImportEvents {
  signals:
   /// A new video is in the student's folder.
   void VideoSaved(const std::string& path);
+  /// The video that was saved last is wanted in the analysis section.
+  void AnalyzeWanted(const std::string& path);
   /// Program Setup, section Capture, is wanted.
   void SetupWanted();
 
@@ -65,7 +67,7 @@ class ImportPanel : public QWidget, private IImportEvents {
   void ConnectParts();
 
   void ImportChanged() override;
-  void VideoImported(const std::string& path) override { emit VideoSaved(path); }
+  void VideoImported(const std::string& path) override;
   void GoToCaptureSetup() override { emit SetupWanted(); }
 
   void ShowAll();
@@ -84,6 +86,7 @@ class ImportPanel : public QWidget, private IImportEvents {
   Settings& settings_;
   ImportSession session_;
   std::string previewed_;  ///< path of the file in the player
+  std::string saved_;      ///< path of the video that was saved last
   QTimer soon_;            ///< until what has changed is shown
   QTimer lookAgain_;       ///< for files that a camera brings
 
@@ -112,6 +115,7 @@ class ImportPanel : public QWidget, private IImportEvents {
   QLabel* progressText_ = nullptr;
   QProgressBar* gauge_ = nullptr;
   QLabel* status_ = nullptr;
+  Button* analyze_ = nullptr;
 };
 
 }  // namespace kinalyx
