@@ -18,6 +18,8 @@ constexpr int kPromiseWeighs = 4;
 constexpr int kMemory = 60;
 /// As long as it follows faster than that, every stamp is taken for that of the next picture at least.
 constexpr int kWarm = 12;
+/// Seconds from picture to picture.
+constexpr double kShortest = 1e-5;
 
 }  // namespace
 
@@ -65,7 +67,9 @@ void RecordingClock::Follow(double time, std::int64_t steps) {
   if (n < kMemory) ++followed_;
   const double error = time - (phase_ + static_cast<double>(steps) * period_);
   phase_ = time - error * (1 - 2.0 * (2 * n - 1) / (n * (n + 1)));
-  period_ = std::max(shortest_, period_ + 6.0 / (n * (n + 1)) * error / static_cast<double>(steps));
+  waited_ |= steps > 1;
+  period_ =
+      std::max(waited_ ? shortest_ : kShortest, period_ + 6.0 / (n * (n + 1)) * error / static_cast<double>(steps));
 }
 
 void RecordingClock::BeginAnew(double time) {

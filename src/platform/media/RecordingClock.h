@@ -12,7 +12,7 @@ class RecordingClock {
   /// @param promisedRate  pictures a second; 0 when nothing is promised
   explicit RecordingClock(double promisedRate)
       : period_(promisedRate > 0 ? 1 / promisedRate : 0),
-        shortest_(promisedRate > 0 ? kLeastOfPromised / promisedRate : 1e-5) {}
+        shortest_(promisedRate > 0 ? kLeastOfPromised / promisedRate : 0) {}
 
   /// Takes the stamp of the next picture, which must be later than the one before.
   /// @return places that stay empty before it
@@ -37,7 +37,8 @@ class RecordingClock {
   void Follow(double time, std::int64_t steps);
   void BeginAnew(double time);
 
-  /// No camera is faster than it promises by more than this: what looks so is a burst of pictures held up on their way.
+  /// Once a picture has been held up on its way, those behind it come in bursts, which look as if the camera were
+  /// faster than it promises: by more than this it is not.
   static constexpr double kLeastOfPromised = 0.95;
 
   std::int64_t firstNs_ = 0;
@@ -46,7 +47,8 @@ class RecordingClock {
   std::int64_t due_ = 0;     ///< the place where the last picture belongs by its stamp; it stands there or later
   double phase_ = 0;         ///< the time of that place, freed of its trembling
   double period_ = 0;        ///< of one picture
-  double shortest_;          ///< that it can be
+  double shortest_;          ///< that it can be after that
+  bool waited_ = false;      ///< a picture came late
   int followed_ = 0;
 
   // A camera that promises twice what it keeps looks at first as one that loses every second picture.
