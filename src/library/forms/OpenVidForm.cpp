@@ -216,14 +216,14 @@ OpenVidForm::OpenVidForm(PlayerServices& services, const Settings& settings, Las
   footRows->setContentsMargins(8, 8, 8, 8);
   footRows->setSpacing(8);
   auto* first = new QHBoxLayout;
-  first->addWidget(marks_);
+  first->addWidget(disk_);
   first->addStretch(1);
   first->addWidget(buttons_[0]);
   auto* second = new QHBoxLayout;
-  second->addWidget(disk_);
   second->addWidget(buttons_[2]);
   second->addStretch(1);
   second->addWidget(buttons_[1]);
+  footRows->addWidget(marks_, 0, Qt::AlignLeft);
   footRows->addLayout(first);
   footRows->addLayout(second);
   rows->addWidget(foot);
