@@ -558,10 +558,8 @@ void CapturePage::FillCameras() {
 
 QString CapturePage::BadgeText(int camera) const {
   const RecordingTally tally = session_->Tally(camera);
-  const double seconds = static_cast<double>(tally.lastNs - tally.firstNs) / 1e9;
-  QString text = QString("%1:%2")
-                     .arg(static_cast<int>(seconds) / 60)
-                     .arg(std::max(0.0, seconds - 60 * (static_cast<int>(seconds) / 60)), 4, 'f', 1, QChar('0'));
+  const std::int64_t tenths = std::max<std::int64_t>(0, tally.lastNs - tally.firstNs) / 100'000'000;
+  QString text = QString("%1:%2.%3").arg(tenths / 600).arg(tenths / 10 % 60, 2, 10, QChar('0')).arg(tenths % 10);
   if (tally.lost > 0) text += QString("   %1 %2 lost").arg(tally.lost).arg(tally.lost == 1 ? "picture" : "pictures");
   return text;
 }
