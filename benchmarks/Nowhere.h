@@ -8,6 +8,7 @@ namespace kinalyx::bench {
 struct Nowhere final : INavigation {
   void GoToLibrary() override {}
   void GoToMainMenu() override {}
+  void GoToHelp() override {}
   void ExitAnalysis() override {}
   void OfferReopen(const std::string&) override {}
   void QuitProgram() override {}
