@@ -424,6 +424,7 @@ void CaptureSession::Saved(const SavedRecording& saved) {
   if (!send) return;
   Say("Loading Analysis Section...");
   const bool opened = parts_.ways.OpenInAnalysis(paths);
+  if (opened) Say("Sending last saved to Analysis...");
   Say(opened ? "Last video saved was sent to Analysis." : "The video is saved. The analysis section did not open it.");
   SayReadyLater();
 }

@@ -9,6 +9,7 @@
 #include "FormDriver.h"
 #include "FormsSupport.h"
 #include "capture/forms/CaptureSection.h"
+#include "capture/forms/FindCamForm.h"
 #include "library/Profile.h"
 #include "platform/files/Folders.h"
 #include "support/TestVideos.h"
@@ -128,6 +129,16 @@ TEST_F(CapturePageTest, FilesTakeThePlaceOfCameras) {
   EXPECT_TRUE(Seen("List1"));
   setup->ChooseKind(SourceKind::Webcam);
   EXPECT_TRUE(Seen("Capturebtn"));
+}
+
+TEST_F(CapturePageTest, AMissingCameraIsToldWithItsTwoWays) {
+  FindCamForm form(1, page.get());
+  EXPECT_EQ(form.windowTitle(), "Cannot find Camera 2");
+  EXPECT_TRUE(form.findChild<QLabel*>("FindCamText")->text().startsWith("Camera 2 could not be found."));
+  form.findChild<QAbstractButton*>("FindCamRetry")->click();
+  EXPECT_EQ(form.result(), QDialog::Accepted);
+  form.findChild<QAbstractButton*>("FindCamClose")->click();
+  EXPECT_EQ(form.result(), QDialog::Rejected);
 }
 
 TEST_F(CapturePageTest, TheSetupSavesTheCameraThatIsShown) {

@@ -3,10 +3,8 @@
 #include <QBoxLayout>
 #include <QButtonGroup>
 #include <QComboBox>
-#include <QDateTime>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLocale>
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QSlider>
@@ -17,6 +15,7 @@
 #include "capture/forms/FindCamForm.h"
 #include "capture/forms/LiveView.h"
 #include "capture/forms/NamingPanel.h"
+#include "capture/forms/UnfinishedBar.h"
 #include "capture/import/forms/ImportPanel.h"
 #include "library/TodayText.h"
 #include "library/forms/Divider.h"
@@ -113,8 +112,7 @@ CapturePage::CapturePage(Parts parts, QWidget* parent)
       vocabulary_(parts_.settings),
       browser_(parts_.services.host.Drives(), parts_.settings, parts_.remembered, LibraryBrowser::Kind::Profiles),
       files_(JoinPath(parts_.settings.DataPath, "capture")),
-      jobs_(parts_.services.host, JobRunner::On::Worker),
-      finder_(parts_.services.host, JobRunner::On::Worker) {
+      jobs_(parts_.services.host, JobRunner::On::Worker) {
   setObjectName("CapturePage");
   IHost& host = parts_.services.host;
   session_ = std::make_unique<CaptureSession>(CaptureSession::Parts{
@@ -137,7 +135,8 @@ CapturePage::CapturePage(Parts parts, QWidget* parent)
   columns->addWidget(MakeSide());
   auto* middle = new QVBoxLayout;
   middle->setSpacing(kGap);
-  middle->addWidget(MakeUnfinishedBar());
+  unfinished_ = new UnfinishedBar(host, JoinPath(parts_.settings.DataPath, "capture"));
+  middle->addWidget(unfinished_);
   middle->addWidget(MakeCameras());
   middle->addWidget(MakeStage(), 1);
   actions_ = MakeActions();
@@ -349,6 +348,9 @@ void CapturePage::ConnectParts() {
     session_->BringBack();
     ShowPhase();
   });
+  connect(unfinished_, &UnfinishedBar::Told, status_, &StatusLine::Say);
+  connect(unfinished_, &UnfinishedBar::LookWanted, this,
+          [this](const UnfinishedRecording& recording) { session_->ReviewUnfinished(recording); });
   connect(names_, &NamingPanel::Told, status_, &StatusLine::Say);
   connect(OneCamTwoOpt_, &QButtonGroup::idClicked, this, &CapturePage::OneCamTwoOpt_Click);
   connect(CamChoiceBtn_, &QButtonGroup::idClicked, this, &CapturePage::CamChoiceBtn_Click);
@@ -396,7 +398,7 @@ void CapturePage::Open() {
   ShowKind();
   session_->Open();
   ShowPhase();
-  LookForUnfinished();
+  unfinished_->LookForThem();
   AskForCamera();
   Capturebtn_->setFocus();
 }
@@ -431,68 +433,6 @@ void CapturePage::AskForCamera() {
     FindCamForm form(*missing, this);
     if (form.exec() != QDialog::Accepted) asked_ = true;
   }
-}
-
-/// What the search for recordings that were left finds, for as long as there is a page.
-class CapturePage::Finding final : public IJobEvents {
- public:
-  explicit Finding(CapturePage& page) : page_(page) {}
-  void Progress(const JobProgress&) override {}
-  void Over(IJob* job) override {
-    if (const auto* found = dynamic_cast<FindUnfinished*>(job)) page_.unfinished_ = found->Found();
-    page_.ShowUnfinished();
-  }
-
- private:
-  CapturePage& page_;
-};
-
-void CapturePage::LookForUnfinished() {
-  if (std::exchange(looked_, true)) return;
-  finder_.Start(std::make_unique<FindUnfinished>(JoinPath(parts_.settings.DataPath, "capture")),
-                std::make_unique<Finding>(*this));
-}
-
-/// The latest recording that was left: what it is, and what can be done with it.
-void CapturePage::ShowUnfinished() {
-  const bool shown = !unfinished_.empty() && session_->Phase() == CapturePhase::LivePreview && !session_->Saving();
-  unfinishedBar_->setVisible(shown);
-  if (!shown) return;
-  const UnfinishedRecording& latest = unfinished_.front();
-  const bool latestIsToday = QDateTime::fromSecsSinceEpoch(latest.written).date() == QDate::currentDate();
-  const QString when =
-      QLocale().toString(QDateTime::fromSecsSinceEpoch(latest.written), latestIsToday ? "HH:mm" : "d MMM, HH:mm");
-  unfinishedWords_->setText(
-      QString("An unfinished recording was found: %1 s, %2").arg(latest.seconds, 0, 'f', 1).arg(when));
-}
-
-QWidget* CapturePage::MakeUnfinishedBar() {
-  unfinishedBar_ = MakeFrame("panel");
-  unfinishedBar_->setObjectName("UnfinishedBar");
-  auto* row = new QHBoxLayout(unfinishedBar_);
-  row->setContentsMargins(kGap, 6, 8, 6);
-  row->setSpacing(8);
-  unfinishedWords_ = MakeLabel("UnfinishedWords", {});
-  auto* away = new Button("UnfinishedAway", "Throw Away", "trash", Look::Quiet);
-  auto* look = new Button("UnfinishedLook", "Look at It", "play");
-  row->addWidget(unfinishedWords_, 1);
-  row->addWidget(away);
-  row->addWidget(look);
-  unfinishedBar_->hide();
-  connect(look, &QPushButton::clicked, this, [this] {
-    const UnfinishedRecording recording = unfinished_.front();
-    unfinished_.erase(unfinished_.begin());
-    session_->ReviewUnfinished(recording);
-    ShowPhase();
-  });
-  connect(away, &QPushButton::clicked, this, [this] {
-    if (!parts_.services.host.Question("", "Do you want to throw the unfinished recording away?")) return;
-    const Outcome gone = ThrowAway(unfinished_.front());
-    if (!gone) status_->Say(Q(gone.Why()));
-    unfinished_.erase(unfinished_.begin());
-    ShowUnfinished();
-  });
-  return unfinishedBar_;
 }
 
 // ---------------------------------------------------------------- handlers
@@ -600,7 +540,8 @@ void CapturePage::ShowPhase() {
   for (QButtonGroup* group : {OneCamTwoOpt_, CamChoiceBtn_})
     for (QAbstractButton* button : group->buttons()) button->setEnabled(live);
   status_->Say(Q(session_->Status()));
-  ShowUnfinished();
+  unfinished_->SetUsable(live);
+  ShowPlaces();
   if (review) ShowReview();
 }
 
@@ -619,19 +560,19 @@ void CapturePage::SeekReview(int frame) {
   ShowReview();
 }
 
-/// Cameras, or files.
-void CapturePage::ShowKind() {
-  const SourceKind kind = parts_.setup.Kind();
-  const bool files = IsImport(kind);
+/// Files take the place of cameras, but for a recording that is looked at.
+void CapturePage::ShowPlaces() {
+  const bool files = IsImport(parts_.setup.Kind()) && session_->Phase() != CapturePhase::Reviewing;
   stage_->setVisible(!files);
   actions_->setVisible(!files);
   status_->setVisible(!files);
   import_->setVisible(files);
-  if (!files) {
-    import_->Session().EndWatch();
-    return;
-  }
-  import_->SetKind(static_cast<ImportKind>(kind));
+}
+
+void CapturePage::ShowKind() {
+  ShowPlaces();
+  if (!IsImport(parts_.setup.Kind())) return import_->Session().EndWatch();
+  import_->SetKind(static_cast<ImportKind>(parts_.setup.Kind()));
   import_->Open();
 }
 

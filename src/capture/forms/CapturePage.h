@@ -18,7 +18,6 @@
 class QBoxLayout;
 class QButtonGroup;
 class QComboBox;
-class QFrame;
 class QLabel;
 class QSlider;
 class QStackedWidget;
@@ -35,6 +34,7 @@ class Panel;
 class PreviewPlayer;
 class SearchBar;
 class StatusLine;
+class UnfinishedBar;
 
 /// The capture page: who is recorded and under what name on the left, the cameras in the middle, and beneath them the
 /// one large button that starts, stops and goes back, with what belongs to each of these states.
@@ -79,25 +79,22 @@ class CapturePage : public PageWidget, private ICapturePage, private ICaptureSet
 
  private:
   class Player;
-  class Finding;
 
   QWidget* MakeSide();
   QWidget* MakeCameras();
   QWidget* MakeStage();
   QWidget* MakeActions();
-  QWidget* MakeUnfinishedBar();
   void ConnectParts();
   void FolderChosen();
   void GoTo(const SearchHit& hit);
   void FillCameras();
   void ShowKind();
+  void ShowPlaces();
   void ShowPhase();
   void VideoKept();
   void ShowReview();
   QString BadgeText(int camera) const;
   void AskForCamera();
-  void LookForUnfinished();
-  void ShowUnfinished();
   void SeekReview(int frame);
   void PlayReview();
 
@@ -112,8 +109,6 @@ class CapturePage : public PageWidget, private ICapturePage, private ICaptureSet
   LibraryBrowser browser_;
   WorkingFiles files_;
   JobRunner jobs_;
-  JobRunner finder_;
-  std::vector<UnfinishedRecording> unfinished_;  ///< that earlier runs have left, the latest first
   std::unique_ptr<CaptureSession> session_;
   LibraryLists* lists_;
   SearchBar* search_;
@@ -139,8 +134,7 @@ class CapturePage : public PageWidget, private ICapturePage, private ICaptureSet
   QSlider* VidScroll_;
   QLabel* frame_;
   QWidget* reviewBar_;
-  QFrame* unfinishedBar_;
-  QLabel* unfinishedWords_;
+  UnfinishedBar* unfinished_;
   Button* play_;
   Button* Capturebtn_;
   Button* StartHerebtn_;
@@ -150,7 +144,6 @@ class CapturePage : public PageWidget, private ICapturePage, private ICaptureSet
   StatusLine* status_;
   bool asked_ = false;  ///< for a camera that is missing
   bool reviewShown_ = false;
-  bool looked_ = false;  ///< for recordings that were left
 };
 
 }  // namespace kinalyx
