@@ -12,6 +12,9 @@ struct Nowhere final : INavigation {
   void ExitAnalysis() override {}
   void OfferReopen(const std::string&) override {}
   void QuitProgram() override {}
+  IHandouts& Handouts() override { return none; }
+
+  IHandouts none;
 };
 
 }  // namespace kinalyx::bench

@@ -125,6 +125,12 @@ void Program::LoadMain() {
   capturePage_ = capture_->MakePage();
   main_->SetPage(kCapturePage, capturePage_);
 
+  handouts_ = std::make_unique<HandoutRoom>(HandoutRoom::Parts{.services = players_,
+                                                               .printer = *printer_,
+                                                               .settings = settings_,
+                                                               .fields = fields_,
+                                                               .remembered = lastStudent_});
+
   importExport_ = new ImportExportPage(*host_, settings_, operations_, lastStudent_);
   main_->SetPage(kImportExportPage, importExport_);
 
@@ -267,6 +273,7 @@ void Program::ShowFirstForm() {
 AnalysisForm& Program::OpenAnalysis() {
   if (!analysis_) {
     analysis_ = new AnalysisForm(*host_, *printer_, settings_, players_, lastStudent_, *this);
+    handouts_->Serve(analysis_);
     main_->SetPage(kAnalysisPage, analysis_);
   }
   return *analysis_;
@@ -288,6 +295,7 @@ void Program::ExitAnalysis() {
   OpenPage(kMenuPage);
   // The wish may come from one of its own buttons: it goes when that has returned.
   analysis_ = nullptr;
+  handouts_->Serve(nullptr);
   host_->StartTimer(0, false, [this] {
     if (main_ && !analysis_) main_->DropPage(kAnalysisPage);
   });

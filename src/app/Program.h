@@ -4,6 +4,7 @@
 #include <string>
 
 #include "app/CaptureRoom.h"
+#include "app/HandoutRoom.h"
 #include "app/Main.h"
 #include "core/ColorSchemes.h"
 #include "core/MailSettings.h"
@@ -93,6 +94,7 @@ class Program final : private ISettingsEvents,
   void ExitAnalysis() override;
   void OfferReopen(const std::string& words) override;
   void QuitProgram() override;
+  IHandouts& Handouts() override { return *handouts_; }
 
   // --- IAnalysisLink: what the library may know of the section, which is made by the first video sent to it
   bool IsOpenInAnalysis(const std::string& path) const override;
@@ -119,6 +121,8 @@ class Program final : private ISettingsEvents,
   LibraryOperations operations_;
 
   std::unique_ptr<CaptureRoom> capture_;  ///< its page and section go with the main form, before it
+
+  std::unique_ptr<HandoutRoom> handouts_;  ///< outlives the analysis section, which goes with the main form
 
   std::unique_ptr<SplashForm> splash_;
   std::unique_ptr<Main> main_;

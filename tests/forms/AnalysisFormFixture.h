@@ -89,6 +89,7 @@ struct AnalysisFormFixture : testing::Test, UsesApplication, FormDriver, INaviga
   LastStudentInfo remembered;
   TestPrinter printer;
   std::string went;  ///< where the page has led last
+  IHandouts handouts;
   std::unique_ptr<AnalysisForm> form;
 
  private:
@@ -99,6 +100,7 @@ struct AnalysisFormFixture : testing::Test, UsesApplication, FormDriver, INaviga
   void ExitAnalysis() override { went = "exit"; }
   void OfferReopen(const std::string&) override {}
   void QuitProgram() override { went = "quit"; }
+  IHandouts& Handouts() override { return handouts; }
   static std::string NewFolder() {
     static int count = 0;
     const std::string path = TestPath("analysisform" + std::to_string(++count));

@@ -271,6 +271,7 @@ class AnalysisStage : private IFrameInterface, private INavigation {
   FakeEditWindows edits;
   std::vector<std::string> offers;  ///< to bring back what was closed
   int libraryVisits = 0, menuVisits = 0, helpVisits = 0, exits = 0, quits = 0;
+  IHandouts handouts;
   AnalysisWorkspace analysis;
 
   std::function<void(int slot)> signalled;         ///< after the section itself was told
@@ -293,6 +294,7 @@ class AnalysisStage : private IFrameInterface, private INavigation {
   void ExitAnalysis() override { ++exits; }
   void OfferReopen(const std::string& words) override { offers.push_back(words); }
   void QuitProgram() override { ++quits; }
+  IHandouts& Handouts() override { return handouts; }
 
   static std::string NewFolder() {
     static int count = 0;

@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "workspace/commands/IHandouts.h"
+
 namespace kinalyx {
 
 /// Where the Go To menu leads: the other pages, and whoever owns them.
@@ -19,6 +21,8 @@ class INavigation {
   virtual void OfferReopen(const std::string& words) = 0;
   /// The program ends, as if its window were closed.
   virtual void QuitProgram() = 0;
+  /// What makes something to take home of the stage; it outlives the analysis section.
+  virtual IHandouts& Handouts() = 0;
 };
 
 }  // namespace kinalyx

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "core/Settings.h"
+#include "library/LibraryTree.h"
+#include "library/Profile.h"
+#include "platform/print/Printer.h"
+#include "video/PlayerServices.h"
+#include "workspace/commands/IHandouts.h"
+
+namespace kinalyx {
+
+class AnalysisForm;
+
+/// The side of the program that makes something to take home: for each kind a desk, made when it is first wanted.
+class HandoutRoom final : public IHandouts {
+ public:
+  struct Parts {
+    PlayerServices& services;
+    IPrinter& printer;
+    Settings& settings;
+    ProfileFields& fields;
+    LastStudentInfo& remembered;
+  };
+  /// All outlives the room.
+  explicit HandoutRoom(Parts parts);
+  ~HandoutRoom() override;
+
+  /// The analysis section that stands now; null when it goes. What the desks lay over its stage belongs to it.
+  void Serve(AnalysisForm* analysis);
+
+ private:
+  Parts parts_;
+  AnalysisForm* analysis_ = nullptr;
+};
+
+}  // namespace kinalyx
