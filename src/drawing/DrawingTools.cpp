@@ -312,13 +312,35 @@ void DrawingTools::RefreshAll() {
     if (workspace_.HasVideo(window)) workspace_.Refresh(window);
 }
 
+GridLook DrawingTools::GridOf(const ShapeList& list) const {
+  return {list.GridOn, settings_.GridSize, ToolColour(kGridEntry), Editor() ? kGlassGrid : 255};
+}
+
+ShapeLook DrawingTools::LookOfShapes() {
+  return {settings_.CadWidth,        settings_.CadOutline, engine_.PathHighlight,
+          engine_.EllipseFromCentre, &engine_.Log,         Editor()};
+}
+
+FilmDrawings DrawingTools::FilmOf(int window) {
+  const ShapeList& list = List(window);
+  FilmDrawings film{
+      .Drawings = {}, .Grid = GridOf(list), .Look = LookOfShapes(), .Labels = LabelsShown(), .Scale = ScaleOf(window)};
+  film.Look.Log = nullptr;
+  if (hidden_) return film;
+  for (const Shape& shape : ShapesOf(list)) {
+    if (!shape.Locked || shape.Measuring) continue;
+    auto exact = workspace_.ExactOf(window, shape);
+    film.Drawings.push_back(exact ? std::move(*exact) : ExactDrawing{shape, film.Scale.Width, film.Scale.Height});
+  }
+  return film;
+}
+
 void DrawingTools::PreDrawFrame(Canvas& hDC, int Window) {
   const ShapeList& list = List(Window);
   const auto shapes = ShapesOf(list);
   ChooseColours(list);
-  const GridLook grid{list.GridOn, settings_.GridSize, ToolColour(kGridEntry), Editor() ? kGlassGrid : 255};
-  const ShapeLook look{settings_.CadWidth,        settings_.CadOutline, engine_.PathHighlight,
-                       engine_.EllipseFromCentre, &engine_.Log,         Editor()};
+  const GridLook grid = GridOf(list);
+  const ShapeLook look = LookOfShapes();
   ChooseOpacities(list, workspace_.FrameOf(Window));
   const auto failed =
       painters_[static_cast<std::size_t>(Window - 1)].Paint(hDC, shapes, colours_, grid, look, opacities_);

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/Settings.h"
+#include "drawing/FilmDrawings.h"
 #include "drawing/IDrawingWorkspace.h"
 #include "drawing/LabelPainter.h"
 #include "drawing/Measurement.h"
@@ -135,6 +136,8 @@ class DrawingTools final : public IShapeLocked {
   bool ShowsSpeeds(int window) const;
   /// The figures beside the drawings of a window; of those that come or go, none.
   std::vector<ShapeLabel> LabelsOf(int window);
+  /// What a window's picture has drawn on it now, as values; nothing of what is under construction or hidden.
+  FilmDrawings FilmOf(int window);
   /// Paints the grid and the shapes of a window, and the measure of the current shape with them.
   void PreDrawFrame(Canvas& hDC, int Window);
 
@@ -227,6 +230,8 @@ class DrawingTools final : public IShapeLocked {
   void Select(int window, POINTAPI point);
   void SetEditBar();
   void StepHistory(int window, bool (ShapeHistory::*step)(ShapeList&));
+  GridLook GridOf(const ShapeList& list) const;
+  ShapeLook LookOfShapes();
   void ChooseColours(const ShapeList& list);
   void ChooseOpacities(const ShapeList& list, int frame);
   void RefreshAll();

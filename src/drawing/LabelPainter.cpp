@@ -6,17 +6,16 @@
 namespace kinalyx {
 namespace {
 
-constexpr int kLeastLetters = 14;  // pixels of a line of figures, in a small picture
-constexpr int kMostLetters = 19;
+constexpr int kLeastFigures = 14;  // pixels of a line of figures, in a small picture
+constexpr int kMostFigures = 19;
 constexpr int kLinesOfPicture = 25;  // as many as a picture is high between
 constexpr int kMargin = 4;           // of a plate, above and below together
 constexpr int kPlateOpacity = 190;
 constexpr Colour kPlateColour = Rgb(12, 16, 22);
 constexpr Colour kLetterColour = Rgb(255, 255, 255);
 
-void PaintPlate(Canvas& canvas, const ShapeLabel& label) {
+void PaintPlate(Canvas& canvas, const ShapeLabel& label, int letters) {
   const Surface& surface = canvas.Target();
-  const int letters = std::clamp(surface.Height() / kLinesOfPicture, kLeastLetters, kMostLetters);
   const int plate = letters + kMargin;
   const int half = Canvas::TextSize(label.Text, letters).x / 2;
   const int edge = half + plate / 2;
@@ -34,10 +33,14 @@ void PaintPlate(Canvas& canvas, const ShapeLabel& label) {
 
 }  // namespace
 
-void LabelPainter::Paint(Canvas& canvas, std::span<const ShapeLabel> labels) {
+int LabelPainter::LettersFor(int height) { return std::clamp(height / kLinesOfPicture, kLeastFigures, kMostFigures); }
+
+void LabelPainter::Paint(Canvas& canvas, std::span<const ShapeLabel> labels, double letters) {
   Surface& surface = canvas.Target();
   if (surface.Empty()) return;
-  if (surface.Width() != width_ || surface.Height() != height_) plates_.clear();
+  const int size = letters > 0 ? std::max(1, static_cast<int>(letters)) : LettersFor(surface.Height());
+  if (surface.Width() != width_ || surface.Height() != height_ || size != letters_) plates_.clear();
+  letters_ = size;
   width_ = surface.Width();
   height_ = surface.Height();
   plates_.resize(labels.size());
@@ -51,7 +54,7 @@ void LabelPainter::Paint(Canvas& canvas, std::span<const ShapeLabel> labels) {
         std::swap(plate, *kept);
       } else {
         plate.label = labels[i];
-        plate.layer = Layer::Record(width_, height_, [&](Canvas& on) { PaintPlate(on, labels[i]); });
+        plate.layer = Layer::Record(width_, height_, [&](Canvas& on) { PaintPlate(on, labels[i], size); });
       }
     }
     plate.layer.LayOver(surface);

@@ -14,7 +14,10 @@ namespace kinalyx {
 class LabelPainter {
  public:
   /// A label that would reach beyond the picture is moved inside.
-  void Paint(Canvas& canvas, std::span<const ShapeLabel> labels);
+  /// @param letters  pixels of a line of figures; 0: as suits a window of that height
+  void Paint(Canvas& canvas, std::span<const ShapeLabel> labels, double letters = 0);
+  /// Pixels of a line of figures in a window's picture of this height.
+  static int LettersFor(int height);
 
  private:
   struct Plate {
@@ -24,6 +27,7 @@ class LabelPainter {
 
   int width_ = 0;  ///< of the frames for which the plates are
   int height_ = 0;
+  int letters_ = 0;
   std::vector<Plate> plates_;
 };
 

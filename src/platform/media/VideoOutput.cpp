@@ -22,7 +22,9 @@ int VideoOutput::Open(const char* muxer) {
   if (const int result = avformat_alloc_output_context2(&context, nullptr, muxer, nullptr); result < 0) return result;
   output_.reset(context);
   const std::string partial = PartNameBeside(path_);
-  const int result = avio_open(&context->pb, ("file:" + partial).c_str(), AVIO_FLAG_WRITE);
+  // A container that puts its index in front reads its own file again.
+  context->url = av_strdup(("file:" + partial).c_str());
+  const int result = avio_open(&context->pb, context->url, AVIO_FLAG_WRITE);
   if (result >= 0) partial_ = partial;
   return result;
 }

@@ -2,8 +2,11 @@
 
 #include <QFileInfo>
 #include <QImage>
+#include <QImageReader>
 #include <QImageWriter>
+#include <QPainter>
 #include <QSaveFile>
+#include <algorithm>
 
 namespace kinalyx {
 namespace {
@@ -48,5 +51,22 @@ Outcome SaveJpeg(const PixelRows& rows, const std::string& path, int quality) {
 }
 
 Outcome SavePng(const PixelRows& rows, const std::string& path) { return Save(rows, path, "png", -1); }
+
+Result<Surface> LoadPicture(const std::string& path, int most, Colour ground) {
+  QImageReader reader(QString::fromStdString(path));
+  reader.setAutoTransform(true);
+  if (const QSize size = reader.size(); size.isValid() && (size.width() > most || size.height() > most))
+    reader.setScaledSize(size.scaled(most, most, Qt::KeepAspectRatio).expandedTo({1, 1}));
+  QImage image = reader.read();
+  if (image.isNull()) return Failure(reader.errorString());
+  if (image.width() > most || image.height() > most)
+    image = image.scaled(most, most, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+  Surface surface(image.width(), image.height());
+  if (surface.Empty()) return Failure(QStringLiteral("The picture is too large."));
+  surface.Clear(ground);
+  QImage target(surface.Row(0), surface.Width(), surface.Height(), surface.Stride(), QImage::Format_RGB32);
+  QPainter(&target).drawImage(0, 0, image);
+  return surface;
+}
 
 }  // namespace kinalyx

@@ -4,6 +4,7 @@
 
 #include "platform/files/Result.h"
 #include "platform/paint/PixelOps.h"
+#include "platform/paint/Surface.h"
 
 namespace kinalyx {
 
@@ -11,5 +12,9 @@ namespace kinalyx {
 /// old or the new picture, whatever happens. Names of folders, devices and pipes are refused.
 Outcome SaveJpeg(const PixelRows& rows, const std::string& path, int quality);
 Outcome SavePng(const PixelRows& rows, const std::string& path);
+
+/// A picture of a file of any usual kind, upright and no larger than `most` pixels on either side; transparent parts
+/// lie over `ground`. Fails with the reason.
+Result<Surface> LoadPicture(const std::string& path, int most, Colour ground);
 
 }  // namespace kinalyx

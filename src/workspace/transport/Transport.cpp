@@ -359,10 +359,13 @@ void Transport::SetTrueRate(double rate) {
   stage_.News().Note(kVideoChanged);
 }
 
+bool Transport::GoesByOwnTimes(int slot) const {
+  const VideoInfo* info = stage_.MP(slot).Info();
+  return info && info->rateVaries && KnownRate(slot) <= 0;
+}
+
 double Transport::SecondsAt(int slot, int position) const {
-  const AVIControl& player = stage_.MP(slot);
-  const bool ownTimes = player.Info() && player.Info()->rateVaries && KnownRate(slot) <= 0;
-  return ownTimes ? player.TimeOf(position) / 1000 : position / DisplayRate(slot);
+  return GoesByOwnTimes(slot) ? stage_.MP(slot).TimeOf(position) / 1000 : position / DisplayRate(slot);
 }
 
 double Transport::DisplayRate(int slot) const {

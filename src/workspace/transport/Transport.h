@@ -100,6 +100,8 @@ class Transport {
   /// Values beyond kFastestRate, and what is no rate, count as 0.
   void SetTrueRate(double rate);
   static constexpr double kFastestRate = 100000;
+  /// Its pictures are shown for unequal times, and nobody has set another rate.
+  bool GoesByOwnTimes(int slot) const;
   /// Seconds from the start of a slot's video to where it stands, or to any position.
   double SecondsAt(int slot) const { return SecondsAt(slot, stage_.MP(slot).Position()); }
   double SecondsAt(int slot, int position) const;

@@ -35,6 +35,12 @@ double VideoTimer::Seconds(int slot) const {
   return std::floor(seconds * 100 + 0.5) / 100;
 }
 
+double VideoTimer::PositionsPerSecond(int slot) const {
+  const double own = TimerRate_[static_cast<std::size_t>(slot)];
+  if (own > 0) return own;
+  return transport_.GoesByOwnTimes(slot) ? 0 : transport_.DisplayRate(slot);
+}
+
 void VideoTimer::UpdateTimer() {
   if (!shown_) return;
   const int slot = stage_.CurrentWindow;

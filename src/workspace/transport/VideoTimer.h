@@ -25,6 +25,10 @@ class VideoTimer {
   void TakeRate(const std::string& text);
   /// The position that is shown becomes zero.
   void SetZero();
+  /// Positions of a slot's video in a second of its timer; 0 where the file's own times count.
+  double PositionsPerSecond(int slot) const;
+  /// Seconds of a slot's video that read as zero.
+  double Zero(int slot) const { return TimerZero_[static_cast<std::size_t>(slot)]; }
   /// A slot's rate and zero point go with its video.
   void Forget(int slot);
 
