@@ -1,5 +1,8 @@
 #pragma once
 
+#include <memory>
+
+#include "app/ClipRoom.h"
 #include "core/Settings.h"
 #include "library/LibraryTree.h"
 #include "library/Profile.h"
@@ -20,6 +23,8 @@ class HandoutRoom final : public IHandouts {
     Settings& settings;
     ProfileFields& fields;
     LastStudentInfo& remembered;
+    IHandoutWays& ways;
+    QWidget& over;  ///< the main window, which goes first
   };
   /// All outlives the room.
   explicit HandoutRoom(Parts parts);
@@ -27,10 +32,17 @@ class HandoutRoom final : public IHandouts {
 
   /// The analysis section that stands now; null when it goes. What the desks lay over its stage belongs to it.
   void Serve(AnalysisForm* analysis);
+  /// Asks where something is still being made; false keeps the program open.
+  bool MayClose() { return clips_.MayClose(); }
+
+  void ShowClipForm() override;
+  void CopyPicture() override;
+  void SavePicture() override;
 
  private:
   Parts parts_;
   AnalysisForm* analysis_ = nullptr;
+  ClipRoom clips_;
 };
 
 }  // namespace kinalyx

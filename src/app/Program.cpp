@@ -129,7 +129,9 @@ void Program::LoadMain() {
                                                                .printer = *printer_,
                                                                .settings = settings_,
                                                                .fields = fields_,
-                                                               .remembered = lastStudent_});
+                                                               .remembered = lastStudent_,
+                                                               .ways = *this,
+                                                               .over = *main_});
 
   importExport_ = new ImportExportPage(*host_, settings_, operations_, lastStudent_);
   main_->SetPage(kImportExportPage, importExport_);
@@ -350,7 +352,7 @@ void Program::GoToCaptureSetup() {
 bool Program::MainMayClose() {
   const bool restart = std::exchange(RestartFlag_, false);
   if (main_->CurrentPage() == kCapturePage && !main_->LeavePage()) return false;
-  if (!profiles_->MayClose()) return false;
+  if (!profiles_->MayClose() || !handouts_->MayClose()) return false;
   if (analysis_ && !analysis_->CloseAll()) return false;
   if (!profiles_->SaveLastNotes() &&
       !host_->Question("", "The notes could not be saved. Do you want to close Kinalyx all the same?"))

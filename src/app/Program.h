@@ -44,7 +44,8 @@ class Program final : private ISettingsEvents,
                       private IMainEvents,
                       private IAnalysisLink,
                       private INavigation,
-                      private ICaptureWays {
+                      private ICaptureWays,
+                      private IHandoutWays {
  public:
   /// @param application  made before and let go after the program
   /// @param log          the same
@@ -102,7 +103,7 @@ class Program final : private ISettingsEvents,
   void GoToAnalysis() override;
   void PathChanged(const std::string& from, const std::string& to) override;
 
-  // --- ICaptureWays
+  // --- ICaptureWays and IHandoutWays
   bool OpenInAnalysis(const std::vector<std::string>& paths) override;
   void GoToCaptureSetup() override;
 

@@ -108,6 +108,8 @@ constexpr KeyRow kKeyRows[] = {
     {"ShapeLabels", Letter('D')},
     {"LineUp", Letter('U')},
     {"TTES", Key(kKeyCtrl), KeySet::Classic},
+    {"TSaveClip", Key('E', kCtrl)},
+    {"TCopyPicture", Key('C', kCtrl)},
     {"PanUp", Key(kKeyNumpad0 + 8)},
     {"PanUp", Letter('Y')},
     {"PanDown", Key(kKeyNumpad0 + 2)},
@@ -154,9 +156,11 @@ constexpr KeyRow kKeyRows[] = {
 };
 
 /// What fits a window, in the order of its menu; an empty name divides.
-constexpr const char* kWindowMenu[] = {
-    "vo", "OpenFromDisk", "ReopenVideos", "MnuClose", "",      "FitPicture", "TMAX", "vFlip",
-    "",   "TMark",        "LineUp",       "",         "vloop", "TSFrames",   "TN",   "PrintCall"};
+constexpr const char* kWindowMenu[] = {"vo",    "OpenFromDisk", "ReopenVideos", "MnuClose",
+                                       "",      "FitPicture",   "TMAX",         "vFlip",
+                                       "",      "TMark",        "LineUp",       "",
+                                       "vloop", "TSFrames",     "TN",           "PrintCall",
+                                       "",      "TSaveClip",    "TCopyPicture", "TSavePicture"};
 
 using Obstacle = std::function<std::string()>;
 
@@ -386,6 +390,12 @@ void MenuBar::AddTools() {
   Add({"TFT", kTools, "Fill Top w/Current Video", "", "", "", kNoButton, [this] { videos_.FillTopRow(); }, rows});
   Add({"TFB", kTools, "Fill Bottom w/Current Video", "", "", "", kNoButton, [this] { videos_.FillBottomRow(); }, rows});
   AddSeparator(kTools);
+  Add({"TSaveClip", kTools, "Save Video with Drawings", "", "clip", "Save Video with Drawings", kSharing,
+       [this] { navigation_.Handouts().ShowClipForm(); }, hasVideo});
+  Add({"TCopyPicture", kTools, "Copy Picture", "", "", "", kNoButton, [this] { navigation_.Handouts().CopyPicture(); },
+       hasVideo});
+  Add({"TSavePicture", kTools, "Save Picture", "", "", "", kNoButton, [this] { navigation_.Handouts().SavePicture(); },
+       hasVideo});
   Add({"PrintCall", kTools, "Print Video(s)", "CmdAfunctions7", "print", "Print Video(s)", kSharing,
        [this] { view_.ShowNotesform(); }, hasVideo});
   Add({"TLAV", kTools, "Loop All Videos", "", "loop", "", kNoButton, [this] { transport_.ToggleLoopAll(); },

@@ -1,0 +1,75 @@
+#include "app/ClipRoom.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QImage>
+
+#include "distribution/clips/forms/ClipCard.h"
+#include "distribution/clips/forms/ClipForm.h"
+#include "platform/files/Folders.h"
+#include "platform/widgets/Text.h"
+#include "workspace/compare/PictureExport.h"
+#include "workspace/forms/AnalysisForm.h"
+
+namespace kinalyx {
+
+ClipRoom::ClipRoom(IHost& host, const Settings& settings, IHandoutWays& ways, QWidget& over)
+    : host_(host), ways_(ways), card_(new ClipCard(&over)), desk_(host, settings, *this) {
+  QObject::connect(card_, &ClipCard::CancelWanted, [this] { desk_.Cancel(); });
+  QObject::connect(card_, &ClipCard::FolderWanted, [this](const QString& path) {
+    if (!host_.ShowFolder(FolderOf(Std(path))))
+      host_.Message(MessageKind::Information, "", "It lies in " + FolderOf(Std(path)));
+  });
+  QObject::connect(card_, &ClipCard::PlayWanted, [this](const QString& path) {
+    if (!ways_.OpenInAnalysis({Std(path)})) host_.Message(MessageKind::Warning, "", "The clip could not be opened.");
+  });
+}
+
+ClipRoom::~ClipRoom() = default;
+
+void ClipRoom::ShowForm(AnalysisForm& analysis) {
+  analysis.Section().Stage().MP(analysis.Section().Stage().CurrentWindow).StopPlay();
+  analysis.Section().PutToolDown();
+  ClipForm form(host_, analysis.Section(), desk_, &analysis);
+  form.exec();
+}
+
+Result<Surface> ClipRoom::Picture(AnalysisForm& analysis) {
+  const ClipScene scene = TakePicture(analysis.Section(), analysis.Section().Stage().CurrentWindow);
+  const POINTAPI size = PixelsOf(scene, ClipSize::AsSeen);
+  return PictureOf(scene, size.x, size.y);
+}
+
+void ClipRoom::CopyPicture(AnalysisForm& analysis) {
+  const auto picture = Picture(analysis);
+  if (!picture) return host_.Message(MessageKind::Warning, "", picture.Why());
+  const QImage view(picture->Row(0), picture->Width(), picture->Height(), picture->Stride(), QImage::Format_RGB32);
+  QGuiApplication::clipboard()->setImage(view.copy());
+  analysis.Section().Transport().Announce("The picture is in the clipboard.");
+}
+
+void ClipRoom::SavePicture(AnalysisForm& analysis) {
+  const Stage& stage = analysis.Section().Stage();
+  const std::string& video = stage.Current().path;
+  const auto path = host_.PickNewFile({"Save Picture", JoinPath(FolderOf(video), NameOfVideo(video) + " picture.png"),
+                                       "PNG picture (*.png)|*.png|JPEG picture (*.jpg *.jpeg)|*.jpg; *.jpeg"});
+  if (!path) return;
+  const auto picture = Picture(analysis);
+  const Outcome saved = picture ? ExportPicture(*picture, *path) : picture.Failure();
+  if (!saved) return host_.Message(MessageKind::Warning, "", "The picture was not saved. " + saved.Why());
+  analysis.Section().Transport().Announce("The picture was saved.");
+}
+
+bool ClipRoom::MayClose() {
+  return !desk_.Busy() || host_.Question("", "A clip is still being written. Do you want to give it up and close?");
+}
+
+void ClipRoom::ClipProgress(const std::string& name, double part, int waiting) {
+  card_->ShowProgress(name, part, waiting);
+}
+
+void ClipRoom::ClipSaved(const std::string& path) { card_->ShowSaved(path); }
+void ClipRoom::ClipCancelled() { card_->Leave(); }
+void ClipRoom::ClipFailed(const std::string& words) { card_->ShowFailed(words); }
+
+}  // namespace kinalyx

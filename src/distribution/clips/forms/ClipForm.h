@@ -1,0 +1,82 @@
+#pragma once
+
+#include <QDialog>
+#include <memory>
+#include <vector>
+
+#include "distribution/clips/ClipDesk.h"
+
+class QButtonGroup;
+class QCheckBox;
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QSlider;
+
+namespace kinalyx {
+
+class Button;
+class ClipPicture;
+
+/// "Save Video with Drawings": what of the stage becomes a clip, with a picture of it.
+class ClipForm : public QDialog {
+  Q_OBJECT
+
+ public:
+  /// All outlives the form.
+  ClipForm(IHost& host, AnalysisWorkspace& analysis, ClipDesk& desk, QWidget* over);
+  ~ClipForm() override;
+
+ private:
+  QWidget* MakeChoices();
+  QWidget* MakePreview();
+  QWidget* MakeTarget();
+  QComboBox* AddChoice(class QFormLayout& rows, const QString& name, const QString& caption);
+  ClipWish Wish() const;
+  void Show(const ClipWish& wish);
+  void Changed();
+  void Preview();
+  void Play(bool on);
+  void NextPicture();
+  void ChooseFolder();
+  void Save();
+
+  IHost& host_;
+  AnalysisWorkspace& analysis_;
+  ClipDesk& desk_;
+  std::vector<ClipMoment> moments_;
+  std::string folder_;
+  bool filling_ = false;
+
+  ClipPicture* picture_ = nullptr;
+  QSlider* seek_ = nullptr;
+  Button* play_ = nullptr;
+  QLabel* length_ = nullptr;
+  QButtonGroup* windows_ = nullptr;
+  QComboBox* from_ = nullptr;
+  QComboBox* to_ = nullptr;
+  QComboBox* speed_ = nullptr;
+  QComboBox* pause_ = nullptr;
+  QComboBox* size_ = nullptr;
+  QComboBox* file_ = nullptr;
+  QComboBox* count_ = nullptr;
+  QLabel* countTitle_ = nullptr;
+  QCheckBox* names_ = nullptr;
+  QCheckBox* timer_ = nullptr;
+  QCheckBox* notes_ = nullptr;
+  QCheckBox* sound_ = nullptr;
+  QCheckBox* card_ = nullptr;
+  QLineEdit* name_ = nullptr;
+  QLabel* place_ = nullptr;
+  QLabel* fault_ = nullptr;
+  Button* save_ = nullptr;
+
+  std::unique_ptr<ScenePainter> painter_;
+  ClipOrder order_;
+  ClipPlan plan_;
+  HostTimer soon_;
+  HostTimer playing_;
+  std::int64_t playedFrom_ = 0;  ///< of the host's clock, when the clip began
+};
+
+}  // namespace kinalyx
