@@ -22,18 +22,18 @@ void FilmPainter::Fit(const FilmPlace& place) {
   if (fitted_ == place) return;
   fitted_ = place;
   grown_ = film_.Scale.Height > 0 ? static_cast<double>(place.Height) / film_.Scale.Height : 1;
-  whole_.clear();
+  seen_.clear();
   shapes_.clear();
   colours_.clear();
   for (const ExactDrawing& drawing : film_.Drawings) {
     const DrawnShapes drawn{{drawing.Shape}, {drawing.Width, drawing.Height, false}};
-    whole_.push_back(drawn.In({place.Width, place.Height, place.Mirrored}).front());
-    Shape& shape = whole_.back();
+    seen_.push_back(drawn.In({film_.Scale.Width, film_.Scale.Height, place.Mirrored}).front());
+    shapes_.push_back(drawn.In({place.Width, place.Height, place.Mirrored}).front());
+    Shape& shape = shapes_.back();
     // Letters have grown with the picture.
     if (!IsText(shape) && shape.Width > 0) shape.Width = Grown(shape.Width, grown_);
-    shapes_.push_back(shape);
     const std::size_t points = PointsOf(shape).size();
-    for (POINTAPI& point : std::span(shapes_.back().Pts).first(points))
+    for (POINTAPI& point : std::span(shape.Pts).first(points))
       point = {point.x + place.Left, point.y + place.Top};
     colours_.push_back(shape.Colour);
   }
@@ -53,16 +53,14 @@ void FilmPainter::Paint(Surface& surface, const FilmPlace& place, int frame, con
   if (!film_.Labels) return;
 
   MeasureScale scale = film_.Scale;
-  scale.PixelsPerInch *= grown_;
-  scale.Width = place.Width;
-  scale.Height = place.Height;
   scale.Now = now;
   std::vector<ShapeLabel> labels;
-  for (std::size_t i = 0; i < whole_.size(); ++i) {
-    if (!HasLabel(whole_[i]) || (!opacities_.empty() && opacities_[i] < kFull)) continue;
-    auto label = LabelOf(whole_[i], scale, &film_.Drawings[i]);
+  const auto grown = [this](int pixels) { return static_cast<int>(std::lround(pixels * grown_)); };
+  for (std::size_t i = 0; i < seen_.size(); ++i) {
+    if (!HasLabel(seen_[i]) || (!opacities_.empty() && opacities_[i] < kFull)) continue;
+    auto label = LabelOf(seen_[i], scale, &film_.Drawings[i]);
     if (!label) continue;
-    label->Middle = {label->Middle.x + place.Left, label->Middle.y + place.Top};
+    label->Middle = {grown(label->Middle.x) + place.Left, grown(label->Middle.y) + place.Top};
     labels.push_back(std::move(*label));
   }
   labels_.Paint(canvas, labels, LabelPainter::LettersFor(film_.Scale.Height) * grown_);

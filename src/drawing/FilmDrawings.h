@@ -52,7 +52,7 @@ class FilmPainter {
   FilmDrawings film_;
   std::optional<FilmPlace> fitted_;  ///< for which the rest is
   double grown_ = 1;                 ///< by which the picture is larger than in its window
-  std::vector<Shape> whole_;         ///< the shapes in the picture
+  std::vector<Shape> seen_;          ///< the shapes as the window has them, beside which the figures are placed
   std::vector<Shape> shapes_;        ///< and on the surface
   std::vector<Colour> colours_;
   std::vector<std::uint8_t> opacities_;

@@ -59,8 +59,26 @@ ClipScene SceneOfOne(AnalysisWorkspace& analysis, int slot) {
   return scene;
 }
 
+/// The part of a cell that any of the pictures covers: what is black in all of them is left out.
+TwipRect Covered(const ClipScene& scene, int width, int height) {
+  int left = width, top = height, right = 0, bottom = 0;
+  for (const SceneVideo& video : scene.Videos) {
+    const TwipRect place = PlaceVideo(video.Placement, width, height);
+    left = std::min(left, std::max(0, place.Left));
+    top = std::min(top, std::max(0, place.Top));
+    right = std::max(right, std::min(width, place.Left + place.Width));
+    bottom = std::max(bottom, std::min(height, place.Top + place.Height));
+  }
+  if (right <= left || bottom <= top) return {0, 0, width, height};
+  return {left, top, right - left, bottom - top};
+}
+
 /// The windows of the layout, close together; rows and columns without a video are left out.
-void PlaceWindows(ClipScene& scene, const ScreenMode& mode, int width, int height) {
+/// @param cellWidth, cellHeight  of each
+void PlaceWindows(ClipScene& scene, const ScreenMode& mode, int cellWidth, int cellHeight) {
+  const TwipRect covered = Covered(scene, cellWidth, cellHeight);
+  const int width = covered.Width;
+  const int height = covered.Height;
   std::array<bool, kSlots> columns{};
   std::array<bool, kSlots> rows{};
   const auto columnOf = [&](const SceneVideo& video) { return (video.Slot - 1) % mode.Columns; };
@@ -82,7 +100,8 @@ void PlaceWindows(ClipScene& scene, const ScreenMode& mode, int width, int heigh
   for (SceneVideo& video : scene.Videos) {
     int left = before(columns, columnOf(video)) * (width + kGap);
     if (triangle && rowOf(video) == 1) left = (scene.Width - width) / 2;
-    video.Cell = video.Seen = {left, before(rows, rowOf(video)) * (height + kGap), width, height};
+    video.Seen = {left, before(rows, rowOf(video)) * (height + kGap), width, height};
+    video.Cell = {video.Seen.Left - covered.Left, video.Seen.Top - covered.Top, cellWidth, cellHeight};
   }
 }
 
@@ -196,17 +215,18 @@ ClipScene TakePicture(AnalysisWorkspace& analysis, int slot) {
 ClipScene Stacked(ClipScene scene) {
   if (scene.Shows != ClipScene::Look::Windows || scene.Videos.size() < 2 || scene.Proportion() <= 1) return scene;
   // Only where all stand in one row of equal cells.
-  const TwipRect first = scene.Videos.front().Cell;
+  const TwipRect first = scene.Videos.front().Seen;
   const bool row = std::ranges::all_of(scene.Videos, [&](const SceneVideo& video) {
-    return video.Cell == video.Seen && video.Cell.Top == first.Top && video.Cell.Height == first.Height;
+    return video.Seen.Top == first.Top && video.Seen.Height == first.Height && video.Seen.Width == first.Width;
   });
   if (!row) return scene;
   int top = 0;
   for (SceneVideo& video : scene.Videos) {
-    video.Cell.Left = 0;
-    video.Cell.Top = top;
-    video.Seen = video.Cell;
-    top += video.Cell.Height + kGap;
+    video.Cell.Left -= video.Seen.Left;
+    video.Cell.Top += top - video.Seen.Top;
+    video.Seen.Left = 0;
+    video.Seen.Top = top;
+    top += video.Seen.Height + kGap;
   }
   scene.Width = first.Width;
   scene.Height = top - kGap;

@@ -36,8 +36,9 @@ struct ClipJobTest : testing::Test {
   /// Of a picture of the scene what one of its videos fills.
   static FrameRows PartOf(const ClipScene& scene, std::size_t video, const FrameRows& rows) {
     const TwipRect& cell = scene.Videos[video].Cell;
-    const double width = cell.Height * 4.0 / 3;
-    const double left = cell.Left + (cell.Width - width) / 2;
+    const TwipRect place = PlaceVideo(scene.Videos[video].Placement, cell.Width, cell.Height);
+    const double width = place.Width;
+    const double left = cell.Left + place.Left;
     return Part(rows, left / scene.Width, (left + width) / scene.Width);
   }
   /// A part of a picture, by the shares of its width.
@@ -73,7 +74,7 @@ TEST_F(ClipJobTest, EveryPictureWithWhatIsDrawnOnIt) {
     stage->MP(1).setFlipHorizontal(mirrored);
     stage->MP(1).Refresh();
     ClipOrder order = Order("clip.mp4");
-    EXPECT_EQ(order.Scene.Proportion(), 640.0 / 480);
+    EXPECT_NEAR(order.Scene.Proportion(), 640.0 / 480, 0.005);
     ASSERT_TRUE(Make(order)) << Make(order).Why();
     const auto clip = OpenedVideo(order.Path);
     ASSERT_EQ(clip->Info().frameCount, 12);
@@ -109,8 +110,8 @@ TEST_F(ClipJobTest, TwoVideosSideBySideAndMixed) {
     EXPECT_EQ(ReadNumber(PartOf(order.Scene, 0, rows)), 4 + frame);
     EXPECT_EQ(ReadNumber(PartOf(order.Scene, 1, rows)), 6 + frame);
   }
-  EXPECT_EQ(Stacked(order.Scene).Videos[1].Cell.Left, 0);
-  EXPECT_GT(Stacked(order.Scene).Videos[1].Cell.Top, 0);
+  EXPECT_EQ(Stacked(order.Scene).Videos[1].Seen.Left, 0);
+  EXPECT_GT(Stacked(order.Scene).Videos[1].Seen.Top, 0);
 
   ASSERT_TRUE(stage->Run("STM"));
   stage->Modes().Transparency().SetMix(255);

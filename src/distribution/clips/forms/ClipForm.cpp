@@ -25,6 +25,8 @@ namespace {
 
 constexpr QSize kPreview{560, 400};
 constexpr int kChoicesWidth = 330;
+constexpr int kLineHeight = 34;
+constexpr int kPlaceWidth = 440;  // of the name of a folder
 constexpr int kSoonMs = 60;  // after the last change of a choice
 
 /// Selects what carries a value; the first where none does.
@@ -95,7 +97,9 @@ QComboBox* ClipForm::AddChoice(QFormLayout& rows, const QString& name, const QSt
   box->setObjectName(name);
   box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   box->setMinimumContentsLength(18);
-  rows.addRow(MakeLabel(name + "Title", caption, "caption"), box);
+  auto* title = MakeLabel(name + "Title", caption, "caption");
+  FixHeight(title, kLineHeight);
+  rows.addRow(title, box);
   connect(box, &QComboBox::currentIndexChanged, this, [this] { Changed(); });
   return box;
 }
@@ -258,7 +262,9 @@ void ClipForm::Changed() {
   card_->setEnabled(!row && !desk_.Card().Empty());
   speed_->setEnabled(!row);
   pause_->setEnabled(!row);
-  place_->setText(tr("in %1").arg(QDir::toNativeSeparators(Q(folder_))));
+  QString folder = Q(folder_);
+  if (folder.startsWith(QDir::homePath() + '/')) folder.replace(0, QDir::homePath().size(), "~");
+  place_->setText(tr("in %1").arg(place_->fontMetrics().elidedText(folder, Qt::ElideMiddle, Px(kPlaceWidth))));
   place_->setToolTip(Q(folder_));
   soon_ = HostTimer(host_, kSoonMs, false, [this] {
     Play(false);

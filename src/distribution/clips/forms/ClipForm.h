@@ -46,7 +46,7 @@ class ClipForm : public QDialog {
   ClipDesk& desk_;
   std::vector<ClipMoment> moments_;
   std::string folder_;
-  bool filling_ = false;
+  bool filling_ = true;  ///< the controls are being set; what they say is no choice
 
   ClipPicture* picture_ = nullptr;
   QSlider* seek_ = nullptr;
