@@ -115,7 +115,9 @@ TEST(CommandsTest, ARightClickOffersWhatCanBeDoneThere) {
   };
   stage.Click(1, 100, 100, 2);
   EXPECT_EQ(stage.window.windowMenus, 1);
-  EXPECT_EQ(items(), "vo OpenFromDisk MnuClose | FitPicture TMAX vFlip | TMark | vloop TSFrames TN PrintCall ");
+  EXPECT_EQ(items(),
+            "vo OpenFromDisk MnuClose | FitPicture TMAX vFlip | TMark | vloop TSFrames TN PrintCall | TSaveClip "
+            "TCopyPicture TSavePicture ");
   stage.Stage().SelectWindow(2);
   EXPECT_EQ(items(), "vo OpenFromDisk ");
   stage.Stage().SelectWindow(1);
