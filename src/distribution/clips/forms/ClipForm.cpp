@@ -124,8 +124,11 @@ QWidget* ClipForm::MakeChoices() {
   windows_->addButton(all, 1);
   which->addWidget(one);
   which->addWidget(all);
-  all->setVisible(ClipDesk::SeveralShown(analysis_));
-  rows->addRow(MakeLabel("ClipShowTitle", tr("Show"), "caption"), which);
+  auto* showTitle = MakeLabel("ClipShowTitle", tr("Show"), "caption");
+  rows->addRow(showTitle, which);
+  const bool several = ClipDesk::SeveralShown(analysis_);
+  for (QWidget* shown : {static_cast<QWidget*>(one), static_cast<QWidget*>(all), static_cast<QWidget*>(showTitle)})
+    shown->setVisible(several);
   connect(windows_, &QButtonGroup::idToggled, this, [this] { Changed(); });
 
   from_ = AddChoice(*rows, "ClipFrom", tr("From"));
