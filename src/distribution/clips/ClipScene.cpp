@@ -60,13 +60,14 @@ ClipScene SceneOfOne(AnalysisWorkspace& analysis, int slot) {
 }
 
 /// The part of a cell that any of the pictures covers: what is black in all of them is left out.
-TwipRect Covered(const ClipScene& scene, int width, int height) {
+/// @param margin  to the left and the right of the cell, where they are seen as well
+TwipRect Covered(const ClipScene& scene, int width, int height, int margin = 0) {
   int left = width, top = height, right = 0, bottom = 0;
   for (const SceneVideo& video : scene.Videos) {
     const TwipRect place = PlaceVideo(video.Placement, width, height);
-    left = std::min(left, std::max(0, place.Left));
+    left = std::min(left, std::max(-margin, place.Left));
     top = std::min(top, std::max(0, place.Top));
-    right = std::max(right, std::min(width, place.Left + place.Width));
+    right = std::max(right, std::min(width + margin, place.Left + place.Width));
     bottom = std::max(bottom, std::min(height, place.Top + place.Height));
   }
   if (right <= left || bottom <= top) return {0, 0, width, height};
@@ -105,16 +106,18 @@ void PlaceWindows(ClipScene& scene, const ScreenMode& mode, int cellWidth, int c
   }
 }
 
-/// Both pictures about the middle of the scene; or half of each, side by side.
-void PlaceMix(ClipScene& scene, const Slot& first, bool split, int stageWidth, int stageHeight) {
+/// Both pictures about the middle of the scene, which is a stage of two cells side by side; or half of each.
+void PlaceMix(ClipScene& scene, const Slot& first, bool split) {
   const int width = first.panel.Width;
   const int height = first.panel.Height;
-  scene.Height = stageHeight;
+  const int margin = split ? 0 : width / 2;  // to either side of the cell
+  const TwipRect covered = Covered(scene, width, height, margin);
+  scene.Height = covered.Height;
   if (!split) {
-    scene.Width = stageWidth;
+    scene.Width = covered.Width;
     for (SceneVideo& video : scene.Videos) {
-      video.Cell = {(stageWidth - width) / 2, (stageHeight - height) / 2, width, height};
-      video.Seen = {0, 0, stageWidth, stageHeight};
+      video.Cell = {-covered.Left, -covered.Top, width, height};
+      video.Seen = {0, 0, covered.Width, covered.Height};
     }
     return;
   }
@@ -122,8 +125,8 @@ void PlaceMix(ClipScene& scene, const Slot& first, bool split, int stageWidth, i
   scene.Width = 2 * half;
   for (std::size_t i = 0; i < scene.Videos.size(); ++i) {
     const int left = i == 0 ? 0 : half;
-    scene.Videos[i].Cell = {left - width / 4, (stageHeight - height) / 2, width, height};
-    scene.Videos[i].Seen = {left, 0, half, stageHeight};
+    scene.Videos[i].Cell = {left - width / 4, -covered.Top, width, height};
+    scene.Videos[i].Seen = {left, 0, half, covered.Height};
   }
 }
 
@@ -183,8 +186,7 @@ ClipScene TakeScene(AnalysisWorkspace& analysis, bool allWindows) {
         scene.Shows = ClipScene::Look::Mix;
         scene.Mix = mix.TransScroll();
       }
-      const Slot& first = stage.At(scene.Videos.front().Slot);
-      PlaceMix(scene, first, split, 2 * first.cell.Width, first.cell.Height);
+      PlaceMix(scene, stage.At(scene.Videos.front().Slot), split);
     } else if (scene.Videos.size() == 1 || !mode) {
       scene = SceneOfOne(analysis, current);
     } else {

@@ -15,6 +15,7 @@ constexpr Colour kGround = Rgb(12, 14, 18);
 constexpr int kLinesOfScene = 30;  // of letters between top and foot
 constexpr int kSmallestLetters = 12;
 constexpr int kMostNoteLines = 5;
+constexpr int kMostRun = 8;  // positions from one picture of a clip to the next
 
 }  // namespace
 
@@ -105,7 +106,8 @@ bool ScenePainter::Paint(const std::vector<int>& positions, Surface& target) {
   return whole;
 }
 
-/// The strip begins with the pictures before the first one of the clip, and then runs with it.
+/// The strip begins with the pictures up to the first one of the clip, or, at the beginning of the video, with the
+/// first ones that it can hold; from its last one on it runs with the clip.
 void ScenePainter::PaintStrip(int position, Surface& target) {
   const ClipScene::Strip& film = scene_.Film;
   if (film.Pictures < 1 || film.Width <= 0 || film.Height <= 0) return;
@@ -123,15 +125,20 @@ void ScenePainter::PaintStrip(int position, Surface& target) {
     source.Paint(at, place, stripPart_);
     CopyPart(stripPart_, 0, 0, stripPicture_, band.Height, strip_, index * stripPicture_, 0);
   };
-  if (strip_.Empty()) {
+  const bool runs = position > stripLast_ && position <= stripLast_ + std::max(film.Skip, kMostRun);
+  const bool stands = position >= stripFirst_ && position <= stripLast_;
+  if (strip_.Empty() || (!runs && !stands)) {
     strip_ = Surface(stripPicture_ * film.Pictures, band.Height);
+    const int reach = (film.Pictures - 1) * film.Skip;
+    stripFirst_ = std::max(0, position - reach);
     for (int i = 0; i < film.Pictures; ++i)
-      if (const int at = position - (film.Pictures - 1 - i) * film.Skip; at >= 0) put(at, i);
-  } else if (position != stripLast_) {
+      if (const int at = stripFirst_ + i * film.Skip; at < source.Count()) put(at, i);
+    stripLast_ = stripFirst_ + reach;
+  } else if (runs) {
     ShiftLeft(strip_, stripPicture_);
     put(position, film.Pictures - 1);
+    stripFirst_ = stripLast_ = position;
   }
-  stripLast_ = position;
   CopyPart(strip_, 0, 0, strip_.Width(), strip_.Height(), target, band.Left, band.Top);
 }
 

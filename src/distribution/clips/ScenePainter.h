@@ -70,7 +70,8 @@ class ScenePainter {
   int top_ = 0;
   Surface strip_;
   int stripPicture_ = 0;  ///< pixels of the width of one
-  int stripLast_ = -1;    ///< position of its last picture
+  int stripFirst_ = 0;    ///< positions of its first and its last picture, while it has not begun to run
+  int stripLast_ = -1;
   Surface stripPart_;
 };
 
