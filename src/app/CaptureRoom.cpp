@@ -4,6 +4,7 @@
 #include "library/TodayText.h"
 #include "platform/graph/DeviceList.h"
 #include "platform/graph/LiveGraph.h"
+#include "platform/graph/VoiceRecorder.h"
 #include "platform/host/Post.h"
 
 namespace kinalyx {
@@ -32,6 +33,10 @@ CapturePage* CaptureRoom::MakePage() {
 
 CaptureSection* CaptureRoom::MakeSection() {
   return new CaptureSection(parts_.services.host, parts_.settings, setup_, naming_);
+}
+
+std::unique_ptr<IVoiceRecorder> CaptureRoom::MakeVoiceRecorder() {
+  return kinalyx::MakeVoiceRecorder(devices_->Sources());
 }
 
 }  // namespace kinalyx

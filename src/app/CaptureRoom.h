@@ -11,6 +11,7 @@ namespace kinalyx {
 class CaptureSection;
 class DeviceList;
 class IPost;
+class IVoiceRecorder;
 
 /// The capture side of the program: the devices of the machine, the choices, the names, and the page and the section
 /// of Program Setup that show them. The devices are looked for from now on, in a thread of their own.
@@ -29,6 +30,9 @@ class CaptureRoom {
 
   CapturePage* MakePage();
   CaptureSection* MakeSection();
+  std::unique_ptr<IVoiceRecorder> MakeVoiceRecorder();
+  /// The microphone that is heard; empty without one.
+  std::string Microphone() const { return setup_.Microphone(); }
 
  private:
   Parts parts_;

@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QImage>
 
+#include "app/CaptureRoom.h"
 #include "distribution/clips/forms/ClipCard.h"
 #include "distribution/clips/forms/ClipForm.h"
 #include "platform/files/Folders.h"
@@ -13,8 +14,13 @@
 
 namespace kinalyx {
 
-ClipRoom::ClipRoom(IHost& host, const Settings& settings, IHandoutWays& ways, QWidget& over)
-    : host_(host), ways_(ways), card_(new ClipCard(&over)), desk_(host, settings, *this) {
+ClipRoom::ClipRoom(IHost& host, const Settings& settings, IHandoutWays& ways, CaptureRoom& capture, QWidget& over)
+    : host_(host),
+      ways_(ways),
+      capture_(capture),
+      voice_(capture.MakeVoiceRecorder()),
+      card_(new ClipCard(&over)),
+      desk_(host, settings, *this) {
   QObject::connect(card_, &ClipCard::CancelWanted, [this] { desk_.Cancel(); });
   QObject::connect(card_, &ClipCard::FolderWanted, [this](const QString& path) {
     if (!host_.ShowFolder(FolderOf(Std(path))))
@@ -30,7 +36,12 @@ ClipRoom::~ClipRoom() = default;
 void ClipRoom::ShowForm(AnalysisForm& analysis) {
   analysis.Section().Stage().MP(analysis.Section().Stage().CurrentWindow).StopPlay();
   analysis.Section().PutToolDown();
-  ClipForm form(host_, analysis.Section(), desk_, &analysis);
+  ClipForm form({.host = host_,
+                 .analysis = analysis.Section(),
+                 .desk = desk_,
+                 .voice = *voice_,
+                 .microphone = capture_.Microphone()},
+                &analysis);
   form.exec();
 }
 

@@ -7,7 +7,9 @@ class QWidget;
 namespace kinalyx {
 
 class AnalysisForm;
+class CaptureRoom;
 class ClipCard;
+class IVoiceRecorder;
 
 /// What the rooms of handouts may ask of the program.
 class IHandoutWays {
@@ -21,7 +23,7 @@ class IHandoutWays {
 class ClipRoom final : private IClipEvents {
  public:
   /// @param over  the main window, which owns the card; all outlives the room but that, which goes first
-  ClipRoom(IHost& host, const Settings& settings, IHandoutWays& ways, QWidget& over);
+  ClipRoom(IHost& host, const Settings& settings, IHandoutWays& ways, CaptureRoom& capture, QWidget& over);
   ~ClipRoom() override;
 
   void ShowForm(AnalysisForm& analysis);
@@ -41,6 +43,8 @@ class ClipRoom final : private IClipEvents {
 
   IHost& host_;
   IHandoutWays& ways_;
+  CaptureRoom& capture_;
+  std::unique_ptr<IVoiceRecorder> voice_;
   ClipCard* card_;
   ClipDesk desk_;
 };

@@ -5,7 +5,7 @@
 namespace kinalyx {
 
 HandoutRoom::HandoutRoom(Parts parts)
-    : parts_(parts), clips_(parts.services.host, parts.settings, parts.ways, parts.over) {}
+    : parts_(parts), clips_(parts.services.host, parts.settings, parts.ways, parts.capture, parts.over) {}
 
 HandoutRoom::~HandoutRoom() = default;
 

@@ -13,6 +13,7 @@
 namespace kinalyx {
 
 class AnalysisForm;
+class CaptureRoom;
 
 /// The side of the program that makes something to take home: for each kind a desk, made when it is first wanted.
 class HandoutRoom final : public IHandouts {
@@ -23,6 +24,7 @@ class HandoutRoom final : public IHandouts {
     Settings& settings;
     ProfileFields& fields;
     LastStudentInfo& remembered;
+    CaptureRoom& capture;
     IHandoutWays& ways;
     QWidget& over;  ///< the main window, which goes first
   };

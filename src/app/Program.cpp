@@ -130,6 +130,7 @@ void Program::LoadMain() {
                                                                .settings = settings_,
                                                                .fields = fields_,
                                                                .remembered = lastStudent_,
+                                                               .capture = *capture_,
                                                                .ways = *this,
                                                                .over = *main_});
 

@@ -22,6 +22,20 @@ struct Quiet final : IClipEvents {
   std::string saved, failed;
 };
 
+/// A microphone into which nobody has spoken yet.
+struct Spoken final : IVoiceRecorder {
+  void Start(const std::string& microphone) override {
+    heard = microphone;
+    fault.clear();
+  }
+  void Stop() override {}
+  double Level() const override { return 0.5; }
+  std::string Why() const override { return fault; }
+  std::vector<std::int16_t> Take() override { return std::vector<std::int16_t>(2 * kRate * 2, 7); }
+
+  std::string heard, fault;
+};
+
 /// The form over a page with a video.
 struct ClipFormTest : AnalysisFormFixture {
   ClipFormTest() {
@@ -29,7 +43,7 @@ struct ClipFormTest : AnalysisFormFixture {
     std::filesystem::copy_file(MakeTestVideo(MjpegVideo(30)), path);
     EXPECT_TRUE(form->Section().Videos().OpenVideo(1, path));
     form->Section().Stage().News().Tell();
-    clip = std::make_unique<ClipForm>(host, form->Section(), desk, form.get());
+    clip = std::make_unique<ClipForm>(ClipForm::Parts{host, form->Section(), desk, voice, "Desk"}, form.get());
     host.Advance(100);
   }
   template <typename Widget>
@@ -46,6 +60,7 @@ struct ClipFormTest : AnalysisFormFixture {
   std::string path;
   Quiet told;
   ClipDesk desk{host, settings, told, JobRunner::On::HostTimer};
+  Spoken voice;
   std::unique_ptr<ClipForm> clip;
 };
 
@@ -67,6 +82,29 @@ TEST_F(ClipFormTest, ShowsWhatItWillMake) {
   EXPECT_NEAR(In<QSlider>("ClipSeek")->value(), 15, 1);
   host.Advance(1000);
   EXPECT_FALSE(In<QAbstractButton>("ClipPlay")->isChecked()) << "it has come to its end";
+}
+
+TEST_F(ClipFormTest, TakesAVoiceWhileItPlays) {
+  const auto record = [&](int ms) {
+    In<QAbstractButton>("ClipVoice")->click();
+    host.Advance(ms);
+  };
+  record(500);
+  EXPECT_EQ(voice.heard, "Desk");
+  EXPECT_TRUE(In<QAbstractButton>("ClipPlay")->isChecked());
+  host.Advance(1000);
+  EXPECT_FALSE(In<QAbstractButton>("ClipVoice")->isChecked()) << "the clip is over";
+  EXPECT_EQ(In<QLabel>("ClipVoiceWords")->text(), "Your voice, 1.0 s") << "no longer than the clip";
+  EXPECT_FALSE(In<QAbstractButton>("ClipSound")->isEnabled());
+  Pick("ClipSpeed", 1);
+  EXPECT_EQ(In<QLabel>("ClipVoiceWords")->text(), "The clip is another one now: record your voice again.");
+  EXPECT_TRUE(In<QWidget>("ClipVoiceDrop")->isHidden());
+
+  record(100);
+  voice.fault = "The microphone gives no sound any more.";
+  host.Advance(100);
+  EXPECT_FALSE(In<QAbstractButton>("ClipVoice")->isChecked());
+  EXPECT_EQ(In<QLabel>("ClipVoiceWords")->text().toStdString(), voice.fault);
 }
 
 TEST_F(ClipFormTest, ToldWhatIsWrongAndSavedThen) {

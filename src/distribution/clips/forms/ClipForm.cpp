@@ -8,6 +8,7 @@
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QProgressBar>
 #include <QRadioButton>
 #include <QSlider>
 #include <algorithm>
@@ -25,9 +26,11 @@ namespace {
 
 constexpr QSize kPreview{560, 400};
 constexpr int kChoicesWidth = 330;
+constexpr int kFullLevel = 100;
+constexpr int kLevelWidth = 90;
 constexpr int kLineHeight = 34;
 constexpr int kPlaceWidth = 440;  // of the name of a folder
-constexpr int kSoonMs = 60;  // after the last change of a choice
+constexpr int kSoonMs = 60;       // after the last change of a choice
 
 /// Selects what carries a value; the first where none does.
 void Choose(QComboBox* box, const QVariant& value) { box->setCurrentIndex(std::max(0, box->findData(value))); }
@@ -39,8 +42,14 @@ T Chosen(const QComboBox* box) {
 
 }  // namespace
 
-ClipForm::ClipForm(IHost& host, AnalysisWorkspace& analysis, ClipDesk& desk, QWidget* over)
-    : QDialog(over), host_(host), analysis_(analysis), desk_(desk), moments_(ClipDesk::Moments(analysis)) {
+ClipForm::ClipForm(Parts parts, QWidget* over)
+    : QDialog(over),
+      host_(parts.host),
+      analysis_(parts.analysis),
+      desk_(parts.desk),
+      recorder_(parts.voice),
+      microphone_(std::move(parts.microphone)),
+      moments_(ClipDesk::Moments(parts.analysis)) {
   setObjectName("ClipForm");
   setWindowTitle(tr("Save Video with Drawings"));
   setWindowModality(Qt::WindowModal);
@@ -54,6 +63,8 @@ ClipForm::ClipForm(IHost& host, AnalysisWorkspace& analysis, ClipDesk& desk, QWi
   columns->addWidget(MakeChoices());
   rows->addLayout(columns, 1);
   rows->addWidget(MakeTarget());
+  level_->hide();
+  noVoice_->hide();
   Show(desk_.Proposal(analysis_));
   ScaleForm(*this, *over->window());
   Changed();
@@ -61,7 +72,7 @@ ClipForm::ClipForm(IHost& host, AnalysisWorkspace& analysis, ClipDesk& desk, QWi
   name_->selectAll();
 }
 
-ClipForm::~ClipForm() = default;
+ClipForm::~ClipForm() { recorder_.Stop(); }
 
 QWidget* ClipForm::MakePreview() {
   auto* part = new QWidget;
@@ -83,11 +94,33 @@ QWidget* ClipForm::MakePreview() {
   bar->addWidget(seek_, 1);
   bar->addWidget(length_);
   rows->addLayout(bar);
+  auto* voice = new QHBoxLayout;
+  voice->setSpacing(8);
+  voice_ = new Button("ClipVoice", tr("Record Voice"), "microphone", Look::Quiet);
+  voice_->setCheckable(true);
+  voice_->setToolTip(tr("Speak while the clip plays: your voice goes into it in place of its sound"));
+  level_ = new QProgressBar;
+  level_->setObjectName("ClipLevel");
+  level_->setRange(0, kFullLevel);
+  level_->setTextVisible(false);
+  FixWidth(level_, kLevelWidth);
+  voiceWords_ = MakeLabel("ClipVoiceWords", {}, "muted");
+  noVoice_ = new Button("ClipVoiceDrop", tr("Without Voice"), {}, Look::Quiet);
+  voice->addWidget(voice_);
+  voice->addWidget(level_);
+  voice->addWidget(voiceWords_, 1);
+  voice->addWidget(noVoice_);
+  rows->addLayout(voice);
+  connect(voice_, &QPushButton::toggled, this, &ClipForm::RecordVoice);
+  connect(noVoice_, &QPushButton::clicked, this, [this] { DropVoice({}); });
   connect(picture_, &ClipPicture::Resized, this, [this] {
     if (painter_) Preview();
   });
   connect(seek_, &QSlider::valueChanged, this, [this] { Preview(); });
-  connect(seek_, &QSlider::sliderPressed, this, [this] { Play(false); });
+  connect(seek_, &QSlider::sliderPressed, this, [this] {
+    voice_->setChecked(false);
+    Play(false);
+  });
   connect(play_, &QPushButton::toggled, this, &ClipForm::Play);
   return part;
 }
@@ -249,27 +282,35 @@ ClipWish ClipForm::Wish() const {
   wish.RowPictures = Chosen<int>(count_);
   wish.Name = Std(name_->text());
   wish.Folder = folder_;
+  wish.Voice = spoken_;
   return wish;
 }
 
-/// Shows what the choices mean; the pictures follow when the hand rests.
-void ClipForm::Changed() {
-  if (filling_) return;
+/// Which choices go with the others.
+void ClipForm::Enable() {
   const ClipWish wish = Wish();
   const bool row = wish.Makes == ClipWish::File::Row;
   const bool mp4 = wish.Makes == ClipWish::File::Mp4 || wish.Makes == ClipWish::File::Mp4Old;
   count_->setVisible(row);
   countTitle_->setVisible(row);
   size_->setEnabled(mp4);
-  sound_->setEnabled(mp4 && wish.Slower == 1);
+  sound_->setEnabled(mp4 && wish.Slower == 1 && spoken_.empty());
+  voice_->setEnabled(mp4);
   card_->setEnabled(!row && !desk_.Card().Empty());
   speed_->setEnabled(!row);
   pause_->setEnabled(!row);
+}
+
+/// Shows what the choices mean; the pictures follow when the hand rests.
+void ClipForm::Changed() {
+  if (filling_) return;
+  Enable();
   QString folder = Q(folder_);
   if (folder.startsWith(QDir::homePath() + '/')) folder.replace(0, QDir::homePath().size(), "~");
   place_->setText(tr("in %1").arg(place_->fontMetrics().elidedText(folder, Qt::ElideMiddle, Px(kPlaceWidth))));
   place_->setToolTip(Q(folder_));
   soon_ = HostTimer(host_, kSoonMs, false, [this] {
+    voice_->setChecked(false);
     Play(false);
     order_ = desk_.OrderOf(analysis_, Wish());
     auto painter = ScenePainter::Open(order_.Scene, order_.Words);
@@ -280,7 +321,9 @@ void ClipForm::Changed() {
     }
     fault_->clear();
     painter_ = std::move(*painter);
-    plan_ = PlanClip(order_.Scene, painter_->Times(), order_.Stretch);
+    const double before = std::exchange(plan_, PlanClip(order_.Scene, painter_->Times(), order_.Stretch)).EndMs;
+    if (!spoken_.empty() && plan_.EndMs != before)
+      DropVoice(tr("The clip is another one now: record your voice again."));
     seek_->setRange(0, std::max(0, static_cast<int>(plan_.Frames.size()) - 1));
     const double seconds = plan_.EndMs / 1000;
     length_->setText(order_.Makes == ClipOrder::Kind::Row
@@ -314,12 +357,53 @@ void ClipForm::Play(bool on) {
   playing_ = HostTimer(host_, kTickMs, true, [this] { NextPicture(); });
 }
 
+void ClipForm::RecordVoice(bool on) {
+  level_->setVisible(on);
+  if (on) {
+    if (microphone_.empty()) {
+      voice_->setChecked(false);
+      voiceWords_->setText(tr("No microphone is chosen: see Program Setup, Capture."));
+      return;
+    }
+    Play(false);
+    DropVoice(tr("Speak while it plays."));
+    seek_->setValue(0);
+    recorder_.Start(microphone_);
+    Play(true);
+    return;
+  }
+  recorder_.Stop();
+  if (play_->isChecked()) Play(false);
+  if (const std::string why = recorder_.Why(); !why.empty()) return DropVoice(Q(why));
+  spoken_ = recorder_.Take();
+  const auto most = static_cast<std::size_t>(plan_.EndMs * IVoiceRecorder::kRate / 1000) * 2;
+  if (spoken_.size() > most) spoken_.resize(most);
+  if (spoken_.empty()) return DropVoice(tr("Nothing was heard."));
+  voiceWords_->setText(
+      tr("Your voice, %1 s").arg(static_cast<double>(spoken_.size()) / 2 / IVoiceRecorder::kRate, 0, 'f', 1));
+  noVoice_->show();
+  Enable();
+}
+
+void ClipForm::DropVoice(const QString& words) {
+  spoken_.clear();
+  voiceWords_->setText(words);
+  noVoice_->hide();
+  Enable();
+}
+
 void ClipForm::NextPicture() {
+  if (voice_->isChecked()) {
+    level_->setValue(static_cast<int>(recorder_.Level() * kFullLevel));
+    if (!recorder_.Why().empty()) return voice_->setChecked(false);
+  }
   const auto ms = static_cast<double>(host_.timeGetTime() - playedFrom_);
   const auto next = std::ranges::upper_bound(plan_.Frames, ms, {}, &ClipFrame::Ms);
   const auto at = static_cast<int>(next - plan_.Frames.begin()) - 1;
   if (at >= 0 && at != seek_->value()) seek_->setValue(at);
-  if (ms >= plan_.EndMs) Play(false);
+  if (ms < plan_.EndMs) return;
+  Play(false);
+  voice_->setChecked(false);
 }
 
 void ClipForm::ChooseFolder() {
@@ -330,6 +414,7 @@ void ClipForm::ChooseFolder() {
 }
 
 void ClipForm::Save() {
+  voice_->setChecked(false);
   Play(false);
   const Outcome saved = desk_.Save(analysis_, Wish());
   if (saved) return accept();

@@ -5,12 +5,14 @@
 #include <vector>
 
 #include "distribution/clips/ClipDesk.h"
+#include "platform/graph/VoiceRecorder.h"
 
 class QButtonGroup;
 class QCheckBox;
 class QComboBox;
 class QLabel;
 class QLineEdit;
+class QProgressBar;
 class QSlider;
 
 namespace kinalyx {
@@ -23,8 +25,15 @@ class ClipForm : public QDialog {
   Q_OBJECT
 
  public:
+  struct Parts {
+    IHost& host;
+    AnalysisWorkspace& analysis;
+    ClipDesk& desk;
+    IVoiceRecorder& voice;
+    std::string microphone;  ///< that is heard; empty without one
+  };
   /// All outlives the form.
-  ClipForm(IHost& host, AnalysisWorkspace& analysis, ClipDesk& desk, QWidget* over);
+  ClipForm(Parts parts, QWidget* over);
   ~ClipForm() override;
 
  private:
@@ -34,16 +43,21 @@ class ClipForm : public QDialog {
   QComboBox* AddChoice(class QFormLayout& rows, const QString& name, const QString& caption);
   ClipWish Wish() const;
   void Show(const ClipWish& wish);
+  void Enable();
   void Changed();
   void Preview();
   void Play(bool on);
   void NextPicture();
+  void RecordVoice(bool on);
+  void DropVoice(const QString& words);
   void ChooseFolder();
   void Save();
 
   IHost& host_;
   AnalysisWorkspace& analysis_;
   ClipDesk& desk_;
+  IVoiceRecorder& recorder_;
+  std::string microphone_;
   std::vector<ClipMoment> moments_;
   std::string folder_;
   bool filling_ = true;  ///< the controls are being set; what they say is no choice
@@ -52,6 +66,10 @@ class ClipForm : public QDialog {
   QSlider* seek_ = nullptr;
   Button* play_ = nullptr;
   QLabel* length_ = nullptr;
+  Button* voice_ = nullptr;
+  Button* noVoice_ = nullptr;
+  QProgressBar* level_ = nullptr;
+  QLabel* voiceWords_ = nullptr;
   QButtonGroup* windows_ = nullptr;
   QComboBox* from_ = nullptr;
   QComboBox* to_ = nullptr;
@@ -74,6 +92,7 @@ class ClipForm : public QDialog {
   std::unique_ptr<ScenePainter> painter_;
   ClipOrder order_;
   ClipPlan plan_;
+  std::vector<std::int16_t> spoken_;
   HostTimer soon_;
   HostTimer playing_;
   std::int64_t playedFrom_ = 0;  ///< of the host's clock, when the clip began
