@@ -1,18 +1,18 @@
 #include "platform/media/StandInCoder.h"
 
 #include <libyuv.h>
+#include <turbojpeg.h>
 
 #include <algorithm>
 #include <array>
 #include <cstddef>
-#include <cstring>
 
 namespace kinalyx {
 namespace {
 
 constexpr std::array kLongSides = {480, 640, 960, 1280};
-/// Of the scale of the encoder, where 2 is best: some 44 dB, and a tenth of a byte per pixel.
-constexpr int kQuality = 3;
+/// Of 100: some 40 dB, and a tenth of a byte per pixel.
+constexpr int kQuality = 88;
 
 bool IsPlain420(const AVFrame& frame) {
   return frame.format == AV_PIX_FMT_YUV420P || frame.format == AV_PIX_FMT_YUVJ420P;
@@ -36,6 +36,8 @@ FrameHandle FrameLike(const AVFrame& frame, int width, int height) {
 }
 
 }  // namespace
+
+void StandInCoder::TurboDeleter::operator()(void* handle) const { tjDestroy(handle); }
 
 int StandInCoder::LongSideFor(int shownWidth, int shownHeight) {
   const auto enough = std::ranges::lower_bound(kLongSides, std::max(shownWidth, shownHeight));
@@ -62,30 +64,6 @@ FrameHandle StandInCoder::Scale(const AVFrame& frame, int width, int height) {
   return rows == height ? std::move(scaled) : nullptr;
 }
 
-bool StandInCoder::OpenEncoder(int width, int height) {
-  if (encoder_ && encoder_->width == width && encoder_->height == height) return true;
-  const AVCodec* codec = avcodec_find_encoder(AV_CODEC_ID_MJPEG);
-  encoder_.reset(codec ? avcodec_alloc_context3(codec) : nullptr);
-  if (!encoder_) return false;
-  encoder_->width = width;
-  encoder_->height = height;
-  encoder_->pix_fmt = AV_PIX_FMT_YUVJ420P;
-  encoder_->time_base = {1, 25};
-  encoder_->flags |= AV_CODEC_FLAG_QSCALE;
-  encoder_->global_quality = kQuality * FF_QP2LAMBDA;
-  encoder_->thread_count = 1;
-  AVDictionary* options = nullptr;
-  av_dict_set(&options, "huffman", "default", 0);  // one pass over the picture instead of two
-  const int opened = avcodec_open2(encoder_.get(), codec, &options);
-  av_dict_free(&options);
-  small_ = NewFrame();
-  small_->width = width;
-  small_->height = height;
-  small_->format = AV_PIX_FMT_YUVJ420P;
-  if (opened < 0 || av_frame_get_buffer(small_.get(), 0) < 0) encoder_.reset();
-  return encoder_ != nullptr;
-}
-
 FrameHandle StandInCoder::Smaller(const AVFrame& frame, int longSide) {
   const int longer = std::max(frame.width, frame.height);
   if (longer <= longSide) return nullptr;
@@ -97,32 +75,40 @@ std::vector<std::uint8_t> StandInCoder::Pack(const AVFrame& frame, int longSide)
   const FrameHandle scaled = Smaller(frame, longSide);
   if (!scaled && std::max(frame.width, frame.height) > longSide) return {};
   const AVFrame& source = scaled ? *scaled : frame;
-  if (!converter_.Convert(source, 32, rows_) || !OpenEncoder(source.width, source.height)) return {};
-  if (av_frame_make_writable(small_.get()) < 0) return {};
-  libyuv::ARGBToJ420(rows_.data(), RowConverter::RowBytes(source.width, 32), small_->data[0], small_->linesize[0],
-                     small_->data[1], small_->linesize[1], small_->data[2], small_->linesize[2], source.width,
-                     -source.height);
-  small_->quality = encoder_->global_quality;
-  const PacketHandle packet = NewPacket();
-  if (avcodec_send_frame(encoder_.get(), small_.get()) < 0) return {};
-  if (avcodec_receive_packet(encoder_.get(), packet.get()) < 0) return {};
-  return {packet->data, packet->data + packet->size};
+  if (!converter_.Convert(source, 32, rows_)) return {};
+  if (!packer_) packer_.reset(tjInitCompress());
+  const unsigned long most = tjBufSize(source.width, source.height, TJSAMP_420);
+  if (!packer_ || most == static_cast<unsigned long>(-1)) return {};
+  packed_.resize(most);
+  unsigned char* to = packed_.data();
+  unsigned long bytes = most;
+  if (tjCompress2(packer_.get(), rows_.data(), source.width, RowConverter::RowBytes(source.width, 32), source.height,
+                  TJPF_BGRX, &to, &bytes, TJSAMP_420, kQuality,
+                  TJFLAG_BOTTOMUP | TJFLAG_FASTDCT | TJFLAG_NOREALLOC) != 0)
+    return {};
+  return {packed_.begin(), packed_.begin() + static_cast<std::ptrdiff_t>(bytes)};
 }
 
 FrameHandle StandInCoder::Unpack(std::span<const std::uint8_t> packed) {
-  if (!decoder_) {
-    const AVCodec* codec = avcodec_find_decoder(AV_CODEC_ID_MJPEG);
-    decoder_.reset(codec ? avcodec_alloc_context3(codec) : nullptr);
-    if (!decoder_) return nullptr;
-    decoder_->thread_count = 1;
-    if (avcodec_open2(decoder_.get(), codec, nullptr) < 0) decoder_.reset();
-  }
-  const PacketHandle packet = NewPacket();
-  if (!decoder_ || av_new_packet(packet.get(), static_cast<int>(packed.size())) < 0) return nullptr;
-  std::memcpy(packet->data, packed.data(), packed.size());
+  if (!unpacker_) unpacker_.reset(tjInitDecompress());
+  int width = 0, height = 0, sampling = 0, colours = 0;
+  if (!unpacker_ || tjDecompressHeader3(unpacker_.get(), packed.data(), static_cast<unsigned long>(packed.size()),
+                                        &width, &height, &sampling, &colours) != 0)
+    return nullptr;
+  // Nothing else was ever packed.
+  if (sampling != TJSAMP_420 || colours != TJCS_YCbCr || std::max(width, height) > kLongSides.back()) return nullptr;
   FrameHandle frame = NewFrame();
-  if (avcodec_send_packet(decoder_.get(), packet.get()) < 0) return nullptr;
-  return avcodec_receive_frame(decoder_.get(), frame.get()) < 0 ? nullptr : std::move(frame);
+  frame->width = width;
+  frame->height = height;
+  frame->format = AV_PIX_FMT_YUVJ420P;
+  frame->color_range = AVCOL_RANGE_JPEG;
+  frame->colorspace = AVCOL_SPC_BT470BG;
+  if (av_frame_get_buffer(frame.get(), 0) < 0) return nullptr;
+  int strides[] = {frame->linesize[0], frame->linesize[1], frame->linesize[2]};
+  const int result = tjDecompressToYUVPlanes(unpacker_.get(), packed.data(), static_cast<unsigned long>(packed.size()),
+                                             frame->data, width, strides, height, TJFLAG_FASTDCT);
+  // A damaged end is shown as far as it goes.
+  return result == 0 || tjGetErrorCode(unpacker_.get()) == TJERR_WARNING ? std::move(frame) : nullptr;
 }
 
 }  // namespace kinalyx

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <span>
 #include <vector>
 
@@ -25,15 +26,19 @@ class StandInCoder {
   FrameHandle Unpack(std::span<const std::uint8_t> packed);
 
  private:
+  struct TurboDeleter {
+    void operator()(void* handle) const;
+  };
+  using TurboHandle = std::unique_ptr<void, TurboDeleter>;
+
   FrameHandle Scale(const AVFrame& frame, int width, int height);
-  bool OpenEncoder(int width, int height);
 
   RowConverter converter_;
   ScalerHandle scaler_;
   std::vector<std::uint8_t> rows_;
-  FrameHandle small_;
-  CodecHandle encoder_;
-  CodecHandle decoder_;
+  std::vector<std::uint8_t> packed_;
+  TurboHandle packer_;
+  TurboHandle unpacker_;
 };
 
 }  // namespace kinalyx
