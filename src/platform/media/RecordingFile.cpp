@@ -41,6 +41,8 @@ struct RecordingFile::Engine {
 
   Outcome Keep(Outcome outcome);
   Outcome Take(std::span<const std::byte> picture, std::int64_t ns);
+  Outcome Settle(std::int64_t empty);
+  Outcome SettleAll();
   void Count();
   bool RunsWild(std::int64_t ns) const;
   double RateOfFile() const;
@@ -48,7 +50,8 @@ struct RecordingFile::Engine {
   std::optional<RecordingParts> parts;  ///< until it is closed
   RecordingClock clock;
   RecordingTally tally;
-  bool promises;  ///< the camera tells its rate
+  std::int64_t lost = 0;  ///< pictures of which that is certain
+  bool promises;          ///< the camera tells its rate
   double promisedRate;
   std::size_t rowBytes;
   std::size_t pictureBytes;
@@ -81,15 +84,32 @@ double RecordingFile::Engine::RateOfFile() const {
 void RecordingFile::Engine::Count() {
   tally.rate = clock.Rate();
   tally.pictures = parts->Pictures();
-  tally.lost = parts->Places() - parts->Pictures();
+  tally.lost = tally.open ? lost : parts->Places() - parts->Pictures();
   tally.bytes = parts->Bytes();
 }
 
-Outcome RecordingFile::Engine::Take(std::span<const std::byte> picture, std::int64_t ns) {
-  for (std::int64_t missing = clock.Take(ns); missing > 0; --missing) {
-    if (const Outcome done = parts->Append({}, 0); !done) return done;
+Outcome RecordingFile::Engine::Settle(std::int64_t empty) {
+  lost += empty;
+  return parts->Settle(empty);
+}
+
+Outcome RecordingFile::Engine::SettleAll() {
+  Outcome done;
+  while (const auto empty = clock.Conclude()) {
+    if (const Outcome settled = Settle(*empty); done && !settled) done = settled;
   }
-  if (const Outcome done = parts->Append(picture, rowBytes); !done) return done;
+  return done;
+}
+
+Outcome RecordingFile::Engine::Take(std::span<const std::byte> picture, std::int64_t ns) {
+  if (!parts->Fits(picture.size())) {
+    if (const Outcome settled = SettleAll(); !settled) return settled;
+  }
+  const RecordingClock::Gap gap = clock.Take(ns);
+  if (const Outcome done = parts->Append(picture, rowBytes, gap.room, gap.guessed); !done) return done;
+  while (const auto empty = clock.Settle()) {
+    if (const Outcome done = Settle(*empty); !done) return done;
+  }
   if (tally.pictures == 0) tally.firstNs = notedNs = ns;
   tally.lastNs = ns;
   Count();
@@ -136,10 +156,11 @@ Outcome RecordingFile::Close() {
   RecordingTally& tally = engine_->tally;
   if (!tally.open) return Outcome();
   tally.open = false;
+  const Outcome settled = engine_->Keep(engine_->SettleAll());
   const Outcome finished = engine_->Keep(engine_->parts->Finish(engine_->RateOfFile()));
   engine_->Count();
   engine_->parts.reset();
-  return finished;
+  return finished ? settled : finished;
 }
 
 }  // namespace kinalyx

@@ -22,7 +22,8 @@ struct RecordingFormat {
 };
 
 /// An AVI file that grows while a camera runs. Its pictures are the camera's own bytes. Each stands in its place: where
-/// the time stamps leave a gap, the places of the missing pictures are kept, and the last one before stands there.
+/// the time stamps leave a gap, the places of the missing pictures are kept, and the last one before stands there. What
+/// only came late leaves none; that is certain within about a second, and until then a gap is taken for what it seems.
 /// The file's rate is the one that the time stamps measured; it stands in the header from the first second on and is
 /// brought up to date every second, so a recording that is broken off lacks its index alone, see MendRecording. Files
 /// grow past 4 GB. One thread uses it.

@@ -9,6 +9,7 @@ namespace {
 /// Programs that know only one part read at least this much; all others anything.
 constexpr std::int64_t kPartBytes = std::int64_t{1} << 30;
 constexpr std::size_t kLargestPicture = std::size_t{1} << 28;
+constexpr std::uint32_t kChunkHead = 8;
 constexpr std::size_t kIndexHead = 32;
 constexpr std::size_t kPartHead = 24;
 /// What a picture takes in both indexes.
@@ -52,6 +53,14 @@ void AppendOldIndex(Tail& tail, const RecordingPart& part) {
   }
 }
 
+/// Heads of chunks without content: empty places first, and behind them such as everybody passes over.
+void AppendEmptyChunks(Tail& tail, std::int64_t from, std::int64_t to, std::int64_t empty) {
+  for (std::int64_t i = from; i < to; ++i) {
+    AppendNumber(tail, i < empty ? kPictureChunk : kJunkChunk);
+    AppendNumber(tail, 0);
+  }
+}
+
 }  // namespace
 
 Outcome RecordingParts::Begin() {
@@ -73,22 +82,28 @@ void RecordingParts::Resume(std::vector<RecordingPart> parts, std::int64_t end) 
   }
 }
 
-Outcome RecordingParts::Append(std::span<const std::byte> picture, std::size_t rowBytes) {
-  if (picture.size() > kLargestPicture) return Outcome::Failed("the picture is too large");
+bool RecordingParts::Fits(std::size_t bytes) const {
   const auto indexed = static_cast<std::int64_t>(kIndexed * (parts_.back().chunks.size() + 4));
-  const auto wanted = static_cast<std::int64_t>(8 + picture.size() + picture.size() % 2);
-  if (end_ - parts_.back().base + wanted + indexed > kPartBytes) {
+  const auto wanted = static_cast<std::int64_t>(kChunkHead + bytes + bytes % 2);
+  return end_ - parts_.back().base + wanted + indexed <= kPartBytes;
+}
+
+Outcome RecordingParts::Append(std::span<const std::byte> picture, std::size_t rowBytes, std::int64_t room,
+                               std::int64_t guessed) {
+  if (picture.size() > kLargestPicture) return Outcome::Failed("the picture is too large");
+  if (!Fits(picture.size())) {
     if (const Outcome begun = BeginPart(); !begun) return begun;
   }
-  std::array<std::uint8_t, 8> head{};
-  PutNumber(head, 0, kPictureChunk);
-  PutNumber(head, 4, picture.size());
+  heads_.clear();
+  AppendEmptyChunks(heads_, 0, room, guessed);
+  AppendNumber(heads_, kPictureChunk);
+  AppendNumber(heads_, picture.size());
   std::uint8_t padding = 0;
-  pieces_.assign(1, {head.data(), head.size()});
+  pieces_.assign(1, {heads_.data(), heads_.size()});
   auto* bytes = const_cast<std::byte*>(picture.data());
   if (rowBytes > 0) {
     for (std::size_t row = picture.size() / rowBytes; row-- > 0;) pieces_.push_back({bytes + row * rowBytes, rowBytes});
-  } else if (!picture.empty()) {
+  } else {
     pieces_.push_back({bytes, picture.size()});
   }
   if (picture.size() % 2) pieces_.push_back({&padding, 1});
@@ -97,13 +112,44 @@ Outcome RecordingParts::Append(std::span<const std::byte> picture, std::size_t r
     return written;
   }
   RecordingPart& part = parts_.back();
-  part.chunks.push_back({static_cast<std::uint32_t>(end_ - part.base), static_cast<std::uint32_t>(picture.size())});
+  const auto at = static_cast<std::uint32_t>(end_ - part.base);
+  unsettled_.push_back({at, room, 0, part.chunks.size()});
+  const auto picturesHead = at + static_cast<std::uint32_t>(heads_.size() - kChunkHead);
+  part.chunks.push_back({picturesHead, static_cast<std::uint32_t>(picture.size())});
   ++part.places;
   ++places_;
-  if (!picture.empty()) ++pictures_;
-  largest_ = std::max(largest_, static_cast<std::uint32_t>(picture.size()));
-  end_ += wanted;
+  ++pictures_;
+  PlaceEmpty(unsettled_.back(), guessed);
+  largest_ = std::max(largest_, part.chunks.back().bytes);
+  end_ = part.EndOf(part.chunks.back());
   return Outcome();
+}
+
+void RecordingParts::PlaceEmpty(Unsettled& before, std::int64_t empty) {
+  std::vector<RecordingChunk>& chunks = parts_.back().chunks;
+  const auto first = chunks.begin() + static_cast<std::ptrdiff_t>(before.chunk);
+  const std::int64_t more = empty - before.empty;
+  if (more < 0) chunks.erase(first, first - more);
+  else chunks.insert(first, static_cast<std::size_t>(more), RecordingChunk{});
+  for (std::int64_t i = 0; i < empty; ++i)
+    chunks[before.chunk + static_cast<std::size_t>(i)].at = before.at + static_cast<std::uint32_t>(i) * kChunkHead;
+  for (Unsettled& other : unsettled_)
+    if (other.chunk > before.chunk) other.chunk += static_cast<std::size_t>(more);
+  parts_.back().places += static_cast<std::uint32_t>(more);
+  places_ += more;
+  before.empty = empty;
+}
+
+Outcome RecordingParts::Settle(std::int64_t empty) {
+  if (unsettled_.empty()) return Outcome();
+  Unsettled before = unsettled_.front();
+  unsettled_.pop_front();
+  if (empty == before.empty) return Outcome();
+  const std::int64_t from = std::min(empty, before.empty);
+  Tail heads;
+  AppendEmptyChunks(heads, from, std::max(empty, before.empty), empty);
+  PlaceEmpty(before, empty);
+  return file_.Write(parts_.back().base + before.at + from * kChunkHead, heads);
 }
 
 Outcome RecordingParts::BeginPart() {

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <deque>
 #include <span>
 #include <vector>
 
@@ -44,9 +45,16 @@ class RecordingParts {
   /// @param end  where its pictures end
   void Resume(std::vector<RecordingPart> parts, std::int64_t end);
 
-  /// Appends a picture, or an empty place. What fails leaves no trace.
+  /// Whether a picture of that size belongs to the part that is being written. Before one that does not, all that was
+  /// appended must be settled.
+  bool Fits(std::size_t bytes) const;
+  /// Appends a picture, which is never empty. What fails leaves no trace.
   /// @param rowBytes  rows in the opposite order; 0: the bytes as they are
-  Outcome Append(std::span<const std::byte> picture, std::size_t rowBytes);
+  /// @param room, guessed  places before it that may be empty, and how many of them are until it is settled
+  Outcome Append(std::span<const std::byte> picture, std::size_t rowBytes, std::int64_t room, std::int64_t guessed);
+  /// Says how many places are empty before the first picture of which that was not said yet; without one it does
+  /// nothing.
+  Outcome Settle(std::int64_t empty);
   /// Writes the head as things are now, and has what is there move on to the disk.
   Outcome Note(double rate);
   /// Writes what is missing of the indexes, and marks the file as whole. Where there is no room, the last pictures
@@ -61,6 +69,15 @@ class RecordingParts {
   const PlacedFile& File() const { return file_; }
 
  private:
+  /// What stands before a picture as long as it may turn out to be empty places: chunks without content.
+  struct Unsettled {
+    std::uint32_t at = 0;  ///< from the base of the part
+    std::int64_t room = 0;
+    std::int64_t empty = 0;
+    std::size_t chunk = 0;  ///< the first of them
+  };
+
+  void PlaceEmpty(Unsettled& before, std::int64_t empty);
   Outcome ClosePart();
   Outcome BeginPart();
   Outcome WriteHead(std::int64_t listEnd);
@@ -69,7 +86,9 @@ class RecordingParts {
   PlacedFile file_;
   RecordingHead head_;
   std::vector<RecordingPart> parts_;
-  std::vector<iovec> pieces_;  ///< of a picture; kept for the next one
+  std::deque<Unsettled> unsettled_;  ///< in the last part
+  std::vector<std::uint8_t> heads_;  ///< before a picture, and its own; kept for the next one
+  std::vector<iovec> pieces_;
   std::int64_t end_ = 0;
   std::int64_t places_ = 0;
   std::int64_t pictures_ = 0;
