@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <utility>
 
 #include "core/Settings.h"
 
@@ -228,12 +229,44 @@ std::optional<int> CaptureSetup::MissingCamera() const {
 void CaptureSetup::ChooseMicrophone(const std::string& name) {
   if (settings_.Loading) return;
   settings_.Set(settings_.SoundCardSource, name);
+  settings_.Set(settings_.SoundCardInput, std::string());  // it was a line of the other one
   Changed();
 }
 
 std::string CaptureSetup::Microphone() const {
   if (FindDevice(devices_.Microphones(), settings_.SoundCardSource)) return settings_.SoundCardSource;
   return devices_.Microphones().empty() ? std::string() : devices_.Microphones().front().name;
+}
+
+std::vector<std::string> CaptureSetup::MicrophoneLines() const {
+  const Device* microphone = FindDevice(devices_.Microphones(), Microphone());
+  return microphone ? microphone->inputs : std::vector<std::string>();
+}
+
+std::string CaptureSetup::MicrophoneLine() const {
+  const Device* microphone = FindDevice(devices_.Microphones(), Microphone());
+  return microphone ? microphone->line : std::string();
+}
+
+void CaptureSetup::ChooseMicrophoneLine(int index) {
+  const std::vector<std::string> lines = MicrophoneLines();
+  if (settings_.Loading || index < 0 || index >= static_cast<int>(lines.size())) return;
+  settings_.Set(settings_.SoundCardSource, Microphone());
+  settings_.Set(settings_.SoundCardInput, std::to_string(index));
+  (void)devices_.ChooseLine(Microphone(), lines[static_cast<std::size_t>(index)]);
+}
+
+/// The line that was chosen here is heard again where the microphone has come back with another one.
+void CaptureSetup::TakeSavedLine() {
+  const std::string& text = settings_.SoundCardInput;
+  std::size_t index = 0;
+  if (std::from_chars(text.data(), text.data() + text.size(), index).ptr != text.data() + text.size()) return;
+  const std::vector<std::string> lines = MicrophoneLines();
+  const bool saved = Microphone() == settings_.SoundCardSource && !text.empty() && index < lines.size();
+  // Asked once: who plugs something in while the program runs may have another one be heard.
+  if (saved && std::exchange(lineTaken_, Microphone()) != Microphone() && lines[index] != MicrophoneLine())
+    (void)devices_.ChooseLine(Microphone(), lines[index]);
+  if (lines.empty()) lineTaken_.clear();
 }
 
 std::vector<std::string> CaptureSetup::NetworkCameras() const {
@@ -281,6 +314,7 @@ void CaptureSetup::TakeDevices() {
     if (const Device* device = ShownDevice(camera)) FitChoice(choice, *device);
     settings_.CurrentCamera[index] = choice.name;
   }
+  TakeSavedLine();
 }
 
 void CaptureSetup::TakeSaved(int camera) {

@@ -106,6 +106,10 @@ class CaptureSetup : private IDevicesEvents {
   void ChooseMicrophone(const std::string& name);
   /// The saved one, or the first that there is.
   std::string Microphone() const;
+  /// What can be plugged into it, and which of these is heard; mostly there is no choice. Its key keeps the index.
+  std::vector<std::string> MicrophoneLines() const;
+  std::string MicrophoneLine() const;
+  void ChooseMicrophoneLine(int index);
 
   /// Addresses of cameras on the network, one a line of the setup.
   std::vector<std::string> NetworkCameras() const;
@@ -115,6 +119,7 @@ class CaptureSetup : private IDevicesEvents {
   void DevicesChanged() override;
   void TakeDevices();
   void TakeSaved(int camera);
+  void TakeSavedLine();
   void FitChoice(CameraChoice& choice, const Device& device) const;
   bool IsSaved(int camera) const;
   void Changed();
@@ -123,6 +128,7 @@ class CaptureSetup : private IDevicesEvents {
   IDevices& devices_;
   ICaptureSetupEvents* events_ = nullptr;
   std::array<CameraChoice, 2> shown_;
+  std::string lineTaken_;  ///< the microphone whose saved line has been asked for
 };
 
 }  // namespace kinalyx

@@ -16,6 +16,7 @@ class FakeDevices final : public IDevices {
   std::vector<Device> microphones;
   bool known = true;
   std::vector<std::string> network;
+  std::vector<CameraControl> controls;
 
   void Plug(Device camera) {
     cameras.push_back(std::move(camera));
@@ -31,8 +32,17 @@ class FakeDevices final : public IDevices {
   const std::vector<Device>& Microphones() const override { return microphones; }
   bool Known() const override { return known; }
   void SetNetworkCameras(const std::vector<std::string>& addresses) override { network = addresses; }
-  std::vector<CameraControl> Controls(const std::string&) override { return {}; }
-  Outcome SetControl(const std::string&, std::uint32_t, int) override { return {}; }
+  std::vector<CameraControl> Controls(const std::string&) override { return controls; }
+  Outcome SetControl(const std::string&, std::uint32_t id, int value) override {
+    for (CameraControl& control : controls)
+      if (control.id == id) control.value = value;
+    return {};
+  }
+  Outcome ChooseLine(const std::string& name, const std::string& line) override {
+    for (Device& microphone : microphones)
+      if (microphone.name == name) microphone.line = line;
+    return {};
+  }
 
  private:
   IDevicesEvents* events_ = nullptr;

@@ -103,6 +103,31 @@ TEST_F(SetupTest, ASavedCameraThatIsGoneIsMissedAndTakenWhenItIsBack) {
   EXPECT_FALSE(setup->MissingCamera()) << "files need none";
 }
 
+TEST_F(SetupTest, TheLineOfTheMicrophoneIsKeptByItsIndex) {
+  Device card;
+  card.name = "Card";
+  card.kind = Device::Kind::Microphone;
+  card.inputs = {"Front Microphone", "Line In"};
+  card.line = "Front Microphone";
+  devices.microphones = {card};
+  Start();
+  EXPECT_EQ(setup->MicrophoneLine(), "Front Microphone") << "nothing was chosen yet";
+  setup->ChooseMicrophoneLine(1);
+  EXPECT_EQ(setup->MicrophoneLine(), "Line In");
+  EXPECT_EQ(settings.SoundCardInput, "1");
+  setup.reset();
+  Device headset;
+  headset.name = "Headset";
+  headset.kind = Device::Kind::Microphone;
+  devices.microphones = {card, headset};
+  Start();
+  EXPECT_EQ(setup->MicrophoneLine(), "Line In") << "the card has begun anew with the other one";
+  setup->ChooseMicrophone("Headset");
+  EXPECT_TRUE(setup->MicrophoneLines().empty());
+  setup->ChooseMicrophoneLine(0);
+  EXPECT_EQ(settings.SoundCardInput, "");
+}
+
 TEST_F(SetupTest, ImportFoldersEndWithASlashAndGoToTheirKind) {
   Start();
   setup->ChooseKind(SourceKind::HighDefImport);

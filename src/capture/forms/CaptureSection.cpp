@@ -94,6 +94,11 @@ void CaptureSection::AddKinds() {
   wizardText_->setWordWrap(true);
   words->addWidget(wizardTitle_);
   words->addWidget(wizardText_);
+  toCapture_ = new Button("WizardCapture", "Choose the Camera", "camera", Look::Quiet);
+  toCapture_->setToolTip("Goes to Capture Videos, where the cameras stand in a list above the picture");
+  connect(toCapture_, &QPushButton::clicked, this, &CaptureSection::CaptureWanted);
+  words->addSpacing(4);
+  words->addWidget(toCapture_, 0, Qt::AlignLeft);
   words->addStretch(1);
   row->addLayout(words, 1);
   wizard->addLayout(row);
@@ -163,8 +168,21 @@ void CaptureSection::AddMicrophone() {
   microphone_->setObjectName("MVAudioSourceComboBox");
   microphone_->setAccessibleName("Microphone");
   rows->addWidget(microphone_);
-  connect(microphone_, &QComboBox::textActivated, this,
-          [this](const QString& name) { setup_.ChooseMicrophone(Std(name)); });
+  connect(microphone_, &QComboBox::textActivated, this, [this](const QString& name) {
+    setup_.ChooseMicrophone(Std(name));
+    ShowMicrophone();
+  });
+  line_ = new QWidget;
+  auto* lines = new QVBoxLayout(line_);
+  lines->setContentsMargins(0, 6, 0, 0);
+  lines->addWidget(MakeLabel({}, "Input", "caption"));
+  AudioInputPinCombo_ = new QComboBox;
+  AudioInputPinCombo_->setObjectName("AudioInputPinCombo");
+  AudioInputPinCombo_->setAccessibleName("Input of the microphone");
+  AudioInputPinCombo_->setToolTip("What of all that is plugged into it is heard");
+  lines->addWidget(AudioInputPinCombo_);
+  rows->addWidget(line_);
+  connect(AudioInputPinCombo_, &QComboBox::activated, this, [this](int index) { setup_.ChooseMicrophoneLine(index); });
 }
 
 void CaptureSection::AddNaming() {
@@ -255,6 +273,7 @@ void CaptureSection::ShowKind() {
   wizardTitle_->setText(Q(std::string(words.title)));
   wizardText_->setText(Q(std::string(words.text)));
   wizardPicture_->setPixmap(PictureOf(settings_, words.picture, kPicture, devicePixelRatioF()));
+  toCapture_->setVisible(!IsImport(kind));
   const bool folder = kind == SourceKind::HighDefImport || kind == SourceKind::AutoImport;
   folderButton_->setVisible(folder);
   folder_->setVisible(folder);
@@ -282,12 +301,22 @@ void CaptureSection::ShowCameras() {
     store_[camera]->setEnabled(used && setup_.ShownDevice(camera));
     store_[camera]->setVisible(used);
   }
+  ShowMicrophone();
+}
+
+void CaptureSection::ShowMicrophone() {
   const QSignalBlocker quiet(microphone_);
   microphone_->clear();
   for (const Device& device : setup_.Microphones()) microphone_->addItem(Q(device.name));
   microphone_->setCurrentText(Q(setup_.Microphone()));
   microphone_->setEnabled(microphone_->count() > 0);
   if (microphone_->count() == 0) microphone_->addItem("No microphone is connected");
+  const std::vector<std::string> lines = setup_.MicrophoneLines();
+  const QSignalBlocker quietToo(AudioInputPinCombo_);
+  AudioInputPinCombo_->clear();
+  for (const std::string& line : lines) AudioInputPinCombo_->addItem(Q(line));
+  AudioInputPinCombo_->setCurrentText(Q(setup_.MicrophoneLine()));
+  line_->setVisible(!lines.empty());
 }
 
 void CaptureSection::showEvent(QShowEvent* event) {

@@ -32,6 +32,10 @@ class CaptureSection : public SetupSection {
   void DVorAnOpt_Click(int index);
   void CamConfig_Camera_Click(int index);
 
+ signals:
+  /// The user wants to see the camera.
+  void CaptureWanted();
+
  protected:
   void showEvent(QShowEvent* event) override;
 
@@ -45,6 +49,7 @@ class CaptureSection : public SetupSection {
   void AddFields();
   void ShowKind();
   void ShowCameras();
+  void ShowMicrophone();
 
   IHost& host_;
   CaptureSetup& setup_;
@@ -53,6 +58,7 @@ class CaptureSection : public SetupSection {
   QLabel* wizardPicture_ = nullptr;
   QLabel* wizardTitle_ = nullptr;
   QLabel* wizardText_ = nullptr;
+  Button* toCapture_ = nullptr;
   Button* folderButton_ = nullptr;
   QLabel* folder_ = nullptr;
   QButtonGroup* count_ = nullptr;
@@ -61,6 +67,8 @@ class CaptureSection : public SetupSection {
   std::array<Button*, 2> store_{};
   std::array<QLineEdit*, 4> network_{};
   QComboBox* microphone_ = nullptr;
+  QWidget* line_ = nullptr;
+  QComboBox* AudioInputPinCombo_ = nullptr;
   QButtonGroup* AutoNameOpt_ = nullptr;
   QButtonGroup* Cam2Ext_ = nullptr;
   QLineEdit* txtSetup_ = nullptr;

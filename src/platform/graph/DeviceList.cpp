@@ -13,7 +13,9 @@
 #include "platform/graph/FireWireProvider.h"
 #include "platform/graph/GstProvider.h"
 #include "platform/graph/NetworkCamera.h"
+#include "platform/graph/SoundLines.h"
 #include "platform/graph/V4l2Controls.h"
+#include "platform/host/DriveWatch.h"
 #include "platform/host/Post.h"
 
 namespace kinalyx {
@@ -102,6 +104,16 @@ struct DeviceList::Table final : CameraKnobs::IEvents, std::enable_shared_from_t
     });
   }
 
+  /// A microphone hears that line now.
+  void LineIs(const std::string& key, const std::string& line) {
+    for (auto& way : found) {
+      if (!way) continue;
+      for (FoundDevice& one : *way)
+        if (one.device.kind == Device::Kind::Microphone && one.key == key) one.device.line = line;
+    }
+    MakeAnew();
+  }
+
   void KnobsChanged() override { Tell(); }
 
   std::shared_ptr<IPost> post;
@@ -152,11 +164,11 @@ struct DeviceList::Watch {
 };
 
 DeviceList::DeviceList(IHost& host, std::shared_ptr<IPost> post)
-    : DeviceList(host, std::move(post), AllProviders(), OpenControlDevice) {}
+    : DeviceList(host, std::move(post), AllProviders(), OpenControlDevice, SetSoundLine) {}
 
 DeviceList::DeviceList(IHost& host, std::shared_ptr<IPost> post,
-                       std::vector<std::unique_ptr<IDeviceProvider>> providers, Open open)
-    : table_(std::make_shared<Table>(post, providers.size())) {
+                       std::vector<std::unique_ptr<IDeviceProvider>> providers, Open open, SetLine setLine)
+    : table_(std::make_shared<Table>(post, providers.size())), setLine_(std::move(setLine)) {
   table_->knobs = std::make_shared<CameraKnobs>(post, *table_, std::move(open));
   for (std::size_t way = 0; way < providers.size(); ++way) {
     auto watch = std::make_shared<Watch>();
@@ -203,6 +215,20 @@ Outcome DeviceList::SetControl(const std::string& camera, std::uint32_t id, int 
   const std::string path = table_->sources->PathOf(camera);
   if (path.empty()) return {Fault::NotFound, "The camera has no controls."};
   return table_->knobs->Set(path, id, value);
+}
+
+Outcome DeviceList::ChooseLine(const std::string& microphone, const std::string& line) {
+  const auto found = table_->sources->Find(microphone, Device::Kind::Microphone);
+  if (!found || std::ranges::find(found->device.inputs, line) == found->device.inputs.end())
+    return {Fault::NotFound, "The microphone has no such line."};
+  // The server may be long in answering.
+  DriveWatch::SendWorker([key = found->key, line, set = setLine_, post = table_->post, table = std::weak_ptr(table_)] {
+    if (!set(key, line)) return;
+    post->Post([key, line, table] {
+      if (const auto still = table.lock()) still->LineIs(key, line);
+    });
+  });
+  return {};
 }
 
 }  // namespace kinalyx

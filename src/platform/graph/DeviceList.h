@@ -20,10 +20,11 @@ class IPost;
 class DeviceList final : public IDevices {
  public:
   DeviceList(IHost& host, std::shared_ptr<IPost> post);
-  /// With other ways to devices and to the files of cameras; for tests.
+  /// With other ways to devices, to the files of cameras and to the sound server; for tests.
   using Open = std::function<std::unique_ptr<IControlDevice>(const std::string& path)>;
+  using SetLine = std::function<Outcome(const std::string& microphone, const std::string& line)>;
   DeviceList(IHost& host, std::shared_ptr<IPost> post, std::vector<std::unique_ptr<IDeviceProvider>> providers,
-             Open open);
+             Open open, SetLine setLine);
   ~DeviceList() override;
   DeviceList(const DeviceList&) = delete;
   DeviceList& operator=(const DeviceList&) = delete;
@@ -35,6 +36,7 @@ class DeviceList final : public IDevices {
   void SetNetworkCameras(const std::vector<std::string>& addresses) override;
   std::vector<CameraControl> Controls(const std::string& camera) override;
   Outcome SetControl(const std::string& camera, std::uint32_t id, int value) override;
+  Outcome ChooseLine(const std::string& microphone, const std::string& line) override;
 
   /// What graphs make their sources by.
   std::shared_ptr<DeviceSources> Sources() const;
@@ -45,6 +47,7 @@ class DeviceList final : public IDevices {
 
   std::shared_ptr<Table> table_;  ///< news from the threads look whether it is still there
   std::vector<std::shared_ptr<Watch>> watches_;
+  SetLine setLine_;
   HostTimer patience_;
 };
 

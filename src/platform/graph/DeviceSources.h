@@ -27,12 +27,12 @@ class DeviceSources {
   /// The same for a microphone: raw sound.
   virtual GstElement* MakeMicrophoneSource(const std::string& name) const;
 
+  /// Nothing when none has that name.
+  std::optional<FoundDevice> Find(const std::string& name, Device::Kind kind) const;
   /// The file of a camera by which the system knows it; empty where there is none.
   std::string PathOf(const std::string& camera) const;
 
  private:
-  std::optional<FoundDevice> Find(const std::string& name, Device::Kind kind) const;
-
   mutable std::mutex mutex_;
   std::vector<FoundDevice> devices_;
 };

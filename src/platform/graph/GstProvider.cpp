@@ -1,9 +1,11 @@
 #include "platform/graph/GstProvider.h"
 
+#include <algorithm>
 #include <chrono>
 #include <utility>
 
 #include "platform/graph/PictureModes.h"
+#include "platform/graph/SoundLines.h"
 #include "platform/graph/V4l2Controls.h"
 
 namespace kinalyx {
@@ -61,6 +63,19 @@ FoundDevice Describe(GstDevice* device, Device::Kind kind) {
     }
   }
   return found;
+}
+
+/// The lines of the microphones among what was found.
+void AddLines(std::vector<FoundDevice>& found) {
+  const auto isMicrophone = [](const FoundDevice& one) { return one.device.kind == Device::Kind::Microphone; };
+  if (std::ranges::none_of(found, isMicrophone)) return;
+  const auto lines = ReadSoundLines();
+  for (FoundDevice& one : found) {
+    const auto known = isMicrophone(one) ? lines.find(one.key) : lines.end();
+    if (known == lines.end()) continue;
+    one.device.inputs = known->second.titles;
+    one.device.line = known->second.active;
+  }
 }
 
 }  // namespace
@@ -129,6 +144,7 @@ std::vector<FoundDevice> GstProvider::List() {
     if (gst_device_has_classes(device, "Audio/Source")) found.push_back(Describe(device, Device::Kind::Microphone));
   }
   g_list_free_full(devices, gst_object_unref);
+  AddLines(found);
   return found;
 }
 

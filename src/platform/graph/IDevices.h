@@ -28,6 +28,7 @@ struct Device {
   std::string address;              ///< of a network camera
   std::vector<PictureMode> modes;   ///< of a camera; may be empty when it does not tell before it runs
   std::vector<std::string> inputs;  ///< lines of a microphone, inputs of a tuner card; mostly empty
+  std::string line;                 ///< the one of its lines that a microphone hears
   bool operator==(const Device&) const = default;
 };
 
@@ -79,6 +80,10 @@ class IDevices {
   /// Refused where there is no such knob, or it is out of its limits or not active. What the camera itself refuses
   /// jumps back.
   virtual Outcome SetControl(const std::string& camera, std::uint32_t id, int value) = 0;
+
+  /// Has a microphone hear one of its lines, for all programs. Refused where it has no such line; what the sound server
+  /// makes of it is seen in the list.
+  virtual Outcome ChooseLine(const std::string& microphone, const std::string& line) = 0;
 };
 
 }  // namespace kinalyx

@@ -125,7 +125,7 @@ Outcome LiveGraph::GraphSetFrameTime(std::string_view label, double seconds) {
 }
 
 Outcome LiveGraph::GraphSetAudioPin(int index) {
-  // Each line of a sound card is a microphone of its own in the list of devices.
+  // Lines are chosen in the list of devices; a graph hears the one that its microphone has.
   return index == 0 ? Outcome() : Outcome::Failed("There is no such input of the microphone.");
 }
 

@@ -160,9 +160,14 @@ class DeviceListTest : public testing::Test, public IDevicesEvents {
   std::unique_ptr<DeviceList> Make() {
     std::vector<std::unique_ptr<IDeviceProvider>> providers;
     for (const auto& plugs : {system_, server_}) providers.push_back(std::make_unique<PlayedProvider>(plugs));
-    auto list = std::make_unique<DeviceList>(host_, post_, std::move(providers), [state = camera_](const std::string&) {
-      return std::make_unique<PlayedCamera>(state);
-    });
+    auto list = std::make_unique<DeviceList>(
+        host_, post_, std::move(providers),
+        [state = camera_](const std::string&) { return std::make_unique<PlayedCamera>(state); },
+        [this](const std::string& microphone, const std::string& line) {
+          std::unique_lock lock(server_->mutex);
+          server_->changed.wait(lock, [this] { return !server_->hangs; });
+          return microphone == "card" && line != "Broken" ? Outcome() : Outcome::Failed("no");
+        });
     list->SetEvents(this);
     return list;
   }
@@ -212,6 +217,35 @@ TEST_F(DeviceListTest, WhatTheMachinePlaysIsAMicrophoneOnlyForWantOfAnother) {
   ASSERT_TRUE(Shows(list->Microphones(), {"Monitor of Speakers"}));
   server_->Set({monitor, Plug("Headset", "b", "", Device::Kind::Microphone)});
   ASSERT_TRUE(Shows(list->Microphones(), {"Headset"}));
+}
+
+TEST_F(DeviceListTest, AMicrophoneHearsTheLineThatIsChosen) {
+  const auto list = Make();
+  FoundDevice card = Plug("Card", "card", "", Device::Kind::Microphone);
+  card.device.inputs = {"Front Microphone", "Line In", "Broken"};
+  card.device.line = "Front Microphone";
+  server_->Set({card});
+  ASSERT_TRUE(Shows(list->Microphones(), {"Card"}));
+  const auto hears = [&](const char* line) {
+    return post_->Until([&] { return list->Microphones().at(0).line == line; });
+  };
+  EXPECT_FALSE(list->ChooseLine("Card", "Rear"));
+  EXPECT_FALSE(list->ChooseLine("Nobody", "Line In"));
+  {
+    const std::lock_guard lock(server_->mutex);
+    server_->hangs = true;
+  }
+  EXPECT_TRUE(list->ChooseLine("Card", "Line In")) << "and nobody waits";
+  EXPECT_TRUE(hears("Front Microphone"));
+  {
+    const std::lock_guard lock(server_->mutex);
+    server_->hangs = false;
+    server_->changed.notify_all();
+  }
+  EXPECT_TRUE(hears("Line In"));
+  EXPECT_TRUE(list->ChooseLine("Card", "Broken"));
+  EXPECT_TRUE(list->ChooseLine("Card", "Front Microphone"));
+  EXPECT_TRUE(hears("Front Microphone"));
 }
 
 TEST_F(DeviceListTest, AWayThatHangsHoldsUpNobody) {
