@@ -327,6 +327,14 @@ void CaptureSession::TrimEnd() {
   Say(std::string(kClickSave));
 }
 
+void CaptureSession::Trim(int first, int last) {
+  if (phase_ != CapturePhase::Reviewing || saving_) return;
+  const bool end = last != TrimEndFrame_;
+  TrimStartFrame_ = first;
+  TrimEndFrame_ = last;
+  Say(std::string(end ? kClickSave : kTrimEnd));
+}
+
 // ---------------------------------------------------------------- keeping
 
 bool CaptureSession::RefuseUnlessNamed() {
@@ -468,6 +476,15 @@ void CaptureSession::SourceFailed(const std::string& label, const std::string& w
   // A camera that another program has, or that is being plugged in anew, is asked again.
   if (phase_ == CapturePhase::LivePreview && open_)
     retry_ = HostTimer(parts_.host, kRetryMs, false, [this] { Rebuild(); });
+  parts_.page.CaptureChanged();
+}
+
+/// The window alone is dark: what is recorded is what the camera gives.
+void CaptureSession::PreviewFailed(const std::string& label) {
+  words_[label == "Video Renderer 2" ? 1 : 0] = phase_ == CapturePhase::Writing
+                                                    ? "The picture cannot be shown; the recording goes on."
+                                                    : "The picture of this camera cannot be shown. It can be recorded "
+                                                      "all the same.";
   parts_.page.CaptureChanged();
 }
 

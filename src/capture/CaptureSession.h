@@ -59,6 +59,9 @@ class CaptureSession : private IGraphEvents {
   void PressCapture();
   void TrimFront();
   void TrimEnd();
+  /// Both ends at once, as they are dragged.
+  /// @param last  the last picture that is kept; 0: all to the end
+  void Trim(int first, int last);
   void Save();
   void SendToAnalysis();
   /// Looks at a recording that an earlier run left, as if it had just been stopped. Nothing while another is written
@@ -114,6 +117,7 @@ class CaptureSession : private IGraphEvents {
   void PictureCame(const std::string& label) override;
   void SourceFailed(const std::string& label, const std::string& why) override;
   void SinkFailed(const std::string& label, const std::string& why) override;
+  void PreviewFailed(const std::string& label) override;
   void EndOfStream() override {}
 
   Parts parts_;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
+#include <utility>
 
 namespace kinalyx {
 namespace {
@@ -36,9 +37,22 @@ void RendererFace::Show(LivePicture picture, const GraphNews& news) {
   {
     const std::lock_guard lock(mutex_);
     std::swap(latest_, picture);  // the old one goes outside the lock
+    shown_ = true;
     if (std::exchange(told_, true)) return;
   }
   news.PictureCame(label_);
+}
+
+bool RendererFace::Misses() {
+  constexpr std::int64_t kPatienceNs = 3'000'000'000;
+  constexpr std::int64_t kWatchedNs = 1'000'000'000;
+  const std::lock_guard lock(mutex_);
+  const std::int64_t now = Now();
+  const bool watched = now - std::exchange(watchedNs_, now) < kWatchedNs;
+  const bool shown = std::exchange(shown_, false);
+  if (shown || told_) missed_ = false;
+  if (shown || told_ || !watched) missingNs_ = now;
+  return now - missingNs_ > kPatienceNs && !std::exchange(missed_, true);
 }
 
 RecordingTally WriterFace::Tally() {

@@ -36,6 +36,9 @@ class RendererFace final : public IRendererFilter {
   /// A picture has been told and not been asked for yet: another one would only be passed over.
   bool Full() const;
   void Show(LivePicture picture, const GraphNews& news);
+  /// For who watches, again and again while the camera gives pictures: true once when nothing has been shown for a
+  /// while that could have been.
+  bool Misses();
 
  private:
   const std::string label_;
@@ -43,6 +46,10 @@ class RendererFace final : public IRendererFilter {
   LivePicture latest_;
   Size wanted_;
   bool told_ = false;
+  bool shown_ = false;   ///< since it was watched last
+  bool missed_ = false;  ///< and told
+  std::int64_t watchedNs_ = 0;
+  std::int64_t missingNs_ = 0;  ///< since when
 };
 
 /// The file that is written.

@@ -28,6 +28,9 @@ class GraphNews {
   void SinkFailed(const std::string& label, const std::string& why) const {
     Tell([label, why](IGraphEvents& events) { events.SinkFailed(label, why); });
   }
+  void PreviewFailed(const std::string& label) const {
+    Tell([label](IGraphEvents& events) { events.PreviewFailed(label); });
+  }
   void EndOfStream() const {
     Tell([](IGraphEvents& events) { events.EndOfStream(); });
   }

@@ -37,6 +37,7 @@ struct GraphRun::Part {
   void Watch();
   bool AwaitStrand();
   bool Look(bool drained);
+  void LookAtWindows() const;
   bool Hear(GstMessage* message);
   bool HearEnd();
   bool HearError(GstMessage* message);
@@ -182,10 +183,20 @@ bool GraphRun::Part::AwaitStrand() {
   return false;
 }
 
+/// A decoder may take all that it is given and make nothing of it.
+void GraphRun::Part::LookAtWindows() const {
+  const bool given = std::ranges::any_of(sources, [](const auto& source) { return source->camera && source->given; });
+  for (const std::size_t filter : filters) {
+    const auto& window = order->faces.renderers[filter];
+    if (given && window && window->Misses()) news.PreviewFailed(order->plan.filters[filter].label);
+  }
+}
+
 /// @param drained  what the sources gave has come to its end
 /// @return  the part is over
 bool GraphRun::Part::Look(bool drained) {
   bool over = false;
+  LookAtWindows();
   for (const auto& source : sources) {
     const std::string_view name = source->camera ? "camera" : "microphone";
     const std::int64_t silence = MonotonicNow() - source->lastNs;
@@ -225,7 +236,10 @@ bool GraphRun::Part::HearEnd() {
 bool GraphRun::Part::HearError(GstMessage* message) {
   const std::string label = LabelOf(message, order->plan);
   const FilterRole role = label.empty() ? FilterRole::Camera : RoleOf(label);
-  if (role == FilterRole::Renderer) return false;
+  if (role == FilterRole::Renderer) {
+    news.PreviewFailed(label);
+    return false;
+  }
   if (role == FilterRole::Writer) {
     CloseFiles();
     news.SinkFailed(label, "The pictures of the camera cannot be written.");

@@ -67,6 +67,9 @@ class IGraphEvents {
   virtual void SourceFailed(const std::string& label, const std::string& why) = 0;
   /// The file of that sink takes no more, a full disk for one. What was written is closed and kept.
   virtual void SinkFailed(const std::string& label, const std::string& why) = 0;
+  /// The renderer of that label cannot show what its camera gives: nothing of it can be decoded. All else goes on, and
+  /// PictureCame tells when it shows again.
+  virtual void PreviewFailed(const std::string& /*label*/) {}
   /// All sources have come to their end, and the files are closed.
   virtual void EndOfStream() = 0;
 };

@@ -62,11 +62,13 @@ struct Told final : IGraphEvents {
   void PictureCame(const std::string& label) override { ++pictures[label]; }
   void SourceFailed(const std::string& label, const std::string& why) override { failed[label] = why; }
   void SinkFailed(const std::string& label, const std::string& why) override { sinks[label] = why; }
+  void PreviewFailed(const std::string& label) override { ++dark[label]; }
   void EndOfStream() override { ended = true; }
 
   std::map<std::string, int> pictures;
   std::map<std::string, std::string> failed;
   std::map<std::string, std::string> sinks;
+  std::map<std::string, int> dark;
   bool ended = false;
 };
 
@@ -223,6 +225,21 @@ TEST_F(LiveGraphs, DamagedPicturesAreWrittenAsTheyComeAndStopNobody) {
   EXPECT_TRUE(graph.GraphStop());
   EXPECT_EQ(Tally().lost, 0);
   EXPECT_TRUE(told.failed.empty()) << told.failed.begin()->second;
+}
+
+TEST_F(LiveGraphs, APictureThatCannotBeShownIsToldAndRecordedAllTheSame) {
+  cameras->played["rubble"] =
+      "videotestsrc is-live=true ! capsfilter caps=video/x-raw,width=320,height=240,framerate=20/1 ! jpegenc ! "
+      "breakmydata probability=1";
+  ASSERT_TRUE(graph.GraphXmlLoad(MVOneCamSSAN));
+  ASSERT_TRUE(graph.GraphSetDevice("VideoSource", "rubble"));
+  ASSERT_TRUE(graph.GraphSetFileSink("FileWriter", folder.Path("x.avi")));
+  Gate().Arm(true);
+  ASSERT_TRUE(graph.GraphRun());
+  EXPECT_TRUE(Comes([&] { return told.dark["Video Renderer"] > 0 && Tally().pictures >= 80; }));
+  EXPECT_TRUE(graph.GraphStop());
+  EXPECT_EQ(told.dark["Video Renderer"], 1) << "once";
+  EXPECT_TRUE(told.failed.empty());
 }
 
 TEST_F(LiveGraphs, AMicrophoneIsMeasuredWhileALessonIsWritten) {
