@@ -434,8 +434,9 @@ OperationResult LibraryOperations::EndOfTransfer(const VideoTransferJob& copy, b
   result.refill = copy.VideosDone() > 0 || copy.StudentsDone() > 0;
   if (copy.VideosDone() > 0) {
     const std::string folder = FolderOf(copy.Arrived().front());
-    result.instructor = places.front().instructor.empty() ? std::string(kGeneralFolder) : places.front().instructor;
-    result.student = places.front().student;
+    const ImportTarget& place = places[static_cast<std::size_t>(copy.FirstArrived())];
+    result.instructor = place.instructor.empty() ? std::string(kGeneralFolder) : place.instructor;
+    result.student = place.student;
     for (const std::string& path : copy.Arrived())
       if (FolderOf(path) == folder) result.arrived.push_back(ShownName(path));
     result.video = result.arrived.front();

@@ -93,7 +93,17 @@ bool VideoTransferJob::Step() {
     if (copy_->Step() == CopyJob::State::Running) return true;
     return EndOfOne();
   }
-  return next_ < videos_.size() && BeginOne();
+  if (next_ < videos_.size()) return BeginOne();
+  return left_.empty() ? false : FailForThoseLeft();
+}
+
+bool VideoTransferJob::FailForThoseLeft() {
+  constexpr std::size_t kNamed = 12;
+  if (left_.size() == 1) return Fail(left_.front());
+  std::string text = std::to_string(left_.size()) + " videos could not be taken:\n";
+  for (std::size_t i = 0; i < std::min(left_.size(), kNamed); ++i) text += "\n" + left_[i];
+  if (left_.size() > kNamed) text += "\nand " + std::to_string(left_.size() - kNamed) + " more";
+  return Fail(text);
 }
 
 std::string VideoTransferJob::FileName() const { return name_ + VideoExtension(videos_[next_].path); }
@@ -163,6 +173,10 @@ bool VideoTransferJob::EndOfOne() {
   const CopyJob::State state = copy_->Status();
   if (state == CopyJob::State::Done) {
     const VideoTransfer& video = videos_[next_];
+    if (arrived_.empty())
+      firstArrived_ =
+          static_cast<int>(std::count_if(videos_.begin(), videos_.begin() + static_cast<std::ptrdiff_t>(next_),
+                                         [](const VideoTransfer& one) { return !one.path.empty(); }));
     arrived_.push_back(JoinPath(video.folder, FileName()));
     if (looks_ && !ReadVideoInfo(arrived_.back())) unreadable_.push_back(arrived_.back());
     filesDone_ += copy_->Progress().filesDone;
@@ -173,6 +187,10 @@ bool VideoTransferJob::EndOfOne() {
   } else if (copy_->NameTaken() && onClash_ == OnClash::AddD) {
     // Another workstation took the name meanwhile, or something stands there that is no video.
     name_ += 'd';
+  } else if (onClash_ == OnClash::AddD && copy_->OthersMayGoWell()) {
+    left_.push_back(copy_->Error());
+    name_.clear();
+    ++next_;
   } else {
     nameTaken_ = copy_->NameTaken();
     return Fail(copy_->Error());

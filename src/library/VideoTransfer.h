@@ -41,7 +41,8 @@ struct VideoTransfer {
   std::string studentFolder;  ///< whose profile and notes go along when the target has none; "" for none
 };
 
-/// Takes videos to other folders, each with its companions, one after the other.
+/// Takes videos to other folders, each with its companions, one after the other. Where they are given new names rather
+/// than stop it, one that cannot be read stops it no more: the others are taken, and its error tells of it at the end.
 class VideoTransferJob final : public IJob {
  public:
   enum class OnClash {
@@ -62,6 +63,8 @@ class VideoTransferJob final : public IJob {
   int VideosDone() const { return static_cast<int>(arrived_.size()); }
   /// Where they stand now, in their order.
   const std::vector<std::string>& Arrived() const { return arrived_; }
+  /// The first of them, counted among all videos that were to go.
+  int FirstArrived() const { return firstArrived_; }
   /// Those among them that cannot be opened, where that was looked at.
   const std::vector<std::string>& Unreadable() const { return unreadable_; }
   /// Files that have arrived: the videos and their sidecars.
@@ -83,6 +86,7 @@ class VideoTransferJob final : public IJob {
   void TakeProfile(const VideoTransfer& video);
   bool EndOfOne();
   bool Fail(const std::string& error);
+  bool FailForThoseLeft();
 
   CopyJob::Kind kind_;
   OnClash onClash_;
@@ -100,6 +104,8 @@ class VideoTransferJob final : public IJob {
   bool looks_ = false;
   std::vector<std::string> arrived_;
   std::vector<std::string> unreadable_;
+  std::vector<std::string> left_;  ///< why those could not be taken that did not stop it
+  int firstArrived_ = 0;
   int studentsDone_ = 0;
   int filesDone_ = 0;
   std::string error_;

@@ -104,6 +104,18 @@ TEST_F(DatabaseTransfer, APlainFolderComesToTheChosenStudentAndWhatIsNoVideoIsNa
   EXPECT_FALSE(Exists("Bob/Gone"));
 }
 
+TEST_F(DatabaseTransfer, OneFileThatCannotBeReadKeepsNoOtherBack) {
+  for (const char* name : {"a.avi", "c.avi"}) fs::copy_file(MakeTestVideo(MjpegVideo(4)), drive.Path(name));
+  const auto loose = [&](const char* name) { return LibraryVideo{"Bob", "Sue", drive.Path(name)}; };
+  const OperationResult result = Import({loose("gone.avi"), loose("a.avi"), loose("lost.avi"), loose("c.avi")});
+  EXPECT_FALSE(result.Done());
+  EXPECT_EQ(result.Status(), "2 File(s) Imported successfully!");
+  EXPECT_EQ(result.arrived, (std::vector<std::string>{"a", "c"}));
+  EXPECT_EQ(result.student, "Sue");
+  EXPECT_TRUE(Exists("Bob/Sue/a.avi") && Exists("Bob/Sue/c.avi"));
+  EXPECT_TRUE(Told("2 videos could not be taken") && Told("gone.avi") && Told("lost.avi"));
+}
+
 TEST_F(DatabaseTransfer, FilesAndFoldersOfATelephoneComeToOneStudent) {
   for (const char* folder : {"DCIM/100", "DCIM/.thumbnails"}) fs::create_directories(drive.Path(folder));
   drive.Put("DCIM/100/IMG_1.MOV", "portrait");

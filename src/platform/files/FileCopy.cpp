@@ -84,6 +84,7 @@ bool CopyJob::Refuse(const std::string& text) {
 CopyJob::State CopyJob::Fail(const std::string& name, int reason) {
   RollBack();
   nameTaken_ = IsNameTaken(reason);
+  othersMayGoWell_ = reason != ENOSPC && reason != EDQUOT && reason != EROFS;
   error_ = Quoted(name) + Verb() + ReasonText(reason);
   state_ = State::Failed;
   return state_;

@@ -72,6 +72,9 @@ class CopyJob {
   const std::string& Error() const { return error_; }
   /// True when it failed because there is something of the same name at the target.
   bool NameTaken() const { return nameTaken_; }
+  /// True when it failed by what it was copying, and not for want of room or by a drive that does not keep what it is
+  /// given: others may go well.
+  bool OthersMayGoWell() const { return othersMayGoWell_; }
 
  private:
   enum class NodeKind { File, Folder, Link };
@@ -127,6 +130,7 @@ class CopyJob {
   CopyProgress progress_;
   std::string error_;
   bool nameTaken_ = false;
+  bool othersMayGoWell_ = false;
 
   std::vector<Unit> units_;
   std::size_t unit_ = 0;
