@@ -19,6 +19,8 @@ constexpr std::size_t kPartHead = 24;
 constexpr std::int64_t kPartHeadBytes = kPartHead;
 constexpr std::int64_t kFirstPicture = RecordingHead::kBytes;
 constexpr std::size_t kIndexHead = 32;
+/// Heads of one part that are damaged: where there are more, the index is not of these pictures.
+constexpr std::size_t kMostDamaged = 1000;
 /// Offsets within a part are numbers of 32 bits.
 constexpr std::int64_t kLargestPart = std::int64_t{1} << 31;
 
@@ -56,6 +58,7 @@ class ChunkWalk {
   bool GoesOnAt(std::int64_t at) const;
   std::optional<std::int64_t> FindNext(std::int64_t from) const;
   bool ReadIndex(RecordingPart& part) const;
+  std::optional<std::vector<Patch>> Compare(const RecordingPart& told) const;
   std::int64_t TakeClosedParts(const RecordingHead& head);
   void TakeChunk(std::int64_t at, const Head& head);
   void TakeIndex(std::int64_t at, std::uint32_t bytes);
@@ -147,6 +150,35 @@ bool ChunkWalk::ReadIndex(RecordingPart& part) const {
   return true;
 }
 
+/// Holds the index of a part against the heads of its pictures. One of both may be damaged.
+/// @return  what repairs the heads; nothing when it is rather the index that is wrong
+std::optional<std::vector<ChunkWalk::Patch>> ChunkWalk::Compare(const RecordingPart& told) const {
+  std::vector<Patch> patches;
+  std::int64_t at = told.headless ? told.base : told.base + (told.base == 0 ? kFirstPicture : kPartHeadBytes);
+  for (const RecordingChunk& chunk : told.chunks) {
+    const std::int64_t wanted = told.base + chunk.at;
+    while (at < wanted) {  // places that were not needed
+      const auto head = HeadAt(at);
+      if (head && head->name == kJunkChunk) {
+        at = head->end;
+        continue;
+      }
+      // Such a head may be damaged itself.
+      patches.push_back({at, kJunkChunk, 0});
+      at += kHeadBytes;
+    }
+    if (at != wanted) return std::nullopt;
+    const auto head = HeadAt(at);
+    if (!head || head->name != kPictureChunk || head->bytes != chunk.bytes) {
+      if (head && head->name == kPictureChunk && GoesOnAt(head->end)) return std::nullopt;
+      patches.push_back({at, kPictureChunk, chunk.bytes});
+    }
+    at = told.EndOf(chunk);
+    if (patches.size() > kMostDamaged) return std::nullopt;
+  }
+  return at <= told.indexAt ? std::optional(patches) : std::nullopt;
+}
+
 /// Takes the parts of which the head knows, as long as they are as it says.
 /// @return where to go on
 std::int64_t ChunkWalk::TakeClosedParts(const RecordingHead& head) {
@@ -159,6 +191,9 @@ std::int64_t ChunkWalk::TakeClosedParts(const RecordingHead& head) {
     if (!ReadIndex(part) || file_.Read(at, size) < size.size()) break;
     const auto next = at + kHeadBytes + static_cast<std::int64_t>(TakeNumber(size, 4));
     if (next < part.indexAt + part.indexBytes || !GoesOnAt(next)) break;
+    const auto patches = Compare(part);
+    if (!patches) break;
+    patches_.insert(patches_.end(), patches->begin(), patches->end());
     at = next;
     if (!part.chunks.empty()) end_ = part.EndOf(part.chunks.back());
     parts_.push_back(std::move(part));
@@ -203,12 +238,10 @@ void ChunkWalk::TakeIndex(std::int64_t at, std::uint32_t bytes) {
   told.indexAt = at;
   told.indexBytes = bytes;
   if (walked.indexAt > 0 || !ReadIndex(told) || told.chunks.size() != walked.chunks.size()) return;
+  const auto patches = Compare(told);
+  if (!patches) return;
   std::erase_if(patches_, [&](const Patch& patch) { return patch.at >= told.base; });
-  for (const RecordingChunk& chunk : told.chunks) {
-    const auto head = HeadAt(told.base + chunk.at);
-    if (!head || head->name != kPictureChunk || head->bytes != chunk.bytes)
-      patches_.push_back({told.base + chunk.at, kPictureChunk, chunk.bytes});
-  }
+  patches_.insert(patches_.end(), patches->begin(), patches->end());
   if (!told.chunks.empty()) end_ = told.EndOf(told.chunks.back());
   walked = std::move(told);
 }

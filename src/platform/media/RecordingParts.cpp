@@ -6,8 +6,6 @@
 namespace kinalyx {
 namespace {
 
-/// Programs that know only one part read at least this much; all others anything.
-constexpr std::int64_t kPartBytes = std::int64_t{1} << 30;
 constexpr std::size_t kLargestPicture = std::size_t{1} << 28;
 constexpr std::uint32_t kChunkHead = 8;
 constexpr std::size_t kIndexHead = 32;
@@ -85,7 +83,7 @@ void RecordingParts::Resume(std::vector<RecordingPart> parts, std::int64_t end) 
 bool RecordingParts::Fits(std::size_t bytes) const {
   const auto indexed = static_cast<std::int64_t>(kIndexed * (parts_.back().chunks.size() + 4));
   const auto wanted = static_cast<std::int64_t>(kChunkHead + bytes + bytes % 2);
-  return end_ - parts_.back().base + wanted + indexed <= kPartBytes;
+  return end_ - parts_.back().base + wanted + indexed <= partBytes_;
 }
 
 Outcome RecordingParts::Append(std::span<const std::byte> picture, std::size_t rowBytes, std::int64_t room,

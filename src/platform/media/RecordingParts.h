@@ -37,7 +37,11 @@ struct RecordingPart {
 /// The first part has a second index, in the form that old programs read. Only for the sources of this room.
 class RecordingParts {
  public:
-  RecordingParts(PlacedFile file, RecordingHead head) : file_(std::move(file)), head_(std::move(head)) {}
+  /// Programs that know only one part read at least this much; all others anything.
+  static constexpr std::int64_t kPartBytes = std::int64_t{1} << 30;
+
+  RecordingParts(PlacedFile file, RecordingHead head, std::int64_t partBytes = kPartBytes)
+      : file_(std::move(file)), head_(std::move(head)), partBytes_(partBytes) {}
 
   /// Begins a file.
   Outcome Begin();
@@ -85,6 +89,7 @@ class RecordingParts {
 
   PlacedFile file_;
   RecordingHead head_;
+  std::int64_t partBytes_;
   std::vector<RecordingPart> parts_;
   std::deque<Unsettled> unsettled_;  ///< in the last part
   std::vector<std::uint8_t> heads_;  ///< before a picture, and its own; kept for the next one
