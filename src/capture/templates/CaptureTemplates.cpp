@@ -68,6 +68,10 @@ constexpr Graph kMotionDraw2{
 constexpr Graph kScreenRecorder{{"VideoSource > Microsoft MPEG-4 Video Codec V2 > AVI Mux > File writer;"
                                  "AudioSource > Microsoft ADPCM > [Input 02]AVI Mux; Audio Trigger"},
                                 R"(c:\record.avi)"};
+constexpr Graph kScreenRecorderMp4{
+    {"VideoSource > H264 Video Codec > AVI Mux > File writer; AudioSource > AAC Audio Codec > [Input 02]AVI Mux;"
+     "Audio Trigger"},
+    R"(c:\record.avi)"};
 
 // Conversion: what is read, what is made of it, and what is seen meanwhile.
 constexpr std::string_view kFromMjpeg =
@@ -133,6 +137,7 @@ constexpr std::string_view MVSetupGraph = Baked<kSetupGraph>::kText;
 constexpr std::string_view MVMotionDraw = Baked<kMotionDraw>::kText;
 constexpr std::string_view MVMotionDraw2 = Baked<kMotionDraw2>::kText;
 constexpr std::string_view MVScreenRecorder = Baked<kScreenRecorder>::kText;
+constexpr std::string_view MVScreenRecorderMp4 = Baked<kScreenRecorderMp4>::kText;
 
 constexpr std::string_view MVConvertSFAMJPGtoIV50 = Baked<kMjpegToIndeo>::kText;
 constexpr std::string_view MVConvertSFAMJPGtoDVEdge = Baked<kMjpegToDvEdge>::kText;

@@ -27,7 +27,8 @@ extern const std::string_view MVTwoCamClickAN;
 extern const std::string_view MVSetupGraph;      ///< connects nothing: lists of devices need something to talk to
 extern const std::string_view MVMotionDraw;      ///< drawing upon a live picture, as in a mirror
 extern const std::string_view MVMotionDraw2;     ///< the same, as the others see it
-extern const std::string_view MVScreenRecorder;  ///< a lesson: the screen with the voice
+extern const std::string_view MVScreenRecorder;     ///< a lesson: the screen with the voice
+extern const std::string_view MVScreenRecorderMp4;  ///< the same, as telephones play it
 
 // Conversion: by what the source is, and what it becomes.
 extern const std::string_view MVConvertSFAMJPGtoIV50;

@@ -30,9 +30,11 @@ inline constexpr Medium kRgb32{1228800, kVideo, "{E436EB7E-524F-11CE-9F53-0020AF
 inline constexpr Medium kMjpg{921600, kVideo, "{47504A4D-0000-0010-8000-00AA00389B71}", false, false, kPictureFormat};
 inline constexpr Medium kIv50{921600, kVideo, "{30355649-0000-0010-8000-00AA00389B71}", false, true, kPictureFormat};
 inline constexpr Medium kMp42{921600, kVideo, "{3234504D-0000-0010-8000-00AA00389B71}", false, true, kPictureFormat};
+inline constexpr Medium kH264{921600, kVideo, "{34363248-0000-0010-8000-00AA00389B71}", false, true, kPictureFormat};
 inline constexpr Medium kDvsd{120000, kVideo, "{64737664-0000-0010-8000-00AA00389B71}", true, false, kPictureFormat};
 inline constexpr Medium kPcm{2, kAudio, "{00000001-0000-0010-8000-00AA00389B71}", true, false, kWaveFormat};
 inline constexpr Medium kAdpcm{512, kAudio, "{00000002-0000-0010-8000-00AA00389B71}", true, false, kWaveFormat};
+inline constexpr Medium kAac{512, kAudio, "{000000FF-0000-0010-8000-00AA00389B71}", false, false, kWaveFormat};
 inline constexpr Medium kControl{
     4, "{76F4CB44-7C0C-49D9-846C-733FEA776B26}", "{19BF5D0C-2817-4E27-B00C-696AACD27110}", true, false, kNoFormat};
 inline constexpr Medium kFile{
@@ -62,8 +64,10 @@ inline constexpr std::array kMuxState{Word(0, 32), Word(8, 10'000'000), Word(24,
 inline constexpr std::array kOverwriteState{Word(0, 8), Word(4, 1)};
 inline constexpr std::array kKeepState{Word(0, 8)};
 inline constexpr std::array kMp42State{Word(0, 8), Code(4, "MP42")};
+inline constexpr std::array kH264State{Word(0, 8), Code(4, "H264")};
 inline constexpr std::array kDvsdState{Word(0, 8), Code(4, "dvsd")};
 inline constexpr std::array kAdpcmState{Word(0, 8), Half(4, 2), Half(6, 217)};
+inline constexpr std::array kAacState{Word(0, 8), Half(4, 255)};
 inline constexpr std::array kDvEncoderState{Word(0, 2000), Word(4, 2007), Word(8, 2012)};
 inline constexpr std::array kEdgeState{Word(0, 50), Half(4, 1), Half(6, 1)};
 inline constexpr std::array kAudioTriggerState{Real(0, 0.5), Word(268, 1), Word(272, 500)};
@@ -125,6 +129,8 @@ inline constexpr std::array kFilterKinds{
     FilterKind{"Panasonic DV CODEC", kCompressorClass, "Input", "Output", kDvsd, kAsGiven, 32, kDvsdState},
     FilterKind{"Microsoft MPEG-4 Video Codec V2", kCompressorClass, "Input", "Output", kMp42, kAsGiven, 32, kMp42State},
     FilterKind{"Microsoft ADPCM", "{6A08CF80-0E18-11CF-A24D-0020AFD79767}", "Input", "Output", kAdpcm, kAsGiven, 32, kAdpcmState},
+    FilterKind{"H264 Video Codec", kCompressorClass, "Input", "Output", kH264, kAsGiven, 32, kH264State},
+    FilterKind{"AAC Audio Codec", "{6A08CF80-0E18-11CF-A24D-0020AFD79767}", "Input", "Output", kAac, kAsGiven, 32, kAacState},
     FilterKind{"AVI Mux", "{E2510970-F137-11CE-8B67-00AA00A3F1A6}", "Input 01", "AVI Out", kFile, kAsGiven, 56, kMuxState},
     // Capture and lessons write over what is there, conversion does not.
     FilterKind{"FileWriter", kWriterClass, "in", "", kAsGiven, kAsGiven, 32, kOverwriteState, true},

@@ -5,6 +5,7 @@
 
 #include "platform/graph/NetworkCamera.h"
 #include "platform/graph/PictureModes.h"
+#include "platform/graph/ScreenSource.h"
 #include "platform/graph/TestCamera.h"
 
 namespace kinalyx {
@@ -61,6 +62,7 @@ std::optional<FoundDevice> DeviceSources::Find(const std::string& name, Device::
 }
 
 GstElement* DeviceSources::MakeCameraSource(const std::string& name, const PictureMode* wanted) const {
+  if (IsScreenName(name)) return MakeScreenSource(name);
   const auto camera = Find(name, Device::Kind::Camera);
   if (!camera) return nullptr;
   switch (camera->device.origin) {

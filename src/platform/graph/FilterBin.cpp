@@ -50,8 +50,12 @@ GstRef<GstPad> FilterBin::Input() { return first_ ? Show(gst_element_get_static_
 
 GstRef<GstPad> FilterBin::DeadEnd() {
   GstElement* end = gst_element_factory_make("fakesink", nullptr);
+  if (end) g_object_set(end, "sync", FALSE, "async", FALSE, nullptr);
+  return SideEnd(end);
+}
+
+GstRef<GstPad> FilterBin::SideEnd(GstElement* end) {
   if (!end) return nullptr;
-  g_object_set(end, "sync", FALSE, "async", FALSE, nullptr);
   gst_bin_add(bin_, end);
   return Show(gst_element_get_static_pad(end, "sink"));
 }

@@ -33,6 +33,9 @@ class FilterBin {
   GstRef<GstPad> Input();
   /// One that swallows what comes.
   GstRef<GstPad> DeadEnd();
+  /// That of an end beside the row.
+  /// @param end  floating; is taken
+  GstRef<GstPad> SideEnd(GstElement* end);
 
  private:
   void Place(GstElement* element);

@@ -11,9 +11,9 @@ using enum FilterEntry;
 constexpr std::string_view kDvPictures =
     "videorate ! videoconvertscale ! video/x-raw,width=720,height=480,framerate=30000/1001 ! avenc_dvvideo";
 
-// "identity" passes pictures on unchanged. Where it says "for now", that is all until triggers, lessons and drawing
-// upon live pictures are there: a block's Record gives nothing, an overlay or a motion detector changes nothing, and a
-// lesson is written without its sound, as JPEG.
+// "identity" passes pictures on unchanged. Where it says "for now", that is all until triggers and drawing upon live
+// pictures are there: a block's Record gives nothing, and an overlay or a motion detector changes nothing. The pictures
+// and the voice of a lesson are encoded by LessonLane.
 // clang-format off
 constexpr std::array kRows{
     // Where pictures and sound come from.
@@ -45,9 +45,10 @@ constexpr std::array kRows{
     FilterRow{"{13AA3650-BB6F-11D0-AFB9-00AA00B67A42}", "", Element, {"XForm In"}, {"XForm Out"}, Raw, kDvPictures},
     FilterRow{"{1F73E9B1-8C3A-11D0-A3BE-00A0C9244436}", "", Element, {"Input"}, {"Output"}, Jpeg, "identity"},
     FilterRow{"{D76E2820-1563-11CF-AC98-00AA004C0FA9}", "dvsd", Element, {"Input"}, {"Output"}, Raw, kDvPictures},
-    FilterRow{"{D76E2820-1563-11CF-AC98-00AA004C0FA9}", "MP42", Element, {"Input"}, {"Output"}, Jpeg, "identity"},  // for now
+    FilterRow{"{D76E2820-1563-11CF-AC98-00AA004C0FA9}", "MP42", Element, {"Input"}, {"Output"}, Raw, "identity"},
+    FilterRow{"{D76E2820-1563-11CF-AC98-00AA004C0FA9}", "H264", Element, {"Input"}, {"Output"}, Raw, "identity"},
     FilterRow{"{6A08CF80-0E18-11CF-A24D-0020AFD79767}", "", Element, {"Input"}, {"Output"}, AsTheyCome,
-              "audioconvert ! audioresample ! avenc_adpcm_ms"},
+              "audioconvert ! audioresample ! capsfilter caps=audio/x-raw,format=S16LE,rate=48000,channels=1"},
     FilterRow{"{1B544C20-FD0B-11CE-8C63-00AA0044B51E}", "", Element, {"input pin"}, {"Stream 00"}, AsTheyCome, "parsebin ! queue"},
     FilterRow{"{301056D0-6DFF-11D2-9EEB-006008039E37}", "", Element, {"XForm In"}, {"XForm Out"}, Raw, "identity"},
     FilterRow{"{CF49D4E0-1115-11CE-B03A-0020AF0BA770}", "", Element, {"XForm In"}, {"XForm Out"}, Raw, "identity"},

@@ -44,6 +44,9 @@ class Builder {
  private:
   Outcome MakeFilter(std::size_t index) {
     const GraphPlan::Filter& filter = order_.plan.filters[index];
+    // A lesson without a voice.
+    if (filter.row->role == FilterRole::Microphone && order_.settings[index].device.empty() && LessonBehind(index))
+      return Outcome();
     FilterBin& bin = bins_[index].emplace(GST_BIN(strand_.pipeline.get()), filter.label);
     switch (filter.row->role) {
       case FilterRole::Camera:
@@ -60,7 +63,7 @@ class Builder {
         if (!filter.row->bin.empty()) bin.AppendDescribed(std::string(filter.row->bin));
         break;
       case FilterRole::Renderer: AppendPreview(bin, order_.faces.renderers[index], news_, order_.beginNs); break;
-      case FilterRole::Writer: AppendFile(bin, order_.faces.writers[index]->Lane(), order_.beginNs); break;
+      case FilterRole::Writer: AppendWriter(bin, order_.faces.writers[index]->Lane()); break;
       case FilterRole::Element: AppendElement(bin, filter); break;
       case FilterRole::Gate:
         if (GstElement* gate = bin.Append("identity")) {
@@ -107,14 +110,34 @@ class Builder {
     bin.AppendDescribed(fmt::format(fmt::runtime(filter.row->bin), word(0), word(1)));
   }
 
+  void AppendWriter(FilterBin& bin, const std::shared_ptr<IFileLane>& lane) const {
+    if (auto lesson = std::dynamic_pointer_cast<LessonLane>(lane)) AppendLesson(bin, std::move(lesson), order_.beginNs);
+    else AppendFile(bin, std::dynamic_pointer_cast<RecordingLane>(lane), order_.beginNs);
+  }
+
+  /// The lesson that is written behind a filter; null for none.
+  std::shared_ptr<LessonLane> LessonBehind(std::size_t filter) const {
+    const auto writer = order_.plan.Downstream(filter, FilterRole::Writer);
+    return writer ? std::dynamic_pointer_cast<LessonLane>(order_.faces.writers[*writer]->Lane()) : nullptr;
+  }
+
+  /// Where the filter takes what comes over a link.
+  GstRef<GstPad> InputOf(const GraphPlan::Link& link) {
+    const auto& to = order_.plan.filters[link.to];
+    // What a mux takes beside the pictures is kept of a lesson alone.
+    if (to.row->role != FilterRole::Mux || link.in == to.row->inputs[0]) return bins_[link.to]->Input();
+    auto lesson = LessonBehind(link.to);
+    return lesson ? bins_[link.to]->SideEnd(MakeLessonVoice(std::move(lesson), order_.beginNs))
+                  : bins_[link.to]->DeadEnd();
+  }
+
   Outcome MakeLink(const GraphPlan::Link& link) {
     const auto& from = order_.plan.filters[link.from];
     const auto& to = order_.plan.filters[link.to];
-    // What a mux takes beside the pictures is not kept yet, and a block that nobody triggers has nothing written.
-    const bool beside = to.row->role == FilterRole::Mux && link.in != to.row->inputs[0];
+    // A block that nobody triggers has nothing written.
     const bool untriggered = from.row->role == FilterRole::Block && link.out != from.row->outputs[0];
     const GstRef<GstPad> out = bins_[link.from]->Output();
-    const GstRef<GstPad> in = beside ? bins_[link.to]->DeadEnd() : bins_[link.to]->Input();
+    const GstRef<GstPad> in = InputOf(link);
     if (!out || !in || gst_pad_link_full(out.get(), in.get(), GST_PAD_LINK_CHECK_NOTHING) != GST_PAD_LINK_OK)
       return Outcome::Failed(fmt::format("\"{}\" cannot be connected with \"{}\".", from.label, to.label));
     if (untriggered) DropAll(out.get());

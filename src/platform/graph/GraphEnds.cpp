@@ -2,16 +2,19 @@
 
 #include <gst/app/gstappsink.h>
 
+#include <cstring>
 #include <utility>
+#include <vector>
 
 #include "platform/graph/CapsChoices.h"
 #include "platform/graph/PictureBytes.h"
 #include "platform/graph/PreviewPainter.h"
+#include "platform/graph/ScreenPainter.h"
 
 namespace kinalyx {
 namespace {
 
-/// Takes pictures out of a graph, in a streaming thread.
+/// Takes pictures, or sound, out of a graph, in a streaming thread.
 class PictureTaker {
  public:
   virtual ~PictureTaker() = default;
@@ -80,6 +83,38 @@ class Filer final : public PictureTaker {
   std::shared_ptr<RecordingLane> lane_;
 };
 
+class LessonPictures final : public PictureTaker {
+ public:
+  explicit LessonPictures(std::shared_ptr<LessonLane> lane) : lane_(std::move(lane)) {}
+
+  void Take(GstSample* sample, std::int64_t ns) override {
+    ScreenPicture picture = painter_.Paint(sample);
+    if (picture.pixels) lane_->PushPicture(std::move(picture), ns);
+  }
+
+ private:
+  std::shared_ptr<LessonLane> lane_;
+  ScreenPainter painter_;
+};
+
+class LessonVoice final : public PictureTaker {
+ public:
+  explicit LessonVoice(std::shared_ptr<LessonLane> lane) : lane_(std::move(lane)) {}
+
+  void Take(GstSample* sample, std::int64_t ns) override {
+    GstMapInfo map;
+    GstBuffer* buffer = gst_sample_get_buffer(sample);
+    if (!gst_buffer_map(buffer, &map, GST_MAP_READ)) return;
+    std::vector<std::int16_t> samples(map.size / sizeof(std::int16_t));
+    std::memcpy(samples.data(), map.data, samples.size() * sizeof(std::int16_t));
+    gst_buffer_unmap(buffer, &map);
+    lane_->PushSound(std::move(samples), ns);
+  }
+
+ private:
+  std::shared_ptr<LessonLane> lane_;
+};
+
 /// A queue of so much, from which those leave whom the other end cannot take: the oldest or the newest.
 enum class Leaves { Newest = 1, Oldest = 2 };
 GstElement* AppendQueue(FilterBin& bin, guint pictures, GstClockTime time, Leaves leaves) {
@@ -115,6 +150,17 @@ void AppendPreview(FilterBin& bin, std::shared_ptr<RendererFace> face, const Gra
 void AppendFile(FilterBin& bin, std::shared_ptr<RecordingLane> lane, std::int64_t beginNs) {
   AppendQueue(bin, 0, 2 * GST_SECOND, Leaves::Newest);
   bin.AppendPlugged(MakeEnd(std::make_unique<Filer>(std::move(lane)), beginNs), ChooseForFile());
+}
+
+void AppendLesson(FilterBin& bin, std::shared_ptr<LessonLane> lane, std::int64_t beginNs) {
+  constexpr guint kPictures = 4;  // they are large here
+  AppendQueue(bin, kPictures, 0, Leaves::Newest);
+  bin.AppendDescribed("videoconvert ! capsfilter caps=video/x-raw,format=BGRx");
+  bin.Append(MakeEnd(std::make_unique<LessonPictures>(std::move(lane)), beginNs));
+}
+
+GstElement* MakeLessonVoice(std::shared_ptr<LessonLane> lane, std::int64_t beginNs) {
+  return MakeEnd(std::make_unique<LessonVoice>(std::move(lane)), beginNs);
 }
 
 }  // namespace kinalyx

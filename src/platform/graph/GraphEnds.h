@@ -6,6 +6,8 @@
 #include "platform/graph/FilterBin.h"
 #include "platform/graph/GraphFaces.h"
 #include "platform/graph/GraphNews.h"
+#include "platform/graph/LessonLane.h"
+#include "platform/graph/RecordingLane.h"
 
 namespace kinalyx {
 
@@ -16,5 +18,10 @@ namespace kinalyx {
 void AppendPreview(FilterBin& bin, std::shared_ptr<RendererFace> face, const GraphNews& news, std::int64_t beginNs);
 /// Hands them to a file.
 void AppendFile(FilterBin& bin, std::shared_ptr<RecordingLane> lane, std::int64_t beginNs);
+
+/// Hands pictures of the screen to a lesson.
+void AppendLesson(FilterBin& bin, std::shared_ptr<LessonLane> lane, std::int64_t beginNs);
+/// Takes samples for a lesson; floating.
+GstElement* MakeLessonVoice(std::shared_ptr<LessonLane> lane, std::int64_t beginNs);
 
 }  // namespace kinalyx

@@ -60,6 +60,11 @@ RecordingTally WriterFace::Tally() {
   return lane_ ? lane_->Tally() : last_;
 }
 
+void WriterFace::Pause(bool on) {
+  const std::lock_guard lock(mutex_);
+  if (lane_) lane_->Pause(on);
+}
+
 void WriterFace::SetPath(const std::string& path) {
   const std::lock_guard lock(mutex_);
   path_ = path;
@@ -80,13 +85,13 @@ void WriterFace::CloseNow() {
   if (lane_) lane_->CloseNow();
 }
 
-void WriterFace::SetLane(std::shared_ptr<RecordingLane> lane) {
+void WriterFace::SetLane(std::shared_ptr<IFileLane> lane) {
   const std::lock_guard lock(mutex_);
   if (lane_) last_ = lane_->Tally();
   lane_ = std::move(lane);
 }
 
-std::shared_ptr<RecordingLane> WriterFace::Lane() const {
+std::shared_ptr<IFileLane> WriterFace::Lane() const {
   const std::lock_guard lock(mutex_);
   return lane_;
 }

@@ -8,9 +8,9 @@
 #include <string>
 #include <utility>
 
+#include "platform/graph/FileLane.h"
 #include "platform/graph/GraphNews.h"
 #include "platform/graph/IGraph.h"
-#include "platform/graph/RecordingLane.h"
 
 namespace kinalyx {
 
@@ -56,6 +56,7 @@ class RendererFace final : public IRendererFilter {
 class WriterFace final : public IWriterFilter {
  public:
   RecordingTally Tally() override;
+  void Pause(bool on) override;
 
   void SetPath(const std::string& path);
   /// Begins with what is pushed into the lane from now on.
@@ -63,13 +64,13 @@ class WriterFace final : public IWriterFilter {
   void Close(std::int64_t lastNs);
   void CloseNow();
   /// The way to the files in the run that begins; null when it has ended.
-  void SetLane(std::shared_ptr<RecordingLane> lane);
-  std::shared_ptr<RecordingLane> Lane() const;
+  void SetLane(std::shared_ptr<IFileLane> lane);
+  std::shared_ptr<IFileLane> Lane() const;
 
  private:
   mutable std::mutex mutex_;
   std::string path_;
-  std::shared_ptr<RecordingLane> lane_;
+  std::shared_ptr<IFileLane> lane_;
   RecordingTally last_;  ///< of the lane before
 };
 

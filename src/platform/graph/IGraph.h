@@ -47,6 +47,8 @@ class IWriterFilter : public IGraphFilter {
  public:
   /// How far the file under way is, or how the last one went.
   virtual RecordingTally Tally() = 0;
+  /// A lesson stands still, and goes on as if nothing had been between. Files of cameras know no pause.
+  virtual void Pause(bool /*on*/) {}
 };
 
 /// A meter and trigger on a microphone.

@@ -9,6 +9,8 @@
 #include <utility>
 
 #include "platform/graph/GraphRun.h"
+#include "platform/graph/LessonLane.h"
+#include "platform/graph/RecordingLane.h"
 
 namespace kinalyx {
 namespace {
@@ -31,6 +33,7 @@ struct LiveGraph::Engine {
   /// The setting of a filter that has one of these roles; null where it is none.
   FilterSetting* SettingOf(std::string_view label, std::initializer_list<FilterRole> roles);
   Outcome StopRun();
+  std::shared_ptr<IFileLane> MakeLane(std::size_t writer, const GraphNews& news) const;
 
   IGraphEvents& events;
   const std::shared_ptr<const DeviceSources> sources;
@@ -92,6 +95,23 @@ bool LiveGraph::Engine::Gated(const std::shared_ptr<WriterFace>& writer) const {
   return std::ranges::any_of(faces.gates, [&](const auto& gate) { return gate && gate->Writer() == writer; });
 }
 
+/// A file into which a voice goes beside the pictures is a lesson.
+std::shared_ptr<IFileLane> LiveGraph::Engine::MakeLane(std::size_t writer, const GraphNews& news) const {
+  bool lesson = false, voice = false;
+  LessonKind kind = LessonKind::Avi;
+  for (std::size_t i = 0; i < plan.filters.size(); ++i) {
+    const FilterRow& row = *plan.filters[i].row;
+    if (plan.Downstream(i, FilterRole::Writer) != writer) continue;
+    if (row.code == "H264") kind = LessonKind::Mp4;
+    if (row.role != FilterRole::Microphone) continue;
+    lesson = true;
+    voice = voice || !settings[i].device.empty();
+  }
+  const std::string& label = plan.filters[writer].label;
+  if (lesson) return std::make_shared<LessonLane>(label, news, kind, voice);
+  return std::make_shared<RecordingLane>(label, news);
+}
+
 FilterSetting* LiveGraph::Engine::SettingOf(std::string_view label, std::initializer_list<FilterRole> roles) {
   const auto found = plan.Find(label);
   if (!found || std::ranges::find(roles, plan.filters[*found].row->role) == roles.end()) return nullptr;
@@ -149,8 +169,7 @@ Outcome LiveGraph::GraphRun() {
   GraphNews news(engine_->events, engine_->post);
   const FilterFaces& faces = engine_->faces;
   for (std::size_t i = 0; i < faces.writers.size(); ++i)
-    if (faces.writers[i])
-      faces.writers[i]->SetLane(std::make_shared<RecordingLane>(engine_->plan.filters[i].label, news));
+    if (faces.writers[i]) faces.writers[i]->SetLane(engine_->MakeLane(i, news));
   for (const auto& gate : faces.gates)
     if (gate) gate->Begin();
   for (const auto& writer : faces.writers)

@@ -8,6 +8,7 @@
 #include <span>
 #include <string>
 
+#include "platform/graph/FileLane.h"
 #include "platform/graph/GraphNews.h"
 #include "platform/media/RecordingFile.h"
 
@@ -24,27 +25,22 @@ struct PackedPicture {
 /// The way of one camera's pictures to its files: a thread of its own writes, so that neither camera nor window waits
 /// for a disk. It takes the pictures of two seconds on credit; a disk that is further behind loses the newest, and the
 /// file counts them. A thread that hangs in its disk is left to itself.
-class RecordingLane {
+class RecordingLane final : public IFileLane {
  public:
   /// @param label  of the sink, for the news
   RecordingLane(std::string label, GraphNews news);
   /// Closes what is open, without waiting.
-  ~RecordingLane();
+  ~RecordingLane() override;
   RecordingLane(const RecordingLane&) = delete;
   RecordingLane& operator=(const RecordingLane&) = delete;
 
-  /// What comes from now on, and was taken after the end of the file before, goes to a new file of that path.
-  void Open(const std::string& path);
-  /// The picture of that time is the file's last: it is closed once that is written, or was not seen for a while.
-  void Close(std::int64_t lastNs);
-  /// What has been pushed is all that the file gets.
-  void CloseNow();
+  void Open(const std::string& path) override;
+  void Close(std::int64_t lastNs) override;
+  void CloseNow() override;
+  bool WaitClosed(std::chrono::steady_clock::time_point until) const override;
+  RecordingTally Tally() const override;
   /// Any thread; without an open file it goes nowhere.
   void Push(PackedPicture picture);
-  /// Waits until no file is open; false when that takes too long.
-  bool WaitClosed(std::chrono::steady_clock::time_point until) const;
-  /// Of the file under way, or of the last one.
-  RecordingTally Tally() const;
 
  private:
   struct Desk;

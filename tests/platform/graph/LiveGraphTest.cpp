@@ -15,6 +15,7 @@
 #include "platform/graph/DeviceSources.h"
 #include "platform/graph/TestCamera.h"
 #include "platform/graph/TestPicture.h"
+#include "platform/media/LessonCopy.h"
 #include "platform/media/RecordingFile.h"
 #include "platform/media/VideoFile.h"
 #include "support/TempFolder.h"
@@ -242,18 +243,53 @@ TEST_F(LiveGraphs, APictureThatCannotBeShownIsToldAndRecordedAllTheSame) {
   EXPECT_TRUE(told.failed.empty());
 }
 
-TEST_F(LiveGraphs, AMicrophoneIsMeasuredWhileALessonIsWritten) {
+TEST_F(LiveGraphs, ALessonIsWrittenWithItsVoiceAndWithoutItsPauses) {
+  cameras->played["screen"] = "videotestsrc is-live=true ! video/x-raw,format=BGRx,width=321,height=241,framerate=15/1";
+  for (const bool telephone : {false, true}) {
+    const std::string path = folder.Path(telephone ? "m.mkv" : "a.mkv");
+    ASSERT_TRUE(graph.GraphXmlLoad(telephone ? MVScreenRecorderMp4 : MVScreenRecorder));
+    ASSERT_TRUE(graph.GraphSetDevice("VideoSource", "screen"));
+    ASSERT_TRUE(graph.GraphSetDevice("AudioSource", "microphone"));
+    ASSERT_TRUE(graph.GraphSetDevice("Audio Trigger", "microphone"));
+    ASSERT_TRUE(graph.GraphSetFileSink("File writer", path));
+    ASSERT_TRUE(graph.GraphRun());
+    auto& trigger = Of<IAudioTriggerFilter>("Audio Trigger");
+    ASSERT_TRUE(Comes([&] { return std::abs(trigger.Level() - 0.5) < 0.02 && Tally("File writer").pictures >= 10; }));
+    Of<IWriterFilter>("File writer").Pause(true);
+    std::this_thread::sleep_for(200ms);
+    const std::int64_t before = Tally("File writer").pictures;
+    std::this_thread::sleep_for(1s);
+    EXPECT_EQ(Tally("File writer").pictures, before);
+    Of<IWriterFilter>("File writer").Pause(false);
+    ASSERT_TRUE(Comes([&] { return Tally("File writer").pictures >= before + 10; }));
+    EXPECT_TRUE(graph.GraphStop());
+    const auto lesson = ReadLesson(path);
+    ASSERT_TRUE(lesson);
+    EXPECT_EQ(lesson->kind, telephone ? LessonKind::Mp4 : LessonKind::Avi);
+    EXPECT_TRUE(lesson->voice);
+    const std::int64_t pictures = Tally("File writer").pictures;
+    EXPECT_EQ(std::llround(lesson->seconds * LessonFile::kRate), pictures);
+    EXPECT_LT(pictures, before + 10 + 12) << "the pause is not in it";
+    EXPECT_TRUE(told.failed.empty() && told.sinks.empty());
+  }
+}
+
+TEST_F(LiveGraphs, ALessonWithoutAMicrophoneIsSilentAndAFullDiskIsTold) {
+  cameras->played["screen"] = "videotestsrc is-live=true ! video/x-raw,format=BGRx,width=320,height=240,framerate=15/1";
   ASSERT_TRUE(graph.GraphXmlLoad(MVScreenRecorder));
-  ASSERT_TRUE(graph.GraphSetDevice("VideoSource", "Test Camera"));
-  ASSERT_TRUE(graph.GraphSetDevice("AudioSource", "microphone"));
-  ASSERT_TRUE(graph.GraphSetDevice("Audio Trigger", "microphone"));
-  ASSERT_TRUE(graph.GraphSetFileSink("File writer", folder.Path("x.avi")));
+  ASSERT_TRUE(graph.GraphSetDevice("VideoSource", "screen"));
+  ASSERT_TRUE(graph.GraphSetFileSink("File writer", folder.Path("x.mkv")));
   ASSERT_TRUE(graph.GraphRun());
-  auto& trigger = Of<IAudioTriggerFilter>("Audio Trigger");
-  EXPECT_TRUE(Comes([&] { return std::abs(trigger.Level() - 0.5) < 0.02 && Tally("File writer").pictures >= 10; }));
+  ASSERT_TRUE(Comes([&] { return Tally("File writer").pictures >= 5; }));
   EXPECT_TRUE(graph.GraphStop());
-  EXPECT_EQ(ReadVideoInfo(folder.Path("x.avi"))->frameCount, Tally("File writer").pictures);
-  EXPECT_TRUE(told.failed.empty());
+  const auto lesson = ReadLesson(folder.Path("x.mkv"));
+  ASSERT_TRUE(lesson);
+  EXPECT_FALSE(lesson->voice);
+  EXPECT_FALSE(told.failed.contains("VideoSource"));
+  ASSERT_TRUE(graph.GraphSetFileSink("File writer", "/no/such/folder/x.mkv"));
+  ASSERT_TRUE(graph.GraphRun());
+  EXPECT_TRUE(Comes([&] { return told.sinks.contains("File writer"); }));
+  EXPECT_TRUE(graph.GraphStop());
 }
 
 TEST_F(LiveGraphs, NothingIsToldOfAGraphThatHasGone) {
