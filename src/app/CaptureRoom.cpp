@@ -26,9 +26,11 @@ CapturePage* CaptureRoom::MakePage() {
                           .setup = setup_,
                           .naming = naming_,
                           .ways = parts_.ways,
-                          .makeGraph = [this](IGraphEvents& events) {
-                            return std::make_unique<LiveGraph>(events, devices_->Sources(), post_);
-                          }});
+                          .makeGraph = [this](IGraphEvents& events) { return MakeGraph(events); }});
+}
+
+std::unique_ptr<IGraph> CaptureRoom::MakeGraph(IGraphEvents& events) const {
+  return std::make_unique<LiveGraph>(events, devices_->Sources(), post_);
 }
 
 CaptureSection* CaptureRoom::MakeSection() {

@@ -31,8 +31,10 @@ class CaptureRoom {
   CapturePage* MakePage();
   CaptureSection* MakeSection();
   std::unique_ptr<IVoiceRecorder> MakeVoiceRecorder();
-  /// The microphone that is heard; empty without one.
-  std::string Microphone() const { return setup_.Microphone(); }
+  /// A graph of these devices; its events outlive it.
+  std::unique_ptr<IGraph> MakeGraph(IGraphEvents& events) const;
+  CaptureSetup& Setup() { return setup_; }
+  const std::shared_ptr<IPost>& Post() const { return post_; }
 
  private:
   Parts parts_;

@@ -40,7 +40,7 @@ void ClipRoom::ShowForm(AnalysisForm& analysis) {
                  .analysis = analysis.Section(),
                  .desk = desk_,
                  .voice = *voice_,
-                 .microphone = capture_.Microphone()},
+                 .microphone = capture_.Setup().Microphone()},
                 &analysis);
   form.exec();
 }

@@ -1,15 +1,33 @@
 #include "app/HandoutRoom.h"
 
+#include "app/LessonRoom.h"
 #include "workspace/forms/AnalysisForm.h"
 
 namespace kinalyx {
 
 HandoutRoom::HandoutRoom(Parts parts)
-    : parts_(parts), clips_(parts.services.host, parts.settings, parts.ways, parts.capture, parts.over) {}
+    : parts_(parts),
+      clips_(parts.services.host, parts.settings, parts.ways, parts.capture, parts.over),
+      lessons_(std::make_unique<LessonRoom>(LessonRoom::Parts{.host = parts.services.host,
+                                                              .settings = parts.settings,
+                                                              .fields = parts.fields,
+                                                              .remembered = parts.remembered,
+                                                              .capture = parts.capture})) {}
 
 HandoutRoom::~HandoutRoom() = default;
 
-void HandoutRoom::Serve(AnalysisForm* analysis) { analysis_ = analysis; }
+void HandoutRoom::Serve(AnalysisForm* analysis) {
+  analysis_ = analysis;
+  lessons_->Serve(analysis);
+}
+
+bool HandoutRoom::MayLeave() { return lessons_->MayLeave(); }
+
+bool HandoutRoom::MayClose() { return MayLeave() && clips_.MayClose(); }
+
+void HandoutRoom::ToggleLesson() { lessons_->Toggle(); }
+bool HandoutRoom::LessonShown() const { return lessons_->Shown(); }
+bool HandoutRoom::LessonUnderWay() const { return lessons_->UnderWay(); }
 
 void HandoutRoom::ShowClipForm() {
   if (analysis_) clips_.ShowForm(*analysis_);

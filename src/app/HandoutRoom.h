@@ -14,6 +14,7 @@ namespace kinalyx {
 
 class AnalysisForm;
 class CaptureRoom;
+class LessonRoom;
 
 /// The side of the program that makes something to take home: for each kind a desk, made when it is first wanted.
 class HandoutRoom final : public IHandouts {
@@ -34,17 +35,24 @@ class HandoutRoom final : public IHandouts {
 
   /// The analysis section that stands now; null when it goes. What the desks lay over its stage belongs to it.
   void Serve(AnalysisForm* analysis);
-  /// Asks where something is still being made; false keeps the program open.
-  bool MayClose() { return clips_.MayClose(); }
+  /// Whether the program may end: asks, too, where something is still being written.
+  bool MayClose();
 
   void ShowClipForm() override;
   void CopyPicture() override;
   void SavePicture() override;
+  /// Whether the section may go. Asks where something would be given up.
+  bool MayLeave();
+
+  void ToggleLesson() override;
+  bool LessonShown() const override;
+  bool LessonUnderWay() const override;
 
  private:
   Parts parts_;
   AnalysisForm* analysis_ = nullptr;
   ClipRoom clips_;
+  std::unique_ptr<LessonRoom> lessons_;
 };
 
 }  // namespace kinalyx

@@ -294,7 +294,7 @@ void Program::GoToHelp() { OpenPage(kHelpPage); }
 
 /// Closes all videos, which keeps what was drawn, and lets the section go until it is wanted again.
 void Program::ExitAnalysis() {
-  if (!analysis_ || !analysis_->CloseAll()) return;
+  if (!analysis_ || !handouts_->MayLeave() || !analysis_->CloseAll()) return;
   OpenPage(kMenuPage);
   // The wish may come from one of its own buttons: it goes when that has returned.
   analysis_ = nullptr;
@@ -363,6 +363,7 @@ bool Program::MainMayClose() {
   main_->setUpdatesEnabled(false);
   if (analysis_) {
     analysis_ = nullptr;
+    handouts_->Serve(nullptr);
     main_->DropPage(kAnalysisPage);
     host_->DoEvents();
   }

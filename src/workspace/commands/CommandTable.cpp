@@ -201,6 +201,16 @@ void MenuBar::AddGoTo() {
   to("GoHelp", "Help and Demos", "help", [this] { navigation_.GoToHelp(); });
 }
 
+/// In a lesson nobody is shown lists of names: what stands open is done with, as by its button "Done".
+void MenuBar::cmdOpen() {
+  if (!navigation_.Handouts().LessonUnderWay()) return view_.ShowOpenPanel();
+  view_.CloseOpenPanel();
+  if (compare_.Transparency().TransparencyOn())
+    for (const int slot : {1, 2})
+      if (stage_.HasVideo(slot)) stage_.MP(slot).Refresh();
+  transport_.Announce("While a lesson is recorded, videos are dropped on a window or opened from the disk");
+}
+
 void MenuBar::AddVideo() {
   const auto hasVideo = NeedsVideo();
   const auto anyVideo = Needs([this] { return stage_.AnyVideo(); }, "Open a video first");
@@ -208,7 +218,7 @@ void MenuBar::AddVideo() {
     Add({item, kVideo, caption, "", icon, "", kNoButton, std::move(run), hasVideo});
   };
   Add({"vo", kVideo, "O - Open New Video", "Openbtn", "open", "Open Videos", kOpening,
-       [this] { view_.ShowOpenPanel(); }});
+       [this] { cmdOpen(); }});
   Add({"OpenFromDisk", kVideo, "Open From Disk...", "", "", "", kNoButton, [this] { view_.OpenFromDisk(); }});
   plain("vr", "R - Rewind Video", "rewind", [this] { transport_.Rewind(); });
   plain("vplay", "P - Play / Pause Toggle", "play", [this] { transport_.TogglePlay(); });
@@ -460,7 +470,16 @@ void MenuBar::AddAdvanced() {
   // The handles lie on a picture in its window, of which the mix shows nothing.
   const auto noMix = [this] { return compare_.Transparency().TransparencyOn() ? compare_.StageTaken() : ""; };
   AddComing("CLive", kAdvanced, "Live Draw && Hot Zones");
-  AddComing("TRL", kAdvanced, "Record Lesson", "CmdAfunctions5", "microphone", "Record Lesson", kSharing);
+  Add({"TRL",
+       kAdvanced,
+       "Record Lesson",
+       "CmdAfunctions5",
+       "microphone",
+       "Record Lesson",
+       kSharing,
+       [this] { navigation_.Handouts().ToggleLesson(); },
+       {},
+       [this] { return navigation_.Handouts().LessonShown(); }});
   Add({"STM", kAdvanced, "&Transparency Mode", "", "overlay", "Transparency Mode", kPicture,
        [this] { compare_.Transparency().ToggleTransparency(); }, [this] { return compare_.WhyNoTransparency(); },
        [this] { return compare_.Transparency().TransparencyOn(); }});

@@ -14,6 +14,8 @@ class IHandouts {
   /// "Record Lesson": the recorder comes, or goes.
   virtual void ToggleLesson() {}
   virtual bool LessonShown() const { return false; }
+  /// The screen is being recorded: what covers the stage stays away.
+  virtual bool LessonUnderWay() const { return false; }
 
   /// "Save Video with Drawings": the form that makes a clip.
   virtual void ShowClipForm() {}

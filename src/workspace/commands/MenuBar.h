@@ -122,6 +122,7 @@ class MenuBar {
   void AddSetup();
   void AddBrisko();
   void AddKeysAlone();
+  void cmdOpen();
   void SaveNow();
   std::string WordsOfSaved() const;
   void AddMark();
