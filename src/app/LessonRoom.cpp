@@ -69,6 +69,13 @@ bool LessonRoom::MayLeave() {
 
 void LessonRoom::LessonChanged() { analysis_->Section().Stage().News().Note(kCommandsChanged); }
 
+std::string LessonRoom::CurrentVideo() const {
+  const Stage& stage = analysis_->Section().Stage();
+  return stage.HasVideo(stage.CurrentWindow) ? stage.At(stage.CurrentWindow).path : "";
+}
+
+void LessonRoom::TakeCard(FloatCard& card) { analysis_->TakeCard(card); }
+
 void LessonRoom::PlayLesson(const std::string& path) { analysis_->Section().OpenFiles(0, {path}); }
 
 }  // namespace kinalyx

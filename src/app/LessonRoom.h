@@ -39,6 +39,8 @@ class LessonRoom final : private ILessonStage {
  private:
   class Finding;
   void LessonChanged() override;
+  std::string CurrentVideo() const override;
+  void TakeCard(FloatCard& card) override;
   void PlayLesson(const std::string& path) override;
 
   Parts parts_;

@@ -16,6 +16,8 @@ class ILessonView {
   virtual void ShowLevel(double level) = 0;
   /// The screen on which the program stands.
   virtual ScreenPlace Screen() = 0;
+  /// The video with which the user works; empty for none.
+  virtual std::string CurrentVideo() const = 0;
   /// The form that asks for the name comes.
   virtual void ShowSaveForm() = 0;
   /// The lesson has been kept there.

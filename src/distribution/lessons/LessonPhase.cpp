@@ -16,7 +16,7 @@ constexpr std::array kWords{
     Words{"Start Recording", "Record Lesson", "Ready to Record Lesson"},
     Words{"Stop Recording", "Recording Sound and Video", "Preparing to Record...."},
     Words{"Stop Recording", "Recording Sound and Video", "Recording...."},
-    Words{"Stop Recording", "Recording Sound and Video", "Paused"},
+    Words{"Stop Recording", "Recording Paused", "Paused"},
     Words{"Finished Recording", "Recording Complete!", "Click Save Video to continue.."},
     Words{"Finished Recording", "Recording Complete!", "Saving Video.... Please Wait."},
 };

@@ -67,8 +67,7 @@ void LessonSession::Toggle() {
 }
 
 void LessonSession::Open() {
-  instructor_ = parts_.remembered[0];
-  student_ = parts_.remembered[1];
+  TakeSelected();
   time_ = "10:00";
   if (parts_.screens.HowToSee() == IScreens::Way::None) {
     parts_.host.Message(MessageKind::Information, "", parts_.screens.WhyNone());
@@ -76,6 +75,19 @@ void LessonSession::Open() {
   }
   Enter(LessonPhase::Ready);
   Listen();
+}
+
+/// Who is selected in the library, and before anybody was, whose video is being studied.
+void LessonSession::TakeSelected() {
+  instructor_ = parts_.remembered[0];
+  student_ = parts_.remembered[1];
+  if (!student_.empty()) return;
+  const std::string folder = FolderOf(parts_.view.CurrentVideo());
+  const LibraryTree tree(parts_.settings);
+  if (folder == tree.StudentFolder(LastName(FolderOf(folder)), LastName(folder))) {
+    instructor_ = LastName(FolderOf(folder));
+    student_ = LastName(folder);
+  }
 }
 
 /// The microphone is heard before a lesson, so that one that is not plugged in is noticed in time.
@@ -317,9 +329,11 @@ void LessonSession::TakeUp(const RecordedLesson& lesson) {
   UpdateAudioLevelTimer_.Stop();
   if (graph_) graph_->GraphClear();
   lesson_ = lesson;
-  const bool known = !lesson.student.empty();
-  instructor_ = known ? lesson.instructor : parts_.remembered[0];
-  student_ = known ? lesson.student : parts_.remembered[1];
+  TakeSelected();
+  if (!lesson.student.empty()) {
+    instructor_ = lesson.instructor;
+    student_ = lesson.student;
+  }
   Enter(LessonPhase::Finished);
   parts_.view.ShowSaveForm();
 }

@@ -85,6 +85,7 @@ class LessonSession : private IGraphEvents, private IScreenEvents {
   class SaveEvents;
 
   void Open();
+  void TakeSelected();
   void Go();
   void GoAway();
   void Listen();

@@ -108,6 +108,8 @@ AnalysisForm::~AnalysisForm() {
   delete strip_;
 }
 
+void AnalysisForm::TakeCard(FloatCard& card) { card.LieOn(*desk_); }
+
 void AnalysisForm::MakeStage() {
   stage_ = MakeFrame("stage", this);
   stage_->setObjectName("MainPanel");

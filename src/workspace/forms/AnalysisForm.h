@@ -20,6 +20,7 @@ class CompareForms;
 class CommandMenus;
 class DrawCaption;
 class EditForms;
+class FloatCard;
 class IPrinter;
 class NotesPanel;
 class OpenVideoParts;
@@ -52,6 +53,8 @@ class AnalysisForm : public PageWidget, private IWorkspaceView, private IOpenVid
   void SettingsChanged();
 
   AnalysisWorkspace& Section() { return *analysis_; }
+  /// A card that a room above has laid over the stage lies as the section's own ones do.
+  void TakeCard(FloatCard& card);
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;

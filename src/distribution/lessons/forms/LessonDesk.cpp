@@ -50,6 +50,7 @@ void LessonDesk::LessonChanged() {
   const LessonPhase phase = session_.Phase();
   if (phase != LessonPhase::Away && !panel_) {
     panel_ = new LessonPanel(session_, parts_.settings, stage_);
+    parts_.events.TakeCard(*panel_);
     connect(panel_, &LessonPanel::StudentWanted, this, &LessonDesk::ChooseStudent);
     connect(panel_, &LessonPanel::SaveWanted, this, [this] { ShowSaveForm(); });
   }
@@ -115,6 +116,7 @@ void LessonDesk::Offer(std::vector<RecordedLesson> lessons) {
 
 void LessonDesk::MakeOffer() {
   offer_ = new FloatCard("UnfinishedLesson", tr("Unfinished Lesson"), stage_);
+  parts_.events.TakeCard(*offer_);
   offerWords_ = MakeLabel("UnfinishedLessonWords", {}, nullptr, offer_);
   auto* row = new QHBoxLayout;
   auto* away = new QPushButton(tr("Throw Away"), offer_);

@@ -26,6 +26,10 @@ class ILessonStage {
   virtual ~ILessonStage() = default;
   /// The recorder has come or gone, or begun or ended: menus and buttons show it.
   virtual void LessonChanged() = 0;
+  /// The video with which the user works; empty for none.
+  virtual std::string CurrentVideo() const = 0;
+  /// A card has been made over the stage.
+  virtual void TakeCard(FloatCard& card) = 0;
   /// A lesson is to be looked at.
   virtual void PlayLesson(const std::string& path) = 0;
 };
@@ -63,6 +67,7 @@ class LessonDesk : public QObject, private ILessonView {
   void LessonChanged() override;
   void ShowLevel(double level) override;
   ScreenPlace Screen() override;
+  std::string CurrentVideo() const override { return parts_.events.CurrentVideo(); }
   void ShowSaveForm() override;
   void LessonSaved(const std::string& path) override;
 

@@ -58,7 +58,8 @@ LessonPanel::LessonPanel(LessonSession& session, const Settings& settings, QWidg
   rows->setContentsMargins(0, 0, 0, 0);
   rows->setSpacing(10);
 
-  auto* first = new QHBoxLayout;
+  first_ = new QHBoxLayout;
+  QHBoxLayout* first = first_;
   first->setSpacing(10);
   dot_ = MakeLabel("RecordDot", {}, nullptr, content_);
   RecordMinuteLbl_ = new FigureLabel("RecordMinuteLbl", "10:00", content_);
@@ -71,6 +72,7 @@ LessonPanel::LessonPanel(LessonSession& session, const Settings& settings, QWidg
   RecordBtn_[kPause] = MakeButton(kPause, tr("Pause"));
   RecordBtn_[kMain] = MakeButton(kMain, {});
   RecordBtn_[kMain]->setProperty("main", true);
+  LeastWidth(RecordBtn_[kPause], 74);  // it stays under the mouse, whatever it says
   first->addWidget(RecordBtn_[kPause]);
   rows->addLayout(first);
 
@@ -85,12 +87,12 @@ LessonPanel::LessonPanel(LessonSession& session, const Settings& settings, QWidg
   progress_->setTextVisible(false);
   rows->addWidget(progress_);
 
-  auto* last = new QHBoxLayout;
+  last_ = new QHBoxLayout;
+  QHBoxLayout* last = last_;
   last->setSpacing(8);
   RecordBtn_[kSave] = MakeButton(kSave, tr("Save Video"));
   RecordBtn_[kSave]->setProperty("main", true);
   RecordBtn_[kCancel] = MakeButton(kCancel, tr("Cancel"));
-  last->addWidget(RecordBtn_[kMain], 1);
   last->addWidget(RecordBtn_[kSave], 1);
   last->addWidget(RecordBtn_[kCancel]);
   rows->addLayout(last);
@@ -171,7 +173,7 @@ void LessonPanel::Update() {
   findChild<QLabel*>("LessonPanelTitle")->setText(Q(TitleOf(phase)));
   status_->setText(Q(session_.Status()));
   // While it records the title says it already, and the strip is to be small.
-  status_->setVisible(!under || session_.Status() != StatusOf(LessonPhase::Recording));
+  status_->setVisible(!under || session_.Status() != StatusOf(phase) || phase == LessonPhase::Preparing);
   RecordMinuteLbl_->setText(Q(session_.TimeLeft()));
   RecordMinuteLbl_->setVisible(ready || under);
   dot_->setVisible(under);
@@ -182,7 +184,10 @@ void LessonPanel::Update() {
   RecordBtn_[kPause]->setText(paused ? tr("Go On") : tr("Pause"));
   RecordBtn_[kPause]->setVisible(phase == LessonPhase::Recording || paused);
   RecordBtn_[kSave]->setVisible(phase == LessonPhase::Finished);
+  // Under way the cross in the heading cancels.
+  RecordBtn_[kCancel]->setVisible(!under);
   RecordBtn_[kCancel]->setEnabled(!saving);
+  findChild<QWidget*>("LessonPanelClose")->setToolTip(RecordBtn_[kCancel]->text());
   const Vocabulary vocabulary(settings_);
   const bool chosen = !session_.Student().empty();
   RecordStudent_->setText(chosen ? Q(session_.Student()) : tr("No %1 Selected").arg(Q(vocabulary.Noun())));
@@ -196,11 +201,14 @@ void LessonPanel::Update() {
   if (std::exchange(shown_, phase) != phase) Fit();
 }
 
-/// It has another size with each phase.
+/// It has another size with each phase: under way it is one row.
 void LessonPanel::Fit() {
+  QPushButton* main = RecordBtn_[kMain];
+  if (IsUnderWay(shown_)) first_->addWidget(main);
+  else last_->insertWidget(0, main, 1);
   layout()->activate();
   adjustSize();
-  Open(Place::Bottom);
+  Open(Place::Top);
 }
 
 void LessonPanel::ShowLevel(double level) { meter_->SetLevel(level); }

@@ -6,6 +6,7 @@
 #include "workspace/forms/FloatCard.h"
 
 class QComboBox;
+class QHBoxLayout;
 class QLabel;
 class QProgressBar;
 class QPushButton;
@@ -48,6 +49,8 @@ class LessonPanel : public FloatCard {
   const Settings& settings_;
   LessonPhase shown_ = LessonPhase::Away;
   QWidget* content_;
+  QHBoxLayout* first_;
+  QHBoxLayout* last_;
   QWidget* choices_;
   QLabel* status_;
   QLabel* dot_;

@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <algorithm>
+#include <utility>
 
 #include "core/Vocabulary.h"
 #include "library/Profile.h"
@@ -32,6 +33,8 @@ StudentChoice::StudentChoice(const QString& name, const QString& title, IHost& h
       vocabulary_(settings),
       remembered_{chosen.instructor, chosen.student, {}},
       browser_(host.Drives(), settings, remembered_, LibraryBrowser::Kind::OpenVideo),
+      host_(host),
+      tree_(settings),
       lists_(new LibraryLists(browser_, settings, this)) {
   setObjectName(name);
   setWindowTitle(title);
@@ -77,7 +80,7 @@ StudentChoice::StudentChoice(const QString& name, const QString& title, IHost& h
   connect(lists_->StudentList(), &QListWidget::itemDoubleClicked, this, [this] {
     if (browser_.HasStudent()) accept();
   });
-  connect(lists_, &LibraryLists::InstructorChosen, this, [this] { Narrow(find_->text()); });
+  connect(lists_, &LibraryLists::InstructorChosen, this, [this] { ShowFitting(find_->text().trimmed()); });
   connect(lists_, &LibraryLists::StudentChosen, this, &StudentChoice::ChoiceChanged);
 }
 
@@ -86,23 +89,50 @@ void StudentChoice::showEvent(QShowEvent* event) {
   if (event->spontaneous()) return;
   browser_.CapfolderSetup();
   lists_->ShowAll();
+  ReadAll();
   ChoiceChanged();
   ScaleForm(*this, *parentWidget()->window());
   find_->setFocus();
 }
 
-/// Shows those students whose names hold what was typed, and takes the first of them.
+void StudentChoice::ReadAll() {
+  auto read = host_.Drives().Ask(tree_.Root(), [root = tree_.Root()] {
+    const LibraryTree tree(root);
+    std::vector<StudentPick> all;
+    for (const std::string& instructor : tree.Instructors())
+      for (const std::string& student : tree.Students(instructor)) all.push_back({instructor, student});
+    return all;
+  });
+  if (read) all_ = std::move(*read);
+}
+
+/// Shows those students whose names hold what was typed, and takes the first of them; where this instructor has none,
+/// that of another one.
 void StudentChoice::Narrow(const QString& text) {
-  NameList* list = lists_->StudentList();
   const QString wanted = text.trimmed();
+  int first = ShowFitting(wanted);
+  if (wanted.isEmpty()) return;
+  if (first < 0) {
+    const auto fits = [&](const StudentPick& one) { return Q(one.student).contains(wanted, Qt::CaseInsensitive); };
+    const auto found = std::ranges::find_if(all_, fits);
+    if (found == all_.end() || !browser_.SelectInstructor(found->instructor)) return;
+    lists_->ShowAll();
+    first = ShowFitting(wanted);
+  }
+  NameList* list = lists_->StudentList();
+  if (first >= 0 && (list->currentRow() < 0 || list->isRowHidden(list->currentRow()))) list->setCurrentRow(first);
+}
+
+/// @return  the first row that is shown; -1 for none
+int StudentChoice::ShowFitting(const QString& wanted) {
+  NameList* list = lists_->StudentList();
   int first = -1;
   for (int row = 0; row < list->count(); ++row) {
     const bool fits = list->item(row)->text().contains(wanted, Qt::CaseInsensitive);
     list->setRowHidden(row, !fits);
     if (fits && first < 0) first = row;
   }
-  const int now = list->currentRow();
-  if (!wanted.isEmpty() && first >= 0 && (now < 0 || list->isRowHidden(now))) list->setCurrentRow(first);
+  return first;
 }
 
 void StudentChoice::ChoiceChanged() { select_->setEnabled(browser_.HasStudent()); }
@@ -115,7 +145,6 @@ RecorderSelectForm::RecorderSelectForm(IHost& host, const Settings& settings, co
                                        const StudentPick& chosen, QWidget* over)
     : StudentChoice("RecorderSelectForm", Q(Vocabulary(settings).Select()) + tr(" to Record"), host, settings, chosen,
                     over),
-      host_(host),
       fields_(fields) {
   auto* row = new QHBoxLayout;
   address_ = MakeLabel("EmailLbl", {}, "muted", this);
@@ -132,8 +161,8 @@ void RecorderSelectForm::ChoiceChanged() {
   const bool chosen = Browser().HasStudent();
   add_->setEnabled(chosen);
   if (!chosen) return address_->clear();
-  const auto found = host_.Drives().Ask(Browser().Folder(),
-                                        [folder = Browser().Folder()] { return GetEmailAddress(folder).value_or(""); });
+  const auto found = Host().Drives().Ask(
+      Browser().Folder(), [folder = Browser().Folder()] { return GetEmailAddress(folder).value_or(""); });
   const QString address = Q(found.value_or("")).trimmed();
   address_->setText(address.isEmpty() ? tr("No Email address on file.") : address);
 }
@@ -141,8 +170,8 @@ void RecorderSelectForm::ChoiceChanged() {
 void RecorderSelectForm::AddAddress() {
   const auto field = std::ranges::find(fields_.Captions(), kAddressField);
   if (field == fields_.Captions().end()) {
-    host_.Message(MessageKind::Information, "",
-                  "The profiles have no field \"E-Mail Address\". Program Setup has them.");
+    Host().Message(MessageKind::Information, "",
+                   "The profiles have no field \"E-Mail Address\". Program Setup has them.");
     return;
   }
   const std::string folder = Browser().Folder();
@@ -154,7 +183,7 @@ void RecorderSelectForm::AddAddress() {
   FieldTexts values = base;
   values[static_cast<std::size_t>(field - fields_.Captions().begin())] = Std(form.Name());
   if (!SaveProfile(folder, fields_, values, base))
-    host_.Message(MessageKind::Warning, "", "The address could not be stored.");
+    Host().Message(MessageKind::Warning, "", "The address could not be stored.");
   ChoiceChanged();
 }
 

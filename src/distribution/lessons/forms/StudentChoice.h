@@ -2,6 +2,7 @@
 
 #include <QDialog>
 #include <string>
+#include <vector>
 
 #include "core/Vocabulary.h"
 #include "library/LibraryBrowser.h"
@@ -38,17 +39,23 @@ class StudentChoice : public QDialog {
   /// Another student is chosen, or none.
   virtual void ChoiceChanged();
   LibraryBrowser& Browser() { return browser_; }
+  IHost& Host() { return host_; }
   /// Above the lists, and beneath them.
   QVBoxLayout* Head() { return head_; }
   QVBoxLayout* Foot() { return foot_; }
   void showEvent(QShowEvent* event) override;
 
  private:
+  void ReadAll();
   void Narrow(const QString& text);
+  int ShowFitting(const QString& wanted);
 
   Vocabulary vocabulary_;
   LastStudentInfo remembered_;
   LibraryBrowser browser_;
+  IHost& host_;
+  LibraryTree tree_;
+  std::vector<StudentPick> all_;  ///< of all instructors
   LibraryLists* lists_;
   QLineEdit* find_;
   QVBoxLayout* head_;
@@ -68,7 +75,6 @@ class RecorderSelectForm final : public StudentChoice {
   void ChoiceChanged() override;
   void AddAddress();
 
-  IHost& host_;
   const ProfileFields& fields_;
   QLabel* address_ = nullptr;
   Button* add_ = nullptr;
