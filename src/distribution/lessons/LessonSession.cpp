@@ -50,7 +50,7 @@ std::string Today() {
 }  // namespace
 
 LessonSession::LessonSession(Parts parts, std::string folder)
-    : parts_(parts), files_(std::move(folder)), jobs_(parts.host, JobRunner::On::Worker), countdown_(parts.host) {
+    : parts_(parts), files_(std::move(folder)), countdown_(parts.host) {
   const auto kind = ReadProfileValue(kSection, kKindKey, JoinPath(parts_.settings.DataPath, "config10.ini"));
   if (kind == "MP4") kind_ = LessonKind::Mp4;
 }
@@ -366,9 +366,9 @@ std::string LessonSession::Save(std::string_view typed) {
   if (std::string fault = LessonNameFault(Folder(), Kind(), name); !fault.empty()) return fault;
   savedPart_ = 0;
   Enter(LessonPhase::Saving);
-  jobs_.Start(std::make_unique<LessonSaver>(
-                  lesson_.path, JoinPath(Folder(), fmt::format("{}{}", name, EndingOf(lesson_.facts.kind)))),
-              std::make_unique<SaveEvents>(*this));
+  parts_.jobs.Start(std::make_unique<LessonSaver>(
+                        lesson_.path, JoinPath(Folder(), fmt::format("{}{}", name, EndingOf(lesson_.facts.kind)))),
+                    std::make_unique<SaveEvents>(*this));
   return {};
 }
 

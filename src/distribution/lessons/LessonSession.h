@@ -28,6 +28,7 @@ class LessonSession : private IGraphEvents, private IScreenEvents {
     IScreens& screens;
     LastStudentInfo& remembered;
     ILessonView& view;
+    JobRunner& jobs;
   };
   /// All parts outlive this.
   /// @param folder  of the working files
@@ -110,7 +111,6 @@ class LessonSession : private IGraphEvents, private IScreenEvents {
 
   Parts parts_;
   LessonFiles files_;
-  JobRunner jobs_;
   std::unique_ptr<IGraph> graph_;
   Countdown countdown_;
   LessonPhase phase_ = LessonPhase::Away;

@@ -25,12 +25,14 @@ LessonDesk::LessonDesk(const Parts& parts, QWidget* stage)
     : QObject(nullptr),
       parts_(parts),
       stage_(stage),
+      jobs_(parts.host, JobRunner::On::Worker),
       session_({.host = parts.host,
                 .settings = parts.settings,
                 .setup = parts.setup,
                 .screens = parts.screens,
                 .remembered = parts.remembered,
-                .view = *this},
+                .view = *this,
+                .jobs = jobs_},
                JoinPath(parts.settings.DataPath, "capture")),
       ring_(new ClickRing(this)) {
   session_.SetGraph(parts.makeGraph(session_.GraphEvents()));

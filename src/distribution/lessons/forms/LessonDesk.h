@@ -73,6 +73,7 @@ class LessonDesk : public QObject, private ILessonView {
 
   Parts parts_;
   QWidget* stage_;
+  JobRunner jobs_;
   LessonSession session_;
   LessonPhase told_ = LessonPhase::Away;
   QPointer<LessonPanel> panel_;
