@@ -10,7 +10,8 @@ kinalyx_packages=(
   libgstreamer1.0-dev libgstreamer-plugins-base1.0-dev
   gstreamer1.0-plugins-base gstreamer1.0-plugins-good gstreamer1.0-plugins-bad gstreamer1.0-libav
   gstreamer1.0-x gstreamer1.0-pulseaudio gstreamer1.0-pipewire
-  libpulse-dev libyuv-dev libturbojpeg0-dev libfmt-dev nlohmann-json3-dev libxxhash-dev
+  libpulse-dev libglib2.0-dev libyuv-dev libturbojpeg0-dev libfmt-dev nlohmann-json3-dev libxxhash-dev
+  libcups2-dev fonts-liberation
   libavc1394-tools?
 )
 kinalyx_test_packages=(libgtest-dev libgmock-dev ffmpeg)

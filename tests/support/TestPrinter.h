@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "platform/print/Printer.h"
@@ -14,6 +15,15 @@ class TestPrinter final : public IPrinter {
 
   Outcome Print(const PrintedText& text) override {
     printed.push_back(text);
+    return answer;
+  }
+
+  std::vector<std::string> queues{"Office"};
+  std::vector<PrintChoice> choices;  ///< with which pages were printed
+
+  std::vector<std::string> Printers() override { return queues; }
+  Outcome Print(const IPrintout&, const PrintChoice& choice) override {
+    choices.push_back(choice);
     return answer;
   }
 };

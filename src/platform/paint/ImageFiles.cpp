@@ -52,15 +52,18 @@ Outcome SaveJpeg(const PixelRows& rows, const std::string& path, int quality) {
 
 Outcome SavePng(const PixelRows& rows, const std::string& path) { return Save(rows, path, "png", -1); }
 
-Result<Surface> LoadPicture(const std::string& path, int most, Colour ground) {
+Outcome SaveBmp(const PixelRows& rows, const std::string& path) { return Save(rows, path, "bmp", -1); }
+
+Result<Surface> LoadPicture(const std::string& path, int longest, Colour ground) {
   QImageReader reader(QString::fromStdString(path));
   reader.setAutoTransform(true);
-  if (const QSize size = reader.size(); size.isValid() && (size.width() > most || size.height() > most))
-    reader.setScaledSize(size.scaled(most, most, Qt::KeepAspectRatio).expandedTo({1, 1}));
+  reader.setDecideFormatFromContent(true);
+  if (const QSize size = reader.size(); size.isValid() && (size.width() > longest || size.height() > longest))
+    reader.setScaledSize(size.scaled(longest, longest, Qt::KeepAspectRatio).expandedTo({1, 1}));
   QImage image = reader.read();
   if (image.isNull()) return Failure(reader.errorString());
-  if (image.width() > most || image.height() > most)
-    image = image.scaled(most, most, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+  if (image.width() > longest || image.height() > longest)
+    image = image.scaled(longest, longest, Qt::KeepAspectRatio, Qt::SmoothTransformation);
   Surface surface(image.width(), image.height());
   if (surface.Empty()) return Failure(QStringLiteral("The picture is too large."));
   surface.Clear(ground);

@@ -12,9 +12,10 @@ namespace kinalyx {
 /// old or the new picture, whatever happens. Names of folders, devices and pipes are refused.
 Outcome SaveJpeg(const PixelRows& rows, const std::string& path, int quality);
 Outcome SavePng(const PixelRows& rows, const std::string& path);
+Outcome SaveBmp(const PixelRows& rows, const std::string& path);
 
-/// A picture of a file of any usual kind, upright and no larger than `most` pixels on either side; transparent parts
-/// lie over `ground`. Fails with the reason.
-Result<Surface> LoadPicture(const std::string& path, int most, Colour ground);
+/// The picture of a file of any usual kind, upright; one of which a side is longer than `longest` pixels is scaled down
+/// to it. Transparent parts lie over `ground`. Fails with the reason. May be called on any thread.
+Result<Surface> LoadPicture(const std::string& path, int longest = 4096, Colour ground = Rgb(255, 255, 255));
 
 }  // namespace kinalyx

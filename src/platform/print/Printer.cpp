@@ -10,6 +10,9 @@
 #include <QTextDocument>
 #include <algorithm>
 
+#include "platform/print/PrintPages.h"
+#include "platform/print/PrintQueues.h"
+
 namespace kinalyx {
 
 namespace {
@@ -140,6 +143,12 @@ class DesktopPrinter final : public IPrinter {
     QPrintDialog dialog(&printer, QApplication::activeWindow());
     if (dialog.exec() != QDialog::Accepted) return {Fault::Cancelled, {}};
     return PrintOn(printer, text);
+  }
+
+  std::vector<std::string> Printers() override { return QueueNames(); }
+
+  Outcome Print(const IPrintout& printout, const PrintChoice& choice) override {
+    return PrintToQueue(printout, choice);
   }
 };
 

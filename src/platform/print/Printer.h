@@ -2,8 +2,11 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "platform/files/Result.h"
+#include "platform/paint/Surface.h"
+#include "platform/print/Page.h"
 
 namespace kinalyx {
 
@@ -15,18 +18,37 @@ struct PrintedText {
   std::string footer;    ///< at the foot of every page, beside its number; may be empty
 };
 
-/// Where texts are printed.
+struct PrintChoice {
+  std::string printer;  ///< one of Printers()
+  kinalyx::Paper Paper = kinalyx::Paper::Letter;
+  int copies = 1;
+};
+
+/// Where texts and pages are printed.
 class IPrinter {
  public:
   virtual ~IPrinter() = default;
   /// Asks the user for the printer, the pages and the copies, and prints. A failure is told in a whole sentence.
   virtual Outcome Print(const PrintedText& text) = 0;
+
+  /// The printers that can be had, the usual one first; none where nobody answers for them within a moment.
+  virtual std::vector<std::string> Printers() = 0;
+  /// Hands the pages to a printer, without asking; a failure is told in a whole sentence. Windows are painted while
+  /// the printer is waited for.
+  virtual Outcome Print(const IPrintout& printout, const PrintChoice& choice) = 0;
 };
 
-/// The printers of the desktop, behind its dialog. Needs the running application; on its thread only.
+/// The printers of the desktop. Needs the running application; on its thread only.
 std::unique_ptr<IPrinter> MakePrinter();
 
-/// Prints into a PDF file without asking. One of that name is replaced.
+/// Prints into a PDF file without asking. One of that name is replaced; where that fails it stays as it was.
 Outcome PrintToPdf(const PrintedText& text, const std::string& path);
+Outcome PrintToPdf(const IPrintout& printout, Paper paper, const std::string& path);
+
+/// How the pages will look: one picture for each sheet of paper.
+std::vector<Surface> PicturesOf(const IPrintout& printout, Paper paper, int dotsPerInch);
+
+/// What lies in the printers of the user's country.
+Paper UsualPaper();
 
 }  // namespace kinalyx
