@@ -7,7 +7,6 @@
 #include "Nowhere.h"
 #include "platform/files/Log.h"
 #include "platform/host/QtHost.h"
-#include "support/TestPrinter.h"
 #include "support/TestVideos.h"
 #include "video/PlayScheduler.h"
 #include "workspace/forms/AnalysisForm.h"
@@ -21,7 +20,7 @@ class BenchStage {
   /// @param layout  number of the layout with which it opens
   BenchStage(const std::string& name, const std::string& layout, QSize size)
       : settings_(*host_, ScratchFolder() + "/" + name, ScratchFolder()),
-        form_(*host_, printer_, Prepared(settings_, layout), players_, remembered_, nowhere_) {
+        form_(*host_, Prepared(settings_, layout), players_, remembered_, nowhere_) {
     form_.resize(size);
     form_.show();
   }
@@ -46,7 +45,6 @@ class BenchStage {
   PlayScheduler scheduler_{*host_};
   PlayerServices players_{*host_, scheduler_};
   LastStudentInfo remembered_;
-  test::TestPrinter printer_;
   Nowhere nowhere_;
   AnalysisForm form_;
 };

@@ -54,8 +54,7 @@ const Register kThemeSwitch({"theme_switch", {Target::Of::AtMost, 150, 60}, [] {
                                window.addWidget(new MenuPage(*host, settings));
                                window.addWidget(
                                    new ProfilesPage(players, *printer, settings, fields, remembered, operations));
-                               window.addWidget(
-                                   new AnalysisForm(*host, *printer, settings, players, remembered, nowhere));
+                               window.addWidget(new AnalysisForm(*host, settings, players, remembered, nowhere));
                                window.addWidget(new SetupPage(*host, settings, schemes));
                                window.addWidget(new HelpPage(QString()));
                                window.show();

@@ -7,6 +7,7 @@ namespace kinalyx {
 
 HandoutRoom::HandoutRoom(Parts parts)
     : parts_(parts),
+      print_(parts.services, parts.printer, parts.settings),
       clips_(parts.services.host, parts.settings, parts.ways, parts.capture, parts.over),
       lessons_(std::make_unique<LessonRoom>(LessonRoom::Parts{.host = parts.services.host,
                                                               .settings = parts.settings,
@@ -19,6 +20,7 @@ HandoutRoom::~HandoutRoom() = default;
 void HandoutRoom::Serve(AnalysisForm* analysis) {
   analysis_ = analysis;
   lessons_->Serve(analysis);
+  print_.Serve(analysis);
 }
 
 bool HandoutRoom::MayLeave() { return lessons_->MayLeave(); }

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "app/ClipRoom.h"
+#include "app/PrintDesk.h"
 #include "core/Settings.h"
 #include "library/LibraryTree.h"
 #include "library/Profile.h"
@@ -48,8 +49,17 @@ class HandoutRoom final : public IHandouts {
   bool LessonShown() const override;
   bool LessonUnderWay() const override;
 
+  void ShowPrintForm() override { print_.ShowPrintForm(); }
+  void ShowReportForm() override { print_.ShowReportForm(); }
+  void PrintSheet(ShortGame sheet) override { print_.PrintSheet(sheet); }
+  void SaveSheetPictures(ShortGame sheet) override { print_.SaveSheetPictures(sheet); }
+  void SaveModelPicture() override { print_.SaveModelPicture(); }
+  void ToggleLefty() override { print_.ToggleLefty(); }
+  bool Lefty() const override { return print_.Lefty(); }
+
  private:
   Parts parts_;
+  PrintDesk print_;
   AnalysisForm* analysis_ = nullptr;
   ClipRoom clips_;
   std::unique_ptr<LessonRoom> lessons_;

@@ -275,7 +275,7 @@ void Program::ShowFirstForm() {
 
 AnalysisForm& Program::OpenAnalysis() {
   if (!analysis_) {
-    analysis_ = new AnalysisForm(*host_, *printer_, settings_, players_, lastStudent_, *this);
+    analysis_ = new AnalysisForm(*host_, settings_, players_, lastStudent_, *this);
     handouts_->Serve(analysis_);
     main_->SetPage(kAnalysisPage, analysis_);
   }

@@ -273,20 +273,26 @@ void DrawingTools::ChooseOpacities(const ShapeList& list, int frame) {
 }
 
 std::vector<ShapeLabel> DrawingTools::LabelsOf(int window) {
-  constexpr int kFull = 255;
   std::vector<ShapeLabel> labels;
+  for (auto& measure : MeasuresOf(window)) labels.push_back(std::move(measure.second));
+  return labels;
+}
+
+std::vector<std::pair<std::size_t, ShapeLabel>> DrawingTools::MeasuresOf(int window) {
+  constexpr int kFull = 255;
+  std::vector<std::pair<std::size_t, ShapeLabel>> measures;
   const ShapeList& list = List(window);
   const auto shapes = ShapesOf(list);
-  if (shapes.empty()) return labels;
+  if (shapes.empty()) return measures;
   ChooseOpacities(list, workspace_.FrameOf(window));
   const MeasureScale scale = ScaleOf(window);
   for (std::size_t i = 0; i < shapes.size(); ++i) {
     // The ruler's line has its length in its panel.
     if (shapes[i].Measuring || !HasLabel(shapes[i]) || (!opacities_.empty() && opacities_[i] < kFull)) continue;
     const auto exact = workspace_.ExactOf(window, shapes[i]);
-    if (auto label = LabelOf(shapes[i], scale, exact ? &*exact : nullptr)) labels.push_back(std::move(*label));
+    if (auto label = LabelOf(shapes[i], scale, exact ? &*exact : nullptr)) measures.emplace_back(i, std::move(*label));
   }
-  return labels;
+  return measures;
 }
 
 bool DrawingTools::ShowsSpeeds(int window) const {

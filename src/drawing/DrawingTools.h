@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/Settings.h"
@@ -138,6 +139,8 @@ class DrawingTools final : public IShapeLocked {
   std::vector<ShapeLabel> LabelsOf(int window);
   /// What a window's picture has drawn on it now, as values; nothing of what is under construction or hidden.
   FilmDrawings FilmOf(int window);
+  /// What the drawings measure that are seen in full now, each by its index in the list.
+  std::vector<std::pair<std::size_t, ShapeLabel>> MeasuresOf(int window);
   /// Paints the grid and the shapes of a window, and the measure of the current shape with them.
   void PreDrawFrame(Canvas& hDC, int Window);
 

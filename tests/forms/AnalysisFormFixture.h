@@ -12,7 +12,6 @@
 #include "FormDriver.h"
 #include "FormsSupport.h"
 #include "support/TestHost.h"
-#include "support/TestPrinter.h"
 #include "support/TestVideos.h"
 #include "workspace/forms/AnalysisForm.h"
 
@@ -30,7 +29,7 @@ struct AnalysisFormFixture : testing::Test, UsesApplication, FormDriver, INaviga
 
   /// Another page, in place of the one before.
   void Make(QSize size) {
-    form = std::make_unique<AnalysisForm>(host, printer, settings, players, remembered, *this);
+    form = std::make_unique<AnalysisForm>(host, settings, players, remembered, *this);
     form->resize(size);
     form->show();
     form->Open();
@@ -87,7 +86,6 @@ struct AnalysisFormFixture : testing::Test, UsesApplication, FormDriver, INaviga
   PlayScheduler scheduler{host};
   PlayerServices players{host, scheduler};
   LastStudentInfo remembered;
-  TestPrinter printer;
   std::string went;  ///< where the page has led last
   IHandouts handouts;
   std::unique_ptr<AnalysisForm> form;

@@ -96,7 +96,6 @@ class FakeWindow final : public IWorkspaceView {
     hints[slot] = {words, command};
   }
   void SetCalibrationLength(const std::string& length) override { calibrationLength = length; }
-  void ShowNotesform() override {}
   void ShowRateForm() override {}
   void ShowOpenPanel() override {
     ++openPanels;

@@ -20,7 +20,6 @@ constexpr const char* kWindows = "&Windows";
 constexpr const char* kTools = "&Tools";
 constexpr const char* kAdvanced = "Advanced";
 constexpr const char* kSetup = "Setup";
-constexpr const char* kBrisko = "Brisko";
 
 // Groups of the tool strip, from left to right.
 enum Group { kNoButton, kOpening, kScreens, kDrawing, kErasing, kPicture, kMeasuring, kSharing };
@@ -407,7 +406,10 @@ void MenuBar::AddTools() {
   Add({"TSavePicture", kTools, "Save Picture", "", "", "", kNoButton, [this] { navigation_.Handouts().SavePicture(); },
        hasVideo});
   Add({"PrintCall", kTools, "Print Video(s)", "CmdAfunctions7", "print", "Print Video(s)", kSharing,
-       [this] { view_.ShowNotesform(); }, hasVideo});
+       [this] { navigation_.Handouts().ShowPrintForm(); },
+       Needs([this] { return stage_.AnyVideo(); }, "Open a video first")});
+  Add({"TReport", kTools, "Report...", "", "", "", kNoButton, [this] { navigation_.Handouts().ShowReportForm(); },
+       Needs([this] { return stage_.AnyVideo(); }, "Open a video first")});
   Add({"TLAV", kTools, "Loop All Videos", "", "loop", "", kNoButton, [this] { transport_.ToggleLoopAll(); },
        Needs([this] { return stage_.AnyVideo(); }, "Open a video first"), [this] { return transport_.AllLooping(); }});
   const auto several = Needs([this] { return transport_.All().Several(); }, "Needs videos in two windows or more");
@@ -536,24 +538,6 @@ void MenuBar::AddSetup() {
        [this] { return HasVideo() && stage_.Current().MP->ReverseFields(); }});
   Add({"MenuSplitFields", kSetup, "Split Video Fields", "", "", "", kNoButton, [this] { videos_.ToggleSplitFields(); },
        hasVideo, [this] { return HasVideo() && stage_.Current().MP->SplitFields(); }});
-}
-
-void MenuBar::AddBrisko() {
-  for (const auto& [item, caption] :
-       std::initializer_list<std::pair<const char*, const char*>>{{"BriskoPuttPrint", "Print Putting"},
-                                                                  {"BriskoDWedgePrint", "Print Distance Wedge"},
-                                                                  {"BriskoBunkerPrint", "Print Bunker Shot"},
-                                                                  {"BriskoChipPrint", "Print Chip Shot"},
-                                                                  {"BriskoSavePutt", "Save Putting Bmps"},
-                                                                  {"BriskoSaveDWege", "Save Distance Wedge Bmps"},
-                                                                  {"BriskoSaveBunker", "Save Bunker Shot Bmps"},
-                                                                  {"BriskoSaveChip", "Save Chip Shot Bmps"},
-                                                                  {"BriskoCreateModel", "Create Model"},
-                                                                  {"BriskoLeftySelect", "Lefty Print"}})
-    AddComing(item, kBrisko, caption);
-  Add({"MenuExit", "", "&Exit Analysis", "", "", "", kNoButton, [this] {
-         if (PreparetoExit()) navigation_.ExitAnalysis();
-       }});
 }
 
 std::vector<const Command*> MenuBar::WindowMenu() const {

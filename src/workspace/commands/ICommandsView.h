@@ -17,8 +17,6 @@ class ICommandsView {
   virtual bool CloseMomentary() = 0;
   /// Offers names for the mark that was made last.
   virtual void NameLastMark() = 0;
-  /// The notes that go with a printout.
-  virtual void ShowNotesform() = 0;
   /// The rate at which the current video was taken.
   virtual void ShowRateForm() = 0;
   /// Enable rules, checks and pressed buttons may have changed.

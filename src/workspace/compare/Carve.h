@@ -62,6 +62,8 @@ class Carve {
   /// Copies the area of the current frame to the piece, at its scale, and shows it.
   void CmdDisCarve();
   const Surface& Piece() const { return piece_; }
+  /// Where it floats on the stage, in pixels of surfaces.
+  POINTAPI PieceCorner() const { return corner_; }
 
   // --- from the players and the stage
   void Signal(int slot);

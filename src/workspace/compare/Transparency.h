@@ -50,6 +50,8 @@ class Transparency final : private ITakesStage {
   void Resize(int width, int height);
   /// Makes the mix anew and shows it, at once. Nothing while the mode is not up.
   void CMDDISAct();
+  /// The picture of `TransPanel` as it was made last.
+  const Surface& Mix() const { return TransPanel_; }
   /// A video was moved without a word from its player.
   void MPManualSignal() { Refresh(); }
 

@@ -29,7 +29,6 @@
 #include "workspace/forms/EditForms.h"
 #include "workspace/forms/KeyCodeOf.h"
 #include "workspace/forms/NotesPanel.h"
-#include "workspace/forms/Notesform.h"
 #include "workspace/forms/PlayBar.h"
 #include "workspace/forms/SeekPreview.h"
 #include "workspace/forms/ToolStrip.h"
@@ -50,14 +49,9 @@ int ToPixels(int twips) { return static_cast<int>(std::floor(static_cast<double>
 
 }  // namespace
 
-AnalysisForm::AnalysisForm(IHost& host, IPrinter& printer, Settings& settings, PlayerServices& players,
-                           LastStudentInfo& remembered, INavigation& navigation, QWidget* parent)
-    : PageWidget(parent),
-      host_(host),
-      printer_(printer),
-      settings_(settings),
-      players_(players),
-      remembered_(remembered) {
+AnalysisForm::AnalysisForm(IHost& host, Settings& settings, PlayerServices& players, LastStudentInfo& remembered,
+                           INavigation& navigation, QWidget* parent)
+    : PageWidget(parent), host_(host), settings_(settings), players_(players), remembered_(remembered) {
   setObjectName("AnalysisForm");
   edits_ = std::make_unique<EditForms>();
   compare_ = std::make_unique<CompareForms>(host);
@@ -391,12 +385,6 @@ void AnalysisForm::ShowRateForm() {
   RateForm form(transport.TrueRate(), transport.RateOfFile(), this);
   if (form.exec() == QDialog::Accepted) analysis_->Transport().SetTrueRate(form.Rate());
   FocusKeyBox();
-}
-
-void AnalysisForm::ShowNotesform() {
-  const Slot& at = analysis_->Stage().Current();
-  Notesform form(host_, printer_, Q(at.path.empty() ? "" : NameOfVideo(at.path)), BoxText(at.data.Notes), this);
-  form.exec();
 }
 
 // ---------------------------------------------------------------- open panel

@@ -21,7 +21,6 @@ class CommandMenus;
 class DrawCaption;
 class EditForms;
 class FloatCard;
-class IPrinter;
 class NotesPanel;
 class OpenVideoParts;
 class PlayBar;
@@ -39,7 +38,7 @@ class AnalysisForm : public PageWidget, private IWorkspaceView, private IOpenVid
   /// What is passed must outlive the form. The form may be let go at any time from the event loop; videos
   /// that are still open are written then, without a question.
   /// @param remembered  the program's one remembered library selection
-  AnalysisForm(IHost& host, IPrinter& printer, Settings& settings, PlayerServices& players, LastStudentInfo& remembered,
+  AnalysisForm(IHost& host, Settings& settings, PlayerServices& players, LastStudentInfo& remembered,
                INavigation& navigation, QWidget* parent = nullptr);
   ~AnalysisForm() override;
 
@@ -112,7 +111,6 @@ class AnalysisForm : public PageWidget, private IWorkspaceView, private IOpenVid
   void SetVideoRuler(const std::string& words) override;
   void ShowHint(int slot, const std::string& words, const std::string& command) override;
   void ShowRateForm() override;
-  void ShowNotesform() override;
   void ShowOpenPanel() override;
   void ShowWindowMenu() override;
   void OpenFromDisk() override;
@@ -130,7 +128,6 @@ class AnalysisForm : public PageWidget, private IWorkspaceView, private IOpenVid
   void OpenVideoDone() override;
 
   IHost& host_;
-  IPrinter& printer_;
   Settings& settings_;
   PlayerServices& players_;
   LastStudentInfo& remembered_;

@@ -73,6 +73,9 @@ class Stage {
   /// Slots that the present layout shows; 1 in "MAX".
   int SlotsShown() const;
   bool IsShown(int slot) const;
+  /// Size of the stage, twips.
+  int PanelWidth() const { return view_.MainPanelWidth(); }
+  int PanelHeight() const { return view_.MainPanelHeight(); }
   /// Changes the layout; without `Force` a second press of the present one only takes the focus back.
   /// A current window that the new layout does not show gives way to window 1. What has the stage to itself
   /// loses it, and comes home to the new layout.

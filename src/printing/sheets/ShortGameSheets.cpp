@@ -1,0 +1,138 @@
+#include "printing/sheets/ShortGameSheets.h"
+
+#include <algorithm>
+#include <cctype>
+#include <utility>
+
+#include "platform/files/Folders.h"
+#include "platform/host/DriveWatch.h"
+#include "platform/paint/Blend.h"
+#include "platform/paint/ImageFiles.h"
+
+namespace kinalyx {
+namespace {
+
+constexpr const char* kFolder = "School Pics";
+constexpr const char* kNoVideo = "You must have a video open in window 1 to continue.";
+
+/// What is fixed of a sheet.
+struct SheetKind {
+  ShortGame kind;
+  const char* title;
+  const char* firstFile;
+  const char* secondFile;  ///< empty: one day alone
+  const char* firstLabel;
+  const char* secondLabel;
+  const char* model;  ///< empty: none
+};
+
+constexpr SheetKind kKinds[] = {
+    {ShortGame::Putting, "PUTTING", "PuttingFaceOn.bmp", "PuttingDownTheLine.bmp", "Face On", "Down the Line", ""},
+    {ShortGame::DistanceWedge, "DISTANCE WEDGE", "DistanceWedgeDay1.bmp", "DistanceWedgeDay3.bmp", "1st DAY", "3rd DAY",
+     "wedgemodel.bmp"},
+    {ShortGame::BunkerShot, "BUNKER SHOT", "BunkerShotDay1.bmp", "BunkerShotDay3.bmp", "1st DAY", "3rd DAY",
+     "bunkermodel.bmp"},
+    {ShortGame::ChipShot, "CHIP SHOT", "ChipShotDay1.bmp", "", "1st DAY", "", "chipmodel.bmp"},
+};
+
+const SheetKind& KindOf(ShortGame kind) { return *std::ranges::find(kKinds, kind, &SheetKind::kind); }
+
+Surface PartOf(const Surface& all, const StagePictures::Part& part) {
+  Surface cut(part.width, part.height);
+  if (cut.Empty()) return cut;
+  cut.Clear(StagePictures::kPaperWhite);
+  CopyPart(all, part.left, part.top, part.width, part.height, cut, 0, 0);
+  return cut;
+}
+
+bool EndsInBmp(const std::string& path) {
+  std::string end = path.substr(path.size() - std::min<std::size_t>(path.size(), 4));
+  std::ranges::transform(end, end.begin(),
+                         [](unsigned char letter) { return static_cast<char>(std::tolower(letter)); });
+  return end == ".bmp";
+}
+
+}  // namespace
+
+ShortGameSheets::Rows ShortGameSheets::TakeRows() {
+  Surface all = pictures_.All();
+  const std::vector<int> shown = pictures_.Shown();
+  const ScreenMode* layout = FindScreenMode(stage_.ScreenLayout);
+  if (stage_.Home().Away() || !layout) return {std::move(all), {}};
+  if (layout->Rows > 1) {
+    const int half = all.Height() / 2;
+    const int middle = stage_.PanelHeight() / 2;
+    const bool lower = std::ranges::any_of(
+        shown, [&](int slot) { return stage_.At(slot).cell.Top + stage_.At(slot).cell.Height / 2 > middle; });
+    return {PartOf(all, {0, 0, all.Width(), half}),
+            lower ? PartOf(all, {0, half, all.Width(), all.Height() - half}) : Surface()};
+  }
+  std::vector<int> first, second;
+  for (const int slot : shown) {
+    const std::string& path = stage_.At(slot).path;
+    if (path == stage_.At(1).path) first.push_back(slot);
+    else if (second.empty() || path == stage_.At(second.front()).path) second.push_back(slot);
+  }
+  if (second.empty()) return {std::move(all), {}};
+  return {PartOf(all, pictures_.PartOf(first)), PartOf(all, pictures_.PartOf(second))};
+}
+
+std::string ShortGameSheets::SchoolPics() const { return JoinPath(FolderOf(stage_.At(1).path), kFolder); }
+
+std::string ShortGameSheets::ModelPath(ShortGame Kind, bool LeftyPrint) const {
+  return JoinPath(settings_.AppPath,
+                  std::string("pictures/BriskoModel/") + (LeftyPrint ? "L" : "") + KindOf(Kind).model);
+}
+
+Outcome ShortGameSheets::SaveRow(const Surface& row, const std::string& name) {
+  return SaveBmp(RowsOf(row), JoinPath(SchoolPics(), name));
+}
+
+void ShortGameSheets::BriskoSaveScreen(ShortGame Kind) {
+  if (!VideoInFirst()) return host_.Message(MessageKind::Information, "", kNoVideo);
+  const SheetKind& kind = KindOf(Kind);
+  const Rows rows = TakeRows();
+  Outcome saved;
+  if (!host_.Drives().Answers(FolderOf(stage_.At(1).path))) {
+    saved = Outcome::Failed("The drive of the student's folder does not answer.");
+  } else {
+    saved = MakeFolder(SchoolPics()) ? SaveRow(rows.first, kind.firstFile)
+                                     : Outcome::Failed("The folder \"School Pics\" cannot be made.");
+    if (saved && *kind.secondFile && !rows.second.Empty()) saved = SaveRow(rows.second, kind.secondFile);
+  }
+  if (saved) host_.Message(MessageKind::Information, "", "Pictures saved Successfully!");
+  else host_.Message(MessageKind::Warning, "", "The pictures could not be saved. " + saved.Why());
+}
+
+Result<SheetPrintout> ShortGameSheets::MakeSheet(ShortGame Kind, bool LeftyPrint) {
+  if (!VideoInFirst()) return Outcome{Fault::Refused, kNoVideo};
+  const SheetKind& kind = KindOf(Kind);
+  Rows taken = TakeRows();
+  SheetPrintout::Rows rows;
+  rows[0] = {std::move(taken.first), kind.firstLabel};
+  if (*kind.secondLabel) {
+    if (taken.second.Empty()) {
+      const std::string path = JoinPath(SchoolPics(), kind.secondFile);
+      const auto kept = host_.Drives().Ask(SchoolPics(), [path] { return LoadPicture(path); });
+      if (kept && *kept) taken.second = **kept;
+    }
+    rows[1] = {std::move(taken.second), kind.secondLabel};
+  }
+  if (*kind.model) {
+    const std::string path = ModelPath(Kind, LeftyPrint);
+    auto model = LoadPicture(path);
+    if (!model) return Outcome::Failed("The model picture cannot be loaded: " + path);
+    rows[2] = {std::move(*model), "Model Swing"};
+  }
+  return SheetPrintout(kind.title, std::move(rows));
+}
+
+void ShortGameSheets::BriskoModel() {
+  const Surface all = pictures_.All();
+  const auto chosen = host_.PickNewFile({"Save Bitmap", JoinPath(settings_.AppPath, "pictures/"), "BMP (*.bmp)|*.BMP"});
+  if (!chosen) return;
+  const Outcome saved = SaveBmp(RowsOf(all), EndsInBmp(*chosen) ? *chosen : *chosen + ".bmp");
+  if (!saved) host_.Message(MessageKind::Warning, "", "The picture could not be saved. " + saved.Why());
+}
+
+}  // namespace kinalyx
