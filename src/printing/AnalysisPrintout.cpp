@@ -56,11 +56,11 @@ AnalysisPrintout::AnalysisPrintout(std::string title, PageHeading heading, Surfa
 
 void AnalysisPrintout::PrintOn(IPage& page) const {
   PrintHeading(page, heading_);
+  PrintPicture(page);  // beneath the rules, which it touches
   page.Line({kLeftRule, kRulesTop}, {kLeftRule, kRulesBottom});
   page.Line({kRightRule, kRulesTop}, {kRightRule, kRulesBottom});
   for (const double y : kRulesAbovePicture) page.Line({kLeftRule, y}, {kRightRule, y});
   page.Box({kLeftRule, pictureBottom_, kRightRule - kLeftRule, kRulesBottom - pictureBottom_});
-  PrintPicture(page);
   if (notes_.Blank()) return;
   page.Print({kNotesTitleLeft, pictureBottom_ + kNotesTitleDown}, "Analysis Notes");
   page.SetFont(PrintFont(kNotesPoints));

@@ -11,14 +11,14 @@
 
 namespace kinalyx {
 
-// A page is that of a Letter printer, which leaves the outermost quarter of an inch of the paper white. Its origin is
-// the corner of what can be printed; lengths are inches, x to the right and y downward. On other paper, and on a
-// printer that reaches less, the page is moved and, where it must, made smaller as a whole: nothing is cut off.
+// A page is that of a Letter printer, which leaves the outermost sixth of an inch of the paper white. Its origin is the
+// corner of what can be printed; lengths are inches, x to the right and y downward. The page comes to lie in the middle
+// of whatever paper there is; on a printer that reaches less it is made smaller as a whole: nothing is cut off.
 
 inline constexpr double kPaperWidth = 8.5;
 inline constexpr double kPaperHeight = 11.0;
 /// From the edges of the paper to the origin.
-inline constexpr double kPhysicalOffset = 0.25;
+inline constexpr double kPhysicalOffset = 1.0 / 6;
 inline constexpr double kTwipsPerInch = 1440;
 
 struct PagePoint {

@@ -100,8 +100,12 @@ void PagePainter::Fill(const PageBox& box, Colour colour) { painter_.fillRect(Do
 
 void PagePainter::PaintPicture(const Surface& picture, const PageBox& box) {
   if (picture.Empty()) return;
-  painter_.drawImage(Dots(box),
-                     QImage(picture.Row(0), picture.Width(), picture.Height(), picture.Stride(), QImage::Format_RGB32));
+  QImage image(picture.Row(0), picture.Width(), picture.Height(), picture.Stride(), QImage::Format_RGB32);
+  // On a small sheet of a preview thin lines would fall between the pixels.
+  const QSize shown = painter_.transform().mapRect(Dots(box)).size().toSize();
+  if (2 * shown.width() < 3 * image.width() && !shown.isEmpty())
+    image = image.scaled(shown, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  painter_.drawImage(Dots(box), image);
 }
 
 double PagePainter::TextWidth(std::string_view text) {

@@ -1,5 +1,6 @@
 #include "platform/print/PrintPages.h"
 
+#include <QFileInfo>
 #include <QLocale>
 #include <QSaveFile>
 #include <QTemporaryFile>
@@ -30,6 +31,9 @@ Outcome NotWritten(const QString& path, const QString& why) {
 
 Outcome PrintToPdf(const IPrintout& printout, Paper paper, const std::string& path) {
   QSaveFile file(QString::fromStdString(path));
+  // Renaming over it would put a file in the place of a device or a pipe.
+  const QFileInfo old(file.fileName());
+  if (old.exists() && !old.isFile()) return NotWritten(file.fileName(), "That name is not a file's.");
   if (!file.open(QIODevice::WriteOnly)) return NotWritten(file.fileName(), file.errorString());
   // A full disk is told by the file, not by who paints on it.
   const bool written = WritePdf(printout, paper, Whole(paper), file);

@@ -2,6 +2,7 @@
 
 #include <QBoxLayout>
 #include <QComboBox>
+#include <QShortcut>
 #include <QTextEdit>
 #include <functional>
 
@@ -77,7 +78,9 @@ QHBoxLayout* Notesform::MakeFormatRow() {
     button->setCheckable(true);
     button->setToolTip(QString("%1 (%2)").arg(tip, key.toString(QKeySequence::NativeText)));
     button->setAccessibleName(tip);
-    button->setShortcut(key);
+    // At once, for who goes on typing; a shortcut of the button's own would hold it down for a moment.
+    connect(new QShortcut(key, notes_, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, button,
+            &QPushButton::click);
     button->setFocusPolicy(Qt::TabFocus);
     FixWidth(button, kButtonHeight);
     QFont font = button->font();

@@ -1,5 +1,7 @@
 #include "printing/sheets/ShortGameSheets.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <cctype>
 #include <utility>
@@ -43,6 +45,11 @@ Surface PartOf(const Surface& all, const StagePictures::Part& part) {
   cut.Clear(StagePictures::kPaperWhite);
   CopyPart(all, part.left, part.top, part.width, part.height, cut, 0, 0);
   return cut;
+}
+
+Result<Surface> ReadPicture(const std::string& path) {
+  constexpr int kMost = 4096;  // pixels of a side
+  return LoadPicture(path, kMost, StagePictures::kPaperWhite);
 }
 
 bool EndsInBmp(const std::string& path) {
@@ -113,15 +120,15 @@ Result<SheetPrintout> ShortGameSheets::MakeSheet(ShortGame Kind, bool LeftyPrint
   if (*kind.secondLabel) {
     if (taken.second.Empty()) {
       const std::string path = JoinPath(SchoolPics(), kind.secondFile);
-      const auto kept = host_.Drives().Ask(SchoolPics(), [path] { return LoadPicture(path); });
+      const auto kept = host_.Drives().Ask(SchoolPics(), [path] { return ReadPicture(path); });
       if (kept && *kept) taken.second = **kept;
     }
     rows[1] = {std::move(taken.second), kind.secondLabel};
   }
   if (*kind.model) {
     const std::string path = ModelPath(Kind, LeftyPrint);
-    auto model = LoadPicture(path);
-    if (!model) return Outcome::Failed("The model picture cannot be loaded: " + path);
+    auto model = ReadPicture(path);
+    if (!model) return Outcome::Failed(fmt::format("The model picture {} cannot be loaded: {}", path, model.Why()));
     rows[2] = {std::move(*model), "Model Swing"};
   }
   return SheetPrintout(kind.title, std::move(rows));
