@@ -70,6 +70,7 @@ QLayout* ReportForm::MakeListSide() {
   list_->setObjectName("ReportList");
   list_->setDragDropMode(QAbstractItemView::InternalMove);
   list_->setDefaultDropAction(Qt::MoveAction);
+  list_->setSpacing(3);
   LeastWidth(list_, 380);
   LeastHeight(list_, 300);
   rows->addWidget(list_, 1);

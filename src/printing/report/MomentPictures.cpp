@@ -46,13 +46,13 @@ Surface MomentPictures::PictureAt(const std::string& path, VideoMoment moment) {
   return Open(player, path) ? Show(player, moment) : Surface();
 }
 
-Surface MomentPictures::PictureAtMark(const std::string& path, const std::string& mark) {
+Surface MomentPictures::PictureAtMark(const std::string& path, const std::string& mark, double part) {
   AVIControl player(services_, nullptr);
   if (!Open(player, path)) return {};
   const auto& marks = data_.Study.Marks;
   const auto found = mark.empty() ? marks.begin() : std::ranges::find(marks, mark, &VideoMark::Name);
-  return Show(player,
-              found == marks.end() ? VideoMoment::At(player.VideoLength() / 2, player.SplitFields()) : found->Moment);
+  const int position = static_cast<int>(std::lround(part * (player.VideoLength() - 1)));
+  return Show(player, found == marks.end() ? VideoMoment::At(position, player.SplitFields()) : found->Moment);
 }
 
 void MomentPictures::PreDrawFrame(Canvas& hDC, int) {

@@ -21,9 +21,9 @@ class MomentPictures final : private IFrameInterface {
   /// The picture of a moment at the video's own size, or somewhat smaller; empty where the video cannot be opened.
   /// The moment of a video that has become shorter is its last one.
   Surface PictureAt(const std::string& path, VideoMoment moment);
-  /// The same of the middle of the video, where `mark` is no name of one of its marks; then of that mark. An empty
-  /// name takes the first mark.
-  Surface PictureAtMark(const std::string& path, const std::string& mark);
+  /// The same of a mark: of the one with this name, or for an empty name of the first. Where there is none, of the
+  /// position at this part of the video, 0 to 1.
+  Surface PictureAtMark(const std::string& path, const std::string& mark, double part);
 
  private:
   bool Open(AVIControl& player, const std::string& path);

@@ -11,6 +11,7 @@
 #include "library/VideoNames.h"
 #include "platform/files/Folders.h"
 #include "platform/host/DriveWatch.h"
+#include "platform/paint/Blend.h"
 
 namespace kinalyx {
 namespace {
@@ -36,6 +37,21 @@ std::vector<StudentVideo> VideosIn(const std::string& folder) {
   }
   std::ranges::stable_sort(videos, {}, &StudentVideo::written);
   return videos;
+}
+
+/// A picture without the white rows above and below it.
+Surface WithoutWhite(const Surface& picture) {
+  const auto white = [&](int y) {
+    const std::uint8_t* row = picture.Row(y);
+    return std::all_of(row, row + picture.Stride(), [](std::uint8_t byte) { return byte == 255; });
+  };
+  int top = 0, bottom = picture.Height();
+  while (top < bottom && white(top)) ++top;
+  while (bottom > top && white(bottom - 1)) --bottom;
+  Surface cut(picture.Width(), bottom - top);
+  if (cut.Empty()) return picture;
+  CopyPart(picture, 0, top, cut.Width(), cut.Height(), cut, 0, 0);
+  return cut;
 }
 
 std::string NameOfKind(const Shape& shape) {
@@ -144,16 +160,18 @@ std::vector<ReportMeasures::Row> ReportMaker::Measures() const {
 ReportPair ReportMaker::ThenAndNow(const ReportItem& item) {
   const int slot = Subject();
   const Slot& at = parts_.stage.At(slot);
-  // Where the present stands on a mark with a name, the other day is seen at the mark of that name.
+  // Where the present stands on a mark with a name, the other day is seen at the mark of that name. Without any marks
+  // it is as far on as the present one.
   const VideoMoment here = VideoMoment::At(at.MP->Position(), at.MP->SplitFields());
   const auto mark = std::ranges::find(at.data.Study.Marks, here, &VideoMark::Moment);
   const auto caption = [](const std::string& path) {
     const auto stamp = StampOf(path);
     return VideoName(LastName(path)) + (stamp ? ", " + DayText(stamp->written / kNanosecondsPerSecond) : "");
   };
+  const std::string name = mark == at.data.Study.Marks.end() ? "" : mark->Name;
+  const double part = at.MP->VideoLength() > 1 ? 1.0 * at.MP->Position() / (at.MP->VideoLength() - 1) : 0;
   const bool answers = parts_.services.host.Drives().Answers(FolderOf(item.path));
-  Surface then =
-      answers ? moments_.PictureAtMark(item.path, mark == at.data.Study.Marks.end() ? "" : mark->Name) : Surface();
+  Surface then = answers ? moments_.PictureAtMark(item.path, name, part) : Surface();
   const std::string words = then.Empty() ? "This video cannot be read" : caption(item.path);
   return {"Then and Now", {std::move(then), words}, {parts_.pictures.Window(slot), caption(at.path)}};
 }
@@ -164,7 +182,7 @@ ReportSection ReportMaker::SectionOf(const ReportItem& item, const RichText& not
       std::string names;
       for (const int slot : parts_.pictures.Shown())
         names += (names.empty() ? "" : " \u00B7 ") + NameOfVideo(parts_.stage.At(slot).path);
-      return ReportPicture{parts_.pictures.All(), names};
+      return ReportPicture{WithoutWhite(parts_.pictures.All()), names};
     }
     case ReportItem::Kind::Window: return ReportPicture{parts_.pictures.Window(item.slot), CaptionOf(item.slot)};
     case ReportItem::Kind::Moment: return ReportPicture{moments_.PictureAt(item.path, item.moment), item.caption};

@@ -24,6 +24,7 @@ constexpr double kGapBelow = 0.25;
 constexpr double kPictureHeight = 3.3;  // two of them find room on a page
 constexpr double kPairHeight = 4.2;
 constexpr double kPairGap = 0.2;
+constexpr double kTitleRoom = 0.35;
 constexpr double kRowPadding = 0.05;
 constexpr Colour kGrey = Rgb(96, 96, 96);
 constexpr Colour kLightGrey = Rgb(232, 232, 232);
@@ -69,14 +70,13 @@ class Flow {
 
   void Add(const ReportPicture& section) {
     if (section.picture.Empty()) return;
-    const double caption = CaptionHeight(section);
-    Need(std::min(kPictureHeight, kWidth * section.picture.Height() / section.picture.Width()) + caption);
+    Need(HeightOf(section, kWidth, kPictureHeight));
     y_ += PlacePicture(section, kLeft, kWidth, kPictureHeight) + kGapBelow;
   }
 
   void Add(const ReportPair& section) {
     const double half = (kWidth - kPairGap) / 2;
-    Need(kPairHeight + 0.6);
+    Need(std::max(HeightOf(section.then, half, kPairHeight), HeightOf(section.now, half, kPairHeight)) + kTitleRoom);
     SectionTitle(section.title);
     const double left = PlacePicture(section.then, kLeft, half, kPairHeight);
     const double right = PlacePicture(section.now, kLeft + half + kPairGap, half, kPairHeight);
@@ -162,6 +162,13 @@ class Flow {
     page_.SetFont(PrintFont(kTextPoints));
     page_.SetDrawWidth(kHairline);
     y_ += row;
+  }
+
+  /// Of a picture with its words in a room of this size.
+  double HeightOf(const ReportPicture& section, double width, double height) {
+    const double shown =
+        section.picture.Empty() ? 0 : std::min(height, width * section.picture.Height() / section.picture.Width());
+    return shown + CaptionHeight(section);
   }
 
   double CaptionHeight(const ReportPicture& section) {
