@@ -27,6 +27,8 @@ class BenchStage {
 
   AnalysisForm& Form() { return form_; }
   AnalysisWorkspace& Section() { return form_.Section(); }
+  IHost& Host() { return *host_; }
+  const Settings& OwnSettings() const { return settings_; }
   /// Throws when the video cannot be opened.
   void Open(int slot, const std::string& path) {
     if (!Section().Videos().OpenVideo(slot, path)) throw std::runtime_error("a video could not be opened");

@@ -95,6 +95,10 @@ TEST_F(PrintFormsTest, PagesAreSeenBeforeTheyArePrinted) {
   Find<QComboBox>("PaperBox")->setCurrentText("Letter");
   EXPECT_NE(Find<QLabel>("Sheet2")->size(), a4);
   EXPECT_EQ(Find<QComboBox>("PrinterBox")->currentText(), "Attic") << "as last time";
+  for (int zoom = 0; zoom < Find<QComboBox>("ZoomBox")->count(); ++zoom) {
+    Find<QComboBox>("ZoomBox")->setCurrentIndex(zoom);
+    EXPECT_EQ(preview.grab().toImage().pixelColor(Find<QLabel>("Sheet1")->mapTo(&preview, QPoint(40, 40))), Qt::white);
+  }
 
   QSignalSpy begun(&preview, &PreviewForm::PrintingBegins);
   QSignalSpy ended(&preview, &PreviewForm::PrintingEnds);

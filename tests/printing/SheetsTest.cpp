@@ -108,8 +108,10 @@ TEST_F(SheetsTest, ADayThatIsNotOnTheStageComesFromItsBitmap) {
   Open(3, "Distance Wedge Day 3.avi");
   const RecordedPage rows = Sheet(ShortGame::DistanceWedge);
   EXPECT_EQ(rows.pictures[0].width, 1200);
-  EXPECT_EQ(rows.pictures[0].height, 300);
-  EXPECT_EQ(rows.pictures[1].height, 300);
+  for (const int row : {0, 1}) {
+    EXPECT_LE(rows.pictures[std::size_t(row)].height, 300) << "half of the stage";
+    EXPECT_GE(rows.pictures[std::size_t(row)].height, 200);
+  }
 }
 
 TEST_F(SheetsTest, AModelIsKeptAsABitmapWhateverItsNameEndsWith) {

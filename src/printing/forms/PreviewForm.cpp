@@ -41,7 +41,7 @@ double PaperHeightOf(Paper paper) { return paper == Paper::A4 ? 11.69 : kPaperHe
 
 QLabel* MakeSheet(const Surface& page, qreal ratio, int number, int count) {
   QImage image(page.Row(0), page.Width(), page.Height(), page.Stride(), QImage::Format_RGB32);
-  QPixmap pixmap = QPixmap::fromImage(image);  // copies
+  QPixmap pixmap = QPixmap::fromImage(image.copy());  // the page goes
   pixmap.setDevicePixelRatio(ratio);
   auto* sheet = new QLabel;
   sheet->setObjectName(QString("Sheet%1").arg(number));

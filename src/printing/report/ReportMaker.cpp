@@ -11,7 +11,6 @@
 #include "library/VideoNames.h"
 #include "platform/files/Folders.h"
 #include "platform/host/DriveWatch.h"
-#include "platform/paint/Blend.h"
 
 namespace kinalyx {
 namespace {
@@ -37,21 +36,6 @@ std::vector<StudentVideo> VideosIn(const std::string& folder) {
   }
   std::ranges::stable_sort(videos, {}, &StudentVideo::written);
   return videos;
-}
-
-/// A picture without the white rows above and below it.
-Surface WithoutWhite(const Surface& picture) {
-  const auto white = [&](int y) {
-    const std::uint8_t* row = picture.Row(y);
-    return std::all_of(row, row + picture.Stride(), [](std::uint8_t byte) { return byte == 255; });
-  };
-  int top = 0, bottom = picture.Height();
-  while (top < bottom && white(top)) ++top;
-  while (bottom > top && white(bottom - 1)) --bottom;
-  Surface cut(picture.Width(), bottom - top);
-  if (cut.Empty()) return picture;
-  CopyPart(picture, 0, top, cut.Width(), cut.Height(), cut, 0, 0);
-  return cut;
 }
 
 std::string NameOfKind(const Shape& shape) {
@@ -182,7 +166,7 @@ ReportSection ReportMaker::SectionOf(const ReportItem& item, const RichText& not
       std::string names;
       for (const int slot : parts_.pictures.Shown())
         names += (names.empty() ? "" : " \u00B7 ") + NameOfVideo(parts_.stage.At(slot).path);
-      return ReportPicture{WithoutWhite(parts_.pictures.All()), names};
+      return ReportPicture{StagePictures::WithoutWhite(parts_.pictures.All()), names};
     }
     case ReportItem::Kind::Window: return ReportPicture{parts_.pictures.Window(item.slot), CaptionOf(item.slot)};
     case ReportItem::Kind::Moment: return ReportPicture{moments_.PictureAt(item.path, item.moment), item.caption};

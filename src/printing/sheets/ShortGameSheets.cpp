@@ -44,7 +44,7 @@ Surface PartOf(const Surface& all, const StagePictures::Part& part) {
   if (cut.Empty()) return cut;
   cut.Clear(StagePictures::kPaperWhite);
   CopyPart(all, part.left, part.top, part.width, part.height, cut, 0, 0);
-  return cut;
+  return StagePictures::WithoutWhite(cut);
 }
 
 Result<Surface> ReadPicture(const std::string& path) {
@@ -62,10 +62,10 @@ bool EndsInBmp(const std::string& path) {
 }  // namespace
 
 ShortGameSheets::Rows ShortGameSheets::TakeRows() {
-  Surface all = pictures_.All();
+  const Surface all = pictures_.All();
   const std::vector<int> shown = pictures_.Shown();
   const ScreenMode* layout = FindScreenMode(stage_.ScreenLayout);
-  if (stage_.Home().Away() || !layout) return {std::move(all), {}};
+  if (stage_.Home().Away() || !layout) return {StagePictures::WithoutWhite(all), {}};
   if (layout->Rows > 1) {
     const int half = all.Height() / 2;
     const int middle = stage_.PanelHeight() / 2;
@@ -80,7 +80,7 @@ ShortGameSheets::Rows ShortGameSheets::TakeRows() {
     if (path == stage_.At(1).path) first.push_back(slot);
     else if (second.empty() || path == stage_.At(second.front()).path) second.push_back(slot);
   }
-  if (second.empty()) return {std::move(all), {}};
+  if (second.empty()) return {StagePictures::WithoutWhite(all), {}};
   return {PartOf(all, pictures_.PartOf(first)), PartOf(all, pictures_.PartOf(second))};
 }
 

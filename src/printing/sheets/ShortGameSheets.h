@@ -39,7 +39,7 @@ class ShortGameSheets {
     Surface second;  ///< empty: only one is there
   };
   Rows TakeRows();
-  Surface Part(const Surface& all, const std::vector<int>& slots) const;
+
   bool VideoInFirst() const { return stage_.HasVideo(1); }
   std::string SchoolPics() const;
   std::string ModelPath(ShortGame Kind, bool LeftyPrint) const;

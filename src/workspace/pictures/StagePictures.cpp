@@ -111,6 +111,21 @@ void StagePictures::AddFilm(Surface& grid) {
            static_cast<int>(kFilmTop * ratio) + (room - film.Height()) / 2);
 }
 
+Surface StagePictures::WithoutWhite(const Surface& picture) {
+  const auto white = [&](int y) {
+    const std::uint8_t* row = picture.Row(y);
+    return std::all_of(row, row + picture.Stride(), [](std::uint8_t byte) { return byte == 255; });
+  };
+  int top = 0;
+  int bottom = picture.Height();
+  while (top < bottom && white(top)) ++top;
+  while (bottom > top && white(bottom - 1)) --bottom;
+  Surface cut(picture.Width(), bottom - top);
+  if (cut.Empty()) return picture;
+  CopyPart(picture, 0, top, cut.Width(), cut.Height(), cut, 0, 0);
+  return cut;
+}
+
 StagePictures::Part StagePictures::PartOf(const std::vector<int>& slots) const {
   if (slots.empty()) return {};
   int left = INT32_MAX, top = INT32_MAX, right = 0, bottom = 0;

@@ -28,6 +28,9 @@ class StagePictures {
   /// piece that was carved over them.
   Surface All();
 
+  /// A picture without the white rows above and below what is in it.
+  static Surface WithoutWhite(const Surface& picture);
+
   /// The windows with a video that are in sight, in their order.
   std::vector<int> Shown() const;
   /// The part of `All` that the cells of these windows take; a width of 0 without any.
