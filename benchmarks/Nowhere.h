@@ -7,6 +7,7 @@ namespace kinalyx::bench {
 /// Other pages for an analysis section that stands alone.
 struct Nowhere final : INavigation {
   void GoToLibrary() override {}
+  void GoToCapture() override {}
   void GoToMainMenu() override {}
   void GoToHelp() override {}
   void ExitAnalysis() override {}

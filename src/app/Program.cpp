@@ -141,7 +141,9 @@ void Program::LoadMain() {
   auto* fieldsEditor = new FieldsEditor(*host_, fields_);
   QObject::connect(fieldsEditor, &FieldsEditor::FieldsChanged, profiles_, &ProfilesPage::SetupFields);
   setup_->SetSection(SetupPage::kProfiles, fieldsEditor);
-  setup_->SetSection(SetupPage::kCapture, capture_->MakeSection());
+  CaptureSection* captureSection = capture_->MakeSection();
+  QObject::connect(captureSection, &CaptureSection::CaptureWanted, captureSection, [this] { GoToCapture(); });
+  setup_->SetSection(SetupPage::kCapture, captureSection);
   main_->SetPage(kSetupPage, setup_);
   ConnectSetupPage();
 
@@ -289,6 +291,7 @@ void Program::OpenFiles(const std::vector<std::string>& paths) {
 }
 
 void Program::GoToLibrary() { OpenPage(kProfilesPage); }
+void Program::GoToCapture() { OpenPage(kCapturePage); }
 void Program::GoToMainMenu() { OpenPage(kMenuPage); }
 void Program::GoToHelp() { OpenPage(kHelpPage); }
 

@@ -90,6 +90,7 @@ class Program final : private ISettingsEvents,
 
   // --- INavigation
   void GoToLibrary() override;
+  void GoToCapture() override;
   void GoToMainMenu() override;
   void GoToHelp() override;
   void ExitAnalysis() override;

@@ -93,6 +93,7 @@ struct AnalysisFormFixture : testing::Test, UsesApplication, FormDriver, INaviga
  private:
   QWidget& Form() override { return *form; }
   void GoToLibrary() override { went = "library"; }
+  void GoToCapture() override { went = "capture"; }
   void GoToMainMenu() override { went = "menu"; }
   void GoToHelp() override { went = "help"; }
   void ExitAnalysis() override { went = "exit"; }

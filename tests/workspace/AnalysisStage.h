@@ -269,7 +269,7 @@ class AnalysisStage : private IFrameInterface, private INavigation {
   FakeCompareView compareView;
   FakeEditWindows edits;
   std::vector<std::string> offers;  ///< to bring back what was closed
-  int libraryVisits = 0, menuVisits = 0, helpVisits = 0, exits = 0, quits = 0;
+  int libraryVisits = 0, captureVisits = 0, menuVisits = 0, helpVisits = 0, exits = 0, quits = 0;
   IHandouts handouts;
   AnalysisWorkspace analysis;
 
@@ -288,6 +288,7 @@ class AnalysisStage : private IFrameInterface, private INavigation {
   void Notify(int Frame, int ID) override { analysis.Notify(Frame, ID); }
   void StrobeEnded(int ID) override { analysis.StrobeEnded(ID); }
   void GoToLibrary() override { ++libraryVisits; }
+  void GoToCapture() override { ++captureVisits; }
   void GoToMainMenu() override { ++menuVisits; }
   void GoToHelp() override { ++helpVisits; }
   void ExitAnalysis() override { ++exits; }

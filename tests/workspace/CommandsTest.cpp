@@ -52,7 +52,8 @@ TEST(CommandsTest, EveryKeyOfTheTableDoesItsWork) {
   EXPECT_EQ(stage.window.marks.size(), 1u);
   stage.Key(kKeyHome);
   stage.Key(kKeyEnd);
-  EXPECT_EQ(stage.libraryVisits + stage.menuVisits, 2);
+  stage.Key(kKeyPageUp);
+  EXPECT_EQ((std::array{stage.libraryVisits, stage.menuVisits, stage.captureVisits}), (std::array{1, 1, 1}));
   stage.Type('o');
   EXPECT_EQ(stage.window.openPanels, 1);
 

@@ -194,7 +194,7 @@ void MenuBar::AddGoTo() {
     Add({item, kGoTo, caption, "", icon, "", kNoButton, std::move(page)});
   };
   to("VLib", "Student Profiles - Home key", "students", [this] { navigation_.GoToLibrary(); });
-  to("CG", "Capture Video - Page Up key", "camera", nullptr);
+  to("CG", "Capture Video - Page Up key", "camera", [this] { navigation_.GoToCapture(); });
   to("PDkeyA", "Analyze Video - Page Down key", "analyze", [this] { stage_.FocusKeyBox(); });
   to("EKTMM", "Main Menu - End key", "home", [this] { navigation_.GoToMainMenu(); });
   to("GoHelp", "Help and Demos", "help", [this] { navigation_.GoToHelp(); });

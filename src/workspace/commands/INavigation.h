@@ -11,6 +11,7 @@ class INavigation {
  public:
   virtual ~INavigation() = default;
   virtual void GoToLibrary() = 0;
+  virtual void GoToCapture() = 0;
   virtual void GoToMainMenu() = 0;
   virtual void GoToHelp() = 0;
   /// The analysis section is left: its videos are closed, and its window may go at the next turn of the
