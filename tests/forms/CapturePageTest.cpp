@@ -1,6 +1,10 @@
 #include "capture/forms/CapturePage.h"
 
+#include <QCheckBox>
 #include <QComboBox>
+#include <QLabel>
+#include <QSlider>
+#include <QTest>
 
 #include <fstream>
 
@@ -8,9 +12,11 @@
 #include "../library/TempLibrary.h"
 #include "FormDriver.h"
 #include "FormsSupport.h"
+#include "capture/forms/CameraControlsForm.h"
 #include "capture/forms/CaptureSection.h"
 #include "capture/forms/FindCamForm.h"
 #include "library/Profile.h"
+#include "library/forms/TrimSlider.h"
 #include "platform/files/Folders.h"
 #include "support/TestVideos.h"
 
@@ -93,6 +99,48 @@ TEST_F(CapturePageTest, ShowsWhatBelongsToEachPhase) {
   library.host.Advance(1000);
   Press("Capturebtn");
   EXPECT_EQ(Button("Capturebtn"), "Start Capture");
+}
+
+TEST_F(CapturePageTest, TheEndsOfARecordingAreDragged) {
+  Record();
+  auto* bar = Find<TrimSlider>("VidScroll");
+  EXPECT_EQ(bar->Frames(), 12);
+  bar->SetStart(3);
+  bar->SetEnd(8);
+  EXPECT_EQ(Button("StartHerebtn"), "Start at 3");
+  EXPECT_EQ(Button("EndHerebtn"), "End at 8");
+  emit bar->Sought(5);
+  EXPECT_EQ(Text("VidFrameLbl"), "6 of 12");
+  page->StartHerebtn_Click();
+  EXPECT_EQ(bar->Start(), 5);
+  bar->SetEnd(11);
+  EXPECT_EQ(Button("EndHerebtn"), "Trim End of Video") << "all of it";
+}
+
+TEST_F(CapturePageTest, KnobsAreThoseThatTheCameraTellsOfWhenItDoes) {
+  CameraControlsForm form(devices, "Left", page.get());
+  const auto knob = [&](const char* name) { return form.findChild<QWidget*>(name); };
+  form.show();
+  EXPECT_TRUE(form.findChild<QLabel*>("CameraNoKnobs")->text().startsWith("Asking"));
+  devices.controls.resize(3);
+  for (std::uint32_t i = 0; i < 3; ++i) devices.controls[i].id = i + 1;
+  devices.controls[0].high = devices.controls[2].high = 255;
+  devices.controls[0].standard = 128;
+  devices.controls[1].kind = CameraControl::Kind::Switch;
+  devices.controls[1].value = 1;
+  devices.controls[2].active = false;
+  ASSERT_TRUE(QTest::qWaitFor([&] { return knob("Knob3") != nullptr; }));
+  EXPECT_FALSE(knob("Knob3")->isEnabled());
+  static_cast<QSlider*>(knob("Knob1"))->setValue(30);
+  EXPECT_EQ(devices.controls[0].value, 30);
+  static_cast<QCheckBox*>(knob("Knob2"))->setChecked(false);
+  EXPECT_EQ(devices.controls[1].value, 0);
+  devices.controls[2].active = true;
+  devices.controls[2].value = 90;
+  ASSERT_TRUE(QTest::qWaitFor([&] { return knob("Knob3")->isEnabled(); }));
+  EXPECT_EQ(form.findChild<QLabel*>("Knob3Lbl")->text(), "90");
+  form.findChild<QAbstractButton*>("CameraStandard")->click();
+  EXPECT_EQ(devices.controls[0].value, 128);
 }
 
 TEST_F(CapturePageTest, TwoCamerasHaveTwoWindowsAndTwoLines) {

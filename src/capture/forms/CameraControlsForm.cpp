@@ -5,7 +5,10 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QScrollArea>
+#include <QSignalBlocker>
 #include <QSlider>
+#include <QTimer>
+#include <algorithm>
 
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Figures.h"
@@ -14,6 +17,13 @@
 #include "platform/widgets/Text.h"
 
 namespace kinalyx {
+
+namespace {
+
+constexpr int kLookMs = 250;
+constexpr int kLooksForNone = 4;  // after which a camera that tells of no knobs has none
+
+}  // namespace
 
 CameraControlsForm::CameraControlsForm(IDevices& devices, const std::string& camera, QWidget* over)
     : QDialog(over), devices_(devices), camera_(camera) {
@@ -34,21 +44,55 @@ CameraControlsForm::CameraControlsForm(IDevices& devices, const std::string& cam
   LeastWidth(scroll, 420);
   rows->addWidget(scroll, 1);
   auto* buttons = new QHBoxLayout;
-  auto* standard = new Button("CameraStandard", "Standard Values", {}, Look::Quiet);
+  standard_ = new Button("CameraStandard", "Standard Values", {}, Look::Quiet);
   auto* close = new Button("CameraClose", "Close");
-  buttons->addWidget(standard);
+  buttons->addWidget(standard_);
   buttons->addStretch(1);
   buttons->addWidget(close);
   rows->addLayout(buttons);
   connect(close, &QPushButton::clicked, this, &QDialog::accept);
-  connect(standard, &QPushButton::clicked, this, [this] {
+  connect(standard_, &QPushButton::clicked, this, [this] {
     for (const CameraControl& control : devices_.Controls(camera_))
       (void)devices_.SetControl(camera_, control.id, control.standard);
     Fill();
   });
   Fill();
-  standard->setVisible(!devices_.Controls(camera_).empty());
+  // The camera answers when it likes, and what it has in hand itself moves.
+  auto* timer = new QTimer(this);
+  connect(timer, &QTimer::timeout, this, &CameraControlsForm::Look);
+  timer->start(kLookMs);
   ScaleForm(*this, *over->window());
+}
+
+/// Knobs that have come, gone, or been taken in hand are made anew; of the others the values follow.
+void CameraControlsForm::Look() {
+  const std::vector<CameraControl> now = devices_.Controls(camera_);
+  ++looks_;
+  if (now == shown_ && (!now.empty() || looks_ != kLooksForNone)) return;
+  const auto slider = [this](const CameraControl& control) {
+    return findChild<QSlider*>(QString("Knob%1").arg(control.id));
+  };
+  const bool held = std::ranges::any_of(shown_, [&](const CameraControl& control) {
+    const QSlider* knob = slider(control);
+    return knob && knob->isSliderDown();
+  });
+  if (held) return;
+  const auto sameButValue = [](CameraControl a, const CameraControl& b) {
+    a.value = b.value;
+    return a == b;
+  };
+  const bool same = std::ranges::equal(now, shown_, [&](const CameraControl& a, const CameraControl& b) {
+    return sameButValue(a, b) && (a.value == b.value || a.kind == CameraControl::Kind::Number);
+  });
+  if (now.empty() || !same) return Fill();
+  for (const CameraControl& control : now) {
+    QSlider* knob = slider(control);
+    if (!knob || knob->value() == control.value) continue;
+    const QSignalBlocker quiet(knob);
+    knob->setValue(control.value);
+    findChild<QLabel*>(QString("Knob%1Lbl").arg(control.id))->setText(QString::number(control.value));
+  }
+  shown_ = now;
 }
 
 void CameraControlsForm::Fill() {
@@ -56,11 +100,14 @@ void CameraControlsForm::Fill() {
     if (item->widget()) item->widget()->deleteLater();
     delete item;
   }
-  const std::vector<CameraControl> controls = devices_.Controls(camera_);
-  for (const CameraControl& control : controls) knobs_->addWidget(MakeKnob(control));
-  if (controls.empty()) {
-    QLabel* none = MakeLabel(
-        "CameraNoKnobs", "This camera has nothing to set from here. What it can do, its own buttons or its app do.");
+  shown_ = devices_.Controls(camera_);
+  for (const CameraControl& control : shown_) knobs_->addWidget(MakeKnob(control));
+  standard_->setVisible(!shown_.empty());
+  if (shown_.empty()) {
+    QLabel* none = MakeLabel("CameraNoKnobs", looks_ < kLooksForNone
+                                                  ? "Asking the camera..."
+                                                  : "This camera has nothing to set from here. What it can do, its own "
+                                                    "buttons or its app do.");
     none->setWordWrap(true);
     knobs_->addWidget(none);
   }
@@ -109,7 +156,7 @@ QWidget* CameraControlsForm::MakeKnob(const CameraControl& control) {
       row->addWidget(figure);
       connect(slider, &QSlider::valueChanged, this, [this, figure, id = control.id](int value) {
         figure->setText(QString::number(value));
-        (void)devices_.SetControl(camera_, id, value);
+        Set(id, value);
       });
       break;
     }
@@ -117,10 +164,11 @@ QWidget* CameraControlsForm::MakeKnob(const CameraControl& control) {
   return ground;
 }
 
-/// An automatic that comes on or goes off frees or takes other knobs: all are read again.
+/// An automatic that comes on or goes off frees or takes other knobs; Look finds that.
 void CameraControlsForm::Set(std::uint32_t id, int value) {
   (void)devices_.SetControl(camera_, id, value);
-  Fill();
+  for (CameraControl& control : shown_)
+    if (control.id == id) control.value = value;
 }
 
 }  // namespace kinalyx

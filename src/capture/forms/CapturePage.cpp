@@ -7,11 +7,10 @@
 #include <QLabel>
 #include <QShortcut>
 #include <QSignalBlocker>
-#include <QSlider>
 #include <QStackedWidget>
 
 #include "capture/SourceKinds.h"
-#include "capture/forms/CameraControlsForm.h"
+#include "capture/forms/CameraLine.h"
 #include "capture/forms/FindCamForm.h"
 #include "capture/forms/LiveView.h"
 #include "capture/forms/NamingPanel.h"
@@ -23,6 +22,7 @@
 #include "library/forms/PreviewPlayer.h"
 #include "library/forms/SearchBar.h"
 #include "library/forms/StatusLine.h"
+#include "library/forms/TrimSlider.h"
 #include "platform/files/Folders.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Figures.h"
@@ -41,29 +41,6 @@ constexpr int kSideWidth = 256;  // as designed
 constexpr int kStride = 10;      // pictures that a larger step goes
 constexpr double kWide = 1.5;    // width by height
 enum StagePage { kLivePage, kReviewPage };
-
-QComboBox* MakeList(const QString& name, const QString& tip, int letters) {
-  auto* list = new QComboBox;
-  list->setObjectName(name);
-  list->setToolTip(tip);
-  list->setAccessibleName(tip);
-  list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  list->setMinimumContentsLength(letters);
-  return list;
-}
-
-/// Rows of a list, with one of them chosen; a choice that is not among them stands first and says so.
-void FillList(QComboBox& list, const std::vector<std::string>& rows, const std::string& chosen) {
-  const QSignalBlocker quiet(list);
-  list.clear();
-  for (const std::string& row : rows) list.addItem(Q(row));
-  int at = list.findText(Q(chosen));
-  if (at < 0 && !chosen.empty()) {
-    list.insertItem(0, Q(chosen));
-    at = 0;
-  }
-  list.setCurrentIndex(at);
-}
 
 QButtonGroup* MakeChoice(QHBoxLayout& row, const QString& name, std::initializer_list<const char*> captions,
                          QObject* owner) {
@@ -194,7 +171,12 @@ QWidget* CapturePage::MakeCameras() {
   rows->setSpacing(6);
   auto* first = new QHBoxLayout;
   first->setSpacing(6);
-  kind_ = MakeList("CapKindList", "Where videos come from", 8);
+  kind_ = new QComboBox;
+  kind_->setObjectName("CapKindList");
+  kind_->setToolTip("Where videos come from");
+  kind_->setAccessibleName(kind_->toolTip());
+  kind_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  kind_->setMinimumContentsLength(8);
   for (const SourceWords& words : SourceKinds())
     kind_->addItem(Q(std::string(words.caption)), static_cast<int>(words.kind));
   connect(kind_, &QComboBox::activated, this,
@@ -215,35 +197,8 @@ QWidget* CapturePage::MakeCameras() {
   first->addWidget(setup);
   rows->addLayout(first);
   for (int camera = 0; camera < 2; ++camera) {
-    auto* line = new QWidget;
-    line->setObjectName(QString("CameraLine%1").arg(camera + 1));
-    auto* row = new QHBoxLayout(line);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(6);
-    const QString number = QString::number(camera + 1);
-    QLabel* label = MakeLabel({}, "Camera " + number, "muted");
-    LeastWidth(label, 62);
-    row->addWidget(label);
-    sources_[camera] = MakeList("VideoSource_Camera" + number, "Camera " + number, 12);
-    sizes_[camera] = MakeList("VideoSize_Camera" + number, "Size of the picture", 9);
-    formats_[camera] = MakeList("VideoFormat_Camera" + number, "How the pictures come", 12);
-    row->addWidget(sources_[camera], 3);
-    row->addWidget(sizes_[camera], 1);
-    row->addWidget(formats_[camera], 2);
-    auto* knobs = IconButton(QString("CamConfig_Camera%1").arg(camera), "sliders",
-                             "Exposure, gain, focus and white balance of the camera", Look::Quiet);
-    connect(knobs, &QPushButton::clicked, this, [this, camera] {
-      CameraControlsForm form(parts_.setup.Devices(), parts_.setup.Shown(camera).name, this);
-      form.exec();
-    });
-    row->addWidget(knobs);
-    rows->addWidget(line);
-    connect(sources_[camera], &QComboBox::textActivated, this,
-            [this, camera](const QString& name) { parts_.setup.ChooseSource(camera, Std(name)); });
-    connect(sizes_[camera], &QComboBox::textActivated, this,
-            [this, camera](const QString& size) { parts_.setup.ChooseSize(camera, Std(size)); });
-    connect(formats_[camera], &QComboBox::textActivated, this,
-            [this, camera](const QString& format) { parts_.setup.ChooseFormat(camera, Std(format)); });
+    lines_[camera] = new CameraLine(parts_.setup, camera);
+    rows->addWidget(lines_[camera]);
   }
   return ground;
 }
@@ -285,9 +240,8 @@ QWidget* CapturePage::MakeActions() {
   seek->setContentsMargins(0, 0, 0, 0);
   play_ = IconButton("ReviewPlay", "play", "Play or pause (P)", Look::Quiet);
   seek->addWidget(play_);
-  VidScroll_ = new QSlider(Qt::Horizontal);
-  VidScroll_->setObjectName("VidScroll");
-  VidScroll_->setAccessibleName("Frame of the recording");
+  VidScroll_ = new TrimSlider("VidScroll");
+  VidScroll_->setToolTip("Drag the two ends. Arrow keys step, I starts and O ends here, P plays.");
   frame_ = new FigureLabel("VidFrameLbl");
   seek->addWidget(VidScroll_, 1);
   seek->addWidget(frame_);
@@ -362,7 +316,13 @@ void CapturePage::ConnectParts() {
   connect(play_, &QPushButton::clicked, this, &CapturePage::PlayReview);
   connect(review_[0], &PreviewPlayer::StateChanged, this,
           [this] { play_->SetIcon(review_[0]->Control().IsPlaying() ? "pause" : "play"); });
-  connect(VidScroll_, &QSlider::valueChanged, this, &CapturePage::SeekReview);
+  connect(VidScroll_, &TrimSlider::Sought, this, &CapturePage::SeekReview);
+  connect(VidScroll_, &TrimSlider::StartWanted, this, &CapturePage::StartHerebtn_Click);
+  connect(VidScroll_, &TrimSlider::EndWanted, this, &CapturePage::EndHerebtn_Click);
+  connect(VidScroll_, &TrimSlider::PlayWanted, this, &CapturePage::PlayReview);
+  connect(VidScroll_, &TrimSlider::RangeChanged, this, [this] {
+    session_->Trim(VidScroll_->Start(), VidScroll_->End() < VidScroll_->Frames() - 1 ? VidScroll_->End() : 0);
+  });
   connect(review_[0], &PreviewPlayer::Moved, this, &CapturePage::ShowReview);
   const auto key = [this](const QKeySequence& keys, auto action) {
     auto* shortcut = new QShortcut(keys, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
@@ -473,21 +433,8 @@ void CapturePage::keyPressEvent(QKeyEvent* event) {
 // ---------------------------------------------------------------- what is shown
 
 void CapturePage::FillCameras() {
-  const auto names = [](const std::vector<Device>& devices) {
-    std::vector<std::string> rows;
-    for (const Device& device : devices) rows.push_back(device.name);
-    return rows;
-  };
   const bool two = !parts_.setup.SingleCamera();
-  for (int camera = 0; camera < 2; ++camera) {
-    const CameraChoice& choice = parts_.setup.Shown(camera);
-    const Device* device = parts_.setup.ShownDevice(camera);
-    FillList(*sources_[camera], names(parts_.setup.Cameras()), choice.name);
-    FillList(*sizes_[camera], device ? SizesOf(*device) : std::vector<std::string>(), choice.size);
-    FillList(*formats_[camera], device ? FormatsOf(*device, choice.size) : std::vector<std::string>(), choice.format);
-    sources_[camera]->parentWidget()->setVisible(!IsImport(parts_.setup.Kind()) &&
-                                                 (two || static_cast<int>(parts_.setup.Use()) == camera));
-  }
+  for (CameraLine* line : lines_) line->Fill();
   const bool live = !IsImport(parts_.setup.Kind());
   kind_->setCurrentIndex(kind_->findData(static_cast<int>(parts_.setup.Kind())));
   OneCamTwoOpt_->button(two ? 1 : 0)->setChecked(true);
@@ -532,11 +479,7 @@ void CapturePage::ShowPhase() {
   }
   // What is being recorded is not changed under way.
   const bool live = phase == CapturePhase::LivePreview && !session_->Saving();
-  for (int camera = 0; camera < 2; ++camera) {
-    sources_[camera]->setEnabled(live);
-    sizes_[camera]->setEnabled(live);
-    formats_[camera]->setEnabled(live);
-  }
+  for (CameraLine* line : lines_) line->SetUsable(live);
   for (QButtonGroup* group : {OneCamTwoOpt_, CamChoiceBtn_})
     for (QAbstractButton* button : group->buttons()) button->setEnabled(live);
   status_->Say(Q(session_->Status()));
@@ -549,8 +492,11 @@ void CapturePage::ShowReview() {
   const int count = players_[0]->FrameCount();
   const int frame = players_[0]->CurrentFrame();
   const QSignalBlocker quiet(VidScroll_);
-  VidScroll_->setRange(0, std::max(0, count - 1));
-  VidScroll_->setValue(frame);
+  if (VidScroll_->Frames() != count) VidScroll_->SetFrames(count);
+  const int end = session_->TrimEndFrame();
+  VidScroll_->SetEnd(end > 0 ? end : count - 1);
+  VidScroll_->SetStart(session_->TrimStartFrame());
+  VidScroll_->SetPosition(frame);
   frame_->setText(QString("%1 of %2").arg(frame + 1).arg(count));
 }
 

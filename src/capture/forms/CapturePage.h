@@ -19,12 +19,12 @@ class QBoxLayout;
 class QButtonGroup;
 class QComboBox;
 class QLabel;
-class QSlider;
 class QStackedWidget;
 
 namespace kinalyx {
 
 class Button;
+class CameraLine;
 class ImportPanel;
 class LibraryLists;
 class LiveView;
@@ -34,6 +34,7 @@ class Panel;
 class PreviewPlayer;
 class SearchBar;
 class StatusLine;
+class TrimSlider;
 class UnfinishedBar;
 
 /// The capture page: who is recorded and under what name on the left, the cameras in the middle, and beneath them the
@@ -120,9 +121,7 @@ class CapturePage : public PageWidget, private ICapturePage, private ICaptureSet
   QButtonGroup* OneCamTwoOpt_;
   QButtonGroup* CamChoiceBtn_;
   QWidget* choice_;
-  std::array<QComboBox*, 2> sources_{};
-  std::array<QComboBox*, 2> sizes_{};
-  std::array<QComboBox*, 2> formats_{};
+  std::array<CameraLine*, 2> lines_{};
   std::array<LiveView*, 2> live_{};
   std::array<PreviewPlayer*, 2> review_{};
   std::array<std::unique_ptr<Player>, 2> players_;
@@ -131,7 +130,7 @@ class CapturePage : public PageWidget, private ICapturePage, private ICaptureSet
   QBoxLayout* buttons_;
   ImportPanel* import_;
   std::string lastSaved_;
-  QSlider* VidScroll_;
+  TrimSlider* VidScroll_;
   QLabel* frame_;
   QWidget* reviewBar_;
   UnfinishedBar* unfinished_;
