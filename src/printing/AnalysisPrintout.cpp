@@ -25,7 +25,7 @@ constexpr int kNotesRight = 1300;
 constexpr int kNotesBottom = 1080;
 
 // Where a picture ends that would reach further.
-constexpr double kLowestWithNotes = 8.55;
+constexpr double kLowestWithNotes = 7.75;
 constexpr double kLowestWithoutNotes = 10.0;
 
 constexpr double kTitlePoints = 16;

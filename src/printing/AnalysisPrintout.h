@@ -18,8 +18,8 @@ class AnalysisPrintout final : public IPrintout {
   void PrintOn(IPage& page) const override;
 
   /// The lower edge of the picture on the page, in inches: the picture is 6.98 wide and as high as its proportions
-  /// make it. One that would leave the notes no room, as of an upright video, is made smaller: it ends where notes
-  /// still have an inch, or without any above the foot of the page.
+  /// make it. One that would leave the notes no room, as of an upright video, is made smaller: it ends where they
+  /// still have ten lines on every page, or without any above the foot of the page.
   double PictureBottom() const { return pictureBottom_; }
 
  private:

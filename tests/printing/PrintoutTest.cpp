@@ -70,8 +70,8 @@ TEST(Printout, APictureThatIsTallerThanThePageLeavesRoomForTheNotes) {
     bool notes;
     double bottom;
   };
-  for (const Case& each : {Case{400, 300, true, 7.495}, Case{1000, 900, true, 8.542}, Case{480, 640, true, 8.55},
-                           Case{480, 640, false, 10.0}, Case{1000, 1000, false, 9.24}, Case{90, 1600, true, 8.55}}) {
+  for (const Case& each : {Case{400, 300, true, 7.495}, Case{1000, 780, true, 7.704}, Case{480, 640, true, 7.75},
+                           Case{480, 640, false, 10.0}, Case{1000, 1000, false, 9.24}, Case{90, 1600, true, 7.75}}) {
     const RichText notes{{{each.notes ? "Grip" : ""}}};
     const AnalysisPrintout printout("Upright", Heading(false), Surface(each.width, each.height), notes);
     EXPECT_NEAR(printout.PictureBottom(), each.bottom, 0.005) << each.width << " x " << each.height;

@@ -59,6 +59,7 @@ TEST_F(StagePicturesTest, TheModesComeAsTheyAreSeen) {
   stage.host.Advance(100);
   const Surface mix = pictures.All();
   EXPECT_EQ(mix.Pixel(600, 300), stage.Modes().Transparency().Mix().Pixel(600, 300));
+  EXPECT_EQ(mix.Pixel(2, 2), kWhite) << "beside the pictures";
   ASSERT_TRUE(stage.Run("STM"));
 
   stage.Stage().CurrentWindow = 2;

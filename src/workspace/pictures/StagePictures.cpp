@@ -12,6 +12,23 @@ namespace {
 constexpr Colour kFilmGround = Rgb(0, 0, 0);  // beneath and beside the film
 constexpr int kFilmTop = 6;                   // pixels of the layout above it
 
+/// The black beside and around the pictures of the mix.
+void WhitenBorders(Surface& mix) {
+  int left = mix.Width(), right = 0, top = mix.Height(), bottom = 0;
+  for (int y = 0; y < mix.Height(); ++y) {
+    for (int x = 0; x < mix.Width(); ++x) {
+      if (mix.Pixel(x, y) == 0) continue;
+      left = std::min(left, x);
+      right = std::max(right, x + 1);
+      top = std::min(top, y);
+      bottom = y + 1;
+    }
+  }
+  const Surface before = mix;
+  mix.Clear(StagePictures::kPaperWhite);
+  if (right > left) CopyPart(before, left, top, right - left, bottom - top, mix, left, top);
+}
+
 int Pixels(double twips, double ratio) { return static_cast<int>(std::lround(twips * ratio / kTwipsPerPixel)); }
 
 }  // namespace
@@ -69,6 +86,7 @@ Surface StagePictures::All() {
   if (compare_.Transparency().TransparencyOn()) {
     compare_.Transparency().CMDDISAct();
     all = compare_.Transparency().Mix();
+    WhitenBorders(all);
   } else {
     all = Grid();
     if (stage_.MultiFrame()) AddFilm(all);
