@@ -56,13 +56,13 @@ void LessonDesk::LessonChanged() {
     connect(panel_, &LessonPanel::StudentWanted, this, &LessonDesk::ChooseStudent);
     connect(panel_, &LessonPanel::SaveWanted, this, [this] { ShowSaveForm(); });
   }
+  if (offer_ && phase != LessonPhase::Away) offer_->hide();
   if (panel_) panel_->Update();
   if (save_) save_->Update();
   if (std::exchange(told_, phase) == phase) return;
   ring_->SetOn(IsUnderWay(phase));
   stage_->setCursor(phase == LessonPhase::Preparing ? Qt::BusyCursor : Qt::ArrowCursor);
   if (phase == LessonPhase::Away) ShowOffer();
-  else if (offer_) offer_->hide();
   parts_.events.LessonChanged();
 }
 
