@@ -544,6 +544,7 @@ std::vector<const Command*> MenuBar::WindowMenu() const {
   std::vector<const Command*> live;
   for (const char* item : kWindowMenu) {
     const Command* command = Find(item);
+    if (!command && !HasVideo()) break;  // an empty window can only be opened: that is the first group
     if (!command && !live.empty() && live.back()) live.push_back(nullptr);
     if (command && command->Reason().empty()) live.push_back(command);
   }
