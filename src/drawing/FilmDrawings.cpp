@@ -33,8 +33,7 @@ void FilmPainter::Fit(const FilmPlace& place) {
     // Letters have grown with the picture.
     if (!IsText(shape) && shape.Width > 0) shape.Width = Grown(shape.Width, grown_);
     const std::size_t points = PointsOf(shape).size();
-    for (POINTAPI& point : std::span(shape.Pts).first(points))
-      point = {point.x + place.Left, point.y + place.Top};
+    for (POINTAPI& point : std::span(shape.Pts).first(points)) point = {point.x + place.Left, point.y + place.Top};
     colours_.push_back(shape.Colour);
   }
   look_ = film_.Look;

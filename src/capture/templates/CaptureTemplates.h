@@ -24,9 +24,9 @@ extern const std::string_view MVTwoCamAutoAN;
 extern const std::string_view MVTwoCamClickDV;
 extern const std::string_view MVTwoCamClickAN;
 
-extern const std::string_view MVSetupGraph;      ///< connects nothing: lists of devices need something to talk to
-extern const std::string_view MVMotionDraw;      ///< drawing upon a live picture, as in a mirror
-extern const std::string_view MVMotionDraw2;     ///< the same, as the others see it
+extern const std::string_view MVSetupGraph;         ///< connects nothing: lists of devices need something to talk to
+extern const std::string_view MVMotionDraw;         ///< drawing upon a live picture, as in a mirror
+extern const std::string_view MVMotionDraw2;        ///< the same, as the others see it
 extern const std::string_view MVScreenRecorder;     ///< a lesson: the screen with the voice
 extern const std::string_view MVScreenRecorderMp4;  ///< the same, as telephones play it
 

@@ -216,8 +216,7 @@ void MenuBar::AddVideo() {
   const auto plain = [&](const char* item, const char* caption, const char* icon, std::function<void()> run) {
     Add({item, kVideo, caption, "", icon, "", kNoButton, std::move(run), hasVideo});
   };
-  Add({"vo", kVideo, "O - Open New Video", "Openbtn", "open", "Open Videos", kOpening,
-       [this] { cmdOpen(); }});
+  Add({"vo", kVideo, "O - Open New Video", "Openbtn", "open", "Open Videos", kOpening, [this] { cmdOpen(); }});
   Add({"OpenFromDisk", kVideo, "Open From Disk...", "", "", "", kNoButton, [this] { view_.OpenFromDisk(); }});
   plain("vr", "R - Rewind Video", "rewind", [this] { transport_.Rewind(); });
   plain("vplay", "P - Play / Pause Toggle", "play", [this] { transport_.TogglePlay(); });
