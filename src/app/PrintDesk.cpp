@@ -82,7 +82,8 @@ bool PrintDesk::Preview(const IPrintout& printout, QWidget* over, const std::str
   PreviewForm form(host_, printer_, printout, choice_, over);
   Transport& status = Section().Transport();
   QObject::connect(&form, &PreviewForm::PrintingBegins, &form, [&] { status.DisplayData("Printing..."); });
-  QObject::connect(&form, &PreviewForm::PrintingEnds, &form, [&] { status.Announce(done); });
+  QObject::connect(&form, &PreviewForm::PrintingEnds, &form,
+                   [&](bool printed) { printed ? status.Announce(done) : status.DisplayData(""); });
   return form.exec() == QDialog::Accepted;
 }
 

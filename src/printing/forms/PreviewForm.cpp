@@ -216,7 +216,7 @@ void PreviewForm::Print() {
   QApplication::setOverrideCursor(Qt::WaitCursor);
   const Outcome printed = printer_.Print(printout_, choice_);
   QApplication::restoreOverrideCursor();
-  emit PrintingEnds();
+  emit PrintingEnds(static_cast<bool>(printed));
   print_->setEnabled(true);
   if (printed) accept();
   else Tell(printed);
@@ -229,7 +229,7 @@ void PreviewForm::SavePdf() {
   const QString path = Q(*chosen).endsWith(".pdf", Qt::CaseInsensitive) ? Q(*chosen) : Q(*chosen) + ".pdf";
   emit PrintingBegins();
   const Outcome saved = PrintToPdf(printout_, choice_.Paper, Std(path));
-  emit PrintingEnds();
+  emit PrintingEnds(static_cast<bool>(saved));
   if (saved) accept();
   else Tell(saved);
 }

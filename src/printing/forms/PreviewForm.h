@@ -28,7 +28,7 @@ class PreviewForm : public QDialog {
 
  signals:
   void PrintingBegins();
-  void PrintingEnds();
+  void PrintingEnds(bool printed);
 
  protected:
   void showEvent(QShowEvent* event) override;
