@@ -14,7 +14,7 @@ kinalyx_packages=(
   libcups2-dev fonts-liberation
   libavc1394-tools?
 )
-kinalyx_test_packages=(libgtest-dev libgmock-dev ffmpeg)
+kinalyx_test_packages=(libgtest-dev libgmock-dev ffmpeg dbus-daemon)
 kinalyx_lint_packages=(clang-format clang-tidy)
 
 # A name that ends in "?" is welcome but not needed: it is taken only where Debian has it.

@@ -3,11 +3,13 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QImage>
+#include <cmath>
 
 #include "app/CaptureRoom.h"
 #include "distribution/clips/forms/ClipCard.h"
 #include "distribution/clips/forms/ClipForm.h"
 #include "platform/files/Folders.h"
+#include "platform/host/DriveWatch.h"
 #include "platform/widgets/Text.h"
 #include "workspace/compare/PictureExport.h"
 #include "workspace/forms/AnalysisForm.h"
@@ -47,8 +49,9 @@ void ClipRoom::ShowForm(AnalysisForm& analysis) {
 
 Result<Surface> ClipRoom::Picture(AnalysisForm& analysis) {
   const ClipScene scene = TakePicture(analysis.Section(), analysis.Section().Stage().CurrentWindow);
-  const POINTAPI size = PixelsOf(scene, ClipSize::AsSeen);
-  return PictureOf(scene, size.x, size.y);
+  if (!host_.Drives().Answers(FolderOf(analysis.Section().Stage().Current().path)))
+    return Outcome::Failed("The drive does not answer.");
+  return PictureOf(scene, static_cast<int>(std::lround(scene.PixelsHigh * scene.Proportion())), scene.PixelsHigh);
 }
 
 void ClipRoom::CopyPicture(AnalysisForm& analysis) {

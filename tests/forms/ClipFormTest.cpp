@@ -104,7 +104,8 @@ TEST_F(ClipFormTest, TakesAVoiceWhileItPlays) {
   voice.fault = "The microphone gives no sound any more.";
   host.Advance(100);
   EXPECT_FALSE(In<QAbstractButton>("ClipVoice")->isChecked());
-  EXPECT_EQ(In<QLabel>("ClipVoiceWords")->text().toStdString(), voice.fault);
+  EXPECT_EQ(In<QLabel>("ClipVoiceWords")->text().toStdString(), "Your voice, 2.0 s. " + voice.fault)
+      << "what was said stays";
 }
 
 TEST_F(ClipFormTest, ToldWhatIsWrongAndSavedThen) {

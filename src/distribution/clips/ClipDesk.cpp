@@ -8,6 +8,7 @@
 
 #include "library/LibraryTree.h"
 #include "platform/files/Folders.h"
+#include "platform/host/DriveWatch.h"
 #include "workspace/AnalysisWorkspace.h"
 
 namespace kinalyx {
@@ -17,12 +18,22 @@ namespace fs = std::filesystem;
 
 constexpr const char* kLessons = "Lessons";
 constexpr int kHeadings = 5;
+constexpr int kLoopRate = 15;  // pictures in a second
 
 std::string Seconds(AnalysisWorkspace& analysis, int slot, int position) {
   return fmt::format("{:.2f} s", analysis.Transport().SecondsAt(slot, position));
 }
 
 std::string FileNameOf(const std::string& path) { return fs::path(path).filename().string(); }
+
+/// A student's folder for what is taken home; one that is there in other letters is it.
+std::string LessonsIn(const std::string& student) {
+  std::error_code ignored;
+  for (const auto& entry : fs::directory_iterator(student, ignored))
+    if (entry.is_directory(ignored) && SameName(entry.path().filename().string(), kLessons))
+      return entry.path().string();
+  return JoinPath(student, kLessons);
+}
 
 bool LiesIn(const std::string& path, const std::string& folder) {
   return !folder.empty() && path.size() > folder.size() && path.starts_with(folder) &&
@@ -89,7 +100,8 @@ ClipWish ClipDesk::Proposal(AnalysisWorkspace& analysis) const {
   const std::string& path = stage.At(slot).path;
   wish.Folder = FolderOf(path);
   // Beside a student's videos a clip would be one of them; it belongs to what the student takes home.
-  if (LiesIn(path, settings_.LibraryPath)) wish.Folder = JoinPath(wish.Folder, kLessons);
+  if (LiesIn(path, settings_.LibraryPath) && !SameName(FileNameOf(wish.Folder), kLessons))
+    wish.Folder = LessonsIn(wish.Folder);
   const std::string name = NameOfVideo(path);
   wish.Name = name;
   for (int n = 2; EntryExists(JoinPath(wish.Folder, wish.Name + EndingOf(wish.Makes))); ++n)
@@ -133,6 +145,7 @@ ClipOrder ClipDesk::OrderOf(AnalysisWorkspace& analysis, const ClipWish& wish) c
     case ClipWish::File::Mp4Old: order.Profile = ClipFormat::Profile::Baseline; break;
     case ClipWish::File::Gif:
       order.Makes = ClipOrder::Kind::Gif;
+      order.Stretch.MostRate = kLoopRate;
       size = PixelsOfLoop(order.Scene);
       break;
     case ClipWish::File::Row:
@@ -142,8 +155,10 @@ ClipOrder ClipDesk::OrderOf(AnalysisWorkspace& analysis, const ClipWish& wish) c
   }
   order.Width = size.x;
   order.Height = size.y;
-  order.Sound = wish.Sound;
-  order.Voice = wish.Voice;
+  if (order.Makes == ClipOrder::Kind::Mp4) {
+    order.Sound = wish.Sound;
+    order.Voice = wish.Voice;
+  }
   if (wish.Card) order.Card = Card();
   return order;
 }
@@ -155,6 +170,14 @@ Outcome ClipDesk::Save(AnalysisWorkspace& analysis, const ClipWish& wish) {
     return Outcome(Fault::Refused, "Invalid Character in name. Please try again.");
   ClipOrder order = OrderOf(analysis, taken);
   if (order.Scene.Videos.empty()) return Outcome(Fault::Refused, "Open a video first.");
+  const auto isItself = [&](const SceneVideo& video) {
+    std::error_code ignored;
+    return video.Path == order.Path || fs::equivalent(video.Path, order.Path, ignored);
+  };
+  if (std::ranges::any_of(order.Scene.Videos, isItself))
+    return Outcome(Fault::Refused, "The clip would replace its own video. Choose another name.");
+  if (!host_.Drives().Answers(FolderOf(taken.Folder)))
+    return Outcome(Fault::Unwritable, "The drive does not answer. Choose another folder.");
   const auto same = [&](const ClipOrder& other) { return other.Path == order.Path; };
   if (std::ranges::any_of(waiting_, same) || (Busy() && current_ == order.Path))
     return Outcome(Fault::Refused, "A clip of this name is being written.");

@@ -15,9 +15,9 @@ constexpr double kCardMs = 3000;
 /// A picture that stands longer is told again: a hand that drags through the clip then finds it at once.
 constexpr double kRepeatMs = 250;
 constexpr int kLoopWidth = 480;
-constexpr int kLoopRate = 15;
 constexpr int kRowWidth = 3840;
 constexpr int kRowHeight = 720;
+constexpr int kMostUnread = 30;  // pictures in which something was missing
 constexpr int kMostSide = 4096;
 constexpr int kChannels = SoundReader::kChannels;
 static_assert(SoundReader::kRate == ClipWriter::kSoundRate);
@@ -69,9 +69,7 @@ Result<Surface> PictureOf(const ClipScene& scene, int width, int height) {
   return picture;
 }
 
-ClipJob::ClipJob(ClipOrder order) : order_(std::move(order)) {
-  if (order_.Makes == ClipOrder::Kind::Gif) order_.Stretch.MostRate = kLoopRate;
-}
+ClipJob::ClipJob(ClipOrder order) : order_(std::move(order)) {}
 
 ClipJob::~ClipJob() = default;
 
@@ -117,6 +115,10 @@ kinalyx::Outcome ClipJob::Begin() {
   if (!painter) return painter.Failure();
   plan_ = PlanClip(order_.Scene, (*painter)->Times(), order_.Stretch);
   if (plan_.Frames.empty()) return kinalyx::Outcome::Failed("There is no picture to show.");
+  // Its colours are chosen when all of its pictures are known, and until then they wait in memory.
+  if (order_.Makes == ClipOrder::Kind::Gif && plan_.EndMs > kLongestLoopMs)
+    return kinalyx::Outcome::Failed(
+        "A loop lasts half a minute at the most. Choose a shorter stretch, or an MP4 video.");
   picture_ = Surface(order_.Width, order_.Height);
   if (picture_.Empty()) return kinalyx::Outcome::Failed("The pictures would be too large.");
   painter_ = std::move(*painter);
@@ -148,8 +150,9 @@ kinalyx::Outcome ClipJob::Begin() {
 
 kinalyx::Outcome ClipJob::WriteNext() {
   const ClipFrame& frame = plan_.Frames[next_];
-  if (!painter_->Paint(frame.Positions, picture_))
-    return kinalyx::Outcome::Failed("A picture could not be read: the video has gone, or it is damaged.");
+  // A damaged picture leaves the one before standing.
+  if (!painter_->Paint(frame.Positions, picture_) && ++unread_ > kMostUnread)
+    return kinalyx::Outcome::Failed("The pictures cannot be read: the video has gone, or it is damaged.");
   if (order_.Makes == ClipOrder::Kind::Row) {
     CopyPart(picture_, 0, 0, picture_.Width(), picture_.Height(), row_, static_cast<int>(next_) * picture_.Width(), 0);
     ++next_;

@@ -15,6 +15,9 @@
 
 namespace kinalyx {
 
+/// Milliseconds that a loop may last.
+inline constexpr double kLongestLoopMs = 30'000;
+
 /// The card at the end of a clip; without any words and without a logo there is none.
 struct ClosingCard {
   std::vector<std::string> Lines;
@@ -88,6 +91,7 @@ class ClipJob final : public IJob {
   std::int64_t heard_ = 0;          ///< samples of each channel that have been written
   std::vector<std::int16_t> read_;  ///< of the reader, not written yet
   std::size_t next_ = 0;            ///< frame of the plan
+  int unread_ = 0;                  ///< pictures in which something was missing
   Surface picture_;
   Surface row_;
   bool over_ = false;

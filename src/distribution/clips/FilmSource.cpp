@@ -44,10 +44,7 @@ PixelRows FilmSource::Picture(int position) {
 
 bool FilmSource::Paint(int position, const FilmPlace& place, Surface& surface) {
   const PixelRows rows = Picture(position);
-  if (!rows.bits || place.Width <= 0 || place.Height <= 0) {
-    surface.Clear(0);
-    return false;
-  }
+  if (!rows.bits || place.Width <= 0 || place.Height <= 0) return false;
   const int left = std::clamp(place.Left, 0, surface.Width());
   const int top = std::clamp(place.Top, 0, surface.Height());
   const int right = std::clamp(place.Left + place.Width, left, surface.Width());

@@ -25,7 +25,7 @@ class FilmSource final : public IFilmTimes {
   /// Paints a position with its drawings.
   /// @param place    of the whole picture on the surface
   /// @param surface  of the part that is wanted; what the picture does not cover is left black
-  /// @return false when the picture could not be had: the surface is then black
+  /// @return false when the picture could not be had: the surface is left as it was
   bool Paint(int position, const FilmPlace& place, Surface& surface);
   const SceneVideo& Video() const { return video_; }
 

@@ -30,6 +30,14 @@ Result<std::unique_ptr<ScenePainter>> ScenePainter::Open(const ClipScene& scene,
   return painter;
 }
 
+void ScenePainter::SetWords(const SceneWords& words) {
+  words_ = words;
+  for (Window& window : windows_) {
+    window.HasWords = false;
+    window.Words = Layer();
+  }
+}
+
 std::vector<const IFilmTimes*> ScenePainter::Times() const {
   std::vector<const IFilmTimes*> times;
   for (const auto& source : sources_) times.push_back(source.get());

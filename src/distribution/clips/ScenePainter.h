@@ -25,6 +25,8 @@ class ScenePainter {
   /// Opens the videos. Fails with the first that cannot be opened, by its name.
   static Result<std::unique_ptr<ScenePainter>> Open(const ClipScene& scene, const SceneWords& words);
 
+  /// Other words beside the same pictures.
+  void SetWords(const SceneWords& words);
   /// For PlanClip.
   std::vector<const IFilmTimes*> Times() const;
   /// Paints the scene in the middle of `target`, as large as it fits, with the videos at these positions. False when a

@@ -84,6 +84,12 @@ TEST_F(ClipDeskTest, OneAfterTheOther) {
 TEST_F(ClipDeskTest, RefusesAndAsks) {
   EXPECT_EQ(desk.Save(stage.analysis, Wish("a/b")).Why(), "Invalid Character in name. Please try again.");
   EXPECT_EQ(desk.Save(stage.analysis, Wish("  ")).Kind(), Fault::Refused);
+  ClipWish itself = Wish("zamach");
+  fs::copy_file(stage.folder + "/Anna/Łukasz Żak/zamach.avi", stage.folder + "/Anna/Łukasz Żak/zamach.mp4");
+  ASSERT_TRUE(stage.Open(1, stage.folder + "/Anna/Łukasz Żak/zamach.mp4"));
+  itself.Folder = stage.folder + "/Anna/Łukasz Żak";
+  EXPECT_EQ(desk.Save(stage.analysis, itself).Why(), "The clip would replace its own video. Choose another name.");
+  ASSERT_TRUE(stage.Open(1, stage.folder + "/Anna/Łukasz Żak/zamach.avi"));
   ClipWish nowhere = Wish("clip");
   nowhere.Folder = stage.folder + "/Anna/Łukasz Żak/zamach.avi/Lessons";
   EXPECT_EQ(desk.Save(stage.analysis, nowhere).Kind(), Fault::Unwritable);

@@ -14,6 +14,8 @@
 #include <algorithm>
 
 #include "distribution/clips/forms/ClipPicture.h"
+#include "platform/files/Folders.h"
+#include "platform/host/DriveWatch.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
@@ -282,7 +284,6 @@ ClipWish ClipForm::Wish() const {
   wish.RowPictures = Chosen<int>(count_);
   wish.Name = Std(name_->text());
   wish.Folder = folder_;
-  wish.Voice = spoken_;
   return wish;
 }
 
@@ -312,15 +313,15 @@ void ClipForm::Changed() {
   soon_ = HostTimer(host_, kSoonMs, false, [this] {
     voice_->setChecked(false);
     Play(false);
-    order_ = desk_.OrderOf(analysis_, Wish());
-    auto painter = ScenePainter::Open(order_.Scene, order_.Words);
-    if (!painter) {
-      painter_.reset();
-      fault_->setText(Q(painter.Why()));
-      return;
-    }
+    const ClipWish wish = Wish();
+    order_ = desk_.OrderOf(analysis_, wish);
+    // What was opened serves on, as long as the same videos stand in the same places.
+    const bool same = painter_ && shown_.AllWindows == wish.AllWindows &&
+                      (shown_.Size == ClipSize::Portrait) == (wish.Size == ClipSize::Portrait);
+    if (!same && !OpenVideos()) return;
+    shown_ = wish;
+    painter_->SetWords(order_.Words);
     fault_->clear();
-    painter_ = std::move(*painter);
     const double before = std::exchange(plan_, PlanClip(order_.Scene, painter_->Times(), order_.Stretch)).EndMs;
     if (!spoken_.empty() && plan_.EndMs != before)
       DropVoice(tr("The clip is another one now: record your voice again."));
@@ -329,8 +330,26 @@ void ClipForm::Changed() {
     length_->setText(order_.Makes == ClipOrder::Kind::Row
                          ? tr("%1 pictures of %2 x %3").arg(order_.RowPictures).arg(order_.Width).arg(order_.Height)
                          : tr("%1 s, %2 x %3").arg(seconds, 0, 'f', 1).arg(order_.Width).arg(order_.Height));
+    if (order_.Makes == ClipOrder::Kind::Gif && plan_.EndMs > kLongestLoopMs)
+      fault_->setText(tr("A loop lasts half a minute at the most."));
     Preview();
   });
+}
+
+bool ClipForm::OpenVideos() {
+  painter_.reset();
+  for (const SceneVideo& video : order_.Scene.Videos) {
+    if (host_.Drives().Answers(FolderOf(video.Path))) continue;
+    fault_->setText(tr("The drive with \"%1\" does not answer.").arg(Q(video.Name)));
+    return false;
+  }
+  auto painter = ScenePainter::Open(order_.Scene, order_.Words);
+  if (!painter) {
+    fault_->setText(Q(painter.Why()));
+    return false;
+  }
+  painter_ = std::move(*painter);
+  return true;
 }
 
 void ClipForm::Preview() {
@@ -374,13 +393,15 @@ void ClipForm::RecordVoice(bool on) {
   }
   recorder_.Stop();
   if (play_->isChecked()) Play(false);
-  if (const std::string why = recorder_.Why(); !why.empty()) return DropVoice(Q(why));
+  const QString why = Q(recorder_.Why());
   spoken_ = recorder_.Take();
   const auto most = static_cast<std::size_t>(plan_.EndMs * IVoiceRecorder::kRate / 1000) * 2;
   if (spoken_.size() > most) spoken_.resize(most);
-  if (spoken_.empty()) return DropVoice(tr("Nothing was heard."));
-  voiceWords_->setText(
-      tr("Your voice, %1 s").arg(static_cast<double>(spoken_.size()) / 2 / IVoiceRecorder::kRate, 0, 'f', 1));
+  if (spoken_.empty()) return DropVoice(why.isEmpty() ? tr("Nothing was heard.") : why);
+  QString words =
+      tr("Your voice, %1 s").arg(static_cast<double>(spoken_.size()) / 2 / IVoiceRecorder::kRate, 0, 'f', 1);
+  if (!why.isEmpty()) words += ". " + why;
+  voiceWords_->setText(words);
   noVoice_->show();
   Enable();
 }
@@ -416,7 +437,9 @@ void ClipForm::ChooseFolder() {
 void ClipForm::Save() {
   voice_->setChecked(false);
   Play(false);
-  const Outcome saved = desk_.Save(analysis_, Wish());
+  ClipWish wish = Wish();
+  wish.Voice = spoken_;
+  const Outcome saved = desk_.Save(analysis_, wish);
   if (saved) return accept();
   fault_->setText(Q(saved.Why()));
 }

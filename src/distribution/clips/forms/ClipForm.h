@@ -45,6 +45,7 @@ class ClipForm : public QDialog {
   void Show(const ClipWish& wish);
   void Enable();
   void Changed();
+  bool OpenVideos();
   void Preview();
   void Play(bool on);
   void NextPicture();
@@ -91,6 +92,7 @@ class ClipForm : public QDialog {
 
   std::unique_ptr<ScenePainter> painter_;
   ClipOrder order_;
+  ClipWish shown_;  ///< for which the videos were opened
   ClipPlan plan_;
   std::vector<std::int16_t> spoken_;
   HostTimer soon_;
