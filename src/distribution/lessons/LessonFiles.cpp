@@ -22,6 +22,8 @@ constexpr int kPatienceMs = 100;
 
 std::string NotePath(const std::string& lesson) { return lesson.substr(0, lesson.size() - kEnding.size()) + ".ini"; }
 
+std::int64_t Seconds(const FileStamp& stamp) { return stamp.written / kSecond; }
+
 bool Remove(const std::string& path) {
   (void)KillFile(NotePath(path));
   return KillFile(path);
@@ -47,6 +49,17 @@ Result<std::string> LessonFiles::Begin(const std::string& instructor, const std:
   return Outcome::Failed("There are too many unfinished lessons in " + folder_ + ".");
 }
 
+Outcome LessonFiles::TakeUp(const RecordedLesson& lesson) {
+  lock_.reset();
+  auto lock = std::make_unique<FileLock>(lesson.path, 0);
+  if (lock->Busy()) return {Fault::Refused, "Another window is at work on this lesson."};
+  const std::optional<FileStamp> stamp = StampOf(lesson.path);
+  if (!stamp || Seconds(*stamp) != lesson.written)
+    return {Fault::Refused, "The lesson has been saved or thrown away in another window."};
+  lock_ = std::move(lock);
+  return {};
+}
+
 Outcome ThrowAway(const RecordedLesson& lesson) {
   if (lesson.path.empty() || Remove(lesson.path)) return Outcome();
   return Outcome::Failed(LastName(lesson.path) + " cannot be removed.");
@@ -67,7 +80,7 @@ bool FindUnfinishedLessons::Step() {
     const std::optional<FileStamp> stamp = StampOf(lesson.path);
     if (const auto facts = ReadLesson(lesson.path); facts && stamp) {
       lesson.facts = *facts;
-      lesson.written = stamp->written / kSecond;
+      lesson.written = Seconds(*stamp);
       const ProfileReader note(NotePath(lesson.path));
       lesson.instructor = note.Value(kSection, "Instructor").value_or("");
       lesson.student = note.Value(kSection, "Student").value_or("");

@@ -30,6 +30,9 @@ class LessonFiles {
 
   /// The path of a new file, which is ours until Release.
   Result<std::string> Begin(const std::string& instructor, const std::string& student);
+  /// A lesson that an earlier run has left is ours until Release. Refused where another window has been quicker, or has
+  /// begun another lesson under its name since it was found.
+  Outcome TakeUp(const RecordedLesson& lesson);
   /// The lesson has been kept, thrown away, or is left for the next start.
   void Release() { lock_.reset(); }
   const std::string& Folder() const { return folder_; }
@@ -39,7 +42,7 @@ class LessonFiles {
   std::unique_ptr<FileLock> lock_;
 };
 
-/// Removes a recorded lesson.
+/// Removes a recorded lesson, which must be ours.
 Outcome ThrowAway(const RecordedLesson& lesson);
 
 /// Looks for lessons that an earlier run has left; those that another window is at work on are left alone. On a worker:

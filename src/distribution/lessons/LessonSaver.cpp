@@ -2,7 +2,6 @@
 
 #include <fmt/format.h>
 
-#include "distribution/lessons/LessonFiles.h"
 #include "library/LibraryTree.h"
 #include "library/VideoTransfer.h"
 #include "platform/files/Folders.h"
@@ -50,14 +49,8 @@ bool LessonSaver::Step() {
   if (copy_->Step()) return true;
   over_ = true;
   how_ = copy_->How();
-  if (how_) {
-    copy_.reset();
-    RecordedLesson kept;
-    kept.path = recording_;
-    (void)ThrowAway(kept);
-  } else if (EntryExists(path_)) {
-    how_ = Outcome::Failed("Lesson Name already exists. Please choose a different name.");
-  }
+  if (how_) copy_.reset();
+  else if (EntryExists(path_)) how_ = Outcome::Failed("Lesson Name already exists. Please choose a different name.");
   return false;
 }
 

@@ -21,8 +21,8 @@ std::string ProposeLessonName(const std::string& lessonsFolder, LessonKind kind,
 /// Why a lesson cannot have this name; empty when it can.
 std::string LessonNameFault(const std::string& lessonsFolder, LessonKind kind, std::string_view name);
 
-/// Makes of a recorded lesson the file that is kept, on a worker. What is there is never replaced; the recording stays
-/// until the file is safe on the disk, and goes then.
+/// Makes of a recorded lesson the file that is kept, on a worker. What is there is never replaced; the recording stays,
+/// and may go once the file is safe on the disk.
 class LessonSaver final : public IJob {
  public:
   /// @param path  of the file, whose folder is made when it is missing

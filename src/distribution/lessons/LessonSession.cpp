@@ -326,6 +326,8 @@ std::string LessonSession::ProposedName() const { return ProposeLessonName(Folde
 
 void LessonSession::TakeUp(const RecordedLesson& lesson) {
   if (phase_ != LessonPhase::Away && phase_ != LessonPhase::Ready) return;
+  if (const Outcome ours = files_.TakeUp(lesson); !ours)
+    return parts_.host.Message(MessageKind::Information, "", ours.Why());
   UpdateAudioLevelTimer_.Stop();
   if (graph_) graph_->GraphClear();
   lesson_ = lesson;
@@ -336,6 +338,14 @@ void LessonSession::TakeUp(const RecordedLesson& lesson) {
   }
   Enter(LessonPhase::Finished);
   parts_.view.ShowSaveForm();
+}
+
+void LessonSession::DropLeft(const RecordedLesson& lesson) {
+  if (phase_ != LessonPhase::Away) return;
+  Outcome gone = files_.TakeUp(lesson);
+  if (gone) gone = ThrowAway(lesson);
+  files_.Release();
+  if (!gone) parts_.host.Message(MessageKind::Information, "", gone.Why());
 }
 
 /// What becomes of a save.
@@ -380,6 +390,7 @@ void LessonSession::Saved(const Outcome& how, const std::string& path) {
     Say("The lesson WAS NOT SAVED. " + how.Why());
     return;
   }
+  Drop();
   Say("Video Saved.");
   parts_.view.LessonSaved(path);
   GoAway();

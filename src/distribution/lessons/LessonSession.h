@@ -49,8 +49,10 @@ class LessonSession : private IGraphEvents, private IScreenEvents {
   void PressCancel();
   /// Keeps the lesson under this name. Refused, with the words for it, while it has another fault than its disk.
   std::string Save(std::string_view name);
-  /// Takes up a lesson that an earlier run has left.
+  /// Takes up a lesson that an earlier run has left, or says why not.
   void TakeUp(const RecordedLesson& lesson);
+  /// Removes one, or says why not.
+  void DropLeft(const RecordedLesson& lesson);
   /// The section goes: what was recorded stays and is offered at the next start.
   void Leave();
 

@@ -177,7 +177,18 @@ TEST_F(LessonSessionTest, WhatIsNotKeptIsAskedAboutAndWhatWasLeftIsFound) {
 
   Begin();
   remembered = {"Other", "Somebody", {}};
+  RecordedLesson stale = left[0];
+  stale.written -= 60;
+  session->DropLeft(stale);
+  EXPECT_TRUE(fs::exists(left[0].path)) << "another lesson has its name now";
+  {
+    const FileLock other(left[0].path, 0);
+    session->TakeUp(left[0]);
+    EXPECT_FALSE(session->Shown());
+    EXPECT_EQ(host.messages.back(), "Another window is at work on this lesson.");
+  }
   session->TakeUp(left[0]);
+  EXPECT_TRUE(Unfinished().empty()) << "it is ours now";
   EXPECT_EQ(session->Student(), "Łucja");
   EXPECT_EQ(formsShown, 1);
   // A file where the folder should be: refused, and nothing is lost.

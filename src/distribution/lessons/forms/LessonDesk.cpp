@@ -136,11 +136,13 @@ void LessonDesk::MakeOffer() {
     const RecordedLesson lesson = left_.front();
     left_.erase(left_.begin());
     session_.TakeUp(lesson);
+    ShowOffer();
   });
   connect(away, &QPushButton::clicked, this, [this] {
     if (!parts_.host.Question("", "Do you want to throw the unfinished lesson away?")) return;
-    if (const Outcome gone = ThrowAway(left_.front()); !gone) parts_.host.Message(MessageKind::Warning, "", gone.Why());
+    const RecordedLesson lesson = left_.front();
     left_.erase(left_.begin());
+    session_.DropLeft(lesson);
     ShowOffer();
   });
   connect(offer_, &FloatCard::CloseWanted, this, [this] {
