@@ -135,13 +135,18 @@ TEST_F(LessonForms, WhatAnEarlierRunHasLeftIsOffered) {
   RecordedLesson lesson;
   lesson.path = library.Data("lesson 1.mkv");
   WriteLesson(lesson.path, 45);
+  lesson.written = StampOf(lesson.path)->written / 1'000'000'000;
   lesson.facts.seconds = 3;
   lesson.instructor = "Ben";
   lesson.student = "Ιωάννης";
-  desk->Offer({lesson, lesson});
+  RecordedLesson second = lesson;
+  second.path = library.Data("lesson 2.mkv");
+  std::filesystem::copy_file(lesson.path, second.path);
+  second.written = StampOf(second.path)->written / 1'000'000'000;
+  desk->Offer({lesson, second, lesson});
   EXPECT_TRUE(
       Part<QLabel>("UnfinishedLessonWords").text().startsWith("A lesson was broken off: Ιωάννης, 0:03 minutes"));
-  library.host.answers = {true};
+  library.host.answers = {true, true};
   Press("UnfinishedLessonAway");
   EXPECT_FALSE(std::filesystem::exists(lesson.path));
   EXPECT_TRUE(Part<QWidget>("UnfinishedLesson").isVisible()) << "there is one more";
@@ -149,6 +154,11 @@ TEST_F(LessonForms, WhatAnEarlierRunHasLeftIsOffered) {
   EXPECT_FALSE(Part<QWidget>("UnfinishedLesson").isVisible());
   EXPECT_EQ(desk->Session().Phase(), LessonPhase::Finished);
   EXPECT_EQ(desk->Session().Student(), "Ιωάννης");
+  Press("RecordBtn2");
+  EXPECT_FALSE(stage.findChild<QDialog*>("SaveLessonForm")->isVisible()) << "nothing is left to be named";
+  Press("UnfinishedLessonSave");
+  EXPECT_EQ(desk->Session().Phase(), LessonPhase::Away) << "it is gone";
+  EXPECT_FALSE(Part<QWidget>("UnfinishedLesson").isVisible());
 }
 
 }  // namespace

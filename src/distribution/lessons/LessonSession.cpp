@@ -130,9 +130,10 @@ bool LessonSession::MayDrop(const std::string& question) const {
 void LessonSession::PressCancel() {
   if (phase_ == LessonPhase::Ready) return GoAway();
   if (phase_ == LessonPhase::Away || phase_ == LessonPhase::Saving) return;
+  const LessonPhase asked = phase_;
   if (!MayDrop("Do you want to throw this lesson away?")) return;
-  // It may have ended while the question stood.
-  if (phase_ == LessonPhase::Away || phase_ == LessonPhase::Saving) return;
+  // Where it has ended while the question stood, the form for its name is there already, and can be cancelled.
+  if (phase_ != asked) return;
   Say("Recording cancelled...");
   if (IsUnderWay(phase_)) (void)graph_->GraphStop();
   Drop();

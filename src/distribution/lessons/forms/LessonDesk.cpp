@@ -62,7 +62,10 @@ void LessonDesk::LessonChanged() {
   if (std::exchange(told_, phase) == phase) return;
   ring_->SetOn(IsUnderWay(phase));
   stage_->setCursor(phase == LessonPhase::Preparing ? Qt::BusyCursor : Qt::ArrowCursor);
-  if (phase == LessonPhase::Away) ShowOffer();
+  if (phase == LessonPhase::Away) {
+    if (save_ && save_->Asks()) save_->reject();
+    ShowOffer();
+  }
   parts_.events.LessonChanged();
 }
 

@@ -140,6 +140,8 @@ void SaveLessonForm::Save() {
   Text1_->selectAll();
 }
 
+bool SaveLessonForm::Asks() const { return isVisible() && asking_->isVisible(); }
+
 void SaveLessonForm::Saved(const std::string& path) {
   path_ = Q(path);
   savedAs_->setText(path_);

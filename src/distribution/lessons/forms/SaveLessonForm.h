@@ -24,6 +24,8 @@ class SaveLessonForm : public QDialog {
   void Open();
   /// The session says something else.
   void Update();
+  /// A name is asked for, and nothing has been kept yet.
+  bool Asks() const;
   /// The lesson has been kept.
   void Saved(const std::string& path);
 
