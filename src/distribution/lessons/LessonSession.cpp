@@ -129,7 +129,8 @@ bool LessonSession::MayDrop(const std::string& question) const {
 
 void LessonSession::PressCancel() {
   if (phase_ == LessonPhase::Ready) return GoAway();
-  if (phase_ == LessonPhase::Away || phase_ == LessonPhase::Saving) return;
+  if (phase_ == LessonPhase::Away) return;
+  if (phase_ == LessonPhase::Saving) return parts_.jobs.Cancel();
   const LessonPhase asked = phase_;
   if (!MayDrop("Do you want to throw this lesson away?")) return;
   // Where it has ended while the question stood, the form for its name is there already, and can be cancelled.
@@ -291,9 +292,7 @@ void LessonSession::Stop(const std::string& fault) {
   UpdateAudioLevelTimer_.Stop();
   parts_.view.ShowLevel(0);
   if (tally.pictures == 0)
-    return Fail(!fault.empty()         ? fault
-                : !tally.fault.empty() ? tally.fault
-                                       : "The screen gave no picture. Nothing was recorded.");
+    return Fail(!fault.empty() ? fault : !tally.fault.empty() ? tally.fault : "Recording cancelled...");
   lesson_.facts.seconds = static_cast<double>(tally.pictures) / LessonFile::kRate;
   Enter(LessonPhase::Finished);
   const std::string& why = !fault.empty() ? fault : !closed ? closed.Why() : tally.fault;
@@ -388,7 +387,8 @@ void LessonSession::Saved(const Outcome& how, const std::string& path) {
   if (phase_ != LessonPhase::Saving) return;
   if (!how) {
     Enter(LessonPhase::Finished);
-    Say("The lesson WAS NOT SAVED. " + how.Why());
+    Say(how.Kind() == Fault::Cancelled ? "Saving cancelled. Click Save Video to continue.."
+                                       : "The lesson WAS NOT SAVED. " + how.Why());
     return;
   }
   Drop();

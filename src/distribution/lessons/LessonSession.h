@@ -45,7 +45,7 @@ class LessonSession : private IGraphEvents, private IScreenEvents {
   /// The main button: starts, stops, or asks for the name again.
   void PressRecord();
   void PressPause();
-  /// Drops what was recorded, after a question.
+  /// Drops what was recorded, after a question. A save that is under way is given up, and can be tried again.
   void PressCancel();
   /// Keeps the lesson under this name. Refused, with the words for it, while it has another fault than its disk.
   std::string Save(std::string_view name);

@@ -203,6 +203,11 @@ TEST_F(LessonSessionTest, WhatIsNotKeptIsAskedAboutAndWhatWasLeftIsFound) {
   EXPECT_EQ(session->Save("Swing"), "The drive of the library does not answer.");
   host.DrivesAnswer();
   EXPECT_EQ(session->Save("Swing"), "");
+  session->PressCancel();
+  RunJobs();
+  EXPECT_EQ(session->Status(), "Saving cancelled. Click Save Video to continue..");
+  EXPECT_FALSE(fs::exists(folder + "/Lessons/Swing.avi"));
+  EXPECT_EQ(session->Save("Swing"), "");
   RunJobs();
   EXPECT_TRUE(fs::exists(folder + "/Lessons/Swing.avi"));
   EXPECT_FALSE(fs::exists(left[0].path));
@@ -237,6 +242,10 @@ TEST_F(LessonSessionTest, AMicrophoneThatGoesAndAScreenThatIsRefusedAreTold) {
   session->GraphEvents().SourceFailed("VideoSource", "The camera gives no picture.");
   EXPECT_EQ(session->Status(), "The screen gives no picture.");
   EXPECT_EQ(session->Phase(), LessonPhase::Ready);
+
+  session->PressRecord();
+  session->PressRecord();
+  EXPECT_EQ(session->Status(), "Recording cancelled...") << "before the first picture";
 
   screens.way = IScreens::Way::Asked;
   session->PressRecord();

@@ -186,7 +186,6 @@ void LessonPanel::Update() {
   RecordBtn_[kSave]->setVisible(phase == LessonPhase::Finished);
   // Under way the cross in the heading cancels.
   RecordBtn_[kCancel]->setVisible(!under);
-  RecordBtn_[kCancel]->setEnabled(!saving);
   findChild<QWidget*>("LessonPanelClose")->setToolTip(RecordBtn_[kCancel]->text());
   const Vocabulary vocabulary(settings_);
   const bool chosen = !session_.Student().empty();

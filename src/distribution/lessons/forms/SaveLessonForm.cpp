@@ -62,7 +62,6 @@ SaveLessonForm::SaveLessonForm(LessonSession& session, QWidget* over) : QDialog(
   auto* actions = new QHBoxLayout;
   actions->addStretch(1);
   later_ = new Button("SaveLessonLater", tr("Not Now"), {}, Look::Quiet, asking_);
-  later_->setToolTip(tr("The lesson waits in the recorder"));
   SSCommand1_ = new Button("SSCommand1", tr("Save Video"), "save", Look::Filled, asking_);
   SSCommand1_->setDefault(true);
   actions->addWidget(later_);
@@ -90,7 +89,10 @@ SaveLessonForm::SaveLessonForm(LessonSession& session, QWidget* over) : QDialog(
   all->addWidget(MsgPnl_);
 
   connect(SSCommand1_, &QPushButton::clicked, this, &SaveLessonForm::Save);
-  connect(later_, &QPushButton::clicked, this, &QDialog::reject);
+  connect(later_, &QPushButton::clicked, this, [this] {
+    if (session_.Phase() == LessonPhase::Saving) session_.PressCancel();
+    else reject();
+  });
   connect(change_, &QPushButton::clicked, this, &SaveLessonForm::StudentWanted);
   connect(Text1_, &QLineEdit::textEdited, this, [this] { MsgLbl_->clear(); });
   connect(ok, &QPushButton::clicked, this, &QDialog::accept);
@@ -124,6 +126,8 @@ void SaveLessonForm::Update() {
   progress_->setValue(static_cast<int>(session_.SavedPart() * 100));
   for (QWidget* part : {static_cast<QWidget*>(Text1_), static_cast<QWidget*>(change_)}) part->setEnabled(!saving);
   SSCommand1_->setEnabled(!saving);
+  later_->setText(saving ? tr("Cancel") : tr("Not Now"));
+  later_->setToolTip(saving ? QString() : tr("The lesson waits in the recorder"));
   if (session_.Status() != StatusOf(session_.Phase())) MsgLbl_->setText(Q(session_.Status()));
   // A name that nobody has typed follows the student.
   if (!saving && Text1_->text() == proposed_ && isVisible()) {
