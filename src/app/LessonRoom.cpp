@@ -37,6 +37,7 @@ LessonRoom::LessonRoom(Parts parts)
 LessonRoom::~LessonRoom() = default;
 
 void LessonRoom::Serve(AnalysisForm* analysis) {
+  if (desk_) left_ = desk_->TakeOffers();
   desk_.reset();
   analysis_ = analysis;
   auto* stage = analysis ? analysis->findChild<QWidget*>("MainPanel") : nullptr;

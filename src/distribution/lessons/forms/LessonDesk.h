@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "distribution/lessons/LessonSession.h"
@@ -56,6 +57,8 @@ class LessonDesk : public QObject, private ILessonView {
   LessonSession& Session() { return session_; }
   /// Offers what an earlier run has left, the latest first.
   void Offer(std::vector<RecordedLesson> lessons);
+  /// What has been neither taken up nor refused, for the next desk.
+  std::vector<RecordedLesson> TakeOffers() { return std::exchange(left_, {}); }
 
  private:
   void ChooseStudent();
