@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "platform/host/DriveWatch.h"
+#include "platform/host/FileKinds.h"
 #include "platform/host/Host.h"
 
 namespace kinalyx::test {
@@ -90,7 +91,9 @@ class TestHost final : public IHost {
   }
   std::optional<std::string> PickNewFile(const FileDialog& dialog) override {
     suggested = dialog.folder;
-    return Take(newFiles).value_or(std::nullopt);
+    auto chosen = Take(newFiles).value_or(std::nullopt);
+    if (chosen) chosen = WithEnding(*chosen, dialog.filter);
+    return chosen;
   }
   std::optional<std::string> PickFolder(const std::string&, const std::string&) override {
     return Take(folders).value_or(std::nullopt);

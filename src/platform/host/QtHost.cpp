@@ -8,7 +8,6 @@
 #include <QMessageBox>
 #include <QFileInfo>
 #include <QProcess>
-#include <QRegularExpression>
 #include <QScreen>
 #include <QStandardPaths>
 #include <QTimerEvent>
@@ -24,6 +23,7 @@
 
 #include "platform/files/Log.h"
 #include "platform/host/DriveWatch.h"
+#include "platform/host/FileKinds.h"
 
 namespace kinalyx {
 namespace {
@@ -178,12 +178,23 @@ class QtHost final : public QObject, public IHost {
   }
 
   std::optional<std::string> PickNewFile(const FileDialog& dialog) override {
+    const QString filter = DialogFilter(dialog.filter);
     QString kind;
-    QString path = QFileDialog::getSaveFileName(QApplication::activeWindow(), Title(dialog.title), Text(dialog.folder),
-                                                DialogFilter(dialog.filter), &kind);
-    if (!path.isEmpty() && QFileInfo(path).suffix().isEmpty())
-      path += kind.section("(*", 1).section(QRegularExpression("[ )]"), 0, 0);
-    return Picked(path);
+    QString path = Text(dialog.folder);
+    for (;;) {
+      // The dialog would ask about the name that was typed, before it has its ending.
+      path = QFileDialog::getSaveFileName(QApplication::activeWindow(), Title(dialog.title), path, filter, &kind,
+                                          QFileDialog::DontConfirmOverwrite);
+      if (path.isEmpty()) return std::nullopt;
+      const auto chosen = std::max<qsizetype>(0, filter.split(";;").indexOf(kind));
+      path = Text(WithEnding(path.toStdString(), dialog.filter, static_cast<std::size_t>(chosen)));
+      const QFileInfo file(path);
+      // Who writes on a drive that does not answer says so.
+      const auto there = drives_.Ask(file.path().toStdString(), [path] { return QFileInfo::exists(path); });
+      if (!there.value_or(false)) return Picked(path);
+      const QString question = "\"%1\" is there already. Do you want to replace it?";
+      if (Question(dialog.title, question.arg(file.fileName()).toStdString())) return Picked(path);
+    }
   }
 
   std::optional<std::string> PickFolder(const std::string& title, const std::string& folder) override {

@@ -187,8 +187,7 @@ void Notesform::Save() {
       {tr("Save Notes").toStdString(), file_.toStdString(),
        "Text Files, words alone (*.txt)|*.txt|Web Pages, with bold, italic and sizes (*.html)|*.html"});
   if (!chosen) return;
-  QString path = Q(*chosen);
-  if (!IsPage(path) && !path.endsWith(".txt", Qt::CaseInsensitive)) path += ".txt";
+  const QString path = Q(*chosen);
   const std::string text = IsPage(path) ? notes_->toHtml().toStdString() : FileText(notes_->toPlainText());
   if (const Outcome saved = WriteWholeFile(path.toStdString(), text); saved) {
     file_ = path;

@@ -226,9 +226,8 @@ void PreviewForm::SavePdf() {
   const auto chosen =
       host_.PickNewFile({tr("Save as PDF").toStdString(), printout_.Title() + ".pdf", "PDF (*.pdf)|*.pdf"});
   if (!chosen) return;
-  const QString path = Q(*chosen).endsWith(".pdf", Qt::CaseInsensitive) ? Q(*chosen) : Q(*chosen) + ".pdf";
   emit PrintingBegins();
-  const Outcome saved = PrintToPdf(printout_, choice_.Paper, Std(path));
+  const Outcome saved = PrintToPdf(printout_, choice_.Paper, *chosen);
   emit PrintingEnds(static_cast<bool>(saved));
   if (saved) accept();
   else Tell(saved);

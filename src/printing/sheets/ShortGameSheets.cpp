@@ -3,7 +3,6 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <cctype>
 #include <utility>
 
 #include "platform/files/Folders.h"
@@ -50,13 +49,6 @@ Surface PartOf(const Surface& all, const StagePictures::Part& part) {
 Result<Surface> ReadPicture(const std::string& path) {
   constexpr int kMost = 4096;  // pixels of a side
   return LoadPicture(path, kMost, StagePictures::kPaperWhite);
-}
-
-bool EndsInBmp(const std::string& path) {
-  std::string end = path.substr(path.size() - std::min<std::size_t>(path.size(), 4));
-  std::ranges::transform(end, end.begin(),
-                         [](unsigned char letter) { return static_cast<char>(std::tolower(letter)); });
-  return end == ".bmp";
 }
 
 }  // namespace
@@ -138,7 +130,7 @@ void ShortGameSheets::BriskoModel() {
   const Surface all = pictures_.All();
   const auto chosen = host_.PickNewFile({"Save Bitmap", JoinPath(settings_.AppPath, "pictures/"), "BMP (*.bmp)|*.BMP"});
   if (!chosen) return;
-  const Outcome saved = SaveBmp(RowsOf(all), EndsInBmp(*chosen) ? *chosen : *chosen + ".bmp");
+  const Outcome saved = SaveBmp(RowsOf(all), *chosen);
   if (!saved) host_.Message(MessageKind::Warning, "", "The picture could not be saved. " + saved.Why());
 }
 

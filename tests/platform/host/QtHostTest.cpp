@@ -1,6 +1,8 @@
 #include "platform/host/QtHost.h"
 
 #include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <gmock/gmock.h>
@@ -11,6 +13,7 @@
 #include "platform/files/Folders.h"
 #include "platform/files/Log.h"
 #include "platform/host/DriveWatch.h"
+#include "platform/host/FileKinds.h"
 #include "support/TempFolder.h"
 
 namespace kinalyx::test {
@@ -122,6 +125,31 @@ TEST_F(QtHostTest, QuestionsAreAnsweredWithYesOrElseNo) {
   EXPECT_TRUE(answer(QMessageBox::Yes));
   EXPECT_FALSE(answer(QMessageBox::No));
   EXPECT_FALSE(answer(QMessageBox::NoButton)) << "closing the box is no";
+}
+
+TEST_F(QtHostTest, ANewFileHasItsEndingBeforeAnythingIsReplaced) {
+  const std::string filter = "Text (*.txt)|*.txt|Pages (*.html; *.htm)|*.html; *.htm";
+  EXPECT_EQ(WithEnding("/a/Lesson 25.11", filter, 1), "/a/Lesson 25.11.html");
+  EXPECT_EQ(WithEnding("/a/Lesson.HTM", filter), "/a/Lesson.HTM");
+  EXPECT_EQ(WithEnding("/a.txt/Lesson", "All Files|*"), "/a.txt/Lesson");
+
+  folder.Put("notes.txt", "kept");
+  std::vector<std::string> asked;
+  std::vector<QString> typed{"notes", "notes", "other 1.2"};
+  const HostTimer user(*host, 10, true, [&] {
+    QWidget* shown = QApplication::activeModalWidget();
+    if (auto* box = qobject_cast<QMessageBox*>(shown)) {
+      asked.push_back(box->text().toStdString());
+      return box->button(QMessageBox::No)->click();
+    }
+    auto* dialog = qobject_cast<QFileDialog*>(shown);
+    if (!dialog || typed.empty()) return;
+    dialog->findChild<QLineEdit*>()->setText(typed.front());
+    typed.erase(typed.begin());
+    QMetaObject::invokeMethod(dialog, "accept");
+  });
+  EXPECT_EQ(host->PickNewFile({"Save", folder.Path("first"), filter}), folder.Path("other 1.2.txt"));
+  EXPECT_EQ(asked, std::vector<std::string>(2, "\"notes.txt\" is there already. Do you want to replace it?"));
 }
 
 TEST_F(QtHostTest, ProgramsAreStartedWithTheirArguments) {
