@@ -13,7 +13,7 @@ AnalysisPrintout AnalysisPrintouts::PrintAll(RichText notes) {
 Result<AnalysisPrintout> AnalysisPrintouts::PrintHigh(RichText notes) {
   const int slot = stage_.CurrentWindow;
   if (!stage_.HasVideo(slot)) return Outcome{Fault::Refused, "There is no video in the highlighted window"};
-  return AnalysisPrintout(NameOfVideo(stage_.At(slot).path), ReadHeading(host_, settings_), pictures_.Window(slot),
+  return AnalysisPrintout(NameOfVideo(stage_.At(slot).path), ReadHeading(host_, settings_), pictures_.Whole(slot),
                           std::move(notes));
 }
 

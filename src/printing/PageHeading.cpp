@@ -44,7 +44,7 @@ PageHeading ReadHeading(IHost& host, const Settings& settings) {
   std::copy(settings.Heading.begin() + 1, settings.Heading.end(), heading.lines.begin());
   heading.withLogo = settings.Logo;
   if (!heading.withLogo) return heading;
-  const auto read = host.Drives().AskAtOnce(FolderOf(settings.LogoName), [path = settings.LogoName] {
+  const auto read = host.Drives().Ask(FolderOf(settings.LogoName), [path = settings.LogoName] {
     return LoadPicture(path, kLogoSide, Rgb(255, 255, 255));
   });
   if (read && *read) heading.logo = InProportions(**read);

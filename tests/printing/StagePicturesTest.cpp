@@ -52,6 +52,9 @@ TEST_F(StagePicturesTest, OfAPictureThatReachesBeyondItsCellOnlyWhatIsSeenIsTake
   EXPECT_NEAR(seen.Height(), at.panel.Height / kTwipsPerPixel, 1);
   const POINTAPI corner = PlayerCorner(at);
   EXPECT_EQ(seen.Pixel(0, 0), at.MP->Picture().Pixel(-corner.x, -corner.y));
+  const Surface whole = pictures.Whole(1);
+  EXPECT_EQ(whole.Width(), at.MP->Picture().Width());
+  EXPECT_GT(whole.Width(), seen.Width());
 }
 
 TEST_F(StagePicturesTest, TheModesComeAsTheyAreSeen) {

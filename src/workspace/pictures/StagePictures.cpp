@@ -67,6 +67,13 @@ Surface StagePictures::Window(int slot) {
   return Cut(slot);
 }
 
+Surface StagePictures::Whole(int slot) {
+  if (!stage_.HasVideo(slot)) return {};
+  compare_.Locks().StopTogether();
+  Settle(slot);
+  return stage_.MP(slot).Picture();
+}
+
 Surface StagePictures::Cut(int slot) const {
   const Slot& at = stage_.At(slot);
   const Surface& picture = at.MP->Picture();

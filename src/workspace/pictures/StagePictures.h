@@ -24,6 +24,8 @@ class StagePictures {
   /// The picture of a window as its cell shows it: of one that reaches beyond the cell the part that is seen. Empty
   /// for a window without a video.
   Surface Window(int slot);
+  /// The picture of a window with all that reaches beyond its cell. Empty for a window without a video.
+  Surface Whole(int slot);
   /// The whole stage in its proportions: windows in their places, or the mix, or the film above its video, and the
   /// piece that was carved over them.
   Surface All();
