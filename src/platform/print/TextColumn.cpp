@@ -9,6 +9,12 @@
 
 namespace kinalyx {
 
+namespace {
+
+constexpr double kTabStop = 80.0 / 96;  // inches, as far apart as in the box of the notes
+
+}  // namespace
+
 TextColumn::TextColumn(const RichText& text, const QFont& font, double width)
     : text_(text), font_(font), width_(width) {
   document_.setDocumentMargin(0);
@@ -16,6 +22,7 @@ TextColumn::TextColumn(const RichText& text, const QFont& font, double width)
   document_.setDefaultFont(font);
   QTextOption wrap;
   wrap.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);  // a long address must not run over the rule
+  wrap.setTabStopDistance(kTabStop * kDotsPerInch);
   document_.setDefaultTextOption(wrap);
   QTextCursor cursor(&document_);
   for (const TextRun& run : text.runs) {
