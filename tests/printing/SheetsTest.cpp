@@ -42,7 +42,7 @@ struct SheetsTest : ::testing::Test {
 TEST_F(SheetsTest, EachDayIsKeptInItsBitmap) {
   sheets.BriskoSaveScreen(ShortGame::BunkerShot);
   EXPECT_EQ(stage.host.messages.back(), "You must have a video open in window 1 to continue.");
-  EXPECT_EQ(sheets.MakeSheet(ShortGame::ChipShot, false).Why(), stage.host.messages.back());
+  EXPECT_EQ(sheets.MakeSheet(ShortGame::ChipShot, false).Why(), "You must have a video open to continue.");
 
   Open(1, "Bunker Shot Day 1.avi");
   sheets.BriskoSaveScreen(ShortGame::BunkerShot);
@@ -112,6 +112,17 @@ TEST_F(SheetsTest, ADayThatIsNotOnTheStageComesFromItsBitmap) {
     EXPECT_LE(rows.pictures[std::size_t(row)].height, 300) << "half of the stage";
     EXPECT_GE(rows.pictures[std::size_t(row)].height, 200);
   }
+}
+
+TEST_F(SheetsTest, TwoVideosInOneRowAreTwoDaysInEveryLayout) {
+  stage.Stage().SetScreen(4);
+  Open(2, "Lessons/Bunker Shot Day 3.avi");
+  EXPECT_EQ(Sheet(ShortGame::BunkerShot).pictures.size(), 2u)
+      << "window 1 is empty: the day that is there, and the model";
+  Open(1, "Lessons/Bunker Shot Day 1.avi");
+  sheets.BriskoSaveScreen(ShortGame::BunkerShot);
+  EXPECT_EQ(stage.host.messages.back(), "Pictures saved Successfully!");
+  EXPECT_TRUE(Kept("BunkerShotDay1.bmp") && Kept("BunkerShotDay3.bmp")) << "beside the lessons, not among them";
 }
 
 TEST_F(SheetsTest, AModelIsKeptAsABitmapWhateverItsNameEndsWith) {

@@ -14,6 +14,8 @@ namespace kinalyx {
 namespace {
 
 constexpr const char* kFolder = "School Pics";
+constexpr const char* kLessons = "/Lessons";
+constexpr const char* kNothingOpen = "You must have a video open to continue.";
 constexpr const char* kNoVideo = "You must have a video open in window 1 to continue.";
 
 /// What is fixed of a sheet.
@@ -58,25 +60,35 @@ ShortGameSheets::Rows ShortGameSheets::TakeRows() {
   const std::vector<int> shown = pictures_.Shown();
   const ScreenMode* layout = FindScreenMode(stage_.ScreenLayout);
   if (stage_.Home().Away() || !layout) return {StagePictures::WithoutWhite(all), {}};
-  if (layout->Rows > 1) {
+  const int middle = stage_.PanelHeight() / 2;
+  const auto lower = std::ranges::count_if(
+      shown, [&](int slot) { return stage_.At(slot).cell.Top + stage_.At(slot).cell.Height / 2 > middle; });
+  if (layout->Rows > 1 && lower > 0 && lower < std::ssize(shown)) {
     const int half = all.Height() / 2;
-    const int middle = stage_.PanelHeight() / 2;
-    const bool lower = std::ranges::any_of(
-        shown, [&](int slot) { return stage_.At(slot).cell.Top + stage_.At(slot).cell.Height / 2 > middle; });
-    return {PartOf(all, {0, 0, all.Width(), half}),
-            lower ? PartOf(all, {0, half, all.Width(), all.Height() - half}) : Surface()};
+    return {PartOf(all, {0, 0, all.Width(), half}), PartOf(all, {0, half, all.Width(), all.Height() - half})};
   }
   std::vector<int> first, second;
   for (const int slot : shown) {
     const std::string& path = stage_.At(slot).path;
-    if (path == stage_.At(1).path) first.push_back(slot);
+    if (path == FirstVideo()) first.push_back(slot);
     else if (second.empty() || path == stage_.At(second.front()).path) second.push_back(slot);
   }
   if (second.empty()) return {StagePictures::WithoutWhite(all), {}};
   return {PartOf(all, pictures_.PartOf(first)), PartOf(all, pictures_.PartOf(second))};
 }
 
-std::string ShortGameSheets::SchoolPics() const { return JoinPath(FolderOf(stage_.At(1).path), kFolder); }
+/// Of window 1 or, where that has none, of the first window with one.
+const std::string& ShortGameSheets::FirstVideo() const {
+  int slot = 1;
+  while (slot < kSlots && !stage_.HasVideo(slot)) ++slot;
+  return stage_.At(slot).path;
+}
+
+std::string ShortGameSheets::SchoolPics() const {
+  std::string student = FolderOf(FirstVideo());
+  if (student.ends_with(kLessons)) student = FolderOf(student);
+  return JoinPath(student, kFolder);
+}
 
 std::string ShortGameSheets::ModelPath(ShortGame Kind, bool LeftyPrint) const {
   return JoinPath(settings_.AppPath,
@@ -88,7 +100,7 @@ Outcome ShortGameSheets::SaveRow(const Surface& row, const std::string& name) {
 }
 
 void ShortGameSheets::BriskoSaveScreen(ShortGame Kind) {
-  if (!VideoInFirst()) return host_.Message(MessageKind::Information, "", kNoVideo);
+  if (!stage_.HasVideo(1)) return host_.Message(MessageKind::Information, "", kNoVideo);
   const SheetKind& kind = KindOf(Kind);
   const Rows rows = TakeRows();
   Outcome saved;
@@ -104,7 +116,7 @@ void ShortGameSheets::BriskoSaveScreen(ShortGame Kind) {
 }
 
 Result<SheetPrintout> ShortGameSheets::MakeSheet(ShortGame Kind, bool LeftyPrint) {
-  if (!VideoInFirst()) return Outcome{Fault::Refused, kNoVideo};
+  if (!stage_.AnyVideo()) return Outcome{Fault::Refused, kNothingOpen};
   const SheetKind& kind = KindOf(Kind);
   Rows taken = TakeRows();
   SheetPrintout::Rows rows;
@@ -130,7 +142,8 @@ void ShortGameSheets::BriskoModel() {
   const Surface all = pictures_.All();
   const auto chosen = host_.PickNewFile({"Save Bitmap", JoinPath(settings_.AppPath, "pictures/"), "BMP (*.bmp)|*.BMP"});
   if (!chosen) return;
-  const Outcome saved = SaveBmp(RowsOf(all), *chosen);
+  const Outcome saved = host_.Drives().Answers(FolderOf(*chosen)) ? SaveBmp(RowsOf(all), *chosen)
+                                                                  : Outcome::Failed("The drive does not answer.");
   if (!saved) host_.Message(MessageKind::Warning, "", "The picture could not be saved. " + saved.Why());
 }
 

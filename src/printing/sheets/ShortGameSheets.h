@@ -16,9 +16,9 @@ namespace kinalyx {
 /// The pictures of the short-game school: takes them from the stage, keeps them in the student's folder, and puts them
 /// on sheets beside the model swing.
 ///
-/// A sheet has a row for each of two days, or views. Of a stage with two rows of windows the upper row is the first
-/// and the lower row the second; of any other the windows with the video of window 1 are the first, and those with
-/// the next video the second.
+/// A sheet has a row for each of two days, or views. Of a stage with videos in two rows of windows the upper row is the
+/// first and the lower row the second; of any other the windows with the video of window 1 are the first, and those
+/// with the next video the second.
 class ShortGameSheets {
  public:
   /// All outlives it.
@@ -28,7 +28,7 @@ class ShortGameSheets {
   /// Takes the rows into `School Pics` of the student's folder, in bitmaps with fixed names, and tells so, or why not.
   void BriskoSaveScreen(ShortGame Kind);
   /// The sheet of what stands on the stage. A second day that does not stand there is taken from `School Pics`, where
-  /// there is one. Fails where window 1 has no video, or the model picture cannot be loaded.
+  /// there is one. Fails where no window has a video, or the model picture cannot be loaded.
   Result<SheetPrintout> MakeSheet(ShortGame Kind, bool LeftyPrint);
   /// "Create Model": keeps the picture of the stage in a bitmap of the user's choice.
   void BriskoModel();
@@ -40,7 +40,7 @@ class ShortGameSheets {
   };
   Rows TakeRows();
 
-  bool VideoInFirst() const { return stage_.HasVideo(1); }
+  const std::string& FirstVideo() const;
   std::string SchoolPics() const;
   std::string ModelPath(ShortGame Kind, bool LeftyPrint) const;
   Outcome SaveRow(const Surface& row, const std::string& name);
