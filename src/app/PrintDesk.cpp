@@ -37,7 +37,7 @@ void PrintDesk::ShowReportForm() {
   ReportMaker report({services_, settings_, Section().Stage(), Section().Tools(), pictures});
   ReportForm form(report, analysis_);
   QObject::connect(&form, &ReportForm::PreviewWanted, &form, [&] {
-    if (Preview(report.Make(form.Items(), form.Notes()), &form, "Ready")) form.accept();
+    if (Preview(report.Make(form.Items(), form.Notes()), &form, "Ready") != CameOut::Nothing) form.accept();
   });
   form.exec();
 }
@@ -47,12 +47,17 @@ void PrintDesk::PrintWindows(Notesform& form, bool all) {
   AnalysisPrintouts printouts(host_, settings_, Section().Stage(), pictures);
   Result<AnalysisPrintout> page = all ? printouts.PrintAll(form.Notes()) : printouts.PrintHigh(form.Notes());
   if (!page) return host_.Message(MessageKind::Information, "", page.Why());
-  if (Preview(*page, &form, "Ready")) form.accept();
+  switch (Preview(*page, &form, "Ready")) {
+    case CameOut::Paper: form.accept(); break;
+    case CameOut::File: form.TextIsKept(); break;  // another window may follow with the same notes
+    case CameOut::Nothing: break;
+  }
 }
 
 void PrintDesk::PrintNotes(Notesform& form) {
   const std::string& path = Section().Stage().Current().path;
-  Preview(NotesPrintout(path.empty() ? "Notes" : NameOfVideo(path), form.Notes()), &form, "Ready");
+  const NotesPrintout page(path.empty() ? "Notes" : NameOfVideo(path), form.Notes());
+  if (Preview(page, &form, "Ready") != CameOut::Nothing) form.TextIsKept();
 }
 
 void PrintDesk::PrintSheet(ShortGame sheet) {
@@ -78,13 +83,16 @@ void PrintDesk::SaveModelPicture() {
   ShortGameSheets(host_, settings_, Section().Stage(), pictures).BriskoModel();
 }
 
-bool PrintDesk::Preview(const IPrintout& printout, QWidget* over, const std::string& done) {
+PrintDesk::CameOut PrintDesk::Preview(const IPrintout& printout, QWidget* over, const std::string& done) {
   PreviewForm form(host_, printer_, printout, choice_, over);
   Transport& status = Section().Transport();
   QObject::connect(&form, &PreviewForm::PrintingBegins, &form, [&] { status.DisplayData("Printing..."); });
-  QObject::connect(&form, &PreviewForm::PrintingEnds, &form,
-                   [&](bool printed) { printed ? status.Announce(done) : status.DisplayData(""); });
-  return form.exec() == QDialog::Accepted;
+  QObject::connect(&form, &PreviewForm::PrintingEnds, &form, [&](bool cameOut) {
+    if (cameOut) status.Announce(done);
+    else status.DisplayData("");
+  });
+  if (form.exec() != QDialog::Accepted) return CameOut::Nothing;
+  return form.Printed() ? CameOut::Paper : CameOut::File;
 }
 
 }  // namespace kinalyx

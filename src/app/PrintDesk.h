@@ -38,8 +38,9 @@ class PrintDesk {
   AnalysisWorkspace& Section();
   void PrintWindows(Notesform& form, bool all);
   void PrintNotes(Notesform& form);
-  /// Shows the pages; true when something came out. The status says `done` then.
-  bool Preview(const IPrintout& printout, QWidget* over, const std::string& done);
+  enum class CameOut { Nothing, File, Paper };
+  /// Shows the pages; the status says `done` when something came out.
+  CameOut Preview(const IPrintout& printout, QWidget* over, const std::string& done);
 
   PlayerServices& services_;
   IHost& host_;

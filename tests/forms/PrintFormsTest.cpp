@@ -5,6 +5,7 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QTextEdit>
+#include <filesystem>
 
 #include "FormDriver.h"
 #include "FormsSupport.h"
@@ -18,6 +19,8 @@
 
 namespace kinalyx::test {
 namespace {
+
+namespace fs = std::filesystem;
 
 struct TwoPages final : IPrintout {
   std::string Title() const override { return "Driver"; }
@@ -81,11 +84,40 @@ TEST_F(PrintFormsTest, NotesKeepTheirFormatsOnPaperAndInAFile) {
   EXPECT_EQ(all.count() + one.count(), 2);
 }
 
+TEST_F(PrintFormsTest, TypedNotesAreNotLostUnasked) {
+  const TempFolder folder;
+  Notesform notes(host, "Proposed", nullptr);
+  Show(notes);
+  auto* box = Find<QTextEdit>("Notes");
+  host.files = {folder.Put("old.txt", "Old"), folder.Path("old.txt")};
+  Press("PrintBtn1");
+  EXPECT_TRUE(host.questions.empty()) << "a proposal is no work";
+  QTest::keyClicks(box, "New ");
+  Press("PrintBtn0");
+  Press("PrintBtn1");
+  QTest::keyClick(box, Qt::Key_Escape);
+  notes.close();
+  EXPECT_EQ(host.questions.size(), 4u);
+  EXPECT_EQ(notes.Notes().runs.front().text, "New Old");
+  EXPECT_TRUE(notes.isVisible());
+
+  host.drivesHang = true;
+  host.newFiles = {folder.Path("far"), folder.Path("near")};
+  Press("PrintBtn2");
+  EXPECT_EQ(host.messages, std::vector<std::string>{"The notes could not be saved: the drive does not answer."});
+  host.DrivesAnswer();
+  Press("PrintBtn2");
+  Press("SSCommand1_2");
+  EXPECT_EQ(host.questions.size(), 4u) << "saved";
+  EXPECT_FALSE(notes.isVisible());
+  EXPECT_FALSE(fs::exists(folder.Path("far.txt")));
+}
+
 TEST_F(PrintFormsTest, PagesAreSeenBeforeTheyArePrinted) {
   const TempFolder folder;
   const TwoPages pages;
   PrintChoice choice{"", Paper::A4};
-  printer.queues = {"Office", "Attic"};
+  printer.queues.reset();
   choice.printer = "Attic";
   printer.answer = Outcome::Failed("The printer does not answer.");
   PreviewForm preview(host, printer, pages, choice, nullptr);
@@ -94,7 +126,10 @@ TEST_F(PrintFormsTest, PagesAreSeenBeforeTheyArePrinted) {
   const QSize a4 = Find<QLabel>("Sheet2")->size();
   Find<QComboBox>("PaperBox")->setCurrentText("Letter");
   EXPECT_NE(Find<QLabel>("Sheet2")->size(), a4);
-  EXPECT_EQ(Find<QComboBox>("PrinterBox")->currentText(), "Attic") << "as last time";
+  EXPECT_FALSE(Find<QAbstractButton>("PrintBtn")->isEnabled());
+  EXPECT_TRUE(Find<QAbstractButton>("PdfBtn")->isEnabled()) << "nobody waits for printers";
+  printer.queues = {"Office", "Attic"};
+  QTRY_COMPARE(Find<QComboBox>("PrinterBox")->currentText(), QString("Attic"));  // as last time
   for (int zoom = 0; zoom < Find<QComboBox>("ZoomBox")->count(); ++zoom) {
     Find<QComboBox>("ZoomBox")->setCurrentIndex(zoom);
     EXPECT_EQ(Find<QLabel>("Sheet1")->grab().toImage().pixelColor(20, 20), QColor(Qt::white)) << zoom;
@@ -103,17 +138,20 @@ TEST_F(PrintFormsTest, PagesAreSeenBeforeTheyArePrinted) {
   QSignalSpy begun(&preview, &PreviewForm::PrintingBegins);
   QSignalSpy ended(&preview, &PreviewForm::PrintingEnds);
   Press("PrintBtn");
-  EXPECT_EQ(host.messages.back(), "Nothing was printed. The printer does not answer.");
+  EXPECT_EQ(host.messages.back(), "The printer does not answer.");
   EXPECT_TRUE(preview.isVisible());
-  EXPECT_EQ(begun.count() + ended.count(), 2);
+  EXPECT_EQ(begun.count(), 1);
+  EXPECT_EQ(ended.takeFirst().front(), QVariant(false));
   printer.answer = {};
   Press("PrintBtn");
   EXPECT_EQ(preview.result(), QDialog::Accepted);
+  EXPECT_TRUE(preview.Printed());
+  EXPECT_EQ(ended.takeFirst().front(), QVariant(true));
   ASSERT_EQ(printer.choices.size(), 2u);
   EXPECT_EQ(printer.choices[1].printer, "Attic");
   EXPECT_EQ(printer.choices[1].Paper, Paper::Letter);
 
-  printer.queues.clear();
+  printer.queues.emplace();
   PreviewForm without(host, printer, pages, choice, nullptr);
   Show(without);
   EXPECT_FALSE(Find<QAbstractButton>("PrintBtn")->isEnabled());
@@ -121,6 +159,8 @@ TEST_F(PrintFormsTest, PagesAreSeenBeforeTheyArePrinted) {
   Press("PdfBtn");
   EXPECT_EQ(folder.Get("page.pdf").substr(0, 5), "%PDF-");
   EXPECT_EQ(host.suggested, "Driver.pdf");
+  EXPECT_EQ(without.result(), QDialog::Accepted);
+  EXPECT_FALSE(without.Printed());
 }
 
 TEST_F(PrintFormsTest, AReportIsPutTogetherInAList) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,10 +19,10 @@ class TestPrinter final : public IPrinter {
     return answer;
   }
 
-  std::vector<std::string> queues{"Office"};
+  std::optional<std::vector<std::string>> queues = std::vector<std::string>{"Office"};
   std::vector<PrintChoice> choices;  ///< with which pages were printed
 
-  std::vector<std::string> Printers() override { return queues; }
+  std::optional<std::vector<std::string>> Printers() override { return queues; }
   Outcome Print(const IPrintout&, const PrintChoice& choice) override {
     choices.push_back(choice);
     return answer;

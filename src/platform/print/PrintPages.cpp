@@ -5,6 +5,8 @@
 #include <QSaveFile>
 #include <QTemporaryFile>
 #include <cstring>
+#include <memory>
+#include <utility>
 
 #include "platform/print/PrintQueues.h"
 #include "platform/print/Sheets.h"
@@ -50,16 +52,17 @@ Outcome PrintToQueue(const IPrintout& printout, const PrintChoice& choice) {
     printable.adjust(white->left / kHundredthsPerInch, white->top / kHundredthsPerInch,
                      -white->right / kHundredthsPerInch, -white->bottom / kHundredthsPerInch);
   }
-  QTemporaryFile file;
-  if (!file.open()) return NotWritten(file.fileName(), file.errorString());
-  if (!WritePdf(printout, choice.Paper, printable, file) || !file.flush())
-    return NotWritten(file.fileName(), file.errorString());
-  return SendToQueue(choice.printer, file.fileName().toStdString(), printout.Title(), width, height, choice.copies);
+  auto file = std::make_shared<QTemporaryFile>();
+  if (!file->open()) return NotWritten(file->fileName(), file->errorString());
+  if (!WritePdf(printout, choice.Paper, printable, *file) || !file->flush())
+    return NotWritten(file->fileName(), file->errorString());
+  return SendToQueue(choice.printer, std::move(file), printout.Title(), width, height, choice.copies);
 }
 
-std::vector<Surface> PicturesOf(const IPrintout& printout, Paper paper, int dotsPerInch) {
-  PicturePages pages(paper, dotsPerInch);
+std::vector<Surface> PicturesOf(const IPrintout& printout, Paper paper, int dotsPerInch, int most, int* count) {
+  PicturePages pages(paper, dotsPerInch, most);
   printout.PrintOn(pages);
+  if (count) *count = pages.Count();
   std::vector<Surface> pictures;
   for (const QImage& page : pages.End()) {
     Surface& picture = pictures.emplace_back(page.width(), page.height());

@@ -4,6 +4,7 @@
 #include <fmt/format.h>
 
 #include <QEventLoop>
+#include <QTemporaryFile>
 #include <QTimer>
 #include <algorithm>
 #include <atomic>
@@ -15,7 +16,7 @@ namespace kinalyx {
 
 namespace {
 
-constexpr int kListMs = 3000;
+constexpr std::chrono::seconds kAskAgain{5};
 constexpr int kMarginsMs = 3000;
 constexpr int kSendMs = 20'000;
 constexpr int kLookMs = 5;
@@ -68,6 +69,17 @@ std::optional<QueueMargins> AskMargins(const std::string& name, int width, int h
   return QueueMargins{size.left, size.top, size.right, size.bottom};
 }
 
+std::vector<std::string> AskNames() {
+  const Queues queues;
+  std::vector<std::string> names;
+  for (int i = 0; i < queues.count; ++i) {
+    const cups_dest_t& queue = queues.list[i];
+    if (queue.instance) continue;
+    names.insert(queue.is_default ? names.begin() : names.end(), queue.name);
+  }
+  return names;
+}
+
 Outcome Send(const std::string& queue, const std::string& file, const std::string& title,
              const std::vector<std::pair<std::string, std::string>>& wanted) {
   cups_option_t* options = nullptr;
@@ -76,31 +88,38 @@ Outcome Send(const std::string& queue, const std::string& file, const std::strin
   const int job = cupsPrintFile2(CUPS_HTTP_DEFAULT, queue.c_str(), file.c_str(), title.c_str(), count, options);
   cupsFreeOptions(count, options);
   if (job != 0) return {};
-  return Outcome::Failed(fmt::format("The printer \"{}\" does not take the pages: {}", queue, cupsLastErrorString()));
+  return Outcome::Failed(
+      fmt::format("Nothing was printed. The printer \"{}\" does not take the pages: {}", queue, cupsLastErrorString()));
 }
 
 }  // namespace
 
-std::vector<std::string> QueueNames() {
-  const auto names = Within(kListMs, [] {
-    const Queues queues;
-    std::vector<std::string> names;
-    for (int i = 0; i < queues.count; ++i) {
-      const cups_dest_t& queue = queues.list[i];
-      if (queue.instance) continue;
-      names.insert(queue.is_default ? names.begin() : names.end(), queue.name);
-    }
-    return names;
-  });
-  return names.value_or(std::vector<std::string>());
+/// `over` is set last, by the worker; what was found is read after it.
+struct QueueNames::Search {
+  std::vector<std::string> found;
+  std::atomic<bool> over = false;
+};
+
+std::optional<std::vector<std::string>> QueueNames::Known() {
+  if (search_ && search_->over) known_ = std::exchange(search_, nullptr)->found;
+  // A server that hangs holds one worker, not one for every question.
+  if (!search_ && (!known_ || Clock::now() - begun_ > kAskAgain)) {
+    begun_ = Clock::now();
+    search_ = std::make_shared<Search>();
+    std::thread([search = search_] {
+      search->found = AskNames();
+      search->over = true;
+    }).detach();
+  }
+  return known_;
 }
 
 std::optional<QueueMargins> MarginsOf(const std::string& queue, int width, int height) {
   return Within(kMarginsMs, [=] { return AskMargins(queue, width, height); }).value_or(std::nullopt);
 }
 
-Outcome SendToQueue(const std::string& queue, const std::string& file, const std::string& title, int width, int height,
-                    int copies) {
+Outcome SendToQueue(const std::string& queue, std::shared_ptr<QTemporaryFile> file, const std::string& title, int width,
+                    int height, int copies) {
   const std::string media = fmt::format("Custom.{}x{}mm", width / 100.0, height / 100.0);
   const std::vector<std::pair<std::string, std::string>> options{
       {"copies", std::to_string(copies)},
@@ -109,8 +128,9 @@ Outcome SendToQueue(const std::string& queue, const std::string& file, const std
                                  : media},
       {"print-scaling", "none"},  // the page lies where it belongs already
   };
-  const auto sent = Within(kSendMs, [=] { return Send(queue, file, title, options); });
-  return sent ? *sent : Outcome::Failed(fmt::format("The printer \"{}\" does not answer.", queue));
+  const std::string path = file->fileName().toStdString();
+  const auto sent = Within(kSendMs, [=, file = std::move(file)] { return Send(queue, path, title, options); });
+  return sent ? *sent : Outcome::Failed("The printer has not answered yet; the pages may still come out.");
 }
 
 }  // namespace kinalyx

@@ -145,11 +145,14 @@ class DesktopPrinter final : public IPrinter {
     return PrintOn(printer, text);
   }
 
-  std::vector<std::string> Printers() override { return QueueNames(); }
+  std::optional<std::vector<std::string>> Printers() override { return queues_.Known(); }
 
   Outcome Print(const IPrintout& printout, const PrintChoice& choice) override {
     return PrintToQueue(printout, choice);
   }
+
+ private:
+  QueueNames queues_;
 };
 
 }  // namespace

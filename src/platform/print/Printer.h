@@ -1,6 +1,8 @@
 #pragma once
 
+#include <climits>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -31,10 +33,11 @@ class IPrinter {
   /// Asks the user for the printer, the pages and the copies, and prints. A failure is told in a whole sentence.
   virtual Outcome Print(const PrintedText& text) = 0;
 
-  /// The printers that can be had, the usual one first; none where nobody answers for them within a moment.
-  virtual std::vector<std::string> Printers() = 0;
-  /// Hands the pages to a printer, without asking; a failure is told in a whole sentence. Windows are painted while
-  /// the printer is waited for.
+  /// The printers that can be had, the usual one first, as they were told last; nothing until somebody has answered
+  /// for them. Never waits: what it asks is answered at a later call.
+  virtual std::optional<std::vector<std::string>> Printers() = 0;
+  /// Hands the pages to a printer, without asking; a failure is told in whole sentences, which say so where
+  /// something may still come out. Windows are painted while the printer is waited for.
   virtual Outcome Print(const IPrintout& printout, const PrintChoice& choice) = 0;
 };
 
@@ -45,8 +48,10 @@ std::unique_ptr<IPrinter> MakePrinter();
 Outcome PrintToPdf(const PrintedText& text, const std::string& path);
 Outcome PrintToPdf(const IPrintout& printout, Paper paper, const std::string& path);
 
-/// How the pages will look: one picture for each sheet of paper.
-std::vector<Surface> PicturesOf(const IPrintout& printout, Paper paper, int dotsPerInch);
+/// How the pages will look: one picture for each sheet of paper, but of no more than `most`.
+/// @param count  if given, the number of all sheets
+std::vector<Surface> PicturesOf(const IPrintout& printout, Paper paper, int dotsPerInch, int most = INT_MAX,
+                                int* count = nullptr);
 
 /// What lies in the printers of the user's country.
 Paper UsualPaper();

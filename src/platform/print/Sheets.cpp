@@ -18,26 +18,33 @@ PdfPages::PdfPages(QIODevice& device, const QString& title, Paper paper, const P
 
 bool PdfPages::End() { return Painter().end() && good_; }
 
-PicturePages::PicturePages(Paper paper, int dotsPerInch)
+PicturePages::PicturePages(Paper paper, int dotsPerInch, int most)
     : PagePainter(PlaceOfPage(SizeOf(paper), {{}, SizeOf(paper)})),
       size_((SizeOf(paper) * dotsPerInch).toSize()),
-      dotsPerInch_(dotsPerInch) {
+      dotsPerInch_(dotsPerInch),
+      most_(most) {
   NextSheet();
 }
 
 void PicturePages::NextSheet() {
   if (Painter().isActive()) {
     Painter().end();
-    done_.push_back(std::exchange(sheet_, {}));
+    Keep();
   }
-  sheet_ = QImage(size_, QImage::Format_RGB32);
-  sheet_.fill(Qt::white);
+  ++count_;
+  if (sheet_.isNull()) sheet_ = QImage(size_, QImage::Format_RGB32);
+  if (count_ <= most_) sheet_.fill(Qt::white);
   BeginSheet(sheet_, dotsPerInch_);
+}
+
+/// A sheet that nobody will see is painted on again.
+void PicturePages::Keep() {
+  if (count_ <= most_) done_.push_back(std::exchange(sheet_, {}));
 }
 
 std::vector<QImage> PicturePages::End() {
   Painter().end();
-  done_.push_back(std::exchange(sheet_, {}));
+  Keep();
   return std::exchange(done_, {});
 }
 

@@ -26,14 +26,19 @@ class PdfPages final : public PagePainter {
 /// Pages as pictures.
 class PicturePages final : public PagePainter {
  public:
-  PicturePages(Paper paper, int dotsPerInch);
+  /// @param most  pictures that are kept; further sheets are counted
+  PicturePages(Paper paper, int dotsPerInch, int most);
+  int Count() const { return count_; }
   std::vector<QImage> End();
 
  private:
   void NextSheet() override;
+  void Keep();
 
   QSize size_;
   int dotsPerInch_;
+  int most_;
+  int count_ = 0;
   QImage sheet_;
   std::vector<QImage> done_;
 };

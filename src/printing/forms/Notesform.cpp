@@ -7,6 +7,8 @@
 #include <functional>
 
 #include "platform/files/FileStore.h"
+#include "platform/files/Folders.h"
+#include "platform/host/DriveWatch.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
@@ -20,8 +22,8 @@ namespace kinalyx {
 namespace {
 
 constexpr int kSizes[] = {8, 9, 10, 11, 12, 14, 16, 18, 24};
-constexpr int kUsualSize = 10;  // as the page has it
-constexpr std::size_t kMostBytes = 1 << 20;
+constexpr int kUsualSize = 10;                 // as the page has it
+constexpr std::size_t kMostBytes = 256 << 10;  // some hundred pages
 
 bool IsPage(const QString& path) {
   return path.endsWith(".html", Qt::CaseInsensitive) || path.endsWith(".htm", Qt::CaseInsensitive);
@@ -40,6 +42,7 @@ Notesform::Notesform(IHost& host, const QString& text, QWidget* parent) : QDialo
   notes_->setTabChangesFocus(true);
   notes_->setPlaceholderText(tr("What the student shall read beneath the picture"));
   notes_->setPlainText(text);
+  TextIsKept();
   rows->addLayout(MakeFileRow());
   rows->addLayout(MakeFormatRow());
   rows->addWidget(notes_, 1);
@@ -162,17 +165,33 @@ void Notesform::PrintBtn_Click(int index) {
   notes_->setFocus();
 }
 
+/// True where no text would be lost, or the user does not mind.
+bool Notesform::MayDrop() {
+  const RichText notes = Notes();
+  return notes.Blank() || notes.runs == kept_.runs ||
+         host_.Question("", tr("The notes have not been saved. Do you want to lose them?").toStdString());
+}
+
+void Notesform::reject() {
+  if (MayDrop()) QDialog::reject();
+}
+
 void Notesform::New() {
+  if (!MayDrop()) return;
   notes_->clear();
   notes_->setCurrentCharFormat({});
   file_.clear();
 }
 
 void Notesform::Open() {
+  if (!MayDrop()) return;
   const auto path =
       host_.PickFile({tr("Open Notes").toStdString(), "", "Notes (*.txt;*.html;*.htm)|*.txt; *.html; *.htm"});
   if (!path) return;
-  const auto text = ReadTextFile(*path, kMostBytes);
+  const auto read = host_.Drives().Ask(FolderOf(*path), [path = *path] { return ReadTextFile(path, kMostBytes); });
+  if (!read)
+    return host_.Message(MessageKind::Warning, "", tr("The drive of the notes does not answer.").toStdString());
+  const auto& text = *read;
   if (!text)
     return host_.Message(MessageKind::Warning, "",
                          tr("The file cannot be read, or it is too large for notes.").toStdString());
@@ -180,6 +199,7 @@ void Notesform::Open() {
   notes_->setCurrentCharFormat({});
   if (IsPage(file_)) notes_->setHtml(Q(*text));
   else notes_->setPlainText(BoxText(*text));
+  TextIsKept();
 }
 
 void Notesform::Save() {
@@ -188,9 +208,13 @@ void Notesform::Save() {
        "Text Files, words alone (*.txt)|*.txt|Web Pages, with bold, italic and sizes (*.html)|*.html"});
   if (!chosen) return;
   const QString path = Q(*chosen);
+  if (!host_.Drives().Answers(FolderOf(*chosen)))
+    return host_.Message(MessageKind::Warning, "",
+                         tr("The notes could not be saved: %1.").arg(tr("the drive does not answer")).toStdString());
   const std::string text = IsPage(path) ? notes_->toHtml().toStdString() : FileText(notes_->toPlainText());
   if (const Outcome saved = WriteWholeFile(path.toStdString(), text); saved) {
     file_ = path;
+    TextIsKept();
   } else {
     host_.Message(MessageKind::Warning, "",
                   tr("The notes could not be saved: %1.").arg(QString::fromStdString(saved.Why())).toStdString());

@@ -22,6 +22,10 @@ class Notesform : public QDialog {
   Notesform(IHost& host, const QString& text, QWidget* parent);
 
   RichText Notes() const;
+  /// The text lies somewhere: it is not asked about until it changes.
+  void TextIsKept() { kept_ = Notes(); }
+  /// Closes the form; asks first where text would be lost.
+  void reject() override;
 
  signals:
   /// The buttons that print; the form stays until it is told to go.
@@ -45,7 +49,10 @@ class Notesform : public QDialog {
   QPushButton* italic_ = nullptr;
   QPushButton* underline_ = nullptr;
   QComboBox* size_ = nullptr;
-  QString file_;  ///< opened or saved last
+  bool MayDrop();
+
+  QString file_;   ///< opened or saved last
+  RichText kept_;  ///< the text as it was opened, saved or proposed
 };
 
 }  // namespace kinalyx

@@ -8,11 +8,13 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSpinBox>
-#include <QTimer>
 #include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
+#include "platform/files/Folders.h"
+#include "platform/host/DriveWatch.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
@@ -31,6 +33,10 @@ constexpr int kLeastDots = 24;
 constexpr int kMostDots = 300;
 constexpr QSize kWanted(980, 760);
 constexpr int kMostCopies = 99;
+constexpr int kMostSheets = 40;  // more of them at 200 % would fill the memory
+constexpr int kLookMs = 200;
+constexpr int kPatientLooks = 15;
+constexpr int kRestMs = 150;
 
 /// Below 0: what fits, else percent.
 enum Zoom { kWholePage = -2, kPageWidth = -1 };
@@ -73,6 +79,10 @@ PreviewForm::PreviewForm(IHost& host, IPrinter& printer, const IPrintout& printo
   area_->setWidget(desk);
   columns->addWidget(area_, 1);
   columns->addWidget(MakeSide());
+  connect(&look_, &QTimer::timeout, this, &PreviewForm::ListPrinters);
+  rest_.setSingleShot(true);
+  rest_.setInterval(kRestMs);
+  connect(&rest_, &QTimer::timeout, this, &PreviewForm::ShowPages);
   const QRect screen = (parent ? parent->screen() : QApplication::primaryScreen())->availableGeometry();
   resize(QSize(Px(kWanted.width()), Px(kWanted.height())).boundedTo(screen.size() - QSize(40, 60)));
   if (parent) {
@@ -147,13 +157,13 @@ void PreviewForm::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
   if (event->spontaneous()) return;
   ShowPages();
-  // The form is seen before anybody is waited for.
-  QTimer::singleShot(0, this, &PreviewForm::ListPrinters);
+  ListPrinters();
+  look_.start(kLookMs);
 }
 
 void PreviewForm::resizeEvent(QResizeEvent* event) {
   QDialog::resizeEvent(event);
-  if (isVisible()) ShowPages();
+  if (isVisible()) rest_.start();
 }
 
 /// Ctrl and the wheel zoom.
@@ -169,11 +179,21 @@ void PreviewForm::Zoom(int steps) {
   zoom_->setCurrentIndex(std::clamp(zoom_->currentIndex() + steps, 0, zoom_->count() - 1));
 }
 
+/// A server that takes long is given time, but the coach is told that there is no printer yet.
 void PreviewForm::ListPrinters() {
-  const std::vector<std::string> names = printer_.Printers();
+  auto names = printer_.Printers();
+  if (!names && ++looks_ >= kPatientLooks) names.emplace();
+  if (!names || names == listed_) return;
+  ShowPrinters(*names);
+  listed_ = std::move(names);
+}
+
+/// What is chosen stays chosen.
+void PreviewForm::ShowPrinters(const std::vector<std::string>& names) {
+  const QString chosen = listed_ && !listed_->empty() ? printers_->currentText() : Q(choice_.printer);
   printers_->clear();
   for (const std::string& name : names) printers_->addItem(Q(name));
-  if (const int known = printers_->findText(Q(choice_.printer)); known >= 0) printers_->setCurrentIndex(known);
+  if (const int known = printers_->findText(chosen); known >= 0) printers_->setCurrentIndex(known);
   if (names.empty()) printers_->addItem(tr("No printer"));
   printers_->setEnabled(!names.empty());
   print_->setEnabled(!names.empty());
@@ -200,12 +220,16 @@ void PreviewForm::ShowPages() {
     delete item;
   }
   const qreal ratio = devicePixelRatioF();
-  const auto pages = PicturesOf(printout_, choice_.Paper, static_cast<int>(std::lround(dots * ratio)));
-  const int count = static_cast<int>(pages.size());
-  for (int page = 0; page < count; ++page)
+  int count = 0;
+  const auto pages =
+      PicturesOf(printout_, choice_.Paper, static_cast<int>(std::lround(dots * ratio)), kMostSheets, &count);
+  const int shown = static_cast<int>(pages.size());
+  for (int page = 0; page < shown; ++page)
     sheets_->addWidget(MakeSheet(pages[static_cast<std::size_t>(page)], ratio, page + 1, count), 0, Qt::AlignHCenter);
   sheets_->addStretch(1);
-  count_->setText(count == 1 ? tr("1 page") : tr("%1 pages").arg(count));
+  count_->setText(count == 1      ? tr("1 page")
+                  : count > shown ? tr("The first %1 of %2 pages").arg(shown).arg(count)
+                                  : tr("%1 pages").arg(count));
 }
 
 void PreviewForm::Print() {
@@ -218,6 +242,7 @@ void PreviewForm::Print() {
   QApplication::restoreOverrideCursor();
   emit PrintingEnds(static_cast<bool>(printed));
   print_->setEnabled(true);
+  printed_ = static_cast<bool>(printed);
   if (printed) accept();
   else Tell(printed);
 }
@@ -226,6 +251,7 @@ void PreviewForm::SavePdf() {
   const auto chosen =
       host_.PickNewFile({tr("Save as PDF").toStdString(), printout_.Title() + ".pdf", "PDF (*.pdf)|*.pdf"});
   if (!chosen) return;
+  if (!host_.Drives().Answers(FolderOf(*chosen))) return Tell(Outcome::Failed("The drive does not answer."));
   emit PrintingBegins();
   const Outcome saved = PrintToPdf(printout_, choice_.Paper, *chosen);
   emit PrintingEnds(static_cast<bool>(saved));
@@ -234,8 +260,7 @@ void PreviewForm::SavePdf() {
 }
 
 void PreviewForm::Tell(const Outcome& failed) {
-  if (failed.Kind() != Fault::Cancelled)
-    host_.Message(MessageKind::Warning, "", tr("Nothing was printed. %1").arg(Q(failed.Why())).toStdString());
+  if (failed.Kind() != Fault::Cancelled) host_.Message(MessageKind::Warning, "", failed.Why());
 }
 
 }  // namespace kinalyx

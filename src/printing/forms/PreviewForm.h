@@ -1,6 +1,9 @@
 #pragma once
 
 #include <QDialog>
+#include <QTimer>
+#include <optional>
+#include <string>
 #include <vector>
 
 #include "platform/host/Host.h"
@@ -26,9 +29,13 @@ class PreviewForm : public QDialog {
   /// @param choice    printer and paper that are offered, and what was chosen; outlives the form
   PreviewForm(IHost& host, IPrinter& printer, const IPrintout& printout, PrintChoice& choice, QWidget* parent);
 
+  /// True once a printer has the pages. A form that is accepted without has kept them in a file.
+  bool Printed() const { return printed_; }
+
  signals:
   void PrintingBegins();
-  void PrintingEnds(bool printed);
+  /// @param cameOut  false: it failed, and a message says so
+  void PrintingEnds(bool cameOut);
 
  protected:
   void showEvent(QShowEvent* event) override;
@@ -38,6 +45,7 @@ class PreviewForm : public QDialog {
  private:
   QWidget* MakeSide();
   void ListPrinters();
+  void ShowPrinters(const std::vector<std::string>& names);
   void ShowPages();
   void Zoom(int steps);
   void Print();
@@ -57,6 +65,11 @@ class PreviewForm : public QDialog {
   QComboBox* paper_ = nullptr;
   QSpinBox* copies_ = nullptr;
   Button* print_ = nullptr;
+  bool printed_ = false;
+  QTimer look_;  ///< for printers that are heard of meanwhile
+  QTimer rest_;  ///< of the hand that changes the size
+  int looks_ = 0;
+  std::optional<std::vector<std::string>> listed_;
   int shownAt_ = 0;  ///< dots to an inch of the pages that are shown
 };
 
