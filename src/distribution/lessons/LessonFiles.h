@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "library/JobRunner.h"
@@ -35,11 +36,14 @@ class LessonFiles {
   Outcome TakeUp(const RecordedLesson& lesson);
   /// The lesson has been kept, thrown away, or is left for the next start.
   void Release() { lock_.reset(); }
+  /// The lesson is still being written by a disk that does not answer: nobody takes it up for as long as we are here.
+  void LeaveToDisk() { leftToDisk_.push_back(std::move(lock_)); }
   const std::string& Folder() const { return folder_; }
 
  private:
   std::string folder_;
   std::unique_ptr<FileLock> lock_;
+  std::vector<std::unique_ptr<FileLock>> leftToDisk_;
 };
 
 /// Removes a recorded lesson, which must be ours.

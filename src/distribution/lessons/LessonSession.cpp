@@ -291,11 +291,16 @@ void LessonSession::Stop(const std::string& fault) {
   parts_.screens.Close();
   UpdateAudioLevelTimer_.Stop();
   parts_.view.ShowLevel(0);
+  if (!closed) {
+    files_.LeaveToDisk();
+    GoAway();
+    return parts_.host.Message(MessageKind::Warning, "", closed.Why());
+  }
   if (tally.pictures == 0)
     return Fail(!fault.empty() ? fault : !tally.fault.empty() ? tally.fault : "Recording cancelled...");
   lesson_.facts.seconds = static_cast<double>(tally.pictures) / LessonFile::kRate;
   Enter(LessonPhase::Finished);
-  const std::string& why = !fault.empty() ? fault : !closed ? closed.Why() : tally.fault;
+  const std::string& why = !fault.empty() ? fault : tally.fault;
   if (!why.empty()) Say(why + " What was recorded is kept. Click Save Video to continue..");
   parts_.view.ShowSaveForm();
 }

@@ -43,6 +43,7 @@ class LessonGraph final : public IGraph {
   std::map<std::string, std::string, std::less<>> devices;
   std::string sink;
   bool running = false;
+  bool diskHangs = false;
   Meter meter;
   Writer writer;
 
@@ -70,7 +71,7 @@ class LessonGraph final : public IGraph {
   Outcome GraphStop() override {
     if (running && writer.tally.pictures > 0) WriteLesson(sink, static_cast<int>(writer.tally.pictures));
     running = false;
-    return {};
+    return diskHangs ? Outcome::Failed("The disk does not answer.") : Outcome();
   }
   void GraphClear() override {
     loaded.clear();

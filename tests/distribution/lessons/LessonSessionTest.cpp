@@ -214,6 +214,20 @@ TEST_F(LessonSessionTest, WhatIsNotKeptIsAskedAboutAndWhatWasLeftIsFound) {
 
   session->Toggle();
   RecordSeconds(5);
+  graph->diskHangs = true;
+  session->PressRecord();
+  EXPECT_FALSE(session->Shown()) << "nothing is kept of a file that is still being written";
+  EXPECT_EQ(host.messages.back(), "The disk does not answer.");
+  EXPECT_TRUE(Unfinished().empty()) << "nor by another window";
+  graph->diskHangs = false;
+  session.reset();
+  EXPECT_EQ(Unfinished().size(), 1u);
+  Begin();
+  session->DropLeft(Unfinished()[0]);
+
+  remembered = {"Anna", "Łucja", {}};
+  session->Toggle();
+  RecordSeconds(5);
   host.Advance(5000);
   host.answers = {true};
   session->PressCancel();
