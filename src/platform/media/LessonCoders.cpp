@@ -34,6 +34,7 @@ CodecHandle OpenLessonPictures(const LessonFormat& format) {
     codec->qmin = 2;
     codec->qmax = 12;  // letters and lines stay readable, whatever moves
   } else {
+    codec->thread_type = FF_THREAD_SLICE;  // with threads for pictures the last ones are lost with a killed program
     // Every telephone since 2010 plays this.
     for (const auto& [key, value] : {std::pair{"preset", "superfast"}, {"crf", "23"}, {"profile", "high"}})
       av_dict_set(&options, key, value, 0);
