@@ -398,16 +398,8 @@ void MenuBar::AddTools() {
   Add({"TFT", kTools, "Fill Top w/Current Video", "", "", "", kNoButton, [this] { videos_.FillTopRow(); }, rows});
   Add({"TFB", kTools, "Fill Bottom w/Current Video", "", "", "", kNoButton, [this] { videos_.FillBottomRow(); }, rows});
   AddSeparator(kTools);
-  Add({"TSaveClip", kTools, "Save Video with Drawings", "", "clip", "Save Video with Drawings", kSharing,
-       [this] { navigation_.Handouts().ShowClipForm(); }, hasVideo});
-  Add({"TCopyPicture", kTools, "Copy Picture", "", "", "", kNoButton, [this] { navigation_.Handouts().CopyPicture(); },
-       hasVideo});
-  Add({"TSavePicture", kTools, "Save Picture", "", "", "", kNoButton, [this] { navigation_.Handouts().SavePicture(); },
-       hasVideo});
   Add({"PrintCall", kTools, "Print Video(s)", "CmdAfunctions7", "print", "Print Video(s)", kSharing,
        [this] { navigation_.Handouts().ShowPrintForm(); },
-       Needs([this] { return stage_.AnyVideo(); }, "Open a video first")});
-  Add({"TReport", kTools, "Report...", "", "", "", kNoButton, [this] { navigation_.Handouts().ShowReportForm(); },
        Needs([this] { return stage_.AnyVideo(); }, "Open a video first")});
   Add({"TLAV", kTools, "Loop All Videos", "", "loop", "", kNoButton, [this] { transport_.ToggleLoopAll(); },
        Needs([this] { return stage_.AnyVideo(); }, "Open a video first"), [this] { return transport_.AllLooping(); }});
@@ -506,6 +498,15 @@ void MenuBar::AddAdvanced() {
        Needs([this] { return compare_.Locks().CanLockAll(); },
              "Needs videos in windows 1 to 4, in a layout of four windows or more"),
        [this] { return compare_.Locks().AllLocked(); }});
+  AddSeparator(kAdvanced);
+  Add({"TSaveClip", kAdvanced, "Save Video with Drawings", "", "clip", "Save Video with Drawings", kSharing,
+       [this] { navigation_.Handouts().ShowClipForm(); }, hasVideo});
+  Add({"TCopyPicture", kAdvanced, "Copy Picture", "", "", "", kNoButton,
+       [this] { navigation_.Handouts().CopyPicture(); }, hasVideo});
+  Add({"TSavePicture", kAdvanced, "Save Picture", "", "", "", kNoButton,
+       [this] { navigation_.Handouts().SavePicture(); }, hasVideo});
+  Add({"TReport", kAdvanced, "Report...", "", "", "", kNoButton, [this] { navigation_.Handouts().ShowReportForm(); },
+       Needs([this] { return stage_.AnyVideo(); }, "Open a video first")});
   Add({"cmdDualPlay", "", "", "", "lock", "Lock Videos Together", kPicture, [this] { compare_.Locks().ToggleLock(); },
        Needs([this] { return compare_.Locks().CanLock(); },
              "Needs videos in windows 1 and 2, or 3 and 4, side by side"),
