@@ -2,10 +2,13 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/files/Result.h"
+#include "platform/graph/PackedPicture.h"
 #include "platform/media/RecordingTally.h"
 
 namespace kinalyx {
@@ -51,11 +54,64 @@ class IWriterFilter : public IGraphFilter {
   virtual void Pause(bool /*on*/) {}
 };
 
-/// A meter and trigger on a microphone.
+/// `Audio Trigger`: a meter on a microphone, which fires when it hears an impact.
 class IAudioTriggerFilter : public IGraphFilter {
  public:
-  /// Loudness now, 0 silent to 1 full.
+  /// Loudness now, as the trigger hears it: 0 silent to 1 full.
   virtual double Level() = 0;
+  /// How loud an impact must be to fire, as Level counts; 1 and more: none is.
+  virtual void SetThreshold(double /*level*/) {}
+  /// How sensitive it is: what the microphone gives is taken that many times.
+  virtual void SetGain(double /*gain*/) {}
+};
+
+/// `MV Switch`: fires by hand.
+class ISwitchFilter : public IGraphFilter {
+ public:
+  /// @param ns  the moment that is meant, nanoseconds of CLOCK_MONOTONIC; 0: now
+  /// @return  false while the block of the trigger before is not over
+  virtual bool Fire(std::int64_t ns) = 0;
+};
+
+/// How much a block recorder remembers.
+struct RingTally {
+  double seconds = 0;
+  std::int64_t bytes = 0;
+  std::int64_t bound = 0;  ///< bytes that it never takes more than; then it remembers less
+};
+
+/// `MV Block Recording`: remembers the pictures of the last seconds as the camera gave them, and writes those around
+/// each trigger into a file of their own, see GraphSetFileSink. It goes on remembering meanwhile: the next trigger
+/// counts as soon as the window of the one before is over, also when that is still being written.
+class IBlockRecordingFilter : public IGraphFilter {
+ public:
+  /// The window of the triggers to come, in seconds from the trigger: negative is before it.
+  virtual void BlockRecordingSetStart(double seconds) = 0;
+  virtual void BlockRecordingSetEnd(double seconds) = 0;
+  virtual double EndOffset() const = 0;
+  /// A block is under way: its window is not over, or it is still being written.
+  virtual bool Writing() const = 0;
+  /// @param seconds  that it remembers at least, whatever the window
+  virtual void Remember(double seconds) = 0;
+  /// @param bytes  that its pictures may take
+  virtual void SetBound(std::int64_t bytes) = 0;
+  virtual RingTally Ring() const = 0;
+  /// The picture that the camera showed at a moment, nanoseconds of CLOCK_MONOTONIC: the last one that was taken until
+  /// then; nothing where it remembers none so old.
+  virtual std::optional<PackedPicture> PictureAt(std::int64_t ns) const = 0;
+  /// Those taken from one moment to another, both counted.
+  virtual std::vector<PackedPicture> Pictures(std::int64_t fromNs, std::int64_t toNs) const = 0;
+  /// Writes these pictures as a block, without a trigger. They are ever later ones of one format.
+  virtual void WritePictures(std::vector<PackedPicture> pictures) = 0;
+};
+
+/// What has been written of one trigger, by one block recorder.
+struct WrittenBlock {
+  std::string label;           ///< of the sink
+  std::string path;            ///< of its own; no file where no picture came
+  int shot = 0;                ///< counts the triggers of a run from 1: two cameras' files of one number belong together
+  std::int64_t triggerNs = 0;  ///< nanoseconds of CLOCK_MONOTONIC; 0 where none fired
+  RecordingTally tally;
 };
 
 /// What a graph tells, from the event loop of the user interface, never from inside a call.
@@ -72,6 +128,11 @@ class IGraphEvents {
   /// The renderer of that label cannot show what its camera gives: nothing of it can be decoded. All else goes on, and
   /// PictureCame tells when it shows again.
   virtual void PreviewFailed(const std::string& /*label*/) {}
+  /// A trigger has fired, and the block recorders behind it are at work.
+  /// @param label  of the trigger
+  virtual void TriggerFired(const std::string& /*label*/, int /*shot*/, std::int64_t /*ns*/) {}
+  /// The file of a block is closed; told once for each recorder behind the trigger.
+  virtual void BlockWritten(const WrittenBlock& /*block*/) {}
   /// All sources have come to their end, and the files are closed.
   virtual void EndOfStream() = 0;
 };
@@ -103,7 +164,8 @@ class IGraph {
   /// Input line of the microphone.
   virtual Outcome GraphSetAudioPin(int index) = 0;
   virtual Outcome GraphSetFileSource(std::string_view label, std::string_view path) = 0;
-  /// The file that the next run writes, or, while the gate before it is shut, that the next arming writes.
+  /// The file that the next run writes, or, while the gate before it is shut, that the next arming writes. Behind a
+  /// block recorder each block of the run gets a file beside it, named by BlockPath.
   virtual Outcome GraphSetFileSink(std::string_view label, std::string_view path) = 0;
 
   virtual Outcome GraphRun() = 0;
@@ -115,5 +177,8 @@ class IGraph {
  protected:
   virtual IGraphFilter* Filter(std::string_view label) = 0;
 };
+
+/// "temp1 shot 12.avi" of "temp1.avi".
+std::string BlockPath(std::string_view path, int shot);
 
 }  // namespace kinalyx

@@ -1,26 +1,15 @@
 #pragma once
 
 #include <chrono>
-#include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <memory>
-#include <span>
 #include <string>
 
 #include "platform/graph/FileLane.h"
 #include "platform/graph/GraphNews.h"
-#include "platform/media/RecordingFile.h"
+#include "platform/graph/PackedPicture.h"
 
 namespace kinalyx {
-
-/// A picture on its way to a file.
-struct PackedPicture {
-  RecordingFormat format;
-  std::int64_t ns = 0;                     ///< when the camera took it
-  std::shared_ptr<const std::byte> bytes;  ///< keeps them
-  std::size_t size = 0;
-};
 
 /// The way of one camera's pictures to its files: a thread of its own writes, so that neither camera nor window waits
 /// for a disk. It takes the pictures of two seconds on credit; a disk that is further behind loses the newest, and the
