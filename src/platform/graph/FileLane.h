@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 
+#include "platform/graph/PackedPicture.h"
 #include "platform/media/RecordingTally.h"
 
 namespace kinalyx {
@@ -24,6 +25,13 @@ class IFileLane {
   virtual bool WaitClosed(std::chrono::steady_clock::time_point until) const = 0;
   /// Of the file under way, or of the last one.
   virtual RecordingTally Tally() const = 0;
+};
+
+/// A lane whose pictures are a camera's own, or JPEG.
+class IPictureLane : public IFileLane {
+ public:
+  /// Any thread; without an open file it goes nowhere.
+  virtual void Push(PackedPicture picture) = 0;
 };
 
 }  // namespace kinalyx

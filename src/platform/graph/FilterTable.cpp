@@ -11,8 +11,8 @@ using enum FilterEntry;
 constexpr std::string_view kDvPictures =
     "videorate ! videoconvertscale ! video/x-raw,width=720,height=480,framerate=30000/1001 ! avenc_dvvideo";
 
-// "identity" passes pictures on unchanged. Where it says "for now", that is all until triggers and drawing upon live
-// pictures are there: a block's Record gives nothing, and an overlay or a motion detector changes nothing. The pictures
+// "identity" passes pictures on unchanged. Where it says "for now", that is all until drawing upon live pictures is
+// there: an overlay or a motion detector changes nothing. The pictures
 // and the voice of a lesson are encoded by LessonLane.
 // clang-format off
 constexpr std::array kRows{
@@ -23,9 +23,9 @@ constexpr std::array kRows{
     FilterRow{"{55DA30FC-F16B-49FC-BAA5-AE59FC65F82D}", "", FileSource, {}, {"Video"}, AsTheyCome, "parsebin ! queue"},
     // Triggers.
     FilterRow{"{C326F854-F2B5-422E-A5EB-68AC7823EBE1}", "", AudioTrigger, {}, {"Trigger"}},
-    FilterRow{"{07E0CEE4-B9F8-4720-826B-06EBC9EA15A6}", "", Trigger, {}, {"Bool"}},                    // for now
-    FilterRow{"{1E95DB54-5404-41E4-A453-865E69CD820A}", "", Trigger, {"Input"}, {"Output1", "Output2"}},  // for now
-    FilterRow{"{6EEB7EAB-5FD5-4450-84F1-954A9CAA8607}", "", Block, {"Input", "Control"}, {"Output", "Record"}},  // for now
+    FilterRow{"{07E0CEE4-B9F8-4720-826B-06EBC9EA15A6}", "", Trigger, {}, {"Bool"}},
+    FilterRow{"{1E95DB54-5404-41E4-A453-865E69CD820A}", "", Trigger, {"Input"}, {"Output1", "Output2"}},
+    FilterRow{"{6EEB7EAB-5FD5-4450-84F1-954A9CAA8607}", "", Block, {"Input", "Control"}, {"Output", "Record"}},
     FilterRow{"{3A9E9EEB-ECF5-42DB-9597-2E62FC84CFB0}", "", Gate, {"Video In"}, {"Video Out"}},
     // Ways that part.
     FilterRow{"{CC58E280-8AA1-11D1-B3F1-00AA003761C5}", "", Tee, {"Input"}, {"Capture", "Preview"}},

@@ -112,7 +112,7 @@ class Builder {
 
   void AppendWriter(FilterBin& bin, const std::shared_ptr<IFileLane>& lane) const {
     if (auto lesson = std::dynamic_pointer_cast<LessonLane>(lane)) AppendLesson(bin, std::move(lesson), order_.beginNs);
-    else AppendFile(bin, std::dynamic_pointer_cast<RecordingLane>(lane), order_.beginNs);
+    else AppendFile(bin, std::dynamic_pointer_cast<IPictureLane>(lane), order_.beginNs);
   }
 
   /// The lesson that is written behind a filter; null for none.
@@ -134,13 +134,10 @@ class Builder {
   Outcome MakeLink(const GraphPlan::Link& link) {
     const auto& from = order_.plan.filters[link.from];
     const auto& to = order_.plan.filters[link.to];
-    // A block that nobody triggers has nothing written.
-    const bool untriggered = from.row->role == FilterRole::Block && link.out != from.row->outputs[0];
     const GstRef<GstPad> out = bins_[link.from]->Output();
     const GstRef<GstPad> in = InputOf(link);
     if (!out || !in || gst_pad_link_full(out.get(), in.get(), GST_PAD_LINK_CHECK_NOTHING) != GST_PAD_LINK_OK)
       return Outcome::Failed(fmt::format("\"{}\" cannot be connected with \"{}\".", from.label, to.label));
-    if (untriggered) DropAll(out.get());
     return Outcome();
   }
 

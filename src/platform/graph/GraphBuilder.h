@@ -12,6 +12,7 @@
 #include "platform/graph/GraphNews.h"
 #include "platform/graph/GstHandles.h"
 #include "platform/graph/TemplateReader.h"
+#include "platform/graph/TriggerFaces.h"
 
 namespace kinalyx {
 
@@ -28,6 +29,9 @@ struct FilterFaces {
   std::vector<std::shared_ptr<WriterFace>> writers;
   std::vector<std::shared_ptr<GateFace>> gates;
   std::vector<std::shared_ptr<AudioTriggerFace>> triggers;
+  std::vector<std::shared_ptr<SwitchFace>> switches;
+  std::vector<std::shared_ptr<BlockFace>> blocks;
+  std::vector<std::shared_ptr<TriggerLine>> lines;  ///< of triggers of either kind
 };
 
 /// All that a run needs. Shared by its threads, and not changed any more.

@@ -70,7 +70,7 @@ class Shower final : public PictureTaker {
 
 class Filer final : public PictureTaker {
  public:
-  explicit Filer(std::shared_ptr<RecordingLane> lane) : lane_(std::move(lane)) {}
+  explicit Filer(std::shared_ptr<IPictureLane> lane) : lane_(std::move(lane)) {}
 
   void Take(GstSample* sample, std::int64_t ns) override {
     auto picture = PackPicture(sample);
@@ -80,7 +80,7 @@ class Filer final : public PictureTaker {
   }
 
  private:
-  std::shared_ptr<RecordingLane> lane_;
+  std::shared_ptr<IPictureLane> lane_;
 };
 
 class LessonPictures final : public PictureTaker {
@@ -147,7 +147,7 @@ void AppendPreview(FilterBin& bin, std::shared_ptr<RendererFace> face, const Gra
   bin.AppendPlugged(MakeEnd(std::make_unique<Shower>(face, news), beginNs), ChooseForPreview());
 }
 
-void AppendFile(FilterBin& bin, std::shared_ptr<RecordingLane> lane, std::int64_t beginNs) {
+void AppendFile(FilterBin& bin, std::shared_ptr<IPictureLane> lane, std::int64_t beginNs) {
   AppendQueue(bin, 0, 2 * GST_SECOND, Leaves::Newest);
   bin.AppendPlugged(MakeEnd(std::make_unique<Filer>(std::move(lane)), beginNs), ChooseForFile());
 }

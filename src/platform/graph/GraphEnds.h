@@ -3,11 +3,11 @@
 #include <cstdint>
 #include <memory>
 
+#include "platform/graph/FileLane.h"
 #include "platform/graph/FilterBin.h"
 #include "platform/graph/GraphFaces.h"
 #include "platform/graph/GraphNews.h"
 #include "platform/graph/LessonLane.h"
-#include "platform/graph/RecordingLane.h"
 
 namespace kinalyx {
 
@@ -17,7 +17,7 @@ namespace kinalyx {
 /// @param beginNs  nanoseconds of CLOCK_MONOTONIC at which the graph's time was 0
 void AppendPreview(FilterBin& bin, std::shared_ptr<RendererFace> face, const GraphNews& news, std::int64_t beginNs);
 /// Hands them to a file.
-void AppendFile(FilterBin& bin, std::shared_ptr<RecordingLane> lane, std::int64_t beginNs);
+void AppendFile(FilterBin& bin, std::shared_ptr<IPictureLane> lane, std::int64_t beginNs);
 
 /// Hands pictures of the screen to a lesson.
 void AppendLesson(FilterBin& bin, std::shared_ptr<LessonLane> lane, std::int64_t beginNs);

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <cmath>
 #include <utility>
 
 namespace kinalyx {
@@ -131,16 +130,6 @@ bool GateFace::LetsThrough(std::int64_t ns) {
 void GateFace::Begin() {
   const std::lock_guard lock(mutex_);
   if (armed_ && writer_) writer_->Open();
-}
-
-double AudioTriggerFace::Level() {
-  const std::lock_guard lock(mutex_);
-  return level_;
-}
-
-void AudioTriggerFace::Hear(double decibels) {
-  const std::lock_guard lock(mutex_);
-  level_ = std::clamp(std::pow(10.0, decibels / 20), 0.0, 1.0);
 }
 
 }  // namespace kinalyx

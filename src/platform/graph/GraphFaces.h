@@ -110,15 +110,4 @@ class GateFace final : public ITriggerSourceFilter {
   std::int64_t lastNs_ = std::numeric_limits<std::int64_t>::min();  ///< of the last picture that passed
 };
 
-class AudioTriggerFace final : public IAudioTriggerFilter {
- public:
-  double Level() override;
-  /// @param decibels  of the loudest sample, 0 at most
-  void Hear(double decibels);
-
- private:
-  std::mutex mutex_;
-  double level_ = 0;
-};
-
 }  // namespace kinalyx

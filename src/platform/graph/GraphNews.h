@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <utility>
@@ -30,6 +31,12 @@ class GraphNews {
   }
   void PreviewFailed(const std::string& label) const {
     Tell([label](IGraphEvents& events) { events.PreviewFailed(label); });
+  }
+  void TriggerFired(const std::string& label, int shot, std::int64_t ns) const {
+    Tell([label, shot, ns](IGraphEvents& events) { events.TriggerFired(label, shot, ns); });
+  }
+  void BlockWritten(const std::string& label) const {
+    Tell([label](IGraphEvents& events) { events.BlockWritten(label); });
   }
   void EndOfStream() const {
     Tell([](IGraphEvents& events) { events.EndOfStream(); });

@@ -80,6 +80,14 @@ struct RingTally {
   std::int64_t bound = 0;  ///< bytes that it never takes more than; then it remembers less
 };
 
+/// What one block recorder has written of one trigger.
+struct WrittenBlock {
+  std::string path;  ///< of its own; no file where no picture came
+  int shot = 0;      ///< counts the triggers of a run from 1: two cameras' files of one number belong together
+  std::int64_t triggerNs = 0;  ///< nanoseconds of CLOCK_MONOTONIC; 0 where none fired
+  RecordingTally tally;
+};
+
 /// `MV Block Recording`: remembers the pictures of the last seconds as the camera gave them, and writes those around
 /// each trigger into a file of their own, see GraphSetFileSink. It goes on remembering meanwhile: the next trigger
 /// counts as soon as the window of the one before is over, also when that is still being written.
@@ -91,6 +99,9 @@ class IBlockRecordingFilter : public IGraphFilter {
   virtual double EndOffset() const = 0;
   /// A block is under way: its window is not over, or it is still being written.
   virtual bool Writing() const = 0;
+  /// The blocks whose files have been closed since it was asked last. When the graph has been stopped, all are, with
+  /// what had come of their windows.
+  virtual std::vector<WrittenBlock> TakeWritten() = 0;
   /// @param seconds  that it remembers at least, whatever the window
   virtual void Remember(double seconds) = 0;
   /// @param bytes  that its pictures may take
@@ -103,15 +114,6 @@ class IBlockRecordingFilter : public IGraphFilter {
   virtual std::vector<PackedPicture> Pictures(std::int64_t fromNs, std::int64_t toNs) const = 0;
   /// Writes these pictures as a block, without a trigger. They are ever later ones of one format.
   virtual void WritePictures(std::vector<PackedPicture> pictures) = 0;
-};
-
-/// What has been written of one trigger, by one block recorder.
-struct WrittenBlock {
-  std::string label;           ///< of the sink
-  std::string path;            ///< of its own; no file where no picture came
-  int shot = 0;                ///< counts the triggers of a run from 1: two cameras' files of one number belong together
-  std::int64_t triggerNs = 0;  ///< nanoseconds of CLOCK_MONOTONIC; 0 where none fired
-  RecordingTally tally;
 };
 
 /// What a graph tells, from the event loop of the user interface, never from inside a call.
@@ -131,8 +133,8 @@ class IGraphEvents {
   /// A trigger has fired, and the block recorders behind it are at work.
   /// @param label  of the trigger
   virtual void TriggerFired(const std::string& /*label*/, int /*shot*/, std::int64_t /*ns*/) {}
-  /// The file of a block is closed; told once for each recorder behind the trigger.
-  virtual void BlockWritten(const WrittenBlock& /*block*/) {}
+  /// The recorder of that label has closed the file of a block, see TakeWritten.
+  virtual void BlockWritten(const std::string& /*label*/) {}
   /// All sources have come to their end, and the files are closed.
   virtual void EndOfStream() = 0;
 };

@@ -28,6 +28,7 @@ struct LiveGraph::Engine {
       : events(told), sources(std::move(devices)), post(std::move(posting)) {}
 
   void MakeFaces();
+  void ConnectTriggers();
   /// Whether a gate says when that file is written; else it is written all the time.
   bool Gated(const std::shared_ptr<WriterFace>& writer) const;
   /// The setting of a filter that has one of these roles; null where it is none.
@@ -77,17 +78,34 @@ void LiveGraph::Engine::MakeFaces() {
   faces.writers.resize(count);
   faces.gates.resize(count);
   faces.triggers.resize(count);
+  faces.switches.resize(count);
+  faces.blocks.resize(count);
+  faces.lines.resize(count);
   for (std::size_t i = 0; i < count; ++i) {
     const auto& [label, row, state] = plan.filters[i];
     if (row->role == FilterRole::Renderer) faces.renderers[i] = std::make_shared<RendererFace>(label);
     else if (row->role == FilterRole::Writer) faces.writers[i] = std::make_shared<WriterFace>();
-    else if (row->role == FilterRole::AudioTrigger) faces.triggers[i] = std::make_shared<AudioTriggerFace>();
+    else if (row->role == FilterRole::Block) faces.blocks[i] = std::make_shared<BlockFace>();
   }
+  ConnectTriggers();
   const auto moment = std::make_shared<GateMoment>();
   for (std::size_t i = 0; i < count; ++i) {
     if (plan.filters[i].row->role != FilterRole::Gate) continue;
     const auto writer = plan.Downstream(i, FilterRole::Writer);
     faces.gates[i] = std::make_shared<GateFace>(moment, writer ? faces.writers[*writer] : nullptr);
+  }
+}
+
+/// A trigger reaches block recorders over links alone, or over one that copies it.
+void LiveGraph::Engine::ConnectTriggers() {
+  for (std::size_t i = 0; i < plan.filters.size(); ++i) {
+    const auto& [label, row, state] = plan.filters[i];
+    const bool hears = row->role == FilterRole::AudioTrigger;
+    if (!hears && (row->role != FilterRole::Trigger || !row->inputs[0].empty())) continue;
+    const auto line = faces.lines[i] = std::make_shared<TriggerLine>(label);
+    if (hears) faces.triggers[i] = std::make_shared<AudioTriggerFace>(line);
+    else faces.switches[i] = std::make_shared<SwitchFace>(line);
+    for (const std::size_t block : plan.AllDownstream(i, FilterRole::Block)) line->Connect(faces.blocks[block]);
   }
 }
 
@@ -108,6 +126,9 @@ std::shared_ptr<IFileLane> LiveGraph::Engine::MakeLane(std::size_t writer, const
     voice = voice || !settings[i].device.empty();
   }
   const std::string& label = plan.filters[writer].label;
+  for (std::size_t i = 0; i < plan.filters.size(); ++i)
+    if (faces.blocks[i] && plan.Downstream(i, FilterRole::Writer) == writer)
+      return faces.blocks[i]->MakeLane(plan.filters[i].label, news);
   if (lesson) return std::make_shared<LessonLane>(label, news, kind, voice);
   return std::make_shared<RecordingLane>(label, news);
 }
@@ -174,6 +195,8 @@ Outcome LiveGraph::GraphRun() {
     if (gate) gate->Begin();
   for (const auto& writer : faces.writers)
     if (writer && !engine_->Gated(writer)) writer->Open();
+  for (const auto& line : faces.lines)
+    if (line) line->Begin(news);
   auto order = std::make_shared<GraphOrder>();
   order->plan = engine_->plan;
   order->settings = engine_->settings;
@@ -189,6 +212,8 @@ Outcome LiveGraph::GraphStop() { return engine_->StopRun(); }
 /// Files first: what is still on its way belongs to them.
 Outcome LiveGraph::Engine::StopRun() {
   if (!run) return Outcome();
+  for (const auto& line : faces.lines)
+    if (line) line->End();
   for (const auto& gate : faces.gates)
     if (gate) gate->Arm(false);
   for (const auto& writer : faces.writers)
@@ -220,6 +245,8 @@ IGraphFilter* LiveGraph::Filter(std::string_view label) {
   if (faces.renderers[*found]) return faces.renderers[*found].get();
   if (faces.writers[*found]) return faces.writers[*found].get();
   if (faces.gates[*found]) return faces.gates[*found].get();
+  if (faces.blocks[*found]) return faces.blocks[*found].get();
+  if (faces.switches[*found]) return faces.switches[*found].get();
   return faces.triggers[*found].get();
 }
 

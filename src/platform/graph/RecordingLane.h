@@ -7,14 +7,13 @@
 
 #include "platform/graph/FileLane.h"
 #include "platform/graph/GraphNews.h"
-#include "platform/graph/PackedPicture.h"
 
 namespace kinalyx {
 
 /// The way of one camera's pictures to its files: a thread of its own writes, so that neither camera nor window waits
 /// for a disk. It takes the pictures of two seconds on credit; a disk that is further behind loses the newest, and the
 /// file counts them. A thread that hangs in its disk is left to itself.
-class RecordingLane final : public IFileLane {
+class RecordingLane final : public IPictureLane {
  public:
   /// @param label  of the sink, for the news
   RecordingLane(std::string label, GraphNews news);
@@ -28,8 +27,7 @@ class RecordingLane final : public IFileLane {
   void CloseNow() override;
   bool WaitClosed(std::chrono::steady_clock::time_point until) const override;
   RecordingTally Tally() const override;
-  /// Any thread; without an open file it goes nowhere.
-  void Push(PackedPicture picture);
+  void Push(PackedPicture picture) override;
 
  private:
   struct Desk;

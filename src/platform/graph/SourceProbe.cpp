@@ -67,10 +67,4 @@ void HoldBack(GstPad* pad, std::shared_ptr<GateFace> gate, std::int64_t beginNs)
   AddProbe(pad, GST_PAD_PROBE_TYPE_BUFFER, Gating{std::move(gate), beginNs});
 }
 
-void DropAll(GstPad* pad) {
-  gst_pad_add_probe(
-      pad, GST_PAD_PROBE_TYPE_BUFFER, [](GstPad*, GstPadProbeInfo*, gpointer) { return GST_PAD_PROBE_DROP; }, nullptr,
-      nullptr);
-}
-
 }  // namespace kinalyx

@@ -13,7 +13,5 @@ namespace kinalyx {
 void WatchSource(GstPad* output, std::shared_ptr<SourceWatch> watch, std::int64_t beginNs);
 /// Lets through what the gate lets through.
 void HoldBack(GstPad* pad, std::shared_ptr<GateFace> gate, std::int64_t beginNs);
-/// Lets no picture through.
-void DropAll(GstPad* pad);
 
 }  // namespace kinalyx

@@ -111,15 +111,20 @@ std::optional<std::size_t> GraphPlan::Find(std::string_view label) const {
 }
 
 std::optional<std::size_t> GraphPlan::Downstream(std::size_t from, FilterRole role) const {
-  std::vector<std::size_t> reached{from};
+  const std::vector<std::size_t> found = AllDownstream(from, role);
+  return found.empty() ? std::nullopt : std::optional(found.front());
+}
+
+std::vector<std::size_t> GraphPlan::AllDownstream(std::size_t from, FilterRole role) const {
+  std::vector<std::size_t> reached{from}, found;
   for (std::size_t i = 0; i < reached.size(); ++i) {
     for (const Link& link : links) {
       if (link.from != reached[i] || std::ranges::find(reached, link.to) != reached.end()) continue;
-      if (filters[link.to].row->role == role) return link.to;
-      reached.push_back(link.to);
+      if (std::ranges::find(found, link.to) != found.end()) continue;
+      (filters[link.to].row->role == role ? found : reached).push_back(link.to);
     }
   }
-  return std::nullopt;
+  return found;
 }
 
 bool GraphPlan::Flows(const Link& link) const {

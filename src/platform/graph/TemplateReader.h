@@ -32,6 +32,8 @@ struct GraphPlan {
   std::optional<std::size_t> Find(std::string_view label) const;
   /// The first filter of a role that is reached along the links.
   std::optional<std::size_t> Downstream(std::size_t from, FilterRole role) const;
+  /// All filters of a role that are reached so, with none of it between.
+  std::vector<std::size_t> AllDownstream(std::size_t from, FilterRole role) const;
   /// Whether pictures or sound go over a link, and not triggers alone.
   bool Flows(const Link& link) const;
 };
