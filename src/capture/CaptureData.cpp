@@ -8,11 +8,21 @@
 
 namespace kinalyx {
 
-SlotData CaptureFlags(const Settings& settings, bool wide) {
+RecordingFacts FactsOf(const VideoInfo& info) {
+  constexpr double kWide = 1.5;  // width by height
+  RecordingFacts facts;
+  facts.raw = info.compressor == "rawvideo" || info.compressor == "YUY2" || info.compressor == "DIB ";
+  facts.fields = info.interlaced;
+  facts.wide = info.height > 0 && static_cast<double>(info.width) / info.height > kWide;
+  return facts;
+}
+
+SlotData CaptureFlags(const Settings& settings, bool dv, const RecordingFacts& facts) {
+  const bool fields = dv || facts.fields;
   SlotData flags;
-  flags.Wide = wide;
-  flags.ReverseFields = settings.ReverseFields;
-  flags.SplitFields = settings.SplitFields;
+  flags.Wide = facts.wide;
+  flags.ReverseFields = fields && settings.ReverseFields;
+  flags.SplitFields = fields && settings.SplitFields;
   return flags;
 }
 

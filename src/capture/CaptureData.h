@@ -10,8 +10,20 @@ namespace kinalyx {
 
 class Settings;
 
-/// What the sidecar of a recording says of its pictures: the field options come from the settings for cameras.
-SlotData CaptureFlags(const Settings& settings, bool wide);
+struct VideoInfo;
+
+/// What counts of the pictures of a recording.
+struct RecordingFacts {
+  bool raw = false;     ///< they are not compressed
+  bool fields = false;  ///< each is of two
+  bool wide = false;    ///< of 16 by 9, or wider
+};
+RecordingFacts FactsOf(const VideoInfo& info);
+
+/// What the sidecar of a recording says of its pictures. The options about fields, from the settings for cameras, are
+/// made for camcorders; what another camera gives as whole pictures has none.
+/// @param dv  from a camcorder
+SlotData CaptureFlags(const Settings& settings, bool dv, const RecordingFacts& facts);
 
 /// Writes the first sidecar of a recording beside it. The rate that was measured goes into its study file where the
 /// video itself does not tell it: speeds and the timer then go by what the camera did.

@@ -9,6 +9,7 @@
 #include "capture/templates/CaptureTemplate.h"
 #include "core/Settings.h"
 #include "platform/files/Folders.h"
+#include "platform/media/VideoFile.h"
 
 namespace kinalyx {
 
@@ -27,6 +28,7 @@ constexpr std::string_view kGates[] = {"MV Trigger Source", "MV Trigger Source 2
 constexpr std::string_view kWriters[] = {"FileWriter", "FileWriter 2"};
 
 constexpr std::string_view kCapturing = "Capturing Video. Press button again to STOP capture";
+constexpr std::string_view kTimed = "Capturing Video";
 constexpr std::string_view kTrimFront = "Trim Excess from the FRONT of the video or Choose Save";
 constexpr std::string_view kTrimEnd = "Trim Excess from the END of the video or Choose Save";
 constexpr std::string_view kClickSave = "Click on \"Save Capture\" to save";
@@ -43,7 +45,16 @@ std::string_view CaptionOf(CapturePhase phase) {
   return "Start Capture";
 }
 
-CaptureSession::CaptureSession(Parts parts) : parts_(parts) {}
+CaptureSession::CaptureSession(Parts parts)
+    : parts_(parts),
+      monitoring_({.host = parts.host,
+                   .settings = parts.settings,
+                   .setup = parts.setup,
+                   .naming = parts.naming,
+                   .files = parts.files,
+                   .jobs = parts.blockJobs,
+                   .events = *this,
+                   .trimProgram = parts.trimProgram}) {}
 CaptureSession::~CaptureSession() = default;
 
 // ---------------------------------------------------------------- the page
@@ -55,12 +66,14 @@ void CaptureSession::Open() {
 }
 
 bool CaptureSession::Leave() {
-  if (saving_) {
+  // What a timer recorded is kept while the user is elsewhere, and so is what was triggered.
+  if (saving_ && !timed_) {
     parts_.host.Message(MessageKind::Information, "", "The last video is still being saved.");
     return false;
   }
+  if (monitoring_.Armed()) Disarm({});
   if (phase_ == CapturePhase::Writing) StopCapture();
-  if (phase_ == CapturePhase::Reviewing) {
+  if (phase_ == CapturePhase::Reviewing && !timed_) {
     if (!parts_.host.Question("", "The recording has not been saved. Do you want to throw it away?")) return false;
     BackToLive();
   }
@@ -90,9 +103,9 @@ bool CaptureSession::BuildCaptureGraph() {
   };
   if (IsImport(parts_.setup.Kind())) return fail({});
   const std::string_view text =
-      CaptureTemplate(false, parts_.setup.Method(), parts_.setup.Use(), parts_.setup.DVMode());
+      CaptureTemplate(monitoring_.Armed(), parts_.setup.Method(), parts_.setup.Use(), parts_.setup.DVMode());
   if (const Outcome loaded = graph_->GraphXmlLoad(text); !loaded) return fail(loaded.Why());
-  if (!two_) {
+  if (!two_ && !monitoring_.Armed()) {
     // For a camera that does not tell at which rate it gives the size that is chosen.
     const bool pal = parts_.settings.NTSCorPAL != "0";
     (void)graph_->GraphSetFrameTime(kSources[0], pal ? kPalFrame : kNtscFrame);
@@ -103,9 +116,17 @@ bool CaptureSession::BuildCaptureGraph() {
     if (IRendererFilter* renderer = Renderer(camera)) renderer->WantSize(wanted.width, wanted.height);
   }
   ArmGates(false);
+  if (monitoring_.Armed()) {
+    const Outcome ready = monitoring_.Prepare(*graph_, two_ ? 2 : 1, parts_.setup.Use() == CameraUse::Second);
+    if (!ready) {
+      Disarm(ready.Why());
+      return BuildCaptureGraph();
+    }
+  }
   if (const Outcome run = graph_->GraphRun(); !run) return fail(run.Why());
   built_ = true;
   RunCamcorder(true);
+  if (monitoring_.Armed()) monitoring_.Begin(*graph_);
   if (status_.empty()) Say(std::string(kReady));
   parts_.page.CaptureChanged();
   return true;
@@ -150,6 +171,7 @@ void CaptureSession::StopCaptureGraph() {
     (void)graph_->GraphStop();
     RunCamcorder(false);
   }
+  monitoring_.End();
   graph_->GraphClear();
   built_ = false;
 }
@@ -190,7 +212,7 @@ RecordingTally CaptureSession::Tally(int camera) const { return tallies_[static_
 // ---------------------------------------------------------------- start, stop, back
 
 void CaptureSession::PressCapture() {
-  if (saving_) return;
+  if (saving_ || timed_ || monitoring_.Armed()) return;
   switch (phase_) {
     case CapturePhase::LivePreview: StartCapture(); break;
     case CapturePhase::Writing: StopCapture(); break;
@@ -211,7 +233,7 @@ void CaptureSession::PutAway() {
 void CaptureSession::DropPutAway() { (void)ThrowAway(std::exchange(putAway_, {})); }
 
 void CaptureSession::BringBack() {
-  if (!CanBringBack() || phase_ != CapturePhase::LivePreview || saving_) return;
+  if (!CanBringBack() || phase_ != CapturePhase::LivePreview || saving_ || monitoring_.Armed()) return;
   const UnfinishedRecording recording = std::exchange(putAway_, {});
   ReviewUnfinished(recording);
 }
@@ -230,7 +252,7 @@ void CaptureSession::StartCapture() {
   phase_ = CapturePhase::Writing;
   ArmGates(true);
   tallyTimer_ = HostTimer(parts_.host, kTallyMs, true, [this] { ShowTally(); });
-  Say(std::string(kCapturing));
+  Say(std::string(timed_ ? kTimed : kCapturing));
 }
 
 void CaptureSession::ShowTally() {
@@ -245,7 +267,9 @@ void CaptureSession::ShowTally() {
   parts_.page.CaptureChanged();
 }
 
-void CaptureSession::StopCapture() {
+void CaptureSession::StopCapture() { Review(EndRecording()); }
+
+UnfinishedRecording CaptureSession::EndRecording() {
   stoppedAt_ = parts_.host.timeGetTime();
   ArmGates(false);
   if (built_) (void)graph_->GraphStop();  // the files are closed, and the figures those of whole files
@@ -255,7 +279,7 @@ void CaptureSession::StopCapture() {
   recording.paths = {parts_.files.Path(0), two_ ? parts_.files.Path(1) : std::string()};
   recording.tallies = tallies_;
   LeaveOutEmpty(recording);
-  Review(std::move(recording));
+  return recording;
 }
 
 /// Of two cameras, one may have given no picture: the other one's recording is looked at alone.
@@ -278,7 +302,7 @@ void CaptureSession::LeaveOutEmpty(UnfinishedRecording& recording) {
 }
 
 void CaptureSession::ReviewUnfinished(const UnfinishedRecording& recording) {
-  if (phase_ != CapturePhase::LivePreview || saving_) return;
+  if (phase_ != CapturePhase::LivePreview || saving_ || monitoring_.Armed()) return;
   StopCaptureGraph();
   two_ = !recording.paths[1].empty();
   secondAlone_ = false;
@@ -335,114 +359,6 @@ void CaptureSession::Trim(int first, int last) {
   Say(std::string(end ? kClickSave : kTrimEnd));
 }
 
-// ---------------------------------------------------------------- keeping
-
-bool CaptureSession::RefuseUnlessNamed() {
-  if (parts_.naming.ShortGame() && FileExists(parts_.naming.CapturedVideoPath())) {
-    parts_.host.Message(MessageKind::Information, "", "File already exists. Choose a different name.");
-    return false;
-  }
-  if (!parts_.naming.Shown().empty()) return true;
-  parts_.host.Message(MessageKind::Information, "", "You must name the video before saving!");
-  parts_.naming.ChangeName();
-  return false;
-}
-
-/// What becomes of a save.
-class CaptureSession::SaveEvents final : public IJobEvents {
- public:
-  explicit SaveEvents(CaptureSession& session) : session_(session) {}
-  void Progress(const JobProgress& progress) override {
-    session_.jobPart_ = progress.part;
-    session_.parts_.page.CaptureChanged();
-  }
-  void Over(IJob* job) override {
-    const auto* saver = dynamic_cast<RecordingSaver*>(job);
-    SavedRecording none;
-    none.why = "The disk does not answer.";
-    session_.Saved(saver ? saver->Saved() : none);
-  }
-
- private:
-  CaptureSession& session_;
-};
-
-void CaptureSession::Save() {
-  if (saving_ || phase_ != CapturePhase::Reviewing) return;
-  if (!RefuseUnlessNamed()) {
-    sendNext_ = false;
-    return;
-  }
-  if (TrimEndFrame_ > 0 && TrimEndFrame_ <= TrimStartFrame_) {
-    sendNext_ = false;
-    parts_.host.Message(MessageKind::Information, "",
-                        "Your TRIM Start and End times are not correct. Please check your Start and End times and try "
-                        "again.");
-    return;
-  }
-  SaveRequest request;
-  request.recorded = reviewed_.paths;
-  request.videos = {parts_.naming.CapturedVideoPath(), parts_.naming.CapturedVideoPath2()};
-  if (secondAlone_) request.videos[0] = request.videos[1];
-  request.tallies = tallies_;
-  request.firstFrame = TrimStartFrame_;
-  request.lastFrame = TrimEndFrame_;
-  const bool recompress = !parts_.setup.DVMode() && parts_.settings.Recompress;
-  for (int camera = 0; camera < 2; ++camera)
-    request.recompress[static_cast<std::size_t>(camera)] = recompress && parts_.page.ReviewPlayer(camera).IsRaw();
-  request.flags = CaptureFlags(parts_.settings, parts_.page.ReviewPlayer(0).IsWide());
-  // The choices about fields are made for camcorders; what another camera gives as whole pictures has none.
-  if (!parts_.setup.DVMode() && !parts_.page.ReviewPlayer(0).HasFields())
-    request.flags.SplitFields = request.flags.ReverseFields = false;
-  request.dv = parts_.setup.DVMode();
-  request.trimProgram = parts_.trimProgram;
-  saving_ = true;
-  jobPart_ = 0;
-  parts_.page.ReviewPlayer(0).Unload();
-  parts_.page.ReviewPlayer(1).Unload();
-  Say("Saving Video.... Please Wait.");
-  parts_.jobs.Start(std::make_unique<RecordingSaver>(std::move(request)), std::make_unique<SaveEvents>(*this));
-}
-
-/// All is kept and the way back to the live picture open, or nothing is and the recording stays under review.
-void CaptureSession::Saved(const SavedRecording& saved) {
-  saving_ = false;
-  const bool send = std::exchange(sendNext_, false);
-  if (!saved.Done()) {
-    const UnfinishedRecording again = reviewed_;
-    const int start = TrimStartFrame_;
-    const int end = TrimEndFrame_;
-    Review(again);
-    TrimStartFrame_ = start;
-    TrimEndFrame_ = end;
-    Say("Last Video WAS NOT SAVED");
-    if (!saved.cancelled)
-      parts_.host.Message(MessageKind::Warning, "", "There was a problem saving this video.\n\n" + saved.why);
-    return;
-  }
-  LastSavedVideo_ = saved.videos[0];
-  const bool both = two_;
-  std::vector<std::string> paths{saved.videos[0]};
-  if (both) paths.push_back(saved.videos[1]);
-  parts_.naming.NameUsed();
-  BackToLive();
-  Say(both ? "Both Videos Saved Successfully" : "Last Video Saved Successfully");
-  if (!saved.note.empty()) parts_.host.Message(MessageKind::Warning, "", saved.note);
-  SayReadyLater();
-  if (!send) return;
-  Say("Loading Analysis Section...");
-  const bool opened = parts_.ways.OpenInAnalysis(paths);
-  if (opened) Say("Sending last saved to Analysis...");
-  Say(opened ? "Last video saved was sent to Analysis." : "The video is saved. The analysis section did not open it.");
-  SayReadyLater();
-}
-
-void CaptureSession::SendToAnalysis() {
-  if (saving_ || phase_ != CapturePhase::Reviewing) return;
-  sendNext_ = true;
-  Save();
-}
-
 void CaptureSession::Say(std::string status) {
   status_ = std::move(status);
   parts_.page.CaptureChanged();
@@ -454,7 +370,45 @@ void CaptureSession::SayReadyLater() {
   });
 }
 
+// ---------------------------------------------------------------- hands-free
+
+void CaptureSession::PressMonitor() {
+  if (phase_ != CapturePhase::LivePreview || saving_) return;
+  if (monitoring_.Armed()) {
+    const bool sound = parts_.setup.Method() == CaptureMethod::Sound;
+    Disarm(sound ? "Press \"Start Sound Capture\" to start monitoring for sound."
+                 : "Press \"Start to Monitor\" to start monitoring.");
+  } else {
+    if (parts_.naming.Shown().empty()) {
+      parts_.host.Message(MessageKind::Information, "", "You must name the video before saving!");
+      return parts_.naming.ChangeName();
+    }
+    ReadyTimer_.Stop();
+    DropPutAway();
+    monitoring_.Arm(true);
+  }
+  BuildCaptureGraph();
+}
+
+/// What a trigger has begun is closed, and kept.
+void CaptureSession::Disarm(const std::string& status) {
+  monitoring_.Arm(false);
+  StopCaptureGraph();
+  Say(status);
+}
+
+void CaptureSession::MonitoringKept(const std::string& video) {
+  LastSavedVideo_ = video;
+  parts_.page.CaptureChanged();
+}
+
 // ---------------------------------------------------------------- what the graph tells
+
+void CaptureSession::TriggerFired(const std::string& /*label*/, int /*shot*/, std::int64_t /*ns*/) {
+  monitoring_.TriggerFired();
+}
+
+void CaptureSession::BlockWritten(const std::string& /*label*/) { monitoring_.BlockWritten(); }
 
 void CaptureSession::PictureCame(const std::string& label) {
   const int camera = label == "Video Renderer 2" ? 1 : 0;
@@ -466,17 +420,29 @@ void CaptureSession::PictureCame(const std::string& label) {
 }
 
 void CaptureSession::SourceFailed(const std::string& label, const std::string& why) {
+  const bool microphone = label != kSources[0] && label != kSources[1];
   const int camera = label == kSources[1] ? 1 : 0;
-  words_[static_cast<std::size_t>(camera)] = why;
+  if (microphone) Say(why);
+  else words_[static_cast<std::size_t>(camera)] = why;
   if (phase_ == CapturePhase::Writing) {
     tallies_[static_cast<std::size_t>(camera)].fault = why;
-    StopCapture();
+    if (timed_) StopTimed();
+    else StopCapture();
     return;
   }
   // A camera that another program has, or that is being plugged in anew, is asked again.
-  if (phase_ == CapturePhase::LivePreview && open_)
-    retry_ = HostTimer(parts_.host, kRetryMs, false, [this] { Rebuild(); });
+  if (phase_ == CapturePhase::LivePreview && open_) RetryLater(microphone ? -1 : camera);
   parts_.page.CaptureChanged();
+}
+
+/// What is remembered of the other camera would be lost by a try that is in vain.
+/// @param camera  -1: the microphone
+void CaptureSession::RetryLater(int camera) {
+  retry_ = HostTimer(parts_.host, kRetryMs, false, [this, camera] {
+    const bool there = camera < 0 || parts_.setup.ShownDevice(two_ ? camera : parts_.setup.Use() == CameraUse::Second);
+    if (monitoring_.Armed() && two_ && !there) return RetryLater(camera);
+    Rebuild();
+  });
 }
 
 /// The window alone is dark: what is recorded is what the camera gives.

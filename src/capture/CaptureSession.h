@@ -5,8 +5,10 @@
 #include <string>
 #include <string_view>
 
+#include "capture/BeepCapture.h"
 #include "capture/CaptureSetup.h"
 #include "capture/ICaptureViews.h"
+#include "capture/Monitoring.h"
 #include "capture/RecordingSaver.h"
 #include "capture/UnfinishedRecordings.h"
 #include "capture/VideoNaming.h"
@@ -24,8 +26,9 @@ enum class CapturePhase { LivePreview, Writing, Reviewing };
 std::string_view CaptionOf(CapturePhase phase);
 
 /// The way from the live picture over a recording to a video in the student's folder: start, stop, look, cut, keep.
-/// One graph at a time, built anew for each live view. Nothing here waits for a camera or a disk.
-class CaptureSession : private IGraphEvents {
+/// One graph at a time, built anew for each live view. Nothing here waits for a camera or a disk. Hands-free, the live
+/// view waits for triggers instead, see Monitoring, or a timer starts and stops, see BeepCapture.
+class CaptureSession : public ITimedCapture, private IGraphEvents, private IMonitoringEvents {
  public:
   struct Parts {
     IHost& host;
@@ -34,8 +37,10 @@ class CaptureSession : private IGraphEvents {
     VideoNaming& naming;
     WorkingFiles& files;
     ICapturePage& page;
+    IMeterEvents& meter;
     ICaptureWays& ways;
     JobRunner& jobs;
+    JobRunner& blockJobs;     ///< keep what is triggered
     std::string trimProgram;  ///< path of `avitrim`
   };
   /// All parts outlive this.
@@ -64,6 +69,13 @@ class CaptureSession : private IGraphEvents {
   void Trim(int first, int last);
   void Save();
   void SendToAnalysis();
+  /// `AutoCapturebtn` and `OneClickbtn`: begins to wait for triggers, or ends it.
+  void PressMonitor();
+  Monitoring& Triggers() { return monitoring_; }
+  const Monitoring& Triggers() const { return monitoring_; }
+  bool StartTimed(ITimedEvents& events) override;
+  void StopTimed() override;
+  void Say(std::string status) override;
   /// Looks at a recording that an earlier run left, as if it had just been stopped. Nothing while another is written
   /// or looked at.
   void ReviewUnfinished(const UnfinishedRecording& recording);
@@ -103,6 +115,10 @@ class CaptureSession : private IGraphEvents {
   void ArmGates(bool on);
   void StartCapture();
   void StopCapture();
+  UnfinishedRecording EndRecording();
+  void Disarm(const std::string& status);
+  void RetryLater(int camera);
+  void Keep(SaveRequest request);
   void BackToLive();
   void PutAway();
   void DropPutAway();
@@ -110,7 +126,6 @@ class CaptureSession : private IGraphEvents {
   void Review(UnfinishedRecording recording);
   bool RefuseUnlessNamed();
   void Saved(const SavedRecording& saved);
-  void Say(std::string status);
   void SayReadyLater();
   void ShowTally();
 
@@ -119,9 +134,16 @@ class CaptureSession : private IGraphEvents {
   void SinkFailed(const std::string& label, const std::string& why) override;
   void PreviewFailed(const std::string& label) override;
   void EndOfStream() override {}
+  void TriggerFired(const std::string& label, int shot, std::int64_t ns) override;
+  void BlockWritten(const std::string& label) override;
+  void MonitoringSays(std::string status) override { Say(std::move(status)); }
+  void SoundCame(double level, bool fired) override { parts_.meter.SoundCame(level, fired); }
+  void MonitoringKept(const std::string& video) override;
 
   Parts parts_;
   std::unique_ptr<IGraph> graph_;
+  Monitoring monitoring_;
+  ITimedEvents* timed_ = nullptr;  ///< whose recording is under way or being kept; null for the user's own
   CapturePhase phase_ = CapturePhase::LivePreview;
   std::string status_;
   std::array<std::string, 2> words_;

@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "capture/CaptureData.h"
+
 namespace kinalyx {
 
 /// A player in which a recording is looked at before it is kept; frames count from 0.
@@ -15,12 +17,8 @@ class IReviewPlayer {
   virtual int CurrentFrame() = 0;
   virtual int FrameCount() = 0;
   virtual void ShowFrame(int frame) = 0;
-  /// Its pictures are not compressed.
-  virtual bool IsRaw() = 0;
-  /// Each is of two fields.
-  virtual bool HasFields() = 0;
-  /// They are of 16 by 9, or wider.
-  virtual bool IsWide() = 0;
+  /// Of what is loaded.
+  virtual RecordingFacts Facts() = 0;
 };
 
 /// What a session asks of its page, and tells it.

@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <set>
 #include <utility>
 #include <vector>
 
@@ -25,6 +26,13 @@ std::array<std::string, 4> WorkingNames(int seat) {
   return names;
 }
 
+/// How the names of triggered blocks begin, of either camera.
+std::array<std::string, 2> BlockPrefixes(int seat) {
+  const std::array<std::string, 4> names = WorkingNames(seat);
+  const auto prefix = [](const std::string& name) { return name.substr(0, name.size() - 4) + " shot "; };
+  return {prefix(names[2]), prefix(names[3])};
+}
+
 /// What is locked for a whole seat.
 std::string SeatPath(const std::string& folder, int seat) { return JoinPath(folder, WorkingNames(seat)[0]); }
 
@@ -42,18 +50,36 @@ std::string FreeParkedName(const std::string& folder) {
   }
 }
 
-/// The seat must be free, or our own.
+/// Of one or two cameras, as far as they are there.
+void ParkPair(const std::string& folder, const std::string& first, const std::string& second) {
+  std::vector<std::string> there;
+  for (const std::string& name : {first, second})
+    if (EntryExists(JoinPath(folder, name))) there.push_back(JoinPath(folder, name));
+  if (there.empty()) return;
+  const std::string name = FreeParkedName(folder);
+  MoveAway(there[0], JoinPath(folder, name));
+  if (there.size() > 1) MoveAway(there[1], JoinPath(folder, ParkedNameOfSecond(name)));
+}
+
+/// What follows the beginning of a block's name: "12.avi"; two cameras' blocks of one trigger have it in common.
+std::set<std::string> BlocksOf(const std::string& folder, int seat) {
+  std::set<std::string> ends;
+  for (const std::string& name : ListFiles(folder, ".avi"))
+    for (const std::string& prefix : BlockPrefixes(seat))
+      if (name.starts_with(prefix)) ends.insert(name.substr(prefix.size()));
+  return ends;
+}
+
+// For these the seat must be free, or our own.
+
+void ParkSeatBlocks(const std::string& folder, int seat) {
+  const auto [first, second] = BlockPrefixes(seat);
+  for (const std::string& end : BlocksOf(folder, seat)) ParkPair(folder, first + end, second + end);
+}
+
 void ParkSeat(const std::string& folder, int seat) {
   const std::array<std::string, 4> names = WorkingNames(seat);
-  for (std::size_t pair = 0; pair < names.size(); pair += 2) {
-    std::vector<std::string> there;
-    for (std::size_t i = pair; i < pair + 2; ++i)
-      if (EntryExists(JoinPath(folder, names[i]))) there.push_back(JoinPath(folder, names[i]));
-    if (there.empty()) continue;
-    const std::string name = FreeParkedName(folder);
-    MoveAway(there[0], JoinPath(folder, name));
-    if (there.size() > 1) MoveAway(there[1], JoinPath(folder, ParkedNameOfSecond(name)));
-  }
+  for (std::size_t pair = 0; pair < names.size(); pair += 2) ParkPair(folder, names[pair], names[pair + 1]);
 }
 
 }  // namespace
@@ -80,6 +106,14 @@ Outcome WorkingFiles::Prepare() {
   return taken ? Outcome::Failed("The last recording cannot be moved away from " + folder_ + ".") : Outcome();
 }
 
+std::string WorkingFiles::TriggeredPath(int camera) const {
+  return JoinPath(folder_, WorkingNames(seat_)[static_cast<std::size_t>(2 + camera)]);
+}
+
+void WorkingFiles::ParkBlocks() const {
+  if (lock_) ParkSeatBlocks(folder_, seat_);
+}
+
 void WorkingFiles::Discard() const {
   for (const std::string& path : paths_) {
     for (const Companion& companion : CompanionsOf(path)) KillFile(companion.path);
@@ -90,9 +124,11 @@ void WorkingFiles::Discard() const {
 void ParkRecordings(const std::string& folder) {
   for (int seat = 1; seat <= kSeats; ++seat) {
     const auto there = [&](const std::string& name) { return EntryExists(JoinPath(folder, name)); };
-    if (std::ranges::none_of(WorkingNames(seat), there)) continue;
+    if (std::ranges::none_of(WorkingNames(seat), there) && BlocksOf(folder, seat).empty()) continue;
     const FileLock lock(SeatPath(folder, seat), 0);
-    if (!lock.Busy()) ParkSeat(folder, seat);
+    if (lock.Busy()) continue;
+    ParkSeat(folder, seat);
+    ParkSeatBlocks(folder, seat);
   }
 }
 
@@ -103,7 +139,9 @@ std::string ParkedNameOfSecond(std::string_view name) {
 
 bool IsWorkingName(std::string_view name) {
   for (int seat = 1; seat <= kSeats; ++seat)
-    if (std::ranges::count(WorkingNames(seat), name) > 0) return true;
+    if (std::ranges::count(WorkingNames(seat), name) > 0 ||
+        std::ranges::any_of(BlockPrefixes(seat), [&](const std::string& prefix) { return name.starts_with(prefix); }))
+      return true;
   return false;
 }
 

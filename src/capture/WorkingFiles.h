@@ -22,6 +22,10 @@ class WorkingFiles {
   Outcome Prepare();
   /// Of camera 0 or 1.
   const std::string& Path(int camera) const { return paths_[static_cast<std::size_t>(camera)]; }
+  /// Beside which the blocks of triggers are written, of camera 0 or 1. The seat is taken by Prepare.
+  std::string TriggeredPath(int camera) const;
+  /// Takes blocks that nobody is at any more away from their names, see ParkRecordings.
+  void ParkBlocks() const;
   /// Throws away what was recorded.
   void Discard() const;
 

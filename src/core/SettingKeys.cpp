@@ -119,6 +119,7 @@ std::vector<Settings::Key> Settings::ConfigKeys() {
   section = "VidCap";
   for (std::size_t i = 0; i < NetworkCamera.size(); ++i)
     add(fmt::format("NetworkCamera{}", i + 1), "", &NetworkCamera[i]);
+  add("RemoteKeys", "PageDown, B", &RemoteKeys);
   return keys;
 }
 

@@ -84,6 +84,7 @@ class Settings {
   std::string SoundLevel;
   std::array<std::string, 2> TriggerTime;
   std::string OneClickTime;
+  std::string RemoteKeys;  ///< that fire a one-click capture, see RemoteKeysOf
   std::int32_t CameraSelect = 0;
   std::string CamExt;
   bool ReverseFields = false;

@@ -2,7 +2,9 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "capture/CaptureSession.h"
@@ -71,6 +73,36 @@ class FakeGraph final : public IGraph {
     RecordingTally Tally() override { return tally; }
   };
 
+  /// Blocks are what the test says.
+  struct Block final : IBlockRecordingFilter {
+    double start = 0;
+    double end = 0;
+    std::vector<WrittenBlock> written;
+    void BlockRecordingSetStart(double seconds) override { start = seconds; }
+    void BlockRecordingSetEnd(double seconds) override { end = seconds; }
+    double EndOffset() const override { return end; }
+    bool Writing() const override { return false; }
+    std::vector<WrittenBlock> TakeWritten() override { return std::exchange(written, {}); }
+    void Remember(double) override {}
+    void SetBound(std::int64_t) override {}
+    RingTally Ring() const override { return {1.5, 3 << 20, 64 << 20}; }
+    std::optional<PackedPicture> PictureAt(std::int64_t) const override { return std::nullopt; }
+    std::vector<PackedPicture> Pictures(std::int64_t, std::int64_t) const override { return {}; }
+    void WritePictures(std::vector<PackedPicture>) override {}
+  };
+  struct Switch final : ISwitchFilter {
+    int fired = 0;
+    bool Fire(std::int64_t) override { return ++fired > 0; }
+  };
+  struct Trigger final : IAudioTriggerFilter {
+    double level = 0;
+    double threshold = 0;
+    double gain = 0;
+    double Level() override { return level; }
+    void SetThreshold(double value) override { threshold = value; }
+    void SetGain(double value) override { gain = value; }
+  };
+
   std::string loaded;
   std::map<std::string, std::string, std::less<>> devices;
   std::map<std::string, std::string, std::less<>> formats;
@@ -79,6 +111,9 @@ class FakeGraph final : public IGraph {
   bool running = false;
   Gate gates[2];
   Writer writers[2];
+  Block blocks[2];
+  Switch button;
+  Trigger trigger;
 
   Outcome GraphXmlLoad(std::string_view text) override {
     GraphClear();
@@ -124,6 +159,9 @@ class FakeGraph final : public IGraph {
   IGraphFilter* Filter(std::string_view label) override {
     const bool second = label.ends_with('2');
     if (label.starts_with("MV Trigger")) return &gates[second];
+    if (label.starts_with("MV Block")) return &blocks[second];
+    if (label == "MV Switch") return &button;
+    if (label == "Audio Trigger") return &trigger;
     if (label.starts_with("FileWriter")) return &writers[second];
     return nullptr;
   }

@@ -12,6 +12,7 @@
 #include "capture/SourceKinds.h"
 #include "capture/forms/CameraLine.h"
 #include "capture/forms/FindCamForm.h"
+#include "capture/forms/HandsFree.h"
 #include "capture/forms/LiveView.h"
 #include "capture/forms/NamingPanel.h"
 #include "capture/forms/UnfinishedBar.h"
@@ -39,7 +40,6 @@ namespace {
 
 constexpr int kSideWidth = 256;  // as designed
 constexpr int kStride = 10;      // pictures that a larger step goes
-constexpr double kWide = 1.5;    // width by height
 enum StagePage { kLivePage, kReviewPage };
 
 QButtonGroup* MakeChoice(QHBoxLayout& row, const QString& name, std::initializer_list<const char*> captions,
@@ -66,17 +66,9 @@ class CapturePage::Player final : public IReviewPlayer {
   int CurrentFrame() override { return player_.Frame(); }
   int FrameCount() override { return player_.FrameCount(); }
   void ShowFrame(int frame) override { player_.ShowFrame(frame); }
-  bool IsRaw() override {
+  RecordingFacts Facts() override {
     const VideoInfo* info = player_.Control().Info();
-    return info && (info->compressor == "rawvideo" || info->compressor == "YUY2" || info->compressor == "DIB ");
-  }
-  bool HasFields() override {
-    const VideoInfo* info = player_.Control().Info();
-    return info && info->interlaced;
-  }
-  bool IsWide() override {
-    const VideoInfo* info = player_.Control().Info();
-    return info && info->height > 0 && static_cast<double>(info->width) / info->height > kWide;
+    return info ? FactsOf(*info) : RecordingFacts();
   }
 
  private:
@@ -89,7 +81,8 @@ CapturePage::CapturePage(Parts parts, QWidget* parent)
       vocabulary_(parts_.settings),
       browser_(parts_.services.host.Drives(), parts_.settings, parts_.remembered, LibraryBrowser::Kind::Profiles),
       files_(JoinPath(parts_.settings.DataPath, "capture")),
-      jobs_(parts_.services.host, JobRunner::On::Worker) {
+      jobs_(parts_.services.host, JobRunner::On::Worker),
+      blockJobs_(parts_.services.host, JobRunner::On::Worker) {
   setObjectName("CapturePage");
   IHost& host = parts_.services.host;
   session_ = std::make_unique<CaptureSession>(CaptureSession::Parts{
@@ -99,8 +92,10 @@ CapturePage::CapturePage(Parts parts, QWidget* parent)
       .naming = parts_.naming,
       .files = files_,
       .page = *this,
+      .meter = *this,
       .ways = parts_.ways,
       .jobs = jobs_,
+      .blockJobs = blockJobs_,
       .trimProgram = JoinPath(parts_.settings.AppPath, "avitrim"),
   });
   session_->SetGraph(parts_.makeGraph(session_->GraphEvents()));
@@ -115,7 +110,21 @@ CapturePage::CapturePage(Parts parts, QWidget* parent)
   unfinished_ = new UnfinishedBar(host, JoinPath(parts_.settings.DataPath, "capture"));
   middle->addWidget(unfinished_);
   middle->addWidget(MakeCameras());
-  middle->addWidget(MakeStage(), 1);
+  auto* room = new QHBoxLayout;
+  room->setSpacing(kGap);
+  QWidget* stage = MakeStage();
+  hands_ = new HandsFree({.host = host,
+                          .settings = parts_.settings,
+                          .setup = parts_.setup,
+                          .naming = parts_.naming,
+                          .session = *session_,
+                          .meter = *this,
+                          .sounds = parts_.sounds,
+                          .makeGraph = parts_.makeGraph},
+                         this, stage);
+  room->addWidget(hands_->SidePanel());
+  room->addWidget(stage, 1);
+  middle->addLayout(room, 1);
   actions_ = MakeActions();
   middle->addWidget(actions_);
   import_ = new ImportPanel(parts_.services, parts_.settings, parts_.naming);
@@ -131,6 +140,7 @@ CapturePage::CapturePage(Parts parts, QWidget* parent)
 
 CapturePage::~CapturePage() {
   parts_.setup.SetEvents(nullptr);
+  delete hands_;
   session_.reset();
 }
 
@@ -217,6 +227,7 @@ QWidget* CapturePage::MakeStage() {
   for (int camera = 0; camera < 2; ++camera) {
     live_[camera] = new LiveView(QString("ezVidCap%1").arg(camera + 1));
     liveRow->addWidget(live_[camera], 1);
+    connect(live_[camera], &LiveView::Pressed, this, [this] { hands_->OneClickbtn_Click(1); });
     connect(live_[camera], &LiveView::RoomChanged, this,
             [this, camera](QSize room) { session_->WantSize(camera, room.width(), room.height()); });
     review_[camera] = new PreviewPlayer(parts_.services);
@@ -260,6 +271,7 @@ QWidget* CapturePage::MakeActions() {
   CapSendbtn_->setToolTip("Saves the recording and opens it in the analysis section (Return)");
   buttons_ = new QBoxLayout(QBoxLayout::LeftToRight);
   buttons_->setSpacing(8);
+  buttons_->addWidget(hands_->Methods());
   const auto add = [this](std::initializer_list<QWidget*> buttons, int stretchAt) {
     auto* row = new QHBoxLayout;
     row->setSpacing(8);
@@ -269,6 +281,7 @@ QWidget* CapturePage::MakeActions() {
   };
   add({Capturebtn_, StartHerebtn_, EndHerebtn_}, 1);
   add({CapSavebtn_, CapSendbtn_}, 0);
+  buttons_->addWidget(hands_->Buttons());
   rows->addLayout(buttons_);
   return ground;
 }
@@ -305,6 +318,10 @@ void CapturePage::ConnectParts() {
   connect(unfinished_, &UnfinishedBar::Told, status_, &StatusLine::Say);
   connect(unfinished_, &UnfinishedBar::LookWanted, this,
           [this](const UnfinishedRecording& recording) { session_->ReviewUnfinished(recording); });
+  connect(hands_, &HandsFree::MethodChosen, this, [this] {
+    session_->Rebuild();
+    ShowPhase();
+  });
   connect(names_, &NamingPanel::Told, status_, &StatusLine::Say);
   connect(OneCamTwoOpt_, &QButtonGroup::idClicked, this, &CapturePage::OneCamTwoOpt_Click);
   connect(CamChoiceBtn_, &QButtonGroup::idClicked, this, &CapturePage::CamChoiceBtn_Click);
@@ -350,6 +367,8 @@ void CapturePage::ConnectParts() {
 // ---------------------------------------------------------------- coming and going
 
 void CapturePage::Open() {
+  open_ = true;
+  session_->Triggers().ResetCount();
   browser_.Return(true);
   lists_->ShowAll();
   FolderChosen();
@@ -365,7 +384,10 @@ void CapturePage::Open() {
 
 bool CapturePage::Leave() {
   search_->HideResults();
-  return session_->Leave();
+  hands_->StopAnyCapture();
+  open_ = !session_->Leave();
+  ShowPhase();
+  return !open_;
 }
 
 void CapturePage::SetupVocabulary() {
@@ -423,7 +445,7 @@ void CapturePage::PlayReview() {
 
 void CapturePage::keyPressEvent(QKeyEvent* event) {
   // Space starts and stops, and plays what has been recorded; it never puts it away.
-  if (event->key() == Qt::Key_Space)
+  if (event->key() == Qt::Key_Space && Capturebtn_->isVisible())
     return session_->Phase() == CapturePhase::Reviewing ? PlayReview() : Capturebtn_Click();
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (enter && session_->Phase() == CapturePhase::Reviewing) return CapSendbtn_Click();
@@ -458,18 +480,22 @@ void CapturePage::ShowPhase() {
   const bool two = session_->TwoCameras();
   Capturebtn_->setText(Q(std::string(CaptionOf(phase))));
   Capturebtn_->SetIcon(writing ? "stop" : review ? "rewind" : "record");
+  const bool byHand = parts_.setup.Method() == CaptureMethod::StartStop;
+  const bool running = hands_->Running();
+  Capturebtn_->setVisible(byHand || (review && !running));
   Capturebtn_->setEnabled(!session_->Saving());
   for (Button* button : {StartHerebtn_, EndHerebtn_, CapSavebtn_, CapSendbtn_}) {
-    button->setVisible(review);
+    button->setVisible(review && !running);
     button->setEnabled(!session_->Saving());
   }
   StartHerebtn_->setText(session_->TrimStartFrame() > 0 ? QString("Start at %1").arg(session_->TrimStartFrame())
                                                         : QString("Trim Front of Video"));
   EndHerebtn_->setText(session_->TrimEndFrame() > 0 ? QString("End at %1").arg(session_->TrimEndFrame())
                                                     : QString("Trim End of Video"));
-  reviewBar_->setVisible(review);
+  reviewBar_->setVisible(review && !running);
   if (review != reviewShown_) emit ReviewShown(reviewShown_ = review);
-  stage_->setCurrentIndex(review ? kReviewPage : kLivePage);
+  stage_->setCurrentIndex(review && !running ? kReviewPage : kLivePage);
+
   live_[1]->setVisible(two);
   review_[1]->setVisible(two);
   for (int camera = 0; camera < 2; ++camera) {
@@ -478,7 +504,10 @@ void CapturePage::ShowPhase() {
     live_[camera]->SetCaption(two ? QString("Camera %1").arg(camera + 1) : QString());
   }
   // What is being recorded is not changed under way.
-  const bool live = phase == CapturePhase::LivePreview && !session_->Saving();
+  const bool live = phase == CapturePhase::LivePreview && !session_->Saving() && !running;
+  for (QWidget* widget : {static_cast<QWidget*>(search_), static_cast<QWidget*>(students_),
+                          static_cast<QWidget*>(names_), static_cast<QWidget*>(kind_)})
+    widget->setEnabled(!running);
   for (CameraLine* line : lines_) line->SetUsable(live);
   for (QButtonGroup* group : {OneCamTwoOpt_, CamChoiceBtn_})
     for (QAbstractButton* button : group->buttons()) button->setEnabled(live);
@@ -510,6 +539,8 @@ void CapturePage::SeekReview(int frame) {
 void CapturePage::ShowPlaces() {
   const bool files = IsImport(parts_.setup.Kind()) && session_->Phase() != CapturePhase::Reviewing;
   stage_->setVisible(!files);
+  const bool live = session_->Phase() != CapturePhase::Reviewing || hands_->Running();
+  hands_->SetupCapMode(open_ && !files && live);
   actions_->setVisible(!files);
   status_->setVisible(!files);
   import_->setVisible(files);
@@ -532,6 +563,10 @@ void CapturePage::VideoKept() {
 void CapturePage::CaptureChanged() {
   if (session_ && std::exchange(lastSaved_, session_->LastSavedVideo()) != session_->LastSavedVideo()) VideoKept();
   ShowPhase();
+}
+
+void CapturePage::SoundCame(double level, bool fired) {
+  if (hands_) hands_->SoundCame(level, fired);
 }
 
 void CapturePage::LivePictureCame(int camera) { live_[camera]->ShowPicture(session_->Latest(camera)); }

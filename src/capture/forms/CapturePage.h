@@ -25,6 +25,7 @@ namespace kinalyx {
 
 class Button;
 class CameraLine;
+class HandsFree;
 class ImportPanel;
 class LibraryLists;
 class LiveView;
@@ -39,7 +40,7 @@ class UnfinishedBar;
 
 /// The capture page: who is recorded and under what name on the left, the cameras in the middle, and beneath them the
 /// one large button that starts, stops and goes back, with what belongs to each of these states.
-class CapturePage : public PageWidget, private ICapturePage, private ICaptureSetupEvents {
+class CapturePage : public PageWidget, private ICapturePage, private IMeterEvents, private ICaptureSetupEvents {
   Q_OBJECT
 
  public:
@@ -52,6 +53,7 @@ class CapturePage : public PageWidget, private ICapturePage, private ICaptureSet
     CaptureSetup& setup;
     VideoNaming& naming;
     ICaptureWays& ways;
+    IShortSounds& sounds;
     std::function<std::unique_ptr<IGraph>(IGraphEvents&)> makeGraph;
   };
   explicit CapturePage(Parts parts, QWidget* parent = nullptr);
@@ -101,6 +103,7 @@ class CapturePage : public PageWidget, private ICapturePage, private ICaptureSet
 
   void CaptureChanged() override;
   void LivePictureCame(int camera) override;
+  void SoundCame(double level, bool fired) override;
   IReviewPlayer& ReviewPlayer(int camera) override;
   void CaptureChoiceChanged() override;
   void CaptureDevicesChanged() override;
@@ -110,7 +113,9 @@ class CapturePage : public PageWidget, private ICapturePage, private ICaptureSet
   LibraryBrowser browser_;
   WorkingFiles files_;
   JobRunner jobs_;
+  JobRunner blockJobs_;
   std::unique_ptr<CaptureSession> session_;
+  HandsFree* hands_ = nullptr;
   LibraryLists* lists_;
   SearchBar* search_;
   Panel* students_;
@@ -141,6 +146,7 @@ class CapturePage : public PageWidget, private ICapturePage, private ICaptureSet
   Button* CapSavebtn_;
   Button* CapSendbtn_;
   StatusLine* status_;
+  bool open_ = false;   ///< on the screen
   bool asked_ = false;  ///< for a camera that is missing
   bool reviewShown_ = false;
 };

@@ -1,5 +1,6 @@
 #include "capture/forms/LiveView.h"
 
+#include <QMouseEvent>
 #include <QPainter>
 #include <utility>
 
@@ -92,6 +93,10 @@ void LiveView::paintEvent(QPaintEvent*) {
     y += QFontMetricsF(painter.font()).height() + Px(14);
   }
   if (!caption_.isEmpty()) PaintPlate(painter, QPointF(Px(10), y), caption_, false);
+}
+
+void LiveView::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) emit Pressed();
 }
 
 void LiveView::resizeEvent(QResizeEvent*) { emit RoomChanged(size() * devicePixelRatioF()); }

@@ -28,10 +28,13 @@ class LiveView : public QWidget {
  signals:
   /// The room for pictures is another, in pixels of the screen.
   void RoomChanged(QSize pixels);
+  /// The mouse went down on it.
+  void Pressed();
 
  protected:
   void paintEvent(QPaintEvent*) override;
   void resizeEvent(QResizeEvent*) override;
+  void mousePressEvent(QMouseEvent* event) override;
 
  private:
   QRectF PictureRoom() const;

@@ -1,0 +1,185 @@
+#include "capture/Monitoring.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "core/Settings.h"
+
+namespace kinalyx {
+namespace {
+
+constexpr int kPollMs = 50;
+constexpr int kRestartMs = 1200;  ///< how long it is told that a video was kept
+
+constexpr std::string_view kBlocks[] = {"MV Block Recording", "MV Block Recording 2"};
+constexpr std::string_view kWriters[] = {"FileWriter", "FileWriter 2"};
+constexpr std::string_view kTrigger = "Audio Trigger";
+
+constexpr std::string_view kMonitoringSound = "Microphone Active... Monitoring for Sound";
+constexpr std::string_view kMonitoringVideo = "Monitoring Video... Click at end of swing.";
+constexpr std::string_view kReached = "Sound Level Reached... Finishing Video Capture";
+constexpr std::string_view kProcessing = "Processing Video...";
+constexpr std::string_view kSaved = "Video Saved... Restarting...";
+
+// Of the machine's memory a quarter is for pictures, whatever the number of cameras.
+constexpr std::int64_t kShare = 4;
+constexpr std::int64_t kLeastBound = std::int64_t{256} << 20;
+constexpr std::int64_t kMostBound = std::int64_t{4} << 30;
+
+}  // namespace
+
+Monitoring::Monitoring(Parts parts)
+    : parts_(parts),
+      keeper_({.settings = parts.settings,
+               .setup = parts.setup,
+               .naming = parts.naming,
+               .jobs = parts.jobs,
+               .events = *this,
+               .trimProgram = parts.trimProgram}) {}
+
+Monitoring::~Monitoring() = default;
+
+void Monitoring::Arm(bool on) {
+  armed_ = on;
+  restartTimer_.Stop();
+}
+
+TriggerWindow Monitoring::Window() const {
+  return Sound() ? SoundWindow(parts_.settings) : OneClickWindow(parts_.settings);
+}
+
+IBlockRecordingFilter* Monitoring::Block(int camera) const {
+  return graph_ ? graph_->GraphFilterByLabel<IBlockRecordingFilter>(kBlocks[camera]) : nullptr;
+}
+
+Outcome Monitoring::Prepare(IGraph& graph, int cameras, bool second) {
+  if (const Outcome ready = parts_.files.Prepare(); !ready) return ready;
+  if (Sound()) {
+    const std::string microphone = parts_.setup.Microphone();
+    if (microphone.empty()) return Outcome::Failed("No microphone is connected. Plug one in, and try again.");
+    if (const Outcome bound = graph.GraphSetDevice(kTrigger, microphone); !bound) return bound;
+  }
+  const std::int64_t ram = parts_.host.System().ramKilobytes * 1024;
+  const std::int64_t bound = std::clamp(ram / kShare, kLeastBound, kMostBound) / cameras;
+  const TriggerWindow window = Window();
+  for (int camera = 0; camera < cameras; ++camera) {
+    auto* block = graph.GraphFilterByLabel<IBlockRecordingFilter>(kBlocks[camera]);
+    if (!block) return Outcome::Failed("This graph remembers nothing.");
+    block->SetBound(bound);
+    block->BlockRecordingSetStart(window.start);
+    block->BlockRecordingSetEnd(window.end);
+    const Outcome set = graph.GraphSetFileSink(kWriters[camera], parts_.files.TriggeredPath(camera));
+    if (!set) return set;
+  }
+  if (!keeper_.Busy()) parts_.files.ParkBlocks();
+  cameras_ = cameras;
+  pending_ = 0;
+  keeper_.Begin(cameras, second);
+  return Outcome();
+}
+
+void Monitoring::Begin(IGraph& graph) {
+  graph_ = &graph;
+  TakeLevels();
+  UpdateAudioLevelTimer_ = HostTimer(parts_.host, kPollMs, true, [this] { Poll(); });
+  SayWaiting();
+}
+
+void Monitoring::End() {
+  if (!graph_) return;
+  UpdateAudioLevelTimer_.Stop();
+  windowTimer_.Stop();
+  Fetch();
+  keeper_.End();
+  graph_ = nullptr;
+  if (Sound()) parts_.events.SoundCame(0, false);
+}
+
+void Monitoring::SayWaiting() {
+  parts_.events.MonitoringSays(std::string(Sound() ? kMonitoringSound : kMonitoringVideo));
+}
+
+void Monitoring::Poll() {
+  auto* trigger = graph_->GraphFilterByLabel<IAudioTriggerFilter>(kTrigger);
+  parts_.events.SoundCame(trigger ? trigger->Level() : 0, false);
+}
+
+/// The meter jumps to its end, and the window of the trigger runs out before anything else is told.
+void Monitoring::TriggerFired() {
+  ++pending_;
+  restartTimer_.Stop();
+  if (Sound()) {
+    parts_.events.SoundCame(1, true);
+    parts_.events.MonitoringSays(std::string(kReached));
+  }
+  windowTimer_ = HostTimer(parts_.host, static_cast<int>(std::lround(std::abs(Window().end) * 1000)), false, [this] {
+    if (pending_ > 0) parts_.events.MonitoringSays(std::string(kProcessing));
+  });
+}
+
+void Monitoring::BlockWritten() { Fetch(); }
+
+void Monitoring::Fetch() {
+  for (int camera = 0; camera < cameras_; ++camera)
+    if (IBlockRecordingFilter* block = Block(camera)) keeper_.Take(camera, block->TakeWritten());
+}
+
+bool Monitoring::Fire() {
+  auto* button = graph_ && armed_ ? graph_->GraphFilterByLabel<ISwitchFilter>("MV Switch") : nullptr;
+  return button && button->Fire(0);
+}
+
+void Monitoring::TakeLevels() {
+  auto* trigger = graph_ ? graph_->GraphFilterByLabel<IAudioTriggerFilter>(kTrigger) : nullptr;
+  if (!trigger) return;
+  trigger->SetThreshold(ThresholdOf(parts_.settings));
+  trigger->SetGain(GainOf(parts_.settings));
+}
+
+void Monitoring::SetThreshold(int percent) {
+  parts_.settings.Set(parts_.settings.TriggerLevel, std::to_string(percent));
+  TakeLevels();
+}
+
+void Monitoring::SetInputLevel(int percent) {
+  parts_.settings.Set(parts_.settings.SoundLevel, std::to_string(percent));
+  TakeLevels();
+}
+
+MemoryTally Monitoring::Memory() const {
+  MemoryTally memory;
+  memory.wanted = -Window().start;
+  memory.seconds = memory.wanted;
+  for (int camera = 0; camera < cameras_; ++camera) {
+    const IBlockRecordingFilter* block = Block(camera);
+    if (!block) continue;
+    const RingTally ring = block->Ring();
+    memory.seconds = std::min(memory.seconds, ring.seconds);
+    memory.bytes += ring.bytes;
+    memory.bound += ring.bound;
+  }
+  return memory;
+}
+
+void Monitoring::BlockKept(const SavedRecording& saved, int videos) {
+  pending_ = std::max(0, pending_ - 1);
+  CapturedCount_ += videos;
+  parts_.events.MonitoringKept(saved.videos[0]);
+  // Who has triggered again hears of that.
+  if (!saved.note.empty()) return parts_.events.MonitoringSays(saved.note);
+  if (pending_ > 0) return;
+  parts_.events.MonitoringSays(std::string(kSaved));
+  if (!graph_) return;
+  restartTimer_ = HostTimer(parts_.host, kRestartMs, false, [this] {
+    if (armed_ && pending_ == 0) SayWaiting();
+  });
+}
+
+void Monitoring::BlockLost(const std::string& why) {
+  pending_ = std::max(0, pending_ - 1);
+  parts_.host.Note(MessageKind::Warning, "A triggered video was not kept.");
+  if (!keeper_.Busy()) parts_.files.ParkBlocks();
+  parts_.events.MonitoringSays("Last Video WAS NOT SAVED: " + why);
+}
+
+}  // namespace kinalyx

@@ -1,0 +1,343 @@
+#include "capture/forms/HandsFree.h"
+
+#include <QBoxLayout>
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QShortcut>
+#include <QSignalBlocker>
+#include <QSlider>
+#include <QStackedWidget>
+
+#include "capture/RemoteKeys.h"
+#include "capture/forms/CountPanel.h"
+#include "capture/forms/SoundMeter.h"
+#include "core/Settings.h"
+#include "platform/files/Folders.h"
+#include "platform/widgets/Buttons.h"
+#include "platform/widgets/Panel.h"
+#include "platform/widgets/Scale.h"
+#include "platform/widgets/Text.h"
+#include "platform/widgets/Theme.h"
+
+namespace kinalyx {
+
+namespace {
+
+constexpr int kPanelWidth = 216;  // as designed
+constexpr const char* kMethods[] = {"Start-Stop", "One Click", "Beep", "Sound"};
+constexpr const char* kRemoteCaptions[] = {"Page Down", "B", "F5", "Period"};
+constexpr Qt::Key kRemoteKeys[] = {Qt::Key_PageDown, Qt::Key_B, Qt::Key_F5, Qt::Key_Period};
+enum PanelPage { kSoundPage, kClickPage, kBeepPage };
+
+QVBoxLayout* Rows(QWidget* ground) {
+  auto* rows = new QVBoxLayout(ground);
+  rows->setContentsMargins(kGap, 8, kGap, 10);
+  rows->setSpacing(8);
+  return rows;
+}
+
+QLabel* Wrapped(const QString& name, const char* look) {
+  QLabel* label = MakeLabel(name, {}, look);
+  label->setWordWrap(true);
+  return label;
+}
+
+QString MemoryText(const MemoryTally& memory) {
+  constexpr double kMiB = 1 << 20;
+  return QString("Remembers %1 of %2 s, %3 of %4 MiB")
+      .arg(std::min(memory.seconds, memory.wanted), 0, 'f', 1)
+      .arg(memory.wanted, 0, 'g', 3)
+      .arg(static_cast<double>(memory.bytes) / kMiB, 0, 'f', 0)
+      .arg(static_cast<double>(memory.bound) / kMiB, 0, 'f', 0);
+}
+
+}  // namespace
+
+HandsFree::HandsFree(Parts parts, QWidget* page, QWidget* stage)
+    : QObject(page),
+      parts_(parts),
+      beep_({.host = parts.host,
+             .settings = parts.settings,
+             .naming = parts.naming,
+             .cameras = parts.session,
+             .sounds = parts.sounds,
+             .events = *this,
+             .soundFolder = JoinPath(parts.settings.AppPath, "pictures")}),
+      meter_(parts.host, parts.meter, parts.makeGraph),
+      page_(page),
+      CountPnl_(new CountPanel(stage)) {
+  methods_ = new QWidget;
+  methods_->setToolTip("Capture Method");
+  auto* row = new QHBoxLayout(methods_);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(6);
+  CapOptionBtn_ = new QButtonGroup(this);
+  for (int method = 1; method <= 4; ++method) {
+    auto* button = new Button(QString("CapOptionBtn%1").arg(method), kMethods[method - 1], {}, Look::Quiet);
+    button->setCheckable(true);
+    CapOptionBtn_->addButton(button, method);
+    row->addWidget(button);
+  }
+  connect(CapOptionBtn_, &QButtonGroup::idClicked, this, &HandsFree::CapOptionBtn_Click);
+
+  panel_ = new Panel("CapMethodTitle", {});
+  FixWidth(panel_, kPanelWidth);
+  pages_ = new QStackedWidget;
+  panel_->Body()->addWidget(pages_);
+  MakeSound();
+  MakeClick();
+  MakeBeep();
+  MakeButtons();
+  FillTimes();
+}
+
+HandsFree::~HandsFree() { meter_.Stop(); }
+
+QWidget* HandsFree::SidePanel() { return panel_; }
+
+// ---------------------------------------------------------------- the parts
+
+void HandsFree::MakeSound() {
+  auto* ground = new QWidget;
+  QVBoxLayout* rows = Rows(ground);
+  BlockTimeList_[0] = MakeTimes(*rows, 0, "Before");
+  BlockTimeList_[1] = MakeTimes(*rows, 1, "After");
+  sound_ = new SoundMeter;
+  rows->addWidget(sound_);
+  connect(sound_, &SoundMeter::ThresholdChanged, this, [this](int percent) {
+    parts_.session.Triggers().SetThreshold(percent);
+    meter_.SetLevels(ThresholdOf(parts_.settings), GainOf(parts_.settings));
+  });
+  connect(sound_, &SoundMeter::InputLevelChanged, this, [this](int percent) {
+    parts_.session.Triggers().SetInputLevel(percent);
+    meter_.SetLevels(ThresholdOf(parts_.settings), GainOf(parts_.settings));
+  });
+  microphone_ = Wrapped("CapMicrophone", "muted");
+  rows->addWidget(microphone_);
+  rows->addStretch(1);
+  memory_[0] = Wrapped("SoundMemoryLbl", "muted");
+  rows->addWidget(memory_[0]);
+  AutoCountLbl_ = MakeLabel("AutoCountLbl", {}, "heading");
+  rows->addWidget(AutoCountLbl_);
+  pages_->addWidget(ground);
+}
+
+void HandsFree::MakeClick() {
+  auto* ground = new QWidget;
+  QVBoxLayout* rows = Rows(ground);
+  BlockTimeList_[2] = MakeTimes(*rows, 2, "Capture Time");
+  QLabel* how = Wrapped({}, "muted");
+  how->setText("Click the picture or the button at the end of the swing, or press the space bar. A remote control for "
+               "presentations can do it too:");
+  rows->addWidget(how);
+  auto* keys = new QGridLayout;
+  keys->setSpacing(6);
+  const std::vector<bool> on = RemoteKeysOf(parts_.settings.RemoteKeys);
+  for (std::size_t i = 0; i < RemoteKeyNames().size(); ++i) {
+    auto* key = new Button(QString("RemoteKey%1").arg(i), kRemoteCaptions[i], {}, Look::Quiet);
+    key->setCheckable(true);
+    key->setChecked(on[i]);
+    key->setToolTip("This key of a remote control captures, too");
+    connect(key, &QPushButton::clicked, this, [this] {
+      std::vector<bool> chosen;
+      for (const Button* button : remote_) chosen.push_back(button->isChecked());
+      parts_.settings.Set(parts_.settings.RemoteKeys, RemoteKeysText(chosen));
+    });
+    keys->addWidget(key, static_cast<int>(i) / 2, static_cast<int>(i) % 2);
+    remote_.push_back(key);
+  }
+  rows->addLayout(keys);
+  rows->addStretch(1);
+  memory_[1] = Wrapped("ClickMemoryLbl", "muted");
+  rows->addWidget(memory_[1]);
+  OneClickCountLbl_ = MakeLabel("OneClickCountLbl", {}, "heading");
+  rows->addWidget(OneClickCountLbl_);
+  pages_->addWidget(ground);
+}
+
+void HandsFree::MakeBeep() {
+  constexpr int kMostSeconds = 60;
+  constexpr int kMostCycles = 50;
+  auto* ground = new QWidget;
+  QVBoxLayout* rows = Rows(ground);
+  BeepArray_[0] = MakeBeepSlider(*rows, 0, "Seconds to wait", kMostSeconds);
+  BeepArray_[1] = MakeBeepSlider(*rows, 1, "Seconds to capture", kMostSeconds);
+  BeepArray_[2] = MakeBeepSlider(*rows, 2, "Captures in cycle", kMostCycles);
+  rows->addStretch(1);
+  pages_->addWidget(ground);
+}
+
+/// One of `BlockTimeList`, with a unit behind it.
+QComboBox* HandsFree::MakeTimes(QLayout& rows, int index, const QString& caption) {
+  auto* ground = new QWidget;
+  auto* row = new QHBoxLayout(ground);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->addWidget(MakeLabel({}, caption), 1);
+  auto* list = new QComboBox;
+  list->setObjectName(QString("BlockTimeList%1").arg(index));
+  list->setAccessibleName(caption);
+  for (const std::string_view entry : TriggerSeconds())
+    list->addItem(Q(entry) + (entry == "1" ? " second" : " seconds"), Q(entry));
+  row->addWidget(list);
+  rows.addWidget(ground);
+  connect(list, &QComboBox::activated, this, [this, list, index](int at) {
+    Settings& settings = parts_.settings;
+    std::string& key = index == 2 ? settings.OneClickTime : settings.TriggerTime[static_cast<std::size_t>(index)];
+    settings.Set(key, Std(list->itemData(at).toString()));
+  });
+  return list;
+}
+
+/// A time that somebody has written into the file by hand stands in its list.
+void HandsFree::FillTimes() {
+  const double seconds[] = {-SoundWindow(parts_.settings).start, SoundWindow(parts_.settings).end,
+                            -OneClickWindow(parts_.settings).start};
+  for (std::size_t i = 0; i < BlockTimeList_.size(); ++i) {
+    QComboBox* list = BlockTimeList_[i];
+    const QString entry = QString::number(seconds[i]);
+    int at = list->findData(entry);
+    if (at < 0) {
+      list->insertItem(0, entry + " seconds", entry);
+      at = 0;
+    }
+    list->setCurrentIndex(at);
+  }
+  sound_->SetThreshold(PercentOf(parts_.settings.TriggerLevel));
+  sound_->SetInputLevel(PercentOf(parts_.settings.SoundLevel));
+}
+
+std::int32_t& HandsFree::BeepSetting(int index) {
+  Settings& settings = parts_.settings;
+  return index == 0 ? settings.BeepPausetime : index == 1 ? settings.BeepCapTime : settings.BeepCycles;
+}
+
+QSlider* HandsFree::MakeBeepSlider(QLayout& rows, int index, const QString& caption, int most) {
+  QLabel* words = MakeLabel({}, {});
+  auto* slider = new QSlider(Qt::Horizontal);
+  slider->setObjectName(QString("BeepArray%1").arg(index));
+  slider->setAccessibleName(caption);
+  slider->setRange(1, most);
+  const auto show = [words, caption](int value) { words->setText(QString("%1: %2").arg(caption).arg(value)); };
+  slider->setValue(BeepSetting(index));
+  show(slider->value());
+  connect(slider, &QSlider::valueChanged, this, [this, index, show](int value) {
+    parts_.settings.Set(BeepSetting(index), value);
+    show(value);
+  });
+  rows.addWidget(words);
+  rows.addWidget(slider);
+  return slider;
+}
+
+void HandsFree::MakeButtons() {
+  buttons_ = new QWidget;
+  auto* row = new QHBoxLayout(buttons_);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(8);
+  AutoCapturebtn_ = new Button("AutoCapturebtn", {}, "record");
+  OneClickbtn_ = {new Button("OneClickbtn0", {}, "record"), new Button("OneClickbtn1", "Capture the Swing", "check")};
+  BeepCaptureStart_ = new Button("BeepCaptureStart", {}, "record");
+  for (Button* button : {OneClickbtn_[1], AutoCapturebtn_, OneClickbtn_[0], BeepCaptureStart_}) {
+    LeastWidth(button, 190);
+    row->addWidget(button);
+  }
+  connect(AutoCapturebtn_, &QPushButton::clicked, this, &HandsFree::AutoCapturebtn_Click);
+  connect(OneClickbtn_[0], &QPushButton::clicked, this, [this] { OneClickbtn_Click(0); });
+  // Pressed, not clicked: the moment counts.
+  connect(OneClickbtn_[1], &QPushButton::pressed, this, [this] { OneClickbtn_Click(1); });
+  connect(BeepCaptureStart_, &QPushButton::clicked, this, &HandsFree::BeepCaptureStart_Click);
+
+  const auto add = [this](const QKeySequence& keys) {
+    auto* shortcut = new QShortcut(keys, page_, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
+    shortcut->setAutoRepeat(false);
+    shortcut->setEnabled(false);
+    connect(shortcut, &QShortcut::activated, this, [this] { OneClickbtn_Click(1); });
+    keys_.push_back(shortcut);
+  };
+  add(Qt::Key_Space);
+  for (const Qt::Key key : kRemoteKeys) add(key);
+}
+
+// ---------------------------------------------------------------- handlers
+
+void HandsFree::CapOptionBtn_Click(int method) {
+  parts_.setup.ChooseMethod(static_cast<CaptureMethod>(method));
+  emit MethodChosen();
+}
+
+void HandsFree::AutoCapturebtn_Click() {
+  meter_.Stop();
+  parts_.session.PressMonitor();
+}
+
+void HandsFree::OneClickbtn_Click(int index) {
+  if (index == 0) return parts_.session.PressMonitor();
+  parts_.session.Triggers().Fire();
+}
+
+void HandsFree::BeepCaptureStart_Click() { beep_.Press(); }
+
+void HandsFree::StopAnyCapture() {
+  beep_.Stop();
+  meter_.Stop();
+  for (QShortcut* key : keys_) key->setEnabled(false);
+}
+
+// ---------------------------------------------------------------- what is shown
+
+void HandsFree::SetupCapMode(bool shown) {
+  shown_ = shown;
+  const CaptureMethod method = parts_.setup.Method();
+  const bool armed = parts_.session.Triggers().Armed();
+  const bool sound = method == CaptureMethod::Sound, click = method == CaptureMethod::OneClick;
+  CapOptionBtn_->button(static_cast<int>(method))->setChecked(true);
+  for (QAbstractButton* button : CapOptionBtn_->buttons()) button->setEnabled(!Running());
+  methods_->setVisible(shown);
+  panel_->setVisible(shown && method != CaptureMethod::StartStop);
+  panel_->SetTitle(kMethods[static_cast<int>(method) - 1]);
+  pages_->setCurrentIndex(sound ? kSoundPage : click ? kClickPage : kBeepPage);
+  buttons_->setVisible(shown && method != CaptureMethod::StartStop);
+  AutoCapturebtn_->setVisible(sound);
+  AutoCapturebtn_->setText(armed ? "Stop Sound Capture" : "Start Sound Capture");
+  OneClickbtn_[0]->setVisible(click);
+  OneClickbtn_[0]->setText(armed ? "Stop Monitoring" : "Start to Monitor");
+  OneClickbtn_[1]->setVisible(click && armed);
+  for (Button* button : {AutoCapturebtn_, OneClickbtn_[0]}) button->SetIcon(armed ? "stop" : "record");
+  BeepCaptureStart_->setVisible(method == CaptureMethod::Beep);
+  BeepCaptureStart_->setText(Q(beep_.Caption()));
+  BeepCaptureStart_->SetIcon(beep_.Running() ? "stop" : "record");
+  for (QComboBox* list : BlockTimeList_) list->setEnabled(!armed);
+  for (QSlider* slider : BeepArray_) slider->setEnabled(!beep_.Running());
+  for (Button* key : remote_) key->setEnabled(!armed);
+  const std::vector<bool> remote = RemoteKeysOf(parts_.settings.RemoteKeys);
+  for (std::size_t i = 0; i < keys_.size(); ++i) keys_[i]->setEnabled(click && armed && (i == 0 || remote[i - 1]));
+  const std::string microphone = parts_.setup.Microphone();
+  microphone_->setText(microphone.empty() ? "No microphone is connected." : Q(microphone));
+  if (shown && sound && !armed) meter_.Start(microphone, ThresholdOf(parts_.settings), GainOf(parts_.settings));
+  else meter_.Stop();
+  ShowCounts();
+}
+
+void HandsFree::ShowCounts() {
+  const Monitoring& triggers = parts_.session.Triggers();
+  const QString count = QString("%1 Videos Captured").arg(triggers.CapturedCount());
+  for (QLabel* label : {AutoCountLbl_, OneClickCountLbl_}) label->setText(count);
+  const QString memory = triggers.Armed() ? MemoryText(triggers.Memory()) : QString();
+  for (QLabel* label : memory_)
+    if (label->text() != memory) label->setText(memory);
+}
+
+void HandsFree::SoundCame(double level, bool fired) {
+  sound_->SetLevel(level);
+  if (fired) sound_->Flash();
+  ShowCounts();
+}
+
+void HandsFree::BeepChanged() {
+  CountPnl_->Show(Q(beep_.Count()));
+  SetupCapMode(shown_);
+}
+
+}  // namespace kinalyx
