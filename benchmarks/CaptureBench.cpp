@@ -1,162 +1,22 @@
 #include <fmt/format.h>
-#include <gst/app/gstappsrc.h>
 #include <sys/resource.h>
 
-#include <QEventLoop>
-#include <QImage>
-#include <QPainter>
-#include <QTimer>
-#include <atomic>
 #include <chrono>
 #include <cmath>
 #include <cstdint>
 #include <filesystem>
 #include <memory>
-#include <mutex>
 #include <stdexcept>
 #include <string>
 #include <thread>
 #include <vector>
 
 #include "Bench.h"
+#include "ReelCameras.h"
 #include "capture/templates/CaptureTemplates.h"
-#include "platform/graph/DeviceSources.h"
-#include "platform/graph/LiveGraph.h"
 
 namespace kinalyx::bench {
 namespace {
-
-using namespace std::chrono_literals;
-using Clock = std::chrono::steady_clock;
-
-constexpr int kRate = 60;
-constexpr int kPictures = 30;  // that are shown over and over
-
-/// The pictures of a camera that compresses, made once.
-struct Reel {
-  int width = 0;
-  int height = 0;
-  std::vector<GstBuffer*> pictures;  ///< for the whole run of the program
-
-  std::string Caps() const { return fmt::format("image/jpeg,width={},height={},framerate={}/1", width, height, kRate); }
-};
-
-const Reel& ReelOf(int width, int height) {
-  static std::vector<std::unique_ptr<Reel>> reels;
-  for (const auto& reel : reels)
-    if (reel->width == width && reel->height == height) return *reel;
-  if (!GstBegun()) throw std::runtime_error("no library for graphs");
-  auto reel = std::make_unique<Reel>();
-  reel->width = width;
-  reel->height = height;
-  // About as much in a picture as a lawn gives.
-  const std::string description = fmt::format(
-      "videotestsrc num-buffers={} pattern=zone-plate kx2=12 ky2=8 kt=1 ! video/x-raw,format=I420,width={},height={} ! "
-      "jpegenc quality=85 ! appsink name=end sync=false",
-      kPictures, width, height);
-  const GstRef<GstElement> pipeline(GST_ELEMENT(gst_object_ref_sink(gst_parse_launch(description.c_str(), nullptr))));
-  const GstRef<GstElement> end(gst_bin_get_by_name(GST_BIN(pipeline.get()), "end"));
-  gst_element_set_state(pipeline.get(), GST_STATE_PLAYING);
-  GstSample* sample = nullptr;
-  for (g_signal_emit_by_name(end.get(), "pull-sample", &sample); sample;
-       g_signal_emit_by_name(end.get(), "pull-sample", &sample)) {
-    reel->pictures.push_back(gst_buffer_copy_deep(gst_sample_get_buffer(sample)));
-    gst_sample_unref(sample);
-  }
-  gst_element_set_state(pipeline.get(), GST_STATE_NULL);
-  if (reel->pictures.empty()) throw std::runtime_error("no pictures could be made");
-  return *reels.emplace_back(std::move(reel));
-}
-
-/// Gives a source the pictures of a reel, punctually, until it goes.
-class Feeder {
- public:
-  Feeder(GstElement* source, const Reel& reel)
-      : source_(GST_ELEMENT(gst_object_ref(source))), reel_(reel), thread_([this] { Feed(); }) {}
-  ~Feeder() {
-    done_ = true;
-    thread_.join();
-  }
-
- private:
-  void Feed() {
-    auto next = Clock::now();
-    for (std::size_t n = 0; !done_; ++n) {
-      // The bytes are shared; only what says when is new.
-      GstBuffer* picture = gst_buffer_copy(reel_.pictures[n % reel_.pictures.size()]);
-      GST_BUFFER_PTS(picture) = GST_BUFFER_DTS(picture) = GST_CLOCK_TIME_NONE;
-      gst_app_src_push_buffer(GST_APP_SRC(source_.get()), picture);
-      std::this_thread::sleep_until(next += std::chrono::nanoseconds(1'000'000'000 / kRate));
-    }
-  }
-
-  GstRef<GstElement> source_;
-  const Reel& reel_;
-  std::atomic<bool> done_ = false;
-  std::thread thread_;
-};
-
-constexpr const char* kSource = "appsrc is-live=true format=time do-timestamp=true max-buffers=4 leaky-type=upstream";
-
-/// Cameras "1920x1080" and the like.
-class Cameras final : public DeviceSources {
- public:
-  GstElement* MakeCameraSource(const std::string& name, const PictureMode*) const override {
-    const Reel& reel = name.starts_with("1920") ? ReelOf(1920, 1080) : ReelOf(1280, 720);
-    GstElement* source = gst_parse_launch(fmt::format("{} caps={}", kSource, reel.Caps()).c_str(), nullptr);
-    const std::lock_guard lock(mutex_);
-    feeders_.push_back(std::make_unique<Feeder>(source, reel));
-    return source;
-  }
-
- private:
-  mutable std::mutex mutex_;
-  mutable std::vector<std::unique_ptr<Feeder>> feeders_;
-};
-
-/// A window that shows what comes.
-class Window final : public IGraphEvents {
- public:
-  explicit Window(std::string_view text) {
-    if (const Outcome loaded = graph_.GraphXmlLoad(text); !loaded) throw std::runtime_error(loaded.Why());
-  }
-
-  void PictureCame(const std::string& label) override {
-    const LivePicture picture = graph_.GraphFilterByLabel<IRendererFilter>(label)->Latest();
-    const QImage image(picture.pixels.get(), picture.width, picture.height, picture.stride, QImage::Format_RGB32);
-    QPainter(&shown_).drawImage(0, 0, image);
-    const auto now = Clock::now().time_since_epoch() / 1ns;
-    delays_.push_back(static_cast<double>(now - picture.takenAt) / 1e6);
-  }
-  void SourceFailed(const std::string&, const std::string& why) override { fault_ = why; }
-  void SinkFailed(const std::string&, const std::string& why) override { fault_ = why; }
-  void EndOfStream() override {}
-
-  void Open(std::string_view source, std::string_view camera, std::string_view renderer) {
-    (void)graph_.GraphSetDevice(source, camera);
-    graph_.GraphFilterByLabel<IRendererFilter>(renderer)->WantSize(shown_.width(), shown_.height());
-  }
-  void Show(Clock::duration time) {
-    QEventLoop loop;
-    QTimer::singleShot(std::chrono::duration_cast<std::chrono::milliseconds>(time), &loop, &QEventLoop::quit);
-    loop.exec();
-    if (!fault_.empty()) throw std::runtime_error(fault_);
-  }
-  /// Shows until something has been seen.
-  void Await() {
-    while (delays_.empty()) Show(10ms);
-    Show(500ms);
-    delays_.clear();
-  }
-  IGraph& Graph() { return graph_; }
-  const std::vector<double>& Delays() const { return delays_; }
-
- private:
-  std::string fault_;
-  std::vector<double> delays_;
-  QImage shown_{940, 530, QImage::Format_RGB32};
-  LiveGraph graph_{*this, std::make_shared<Cameras>(), MakeQtPost()};
-};
 
 double ProcessorSeconds() {
   rusage used{};
@@ -179,7 +39,7 @@ Recorded RecordTwo(Clock::duration time) {
   const char* const kGates[] = {"MV Trigger Source", "MV Trigger Source 2"};
   const char* const kWriters[] = {"FileWriter", "FileWriter 2"};
   (void)ReelOf(1920, 1080);
-  Window window(MVTwoCamSS);
+  CameraWindow window(MVTwoCamSS);
   std::vector<std::string> files;
   for (int i = 0; i < 2; ++i) {
     window.Open(kSources[i], fmt::format("1920x1080 {}", i), kRenderers[i]);
@@ -198,9 +58,9 @@ Recorded RecordTwo(Clock::duration time) {
   for (const char* writer : kWriters) {
     const RecordingTally tally = window.Graph().GraphFilterByLabel<IWriterFilter>(writer)->Tally();
     pictures += static_cast<double>(tally.pictures);
-    given += std::round(static_cast<double>(tally.lastNs - tally.firstNs) * kRate / 1e9) + 1;
+    given += std::round(static_cast<double>(tally.lastNs - tally.firstNs) * kReelRate / 1e9) + 1;
   }
-  if (given < kRate) throw std::runtime_error("nothing was written");
+  if (given < kReelRate) throw std::runtime_error("nothing was written");
   recorded.share = pictures / given;
   for (const std::string& file : files) std::filesystem::remove(file);
   return recorded;
@@ -216,7 +76,7 @@ double RecordTwoBare(Clock::duration time) {
         "location={3}/bare{1}.avi "
         "t{1}. ! queue leaky=downstream max-size-buffers=1 ! jpegdec ! videoscale ! videoconvert ! "
         "video/x-raw,format=BGRx,width=940,height=530 ! fakesink async=false sync=false ",
-        kSource, i, reel.Caps(), ScratchFolder());
+        kReelSource, i, reel.Caps(), ScratchFolder());
   }
   GError* error = nullptr;
   const GstRef<GstElement> pipeline(GST_ELEMENT(gst_object_ref_sink(gst_parse_launch(line.c_str(), &error))));
@@ -248,7 +108,7 @@ const Register kProcessor({"capture_cpu", {Target::Of::Ratio, 1.3, 1.0}, [] {
                            }});
 
 const Register kLatency({"preview_latency", {Target::Of::AtMost, 60, 30}, [] {
-                           Window window(MVOneCamSSAN);
+                           CameraWindow window(MVOneCamSSAN);
                            window.Open("VideoSource", "1280x720", "Video Renderer");
                            (void)window.Graph().GraphRun();
                            window.Await();
@@ -257,7 +117,7 @@ const Register kLatency({"preview_latency", {Target::Of::AtMost, 60, 30}, [] {
                          }});
 
 const Register kStart({"start_capture", {Target::Of::AtMost, 150, 40}, [] {
-                         Window window(MVOneCamSSAN);
+                         CameraWindow window(MVOneCamSSAN);
                          window.Open("VideoSource", "1280x720", "Video Renderer");
                          (void)window.Graph().GraphRun();
                          window.Await();

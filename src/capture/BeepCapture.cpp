@@ -56,7 +56,7 @@ void BeepCapture::CountDown() {
   Play("typing1.wav");
   if (BeepCountdown_ <= kLastSeconds && BeepCountdown_ > 1) Play("countdown.wav");
   parts_.cameras.Say(fmt::format("Getting Ready to Capture Video #{} of {} in {} seconds", BeepCycleNumber_,
-                                     std::max(1, parts_.settings.BeepCycles), BeepCountdown_));
+                                 std::max(1, parts_.settings.BeepCycles), BeepCountdown_));
   Show(std::to_string(BeepCountdown_));
   if (--BeepCountdown_ == 0) BeepState_ = State::Starting;
   Wait(kSecondMs);
@@ -98,8 +98,8 @@ void BeepCapture::Finish() {
   Show({});
   // The misspelling is what users have always read here.
   parts_.cameras.Say(stopped_ ? "Beep Capture Stopped. Ready to Record."
-                                  : fmt::format("Beep Capture Complete. {} {} succesfully created.", kept_,
-                                                kept_ == 1 ? "video" : "videos"));
+                              : fmt::format("Beep Capture Complete. {} {} succesfully created.", kept_,
+                                            kept_ == 1 ? "video" : "videos"));
 }
 
 void BeepCapture::Stop() {

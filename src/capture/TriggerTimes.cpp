@@ -13,8 +13,8 @@ namespace {
 
 using std::string_view_literals::operator""sv;
 
-constexpr std::array kEntries{"0.5"sv, "1"sv, "1.5"sv, "2"sv,  "3"sv,  "4"sv,  "5"sv,  "6"sv,
-                              "8"sv,   "10"sv, "12"sv, "15"sv, "20"sv, "25"sv, "30"sv, "45"sv, "60"sv};
+constexpr std::array kEntries{"0.5"sv, "1"sv,  "1.5"sv, "2"sv,  "3"sv,  "4"sv,  "5"sv,  "6"sv, "8"sv,
+                              "10"sv,  "12"sv, "15"sv,  "20"sv, "25"sv, "30"sv, "45"sv, "60"sv};
 constexpr double kMostSeconds = 60;
 // What a first run writes.
 constexpr double kBefore = 15;

@@ -330,8 +330,16 @@ TEST(TriggerTimes, ReadWhatIsWrittenAndFallBackOnTheFirstRun) {
     const char* text;
     double seconds;
   };
-  for (const Case& one : {Case{"1.5", 1.5}, {"15", 15}, {"0", 0}, {"600", 60}, {"-3", 7}, {"", 7}, {"1,5", 7},
-                          {"/home/config.ini", 7}, {"nan", 7}, {"inf", 7}})
+  for (const Case& one : {Case{"1.5", 1.5},
+                          {"15", 15},
+                          {"0", 0},
+                          {"600", 60},
+                          {"-3", 7},
+                          {"", 7},
+                          {"1,5", 7},
+                          {"/home/config.ini", 7},
+                          {"nan", 7},
+                          {"inf", 7}})
     EXPECT_DOUBLE_EQ(SecondsOf(one.text, 7), one.seconds) << one.text;
   EXPECT_EQ(PercentOf("130"), 100);
   EXPECT_EQ(PercentOf("loud"), 50);

@@ -29,7 +29,11 @@ struct FakePlayer final : IReviewPlayer {
   RecordingFacts Facts() override { return {.wide = true}; }
 };
 
-class SessionTest : public testing::Test, public ICapturePage, public IMeterEvents, public ICaptureWays, public INamingEvents {
+class SessionTest : public testing::Test,
+                    public ICapturePage,
+                    public IMeterEvents,
+                    public ICaptureWays,
+                    public INamingEvents {
  protected:
   SessionTest() {
     settings.LoadCaptureSettings();

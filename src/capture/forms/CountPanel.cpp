@@ -8,8 +8,8 @@ namespace kinalyx {
 
 namespace {
 
-constexpr double kHeight = 0.6;   // of the stage, that a digit takes
-constexpr double kWidth = 0.8;    // at most, of all digits
+constexpr double kHeight = 0.6;    // of the stage, that a digit takes
+constexpr double kWidth = 0.8;     // at most, of all digits
 constexpr double kOutline = 0.03;  // of a digit
 
 }  // namespace
@@ -50,8 +50,8 @@ void CountPanel::paintEvent(QPaintEvent*) {
   painter.scale(scale, scale);
   painter.translate(-drawn.center());
   // White on a black outline is seen on any picture.
-  painter.strokePath(path, QPen(QColor(0, 0, 0, 200), drawn.height() * kOutline * 2, Qt::SolidLine, Qt::RoundCap,
-                                Qt::RoundJoin));
+  painter.strokePath(
+      path, QPen(QColor(0, 0, 0, 200), drawn.height() * kOutline * 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   painter.fillPath(path, Qt::white);
 }
 

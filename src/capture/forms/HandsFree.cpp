@@ -129,8 +129,9 @@ void HandsFree::MakeClick() {
   QVBoxLayout* rows = Rows(ground);
   BlockTimeList_[2] = MakeTimes(*rows, 2, "Capture Time");
   QLabel* how = Wrapped({}, "muted");
-  how->setText("Click the picture or the button at the end of the swing, or press the space bar. A remote control for "
-               "presentations can do it too:");
+  how->setText(
+      "Click the picture or the button at the end of the swing, or press the space bar. A remote control for "
+      "presentations can do it too:");
   rows->addWidget(how);
   auto* keys = new QGridLayout;
   keys->setSpacing(6);

@@ -12,4 +12,4 @@ class SoundMeter : public QWidget {
   void ThresholdChanged(int percent);
   void InputLevelChanged(int percent);
 };
-}
+}  // namespace kinalyx

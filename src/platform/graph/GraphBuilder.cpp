@@ -55,7 +55,7 @@ class Builder {
         if (const Outcome made = AppendDevice(bin, index); !made) return made;
         // The trigger's microphone is heard by nobody but the meter.
         if (filter.row->role == FilterRole::AudioTrigger)
-          bin.AppendDescribed("audioconvert ! level interval=50000000 ! fakesink sync=false async=false");
+          AppendHearing(bin, order_.faces.triggers[index], order_.beginNs);
         break;
       case FilterRole::FileSource:
         if (GstElement* source = bin.Append("filesrc"))

@@ -97,6 +97,27 @@ class LessonPictures final : public PictureTaker {
   ScreenPainter painter_;
 };
 
+class Hearer final : public PictureTaker {
+ public:
+  explicit Hearer(std::shared_ptr<AudioTriggerFace> face) : face_(std::move(face)) {}
+
+  void Take(GstSample* sample, std::int64_t ns) override {
+    int rate = 0;
+    gst_structure_get_int(gst_caps_get_structure(gst_sample_get_caps(sample), 0), "rate", &rate);
+    GstMapInfo map;
+    GstBuffer* buffer = gst_sample_get_buffer(sample);
+    if (!gst_buffer_map(buffer, &map, GST_MAP_READ)) return;
+    samples_.resize(map.size / sizeof(float));
+    std::memcpy(samples_.data(), map.data, samples_.size() * sizeof(float));
+    gst_buffer_unmap(buffer, &map);
+    face_->Hear(samples_, rate, ns);
+  }
+
+ private:
+  std::shared_ptr<AudioTriggerFace> face_;
+  std::vector<float> samples_;
+};
+
 class LessonVoice final : public PictureTaker {
  public:
   explicit LessonVoice(std::shared_ptr<LessonLane> lane) : lane_(std::move(lane)) {}
@@ -150,6 +171,11 @@ void AppendPreview(FilterBin& bin, std::shared_ptr<RendererFace> face, const Gra
 void AppendFile(FilterBin& bin, std::shared_ptr<IPictureLane> lane, std::int64_t beginNs) {
   AppendQueue(bin, 0, 2 * GST_SECOND, Leaves::Newest);
   bin.AppendPlugged(MakeEnd(std::make_unique<Filer>(std::move(lane)), beginNs), ChooseForFile());
+}
+
+void AppendHearing(FilterBin& bin, std::shared_ptr<AudioTriggerFace> face, std::int64_t beginNs) {
+  bin.AppendDescribed("audioconvert ! capsfilter caps=audio/x-raw,format=F32LE,channels=1,layout=interleaved");
+  bin.Append(MakeEnd(std::make_unique<Hearer>(std::move(face)), beginNs));
 }
 
 void AppendLesson(FilterBin& bin, std::shared_ptr<LessonLane> lane, std::int64_t beginNs) {

@@ -8,6 +8,7 @@
 #include "platform/graph/GraphFaces.h"
 #include "platform/graph/GraphNews.h"
 #include "platform/graph/LessonLane.h"
+#include "platform/graph/TriggerFaces.h"
 
 namespace kinalyx {
 
@@ -18,6 +19,9 @@ namespace kinalyx {
 void AppendPreview(FilterBin& bin, std::shared_ptr<RendererFace> face, const GraphNews& news, std::int64_t beginNs);
 /// Hands them to a file.
 void AppendFile(FilterBin& bin, std::shared_ptr<IPictureLane> lane, std::int64_t beginNs);
+
+/// Has a trigger hear samples.
+void AppendHearing(FilterBin& bin, std::shared_ptr<AudioTriggerFace> face, std::int64_t beginNs);
 
 /// Hands pictures of the screen to a lesson.
 void AppendLesson(FilterBin& bin, std::shared_ptr<LessonLane> lane, std::int64_t beginNs);

@@ -41,7 +41,6 @@ struct GraphRun::Part {
   bool Hear(GstMessage* message);
   bool HearEnd();
   bool HearError(GstMessage* message);
-  void HearLevel(GstMessage* message);
   void CloseFiles();
   bool WaitEnded(Clock::time_point until);
   void Stop();
@@ -160,7 +159,7 @@ void GraphRun::Part::Start(GstElement* pipeline) const {
 
 /// Until the part is stopped, fails or ends; then it is taken down.
 void GraphRun::Part::Watch() {
-  const int kinds = GST_MESSAGE_ERROR | GST_MESSAGE_EOS | GST_MESSAGE_ELEMENT | GST_MESSAGE_APPLICATION;
+  const int kinds = GST_MESSAGE_ERROR | GST_MESSAGE_EOS | GST_MESSAGE_APPLICATION;
   bool over = !AwaitStrand();
   while (!over) {
     const GstMessageRef message(gst_bus_timed_pop_filtered(bus.get(), kLook, static_cast<GstMessageType>(kinds)));
@@ -216,7 +215,6 @@ bool GraphRun::Part::Hear(GstMessage* message) {
   switch (GST_MESSAGE_TYPE(message)) {
     case GST_MESSAGE_ERROR: return HearError(message);
     case GST_MESSAGE_EOS: return Look(true) || HearEnd();
-    case GST_MESSAGE_ELEMENT: HearLevel(message); return false;
     default: return false;
   }
 }
@@ -251,13 +249,6 @@ bool GraphRun::Part::HearError(GstMessage* message) {
   news.SourceFailed(source ? label : order->plan.filters[filters.front()].label,
                     WordsForFailure(message, !sound, given));
   return true;
-}
-
-void GraphRun::Part::HearLevel(GstMessage* message) {
-  const GstStructure* level = gst_message_get_structure(message);
-  if (!gst_structure_has_name(level, "level")) return;
-  const auto found = order->plan.Find(LabelOf(message, order->plan));
-  if (found && order->faces.triggers[*found]) order->faces.triggers[*found]->Hear(LoudestOf(level));
 }
 
 /// What has come so far is all that the files of this part get.

@@ -33,13 +33,4 @@ std::string WordsForFailure(GstMessage* error, bool camera, bool given) {
   return words;
 }
 
-double LoudestOf(const GstStructure* level) {
-  double loudest = -200;
-  const GValue* peaks = gst_structure_get_value(level, "peak");
-  if (!peaks) return loudest;
-  const auto* channels = static_cast<const GValueArray*>(g_value_get_boxed(peaks));
-  for (guint i = 0; i < channels->n_values; ++i) loudest = std::max(loudest, g_value_get_double(&channels->values[i]));
-  return loudest;
-}
-
 }  // namespace kinalyx

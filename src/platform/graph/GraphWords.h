@@ -9,7 +9,5 @@ namespace kinalyx {
 /// Why a source has failed, in words for the user.
 /// @param given  it has given something before
 std::string WordsForFailure(GstMessage* error, bool camera, bool given);
-/// The loudest channel of a message of a level meter, in decibels.
-double LoudestOf(const GstStructure* level);
 
 }  // namespace kinalyx

@@ -121,12 +121,24 @@ bool SwitchFace::Fire(std::int64_t ns) {
 
 double AudioTriggerFace::Level() {
   const std::lock_guard lock(mutex_);
-  return level_;
+  return detector_.Level();
 }
 
-void AudioTriggerFace::Hear(double decibels) {
+void AudioTriggerFace::SetThreshold(double level) {
   const std::lock_guard lock(mutex_);
-  level_ = std::clamp(std::pow(10.0, decibels / 20), 0.0, 1.0);
+  detector_.SetThreshold(level);
+}
+
+void AudioTriggerFace::SetGain(double gain) {
+  const std::lock_guard lock(mutex_);
+  detector_.SetGain(gain);
+}
+
+void AudioTriggerFace::Hear(std::span<const float> samples, int rate, std::int64_t ns) {
+  std::unique_lock lock(mutex_);
+  const std::vector<std::int64_t> impacts = detector_.Hear(samples, rate, ns);
+  lock.unlock();
+  for (const std::int64_t impact : impacts) line_->Fire(impact);
 }
 
 }  // namespace kinalyx

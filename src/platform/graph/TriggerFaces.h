@@ -5,6 +5,7 @@
 #include <memory>
 #include <mutex>
 #include <optional>
+#include <span>
 #include <string>
 #include <utility>
 #include <vector>
@@ -12,6 +13,7 @@
 #include "platform/graph/BlockLane.h"
 #include "platform/graph/GraphNews.h"
 #include "platform/graph/IGraph.h"
+#include "platform/graph/ImpactDetector.h"
 #include "platform/graph/PictureRing.h"
 
 namespace kinalyx {
@@ -90,13 +92,17 @@ class AudioTriggerFace final : public IAudioTriggerFilter {
  public:
   explicit AudioTriggerFace(std::shared_ptr<TriggerLine> line) : line_(std::move(line)) {}
   double Level() override;
-  /// @param decibels  of the loudest sample, 0 at most
-  void Hear(double decibels);
+  void SetThreshold(double level) override;
+  void SetGain(double gain) override;
+
+  /// @param samples  of one channel
+  /// @param ns       when the first was taken, nanoseconds of CLOCK_MONOTONIC
+  void Hear(std::span<const float> samples, int rate, std::int64_t ns);
 
  private:
   std::shared_ptr<TriggerLine> line_;
   std::mutex mutex_;
-  double level_ = 0;
+  ImpactDetector detector_;
 };
 
 }  // namespace kinalyx

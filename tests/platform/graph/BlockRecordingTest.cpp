@@ -224,5 +224,26 @@ TEST_F(TriggeredGraphs, TwoCamerasAreCutByOneInstantAndWhatIsUnderWayIsKeptWhenT
   }
 }
 
+TEST_F(TriggeredGraphs, AnImpactThatTheMicrophoneHearsCountsFromWhenItSounded) {
+  cameras->microphone =
+      "audiotestsrc is-live=true wave=ticks freq=4000 sine-periods-per-tick=8 volume=0.9 tick-interval=800000000";
+  ASSERT_TRUE(graph.GraphXmlLoad(MVOneCamAuto));
+  ASSERT_TRUE(graph.GraphSetDevice("VideoSource", "Test Camera"));
+  ASSERT_TRUE(graph.GraphSetVideoFormat("VideoSource", 640, 480, "MJPG"));
+  ASSERT_TRUE(graph.GraphSetDevice("Audio Trigger", "microphone"));
+  ASSERT_TRUE(graph.GraphSetFileSink("FileWriter", folder.Path("temp1.avi")));
+  auto& block = Of<IBlockRecordingFilter>("MV Block Recording");
+  block.BlockRecordingSetStart(-0.2);
+  block.BlockRecordingSetEnd(0.2);
+  Of<IAudioTriggerFilter>("Audio Trigger").SetThreshold(1);
+  ASSERT_TRUE(graph.GraphRun());
+  ASSERT_TRUE(Comes([&] { return block.Ring().seconds > 1; }));
+  EXPECT_TRUE(told.fired.empty()) << "nothing is so loud";
+  Of<IAudioTriggerFilter>("Audio Trigger").SetThreshold(0.5);
+  ASSERT_TRUE(Comes([&] { return told.fired.size() >= 3; }));
+  EXPECT_NEAR(static_cast<double>(told.fired[3] - told.fired[2]) / 1e9, 0.8, 0.005);
+  EXPECT_EQ(Written("MV Block Recording", 2).at(1).tally.lost, 0);
+}
+
 }  // namespace
 }  // namespace kinalyx::test

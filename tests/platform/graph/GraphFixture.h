@@ -50,10 +50,11 @@ class PlayedCameras final : public DeviceSources {
   }
 
   GstElement* MakeMicrophoneSource(const std::string&) const override {
-    return gst_parse_bin_from_description("audiotestsrc is-live=true volume=0.5", true, nullptr);
+    return gst_parse_bin_from_description(microphone.c_str(), true, nullptr);
   }
 
   std::map<std::string, std::string> played;
+  std::string microphone = "audiotestsrc is-live=true volume=0.5";
   std::atomic<bool> freed = false;
   mutable std::atomic<int> hanging = 0;
 };
