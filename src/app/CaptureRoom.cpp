@@ -14,6 +14,7 @@ CaptureRoom::CaptureRoom(Parts parts)
       post_(MakeQtPost()),
       devices_(std::make_unique<DeviceList>(parts.services.host, post_)),
       setup_(parts.settings, *devices_),
+      sounds_(MakeShortSounds()),
       naming_(parts.settings, ChangeDateFormat) {}
 
 CaptureRoom::~CaptureRoom() = default;
@@ -26,6 +27,7 @@ CapturePage* CaptureRoom::MakePage() {
                           .setup = setup_,
                           .naming = naming_,
                           .ways = parts_.ways,
+                          .sounds = *sounds_,
                           .makeGraph = [this](IGraphEvents& events) { return MakeGraph(events); }});
 }
 

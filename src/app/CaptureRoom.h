@@ -33,6 +33,7 @@ class CaptureRoom {
   std::unique_ptr<IVoiceRecorder> MakeVoiceRecorder();
   /// A graph of these devices; its events outlive it.
   std::unique_ptr<IGraph> MakeGraph(IGraphEvents& events) const;
+  IShortSounds& Sounds() { return *sounds_; }
   CaptureSetup& Setup() { return setup_; }
   const std::shared_ptr<IPost>& Post() const { return post_; }
 
@@ -41,6 +42,7 @@ class CaptureRoom {
   std::shared_ptr<IPost> post_;
   std::unique_ptr<DeviceList> devices_;
   CaptureSetup setup_;
+  std::unique_ptr<IShortSounds> sounds_;
   VideoNaming naming_;
 };
 

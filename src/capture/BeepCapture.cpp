@@ -27,12 +27,12 @@ void BeepCapture::Press() {
   BeepCycleNumber_ = 1;
   kept_ = 0;
   stopped_ = false;
-  parts_.cameras.Say("Preparing to Capture");
   Begin();
 }
 
 void BeepCapture::Begin() {
   BeepState_ = State::Counting;
+  parts_.cameras.Say("Preparing to Capture");
   BeepCountdown_ = std::max(1, parts_.settings.BeepPausetime);
   Wait(kSecondMs);
   parts_.events.BeepChanged();

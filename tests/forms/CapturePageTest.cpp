@@ -43,9 +43,10 @@ class CapturePageTest : public ::testing::Test,
                                                             .setup = *setup,
                                                             .naming = naming,
                                                             .ways = *this,
+                                                            .sounds = sounds,
                                                             .makeGraph = [this](IGraphEvents&) {
                                                               auto made = std::make_unique<test::FakeGraph>();
-                                                              graph = made.get();
+                                                              if (!graph) graph = made.get();
                                                               return made;
                                                             }});
     page->resize(892, 700);
@@ -71,7 +72,10 @@ class CapturePageTest : public ::testing::Test,
   test::FakeDevices devices;
   std::unique_ptr<CaptureSetup> setup;
   VideoNaming naming{settings, [] { return std::string("11/25/2026"); }};
-  test::FakeGraph* graph = nullptr;
+  test::FakeGraph* graph = nullptr;  ///< of the cameras
+  struct Silence final : IShortSounds {
+    void Play(const std::string&) override {}
+  } sounds;
   std::vector<std::string> opened;
   std::unique_ptr<CapturePage> page;
 

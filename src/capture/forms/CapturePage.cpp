@@ -309,7 +309,7 @@ void CapturePage::ConnectParts() {
     VideoKept();
   });
   // Who has chosen somebody with the mouse records next.
-  connect(lists_->StudentList(), &QListWidget::clicked, this, [this] { Capturebtn_->setFocus(); });
+  connect(lists_->StudentList(), &QListWidget::clicked, this, [this] { FocusMainButton(); });
   back_ = new OfferBar("BringBackOffer", "Bring It Back", this);
   connect(back_, &OfferBar::Accepted, this, [this] {
     session_->BringBack();
@@ -379,7 +379,7 @@ void CapturePage::Open() {
   ShowPhase();
   unfinished_->LookForThem();
   AskForCamera();
-  Capturebtn_->setFocus();
+  FocusMainButton();
 }
 
 bool CapturePage::Leave() {
@@ -395,6 +395,11 @@ void CapturePage::SetupVocabulary() {
   studentsTitle_->setText(Q(vocabulary_.Nouns()));
 }
 
+void CapturePage::FocusMainButton() {
+  QWidget* button = hands_->MainButton();
+  (button ? button : Capturebtn_)->setFocus();
+}
+
 void CapturePage::FolderChosen() { parts_.naming.SetFolder(browser_.Folder()); }
 
 void CapturePage::GoTo(const SearchHit& hit) {
@@ -404,7 +409,7 @@ void CapturePage::GoTo(const SearchHit& hit) {
   lists_->ShowAll();
   FolderChosen();
   if (!there) status_->Say("It is not there any more.");
-  Capturebtn_->setFocus();
+  FocusMainButton();
 }
 
 /// Once for each opening of the page: a camera that the program was told to start with is not there.

@@ -89,6 +89,7 @@ class CapturePage : public PageWidget, private ICapturePage, private IMeterEvent
   QWidget* MakeActions();
   void ConnectParts();
   void FolderChosen();
+  void FocusMainButton();
   void GoTo(const SearchHit& hit);
   void FillCameras();
   void ShowKind();

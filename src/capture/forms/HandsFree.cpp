@@ -179,8 +179,7 @@ QComboBox* HandsFree::MakeTimes(QLayout& rows, int index, const QString& caption
   auto* list = new QComboBox;
   list->setObjectName(QString("BlockTimeList%1").arg(index));
   list->setAccessibleName(caption);
-  for (const std::string_view entry : TriggerSeconds())
-    list->addItem(Q(entry) + (entry == "1" ? " second" : " seconds"), Q(entry));
+  for (const std::string_view entry : TriggerSeconds()) list->addItem(Q(entry) + " s", Q(entry));
   row->addWidget(list);
   rows.addWidget(ground);
   connect(list, &QComboBox::activated, this, [this, list, index](int at) {
@@ -200,7 +199,7 @@ void HandsFree::FillTimes() {
     const QString entry = QString::number(seconds[i]);
     int at = list->findData(entry);
     if (at < 0) {
-      list->insertItem(0, entry + " seconds", entry);
+      list->insertItem(0, entry + " s", entry);
       at = 0;
     }
     list->setCurrentIndex(at);
@@ -237,9 +236,10 @@ void HandsFree::MakeButtons() {
   auto* row = new QHBoxLayout(buttons_);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(8);
-  AutoCapturebtn_ = new Button("AutoCapturebtn", {}, "record");
-  OneClickbtn_ = {new Button("OneClickbtn0", {}, "record"), new Button("OneClickbtn1", "Capture the Swing", "check")};
-  BeepCaptureStart_ = new Button("BeepCaptureStart", {}, "record");
+  AutoCapturebtn_ = new Button("AutoCapturebtn", "Start Sound Capture", "record");
+  OneClickbtn_ = {new Button("OneClickbtn0", "Start to Monitor", "record"),
+                  new Button("OneClickbtn1", "Capture the Swing", "check")};
+  BeepCaptureStart_ = new Button("BeepCaptureStart", "Start Beep Capture", "record");
   for (Button* button : {OneClickbtn_[1], AutoCapturebtn_, OneClickbtn_[0], BeepCaptureStart_}) {
     LeastWidth(button, 190);
     row->addWidget(button);
@@ -274,8 +274,9 @@ void HandsFree::AutoCapturebtn_Click() {
 }
 
 void HandsFree::OneClickbtn_Click(int index) {
-  if (index == 0) return parts_.session.PressMonitor();
-  parts_.session.Triggers().Fire();
+  if (index == 1) return static_cast<void>(parts_.session.Triggers().Fire());
+  parts_.session.PressMonitor();
+  MainButton()->setFocus();
 }
 
 void HandsFree::BeepCaptureStart_Click() { beep_.Press(); }
@@ -299,7 +300,6 @@ void HandsFree::SetupCapMode(bool shown) {
   panel_->setVisible(shown && method != CaptureMethod::StartStop);
   panel_->SetTitle(kMethods[static_cast<int>(method) - 1]);
   pages_->setCurrentIndex(sound ? kSoundPage : click ? kClickPage : kBeepPage);
-  buttons_->setVisible(shown && method != CaptureMethod::StartStop);
   AutoCapturebtn_->setVisible(sound);
   AutoCapturebtn_->setText(armed ? "Stop Sound Capture" : "Start Sound Capture");
   OneClickbtn_[0]->setVisible(click);
@@ -309,6 +309,7 @@ void HandsFree::SetupCapMode(bool shown) {
   BeepCaptureStart_->setVisible(method == CaptureMethod::Beep);
   BeepCaptureStart_->setText(Q(beep_.Caption()));
   BeepCaptureStart_->SetIcon(beep_.Running() ? "stop" : "record");
+  buttons_->setVisible(shown && method != CaptureMethod::StartStop);
   for (QComboBox* list : BlockTimeList_) list->setEnabled(!armed);
   for (QSlider* slider : BeepArray_) slider->setEnabled(!beep_.Running());
   for (Button* key : remote_) key->setEnabled(!armed);
@@ -328,6 +329,16 @@ void HandsFree::ShowCounts() {
   const QString memory = triggers.Armed() ? MemoryText(triggers.Memory()) : QString();
   for (QLabel* label : memory_)
     if (label->text() != memory) label->setText(memory);
+}
+
+QWidget* HandsFree::MainButton() const {
+  switch (parts_.setup.Method()) {
+    case CaptureMethod::OneClick: return OneClickbtn_[parts_.session.Triggers().Armed() ? 1 : 0];
+    case CaptureMethod::Beep: return BeepCaptureStart_;
+    case CaptureMethod::Sound: return AutoCapturebtn_;
+    case CaptureMethod::StartStop: break;
+  }
+  return nullptr;
 }
 
 void HandsFree::SoundCame(double level, bool fired) {

@@ -49,6 +49,8 @@ class HandsFree : public QObject, private IBeepEvents {
   QWidget* Methods() { return methods_; }
   QWidget* SidePanel();
   QWidget* Buttons() { return buttons_; }
+  /// What who has chosen a student presses next; null where videos are taken by hand.
+  QWidget* MainButton() const;
 
   /// Brings all up to date with the session.
   /// @param shown  live pictures are on the page

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 
 namespace kinalyx {
@@ -12,5 +13,7 @@ class IShortSounds {
   /// @param path  of a WAV file of a few seconds; a file that is missing or none is silence
   virtual void Play(const std::string& path) = 0;
 };
+
+std::unique_ptr<IShortSounds> MakeShortSounds();
 
 }  // namespace kinalyx

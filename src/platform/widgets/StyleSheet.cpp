@@ -32,6 +32,7 @@ QPushButton[look="quiet"]:focus { border: 2px solid @accent; min-height: @34-4; 
   padding: 0 @12-1; }
 QPushButton[look="quiet"]:checked:focus { border-color: @focus; }
 QPushButton[look="quiet"]:disabled { background: transparent; color: @faint; border-color: @line; }
+QPushButton[look="quiet"]:checked:disabled { background: @disabledFill; color: @faint; border-color: @faint; }
 QPushButton[look="quiet"][square="true"] { padding: 0; min-width: @34-2; max-width: @34-2; }
 QPushButton[look="quiet"][square="true"]:focus { padding: 0; min-width: @34-4; max-width: @34-4; }
 
