@@ -193,6 +193,62 @@ TEST_F(CapturePageTest, AMissingCameraIsToldWithItsTwoWays) {
   EXPECT_EQ(form.result(), QDialog::Rejected);
 }
 
+TEST_F(CapturePageTest, EachMethodShowsWhatBelongsToItAndNothingElseWhileItRuns) {
+  EXPECT_FALSE(Seen("CapMethodTitle"));
+  Press("CapOptionBtn2");
+  EXPECT_EQ(settings.CapMode, 2);
+  EXPECT_TRUE(Seen("BlockTimeList2"));
+  EXPECT_FALSE(Seen("Capturebtn"));
+  EXPECT_FALSE(Seen("OneClickbtn1"));
+  Press("OneClickbtn0");
+  EXPECT_EQ(Button("OneClickbtn0"), "Stop Monitoring");
+  EXPECT_EQ(Text("CapStatus"), "Monitoring Video... Click at end of swing.");
+  EXPECT_TRUE(Seen("OneClickbtn1"));
+  for (const char* name : {"CapOptionBtn4", "InstructorList", "NameModeList", "BlockTimeList2", "RemoteKey0"})
+    EXPECT_FALSE(Find<QWidget>(name)->isEnabled()) << name;
+  // The mouse on the picture, the space bar, and of the remote's keys those that are switched on.
+  QTest::mousePress(Find<QWidget>("ezVidCap1"), Qt::LeftButton);
+  QTest::mousePress(Find<QWidget>("OneClickbtn1"), Qt::LeftButton);
+  QTest::mouseRelease(Find<QWidget>("OneClickbtn1"), Qt::LeftButton);
+  EXPECT_EQ(graph->button.fired, 2);
+  page->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(page.get()));
+  Find<QWidget>("OneClickbtn1")->setFocus();
+  for (const Qt::Key key : {Qt::Key_Space, Qt::Key_PageDown, Qt::Key_B, Qt::Key_F5})
+    QTest::keyClick(page->focusWidget(), key);
+  EXPECT_EQ(graph->button.fired, 5);
+  EXPECT_EQ(Text("OneClickCountLbl"), "0 Videos Captured");
+  EXPECT_TRUE(page->Leave());
+  page->Open();
+  EXPECT_EQ(Button("OneClickbtn0"), "Start to Monitor") << "leaving has stopped it";
+
+  Press("RemoteKey1");
+  EXPECT_EQ(settings.RemoteKeys, "PageDown");
+  Press("CapOptionBtn4");
+  EXPECT_TRUE(Seen("BlockTimeList0"));
+  EXPECT_EQ(Button("AutoCapturebtn"), "Start Sound Capture");
+  EXPECT_EQ(Text("CapMicrophone"), "No microphone is connected.");
+  Press("AutoCapturebtn");
+  EXPECT_EQ(Button("AutoCapturebtn"), "Start Sound Capture");
+  EXPECT_TRUE(Text("CapStatus").startsWith("No microphone is connected."));
+}
+
+TEST_F(CapturePageTest, TheCountdownStandsOverTheStage) {
+  settings.BeepPausetime = 2;
+  Press("CapOptionBtn3");
+  Find<QSlider>("BeepArray2")->setValue(1);
+  EXPECT_EQ(settings.BeepCycles, 1);
+  Press("BeepCaptureStart");
+  library.host.Advance(1000);
+  EXPECT_TRUE(Seen("CountPnl"));
+  EXPECT_EQ(Text("CapStatus"), "Getting Ready to Capture Video #1 of 1 in 2 seconds");
+  EXPECT_FALSE(Find<QSlider>("BeepArray0")->isEnabled());
+  Press("BeepCaptureStart");
+  EXPECT_FALSE(Seen("CountPnl"));
+  EXPECT_EQ(Button("BeepCaptureStart"), "Start Beep Capture");
+  EXPECT_TRUE(Find<QSlider>("BeepArray0")->isEnabled());
+}
+
 TEST_F(CapturePageTest, TheSetupSavesTheCameraThatIsShown) {
   CaptureSection section(library.host, settings, *setup, naming);
   section.show();
