@@ -4,6 +4,7 @@
 #include "library/TodayText.h"
 #include "platform/graph/DeviceList.h"
 #include "platform/graph/LiveGraph.h"
+#include "platform/graph/ShortSounds.h"
 #include "platform/graph/VoiceRecorder.h"
 #include "platform/host/Post.h"
 

@@ -55,8 +55,8 @@ int PercentOf(std::string_view text) { return std::clamp(NumberIn<int>(text).val
 
 double ThresholdOf(const Settings& settings) { return PercentOf(settings.TriggerLevel) / 100.0; }
 
-double GainOf(const Settings& settings) {
-  return std::pow(10.0, (PercentOf(settings.SoundLevel) - kMiddle) * kDecibels / kMiddle / 20);
-}
+double InputDecibels(int percent) { return (percent - kMiddle) * kDecibels / kMiddle; }
+
+double GainOf(const Settings& settings) { return std::pow(10.0, InputDecibels(PercentOf(settings.SoundLevel)) / 20); }
 
 }  // namespace kinalyx

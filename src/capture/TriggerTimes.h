@@ -26,6 +26,8 @@ TriggerWindow OneClickWindow(const Settings& settings);
 int PercentOf(std::string_view text);
 /// The threshold of the trigger, 0 to 1 as its meter counts.
 double ThresholdOf(const Settings& settings);
+/// What an input level of 0 to 100 asks of the microphone, in decibels.
+double InputDecibels(int percent);
 /// How many times the microphone is taken: once at 50, up to four times at 100, a quarter at 0.
 double GainOf(const Settings& settings);
 

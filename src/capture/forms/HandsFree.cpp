@@ -25,7 +25,7 @@ namespace kinalyx {
 
 namespace {
 
-constexpr int kPanelWidth = 216;  // as designed
+constexpr int kPanelWidth = 228;  // as designed
 constexpr const char* kMethods[] = {"Start-Stop", "One Click", "Beep", "Sound"};
 constexpr const char* kRemoteCaptions[] = {"Page Down", "B", "F5", "Period"};
 constexpr Qt::Key kRemoteKeys[] = {Qt::Key_PageDown, Qt::Key_B, Qt::Key_F5, Qt::Key_Period};
@@ -106,11 +106,11 @@ void HandsFree::MakeSound() {
   BlockTimeList_[1] = MakeTimes(*rows, 1, "After");
   sound_ = new SoundMeter;
   rows->addWidget(sound_);
-  connect(sound_, &SoundMeter::ThresholdChanged, this, [this](int percent) {
+  connect(sound_, &SoundMeter::TriggerLevelChanged, this, [this](int percent) {
     parts_.session.Triggers().SetThreshold(percent);
     meter_.SetLevels(ThresholdOf(parts_.settings), GainOf(parts_.settings));
   });
-  connect(sound_, &SoundMeter::InputLevelChanged, this, [this](int percent) {
+  connect(sound_, &SoundMeter::SoundLevelChanged, this, [this](int percent) {
     parts_.session.Triggers().SetInputLevel(percent);
     meter_.SetLevels(ThresholdOf(parts_.settings), GainOf(parts_.settings));
   });
@@ -204,8 +204,8 @@ void HandsFree::FillTimes() {
     }
     list->setCurrentIndex(at);
   }
-  sound_->SetThreshold(PercentOf(parts_.settings.TriggerLevel));
-  sound_->SetInputLevel(PercentOf(parts_.settings.SoundLevel));
+  sound_->SetTriggerLevel(PercentOf(parts_.settings.TriggerLevel));
+  sound_->SetSoundLevel(PercentOf(parts_.settings.SoundLevel));
 }
 
 std::int32_t& HandsFree::BeepSetting(int index) {
@@ -342,8 +342,8 @@ QWidget* HandsFree::MainButton() const {
 }
 
 void HandsFree::SoundCame(double level, bool fired) {
-  sound_->SetLevel(level);
-  if (fired) sound_->Flash();
+  sound_->ShowLevel(level);
+  if (fired) sound_->ShowFired();
   ShowCounts();
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <memory>
 #include <string>
 
 namespace kinalyx {
@@ -13,7 +12,5 @@ class IShortSounds {
   /// @param path  of a WAV file of a few seconds; a file that is missing or none is silence
   virtual void Play(const std::string& path) = 0;
 };
-
-std::unique_ptr<IShortSounds> MakeShortSounds();
 
 }  // namespace kinalyx
