@@ -24,23 +24,26 @@ constexpr double kButterworth = std::numbers::sqrt2 / 2;
 // Below this is what microphones hiss; nothing is compared with less.
 constexpr double kLeastPower = 1e-9;
 
-// The shape of an impact, in milliseconds from its onset, and how far apart its powers are.
-constexpr int kAttackMs = 8;     // within which it reaches its height, also where its first echo is off the ground
-constexpr int kBeforeMs = 100;   // that it rises from,
-constexpr int kGuardMs = 3;      // but for what filters and a slow rise bring before it
-constexpr double kRise = 20;     // decibels of the high band: a loud room is 20 below what one wants to be told of
-constexpr double kOnset = 12;    // below its height it begins
-constexpr int kContextMs = 500;  // in which a word ends before its last letter,
-constexpr double kContext = 6;   // and is louder than that; an impact is louder than who speaks
-constexpr double kLoud = 90;     // percent of the time are less loud than that, and who speaks, and hits, has the rest
-constexpr int kTailFromMs = 20;  // a letter still hisses then, a drum rings; of an impact only the room is left
-constexpr int kTailToMs = 60;
-constexpr double kTail = 11;
-constexpr int kAfterToMs = 120;  // by when the vowel has come after its consonant
-constexpr double kAfter = 10;
-constexpr double kSpread = -16;  // of all that is audible the least that lies high up, or it is a thud or a step
-constexpr int kEchoMs = 250;     // from one impact to the next: walls of a driving bay answer sooner
-constexpr double kEcho = 85;     // percent of the time must be quiet afterwards; echoes have the others
+// The shape of an impact: milliseconds from its onset, and decibels between the powers that are compared.
+constexpr int kAttackMs = 8;       // within which it reaches its height, a clap in several pieces
+constexpr double kOnset = 12;      // below its height it begins
+constexpr int kBeforeMs = 100;     // that it rises out of,
+constexpr int kSoonMs = 10;        // and also of these; gusts and soles swell slower
+constexpr int kGuardMs = 3;        // but for what filters and a slow rise bring before it,
+constexpr double kRise = 20;       // by so much in the high band: consonants, drums in music, and clipped gusts do not
+constexpr int kContextMs = 500;    // in which a word begins before its last letter
+constexpr double kContext = 6;     // that an impact is louder, in its loudest millisecond, than who speaks,
+constexpr double kLoud = 90;       // who is louder than that for a tenth of the time; a step before a hit is shorter
+constexpr double kSpread = -12;    // of all that is audible so much at least lies high up, or it is a thud or a step
+constexpr int kTailFromMs = 20;    // from when on only the room sounds on, while a letter hisses and a drum rings
+constexpr int kTailToMs = 60;      // when the breath of a "t" is over
+constexpr double kTail = 9;        // that a hard room is lower by then
+constexpr double kMostly = 75;     // percent of the time; echoes have the rest
+constexpr int kAfterToMs = 120;    // when a vowel has come after its consonant
+constexpr double kAfter = 8;       // that it must not come up to; a vowel is as loud as its consonant, or louder
+constexpr double kAfterHigh = 11;  // and in the high band, where each pulse of a loud voice is a little impact
+constexpr double kNearlyAll = 85;  // percent of the time, so that those pulses count
+constexpr int kEchoMs = 250;       // from one impact to the next: the walls of a driving bay answer sooner
 
 double Ratio(double decibels) { return std::pow(10.0, decibels / 10); }
 
@@ -154,17 +157,21 @@ double ImpactDetector::Lasting(std::int64_t from, std::int64_t to, double Slice:
 
 /// Whether an impact begins in a slice. All that is needed of it and of what surrounds it has been heard.
 bool ImpactDetector::IsImpact(std::int64_t slice) const {
+  const auto below = [](double power, double height, double decibels) { return power <= height / Ratio(decibels); };
   const std::int64_t reached = slice + kAttackMs;
   if (threshold_ >= 1 || LevelOf(Most(slice, reached, &Slice::peak)) < threshold_) return false;
   const double height = Most(slice, reached, &Slice::sharp);
-  if (At(slice).sharp < height / Ratio(kOnset)) return false;
-  if (Mean(slice - kBeforeMs, slice - kGuardMs, &Slice::sharp) > height / Ratio(kRise)) return false;
-  if (Lasting(slice + kTailFromMs, slice + kTailToMs, &Slice::sharp, kEcho) > height / Ratio(kTail)) return false;
-  if (Lasting(slice + kTailToMs, slice + kAfterToMs, &Slice::sharp, kEcho) > height / Ratio(kTail)) return false;
+  if (!below(height, At(slice).sharp, -kOnset)) return false;
+  if (!below(Mean(slice - kBeforeMs, slice - kGuardMs, &Slice::sharp), height, kRise)) return false;
+  if (!below(Mean(slice - kSoonMs, slice - kGuardMs, &Slice::sharp), height, kRise)) return false;
+  if (!below(Mean(slice, reached, &Slice::all), Mean(slice, reached, &Slice::sharp), kSpread)) return false;
+  const std::int64_t tail = slice + kTailFromMs;
+  const std::int64_t after = slice + kAfterToMs;
+  if (!below(Lasting(tail, slice + kTailToMs, &Slice::sharp, kMostly), height, kTail)) return false;
+  if (!below(Lasting(tail, after, &Slice::sharp, kNearlyAll), height, kAfterHigh)) return false;
   const double loudness = Most(slice, reached, &Slice::all);
-  if (Mean(slice, reached, &Slice::sharp) < Mean(slice, reached, &Slice::all) * Ratio(kSpread)) return false;
-  if (Lasting(slice - kContextMs, slice - kGuardMs, &Slice::all, kLoud) > loudness / Ratio(kContext)) return false;
-  return Lasting(slice + kTailFromMs, slice + kAfterToMs, &Slice::all, kEcho) <= loudness / Ratio(kAfter);
+  return below(Lasting(slice - kContextMs, slice - kGuardMs, &Slice::all, kLoud), loudness, kContext) &&
+         below(Lasting(tail, after, &Slice::all, kNearlyAll), loudness, kAfter);
 }
 
 }  // namespace kinalyx
