@@ -102,7 +102,8 @@ void Mixer::Sound(std::unique_lock<std::mutex>& lock) {
     Begin(std::move(wishes));
     std::array<std::int16_t, SoundFeed::kBlock * kChannels> block;
     while (feed->Wants()) {
-      Mix(block);
+      block.fill(0);
+      if (feed->Begun()) Mix(block);
       feed->Push(block);
       taken = Clock::now();
     }
@@ -134,9 +135,8 @@ std::shared_ptr<const Samples> Mixer::Read(const std::string& path) {
   return files_.emplace(path, std::move(samples)).first->second;
 }
 
-/// The next samples of all that is heard.
+/// Adds the next samples of all that is heard.
 void Mixer::Mix(std::span<std::int16_t> block) {
-  std::ranges::fill(block, std::int16_t{0});
   for (Voice& voice : voices_) {
     const std::size_t count = std::min(block.size(), voice.samples->size() - voice.done);
     for (std::size_t i = 0; i < count; ++i) {

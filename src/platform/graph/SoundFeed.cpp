@@ -47,6 +47,13 @@ SoundFeed::~SoundFeed() {
   if (pipeline_) gst_element_set_state(pipeline_.get(), GST_STATE_NULL);
 }
 
+bool SoundFeed::Begun() {
+  GstState state = GST_STATE_NULL;
+  if (!begun_ && gst_element_get_state(pipeline_.get(), &state, nullptr, 0) == GST_STATE_CHANGE_SUCCESS)
+    begun_ = state == GST_STATE_PLAYING;
+  return begun_;
+}
+
 bool SoundFeed::Wants() {
   const GstClockTime now = gst_element_get_current_running_time(pipeline_.get());
   if (!GST_CLOCK_TIME_IS_VALID(now)) return false;

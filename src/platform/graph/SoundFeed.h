@@ -23,6 +23,8 @@ class SoundFeed {
   SoundFeed(const SoundFeed&) = delete;
   SoundFeed& operator=(const SoundFeed&) = delete;
 
+  /// False until the card is at work: what it is given before is lost.
+  bool Begun();
   /// Whether the next block is due.
   bool Wants();
   void Push(std::span<const std::int16_t> block);
@@ -35,6 +37,7 @@ class SoundFeed {
   GstRef<GstElement> pipeline_;
   GstRef<GstElement> source_;
   GstRef<GstBus> bus_;
+  bool begun_ = false;
   GstClockTime blockTime_ = 0;
   GstClockTime next_ = 0;  ///< when the next block begins, in the time of the graph
 };
