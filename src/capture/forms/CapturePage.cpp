@@ -418,7 +418,10 @@ void CapturePage::AskForCamera() {
     const std::optional<int> missing = parts_.setup.MissingCamera();
     if (!missing) return;
     FindCamForm form(*missing, this);
-    if (form.exec() != QDialog::Accepted) asked_ = true;
+    asking_ = &form;
+    const int answer = form.exec();
+    asking_ = nullptr;
+    if (answer != QDialog::Accepted) asked_ = true;
   }
 }
 
@@ -587,7 +590,12 @@ void CapturePage::CaptureChoiceChanged() {
 
 void CapturePage::CaptureDevicesChanged() {
   FillCameras();
-  if (isVisible()) AskForCamera();
+  if (asking_) {
+    if (!parts_.setup.MissingCamera()) asking_->accept();
+    return;
+  }
+  // Who is away from the desk is not asked: the camera is taken again when it is back.
+  if (isVisible() && !hands_->Running() && session_->Phase() == CapturePhase::LivePreview) AskForCamera();
 }
 
 }  // namespace kinalyx

@@ -25,6 +25,7 @@ namespace kinalyx {
 
 class Button;
 class CameraLine;
+class FindCamForm;
 class HandsFree;
 class ImportPanel;
 class LibraryLists;
@@ -147,6 +148,7 @@ class CapturePage : public PageWidget, private ICapturePage, private IMeterEvent
   Button* CapSavebtn_;
   Button* CapSendbtn_;
   StatusLine* status_;
+  FindCamForm* asking_ = nullptr;  ///< that is on the screen
   bool open_ = false;   ///< on the screen
   bool asked_ = false;  ///< for a camera that is missing
   bool reviewShown_ = false;
