@@ -14,9 +14,9 @@ namespace kinalyx {
 namespace {
 
 constexpr int kFull = 100;
-constexpr int kInset = 9;  // half of a grip
+constexpr int kInset = 10;  // half of a grip
 constexpr int kBarHeight = 16;
-constexpr int kGripHeight = 12;
+constexpr int kGripHeight = 15;
 constexpr int kFlashMs = 500;
 constexpr int kPeakMs = 2000;  // for which the mark stays
 constexpr QColor kHeard(0x2E, 0xA0, 0x43);
