@@ -195,6 +195,9 @@ TEST_F(CapturePageTest, AMissingCameraIsToldWithItsTwoWays) {
 
 TEST_F(CapturePageTest, EachMethodShowsWhatBelongsToItAndNothingElseWhileItRuns) {
   EXPECT_FALSE(Seen("CapMethodTitle"));
+  Press("Capturebtn");
+  EXPECT_FALSE(Find<QWidget>("CapOptionBtn2")->isEnabled()) << "what is recorded by hand is stopped by hand";
+  Press("Capturebtn");
   Press("CapOptionBtn2");
   EXPECT_EQ(settings.CapMode, 2);
   EXPECT_TRUE(Seen("BlockTimeList2"));

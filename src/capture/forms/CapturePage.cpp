@@ -272,15 +272,15 @@ QWidget* CapturePage::MakeActions() {
   buttons_ = new QBoxLayout(QBoxLayout::LeftToRight);
   buttons_->setSpacing(8);
   buttons_->addWidget(hands_->Methods());
-  const auto add = [this](std::initializer_list<QWidget*> buttons, int stretchAt) {
+  buttons_->addStretch(1);
+  const auto add = [this](std::initializer_list<QWidget*> buttons) {
     auto* row = new QHBoxLayout;
     row->setSpacing(8);
     for (QWidget* button : buttons) row->addWidget(button);
-    row->insertStretch(stretchAt, 1);
-    buttons_->addLayout(row, stretchAt > 0 ? 1 : 0);
+    buttons_->addLayout(row);
   };
-  add({Capturebtn_, StartHerebtn_, EndHerebtn_}, 1);
-  add({CapSavebtn_, CapSendbtn_}, 0);
+  add({Capturebtn_, StartHerebtn_, EndHerebtn_});
+  add({CapSavebtn_, CapSendbtn_});
   buttons_->addWidget(hands_->Buttons());
   rows->addLayout(buttons_);
   return ground;

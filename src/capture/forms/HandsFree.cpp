@@ -295,7 +295,8 @@ void HandsFree::SetupCapMode(bool shown) {
   const bool armed = parts_.session.Triggers().Armed();
   const bool sound = method == CaptureMethod::Sound, click = method == CaptureMethod::OneClick;
   CapOptionBtn_->button(static_cast<int>(method))->setChecked(true);
-  for (QAbstractButton* button : CapOptionBtn_->buttons()) button->setEnabled(!Running());
+  const bool idle = parts_.session.Phase() == CapturePhase::LivePreview && !parts_.session.Saving() && !Running();
+  for (QAbstractButton* button : CapOptionBtn_->buttons()) button->setEnabled(idle);
   methods_->setVisible(shown);
   panel_->setVisible(shown && method != CaptureMethod::StartStop);
   panel_->SetTitle(kMethods[static_cast<int>(method) - 1]);
