@@ -58,7 +58,7 @@ class Range {
       std::vector<WrittenBlock> one;
       for (int i = 0; i < 500 && one.empty(); ++i) {
         window_.Show(10ms);
-        one = block->TakeWritten();
+        one = block->Blocks()->TakeWritten();
       }
       if (one.empty()) throw std::runtime_error("a block was not written");
       all.push_back(std::move(one.front()));
@@ -126,7 +126,7 @@ double LargestRearmGap() {
   }
   for (int shots = 0; shots < 20;) {
     range.Window().Show(5ms);
-    for (const WrittenBlock& block : range.Block(0).TakeWritten()) {
+    for (const WrittenBlock& block : range.Block(0).Blocks()->TakeWritten()) {
       if (block.tally.lost > 0) throw std::runtime_error("a block has holes");
       std::filesystem::remove(block.path);
       ++shots;

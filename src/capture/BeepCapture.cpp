@@ -26,6 +26,7 @@ void BeepCapture::Press() {
   }
   BeepCycleNumber_ = 1;
   kept_ = 0;
+  note_.clear();
   stopped_ = false;
   Begin();
 }
@@ -33,7 +34,7 @@ void BeepCapture::Press() {
 void BeepCapture::Begin() {
   BeepState_ = State::Counting;
   parts_.cameras.Say("Preparing to Capture");
-  BeepCountdown_ = std::max(1, parts_.settings.BeepPausetime);
+  BeepCountdown_ = std::clamp(parts_.settings.BeepPausetime, 1, kMostBeepSeconds);
   Wait(kSecondMs);
   parts_.events.BeepChanged();
 }
@@ -55,8 +56,8 @@ void BeepCapture::Tick() {
 void BeepCapture::CountDown() {
   Play("typing1.wav");
   if (BeepCountdown_ <= kLastSeconds && BeepCountdown_ > 1) Play("countdown.wav");
-  parts_.cameras.Say(fmt::format("Getting Ready to Capture Video #{} of {} in {} seconds", BeepCycleNumber_,
-                                 std::max(1, parts_.settings.BeepCycles), BeepCountdown_));
+  parts_.cameras.Say(fmt::format("Getting Ready to Capture Video #{} of {} in {} seconds", BeepCycleNumber_, Cycles(),
+                                 BeepCountdown_));
   Show(std::to_string(BeepCountdown_));
   if (--BeepCountdown_ == 0) BeepState_ = State::Starting;
   Wait(kSecondMs);
@@ -67,7 +68,7 @@ void BeepCapture::StartVideo() {
   Show("0");
   BeepState_ = State::Capturing;
   if (!parts_.cameras.StartTimed(*this)) return TimedFailed();
-  Wait(std::max(1, parts_.settings.BeepCapTime) * kSecondMs);
+  Wait(std::clamp(parts_.settings.BeepCapTime, 1, kMostBeepSeconds) * kSecondMs);
 }
 
 void BeepCapture::EndVideo() {
@@ -79,10 +80,13 @@ void BeepCapture::EndVideo() {
   parts_.cameras.StopTimed();
 }
 
-void BeepCapture::TimedKept() {
+int BeepCapture::Cycles() const { return std::clamp(parts_.settings.BeepCycles, 1, kMostBeepCycles); }
+
+void BeepCapture::TimedKept(const std::string& note) {
+  if (!note.empty()) note_ = " " + note;
   ++kept_;
   ++BeepCycleNumber_;
-  if (stopped_ || BeepCycleNumber_ > std::max(1, parts_.settings.BeepCycles)) return Finish();
+  if (stopped_ || BeepCycleNumber_ > Cycles()) return Finish();
   Begin();
 }
 
@@ -97,9 +101,10 @@ void BeepCapture::Finish() {
   BeepState_ = State::Idle;
   Show({});
   // The misspelling is what users have always read here.
-  parts_.cameras.Say(stopped_ ? "Beep Capture Stopped. Ready to Record."
-                              : fmt::format("Beep Capture Complete. {} {} succesfully created.", kept_,
-                                            kept_ == 1 ? "video" : "videos"));
+  std::string words =
+      fmt::format("Beep Capture Complete. {} {} succesfully created.", kept_, kept_ == 1 ? "video" : "videos");
+  if (stopped_) words = "Beep Capture Stopped. Ready to Record.";
+  parts_.cameras.Say(words + note_);
 }
 
 void BeepCapture::Stop() {

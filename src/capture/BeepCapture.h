@@ -17,7 +17,8 @@ class ITimedEvents {
  public:
   virtual ~ITimedEvents() = default;
   /// The recording is a video in the folder of the student, and the cameras are live again.
-  virtual void TimedKept() = 0;
+  /// @param note  what the user must know although it was; mostly empty
+  virtual void TimedKept(const std::string& note) = 0;
   /// It is not: the cycle is over, and the user has been told why.
   virtual void TimedFailed() = 0;
 };
@@ -41,6 +42,10 @@ class IBeepEvents {
   /// Running or not, and what `CountPnl` shows.
   virtual void BeepChanged() = 0;
 };
+
+/// As far as the choices of a cycle go.
+constexpr int kMostBeepSeconds = 60;
+constexpr int kMostBeepCycles = 50;
 
 /// A timed cycle of countdown, capture and save, with sounds: the coach may be far from the desk.
 class BeepCapture : private ITimedEvents {
@@ -70,6 +75,7 @@ class BeepCapture : private ITimedEvents {
  private:
   enum class State { Idle, Counting = 1, Starting = 2, Capturing = 3, Saving };
 
+  int Cycles() const;
   void Begin();
   void Wait(int milliseconds);
   void Tick();
@@ -80,7 +86,7 @@ class BeepCapture : private ITimedEvents {
   void Play(const char* sound) const;
   void Show(std::string count);
 
-  void TimedKept() override;
+  void TimedKept(const std::string& note) override;
   void TimedFailed() override;
 
   Parts parts_;
@@ -89,6 +95,7 @@ class BeepCapture : private ITimedEvents {
   int BeepCountdown_ = 0;
   bool stopped_ = false;  ///< by the operator
   int kept_ = 0;
+  std::string note_;  ///< of the last video that has one
   std::string count_;
   HostTimer BeepTimer_;
 };

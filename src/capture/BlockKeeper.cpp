@@ -1,13 +1,15 @@
 #include "capture/BlockKeeper.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
-#include <utility>
 
 #include "capture/CaptureData.h"
 #include "platform/files/Folders.h"
 #include "platform/media/VideoFile.h"
 
 namespace kinalyx {
+
 /// What becomes of a save; the keeper may have gone.
 class BlockKeeper::Events final : public IJobEvents {
  public:
@@ -27,85 +29,106 @@ class BlockKeeper::Events final : public IJobEvents {
 
 BlockKeeper::~BlockKeeper() { *self_ = nullptr; }
 
-void BlockKeeper::Begin(int cameras, bool second) {
-  End();
-  cameras_ = cameras;
-  second_ = second;
+int BlockKeeper::Begin(int cameras, bool second, const VideoNaming& naming) {
+  auto own = std::make_shared<VideoNaming>(naming);
+  own->SetEvents(nullptr);
+  runs_[++lastRun_] = {cameras, second, std::move(own)};
+  return lastRun_;
 }
 
-void BlockKeeper::Take(int camera, std::vector<WrittenBlock> blocks) {
+void BlockKeeper::Take(int run, int camera, std::vector<WrittenBlock> blocks) {
+  const auto known = runs_.find(run);
+  if (known == runs_.end()) return;
   for (WrittenBlock& block : blocks) {
     const auto at = static_cast<std::size_t>(camera);
-    const int number = block.shot;
-    Shot& shot = shots_[number];
-    shot.second = second_;
+    const std::pair key(run, block.shot);
+    Shot& shot = shots_[key];
+    shot.run = known->second;
     shot.blocks[at] = std::move(block);
     shot.come[at] = true;
-    if (std::ranges::count(shot.come, true) < cameras_) continue;
-    const Shot complete = std::move(shot);
-    shots_.erase(number);
-    Ready(complete);
+    if (std::ranges::count(shot.come, true) < known->second.cameras) continue;
+    Shot complete = std::move(shot);
+    shots_.erase(key);
+    Ready(std::move(complete));
   }
 }
 
-void BlockKeeper::End() {
-  for (const auto& [number, shot] : std::exchange(shots_, {})) Ready(shot);
+void BlockKeeper::End(int run) {
+  for (auto at = shots_.lower_bound({run, 0}); at != shots_.end() && at->first.first == run;
+       at = shots_.lower_bound({run, 0})) {
+    Shot left = std::move(at->second);
+    shots_.erase(at);
+    Ready(std::move(left));
+  }
+  runs_.erase(run);
 }
 
-void BlockKeeper::Ready(const Shot& shot) {
-  Shot there = shot;
-  // A camera that gave nothing leaves the other one alone.
-  for (std::size_t i = 0; i < 2; ++i) there.come[i] = shot.come[i] && shot.blocks[i].tally.pictures > 0;
-  if (!there.come[0] && !there.come[1]) {
-    const std::string& fault = shot.blocks[0].tally.fault;
-    return parts_.events.BlockLost(fault.empty() ? "The camera gave no picture." : fault);
+/// A camera that gave nothing leaves the other one alone.
+void BlockKeeper::Ready(Shot shot) {
+  std::array<bool, 2> there{};
+  for (std::size_t i = 0; i < 2; ++i) {
+    const RecordingTally& tally = shot.blocks[i].tally;
+    there[i] = shot.come[i] && tally.pictures > 0;
+    if (shot.run.cameras == 2 && !there[i])
+      shot.fault += fmt::format("{}Camera {} recorded nothing.", shot.fault.empty() ? "" : " ", i + 1);
+    if (!tally.fault.empty()) shot.fault += (shot.fault.empty() ? "" : " ") + tally.fault;
   }
-  if (!there.come[0]) {
-    there.blocks[0] = std::move(there.blocks[1]);
-    there.come = {true, false};
-    there.second = true;
+  if (!there[0] && !there[1]) return Lose(shot, shot.fault.empty() ? "The camera gave no picture." : shot.fault);
+  if (!there[0]) {
+    shot.blocks[0] = std::move(shot.blocks[1]);
+    shot.run.second = true;
+    there = {true, false};
   }
-  waiting_.push_back(std::move(there));
+  shot.come = there;
+  waiting_.push_back(std::move(shot));
   KeepNext();
 }
 
 void BlockKeeper::KeepNext() {
-  if (keeping_ || waiting_.empty()) return;
-  const Shot& shot = waiting_.front();
-  parts_.naming.GetVideoName();
-  SaveRequest request;
-  request.videos = {parts_.naming.CapturedVideoPath(), parts_.naming.CapturedVideoPath2()};
-  if (shot.second) request.videos[0] = request.videos[1];
-  if (request.videos[0].empty()) {
-    waiting_.pop_front();
-    parts_.events.BlockLost("There is no folder or no name for the video.");
-    return KeepNext();
+  while (!keeping_ && !waiting_.empty()) {
+    const Shot& shot = waiting_.front();
+    VideoNaming& naming = *shot.run.naming;
+    naming.GetVideoName();
+    SaveRequest request;
+    request.videos = {naming.CapturedVideoPath(), naming.CapturedVideoPath2()};
+    if (shot.run.second) request.videos[0] = request.videos[1];
+    // A student who has been moved, renamed or deleted is not made anew.
+    if (request.videos[0].empty() || !dirExists(naming.Folder())) {
+      const Shot lost = std::move(waiting_.front());
+      waiting_.pop_front();
+      Lose(lost, "The folder for the video is not there any more.");
+      continue;
+    }
+    videos_ = 0;
+    for (std::size_t i = 0; i < 2; ++i) {
+      if (!shot.come[i]) continue;
+      request.recorded[i] = shot.blocks[i].path;
+      request.tallies[i] = shot.blocks[i].tally;
+      ++videos_;
+    }
+    request.dv = parts_.setup.DVMode();
+    const auto info = ReadVideoInfo(request.recorded[0]);
+    request.flags = CaptureFlags(parts_.settings, request.dv, info ? FactsOf(*info) : RecordingFacts());
+    request.trimProgram = parts_.trimProgram;
+    keeping_ = parts_.jobs.Start(std::make_unique<RecordingSaver>(std::move(request)), std::make_unique<Events>(self_));
+    if (!keeping_) return;
   }
-  videos_ = 0;
-  for (std::size_t i = 0; i < 2; ++i) {
-    if (!shot.come[i]) continue;
-    request.recorded[i] = shot.blocks[i].path;
-    request.tallies[i] = shot.blocks[i].tally;
-    ++videos_;
-  }
-  request.dv = parts_.setup.DVMode();
-  const auto info = ReadVideoInfo(request.recorded[0]);
-  request.flags = CaptureFlags(parts_.settings, request.dv, info ? FactsOf(*info) : RecordingFacts());
-  request.trimProgram = parts_.trimProgram;
-  keeping_ = parts_.jobs.Start(std::make_unique<RecordingSaver>(std::move(request)), std::make_unique<Events>(self_));
+}
+
+void BlockKeeper::Lose(const Shot& shot, const std::string& why) {
+  parts_.files.Park(shot.blocks[0].path, shot.blocks[1].path);
+  parts_.events.BlockLost(why);
 }
 
 void BlockKeeper::Over(const SavedRecording& saved) {
   keeping_ = false;
-  const std::string fault = waiting_.front().blocks[0].tally.fault;
+  const Shot shot = std::move(waiting_.front());
   waiting_.pop_front();
   if (!saved.Done()) {
-    parts_.events.BlockLost(saved.why);
+    Lose(shot, saved.why);
   } else {
-    // The next of the series is called alike.
-    parts_.naming.GetVideoName();
     SavedRecording told = saved;
-    if (!fault.empty()) told.note = fault + " What was recorded is kept.";
+    if (!shot.fault.empty()) told.note = shot.fault + " What was recorded is kept.";
     parts_.events.BlockKept(told, videos_);
   }
   KeepNext();

@@ -18,6 +18,7 @@ namespace {
 constexpr int kReadyMs = 4000;  ///< how long it is told that a video was kept
 constexpr int kTallyMs = 200;   ///< how often the figures of a recording are brought up to date
 constexpr int kRetryMs = 3000;  ///< after a camera has failed
+constexpr int kSeldom = 10;     ///< tries that are passed over
 constexpr int kSecondClickMs = 700;
 constexpr double kPalFrame = 0.04;
 constexpr double kNtscFrame = 0.0333667;
@@ -84,6 +85,8 @@ bool CaptureSession::Leave() {
 }
 
 void CaptureSession::Rebuild() {
+  // Who is not at the desk has not changed anything: what is remembered, or counted down to, goes on.
+  if (monitoring_.Armed() || timed_) return;
   parts_.naming.SetCameraUse(parts_.setup.Use());
   if (open_ && phase_ == CapturePhase::LivePreview && !saving_) BuildCaptureGraph();
 }
@@ -365,8 +368,8 @@ void CaptureSession::Say(std::string status) {
 }
 
 void CaptureSession::SayReadyLater() {
-  ReadyTimer_ = HostTimer(parts_.host, kReadyMs, false, [this] {
-    if (phase_ == CapturePhase::LivePreview) Say(std::string(kReady));
+  ReadyTimer_ = HostTimer(parts_.host, kReadyMs, false, [this, told = status_] {
+    if (phase_ == CapturePhase::LivePreview && status_ == told) Say(std::string(kReady));
   });
 }
 
@@ -431,17 +434,24 @@ void CaptureSession::SourceFailed(const std::string& label, const std::string& w
     return;
   }
   // A camera that another program has, or that is being plugged in anew, is asked again.
-  if (phase_ == CapturePhase::LivePreview && open_) RetryLater(microphone ? -1 : camera);
+  if (phase_ == CapturePhase::LivePreview && open_) RetryLater(microphone ? -1 : camera, false, 0);
   parts_.page.CaptureChanged();
 }
 
-/// What is remembered of the other camera would be lost by a try that is in vain.
+/// A try that is in vain would cost what is remembered of the other camera: while triggers are waited for it is made
+/// once a camera that had gone is in the list again, and of one that never left it now and then.
 /// @param camera  -1: the microphone
-void CaptureSession::RetryLater(int camera) {
-  retry_ = HostTimer(parts_.host, kRetryMs, false, [this, camera] {
-    const bool there = camera < 0 || parts_.setup.ShownDevice(two_ ? camera : parts_.setup.Use() == CameraUse::Second);
-    if (monitoring_.Armed() && two_ && !there) return RetryLater(camera);
-    Rebuild();
+/// @param away    it was not in the list since it failed
+void CaptureSession::RetryLater(int camera, bool away, int tries) {
+  retry_ = HostTimer(parts_.host, kRetryMs, false, [this, camera, away, tries] {
+    const bool second = two_ ? camera == 1 : parts_.setup.Use() == CameraUse::Second;
+    const bool there = camera < 0 || parts_.setup.ShownDevice(second ? 1 : 0);
+    const bool other = two_ && camera >= 0 && words_[static_cast<std::size_t>(1 - camera)].empty();
+    const bool soon = !other || (there && away) || tries >= kSeldom;
+    if (monitoring_.Armed() && (monitoring_.TriggerPending() || !there || !soon))
+      return RetryLater(camera, away || !there, tries + 1);
+    parts_.naming.SetCameraUse(parts_.setup.Use());
+    if (open_ && phase_ == CapturePhase::LivePreview && !saving_) BuildCaptureGraph();
   });
 }
 
@@ -455,9 +465,14 @@ void CaptureSession::PreviewFailed(const std::string& label) {
 }
 
 void CaptureSession::SinkFailed(const std::string& label, const std::string& why) {
-  if (phase_ != CapturePhase::Writing) return;
-  tallies_[label == kWriters[1] ? 1 : 0].fault = why;
-  StopCapture();
+  const int camera = label == kWriters[1] ? 1 : 0;
+  if (phase_ == CapturePhase::Writing) {
+    tallies_[static_cast<std::size_t>(camera)].fault = why;
+    return timed_ ? StopTimed() : StopCapture();
+  }
+  if (!monitoring_.Armed()) return;
+  Say(why);
+  RetryLater(camera, false, 0);
 }
 
 }  // namespace kinalyx

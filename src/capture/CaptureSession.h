@@ -82,6 +82,8 @@ class CaptureSession : public ITimedCapture, private IGraphEvents, private IMoni
   /// Looks again at what "Back to Live Video" has put away; it lies there until the next recording begins or the page
   /// is left.
   void BringBack();
+  /// Something else begins: it cannot be brought back any more.
+  void ForgetPutAway() { DropPutAway(); }
   bool CanBringBack() const { return !putAway_.paths[0].empty(); }
 
   // --- what the page shows
@@ -117,7 +119,7 @@ class CaptureSession : public ITimedCapture, private IGraphEvents, private IMoni
   void StopCapture();
   UnfinishedRecording EndRecording();
   void Disarm(const std::string& status);
-  void RetryLater(int camera);
+  void RetryLater(int camera, bool away, int tries);
   void Keep(SaveRequest request);
   void BackToLive();
   void PutAway();

@@ -102,14 +102,12 @@ void CaptureSession::Saved(const SavedRecording& saved) {
   const bool both = two_;
   std::vector<std::string> paths{saved.videos[0]};
   if (both) paths.push_back(saved.videos[1]);
+  const std::string fault = tallies_[0].fault.empty() ? tallies_[1].fault : tallies_[0].fault;
   // A timer's next video is called alike.
   if (timed) parts_.naming.GetVideoName();
   else parts_.naming.NameUsed();
   BackToLive();
-  if (timed) {
-    if (!saved.note.empty()) Say(saved.note);
-    return timed->TimedKept();
-  }
+  if (timed) return timed->TimedKept(saved.note.empty() ? fault : saved.note);
   Say(both ? "Both Videos Saved Successfully" : "Last Video Saved Successfully");
   if (!saved.note.empty()) parts_.host.Message(MessageKind::Warning, "", saved.note);
   SayReadyLater();
@@ -128,34 +126,52 @@ void CaptureSession::SendToAnalysis() {
 }
 
 bool CaptureSession::StartTimed(ITimedEvents& events) {
-  if (phase_ != CapturePhase::LivePreview || saving_ || monitoring_.Armed()) return false;
+  if (phase_ != CapturePhase::LivePreview || saving_ || monitoring_.Armed()) {
+    Say("The cameras are busy with another recording.");
+    return false;
+  }
   timed_ = &events;
   StartCapture();
   if (phase_ != CapturePhase::Writing) timed_ = nullptr;
   return timed_ != nullptr;
 }
 
+/// Ends in TimedKept or TimedFailed, now or when the recording has been kept.
 void CaptureSession::StopTimed() {
   if (!timed_ || phase_ != CapturePhase::Writing) return;
   reviewed_ = EndRecording();
   TrimStartFrame_ = TrimEndFrame_ = 0;
   phase_ = CapturePhase::Reviewing;
-  const auto info = ReadVideoInfo(reviewed_.paths[0]);
-  if (!info) {
+  std::array<std::unique_ptr<VideoInfo>, 2> infos;
+  for (std::size_t i = 0; i < 2; ++i)
+    if (!reviewed_.paths[i].empty()) infos[i] = ReadVideoInfo(reviewed_.paths[i]);
+  // What cannot be read now may be mended later.
+  for (std::size_t i = 0; i < 2; ++i)
+    if (!infos[i]) parts_.files.Park(std::exchange(reviewed_.paths[i], {}), {});
+  if (!infos[0] && infos[1]) {
+    std::swap(infos[0], infos[1]);
+    std::swap(reviewed_.paths[0], reviewed_.paths[1]);
+    std::swap(tallies_[0], tallies_[1]);
+    secondAlone_ = true;
+  }
+  if (!infos[0] || parts_.naming.CapturedVideoPath().empty()) {
     ITimedEvents* timed = std::exchange(timed_, nullptr);
-    const std::string fault = tallies_[0].fault;
+    std::string why =
+        tallies_[0].fault.empty() ? "The camera gave no picture. Nothing was recorded." : tallies_[0].fault;
+    if (infos[0]) {
+      why = "The folder for the video is not there any more.";
+      parts_.files.Park(reviewed_.paths[0], reviewed_.paths[1]);
+      reviewed_ = {};
+    }
     BackToLive();
-    Say(fault.empty() ? "The camera gave no picture. Nothing was recorded." : fault);
+    Say(why);
     return timed->TimedFailed();
   }
   // A raw recording is always compressed: nobody is there to see a disk fill up.
   const bool dv = parts_.setup.DVMode();
   SaveRequest request;
-  request.flags = CaptureFlags(parts_.settings, dv, FactsOf(*info));
-  for (std::size_t camera = 0; camera < 2 && !reviewed_.paths[camera].empty(); ++camera) {
-    const auto video = ReadVideoInfo(reviewed_.paths[camera]);
-    request.recompress[camera] = !dv && video && FactsOf(*video).raw;
-  }
+  request.flags = CaptureFlags(parts_.settings, dv, FactsOf(*infos[0]));
+  for (std::size_t i = 0; i < 2; ++i) request.recompress[i] = !dv && infos[i] && FactsOf(*infos[i]).raw;
   Keep(std::move(request));
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 #include "core/Settings.h"
 
@@ -9,6 +10,7 @@ namespace kinalyx {
 namespace {
 
 constexpr int kPollMs = 50;
+constexpr int kFinishMs = 3000;   ///< with which a program that ends waits for what is being kept
 constexpr int kRestartMs = 1200;  ///< how long it is told that a video was kept
 
 constexpr std::string_view kBlocks[] = {"MV Block Recording", "MV Block Recording 2"};
@@ -32,7 +34,7 @@ Monitoring::Monitoring(Parts parts)
     : parts_(parts),
       keeper_({.settings = parts.settings,
                .setup = parts.setup,
-               .naming = parts.naming,
+               .files = parts.files,
                .jobs = parts.jobs,
                .events = *this,
                .trimProgram = parts.trimProgram}) {}
@@ -40,6 +42,7 @@ Monitoring::Monitoring(Parts parts)
 Monitoring::~Monitoring() = default;
 
 void Monitoring::Arm(bool on) {
+  if (on && !Keeping()) pending_ = 0;
   armed_ = on;
   restartTimer_.Stop();
 }
@@ -71,15 +74,16 @@ Outcome Monitoring::Prepare(IGraph& graph, int cameras, bool second) {
     const Outcome set = graph.GraphSetFileSink(kWriters[camera], parts_.files.TriggeredPath(camera));
     if (!set) return set;
   }
-  if (!keeper_.Busy()) parts_.files.ParkBlocks();
   cameras_ = cameras;
-  pending_ = 0;
-  keeper_.Begin(cameras, second);
+  writers_ = {keeper_.Begin(cameras, second, parts_.naming), {}};
   return Outcome();
 }
 
 void Monitoring::Begin(IGraph& graph) {
   graph_ = &graph;
+  for (int camera = 0; camera < cameras_; ++camera)
+    if (const IBlockRecordingFilter* block = Block(camera))
+      writers_.cameras[static_cast<std::size_t>(camera)] = block->Blocks();
   TakeLevels();
   UpdateAudioLevelTimer_ = HostTimer(parts_.host, kPollMs, true, [this] { Poll(); });
   SayWaiting();
@@ -89,9 +93,9 @@ void Monitoring::End() {
   if (!graph_) return;
   UpdateAudioLevelTimer_.Stop();
   windowTimer_.Stop();
-  Fetch();
-  keeper_.End();
   graph_ = nullptr;
+  ending_.push_back(std::exchange(writers_, {}));
+  FetchEnding();
   if (Sound()) parts_.events.SoundCame(0, false);
 }
 
@@ -121,7 +125,30 @@ void Monitoring::BlockWritten() { Fetch(); }
 
 void Monitoring::Fetch() {
   for (int camera = 0; camera < cameras_; ++camera)
-    if (IBlockRecordingFilter* block = Block(camera)) keeper_.Take(camera, block->TakeWritten());
+    if (const auto& writer = writers_.cameras[static_cast<std::size_t>(camera)])
+      keeper_.Take(writers_.run, camera, writer->TakeWritten());
+}
+
+/// A slow disk may still be at the last blocks of a graph that is no more.
+void Monitoring::FetchEnding() {
+  for (auto at = ending_.begin(); at != ending_.end();) {
+    bool writing = false;
+    for (int camera = 0; camera < 2; ++camera) {
+      const auto& writer = at->cameras[static_cast<std::size_t>(camera)];
+      if (!writer) continue;
+      writing = writer->Writing() || writing;
+      keeper_.Take(at->run, camera, writer->TakeWritten());
+    }
+    if (!writing) keeper_.End(at->run);
+    at = writing ? std::next(at) : ending_.erase(at);
+  }
+  if (ending_.empty()) endingTimer_.Stop();
+  else if (!endingTimer_.Running()) endingTimer_ = HostTimer(parts_.host, kPollMs, true, [this] { FetchEnding(); });
+}
+
+void Monitoring::FinishKeeping() {
+  const std::int64_t until = parts_.host.timeGetTime() + kFinishMs;
+  while (Keeping() && parts_.host.timeGetTime() < until) parts_.host.DoEvents();
 }
 
 bool Monitoring::Fire() {
@@ -164,12 +191,12 @@ MemoryTally Monitoring::Memory() const {
 void Monitoring::BlockKept(const SavedRecording& saved, int videos) {
   pending_ = std::max(0, pending_ - 1);
   CapturedCount_ += videos;
+  parts_.naming.GetVideoName();  // the next of the series
   parts_.events.MonitoringKept(saved.videos[0]);
   // Who has triggered again hears of that.
   if (!saved.note.empty()) return parts_.events.MonitoringSays(saved.note);
-  if (pending_ > 0) return;
+  if (pending_ > 0 || !armed_) return;
   parts_.events.MonitoringSays(std::string(kSaved));
-  if (!graph_) return;
   restartTimer_ = HostTimer(parts_.host, kRestartMs, false, [this] {
     if (armed_ && pending_ == 0) SayWaiting();
   });
@@ -177,8 +204,8 @@ void Monitoring::BlockKept(const SavedRecording& saved, int videos) {
 
 void Monitoring::BlockLost(const std::string& why) {
   pending_ = std::max(0, pending_ - 1);
+  ++lost_;
   parts_.host.Note(MessageKind::Warning, "A triggered video was not kept.");
-  if (!keeper_.Busy()) parts_.files.ParkBlocks();
   parts_.events.MonitoringSays("Last Video WAS NOT SAVED: " + why);
 }
 

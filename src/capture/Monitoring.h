@@ -1,9 +1,11 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <memory>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "capture/BlockKeeper.h"
 #include "capture/TriggerTimes.h"
@@ -82,8 +84,12 @@ class Monitoring : private IBlockEvents {
   void ResetCount() { CapturedCount_ = 0; }
   /// `TriggerPending`: a trigger has fired, and its video is not kept yet.
   bool TriggerPending() const { return pending_ > 0; }
-  /// Blocks are being kept.
-  bool Keeping() const { return keeper_.Busy(); }
+  /// Blocks are being written or kept of which the user does not see the run any more.
+  bool Keeping() const { return keeper_.Busy() || !ending_.empty(); }
+  /// Waits a while, pumping events, until there are none.
+  void FinishKeeping();
+  /// How many videos could not be kept.
+  int LostCount() const { return lost_; }
   MemoryTally Memory() const;
 
  private:
@@ -92,6 +98,7 @@ class Monitoring : private IBlockEvents {
   IBlockRecordingFilter* Block(int camera) const;
   void Poll();
   void Fetch();
+  void FetchEnding();
   void SayWaiting();
 
   void BlockKept(const SavedRecording& saved, int videos) override;
@@ -99,14 +106,24 @@ class Monitoring : private IBlockEvents {
 
   Parts parts_;
   BlockKeeper keeper_;
-  IGraph* graph_ = nullptr;  ///< that runs
+  /// Of a run: what writes its blocks.
+  struct Writers {
+    int run = 0;
+    std::array<std::shared_ptr<IBlockWriter>, 2> cameras;
+  };
+
+  IGraph* graph_ = nullptr;      ///< that runs
+  Writers writers_;              ///< of that
+  std::vector<Writers> ending_;  ///< of graphs that have been stopped, and still at it
   int cameras_ = 1;
   bool armed_ = false;
   int pending_ = 0;
   int CapturedCount_ = 0;
+  int lost_ = 0;
   HostTimer UpdateAudioLevelTimer_;
   HostTimer windowTimer_;  ///< to the end of a trigger's window
   HostTimer restartTimer_;
+  HostTimer endingTimer_;
 };
 
 }  // namespace kinalyx

@@ -22,6 +22,7 @@ constexpr double kAfter = 10;
 constexpr double kOneClick = 25;
 /// Of a click: the pictures of the moment itself.
 constexpr double kClickEnd = 0.1;
+constexpr double kShortest = 0.1;
 constexpr int kMiddle = 50;
 /// Between the middle and either end of the input level.
 constexpr double kDecibels = 12;
@@ -44,7 +45,10 @@ double SecondsOf(std::string_view entry, double standard) {
 }
 
 TriggerWindow SoundWindow(const Settings& settings) {
-  return {-SecondsOf(settings.TriggerTime[0], kBefore), SecondsOf(settings.TriggerTime[1], kAfter)};
+  TriggerWindow window{-SecondsOf(settings.TriggerTime[0], kBefore), SecondsOf(settings.TriggerTime[1], kAfter)};
+  // Nothing at all is what nobody means.
+  window.end = std::max(window.end, window.start + kShortest);
+  return window;
 }
 
 TriggerWindow OneClickWindow(const Settings& settings) {

@@ -54,7 +54,7 @@ std::string FreeParkedName(const std::string& folder) {
 void ParkPair(const std::string& folder, const std::string& first, const std::string& second) {
   std::vector<std::string> there;
   for (const std::string& name : {first, second})
-    if (EntryExists(JoinPath(folder, name))) there.push_back(JoinPath(folder, name));
+    if (!name.empty() && EntryExists(JoinPath(folder, name))) there.push_back(JoinPath(folder, name));
   if (there.empty()) return;
   const std::string name = FreeParkedName(folder);
   MoveAway(there[0], JoinPath(folder, name));
@@ -110,8 +110,8 @@ std::string WorkingFiles::TriggeredPath(int camera) const {
   return JoinPath(folder_, WorkingNames(seat_)[static_cast<std::size_t>(2 + camera)]);
 }
 
-void WorkingFiles::ParkBlocks() const {
-  if (lock_) ParkSeatBlocks(folder_, seat_);
+void WorkingFiles::Park(const std::string& path, const std::string& second) const {
+  ParkPair(folder_, path.empty() ? path : LastName(path), second.empty() ? second : LastName(second));
 }
 
 void WorkingFiles::Discard() const {

@@ -24,8 +24,9 @@ class WorkingFiles {
   const std::string& Path(int camera) const { return paths_[static_cast<std::size_t>(camera)]; }
   /// Beside which the blocks of triggers are written, of camera 0 or 1. The seat is taken by Prepare.
   std::string TriggeredPath(int camera) const;
-  /// Takes blocks that nobody is at any more away from their names, see ParkRecordings.
-  void ParkBlocks() const;
+  /// Has a recording that could not be kept be found as an unfinished one, see ParkRecordings. What is not there, or
+  /// has no name, is passed over.
+  void Park(const std::string& path, const std::string& second) const;
   /// Throws away what was recorded.
   void Discard() const;
 

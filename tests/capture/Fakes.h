@@ -74,15 +74,20 @@ class FakeGraph final : public IGraph {
   };
 
   /// Blocks are what the test says.
+  struct BlockWriter final : IBlockWriter {
+    std::vector<WrittenBlock> written;
+    bool writing = false;
+    bool Writing() const override { return writing; }
+    std::vector<WrittenBlock> TakeWritten() override { return std::exchange(written, {}); }
+  };
   struct Block final : IBlockRecordingFilter {
     double start = 0;
     double end = 0;
-    std::vector<WrittenBlock> written;
+    std::shared_ptr<BlockWriter> writer;  ///< of the run
     void BlockRecordingSetStart(double seconds) override { start = seconds; }
     void BlockRecordingSetEnd(double seconds) override { end = seconds; }
     double EndOffset() const override { return end; }
-    bool Writing() const override { return false; }
-    std::vector<WrittenBlock> TakeWritten() override { return std::exchange(written, {}); }
+    std::shared_ptr<IBlockWriter> Blocks() const override { return writer; }
     void Remember(double) override {}
     void SetBound(std::int64_t) override {}
     RingTally Ring() const override { return {1.5, 3 << 20, 64 << 20}; }
@@ -140,6 +145,7 @@ class FakeGraph final : public IGraph {
   }
   Outcome GraphRun() override {
     running = true;
+    for (Block& block : blocks) block.writer = std::make_shared<BlockWriter>();
     return {};
   }
   Outcome GraphStop() override {

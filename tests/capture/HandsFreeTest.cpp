@@ -37,9 +37,9 @@ class HandsFreeTest : public SessionTest {
     block.tally.pictures = 12;
     block.tally.fault = fault;
     std::filesystem::copy_file(MakeTestVideo(MjpegVideo(12)), block.path);
-    graph->blocks[camera].written.push_back(block);
+    graph->blocks[camera].writer->written.push_back(block);
   }
-  void WriteEmpty(int camera, int shot) { graph->blocks[camera].written.push_back({"none.avi", shot, 1, {}}); }
+  void WriteEmpty(int camera, int shot) { graph->blocks[camera].writer->written.push_back({"none.avi", shot, 1, {}}); }
   void Settle() {
     for (int i = 0; i < 200 && session->Triggers().Keeping(); ++i) library.host.Advance(20);
   }
@@ -175,6 +175,43 @@ TEST_F(HandsFreeTest, ItNeedsANameAndAMicrophoneAndComesBackWhenTheyDo) {
     Settle();
   }
   EXPECT_EQ(Videos(), (std::vector<std::string>{"(001) Vault.avi", "(002) Vault.avi"})) << "a series has one name";
+}
+
+TEST_F(HandsFreeTest, VideosGoToTheStudentForWhomTheyWereTakenAndALostOneDragsNobody) {
+  Choose(CaptureMethod::OneClick);
+  session->PressMonitor();
+  const auto writer = graph->blocks[0].writer;
+  Graph().TriggerFired("MV Switch", 1, 1);
+  Write(0, 2);
+  const WrittenBlock late = writer->written.front();
+  writer->written.clear();
+  writer->writing = true;
+  WriteEmpty(0, 1);
+  Graph().BlockWritten("MV Block Recording");
+  EXPECT_TRUE(session->Status().starts_with("Last Video WAS NOT SAVED")) << session->Status();
+  EXPECT_TRUE(FileExists(late.path)) << "it is still being written";
+  session->PressMonitor();
+  naming.SetFolder(library.Folder("Anna/Somebody else"));
+  // A slow disk has come to its end now.
+  writer->written.push_back(late);
+  writer->writing = false;
+  library.host.Advance(100);
+  Settle();
+  EXPECT_EQ(Videos().size(), 1U);
+  EXPECT_EQ(session->Status(), "Press \"Start to Monitor\" to start monitoring.") << "nothing is restarted";
+}
+
+TEST_F(HandsFreeTest, WhatCanBePluggedInMeanwhileChangesNothing) {
+  Choose(CaptureMethod::OneClick);
+  session->PressMonitor();
+  graph->sinks["mark"] = "this run";
+  devices.Plug(MakeCamera("Third"));
+  session->Rebuild();
+  EXPECT_TRUE(graph->sinks.contains("mark"));
+  Write(0, 1, "The disk is full.");
+  Graph().BlockWritten("MV Block Recording");
+  Settle();
+  EXPECT_EQ(session->Status(), "The disk is full. What was recorded is kept.");
 }
 
 TEST_F(HandsFreeTest, TheOtherCameraIsNotDisturbedWhileOneIsAway) {
@@ -317,12 +354,17 @@ TEST_F(BeepTest, ACameraThatGivesNothingEndsTheCycleAndANameMustBeThere) {
   library.host.Advance(7500);
   EXPECT_FALSE(beep.Running());
   EXPECT_EQ(session->Status(), "The camera gave no picture. Nothing was recorded.");
-  beep.Press();
-  library.host.Advance(5500);
-  GiveVideo();
-  Graph().SourceFailed("VideoSource", "The camera gives no picture.");
-  library.host.Advance(1000);
-  EXPECT_EQ(Videos().size(), 1U) << "what came is kept";
+  for (const bool disk : {false, true}) {
+    beep.Press();
+    library.host.Advance(5500);
+    GiveVideo();
+    if (disk) Graph().SinkFailed("FileWriter", "The disk is full.");
+    else Graph().SourceFailed("VideoSource", "The camera gives no picture.");
+    library.host.Advance(1000);
+    EXPECT_EQ(Videos().size(), disk ? 2U : 1U) << "what came is kept";
+    beep.Press();
+    EXPECT_FALSE(beep.Running());
+  }
 }
 
 TEST(TriggerTimes, ReadWhatIsWrittenAndFallBackOnTheFirstRun) {

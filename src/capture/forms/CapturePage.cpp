@@ -117,6 +117,7 @@ CapturePage::CapturePage(Parts parts, QWidget* parent)
                           .settings = parts_.settings,
                           .setup = parts_.setup,
                           .naming = parts_.naming,
+                          .names = *names_,
                           .session = *session_,
                           .meter = *this,
                           .sounds = parts_.sounds,
@@ -140,6 +141,7 @@ CapturePage::CapturePage(Parts parts, QWidget* parent)
 
 CapturePage::~CapturePage() {
   parts_.setup.SetEvents(nullptr);
+  session_->Triggers().FinishKeeping();
   delete hands_;
   session_.reset();
 }
@@ -227,7 +229,7 @@ QWidget* CapturePage::MakeStage() {
   for (int camera = 0; camera < 2; ++camera) {
     live_[camera] = new LiveView(QString("ezVidCap%1").arg(camera + 1));
     liveRow->addWidget(live_[camera], 1);
-    connect(live_[camera], &LiveView::Pressed, this, [this] { hands_->OneClickbtn_Click(1); });
+    connect(live_[camera], &LiveView::Pressed, this, [this] { hands_->FireByMouse(); });
     connect(live_[camera], &LiveView::RoomChanged, this,
             [this, camera](QSize room) { session_->WantSize(camera, room.width(), room.height()); });
     review_[camera] = new PreviewPlayer(parts_.services);
@@ -320,6 +322,10 @@ void CapturePage::ConnectParts() {
           [this](const UnfinishedRecording& recording) { session_->ReviewUnfinished(recording); });
   connect(hands_, &HandsFree::MethodChosen, this, [this] {
     session_->Rebuild();
+    ShowPhase();
+  });
+  connect(hands_, &HandsFree::Changed, this, [this] {
+    if (hands_->Running()) back_->hide();
     ShowPhase();
   });
   connect(names_, &NamingPanel::Told, status_, &StatusLine::Say);
@@ -571,6 +577,11 @@ void CapturePage::VideoKept() {
 void CapturePage::CaptureChanged() {
   if (session_ && std::exchange(lastSaved_, session_->LastSavedVideo()) != session_->LastSavedVideo()) VideoKept();
   ShowPhase();
+  const int lost = session_ ? session_->Triggers().LostCount() : 0;
+  if (lost > offered_ && !hands_->Running()) {
+    offered_ = lost;
+    unfinished_->LookAgain();
+  }
 }
 
 void CapturePage::SoundCame(double level, bool fired) {

@@ -149,8 +149,9 @@ class CapturePage : public PageWidget, private ICapturePage, private IMeterEvent
   Button* CapSendbtn_;
   StatusLine* status_;
   FindCamForm* asking_ = nullptr;  ///< that is on the screen
-  bool open_ = false;   ///< on the screen
-  bool asked_ = false;  ///< for a camera that is missing
+  int offered_ = 0;                ///< of the triggered videos that were lost
+  bool open_ = false;              ///< on the screen
+  bool asked_ = false;             ///< for a camera that is missing
   bool reviewShown_ = false;
 };
 

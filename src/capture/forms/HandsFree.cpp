@@ -1,5 +1,6 @@
 #include "capture/forms/HandsFree.h"
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QButtonGroup>
 #include <QComboBox>
@@ -12,6 +13,7 @@
 
 #include "capture/RemoteKeys.h"
 #include "capture/forms/CountPanel.h"
+#include "capture/forms/NamingPanel.h"
 #include "capture/forms/SoundMeter.h"
 #include "core/Settings.h"
 #include "platform/files/Folders.h"
@@ -159,13 +161,11 @@ void HandsFree::MakeClick() {
 }
 
 void HandsFree::MakeBeep() {
-  constexpr int kMostSeconds = 60;
-  constexpr int kMostCycles = 50;
   auto* ground = new QWidget;
   QVBoxLayout* rows = Rows(ground);
-  BeepArray_[0] = MakeBeepSlider(*rows, 0, "Seconds to wait", kMostSeconds);
-  BeepArray_[1] = MakeBeepSlider(*rows, 1, "Seconds to capture", kMostSeconds);
-  BeepArray_[2] = MakeBeepSlider(*rows, 2, "Captures in cycle", kMostCycles);
+  BeepArray_[0] = MakeBeepSlider(*rows, 0, "Seconds to wait", kMostBeepSeconds);
+  BeepArray_[1] = MakeBeepSlider(*rows, 1, "Seconds to capture", kMostBeepSeconds);
+  BeepArray_[2] = MakeBeepSlider(*rows, 2, "Captures in cycle", kMostBeepCycles);
   rows->addStretch(1);
   pages_->addWidget(ground);
 }
@@ -247,7 +247,7 @@ void HandsFree::MakeButtons() {
   connect(AutoCapturebtn_, &QPushButton::clicked, this, &HandsFree::AutoCapturebtn_Click);
   connect(OneClickbtn_[0], &QPushButton::clicked, this, [this] { OneClickbtn_Click(0); });
   // Pressed, not clicked: the moment counts.
-  connect(OneClickbtn_[1], &QPushButton::pressed, this, [this] { OneClickbtn_Click(1); });
+  connect(OneClickbtn_[1], &QPushButton::pressed, this, &HandsFree::FireByMouse);
   connect(BeepCaptureStart_, &QPushButton::clicked, this, &HandsFree::BeepCaptureStart_Click);
 
   const auto add = [this](const QKeySequence& keys) {
@@ -270,16 +270,32 @@ void HandsFree::CapOptionBtn_Click(int method) {
 
 void HandsFree::AutoCapturebtn_Click() {
   meter_.Stop();
-  parts_.session.PressMonitor();
+  PressMonitor();
 }
 
 void HandsFree::OneClickbtn_Click(int index) {
   if (index == 1) return static_cast<void>(parts_.session.Triggers().Fire());
-  parts_.session.PressMonitor();
+  PressMonitor();
   MainButton()->setFocus();
 }
 
-void HandsFree::BeepCaptureStart_Click() { beep_.Press(); }
+void HandsFree::PressMonitor() {
+  if (parts_.session.Triggers().Armed() || parts_.names.TakeTyped()) parts_.session.PressMonitor();
+  emit Changed();
+}
+
+/// The second press of a double click means the same moment.
+void HandsFree::FireByMouse() {
+  const bool again = sinceMouse_.isValid() && sinceMouse_.elapsed() < QApplication::doubleClickInterval();
+  sinceMouse_.start();
+  if (!again) OneClickbtn_Click(1);
+}
+
+void HandsFree::BeepCaptureStart_Click() {
+  if (!beep_.Running() && !parts_.names.TakeTyped()) return;
+  parts_.session.ForgetPutAway();
+  beep_.Press();
+}
 
 void HandsFree::StopAnyCapture() {
   beep_.Stop();
@@ -290,7 +306,6 @@ void HandsFree::StopAnyCapture() {
 // ---------------------------------------------------------------- what is shown
 
 void HandsFree::SetupCapMode(bool shown) {
-  shown_ = shown;
   const CaptureMethod method = parts_.setup.Method();
   const bool armed = parts_.session.Triggers().Armed();
   const bool sound = method == CaptureMethod::Sound, click = method == CaptureMethod::OneClick;
@@ -350,7 +365,7 @@ void HandsFree::SoundCame(double level, bool fired) {
 
 void HandsFree::BeepChanged() {
   CountPnl_->Show(Q(beep_.Count()));
-  SetupCapMode(shown_);
+  emit Changed();
 }
 
 }  // namespace kinalyx

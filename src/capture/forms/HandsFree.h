@@ -4,6 +4,7 @@
 #include <memory>
 #include <vector>
 
+#include <QElapsedTimer>
 #include <QWidget>
 
 #include "capture/BeepCapture.h"
@@ -21,6 +22,7 @@ namespace kinalyx {
 
 class Button;
 class CountPanel;
+class NamingPanel;
 class Panel;
 class SoundMeter;
 
@@ -35,6 +37,7 @@ class HandsFree : public QObject, private IBeepEvents {
     Settings& settings;
     CaptureSetup& setup;
     VideoNaming& naming;
+    NamingPanel& names;
     CaptureSession& session;
     IMeterEvents& meter;
     IShortSounds& sounds;
@@ -57,6 +60,8 @@ class HandsFree : public QObject, private IBeepEvents {
   void SetupCapMode(bool shown);
   /// The meter of the microphone, 0 to 1.
   void SoundCame(double level, bool fired);
+  /// A press on the picture, or on the button.
+  void FireByMouse();
   /// The page is left.
   void StopAnyCapture();
   bool Running() const { return beep_.Running() || parts_.session.Triggers().Armed(); }
@@ -69,6 +74,8 @@ class HandsFree : public QObject, private IBeepEvents {
 
  signals:
   void MethodChosen();
+  /// Something has begun or ended.
+  void Changed();
 
  private:
   void MakeSound();
@@ -79,7 +86,7 @@ class HandsFree : public QObject, private IBeepEvents {
   QSlider* MakeBeepSlider(QLayout& rows, int index, const QString& caption, int most);
   void FillTimes();
   void ShowCounts();
-  void FireByKey();
+  void PressMonitor();
   std::int32_t& BeepSetting(int index);
 
   void BeepChanged() override;
@@ -107,7 +114,7 @@ class HandsFree : public QObject, private IBeepEvents {
   std::array<Button*, 2> OneClickbtn_{};
   Button* BeepCaptureStart_;
   CountPanel* CountPnl_;
-  bool shown_ = false;
+  QElapsedTimer sinceMouse_;
 };
 
 }  // namespace kinalyx

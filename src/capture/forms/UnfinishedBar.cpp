@@ -50,6 +50,11 @@ void UnfinishedBar::LookForThem() {
   finder_.Start(std::make_unique<FindUnfinished>(folder_), std::make_unique<Finding>(*this));
 }
 
+void UnfinishedBar::LookAgain() {
+  looked_ = false;
+  LookForThem();
+}
+
 void UnfinishedBar::SetUsable(bool usable) {
   usable_ = usable;
   ShowLatest();

@@ -22,6 +22,8 @@ class UnfinishedBar : public QFrame {
 
   /// Looks for them, beside the user's own work; the second call and those after it do nothing.
   void LookForThem();
+  /// Looks once more: something could not be kept.
+  void LookAgain();
   /// A recording could be looked at now. Otherwise the bar is out of sight.
   void SetUsable(bool usable);
 

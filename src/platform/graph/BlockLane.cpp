@@ -20,7 +20,7 @@ using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
 /// With which a picture is waited for whose time is over: those of a network come late.
-constexpr auto kLatePatience = 2s;
+constexpr auto kLatePatience = 4s;
 
 struct Block {
   BlockLane::Window window;
@@ -115,7 +115,7 @@ RecordingTally BlockLane::Tally() const {
 }
 
 void BlockLane::Push(PackedPicture picture) {
-  desk_->ring->Push(picture);
+  if (!desk_->ring->Push(picture)) return;
   const std::lock_guard lock(desk_->mutex);
   desk_->pushedNs = picture.ns;
   if (!desk_->blocks.empty()) desk_->changed.notify_all();

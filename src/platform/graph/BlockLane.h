@@ -14,7 +14,7 @@ namespace kinalyx {
 /// The way of one camera's pictures into a ring, and out of it to the file of each block: a thread of its own writes,
 /// one block after the other, while the ring goes on. A disk that is behind loses pictures only once the bound of the
 /// ring is reached, and the file counts them. A thread that hangs in its disk is left to itself.
-class BlockLane final : public IPictureLane {
+class BlockLane final : public IPictureLane, public IBlockWriter {
  public:
   /// A stretch of time of which a file is to be made.
   struct Window {
@@ -42,8 +42,8 @@ class BlockLane final : public IPictureLane {
 
   void Write(const Window& window);
   void Write(int shot, std::vector<PackedPicture> pictures);
-  bool Writing() const;
-  std::vector<WrittenBlock> TakeWritten();
+  bool Writing() const override;
+  std::vector<WrittenBlock> TakeWritten() override;
 
  private:
   struct Desk;

@@ -88,6 +88,17 @@ struct WrittenBlock {
   RecordingTally tally;
 };
 
+/// The blocks of one run of a block recorder. They are written to their end also when the graph has been stopped, or
+/// is another one: a slow disk may take a while. Any thread.
+class IBlockWriter {
+ public:
+  virtual ~IBlockWriter() = default;
+  /// A block is under way: its window is not over, or it is still being written.
+  virtual bool Writing() const = 0;
+  /// The blocks whose files have been closed since it was asked last.
+  virtual std::vector<WrittenBlock> TakeWritten() = 0;
+};
+
 /// `MV Block Recording`: remembers the pictures of the last seconds as the camera gave them, and writes those around
 /// each trigger into a file of their own, see GraphSetFileSink. It goes on remembering meanwhile: the next trigger
 /// counts as soon as the window of the one before is over, also when that is still being written.
@@ -97,11 +108,9 @@ class IBlockRecordingFilter : public IGraphFilter {
   virtual void BlockRecordingSetStart(double seconds) = 0;
   virtual void BlockRecordingSetEnd(double seconds) = 0;
   virtual double EndOffset() const = 0;
-  /// A block is under way: its window is not over, or it is still being written.
-  virtual bool Writing() const = 0;
-  /// The blocks whose files have been closed since it was asked last. When the graph has been stopped, all are, with
-  /// what had come of their windows.
-  virtual std::vector<WrittenBlock> TakeWritten() = 0;
+  /// What writes the blocks of the run under way, or of the last one; null before the first. When the graph is
+  /// stopped, windows end with what has come of them.
+  virtual std::shared_ptr<IBlockWriter> Blocks() const = 0;
   /// @param seconds  that it remembers at least, whatever the window
   virtual void Remember(double seconds) = 0;
   /// @param bytes  that its pictures may take
@@ -133,7 +142,7 @@ class IGraphEvents {
   /// A trigger has fired, and the block recorders behind it are at work.
   /// @param label  of the trigger
   virtual void TriggerFired(const std::string& /*label*/, int /*shot*/, std::int64_t /*ns*/) {}
-  /// The recorder of that label has closed the file of a block, see TakeWritten.
+  /// The recorder of that label has closed the file of a block, see Blocks.
   virtual void BlockWritten(const std::string& /*label*/) {}
   /// All sources have come to their end, and the files are closed.
   virtual void EndOfStream() = 0;

@@ -18,8 +18,9 @@ namespace {
 using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
-constexpr auto kFilesPatience = 2s;    // with which the files of a run are waited for
-constexpr auto kDevicesPatience = 1s;  // with which, at the end of all, its devices are
+constexpr auto kFilesPatience = 2s;      // with which the files of a run are waited for
+constexpr auto kBlocksPatience = 200ms;  // with which those of triggers are: they are written all the same
+constexpr auto kDevicesPatience = 1s;    // with which, at the end of all, its devices are
 
 }  // namespace
 
@@ -222,7 +223,9 @@ Outcome LiveGraph::Engine::StopRun() {
   bool closed = true;
   for (const auto& writer : faces.writers) {
     if (!writer) continue;
-    closed = writer->Lane()->WaitClosed(until) && closed;
+    const auto lane = writer->Lane();
+    if (std::dynamic_pointer_cast<BlockLane>(lane)) (void)lane->WaitClosed(Clock::now() + kBlocksPatience);
+    else closed = lane->WaitClosed(until) && closed;
     writer->SetLane(nullptr);
   }
   run->Stop();

@@ -25,13 +25,14 @@ auto FirstAfter(const std::deque<PackedPicture>& pictures, std::int64_t ns) {
 
 }  // namespace
 
-void PictureRing::Push(const PackedPicture& picture) {
+bool PictureRing::Push(const PackedPicture& picture) {
   PackedPicture copy = CopyOf(picture);
   const std::lock_guard lock(mutex_);
-  if (!pictures_.empty() && copy.ns <= pictures_.back().ns) return;
+  if (!pictures_.empty() && copy.ns <= pictures_.back().ns) return false;
   bytes_ += static_cast<std::int64_t>(copy.size);
   pictures_.push_back(std::move(copy));
   Forget();
+  return true;
 }
 
 void PictureRing::Clear() {

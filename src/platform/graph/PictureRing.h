@@ -16,8 +16,8 @@ namespace kinalyx {
 /// it. Times are nanoseconds of CLOCK_MONOTONIC.
 class PictureRing {
  public:
-  /// Remembers a picture; one that is not later than the last is left out.
-  void Push(const PackedPicture& picture);
+  /// Remembers a picture; false for one that is not later than the last, which is left out.
+  bool Push(const PackedPicture& picture);
   /// Forgets all.
   void Clear();
 

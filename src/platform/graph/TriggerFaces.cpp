@@ -13,6 +13,11 @@ constexpr double kSlack = 1.5;
 /// Shots that no trigger fired count from here, so that nothing pairs them with one that did.
 constexpr int kFirstUntriggered = 1'000'000;
 
+/// No clock of a microphone is further ahead.
+constexpr std::int64_t kAheadNs = 1'000'000'000;
+
+std::int64_t Now() { return std::chrono::steady_clock::now().time_since_epoch() / std::chrono::nanoseconds(1); }
+
 std::int64_t Nanoseconds(double seconds) { return std::llround(seconds * 1e9); }
 
 }  // namespace
@@ -56,15 +61,7 @@ std::shared_ptr<BlockLane> BlockFace::Lane() const {
   return lane_;
 }
 
-bool BlockFace::Writing() const {
-  const auto lane = Lane();
-  return lane && lane->Writing();
-}
-
-std::vector<WrittenBlock> BlockFace::TakeWritten() {
-  const auto lane = Lane();
-  return lane ? lane->TakeWritten() : std::vector<WrittenBlock>();
-}
+std::shared_ptr<IBlockWriter> BlockFace::Blocks() const { return Lane(); }
 
 void BlockFace::WritePictures(std::vector<PackedPicture> pictures) {
   std::unique_lock lock(mutex_);
@@ -102,6 +99,8 @@ void TriggerLine::End() {
 }
 
 bool TriggerLine::Fire(std::int64_t ns) {
+  // A stamp of tomorrow would hold up all triggers until then.
+  ns = std::min(ns, Now() + kAheadNs);
   const std::lock_guard lock(mutex_);
   if (!news_ || ns <= busyUntilNs_) return false;
   ++shots_;
@@ -114,10 +113,7 @@ bool TriggerLine::Fire(std::int64_t ns) {
   return true;
 }
 
-bool SwitchFace::Fire(std::int64_t ns) {
-  const std::int64_t now = std::chrono::steady_clock::now().time_since_epoch() / std::chrono::nanoseconds(1);
-  return line_->Fire(ns > 0 ? ns : now);
-}
+bool SwitchFace::Fire(std::int64_t ns) { return line_->Fire(ns > 0 ? ns : Now()); }
 
 double AudioTriggerFace::Level() {
   const std::lock_guard lock(mutex_);

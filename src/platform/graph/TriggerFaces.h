@@ -29,8 +29,7 @@ class BlockFace final : public IBlockRecordingFilter {
   void BlockRecordingSetStart(double seconds) override;
   void BlockRecordingSetEnd(double seconds) override;
   double EndOffset() const override;
-  bool Writing() const override;
-  std::vector<WrittenBlock> TakeWritten() override;
+  std::shared_ptr<IBlockWriter> Blocks() const override;
   void Remember(double seconds) override;
   void SetBound(std::int64_t bytes) override;
   RingTally Ring() const override;

@@ -155,7 +155,9 @@ class TriggeredGraphs : public LiveGraphs {
       ASSERT_TRUE(graph.GraphSetVideoFormat(source, 640, 480, "MJPG"));
     }
     ASSERT_TRUE(graph.GraphSetFileSink("FileWriter", folder.Path("temp1.avi")));
-    if (two) ASSERT_TRUE(graph.GraphSetFileSink("FileWriter 2", folder.Path("temp2.avi")));
+    if (two) {
+      ASSERT_TRUE(graph.GraphSetFileSink("FileWriter 2", folder.Path("temp2.avi")));
+    }
     for (const char* block : {"MV Block Recording", "MV Block Recording 2"}) {
       if (!two && block == std::string("MV Block Recording 2")) continue;
       Of<IBlockRecordingFilter>(block).BlockRecordingSetStart(-0.5);
@@ -178,7 +180,7 @@ class TriggeredGraphs : public LiveGraphs {
   std::vector<WrittenBlock> Written(const char* label, std::size_t count) {
     std::vector<WrittenBlock> all;
     EXPECT_TRUE(Comes([&] {
-      for (WrittenBlock& block : Of<IBlockRecordingFilter>(label).TakeWritten()) all.push_back(std::move(block));
+      for (WrittenBlock& block : Of<IBlockRecordingFilter>(label).Blocks()->TakeWritten()) all.push_back(std::move(block));
       return all.size() >= count;
     })) << label;
     return all;
