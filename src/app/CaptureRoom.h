@@ -35,6 +35,7 @@ class CaptureRoom {
   std::unique_ptr<IGraph> MakeGraph(IGraphEvents& events) const;
   IShortSounds& Sounds() { return *sounds_; }
   CaptureSetup& Setup() { return setup_; }
+  VideoNaming& Naming() { return naming_; }
   const std::shared_ptr<IPost>& Post() const { return post_; }
 
  private:

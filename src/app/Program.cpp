@@ -124,6 +124,11 @@ void Program::LoadMain() {
       .services = players_, .settings = settings_, .fields = fields_, .remembered = lastStudent_, .ways = *this});
   capturePage_ = capture_->MakePage();
   main_->SetPage(kCapturePage, capturePage_);
+  mirror_ = std::make_unique<MirrorRoom>(MirrorRoom::Parts{.host = *host_,
+                                                           .settings = settings_,
+                                                           .remembered = lastStudent_,
+                                                           .capture = *capture_,
+                                                           .closed = [this] { MirrorClosed(); }});
 
   handouts_ = std::make_unique<HandoutRoom>(HandoutRoom::Parts{.services = players_,
                                                                .printer = *printer_,
@@ -239,12 +244,14 @@ void Program::OpenPage(int index) {
   if (index != main_->CurrentPage() && !main_->LeavePage()) return;
   KeepLastStudent();
   if (index == kAnalysisPage) {
+    mirror_->Lend(false);
     main_->SetHeading(Q(vocabulary_.PageTitle(kAnalysisPage)));
     OpenAnalysis();
     main_->OpenPage(kAnalysisPage, "Analysis");
     return;
   }
   if (!main_->Page(index)) return;
+  mirror_->Lend(index == kCapturePage);
   if (index == kSetupPage && setup_->CurrentSection() < 0) setup_->PSCmd_Click(SetupPage::kMainMenu);
   if (index == kHelpPage) help_->Navigate("index.htm");
   main_->OpenPage(index, Q(vocabulary_.PageTitle(index)));
@@ -350,18 +357,39 @@ void Program::GoToCaptureSetup() {
   if (main_->CurrentPage() == kSetupPage) setup_->PSCmd_Click(SetupPage::kCapture);
 }
 
+/// The wish may come from the capture page, which is left by it and comes again with the end of the mirror.
+void Program::OpenMirror() {
+  mirroring_ = HostTimer(*host_, 0, false, [this] {
+    const bool captures = main_->CurrentPage() == kCapturePage;
+    if (captures) OpenPage(kMenuPage);
+    if (main_->CurrentPage() == kCapturePage) return;
+    backToCapture_ = captures;
+    mirror_->Open();
+  });
+}
+
+void Program::MirrorClosed() {
+  const bool back = std::exchange(backToCapture_, false);
+  if (!back || !main_ || main_->Closed() || main_->CurrentPage() != kMenuPage) return;
+  mirroring_ = HostTimer(*host_, 0, false, [this] {
+    if (main_ && !main_->Closed() && main_->CurrentPage() == kMenuPage) OpenPage(kCapturePage);
+  });
+}
+
 // ---------------------------------------------------------------- the end
 
 /// False when the user would rather stay than lose what could not be saved; a wish to restart ends with it.
 bool Program::MainMayClose() {
   const bool restart = std::exchange(RestartFlag_, false);
   if (main_->CurrentPage() == kCapturePage && !main_->LeavePage()) return false;
-  if (!profiles_->MayClose() || !handouts_->MayClose()) return false;
+  if (!profiles_->MayClose() || !handouts_->MayClose() || !mirror_->MayClose()) return false;
   if (analysis_ && !analysis_->CloseAll()) return false;
   if (!profiles_->SaveLastNotes() &&
       !host_->Question("", "The notes could not be saved. Do you want to close Kinalyx all the same?"))
     return false;
   main_->LeavePage();
+  backToCapture_ = false;
+  mirror_->Close();
   RestartFlag_ = restart;
   main_->setUpdatesEnabled(false);
   if (analysis_) {

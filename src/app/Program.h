@@ -6,6 +6,7 @@
 #include "app/CaptureRoom.h"
 #include "app/HandoutRoom.h"
 #include "app/Main.h"
+#include "app/MirrorRoom.h"
 #include "core/ColorSchemes.h"
 #include "core/MailSettings.h"
 #include "core/ResizeControls.h"
@@ -104,6 +105,10 @@ class Program final : private ISettingsEvents,
   void GoToAnalysis() override;
   void PathChanged(const std::string& from, const std::string& to) override;
 
+  // --- INavigation and ICaptureWays
+  void OpenMirror() override;
+  void MirrorClosed();
+
   // --- ICaptureWays and IHandoutWays
   bool OpenInAnalysis(const std::vector<std::string>& paths) override;
   void GoToCaptureSetup() override;
@@ -124,6 +129,9 @@ class Program final : private ISettingsEvents,
 
   std::unique_ptr<CaptureRoom> capture_;  ///< its page and section go with the main form, before it
 
+  std::unique_ptr<MirrorRoom> mirror_;  ///< a window beside the main form
+  bool backToCapture_ = false;          ///< when the mirror closes, for it was opened from that page
+
   std::unique_ptr<HandoutRoom> handouts_;  ///< outlives the analysis section, which goes with the main form
 
   std::unique_ptr<SplashForm> splash_;
@@ -141,6 +149,7 @@ class Program final : private ISettingsEvents,
   HostTimer settling_;
   HostTimer framing_;
   HostTimer going_;
+  HostTimer mirroring_;
   bool RestartFlag_ = false;
 };
 

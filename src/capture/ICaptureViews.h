@@ -41,6 +41,8 @@ class ICaptureWays {
   virtual bool OpenInAnalysis(const std::vector<std::string>& paths) = 0;
   /// Program Setup, section Capture.
   virtual void GoToCaptureSetup() = 0;
+  /// The window of the delayed mirror, which takes the cameras: the capture page is left for it.
+  virtual void OpenMirror() = 0;
 };
 
 }  // namespace kinalyx

@@ -68,6 +68,7 @@ class SessionTest : public testing::Test,
     return true;
   }
   void GoToCaptureSetup() override {}
+  void OpenMirror() override {}
   void SoundCame(double level, bool fired) override {
     heard = level;
     flashes += fired;

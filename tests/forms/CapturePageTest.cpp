@@ -86,6 +86,7 @@ class CapturePageTest : public ::testing::Test,
     return true;
   }
   void GoToCaptureSetup() override {}
+  void OpenMirror() override {}
 };
 
 TEST_F(CapturePageTest, ShowsWhatBelongsToEachPhase) {

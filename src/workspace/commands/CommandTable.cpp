@@ -463,6 +463,8 @@ void MenuBar::AddAdvanced() {
   // The handles lie on a picture in its window, of which the mix shows nothing.
   const auto noMix = [this] { return compare_.Transparency().TransparencyOn() ? compare_.StageTaken() : ""; };
   AddComing("CLive", kAdvanced, "Live Draw && Hot Zones");
+  Add({"CMirror", kAdvanced, "Delayed Mirror", "", "delayed-mirror", "", kNoButton,
+       [this] { navigation_.OpenMirror(); }});
   Add({"TRL",
        kAdvanced,
        "Record Lesson",
