@@ -99,6 +99,7 @@ class Page final : public ICapturePage, public ICaptureWays, public IMeterEvents
   IReviewPlayer& ReviewPlayer(int) override { return player_; }
   bool OpenInAnalysis(const std::vector<std::string>&) override { return false; }
   void GoToCaptureSetup() override {}
+  void OpenMirror() override {}
   void SoundCame(double, bool) override {}
 
   std::int64_t pictures = 0;

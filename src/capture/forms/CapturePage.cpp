@@ -273,6 +273,10 @@ QWidget* CapturePage::MakeActions() {
   CapSendbtn_->setToolTip("Saves the recording and opens it in the analysis section (Return)");
   buttons_ = new QBoxLayout(QBoxLayout::LeftToRight);
   buttons_->setSpacing(8);
+  mirror_ = new Button("MirrorBtn", "Delayed Mirror", {}, Look::Quiet);
+  mirror_->setToolTip("A window that shows the cameras some seconds ago");
+  connect(mirror_, &QPushButton::clicked, this, [this] { parts_.ways.OpenMirror(); });
+  hands_->Methods()->layout()->addWidget(mirror_);
   buttons_->addWidget(hands_->Methods());
   buttons_->addStretch(1);
   const auto add = [this](std::initializer_list<QWidget*> buttons) {
@@ -525,6 +529,7 @@ void CapturePage::ShowPhase() {
   for (CameraLine* line : lines_) line->SetUsable(live);
   for (QButtonGroup* group : {OneCamTwoOpt_, CamChoiceBtn_})
     for (QAbstractButton* button : group->buttons()) button->setEnabled(live);
+  mirror_->setEnabled(live);
   status_->Say(Q(session_->Status()));
   unfinished_->SetUsable(live);
   ShowPlaces();

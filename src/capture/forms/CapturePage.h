@@ -142,6 +142,7 @@ class CapturePage : public PageWidget, private ICapturePage, private IMeterEvent
   QWidget* reviewBar_;
   UnfinishedBar* unfinished_;
   Button* play_;
+  Button* mirror_;
   Button* Capturebtn_;
   Button* StartHerebtn_;
   Button* EndHerebtn_;

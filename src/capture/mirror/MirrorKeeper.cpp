@@ -45,9 +45,10 @@ bool MirrorKeeper::Keep(IBlockRecordingFilter& recorder, int camera, bool second
   const RecordingFormat& format = pictures.front().format;
   SaveRequest request;
   request.videos[0] = second ? parts_.naming.CapturedVideoPath2() : parts_.naming.CapturedVideoPath();
-  request.flags = CaptureFlags(parts_.settings, format.width > kWide * format.height);
-  // The choices about fields are made for camcorders; what gives whole pictures has none.
-  if (format.fields == RecordingFormat::Fields::None) request.flags.SplitFields = request.flags.ReverseFields = false;
+  RecordingFacts facts;
+  facts.wide = format.width > kWide * format.height;
+  facts.fields = format.fields != RecordingFormat::Fields::None;
+  request.flags = CaptureFlags(parts_.settings, false, facts);
   awaited_[static_cast<std::size_t>(camera)].push_back(std::move(request));
   recorder.WritePictures(std::move(pictures));
   return true;
@@ -55,7 +56,9 @@ bool MirrorKeeper::Keep(IBlockRecordingFilter& recorder, int camera, bool second
 
 void MirrorKeeper::TakeWritten(IBlockRecordingFilter& recorder, int camera) {
   auto& awaited = awaited_[static_cast<std::size_t>(camera)];
-  for (WrittenBlock& block : recorder.TakeWritten()) {
+  const std::shared_ptr<IBlockWriter> writer = recorder.Blocks();
+  if (!writer) return;
+  for (WrittenBlock& block : writer->TakeWritten()) {
     if (awaited.empty()) continue;
     SaveRequest request = std::move(awaited.front());
     awaited.pop_front();

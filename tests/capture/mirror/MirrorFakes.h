@@ -50,19 +50,24 @@ inline int NumberOf(const LivePicture& picture) {
 /// A recorder whose camera is the test.
 class FakeRecorder final : public IBlockRecordingFilter {
  public:
+  struct Writer final : IBlockWriter {
+    std::vector<WrittenBlock> blocks;
+    bool Writing() const override { return false; }
+    std::vector<WrittenBlock> TakeWritten() override { return std::exchange(blocks, {}); }
+  };
+
   std::deque<PackedPicture> pictures;
   double remembered = 0;
   std::int64_t bound = 0;
   std::string base;                                ///< of the files of its blocks
   std::vector<std::vector<std::int64_t>> written;  ///< the stamps of each block
-  std::vector<WrittenBlock> blocks;
+  std::shared_ptr<Writer> writer = std::make_shared<Writer>();
   std::string fault;  ///< of the disk
 
   void BlockRecordingSetStart(double) override {}
   void BlockRecordingSetEnd(double) override {}
   double EndOffset() const override { return 0; }
-  bool Writing() const override { return false; }
-  std::vector<WrittenBlock> TakeWritten() override { return std::exchange(blocks, {}); }
+  std::shared_ptr<IBlockWriter> Blocks() const override { return writer; }
   void Remember(double seconds) override { remembered = seconds; }
   void SetBound(std::int64_t bytes) override { bound = bytes; }
   RingTally Ring() const override {
@@ -93,7 +98,7 @@ class FakeRecorder final : public IBlockRecordingFilter {
       std::filesystem::create_directories(std::filesystem::path(block.path).parent_path());
       std::ofstream(block.path) << "pictures";
     }
-    blocks.push_back(block);
+    writer->blocks.push_back(block);
   }
 };
 

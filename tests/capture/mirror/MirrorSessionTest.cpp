@@ -177,7 +177,7 @@ TEST_F(MirrorSessionTest, KeepsWhatIsSeenUnderTheNextName) {
   library.host.Advance(9000);
   session->Keep();
   EXPECT_NEAR(static_cast<double>(graph->recorders[0].written[2].size()), 126, 1) << "of a loop all of it";
-  graph->recorders[0].blocks.clear();
+  graph->recorders[0].writer->blocks.clear();
   graph->recorders[0].fault = "The disk is full.";
   session->Keep();
   Written();
