@@ -273,10 +273,12 @@ QWidget* CapturePage::MakeActions() {
   CapSendbtn_->setToolTip("Saves the recording and opens it in the analysis section (Return)");
   buttons_ = new QBoxLayout(QBoxLayout::LeftToRight);
   buttons_->setSpacing(8);
-  mirror_ = new Button("MirrorBtn", "Delayed Mirror", {}, Look::Quiet);
+  mirror_ = new Button("MirrorBtn", "Delayed Mirror", "delayed-mirror", Look::Quiet);
   mirror_->setToolTip("A window that shows the cameras some seconds ago");
   connect(mirror_, &QPushButton::clicked, this, [this] { parts_.ways.OpenMirror(); });
-  hands_->Methods()->layout()->addWidget(mirror_);
+  auto* methods = static_cast<QHBoxLayout*>(hands_->Methods()->layout());
+  methods->addSpacing(kGap);
+  methods->addWidget(mirror_);
   buttons_->addWidget(hands_->Methods());
   buttons_->addStretch(1);
   const auto add = [this](std::initializer_list<QWidget*> buttons) {
