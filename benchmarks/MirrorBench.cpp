@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "Bench.h"
+#include "core/Settings.h"
 #include "capture/mirror/MirrorSession.h"
 #include "platform/files/Log.h"
 #include "platform/graph/DeviceSources.h"

@@ -10,6 +10,7 @@
 #include "core/Settings.h"
 #include "core/Vocabulary.h"
 #include "distribution/lessons/LessonSaver.h"
+#include "platform/graph/ImpactDetector.h"
 #include "platform/files/Folders.h"
 #include "platform/files/IniFile.h"
 #include "platform/host/DriveWatch.h"
@@ -248,7 +249,10 @@ void LessonSession::Fail(const std::string& why) {
 
 /// The level, and whether the first picture has come.
 void LessonSession::Look() {
-  if (auto* meter = graph_->GraphFilterByLabel<IAudioTriggerFilter>(kMeter)) parts_.view.ShowLevel(meter->Level());
+  if (auto* meter = graph_->GraphFilterByLabel<IAudioTriggerFilter>(kMeter)) {
+    const double level = meter->Level();
+    parts_.view.ShowLevel(level > 0 ? ImpactDetector::AmplitudeOf(level) : 0);
+  }
   if (phase_ != LessonPhase::Preparing) return;
   auto* writer = graph_->GraphFilterByLabel<IWriterFilter>(kFile);
   if (!writer || writer->Tally().pictures == 0) return;

@@ -57,7 +57,7 @@ class IWriterFilter : public IGraphFilter {
 /// `Audio Trigger`: a meter on a microphone, which fires when it hears an impact.
 class IAudioTriggerFilter : public IGraphFilter {
  public:
-  /// Loudness now, as the trigger hears it: 0 silent to 1 full.
+  /// Loudness now, as the trigger hears it: 0 silent to 1 full, by decibels, see ImpactDetector::LevelOf.
   virtual double Level() = 0;
   /// How loud an impact must be to fire, as Level counts; 1 and more: none is.
   virtual void SetThreshold(double /*level*/) {}
