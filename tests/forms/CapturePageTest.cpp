@@ -1,5 +1,6 @@
 #include "capture/forms/CapturePage.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
@@ -212,6 +213,9 @@ TEST_F(CapturePageTest, EachMethodShowsWhatBelongsToItAndNothingElseWhileItRuns)
     EXPECT_FALSE(Find<QWidget>(name)->isEnabled()) << name;
   // The mouse on the picture, the space bar, and of the remote's keys those that are switched on.
   QTest::mousePress(Find<QWidget>("ezVidCap1"), Qt::LeftButton);
+  QTest::mouseDClick(Find<QWidget>("ezVidCap1"), Qt::LeftButton);
+  EXPECT_EQ(graph->button.fired, 1) << "a double click means one moment";
+  QTest::qWait(QApplication::doubleClickInterval() + 20);
   QTest::mousePress(Find<QWidget>("OneClickbtn1"), Qt::LeftButton);
   QTest::mouseRelease(Find<QWidget>("OneClickbtn1"), Qt::LeftButton);
   EXPECT_EQ(graph->button.fired, 2);
