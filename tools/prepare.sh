@@ -11,6 +11,7 @@ kinalyx_packages=(
   gstreamer1.0-plugins-base gstreamer1.0-plugins-good gstreamer1.0-plugins-bad gstreamer1.0-libav
   gstreamer1.0-x gstreamer1.0-pulseaudio gstreamer1.0-pipewire
   libpulse-dev libglib2.0-dev libyuv-dev libturbojpeg0-dev libfmt-dev nlohmann-json3-dev libxxhash-dev
+  libopencv-core-dev libopencv-imgproc-dev
   libcups2-dev fonts-liberation
   libavc1394-tools?
 )

@@ -11,9 +11,7 @@ using enum FilterEntry;
 constexpr std::string_view kDvPictures =
     "videorate ! videoconvertscale ! video/x-raw,width=720,height=480,framerate=30000/1001 ! avenc_dvvideo";
 
-// "identity" passes pictures on unchanged. Where it says "for now", that is all until drawing upon live pictures is
-// there: an overlay or a motion detector changes nothing. The pictures
-// and the voice of a lesson are encoded by LessonLane.
+// "identity" passes pictures on unchanged. The pictures and the voice of a lesson are encoded by LessonLane.
 // clang-format off
 constexpr std::array kRows{
     // Where pictures and sound come from.
@@ -39,8 +37,10 @@ constexpr std::array kRows{
     FilterRow{"{44BC05B1-097B-4A67-8FC3-4DD15A9E7465}", "", Element, {"Input"}, {"Output"}, Raw, "deinterlace fields=top"},
     FilterRow{"{BBBB54DB-FDB3-48A4-8156-EE8BF15D015E}", "", Element, {"Input"}, {"Output"}, Raw,
               "videoconvert ! videoflip method=horizontal-flip"},
-    FilterRow{"{99DAE1B9-404C-4644-A884-D059F0B0DCE7}", "", Element, {"Input"}, {"Output"}, Raw, "identity"},  // for now
-    FilterRow{"{0E3640A7-8494-4226-AE5C-8100E4D52DAF}", "", Element, {"Input"}, {"Output"}, Raw, "identity"},  // for now
+    // Drawings are laid over the pictures by the window, in the fineness of its screen.
+    FilterRow{"{99DAE1B9-404C-4644-A884-D059F0B0DCE7}", "", Element, {"Input"}, {"Output"}, AsTheyCome, "identity"},
+    FilterRow{"{0E3640A7-8494-4226-AE5C-8100E4D52DAF}", "", Motion, {"Input"}, {"Output"}, Raw,
+              "videoconvert ! capsfilter caps=\"video/x-raw,format={{I420,Y42B,Y444}}\""},
     // Encoders and decoders. Nobody writes Indeo any more; JPEG is as good to step through, and better to look at.
     FilterRow{"{13AA3650-BB6F-11D0-AFB9-00AA00B67A42}", "", Element, {"XForm In"}, {"XForm Out"}, Raw, kDvPictures},
     FilterRow{"{1F73E9B1-8C3A-11D0-A3BE-00A0C9244436}", "", Element, {"Input"}, {"Output"}, Jpeg, "identity"},

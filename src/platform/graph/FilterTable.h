@@ -18,6 +18,7 @@ enum class FilterRole {
   Gate,
   Tee,
   Element,  ///< one picture in, one picture out
+  Motion,   ///< the same, and looks at it
   Mux,
   Writer,
   Renderer,
@@ -38,7 +39,8 @@ struct FilterRow {
   std::array<std::string_view, 4> inputs;
   std::array<std::string_view, 2> outputs;
   FilterEntry entry = FilterEntry::AsTheyCome;
-  /// Of an element: as the library for graphs describes a bin, in which {0}, {1} are words of the state.
+  /// Of an element, and of what looks at pictures: as the library for graphs describes a bin, in which {0}, {1} are
+  /// words of the state.
   std::string_view bin = {};
 
   bool HasInput(std::string_view pin) const;

@@ -65,6 +65,12 @@ class Builder {
       case FilterRole::Renderer: AppendPreview(bin, order_.faces.renderers[index], news_, order_.beginNs); break;
       case FilterRole::Writer: AppendWriter(bin, order_.faces.writers[index]->Lane()); break;
       case FilterRole::Element: AppendElement(bin, filter); break;
+      case FilterRole::Motion:
+        if (GstElement* seen = AppendElement(bin, filter)) {
+          const GstRef<GstPad> pad(gst_element_get_static_pad(seen, "src"));
+          DetectMotion(pad.get(), order_.faces.motions[index]);
+        }
+        break;
       case FilterRole::Gate:
         if (GstElement* gate = bin.Append("identity")) {
           const GstRef<GstPad> pad(gst_element_get_static_pad(gate, "src"));
@@ -101,13 +107,13 @@ class Builder {
     return Outcome();
   }
 
-  static void AppendElement(FilterBin& bin, const GraphPlan::Filter& filter) {
+  static GstElement* AppendElement(FilterBin& bin, const GraphPlan::Filter& filter) {
     if (filter.row->entry != FilterEntry::AsTheyCome) {
       bin.Append("queue");
       bin.AppendPlugged(gst_element_factory_make("identity", nullptr), ChooseEntry(filter.row->entry));
     }
     const auto word = [&](std::size_t at) { return at < filter.state.size() ? filter.state[at] : 0; };
-    bin.AppendDescribed(fmt::format(fmt::runtime(filter.row->bin), word(0), word(1)));
+    return bin.AppendDescribed(fmt::format(fmt::runtime(filter.row->bin), word(0), word(1)));
   }
 
   void AppendWriter(FilterBin& bin, const std::shared_ptr<IFileLane>& lane) const {

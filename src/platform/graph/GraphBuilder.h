@@ -11,6 +11,7 @@
 #include "platform/graph/GraphFaces.h"
 #include "platform/graph/GraphNews.h"
 #include "platform/graph/GstHandles.h"
+#include "platform/graph/MotionFace.h"
 #include "platform/graph/TemplateReader.h"
 #include "platform/graph/TriggerFaces.h"
 
@@ -32,6 +33,7 @@ struct FilterFaces {
   std::vector<std::shared_ptr<SwitchFace>> switches;
   std::vector<std::shared_ptr<BlockFace>> blocks;
   std::vector<std::shared_ptr<TriggerLine>> lines;  ///< of triggers of either kind
+  std::vector<std::shared_ptr<MotionFace>> motions;
 };
 
 /// All that a run needs. Shared by its threads, and not changed any more.

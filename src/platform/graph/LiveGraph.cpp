@@ -82,11 +82,13 @@ void LiveGraph::Engine::MakeFaces() {
   faces.switches.resize(count);
   faces.blocks.resize(count);
   faces.lines.resize(count);
+  faces.motions.resize(count);
   for (std::size_t i = 0; i < count; ++i) {
     const auto& [label, row, state] = plan.filters[i];
     if (row->role == FilterRole::Renderer) faces.renderers[i] = std::make_shared<RendererFace>(label);
     else if (row->role == FilterRole::Writer) faces.writers[i] = std::make_shared<WriterFace>();
     else if (row->role == FilterRole::Block) faces.blocks[i] = std::make_shared<BlockFace>();
+    else if (row->role == FilterRole::Motion) faces.motions[i] = std::make_shared<MotionFace>();
   }
   ConnectTriggers();
   const auto moment = std::make_shared<GateMoment>();
@@ -250,6 +252,7 @@ IGraphFilter* LiveGraph::Filter(std::string_view label) {
   if (faces.gates[*found]) return faces.gates[*found].get();
   if (faces.blocks[*found]) return faces.blocks[*found].get();
   if (faces.switches[*found]) return faces.switches[*found].get();
+  if (faces.motions[*found]) return faces.motions[*found].get();
   return faces.triggers[*found].get();
 }
 
