@@ -204,7 +204,7 @@ void CaptureSetup::StoreCamera(int camera) {
   settings_.Set(settings_.CameraSize[index], choice.size);
   settings_.Set(settings_.CameraInput[index], choice.input);
   settings_.Set(settings_.CameraFormat[index], choice.format);
-  if (events_) events_->CaptureDevicesChanged();
+  Tell(&ICaptureSetupEvents::CaptureDevicesChanged);
 }
 
 CameraStatus CaptureSetup::ShowCameraStatus(int camera) const {
@@ -284,7 +284,7 @@ void CaptureSetup::SetNetworkCamera(int index, const std::string& address) {
 void CaptureSetup::DevicesChanged() {
   const std::array<CameraChoice, 2> before = shown_;
   TakeDevices();
-  if (events_) events_->CaptureDevicesChanged();
+  Tell(&ICaptureSetupEvents::CaptureDevicesChanged);
   const auto same = [](const CameraChoice& a, const CameraChoice& b) {
     return a.name == b.name && a.size == b.size && a.format == b.format;
   };
@@ -345,8 +345,11 @@ bool CaptureSetup::IsSaved(int camera) const {
   return IsChoice(settings_.Camera[index]) && settings_.Camera[index] == shown_[index].name;
 }
 
-void CaptureSetup::Changed() {
-  if (events_) events_->CaptureChoiceChanged();
+void CaptureSetup::Changed() { Tell(&ICaptureSetupEvents::CaptureChoiceChanged); }
+
+void CaptureSetup::Tell(void (ICaptureSetupEvents::*what)()) {
+  if (events_) (events_->*what)();
+  for (ICaptureSetupEvents* listener : std::vector(listeners_)) (listener->*what)();
 }
 
 }  // namespace kinalyx

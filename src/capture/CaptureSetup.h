@@ -62,6 +62,9 @@ class CaptureSetup : private IDevicesEvents {
 
   /// Null for nobody.
   void SetEvents(ICaptureSetupEvents* events) { events_ = events; }
+  /// Somebody else who is told too, until he says that he has heard enough.
+  void Listen(ICaptureSetupEvents& events) { listeners_.push_back(&events); }
+  void StopListening(ICaptureSetupEvents& events) { std::erase(listeners_, &events); }
 
   // --- choices with keys in config10.ini
 
@@ -123,10 +126,12 @@ class CaptureSetup : private IDevicesEvents {
   void FitChoice(CameraChoice& choice, const Device& device) const;
   bool IsSaved(int camera) const;
   void Changed();
+  void Tell(void (ICaptureSetupEvents::*what)());
 
   Settings& settings_;
   IDevices& devices_;
   ICaptureSetupEvents* events_ = nullptr;
+  std::vector<ICaptureSetupEvents*> listeners_;
   std::array<CameraChoice, 2> shown_;
   std::string lineTaken_;  ///< the microphone whose saved line has been asked for
 };
