@@ -124,11 +124,14 @@ void Program::LoadMain() {
       .services = players_, .settings = settings_, .fields = fields_, .remembered = lastStudent_, .ways = *this});
   capturePage_ = capture_->MakePage();
   main_->SetPage(kCapturePage, capturePage_);
-  mirror_ = std::make_unique<MirrorRoom>(MirrorRoom::Parts{.host = *host_,
-                                                           .settings = settings_,
-                                                           .remembered = lastStudent_,
-                                                           .capture = *capture_,
-                                                           .closed = [this] { MirrorClosed(); }});
+  mirror_ = std::make_unique<MirrorRoom>(MirrorRoom::Parts{
+      .host = *host_, .settings = settings_, .remembered = lastStudent_, .capture = *capture_, .closed = [this] {
+        MirrorClosed();
+      }});
+
+  ILiveDrawWays& liveDrawWays = *this;
+  liveDraw_ = std::make_unique<LiveDrawRoom>(
+      LiveDrawRoom::Parts{.host = *host_, .settings = settings_, .capture = *capture_, .ways = liveDrawWays});
 
   handouts_ = std::make_unique<HandoutRoom>(HandoutRoom::Parts{.services = players_,
                                                                .printer = *printer_,
@@ -242,6 +245,7 @@ void Program::KeepLastStudent() {
 void Program::OpenPage(int index) {
   if (!main_) return;
   if (index != main_->CurrentPage() && !main_->LeavePage()) return;
+  liveDraw_->GiveCameraAway(index == kCapturePage);
   KeepLastStudent();
   if (index == kAnalysisPage) {
     mirror_->Lend(false);
@@ -357,6 +361,26 @@ void Program::GoToCaptureSetup() {
   if (main_->CurrentPage() == kSetupPage) setup_->PSCmd_Click(SetupPage::kCapture);
 }
 
+/// One camera serves one of the two windows: the delayed mirror makes way, and live draw for it.
+void Program::OpenLiveDraw() {
+  if (!mirror_->MayClose()) return;
+  backToCapture_ = false;
+  mirror_->Close();
+  liveDraw_->Show();
+}
+
+/// The wish comes from the other window, which stays open behind this one.
+void Program::TakeToAnalysis(const std::string& macro) {
+  OpenPage(kAnalysisPage);
+  if (main_->CurrentPage() != kAnalysisPage) return;
+  main_->raise();
+  main_->activateWindow();
+  AnalysisWorkspace& section = OpenAnalysis().Section();
+  section.Transport().Announce(section.Edits().TakeMacro(macro)
+                                   ? "The drawing was laid on the video, and is kept as a macro."
+                                   : "The drawing is kept as a macro.");
+}
+
 /// The wish may come from the capture page, which is left by it and comes again with the end of the mirror.
 void Program::OpenMirror() {
   mirroring_ = HostTimer(*host_, 0, false, [this] {
@@ -364,6 +388,7 @@ void Program::OpenMirror() {
     if (captures) OpenPage(kMenuPage);
     if (main_->CurrentPage() == kCapturePage) return;
     backToCapture_ = captures;
+    liveDraw_->Close();
     mirror_->Open();
   });
 }
@@ -384,6 +409,7 @@ bool Program::MainMayClose() {
   if (main_->CurrentPage() == kCapturePage && !main_->LeavePage()) return false;
   if (!profiles_->MayClose() || !handouts_->MayClose() || !mirror_->MayClose()) return false;
   if (analysis_ && !analysis_->CloseAll()) return false;
+  liveDraw_->Close();
   if (!profiles_->SaveLastNotes() &&
       !host_->Question("", "The notes could not be saved. Do you want to close Kinalyx all the same?"))
     return false;

@@ -5,6 +5,7 @@
 
 #include "app/CaptureRoom.h"
 #include "app/HandoutRoom.h"
+#include "app/LiveDrawRoom.h"
 #include "app/Main.h"
 #include "app/MirrorRoom.h"
 #include "core/ColorSchemes.h"
@@ -46,6 +47,7 @@ class Program final : private ISettingsEvents,
                       private IAnalysisLink,
                       private INavigation,
                       private ICaptureWays,
+                      private ILiveDrawWays,
                       private IHandoutWays {
  public:
   /// @param application  made before and let go after the program
@@ -94,6 +96,7 @@ class Program final : private ISettingsEvents,
   void GoToCapture() override;
   void GoToMainMenu() override;
   void GoToHelp() override;
+  void OpenLiveDraw() override;
   void ExitAnalysis() override;
   void OfferReopen(const std::string& words) override;
   void QuitProgram() override;
@@ -113,6 +116,9 @@ class Program final : private ISettingsEvents,
   bool OpenInAnalysis(const std::vector<std::string>& paths) override;
   void GoToCaptureSetup() override;
 
+  // --- ILiveDrawWays
+  void TakeToAnalysis(const std::string& macro) override;
+
   QApplication& application_;
   std::unique_ptr<IHost> host_;
   std::unique_ptr<IPrinter> printer_;
@@ -131,6 +137,7 @@ class Program final : private ISettingsEvents,
 
   std::unique_ptr<MirrorRoom> mirror_;  ///< a window beside the main form
   bool backToCapture_ = false;          ///< when the mirror closes, for it was opened from that page
+  std::unique_ptr<LiveDrawRoom> liveDraw_;
 
   std::unique_ptr<HandoutRoom> handouts_;  ///< outlives the analysis section, which goes with the main form
 

@@ -96,6 +96,7 @@ struct AnalysisFormFixture : testing::Test, UsesApplication, FormDriver, INaviga
   void GoToCapture() override { went = "capture"; }
   void GoToMainMenu() override { went = "menu"; }
   void GoToHelp() override { went = "help"; }
+  void OpenLiveDraw() override { went = "live draw"; }
   void OpenMirror() override { went = "mirror"; }
   void ExitAnalysis() override { went = "exit"; }
   void OfferReopen(const std::string&) override {}

@@ -269,7 +269,8 @@ class AnalysisStage : private IFrameInterface, private INavigation {
   FakeCompareView compareView;
   FakeEditWindows edits;
   std::vector<std::string> offers;  ///< to bring back what was closed
-  int libraryVisits = 0, captureVisits = 0, menuVisits = 0, helpVisits = 0, mirrorVisits = 0, exits = 0, quits = 0;
+  int libraryVisits = 0, captureVisits = 0, menuVisits = 0, helpVisits = 0, liveDrawVisits = 0, mirrorVisits = 0,
+      exits = 0, quits = 0;
   IHandouts handouts;
   AnalysisWorkspace analysis;
 
@@ -291,6 +292,7 @@ class AnalysisStage : private IFrameInterface, private INavigation {
   void GoToCapture() override { ++captureVisits; }
   void GoToMainMenu() override { ++menuVisits; }
   void GoToHelp() override { ++helpVisits; }
+  void OpenLiveDraw() override { ++liveDrawVisits; }
   void OpenMirror() override { ++mirrorVisits; }
   void ExitAnalysis() override { ++exits; }
   void OfferReopen(const std::string& words) override { offers.push_back(words); }

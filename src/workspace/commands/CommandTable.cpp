@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "video/KeyCodes.h"
+#include "workspace/commands/DrawToolWords.h"
 #include "workspace/commands/MenuBar.h"
 #include "workspace/transport/Speeds.h"
 
@@ -23,22 +24,6 @@ constexpr const char* kSetup = "Setup";
 
 // Groups of the tool strip, from left to right.
 enum Group { kNoButton, kOpening, kScreens, kDrawing, kErasing, kPicture, kMeasuring, kSharing };
-
-struct ToolEntry {
-  const char* caption;
-  const char* tip;
-  const char* icon;
-};
-
-/// Drawing tools in the order of their keys F1 to F11, which is the order of the shape kinds.
-constexpr ToolEntry kDrawTools[] = {
-    {"F1 - FreeHand", "Freehand", "freehand"},  {"F2 - Plus Sign", "Plus Sign", "plus"},
-    {"F3 - Square", "Square", "square"},        {"F4 - Line", "Line", "line"},
-    {"F5 - Circle", "Circle", "circle"},        {"F6 - Angle", "Angle", "angle"},
-    {"F7 - Motion Path", "Path Trace", "path"}, {"F8 - Parallelogram", "Parallelogram", "parallelogram"},
-    {"F9 - Shade Zone", "Zone Tool", "zone"},   {"F10 - Clock Grid", "Clock Grid", "clock"},
-    {"F11 - Arrow", "Arrow", "arrow"},
-};
 
 struct ScreenButton {
   int mode;
@@ -287,7 +272,7 @@ void MenuBar::AddDraw() {
   const auto heldAs = [this](ToolInHand way) { return tools_.Drawing() && tools_.InHand() == way; };
   const std::size_t firstTool = commands_.size();
   for (int kind = 0; kind < static_cast<int>(std::size(kDrawTools)); ++kind) {
-    const ToolEntry& tool = kDrawTools[kind];
+    const DrawToolWords& tool = kDrawTools[kind];
     Add({"MenuDraw" + std::to_string(kind), kDraw, tool.caption, "CmdMakeShape" + std::to_string(kind), tool.icon,
          tool.tip, kDrawing, [this, kind] { tools_.ChooseFromMenu(kind); }, hasVideo,
          [inHand, kind] { return inHand(kind, false); }});
@@ -462,7 +447,8 @@ void MenuBar::AddAdvanced() {
   const auto hasVideo = NeedsVideo();
   // The handles lie on a picture in its window, of which the mix shows nothing.
   const auto noMix = [this] { return compare_.Transparency().TransparencyOn() ? compare_.StageTaken() : ""; };
-  AddComing("CLive", kAdvanced, "Live Draw && Hot Zones");
+  Add({"CLive", kAdvanced, "Live Draw && Hot Zones", "", "hot-zone", "", kNoButton,
+       [this] { navigation_.OpenLiveDraw(); }});
   Add({"CMirror", kAdvanced, "Delayed Mirror", "", "delayed-mirror", "", kNoButton,
        [this] { navigation_.OpenMirror(); }});
   Add({"TRL",

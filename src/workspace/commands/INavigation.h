@@ -14,6 +14,8 @@ class INavigation {
   virtual void GoToCapture() = 0;
   virtual void GoToMainMenu() = 0;
   virtual void GoToHelp() = 0;
+  /// "Live Draw & Hot Zones" opens in a window of its own, or comes to the front.
+  virtual void OpenLiveDraw() = 0;
   /// The window of the delayed mirror.
   virtual void OpenMirror() = 0;
   /// The analysis section is left: its videos are closed, and its window may go at the next turn of the

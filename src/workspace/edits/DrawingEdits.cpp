@@ -192,6 +192,18 @@ void DrawingEdits::InsertMacro(int Index) {
   bar_.EditWhole();
 }
 
+bool DrawingEdits::TakeMacro(const std::string& name) {
+  if (!macroFormShown_ && HasVideo() && !tools_.HasShapes(stage_.CurrentWindow)) {
+    LoadMacros();
+    InsertMacro(macros_.IndexOf(name));
+    return tools_.HasShapes(stage_.CurrentWindow);
+  }
+  if (!macroFormShown_) ToggleMacroForm();
+  LoadMacros();
+  view_.FillMacroList(macros_.MacroNames(), macros_.IndexOf(name));
+  return false;
+}
+
 void DrawingEdits::ShowMacroInfo(int Index) {
   if (Index < 0 || Index >= macros_.NumMacros()) return;
   const std::string info = macros_.Info(Index);

@@ -104,6 +104,10 @@ class DrawingEdits {
   bool MacroFormShown() const { return macroFormShown_; }
   /// Lays a macro over the current window, where all its shapes are edited as one.
   void InsertMacro(int Index);
+  /// One that has just been kept by another window, by its name: laid over the current window where a video without
+  /// drawings stands in it, else chosen in the list of macros, which opens.
+  /// @return  it was laid
+  bool TakeMacro(const std::string& name);
   void ShowMacroInfo(int Index);
   /// Removes a macro after a question.
   void DeleteMacro(int Index);
