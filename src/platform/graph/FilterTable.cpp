@@ -36,7 +36,7 @@ constexpr std::array kRows{
               "videoconvertscale ! capsfilter caps=video/x-raw,width={0},height={1}"},
     FilterRow{"{44BC05B1-097B-4A67-8FC3-4DD15A9E7465}", "", Element, {"Input"}, {"Output"}, Raw, "deinterlace fields=top"},
     FilterRow{"{BBBB54DB-FDB3-48A4-8156-EE8BF15D015E}", "", Element, {"Input"}, {"Output"}, Raw,
-              "videoconvert ! videoflip method=horizontal-flip"},
+              "videoconvert ! videoflip video-direction=horiz"},
     // Drawings are laid over the pictures by the window, in the fineness of its screen.
     FilterRow{"{99DAE1B9-404C-4644-A884-D059F0B0DCE7}", "", Element, {"Input"}, {"Output"}, AsTheyCome, "identity"},
     FilterRow{"{0E3640A7-8494-4226-AE5C-8100E4D52DAF}", "", Motion, {"Input"}, {"Output"}, Raw,

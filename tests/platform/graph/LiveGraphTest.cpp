@@ -68,6 +68,19 @@ TEST_F(LiveGraphs, TwoCamerasBeginTogether) {
   EXPECT_EQ(packed->frameCount, second.pictures) << "too large to be kept raw, and written all the same";
 }
 
+TEST_F(LiveGraphs, TheMirrorTurnsThePictureAndTheOtherGraphDoesNot) {
+  for (const bool mirror : {true, false}) {
+    ASSERT_TRUE(graph.GraphXmlLoad(mirror ? MVMotionDraw : MVMotionDraw2));
+    ASSERT_TRUE(graph.GraphSetDevice("VideoSource", "Test Camera"));
+    ASSERT_TRUE(graph.GraphSetVideoFormat("VideoSource", 640, 480, "YUY2"));
+    ASSERT_TRUE(graph.GraphRun());
+    told.pictures.clear();
+    ASSERT_TRUE(Comes([&] { return told.pictures["Video Renderer"] > 0; }));
+    const LivePicture seen = Seen();
+    EXPECT_EQ(ReadFrameNumber(seen.pixels.get(), seen.width, seen.height, seen.stride).has_value(), !mirror);
+  }
+}
+
 TEST_F(LiveGraphs, ACameraThatNeverAnswersHoldsUpNobody) {
   ASSERT_TRUE(graph.GraphXmlLoad(MVTwoCamSS));
   ASSERT_TRUE(graph.GraphSetDevice("VideoSource", "hangs"));

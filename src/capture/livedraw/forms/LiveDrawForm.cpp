@@ -1,5 +1,6 @@
 #include "capture/livedraw/forms/LiveDrawForm.h"
 
+#include <QScreen>
 #include <QBoxLayout>
 #include <QCloseEvent>
 #include <QComboBox>
@@ -115,11 +116,11 @@ QWidget* LiveDrawForm::MakeControls() {
   auto* row = new QHBoxLayout(ground);
   row->setContentsMargins(10, 8, 10, 8);
   row->setSpacing(8);
-  freeze_ = new Button("CamCtlBtn0", {}, "pause");
+  freeze_ = new Button("CamCtlBtn0", "Freeze Video", "pause");
   freeze_->setToolTip(tr("Holds the picture to draw upon, and lets it go on (Space)"));
   LeastWidth(freeze_, 136);
   connect(freeze_, &QPushButton::clicked, this, [this] { CamCtlBtn_Click(kFreezeBtn); });
-  zone_ = new Button("CamCtlBtn2", {}, "hot-zone", Look::Quiet);
+  zone_ = new Button("CamCtlBtn2", "Add Hot Zone", "hot-zone", Look::Quiet);
   zone_->setToolTip(tr("Drag a rectangle over the picture: it beeps when something moves in it (Z)"));
   LeastWidth(zone_, 146);
   connect(zone_, &QPushButton::clicked, this, [this] { CamCtlBtn_Click(kZoneBtn); });
@@ -162,7 +163,9 @@ void LiveDrawForm::Form_Load() {
   const QSignalBlocker quiet(PixSlider_);
   PixSlider_->setValue(session_.Sensitivity());
   FillCameras();
-  resize(kUsual);
+  // Not larger than the screen, its frame counted.
+  const QSize room = screen()->availableSize() - QSize(40, 80);
+  resize(kUsual.boundedTo(room));
   UpdateAll();
 }
 
