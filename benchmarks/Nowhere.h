@@ -8,6 +8,7 @@ namespace kinalyx::bench {
 struct Nowhere final : INavigation {
   void GoToLibrary() override {}
   void GoToCapture() override {}
+  void OpenLiveDraw() override {}
   void OpenMirror() override {}
   void GoToMainMenu() override {}
   void GoToHelp() override {}
