@@ -180,7 +180,8 @@ class TriggeredGraphs : public LiveGraphs {
   std::vector<WrittenBlock> Written(const char* label, std::size_t count) {
     std::vector<WrittenBlock> all;
     EXPECT_TRUE(Comes([&] {
-      for (WrittenBlock& block : Of<IBlockRecordingFilter>(label).Blocks()->TakeWritten()) all.push_back(std::move(block));
+      for (WrittenBlock& block : Of<IBlockRecordingFilter>(label).Blocks()->TakeWritten())
+        all.push_back(std::move(block));
       return all.size() >= count;
     })) << label;
     return all;
