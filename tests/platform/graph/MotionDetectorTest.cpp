@@ -111,7 +111,10 @@ int PicturesOfMotion(const Camera& camera, const Happening& happens, double seco
     happens(ground, t - kPeace);
     const auto& moves = detector.Look(ground.End(t, noise));
     if (t < kPeace) {
-      EXPECT_TRUE(moves.empty()) << "in peace, at " << t;
+      // At more than the usual sensitivity the wind alone may move it.
+      if (sensitivity <= IMotionDetectionFilter::kUsualSensitivity) {
+        EXPECT_TRUE(moves.empty()) << "in peace, at " << t;
+      }
     } else if (!moves.empty()) {
       ++moving;
     }

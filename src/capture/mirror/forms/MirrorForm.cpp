@@ -32,7 +32,7 @@ int ColumnsFor(int panes, QSize room, double aspect) {
   double most = 0;
   for (int columns = 1; columns <= panes; ++columns) {
     const int rows = (panes + columns - 1) / columns;
-    const double width = std::min<double>(room.width() / columns, aspect * room.height() / rows);
+    const double width = std::min(static_cast<double>(room.width()) / columns, aspect * room.height() / rows);
     if (width <= most) continue;
     most = width;
     best = columns;
