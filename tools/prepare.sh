@@ -12,10 +12,10 @@ kinalyx_packages=(
   gstreamer1.0-x gstreamer1.0-pulseaudio gstreamer1.0-pipewire
   libpulse-dev libglib2.0-dev libyuv-dev libturbojpeg0-dev libfmt-dev nlohmann-json3-dev libxxhash-dev
   libopencv-core-dev libopencv-imgproc-dev
-  libcups2-dev fonts-liberation
+  libcups2-dev fonts-liberation libcurl4-openssl-dev libburn-dev libisofs-dev
   libavc1394-tools?
 )
-kinalyx_test_packages=(libgtest-dev libgmock-dev ffmpeg dbus-daemon)
+kinalyx_test_packages=(libgtest-dev libgmock-dev ffmpeg dbus-daemon python3-aiosmtpd python3-pyftpdlib python3-openssl openssl)
 kinalyx_lint_packages=(clang-format clang-tidy)
 
 # A name that ends in "?" is welcome but not needed: it is taken only where Debian has it.

@@ -35,6 +35,13 @@ class IHandouts {
   /// "Lefty Print": sheets show the model for the left hand.
   virtual void ToggleLefty() {}
   virtual bool Lefty() const { return false; }
+
+  /// "Email- Take SnapShot": the picture of the stage joins the queue for mail.
+  virtual void TakeSnapshot() {}
+  /// "Email- Send SnapShots": the form that mails the queue.
+  virtual void SendSnapshots() {}
+  /// "Download Model Videos".
+  virtual void ShowModelsForm() {}
 };
 
 }  // namespace kinalyx

@@ -1,0 +1,40 @@
+#include "distribution/send/FilesToSend.h"
+
+#include <algorithm>
+
+#include "platform/files/Folders.h"
+
+namespace kinalyx {
+
+std::string FileToSend::Name() const { return LastName(path); }
+
+std::string FileToSend::Entry() const { return (lesson ? std::string(kLessonEntry) : std::string()) + Name(); }
+
+std::string FilesToSend::Add(const std::string& path, bool lesson) {
+  // Two videos of one name would be one on a disc or a page; lessons are told apart by where they lie.
+  const bool listed = std::ranges::any_of(files_, [&](const FileToSend& file) {
+    return file.lesson == lesson && (lesson ? SamePlace(file.path, path) : file.Name() == LastName(path));
+  });
+  if (listed)
+    return lesson ? "This lesson is already in the Files to Send list."
+                  : "This video is already in the Files to Send list.";
+  const auto bytes = FileSize(path);
+  if (!bytes) return "\"" + LastName(path) + "\" could not be found.";
+  files_.push_back({.path = path, .lesson = lesson, .bytes = *bytes});
+  return lesson ? "Lesson successfully added to the Files to Send list."
+                : "Video successfully added to the Files to Send list.";
+}
+
+std::string FilesToSend::Remove(std::size_t index) {
+  if (index >= files_.size()) return "";
+  files_.erase(files_.begin() + static_cast<std::ptrdiff_t>(index));
+  return "File successfully removed from Files to Send list.";
+}
+
+std::int64_t FilesToSend::Bytes() const {
+  std::int64_t bytes = 0;
+  for (const FileToSend& file : files_) bytes += FileSize(file.path).value_or(0);
+  return bytes;
+}
+
+}  // namespace kinalyx
