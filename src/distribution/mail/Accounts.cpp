@@ -6,9 +6,7 @@ MailServer OutgoingServer(const MailSettings& settings) {
   MailServer server;
   server.host = settings.SMTPServer;
   server.port = settings.SMTPPort;
-  server.security = settings.UseSSL   ? NetSecurity::Tls
-                    : settings.UseTLS ? NetSecurity::StartTls
-                                      : NetSecurity::None;
+  server.security = settings.UseSSL ? NetSecurity::Tls : settings.UseTLS ? NetSecurity::StartTls : NetSecurity::None;
   server.loginRequired = settings.LoginRequired;
   server.login = settings.Login;
   server.password = settings.Password;
@@ -29,10 +27,8 @@ MailMessage NewMessage(const MailSettings& settings) {
 Result<ServerLogin> WebSpace(const MailSettings& settings) {
   const auto address = ReadServerAddress(settings.FTPAddress);
   if (!address) return address.Failure();
-  return ServerLogin{.address = *address,
-                     .login = settings.WLogin,
-                     .password = settings.WPassword,
-                     .passive = settings.FTPMode == 0};
+  return ServerLogin{
+      .address = *address, .login = settings.WLogin, .password = settings.WPassword, .passive = settings.FTPMode == 0};
 }
 
 }  // namespace kinalyx

@@ -14,7 +14,7 @@ inline constexpr std::string_view kLessonEntry = "(Lesson)-";
 struct FileToSend {
   std::string path;
   bool lesson = false;
-  std::int64_t bytes = 0;  ///< when it was added
+  std::int64_t bytes = 0;     ///< when it was added
   std::string Name() const;   ///< of the file
   std::string Entry() const;  ///< as it is listed
 };
