@@ -39,8 +39,7 @@ void MirrorRoom::Lend(bool lent) {
 
 bool MirrorRoom::MayClose() {
   if (!form_ || !form_->Session().Keeping()) return true;
-  parts_.host.Message(MessageKind::Information, "", "The last video is still being saved.");
-  return false;
+  return parts_.host.Question("", "The last video is still being saved. Do you want to go on all the same?");
 }
 
 void MirrorRoom::Close() {

@@ -409,13 +409,13 @@ bool Program::MainMayClose() {
   if (main_->CurrentPage() == kCapturePage && !main_->LeavePage()) return false;
   if (!profiles_->MayClose() || !handouts_->MayClose() || !mirror_->MayClose()) return false;
   if (analysis_ && !analysis_->CloseAll()) return false;
-  liveDraw_->Close();
   if (!profiles_->SaveLastNotes() &&
       !host_->Question("", "The notes could not be saved. Do you want to close Kinalyx all the same?"))
     return false;
   main_->LeavePage();
   backToCapture_ = false;
   mirror_->Close();
+  liveDraw_->Close();
   RestartFlag_ = restart;
   main_->setUpdatesEnabled(false);
   if (analysis_) {

@@ -29,6 +29,7 @@ struct CameraChoice {
   std::string size;    ///< "640 x 480"; empty: the camera's own
   std::string format;  ///< "MJPG, 30 a second"; empty: the best
   std::string input;   ///< of a tuner card
+  bool operator==(const CameraChoice&) const = default;
 };
 
 /// What the user may be told of a saved camera, a label of the setup.

@@ -75,6 +75,8 @@ void DrawingBoard::ChooseWidth(int pixels) {
 }
 
 void DrawingBoard::DisplayData(const std::string& text) {
+  // Told with every painting: the same again asks for none.
+  if (measure_ == text) return;
   measure_ = text;
   events_.BoardChanged();
 }

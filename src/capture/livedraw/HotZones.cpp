@@ -10,14 +10,17 @@ namespace {
 
 double OnPicture(double part) { return std::clamp(part, 0.0, 1.0); }
 
+/// What the sum of an edge and a width loses: a zone at its smallest is large enough whatever its place.
+constexpr double kHair = 1e-6;
+
 bool LargeEnough(const MotionRect& place) {
-  return place.width >= HotZones::kLeast && place.height >= HotZones::kLeast;
+  return place.width >= HotZones::kLeast - kHair && place.height >= HotZones::kLeast - kHair;
 }
 
 /// Moves two edges of one direction; what is not moved stays where it is.
 std::pair<double, double> Edges(double low, double high, bool moveLow, bool moveHigh, double by) {
-  if (moveLow) low = std::clamp(low + by, 0.0, high - HotZones::kLeast);
-  if (moveHigh) high = std::clamp(high + by, low + HotZones::kLeast, 1.0);
+  if (moveLow) low = std::clamp(low + by, 0.0, std::max(0.0, high - HotZones::kLeast));
+  if (moveHigh) high = std::clamp(high + by, std::min(1.0, low + HotZones::kLeast), 1.0);
   return {low, high};
 }
 
@@ -53,7 +56,7 @@ void HotZones::Replace(const std::vector<HotZone>& zones) {
 
 int HotZones::Add(PicturePoint from, PicturePoint to) {
   const MotionRect place = RectBetween(from, to);
-  if (!LargeEnough(place) || zones_.size() >= kMost) return 0;
+  if (!LargeEnough(place) || Full()) return 0;
   // The lowest number that is free: it stands on the picture, and people count from one.
   int id = 1;
   while (Find(id)) ++id;

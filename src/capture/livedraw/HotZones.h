@@ -38,6 +38,7 @@ class HotZones {
   static constexpr double kLeast = 0.03;  ///< of the picture, each side
 
   const std::vector<HotZone>& All() const { return zones_; }
+  bool Full() const { return zones_.size() >= kMost; }
   /// Null for none of that number.
   const HotZone* Find(int id) const;
   /// Those of before, as an undo or a file has them; what is out of its range is put right or left out.

@@ -59,26 +59,15 @@ void LiveCamera::Freeze() {
   events_.CameraChanged();
 }
 
+/// The picture stays until the next one comes.
 void LiveCamera::GoLive() {
-  if (!std::exchange(frozen_, false)) return;
-  // The picture stays until the next one comes.
-  if (const Outcome run = graph_->GraphRun(); run) {
-    running_ = true;
-  } else {
-    DropPicture();
-    words_ = run.Why();
-  }
-  events_.CameraChanged();
+  if (std::exchange(frozen_, false)) Rebuild();
 }
 
 void LiveCamera::SetMirror(bool on) {
   if (std::exchange(mirror_, on) == on) return;
   // A frozen picture is turned by who shows it; its graph is built as it goes on.
-  const bool frozen = frozen_;
-  if (!open_ || away_) return;
-  if (!frozen) return Rebuild();
-  StopGraph();
-  if (!BuildGraph()) frozen_ = false;
+  if (open_ && !away_ && !frozen_) Rebuild();
 }
 
 /// What was seen stays until there is something new, as long as it is the same camera.

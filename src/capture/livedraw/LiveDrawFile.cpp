@@ -17,7 +17,7 @@ constexpr std::size_t kMostShapes = 1000;
 constexpr std::size_t kMostPoints = 20'000;
 constexpr int kFarthest = 100'000;  // pixels
 constexpr int kLargest = 32'767;
-constexpr std::size_t kLongestText = 400;  // bytes
+constexpr std::size_t kLongestText = 800;  // bytes
 
 /// The member of an object, `otherwise` when it is missing or of another kind.
 template <typename T>

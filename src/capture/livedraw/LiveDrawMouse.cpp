@@ -26,6 +26,7 @@ std::optional<ZonePart> LiveDrawSession::ZoneAt(POINTAPI at) const {
 
 /// True when a zone was under the mouse.
 bool LiveDrawSession::PressZoneAt(int button, POINTAPI at) {
+  EndZoneDrag();
   const auto part = ZoneAt(at);
   if (!part) {
     if (zones_.Taken() > 0) Repaint();
@@ -45,8 +46,13 @@ bool LiveDrawSession::PressZoneAt(int button, POINTAPI at) {
   return true;
 }
 
+/// A menu, or a window that closes, may have had the release of the button.
+void LiveDrawSession::EndZoneDrag() {
+  if (zones_.Release()) ZonesChanged(std::exchange(grabbed_, {}));
+}
+
 void LiveDrawSession::MouseDown(int button, bool shift, POINTAPI at) {
-  if (!board_.HasPicture()) return;
+  if (!board_.HasPicture() || (button != 1 && button != 2)) return;
   const POINTAPI point = OnPicture(at);
   if (adding_) {
     if (button != 1) return SetAdding(false);
@@ -73,6 +79,7 @@ void LiveDrawSession::MouseMove(int button, bool shift, POINTAPI at) {
     draft_->to = InParts(point);
     return Repaint();
   }
+  if (zones_.Held() && button != 1) EndZoneDrag();
   if (zones_.Held()) {
     if (zones_.DragTo(InParts(point))) Repaint();
     return;
@@ -101,10 +108,7 @@ void LiveDrawSession::MouseUp(int button, bool shift, POINTAPI at) {
     SetAdding(false);
     return ZonesChanged(before);
   }
-  if (zones_.Held()) {
-    if (zones_.Release()) ZonesChanged(std::exchange(grabbed_, {}));
-    return;
-  }
+  if (zones_.Held()) return EndZoneDrag();
   (void)board_.Tools().MouseUp(button, shift ? 1 : 0, static_cast<float>(point.x), static_cast<float>(point.y),
                                DrawingBoard::kWindow);
   Changed();

@@ -9,10 +9,11 @@
 namespace kinalyx {
 namespace {
 
-constexpr int kMotionMs = 20;       // how often the zones are asked
-constexpr int kGlowMs = 900;        // for which one that has fired glows
-constexpr int kKeepMs = 1500;       // after the last change
-constexpr std::size_t kSteps = 50;  // that can be undone
+constexpr int kMotionMs = 20;         // how often the zones are asked
+constexpr int kGlowMs = 900;          // for which one that has fired glows
+constexpr int kKeepMs = 1500;         // after the last change
+constexpr int kKeepAgainMs = 60'000;  // after the disk has refused
+constexpr std::size_t kSteps = 50;    // that can be undone
 
 bool SameDrawings(const std::vector<Shape>& a, const std::vector<Shape>& b) {
   return std::ranges::equal(a, b, [](const Shape& x, const Shape& y) { return IsSameDrawing(x, y); });
@@ -46,6 +47,7 @@ void LiveDrawSession::Open() {
 
 void LiveDrawSession::Close() {
   if (!open_) return;
+  EndZoneDrag();
   open_ = false;
   SetAdding(false);
   board_.Tools().PutToolDown();
@@ -75,8 +77,10 @@ void LiveDrawSession::Keep() {
   kept.drawings = {Finished(), board_.View()};
   // Where the picture never was, its mirror was not either.
   kept.drawings.view.mirrored = kept.mirror;
-  if (const Outcome written = WriteLiveDraw(JoinPath(parts_.settings.DataPath, "livedraw.json"), kept); !written)
-    parts_.host.Note(MessageKind::Warning, "Live draw could not be kept. " + written.Why());
+  const Outcome written = WriteLiveDraw(JoinPath(parts_.settings.DataPath, "livedraw.json"), kept);
+  if (written) return;
+  parts_.host.Note(MessageKind::Warning, "Live draw could not be kept. " + written.Why());
+  if (open_) keep_ = HostTimer(parts_.host, kKeepAgainMs, false, [this] { Keep(); });
 }
 
 // ---------------------------------------------------------------- buttons
@@ -84,6 +88,9 @@ void LiveDrawSession::Keep() {
 void LiveDrawSession::PressFreeze() { camera_.Frozen() ? camera_.GoLive() : camera_.Freeze(); }
 
 void LiveDrawSession::PressZone() {
+  if (!adding_ && zones_.Full())
+    return parts_.host.Message(MessageKind::Information, "",
+                               "There is room for twelve hot zones. Remove one of them first.");
   if (!adding_) board_.Tools().PutToolDown();
   SetAdding(!adding_ && board_.HasPicture());
 }

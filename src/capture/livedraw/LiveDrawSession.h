@@ -129,6 +129,7 @@ class LiveDrawSession : private ILiveCameraEvents, private IDrawingBoardEvents {
   };
 
   void SetAdding(bool adding);
+  void EndZoneDrag();
   void ZonesChanged(const std::vector<HotZone>& before);
   void UndoWhatIsDrawn();
   void PutZones(const std::vector<HotZone>& zones);

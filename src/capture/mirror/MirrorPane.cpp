@@ -37,12 +37,16 @@ void MirrorPane::Behind(std::shared_ptr<const PictureMemory> memory, std::int64_
   ++order_.number;
 }
 
+void MirrorPane::Order::Loop(std::vector<PackedPicture> looped, double speed, std::int64_t nowNs) {
+  time = PaneTime::Loop(looped.front().ns, looped.back().ns, speed, nowNs);
+  memory = nullptr;
+  pictures = std::make_shared<std::vector<PackedPicture>>(std::move(looped));
+  ++number;
+}
+
 void MirrorPane::Loop(std::vector<PackedPicture> pictures, double speed, std::int64_t nowNs) {
   const std::lock_guard lock(mutex_);
-  order_.time = PaneTime::Loop(pictures.front().ns, pictures.back().ns, speed, nowNs);
-  order_.memory = nullptr;
-  order_.pictures = std::make_shared<std::vector<PackedPicture>>(std::move(pictures));
-  ++order_.number;
+  order_.Loop(std::move(pictures), speed, nowNs);
 }
 
 void MirrorPane::Freeze(bool on, std::int64_t nowNs) {
@@ -53,8 +57,8 @@ void MirrorPane::Freeze(bool on, std::int64_t nowNs) {
 
 void MirrorPane::Hold(std::vector<PackedPicture> pictures, std::int64_t nowNs) {
   const std::int64_t last = pictures.back().ns;
-  Loop(std::move(pictures), 1, nowNs);
   const std::lock_guard lock(mutex_);
+  order_.Loop(std::move(pictures), 1, nowNs);
   order_.time.Freeze(true, nowNs);
   order_.time.GoTo(last, nowNs);
 }
@@ -92,6 +96,18 @@ void MirrorPane::Mirror(bool on) {
 PaneTime MirrorPane::Time() const {
   const std::lock_guard lock(mutex_);
   return order_.time;
+}
+
+void MirrorPane::Forget() {
+  Behind(nullptr, 0);
+  const std::lock_guard lock(mutex_);
+  sight_ = {};
+  told_ = false;
+}
+
+bool MirrorPane::Holds() const {
+  const std::lock_guard lock(mutex_);
+  return order_.pictures != nullptr;
 }
 
 std::vector<PackedPicture> MirrorPane::Held() const {

@@ -43,6 +43,10 @@ class MirrorPane {
   void WantSize(int width, int height);
   void Mirror(bool on);
   PaneTime Time() const;
+  /// Nothing more is shown, and what was shown last is forgotten.
+  void Forget();
+  /// Something is looped or held.
+  bool Holds() const;
   /// What is looped or held; none else.
   std::vector<PackedPicture> Held() const;
   Sight Show();
@@ -63,6 +67,7 @@ class MirrorPane {
 
     std::optional<PackedPicture> At(std::int64_t ns) const;
     std::optional<PackedPicture> After(std::int64_t ns) const;
+    void Loop(std::vector<PackedPicture> looped, double speed, std::int64_t nowNs);
   };
   /// A picture that is ready before its time.
   struct Ready {

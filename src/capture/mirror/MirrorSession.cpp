@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <set>
 #include <string_view>
 #include <utility>
 
@@ -49,7 +50,7 @@ MirrorSession::MirrorSession(Parts parts)
     : parts_(std::move(parts)),
       choices_(ReadMirrorChoices(parts_.choicesPath)),
       stored_(choices_),
-      keeper_({parts_.host, parts_.settings, parts_.naming, parts_.jobs, *this}),
+      keeper_({parts_.host, parts_.settings, parts_.naming, parts_.files, parts_.jobs, *this}),
       self_(std::make_shared<MirrorSession*>(this)),
       bound_(std::max(kLeastBound, parts_.host.System().ramKilobytes * 1024 / kPartOfMemory)) {
   for (int pane = 0; pane < kMostPanes; ++pane) {
@@ -60,9 +61,11 @@ MirrorSession::MirrorSession(Parts parts)
     });
     panes_[static_cast<std::size_t>(pane)]->Mirror(choices_.mirrored);
   }
+  parts_.setup.Listen(*this);
 }
 
 MirrorSession::~MirrorSession() {
+  parts_.setup.StopListening(*this);
   *self_ = nullptr;
   StopGraph();
 }
@@ -73,8 +76,7 @@ void MirrorSession::Open() {
   if (open_) return;
   open_ = true;
   student_ = parts_.remembered;
-  if (parts_.naming.Folder().empty())
-    parts_.naming.SetFolder(LibraryTree(parts_.settings).StudentFolder(student_[0], student_[1]));
+  parts_.naming.SetFolder(LibraryTree(parts_.settings).StudentFolder(student_[0], student_[1]));
   Run();
   GoOn();
   look_ = HostTimer(parts_.host, kLookMs, true, [this] { Look(); });
@@ -93,7 +95,7 @@ void MirrorSession::Close() {
   looping_ = frozen_ = false;
   StopGraph();
   for (Camera& camera : cameras_) camera.memory->Clear();
-  for (const auto& pane : panes_) pane->Behind(nullptr, 0);
+  for (const auto& pane : panes_) pane->Forget();
   StoreChoices();
 }
 
@@ -120,10 +122,10 @@ void MirrorSession::Run() {
   if (lent_) return;
   if (!Load()) return RetryLater();
   LimitMemory();
-  const Outcome ready = parts_.files.Prepare();
+  ready_ = parts_.files.Prepare();
   for (int camera = 0; camera < CameraCount(); ++camera) {
     Bind(camera);
-    if (ready) (void)graph_->GraphSetFileSink(kWriters[camera], parts_.files.Path(camera));
+    if (ready_) (void)graph_->GraphSetFileSink(kWriters[camera], parts_.files.TriggeredPath(camera));
   }
   begunNs_ = parts_.now();
   const Outcome run = graph_->GraphRun();
@@ -135,9 +137,27 @@ void MirrorSession::Run() {
   if (!run) RetryLater();
 }
 
+std::vector<CameraChoice> MirrorSession::ChosenCameras() const {
+  const CaptureSetup& setup = parts_.setup;
+  switch (setup.Use()) {
+    case CameraUse::First: return {setup.Shown(0)};
+    case CameraUse::Second: return {setup.Shown(1)};
+    case CameraUse::Both: break;
+  }
+  return {setup.Shown(0), setup.Shown(1)};
+}
+
+/// Chosen on another page while the mirror stands open.
+void MirrorSession::CaptureChoiceChanged() {
+  if (!open_ || lent_ || ChosenCameras() == served_) return;
+  Run();
+  GoOn();
+}
+
 /// The graph of the cameras that are at work. Another camera's past is not this one's.
 bool MirrorSession::Load() {
   const CameraUse use = parts_.setup.Use();
+  served_ = ChosenCameras();
   const std::array<std::string, 2> devices{parts_.setup.Shown(use == CameraUse::Second ? 1 : 0).name,
                                            use == CameraUse::Both ? parts_.setup.Shown(1).name : std::string()};
   const bool two = use == CameraUse::Both;
@@ -180,10 +200,7 @@ void MirrorSession::EndRun() {
   if (!graph_) return;
   for (Camera& camera : cameras_) camera.memory->LetGo();
   (void)graph_->GraphStop();
-  for (int camera = 0; camera < 2; ++camera) {
-    if (IBlockRecordingFilter* recorder = Recorder(camera)) keeper_.TakeWritten(*recorder, camera);
-    keeper_.GiveUp(camera);
-  }
+  keeper_.TakeWritten();
 }
 
 /// The cameras are free when this returns.
@@ -238,15 +255,14 @@ int MirrorSession::PaneCamera(int pane) const { return two_ ? choices_.cameras[s
 /// All panes show their delays.
 void MirrorSession::GoOn() {
   looping_ = frozen_ = false;
-  heldBytes_ = 0;
-  LimitMemory();
   for (int pane = 0; pane < kMostPanes; ++pane) LetRun(pane);
+  LimitMemory();
   Changed();
 }
 
 void MirrorSession::LetRun(int pane) {
   const auto at = static_cast<std::size_t>(pane);
-  if (pane >= choices_.panes || !open_) {
+  if (pane >= choices_.panes || !open_ || resting_) {
     threads_[at].reset();
     return;
   }
@@ -278,6 +294,7 @@ void MirrorSession::SetDelay(double seconds) {
 }
 
 void MirrorSession::SetCamera(int camera) {
+  if (!two_) return;
   choices_.cameras[static_cast<std::size_t>(chosen_)] = camera == 1 ? 1 : 0;
   GoOn();
 }
@@ -317,17 +334,16 @@ std::vector<PackedPicture> MirrorSession::LastSeen(int pane) const {
 
 void MirrorSession::ToggleLoop() {
   if (looping_) return GoOn();
-  std::int64_t bytes = 0;
+  bool any = false;
   for (int pane = 0; pane < choices_.panes; ++pane) {
     std::vector<PackedPicture> seen = LastSeen(pane);
     if (seen.empty()) continue;
-    for (const PackedPicture& picture : seen) bytes += static_cast<std::int64_t>(picture.size);
     panes_[static_cast<std::size_t>(pane)]->Loop(std::move(seen), PartOf(choices_.speed), parts_.now());
+    any = true;
   }
-  if (bytes == 0) return Say("There is nothing to loop yet.");
+  if (!any) return Say("There is nothing to loop yet.");
   looping_ = true;
   frozen_ = false;
-  heldBytes_ = bytes;
   LimitMemory();
   WakeAll();
   Changed();
@@ -342,7 +358,6 @@ void MirrorSession::ToggleFreeze() {
     if (looping_) {
       at.Freeze(on, parts_.now());
     } else if (std::vector<PackedPicture> seen = LastSeen(pane); !seen.empty()) {
-      for (const PackedPicture& picture : seen) heldBytes_ += static_cast<std::int64_t>(picture.size);
       at.Hold(std::move(seen), parts_.now());
       any = true;
     }
@@ -352,6 +367,16 @@ void MirrorSession::ToggleFreeze() {
   LimitMemory();
   WakeAll();
   Changed();
+}
+
+void MirrorSession::Rest(bool on) {
+  if (std::exchange(resting_, on) == on || !open_) return;
+  for (int pane = 0; pane < choices_.panes; ++pane) {
+    std::unique_ptr<PaneThread>& thread = threads_[static_cast<std::size_t>(pane)];
+    if (on) thread.reset();
+    else if (parts_.on == On::Threads && !thread)
+      thread = std::make_unique<PaneThread>(*panes_[static_cast<std::size_t>(pane)]);
+  }
 }
 
 void MirrorSession::StepBy(int pictures) {
@@ -366,23 +391,32 @@ void MirrorSession::Keep() {
   if (!recorder) return Say("Nothing can be kept while the capture page has the camera.");
   std::vector<PackedPicture> seen = LastSeen(chosen_);
   if (seen.size() < 2) return Say("There is nothing to keep yet.");
+  if (!ready_) return Say("Not kept. " + ready_.Why());
   const double seconds = static_cast<double>(seen.back().ns - seen.front().ns) / static_cast<double>(kSecondNs);
   const bool second = two_ ? PaneCamera(chosen_) == 1 : parts_.setup.Use() == CameraUse::Second;
-  if (!keeper_.Keep(*recorder, PaneCamera(chosen_), second, std::move(seen))) return;
+  if (!keeper_.Keep(*recorder, second, std::move(seen))) return;
   Say(fmt::format("Keeping {:.1f} s...", seconds));
 }
 
-void MirrorSession::BlockWritten(const std::string& label) {
-  const int camera = label == kRecorders[1] ? 1 : 0;
-  if (IBlockRecordingFilter* recorder = Recorder(camera)) keeper_.TakeWritten(*recorder, camera);
-}
+void MirrorSession::BlockWritten(const std::string&) { keeper_.TakeWritten(); }
 
 void MirrorSession::KeepTold(const std::string& words, bool) { Say(words); }
 
 // ---------------------------------------------------------------- what the window shows
 
+/// Of what is looped or held. Panes may hold the same pictures, of which there is but one.
+std::int64_t MirrorSession::HeldBytes() const {
+  std::set<const void*> counted;
+  std::int64_t bytes = 0;
+  for (const auto& pane : panes_)
+    for (const PackedPicture& picture : pane->Held())
+      if (counted.insert(picture.bytes.get()).second) bytes += static_cast<std::int64_t>(picture.size);
+  return bytes;
+}
+
 /// As far back as the longest delay and what may be looped or kept of it; never less than the longest that there is.
 void MirrorSession::LimitMemory() {
+  heldBytes_ = HeldBytes();
   const std::int64_t reach = Ns(kMostDelay + choices_.loopSeconds + 1);
   const std::int64_t free = std::max(bound_ / 4, bound_ - heldBytes_);
   for (const Camera& camera : cameras_) camera.memory->Limit(reach, free / CameraCount());
@@ -402,7 +436,10 @@ std::string MirrorSession::Badge(int pane) const {
 }
 
 PaneNote MirrorSession::NoteOf(int pane) const {
-  if (looping_ || frozen_) return {};
+  if (looping_ || frozen_) {
+    if (panes_[static_cast<std::size_t>(pane)]->Holds()) return {};
+    return {"Nothing of that time is remembered yet.", true};
+  }
   const Camera& camera = CameraOf(pane);
   const PictureMemory::Tally tally = camera.memory->Take();
   const std::int64_t now = parts_.now();

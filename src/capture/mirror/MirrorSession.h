@@ -37,7 +37,7 @@ class IMirrorView {
 
 /// The delayed mirror: cameras as they were some seconds ago, in up to four panes, until it is closed. Has a graph of
 /// its own, which remembers; nothing here waits for a camera or a disk. Panes and cameras count from 0.
-class MirrorSession : private IGraphEvents, private IKeeperEvents {
+class MirrorSession : private IGraphEvents, private IKeeperEvents, private ICaptureSetupEvents {
  public:
   /// What has the panes go on.
   enum class On {
@@ -67,7 +67,7 @@ class MirrorSession : private IGraphEvents, private IKeeperEvents {
 
   /// Cameras come up, as the setup has them; nothing when it is open.
   void Open();
-  /// The cameras go, as soon as what is being kept is written.
+  /// The cameras go. What is being kept is written to its end all the same, see Keeping.
   void Close();
   bool IsOpen() const { return open_; }
   /// Something is still on its way to the student's folder.
@@ -95,6 +95,8 @@ class MirrorSession : private IGraphEvents, private IKeeperEvents {
   void ToggleLoop();
   bool Looping() const { return looping_; }
   void ToggleFreeze();
+  /// Nobody sees the window: the panes rest, the cameras are remembered on.
+  void Rest(bool on);
   bool Frozen() const { return frozen_; }
   /// While frozen: so many pictures on, or back.
   void StepBy(int pictures);
@@ -131,6 +133,7 @@ class MirrorSession : private IGraphEvents, private IKeeperEvents {
   IBlockRecordingFilter* Recorder(int camera);
   int CameraCount() const { return two_ ? 2 : 1; }
   void Run();
+  std::vector<CameraChoice> ChosenCameras() const;
   bool Load();
   void Bind(int camera);
   void EndRun();
@@ -140,6 +143,7 @@ class MirrorSession : private IGraphEvents, private IKeeperEvents {
   void GoOn();
   void LetRun(int pane);
   void WakeAll();
+  std::int64_t HeldBytes() const;
   void LimitMemory();
   std::vector<PackedPicture> LastSeen(int pane) const;
   void Look();
@@ -155,6 +159,8 @@ class MirrorSession : private IGraphEvents, private IKeeperEvents {
   void BlockWritten(const std::string& label) override;
   void EndOfStream() override {}
   void KeepTold(const std::string& words, bool good) override;
+  void CaptureChoiceChanged() override;
+  void CaptureDevicesChanged() override {}
 
   Parts parts_;
   LastStudentInfo student_;  ///< whom the program remembered last
@@ -163,11 +169,13 @@ class MirrorSession : private IGraphEvents, private IKeeperEvents {
   MirrorKeeper keeper_;
   std::unique_ptr<IGraph> graph_;
   std::array<Camera, 2> cameras_;
+  std::vector<CameraChoice> served_;  ///< what the graph was built for
   /// Posted news ask it first whether the session is still there.
   std::shared_ptr<MirrorSession*> self_;
   std::array<std::unique_ptr<MirrorPane>, kMostPanes> panes_;
   std::array<std::unique_ptr<PaneThread>, kMostPanes> threads_;
   std::array<PaneNote, kMostPanes> notes_;
+  Outcome ready_;  ///< of the run under way: whether there is where videos can be written
   std::string status_;
   std::string memoryWords_;
   std::int64_t bound_ = 0;      ///< bytes that all pictures may take
@@ -181,6 +189,7 @@ class MirrorSession : private IGraphEvents, private IKeeperEvents {
   bool two_ = false;
   bool looping_ = false;
   bool frozen_ = false;
+  bool resting_ = false;
   HostTimer look_;
   HostTimer step_;
   HostTimer retry_;

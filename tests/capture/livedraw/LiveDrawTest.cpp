@@ -166,6 +166,39 @@ TEST_F(LiveDraw, AZoneIsDrawnMovedResizedAndRemovedByTheMouse) {
   EXPECT_TRUE(graph->detector.regions.empty());
 }
 
+TEST_F(LiveDraw, AZoneAtItsSmallestStaysWhatIsUndone) {
+  OpenLive();
+  for (int at = 101; at < 141; ++at) {
+    AddZone({at, 100}, {at + 200, 300});
+    Drag({at + 200, 200}, {0, 200});  // its right edge, far beyond the left one
+    AddZone({400, 50}, {500, 90});
+    session->Undo();
+    EXPECT_EQ(session->Zones().All().size(), 1U) << at;
+    session->RemoveZones();
+  }
+}
+
+TEST_F(LiveDraw, ThereIsRoomForTwelveZones) {
+  OpenLive();
+  for (int i = 0; i < HotZones::kMost; ++i) AddZone({10 + 40 * i, 100}, {40 + 40 * i, 140});
+  EXPECT_EQ(session->Zones().All().size(), 12U);
+  session->PressZone();
+  EXPECT_FALSE(session->AddingZone());
+  EXPECT_EQ(host.messages.back(), "There is room for twelve hot zones. Remove one of them first.");
+}
+
+TEST_F(LiveDraw, AZoneWhoseReleaseWasLostIsWatchedWhereItIs) {
+  OpenLive();
+  AddZone({100, 100}, {200, 200});
+  session->MouseDown(1, false, {150, 150});
+  session->MouseMove(1, false, {250, 250});
+  session->MouseMove(0, false, {400, 400});
+  EXPECT_NEAR(session->Zones().All()[0].place.left, 200.0 / 640, 1e-6) << "it does not stick to the mouse";
+  EXPECT_EQ(graph->detector.regions.begin()->second, session->Zones().All()[0].place);
+  session->Undo();
+  EXPECT_NEAR(session->Zones().All()[0].place.left, 100.0 / 640, 1e-6);
+}
+
 /// A zone and a drawing one over the other: the drawing is nearer to the hand.
 TEST_F(LiveDraw, OneThingIsTakenAtATime) {
   OpenLive();
@@ -303,6 +336,18 @@ TEST_F(LiveDraw, ACameraThatIsPulledOutComesBackByItself) {
   graph->Show();
   EXPECT_FALSE(session->Compose().Empty());
   EXPECT_EQ(Drawings().size(), 1U);
+}
+
+TEST_F(LiveDraw, AFrozenCameraThatIsPulledOutIsLiveAgainWhenItIsBack) {
+  OpenLive();
+  session->PressFreeze();
+  devices.Pull("Webcam");
+  session->SetMirror(false);
+  EXPECT_EQ(session->FreezeCaption(), "Live Video") << "the picture stands";
+  session->PressFreeze();
+  EXPECT_EQ(session->Camera().Words(), "Webcam is not connected. Plug it in, and it shows here.");
+  devices.Plug(MakeCamera("Webcam"));
+  EXPECT_TRUE(graph->running);
 }
 
 TEST_F(LiveDraw, ACameraThatIsBusyIsAskedAgain) {

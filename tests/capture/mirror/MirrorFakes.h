@@ -52,8 +52,11 @@ class FakeRecorder final : public IBlockRecordingFilter {
  public:
   struct Writer final : IBlockWriter {
     std::vector<WrittenBlock> blocks;
-    bool Writing() const override { return false; }
-    std::vector<WrittenBlock> TakeWritten() override { return std::exchange(blocks, {}); }
+    bool slow = false;  ///< the disk is still at it
+    bool Writing() const override { return slow; }
+    std::vector<WrittenBlock> TakeWritten() override {
+      return slow ? std::vector<WrittenBlock>() : std::exchange(blocks, {});
+    }
   };
 
   std::deque<PackedPicture> pictures;
@@ -62,7 +65,8 @@ class FakeRecorder final : public IBlockRecordingFilter {
   std::string base;                                ///< of the files of its blocks
   std::vector<std::vector<std::int64_t>> written;  ///< the stamps of each block
   std::shared_ptr<Writer> writer = std::make_shared<Writer>();
-  std::string fault;  ///< of the disk
+  std::string fault;    ///< of the disk
+  bool cutOff = false;  ///< and the file has its first pictures all the same
 
   void BlockRecordingSetStart(double) override {}
   void BlockRecordingSetEnd(double) override {}
@@ -94,7 +98,7 @@ class FakeRecorder final : public IBlockRecordingFilter {
     block.path = BlockPath(base, block.shot);
     block.tally.pictures = static_cast<std::int64_t>(given.size());
     block.tally.fault = fault;
-    if (fault.empty()) {
+    if (fault.empty() || cutOff) {
       std::filesystem::create_directories(std::filesystem::path(block.path).parent_path());
       std::ofstream(block.path) << "pictures";
     }

@@ -82,7 +82,7 @@ class MirrorSessionTest : public testing::Test, public IMirrorView, public INami
   std::string folder = library.Folder("Anna/Łucja");
   std::unique_ptr<CaptureSetup> setup;
   VideoNaming naming{settings, [] { return std::string("11/25/2026"); }};
-  LastStudentInfo remembered;
+  LastStudentInfo remembered{"Anna", "Łucja", {}};
   WorkingFiles files{library.Data("capture")};
   JobRunner jobs{library.host, JobRunner::On::HostTimer};
   std::shared_ptr<FakeMirrorGraph::Told> graph = std::make_shared<FakeMirrorGraph::Told>();
@@ -177,28 +177,73 @@ TEST_F(MirrorSessionTest, KeepsWhatIsSeenUnderTheNextName) {
   library.host.Advance(9000);
   session->Keep();
   EXPECT_NEAR(static_cast<double>(graph->recorders[0].written[2].size()), 126, 1) << "of a loop all of it";
-  graph->recorders[0].writer->blocks.clear();
+  Written();
   graph->recorders[0].fault = "The disk is full.";
   session->Keep();
   Written();
   EXPECT_EQ(session->Status(), "Not kept. The disk is full.");
-  session->Close();
-  EXPECT_FALSE(session->Keeping()) << "what never came is not waited for";
+  graph->recorders[0].cutOff = true;
+  session->Keep();
+  Written();
+  EXPECT_EQ(session->Status(), "The disk is full. What was written is kept.");
 }
 
-TEST_F(MirrorSessionTest, AsksForANameAsTheCapturePageDoes) {
+TEST_F(MirrorSessionTest, WritesToItsEndWhatIsKeptAsTheWindowCloses) {
+  Open();
+  Film(15);
+  FakeRecorder& recorder = graph->recorders[0];
+  recorder.writer->slow = true;
+  session->Keep();
+  session->Close();
+  library.host.Advance(60'000);
+  EXPECT_TRUE(session->Keeping()) << "a slow disk may take a while";
+  recorder.writer->slow = false;
+  RunJobs();
+  EXPECT_TRUE(FileExists(folder + "/(001) DL- 11-25-2026.avi"));
+
+  Open();
+  Film(15);
+  session->Keep();
+  recorder.writer->blocks.clear();
+  session->Close();
+  RunJobs();
+  EXPECT_FALSE(session->Keeping()) << "what never came is not waited for";
+  EXPECT_EQ(session->Status(), "Not kept. The disk does not answer.");
+}
+
+TEST_F(MirrorSessionTest, KeepsForWhoIsChosenAsItOpens) {
+  const std::string other = library.Folder("Anna/久美子");
+  Open();
+  session->Close();
+  remembered = {"Anna", "久美子", {}};
+  Open();
+  Film(15);
+  EXPECT_EQ(session->StudentName(), "久美子");
+  session->Keep();
+  Written();
+  EXPECT_TRUE(FileExists(other + "/(001) DL- 11-25-2026.avi"));
+  session->Keep();
+  std::filesystem::remove_all(other);
+  Written();
+  EXPECT_EQ(session->Status(), "Not kept. The folder for the video is not there any more.");
+  EXPECT_TRUE(FileExists(library.Data("capture/unfinished 1.avi")));
+}
+
+TEST_F(MirrorSessionTest, NamesAVideoByItselfWhereTheNameIsToBeTyped) {
   naming.ChooseMode(NameMode::Manual);
   Open();
   Film(15);
   session->Keep();
-  EXPECT_EQ(library.host.messages.back(), "You must name the video before saving!");
-  EXPECT_EQ(namesWanted, 1);
-  EXPECT_TRUE(graph->recorders[0].written.empty());
-  EXPECT_FALSE(session->Keeping());
+  Written();
+  EXPECT_EQ(session->Status(), "Kept: (001) Mirror");
   naming.SetText("skok Ł 跳");
   session->Keep();
   Written();
-  EXPECT_EQ(session->Status(), "Kept: (001) skok Ł 跳");
+  EXPECT_EQ(session->Status(), "Kept: (002) skok Ł 跳");
+  EXPECT_EQ(namesWanted, 0) << "nobody stands at the desk";
+  naming.SetFolder("");
+  session->Keep();
+  EXPECT_EQ(session->Status(), "Not kept. Choose on the capture page whose video it is.");
 }
 
 TEST_F(MirrorSessionTest, PlaysThePastOfACameraThatIsPulledOutAndGoesOn) {

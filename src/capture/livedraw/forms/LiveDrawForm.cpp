@@ -175,6 +175,7 @@ void LiveDrawForm::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
   if (event->spontaneous() || session_.IsOpen()) return;
   session_.Open();
+  awake_ = std::make_unique<ScreenAwake>("Live draw is shown");
   FillCameras();
   UpdateAll();
 }
@@ -182,6 +183,7 @@ void LiveDrawForm::showEvent(QShowEvent* event) {
 void LiveDrawForm::closeEvent(QCloseEvent* event) {
   event->accept();
   hide();
+  awake_.reset();
   session_.Close();
   emit Closed();
 }

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <QWidget>
+#include <memory>
 #include <vector>
 
 #include "capture/livedraw/LiveDrawSession.h"
+#include "platform/host/ScreenAwake.h"
 #include "workspace/commands/MenuBar.h"
 
 class QComboBox;
@@ -103,8 +105,9 @@ class LiveDrawForm : public QWidget, private ILiveDrawView {
   Button* full_ = nullptr;
   QSlider* PixSlider_ = nullptr;
   QLabel* status_ = nullptr;
-  bool changing_ = false;   ///< news is on its way to UpdateAll
-  bool maximized_ = false;  ///< before it filled the screen
+  std::unique_ptr<ScreenAwake> awake_;  ///< as long as it is open
+  bool changing_ = false;               ///< news is on its way to UpdateAll
+  bool maximized_ = false;              ///< before it filled the screen
 };
 
 }  // namespace kinalyx

@@ -137,6 +137,9 @@ void MirrorForm::Open() {
     return;
   }
   ShowAtPlace();
+  for (MirrorView* view : views_)
+    if (view) view->ShowSight({});  // of another session, perhaps of somebody else
+  session_->Rest(false);
   session_->Open();
   awake_ = std::make_unique<ScreenAwake>("The delayed mirror is shown");
   MirrorChanged();
@@ -325,6 +328,10 @@ void MirrorForm::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (event->type() == QEvent::WindowStateChange && session_ && session_->IsOpen()) {
     NotePlace();
+    if (isMinimized() == static_cast<bool>(awake_)) {
+      session_->Rest(isMinimized());
+      awake_ = isMinimized() ? nullptr : std::make_unique<ScreenAwake>("The delayed mirror is shown");
+    }
     if (bar_->isVisible()) bar_->ShowAll(isFullScreen());
   }
 }
