@@ -5,8 +5,10 @@
 #include <string>
 #include <vector>
 
+#include "platform/files/Disk.h"
 #include "platform/files/Result.h"
 #include "platform/net/ITransferWatch.h"
+#include "platform/net/NetLimits.h"
 #include "platform/net/ServerAddress.h"
 
 namespace kinalyx {
@@ -16,6 +18,7 @@ struct ServerLogin {
   std::string login;  ///< empty: as a guest
   std::string password;
   bool passive = true;
+  std::string caFile = {};  ///< whose signatures count; empty: those that the system trusts
 };
 
 /// An entry of a server's folder. Names come from outside: whoever makes a path of one checks it first.
@@ -36,7 +39,8 @@ class IFileServer {
   /// Folders and files, in the order of the server; a folder that is not there fails with Fault::NotFound. At most
   /// 10,000 entries are taken.
   virtual Result<std::vector<ServerEntry>> List(const std::string& folder, ITransferWatch& watch) = 0;
-  /// Into a new file, whole or not at all. Fault::NotFound where the server has none.
+  /// Into a new file, whole or not at all; what is there already is refused (Fault::Refused). Fault::NotFound where the
+  /// server has none, Fault::Unwritable where this disk takes no more.
   virtual Outcome Get(const std::string& path, const std::string& target, ITransferWatch& watch) = 0;
   /// A small file as text; more than `most` bytes fail.
   virtual Result<std::string> GetText(const std::string& path, std::int64_t most, ITransferWatch& watch) = 0;
@@ -45,6 +49,6 @@ class IFileServer {
   /// With all folders above it; one that is there already is fine.
   virtual Outcome MakeFolder(const std::string& folder, ITransferWatch& watch) = 0;
 };
-std::unique_ptr<IFileServer> MakeFileServer(ServerLogin login);
+std::unique_ptr<IFileServer> MakeFileServer(ServerLogin login, NetLimits limits = {}, IDisk& disk = RealDisk());
 
 }  // namespace kinalyx

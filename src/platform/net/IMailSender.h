@@ -6,6 +6,7 @@
 
 #include "platform/files/Result.h"
 #include "platform/net/ITransferWatch.h"
+#include "platform/net/NetLimits.h"
 #include "platform/net/ServerAddress.h"
 
 namespace kinalyx {
@@ -18,6 +19,7 @@ struct MailServer {
   bool loginRequired = false;
   std::string login;
   std::string password;
+  std::string caFile = {};  ///< whose signatures count; empty: those that the system trusts
 };
 
 /// A file that goes with a message.
@@ -48,7 +50,7 @@ class IMailSender {
   virtual Outcome Send(const MailServer& server, const MailMessage& message, ITransferWatch& watch,
                        bool& closedCleanly) = 0;
 };
-std::unique_ptr<IMailSender> MakeMailSender();
+std::unique_ptr<IMailSender> MakeMailSender(NetLimits limits = {});
 
 /// Whether a text can be the address of a reader: something, one "@", something with no blank, no line end and no
 /// bracket.

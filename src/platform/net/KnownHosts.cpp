@@ -1,0 +1,84 @@
+#include "platform/net/KnownHosts.h"
+
+#include <fmt/format.h>
+
+#include <QByteArray>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <utility>
+
+#include <fcntl.h>
+#include <pwd.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "platform/files/Folders.h"
+
+namespace kinalyx {
+namespace {
+
+constexpr int kUsualPort = 22;
+
+std::string HomeFolder() {
+  if (const char* home = std::getenv("HOME"); home && *home) return home;
+  const passwd* user = ::getpwuid(::getuid());
+  return user && user->pw_dir ? user->pw_dir : "";
+}
+
+/// The kind of a key, with which its bytes begin.
+std::string KindOf(const QByteArray& key) {
+  constexpr int kLength = 4, kLongest = 64;
+  if (key.size() < kLength) return {};
+  int length = 0;
+  for (int i = 0; i < kLength; ++i) length = length << 8 | static_cast<unsigned char>(key[i]);
+  if (length < 1 || length > kLongest || length > key.size() - kLength) return {};
+  return key.mid(kLength, length).toStdString();
+}
+
+}  // namespace
+
+KnownHosts::KnownHosts(std::string file, std::string host, int port)
+    : file_(std::move(file)), host_(std::move(host)), port_(port == 0 ? kUsualPort : port) {
+  if (file_.empty()) file_ = JoinPath(HomeFolder(), ".ssh/known_hosts");
+  if (host_.starts_with('[') && host_.ends_with(']')) host_ = host_.substr(1, host_.size() - 2);
+}
+
+void KnownHosts::Attach(CURL* handle) {
+  curl_easy_setopt(handle, CURLOPT_SSH_KNOWNHOSTS, file_.c_str());
+  curl_easy_setopt(handle, CURLOPT_SSH_KEYFUNCTION, &KnownHosts::OnKey);
+  curl_easy_setopt(handle, CURLOPT_SSH_KEYDATA, this);
+}
+
+int KnownHosts::OnKey(CURL*, const curl_khkey*, const curl_khkey* found, curl_khmatch match, void* self) {
+  auto& hosts = *static_cast<KnownHosts*>(self);
+  if (match == CURLKHMATCH_OK) return CURLKHSTAT_FINE;
+  if (match == CURLKHMATCH_MISMATCH || !found) {
+    hosts.changed_ = true;
+    return CURLKHSTAT_REJECT;
+  }
+  hosts.Remember(*found);
+  return CURLKHSTAT_FINE;
+}
+
+void KnownHosts::Remember(const curl_khkey& key) const {
+  const QByteArray bytes = key.len > 0 ? QByteArray(key.key, static_cast<qsizetype>(key.len))
+                                       : QByteArray::fromBase64(QByteArray(key.key));
+  const std::string kind = KindOf(bytes);
+  if (kind.empty()) return;
+  const std::string name = port_ == kUsualPort ? host_ : fmt::format("[{}]:{}", host_, port_);
+  // One line is added. The library would write the whole file anew, without the user's remarks and without what it
+  // does not understand.
+  std::string line = fmt::format("{} {} {}\n", name, kind, bytes.toBase64().toStdString());
+  const std::string folder = FolderOf(file_);
+  if (!dirExists(folder) && MakeFolder(folder)) ::chmod(folder.c_str(), S_IRWXU);
+  const int file = ::open(file_.c_str(), O_RDWR | O_APPEND | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);
+  if (file < 0) return;  // then it is a first time again the next time
+  char last = '\n';
+  const off_t end = ::lseek(file, 0, SEEK_END);
+  if (end > 0 && ::pread(file, &last, 1, end - 1) == 1 && last != '\n') line.insert(0, "\n");
+  (void)!::write(file, line.data(), line.size());
+  ::close(file);
+}
+
+}  // namespace kinalyx
