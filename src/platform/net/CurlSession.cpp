@@ -85,6 +85,7 @@ CurlEnd CurlSession::Perform(ITransferWatch& watch, std::int64_t total) {
   end_ = {};
   goodbye_ = false;
   goesOn_ = false;
+  leaving_ = false;
   cancelled_ = false;
   total_ = total;
   traffic_ = sockets_.Traffic();
@@ -103,6 +104,11 @@ CurlEnd CurlSession::Perform(ITransferWatch& watch, std::int64_t total) {
     if (message->msg == CURLMSG_DONE) end_.code = message->data.result;
   }
   if (givenUp && running) sockets_.StopListening();
+  if (!givenUp && end_.bytes > 0) Report(Clock::now());
+  // A server that is full says so and hangs up: the library sees only that nothing more can be sent.
+  if (end_.code == CURLE_SEND_ERROR) {
+    for (const std::string& line : sockets_.LastLines()) HearReply(line);
+  }
   curl_easy_getinfo(handle, CURLINFO_SSL_VERIFYRESULT, &end_.certificate);
   curl_multi_remove_handle(multi_.get(), handle);
   sockets_.CloseEnded();
@@ -130,14 +136,16 @@ bool CurlSession::GivesUp() {
   return end_.how != CurlEnd::How::Answered;
 }
 
+void CurlSession::Report(Clock::time_point now) {
+  const double seconds = std::chrono::duration<double>(now - begun_).count();
+  watch_->Progress(end_.bytes, total_, seconds > 0 ? static_cast<double>(end_.bytes) / seconds : 0);
+}
+
 void CurlSession::Look(Clock::time_point now) {
   if (!watch_) return;
   const bool away = looked_ != Clock::time_point() && now - looked_ > kAway;
   looked_ = now;
-  const double seconds = std::chrono::duration<double>(now - begun_).count();
-  if (end_.bytes > 0)
-    watch_->Progress(end_.bytes, std::max(total_, std::int64_t{0}),
-                     seconds > 0 ? static_cast<double>(end_.bytes) / seconds : 0);
+  if (end_.bytes > 0) Report(now);
   if (!cancelled_ && watch_->Cancelled()) {
     cancelled_ = true;
     cancelledAt_ = now;
@@ -162,6 +170,7 @@ void CurlSession::Look(Clock::time_point now) {
 int CurlSession::OnTalk(CURL*, curl_infotype kind, char* bytes, std::size_t size, void* self) {
   auto& session = *static_cast<CurlSession*>(self);
   const std::string_view line(bytes, size);
+  if (getenv("NETDBG") && kind <= CURLINFO_HEADER_OUT) fprintf(stderr, "%d %.*s", kind, (int)size, bytes);
   if (kind == CURLINFO_HEADER_IN) session.HearReply(line);
   if (kind == CURLINFO_HEADER_OUT) session.HearCommand(line);
   return 0;
@@ -170,7 +179,7 @@ int CurlSession::OnTalk(CURL*, curl_infotype kind, char* bytes, std::size_t size
 void CurlSession::HearReply(std::string_view line) {
   int code = 0;
   if (line.size() < 4 || std::from_chars(line.data(), line.data() + 3, code).ptr != line.data() + 3 || code < 100) return;
-  if (end_.command == "QUIT") {
+  if (leaving_) {
     if (code == 221) goodbye_ = true;
     return;
   }
@@ -183,6 +192,8 @@ void CurlSession::HearReply(std::string_view line) {
 }
 
 void CurlSession::HearCommand(std::string_view line) {
+  leaving_ = line.starts_with("QUIT");
+  if (leaving_) return;
   // Passwords pass here: no more than the first word is kept, and of a reader his address.
   const std::size_t end = line.starts_with("RCPT") ? line.find_first_of("\r\n") : line.find_first_of(" \r\n");
   end_.command = line.substr(0, std::min(end, line.size()));

@@ -2,7 +2,15 @@
 
 #include <gmock/gmock.h>
 
-namespace kinalyx::test {
+#include <ostream>
+
+namespace kinalyx {
+
+void PrintTo(const ServerEntry& entry, std::ostream* out) {
+  *out << entry.name << (entry.folder ? "/ " : " ") << entry.bytes;
+}
+
+namespace test {
 namespace {
 
 using testing::ElementsAre;
@@ -59,4 +67,5 @@ TEST(ListingReaderTest, WhatIsNoListingIsTold) {
 }
 
 }  // namespace
-}  // namespace kinalyx::test
+}  // namespace test
+}  // namespace kinalyx
