@@ -92,7 +92,7 @@ def smtp():
     def check(server, session, envelope, mechanism, data):
         good = data.login.decode() == arguments.user and data.password.decode() == arguments.password
         return AuthResult(success=good, handled=False) if good else AuthResult(
-            success=False, handled=True,
+            success=False, handled=False,
             message="535 5.7.8 Wrong password " + data.password.decode())
 
     settings = dict(authenticator=check, auth_require_tls=False, auth_required=arguments.login,
@@ -105,12 +105,13 @@ def smtp():
             return SMTP(self.handler, **settings)
 
         def _trigger_server(self):
-            pass  # the port is not known to it
+            self.port = self.server.sockets[0].getsockname()[1]
+            super()._trigger_server()
 
     server = Choosing(Handler(), hostname="127.0.0.1", port=0,
                       ssl_context=context if arguments.tls == "first" else None)
     server.start()
-    announce(server.server.sockets[0].getsockname()[1])
+    announce(server.port)
     while True:
         time.sleep(3600)
 

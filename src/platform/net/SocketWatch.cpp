@@ -1,7 +1,17 @@
 #include "platform/net/SocketWatch.h"
 
+<<<<<<< HEAD
 #include <linux/tcp.h>
 #include <netinet/in.h>
+=======
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+#include <linux/tcp.h>
+#include <netinet/in.h>
+#include <poll.h>
+>>>>>>> dev-net
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -57,6 +67,27 @@ void SocketWatch::StopListening() {
   for (const int socket : open_) ::shutdown(socket, SHUT_RD);
 }
 
+<<<<<<< HEAD
+=======
+std::vector<std::string> SocketWatch::LastLines() const {
+  constexpr int kWaitMs = 300;
+  std::vector<std::string> lines;
+  for (const int socket : ended_) {
+    pollfd ready{.fd = socket, .events = POLLIN, .revents = 0};
+    std::array<char, 2048> bytes{};
+    if (::poll(&ready, 1, kWaitMs) <= 0) continue;
+    const ssize_t got = ::recv(socket, bytes.data(), bytes.size(), MSG_DONTWAIT);
+    std::string_view text(bytes.data(), static_cast<std::size_t>(std::max<ssize_t>(got, 0)));
+    while (!text.empty()) {
+      const std::size_t end = std::min(text.find('\n'), text.size());
+      lines.emplace_back(text.substr(0, end));
+      text.remove_prefix(std::min(end + 1, text.size()));
+    }
+  }
+  return lines;
+}
+
+>>>>>>> dev-net
 void SocketWatch::CloseEnded() {
   for (const int socket : ended_) {
     closed_ += Look(socket);

@@ -51,9 +51,12 @@ class FileServerTest : public testing::Test {
   CountingWatch watch_;
 };
 
+<<<<<<< HEAD
 #define NEEDS(started) \
   if (!(started)) GTEST_SKIP() << server_->Missing()
 
+=======
+>>>>>>> dev-net
 TEST_F(FileServerTest, AFolderIsFilledListedAndFetched) {
   const TestCertificate mine("localhost");
   for (const auto& [tls, passive] :
@@ -157,11 +160,19 @@ TEST_F(FileServerTest, ServersThatFail) {
   for (const Case& one : {Case{"mute", "stopped answering", "stopped answering"},
                           Case{"hang", "stopped answering", "stopped answering"},
                           Case{"hangdata", "stopped answering", "stopped answering"},
+<<<<<<< HEAD
                           Case{"cut", "broke off", "broke off"}, Case{"full", "", "full"}, Case{"busy", "busy", "busy"}}) {
     SCOPED_TRACE(one.kind);
     NEEDS(StartBad(one.kind));
     const auto server = Server(ShortLimits());
     if (*one.get) EXPECT_THAT(server->Get("a.avi", here_.Path("got"), watch_).Why(), HasSubstr(one.get));
+=======
+                          Case{"cut", "broke off", "broke off"}, Case{"full", "broke off", "The server is full"}, Case{"busy", "busy", "busy"}}) {
+    SCOPED_TRACE(one.kind);
+    NEEDS(StartBad(one.kind));
+    const auto server = Server(ShortLimits());
+    EXPECT_THAT(server->Get("a.avi", here_.Path("got"), watch_).Why(), HasSubstr(one.get));
+>>>>>>> dev-net
     EXPECT_THAT(server->Put(source, "a.avi", watch_).Why(), HasSubstr(one.put));
     EXPECT_EQ(here_.FileCount(), 1u) << "nothing half is left";
   }
@@ -211,7 +222,11 @@ TEST_F(FileServerTest, AFullDiskHere) {
     const Outcome got = Server({}, disk)->Get("a.avi", here_.Path("a.avi"), watch_);
     if (!disk.Failed()) break;
     EXPECT_EQ(here_.FileCount(), got ? 1u : 0u) << call;
+<<<<<<< HEAD
     if (!got) EXPECT_EQ(got.Kind(), Fault::Unwritable) << got.Why();
+=======
+    EXPECT_TRUE(got || got.Kind() == Fault::Unwritable) << got.Why();
+>>>>>>> dev-net
     std::filesystem::remove(here_.Path("a.avi"));
   }
 }

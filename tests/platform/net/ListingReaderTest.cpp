@@ -2,7 +2,19 @@
 
 #include <gmock/gmock.h>
 
+<<<<<<< HEAD
 namespace kinalyx::test {
+=======
+#include <ostream>
+
+namespace kinalyx {
+
+void PrintTo(const ServerEntry& entry, std::ostream* out) {
+  *out << entry.name << (entry.folder ? "/ " : " ") << entry.bytes;
+}
+
+namespace test {
+>>>>>>> dev-net
 namespace {
 
 using testing::ElementsAre;
@@ -59,4 +71,9 @@ TEST(ListingReaderTest, WhatIsNoListingIsTold) {
 }
 
 }  // namespace
+<<<<<<< HEAD
 }  // namespace kinalyx::test
+=======
+}  // namespace test
+}  // namespace kinalyx
+>>>>>>> dev-net

@@ -8,6 +8,16 @@
 #include "platform/net/ITransferWatch.h"
 #include "platform/net/NetLimits.h"
 
+<<<<<<< HEAD
+=======
+/// Skips a test for which Python's modules are not installed; a server that does not start is a failure.
+#define NEEDS(started)                                                            \
+  if (!(started)) {                                                               \
+    if (!server_->Missing().empty()) GTEST_SKIP() << server_->Missing();          \
+    FAIL() << "The server did not start: " << server_->Trouble();                 \
+  }
+
+>>>>>>> dev-net
 namespace kinalyx::test {
 
 /// Waits patiently, and counts.
