@@ -15,7 +15,7 @@ namespace kinalyx {
 MailRoom::MailRoom(Parts parts)
     : parts_(parts),
       queue_(JoinPath(parts.settings.DataPath, "capture/email")),
-      desk_(parts.host, parts.mail, queue_, MakeMailSender) {}
+      desk_(parts.host, parts.mail, queue_, [] { return MakeMailSender(); }) {}
 
 MailRoom::~MailRoom() = default;
 

@@ -154,8 +154,9 @@ void Program::LoadMain() {
   CaptureSection* captureSection = capture_->MakeSection();
   QObject::connect(captureSection, &CaptureSection::CaptureWanted, captureSection, [this] { GoToCapture(); });
   setup_->SetSection(SetupPage::kCapture, captureSection);
-  setup_->SetSection(SetupPage::kInternet,
-                     new InternetSection(*host_, settings_, mail_, MakeMailSender, MakeFileServer));
+  setup_->SetSection(SetupPage::kInternet, new InternetSection(
+                                               *host_, settings_, mail_, [] { return MakeMailSender(); },
+                                               [](ServerLogin login) { return MakeFileServer(std::move(login)); }));
   main_->SetPage(kSetupPage, setup_);
   ConnectSetupPage();
 
