@@ -74,6 +74,10 @@ TEST_F(InternetSectionTest, PasswordsAreHiddenUntilTheEyeIsPressed) {
   EXPECT_FALSE(Find<QLineEdit>("txtEmail5")->isEnabled());
   Press("ckEmail2");
   EXPECT_TRUE(Find<QLineEdit>("txtEmail5")->isEnabled());
+  const auto warned = [&] { return Text("MailServiceHint").contains("anybody on the way can read your password"); };
+  EXPECT_TRUE(warned());
+  Press("ckEmail0");
+  EXPECT_FALSE(warned());
   for (const char* box : {"txtEmail5", "WebIn2"}) {
     Press((std::string(box) + "Eye").c_str());
     EXPECT_EQ(Find<QLineEdit>(box)->echoMode(), QLineEdit::Normal);

@@ -28,7 +28,7 @@ class SnapshotDesk {
   SnapshotDesk(IHost& host, SnapshotQueue& queue, IShortSounds& sounds, std::string sound, ISnapshotView& view)
       : host_(host), queue_(queue), sounds_(sounds), sound_(std::move(sound)), view_(view) {}
 
-  /// Takes the picture of the stage into the queue, or tells why it cannot.
+  /// Takes the picture of the stage into the queue, without the white around it, or tells why it cannot.
   void TTES_Click(const Surface& picture);
 
  private:

@@ -4,6 +4,7 @@
 
 #include "MailFakes.h"
 #include "distribution/mail/SnapshotDesk.h"
+#include "platform/paint/Blend.h"
 #include "platform/paint/ImageFiles.h"
 
 namespace kinalyx::test {
@@ -83,7 +84,13 @@ struct Shutter final : IShortSounds, ISnapshotView {
 TEST_F(SnapshotQueueTest, ASnapshotIsHeardAndTold) {
   Shutter shutter;
   SnapshotDesk desk(host, queue, shutter, "camera.wav", shutter);
-  desk.TTES_Click(Surface(20, 20));
+  Surface stage(60, 50);
+  stage.Clear(Rgb(255, 255, 255));
+  CopyPart(Surface(20, 10), 0, 0, 20, 10, stage, 5, 30);
+  desk.TTES_Click(stage);
+  const auto kept = LoadPicture(File(1));
+  ASSERT_TRUE(kept);
+  EXPECT_EQ(std::pair(kept->Width(), kept->Height()), std::pair(20, 10)) << "the paper around it is left out";
   EXPECT_EQ(shutter.words, "Picture Saved... You now have 1 pictures queued for emailing.");
   host.Advance(SnapshotDesk::kShownMs - 100);
   desk.TTES_Click(Surface(20, 20));

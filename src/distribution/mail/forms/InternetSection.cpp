@@ -160,6 +160,7 @@ QLineEdit* InternetSection::AddPassword(QVBoxLayout& rows, const QString& name, 
   connect(eye, &QPushButton::toggled, box,
           [box](bool shown) { box->setEchoMode(shown ? QLineEdit::Normal : QLineEdit::Password); });
   row->addLayout(column, 1);
+  if (!passwordEye_) passwordEye_ = eye;  // that of the mail comes first
   row->addWidget(eye, 0, Qt::AlignBottom);
   rows.addLayout(row);
   return box;
@@ -280,8 +281,13 @@ void InternetSection::ShowService() {
   for (QWidget* box : {static_cast<QWidget*>(txtEmail_[kServer]), static_cast<QWidget*>(txtEmail_[kPort]),
                        static_cast<QWidget*>(ckEmail_[kTls]), static_cast<QWidget*>(ckEmail_[kSsl])})
     box->setEnabled(other);
-  for (QLineEdit* box : {txtEmail_[kLogin], txtEmail_[kPassword]}) box->setEnabled(mail_.LoginRequired);
-  serviceHint_->setText(kServices[mail_.EmailLock].hint);
+  for (QWidget* box : {static_cast<QWidget*>(txtEmail_[kLogin]), static_cast<QWidget*>(txtEmail_[kPassword]),
+                       static_cast<QWidget*>(passwordEye_)})
+    box->setEnabled(mail_.LoginRequired);
+  QString hint = kServices[mail_.EmailLock].hint;
+  if (mail_.LoginRequired && !mail_.UseTLS && !mail_.UseSSL)
+    hint += ' ' + tr("Without encryption anybody on the way can read your password.");
+  serviceHint_->setText(hint);
 }
 
 void InternetSection::Wrote(bool written) { fault_->setVisible(!written); }

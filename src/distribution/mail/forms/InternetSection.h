@@ -76,6 +76,7 @@ class InternetSection final : public SetupSection, private ITestEvents {
   std::array<QCheckBox*, 3> ckEmail_{};
   std::array<QLineEdit*, 4> WebIn_{};
   QComboBox* FTPCombo_ = nullptr;
+  Button* passwordEye_ = nullptr;
   QLabel* serviceHint_ = nullptr;
   QLabel* fault_ = nullptr;
   TestRow mailTest_;
