@@ -64,12 +64,13 @@ void MailRoom::SendSnapshots() {
 void MailRoom::AskForLeft() {
   const int left = queue_.FindLeft();
   if (left == 0) return;
-  const bool take = parts_.host.Question(
-      "",
-      fmt::format("{} of an earlier session {} not been sent. Do you want to add {} to the queue? If not, {} deleted.",
-                  left == 1 ? "A picture" : fmt::format("{} pictures", left), left == 1 ? "has" : "have",
-                  left == 1 ? "it" : "them", left == 1 ? "it is" : "they are"));
-  if (take) return queue_.TakeLeft();
+  const bool one = left == 1;
+  const bool away = parts_.host.Question(
+      "", fmt::format("{} of an earlier session {} not been sent. Do you want to delete {}? If not, {} before the new "
+                      "ones.",
+                      one ? "A picture" : fmt::format("{} pictures", left), one ? "has" : "have", one ? "it" : "them",
+                      one ? "it comes" : "they come"));
+  if (!away) return queue_.TakeLeft();
   if (const Outcome gone = queue_.DeleteLeft(); !gone) parts_.host.Message(MessageKind::Warning, "", gone.Why());
 }
 
