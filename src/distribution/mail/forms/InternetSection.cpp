@@ -4,6 +4,7 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGridLayout>
 #include <QIntValidator>
 #include <QLabel>
 #include <QLineEdit>
@@ -87,16 +88,16 @@ InternetSection::InternetSection(IHost& host, Settings& settings, MailSettings& 
 
 void InternetSection::AddMail() {
   QVBoxLayout* rows = AddPanel(0, tr("Mail"));
-  auto* services = new QHBoxLayout;
-  services->setSpacing(kGap);
+  auto* services = new QGridLayout;
+  services->setSpacing(6);
   optMailService_ = new QButtonGroup(this);
   for (int index = 0; const Service& service : kServices) {
     auto* radio = new QRadioButton(service.caption);
     radio->setObjectName(QString("optMailService%1").arg(index));
-    optMailService_->addButton(radio, index++);
-    services->addWidget(radio);
+    optMailService_->addButton(radio, index);
+    services->addWidget(radio, index / 2, index % 2);
+    ++index;
   }
-  services->addStretch(1);
   rows->addWidget(MakeLabel({}, tr("Mail service"), "caption"));
   rows->addLayout(services);
   AddServer(*rows);
