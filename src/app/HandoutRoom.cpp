@@ -1,6 +1,8 @@
 #include "app/HandoutRoom.h"
 
 #include "app/LessonRoom.h"
+#include "app/MailRoom.h"
+#include "app/CaptureRoom.h"
 #include "workspace/forms/AnalysisForm.h"
 
 namespace kinalyx {
@@ -13,7 +15,13 @@ HandoutRoom::HandoutRoom(Parts parts)
                                                               .settings = parts.settings,
                                                               .fields = parts.fields,
                                                               .remembered = parts.remembered,
-                                                              .capture = parts.capture})) {}
+                                                              .capture = parts.capture})),
+      mail_(std::make_unique<MailRoom>(MailRoom::Parts{.host = parts.services.host,
+                                                       .settings = parts.settings,
+                                                       .mail = parts.mail,
+                                                       .fields = parts.fields,
+                                                       .remembered = parts.remembered,
+                                                       .sounds = parts.capture.Sounds()})) {}
 
 HandoutRoom::~HandoutRoom() = default;
 
@@ -21,11 +29,15 @@ void HandoutRoom::Serve(AnalysisForm* analysis) {
   analysis_ = analysis;
   lessons_->Serve(analysis);
   print_.Serve(analysis);
+  mail_->Serve(analysis);
 }
 
-bool HandoutRoom::MayLeave() { return lessons_->MayLeave(); }
+bool HandoutRoom::MayLeave() { return lessons_->MayLeave() && mail_->MayLeave(); }
 
 bool HandoutRoom::MayClose() { return MayLeave() && clips_.MayClose(); }
+
+void HandoutRoom::TakeSnapshot() { mail_->TakeSnapshot(); }
+void HandoutRoom::SendSnapshots() { mail_->SendSnapshots(); }
 
 void HandoutRoom::ToggleLesson() { lessons_->Toggle(); }
 bool HandoutRoom::LessonShown() const { return lessons_->Shown(); }

@@ -4,6 +4,7 @@
 
 #include "app/ClipRoom.h"
 #include "app/PrintDesk.h"
+#include "core/MailSettings.h"
 #include "core/Settings.h"
 #include "library/LibraryTree.h"
 #include "library/Profile.h"
@@ -16,6 +17,7 @@ namespace kinalyx {
 class AnalysisForm;
 class CaptureRoom;
 class LessonRoom;
+class MailRoom;
 
 /// The side of the program that makes something to take home: for each kind a desk, made when it is first wanted.
 class HandoutRoom final : public IHandouts {
@@ -24,6 +26,7 @@ class HandoutRoom final : public IHandouts {
     PlayerServices& services;
     IPrinter& printer;
     Settings& settings;
+    MailSettings& mail;
     ProfileFields& fields;
     LastStudentInfo& remembered;
     CaptureRoom& capture;
@@ -42,8 +45,10 @@ class HandoutRoom final : public IHandouts {
   void ShowClipForm() override;
   void CopyPicture() override;
   void SavePicture() override;
-  /// Whether the section may go. Asks where something would be given up.
-  bool MayLeave();
+  bool MayLeave() override;
+
+  void TakeSnapshot() override;
+  void SendSnapshots() override;
 
   void ToggleLesson() override;
   bool LessonShown() const override;
@@ -63,6 +68,7 @@ class HandoutRoom final : public IHandouts {
   AnalysisForm* analysis_ = nullptr;
   ClipRoom clips_;
   std::unique_ptr<LessonRoom> lessons_;
+  std::unique_ptr<MailRoom> mail_;
 };
 
 }  // namespace kinalyx

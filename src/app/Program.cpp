@@ -11,6 +11,7 @@
 #include "core/forms/MenuPage.h"
 #include "core/forms/SetupPage.h"
 #include "core/forms/SplashForm.h"
+#include "distribution/mail/forms/InternetSection.h"
 #include "library/forms/FieldsEditor.h"
 #include "library/forms/ImportExportPage.h"
 #include "library/forms/ProfilesPage.h"
@@ -136,6 +137,7 @@ void Program::LoadMain() {
   handouts_ = std::make_unique<HandoutRoom>(HandoutRoom::Parts{.services = players_,
                                                                .printer = *printer_,
                                                                .settings = settings_,
+                                                               .mail = mail_,
                                                                .fields = fields_,
                                                                .remembered = lastStudent_,
                                                                .capture = *capture_,
@@ -152,6 +154,9 @@ void Program::LoadMain() {
   CaptureSection* captureSection = capture_->MakeSection();
   QObject::connect(captureSection, &CaptureSection::CaptureWanted, captureSection, [this] { GoToCapture(); });
   setup_->SetSection(SetupPage::kCapture, captureSection);
+  setup_->SetSection(SetupPage::kInternet, new InternetSection(
+                                               *host_, settings_, mail_, [] { return MakeMailSender(); },
+                                               [](ServerLogin login) { return MakeFileServer(std::move(login)); }));
   main_->SetPage(kSetupPage, setup_);
   ConnectSetupPage();
 
@@ -308,7 +313,7 @@ void Program::GoToHelp() { OpenPage(kHelpPage); }
 
 /// Closes all videos, which keeps what was drawn, and lets the section go until it is wanted again.
 void Program::ExitAnalysis() {
-  if (!analysis_ || !handouts_->MayLeave() || !analysis_->CloseAll()) return;
+  if (!analysis_ || !analysis_->CloseAll()) return;
   OpenPage(kMenuPage);
   // The wish may come from one of its own buttons: it goes when that has returned.
   analysis_ = nullptr;

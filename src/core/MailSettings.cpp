@@ -1,120 +1,207 @@
 #include "core/MailSettings.h"
 
-#include <vector>
+#include <algorithm>
+#include <cstdint>
+#include <iterator>
+#include <type_traits>
 
 #include "core/Numbers.h"
+#include "platform/files/FileStore.h"
 #include "platform/files/Folders.h"
 #include "platform/files/IniFile.h"
+#include "platform/files/TextEncoding.h"
 
 namespace kinalyx {
+
+/// One line of the file.
+struct MailSettings::Key {
+  const char* section;
+  const char* name;
+  const char* fallback;
+  Field field;
+  bool scrambled = false;
+};
+
 namespace {
 
 constexpr const char* kGeneral = "General";
 constexpr const char* kWeb = "Web";
 constexpr const char* kSubjectStart = "Video Analysis from ";
 constexpr std::string_view kPasswordKey = "3141592653589793238462643383279";
+constexpr int kMostPort = 65535;
+constexpr int kUsualPort = 25;
+constexpr int kServices = 4;
 
-/// Takes the next character of a UTF-8 text; a byte that begins none counts for itself.
-char32_t TakeCharacter(std::string_view& text) {
-  const auto first = static_cast<unsigned char>(text.front());
-  const int more = first >= 0xF0 ? 3 : first >= 0xE0 ? 2 : first >= 0xC0 ? 1 : 0;
-  constexpr unsigned char kFirstBits[] = {0x7F, 0x1F, 0x0F, 0x07};
-  char32_t code = more ? first & kFirstBits[more] : first;
-  text.remove_prefix(1);
-  for (int left = more; left > 0 && !text.empty(); --left) {
-    code = (code << 6) | (static_cast<unsigned char>(text.front()) & 0x3F);
-    text.remove_prefix(1);
-  }
-  return code;
+/// Takes the next character off a UTF-8 text.
+std::string_view TakeCharacter(std::string_view& text) {
+  std::size_t bytes = 1;
+  while (bytes < text.size() && (static_cast<std::uint8_t>(text[bytes]) & 0xC0) == 0x80) ++bytes;
+  const std::string_view character = text.substr(0, bytes);
+  text.remove_prefix(bytes);
+  return character;
 }
 
-void AppendCharacter(std::string& text, char32_t code) {
-  const auto byte = [&](char32_t value) { text += static_cast<char>(value); };
-  if (code < 0x80) {
-    byte(code);
-  } else if (code < 0x800) {
-    byte(0xC0 | (code >> 6));
-    byte(0x80 | (code & 0x3F));
-  } else if (code < 0x10000) {
-    byte(0xE0 | (code >> 12));
-    byte(0x80 | ((code >> 6) & 0x3F));
-    byte(0x80 | (code & 0x3F));
-  } else {
-    byte(0xF0 | (code >> 18));
-    byte(0x80 | ((code >> 12) & 0x3F));
-    byte(0x80 | ((code >> 6) & 0x3F));
-    byte(0x80 | (code & 0x3F));
-  }
+/// A value that begins or ends with a blank or a quotation mark goes between quotation marks: an INI file has no other
+/// way to keep them, and whoever reads one takes a pair of them off.
+std::string Quoted(std::string text) {
+  constexpr std::string_view kLost = " \t\r\"'";
+  const bool plain = text.empty() || (kLost.find(text.front()) == std::string_view::npos &&
+                                      kLost.find(text.back()) == std::string_view::npos);
+  return plain ? text : '"' + text + '"';
+}
+
+std::string_view Unquoted(std::string_view text) {
+  const bool quoted = text.size() >= 2 && text.front() == text.back() && (text.front() == '"' || text.front() == '\'');
+  return quoted ? text.substr(1, text.size() - 2) : text;
+}
+
+/// No line of the file, no header and no command can hold them.
+std::string WithoutControls(std::string_view text) {
+  std::string plain(text);
+  std::erase_if(plain, [](char letter) { return static_cast<std::uint8_t>(letter) < ' ' || letter == '\x7f'; });
+  return plain;
 }
 
 }  // namespace
 
-std::string ScramblePassword(Scramble direction, const std::string& text) {
+std::string ScramblePassword(Scramble direction, std::string_view text) {
   std::string shifted;
-  std::string_view rest = text;
-  for (std::size_t position = 0; !rest.empty(); ++position) {
-    const char32_t digit = kPasswordKey[position % kPasswordKey.size()] - '0';
-    const char32_t code = TakeCharacter(rest);
-    AppendCharacter(shifted, direction == Scramble::Decode ? code + digit : code > digit ? code - digit : code);
+  for (std::size_t position = 0; !text.empty(); ++position) {
+    const std::string_view character = TakeCharacter(text);
+    const std::string code = ToWindows1252(character);
+    if (FromWindows1252(code) != character) {
+      shifted += character;
+      continue;
+    }
+    const int digit = kPasswordKey[position % kPasswordKey.size()] - '0';
+    const int moved = static_cast<std::uint8_t>(code.front()) + (direction == Scramble::Decode ? digit : -digit);
+    shifted += FromWindows1252(std::string(1, static_cast<char>(moved)));
   }
   return shifted;
 }
 
+std::string XOREncryption(std::string_view CodeKey, std::string_view DataIn) {
+  std::string mixed(DataIn);
+  if (CodeKey.empty()) return mixed;
+  for (std::size_t i = 0; i < mixed.size(); ++i)
+    mixed[i] = static_cast<char>(mixed[i] ^ CodeKey[(i + 1) % CodeKey.size()]);
+  return mixed;
+}
+
 MailSettings::MailSettings(const std::string& dataPath) : file_(JoinPath(dataPath, "mail.ini")) {}
 
+const std::vector<MailSettings::Key>& MailSettings::Keys() {
+  using M = MailSettings;
+  static const std::vector<Key> keys = {
+      {kGeneral, "SMTPServer", kNoServer, &M::SMTPServer},
+      {kGeneral, "SenderName", "", &M::SenderName},
+      {kGeneral, "SenderEmail", kNoSender, &M::SenderEmail},
+      {kGeneral, "Subject", kSubjectStart, &M::Subject},
+      {kGeneral, "UseMIME", "True", &M::UseMIME},
+      {kGeneral, "Priority", "2", &M::Priority},
+      {kGeneral, "UseHTML", "False", &M::UseHTML},
+      {kGeneral, "ReadReceipt", "False", &M::ReadReceipt},
+      {kGeneral, "LoginRequired", "False", &M::LoginRequired},
+      {kGeneral, "Login", "User Name", &M::Login},
+      {kGeneral, "Password", "", &M::Password, true},
+      {kGeneral, "UseTLS", "False", &M::UseTLS},
+      {kGeneral, "UseSSL", "False", &M::UseSSL},
+      {kGeneral, "SMTPPort", "25", &M::SMTPPort},
+      {kGeneral, "EmailLock", "0", &M::EmailLock},
+      {kWeb, "WebAddress", "", &M::WebAddress},
+      {kWeb, "FTPAddress", "", &M::FTPAddress},
+      {kWeb, "WLogin", "Login", &M::WLogin},
+      {kWeb, "WPassword", "", &M::WPassword, true},
+      {kWeb, "FTPMode", "0", &M::NextFTPMode},
+  };
+  return keys;
+}
+
+std::string MailSettings::Stored(const Key& key) const {
+  return std::visit(
+      [&](auto field) -> std::string {
+        using T = std::remove_cvref_t<decltype(this->*field)>;
+        if constexpr (std::is_same_v<T, bool>) return this->*field ? "True" : "False";
+        else if constexpr (std::is_same_v<T, int>) return std::to_string(this->*field);
+        else return key.scrambled ? Quoted(ScramblePassword(Scramble::Encode, this->*field)) : this->*field;
+      },
+      key.field);
+}
+
+void MailSettings::Read(const Key& key, const std::string& stored) {
+  std::visit(
+      [&](auto field) {
+        using T = std::remove_cvref_t<decltype(this->*field)>;
+        if constexpr (std::is_same_v<T, bool>)
+          this->*field = ReadBoolean(stored).value_or(ReadBoolean(key.fallback).value_or(false));
+        else if constexpr (std::is_same_v<T, int>) this->*field = ReadInt32(stored);
+        else this->*field = key.scrambled ? ScramblePassword(Scramble::Decode, Unquoted(stored)) : stored;
+      },
+      key.field);
+}
+
 void MailSettings::LoadMailSettings() {
+  // Before its passwords are read: nothing is written that others could read meanwhile.
+  if (FileExists(file_)) KeepForOwner(file_);
   const ProfileReader reader(file_);
-  std::vector<ProfileEntry> missing;
-  const auto read = [&](const char* section, const char* key, const std::string& fallback) {
-    const auto value = reader.Value(section, key);
-    if (!value) missing.push_back({section, key, fallback});
-    return value.value_or(fallback);
-  };
-  const auto flag = [&](const char* key, bool fallback) {
-    return ReadBoolean(read(kGeneral, key, fallback ? "True" : "False")).value_or(fallback);
-  };
-  const auto password = [&](const char* section, const char* key) {
-    return ScramblePassword(Scramble::Decode, read(section, key, ""));
-  };
-  SMTPServer = read(kGeneral, "SMTPServer", kNoServer);
-  SenderName = read(kGeneral, "SenderName", "");
-  SenderEmail = read(kGeneral, "SenderEmail", "");
-  Subject = read(kGeneral, "Subject", kSubjectStart + SenderName);
-  UseMIME = flag("UseMIME", true);
-  Priority = ReadInt32(read(kGeneral, "Priority", "2"));
-  UseHTML = flag("UseHTML", false);
-  ReadReceipt = flag("ReadReceipt", false);
-  LoginRequired = flag("LoginRequired", false);
-  Login = read(kGeneral, "Login", "User Name");
-  Password = password(kGeneral, "Password");
-  UseTLS = flag("UseTLS", false);
-  UseSSL = flag("UseSSL", false);
-  SMTPPort = ReadInt32(read(kGeneral, "SMTPPort", "25"));
-  EmailLock = ReadInt32(read(kGeneral, "EmailLock", "0"));
-  WebAddress = read(kWeb, "WebAddress", "");
-  FTPAddress = read(kWeb, "FTPAddress", "");
-  WLogin = read(kWeb, "WLogin", "Login");
-  WPassword = password(kWeb, "WPassword");
-  FTPMode = ReadInt32(read(kWeb, "FTPMode", "0"));
+  unsaved_.clear();
+  bool missing = false;
+  for (const Key& key : Keys()) {
+    const auto value = reader.Value(key.section, key.name);
+    Read(key, value.value_or(key.fallback));
+    if (value) continue;
+    if (key.field == Field(&MailSettings::Subject)) Subject += SenderName;
+    missing = true;
+    unsaved_.push_back(key.field);
+  }
+  if (SMTPPort < 1 || SMTPPort > kMostPort) SMTPPort = kUsualPort;
+  if (EmailLock < 0 || EmailLock >= kServices) EmailLock = 0;
+  if (NextFTPMode != 1) NextFTPMode = 0;
+  FTPMode = NextFTPMode;
   // A file that cannot be written leaves the defaults for this run; the next one tries again.
-  if (!missing.empty()) WriteProfileEntries(missing, file_);
+  if (missing) Write(unsaved_.front());
 }
 
-bool MailSettings::WriteMailKey(const std::string& key, const std::string& value) {
-  return WritePrivateProfileString(kGeneral, key, value, file_);
+/// Writes a key, and what the disk has refused before. A file that has gone comes back whole.
+bool MailSettings::Write(Field field) {
+  if (std::ranges::find(unsaved_, field) == unsaved_.end()) unsaved_.push_back(field);
+  if (!FileExists(file_)) {
+    unsaved_.clear();
+    std::ranges::transform(Keys(), std::back_inserter(unsaved_), &Key::field);
+  }
+  std::vector<ProfileEntry> entries;
+  for (const Key& key : Keys())
+    if (std::ranges::find(unsaved_, key.field) != unsaved_.end())
+      entries.push_back({key.section, key.name, Stored(key)});
+  // Where the drive knows no such rights there is nothing to keep.
+  KeepForOwner(file_);
+  if (!WriteProfileEntries(entries, file_)) return false;
+  unsaved_.clear();
+  return true;
 }
 
-bool MailSettings::WriteWebKey(const std::string& key, const std::string& value) {
-  return WritePrivateProfileString(kWeb, key, value, file_);
+bool MailSettings::Set(Text field, std::string_view value) {
+  this->*field = WithoutControls(value);
+  return Write(field);
+}
+
+bool MailSettings::Set(Flag field, bool value) {
+  this->*field = value;
+  return Write(field);
+}
+
+bool MailSettings::Set(Number field, int value) {
+  this->*field = value;
+  return Write(field);
 }
 
 void MailSettings::TakeSender(const std::string& userName, const std::string& companyName) {
-  SenderName = userName;
-  Subject = kSubjectStart + companyName;
-  WriteMailKey("SenderName", SenderName);
-  WriteMailKey("Subject", Subject);
+  Set(&MailSettings::SenderName, userName);
+  Set(&MailSettings::Subject, kSubjectStart + companyName);
 }
 
 bool MailSettings::MailConfigured() const { return !SMTPServer.empty() && SMTPServer != kNoServer; }
+
+bool MailSettings::SenderSet() const { return !SenderEmail.empty() && SenderEmail != kNoSender; }
 
 }  // namespace kinalyx

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
 
 namespace kinalyx {
 
@@ -13,7 +16,7 @@ class MailSettings {
   // --- [General]
   std::string SMTPServer;  ///< kNoServer while nothing is configured
   std::string SenderName;
-  std::string SenderEmail;
+  std::string SenderEmail;  ///< kNoSender while nothing is configured
   std::string Subject;
   bool UseMIME = true;
   int Priority = 2;  ///< 1 highest to 5 lowest
@@ -33,29 +36,51 @@ class MailSettings {
   std::string WLogin;
   std::string WPassword;  ///< as typed
   int FTPMode = 0;        ///< 0 passive, 1 active; as it was when the program started
+  int NextFTPMode = 0;    ///< the same as the file has it: from the next start on
 
   /// Reads the file. A key that is absent gets its default, which is written back.
   void LoadMailSettings();
-  /// Writes one key of the section `General`; false when the disk refuses.
-  bool WriteMailKey(const std::string& key, const std::string& value);
-  /// The same in the section `Web`.
-  bool WriteWebKey(const std::string& key, const std::string& value);
+
+  using Text = std::string MailSettings::*;
+  using Flag = bool MailSettings::*;
+  using Number = int MailSettings::*;
+  /// Takes a value and writes its key at once, as `Set(&MailSettings::Login, "anna")`. False when the disk refuses: the
+  /// value counts for this run, and is written together with the next one. Control characters are left out.
+  bool Set(Text field, std::string_view value);
+  bool Set(Flag field, bool value);
+  bool Set(Number field, int value);
   /// Takes name and company of a first run: sender, and subject of new mails. Both are written.
   void TakeSender(const std::string& userName, const std::string& companyName);
+  /// Something that was set is not in the file, for the disk has refused it.
+  bool Unsaved() const { return !unsaved_.empty(); }
 
   bool MailConfigured() const;
+  bool SenderSet() const;
   bool WebConfigured() const { return !FTPAddress.empty(); }
   const std::string& File() const { return file_; }
 
  private:
+  using Field = std::variant<Text, Flag, Number>;
+  struct Key;
+  static const std::vector<Key>& Keys();
+  std::string Stored(const Key& key) const;
+  void Read(const Key& key, const std::string& stored);
+  bool Write(Field field);
+
   std::string file_;
+  std::vector<Field> unsaved_;
 };
 
 inline constexpr const char* kNoServer = "none_selected";
+inline constexpr const char* kNoSender = "you@example.com";
 
 enum class Scramble { Encode, Decode };
-/// Shifts the code of each character by a digit of a fixed key: Encode down, Decode up. The key has 31 digits; a longer
-/// text begins it again, so that the first 31 characters stand as they always did. Empty gives empty.
-std::string ScramblePassword(Scramble direction, const std::string& text);
+/// Shifts the code of each character in Windows-1252 by a digit of a fixed key: Encode down, Decode up, round the 256
+/// codes. Characters that it has no code for stay. The key has 31 digits; a longer text begins it again, so that the
+/// first 31 characters stand as they always did. Empty gives empty.
+std::string ScramblePassword(Scramble direction, std::string_view text);
+/// Mixes each byte with one of the key by exclusive or, beginning with the key's second; doing it twice gives the text
+/// again. Without a key it stays as it is.
+std::string XOREncryption(std::string_view CodeKey, std::string_view DataIn);
 
 }  // namespace kinalyx

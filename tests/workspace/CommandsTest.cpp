@@ -15,7 +15,7 @@ TEST(CommandsTest, TellWhyWhatCannotBeDoneCannot) {
   const auto reason = [&](const char* command) { return stage.Commands().Find(command)->Reason(); };
   const auto checked = [&](const char* command) { return stage.Commands().Find(command)->checked(); };
   EXPECT_EQ(reason("vplay"), "Open a video first");
-  EXPECT_EQ(reason("TTES"), "coming");
+  EXPECT_EQ(reason("TTES"), "Open a video first");
   EXPECT_EQ(reason("STM"), "Open videos in windows 1 and 2 first");
   EXPECT_FALSE(stage.Run("TTES") || stage.Run("no such thing"));
   stage.Open(1, stage.Video("a.avi"));

@@ -38,6 +38,12 @@ const std::vector<Sound> kSounds = {
       {.at = 0.19, .hz = 784, .seconds = 0.34, .loudness = 0.55, .decay = 0.25}}},
     // Something moves where nothing should.
     {"beep.wav", {{.hz = 1480, .seconds = 0.11, .loudness = 0.5, .decay = 0.2}}},
+    // The shutter of a camera: it opens, and closes again.
+    {"camera.wav",
+     {{.hz = 2350, .seconds = 0.05, .loudness = 0.4, .decay = 0.007, .bright = 0.8},
+      {.hz = 910, .seconds = 0.06, .loudness = 0.25, .decay = 0.012, .bright = 0.6},
+      {.at = 0.085, .hz = 1870, .seconds = 0.06, .loudness = 0.4, .decay = 0.009, .bright = 0.8},
+      {.at = 0.085, .hz = 640, .seconds = 0.08, .loudness = 0.3, .decay = 0.016, .bright = 0.6}}},
 };
 
 /// From silence to 1 and back to silence, without a corner that would click.

@@ -67,12 +67,21 @@ QVBoxLayout* SetupSection::AddPanel(int column, const QString& title) {
 
 void SetupSection::Finish() {
   for (auto* column : columns_) column->addStretch(1);
+  GuardWheel(*widget());
+}
+
+void SetupSection::AddGuest(int column, QWidget* panel) {
+  columns_[column]->insertWidget(columns_[column]->count() - 1, panel);
+  GuardWheel(*panel);
+}
+
+void SetupSection::GuardWheel(QWidget& part) {
   const auto guard = [this](QWidget* control) {
     control->setFocusPolicy(Qt::StrongFocus);
     control->installEventFilter(this);
   };
-  for (auto* list : findChildren<QComboBox*>()) guard(list);
-  for (auto* slider : widget()->findChildren<QSlider*>()) guard(slider);
+  for (auto* list : part.findChildren<QComboBox*>()) guard(list);
+  for (auto* slider : part.findChildren<QSlider*>()) guard(slider);
 }
 
 bool SetupSection::eventFilter(QObject* watched, QEvent* event) {

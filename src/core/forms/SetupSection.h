@@ -51,6 +51,8 @@ class SetupSection : public QScrollArea {
   QVBoxLayout* AddPanel(int column, const QString& title);
   /// Ends the columns; call it last.
   void Finish();
+  /// Puts a panel that comes from elsewhere beneath those of a finished column, and becomes its parent.
+  void AddGuest(int column, QWidget* panel);
 
   /// A caption over a box for text.
   static QLineEdit* AddText(QVBoxLayout& rows, const QString& name, const QString& caption);
@@ -67,6 +69,8 @@ class SetupSection : public QScrollArea {
   Settings& settings_;
 
  private:
+  void GuardWheel(QWidget& part);
+
   QVBoxLayout* columns_[2] = {nullptr, nullptr};
 };
 

@@ -24,6 +24,17 @@ MailMessage NewMessage(const MailSettings& settings) {
   return message;
 }
 
+Outcome ReadyToSend(const MailSettings& settings) {
+  const auto refuse = [](const char* why) { return Outcome(Fault::Refused, why); };
+  if (!settings.MailConfigured())
+    return refuse("No mail server is set yet. Choose your mail service in Program Setup, Internet.");
+  if (!settings.SenderSet())
+    return refuse("Your own e-mail address is not set yet. Type it in Program Setup, Internet.");
+  if (!IsMailAddress(settings.SenderEmail))
+    return refuse("Your own e-mail address in Program Setup, Internet, is no address.");
+  return {};
+}
+
 Result<ServerLogin> WebSpace(const MailSettings& settings) {
   const auto address = ReadServerAddress(settings.FTPAddress);
   if (!address) return address.Failure();

@@ -10,6 +10,10 @@ namespace kinalyx {
 MailServer OutgoingServer(const MailSettings& settings);
 /// A message as the settings want it: sender, subject, priority, receipt; still without readers, text and files.
 MailMessage NewMessage(const MailSettings& settings);
+/// Whether the settings are enough for a mail to go out; fails in words for the user.
+Outcome ReadyToSend(const MailSettings& settings);
+/// What is said of a mail that went, though the server's goodbye failed.
+inline constexpr const char* kNotClosed = "Connection to SMTP server not closed cleanly.";
 /// The server of the instructor's web space; fails in words for the user where there is no address, or none that can be
 /// read.
 Result<ServerLogin> WebSpace(const MailSettings& settings);

@@ -38,6 +38,9 @@ class SystemDisk final : public IDisk {
   int OpenNew(const std::string& path) override {
     return ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
   }
+  int OpenNewForOwner(const std::string& path) override {
+    return ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600);
+  }
   long Write(int file, const void* bytes, std::size_t count) override {
     return Again([&] { return ::write(file, bytes, count); });
   }

@@ -12,6 +12,8 @@ class IDisk {
   virtual ~IDisk() = default;
   virtual int OpenSource(const std::string& path, bool followLink) = 0;  ///< for reading
   virtual int OpenNew(const std::string& path) = 0;  ///< for writing; fails when there is something of that name
+  /// The same for what nobody but the owner may read, from its first moment on.
+  virtual int OpenNewForOwner(const std::string& path) { return OpenNew(path); }
   virtual long Write(int file, const void* bytes, std::size_t count) = 0;  ///< bytes written; may be fewer
   /// Copies the next bytes, at most `count`; 0 at the end of the source.
   virtual long Transfer(int from, int to, std::size_t count) = 0;

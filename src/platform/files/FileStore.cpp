@@ -58,7 +58,9 @@ Outcome WriteWholeFile(const std::string& path, std::span<const std::uint8_t> by
 
   // A name of its own: another window or workstation may be saving the same file at this moment.
   const std::string beside = PartNameBeside(target.string());
-  const int file = disk.OpenNew(beside);
+  constexpr auto kOthers = fs::perms::group_all | fs::perms::others_all;
+  const bool forOwner = exists && (old.permissions() & kOthers) == fs::perms::none;
+  const int file = forOwner ? disk.OpenNewForOwner(beside) : disk.OpenNew(beside);
   if (file < 0) return refuse(errno);
   if (exists) fs::permissions(beside, old.permissions(), failed);  // before the flush, which then covers it
   bool good = WriteAll(disk, file, bytes) && disk.Flush(file) >= 0;
@@ -87,6 +89,18 @@ Outcome WriteWholeFile(const std::string& path, std::span<const std::uint8_t> by
 
 Outcome WriteWholeFile(const std::string& path, std::string_view text, IDisk& disk) {
   return WriteWholeFile(path, std::span(reinterpret_cast<const std::uint8_t*>(text.data()), text.size()), disk);
+}
+
+bool KeepForOwner(const std::string& path) {
+  const int file = ::open(path.c_str(), O_RDONLY | O_CREAT | O_NONBLOCK | O_CLOEXEC, 0600);
+  if (file < 0) return false;
+  constexpr mode_t kOthers = 077;
+  struct stat info {};
+  const bool kept = ::fstat(file, &info) == 0 && S_ISREG(info.st_mode) &&
+                    ((info.st_mode & kOthers) == 0 || ::fchmod(file, info.st_mode & ~kOthers & 07777) == 0) &&
+                    ::fstat(file, &info) == 0 && (info.st_mode & kOthers) == 0;
+  ::close(file);
+  return kept;
 }
 
 std::optional<std::vector<std::uint8_t>> ReadWholeFile(const std::string& path, std::int64_t limit) {

@@ -21,6 +21,10 @@ namespace kinalyx {
 Outcome WriteWholeFile(const std::string& path, std::span<const std::uint8_t> bytes, IDisk& disk = RealDisk());
 Outcome WriteWholeFile(const std::string& path, std::string_view text, IDisk& disk = RealDisk());
 
+/// Has a file that holds secrets be its owner's alone, and makes an empty one where there is none; every later save by
+/// WriteWholeFile keeps it so. False where the drive knows no such rights, or the file is somebody else's.
+bool KeepForOwner(const std::string& path);
+
 /// All bytes of a file of at most `limit` bytes; nothing when it cannot be read or is larger.
 std::optional<std::vector<std::uint8_t>> ReadWholeFile(const std::string& path, std::int64_t limit = 64 << 20);
 /// The same as text, UTF-8 as it stands and anything else taken as Windows-1252.

@@ -47,7 +47,7 @@ void MenuBar::AddBrisko() {
     return navigation_.Handouts().Lefty();
   };
   Add({"MenuExit", "", "&Exit Analysis", "", "", "", kNoButton, [this] {
-         if (PreparetoExit()) navigation_.ExitAnalysis();
+         if (navigation_.Handouts().MayLeave() && PreparetoExit()) navigation_.ExitAnalysis();
        }});
 }
 

@@ -467,8 +467,11 @@ void MenuBar::AddAdvanced() {
   Add({"smbar", kAdvanced, "&Multi-Pic Mode", "", "multi-picture", "Multi-Picture Mode", kPicture,
        [this] { compare_.Strip().ToggleStrip(); }, [this] { return compare_.WhyNoStrip(); },
        [this] { return compare_.Strip().Shown(); }});
-  AddComing("TTES", kAdvanced, "Email- Take SnapShot");
-  AddComing("TES", kAdvanced, "Email- Send SnapShots");
+  Add({"TTES", kAdvanced, "Email- Take SnapShot", "", "", "", kNoButton,
+       [this] { navigation_.Handouts().TakeSnapshot(); },
+       Needs([this] { return stage_.AnyVideo(); }, "Open a video first")});
+  Add({"TES", kAdvanced, "Email- Send SnapShots", "", "send", "", kNoButton,
+       [this] { navigation_.Handouts().SendSnapshots(); }});
   Add({"MenuEdit", kAdvanced, "Edit Drawings", "CmdAfunctions2", "edit", "Open Edit Bar", kErasing,
        [this] { edits_.ToggleEditBar(); }, NeedsVideo(noMix), [this] { return edits_.Editing(); }});
   Add({"AddMacro", kAdvanced, "Insert Drawing Macro", "", "", "", kNoButton, [this] { edits_.ToggleMacroForm(); },

@@ -11,6 +11,9 @@ class IHandouts {
  public:
   virtual ~IHandouts() = default;
 
+  /// Whether the section may go; asks where something would be given up with it.
+  virtual bool MayLeave() { return true; }
+
   /// "Record Lesson": the recorder comes, or goes.
   virtual void ToggleLesson() {}
   virtual bool LessonShown() const { return false; }

@@ -140,9 +140,10 @@ void MenuBar::Escape() {
 
 std::string KeyText(const KeyStroke& key) {
   constexpr std::pair<int, const char*> kNames[] = {
-      {kKeySpace, "Space"}, {kKeyHome, "Home"},       {kKeyEnd, "End"},           {kKeyLeft, "Left Arrow"},
-      {kKeyUp, "Up Arrow"}, {kKeyDown, "Down Arrow"}, {kKeyRight, "Right Arrow"}, {kKeyEscape, "Esc"},
-      {kKeyDelete, "Del"},  {kKeyPageUp, "Page Up"},  {kKeyPageDown, "Page Down"}};
+      {kKeySpace, "Space"},       {kKeyHome, "Home"},          {kKeyEnd, "End"},
+      {kKeyLeft, "Left Arrow"},   {kKeyUp, "Up Arrow"},        {kKeyDown, "Down Arrow"},
+      {kKeyRight, "Right Arrow"}, {kKeyEscape, "Esc"},         {kKeyDelete, "Del"},
+      {kKeyPageUp, "Page Up"},    {kKeyPageDown, "Page Down"}, {kKeyCtrl, "Ctrl"}};
   std::string text = key.shift.value_or(0) & kCtrl ? "Ctrl+" : "";
   if (key.shift.value_or(0) & kShift) text += "Shift+";
   if (key.kind == KeyStroke::Kind::Code) {

@@ -28,6 +28,7 @@
 #include "workspace/forms/DrawCaption.h"
 #include "workspace/forms/EditForms.h"
 #include "workspace/forms/KeyCodeOf.h"
+#include "workspace/forms/LoneCtrl.h"
 #include "workspace/forms/NotesPanel.h"
 #include "workspace/forms/PlayBar.h"
 #include "workspace/forms/SeekPreview.h"
@@ -85,6 +86,13 @@ AnalysisForm::AnalysisForm(IHost& host, Settings& settings, PlayerServices& play
   for (FloatCard* card : stage_->findChildren<FloatCard*>(Qt::FindDirectChildrenOnly)) card->LieOn(*desk_);
   rows->addWidget(compare_->Foot());
   setFocusProxy(keyBox_);
+  // Queued: what it does may open a window, which must not happen in the middle of an event of another.
+  connect(
+      new LoneCtrl(this), &LoneCtrl::Tapped, this,
+      [this] {
+        if (!Typing()) analysis_->Commands().PressKey(kKeyCtrl, 0);
+      },
+      Qt::QueuedConnection);
   ScaleBars();
   analysis_->Start();
 }
@@ -182,7 +190,7 @@ void AnalysisForm::Run(const std::string& command) { analysis_->Commands().Run(c
 // ---------------------------------------------------------------- keys and events
 
 /// A text box has the keys. What it does not want itself is still a command, but for Escape, which leaves
-/// the box, and Ctrl, which begins its own shortcuts.
+/// the box, and Ctrl alone, with which its own shortcuts begin.
 bool AnalysisForm::Typing() const {
   const QWidget* focus = QApplication::focusWidget();
   return qobject_cast<const QLineEdit*>(focus) || qobject_cast<const QPlainTextEdit*>(focus);
@@ -190,14 +198,12 @@ bool AnalysisForm::Typing() const {
 
 void AnalysisForm::keyPressEvent(QKeyEvent* event) {
   const int code = KeyCodeOf(*event);
-  if (Typing() && (code == kKeyEscape || code == kKeyCtrl)) {
-    if (code == kKeyEscape) FocusKeyBox();
-    return;
-  }
+  if (code == kKeyCtrl) return;  // a key of its own only where it comes alone, which shows when it is let go
+  if (Typing() && code == kKeyEscape) return FocusKeyBox();
   const bool nudges =
       (analysis_->Edits().Editing() || analysis_->Edits().Taken()) && event->modifiers() & Qt::ShiftModifier;
   if (event->isAutoRepeat() && !RepeatsWhileHeld(*event) && !nudges) return;
-  const bool combined = event->modifiers() & Qt::AltModifier && code != kKeyCtrl;
+  const bool combined = event->modifiers() & Qt::AltModifier;
   bool taken = code != 0 && !combined && analysis_->Commands().PressKey(code, ShiftOf(event->modifiers()));
   if (const int character = KeyAsciiOf(*event); character != 0)
     taken = analysis_->Commands().PressLetter(character) || taken;
