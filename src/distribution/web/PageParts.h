@@ -35,9 +35,9 @@ inline constexpr std::string_view kPageStage =
     "<video id=\"video\" controls=\"controls\" playsinline=\"playsinline\" preload=\"metadata\"></video>\r\n"
     "<h1 id=\"title\"></h1>\r\n<p id=\"date\"></p>\r\n"
     "<div class=\"row\">\r\n"
-    "<button type=\"button\" id=\"back\" title=\"Left arrow key\">One picture back</button>\r\n"
+    "<button type=\"button\" id=\"back\" title=\"Left arrow key\">\u2039 Picture</button>\r\n"
     "<button type=\"button\" id=\"half\" aria-pressed=\"false\" title=\"Key H\">Half speed</button>\r\n"
-    "<button type=\"button\" id=\"on\" title=\"Right arrow key\">One picture on</button>\r\n"
+    "<button type=\"button\" id=\"on\" title=\"Right arrow key\">Picture \u203a</button>\r\n"
     "</div>\r\n";
 
 inline constexpr std::string_view kPageScript = R"(
