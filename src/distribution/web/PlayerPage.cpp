@@ -17,6 +17,9 @@ constexpr std::string_view kFolder = "videos/";
 constexpr std::string_view kOption = "<option value=\"";
 constexpr std::string_view kNote = "<li title=\"";
 constexpr std::string_view kStep = "\" data-step=\"";
+constexpr std::string_view kKind = "\" data-kind=\"";
+constexpr std::string_view kLesson = "lesson";
+constexpr std::string_view kStudent = "<p class=\"student\">";
 constexpr std::size_t kMostVideos = 2000;
 constexpr std::size_t kLongestTitle = 400;
 constexpr std::size_t kLongestDate = 10;
@@ -34,6 +37,11 @@ std::optional<std::string_view> TakeBetween(std::string_view& rest, std::string_
 }
 
 std::string FileOf(std::string_view value) { return DecodePath(UnescapeText(value)); }
+
+/// A text of the page as it is meant, on one line.
+std::string AsText(std::string_view text, std::size_t longest) {
+  return std::string(CutUtf8(AsUtf8(UnescapeText(Trimmed(text, " \t\r"))), longest));
+}
 
 bool IsVideoOfPage(std::string_view file) {
   return file.starts_with(kFolder) && IsPlainName(file.substr(kFolder.size()));
@@ -62,17 +70,19 @@ std::string Options(const std::vector<PageVideo>& videos) {
 std::string Notes(const std::vector<PageVideo>& videos) {
   std::string text;
   for (const PageVideo& video : videos) {
-    if (video.date.empty() && video.frameSeconds <= 0) continue;
-    text += fmt::format("{}{}{}{:.7f}\">{}</li>\r\n", kNote, EncodePath(video.file), kStep,
-                        std::max(0.0, video.frameSeconds), EscapeText(video.date));
+    if (video.date.empty() && video.frameSeconds <= 0 && !video.lesson) continue;
+    text +=
+        fmt::format("{}{}{}{:.7f}{}{}\">{}</li>\r\n", kNote, EncodePath(video.file), kStep,
+                    std::max(0.0, video.frameSeconds), kKind, video.lesson ? kLesson : "video", EscapeText(video.date));
   }
   return text;
 }
 
 void ReadNote(std::string_view line, std::vector<PageVideo>& videos) {
   const auto value = TakeBetween(line, kNote, kStep);
-  const auto step = value ? TakeBetween(line, "", "\">") : std::nullopt;
-  const auto date = step ? TakeBetween(line, "", "</li>") : std::nullopt;
+  const auto step = value ? TakeBetween(line, "", kKind) : std::nullopt;
+  const auto kind = step ? TakeBetween(line, "", "\">") : std::nullopt;
+  const auto date = kind ? TakeBetween(line, "", "</li>") : std::nullopt;
   if (!date) return;
   const auto video = std::ranges::find(videos, FileOf(*value), &PageVideo::file);
   if (video == videos.end()) return;
@@ -80,7 +90,8 @@ void ReadNote(std::string_view line, std::vector<PageVideo>& videos) {
   const auto [end, error] = std::from_chars(step->data(), step->data() + step->size(), seconds);
   const bool isStep = error == std::errc() && end == step->data() + step->size() && seconds > 0 && seconds < 10;
   video->frameSeconds = isStep ? seconds : 0;
-  video->date = std::string(CutUtf8(UnescapeText(*date), kLongestDate));
+  video->lesson = *kind == kLesson;
+  video->date = AsText(*date, kLongestDate);
 }
 
 }  // namespace
@@ -94,7 +105,7 @@ std::string WritePlayerPage(const PlayerPage& page) {
   if (!page.logo.empty()) text += fmt::format("<img src=\"{}\" alt=\"\" />\r\n", EncodePath(page.logo));
   text += fmt::format("<div>\r\n<p class=\"heading\"><span class=\"style4\">Video Lessons by {}</span></p>\r\n", coach);
   if (!page.company.empty()) text += fmt::format("<p class=\"company\">{}</p>\r\n", EscapeText(page.company));
-  if (!page.student.empty()) text += fmt::format("<p class=\"student\">{}</p>\r\n", EscapeText(page.student));
+  if (!page.student.empty()) text += fmt::format("{}{}</p>\r\n", kStudent, EscapeText(page.student));
   text += "</div>\r\n</header>\r\n<main>\r\n";
   text += kPageStage;
   text += "<label for=\"list\">Videos</label>\r\n<select id=\"list\">\r\n" + Options(page.videos) + "</select>\r\n";
@@ -109,25 +120,28 @@ std::string WritePlayerPage(const PlayerPage& page) {
   return text;
 }
 
-std::vector<PageVideo> ReadPlayerPage(std::string_view text) {
-  std::vector<PageVideo> videos;
+PlayerPage ReadPlayerPage(std::string_view text) {
+  PlayerPage page;
+  std::vector<PageVideo>& videos = page.videos;
   while (!text.empty()) {
     std::string_view line = text.substr(0, text.find('\n'));
     text.remove_prefix(std::min(line.size() + 1, text.size()));
     if (line.find(kNote) != std::string_view::npos) {
       ReadNote(line, videos);
-      continue;
+    } else if (std::string_view rest = line; const auto student = TakeBetween(rest, kStudent, "</p>")) {
+      page.student = AsText(*student, kLongestTitle);
+    } else if (const auto value = TakeBetween(line, kOption, "\">"); value && videos.size() < kMostVideos) {
+      const auto title = TakeBetween(line, "", "</option>");
+      PageVideo video;
+      video.file = FileOf(*value);
+      if (!title || !IsVideoOfPage(video.file) ||
+          std::ranges::find(videos, video.file, &PageVideo::file) != videos.end())
+        continue;
+      video.title = AsText(*title, kLongestTitle);
+      videos.push_back(std::move(video));
     }
-    const auto value = videos.size() < kMostVideos ? TakeBetween(line, kOption, "\">") : std::nullopt;
-    const auto title = value ? TakeBetween(line, "", "</option>") : std::nullopt;
-    if (!title) continue;
-    PageVideo video;
-    video.file = FileOf(*value);
-    if (!IsVideoOfPage(video.file) || std::ranges::find(videos, video.file, &PageVideo::file) != videos.end()) continue;
-    video.title = CutUtf8(AsUtf8(UnescapeText(Trimmed(*title, " \t\r"))), kLongestTitle);
-    videos.push_back(std::move(video));
   }
-  return videos;
+  return page;
 }
 
 }  // namespace kinalyx

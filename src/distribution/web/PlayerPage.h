@@ -13,6 +13,7 @@ struct PageVideo {
   std::string title;  ///< as the student reads it
   std::string date;   ///< "2026-11-26"; may be empty
   double frameSeconds = 0;  ///< for which a picture stands; 0 where that is not known
+  bool lesson = false;      ///< made by the instructor, with a voice
   std::string group;        ///< a heading in the list; may be empty. Not read back.
   bool operator==(const PageVideo&) const = default;
 };
@@ -31,9 +32,9 @@ struct PlayerPage {
 /// on telephones and on computers, from a server and from a folder or disc, and asks for nothing from elsewhere.
 std::string WritePlayerPage(const PlayerPage& page);
 
-/// The videos of a page that WritePlayerPage, or an earlier program, has written; of any other text none, or what
-/// looks like them. At most 2000, and only those whose file is a plain name in the folder "videos": the text comes
-/// from a server.
-std::vector<PageVideo> ReadPlayerPage(std::string_view text);
+/// Student and videos of a page that WritePlayerPage, or an earlier program, has written, all else empty; of any other
+/// text nothing, or what looks like them. At most 2000 videos, and only those whose file is a plain name in the folder
+/// "videos": the text comes from a server.
+PlayerPage ReadPlayerPage(std::string_view text);
 
 }  // namespace kinalyx
