@@ -97,6 +97,7 @@ void SendSession::Over(IJob* job) {
   }
   if (!send || send->How().Kind() == kinalyx::Fault::Cancelled) {
     phase_ = SendPhase::Ready;
+    if (leaving_) return Leave();
     board_->Tell({.step = 0, .words = "Cancelled", .detail = {}, .part = 0});
   } else if (send->How()) {
     phase_ = SendPhase::Done;
@@ -120,10 +121,12 @@ void SendSession::Over(IJob* job) {
 void SendSession::Leave() {
   unloadTimer_.Stop();
   if (Busy()) {
+    leaving_ = true;
     board_->Stop();
     runner_.Cancel();
     return;
   }
+  leaving_ = false;
   if (lock_) RemoveWorkFolder(order_.workFolder);
   lock_.reset();
   order_ = {};

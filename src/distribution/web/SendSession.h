@@ -76,6 +76,7 @@ class SendSession {
   std::shared_ptr<SendMemory> memory_ = std::make_shared<SendMemory>();
   std::unique_ptr<FileLock> lock_;  ///< on the work folder
   std::string fault_;
+  bool leaving_ = false;
 };
 
 }  // namespace kinalyx
