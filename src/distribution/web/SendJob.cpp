@@ -278,14 +278,17 @@ Outcome SendJob::MailNext() {
   const SendOrder& order = parts_.order;
   const std::size_t readers = order.addresses.size();
   const std::size_t mails = readers * (IsWeb() ? 1 : plan_.items.size());
+  if (!std::exchange(connecting_, true)) {
+    Say(3, "Connecting to Email Server");
+    return {};
+  }
   if (next_ == mails) {
     phase_ = Phase::Clean;
     Say(3, "Deleting temporary videos...", 1);
     return {};
   }
   const std::string& reader = order.addresses[next_ % readers];
-  Say(3, next_ == 0 ? "Connecting to Email Server" : "Sending email...",
-      static_cast<double>(next_) / static_cast<double>(mails));
+  Say(3, "Sending email...", static_cast<double>(next_) / static_cast<double>(mails));
   MailMessage message = order.message;
   message.to = {reader};
   message.html = false;

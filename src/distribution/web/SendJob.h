@@ -98,6 +98,7 @@ class SendJob final : public IJob {
   std::vector<double> frameSeconds_;
   std::vector<Upload> uploads_;
   std::string logo_;
+  bool connecting_ = false;
   bool closedBadly_ = false;
 };
 

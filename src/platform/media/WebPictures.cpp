@@ -19,7 +19,8 @@ constexpr double kLongSide = 1280;
 constexpr double kShortSide = 720;
 constexpr int kPixelBytes = 4;
 
-int Even(double pixels) { return std::max(2, 2 * static_cast<int>(std::lround(pixels / 2))); }
+/// A column or row that is lost is not missed.
+int Even(double pixels) { return std::max(2, 2 * static_cast<int>(std::floor(pixels / 2 + 1e-6))); }
 
 libyuv::FilterMode FilterFor(int from, int to) { return from > to ? libyuv::kFilterBox : libyuv::kFilterBilinear; }
 

@@ -85,7 +85,7 @@ TEST_F(Sending, ASecondSendKeepsWhatThePageShows) {
   EXPECT_NE(servers->files[kVideos + "playlist.wvx"].find("Swing.wmv"), std::string::npos);
   // What cannot be read would be lost: nothing is written then.
   const auto before = servers->files;
-  for (const std::string path : {"ŁódźGolfCo/Anna/index.html", kVideos + "playlist.wvx"}) {
+  for (const std::string& path : {std::string("ŁódźGolfCo/Anna/index.html"), kVideos + "playlist.wvx"}) {
     servers->unreadable = path;
     EXPECT_EQ(Run().Why(), "the server is busy");
     EXPECT_EQ(servers->files, before);
@@ -97,7 +97,9 @@ TEST_F(Sending, AnotherStudentWithTheSameFolderGetsOneOfHisOwn) {
   order.student = "An na";
   ASSERT_TRUE(Run());
   order.student = "Anna";
+  memory = std::make_shared<SendMemory>();
   ASSERT_TRUE(Run());
+  ASSERT_EQ(servers->mails.size(), 2U);
   EXPECT_NE(Page().find("<p class=\"student\">An na</p>"), std::string::npos);
   EXPECT_NE(Page("Anna-2").find("<p class=\"student\">Anna</p>"), std::string::npos);
   EXPECT_NE(servers->mails[1].body.find("/Anna-2/index.html"), std::string::npos);
