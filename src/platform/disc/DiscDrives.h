@@ -27,4 +27,19 @@ std::string ImageOfAddress(const std::string& address);
 /// The drive of an address. It is opened by its operations alone.
 std::unique_ptr<IDiscDrive> DriveAt(const std::string& address);
 
+/// Where drives come from; a test passes its own.
+class IDiscDrives {
+ public:
+  virtual ~IDiscDrives() = default;
+  virtual std::vector<DriveName> List() = 0;
+  virtual std::unique_ptr<IDiscDrive> At(const std::string& address) = 0;
+};
+
+/// Those of this machine.
+class MachineDrives final : public IDiscDrives {
+ public:
+  std::vector<DriveName> List() override { return DiscDrives(); }
+  std::unique_ptr<IDiscDrive> At(const std::string& address) override { return DriveAt(address); }
+};
+
 }  // namespace kinalyx
