@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QFormLayout>
 #include <QLabel>
+#include <QShowEvent>
 #include <QSignalBlocker>
 #include <utility>
 
