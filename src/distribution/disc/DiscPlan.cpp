@@ -34,7 +34,7 @@ bool IsDevice(std::string_view stem) {
 std::string_view EndingIn(std::string_view name) {
   const std::size_t dot = name.rfind('.');
   constexpr std::size_t kLongest = 8;
-  if (dot == std::string_view::npos || dot == 0 || name.size() - dot > kLongest) return {};
+  if (dot == std::string_view::npos || dot == 0 || dot + 1 == name.size() || name.size() - dot > kLongest) return {};
   return name.substr(dot);
 }
 
@@ -76,11 +76,7 @@ std::string NameForDisc(const std::string& name) {
   const std::string ending(EndingIn(clean));
   std::string stem(
       FirstUnits(std::string_view(clean).substr(0, clean.size() - ending.size()), kLongestName - ending.size()));
-  const auto bare = [](std::string& text) {
-    while (!text.empty() && (text.back() == ' ' || text.back() == '.')) text.pop_back();
-  };
-  bare(stem);
-  if (ending.empty()) bare(stem);
+  while (!stem.empty() && (stem.back() == ' ' || stem.back() == '.')) stem.pop_back();
   if (stem.empty() || IsDevice(stem)) stem += '_';
   return stem + ending;
 }

@@ -15,6 +15,8 @@ namespace {
 
 constexpr auto kMoment = std::chrono::milliseconds(20);
 constexpr int kRestMoments = 500;  // ten seconds: a drive that looks at a new disc takes its time
+constexpr int kMostTries = 50;
+constexpr auto kBetweenTries = std::chrono::milliseconds(100);
 constexpr std::int64_t kSector = 2048;
 constexpr std::size_t kReadBlock = 1 << 20;
 constexpr int kFastErase = 1;
@@ -254,6 +256,15 @@ bool BurnRun::Writing() {
 bool BurnRun::WritingOver() {
   if (stopping_) return Stopped();
   const std::string complaint = DiscComplaint();
+  // The thread of the disc before may be about to end still when the drive has long come to rest: once more from the
+  // beginning, for a drive that was refused stays so.
+  if (complaint.find("still going on") != std::string::npos && source_->Fetched() == 0 && ++tries_ < kMostTries) {
+    disc_.reset();
+    source_.reset();
+    drive_.reset();
+    std::this_thread::sleep_for(kBetweenTries);
+    return Next(Stage::Take, DriveState::Preparing);
+  }
   // What a source does not deliver is filled up with zeros, and the drive is content with that.
   const bool whole = source_->Fetched() >= total_;
   if (!whole || !complaint.empty() || !burn_drive_wrote_well(drive_->Get())) {

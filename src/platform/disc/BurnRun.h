@@ -53,6 +53,7 @@ class BurnRun final : public IBurnRun {
   bool cancelled_ = false;
   bool stopping_ = false;  ///< the drive has been asked to stop
   bool written_ = false;
+  int tries_ = 0;  ///< to begin to write
   std::int64_t done_ = 0;
   std::int64_t total_ = 0;
   Checksum readBack_;
