@@ -63,6 +63,7 @@ QWidget* ViewerForm::MakeList() {
   list_->SetHint(tr("There are no videos on this disc."));
   list_->setAccessibleName(tr("Lessons and videos"));
   FixWidth(list_, kListWide);
+  list_->installEventFilter(this);
   connect(list_, &QListWidget::currentRowChanged, this, &ViewerForm::OpenRow);
   connect(list_, &QListWidget::itemActivated, this, [this] { Play(true); });
   return list_;
@@ -236,16 +237,24 @@ void ViewerForm::NextPicture() {
   if (now >= times_->TimeOf(times_->Count())) Play(false);
 }
 
-void ViewerForm::keyPressEvent(QKeyEvent* event) {
-  switch (event->key()) {
-    case Qt::Key_Space: return Play(!Playing());
-    case Qt::Key_Left: return Step(-1);
-    case Qt::Key_Right: return Step(1);
-    case Qt::Key_Home: return Step(-Position());
-    case Qt::Key_End: return Step(seek_->maximum() - Position());
-    case Qt::Key_H: return slow_->toggle();
-    default: QWidget::keyPressEvent(event);
+bool ViewerForm::TakeKey(int key) {
+  switch (key) {
+    case Qt::Key_Space: Play(!Playing()); return true;
+    case Qt::Key_Left: Step(-1); return true;
+    case Qt::Key_Right: Step(1); return true;
+    case Qt::Key_H: slow_->toggle(); return true;
+    default: return false;
   }
+}
+
+bool ViewerForm::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == list_ && event->type() == QEvent::KeyPress && TakeKey(static_cast<QKeyEvent*>(event)->key()))
+    return true;
+  return QWidget::eventFilter(watched, event);
+}
+
+void ViewerForm::keyPressEvent(QKeyEvent* event) {
+  if (!TakeKey(event->key())) QWidget::keyPressEvent(event);
 }
 
 void ViewerForm::closeEvent(QCloseEvent* event) {

@@ -37,6 +37,8 @@ class ViewerForm : public QWidget {
   bool Playing() const { return tick_.isActive(); }
 
  protected:
+  /// The list leaves all keys but those that move in it to the player.
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
@@ -46,6 +48,7 @@ class ViewerForm : public QWidget {
   void Fill(const std::string& folder);
   void AddFolder(const QString& heading, const std::string& folder);
   void Open(const std::string& path);
+  bool TakeKey(int key);
   void Play(bool on);
   void Step(int positions);
   void SetSlow(bool slow);
