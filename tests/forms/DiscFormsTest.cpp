@@ -25,7 +25,7 @@ class NoDrives final : public IDiscDrives {
   std::unique_ptr<IDiscDrive> At(const std::string& address) override { return DriveAt(address); }
 };
 
-class DiscForms : public testing::Test, public FormDriver, public IDiscPage {
+class DiscForms : public testing::Test, public FormDriver {
  protected:
   DiscForms() {
     settings.LoadSettings();
@@ -36,7 +36,6 @@ class DiscForms : public testing::Test, public FormDriver, public IDiscPage {
     window.show();
     host.Advance(50);
   }
-  std::string DiscStudent() const override { return "Zofia"; }
   QWidget& Form() override { return window; }
   /// The work goes on step by step with the clock.
   void Work() {
@@ -58,8 +57,8 @@ class DiscForms : public testing::Test, public FormDriver, public IDiscPage {
   FilesToSend files;
   NoDrives drives;
   QWidget window;
-  DiscPanel& panel = *new DiscPanel(host, settings, files, *this, drives, {folder.Path("Bin"), folder.Path("work")},
-                                    &window, JobRunner::On::HostTimer);
+  DiscPanel& panel = *new DiscPanel(host, settings, files, drives, {folder.Path("Bin"), folder.Path("work")}, &window,
+                                    JobRunner::On::HostTimer);
 };
 
 TEST_F(DiscForms, AnImageFileServesWhereThereIsNoDrive) {

@@ -4,6 +4,7 @@
 #include <ctime>
 #include <utility>
 
+#include "library/LibraryTree.h"
 #include "platform/files/Folders.h"
 #include "platform/host/DriveWatch.h"
 
@@ -185,7 +186,8 @@ std::string DiscDesk::Words() const {
   return {};
 }
 
-DiscOrder DiscDesk::OrderFor(const std::vector<FileToSend>& files, const std::string& student, bool page) const {
+DiscOrder DiscDesk::OrderFor(const std::vector<FileToSend>& files, bool page) const {
+  const std::string student = StudentOf(files, LibraryTree(settings_).Root());
   const std::string today = Today();
   return {.Files = files,
           .ViewerFolder = places_.ViewerFolder,

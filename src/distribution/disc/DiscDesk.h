@@ -65,7 +65,7 @@ class DiscDesk final {
   std::unique_ptr<IDiscDrive> Drive() const;
 
   // --- what goes on a disc
-  DiscOrder OrderFor(const std::vector<FileToSend>& files, const std::string& student, bool page) const;
+  DiscOrder OrderFor(const std::vector<FileToSend>& files, bool page) const;
   /// Bytes of all that exists already: the list, its sidecars and the viewer. Nothing when a drive does not answer.
   std::optional<std::int64_t> SpaceRequired(const std::vector<FileToSend>& files) const;
 

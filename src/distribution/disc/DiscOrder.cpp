@@ -38,6 +38,18 @@ std::string LabelFor(const std::string& student, const std::string& today) {
   return label + "_" + day;
 }
 
+std::string StudentOf(const std::vector<FileToSend>& files, const std::string& library) {
+  std::string folder;
+  for (const FileToSend& file : files) {
+    const std::string own = file.lesson ? FolderOf(FolderOf(file.path)) : FolderOf(file.path);
+    if (!folder.empty() && own != folder) return {};
+    folder = own;
+  }
+  // Root, instructor, student; what lies elsewhere has a folder that means nothing to anybody.
+  const bool ofLibrary = !folder.empty() && FolderOf(FolderOf(folder)) == library;
+  return ofLibrary ? LastName(folder) : std::string();
+}
+
 std::vector<DiscSource> FilesOfViewer(const std::string& folder) {
   std::vector<DiscSource> files;
   for (const std::string& name : ListFiles(folder, [](std::string_view) { return true; })) {

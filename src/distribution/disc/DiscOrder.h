@@ -26,6 +26,10 @@ struct DiscOrder {
 /// A name for a disc of today: at most 16 plain characters, "SWING_2026_11_26".
 std::string LabelFor(const std::string& student, const std::string& today);
 
+/// The student of whom all files are; empty where they are of several, or of none of the library.
+/// @param library  its root
+std::string StudentOf(const std::vector<FileToSend>& files, const std::string& library);
+
 /// What a folder of the viewer holds, hidden files and folders left out. It reads the disk.
 std::vector<DiscSource> FilesOfViewer(const std::string& folder);
 /// Looks at the videos of an order and plans its disc. It reads the disk. Fails with the first that is not there.

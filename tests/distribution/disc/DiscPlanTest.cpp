@@ -95,6 +95,14 @@ TEST(DiscPlan, GivesNamesThatEveryComputerTakes) {
   EXPECT_EQ(NameForDisc(clubs + ".avi").size(), 43u * 4 + 4);
 }
 
+TEST(DiscStudent, IsWhoseFilesAllAre) {
+  const auto of = [](std::vector<FileToSend> files) { return StudentOf(files, "/lib"); };
+  EXPECT_EQ(of({{"/lib/Ben/Zofia/a.avi", false, 1}, {"/lib/Ben/Zofia/Lessons/b.avi", true, 1}}), "Zofia");
+  EXPECT_EQ(of({{"/lib/Ben/Zofia/a.avi", false, 1}, {"/lib/Ben/Anna/a.avi", false, 1}}), "");
+  EXPECT_EQ(of({{"/home/me/Downloads/a.avi", false, 1}}), "");
+  EXPECT_EQ(of({}), "");
+}
+
 TEST(DiscTexts, ReadAsTheFormShowsThem) {
   EXPECT_EQ(MegabytesText(0), "0 MB");
   EXPECT_EQ(MegabytesText(1), "1 MB");

@@ -26,12 +26,11 @@ constexpr int kImageRow = -1;
 
 }  // namespace
 
-DiscPanel::DiscPanel(IHost& host, Settings& settings, const FilesToSend& files, const IDiscPage& page,
-                     IDiscDrives& drives, DiscDesk::Places places, QWidget* parent, JobRunner::On on)
+DiscPanel::DiscPanel(IHost& host, Settings& settings, const FilesToSend& files, IDiscDrives& drives,
+                     DiscDesk::Places places, QWidget* parent, JobRunner::On on)
     : QWidget(parent),
       host_(host),
       files_(files),
-      page_(page),
       desk_(host, settings, drives, *this, std::move(places), on),
       on_(on) {
   setObjectName("DiscPanel");
@@ -192,7 +191,7 @@ void DiscPanel::Start() {
     return;
   if (!host_.Question(Std(tr("Start Writing to CD?")), Std(tr("Ready to Burn CD?")))) return;
   said_->setText(tr("Starting to burn CD"));
-  Form().Burn(desk_.OrderFor(files_.Files(), page_.DiscStudent(), pageToo_->isChecked()), std::move(drive), wish);
+  Form().Burn(desk_.OrderFor(files_.Files(), pageToo_->isChecked()), std::move(drive), wish);
 }
 
 void DiscPanel::cmdCopyToFolder_Click() {
@@ -202,7 +201,7 @@ void DiscPanel::cmdCopyToFolder_Click() {
   if (!folder) return;
   if (!host_.Drives().Answers(*folder))
     return host_.Message(MessageKind::Warning, "", Std(tr("The drive does not answer. Choose another folder.")));
-  Form().Copy(desk_.OrderFor(files_.Files(), page_.DiscStudent(), pageToo_->isChecked()), *folder);
+  Form().Copy(desk_.OrderFor(files_.Files(), pageToo_->isChecked()), *folder);
 }
 
 BurnForm& DiscPanel::Form() {

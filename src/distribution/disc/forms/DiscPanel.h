@@ -17,14 +17,6 @@ class BurnForm;
 class Button;
 class FigureLabel;
 
-/// What the panel asks of the page on which it stands.
-class IDiscPage {
- public:
-  virtual ~IDiscPage() = default;
-  /// For whom the disc is; may be empty.
-  virtual std::string DiscStudent() const = 0;
-};
-
 /// The disc on the page that sends lessons: the drive, how much room it has, and the way to the burner. It does nothing
 /// before Open.
 class DiscPanel : public QWidget, private IDiscDeskEvents {
@@ -35,8 +27,8 @@ class DiscPanel : public QWidget, private IDiscDeskEvents {
   enum Command { kStart, kEject, kTest, kCommands };
 
   /// All that is passed outlives the panel.
-  DiscPanel(IHost& host, Settings& settings, const FilesToSend& files, const IDiscPage& page, IDiscDrives& drives,
-            DiscDesk::Places places, QWidget* parent = nullptr, JobRunner::On on = JobRunner::On::Worker);
+  DiscPanel(IHost& host, Settings& settings, const FilesToSend& files, IDiscDrives& drives, DiscDesk::Places places,
+            QWidget* parent = nullptr, JobRunner::On on = JobRunner::On::Worker);
 
   /// It is on the screen, and the drives may have changed.
   void Open();
@@ -65,7 +57,6 @@ class DiscPanel : public QWidget, private IDiscDeskEvents {
 
   IHost& host_;
   const FilesToSend& files_;
-  const IDiscPage& page_;
   DiscDesk desk_;
   JobRunner::On on_;
   QPointer<BurnForm> form_;
