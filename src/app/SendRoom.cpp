@@ -1,8 +1,10 @@
 #include "app/SendRoom.h"
 
+#include "distribution/disc/forms/DiscPanel.h"
 #include "distribution/send/forms/SendPage.h"
 #include "distribution/web/OrderOf.h"
 #include "distribution/web/forms/FTPUploadForm.h"
+#include "platform/files/Folders.h"
 
 namespace kinalyx {
 
@@ -13,6 +15,11 @@ SendRoom::~SendRoom() = default;
 SendPage* SendRoom::MakePage() {
   auto* page = new SendPage(parts_.host, parts_.settings, parts_.remembered, files_);
   QObject::connect(page, &SendPage::SendWanted, page, [this](const SendWish& wish) { Send(wish); });
+  disc_ = new DiscPanel(parts_.host, parts_.settings, files_, drives_,
+                        {.ViewerFolder = JoinPath(parts_.settings.AppPath, "Bin"),
+                         .WorkFolder = JoinPath(parts_.settings.DataPath, "capture/DiscTemp")});
+  page->SetDiscPanel(disc_);
+  QObject::connect(page, &SendPage::FilesChanged, disc_, &DiscPanel::FilesChanged);
   return page;
 }
 
@@ -24,6 +31,7 @@ void SendRoom::Send(const SendWish& wish) {
 }
 
 bool SendRoom::MayClose() {
+  if (disc_ && !disc_->MayClose()) return false;
   return !form_ || !form_->Busy() ||
          parts_.host.Question("", "Videos are still being sent. Do you want to give that up?");
 }

@@ -7,12 +7,14 @@
 #include "distribution/send/FilesToSend.h"
 #include "distribution/send/SendWish.h"
 #include "library/LibraryTree.h"
+#include "platform/disc/DiscDrives.h"
 #include "platform/host/Host.h"
 
 class QWidget;
 
 namespace kinalyx {
 
+class DiscPanel;
 class FTPUploadForm;
 class SendPage;
 
@@ -21,7 +23,7 @@ class SendRoom {
  public:
   struct Parts {
     IHost& host;
-    const Settings& settings;
+    Settings& settings;
     const MailSettings& mail;
     const LastStudentInfo& remembered;
     QWidget& over;  ///< the main window, which goes first
@@ -41,6 +43,8 @@ class SendRoom {
 
   Parts parts_;
   FilesToSend files_;
+  MachineDrives drives_;
+  DiscPanel* disc_ = nullptr;      ///< owned by the page
   FTPUploadForm* form_ = nullptr;  ///< owned by the main window, and made when it is first wanted
 };
 

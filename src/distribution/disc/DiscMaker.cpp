@@ -75,6 +75,7 @@ bool DiscMaker::Begin() {
   const std::string folder = PartNameBeside(JoinPath(order_.WorkFolder, "Disc"));
   if (!MakeFolder(order_.WorkFolder) || !MakeFolder(folder))
     return End(Outcome(Fault::Unwritable, "The folder for what is made on the way could not be made."));
+  RemoveDeadParts(order_.WorkFolder);  // of a program that was killed
   folder_ = folder;
   return true;
 }

@@ -17,6 +17,7 @@
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
 #include "platform/widgets/Text.h"
+#include "platform/widgets/Theme.h"
 
 namespace kinalyx {
 namespace {
@@ -35,7 +36,7 @@ DiscPanel::DiscPanel(IHost& host, Settings& settings, const FilesToSend& files, 
       on_(on) {
   setObjectName("DiscPanel");
   auto* rows = new QVBoxLayout(this);
-  rows->setContentsMargins(0, 0, 0, 0);
+  rows->setContentsMargins(kGap, 10, kGap, 10);
   rows->setSpacing(10);
   rows->addLayout(MakeDrive());
   rows->addLayout(MakeFigures());
