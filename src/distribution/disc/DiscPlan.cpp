@@ -119,7 +119,7 @@ DiscPlan PlanDisc(const std::vector<DiscVideoSource>& videos, const std::vector<
   return plan;
 }
 
-std::string MegabytesText(std::int64_t bytes) {
+std::string SpaceText(std::int64_t bytes) {
   std::string digits = std::to_string((std::max<std::int64_t>(0, bytes) + kMegabyte - 1) / kMegabyte);
   for (std::ptrdiff_t at = static_cast<std::ptrdiff_t>(digits.size()) - 3; at > 0; at -= 3)
     digits.insert(static_cast<std::size_t>(at), ",");

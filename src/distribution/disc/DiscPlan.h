@@ -66,6 +66,6 @@ DiscPlan PlanDisc(const std::vector<DiscVideoSource>& videos, const std::vector<
 std::string NameForDisc(const std::string& name);
 
 /// "1,234 MB", rounded up.
-std::string MegabytesText(std::int64_t bytes);
+std::string SpaceText(std::int64_t bytes);
 
 }  // namespace kinalyx

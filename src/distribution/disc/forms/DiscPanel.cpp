@@ -123,7 +123,7 @@ void DiscPanel::Open() {
 void DiscPanel::FilesChanged() {
   if (!isVisible()) return;
   const auto bytes = desk_.SpaceRequired(files_.Files());
-  required_->setText(bytes ? Q(MegabytesText(*bytes)) : tr("Unknown"));
+  required_->setText(bytes ? Q(SpaceText(*bytes)) : tr("Unknown"));
 }
 
 void DiscPanel::FillDevices() {
