@@ -15,7 +15,7 @@ kinalyx_packages=(
   libcups2-dev fonts-liberation libcurl4-openssl-dev libburn-dev libisofs-dev
   libavc1394-tools?
 )
-kinalyx_test_packages=(libgtest-dev libgmock-dev ffmpeg dbus-daemon python3-aiosmtpd python3-pyftpdlib python3-openssl openssl)
+kinalyx_test_packages=(libgtest-dev libgmock-dev ffmpeg dbus-daemon python3-aiosmtpd python3-pyftpdlib python3-openssl openssl xorriso)
 kinalyx_lint_packages=(clang-format clang-tidy)
 
 # A name that ends in "?" is welcome but not needed: it is taken only where Debian has it.

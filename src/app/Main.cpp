@@ -164,10 +164,6 @@ void Main::SetSectionCaption(int index, const QString& caption) {
   section->setToolTip(Tip(index, caption));
 }
 
-void Main::SetSectionComing(int index) {
-  if (TileButton* section = sections_[static_cast<std::size_t>(index)]) SetComing(section);
-}
-
 bool Main::eventFilter(QObject* object, QEvent* event) {
   if (object == logo_ && event->type() == QEvent::MouseButtonRelease) {
     const auto* mouse = static_cast<QMouseEvent*>(event);

@@ -61,8 +61,6 @@ class Main : public QWidget {
   void SetCompany(const QString& company);
   /// Words of a section's button, on the rail.
   void SetSectionCaption(int index, const QString& caption);
-  /// For a section that is not built yet.
-  void SetSectionComing(int index);
 
   /// With nothing around the window, the heading carries buttons that put it away and close it.
   void SetFullScreen(bool on);

@@ -12,6 +12,7 @@
 #include "core/forms/SetupPage.h"
 #include "core/forms/SplashForm.h"
 #include "distribution/mail/forms/InternetSection.h"
+#include "distribution/send/forms/SendPage.h"
 #include "library/forms/FieldsEditor.h"
 #include "library/forms/ImportExportPage.h"
 #include "library/forms/ProfilesPage.h"
@@ -33,8 +34,6 @@ constexpr QSize kLeastMain(1000, 680);
 constexpr int kSettledMs = 150;
 /// By then a desktop has put its frame around a new window.
 constexpr int kFramedMs = 150;
-/// Sections whose subsystems are not built yet.
-constexpr int kComing[] = {kLessonPage};
 
 }  // namespace
 
@@ -144,6 +143,11 @@ void Program::LoadMain() {
                                                                .ways = *this,
                                                                .over = *main_});
 
+  send_ = std::make_unique<SendRoom>(SendRoom::Parts{
+      .host = *host_, .settings = settings_, .mail = mail_, .remembered = lastStudent_, .over = *main_});
+  sendPage_ = send_->MakePage();
+  main_->SetPage(kLessonPage, sendPage_);
+
   importExport_ = new ImportExportPage(*host_, settings_, operations_, lastStudent_);
   main_->SetPage(kImportExportPage, importExport_);
 
@@ -163,10 +167,6 @@ void Program::LoadMain() {
   help_ = new HelpPage(Q(JoinPath(settings_.AppPath, "help")));
   main_->SetPage(kHelpPage, help_);
 
-  for (const int index : kComing) {
-    main_->SetSectionComing(index);
-    menu_->SetSectionComing(index);
-  }
   main_->SetCompany(Q(settings_.CompanyName));
   SetupVocabulary();
   setup_->SetupProgram();
@@ -272,6 +272,7 @@ void Program::SetupVocabulary() {
   setup_->SetupVocabulary();
   profiles_->SetupVocabulary();
   if (analysis_) analysis_->SettingsChanged();
+  sendPage_->SetupVocabulary();
   importExport_->SetupVocabulary();
   capturePage_->SetupVocabulary();
   help_->SetupVocabulary(vocabulary_);
@@ -412,7 +413,7 @@ void Program::MirrorClosed() {
 bool Program::MainMayClose() {
   const bool restart = std::exchange(RestartFlag_, false);
   if (main_->CurrentPage() == kCapturePage && !main_->LeavePage()) return false;
-  if (!profiles_->MayClose() || !handouts_->MayClose() || !mirror_->MayClose()) return false;
+  if (!profiles_->MayClose() || !handouts_->MayClose() || !mirror_->MayClose() || !send_->MayClose()) return false;
   if (analysis_ && !analysis_->CloseAll()) return false;
   if (!profiles_->SaveLastNotes() &&
       !host_->Question("", "The notes could not be saved. Do you want to close Kinalyx all the same?"))

@@ -8,6 +8,7 @@
 #include "app/LiveDrawRoom.h"
 #include "app/Main.h"
 #include "app/MirrorRoom.h"
+#include "app/SendRoom.h"
 #include "core/ColorSchemes.h"
 #include "core/MailSettings.h"
 #include "core/ResizeControls.h"
@@ -36,6 +37,7 @@ class ImportExportPage;
 class Log;
 class MenuPage;
 class ProfilesPage;
+class SendPage;
 class SetupPage;
 class SplashForm;
 
@@ -141,12 +143,15 @@ class Program final : private ISettingsEvents,
 
   std::unique_ptr<HandoutRoom> handouts_;  ///< outlives the analysis section, which goes with the main form
 
+  std::unique_ptr<SendRoom> send_;  ///< its page and form go with the main form, before it
+
   std::unique_ptr<SplashForm> splash_;
   std::unique_ptr<Main> main_;
   // Owned by the main form.
   MenuPage* menu_ = nullptr;
   ProfilesPage* profiles_ = nullptr;
   CapturePage* capturePage_ = nullptr;
+  SendPage* sendPage_ = nullptr;
   ImportExportPage* importExport_ = nullptr;
   AnalysisForm* analysis_ = nullptr;
   OfferBar* reopen_ = nullptr;

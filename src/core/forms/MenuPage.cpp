@@ -58,8 +58,6 @@ void MenuPage::Open() {
 
 void MenuPage::SetupMenuImage() { canvas_->SetupMenu(host_, settings_); }
 
-void MenuPage::SetSectionComing(int index) { SetComing(tiles_.at(static_cast<std::size_t>(index))); }
-
 void MenuPage::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
   const int side = MenuCanvas::SideMargin(width());

@@ -27,8 +27,6 @@ class MenuPage : public PageWidget {
   void SetupVocabulary();
   /// Takes over another picture, other heading lines or another place of them.
   void SetupMenuImage();
-  /// For a section that is not built yet.
-  void SetSectionComing(int index);
 
  signals:
   /// A tile was pressed, 1 to 7.

@@ -37,4 +37,12 @@ std::int64_t FilesToSend::Bytes() const {
   return bytes;
 }
 
+std::string MegabytesText(std::int64_t bytes) {
+  constexpr std::int64_t kMegabyte = 1 << 20;
+  std::string digits = std::to_string((std::max<std::int64_t>(0, bytes) + kMegabyte - 1) / kMegabyte);
+  for (auto at = static_cast<std::ptrdiff_t>(digits.size()) - 3; at > 0; at -= 3)
+    digits.insert(static_cast<std::size_t>(at), ",");
+  return digits + "MB";
+}
+
 }  // namespace kinalyx

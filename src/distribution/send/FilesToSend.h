@@ -37,4 +37,7 @@ class FilesToSend {
   std::vector<FileToSend> files_;
 };
 
+/// Whole megabytes, counted upward: "1,234MB".
+std::string MegabytesText(std::int64_t bytes);
+
 }  // namespace kinalyx
