@@ -24,11 +24,7 @@ TestServer::TestServer(std::vector<std::string> arguments) {
   arguments.insert(arguments.begin(), KINALYX_TEST_SERVERS);
   auto started = ChildProcess::Start("/usr/bin/python3", arguments);
   if (!started) {
-<<<<<<< HEAD
-    missing_ = started.Why();
-=======
     missing_ = "missing python3";
->>>>>>> dev-net
     return;
   }
   process_ = std::move(*started);
@@ -38,11 +34,7 @@ TestServer::TestServer(std::vector<std::string> arguments) {
     if (line.starts_with(kMissing)) missing_ = line;
     return line.starts_with(kPort) || line.starts_with(kMissing);
   });
-<<<<<<< HEAD
-  if (port_ == 0 && missing_.empty()) missing_ = "the server did not start: " + process_->Errors();
-=======
   if (port_ == 0 && missing_.empty()) trouble_ = process_->Errors();
->>>>>>> dev-net
 }
 
 TestCertificate::TestCertificate(std::string_view name) {

@@ -20,28 +20,17 @@ class TestServer {
   /// @param arguments  see tests/support/servers.py
   explicit TestServer(std::vector<std::string> arguments);
 
-<<<<<<< HEAD
-  /// 0: it did not start, and Missing says why.
-  int Port() const { return port_; }
-  /// What is not installed here, for GTEST_SKIP.
-  const std::string& Missing() const { return missing_; }
-=======
   /// 0: it did not start.
   int Port() const { return port_; }
   /// What is not installed here, for GTEST_SKIP.
   const std::string& Missing() const { return missing_; }
   /// Why it did not start otherwise.
   const std::string& Trouble() const { return trouble_; }
->>>>>>> dev-net
 
  private:
   std::unique_ptr<ChildProcess> process_;
   int port_ = 0;
-<<<<<<< HEAD
-  std::string missing_;
-=======
   std::string missing_, trouble_;
->>>>>>> dev-net
 };
 
 /// A key and a certificate that it signs itself, so that the certificate serves as the CA file as well.

@@ -85,10 +85,7 @@ CurlEnd CurlSession::Perform(ITransferWatch& watch, std::int64_t total) {
   end_ = {};
   goodbye_ = false;
   goesOn_ = false;
-<<<<<<< HEAD
-=======
   leaving_ = false;
->>>>>>> dev-net
   cancelled_ = false;
   total_ = total;
   traffic_ = sockets_.Traffic();
@@ -107,14 +104,11 @@ CurlEnd CurlSession::Perform(ITransferWatch& watch, std::int64_t total) {
     if (message->msg == CURLMSG_DONE) end_.code = message->data.result;
   }
   if (givenUp && running) sockets_.StopListening();
-<<<<<<< HEAD
-=======
   if (!givenUp && end_.bytes > 0) Report(Clock::now());
   // A server that is full says so and hangs up: the library sees only that nothing more can be sent.
   if (end_.code == CURLE_SEND_ERROR) {
     for (const std::string& line : sockets_.LastLines()) HearReply(line);
   }
->>>>>>> dev-net
   curl_easy_getinfo(handle, CURLINFO_SSL_VERIFYRESULT, &end_.certificate);
   curl_multi_remove_handle(multi_.get(), handle);
   sockets_.CloseEnded();
@@ -142,26 +136,16 @@ bool CurlSession::GivesUp() {
   return end_.how != CurlEnd::How::Answered;
 }
 
-<<<<<<< HEAD
-=======
 void CurlSession::Report(Clock::time_point now) {
   const double seconds = std::chrono::duration<double>(now - begun_).count();
   watch_->Progress(end_.bytes, total_, seconds > 0 ? static_cast<double>(end_.bytes) / seconds : 0);
 }
 
->>>>>>> dev-net
 void CurlSession::Look(Clock::time_point now) {
   if (!watch_) return;
   const bool away = looked_ != Clock::time_point() && now - looked_ > kAway;
   looked_ = now;
-<<<<<<< HEAD
-  const double seconds = std::chrono::duration<double>(now - begun_).count();
-  if (end_.bytes > 0)
-    watch_->Progress(end_.bytes, std::max(total_, std::int64_t{0}),
-                     seconds > 0 ? static_cast<double>(end_.bytes) / seconds : 0);
-=======
   if (end_.bytes > 0) Report(now);
->>>>>>> dev-net
   if (!cancelled_ && watch_->Cancelled()) {
     cancelled_ = true;
     cancelledAt_ = now;
@@ -186,10 +170,6 @@ void CurlSession::Look(Clock::time_point now) {
 int CurlSession::OnTalk(CURL*, curl_infotype kind, char* bytes, std::size_t size, void* self) {
   auto& session = *static_cast<CurlSession*>(self);
   const std::string_view line(bytes, size);
-<<<<<<< HEAD
-=======
-  if (getenv("NETDBG") && kind <= CURLINFO_HEADER_OUT) fprintf(stderr, "%d %.*s", kind, (int)size, bytes);
->>>>>>> dev-net
   if (kind == CURLINFO_HEADER_IN) session.HearReply(line);
   if (kind == CURLINFO_HEADER_OUT) session.HearCommand(line);
   return 0;
@@ -198,11 +178,7 @@ int CurlSession::OnTalk(CURL*, curl_infotype kind, char* bytes, std::size_t size
 void CurlSession::HearReply(std::string_view line) {
   int code = 0;
   if (line.size() < 4 || std::from_chars(line.data(), line.data() + 3, code).ptr != line.data() + 3 || code < 100) return;
-<<<<<<< HEAD
-  if (end_.command == "QUIT") {
-=======
   if (leaving_) {
->>>>>>> dev-net
     if (code == 221) goodbye_ = true;
     return;
   }
@@ -215,11 +191,8 @@ void CurlSession::HearReply(std::string_view line) {
 }
 
 void CurlSession::HearCommand(std::string_view line) {
-<<<<<<< HEAD
-=======
   leaving_ = line.starts_with("QUIT");
   if (leaving_) return;
->>>>>>> dev-net
   // Passwords pass here: no more than the first word is kept, and of a reader his address.
   const std::size_t end = line.starts_with("RCPT") ? line.find_first_of("\r\n") : line.find_first_of(" \r\n");
   end_.command = line.substr(0, std::min(end, line.size()));

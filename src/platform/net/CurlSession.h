@@ -85,10 +85,7 @@ class CurlSession {
   void HearCommand(std::string_view line);
   bool GivesUp();
   void Look(Clock::time_point now);
-<<<<<<< HEAD
-=======
   void Report(Clock::time_point now);
->>>>>>> dev-net
 
   struct FreeEasy {
     void operator()(CURL* handle) const { curl_easy_cleanup(handle); }
@@ -106,10 +103,7 @@ class CurlSession {
   ITransferWatch* watch_ = nullptr;  ///< while a request is under way
   CurlEnd end_;
   bool goodbye_ = false;
-<<<<<<< HEAD
-=======
   bool leaving_ = false;  ///< the goodbye has been said
->>>>>>> dev-net
   bool goesOn_ = false;  ///< the last line of a reply is still to come
   int graceMs_ = 0;
   std::int64_t total_ = 0;

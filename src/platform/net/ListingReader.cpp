@@ -72,11 +72,7 @@ bool IsDay(std::string_view word) {
   return word.size() <= 2 && AllDigits(word);
 }
 
-<<<<<<< HEAD
-bool IsMonth(std::string_view word) { return word.size() >= 2 && word.size() <= 12 && !AllDigits(word); }
-=======
 bool IsMonth(std::string_view word) { return word.size() >= 2 && word.size() <= 12 && !IsDigit(word[0]); }
->>>>>>> dev-net
 
 bool IsIsoDate(std::string_view word) { return word.size() == 10 && word[4] == '-' && word[7] == '-' && IsDigit(word[0]); }
 

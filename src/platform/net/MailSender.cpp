@@ -56,7 +56,7 @@ class AttachedFile {
     curl_mimepart* part = curl_mime_addpart(mime);
     curl_mime_data_cb(part, size_, &AttachedFile::Read, &AttachedFile::Seek, nullptr, this);
     curl_mime_encoder(part, "base64");
-    headers_.Add(fmt::format("Content-Type: {}; name={}", ContentTypeOf(name_), EncodedQuoted()));
+    headers_.Add(fmt::format("Content-Type: {};\r\n name={}", ContentTypeOf(name_), EncodedQuoted()));
     headers_.Add("Content-Disposition: attachment" + EncodedParameter("filename", name_));
     curl_mime_headers(part, headers_.Get(), 0);
   }

@@ -1,9 +1,5 @@
 #include "platform/net/SocketWatch.h"
 
-<<<<<<< HEAD
-#include <linux/tcp.h>
-#include <netinet/in.h>
-=======
 #include <algorithm>
 #include <array>
 #include <string_view>
@@ -11,7 +7,6 @@
 #include <linux/tcp.h>
 #include <netinet/in.h>
 #include <poll.h>
->>>>>>> dev-net
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -67,8 +62,6 @@ void SocketWatch::StopListening() {
   for (const int socket : open_) ::shutdown(socket, SHUT_RD);
 }
 
-<<<<<<< HEAD
-=======
 std::vector<std::string> SocketWatch::LastLines() const {
   constexpr int kWaitMs = 300;
   std::vector<std::string> lines;
@@ -87,7 +80,6 @@ std::vector<std::string> SocketWatch::LastLines() const {
   return lines;
 }
 
->>>>>>> dev-net
 void SocketWatch::CloseEnded() {
   for (const int socket : ended_) {
     closed_ += Look(socket);

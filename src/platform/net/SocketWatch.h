@@ -2,10 +2,7 @@
 
 #include <chrono>
 #include <cstdint>
-<<<<<<< HEAD
-=======
 #include <string>
->>>>>>> dev-net
 #include <vector>
 
 #include <curl/curl.h>
@@ -32,11 +29,8 @@ class SocketWatch {
   std::chrono::steady_clock::time_point LastAttempt() const { return attempt_; }
   /// Nothing more is heard, so nobody waits for a goodbye: whoever reads gets the end at once.
   void StopListening();
-<<<<<<< HEAD
-=======
   /// What servers have still said, in the clear, upon sockets that have been ended since.
   std::vector<std::string> LastLines() const;
->>>>>>> dev-net
   /// Closes what has been ended and was kept only to be looked at.
   void CloseEnded();
 

@@ -3,21 +3,18 @@
 #include <chrono>
 #include <string>
 
-#include "TempFolder.h"
-#include "TestServers.h"
+#include "support/TempFolder.h"
+#include "support/TestServers.h"
 #include "platform/net/ITransferWatch.h"
 #include "platform/net/NetLimits.h"
 
-<<<<<<< HEAD
-=======
 /// Skips a test for which Python's modules are not installed; a server that does not start is a failure.
-#define NEEDS(started)                                                            \
-  if (!(started)) {                                                               \
-    if (!server_->Missing().empty()) GTEST_SKIP() << server_->Missing();          \
-    FAIL() << "The server did not start: " << server_->Trouble();                 \
+#define NEEDS(started)                                                   \
+  if (!(started)) {                                                      \
+    if (!server_->Missing().empty()) GTEST_SKIP() << server_->Missing(); \
+    FAIL() << "The server did not start: " << server_->Trouble();        \
   }
 
->>>>>>> dev-net
 namespace kinalyx::test {
 
 /// Waits patiently, and counts.
