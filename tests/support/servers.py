@@ -119,11 +119,16 @@ def smtp():
 def ftp():
     try:
         from pyftpdlib.authorizers import DummyAuthorizer
-        from pyftpdlib.handlers import FTPHandler, TLS_FTPHandler
+        from pyftpdlib.handlers import FTPHandler, TLS_DTPHandler, TLS_FTPHandler
         from pyftpdlib.servers import FTPServer
     except ImportError as error:
         missing(error)
     base = TLS_FTPHandler if arguments.tls else FTPHandler
+
+    class Data(TLS_DTPHandler):
+        def readable(self):
+            # A client may greet on the data connection before it says what goes over it.
+            return self._ssl_accepting or super().readable()
 
     class Handler(base):
         proto_cmds = {name: command for name, command in base.proto_cmds.items()
@@ -155,6 +160,7 @@ def ftp():
     Handler.authorizer = authorizer
     Handler.auth_failed_timeout = 0
     if arguments.tls:
+        Handler.dtp_handler = Data
         Handler.certfile = arguments.cert
         Handler.keyfile = arguments.key
         Handler.tls_control_required = True

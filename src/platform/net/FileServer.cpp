@@ -41,6 +41,12 @@ class BriefWatch final : public ITransferWatch {
   std::chrono::steady_clock::time_point until_;
 };
 
+/// libcurl 7.87 and 7.88 promise encryption on the data line in the active mode, and send plain bytes.
+bool EncryptsActiveMode() {
+  const unsigned version = curl_version_info(CURLVERSION_NOW)->version_num;
+  return version < 0x075700 || version >= 0x080000;
+}
+
 bool HasText(std::string_view text, std::string_view word) { return FoldCase(text).find(word) != std::string::npos; }
 
 class FileServer final : public IFileServer {
@@ -165,6 +171,9 @@ class FileServer final : public IFileServer {
                                                          : "The name of the server holds a letter that is in no name.");
     if (HasControls(login_.login) || HasControls(login_.password))
       return Outcome::Failed("Login or password hold a line end or another control character.");
+    if (!IsSftp() && !login_.passive && login_.address.security != NetSecurity::None && !EncryptsActiveMode())
+      return {Fault::Refused,
+              "Files cannot go encrypted in the active mode on this computer. Choose the passive mode."};
     return {};
   }
 
@@ -367,34 +376,33 @@ class FileServer final : public IFileServer {
     if (end.how != CurlEnd::How::Answered) return ExplainEnd(end, party);
     const std::string said = SaidBy(end, party);
     if (hosts_.Changed())
-      return {Fault::Refused,
-              fmt::format("The server \"{}\" shows another key than the one that this computer remembers. Either it was "
-                          "set up anew, or somebody else is in between: nothing was sent, and no password. If your "
-                          "provider confirms the new key, remove the old one's line from the file \"known_hosts\".",
-                          party.host)};
+      return {
+          Fault::Refused,
+          fmt::format("The server \"{}\" shows another key than the one that this computer remembers. Either it was "
+                      "set up anew, or somebody else is in between: nothing was sent, and no password. If your "
+                      "provider confirms the new key, remove the old one's line from the file \"known_hosts\".",
+                      party.host)};
     if (end.reply == 552 || end.reply == 452 || end.code == CURLE_REMOTE_DISK_FULL)
       return Outcome::Failed("The server is full." + said);
     switch (end.code) {
       case CURLE_REMOTE_ACCESS_DENIED:
         if (end.command == "CWD") return {Fault::NotFound, "The server has no such folder." + said};
         return {Fault::Refused, "The server does not allow it." + said};
-      case CURLE_REMOTE_FILE_NOT_FOUND:
-        return {Fault::NotFound, "The server has no such file or folder." + said};
+      case CURLE_REMOTE_FILE_NOT_FOUND: return {Fault::NotFound, "The server has no such file or folder." + said};
       case CURLE_QUOTE_ERROR:
       case CURLE_UPLOAD_FAILED:
-      case CURLE_FTP_COULDNT_RETR_FILE:
-        return {Fault::Refused, "The server does not allow it." + said};
+      case CURLE_FTP_COULDNT_RETR_FILE: return {Fault::Refused, "The server does not allow it." + said};
       case CURLE_FTP_ACCEPT_FAILED:
       case CURLE_FTP_ACCEPT_TIMEOUT:
       case CURLE_FTP_PORT_FAILED:
         return Outcome::Failed(
-            "The server cannot call this computer back, as it must in the active mode. Choose the passive mode." + said);
+            "The server cannot call this computer back, as it must in the active mode. Choose the passive mode." +
+            said);
       case CURLE_FTP_WEIRD_PASV_REPLY:
       case CURLE_FTP_WEIRD_227_FORMAT:
       case CURLE_FTP_CANT_GET_HOST:
         return Outcome::Failed("The server does not know the passive mode. Choose the active mode." + said);
-      default:
-        return ExplainEnd(end, party);
+      default: return ExplainEnd(end, party);
     }
   }
 

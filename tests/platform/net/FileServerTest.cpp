@@ -67,6 +67,11 @@ TEST_F(FileServerTest, AFolderIsFilledListedAndFetched) {
     login_.address.folder = "site/Golf & Co";
     const auto server = Server();
     Outcome done = server->Connect(watch_);
+    // With some libraries nothing would be encrypted there.
+    if (*tls && !passive && done.Kind() == Fault::Refused) {
+      EXPECT_THAT(done.Why(), HasSubstr("Choose the passive mode"));
+      continue;
+    }
     ASSERT_TRUE(done) << done.Why();
     EXPECT_EQ(server->List("", watch_).Kind(), Fault::NotFound);
     const std::string bytes = WildBytes(2'000'000, 3);
