@@ -328,8 +328,6 @@ TEST_F(AnalysisFormTest, DisabledThingsSayWhy) {
     if (action->isEnabled() || action->objectName().isEmpty()) continue;
     EXPECT_TRUE(action->toolTip().contains(' ')) << action->text().toStdString();
   }
-  // What has no way to become live is not there.
-  EXPECT_FALSE(form->findChild<QAction*>("TTES") || form->findChild<QAction*>("TES"));
   for (QPushButton* button : Find<QWidget>("VideoToolBar")->findChildren<QPushButton*>())
     EXPECT_TRUE(button->isEnabled() || button->toolTip().contains(QChar(0x2014))) << button->objectName().toStdString();
 }

@@ -40,9 +40,9 @@ TestServer::TestServer(std::vector<std::string> arguments) {
 TestCertificate::TestCertificate(std::string_view name) {
   const std::string host(name);
   auto made = ChildProcess::Start(
-      "/usr/bin/openssl", {"req", "-x509", "-newkey", "ec", "-pkeyopt", "ec_paramgen_curve:prime256v1", "-nodes", "-days",
-                           "2", "-subj", "/CN=" + host, "-addext", "subjectAltName=DNS:" + host, "-keyout", Key(), "-out",
-                           Certificate()});
+      "/usr/bin/openssl",
+      {"req", "-x509", "-newkey", "ec", "-pkeyopt", "ec_paramgen_curve:prime256v1", "-nodes", "-days", "2", "-subj",
+       "/CN=" + host, "-addext", "subjectAltName=DNS:" + host, "-keyout", Key(), "-out", Certificate()});
   if (!made) return;
   Listen(**made, [](std::string_view) { return false; });
   made_ = (*made)->ExitCode() == 0;

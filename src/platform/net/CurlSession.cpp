@@ -177,7 +177,8 @@ int CurlSession::OnTalk(CURL*, curl_infotype kind, char* bytes, std::size_t size
 
 void CurlSession::HearReply(std::string_view line) {
   int code = 0;
-  if (line.size() < 4 || std::from_chars(line.data(), line.data() + 3, code).ptr != line.data() + 3 || code < 100) return;
+  if (line.size() < 4 || std::from_chars(line.data(), line.data() + 3, code).ptr != line.data() + 3 || code < 100)
+    return;
   if (leaving_) {
     if (code == 221) goodbye_ = true;
     return;

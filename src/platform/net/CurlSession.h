@@ -27,11 +27,11 @@ struct CurlEnd {
     Silent,       ///< the server has stopped answering
   } how = How::Answered;
   CURLcode code = CURLE_OK;
-  std::string error;    ///< the library's own words
-  int reply = 0;        ///< code of the server's last reply; 0 none, or a server that has none
-  std::string words;    ///< and its text
-  std::string command;  ///< what was sent last: the first word, and for a reader of mail his address
-  long certificate = 0;  ///< what OpenSSL found wrong with the certificate
+  std::string error;       ///< the library's own words
+  int reply = 0;           ///< code of the server's last reply; 0 none, or a server that has none
+  std::string words;       ///< and its text
+  std::string command;     ///< what was sent last: the first word, and for a reader of mail his address
+  long certificate = 0;    ///< what OpenSSL found wrong with the certificate
   std::int64_t bytes = 0;  ///< of the transfer
 
   explicit operator bool() const { return how == How::Answered && code == CURLE_OK; }
@@ -104,7 +104,7 @@ class CurlSession {
   CurlEnd end_;
   bool goodbye_ = false;
   bool leaving_ = false;  ///< the goodbye has been said
-  bool goesOn_ = false;  ///< the last line of a reply is still to come
+  bool goesOn_ = false;   ///< the last line of a reply is still to come
   int graceMs_ = 0;
   std::int64_t total_ = 0;
   std::uint64_t traffic_ = 0;

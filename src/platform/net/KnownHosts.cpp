@@ -62,8 +62,8 @@ int KnownHosts::OnKey(CURL*, const curl_khkey*, const curl_khkey* found, curl_kh
 }
 
 void KnownHosts::Remember(const curl_khkey& key) const {
-  const QByteArray bytes = key.len > 0 ? QByteArray(key.key, static_cast<qsizetype>(key.len))
-                                       : QByteArray::fromBase64(QByteArray(key.key));
+  const QByteArray bytes =
+      key.len > 0 ? QByteArray(key.key, static_cast<qsizetype>(key.len)) : QByteArray::fromBase64(QByteArray(key.key));
   const std::string kind = KindOf(bytes);
   if (kind.empty()) return;
   const std::string name = port_ == kUsualPort ? host_ : fmt::format("[{}]:{}", host_, port_);

@@ -74,7 +74,9 @@ bool IsDay(std::string_view word) {
 
 bool IsMonth(std::string_view word) { return word.size() >= 2 && word.size() <= 12 && !IsDigit(word[0]); }
 
-bool IsIsoDate(std::string_view word) { return word.size() == 10 && word[4] == '-' && word[7] == '-' && IsDigit(word[0]); }
+bool IsIsoDate(std::string_view word) {
+  return word.size() == 10 && word[4] == '-' && word[7] == '-' && IsDigit(word[0]);
+}
 
 /// "-rw-r--r--  1 anna users  5120 Jan  2 10:15 swing.avi". Owner and group may be missing or hold blanks, months stand
 /// in any language: the size is the number before what reads as a moment.

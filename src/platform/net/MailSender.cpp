@@ -79,8 +79,8 @@ class AttachedFile {
 
   static std::size_t Read(char* bytes, std::size_t size, std::size_t count, void* self) {
     auto& file = *static_cast<AttachedFile*>(self);
-    const auto wanted = static_cast<std::size_t>(std::min<std::int64_t>(static_cast<std::int64_t>(size * count),
-                                                                        file.size_ - file.done_));
+    const auto wanted = static_cast<std::size_t>(
+        std::min<std::int64_t>(static_cast<std::int64_t>(size * count), file.size_ - file.done_));
     if (wanted == 0) return 0;
     const ssize_t got = ::read(file.file_, bytes, wanted);
     if (got <= 0) {
@@ -113,8 +113,8 @@ bool Holds(std::string_view text, std::initializer_list<std::string_view> words)
 
 /// Providers that take no plain password from a program, by their names or by what they say.
 bool WantsAppPassword(const std::string& host, const std::string& words) {
-  return Holds(host, {"gmail.", "googlemail.", "google.", "yahoo.", "ymail.", "aol.", "icloud.", "mail.me.com", "outlook.",
-                      "office365.", "hotmail.", "live.com", "zoho.", "fastmail.", "yandex."}) ||
+  return Holds(host, {"gmail.", "googlemail.", "google.", "yahoo.", "ymail.", "aol.", "icloud.", "mail.me.com",
+                      "outlook.", "office365.", "hotmail.", "live.com", "zoho.", "fastmail.", "yandex."}) ||
          Holds(words, {"application-specific", "app password", "app-password", "5.7.9"});
 }
 
@@ -186,7 +186,8 @@ class MailSender final : public IMailSender {
  private:
   static Outcome Check(const MailServer& server) {
     if (server.host.empty()) return Outcome::Failed("No mail server is set.");
-    if (!IsHostName(server.host)) return Outcome::Failed("The name of the mail server holds a letter that is in no name.");
+    if (!IsHostName(server.host))
+      return Outcome::Failed("The name of the mail server holds a letter that is in no name.");
     if (server.port < 1 || server.port > 65535) return Outcome::Failed("The port of the mail server is no port.");
     if (server.loginRequired && (HasControls(server.login) || HasControls(server.password)))
       return Outcome::Failed("Login or password hold a line end or another control character.");
@@ -242,8 +243,7 @@ class MailSender final : public IMailSender {
                                           CleanWords(end.command.substr(end.command.find(':') + 1), {}), said)};
     if (end.command == "MAIL" && (end.reply == 530 || end.reply == 535))
       return {Fault::Refused, "The mail server wants a login." + said};
-    if (end.command == "MAIL")
-      return {Fault::Refused, "The mail server does not let this sender send." + said};
+    if (end.command == "MAIL") return {Fault::Refused, "The mail server does not let this sender send." + said};
     if (end.command == "DATA") return Outcome::Failed("The mail server did not take the message." + said);
     return ExplainEnd(end, party);
   }
@@ -253,6 +253,8 @@ class MailSender final : public IMailSender {
 
 }  // namespace
 
-std::unique_ptr<IMailSender> MakeMailSender(NetLimits limits) { return std::make_unique<MailSender>(std::move(limits)); }
+std::unique_ptr<IMailSender> MakeMailSender(NetLimits limits) {
+  return std::make_unique<MailSender>(std::move(limits));
+}
 
 }  // namespace kinalyx

@@ -103,7 +103,8 @@ Result<std::string> PlainAddress(const std::string& address) {
   const std::size_t at = address.find('@');
   const std::string reader = address.substr(0, at), server = address.substr(at + 1);
   if (!IsAscii(reader))
-    return Outcome::Failed(fmt::format("\"{}\" holds a letter before the \"@\" that mail servers do not know.", address));
+    return Outcome::Failed(
+        fmt::format("\"{}\" holds a letter before the \"@\" that mail servers do not know.", address));
   if (IsAscii(server)) return address;
   const std::string plain = QUrl::toAce(QString::fromStdString(server)).toStdString();
   if (plain.empty()) return Outcome::Failed(fmt::format("\"{}\" is no e-mail address.", address));
@@ -130,8 +131,8 @@ std::string NewMessageId(const std::string& address) {
 
 std::string_view ContentTypeOf(std::string_view name) {
   constexpr std::pair<std::string_view, std::string_view> kTypes[] = {
-      {".jpg", "image/jpeg"},       {".jpeg", "image/jpeg"},   {".png", "image/png"},  {".gif", "image/gif"},
-      {".avi", "video/x-msvideo"},  {".wmv", "video/x-ms-wmv"}, {".mp4", "video/mp4"},  {".mov", "video/quicktime"},
+      {".jpg", "image/jpeg"},       {".jpeg", "image/jpeg"},     {".png", "image/png"},  {".gif", "image/gif"},
+      {".avi", "video/x-msvideo"},  {".wmv", "video/x-ms-wmv"},  {".mp4", "video/mp4"},  {".mov", "video/quicktime"},
       {".mkv", "video/x-matroska"}, {".pdf", "application/pdf"}, {".html", "text/html"}, {".txt", "text/plain"},
   };
   const std::string folded = FoldCase(name);

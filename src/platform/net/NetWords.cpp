@@ -17,15 +17,11 @@ Outcome ExplainCertificate(const CurlEnd& end, const NetParty& party) {
     case kExpired:
       why = "has run out. Either the server has forgotten to renew it, or the clock of this computer is wrong";
       break;
-    case kNotYetValid:
-      why = "is not valid yet. The clock of this computer may be wrong";
-      break;
+    case kNotYetValid: why = "is not valid yet. The clock of this computer may be wrong"; break;
     case kSelfSigned:
     case kSelfSignedInChain:
     case kNoIssuer:
-    case kNoFirst:
-      why = "is signed by nobody whom this computer trusts";
-      break;
+    case kNoFirst: why = "is signed by nobody whom this computer trusts"; break;
     default: {
       const bool other = end.certificate == kOtherHost || end.certificate == kOtherAddress ||
                          end.error.find("does not match") != std::string::npos ||
@@ -62,14 +58,11 @@ Outcome ExplainEnd(const CurlEnd& end, const NetParty& party) {
     return Outcome::Failed(fmt::format(fmt::runtime(pattern), party.kind, party.host));
   };
   switch (end.how) {
-    case CurlEnd::How::Cancelled:
-      return {Fault::Cancelled, "It was cancelled."};
+    case CurlEnd::How::Cancelled: return {Fault::Cancelled, "It was cancelled."};
     case CurlEnd::How::Unreachable:
       return failed("The {} \"{}\" does not answer. Is this computer connected to the Internet?");
-    case CurlEnd::How::Silent:
-      return Outcome::Failed(ExplainSilence(party));
-    case CurlEnd::How::Answered:
-      break;
+    case CurlEnd::How::Silent: return Outcome::Failed(ExplainSilence(party));
+    case CurlEnd::How::Answered: break;
   }
   if (end.reply == 421)
     return Outcome::Failed(
@@ -77,18 +70,14 @@ Outcome ExplainEnd(const CurlEnd& end, const NetParty& party) {
   switch (end.code) {
     case CURLE_COULDNT_RESOLVE_HOST:
       return failed("There is no {} of the name \"{}\", or this computer is not connected to the Internet.");
-    case CURLE_COULDNT_CONNECT:
-      return failed("The {} \"{}\" takes no calls at this port.");
-    case CURLE_OPERATION_TIMEDOUT:
-      return Outcome::Failed(ExplainSilence(party));
+    case CURLE_COULDNT_CONNECT: return failed("The {} \"{}\" takes no calls at this port.");
+    case CURLE_OPERATION_TIMEDOUT: return Outcome::Failed(ExplainSilence(party));
     case CURLE_LOGIN_DENIED:
       return {Fault::Refused, fmt::format("The {} \"{}\" does not accept the login or the password.{}", party.kind,
                                           party.host, SaidBy(end, party))};
     case CURLE_PEER_FAILED_VERIFICATION:
-    case CURLE_SSL_ISSUER_ERROR:
-      return ExplainCertificate(end, party);
-    case CURLE_SSL_CACERT_BADFILE:
-      return failed("The certificates by which the {} \"{}\" is checked cannot be read.");
+    case CURLE_SSL_ISSUER_ERROR: return ExplainCertificate(end, party);
+    case CURLE_SSL_CACERT_BADFILE: return failed("The certificates by which the {} \"{}\" is checked cannot be read.");
     case CURLE_SSL_CONNECT_ERROR:
       return failed(
           "The {} \"{}\" does not speak the encryption that the settings want at this port. See whether port and "
@@ -107,8 +96,7 @@ Outcome ExplainEnd(const CurlEnd& end, const NetParty& party) {
         return Outcome::Failed(
             fmt::format("The {} \"{}\" has refused it.{}", party.kind, party.host, SaidBy(end, party)));
       return failed("The connection to the {} \"{}\" broke off.");
-    default:
-      break;
+    default: break;
   }
   const std::string own = CleanWords(end.error.empty() ? curl_easy_strerror(end.code) : end.error, party.password);
   return Outcome::Failed(

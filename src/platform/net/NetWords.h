@@ -20,7 +20,8 @@ struct NetParty {
 /// @param end  one that has not gone well
 Outcome ExplainEnd(const CurlEnd& end, const NetParty& party);
 
-/// What the server said, as the end of a sentence: ` The server says: "550 No such file."`; empty where it said nothing.
+/// What the server said, as the end of a sentence: ` The server says: "550 No such file."`; empty where it said
+/// nothing.
 std::string SaidBy(const CurlEnd& end, const NetParty& party);
 
 /// Whether a text can stand for the name of a server where an address is made of it.

@@ -40,7 +40,7 @@ class SocketWatch {
   std::uint64_t Look(int socket);
 
   std::vector<int> open_;
-  std::vector<int> ended_;      ///< shut down, with bytes perhaps still on their way
+  std::vector<int> ended_;    ///< shut down, with bytes perhaps still on their way
   std::uint64_t closed_ = 0;  ///< traffic of those that are gone
   bool reached_ = false;
   std::chrono::steady_clock::time_point attempt_;
