@@ -307,8 +307,10 @@ void CaptureSetup::TakeDevices() {
       const auto free = std::ranges::find_if(devices_.Cameras(), [&](const Device& device) {
         return device.name != shown_[1 - index].name && (camera == 0 || device.name != settings_.Camera[0]);
       });
-      // Cameras that need no looking for would take the places of those that are still being looked for.
-      if (devices_.Known() && !waits && free != devices_.Cameras().end())
+      // Cameras that need no looking for would take the places of those that are still being looked for; and where the
+      // only camera was pulled out, nobody wants to see a drawn one instead.
+      const bool drawn = free != devices_.Cameras().end() && free->origin == Device::Origin::Test;
+      if (devices_.Known() && !waits && free != devices_.Cameras().end() && (!drawn || choice.name.empty()))
         choice = {.name = free->name, .size = {}, .format = {}, .input = {}};
     }
     if (const Device* device = ShownDevice(camera)) FitChoice(choice, *device);

@@ -103,6 +103,24 @@ TEST_F(SetupTest, ASavedCameraThatIsGoneIsMissedAndTakenWhenItIsBack) {
   EXPECT_FALSE(setup->MissingCamera()) << "files need none";
 }
 
+TEST_F(SetupTest, TheDrawnCameraTakesNoPlaceOfARealOne) {
+  settings.VideoInSource = static_cast<int>(SourceKind::Webcam);
+  Device drawn = MakeCamera("Test Camera");
+  drawn.origin = Device::Origin::Test;
+  devices.Plug(drawn);
+  Start();
+  EXPECT_EQ(setup->Shown(0).name, "Test Camera") << "at the first start it shows how the page works";
+  devices.Pull("Test Camera");
+  devices.Plug(MakeCamera("Left"));
+  EXPECT_EQ(setup->Shown(0).name, "Left");
+  devices.Pull("Left");
+  devices.Plug(drawn);
+  EXPECT_EQ(setup->Shown(0).name, "Left") << "it is waited for";
+  EXPECT_FALSE(setup->ShownDevice(0));
+  setup->ChooseSource(0, "Test Camera");
+  EXPECT_EQ(setup->Shown(0).name, "Test Camera");
+}
+
 TEST_F(SetupTest, TheLineOfTheMicrophoneIsKeptByItsIndex) {
   Device card;
   card.name = "Card";

@@ -172,6 +172,10 @@ void LiveDrawSession::RemoveLast() { board_.Tools().DeleteLast(); }
 void LiveDrawSession::RemoveAll() { board_.Tools().DeleteAll(); }
 
 void LiveDrawSession::WriteText(POINTAPI at, const std::string& text, bool anew) {
+  if (!board_.HasPicture()) {
+    unwritten_ = Letters{at, text, anew};
+    return;
+  }
   board_.Tools().WriteText(DrawingBoard::kWindow, at, text, anew);
 }
 
@@ -379,6 +383,8 @@ void LiveDrawSession::CameraChanged() {
   const bool there = camera_.Picture().pixels != nullptr;
   if (!there) SetAdding(false);
   board_.SetPicture(there);
+  if (const auto letters = there ? std::exchange(unwritten_, std::nullopt) : std::nullopt)
+    WriteText(letters->at, letters->text, letters->anew);
   Repaint();
   Changed();
 }

@@ -90,6 +90,7 @@ class LiveDrawSession : private ILiveCameraEvents, private IDrawingBoardEvents {
   void Redo();
   bool CanUndo() const;
   bool CanRedo() const;
+  /// Letters that come while the camera is away are written when it is back.
   void WriteText(POINTAPI at, const std::string& text, bool anew);
   /// The drawing or the zone that is taken.
   void RemoveTaken();
@@ -172,6 +173,12 @@ class LiveDrawSession : private ILiveCameraEvents, private IDrawingBoardEvents {
   // What can be undone, the latest last: the board knows its own past.
   std::vector<std::pair<Step, std::vector<HotZone>>> done_, undone_;
   std::vector<Shape> noted_;  ///< drawings of the last step
+  struct Letters {
+    POINTAPI at;
+    std::string text;
+    bool anew;
+  };
+  std::optional<Letters> unwritten_;
   bool stepping_ = false;
   std::map<int, std::int64_t> fired_;  ///< by zone, when, in the host's milliseconds
   std::vector<int> moving_;

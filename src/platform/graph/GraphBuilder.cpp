@@ -107,10 +107,27 @@ class Builder {
     return Outcome();
   }
 
-  static GstElement* AppendElement(FilterBin& bin, const GraphPlan::Filter& filter) {
+  /// Where pictures are only shown, a new one is worth more than all old ones: what is done to them must not lag behind
+  /// the camera on a slow machine.
+  bool OnlyShown() const {
+    return std::ranges::none_of(order_.plan.filters, [](const GraphPlan::Filter& filter) {
+      return filter.row->role == FilterRole::Writer || filter.row->role == FilterRole::Block ||
+             filter.row->role == FilterRole::FileSource;
+    });
+  }
+
+  GstElement* AppendElement(FilterBin& bin, const GraphPlan::Filter& filter) {
     if (filter.row->entry != FilterEntry::AsTheyCome) {
-      bin.Append("queue");
+      GstElement* const queue = bin.Append("queue");
       bin.AppendPlugged(gst_element_factory_make("identity", nullptr), ChooseEntry(filter.row->entry));
+      if (queue && OnlyShown()) {
+        // Packed pictures may need each other: none is left out before it is unpacked.
+        constexpr guint kPacked = 4;
+        g_object_set(queue, "max-size-buffers", kPacked, nullptr);
+        if (GstElement* const newest = bin.Append("queue"))
+          g_object_set(newest, "leaky", 2 /* the oldest goes */, "max-size-buffers", 1U, "max-size-bytes", 0U,
+                       "max-size-time", G_GUINT64_CONSTANT(0), nullptr);
+      }
     }
     const auto word = [&](std::size_t at) { return at < filter.state.size() ? filter.state[at] : 0; };
     return bin.AppendDescribed(fmt::format(fmt::runtime(filter.row->bin), word(0), word(1)));

@@ -331,11 +331,14 @@ TEST_F(LiveDraw, ACameraThatIsPulledOutComesBackByItself) {
   EXPECT_FALSE(session->CanFreeze());
   host.Advance(5000);
   EXPECT_FALSE(graph->running);
+  session->WriteText({300, 200}, "typed meanwhile", false);
+  EXPECT_EQ(Drawings().size(), 1U);
   devices.Plug(MakeCamera("Webcam"));
   EXPECT_TRUE(graph->running);
   graph->Show();
   EXPECT_FALSE(session->Compose().Empty());
-  EXPECT_EQ(Drawings().size(), 1U);
+  ASSERT_EQ(Drawings().size(), 2U);
+  EXPECT_EQ(Drawings().back().Text, "typed meanwhile");
 }
 
 TEST_F(LiveDraw, AFrozenCameraThatIsPulledOutIsLiveAgainWhenItIsBack) {

@@ -65,7 +65,7 @@ class MirrorForm::Toast : public QWidget {
     if (const double width = PlateSize(words_, pixels_).width(); width > room.width() - 40)
       pixels_ = std::max(1, static_cast<int>(pixels_ * (room.width() - 40) / width));
     const QSize size = PlateSize(words_, pixels_).toSize() + QSize(2, 2);
-    setGeometry(QRect(QPoint((room.width() - size.width()) / 2, room.height() / 2 - size.height() / 2), size));
+    setGeometry(QRect(QPoint((room.width() - size.width()) / 2, room.height() * 7 / 10 - size.height() / 2), size));
   }
 
  protected:
