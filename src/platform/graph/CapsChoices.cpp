@@ -36,7 +36,7 @@ struct Coming {
 };
 
 std::string ToJpeg(const Coming& coming) {
-  const std::string decoded = coming.Raw() ? "" : "decodebin ! ";
+  const std::string decoded = coming.Raw() ? "" : "decodebin name=decoder ! ";
   // Colours of half the height would mix those of the two fields. The samples of a JPEG take the whole range, which the
   // encoder does not see to.
   return decoded + fmt::format("videoconvert ! video/x-raw,format={},colorimetry=1:4:0:0 ! {}",
@@ -50,7 +50,8 @@ class EntryChooser final : public ICapsChooser {
   std::string BinFor(const GstCaps* caps) override {
     const Coming coming(caps);
     if (entry_ == FilterEntry::AsTheyCome) return "identity";
-    if (entry_ == FilterEntry::Raw) return coming.Raw() ? "identity" : "decodebin ! identity";
+    if (entry_ == FilterEntry::Raw)
+      return coming.Raw() ? "identity" : coming.Jpeg() ? "jpegdec" : "decodebin name=decoder ! identity";
     return coming.Jpeg() ? "identity" : ToJpeg(coming);
   }
 
@@ -78,7 +79,7 @@ class PreviewChooser final : public ICapsChooser {
         fmt::format("videoconvert ! capsfilter caps=\"video/x-raw,format={}\"", PreviewPainter::kFormats);
     if (coming.Raw()) return planes;
     // In full size, whatever the window's: decoding a smaller picture takes as long.
-    return (coming.Jpeg() ? "jpegdec ! " : "decodebin ! ") + planes;
+    return (coming.Jpeg() ? "jpegdec ! " : "decodebin name=decoder ! ") + planes;
   }
 };
 

@@ -9,10 +9,27 @@
 namespace kinalyx {
 namespace {
 
+constexpr const char* kDecoder = "decoder";
+
 /// All that a bin can be plugged in for; first what is changed least on its way to a file.
 constexpr const char* kTaken =
     "video/x-raw,format={YUY2,BGR,I420,NV12,UYVY,BGRx,RGB}; video/x-raw,format=" GST_VIDEO_FORMATS_ALL
     "; image/jpeg; video/x-dv; video/x-h264; video/x-h265; video/x-vp8; video/x-vp9; video/mpeg; video/x-msmpeg";
+
+/// A bin with the ends "sink" and "src"; null when a part of it is missing. The library's own way to give a bin its
+/// ends takes the nearest free input, which behind a "decodebin" is not the first one: what is decoded is linked later.
+GstElement* MakeInner(const std::string& description, GError*& error) {
+  GstElement* const made = gst_parse_bin_from_description(description.c_str(), false, &error);
+  if (!made) return nullptr;
+  GstBin* const bin = GST_BIN(made);
+  const GstRef<GstElement> decoder(gst_bin_get_by_name(bin, kDecoder));
+  const GstRef<GstPad> in(decoder ? gst_element_get_static_pad(decoder.get(), "sink")
+                                  : gst_bin_find_unlinked_pad(bin, GST_PAD_SINK));
+  const GstRef<GstPad> out(gst_bin_find_unlinked_pad(bin, GST_PAD_SRC));
+  if (in) gst_element_add_pad(made, gst_ghost_pad_new("sink", in.get()));
+  if (out) gst_element_add_pad(made, gst_ghost_pad_new("src", out.get()));
+  return made;
+}
 
 /// Lives with the probe on the first element's output, and works in its streaming thread.
 class Plug {
@@ -34,7 +51,7 @@ class Plug {
     if (wanted == description_) return;
     Unplug(from);
     GError* error = nullptr;
-    GstElement* made = gst_parse_bin_from_description(wanted.c_str(), true, &error);
+    GstElement* made = MakeInner(wanted, error);
     if (!made) {
       GST_ELEMENT_ERROR(GST_ELEMENT(bin_), CORE, MISSING_PLUGIN, ("%s", error ? error->message : ""), (nullptr));
       g_clear_error(&error);
@@ -47,7 +64,9 @@ class Plug {
     gst_element_link(inner_, to_);
     gst_element_sync_state_with_parent(inner_);
     const GstRef<GstPad> in(gst_element_get_static_pad(inner_, "sink"));
-    gst_pad_link(from, in.get());
+    if (gst_pad_link(from, in.get()) != GST_PAD_LINK_OK)
+      GST_ELEMENT_ERROR(GST_ELEMENT(bin_), CORE, NEGOTIATION, ("The pictures cannot be taken as they come."),
+                        (nullptr));
   }
 
   void Unplug(GstPad* from) {

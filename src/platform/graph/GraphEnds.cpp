@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/graph/CapsChoices.h"
+#include "platform/graph/GstHandles.h"
 #include "platform/graph/PictureBytes.h"
 #include "platform/graph/PreviewPainter.h"
 #include "platform/graph/ScreenPainter.h"
@@ -29,7 +30,8 @@ struct Taking {
     const auto& taking = *static_cast<Taking*>(self);
     const GstSampleRef sample(gst_app_sink_pull_sample(sink));
     if (!sample) return GST_FLOW_EOS;
-    const GstClockTime at = GST_BUFFER_PTS(gst_sample_get_buffer(sample.get()));
+    const GstClockTime at =
+        RunningTime(gst_sample_get_segment(sample.get()), GST_BUFFER_PTS(gst_sample_get_buffer(sample.get())));
     if (GST_CLOCK_TIME_IS_VALID(at)) taking.taker->Take(sample.get(), taking.beginNs + static_cast<std::int64_t>(at));
     return GST_FLOW_OK;
   }

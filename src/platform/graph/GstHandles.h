@@ -29,4 +29,8 @@ using GstSampleRef = std::unique_ptr<GstSample, GstMiniUnref>;
 /// user-interface thread. False when it cannot be.
 bool GstBegun();
 
+/// Nanoseconds since the graph began, of a stamp in that segment, which may be null. The stamp alone does not tell:
+/// some encoders count from a thousand hours on.
+GstClockTime RunningTime(const GstSegment* segment, GstClockTime stamp);
+
 }  // namespace kinalyx

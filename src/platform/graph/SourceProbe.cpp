@@ -3,6 +3,8 @@
 #include <cstdlib>
 #include <utility>
 
+#include "platform/graph/GstHandles.h"
+
 namespace kinalyx {
 namespace {
 
@@ -40,8 +42,12 @@ struct Gating {
   std::shared_ptr<GateFace> gate;
   std::int64_t beginNs;
 
-  GstPadProbeReturn See(GstPad*, GstPadProbeInfo* info) const {
-    const GstClockTime at = GST_BUFFER_PTS(GST_PAD_PROBE_INFO_BUFFER(info));
+  GstPadProbeReturn See(GstPad* pad, GstPadProbeInfo* info) const {
+    const GstSegment* segment = nullptr;
+    GstEvent* const event = gst_pad_get_sticky_event(pad, GST_EVENT_SEGMENT, 0);
+    if (event) gst_event_parse_segment(event, &segment);
+    const GstClockTime at = RunningTime(segment, GST_BUFFER_PTS(GST_PAD_PROBE_INFO_BUFFER(info)));
+    if (event) gst_event_unref(event);
     const bool passes = GST_CLOCK_TIME_IS_VALID(at) && gate->LetsThrough(beginNs + static_cast<std::int64_t>(at));
     return passes ? GST_PAD_PROBE_OK : GST_PAD_PROBE_DROP;
   }

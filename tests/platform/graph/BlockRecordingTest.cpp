@@ -147,11 +147,11 @@ std::pair<int, int> NumbersIn(const std::string& path) {
 
 class TriggeredGraphs : public LiveGraphs {
  protected:
-  void Run(std::string_view graphText, bool two) {
+  void Run(std::string_view graphText, bool two, const std::string& camera = "Test Camera") {
     ASSERT_TRUE(graph.GraphXmlLoad(graphText));
     for (const char* source : {"VideoSource", "VideoSource 2"}) {
       if (!two && source == std::string("VideoSource 2")) continue;
-      ASSERT_TRUE(graph.GraphSetDevice(source, "Test Camera"));
+      ASSERT_TRUE(graph.GraphSetDevice(source, camera));
       ASSERT_TRUE(graph.GraphSetVideoFormat(source, 640, 480, "MJPG"));
     }
     ASSERT_TRUE(graph.GraphSetFileSink("FileWriter", folder.Path("temp1.avi")));
@@ -209,6 +209,24 @@ TEST_F(TriggeredGraphs, ABlockHoldsThePicturesAroundItsTriggerAndTheNextTriggerC
   }
   EXPECT_TRUE(graph.GraphStop());
   EXPECT_FALSE(button.Fire(0)) << "nothing runs";
+}
+
+TEST_F(TriggeredGraphs, WhateverComesAndIsMadeOfItIsCutAtTheInstant) {
+  cameras->played["telephone"] =
+      "videotestsrc is-live=true ! video/x-raw,format=I420,width=640,height=480,framerate=30/1 ! openh264enc ! "
+      "h264parse";
+  // The encoder of DV counts its time from a thousand hours on.
+  for (const auto& [text, camera] :
+       {std::pair{MVOneCamClickDV, "Test Camera"}, {MVOneCamClickDV, "telephone"}, {MVOneCamClickAN, "telephone"}}) {
+    SCOPED_TRACE(camera);
+    Run(text, false, camera);
+    EXPECT_TRUE(Of<ISwitchFilter>("MV Switch").Fire(0));
+    const auto written = Written("MV Block Recording", 1);
+    ASSERT_EQ(written.size(), 1U);
+    EXPECT_NEAR(written[0].tally.pictures, 24, 2) << "of 0.8 s";
+    EXPECT_NEAR(static_cast<double>(written[0].tally.firstNs - written[0].triggerNs) / 1e9, -0.5, 0.07);
+    EXPECT_TRUE(graph.GraphStop());
+  }
 }
 
 TEST_F(TriggeredGraphs, TwoCamerasAreCutByOneInstantAndWhatIsUnderWayIsKeptWhenTheyStop) {
