@@ -38,6 +38,7 @@ namespace kinalyx {
 
 namespace {
 
+constexpr const char* kSetupCaption = "Capture Setup";
 constexpr int kSideWidth = 256;  // as designed
 constexpr int kStride = 10;      // pictures that a larger step goes
 enum StagePage { kLivePage, kReviewPage };
@@ -203,10 +204,11 @@ QWidget* CapturePage::MakeCameras() {
   CamChoiceBtn_ = MakeChoice(*choices, "CamChoiceBtn", {"Camera 1", "Camera 2"}, this);
   first->addWidget(choice_);
   first->addStretch(1);
-  auto* setup = new Button("CapSetupBtn", "Capture Setup", "setup", Look::Quiet);
-  setup->setToolTip("Kinds of cameras, naming, default cameras, cameras on the network");
-  connect(setup, &QPushButton::clicked, this, [this] { parts_.ways.GoToCaptureSetup(); });
-  first->addWidget(setup);
+  CapSetupBtn_ = new Button("CapSetupBtn", kSetupCaption, "setup", Look::Quiet);
+  CapSetupBtn_->setToolTip("Capture setup: kinds of cameras, naming, default cameras, cameras on the network");
+  CapSetupBtn_->setAccessibleName(kSetupCaption);
+  connect(CapSetupBtn_, &QPushButton::clicked, this, [this] { parts_.ways.GoToCaptureSetup(); });
+  first->addWidget(CapSetupBtn_);
   rows->addLayout(first);
   for (int camera = 0; camera < 2; ++camera) {
     lines_[camera] = new CameraLine(parts_.setup, camera);
@@ -294,7 +296,7 @@ QWidget* CapturePage::MakeActions() {
   return ground;
 }
 
-/// In a narrow window the buttons of the review take two rows.
+/// In a narrow window the buttons of the review take two rows, and the way to the setup is a picture alone.
 void CapturePage::resizeEvent(QResizeEvent* event) {
   PageWidget::resizeEvent(event);
   int wanted = 0;
@@ -302,6 +304,11 @@ void CapturePage::resizeEvent(QResizeEvent* event) {
     wanted += button->sizeHint().width() + 8;
   const int room = width() - Px(kSideWidth) - 4 * kGap;
   buttons_->setDirection(room >= wanted ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+  CapSetupBtn_->setText(kSetupCaption);
+  int choices = kind_->minimumSizeHint().width() + CapSetupBtn_->sizeHint().width();
+  for (const QButtonGroup* group : {OneCamTwoOpt_, CamChoiceBtn_})
+    for (const QAbstractButton* button : group->buttons()) choices += button->sizeHint().width() + 8;
+  if (room < choices) CapSetupBtn_->setText(QString());
 }
 
 void CapturePage::ConnectParts() {

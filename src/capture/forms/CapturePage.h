@@ -125,6 +125,7 @@ class CapturePage : public PageWidget, private ICapturePage, private IMeterEvent
   NamingPanel* names_;
   OfferBar* back_;
   QComboBox* kind_;
+  Button* CapSetupBtn_ = nullptr;
   QButtonGroup* OneCamTwoOpt_;
   QButtonGroup* CamChoiceBtn_;
   QWidget* choice_;
