@@ -185,6 +185,9 @@ class Bad(threading.Thread):
     busy        hangs up at once
     mailcut     hangs up in the middle of a message
     mailhang    is silent when the message has come
+    quithang    takes the message, and is silent when it is told goodbye
+    slow        calls back and reads an upload in small bites, for longer than a second
+    nobodyin    takes no login before encryption, and has none
     """
 
     def __init__(self, connection):
@@ -192,6 +195,7 @@ class Bad(threading.Thread):
         self.connection = connection
         self.lines = connection.makefile("rb")
         self.data = None
+        self.active = 0
 
     def say(self, text):
         self.connection.sendall(text.encode() + b"\r\n")
@@ -253,14 +257,31 @@ class Bad(threading.Thread):
         self.say("250 gone")
 
     def do_QUIT(self, rest):
+        if arguments.place == "quithang":
+            self.lines.read()
         self.say("221 bye")
         return False
+
+    def do_EPRT(self, rest):
+        self.active = int(rest.split("|")[3])
+        self.say("200 fine")
+
+    def do_RNFR(self, rest):
+        self.say("350 and then")
+
+    def do_RNTO(self, rest):
+        self.say("250 renamed")
 
     def do_EPSV(self, rest):
         self.say("229 here (|||%d|)" % self.listener())
 
     def transfer(self):
         self.say("150 comes")
+        if self.active:
+            data = socket.socket()
+            data.setsockopt(socket.SOL_SOCKET, socket.SO_RCVBUF, 4096)
+            data.connect(("127.0.0.1", self.active))
+            return data
         return self.passive.accept()[0]
 
     def do_RETR(self, rest):
@@ -289,8 +310,11 @@ class Bad(threading.Thread):
         if arguments.place == "cut":
             data.close()
             return False
-        while data.recv(65536):
-            pass
+        bites = 15 if arguments.place == "slow" else 0
+        while data.recv(20000 if bites > 0 else 65536):
+            if bites > 0:
+                bites -= 1
+                time.sleep(0.1)
         data.close()
         self.say("226 done")
 
@@ -318,7 +342,7 @@ class Bad(threading.Thread):
         self.say("250 fine")
 
     def do_MAIL(self, rest):
-        self.say("250 fine")
+        self.say("530 Must issue a STARTTLS command first" if arguments.place == "nobodyin" else "250 fine")
 
     def do_RCPT(self, rest):
         self.say("250 fine")
@@ -330,6 +354,9 @@ class Bad(threading.Thread):
             return False
         while self.lines.readline() not in (b".\r\n", b""):
             pass
+        if arguments.place == "quithang":
+            self.say("250 taken")
+            return None
         self.lines.read()
         return False
 

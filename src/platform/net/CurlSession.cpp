@@ -21,6 +21,8 @@ constexpr long kLibraryLimitMs = 3'600'000;
 constexpr long kUploadBuffer = 512 * 1024;
 constexpr std::size_t kMostWords = 300;
 constexpr std::size_t kShortPassword = 4;
+/// What was sent has been taken: nobody waits for long to hear the goodbye returned.
+constexpr auto kGoodbye = 5s;
 /// A mail server looks a message through before it takes it; who gives up too early sends it twice.
 constexpr int kPatienceWithMail = 4;
 
@@ -83,6 +85,8 @@ CURL* CurlSession::Begin(const char* protocols, NetSecurity security, const std:
 CurlEnd CurlSession::Perform(ITransferWatch& watch, std::int64_t total) {
   watch_ = &watch;
   end_ = {};
+  end_.code = CURLE_FAILED_INIT;  // until the library says that it is done
+  counted_ = 0;
   goodbye_ = false;
   goesOn_ = false;
   leaving_ = false;
@@ -101,7 +105,10 @@ CurlEnd CurlSession::Perform(ITransferWatch& watch, std::int64_t total) {
   }
   int left = 0;
   while (const CURLMsg* message = curl_multi_info_read(multi_.get(), &left)) {
-    if (message->msg == CURLMSG_DONE) end_.code = message->data.result;
+    if (message->msg != CURLMSG_DONE) continue;
+    end_.code = message->data.result;
+    // Whatever was given up then was only the goodbye.
+    if (end_.code == CURLE_OK) end_.how = CurlEnd::How::Answered;
   }
   if (givenUp && running) sockets_.StopListening();
   if (!givenUp && end_.bytes > 0) Report(Clock::now());
@@ -154,17 +161,20 @@ void CurlSession::Look(Clock::time_point now) {
     if (now - cancelledAt_ >= std::chrono::milliseconds(graceMs_)) end_.how = CurlEnd::How::Cancelled;
     return;
   }
+  // The bytes count too: in the active mode the library keeps the socket of the data to itself.
   const std::uint64_t traffic = sockets_.Traffic();
-  if (traffic != traffic_ || away) moved_ = now;
+  if (traffic != traffic_ || end_.bytes != counted_ || away) moved_ = now;
   traffic_ = traffic;
+  counted_ = end_.bytes;
   if (!sockets_.Reached()) {
     if (now - std::max({begun_, moved_, sockets_.LastAttempt()}) > std::chrono::milliseconds(limits_.connectMs))
       end_.how = CurlEnd::How::Unreachable;
     return;
   }
   const bool mailIsOver = end_.command == "DATA" && end_.reply == 354;
-  if (now - moved_ > std::chrono::milliseconds(limits_.silenceMs) * (mailIsOver ? kPatienceWithMail : 1))
-    end_.how = CurlEnd::How::Silent;
+  auto patience = std::chrono::milliseconds(limits_.silenceMs) * (mailIsOver ? kPatienceWithMail : 1);
+  if (leaving_) patience = std::min<std::chrono::milliseconds>(patience, kGoodbye);
+  if (now - moved_ > patience) end_.how = CurlEnd::How::Silent;
 }
 
 int CurlSession::OnTalk(CURL*, curl_infotype kind, char* bytes, std::size_t size, void* self) {

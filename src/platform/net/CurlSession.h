@@ -108,6 +108,7 @@ class CurlSession {
   int graceMs_ = 0;
   std::int64_t total_ = 0;
   std::uint64_t traffic_ = 0;
+  std::int64_t counted_ = 0;  ///< of end_.bytes, when it was looked at last
   Clock::time_point begun_, looked_, moved_, cancelledAt_;
   bool cancelled_ = false;
 };

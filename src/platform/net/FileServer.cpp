@@ -28,6 +28,8 @@ constexpr int kGraceMs = 400;
 constexpr int kClearUpMs = 450;
 constexpr int kClearUpAfterFailureMs = 5'000;
 
+constexpr auto kIdle = std::chrono::seconds(20);
+
 using Parts = std::vector<std::string>;
 
 /// For what is done when nobody waits for it any more.
@@ -77,7 +79,9 @@ class FileServer final : public IFileServer {
         if (unknown && !last) continue;
         return Explained(end);
       }
-      Listing listing = ReadListing(form, sink.Text());
+      std::string text = sink.Text();
+      if (sink.TooLarge()) text.resize(text.rfind('\n') + 1);  // the last line is not whole; npos + 1 is nothing
+      Listing listing = ReadListing(form, text);
       if (!listing.understood && !last) continue;
       form_ = form;
       for (ServerEntry& entry : listing.entries) TakeRawName(entry);
@@ -123,7 +127,7 @@ class FileServer final : public IFileServer {
     session_->GiveGrace(kGraceMs);
     const CurlEnd end = Run(watch, file.Size());
     if (end && file.Whole()) {
-      const Outcome renamed = TakePlace(*parts, part, name, watch);
+      const Outcome renamed = TakePlace(*parts, part, name);
       if (!renamed) ClearUp(*parts, part, renamed.Kind() == Fault::Cancelled);
       return renamed;
     }
@@ -226,6 +230,7 @@ class FileServer final : public IFileServer {
   }
 
   CURL* Begin(const Parts& parts, bool folder) {
+    LeaveIdleSession();
     const bool fresh = !session_;
     if (fresh) session_ = std::make_unique<CurlSession>(limits_);
     CURL* handle = session_->Begin(IsSftp() ? "sftp" : "ftp,ftps", login_.address.security, login_.caFile);
@@ -249,6 +254,13 @@ class FileServer final : public IFileServer {
       curl_easy_setopt(handle, CURLOPT_QUOTE, opening_.Get());
     }
     return handle;
+  }
+
+  /// A server that nobody has spoken to for a while has hung up, and the library would call again without our question.
+  void LeaveIdleSession() {
+    const auto now = std::chrono::steady_clock::now();
+    if (now - used_ > kIdle) session_.reset();
+    used_ = now;
   }
 
   std::string Url(CURL* handle, const Parts& parts, bool folder) const {
@@ -281,6 +293,7 @@ class FileServer final : public IFileServer {
 
   CurlEnd Run(ITransferWatch& watch, std::int64_t total = 0) {
     CurlEnd end = session_->Perform(watch, total);
+    used_ = std::chrono::steady_clock::now();
     // A plain "no" leaves the connection as it was.
     const bool stays = end || (end.how == CurlEnd::How::Answered &&
                                (end.code == CURLE_REMOTE_FILE_NOT_FOUND || end.code == CURLE_REMOTE_ACCESS_DENIED ||
@@ -345,21 +358,27 @@ class FileServer final : public IFileServer {
   }
 
   /// The part takes the place of the old file. A server that does not rename over a file has the old one step aside,
-  /// and take its place again should that fail.
-  Outcome TakePlace(const Parts& folder, const std::string& part, const std::string& name, ITransferWatch& watch) {
-    const CurlEnd direct = Rename(folder, {part, name}, watch);
+  /// and take its place again should that fail. All bytes are there: nobody cancels in between.
+  Outcome TakePlace(const Parts& folder, const std::string& part, const std::string& name) {
+    ITransferWatch patient;
+    const CurlEnd direct = Rename(folder, {part, name}, patient);
     if (direct) return {};
     if (direct.how != CurlEnd::How::Answered || direct.code != CURLE_QUOTE_ERROR) return Explained(direct);
     const std::string aside = PartNameOnServer(name);
-    if (!Rename(folder, {name, aside}, watch)) return Explained(direct);
-    const CurlEnd second = Rename(folder, {part, name}, watch);
+    const CurlEnd first = Rename(folder, {name, aside}, patient);
+    const bool refused = first.how == CurlEnd::How::Answered && first.code == CURLE_QUOTE_ERROR;
+    if (!first && refused) return Explained(direct);
+    const CurlEnd second = first ? Rename(folder, {part, name}, patient) : first;
     BriefWatch brief(kClearUpAfterFailureMs);
-    if (!second) {
-      (void)Rename(folder, {aside, name}, brief);
-      return Explained(second);
+    if (second) {
+      (void)Remove(folder, aside, brief);
+      return {};
     }
-    (void)Remove(folder, aside, brief);
-    return {};
+    // Where the line broke nobody knows what the server has done of it.
+    const CurlEnd back = Rename(folder, {aside, name}, brief);
+    const Outcome why = Explained(second);
+    if (back || (!first && back.code == CURLE_QUOTE_ERROR)) return why;
+    return {why.Kind(), fmt::format("{} The old file may lie there under the name \"{}\".", why.Why(), aside)};
   }
 
   void ClearUp(const Parts& folder, const std::string& part, bool cancelled) {
@@ -380,8 +399,8 @@ class FileServer final : public IFileServer {
           Fault::Refused,
           fmt::format("The server \"{}\" shows another key than the one that this computer remembers. Either it was "
                       "set up anew, or somebody else is in between: nothing was sent, and no password. If your "
-                      "provider confirms the new key, remove the old one's line from the file \"known_hosts\".",
-                      party.host)};
+                      "provider confirms the new key, remove the old one's line from the file \"{}\".",
+                      party.host, hosts_.File())};
     if (end.reply == 552 || end.reply == 452 || end.code == CURLE_REMOTE_DISK_FULL)
       return Outcome::Failed("The server is full." + said);
     switch (end.code) {
@@ -411,8 +430,9 @@ class FileServer final : public IFileServer {
   IDisk& disk_;
   KnownHosts hosts_;
   CurlList opening_;
-  std::unique_ptr<CurlSession> session_;  // null until the first request, and after one that failed
-  std::optional<Parts> base_;             // what all paths begin with, once it is known
+  std::chrono::steady_clock::time_point used_;  // when the session was last at work
+  std::unique_ptr<CurlSession> session_;        // null until the first request, and after one that failed
+  std::optional<Parts> base_;                   // what all paths begin with, once it is known
   bool fromRoot_ = false;
   ListingForm form_;  // that the server is known to speak, or that is tried first
   std::map<std::string, std::string> rawNames_;

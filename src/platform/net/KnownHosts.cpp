@@ -3,9 +3,11 @@
 #include <fmt/format.h>
 
 #include <QByteArray>
+#include <QString>
+#include <QUrl>
 #include <cstdlib>
 #include <cstring>
-#include <filesystem>
+#include <fstream>
 #include <utility>
 
 #include <fcntl.h>
@@ -26,6 +28,11 @@ std::string HomeFolder() {
   return user && user->pw_dir ? user->pw_dir : "";
 }
 
+std::string DataFolder() {
+  const char* data = std::getenv("XDG_DATA_HOME");
+  return data && *data == '/' ? data : JoinPath(HomeFolder(), ".local/share");
+}
+
 /// The kind of a key, with which its bytes begin.
 std::string KindOf(const QByteArray& key) {
   constexpr int kLength = 4, kLongest = 64;
@@ -40,8 +47,11 @@ std::string KindOf(const QByteArray& key) {
 
 KnownHosts::KnownHosts(std::string file, std::string host, int port)
     : file_(std::move(file)), host_(std::move(host)), port_(port == 0 ? kUsualPort : port) {
-  if (file_.empty()) file_ = JoinPath(HomeFolder(), ".ssh/known_hosts");
+  if (file_.empty()) file_ = JoinPath(DataFolder(), "kinalyx/known_hosts");
   if (host_.starts_with('[') && host_.ends_with(']')) host_ = host_.substr(1, host_.size() - 2);
+  // As the library looks it up.
+  if (const QByteArray plain = QUrl::toAce(QString::fromStdString(host_)); !plain.isEmpty())
+    host_ = plain.toStdString();
 }
 
 void KnownHosts::Attach(CURL* handle) {
@@ -53,7 +63,8 @@ void KnownHosts::Attach(CURL* handle) {
 int KnownHosts::OnKey(CURL*, const curl_khkey*, const curl_khkey* found, curl_khmatch match, void* self) {
   auto& hosts = *static_cast<KnownHosts*>(self);
   if (match == CURLKHMATCH_OK) return CURLKHSTAT_FINE;
-  if (match == CURLKHMATCH_MISMATCH || !found) {
+  // A key of another kind than the one that is remembered is another key.
+  if (match == CURLKHMATCH_MISMATCH || !found || hosts.Knows()) {
     hosts.changed_ = true;
     return CURLKHSTAT_REJECT;
   }
@@ -61,15 +72,24 @@ int KnownHosts::OnKey(CURL*, const curl_khkey*, const curl_khkey* found, curl_kh
   return CURLKHSTAT_FINE;
 }
 
+std::string KnownHosts::Name() const { return port_ == kUsualPort ? host_ : fmt::format("[{}]:{}", host_, port_); }
+
+bool KnownHosts::Knows() const {
+  std::ifstream file(file_);
+  const std::string begin = Name() + ' ';
+  for (std::string line; std::getline(file, line);)
+    if (line.starts_with(begin)) return true;
+  return false;
+}
+
 void KnownHosts::Remember(const curl_khkey& key) const {
   const QByteArray bytes =
       key.len > 0 ? QByteArray(key.key, static_cast<qsizetype>(key.len)) : QByteArray::fromBase64(QByteArray(key.key));
   const std::string kind = KindOf(bytes);
   if (kind.empty()) return;
-  const std::string name = port_ == kUsualPort ? host_ : fmt::format("[{}]:{}", host_, port_);
   // One line is added. The library would write the whole file anew, without the user's remarks and without what it
   // does not understand.
-  std::string line = fmt::format("{} {} {}\n", name, kind, bytes.toBase64().toStdString());
+  std::string line = fmt::format("{} {} {}\n", Name(), kind, bytes.toBase64().toStdString());
   const std::string folder = FolderOf(file_);
   if (!dirExists(folder) && MakeFolder(folder)) ::chmod(folder.c_str(), S_IRWXU);
   const int file = ::open(file_.c_str(), O_RDWR | O_APPEND | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);

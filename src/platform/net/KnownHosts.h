@@ -9,7 +9,8 @@ namespace kinalyx {
 /// Keys of SFTP servers. Who is met for the first time is believed and remembered; who later shows another key is not.
 class KnownHosts {
  public:
-  /// @param file  empty: that of the user's ssh
+  /// @param file  empty: "kinalyx/known_hosts" among the user's data. That of the user's ssh is not read: names may be
+  ///              scrambled there, and then the library settles for keys of the wrong kind, or notices no change.
   KnownHosts(std::string file, std::string host, int port);
 
   /// Has a handle ask here.
@@ -21,6 +22,8 @@ class KnownHosts {
  private:
   static int OnKey(CURL*, const curl_khkey* known, const curl_khkey* found, curl_khmatch match, void* self);
   void Remember(const curl_khkey& key) const;
+  bool Knows() const;
+  std::string Name() const;
 
   std::string file_, host_;
   int port_;

@@ -114,10 +114,16 @@ bool Holds(std::string_view text, std::initializer_list<std::string_view> words)
 /// Providers that take no plain password from a program, by their names or by what they say.
 bool WantsAppPassword(const std::string& host, const std::string& words) {
   return Holds(host, {"gmail.", "googlemail.", "google.", "yahoo.", "ymail.", "aol.", "icloud.", "mail.me.com",
-                      "outlook.", "office365.", "hotmail.", "live.com", "zoho.", "fastmail.", "yandex."}) ||
+                      "office365.", "zoho.", "fastmail.", "yandex."}) ||
          Holds(words, {"application-specific", "app password", "app-password", "5.7.9"});
 }
 
+/// Providers that let no program log in with any password.
+bool TakesNoPassword(const std::string& host) { return Holds(host, {"outlook.", "hotmail.", "live.com"}); }
+
+constexpr const char* kNoPassword =
+    " Microsoft lets no other program send from this mailbox with a password any more. Use a mailbox of another "
+    "provider, or that of your club.";
 constexpr const char* kAppPassword =
     " Providers such as this one want an \"app password\": a long one that you have made for this program alone on the "
     "page of your account, under security. The password with which you log in yourself does not work here.";
@@ -233,7 +239,10 @@ class MailSender final : public IMailSender {
     const std::string said = SaidBy(end, party);
     if (end.how == CurlEnd::How::Answered && end.code == CURLE_LOGIN_DENIED) {
       const Outcome plain = ExplainEnd(end, party);
-      return {Fault::Refused, plain.Why() + (WantsAppPassword(server.host, end.words) ? kAppPassword : "")};
+      const char* advice = TakesNoPassword(server.host)               ? kNoPassword
+                           : WantsAppPassword(server.host, end.words) ? kAppPassword
+                                                                      : "";
+      return {Fault::Refused, plain.Why() + advice};
     }
     const bool refused = end.how == CurlEnd::How::Answered && end.reply >= 400 && end.reply != 421;
     if (!refused) return ExplainEnd(end, party);
@@ -241,8 +250,12 @@ class MailSender final : public IMailSender {
     if (end.command.starts_with("RCPT"))
       return {Fault::Refused, fmt::format("The mail server refuses the address {}, so nothing was sent to anybody.{}",
                                           CleanWords(end.command.substr(end.command.find(':') + 1), {}), said)};
-    if (end.command == "MAIL" && (end.reply == 530 || end.reply == 535))
-      return {Fault::Refused, "The mail server wants a login." + said};
+    if (end.command == "MAIL" && (end.reply == 530 || end.reply == 535)) {
+      const bool hidden = server.loginRequired && server.security == NetSecurity::None;
+      return {Fault::Refused, (hidden ? "The mail server takes a login only with encryption. Choose TLS or SSL."
+                                      : "The mail server wants a login.") +
+                                  said};
+    }
     if (end.command == "MAIL") return {Fault::Refused, "The mail server does not let this sender send." + said};
     if (end.command == "DATA") return Outcome::Failed("The mail server did not take the message." + said);
     return ExplainEnd(end, party);

@@ -8,7 +8,7 @@ namespace kinalyx {
 struct NetLimits {
   int connectMs = 15'000;       ///< until it has answered the knock
   int silenceMs = 30'000;       ///< without one byte in either direction
-  std::string knownHosts = {};  ///< keys of SFTP servers; empty: those that the user's ssh knows
+  std::string knownHosts = {};  ///< file with the keys of SFTP servers; empty: the program's own
 };
 
 }  // namespace kinalyx

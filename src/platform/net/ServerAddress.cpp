@@ -6,6 +6,8 @@
 #include <charconv>
 #include <utility>
 
+#include "platform/files/TextEncoding.h"
+
 namespace kinalyx {
 namespace {
 
@@ -28,7 +30,7 @@ ServerAddress TakeScheme(std::string_view& text) {
   };
   ServerAddress address;
   for (const Scheme& scheme : kSchemes) {
-    if (!text.starts_with(scheme.name)) continue;
+    if (!FoldCase(text.substr(0, scheme.name.size())).starts_with(scheme.name)) continue;
     text.remove_prefix(scheme.name.size());
     address.kind = scheme.kind;
     address.security = scheme.security;

@@ -17,6 +17,8 @@ void SocketWatch::Attach(CURL* handle) {
   curl_easy_setopt(handle, CURLOPT_OPENSOCKETDATA, this);
   curl_easy_setopt(handle, CURLOPT_CLOSESOCKETFUNCTION, &SocketWatch::Close);
   curl_easy_setopt(handle, CURLOPT_CLOSESOCKETDATA, this);
+  curl_easy_setopt(handle, CURLOPT_SOCKOPTFUNCTION, &SocketWatch::Prepare);
+  curl_easy_setopt(handle, CURLOPT_SOCKOPTDATA, this);
 }
 
 curl_socket_t SocketWatch::Open(void* self, curlsocktype, curl_sockaddr* address) {
@@ -26,6 +28,16 @@ curl_socket_t SocketWatch::Open(void* self, curlsocktype, curl_sockaddr* address
   watch.open_.push_back(socket);
   watch.attempt_ = std::chrono::steady_clock::now();
   return socket;
+}
+
+int SocketWatch::Prepare(void* self, curl_socket_t socket, curlsocktype purpose) {
+  if (purpose == CURLSOCKTYPE_ACCEPT) {
+    static_cast<SocketWatch*>(self)->accepted_ = socket;
+    // The library closes it without a word, and what lies in here then is not seen any more.
+    constexpr int kShort = 256 * 1024;
+    (void)::setsockopt(socket, SOL_SOCKET, SO_SNDBUF, &kShort, sizeof kShort);
+  }
+  return CURL_SOCKOPT_OK;
 }
 
 int SocketWatch::Close(void* self, curl_socket_t socket) {
@@ -50,6 +62,7 @@ std::uint64_t SocketWatch::Traffic() {
   std::uint64_t bytes = closed_;
   for (const int socket : open_) bytes += Look(socket);
   for (const int socket : ended_) bytes += Look(socket);
+  if (accepted_ >= 0) bytes += Look(accepted_);
   return bytes;
 }
 
@@ -86,6 +99,7 @@ void SocketWatch::CloseEnded() {
     ::close(socket);
   }
   ended_.clear();
+  accepted_ = -1;
 }
 
 }  // namespace kinalyx

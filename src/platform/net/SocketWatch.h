@@ -21,7 +21,7 @@ class SocketWatch {
 
   /// All sockets that a handle opens from now on are made and closed here.
   void Attach(CURL* handle);
-  /// Bytes in both directions since the beginning; only ever grows.
+  /// Bytes in both directions since the beginning. Something has moved when it is another number than before.
   std::uint64_t Traffic();
   /// Whether any socket has found its server so far.
   bool Reached();
@@ -36,11 +36,13 @@ class SocketWatch {
 
  private:
   static curl_socket_t Open(void* self, curlsocktype purpose, curl_sockaddr* address);
+  static int Prepare(void* self, curl_socket_t socket, curlsocktype purpose);
   static int Close(void* self, curl_socket_t socket);
   std::uint64_t Look(int socket);
 
   std::vector<int> open_;
   std::vector<int> ended_;    ///< shut down, with bytes perhaps still on their way
+  int accepted_ = -1;         ///< by which a server calls back; the library's own
   std::uint64_t closed_ = 0;  ///< traffic of those that are gone
   bool reached_ = false;
   std::chrono::steady_clock::time_point attempt_;

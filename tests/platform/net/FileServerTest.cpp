@@ -184,6 +184,13 @@ TEST_F(FileServerTest, ACancelNeedsNoAnswer) {
   }
 }
 
+TEST_F(FileServerTest, ASlowUploadOfTheActiveModeIsNoSilence) {
+  NEEDS(StartBad("slow"));
+  login_.passive = false;
+  const Outcome done = Server(ShortLimits())->Put(here_.Put("source", WildBytes(6'000'000, 1)), "a.avi", watch_);
+  EXPECT_TRUE(done) << done.Why();
+}
+
 TEST_F(FileServerTest, ACancelledUploadLeavesTheOldFile) {
   NEEDS(Start());
   there_.Put("index.html", "old");
@@ -233,6 +240,7 @@ TEST(ServerAddressTest, AsUsersTypeIt) {
                           Case{"ftp://host:2121/a/b/", Kind::Ftp, NetSecurity::None, "host", "a/b", 2121},
                           Case{"ftps://host", Kind::Ftp, NetSecurity::Tls, "host", "", 0},
                           Case{"ftpes://[::1]:21/x", Kind::Ftp, NetSecurity::StartTls, "[::1]", "x", 21},
+                          Case{"FTPS://Host/A", Kind::Ftp, NetSecurity::Tls, "Host", "A", 0},
                           Case{"sftp://host/~/x", Kind::Sftp, NetSecurity::None, "host", "~/x", 0}}) {
     SCOPED_TRACE(one.text);
     const auto address = ReadServerAddress(one.text);

@@ -177,6 +177,16 @@ TEST_F(MailSenderTest, ServersThatFail) {
   EXPECT_THAT(Send(Hello()).Why(), HasSubstr("in no name"));
 }
 
+TEST_F(MailSenderTest, WhatWasTakenIsSentWhateverBecomesOfTheGoodbye) {
+  NEEDS(StartBad("quithang"));
+  const Outcome sent = Send(Hello(), ShortLimits());
+  EXPECT_TRUE(sent) << sent.Why();
+  EXPECT_FALSE(closedCleanly_);
+  ASSERT_TRUE(StartBad("nobodyin"));
+  to_.loginRequired = true;
+  EXPECT_THAT(Send(Hello()).Why(), HasSubstr("only with encryption"));
+}
+
 TEST_F(MailSenderTest, ACancelNeedsNoAnswer) {
   for (const char* kind : {"mute", "hang", "mailhang"}) {
     SCOPED_TRACE(kind);
