@@ -102,7 +102,7 @@ const std::vector<MailSettings::Key>& MailSettings::Keys() {
       {kGeneral, "UseHTML", "False", &M::UseHTML},
       {kGeneral, "ReadReceipt", "False", &M::ReadReceipt},
       {kGeneral, "LoginRequired", "False", &M::LoginRequired},
-      {kGeneral, "Login", "User Name", &M::Login},
+      {kGeneral, "Login", kNoMailLogin, &M::Login},
       {kGeneral, "Password", "", &M::Password, true},
       {kGeneral, "UseTLS", "False", &M::UseTLS},
       {kGeneral, "UseSSL", "False", &M::UseSSL},
@@ -110,7 +110,7 @@ const std::vector<MailSettings::Key>& MailSettings::Keys() {
       {kGeneral, "EmailLock", "0", &M::EmailLock},
       {kWeb, "WebAddress", "", &M::WebAddress},
       {kWeb, "FTPAddress", "", &M::FTPAddress},
-      {kWeb, "WLogin", "Login", &M::WLogin},
+      {kWeb, "WLogin", kNoWebLogin, &M::WLogin},
       {kWeb, "WPassword", "", &M::WPassword, true},
       {kWeb, "FTPMode", "0", &M::NextFTPMode},
   };
@@ -142,7 +142,9 @@ void MailSettings::Read(const Key& key, const std::string& stored) {
 
 void MailSettings::LoadMailSettings() {
   // Before its passwords are read: nothing is written that others could read meanwhile.
-  if (FileExists(file_)) KeepForOwner(file_);
+  if (FileExists(file_)) ownersAlone_ = KeepForOwner(file_);
+  // One that is there and cannot be read now keeps what it holds: the defaults count for this run alone.
+  const bool readable = !FileExists(file_) || ReadWholeFile(file_);
   const ProfileReader reader(file_);
   unsaved_.clear();
   bool missing = false;
@@ -151,6 +153,7 @@ void MailSettings::LoadMailSettings() {
     Read(key, value.value_or(key.fallback));
     if (value) continue;
     if (key.field == Field(&MailSettings::Subject)) Subject += SenderName;
+    if (!readable) continue;
     missing = true;
     unsaved_.push_back(key.field);
   }
@@ -173,8 +176,7 @@ bool MailSettings::Write(Field field) {
   for (const Key& key : Keys())
     if (std::ranges::find(unsaved_, key.field) != unsaved_.end())
       entries.push_back({key.section, key.name, Stored(key)});
-  // Where the drive knows no such rights there is nothing to keep.
-  KeepForOwner(file_);
+  ownersAlone_ = KeepForOwner(file_);
   if (!WriteProfileEntries(entries, file_)) return false;
   unsaved_.clear();
   return true;

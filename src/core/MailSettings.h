@@ -19,7 +19,7 @@ class MailSettings {
   std::string SenderEmail;  ///< kNoSender while nothing is configured
   std::string Subject;
   bool UseMIME = true;
-  int Priority = 2;  ///< 1 highest to 5 lowest
+  int Priority = 2;  ///< 1 high, 2 normal, 3 low
   bool UseHTML = false;
   bool ReadReceipt = false;
   bool LoginRequired = false;
@@ -54,6 +54,9 @@ class MailSettings {
   /// Something that was set is not in the file, for the disk has refused it.
   bool Unsaved() const { return !unsaved_.empty(); }
 
+  /// Nobody else can read the file; false on a drive that knows no such rights.
+  bool OwnersAlone() const { return ownersAlone_; }
+
   bool MailConfigured() const;
   bool SenderSet() const;
   bool WebConfigured() const { return !FTPAddress.empty(); }
@@ -69,10 +72,13 @@ class MailSettings {
 
   std::string file_;
   std::vector<Field> unsaved_;
+  bool ownersAlone_ = true;
 };
 
 inline constexpr const char* kNoServer = "none_selected";
 inline constexpr const char* kNoSender = "you@example.com";
+inline constexpr const char* kNoMailLogin = "User Name";
+inline constexpr const char* kNoWebLogin = "Login";
 
 enum class Scramble { Encode, Decode };
 /// Shifts the code of each character in Windows-1252 by a digit of a fixed key: Encode down, Decode up, round the 256

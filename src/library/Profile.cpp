@@ -219,7 +219,7 @@ bool SaveProfile(const std::string& studentFolder, const ProfileFields& fields, 
 std::optional<std::string> GetEmailAddress(const std::string& studentFolder) {
   auto address = ReadProfileValue(kProfileSection, kEmailKey, ProfilePath(studentFolder));
   if (!address || address->empty()) return std::nullopt;
-  return GetPrivateProfileString(kProfileSection, kEmailKey, "", kMaxFieldText + 1, ProfilePath(studentFolder));
+  return address;
 }
 
 // ---------------------------------------------------------------- notes

@@ -88,7 +88,8 @@ std::string WithLineEnds(std::string_view text);
 /// Stores the notes; empty notes remove the file.
 Outcome SaveNotes(const std::string& studentFolder, std::string_view notes);
 
-/// The address in a student's profile; nothing when there is none.
+/// The address in a student's profile; nothing when there is none. Longer than other values it may be: one that was cut
+/// would be somebody else's.
 std::optional<std::string> GetEmailAddress(const std::string& studentFolder);
 
 // --- new entries

@@ -161,6 +161,10 @@ TEST(LoneCtrlTest, CtrlIsAKeyOfItsOwnOnlyWhenItComesAlone) {
   press();
   QTest::mouseClick(&page, Qt::LeftButton, Qt::ControlModifier);
   release();
+  QTest::mousePress(&page, Qt::LeftButton);
+  press();
+  release();
+  QTest::mouseRelease(&page, Qt::LeftButton);
   QTest::keyPress(&box, Qt::Key_Shift);
   QTest::keyPress(&box, Qt::Key_Control, Qt::ShiftModifier);
   release();

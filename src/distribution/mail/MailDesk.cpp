@@ -51,6 +51,7 @@ Outcome MailDesk::Send(const MailWish& wish) {
   for (const std::string& path : sent_)
     message.attachments.push_back({.path = path, .name = fmt::format("Picture {}.jpg", ++number)});
   closedCleanly_ = std::make_shared<bool>(true);
+  part_ = 0;
   desk_.Start(
       [sender = std::shared_ptr(makeSender_()), server = OutgoingServer(settings_), message = std::move(message),
        closed = closedCleanly_](ITransferWatch& watch) { return sender->Send(server, message, watch, *closed); });
@@ -59,6 +60,7 @@ Outcome MailDesk::Send(const MailWish& wish) {
 }
 
 void MailDesk::ServerProgress(double part) {
+  part_ = part;
   if (!events_) return;
   if (part < 0) events_->MailStatus("Connecting to Email Server", -1);
   else events_->MailStatus("Sending email now....Please wait", part);
@@ -66,7 +68,10 @@ void MailDesk::ServerProgress(double part) {
 
 void MailDesk::ServerOver(const Outcome& outcome) {
   if (outcome.Kind() == Fault::Cancelled) {
-    if (events_) events_->MailCancelled();
+    if (!events_) return;
+    // All was there; nobody has heard whether the server took it.
+    if (part_ >= 1) events_->MailFailed("Cancelled. The mail may have gone already. The pictures stay in the queue.");
+    else events_->MailCancelled();
     return;
   }
   if (!outcome) {
@@ -79,7 +84,8 @@ void MailDesk::ServerOver(const Outcome& outcome) {
   for (const std::string& path : sent_)
     if (const Outcome gone = queue_.Delete(path); !gone) host_.Note(MessageKind::Warning, gone.Why());
   if (queue_.Count() == 0) (void)queue_.ClearEmailQueue();
-  if (events_) events_->MailSent(*closedCleanly_ ? "Send Successful!" : kNotClosed);
+  if (events_)
+    events_->MailSent(*closedCleanly_ ? "Send Successful!" : fmt::format("Send Successful!\n{}", kNotClosed));
 }
 
 }  // namespace kinalyx

@@ -65,6 +65,7 @@ class MailDesk final : private IServerEvents {
   IMailEvents* events_ = nullptr;
   std::vector<std::string> sent_;  ///< the pictures that are under way
   std::shared_ptr<bool> closedCleanly_;
+  double part_ = 0;  ///< of the mail, that has gone; below 0 before
   ServerDesk desk_;
 };
 

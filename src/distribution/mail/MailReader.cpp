@@ -47,7 +47,9 @@ MailReader ReaderOf(IHost& host, const Settings& settings, const ProfileFields& 
   const auto texts = host.Drives().Ask(tree.Root(), [folder, fields] {
     // The one that the field is for; then a parent's or a club's, wherever it was noted.
     std::vector<std::string> found = {GetEmailAddress(folder).value_or("")};
-    for (std::string& value : ReadFields(folder, fields)) found.push_back(std::move(value));
+    // A value that fills its place was cut, and what it ends with may be no more than half an address.
+    for (std::string& value : ReadFields(folder, fields))
+      if (value.size() < static_cast<std::size_t>(kMaxFieldText)) found.push_back(std::move(value));
     return found;
   });
   if (texts)

@@ -28,7 +28,8 @@ HeldFile::HeldFile(const std::string& path) {
   if (file < 0) return;
   struct stat info {};
   const bool regular = ::fstat(file, &info) == 0 && S_ISREG(info.st_mode);
-  const bool taken = ::flock(file, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+  locked_ = ::flock(file, LOCK_EX | LOCK_NB) == 0;
+  const bool taken = !locked_ && errno == EWOULDBLOCK;
   if (regular && !taken) file_ = file;
   else ::close(file);
 }
@@ -111,7 +112,8 @@ int SnapshotQueue::FindLeft() {
   for (int number = 1; number <= kMost; ++number) {
     const std::string path = PathOf(number);
     if (std::ranges::find(pictures_, path, &Picture::path) != pictures_.end()) continue;
-    if (HeldFile held(path); held) left_.push_back({path, std::move(held)});
+    // Where there are no locks it may as well be another window's.
+    if (HeldFile held(path); held && held.Locked()) left_.push_back({path, std::move(held)});
   }
   return static_cast<int>(left_.size());
 }

@@ -17,17 +17,21 @@ class HeldFile {
   HeldFile() = default;
   /// Takes a file, unless somebody holds it or it is none.
   explicit HeldFile(const std::string& path);
-  HeldFile(HeldFile&& other) noexcept : file_(std::exchange(other.file_, -1)) {}
+  HeldFile(HeldFile&& other) noexcept : file_(std::exchange(other.file_, -1)), locked_(other.locked_) {}
   HeldFile& operator=(HeldFile&& other) noexcept {
     std::swap(file_, other.file_);
+    std::swap(locked_, other.locked_);
     return *this;
   }
   ~HeldFile();
 
   explicit operator bool() const { return file_ >= 0; }
+  /// Nobody else can hold it; false on a drive without locks.
+  bool Locked() const { return locked_; }
 
  private:
   int file_ = -1;
+  bool locked_ = false;
 };
 
 /// Pictures that wait to be mailed: `email1.jpg` to `email100.jpg` of one folder. Two windows of the program may use

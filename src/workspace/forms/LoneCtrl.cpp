@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QMouseEvent>
 
 namespace kinalyx {
 
@@ -13,6 +14,10 @@ bool LoneCtrl::KeysAreHere() const {
          !QApplication::activePopupWidget() && !QApplication::activeModalWidget();
 }
 
+/// A button that went down before the key is still down. Of a drag out of the program only the application hears the
+/// end.
+bool LoneCtrl::Dragging() const { return held_ && QApplication::mouseButtons() != Qt::NoButton; }
+
 /// An event passes here once for each object that it is offered to, so each step may come several times.
 bool LoneCtrl::eventFilter(QObject*, QEvent* event) {
   switch (event->type()) {
@@ -21,7 +26,7 @@ bool LoneCtrl::eventFilter(QObject*, QEvent* event) {
       const auto& key = *static_cast<QKeyEvent*>(event);
       if (key.key() != Qt::Key_Control) alone_ = false;
       else if (!key.isAutoRepeat() && event->type() == QEvent::KeyPress)
-        alone_ = !(key.modifiers() & ~Qt::ControlModifier) && KeysAreHere();
+        alone_ = !(key.modifiers() & ~Qt::ControlModifier) && !Dragging() && KeysAreHere();
       break;
     }
     case QEvent::KeyRelease: {
@@ -34,6 +39,9 @@ bool LoneCtrl::eventFilter(QObject*, QEvent* event) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
     case QEvent::MouseButtonDblClick:
+      alone_ = false;
+      held_ = static_cast<QMouseEvent*>(event)->buttons() != Qt::NoButton;
+      break;
     case QEvent::Wheel:
     case QEvent::NativeGesture:
     case QEvent::TouchBegin:

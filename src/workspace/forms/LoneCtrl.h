@@ -21,9 +21,11 @@ class LoneCtrl : public QObject {
 
  private:
   bool KeysAreHere() const;
+  bool Dragging() const;
 
   QWidget* page_;
   bool alone_ = false;  ///< Ctrl is down, and nothing else has happened since
+  bool held_ = false;   ///< a button of the mouse
 };
 
 }  // namespace kinalyx

@@ -59,7 +59,7 @@ TEST_F(MailDeskTest, AGoodbyeThatFailsIsNoFailure) {
   mail.Set(&MailSettings::UseHTML, true);
   ASSERT_TRUE(Send("clara@example.org"));
   host.Advance(100);
-  EXPECT_EQ(told.back(), "Connection to SMTP server not closed cleanly.");
+  EXPECT_EQ(told.back(), "Send Successful!\nConnection to SMTP server not closed cleanly.");
   EXPECT_EQ(queue.Count(), 0);
   EXPECT_EQ(net.messages[0].body, "Head &lt;still&gt; &amp; down.<br>\nErica");
 }

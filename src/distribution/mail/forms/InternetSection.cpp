@@ -37,8 +37,6 @@ constexpr MailSettings::Flag kEmailFlags[] = {&MailSettings::UseTLS, &MailSettin
 constexpr MailSettings::Text kWebTexts[] = {&MailSettings::WebAddress, &MailSettings::WLogin, &MailSettings::WPassword,
                                             &MailSettings::FTPAddress};
 
-constexpr const char* kNoMailLogin = "User Name";
-constexpr const char* kNoWebLogin = "Login";
 constexpr int kLongestPassword = 512;
 constexpr int kMostPort = 65535;
 constexpr int kPortWidth = 70;
@@ -60,9 +58,9 @@ constexpr Service kServices[] = {
      "Google takes no password of the account here but an app password: a long one for this program alone. Switch on "
      "2-Step Verification, then make one at myaccount.google.com/apppasswords."},
     {"HotMail", "smtp-mail.outlook.com", 587, false,
-     "With two-step verification Microsoft takes an app password here, a long one for this program alone, made at "
-     "account.microsoft.com under Security. Some accounts let no other program send at all: choose another service "
-     "then."},
+     "Microsoft lets no other program send from Hotmail and Outlook.com with a password any more. Choose another "
+     "service, "
+     "or Other with the mailbox of your club."},
 };
 
 /// Shows a text without moving the cursor of somebody who is typing the same. What stands for nothing is shown as such.
@@ -228,11 +226,13 @@ InternetSection::TestRow InternetSection::AddTest(QVBoxLayout& rows, int index, 
 
 void InternetSection::AddWords() {
   QVBoxLayout* rows = AddPanel(1, tr("Your Passwords"));
+  const QString who = mail_.OwnersAlone() ? tr("you alone can read the file")
+                                          : tr("this drive cannot keep others from reading the file");
   auto* words =
       MakeLabel("MailFileLbl",
                 tr("The two passwords lie in the file mail.ini of your data folder. They are scrambled there, "
-                   "which hides them from a glance and no more; you alone can read the file. Do not give it "
-                   "away."),
+                   "which hides them from a glance and no more; %1. Do not give it away.")
+                    .arg(who),
                 "muted");
   words->setWordWrap(true);
   rows->addWidget(words);
@@ -315,7 +315,8 @@ void InternetSection::txtEmail_Change(int index) {
   const QString text = txtEmail_[static_cast<std::size_t>(index)]->text();
   if (index != kPort) return Wrote(mail_.Set(kEmailTexts[index], Std(text)));
   // Half a number is none yet.
-  if (txtEmail_[kPort]->hasAcceptableInput()) Wrote(mail_.Set(&MailSettings::SMTPPort, text.toInt()));
+  if (txtEmail_[kPort]->hasAcceptableInput())
+    Wrote(mail_.Set(&MailSettings::SMTPPort, txtEmail_[kPort]->locale().toInt(text)));
 }
 
 /// A connection is encrypted in one way.

@@ -214,7 +214,12 @@ void MailForm::ChooseAddresses() {
   for (const QComboBox* box : address_) typed.push_back(Std(box->currentText().trimmed()));
   EmailListForm form(Q(reader_.student), reader_.addresses, typed, this);
   if (form.exec() != QDialog::Accepted) return;
-  const std::vector<std::string> chosen = form.Chosen();
+  std::vector<std::string> chosen = form.Chosen();
+  // What was typed and is not in the list stays.
+  for (const std::string& address : typed)
+    if (!address.empty() && chosen.size() < address_.size() &&
+        std::ranges::find(reader_.addresses, address) == reader_.addresses.end())
+      chosen.push_back(address);
   for (std::size_t index = 0; index < address_.size(); ++index)
     address_[index]->setEditText(index < chosen.size() ? Q(chosen[index]) : QString());
 }
