@@ -17,6 +17,8 @@ class IHandoutWays {
   virtual ~IHandoutWays() = default;
   /// Opens videos in the analysis section and goes there; false when none could be opened.
   virtual bool OpenInAnalysis(const std::vector<std::string>& paths) = 0;
+  /// Goes to the section Internet of Program Setup.
+  virtual void GoToInternetSetup() = 0;
 };
 
 /// Clips and pictures with drawings: the form, the desk, and the card that tells how far it is.

@@ -3,6 +3,7 @@
 #include "app/LessonRoom.h"
 #include "app/MailRoom.h"
 #include "app/CaptureRoom.h"
+#include "distribution/models/forms/DLModelsForm.h"
 #include "workspace/forms/AnalysisForm.h"
 
 namespace kinalyx {
@@ -34,7 +35,23 @@ void HandoutRoom::Serve(AnalysisForm* analysis) {
 
 bool HandoutRoom::MayLeave() { return lessons_->MayLeave() && mail_->MayLeave(); }
 
-bool HandoutRoom::MayClose() { return MayLeave() && clips_.MayClose(); }
+bool HandoutRoom::MayClose() {
+  if (!MayLeave() || !clips_.MayClose()) return false;
+  return !models_ || !models_->Busy() ||
+         parts_.services.host.Question("", "Model videos are still coming. Do you want to give them up?");
+}
+
+void HandoutRoom::ShowModelsForm() {
+  if (!models_) {
+    models_ = new DLModelsForm({.host = parts_.services.host,
+                                .settings = parts_.settings,
+                                .mail = parts_.mail,
+                                .makeServer = [](ServerLogin login) { return MakeFileServer(std::move(login)); }},
+                               &parts_.over);
+    QObject::connect(models_, &DLModelsForm::SetupWanted, models_, [this] { parts_.ways.GoToInternetSetup(); });
+  }
+  models_->Open();
+}
 
 void HandoutRoom::TakeSnapshot() { mail_->TakeSnapshot(); }
 void HandoutRoom::SendSnapshots() { mail_->SendSnapshots(); }

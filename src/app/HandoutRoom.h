@@ -16,6 +16,7 @@ namespace kinalyx {
 
 class AnalysisForm;
 class CaptureRoom;
+class DLModelsForm;
 class LessonRoom;
 class MailRoom;
 
@@ -47,6 +48,8 @@ class HandoutRoom final : public IHandouts {
   void SavePicture() override;
   bool MayLeave() override;
 
+  void ShowModelsForm() override;
+
   void TakeSnapshot() override;
   void SendSnapshots() override;
 
@@ -69,6 +72,7 @@ class HandoutRoom final : public IHandouts {
   ClipRoom clips_;
   std::unique_ptr<LessonRoom> lessons_;
   std::unique_ptr<MailRoom> mail_;
+  DLModelsForm* models_ = nullptr;  ///< owned by the main window, and made when it is first wanted
 };
 
 }  // namespace kinalyx

@@ -12,7 +12,9 @@
 #include "core/forms/SetupPage.h"
 #include "core/forms/SplashForm.h"
 #include "distribution/mail/forms/InternetSection.h"
+#include "distribution/models/forms/ModelServerPanel.h"
 #include "distribution/send/forms/SendPage.h"
+#include "distribution/updates/forms/UpdatesPanel.h"
 #include "library/forms/FieldsEditor.h"
 #include "library/forms/ImportExportPage.h"
 #include "library/forms/ProfilesPage.h"
@@ -158,9 +160,20 @@ void Program::LoadMain() {
   CaptureSection* captureSection = capture_->MakeSection();
   QObject::connect(captureSection, &CaptureSection::CaptureWanted, captureSection, [this] { GoToCapture(); });
   setup_->SetSection(SetupPage::kCapture, captureSection);
-  setup_->SetSection(SetupPage::kInternet, new InternetSection(
-                                               *host_, settings_, mail_, [] { return MakeMailSender(); },
-                                               [](ServerLogin login) { return MakeFileServer(std::move(login)); }));
+  const auto makeServer = [](ServerLogin login) { return MakeFileServer(std::move(login)); };
+  auto* internet = new InternetSection(
+      *host_, settings_, mail_, [] { return MakeMailSender(); }, makeServer);
+  internet->AddGroup(new ModelServerPanel(mail_));
+  setup_->SetSection(SetupPage::kInternet, internet);
+  updates_ = std::make_unique<UpdateCheck>(UpdateCheck::Parts{.host = *host_,
+                                                              .settings = settings_,
+                                                              .mail = mail_,
+                                                              .makeServer = makeServer,
+                                                              .ownVersion = Std(QCoreApplication::applicationVersion()),
+                                                              .close = [this] { main_->close(); },
+                                                              .changed = [this] { updatesPanel_->ShowState(); }});
+  updatesPanel_ = new UpdatesPanel(settings_, mail_, *updates_);
+  setup_->AddToGeneral(updatesPanel_);
   main_->SetPage(kSetupPage, setup_);
   ConnectSetupPage();
 
@@ -178,6 +191,7 @@ void Program::LoadMain() {
     OpenPage(kMenuPage);
   }
   PlaceMain();
+  updates_->CheckAtStart();
 }
 
 void Program::ConnectSetupPage() {
@@ -365,6 +379,11 @@ bool Program::OpenInAnalysis(const std::vector<std::string>& paths) {
 void Program::GoToCaptureSetup() {
   OpenPage(kSetupPage);
   if (main_->CurrentPage() == kSetupPage) setup_->PSCmd_Click(SetupPage::kCapture);
+}
+
+void Program::GoToInternetSetup() {
+  OpenPage(kSetupPage);
+  if (main_->CurrentPage() == kSetupPage) setup_->PSCmd_Click(SetupPage::kInternet);
 }
 
 /// One camera serves one of the two windows: the delayed mirror makes way, and live draw for it.

@@ -16,6 +16,7 @@
 #include "core/StartUp.h"
 #include "core/Vocabulary.h"
 #include "core/WindowModes.h"
+#include "distribution/updates/UpdateCheck.h"
 #include "library/LibraryOperations.h"
 #include "library/LibraryTree.h"
 #include "library/Profile.h"
@@ -39,6 +40,7 @@ class MenuPage;
 class ProfilesPage;
 class SendPage;
 class SetupPage;
+class UpdatesPanel;
 class SplashForm;
 
 /// The whole program: makes its objects in the order in which they need each other, hands them round, and
@@ -116,6 +118,7 @@ class Program final : private ISettingsEvents,
 
   // --- ICaptureWays and IHandoutWays
   bool OpenInAnalysis(const std::vector<std::string>& paths) override;
+  void GoToInternetSetup() override;
   void GoToCaptureSetup() override;
 
   // --- ILiveDrawWays
@@ -141,6 +144,7 @@ class Program final : private ISettingsEvents,
   bool backToCapture_ = false;          ///< when the mirror closes, for it was opened from that page
   std::unique_ptr<LiveDrawRoom> liveDraw_;
 
+  std::unique_ptr<UpdateCheck> updates_;
   std::unique_ptr<HandoutRoom> handouts_;  ///< outlives the analysis section, which goes with the main form
 
   std::unique_ptr<SendRoom> send_;  ///< its page and form go with the main form, before it
@@ -156,6 +160,7 @@ class Program final : private ISettingsEvents,
   AnalysisForm* analysis_ = nullptr;
   OfferBar* reopen_ = nullptr;
   SetupPage* setup_ = nullptr;
+  UpdatesPanel* updatesPanel_ = nullptr;
   HelpPage* help_ = nullptr;
   ResizeControls resizeControls_;
   HostTimer settling_;

@@ -26,6 +26,7 @@ namespace {
 
 constexpr const char* kGeneral = "General";
 constexpr const char* kWeb = "Web";
+constexpr const char* kServers = "Servers";
 constexpr const char* kSubjectStart = "Video Analysis from ";
 constexpr std::string_view kPasswordKey = "3141592653589793238462643383279";
 constexpr int kMostPort = 65535;
@@ -113,6 +114,12 @@ const std::vector<MailSettings::Key>& MailSettings::Keys() {
       {kWeb, "WLogin", kNoWebLogin, &M::WLogin},
       {kWeb, "WPassword", "", &M::WPassword, true},
       {kWeb, "FTPMode", "0", &M::NextFTPMode},
+      {kServers, "ModelServer", "", &M::ModelServer},
+      {kServers, "ModelLogin", "", &M::ModelLogin},
+      {kServers, "ModelPassword", "", &M::ModelPassword, true},
+      {kServers, "UpdateServer", "", &M::UpdateServer},
+      {kServers, "UpdatePage", "", &M::UpdatePage},
+      {kServers, "UsageRecord", "False", &M::UsageRecord},
   };
   return keys;
 }

@@ -38,6 +38,14 @@ class MailSettings {
   int FTPMode = 0;        ///< 0 passive, 1 active; as it was when the program started
   int NextFTPMode = 0;    ///< the same as the file has it: from the next start on
 
+  // --- [Servers]; what is empty is not contacted
+  std::string ModelServer;    ///< of model videos
+  std::string ModelLogin;     ///< empty: as a guest
+  std::string ModelPassword;  ///< as typed
+  std::string UpdateServer;
+  std::string UpdatePage;    ///< from which a browser fetches a new version
+  bool UsageRecord = false;  ///< a line goes to the server of updates with each check
+
   /// Reads the file. A key that is absent gets its default, which is written back.
   void LoadMailSettings();
 

@@ -34,7 +34,8 @@ TEST_F(MailSettingsTest, FirstRunWritesEveryDefault) {
             "[General]\nSMTPServer=none_selected\nSenderName=\nSenderEmail=you@example.com\n"
             "Subject=Video Analysis from \nUseMIME=True\nPriority=2\nUseHTML=False\nReadReceipt=False\n"
             "LoginRequired=False\nLogin=User Name\nPassword=\nUseTLS=False\nUseSSL=False\nSMTPPort=25\nEmailLock=0\n"
-            "\n[Web]\nWebAddress=\nFTPAddress=\nWLogin=Login\nWPassword=\nFTPMode=0\n");
+            "\n[Web]\nWebAddress=\nFTPAddress=\nWLogin=Login\nWPassword=\nFTPMode=0\n"
+            "\n[Servers]\nModelServer=\nModelLogin=\nModelPassword=\nUpdateServer=\nUpdatePage=\nUsageRecord=False\n");
   EXPECT_EQ(Mode(), 0600u);
 }
 

@@ -22,6 +22,8 @@ class GeneralSection : public SetupSection {
   GeneralSection(IHost& host, Settings& settings, ColorSchemes& schemes, QWidget* parent = nullptr);
 
   void SetupProgram() override;
+  /// A panel of another room, beneath the others; the section becomes its parent.
+  void AddGroup(QWidget* panel) { AddGuest(1, panel); }
 
  signals:
   void CompanyChanged(const QString& company);

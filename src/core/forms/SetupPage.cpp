@@ -115,6 +115,8 @@ bool SetupPage::PSCmd_Click(int index) {
   return true;
 }
 
+void SetupPage::AddToGeneral(QWidget* panel) { general_->AddGroup(panel); }
+
 void SetupPage::SetSection(Section section, QWidget* page) {
   QWidget*& place = pages_[section];
   if (place) {

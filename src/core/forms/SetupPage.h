@@ -44,6 +44,8 @@ class SetupPage : public PageWidget {
   /// Gives a section that comes from another room its page, which this page becomes the parent of. Until then the
   /// section is closed.
   void SetSection(Section section, QWidget* page);
+  /// A panel of another room in the section General, which becomes its parent.
+  void AddToGeneral(QWidget* panel);
 
   AnalysisSection& Analysis() { return *analysis_; }
 

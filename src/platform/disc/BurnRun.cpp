@@ -59,7 +59,7 @@ std::vector<int> SpeedsOf(burn_drive* drive) {
     burn_drive_free_speedlist(&list);
   }
   std::ranges::sort(speeds);
-  speeds.erase(std::ranges::unique(speeds).begin(), speeds.end());
+  speeds.erase(std::unique(speeds.begin(), speeds.end()), speeds.end());
   return speeds;
 }
 

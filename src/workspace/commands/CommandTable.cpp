@@ -167,11 +167,6 @@ void MenuBar::Add(Command command) {
   commands_.push_back(std::move(command));
 }
 
-void MenuBar::AddComing(const char* item, const char* menu, const char* caption, const char* button, const char* icon,
-                        const char* tip, int group) {
-  Add({item, menu, caption, button, icon, tip, group, nullptr});
-}
-
 void MenuBar::AddSeparator(const char* menu) { Add({"", menu, "", "", "", "", kNoButton, nullptr}); }
 
 void MenuBar::AddGoTo() {
@@ -508,7 +503,8 @@ void MenuBar::AddSetup() {
   const auto hasVideo = NeedsVideo();
   const auto unlocked =
       Needs([this] { return !compare_.Locks().IsLocked(stage_.CurrentWindow); }, "Unlock the videos first");
-  AddComing("mnuDownloadVideos", kSetup, "Download Model Videos");
+  Add({"mnuDownloadVideos", kSetup, "Download Model Videos", "", "", "", kNoButton,
+       [this] { navigation_.Handouts().ShowModelsForm(); }});
   Add({"TCal", kSetup, "Calculate Distance for Lines", "CmdAfunctions4", "ruler", "Calibrate Ruler", kMeasuring,
        [this] { ruler_.ToggleCalibration(); }, hasVideo, [this] { return ruler_.Shown(); }});
   Add({"TrueRate", kSetup, "True Frame Rate...", "", "", "", kNoButton, [this] { view_.ShowRateForm(); }, hasVideo});

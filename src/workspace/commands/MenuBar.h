@@ -128,9 +128,6 @@ class MenuBar {
   void AddMark();
   bool Press(KeyStroke::Kind kind, int value, int shift);
   void Add(Command command);
-  /// An entry, or a button beside it, whose feature is not built yet.
-  void AddComing(const char* item, const char* menu, const char* caption, const char* button = "",
-                 const char* icon = "", const char* tip = "", int group = 0);
   void AddSeparator(const char* menu);
   bool HasVideo() const { return stage_.HasVideo(stage_.CurrentWindow); }
   /// The obstacle of all that works on the current video; `further` is asked when there is one.
