@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "platform/widgets/Buttons.h"
+#include "platform/widgets/NameList.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
 #include "platform/widgets/Text.h"
@@ -62,15 +63,17 @@ DLModelsForm::DLModelsForm(ModelVideos::Parts parts, QWidget* over)
   again_ = new Button("DLModelsAgain", tr("Try Again"), "loop", Look::Quiet);
   close_ = new Button("DLModelsClose", tr("Close"), {}, Look::Quiet);
   SSCommand4_ = new Button("SSCommand4", tr("Download"), "save", Look::Filled);
-  for (Button* button : {again_, close_}) button->setAutoDefault(false);
-  SSCommand4_->setDefault(true);
+  for (Button* button : {again_, close_, SSCommand4_}) button->setAutoDefault(false);
   foot->addWidget(status_);
   foot->addWidget(detail_, 1);
   foot->addWidget(selected_);
   for (Button* button : {again_, close_, SSCommand4_}) foot->addWidget(button);
   rows->addLayout(foot);
-  connect(List1_, &QListWidget::currentRowChanged, this, &DLModelsForm::List1_Click);
-  connect(List2_, &QListWidget::currentRowChanged, this, &DLModelsForm::List2_Click);
+  // A folder that is current already can be asked for again; the keys go to it by Return.
+  for (const auto signal : {&QListWidget::itemClicked, &QListWidget::itemActivated}) {
+    connect(List1_, signal, this, [this](QListWidgetItem* item) { List1_Click(List1_->row(item)); });
+    connect(List2_, signal, this, [this](QListWidgetItem* item) { List2_Click(List2_->row(item)); });
+  }
   connect(List3_, &QListWidget::itemSelectionChanged, this, &DLModelsForm::List3_Click);
   connect(List3_, &QListWidget::itemActivated, this, &DLModelsForm::SSCommand4_Click);
   connect(again_, &QPushButton::clicked, this, &DLModelsForm::Form_Load);
@@ -86,8 +89,7 @@ QWidget* DLModelsForm::MakeLists() {
   columns->setSpacing(10);
   const auto add = [&](const char* name, const QString& title, int stretch) {
     auto* panel = new Panel(QString(name) + "Title", title);
-    auto* list = new QListWidget;
-    list->setObjectName(name);
+    auto* list = new NameList(name);
     list->setAccessibleName(title);
     panel->Body()->addWidget(list);
     columns->addWidget(panel, stretch);
