@@ -6,7 +6,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QShortcut>
-#include <QSignalBlocker>
 #include <QStackedWidget>
 
 #include "capture/SourceKinds.h"
@@ -15,18 +14,16 @@
 #include "capture/forms/HandsFree.h"
 #include "capture/forms/LiveView.h"
 #include "capture/forms/NamingPanel.h"
+#include "capture/forms/ReviewDesk.h"
 #include "capture/forms/UnfinishedBar.h"
 #include "capture/import/forms/ImportPanel.h"
 #include "library/TodayText.h"
 #include "library/forms/Divider.h"
 #include "library/forms/LibraryLists.h"
-#include "library/forms/PreviewPlayer.h"
 #include "library/forms/SearchBar.h"
 #include "library/forms/StatusLine.h"
-#include "library/forms/TrimSlider.h"
 #include "platform/files/Folders.h"
 #include "platform/widgets/Buttons.h"
-#include "platform/widgets/Figures.h"
 #include "platform/widgets/NameList.h"
 #include "platform/widgets/OfferBar.h"
 #include "platform/widgets/Panel.h"
@@ -40,7 +37,6 @@ namespace {
 
 constexpr const char* kSetupCaption = "Capture Setup";
 constexpr int kSideWidth = 256;  // as designed
-constexpr int kStride = 10;      // pictures that a larger step goes
 enum StagePage { kLivePage, kReviewPage };
 
 QButtonGroup* MakeChoice(QHBoxLayout& row, const QString& name, std::initializer_list<const char*> captions,
@@ -57,24 +53,6 @@ QButtonGroup* MakeChoice(QHBoxLayout& row, const QString& name, std::initializer
 }
 
 }  // namespace
-
-/// A recording under review, counted by frames whether it is shown by frames or by fields.
-class CapturePage::Player final : public IReviewPlayer {
- public:
-  explicit Player(PreviewPlayer& player) : player_(player) {}
-  bool Load(const std::string& path) override { return player_.Load(path); }
-  void Unload() override { player_.Unload(); }
-  int CurrentFrame() override { return player_.Frame(); }
-  int FrameCount() override { return player_.FrameCount(); }
-  void ShowFrame(int frame) override { player_.ShowFrame(frame); }
-  RecordingFacts Facts() override {
-    const VideoInfo* info = player_.Control().Info();
-    return info ? FactsOf(*info) : RecordingFacts();
-  }
-
- private:
-  PreviewPlayer& player_;
-};
 
 CapturePage::CapturePage(Parts parts, QWidget* parent)
     : PageWidget(parent),
@@ -113,6 +91,7 @@ CapturePage::CapturePage(Parts parts, QWidget* parent)
   middle->addWidget(MakeCameras());
   auto* room = new QHBoxLayout;
   room->setSpacing(kGap);
+  review_ = new ReviewDesk(parts_.services, *session_, *this);
   QWidget* stage = MakeStage();
   hands_ = new HandsFree({.host = host,
                           .settings = parts_.settings,
@@ -137,7 +116,6 @@ CapturePage::CapturePage(Parts parts, QWidget* parent)
   SetupVocabulary();
   FillCameras();
   ShowPhase();
-  emit ReviewShown(false);
 }
 
 CapturePage::~CapturePage() {
@@ -221,27 +199,18 @@ QWidget* CapturePage::MakeStage() {
   stage_ = new QStackedWidget;
   stage_->setObjectName("Videobox");
   auto* live = MakeFrame("stage");
-  auto* review = MakeFrame("stage");
-  auto* liveRow = new QHBoxLayout(live);
-  auto* reviewRow = new QHBoxLayout(review);
-  for (QHBoxLayout* row : {liveRow, reviewRow}) {
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(2);
-  }
+  auto* row = new QHBoxLayout(live);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(2);
   for (int camera = 0; camera < 2; ++camera) {
     live_[camera] = new LiveView(QString("ezVidCap%1").arg(camera + 1));
-    liveRow->addWidget(live_[camera], 1);
+    row->addWidget(live_[camera], 1);
     connect(live_[camera], &LiveView::Pressed, this, [this] { hands_->FireByMouse(); });
     connect(live_[camera], &LiveView::RoomChanged, this,
             [this, camera](QSize room) { session_->WantSize(camera, room.width(), room.height()); });
-    review_[camera] = new PreviewPlayer(parts_.services);
-    review_[camera]->setObjectName(camera == 0 ? "VidPlayer" : "TestPlayer");
-    reviewRow->addWidget(review_[camera], 1);
-    players_[camera] = std::make_unique<Player>(*review_[camera]);
   }
-  for (PreviewPlayer* player : review_) player->SetBarShown(false);
   stage_->addWidget(live);
-  stage_->addWidget(review);
+  stage_->addWidget(review_->Videos());
   return stage_;
 }
 
@@ -250,17 +219,7 @@ QWidget* CapturePage::MakeActions() {
   auto* rows = new QVBoxLayout(ground);
   rows->setContentsMargins(0, 0, 0, 0);
   rows->setSpacing(6);
-  reviewBar_ = new QWidget;
-  auto* seek = new QHBoxLayout(reviewBar_);
-  seek->setContentsMargins(0, 0, 0, 0);
-  play_ = IconButton("ReviewPlay", "play", "Play or pause (P)", Look::Quiet);
-  seek->addWidget(play_);
-  VidScroll_ = new TrimSlider("VidScroll");
-  VidScroll_->setToolTip("Drag the two ends. Arrow keys step, I starts and O ends here, P plays.");
-  frame_ = new FigureLabel("VidFrameLbl");
-  seek->addWidget(VidScroll_, 1);
-  seek->addWidget(frame_);
-  rows->addWidget(reviewBar_);
+  rows->addWidget(review_->Bar());
 
   Capturebtn_ = new Button("Capturebtn", "Start Capture", "record");
   LeastWidth(Capturebtn_, 190);
@@ -349,35 +308,12 @@ void CapturePage::ConnectParts() {
   connect(EndHerebtn_, &QPushButton::clicked, this, &CapturePage::EndHerebtn_Click);
   connect(CapSavebtn_, &QPushButton::clicked, this, &CapturePage::CapSavebtn_Click);
   connect(CapSendbtn_, &QPushButton::clicked, this, &CapturePage::CapSendbtn_Click);
-  connect(play_, &QPushButton::clicked, this, &CapturePage::PlayReview);
-  connect(review_[0], &PreviewPlayer::StateChanged, this,
-          [this] { play_->SetIcon(review_[0]->Control().IsPlaying() ? "pause" : "play"); });
-  connect(VidScroll_, &TrimSlider::Sought, this, &CapturePage::SeekReview);
-  connect(VidScroll_, &TrimSlider::StartWanted, this, &CapturePage::StartHerebtn_Click);
-  connect(VidScroll_, &TrimSlider::EndWanted, this, &CapturePage::EndHerebtn_Click);
-  connect(VidScroll_, &TrimSlider::PlayWanted, this, &CapturePage::PlayReview);
-  connect(VidScroll_, &TrimSlider::RangeChanged, this, [this] {
-    session_->Trim(VidScroll_->Start(), VidScroll_->End() < VidScroll_->Frames() - 1 ? VidScroll_->End() : 0);
-  });
-  connect(review_[0], &PreviewPlayer::Moved, this, &CapturePage::ShowReview);
+  connect(review_, &ReviewDesk::StartWanted, this, &CapturePage::StartHerebtn_Click);
+  connect(review_, &ReviewDesk::EndWanted, this, &CapturePage::EndHerebtn_Click);
   const auto key = [this](const QKeySequence& keys, auto action) {
     auto* shortcut = new QShortcut(keys, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
     connect(shortcut, &QShortcut::activated, this, action);
-    return shortcut;
   };
-  // What moves in a recording under review works from whatever button has the keys.
-  const auto reviewKey = [&](const char* keys, auto action) {
-    connect(this, &CapturePage::ReviewShown, key(QKeySequence(keys), action), &QShortcut::setEnabled);
-  };
-  reviewKey("Left", [this] { SeekReview(players_[0]->CurrentFrame() - 1); });
-  reviewKey("Right", [this] { SeekReview(players_[0]->CurrentFrame() + 1); });
-  reviewKey("Shift+Left", [this] { SeekReview(players_[0]->CurrentFrame() - kStride); });
-  reviewKey("Shift+Right", [this] { SeekReview(players_[0]->CurrentFrame() + kStride); });
-  reviewKey("Home", [this] { SeekReview(0); });
-  reviewKey("End", [this] { SeekReview(players_[0]->FrameCount() - 1); });
-  reviewKey("I", [this] { StartHerebtn_Click(); });
-  reviewKey("O", [this] { EndHerebtn_Click(); });
-  reviewKey("P", [this] { PlayReview(); });
   key(QKeySequence("Ctrl+F"), [this] { search_->FocusBox(); });
   key(QKeySequence("Ctrl+S"), [this] { CapSavebtn_Click(); });
   parts_.setup.SetEvents(this);
@@ -448,7 +384,7 @@ void CapturePage::AskForCamera() {
 
 void CapturePage::Capturebtn_Click() {
   session_->PressCapture();
-  if (session_->Phase() == CapturePhase::Reviewing) VidScroll_->setFocus();
+  if (session_->Phase() == CapturePhase::Reviewing) review_->FocusBar();
   if (session_->CanBringBack()) back_->Offer("The recording was put away.");
 }
 void CapturePage::StartHerebtn_Click() { session_->TrimFront(); }
@@ -462,18 +398,10 @@ void CapturePage::CapSendbtn_Click() {
 void CapturePage::OneCamTwoOpt_Click(int index) { parts_.setup.ChooseCameraCount(index == 0); }
 void CapturePage::CamChoiceBtn_Click(int index) { parts_.setup.ChooseCamera(index); }
 
-/// What would be kept, as far as the ends are chosen.
-void CapturePage::PlayReview() {
-  for (int camera = 0; camera < (session_->TwoCameras() ? 2 : 1); ++camera) {
-    const int last = session_->TrimEndFrame() > 0 ? session_->TrimEndFrame() : players_[camera]->FrameCount() - 1;
-    review_[camera]->TogglePlay(session_->TrimStartFrame(), std::min(last, players_[camera]->FrameCount() - 1));
-  }
-}
-
 void CapturePage::keyPressEvent(QKeyEvent* event) {
   // Space starts and stops, and plays what has been recorded; it never puts it away.
   if (event->key() == Qt::Key_Space && Capturebtn_->isVisible())
-    return session_->Phase() == CapturePhase::Reviewing ? PlayReview() : Capturebtn_Click();
+    return session_->Phase() == CapturePhase::Reviewing ? review_->Play() : Capturebtn_Click();
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (enter && session_->Phase() == CapturePhase::Reviewing) return CapSendbtn_Click();
   PageWidget::keyPressEvent(event);
@@ -519,12 +447,12 @@ void CapturePage::ShowPhase() {
                                                         : QString("Trim Front of Video"));
   EndHerebtn_->setText(session_->TrimEndFrame() > 0 ? QString("End at %1").arg(session_->TrimEndFrame())
                                                     : QString("Trim End of Video"));
-  reviewBar_->setVisible(review && !running);
-  if (review != reviewShown_) emit ReviewShown(reviewShown_ = review);
+  review_->Bar()->setVisible(review && !running);
+  review_->SetOn(review);
   stage_->setCurrentIndex(review && !running ? kReviewPage : kLivePage);
 
   live_[1]->setVisible(two);
-  review_[1]->setVisible(two);
+  review_->ShowSecond(two);
   for (int camera = 0; camera < 2; ++camera) {
     live_[camera]->SetWords(Q(session_->CameraWords(camera)));
     live_[camera]->SetBadge(writing ? BadgeText(camera) : QString());
@@ -542,25 +470,7 @@ void CapturePage::ShowPhase() {
   status_->Say(Q(session_->Status()));
   unfinished_->SetUsable(live);
   ShowPlaces();
-  if (review) ShowReview();
-}
-
-void CapturePage::ShowReview() {
-  const int count = players_[0]->FrameCount();
-  const int frame = players_[0]->CurrentFrame();
-  const QSignalBlocker quiet(VidScroll_);
-  if (VidScroll_->Frames() != count) VidScroll_->SetFrames(count);
-  const int end = session_->TrimEndFrame();
-  VidScroll_->SetEnd(end > 0 ? end : count - 1);
-  VidScroll_->SetStart(session_->TrimStartFrame());
-  VidScroll_->SetPosition(frame);
-  frame_->setText(QString("%1 of %2").arg(frame + 1).arg(count));
-}
-
-void CapturePage::SeekReview(int frame) {
-  for (int camera = 0; camera < (session_->TwoCameras() ? 2 : 1); ++camera)
-    players_[camera]->ShowFrame(std::clamp(frame, 0, std::max(0, players_[camera]->FrameCount() - 1)));
-  ShowReview();
+  if (review) review_->Show();
 }
 
 /// Files take the place of cameras, but for a recording that is looked at.
@@ -604,7 +514,7 @@ void CapturePage::SoundCame(double level, bool fired) {
 
 void CapturePage::LivePictureCame(int camera) { live_[camera]->ShowPicture(session_->Latest(camera)); }
 
-IReviewPlayer& CapturePage::ReviewPlayer(int camera) { return *players_[camera]; }
+IReviewPlayer& CapturePage::ReviewPlayer(int camera) { return review_->Player(camera); }
 
 void CapturePage::CaptureChoiceChanged() {
   FillCameras();

@@ -33,10 +33,9 @@ class LiveView;
 class NamingPanel;
 class OfferBar;
 class Panel;
-class PreviewPlayer;
+class ReviewDesk;
 class SearchBar;
 class StatusLine;
-class TrimSlider;
 class UnfinishedBar;
 
 /// The capture page: who is recorded and under what name on the left, the cameras in the middle, and beneath them the
@@ -73,17 +72,11 @@ class CapturePage : public PageWidget, private ICapturePage, private IMeterEvent
   void OneCamTwoOpt_Click(int index);
   void CamChoiceBtn_Click(int index);
 
- signals:
-  /// A recording is under review, or no more.
-  void ReviewShown(bool shown);
-
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  class Player;
-
   QWidget* MakeSide();
   QWidget* MakeCameras();
   QWidget* MakeStage();
@@ -97,11 +90,8 @@ class CapturePage : public PageWidget, private ICapturePage, private IMeterEvent
   void ShowPlaces();
   void ShowPhase();
   void VideoKept();
-  void ShowReview();
   QString BadgeText(int camera) const;
   void AskForCamera();
-  void SeekReview(int frame);
-  void PlayReview();
 
   void CaptureChanged() override;
   void LivePictureCame(int camera) override;
@@ -131,18 +121,13 @@ class CapturePage : public PageWidget, private ICapturePage, private IMeterEvent
   QWidget* choice_;
   std::array<CameraLine*, 2> lines_{};
   std::array<LiveView*, 2> live_{};
-  std::array<PreviewPlayer*, 2> review_{};
-  std::array<std::unique_ptr<Player>, 2> players_;
+  ReviewDesk* review_;
   QStackedWidget* stage_;
   QWidget* actions_;
   QBoxLayout* buttons_;
   ImportPanel* import_;
   std::string lastSaved_;
-  TrimSlider* VidScroll_;
-  QLabel* frame_;
-  QWidget* reviewBar_;
   UnfinishedBar* unfinished_;
-  Button* play_;
   Button* mirror_;
   Button* Capturebtn_;
   Button* StartHerebtn_;
@@ -154,7 +139,6 @@ class CapturePage : public PageWidget, private ICapturePage, private IMeterEvent
   int offered_ = 0;                ///< of the triggered videos that were lost
   bool open_ = false;              ///< on the screen
   bool asked_ = false;             ///< for a camera that is missing
-  bool reviewShown_ = false;
 };
 
 }  // namespace kinalyx
