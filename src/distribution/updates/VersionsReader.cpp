@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <charconv>
 
 namespace kinalyx {
@@ -30,10 +31,10 @@ std::optional<ProductVersion> ReadVersion(std::string_view text, char between) {
 std::optional<ProductVersion> ReadVersions(std::string_view text) {
   for (std::size_t at = text.find(kTag); at != std::string_view::npos; at = text.find(kTag, at + 1)) {
     if (at + kTag.size() >= text.size()) break;
-    const std::string_view record = text.substr(at + kTag.size() + 1);
+    const std::string_view rest = text.substr(at + kTag.size() + 1);
+    const std::string_view record = rest.substr(0, rest.find_first_not_of("0123456789:"));
     // All three stand there, or it is no record.
-    const std::size_t first = record.find(':');
-    if (first == std::string_view::npos || record.find(':', first + 1) == std::string_view::npos) continue;
+    if (std::ranges::count(record, ':') < 2) continue;
     if (auto version = ReadVersion(record, ':')) return version;
   }
   return std::nullopt;

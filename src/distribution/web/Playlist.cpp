@@ -11,6 +11,7 @@ namespace {
 constexpr std::string_view kEnding = ".wmv";
 constexpr std::size_t kMostEntries = 2000;
 constexpr std::size_t kLongestAddress = 2000;
+constexpr std::size_t kLongestEntity = 6;  // a letter can stand there as "&quot;"
 
 char Small(char letter) { return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter; }
 
@@ -33,9 +34,10 @@ PlaylistEntry ReadEntry(std::string_view entry) {
   if (begin == std::string_view::npos) return {};
   const std::size_t from = begin + kHref.size();
   const std::size_t end = entry.find('"', from);
-  if (end == std::string_view::npos || end - from > kLongestAddress) return {};
+  if (end == std::string_view::npos || end - from > kLongestAddress * kLongestEntity) return {};
   PlaylistEntry found;
   found.address = AsUtf8(UnescapeText(entry.substr(from, end - from)));
+  if (found.address.size() > kLongestAddress) return {};
   const std::string name = DecodePath(std::string_view(found.address).substr(found.address.rfind('/') + 1));
   const bool known = found.address.find("://") == std::string::npos || found.address.starts_with("http://") ||
                      found.address.starts_with("https://") || found.address.starts_with("mms://");
