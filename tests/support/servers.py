@@ -188,6 +188,7 @@ class Bad(threading.Thread):
     quithang    takes the message, and is silent when it is told goodbye
     slow        calls back and reads an upload in small bites, for longer than a second
     nobodyin    takes no login before encryption, and has none
+    sink        takes each message as fast as it comes, whatever it says, and keeps the last one as FOLDER/raw
     """
 
     def __init__(self, connection):
@@ -352,6 +353,12 @@ class Bad(threading.Thread):
         if arguments.place == "mailcut":
             self.lines.read(20000)
             return False
+        if arguments.place == "sink":
+            with open(os.path.join(arguments.folder, "raw"), "wb") as raw:
+                for line in iter(self.lines.readline, b".\r\n"):
+                    raw.write(line)
+            self.say("250 taken")
+            return None
         while self.lines.readline() not in (b".\r\n", b""):
             pass
         if arguments.place == "quithang":

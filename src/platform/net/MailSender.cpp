@@ -2,20 +2,14 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <cstdint>
-#include <cstring>
 #include <ctime>
 #include <memory>
 #include <utility>
 #include <vector>
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include "platform/files/Folders.h"
 #include "platform/files/TextEncoding.h"
+#include "platform/net/AttachedFile.h"
 #include "platform/net/CurlSession.h"
 #include "platform/net/IMailSender.h"
 #include "platform/net/MailText.h"
@@ -28,83 +22,6 @@ struct FreeMime {
   void operator()(curl_mime* mime) const { curl_mime_free(mime); }
 };
 using Mime = std::unique_ptr<curl_mime, FreeMime>;
-
-/// A file on its way into a message. It must stay what it was when the message was begun: the readers get the whole of
-/// it, or nothing.
-class AttachedFile {
- public:
-  explicit AttachedFile(const MailAttachment& attachment)
-      : path_(attachment.path), name_(LastName(attachment.name.empty() ? attachment.path : attachment.name)) {}
-  AttachedFile(const AttachedFile&) = delete;
-  AttachedFile& operator=(const AttachedFile&) = delete;
-  ~AttachedFile() {
-    if (file_ >= 0) ::close(file_);
-  }
-
-  Outcome Open() {
-    // O_NONBLOCK: a pipe in the place of the file must not hold us up.
-    file_ = ::open(path_.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-    struct stat info {};
-    if (file_ < 0 || ::fstat(file_, &info) != 0 || !S_ISREG(info.st_mode))
-      return {Fault::NotFound, fmt::format("The file \"{}\" cannot be read: {}.", name_,
-                                           file_ < 0 ? std::strerror(errno) : "it is no file")};
-    size_ = info.st_size;
-    return {};
-  }
-
-  void Join(curl_mime* mime) {
-    curl_mimepart* part = curl_mime_addpart(mime);
-    curl_mime_data_cb(part, size_, &AttachedFile::Read, &AttachedFile::Seek, nullptr, this);
-    curl_mime_encoder(part, "base64");
-    headers_.Add(fmt::format("Content-Type: {};\r\n name={}", ContentTypeOf(name_), EncodedQuoted()));
-    headers_.Add("Content-Disposition: attachment" + EncodedParameter("filename", name_));
-    curl_mime_headers(part, headers_.Get(), 0);
-  }
-
-  std::int64_t Size() const { return size_; }
-  bool Changed() const { return changed_; }
-  const std::string& Name() const { return name_; }
-
- private:
-  /// The name once more, as readers of old look for it.
-  std::string EncodedQuoted() const {
-    const std::string text = EncodedText(name_);
-    std::string quoted = "\"";
-    for (const char letter : text) {
-      if (letter == '"' || letter == '\\') quoted += '\\';
-      quoted += letter;
-    }
-    return quoted + '"';
-  }
-
-  static std::size_t Read(char* bytes, std::size_t size, std::size_t count, void* self) {
-    auto& file = *static_cast<AttachedFile*>(self);
-    const auto wanted = static_cast<std::size_t>(
-        std::min<std::int64_t>(static_cast<std::int64_t>(size * count), file.size_ - file.done_));
-    if (wanted == 0) return 0;
-    const ssize_t got = ::read(file.file_, bytes, wanted);
-    if (got <= 0) {
-      file.changed_ = true;
-      return CURL_READFUNC_ABORT;
-    }
-    file.done_ += got;
-    return static_cast<std::size_t>(got);
-  }
-
-  static int Seek(void* self, curl_off_t offset, int origin) {
-    auto& file = *static_cast<AttachedFile*>(self);
-    if (origin != SEEK_SET || ::lseek(file.file_, offset, SEEK_SET) < 0) return CURL_SEEKFUNC_FAIL;
-    file.done_ = offset;
-    return CURL_SEEKFUNC_OK;
-  }
-
-  std::string path_, name_;
-  int file_ = -1;
-  std::int64_t size_ = 0;
-  std::int64_t done_ = 0;
-  bool changed_ = false;
-  CurlList headers_;
-};
 
 bool Holds(std::string_view text, std::initializer_list<std::string_view> words) {
   const std::string folded = FoldCase(text);
@@ -174,7 +91,7 @@ class MailSender final : public IMailSender {
     std::int64_t total = 0;
     for (const auto& file : files) {
       file->Join(mime.get());
-      total += file->Size() / 3 * 4;
+      total += file->EncodedSize();
     }
     curl_easy_setopt(handle, CURLOPT_MIMEPOST, mime.get());
 
