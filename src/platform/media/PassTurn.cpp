@@ -13,9 +13,12 @@ namespace {
 using namespace std::chrono_literals;
 using Clock = PassTurn::Clock;
 
-/// A pause between two pictures of a slow play is shorter than this.
-constexpr auto kQuiet = 300ms;
-constexpr auto kQuietForShort = 120ms;
+/// How long nothing may have come first before others count as being at rest: twice the pause between two pictures of
+/// a play or a drag, which are those that come further apart than what is done for one of them.
+constexpr auto kLeastQuiet = 60ms;
+constexpr auto kMostQuiet = 300ms;
+constexpr auto kSamePicture = 30ms;
+constexpr auto kLongestPace = 600ms;
 constexpr auto kAnothersTurn = 100ms;
 /// On a battery: how long a video counts as being in hand, and how often is looked.
 constexpr auto kInHand = 10s;
@@ -31,6 +34,7 @@ struct Order {
   std::mutex mutex;
   std::vector<Waiting> waiting;
   std::atomic<Clock::duration> busy{Clock::duration::min() / 2};  ///< when something came first last
+  std::atomic<Clock::duration> pace{Clock::duration::zero()};     ///< from one picture of it to the next
   Clock::time_point lookedAtPower;
   bool onBattery = false;
 
@@ -79,7 +83,8 @@ Clock::duration PassTurn::Delay(bool isShort) const {
   Order& order = TheOrder();
   const std::lock_guard lock(order.mutex);
   const Clock::time_point now = Clock::now();
-  const Clock::duration quiet = isShort ? kQuietForShort : kQuiet;
+  const Clock::duration quiet =
+      std::clamp<Clock::duration>(2 * order.pace.load(), kLeastQuiet, isShort ? kLeastQuiet : kMostQuiet);
   const Waiting& mine = order.Of(*this);
   if (const auto since = now.time_since_epoch() - order.busy.load(); since < quiet) return quiet - since;
   for (const Waiting& other : order.waiting)
@@ -91,7 +96,12 @@ Clock::duration PassTurn::Delay(bool isShort) const {
   return order.onBattery && now - mine.handled > kInHand ? Clock::duration(kLookAtPower) : Clock::duration::zero();
 }
 
-void PassTurn::GiveWay() { TheOrder().busy = Clock::now().time_since_epoch(); }
+void PassTurn::GiveWay() {
+  Order& order = TheOrder();
+  const Clock::duration now = Clock::now().time_since_epoch();
+  const Clock::duration since = now - order.busy.exchange(now);
+  if (since > kSamePicture) order.pace = since < kLongestPace ? since : Clock::duration::zero();
+}
 
 bool OnBattery(const std::string& folder) {
   std::error_code ignored;

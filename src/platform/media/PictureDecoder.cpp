@@ -18,14 +18,17 @@ constexpr int kReorderLag = 32;
 /// As many pixels are decoded in a few seconds: no reason to show a damaged picture other than from the start.
 constexpr std::int64_t kShortWay = std::int64_t{300} * 1920 * 1080;
 
-int Processors() { return std::clamp(static_cast<int>(std::thread::hardware_concurrency()), 1, kMostThreads); }
-
 bool Has(const AVCodecDescriptor* descriptor, int property) { return descriptor && (descriptor->props & property); }
 
 }  // namespace
 
-Result<std::unique_ptr<PictureDecoder>> PictureDecoder::Open(std::unique_ptr<Demuxer> demuxer) {
+int PictureDecoder::UsualThreads() {
+  return std::clamp(static_cast<int>(std::thread::hardware_concurrency()), 1, kMostThreads);
+}
+
+Result<std::unique_ptr<PictureDecoder>> PictureDecoder::Open(std::unique_ptr<Demuxer> demuxer, int threads) {
   std::unique_ptr<PictureDecoder> decoder(new PictureDecoder);
+  decoder->threads_ = std::clamp(threads, 1, kMostThreads);
   decoder->demuxer_ = std::move(demuxer);
   const Demuxer& source = *decoder->demuxer_;
   decoder->order_ = std::make_unique<ShowOrder>(source.Index(), source.Codec(), source.TellsShowTimes());
@@ -56,7 +59,7 @@ Outcome PictureDecoder::OpenCodec() {
   const AVCodecDescriptor* descriptor = avcodec_descriptor_get(parameters.codec_id);
   standsAlone_ = Has(descriptor, AV_CODEC_PROP_INTRA_ONLY);
   // Each thread has a picture of its own in hand.
-  const int threads = std::int64_t{parameters.width} * parameters.height > kManyPixels ? 1 : Processors();
+  const int threads = std::int64_t{parameters.width} * parameters.height > kManyPixels ? 1 : threads_;
   // Pictures that stand for themselves come fast enough, and a thread would only delay them.
   auto opened = NewCodec(standsAlone_ || careful_ ? 1 : threads, FF_THREAD_FRAME | FF_THREAD_SLICE, complaints_);
   if (!opened) return opened.Failure();
@@ -171,7 +174,7 @@ void PictureDecoder::Step(int wholeFrom, const Sink& sink) {
 FrameHandle PictureDecoder::KeyPicture(int chunk, int& picture) {
   running_ = false;
   if (!keyCodec_) {
-    auto opened = NewCodec(Processors(), FF_THREAD_SLICE, keyComplaints_);
+    auto opened = NewCodec(UsualThreads(), FF_THREAD_SLICE, keyComplaints_);
     if (!opened) return nullptr;
     keyCodec_ = std::move(*opened);
   }

@@ -26,8 +26,11 @@ class PictureDecoder {
  public:
   using Sink = std::function<void(int picture, FrameHandle frame)>;
 
-  /// Null when there is no decoder for the stream; `message` then tells why.
-  static Result<std::unique_ptr<PictureDecoder>> Open(std::unique_ptr<Demuxer> demuxer);
+  /// As many as there are processors, up to a few.
+  static int UsualThreads();
+  /// Fails when there is no decoder for the stream.
+  /// @param threads  that may decode at once, each with a picture of its own; one more is fed before one comes out
+  static Result<std::unique_ptr<PictureDecoder>> Open(std::unique_ptr<Demuxer> demuxer, int threads = UsualThreads());
 
   const Demuxer& Source() const { return *demuxer_; }
   const PictureIndex& Index() const { return demuxer_->Index(); }
@@ -76,6 +79,7 @@ class PictureDecoder {
   void Doubt(int picture, int entry);
 
   std::unique_ptr<Demuxer> demuxer_;
+  int threads_ = 1;
   std::unique_ptr<ShowOrder> order_;
   Complaints complaints_{0};  ///< of the threads of the next
   CodecHandle codec_;

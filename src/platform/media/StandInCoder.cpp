@@ -7,20 +7,20 @@
 #include <array>
 #include <cstddef>
 
+#include "platform/media/Colours.h"
+#include "platform/media/ToneMapper.h"
+
 namespace kinalyx {
 namespace {
 
 constexpr std::array kLongSides = {480, 640, 960, 1280};
 /// Of 100: some 40 dB, and a tenth of a byte per pixel.
-constexpr int kQuality = 88;
+constexpr int kQuality = 90;
+/// Behind the packed picture stand its matrix and whether it has the full range.
+constexpr std::size_t kColourBytes = 2;
 
 bool IsPlain420(const AVFrame& frame) {
   return frame.format == AV_PIX_FMT_YUV420P || frame.format == AV_PIX_FMT_YUVJ420P;
-}
-
-bool IsFullRange(const AVFrame& frame) {
-  return frame.color_range == AVCOL_RANGE_JPEG || frame.format == AV_PIX_FMT_YUVJ420P ||
-         frame.format == AV_PIX_FMT_YUVJ422P || frame.format == AV_PIX_FMT_YUVJ444P;
 }
 
 FrameHandle FrameLike(const AVFrame& frame, int width, int height) {
@@ -29,9 +29,6 @@ FrameHandle FrameLike(const AVFrame& frame, int width, int height) {
   made->width = width;
   made->height = height;
   made->format = frame.format;
-  // Where the stream says nothing its colours are told by its size, and that is another now.
-  if (frame.colorspace == AVCOL_SPC_UNSPECIFIED && !IsFullRange(frame))
-    made->colorspace = frame.height >= 720 ? AVCOL_SPC_BT709 : AVCOL_SPC_BT470BG;
   return av_frame_get_buffer(made.get(), 0) < 0 ? nullptr : std::move(made);
 }
 
@@ -75,21 +72,46 @@ std::vector<std::uint8_t> StandInCoder::Pack(const AVFrame& frame, int longSide)
   const FrameHandle scaled = Smaller(frame, longSide);
   if (!scaled && std::max(frame.width, frame.height) > longSide) return {};
   const AVFrame& source = scaled ? *scaled : frame;
-  if (!converter_.Convert(source, 32, rows_)) return {};
   if (!packer_) packer_.reset(tjInitCompress());
   const unsigned long most = tjBufSize(source.width, source.height, TJSAMP_420);
   if (!packer_ || most == static_cast<unsigned long>(-1)) return {};
   packed_.resize(most);
+  // Where rows share their colours two by two, the planes are those of the packed picture already.
+  const bool asItIs = IsPlain420(source) && !HasFieldsApart(source) && !ToneMapper::Wants(source);
+  const unsigned long bytes = asItIs ? PackPlanes(source) : PackRows(source);
+  if (bytes == 0) return {};
+  std::vector<std::uint8_t> made(packed_.begin(), packed_.begin() + static_cast<std::ptrdiff_t>(bytes));
+  made.push_back(static_cast<std::uint8_t>(asItIs ? MatrixOf(source) : Matrix::Tape));
+  made.push_back(!asItIs || IsFullRange(source) ? 1 : 0);
+  return made;
+}
+
+unsigned long StandInCoder::PackPlanes(const AVFrame& picture) {
+  const unsigned char* planes[] = {picture.data[0], picture.data[1], picture.data[2]};
+  const int strides[] = {picture.linesize[0], picture.linesize[1], picture.linesize[2]};
   unsigned char* to = packed_.data();
-  unsigned long bytes = most;
-  if (tjCompress2(packer_.get(), rows_.data(), source.width, RowConverter::RowBytes(source.width, 32), source.height,
-                  TJPF_BGRX, &to, &bytes, TJSAMP_420, kQuality,
-                  TJFLAG_BOTTOMUP | TJFLAG_FASTDCT | TJFLAG_NOREALLOC) != 0)
-    return {};
-  return {packed_.begin(), packed_.begin() + static_cast<std::ptrdiff_t>(bytes)};
+  unsigned long bytes = packed_.size();
+  const int result = tjCompressFromYUVPlanes(packer_.get(), planes, picture.width, strides, picture.height, TJSAMP_420,
+                                             &to, &bytes, kQuality, TJFLAG_FASTDCT | TJFLAG_NOREALLOC);
+  return result == 0 ? bytes : 0;
+}
+
+unsigned long StandInCoder::PackRows(const AVFrame& picture) {
+  if (!converter_.Convert(picture, 32, rows_)) return 0;
+  unsigned char* to = packed_.data();
+  unsigned long bytes = packed_.size();
+  const int result =
+      tjCompress2(packer_.get(), rows_.data(), picture.width, RowConverter::RowBytes(picture.width, 32), picture.height,
+                  TJPF_BGRX, &to, &bytes, TJSAMP_420, kQuality, TJFLAG_BOTTOMUP | TJFLAG_FASTDCT | TJFLAG_NOREALLOC);
+  return result == 0 ? bytes : 0;
 }
 
 FrameHandle StandInCoder::Unpack(std::span<const std::uint8_t> packed) {
+  if (packed.size() <= kColourBytes) return nullptr;
+  const std::uint8_t matrix = packed[packed.size() - 2];
+  const std::uint8_t fullRange = packed[packed.size() - 1];
+  if (matrix > static_cast<std::uint8_t>(Matrix::Wide) || fullRange > 1) return nullptr;
+  packed = packed.first(packed.size() - kColourBytes);
   if (!unpacker_) unpacker_.reset(tjInitDecompress());
   int width = 0, height = 0, sampling = 0, colours = 0;
   if (!unpacker_ || tjDecompressHeader3(unpacker_.get(), packed.data(), static_cast<unsigned long>(packed.size()),
@@ -100,9 +122,9 @@ FrameHandle StandInCoder::Unpack(std::span<const std::uint8_t> packed) {
   FrameHandle frame = NewFrame();
   frame->width = width;
   frame->height = height;
-  frame->format = AV_PIX_FMT_YUVJ420P;
-  frame->color_range = AVCOL_RANGE_JPEG;
-  frame->colorspace = AVCOL_SPC_BT470BG;
+  frame->format = fullRange ? AV_PIX_FMT_YUVJ420P : AV_PIX_FMT_YUV420P;
+  frame->color_range = fullRange ? AVCOL_RANGE_JPEG : AVCOL_RANGE_MPEG;
+  NameMatrix(*frame, static_cast<Matrix>(matrix));
   if (av_frame_get_buffer(frame.get(), 0) < 0) return nullptr;
   int strides[] = {frame->linesize[0], frame->linesize[1], frame->linesize[2]};
   const int result = tjDecompressToYUVPlanes(unpacker_.get(), packed.data(), static_cast<unsigned long>(packed.size()),

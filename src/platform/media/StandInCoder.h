@@ -10,8 +10,8 @@
 
 namespace kinalyx {
 
-/// Packs pictures small, and unpacks them in a few milliseconds. What is packed are the colours as they are
-/// shown, so nothing of the stream has to be known when it is unpacked. Each object for one thread.
+/// Packs pictures small, and unpacks them in a few milliseconds. With a picture is packed what its colours mean, so
+/// nothing of the stream has to be known when it is unpacked. Each object for one thread.
 class StandInCoder {
  public:
   /// The steps in which the longer side of stand-ins grows with the window, in pixels. Larger ones would not
@@ -32,6 +32,9 @@ class StandInCoder {
   using TurboHandle = std::unique_ptr<void, TurboDeleter>;
 
   FrameHandle Scale(const AVFrame& frame, int width, int height);
+  /// Into packed_; the number of bytes, 0 when it failed.
+  unsigned long PackPlanes(const AVFrame& picture);
+  unsigned long PackRows(const AVFrame& picture);
 
   RowConverter converter_;
   ScalerHandle scaler_;

@@ -25,7 +25,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr char kMagic[8] = {'K', 'X', 'S', 'T', 'A', 'N', 'D', '1'};
+constexpr char kMagic[8] = {'K', 'X', 'S', 'T', 'A', 'N', 'D', '2'};
 constexpr char kEnding[] = ".pictures";
 constexpr std::uint32_t kMark = 0x50584B53;
 constexpr std::uint32_t kLargestPicture = 8 << 20;

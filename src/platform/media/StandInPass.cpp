@@ -216,7 +216,8 @@ void StandInPass::Do(const Job& job) {
     return;
   }
   if (!decoder_) {
-    auto opened = PictureDecoder::Open(std::move(source_));
+    // The packer takes a processor every now and then: with one thread more none is ever idle.
+    auto opened = PictureDecoder::Open(std::move(source_), PictureDecoder::UsualThreads() + 1);
     if (!opened) {
       changed_ = true;
       return;
