@@ -8,7 +8,7 @@
 namespace kinalyx {
 
 /// The account for outgoing mail and the instructor's web space, kept in `mail.ini` of the data folder. The file can be
-/// read and written by its owner alone: its two passwords are scrambled, which hides them from a glance and no more.
+/// read and written by its owner alone: its passwords are scrambled, which hides them from a glance and no more.
 class MailSettings {
  public:
   explicit MailSettings(const std::string& dataPath);

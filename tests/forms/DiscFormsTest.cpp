@@ -67,7 +67,7 @@ TEST_F(DiscForms, AnImageFileServesWhereThereIsNoDrive) {
   EXPECT_EQ(host.messages.back(), "You must add some videos 1st!");
   AddVideo("Swing.avi");
   panel.FilesChanged();
-  EXPECT_EQ(Text("TotalSpaceRequired"), "1 MB");
+  EXPECT_EQ(Text("TotalSpaceRequired"), "1MB");
   Press("cmdRecordCD0");
   EXPECT_EQ(host.titles.back(), "Drive Not Ready");
 

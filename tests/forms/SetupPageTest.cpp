@@ -6,6 +6,8 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QSlider>
 #include <QTimer>
@@ -200,13 +202,20 @@ TEST_F(SetupPageTest, AnotherWindowRestartsOnceTheListIsClosed) {
 TEST_F(SetupPageTest, TheWheelTurnsThePageAndChangesNothing) {
   page->resize(900, 700);
   page->show();
-  for (const char* name : {"cboResolution", "Slomoscroll"}) {
+  for (const char* name : {"cboResolution", "Slomoscroll", "BarPicturesCheck"}) {
+    SCOPED_TRACE(name);
     auto* control = Find<QWidget>(name);
     control->setFocus();
+    QScrollArea* section = nullptr;
+    for (QWidget* above = control; above && !section; above = above->parentWidget())
+      section = qobject_cast<QScrollArea*>(above);
+    ASSERT_TRUE(section);
+    section->verticalScrollBar()->setRange(0, 500);
     const QPointF at = control->rect().center();
     QWheelEvent wheel(at, control->mapToGlobal(at), {}, QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
                       Qt::NoScrollPhase, false);
     QApplication::sendEvent(control, &wheel);
+    EXPECT_GT(section->verticalScrollBar()->value(), 0);
   }
   EXPECT_EQ(settings.WindowMode, "1");
   EXPECT_EQ(settings.SlomoSpeed, 25);

@@ -3,10 +3,12 @@
 #include <QBoxLayout>
 #include <QButtonGroup>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QWheelEvent>
 
 #include "platform/widgets/Figures.h"
 #include "platform/widgets/Panel.h"
@@ -85,8 +87,14 @@ void SetupSection::GuardWheel(QWidget& part) {
 }
 
 bool SetupSection::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::Wheel && watched != viewport()) {
-    event->ignore();
+  // The wheel turns the page and never a control of it. The base watches others: through the bar it turns the page.
+  const bool guarded = qobject_cast<QComboBox*>(watched) || qobject_cast<QSlider*>(watched);
+  if (event->type() == QEvent::Wheel && guarded) {
+    const auto& wheel = *static_cast<QWheelEvent*>(event);
+    QWheelEvent onPage(viewport()->mapFromGlobal(wheel.globalPosition()), wheel.globalPosition(), wheel.pixelDelta(),
+                       wheel.angleDelta(), wheel.buttons(), wheel.modifiers(), wheel.phase(), wheel.inverted(),
+                       wheel.source(), wheel.pointingDevice());
+    QCoreApplication::sendEvent(viewport(), &onPage);
     return true;
   }
   return QScrollArea::eventFilter(watched, event);

@@ -1,4 +1,5 @@
 #include "distribution/disc/DiscDesk.h"
+#include "distribution/send/FilesToSend.h"
 
 #include <array>
 #include <ctime>
@@ -166,7 +167,7 @@ std::string DiscDesk::DriveStatus() const {
 }
 
 std::string DiscDesk::SpaceOnCd() const {
-  return report_ && report_->Ready() ? SpaceText(report_->FreeBytes) : std::string();
+  return report_ && report_->Ready() ? MegabytesText(report_->FreeBytes) : std::string();
 }
 
 std::string DiscDesk::Words() const {

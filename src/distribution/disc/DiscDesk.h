@@ -56,7 +56,7 @@ class DiscDesk final {
 
   /// "Drive is Ready", "Drive is NOT Ready", "Unknown".
   std::string DriveStatus() const;
-  /// "4,482 MB"; empty where it is not known.
+  /// "4,482MB"; empty where it is not known.
   std::string SpaceOnCd() const;
   /// Why the drive is not ready, or what lies in it; may be empty.
   std::string Words() const;

@@ -15,7 +15,6 @@ namespace {
 
 /// Of Joliet's 103 characters, less what a sidecar's and a study's ending and a number take.
 constexpr std::size_t kLongestName = 90;
-constexpr std::int64_t kMegabyte = 1 << 20;
 
 bool IsForbidden(char c) {
   return static_cast<unsigned char>(c) < 0x20 || c == 0x7f ||
@@ -117,13 +116,6 @@ DiscPlan PlanDisc(const std::vector<DiscVideoSource>& videos, const std::vector<
     plan.Videos.push_back(std::move(video));
   }
   return plan;
-}
-
-std::string SpaceText(std::int64_t bytes) {
-  std::string digits = std::to_string((std::max<std::int64_t>(0, bytes) + kMegabyte - 1) / kMegabyte);
-  for (std::ptrdiff_t at = static_cast<std::ptrdiff_t>(digits.size()) - 3; at > 0; at -= 3)
-    digits.insert(static_cast<std::size_t>(at), ",");
-  return digits + " MB";
 }
 
 }  // namespace kinalyx

@@ -65,7 +65,4 @@ DiscPlan PlanDisc(const std::vector<DiscVideoSource>& videos, const std::vector<
 /// or dots at its end, at most 90 characters; an ending stays. Names that take none of these stay as they are.
 std::string NameForDisc(const std::string& name);
 
-/// "1,234 MB", rounded up.
-std::string SpaceText(std::int64_t bytes);
-
 }  // namespace kinalyx

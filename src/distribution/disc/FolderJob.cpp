@@ -1,4 +1,5 @@
 #include "distribution/disc/FolderJob.h"
+#include "distribution/send/FilesToSend.h"
 
 #include <utility>
 
@@ -106,7 +107,7 @@ Outcome FolderJob::LookAtTarget() {
   existing_.clear();
   if (const std::int64_t room = FreeBytes(folder_); room >= 0 && room < plan.Bytes())
     return Outcome(Fault::Unwritable,
-                   "There is too little room: " + SpaceText(room) + " of " + SpaceText(plan.Bytes()) + ".");
+                   "There is too little room: " + MegabytesText(room) + " of " + MegabytesText(plan.Bytes()) + ".");
   return {};
 }
 

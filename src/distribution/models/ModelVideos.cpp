@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 #include <mutex>
 #include <utility>
 
@@ -26,6 +27,21 @@ std::string Grouped(std::int64_t number) {
 }
 
 }  // namespace
+
+/// As the library sorts its own.
+std::vector<ServerEntry> InOrderOfNames(std::vector<ServerEntry> entries) {
+  std::map<std::string, ServerEntry> byName;
+  std::vector<std::string> names;
+  for (ServerEntry& entry : entries) {
+    const std::string name = entry.name;
+    if (byName.try_emplace(name, std::move(entry)).second) names.push_back(name);
+  }
+  SortNames(names);
+  std::vector<ServerEntry> sorted;
+  sorted.reserve(names.size());
+  for (const std::string& name : names) sorted.push_back(std::move(byName.at(name)));
+  return sorted;
+}
 
 /// What a worker and this side tell each other.
 struct ModelVideos::Reply {
@@ -101,7 +117,7 @@ void ModelVideos::AskFolder(const std::string& path) {
                target = errand_ == Errand::Videos ? TargetFolder() : ""](ITransferWatch& watch) -> Outcome {
     auto entries = server->List(path, watch);
     if (!entries) return entries.Failure();
-    reply->entries = std::move(*entries);
+    reply->entries = InOrderOfNames(std::move(*entries));
     for (const ServerEntry& entry : reply->entries)
       reply->here.push_back(!target.empty() && EntryExists(JoinPath(target, entry.name)));
     return {};
@@ -147,15 +163,17 @@ void ModelVideos::Download(const std::vector<int>& indexes) {
               .videos = {},
               .besides = besides_};
   bool known = true;
+  std::vector<std::size_t> ordered;
   for (const int index : indexes) {
     if (index < 0 || index >= static_cast<int>(videos_.size())) continue;
-    order.videos.push_back(videos_[static_cast<std::size_t>(index)]);
+    ordered.push_back(static_cast<std::size_t>(index));
+    order.videos.push_back(videos_[ordered.back()]);
     known = known && order.videos.back().bytes >= 0;
     order.total += std::max<std::int64_t>(0, order.videos.back().bytes);
   }
   if (!known) order.total = 0;
   if (order.videos.empty() || !Begin(Errand::Download, {})) return;
-  ordered_ = order.videos.size();
+  ordered_ = std::move(ordered);
   detail_ = "Downloading";
   ShowDownload();
   desk_.Start([server = server_, reply = reply_, order = std::move(order)](ITransferWatch& watch) {
@@ -227,7 +245,7 @@ Outcome ModelVideos::FetchOne(IFileServer& server, const Order& order, std::size
 
 void ModelVideos::ShowDownload() {
   const std::lock_guard lock(reply_->mutex);
-  status_ = fmt::format("Getting Video {} of {}", reply_->current + 1, ordered_);
+  status_ = fmt::format("Getting Video {} of {}", reply_->current + 1, ordered_.size());
   if (reply_->bytesPerSecond > 0) detail_ = "Bytes per Second: " + Grouped(std::llround(reply_->bytesPerSecond));
 }
 
@@ -255,6 +273,11 @@ void ModelVideos::TakeVideos() {
   }
 }
 
+/// The first of the download are in the library now.
+void ModelVideos::MarkFetched(std::size_t count) {
+  for (std::size_t i = 0; i < count && i < ordered_.size(); ++i) videos_[ordered_[i]].here = true;
+}
+
 void ModelVideos::Fail(const Outcome& outcome) {
   if (outcome.Kind() == Fault::Cancelled) {
     status_ = errand_ == Errand::Download ? "Download Cancelled" : "Cancelled";
@@ -279,6 +302,7 @@ std::string ModelVideos::WordsOfEnd() const {
 void ModelVideos::ServerOver(const Outcome& outcome) {
   detail_.clear();
   part_ = -1;
+  if (errand_ == Errand::Download) MarkFetched(outcome ? ordered_.size() : reply_->current);
   if (!outcome) {
     // One that hangs may still hold it.
     server_.reset();

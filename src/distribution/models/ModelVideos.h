@@ -81,6 +81,7 @@ class ModelVideos : private IServerEvents {
                           ITransferWatch& watch);
   void TakeFolders(std::vector<std::string>& folders);
   void TakeVideos();
+  void MarkFetched(std::size_t count);
   void Fail(const Outcome& outcome);
   void ShowDownload();
   std::string WordsOfEnd() const;
@@ -100,7 +101,7 @@ class ModelVideos : private IServerEvents {
   std::string folder_, subfolder_;    ///< that are chosen
   std::string status_ = "Idle", detail_;
   double part_ = -1;
-  std::size_t ordered_ = 0;  ///< videos of the download
+  std::vector<std::size_t> ordered_;  ///< of the videos, those of the download
   ServerDesk desk_;
 };
 

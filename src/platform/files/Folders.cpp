@@ -33,8 +33,8 @@ FileStamp AsStamp(const struct stat& state) {
 
 QString ToQt(const std::string& text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
 
-/// Natural sort by the collation of the user's language: an accent comes after the plain letter or where the
-/// language has it, runs of digits count by value. Names that collate alike are sorted byte by byte.
+}  // namespace
+
 void SortNames(std::vector<std::string>& names) {
   if (names.size() < 2) return;
   // Made anew each time: lists are read by several threads, and it costs less than reading a folder. The
@@ -56,6 +56,8 @@ void SortNames(std::vector<std::string>& names) {
   });
   for (std::size_t i = 0; i < names.size(); ++i) names[i] = std::move(keyed[i].name);
 }
+
+namespace {
 
 enum class Entry { Folder, File };
 

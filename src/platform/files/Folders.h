@@ -52,6 +52,10 @@ std::optional<bool> FileIsThere(const std::string& path);
 /// memory; true when it is there. It takes as long as the drive takes to answer.
 bool TouchPath(const std::string& path);
 
+/// Natural sort by the collation of the user's language: an accent comes after the plain letter or where the
+/// language has it, runs of digits count by value, case does not. Names that collate alike are sorted byte by byte.
+void SortNames(std::vector<std::string>& names);
+
 /// Names of the subfolders, hidden ones left out, sorted as a reader would sort them (letters as in the
 /// user's language, without regard to case, runs of digits by value). An unreadable folder gives an empty list.
 std::vector<std::string> ListFolders(const std::string& folder);

@@ -74,7 +74,7 @@ TEST_F(DiscDeskTest, AsksTheFirstDriveAndRemembersTheChosenOne) {
   desk.Choose(1);
   host.Advance(50);
   EXPECT_EQ(desk.DriveStatus(), "Drive is Ready");
-  EXPECT_EQ(desk.SpaceOnCd(), "4,482 MB");
+  EXPECT_EQ(desk.SpaceOnCd(), "4,482MB");
   EXPECT_EQ(settings.CDBurner, "/dev/sr1");
   // The next day the other drive is not plugged in.
   drives.names.erase(drives.names.begin());

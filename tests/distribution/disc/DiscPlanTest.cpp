@@ -104,9 +104,6 @@ TEST(DiscStudent, IsWhoseFilesAllAre) {
 }
 
 TEST(DiscTexts, ReadAsTheFormShowsThem) {
-  EXPECT_EQ(SpaceText(0), "0 MB");
-  EXPECT_EQ(SpaceText(1), "1 MB");
-  EXPECT_EQ(SpaceText(std::int64_t{4482} << 20), "4,482 MB");
   EXPECT_EQ(ProgressText(std::int64_t{3} << 19, std::int64_t{1234567} << 20), "1.50 / 1,234,567.00MB");
   EXPECT_STREQ(StateText(static_cast<DriveState>(3)), "BACKGROUND FORMAT");
   EXPECT_STREQ(StateText(static_cast<DriveState>(8)), "ABORTING (BURN ERROR)");

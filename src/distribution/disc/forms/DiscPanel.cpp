@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "distribution/disc/forms/BurnForm.h"
+#include "distribution/send/FilesToSend.h"
 #include "platform/files/Folders.h"
 #include "platform/host/DriveWatch.h"
 #include "platform/widgets/Buttons.h"
@@ -123,7 +124,7 @@ void DiscPanel::Open() {
 void DiscPanel::FilesChanged() {
   if (!isVisible()) return;
   const auto bytes = desk_.SpaceRequired(files_.Files());
-  required_->setText(bytes ? Q(SpaceText(*bytes)) : tr("Unknown"));
+  required_->setText(bytes ? Q(MegabytesText(*bytes)) : tr("Unknown"));
 }
 
 void DiscPanel::FillDevices() {

@@ -228,12 +228,11 @@ void InternetSection::AddWords() {
   QVBoxLayout* rows = AddPanel(1, tr("Your Passwords"));
   const QString who = mail_.OwnersAlone() ? tr("you alone can read the file")
                                           : tr("this drive cannot keep others from reading the file");
-  auto* words =
-      MakeLabel("MailFileLbl",
-                tr("The two passwords lie in the file mail.ini of your data folder. They are scrambled there, "
-                   "which hides them from a glance and no more; %1. Do not give it away.")
-                    .arg(who),
-                "muted");
+  auto* words = MakeLabel("MailFileLbl",
+                          tr("The passwords lie in the file mail.ini of your data folder. They are scrambled there, "
+                             "which hides them from a glance and no more; %1. Do not give it away.")
+                              .arg(who),
+                          "muted");
   words->setWordWrap(true);
   rows->addWidget(words);
   fault_ = MakeLabel("MailFault",
@@ -312,6 +311,7 @@ void InternetSection::optMailService_Click(int index) {
 
 void InternetSection::txtEmail_Change(int index) {
   if (settings_.Loading) return;
+  ForgetResult(mailTest_);
   const QString text = txtEmail_[static_cast<std::size_t>(index)]->text();
   if (index != kPort) return Wrote(mail_.Set(kEmailTexts[index], Std(text)));
   // Half a number is none yet.
@@ -322,6 +322,7 @@ void InternetSection::txtEmail_Change(int index) {
 /// A connection is encrypted in one way.
 void InternetSection::ckEmail_Click(int index) {
   if (settings_.Loading) return;
+  ForgetResult(mailTest_);
   const auto store = [this](int each) {
     const auto at = static_cast<std::size_t>(each);
     Wrote(mail_.Set(kEmailFlags[each], ckEmail_[at]->isChecked()));
@@ -337,6 +338,7 @@ void InternetSection::ckEmail_Click(int index) {
 
 void InternetSection::WebIn_Change(int index) {
   if (settings_.Loading) return;
+  ForgetResult(webTest_);
   Wrote(mail_.Set(kWebTexts[index], Std(WebIn_[static_cast<std::size_t>(index)]->text())));
 }
 
@@ -344,6 +346,11 @@ void InternetSection::FTPCombo_Click() {
   if (settings_.Loading) return;
   Wrote(mail_.Set(&MailSettings::NextFTPMode, FTPCombo_->currentIndex()));
   host_.Message(MessageKind::Information, "", "You must restart Kinalyx for this change to take effect.");
+}
+
+/// What a test has found holds no longer once something is changed.
+void InternetSection::ForgetResult(const TestRow& row) {
+  if (row.gauge->isHidden()) row.status->hide();
 }
 
 void InternetSection::btnFTPISPSetup_Click(int index) {

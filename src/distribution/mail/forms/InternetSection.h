@@ -57,6 +57,7 @@ class InternetSection final : public SetupSection, private ITestEvents {
   void AddLogin(QVBoxLayout& rows);
   void AddWebSpace();
   TestRow AddTest(QVBoxLayout& rows, int index, const QString& caption, const QString& name);
+  void ForgetResult(const TestRow& row);
   void AddWords();
   QLineEdit* AddPassword(QVBoxLayout& rows, const QString& name, const QString& caption);
   void ShowService();

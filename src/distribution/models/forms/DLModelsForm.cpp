@@ -87,17 +87,18 @@ QWidget* DLModelsForm::MakeLists() {
   auto* columns = new QHBoxLayout(lists);
   columns->setContentsMargins(0, 0, 0, 0);
   columns->setSpacing(10);
-  const auto add = [&](const char* name, const QString& title, int stretch) {
+  const auto add = [&](const char* name, const QString& title, const QString& hint, int stretch) {
     auto* panel = new Panel(QString(name) + "Title", title);
     auto* list = new NameList(name);
     list->setAccessibleName(title);
+    list->SetHint(hint);
     panel->Body()->addWidget(list);
     columns->addWidget(panel, stretch);
     return list;
   };
-  List1_ = add("List1", tr("Folders"), 2);
-  List2_ = add("List2", tr("Models"), 2);
-  List3_ = add("List3", tr("Videos"), 3);
+  List1_ = add("List1", tr("Folders"), {}, 2);
+  List2_ = add("List2", tr("Models"), tr("Choose a folder."), 2);
+  List3_ = add("List3", tr("Videos"), tr("Choose a model to see the videos."), 3);
   List3_->setSelectionMode(QAbstractItemView::ExtendedSelection);
   return lists;
 }
