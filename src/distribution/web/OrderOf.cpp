@@ -36,7 +36,8 @@ Result<SendOrder> OrderOf(const SendWish& wish, const FilesToSend& files, const 
   if (settings.Logo) order.logo = settings.LogoName;
   order.today = Today();
   order.workFolder = JoinPath(settings.DataPath, "capture/WMVTemp");
-  if (mail.MailConfigured()) order.mailServer = OutgoingServer(mail);
+  if (const Outcome ready = ReadyToSend(mail); !ready) order.mailMissing = ready.Why();
+  order.mailServer = OutgoingServer(mail);
   order.message = NewMessage(mail);
   if (order.mode == SendOrder::Mode::Web && mail.WebConfigured()) {
     auto space = WebSpace(mail);

@@ -23,6 +23,7 @@ constexpr int kLogoQuality = 90;
 constexpr const char* kLogo = "logo.jpg";
 constexpr const char* kPage = "index.html";
 constexpr const char* kPlaylist = "playlist.wvx";
+constexpr const char* kOldPlaylist = "oldplaylist.wvx";
 constexpr std::int64_t kMostMailBytes = 15 << 20;  // both files of a video; a mail grows by a third on its way
 constexpr const char* kWmvBody = "The video is attached. Windows Media Player plays it.";
 constexpr const char* kBothBody =
@@ -31,17 +32,27 @@ constexpr const char* kBothBody =
 
 Outcome Cancelled() { return {Fault::Cancelled, "It was cancelled."}; }
 
-/// Tells on the board how fast an upload goes, and hears there whether it is to stop.
-class UploadWatch final : public ITransferWatch {
+/// Tells on the board how far the transfer of a file or a mail is, and hears there whether it is to stop.
+class BoardWatch : public ITransferWatch {
  public:
-  UploadWatch(SendBoard& board, SendNews news, double from, double share)
+  /// @param from, share  where in its step the transfer begins, and how much of the step it is
+  BoardWatch(SendBoard& board, SendNews news, double from, double share)
       : board_(board), news_(std::move(news)), from_(from), share_(share) {}
   bool Cancelled() override { return board_.Cancelled(); }
   void Progress(std::int64_t bytes, std::int64_t total, double bytesPerSecond) override {
-    news_.part = from_ + (total > 0 ? share_ * static_cast<double>(bytes) / static_cast<double>(total) : 0);
-    if (bytesPerSecond > 0)
-      news_.detail = fmt::format("Upload speed {}kb per second", std::llround(bytesPerSecond / 1024));
-    board_.Tell(news_);
+    const double part = total > 0 ? std::min(1.0, static_cast<double>(bytes) / static_cast<double>(total)) : 0;
+    SendNews news = news_;
+    news.part = from_ + share_ * part;
+    const std::string detail = Detail(part, bytesPerSecond);
+    if (!detail.empty()) news.detail = detail;
+    news_.detail = news.detail;
+    board_.Tell(std::move(news));
+  }
+
+ protected:
+  /// @return empty: what was said last stays
+  virtual std::string Detail(double /*part*/, double bytesPerSecond) const {
+    return bytesPerSecond > 0 ? fmt::format("Upload speed {}kb per second", std::llround(bytesPerSecond / 1024)) : "";
   }
 
  private:
@@ -49,6 +60,22 @@ class UploadWatch final : public ITransferWatch {
   SendNews news_;
   double from_;
   double share_;
+};
+
+/// A mail with a file takes as long as an upload does.
+class MailWatch final : public BoardWatch {
+ public:
+  MailWatch(SendBoard& board, SendNews news, double from, double share, std::string reader)
+      : BoardWatch(board, std::move(news), from, share), reader_(std::move(reader)) {}
+
+ protected:
+  std::string Detail(double part, double /*bytesPerSecond*/) const override {
+    const auto percent = std::lround(part * 100);
+    return percent > 0 ? fmt::format("{}, {}% complete", reader_, percent) : reader_;
+  }
+
+ private:
+  std::string reader_;
 };
 
 }  // namespace
@@ -137,7 +164,8 @@ Outcome SendJob::CheckWeb() {
   return {};
 }
 
-/// What cannot be read is not the same as what is not there: it would be lost with the new page.
+/// What cannot be read is not the same as what is not there: it would be lost with the new page. The playlist stays in
+/// the work folder until the send is over.
 Outcome SendJob::ReadOld() {
   std::string texts[2];
   const std::string paths[] = {plan_.Folder() + "/" + kPage, plan_.Videos() + "/" + kPlaylist};
@@ -147,7 +175,7 @@ Outcome SendJob::ReadOld() {
     else if (text.Kind() != Fault::NotFound) return text.Failure();
   }
   old_ = ReadOldContent(texts[0], texts[1]);
-  return {};
+  return texts[1].empty() ? Outcome() : WriteWholeFile(Work(kOldPlaylist), texts[1]);
 }
 
 // ---------------------------------------------------------------- step 1
@@ -251,7 +279,7 @@ Outcome SendJob::UploadNext() {
   const double all = std::max(1.0, sum(uploads_.begin(), uploads_.end()));
   const double from = sum(uploads_.begin(), at) / all;
   SendNews news{.step = 2, .words = "Uploading to web....", .detail = {}, .part = from};
-  UploadWatch watch(*parts_.board, std::move(news), from, static_cast<double>(at->bytes) / all);
+  BoardWatch watch(*parts_.board, std::move(news), from, static_cast<double>(at->bytes) / all);
   ++next_;
   return server_->Put(at->source, at->path, watch);
 }
@@ -305,18 +333,20 @@ Outcome SendJob::MailNext() {
     if (both) message.attachments.push_back({.path = mp4, .name = item.name + ".mp4"});
     key += "\n" + item.name;
   }
-  return Send(std::move(message), key, reader);
+  return Send(std::move(message), key, mails);
 }
 
-Outcome SendJob::Send(MailMessage message, const std::string& key, const std::string& reader) {
+Outcome SendJob::Send(MailMessage message, const std::string& key, std::size_t mails) {
+  const std::string& reader = message.to.front();
   ++next_;
   if (parts_.memory->mailed.contains(key)) return {};
   SendNews news = parts_.board->News();
-  news.words = "Sending email...";
   news.detail = reader;
   parts_.board->Tell(news);
+  const double share = 1.0 / static_cast<double>(mails);
+  MailWatch watch(*parts_.board, news, news.part, message.attachments.empty() ? 0 : share, reader);
   bool closed = true;
-  const Outcome sent = parts_.servers->Mail()->Send(parts_.order.mailServer, message, *parts_.board, closed);
+  const Outcome sent = parts_.servers->Mail()->Send(parts_.order.mailServer, message, watch, closed);
   if (!sent)
     return sent.Kind() == Fault::Cancelled ? sent : Outcome(sent.Kind(), std::string(kMailFault) + "\n\n" + sent.Why());
   parts_.memory->mailed.insert(key);

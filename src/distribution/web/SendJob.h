@@ -78,7 +78,7 @@ class SendJob final : public IJob {
   Outcome UploadNext();
   Outcome SendPage();
   Outcome MailNext();
-  Outcome Send(MailMessage message, const std::string& key, const std::string& reader);
+  Outcome Send(MailMessage message, const std::string& key, std::size_t mails);
   void MakeLogo();
   void RemoveFiles();
   bool Finish(Outcome how);

@@ -57,7 +57,7 @@ Result<SendPlan> PlanSend(const SendOrder& order) {
     return Outcome(Fault::Refused, "There was a problem creating the company name for the web page.");
   if (plan.student.empty())
     return Outcome(Fault::Refused, "There was a problem creating the " + order.noun + " name for the web page.");
-  if (order.mailServer.host.empty()) return Outcome(Fault::Refused, kMailFault);
+  if (!order.mailMissing.empty()) return Outcome(Fault::Refused, std::string(kMailFault) + "\n\n" + order.mailMissing);
   const bool web = order.mode == SendOrder::Mode::Web;
   if (web && (order.space.address.host.empty() || IsBlankText(order.webAddress)))
     return Outcome(Fault::Refused, kNoSpace);

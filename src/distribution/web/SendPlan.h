@@ -33,7 +33,8 @@ struct SendOrder {
   std::string workFolder;  ///< for what is made on the way; all that is in it goes
   ServerLogin space;       ///< of the web mode
   MailServer mailServer;
-  MailMessage message;  ///< sender, subject and the like; still without readers, text and files
+  std::string mailMissing;  ///< what the mail account lacks, in words for the user; empty where a mail can go out
+  MailMessage message;      ///< sender, subject and the like; still without readers, text and files
 };
 
 /// One file of a send.

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "FakeServers.h"
+#include "WebFakes.h"
 #include "distribution/web/SendSession.h"
 #include "support/TestHost.h"
 #include "support/TestVideos.h"
@@ -41,7 +41,7 @@ class Sending : public testing::Test, protected ISendView {
   void SendLeaves() override { ++leaves; }
 
   TempFolder folder;
-  std::shared_ptr<FakeServers> servers = std::make_shared<FakeServers>();
+  std::shared_ptr<FakeWebServers> servers = std::make_shared<FakeWebServers>();
   std::shared_ptr<SendMemory> memory = std::make_shared<SendMemory>();
   std::shared_ptr<SendBoard> board;
   std::vector<SendNews> said;
@@ -79,6 +79,8 @@ TEST_F(Sending, ASecondSendKeepsWhatThePageShows) {
   ASSERT_TRUE(Run());
   order.files.clear();
   AddVideo("Putt.avi", 9);
+  const std::string list = servers->files[kVideos + "playlist.wvx"];
+  servers->duringPut = [&] { EXPECT_EQ(BytesOf(order.workFolder + "/oldplaylist.wvx"), list); };
   ASSERT_TRUE(Run());
   EXPECT_NE(Page().find("videos/Swing.wmv"), std::string::npos);
   EXPECT_LT(Page().find("videos/Putt.wmv"), Page().find("videos/Swing.wmv"));
@@ -156,6 +158,8 @@ TEST_F(Sending, MailsHoldOneVideoEach) {
   order.mode = SendOrder::Mode::Email;
   AddVideo("Swing.avi");
   AddVideo("Lessons/Łuk.avi", 8, true);
+  std::vector<SendNews> during;
+  servers->duringMail = [&] { during.push_back(board->News()); };
   ASSERT_TRUE(Run());
   EXPECT_TRUE(servers->puts.empty());
   ASSERT_EQ(servers->mails.size(), 2U);
@@ -165,6 +169,8 @@ TEST_F(Sending, MailsHoldOneVideoEach) {
   EXPECT_EQ(servers->mails[1].attachments[1].name, "Łuk.mp4");
   EXPECT_TRUE(servers->bodies[1].starts_with("\x30\x26\xB2\x75"));
   EXPECT_TRUE(Said("Preparing email"));
+  EXPECT_EQ(during[1].detail, "anna@example.org, 50% complete");
+  EXPECT_DOUBLE_EQ(during[1].part, 0.75) << "in the middle of the second of two";
   EXPECT_TRUE(fs::is_empty(order.workFolder));
 }
 
@@ -181,7 +187,7 @@ TEST_F(Sending, CancelWorksInEveryStepAndLeavesNothing) {
   AddVideo("Swing.avi", 40);
   int steps = 0;
   for (bool ended = false; !ended; ++steps) {
-    *servers = FakeServers();
+    *servers = FakeWebServers();
     board = std::make_shared<SendBoard>();
     SendJob job({.order = order, .board = board, .memory = memory, .servers = servers});
     for (int step = 0; step < steps && !ended; ++step) ended = !job.Step();
@@ -193,8 +199,13 @@ TEST_F(Sending, CancelWorksInEveryStepAndLeavesNothing) {
     EXPECT_TRUE(!fs::exists(order.workFolder) || fs::is_empty(order.workFolder)) << steps;
   }
   EXPECT_GT(steps, 8);
-  *servers = FakeServers();
+  *servers = FakeWebServers();
   servers->duringPut = [this] { board->Stop(); };
+  EXPECT_EQ(Run().Kind(), Fault::Cancelled);
+  EXPECT_TRUE(fs::is_empty(order.workFolder));
+  *servers = FakeWebServers();
+  memory = std::make_shared<SendMemory>();
+  servers->duringMail = [this] { board->Stop(); };
   EXPECT_EQ(Run().Kind(), Fault::Cancelled);
   EXPECT_TRUE(fs::is_empty(order.workFolder));
 }

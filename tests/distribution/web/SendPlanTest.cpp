@@ -1,6 +1,6 @@
 #include "distribution/web/SendPlan.h"
 
-#include "FakeServers.h"
+#include "WebFakes.h"
 
 namespace kinalyx {
 namespace {
@@ -29,7 +29,8 @@ TEST(SendPlan, SaysWhatIsMissing) {
        "There was a problem creating the company name for the web page."},
       {[](SendOrder& order) { order.student = "..", order.noun = "golfer"; },
        "There was a problem creating the golfer name for the web page."},
-      {[](SendOrder& order) { order.mailServer.host.clear(); }, kMailFault},
+      {[](SendOrder& order) { order.mailMissing = "No mail server."; },
+       "Error sending email. Check your email settings in the Program Setup section.\n\nNo mail server."},
       {[](SendOrder& order) { order.space.address.host.clear(); },
        "Enter the web address and the FTP address of your web space in Program Setup first."},
   };

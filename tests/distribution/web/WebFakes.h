@@ -14,13 +14,14 @@
 namespace kinalyx::test {
 
 /// A server of files and one for mail, in memory, that fail when they are told to.
-struct FakeServers final : ISendServers {
+struct FakeWebServers final : ISendServers {
   std::map<std::string, std::string> files;  ///< by path
   std::set<std::string> folders;
   std::vector<std::string> puts;    ///< paths, in their order, that arrived whole
   int putsLeft = -1;                ///< after so many puts the server has gone; -1 never
   std::string unreadable;           ///< a path that fails, though it is there
   std::function<void()> duringPut;  ///< what happens in the middle of one
+  std::function<void()> duringMail;
   std::vector<MailMessage> mails;
   std::vector<std::string> bodies;  ///< bytes of the first file of each
   std::set<std::string> refused;    ///< readers
@@ -30,9 +31,9 @@ struct FakeServers final : ISendServers {
   std::unique_ptr<IMailSender> Mail() override;
 };
 
-class FakeFileServer final : public IFileServer {
+class FakeWebSpace final : public IFileServer {
  public:
-  explicit FakeFileServer(FakeServers& all) : all_(all) {}
+  explicit FakeWebSpace(FakeWebServers& all) : all_(all) {}
 
   Outcome Connect(ITransferWatch&) override { return {}; }
   Result<std::vector<ServerEntry>> List(const std::string& folder, ITransferWatch&) override {
@@ -67,13 +68,16 @@ class FakeFileServer final : public IFileServer {
   }
 
  private:
-  FakeServers& all_;
+  FakeWebServers& all_;
 };
 
-class FakeMailSender final : public IMailSender {
+class FakeWebMail final : public IMailSender {
  public:
-  explicit FakeMailSender(FakeServers& all) : all_(all) {}
-  Outcome Send(const MailServer&, const MailMessage& message, ITransferWatch&, bool& closedCleanly) override {
+  explicit FakeWebMail(FakeWebServers& all) : all_(all) {}
+  Outcome Send(const MailServer&, const MailMessage& message, ITransferWatch& watch, bool& closedCleanly) override {
+    watch.Progress(1, 2, 2048);
+    if (all_.duringMail) all_.duringMail();
+    if (watch.Cancelled()) return {Fault::Cancelled, "cancelled"};
     if (all_.refused.contains(message.to.at(0))) return Outcome::Failed("No such mailbox.");
     all_.mails.push_back(message);
     all_.bodies.push_back(message.attachments.empty() ? "" : BytesOf(message.attachments[0].path));
@@ -82,13 +86,13 @@ class FakeMailSender final : public IMailSender {
   }
 
  private:
-  FakeServers& all_;
+  FakeWebServers& all_;
 };
 
-inline std::unique_ptr<IFileServer> FakeServers::Files(const ServerLogin&) {
-  return std::make_unique<FakeFileServer>(*this);
+inline std::unique_ptr<IFileServer> FakeWebServers::Files(const ServerLogin&) {
+  return std::make_unique<FakeWebSpace>(*this);
 }
-inline std::unique_ptr<IMailSender> FakeServers::Mail() { return std::make_unique<FakeMailSender>(*this); }
+inline std::unique_ptr<IMailSender> FakeWebServers::Mail() { return std::make_unique<FakeWebMail>(*this); }
 
 /// An order that lacks nothing but its files.
 inline SendOrder OrderFor(const std::string& student, const std::string& workFolder) {
