@@ -140,6 +140,19 @@ class FileServer final : public IFileServer {
     return why;
   }
 
+  Outcome RemoveLeftovers(const std::string& path, std::span<const ServerEntry> entries,
+                          ITransferWatch& watch) override {
+    auto parts = BelowFile(path, watch);
+    if (!parts) return parts.Failure();
+    const std::string name = parts->back();
+    parts->pop_back();
+    for (const ServerEntry& entry : entries) {
+      if (entry.folder || !IsPartNameOf(entry.name, name)) continue;
+      if (const CurlEnd end = Remove(*parts, entry.name, watch); !end) return Explained(end);
+    }
+    return {};
+  }
+
   Outcome MakeFolder(const std::string& folder, ITransferWatch& watch) override {
     const auto parts = Below(folder, watch);
     if (!parts) return parts.Failure();

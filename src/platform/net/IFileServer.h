@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -46,6 +47,13 @@ class IFileServer {
   virtual Result<std::string> GetText(const std::string& path, std::int64_t most, ITransferWatch& watch) = 0;
   /// Takes the place of what is there only when all has come.
   virtual Outcome Put(const std::string& source, const std::string& path, ITransferWatch& watch) = 0;
+  /// Removes what uploads to this path have left beside it where they broke off. To be called when a whole file lies
+  /// there: on some servers what is left may be the old one.
+  /// @param entries  what List gave of the folder
+  virtual Outcome RemoveLeftovers(const std::string& /*path*/, std::span<const ServerEntry> /*entries*/,
+                                  ITransferWatch& /*watch*/) {
+    return {};
+  }
   /// With all folders above it; one that is there already is fine.
   virtual Outcome MakeFolder(const std::string& folder, ITransferWatch& watch) = 0;
 };

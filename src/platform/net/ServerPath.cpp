@@ -27,10 +27,30 @@ Result<std::vector<std::string>> PartsOf(const std::string& path) {
   return parts;
 }
 
+namespace {
+
+constexpr std::string_view kPartEnding = ".part";
+
+/// What the name of a part begins with.
+std::string StartOfPart(const std::string& name) {
+  constexpr std::size_t kLongest = 150;
+  return std::string(CutUtf8(name, kLongest));
+}
+
+}  // namespace
+
 std::string PartNameOnServer(const std::string& name) {
   // Without the dot in front: some servers take no hidden files.
-  constexpr std::size_t kLongest = 150;
-  return LastName(PartNameBeside(std::string(CutUtf8(name, kLongest)))).substr(1);
+  return LastName(PartNameBeside(StartOfPart(name))).substr(1);
+}
+
+bool IsPartNameOf(const std::string& part, const std::string& name) {
+  static const std::string kMade = PartNameOnServer("x");
+  const std::string start = StartOfPart(name);
+  if (!part.starts_with(start) || part.size() != start.size() + kMade.size() - 1 || !part.ends_with(kPartEnding))
+    return false;
+  const std::string own = part.substr(start.size(), part.size() - start.size() - kPartEnding.size());
+  return own.starts_with('.') && own.find_first_not_of("0123456789abcdef", 1) == std::string::npos;
 }
 
 }  // namespace kinalyx

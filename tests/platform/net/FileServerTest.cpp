@@ -5,6 +5,7 @@
 #include "NetFixture.h"
 #include "support/TestDisks.h"
 #include "platform/files/Folders.h"
+#include "platform/net/ServerPath.h"
 
 namespace kinalyx::test {
 namespace {
@@ -15,6 +16,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 using testing::UnorderedElementsAre;
+using testing::UnorderedElementsAreArray;
 
 /// A server of files, the folder that it serves, and a folder here.
 class FileServerTest : public testing::Test {
@@ -202,6 +204,24 @@ TEST_F(FileServerTest, ACancelledUploadLeavesTheOldFile) {
   EXPECT_THAT(Served(), ElementsAre("index.html"));
   ASSERT_TRUE(server->Put(here_.Put("new", "new"), "index.html", watch_)) << "the connection is still good";
   EXPECT_EQ(there_.Get("index.html"), "new");
+}
+
+TEST_F(FileServerTest, WhatABrokenUploadLeftIsRemovedAndNothingElse) {
+  NEEDS(Start());
+  const std::vector<std::string> kOthers{
+      "a.wmv",           "a.wmv.0123456789abcdef.part.bak", "a.wmv.0123456789abcdeg.part",
+      "a.wmv.mine.part", "aa.wmv.0123456789abcdef.part",    "b.wmv"};
+  for (const std::string& name : kOthers) there_.Put(name, "x");
+  const std::string left = PartNameOnServer("a.wmv");
+  there_.Put(left, "x");
+  const auto server = Server();
+  const auto entries = server->List("", watch_);
+  ASSERT_TRUE(entries);
+  EXPECT_TRUE(server->RemoveLeftovers("b.wmv", *entries, watch_));
+  EXPECT_TRUE(std::filesystem::exists(there_.Path(left))) << "of another file";
+  ASSERT_TRUE(server->RemoveLeftovers("a.wmv", *entries, watch_));
+  EXPECT_THAT(Served(), UnorderedElementsAreArray(kOthers));
+  EXPECT_EQ(server->RemoveLeftovers("a.wmv", *entries, watch_).Kind(), Fault::Refused) << "somebody was faster";
 }
 
 TEST_F(FileServerTest, AServerThatRenamesOverNothing) {
