@@ -18,7 +18,9 @@ header p { margin: 0; }
 .style4 { font-size: 1.2rem; font-weight: 600; }
 .company, .student, #date, label, .playlist { color: #9aa5b1; font-size: .9rem; }
 main { padding-top: 0; }
-video { display: block; width: 100%; max-height: 68vh; background: #000; border-radius: .4rem; }
+video { display: block; width: 100%; max-height: max(100vh - 22rem, 56vh); background: #000;
+  border-radius: .4rem; }
+@media (max-height: 30rem) { video { max-height: 80vh; } }
 h1 { font-size: 1.05rem; margin: .7rem 0 0; min-height: 1.5rem; overflow-wrap: anywhere; }
 .row { display: grid; grid-template-columns: repeat(3, 1fr); gap: .5rem; margin: .7rem 0; }
 button, select { width: 100%; min-height: 2.9rem; padding: .4rem .7rem; font: inherit; color: inherit;
@@ -66,7 +68,8 @@ const choose = function () {
   shown = -1;
   part('title').textContent = chosen.text.trim();
   part('date').textContent = note.date ? told(note.date) : '';
-  video.src = chosen.value.replace(/\.wmv$/i, '.mp4');
+  // Some telephones show no picture before they are sent to one.
+  video.src = chosen.value.replace(/\.wmv$/i, '.mp4') + '#t=0.001';
   video.playbackRate = video.defaultPlaybackRate;
 };
 const move = function (pictures) {

@@ -100,6 +100,7 @@ std::string WritePlayerPage(const PlayerPage& page) {
   const std::string coach = EscapeText(page.coach);
   std::string text = "<!DOCTYPE html>\r\n<html lang=\"en\">\r\n<head>\r\n<meta charset=\"utf-8\" />\r\n";
   text += "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\" />\r\n";
+  text += "<link rel=\"icon\" href=\"data:,\" />\r\n";  // else every browser asks the server for one
   text += fmt::format("<title>Video Lessons by {}</title>\r\n<style>\r\n{}</style>\r\n</head>\r\n", coach, kPageStyle);
   text += "<body>\r\n<header>\r\n";
   if (!page.logo.empty()) text += fmt::format("<img src=\"{}\" alt=\"\" />\r\n", EncodePath(page.logo));

@@ -243,9 +243,9 @@ Outcome SendJob::ListVideos() {
   if (Outcome made = server_->MakeFolder(plan_.Videos(), *parts_.board); !made) return made;
   auto there = server_->List(plan_.Videos(), *parts_.board);
   if (!there && there.Kind() != Fault::NotFound) return there.Failure();
-  const std::vector<ServerEntry> entries = there ? std::move(*there) : std::vector<ServerEntry>();
+  if (there) there_ = std::move(*there);
   const auto lies = [&](const std::string& name) {
-    return std::ranges::any_of(entries, [&](const ServerEntry& entry) {
+    return std::ranges::any_of(there_, [&](const ServerEntry& entry) {
       return !entry.folder && entry.name == name && entry.bytes == FileSize(Work(name)).value_or(-2);
     });
   };
@@ -294,9 +294,22 @@ Outcome SendJob::SendPage() {
   if (Outcome written = WriteWholeFile(Work(kPage), page); !written) return written;
   if (Outcome put = server_->Put(Work(kPlaylist), plan_.Videos() + "/" + kPlaylist, *parts_.board); !put) return put;
   if (Outcome put = server_->Put(Work(kPage), plan_.Folder() + "/" + kPage, *parts_.board); !put) return put;
+  RemoveLeftovers();
   next_ = 0;
   phase_ = Phase::Mail;
   return {};
+}
+
+/// Everything is whole now; what earlier sends of the same files left where they broke off takes up room. A server that
+/// does not let it go keeps it.
+void SendJob::RemoveLeftovers() {
+  std::vector<std::string> names{kPlaylist};
+  for (const SendItem& item : plan_.items) {
+    names.push_back(item.name + ".wmv");
+    names.push_back(item.name + ".mp4");
+  }
+  for (const std::string& name : names)
+    if (!server_->RemoveLeftovers(plan_.Videos() + "/" + name, there_, *parts_.board)) return;
 }
 
 // ---------------------------------------------------------------- step 3

@@ -77,6 +77,7 @@ class SendJob final : public IJob {
   Outcome ListVideos();
   Outcome UploadNext();
   Outcome SendPage();
+  void RemoveLeftovers();
   Outcome MailNext();
   Outcome Send(MailMessage message, const std::string& key, std::size_t mails);
   void MakeLogo();
@@ -97,6 +98,7 @@ class SendJob final : public IJob {
   FileStamp source_;
   std::vector<double> frameSeconds_;
   std::vector<Upload> uploads_;
+  std::vector<ServerEntry> there_;  ///< in the folder of the videos before the upload
   std::string logo_;
   bool connecting_ = false;
   bool closedBadly_ = false;

@@ -128,7 +128,10 @@ TEST_F(Sending, ASendThatBrokeOffIsTakenUpWhereverItWas) {
     RemoveWorkFolder(order.workFolder);
     memory = std::make_shared<SendMemory>();
     servers->putsLeft = -1;
+    const std::string left = kVideos + (arrive % 2 == 0 ? "Two.mp4" : "playlist.wvx") + ".part";
+    servers->files[left] = "half of it";
     ASSERT_TRUE(Run());
+    EXPECT_FALSE(servers->files.contains(left));
     EXPECT_LE(servers->puts.size(), static_cast<std::size_t>(7)) << arrive << ": one file twice at the most";
     EXPECT_EQ(servers->files.size(), kept.size() + 4);
     EXPECT_NE(Page().find("videos/Two.wmv"), std::string::npos);

@@ -62,6 +62,12 @@ class FakeWebSpace final : public IFileServer {
     all_.puts.push_back(path);
     return {};
   }
+  Outcome RemoveLeftovers(const std::string& path, std::span<const ServerEntry> entries, ITransferWatch&) override {
+    for (const ServerEntry& entry : entries)
+      if (entry.name.starts_with(LastName(path)) && entry.name.ends_with(".part"))
+        all_.files.erase(FolderOf(path) + "/" + entry.name);
+    return {};
+  }
   Outcome MakeFolder(const std::string& folder, ITransferWatch&) override {
     for (std::string each = folder; each != "."; each = FolderOf(each)) all_.folders.insert(each);
     return {};
