@@ -1,5 +1,6 @@
 #include "distribution/send/forms/SendPage.h"
 
+#include <QBoxLayout>
 #include <filesystem>
 
 #include "../library/TempLibrary.h"
@@ -53,6 +54,21 @@ class SendPageTest : public ::testing::Test, UsesApplication, protected FormDriv
   int changes = 0;
   std::unique_ptr<SendPage> page;
 };
+
+TEST_F(SendPageTest, AWideDiscPanelLeavesTheListsTheirShare) {
+  page->resize(864, 700);
+  QCoreApplication::processEvents();
+  const int alone = List("SendVideoList")->width();
+  auto* disc = new QWidget;
+  (new QLabel(disc))->setFixedWidth(480);
+  auto* row = new QHBoxLayout(disc);
+  row->addWidget(disc->findChild<QLabel*>());
+  page->SetDiscPanel(disc);
+  QCoreApplication::processEvents();
+  page->resize(865, 700);
+  QCoreApplication::processEvents();
+  EXPECT_NEAR(List("SendVideoList")->width(), alone, 1);
+}
 
 TEST_F(SendPageTest, EachWayHasItsWords) {
   EXPECT_EQ(Text("SendWayTitle"), "Send Email with Lessons and Videos");

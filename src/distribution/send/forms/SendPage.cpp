@@ -40,9 +40,8 @@ constexpr Way kWays[] = {{"E-mail", "send", "Each file goes in a mail of its own
 
 const char* WordsOf(SendMode mode) {
   if (mode == SendMode::Web)
-    return "The files are converted and uploaded to your web space; what the page shows already stays. Its link goes "
-           "to "
-           "these addresses:";
+    return "The files are converted and uploaded to your web space; what the page shows already stays. Its link "
+           "goes to these addresses:";
   return "The files are converted, and each goes in a mail of its own to these addresses:";
 }
 
@@ -168,6 +167,8 @@ QWidget* SendPage::MakeAddresses() {
   rows->setSpacing(8);
   words_ = MakeLabel("SendWayWords", {}, "muted");
   words_->setWordWrap(true);
+  // The columns share the width of a narrow window, whatever their words would like.
+  words_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   rows->addWidget(words_);
   auto* grid = new QGridLayout;
   grid->setHorizontalSpacing(10);
@@ -217,10 +218,11 @@ void SendPage::SSCommand4_Click(int index) {
   way_->SetTitle(TitleOf(mode_));
   const bool disc = mode_ == SendMode::Disc;
   ways_->setCurrentIndex(disc ? 1 : 0);
-  // The smaller way leaves its room to the list.
-  for (int i = 0; i < ways_->count(); ++i)
-    ways_->widget(i)->setSizePolicy(QSizePolicy::Preferred,
-                                    i == ways_->currentIndex() ? QSizePolicy::Preferred : QSizePolicy::Ignored);
+  // The smaller way leaves its room to the lists.
+  for (int i = 0; i < ways_->count(); ++i) {
+    const auto policy = i == ways_->currentIndex() ? QSizePolicy::Preferred : QSizePolicy::Ignored;
+    ways_->widget(i)->setSizePolicy(policy, policy);
+  }
   ways_->adjustSize();
   if (disc) return;
   words_->setText(tr(WordsOf(mode_)));

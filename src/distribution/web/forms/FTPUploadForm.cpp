@@ -120,7 +120,9 @@ void FTPUploadForm::SendChanged() {
   gauge_->setVisible(session_.Busy() || phase == SendPhase::Done);
   gauge_->setValue(phase == SendPhase::Done ? kParts : qRound(news.part * kParts));
   words_->setText(failed ? Q(session_.Fault()) : Q(news.words));
-  detail_->setText(failed ? tr("What has been converted and sent already is not done again.") : Q(news.detail));
+  const bool begun = news.step > 1 || news.part > 0;
+  const QString comfort = begun ? tr("What has been converted and sent already is not done again.") : QString();
+  detail_->setText(failed ? comfort : Q(news.detail));
   if (std::exchange(shownPhase_, static_cast<int>(phase)) == static_cast<int>(phase)) return;
   FTPGObtn_->setText(ButtonOf(phase));
   FTPGObtn_->setEnabled(phase != SendPhase::Cancelling);
