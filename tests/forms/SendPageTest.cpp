@@ -60,7 +60,7 @@ TEST_F(SendPageTest, AWideDiscPanelLeavesTheListsTheirShare) {
   QCoreApplication::processEvents();
   const int alone = List("SendVideoList")->width();
   auto* disc = new QWidget;
-  (new QLabel(disc))->setFixedWidth(480);
+  (new QLabel(disc))->setFixedSize(480, 400);
   auto* row = new QHBoxLayout(disc);
   row->addWidget(disc->findChild<QLabel*>());
   page->SetDiscPanel(disc);
@@ -68,6 +68,13 @@ TEST_F(SendPageTest, AWideDiscPanelLeavesTheListsTheirShare) {
   page->resize(865, 700);
   QCoreApplication::processEvents();
   EXPECT_NEAR(List("SendVideoList")->width(), alone, 1);
+  const int high = List("LessonList")->height();
+  Press("SSCommand42");
+  QCoreApplication::processEvents();
+  EXPECT_LT(List("LessonList")->height(), high);
+  Press("SSCommand40");
+  QCoreApplication::processEvents();
+  EXPECT_EQ(List("LessonList")->height(), high);
 }
 
 TEST_F(SendPageTest, EachWayHasItsWords) {

@@ -5,7 +5,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QStackedWidget>
 #include <utility>
 
 #include "distribution/lessons/LessonSaver.h"
@@ -153,9 +152,8 @@ QLayout* SendPage::MakeSending() {
   }
   column->addLayout(modes);
   way_ = new Panel("SendWayTitle", TitleOf(SendMode::Email));
-  ways_ = new QStackedWidget;
-  ways_->addWidget(MakeAddresses());
-  way_->Body()->addWidget(ways_);
+  addresses_ = MakeAddresses();
+  way_->Body()->addWidget(addresses_);
   column->addWidget(way_);
   return column;
 }
@@ -198,7 +196,7 @@ QWidget* SendPage::MakeAddresses() {
 
 void SendPage::SetDiscPanel(QWidget* panel) {
   discPanel_ = panel;
-  ways_->addWidget(panel);
+  way_->Body()->addWidget(panel);
   SSCommand4_Click(static_cast<int>(mode_));
 }
 
@@ -217,13 +215,11 @@ void SendPage::SSCommand4_Click(int index) {
   modes_[static_cast<std::size_t>(SendMode::Disc)]->setVisible(discPanel_ != nullptr);
   way_->SetTitle(TitleOf(mode_));
   const bool disc = mode_ == SendMode::Disc;
-  ways_->setCurrentIndex(disc ? 1 : 0);
-  // The smaller way leaves its room to the lists.
-  for (int i = 0; i < ways_->count(); ++i) {
-    const auto policy = i == ways_->currentIndex() ? QSizePolicy::Preferred : QSizePolicy::Ignored;
-    ways_->widget(i)->setSizePolicy(policy, policy);
-  }
-  ways_->adjustSize();
+  // The smaller way leaves its room to the lists. One goes before the other comes: a narrow window has not room for
+  // both.
+  if (disc) addresses_->hide();
+  if (discPanel_) discPanel_->setVisible(disc);
+  if (!disc) addresses_->show();
   if (disc) return;
   words_->setText(tr(WordsOf(mode_)));
   cmdSendtoWeb_->setText(ButtonOf(mode_));

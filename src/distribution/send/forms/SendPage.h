@@ -13,7 +13,6 @@
 
 class QLabel;
 class QLineEdit;
-class QStackedWidget;
 
 namespace kinalyx {
 
@@ -83,7 +82,7 @@ class SendPage : public PageWidget {
   SendList* sendList_;
   std::array<Button*, 3> modes_{};
   Panel* way_;
-  QStackedWidget* ways_;
+  QWidget* addresses_;
   QWidget* discPanel_ = nullptr;
   QLabel* words_;
   std::array<QLineEdit*, 3> txtSendTo_{};
