@@ -74,7 +74,7 @@ TEST_F(SendPageTest, AWideDiscPanelLeavesTheListsTheirShare) {
   EXPECT_LT(List("LessonList")->height(), high);
   Press("SSCommand40");
   QCoreApplication::processEvents();
-  EXPECT_EQ(List("LessonList")->height(), high);
+  EXPECT_GE(List("LessonList")->height(), high);
 }
 
 TEST_F(SendPageTest, EachWayHasItsWords) {

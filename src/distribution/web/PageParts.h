@@ -51,7 +51,7 @@ document.querySelectorAll('#notes li').forEach(function (note) {
   notes[note.title] = { step: Number(note.dataset.step), date: note.textContent };
 });
 // The middle of a picture is asked for: its edge may give its neighbour.
-let step = 1 / 30, shown = -1;
+let step = 1 / 30, shown = -1, whole = '';
 const told = function (date) {
   const day = new Date(date + 'T12:00:00');
   return isNaN(day) ? date : day.toLocaleDateString(undefined, { year: 'numeric', month: 'long', day: 'numeric' });
@@ -66,6 +66,7 @@ const choose = function () {
   words.textContent = '';
   step = note.step || 1 / 30;
   shown = -1;
+  URL.revokeObjectURL(whole);
   part('title').textContent = chosen.text.trim();
   part('date').textContent = note.date ? told(note.date) : '';
   // Some telephones show no picture before they are sent to one.
@@ -102,6 +103,19 @@ document.addEventListener('keydown', function (key) {
   else if (key.key === 'h' || key.key === 'H') slow();
   else return;
   key.preventDefault();
+});
+// A server that sends no parts of a file lets nobody step: the file is fetched whole.
+video.addEventListener('loadedmetadata', function () {
+  const reach = video.seekable.length > 0 ? video.seekable.end(0) : 0;
+  if (reach > 0 || !/^http/.test(video.src)) return;
+  const from = video.src;
+  fetch(from).then(function (answer) { return answer.blob(); }).then(function (file) {
+    if (video.src !== from) return;
+    const playing = !video.paused;
+    shown = -1;
+    video.src = whole = URL.createObjectURL(file);
+    if (playing) video.play().catch(function () {});
+  }).catch(function () {});
 });
 video.addEventListener('error', function () {
   const link = document.createElement('a');
