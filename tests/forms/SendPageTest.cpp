@@ -138,6 +138,24 @@ TEST_F(SendPageTest, AWayReadsTheAddressAndKeepsWhatWasTyped) {
   EXPECT_EQ(Find<QLineEdit>("txtSendTo0")->placeholderText(), "The profile of this student has no address");
 }
 
+TEST_F(SendPageTest, KeepsItsStudentUntilAnotherIsChosenElsewhere) {
+  ChooseStudent("Żak, Anna");
+  Type("txtSendTo1", "mum@example.org");
+  page->hide();
+  page->show();
+  page->Open();
+  EXPECT_EQ(List("SendStudentList")->currentItem()->text(), "Żak, Anna");
+  EXPECT_EQ(Address(0), "anna@example.org");
+  EXPECT_EQ(Address(1), "mum@example.org");
+  library.File("Demo/Żak, Anna/profile.prf", "[Profile]\r\nE-Mail Address=zak@example.org\r\n");
+  page->Open();
+  EXPECT_EQ(Address(0), "zak@example.org") << "the profile was changed meanwhile";
+  remembered = {"Demo", "Tom", ""};
+  page->Open();
+  EXPECT_EQ(List("SendStudentList")->currentItem()->text(), "Tom");
+  EXPECT_EQ(Address(0), "");
+}
+
 TEST_F(SendPageTest, VideosAndLessonsComeIntoOneListAndLeaveIt) {
   ChooseStudent("Żak, Anna");
   EXPECT_EQ(Rows("SendLessonList"), QStringList{"Grip"});

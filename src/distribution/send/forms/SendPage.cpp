@@ -201,7 +201,9 @@ void SendPage::SetDiscPanel(QWidget* panel) {
 }
 
 void SendPage::Open() {
-  if (!browser_.HasStudent() || remembered_[1] != LastStudent_[1]) remembered_ = LastStudent_;
+  // A student who was chosen elsewhere meanwhile counts more than the one who was chosen here before.
+  if (!browser_.HasStudent() || seenLast_ != LastStudent_) remembered_ = LastStudent_;
+  seenLast_ = LastStudent_;
   browser_.CapfolderSetup();
   lists_->ShowAll();
   sendList_->Show();
@@ -268,16 +270,22 @@ void SendPage::ShowLessons() {
   lessonRows_->SetHint(tr("Select a %1 to see the lessons.").arg(noun));
 }
 
-/// The student's address belongs to the student: another one's takes its place, and what was typed beside it goes.
+/// The student's address belongs to the student: another one's takes its place, and what was typed beside it goes. As
+/// long as it is the same student, what was typed stays.
 void SendPage::ReadAddress() {
-  std::string address;
-  if (browser_.HasStudent())
-    address =
-        host_.Drives()
-            .Ask(settings_.LibraryPath, [folder = browser_.Folder()] { return GetEmailAddress(folder).value_or(""); })
-            .value_or("");
-  for (QLineEdit* box : txtSendTo_) box->clear();
-  txtSendTo_[0]->setText(Q(address).trimmed());
+  const std::string folder = browser_.HasStudent() ? browser_.Folder() : "";
+  QString address;
+  if (!folder.empty())
+    address = Q(host_.Drives()
+                    .Ask(settings_.LibraryPath, [folder] { return GetEmailAddress(folder).value_or(""); })
+                    .value_or(""))
+                  .trimmed();
+  const bool other = std::exchange(addressOf_, folder) != folder;
+  const QString shown = txtSendTo_[0]->text().trimmed();
+  if (other)
+    for (QLineEdit* box : txtSendTo_) box->clear();
+  if (other || shown.isEmpty() || shown == readAddress_) txtSendTo_[0]->setText(address);
+  readAddress_ = address;
   txtSendTo_[0]->setPlaceholderText(
       browser_.HasStudent() ? tr("The profile of this %1 has no address").arg(Q(Vocabulary(settings_).noun()))
                             : QString());

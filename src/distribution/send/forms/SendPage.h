@@ -70,11 +70,14 @@ class SendPage : public PageWidget {
   const LastStudentInfo& LastStudent_;
   FilesToSend& files_;
   LastStudentInfo remembered_;
+  LastStudentInfo seenLast_;  ///< the program's selection when the page was opened last
   LibraryBrowser browser_;
   LibraryLists* lists_;
   VideoRows* rows_;
   std::vector<std::string> lessons_;  ///< paths, row by row
   SendMode mode_ = SendMode::Email;
+  std::string addressOf_;  ///< folder of the student whose address was read last
+  QString readAddress_;    ///< that address
 
   Panel* students_;
   NameList* lessonRows_;
