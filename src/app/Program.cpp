@@ -441,6 +441,7 @@ bool Program::MainMayClose() {
   backToCapture_ = false;
   mirror_->Close();
   liveDraw_->Close();
+  send_->Close();
   RestartFlag_ = restart;
   main_->setUpdatesEnabled(false);
   if (analysis_) {

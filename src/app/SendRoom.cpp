@@ -36,4 +36,8 @@ bool SendRoom::MayClose() {
          parts_.host.Question("", "Videos are still being sent. Do you want to give that up?");
 }
 
+void SendRoom::Close() {
+  if (form_) form_->GiveUp();
+}
+
 }  // namespace kinalyx

@@ -37,6 +37,8 @@ class SendRoom {
   FilesToSend& Files() { return files_; }
   /// Whether the program may end: asks where something is still being sent.
   bool MayClose();
+  /// The program ends: what is being sent is given up, and the form goes.
+  void Close();
 
  private:
   void Send(const SendWish& wish);

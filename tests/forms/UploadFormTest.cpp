@@ -125,5 +125,31 @@ TEST_F(UploadFormTest, IsCancelledAfterAQuestionOrByItsButton) {
   EXPECT_FALSE(form.isVisible());
 }
 
+TEST_F(UploadFormTest, GivesUpWithTheProgram) {
+  form.Open(order);
+  form.GiveUp();
+  EXPECT_FALSE(form.isVisible());
+  form.Open(order);
+  Press("FTPGObtn");
+  host.Advance(1);
+  form.GiveUp();
+  EXPECT_FALSE(form.isVisible());
+  Work();
+  EXPECT_FALSE(form.Busy());
+  EXPECT_TRUE(servers->mails.empty());
+  EXPECT_TRUE(std::filesystem::is_empty(order.workFolder));
+  // A server that fails in that very moment leaves nothing behind either.
+  form.Open(order);
+  Press("FTPGObtn");
+  servers->duringPut = [this] {
+    form.GiveUp();
+    servers->putsLeft = 0;
+  };
+  Work();
+  EXPECT_TRUE(host.notes.empty());
+  form.Open(order);
+  EXPECT_EQ(Button(), "Create Now");
+}
+
 }  // namespace
 }  // namespace kinalyx::test

@@ -95,9 +95,12 @@ void SendSession::Over(IJob* job) {
     memory_ = std::make_shared<SendMemory>();
     board_ = std::make_shared<SendBoard>();
   }
+  if (leaving_) {
+    phase_ = SendPhase::Ready;
+    return Leave();
+  }
   if (!send || send->How().Kind() == kinalyx::Fault::Cancelled) {
     phase_ = SendPhase::Ready;
-    if (leaving_) return Leave();
     board_->Tell({.step = 0, .words = "Cancelled", .detail = {}, .part = 0});
   } else if (send->How()) {
     phase_ = SendPhase::Done;

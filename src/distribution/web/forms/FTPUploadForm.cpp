@@ -138,6 +138,8 @@ void FTPUploadForm::SendLeaves() {
   hide();
 }
 
+void FTPUploadForm::GiveUp() { SendLeaves(); }
+
 void FTPUploadForm::reject() {
   if (session_.Phase() == SendPhase::Running) {
     if (host_.Question(Std(windowTitle()), "The videos are still being sent. Do you want to cancel that?") &&

@@ -27,6 +27,8 @@ class FTPUploadForm : public QDialog, private ISendView {
   /// Shows the form for this order; says in a message what is missing to it.
   void Open(SendOrder order);
   bool Busy() const { return session_.Busy(); }
+  /// Ends what is under way, and goes, without a question.
+  void GiveUp();
 
  public slots:
   /// Asks first where something is under way.
