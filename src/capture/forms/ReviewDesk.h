@@ -58,14 +58,14 @@ class ReviewDesk : public QObject {
   void Seek(int frame);
 
   CaptureSession& session_;
+  bool on_ = false;
   std::array<PreviewPlayer*, 2> players_{};
   std::array<std::unique_ptr<Video>, 2> reviewed_;
-  QWidget* videos_;
-  QWidget* bar_;
   Button* play_ = nullptr;
   TrimSlider* VidScroll_ = nullptr;
   QLabel* frame_ = nullptr;
-  bool on_ = false;
+  QWidget* videos_;  ///< these two last: making them fills all above
+  QWidget* bar_;
 };
 
 }  // namespace kinalyx

@@ -1,10 +1,10 @@
 #include "distribution/disc/DiscDesk.h"
-#include "distribution/send/FilesToSend.h"
 
 #include <array>
 #include <ctime>
 #include <utility>
 
+#include "distribution/send/FilesToSend.h"
 #include "library/LibraryTree.h"
 #include "platform/files/Folders.h"
 #include "platform/host/DriveWatch.h"

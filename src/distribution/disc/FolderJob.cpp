@@ -1,11 +1,11 @@
 #include "distribution/disc/FolderJob.h"
-#include "distribution/send/FilesToSend.h"
 
 #include <utility>
 
 #include <linux/magic.h>
 #include <sys/vfs.h>
 
+#include "distribution/send/FilesToSend.h"
 #include "platform/files/Folders.h"
 #include "platform/files/PartFiles.h"
 
