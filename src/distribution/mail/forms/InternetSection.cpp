@@ -380,8 +380,14 @@ void InternetSection::btnFTPISPSetup_Click(int index) {
 void InternetSection::ShowTests() {
   const bool busy = tests_.Busy();
   for (TestRow* row : {&mailTest_, &webTest_}) {
+    // A button that goes hands the keys to its neighbour, which is not what was meant.
+    if (busy && row->start->hasFocus()) {
+      row->cancel->show();
+      row->cancel->setFocus();
+    }
     row->start->setEnabled(!busy);
     if (busy) continue;
+    if (row->cancel->hasFocus()) row->start->setFocus();
     row->cancel->hide();
     row->gauge->hide();
   }
