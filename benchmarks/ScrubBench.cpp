@@ -34,7 +34,7 @@ namespace fs = std::filesystem;
 
 constexpr int kWindowWidth = 960;
 constexpr int kWindowHeight = 540;
-constexpr double kRightDb = 36;
+constexpr double kRightDb = 35;
 constexpr int kPassNiceness = 5;
 
 /// Forgets what earlier openings of the videos have left.

@@ -26,6 +26,8 @@ constexpr int kFewPictures = 12;
 constexpr int kKeysAround = 60;
 /// Where key pictures stand closer than this, they are not worth a round of their own.
 constexpr int kLongChunk = 8;
+/// Nor where one is decoded faster than this: the user's own jump does it just as well.
+constexpr auto kQuickKey = 40ms;
 /// Packets that the decoder rather works through than enter the file anew.
 constexpr int kReadThrough = 8;
 /// A decoder that has to wait for longer gives its memory back.
@@ -179,7 +181,7 @@ std::optional<StandInPass::Job> StandInPass::Choose() {
 
 std::optional<StandInPass::Job> StandInPass::ChooseKey() {
   const int last = index_.ChunkOfPicture(pictures_ - 1);
-  if (pictures_ / (last + 1) < kLongChunk) return std::nullopt;
+  if (keysAreQuick_ || pictures_ / (last + 1) < kLongChunk) return std::nullopt;
   const int chunk = index_.ChunkOfPicture(focus_);
   for (int away = 0; away <= kKeysAround; ++away) {
     for (const int c : {chunk + away, chunk - away}) {
@@ -240,7 +242,10 @@ void StandInPass::Do(const Job& job) {
 void StandInPass::DoKey(int chunk) {
   keysTried_.insert(chunk);
   int picture = -1;
-  if (FrameHandle frame = decoder_->KeyPicture(chunk, picture)) HandOver(picture, std::move(frame));
+  const auto start = PassTurn::Clock::now();
+  FrameHandle frame = decoder_->KeyPicture(chunk, picture);
+  keysAreQuick_ = frame && PassTurn::Clock::now() - start < kQuickKey;
+  if (frame) HandOver(picture, std::move(frame));
 }
 
 void StandInPass::HandOver(int picture, FrameHandle frame) {

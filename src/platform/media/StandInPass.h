@@ -93,6 +93,7 @@ class StandInPass {
   bool decoding_ = false;  ///< the decoder holds memory
   std::set<int> lost_;
   std::set<int> keysTried_;
+  bool keysAreQuick_ = false;  ///< whoever needs one has it at once
   int chunk_ = -1;        ///< of the job before
   bool changed_ = false;  ///< the file is another one, or cannot be decoded: nothing more is made of it
 
