@@ -88,6 +88,7 @@ std::vector<Settings::Key> Settings::ConfigKeys() {
   add("BarPictures", "1", &BarPictures);
   add("ShortGame", "0", &ShortGame);
   // What is 0 where the file of an older version has no such key, and works there as it did.
+  add("LockByTime", "1", &LockByTime);
   add("ShapeLabels", "1", &ShapeLabels);
   add("AngleFrom", "0", &AngleFrom);
   add("SpeedUnit", "0", &SpeedUnit);

@@ -111,6 +111,7 @@ class Settings {
   std::int32_t VideoFit = 0;     ///< a video that is opened: 1 is shown whole, anything else fills its window's height
   std::int32_t SoundVolume = 0;  ///< percent; 0 is silent
   std::int32_t BarPictures = 0;  ///< 1: pictures of the video along its bar, where there is room
+  std::int32_t LockByTime = 0;   ///< 1: locked videos of different rates go by the time, else by their pictures
   std::int32_t CadWidth = 0;     ///< line width of drawings in pixels
   bool CadOutline = false;
   std::int32_t RandomColor = 0;              ///< 0 single colours, 1 randomized

@@ -118,7 +118,7 @@ class AnalysisWorkspace final : public IFrameInterface,
   void VideosGone(int count, const std::string& name) override;
   std::array<bool, 3> Locks() const override { return compare_.Locks().DualLocked; }
   void LockAgain(const std::array<bool, 3>& locks) override;
-  void FieldsSplit(int) override { compare_.Locks().FieldsSplit(); }
+  void FieldsSplit(int) override { compare_.Locks().VideosChanged(); }
   void GiveWay() override;
   void TakeSquareTool() override;
 

@@ -26,7 +26,7 @@ TEST(KeepingTest, EveryKindComesBackWithItsVideo) {
     drawn.push_back(stage.Points(stage.Shapes().NumShapes - 1));
   }
   // Half a shape is none, and its tool is put down with the video.
-  stage.Key(kKeyF1 + kArrow);
+  stage.Key(kKeyF1 + int{kArrow});
   stage.Click(1, 40, 40);
   stage.Move(1, 80, 80);
   ASSERT_TRUE(stage.Videos().CloseVideo(1));

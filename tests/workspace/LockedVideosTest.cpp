@@ -103,7 +103,7 @@ TEST_F(LockedVideosTest, GroupHoldsAllFourAndReplacesThePairs) {
   EXPECT_EQ(order, (std::vector{4, 1, 2, 3}));  // the current window first
   EXPECT_EQ(Positions(4), (std::vector{6, 7, 3, 17}));
   // A path that is traced on one of them takes the others along.
-  stage_.Key(kKeyF1 + kSwingPath);
+  stage_.Key(kKeyF1 + int{kSwingPath});
   stage_.Click(4, 50, 50);
   EXPECT_EQ(Positions(4), (std::vector{7, 8, 4, 18}));
   ASSERT_TRUE(stage_.Commands().Run("LockAll"));
@@ -150,6 +150,48 @@ TEST_F(LockedVideosTest, PlayTogetherKeepsTheOffsetAtEverySpeed) {
     stage_.signalled = nullptr;
   }
   EXPECT_FALSE(lock_.setTogetherSpeed(0));
+}
+
+TEST_F(LockedVideosTest, VideosOfDifferentRatesGoByTheTime) {
+  Open({{100, 20}, {50, 10}});
+  stage_.Stage().At(1).data.Study.TrueRate = 60;  // the other has 30
+  lock_.HoldByTime(true);
+  ASSERT_TRUE(lock_.ToggleLock());
+  EXPECT_TRUE(lock_.RatesDiffer(1) && lock_.IsHeldByTime(2));
+  EXPECT_EQ(lock_.LockRangeA, (std::array{0, 98, 0, 49}));  // 1.3 s after, which is where slot 2 ends
+  lock_.MoveTogether(DualMove::Forward);
+  EXPECT_EQ(Positions(2), (std::vector{21, 10}));
+  lock_.MoveTogether(DualMove::Forward);
+  EXPECT_EQ(Positions(2), (std::vector{22, 11}));
+  lock_.DualControlScroll(2, 30);
+  EXPECT_EQ(Positions(2), (std::vector{60, 30}));
+  lock_.DualControlScroll(1, 1000);
+  EXPECT_EQ(Positions(2), (std::vector{98, 49}));
+  lock_.MoveTogether(DualMove::Forward);
+  EXPECT_EQ(Positions(2), (std::vector{98, 49}));
+  lock_.MoveTogether(DualMove::Rewind);
+  EXPECT_EQ(Positions(2), (std::vector{0, 0}));
+
+  // Each from its own window at its own pace: the file of slot 1 plays at 30 a second, half as fast as it was.
+  lock_.PlayTogether(1, true);
+  stage_.host.Advance(500);
+  EXPECT_EQ(Positions(2), (std::vector{15, 7}));
+  lock_.StopTogether();
+  lock_.RewindTogether(1);
+  lock_.PlayTogether(2, true);
+  stage_.host.Advance(500);
+  EXPECT_EQ(Positions(2), (std::vector{30, 15}));
+
+  // Without it, or once both are known to have one rate, they go by their pictures, from where they stand.
+  lock_.HoldByTime(false);
+  EXPECT_FALSE(lock_.PlayingTogether() || lock_.IsHeldByTime(1));
+  lock_.MoveTogether(DualMove::Forward);
+  EXPECT_EQ(Positions(2), (std::vector{31, 16}));
+  lock_.HoldByTime(true);
+  stage_.Stage().At(1).data.Study.TrueRate = 0;
+  stage_.Stage().News().Note(kVideoChanged);
+  stage_.EndTurn();
+  EXPECT_FALSE(lock_.IsHeldByTime(1) || lock_.RatesDiffer(1));
 }
 
 TEST_F(LockedVideosTest, PlayTogetherEndsOnTheLastOrBeginsAnew) {

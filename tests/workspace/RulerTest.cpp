@@ -40,7 +40,7 @@ TEST(MeasureTest, BelongsToItsShapeAndGoesWithIt) {
   EXPECT_EQ(stage.window.text, "");
 
   // Under construction it has taken the place of the tool's name, which comes back.
-  stage.Key(kKeyF1 + kLine);
+  stage.Key(kKeyF1 + int{kLine});
   const std::string tool = stage.window.text;
   EXPECT_TRUE(stage.window.colour);
   stage.Click(1, 100, 100);
@@ -89,7 +89,7 @@ TEST(RulerTest, ItsLineIsNoDrawing) {
 
   // A zoom between the two clicks of a drawing finds it, not the line that lies there.
   stage.Draw(kLine, {100, 200}, {140, 200});
-  stage.Key(kKeyF1 + kSquare);
+  stage.Key(kKeyF1 + int{kSquare});
   stage.Click(1, 30, 40);
   stage.Stage().SetZoom(2);
   stage.Click(1, 90, 100);
@@ -140,7 +140,7 @@ TEST(RulerTest, APathWithoutOneOffersIt) {
   OpenStage stage;
   stage.settings.CalibNumberOut = 0;
   const auto trace = [&] {
-    stage.Key(kKeyF1 + kSwingPath);
+    stage.Key(kKeyF1 + int{kSwingPath});
     for (const int x : {60, 90, 130}) stage.Click(1, x, 80);
     stage.Key(kKeyReturn);
     stage.analysis.Tools().ChooseColour(3);
@@ -160,7 +160,7 @@ TEST(RulerTest, SpeedsSayByWhichRateTheyReckon) {
   stage.Click(1, 50, 100);
   stage.Click(1, 150, 100);
   stage.analysis.Ruler().Calibrate(1, kMetres, kMetres);
-  stage.Key(kKeyF1 + kSwingPath);
+  stage.Key(kKeyF1 + int{kSwingPath});
   for (int x = 20; x <= 80; x += 20) stage.Click(1, x, x * x / 20);
   const auto& hint = stage.window.hints[1];
   EXPECT_EQ(hint.first, "") << "while nothing is measured yet";
@@ -194,7 +194,7 @@ TEST(RulerTest, AFigureIsTheSameInEveryWindow) {
   stage.Click(1, 171, 100);
   stage.analysis.Ruler().Calibrate(1, kMetres, kMetres);
   stage.Draw(kLine, {101, 203}, {157, 241});
-  stage.Key(kKeyF1 + kSwingPath);
+  stage.Key(kKeyF1 + int{kSwingPath});
   for (const POINTAPI& point : {POINTAPI{20, 30}, {31, 33}, {47, 45}, {52, 64}}) stage.Click(1, point.x, point.y);
   stage.Click(1, 52, 64, 2);
   stage.Stage().SetScreen(8);  // and one in a window that is much smaller
@@ -217,7 +217,9 @@ TEST(RulerTest, AFigureIsTheSameInEveryWindow) {
     }
     stage.Rest();
     EXPECT_EQ(figures(), drawn) << "saved";
-    if (round == 0) ASSERT_TRUE(stage.Reopen(1));
+    if (round == 0) {
+      ASSERT_TRUE(stage.Reopen(1));
+    }
     stage.MP(1).DrawFrame(4);
   }
 }

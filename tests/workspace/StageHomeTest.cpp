@@ -70,7 +70,9 @@ TEST_F(StageHomeTest, EveryWayThereLeadsBack) {
         stage_.Videos().ReopenClosed();  // what was closed, under the layout and the window from before
         if (slots_.HasVideo(3)) stage_.Videos().CloseVideo(3);
         slots_.SetScreen(8);
-        if (way.name == std::string("all videos closed")) EXPECT_EQ(slots_.CurrentWindow, 5);
+        if (way.name == std::string("all videos closed")) {
+          EXPECT_EQ(slots_.CurrentWindow, 5);
+        }
         slots_.SelectWindow(5);
       }
 }

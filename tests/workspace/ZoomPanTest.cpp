@@ -123,7 +123,7 @@ TEST_F(ZoomPanTest, TheFreeHandMovesWhatIsLargerThanItsWindowAndLeavesNoGap) {
   EXPECT_NEAR(PlayerPlace(slot).Top, -10 * kTwipsPerPixel, kTwipsPerPixel);
   // With a tool in hand the button draws.
   const TwipRect before = PlayerPlace(slot);
-  stage_.Key(kKeyF1 + kLine);
+  stage_.Key(kKeyF1 + int{kLine});
   drag(40, 40);
   EXPECT_EQ(PlayerPlace(slot), before);
 }

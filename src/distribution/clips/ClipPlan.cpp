@@ -19,9 +19,11 @@ std::vector<int> PositionsAt(const ClipScene& scene, std::span<const IFilmTimes*
     const SceneVideo& video = scene.Videos[i];
     int position = lead;
     if (i != scene.Lead)
-      position = video.Locked ? video.Position + lead - leader.Position
-                              : times[i]->PositionAt(times[i]->TimeOf(video.Position) + clock.TimeOf(lead) -
-                                                     clock.TimeOf(leader.Position));
+      position =
+          video.Locked
+              ? video.Position + lead - leader.Position
+              : times[i]->PositionAt(times[i]->TimeOf(video.Position) +
+                                     (clock.TimeOf(lead) - clock.TimeOf(leader.Position)) * leader.Pace / video.Pace);
     positions.push_back(std::clamp(position, 0, std::max(0, times[i]->Count() - 1)));
   }
   return positions;

@@ -7,6 +7,7 @@
 
 #include "workspace/AnalysisWorkspace.h"
 #include "workspace/stage/PlayerPlace.h"
+#include "workspace/stage/TakenRate.h"
 
 namespace kinalyx {
 namespace {
@@ -178,7 +179,10 @@ ClipScene TakeScene(AnalysisWorkspace& analysis, bool allWindows) {
       scene.Videos.push_back(TakeVideo(analysis, slot));
       SceneVideo& video = scene.Videos.back();
       const auto together = compare.Locks().LockedWith(current);
-      video.Locked = std::ranges::find(together, slot) != together.end();
+      const bool goesAlong = std::ranges::find(together, slot) != together.end();
+      const bool byTime = compare.Locks().IsHeldByTime(slot);
+      video.Locked = goesAlong && !byTime;
+      if (goesAlong && byTime) video.Pace = TakenMs(stage.At(slot)) / stage.MP(slot).PositionTime();
     }
     if (mixed) {
       const bool split = mix.Shown() == ShowOption::SplitScreen;

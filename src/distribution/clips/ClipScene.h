@@ -25,6 +25,7 @@ struct SceneVideo {
   FilmDrawings Drawings;
   int Position = 0;      ///< that the player shows
   bool Locked = false;   ///< it keeps its distance from the lead, position by position; else it goes by the clock
+  double Pace = 1;       ///< milliseconds of the movement in one of the file, of videos that a lock holds by the time
   double TimerRate = 0;  ///< positions in a second of the timer; 0: by the file's own times
   double TimerZero = 0;  ///< seconds
 

@@ -12,7 +12,8 @@ constexpr const char* kLeaveCarve = "Leave the transparency carve first (Esc)";
 
 CompareModes::CompareModes(IHost& host, Settings& settings, PlayScheduler& scheduler, Stage& stage, ICompareView& view,
                            ICompareEvents& events)
-    : stage_(stage),
+    : settings_(settings),
+      stage_(stage),
       view_(view),
       locks_(host, scheduler, stage),
       lineUp_(stage, locks_),
@@ -20,7 +21,9 @@ CompareModes::CompareModes(IHost& host, Settings& settings, PlayScheduler& sched
       strip_(host, stage, view, events),
       carve_(host, stage, view, events),
       strobe_(settings, stage, locks_),
-      zoom_(host, stage) {}
+      zoom_(host, stage) {
+  locks_.HoldByTime(settings.LockByTime == 1);
+}
 
 // ---------------------------------------------------------------- one mode at a time
 
@@ -107,6 +110,11 @@ void CompareModes::MPManualSignal() {
 
 // ---------------------------------------------------------------- dual controls
 
+void CompareModes::HoldLocksByTime(bool on) {
+  settings_.Set(settings_.LockByTime, on ? 1 : 0);
+  locks_.HoldByTime(on);
+}
+
 void CompareModes::ShowDual() {
   const int slot = stage_.CurrentWindow;
   DualState state;
@@ -117,6 +125,8 @@ void CompareModes::ShowDual() {
   state.canLockAll = locks_.CanLockAll();
   state.playing = locks_.PlayingTogether(slot);
   state.repeat = locks_.TogetherRepeat();
+  state.ratesDiffer = locks_.RatesDiffer(slot);
+  state.byTime = locks_.IsHeldByTime(slot);
   state.speed = locks_.TogetherSpeed();
   if (state.locked) {
     state.lowest = locks_.BarOf(slot).lowest;
@@ -158,6 +168,7 @@ void CompareModes::StageChanged(unsigned changes) {
     carve_.LayoutChanged();
     strobe_.StateChanged();
   }
+  if (changes & kVideoChanged) locks_.VideosChanged();
   if (changes & kLocksChanged) strobe_.LocksChanged();
   if (changes & kFocusChanged) strobe_.FocusChanged();
   if (changes != kCommandsChanged) ShowDual();

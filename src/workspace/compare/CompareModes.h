@@ -22,6 +22,8 @@ struct DualState {
   bool canLockAll = false;
   bool playing = false;
   bool repeat = false;
+  bool ratesDiffer = false;  ///< of the locked videos
+  bool byTime = false;       ///< they are held by the time
   int speed = 100;  ///< percent
   int lowest = 0;   ///< ends of the shared bar
   int highest = 0;
@@ -64,6 +66,9 @@ class CompareModes {
   bool ZoomShown() const { return zoomShown_; }
   bool StrobeShown() const { return strobeShown_; }
 
+  /// Whether locked videos of different rates go by the time; it is remembered.
+  void HoldLocksByTime(bool on);
+
   /// Why a mode cannot be entered now, as the user is told; empty when it can be entered or left.
   std::string WhyNoTransparency() const;
   std::string WhyNoStrip() const;
@@ -94,6 +99,7 @@ class CompareModes {
   void ShowDual();
 
  private:
+  Settings& settings_;
   Stage& stage_;
   ICompareView& view_;
   LockedVideos locks_;

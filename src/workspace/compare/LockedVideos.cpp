@@ -1,8 +1,10 @@
 #include "workspace/compare/LockedVideos.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "video/PlayClock.h"
+#include "workspace/stage/TakenRate.h"
 #include "workspace/videos/PlayerMoves.h"
 
 namespace kinalyx {
@@ -13,11 +15,15 @@ constexpr int kPairThreeFour = 1;
 constexpr int kAllFour = 2;
 constexpr int kLockable = 4;  // slots that a lock can hold
 constexpr int kFastest = 1000;
+/// Rates are the same as long as a minute of one lasts no more than a second longer in the other: 59.94 and 60.
+constexpr double kSameRate = 1.0 / 60;
+/// Of a position, for what comes out a little short of it in reckoning.
+constexpr double kHair = 1e-6;
 
 }  // namespace
 
-/// The common play. Counts the distance from the lowest positions; every video shows its own lowest
-/// position plus that one distance, so no two can drift apart.
+/// The common play. Counts how far one of the videos is from its lowest position; every other shows what belongs to
+/// that, so no two can drift apart.
 class LockedVideos::Run final : public IPlayRun {
  public:
   Run(PlayScheduler& scheduler, LockedVideos& videos) : scheduler_(scheduler), videos_(videos) {}
@@ -36,6 +42,7 @@ class LockedVideos::Run final : public IPlayRun {
   };
   void Begin(std::vector<int> slots, const Way& way, double interval) {
     slots_ = std::move(slots);
+    counting_ = videos_.Counting(slots_);
     first_ = way.first;
     last_ = way.last;
     back_ = way.back;
@@ -63,11 +70,11 @@ class LockedVideos::Run final : public IPlayRun {
   }
 
  private:
-  const AVIControl& Lead() const { return videos_.stage_.MP(slots_.front()); }
-  int LeadStart() const { return videos_.Lowest(slots_.front()); }
-  /// The lead's times are the clock: a distance falls due when the lead's own picture does.
-  double BeatOf(int distance) const { return Lead().BeatOf(LeadStart() + distance) - Lead().BeatOf(LeadStart()); }
-  int DistanceAt(double beat) const { return Lead().PositionAtBeat(Lead().BeatOf(LeadStart()) + beat) - LeadStart(); }
+  const AVIControl& Counting() const { return videos_.stage_.MP(counting_); }
+  int Start() const { return videos_.Lowest(counting_); }
+  /// The times of the one that counts are the clock: a distance falls due when its own picture does.
+  double BeatOf(int distance) const { return Counting().BeatOf(Start() + distance) - Counting().BeatOf(Start()); }
+  int DistanceAt(double beat) const { return Counting().PositionAtBeat(Counting().BeatOf(Start()) + beat) - Start(); }
   /// Going back, the clock counts how far below the end of the first pictures the play has come.
   int DistanceDue(std::int64_t now) const {
     const double beat = clock_.BeatAt(now);
@@ -92,7 +99,10 @@ class LockedVideos::Run final : public IPlayRun {
     for (const int slot : slots_) {
       // A video that was set going by a control of its own ends what they do together.
       if (videos_.stage_.MP(slot).IsPlaying()) return videos_.Stop(*this);
-      videos_.stage_.MP(slot).DrawFrame(videos_.Lowest(slot) + distance_);
+      AVIControl& player = videos_.stage_.MP(slot);
+      const int position = videos_.Along(slot, counting_, Start() + distance_);
+      // Held by the time, one of fewer pictures shows each for longer.
+      if (slot == counting_ || position != player.Position() || !videos_.IsHeldByTime(slot)) player.DrawFrame(position);
     }
     if (!atEnd) return;
     wrap_ = videos_.repeat_ && !back_ && last_ > first_;
@@ -102,6 +112,7 @@ class LockedVideos::Run final : public IPlayRun {
   PlayScheduler& scheduler_;
   LockedVideos& videos_;
   std::vector<int> slots_;
+  int counting_ = 0;
   PlayClock clock_;
   double top_ = 0;
   int distance_ = 0;
@@ -160,21 +171,75 @@ bool LockedVideos::DualLock(int Which) {
 }
 
 void LockedVideos::SetRanges(const std::vector<int>& slots) {
-  int before = stage_.MP(slots.front()).Position();
-  int after = stage_.MP(slots.front()).VideoLength() - before - 1;
+  const bool byTime = holdByTime_ && RatesDiffer(slots);
   for (const int slot : slots) {
     const AVIControl& player = stage_.MP(slot);
-    before = std::min(before, player.Position());
-    after = std::min(after, player.VideoLength() - player.Position() - 1);
+    TieOf(slot) = {player.Position(), player.VideoLength(), TakenMs(stage_.At(slot)), byTime};
+  }
+  // So far as every one of them reaches, in positions or in milliseconds.
+  double before = INFINITY;
+  double after = INFINITY;
+  for (const int slot : slots) {
+    const Tie& tie = TieOf(slot);
+    before = std::min(before, byTime ? -MomentOf(slot, 0) : tie.anchor);
+    after = std::min(after, byTime ? MomentOf(slot, tie.length - 1) : tie.length - tie.anchor - 1);
   }
   for (const int slot : slots) {
-    const AVIControl& player = stage_.MP(slot);
     std::array<int, 4>& range = slot <= 2 ? LockRangeA : LockRangeB;
     const auto first = static_cast<std::size_t>((slot - 1) % 2 * 2);
-    range[first] = player.Position() - before;
-    range[first + 1] = player.Position() + after - 1;
-    lengths_[static_cast<std::size_t>(slot - 1)] = player.VideoLength();
+    const int anchor = TieOf(slot).anchor;
+    range[first] = byTime ? PositionAt(slot, -before) : anchor - static_cast<int>(before);
+    range[first + 1] = byTime ? PositionAt(slot, after) : anchor + static_cast<int>(after) - 1;
   }
+}
+
+// ---------------------------------------------------------------- what belongs together
+
+bool LockedVideos::RatesDiffer(const std::vector<int>& slots) const {
+  if (slots.empty() || !AllOpen(slots)) return false;
+  const double first = TakenMs(stage_.At(slots.front()));
+  return std::ranges::any_of(slots, [&](int slot) {
+    const double other = TakenMs(stage_.At(slot));
+    return first > 0 && other > 0 && std::abs(first - other) > kSameRate * std::max(first, other);
+  });
+}
+
+bool LockedVideos::RatesDiffer(int slot) const { return RatesDiffer(SlotsOf(LockOf(slot))); }
+
+bool LockedVideos::IsHeldByTime(int slot) const { return IsLocked(slot) && TieOf(slot).byTime; }
+
+void LockedVideos::HoldByTime(bool on) {
+  if (std::exchange(holdByTime_, on) == on) return;
+  VideosChanged();
+}
+
+double LockedVideos::MomentOf(int slot, int position) const {
+  const AVIControl& player = stage_.MP(slot);
+  const Tie& tie = TieOf(slot);
+  return (player.BeatOf(position) - player.BeatOf(tie.anchor)) * tie.takenMs;
+}
+
+int LockedVideos::PositionAt(int slot, double moment) const {
+  const AVIControl& player = stage_.MP(slot);
+  const Tie& tie = TieOf(slot);
+  const int position = player.PositionAtBeat(player.BeatOf(tie.anchor) + moment / tie.takenMs + kHair);
+  return std::clamp(position, 0, tie.length - 1);
+}
+
+int LockedVideos::Along(int slot, int lead, int position) const {
+  if (slot == lead) return position;
+  return TieOf(slot).byTime ? PositionAt(slot, MomentOf(lead, position)) : Lowest(slot) + position - Lowest(lead);
+}
+
+int LockedVideos::Counting(const std::vector<int>& slots) const {
+  if (!TieOf(slots.front()).byTime) return slots.front();
+  return *std::ranges::min_element(slots, {}, [this](int slot) { return TieOf(slot).takenMs; });
+}
+
+double LockedVideos::Interval(const std::vector<int>& slots) const {
+  const int lead = slots.front();
+  const double ms = stage_.MP(lead).PositionTime() * 100 / speed_;
+  return TieOf(lead).byTime ? ms * TieOf(Counting(slots)).takenMs / TieOf(lead).takenMs : ms;
 }
 
 void LockedVideos::Clear(int lock) {
@@ -218,12 +283,15 @@ bool LockedVideos::LockAll() {
   return true;
 }
 
-void LockedVideos::FieldsSplit() {
+void LockedVideos::VideosChanged() {
   for (int lock = 0; lock <= kAllFour; ++lock) {
     if (!DualLocked[static_cast<std::size_t>(lock)]) continue;
     const std::vector<int> slots = SlotsOf(lock);
-    const bool same = std::ranges::all_of(slots, [this](int slot) {
-      return stage_.MP(slot).VideoLength() == lengths_[static_cast<std::size_t>(slot - 1)];
+    const bool byTime = holdByTime_ && RatesDiffer(slots);
+    const bool same = std::ranges::all_of(slots, [&](int slot) {
+      const Tie& tie = TieOf(slot);
+      const bool counts = !byTime || std::abs(TakenMs(stage_.At(slot)) - tie.takenMs) < kHair;
+      return stage_.MP(slot).VideoLength() == tie.length && byTime == tie.byTime && counts;
     });
     if (same) continue;
     StopTogether(slots.front());
@@ -276,11 +344,20 @@ void LockedVideos::DualControlStep(bool Forward) {
 void LockedVideos::StepTogether(int slot, bool forward) {
   StopTogether(slot);
   const std::vector<int> slots = LockedWith(slot);
-  for (const int each : slots) {
+  const int by = forward ? 1 : -1;
+  const auto atEnd = [&](int each) {
     const int position = stage_.MP(each).Position();
-    if (forward ? position >= Highest(each) : position <= Lowest(each)) return;
+    return forward ? position >= Highest(each) : position <= Lowest(each);
+  };
+  if (!IsHeldByTime(slot)) {
+    if (std::ranges::any_of(slots, atEnd)) return;
+    for (const int each : slots) GoTo(stage_.MP(each), stage_.MP(each).Position() + by);
+    return;
   }
-  for (const int each : slots) GoTo(stage_.MP(each), stage_.MP(each).Position() + (forward ? 1 : -1));
+  const int counting = Counting(slots);
+  if (atEnd(counting)) return;
+  const int to = stage_.MP(counting).Position() + by;
+  for (const int each : slots) GoTo(stage_.MP(each), Along(each, counting, to));
 }
 
 void LockedVideos::RewindTogether(int slot) {
@@ -293,8 +370,8 @@ void LockedVideos::DualControlScroll(int slot, int Position) {
   const std::vector<int> slots = LockedWith(slot);
   if (slots.empty()) return;
   const int lowest = Lowest(slot);
-  const int distance = std::clamp(Position - lowest, 0, std::max(0, Highest(slot) - lowest));
-  for (const int each : slots) GoTo(stage_.MP(each), Lowest(each) + distance);
+  const int to = std::clamp(Position, lowest, std::max(lowest, Highest(slot)));
+  for (const int each : slots) GoTo(stage_.MP(each), Along(each, slot, to));
 }
 
 void LockedVideos::Seek(int slot, int position) {
@@ -303,8 +380,11 @@ void LockedVideos::Seek(int slot, int position) {
 }
 
 void LockedVideos::StepPartners(int slot, int by) {
-  for (const int each : LockedWith(slot))
-    if (each != slot) StepBy(stage_.MP(each), by);
+  for (const int each : LockedWith(slot)) {
+    if (each == slot) continue;
+    if (IsHeldByTime(each)) GoTo(stage_.MP(each), Along(each, slot, stage_.MP(slot).Position()));
+    else StepBy(stage_.MP(each), by);
+  }
 }
 
 // ---------------------------------------------------------------- playing together
@@ -328,15 +408,17 @@ void LockedVideos::PlayTogether(int slot, bool forward) {
   if (slots.empty()) return;
   for (const int each : slots) stage_.MP(each).StopPlay();
   const AVIControl& lead = stage_.MP(slot);
-  const int lowest = Lowest(slot);
-  const int end = std::max(0, Highest(slot) - lowest);
+  const int counting = Counting(slots);
+  const int lowest = Lowest(counting);
+  const int end = std::max(0, Highest(counting) - lowest);
   Run::Way way;
   way.back = !forward;
-  way.first = std::clamp(lead.PlayRange().first - lowest, 0, end);
-  way.last = std::clamp(lead.PlayRange().last - lowest, way.first, end);
-  way.start = std::clamp(lead.Position() - lowest, 0, end);
+  way.first = std::clamp(Along(counting, slot, lead.PlayRange().first) - lowest, 0, end);
+  way.last = std::clamp(Along(counting, slot, lead.PlayRange().last) - lowest, way.first, end);
+  way.start = std::clamp(Along(counting, slot, lead.Position()) - lowest, 0, end);
   if (forward && (way.start < way.first || way.start >= way.last - 1)) way.start = way.first;
-  RunOf(slot).Begin(std::move(slots), way, lead.PositionTime() * 100 / speed_);
+  const double interval = Interval(slots);
+  RunOf(slot).Begin(std::move(slots), way, interval);
   NoteChange();
 }
 
@@ -358,7 +440,7 @@ bool LockedVideos::setTogetherSpeed(int percent) {
   if (percent < 1 || percent > kFastest) return false;
   speed_ = percent;
   for (const auto& run : runs_)
-    if (run->Running()) run->SetInterval(stage_.MP(run->Slots().front()).PositionTime() * 100 / speed_);
+    if (run->Running()) run->SetInterval(Interval(run->Slots()));
   NoteChange();
   return true;
 }

@@ -16,7 +16,8 @@ enum class DualMove { Back = 0, Forward = 1, Rewind = 2 };
 
 /// Holds videos together from the positions at which they stand: slots 1 and 2, slots 3 and 4, or all
 /// four. The distance between the positions is the synchronisation that the user chose; whatever moves
-/// locked videos together keeps it to the frame.
+/// locked videos together keeps it to the frame. Videos that were taken at different rates are held by the time
+/// from there instead: one of 60 pictures a second goes by two while one of 30 goes by one.
 class LockedVideos {
  public:
   LockedVideos(IHost& host, PlayScheduler& scheduler, Stage& stage);
@@ -45,6 +46,13 @@ class LockedVideos {
   bool CanLock() const;
   bool CanLockAll() const;
   bool AllLocked() const { return DualLocked[2]; }
+  /// Whether videos of different rates are held by the time; without it by their pictures as all others are. What is
+  /// locked is held anew from where it stands.
+  void HoldByTime(bool on);
+  /// The videos locked with this one were taken at different rates.
+  bool RatesDiffer(int slot) const;
+  /// They are held by the time.
+  bool IsHeldByTime(int slot) const;
 
   /// While true the transport's own commands are refused for the slot.
   bool IsLocked(int slot) const;
@@ -78,7 +86,8 @@ class LockedVideos {
   /// The same for any slot with a video: without a lock it moves alone. A position that is shown already is
   /// left alone.
   void Seek(int slot, int position);
-  /// Moves each video locked with a slot by positions, but for one that has not so many left.
+  /// Moves each video locked with a slot by positions, but for one that has not so many left; where they are held by
+  /// the time, to the moment that the slot shows.
   void StepPartners(int slot, int by);
 
   // --- playing together
@@ -96,7 +105,7 @@ class LockedVideos {
   bool PlayingTogether() const;
   /// A common play moves this slot's video.
   bool PlayingTogether(int slot) const;
-  /// The slot from which it was begun, whose times are its clock; 0 without one.
+  /// The slot from which it was begun; 0 without one.
   int LeadOf(int slot) const;
   bool PlaysBack(int slot) const;
   /// Percent of the current window's own speed, 1 to 1000; others are refused with false. A play goes on
@@ -111,9 +120,9 @@ class LockedVideos {
 
   /// A video leaves its slot.
   void VideoClosing(int slot) { DualUnlock(slot); }
-  /// A locked video may count its positions in another way now (fields split or joined): the lock then
-  /// holds from where the videos stand.
-  void FieldsSplit();
+  /// A locked video may count its positions in another way now (fields split or joined), or be known to have been
+  /// taken at another rate: the lock then holds from where the videos stand.
+  void VideosChanged();
 
  private:
   class Run;
@@ -126,6 +135,25 @@ class LockedVideos {
   int Lowest(int slot) const;
   int Highest(int slot) const;
   void SetRanges(const std::vector<int>& slots);
+  /// How a slot's video counted its positions when its lock took hold.
+  struct Tie {
+    int anchor = 0;      ///< the position at which it stood
+    int length = 0;      ///< positions
+    double takenMs = 0;  ///< of the movement, from one position to the next
+    bool byTime = false;
+  };
+  Tie& TieOf(int slot) { return ties_[static_cast<std::size_t>(slot - 1)]; }
+  const Tie& TieOf(int slot) const { return ties_[static_cast<std::size_t>(slot - 1)]; }
+  bool RatesDiffer(const std::vector<int>& slots) const;
+  /// Milliseconds of the movement from where a slot's video was locked to a position.
+  double MomentOf(int slot, int position) const;
+  int PositionAt(int slot, double moment) const;
+  /// Where a slot's video belongs while one locked with it shows a position.
+  int Along(int slot, int lead, int position) const;
+  /// The slot that counts: where they are held by the time the one with the most pictures, else the first.
+  int Counting(const std::vector<int>& slots) const;
+  /// Milliseconds of a play from one position of the counting slot to the next.
+  double Interval(const std::vector<int>& slots) const;
   void Clear(int lock);
   void Stop(Run& run);
   void NoteChange() { stage_.News().Note(kLocksChanged); }
@@ -133,7 +161,8 @@ class LockedVideos {
   IHost& host_;
   Stage& stage_;
   std::array<std::unique_ptr<Run>, 2> runs_;  ///< of the first pair or all four, and of the second pair
-  std::array<int, 4> lengths_{};              ///< of the locked videos when their ranges were set
+  std::array<Tie, 4> ties_{};
+  bool holdByTime_ = false;
   int speed_ = 100;
   bool repeat_ = false;
 };

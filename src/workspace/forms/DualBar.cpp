@@ -38,6 +38,8 @@ DualBar::DualBar(CompareModes& modes, Stage& theStage, QWidget* parent)
   play_ = add("DualPlayBtn", "play", tr("Play the locked videos together"));
   forward_ = add("DualControl1", "step-forward", tr("Locked videos forward one frame; hold to go on"));
   repeat_ = add("DualRepeatBtn", "loop", tr("Play the locked videos again and again"));
+  byTime_ = add("DualByTimeBtn", "clock", {});
+  byTime_->setCheckable(true);
   FixWidth(play_, 44);
   play_->setProperty("main", true);
   repeat_->setCheckable(true);
@@ -73,6 +75,7 @@ DualBar::DualBar(CompareModes& modes, Stage& theStage, QWidget* parent)
   connect(rewind_, &QToolButton::clicked, this, [&locks] { locks.MoveTogether(DualMove::Rewind); });
   connect(play_, &QToolButton::clicked, this, [&locks] { locks.PlayTogether(); });
   connect(repeat_, &QToolButton::clicked, this, [&locks](bool on) { locks.setTogetherRepeat(on); });
+  connect(byTime_, &QToolButton::clicked, this, [&modes](bool on) { modes.HoldLocksByTime(on); });
   connect(speed_, &QComboBox::currentIndexChanged, this, [this, &locks] {
     if (!setting_) locks.setTogetherSpeed(speed_->currentData().toInt());
   });
@@ -96,6 +99,13 @@ void DualBar::ShowState(const DualState& state) {
   SetStageIcon(play_, state.playing ? "pause" : "play");
   play_->setToolTip(state.playing ? tr("Pause the locked videos") : tr("Play the locked videos together"));
   repeat_->setChecked(state.repeat);
+  byTime_->setVisible(state.ratesDiffer);
+  byTime_->setChecked(state.byTime);
+  byTime_->setToolTip(
+      state.byTime
+          ? tr("These videos were taken at different rates and go by the time. Click to go picture by picture")
+          : tr("These videos were taken at different rates and go picture by picture. Click to go by the time"));
+  byTime_->setAccessibleName(tr("Locked videos go by the time"));
   const int index = speed_->findData(state.speed);
   if (index >= 0) speed_->setCurrentIndex(index);
   scroll_->SetBounds(state.lowest, state.highest, state.position);

@@ -32,6 +32,7 @@ class DualBar : public StagePanel {
   QToolButton* play_;
   QToolButton* forward_;
   QToolButton* repeat_;
+  QToolButton* byTime_;  ///< shown where the locked videos were taken at different rates
   QComboBox* speed_;
   SeekBar* scroll_;
   FigureLabel* line_;

@@ -9,6 +9,7 @@
 
 #include "workspace/transport/Speeds.h"
 #include "workspace/videos/PlayerMoves.h"
+#include "workspace/stage/TakenRate.h"
 
 namespace kinalyx {
 namespace {
@@ -329,18 +330,8 @@ void Transport::ShowMarks() {
 
 // ---------------------------------------------------------------- what is shown
 
-/// Positions per second as they were taken, where they are told otherwise than by the times of the pictures; else 0.
-double Transport::KnownRate(int slot) const {
-  const Slot& at = stage_.At(slot);
-  if (at.SlotFrameRate > 0) return at.SlotFrameRate;
-  if (at.data.RealFrameRate > 0) return at.data.RealFrameRate;
-  const double told = at.MP->Info() ? at.MP->Info()->captureRate : 0;
-  const double taken = at.data.Study.TrueRate > 0 ? at.data.Study.TrueRate : told;
-  return taken * (at.MP->SplitFields() ? 2 : 1);
-}
-
 std::optional<double> Transport::UntoldRate(int slot) const {
-  const bool untold = stage_.HasVideo(slot) && KnownRate(slot) <= 0;
+  const bool untold = stage_.HasVideo(slot) && KnownRate(stage_.At(slot)) <= 0;
   return untold ? std::optional(DisplayRate(slot) / (stage_.MP(slot).SplitFields() ? 2 : 1)) : std::nullopt;
 }
 
@@ -361,7 +352,7 @@ void Transport::SetTrueRate(double rate) {
 
 bool Transport::GoesByOwnTimes(int slot) const {
   const VideoInfo* info = stage_.MP(slot).Info();
-  return info && info->rateVaries && KnownRate(slot) <= 0;
+  return info && info->rateVaries && KnownRate(stage_.At(slot)) <= 0;
 }
 
 double Transport::SecondsAt(int slot, int position) const {
@@ -369,7 +360,7 @@ double Transport::SecondsAt(int slot, int position) const {
 }
 
 double Transport::DisplayRate(int slot) const {
-  if (const double known = KnownRate(slot); known > 0) return known;
+  if (const double known = KnownRate(stage_.At(slot)); known > 0) return known;
   const Slot& at = stage_.At(slot);
   const double rate = at.frameRate * (at.MP->SplitFields() ? 2 : 1);
   return rate > 0 ? rate : 30;  // the file does not tell

@@ -132,7 +132,6 @@ class Transport {
   void HeldStep();
   void ShowPosition();
   void ShowCell(int slot);
-  double KnownRate(int slot) const;
   void MarksChanged();
   void ShowMarks();
 
