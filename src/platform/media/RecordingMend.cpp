@@ -62,6 +62,7 @@ class ChunkWalk {
   std::int64_t TakeClosedParts(const RecordingHead& head);
   void TakeChunk(std::int64_t at, const Head& head);
   void TakeIndex(std::int64_t at, std::uint32_t bytes);
+  std::int64_t TakeDamagedPart(std::int64_t at);
   std::int64_t TakeDamaged(std::int64_t at, const std::optional<Head>& head, std::int64_t next);
   void TakePicture(std::int64_t at, std::uint32_t bytes);
 
@@ -215,7 +216,9 @@ void ChunkWalk::Go(const RecordingHead& knows) {
     // What cannot be brought to an end here is cut, or damaged.
     const auto next = FindNext(at + kHeadBytes);
     if (!next) break;
-    at = TakeDamaged(at, head, *next);
+    // Behind the indexes of a part only the next one can begin.
+    const bool part = !head && parts_.back().indexAt > 0 && *next == at + kPartHeadBytes;
+    at = part ? TakeDamagedPart(at) : TakeDamaged(at, head, *next);
   }
   // The index of the last part is written anew.
   parts_.back().indexAt = 0;
@@ -244,6 +247,18 @@ void ChunkWalk::TakeIndex(std::int64_t at, std::uint32_t bytes) {
   patches_.insert(patches_.end(), patches->begin(), patches->end());
   if (!told.chunks.empty()) end_ = told.EndOf(told.chunks.back());
   walked = std::move(told);
+}
+
+/// Gives a part its head back, with the sizes that stand there.
+/// @return where its first chunk is
+std::int64_t ChunkWalk::TakeDamagedPart(std::int64_t at) {
+  std::array<std::uint8_t, kPartHead> bytes{};
+  (void)file_.Read(at, bytes);
+  patches_.push_back({at, kFileChunk, static_cast<std::uint32_t>(TakeNumber(bytes, 4))});
+  patches_.push_back({at + 8, ChunkName("AVIX"), kListChunk});
+  patches_.push_back({at + 16, static_cast<std::uint32_t>(TakeNumber(bytes, 16)), ChunkName("movi")});
+  parts_.emplace_back().base = at;
+  return end_ = at + kPartHeadBytes;
 }
 
 /// @param next  where things are in order again

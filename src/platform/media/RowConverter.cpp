@@ -281,12 +281,21 @@ bool RowConverter::ByScaler(const AVFrame& frame, const RowTarget& target) {
                                           : colours == Matrix::Wide ? SWS_CS_BT2020
                                                                     : SWS_CS_ITU601);
   sws_setColorspaceDetails(scaler_.get(), matrix, IsFullRange(frame), matrix, 1, 0, 1 << 16, 1 << 16);
-  const bool upward = target.height < 0;
-  const std::ptrdiff_t first = upward ? static_cast<std::ptrdiff_t>(frame.height - 1) * target.stride : 0;
-  std::uint8_t* const planes[] = {target.bits + first};
-  const int strides[] = {upward ? -target.stride : target.stride};
-  if (sws_scale(scaler_.get(), frame.data, frame.linesize, 0, frame.height, planes, strides) != frame.height)
+  // The library writes on behind the end of a row: it gets rows that have room for it.
+  if (!scaled_ || scaled_->width != frame.width || scaled_->height != frame.height) {
+    scaled_ = NewFrame();
+    scaled_->width = frame.width;
+    scaled_->height = frame.height;
+    scaled_->format = AV_PIX_FMT_BGRA;
+    if (av_frame_get_buffer(scaled_.get(), 0) < 0) {
+      scaled_.reset();
+      return false;
+    }
+  }
+  if (sws_scale(scaler_.get(), frame.data, frame.linesize, 0, frame.height, scaled_->data, scaled_->linesize) !=
+      frame.height)
     return false;
+  libyuv::ARGBCopy(scaled_->data[0], scaled_->linesize[0], target.bits, target.stride, frame.width, target.height);
   // Transparency of a strange format is no business of a video.
   for (std::size_t i = 3; i < static_cast<std::size_t>(target.stride) * static_cast<std::size_t>(frame.height); i += 4)
     target.bits[i] = 255;

@@ -52,6 +52,7 @@ class RowConverter {
   FrameHandle turned_;                ///< planes after the turn, where they can be turned as they are
   std::vector<std::uint8_t> chroma_;  ///< some rows of chroma on the way from a quarter of the width to a half
   FrameHandle tenBits_;
+  FrameHandle scaled_;  ///< of what the scaler made
   ToneMapper tones_;
   ScalerHandle scaler_;
 };

@@ -3,7 +3,12 @@
 #include <cmath>
 #include <cstring>
 
+extern "C" {
+#include <libavutil/pixdesc.h>
+}
+
 #include "platform/media/Films.h"
+#include "platform/media/RowConverter.h"
 #include "platform/media/VideoFile.h"
 #include "support/TestVideos.h"
 
@@ -65,6 +70,45 @@ void ExpectNear(const std::vector<Rgb>& shown, const std::vector<Rgb>& expected)
   for (std::size_t i = 0; i < shown.size(); ++i) {
     for (std::size_t c = 0; c < 3; ++c)
       EXPECT_NEAR(shown[i][c], expected[i][c], c == 2 ? 11 : 3) << "patch " << i << ", part " << c;
+  }
+}
+
+/// A picture of any planar format: white, and black in its right half.
+FrameHandle HalfWhite(AVPixelFormat format, int width, int height) {
+  FrameHandle frame = NewFrame();
+  frame->format = format;
+  frame->width = width;
+  frame->height = height;
+  av_frame_get_buffer(frame.get(), 0);
+  for (int p = 0; p < 3 && frame->data[p]; ++p) {
+    const int rows = p ? -(-height >> av_pix_fmt_desc_get(format)->log2_chroma_h) : height;
+    for (int y = 0; y < rows; ++y)
+      std::memset(frame->data[p] + y * frame->linesize[p], p ? 128 : 255, static_cast<std::size_t>(frame->linesize[p]));
+  }
+  for (int y = 0; y < height; ++y)
+    std::memset(frame->data[0] + y * frame->linesize[0] + width / 2, 0, static_cast<std::size_t>(width / 2));
+  return frame;
+}
+
+TEST(Colours, RowsOfRareFormatsEndWhereTheyShould) {
+  // A damaged byte makes such a picture of a usual one: its shared colours are told in its head.
+  for (const AVPixelFormat format : {AV_PIX_FMT_YUVJ440P, AV_PIX_FMT_YUV410P, AV_PIX_FMT_GRAY8}) {
+    for (const int width : {90, 86, 34}) {
+      const FrameHandle frame = HalfWhite(format, width, 60);
+      RowConverter converter{PictureShape{}};
+      for (const int bitCount : {24, 32}) {
+        std::vector<std::uint8_t> bits;
+        bits.reserve(static_cast<std::size_t>(RowConverter::RowBytes(width, bitCount)) * 60 + 64);
+        std::fill_n(bits.data(), bits.capacity(), std::uint8_t{77});
+        const FrameRows rows = converter.Convert(*frame, bitCount, bits);
+        ASSERT_TRUE(rows) << format << " " << width;
+        EXPECT_EQ(bits.data()[bits.size()], 77) << format << " " << width;
+        for (int y = 0; y < rows.height; ++y) {
+          EXPECT_GT(rows.bits[y * rows.rowBytes], 230) << format << " " << width << ", row " << y;
+          EXPECT_LT(rows.bits[y * rows.rowBytes + (width - 1) * bitCount / 8], 20) << format << " " << width;
+        }
+      }
+    }
   }
 }
 

@@ -211,6 +211,7 @@ TEST(RecordingFile, ADamagedByteInAFinishedPartCostsOnePictureToo) {
   const std::string path = folder.Path("x.avi");
   constexpr int kPictures = 60;
   std::vector<std::size_t> heads;
+  std::size_t secondPart = 0;
   {
     auto opened = PlacedFile::Open(path, PlacedFile::Which::New);
     ASSERT_TRUE(opened);
@@ -218,9 +219,11 @@ TEST(RecordingFile, ADamagedByteInAFinishedPartCostsOnePictureToo) {
     ASSERT_TRUE(parts.Begin());
     for (int n = 0; n < kPictures; ++n) {
       const std::string bytes = CameraPicture(Codec::Mjpeg, n);
+      const std::size_t before = parts.PartCount();
       EXPECT_TRUE(parts.Append(std::as_bytes(std::span(bytes)), 0, n % 7 == 3 ? 1 : 0, 0));
       EXPECT_TRUE(parts.Settle(0));
       heads.push_back(static_cast<std::size_t>(parts.Bytes()) - bytes.size() - bytes.size() % 2 - 8);
+      if (before == 1 && parts.PartCount() == 2) secondPart = heads.back() - (n % 7 == 3 ? 8 : 0) - 24;
     }
     ASSERT_TRUE(parts.Note(30));
     ASSERT_GE(parts.PartCount(), 2u) << parts.Bytes();
@@ -228,11 +231,12 @@ TEST(RecordingFile, ADamagedByteInAFinishedPartCostsOnePictureToo) {
   const std::string whole = folder.Get("x.avi");
   std::mt19937 dice(5);
   const auto number = [&](std::size_t below) { return std::uniform_int_distribution<std::size_t>(0, below - 1)(dice); };
-  for (int i = 0; i < 20; ++i) {
+  for (int i = 0; i < 32; ++i) {
     std::string damaged = whole;
-    // Every other one hits a head, where it does most.
-    const std::size_t at = i % 2 ? heads[number(heads.size() / 2)] + number(8)
-                                 : RecordingHead::kBytes + number(whole.size() - RecordingHead::kBytes);
+    // Every other one hits the head of a picture, where it does most; the last ones that of a part.
+    const std::size_t at = i >= 20 ? secondPart + static_cast<std::size_t>(2 * (i - 20))
+                           : i % 2 ? heads[number(heads.size() / 2)] + number(8)
+                                   : RecordingHead::kBytes + number(whole.size() - RecordingHead::kBytes);
     damaged[at] = static_cast<char>(damaged[at] ^ (1 << number(8)));
     const std::string broken = folder.Put("damaged.avi", damaged);
     const auto mended = MendRecording(broken);
