@@ -89,7 +89,9 @@ CapturePage::CapturePage(Parts parts, QWidget* parent)
   unfinished_ = new UnfinishedBar(host, JoinPath(parts_.settings.DataPath, "capture"));
   middle->addWidget(unfinished_);
   middle->addWidget(MakeCameras());
-  auto* room = new QHBoxLayout;
+  room_ = new QWidget;
+  auto* room = new QHBoxLayout(room_);
+  room->setContentsMargins(0, 0, 0, 0);
   room->setSpacing(kGap);
   review_ = new ReviewDesk(parts_.services, *session_, *this);
   QWidget* stage = MakeStage();
@@ -105,7 +107,7 @@ CapturePage::CapturePage(Parts parts, QWidget* parent)
                          this, stage);
   room->addWidget(hands_->SidePanel());
   room->addWidget(stage, 1);
-  middle->addLayout(room, 1);
+  middle->addWidget(room_, 1);
   actions_ = MakeActions();
   middle->addWidget(actions_);
   import_ = new ImportPanel(parts_.services, parts_.settings, parts_.naming);
@@ -476,7 +478,7 @@ void CapturePage::ShowPhase() {
 /// Files take the place of cameras, but for a recording that is looked at.
 void CapturePage::ShowPlaces() {
   const bool files = IsImport(parts_.setup.Kind()) && session_->Phase() != CapturePhase::Reviewing;
-  stage_->setVisible(!files);
+  room_->setVisible(!files);
   const bool live = session_->Phase() != CapturePhase::Reviewing || hands_->Running();
   hands_->SetupCapMode(open_ && !files && live);
   actions_->setVisible(!files);

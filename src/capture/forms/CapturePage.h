@@ -122,6 +122,7 @@ class CapturePage : public PageWidget, private ICapturePage, private IMeterEvent
   std::array<CameraLine*, 2> lines_{};
   std::array<LiveView*, 2> live_{};
   ReviewDesk* review_;
+  QWidget* room_;  ///< of the pictures and what stands beside them
   QStackedWidget* stage_;
   QWidget* actions_;
   QBoxLayout* buttons_;

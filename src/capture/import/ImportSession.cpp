@@ -277,6 +277,7 @@ void ImportSession::EndOfStream(const ConvertJob* job) {
       SetStatus("Last Video WAS NOT SAVED");
       parts_.host.Note(MessageKind::Warning, "import: " + job->Error());
       trouble = job->Status() == ConvertJob::State::Unreadable ? kUnreadable : kNotSaved;
+      if (trouble == kNotSaved && !job->Error().empty()) trouble += "\n\n" + AsSentence(job->Error());
       break;
   }
   // Those behind it do not wait until the message has been read.

@@ -63,4 +63,12 @@ class [[nodiscard]] Result {
   Outcome outcome_;
 };
 
+/// A reason as a sentence of its own, for a message.
+inline std::string AsSentence(std::string why) {
+  if (why.empty()) return why;
+  if (why.front() >= 'a' && why.front() <= 'z') why.front() = static_cast<char>(why.front() - 'a' + 'A');
+  if (why.back() != '.') why += '.';
+  return why;
+}
+
 }  // namespace kinalyx
