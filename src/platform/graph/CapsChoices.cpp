@@ -1,6 +1,7 @@
 #include "platform/graph/CapsChoices.h"
 
 #include <fmt/format.h>
+#include <gst/video/video.h>
 
 #include <string>
 #include <string_view>
@@ -23,6 +24,10 @@ struct Coming {
     if (const char* text = gst_structure_get_string(first, "format")) format = text;
     if (const char* text = gst_structure_get_string(first, "interlace-mode"))
       fields = text != std::string_view("progressive");
+    GstVideoInfo info;
+    if (!Raw() || !gst_video_info_from_caps(&info, caps)) return;
+    narrow = GST_VIDEO_INFO_IS_YUV(&info) && info.colorimetry.range == GST_VIDEO_COLOR_RANGE_16_235 &&
+             info.colorimetry.matrix == GST_VIDEO_COLOR_MATRIX_BT601;
   }
 
   bool Raw() const { return kind == "video/x-raw"; }
@@ -33,14 +38,22 @@ struct Coming {
   int width = 0;
   int height = 0;
   bool fields = false;
+  bool narrow = false;  ///< its samples have the matrix of a JPEG, and not the range
 };
 
+/// The samples of a JPEG take the whole range, which the encoder does not see to; nor does the converter, where nothing
+/// but the range is to be changed.
 std::string ToJpeg(const Coming& coming) {
-  const std::string decoded = coming.Raw() ? "" : "decodebin name=decoder ! ";
-  // Colours of half the height would mix those of the two fields. The samples of a JPEG take the whole range, which the
-  // encoder does not see to.
-  return decoded + fmt::format("videoconvert ! video/x-raw,format={},colorimetry=1:4:0:0 ! {}",
-                               coming.fields ? "Y42B" : "I420", kToJpeg);
+  // Colours of half the height would mix those of the two fields.
+  const char* format = coming.fields ? "Y42B" : "I420";
+  if (coming.narrow)
+    return fmt::format(
+        "videoconvert ! video/x-raw,format={},colorimetry=2:4:0:0 ! "
+        "videobalance contrast={:.7f} brightness={:.7f} saturation={:.7f} ! {}",
+        format, 255.0 / 219, -16.0 / 255, 255.0 / 224, kToJpeg);
+  // What a decoder will give is not known yet.
+  const char* decoded = coming.Raw() ? "" : "decodebin name=decoder ! videoconvert ! video/x-raw,format=BGRx ! ";
+  return fmt::format("{}videoconvert ! video/x-raw,format={},colorimetry=1:4:0:0 ! {}", decoded, format, kToJpeg);
 }
 
 class EntryChooser final : public ICapsChooser {
