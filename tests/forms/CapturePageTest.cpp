@@ -174,6 +174,11 @@ TEST_F(CapturePageTest, ANameIsTypedForTheNextVideo) {
   Type("ChangeNameBox", "Skok");
   page->CapSavebtn_Click();
   EXPECT_EQ(naming.Shown(), "(001) Skok") << "what was typed counts without its button";
+  Press("ChangeNamebtn");
+  Type("ChangeNameBox", " ");
+  page->CapSavebtn_Click();
+  EXPECT_FALSE(Seen("NameFrame")) << "nothing was typed: the name stays";
+  EXPECT_EQ(naming.Shown(), "(001) Skok");
 }
 
 TEST_F(CapturePageTest, FilesTakeThePlaceOfCameras) {

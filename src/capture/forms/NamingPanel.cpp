@@ -142,7 +142,13 @@ void NamingPanel::ChangeNamebtn_Click() {
   box_->selectAll();
 }
 
-bool NamingPanel::TakeTyped() { return NameFrame_->isHidden() || TakeName(); }
+bool NamingPanel::TakeTyped() {
+  if (NameFrame_->isHidden()) return true;
+  // Who has typed the name in the field below wants no other.
+  if (!box_->text().trimmed().isEmpty() || naming_.Shown().empty()) return TakeName();
+  CloseBox();
+  return true;
+}
 
 bool NamingPanel::TakeName() {
   if (!naming_.TakeChangedName(Std(box_->text()))) {
