@@ -181,6 +181,18 @@ TEST_F(CapturePageTest, ANameIsTypedForTheNextVideo) {
   EXPECT_EQ(naming.Shown(), "(001) Skok");
 }
 
+TEST_F(CapturePageTest, ReturnInANameEndsTheNameAndSendsNothing) {
+  Record();
+  Press("ChangeNamebtn");
+  Type("ChangeNameBox", "Obrót");
+  for (const char* field : {"VidNametxt", "ChangeNameBox"}) QTest::keyClick(Find<QLineEdit>(field), Qt::Key_Return);
+  EXPECT_EQ(naming.Shown(), "(001) Obrót");
+  EXPECT_FALSE(Seen("NameFrame"));
+  EXPECT_EQ(Text("CapStatus"), "Trim Excess from the FRONT of the video or Choose Save");
+  QTest::keyClick(page.get(), Qt::Key_Return);
+  EXPECT_NE(Text("CapStatus"), "Trim Excess from the FRONT of the video or Choose Save") << "to the page it means more";
+}
+
 TEST_F(CapturePageTest, FilesTakeThePlaceOfCameras) {
   setup->ChooseKind(SourceKind::ManualImport);
   EXPECT_FALSE(Seen("Videobox"));

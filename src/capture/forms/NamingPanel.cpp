@@ -91,8 +91,7 @@ NamingPanel::NamingPanel(VideoNaming& naming, QWidget* parent)
 
   connect(change_, &QPushButton::clicked, this, &NamingPanel::ChangeNamebtn_Click);
   connect(take, &QPushButton::clicked, this, &NamingPanel::TakeName);
-  connect(box_, &QLineEdit::returnPressed, this, &NamingPanel::TakeName);
-  box_->installEventFilter(this);
+  for (QObject* field : std::initializer_list<QObject*>{box_, VidNametxt_}) field->installEventFilter(this);
   connect(mode_, &QComboBox::activated, this, [this](int index) {
     naming_.ChooseMode(static_cast<NameMode>(index + 1));
     SetupNameMode();
@@ -165,8 +164,15 @@ void NamingPanel::CloseBox() {
 }
 
 bool NamingPanel::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == box_ && event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+  if (event->type() != QEvent::KeyPress) return Panel::eventFilter(watched, event);
+  const int key = static_cast<QKeyEvent*>(event)->key();
+  if (watched == box_ && key == Qt::Key_Escape) {
     CloseBox();
+    return true;
+  }
+  // Here it ends a name; to the page it means more.
+  if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+    if (watched == box_) TakeName();
     return true;
   }
   return Panel::eventFilter(watched, event);
