@@ -16,7 +16,8 @@ HandoutRoom::HandoutRoom(Parts parts)
                                                               .settings = parts.settings,
                                                               .fields = parts.fields,
                                                               .remembered = parts.remembered,
-                                                              .capture = parts.capture})),
+                                                              .capture = parts.capture,
+                                                              .sign = parts.lessonSign})),
       mail_(std::make_unique<MailRoom>(MailRoom::Parts{.host = parts.services.host,
                                                        .settings = parts.settings,
                                                        .mail = parts.mail,
@@ -57,6 +58,7 @@ void HandoutRoom::TakeSnapshot() { mail_->TakeSnapshot(); }
 void HandoutRoom::SendSnapshots() { mail_->SendSnapshots(); }
 
 void HandoutRoom::ToggleLesson() { lessons_->Toggle(); }
+void HandoutRoom::StopLesson() { lessons_->Stop(); }
 bool HandoutRoom::LessonShown() const { return lessons_->Shown(); }
 bool HandoutRoom::LessonUnderWay() const { return lessons_->UnderWay(); }
 

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <string>
 
 #include "app/ClipRoom.h"
 #include "app/PrintDesk.h"
@@ -32,7 +34,8 @@ class HandoutRoom final : public IHandouts {
     LastStudentInfo& remembered;
     CaptureRoom& capture;
     IHandoutWays& ways;
-    QWidget& over;  ///< the main window, which goes first
+    std::function<void(const std::string& words)> lessonSign;  ///< what the recorder does, for other pages
+    QWidget& over;                                             ///< the main window, which goes first
   };
   /// All outlives the room.
   explicit HandoutRoom(Parts parts);
@@ -40,6 +43,8 @@ class HandoutRoom final : public IHandouts {
 
   /// The analysis section that stands now; null when it goes. What the desks lay over its stage belongs to it.
   void Serve(AnalysisForm* analysis);
+  /// Ends the lesson that is being recorded, if there is one.
+  void StopLesson();
   /// Whether the program may end: asks, too, where something is still being written.
   bool MayClose();
 

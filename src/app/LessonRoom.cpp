@@ -39,6 +39,7 @@ LessonRoom::~LessonRoom() = default;
 void LessonRoom::Serve(AnalysisForm* analysis) {
   if (desk_) left_ = desk_->TakeOffers();
   desk_.reset();
+  parts_.sign("");
   analysis_ = analysis;
   auto* stage = analysis ? analysis->findChild<QWidget*>("MainPanel") : nullptr;
   if (!stage) return;
@@ -68,7 +69,16 @@ bool LessonRoom::MayLeave() {
                               "next start.");
 }
 
-void LessonRoom::LessonChanged() { analysis_->Section().Stage().News().Note(kCommandsChanged); }
+void LessonRoom::Stop() {
+  if (UnderWay()) desk_->Session().PressRecord();
+}
+
+void LessonRoom::LessonChanged() {
+  analysis_->Section().Stage().News().Note(kCommandsChanged);
+  parts_.sign(!UnderWay()                                       ? ""
+              : desk_->Session().Phase() == LessonPhase::Paused ? "Lesson paused: Stop Recording"
+                                                                : "Lesson: Stop Recording");
+}
 
 std::string LessonRoom::CurrentVideo() const {
   const Stage& stage = analysis_->Section().Stage();

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "distribution/lessons/LessonFiles.h"
@@ -23,6 +25,7 @@ class LessonRoom final : private ILessonStage {
     ProfileFields& fields;
     LastStudentInfo& remembered;
     CaptureRoom& capture;
+    std::function<void(const std::string& words)> sign;  ///< what goes on, for other pages; empty for nothing
   };
   /// All outlives the room. What was left is looked for from now on, on a worker.
   explicit LessonRoom(Parts parts);
@@ -32,6 +35,8 @@ class LessonRoom final : private ILessonStage {
   void Serve(AnalysisForm* analysis);
   void Toggle();
   bool Shown() const { return desk_ && desk_->Session().Shown(); }
+  /// Ends what is being recorded; the form that asks for its name follows.
+  void Stop();
   bool UnderWay() const { return desk_ && IsUnderWay(desk_->Session().Phase()); }
   /// Whether the section may go. Asks where a lesson is not kept yet.
   bool MayLeave();

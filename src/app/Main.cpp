@@ -68,6 +68,11 @@ QWidget* Main::MakeHeading() {
   row->addWidget(logo_);
   title_ = MakeLabel("PageTitle", "", "pageTitle");
   row->addWidget(title_, 1);
+  sign_ = new Button("LessonSign", "Stop Recording", "stop", Look::Filled, heading);
+  sign_->setFocusPolicy(Qt::NoFocus);
+  SetSign({});
+  connect(sign_, &QPushButton::clicked, this, &Main::SignPressed);
+  row->addWidget(sign_);
   company_ = MakeLabel("CourseLbl", "", "pageTitle");
   row->addWidget(company_);
   minimize_ = IconButton("MinimizeBtn", "minimize", tr("Put the window away"), Look::Filled, heading);
@@ -147,6 +152,7 @@ void Main::OpenPage(int index, const QString& title) {
   stack_->setCurrentWidget(page);
   if (rail) rail_->show();
   SetHeading(title);
+  ShowSign();
   page->Open();
   // What had the keys there, or was given them as the page opened, has them.
   QWidget* const inside = page->focusWidget();
@@ -156,6 +162,13 @@ void Main::OpenPage(int index, const QString& title) {
 void Main::SetHeading(const QString& title) { title_->setText(title); }
 
 void Main::SetCompany(const QString& company) { company_->setText(company); }
+
+void Main::SetSign(const QString& words) {
+  sign_->setText(words);
+  ShowSign();
+}
+
+void Main::ShowSign() { sign_->setVisible(!sign_->text().isEmpty() && current_ != kAnalysisPage); }
 
 void Main::SetSectionCaption(int index, const QString& caption) {
   TileButton* section = sections_[static_cast<std::size_t>(index)];

@@ -59,6 +59,9 @@ class Main : public QWidget {
   void SetHeading(const QString& title);
   /// The company's name, at the right of the heading.
   void SetCompany(const QString& company);
+  /// What goes on in the analysis section while another page is shown, in the heading; empty for nothing. A press on
+  /// it is told as SignPressed.
+  void SetSign(const QString& words);
   /// Words of a section's button, on the rail.
   void SetSectionCaption(int index, const QString& caption);
 
@@ -69,6 +72,7 @@ class Main : public QWidget {
 
  signals:
   void PageWanted(int index);
+  void SignPressed();
   /// At every step of a drag.
   void Resized(QSize size);
 
@@ -79,12 +83,14 @@ class Main : public QWidget {
 
  private:
   QWidget* MakeHeading();
+  void ShowSign();
   QWidget* MakeRail();
 
   IMainEvents& events_;
   QLabel* logo_ = nullptr;
   QLabel* title_ = nullptr;
   QLabel* company_ = nullptr;
+  Button* sign_ = nullptr;
   Button* minimize_ = nullptr;
   Button* close_ = nullptr;
   QWidget* rail_ = nullptr;

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QPointer>
 #include <QScreen>
 #include <utility>
 
@@ -135,15 +136,24 @@ void Program::LoadMain() {
   liveDraw_ = std::make_unique<LiveDrawRoom>(
       LiveDrawRoom::Parts{.host = *host_, .settings = settings_, .capture = *capture_, .ways = liveDrawWays});
 
-  handouts_ = std::make_unique<HandoutRoom>(HandoutRoom::Parts{.services = players_,
-                                                               .printer = *printer_,
-                                                               .settings = settings_,
-                                                               .mail = mail_,
-                                                               .fields = fields_,
-                                                               .remembered = lastStudent_,
-                                                               .capture = *capture_,
-                                                               .ways = *this,
-                                                               .over = *main_});
+  handouts_ =
+      std::make_unique<HandoutRoom>(HandoutRoom::Parts{.services = players_,
+                                                       .printer = *printer_,
+                                                       .settings = settings_,
+                                                       .mail = mail_,
+                                                       .fields = fields_,
+                                                       .remembered = lastStudent_,
+                                                       .capture = *capture_,
+                                                       .ways = *this,
+                                                       .lessonSign =
+                                                           [main = QPointer(main_.get())](const std::string& words) {
+                                                             if (main) main->SetSign(Q(words));
+                                                           },
+                                                       .over = *main_});
+  QObject::connect(main_.get(), &Main::SignPressed, [this] {
+    OpenPage(kAnalysisPage);
+    if (main_->CurrentPage() == kAnalysisPage) handouts_->StopLesson();
+  });
 
   send_ = std::make_unique<SendRoom>(SendRoom::Parts{
       .host = *host_, .settings = settings_, .mail = mail_, .remembered = lastStudent_, .over = *main_});
