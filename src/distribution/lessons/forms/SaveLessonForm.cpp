@@ -124,8 +124,11 @@ void SaveLessonForm::Update() {
       tr("%1 for %2, as %3").arg(Length(session_.Length()), name, session_.Kind() == LessonKind::Mp4 ? "MP4" : "AVI"));
   progress_->setVisible(saving);
   progress_->setValue(static_cast<int>(session_.SavedPart() * 100));
+  const bool again = !saving && !Text1_->isEnabled();
   for (QWidget* part : {static_cast<QWidget*>(Text1_), static_cast<QWidget*>(change_)}) part->setEnabled(!saving);
   SSCommand1_->setEnabled(!saving);
+  // It could not be kept: Return tries once more, and does not put it off.
+  if (again && isVisible()) Text1_->setFocus();
   later_->setText(saving ? tr("Cancel") : tr("Not Now"));
   later_->setToolTip(saving ? QString() : tr("The lesson waits in the recorder"));
   if (session_.Status() != StatusOf(session_.Phase())) MsgLbl_->setText(Q(session_.Status()));
