@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <cstdio>
+#include <memory>
 
 #include "platform/graph/GstHandles.h"
 #include "platform/media/LessonFile.h"
@@ -27,8 +28,25 @@ std::string DescribeX11(const ScreenPlace& place) {
 std::string DescribePipeWire(int connection, unsigned node) {
   return fmt::format(
       "pipewiresrc fd={} path={} do-timestamp=true always-copy=true keepalive-time=1000 ! "
-      "videorate drop-only=true max-rate={}",
-      connection, node, LessonFile::kRate);
+      "identity name=pace",
+      connection, node);
+}
+
+/// When the next picture is wanted.
+struct Pace {
+  GstClockTime next = 0;
+};
+
+/// Lets no more pictures through than a lesson has in a second. A desktop promises no rate, which the library's own
+/// element for this does not survive.
+GstPadProbeReturn KeepPace(GstPad*, GstPadProbeInfo* info, gpointer data) {
+  constexpr GstClockTime kBetween = GST_SECOND / LessonFile::kRate;
+  auto& pace = *static_cast<Pace*>(data);
+  const GstClockTime now = GST_BUFFER_PTS(GST_PAD_PROBE_INFO_BUFFER(info));
+  if (!GST_CLOCK_TIME_IS_VALID(now)) return GST_PAD_PROBE_OK;
+  if (now + kBetween / 4 < pace.next) return GST_PAD_PROBE_DROP;
+  pace.next = (pace.next + kBetween > now ? pace.next : now) + kBetween;
+  return GST_PAD_PROBE_OK;
 }
 
 }  // namespace
@@ -62,6 +80,12 @@ GstElement* MakeScreenSource(const std::string& name) {
   GError* error = nullptr;
   GstElement* made = gst_parse_bin_from_description(description.c_str(), true, &error);
   g_clear_error(&error);
+  if (!made) return nullptr;
+  if (const GstRef<GstElement> pace(gst_bin_get_by_name(GST_BIN(made), "pace")); pace) {
+    const GstRef<GstPad> pad(gst_element_get_static_pad(pace.get(), "sink"));
+    gst_pad_add_probe(pad.get(), GST_PAD_PROBE_TYPE_BUFFER, KeepPace, std::make_unique<Pace>().release(),
+                      [](gpointer data) { std::default_delete<Pace>()(static_cast<Pace*>(data)); });
+  }
   return made;
 }
 
