@@ -134,7 +134,10 @@ bool ChunkWalk::ReadIndex(RecordingPart& part) const {
   const std::int64_t first = part.headless ? part.base : part.base + (part.base == 0 ? kFirstPicture : kPartHeadBytes);
   if (part.indexBytes < kIndexHead || part.indexAt < first || part.indexAt + part.indexBytes > bytes_) return false;
   std::vector<std::uint8_t> index(part.indexBytes);
+  // Whatever of its head is wrong, other programs do not read it either.
+  constexpr std::uint64_t kNumbersAndKind = 2 | 0x0100U << 16;
   if (file_.Read(part.indexAt, index) < index.size() || TakeNumber(index, 0) != kPartIndexChunk ||
+      TakeNumber(index, 8) != kNumbersAndKind || TakeNumber(index, 16) != kPictureChunk ||
       TakeNumber(index, 20, 8) != static_cast<std::uint64_t>(part.base))
     return false;
   const auto count = static_cast<std::size_t>(TakeNumber(index, 12));

@@ -231,12 +231,17 @@ TEST(RecordingFile, ADamagedByteInAFinishedPartCostsOnePictureToo) {
   const std::string whole = folder.Get("x.avi");
   std::mt19937 dice(5);
   const auto number = [&](std::size_t below) { return std::uniform_int_distribution<std::size_t>(0, below - 1)(dice); };
-  for (int i = 0; i < 32; ++i) {
+  // Every other one hits the head of a picture, where it does most; then the head of a part, and all of its indexes.
+  std::vector<std::size_t> places;
+  for (int i = 0; i < 20; ++i)
+    places.push_back(i % 2 ? heads[number(heads.size() / 2)] + number(8)
+                           : RecordingHead::kBytes + number(whole.size() - RecordingHead::kBytes));
+  for (std::size_t i = 0; i < 24; i += 2) places.push_back(secondPart + i);
+  for (std::size_t index = whole.find("ix00", RecordingHead::kBytes); index != std::string::npos;
+       index = whole.find("ix00", index + 1))
+    for (std::size_t i = 0; i < 44; ++i) places.push_back(index + i);
+  for (const std::size_t at : places) {
     std::string damaged = whole;
-    // Every other one hits the head of a picture, where it does most; the last ones that of a part.
-    const std::size_t at = i >= 20 ? secondPart + static_cast<std::size_t>(2 * (i - 20))
-                           : i % 2 ? heads[number(heads.size() / 2)] + number(8)
-                                   : RecordingHead::kBytes + number(whole.size() - RecordingHead::kBytes);
     damaged[at] = static_cast<char>(damaged[at] ^ (1 << number(8)));
     const std::string broken = folder.Put("damaged.avi", damaged);
     const auto mended = MendRecording(broken);
