@@ -145,15 +145,8 @@ void CaptureSession::BindSource(std::string_view label, int camera) {
   const int window = label == kSources[1] ? 1 : 0;
   std::string& words = words_[static_cast<std::size_t>(window)];
   const CameraChoice& choice = parts_.setup.Shown(camera);
-  if (choice.name.empty()) {
-    words = parts_.setup.Devices().Known() ? "No camera is connected. Plug one in, and it shows here."
-                                           : "Looking for cameras...";
-    return;
-  }
-  if (!parts_.setup.ShownDevice(camera) && parts_.setup.Devices().Known()) {
-    words = fmt::format("{} is not connected. Plug it in, and it shows here.", choice.name);
-    return;
-  }
+  words = WhyAbsent(camera);
+  if (!words.empty()) return;
   if (const Outcome bound = graph_->GraphSetDevice(label, choice.name); !bound) {
     words = bound.Why();
     return;
@@ -422,11 +415,21 @@ void CaptureSession::PictureCame(const std::string& label) {
   parts_.page.LivePictureCame(camera);
 }
 
+/// Why there is no picture of a camera of the setup; empty for one that is there.
+std::string CaptureSession::WhyAbsent(int camera) const {
+  const std::string& name = parts_.setup.Shown(camera).name;
+  const bool known = parts_.setup.Devices().Known();
+  if (name.empty()) return known ? "No camera is connected. Plug one in, and it shows here." : "Looking for cameras...";
+  if (!known || parts_.setup.ShownDevice(camera)) return {};
+  return fmt::format("{} is not connected. Plug it in, and it shows here.", name);
+}
+
 void CaptureSession::SourceFailed(const std::string& label, const std::string& why) {
   const bool microphone = label != kSources[0] && label != kSources[1];
   const int camera = label == kSources[1] ? 1 : 0;
+  const std::string absent = WhyAbsent(two_ ? camera : parts_.setup.Use() == CameraUse::Second ? 1 : 0);
   if (microphone) Say(why);
-  else words_[static_cast<std::size_t>(camera)] = why;
+  else words_[static_cast<std::size_t>(camera)] = absent.empty() ? why : absent;
   if (phase_ == CapturePhase::Writing) {
     tallies_[static_cast<std::size_t>(camera)].fault = why;
     if (timed_) StopTimed();

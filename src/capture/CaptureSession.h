@@ -119,6 +119,7 @@ class CaptureSession : public ITimedCapture, private IGraphEvents, private IMoni
   void StopCapture();
   UnfinishedRecording EndRecording();
   void Disarm(const std::string& status);
+  std::string WhyAbsent(int camera) const;
   void RetryLater(int camera, bool away, int tries);
   void Keep(SaveRequest request);
   void BackToLive();

@@ -94,7 +94,8 @@ void CaptureSession::Saved(const SavedRecording& saved) {
     TrimEndFrame_ = end;
     Say("Last Video WAS NOT SAVED");
     if (!saved.cancelled)
-      parts_.host.Message(MessageKind::Warning, "", "There was a problem saving this video.\n\n" + AsSentence(saved.why));
+      parts_.host.Message(MessageKind::Warning, "",
+                          "There was a problem saving this video.\n\n" + AsSentence(saved.why));
     if (timed) timed->TimedFailed();
     return;
   }

@@ -276,7 +276,8 @@ void LibraryOperations::Trim(const LibraryVideo& video, int firstFrame, int last
                   ShownName(video.path)};
         }
         if (trim.Cancelled()) return Report(kOperationCancelled);
-        host_.Message(MessageKind::Warning, "", "There was a problem saving this video.\n\n" + AsSentence(trim.Error()));
+        host_.Message(MessageKind::Warning, "",
+                      "There was a problem saving this video.\n\n" + AsSentence(trim.Error()));
         return Report("Last Video WAS NOT SAVED");
       },
       std::move(events));

@@ -156,7 +156,7 @@ TEST_F(VideoOperations, TrimsByTheSmallProgram) {
 
   program("echo 'disk full' >&2\nexit 1\n");
   EXPECT_EQ(trim(3, 17), "Last Video WAS NOT SAVED");
-  EXPECT_TRUE(Told("disk full"));
+  EXPECT_TRUE(Told("Disk full."));
 
   program("trap 'exit 3' TERM\necho 10\nwhile :; do sleep 0.01; done\n");
   heard->onProgress = [&](const JobProgress& progress) {

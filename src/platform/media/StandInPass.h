@@ -94,8 +94,8 @@ class StandInPass {
   std::set<int> lost_;
   std::set<int> keysTried_;
   bool keysAreQuick_ = false;  ///< whoever needs one has it at once
-  int chunk_ = -1;        ///< of the job before
-  bool changed_ = false;  ///< the file is another one, or cannot be decoded: nothing more is made of it
+  int chunk_ = -1;             ///< of the job before
+  bool changed_ = false;       ///< the file is another one, or cannot be decoded: nothing more is made of it
 
   BudgetShare share_;
   std::thread packer_;  ///< these two last: they use all the rest

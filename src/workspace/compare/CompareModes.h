@@ -24,8 +24,8 @@ struct DualState {
   bool repeat = false;
   bool ratesDiffer = false;  ///< of the locked videos
   bool byTime = false;       ///< they are held by the time
-  int speed = 100;  ///< percent
-  int lowest = 0;   ///< ends of the shared bar
+  int speed = 100;           ///< percent
+  int lowest = 0;            ///< ends of the shared bar
   int highest = 0;
   int position = 0;
   std::string line;  ///< where the videos stand, "12 + 29"
