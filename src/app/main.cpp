@@ -18,6 +18,8 @@ int main(int argc, char** argv) {
   std::setlocale(LC_NUMERIC, "C");
   QApplication::setApplicationName("Kinalyx");
   QApplication::setApplicationVersion(KINALYX_VERSION);
+  // By this name a desktop finds the icon of the windows.
+  QApplication::setDesktopFileName("org.kinalyx.Kinalyx");
   using namespace kinalyx;
   Log log(JoinPath(Settings::UserDataPath(), "kinalyx.log"));
   SetMediaLog(&log);
