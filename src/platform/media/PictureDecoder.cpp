@@ -171,13 +171,14 @@ void PictureDecoder::Step(int wholeFrom, const Sink& sink) {
   Settle(Index().PicturesBefore(std::max(0, next_ - lag_)));
 }
 
-FrameHandle PictureDecoder::KeyPicture(int chunk, int& picture) {
+FrameHandle PictureDecoder::KeyPicture(int chunk, int& picture, KeyLook look) {
   running_ = false;
   if (!keyCodec_) {
     auto opened = NewCodec(UsualThreads(), FF_THREAD_SLICE, keyComplaints_);
     if (!opened) return nullptr;
     keyCodec_ = std::move(*opened);
   }
+  keyCodec_->skip_loop_filter = look == KeyLook::Rough ? AVDISCARD_ALL : AVDISCARD_DEFAULT;
   if (!Enter(*keyCodec_, chunk)) return nullptr;
   const auto placed = NextPlaced();
   if (!placed || placed->picture < 0) return nullptr;

@@ -45,9 +45,14 @@ class PictureDecoder {
   /// decoded without them.
   void Step(int wholeFrom, const Sink& sink);
 
+  /// How a key picture is decoded that is wanted soon.
+  enum class KeyLook {
+    Exact,
+    Rough,  ///< without what smooths the edges of blocks, of which nothing is seen where it is made much smaller
+  };
   /// The key picture of a chunk alone, and its number, without waiting for those behind it; null when it cannot
   /// be decoded. Ends the run, and holds memory until the next one begins.
-  FrameHandle KeyPicture(int chunk, int& picture);
+  FrameHandle KeyPicture(int chunk, int& picture, KeyLook look);
 
   /// True when this run may still give the picture.
   bool Reaches(int picture) const;

@@ -338,7 +338,12 @@ PictureDecoder& PictureSource::DecoderFor(const Task& task) { return task.back &
 bool PictureSource::Advance(const Task& task, Decoded& decoded) {
   if (task.key >= 0) {
     int picture = -1;
-    if (FrameHandle frame = forward_->KeyPicture(task.key, picture)) decoded.emplace_back(picture, std::move(frame));
+    using Look = PictureDecoder::KeyLook;
+    FrameHandle frame = forward_->KeyPicture(task.key, picture, listener_.keepSmall ? Look::Rough : Look::Exact);
+    if (!frame) return true;
+    // A rough one is only for looking.
+    if (listener_.keepSmall) listener_.keepSmall(picture, *frame);
+    else decoded.emplace_back(picture, std::move(frame));
     return true;
   }
   if (task.back && !immediate_ && !backward_) {

@@ -243,7 +243,7 @@ void StandInPass::DoKey(int chunk) {
   keysTried_.insert(chunk);
   int picture = -1;
   const auto start = PassTurn::Clock::now();
-  FrameHandle frame = decoder_->KeyPicture(chunk, picture);
+  FrameHandle frame = decoder_->KeyPicture(chunk, picture, PictureDecoder::KeyLook::Rough);
   keysAreQuick_ = frame && PassTurn::Clock::now() - start < kQuickKey;
   if (frame) HandOver(picture, std::move(frame));
 }
