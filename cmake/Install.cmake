@@ -8,11 +8,12 @@ install(FILES "${CMAKE_SOURCE_DIR}/tools/viewer/read-me.txt" DESTINATION ${home}
 foreach(part help icons pictures)
   install(DIRECTORY "${CMAKE_SOURCE_DIR}/assets/${part}" DESTINATION ${CMAKE_INSTALL_DATADIR}/kinalyx)
 endforeach()
+install(DIRECTORY "${CMAKE_BINARY_DIR}/bin/words" DESTINATION ${CMAKE_INSTALL_DATADIR}/kinalyx)
 # Links are made where the files go, wherever that is now.
 install(CODE "
   set(root \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}\")
   file(MAKE_DIRECTORY \"\${root}/bin\")
-  foreach(part help icons pictures)
+  foreach(part help icons pictures words)
     file(CREATE_LINK ../../${CMAKE_INSTALL_DATADIR}/kinalyx/\${part} \"\${root}/${home}/\${part}\" SYMBOLIC)
   endforeach()
   foreach(program kinalyx avitrim kinalyx-demo)

@@ -5,7 +5,7 @@ top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
 kinalyx_packages=(
   g++ cmake ninja-build ccache pkg-config
-  qt6-base-dev qt6-svg-dev libgl-dev fonts-inter
+  qt6-base-dev qt6-svg-dev qt6-l10n-tools qt6-translations-l10n libgl-dev fonts-inter
   libavformat-dev libavcodec-dev libavfilter-dev libavutil-dev libswscale-dev libswresample-dev
   libgstreamer1.0-dev libgstreamer-plugins-base1.0-dev
   gstreamer1.0-plugins-base gstreamer1.0-plugins-good gstreamer1.0-plugins-bad gstreamer1.0-libav

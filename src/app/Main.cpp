@@ -191,6 +191,11 @@ void Main::resizeEvent(QResizeEvent* event) {
   emit Resized(size());
 }
 
+void Main::paintEvent(QPaintEvent* event) {
+  QWidget::paintEvent(event);
+  if (!std::exchange(painted_, true)) emit Painted();
+}
+
 void Main::SetFullScreen(bool on) {
   minimize_->setVisible(on);
   close_->setVisible(on);

@@ -75,11 +75,14 @@ class Main : public QWidget {
   void SignPressed();
   /// At every step of a drag.
   void Resized(QSize size);
+  /// For the first time, and with it all that is in the window.
+  void Painted();
 
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   QWidget* MakeHeading();
@@ -100,6 +103,7 @@ class Main : public QWidget {
   int current_ = -1;     ///< the page that is shown; after DropPage or at first none
   bool asking_ = false;  ///< whether it may close
   bool closed_ = false;
+  bool painted_ = false;
 };
 
 }  // namespace kinalyx

@@ -9,6 +9,7 @@
 #include "capture/forms/CaptureSection.h"
 #include "core/forms/FirstForm.h"
 #include "core/forms/HelpPage.h"
+#include "core/forms/LanguagePanel.h"
 #include "core/forms/MenuPage.h"
 #include "core/forms/SetupPage.h"
 #include "core/forms/SplashForm.h"
@@ -20,11 +21,15 @@
 #include "library/forms/ImportExportPage.h"
 #include "library/forms/ProfilesPage.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Languages.h"
 #include "platform/files/Trash.h"
+#include "platform/host/CrashReport.h"
 #include "platform/host/QtHost.h"
+#include "platform/host/Readiness.h"
 #include "platform/widgets/OfferBar.h"
 #include "platform/widgets/FileDrop.h"
 #include "platform/widgets/Scale.h"
+#include "platform/widgets/Style.h"
 #include "platform/widgets/Text.h"
 #include "platform/widgets/Theme.h"
 #include "workspace/forms/AnalysisForm.h"
@@ -37,11 +42,15 @@ constexpr QSize kLeastMain(1000, 680);
 constexpr int kSettledMs = 150;
 /// By then a desktop has put its frame around a new window.
 constexpr int kFramedMs = 150;
+/// How often it is asked whether the way is free for what another start has handed over.
+constexpr int kWishMs = 200;
 
 }  // namespace
 
-Program::Program(QApplication& application, Log& log)
+Program::Program(QApplication& application, OneProgram& one, Log& log)
     : application_(application),
+      one_(one),
+      manners_(AskDesktop()),
       host_(MakeQtHost(log)),
       printer_(MakePrinter()),
       settings_(*host_, Settings::UserDataPath(), ProgramFolder(), *this),
@@ -54,16 +63,30 @@ Program::Program(QApplication& application, Log& log)
 
 Program::~Program() = default;
 
+std::string Program::CrashFolder() { return JoinPath(Settings::UserDataPath(), "crashes"); }
+std::string Program::WordsFolder() { return JoinPath(ProgramFolder(), "words"); }
+
 int Program::Run(const std::vector<std::string>& files) {
+  SetStill(application_, manners_.still);
   DressApplication();  // for what is told while the settings are read
   StartUp(settings_, mail_, schemes_, *this);
-  if (!files.empty() && !main_->Closed()) OpenFiles(files);
   // The main form may have been closed already, from within the first form.
-  const int result = main_->Closed() ? 0 : application_.exec();
+  int result = 0;
+  if (!main_->Closed()) {
+    if (!files.empty()) OpenFiles(files);
+    OfferCrashReport();
+    const EndSignals ending([this](EndSignals::Why why) { End(why); });
+    one_.Serve([this](const StartWish& wish) { TakeWish(wish); });
+    result = application_.exec();
+  }
+  one_.Release();
+  splash_.reset();
   main_.reset();
   if (RestartFlag_) host_->StartDetached(Std(QCoreApplication::applicationFilePath()), {});
   return result;
 }
+
+void Program::TakeLanguage() { SpeakLanguage(application_, WordsFolder(), settings_.Language); }
 
 void Program::ApplyScheme() {
   const WindowPlace place = PlaceOfMain();
@@ -75,14 +98,17 @@ void Program::EnsureFields() { fields_.EnsureFile(); }
 
 void Program::ShowSplash() {
   splash_ = std::make_unique<SplashForm>(QCoreApplication::applicationVersion());
-  splash_->Stay(*host_);
+  splash_->Appear(*host_);
 }
 
-void Program::CloseSplash() { splash_.reset(); }
+/// It stays its second over the main form, which can be used meanwhile.
+void Program::CloseSplash() {
+  if (splash_) splash_->LeaveLater(*host_);
+}
 
 bool Program::TakeSize(int width, int height) {
   resizeControls_.Resize(width, height);
-  return SetTextPixels(application_, resizeControls_.TextPixels());
+  return SetTextPixels(application_, qRound(resizeControls_.TextPixels() * manners_.textScale));
 }
 
 /// The end of a drag, not each of its steps: to dress all forms anew takes a moment.
@@ -106,6 +132,7 @@ void Program::LoadMain() {
   main_ = std::make_unique<Main>(events);
   QObject::connect(main_.get(), &Main::PageWanted, [this](int index) { OpenPage(index); });
   QObject::connect(main_.get(), &Main::Resized, [this] { MainResized(); });
+  QObject::connect(main_.get(), &Main::Painted, main_.get(), TellReady, Qt::QueuedConnection);
   QObject::connect(new FileDrop(main_.get()), &FileDrop::Dropped,
                    [this](const std::vector<std::string>& paths) { OpenFiles(paths); });
 
@@ -184,6 +211,9 @@ void Program::LoadMain() {
                                                               .changed = [this] { updatesPanel_->ShowState(); }});
   updatesPanel_ = new UpdatesPanel(settings_, mail_, *updates_);
   setup_->AddToGeneral(updatesPanel_);
+  auto* language = new LanguagePanel(settings_, LanguagesIn(WordsFolder()));
+  QObject::connect(language, &LanguagePanel::RestartWanted, setup_, &SetupPage::RestartWanted);
+  setup_->AddToGeneral(language);
   main_->SetPage(kSetupPage, setup_);
   ConnectSetupPage();
 
@@ -307,6 +337,9 @@ void Program::SettingsReloaded() {
 }
 
 void Program::ShowFirstForm() {
+  // What asks is not covered.
+  splash_->Stay(*host_);
+  splash_.reset();
   FirstForm form(settings_, mail_, schemes_, main_.get());
   QObject::connect(&form, &FirstForm::CompanyChanged, main_.get(), &Main::SetCompany);
   QObject::connect(&form, &FirstForm::DesignChanged, main_.get(), [this] { DressApplication(); });
@@ -329,6 +362,31 @@ AnalysisForm& Program::OpenAnalysis() {
 void Program::OpenFiles(const std::vector<std::string>& paths) {
   OpenPage(kAnalysisPage);
   if (main_->CurrentPage() == kAnalysisPage) OpenAnalysis().Section().OpenFiles(0, paths);
+}
+
+/// Another start of the program has been asked for: the window comes forward, and what was to be opened is. While a
+/// question stands open its answer comes first.
+void Program::TakeWish(const StartWish& wish) {
+  if (!main_ || main_->Closed()) return;
+  if (!wish.token.empty()) qputenv("XDG_ACTIVATION_TOKEN", QByteArray::fromStdString(wish.token));
+  if (main_->isMinimized()) main_->setWindowState(main_->windowState() & ~Qt::WindowMinimized);
+  QWidget* const front = QApplication::activeModalWidget() ? QApplication::activeModalWidget() : main_.get();
+  front->raise();
+  front->activateWindow();
+  if (wish.paths.empty()) return;
+  wished_.insert(wished_.end(), wish.paths.begin(), wish.paths.end());
+  wishing_ = HostTimer(*host_, kWishMs, true, [this] {
+    if (QApplication::activeModalWidget() || QApplication::activePopupWidget()) return;
+    wishing_.Stop();
+    if (main_ && !main_->Closed()) OpenFiles(std::exchange(wished_, {}));
+  });
+}
+
+void Program::OfferCrashReport() {
+  if (!TakeCrashReport(CrashFolder())) return;
+  auto* offer = new OfferBar("CrashOffer", QObject::tr("Show the Report"), main_.get());
+  QObject::connect(offer, &OfferBar::Accepted, main_.get(), [this] { host_->ShowFolder(CrashFolder()); });
+  offer->Offer(QObject::tr("Kinalyx broke off last time. A report of it lies on this computer, and is sent nowhere."));
 }
 
 void Program::GoToLibrary() { OpenPage(kProfilesPage); }
@@ -461,10 +519,25 @@ bool Program::MainMayClose() {
     host_->DoEvents();
   }
   KeepLastStudent();
+  StorePlace();
+  return true;
+}
+
+void Program::StorePlace() {
   const QRect place = main_->frameGeometry();
   settings_.StoreWindowPlace(place.top() * kTwipsPerPixel, place.left() * kTwipsPerPixel,
                              place.width() * kTwipsPerPixel, place.height() * kTwipsPerPixel);
-  return true;
+}
+
+/// There is nobody to ask, and little time: what has a place is saved. A recording under way, or one that has not
+/// been named, lies where the next start finds it.
+void Program::End(EndSignals::Why why) {
+  if (!main_ || main_->Closed()) return;
+  if (analysis_) analysis_->Section().Keeping().SaveAll();
+  profiles_->SaveLastNotes();
+  KeepLastStudent();
+  StorePlace();
+  if (why == EndSignals::Why::Told) QApplication::exit(0);
 }
 
 }  // namespace kinalyx

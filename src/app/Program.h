@@ -21,7 +21,10 @@
 #include "library/LibraryTree.h"
 #include "library/Profile.h"
 #include "platform/graph/SoundOutput.h"
+#include "platform/host/DesktopManners.h"
+#include "platform/host/EndSignals.h"
 #include "platform/host/Host.h"
+#include "platform/host/OneProgram.h"
 #include "platform/print/Printer.h"
 #include "video/AVIControl.h"
 #include "video/PlayScheduler.h"
@@ -55,11 +58,17 @@ class Program final : private ISettingsEvents,
                       private IHandoutWays {
  public:
   /// @param application  made before and let go after the program
+  /// @param one          by which further starts hand over their files; the same
   /// @param log          the same
-  Program(QApplication& application, Log& log);
+  Program(QApplication& application, OneProgram& one, Log& log);
   ~Program() override;
   Program(const Program&) = delete;
   Program& operator=(const Program&) = delete;
+
+  /// What crashes leave, beside the log.
+  static std::string CrashFolder();
+  /// What the program says in other languages, beside it.
+  static std::string WordsFolder();
 
   /// Brings the program up and runs it to its end; the result is that of the process. When the user has
   /// asked for a restart, a new copy has been started by then.
@@ -80,11 +89,16 @@ class Program final : private ISettingsEvents,
   void SetupVocabulary();
   AnalysisForm& OpenAnalysis();
   void OpenFiles(const std::vector<std::string>& paths);
+  void TakeWish(const StartWish& wish);
+  void OfferCrashReport();
+  void StorePlace();
+  void End(EndSignals::Why why);
 
   // --- ISettingsEvents
   void SettingsReloaded() override;
 
   // --- IStartUpSteps
+  void TakeLanguage() override;
   void ApplyScheme() override;
   void EnsureFields() override;
   void ShowSplash() override;
@@ -125,6 +139,8 @@ class Program final : private ISettingsEvents,
   void TakeToAnalysis(const std::string& macro) override;
 
   QApplication& application_;
+  OneProgram& one_;
+  const DesktopManners manners_;  ///< asked before the application is dressed
   std::unique_ptr<IHost> host_;
   std::unique_ptr<IPrinter> printer_;
   Settings settings_;
@@ -167,6 +183,8 @@ class Program final : private ISettingsEvents,
   HostTimer framing_;
   HostTimer going_;
   HostTimer mirroring_;
+  HostTimer wishing_;
+  std::vector<std::string> wished_;  ///< by another start, and not opened yet
   bool RestartFlag_ = false;
 };
 

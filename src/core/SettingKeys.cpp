@@ -117,6 +117,7 @@ std::vector<Settings::Key> Settings::ConfigKeys() {
   add("LastStudent", "", &LastStudent);
   add("StripRows", "0", &StripRows);
   add("CardPlaces", "", &CardPlaces);
+  add("Language", "", &Language);
   section = "VidCap";
   for (std::size_t i = 0; i < NetworkCamera.size(); ++i)
     add(fmt::format("NetworkCamera{}", i + 1), "", &NetworkCamera[i]);

@@ -136,6 +136,7 @@ class Settings {
 
   // --- [Layout]
   std::string Design;                        ///< colour scheme, "0" to "8"
+  std::string Language;                      ///< in which the program speaks, "de"; empty: as the desktop
   std::array<std::string, 3> PrimaryName;    ///< "Student", "student", "students"
   std::array<std::int32_t, 4> WindowInfo{};  ///< top, left, width, height of the main form in twips
 

@@ -9,6 +9,7 @@ bool StartUp(Settings& settings, MailSettings& mail, ColorSchemes& schemes, ISta
   settings.LoadSettings();
   mail.LoadMailSettings();
   schemes.ApplyDesign(settings.Design);
+  steps.TakeLanguage();
   steps.ApplyScheme();
   steps.EnsureFields();
   steps.ShowSplash();

@@ -10,6 +10,8 @@ namespace kinalyx {
 class IStartUpSteps {
  public:
   virtual ~IStartUpSteps() = default;
+  /// Speak the language of the settings.
+  virtual void TakeLanguage() = 0;
   /// Dress the application in the present colours.
   virtual void ApplyScheme() = 0;
   /// See that the profile fields have their captions.

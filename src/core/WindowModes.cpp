@@ -57,6 +57,13 @@ bool ChooseWindowMode(Settings& settings, std::string_view mode) {
   return true;
 }
 
+bool ChooseLanguage(Settings& settings, const std::string& code) {
+  if (settings.Language == code) return false;
+  settings.Set(settings.Language, code);
+  settings.Set(settings.RestartOption, 1);
+  return true;
+}
+
 bool TakeRestartRequest(Settings& settings) {
   const bool setupPage = settings.RestartOption == 1;
   if (settings.RestartOption != 0) settings.Set(settings.RestartOption, 0);

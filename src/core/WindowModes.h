@@ -55,6 +55,9 @@ int ScreenClass(std::int32_t formWidth);
 /// must bring about. False, and nothing changed, when it is the present mode.
 bool ChooseWindowMode(Settings& settings, std::string_view mode);
 
+/// Takes another language, by its code or empty for the desktop's, in the same way.
+bool ChooseLanguage(Settings& settings, const std::string& code);
+
 /// True when the program was restarted from the setup page and should open there. Asks once: any request
 /// is cleared, here and in the file.
 bool TakeRestartRequest(Settings& settings);

@@ -22,6 +22,7 @@ class HeardSteps final : public IStartUpSteps {
   explicit HeardSteps(const ColorSchemes& schemes) : schemes_(schemes) {}
   std::string order;
 
+  void TakeLanguage() override { order += "language, "; }
   void ApplyScheme() override { order += "scheme " + std::to_string(schemes_.Design()) + ", "; }
   void EnsureFields() override { order += "fields, "; }
   void ShowSplash() override { order += "splash, "; }
@@ -42,8 +43,8 @@ TEST(StartUp, ComesUpInOrderAndAsksOnlyOnce) {
     ColorSchemes schemes;
     HeardSteps steps(schemes);
     EXPECT_EQ(StartUp(settings, mail, schemes, steps), first);
-    EXPECT_EQ(steps.order,
-              first ? "scheme 0, fields, splash, main, first form, close" : "scheme 7, fields, splash, main, close");
+    EXPECT_EQ(steps.order, first ? "language, scheme 0, fields, splash, main, first form, close"
+                                 : "language, scheme 7, fields, splash, main, close");
     EXPECT_EQ(mail.Subject, first ? "Video Analysis from " : "Video Analysis from Links");
     settings.Set(settings.Design, "7");
     mail.TakeSender("Erica Sample", "Links");

@@ -80,8 +80,8 @@ std::vector<Source> ReadSources(const fs::path& root) {
 /// and the text library, which everybody may see. A header that nobody has declared is its own library.
 std::string LibraryOf(const std::string& header, const House& house) {
   static const std::regex kFree(R"(fmt/\w+\.h|(?:netinet|sys|linux)/\w+\.h|\w+|(\w+)\.h)");
-  static const Names kSystem{"dirent",  "fcntl", "langinfo", "locale", "malloc", "poll",
-                             "pthread", "pwd",   "sched",    "signal", "spawn",  "unistd"};
+  static const Names kSystem{"dirent",   "fcntl",   "langinfo", "locale", "malloc", "poll",  "dlfcn",
+                             "execinfo", "pthread", "pwd",      "sched",  "signal", "spawn", "unistd"};
   static const std::regex kQt("(Qt[A-Z]\\w*/)?Q[A-Za-z]\\w*");
   if (std::regex_match(header, kQt)) return "Qt6";
   for (const auto& [library, own] : house.foreign) {

@@ -115,9 +115,27 @@ TEST(SplashForm, NamesTheVersionAndStaysItsTime) {
     desk.host.Advance(250);
   });
   turn.start(0);
+  form.Appear(desk.host);
   form.Stay(desk.host, 1000);
   EXPECT_GE(turns, 4);
   EXPECT_TRUE(form.isVisible());
+}
+
+TEST(SplashForm, StaysOverTheMainFormForASecondOrUntilTheFirstKey) {
+  Desk desk;
+  QWidget main;
+  for (const bool typed : {false, true}) {
+    SplashForm form("1.2.3");
+    form.Appear(desk.host);
+    desk.host.Advance(600);
+    form.LeaveLater(desk.host);
+    desk.host.Advance(300);
+    EXPECT_TRUE(form.isVisible());
+    QKeyEvent key(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
+    if (typed) QApplication::sendEvent(&main, &key);
+    else desk.host.Advance(200);
+    EXPECT_FALSE(form.isVisible());
+  }
 }
 
 TEST(MenuPage, TilesLeadToPagesAndCarryTheNoun) {

@@ -1,13 +1,14 @@
 #include "core/forms/SplashForm.h"
 
+#include <QApplication>
 #include <QBoxLayout>
+#include <QEvent>
 #include <QEventLoop>
-#include <QGuiApplication>
 #include <QLabel>
 #include <QPainter>
 #include <QScreen>
+#include <algorithm>
 
-#include "platform/host/Host.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
@@ -37,18 +38,38 @@ SplashForm::SplashForm(const QString& version, QWidget* parent)
   add("Label1", "Software Version " + version, 12, 400, soft);
 }
 
-void SplashForm::Stay(IHost& host, int milliseconds) {
+void SplashForm::Appear(IHost& host) {
   if (const QScreen* screen = QGuiApplication::primaryScreen()) {
     move(screen->geometry().center() - rect().center());
   }
+  since_ = host.timeGetTime();
   show();
   raise();
-  const auto end = host.timeGetTime() + milliseconds;
-  while (host.timeGetTime() < end) {
+  host.DoEvents();
+}
+
+int SplashForm::LeftMs(IHost& host, int milliseconds) const {
+  return static_cast<int>(std::max<std::int64_t>(0, since_ + milliseconds - host.timeGetTime()));
+}
+
+void SplashForm::Stay(IHost& host, int milliseconds) {
+  while (const int left = LeftMs(host, milliseconds)) {
     QEventLoop turn;
-    const HostTimer wake(host, static_cast<int>(end - host.timeGetTime()) + 1, false, [&turn] { turn.quit(); });
+    const HostTimer wake(host, left, false, [&turn] { turn.quit(); });
     turn.exec(QEventLoop::ExcludeUserInputEvents);
   }
+}
+
+void SplashForm::LeaveLater(IHost& host, int milliseconds) {
+  raise();
+  qApp->installEventFilter(this);
+  leaving_ = HostTimer(host, LeftMs(host, milliseconds), false, [this] { hide(); });
+}
+
+/// Whoever begins to work has seen it.
+bool SplashForm::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::KeyPress) hide();
+  return QWidget::eventFilter(watched, event);
 }
 
 void SplashForm::paintEvent(QPaintEvent*) {

@@ -8,6 +8,7 @@
 #include <QHeaderView>
 #include <QPainter>
 #include <QPainterPath>
+#include <QApplication>
 #include <QProxyStyle>
 #include <QStyleFactory>
 #include <QStyleOption>
@@ -53,6 +54,8 @@ void FitFileDialog(QFileDialog& dialog) {
   files->header()->setSectionResizeMode(0, QHeaderView::Stretch);
 }
 
+constexpr const char* kStill = "kinalyxStill";
+
 class Style : public QProxyStyle {
  public:
   Style() : QProxyStyle(QStyleFactory::create("Fusion")) {}
@@ -89,6 +92,9 @@ class Style : public QProxyStyle {
       case SH_ToolTip_WakeUpDelay: return 500;
       case SH_DialogButtonBox_ButtonsHaveIcons: return 0;
       case SH_EtchDisabledText: return 0;
+      case SH_Widget_Animate:
+      case SH_Widget_Animation_Duration:
+        return qApp->property(kStill).toBool() ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
       default: return QProxyStyle::styleHint(hint, option, widget, data);
     }
   }
@@ -236,5 +242,7 @@ class Style : public QProxyStyle {
 }  // namespace
 
 QStyle* MakeStyle() { return new Style; }
+
+void SetStill(QApplication& application, bool still) { application.setProperty(kStill, still); }
 
 }  // namespace kinalyx

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+class QApplication;
 class QStyle;
 
 namespace kinalyx {
@@ -11,6 +12,9 @@ struct Theme;
 /// What a style sheet cannot draw without picture files: check marks, radio dots, arrows and the focus
 /// ring. Colours come from CurrentTheme. The caller (the application) owns it.
 QStyle* MakeStyle();
+
+/// True has nothing slide or fade any more that the style knows of.
+void SetStill(QApplication& application, bool still);
 
 /// The style sheet that every window wears. Dynamic properties choose a look:
 /// - QPushButton `look`: none filled with the accent; "quiet" outlined; "flat" only under the mouse;
