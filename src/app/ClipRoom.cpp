@@ -9,6 +9,7 @@
 #include "distribution/clips/forms/ClipCard.h"
 #include "distribution/clips/forms/ClipForm.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/host/DriveWatch.h"
 #include "platform/widgets/Text.h"
 #include "workspace/compare/PictureExport.h"
@@ -26,10 +27,11 @@ ClipRoom::ClipRoom(IHost& host, const Settings& settings, IHandoutWays& ways, Ca
   QObject::connect(card_, &ClipCard::CancelWanted, [this] { desk_.Cancel(); });
   QObject::connect(card_, &ClipCard::FolderWanted, [this](const QString& path) {
     if (!host_.ShowFolder(FolderOf(Std(path))))
-      host_.Message(MessageKind::Information, "", "It lies in " + FolderOf(Std(path)));
+      host_.Message(MessageKind::Information, "", Tr("It lies in {}", FolderOf(Std(path))));
   });
   QObject::connect(card_, &ClipCard::PlayWanted, [this](const QString& path) {
-    if (!ways_.OpenInAnalysis({Std(path)})) host_.Message(MessageKind::Warning, "", "The clip could not be opened.");
+    if (!ways_.OpenInAnalysis({Std(path)}))
+      host_.Message(MessageKind::Warning, "", Tr("The clip could not be opened."));
   });
 }
 
@@ -50,7 +52,7 @@ void ClipRoom::ShowForm(AnalysisForm& analysis) {
 Result<Surface> ClipRoom::Picture(AnalysisForm& analysis) {
   const ClipScene scene = TakePicture(analysis.Section(), analysis.Section().Stage().CurrentWindow);
   if (!host_.Drives().Answers(FolderOf(analysis.Section().Stage().Current().path)))
-    return Outcome::Failed("The drive does not answer.");
+    return Outcome::Failed(Tr("The drive does not answer."));
   return PictureOf(scene, static_cast<int>(std::lround(scene.PixelsHigh * scene.Proportion())), scene.PixelsHigh);
 }
 
@@ -59,23 +61,24 @@ void ClipRoom::CopyPicture(AnalysisForm& analysis) {
   if (!picture) return host_.Message(MessageKind::Warning, "", picture.Why());
   const QImage view(picture->Row(0), picture->Width(), picture->Height(), picture->Stride(), QImage::Format_RGB32);
   QGuiApplication::clipboard()->setImage(view.copy());
-  analysis.Section().Transport().Announce("The picture is in the clipboard.");
+  analysis.Section().Transport().Announce(Tr("The picture is in the clipboard."));
 }
 
 void ClipRoom::SavePicture(AnalysisForm& analysis) {
   const Stage& stage = analysis.Section().Stage();
   const std::string& video = stage.Current().path;
-  const auto path = host_.PickNewFile({"Save Picture", JoinPath(FolderOf(video), NameOfVideo(video) + " picture.png"),
-                                       "PNG picture (*.png)|*.png|JPEG picture (*.jpg *.jpeg)|*.jpg; *.jpeg"});
+  const auto path =
+      host_.PickNewFile({Tr("Save Picture"), JoinPath(FolderOf(video), NameOfVideo(video) + " picture.png"),
+                         Tr("PNG picture (*.png)|*.png|JPEG picture (*.jpg *.jpeg)|*.jpg; *.jpeg")});
   if (!path) return;
   const auto picture = Picture(analysis);
   const Outcome saved = picture ? ExportPicture(*picture, *path) : picture.Failure();
-  if (!saved) return host_.Message(MessageKind::Warning, "", "The picture was not saved. " + saved.Why());
-  analysis.Section().Transport().Announce("The picture was saved.");
+  if (!saved) return host_.Message(MessageKind::Warning, "", Tr("The picture was not saved. {}", saved.Why()));
+  analysis.Section().Transport().Announce(Tr("The picture was saved."));
 }
 
 bool ClipRoom::MayClose() {
-  return !desk_.Busy() || host_.Question("", "A clip is still being written. Do you want to give it up and close?");
+  return !desk_.Busy() || host_.Question("", Tr("A clip is still being written. Do you want to give it up and close?"));
 }
 
 void ClipRoom::ClipProgress(const std::string& name, double part, int waiting) {

@@ -4,6 +4,7 @@
 #include "app/MailRoom.h"
 #include "app/CaptureRoom.h"
 #include "distribution/models/forms/DLModelsForm.h"
+#include "platform/files/Tr.h"
 #include "workspace/forms/AnalysisForm.h"
 
 namespace kinalyx {
@@ -39,7 +40,7 @@ bool HandoutRoom::MayLeave() { return lessons_->MayLeave() && mail_->MayLeave();
 bool HandoutRoom::MayClose() {
   if (!MayLeave() || !clips_.MayClose()) return false;
   return !models_ || !models_->Busy() ||
-         parts_.services.host.Question("", "Model videos are still coming. Do you want to give them up?");
+         parts_.services.host.Question("", Tr("Model videos are still coming. Do you want to give them up?"));
 }
 
 void HandoutRoom::ShowModelsForm() {

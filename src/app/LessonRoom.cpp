@@ -5,6 +5,7 @@
 
 #include "app/CaptureRoom.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/widgets/Text.h"
 #include "workspace/forms/AnalysisForm.h"
 
@@ -65,8 +66,8 @@ bool LessonRoom::MayLeave() {
   const LessonPhase phase = desk_->Session().Phase();
   if (!IsUnderWay(phase) && phase < LessonPhase::Finished) return true;
   return parts_.host.Question("",
-                              "The lesson has not been saved. Do you want to leave it? It is offered again at the "
-                              "next start.");
+                              Tr("The lesson has not been saved. Do you want to leave it? It is offered again at the "
+                                 "next start."));
 }
 
 void LessonRoom::Stop() {
@@ -76,8 +77,8 @@ void LessonRoom::Stop() {
 void LessonRoom::LessonChanged() {
   analysis_->Section().Stage().News().Note(kCommandsChanged);
   parts_.sign(!UnderWay()                                       ? ""
-              : desk_->Session().Phase() == LessonPhase::Paused ? "Lesson paused: Stop Recording"
-                                                                : "Lesson: Stop Recording");
+              : desk_->Session().Phase() == LessonPhase::Paused ? Tr("Lesson paused: Stop Recording")
+                                                                : Tr("Lesson: Stop Recording"));
 }
 
 std::string LessonRoom::CurrentVideo() const {

@@ -6,6 +6,7 @@
 #include "distribution/mail/forms/EmailPnl.h"
 #include "distribution/mail/forms/MailForm.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/host/DriveWatch.h"
 #include "workspace/forms/AnalysisForm.h"
 #include "workspace/pictures/StagePictures.h"
@@ -36,7 +37,7 @@ void MailRoom::Serve(AnalysisForm* analysis) {
 
 bool MailRoom::FolderAnswers() {
   const bool answers = parts_.host.Drives().Answers(parts_.settings.DataPath);
-  if (!answers) parts_.host.Message(MessageKind::Warning, "", "The drive with the data folder does not answer.");
+  if (!answers) parts_.host.Message(MessageKind::Warning, "", Tr("The drive with the data folder does not answer."));
   return answers;
 }
 
@@ -50,7 +51,7 @@ void MailRoom::TakeSnapshot() {
 void MailRoom::SendSnapshots() {
   if (!analysis_ || !FolderAnswers()) return;
   AskForLeft();
-  if (queue_.Count() == 0) return parts_.host.Message(MessageKind::Information, "", "No Pictures to Send.");
+  if (queue_.Count() == 0) return parts_.host.Message(MessageKind::Information, "", Tr("No Pictures to Send."));
   const Stage& stage = analysis_->Section().Stage();
   MailForm form(
       {.host = parts_.host,
@@ -64,12 +65,12 @@ void MailRoom::SendSnapshots() {
 void MailRoom::AskForLeft() {
   const int left = queue_.FindLeft();
   if (left == 0) return;
-  const bool one = left == 1;
-  const bool away = parts_.host.Question(
-      "", fmt::format("{} of an earlier session {} not been sent. Do you want to delete {}? If not, {} before the new "
-                      "ones.",
-                      one ? "A picture" : fmt::format("{} pictures", left), one ? "has" : "have", one ? "it" : "them",
-                      one ? "it comes" : "they come"));
+  const bool away =
+      parts_.host.Question("", left == 1 ? Tr("A picture of an earlier session has not been sent. Do you want to "
+                                              "delete it? If not, it comes before the new ones.")
+                                         : Tr("{} pictures of an earlier session have not been sent. Do you want to "
+                                              "delete them? If not, they come before the new ones.",
+                                              left));
   if (!away) return queue_.TakeLeft();
   if (const Outcome gone = queue_.DeleteLeft(); !gone) parts_.host.Message(MessageKind::Warning, "", gone.Why());
 }
@@ -79,8 +80,11 @@ bool MailRoom::MayLeave() {
   if (count == 0) return true;
   return parts_.host.Question(
       "",
-      fmt::format("{} not been sent by e-mail. Leaving the analysis section deletes {}. Do you want to leave?",
-                  count == 1 ? "A picture has" : fmt::format("{} pictures have", count), count == 1 ? "it" : "them"));
+      count == 1
+          ? Tr("A picture has not been sent by e-mail. Leaving the analysis section deletes it. Do you want to leave?")
+          : Tr("{} pictures have not been sent by e-mail. Leaving the analysis section deletes them. Do you want to "
+               "leave?",
+               count));
 }
 
 }  // namespace kinalyx

@@ -8,6 +8,7 @@
 #include <QShortcut>
 #include <QStackedWidget>
 
+#include "platform/files/Tr.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
@@ -23,9 +24,10 @@ struct Section {
 };
 
 constexpr Section kSections[] = {
-    {1, "Student Profiles", "students"}, {2, "Capture Videos", "camera"},       {3, "Analyze Videos", "analyze"},
-    {4, "Send Lesson", "send"},          {5, "Import/Export", "import-export"}, {6, "Program Setup", "setup"},
-    {7, "Help and Demos", "help"},       {8, "To Main Menu", "home"},
+    {1, TrLater("Student Profiles"), "students"}, {2, TrLater("Capture Videos"), "camera"},
+    {3, TrLater("Analyze Videos"), "analyze"},    {4, TrLater("Send Lesson"), "send"},
+    {5, "Import/Export", "import-export"},        {6, TrLater("Program Setup"), "setup"},
+    {7, TrLater("Help and Demos"), "help"},       {8, TrLater("To Main Menu"), "home"},
 };
 
 /// Control and the section's number; 0 leads to the main menu.
@@ -63,12 +65,12 @@ QWidget* Main::MakeHeading() {
   row->setSpacing(10);
   logo_ = MakeLabel("MainCmd0", "Kinalyx", "brand");
   logo_->setCursor(Qt::PointingHandCursor);
-  logo_->setToolTip(Tip(kMenuPage, "To Main Menu"));
+  logo_->setToolTip(Tip(kMenuPage, tr("To Main Menu")));
   logo_->installEventFilter(this);
   row->addWidget(logo_);
   title_ = MakeLabel("PageTitle", "", "pageTitle");
   row->addWidget(title_, 1);
-  sign_ = new Button("LessonSign", "Stop Recording", "stop", Look::Filled, heading);
+  sign_ = new Button("LessonSign", tr("Stop Recording"), "stop", Look::Filled, heading);
   sign_->setFocusPolicy(Qt::NoFocus);
   SetSign({});
   connect(sign_, &QPushButton::clicked, this, &Main::SignPressed);
@@ -101,7 +103,7 @@ QWidget* Main::MakeRail() {
   column->setSpacing(6);
   for (const Section& section : kSections) {
     if (section.index == 8) column->addStretch(1);
-    auto* button = new TileButton(QString("MainCmd%1").arg(section.index), section.caption, section.icon,
+    auto* button = new TileButton(QString("MainCmd%1").arg(section.index), tr(section.caption), section.icon,
                                   TileButton::Place::Rail, rail);
     const bool isPage = section.index < kPageCount;
     button->setCheckable(isPage);
@@ -114,7 +116,7 @@ QWidget* Main::MakeRail() {
     connect(new QShortcut(KeysOf(section.index), this), &QShortcut::activated, this, [button, want] {
       if (button->isEnabled()) want();
     });
-    button->setToolTip(Tip(section.index, section.caption));
+    button->setToolTip(Tip(section.index, tr(section.caption)));
     column->addWidget(button);
     sections_[static_cast<std::size_t>(section.index)] = button;
   }

@@ -5,6 +5,7 @@
 
 #include "app/CaptureRoom.h"
 #include "capture/mirror/forms/MirrorForm.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 
@@ -39,7 +40,7 @@ void MirrorRoom::Lend(bool lent) {
 
 bool MirrorRoom::MayClose() {
   if (!form_ || !form_->Session().Keeping()) return true;
-  return parts_.host.Question("", "The last video is still being saved. Do you want to go on all the same?");
+  return parts_.host.Question("", Tr("The last video is still being saved. Do you want to go on all the same?"));
 }
 
 void MirrorRoom::Close() {

@@ -2,6 +2,7 @@
 
 #include <QObject>
 
+#include "platform/files/Tr.h"
 #include "platform/widgets/Text.h"
 #include "printing/AnalysisPrintouts.h"
 #include "printing/forms/Notesform.h"
@@ -37,7 +38,7 @@ void PrintDesk::ShowReportForm() {
   ReportMaker report({services_, settings_, Section().Stage(), Section().Tools(), pictures});
   ReportForm form(report, analysis_);
   QObject::connect(&form, &ReportForm::PreviewWanted, &form, [&] {
-    if (Preview(report.Make(form.Items(), form.Notes()), &form, "Ready") != CameOut::Nothing) form.accept();
+    if (Preview(report.Make(form.Items(), form.Notes()), &form, Tr("Ready")) != CameOut::Nothing) form.accept();
   });
   form.exec();
 }
@@ -47,7 +48,7 @@ void PrintDesk::PrintWindows(Notesform& form, bool all) {
   AnalysisPrintouts printouts(host_, settings_, Section().Stage(), pictures);
   Result<AnalysisPrintout> page = all ? printouts.PrintAll(form.Notes()) : printouts.PrintHigh(form.Notes());
   if (!page) return host_.Message(MessageKind::Information, "", page.Why());
-  switch (Preview(*page, &form, "Ready")) {
+  switch (Preview(*page, &form, Tr("Ready"))) {
     case CameOut::Paper: form.accept(); break;
     case CameOut::File: form.TextIsKept(); break;  // another window may follow with the same notes
     case CameOut::Nothing: break;
@@ -56,8 +57,8 @@ void PrintDesk::PrintWindows(Notesform& form, bool all) {
 
 void PrintDesk::PrintNotes(Notesform& form) {
   const std::string& path = Section().Stage().Current().path;
-  const NotesPrintout page(path.empty() ? "Notes" : NameOfVideo(path), form.Notes());
-  if (Preview(page, &form, "Ready") != CameOut::Nothing) form.TextIsKept();
+  const NotesPrintout page(path.empty() ? Tr("Notes") : NameOfVideo(path), form.Notes());
+  if (Preview(page, &form, Tr("Ready")) != CameOut::Nothing) form.TextIsKept();
 }
 
 void PrintDesk::PrintSheet(ShortGame sheet) {
@@ -65,7 +66,7 @@ void PrintDesk::PrintSheet(ShortGame sheet) {
   StagePictures pictures(Section().Stage(), Section().Compare());
   const auto page = ShortGameSheets(host_, settings_, Section().Stage(), pictures).MakeSheet(sheet, LeftyPrint_);
   if (page) {
-    Preview(*page, analysis_, "Print Done");
+    Preview(*page, analysis_, Tr("Print Done"));
   } else {
     host_.Message(page.Kind() == Fault::Refused ? MessageKind::Information : MessageKind::Warning, "", page.Why());
   }
@@ -86,7 +87,7 @@ void PrintDesk::SaveModelPicture() {
 PrintDesk::CameOut PrintDesk::Preview(const IPrintout& printout, QWidget* over, const std::string& done) {
   PreviewForm form(host_, printer_, printout, choice_, over);
   Transport& status = Section().Transport();
-  QObject::connect(&form, &PreviewForm::PrintingBegins, &form, [&] { status.DisplayData("Printing..."); });
+  QObject::connect(&form, &PreviewForm::PrintingBegins, &form, [&] { status.DisplayData(Tr("Printing...")); });
   QObject::connect(&form, &PreviewForm::PrintingEnds, &form, [&](bool cameOut) {
     if (cameOut) status.Announce(done);
     else status.DisplayData("");

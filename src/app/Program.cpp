@@ -22,6 +22,7 @@
 #include "library/forms/ProfilesPage.h"
 #include "platform/files/Folders.h"
 #include "platform/files/Languages.h"
+#include "platform/files/Tr.h"
 #include "platform/files/Trash.h"
 #include "platform/host/CrashReport.h"
 #include "platform/host/QtHost.h"
@@ -310,7 +311,7 @@ void Program::OpenPage(int index) {
     mirror_->Lend(false);
     main_->SetHeading(Q(vocabulary_.PageTitle(kAnalysisPage)));
     OpenAnalysis();
-    main_->OpenPage(kAnalysisPage, "Analysis");
+    main_->OpenPage(kAnalysisPage, QObject::tr("Analysis"));
     return;
   }
   if (!main_->Page(index)) return;
@@ -470,8 +471,8 @@ void Program::TakeToAnalysis(const std::string& macro) {
   main_->activateWindow();
   AnalysisWorkspace& section = OpenAnalysis().Section();
   section.Transport().Announce(section.Edits().TakeMacro(macro)
-                                   ? "The drawing was laid on the video, and is kept as a macro."
-                                   : "The drawing is kept as a macro.");
+                                   ? Tr("The drawing was laid on the video, and is kept as a macro.")
+                                   : Tr("The drawing is kept as a macro."));
 }
 
 /// The wish may come from the capture page, which is left by it and comes again with the end of the mirror.
@@ -503,7 +504,7 @@ bool Program::MainMayClose() {
   if (!profiles_->MayClose() || !handouts_->MayClose() || !mirror_->MayClose() || !send_->MayClose()) return false;
   if (analysis_ && !analysis_->CloseAll()) return false;
   if (!profiles_->SaveLastNotes() &&
-      !host_->Question("", "The notes could not be saved. Do you want to close Kinalyx all the same?"))
+      !host_->Question("", Tr("The notes could not be saved. Do you want to close Kinalyx all the same?")))
     return false;
   main_->LeavePage();
   backToCapture_ = false;

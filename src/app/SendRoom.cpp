@@ -5,6 +5,7 @@
 #include "distribution/web/OrderOf.h"
 #include "distribution/web/forms/FTPUploadForm.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 
@@ -33,7 +34,7 @@ void SendRoom::Send(const SendWish& wish) {
 bool SendRoom::MayClose() {
   if (disc_ && !disc_->MayClose()) return false;
   return !form_ || !form_->Busy() ||
-         parts_.host.Question("", "Videos are still being sent. Do you want to give that up?");
+         parts_.host.Question("", Tr("Videos are still being sent. Do you want to give that up?"));
 }
 
 void SendRoom::Close() {

@@ -6,6 +6,7 @@
 
 #include "core/Settings.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 namespace {
@@ -15,12 +16,12 @@ constexpr int kLastSeconds = 3;  ///< which are told apart by a sound of their o
 
 }  // namespace
 
-std::string_view BeepCapture::Caption() const { return Running() ? "Stop Beep Capture" : "Start Beep Capture"; }
+std::string BeepCapture::Caption() const { return Running() ? Tr("Stop Beep Capture") : Tr("Start Beep Capture"); }
 
 void BeepCapture::Press() {
   if (Running()) return Stop();
   if (parts_.naming.Shown().empty()) {
-    parts_.host.Message(MessageKind::Information, "", "You must name the video before saving!");
+    parts_.host.Message(MessageKind::Information, "", Tr("You must name the video before saving!"));
     parts_.naming.ChangeName();
     return;
   }
@@ -33,7 +34,7 @@ void BeepCapture::Press() {
 
 void BeepCapture::Begin() {
   BeepState_ = State::Counting;
-  parts_.cameras.Say("Preparing to Capture");
+  parts_.cameras.Say(Tr("Preparing to Capture"));
   BeepCountdown_ = std::clamp(parts_.settings.BeepPausetime, 1, kMostBeepSeconds);
   Wait(kSecondMs);
   parts_.events.BeepChanged();
@@ -56,8 +57,8 @@ void BeepCapture::Tick() {
 void BeepCapture::CountDown() {
   Play("typing1.wav");
   if (BeepCountdown_ <= kLastSeconds && BeepCountdown_ > 1) Play("countdown.wav");
-  parts_.cameras.Say(fmt::format("Getting Ready to Capture Video #{} of {} in {} seconds", BeepCycleNumber_, Cycles(),
-                                 BeepCountdown_));
+  parts_.cameras.Say(
+      Tr("Getting Ready to Capture Video #{} of {} in {} seconds", BeepCycleNumber_, Cycles(), BeepCountdown_));
   Show(std::to_string(BeepCountdown_));
   if (--BeepCountdown_ == 0) BeepState_ = State::Starting;
   Wait(kSecondMs);
@@ -75,7 +76,7 @@ void BeepCapture::EndVideo() {
   BeepTimer_.Stop();
   BeepState_ = State::Saving;
   Show({});
-  parts_.cameras.Say("Saving Video");
+  parts_.cameras.Say(Tr("Saving Video"));
   Play("endbeep.wav");
   parts_.cameras.StopTimed();
 }
@@ -101,9 +102,9 @@ void BeepCapture::Finish() {
   BeepState_ = State::Idle;
   Show({});
   // The misspelling is what users have always read here.
-  std::string words =
-      fmt::format("Beep Capture Complete. {} {} succesfully created.", kept_, kept_ == 1 ? "video" : "videos");
-  if (stopped_) words = "Beep Capture Stopped. Ready to Record.";
+  std::string words = kept_ == 1 ? Tr("Beep Capture Complete. 1 video succesfully created.")
+                                 : Tr("Beep Capture Complete. {} videos succesfully created.", kept_);
+  if (stopped_) words = Tr("Beep Capture Stopped. Ready to Record.");
   parts_.cameras.Say(words + note_);
 }
 
@@ -121,7 +122,7 @@ void BeepCapture::Stop() {
   BeepTimer_.Stop();
   BeepState_ = State::Idle;
   Show({});
-  parts_.cameras.Say("Capture Interrupted, Ready for Capture.");
+  parts_.cameras.Say(Tr("Capture Interrupted, Ready for Capture."));
 }
 
 void BeepCapture::Play(const char* sound) const { parts_.sounds.Play(JoinPath(parts_.soundFolder, sound)); }

@@ -68,7 +68,7 @@ class BeepCapture : private ITimedEvents {
   void Stop();
   bool Running() const { return BeepState_ != State::Idle; }
   /// "Start Beep Capture", "Stop Beep Capture".
-  std::string_view Caption() const;
+  std::string Caption() const;
   /// What `CountPnl` shows: the seconds that are left, "0" while it records, nothing else.
   const std::string& Count() const { return count_; }
 

@@ -6,6 +6,7 @@
 
 #include "capture/CaptureData.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/media/VideoFile.h"
 
 namespace kinalyx {
@@ -19,7 +20,7 @@ class BlockKeeper::Events final : public IJobEvents {
     if (!*keeper_) return;
     const auto* saver = dynamic_cast<RecordingSaver*>(job);
     SavedRecording none;
-    none.why = "The disk does not answer.";
+    none.why = Tr("The disk does not answer.");
     (*keeper_)->Over(saver ? saver->Saved() : none);
   }
 
@@ -70,10 +71,10 @@ void BlockKeeper::Ready(Shot shot) {
     const RecordingTally& tally = shot.blocks[i].tally;
     there[i] = shot.come[i] && tally.pictures > 0;
     if (shot.run.cameras == 2 && !there[i])
-      shot.fault += fmt::format("{}Camera {} recorded nothing.", shot.fault.empty() ? "" : " ", i + 1);
+      shot.fault += Tr("{}Camera {} recorded nothing.", shot.fault.empty() ? "" : " ", i + 1);
     if (!tally.fault.empty()) shot.fault += (shot.fault.empty() ? "" : " ") + tally.fault;
   }
-  if (!there[0] && !there[1]) return Lose(shot, shot.fault.empty() ? "The camera gave no picture." : shot.fault);
+  if (!there[0] && !there[1]) return Lose(shot, shot.fault.empty() ? Tr("The camera gave no picture.") : shot.fault);
   if (!there[0]) {
     shot.blocks[0] = std::move(shot.blocks[1]);
     shot.run.second = true;
@@ -96,7 +97,7 @@ void BlockKeeper::KeepNext() {
     if (request.videos[0].empty() || !dirExists(naming.Folder())) {
       const Shot lost = std::move(waiting_.front());
       waiting_.pop_front();
-      Lose(lost, "The folder for the video is not there any more.");
+      Lose(lost, Tr("The folder for the video is not there any more."));
       continue;
     }
     videos_ = 0;
@@ -128,7 +129,7 @@ void BlockKeeper::Over(const SavedRecording& saved) {
     Lose(shot, saved.why);
   } else {
     SavedRecording told = saved;
-    if (!shot.fault.empty()) told.note = shot.fault + " What was recorded is kept.";
+    if (!shot.fault.empty()) told.note = Tr("{} What was recorded is kept.", shot.fault);
     parts_.events.BlockKept(told, videos_);
   }
   KeepNext();

@@ -9,6 +9,7 @@
 #include "capture/templates/CaptureTemplate.h"
 #include "core/Settings.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/media/VideoFile.h"
 
 namespace kinalyx {
@@ -28,22 +29,22 @@ constexpr std::string_view kSources[] = {"VideoSource", "VideoSource 2"};
 constexpr std::string_view kGates[] = {"MV Trigger Source", "MV Trigger Source 2"};
 constexpr std::string_view kWriters[] = {"FileWriter", "FileWriter 2"};
 
-constexpr std::string_view kCapturing = "Capturing Video. Press button again to STOP capture";
-constexpr std::string_view kTimed = "Capturing Video";
-constexpr std::string_view kTrimFront = "Trim Excess from the FRONT of the video or Choose Save";
-constexpr std::string_view kTrimEnd = "Trim Excess from the END of the video or Choose Save";
-constexpr std::string_view kClickSave = "Click on \"Save Capture\" to save";
-constexpr std::string_view kReady = "Ready to Record Video";
+constexpr const char* kCapturing = TrLater("Capturing Video. Press button again to STOP capture");
+constexpr const char* kTimed = TrLater("Capturing Video");
+constexpr const char* kTrimFront = TrLater("Trim Excess from the FRONT of the video or Choose Save");
+constexpr const char* kTrimEnd = TrLater("Trim Excess from the END of the video or Choose Save");
+constexpr const char* kClickSave = TrLater("Click on \"Save Capture\" to save");
+constexpr const char* kReady = TrLater("Ready to Record Video");
 
 }  // namespace
 
-std::string_view CaptionOf(CapturePhase phase) {
+std::string CaptionOf(CapturePhase phase) {
   switch (phase) {
-    case CapturePhase::Writing: return "Stop Capture";
-    case CapturePhase::Reviewing: return "Back to Live Video";
+    case CapturePhase::Writing: return Tr("Stop Capture");
+    case CapturePhase::Reviewing: return Tr("Back to Live Video");
     case CapturePhase::LivePreview: break;
   }
-  return "Start Capture";
+  return Tr("Start Capture");
 }
 
 CaptureSession::CaptureSession(Parts parts)
@@ -69,13 +70,13 @@ void CaptureSession::Open() {
 bool CaptureSession::Leave() {
   // What a timer recorded is kept while the user is elsewhere, and so is what was triggered.
   if (saving_ && !timed_) {
-    parts_.host.Message(MessageKind::Information, "", "The last video is still being saved.");
+    parts_.host.Message(MessageKind::Information, "", Tr("The last video is still being saved."));
     return false;
   }
   if (monitoring_.Armed()) Disarm({});
   if (phase_ == CapturePhase::Writing) StopCapture();
   if (phase_ == CapturePhase::Reviewing && !timed_) {
-    if (!parts_.host.Question("", "The recording has not been saved. Do you want to throw it away?")) return false;
+    if (!parts_.host.Question("", Tr("The recording has not been saved. Do you want to throw it away?"))) return false;
     BackToLive();
   }
   open_ = false;
@@ -130,7 +131,7 @@ bool CaptureSession::BuildCaptureGraph() {
   built_ = true;
   RunCamcorder(true);
   if (monitoring_.Armed()) monitoring_.Begin(*graph_);
-  if (status_.empty()) Say(std::string(kReady));
+  if (status_.empty()) Say(Tr(kReady));
   parts_.page.CaptureChanged();
   return true;
 }
@@ -151,7 +152,7 @@ void CaptureSession::BindSource(std::string_view label, int camera) {
     words = bound.Why();
     return;
   }
-  words = "Starting the camera...";
+  words = Tr("Starting the camera...");
   const std::optional<PictureSize> size = SizeOf(choice.size);
   if (!size) return;
   const Outcome set = graph_->GraphSetVideoFormat(label, size->width, size->height, FormatCode(choice.format));
@@ -248,7 +249,7 @@ void CaptureSession::StartCapture() {
   phase_ = CapturePhase::Writing;
   ArmGates(true);
   tallyTimer_ = HostTimer(parts_.host, kTallyMs, true, [this] { ShowTally(); });
-  Say(std::string(timed_ ? kTimed : kCapturing));
+  Say(Tr(timed_ ? kTimed : kCapturing));
 }
 
 void CaptureSession::ShowTally() {
@@ -290,8 +291,7 @@ void CaptureSession::LeaveOutEmpty(UnfinishedRecording& recording) {
     std::swap(recording.tallies[0], recording.tallies[1]);
   }
   const std::string& why = recording.tallies[1].fault;
-  recording.tallies[0].fault =
-      fmt::format("Camera {} recorded nothing.{}{}", secondAlone_ ? 1 : 2, why.empty() ? "" : " ", why);
+  recording.tallies[0].fault = Tr("Camera {} recorded nothing.{}{}", secondAlone_ ? 1 : 2, why.empty() ? "" : " ", why);
   recording.paths[1].clear();
   two_ = false;
   tallies_ = recording.tallies;
@@ -315,11 +315,11 @@ void CaptureSession::Review(UnfinishedRecording recording) {
   if (!opened) {
     const std::string& fault = tallies_[0].fault;
     BackToLive();
-    Say(fault.empty() ? "The camera gave no picture. Nothing was recorded." : fault);
+    Say(fault.empty() ? Tr("The camera gave no picture. Nothing was recorded.") : fault);
     return;
   }
   const std::string& fault = tallies_[0].fault.empty() ? tallies_[1].fault : tallies_[0].fault;
-  Say(fault.empty() ? std::string(kTrimFront) : fault + " What was recorded is kept.");
+  Say(fault.empty() ? Tr(kTrimFront) : Tr("{} What was recorded is kept.", fault));
 }
 
 void CaptureSession::BackToLive() {
@@ -338,13 +338,13 @@ void CaptureSession::BackToLive() {
 void CaptureSession::TrimFront() {
   TrimStartFrame_ = parts_.page.ReviewPlayer(0).CurrentFrame();
   if (TrimEndFrame_ <= TrimStartFrame_) TrimEndFrame_ = 0;
-  Say(std::string(kTrimEnd));
+  Say(Tr(kTrimEnd));
 }
 
 void CaptureSession::TrimEnd() {
   TrimEndFrame_ = parts_.page.ReviewPlayer(0).CurrentFrame();
   if (TrimStartFrame_ >= TrimEndFrame_) TrimStartFrame_ = 0;
-  Say(std::string(kClickSave));
+  Say(Tr(kClickSave));
 }
 
 void CaptureSession::Trim(int first, int last) {
@@ -352,7 +352,7 @@ void CaptureSession::Trim(int first, int last) {
   const bool end = last != TrimEndFrame_;
   TrimStartFrame_ = first;
   TrimEndFrame_ = last;
-  Say(std::string(end ? kClickSave : kTrimEnd));
+  Say(std::string(end ? Tr(kClickSave) : Tr(kTrimEnd)));
 }
 
 void CaptureSession::Say(std::string status) {
@@ -362,7 +362,7 @@ void CaptureSession::Say(std::string status) {
 
 void CaptureSession::SayReadyLater() {
   ReadyTimer_ = HostTimer(parts_.host, kReadyMs, false, [this, told = status_] {
-    if (phase_ == CapturePhase::LivePreview && status_ == told) Say(std::string(kReady));
+    if (phase_ == CapturePhase::LivePreview && status_ == told) Say(Tr(kReady));
   });
 }
 
@@ -372,11 +372,11 @@ void CaptureSession::PressMonitor() {
   if (phase_ != CapturePhase::LivePreview || saving_) return;
   if (monitoring_.Armed()) {
     const bool sound = parts_.setup.Method() == CaptureMethod::Sound;
-    Disarm(sound ? "Press \"Start Sound Capture\" to start monitoring for sound."
-                 : "Press \"Start to Monitor\" to start monitoring.");
+    Disarm(sound ? Tr("Press \"Start Sound Capture\" to start monitoring for sound.")
+                 : Tr("Press \"Start to Monitor\" to start monitoring."));
   } else {
     if (parts_.naming.Shown().empty()) {
-      parts_.host.Message(MessageKind::Information, "", "You must name the video before saving!");
+      parts_.host.Message(MessageKind::Information, "", Tr("You must name the video before saving!"));
       return parts_.naming.ChangeName();
     }
     ReadyTimer_.Stop();
@@ -419,9 +419,10 @@ void CaptureSession::PictureCame(const std::string& label) {
 std::string CaptureSession::WhyAbsent(int camera) const {
   const std::string& name = parts_.setup.Shown(camera).name;
   const bool known = parts_.setup.Devices().Known();
-  if (name.empty()) return known ? "No camera is connected. Plug one in, and it shows here." : "Looking for cameras...";
+  if (name.empty())
+    return known ? Tr("No camera is connected. Plug one in, and it shows here.") : Tr("Looking for cameras...");
   if (!known || parts_.setup.ShownDevice(camera)) return {};
-  return fmt::format("{} is not connected. Plug it in, and it shows here.", name);
+  return Tr("{} is not connected. Plug it in, and it shows here.", name);
 }
 
 void CaptureSession::SourceFailed(const std::string& label, const std::string& why) {
@@ -460,10 +461,10 @@ void CaptureSession::RetryLater(int camera, bool away, int tries) {
 
 /// The window alone is dark: what is recorded is what the camera gives.
 void CaptureSession::PreviewFailed(const std::string& label) {
-  words_[label == "Video Renderer 2" ? 1 : 0] = phase_ == CapturePhase::Writing
-                                                    ? "The picture cannot be shown; the recording goes on."
-                                                    : "The picture of this camera cannot be shown. It can be recorded "
-                                                      "all the same.";
+  words_[label == "Video Renderer 2" ? 1 : 0] =
+      phase_ == CapturePhase::Writing ? Tr("The picture cannot be shown; the recording goes on.")
+                                      : Tr("The picture of this camera cannot be shown. It can be recorded "
+                                           "all the same.");
   parts_.page.CaptureChanged();
 }
 

@@ -23,7 +23,7 @@ namespace kinalyx {
 enum class CapturePhase { LivePreview, Writing, Reviewing };
 
 /// "Start Capture", "Stop Capture", "Back to Live Video".
-std::string_view CaptionOf(CapturePhase phase);
+std::string CaptionOf(CapturePhase phase);
 
 /// The way from the live picture over a recording to a video in the student's folder: start, stop, look, cut, keep.
 /// One graph at a time, built anew for each live view. Nothing here waits for a camera or a disk. Hands-free, the live

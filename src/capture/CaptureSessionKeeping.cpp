@@ -4,6 +4,7 @@
 #include "capture/CaptureSession.h"
 #include "core/Settings.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/media/VideoFile.h"
 
 namespace kinalyx {
@@ -12,11 +13,11 @@ namespace kinalyx {
 
 bool CaptureSession::RefuseUnlessNamed() {
   if (parts_.naming.ShortGame() && FileExists(parts_.naming.CapturedVideoPath())) {
-    parts_.host.Message(MessageKind::Information, "", "File already exists. Choose a different name.");
+    parts_.host.Message(MessageKind::Information, "", Tr("File already exists. Choose a different name."));
     return false;
   }
   if (!parts_.naming.Shown().empty()) return true;
-  parts_.host.Message(MessageKind::Information, "", "You must name the video before saving!");
+  parts_.host.Message(MessageKind::Information, "", Tr("You must name the video before saving!"));
   parts_.naming.ChangeName();
   return false;
 }
@@ -32,7 +33,7 @@ class CaptureSession::SaveEvents final : public IJobEvents {
   void Over(IJob* job) override {
     const auto* saver = dynamic_cast<RecordingSaver*>(job);
     SavedRecording none;
-    none.why = "The disk does not answer.";
+    none.why = Tr("The disk does not answer.");
     session_.Saved(saver ? saver->Saved() : none);
   }
 
@@ -48,9 +49,10 @@ void CaptureSession::Save() {
   }
   if (TrimEndFrame_ > 0 && TrimEndFrame_ <= TrimStartFrame_) {
     sendNext_ = false;
-    parts_.host.Message(MessageKind::Information, "",
-                        "Your TRIM Start and End times are not correct. Please check your Start and End times and try "
-                        "again.");
+    parts_.host.Message(
+        MessageKind::Information, "",
+        Tr("Your TRIM Start and End times are not correct. Please check your Start and End times and try "
+           "again."));
     return;
   }
   SaveRequest request;
@@ -76,7 +78,7 @@ void CaptureSession::Keep(SaveRequest request) {
   request.trimProgram = parts_.trimProgram;
   saving_ = true;
   jobPart_ = 0;
-  Say(timed_ ? "Saving Video" : "Saving Video.... Please Wait.");
+  Say(timed_ ? Tr("Saving Video") : Tr("Saving Video.... Please Wait."));
   parts_.jobs.Start(std::make_unique<RecordingSaver>(std::move(request)), std::make_unique<SaveEvents>(*this));
 }
 
@@ -92,10 +94,10 @@ void CaptureSession::Saved(const SavedRecording& saved) {
     Review(again);
     TrimStartFrame_ = start;
     TrimEndFrame_ = end;
-    Say("Last Video WAS NOT SAVED");
+    Say(Tr("Last Video WAS NOT SAVED"));
     if (!saved.cancelled)
       parts_.host.Message(MessageKind::Warning, "",
-                          "There was a problem saving this video.\n\n" + AsSentence(saved.why));
+                          Tr("There was a problem saving this video.\n\n{}", AsSentence(saved.why)));
     if (timed) timed->TimedFailed();
     return;
   }
@@ -109,14 +111,15 @@ void CaptureSession::Saved(const SavedRecording& saved) {
   else parts_.naming.NameUsed();
   BackToLive();
   if (timed) return timed->TimedKept(saved.note.empty() ? fault : saved.note);
-  Say(both ? "Both Videos Saved Successfully" : "Last Video Saved Successfully");
+  Say(both ? Tr("Both Videos Saved Successfully") : Tr("Last Video Saved Successfully"));
   if (!saved.note.empty()) parts_.host.Message(MessageKind::Warning, "", saved.note);
   SayReadyLater();
   if (!send) return;
-  Say("Loading Analysis Section...");
+  Say(Tr("Loading Analysis Section..."));
   const bool opened = parts_.ways.OpenInAnalysis(paths);
-  if (opened) Say("Sending last saved to Analysis...");
-  Say(opened ? "Last video saved was sent to Analysis." : "The video is saved. The analysis section did not open it.");
+  if (opened) Say(Tr("Sending last saved to Analysis..."));
+  Say(opened ? Tr("Last video saved was sent to Analysis.")
+             : Tr("The video is saved. The analysis section did not open it."));
   SayReadyLater();
 }
 
@@ -128,7 +131,7 @@ void CaptureSession::SendToAnalysis() {
 
 bool CaptureSession::StartTimed(ITimedEvents& events) {
   if (phase_ != CapturePhase::LivePreview || saving_ || monitoring_.Armed()) {
-    Say("The cameras are busy with another recording.");
+    Say(Tr("The cameras are busy with another recording."));
     return false;
   }
   timed_ = &events;
@@ -158,9 +161,9 @@ void CaptureSession::StopTimed() {
   if (!infos[0] || parts_.naming.CapturedVideoPath().empty()) {
     ITimedEvents* timed = std::exchange(timed_, nullptr);
     std::string why =
-        tallies_[0].fault.empty() ? "The camera gave no picture. Nothing was recorded." : tallies_[0].fault;
+        tallies_[0].fault.empty() ? Tr("The camera gave no picture. Nothing was recorded.") : tallies_[0].fault;
     if (infos[0]) {
-      why = "The folder for the video is not there any more.";
+      why = Tr("The folder for the video is not there any more.");
       parts_.files.Park(reviewed_.paths[0], reviewed_.paths[1]);
       reviewed_ = {};
     }

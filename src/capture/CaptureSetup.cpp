@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "core/Settings.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 
@@ -18,7 +19,7 @@ std::string SizeText(const PictureMode& mode) { return fmt::format("{} x {}", mo
 std::string FormatText(const PictureMode& mode) {
   if (mode.rate <= 0) return mode.format;
   const double rate = std::round(mode.rate * 100) / 100;
-  return fmt::format("{}, {} a second", mode.format, rate);
+  return Tr("{}, {} a second", mode.format, rate);
 }
 
 bool Holds(const std::vector<std::string>& texts, std::string_view text) {
@@ -209,11 +210,11 @@ void CaptureSetup::StoreCamera(int camera) {
 
 CameraStatus CaptureSetup::ShowCameraStatus(int camera) const {
   const int number = camera + 1;
-  if (camera == 1 && SingleCamera()) return {"Not in use", false};
+  if (camera == 1 && SingleCamera()) return {Tr("Not in use"), false};
   const std::string& saved = settings_.Camera[static_cast<std::size_t>(camera)];
-  if (!IsChoice(saved)) return {fmt::format("No Camera {} Saved", number), false};
-  if (saved == Shown(camera).name && ShownDevice(camera)) return {fmt::format("Default Camera {}", number), true};
-  return {fmt::format("Default Camera {} not selected", number), false};
+  if (!IsChoice(saved)) return {Tr("No Camera {} Saved", number), false};
+  if (saved == Shown(camera).name && ShownDevice(camera)) return {Tr("Default Camera {}", number), true};
+  return {Tr("Default Camera {} not selected", number), false};
 }
 
 std::optional<int> CaptureSetup::MissingCamera() const {

@@ -5,6 +5,7 @@
 #include <iterator>
 
 #include "core/Settings.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 namespace {
@@ -17,11 +18,11 @@ constexpr std::string_view kBlocks[] = {"MV Block Recording", "MV Block Recordin
 constexpr std::string_view kWriters[] = {"FileWriter", "FileWriter 2"};
 constexpr std::string_view kTrigger = "Audio Trigger";
 
-constexpr std::string_view kMonitoringSound = "Microphone Active... Monitoring for Sound";
-constexpr std::string_view kMonitoringVideo = "Monitoring Video... Click at end of swing.";
-constexpr std::string_view kReached = "Sound Level Reached... Finishing Video Capture";
-constexpr std::string_view kProcessing = "Processing Video...";
-constexpr std::string_view kSaved = "Video Saved... Restarting...";
+constexpr const char* kMonitoringSound = TrLater("Microphone Active... Monitoring for Sound");
+constexpr const char* kMonitoringVideo = TrLater("Monitoring Video... Click at end of swing.");
+constexpr const char* kReached = TrLater("Sound Level Reached... Finishing Video Capture");
+constexpr const char* kProcessing = TrLater("Processing Video...");
+constexpr const char* kSaved = TrLater("Video Saved... Restarting...");
 
 // Of the machine's memory a quarter is for pictures, whatever the number of cameras.
 constexpr std::int64_t kShare = 4;
@@ -59,7 +60,7 @@ Outcome Monitoring::Prepare(IGraph& graph, int cameras, bool second) {
   if (const Outcome ready = parts_.files.Prepare(); !ready) return ready;
   if (Sound()) {
     const std::string microphone = parts_.setup.Microphone();
-    if (microphone.empty()) return Outcome::Failed("No microphone is connected. Plug one in, and try again.");
+    if (microphone.empty()) return Outcome::Failed(Tr("No microphone is connected. Plug one in, and try again."));
     if (const Outcome bound = graph.GraphSetDevice(kTrigger, microphone); !bound) return bound;
   }
   const std::int64_t ram = parts_.host.System().ramKilobytes * 1024;
@@ -99,9 +100,7 @@ void Monitoring::End() {
   if (Sound()) parts_.events.SoundCame(0, false);
 }
 
-void Monitoring::SayWaiting() {
-  parts_.events.MonitoringSays(std::string(Sound() ? kMonitoringSound : kMonitoringVideo));
-}
+void Monitoring::SayWaiting() { parts_.events.MonitoringSays(Tr(Sound() ? kMonitoringSound : kMonitoringVideo)); }
 
 void Monitoring::Poll() {
   auto* trigger = graph_->GraphFilterByLabel<IAudioTriggerFilter>(kTrigger);
@@ -114,10 +113,10 @@ void Monitoring::TriggerFired() {
   restartTimer_.Stop();
   if (Sound()) {
     parts_.events.SoundCame(1, true);
-    parts_.events.MonitoringSays(std::string(kReached));
+    parts_.events.MonitoringSays(Tr(kReached));
   }
   windowTimer_ = HostTimer(parts_.host, static_cast<int>(std::lround(std::abs(Window().end) * 1000)), false, [this] {
-    if (pending_ > 0) parts_.events.MonitoringSays(std::string(kProcessing));
+    if (pending_ > 0) parts_.events.MonitoringSays(Tr(kProcessing));
   });
 }
 
@@ -196,7 +195,7 @@ void Monitoring::BlockKept(const SavedRecording& saved, int videos) {
   // Who has triggered again hears of that.
   if (!saved.note.empty()) return parts_.events.MonitoringSays(saved.note);
   if (pending_ > 0 || !armed_) return;
-  parts_.events.MonitoringSays(std::string(kSaved));
+  parts_.events.MonitoringSays(Tr(kSaved));
   restartTimer_ = HostTimer(parts_.host, kRestartMs, false, [this] {
     if (armed_ && pending_ == 0) SayWaiting();
   });
@@ -206,7 +205,7 @@ void Monitoring::BlockLost(const std::string& why) {
   pending_ = std::max(0, pending_ - 1);
   ++lost_;
   parts_.host.Note(MessageKind::Warning, "A triggered video was not kept.");
-  parts_.events.MonitoringSays("Last Video WAS NOT SAVED: " + why);
+  parts_.events.MonitoringSays(Tr("Last Video WAS NOT SAVED: {}", why));
 }
 
 }  // namespace kinalyx

@@ -10,6 +10,7 @@
 #include "library/VideoTransfer.h"
 #include "platform/files/Folders.h"
 #include "platform/files/PartFiles.h"
+#include "platform/files/Tr.h"
 #include "platform/media/VideoFile.h"
 
 namespace kinalyx {
@@ -60,7 +61,7 @@ bool RecordingSaver::CutOn() {
   if (!trim_) {
     const std::string& recorded = request_.recorded[cut_];
     const auto info = ReadVideoInfo(recorded);
-    if (!info) return Fail(LastName(recorded) + " cannot be opened.");
+    if (!info) return Fail(Tr("{} cannot be opened.", LastName(recorded)));
     TrimRequest cut{recorded, PartNameBeside(recorded), request_.firstFrame, request_.lastFrame, TrimRate(info.get())};
     // The second camera may have a picture less.
     cut.lastFrame = std::min(cut.lastFrame, info->frameCount - 1);
@@ -84,7 +85,7 @@ bool RecordingSaver::BeginMove() {
     const std::string name = LastName(request_.videos[i]);
     // A disk that the recording has filled has no room for a sidecar: then it is written where the video goes.
     described_[i] = request_.dv || KeepCaptureData(sources_[i], request_.tallies[i], request_.flags);
-    if (!SetAsideOrphans(folder, name, disk_)) return Fail("Notes of another video of this name are in the way.");
+    if (!SetAsideOrphans(folder, name, disk_)) return Fail(Tr("Notes of another video of this name are in the way."));
     std::ranges::move(VideoUnit(sources_[i], folder, name), std::back_inserter(unit));
   }
   move_.emplace(CopyJob::Kind::Move, std::vector<CopyUnit>{std::move(unit)}, disk_);
@@ -118,13 +119,14 @@ void RecordingSaver::Finish() {
   for (std::size_t i = 0; i < Cameras(); ++i) {
     if (described_[i]) continue;
     const Outcome kept = KeepCaptureData(saved_.videos[i], request_.tallies[i], request_.flags);
-    if (!kept) saved_.note = "How its fields are shown could not be noted: " + kept.Why();
+    if (!kept) saved_.note = Tr("How its fields are shown could not be noted: {}", kept.Why());
   }
 }
 
 bool RecordingSaver::Fail(std::string why) {
-  const char* what = Cameras() == 1 ? "The video could not be saved: " : "Neither of the two videos could be saved: ";
-  saved_.why = what + std::move(why);
+  const char* what = Cameras() == 1 ? TrLater("The video could not be saved: ")
+                                    : TrLater("Neither of the two videos could be saved: ");
+  saved_.why = Tr(what) + std::move(why);
   return false;
 }
 

@@ -9,6 +9,7 @@
 #include "library/VideoTransfer.h"
 #include "platform/files/FileCopy.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/media/RecordingFile.h"
 #include "platform/media/VideoFile.h"
 
@@ -95,7 +96,7 @@ Outcome ThrowAway(const UnfinishedRecording& recording) {
   for (const std::string& path : recording.paths) {
     if (path.empty()) continue;
     for (const Companion& companion : CompanionsOf(path)) KillFile(companion.path);
-    if (!KillFile(path)) return Outcome::Failed(LastName(path) + " cannot be removed.");
+    if (!KillFile(path)) return Outcome::Failed(Tr("{} cannot be removed.", LastName(path)));
   }
   return Outcome();
 }

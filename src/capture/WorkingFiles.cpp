@@ -10,6 +10,7 @@
 #include "library/VideoTransfer.h"
 #include "platform/files/FileCopy.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 namespace {
@@ -93,17 +94,17 @@ void WorkingFiles::TakeSeat(int seat) {
 }
 
 Outcome WorkingFiles::Prepare() {
-  if (!MakeFolder(folder_)) return Outcome::Failed("The folder " + folder_ + " cannot be made.");
+  if (!MakeFolder(folder_)) return Outcome::Failed(Tr("The folder {} cannot be made.", folder_));
   for (int seat = 1; !lock_ && seat <= kSeats; ++seat) {
     auto lock = std::make_unique<FileLock>(SeatPath(folder_, seat), kPatienceMs);
     if (lock->Busy()) continue;
     lock_ = std::move(lock);
     TakeSeat(seat);
   }
-  if (!lock_) return Outcome::Failed("Too many windows are recording into " + folder_ + ".");
+  if (!lock_) return Outcome::Failed(Tr("Too many windows are recording into {}.", folder_));
   ParkSeat(folder_, seat_);
   const bool taken = std::ranges::any_of(paths_, EntryExists);
-  return taken ? Outcome::Failed("The last recording cannot be moved away from " + folder_ + ".") : Outcome();
+  return taken ? Outcome::Failed(Tr("The last recording cannot be moved away from {}.", folder_)) : Outcome();
 }
 
 std::string WorkingFiles::TriggeredPath(int camera) const {

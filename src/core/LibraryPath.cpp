@@ -6,6 +6,7 @@
 #include <sys/stat.h>
 
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/host/DriveWatch.h"
 
 namespace kinalyx {
@@ -32,25 +33,25 @@ void Take(Settings& settings, bool network, std::string path) {
 std::string LocalLibraryPath(const Settings& settings) { return JoinPath(settings.DataPath, "Video Library"); }
 
 bool SwitchNetworkOn(IHost& host, Settings& settings) {
-  if (!host.Question("Network Path Change",
-                     "Warning! If the network path is invalid at any time, the program will not function. "
-                     "Are you sure you want to continue?"))
+  if (!host.Question(Tr("Network Path Change"),
+                     Tr("Warning! If the network path is invalid at any time, the program will not function. "
+                        "Are you sure you want to continue?")))
     return false;
   const bool answers = host.Drives().Answers(settings.LibraryPath);
-  const auto folder = host.PickFolder("Select the path to store your videos.",
+  const auto folder = host.PickFolder(Tr("Select the path to store your videos."),
                                       answers ? settings.LibraryPath : LocalLibraryPath(settings));
   if (!folder || folder->empty()) {
     settings.Set(settings.UseNetwork, false);
     return false;
   }
   const std::string refusal = TakeLibraryFolder(settings, *folder);
-  if (!refusal.empty()) host.Message(MessageKind::Warning, "Network Path Change", refusal);
+  if (!refusal.empty()) host.Message(MessageKind::Warning, Tr("Network Path Change"), refusal);
   return refusal.empty();
 }
 
 std::string TakeLibraryFolder(Settings& settings, std::string folder) {
   folder = folder.substr(0, folder.find('\0'));
-  const std::string unusable = "The folder " + folder + " cannot be used for videos.";
+  const std::string unusable = Tr("The folder {} cannot be used for videos.", folder);
   while (folder.size() > 1 && folder.ends_with('/')) folder.pop_back();
   if (folder.empty()) return unusable;
   if (IsDriveRoot(folder)) folder = JoinPath(folder, "Video Library");

@@ -3,26 +3,27 @@
 #include <fmt/format.h>
 
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/host/DriveWatch.h"
 
 namespace kinalyx {
 
 namespace {
 
-constexpr const char* kPictureFilter = "All Picture Files (*.bmp;*.jpg;*.gif;*.ico)|*.bmp; *.jpg; *.gif; *.ico";
+constexpr const char* kPictureFilter =
+    TrLater("All Picture Files (*.bmp;*.jpg;*.gif;*.ico)|*.bmp; *.jpg; *.gif; *.ico");
 constexpr std::int32_t kPlaces = 10;
 constexpr std::int32_t kPlacesInRow = 3;
 
 bool Choose(IHost& host, Settings& settings, const char* title, const char* folder, std::string& setting,
             IsPicture isPicture) {
-  const auto picture = host.PickFile({title, JoinPath(settings.AppPath, folder), kPictureFilter});
+  const auto picture = host.PickFile({Tr(title), JoinPath(settings.AppPath, folder), Tr(kPictureFilter)});
   if (!picture) return false;
   const auto shown = host.Drives().Ask(FolderOf(*picture), [isPicture, file = *picture] { return isPicture(file); });
   if (!shown.value_or(false)) {
-    host.Message(
-        MessageKind::Warning, title,
-        shown ? fmt::format("There is no picture in the file {} that can be shown. The old picture stays.", *picture)
-              : fmt::format("The drive with the file {} is not answering. The old picture stays.", *picture));
+    host.Message(MessageKind::Warning, title,
+                 shown ? Tr("There is no picture in the file {} that can be shown. The old picture stays.", *picture)
+                       : Tr("The drive with the file {} is not answering. The old picture stays.", *picture));
     return false;
   }
   if (!Settings::Holds(*picture)) {
@@ -49,19 +50,20 @@ Background CheckBackground(IHost& host, Settings& settings) {
   // Nothing is gained by resetting the default to itself.
   if (settings.BackgroundPic != standard) {
     host.Message(MessageKind::Warning, "",
-                 fmt::format("Unable to locate the background picture named {}. The default picture will be reset.",
-                             settings.BackgroundPic));
+                 Tr("Unable to locate the background picture named {}. The default picture will be reset.",
+                    settings.BackgroundPic));
     settings.Set(settings.BackgroundPic, standard);
   }
   return {shown};
 }
 
 bool ChooseBackground(IHost& host, Settings& settings, IsPicture isPicture) {
-  return Choose(host, settings, "Background Picture", "pictures/backgrounds", settings.BackgroundPic, isPicture);
+  return Choose(host, settings, TrLater("Background Picture"), "pictures/backgrounds", settings.BackgroundPic,
+                isPicture);
 }
 
 bool ChooseLogo(IHost& host, Settings& settings, IsPicture isPicture) {
-  return Choose(host, settings, "Logo", "pictures", settings.LogoName, isPicture);
+  return Choose(host, settings, TrLater("Logo"), "pictures", settings.LogoName, isPicture);
 }
 
 void ResetBackground(Settings& settings) { settings.Set(settings.BackgroundPic, DefaultBackground(settings)); }

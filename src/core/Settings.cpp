@@ -8,6 +8,7 @@
 #include "core/Numbers.h"
 #include "platform/files/Folders.h"
 #include "platform/files/IniFile.h"
+#include "platform/files/Tr.h"
 #include "platform/host/Host.h"
 
 namespace kinalyx {
@@ -110,9 +111,9 @@ bool Settings::WriteTo(const std::string& file, const std::string& section, cons
   if (std::exchange(toldUnwritable_, true)) return false;
   // Told when the click that changed the setting is over, so that no slider is left dragging.
   host_.StartTimer(0, false,
-                   [&host = host_, text = fmt::format("The settings cannot be saved in {}, so changes last "
-                                                      "until the program closes.",
-                                                      DataPath)] { host.Message(MessageKind::Warning, "", text); });
+                   [&host = host_, text = Tr("The settings cannot be saved in {}, so changes last "
+                                             "until the program closes.",
+                                             DataPath)] { host.Message(MessageKind::Warning, "", text); });
   return false;
 }
 
@@ -123,8 +124,9 @@ bool Settings::Holds(std::string_view text) {
 }
 
 std::string Settings::TooLongText(const std::string& path) {
-  return "The path " + path +
-         " is longer than the 149 characters that the settings can hold. Choose a place with a shorter path.";
+  return Tr(
+      "The path {} is longer than the 149 characters that the settings can hold. Choose a place with a shorter path.",
+      path);
 }
 
 bool Settings::SetNewColor(int index, std::int32_t colour) {
@@ -164,9 +166,9 @@ bool Settings::MakeFile(const std::vector<Key>& keys, const std::string& path) {
   if (!toldUnwritable_) {
     toldUnwritable_ = true;
     host_.Message(MessageKind::Warning, "",
-                  fmt::format("The settings cannot be saved in {}. The program works with its first settings, and "
-                              "changes last until it closes.",
-                              DataPath));
+                  Tr("The settings cannot be saved in {}. The program works with its first settings, and "
+                     "changes last until it closes.",
+                     DataPath));
   }
   return false;
 }
@@ -228,14 +230,14 @@ void Settings::TellBadBooleans(const std::vector<const Key*>& bad, const std::st
     if (count++ < kNamed) names += (names.empty() ? "" : ", ") + key->name;
   }
   if (count == 0) return;
-  if (count > kNamed) names += fmt::format(" and {} more", count - kNamed);
-  std::string text = fmt::format("{} in {} could not be read ({}), so {} for this run",
-                                 count == 1 ? "1 setting" : fmt::format("{} settings", count), path, names,
-                                 count == 1 ? "its first value holds" : "their first values hold");
+  if (count > kNamed) names += Tr(" and {} more", count - kNamed);
+  std::string text =
+      count == 1
+          ? Tr("1 setting in {} could not be read ({}), so its first value holds for this run", path, names)
+          : Tr("{} settings in {} could not be read ({}), so their first values hold for this run", count, path, names);
   if (missing > 0)
-    text += missing == 1
-                ? ", and 1 other is missing and has no usable value until it is set again"
-                : fmt::format(", and {} others are missing and have no usable value until they are set again", missing);
+    text += missing == 1 ? Tr(", and 1 other is missing and has no usable value until it is set again")
+                         : Tr(", and {} others are missing and have no usable value until they are set again", missing);
   host_.Message(MessageKind::Warning, "", text + ".");
 }
 

@@ -5,6 +5,7 @@
 
 #include "core/WindowModes.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/host/DriveWatch.h"
 
 namespace kinalyx {
@@ -12,39 +13,39 @@ namespace kinalyx {
 namespace {
 
 SystemTestRow Row(const char* title, std::string text, bool good, int percent) {
-  return {title, std::move(text), good ? kGaugeGreen : kGaugeRed, percent};
+  return {Tr(title), std::move(text), good ? kGaugeGreen : kGaugeRed, percent};
 }
 
-SystemTestRow Unknown(const char* title) { return {title, "Unknown", kGaugeRed, 0}; }
+SystemTestRow Unknown(const char* title) { return {Tr(title), Tr("Unknown"), kGaugeRed, 0}; }
 
 SystemTestRow RateColours(int bits) {
   const int percent = bits >= 24 ? 100 : bits >= 16 ? 75 : 25;
-  return Row("Video Colors", fmt::format("{} Bit", bits), bits >= 16, percent);
+  return Row(TrLater("Video Colors"), Tr("{} Bit", bits), bits >= 16, percent);
 }
 
 SystemTestRow RateDisk(std::int64_t freeBytes) {
-  if (freeBytes < 0) return Unknown("Hard Disk Space");
+  if (freeBytes < 0) return Unknown(TrLater("Hard Disk Space"));
   const std::int64_t megabytes = freeBytes / (1024 * 1024);
   const int percent = megabytes < 500 ? 25 : megabytes < 1000 ? 50 : megabytes <= 2000 ? 75 : 100;
-  return Row("Hard Disk Space", fmt::format("{} MB", megabytes), megabytes >= 500, percent);
+  return Row(TrLater("Hard Disk Space"), fmt::format("{} MB", megabytes), megabytes >= 500, percent);
 }
 
 SystemTestRow RateScreen(const MachineFigures& figures) {
   const int width = figures.system.screenWidth;
   const int height = figures.system.screenHeight;
   const bool good = width >= figures.neededWidth && height >= figures.neededHeight;
-  return Row("Screen Mode", fmt::format("{}x{}", width, height), good, good ? 100 : 25);
+  return Row(TrLater("Screen Mode"), fmt::format("{}x{}", width, height), good, good ? 100 : 25);
 }
 
 SystemTestRow RateProcessor(int megahertz) {
-  if (megahertz <= 0) return Unknown("Processor Speed");
+  if (megahertz <= 0) return Unknown(TrLater("Processor Speed"));
   const int percent = megahertz <= 350 ? 25 : megahertz < 501 ? 50 : megahertz < 701 ? 75 : 100;
-  return Row("Processor Speed", fmt::format("{}", megahertz), megahertz > 349, percent);
+  return Row(TrLater("Processor Speed"), fmt::format("{}", megahertz), megahertz > 349, percent);
 }
 
 SystemTestRow RateMemory(std::int64_t kilobytes) {
   const int percent = kilobytes <= 128000 ? 25 : kilobytes < 256000 ? 75 : 100;
-  return Row("System Ram", fmt::format("{}K", kilobytes), kilobytes > 128000, percent);
+  return Row(TrLater("System Ram"), fmt::format("{}K", kilobytes), kilobytes > 128000, percent);
 }
 
 }  // namespace

@@ -7,15 +7,16 @@
 namespace kinalyx {
 
 /// All texts in which the word for the person under analysis stands. The word is the user's: Student,
-/// Golfer, Client, Patient. Texts are built afresh at every call, so that they follow a change at once.
+/// Golfer, Client, Patient; while it is the first of these, which settings start with, it is said in the user's
+/// language. Texts are built afresh at every call, so that they follow a change at once.
 class Vocabulary {
  public:
   explicit Vocabulary(const Settings& settings) : settings_(settings) {}
 
-  const std::string& Noun() const { return settings_.PrimaryName[0]; }   ///< "Student"
-  const std::string& noun() const { return settings_.PrimaryName[1]; }   ///< "student"
-  const std::string& nouns() const { return settings_.PrimaryName[2]; }  ///< "students"
-  std::string Nouns() const;                                             ///< "Students", heading of lists
+  std::string Noun() const;   ///< "Student"
+  std::string noun() const;   ///< "student"
+  std::string nouns() const;  ///< "students"
+  std::string Nouns() const;  ///< "Students", heading of lists
 
   std::string Profiles() const;             ///< "Student Profiles"
   std::string Profile() const;              ///< "Student Profile"
@@ -34,11 +35,15 @@ class Vocabulary {
   std::string PageTitle(int index) const;
 
  private:
+  /// Nobody has chosen a word yet.
+  bool IsUsual() const;
+
   const Settings& settings_;
 };
 
 /// Takes a new word for the person under analysis: lower case and plural follow from it (with an s, without
-/// exceptions), and all three are written. False, and nothing changed, when it is the present word.
+/// exceptions), and all three are written. False, and nothing changed, when it is the present word, as it is stored or
+/// as the user's language has it.
 bool SetPrimaryName(Settings& settings, const std::string& text);
 
 }  // namespace kinalyx

@@ -2,14 +2,16 @@
 
 #include <algorithm>
 
+#include "platform/files/Tr.h"
+
 namespace kinalyx {
 
 namespace {
 
 constexpr WindowModeItem kItems[] = {
-    {"1", "Full Screen Mode (Recommended)"},
-    {"2", "Large (Windowed 1280x800)"},
-    {"3", "Medium (Windowed 1024x768)"},
+    {"1", TrLater("Full Screen Mode (Recommended)")},
+    {"2", TrLater("Large (Windowed 1280x800)")},
+    {"3", TrLater("Medium (Windowed 1024x768)")},
 };
 
 /// A window's size, and how far its corner stands from the middle of the screen, in twips.

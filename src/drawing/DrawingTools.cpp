@@ -5,6 +5,7 @@
 
 #include "drawing/ShapeGeometry.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 namespace {
@@ -179,10 +180,10 @@ void DrawingTools::VectorColorUpdate(int Kind) {
 }
 
 void DrawingTools::Announce(int kind) {
-  const std::string_view tool = inHand_ == ToolInHand::Text           ? "Text"
-                                : inHand_ == ToolInHand::CentreCircle ? "a Circle from its Center"
-                                                                      : InfOf(kind).ToolCaption;
-  workspace_.ShowToolCaption("                 Drawing " + std::string(tool) + " in Color       ");
+  const std::string tool = inHand_ == ToolInHand::Text           ? Tr("Text")
+                           : inHand_ == ToolInHand::CentreCircle ? Tr("a Circle from its Center")
+                                                                 : Tr(std::string(InfOf(kind).ToolCaption));
+  workspace_.ShowToolCaption("                 " + Tr("Drawing {} in Color", tool) + "       ");
   workspace_.ShowVectorColor(engine_.CadColor);
 }
 

@@ -8,6 +8,7 @@
 #include <fmt/format.h>
 
 #include "platform/files/FileLock.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 
@@ -49,13 +50,13 @@ void MacroFile::Read(ScreenTwips screen) {
     // Removed in this moment, or it keeps what it has to itself.
     if (!StampOf(path_)) return;
     state_ = State::Unreadable;
-    notice_ = fmt::format("The macros in \"{}\" cannot be read.", path_);
+    notice_ = Tr("The macros in \"{}\" cannot be read.", path_);
   } else if (!Parse(*bytes)) {
     state_ = State::Uneven;
-    notice_ = fmt::format(
-        "The macros in \"{}\" could not all be read: the file is damaged, too long, or of another program. "
-        "It will be kept under another name before anything is changed in it.",
-        path_);
+    notice_ =
+        Tr("The macros in \"{}\" could not all be read: the file is damaged, too long, or of another program. "
+           "It will be kept under another name before anything is changed in it.",
+           path_);
   }
 }
 
@@ -75,13 +76,13 @@ Outcome MacroFile::Remove(const NamedMacro& macro, bool every) {
 Outcome MacroFile::Change(const std::function<void(std::vector<NamedMacro>&)>& edit) {
   const FileLock lock(path_);
   if (lock.Busy())
-    return {Fault::Refused, "Another window or workstation is writing to the file of the macros. Try again."};
+    return {Fault::Refused, Tr("Another window or workstation is writing to the file of the macros. Try again.")};
   Read(screen_);
   auto all = all_;
   edit(all);
   if (all == all_) return {};
   if (all.size() > kMostShapeLists)
-    return {Fault::Refused, fmt::format("There can be no more than {} macros.", kMostShapeLists)};
+    return {Fault::Refused, Tr("There can be no more than {} macros.", kMostShapeLists)};
   return Store(all);
 }
 
@@ -90,17 +91,16 @@ Outcome MacroFile::Store(const std::vector<NamedMacro>& all) {
   if (bytes.size() > kShapeFileLimit && all.size() > all_.size()) {
     return {
         Fault::Refused,
-        fmt::format(
-            "The file of the macros would need {} bytes. Beyond {} it could not be read whole. Remove a macro first.",
-            bytes.size(), kShapeFileLimit)};
+        Tr("The file of the macros would need {} bytes. Beyond {} it could not be read whole. Remove a macro first.",
+           bytes.size(), kShapeFileLimit)};
   }
-  if (state_ == State::Unreadable) return {Fault::Unwritable, "It cannot be read."};
+  if (state_ == State::Unreadable) return {Fault::Unwritable, Tr("It cannot be read.")};
   if (state_ == State::Uneven) {
     const auto old = ReadWholeFile(path_);
     const std::string kept = KeptPath(path_);
     if (!old) return {Fault::Unwritable, std::strerror(errno)};
     if (const Outcome saved = WriteWholeFile(kept, *old, disk_); !saved) return {Fault::Unwritable, saved.Why()};
-    notice_ = fmt::format("What could not all be read is kept as \"{}\".", kept);
+    notice_ = Tr("What could not all be read is kept as \"{}\".", kept);
   }
   if (const Outcome saved = WriteWholeFile(path_, bytes, disk_); !saved) return {Fault::Unwritable, saved.Why()};
   // Where the disk does not let it go, a file without macros stays.

@@ -7,6 +7,8 @@
 
 #include <fmt/format.h>
 
+#include "platform/files/Tr.h"
+
 namespace kinalyx {
 namespace {
 
@@ -36,7 +38,7 @@ void Macros::Gather() {
 }
 
 Outcome Macros::CreateMacro(const std::string& Name, const ShapeList& list) {
-  if (Name.empty()) return Outcome::Failed("The macro needs a name.");
+  if (Name.empty()) return Outcome::Failed(Tr("The macro needs a name."));
   NamedMacro macro{Name, list};
   macro.list.Shapes = DrawingsOf(list);
   macro.list.NumShapes = static_cast<std::int16_t>(macro.list.Shapes.size());
@@ -54,8 +56,7 @@ Outcome Macros::KillMacro(int Index) {
   if (shared && removed && !OneFile()) removed = own_.Remove(macro, true);
   Gather();
   if (removed.Kind() != Fault::Unwritable) return removed;
-  return {Fault::Unwritable,
-          fmt::format("It lies in \"{}\": {}", shared ? shared_.Path() : own_.Path(), removed.Why())};
+  return {Fault::Unwritable, Tr("It lies in \"{}\": {}", shared ? shared_.Path() : own_.Path(), removed.Why())};
 }
 
 int Macros::IndexOf(const std::string& Name) const {
@@ -81,7 +82,7 @@ std::string Macros::Info(int Index) const {
   std::string text;
   for (int kind = 0; kind < kShapeKinds; ++kind) {
     const int count = counts[static_cast<std::size_t>(kind)];
-    if (count > 0) text += fmt::format("{} {}'s\r\n", count, InfOf(kind).Name);
+    if (count > 0) text += Tr("{} {}'s", count, Tr(std::string(InfOf(kind).Name))) + "\r\n";
   }
   return text;
 }

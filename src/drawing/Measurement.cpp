@@ -7,6 +7,7 @@
 
 #include "core/Numbers.h"
 #include "drawing/ShapeGeometry.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 namespace {
@@ -37,14 +38,14 @@ std::string LineCaption(std::span<const POINTAPI> points, const Calibration& cal
   const double a = GetAngle(points[0], points[0], points[1], AngleMode::ToHorizontal);
   const double b = GetAngle(points[0], points[0], points[1], AngleMode::ToVertical);
   const double length = LineLength(points[0], points[1]);
-  return fmt::format("{}°- {}° angle H-V     {}", std::abs(a - 90), std::abs(b - 90),
-                     Calibrated(calibration) ? LengthText(length, calibration) : NumberText(length) + " px");
+  return Tr("{}°- {}° angle H-V     {}", std::abs(a - 90), std::abs(b - 90),
+            Calibrated(calibration) ? LengthText(length, calibration) : NumberText(length) + " px");
 }
 
 std::string AngleCaption(std::span<const POINTAPI> points) {
   const double a = GetAngle(points[0], points[1], points[2], AngleMode::Opening);
   const double sharp = a > 90 ? 180 - a : a;
-  return fmt::format(" {}° - {}° angle I-O     {}° - {}° angle H-V ", a, 360 - a, std::abs(sharp), std::abs(a - 90));
+  return Tr(" {}° - {}° angle I-O     {}° - {}° angle H-V ", a, 360 - a, std::abs(sharp), std::abs(a - 90));
 }
 
 /// What moved from the last click to the mouse did so in one field.
@@ -57,8 +58,8 @@ std::string SpeedCaption(POINTAPI from, POINTAPI to, const Calibration& calibrat
   constexpr double kSecondsPerHour = 3600, kSame = 0.01;
   const double perHour = calibration.perSecond * kSecondsPerHour;
   if (perHour > 0 && std::abs(perHour / fieldsPerHour - 1) > kSame)
-    text += fmt::format(" at {:.0f} a second, in truth {}MPH at {:.4g}", fieldsPerHour / kSecondsPerHour,
-                        miles(perHour), calibration.perSecond);
+    text += Tr(" at {:.0f} a second, in truth {}MPH at {:.4g}", fieldsPerHour / kSecondsPerHour, miles(perHour),
+               calibration.perSecond);
   return text;
 }
 

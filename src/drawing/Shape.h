@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "core/Twips.h"
+#include "platform/files/Tr.h"
 #include "platform/paint/Geometry.h"
 
 namespace kinalyx {
@@ -41,18 +42,18 @@ constexpr std::int16_t kOpenPoints = 999;
 constexpr int kShapeKinds = 12;
 
 inline constexpr std::array<ShapeInf, kShapeKinds> ShapeInfs{{
-    {"Freehand", kOpenPoints, true, "Freehand"},
-    {"Flag", 1, true, "a Plus Sign"},
-    {"Square", 2, true, "a Square"},
-    {"Line", 2, true, "a Line"},
-    {"Ellipse", 2, true, "a Circle"},
-    {"Angle", 3, true, "a Angle"},
-    {"Swing path", kOpenPoints, true, "a Path Trace"},
-    {"Parallelogram", 3, true, "a Parallelogram"},
-    {"Shaft & path", 3, true, "a Zone"},
-    {"Clock", 2, true, "a Clock Grid"},
-    {"Arrow", 2, true, "a Arrow"},
-    {"Stick man", 13, true, ""},
+    {TrLater("Freehand"), kOpenPoints, true, TrLater("Freehand")},
+    {TrLater("Flag"), 1, true, TrLater("a Plus Sign")},
+    {TrLater("Square"), 2, true, TrLater("a Square")},
+    {TrLater("Line"), 2, true, TrLater("a Line")},
+    {TrLater("Ellipse"), 2, true, TrLater("a Circle")},
+    {TrLater("Angle"), 3, true, TrLater("a Angle")},
+    {TrLater("Swing path"), kOpenPoints, true, TrLater("a Path Trace")},
+    {TrLater("Parallelogram"), 3, true, TrLater("a Parallelogram")},
+    {TrLater("Shaft & path"), 3, true, TrLater("a Zone")},
+    {TrLater("Clock"), 2, true, TrLater("a Clock Grid")},
+    {TrLater("Arrow"), 2, true, TrLater("a Arrow")},
+    {TrLater("Stick man"), 13, true, ""},
 }};
 
 /// The row of a kind. Numbers outside the table (they can come from a file) give a nameless kind that

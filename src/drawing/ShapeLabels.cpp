@@ -9,6 +9,8 @@
 #include <span>
 #include <utility>
 
+#include "platform/files/Tr.h"
+
 namespace kinalyx {
 namespace {
 
@@ -141,7 +143,7 @@ std::optional<ShapeLabel> PathLabel(const Shape& path, std::span<const POINTAPI>
   double greatest = 0;
   for (std::size_t step = 1; step < points.size(); ++step) greatest = std::max(greatest, speed(step));
   std::string text = SpeedLabel(speed(StepNow(path, points.size(), scale.Now)), scale);
-  if (points.size() > 2) text = fmt::format("{}  max {}", text, SpeedLabel(greatest, scale));
+  if (points.size() > 2) text = Tr("{}  max {}", text, SpeedLabel(greatest, scale));
   return ShapeLabel{BesidePath(points, scale), std::move(text)};
 }
 

@@ -4,6 +4,7 @@
 
 #include "core/Settings.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/host/DriveWatch.h"
 
 namespace kinalyx {
@@ -17,8 +18,8 @@ bool StillArriving(const std::string& path) {
 }
 
 std::string BadVideoText(bool arriving) {
-  return arriving ? "This video is not complete. It may still be on its way here."
-                  : "This video cannot be opened. It is damaged, or not all of it has arrived.";
+  return arriving ? Tr("This video is not complete. It may still be on its way here.")
+                  : Tr("This video cannot be opened. It is damaged, or not all of it has arrived.");
 }
 
 BadVideos::Fate BadVideos::Offer(const LibraryVideo& video) {
@@ -31,7 +32,8 @@ BadVideos::Fate BadVideos::Offer(const LibraryVideo& video) {
   if (!state) return Fate::Kept;
   if (!*state) return Fate::Gone;
   if (kept_.contains(**state) || host_.Drives().Ask(settings_.LibraryPath, arriving).value_or(true)) return Fate::Kept;
-  if (!host_.Question("Delete Bad Video", "The selected video appears to be corrupt. Would you like to delete it?")) {
+  if (!host_.Question(Tr("Delete Bad Video"),
+                      Tr("The selected video appears to be corrupt. Would you like to delete it?"))) {
     kept_.insert(**state);
     return Fate::Kept;
   }

@@ -12,6 +12,7 @@
 #include "library/VideoNames.h"
 #include "platform/files/Folders.h"
 #include "platform/files/TextEncoding.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 
@@ -61,7 +62,7 @@ std::string TelephoneName(std::string_view folder) {
       std::ranges::any_of(words.back(), isDigit))
     words.pop_back();
   // A device that does not tell what it is goes by its place on the cable: "%5Busb%3A001,005%5D".
-  if (words.empty() || words.front().starts_with('%') || words.front().starts_with('[')) return "Telephone";
+  if (words.empty() || words.front().starts_with('%') || words.front().starts_with('[')) return Tr("Telephone");
   return fmt::format("{}", fmt::join(words, " "));
 }
 
@@ -118,9 +119,8 @@ std::vector<DeviceVideo> FindDeviceVideos(const std::string& device, const std::
 // ---------------------------------------------------------------- in words
 
 std::string DeviceText(const std::string& device, std::size_t videos, std::size_t fresh) {
-  if (videos == 1) return fmt::format("One new video on \"{}\"", device);
-  return fmt::format("{} videos on \"{}\", {} of them new", videos, device,
-                     fresh == videos ? "all" : fmt::to_string(fresh));
+  if (videos == 1) return Tr("One new video on \"{}\"", device);
+  return Tr("{} videos on \"{}\", {} of them new", videos, device, fresh == videos ? "all" : fmt::to_string(fresh));
 }
 
 }  // namespace kinalyx

@@ -9,26 +9,28 @@
 #include <system_error>
 
 #include "library/Mounts.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 
 DiskSpace DiskSpaceGauge(const std::string& path) {
   std::error_code failed;
   const auto space = std::filesystem::space(path, failed);
-  if (failed || space.capacity == 0 || space.available == 0) return {false, 0, "0% Free", "Disk Full or Not Available"};
+  if (failed || space.capacity == 0 || space.available == 0)
+    return {false, 0, Tr("0% Free"), Tr("Disk Full or Not Available")};
   const double part = static_cast<double>(space.available) / static_cast<double>(space.capacity);
   const int percent = static_cast<int>(std::lrint(part * 100));
-  return {true, percent, std::to_string(percent) + " % Free", {}};
+  return {true, percent, Tr("{} % Free", percent), {}};
 }
 
-DiskSpace SilentDiskSpace() { return {false, 0, "0% Free", "The drive is not answering."}; }
+DiskSpace SilentDiskSpace() { return {false, 0, Tr("0% Free"), Tr("The drive is not answering.")}; }
 
 std::string RemoveableDiskText(const std::string& path) {
   std::error_code failed;
   const auto space = std::filesystem::space(path, failed);
-  if (failed || space.capacity == 0) return "Drive Error";
-  if (space.available == 0) return "No Available space on removeable disk";
-  return "Available space on removeable disk " + DiskSpaceGauge(path).Label6;
+  if (failed || space.capacity == 0) return Tr("Drive Error");
+  if (space.available == 0) return Tr("No Available space on removeable disk");
+  return Tr("Available space on removeable disk {}", DiskSpaceGauge(path).Label6);
 }
 
 namespace {

@@ -4,6 +4,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/files/Tr.h"
+
 namespace kinalyx {
 
 /// What `DiskSpaceGauge` shows of a drive.
@@ -25,7 +27,7 @@ DiskSpace DiskSpaceGauge(const std::string& path);
 /// What the copy panel shows of a removeable disk: the percentage, or why there is none.
 std::string RemoveableDiskText(const std::string& path);
 
-inline constexpr const char* kReadingDisk = "Reading from specified Removeable disk. Please Wait....";
+inline constexpr const char* kReadingDisk = TrLater("Reading from specified Removeable disk. Please Wait....");
 
 /// Where drives that come and go are mounted, in the order in which they were: sticks, cards, shares. What
 /// the kernel makes up, and other views of the system's own drive, are left out.

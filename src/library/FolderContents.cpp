@@ -8,6 +8,7 @@
 #include "library/LibraryTree.h"
 #include "library/VideoNames.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 
@@ -52,30 +53,33 @@ FolderContents ContentsOf(const std::string& folder) {
 }
 
 std::string ContentsText(const FolderContents& contents) {
-  if (contents.files == 0) return "There are no files in the folder.";
+  if (contents.files == 0) return Tr("There are no files in the folder.");
   std::vector<std::string> parts;
   if (contents.videos > 0)
-    parts.push_back(Counted(contents.videos, "video", "videos") + " with all drawings and notes");
-  if (contents.lessons > 0) parts.push_back(Counted(contents.lessons, "lesson", "lessons"));
-  if (contents.profile) parts.emplace_back("the profile");
+    parts.push_back(contents.videos == 1 ? Tr("1 video with all drawings and notes")
+                                         : Tr("{} videos with all drawings and notes", contents.videos));
+  if (contents.lessons > 0)
+    parts.push_back(contents.lessons == 1 ? Tr("1 lesson") : Tr("{} lessons", contents.lessons));
+  if (contents.profile) parts.emplace_back(Tr("the profile"));
   if (contents.unlisted > 0) {
-    std::string others = Counted(contents.unlisted, "file", "files") +
-                         " that the lists do not show: " + fmt::format("{}", fmt::join(contents.unlistedNames, ", "));
+    const std::string names = fmt::format("{}", fmt::join(contents.unlistedNames, ", "));
+    std::string others = contents.unlisted == 1
+                             ? Tr("1 file that the lists do not show: {}", names)
+                             : Tr("{} files that the lists do not show: {}", contents.unlisted, names);
     if (const int more = contents.unlisted - static_cast<int>(contents.unlistedNames.size()); more > 0)
-      others += fmt::format(" and {} more", more);
+      others += Tr(" and {} more", more);
     parts.push_back(others);
   }
-  const bool one = contents.files == 1;
-  std::string text =
-      fmt::format("There {} {} in the folder", one ? "is" : "are", Counted(contents.files, "file", "files"));
+  std::string text = contents.files == 1 ? Tr("There is 1 file in the folder")
+                                         : Tr("There are {} files in the folder", contents.files);
   for (std::size_t part = 0; part < parts.size(); ++part)
-    text += (part == 0 ? ": " : part + 1 == parts.size() ? " and " : ", ") + parts[part];
+    text += (part == 0 ? ": " : part + 1 == parts.size() ? Tr(" and ") : ", ") + parts[part];
   return text + ".";
 }
 
 std::string TrashText(bool toTrash) {
-  return toTrash ? "It goes to the trash of the desktop, from where it can be taken back."
-                 : "This drive has no trash: what is deleted is gone.";
+  return toTrash ? Tr("It goes to the trash of the desktop, from where it can be taken back.")
+                 : Tr("This drive has no trash: what is deleted is gone.");
 }
 
 }  // namespace kinalyx

@@ -1,6 +1,7 @@
 #include "library/LibraryHints.h"
 
 #include "library/LibraryReading.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 
@@ -13,12 +14,12 @@ bool HasInstructors(const LibraryBrowser& browser) { return browser.InstructorLi
 /// The hints of the import and export page.
 LibraryHints ExchangeHints(const LibraryBrowser& browser, const Vocabulary& words) {
   LibraryHints hints;
-  if (!HasInstructors(browser)) hints.students = "No instructors or databases here.";
-  else if (browser.IsGeneralFolder()) hints.students = "Choose an instructor to see the " + words.nouns() + ".";
-  else hints.students = "No " + words.nouns() + " here.";
+  if (!HasInstructors(browser)) hints.students = Tr("No instructors or databases here.");
+  else if (browser.IsGeneralFolder()) hints.students = Tr("Choose an instructor to see the {}.", words.nouns());
+  else hints.students = Tr("No {} here.", words.nouns());
 
   const bool listsVideos = browser.IsGeneralFolder() || browser.IsQuickLaunch() || browser.HasStudent();
-  hints.videos = listsVideos ? "No videos here." : "Choose a " + words.noun() + ", or take the whole database.";
+  hints.videos = listsVideos ? Tr("No videos here.") : Tr("Choose a {}, or take the whole database.", words.noun());
   return hints;
 }
 
@@ -27,36 +28,37 @@ LibraryHints ExchangeHints(const LibraryBrowser& browser, const Vocabulary& word
 LibraryHints HintsOf(const LibraryBrowser& browser, const Vocabulary& words, bool gone) {
   const std::string& root = browser.Tree().Root();
   if (browser.Silent()) {
-    const std::string silent = SilentLibraryText(root) + " The lists fill as soon as it does.";
+    const std::string silent = Tr("{} The lists fill as soon as it does.", SilentLibraryText(root));
     return {silent, browser.StudentList().empty() ? "" : silent};
   }
   const bool exchange = browser.Purpose() == Kind::Exchange;
-  if (exchange && root.empty()) return {"Choose a drive or folder first.", ""};
-  if (gone && exchange) return {"The folder " + root + " cannot be reached.", ""};
+  if (exchange && root.empty()) return {Tr("Choose a drive or folder first."), ""};
+  if (gone && exchange) return {Tr("The folder {} cannot be reached.", root), ""};
   if (gone)
-    return {"The library folder " + root + " cannot be reached; choose another in Program Setup, under General.", ""};
+    return {Tr("The library folder {} cannot be reached; choose another in Program Setup, under General.", root), ""};
   if (exchange) return ExchangeHints(browser, words);
 
   // Only the profiles page has the buttons that add somebody.
   const bool adds = browser.Purpose() == Kind::Profiles;
   LibraryHints hints;
   if (!HasInstructors(browser)) {
-    hints.students = adds ? "Add the first instructor beneath the list on the left."
-                          : "Add the first instructor on the page " + words.Profiles() + ".";
+    hints.students = adds ? Tr("Add the first instructor beneath the list on the left.")
+                          : Tr("Add the first instructor on the page {}.", words.Profiles());
   } else if (browser.IsGeneralFolder()) {
-    hints.students = "Choose an instructor to see the " + words.nouns() + ".";
+    hints.students = Tr("Choose an instructor to see the {}.", words.nouns());
   } else if (browser.IsQuickLaunch()) {
-    hints.students = "Quick Launch keeps videos, no " + words.nouns() + ".";
+    hints.students = Tr("Quick Launch keeps videos, no {}.", words.nouns());
   } else {
-    hints.students = "No " + words.nouns() + " here yet." + (adds ? " Add the first one beneath this list." : "");
+    hints.students = adds ? Tr("No {} here yet. Add the first one beneath this list.", words.nouns())
+                          : Tr("No {} here yet.", words.nouns());
   }
 
-  if (browser.IsGeneralFolder()) hints.videos = "No videos lie in the library folder itself.";
-  else if (browser.IsQuickLaunch()) hints.videos = "No videos yet. Copy one here with Quick Launch +.";
-  else if (!browser.HasStudent()) hints.videos = "Choose a " + words.noun() + " to see the videos.";
+  if (browser.IsGeneralFolder()) hints.videos = Tr("No videos lie in the library folder itself.");
+  else if (browser.IsQuickLaunch()) hints.videos = Tr("No videos yet. Copy one here with Quick Launch +.");
+  else if (!browser.HasStudent()) hints.videos = Tr("Choose a {} to see the videos.", words.noun());
   else
     hints.videos =
-        "No videos yet. Capture or import one, or copy video files into the folder of this " + words.noun() + ".";
+        Tr("No videos yet. Capture or import one, or copy video files into the folder of this {}.", words.noun());
   return hints;
 }
 

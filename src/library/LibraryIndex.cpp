@@ -10,6 +10,7 @@
 #include "library/Sidecar.h"
 #include "library/VideoNames.h"
 #include "platform/files/TextSearch.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 
@@ -27,7 +28,7 @@ void ReadPerson(IndexedFolder& folder, const std::string& path, const ProfileFie
   for (int field = 1; field < kProfileFields; ++field) {
     const std::string& value = values[static_cast<std::size_t>(field)];
     if (field != kVideosOnFileField && !IsBlank(value))
-      folder.fields.emplace_back(fields.Caption(field) + ": " + value);
+      folder.fields.emplace_back(ShownCaption(field, fields.Caption(field)) + ": " + value);
   }
   folder.notes = IndexedText(ReadNotes(path));
 }
@@ -209,7 +210,8 @@ SearchResult FindIn(const LibraryIndex& index, std::string_view typed) {
   const std::vector<bool> nothing(words.size());
   for (const IndexedText& instructor : index.instructors) {
     people.Add(FitOf(instructor.findable, words, nothing), [&instructor] {
-      return SearchHit{SearchHit::Kind::Instructor, instructor.text, {}, {}, instructor.text, "Instructor or database"};
+      return SearchHit{SearchHit::Kind::Instructor, instructor.text, {}, {}, instructor.text,
+                       Tr("Instructor or database")};
     });
   }
   for (const auto& folder : index.folders) FindInFolder(*folder, words, people, videos, texts);

@@ -16,6 +16,7 @@
 #include "platform/files/Folders.h"
 #include "platform/files/IniFile.h"
 #include "platform/files/PartFiles.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 
@@ -25,9 +26,9 @@ using Change = LibraryOperations::Change;
 
 std::string VerbOf(Change change) {
   switch (change) {
-    case Change::Rename: return "rename";
-    case Change::Move: return "move";
-    case Change::Delete: return "delete";
+    case Change::Rename: return Tr("rename");
+    case Change::Move: return Tr("move");
+    case Change::Delete: return Tr("delete");
   }
   return {};
 }
@@ -133,7 +134,7 @@ ITrash* LibraryOperations::TrashOf(const std::string& path) const {
 }
 
 bool LibraryOperations::GoesForGood(const std::string& what) {
-  return host_.Question("Delete", what + " cannot be moved to the trash. Do you want to delete it for good?");
+  return host_.Question(Tr("Delete"), Tr("{} cannot be moved to the trash. Do you want to delete it for good?", what));
 }
 
 std::string LibraryOperations::DeletionText(const LibraryVideo& about, bool wholeStudent) {
@@ -146,7 +147,7 @@ std::string LibraryOperations::DeletionText(const LibraryVideo& about, bool whol
 }
 
 std::string LibraryOperations::BusyText() const {
-  return Busy() ? "Another operation is still at work. Please wait until it has finished." : "";
+  return Busy() ? Tr("Another operation is still at work. Please wait until it has finished.") : "";
 }
 
 /// A library in a network folder that has gone would look like one without students.
@@ -155,11 +156,11 @@ std::string LibraryOperations::Unreachable() const {
   switch (PlaceOfLibrary(host_.Drives(), settings_)) {
     case LibraryPlace::Ready:
     case LibraryPlace::ToBegin: return {};
-    case LibraryPlace::Silent: return SilentLibraryText(root) + " Nothing was changed.";
+    case LibraryPlace::Silent: return Tr("{} Nothing was changed.", SilentLibraryText(root));
     case LibraryPlace::Removed:
     case LibraryPlace::Gone: break;
   }
-  return "The video library at " + root + " cannot be reached. Nothing was changed.";
+  return Tr("The video library at {} cannot be reached. Nothing was changed.", root);
 }
 
 bool LibraryOperations::BeginLibrary() {
@@ -167,8 +168,9 @@ bool LibraryOperations::BeginLibrary() {
   const LibraryPlace place = PlaceOfLibrary(host_.Drives(), settings_);
   if (place != LibraryPlace::ToBegin && place != LibraryPlace::Removed) return true;
   if (place == LibraryPlace::Removed &&
-      !host_.Question("Video Library", "The video library at " + root +
-                                           " is not there any more. Do you want to begin a new one in its place?"))
+      !host_.Question(
+          Tr("Video Library"),
+          Tr("The video library at {} is not there any more. Do you want to begin a new one in its place?", root)))
     return false;
   // No folder above it is made: that would be the one of the settings.
   std::error_code failed;
@@ -183,10 +185,10 @@ std::string LibraryOperations::Obstacle() const {
 
 std::string LibraryOperations::OpenVideoIn(const std::string& folder, const std::string& change) const {
   const auto videos = host_.Drives().Ask(tree_.Root(), [folder] { return AllVideosBelow(folder); });
-  if (!videos) return SilentLibraryText(tree_.Root()) + " Nothing was changed.";
+  if (!videos) return Tr("{} Nothing was changed.", SilentLibraryText(tree_.Root()));
   if (std::ranges::none_of(*videos, [this](const std::string& path) { return IsOpen(path); })) return {};
-  return "A video from this database is open in the Analysis section. You must close the video before you can " +
-         change + ".";
+  return Tr("A video from this database is open in the Analysis section. You must close the video before you can {}.",
+            change);
 }
 
 OperationResult LibraryOperations::Refuse(const std::string& text) {
@@ -199,7 +201,8 @@ std::string LibraryOperations::Shown(const std::string& refusal) {
 }
 
 OperationResult LibraryOperations::RefuseGone(const std::string& text) {
-  OperationResult result = Refuse(text + ". It is not there any more: somebody else has renamed, moved or deleted it.");
+  OperationResult result =
+      Refuse(Tr("{}. It is not there any more: somebody else has renamed, moved or deleted it.", text));
   result.refill = true;
   return result;
 }
@@ -209,25 +212,25 @@ std::string LibraryOperations::RefuseUnlessStudentChangeable(const std::string& 
   if (student.empty() || instructor.empty() || instructor == kGeneralFolder) return words_.MustSelect();
   std::string refusal = Obstacle();
   if (refusal.empty())
-    refusal = OpenVideoIn(tree_.StudentFolder(instructor, student), VerbOf(change) + " this " + words_.noun());
+    refusal = OpenVideoIn(tree_.StudentFolder(instructor, student), Tr("{} this {}", VerbOf(change), words_.noun()));
   return Shown(refusal);
 }
 
 std::string LibraryOperations::RefuseUnlessVideoChangeable(const LibraryVideo& video) {
-  if (video.path.empty()) return "You must select a video first.";
+  if (video.path.empty()) return Tr("You must select a video first.");
   std::string refusal = Obstacle();
   if (refusal.empty() && IsOpen(video.path))
-    refusal = "This video is open in the Analysis section. You must close the video before you can continue.";
+    refusal = Tr("This video is open in the Analysis section. You must close the video before you can continue.");
   return Shown(refusal);
 }
 
 std::string LibraryOperations::RefuseUnlessInstructorChangeable(const std::string& instructor, Change change) {
-  if (instructor.empty() || instructor == kGeneralFolder) return "You must select an Instructor or Database first.";
+  if (instructor.empty() || instructor == kGeneralFolder) return Tr("You must select an Instructor or Database first.");
   if (instructor == kQuickLaunch)
-    return "The folder " + instructor + " belongs to the program. You cannot " + VerbOf(change) + " it.";
+    return Tr("The folder {} belongs to the program. You cannot {} it.", instructor, VerbOf(change));
   const std::string folder = tree_.InstructorFolder(instructor);
   std::string refusal = Obstacle();
-  if (refusal.empty()) refusal = OpenVideoIn(folder, VerbOf(change) + " this database");
+  if (refusal.empty()) refusal = OpenVideoIn(folder, Tr("{} this database", VerbOf(change)));
   if (refusal.empty() && change == Change::Delete && !ListFolders(folder).empty()) refusal = StillFullText(instructor);
   return Shown(refusal);
 }
@@ -247,30 +250,30 @@ std::string LibraryOperations::StillFullText(const std::string& instructor) cons
   const std::string folder = tree_.InstructorFolder(instructor);
   // Other programs leave things that no list of ours shows.
   if (ListFolders(folder).empty() && ListVideos(folder).empty())
-    return "There are other files in the folder " + folder + ". Move or delete them first.";
-  return instructor + " still has " + words_.nouns() + " or videos. Move or delete them first.";
+    return Tr("There are other files in the folder {}. Move or delete them first.", folder);
+  return Tr("{} still has {} or videos. Move or delete them first.", instructor, words_.nouns());
 }
 
 OperationResult LibraryOperations::RenameInstructor(const std::string& instructor, std::string_view typed) {
   const std::string_view name = WithoutOuterBlanks(typed);
   if (const std::string refusal = RefuseUnlessInstructorChangeable(instructor, Change::Rename); !refusal.empty())
     return Report(refusal);
-  if (!IsValidName(name)) return Refuse("Invalid character in Name");
-  if (IsBlank(name)) return Refuse("You must type a name!");
-  if (name == instructor) return Report("Rename cancelled.");
+  if (!IsValidName(name)) return Refuse(Tr("Invalid character in Name"));
+  if (IsBlank(name)) return Refuse(Tr("You must type a name!"));
+  if (name == instructor) return Report(Tr("Rename cancelled."));
   const std::string from = tree_.InstructorFolder(instructor);
   const std::string to = tree_.InstructorFolder(name);
-  const std::string taken = "There is already an Instructor or Database with this name.";
+  const std::string taken = Tr("There is already an Instructor or Database with this name.");
   // These two stand for something else in the list.
   if (SameName(name, kGeneralFolder) || SameName(name, kQuickLaunch)) return Refuse(taken);
   if (HasFolderNamed(tree_.Root(), name, instructor)) return Refuse(taken);
   if (const Outcome renamed = RenameEntry(from, to, disk_); !renamed) {
-    const std::string text = instructor + " could not be renamed";
+    const std::string text = Tr("{} could not be renamed", instructor);
     if (EntryExists(to)) return Refuse(taken);
     return EntryExists(from) ? Refuse(text + ": " + renamed.Why()) : RefuseGone(text);
   }
   analysis_.PathChanged(from, to);
-  return {instructor + " successfully renamed.", true, std::string(name)};
+  return {Tr("{} successfully renamed.", instructor), true, std::string(name)};
 }
 
 OperationResult LibraryOperations::DeleteInstructor(const std::string& instructor) {
@@ -281,10 +284,10 @@ OperationResult LibraryOperations::DeleteInstructor(const std::string& instructo
   if (disk_.RemoveFolder(folder) < 0) {
     const int reason = errno;
     if (reason == ENOTEMPTY || reason == EEXIST) return Refuse(StillFullText(instructor));
-    const std::string text = instructor + " could not be removed";
+    const std::string text = Tr("{} could not be removed", instructor);
     return reason == ENOENT ? RefuseGone(text) : Refuse(text + ": " + std::generic_category().message(reason));
   }
-  return {instructor + " successfully removed from the system.", true};
+  return {Tr("{} successfully removed from the system.", instructor), true};
 }
 
 OperationResult LibraryOperations::AddStudent(const std::string& instructor, const FieldTexts& captions,
@@ -300,7 +303,7 @@ OperationResult LibraryOperations::AddStudent(const std::string& instructor, con
 }
 
 OperationResult LibraryOperations::RenameStudentCancelled() const {
-  return Report(words_.Noun() + " rename cancelled.");
+  return Report(Tr("{} rename cancelled.", words_.Noun()));
 }
 
 OperationResult LibraryOperations::RenameStudent(const std::string& instructor, const std::string& student,
@@ -308,26 +311,26 @@ OperationResult LibraryOperations::RenameStudent(const std::string& instructor, 
   const std::string_view name = WithoutOuterBlanks(typed);
   if (const std::string refusal = RefuseUnlessStudentChangeable(instructor, student, Change::Rename); !refusal.empty())
     return Report(refusal);
-  if (!IsValidName(name)) return Refuse("Invalid character in " + words_.Noun() + " Name.");
-  if (IsBlank(name)) return Refuse("You must type a name!");
+  if (!IsValidName(name)) return Refuse(Tr("Invalid character in {} Name.", words_.Noun()));
+  if (IsBlank(name)) return Refuse(Tr("You must type a name!"));
   if (name == student) return RenameStudentCancelled();
   const std::string from = tree_.StudentFolder(instructor, student);
   const std::string to = tree_.StudentFolder(instructor, name);
-  const std::string taken = "The name you have chosen already exists in the database.";
+  const std::string taken = Tr("The name you have chosen already exists in the database.");
   if (HasFolderNamed(tree_.InstructorFolder(instructor), name, student)) return Refuse(taken);
   if (const Outcome renamed = RenameEntry(from, to, disk_); !renamed) {
     // Another workstation may have taken the name just now.
     if (EntryExists(to)) return Refuse(taken);
-    const std::string text = "The " + words_.noun() + " could not be renamed";
+    const std::string text = Tr("The {} could not be renamed", words_.noun());
     return EntryExists(from) ? Refuse(text + ": " + renamed.Why()) : RefuseGone(text);
   }
   analysis_.PathChanged(from, to);
-  OperationResult result{words_.Noun() + " successfully renamed.", true, instructor, std::string(name)};
+  OperationResult result{Tr("{} successfully renamed.", words_.Noun()), true, instructor, std::string(name)};
   // A student without a profile gains a whole one at the next look.
   const std::string profile = ProfilePath(to);
   if (FileExists(profile) && !WritePrivateProfileString("Profile", "Name", name, profile)) {
-    host_.Message(MessageKind::Warning, "", "An error has occurred while editing the profile");
-    result.words = std::string("An error has occurred while editing the profile");
+    host_.Message(MessageKind::Warning, "", Tr("An error has occurred while editing the profile"));
+    result.words = Tr("An error has occurred while editing the profile");
   }
   return result;
 }
@@ -339,11 +342,11 @@ void LibraryOperations::MoveStudent(const std::string& instructor, const std::st
   if (targetInstructor.empty() || targetInstructor == kGeneralFolder)
     return events->Ended(Report(LibraryTextsFor(settings_).moveStudent));
   const std::string taken =
-      "The Database that you have chosen already contains a " + words_.noun() + " with the same name.";
+      Tr("The Database that you have chosen already contains a {} with the same name.", words_.noun());
   const std::string target = tree_.InstructorFolder(targetInstructor);
   // A database that another workstation has just renamed would come back.
   if (!dirExists(target))
-    return events->Ended(Refuse("The folder " + target + " cannot be found. The " + words_.noun() + " was not moved."));
+    return events->Ended(Refuse(Tr("The folder {} cannot be found. The {} was not moved.", target, words_.noun())));
   const std::string from = tree_.StudentFolder(instructor, student);
   const std::string to = tree_.StudentFolder(targetInstructor, student);
   if (EntryExists(to) || HasFolderNamed(target, student)) return events->Ended(Refuse(taken));
@@ -352,13 +355,13 @@ void LibraryOperations::MoveStudent(const std::string& instructor, const std::st
       std::move(job),
       [=, this](StudentMoveJob& move) -> OperationResult {
         const CopyJob& copy = move.Copy();
-        if (copy.Status() == CopyJob::State::Cancelled) return Report(kOperationCancelled);
+        if (copy.Status() == CopyJob::State::Cancelled) return Report(Tr(kOperationCancelled));
         if (copy.NameTaken()) return Refuse(taken);
         if (copy.Status() != CopyJob::State::Done)
-          return EntryExists(from) ? Refuse(copy.Error()) : RefuseGone("The " + words_.noun() + " was not moved");
+          return EntryExists(from) ? Refuse(copy.Error()) : RefuseGone(Tr("The {} was not moved", words_.noun()));
         analysis_.PathChanged(from, to);
         if (!copy.Error().empty()) host_.Message(MessageKind::Warning, "", copy.Error());
-        return {words_.Noun() + " Successfully Moved to " + targetInstructor + " .", true, targetInstructor, student};
+        return {Tr("{} Successfully Moved to {} .", words_.Noun(), targetInstructor), true, targetInstructor, student};
       },
       std::move(events));
 }
@@ -373,9 +376,9 @@ void LibraryOperations::DeleteStudent(const std::string& instructor, const std::
   Run<StudentTrashJob>(
       std::make_unique<StudentTrashJob>(folder, *trash),
       [=, this](const StudentTrashJob& removal) -> OperationResult {
-        if (removal.Taken()) return {words_.Noun() + " Successfully removed from the system.", true, instructor};
-        if (!EntryExists(folder)) return RefuseGone("The " + words_.noun() + " was not removed");
-        if (!GoesForGood("The " + words_.noun() + " " + student)) return Report(kOperationCancelled);
+        if (removal.Taken()) return {Tr("{} Successfully removed from the system.", words_.Noun()), true, instructor};
+        if (!EntryExists(folder)) return RefuseGone(Tr("The {} was not removed", words_.noun()));
+        if (!GoesForGood(Tr("The {} {}", words_.noun(), student))) return Report(Tr(kOperationCancelled));
         answered->GoOn();
         RemoveStudent(instructor, folder, events);
         return {};
@@ -388,9 +391,9 @@ void LibraryOperations::RemoveStudent(const std::string& instructor, const std::
   Run<StudentRemovalJob>(
       std::move(job),
       [this, instructor](StudentRemovalJob& removal) -> OperationResult {
-        if (removal.Removed()) return {words_.Noun() + " Successfully removed from the system.", true, instructor};
-        if (removal.Error().empty()) return Report(kOperationCancelled);
-        OperationResult result = Refuse("The " + words_.noun() + " could not be removed: " + removal.Error());
+        if (removal.Removed()) return {Tr("{} Successfully removed from the system.", words_.Noun()), true, instructor};
+        if (removal.Error().empty()) return Report(Tr(kOperationCancelled));
+        OperationResult result = Refuse(Tr("The {} could not be removed: {}", words_.noun(), removal.Error()));
         result.refill = true;
         return result;
       },

@@ -3,6 +3,7 @@
 #include "core/LibraryPath.h"
 #include "platform/files/FileCopy.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 
@@ -28,7 +29,7 @@ LibraryPlace PlaceOfLibrary(DriveWatch& drives, const Settings& settings) {
 }
 
 std::string SilentLibraryText(const std::string& root) {
-  return "The drive with the video library at " + root + " is not answering.";
+  return Tr("The drive with the video library at {} is not answering.", root);
 }
 
 }  // namespace kinalyx

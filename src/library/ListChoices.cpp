@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "platform/files/IniFile.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 
@@ -18,7 +19,11 @@ std::string Bool(bool value) { return value ? "True" : "False"; }
 
 }  // namespace
 
-std::string SortCaption(VideoSort::By by) { return std::string("By ") + kSorts[static_cast<int>(by)]; }
+std::string SortCaption(VideoSort::By by) {
+  constexpr const char* kCaptions[kVideoSorts] = {TrLater("By Name"), TrLater("By Date"), TrLater("By Length"),
+                                                  TrLater("By Size")};
+  return Tr(kCaptions[static_cast<int>(by)]);
+}
 
 std::vector<std::size_t> OrderBy(const std::vector<double>& values, bool turned) {
   std::vector<std::size_t> rows(values.size());

@@ -7,6 +7,7 @@
 #include "library/Profile.h"
 #include "library/TextMerge.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 
@@ -38,7 +39,7 @@ const std::string& NotesKeeper::Open(const std::string& studentFolder) {
 
 Outcome NotesKeeper::Store(const std::string& folder, Waiting& notes) {
   const auto theirs = LoadNotes(folder);
-  if (!theirs) return Outcome::Failed("the notes that are there cannot be read");
+  if (!theirs) return Outcome::Failed(Tr("the notes that are there cannot be read"));
   std::string merged = WithLineEnds(MergeTexts(notes.base, notes.text, *theirs));
   if (merged != *theirs) {
     if (Outcome saved = SaveNotes(folder, merged); !saved) return saved;
@@ -60,7 +61,7 @@ Outcome NotesKeeper::Keep(std::optional<std::string_view> typed) {
     const bool gone = reached && HasGone(folder);
     const Outcome stored = gone      ? Outcome()
                            : reached ? Store(folder, waiting)
-                                     : Outcome::Failed("the drive is not answering");
+                                     : Outcome::Failed(Tr("the drive is not answering"));
     if (stored && folder == folder_) text_ = base_ = waiting.text;
     if (gone && !waiting.text.empty()) events_.NotesLost(folder, waiting.text);
     if (!stored) all = stored;

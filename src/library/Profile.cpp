@@ -11,16 +11,32 @@
 #include "platform/files/Folders.h"
 #include "platform/files/IniFile.h"
 #include "platform/files/TextEncoding.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 
 namespace {
 
-constexpr const char* kFirstRunCaptions[kProfileFields] = {
-    "Name",           "Address",     "City, State, Zip", "Phone #",          "E-Mail Address",
-    "Years in Sport", "Age",         "Height",           "R/L Handed",       "Videos on File",
-    "Strengths",      "Weaknesses",  "Short term Goals", "Long term Goals",  "Practice per Month",
-    "Play per Month", "Tournaments", "Past Injuries",    "Current Injuries", "Physical Restrictions"};
+constexpr const char* kFirstRunCaptions[kProfileFields] = {TrLater("Name"),
+                                                           TrLater("Address"),
+                                                           TrLater("City, State, Zip"),
+                                                           TrLater("Phone #"),
+                                                           TrLater("E-Mail Address"),
+                                                           TrLater("Years in Sport"),
+                                                           TrLater("Age"),
+                                                           TrLater("Height"),
+                                                           TrLater("R/L Handed"),
+                                                           TrLater("Videos on File"),
+                                                           TrLater("Strengths"),
+                                                           TrLater("Weaknesses"),
+                                                           TrLater("Short term Goals"),
+                                                           TrLater("Long term Goals"),
+                                                           TrLater("Practice per Month"),
+                                                           TrLater("Play per Month"),
+                                                           TrLater("Tournaments"),
+                                                           TrLater("Past Injuries"),
+                                                           TrLater("Current Injuries"),
+                                                           TrLater("Physical Restrictions")};
 
 constexpr const char* kOldNameKeys[] = {"Student Name", "Client Name", "Golfer Name", "Bowler Name", "Patient Name"};
 
@@ -114,6 +130,19 @@ std::string KeyOf(const ProfileReader& reader, const ProfileFields& fields, int 
 
 }  // namespace
 
+std::string ShownCaption(int field, const std::string& stored) {
+  return stored == kFirstRunCaptions[static_cast<std::size_t>(field)] ? Tr(stored) : stored;
+}
+
+FieldTexts ShownCaptions(const FieldTexts& stored) {
+  FieldTexts shown = stored;
+  for (int field = 0; field < kProfileFields; ++field) {
+    std::string& caption = shown[static_cast<std::size_t>(field)];
+    caption = ShownCaption(field, caption);
+  }
+  return shown;
+}
+
 // ---------------------------------------------------------------- captions
 
 void ProfileFields::EnsureFile() {
@@ -143,10 +172,11 @@ Outcome ProfileFields::SetCaption(int field, std::string_view caption) {
   const auto isKey = [&](const std::string& name) { return FoldCase(name) == FoldCase(key); };
   for (int other = 0; other < kProfileFields; ++other) {
     if (other == field) continue;
-    if (isKey(captions_[Index(other)])) return Outcome::Failed("Another field has the name \"" + key + "\" already.");
+    if (isKey(captions_[Index(other)])) return Outcome::Failed(Tr("Another field has the name \"{}\" already.", key));
     if (std::ranges::any_of(Earlier(other), isKey))
-      return Outcome::Failed("The values of the field \"" + Caption(other) + "\" are stored under \"" + key +
-                             "\", its name of before. Please choose another name.");
+      return Outcome::Failed(
+          Tr("The values of the field \"{}\" are stored under \"{}\", its name of before. Please choose another name.",
+             Caption(other), key));
   }
   std::vector<std::string> earlier = Earlier(field);
   if (!Caption(field).empty()) earlier.insert(earlier.begin(), Caption(field));
@@ -157,7 +187,7 @@ Outcome ProfileFields::SetCaption(int field, std::string_view caption) {
   if (!earlier.empty() || !Earlier(field).empty()) entries.push_back({kEarlierSection, number, Joined(earlier)});
   const bool stored = WriteProfileEntries(entries, path_);
   SetupFields();
-  return stored ? Outcome() : Outcome::Failed("The file " + path_ + " cannot be written.");
+  return stored ? Outcome() : Outcome::Failed(Tr("The file {} cannot be written.", path_));
 }
 
 // ---------------------------------------------------------------- profiles
@@ -256,7 +286,7 @@ std::optional<std::string> LoadNotes(const std::string& studentFolder) {
 Outcome SaveNotes(const std::string& studentFolder, std::string_view notes) {
   const std::string path = NotesPath(studentFolder);
   if (!notes.empty()) return WriteWholeFile(path, std::string_view(WithLineEnds(notes)));
-  return KillFile(path) ? Outcome() : Outcome::Failed("The file " + path + " cannot be deleted.");
+  return KillFile(path) ? Outcome() : Outcome::Failed(Tr("The file {} cannot be deleted.", path));
 }
 
 // ---------------------------------------------------------------- new entries
@@ -267,7 +297,7 @@ namespace {
 Outcome MakeNewFolder(const std::string& path) {
   std::error_code failed;
   if (std::filesystem::create_directory(path, failed)) return {};
-  return Outcome::Failed(failed ? failed.message() : "it has just been made by somebody else");
+  return Outcome::Failed(failed ? failed.message() : Tr("it has just been made by somebody else"));
 }
 
 }  // namespace
@@ -276,25 +306,25 @@ Result<std::string> AddStudent(const std::string& instructorFolder, const FieldT
                                const FieldTexts& values, std::string_view noun) {
   const std::string& name = values[kNameField];
   const std::string person(noun);
-  if (IsBlank(name)) return Outcome::Failed("You must enter a name for the new " + person + ".");
+  if (IsBlank(name)) return Outcome::Failed(Tr("You must enter a name for the new {}.", person));
   const std::string folder = JoinPath(instructorFolder, name);
   if (HasFolderNamed(instructorFolder, name))
-    return Outcome::Failed("The " + person + " name that you have chosen already exists on the system.");
-  if (!IsValidName(name)) return Outcome::Failed("Invalid character in name.");
+    return Outcome::Failed(Tr("The {} name that you have chosen already exists on the system.", person));
+  if (!IsValidName(name)) return Outcome::Failed(Tr("Invalid character in name."));
   if (!MakeNewFolder(folder) || !MakeProfile(folder, captions, values))
-    return Outcome::Failed("An error has occurred while creating the profile");
-  return "New " + person + " successfully created.";
+    return Outcome::Failed(Tr("An error has occurred while creating the profile"));
+  return Tr("New {} successfully created.", person);
 }
 
 Result<std::string> AddInstructor(const std::string& root, std::string_view name) {
-  if (!IsValidName(name)) return Outcome::Failed("Invalid character in Name");
-  if (IsBlank(name)) return Outcome::Failed("You must type a name!");
+  if (!IsValidName(name)) return Outcome::Failed(Tr("Invalid character in Name"));
+  if (IsBlank(name)) return Outcome::Failed(Tr("You must type a name!"));
   const std::string folder = JoinPath(root, name);
   if (SameName(name, kGeneralFolder) || HasFolderNamed(root, name))
-    return Outcome::Failed(std::string(name) + " already exists.");
+    return Outcome::Failed(Tr("{} already exists.", std::string(name)));
   if (const Outcome made = MakeNewFolder(folder); !made)
-    return Outcome::Failed("The folder " + folder + " cannot be made: " + made.Why() + ".");
-  return std::string(name) + " successfully added!";
+    return Outcome::Failed(Tr("The folder {} cannot be made: {}.", folder, made.Why()));
+  return Tr("{} successfully added!", std::string(name));
 }
 
 }  // namespace kinalyx

@@ -18,6 +18,11 @@ inline constexpr int kMaxFieldText = 49;      ///< characters of a value or a ca
 
 using FieldTexts = std::array<std::string, kProfileFields>;
 
+/// A field's caption as it is shown: in the user's language while it is the one that a first run stores.
+std::string ShownCaption(int field, const std::string& stored);
+/// The same for all fields.
+FieldTexts ShownCaptions(const FieldTexts& stored);
+
 /// The captions of the profile fields, the same for the whole workstation, kept in `fields.ini`. They are
 /// also the keys of every profile. A field that is renamed remembers its earlier captions there, and finds the
 /// values under them: no profile is rewritten for it, and another workstation that knows only the old name still

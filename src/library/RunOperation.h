@@ -4,12 +4,13 @@
 #include <utility>
 
 #include "library/LibraryOperations.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 
 // How the sources of the library's operations run their jobs.
 
-inline constexpr const char* kOperationCancelled = "Operation Cancelled";
+inline constexpr const char* kOperationCancelled = TrLater("Operation Cancelled");
 
 /// A long operation while its job is at work: makes the result of the job, and tells it.
 template <typename Job>

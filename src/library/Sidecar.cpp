@@ -20,6 +20,7 @@
 #include "platform/files/FileCopy.h"
 #include "platform/files/Folders.h"
 #include "platform/files/TextEncoding.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 
@@ -351,8 +352,8 @@ Result<std::string> WriteVideoData(const std::string& path, const SlotData& data
     return written;
   }
   if (FittingNotes(data.Notes).size() == data.Notes.size()) return std::string();
-  std::string notice = fmt::format("The notes are longer than {} characters. What follows was not saved.", kMaxNotes);
-  if (!old.empty()) notice += fmt::format(" What was stored before is kept in {}.", old);
+  std::string notice = Tr("The notes are longer than {} characters. What follows was not saved.", kMaxNotes);
+  if (!old.empty()) notice += Tr(" What was stored before is kept in {}.", old);
   return notice;
 }
 

@@ -8,6 +8,7 @@
 
 #include "platform/files/Folders.h"
 #include "platform/files/PartFiles.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 
@@ -40,7 +41,7 @@ bool TrimJob::Step() {
   if (runs) return true;
   // What the program says is not taken on trust: the video must be there.
   saved_ = process_->ExitCode() == 0 && FileExists(request_.destination);
-  if (!saved_) error_ = process_->Errors().empty() ? "The program avitrim has failed." : process_->Errors();
+  if (!saved_) error_ = process_->Errors().empty() ? Tr("The program avitrim has failed.") : Tr(process_->Errors());
   while (error_.ends_with('\n')) error_.pop_back();
   return false;
 }

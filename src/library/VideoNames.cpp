@@ -9,6 +9,7 @@
 
 #include "platform/files/Folders.h"
 #include "platform/files/TextEncoding.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 namespace {
@@ -64,7 +65,7 @@ std::string VideoFilter() {
     std::ranges::transform(large, large.begin(), [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
     patterns += fmt::format("{}*{}; *{}", patterns.empty() ? "" : "; ", ending, large);
   }
-  return "Videos|" + patterns + "|All files|*";
+  return Tr("Videos|{}|All files|*", patterns);
 }
 
 std::string VideoName(std::string_view file) {

@@ -16,6 +16,7 @@
 #include "library/VideoNames.h"
 #include "library/VideoTransfer.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 
@@ -101,8 +102,8 @@ class CountedTransfer final : public IOperationEvents {
   void ShowProgress(const JobProgress& progress) override {
     if (progress.done > told_) {
       told_ = progress.done;
-      ShowStatus(std::to_string(told_) + " of " + std::to_string(progress.total) +
-                 (out_ ? " Videos Successfully exported.....Please wait..." : " Videos Successfully Imported."));
+      ShowStatus(out_ ? Tr("{} of {} Videos Successfully exported.....Please wait...", told_, progress.total)
+                      : Tr("{} of {} Videos Successfully Imported.", told_, progress.total));
     }
     events_->ShowProgress(progress);
   }
@@ -116,7 +117,7 @@ class CountedTransfer final : public IOperationEvents {
 };
 
 constexpr int kLastOfAll = std::numeric_limits<int>::max();  // frame
-constexpr const char* kCannotDelete = "Unable to delete the video. Try rebooting, then try again.";
+constexpr const char* kCannotDelete = TrLater("Unable to delete the video. Try rebooting, then try again.");
 
 }  // namespace
 
@@ -124,7 +125,7 @@ constexpr const char* kCannotDelete = "Unable to delete the video. Try rebooting
 
 OperationResult LibraryOperations::SendToAnalysis(const LibraryVideo& video,
                                                   const std::function<void(const std::string&)>& status) {
-  if (video.path.empty()) return Report("You must select a video first.");
+  if (video.path.empty()) return Report(Tr("You must select a video first."));
   if (const std::string refusal = Unreachable(); !refusal.empty()) return Refuse(refusal);
   std::string last;
   const int slot = analysis_.SendToAnalysis(video.path, [&](const std::string& words) {
@@ -138,24 +139,24 @@ OperationResult LibraryOperations::SendToAnalysis(const std::vector<LibraryVideo
                                                   const std::function<void(const std::string&)>& status) {
   if (videos.size() == 1) return SendToAnalysis(videos.front(), status);
   std::size_t sent = 0;
-  OperationResult last = Report("You must select a video first.");
+  OperationResult last = Report(Tr("You must select a video first."));
   while (sent < videos.size() && (last = SendToAnalysis(videos[sent], status)).Done()) ++sent;
   if (sent == 0) return last;
   const std::string all = std::to_string(videos.size());
-  if (sent == videos.size()) last.words = all + " videos were sent to Analysis.";
-  else last.words = std::to_string(sent) + " of " + all + " videos were sent to Analysis. " + last.Status();
+  if (sent == videos.size()) last.words = Tr("{} videos were sent to Analysis.", all);
+  else last.words = Tr("{} of {} videos were sent to Analysis. {}", sent, all, last.Status());
   return last;
 }
 
 OperationResult LibraryOperations::RenameVideo(const LibraryVideo& video, std::string_view typed) {
   const std::string_view name = WithoutOuterBlanks(typed);
   if (const std::string refusal = RefuseUnlessVideoChangeable(video); !refusal.empty()) return Report(refusal);
-  if (!IsValidName(name)) return Refuse("Invalid character in " + words_.noun() + " name.");
-  if (IsBlank(name)) return Refuse("You must type a name!");
+  if (!IsValidName(name)) return Refuse(Tr("Invalid character in {} name.", words_.noun()));
+  if (IsBlank(name)) return Refuse(Tr("You must type a name!"));
   const std::string folder = FolderOf(video.path);
   const std::string file = std::string(name) + VideoExtension(video.path);
   const std::string to = JoinPath(folder, file);
-  const std::string taken = "The video name you have chosen already exists, please try again.";
+  const std::string taken = Tr("The video name you have chosen already exists, please try again.");
   if (IsTakenBeside(video.path, name)) return Refuse(taken);
   // Where only the case of a name changes, the disk may take the old sidecar for the new one.
   if (!SetAsideOrphans(folder, file, disk_) && !SamePlace(SidecarPath(video.path), SidecarPath(to)) &&
@@ -163,11 +164,11 @@ OperationResult LibraryOperations::RenameVideo(const LibraryVideo& video, std::s
     return Refuse(taken);
   if (const Outcome renamed = RenameWithCompanions(video.path, to, disk_); !renamed) {
     if (EntryExists(to) || EntryExists(SidecarPath(to)) || EntryExists(StudyPath(to))) return Refuse(taken);
-    const std::string text = "The video could not be renamed";
+    const std::string text = Tr("The video could not be renamed");
     return EntryExists(video.path) ? Refuse(text + ": " + renamed.Why()) : RefuseGone(text);
   }
   analysis_.PathChanged(video.path, to);
-  return {std::string("Video renamed successfully."), true, video.instructor, video.student, ShownName(file)};
+  return {Tr("Video renamed successfully."), true, video.instructor, video.student, ShownName(file)};
 }
 
 /// Removes a video, then its companions unless another video needs them; false when the video stays.
@@ -175,7 +176,7 @@ bool LibraryOperations::RemoveVideo(const std::string& path) {
   const auto companions = SharesCompanions(path) ? std::vector<Companion>() : CompanionsOf(path);
   ITrash* const trash = TrashOf(path);
   const bool taken = trash && trash->Take(path);
-  if (trash && !taken && EntryExists(path) && !GoesForGood("The video " + ShownName(path))) return false;
+  if (trash && !taken && EntryExists(path) && !GoesForGood(Tr("The video {}", ShownName(path)))) return false;
   if (!taken && !RemoveTree(path, disk_)) return false;
   // What stays does no harm: it makes way for the next video of its name.
   for (const Companion& companion : companions)
@@ -185,8 +186,8 @@ bool LibraryOperations::RemoveVideo(const std::string& path) {
 
 OperationResult LibraryOperations::DeleteVideo(const LibraryVideo& video) {
   if (const std::string refusal = RefuseUnlessVideoChangeable(video); !refusal.empty()) return Report(refusal);
-  if (!RemoveVideo(video.path)) return Refuse(kCannotDelete);
-  return {std::string("Video Successfully Deleted!"), true, video.instructor, video.student};
+  if (!RemoveVideo(video.path)) return Refuse(Tr(kCannotDelete));
+  return {Tr("Video Successfully Deleted!"), true, video.instructor, video.student};
 }
 
 OperationResult LibraryOperations::DeleteVideos(const std::vector<LibraryVideo>& videos) {
@@ -196,8 +197,8 @@ OperationResult LibraryOperations::DeleteVideos(const std::vector<LibraryVideo>&
   std::size_t deleted = 0;
   while (deleted < videos.size() && RemoveVideo(videos[deleted].path)) ++deleted;
   OperationResult result;
-  if (deleted < videos.size()) result = Refuse(kCannotDelete);
-  else result.words = std::to_string(deleted) + " Videos Successfully Deleted!";
+  if (deleted < videos.size()) result = Refuse(Tr(kCannotDelete));
+  else result.words = Tr("{} Videos Successfully Deleted!", deleted);
   result.refill = deleted > 0;
   return result;
 }
@@ -214,13 +215,14 @@ void LibraryOperations::MoveVideos(const std::vector<LibraryVideo>& videos, cons
       return events->Ended(Report(refusal));
   }
   if (targetInstructor.empty() || targetStudent.empty() || targetInstructor == kGeneralFolder)
-    return events->Ended(Refuse("You must select a Database and " + words_.noun() + " for the video."));
+    return events->Ended(Refuse(Tr("You must select a Database and {} for the video.", words_.noun())));
   const std::string folder = tree_.StudentFolder(targetInstructor, targetStudent);
   if (SamePlace(folder, FolderOf(videos.front().path)))
-    return events->Ended(Refuse("The source and destination folders are the same. The video was not moved."));
+    return events->Ended(Refuse(Tr("The source and destination folders are the same. The video was not moved.")));
   const auto taken = [targetStudent](const LibraryVideo& video) {
-    return "A video with the name \"" + NameOf(video) + "\" already exists in the folder named " + targetStudent +
-           ". Please rename the video and try again.";
+    return Tr(
+        "A video with the name \"{}\" already exists in the folder named {}. Please rename the video and try again.",
+        NameOf(video), targetStudent);
   };
   std::vector<VideoTransfer> transfers;
   for (const LibraryVideo& video : videos) {
@@ -229,7 +231,7 @@ void LibraryOperations::MoveVideos(const std::vector<LibraryVideo>& videos, cons
   }
   // A student whom another workstation has just renamed or moved away would come back as a bare folder.
   if (!dirExists(folder))
-    return events->Ended(Refuse("The folder " + folder + " cannot be found. The video was not moved."));
+    return events->Ended(Refuse(Tr("The folder {} cannot be found. The video was not moved.", folder)));
   auto job = std::make_unique<VideoTransferJob>(CopyJob::Kind::Move, OnClash::Stop, std::move(transfers), disk_);
   Run<VideoTransferJob>(
       std::move(job),
@@ -240,17 +242,16 @@ void LibraryOperations::MoveVideos(const std::vector<LibraryVideo>& videos, cons
           analysis_.PathChanged(videos[i].path, JoinPath(folder, LastName(videos[i].path)));
         if (!move.Failed() && !move.Cancelled()) {
           if (!move.Error().empty()) host_.Message(MessageKind::Warning, "", move.Error());
-          if (videos.size() > 1) return {count + " videos successfully moved.", true};
-          return {std::string("Selected video successfully moved."), true};
+          if (videos.size() > 1) return {Tr("{} videos successfully moved.", count), true};
+          return {Tr("Selected video successfully moved."), true};
         }
         OperationResult refused;
         const LibraryVideo& last = videos[std::min(done, videos.size() - 1)];
         if (move.NameTaken()) refused = Refuse(taken(last));
-        else if (move.Failed() && !EntryExists(last.path)) refused = RefuseGone("The video was not moved");
+        else if (move.Failed() && !EntryExists(last.path)) refused = RefuseGone(Tr("The video was not moved"));
         else if (move.Failed()) refused = Refuse(move.Error());
-        refused.words =
-            Outcome::Failed(done == 0 ? "No videos were moved."
-                                      : count + " of " + std::to_string(videos.size()) + " videos were moved.");
+        refused.words = Outcome::Failed(done == 0 ? Tr("No videos were moved.")
+                                                  : Tr("{} of {} videos were moved.", count, videos.size()));
         refused.refill = refused.refill || done > 0;
         return refused;
       },
@@ -261,10 +262,10 @@ void LibraryOperations::Trim(const LibraryVideo& video, int firstFrame, int last
   if (const std::string refusal = RefuseUnlessVideoChangeable(video); !refusal.empty())
     return events->Ended(Report(refusal));
   if (firstFrame < 0 || lastFrame < 0 || (lastFrame > 0 && lastFrame < firstFrame)) {
-    return events->Ended(
-        Refuse("Your TRIM Start and End times are not correct. Please check your Start and End times and try again."));
+    return events->Ended(Refuse(
+        Tr("Your TRIM Start and End times are not correct. Please check your Start and End times and try again.")));
   }
-  events->ShowStatus("Saving Video.... Please Wait.");
+  events->ShowStatus(Tr("Saving Video.... Please Wait."));
   const TrimRequest request{video.path, video.path, firstFrame, lastFrame, rate, TrimRequest::Mode::Copy};
   Run<TrimJob>(
       std::make_unique<TrimJob>(JoinPath(settings_.AppPath, "avitrim"), request),
@@ -272,13 +273,12 @@ void LibraryOperations::Trim(const LibraryVideo& video, int firstFrame, int last
         if (trim.Saved()) {
           // A video that cannot be studied further is no reason to speak of a failed trim.
           (void)TrimStudy(StudyPath(video.path), firstFrame, lastFrame > 0 ? lastFrame : kLastOfAll);
-          return {std::string("Last Video Saved Successfully"), true, video.instructor, video.student,
-                  ShownName(video.path)};
+          return {Tr("Last Video Saved Successfully"), true, video.instructor, video.student, ShownName(video.path)};
         }
-        if (trim.Cancelled()) return Report(kOperationCancelled);
+        if (trim.Cancelled()) return Report(Tr(kOperationCancelled));
         host_.Message(MessageKind::Warning, "",
-                      "There was a problem saving this video.\n\n" + AsSentence(trim.Error()));
-        return Report("Last Video WAS NOT SAVED");
+                      Tr("There was a problem saving this video.\n\n{}", AsSentence(trim.Error())));
+        return Report(Tr("Last Video WAS NOT SAVED"));
       },
       std::move(events));
 }
@@ -286,39 +286,39 @@ void LibraryOperations::Trim(const LibraryVideo& video, int firstFrame, int last
 // ---------------------------------------------------------------- Quick Launch
 
 void LibraryOperations::QuickLaunch(const LibraryVideo& video, Events events) {
-  if (video.path.empty()) return events->Ended(Report("You must select a video first."));
+  if (video.path.empty()) return events->Ended(Report(Tr("You must select a video first.")));
   if (video.instructor == kQuickLaunch) return events->Ended(RemoveFromQuickLaunch(video));
   AddToQuickLaunch(video, std::move(events));
 }
 
 void LibraryOperations::AddToQuickLaunch(const LibraryVideo& video, Events events) {
   if (const std::string refusal = Obstacle(); !refusal.empty()) return events->Ended(Refuse(refusal));
-  if (!host_.Question("Copy video to Quick Launch Folder",
-                      "This will copy the current video to your Quick Launch folder. Would you like to continue?"))
+  if (!host_.Question(Tr("Copy video to Quick Launch Folder"),
+                      Tr("This will copy the current video to your Quick Launch folder. Would you like to continue?")))
     return events->Ended({});
   const std::string folder = tree_.QuickLaunchFolder();
   const std::string taken =
-      "There is already a video with the same name in the Quick Launch folder. The copy process will be cancelled.";
+      Tr("There is already a video with the same name in the Quick Launch folder. The copy process will be cancelled.");
   if (HasVideoNamed(folder, LastName(video.path))) return events->Ended(Refuse(taken));
   auto job = std::make_unique<VideoTransferJob>(CopyJob::Kind::Copy, OnClash::Stop,
                                                 std::vector{VideoTransfer{video.path, folder, {}}}, disk_);
   Run<VideoTransferJob>(
       std::move(job),
       [this, taken](VideoTransferJob& copy) -> OperationResult {
-        if (copy.Cancelled()) return Report(kOperationCancelled);
+        if (copy.Cancelled()) return Report(Tr(kOperationCancelled));
         if (copy.Failed()) return Refuse(copy.NameTaken() ? taken : copy.Error());
-        return {std::string("The current video was copied to the Quick Launch folder."), true};
+        return {Tr("The current video was copied to the Quick Launch folder."), true};
       },
       std::move(events));
 }
 
 OperationResult LibraryOperations::RemoveFromQuickLaunch(const LibraryVideo& video) {
   if (const std::string refusal = RefuseUnlessVideoChangeable(video); !refusal.empty()) return Report(refusal);
-  if (!host_.Question("Removing video from program!",
-                      "Are you sure that you want to delete the current video from the Quick Launch folder?"))
+  if (!host_.Question(Tr("Removing video from program!"),
+                      Tr("Are you sure that you want to delete the current video from the Quick Launch folder?")))
     return {};
-  if (!RemoveVideo(video.path)) return Refuse(kCannotDelete);
-  return {std::string("The current video was removed from the Quick Launch folder."), true, video.instructor};
+  if (!RemoveVideo(video.path)) return Refuse(Tr(kCannotDelete));
+  return {Tr("The current video was removed from the Quick Launch folder."), true, video.instructor};
 }
 
 // ---------------------------------------------------------------- to other drives and back
@@ -328,13 +328,13 @@ bool LibraryOperations::HasFolder(const std::string& drive) const {
 }
 
 void LibraryOperations::CopyToDisk(const std::vector<LibraryVideo>& videos, const std::string& disk, Events events) {
-  if (videos.empty()) return events->Ended(Report("You must select a video first."));
+  if (videos.empty()) return events->Ended(Report(Tr("You must select a video first.")));
   for (const LibraryVideo& video : videos) {
     if (const std::string refusal = RefuseUnlessVideoChangeable(video); !refusal.empty())
       return events->Ended(Report(refusal));
   }
-  if (disk.empty() || !HasFolder(disk)) return events->Ended(Refuse("Drive Error"));
-  events->ShowStatus("Copying Videos, Please Wait.....");
+  if (disk.empty() || !HasFolder(disk)) return events->Ended(Refuse(Tr("Drive Error")));
+  events->ShowStatus(Tr("Copying Videos, Please Wait....."));
   std::vector<VideoTransfer> transfers;
   for (const LibraryVideo& video : videos) transfers.push_back({video.path, disk, {}});
   auto job = std::make_unique<VideoTransferJob>(CopyJob::Kind::CopyOut, OnClash::AddD, std::move(transfers), disk_);
@@ -343,7 +343,8 @@ void LibraryOperations::CopyToDisk(const std::vector<LibraryVideo>& videos, cons
       [this](VideoTransferJob& copy) -> OperationResult {
         if (copy.Failed()) host_.Message(MessageKind::Warning, "", copy.Error());
         const int files = copy.FilesDone();
-        const std::string words = std::to_string(files) + (files == 1 ? " File" : " Files") + " Copied Successfully.";
+        const std::string words =
+            files == 1 ? Tr("1 File Copied Successfully.") : Tr("{} Files Copied Successfully.", files);
         return copy.Failed() || copy.Cancelled() ? Report(words) : OperationResult{words};
       },
       std::move(events));
@@ -363,32 +364,32 @@ void LibraryOperations::ExportVideos(const std::vector<LibraryVideo>& videos, co
                          .value_or(Place());
   if (!videos.empty() && place.inLibrary)
     return events->Ended(
-        Refuse("The folder " + targetRoot + " belongs to this library. Choose a drive or folder outside of it."));
+        Refuse(Tr("The folder {} belongs to this library. Choose a drive or folder outside of it.", targetRoot)));
   if (!videos.empty() && place.onSystem &&
-      !host_.Question("Export to C?",
-                      "Warning! You are about to export to the C drive. Are you sure you want to continue?"))
-    return events->Ended(Report("Export Cancelled"));
+      !host_.Question(Tr("Export to C?"),
+                      Tr("Warning! You are about to export to the C drive. Are you sure you want to continue?")))
+    return events->Ended(Report(Tr("Export Cancelled")));
   Transfer(Direction::Export, videos, targetRoot, {}, std::move(events));
 }
 
 void LibraryOperations::ImportVideos(const std::vector<LibraryVideo>& videos, Events events,
                                      const ImportTarget& loose) {
-  if (!videos.empty() && !Busy() && !BeginLibrary()) return events->Ended(Report("Import Cancelled"));
+  if (!videos.empty() && !Busy() && !BeginLibrary()) return events->Ended(Report(Tr("Import Cancelled")));
   Transfer(Direction::Import, videos, tree_.Root(), loose, std::move(events));
 }
 
 void LibraryOperations::AddVideos(const std::vector<std::string>& paths, const ImportTarget& target, Events events) {
-  if (paths.empty()) return events->Ended(Report("No Videos Selected"));
+  if (paths.empty()) return events->Ended(Report(Tr("No Videos Selected")));
   if (target.student.empty() && target.instructor != kGeneralFolder && target.instructor != kQuickLaunch)
-    return events->Ended(Refuse("Select the " + words_.noun() + " who is to get the videos first."));
+    return events->Ended(Refuse(Tr("Select the {} who is to get the videos first.", words_.noun())));
   const std::string folder = tree_.StudentFolder(target.instructor, target.student);
   const auto found = host_.Drives().Ask(paths.front(), [paths, folder] {
     std::vector<std::string> videos = VideosAmong(paths);
     std::erase_if(videos, [&](const std::string& path) { return SamePlace(FolderOf(path), folder); });
     return videos;
   });
-  if (!found) return events->Ended(Refuse("The drive with the videos is not answering. No videos were copied."));
-  if (found->empty()) return events->Ended(Refuse("There is no video among these files that is not here already."));
+  if (!found) return events->Ended(Refuse(Tr("The drive with the videos is not answering. No videos were copied.")));
+  if (found->empty()) return events->Ended(Refuse(Tr("There is no video among these files that is not here already.")));
   std::vector<LibraryVideo> videos;
   for (const std::string& path : *found) videos.push_back({{}, {}, path});
   ImportVideos(videos, std::move(events), target.instructor == kGeneralFolder ? ImportTarget{} : target);
@@ -396,10 +397,10 @@ void LibraryOperations::AddVideos(const std::vector<std::string>& paths, const I
 
 void LibraryOperations::Transfer(Direction direction, const std::vector<LibraryVideo>& videos,
                                  const std::string& targetRoot, const ImportTarget& loose, Events events) {
-  if (videos.empty()) return events->Ended(Report("No Videos Selected"));
+  if (videos.empty()) return events->Ended(Report(Tr("No Videos Selected")));
   if (const std::string busy = BusyText(); !busy.empty()) return events->Ended(Refuse(busy));
   if (!HasFolder(targetRoot))
-    return events->Ended(Refuse("The folder " + targetRoot + " cannot be reached. Nothing was changed."));
+    return events->Ended(Refuse(Tr("The folder {} cannot be reached. Nothing was changed.", targetRoot)));
   const bool out = direction == Direction::Export;
   std::vector<ImportTarget> places;
   std::vector<VideoTransfer> transfers;
@@ -414,12 +415,12 @@ void LibraryOperations::Transfer(Direction direction, const std::vector<LibraryV
   const auto toItself = host_.Drives().Ask(out ? tree_.Root() : ways.front().first, [ways] {
     return std::ranges::any_of(ways, [](const auto& way) { return SamePlace(way.first, way.second); });
   });
-  if (!toItself) return events->Ended(Refuse("The drive with the videos is not answering. No videos were copied."));
+  if (!toItself) return events->Ended(Refuse(Tr("The drive with the videos is not answering. No videos were copied.")));
   if (*toItself)
-    return events->Ended(Refuse("The source and destination folders are the same. No videos were copied."));
+    return events->Ended(Refuse(Tr("The source and destination folders are the same. No videos were copied.")));
   if (!loose.student.empty() && !dirExists(tree_.StudentFolder(loose.instructor, loose.student)))
-    return events->Ended(RefuseGone("No videos were copied to " + loose.student));
-  events->ShowStatus(out ? "Exporting Videos, Please Wait....." : "Importing Videos... Please Wait.....");
+    return events->Ended(RefuseGone(Tr("No videos were copied to {}", loose.student)));
+  events->ShowStatus(out ? Tr("Exporting Videos, Please Wait.....") : Tr("Importing Videos... Please Wait....."));
   auto job = std::make_unique<VideoTransferJob>(out ? CopyJob::Kind::CopyOut : CopyJob::Kind::CopyIn, OnClash::AddD,
                                                 std::move(transfers), disk_);
   if (!out) job->LookAtEach();
@@ -443,16 +444,16 @@ OperationResult LibraryOperations::EndOfTransfer(const VideoTransferJob& copy, b
     result.video = result.arrived.front();
   }
   if (copy.Cancelled()) {
-    host_.Message(MessageKind::Information, "", kOperationCancelled);
-    result.words = Outcome::Failed(out ? "Export Cancelled" : "Import Cancelled");
+    host_.Message(MessageKind::Information, "", Tr(kOperationCancelled));
+    result.words = Outcome::Failed(out ? Tr("Export Cancelled") : Tr("Import Cancelled"));
     return result;
   }
   if (copy.Failed()) host_.Message(MessageKind::Warning, "", copy.Error());
-  std::string words =
-      std::to_string(copy.VideosDone()) + (out ? " File(s) exported successfully!" : " File(s) Imported successfully!");
+  std::string words = out ? Tr("{} File(s) exported successfully!", copy.VideosDone())
+                          : Tr("{} File(s) Imported successfully!", copy.VideosDone());
   if (const int bare = copy.StudentsDone(); bare > 0)
-    words += " " + std::to_string(bare) + " " + (bare == 1 ? words_.noun() : words_.nouns()) +
-             " without videos went along with profile and notes.";
+    words += " " + Tr("{} {} without videos went along with profile and notes.", bare,
+                      bare == 1 ? words_.noun() : words_.nouns());
   if (copy.Failed()) result.words = Outcome::Failed(std::move(words));
   else result.words = std::move(words);
   if (const auto& bad = copy.Unreadable(); !bad.empty()) TellUnreadable(bad);
@@ -463,13 +464,13 @@ void LibraryOperations::TellUnreadable(const std::vector<std::string>& paths) {
   constexpr std::size_t kNamed = 12;
   std::string names;
   for (std::size_t i = 0; i < std::min(paths.size(), kNamed); ++i) names += "\n" + ShownName(paths[i]);
-  if (paths.size() > kNamed) names += "\nand " + std::to_string(paths.size() - kNamed) + " more";
+  if (paths.size() > kNamed) names += Tr("\nand {} more", paths.size() - kNamed);
   const bool one = paths.size() == 1;
-  host_.Message(MessageKind::Warning, "Import Videos",
-                (one ? std::string("One file was copied that cannot be opened. It may be damaged, or be no video:\n")
-                     : std::to_string(paths.size()) +
-                           " files were copied that cannot be opened. They may be damaged, or be no videos:\n") +
-                    names);
+  host_.Message(
+      MessageKind::Warning, Tr("Import Videos"),
+      (one ? Tr("One file was copied that cannot be opened. It may be damaged, or be no video:\n")
+           : Tr("{} files were copied that cannot be opened. They may be damaged, or be no videos:\n", paths.size())) +
+          names);
 }
 
 }  // namespace kinalyx

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/files/Tr.h"
+
 namespace kinalyx {
 
 namespace {
@@ -30,17 +32,17 @@ VideoStats StatsOf(const VideoInfo& video, int bits) {
   return {video.compressor,
           fmt::to_string(video.width),
           fmt::to_string(video.height),
-          Short(rate) + " FPS",
-          fmt::format("{} Frame{}", video.frameCount, video.frameCount == 1 ? "" : "s"),
-          Short(video.durationMs / 1000) + " Seconds",
+          Tr("{} FPS", Short(rate)),
+          video.frameCount == 1 ? Tr("1 Frame") : Tr("{} Frames", video.frameCount),
+          Tr("{} Seconds", Short(video.durationMs / 1000)),
           FormatFileSize(video.fileBytes),
-          fmt::format("{} BPP", bits),
-          video.hasSound ? "Sound" : "No sound"};
+          Tr("{} BPP", bits),
+          video.hasSound ? Tr("Sound") : Tr("No sound")};
 }
 
 std::string FormatFileSize(std::int64_t bytes) {
   bytes = std::max<std::int64_t>(bytes, 0);
-  if (bytes < 1024) return fmt::format("{} bytes", bytes);
+  if (bytes < 1024) return Tr("{} bytes", bytes);
   constexpr const char* kUnits[] = {"KB", "MB", "GB", "TB"};
   double size = static_cast<double>(bytes) / 1024;
   int unit = 0;

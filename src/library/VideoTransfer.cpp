@@ -13,6 +13,7 @@
 #include "library/VideoNames.h"
 #include "platform/files/Folders.h"
 #include "platform/files/PartFiles.h"
+#include "platform/files/Tr.h"
 #include "platform/media/VideoFile.h"
 
 namespace kinalyx {
@@ -100,9 +101,9 @@ bool VideoTransferJob::Step() {
 bool VideoTransferJob::FailForThoseLeft() {
   constexpr std::size_t kNamed = 12;
   if (left_.size() == 1) return Fail(left_.front());
-  std::string text = std::to_string(left_.size()) + " videos could not be taken:\n";
+  std::string text = Tr("{} videos could not be taken:\n", left_.size());
   for (std::size_t i = 0; i < std::min(left_.size(), kNamed); ++i) text += "\n" + left_[i];
-  if (left_.size() > kNamed) text += "\nand " + std::to_string(left_.size() - kNamed) + " more";
+  if (left_.size() > kNamed) text += Tr("\nand {} more", left_.size() - kNamed);
   return Fail(text);
 }
 
@@ -112,13 +113,13 @@ std::string VideoTransferJob::FileName() const { return name_ + VideoExtension(v
 bool VideoTransferJob::BeginOne() {
   const VideoTransfer& video = videos_[next_];
   if (const std::string file = InTheWay(video.folder); !file.empty())
-    return Fail("There is a file named \"" + file + "\" where a folder is needed.");
+    return Fail(Tr("There is a file named \"{}\" where a folder is needed.", file));
   if (video.path.empty()) return TakeStudent(video);
   if (name_.empty()) name_ = VideoName(video.path);
   while (HasVideoNamed(video.folder, FileName()) || !SetAsideOrphans(video.folder, FileName(), disk_)) {
     if (onClash_ == OnClash::Stop) {
       nameTaken_ = true;
-      return Fail("There is already a video with the name \"" + name_ + "\".");
+      return Fail(Tr("There is already a video with the name \"{}\".", name_));
     }
     name_ += 'd';
   }
@@ -131,7 +132,7 @@ bool VideoTransferJob::TakeStudent(const VideoTransfer& student) {
   std::error_code failed;
   std::filesystem::create_directories(student.folder, failed);
   if (!dirExists(student.folder))
-    return Fail("The folder " + student.folder + " cannot be made: " + failed.message() + ".");
+    return Fail(Tr("The folder {} cannot be made: {}.", student.folder, failed.message()));
   TakeProfile(student);
   ++studentsDone_;
   ++next_;
@@ -152,8 +153,8 @@ bool VideoTransferJob::Begin() {
   const std::int64_t free = FreeBytes(videos_.front().folder);
   if (free < 0 || bytesTotal_ <= free) return true;
   constexpr std::int64_t kMegabyte = 1 << 20;
-  return Fail("There is not enough room: " + std::to_string((bytesTotal_ + kMegabyte - 1) / kMegabyte) +
-              " MB are needed, and " + std::to_string(free / kMegabyte) + " MB are free.");
+  return Fail(Tr("There is not enough room: {} MB are needed, and {} MB are free.",
+                 (bytesTotal_ + kMegabyte - 1) / kMegabyte, free / kMegabyte));
 }
 
 void VideoTransferJob::TakeProfile(const VideoTransfer& video) {

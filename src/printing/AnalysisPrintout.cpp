@@ -4,6 +4,7 @@
 #include <cmath>
 #include <utility>
 
+#include "platform/files/Tr.h"
 #include "printing/PrintRTFWWG.h"
 
 namespace kinalyx {
@@ -62,7 +63,7 @@ void AnalysisPrintout::PrintOn(IPage& page) const {
   for (const double y : kRulesAbovePicture) page.Line({kLeftRule, y}, {kRightRule, y});
   page.Box({kLeftRule, pictureBottom_, kRightRule - kLeftRule, kRulesBottom - pictureBottom_});
   if (notes_.Blank()) return;
-  page.Print({kNotesTitleLeft, pictureBottom_ + kNotesTitleDown}, "Analysis Notes");
+  page.Print({kNotesTitleLeft, pictureBottom_ + kNotesTitleDown}, Tr("Analysis Notes"));
   page.SetFont(PrintFont(kNotesPoints));
   PrintRTF(page, notes_, kNotesLeft, static_cast<int>(std::lround((pictureBottom_ + kNotesDown) * kTwipsPerInch)),
            kNotesRight, kNotesBottom);

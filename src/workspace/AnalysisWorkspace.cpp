@@ -7,6 +7,7 @@
 #include "core/Vocabulary.h"
 #include "library/VideoNames.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/host/DriveWatch.h"
 
 namespace kinalyx {
@@ -131,8 +132,7 @@ void AnalysisWorkspace::VideoClosed(int slot) {
 }
 
 void AnalysisWorkspace::VideosGone(int count, const std::string& name) {
-  navigation_.OfferReopen(count == 1 ? fmt::format("\"{}\" was closed.", name)
-                                     : fmt::format("{} videos were closed.", count));
+  navigation_.OfferReopen(count == 1 ? Tr("\"{}\" was closed.", name) : Tr("{} videos were closed.", count));
 }
 
 void AnalysisWorkspace::LockAgain(const std::array<bool, 3>& locks) {
@@ -188,13 +188,13 @@ void AnalysisWorkspace::CellDoubleClicked(int slot) {
 
 int AnalysisWorkspace::OpenFiles(int slot, const std::vector<std::string>& paths) {
   if (paths.empty()) return 0;
-  const auto refuse = [this](MessageKind kind, const char* words) {
+  const auto refuse = [this](MessageKind kind, const std::string& words) {
     host_.Message(kind, "", words);
     return 0;
   };
   auto videos = host_.Drives().Ask(paths.front(), [paths] { return VideosAmong(paths); });
-  if (!videos) return refuse(MessageKind::Warning, "The drive with the videos is not answering.");
-  if (videos->empty()) return refuse(MessageKind::Information, "There is no video among these files.");
+  if (!videos) return refuse(MessageKind::Warning, Tr("The drive with the videos is not answering."));
+  if (videos->empty()) return refuse(MessageKind::Information, Tr("There is no video among these files."));
   int opened = 0;
   if (slot > 0) {
     Select(slot);

@@ -28,7 +28,7 @@ constexpr int kLooksForNone = 4;  // after which a camera that tells of no knobs
 CameraControlsForm::CameraControlsForm(IDevices& devices, const std::string& camera, QWidget* over)
     : QDialog(over), devices_(devices), camera_(camera) {
   setObjectName("CameraControlsForm");
-  setWindowTitle(camera.empty() ? QString("Camera") : Q(camera));
+  setWindowTitle(camera.empty() ? tr("Camera") : Q(camera));
   auto* rows = new QVBoxLayout(this);
   rows->setContentsMargins(20, 18, 20, 18);
   rows->setSpacing(12);
@@ -44,8 +44,8 @@ CameraControlsForm::CameraControlsForm(IDevices& devices, const std::string& cam
   LeastWidth(scroll, 420);
   rows->addWidget(scroll, 1);
   auto* buttons = new QHBoxLayout;
-  standard_ = new Button("CameraStandard", "Standard Values", {}, Look::Quiet);
-  auto* close = new Button("CameraClose", "Close");
+  standard_ = new Button("CameraStandard", tr("Standard Values"), {}, Look::Quiet);
+  auto* close = new Button("CameraClose", tr("Close"));
   buttons->addWidget(standard_);
   buttons->addStretch(1);
   buttons->addWidget(close);
@@ -104,10 +104,11 @@ void CameraControlsForm::Fill() {
   for (const CameraControl& control : shown_) knobs_->addWidget(MakeKnob(control));
   standard_->setVisible(!shown_.empty());
   if (shown_.empty()) {
-    QLabel* none = MakeLabel("CameraNoKnobs", looks_ < kLooksForNone
-                                                  ? "Asking the camera..."
-                                                  : "This camera has nothing to set from here. What it can do, its own "
-                                                    "buttons or its app do.");
+    QLabel* none =
+        MakeLabel("CameraNoKnobs", looks_ < kLooksForNone
+                                       ? tr("Asking the camera...")
+                                       : tr("This camera has nothing to set from here. What it can do, its own "
+                                            "buttons or its app do."));
     none->setWordWrap(true);
     knobs_->addWidget(none);
   }

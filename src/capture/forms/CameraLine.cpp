@@ -47,17 +47,17 @@ CameraLine::CameraLine(CaptureSetup& setup, int camera, QWidget* parent)
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(6);
-  QLabel* label = MakeLabel({}, "Camera " + number, "muted");
+  QLabel* label = MakeLabel({}, tr("Camera %1").arg(number), "muted");
   LeastWidth(label, 62);
   row->addWidget(label);
-  source_ = MakeList("VideoSource_Camera" + number, "Camera " + number, 12);
-  size_ = MakeList("VideoSize_Camera" + number, "Size of the picture", 9);
-  format_ = MakeList("VideoFormat_Camera" + number, "How the pictures come", 12);
+  source_ = MakeList("VideoSource_Camera" + number, tr("Camera %1").arg(number), 12);
+  size_ = MakeList("VideoSize_Camera" + number, tr("Size of the picture"), 9);
+  format_ = MakeList("VideoFormat_Camera" + number, tr("How the pictures come"), 12);
   row->addWidget(source_, 3);
   row->addWidget(size_, 1);
   row->addWidget(format_, 2);
   auto* knobs = IconButton(QString("CamConfig_Camera%1").arg(camera), "sliders",
-                           "Exposure, gain, focus and white balance of the camera", Look::Quiet);
+                           tr("Exposure, gain, focus and white balance of the camera"), Look::Quiet);
   row->addWidget(knobs);
   connect(knobs, &QPushButton::clicked, this, [this] {
     CameraControlsForm form(setup_.Devices(), setup_.Shown(camera_).name, this);

@@ -23,6 +23,7 @@
 #include "library/forms/SearchBar.h"
 #include "library/forms/StatusLine.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/NameList.h"
 #include "platform/widgets/OfferBar.h"
@@ -35,7 +36,7 @@ namespace kinalyx {
 
 namespace {
 
-constexpr const char* kSetupCaption = "Capture Setup";
+constexpr const char* kSetupCaption = TrLater("Capture Setup");
 constexpr int kSideWidth = 256;  // as designed
 enum StagePage { kLivePage, kReviewPage };
 
@@ -144,7 +145,7 @@ QWidget* CapturePage::MakeSide() {
   students_ = new Panel("CapFolderTitle", {});
   MostWidth(students_, kSideWidth);
   studentsTitle_ = MakeLabel("CapStudents", {}, "caption");
-  QLabel* instructors = MakeLabel({}, "Instructors", "caption");
+  QLabel* instructors = MakeLabel({}, tr("Instructors"), "caption");
   for (QLabel* label : {instructors, studentsTitle_}) label->setContentsMargins(kGap, 8, kGap, 2);
   students_->Body()->addWidget(instructors);
   students_->Body()->addWidget(lists_->InstructorList(), 2);
@@ -166,27 +167,27 @@ QWidget* CapturePage::MakeCameras() {
   first->setSpacing(6);
   kind_ = new QComboBox;
   kind_->setObjectName("CapKindList");
-  kind_->setToolTip("Where videos come from");
+  kind_->setToolTip(tr("Where videos come from"));
   kind_->setAccessibleName(kind_->toolTip());
   kind_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   kind_->setMinimumContentsLength(8);
   for (const SourceWords& words : SourceKinds())
-    kind_->addItem(Q(std::string(words.caption)), static_cast<int>(words.kind));
+    kind_->addItem(Q(Tr(std::string(words.caption))), static_cast<int>(words.kind));
   connect(kind_, &QComboBox::activated, this,
           [this](int row) { parts_.setup.ChooseKind(static_cast<SourceKind>(kind_->itemData(row).toInt())); });
   MostWidth(kind_, 230);
   first->addWidget(kind_, 3);
-  OneCamTwoOpt_ = MakeChoice(*first, "OneCamTwoOpt", {"One Cam", "Two Cam"}, this);
+  OneCamTwoOpt_ = MakeChoice(*first, "OneCamTwoOpt", {TrLater("One Cam"), TrLater("Two Cam")}, this);
   choice_ = new QWidget;
   auto* choices = new QHBoxLayout(choice_);
   choices->setContentsMargins(kGap, 0, 0, 0);
   choices->setSpacing(6);
-  CamChoiceBtn_ = MakeChoice(*choices, "CamChoiceBtn", {"Camera 1", "Camera 2"}, this);
+  CamChoiceBtn_ = MakeChoice(*choices, "CamChoiceBtn", {TrLater("Camera 1"), TrLater("Camera 2")}, this);
   first->addWidget(choice_);
   first->addStretch(1);
-  CapSetupBtn_ = new Button("CapSetupBtn", kSetupCaption, "setup", Look::Quiet);
-  CapSetupBtn_->setToolTip("Capture setup: kinds of cameras, naming, default cameras, cameras on the network");
-  CapSetupBtn_->setAccessibleName(kSetupCaption);
+  CapSetupBtn_ = new Button("CapSetupBtn", tr(kSetupCaption), "setup", Look::Quiet);
+  CapSetupBtn_->setToolTip(tr("Capture setup: kinds of cameras, naming, default cameras, cameras on the network"));
+  CapSetupBtn_->setAccessibleName(tr(kSetupCaption));
   connect(CapSetupBtn_, &QPushButton::clicked, this, [this] { parts_.ways.GoToCaptureSetup(); });
   first->addWidget(CapSetupBtn_);
   rows->addLayout(first);
@@ -223,21 +224,21 @@ QWidget* CapturePage::MakeActions() {
   rows->setSpacing(6);
   rows->addWidget(review_->Bar());
 
-  Capturebtn_ = new Button("Capturebtn", "Start Capture", "record");
+  Capturebtn_ = new Button("Capturebtn", tr("Start Capture"), "record");
   LeastWidth(Capturebtn_, 190);
-  Capturebtn_->setToolTip("Space");
-  StartHerebtn_ = new Button("StartHerebtn", "Trim Front of Video", "trim", Look::Quiet);
-  StartHerebtn_->setToolTip("The video begins at the picture that is shown (I)");
-  EndHerebtn_ = new Button("EndHerebtn", "Trim End of Video", "trim", Look::Quiet);
-  EndHerebtn_->setToolTip("The video ends at the picture that is shown (O)");
-  CapSavebtn_ = new Button("CapSavebtn", "Save Capture", "save");
-  CapSavebtn_->setToolTip("Ctrl+S");
-  CapSendbtn_ = new Button("CapSendbtn", "Send to Analysis", "send");
-  CapSendbtn_->setToolTip("Saves the recording and opens it in the analysis section (Return)");
+  Capturebtn_->setToolTip(tr("Space"));
+  StartHerebtn_ = new Button("StartHerebtn", tr("Trim Front of Video"), "trim", Look::Quiet);
+  StartHerebtn_->setToolTip(tr("The video begins at the picture that is shown (I)"));
+  EndHerebtn_ = new Button("EndHerebtn", tr("Trim End of Video"), "trim", Look::Quiet);
+  EndHerebtn_->setToolTip(tr("The video ends at the picture that is shown (O)"));
+  CapSavebtn_ = new Button("CapSavebtn", tr("Save Capture"), "save");
+  CapSavebtn_->setToolTip(tr("Ctrl+S"));
+  CapSendbtn_ = new Button("CapSendbtn", tr("Send to Analysis"), "send");
+  CapSendbtn_->setToolTip(tr("Saves the recording and opens it in the analysis section (Return)"));
   buttons_ = new QBoxLayout(QBoxLayout::LeftToRight);
   buttons_->setSpacing(8);
-  mirror_ = new Button("MirrorBtn", "Delayed Mirror", "delayed-mirror", Look::Quiet);
-  mirror_->setToolTip("A window that shows the cameras some seconds ago");
+  mirror_ = new Button("MirrorBtn", tr("Delayed Mirror"), "delayed-mirror", Look::Quiet);
+  mirror_->setToolTip(tr("A window that shows the cameras some seconds ago"));
   connect(mirror_, &QPushButton::clicked, this, [this] { parts_.ways.OpenMirror(); });
   auto* methods = static_cast<QHBoxLayout*>(hands_->Methods()->layout());
   methods->addSpacing(kGap);
@@ -265,7 +266,7 @@ void CapturePage::resizeEvent(QResizeEvent* event) {
     wanted += button->sizeHint().width() + 8;
   const int room = width() - Px(kSideWidth) - 4 * kGap;
   buttons_->setDirection(room >= wanted ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
-  CapSetupBtn_->setText(kSetupCaption);
+  CapSetupBtn_->setText(tr(kSetupCaption));
   int choices = kind_->minimumSizeHint().width() + CapSetupBtn_->sizeHint().width();
   for (const QButtonGroup* group : {OneCamTwoOpt_, CamChoiceBtn_})
     for (const QAbstractButton* button : group->buttons()) choices += button->sizeHint().width() + 8;
@@ -286,7 +287,7 @@ void CapturePage::ConnectParts() {
   });
   // Who has chosen somebody with the mouse records next.
   connect(lists_->StudentList(), &QListWidget::clicked, this, [this] { FocusMainButton(); });
-  back_ = new OfferBar("BringBackOffer", "Bring It Back", this);
+  back_ = new OfferBar("BringBackOffer", tr("Bring It Back"), this);
   connect(back_, &OfferBar::Accepted, this, [this] {
     session_->BringBack();
     ShowPhase();
@@ -348,7 +349,7 @@ bool CapturePage::Leave() {
 }
 
 void CapturePage::SetupVocabulary() {
-  students_->SetTitle("For Which " + Q(vocabulary_.Noun()));
+  students_->SetTitle(tr("For Which %1").arg(Q(vocabulary_.Noun())));
   studentsTitle_->setText(Q(vocabulary_.Nouns()));
 }
 
@@ -365,7 +366,7 @@ void CapturePage::GoTo(const SearchHit& hit) {
       browser_.SelectInstructor(hit.instructor) && (hit.student.empty() || browser_.SelectStudent(hit.student));
   lists_->ShowAll();
   FolderChosen();
-  if (!there) status_->Say("It is not there any more.");
+  if (!there) status_->Say(tr("It is not there any more."));
   FocusMainButton();
 }
 
@@ -387,7 +388,7 @@ void CapturePage::AskForCamera() {
 void CapturePage::Capturebtn_Click() {
   session_->PressCapture();
   if (session_->Phase() == CapturePhase::Reviewing) review_->FocusBar();
-  if (session_->CanBringBack()) back_->Offer("The recording was put away.");
+  if (session_->CanBringBack()) back_->Offer(tr("The recording was put away."));
 }
 void CapturePage::StartHerebtn_Click() { session_->TrimFront(); }
 void CapturePage::EndHerebtn_Click() { session_->TrimEnd(); }
@@ -426,7 +427,7 @@ QString CapturePage::BadgeText(int camera) const {
   const RecordingTally tally = session_->Tally(camera);
   const std::int64_t tenths = std::max<std::int64_t>(0, tally.lastNs - tally.firstNs) / 100'000'000;
   QString text = QString("%1:%2.%3").arg(tenths / 600).arg(tenths / 10 % 60, 2, 10, QChar('0')).arg(tenths % 10);
-  if (tally.lost > 0) text += QString("   %1 %2 lost").arg(tally.lost).arg(tally.lost == 1 ? "picture" : "pictures");
+  if (tally.lost > 0) text += "   " + (tally.lost == 1 ? tr("1 picture lost") : tr("%1 pictures lost").arg(tally.lost));
   return text;
 }
 
@@ -445,10 +446,10 @@ void CapturePage::ShowPhase() {
     button->setVisible(review && !running);
     button->setEnabled(!session_->Saving());
   }
-  StartHerebtn_->setText(session_->TrimStartFrame() > 0 ? QString("Start at %1").arg(session_->TrimStartFrame())
-                                                        : QString("Trim Front of Video"));
-  EndHerebtn_->setText(session_->TrimEndFrame() > 0 ? QString("End at %1").arg(session_->TrimEndFrame())
-                                                    : QString("Trim End of Video"));
+  StartHerebtn_->setText(session_->TrimStartFrame() > 0 ? tr("Start at %1").arg(session_->TrimStartFrame())
+                                                        : tr("Trim Front of Video"));
+  EndHerebtn_->setText(session_->TrimEndFrame() > 0 ? tr("End at %1").arg(session_->TrimEndFrame())
+                                                    : tr("Trim End of Video"));
   review_->Bar()->setVisible(review && !running);
   review_->SetOn(review);
   stage_->setCurrentIndex(review && !running ? kReviewPage : kLivePage);
@@ -458,7 +459,7 @@ void CapturePage::ShowPhase() {
   for (int camera = 0; camera < 2; ++camera) {
     live_[camera]->SetWords(Q(session_->CameraWords(camera)));
     live_[camera]->SetBadge(writing ? BadgeText(camera) : QString());
-    live_[camera]->SetCaption(two ? QString("Camera %1").arg(camera + 1) : QString());
+    live_[camera]->SetCaption(two ? tr("Camera %1").arg(camera + 1) : QString());
   }
   // What is being recorded is not changed under way.
   const bool live = phase == CapturePhase::LivePreview && !session_->Saving() && !running;

@@ -13,6 +13,7 @@
 
 #include "capture/SourceKinds.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
@@ -33,9 +34,9 @@ struct FieldChoice {
   const char* tip;
 };
 constexpr FieldChoice kFieldChoices[] = {
-    {"Swap the two fields", "When movement jumps back and forth in a video of two fields"},
-    {"Show field by field", "Twice the pictures, of half the height"},
-    {"Recompress", "Pictures that come raw are compressed as the video is saved"},
+    {TrLater("Swap the two fields"), TrLater("When movement jumps back and forth in a video of two fields")},
+    {TrLater("Show field by field"), TrLater("Twice the pictures, of half the height")},
+    {TrLater("Recompress"), TrLater("Pictures that come raw are compressed as the video is saved")},
 };
 
 QPixmap PictureOf(const Settings& settings, std::string_view name, QSize size, double ratio) {
@@ -64,11 +65,11 @@ CaptureSection::CaptureSection(IHost& host, Settings& settings, CaptureSetup& se
 }
 
 void CaptureSection::AddKinds() {
-  QVBoxLayout* rows = AddPanel(0, "Select Default Capture Method");
+  QVBoxLayout* rows = AddPanel(0, tr("Select Default Capture Method"));
   DVorAnOpt_ = new QButtonGroup(this);
   for (const SourceWords& words : SourceKinds()) {
     const int index = static_cast<int>(words.kind);
-    auto* radio = new QRadioButton(Q(std::string(words.caption)));
+    auto* radio = new QRadioButton(Q(Tr(std::string(words.caption))));
     radio->setObjectName(QString("DVorAnOpt%1").arg(index));
     DVorAnOpt_->addButton(radio, index);
     rows->addWidget(radio);
@@ -82,7 +83,7 @@ void CaptureSection::AddKinds() {
   rows->addWidget(folderButton_, 0, Qt::AlignLeft);
   rows->addWidget(folder_);
 
-  QVBoxLayout* wizard = AddPanel(0, "Get More Information");
+  QVBoxLayout* wizard = AddPanel(0, tr("Get More Information"));
   auto* row = new QHBoxLayout;
   row->setSpacing(kGap);
   wizardPicture_ = new QLabel;
@@ -94,8 +95,8 @@ void CaptureSection::AddKinds() {
   wizardText_->setWordWrap(true);
   words->addWidget(wizardTitle_);
   words->addWidget(wizardText_);
-  toCapture_ = new Button("WizardCapture", "Choose the Camera", "camera", Look::Quiet);
-  toCapture_->setToolTip("Goes to Capture Videos, where the cameras stand in a list above the picture");
+  toCapture_ = new Button("WizardCapture", tr("Choose the Camera"), "camera", Look::Quiet);
+  toCapture_->setToolTip(tr("Goes to Capture Videos, where the cameras stand in a list above the picture"));
   connect(toCapture_, &QPushButton::clicked, this, &CaptureSection::CaptureWanted);
   words->addSpacing(4);
   words->addWidget(toCapture_, 0, Qt::AlignLeft);
@@ -105,9 +106,9 @@ void CaptureSection::AddKinds() {
 }
 
 void CaptureSection::AddCameras() {
-  QVBoxLayout* rows = AddPanel(1, "Cameras");
-  rows->addWidget(MakeLabel({}, "Total Cameras", "caption"));
-  count_ = AddRadios(*rows, "OneCamSetup", {"One Cam", "Two Cam"});
+  QVBoxLayout* rows = AddPanel(1, tr("Cameras"));
+  rows->addWidget(MakeLabel({}, tr("Total Cameras"), "caption"));
+  count_ = AddRadios(*rows, "OneCamSetup", {TrLater("One Cam"), TrLater("Two Cam")});
   connect(count_, &QButtonGroup::idClicked, this, [this](int index) {
     setup_.ChooseCameraCount(index == 0);
     ShowCameras();
@@ -129,8 +130,8 @@ void CaptureSection::AddDefault(QVBoxLayout& rows, int camera) {
   texts->addWidget(status_[camera], 0, Qt::AlignLeft);
   row->addLayout(texts, 1);
   store_[camera] = new Button(QString("CamConfig_Camera%1").arg(camera + kStoreFirst),
-                              QString("Set as Camera %1").arg(camera + 1), {}, Look::Quiet);
-  store_[camera]->setToolTip("The program starts with this camera, its size and its format from now on");
+                              tr("Set as Camera %1").arg(camera + 1), {}, Look::Quiet);
+  store_[camera]->setToolTip(tr("The program starts with this camera, its size and its format from now on"));
   connect(store_[camera], &QPushButton::clicked, this,
           [this, camera] { CamConfig_Camera_Click(camera + kStoreFirst); });
   row->addWidget(store_[camera], 0, Qt::AlignTop);
@@ -138,19 +139,20 @@ void CaptureSection::AddDefault(QVBoxLayout& rows, int camera) {
 }
 
 void CaptureSection::AddNetwork() {
-  QVBoxLayout* rows = AddPanel(1, "Cameras on the Network");
-  QLabel* help = MakeLabel({},
-                           "A telephone on a tripod is a camera: start a camera app on it and type the address that it "
-                           "shows. A name may stand before it.",
-                           "caption");
+  QVBoxLayout* rows = AddPanel(1, tr("Cameras on the Network"));
+  QLabel* help =
+      MakeLabel({},
+                tr("A telephone on a tripod is a camera: start a camera app on it and type the address that it "
+                   "shows. A name may stand before it."),
+                "caption");
   help->setWordWrap(true);
   rows->addWidget(help);
   for (int i = 0; i < static_cast<int>(network_.size()); ++i) {
     auto* box = new QLineEdit;
     box->setObjectName(QString("NetworkCamera%1").arg(i + 1));
-    box->setAccessibleName(QString("Address of network camera %1").arg(i + 1));
+    box->setAccessibleName(tr("Address of network camera %1").arg(i + 1));
     box->setMaxLength(149);
-    box->setPlaceholderText(i == 0   ? "Telephone http://192.168.0.20:8080/video"
+    box->setPlaceholderText(i == 0   ? tr("Telephone http://192.168.0.20:8080/video")
                             : i == 1 ? "rtsp://192.168.0.21/stream"
                                      : "");
     rows->addWidget(box);
@@ -163,10 +165,10 @@ void CaptureSection::AddNetwork() {
 }
 
 void CaptureSection::AddMicrophone() {
-  QVBoxLayout* rows = AddPanel(1, "Microphone");
+  QVBoxLayout* rows = AddPanel(1, tr("Microphone"));
   microphone_ = new QComboBox;
   microphone_->setObjectName("MVAudioSourceComboBox");
-  microphone_->setAccessibleName("Microphone");
+  microphone_->setAccessibleName(tr("Microphone"));
   rows->addWidget(microphone_);
   connect(microphone_, &QComboBox::textActivated, this, [this](const QString& name) {
     setup_.ChooseMicrophone(Std(name));
@@ -175,23 +177,23 @@ void CaptureSection::AddMicrophone() {
   line_ = new QWidget;
   auto* lines = new QVBoxLayout(line_);
   lines->setContentsMargins(0, 6, 0, 0);
-  lines->addWidget(MakeLabel({}, "Input", "caption"));
+  lines->addWidget(MakeLabel({}, tr("Input"), "caption"));
   AudioInputPinCombo_ = new QComboBox;
   AudioInputPinCombo_->setObjectName("AudioInputPinCombo");
-  AudioInputPinCombo_->setAccessibleName("Input of the microphone");
-  AudioInputPinCombo_->setToolTip("What of all that is plugged into it is heard");
+  AudioInputPinCombo_->setAccessibleName(tr("Input of the microphone"));
+  AudioInputPinCombo_->setToolTip(tr("What of all that is plugged into it is heard"));
   lines->addWidget(AudioInputPinCombo_);
   rows->addWidget(line_);
   connect(AudioInputPinCombo_, &QComboBox::activated, this, [this](int index) { setup_.ChooseMicrophoneLine(index); });
 }
 
 void CaptureSection::AddNaming() {
-  QVBoxLayout* rows = AddPanel(0, "Video Naming");
+  QVBoxLayout* rows = AddPanel(0, tr("Video Naming"));
   AutoNameOpt_ = new QButtonGroup(this);
-  constexpr const char* kModes[] = {"General", "Detailed", "Manually enter all Video Names",
-                                    "Automatic Naming ie: Video1 Video2 etc."};
+  constexpr const char* kModes[] = {TrLater("General"), TrLater("Detailed"), TrLater("Manually enter all Video Names"),
+                                    TrLater("Automatic Naming ie: Video1 Video2 etc.")};
   for (int i = 0; i < 4; ++i) {
-    auto* radio = new QRadioButton(kModes[i]);
+    auto* radio = new QRadioButton(tr(kModes[i]));
     radio->setObjectName(QString("AutoNameOpt%1").arg(i + 1));
     AutoNameOpt_->addButton(radio, i + 1);
     rows->addWidget(radio);
@@ -199,7 +201,7 @@ void CaptureSection::AddNaming() {
   connect(AutoNameOpt_, &QButtonGroup::idClicked, this,
           [this](int index) { naming_.ChooseMode(static_cast<NameMode>(index)); });
   rows->addSpacing(6);
-  rows->addWidget(MakeLabel({}, "Camera 2 Name Extension", "caption"));
+  rows->addWidget(MakeLabel({}, tr("Camera 2 Name Extension"), "caption"));
   Cam2Ext_ = new QButtonGroup(this);
   auto* row = new QHBoxLayout;
   row->setSpacing(6);
@@ -210,12 +212,12 @@ void CaptureSection::AddNaming() {
     row->addWidget(button);
   };
   for (int i = 0; i < kOther; ++i) add(i, Q(std::string(CameraExtensions()[static_cast<std::size_t>(i)])));
-  add(kOther, "Other");
+  add(kOther, tr("Other"));
   row->addStretch(1);
   rows->addLayout(row);
   txtSetup_ = new QLineEdit;
   txtSetup_->setObjectName("txtSetup0");
-  txtSetup_->setAccessibleName("Other extension");
+  txtSetup_->setAccessibleName(tr("Other extension"));
   txtSetup_->setMaxLength(40);
   rows->addWidget(txtSetup_);
   connect(Cam2Ext_, &QButtonGroup::idClicked, this, [this](int index) {
@@ -229,12 +231,12 @@ void CaptureSection::AddNaming() {
 }
 
 void CaptureSection::AddFields() {
-  QVBoxLayout* rows = AddPanel(1, "What Is Done to Videos");
+  QVBoxLayout* rows = AddPanel(1, tr("What Is Done to Videos"));
   for (int i = 0; i < static_cast<int>(CapChoice_.size()); ++i) {
     const FieldChoice& choice = kFieldChoices[i % 3];
-    auto* box = new QCheckBox(choice.caption);
+    auto* box = new QCheckBox(tr(choice.caption));
     box->setObjectName(QString("CapChoice%1").arg(i));
-    box->setToolTip(choice.tip);
+    box->setToolTip(tr(choice.tip));
     rows->addWidget(box);
     CapChoice_[i] = box;
     connect(box, &QCheckBox::toggled, this, [this, i](bool on) {
@@ -270,17 +272,17 @@ void CaptureSection::SetupProgram() {
 void CaptureSection::ShowKind() {
   const SourceKind kind = setup_.Kind();
   const SourceWords& words = WordsOf(kind);
-  wizardTitle_->setText(Q(std::string(words.title)));
-  wizardText_->setText(Q(std::string(words.text)));
+  wizardTitle_->setText(Q(Tr(std::string(words.title))));
+  wizardText_->setText(Q(Tr(std::string(words.text))));
   wizardPicture_->setPixmap(PictureOf(settings_, words.picture, kPicture, devicePixelRatioF()));
   toCapture_->setVisible(!IsImport(kind));
   const bool folder = kind == SourceKind::HighDefImport || kind == SourceKind::AutoImport;
   folderButton_->setVisible(folder);
   folder_->setVisible(folder);
-  folderButton_->setText(kind == SourceKind::HighDefImport ? "Set Camera Default Folder"
-                                                           : "Set Automatic Import Folder");
+  folderButton_->setText(kind == SourceKind::HighDefImport ? tr("Set Camera Default Folder")
+                                                           : tr("Set Automatic Import Folder"));
   if (folder)
-    folder_->setText(setup_.ImportFolder().empty() ? QString("No folder is chosen yet.") : Q(setup_.ImportFolder()));
+    folder_->setText(setup_.ImportFolder().empty() ? tr("No folder is chosen yet.") : Q(setup_.ImportFolder()));
   const int first = kind == SourceKind::AutoImport ? 6 : IsImport(kind) ? 3 : 0;
   for (int i = 0; i < static_cast<int>(CapChoice_.size()); ++i) CapChoice_[i]->setVisible(i / 3 == first / 3);
 }
@@ -288,7 +290,7 @@ void CaptureSection::ShowKind() {
 void CaptureSection::ShowCameras() {
   for (int camera = 0; camera < 2; ++camera) {
     const CameraChoice& choice = setup_.Shown(camera);
-    QString text = choice.name.empty() ? QString("No camera") : Q(choice.name);
+    QString text = choice.name.empty() ? tr("No camera") : Q(choice.name);
     if (!choice.size.empty()) text += ", " + Q(choice.size);
     shown_[camera]->setText(text);
     const CameraStatus status = setup_.ShowCameraStatus(camera);
@@ -310,7 +312,7 @@ void CaptureSection::ShowMicrophone() {
   for (const Device& device : setup_.Microphones()) microphone_->addItem(Q(device.name));
   microphone_->setCurrentText(Q(setup_.Microphone()));
   microphone_->setEnabled(microphone_->count() > 0);
-  if (microphone_->count() == 0) microphone_->addItem("No microphone is connected");
+  if (microphone_->count() == 0) microphone_->addItem(tr("No microphone is connected"));
   const std::vector<std::string> lines = setup_.MicrophoneLines();
   const QSignalBlocker quietToo(AudioInputPinCombo_);
   AudioInputPinCombo_->clear();
@@ -335,7 +337,7 @@ void CaptureSection::DVorAnOpt_Click(int index) {
 void CaptureSection::CamConfig_Camera_Click(int index) {
   switch (index) {
     case kFolder: {
-      const auto folder = host_.PickFolder("Select your Video Camera folder", setup_.ImportFolder());
+      const auto folder = host_.PickFolder(Tr("Select your Video Camera folder"), setup_.ImportFolder());
       if (folder && Settings::Holds(*folder)) setup_.SetImportFolder(*folder);
       else if (folder) host_.Message(MessageKind::Warning, "", Settings::TooLongText(*folder));
       return ShowKind();

@@ -17,6 +17,7 @@
 #include "capture/forms/SoundMeter.h"
 #include "core/Settings.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
@@ -28,8 +29,8 @@ namespace kinalyx {
 namespace {
 
 constexpr int kPanelWidth = 228;  // as designed
-constexpr const char* kMethods[] = {"Start-Stop", "One Click", "Beep", "Sound"};
-constexpr const char* kRemoteCaptions[] = {"Page Down", "B", "F5", "Period"};
+constexpr const char* kMethods[] = {TrLater("Start-Stop"), TrLater("One Click"), TrLater("Beep"), TrLater("Sound")};
+constexpr const char* kRemoteCaptions[] = {TrLater("Page Down"), "B", "F5", TrLater("Period")};
 constexpr Qt::Key kRemoteKeys[] = {Qt::Key_PageDown, Qt::Key_B, Qt::Key_F5, Qt::Key_Period};
 enum PanelPage { kSoundPage, kClickPage, kBeepPage };
 
@@ -48,7 +49,7 @@ QLabel* Wrapped(const QString& name, const char* look) {
 
 QString MemoryText(const MemoryTally& memory) {
   constexpr double kMiB = 1 << 20;
-  return QString("Remembers %1 of %2 s, %3 of %4 MiB")
+  return QObject::tr("Remembers %1 of %2 s, %3 of %4 MiB")
       .arg(std::min(memory.seconds, memory.wanted), 0, 'f', 1)
       .arg(memory.wanted, 0, 'g', 3)
       .arg(static_cast<double>(memory.bytes) / kMiB, 0, 'f', 0)
@@ -71,13 +72,13 @@ HandsFree::HandsFree(Parts parts, QWidget* page, QWidget* stage)
       page_(page),
       CountPnl_(new CountPanel(stage)) {
   methods_ = new QWidget;
-  methods_->setToolTip("Capture Method");
+  methods_->setToolTip(tr("Capture Method"));
   auto* row = new QHBoxLayout(methods_);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(6);
   CapOptionBtn_ = new QButtonGroup(this);
   for (int method = 1; method <= 4; ++method) {
-    auto* button = new Button(QString("CapOptionBtn%1").arg(method), kMethods[method - 1], {}, Look::Quiet);
+    auto* button = new Button(QString("CapOptionBtn%1").arg(method), tr(kMethods[method - 1]), {}, Look::Quiet);
     button->setCheckable(true);
     CapOptionBtn_->addButton(button, method);
     row->addWidget(button);
@@ -104,8 +105,8 @@ QWidget* HandsFree::SidePanel() { return panel_; }
 void HandsFree::MakeSound() {
   auto* ground = new QWidget;
   QVBoxLayout* rows = Rows(ground);
-  BlockTimeList_[0] = MakeTimes(*rows, 0, "Before");
-  BlockTimeList_[1] = MakeTimes(*rows, 1, "After");
+  BlockTimeList_[0] = MakeTimes(*rows, 0, tr("Before"));
+  BlockTimeList_[1] = MakeTimes(*rows, 1, tr("After"));
   sound_ = new SoundMeter;
   rows->addWidget(sound_);
   connect(sound_, &SoundMeter::TriggerLevelChanged, this, [this](int percent) {
@@ -129,20 +130,20 @@ void HandsFree::MakeSound() {
 void HandsFree::MakeClick() {
   auto* ground = new QWidget;
   QVBoxLayout* rows = Rows(ground);
-  BlockTimeList_[2] = MakeTimes(*rows, 2, "Capture Time");
+  BlockTimeList_[2] = MakeTimes(*rows, 2, tr("Capture Time"));
   QLabel* how = Wrapped({}, "muted");
   how->setText(
-      "Click the picture or the button at the end of the swing, or press the space bar. A remote control for "
-      "presentations can do it too:");
+      tr("Click the picture or the button at the end of the swing, or press the space bar. A remote control for "
+         "presentations can do it too:"));
   rows->addWidget(how);
   auto* keys = new QGridLayout;
   keys->setSpacing(6);
   const std::vector<bool> on = RemoteKeysOf(parts_.settings.RemoteKeys);
   for (std::size_t i = 0; i < RemoteKeyNames().size(); ++i) {
-    auto* key = new Button(QString("RemoteKey%1").arg(i), kRemoteCaptions[i], {}, Look::Quiet);
+    auto* key = new Button(QString("RemoteKey%1").arg(i), tr(kRemoteCaptions[i]), {}, Look::Quiet);
     key->setCheckable(true);
     key->setChecked(on[i]);
-    key->setToolTip("This key of a remote control captures, too");
+    key->setToolTip(tr("This key of a remote control captures, too"));
     connect(key, &QPushButton::clicked, this, [this] {
       std::vector<bool> chosen;
       for (const Button* button : remote_) chosen.push_back(button->isChecked());
@@ -163,9 +164,9 @@ void HandsFree::MakeClick() {
 void HandsFree::MakeBeep() {
   auto* ground = new QWidget;
   QVBoxLayout* rows = Rows(ground);
-  BeepArray_[0] = MakeBeepSlider(*rows, 0, "Seconds to wait", kMostBeepSeconds);
-  BeepArray_[1] = MakeBeepSlider(*rows, 1, "Seconds to capture", kMostBeepSeconds);
-  BeepArray_[2] = MakeBeepSlider(*rows, 2, "Captures in cycle", kMostBeepCycles);
+  BeepArray_[0] = MakeBeepSlider(*rows, 0, tr("Seconds to wait"), kMostBeepSeconds);
+  BeepArray_[1] = MakeBeepSlider(*rows, 1, tr("Seconds to capture"), kMostBeepSeconds);
+  BeepArray_[2] = MakeBeepSlider(*rows, 2, tr("Captures in cycle"), kMostBeepCycles);
   rows->addStretch(1);
   pages_->addWidget(ground);
 }
@@ -236,10 +237,10 @@ void HandsFree::MakeButtons() {
   auto* row = new QHBoxLayout(buttons_);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(8);
-  AutoCapturebtn_ = new Button("AutoCapturebtn", "Start Sound Capture", "record");
-  OneClickbtn_ = {new Button("OneClickbtn0", "Start to Monitor", "record"),
-                  new Button("OneClickbtn1", "Capture the Swing", "check")};
-  BeepCaptureStart_ = new Button("BeepCaptureStart", "Start Beep Capture", "record");
+  AutoCapturebtn_ = new Button("AutoCapturebtn", tr("Start Sound Capture"), "record");
+  OneClickbtn_ = {new Button("OneClickbtn0", tr("Start to Monitor"), "record"),
+                  new Button("OneClickbtn1", tr("Capture the Swing"), "check")};
+  BeepCaptureStart_ = new Button("BeepCaptureStart", tr("Start Beep Capture"), "record");
   for (Button* button : {OneClickbtn_[1], AutoCapturebtn_, OneClickbtn_[0], BeepCaptureStart_}) {
     LeastWidth(button, 190);
     row->addWidget(button);
@@ -314,12 +315,12 @@ void HandsFree::SetupCapMode(bool shown) {
   for (QAbstractButton* button : CapOptionBtn_->buttons()) button->setEnabled(idle);
   methods_->setVisible(shown);
   panel_->setVisible(shown && method != CaptureMethod::StartStop);
-  panel_->SetTitle(kMethods[static_cast<int>(method) - 1]);
+  panel_->SetTitle(tr(kMethods[static_cast<int>(method) - 1]));
   pages_->setCurrentIndex(sound ? kSoundPage : click ? kClickPage : kBeepPage);
   AutoCapturebtn_->setVisible(sound);
-  AutoCapturebtn_->setText(armed ? "Stop Sound Capture" : "Start Sound Capture");
+  AutoCapturebtn_->setText(armed ? tr("Stop Sound Capture") : tr("Start Sound Capture"));
   OneClickbtn_[0]->setVisible(click);
-  OneClickbtn_[0]->setText(armed ? "Stop Monitoring" : "Start to Monitor");
+  OneClickbtn_[0]->setText(armed ? tr("Stop Monitoring") : tr("Start to Monitor"));
   OneClickbtn_[1]->setVisible(click && armed);
   for (Button* button : {AutoCapturebtn_, OneClickbtn_[0]}) button->SetIcon(armed ? "stop" : "record");
   BeepCaptureStart_->setVisible(method == CaptureMethod::Beep);
@@ -332,7 +333,7 @@ void HandsFree::SetupCapMode(bool shown) {
   const std::vector<bool> remote = RemoteKeysOf(parts_.settings.RemoteKeys);
   for (std::size_t i = 0; i < keys_.size(); ++i) keys_[i]->setEnabled(click && armed && (i == 0 || remote[i - 1]));
   const std::string microphone = parts_.setup.Microphone();
-  microphone_->setText(microphone.empty() ? "No microphone is connected." : Q(microphone));
+  microphone_->setText(microphone.empty() ? tr("No microphone is connected.") : Q(microphone));
   if (shown && sound && !armed) meter_.Start(microphone, ThresholdOf(parts_.settings), GainOf(parts_.settings));
   else meter_.Stop();
   ShowCounts();
@@ -340,7 +341,7 @@ void HandsFree::SetupCapMode(bool shown) {
 
 void HandsFree::ShowCounts() {
   const Monitoring& triggers = parts_.session.Triggers();
-  const QString count = QString("%1 Videos Captured").arg(triggers.CapturedCount());
+  const QString count = tr("%1 Videos Captured").arg(triggers.CapturedCount());
   for (QLabel* label : {AutoCountLbl_, OneClickCountLbl_}) label->setText(count);
   const QString memory = triggers.Armed() ? MemoryText(triggers.Memory()) : QString();
   for (QLabel* label : memory_)

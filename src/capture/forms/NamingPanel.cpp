@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QSignalBlocker>
 
+#include "platform/files/Tr.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Text.h"
 #include "platform/widgets/Theme.h"
@@ -17,9 +18,10 @@ namespace kinalyx {
 
 namespace {
 
-constexpr const char* kModes[] = {"General", "Detailed", "Manually enter all Video Names",
-                                  "Automatic Naming ie: Video1 Video2 etc."};
-constexpr const char* kNoName = "A name cannot hold these: \\ / : * ? \" < > | ! @ # $ % ^ & + = { } [ ] ~ ` ; '";
+constexpr const char* kModes[] = {TrLater("General"), TrLater("Detailed"), TrLater("Manually enter all Video Names"),
+                                  TrLater("Automatic Naming ie: Video1 Video2 etc.")};
+constexpr const char* kNoName =
+    TrLater("A name cannot hold these: \\ / : * ? \" < > | ! @ # $ % ^ & + = { } [ ] ~ ` ; '");
 
 /// Choice buttons with the numbers of `LineChoicebtn` from `first` on.
 QWidget* MakeChoices(QButtonGroup& group, std::span<const std::string_view> captions, int first, int columns) {
@@ -39,7 +41,7 @@ QWidget* MakeChoices(QButtonGroup& group, std::span<const std::string_view> capt
 }  // namespace
 
 NamingPanel::NamingPanel(VideoNaming& naming, QWidget* parent)
-    : Panel("NamingTitle", "Name of the Video", parent), naming_(naming) {
+    : Panel("NamingTitle", tr("Name of the Video"), parent), naming_(naming) {
   auto* rows = new QVBoxLayout;
   rows->setContentsMargins(kGap, 8, kGap, 10);
   rows->setSpacing(6);
@@ -48,7 +50,7 @@ NamingPanel::NamingPanel(VideoNaming& naming, QWidget* parent)
   auto* name = new QHBoxLayout;
   VidNameLbl_ = MakeLabel("VidNameLbl", {}, "heading");
   VidNameLbl_->setWordWrap(true);
-  change_ = IconButton("ChangeNamebtn", "rename", "Type another name for the next video", Look::Quiet);
+  change_ = IconButton("ChangeNamebtn", "rename", tr("Type another name for the next video"), Look::Quiet);
   name->addWidget(VidNameLbl_, 1);
   name->addWidget(change_);
   rows->addLayout(name);
@@ -59,9 +61,9 @@ NamingPanel::NamingPanel(VideoNaming& naming, QWidget* parent)
   frame->setContentsMargins(0, 0, 0, 0);
   box_ = new QLineEdit;
   box_->setObjectName("ChangeNameBox");
-  box_->setAccessibleName("Name of the next video");
+  box_->setAccessibleName(tr("Name of the next video"));
   box_->setMaxLength(120);
-  auto* take = IconButton("ChangeNameOk", "check", "Take this name (Return)");
+  auto* take = IconButton("ChangeNameOk", "check", tr("Take this name (Return)"));
   frame->addWidget(box_, 1);
   frame->addWidget(take);
   NameFrame_->hide();
@@ -69,8 +71,8 @@ NamingPanel::NamingPanel(VideoNaming& naming, QWidget* parent)
 
   mode_ = new QComboBox;
   mode_->setObjectName("NameModeList");
-  mode_->setAccessibleName("Video Naming");
-  for (const char* mode : kModes) mode_->addItem(mode);
+  mode_->setAccessibleName(tr("Video Naming"));
+  for (const char* mode : kModes) mode_->addItem(tr(mode));
   mode_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   mode_->setMinimumContentsLength(10);
   rows->addWidget(mode_);
@@ -78,8 +80,8 @@ NamingPanel::NamingPanel(VideoNaming& naming, QWidget* parent)
   VidNametxt_ = new QLineEdit;
   VidNametxt_->setObjectName("VidNametxt");
   VidNametxt_->setMaxLength(80);
-  VidNametxt_->setPlaceholderText("Driver, vault, squat ...");
-  VidNametxt_->setAccessibleName("Text in the name");
+  VidNametxt_->setPlaceholderText(tr("Driver, vault, squat ..."));
+  VidNametxt_->setAccessibleName(tr("Text in the name"));
   rows->addWidget(VidNametxt_);
 
   LineChoicebtn_ = new QButtonGroup(this);
@@ -97,7 +99,7 @@ NamingPanel::NamingPanel(VideoNaming& naming, QWidget* parent)
     SetupNameMode();
   });
   connect(VidNametxt_, &QLineEdit::textChanged, this, [this](const QString& text) {
-    if (!naming_.SetText(Std(text))) emit Told(kNoName);
+    if (!naming_.SetText(Std(text))) emit Told(tr(kNoName));
   });
   connect(LineChoicebtn_, &QButtonGroup::idClicked, this, [this](int index) { naming_.ChooseDetail(index); });
   naming_.SetEvents(this);
@@ -111,7 +113,8 @@ void NamingPanel::SetupNameMode() {
   mode_->setCurrentIndex(static_cast<int>(mode) - 1);
   views_->setVisible(mode == NameMode::Detailed && !naming_.ShortGame());
   shots_->setVisible(mode == NameMode::Detailed && naming_.ShortGame());
-  VidNametxt_->setPlaceholderText(mode == NameMode::Manual ? "Name of the next video" : "Driver, vault, squat ...");
+  VidNametxt_->setPlaceholderText(mode == NameMode::Manual ? tr("Name of the next video")
+                                                           : tr("Driver, vault, squat ..."));
   const int first = naming_.ShortGame() ? static_cast<int>(ViewChoices().size()) : 0;
   const bool fits = naming_.ShortGame() == (naming_.Detail() >= static_cast<int>(ViewChoices().size()));
   if (!fits) naming_.ChooseDetail(first);
@@ -124,8 +127,8 @@ void NamingPanel::NameChanged() {
   if (naming_.Text().empty() && naming_.Mode() == NameMode::Manual) VidNametxt_->clear();
   const std::string shown = naming_.Shown();
   VidNameLbl_->setText(!shown.empty()             ? Q(shown)
-                       : naming_.Folder().empty() ? QString("Choose who it is for")
-                                                  : QString("Type a name"));
+                       : naming_.Folder().empty() ? tr("Choose who it is for")
+                                                  : tr("Type a name"));
 }
 
 void NamingPanel::NameWanted() {
@@ -151,7 +154,7 @@ bool NamingPanel::TakeTyped() {
 
 bool NamingPanel::TakeName() {
   if (!naming_.TakeChangedName(Std(box_->text()))) {
-    emit Told(box_->text().trimmed().isEmpty() ? QString("Type a name for the video.") : QString(kNoName));
+    emit Told(box_->text().trimmed().isEmpty() ? tr("Type a name for the video.") : tr(kNoName));
     return false;
   }
   CloseBox();

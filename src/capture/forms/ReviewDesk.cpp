@@ -69,9 +69,9 @@ QWidget* ReviewDesk::MakeBar() {
   auto* bar = new QWidget;
   auto* row = new QHBoxLayout(bar);
   row->setContentsMargins(0, 0, 0, 0);
-  play_ = IconButton("ReviewPlay", "play", "Play or pause (P)", Look::Quiet);
+  play_ = IconButton("ReviewPlay", "play", tr("Play or pause (P)"), Look::Quiet);
   VidScroll_ = new TrimSlider("VidScroll");
-  VidScroll_->setToolTip("Drag the two ends. Arrow keys step, I starts and O ends here, P plays.");
+  VidScroll_->setToolTip(tr("Drag the two ends. Arrow keys step, I starts and O ends here, P plays."));
   frame_ = new FigureLabel("VidFrameLbl");
   row->addWidget(play_);
   row->addWidget(VidScroll_, 1);
@@ -126,7 +126,7 @@ void ReviewDesk::Show() {
   VidScroll_->SetEnd(end > 0 ? end : count - 1);
   VidScroll_->SetStart(session_.TrimStartFrame());
   VidScroll_->SetPosition(Frame());
-  frame_->setText(QString("%1 of %2").arg(Frame() + 1).arg(count));
+  frame_->setText(tr("%1 of %2").arg(Frame() + 1).arg(count));
 }
 
 void ReviewDesk::Play() {

@@ -6,6 +6,7 @@
 #include <QLocale>
 #include <utility>
 
+#include "platform/files/Tr.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Text.h"
@@ -35,8 +36,8 @@ UnfinishedBar::UnfinishedBar(IHost& host, std::string folder, QWidget* parent)
   row->setContentsMargins(kGap, 6, 8, 6);
   row->setSpacing(8);
   words_ = MakeLabel("UnfinishedWords", {});
-  auto* away = new Button("UnfinishedAway", "Throw Away", "trash", Look::Quiet);
-  auto* look = new Button("UnfinishedLook", "Look at It", "play");
+  auto* away = new Button("UnfinishedAway", tr("Throw Away"), "trash", Look::Quiet);
+  auto* look = new Button("UnfinishedLook", tr("Look at It"), "play");
   row->addWidget(words_, 1);
   row->addWidget(away);
   row->addWidget(look);
@@ -66,8 +67,7 @@ void UnfinishedBar::ShowLatest() {
   if (found_.empty()) return;
   const QDateTime written = QDateTime::fromSecsSinceEpoch(found_.front().written);
   const QString when = QLocale().toString(written, written.date() == QDate::currentDate() ? "HH:mm" : "d MMM, HH:mm");
-  words_->setText(
-      QString("An unfinished recording was found: %1 s, %2").arg(found_.front().seconds, 0, 'f', 1).arg(when));
+  words_->setText(tr("An unfinished recording was found: %1 s, %2").arg(found_.front().seconds, 0, 'f', 1).arg(when));
 }
 
 void UnfinishedBar::Look() {
@@ -77,7 +77,7 @@ void UnfinishedBar::Look() {
 }
 
 void UnfinishedBar::Throw() {
-  if (!host_.Question("", "Do you want to throw the unfinished recording away?")) return;
+  if (!host_.Question("", Tr("Do you want to throw the unfinished recording away?"))) return;
   if (const Outcome gone = ThrowAway(found_.front()); !gone) emit Told(Q(gone.Why()));
   found_.erase(found_.begin());
   ShowLatest();

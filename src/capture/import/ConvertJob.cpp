@@ -9,6 +9,7 @@
 #include "library/Study.h"
 #include "platform/files/Folders.h"
 #include "platform/files/PartFiles.h"
+#include "platform/files/Tr.h"
 #include "platform/media/VideoFile.h"
 
 namespace kinalyx {
@@ -61,10 +62,10 @@ bool ConvertJob::End(State state, const std::string& error) {
 
 bool ConvertJob::Begin() {
   const auto info = ReadVideoInfo(order_.source);
-  if (!info) return End(State::Unreadable, "The file is no video that can be read.");
+  if (!info) return End(State::Unreadable, Tr("The file is no video that can be read."));
   source_ = *info;
   if (!MakeFolder(FolderOf(order_.destination)))
-    return End(State::NotSaved, "The folder " + FolderOf(order_.destination) + " cannot be made.");
+    return End(State::NotSaved, Tr("The folder {} cannot be made.", FolderOf(order_.destination)));
   RemoveDeadParts(FolderOf(order_.destination));
 
   ConversionRequest request{order_.source, order_.destination};
@@ -102,14 +103,14 @@ void ConvertJob::Finish() {
   conversion_.reset();
   // That it was written is not taken on trust.
   if (!FileExists(order_.destination)) {
-    End(State::NotSaved, "The new video has gone.");
+    End(State::NotSaved, Tr("The new video has gone."));
     return;
   }
   state_ = State::Saved;
   if (const Outcome written = WriteFirstSidecar(order_.destination, source_, order_); !written)
-    remark_ = "How its fields are shown could not be stored: " + written.Why();
+    remark_ = Tr("How its fields are shown could not be stored: {}", written.Why());
   if (const Outcome kept = KeepTrueRate(order_.destination, source_); !kept)
-    remark_ = "How fast it was taken could not be stored: " + kept.Why();
+    remark_ = Tr("How fast it was taken could not be stored: {}", kept.Why());
   if (!order_.moveSource) return;
   const auto moved = MoveToConverted(order_.source);
   if (moved) movedTo_ = *moved;

@@ -7,6 +7,7 @@
 #include <cctype>
 
 #include "platform/files/FileCopy.h"
+#include "platform/files/Tr.h"
 #include "platform/files/WriterWatch.h"
 
 namespace kinalyx {
@@ -48,7 +49,7 @@ std::string ConvertedPath(const std::string& source) {
 Result<std::string> MoveToConverted(const std::string& source) {
   for (;;) {
     const std::string target = ConvertedPath(source);
-    if (target.empty()) return Outcome::Failed("there are a thousand files of that name already");
+    if (target.empty()) return Outcome::Failed(Tr("there are a thousand files of that name already"));
     CopyJob move(CopyJob::Kind::Move, {{{source, target}}});
     const CopyJob::State state = RunToEnd(move);
     // What stays in the old place after a copy is a second original, not a loss.

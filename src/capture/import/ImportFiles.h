@@ -6,16 +6,17 @@
 
 #include "platform/files/Folders.h"
 #include "platform/files/Result.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 
 /// What the browse dialog asks for.
-inline constexpr const char* kBrowseTitle = "Browse for media file";
-inline constexpr const char* kBrowseFilter =
+inline constexpr const char* kBrowseTitle = TrLater("Browse for media file");
+inline constexpr const char* kBrowseFilter = TrLater(
     "Video Files "
     "(*.avi;*.mpg;*.mpeg;*.ogg;*.wmv;*.asf;*.qt;*.mov;*.m2v;*.m1v;*.ts;*.mts;*.m2ts;*.mp4;*.3gp;*.flv;*.video_ts.ifo;*."
     "vob)|*.avi;*.mpg;*.mpeg;*.ogg;*.wmv;*.asf;*.qt;*.mov;*.m2v;*.m1v;*.ts;*.mts;*.m2ts;*.mp4;*.3gp;*.flv;*.video_ts."
-    "ifo;*.vob|All Files (*.*)|*.*";
+    "ifo;*.vob|All Files (*.*)|*.*");
 
 /// The sub-folder of a source that takes what has been converted.
 inline constexpr const char* kConvertedFolder = "Converted Videos";

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/host/DriveWatch.h"
 
 namespace kinalyx {
@@ -21,21 +22,21 @@ constexpr int kTickMs = 1000;
 constexpr int kStillTicks = 2;
 constexpr int kCountdown = 5;
 
-constexpr const char* kAutoOff = "Click to Start Auto Import";
-constexpr const char* kAutoOn = "Automatic Import Active.... Waiting for new videos....";
-constexpr const char* kNoCameraFolder =
+constexpr const char* kAutoOff = TrLater("Click to Start Auto Import");
+constexpr const char* kAutoOn = TrLater("Automatic Import Active.... Waiting for new videos....");
+constexpr const char* kNoCameraFolder = TrLater(
     "Before importing video from your camera, you must set up the camera video location in Program Setup. Click OK to "
-    "go to Program Setup.";
-constexpr const char* kNoAutoFolder =
+    "go to Program Setup.");
+constexpr const char* kNoAutoFolder = TrLater(
     "Before using the Auto Import feature, you must set up the Import Folder location in Program Setup. Click OK to go "
-    "to Program Setup.";
-constexpr const char* kUnreadable =
+    "to Program Setup.");
+constexpr const char* kUnreadable = TrLater(
     "There is a problem finding data on this original video. If this is a Windows 10 pc, try running the 'tweaker' "
-    "software in Program Setup\\Capture. Err 2238";
-constexpr const char* kNotSaved = "There was a problem saving this video.";
+    "software in Program Setup\\Capture. Err 2238");
+constexpr const char* kNotSaved = TrLater("There was a problem saving this video.");
 constexpr const char* kBadTrim =
-    "Your TRIM Start and End times are not correct. Please check your Start and End times and try again.";
-constexpr const char* kNoName = "You must name the video before saving!";
+    TrLater("Your TRIM Start and End times are not correct. Please check your Start and End times and try again.");
+constexpr const char* kNoName = TrLater("You must name the video before saving!");
 
 std::string NameAlone(const std::string& path) {
   const std::string name = LastName(path);
@@ -58,7 +59,8 @@ class ImportSession::JobEvents final : public IJobEvents {
   ImportSession& session_;
 };
 
-ImportSession::ImportSession(const Parts& parts) : parts_(parts), autoStatus_(kAutoOff), jobs_(parts.host, parts.on) {}
+ImportSession::ImportSession(const Parts& parts)
+    : parts_(parts), autoStatus_(Tr(kAutoOff)), jobs_(parts.host, parts.on) {}
 
 ImportSession::~ImportSession() = default;
 
@@ -128,10 +130,10 @@ void ImportSession::Select(const std::string& path) {
 }
 
 void ImportSession::Browse() {
-  const FileDialog dialog{kBrowseTitle, selected_.empty() ? std::string() : FolderOf(selected_), kBrowseFilter};
+  const FileDialog dialog{Tr(kBrowseTitle), selected_.empty() ? std::string() : FolderOf(selected_), Tr(kBrowseFilter)};
   const auto paths = parts_.host.PickFiles(dialog);
   if (!paths.empty() && !AddFiles(paths))
-    parts_.host.Message(MessageKind::Information, "", "None of these files is a video that can be imported.");
+    parts_.host.Message(MessageKind::Information, "", Tr("None of these files is a video that can be imported."));
 }
 
 bool ImportSession::AddFiles(const std::vector<std::string>& paths) {
@@ -168,13 +170,13 @@ void ImportSession::RemoveFromList(const std::string& path) {
 void ImportSession::SetStartPoint(double ms) {
   if (selected_.empty()) return;
   trimStart_ = ms;
-  SetStatus("Trim Excess from the END of the video or choose to Save New Video.");
+  SetStatus(Tr("Trim Excess from the END of the video or choose to Save New Video."));
 }
 
 void ImportSession::SetEndPoint(double ms) {
   if (selected_.empty()) return;
   trimEnd_ = ms;
-  SetStatus("Choose to Save New Video.");
+  SetStatus(Tr("Choose to Save New Video."));
 }
 
 void ImportSession::ClearTrim() {
@@ -189,7 +191,8 @@ bool ImportSession::TrimIsGood() const { return !trimEnd_ || *trimEnd_ > trimSta
 
 bool ImportSession::HasFolder() {
   if (kind_ == ImportKind::Manual || !Folder().empty()) return true;
-  parts_.host.Message(MessageKind::Information, "", kind_ == ImportKind::Camera ? kNoCameraFolder : kNoAutoFolder);
+  parts_.host.Message(MessageKind::Information, "",
+                      kind_ == ImportKind::Camera ? Tr(kNoCameraFolder) : Tr(kNoAutoFolder));
   parts_.events.GoToCaptureSetup();
   return false;
 }
@@ -198,7 +201,7 @@ bool ImportSession::HasFolder() {
 bool ImportSession::NextName() {
   parts_.naming.GetVideoName();
   if (!parts_.naming.CapturedVideoPath().empty()) return true;
-  parts_.host.Message(MessageKind::Information, "", kNoName);
+  parts_.host.Message(MessageKind::Information, "", Tr(kNoName));
   parts_.naming.ChangeName();
   return false;
 }
@@ -214,7 +217,7 @@ bool ImportSession::Save(const std::vector<std::string>& paths) {
   std::ranges::copy_if(paths, std::back_inserter(wanted), [this](const std::string& path) { return CanSave(path); });
   if (wanted.empty()) return false;
   if (std::ranges::find(wanted, selected_) != wanted.end() && !TrimIsGood()) {
-    parts_.host.Message(MessageKind::Warning, "", kBadTrim);
+    parts_.host.Message(MessageKind::Warning, "", Tr(kBadTrim));
     return false;
   }
   if (!Busy() && !NextName()) return false;
@@ -256,7 +259,7 @@ bool ImportSession::ConvertFile(const Part& part) {
   progress_ = {};
   progress_.current = LastName(path);
   Mark(path, State::Converting);
-  SetStatus("Currently Importing " + LastName(path) + " to filename " + NameAlone(order.destination));
+  SetStatus(Tr("Currently Importing {} to filename {}", LastName(path), NameAlone(order.destination)));
   return jobs_.Start(std::make_unique<ConvertJob>(std::move(order)), std::make_unique<JobEvents>(*this));
 }
 
@@ -267,17 +270,17 @@ void ImportSession::EndOfStream(const ConvertJob* job) {
   switch (job ? job->Status() : ConvertJob::State::Cancelled) {
     case ConvertJob::State::Saved: TellSaved(*job); break;
     case ConvertJob::State::Cancelled:
-      Mark(path, State::Stopped, job ? "" : "The drive does not answer.");
-      SetStatus("Last Video WAS NOT SAVED");
+      Mark(path, State::Stopped, job ? "" : Tr("The drive does not answer."));
+      SetStatus(Tr("Last Video WAS NOT SAVED"));
       break;
     case ConvertJob::State::Unreadable:
     case ConvertJob::State::Running:
     case ConvertJob::State::NotSaved:
       Mark(path, State::Failed, job->Error());
-      SetStatus("Last Video WAS NOT SAVED");
-      parts_.host.Note(MessageKind::Warning, "import: " + job->Error());
-      trouble = job->Status() == ConvertJob::State::Unreadable ? kUnreadable : kNotSaved;
-      if (trouble == kNotSaved && !job->Error().empty()) trouble += "\n\n" + AsSentence(job->Error());
+      SetStatus(Tr("Last Video WAS NOT SAVED"));
+      parts_.host.Note(MessageKind::Warning, fmt::format("import: {}", job->Error()));
+      trouble = job->Status() == ConvertJob::State::Unreadable ? Tr(kUnreadable) : Tr(kNotSaved);
+      if (trouble == Tr(kNotSaved) && !job->Error().empty()) trouble += "\n\n" + AsSentence(job->Error());
       break;
   }
   // Those behind it do not wait until the message has been read.
@@ -291,18 +294,18 @@ void ImportSession::TellSaved(const ConvertJob& job) {
   const std::string& video = job.Order().destination;
   if (path == selected_) ClearTrim();
   Mark(path, State::Saved, NameAlone(video));
-  if (!job.Remark().empty()) parts_.host.Note(MessageKind::Warning, "import: " + job.Remark());
+  if (!job.Remark().empty()) parts_.host.Note(MessageKind::Warning, fmt::format("import: {}", job.Remark()));
   const bool wantsMove = job.Order().moveSource;
-  if (!wantsMove) SetStatus("Last Video Saved Successfully");
-  else if (!job.MovedTo().empty()) SetStatus("File Conversion, Save and Move Complete");
-  else SetStatus("Last Video Saved Successfully. The original is still in its folder: " + job.Remark());
+  if (!wantsMove) SetStatus(Tr("Last Video Saved Successfully"));
+  else if (!job.MovedTo().empty()) SetStatus(Tr("File Conversion, Save and Move Complete"));
+  else SetStatus(Tr("Last Video Saved Successfully. The original is still in its folder: {}", job.Remark()));
   if (kind_ != ImportKind::Manual) TakeFolder(autoActive_, true);
   // Who hears of it may use a name up that was typed for this video alone.
   parts_.events.VideoImported(video);
   parts_.naming.GetVideoName();
   if (autoActive_) {
     const std::size_t left = list_.Count(State::Waiting) + list_.Count(State::Arriving);
-    SetAutoStatus(left == 1 ? "1 video left to import" : fmt::format("{} videos left to import", left));
+    SetAutoStatus(left == 1 ? Tr("1 video left to import") : Tr("{} videos left to import", left));
   }
 }
 
@@ -343,7 +346,7 @@ void ImportSession::EndWatch() {
   autoTimer_.Stop();
   autoActive_ = false;
   counting_.clear();
-  SetAutoStatus(kAutoOff);
+  SetAutoStatus(Tr(kAutoOff));
   Changed();
 }
 
@@ -359,7 +362,7 @@ void ImportSession::CountDown() {
       list_.Rows(), [](const ImportRow& row) { return row.state == State::Waiting && row.stillTicks >= kStillTicks; });
   if (folderGone_ || ready == list_.Rows().end()) {
     counting_.clear();
-    SetAutoStatus(folderGone_ ? "The Import Folder cannot be reached.... Waiting for it...." : kAutoOn);
+    SetAutoStatus(folderGone_ ? Tr("The Import Folder cannot be reached.... Waiting for it....") : Tr(kAutoOn));
     return;
   }
   const std::string path = ready->file.path;
@@ -369,17 +372,16 @@ void ImportSession::CountDown() {
   const std::string& video = parts_.naming.CapturedVideoPath();
   if (video.empty()) {
     EndWatch();
-    Trouble(kNoName);
+    Trouble(Tr(kNoName));
     parts_.naming.ChangeName();
     return;
   }
   if (secondsLeft_ > 0) {
-    SetAutoStatus(
-        fmt::format("Importing {} to filename {} in {} seconds.", LastName(path), NameAlone(video), secondsLeft_));
+    SetAutoStatus(Tr("Importing {} to filename {} in {} seconds.", LastName(path), NameAlone(video), secondsLeft_));
     return;
   }
   counting_.clear();
-  if (ConvertFile({path})) SetAutoStatus(fmt::format("Importing {} to filename {}", LastName(path), NameAlone(video)));
+  if (ConvertFile({path})) SetAutoStatus(Tr("Importing {} to filename {}", LastName(path), NameAlone(video)));
 }
 
 // ---------------------------------------------------------------- small things

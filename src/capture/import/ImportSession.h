@@ -13,6 +13,7 @@
 #include "capture/import/ImportList.h"
 #include "core/Settings.h"
 #include "library/JobRunner.h"
+#include "platform/files/Tr.h"
 #include "platform/host/Host.h"
 
 namespace kinalyx {
@@ -62,7 +63,7 @@ class ImportSession {
   std::optional<double> TrimEnd() const { return trimEnd_; }
   bool AutoActive() const { return autoActive_; }
   /// `AutoConvertBtn`.
-  const char* AutoCaption() const { return autoActive_ ? "Stop Auto Import" : "Start Auto Import"; }
+  std::string AutoCaption() const { return autoActive_ ? Tr("Stop Auto Import") : Tr("Start Auto Import"); }
   /// `AutoImportLbl`.
   const std::string& AutoStatus() const { return autoStatus_; }
 

@@ -6,13 +6,14 @@
 #include <utility>
 
 #include "capture/templates/CaptureTemplates.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 namespace {
 
 constexpr int kRetryMs = 3000;    ///< after a camera has failed
 constexpr int kHandOverMs = 500;  ///< after somebody else has let it go
-constexpr const char* kStarting = "Starting the camera...";
+constexpr const char* kStarting = TrLater("Starting the camera...");
 constexpr std::string_view kSource = "VideoSource";
 
 }  // namespace
@@ -46,7 +47,7 @@ void LiveCamera::GiveAway(bool away) {
     return;
   }
   // Who had the camera may still be letting it go.
-  words_ = kStarting;
+  words_ = Tr(kStarting);
   retry_ = HostTimer(host_, kHandOverMs, false, [this] { Rebuild(); });
   events_.CameraChanged();
 }
@@ -76,7 +77,7 @@ void LiveCamera::Rebuild() {
   if (!open_) return;
   if (away_) {
     DropPicture();
-    words_ = "The camera is on the page Capture Videos. Leave that page, and it shows here again.";
+    words_ = Tr("The camera is on the page Capture Videos. Leave that page, and it shows here again.");
   } else if (BuildGraph()) {
     if (const Outcome run = graph_->GraphRun(); run) {
       running_ = true;
@@ -109,9 +110,9 @@ bool LiveCamera::BindCamera() {
   const CameraChoice& choice = setup_.Shown(Camera());
   const bool known = setup_.Devices().Known();
   if (choice.name.empty() || (known && !setup_.ShownDevice(Camera()))) {
-    words_ = !known                ? "Looking for cameras..."
-             : choice.name.empty() ? "No camera is connected. Plug one in, and it shows here."
-                                   : fmt::format("{} is not connected. Plug it in, and it shows here.", choice.name);
+    words_ = !known                ? Tr("Looking for cameras...")
+             : choice.name.empty() ? Tr("No camera is connected. Plug one in, and it shows here.")
+                                   : Tr("{} is not connected. Plug it in, and it shows here.", choice.name);
     return false;
   }
   if (const Outcome bound = graph_->GraphSetDevice(kSource, choice.name); !bound) {
@@ -119,7 +120,7 @@ bool LiveCamera::BindCamera() {
     return false;
   }
   bound_ = choice;
-  if (!picture_.pixels) words_ = kStarting;
+  if (!picture_.pixels) words_ = Tr(kStarting);
   const std::optional<PictureSize> size = SizeOf(choice.size);
   if (!size) return true;
   // A camera that has no such form gives its nearest one.
@@ -220,7 +221,7 @@ void LiveCamera::SourceFailed(const std::string&, const std::string& why) {
 
 void LiveCamera::PreviewFailed(const std::string&) {
   DropPicture();
-  words_ = "The picture of this camera cannot be shown.";
+  words_ = Tr("The picture of this camera cannot be shown.");
   events_.CameraChanged();
 }
 

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 namespace {
@@ -79,7 +80,7 @@ void LiveDrawSession::Keep() {
   kept.drawings.view.mirrored = kept.mirror;
   const Outcome written = WriteLiveDraw(JoinPath(parts_.settings.DataPath, "livedraw.json"), kept);
   if (written) return;
-  parts_.host.Note(MessageKind::Warning, "Live draw could not be kept. " + written.Why());
+  parts_.host.Note(MessageKind::Warning, fmt::format("Live draw could not be kept. {}", written.Why()));
   if (open_) keep_ = HostTimer(parts_.host, kKeepAgainMs, false, [this] { Keep(); });
 }
 
@@ -90,7 +91,7 @@ void LiveDrawSession::PressFreeze() { camera_.Frozen() ? camera_.GoLive() : came
 void LiveDrawSession::PressZone() {
   if (!adding_ && zones_.Full())
     return parts_.host.Message(MessageKind::Information, "",
-                               "There is room for twelve hot zones. Remove one of them first.");
+                               Tr("There is room for twelve hot zones. Remove one of them first."));
   if (!adding_) board_.Tools().PutToolDown();
   SetAdding(!adding_ && board_.HasPicture());
 }

@@ -14,6 +14,7 @@
 #include "capture/livedraw/LiveCamera.h"
 #include "capture/livedraw/LiveDrawFile.h"
 #include "drawing/Macros.h"
+#include "platform/files/Tr.h"
 #include "platform/graph/IShortSounds.h"
 #include "platform/paint/PixelOps.h"
 
@@ -62,11 +63,11 @@ class LiveDrawSession : private ILiveCameraEvents, private IDrawingBoardEvents {
   // --- buttons
   /// `CamCtlBtn` 0: "Freeze Video", "Live Video".
   void PressFreeze();
-  std::string_view FreezeCaption() const { return camera_.Frozen() ? "Live Video" : "Freeze Video"; }
+  std::string FreezeCaption() const { return camera_.Frozen() ? Tr("Live Video") : Tr("Freeze Video"); }
   bool CanFreeze() const { return board_.HasPicture(); }
   /// `CamCtlBtn` 2: "Add Hot Zone", "Cancel Zone".
   void PressZone();
-  std::string_view ZoneCaption() const { return adding_ ? "Cancel Zone" : "Add Hot Zone"; }
+  std::string ZoneCaption() const { return adding_ ? Tr("Cancel Zone") : Tr("Add Hot Zone"); }
   bool AddingZone() const { return adding_; }
   void SetMirror(bool on);
   /// 0 to 100.

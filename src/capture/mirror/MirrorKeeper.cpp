@@ -9,6 +9,7 @@
 #include "capture/CaptureData.h"
 #include "library/VideoNames.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 namespace {
@@ -28,7 +29,7 @@ class MirrorKeeper::SaveEvents final : public IJobEvents {
   void Over(IJob* job) override {
     const auto* saver = dynamic_cast<RecordingSaver*>(job);
     SavedRecording none;
-    none.why = "The disk does not answer.";
+    none.why = Tr("The disk does not answer.");
     keeper_.Saved(saver ? saver->Saved() : none);
   }
 
@@ -49,7 +50,7 @@ bool MirrorKeeper::Keep(IBlockRecordingFilter& recorder, bool second, std::vecto
   SaveRequest request;
   request.videos[0] = NextPath(second);
   if (request.videos[0].empty()) {
-    parts_.events.KeepTold("Not kept. Choose on the capture page whose video it is.", false);
+    parts_.events.KeepTold(Tr("Not kept. Choose on the capture page whose video it is."), false);
     return false;
   }
   const RecordingFormat& format = pictures.front().format;
@@ -60,7 +61,7 @@ bool MirrorKeeper::Keep(IBlockRecordingFilter& recorder, bool second, std::vecto
   recorder.WritePictures(std::move(pictures));
   const std::shared_ptr<IBlockWriter> writer = recorder.Blocks();
   if (!writer) {
-    parts_.events.KeepTold("Not kept. The camera has only just begun.", false);
+    parts_.events.KeepTold(Tr("Not kept. The camera has only just begun."), false);
     return false;
   }
   auto run = std::ranges::find(runs_, writer, &Run::writer);
@@ -94,25 +95,25 @@ void MirrorKeeper::Take(Run& run) {
     request.recorded[0] = std::move(block.path);
     request.tallies[0] = block.tally;
     if (block.tally.pictures > 0 && FileExists(request.recorded[0])) waiting_.push_back(std::move(request));
-    else Lose(request, block.tally.fault.empty() ? "Nothing of it could be written." : block.tally.fault);
+    else Lose(request, block.tally.fault.empty() ? Tr("Nothing of it could be written.") : block.tally.fault);
   }
   if (writing || run.awaited.empty()) return;
   run.awaited.clear();
-  parts_.events.KeepTold("Not kept. The disk does not answer.", false);
+  parts_.events.KeepTold(Tr("Not kept. The disk does not answer."), false);
 }
 
 bool MirrorKeeper::Busy() const { return saving_ || !waiting_.empty() || !runs_.empty(); }
 
 void MirrorKeeper::Lose(const SaveRequest& request, const std::string& why) {
   parts_.files.Park(request.recorded[0], {});
-  parts_.events.KeepTold("Not kept. " + why, false);
+  parts_.events.KeepTold(Tr("Not kept. {}", why), false);
 }
 
 void MirrorKeeper::SaveNext() {
   while (!saving_ && !waiting_.empty() && !parts_.jobs.Busy()) {
     // A student who has been moved, renamed or deleted is not made anew.
     if (!dirExists(FolderOf(waiting_.front().videos[0]))) {
-      Lose(waiting_.front(), "The folder for the video is not there any more.");
+      Lose(waiting_.front(), Tr("The folder for the video is not there any more."));
       waiting_.pop_front();
       continue;
     }
@@ -129,8 +130,8 @@ void MirrorKeeper::Saved(const SavedRecording& saved) {
   if (saved.Done()) {
     parts_.naming.NameUsed();
     const std::string& fault = request.tallies[0].fault;
-    const std::string note = fault.empty() ? saved.note : fault + " What was written is kept.";
-    parts_.events.KeepTold(fmt::format("Kept: {}", VideoName(saved.videos[0])), true);
+    const std::string note = fault.empty() ? saved.note : Tr("{} What was written is kept.", fault);
+    parts_.events.KeepTold(Tr("Kept: {}", VideoName(saved.videos[0])), true);
     if (!note.empty()) parts_.events.KeepTold(note, false);
   } else {
     Lose(request, saved.why);

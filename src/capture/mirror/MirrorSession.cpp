@@ -11,6 +11,7 @@
 #include "capture/templates/CaptureTemplates.h"
 #include "library/VideoNames.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 namespace {
@@ -35,13 +36,13 @@ constexpr std::string_view kWriters[] = {"FileWriter", "FileWriter 2"};
 std::int64_t Ns(double seconds) { return std::llround(seconds * static_cast<double>(kSecondNs)); }
 std::int64_t SecondsUp(std::int64_t ns) { return (std::max<std::int64_t>(0, ns) + kSecondNs - 1) / kSecondNs; }
 
-std::string_view WordsOf(LoopSpeed speed) {
+std::string WordsOf(LoopSpeed speed) {
   switch (speed) {
-    case LoopSpeed::Quarter: return "loop 1/4";
-    case LoopSpeed::Half: return "loop 1/2";
+    case LoopSpeed::Quarter: return Tr("loop 1/4");
+    case LoopSpeed::Half: return Tr("loop 1/2");
     case LoopSpeed::Full: break;
   }
-  return "loop";
+  return Tr("loop");
 }
 
 }  // namespace
@@ -183,9 +184,9 @@ void MirrorSession::Bind(int camera) {
   const std::string_view label = kSources[camera];
   at.fault.clear();
   if (at.device.empty()) {
-    at.fault = "No camera is connected. Plug one in, and it shows here.";
+    at.fault = Tr("No camera is connected. Plug one in, and it shows here.");
   } else if (!setup.ShownDevice(shown)) {
-    at.fault = fmt::format("{} is not connected. Plug it in, and it shows here.", at.device);
+    at.fault = Tr("{} is not connected. Plug it in, and it shows here.", at.device);
   } else if (const Outcome bound = graph_->GraphSetDevice(label, at.device); !bound) {
     at.fault = bound.Why();
   } else if (const auto size = SizeOf(setup.Shown(shown).size)) {
@@ -247,7 +248,7 @@ void MirrorSession::StoreChoices() {
   if (choices_ == stored_) return;
   stored_ = choices_;
   if (const Outcome stored = WriteMirrorChoices(parts_.choicesPath, choices_); !stored)
-    parts_.host.Note(MessageKind::Warning, "The choices of the mirror were not kept: " + stored.Why());
+    parts_.host.Note(MessageKind::Warning, fmt::format("The choices of the mirror were not kept: {}", stored.Why()));
 }
 
 int MirrorSession::PaneCamera(int pane) const { return two_ ? choices_.cameras[static_cast<std::size_t>(pane)] : 0; }
@@ -341,7 +342,7 @@ void MirrorSession::ToggleLoop() {
     panes_[static_cast<std::size_t>(pane)]->Loop(std::move(seen), PartOf(choices_.speed), parts_.now());
     any = true;
   }
-  if (!any) return Say("There is nothing to loop yet.");
+  if (!any) return Say(Tr("There is nothing to loop yet."));
   looping_ = true;
   frozen_ = false;
   LimitMemory();
@@ -362,7 +363,7 @@ void MirrorSession::ToggleFreeze() {
       any = true;
     }
   }
-  if (!any) return Say("There is nothing to look at yet.");
+  if (!any) return Say(Tr("There is nothing to look at yet."));
   frozen_ = on;
   LimitMemory();
   WakeAll();
@@ -388,14 +389,14 @@ void MirrorSession::StepBy(int pictures) {
 
 void MirrorSession::Keep() {
   IBlockRecordingFilter* recorder = Recorder(PaneCamera(chosen_));
-  if (!recorder) return Say("Nothing can be kept while the capture page has the camera.");
+  if (!recorder) return Say(Tr("Nothing can be kept while the capture page has the camera."));
   std::vector<PackedPicture> seen = LastSeen(chosen_);
-  if (seen.size() < 2) return Say("There is nothing to keep yet.");
-  if (!ready_) return Say("Not kept. " + ready_.Why());
+  if (seen.size() < 2) return Say(Tr("There is nothing to keep yet."));
+  if (!ready_) return Say(Tr("Not kept. {}", ready_.Why()));
   const double seconds = static_cast<double>(seen.back().ns - seen.front().ns) / static_cast<double>(kSecondNs);
   const bool second = two_ ? PaneCamera(chosen_) == 1 : parts_.setup.Use() == CameraUse::Second;
   if (!keeper_.Keep(*recorder, second, std::move(seen))) return;
-  Say(fmt::format("Keeping {:.1f} s...", seconds));
+  Say(Tr("Keeping {:.1f} s...", seconds));
 }
 
 void MirrorSession::BlockWritten(const std::string&) { keeper_.TakeWritten(); }
@@ -429,16 +430,16 @@ void MirrorSession::WantSize(int pane, int width, int height) {
 }
 
 std::string MirrorSession::Badge(int pane) const {
-  if (looping_) return frozen_ ? "loop, still" : std::string(WordsOf(choices_.speed));
-  if (frozen_) return "still";
+  if (looping_) return frozen_ ? Tr("loop, still") : WordsOf(choices_.speed);
+  if (frozen_) return Tr("still");
   const double delay = choices_.Delay(pane);
-  return delay == 0 ? "now" : fmt::format("{:g} s ago", delay);
+  return delay == 0 ? Tr("now") : Tr("{:g} s ago", delay);
 }
 
 PaneNote MirrorSession::NoteOf(int pane) const {
   if (looping_ || frozen_) {
     if (panes_[static_cast<std::size_t>(pane)]->Holds()) return {};
-    return {"Nothing of that time is remembered yet.", true};
+    return {Tr("Nothing of that time is remembered yet."), true};
   }
   const Camera& camera = CameraOf(pane);
   const PictureMemory::Tally tally = camera.memory->Take();
@@ -446,22 +447,22 @@ PaneNote MirrorSession::NoteOf(int pane) const {
   const double delay = choices_.Delay(pane);
   const std::int64_t moment = now - Ns(delay);
   const bool away = now - tally.newestNs > kAwayNs;
-  const std::string why = lent_ ? "The capture page has the camera. The mirror goes on when that page is left."
-                          : camera.fault.empty() ? "The camera gives no picture."
+  const std::string why = lent_ ? Tr("The capture page has the camera. The mirror goes on when that page is left.")
+                          : camera.fault.empty() ? Tr("The camera gives no picture.")
                                                  : camera.fault;
-  if (!tally.any) return {lent_ || !camera.fault.empty() ? why : "Starting the camera...", true};
+  if (!tally.any) return {lent_ || !camera.fault.empty() ? why : Tr("Starting the camera..."), true};
   if (moment - tally.newestNs > kAwayNs) return {why, true};
   if (moment < tally.oldestNs) {
     if (tally.full)
-      return {fmt::format("Only {} s of this camera fit into the memory. Choose a shorter delay.",
-                          (tally.newestNs - tally.oldestNs) / kSecondNs),
+      return {Tr("Only {} s of this camera fit into the memory. Choose a shorter delay.",
+                 (tally.newestNs - tally.oldestNs) / kSecondNs),
               true};
-    return {fmt::format("{:g} s behind: first picture in {} s", delay, SecondsUp(tally.oldestNs - moment)), true};
+    return {Tr("{:g} s behind: first picture in {} s", delay, SecondsUp(tally.oldestNs - moment)), true};
   }
   const auto seen = camera.memory->At(moment);
-  if (seen && moment - seen->ns > kAwayNs) return {"The camera gave no picture then.", true};
+  if (seen && moment - seen->ns > kAwayNs) return {Tr("The camera gave no picture then."), true};
   if (!away) return {};
-  return {fmt::format("{} What it saw before goes on for {} s.", why, SecondsUp(tally.newestNs - moment)), false};
+  return {Tr("{} What it saw before goes on for {} s.", why, SecondsUp(tally.newestNs - moment)), false};
 }
 
 std::string MirrorSession::WordsOfMemory() const {
@@ -472,7 +473,7 @@ std::string MirrorSession::WordsOfMemory() const {
     bytes += tally.bytes;
     if (tally.any) longest = std::max(longest, tally.newestNs - tally.oldestNs);
   }
-  return fmt::format("remembers {} s, {} MiB of {}", longest / kSecondNs, bytes / kMebi, bound_ / kMebi);
+  return Tr("remembers {} s, {} MiB of {}", longest / kSecondNs, bytes / kMebi, bound_ / kMebi);
 }
 
 std::string MirrorSession::NextName() const {

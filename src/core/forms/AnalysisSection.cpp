@@ -7,6 +7,7 @@
 #include <QGridLayout>
 
 #include "core/forms/Choices.h"
+#include "platform/files/Tr.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Theme.h"
@@ -22,13 +23,13 @@ struct LayoutChoice {
 };
 
 constexpr LayoutChoice kLayouts[] = {
-    {1, "single", "Single"},
-    {2, "double", "Double"},
-    {3, "triple-triangular", "Triple"},
-    {4, "quad", "Quad"},
-    {5, "triple", "Triple, side by side"},
-    {6, "six", "Six"},
-    {8, "eight", "Eight"},
+    {1, "single", TrLater("Single")},
+    {2, "double", TrLater("Double")},
+    {3, "triple-triangular", TrLater("Triple")},
+    {4, "quad", TrLater("Quad")},
+    {5, "triple", TrLater("Triple, side by side")},
+    {6, "six", TrLater("Six")},
+    {8, "eight", TrLater("Eight")},
 };
 
 struct Tool {
@@ -38,10 +39,10 @@ struct Tool {
 
 constexpr int kPathDown = 17;
 constexpr Tool kTools[] = {
-    {0, "Freehand"},      {1, "Plus Sign"},  {2, "Square"},     {3, "Line"},
-    {4, "Circle"},        {5, "Angle"},      {6, "Path Trace"}, {kPathDown, "PathDown"},
-    {7, "Parallelogram"}, {8, "Shade Zone"}, {9, "Clock Grid"}, {10, "Arrow"},
-    {11, "Grid"},
+    {0, TrLater("Freehand")},      {1, TrLater("Plus Sign")},  {2, TrLater("Square")},     {3, TrLater("Line")},
+    {4, TrLater("Circle")},        {5, TrLater("Angle")},      {6, TrLater("Path Trace")}, {kPathDown, "PathDown"},
+    {7, TrLater("Parallelogram")}, {8, TrLater("Shade Zone")}, {9, TrLater("Clock Grid")}, {10, TrLater("Arrow")},
+    {11, TrLater("Grid")},
 };
 
 constexpr int kWidest = 10;  // pixels that a line can be chosen to have
@@ -63,13 +64,13 @@ AnalysisSection::AnalysisSection(Settings& settings, QWidget* parent)
 }
 
 void AnalysisSection::AddLayouts() {
-  QVBoxLayout* rows = AddPanel(0, "Opening");
-  rows->addWidget(MakeLabel({}, "Windows at the start", "caption"));
+  QVBoxLayout* rows = AddPanel(0, tr("Opening"));
+  rows->addWidget(MakeLabel({}, tr("Windows at the start"), "caption"));
   auto* strip = new QHBoxLayout;
   strip->setSpacing(6);
   layouts_ = new QButtonGroup(this);
   for (const LayoutChoice& choice : kLayouts) {
-    Button* button = IconButton(QString("ScreenOpt%1").arg(choice.mode), choice.icon, choice.tip, Look::Quiet);
+    Button* button = IconButton(QString("ScreenOpt%1").arg(choice.mode), choice.icon, tr(choice.tip), Look::Quiet);
     button->setCheckable(true);
     layouts_->addButton(button, choice.mode);
     strip->addWidget(button);
@@ -77,13 +78,15 @@ void AnalysisSection::AddLayouts() {
   strip->addStretch(1);
   rows->addLayout(strip);
   rows->addSpacing(6);
-  rows->addWidget(MakeLabel({}, "List of videos to open", "caption"));
-  sides_ = AddRadios(*rows, "ODSetupOpt", {"On the right side", "On the left side", "Classic window in the middle"});
+  rows->addWidget(MakeLabel({}, tr("List of videos to open"), "caption"));
+  sides_ =
+      AddRadios(*rows, "ODSetupOpt",
+                {TrLater("On the right side"), TrLater("On the left side"), TrLater("Classic window in the middle")});
   rows->addSpacing(6);
-  shortGame_ = new QCheckBox("Short-game video names");
+  shortGame_ = new QCheckBox(tr("Short-game video names"));
   shortGame_->setObjectName("ShortGameCheck");
   shortGame_->setToolTip(
-      "The list of videos to open loads the files of a shot together, in place of undoing the last open");
+      tr("The list of videos to open loads the files of a shot together, in place of undoing the last open"));
   rows->addWidget(shortGame_);
   connect(shortGame_, &QCheckBox::toggled, this, [this](bool on) { StoreAndTell(settings_.ShortGame, on ? 1 : 0); });
   connect(layouts_, &QButtonGroup::idClicked, this,
@@ -92,13 +95,13 @@ void AnalysisSection::AddLayouts() {
 }
 
 void AnalysisSection::AddShowing() {
-  QVBoxLayout* rows = AddPanel(1, "Showing");
-  rows->addWidget(MakeLabel({}, "A video in its window", "caption"));
-  fits_ = AddRadios(*rows, "FitOpt", {"Fills the height of the window", "Is seen as a whole"});
+  QVBoxLayout* rows = AddPanel(1, tr("Showing"));
+  rows->addWidget(MakeLabel({}, tr("A video in its window"), "caption"));
+  fits_ = AddRadios(*rows, "FitOpt", {TrLater("Fills the height of the window"), TrLater("Is seen as a whole")});
   rows->addSpacing(6);
-  barPictures_ = new QCheckBox("Pictures of the video over its bar");
+  barPictures_ = new QCheckBox(tr("Pictures of the video over its bar"));
   barPictures_->setObjectName("BarPicturesCheck");
-  barPictures_->setToolTip("Where the window is high enough");
+  barPictures_->setToolTip(tr("Where the window is high enough"));
   rows->addWidget(barPictures_);
   connect(fits_, &QButtonGroup::idClicked, this, [this](int fit) { StoreAndTell(settings_.VideoFit, fit); });
   connect(barPictures_, &QCheckBox::toggled, this,
@@ -106,8 +109,8 @@ void AnalysisSection::AddShowing() {
 }
 
 void AnalysisSection::AddPlaying() {
-  QVBoxLayout* rows = AddPanel(0, "Slow Motion, Sound, Strobe and Grid");
-  const auto add = [&](const char* name, const char* caption, int least, int most, const char* unit, auto& setting) {
+  QVBoxLayout* rows = AddPanel(0, tr("Slow Motion, Sound, Strobe and Grid"));
+  const auto add = [&](const char* name, const QString& caption, int least, int most, const char* unit, auto& setting) {
     using Number = std::remove_reference_t<decltype(setting)>;
     SettlingSlider* slider = AddSlider(*rows, name, caption, least, most, unit);
     connect(slider, &QSlider::valueChanged, this, [this, &setting](int value) {
@@ -117,17 +120,17 @@ void AnalysisSection::AddPlaying() {
             [this, &setting](int value) { StoreAndTell(setting, static_cast<Number>(value)); });
     return slider;
   };
-  slomo_ = add("Slomoscroll", "Slow motion speed", 1, 100, " %", settings_.SlomoSpeed);
-  volume_ = add("SoundVolumeScroll", "Volume at full speed", 0, 100, " %", settings_.SoundVolume);
-  strobe_ = add("StrobeStepScroll", "Frames from one layer of a strobe to the next", 1, kWidestStrobe, "",
+  slomo_ = add("Slomoscroll", tr("Slow motion speed"), 1, 100, " %", settings_.SlomoSpeed);
+  volume_ = add("SoundVolumeScroll", tr("Volume at full speed"), 0, 100, " %", settings_.SoundVolume);
+  strobe_ = add("StrobeStepScroll", tr("Frames from one layer of a strobe to the next"), 1, kWidestStrobe, "",
                 settings_.StrobeStep);
-  grid_ =
-      add("GridSizeScroll", "Columns of the grid over the picture", kFewestCells, kMostCells, "", settings_.GridSize);
+  grid_ = add("GridSizeScroll", tr("Columns of the grid over the picture"), kFewestCells, kMostCells, "",
+              settings_.GridSize);
 }
 
 void AnalysisSection::AddDrawing() {
-  QVBoxLayout* rows = AddPanel(0, "Lines");
-  rows->addWidget(MakeLabel({}, "Width of drawings", "caption"));
+  QVBoxLayout* rows = AddPanel(0, tr("Lines"));
+  rows->addWidget(MakeLabel({}, tr("Width of drawings"), "caption"));
   auto* grid = new QGridLayout;
   grid->setSpacing(6);
   widths_ = new QButtonGroup(this);
@@ -138,30 +141,31 @@ void AnalysisSection::AddDrawing() {
   }
   rows->addLayout(grid);
   rows->addSpacing(4);
-  outline_ = new QCheckBox("Dark outline around drawings");
+  outline_ = new QCheckBox(tr("Dark outline around drawings"));
   outline_->setObjectName("CadOutlineCheck");
   rows->addWidget(outline_);
   rows->addSpacing(6);
-  rows->addWidget(MakeLabel({}, "Keys and tools", "caption"));
-  keys_ = AddRadios(*rows, "KeysOpt", {"Classic", "Editor"});
+  rows->addWidget(MakeLabel({}, tr("Keys and tools"), "caption"));
+  keys_ = AddRadios(*rows, "KeysOpt", {TrLater("Classic"), TrLater("Editor")});
   keys_->button(kEditorKeys)
       ->setToolTip(
-          "What was drawn is taken at once; a click takes the line under it; soft lines in colors that stand out");
+          tr("What was drawn is taken at once; a click takes the line under it; soft lines in colors that stand out"));
   connect(keys_, &QButtonGroup::idClicked, this, [this](int way) { StoreAndTell(settings_.KeysAndTools, way); });
   connect(widths_, &QButtonGroup::idClicked, this, [this](int width) { StoreAndTell(settings_.CadWidth, width); });
   connect(outline_, &QCheckBox::toggled, this, [this](bool on) { StoreAndTell(settings_.CadOutline, on); });
 }
 
 void AnalysisSection::AddColours() {
-  QVBoxLayout* rows = AddPanel(1, "Colors of the Drawing Tools");
-  colouring_ = AddRadios(*rows, "DCSetupOpt", {"Each tool has its own color", "Random colors, one after the other"});
+  QVBoxLayout* rows = AddPanel(1, tr("Colors of the Drawing Tools"));
+  colouring_ = AddRadios(*rows, "DCSetupOpt",
+                         {TrLater("Each tool has its own color"), TrLater("Random colors, one after the other")});
   rows->addSpacing(6);
   auto* grid = new QGridLayout;
   grid->setSpacing(8);
   int place = 0;
   for (const Tool& tool : kTools) {
-    const QString title = QString("Change %1 Color").arg(tool.caption);
-    auto* button = new ColourButton(QString("NewColor%1").arg(tool.index), tool.caption);
+    const QString title = tr("Change %1 Color").arg(tr(tool.caption));
+    auto* button = new ColourButton(QString("NewColor%1").arg(tool.index), tr(tool.caption));
     button->setToolTip(title);
     connect(button, &QAbstractButton::clicked, this,
             [this, index = tool.index, title] { NewColor_Click(index, title); });
@@ -174,24 +178,26 @@ void AnalysisSection::AddColours() {
 }
 
 void AnalysisSection::AddMeasuring() {
-  QVBoxLayout* rows = AddPanel(1, "Measuring");
-  rows->addWidget(MakeLabel({}, "Standard of the cameras", "caption"));
-  standards_ = AddRadios(*rows, "SSOption2_", {"NTSC, 60 fields a second", "PAL, 50 fields a second"});
+  QVBoxLayout* rows = AddPanel(1, tr("Measuring"));
+  rows->addWidget(MakeLabel({}, tr("Standard of the cameras"), "caption"));
+  standards_ =
+      AddRadios(*rows, "SSOption2_", {TrLater("NTSC, 60 fields a second"), TrLater("PAL, 50 fields a second")});
   rows->addSpacing(6);
-  labels_ = new QCheckBox("Figures beside drawings");
+  labels_ = new QCheckBox(tr("Figures beside drawings"));
   labels_->setObjectName("ShapeLabelsCheck");
   rows->addWidget(labels_);
-  ownRuler_ = new QCheckBox("Each video has a ruler of its own");
+  ownRuler_ = new QCheckBox(tr("Each video has a ruler of its own"));
   ownRuler_->setObjectName("RulerPerVideoCheck");
-  ownRuler_->setToolTip("Without it what was calibrated last measures every video");
+  ownRuler_->setToolTip(tr("Without it what was calibrated last measures every video"));
   rows->addWidget(ownRuler_);
   rows->addSpacing(6);
-  rows->addWidget(MakeLabel({}, "Lines lean", "caption"));
-  angles_ = AddRadios(*rows, "AngleOpt", {"From the level", "From the upright"});
+  rows->addWidget(MakeLabel({}, tr("Lines lean"), "caption"));
+  angles_ = AddRadios(*rows, "AngleOpt", {TrLater("From the level"), TrLater("From the upright")});
   rows->addSpacing(6);
-  rows->addWidget(MakeLabel({}, "Speeds beside paths", "caption"));
+  rows->addWidget(MakeLabel({}, tr("Speeds beside paths"), "caption"));
   speeds_ = AddRadios(*rows, "SpeedOpt",
-                      {"As the ruler has it", "Miles per hour", "Kilometers per hour", "Meters per second"});
+                      {TrLater("As the ruler has it"), TrLater("Miles per hour"), TrLater("Kilometers per hour"),
+                       TrLater("Meters per second")});
   connect(standards_, &QButtonGroup::idClicked, this,
           [this](int standard) { StoreAndTell(settings_.NTSCorPAL, std::to_string(standard)); });
   connect(labels_, &QCheckBox::toggled, this, [this](bool on) { StoreAndTell(settings_.ShapeLabels, on ? 1 : 0); });

@@ -91,7 +91,7 @@ void SchemeButton::PaintSample(QPainter& painter, const QRectF& room) {
 WidthButton::WidthButton(const QString& name, int pixels, QWidget* parent)
     : SampleButton(name, {}, parent), pixels_(pixels) {
   setCheckable(true);
-  setToolTip(pixels == 1 ? QString("1 pixel") : QString("%1 pixels").arg(pixels));
+  setToolTip(pixels == 1 ? tr("1 pixel") : tr("%1 pixels").arg(pixels));
   setAccessibleName(toolTip());
 }
 
@@ -113,7 +113,7 @@ Gauge::Gauge(const QString& name, QWidget* parent) : QProgressBar(parent) {
 void Gauge::Show(const QColor& colour, int percent) {
   colour_ = colour;
   setValue(percent);
-  setAccessibleName(QString("%1 percent").arg(percent));
+  setAccessibleName(tr("%1 percent").arg(percent));
   update();
 }
 

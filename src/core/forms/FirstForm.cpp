@@ -13,6 +13,7 @@
 #include "core/ColorSchemes.h"
 #include "core/MailSettings.h"
 #include "core/Settings.h"
+#include "platform/files/Tr.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
@@ -46,9 +47,9 @@ QButtonGroup* AddChoice(QWidget& form, QVBoxLayout& rows, const QString& name, c
   row->setSpacing(18);
   auto* group = new QButtonGroup(&form);
   for (const auto& [number, words, tip] : choices) {
-    auto* button = new QRadioButton(words);
+    auto* button = new QRadioButton(QObject::tr(words));
     button->setObjectName(QString("%1Opt%2").arg(name).arg(number));
-    button->setToolTip(tip);
+    button->setToolTip(QObject::tr(tip));
     button->setChecked(number == chosen);
     group->addButton(button, number);
     row->addWidget(button);
@@ -63,30 +64,30 @@ QButtonGroup* AddChoice(QWidget& form, QVBoxLayout& rows, const QString& name, c
 FirstForm::FirstForm(Settings& settings, MailSettings& mail, ColorSchemes& schemes, QWidget* over)
     : QDialog(over), settings_(settings), mail_(mail), schemes_(schemes) {
   setObjectName("FirstForm");
-  setWindowTitle("Kinalyx Initial Setup");
+  setWindowTitle(tr("Kinalyx Initial Setup"));
   setModal(true);
   FixWidth(this, 440);
 
   auto* rows = new QVBoxLayout(this);
   rows->setContentsMargins(28, 26, 28, 24);
   rows->setSpacing(5);
-  rows->addWidget(MakeLabel("TitleLbl", "Welcome to Kinalyx", "title"));
+  rows->addWidget(MakeLabel("TitleLbl", tr("Welcome to Kinalyx"), "title"));
   QLabel* words = MakeLabel("IntroLbl",
-                            "Name and company appear on printouts and in your mails. All of this can be changed "
-                            "at any time under Program Setup.",
+                            tr("Name and company appear on printouts and in your mails. All of this can be changed "
+                               "at any time under Program Setup."),
                             "muted");
   words->setWordWrap(true);
   rows->addWidget(words);
   rows->addSpacing(12);
-  name_ = AddBox(*rows, "UserInfo0", "Enter Your Name Here");
-  company_ = AddBox(*rows, "UserInfo1", "Enter Your Company Name Here");
+  name_ = AddBox(*rows, "UserInfo0", tr("Enter Your Name Here"));
+  company_ = AddBox(*rows, "UserInfo1", tr("Enter Your Company Name Here"));
   AddLook(*rows);
   rows->addSpacing(6);
   AddKeys(*rows);
   rows->addSpacing(10);
   auto* actions = new QHBoxLayout;
   actions->addStretch(1);
-  auto* finished = new Button("SSCommand1", "Finished");
+  auto* finished = new Button("SSCommand1", tr("Finished"));
   finished->setDefault(true);
   actions->addWidget(finished);
   rows->addLayout(actions);
@@ -112,18 +113,19 @@ FirstForm::FirstForm(Settings& settings, MailSettings& mail, ColorSchemes& schem
 
 /// A new user begins in the dark room, where the film is the only color.
 void FirstForm::AddLook(QVBoxLayout& rows) {
-  looks_ = AddChoice(*this, rows, "Look", "Look",
-                     {{kDarkRoom, "Dark Room", "Dark: the film is the only color"},
-                      {kBlueWhite, "Blue White", "Light, as it has always been"}},
+  looks_ = AddChoice(*this, rows, "Look", tr("Look"),
+                     {{kDarkRoom, TrLater("Dark Room"), TrLater("Dark: the film is the only color")},
+                      {kBlueWhite, TrLater("Blue White"), TrLater("Light, as it has always been")}},
                      kDarkRoom);
   connect(looks_, &QButtonGroup::idClicked, this, &FirstForm::WearLook);
 }
 
 void FirstForm::AddKeys(QVBoxLayout& rows) {
   const QButtonGroup* ways =
-      AddChoice(*this, rows, "Keys", "Keys and tools",
-                {{kClassicKeys, "Classic", "Keys and drawing tools as they have always been"},
-                 {kEditorKeys, "Editor", "What was drawn is taken at once; soft lines in colors that stand out"}},
+      AddChoice(*this, rows, "Keys", tr("Keys and tools"),
+                {{kClassicKeys, TrLater("Classic"), TrLater("Keys and drawing tools as they have always been")},
+                 {kEditorKeys, TrLater("Editor"),
+                  TrLater("What was drawn is taken at once; soft lines in colors that stand out")}},
                 settings_.KeysAndTools == kEditorKeys ? kEditorKeys : kClassicKeys);
   connect(ways, &QButtonGroup::idClicked, this, [this](int way) { settings_.Set(settings_.KeysAndTools, way); });
 }

@@ -16,6 +16,7 @@
 #include "core/Vocabulary.h"
 #include "core/WindowModes.h"
 #include "core/forms/Choices.h"
+#include "platform/files/Tr.h"
 #include "platform/host/Host.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Figures.h"
@@ -78,11 +79,11 @@ GeneralSection::GeneralSection(IHost& host, Settings& settings, ColorSchemes& sc
 }
 
 void GeneralSection::AddWho() {
-  QVBoxLayout* rows = AddPanel(0, "You and Your Company");
-  name_ = AddText(*rows, "UserNameBox", "Your name");
-  company_ = AddText(*rows, "CompanyNameBox", "Company name");
-  noun_ = AddText(*rows, "Text3", "What you call one person: Student, Golfer, Client ...");
-  noun_->setPlaceholderText("Student");
+  QVBoxLayout* rows = AddPanel(0, tr("You and Your Company"));
+  name_ = AddText(*rows, "UserNameBox", tr("Your name"));
+  company_ = AddText(*rows, "CompanyNameBox", tr("Company name"));
+  noun_ = AddText(*rows, "Text3", tr("What you call one person: Student, Golfer, Client ..."));
+  noun_->setPlaceholderText(tr("Student"));
   connect(name_, &QLineEdit::textChanged, this, [this](const QString& text) { Store(settings_.UserName, Std(text)); });
   connect(company_, &QLineEdit::textChanged, this, [this](const QString& text) {
     if (Store(settings_.CompanyName, Std(text))) emit CompanyChanged(text);
@@ -91,19 +92,20 @@ void GeneralSection::AddWho() {
 }
 
 void GeneralSection::AddWindow() {
-  QVBoxLayout* rows = AddPanel(0, "Window");
+  QVBoxLayout* rows = AddPanel(0, tr("Window"));
   resolution_ = new QComboBox;
   resolution_->setObjectName("cboResolution");
-  resolution_->setAccessibleName("Window mode");
-  for (const WindowModeItem& item : WindowModeItems()) resolution_->addItem(Q(item.text), Q(item.mode));
+  resolution_->setAccessibleName(tr("Window mode"));
+  for (const WindowModeItem& item : WindowModeItems())
+    resolution_->addItem(Q(Tr(std::string(item.text))), Q(item.mode));
   rows->addWidget(resolution_);
-  QLabel* note = MakeLabel({}, "Kinalyx starts anew to change its window.", "caption");
+  QLabel* note = MakeLabel({}, tr("Kinalyx starts anew to change its window."), "caption");
   rows->addWidget(note);
   connect(resolution_, &QComboBox::currentIndexChanged, this, &GeneralSection::cboResolution_Click);
 }
 
 void GeneralSection::AddColours() {
-  QVBoxLayout* rows = AddPanel(1, "Colors");
+  QVBoxLayout* rows = AddPanel(1, tr("Colors"));
   auto* grid = new QGridLayout;
   grid->setSpacing(8);
   designs_ = new QButtonGroup(this);
@@ -111,7 +113,7 @@ void GeneralSection::AddColours() {
   for (const ColorScheme& scheme : ColorSchemes::All()) {
     std::array<QColor, 4> colours;
     for (std::size_t i = 0; i < colours.size(); ++i) colours[i] = ToQColor(scheme.colours[i]);
-    auto* choice = new SchemeButton(QString("optLayout%1").arg(index), Q(scheme.caption), colours);
+    auto* choice = new SchemeButton(QString("optLayout%1").arg(index), Q(Tr(std::string(scheme.caption))), colours);
     choice->setCheckable(true);
     designs_->addButton(choice, index);
     grid->addWidget(choice, index / 2, index % 2);
@@ -122,14 +124,14 @@ void GeneralSection::AddColours() {
 }
 
 void GeneralSection::AddLibrary() {
-  QVBoxLayout* rows = AddPanel(0, "Video Library");
-  network_ = new QCheckBox("Network Server Enabled");
+  QVBoxLayout* rows = AddPanel(0, tr("Video Library"));
+  network_ = new QCheckBox(tr("Network Server Enabled"));
   network_->setObjectName("SSCheck4");
-  network_->setToolTip("Keep the videos in a folder of your choice, for example on a server");
+  network_->setToolTip(tr("Keep the videos in a folder of your choice, for example on a server"));
   rows->addWidget(network_);
   path_ = new PathBox;
   path_->setObjectName("Networktext");
-  QLabel* caption = MakeLabel({}, "Folder of the videos", "caption");
+  QLabel* caption = MakeLabel({}, tr("Folder of the videos"), "caption");
   caption->setBuddy(path_);
   rows->addWidget(caption);
   rows->addWidget(path_);
@@ -137,8 +139,8 @@ void GeneralSection::AddLibrary() {
 }
 
 void GeneralSection::AddSystemTest() {
-  QVBoxLayout* rows = AddPanel(1, "System Test");
-  auto* run = new Button("SystemTestBtn", "Run System Test", "check");
+  QVBoxLayout* rows = AddPanel(1, tr("System Test"));
+  auto* run = new Button("SystemTestBtn", tr("Run System Test"), "check");
   auto* row = new QHBoxLayout;
   row->addWidget(run);
   row->addStretch(1);

@@ -82,10 +82,10 @@ HelpPage::HelpPage(const QString& folder, QWidget* parent) : PageWidget(parent),
   setObjectName("HelpPage");
   auto* rows = new QVBoxLayout(this);
   rows->setContentsMargins(14, 14, 14, 14);
-  auto* panel = new Panel("HelpTitle", "Help Menu");
-  back_ = IconButton("HelpBackBtn", "chevron-left", "Back", Look::Flat);
-  forward_ = IconButton("HelpForwardBtn", "chevron-right", "Forward", Look::Flat);
-  Button* home = IconButton("HelpHomeBtn", "home", "First page", Look::Flat);
+  auto* panel = new Panel("HelpTitle", tr("Help Menu"));
+  back_ = IconButton("HelpBackBtn", "chevron-left", tr("Back"), Look::Flat);
+  forward_ = IconButton("HelpForwardBtn", "chevron-right", tr("Forward"), Look::Flat);
+  Button* home = IconButton("HelpHomeBtn", "home", tr("First page"), Look::Flat);
   for (Button* button : {back_, forward_, home}) {
     FixIcon(button, 16);
     WearSheet(button, "QPushButton { min-height: @26-4; max-height: @26-4; min-width: @30-4; max-width: @30-4; }");
@@ -106,7 +106,7 @@ HelpPage::HelpPage(const QString& folder, QWidget* parent) : PageWidget(parent),
   connect(home, &QPushButton::clicked, this, [this] { Navigate("index.htm"); });
   connect(browser_, &QTextBrowser::sourceChanged, this, [this, panel] {
     const QString title = browser_->documentTitle();
-    panel->SetTitle(title.isEmpty() ? QString("Help Menu") : title);
+    panel->SetTitle(title.isEmpty() ? tr("Help Menu") : title);
   });
   back_->setEnabled(false);
   forward_->setEnabled(false);
@@ -116,7 +116,7 @@ HelpPage::HelpPage(const QString& folder, QWidget* parent) : PageWidget(parent),
 void HelpPage::Navigate(const QString& page) {
   const QString file = folder_ + "/" + page;
   if (!QFileInfo::exists(file)) {
-    browser_->setPlainText("The help pages are missing. They should lie in " + folder_ + ".");
+    browser_->setPlainText(tr("The help pages are missing. They should lie in %1.").arg(folder_));
     return;
   }
   browser_->setSource(QUrl::fromLocalFile(file));

@@ -29,7 +29,7 @@ MenuPage::MenuPage(IHost& host, Settings& settings, QWidget* parent)
 
   auto* rows = new QVBoxLayout(canvas_);
   rows->setContentsMargins(0, 10, 12, 0);
-  setup_ = IconButton("MenuSetupBtn", "palette", "Change the picture or move the heading", Look::Stage);
+  setup_ = IconButton("MenuSetupBtn", "palette", tr("Change the picture or move the heading"), Look::Stage);
   setup_->setProperty("over", "picture");
   rows->addWidget(setup_, 0, Qt::AlignRight);
   rows->addStretch(1);
@@ -68,17 +68,17 @@ void MenuPage::resizeEvent(QResizeEvent* event) {
 void MenuPage::ShowSetupMenu() {
   QMenu menu(this);
   menu.setObjectName("MenuSetup");
-  menu.addAction("Choose Picture", this, [this] {
+  menu.addAction(tr("Choose Picture"), this, [this] {
     if (!ChooseBackground(host_, settings_, &HoldsPicture)) return;
     SetupMenuImage();
     emit MenuChanged();
   });
-  menu.addAction("Move Heading", this, [this] {
+  menu.addAction(tr("Move Heading"), this, [this] {
     NextCaptionPosition(settings_);
     SetupMenuImage();  // tells, too, when the picture has gone meanwhile
     emit MenuChanged();
   });
-  menu.addAction("Default Picture", this, [this] {
+  menu.addAction(tr("Default Picture"), this, [this] {
     ResetBackground(settings_);
     SetupMenuImage();
     emit MenuChanged();

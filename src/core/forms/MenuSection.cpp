@@ -43,12 +43,12 @@ MenuSection::MenuSection(IHost& host, Settings& settings, QWidget* parent)
 }
 
 void MenuSection::AddHeading() {
-  QVBoxLayout* heading = AddPanel(0, "Heading");
-  heading->addWidget(MakeLabel({}, "Five lines over the picture, and on printouts", "caption"));
+  QVBoxLayout* heading = AddPanel(0, tr("Heading"));
+  heading->addWidget(MakeLabel({}, tr("Five lines over the picture, and on printouts"), "caption"));
   for (int i = 0; i < 5; ++i) {
     lines_[i] = new QLineEdit;
     lines_[i]->setObjectName(QString("Printtext%1").arg(i + 1));
-    lines_[i]->setAccessibleName(QString("Heading line %1").arg(i + 1));
+    lines_[i]->setAccessibleName(tr("Heading line %1").arg(i + 1));
     lines_[i]->setMaxLength(149);
     heading->addWidget(lines_[i]);
     connect(lines_[i], &QLineEdit::textChanged, this, [this, i](const QString& text) {
@@ -60,7 +60,7 @@ void MenuSection::AddHeading() {
 }
 
 void MenuSection::AddPicture() {
-  QVBoxLayout* picture = AddPanel(1, "Picture");
+  QVBoxLayout* picture = AddPanel(1, tr("Picture"));
   sample_ = new Sample("MenuSample");
   sample_->SetSample(true);
   QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Preferred);
@@ -70,15 +70,15 @@ void MenuSection::AddPicture() {
   picture->addSpacing(4);
   auto* actions = new QHBoxLayout;
   actions->setSpacing(8);
-  auto* choose = new Button("MenuSetupBtn0", "Choose Picture", "open");
-  auto* move = new Button("MenuSetupBtn1", "Move Heading", "chevron-right", Look::Quiet);
-  move->setToolTip("To the next of ten places");
+  auto* choose = new Button("MenuSetupBtn0", tr("Choose Picture"), "open");
+  auto* move = new Button("MenuSetupBtn1", tr("Move Heading"), "chevron-right", Look::Quiet);
+  move->setToolTip(tr("To the next of ten places"));
   actions->addWidget(choose);
   actions->addWidget(move);
   actions->addStretch(1);
   picture->addLayout(actions);
-  auto* reset = new Button("MenuSetupBtn2", "Default Picture", {}, Look::Quiet);
-  reset->setToolTip("Back to the picture that comes with Kinalyx");
+  auto* reset = new Button("MenuSetupBtn2", tr("Default Picture"), {}, Look::Quiet);
+  reset->setToolTip(tr("Back to the picture that comes with Kinalyx"));
   auto* back = new QHBoxLayout;
   back->addWidget(reset);
   back->addStretch(1);
@@ -89,8 +89,8 @@ void MenuSection::AddPicture() {
 }
 
 void MenuSection::AddLogo() {
-  QVBoxLayout* rows = AddPanel(0, "Logo");
-  UseLogochk_ = new QCheckBox("Print the logo on printouts");
+  QVBoxLayout* rows = AddPanel(0, tr("Logo"));
+  UseLogochk_ = new QCheckBox(tr("Print the logo on printouts"));
   UseLogochk_->setObjectName("UseLogochk");
   rows->addWidget(UseLogochk_);
   logo_ = MakeLabel("LogoPreview", {}, "logo");
@@ -100,13 +100,13 @@ void MenuSection::AddLogo() {
   rows->addSpacing(4);
   auto* row = new QHBoxLayout;
   row->setSpacing(kGap);
-  auto* choose = new Button("SSCommand14", "Choose Logo", "open");
+  auto* choose = new Button("SSCommand14", tr("Choose Logo"), "open");
   logoName_ = MakeLabel("LogoNameLbl", {}, "caption");
   row->addWidget(choose);
   row->addWidget(logoName_, 1);
   rows->addLayout(row);
-  auto* reset = new Button("DefaultLogoBtn", "Default Logo", {}, Look::Quiet);
-  reset->setToolTip("Back to the logo that comes with Kinalyx");
+  auto* reset = new Button("DefaultLogoBtn", tr("Default Logo"), {}, Look::Quiet);
+  reset->setToolTip(tr("Back to the logo that comes with Kinalyx"));
   auto* back = new QHBoxLayout;
   back->addWidget(reset);
   back->addStretch(1);
@@ -131,15 +131,15 @@ void MenuSection::ShowLogo() {
   const std::string place = FolderOf(settings_.LogoName);
   const auto asked = drives.AskAtOnce(place, [path = settings_.LogoName] { return FileIsThere(path); });
   const std::optional<bool> there = asked.value_or(std::nullopt);
-  if (there == false) return logo_->setText("This picture has gone.");
+  if (there == false) return logo_->setText(tr("This picture has gone."));
   const auto read = there ? reader_.Read(drives, settings_.LogoName) : std::nullopt;
   if (!read) {
-    logo_->setText("The drive with this picture is not answering.");
+    logo_->setText(tr("The drive with this picture is not answering."));
     if (drives.Silent(place)) again_ = drives.WhenAnswers(place, [this] { ShowLogo(); });
     return;
   }
   const QImage& picture = *read;
-  if (picture.isNull()) return logo_->setText("There is no picture in this file.");
+  if (picture.isNull()) return logo_->setText(tr("There is no picture in this file."));
   const qreal ratio = devicePixelRatioF();
   const QSize room = (logo_->size() - QSize(12, 12)) * ratio;
   const bool fits = picture.width() <= room.width() && picture.height() <= room.height();

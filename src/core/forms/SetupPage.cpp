@@ -11,6 +11,7 @@
 #include "core/forms/AnalysisSection.h"
 #include "core/forms/GeneralSection.h"
 #include "core/forms/MenuSection.h"
+#include "platform/files/Tr.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
@@ -27,8 +28,8 @@ struct SectionButton {
 };
 
 constexpr SectionButton kSections[] = {
-    {"Main Menu", "home"},   {"Profiles", "students"}, {"Capture", "camera"},
-    {"Analysis", "analyze"}, {"General", "setup"},     {"Internet", "network"},
+    {TrLater("Main Menu"), "home"},   {TrLater("Profiles"), "students"}, {TrLater("Capture"), "camera"},
+    {TrLater("Analysis"), "analyze"}, {TrLater("General"), "setup"},     {TrLater("Internet"), "network"},
 };
 
 }  // namespace
@@ -70,7 +71,7 @@ SetupPage::SetupPage(IHost& host, Settings& settings, ColorSchemes& schemes, QWi
 }
 
 QWidget* SetupPage::MakeSections() {
-  auto* panel = new Panel("SetupSections", "Program Setup");
+  auto* panel = new Panel("SetupSections", tr("Program Setup"));
   FixWidth(panel, 184);
   auto* rows = new QVBoxLayout;
   rows->setContentsMargins(8, 8, 8, 8);
@@ -79,7 +80,7 @@ QWidget* SetupPage::MakeSections() {
   buttons_ = new QButtonGroup(this);
   int index = 0;
   for (const SectionButton& section : kSections) {
-    auto* button = new Button(QString("PSCmd%1").arg(index), section.caption, section.icon, Look::Section);
+    auto* button = new Button(QString("PSCmd%1").arg(index), tr(section.caption), section.icon, Look::Section);
     button->setCheckable(true);
     buttons_->addButton(button, index);
     rows->addWidget(button);

@@ -135,7 +135,7 @@ QButtonGroup* SetupSection::AddRadios(QVBoxLayout& rows, const QString& name,
   QButtonGroup* group = nullptr;
   int index = 0;
   for (const char* caption : captions) {
-    auto* radio = new QRadioButton(caption);
+    auto* radio = new QRadioButton(tr(caption));
     radio->setObjectName(name + QString::number(index));
     if (!group) group = new QButtonGroup(radio);
     group->addButton(radio, index++);

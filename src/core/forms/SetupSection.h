@@ -60,6 +60,7 @@ class SetupSection : public QScrollArea {
   static SettlingSlider* AddSlider(QVBoxLayout& rows, const QString& name, const QString& caption, int low, int high,
                                    const QString& unit);
   /// Radio buttons named `name` and the number.
+  /// @param captions  marked by TrLater
   static QButtonGroup* AddRadios(QVBoxLayout& rows, const QString& name, std::initializer_list<const char*> captions);
 
   /// Sliders and lists are passed over by the wheel: it turns the page, and must not change what happens to

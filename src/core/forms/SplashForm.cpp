@@ -33,9 +33,9 @@ SplashForm::SplashForm(const QString& version, QWidget* parent)
   const QColor soft = Readable(Mix(theme.accentText, theme.accent, 0.2), theme.accent);
   rows->addStretch(1);
   add("ProductLbl", "Kinalyx", 46, 700, theme.accentText);
-  add("SubtitleLbl", "Motion Analysis", 20, 300, soft);
+  add("SubtitleLbl", tr("Motion Analysis"), 20, 300, soft);
   rows->addStretch(2);
-  add("Label1", "Software Version " + version, 12, 400, soft);
+  add("Label1", tr("Software Version %1").arg(version), 12, 400, soft);
 }
 
 void SplashForm::Appear(IHost& host) {

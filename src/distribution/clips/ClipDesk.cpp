@@ -8,6 +8,7 @@
 
 #include "library/LibraryTree.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/host/DriveWatch.h"
 #include "workspace/AnalysisWorkspace.h"
 
@@ -75,16 +76,16 @@ std::vector<ClipMoment> ClipDesk::Moments(AnalysisWorkspace& analysis) {
   for (const VideoMark& mark : stage.Current().data.Study.Marks) {
     const int position = mark.Moment.Position(player.SplitFields());
     if (position > last) continue;
-    const std::string name = mark.Name.empty() ? "Mark" : mark.Name;
+    const std::string name = mark.Name.empty() ? Tr("Mark") : mark.Name;
     moments.push_back({position, fmt::format("{}, {}", name, Seconds(analysis, slot, position))});
   }
-  moments.push_back({player.Position(), fmt::format("Shown now, {}", Seconds(analysis, slot, player.Position()))});
+  moments.push_back({player.Position(), Tr("Shown now, {}", Seconds(analysis, slot, player.Position()))});
   const AVIControl::Range range = player.PlayRange();
-  if (range.first > 0) moments.push_back({range.first, "Beginning of the range"});
-  if (range.last < last) moments.push_back({range.last, "End of the range"});
+  if (range.first > 0) moments.push_back({range.first, Tr("Beginning of the range")});
+  if (range.last < last) moments.push_back({range.last, Tr("End of the range")});
   std::ranges::stable_sort(moments, {}, &ClipMoment::Position);
-  moments.insert(moments.begin(), {0, "Beginning"});
-  moments.push_back({last, "End"});
+  moments.insert(moments.begin(), {0, Tr("Beginning")});
+  moments.push_back({last, Tr("End")});
   return moments;
 }
 
@@ -167,26 +168,26 @@ Outcome ClipDesk::Save(AnalysisWorkspace& analysis, const ClipWish& wish) {
   ClipWish taken = wish;
   taken.Name = std::string(WithoutOuterBlanks(wish.Name));
   if (!IsValidName(taken.Name) || IsBlank(taken.Name))
-    return Outcome(Fault::Refused, "Invalid Character in name. Please try again.");
+    return Outcome(Fault::Refused, Tr("Invalid Character in name. Please try again."));
   ClipOrder order = OrderOf(analysis, taken);
-  if (order.Scene.Videos.empty()) return Outcome(Fault::Refused, "Open a video first.");
+  if (order.Scene.Videos.empty()) return Outcome(Fault::Refused, Tr("Open a video first."));
   const auto isItself = [&](const SceneVideo& video) {
     std::error_code ignored;
     return video.Path == order.Path || fs::equivalent(video.Path, order.Path, ignored);
   };
   if (std::ranges::any_of(order.Scene.Videos, isItself))
-    return Outcome(Fault::Refused, "The clip would replace its own video. Choose another name.");
+    return Outcome(Fault::Refused, Tr("The clip would replace its own video. Choose another name."));
   if (!host_.Drives().Answers(FolderOf(taken.Folder)))
-    return Outcome(Fault::Unwritable, "The drive does not answer. Choose another folder.");
+    return Outcome(Fault::Unwritable, Tr("The drive does not answer. Choose another folder."));
   const auto same = [&](const ClipOrder& other) { return other.Path == order.Path; };
   if (std::ranges::any_of(waiting_, same) || (Busy() && current_ == order.Path))
-    return Outcome(Fault::Refused, "A clip of this name is being written.");
+    return Outcome(Fault::Refused, Tr("A clip of this name is being written."));
   if (EntryExists(order.Path) &&
-      !host_.Question("", fmt::format("\"{}\" is there already. Do you want to replace it?", FileNameOf(order.Path))))
+      !host_.Question("", Tr("\"{}\" is there already. Do you want to replace it?", FileNameOf(order.Path))))
     return Outcome(Fault::Cancelled, "");
   std::error_code failed;
   fs::create_directories(taken.Folder, failed);
-  if (failed) return Outcome(Fault::Unwritable, "The folder cannot be made: " + failed.message() + ".");
+  if (failed) return Outcome(Fault::Unwritable, Tr("The folder cannot be made: {}.", failed.message()));
   last_ = taken;
   last_.Voice.clear();
   waiting_.push_back(std::move(order));
@@ -210,8 +211,8 @@ void ClipDesk::Over(const ClipJob* job) {
   } else if (job->Outcome()) {
     events_.ClipSaved(path);
   } else {
-    host_.Note(MessageKind::Warning, "A clip was not written: " + job->Outcome().Why());
-    events_.ClipFailed(fmt::format("\"{}\" was not saved. {}", FileNameOf(path), job->Outcome().Why()));
+    host_.Note(MessageKind::Warning, fmt::format("A clip was not written: {}", job->Outcome().Why()));
+    events_.ClipFailed(Tr("\"{}\" was not saved. {}", FileNameOf(path), job->Outcome().Why()));
   }
   Next();
 }

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "distribution/clips/CardPainter.h"
+#include "platform/files/Tr.h"
 #include "platform/paint/Blend.h"
 #include "workspace/compare/PictureExport.h"
 
@@ -62,10 +63,11 @@ Result<Surface> PictureOf(const ClipScene& scene, int width, int height) {
   auto painter = ScenePainter::Open(scene, {});
   if (!painter) return painter.Failure();
   Surface picture(width, height);
-  if (picture.Empty()) return Outcome::Failed("The picture is too large.");
+  if (picture.Empty()) return Outcome::Failed(Tr("The picture is too large."));
   std::vector<int> positions;
   for (const SceneVideo& video : scene.Videos) positions.push_back(video.Position);
-  if (!(*painter)->Paint(positions, picture)) return Outcome::Failed("The picture could not be read from its file.");
+  if (!(*painter)->Paint(positions, picture))
+    return Outcome::Failed(Tr("The picture could not be read from its file."));
   return picture;
 }
 
@@ -83,7 +85,7 @@ bool ClipJob::Finish(kinalyx::Outcome outcome) {
 }
 
 void ClipJob::Cancel() {
-  if (!over_) Finish(kinalyx::Outcome(Fault::Cancelled, "It was cancelled."));
+  if (!over_) Finish(kinalyx::Outcome(Fault::Cancelled, Tr("It was cancelled.")));
 }
 
 JobProgress ClipJob::Progress() const {
@@ -114,13 +116,13 @@ kinalyx::Outcome ClipJob::Begin() {
   auto painter = ScenePainter::Open(order_.Scene, order_.Words);
   if (!painter) return painter.Failure();
   plan_ = PlanClip(order_.Scene, (*painter)->Times(), order_.Stretch);
-  if (plan_.Frames.empty()) return kinalyx::Outcome::Failed("There is no picture to show.");
+  if (plan_.Frames.empty()) return kinalyx::Outcome::Failed(Tr("There is no picture to show."));
   // Its colours are chosen when all of its pictures are known, and until then they wait in memory.
   if (order_.Makes == ClipOrder::Kind::Gif && plan_.EndMs > kLongestLoopMs)
     return kinalyx::Outcome::Failed(
-        "A loop lasts half a minute at the most. Choose a shorter stretch, or an MP4 video.");
+        Tr("A loop lasts half a minute at the most. Choose a shorter stretch, or an MP4 video."));
   picture_ = Surface(order_.Width, order_.Height);
-  if (picture_.Empty()) return kinalyx::Outcome::Failed("The pictures would be too large.");
+  if (picture_.Empty()) return kinalyx::Outcome::Failed(Tr("The pictures would be too large."));
   painter_ = std::move(*painter);
   if (order_.Makes == ClipOrder::Kind::Row) {
     // As many as are wanted, evenly.
@@ -132,7 +134,7 @@ kinalyx::Outcome ClipJob::Begin() {
     }
     plan_.Frames = std::move(chosen);
     row_ = Surface(order_.Width * static_cast<int>(plan_.Frames.size()), order_.Height);
-    return row_.Empty() ? kinalyx::Outcome::Failed("The pictures would be too large.") : kinalyx::Outcome();
+    return row_.Empty() ? kinalyx::Outcome::Failed(Tr("The pictures would be too large.")) : kinalyx::Outcome();
   }
   ClipFormat format;
   format.kind = order_.Makes == ClipOrder::Kind::Gif ? ClipFormat::Kind::Gif : ClipFormat::Kind::Mp4;
@@ -152,7 +154,7 @@ kinalyx::Outcome ClipJob::WriteNext() {
   const ClipFrame& frame = plan_.Frames[next_];
   // A damaged picture leaves the one before standing.
   if (!painter_->Paint(frame.Positions, picture_) && ++unread_ > kMostUnread)
-    return kinalyx::Outcome::Failed("The pictures cannot be read: the video has gone, or it is damaged.");
+    return kinalyx::Outcome::Failed(Tr("The pictures cannot be read: the video has gone, or it is damaged."));
   if (order_.Makes == ClipOrder::Kind::Row) {
     CopyPart(picture_, 0, 0, picture_.Width(), picture_.Height(), row_, static_cast<int>(next_) * picture_.Width(), 0);
     ++next_;

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "distribution/clips/WordPlates.h"
+#include "platform/files/Tr.h"
 #include "platform/paint/Blend.h"
 #include "workspace/transport/VideoTimer.h"
 
@@ -20,11 +21,11 @@ constexpr int kMostRun = 8;  // positions from one picture of a clip to the next
 }  // namespace
 
 Result<std::unique_ptr<ScenePainter>> ScenePainter::Open(const ClipScene& scene, const SceneWords& words) {
-  if (scene.Videos.empty()) return Outcome::Failed("There is no video to show.");
+  if (scene.Videos.empty()) return Outcome::Failed(Tr("There is no video to show."));
   std::unique_ptr<ScenePainter> painter(new ScenePainter(scene, words));
   for (const SceneVideo& video : scene.Videos) {
     auto source = FilmSource::Open(video);
-    if (!source) return Outcome(source.Kind(), "\"" + video.Name + "\" cannot be opened any more.");
+    if (!source) return Outcome(source.Kind(), Tr("\"{}\" cannot be opened any more.", video.Name));
     painter->sources_.push_back(std::move(*source));
   }
   return painter;

@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "platform/files/Tr.h"
+
 namespace kinalyx {
 namespace {
 
@@ -20,16 +22,16 @@ std::string Megabytes(std::int64_t bytes) {
 
 const char* StateText(DriveState state) {
   switch (state) {
-    case DriveState::Idle: return "IDLE";
-    case DriveState::Writing: return "WRITING";
-    case DriveState::Erasing: return "ERASING";
-    case DriveState::Formatting: return "BACKGROUND FORMAT";
-    case DriveState::ClosingTrack: return "CLOSING TRACK";
-    case DriveState::Preparing: return "PREPARING";
-    case DriveState::AbortingByUser: return "ABORTING (USER)";
-    case DriveState::ImportingSession: return "IMPORTING SESSION";
-    case DriveState::AbortingByError: return "ABORTING (BURN ERROR)";
-    case DriveState::Checking: return "CHECKING";
+    case DriveState::Idle: return TrLater("IDLE");
+    case DriveState::Writing: return TrLater("WRITING");
+    case DriveState::Erasing: return TrLater("ERASING");
+    case DriveState::Formatting: return TrLater("BACKGROUND FORMAT");
+    case DriveState::ClosingTrack: return TrLater("CLOSING TRACK");
+    case DriveState::Preparing: return TrLater("PREPARING");
+    case DriveState::AbortingByUser: return TrLater("ABORTING (USER)");
+    case DriveState::ImportingSession: return TrLater("IMPORTING SESSION");
+    case DriveState::AbortingByError: return TrLater("ABORTING (BURN ERROR)");
+    case DriveState::Checking: return TrLater("CHECKING");
   }
   return "";
 }

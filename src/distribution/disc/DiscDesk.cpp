@@ -7,6 +7,7 @@
 #include "distribution/send/FilesToSend.h"
 #include "library/LibraryTree.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/host/DriveWatch.h"
 
 namespace kinalyx {
@@ -78,7 +79,7 @@ void DiscDesk::Open() {
   const std::string before = chosen_ >= 0 ? drives_[static_cast<std::size_t>(chosen_)].Address : settings_.CDBurner;
   drives_ = machine_.List();
   if (const std::string image = ImageOfAddress(before); !image.empty())
-    drives_.push_back({before, LastName(image) + " (image file)"});
+    drives_.push_back({before, Tr("{} (image file)", LastName(image))});
   chosen_ = drives_.empty() ? -1 : 0;
   for (std::size_t i = 0; i < drives_.size(); ++i)
     if (drives_[i].Address == before) chosen_ = static_cast<int>(i);
@@ -95,7 +96,7 @@ void DiscDesk::Choose(int index) {
 void DiscDesk::ChooseImage(const std::string& path) {
   const std::string address = AddressOfImage(path);
   std::erase_if(drives_, [](const DriveName& drive) { return !ImageOfAddress(drive.Address).empty(); });
-  drives_.push_back({address, LastName(path) + " (image file)"});
+  drives_.push_back({address, Tr("{} (image file)", LastName(path))});
   chosen_ = static_cast<int>(drives_.size()) - 1;
   Keep();
   Look();
@@ -112,7 +113,7 @@ std::unique_ptr<IDiscDrive> DiscDesk::Drive() const {
 }
 
 void DiscDesk::Eject() {
-  if (!Image().empty()) return events_.DriveTold("", "An image file has no tray.");
+  if (!Image().empty()) return events_.DriveTold("", Tr("An image file has no tray."));
   Ask(Wants::Eject);
 }
 
@@ -129,7 +130,7 @@ void DiscDesk::Ask(Wants wants) {
     runner_.Start(std::make_unique<Visit>(std::move(drive), wants), std::make_unique<VisitEnd>(*this, wants));
     patience_ = HostTimer(host_, kPatienceMs, false, [this] { GiveUp(); });
   } else if (wants != Wants::Look) {
-    events_.DriveTold("Drive Not Ready", "There is no drive for discs in this computer.");
+    events_.DriveTold(Tr("Drive Not Ready"), Tr("There is no drive for discs in this computer."));
   }
   events_.DriveChanged();
 }
@@ -144,17 +145,17 @@ void DiscDesk::Over(Wants wants, const Visit* visit) {
   const bool same = chosen_ >= 0 && drives_[static_cast<std::size_t>(chosen_)].Address == asked_;
   const bool silent = !visit || visit->how.Kind() == Fault::Cancelled;
   if (same) {
-    if (silent) why_ = "The drive does not answer.";
+    if (silent) why_ = Tr("The drive does not answer.");
     else if (!visit->how) why_ = visit->how.Why();
     else if (wants != Wants::Eject) report_ = visit->report;
   }
   if (wants == Wants::Eject) {
-    events_.DriveTold("", why_.empty() ? "CD Drive Ejected" : why_);
+    events_.DriveTold("", why_.empty() ? Tr("CD Drive Ejected") : why_);
   } else if (wants == Wants::Test && same) {
-    if (report_ && report_->Ready()) events_.DriveTold("", "Drive is ready");
+    if (report_ && report_->Ready()) events_.DriveTold("", Tr("Drive is ready"));
     else
-      events_.DriveTold("Drive Not Ready",
-                        "Drive is not ready...Insert a CD and test again." + (Words().empty() ? "" : "\n\n" + Words()));
+      events_.DriveTold(Tr("Drive Not Ready"), Tr("Drive is not ready...Insert a CD and test again.{}",
+                                                  (Words().empty() ? "" : "\n\n" + Words())));
   }
   if (const auto next = std::exchange(next_, std::nullopt)) Ask(*next);
   else if (!same) Look();
@@ -162,8 +163,8 @@ void DiscDesk::Over(Wants wants, const Visit* visit) {
 }
 
 std::string DiscDesk::DriveStatus() const {
-  if (chosen_ < 0 || (!report_ && why_.empty())) return "Unknown";
-  return report_ && report_->Ready() ? "Drive is Ready" : "Drive is NOT Ready";
+  if (chosen_ < 0 || (!report_ && why_.empty())) return Tr("Unknown");
+  return report_ && report_->Ready() ? Tr("Drive is Ready") : Tr("Drive is NOT Ready");
 }
 
 std::string DiscDesk::SpaceOnCd() const {
@@ -171,18 +172,19 @@ std::string DiscDesk::SpaceOnCd() const {
 }
 
 std::string DiscDesk::Words() const {
-  if (chosen_ < 0) return "There is no drive for discs in this computer. An image file or a stick serve as well.";
-  if (runner_.Busy()) return "Asking the drive...";
+  if (chosen_ < 0) return Tr("There is no drive for discs in this computer. An image file or a stick serve as well.");
+  if (runner_.Busy()) return Tr("Asking the drive...");
   if (!why_.empty()) return why_;
   if (!report_) return {};
   const std::string kind = report_->Kind.empty() ? "" : report_->Kind + ": ";
   switch (report_->Medium) {
-    case Medium::None: return "There is no disc in the drive.";
-    case Medium::Blank: return Image().empty() ? kind + "empty." : "A file that can be burnt, mounted or sent later.";
-    case Medium::Used: return kind + "holds something already, and can be erased.";
+    case Medium::None: return Tr("There is no disc in the drive.");
+    case Medium::Blank:
+      return Image().empty() ? Tr("{}empty.", kind) : Tr("A file that can be burnt, mounted or sent later.");
+    case Medium::Used: return Tr("{}holds something already, and can be erased.", kind);
     case Medium::Appendable:
-    case Medium::Closed: return kind + "has been written already and cannot be erased.";
-    case Medium::Unsuitable: return "The drive cannot write this kind of disc.";
+    case Medium::Closed: return Tr("{}has been written already and cannot be erased.", kind);
+    case Medium::Unsuitable: return Tr("The drive cannot write this kind of disc.");
   }
   return {};
 }

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 
@@ -20,11 +21,11 @@ bool DiscJob::End(Outcome how) {
   run_.reset();
   maker_.reset();
   if (how_) {
-    board_->Say(">>> Burn Complete!");
+    board_->Say(Tr(">>> Burn Complete!"));
   } else if (how_.Kind() == Fault::Cancelled) {
-    board_->Say(written_ ? ">>> " + how_.Why() : ">>> BURN CANCELLED");
+    board_->Say(written_ ? ">>> " + how_.Why() : Tr(">>> BURN CANCELLED"));
   } else {
-    board_->Say((begun_ ? ">>> Burn Failed " : ">>> BURN CD FAILED ") + how_.Why());
+    board_->Say(begun_ ? Tr(">>> Burn Failed {}", how_.Why()) : Tr(">>> BURN CD FAILED {}", how_.Why()));
   }
   board_->SetState(DriveState::Idle);
   return false;
@@ -42,11 +43,11 @@ bool DiscJob::BeginBurn() {
   const DiscPlan& plan = maker_->Plan();
   DiscTree tree{.Label = order_.Label, .Folders = plan.Folders, .Files = {}};
   for (const DiscFile& file : maker_->Files()) {
-    board_->Say(">>> Adding File " + LastName(file.To));
+    board_->Say(Tr(">>> Adding File {}", LastName(file.To)));
     tree.Files.push_back({file.From, file.To});
   }
   run_ = drive_->Burn(tree, wish_);
-  board_->Say(">>> CD Burn Started");
+  board_->Say(Tr(">>> CD Burn Started"));
   return true;
 }
 
@@ -55,7 +56,7 @@ bool DiscJob::BurnOn() {
   const bool goesOn = run_->Step();
   const DriveState state = run_->State();
   if (state == DriveState::Writing && run_->BytesDone() > 0) begun_ = true;
-  if (state == DriveState::Checking && !std::exchange(checking_, true)) board_->Say(">>> Checking the disc");
+  if (state == DriveState::Checking && !std::exchange(checking_, true)) board_->Say(Tr(">>> Checking the disc"));
   board_->SetState(state);
   board_->SetBytes(run_->BytesDone(), run_->BytesTotal());
   if (goesOn) return true;
@@ -72,7 +73,7 @@ void DiscJob::Cancel() {
     while (run_->Step()) {
     }
   }
-  End(Outcome(Fault::Cancelled, "It was cancelled."));
+  End(Outcome(Fault::Cancelled, Tr("It was cancelled.")));
 }
 
 JobProgress DiscJob::Progress() const {

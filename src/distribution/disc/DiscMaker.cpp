@@ -9,6 +9,7 @@
 #include "platform/files/FileStore.h"
 #include "platform/files/Folders.h"
 #include "platform/files/PartFiles.h"
+#include "platform/files/Tr.h"
 #include "platform/media/VideoFile.h"
 
 namespace kinalyx {
@@ -54,7 +55,7 @@ bool DiscMaker::End(Outcome how) {
 
 bool DiscMaker::Step() {
   if (over_) return false;
-  if (board_.StopWanted()) return End(Outcome(Fault::Cancelled, "It was cancelled."));
+  if (board_.StopWanted()) return End(Outcome(Fault::Cancelled, Tr("It was cancelled.")));
   if (!planned_) return Begin();
   if (clip_ || plain_) return Mp4On();
   while (next_ < plan_.Videos.size()) {
@@ -74,7 +75,7 @@ bool DiscMaker::Begin() {
   if (plan_.Page.empty()) return true;
   const std::string folder = PartNameBeside(JoinPath(order_.WorkFolder, "Disc"));
   if (!MakeFolder(order_.WorkFolder) || !MakeFolder(folder))
-    return End(Outcome(Fault::Unwritable, "The folder for what is made on the way could not be made."));
+    return End(Outcome(Fault::Unwritable, Tr("The folder for what is made on the way could not be made.")));
   RemoveDeadParts(order_.WorkFolder);  // of a program that was killed
   folder_ = folder;
   return true;
@@ -82,7 +83,7 @@ bool DiscMaker::Begin() {
 
 bool DiscMaker::BeginMp4() {
   const DiscVideo& video = plan_.Videos[next_];
-  board_.Say(">>> Making MP4 of " + LastName(video.To));
+  board_.Say(Tr(">>> Making MP4 of {}", LastName(video.To)));
   making_ = JoinPath(folder_, std::to_string(next_) + ".mp4");
   auto scene = SceneOfFile(video.From, order_.Look);
   if (!scene) return Mp4Done(scene.Failure());
@@ -123,9 +124,9 @@ bool DiscMaker::Mp4Done(const Outcome& how) {
   }
   // No room is no fault of the video, and the next one would find none either.
   if (FreeBytes(order_.WorkFolder) < (std::int64_t{64} << 20))
-    return End(Outcome(Fault::Unwritable, "There is too little room for what is made on the way: " + how.Why()));
+    return End(Outcome(Fault::Unwritable, Tr("There is too little room for what is made on the way: {}", how.Why())));
   // The video goes along as it is; the page leaves it out.
-  board_.Say(">>> \"" + video.Title + "\" will not be on the page: " + how.Why());
+  board_.Say(Tr(">>> \"{}\" will not be on the page: {}", video.Title, how.Why()));
   video.Mp4.clear();
   frameSeconds_.push_back(0);
   return true;
@@ -145,7 +146,7 @@ bool DiscMaker::WritePage() {
                            .title = video.Title,
                            .date = order_.Today,
                            .frameSeconds = frameSeconds_[i],
-                           .group = video.Lesson ? kLessonsOnDisc : kVideosOnDisc});
+                           .group = Tr(video.Lesson ? kLessonsOnDisc : kVideosOnDisc)});
   }
   if (page.videos.empty()) return End({});
   const std::string path = JoinPath(folder_, "index.html");

@@ -10,6 +10,7 @@
 #include "library/Study.h"
 #include "library/VideoNames.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/media/VideoFile.h"
 
 namespace kinalyx {
@@ -64,7 +65,7 @@ Result<DiscPlan> PlanOrder(const DiscOrder& order) {
   std::vector<DiscVideoSource> videos;
   for (const FileToSend& file : order.Files) {
     const auto bytes = FileSize(file.path);
-    if (!bytes) return Outcome(Fault::NotFound, "\"" + file.Name() + "\" could not be found.");
+    if (!bytes) return Outcome(Fault::NotFound, Tr("\"{}\" could not be found.", file.Name()));
     DiscVideoSource video{.File = file, .Bytes = *bytes, .Companions = {}, .PlaysItself = false};
     for (const std::string& beside : {SidecarPath(file.path), StudyPath(file.path)})
       if (const auto length = FileSize(beside)) video.Companions.push_back({beside, *length});

@@ -5,11 +5,13 @@
 #include <vector>
 
 #include "distribution/send/FilesToSend.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 
-inline constexpr const char* kLessonsOnDisc = "Lessons";
-inline constexpr const char* kVideosOnDisc = "Videos";
+/// Names of folders; the page, which has headings like them, says them in the user's language.
+inline constexpr const char* kLessonsOnDisc = TrLater("Lessons");
+inline constexpr const char* kVideosOnDisc = TrLater("Videos");
 inline constexpr const char* kMp4OnDisc = "MP4";
 inline constexpr const char* kPageOnDisc = "index.html";
 

@@ -8,6 +8,7 @@
 #include "distribution/send/FilesToSend.h"
 #include "platform/files/Folders.h"
 #include "platform/files/PartFiles.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 namespace {
@@ -45,14 +46,14 @@ bool FolderJob::End(Outcome how) {
   replacements_.clear();
   maker_.reset();
   board_->SetState(DriveState::Idle);
-  if (how_) board_->Say(">>> Copy Complete!");
-  else if (how_.Kind() == Fault::Cancelled) board_->Say(">>> COPY CANCELLED");
-  else if (existing_.empty()) board_->Say(">>> Copy Failed " + how_.Why());
+  if (how_) board_->Say(Tr(">>> Copy Complete!"));
+  else if (how_.Kind() == Fault::Cancelled) board_->Say(Tr(">>> COPY CANCELLED"));
+  else if (existing_.empty()) board_->Say(Tr(">>> Copy Failed {}", how_.Why()));
   return false;
 }
 
 void FolderJob::Cancel() {
-  if (!over_) End(Outcome(Fault::Cancelled, "It was cancelled."));
+  if (!over_) End(Outcome(Fault::Cancelled, Tr("It was cancelled.")));
 }
 
 JobProgress FolderJob::Progress() const {
@@ -79,15 +80,15 @@ bool FolderJob::Step() {
 
 /// Once it is known what will lie where, and before anything is made that takes long.
 Outcome FolderJob::LookAtTarget() {
-  if (!dirExists(folder_)) return Outcome(Fault::NotFound, "The folder is not there any more.");
+  if (!dirExists(folder_)) return Outcome(Fault::NotFound, Tr("The folder is not there any more."));
   if (!limits_) limits_ = LimitsOf(folder_);
   const DiscPlan& plan = maker_->Plan();
   std::vector<std::string> places;
   for (const DiscFile& file : plan.Files) {
     if (limits_->MostBytes > 0 && file.Bytes > limits_->MostBytes)
-      return Outcome(Fault::Refused, "\"" + LastName(file.To) + "\" is larger than 4 GB, and a stick with " +
-                                         limits_->Kind +
-                                         " takes no such file. Format the stick as exFAT, or shorten the video.");
+      return Outcome(Fault::Refused, Tr("\"{}\" is larger than 4 GB, and a stick with {} takes no such file. Format "
+                                        "the stick as exFAT, or shorten the video.",
+                                        LastName(file.To), limits_->Kind));
     places.push_back(file.To);
   }
   for (const DiscVideo& video : plan.Videos)
@@ -96,18 +97,18 @@ Outcome FolderJob::LookAtTarget() {
   // A file that stands where a folder must be is never taken for something that may go.
   for (const std::string& name : plan.Folders)
     if (EntryExists(JoinPath(folder_, name)) && !dirExists(JoinPath(folder_, name)))
-      return Outcome(Fault::Refused, "There is a file named \"" + name + "\" where a folder must be.");
+      return Outcome(Fault::Refused, Tr("There is a file named \"{}\" where a folder must be.", name));
   for (const std::string& place : places) {
     const std::string path = JoinPath(folder_, place);
     if (dirExists(path))
-      return Outcome(Fault::Refused, "There is a folder named \"" + LastName(path) + "\" where a file must be.");
+      return Outcome(Fault::Refused, Tr("There is a folder named \"{}\" where a file must be.", LastName(path)));
     if (EntryExists(path)) existing_.push_back(place);
   }
-  if (!existing_.empty() && !replace_) return Outcome(Fault::Refused, "There are files of these names already.");
+  if (!existing_.empty() && !replace_) return Outcome(Fault::Refused, Tr("There are files of these names already."));
   existing_.clear();
   if (const std::int64_t room = FreeBytes(folder_); room >= 0 && room < plan.Bytes())
     return Outcome(Fault::Unwritable,
-                   "There is too little room: " + MegabytesText(room) + " of " + MegabytesText(plan.Bytes()) + ".");
+                   Tr("There is too little room: {} of {}.", MegabytesText(room), MegabytesText(plan.Bytes())));
   return {};
 }
 
@@ -117,18 +118,18 @@ bool FolderJob::BeginCopy() {
   CopyUnit unit;
   for (const DiscFile& file : maker_->Files()) {
     if (limits_->MostBytes > 0 && file.Bytes > limits_->MostBytes)
-      return End(Outcome(Fault::Refused, "\"" + LastName(file.To) +
-                                             "\" has become larger than 4 GB, and a stick with " + limits_->Kind +
-                                             " takes no such file."));
+      return End(
+          Outcome(Fault::Refused, Tr("\"{}\" has become larger than 4 GB, and a stick with {} takes no such file.",
+                                     LastName(file.To), limits_->Kind)));
     std::string to = JoinPath(folder_, file.To);
     if (EntryExists(to)) {
       replacements_.push_back({PartNameBeside(to), to});
       to = replacements_.back().part;
     }
-    board_->Say(">>> Adding File " + LastName(file.To));
+    board_->Say(Tr(">>> Adding File {}", LastName(file.To)));
     unit.push_back({.from = file.From, .to = std::move(to)});
   }
-  board_->Say(">>> Copying Started");
+  board_->Say(Tr(">>> Copying Started"));
   board_->SetState(DriveState::Writing);
   std::vector<CopyUnit> units;
   if (!unit.empty()) units.push_back(std::move(unit));
@@ -142,7 +143,7 @@ bool FolderJob::CopyOn() {
   board_->SetBytes(progress.bytesDone, progress.bytesTotal);
   if (state == CopyJob::State::Running) return true;
   if (state != CopyJob::State::Done) {
-    return End(state == CopyJob::State::Cancelled ? Outcome(Fault::Cancelled, "It was cancelled.")
+    return End(state == CopyJob::State::Cancelled ? Outcome(Fault::Cancelled, Tr("It was cancelled."))
                                                   : Outcome(Fault::Unwritable, copy_->Error()));
   }
   copy_.reset();
@@ -153,17 +154,18 @@ bool FolderJob::CopyOn() {
 Outcome FolderJob::Replace() {
   for (auto file = replacements_.begin(); file != replacements_.end();) {
     if (disk_.Rename(file->part, file->to) < 0)
-      return Outcome(Fault::Unwritable, "\"" + LastName(file->to) +
-                                            "\" could not be replaced. The folder holds old and new files now: please "
-                                            "copy again.");
+      return Outcome(Fault::Unwritable,
+                     Tr("\"{}\" could not be replaced. The folder holds old and new files now: please copy again.",
+                        LastName(file->to)));
     file = replacements_.erase(file);
   }
   for (const std::string& name : maker_->Plan().Folders) {
     const std::string folder = JoinPath(folder_, name);
-    if (!MakeFolder(folder)) return Outcome(Fault::Unwritable, "\"" + name + "\" could not be made there.");
+    if (!MakeFolder(folder)) return Outcome(Fault::Unwritable, Tr("\"{}\" could not be made there.", name));
     disk_.FlushFolder(folder);
   }
-  if (disk_.FlushFolder(folder_) < 0) return Outcome(Fault::Unwritable, "The drive did not keep what it was given.");
+  if (disk_.FlushFolder(folder_) < 0)
+    return Outcome(Fault::Unwritable, Tr("The drive did not keep what it was given."));
   return {};
 }
 

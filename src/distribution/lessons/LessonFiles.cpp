@@ -9,6 +9,7 @@
 
 #include "platform/files/Folders.h"
 #include "platform/files/IniFile.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 namespace {
@@ -33,7 +34,7 @@ bool Remove(const std::string& path) {
 
 Result<std::string> LessonFiles::Begin(const std::string& instructor, const std::string& student) {
   lock_.reset();
-  if (!MakeFolder(folder_)) return Outcome::Failed("The folder " + folder_ + " cannot be made.");
+  if (!MakeFolder(folder_)) return Outcome::Failed(Tr("The folder {} cannot be made.", folder_));
   for (int number = 1; number <= kNames; ++number) {
     const std::string path = JoinPath(folder_, fmt::format("lesson {}{}", number, kEnding));
     if (EntryExists(path)) continue;
@@ -46,23 +47,23 @@ Result<std::string> LessonFiles::Begin(const std::string& instructor, const std:
     lock_ = std::move(lock);
     return path;
   }
-  return Outcome::Failed("There are too many unfinished lessons in " + folder_ + ".");
+  return Outcome::Failed(Tr("There are too many unfinished lessons in {}.", folder_));
 }
 
 Outcome LessonFiles::TakeUp(const RecordedLesson& lesson) {
   lock_.reset();
   auto lock = std::make_unique<FileLock>(lesson.path, 0);
-  if (lock->Busy()) return {Fault::Refused, "Another window is at work on this lesson."};
+  if (lock->Busy()) return {Fault::Refused, Tr("Another window is at work on this lesson.")};
   const std::optional<FileStamp> stamp = StampOf(lesson.path);
   if (!stamp || Seconds(*stamp) != lesson.written)
-    return {Fault::Refused, "The lesson has been saved or thrown away in another window."};
+    return {Fault::Refused, Tr("The lesson has been saved or thrown away in another window.")};
   lock_ = std::move(lock);
   return {};
 }
 
 Outcome ThrowAway(const RecordedLesson& lesson) {
   if (lesson.path.empty() || Remove(lesson.path)) return Outcome();
-  return Outcome::Failed(LastName(lesson.path) + " cannot be removed.");
+  return Outcome::Failed(Tr("{} cannot be removed.", LastName(lesson.path)));
 }
 
 bool FindUnfinishedLessons::Step() {

@@ -3,6 +3,8 @@
 #include <array>
 #include <cstddef>
 
+#include "platform/files/Tr.h"
+
 namespace kinalyx {
 namespace {
 
@@ -12,21 +14,21 @@ struct Words {
 
 // In the order of the phases.
 constexpr std::array kWords{
-    Words{"Start Recording", "Record Lesson", ""},
-    Words{"Start Recording", "Record Lesson", "Ready to Record Lesson"},
-    Words{"Stop Recording", "Recording Sound and Video", "Preparing to Record...."},
-    Words{"Stop Recording", "Recording Sound and Video", "Recording...."},
-    Words{"Stop Recording", "Recording Paused", "Paused"},
-    Words{"Finished Recording", "Recording Complete!", "Click Save Video to continue.."},
-    Words{"Finished Recording", "Recording Complete!", "Saving Video.... Please Wait."},
+    Words{TrLater("Start Recording"), TrLater("Record Lesson"), ""},
+    Words{TrLater("Start Recording"), TrLater("Record Lesson"), TrLater("Ready to Record Lesson")},
+    Words{TrLater("Stop Recording"), TrLater("Recording Sound and Video"), TrLater("Preparing to Record....")},
+    Words{TrLater("Stop Recording"), TrLater("Recording Sound and Video"), TrLater("Recording....")},
+    Words{TrLater("Stop Recording"), TrLater("Recording Paused"), TrLater("Paused")},
+    Words{TrLater("Finished Recording"), TrLater("Recording Complete!"), TrLater("Click Save Video to continue..")},
+    Words{TrLater("Finished Recording"), TrLater("Recording Complete!"), TrLater("Saving Video.... Please Wait.")},
 };
 
 const Words& WordsOf(LessonPhase phase) { return kWords[static_cast<std::size_t>(phase)]; }
 
 }  // namespace
 
-std::string_view CaptionOf(LessonPhase phase) { return WordsOf(phase).caption; }
-std::string_view TitleOf(LessonPhase phase) { return WordsOf(phase).title; }
-std::string_view StatusOf(LessonPhase phase) { return WordsOf(phase).status; }
+std::string CaptionOf(LessonPhase phase) { return Tr(std::string(WordsOf(phase).caption)); }
+std::string TitleOf(LessonPhase phase) { return Tr(std::string(WordsOf(phase).title)); }
+std::string StatusOf(LessonPhase phase) { return Tr(std::string(WordsOf(phase).status)); }
 
 }  // namespace kinalyx

@@ -16,11 +16,11 @@ enum class LessonPhase {
 };
 
 /// What its main button says.
-std::string_view CaptionOf(LessonPhase phase);
+std::string CaptionOf(LessonPhase phase);
 /// What the frame is called.
-std::string_view TitleOf(LessonPhase phase);
+std::string TitleOf(LessonPhase phase);
 /// What stands in the status line as it comes there.
-std::string_view StatusOf(LessonPhase phase);
+std::string StatusOf(LessonPhase phase);
 
 /// From the press to the end the screen is being recorded, or stands still.
 inline bool IsUnderWay(LessonPhase phase) {

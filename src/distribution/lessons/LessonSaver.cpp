@@ -5,6 +5,7 @@
 #include "library/LibraryTree.h"
 #include "library/VideoTransfer.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 namespace {
@@ -29,10 +30,10 @@ std::string ProposeLessonName(const std::string& lessonsFolder, LessonKind kind,
 }
 
 std::string LessonNameFault(const std::string& lessonsFolder, LessonKind kind, std::string_view name) {
-  if (IsBlank(name)) return "You must name the lesson before saving!";
-  if (!IsValidName(name)) return "Invalid Character in name. Please try again.";
+  if (IsBlank(name)) return Tr("You must name the lesson before saving!");
+  if (!IsValidName(name)) return Tr("Invalid Character in name. Please try again.");
   if (HasVideoNamed(lessonsFolder, FileOf(kind, name)))
-    return "Lesson Name already exists. Please choose a different name.";
+    return Tr("Lesson Name already exists. Please choose a different name.");
   return {};
 }
 
@@ -40,7 +41,7 @@ bool LessonSaver::Step() {
   if (over_) return false;
   if (!copy_) {
     if (!MakeFolder(FolderOf(path_))) {
-      how_ = Outcome::Failed("The folder " + FolderOf(path_) + " cannot be made.");
+      how_ = Outcome::Failed(Tr("The folder {} cannot be made.", FolderOf(path_)));
       over_ = true;
       return false;
     }
@@ -50,7 +51,8 @@ bool LessonSaver::Step() {
   over_ = true;
   how_ = copy_->How();
   if (how_) copy_.reset();
-  else if (EntryExists(path_)) how_ = Outcome::Failed("Lesson Name already exists. Please choose a different name.");
+  else if (EntryExists(path_))
+    how_ = Outcome::Failed(Tr("Lesson Name already exists. Please choose a different name."));
   return false;
 }
 
@@ -58,7 +60,7 @@ void LessonSaver::Cancel() {
   if (over_) return;
   over_ = true;
   copy_.reset();
-  how_ = {Fault::Cancelled, "Nothing was saved."};
+  how_ = {Fault::Cancelled, Tr("Nothing was saved.")};
 }
 
 JobProgress LessonSaver::Progress() const {

@@ -10,7 +10,9 @@
 #include "core/Settings.h"
 #include "core/Vocabulary.h"
 #include "distribution/lessons/LessonSaver.h"
+#include "platform/files/Tr.h"
 #include "platform/graph/ImpactDetector.h"
+#include "platform/graph/ScreenWords.h"
 #include "platform/files/Folders.h"
 #include "platform/files/IniFile.h"
 #include "platform/host/DriveWatch.h"
@@ -33,14 +35,6 @@ constexpr std::string_view kFile = "File writer";
 constexpr std::string_view kSection = "Lessons";
 constexpr std::string_view kKindKey = "Format";
 
-/// What a graph says of a camera, said of the screen.
-std::string OfScreen(std::string why) {
-  constexpr std::string_view kCamera = "camera", kAsScreen = "screen";
-  for (std::size_t at = 0; (at = why.find(kCamera, at)) != std::string::npos; at += kAsScreen.size())
-    why.replace(at, kCamera.size(), kAsScreen);
-  return why;
-}
-
 std::string Today() {
   const std::time_t now = std::time(nullptr);
   std::tm local{};
@@ -62,7 +56,7 @@ LessonSession::~LessonSession() { Leave(); }
 
 void LessonSession::Toggle() {
   if (phase_ == LessonPhase::Away) return Open();
-  if (phase_ == LessonPhase::Saving) return Say("The lesson is still being saved.");
+  if (phase_ == LessonPhase::Saving) return Say(Tr("The lesson is still being saved."));
   if (phase_ != LessonPhase::Ready) return PressCancel();
   GoAway();
 }
@@ -133,10 +127,10 @@ void LessonSession::PressCancel() {
   if (phase_ == LessonPhase::Away) return;
   if (phase_ == LessonPhase::Saving) return parts_.jobs.Cancel();
   const LessonPhase asked = phase_;
-  if (!MayDrop("Do you want to throw this lesson away?")) return;
+  if (!MayDrop(Tr("Do you want to throw this lesson away?"))) return;
   // Where it has ended while the question stood, the form for its name is there already, and can be cancelled.
   if (phase_ != asked) return;
-  Say("Recording cancelled...");
+  Say(Tr("Recording cancelled..."));
   if (IsUnderWay(phase_)) (void)graph_->GraphStop();
   Drop();
   GoAway();
@@ -190,14 +184,14 @@ void LessonSession::Go() {
   if (student_.empty()) {
     const Vocabulary vocabulary(parts_.settings);
     parts_.host.Message(MessageKind::Information, "",
-                        "You must select a " + vocabulary.noun() + " before beginning to Record");
+                        Tr("You must select a {} before beginning to Record", vocabulary.noun()));
     return;
   }
   const std::int64_t room = FreeBytes(files_.Folder());
-  if (room >= 0 && room < kLeastRoom) return Fail("There is too little room on the disk for a lesson.");
+  if (room >= 0 && room < kLeastRoom) return Fail(Tr("There is too little room on the disk for a lesson."));
   Enter(LessonPhase::Preparing);
   if (parts_.screens.HowToSee() == IScreens::Way::Asked)
-    Say("Your desktop asks which screen may be recorded. Choose it there, and the lesson begins.");
+    Say(Tr("Your desktop asks which screen may be recorded. Choose it there, and the lesson begins."));
   parts_.screens.Open(parts_.view.Screen(), *this);
 }
 
@@ -218,7 +212,7 @@ void LessonSession::Begin(const std::string& screen) {
   lesson_.instructor = instructor_;
   lesson_.student = student_;
   if (const Outcome begun = LoadGraph(screen); !begun) return Fail(begun.Why());
-  Say(Microphone().empty() ? "Preparing to Record.... without a voice" : std::string(StatusOf(LessonPhase::Preparing)));
+  Say(Microphone().empty() ? Tr("Preparing to Record.... without a voice") : StatusOf(LessonPhase::Preparing));
 }
 
 Outcome LessonSession::LoadGraph(const std::string& screen) {
@@ -257,7 +251,7 @@ void LessonSession::Look() {
   auto* writer = graph_->GraphFilterByLabel<IWriterFilter>(kFile);
   if (!writer || writer->Tally().pictures == 0) return;
   Enter(LessonPhase::Recording);
-  if (!lesson_.facts.voice) Say("Recording.... without a voice");
+  if (!lesson_.facts.voice) Say(Tr("Recording.... without a voice"));
   StartClock(kTenMinutes);
 }
 
@@ -286,8 +280,8 @@ void LessonSession::PressPause() {
 /// @param fault  what has ended it before its time; empty for nothing
 void LessonSession::Stop(const std::string& fault) {
   countdown_.Stop();
-  if (lesson_.path.empty()) return Fail("Recording cancelled...");  // the desktop has not answered yet
-  Say("Recording Complete....");
+  if (lesson_.path.empty()) return Fail(Tr("Recording cancelled..."));  // the desktop has not answered yet
+  Say(Tr("Recording Complete...."));
   auto* writer = graph_->GraphFilterByLabel<IWriterFilter>(kFile);
   const Outcome closed = graph_->GraphStop();
   const RecordingTally tally = writer ? writer->Tally() : RecordingTally{};
@@ -301,11 +295,11 @@ void LessonSession::Stop(const std::string& fault) {
     return parts_.host.Message(MessageKind::Warning, "", closed.Why());
   }
   if (tally.pictures == 0)
-    return Fail(!fault.empty() ? fault : !tally.fault.empty() ? tally.fault : "Recording cancelled...");
+    return Fail(!fault.empty() ? fault : !tally.fault.empty() ? tally.fault : Tr("Recording cancelled..."));
   lesson_.facts.seconds = static_cast<double>(tally.pictures) / LessonFile::kRate;
   Enter(LessonPhase::Finished);
   const std::string& why = !fault.empty() ? fault : tally.fault;
-  if (!why.empty()) Say(why + " What was recorded is kept. Click Save Video to continue..");
+  if (!why.empty()) Say(Tr("{} What was recorded is kept. Click Save Video to continue..", why));
   parts_.view.ShowSaveForm();
 }
 
@@ -316,9 +310,9 @@ void LessonSession::SourceFailed(const std::string& label, const std::string& wh
   }
   // The meter beside is no reason to stop; the voice itself is.
   if (label == kMeter) return;
-  const std::string words = label == kScreen ? OfScreen(why) : why;
+  const std::string words = label == kScreen ? SaidOfScreen(why) : why;
   if (phase_ != LessonPhase::Preparing) return Stop(words);
-  Fail(label == kScreen ? words : words + " Choose another microphone, or record without.");
+  Fail(label == kScreen ? words : Tr("{} Choose another microphone, or record without.", words));
 }
 
 void LessonSession::SinkFailed(const std::string&, const std::string& why) {
@@ -367,7 +361,7 @@ class LessonSession::SaveEvents final : public IJobEvents {
   }
   void Over(IJob* job) override {
     const auto* saver = dynamic_cast<LessonSaver*>(job);
-    session_.Saved(saver ? saver->How() : Outcome::Failed("The disk does not answer."), saver ? saver->Path() : "");
+    session_.Saved(saver ? saver->How() : Outcome::Failed(Tr("The disk does not answer.")), saver ? saver->Path() : "");
   }
 
  private:
@@ -375,13 +369,13 @@ class LessonSession::SaveEvents final : public IJobEvents {
 };
 
 std::string LessonSession::Save(std::string_view typed) {
-  if (phase_ != LessonPhase::Finished) return "There is no lesson to be saved.";
+  if (phase_ != LessonPhase::Finished) return Tr("There is no lesson to be saved.");
   const std::string_view name = WithoutOuterBlanks(typed);
-  if (student_.empty()) return "Choose whose lesson it is.";
+  if (student_.empty()) return Tr("Choose whose lesson it is.");
   const std::string root = LibraryTree(parts_.settings).Root();
-  if (!parts_.host.Drives().Answers(root)) return "The drive of the library does not answer.";
+  if (!parts_.host.Drives().Answers(root)) return Tr("The drive of the library does not answer.");
   if (!dirExists(LibraryTree(parts_.settings).StudentFolder(instructor_, student_)))
-    return "The folder of " + student_ + " is not there any more. Choose whose lesson it is.";
+    return Tr("The folder of {} is not there any more. Choose whose lesson it is.", student_);
   if (std::string fault = LessonNameFault(Folder(), Kind(), name); !fault.empty()) return fault;
   savedPart_ = 0;
   Enter(LessonPhase::Saving);
@@ -396,19 +390,19 @@ void LessonSession::Saved(const Outcome& how, const std::string& path) {
   if (phase_ != LessonPhase::Saving) return;
   if (!how) {
     Enter(LessonPhase::Finished);
-    Say(how.Kind() == Fault::Cancelled ? "Saving cancelled. Click Save Video to continue.."
-                                       : "The lesson WAS NOT SAVED. " + how.Why());
+    Say(how.Kind() == Fault::Cancelled ? Tr("Saving cancelled. Click Save Video to continue..")
+                                       : Tr("The lesson WAS NOT SAVED. {}", how.Why()));
     return;
   }
   Drop();
-  Say("Video Saved.");
+  Say(Tr("Video Saved."));
   parts_.view.LessonSaved(path);
   GoAway();
 }
 
 void LessonSession::Enter(LessonPhase phase) {
   phase_ = phase;
-  Say(std::string(StatusOf(phase)));
+  Say(StatusOf(phase));
 }
 
 void LessonSession::Say(std::string status) {

@@ -1,6 +1,7 @@
 #include "distribution/mail/Accounts.h"
 
 #include "platform/files/TextEncoding.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 namespace {
@@ -46,15 +47,15 @@ MailMessage NewMessage(const MailSettings& settings) {
 }
 
 Outcome ReadyToSend(const MailSettings& settings) {
-  const auto refuse = [](const char* why) { return Outcome(Fault::Refused, why); };
+  const auto refuse = [](const std::string& why) { return Outcome(Fault::Refused, why); };
   if (!settings.MailConfigured())
-    return refuse("No mail server is set yet. Choose your mail service in Program Setup, Internet.");
+    return refuse(Tr("No mail server is set yet. Choose your mail service in Program Setup, Internet."));
   if (!settings.SenderSet())
-    return refuse("Your own e-mail address is not set yet. Type it in Program Setup, Internet.");
+    return refuse(Tr("Your own e-mail address is not set yet. Type it in Program Setup, Internet."));
   if (!IsMailAddress(Meant(settings.SenderEmail)))
-    return refuse("Your own e-mail address in Program Setup, Internet, is no address.");
+    return refuse(Tr("Your own e-mail address in Program Setup, Internet, is no address."));
   if (settings.LoginRequired && (LoginOf(settings.Login, kNoMailLogin).empty() || settings.Password.empty()))
-    return refuse("Login or password of your mailbox are not set yet. Type them in Program Setup, Internet.");
+    return refuse(Tr("Login or password of your mailbox are not set yet. Type them in Program Setup, Internet."));
   return {};
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/MailSettings.h"
+#include "platform/files/Tr.h"
 #include "platform/net/IFileServer.h"
 #include "platform/net/IMailSender.h"
 
@@ -13,7 +14,7 @@ MailMessage NewMessage(const MailSettings& settings);
 /// Whether the settings are enough for a mail to go out; fails in words for the user.
 Outcome ReadyToSend(const MailSettings& settings);
 /// What is said of a mail that went, though the server's goodbye failed.
-inline constexpr const char* kNotClosed = "Connection to SMTP server not closed cleanly.";
+inline constexpr const char* kNotClosed = TrLater("Connection to SMTP server not closed cleanly.");
 /// The server of the instructor's web space; fails in words for the user where there is no address, or none that can be
 /// read.
 Result<ServerLogin> WebSpace(const MailSettings& settings);

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "platform/files/Tr.h"
+
 namespace kinalyx {
 
 /// What the worker and the desk tell each other. The last of the two lets it go.
@@ -23,7 +25,7 @@ class ServerDesk::Job final : public IJob {
     outcome_ = errand_(*line_);
     return false;
   }
-  void Cancel() override { outcome_ = kinalyx::Outcome(Fault::Cancelled, "Cancelled."); }
+  void Cancel() override { outcome_ = kinalyx::Outcome(Fault::Cancelled, Tr("Cancelled.")); }
   JobProgress Progress() const override { return {}; }
   const kinalyx::Outcome& Outcome() const { return outcome_; }
 
@@ -40,7 +42,7 @@ class ServerDesk::Told final : public IJobEvents {
   void Over(IJob* job) override {
     desk_.line_ = nullptr;
     // One that hangs is left to itself.
-    if (!job) return desk_.events_.ServerOver(Outcome(Fault::Cancelled, "Cancelled."));
+    if (!job) return desk_.events_.ServerOver(Outcome(Fault::Cancelled, Tr("Cancelled.")));
     desk_.events_.ServerOver(static_cast<const Job*>(job)->Outcome());
   }
 

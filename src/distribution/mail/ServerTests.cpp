@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "distribution/mail/Accounts.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 
@@ -21,8 +22,8 @@ void ServerTests::TestSend() {
   address_ = settings_.SenderEmail;
   MailMessage message = NewMessage(settings_);
   message.to = {address_};
-  message.subject = "Testing Kinalyx Email";
-  message.body = "This is a test of the mail settings of Kinalyx.";
+  message.subject = Tr("Testing Kinalyx Email");
+  message.body = Tr("This is a test of the mail settings of Kinalyx.");
   closedCleanly_ = std::make_shared<bool>(true);
   desk_.Start(
       [sender = std::shared_ptr(makeSender_()), server = OutgoingServer(settings_), message = std::move(message),
@@ -32,7 +33,7 @@ void ServerTests::TestSend() {
 void ServerTests::TestConnection() {
   if (Busy()) return;
   test_ = ServerTest::WebSpace;
-  if (!settings_.WebConfigured()) return events_.TestOver(test_, "Type the FTP address first.", false);
+  if (!settings_.WebConfigured()) return events_.TestOver(test_, Tr("Type the FTP address first."), false);
   auto login = WebSpace(settings_);
   if (!login) return events_.TestOver(test_, login.Why(), false);
   desk_.Start([server = std::shared_ptr(makeServer_(std::move(*login)))](ITransferWatch& watch) {
@@ -41,21 +42,21 @@ void ServerTests::TestConnection() {
 }
 
 void ServerTests::ServerProgress(double part) {
-  events_.TestStatus(test_, test_ == ServerTest::WebSpace ? "Connecting to ftp server..."
-                            : part < 0                    ? "Connecting to Email Server"
-                                                          : "Sending email now....Please wait");
+  events_.TestStatus(test_, test_ == ServerTest::WebSpace ? Tr("Connecting to ftp server...")
+                            : part < 0                    ? Tr("Connecting to Email Server")
+                                                          : Tr("Sending email now....Please wait"));
 }
 
 void ServerTests::ServerOver(const Outcome& outcome) {
-  if (outcome.Kind() == Fault::Cancelled) return events_.TestOver(test_, "The test was cancelled.", false);
+  if (outcome.Kind() == Fault::Cancelled) return events_.TestOver(test_, Tr("The test was cancelled."), false);
   if (test_ == ServerTest::WebSpace) {
-    return outcome
-               ? events_.TestOver(test_, "Connection to ftp server successful.", true)
-               : events_.TestOver(test_, "A connection to the ftp server could not be made.\n" + outcome.Why(), false);
+    return outcome ? events_.TestOver(test_, Tr("Connection to ftp server successful."), true)
+                   : events_.TestOver(test_, Tr("A connection to the ftp server could not be made.\n{}", outcome.Why()),
+                                      false);
   }
   if (!outcome) return events_.TestOver(test_, outcome.Why(), false);
-  std::string words = "Test Send Successful! A test email has been sent to " + address_ + ".";
-  if (!*closedCleanly_) words += std::string("\n") + kNotClosed;
+  std::string words = Tr("Test Send Successful! A test email has been sent to {}.", address_);
+  if (!*closedCleanly_) words += "\n" + Tr(kNotClosed);
   events_.TestOver(test_, words, true);
 }
 

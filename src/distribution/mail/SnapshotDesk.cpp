@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "platform/files/Tr.h"
 #include "platform/paint/Blend.h"
 
 namespace kinalyx {
@@ -38,14 +39,14 @@ void SnapshotDesk::TTES_Click(const Surface& picture) {
   sounds_.Play(sound_);
   const std::string path = queue_.NextPath();
   const auto saved =
-      picture.Empty() ? Outcome::Failed("There is no picture.") : queue_.Add(RowsOf(WithoutPaper(picture)));
+      picture.Empty() ? Outcome::Failed(Tr("There is no picture.")) : queue_.Add(RowsOf(WithoutPaper(picture)));
   if (!saved && saved.Kind() == Fault::Refused) return host_.Message(MessageKind::Information, "", saved.Why());
   if (!saved) {
-    host_.Note(MessageKind::Warning, "A snapshot for mail was not saved: " + saved.Why());
+    host_.Note(MessageKind::Warning, fmt::format("A snapshot for mail was not saved: {}", saved.Why()));
     return host_.Message(MessageKind::Warning, "",
-                         "Failed to save the picture to the file: '" + path + "'\n" + saved.Why());
+                         Tr("Failed to save the picture to the file: '{}'\n{}", path, saved.Why()));
   }
-  view_.ShowEmailPnl(fmt::format("Picture Saved... You now have {} pictures queued for emailing.", queue_.Count()));
+  view_.ShowEmailPnl(Tr("Picture Saved... You now have {} pictures queued for emailing.", queue_.Count()));
   EmailTimer_ = HostTimer(host_, kShownMs, false, [this] { EmailTimer_Timer(); });
 }
 

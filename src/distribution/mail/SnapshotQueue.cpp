@@ -14,6 +14,7 @@
 #include "platform/files/Disk.h"
 #include "platform/files/Folders.h"
 #include "platform/files/PartFiles.h"
+#include "platform/files/Tr.h"
 #include "platform/paint/ImageFiles.h"
 
 namespace kinalyx {
@@ -44,12 +45,11 @@ std::string SnapshotQueue::NextPath() const { return PathOf(std::min(last_ + 1, 
 
 Result<std::string> SnapshotQueue::Add(const PixelRows& picture) {
   if (Count() >= kMost)
-    return Outcome(
-        Fault::Refused,
-        fmt::format("{} pictures are queued for emailing, and no more fit into one mail. Send or delete some "
-                    "of them first.",
-                    kMost));
-  if (!MakeFolder(folder_)) return Outcome::Failed("The folder cannot be made.");
+    return Outcome(Fault::Refused,
+                   Tr("{} pictures are queued for emailing, and no more fit into one mail. Send or delete some "
+                      "of them first.",
+                      kMost));
+  if (!MakeFolder(folder_)) return Outcome::Failed(Tr("The folder cannot be made."));
   const std::string part = PartNameBeside(JoinPath(folder_, "email.jpg"));
   if (const Outcome saved = SaveJpeg(picture, part, kQuality); !saved) return saved;
   // It is held before it gets its name: no other window ever sees it unheld.
@@ -70,9 +70,10 @@ Result<std::string> SnapshotQueue::Add(const PixelRows& picture) {
     return path;
   }
   KillFile(part);
-  return Outcome(Fault::Refused,
-                 "Another window of Kinalyx, or an earlier session, has pictures for emailing as well, and there is no "
-                 "room for more. Send or delete some of them first.");
+  return Outcome(
+      Fault::Refused,
+      Tr("Another window of Kinalyx, or an earlier session, has pictures for emailing as well, and there is no "
+         "room for more. Send or delete some of them first."));
 }
 
 std::vector<std::string> SnapshotQueue::Pictures() {
@@ -91,14 +92,14 @@ std::int64_t SnapshotQueue::Bytes() {
 Outcome SnapshotQueue::Delete(const std::string& path) {
   const auto found = std::ranges::find(pictures_, path, &Picture::path);
   if (found == pictures_.end()) return {};
-  if (!KillFile(path)) return Outcome::Failed("The picture could not be deleted.");
+  if (!KillFile(path)) return Outcome::Failed(Tr("The picture could not be deleted."));
   pictures_.erase(found);
   return {};
 }
 
 Outcome SnapshotQueue::DeleteAll(std::vector<Picture>& pictures) {
   std::erase_if(pictures, [](const Picture& picture) { return KillFile(picture.path); });
-  return pictures.empty() ? Outcome() : Outcome::Failed("Some of the pictures could not be deleted.");
+  return pictures.empty() ? Outcome() : Outcome::Failed(Tr("Some of the pictures could not be deleted."));
 }
 
 Outcome SnapshotQueue::ClearEmailQueue() {

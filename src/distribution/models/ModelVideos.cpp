@@ -11,13 +11,14 @@
 #include "library/LibraryTree.h"
 #include "library/VideoNames.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 namespace {
 
 constexpr const char* kRemoteRoot = "modelvideos";
-constexpr const char* kCannotFind = "Cannot find directories.";
-constexpr const char* kCannotFindFiles = "Cannot find files.";
+constexpr const char* kCannotFind = TrLater("Cannot find directories.");
+constexpr const char* kCannotFindFiles = TrLater("Cannot find files.");
 
 /// "1,234,567"
 std::string Grouped(std::int64_t number) {
@@ -86,7 +87,7 @@ class Speedometer final : public ITransferWatch {
 }  // namespace
 
 std::string SelectedText(std::size_t files) {
-  return files == 1 ? "1 file selected for download." : fmt::format("{} files selected for download.", files);
+  return files == 1 ? Tr("1 file selected for download.") : Tr("{} files selected for download.", files);
 }
 
 ModelVideos::ModelVideos(Parts parts, IModelVideosEvents& events)
@@ -98,7 +99,7 @@ bool ModelVideos::Begin(Errand errand, std::string status) {
   if (!server_) {
     const auto address = ReadServerAddress(parts_.mail.ModelServer);
     if (!address) {
-      events_.ModelsFailed("Internet connection failed.", address.Why());
+      events_.ModelsFailed(Tr("Internet connection failed."), address.Why());
       return false;
     }
     server_ = parts_.makeServer(
@@ -126,7 +127,7 @@ void ModelVideos::AskFolder(const std::string& path) {
 }
 
 void ModelVideos::Open() {
-  if (!Begin(Errand::Folders, "Connecting to the Internet...Please wait.")) return;
+  if (!Begin(Errand::Folders, Tr("Connecting to the Internet...Please wait."))) return;
   folders_.clear();
   subfolders_.clear();
   videos_.clear();
@@ -137,7 +138,7 @@ void ModelVideos::Open() {
 
 void ModelVideos::ChooseFolder(int index) {
   if (index < 0 || index >= static_cast<int>(folders_.size())) return;
-  if (!Begin(Errand::Subfolders, "Connected. Getting Video List.")) return;
+  if (!Begin(Errand::Subfolders, Tr("Connected. Getting Video List."))) return;
   folder_ = folders_[static_cast<std::size_t>(index)];
   subfolder_.clear();
   subfolders_.clear();
@@ -147,7 +148,7 @@ void ModelVideos::ChooseFolder(int index) {
 
 void ModelVideos::ChooseSubfolder(int index) {
   if (index < 0 || index >= static_cast<int>(subfolders_.size())) return;
-  if (!Begin(Errand::Videos, "Connected. Getting Video List.")) return;
+  if (!Begin(Errand::Videos, Tr("Connected. Getting Video List."))) return;
   subfolder_ = subfolders_[static_cast<std::size_t>(index)];
   videos_.clear();
   AskFolder(fmt::format("{}/{}/{}", kRemoteRoot, folder_, subfolder_));
@@ -174,7 +175,7 @@ void ModelVideos::Download(const std::vector<int>& indexes) {
   if (!known) order.total = 0;
   if (order.videos.empty() || !Begin(Errand::Download, {})) return;
   ordered_ = std::move(ordered);
-  detail_ = "Downloading";
+  detail_ = Tr("Downloading");
   ShowDownload();
   desk_.Start([server = server_, reply = reply_, order = std::move(order)](ITransferWatch& watch) {
     return Fetch(*server, order, *reply, watch);
@@ -186,7 +187,7 @@ void ModelVideos::Download(const std::vector<int>& indexes) {
 
 Outcome ModelVideos::Fetch(IFileServer& server, const Order& order, Reply& reply, ITransferWatch& watch) {
   for (std::size_t index = 0; index < order.videos.size(); ++index) {
-    if (watch.Cancelled()) return {Fault::Cancelled, "Cancelled."};
+    if (watch.Cancelled()) return {Fault::Cancelled, Tr("Cancelled.")};
     {
       const std::lock_guard lock(reply.mutex);
       reply.current = index;
@@ -210,9 +211,9 @@ Outcome ModelVideos::FetchOne(IFileServer& server, const Order& order, std::size
     return Outcome();
   };
   if (EntryExists(target)) return skip();
-  if (!MakeFolder(order.target)) return {Fault::Unwritable, "Its folder in the library cannot be made."};
+  if (!MakeFolder(order.target)) return {Fault::Unwritable, Tr("Its folder in the library cannot be made.")};
   const std::int64_t free = FreeBytes(order.target);
-  if (free >= 0 && video.bytes > free) return {Fault::Unwritable, "The disk of the library has no room for it."};
+  if (free >= 0 && video.bytes > free) return {Fault::Unwritable, Tr("The disk of the library has no room for it.")};
   std::vector<std::string> came;
   const auto giveUp = [&](const Outcome& why) {
     for (const std::string& path : came) KillFile(path);
@@ -245,8 +246,8 @@ Outcome ModelVideos::FetchOne(IFileServer& server, const Order& order, std::size
 
 void ModelVideos::ShowDownload() {
   const std::lock_guard lock(reply_->mutex);
-  status_ = fmt::format("Getting Video {} of {}", reply_->current + 1, ordered_.size());
-  if (reply_->bytesPerSecond > 0) detail_ = "Bytes per Second: " + Grouped(std::llround(reply_->bytesPerSecond));
+  status_ = Tr("Getting Video {} of {}", reply_->current + 1, ordered_.size());
+  if (reply_->bytesPerSecond > 0) detail_ = Tr("Bytes per Second: {}", Grouped(std::llround(reply_->bytesPerSecond)));
 }
 
 void ModelVideos::ServerProgress(double part) {
@@ -280,23 +281,24 @@ void ModelVideos::MarkFetched(std::size_t count) {
 
 void ModelVideos::Fail(const Outcome& outcome) {
   if (outcome.Kind() == Fault::Cancelled) {
-    status_ = errand_ == Errand::Download ? "Download Cancelled" : "Cancelled";
+    status_ = errand_ == Errand::Download ? Tr("Download Cancelled") : Tr("Cancelled");
     return;
   }
-  status_ = "Idle";
+  status_ = Tr("Idle");
   const bool missing = outcome.Kind() == Fault::NotFound;
-  if (errand_ == Errand::Download) events_.ModelsFailed("Download", outcome.Why());
+  if (errand_ == Errand::Download) events_.ModelsFailed(Tr("Download"), outcome.Why());
   else if (missing && errand_ == Errand::Videos)
-    events_.ModelsFailed(kCannotFindFiles, "Cannot find files. Please try again.");
-  else if (missing) events_.ModelsFailed(kCannotFind, "Cannot find directories. Please try again.");
-  else events_.ModelsFailed("Internet connection failed.", "Cannot connect to the Internet\n\n" + outcome.Why());
+    events_.ModelsFailed(Tr(kCannotFindFiles), Tr("Cannot find files. Please try again."));
+  else if (missing) events_.ModelsFailed(Tr(kCannotFind), Tr("Cannot find directories. Please try again."));
+  else
+    events_.ModelsFailed(Tr("Internet connection failed."), Tr("Cannot connect to the Internet\n\n{}", outcome.Why()));
 }
 
 std::string ModelVideos::WordsOfEnd() const {
   const std::lock_guard lock(reply_->mutex);
-  if (reply_->skipped == 0) return "Download Complete";
-  return fmt::format("Download Complete. {} {} in your library already.", reply_->skipped,
-                     reply_->skipped == 1 ? "was" : "were");
+  if (reply_->skipped == 0) return Tr("Download Complete");
+  return reply_->skipped == 1 ? Tr("Download Complete. 1 was in your library already.")
+                              : Tr("Download Complete. {} were in your library already.", reply_->skipped);
 }
 
 void ModelVideos::ServerOver(const Outcome& outcome) {
@@ -309,7 +311,7 @@ void ModelVideos::ServerOver(const Outcome& outcome) {
     Fail(outcome);
     return events_.ModelsChanged();
   }
-  status_ = "Idle";
+  status_ = Tr("Idle");
   switch (errand_) {
     case Errand::Folders: TakeFolders(folders_); break;
     case Errand::Subfolders: TakeFolders(subfolders_); break;

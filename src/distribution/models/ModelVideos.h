@@ -10,6 +10,7 @@
 #include "core/Settings.h"
 #include "distribution/mail/ServerDesk.h"
 #include "library/JobRunner.h"
+#include "platform/files/Tr.h"
 #include "platform/net/IFileServer.h"
 
 namespace kinalyx {
@@ -99,7 +100,7 @@ class ModelVideos : private IServerEvents {
   std::vector<ModelVideo> videos_;
   std::vector<std::string> besides_;  ///< what else lies beside the videos
   std::string folder_, subfolder_;    ///< that are chosen
-  std::string status_ = "Idle", detail_;
+  std::string status_ = Tr("Idle"), detail_;
   double part_ = -1;
   std::vector<std::size_t> ordered_;  ///< of the videos, those of the download
   ServerDesk desk_;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 
@@ -16,19 +17,19 @@ std::string FilesToSend::Add(const std::string& path, bool lesson) {
     return file.lesson == lesson && (lesson ? SamePlace(file.path, path) : file.Name() == LastName(path));
   });
   if (listed)
-    return lesson ? "This lesson is already in the Files to Send list."
-                  : "This video is already in the Files to Send list.";
+    return lesson ? Tr("This lesson is already in the Files to Send list.")
+                  : Tr("This video is already in the Files to Send list.");
   const auto bytes = FileSize(path);
-  if (!bytes) return "\"" + LastName(path) + "\" could not be found.";
+  if (!bytes) return Tr("\"{}\" could not be found.", LastName(path));
   files_.push_back({.path = path, .lesson = lesson, .bytes = *bytes});
-  return lesson ? "Lesson successfully added to the Files to Send list."
-                : "Video successfully added to the Files to Send list.";
+  return lesson ? Tr("Lesson successfully added to the Files to Send list.")
+                : Tr("Video successfully added to the Files to Send list.");
 }
 
 std::string FilesToSend::Remove(std::size_t index) {
   if (index >= files_.size()) return "";
   files_.erase(files_.begin() + static_cast<std::ptrdiff_t>(index));
-  return "File successfully removed from Files to Send list.";
+  return Tr("File successfully removed from Files to Send list.");
 }
 
 std::int64_t FilesToSend::Bytes() const {

@@ -9,6 +9,7 @@
 #include "distribution/updates/VersionsReader.h"
 #include "platform/files/FileStore.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 namespace {
@@ -16,7 +17,7 @@ namespace {
 constexpr const char* kVersions = "versions.txt";
 constexpr const char* kRecord = "junk.txt";
 constexpr std::int64_t kMostVersions = 256 * 1024;
-constexpr const char* kUnable = "Unable to connect to server to check for updates.";
+constexpr const char* kUnable = TrLater("Unable to connect to server to check for updates.");
 
 /// The line that goes to the server of a user who has agreed to that: the day, and how the check was begun.
 std::string RecordLine(bool silent) {
@@ -42,7 +43,7 @@ void UpdateCheck::CheckForUpdates(bool Silent) {
   if (Busy()) return;
   if (parts_.mail.UpdateServer.empty())
     return Tell(
-        "No server for updates is set. Type the address that you were given into \"Server for updates\" first.");
+        Tr("No server for updates is set. Type the address that you were given into \"Server for updates\" first."));
   auto address = ReadServerAddress(parts_.mail.UpdateServer);
   if (!address) return Tell(address.Why());
   reply_ = std::make_shared<Reply>();
@@ -74,35 +75,34 @@ void UpdateCheck::ServerOver(const Outcome& outcome) {
   const auto answer = std::exchange(reply_, nullptr);
   if (outcome.Kind() == Fault::Cancelled) return;  // a worker that hangs may still write there
   const Reply& reply = *answer;
-  if (!outcome && !reply.connected) return Tell(fmt::format("{}\n\n{}", kUnable, outcome.Why()));
-  if (!outcome) return Tell(fmt::format("{} Err 4\n\n{}", kUnable, outcome.Why()));
-  if (reply.versions.empty()) return Tell(fmt::format("{} Err 3", kUnable));
+  if (!outcome && !reply.connected) return Tell(fmt::format("{}\n\n{}", Tr(kUnable), outcome.Why()));
+  if (!outcome) return Tell(Tr("{} Err 4\n\n{}", Tr(kUnable), outcome.Why()));
+  if (reply.versions.empty()) return Tell(Tr("{} Err 3", Tr(kUnable)));
   const auto there = ReadVersions(reply.versions);
   const auto own = ReadVersion(parts_.ownVersion, '.');
-  if (!there || !own) return Tell(fmt::format("{} Err 4", kUnable));
-  if (*there <= *own) return Tell("You are running the latest version of the software.");
+  if (!there || !own) return Tell(Tr("{} Err 4", Tr(kUnable)));
+  if (*there <= *own) return Tell(Tr("You are running the latest version of the software."));
   Offer(there->Text());
 }
 
 void UpdateCheck::Offer(const std::string& version) {
   const auto own = ReadVersion(parts_.ownVersion, '.');
-  constexpr const char* kTitle = "New Kinalyx Update Available!";
+  constexpr const char* kTitle = TrLater("New Kinalyx Update Available!");
   if (parts_.mail.UpdatePage.empty())
     return parts_.host.Message(
-        MessageKind::Information, kTitle,
-        fmt::format(
-            "You are currently running version {} and the latest version is {}. Ask who gave you the address of "
-            "the server for it: no page from which it could be fetched is set.",
-            own->Text(), version));
+        MessageKind::Information, Tr(kTitle),
+        Tr("You are currently running version {} and the latest version is {}. Ask who gave you the address of "
+           "the server for it: no page from which it could be fetched is set.",
+           own->Text(), version));
   const bool now = parts_.host.Question(
-      kTitle, fmt::format("You are currently running version {} and the latest version is {}. Would you like to close "
-                          "Kinalyx and update now? If you choose not to update now, you can update later by going to "
-                          "\"Program Setup\" and clicking the \"General\" tab.",
-                          own->Text(), version));
+      Tr(kTitle), Tr("You are currently running version {} and the latest version is {}. Would you like to close "
+                     "Kinalyx and update now? If you choose not to update now, you can update later by going to "
+                     "\"Program Setup\" and clicking the \"General\" tab.",
+                     own->Text(), version));
   if (!now) return;
   if (!parts_.host.StartDetached("xdg-open", {parts_.mail.UpdatePage}))
-    return parts_.host.Message(MessageKind::Warning, kTitle,
-                               "The page cannot be opened on this computer: " + parts_.mail.UpdatePage);
+    return parts_.host.Message(MessageKind::Warning, Tr(kTitle),
+                               Tr("The page cannot be opened on this computer: {}", parts_.mail.UpdatePage));
   parts_.close();
 }
 

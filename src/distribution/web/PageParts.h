@@ -33,13 +33,14 @@ a { color: #8cc4f5; }
 #words:empty { display: none; }
 )";
 
+/// With places for the words of its three buttons and their tips.
 inline constexpr std::string_view kPageStage =
     "<video id=\"video\" controls=\"controls\" playsinline=\"playsinline\" preload=\"metadata\"></video>\r\n"
     "<h1 id=\"title\"></h1>\r\n<p id=\"date\"></p>\r\n"
     "<div class=\"row\">\r\n"
-    "<button type=\"button\" id=\"back\" title=\"Left arrow key\">\u2039 Picture</button>\r\n"
-    "<button type=\"button\" id=\"half\" aria-pressed=\"false\" title=\"Key H\">Half speed</button>\r\n"
-    "<button type=\"button\" id=\"on\" title=\"Right arrow key\">Picture \u203a</button>\r\n"
+    "<button type=\"button\" id=\"back\" title=\"{}\">\u2039 {}</button>\r\n"
+    "<button type=\"button\" id=\"half\" aria-pressed=\"false\" title=\"{}\">{}</button>\r\n"
+    "<button type=\"button\" id=\"on\" title=\"{}\">{} \u203a</button>\r\n"
     "</div>\r\n";
 
 inline constexpr std::string_view kPageScript = R"(
@@ -59,7 +60,7 @@ const told = function (date) {
 const choose = function () {
   const chosen = list.options[list.selectedIndex];
   if (!chosen) {
-    words.textContent = 'There are no videos here yet.';
+    words.textContent = '@none';
     return;
   }
   const note = notes[chosen.value] || {};
@@ -120,8 +121,8 @@ video.addEventListener('loadedmetadata', function () {
 video.addEventListener('error', function () {
   const link = document.createElement('a');
   link.href = list.value;
-  link.textContent = 'Fetch the file';
-  words.textContent = 'This video cannot be played here. ';
+  link.textContent = '@fetch';
+  words.textContent = '@cannot';
   words.appendChild(link);
 });
 choose();

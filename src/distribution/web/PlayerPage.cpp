@@ -9,6 +9,7 @@
 #include "distribution/web/PageParts.h"
 #include "distribution/web/WebNames.h"
 #include "platform/files/TextEncoding.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 namespace {
@@ -94,30 +95,54 @@ void ReadNote(std::string_view line, std::vector<PageVideo>& videos) {
   video->date = AsText(*date, kLongestDate);
 }
 
+/// A text as it stands between the single quotes of a script.
+std::string AsQuoted(std::string_view text) {
+  std::string quoted;
+  for (const char letter : text) {
+    if (letter == '\'' || letter == '\\') quoted += '\\';
+    quoted += letter;
+  }
+  return quoted;
+}
+
+/// The script, with what it may have to say.
+std::string Script() {
+  std::string script(kPageScript);
+  const auto say = [&](std::string_view place, const std::string& words) {
+    script.replace(script.find(place), place.size(), AsQuoted(words));
+  };
+  say("@none", Tr("There are no videos here yet."));
+  say("@fetch", Tr("Fetch the file"));
+  say("@cannot", Tr("This video cannot be played here. "));
+  return script;
+}
+
 }  // namespace
 
 std::string WritePlayerPage(const PlayerPage& page) {
-  const std::string coach = EscapeText(page.coach);
-  std::string text = "<!DOCTYPE html>\r\n<html lang=\"en\">\r\n<head>\r\n<meta charset=\"utf-8\" />\r\n";
+  const std::string heading = Tr("Video Lessons by {}", EscapeText(page.coach));
+  std::string text =
+      fmt::format("<!DOCTYPE html>\r\n<html lang=\"{}\">\r\n<head>\r\n<meta charset=\"utf-8\" />\r\n", Tr("en"));
   text += "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\" />\r\n";
   text += "<link rel=\"icon\" href=\"data:,\" />\r\n";  // else every browser asks the server for one
-  text += fmt::format("<title>Video Lessons by {}</title>\r\n<style>\r\n{}</style>\r\n</head>\r\n", coach, kPageStyle);
+  text += fmt::format("<title>{}</title>\r\n<style>\r\n{}</style>\r\n</head>\r\n", heading, kPageStyle);
   text += "<body>\r\n<header>\r\n";
   if (!page.logo.empty()) text += fmt::format("<img src=\"{}\" alt=\"\" />\r\n", EncodePath(page.logo));
-  text += fmt::format("<div>\r\n<p class=\"heading\"><span class=\"style4\">Video Lessons by {}</span></p>\r\n", coach);
+  text += fmt::format("<div>\r\n<p class=\"heading\"><span class=\"style4\">{}</span></p>\r\n", heading);
   if (!page.company.empty()) text += fmt::format("<p class=\"company\">{}</p>\r\n", EscapeText(page.company));
   if (!page.student.empty()) text += fmt::format("{}{}</p>\r\n", kStudent, EscapeText(page.student));
   text += "</div>\r\n</header>\r\n<main>\r\n";
-  text += kPageStage;
-  text += "<label for=\"list\">Videos</label>\r\n<select id=\"list\">\r\n" + Options(page.videos) + "</select>\r\n";
+  text += fmt::format(kPageStage, Tr("Left arrow key"), Tr("Picture"), Tr("Key H"), Tr("Half speed"),
+                      Tr("Right arrow key"), Tr("Picture"));
+  text += fmt::format("<label for=\"list\">{}</label>\r\n<select id=\"list\">\r\n{}</select>\r\n", Tr("Videos"),
+                      Options(page.videos));
   text += "<p id=\"words\" role=\"status\"></p>\r\n";
   if (!page.playlist.empty())
-    text += fmt::format(
-        "<p class=\"playlist\"><a href=\"{}\"><span>Play all of them with Windows Media Player</span></a></p>\r\n",
-        EncodePath(page.playlist));
+    text += fmt::format("<p class=\"playlist\"><a href=\"{}\"><span>{}</span></a></p>\r\n", EncodePath(page.playlist),
+                        Tr("Play all of them with Windows Media Player"));
   if (const std::string notes = Notes(page.videos); !notes.empty())
     text += "<ul id=\"notes\" hidden=\"hidden\">\r\n" + notes + "</ul>\r\n";
-  text += fmt::format("</main>\r\n<script>\r\n{}</script>\r\n</body>\r\n</html>\r\n", kPageScript);
+  text += fmt::format("</main>\r\n<script>\r\n{}</script>\r\n</body>\r\n</html>\r\n", Script());
   return text;
 }
 

@@ -9,6 +9,7 @@
 #include "library/VideoNames.h"
 #include "platform/files/FileStore.h"
 #include "platform/files/PartFiles.h"
+#include "platform/files/Tr.h"
 #include "platform/media/WebConversion.h"
 #include "platform/paint/ImageFiles.h"
 
@@ -25,12 +26,12 @@ constexpr const char* kPage = "index.html";
 constexpr const char* kPlaylist = "playlist.wvx";
 constexpr const char* kOldPlaylist = "oldplaylist.wvx";
 constexpr std::int64_t kMostMailBytes = 15 << 20;  // both files of a video; a mail grows by a third on its way
-constexpr const char* kWmvBody = "The video is attached. Windows Media Player plays it.";
-constexpr const char* kBothBody =
+constexpr const char* kWmvBody = TrLater("The video is attached. Windows Media Player plays it.");
+constexpr const char* kBothBody = TrLater(
     "The video is attached twice: the file that ends in .mp4 plays on telephones and computers, the one that ends in "
-    ".wmv in Windows Media Player.";
+    ".wmv in Windows Media Player.");
 
-Outcome Cancelled() { return {Fault::Cancelled, "It was cancelled."}; }
+Outcome Cancelled() { return {Fault::Cancelled, Tr("It was cancelled.")}; }
 
 /// Tells on the board how far the transfer of a file or a mail is, and hears there whether it is to stop.
 class BoardWatch : public ITransferWatch {
@@ -52,7 +53,7 @@ class BoardWatch : public ITransferWatch {
  protected:
   /// @return empty: what was said last stays
   virtual std::string Detail(double /*part*/, double bytesPerSecond) const {
-    return bytesPerSecond > 0 ? fmt::format("Upload speed {}kb per second", std::llround(bytesPerSecond / 1024)) : "";
+    return bytesPerSecond > 0 ? Tr("Upload speed {}kb per second", std::llround(bytesPerSecond / 1024)) : "";
   }
 
  private:
@@ -71,7 +72,7 @@ class MailWatch final : public BoardWatch {
  protected:
   std::string Detail(double part, double /*bytesPerSecond*/) const override {
     const auto percent = std::lround(part * 100);
-    return percent > 0 ? fmt::format("{}, {}% complete", reader_, percent) : reader_;
+    return percent > 0 ? Tr("{}, {}% complete", reader_, percent) : reader_;
   }
 
  private:
@@ -127,8 +128,8 @@ bool SendJob::Step() {
     case Phase::Mail: went = MailNext(); break;
     case Phase::Clean:
       RemoveFiles();
-      Say(4, "Processes complete", 1,
-          IsWeb() ? "Conversion, uploading, and emailing complete" : "Conversion and emailing complete");
+      Say(4, Tr("Processes complete"), 1,
+          IsWeb() ? Tr("Conversion, uploading, and emailing complete") : Tr("Conversion and emailing complete"));
       return Finish({});
     case Phase::Over: break;
   }
@@ -140,10 +141,10 @@ Outcome SendJob::Begin() {
   if (!plan) return plan.Failure();
   plan_ = std::move(*plan);
   if (!MakeFolder(parts_.order.workFolder))
-    return Outcome::Failed("The folder for the converted videos could not be made: " + parts_.order.workFolder);
+    return Outcome::Failed(Tr("The folder for the converted videos could not be made: {}", parts_.order.workFolder));
   RemoveDeadParts(parts_.order.workFolder);
   phase_ = IsWeb() ? Phase::Check : Phase::Convert;
-  if (IsWeb()) Say(1, "Checking web for current content");
+  if (IsWeb()) Say(1, Tr("Checking web for current content"));
   return {};
 }
 
@@ -158,7 +159,8 @@ Outcome SendJob::CheckWeb() {
     if (!IsOfAnother(old_, parts_.order)) break;
     plan_.student = fmt::format("{}-{}", name, number);
   }
-  if (IsOfAnother(old_, parts_.order)) return Outcome::Failed("There are too many pages with this name on the server.");
+  if (IsOfAnother(old_, parts_.order))
+    return Outcome::Failed(Tr("There are too many pages with this name on the server."));
   AvoidOldNames(plan_, old_);
   phase_ = Phase::Convert;
   return {};
@@ -185,7 +187,7 @@ Outcome SendJob::ConvertSome() {
     next_ = 0;
     if (IsWeb()) MakeLogo();
     phase_ = IsWeb() ? Phase::List : Phase::Mail;
-    Say(2, IsWeb() ? "Uploading to web...." : "Preparing email");
+    Say(2, IsWeb() ? Tr("Uploading to web....") : Tr("Preparing email"));
     return {};
   }
   const SendItem& item = plan_.items[next_];
@@ -193,12 +195,12 @@ Outcome SendJob::ConvertSome() {
   auto state = WebConversion::State::Running;
   for (int i = 0; i < kPicturesAtOnce && state == WebConversion::State::Running; ++i) state = conversion_->Step();
   const double part = conversion_->Part();
-  Say(1, fmt::format("Converting video {} of {}", next_ + 1, plan_.items.size()),
+  Say(1, Tr("Converting video {} of {}", next_ + 1, plan_.items.size()),
       (static_cast<double>(next_) + part) / static_cast<double>(plan_.items.size()),
-      fmt::format("{}% complete", std::lround(part * 100)));
+      Tr("{}% complete", std::lround(part * 100)));
   if (state == WebConversion::State::Running) return {};
   if (state == WebConversion::State::Failed)
-    return Outcome::Failed("\"" + item.file.Name() + "\" could not be converted: " + conversion_->Error() + ".");
+    return Outcome::Failed(Tr("\"{}\" could not be converted: {}.", item.file.Name(), conversion_->Error()));
   frameSeconds_.push_back(conversion_->FrameSeconds());
   parts_.memory->converted[item.name] = {source_, frameSeconds_.back()};
   conversion_.reset();
@@ -209,7 +211,7 @@ Outcome SendJob::ConvertSome() {
 Outcome SendJob::BeginConversion() {
   const SendItem& item = plan_.items[next_];
   const auto stamp = StampOf(item.file.path);
-  if (!stamp) return Outcome::Failed("\"" + item.file.Name() + "\" could not be found.");
+  if (!stamp) return Outcome::Failed(Tr("\"{}\" could not be found.", item.file.Name()));
   source_ = *stamp;
   const auto made = parts_.memory->converted.find(item.name);
   const WebRequest request{.source = item.file.path, .wmv = Work(item.name + ".wmv"), .mp4 = Work(item.name + ".mp4")};
@@ -219,10 +221,10 @@ Outcome SendJob::BeginConversion() {
     ++next_;
     return {};
   }
-  Say(1, fmt::format("Converting video {} of {}", next_ + 1, plan_.items.size()),
+  Say(1, Tr("Converting video {} of {}", next_ + 1, plan_.items.size()),
       static_cast<double>(next_) / static_cast<double>(plan_.items.size()));
   auto opened = WebConversion::Open(request);
-  if (!opened) return Outcome::Failed("\"" + item.file.Name() + "\" could not be converted: " + opened.Why() + ".");
+  if (!opened) return Outcome::Failed(Tr("\"{}\" could not be converted: {}.", item.file.Name(), opened.Why()));
   conversion_ = std::move(*opened);
   return {};
 }
@@ -278,7 +280,7 @@ Outcome SendJob::UploadNext() {
   const auto at = uploads_.begin() + static_cast<std::ptrdiff_t>(next_);
   const double all = std::max(1.0, sum(uploads_.begin(), uploads_.end()));
   const double from = sum(uploads_.begin(), at) / all;
-  SendNews news{.step = 2, .words = "Uploading to web....", .detail = {}, .part = from};
+  SendNews news{.step = 2, .words = Tr("Uploading to web...."), .detail = {}, .part = from};
   BoardWatch watch(*parts_.board, std::move(news), from, static_cast<double>(at->bytes) / all);
   ++next_;
   return server_->Put(at->source, at->path, watch);
@@ -286,7 +288,7 @@ Outcome SendJob::UploadNext() {
 
 /// Playlist and page, once everything is there to which they lead. Somebody else may have sent something meanwhile.
 Outcome SendJob::SendPage() {
-  Say(2, "Uploading to web....", 1);
+  Say(2, Tr("Uploading to web...."), 1);
   if (Outcome read = ReadOld(); !read) return read;
   const std::string page = PageText(parts_.order, plan_, old_, frameSeconds_, logo_);
   const std::string playlist = PlaylistText(parts_.order, plan_, old_);
@@ -320,16 +322,16 @@ Outcome SendJob::MailNext() {
   const std::size_t readers = order.addresses.size();
   const std::size_t mails = readers * (IsWeb() ? 1 : plan_.items.size());
   if (!std::exchange(connecting_, true)) {
-    Say(3, "Connecting to Email Server");
+    Say(3, Tr("Connecting to Email Server"));
     return {};
   }
   if (next_ == mails) {
     phase_ = Phase::Clean;
-    Say(3, "Deleting temporary videos...", 1);
+    Say(3, Tr("Deleting temporary videos..."), 1);
     return {};
   }
   const std::string& reader = order.addresses[next_ % readers];
-  Say(3, "Sending email...", static_cast<double>(next_) / static_cast<double>(mails));
+  Say(3, Tr("Sending email..."), static_cast<double>(next_) / static_cast<double>(mails));
   MailMessage message = order.message;
   message.to = {reader};
   message.html = false;
@@ -340,8 +342,8 @@ Outcome SendJob::MailNext() {
     const SendItem& item = plan_.items[next_ / readers];
     const std::string wmv = Work(item.name + ".wmv"), mp4 = Work(item.name + ".mp4");
     const bool both = FileSize(wmv).value_or(0) + FileSize(mp4).value_or(0) <= kMostMailBytes;
-    message.subject += " - Videos Attached";
-    message.body = item.title + "\r\n\r\n" + (both ? kBothBody : kWmvBody);
+    message.subject = Tr("{} - Videos Attached", message.subject);
+    message.body = item.title + "\r\n\r\n" + Tr(both ? kBothBody : kWmvBody);
     message.attachments = {{.path = wmv, .name = item.name + ".wmv"}};
     if (both) message.attachments.push_back({.path = mp4, .name = item.name + ".mp4"});
     key += "\n" + item.name;
@@ -360,8 +362,7 @@ Outcome SendJob::Send(MailMessage message, const std::string& key, std::size_t m
   MailWatch watch(*parts_.board, news, news.part, message.attachments.empty() ? 0 : share, reader);
   bool closed = true;
   const Outcome sent = parts_.servers->Mail()->Send(parts_.order.mailServer, message, watch, closed);
-  if (!sent)
-    return sent.Kind() == Fault::Cancelled ? sent : Outcome(sent.Kind(), std::string(kMailFault) + "\n\n" + sent.Why());
+  if (!sent) return sent.Kind() == Fault::Cancelled ? sent : Outcome(sent.Kind(), Tr(kMailFault) + "\n\n" + sent.Why());
   parts_.memory->mailed.insert(key);
   closedBadly_ = closedBadly_ || !closed;
   return {};

@@ -8,12 +8,15 @@
 #include "distribution/web/WebNames.h"
 #include "library/VideoNames.h"
 #include "platform/files/TextEncoding.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 namespace {
 
-constexpr const char* kNoNames = "You must fill in your name and Company name in Program Setup to use this feature.";
-constexpr const char* kNoSpace = "Enter the web address and the FTP address of your web space in Program Setup first.";
+constexpr const char* kNoNames =
+    TrLater("You must fill in your name and Company name in Program Setup to use this feature.");
+constexpr const char* kNoSpace =
+    TrLater("Enter the web address and the FTP address of your web space in Program Setup first.");
 constexpr std::string_view kNoCompany = "Company Name";  // as it stands before anybody has filled it in
 constexpr std::string_view kFolder = "videos/";
 
@@ -51,16 +54,16 @@ bool IsReplaced(const SendPlan& plan, std::string_view file) {
 
 Result<SendPlan> PlanSend(const SendOrder& order) {
   if (IsBlankText(order.coach) || IsBlankText(order.company) || order.company == kNoCompany)
-    return Outcome(Fault::Refused, kNoNames);
+    return Outcome(Fault::Refused, Tr(kNoNames));
   SendPlan plan{.company = CleanWebName(order.company), .student = CleanWebName(order.student), .items = {}};
   if (plan.company.empty())
-    return Outcome(Fault::Refused, "There was a problem creating the company name for the web page.");
+    return Outcome(Fault::Refused, Tr("There was a problem creating the company name for the web page."));
   if (plan.student.empty())
-    return Outcome(Fault::Refused, "There was a problem creating the " + order.noun + " name for the web page.");
-  if (!order.mailMissing.empty()) return Outcome(Fault::Refused, std::string(kMailFault) + "\n\n" + order.mailMissing);
+    return Outcome(Fault::Refused, Tr("There was a problem creating the {} name for the web page.", order.noun));
+  if (!order.mailMissing.empty()) return Outcome(Fault::Refused, Tr(kMailFault) + "\n\n" + order.mailMissing);
   const bool web = order.mode == SendOrder::Mode::Web;
   if (web && (order.space.address.host.empty() || IsBlankText(order.webAddress)))
-    return Outcome(Fault::Refused, kNoSpace);
+    return Outcome(Fault::Refused, Tr(kNoSpace));
   std::set<std::string> taken;
   for (const FileToSend& file : order.files) {
     const std::string shown = VideoName(file.Name());
@@ -143,7 +146,7 @@ std::string PlaylistText(const SendOrder& order, const SendPlan& plan, const Old
 }
 
 std::string LinkMail(const SendOrder& order, const SendPlan& plan) {
-  return "Click the link below to view your video lesson.\r\n" +
+  return Tr("Click the link below to view your video lesson.") + "\r\n" +
          WebLink(order.webAddress, plan.Folder() + "/index.html");
 }
 

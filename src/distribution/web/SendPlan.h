@@ -8,6 +8,7 @@
 #include "distribution/web/PlayerPage.h"
 #include "distribution/web/Playlist.h"
 #include "platform/files/Result.h"
+#include "platform/files/Tr.h"
 #include "platform/net/IFileServer.h"
 #include "platform/net/IMailSender.h"
 
@@ -62,7 +63,7 @@ struct OldContent {
 };
 
 inline constexpr const char* kMailFault =
-    "Error sending email. Check your email settings in the Program Setup section.";
+    TrLater("Error sending email. Check your email settings in the Program Setup section.");
 
 /// Names all that an order wants; fails, in words for the user, where something is missing.
 Result<SendPlan> PlanSend(const SendOrder& order);

@@ -2,33 +2,35 @@
 
 #include <utility>
 
+#include "platform/files/Tr.h"
+
 namespace kinalyx {
 namespace {
 
 constexpr int kUnloadMs = 5000;
-constexpr const char* kBadGoodbye = "Connection to SMTP server not closed cleanly.";
+constexpr const char* kBadGoodbye = TrLater("Connection to SMTP server not closed cleanly.");
 
 }  // namespace
 
 const char* ButtonOf(SendPhase phase) {
   switch (phase) {
-    case SendPhase::Ready: return "Create Now";
-    case SendPhase::Running: return "Cancel";
-    case SendPhase::Cancelling: return "Cancelling...";
-    case SendPhase::Failed: return "Try Again";
-    case SendPhase::Done: return "Close";
+    case SendPhase::Ready: return TrLater("Create Now");
+    case SendPhase::Running: return TrLater("Cancel");
+    case SendPhase::Cancelling: return TrLater("Cancelling...");
+    case SendPhase::Failed: return TrLater("Try Again");
+    case SendPhase::Done: return TrLater("Close");
   }
   return "";
 }
 
 SendWords WordsOf(SendOrder::Mode mode) {
   if (mode == SendOrder::Mode::Web)
-    return {.title = "Send Videos to Web Server",
-            .steps = {"Step 1) Convert videos for the web.", "Step 2) Upload videos to the web.",
-                      "Step 3) Create and Send email(s)."}};
-  return {
-      .title = "Send Videos to Email Addresses",
-      .steps = {"Step 1) Convert videos for email.", "Step 2) Prepare to send.", "Step 3) Create and Send email(s)."}};
+    return {.title = TrLater("Send Videos to Web Server"),
+            .steps = {TrLater("Step 1) Convert videos for the web."), TrLater("Step 2) Upload videos to the web."),
+                      TrLater("Step 3) Create and Send email(s).")}};
+  return {.title = TrLater("Send Videos to Email Addresses"),
+          .steps = {TrLater("Step 1) Convert videos for email."), TrLater("Step 2) Prepare to send."),
+                    TrLater("Step 3) Create and Send email(s).")}};
 }
 
 /// What becomes of a job, for as long as there is a session.
@@ -51,12 +53,12 @@ SendSession::~SendSession() {
 }
 
 Outcome SendSession::Take(SendOrder order) {
-  if (runner_.Busy()) return {Fault::Refused, "Videos are still being sent."};
+  if (runner_.Busy()) return {Fault::Refused, Tr("Videos are still being sent.")};
   if (const auto plan = PlanSend(order); !plan) return plan.Failure();
   Leave();
   (void)MakeFolder(FolderOf(order.workFolder));
   auto lock = std::make_unique<FileLock>(order.workFolder, 0);
-  if (lock->Busy()) return {Fault::Refused, "Another window is sending videos. Wait until it has finished."};
+  if (lock->Busy()) return {Fault::Refused, Tr("Another window is sending videos. Wait until it has finished.")};
   lock_ = std::move(lock);
   RemoveWorkFolder(order.workFolder);
   order_ = std::move(order);
@@ -101,12 +103,12 @@ void SendSession::Over(IJob* job) {
   }
   if (!send || send->How().Kind() == kinalyx::Fault::Cancelled) {
     phase_ = SendPhase::Ready;
-    board_->Tell({.step = 0, .words = "Cancelled", .detail = {}, .part = 0});
+    board_->Tell({.step = 0, .words = Tr("Cancelled"), .detail = {}, .part = 0});
   } else if (send->How()) {
     phase_ = SendPhase::Done;
     if (send->ClosedBadly()) {
       SendNews news = board_->News();
-      news.detail += std::string("\n") + kBadGoodbye;
+      news.detail += "\n" + Tr(kBadGoodbye);
       board_->Tell(news);
     }
     unloadTimer_ = HostTimer(host_, kUnloadMs, false, [this] {

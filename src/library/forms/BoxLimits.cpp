@@ -28,11 +28,11 @@ QString Cut(const QString& name) {
 }
 
 QString WhatIsWrong(const QString& name) {
-  if (name.startsWith('.')) return "A name cannot begin with a dot.";
+  if (name.startsWith('.')) return QObject::tr("A name cannot begin with a dot.");
   for (const QChar& letter : name) {
     if (letter.isSurrogate() || IsValidName(Std("a" + QString(letter)))) continue;
-    return letter.isPrint() ? QString("A name cannot contain %1").arg(letter)
-                            : QString("A name cannot contain control characters.");
+    return letter.isPrint() ? QObject::tr("A name cannot contain %1").arg(letter)
+                            : QObject::tr("A name cannot contain control characters.");
   }
   return {};
 }
@@ -46,7 +46,7 @@ void LimitToNames(QLineEdit& box, QLabel& note) {
       const int cursor = box.cursorPosition();
       box.setText(cut);  // looks again
       box.setCursorPosition(cursor);
-      if (words.isEmpty()) words = "A name cannot be longer.";
+      if (words.isEmpty()) words = QObject::tr("A name cannot be longer.");
     }
     if (box.isReadOnly()) words.clear();  // it is as it is
     note.setText(words);
@@ -59,7 +59,7 @@ void LimitToNames(QLineEdit& box, QLabel& note) {
 void LimitLength(QLineEdit& box, QLabel& note, int characters) {
   box.setMaxLength(characters);
   QObject::connect(&box, &QLineEdit::textChanged, &note, [&note, characters](const QString& text) {
-    note.setText(text.size() >= characters ? QString("%1 characters at most").arg(characters) : QString());
+    note.setText(text.size() >= characters ? QObject::tr("%1 characters at most").arg(characters) : QString());
   });
 }
 

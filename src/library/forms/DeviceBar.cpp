@@ -24,9 +24,9 @@ DeviceBar::DeviceBar(IHost& host, const Settings& settings, DeviceWatch::Environ
   row->setSpacing(8);
   words_ = MakeLabel("DeviceWords", {});
   LeastWidth(words_, 40);
-  auto* show = new Button("DeviceShow", "Show");
-  auto* later = new Button("DeviceLater", "Not Now", {}, Look::Quiet);
-  later->setToolTip("Not before it is plugged in again");
+  auto* show = new Button("DeviceShow", tr("Show"));
+  auto* later = new Button("DeviceLater", tr("Not Now"), {}, Look::Quiet);
+  later->setToolTip(tr("Not before it is plugged in again"));
   row->addWidget(words_, 1);
   row->addWidget(show);
   row->addWidget(later);

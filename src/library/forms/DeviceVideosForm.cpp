@@ -75,7 +75,7 @@ DeviceVideosForm::DeviceVideosForm(IHost& host, DriveWatch::Send send, QWidget* 
     rows->addWidget(row);
   tick_ = new Button("DeviceTick", {}, {}, Look::Quiet);
   tick_->setProperty("square", false);
-  cancel_ = new Button("DeviceCancel", "Cancel", {}, Look::Quiet);
+  cancel_ = new Button("DeviceCancel", tr("Cancel"), {}, Look::Quiet);
   add_ = new Button("DeviceAdd", {}, "plus");
   add_->setProperty("square", false);
   add_->setDefault(true);
@@ -94,11 +94,11 @@ DeviceVideosForm::DeviceVideosForm(IHost& host, DriveWatch::Send send, QWidget* 
 void DeviceVideosForm::MakeList() {
   list_ = new QTreeWidget;
   list_->setObjectName("DeviceList");
-  list_->setAccessibleName("Videos on the device");
+  list_->setAccessibleName(tr("Videos on the device"));
   list_->setRootIsDecorated(false);
   list_->setUniformRowHeights(true);
   list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  list_->setHeaderLabels({"Video", "Date", "Length", "Size", "Library"});
+  list_->setHeaderLabels({tr("Video"), tr("Date"), tr("Length"), tr("Size"), tr("Library")});
   list_->header()->setSectionsMovable(false);
   list_->header()->setStretchLastSection(true);
   list_->headerItem()->setTextAlignment(kLength, Qt::AlignRight | Qt::AlignVCenter);
@@ -112,10 +112,10 @@ void DeviceVideosForm::MakeList() {
 void DeviceVideosForm::Open(const OfferedDevice& device, const std::string& student) {
   device_ = device;
   gone_ = false;
-  const QString title = "Videos on \"" + Q(device_.place.name) + "\"";
+  const QString title = tr("Videos on \"%1\"").arg(Q(device_.place.name));
   setWindowTitle(title);
   title_->setText(title);
-  text_->setText("What is ticked is copied to " + Q(student) + ". Nothing is changed on the device.");
+  text_->setText(tr("What is ticked is copied to %1. Nothing is changed on the device.").arg(Q(student)));
   note_->clear();
   ScaleForm(*this, *parentWidget());
   Fill();
@@ -137,7 +137,7 @@ void DeviceVideosForm::Fill() {
                                       DateOf(video),
                                       {},
                                       Q(FormatFileSize(video.bytes)),
-                                      video.inLibrary ? "Is there" : "New"});
+                                      video.inLibrary ? tr("Is there") : tr("New")});
     item->setIcon(kVideo, empty);
     item->setToolTip(kVideo, Q(video.path));
     item->setCheckState(kVideo, video.inLibrary ? Qt::Unchecked : Qt::Checked);
@@ -152,7 +152,7 @@ void DeviceVideosForm::Fill() {
 void DeviceVideosForm::ShowGone() {
   gone_ = true;
   StopLooking();
-  note_->setText("\"" + Q(device_.place.name) + "\" has been unplugged.");
+  note_->setText(tr("\"%1\" has been unplugged.").arg(Q(device_.place.name)));
   ShowAction();
 }
 
@@ -169,9 +169,9 @@ std::vector<std::string> DeviceVideosForm::Ticked() const {
 
 void DeviceVideosForm::ShowAction() {
   const std::size_t count = Ticked().size();
-  add_->setText(count == 0 ? "Add Videos" : count == 1 ? "Add 1 Video" : QString("Add %1 Videos").arg(count));
+  add_->setText(count == 0 ? tr("Add Videos") : count == 1 ? tr("Add 1 Video") : tr("Add %1 Videos").arg(count));
   add_->setEnabled(count > 0 && !gone_);
-  tick_->setText(count > 0 ? "Tick None" : "Tick New");
+  tick_->setText(count > 0 ? tr("Tick None") : tr("Tick New"));
 }
 
 /// Takes all ticks away, or, when there are none, ticks what is new.
@@ -201,7 +201,7 @@ void DeviceVideosForm::GoOnLooking() {
   if (errand_) {
     if (!errand_->Over(0)) {
       if (host_.timeGetTime() - lookBegan_ > kPatienceMs)
-        note_->setText("\"" + Q(device_.place.name) + "\" is not answering.");
+        note_->setText(tr("\"%1\" is not answering.").arg(Q(device_.place.name)));
       return;
     }
     ShowLook();

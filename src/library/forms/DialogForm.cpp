@@ -12,6 +12,7 @@
 #include "library/forms/BoxLimits.h"
 #include "library/forms/DriveChoice.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/NameList.h"
 #include "platform/widgets/Panel.h"
@@ -98,7 +99,7 @@ DialogForm::DialogForm(IHost& host, Settings& settings, QWidget* over)
        {static_cast<QWidget*>(title_), static_cast<QWidget*>(text_), renamePanel_, movePanel_, copyPanel_})
     rows->addWidget(row);
   auto* actions = new QHBoxLayout;
-  cancel_ = new Button("DialogCancel", "Cancel", {}, Look::Quiet);
+  cancel_ = new Button("DialogCancel", tr("Cancel"), {}, Look::Quiet);
   action_ = new Button("SSCommand1", {}, "rename");
   action_->setProperty("square", false);
   actions->addStretch(1);
@@ -133,12 +134,12 @@ QWidget* DialogForm::MakeMovePanel() {
   columns->setContentsMargins(0, 0, 0, 0);
   columns->setSpacing(kGap);
   databases_ = new NameList("MoveDatabases");
-  databases_->setAccessibleName("Databases");
-  databases_->SetHint("There is no other database. Add one first.");
+  databases_->setAccessibleName(tr("Databases"));
+  databases_->SetHint(tr("There is no other database. Add one first."));
   students_ = new NameList("MoveStudents");
   studentsTitle_ = MakeLabel("MoveStudentsTitle", {}, "heading");
   studentsPart_ = Framed(studentsTitle_, students_);
-  columns->addWidget(Framed(MakeLabel("MoveDatabasesTitle", "Databases", "heading"), databases_), 1);
+  columns->addWidget(Framed(MakeLabel("MoveDatabasesTitle", tr("Databases"), "heading"), databases_), 1);
   columns->addWidget(studentsPart_, 1);
   FixSize(panel, {460, 260});
   connect(databases_, &QListWidget::itemSelectionChanged, this, [this] {
@@ -203,37 +204,48 @@ DialogForm::Words DialogForm::WordsOfMode() const {
   const std::string student = Short(*title_, about_.student);
   const std::string instructor = Short(*title_, about_.instructor);
   const bool several = videos_ > 1;
-  const std::string these = std::to_string(videos_) + " videos";
   switch (mode_) {
     case Mode::RenameInstructor:
-      return {"Rename Instructor or Database", "Type the new name of " + instructor + ".", "Rename"};
+      return {Tr("Rename Instructor or Database"), Tr("Type the new name of {}.", instructor), Tr("Rename")};
     case Mode::DeleteInstructor:
-      return {"Delete Instructor or Database",
-              "This will remove " + instructor + " from your system. It must not hold any " + words.nouns() +
-                  " or videos any more.",
-              "Delete"};
-    case Mode::RenameStudent: return {words.Rename(), "Type the new name of " + student + ".", "Rename"};
-    case Mode::MoveStudent: return {words.MoveThis() + ": " + student, texts.moveStudent, "Move"};
+      return {Tr("Delete Instructor or Database"),
+              Tr("This will remove {} from your system. It must not hold any {} or videos any more.", instructor,
+                 words.nouns()),
+              Tr("Delete")};
+    case Mode::RenameStudent: return {words.Rename(), Tr("Type the new name of {}.", student), Tr("Rename")};
+    case Mode::MoveStudent: return {words.MoveThis() + ": " + student, texts.moveStudent, Tr("Move")};
     case Mode::DeleteStudent:
       return {words.DeleteThis() + ": " + student, texts.deleteWarning + "\n\n" + goes_ + texts.deleteFinish,
-              "Delete " + words.Noun()};
-    case Mode::RenameVideo: return {"Rename Video", "Type the new name of " + video + ".", "Rename"};
+              Tr("Delete {}", words.Noun())};
+    case Mode::RenameVideo: return {Tr("Rename Video"), Tr("Type the new name of {}.", video), Tr("Rename")};
     case Mode::MoveVideo:
-      return {several ? "Move these " + these : "Move this video: " + video,
-              "Select the Database and the " + words.noun() + " that you want to move the " +
-                  (several ? "videos" : "video") + " to and click the \"Move\" button.",
-              "Move"};
+      return {
+          several ? Tr("Move these {} videos", videos_) : Tr("Move this video: {}", video),
+          several
+              ? Tr("Select the Database and the {} that you want to move the videos to and click the \"Move\" button.",
+                   words.noun())
+              : Tr("Select the Database and the {} that you want to move the video to and click the \"Move\" button.",
+                   words.noun()),
+          Tr("Move")};
     case Mode::CopyVideo:
-      return {several ? "Copy Videos to a Disk" : "Copy Video to a Disk",
-              "Copies the " + (several ? these + " with their" : "video " + video + " with its") +
-                  " drawings and notes. Select the removeable disk, or any other folder.",
-              "Copy"};
+      return {
+          several ? Tr("Copy Videos to a Disk") : Tr("Copy Video to a Disk"),
+          several
+              ? Tr("Copies the {} videos with their drawings and notes. Select the removeable disk, or any other "
+                   "folder.",
+                   videos_)
+              : Tr("Copies the video {} with its drawings and notes. Select the removeable disk, or any other folder.",
+                   video),
+          Tr("Copy")};
     case Mode::DeleteVideo:
-      return {several ? "Delete these " + these : "Delete this video: " + video,
-              "Warning! This will remove the " + (several ? these + " with their" : "video with its") +
-                  " drawings and notes from your system.\n\n" + goes_ + "Click the Delete " +
-                  (several ? "Videos" : "Video") + " button to finish.",
-              several ? "Delete Videos" : "Delete Video"};
+      return {several ? Tr("Delete these {} videos", videos_) : Tr("Delete this video: {}", video),
+              (several ? Tr("Warning! This will remove the {} videos with their drawings and notes from your system.",
+                            videos_)
+                       : Tr("Warning! This will remove the video with its drawings and notes from your system.")) +
+                  "\n\n" + goes_ +
+                  (several ? Tr("Click the Delete Videos button to finish.")
+                           : Tr("Click the Delete Video button to finish.")),
+              several ? Tr("Delete Videos") : Tr("Delete Video")};
   }
   return {};
 }
@@ -266,8 +278,8 @@ void DialogForm::OpenRename() {
   const bool instructor = mode_ == Mode::RenameInstructor;
   oldName_ = instructor ? about_.instructor : mode_ == Mode::RenameStudent ? about_.student : VideoOf(about_);
   nameTitle_->setText(mode_ == Mode::RenameStudent ? Q(Vocabulary(settings_).Name())
-                      : instructor                 ? "Name"
-                                                   : "Video Name");
+                      : instructor                 ? tr("Name")
+                                                   : tr("Video Name"));
   name_->setAccessibleName(nameTitle_->text());
   name_->setText(Q(oldName_));
   name_->selectAll();
@@ -308,7 +320,7 @@ void DialogForm::ShowStudents() {
   const Vocabulary words(settings_);
   studentsTitle_->setText(Q(words.Select()));
   students_->setAccessibleName(Q(words.Nouns()));
-  students_->SetHint(Database().empty() ? "Choose a database first." : QString("No %1 here.").arg(Q(words.nouns())));
+  students_->SetHint(Database().empty() ? tr("Choose a database first.") : tr("No %1 here.").arg(Q(words.nouns())));
   const auto students = Read([database = Database()](const LibraryTree& tree) { return tree.Students(database); });
   const auto last = std::ranges::find(students, lastStudent_);
   const bool again = Database() == lastDatabase_ && last != students.end();
@@ -317,12 +329,12 @@ void DialogForm::ShowStudents() {
 
 /// A drive that is slow to answer must not keep the form from showing.
 void DialogForm::ReadDrive() {
-  space_->setText(Drive().empty() ? QString() : QString(kReadingDisk));
+  space_->setText(Drive().empty() ? QString() : tr(kReadingDisk));
   ShowAction();
   if (Drive().empty()) return;
   reading_ = HostTimer(host_, 0, false, [this] {
     const auto text = host_.Drives().Ask(Drive(), [drive = Drive()] { return RemoveableDiskText(drive); });
-    space_->setText(text ? Q(*text) : QString("The drive is not answering."));
+    space_->setText(text ? Q(*text) : tr("The drive is not answering."));
   });
 }
 

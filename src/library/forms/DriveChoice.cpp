@@ -6,6 +6,7 @@
 
 #include "library/DiskSpace.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/host/DriveWatch.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Scale.h"
@@ -20,12 +21,12 @@ DriveChoice::DriveChoice(const QString& name, IHost& host, Settings& settings, Q
   row->setSpacing(6);
   list_ = new QComboBox;
   list_->setObjectName(name);
-  list_->setAccessibleName("Drive or folder");
-  list_->setPlaceholderText("Choose a drive or folder");
+  list_->setAccessibleName(tr("Drive or folder"));
+  list_->setPlaceholderText(tr("Choose a drive or folder"));
   LeastWidth(list_, 120);
   list_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  auto* browse = new Button(name + "Browse", "Browse...", {}, Look::Quiet);
-  browse->setToolTip("Choose any folder");
+  auto* browse = new Button(name + "Browse", tr("Browse..."), {}, Look::Quiet);
+  browse->setToolTip(tr("Choose any folder"));
   row->addWidget(list_, 1);
   row->addWidget(browse);
   connect(list_, &QComboBox::activated, this, [this] { Store(Path()); });
@@ -53,7 +54,7 @@ std::string DriveChoice::Path() const { return Std(list_->currentText()); }
 void DriveChoice::Browse() {
   const bool there = host_.Drives().Ask(Path(), [path = Path()] { return dirExists(path); }).value_or(false);
   const std::string at = there ? Path() : std::string();
-  if (const auto folder = host_.PickFolder("Select a drive or folder for your videos.", at)) Store(*folder);
+  if (const auto folder = host_.PickFolder(Tr("Select a drive or folder for your videos."), at)) Store(*folder);
 }
 
 void DriveChoice::Store(const std::string& path) {

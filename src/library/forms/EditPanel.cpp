@@ -25,8 +25,8 @@ EditPanel::EditPanel(PreviewPlayer& preview, const QString& help, QWidget* paren
   rows->addWidget(text);
   QLabel* warning = MakeLabel(
       "EditWarning",
-      "Save writes over the video itself: the frames outside cannot be brought back. An MP4 or MOV may keep a "
-      "few of them in the file, hidden, because others are built on them.",
+      tr("Save writes over the video itself: the frames outside cannot be brought back. An MP4 or MOV may keep a "
+         "few of them in the file, hidden, because others are built on them."),
       "muted");
   warning->setWordWrap(true);
   rows->addWidget(warning);
@@ -36,13 +36,13 @@ EditPanel::EditPanel(PreviewPlayer& preview, const QString& help, QWidget* paren
 
   auto* row = new QHBoxLayout;
   row->setSpacing(6);
-  auto* play = IconButton("EditPlay", "play", "Play what is kept (Space)", Look::Quiet);
-  auto* start = new Button("StartHerebtn", "Start Here", {}, Look::Quiet);
-  start->setToolTip("The video begins with the frame that is shown (S)");
-  auto* end = new Button("EndHerebtn", "End Here", {}, Look::Quiet);
-  end->setToolTip("The video ends with the frame that is shown (E)");
-  auto* cancel = new Button("EditCancelBtn", "Cancel", {}, Look::Quiet);
-  save_ = new Button("EditSaveBtn", "Save", "check");
+  auto* play = IconButton("EditPlay", "play", tr("Play what is kept (Space)"), Look::Quiet);
+  auto* start = new Button("StartHerebtn", tr("Start Here"), {}, Look::Quiet);
+  start->setToolTip(tr("The video begins with the frame that is shown (S)"));
+  auto* end = new Button("EndHerebtn", tr("End Here"), {}, Look::Quiet);
+  end->setToolTip(tr("The video ends with the frame that is shown (E)"));
+  auto* cancel = new Button("EditCancelBtn", tr("Cancel"), {}, Look::Quiet);
+  save_ = new Button("EditSaveBtn", tr("Save"), "check");
   for (Button* button : {play, start, end}) row->addWidget(button);
   row->addStretch(1);
   row->addWidget(cancel);
@@ -81,7 +81,7 @@ void EditPanel::PlayKept() { preview_.TogglePlay(HScroll1_->Start(), HScroll1_->
 void EditPanel::ShowRange() {
   const int kept = HScroll1_->End() - HScroll1_->Start() + 1;
   range_->setText(HScroll1_->Frames() == 0 ? QString()
-                                           : QString("Start at %1   End at %2   %3 of %4 frames")
+                                           : tr("Start at %1   End at %2   %3 of %4 frames")
                                                  .arg(HScroll1_->Start())
                                                  .arg(HScroll1_->End())
                                                  .arg(kept)

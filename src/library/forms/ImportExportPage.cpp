@@ -15,6 +15,7 @@
 #include "library/forms/LibrarySide.h"
 #include "library/forms/ProgressForm.h"
 #include "library/forms/StatusLine.h"
+#include "platform/files/Tr.h"
 #include "platform/host/DriveWatch.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/FileDrop.h"
@@ -56,9 +57,9 @@ ImportExportPage::ImportExportPage(IHost& host, Settings& settings, LibraryOpera
 
   auto* sides = new QHBoxLayout;
   sides->setSpacing(kGap);
-  here_ =
-      new LibrarySide(host.Drives(), "This Library", settings, LibraryTree(settings), {"List4", "List5", "List6"}, 0);
-  there_ = new LibrarySide(host.Drives(), "Drive or Folder", settings, LibraryTree(otherRoot_),
+  here_ = new LibrarySide(host.Drives(), tr("This Library"), settings, LibraryTree(settings),
+                          {"List4", "List5", "List6"}, 0);
+  there_ = new LibrarySide(host.Drives(), tr("Drive or Folder"), settings, LibraryTree(otherRoot_),
                            {"List7", "List8", "List9"}, 1);
   sides->addWidget(here_, 1);
   sides->addLayout(MakeCommands());
@@ -94,11 +95,12 @@ QLayout* ImportExportPage::MakeCommands() {
     const char* caption;
     const char* icon;
     const char* tip;
-  } kButtons[] = {{kExport, "Export", "chevron-right", "Copy the selected videos of this library to the drive"},
-                  {kImport, "Import", "chevron-left", "Copy the selected videos of the drive into this library"}};
+  } kButtons[] = {
+      {kExport, TrLater("Export"), "chevron-right", TrLater("Copy the selected videos of this library to the drive")},
+      {kImport, TrLater("Import"), "chevron-left", TrLater("Copy the selected videos of the drive into this library")}};
   for (const auto& [command, caption, icon, tip] : kButtons) {
-    auto* button = new Button(QString("IECmd%1").arg(command), caption, icon);
-    button->setToolTip(tip);
+    auto* button = new Button(QString("IECmd%1").arg(command), tr(caption), icon);
+    button->setToolTip(tr(tip));
     if (command == kExport) button->setLayoutDirection(Qt::RightToLeft);  // the arrow points where the videos go
     connect(button, &QPushButton::clicked, this, [this, command = command] { IECmd_Click(command); });
     middle->addWidget(button);
@@ -127,11 +129,10 @@ QLayout* ImportExportPage::MakeDriveChoice(IHost& host, Settings& settings) {
 
 void ImportExportPage::SetupVocabulary() {
   const Vocabulary words(settings_);
-  help_->setText(
-      QString("Select an instructor, a %1 and the videos on one side, then choose Export or Import. Each video "
-              "takes its drawings and notes along, and a %1 who is new on the other side brings the profile. "
-              "Videos from a plain folder, shown under General Folder, come to the %1 chosen in this library.")
-          .arg(Q(words.noun())));
+  help_->setText(tr("Select an instructor, a %1 and the videos on one side, then choose Export or Import. Each video "
+                    "takes its drawings and notes along, and a %1 who is new on the other side brings the profile. "
+                    "Videos from a plain folder, shown under General Folder, come to the %1 chosen in this library.")
+                     .arg(Q(words.noun())));
   here_->SetupVocabulary();
   there_->SetupVocabulary();
 }
@@ -158,7 +159,7 @@ void ImportExportPage::OpenDrive() {
 void ImportExportPage::DiskSpaceGauge() {
   SpaceFlood_->setVisible(!otherRoot_.empty());  // an empty bar would read as a full drive
   if (otherRoot_.empty()) {
-    Label6_->setText("Choose a drive or folder first.");
+    Label6_->setText(tr("Choose a drive or folder first."));
     return;
   }
   const auto asked = host_.Drives().Ask(otherRoot_, [drive = otherRoot_] { return kinalyx::DiskSpaceGauge(drive); });
@@ -174,8 +175,9 @@ void ImportExportPage::DiskSpaceGauge() {
 void ImportExportPage::IECmd_Click(int command) {
   const bool out = command == kExport;
   const auto videos = (out ? here_ : there_)->Chosen();
-  if (out && !videos.empty() && otherRoot_.empty()) return Say("Choose a drive or folder first.");
-  auto events = progress_->Begin(out ? "Export Videos" : "Import Videos", std::make_shared<Transfer>(*this, out));
+  if (out && !videos.empty() && otherRoot_.empty()) return Say(tr("Choose a drive or folder first."));
+  auto events =
+      progress_->Begin(out ? tr("Export Videos") : tr("Import Videos"), std::make_shared<Transfer>(*this, out));
   if (out) operations_.ExportVideos(videos, otherRoot_, std::move(events));
   else operations_.ImportVideos(videos, std::move(events), TargetOfLooseVideos());
 }
@@ -183,15 +185,15 @@ void ImportExportPage::IECmd_Click(int command) {
 /// Files from elsewhere come to who is chosen in this library.
 void ImportExportPage::TakeDropped(const std::vector<std::string>& paths) {
   const ImportTarget target{here_->Browser().Instructor(), here_->Browser().Student()};
-  operations_.AddVideos(paths, target, progress_->Begin("Add Videos", std::make_shared<Transfer>(*this, false)));
+  operations_.AddVideos(paths, target, progress_->Begin(tr("Add Videos"), std::make_shared<Transfer>(*this, false)));
 }
 
 void ImportExportPage::ShowDropTarget() {
   const LibraryBrowser& library = here_->Browser();
-  if (library.HasStudent()) Say("Drop to copy the videos to " + Q(library.Student()) + ".");
+  if (library.HasStudent()) Say(tr("Drop to copy the videos to %1.").arg(Q(library.Student())));
   else if (library.IsGeneralFolder() || library.IsQuickLaunch())
-    Say("Drop to copy the videos to " + Q(library.Instructor()) + ".");
-  else Say("Select the " + Q(Vocabulary(settings_).noun()) + " who is to get the videos first.");
+    Say(tr("Drop to copy the videos to %1.").arg(Q(library.Instructor())));
+  else Say(tr("Select the %1 who is to get the videos first.").arg(Q(Vocabulary(settings_).noun())));
 }
 
 /// What has arrived is shown where it is; what was chosen stays chosen no longer.

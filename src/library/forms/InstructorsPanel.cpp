@@ -12,7 +12,7 @@
 namespace kinalyx {
 
 InstructorsPanel::InstructorsPanel(NameList* list, QWidget* parent)
-    : Panel("InstructorsTitle", "Instructors", parent), list_(list) {
+    : Panel("InstructorsTitle", tr("Instructors"), parent), list_(list) {
   LeastWidth(this, 144);
   Body()->addWidget(list_, 1);
 
@@ -21,8 +21,8 @@ InstructorsPanel::InstructorsPanel(NameList* list, QWidget* parent)
   rows->setContentsMargins(8, 8, 8, 0);
   Text2_ = new QLineEdit;
   Text2_->setObjectName("Text2");
-  Text2_->setPlaceholderText("Name");
-  Text2_->setAccessibleName("Name of the new instructor or database");
+  Text2_->setPlaceholderText(tr("Name"));
+  Text2_->setAccessibleName(tr("Name of the new instructor or database"));
   QLabel* note = MakeLabel("Text2Note", {}, "muted");
   note->setWordWrap(true);
   note->setContentsMargins(0, 0, 0, 4);
@@ -32,14 +32,14 @@ InstructorsPanel::InstructorsPanel(NameList* list, QWidget* parent)
   nameBox_->hide();
   Body()->addWidget(nameBox_);
 
-  add_ = new Button("SSCommand2", "Add New");
-  add_->setToolTip("Add an instructor or database to the library");
+  add_ = new Button("SSCommand2", tr("Add New"));
+  add_->setToolTip(tr("Add an instructor or database to the library"));
   Foot()->addWidget(add_);
   Foot()->addStretch(1);
   rename_ = HeadButton("RenameInstructorBtn", {}, "rename");
-  rename_->setToolTip("Rename the current instructor or database");
+  rename_->setToolTip(tr("Rename the current instructor or database"));
   delete_ = HeadButton("DeleteInstructorBtn", {}, "trash");
-  delete_->setToolTip("Delete the current instructor or database, which must be empty");
+  delete_->setToolTip(tr("Delete the current instructor or database, which must be empty"));
   auto* tools = new QHBoxLayout;
   tools->setSpacing(0);
   for (Button* button : {rename_, delete_}) {
@@ -55,7 +55,7 @@ InstructorsPanel::InstructorsPanel(NameList* list, QWidget* parent)
 
 void InstructorsPanel::ShowNameBox(bool shown) {
   nameBox_->setVisible(shown);
-  add_->setText(shown ? "Save" : "Add New");
+  add_->setText(shown ? tr("Save") : tr("Add New"));
   Text2_->clear();
   if (shown) Text2_->setFocus();
 }

@@ -5,6 +5,7 @@
 
 #include "library/forms/HeadButton.h"
 #include "library/forms/StatusLine.h"
+#include "platform/files/Tr.h"
 #include "platform/widgets/NameList.h"
 #include "platform/widgets/Text.h"
 
@@ -23,14 +24,14 @@ constexpr ButtonLook kLooks[] = {
     {LibraryAction::RenameStudent, "", "rename"},
     {LibraryAction::MoveStudent, "", "move"},
     {LibraryAction::DeleteStudent, "", "trash"},
-    {LibraryAction::SendToAnalysis, "Analyze", "analyze"},
+    {LibraryAction::SendToAnalysis, TrLater("Analyze"), "analyze"},
     {LibraryAction::Trim, "", "trim"},
     {LibraryAction::RenameVideo, "", "rename"},
     {LibraryAction::MoveVideo, "", "move"},
     {LibraryAction::CopyVideo, "", "copy"},
     {LibraryAction::DeleteVideo, "", "trash"},
     {LibraryAction::Profile, "", "notes"},
-    {LibraryAction::QuickLaunch, "Quick Launch +", ""},
+    {LibraryAction::QuickLaunch, TrLater("Quick Launch +"), ""},
 };
 
 }  // namespace
@@ -42,7 +43,7 @@ LibraryButtons::LibraryButtons(const Settings& settings, StatusLine& status, QOb
     buttons_[static_cast<std::size_t>(action)] = button;
     connect(button, &QPushButton::clicked, this, [this, action] { emit Wanted(action); });
   };
-  for (const auto& [action, caption, icon] : kLooks) add(action, new Button(name(action), caption, icon));
+  for (const auto& [action, caption, icon] : kLooks) add(action, new Button(name(action), QObject::tr(caption), icon));
   add(LibraryAction::Statistics, HeadButton(name(LibraryAction::Statistics), Q(StatisticsCaption(false)), "stats"));
   At(LibraryAction::Profile)->setCheckable(true);
 }

@@ -11,6 +11,7 @@
 #include "library/forms/EditPanel.h"
 #include "library/forms/ProgressForm.h"
 #include "library/forms/VideosPanel.h"
+#include "platform/files/Tr.h"
 #include "platform/widgets/Text.h"
 
 namespace kinalyx {
@@ -73,7 +74,7 @@ void LibraryCommands::DeleteInstructor() { PrepareInstructor(Mode::DeleteInstruc
 
 void LibraryCommands::SendToAnalysis() {
   // What is being moved or cut just now must not be opened.
-  if (operations_.Busy()) return page_.Say("Please wait until the operation under way has finished.");
+  if (operations_.Busy()) return page_.Say(tr("Please wait until the operation under way has finished."));
   if (videos_.VideoPlay1().Control().IsPlaying()) videos_.VideoPlay1().TogglePlay();
   const auto say = [this](const std::string& words) { page_.Say(Q(words)); };
   const OperationResult sent = operations_.SendToAnalysis(Chosen(), say);
@@ -92,19 +93,19 @@ std::vector<LibraryVideo> LibraryCommands::Chosen() const {
 // ---------------------------------------------------------------- videos from elsewhere
 
 void LibraryCommands::AddVideos() {
-  const std::vector<std::string> paths = host_.PickFiles({"Add Videos", "", VideoFilter()});
+  const std::vector<std::string> paths = host_.PickFiles({Tr("Add Videos"), "", VideoFilter()});
   if (!paths.empty()) AddVideos(paths, browser_.Student());
 }
 
 void LibraryCommands::AddVideos(const std::vector<std::string>& paths, const std::string& student) {
   // What arrives is chosen, and the one that is being trimmed would be put aside.
-  if (videos_.TrimShown()) return page_.Say("Save or cancel the trim first, then add videos.");
+  if (videos_.TrimShown()) return page_.Say(tr("Save or cancel the trim first, then add videos."));
   const ImportTarget target{browser_.Instructor(), student};
-  DoLong("Add Videos", [&](Events events) { operations_.AddVideos(paths, target, std::move(events)); });
+  DoLong(tr("Add Videos"), [&](Events events) { operations_.AddVideos(paths, target, std::move(events)); });
 }
 
 void LibraryCommands::ShowFolder() {
-  if (!host_.ShowFolder(browser_.Folder())) page_.Say("The folder is " + Q(browser_.Folder()));
+  if (!host_.ShowFolder(browser_.Folder())) page_.Say(tr("The folder is %1").arg(Q(browser_.Folder())));
 }
 
 // ---------------------------------------------------------------- preparing
@@ -148,7 +149,7 @@ void LibraryCommands::PrepareVideos(Mode mode) {
 void LibraryCommands::OpenTrim() {
   const std::string refusal = operations_.RefuseUnlessVideoChangeable(ChosenVideo(browser_));
   if (!refusal.empty()) return page_.Say(Q(refusal));
-  if (!videos_.VideoPlay1().Control().Info()) return page_.Say("This video cannot be opened.");
+  if (!videos_.VideoPlay1().Control().Info()) return page_.Say(tr("This video cannot be opened."));
   videos_.VideoPlay1().Control().StopPlay();
   videos_.ShowTrim(true);
 }
@@ -165,15 +166,15 @@ void LibraryCommands::SaveTrim() {
   const int last = videos_.Trim().LastFrame();
   const int rate = TrimRate(videos_.VideoPlay1().Control().Info());
   CloseTrim();
-  DoLong("Trim Video", [&](Events events) { operations_.Trim(video, first, last, rate, std::move(events)); });
+  DoLong(tr("Trim Video"), [&](Events events) { operations_.Trim(video, first, last, rate, std::move(events)); });
 }
 
 void LibraryCommands::QuickLaunch() {
   const LibraryVideo video = ChosenVideo(browser_);
   // Copying to it touches neither the notes nor the video.
   if (video.instructor != kQuickLaunch)
-    return operations_.QuickLaunch(video, BeginLong("Copy video to Quick Launch Folder"));
-  DoLong("Removing video from program!", [&](Events events) { operations_.QuickLaunch(video, std::move(events)); });
+    return operations_.QuickLaunch(video, BeginLong(tr("Copy video to Quick Launch Folder")));
+  DoLong(tr("Removing video from program!"), [&](Events events) { operations_.QuickLaunch(video, std::move(events)); });
 }
 
 // ---------------------------------------------------------------- carrying out

@@ -18,8 +18,8 @@ LibraryLists::LibraryLists(LibraryBrowser& browser, const Settings& settings, QO
       instructors_(new NameList(names[0])),
       students_(new NameList(names[1])),
       videos_(new NameList(names[2])) {
-  instructors_->setAccessibleName("Instructors");
-  videos_->setAccessibleName("Videos");
+  instructors_->setAccessibleName(tr("Instructors"));
+  videos_->setAccessibleName(tr("Videos"));
   connect(instructors_, &QListWidget::currentRowChanged, this, [this](int row) {
     if (!Leave()) return;
     emit Chosen();

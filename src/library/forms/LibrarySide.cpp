@@ -41,19 +41,19 @@ LibrarySide::LibrarySide(DriveWatch& drives, const QString& title, const Setting
   count_ = MakeLabel(QString("IECount%1").arg(index), {}, "muted");
   lists_->SpaceChooses();
   lists_->VideoList()->setSelectionMode(QAbstractItemView::ExtendedSelection);
-  lists_->VideoList()->setToolTip("Ctrl and Shift with a click choose several, Ctrl+A all");
+  lists_->VideoList()->setToolTip(tr("Ctrl and Shift with a click choose several, Ctrl+A all"));
 
   auto* upper = new QHBoxLayout;
   upper->setSpacing(0);
-  upper->addLayout(Captioned(MakeLabel({}, "Instructors", "caption"), lists_->InstructorList()), 1);
+  upper->addLayout(Captioned(MakeLabel({}, tr("Instructors"), "caption"), lists_->InstructorList()), 1);
   upper->addWidget(Divider(true));
   upper->addLayout(Captioned(studentsTitle_, lists_->StudentList()), 1);
   Body()->addLayout(upper, 1);
   Body()->addWidget(Divider());
-  Body()->addLayout(Captioned(MakeLabel({}, "Videos", "caption"), lists_->VideoList()), 1);
+  Body()->addLayout(Captioned(MakeLabel({}, tr("Videos"), "caption"), lists_->VideoList()), 1);
 
-  selectAll_ = new Button(QString("IESelectAll%1").arg(index), "Select All", {}, Look::Quiet);
-  wholeDatabase_ = new Button(QString("IEWhole%1").arg(index), "Whole Database", {}, Look::Quiet);
+  selectAll_ = new Button(QString("IESelectAll%1").arg(index), tr("Select All"), {}, Look::Quiet);
+  wholeDatabase_ = new Button(QString("IEWhole%1").arg(index), tr("Whole Database"), {}, Look::Quiet);
   wholeDatabase_->setCheckable(true);
   Foot()->addWidget(count_, 1);
   Foot()->addWidget(wholeDatabase_);
@@ -96,7 +96,7 @@ void LibrarySide::ShowArrived(const OperationResult& result) {
 void LibrarySide::SetupVocabulary() {
   const Vocabulary words(settings_);
   studentsTitle_->setText(Q(words.Nouns()));
-  wholeDatabase_->setToolTip(QString("Take all videos of all %1 of the current database").arg(Q(words.nouns())));
+  wholeDatabase_->setToolTip(tr("Take all videos of all %1 of the current database").arg(Q(words.nouns())));
 }
 
 void LibrarySide::StudentChosen() {
@@ -129,7 +129,7 @@ void LibrarySide::ChooseWhole(bool whole) {
   if (whole) {
     lists_->VideoList()->clearSelection();
     lists_->VideoList()->SetHint(
-        QString("All videos of all %1 of this database are taken.").arg(Q(Vocabulary(settings_).nouns())));
+        tr("All videos of all %1 of this database are taken.").arg(Q(Vocabulary(settings_).nouns())));
   } else {
     lists_->ShowHints();
   }
@@ -150,7 +150,7 @@ void LibrarySide::ShowCount() {
   const auto whole = std::ranges::count_if(whole_, [](const LibraryVideo& one) { return !one.path.empty(); });
   const auto count =
       wholeDatabase_->isChecked() ? static_cast<qsizetype>(whole) : lists_->VideoList()->selectedItems().size();
-  count_->setText(QString(count == 1 ? "%1 Video Selected" : "%1 Videos Selected").arg(count));
+  count_->setText(QString(count == 1 ? tr("%1 Video Selected") : tr("%1 Videos Selected")).arg(count));
   selectAll_->setEnabled(lists_->VideoList()->count() > 0);
 }
 

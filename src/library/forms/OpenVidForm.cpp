@@ -13,6 +13,7 @@
 #include "library/forms/PreviewPlayer.h"
 #include "library/forms/SidecarMarkLabels.h"
 #include "library/forms/VideoRows.h"
+#include "platform/files/Tr.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Figures.h"
 #include "platform/widgets/Panel.h"
@@ -36,17 +37,17 @@ OpenVideoParts::OpenVideoParts(PlayerServices& services, const Settings& setting
   students_ = MakeLabel("StudentHeading", {}, "heading");
   lists_->VideoList()->setSelectionMode(QAbstractItemView::ExtendedSelection);
   lists_->VideoList()->LetDrag();
-  lists_->VideoList()->setToolTip("Ctrl and Shift with a click choose several; they can be dragged to a window");
+  lists_->VideoList()->setToolTip(tr("Ctrl and Shift with a click choose several; they can be dragged to a window"));
   preview_ = new PreviewPlayer(services);
   rows_ = new VideoRows(services.host, DriveWatch::SendWorker, browser_, *lists_->VideoList());
   marks_ = new SidecarMarkLabels;
   count_ = new FigureLabel("VideoCount");
   count_->setProperty("look", "caption");
-  buttons_[0] = new Button("CmdOpenVideo0", "Open", "open");
-  buttons_[1] = new Button("CmdOpenVideo1", "Done", {}, Look::Quiet);
-  buttons_[2] = new Button("CmdOpenVideo2", "Undo Last Open", {}, Look::Quiet);
-  disk_ = new Button("OpenFromDiskBtn", "From Disk...", {}, Look::Quiet);
-  disk_->setToolTip("Opens videos that lie anywhere, as they lie: nothing is copied to the library");
+  buttons_[0] = new Button("CmdOpenVideo0", tr("Open"), "open");
+  buttons_[1] = new Button("CmdOpenVideo1", tr("Done"), {}, Look::Quiet);
+  buttons_[2] = new Button("CmdOpenVideo2", tr("Undo Last Open"), {}, Look::Quiet);
+  disk_ = new Button("OpenFromDiskBtn", tr("From Disk..."), {}, Look::Quiet);
+  disk_->setToolTip(tr("Opens videos that lie anywhere, as they lie: nothing is copied to the library"));
   connect(disk_, &QPushButton::clicked, this, [this] { NoteOpened(opener_.PickAndOpen()); });
   for (int index = 0; index < 3; ++index)
     connect(buttons_[index], &QPushButton::clicked, this, [this, index] { CmdOpenVideo_Click(index); });
@@ -105,10 +106,10 @@ void OpenVideoParts::VidCountUpdate() {
 void OpenVideoParts::ShowButtons() {
   buttons_[0]->setEnabled(browser_.HasVideo());
   const Vocabulary words(settings_);
-  buttons_[2]->setText(ShortGame() ? QString("Load %1 Files").arg(Q(words.Noun())) : QString("Undo Last Open"));
+  buttons_[2]->setText(ShortGame() ? tr("Load %1 Files").arg(Q(words.Noun())) : tr("Undo Last Open"));
   buttons_[2]->setEnabled(ShortGame() ? IsShortGameName(browser_.Video()) : opened_ > 0);
   buttons_[2]->setToolTip(
-      ShortGame() ? "Opens what belongs together with a distance wedge, chip, bunker or putting video" : "");
+      ShortGame() ? tr("Opens what belongs together with a distance wedge, chip, bunker or putting video") : "");
 }
 
 void OpenVideoParts::CmdOpenVideo_Click(int Index) {
@@ -135,7 +136,7 @@ void OpenVideoParts::OpenChosen() {
   const std::string path = browser_.VideoPath();
   if (!browser_.Drives().Answers(browser_.Tree().Root(), path))
     return host_.Message(MessageKind::Warning, "",
-                         "The drive with this video is not answering. The video was not opened.");
+                         Tr("The drive with this video is not answering. The video was not opened."));
   if (opener_.OpenVideo(path)) ++opened_;
 }
 
@@ -145,7 +146,7 @@ void OpenVideoParts::OpenSeveral(const std::vector<int>& rows) {
   for (const int row : rows) paths.push_back(browser_.VideoPathAt(row));
   if (!browser_.Drives().Answers(browser_.Tree().Root(), paths.front()))
     return host_.Message(MessageKind::Warning, "",
-                         "The drive with these videos is not answering. They were not opened.");
+                         Tr("The drive with these videos is not answering. They were not opened."));
   opened_ += opener_.OpenFamily(paths);
 }
 
@@ -154,11 +155,11 @@ void OpenVideoParts::OpenFamily() {
   const auto paths = browser_.Drives().Ask(browser_.Tree().Root(), family);
   if (!paths)
     return host_.Message(MessageKind::Warning, "",
-                         "The drive with these videos is not answering. They were not opened.");
+                         Tr("The drive with these videos is not answering. They were not opened."));
   if (paths->empty())
     return host_.Message(
         MessageKind::Warning, "",
-        "There are no videos here with the names that belong together with \"" + browser_.Video() + "\".");
+        Tr("There are no videos here with the names that belong together with \"{}\".", browser_.Video()));
   opener_.OpenFamily(*paths);
 }
 
@@ -205,9 +206,9 @@ OpenVidForm::OpenVidForm(PlayerServices& services, const Settings& settings, Las
   rows->setSpacing(0);
   for (NameList* list : {lists_->InstructorList(), lists_->StudentList(), lists_->VideoList()}) LeastHeight(list, 62);
   // Three instructors and four of the others can be seen in the smallest window, and a picture beneath them.
-  rows->addWidget(Headed(Heading("Instructors"), lists_->InstructorList()), 10);
+  rows->addWidget(Headed(Heading(tr("Instructors")), lists_->InstructorList()), 10);
   rows->addWidget(Headed(students_, lists_->StudentList()), 12);
-  rows->addWidget(Headed(Heading("Videos"), lists_->VideoList(), count_), 12);
+  rows->addWidget(Headed(Heading(tr("Videos")), lists_->VideoList(), count_), 12);
   LeastHeight(preview_, 120);
   rows->addWidget(preview_, 11);
 
@@ -240,11 +241,11 @@ OpenVidCForm::OpenVidCForm(PlayerServices& services, const Settings& settings, L
   rows->setSpacing(0);
   auto* columns = new QHBoxLayout;
   columns->setSpacing(0);
-  columns->addWidget(Headed(Heading("Instructors"), lists_->InstructorList()), 3);
+  columns->addWidget(Headed(Heading(tr("Instructors")), lists_->InstructorList()), 3);
   columns->addWidget(Divider(true));
   columns->addWidget(Headed(students_, lists_->StudentList()), 3);
   columns->addWidget(Divider(true));
-  columns->addWidget(Headed(Heading("Videos"), lists_->VideoList(), count_), 4);
+  columns->addWidget(Headed(Heading(tr("Videos")), lists_->VideoList(), count_), 4);
   columns->addWidget(preview_, 6);
   rows->addLayout(columns, 1);
 

@@ -24,7 +24,7 @@ class SeekSlider final : public QSlider {
  public:
   SeekSlider() : QSlider(Qt::Horizontal) {
     setObjectName("PreviewSeek");
-    setAccessibleName("Position in the video");
+    setAccessibleName(tr("Position in the video"));
     setFocusPolicy(Qt::NoFocus);
     setCursor(Qt::PointingHandCursor);
     FixHeight(this, 20);
@@ -88,7 +88,7 @@ PreviewPlayer::PreviewPlayer(PlayerServices& services, QWidget* parent) : QFrame
   auto* bar = new QHBoxLayout(bar_);
   bar->setContentsMargins(6, 0, 12, 4);
   bar->setSpacing(6);
-  play_ = IconButton("PreviewPlay", "play", "Play or pause (Space)", Look::Stage);
+  play_ = IconButton("PreviewPlay", "play", tr("Play or pause (Space)"), Look::Stage);
   play_->setFocusPolicy(Qt::NoFocus);
   seek_ = new SeekSlider;
   time_ = new FigureLabel("PreviewTime");

@@ -36,11 +36,11 @@ ProfileEditor::ProfileEditor(const Settings& settings, QWidget* parent)
   auto* instructor = new QVBoxLayout(instructorPart_);
   instructor->setContentsMargins(0, 0, 0, 0);
   instructor->setSpacing(2);
-  auto* caption = MakeLabel("Combo2Lbl", "Instructor or Database", "caption");
+  auto* caption = MakeLabel("Combo2Lbl", tr("Instructor or Database"), "caption");
   instructors_ = new QComboBox;
   instructors_->setObjectName("Combo2");
-  instructors_->setAccessibleName("Instructor or Database");
-  instructors_->setPlaceholderText("Select an Instructor or Database");
+  instructors_->setAccessibleName(tr("Instructor or Database"));
+  instructors_->setPlaceholderText(tr("Select an Instructor or Database"));
   LeastHeight(instructors_, kButtonHeight);
   MostWidth(instructors_, 420);
   instructor->addWidget(caption);
@@ -51,15 +51,15 @@ ProfileEditor::ProfileEditor(const Settings& settings, QWidget* parent)
   QLineEdit& count = boxes_->Box(kVideosOnFileField);
   count.setReadOnly(true);
   count.setFocusPolicy(Qt::NoFocus);
-  count.setPlaceholderText("counted by the program");
+  count.setPlaceholderText(tr("counted by the program"));
   LimitToNames(boxes_->Box(kNameField), boxes_->Note(kNameField));
   rows->addWidget(boxes_);
   rows->addStretch(1);
   scroll->setWidget(body);
   Body()->addWidget(scroll);
 
-  auto* cancel = new Button("ProAddCancelBtn", "Cancel", {}, Look::Quiet);
-  auto* save = new Button("ProAddSaveBtn", "Save", "check");
+  auto* cancel = new Button("ProAddCancelBtn", tr("Cancel"), {}, Look::Quiet);
+  auto* save = new Button("ProAddSaveBtn", tr("Save"), "check");
   Foot()->addStretch(1);
   Foot()->addWidget(cancel);
   Foot()->addWidget(save);
@@ -91,7 +91,7 @@ void ProfileEditor::OpenNew(const FieldTexts& captions) {
 void ProfileEditor::OpenEdit(const FieldTexts& captions, const FieldTexts& values) {
   new_ = false;
   SetTitle(Title());
-  text_->setText(QString("Edit the fields of the %1 and choose \"Save\" to modify.").arg(Q(vocabulary_.noun())));
+  text_->setText(tr("Edit the fields of the %1 and choose \"Save\" to modify.").arg(Q(vocabulary_.noun())));
   boxes_->Box(kNameField).setReadOnly(true);
   Fill(captions, values);
   instructorPart_->hide();

@@ -14,6 +14,7 @@
 #include "library/forms/FieldGrid.h"
 #include "library/forms/HeadButton.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/host/DriveWatch.h"
 #include "platform/widgets/Scale.h"
 #include "platform/widgets/Text.h"
@@ -30,7 +31,7 @@ const std::vector<int> kBriefFields{0, 3, 4, 9, 5, 8, 12, 17};
 constexpr int kRestMs = 1000;
 
 std::string NotSaved(const std::string& reason) {
-  return "The notes could not be saved: " + reason + ". They are kept and will be tried again.";
+  return Tr("The notes could not be saved: {}. They are kept and will be tried again.", reason);
 }
 
 std::vector<int> AllFields() {
@@ -48,10 +49,10 @@ ProfilePanel::ProfilePanel(IHost& host, IPrinter& printer, const Settings& setti
       settings_(settings),
       vocabulary_(settings),
       notes_(*this) {
-  details_ = HeadButton("ProBtn0", "Show Details");
-  edit_ = HeadButton("ProBtn1", "Edit", "edit");
-  print_ = HeadButton("ProBtn2", "Print", "print");
-  back_ = HeadButton("ProfileBack", "Videos", "chevron-left");
+  details_ = HeadButton("ProBtn0", tr("Show Details"));
+  edit_ = HeadButton("ProBtn1", tr("Edit"), "edit");
+  print_ = HeadButton("ProBtn2", tr("Print"), "print");
+  back_ = HeadButton("ProfileBack", tr("Videos"), "chevron-left");
   Head()->addWidget(back_);
   Head()->addWidget(edit_);
   Head()->addWidget(print_);
@@ -96,7 +97,7 @@ void ProfilePanel::SetupVocabulary() {
   notesTitle_->setText(Q(vocabulary_.Notes()));
   editor_->setAccessibleName(Q(vocabulary_.Notes()));
   editor_->setPlaceholderText(
-      QString("What you want to remember about this %1. Saved by itself.").arg(Q(vocabulary_.noun())));
+      tr("What you want to remember about this %1. Saved by itself.").arg(Q(vocabulary_.noun())));
   if (notes_.StudentFolder().empty()) SetTitle(Q(vocabulary_.Profile()));
 }
 
@@ -109,7 +110,7 @@ void ProfilePanel::SetView(View view) {
   back_->setVisible(complete);
   print_->setVisible(complete);
   details_->setVisible(!complete);
-  details_->setText(view == View::Brief ? "Show Details" : "Details Off");
+  details_->setText(view == View::Brief ? tr("Show Details") : tr("Details Off"));
   setSizePolicy(QSizePolicy::Preferred, complete ? QSizePolicy::Preferred : QSizePolicy::Maximum);
 }
 
@@ -126,14 +127,14 @@ void ProfilePanel::ProBtn(int index) {
 void ProfilePanel::PrintNotes() {
   const std::string notes = TypedNotes();
   if (Q(notes).trimmed().isEmpty()) {
-    emit Said("There are no notes to print.");
+    emit Said(tr("There are no notes to print."));
     return;
   }
   const Outcome printed =
       printer_.Print({LastName(notes_.StudentFolder()), vocabulary_.Notes(), notes, settings_.CompanyName});
   if (printed.Kind() == Fault::Failed)
-    host_.Message(MessageKind::Warning, vocabulary_.Notes(), "The notes were not printed. " + printed.Why());
-  else emit Said(printed ? "The notes were printed." : "The notes were not printed.");
+    host_.Message(MessageKind::Warning, vocabulary_.Notes(), Tr("The notes were not printed. {}", printed.Why()));
+  else emit Said(printed ? tr("The notes were printed.") : tr("The notes were not printed."));
 }
 
 void ProfilePanel::OpenStudent(const std::string& studentFolder) {
@@ -145,7 +146,7 @@ void ProfilePanel::OpenStudent(const std::string& studentFolder) {
   rest_.Stop();
   editor_->setEnabled(student && notes_.Readable());
   SetTitle(student ? Q(LastName(studentFolder)) : Q(vocabulary_.Profile()));
-  if (!notes_.Readable()) emit Said("The notes cannot be read.");
+  if (!notes_.Readable()) emit Said(tr("The notes cannot be read."));
 }
 
 bool ProfilePanel::SaveNotes() {
@@ -243,10 +244,10 @@ bool ProfilePanel::CanReachNotes(const std::string& folder) {
 
 /// The notes can at least be read, and copied out of the box; told when the click is over.
 void ProfilePanel::NotesLost(const std::string& folder, const std::string& notes) {
-  const std::string text = "The notes of " + LastName(folder) +
-                           " could not be saved: somebody else has renamed, moved or deleted the folder. These were "
-                           "the notes:\n\n" +
-                           notes;
+  const std::string text = Tr("The notes of {} could not be saved: somebody else has renamed, moved or deleted the "
+                              "folder. These were the notes:",
+                              LastName(folder)) +
+                           "\n\n" + notes;
   host_.StartTimer(0, false, [&host = host_, title = Std(notesTitle_->text()), text] {
     host.Message(MessageKind::Warning, title, text);
   });

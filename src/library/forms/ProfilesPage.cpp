@@ -23,6 +23,7 @@
 #include "library/forms/VideoRows.h"
 #include "library/forms/VideosPanel.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/host/DriveWatch.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/FileDrop.h"
@@ -60,7 +61,7 @@ ProfilesPage::ProfilesPage(PlayerServices& services, IPrinter& printer, Settings
   status_ = new StatusLine("SPDisplay");
   buttons_ = new LibraryButtons(settings, *status_, this);
   instructors_ = new InstructorsPanel(lists_->InstructorList());
-  students_ = new Panel("StudentsTitle", "Students");
+  students_ = new Panel("StudentsTitle", tr("Students"));
   videos_ = new VideosPanel(services, settings, choices_, lists_->VideoList());
   rows_ = new VideoRows(services.host, devices.send, browser_, *lists_->VideoList(), std::move(glances));
   lists_->VideoList()->setSelectionMode(QAbstractItemView::ExtendedSelection);
@@ -215,9 +216,10 @@ void ProfilesPage::SetupVocabulary() {
 }
 
 void ProfilesPage::SetupFields() {
-  profilePanel_->Fields().SetCaptions(fields_.Captions());
+  profilePanel_->Fields().SetCaptions(ShownCaptions(fields_.Captions()));
   OpenProfile();
-  if (!editor_->isHidden()) editor_->Rename(fields_.Captions(), editor_->IsNew() ? FieldTexts{} : profile_.Stored());
+  if (!editor_->isHidden())
+    editor_->Rename(ShownCaptions(fields_.Captions()), editor_->IsNew() ? FieldTexts{} : profile_.Stored());
 }
 
 void ProfilesPage::Say(const QString& text) { status_->Say(text); }
@@ -267,10 +269,10 @@ void ProfilesPage::TakeDropped(const std::vector<std::string>& paths, QPoint at)
 
 void ProfilesPage::ShowDropTarget(QPoint at) {
   const std::string student = StudentAt(at);
-  if (!student.empty()) Say("Drop to copy the videos to " + Q(student) + ".");
+  if (!student.empty()) Say(tr("Drop to copy the videos to %1.").arg(Q(student)));
   else if (browser_.IsGeneralFolder() || browser_.IsQuickLaunch())
-    Say("Drop to copy the videos to " + Q(browser_.Instructor()) + ".");
-  else Say("Drop the videos on the name of a " + Q(vocabulary_.noun()) + ".");
+    Say(tr("Drop to copy the videos to %1.").arg(Q(browser_.Instructor())));
+  else Say(tr("Drop the videos on the name of a %1.").arg(Q(vocabulary_.noun())));
 }
 
 std::string ProfilesPage::StudentAt(QPoint at) const {
@@ -382,7 +384,7 @@ void ProfilesPage::GoTo(const SearchHit& hit) {
   ShowProfileView(there && (hit.kind == Kind::StudentNotes || hit.kind == Kind::Field));
   list->setFocus();
   list->scrollToItem(list->currentItem());
-  Say(there ? QString() : QString("It is not there any more."));
+  Say(there ? QString() : tr("It is not there any more."));
 }
 
 // ---------------------------------------------------------------- commands
@@ -431,9 +433,9 @@ std::vector<std::string> ProfilesPage::RealInstructors() const {
 void ProfilesPage::OpenEditor(bool edit) {
   if (edit) {
     editedFolder_ = browser_.Folder();
-    editor_->OpenEdit(fields_.Captions(), profile_.Stored());
+    editor_->OpenEdit(ShownCaptions(fields_.Captions()), profile_.Stored());
   } else {
-    editor_->OpenNew(fields_.Captions());
+    editor_->OpenNew(ShownCaptions(fields_.Captions()));
     editor_->SetInstructors(RealInstructors());
     editor_->SetInstructor(browser_.IsGeneralFolder() ? std::string() : browser_.Instructor());
   }
@@ -455,7 +457,7 @@ bool ProfilesPage::MayDropEdits() {
   return !editor_->Changed() ||
          services_.host.Question(
              Std(editor_->Title()),
-             "What you have typed has not been saved. Do you want to close the form without saving it?");
+             Tr("What you have typed has not been saved. Do you want to close the form without saving it?"));
 }
 
 void ProfilesPage::CancelEditor() {
@@ -480,17 +482,17 @@ void ProfilesPage::ProAddSaveBtn() {
   if (!editor_->IsNew()) {
     if (!LibraryAnswers(editedFolder_)) return Say(Q(SilentLibraryText(settings_.LibraryPath)));
     if (!SaveProfile(editedFolder_, fields_, values, editor_->Opened())) {
-      Say("An error has occurred while editing the profile");
+      Say(tr("An error has occurred while editing the profile"));
       return;
     }
     CloseEditor();
     OpenProfile();
-    Say(Q(vocabulary_.Noun()) + " profile successfully updated.");
+    Say(tr("%1 profile successfully updated.").arg(Q(vocabulary_.Noun())));
     return;
   }
   const std::string instructor = editor_->Instructor();
   if (instructor.empty()) {
-    Say("You must select an Instructor or Database first.");
+    Say(tr("You must select an Instructor or Database first."));
     return;
   }
   const OperationResult added = operations_.AddStudent(instructor, fields_.Captions(), values);

@@ -39,7 +39,7 @@ ProgressForm::ProgressForm(IHost& host, LibraryOperations& operations, QWidget* 
   gauge_->setRange(0, kParts);
   gauge_->setTextVisible(false);
   current_ = MakeLabel("ProgressCurrent", {}, "muted");
-  cancel_ = new Button("ProgressCancel", "Cancel", {}, Look::Quiet);
+  cancel_ = new Button("ProgressCancel", tr("Cancel"), {}, Look::Quiet);
   auto* actions = new QHBoxLayout;
   actions->addStretch(1);
   actions->addWidget(cancel_);
@@ -89,7 +89,7 @@ LibraryOperations::Events ProgressForm::Begin(const QString& title, LibraryOpera
   words_->hide();
   current_->clear();
   gauge_->setValue(0);
-  cancel_->setText("Cancel");
+  cancel_->setText(tr("Cancel"));
   cancel_->setEnabled(true);
   began_ = -1;
   return std::make_shared<Shown>(*this, std::move(page));
@@ -110,7 +110,7 @@ void ProgressForm::ShowProgress(const JobProgress& progress) {
   gauge_->setValue(qRound(progress.part * kParts));
   QString current = Q(progress.current);
   if (progress.total > 1)
-    current = QString("%1 of %2   %3").arg(qMin(progress.done + 1, progress.total)).arg(progress.total).arg(current);
+    current = tr("%1 of %2   %3").arg(qMin(progress.done + 1, progress.total)).arg(progress.total).arg(current);
   current_->setText(current_->fontMetrics().elidedText(current, Qt::ElideMiddle, width() - 48));
 }
 
@@ -121,7 +121,7 @@ void ProgressForm::End() {
 
 /// The window stays until the operation has let go of what it was doing.
 void ProgressForm::reject() {
-  cancel_->setText("Cancelling...");
+  cancel_->setText(tr("Cancelling..."));
   cancel_->setEnabled(false);
   operations_.Cancel();
 }

@@ -32,8 +32,8 @@ SearchBar::SearchBar(IHost& host, DriveWatch::Send send, const std::string& root
   row->setContentsMargins(0, 0, 0, 0);
   box_ = new QLineEdit;
   box_->setObjectName("LibrarySearch");
-  box_->setPlaceholderText("Find people, videos and notes (Ctrl+F)");
-  box_->setAccessibleName("Find in the library");
+  box_->setPlaceholderText(tr("Find people, videos and notes (Ctrl+F)"));
+  box_->setAccessibleName(tr("Find in the library"));
   box_->setClearButtonEnabled(true);
   box_->addAction(Icon("find", CurrentTheme().muted), QLineEdit::LeadingPosition);
   MostWidth(box_, kWidth);
@@ -46,7 +46,7 @@ SearchBar::SearchBar(IHost& host, DriveWatch::Send send, const std::string& root
   rows->setContentsMargins(1, 1, 1, 1);
   rows->setSpacing(0);
   list_ = new NameList("SearchList");
-  list_->setAccessibleName("What was found");
+  list_->setAccessibleName(tr("What was found"));
   list_->setFocusPolicy(Qt::NoFocus);
   list_->setUniformItemSizes(false);
   list_->SetDetails(NameDelegate::Details::Line);
@@ -120,7 +120,7 @@ void SearchBar::ShowResult(const SearchResult& result) {
   hits_.clear();
   AddGroup("PEOPLE", result.people, result.allPeople);
   AddGroup("VIDEOS", result.videos, result.allVideos);
-  AddGroup("NOTES AND FIELDS", result.texts, result.allTexts);
+  AddGroup(tr("NOTES AND FIELDS"), result.texts, result.allTexts);
   const QString state = State(result);
   state_->setText(state);
   state_->setVisible(!state.isEmpty());
@@ -134,7 +134,7 @@ void SearchBar::ShowResult(const SearchResult& result) {
 
 void SearchBar::AddGroup(const QString& title, const std::vector<SearchHit>& hits, std::size_t all) {
   if (hits.empty()) return;
-  const QString count = all > hits.size() ? QString("   %1 of %2").arg(hits.size()).arg(all) : QString();
+  const QString count = all > hits.size() ? tr("   %1 of %2").arg(hits.size()).arg(all) : QString();
   auto* heading = new QListWidgetItem(title + count, list_);
   heading->setFlags(Qt::NoItemFlags);
   heading->setData(NameDelegate::kHeadingRole, true);
@@ -148,9 +148,9 @@ void SearchBar::AddGroup(const QString& title, const std::vector<SearchHit>& hit
 
 /// What there is to say besides what was found.
 QString SearchBar::State(const SearchResult& result) const {
-  if (indexer_.Silent()) return "The drive with the video library is not answering.";
-  if (!indexer_.Index()) return QString("Looking through the library ... %1").arg(indexer_.FoldersRead());
-  return result.Empty() ? QString("Nothing was found.") : QString();
+  if (indexer_.Silent()) return tr("The drive with the video library is not answering.");
+  if (!indexer_.Index()) return tr("Looking through the library ... %1").arg(indexer_.FoldersRead());
+  return result.Empty() ? tr("Nothing was found.") : QString();
 }
 
 /// Beneath the box, as high as what was found, as far as the page goes.

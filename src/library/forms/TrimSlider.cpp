@@ -21,8 +21,8 @@ constexpr int kLargeStep = 10;
 
 TrimSlider::TrimSlider(const QString& name, QWidget* parent) : QWidget(parent) {
   setObjectName(name);
-  setAccessibleName("Frames of the video");
-  setToolTip("Drag the two ends. Arrow keys step, S starts and E ends here, Space plays.");
+  setAccessibleName(tr("Frames of the video"));
+  setToolTip(tr("Drag the two ends. Arrow keys step, S starts and E ends here, Space plays."));
   setFocusPolicy(Qt::StrongFocus);
   setCursor(Qt::PointingHandCursor);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);

@@ -114,7 +114,7 @@ void VideoRows::ShowFacts(int row) {
   if (!item || !facts) return;
   const QDateTime written = QDateTime::fromSecsSinceEpoch(facts->WrittenSeconds());
   QStringList details{QLocale().toString(written.date(), QLocale::ShortFormat)};
-  if (facts->seen && !facts->glance.opens) details.prepend("Cannot be opened");
+  if (facts->seen && !facts->glance.opens) details.prepend(tr("Cannot be opened"));
   else if (facts->seen) details << Q(LengthText(facts->glance.seconds));
   details << Q(FormatFileSize(facts->stamp.bytes));
   details.removeAll(QString());

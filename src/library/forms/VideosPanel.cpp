@@ -16,6 +16,7 @@
 #include "library/forms/EditPanel.h"
 #include "library/forms/HeadButton.h"
 #include "library/forms/SidecarMarkLabels.h"
+#include "platform/files/Tr.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Figures.h"
 #include "platform/widgets/Scale.h"
@@ -75,7 +76,7 @@ class SummaryLine final : public QWidget {
 
 VideosPanel::VideosPanel(PlayerServices& services, const Settings& settings, ListChoices& choices, NameList* list,
                          QWidget* parent)
-    : Panel("VideosTitle", "Videos", parent),
+    : Panel("VideosTitle", tr("Videos"), parent),
       drives_(services.host.Drives()),
       settings_(settings),
       choices_(choices),
@@ -86,10 +87,10 @@ VideosPanel::VideosPanel(PlayerServices& services, const Settings& settings, Lis
   Head()->setStretch(0, 0);
   Head()->addStretch(1);
   sort_ = HeadButton("VideoSortBtn", Q(SortCaption(choices_.Sort().by)));
-  sort_->setToolTip("By what the videos are sorted");
+  sort_->setToolTip(tr("By what the videos are sorted"));
   pictures_ = HeadButton("VideoPicturesBtn", {}, "rows");
-  pictures_->setToolTip("Pictures and details of the videos, or names alone");
-  pictures_->setAccessibleName("Pictures and details");
+  pictures_->setToolTip(tr("Pictures and details of the videos, or names alone"));
+  pictures_->setAccessibleName(tr("Pictures and details"));
   pictures_->setCheckable(true);
   pictures_->setChecked(choices_.Pictures());
   Head()->addWidget(sort_);
@@ -127,11 +128,11 @@ QLayout* VideosPanel::MakeList() {
   auto* buttons = new QHBoxLayout;
   buttons->setContentsMargins(8, 6, 8, 6);
   buttons->setSpacing(8);
-  add_ = new Button("AddVideosBtn", "Add Videos", "plus", Look::Quiet);
+  add_ = new Button("AddVideosBtn", tr("Add Videos"), "plus", Look::Quiet);
   add_->setToolTip(
-      "Copies videos from this computer, a telephone or a card to the student. They can also be dropped here.");
+      tr("Copies videos from this computer, a telephone or a card to the student. They can also be dropped here."));
   connect(add_, &QPushButton::clicked, this, &VideosPanel::AddWanted);
-  auto* folder = IconButton("OpenFolderBtn", "open", "Shows the folder of these videos", Look::Quiet);
+  auto* folder = IconButton("OpenFolderBtn", "open", tr("Shows the folder of these videos"), Look::Quiet);
   connect(folder, &QPushButton::clicked, this, &VideosPanel::FolderWanted);
   buttons->addWidget(add_);
   buttons->addWidget(folder);
@@ -160,16 +161,17 @@ QWidget* VideosPanel::MakeStats() {
   auto* statsRows = new QVBoxLayout(part);
   statsRows->setContentsMargins(kGap, 8, kGap, 8);
   statsRows->setSpacing(6);
-  statsRows->addWidget(MakeLabel("VideoStatisticsTitle", "Video Statistics", "heading"));
+  statsRows->addWidget(MakeLabel("VideoStatisticsTitle", tr("Video Statistics"), "heading"));
   auto* grid = new QGridLayout;
   grid->setHorizontalSpacing(kGap);
   grid->setVerticalSpacing(0);
-  const char* const kCaptions[] = {"Format",   "Width",     "Height", "Rate", "Length",
-                                   "Duration", "File size", "Color",  "Sound"};
+  const char* const kCaptions[] = {TrLater("Format"),    TrLater("Width"),  TrLater("Height"),
+                                   TrLater("Rate"),      TrLater("Length"), TrLater("Duration"),
+                                   TrLater("File size"), TrLater("Color"),  TrLater("Sound")};
   for (int line = 0; line < 9; ++line) {
-    auto* caption = MakeLabel(QString("StatCaption%1").arg(line), kCaptions[line], "caption");
+    auto* caption = MakeLabel(QString("StatCaption%1").arg(line), tr(kCaptions[line]), "caption");
     auto* value = new FigureLabel(QString("ProInfoLbl%1").arg(kFirstStat + line), kNoStat);
-    value->setAccessibleName(kCaptions[line]);
+    value->setAccessibleName(tr(kCaptions[line]));
     value->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
     grid->addWidget(caption, line / 5 * 2, line % 5);
     grid->addWidget(value, line / 5 * 2 + 1, line % 5);
@@ -192,11 +194,11 @@ bool VideosPanel::ShowVideo(const std::string& path) {
   const auto marks = AskVideoMarks(drives_, settings_.LibraryPath, path);
   if (!marks) {
     preview_->Unload();
-    summary_->SetFacts({"The drive with this video is not answering."});
+    summary_->SetFacts({tr("The drive with this video is not answering.")});
     return true;
   }
   if (!preview_->Load(path)) {
-    summary_->SetFacts({"This video cannot be opened."});
+    summary_->SetFacts({tr("This video cannot be opened.")});
     const auto arriving = drives_.Ask(settings_.LibraryPath, [path] { return StillArriving(path); });
     preview_->ShowWords(Q(BadVideoText(arriving.value_or(false))));
     return false;
@@ -262,11 +264,11 @@ void VideosPanel::OpenSortMenu() {
   for (int each = 0; each < kVideoSorts; ++each) {
     const auto by = static_cast<VideoSort::By>(each);
     const bool present = by == choices_.Sort().by;
-    const QString caption = Q(SortCaption(by)) + (present ? ", the other way round" : "");
+    const QString caption = present ? tr("%1, the other way round").arg(Q(SortCaption(by))) : Q(SortCaption(by));
     menu->addAction(caption, this, [this, by] { Sort(by); });
   }
   menu->addSeparator();
-  QAction* goes = menu->addAction("Go to Analysis with what is sent");
+  QAction* goes = menu->addAction(tr("Go to Analysis with what is sent"));
   goes->setCheckable(true);
   goes->setChecked(choices_.GoesAlong());
   connect(goes, &QAction::triggered, this, [this](bool along) { choices_.SetGoesAlong(along); });

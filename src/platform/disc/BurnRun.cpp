@@ -8,6 +8,8 @@
 
 #include <libburn/libburn.h>
 
+#include "platform/files/Tr.h"
+
 using namespace burn;  // libburn's own, around all that it declares
 
 namespace kinalyx {
@@ -65,13 +67,13 @@ std::vector<int> SpeedsOf(burn_drive* drive) {
 
 std::string InBrackets(const std::string& words) { return words.empty() ? "" : " (" + words + ")"; }
 
-const char* WordsFor(Medium medium) {
+std::string WordsFor(Medium medium) {
   switch (medium) {
-    case Medium::None: return "There is no disc in the drive.";
-    case Medium::Used: return "The disc holds something already.";
+    case Medium::None: return Tr("There is no disc in the drive.");
+    case Medium::Used: return Tr("The disc holds something already.");
     case Medium::Appendable:
-    case Medium::Closed: return "The disc has been written already and cannot be erased. Put in an empty one.";
-    case Medium::Unsuitable: return "The drive cannot write this kind of disc.";
+    case Medium::Closed: return Tr("The disc has been written already and cannot be erased. Put in an empty one.");
+    case Medium::Unsuitable: return Tr("The drive cannot write this kind of disc.");
     case Medium::Blank: break;
   }
   return "";
@@ -82,7 +84,7 @@ const char* WordsFor(Medium medium) {
 Result<DriveReport> ReportOf(HeldDrive& held) {
   burn_drive* drive = held.Get();
   for (int i = 0; burn_drive_get_status(drive, nullptr) != BURN_DRIVE_IDLE; ++i) {
-    if (i == kRestMoments) return Outcome::Failed("The drive does not come to rest.");
+    if (i == kRestMoments) return Outcome::Failed(Tr("The drive does not come to rest."));
     std::this_thread::sleep_for(kMoment);
   }
   burn_disc_status status = burn_disc_get_status(drive);
@@ -158,7 +160,7 @@ bool BurnRun::Step() {
   if (stage_ == Stage::Over) return false;
   if (cancelled_ && stage_ != Stage::Write && stage_ != Stage::Erase)
     return stage_ == Stage::Check
-               ? End(Outcome(Fault::Cancelled, "The disc has been written. It was not read back to the end."))
+               ? End(Outcome(Fault::Cancelled, Tr("The disc has been written. It was not read back to the end.")))
                : Stopped();
   switch (stage_) {
     case Stage::Take: return Take();
@@ -194,9 +196,9 @@ bool BurnRun::Erased() {
     return true;
   }
   if (!burn_drive_wrote_well(drive))
-    return End(Outcome::Failed("The disc could not be erased." + InBrackets(DiscComplaint())));
+    return End(Outcome::Failed(Tr("The disc could not be erased.{}", InBrackets(DiscComplaint()))));
   burn_drive_re_assess(drive, 0);
-  if (burn_disc_get_status(drive) != BURN_DISC_BLANK) return End(Outcome::Failed("The disc could not be erased."));
+  if (burn_disc_get_status(drive) != BURN_DISC_BLANK) return End(Outcome::Failed(Tr("The disc could not be erased.")));
   return Next(Stage::Lay, DriveState::Preparing);
 }
 
@@ -209,7 +211,7 @@ bool BurnRun::BeginWriting() {
   disc_ = std::make_unique<Disc>();
   burn_track_define_data(disc_->track, 0, 0, 0, BURN_MODE1);
   if (burn_track_set_source(disc_->track, source_->Get()) != BURN_SOURCE_OK)
-    return End(Outcome::Failed("The image could not be begun."));
+    return End(Outcome::Failed(Tr("The image could not be begun.")));
   disc_->options = burn_write_opts_new(drive);
   burn_write_opts_set_perform_opc(disc_->options, 0);
   burn_write_opts_set_multi(disc_->options, 0);
@@ -217,11 +219,11 @@ bool BurnRun::BeginWriting() {
   if (wish_.Speed > 0) burn_drive_set_speed(drive, 0, wish_.Speed);
   else burn_drive_set_speed(drive, 0, 0);
   if (const std::int64_t room = burn_disc_available_space(drive, disc_->options); room < total_)
-    return End(Outcome(Fault::Unwritable, "The disc has too little room: " + std::to_string(room >> 20) + " MB of " +
-                                              std::to_string((total_ >> 20) + 1) + " MB."));
+    return End(Outcome(Fault::Unwritable,
+                       Tr("The disc has too little room: {} MB of {} MB.", room >> 20, (total_ >> 20) + 1)));
   std::array<char, BURN_REASONS_LEN> reasons{};
   if (burn_write_opts_auto_write_type(disc_->options, disc_->disc, reasons.data(), 0) == BURN_WRITE_NONE)
-    return End(Outcome(Fault::Refused, "The drive cannot write this disc." + InBrackets(reasons.data())));
+    return End(Outcome(Fault::Refused, Tr("The drive cannot write this disc.{}", InBrackets(reasons.data()))));
   DiscComplaint();
   burn_disc_write(disc_->options, disc_->disc);
   return Next(Stage::Write, DriveState::Preparing);
@@ -269,8 +271,9 @@ bool BurnRun::WritingOver() {
   const bool whole = source_->Fetched() >= total_;
   if (!whole || !complaint.empty() || !burn_drive_wrote_well(drive_->Get())) {
     state_ = DriveState::AbortingByError;
-    return End(Outcome::Failed((whole ? "The disc could not be written." : "A file could not be read to its end.") +
-                               InBrackets(complaint)));
+    return End(
+        Outcome::Failed((whole ? Tr("The disc could not be written.") : Tr("A file could not be read to its end.")) +
+                        InBrackets(complaint)));
   }
   written_ = true;
   done_ = total_;
@@ -286,13 +289,13 @@ bool BurnRun::CheckOn() {
   off_t got = 0;
   constexpr int kQuiet = 2;
   if (burn_read_data(drive_->Get(), done_, block_.data(), wanted, &got, kQuiet) <= 0 || got < wanted)
-    return End(Outcome::Failed("The disc has been written, but it cannot be read back. Do not give it away." +
-                               InBrackets(DiscComplaint())));
+    return End(Outcome::Failed(Tr("The disc has been written, but it cannot be read back. Do not give it away.{}",
+                                  InBrackets(DiscComplaint()))));
   readBack_.Add(block_.data(), static_cast<std::size_t>(wanted));
   done_ += wanted;
   if (done_ < total_) return true;
   if (readBack_.Sum() != source_->Sum())
-    return End(Outcome::Failed("The disc has been written, but it differs from the files. Do not give it away."));
+    return End(Outcome::Failed(Tr("The disc has been written, but it differs from the files. Do not give it away.")));
   return End({});
 }
 

@@ -7,6 +7,7 @@
 #include "platform/disc/HeldDrive.h"
 #include "platform/disc/IDiscDrive.h"
 #include "platform/disc/ImageSource.h"
+#include "platform/files/Tr.h"
 
 namespace burn {
 struct burn_disc;
@@ -38,7 +39,7 @@ class BurnRun final : public IBurnRun {
   bool WritingOver();
   bool CheckOn();
   bool End(Outcome how);
-  bool Stopped() { return End(Outcome(Fault::Cancelled, "It was cancelled.")); }
+  bool Stopped() { return End(Outcome(Fault::Cancelled, Tr("It was cancelled."))); }
   bool Next(Stage stage, DriveState state);
 
   std::string address_;

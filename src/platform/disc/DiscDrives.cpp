@@ -7,6 +7,7 @@
 #include "platform/disc/ImageDrive.h"
 #include "platform/files/FileStore.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 namespace {
@@ -37,7 +38,7 @@ std::vector<DriveName> DiscDrives(const std::string& system, const std::string& 
     const std::string model = SystemText(JoinPath(device, "model"));
     if (!words.empty() && !model.empty()) words += ' ';
     words += model;
-    if (words.empty()) words = "Disc drive";
+    if (words.empty()) words = Tr("Disc drive");
     drives.push_back({JoinPath(devices, name), words + " (" + name + ")"});
   }
   return drives;

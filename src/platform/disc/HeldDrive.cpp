@@ -8,6 +8,8 @@
 #include <libisofs/libisofs.h>
 #include <unistd.h>
 
+#include "platform/files/Tr.h"
+
 using namespace burn;  // libburn's own, around all that it declares
 
 namespace kinalyx {
@@ -22,7 +24,7 @@ std::timed_mutex& DriveList() {
 constexpr auto kPatience = std::chrono::seconds(5);
 constexpr int kMessageRoom = 4096;
 
-const char* const kSilent = "Another disc drive has not answered yet. Please try again later.";
+const char* const kSilent = TrLater("Another disc drive has not answered yet. Please try again later.");
 
 }  // namespace
 
@@ -62,25 +64,24 @@ std::string DiscComplaint() {
 }
 
 Result<std::unique_ptr<HeldDrive>> HeldDrive::Hold(const std::string& address, bool load) {
-  if (!DiscLibraries()) return Outcome::Failed("The disc libraries could not be started.");
+  if (!DiscLibraries()) return Outcome::Failed(Tr("The disc libraries could not be started."));
   if (address.starts_with('/')) {
-    if (access(address.c_str(), F_OK) != 0) return Outcome(Fault::NotFound, "The drive has gone.");
+    if (access(address.c_str(), F_OK) != 0) return Outcome(Fault::NotFound, Tr("The drive has gone."));
     if (access(address.c_str(), R_OK | W_OK) != 0)
       return Outcome(Fault::Refused,
-                     "You may not use this drive. Ask whoever looks after the computer to add you to the group "
-                     "\"cdrom\", and log in again.");
+                     Tr("You may not use this drive. Ask whoever looks after the computer to add you to the group "
+                        "\"cdrom\", and log in again."));
   }
   const std::unique_lock list(DriveList(), kPatience);
-  if (!list) return Outcome(Fault::Refused, kSilent);
+  if (!list) return Outcome(Fault::Refused, Tr(kSilent));
   DiscComplaint();
   burn_drive_info* infos = nullptr;
   std::string name = address;
   if (burn_drive_scan_and_grab(&infos, name.data(), load ? 1 : 0) != 1) {
     const std::string why = DiscComplaint();
-    return Outcome(Fault::Refused,
-                   "The drive could not be opened. Perhaps another program uses it or shows its disc: close that, "
-                   "and try again." +
-                       (why.empty() ? "" : " (" + why + ")"));
+    return Outcome(Fault::Refused, Tr("The drive could not be opened. Perhaps another program uses it or shows its "
+                                      "disc: close that, and try again.") +
+                                       (why.empty() ? "" : " (" + why + ")"));
   }
   return std::unique_ptr<HeldDrive>(new HeldDrive(infos));
 }

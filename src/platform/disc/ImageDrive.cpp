@@ -6,6 +6,7 @@
 #include "platform/files/Disk.h"
 #include "platform/files/Folders.h"
 #include "platform/files/PartFiles.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 namespace {
@@ -23,7 +24,7 @@ class ImageRun final : public IBurnRun {
     over_ = true;
     how_ = run_.How();
     if (how_ && RealDisk().Rename(part_, path_) < 0)
-      how_ = Outcome(Fault::Unwritable, "The image could not be given its name.");
+      how_ = Outcome(Fault::Unwritable, Tr("The image could not be given its name."));
     if (how_) RealDisk().FlushFolder(FolderOf(path_));
     else KillFile(part_);
     return false;
@@ -47,17 +48,17 @@ class ImageRun final : public IBurnRun {
 
 Result<DriveReport> ImageDrive::TestUnitReady() {
   const std::string folder = FolderOf(path_);
-  if (!dirExists(folder)) return Outcome(Fault::NotFound, "The folder of the image file is not there.");
+  if (!dirExists(folder)) return Outcome(Fault::NotFound, Tr("The folder of the image file is not there."));
   if (access(folder.c_str(), W_OK) != 0)
-    return Outcome(Fault::Unwritable, "The folder of the image file cannot be written to.");
+    return Outcome(Fault::Unwritable, Tr("The folder of the image file cannot be written to."));
   DriveReport report;
   report.Medium = Medium::Blank;
-  report.Kind = "Image file";
+  report.Kind = Tr("Image file");
   report.FreeBytes = FreeBytes(folder);
   return report;
 }
 
-Outcome ImageDrive::Eject() { return Outcome(Fault::Refused, "An image file has no tray."); }
+Outcome ImageDrive::Eject() { return Outcome(Fault::Refused, Tr("An image file has no tray.")); }
 
 std::unique_ptr<IBurnRun> ImageDrive::Burn(const DiscTree& tree, const BurnWish& wish) {
   RemoveDeadParts(FolderOf(path_));

@@ -10,6 +10,7 @@
 
 #include "platform/disc/HeldDrive.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 namespace {
@@ -31,8 +32,10 @@ struct FreeOptions {
 Outcome Refused(std::string_view what, int code) {
   const std::string complaint = DiscComplaint();
   const char* words = iso_error_to_msg(code);
-  return Outcome::Failed("\"" + std::string(what) + "\" cannot be put on the disc: " +
-                         (complaint.empty() ? (words ? words : "unknown reason") : complaint) + ".");
+  return Outcome::Failed(Tr("\"{}\" cannot be put on the disc: {}.", what,
+                            !complaint.empty() ? complaint
+                            : words            ? std::string(words)
+                                               : Tr("unknown reason")));
 }
 
 /// The tree of an image, and its folders by their paths.
@@ -49,7 +52,7 @@ class ImageTree {
   }
   Outcome AddFile(const DiscEntry& file) {
     if (!FileSize(file.From))
-      return Outcome(Fault::NotFound, "\"" + LastName(file.From) + "\" has gone, or cannot be read.");
+      return Outcome(Fault::NotFound, Tr("\"{}\" has gone, or cannot be read.", LastName(file.From)));
     IsoNode* node = nullptr;
     const int code =
         iso_tree_add_new_node(image_, Parent(file.To), LastName(file.To).c_str(), file.From.c_str(), &node);
@@ -79,7 +82,7 @@ ImageSource::~ImageSource() {
 }
 
 Result<std::unique_ptr<ImageSource>> ImageSource::Make(const DiscTree& tree, bool sizeOnly) {
-  if (!DiscLibraries()) return Outcome::Failed("The disc libraries could not be started.");
+  if (!DiscLibraries()) return Outcome::Failed(Tr("The disc libraries could not be started."));
   char utf8[] = "UTF-8";
   iso_set_local_charset(utf8, 0);
   IsoImage* made = nullptr;

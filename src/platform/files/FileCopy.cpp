@@ -18,6 +18,7 @@
 #include "platform/files/Folders.h"
 #include "platform/files/PartFiles.h"
 #include "platform/files/TextEncoding.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 
@@ -54,11 +55,11 @@ bool IsNameTaken(int reason) { return reason == EEXIST || reason == ENOTEMPTY; }
 
 /// In words for the user, where the system's own tell too little.
 std::string ReasonText(int reason) {
-  if (IsNameTaken(reason)) return "there is already something of that name.";
-  if (reason == ENOSPC || reason == EDQUOT) return "the disk is full.";
+  if (IsNameTaken(reason)) return Tr("there is already something of that name.");
+  if (reason == ENOSPC || reason == EDQUOT) return Tr("the disk is full.");
   const int gone[] = {EIO, ENODEV, ENXIO, ENOTCONN};
   if (std::ranges::find(gone, reason) != std::end(gone))
-    return "the drive cannot be read or written. It may have been pulled out.";
+    return Tr("the drive cannot be read or written. It may have been pulled out.");
   return std::strerror(reason);
 }
 
@@ -92,9 +93,10 @@ CopyJob::State CopyJob::Fail(const std::string& name, int reason) {
 
 CopyJob::State CopyJob::FailUnlike(const std::string& name) {
   RollBack();
-  error_ = Quoted(name) + Verb() +
-           "what the drive gave back is not what was written to it. The original is still in its place. Try again; if "
-           "it happens once more, the drive, the card reader or its cable is failing.";
+  error_ =
+      Tr("{}{}what the drive gave back is not what was written to it. The original is still in its place. Try again; "
+         "if it happens once more, the drive, the card reader or its cable is failing.",
+         Quoted(name), Verb());
   state_ = State::Failed;
   return state_;
 }
@@ -125,14 +127,14 @@ bool CopyJob::MeasureEntry(Entry& entry) {
     return false;
   }
   // A folder that is only linked belongs to somebody else, and the link would break in its new place.
-  if (isLink && S_ISDIR(info.st_mode)) return Refuse(Quoted(entry.from) + " is a link to another folder.");
+  if (isLink && S_ISDIR(info.st_mode)) return Refuse(Tr("{} is a link to another folder.", Quoted(entry.from)));
   if ((entry.to + "/").starts_with(entry.from + "/") && S_ISDIR(info.st_mode))
-    return Refuse(Quoted(entry.from) + " cannot go into itself.");
+    return Refuse(Tr("{} cannot go into itself.", Quoted(entry.from)));
 
   std::string folder = FolderOf(entry.to);
   struct stat target {};
   while (::stat(folder.c_str(), &target) != 0 && folder != "/" && folder != ".") folder = FolderOf(folder);
-  if (!S_ISDIR(info.st_mode) && !S_ISREG(info.st_mode)) return Refuse(Quoted(entry.from) + " is no file.");
+  if (!S_ISDIR(info.st_mode) && !S_ISREG(info.st_mode)) return Refuse(Tr("{} is no file.", Quoted(entry.from)));
   // A relative link keeps its target only as long as it stays in its folder.
   const bool renames = isLink ? FolderOf(entry.from) == FolderOf(entry.to) : target.st_dev == info.st_dev;
   entry.byRename = !entry.keep && renames;
@@ -164,7 +166,7 @@ bool CopyJob::MeasureFolder(Entry& entry, const std::string& from, const std::st
     Fail(from, errno);
     return false;
   }
-  if (depth > kMostDepth) return Refuse(Quoted(from) + " lies too deep in its folders.");
+  if (depth > kMostDepth) return Refuse(Tr("{} lies too deep in its folders.", Quoted(from)));
   entry.nodes.push_back({NodeKind::Folder, from, to, {}, 0, info.st_atim, info.st_mtim});
   for (const std::string& name : names) {
     const std::string inFrom = JoinPath(from, name);
@@ -181,7 +183,7 @@ bool CopyJob::MeasureFolder(Entry& entry, const std::string& from, const std::st
       entry.nodes.push_back({NodeKind::File, inFrom, inTo, {}, info.st_size});
       progress_.bytesTotal += info.st_size;
     } else {
-      return Refuse(Quoted(inFrom) + " is no file.");
+      return Refuse(Tr("{} is no file.", Quoted(inFrom)));
     }
   }
   return true;
@@ -209,8 +211,8 @@ bool CopyJob::EnoughRoom() {
     const std::int64_t free = FreeBytes(drive.second);
     if (free < 0 || drive.first <= free) continue;
     constexpr std::int64_t kMegabyte = 1 << 20;
-    return Refuse("There is not enough room: " + std::to_string((drive.first + kMegabyte - 1) / kMegabyte) +
-                  " MB are needed, and " + std::to_string(free / kMegabyte) + " MB are free.");
+    return Refuse(Tr("There is not enough room: {} MB are needed, and {} MB are free.",
+                     (drive.first + kMegabyte - 1) / kMegabyte, free / kMegabyte));
   }
   return true;
 }
@@ -408,11 +410,11 @@ std::string CopyJob::RemoveCopied(const Entry& entry) {
   }
   if (!kept.empty()) {
     std::string text = Quoted(kept.front());
-    if (kept.size() > 1) text += " and " + std::to_string(kept.size() - 1) + " more";
-    return text + " came or changed while " + Quoted(entry.from) +
-           " was moved, and stayed in the old place: " + FolderOf(kept.front());
+    if (kept.size() > 1) text += Tr(" and {} more", kept.size() - 1);
+    return Tr("{} came or changed while {} was moved, and stayed in the old place: {}", text, Quoted(entry.from),
+              FolderOf(kept.front()));
   }
-  return reason ? Quoted(entry.from) + " could not be removed from its old place: " + std::strerror(reason)
+  return reason ? Tr("{} could not be removed from its old place: {}", Quoted(entry.from), std::strerror(reason))
                 : std::string();
 }
 

@@ -13,6 +13,7 @@
 #include "platform/files/FileTransfer.h"
 #include "platform/files/Folders.h"
 #include "platform/files/Result.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 
@@ -120,7 +121,7 @@ class CopyJob {
   bool MakeParents(const std::string& path);
   State Fail(const std::string& name, int reason);
   State FailUnlike(const std::string& name);
-  const char* Verb() const { return kind_ == Kind::Move ? " could not be moved: " : " could not be copied: "; }
+  std::string Verb() const { return kind_ == Kind::Move ? Tr(" could not be moved: ") : Tr(" could not be copied: "); }
   bool Refuse(const std::string& text);
 
   Kind kind_;

@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 namespace {
@@ -234,7 +235,7 @@ Outcome BlockLane::Desk::WritePicture(const std::string& path, const PackedPictu
   }
   const bool same = picture.format.codec == format.codec && picture.format.width == format.width &&
                     picture.format.height == format.height;
-  if (!same) return Outcome::Failed("The camera has changed the size of its pictures.");
+  if (!same) return Outcome::Failed(Tr("The camera has changed the size of its pictures."));
   return file->Write({picture.bytes.get(), picture.size}, picture.ns);
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/files/Tr.h"
 #include "platform/graph/V4l2Controls.h"
 #include "platform/host/DriveWatch.h"
 #include "platform/host/Post.h"
@@ -34,13 +35,13 @@ const std::vector<CameraControl>& CameraKnobs::Of(const std::string& path) {
 Outcome CameraKnobs::Set(const std::string& path, std::uint32_t id, int value) {
   Knobs& knobs = cameras_[path];
   CameraControl* control = Find(knobs.controls, id);
-  if (!control) return {Fault::NotFound, "The camera has no such control."};
-  if (!control->active) return {Fault::Refused, "The camera has this control in hand itself."};
+  if (!control) return {Fault::NotFound, Tr("The camera has no such control.")};
+  if (!control->active) return {Fault::Refused, Tr("The camera has this control in hand itself.")};
   const bool within = value >= control->low && value <= control->high;
   const bool named =
       control->kind != CameraControl::Kind::Choice || (within && value < static_cast<int>(control->choices.size()) &&
                                                        !control->choices[static_cast<std::size_t>(value)].empty());
-  if (!within || !named) return {Fault::Refused, "The camera has no such value."};
+  if (!within || !named) return {Fault::Refused, Tr("The camera has no such value.")};
   control->value = knobs.wishes[id] = value;
   if (!knobs.asking) Ask(path);
   return {};

@@ -8,6 +8,7 @@
 #include <thread>
 #include <utility>
 
+#include "platform/files/Tr.h"
 #include "platform/graph/CameraKnobs.h"
 #include "platform/graph/DeviceSources.h"
 #include "platform/graph/FireWireProvider.h"
@@ -213,14 +214,14 @@ std::vector<CameraControl> DeviceList::Controls(const std::string& camera) {
 
 Outcome DeviceList::SetControl(const std::string& camera, std::uint32_t id, int value) {
   const std::string path = table_->sources->PathOf(camera);
-  if (path.empty()) return {Fault::NotFound, "The camera has no controls."};
+  if (path.empty()) return {Fault::NotFound, Tr("The camera has no controls.")};
   return table_->knobs->Set(path, id, value);
 }
 
 Outcome DeviceList::ChooseLine(const std::string& microphone, const std::string& line) {
   const auto found = table_->sources->Find(microphone, Device::Kind::Microphone);
   if (!found || std::ranges::find(found->device.inputs, line) == found->device.inputs.end())
-    return {Fault::NotFound, "The microphone has no such line."};
+    return {Fault::NotFound, Tr("The microphone has no such line.")};
   // The server may be long in answering.
   DriveWatch::SendWorker([key = found->key, line, set = setLine_, post = table_->post, table = std::weak_ptr(table_)] {
     if (!set(key, line)) return;

@@ -8,6 +8,7 @@
 #include <numeric>
 #include <utility>
 
+#include "platform/files/Tr.h"
 #include "platform/graph/CapsChoices.h"
 #include "platform/graph/FilterBin.h"
 #include "platform/graph/GraphEnds.h"
@@ -84,18 +85,19 @@ class Builder {
       case FilterRole::Mux: bin.Append("identity"); break;
       case FilterRole::Trigger: break;
     }
-    if (!bin.Whole()) return Outcome::Failed("A part of the library for cameras is missing on this machine.");
+    if (!bin.Whole()) return Outcome::Failed(Tr("A part of the library for cameras is missing on this machine."));
     return Outcome();
   }
 
   Outcome AppendDevice(FilterBin& bin, std::size_t index) {
     const bool camera = order_.plan.filters[index].row->role == FilterRole::Camera;
     const FilterSetting& setting = order_.settings[index];
-    if (setting.device.empty()) return Outcome::Failed(camera ? "No camera is chosen." : "No microphone is chosen.");
+    if (setting.device.empty())
+      return Outcome::Failed(camera ? Tr("No camera is chosen.") : Tr("No microphone is chosen."));
     GstElement* source = camera
                              ? order_.sources->MakeCameraSource(setting.device, setting.mode ? &*setting.mode : nullptr)
                              : order_.sources->MakeMicrophoneSource(setting.device);
-    if (!source) return Outcome::Failed(fmt::format("{} is not connected.", setting.device));
+    if (!source) return Outcome::Failed(Tr("{} is not connected.", setting.device));
     bin.Append(source);
     auto watch = std::make_shared<SourceWatch>();
     watch->label = order_.plan.filters[index].label;
@@ -160,7 +162,7 @@ class Builder {
     const GstRef<GstPad> out = bins_[link.from]->Output();
     const GstRef<GstPad> in = InputOf(link);
     if (!out || !in || gst_pad_link_full(out.get(), in.get(), GST_PAD_LINK_CHECK_NOTHING) != GST_PAD_LINK_OK)
-      return Outcome::Failed(fmt::format("\"{}\" cannot be connected with \"{}\".", from.label, to.label));
+      return Outcome::Failed(Tr("\"{}\" cannot be connected with \"{}\".", from.label, to.label));
     return Outcome();
   }
 
@@ -198,7 +200,7 @@ std::vector<std::vector<std::size_t>> PartsOf(const GraphPlan& plan) {
 
 Result<Strand> BuildStrand(const GraphOrder& order, const std::vector<std::size_t>& filters, const GraphNews& news,
                            std::string& culprit) {
-  if (!GstBegun()) return Outcome::Failed("The library for cameras cannot be used on this machine.");
+  if (!GstBegun()) return Outcome::Failed(Tr("The library for cameras cannot be used on this machine."));
   return Builder(order, news).Build(filters, culprit);
 }
 

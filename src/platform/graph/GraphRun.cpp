@@ -1,15 +1,13 @@
 #include "platform/graph/GraphRun.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <atomic>
 #include <condition_variable>
 #include <mutex>
-#include <string_view>
 #include <thread>
 #include <utility>
 
+#include "platform/files/Tr.h"
 #include "platform/graph/GraphWords.h"
 
 namespace kinalyx {
@@ -124,7 +122,7 @@ void GraphRun::Part::Build() {
   const bool ours = std::ranges::all_of(before, [&](const auto& part) { return part->WaitEnded(patience); });
   std::string culprit = order->plan.filters[filters.front()].label;
   // One that hangs is not asked again: each time would leave one more thread hanging.
-  Result<Strand> strand = Outcome::Failed("The camera does not answer.");
+  Result<Strand> strand = Outcome::Failed(Tr("The camera does not answer."));
   if (ours) strand = BuildStrand(*order, filters, news, culprit);
   std::unique_lock lock(mutex);
   if (!strand) {
@@ -178,7 +176,7 @@ bool GraphRun::Part::AwaitStrand() {
   std::unique_lock lock(mutex);
   const auto until = Clock::now() + kForerunner + std::chrono::nanoseconds(kNoPictureNs);
   if (changed.wait_until(lock, until, [this] { return stop || bus; })) return !stop;
-  news.SourceFailed(order->plan.filters[filters.front()].label, "The camera does not answer.");
+  news.SourceFailed(order->plan.filters[filters.front()].label, Tr("The camera does not answer."));
   return false;
 }
 
@@ -197,12 +195,11 @@ bool GraphRun::Part::Look(bool drained) {
   bool over = false;
   LookAtWindows();
   for (const auto& source : sources) {
-    const std::string_view name = source->camera ? "camera" : "microphone";
     const std::int64_t silence = MonotonicNow() - source->lastNs;
     if (source->ended && (drained || silence > kLastWayNs)) {
-      news.SourceFailed(source->label, fmt::format("The {} has ended.", name));
+      news.SourceFailed(source->label, WordsForEnd(source->camera));
     } else if (silence > (source->given ? kSilenceNs : kNoPictureNs)) {
-      news.SourceFailed(source->label, fmt::format("The {} gives no {}.", name, source->camera ? "picture" : "sound"));
+      news.SourceFailed(source->label, WordsForSilence(source->camera));
     } else {
       continue;
     }
@@ -240,7 +237,7 @@ bool GraphRun::Part::HearError(GstMessage* message) {
   }
   if (role == FilterRole::Writer) {
     CloseFiles();
-    news.SinkFailed(label, "The pictures of the camera cannot be written.");
+    news.SinkFailed(label, Tr("The pictures of the camera cannot be written."));
     return false;
   }
   const bool sound = role == FilterRole::Microphone || role == FilterRole::AudioTrigger;

@@ -10,4 +10,8 @@ namespace kinalyx {
 /// @param given  it has given something before
 std::string WordsForFailure(GstMessage* error, bool camera, bool given);
 
+/// Of a source that has come to its end, and of one that goes on and gives nothing.
+std::string WordsForEnd(bool camera);
+std::string WordsForSilence(bool camera);
+
 }  // namespace kinalyx

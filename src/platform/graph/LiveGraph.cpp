@@ -8,6 +8,7 @@
 #include <optional>
 #include <utility>
 
+#include "platform/files/Tr.h"
 #include "platform/graph/GraphRun.h"
 #include "platform/graph/LessonLane.h"
 #include "platform/graph/RecordingLane.h"
@@ -50,7 +51,7 @@ struct LiveGraph::Engine {
 namespace {
 
 Outcome NoFilter(std::string_view what, std::string_view label) {
-  return Outcome::Failed(fmt::format("The graph has no {} \"{}\".", what, label));
+  return Outcome::Failed(Tr("The graph has no {} \"{}\".", what, label));
 }
 
 }  // namespace
@@ -153,7 +154,7 @@ Outcome LiveGraph::GraphSetDevice(std::string_view label, std::string_view devic
 Outcome LiveGraph::GraphSetVideoFormat(std::string_view label, int width, int height, std::string_view format) {
   FilterSetting* setting = engine_->SettingOf(label, {FilterRole::Camera});
   if (!setting) return NoFilter("camera", label);
-  if (width <= 0 || height <= 0) return Outcome::Failed(fmt::format("A picture cannot be {} x {}.", width, height));
+  if (width <= 0 || height <= 0) return Outcome::Failed(Tr("A picture cannot be {} x {}.", width, height));
   const double rate = setting->mode ? setting->mode->rate : 0;
   setting->mode = PictureMode{width, height, rate, std::string(format)};
   return Outcome();
@@ -162,7 +163,7 @@ Outcome LiveGraph::GraphSetVideoFormat(std::string_view label, int width, int he
 Outcome LiveGraph::GraphSetFrameTime(std::string_view label, double seconds) {
   FilterSetting* setting = engine_->SettingOf(label, {FilterRole::Camera});
   if (!setting) return NoFilter("camera", label);
-  if (!(seconds > 0)) return Outcome::Failed("A picture takes longer than no time.");
+  if (!(seconds > 0)) return Outcome::Failed(Tr("A picture takes longer than no time."));
   if (!setting->mode) setting->mode = PictureMode{};
   setting->mode->rate = 1 / seconds;
   return Outcome();
@@ -170,7 +171,7 @@ Outcome LiveGraph::GraphSetFrameTime(std::string_view label, double seconds) {
 
 Outcome LiveGraph::GraphSetAudioPin(int index) {
   // Lines are chosen in the list of devices; a graph hears the one that its microphone has.
-  return index == 0 ? Outcome() : Outcome::Failed("There is no such input of the microphone.");
+  return index == 0 ? Outcome() : Outcome::Failed(Tr("There is no such input of the microphone."));
 }
 
 Outcome LiveGraph::GraphSetFileSource(std::string_view label, std::string_view path) {
@@ -188,7 +189,7 @@ Outcome LiveGraph::GraphSetFileSink(std::string_view label, std::string_view pat
 }
 
 Outcome LiveGraph::GraphRun() {
-  if (engine_->plan.filters.empty()) return Outcome::Failed("There is no graph that could run.");
+  if (engine_->plan.filters.empty()) return Outcome::Failed(Tr("There is no graph that could run."));
   const Outcome stopped = engine_->StopRun();
   GraphNews news(engine_->events, engine_->post);
   const FilterFaces& faces = engine_->faces;
@@ -233,7 +234,7 @@ Outcome LiveGraph::Engine::StopRun() {
   run->Stop();
   past = std::move(run);
   return closed ? Outcome()
-                : Outcome::Failed("The disk does not answer. The recording will be looked for at the next start.");
+                : Outcome::Failed(Tr("The disk does not answer. The recording will be looked for at the next start."));
 }
 
 void LiveGraph::GraphClear() {

@@ -8,6 +8,8 @@
 #include <thread>
 #include <utility>
 
+#include "platform/files/Tr.h"
+
 namespace kinalyx {
 namespace {
 
@@ -150,7 +152,7 @@ void RecordingLane::Desk::Write(std::unique_lock<std::mutex>& lock) {
     const bool same = picture.format.codec == format.codec && picture.format.width == format.width &&
                       picture.format.height == format.height;
     const Outcome written = same ? file->Write({picture.bytes.get(), picture.size}, picture.ns)
-                                 : Outcome::Failed("The camera has changed the size of its pictures.");
+                                 : Outcome::Failed(Tr("The camera has changed the size of its pictures."));
     if (!written) failure = written;
   }
   RecordingTally now = file ? file->Tally() : RecordingTally{};

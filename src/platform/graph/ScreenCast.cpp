@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/files/Tr.h"
+
 namespace kinalyx {
 namespace {
 
@@ -30,8 +32,8 @@ using GRef = std::unique_ptr<T, Unref>;
 
 Outcome NoPortal() {
   return Outcome::Failed(
-      "This desktop does not let programs record the screen: its service \"xdg-desktop-portal\" does not answer. It "
-      "comes with GNOME and KDE; a session of type \"Xorg\", which the log-in screen offers, does without it.");
+      Tr("This desktop does not let programs record the screen: its service \"xdg-desktop-portal\" does not answer. It "
+         "comes with GNOME and KDE; a session of type \"Xorg\", which the log-in screen offers, does without it."));
 }
 
 }  // namespace
@@ -46,7 +48,7 @@ struct ScreenQuestion::Line {
   Result<GrantedScreen> Ask(const std::string& token);
   Outcome Request(const char* method, GVariantBuilder* options, GVariant* before, const char* parent, Answer& answer);
   Outcome Connect(GrantedScreen& screen);
-  Outcome Cancelled() const { return {Fault::Cancelled, "The screen was not given."}; }
+  Outcome Cancelled() const { return {Fault::Cancelled, Tr("The screen was not given.")}; }
 
   std::atomic<bool> takenBack = false;
   GRef<GMainContext> context{g_main_context_new()};

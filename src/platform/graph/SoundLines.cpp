@@ -10,6 +10,8 @@
 #include <chrono>
 #include <memory>
 
+#include "platform/files/Tr.h"
+
 namespace kinalyx {
 namespace {
 
@@ -84,7 +86,7 @@ class SoundTalk {
   }
   Outcome Failure() const {
     const int error = pa_context_errno(context_.get());
-    return Outcome::Failed(error == PA_OK ? "The sound server does not answer." : pa_strerror(error));
+    return Outcome::Failed(error == PA_OK ? Tr("The sound server does not answer.") : pa_strerror(error));
   }
 
   const Clock::time_point end_ = Clock::now() + kPatience;
@@ -104,7 +106,7 @@ Outcome SetSoundLine(const std::string& microphone, const std::string& title) {
   if (const Outcome begun = talk.Begin(); !begun) return begun;
   const SoundLines lines = talk.Lines()[microphone];
   const auto found = std::ranges::find(lines.titles, title);
-  if (found == lines.titles.end()) return {Fault::NotFound, "The microphone has no such line."};
+  if (found == lines.titles.end()) return {Fault::NotFound, Tr("The microphone has no such line.")};
   return talk.SetLine(microphone, lines.names[static_cast<std::size_t>(found - lines.titles.begin())]);
 }
 

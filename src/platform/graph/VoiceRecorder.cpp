@@ -11,6 +11,7 @@
 #include <thread>
 #include <utility>
 
+#include "platform/files/Tr.h"
 #include "platform/graph/DeviceSources.h"
 #include "platform/graph/GstHandles.h"
 
@@ -100,13 +101,13 @@ GstRef<GstElement> MakeGraph(const DeviceSources& sources, const std::string& mi
 
 void Listen(const std::shared_ptr<Voice>& voice, const std::shared_ptr<const DeviceSources>& sources,
             const std::string& microphone, std::chrono::steady_clock::time_point zero) {
-  if (!GstBegun()) return voice->Fail("This machine cannot record sound.");
+  if (!GstBegun()) return voice->Fail(Tr("This machine cannot record sound."));
   const GstRef<GstClock> clock(gst_system_clock_obtain());
   const auto ago =
       std::chrono::duration_cast<std::chrono::nanoseconds>(std::chrono::steady_clock::now() - zero).count();
   const GstClockTime began = gst_clock_get_time(clock.get()) - static_cast<GstClockTime>(ago);
   const GstRef<GstElement> pipeline = MakeGraph(*sources, microphone, *voice, began);
-  if (!pipeline) return voice->Fail("The microphone cannot be found.");
+  if (!pipeline) return voice->Fail(Tr("The microphone cannot be found."));
   const GstRef<GstBus> bus(gst_element_get_bus(pipeline.get()));
   gst_element_set_state(pipeline.get(), GST_STATE_PLAYING);
   int waited = 0;
@@ -114,11 +115,11 @@ void Listen(const std::shared_ptr<Voice>& voice, const std::shared_ptr<const Dev
     const GstMessageRef message(gst_bus_timed_pop_filtered(
         bus.get(), kWatchMs * GST_MSECOND, static_cast<GstMessageType>(GST_MESSAGE_ERROR | GST_MESSAGE_EOS)));
     if (message) {
-      voice->Fail("The microphone gives no sound any more.");
+      voice->Fail(Tr("The microphone gives no sound any more."));
       break;
     }
     waited += kWatchMs;
-    if (waited > kPatienceMs && !voice->heard) voice->Fail("The microphone does not answer.");
+    if (waited > kPatienceMs && !voice->heard) voice->Fail(Tr("The microphone does not answer."));
   }
   gst_element_set_state(pipeline.get(), GST_STATE_NULL);
 }

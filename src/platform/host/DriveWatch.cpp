@@ -6,6 +6,7 @@
 #include <thread>
 
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 
@@ -92,10 +93,10 @@ bool DriveWatch::Carry(const std::string& place, Work work, Patience patience) {
 bool DriveWatch::WaitUnderCard(const std::string& place, IErrand& errand) {
   if (cardShown_) return false;
   cardShown_ = true;
-  const auto card =
-      host_.ShowWait("Waiting for a Drive", "The drive with the folder " + place +
-                                                " is not answering yet. It may be switched off, or out of reach.\n\n"
-                                                "As soon as it answers, the program goes on.");
+  const auto card = host_.ShowWait(Tr("Waiting for a Drive"),
+                                   Tr("The drive with the folder {} is not answering yet. It may be switched off, or "
+                                      "out of reach.\n\nAs soon as it answers, the program goes on.",
+                                      place));
   do host_.DoEvents();
   while (!card->Stopped() && !errand.Over(kTurnMs));
   cardShown_ = false;

@@ -66,7 +66,7 @@ class WaitBox final : public IWaitCard {
       : box_(QMessageBox::Information, title, text, QMessageBox::NoButton, QApplication::activeWindow()) {
     box_.setObjectName("WaitBox");
     box_.setTextFormat(Qt::PlainText);
-    box_.addButton("Stop Waiting", QMessageBox::RejectRole);
+    box_.addButton(QObject::tr("Stop Waiting"), QMessageBox::RejectRole);
     box_.setWindowModality(Qt::ApplicationModal);
     box_.show();
   }
@@ -192,7 +192,7 @@ class QtHost final : public QObject, public IHost {
       // Who writes on a drive that does not answer says so.
       const auto there = drives_.Ask(file.path().toStdString(), [path] { return QFileInfo::exists(path); });
       if (!there.value_or(false)) return Picked(path);
-      const QString question = "\"%1\" is there already. Do you want to replace it?";
+      const QString question = tr("\"%1\" is there already. Do you want to replace it?");
       if (Question(dialog.title, question.arg(file.fileName()).toStdString())) return Picked(path);
     }
   }

@@ -8,6 +8,7 @@
 #include <thread>
 #include <vector>
 
+#include "platform/files/Tr.h"
 #include "platform/media/AvHandles.h"
 #include "platform/media/GifClip.h"
 #include "platform/media/VideoOutput.h"
@@ -117,7 +118,7 @@ int Mp4Clip::OpenSound() {
 
 Outcome Mp4Clip::Open() {
   if (format_.width < 2 || format_.height < 2 || format_.width % 2 != 0 || format_.height % 2 != 0)
-    return Outcome::Failed("the sides of the picture must be even");
+    return Outcome::Failed(Tr("the sides of the picture must be even"));
   int result = output_.Open("mp4");
   if (result >= 0) result = OpenPictures();
   if (result >= 0 && format_.sound) result = OpenSound();
@@ -166,7 +167,7 @@ int Mp4Clip::SendPending(std::int64_t until) {
 
 Outcome Mp4Clip::Write(const PixelRows& picture, double ms) {
   if (picture.width != format_.width || picture.height != format_.height || picture.bitCount != 32)
-    return Outcome::Failed("a picture of another size");
+    return Outcome::Failed(Tr("a picture of another size"));
   const std::int64_t time = TicksOf(ms);
   int result = SendPending(time);
   if (result >= 0) result = Convert(picture);
@@ -202,7 +203,7 @@ int Mp4Clip::SendSound(bool last) {
 }
 
 Outcome Mp4Clip::WriteSound(std::span<const std::int16_t> samples) {
-  if (!sound_) return Outcome::Failed("the clip has no sound");
+  if (!sound_) return Outcome::Failed(Tr("the clip has no sound"));
   samples_.insert(samples_.end(), samples.begin(), samples.end());
   return Told(SendSound(false));
 }

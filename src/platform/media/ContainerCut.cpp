@@ -10,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/files/Tr.h"
 #include "platform/media/CutContainer.h"
 #include "platform/media/CutEncoder.h"
 #include "platform/media/CutPlan.h"
@@ -44,7 +45,7 @@ bool IsSame(const AVFrame& one, const AVFrame& other) {
 }
 
 Result<std::unique_ptr<PictureSource>> PicturesOf(std::unique_ptr<Demuxer> demuxer) {
-  if (!demuxer) return Outcome::Failed("the file has gone");
+  if (!demuxer) return Outcome::Failed(Tr("the file has gone"));
   auto decoder = PictureDecoder::Open(std::move(demuxer));
   if (!decoder) return decoder.Failure();
   return std::make_unique<PictureSource>(std::move(*decoder));
@@ -111,11 +112,11 @@ class ContainerCut {
 
 bool ContainerCut::Cut() {
   container_ = CutContainer::Like(demuxer_->Container(), order_.target);
-  if (container_.muxers.empty()) return Fail("videos in this kind of file cannot be cut");
+  if (container_.muxers.empty()) return Fail(Tr("videos in this kind of file cannot be cut"));
   sound_ = demuxer_->Describe().hasSound ? SoundCopy::Open(*demuxer_) : nullptr;
   planned_ = plan_.Make(*demuxer_, order_.first, order_.count, av_inv_q(order_.rate), [this] { return GoOn(0); });
   if (cancelled_) return false;
-  if (plan_.FileEndsEarly()) return Fail("the file cannot be read to the end of the cut");
+  if (plan_.FileEndsEarly()) return Fail(Tr("the file cannot be read to the end of the cut"));
   copied_ = order_.copy;
   if (copied_ && CutByCopying()) return Commit();
   if (cancelled_) return false;
@@ -152,13 +153,13 @@ bool ContainerCut::CutByCopying() {
 
 bool ContainerCut::CopyPackets() {
   const std::vector<PlannedPacket>& packets = plan_.Packets();
-  if (!demuxer_->Seek(packets.front().number)) return Fail("the file cannot be read there");
+  if (!demuxer_->Seek(packets.front().number)) return Fail(Tr("the file cannot be read there"));
   const PacketHandle packet = NewPacket();
   int done = 0;
   for (auto planned = packets.begin(); planned != packets.end();) {
     av_packet_unref(packet.get());
     const int number = demuxer_->Read(*packet);
-    if (number < 0 || number > planned->number) return Fail("the file cannot be read to the end of the cut");
+    if (number < 0 || number > planned->number) return Fail(Tr("the file cannot be read to the end of the cut"));
     if (number < planned->number) continue;
     // Another way to store the pictures, in mid-stream: not every container can tell that.
     std::size_t bytes = 0;
@@ -166,7 +167,7 @@ bool ContainerCut::CopyPackets() {
       const AVCodecParameters& codec = demuxer_->Codec();
       const bool same =
           static_cast<int>(bytes) == codec.extradata_size && std::memcmp(extra, codec.extradata, bytes) == 0;
-      if (!same) return Fail("the pictures are not all stored in the same way");
+      if (!same) return Fail(Tr("the pictures are not all stored in the same way"));
     }
     packet->pts = planned->shown;
     packet->dts = planned->decoded;
@@ -186,33 +187,34 @@ bool ContainerCut::CutByCoding() {
   if (!pictures) return Fail(pictures.Why());
   const auto& source = *pictures;
   const FrameHandle first = source->Picture(order_.first);
-  if (!first) return Fail("a picture cannot be decoded");
+  if (!first) return Fail(Tr("a picture cannot be decoded"));
   // The sound decides which of the containers it is; for the pictures there may be another codec.
   std::vector<const AVCodecParameters*> sounds;
   if (sound_) sounds = sound_->Codecs();
   const AVOutputFormat* format = container_.For(sounds);
-  if (!format) return Fail("the sound of this video cannot be cut");
+  if (!format) return Fail(Tr("the sound of this video cannot be cut"));
   const CodecHandle codec = OpenCutEncoder(*format, demuxer_->Codec(), *first, order_.rate);
   AVCodecParameters* made = avcodec_parameters_alloc();
   const bool opened =
       codec && made && avcodec_parameters_from_context(made, codec.get()) >= 0 && OpenOutput(*format, *made, true);
   avcodec_parameters_free(&made);
-  if (!codec) return Fail("videos of this kind can be cut at some pictures only, and not at these");
-  if (!opened) return message_.empty() ? Fail("out of memory") : false;
+  if (!codec) return Fail(Tr("videos of this kind can be cut at some pictures only, and not at these"));
+  if (!opened) return message_.empty() ? Fail(Tr("out of memory")) : false;
   if (!CodePictures(*source, *codec) || !Complete()) return false;
   if (ShowsTheCut()) return true;
-  return Fail(order_.count == 1 ? "a video of this kind cannot be a single picture; keep two or more. It is unchanged"
-                                : "the cut did not come out as it should; the video is unchanged");
+  return Fail(order_.count == 1
+                  ? Tr("a video of this kind cannot be a single picture; keep two or more. It is unchanged")
+                  : "the cut did not come out as it should; the video is unchanged");
 }
 
 bool ContainerCut::CodePictures(PictureSource& source, AVCodecContext& codec) {
   PictureFitter fitter(codec.pix_fmt, codec.width, codec.height);
   for (int n = 0; n < order_.count; ++n) {
     const FrameHandle picture = source.Picture(order_.first + n);
-    if (!picture) return Fail("a picture cannot be decoded");
+    if (!picture) return Fail(Tr("a picture cannot be decoded"));
     const AVFrame* fitted = fitter.Fit(*picture);
     const FrameHandle coded(fitted ? av_frame_clone(fitted) : nullptr);
-    if (!coded) return Fail("out of memory");
+    if (!coded) return Fail(Tr("out of memory"));
     coded->pts = n;
     coded->pkt_dts = AV_NOPTS_VALUE;
     coded->pict_type = AV_PICTURE_TYPE_NONE;
@@ -247,11 +249,11 @@ bool ContainerCut::OpenOutput(const AVOutputFormat& format, const AVCodecParamet
   AVFormatContext& file = output_->Container();
   CopyNotes(file.metadata, demuxer_->Container().metadata);
   pictures_ = output_->AddStream();
-  if (!pictures_ || avcodec_parameters_copy(pictures_->codecpar, &codec) < 0) return Fail("out of memory");
+  if (!pictures_ || avcodec_parameters_copy(pictures_->codecpar, &codec) < 0) return Fail(Tr("out of memory"));
   pictures_->codecpar->codec_tag = AcceptedTag(*file.oformat, codec.codec_id, codec.codec_tag);
   AddStreamNotes(demuxer_->Stream(), anew);
   if (sound_ && !sound_->Begin(*output_, ClockOf(0), ClockOf(order_.count), container_.hidesPictures))
-    return Fail("the sound cannot be read");
+    return Fail(Tr("the sound cannot be read"));
   AVDictionary* options = MuxingOptions();
   const int started = output_->Start(&options);
   av_dict_free(&options);
@@ -310,7 +312,7 @@ bool ContainerCut::Complete() {
   if (!container_.hidesPictures) return true;
   const AVRational unit = plan_.Unit();
   const double length = static_cast<double>(plan_.TimeOf(order_.count)) * av_q2d(unit);
-  return EndEditAt(output_->HiddenPath(), length) || Fail("the new file cannot be completed");
+  return EndEditAt(output_->HiddenPath(), length) || Fail(Tr("the new file cannot be completed"));
 }
 
 /// What was made is opened as any video is.

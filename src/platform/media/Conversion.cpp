@@ -12,6 +12,7 @@ extern "C" {
 #include <vector>
 
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/media/ConversionPictures.h"
 #include "platform/media/Demuxer.h"
 #include "platform/media/PictureDecoder.h"
@@ -117,7 +118,7 @@ struct Conversion::Engine {
 };
 
 Outcome Conversion::Engine::Open() {
-  if (EntryExists(request.destination)) return Outcome(Fault::Refused, "there is already a file of that name");
+  if (EntryExists(request.destination)) return Outcome(Fault::Refused, Tr("there is already a file of that name"));
   if (request.codec == Codec::Dv) {
     request.width = kTapeWidth;
     request.height = kTapeHeight;
@@ -133,11 +134,11 @@ Outcome Conversion::Engine::Open() {
   first = times.FrameAt(request.startMs + slackMs, index);
   const int last = request.endMs > 0 ? times.FrameAt(request.endMs + slackMs, index) : info.frameCount - 1;
   if (last < first || (request.endMs > 0 && request.endMs < request.startMs))
-    return Outcome::Failed("the end lies before the start");
+    return Outcome::Failed(Tr("the end lies before the start"));
   count = last - first + 1;
   ChooseTimes();
   auto reader = demuxer->Again();
-  if (!reader) return Outcome(Fault::NotFound, "the file has gone");
+  if (!reader) return Outcome(Fault::NotFound, Tr("the file has gone"));
   auto decoder = PictureDecoder::Open(std::move(reader));
   if (!decoder) return decoder.Failure();
   source = std::make_unique<PictureSource>(std::move(*decoder));
@@ -179,10 +180,10 @@ bool Conversion::Engine::TakeFrame(int frame) {
   if (!decoded) return true;
   if (!codec && !Begin(*decoded)) return false;
   const FrameHandle made = pictures->Make(*decoded);
-  if (!made) return Fail("a picture cannot be converted");
+  if (!made) return Fail(Tr("a picture cannot be converted"));
   made->pts = PlaceOf(frame);
   if (codec->flags & AV_CODEC_FLAG_QSCALE) made->quality = codec->global_quality;
-  if (++converted.pictures % kLookForRoom == 0 && !HasRoom()) return Fail("there is not enough room on the disk");
+  if (++converted.pictures % kLookForRoom == 0 && !HasRoom()) return Fail(Tr("there is not enough room on the disk"));
   return Encode(made.get());
 }
 
@@ -203,12 +204,12 @@ bool Conversion::Engine::Begin(const AVFrame& shown) {
   form.format = request.codec == Codec::Dv ? AV_PIX_FMT_YUV411P : FormatFor(shown, form.fields);
   pictures.emplace(demuxer->Shape(), form);
   codec = OpenEncoder(request.codec, form, rate);
-  if (!codec) return Fail("no encoder takes these pictures");
+  if (!codec) return Fail(Tr("no encoder takes these pictures"));
 
   output = std::make_unique<VideoOutput>(request.destination);
   if (const int opened = output->Open(); opened < 0) return Fail(opened);
   stream = output->AddStream();
-  if (!stream || avcodec_parameters_from_context(stream->codecpar, codec.get()) < 0) return Fail("out of memory");
+  if (!stream || avcodec_parameters_from_context(stream->codecpar, codec.get()) < 0) return Fail(Tr("out of memory"));
   stream->codecpar->codec_tag = codec->codec_tag;
   stream->time_base = av_inv_q(rate);
   stream->avg_frame_rate = rate;
@@ -244,7 +245,7 @@ bool Conversion::Engine::WritePacket(AVPacket& content, std::int64_t place) {
 }
 
 bool Conversion::Engine::Finish() {
-  if (!codec) return Fail("no picture of the video can be decoded");
+  if (!codec) return Fail(Tr("no picture of the video can be decoded"));
   if (!Encode(nullptr)) return false;
   // Where the last places repeat a picture, one empty packet at the end makes the file count them all.
   if (lastPlace < steady.frames - 1) {

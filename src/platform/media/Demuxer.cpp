@@ -11,6 +11,7 @@
 #include <string_view>
 #include <utility>
 
+#include "platform/files/Tr.h"
 #include "platform/media/AviFields.h"
 
 namespace kinalyx {
@@ -97,7 +98,7 @@ Result<std::unique_ptr<Demuxer>> Demuxer::Open(const std::string& path) {
     demuxer->chunksOfFrame_ = 1;
     demuxer->IndexByReading();
   }
-  if (demuxer->index_->FrameCount() < 1) return Outcome(Fault::NoFrames, "the video stream holds no picture");
+  if (demuxer->index_->FrameCount() < 1) return Outcome(Fault::NoFrames, Tr("the video stream holds no picture"));
   return demuxer;
 }
 
@@ -124,7 +125,7 @@ InputHandle Demuxer::OpenOthers(std::unique_ptr<FileInput>& file) const {
 
 Outcome Demuxer::OpenStream(std::unique_ptr<FileInput> file, const AVStream* known) {
   file_ = std::move(file);
-  if (file_->Bytes() == 0) return Outcome(Fault::NoFrames, "the file is empty");
+  if (file_->Bytes() == 0) return Outcome(Fault::NoFrames, Tr("the file is empty"));
   int error = 0;
   input_ = file_->OpenContainer(kContainers, error);
   if (!input_) return Outcome(Fault::NoMedia, WhyRefused(*file_, error));
@@ -142,16 +143,15 @@ Outcome Demuxer::OpenStream(std::unique_ptr<FileInput> file, const AVStream* kno
   const AVRational pixelOfContainer = found ? stream_->sample_aspect_ratio : AVRational{0, 1};
   if (found && known && stream_->index == known->index) {
     if (avcodec_parameters_copy(stream_->codecpar, known->codecpar) < 0)
-      return Outcome(Fault::NoMedia, "the stream cannot be read");
+      return Outcome(Fault::NoMedia, Tr("the stream cannot be read"));
   } else if (!found || !saysEnough()) {
     Probe(*input_);
-    if (!FindStream()) return Outcome(Fault::NoMedia, "no video stream");
+    if (!FindStream()) return Outcome(Fault::NoMedia, Tr("no video stream"));
   }
   const AVCodecParameters& codec = *stream_->codecpar;
-  if (!avcodec_find_decoder(codec.codec_id)) return Outcome(Fault::NoMedia, "no decoder for " + FourCC(codec));
+  if (!avcodec_find_decoder(codec.codec_id)) return Outcome(Fault::NoMedia, Tr("no decoder for {}", FourCC(codec)));
   if (!IsLikelySize({codec.width, codec.height}))
-    return Outcome(Fault::NoMedia,
-                   "absurd picture size: " + std::to_string(codec.width) + " x " + std::to_string(codec.height));
+    return Outcome(Fault::NoMedia, Tr("absurd picture size: {} x {}", codec.width, codec.height));
   FindShape(pixelOfContainer);
   FindPalette();
   // A program stream tells few times and makes up the rest, otherwise after a seek than before it.

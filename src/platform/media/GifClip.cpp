@@ -12,6 +12,7 @@ extern "C" {
 #include <cmath>
 #include <utility>
 
+#include "platform/files/Tr.h"
 #include "platform/media/AvHandles.h"
 #include "platform/media/VideoOutput.h"
 
@@ -40,7 +41,7 @@ class GifClip final : public ClipWriter {
 
   Outcome Open() { return Told(OpenGraph()); }
   Outcome Write(const PixelRows& picture, double ms) override;
-  Outcome WriteSound(std::span<const std::int16_t>) override { return Outcome::Failed("a loop has no sound"); }
+  Outcome WriteSound(std::span<const std::int16_t>) override { return Outcome::Failed(Tr("a loop has no sound")); }
   Outcome Close(double ms) override;
 
  private:
@@ -88,7 +89,7 @@ int GifClip::OpenGraph() {
 
 Outcome GifClip::Write(const PixelRows& picture, double ms) {
   if (picture.width != format_.width || picture.height != format_.height || picture.bitCount != 32)
-    return Outcome::Failed("a picture of another size");
+    return Outcome::Failed(Tr("a picture of another size"));
   const std::int64_t time = std::llround(ms / 10);
   if (last_ >= 0 && time < last_ + kShortest) return {};
   last_ = time;
@@ -153,7 +154,7 @@ int GifClip::Drain() {
 }
 
 Outcome GifClip::Close(double ms) {
-  if (last_ < 0) return Outcome::Failed("there is no picture");
+  if (last_ < 0) return Outcome::Failed(Tr("there is no picture"));
   end_ = std::llround(ms / 10);
   int result = av_buffersrc_add_frame(in_, nullptr);
   if (result >= 0) result = Drain();

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "platform/files/FileCopy.h"
+#include "platform/files/Tr.h"
 #include "platform/media/VideoOutput.h"
 
 namespace kinalyx {
@@ -81,7 +82,7 @@ LessonCopy::~LessonCopy() = default;
 
 bool LessonCopy::Engine::Begin() {
   input = OpenLesson(source);
-  if (!input) return Fail("The recording cannot be read.");
+  if (!input) return Fail(Tr("The recording cannot be read."));
   const bool avi = KindOf(*input) == LessonKind::Avi;
   if (const int opened = output.Open(avi ? "avi" : "mp4"); opened < 0) return FailBy(opened);
   bytes = std::max<std::int64_t>(avio_size(input->pb), 1);
@@ -117,14 +118,14 @@ int LessonCopy::Engine::Write(AVPacket& taken) {
 }
 
 bool LessonCopy::Engine::Finish() {
-  if (pictures == 0) return Fail("The recording holds no picture.");
+  if (pictures == 0) return Fail(Tr("The recording holds no picture."));
   std::string why;
   if (!output.Close(why)) return Fail(why);
   // The recording goes next: first this must be safe.
   const int file = ::open(output.HiddenPath().c_str(), O_RDONLY | O_CLOEXEC);
   const bool safe = file >= 0 && ::fsync(file) == 0;
   if (file >= 0) ::close(file);
-  if (!safe) return Fail("The disk does not keep it.");
+  if (!safe) return Fail(Tr("The disk does not keep it."));
   if (!output.Finish(false, why)) return Fail(why);
   part = 1;
   return false;

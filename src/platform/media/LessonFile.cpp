@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/media/LessonCoders.h"
 #include "platform/media/SoundInStep.h"
 
@@ -67,7 +68,8 @@ struct LessonFile::Engine {
 Outcome LessonFile::Engine::Keep(int result) {
   if (result >= 0) return Outcome();
   if (tally.fault.empty()) {
-    tally.fault = result == AVERROR(ENOSPC) ? "The disk is full." : "The lesson cannot be written: " + AvError(result);
+    tally.fault =
+        result == AVERROR(ENOSPC) ? "The disk is full." : Tr("The lesson cannot be written: {}", AvError(result));
   }
   return Outcome::Failed(tally.fault);
 }
@@ -87,7 +89,7 @@ Outcome LessonFile::Engine::Begin(const std::string& path) {
   pictureCodec = OpenLessonPictures(format);
   if (format.voice) voiceCodec = OpenLessonVoice(format.kind);
   if (!pictureCodec || (format.voice && (!voiceCodec || !voice.Usable())))
-    return Outcome::Failed("A part of the library for videos is missing on this machine.");
+    return Outcome::Failed(Tr("A part of the library for videos is missing on this machine."));
   AVFormatContext* made = nullptr;
   if (const int result = avformat_alloc_output_context2(&made, nullptr, "matroska", nullptr); result < 0)
     return Keep(result);
@@ -203,8 +205,8 @@ Outcome LessonFile::Engine::Say(bool all) {
 
 Result<std::unique_ptr<LessonFile>> LessonFile::Create(const std::string& path, const LessonFormat& format) {
   if (format.width < 2 || format.height < 2 || format.width % 2 != 0 || format.height % 2 != 0)
-    return Outcome::Failed("no lesson has this size");
-  if (EntryExists(path)) return Outcome::Failed(LastName(path) + " exists already.");
+    return Outcome::Failed(Tr("no lesson has this size"));
+  if (EntryExists(path)) return Outcome::Failed(Tr("{} exists already.", LastName(path)));
   auto engine = std::make_unique<Engine>(format);
   if (const Outcome begun = engine->Begin(path); !begun) {
     engine.reset();

@@ -4,6 +4,7 @@
 #include <thread>
 #include <utility>
 
+#include "platform/files/Tr.h"
 #include "platform/media/Colours.h"
 
 namespace kinalyx {
@@ -42,7 +43,7 @@ Result<CodecHandle> PictureDecoder::NewCodec(int threads, int threadType, Compla
   const AVCodec* codec = avcodec_find_decoder(parameters.codec_id);
   CodecHandle context(codec ? avcodec_alloc_context3(codec) : nullptr);
   if (!context || avcodec_parameters_to_context(context.get(), &parameters) < 0)
-    return Outcome(Fault::NoMedia, "no decoder");
+    return Outcome(Fault::NoMedia, Tr("no decoder"));
   context->thread_count = threads;
   context->thread_type = threadType;
   // Without a word in the stream about its order the decoder must expect the worst, or it drops pictures.

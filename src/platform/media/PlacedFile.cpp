@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "platform/files/Disk.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 namespace {
@@ -29,10 +30,10 @@ Result<PlacedFile> PlacedFile::Open(const std::string& path, Which which) {
   if (opened < 0) return Failure(errno);
   PlacedFile file(opened);
   struct stat status {};
-  if (::fstat(opened, &status) != 0 || !S_ISREG(status.st_mode)) return Outcome::Failed("not a file");
+  if (::fstat(opened, &status) != 0 || !S_ISREG(status.st_mode)) return Outcome::Failed(Tr("not a file"));
   // A drive without locks locks nothing.
   if (::flock(opened, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
-    return Outcome(Fault::Refused, "it is being written");
+    return Outcome(Fault::Refused, Tr("it is being written"));
   return file;
 }
 

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/media/RecordingClock.h"
 #include "platform/media/RecordingParts.h"
 
@@ -120,7 +121,7 @@ Outcome RecordingFile::Engine::Take(std::span<const std::byte> picture, std::int
 
 Result<std::unique_ptr<RecordingFile>> RecordingFile::Create(const std::string& path, const RecordingFormat& format) {
   if (format.width < 1 || format.height < 1 || format.width > kLargestSide || format.height > kLargestSide)
-    return Outcome::Failed("no picture has this size");
+    return Outcome::Failed(Tr("no picture has this size"));
   Result<PlacedFile> file = PlacedFile::Open(path, PlacedFile::Which::New);
   if (!file) return file.Failure();
   auto engine = std::make_unique<Engine>(std::move(*file), format);
@@ -140,7 +141,7 @@ RecordingFile::~RecordingFile() { (void)Close(); }
 Outcome RecordingFile::Write(std::span<const std::byte> picture, std::int64_t ns) {
   RecordingTally& tally = engine_->tally;
   if (!tally.fault.empty()) return Outcome::Failed(tally.fault);
-  if (!tally.open) return Outcome::Failed("the recording is closed");
+  if (!tally.open) return Outcome::Failed(Tr("the recording is closed"));
   // What holds nothing leaves its place empty, as a picture that never came.
   if (picture.empty() || (tally.pictures > 0 && ns <= tally.lastNs)) return Outcome();
   if (engine_->RunsWild(ns)) return Outcome();

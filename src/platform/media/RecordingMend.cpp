@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/files/Tr.h"
 #include "platform/media/PlacedFile.h"
 #include "platform/media/RecordingFile.h"
 #include "platform/media/RecordingParts.h"
@@ -315,13 +316,13 @@ Result<RecordingTally> MendRecording(const std::string& path) {
   Result<PlacedFile> file = PlacedFile::Open(path, PlacedFile::Which::Old);
   if (!file) return file.Failure();
   auto head = HeadOf(*file);
-  if (!head || head->Finished()) return Outcome(Fault::NoMedia, "this is no recording that was broken off");
+  if (!head || head->Finished()) return Outcome(Fault::NoMedia, Tr("this is no recording that was broken off"));
   RecordingParts parts(std::move(*file), *head);
   ChunkWalk walk(parts.File());
   walk.Go(*head);
   parts.Resume(walk.TakeParts(), walk.End());
-  if (parts.Pictures() == 0) return Outcome(Fault::NoFrames, "the recording holds no picture");
-  if (parts.PartCount() > RecordingHead::kMostParts) return Outcome::Failed("the recording is too badly damaged");
+  if (parts.Pictures() == 0) return Outcome(Fault::NoFrames, Tr("the recording holds no picture"));
+  if (parts.PartCount() > RecordingHead::kMostParts) return Outcome::Failed(Tr("the recording is too badly damaged"));
   const timespec written = parts.File().Written();
   Outcome done = walk.Repair();
   if (done) done = parts.File().Cut(walk.End());

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/files/Tr.h"
+
 namespace kinalyx {
 namespace {
 
@@ -88,7 +90,7 @@ bool RecordingParts::Fits(std::size_t bytes) const {
 
 Outcome RecordingParts::Append(std::span<const std::byte> picture, std::size_t rowBytes, std::int64_t room,
                                std::int64_t guessed) {
-  if (picture.size() > kLargestPicture) return Outcome::Failed("the picture is too large");
+  if (picture.size() > kLargestPicture) return Outcome::Failed(Tr("the picture is too large"));
   if (!Fits(picture.size())) {
     if (const Outcome begun = BeginPart(); !begun) return begun;
   }
@@ -151,7 +153,8 @@ Outcome RecordingParts::Settle(std::int64_t empty) {
 }
 
 Outcome RecordingParts::BeginPart() {
-  if (parts_.size() == RecordingHead::kMostParts) return Outcome(Fault::Unwritable, "the file cannot grow any more");
+  if (parts_.size() == RecordingHead::kMostParts)
+    return Outcome(Fault::Unwritable, Tr("the file cannot grow any more"));
   if (const Outcome closed = ClosePart(); !closed) return closed;
   std::array<std::uint8_t, kPartHead> head{};
   PutNumber(head, 0, kFileChunk);

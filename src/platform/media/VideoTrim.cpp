@@ -12,6 +12,7 @@
 
 #include "platform/files/FileCopy.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/media/ContainerCut.h"
 #include "platform/media/Demuxer.h"
 #include "platform/media/PictureDecoder.h"
@@ -189,7 +190,7 @@ bool Trimmer::CutInside(bool copy) {
 bool Trimmer::ChooseFrames() {
   const int last = request_.lastFrame == 0 ? info_.frameCount - 1 : std::min(request_.lastFrame, info_.frameCount - 1);
   first_ = request_.firstFrame;
-  if (first_ < 0 || first_ > last) return Fail("the last frame lies before the first");
+  if (first_ < 0 || first_ > last) return Fail(Tr("the last frame lies before the first"));
   count_ = last - first_ + 1;
   whole_ = count_ == info_.frameCount;
   if (info_.rate > 0) rate_ = {static_cast<int>(info_.rate), static_cast<int>(info_.scale)};
@@ -202,14 +203,14 @@ bool Trimmer::ChooseTarget() {
   replaces_ = fs::equivalent(request_.source, request_.destination, failed);
   // In place of a link the file behind it is replaced.
   target_ = replaces_ ? fs::canonical(request_.source, failed).string() : request_.destination;
-  if (!replaces_ && EntryExists(target_)) return Fail("there is already a file of that name");
+  if (!replaces_ && EntryExists(target_)) return Fail(Tr("there is already a file of that name"));
   // A rename needs no right to the file itself, so read-only must be asked for.
   constexpr auto kAnyWrite = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
   if (replaces_ && (fs::status(target_, failed).permissions() & kAnyWrite) == fs::perms::none)
-    return Fail("the video is read-only");
+    return Fail(Tr("the video is read-only"));
   const std::int64_t free = FreeBytes(target_);
   const double expected = static_cast<double>(info_.fileBytes) * count_ / info_.frameCount;
-  if (free >= 0 && expected > static_cast<double>(free)) return Fail("there is not enough room on the disk");
+  if (free >= 0 && expected > static_cast<double>(free)) return Fail(Tr("there is not enough room on the disk"));
   return true;
 }
 
@@ -230,7 +231,7 @@ bool Trimmer::CopyWholeFile() {
 
 bool Trimmer::OpenStreams(const AVCodecParameters& parameters) {
   pictures_ = output_->AddStream();
-  if (!pictures_ || avcodec_parameters_copy(pictures_->codecpar, &parameters) < 0) return Fail("out of memory");
+  if (!pictures_ || avcodec_parameters_copy(pictures_->codecpar, &parameters) < 0) return Fail(Tr("out of memory"));
   pictures_->time_base = av_inv_q(rate_);
   pictures_->avg_frame_rate = rate_;
   pictures_->sample_aspect_ratio = parameters.sample_aspect_ratio;
@@ -259,12 +260,12 @@ bool Trimmer::CopyPictures() {
   if (!OpenStreams(demuxer_->Codec())) return false;
   const int firstPacket = index_->PacketOfOrder(index_->PictureOfFrame(first_));
   const int lastPacket = index_->PacketOfOrder(index_->PictureOfFrame(first_ + count_ - 1));
-  if (!demuxer_->Seek(firstPacket)) return Fail("the file cannot be read there");
+  if (!demuxer_->Seek(firstPacket)) return Fail(Tr("the file cannot be read there"));
   const PacketHandle packet = NewPacket();
   std::int64_t frame = -1;
   for (int number = -1; number < lastPacket;) {
     number = demuxer_->Read(*packet);
-    if (number < 0 || number > lastPacket) return Fail("the file cannot be read to the end of the cut");
+    if (number < 0 || number > lastPacket) return Fail(Tr("the file cannot be read to the end of the cut"));
     if (number < firstPacket || index_->IsHidden(number)) {
       av_packet_unref(packet.get());
       continue;
@@ -284,7 +285,7 @@ bool Trimmer::CodePictures() {
   const AVCodecID id = demuxer_->Codec().codec_id;
   const AVRational pixelShape = demuxer_->Codec().sample_aspect_ratio;
   auto reader = demuxer_->Again();
-  if (!reader) return Fail("the file has gone");
+  if (!reader) return Fail(Tr("the file has gone"));
   auto decoder = PictureDecoder::Open(std::move(reader));
   if (!decoder) return Fail(decoder.Why());
   PictureSource source(std::move(*decoder));
@@ -292,21 +293,21 @@ bool Trimmer::CodePictures() {
   std::optional<PictureFitter> fitter;
   for (int frame = 0; frame < count_; ++frame) {
     const FrameHandle picture = source.Picture(index_->PictureOfFrame(first_ + frame));
-    if (!picture) return Fail("a picture cannot be decoded");
+    if (!picture) return Fail(Tr("a picture cannot be decoded"));
     if (!codec) {
       for (const char* name : EncodersFor(id)) {
         if (!codec) codec = OpenEncoder(name, *picture, rate_, pixelShape);
       }
       const ParametersHandle parameters(avcodec_parameters_alloc());
       if (!codec || avcodec_parameters_from_context(parameters.get(), codec.get()) < 0)
-        return Fail("no encoder takes these pictures");
+        return Fail(Tr("no encoder takes these pictures"));
       parameters->codec_tag = codec->codec_tag;
       if (!OpenStreams(*parameters)) return false;
       fitter.emplace(codec->pix_fmt, codec->width, codec->height);
     }
     const AVFrame* fitted = fitter->Fit(*picture);
     const FrameHandle coded(fitted ? av_frame_clone(fitted) : nullptr);
-    if (!coded) return Fail("out of memory");
+    if (!coded) return Fail(Tr("out of memory"));
     coded->pts = frame;
     coded->pict_type = AV_PICTURE_TYPE_NONE;
     if (codec->flags & AV_CODEC_FLAG_QSCALE) coded->quality = codec->global_quality;

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/media/Demuxer.h"
 #include "platform/media/PictureDecoder.h"
 #include "platform/media/PictureSource.h"
@@ -73,7 +74,7 @@ Outcome WebConversion::Engine::Open() {
   info = demuxer->Describe();
   ChooseTimes();
   auto reader = demuxer->Again();
-  if (!reader) return Outcome(Fault::NotFound, "the file has gone");
+  if (!reader) return Outcome(Fault::NotFound, Tr("the file has gone"));
   auto decoder = PictureDecoder::Open(std::move(reader));
   if (!decoder) return decoder.Failure();
   source = std::make_unique<PictureSource>(std::move(*decoder));
@@ -117,8 +118,8 @@ bool WebConversion::Engine::TakeFrame(int frame) {
   if (!decoded) return true;
   if (!pictures && !Begin(*decoded)) return false;
   FrameHandle made = pictures->Make(*decoded);
-  if (!made) return Fail("a picture cannot be converted");
-  if (++written % kLookForRoom == 0 && !HasRoom()) return Fail("there is not enough room on the disk");
+  if (!made) return Fail(Tr("a picture cannot be converted"));
+  if (++written % kLookForRoom == 0 && !HasRoom()) return Fail(Tr("there is not enough room on the disk"));
   return Write(*made, PlaceOf(frame)) && (last = std::move(made));
 }
 
@@ -173,7 +174,7 @@ bool WebConversion::Engine::WriteSoundUntil(double seconds) {
 }
 
 bool WebConversion::Engine::Finish() {
-  if (!pictures || !last) return Fail("no picture of the video can be decoded");
+  if (!pictures || !last) return Fail(Tr("no picture of the video can be decoded"));
   // Where the last places repeat a picture, it is told once more at the end.
   if (lastPlace < steady.frames - 1 && !Write(*last, steady.frames - 1)) return false;
   for (const auto& file : files)

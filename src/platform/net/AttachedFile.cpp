@@ -13,6 +13,7 @@
 #include <QByteArray>
 
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/net/MailText.h"
 
 namespace kinalyx {
@@ -37,8 +38,8 @@ Outcome AttachedFile::Open() {
   file_ = ::open(path_.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
   struct stat info {};
   if (file_ < 0 || ::fstat(file_, &info) != 0 || !S_ISREG(info.st_mode))
-    return {Fault::NotFound, fmt::format("The file \"{}\" cannot be read: {}.", name_,
-                                         file_ < 0 ? std::strerror(errno) : "it is no file")};
+    return {Fault::NotFound,
+            Tr("The file \"{}\" cannot be read: {}.", name_, file_ < 0 ? std::strerror(errno) : Tr("it is no file"))};
   size_ = info.st_size;
   return {};
 }

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "platform/files/TextEncoding.h"
+#include "platform/files/Tr.h"
 #include "platform/net/CurlSession.h"
 #include "platform/net/IFileServer.h"
 #include "platform/net/KnownHosts.h"
@@ -107,7 +108,7 @@ class FileServer final : public IFileServer {
     TextSink sink(std::max<std::int64_t>(most, 0));
     sink.Attach(Begin(*parts, false));
     const CurlEnd end = Run(watch);
-    if (sink.TooLarge()) return Outcome::Failed(fmt::format("\"{}\" is larger than it may be.", parts->back()));
+    if (sink.TooLarge()) return Outcome::Failed(Tr("\"{}\" is larger than it may be.", parts->back()));
     if (!end) return Explained(end);
     return sink.Text();
   }
@@ -132,8 +133,8 @@ class FileServer final : public IFileServer {
       return renamed;
     }
     const bool cancelled = file.Cancelled() || end.how == CurlEnd::How::Cancelled;
-    const Outcome why = cancelled ? Outcome(Fault::Cancelled, "It was cancelled.")
-                        : end     ? Outcome::Failed("The file became shorter while it was being sent.")
+    const Outcome why = cancelled ? Outcome(Fault::Cancelled, Tr("It was cancelled."))
+                        : end     ? Outcome::Failed(Tr("The file became shorter while it was being sent."))
                                   : Explained(end);
     // A server that has just fallen silent is not asked for more.
     if (end.how == CurlEnd::How::Answered && end.code != CURLE_REMOTE_ACCESS_DENIED) ClearUp(*parts, part, cancelled);
@@ -175,7 +176,7 @@ class FileServer final : public IFileServer {
     TextSink sink(kMostListing);
     const CurlEnd there = AskListing(*parts, ListingForm::Names, sink, watch);
     if (there.how == CurlEnd::How::Answered && there.code == CURLE_REMOTE_FILE_NOT_FOUND)
-      return {Fault::Refused, fmt::format("The server does not let the folder \"{}\" be made.", folder)};
+      return {Fault::Refused, Tr("The server does not let the folder \"{}\" be made.", folder)};
     return Explained(there);
   }
 
@@ -184,13 +185,14 @@ class FileServer final : public IFileServer {
 
   Outcome Check() const {
     if (!IsHostName(login_.address.host))
-      return Outcome::Failed(login_.address.host.empty() ? "No server is set."
-                                                         : "The name of the server holds a letter that is in no name.");
+      return Outcome::Failed(login_.address.host.empty()
+                                 ? Tr("No server is set.")
+                                 : Tr("The name of the server holds a letter that is in no name."));
     if (HasControls(login_.login) || HasControls(login_.password))
-      return Outcome::Failed("Login or password hold a line end or another control character.");
+      return Outcome::Failed(Tr("Login or password hold a line end or another control character."));
     if (!IsSftp() && !login_.passive && login_.address.security != NetSecurity::None && !EncryptsActiveMode())
       return {Fault::Refused,
-              "Files cannot go encrypted in the active mode on this computer. Choose the passive mode."};
+              Tr("Files cannot go encrypted in the active mode on this computer. Choose the passive mode.")};
     return {};
   }
 
@@ -211,7 +213,7 @@ class FileServer final : public IFileServer {
   }
 
   Result<Parts> BelowFile(const std::string& path, ITransferWatch& watch) {
-    if (path.empty()) return Outcome(Fault::Refused, "The name of the file is empty.");
+    if (path.empty()) return Outcome(Fault::Refused, Tr("The name of the file is empty."));
     return Below(path, watch);
   }
 
@@ -391,7 +393,7 @@ class FileServer final : public IFileServer {
     const CurlEnd back = Rename(folder, {aside, name}, brief);
     const Outcome why = Explained(second);
     if (back || (!first && back.code == CURLE_QUOTE_ERROR)) return why;
-    return {why.Kind(), fmt::format("{} The old file may lie there under the name \"{}\".", why.Why(), aside)};
+    return {why.Kind(), Tr("{} The old file may lie there under the name \"{}\".", why.Why(), aside)};
   }
 
   void ClearUp(const Parts& folder, const std::string& part, bool cancelled) {
@@ -402,38 +404,37 @@ class FileServer final : public IFileServer {
   Outcome Explained(const CurlEnd& end) const {
     if (end) return {};
     const NetParty party{.host = login_.address.host,
-                         .kind = "server",
+                         .kind = Tr("server"),
                          .password = login_.password,
                          .security = IsSftp() ? NetSecurity::Tls : login_.address.security};
     if (end.how != CurlEnd::How::Answered) return ExplainEnd(end, party);
     const std::string said = SaidBy(end, party);
     if (hosts_.Changed())
-      return {
-          Fault::Refused,
-          fmt::format("The server \"{}\" shows another key than the one that this computer remembers. Either it was "
-                      "set up anew, or somebody else is in between: nothing was sent, and no password. If your "
-                      "provider confirms the new key, remove the old one's line from the file \"{}\".",
-                      party.host, hosts_.File())};
+      return {Fault::Refused,
+              Tr("The server \"{}\" shows another key than the one that this computer remembers. Either it was "
+                 "set up anew, or somebody else is in between: nothing was sent, and no password. If your "
+                 "provider confirms the new key, remove the old one's line from the file \"{}\".",
+                 party.host, hosts_.File())};
     if (end.reply == 552 || end.reply == 452 || end.code == CURLE_REMOTE_DISK_FULL)
-      return Outcome::Failed("The server is full." + said);
+      return Outcome::Failed(Tr("The server is full.{}", said));
     switch (end.code) {
       case CURLE_REMOTE_ACCESS_DENIED:
-        if (end.command == "CWD") return {Fault::NotFound, "The server has no such folder." + said};
-        return {Fault::Refused, "The server does not allow it." + said};
-      case CURLE_REMOTE_FILE_NOT_FOUND: return {Fault::NotFound, "The server has no such file or folder." + said};
+        if (end.command == "CWD") return {Fault::NotFound, Tr("The server has no such folder.{}", said)};
+        return {Fault::Refused, Tr("The server does not allow it.{}", said)};
+      case CURLE_REMOTE_FILE_NOT_FOUND: return {Fault::NotFound, Tr("The server has no such file or folder.{}", said)};
       case CURLE_QUOTE_ERROR:
       case CURLE_UPLOAD_FAILED:
-      case CURLE_FTP_COULDNT_RETR_FILE: return {Fault::Refused, "The server does not allow it." + said};
+      case CURLE_FTP_COULDNT_RETR_FILE: return {Fault::Refused, Tr("The server does not allow it.{}", said)};
       case CURLE_FTP_ACCEPT_FAILED:
       case CURLE_FTP_ACCEPT_TIMEOUT:
       case CURLE_FTP_PORT_FAILED:
         return Outcome::Failed(
-            "The server cannot call this computer back, as it must in the active mode. Choose the passive mode." +
-            said);
+            Tr("The server cannot call this computer back, as it must in the active mode. Choose the passive mode.{}",
+               said));
       case CURLE_FTP_WEIRD_PASV_REPLY:
       case CURLE_FTP_WEIRD_227_FORMAT:
       case CURLE_FTP_CANT_GET_HOST:
-        return Outcome::Failed("The server does not know the passive mode. Choose the active mode." + said);
+        return Outcome::Failed(Tr("The server does not know the passive mode. Choose the active mode.{}", said));
       default: return ExplainEnd(end, party);
     }
   }

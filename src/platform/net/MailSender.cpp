@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "platform/files/TextEncoding.h"
+#include "platform/files/Tr.h"
 #include "platform/net/AttachedFile.h"
 #include "platform/net/CurlSession.h"
 #include "platform/net/IMailSender.h"
@@ -38,12 +39,12 @@ bool WantsAppPassword(const std::string& host, const std::string& words) {
 /// Providers that let no program log in with any password.
 bool TakesNoPassword(const std::string& host) { return Holds(host, {"outlook.", "hotmail.", "live.com"}); }
 
-constexpr const char* kNoPassword =
+constexpr const char* kNoPassword = TrLater(
     " Microsoft lets no other program send from this mailbox with a password any more. Use a mailbox of another "
-    "provider, or that of your club.";
-constexpr const char* kAppPassword =
+    "provider, or that of your club.");
+constexpr const char* kAppPassword = TrLater(
     " Providers such as this one want an \"app password\": a long one that you have made for this program alone on the "
-    "page of your account, under security. The password with which you log in yourself does not work here.";
+    "page of your account, under security. The password with which you log in yourself does not work here.");
 
 bool IsTooLarge(const CurlEnd& end) {
   return end.reply == 552 || end.reply == 523 || Holds(end.words, {"too large", "too big", "size limit", "5.3.4"});
@@ -59,7 +60,7 @@ class MailSender final : public IMailSender {
     if (auto fit = Check(server); !fit) return fit;
     const auto from = PlainAddress(message.fromAddress);
     if (!from) return from.Failure();
-    if (message.to.empty()) return Outcome::Failed("The message has no reader.");
+    if (message.to.empty()) return Outcome::Failed(Tr("The message has no reader."));
     std::vector<std::string> to;
     for (const std::string& address : message.to) {
       const auto plain = PlainAddress(address);
@@ -101,19 +102,19 @@ class MailSender final : public IMailSender {
     for (const auto& file : files) {
       if (file->Changed())
         return Outcome::Failed(
-            fmt::format("The file \"{}\" changed or went while it was being sent, so nothing was sent.", file->Name()));
+            Tr("The file \"{}\" changed or went while it was being sent, so nothing was sent.", file->Name()));
     }
     return Explain(end, server);
   }
 
  private:
   static Outcome Check(const MailServer& server) {
-    if (server.host.empty()) return Outcome::Failed("No mail server is set.");
+    if (server.host.empty()) return Outcome::Failed(Tr("No mail server is set."));
     if (!IsHostName(server.host))
-      return Outcome::Failed("The name of the mail server holds a letter that is in no name.");
-    if (server.port < 1 || server.port > 65535) return Outcome::Failed("The port of the mail server is no port.");
+      return Outcome::Failed(Tr("The name of the mail server holds a letter that is in no name."));
+    if (server.port < 1 || server.port > 65535) return Outcome::Failed(Tr("The port of the mail server is no port."));
     if (server.loginRequired && (HasControls(server.login) || HasControls(server.password)))
-      return Outcome::Failed("Login or password hold a line end or another control character.");
+      return Outcome::Failed(Tr("Login or password hold a line end or another control character."));
     return {};
   }
 
@@ -139,7 +140,7 @@ class MailSender final : public IMailSender {
     headers.Add("To: " + readers);
     // A header without a text would be left out.
     const std::string subject = EncodedText(message.subject);
-    headers.Add("Subject: " + (Trimmed(subject, " ").empty() ? "(no subject)" : subject));
+    headers.Add("Subject: " + (Trimmed(subject, " ").empty() ? Tr("(no subject)") : subject));
     headers.Add("Message-ID: " + NewMessageId(from));
     constexpr int kNormal = 3;
     const int priority = std::clamp(message.priority, 1, 5);
@@ -152,29 +153,29 @@ class MailSender final : public IMailSender {
 
   static Outcome Explain(const CurlEnd& end, const MailServer& server) {
     const NetParty party{
-        .host = server.host, .kind = "mail server", .password = server.password, .security = server.security};
+        .host = server.host, .kind = Tr("mail server"), .password = server.password, .security = server.security};
     const std::string said = SaidBy(end, party);
     if (end.how == CurlEnd::How::Answered && end.code == CURLE_LOGIN_DENIED) {
       const Outcome plain = ExplainEnd(end, party);
       const char* advice = TakesNoPassword(server.host)               ? kNoPassword
                            : WantsAppPassword(server.host, end.words) ? kAppPassword
                                                                       : "";
-      return {Fault::Refused, plain.Why() + advice};
+      return {Fault::Refused, plain.Why() + Tr(advice)};
     }
     const bool refused = end.how == CurlEnd::How::Answered && end.reply >= 400 && end.reply != 421;
     if (!refused) return ExplainEnd(end, party);
-    if (IsTooLarge(end)) return Outcome::Failed("The message is larger than the mail server takes." + said);
+    if (IsTooLarge(end)) return Outcome::Failed(Tr("The message is larger than the mail server takes.{}", said));
     if (end.command.starts_with("RCPT"))
-      return {Fault::Refused, fmt::format("The mail server refuses the address {}, so nothing was sent to anybody.{}",
-                                          CleanWords(end.command.substr(end.command.find(':') + 1), {}), said)};
+      return {Fault::Refused, Tr("The mail server refuses the address {}, so nothing was sent to anybody.{}",
+                                 CleanWords(end.command.substr(end.command.find(':') + 1), {}), said)};
     if (end.command == "MAIL" && (end.reply == 530 || end.reply == 535)) {
       const bool hidden = server.loginRequired && server.security == NetSecurity::None;
-      return {Fault::Refused, (hidden ? "The mail server takes a login only with encryption. Choose TLS or SSL."
-                                      : "The mail server wants a login.") +
+      return {Fault::Refused, (hidden ? Tr("The mail server takes a login only with encryption. Choose TLS or SSL.")
+                                      : Tr("The mail server wants a login.")) +
                                   said};
     }
-    if (end.command == "MAIL") return {Fault::Refused, "The mail server does not let this sender send." + said};
-    if (end.command == "DATA") return Outcome::Failed("The mail server did not take the message." + said);
+    if (end.command == "MAIL") return {Fault::Refused, Tr("The mail server does not let this sender send.{}", said)};
+    if (end.command == "DATA") return Outcome::Failed(Tr("The mail server did not take the message.{}", said));
     return ExplainEnd(end, party);
   }
 

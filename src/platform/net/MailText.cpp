@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "platform/files/TextEncoding.h"
+#include "platform/files/Tr.h"
 #include "platform/net/IMailSender.h"
 
 namespace kinalyx {
@@ -99,15 +100,14 @@ bool IsMailAddress(const std::string& text) {
 }
 
 Result<std::string> PlainAddress(const std::string& address) {
-  if (!IsMailAddress(address)) return Outcome::Failed(fmt::format("\"{}\" is no e-mail address.", OneLine(address)));
+  if (!IsMailAddress(address)) return Outcome::Failed(Tr("\"{}\" is no e-mail address.", OneLine(address)));
   const std::size_t at = address.find('@');
   const std::string reader = address.substr(0, at), server = address.substr(at + 1);
   if (!IsAscii(reader))
-    return Outcome::Failed(
-        fmt::format("\"{}\" holds a letter before the \"@\" that mail servers do not know.", address));
+    return Outcome::Failed(Tr("\"{}\" holds a letter before the \"@\" that mail servers do not know.", address));
   if (IsAscii(server)) return address;
   const std::string plain = QUrl::toAce(QString::fromStdString(server)).toStdString();
-  if (plain.empty()) return Outcome::Failed(fmt::format("\"{}\" is no e-mail address.", address));
+  if (plain.empty()) return Outcome::Failed(Tr("\"{}\" is no e-mail address.", address));
   return reader + '@' + plain;
 }
 

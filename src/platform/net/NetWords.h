@@ -10,7 +10,7 @@ namespace kinalyx {
 /// With whom somebody has talked.
 struct NetParty {
   std::string host;
-  const char* kind;  ///< "mail server"
+  std::string kind;  ///< "mail server"
   std::string password;
   NetSecurity security = NetSecurity::None;
 };

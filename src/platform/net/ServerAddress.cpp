@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "platform/files/TextEncoding.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 namespace {
@@ -44,27 +45,27 @@ ServerAddress TakeScheme(std::string_view& text) {
 Result<ServerAddress> ReadServerAddress(std::string_view text) {
   while (text.starts_with(' ')) text.remove_prefix(1);
   while (text.ends_with(' ')) text.remove_suffix(1);
-  if (!std::ranges::all_of(text, IsPlain)) return Outcome::Failed("The address of the server holds a blank.");
+  if (!std::ranges::all_of(text, IsPlain)) return Outcome::Failed(Tr("The address of the server holds a blank."));
   ServerAddress address = TakeScheme(text);
   if (text.find("://") != std::string_view::npos)
-    return Outcome::Failed("The address must begin with ftp://, ftps://, ftpes:// or sftp://.");
+    return Outcome::Failed(Tr("The address must begin with ftp://, ftps://, ftpes:// or sftp://."));
   const std::size_t slash = std::min(text.find('/'), text.size());
   std::string_view server = text.substr(0, slash), folder = text.substr(slash);
   while (folder.starts_with('/')) folder.remove_prefix(1);
   while (folder.ends_with('/')) folder.remove_suffix(1);
   address.folder = folder;
   if (server.find('@') != std::string_view::npos)
-    return Outcome::Failed("Name and password have fields of their own: they do not belong into the address.");
+    return Outcome::Failed(Tr("Name and password have fields of their own: they do not belong into the address."));
   // An address of numbers stands in brackets.
   const std::size_t colon = server.starts_with('[') ? server.find("]:") : server.find(':');
   if (colon != std::string_view::npos) {
     const std::string_view digits = server.substr(server.find(':', colon) + 1);
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), address.port);
     if (error != std::errc() || end != digits.data() + digits.size() || address.port < 1 || address.port > kMostPort)
-      return Outcome::Failed(fmt::format("\"{}\" is no port.", digits));
+      return Outcome::Failed(Tr("\"{}\" is no port.", digits));
     server = server.substr(0, server.starts_with('[') ? colon + 1 : colon);
   }
-  if (server.empty()) return Outcome::Failed("The address of the server is empty.");
+  if (server.empty()) return Outcome::Failed(Tr("The address of the server is empty."));
   address.host = server;
   return address;
 }

@@ -7,6 +7,7 @@
 #include "platform/files/Folders.h"
 #include "platform/files/PartFiles.h"
 #include "platform/files/TextEncoding.h"
+#include "platform/files/Tr.h"
 #include "platform/net/CurlSession.h"
 #include "platform/net/ListingReader.h"
 
@@ -19,8 +20,8 @@ Result<std::vector<std::string>> PartsOf(const std::string& path) {
     const std::size_t end = std::min(path.find('/', begin), path.size());
     const std::string part = path.substr(begin, end - begin);
     if (!IsServerName(part))
-      return Outcome(Fault::Refused, fmt::format("\"{}\" is no name for a file or folder on a server.",
-                                                 CleanWords(part.empty() ? path : part, {})));
+      return Outcome(Fault::Refused, Tr("\"{}\" is no name for a file or folder on a server.",
+                                        CleanWords(part.empty() ? path : part, {})));
     parts.push_back(part);
     begin = end + 1;
   }

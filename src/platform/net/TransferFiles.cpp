@@ -13,6 +13,7 @@
 
 #include "platform/files/Folders.h"
 #include "platform/files/PartFiles.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 
@@ -39,12 +40,12 @@ FileSink::~FileSink() {
 Outcome FileSink::Refuse() {
   const int reason = errno;
   trouble_ = {Fault::Unwritable,
-              fmt::format("\"{}\" cannot be written: {}.", LastName(target_), std::strerror(reason ? reason : EIO))};
+              Tr("\"{}\" cannot be written: {}.", LastName(target_), std::strerror(reason ? reason : EIO))};
   return trouble_;
 }
 
 Outcome FileSink::Open() {
-  if (EntryExists(target_)) return {Fault::Refused, fmt::format("\"{}\" is there already.", LastName(target_))};
+  if (EntryExists(target_)) return {Fault::Refused, Tr("\"{}\" is there already.", LastName(target_))};
   const std::string part = PartNameBeside(target_);
   file_ = disk_.OpenNew(part);
   if (file_ < 0) return Refuse();
@@ -81,7 +82,7 @@ Outcome FileSink::Keep() {
   if (!flushed) errno = reason;
   if (!flushed || !closed) return Refuse();
   if (disk_.RenameNew(part_, target_) < 0) {
-    if (errno == EEXIST) return {Fault::Refused, fmt::format("\"{}\" is there already.", LastName(target_))};
+    if (errno == EEXIST) return {Fault::Refused, Tr("\"{}\" is there already.", LastName(target_))};
     return Refuse();
   }
   part_.clear();
@@ -97,8 +98,8 @@ Outcome FileSource::Open() {
   file_ = ::open(path_.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
   struct stat info {};
   if (file_ < 0 || ::fstat(file_, &info) != 0 || !S_ISREG(info.st_mode))
-    return {Fault::NotFound, fmt::format("The file \"{}\" cannot be read: {}.", LastName(path_),
-                                         file_ < 0 ? std::strerror(errno) : "it is no file")};
+    return {Fault::NotFound, Tr("The file \"{}\" cannot be read: {}.", LastName(path_),
+                                file_ < 0 ? std::strerror(errno) : Tr("it is no file"))};
   size_ = info.st_size;
   return {};
 }

@@ -8,6 +8,8 @@
 #include <QSaveFile>
 #include <algorithm>
 
+#include "platform/files/Tr.h"
+
 namespace kinalyx {
 namespace {
 
@@ -26,10 +28,10 @@ QImage ImageOf(const PixelRows& rows) {
 
 Outcome Save(const PixelRows& rows, const std::string& path, const char* format, int quality) {
   const QImage image = ImageOf(rows);
-  if (image.isNull()) return Failure(QStringLiteral("There is no picture to save."));
+  if (image.isNull()) return Outcome::Failed(Tr("There is no picture to save."));
   // Renaming over it would put a file in the place of a device or a pipe.
   const QFileInfo old(QString::fromStdString(path));
-  if (old.exists() && !old.isFile()) return Failure(QStringLiteral("That name is not a file's."));
+  if (old.exists() && !old.isFile()) return Outcome::Failed(Tr("That name is not a file's."));
   QSaveFile file(QString::fromStdString(path));
   if (!file.open(QIODevice::WriteOnly)) return Failure(file.errorString());
   QImageWriter writer(&file, format);
@@ -46,7 +48,7 @@ Outcome Save(const PixelRows& rows, const std::string& path, const char* format,
 }  // namespace
 
 Outcome SaveJpeg(const PixelRows& rows, const std::string& path, int quality) {
-  if (quality < 0 || quality > 100) return Failure(QStringLiteral("The quality must be 0 to 100."));
+  if (quality < 0 || quality > 100) return Outcome::Failed(Tr("The quality must be 0 to 100."));
   return Save(rows, path, "jpg", quality);
 }
 
@@ -65,7 +67,7 @@ Result<Surface> LoadPicture(const std::string& path, int longest, Colour ground)
   if (image.width() > longest || image.height() > longest)
     image = image.scaled(longest, longest, Qt::KeepAspectRatio, Qt::SmoothTransformation);
   Surface surface(image.width(), image.height());
-  if (surface.Empty()) return Failure(QStringLiteral("The picture is too large."));
+  if (surface.Empty()) return Outcome::Failed(Tr("The picture is too large."));
   surface.Clear(ground);
   QImage target(surface.Row(0), surface.Width(), surface.Height(), surface.Stride(), QImage::Format_RGB32);
   QPainter(&target).drawImage(0, 0, image);

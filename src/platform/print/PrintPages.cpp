@@ -8,6 +8,7 @@
 #include <memory>
 #include <utility>
 
+#include "platform/files/Tr.h"
 #include "platform/print/PrintQueues.h"
 #include "platform/print/Sheets.h"
 
@@ -26,7 +27,7 @@ bool WritePdf(const IPrintout& printout, Paper paper, const QRectF& printable, Q
 QRectF Whole(Paper paper) { return {{}, SizeOf(paper)}; }
 
 Outcome NotWritten(const QString& path, const QString& why) {
-  return Outcome::Failed(QString("The file %1 cannot be written: %2").arg(path, why).toStdString());
+  return Outcome::Failed(Tr("The file {} cannot be written: {}", path.toStdString(), why.toStdString()));
 }
 
 }  // namespace
@@ -35,7 +36,8 @@ Outcome PrintToPdf(const IPrintout& printout, Paper paper, const std::string& pa
   QSaveFile file(QString::fromStdString(path));
   // Renaming over it would put a file in the place of a device or a pipe.
   const QFileInfo old(file.fileName());
-  if (old.exists() && !old.isFile()) return NotWritten(file.fileName(), "That name is not a file's.");
+  if (old.exists() && !old.isFile())
+    return NotWritten(file.fileName(), QString::fromStdString(Tr("That name is not a file's.")));
   if (!file.open(QIODevice::WriteOnly)) return NotWritten(file.fileName(), file.errorString());
   // A full disk is told by the file, not by who paints on it.
   const bool written = WritePdf(printout, paper, Whole(paper), file);

@@ -12,6 +12,8 @@
 #include <thread>
 #include <utility>
 
+#include "platform/files/Tr.h"
+
 namespace kinalyx {
 
 namespace {
@@ -89,7 +91,7 @@ Outcome Send(const std::string& queue, const std::string& file, const std::strin
   cupsFreeOptions(count, options);
   if (job != 0) return {};
   return Outcome::Failed(
-      fmt::format("Nothing was printed. The printer \"{}\" does not take the pages: {}", queue, cupsLastErrorString()));
+      Tr("Nothing was printed. The printer \"{}\" does not take the pages: {}", queue, cupsLastErrorString()));
 }
 
 }  // namespace
@@ -130,7 +132,7 @@ Outcome SendToQueue(const std::string& queue, std::shared_ptr<QTemporaryFile> fi
   };
   const std::string path = file->fileName().toStdString();
   const auto sent = Within(kSendMs, [=, file = std::move(file)] { return Send(queue, path, title, options); });
-  return sent ? *sent : Outcome::Failed("The printer has not answered yet; the pages may still come out.");
+  return sent ? *sent : Outcome::Failed(Tr("The printer has not answered yet; the pages may still come out."));
 }
 
 }  // namespace kinalyx

@@ -10,6 +10,7 @@
 #include <QTextDocument>
 #include <algorithm>
 
+#include "platform/files/Tr.h"
 #include "platform/print/PrintPages.h"
 #include "platform/print/PrintQueues.h"
 
@@ -99,9 +100,9 @@ class Pages {
 
 Outcome Failed(const QPrinter& printer) {
   const QString file = printer.outputFileName();
-  const QString reason = file.isEmpty() ? QString("The printer %1 does not take the pages.").arg(printer.printerName())
-                                        : QString("The file %1 cannot be written.").arg(file);
-  return Outcome::Failed(reason.toStdString());
+  return Outcome::Failed(file.isEmpty()
+                             ? Tr("The printer {} does not take the pages.", printer.printerName().toStdString())
+                             : Tr("The file {} cannot be written.", file.toStdString()));
 }
 
 /// A PDF file ends in a mark of its own; one that was cut short, on a full disk, does not.
@@ -117,7 +118,7 @@ Outcome PrintOn(QPrinter& printer, const PrintedText& text) {
   Pages pages(text, printer);
   const int first = std::max(1, printer.fromPage());
   const int last = printer.toPage() > 0 ? std::min(printer.toPage(), pages.Count()) : pages.Count();
-  if (first > last) return Outcome::Failed(QString("There are only %1 pages.").arg(pages.Count()).toStdString());
+  if (first > last) return Outcome::Failed(Tr("There are only {} pages.", pages.Count()));
   const bool backwards = printer.pageOrder() == QPrinter::LastPageFirst;
   QPainter painter;
   if (!painter.begin(&printer)) return Failed(printer);

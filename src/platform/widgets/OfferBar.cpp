@@ -25,7 +25,7 @@ OfferBar::OfferBar(const QString& name, const QString& action, QWidget* over) : 
   row->setSpacing(kGap);
   words_ = MakeLabel(name + "Words", {});
   auto* accept = new Button(name + "Accept", action);
-  auto* dismiss = new Button(name + "Dismiss", "Dismiss", {}, Look::Quiet);
+  auto* dismiss = new Button(name + "Dismiss", tr("Dismiss"), {}, Look::Quiet);
   accept->setFocusPolicy(Qt::NoFocus);
   dismiss->setFocusPolicy(Qt::NoFocus);
   row->addWidget(words_);

@@ -8,6 +8,7 @@
 
 #include "platform/files/FileStore.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/host/DriveWatch.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
@@ -186,7 +187,7 @@ void Notesform::New() {
 void Notesform::Open() {
   if (!MayDrop()) return;
   const auto path =
-      host_.PickFile({tr("Open Notes").toStdString(), "", "Notes (*.txt;*.html;*.htm)|*.txt; *.html; *.htm"});
+      host_.PickFile({tr("Open Notes").toStdString(), "", Tr("Notes (*.txt;*.html;*.htm)|*.txt; *.html; *.htm")});
   if (!path) return;
   const auto read = host_.Drives().Ask(FolderOf(*path), [path = *path] { return ReadTextFile(path, kMostBytes); });
   if (!read)
@@ -205,7 +206,7 @@ void Notesform::Open() {
 void Notesform::Save() {
   const auto chosen = host_.PickNewFile(
       {tr("Save Notes").toStdString(), file_.toStdString(),
-       "Text Files, words alone (*.txt)|*.txt|Web Pages, with bold, italic and sizes (*.html)|*.html"});
+       Tr("Text Files, words alone (*.txt)|*.txt|Web Pages, with bold, italic and sizes (*.html)|*.html")});
   if (!chosen) return;
   const QString path = Q(*chosen);
   if (!host_.Drives().Answers(FolderOf(*chosen)))

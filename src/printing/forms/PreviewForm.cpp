@@ -14,6 +14,7 @@
 #include <utility>
 
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/host/DriveWatch.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
@@ -251,7 +252,7 @@ void PreviewForm::SavePdf() {
   const auto chosen =
       host_.PickNewFile({tr("Save as PDF").toStdString(), printout_.Title() + ".pdf", "PDF (*.pdf)|*.pdf"});
   if (!chosen) return;
-  if (!host_.Drives().Answers(FolderOf(*chosen))) return Tell(Outcome::Failed("The drive does not answer."));
+  if (!host_.Drives().Answers(FolderOf(*chosen))) return Tell(Outcome::Failed(Tr("The drive does not answer.")));
   emit PrintingBegins();
   const Outcome saved = PrintToPdf(printout_, choice_.Paper, *chosen);
   emit PrintingEnds(static_cast<bool>(saved));

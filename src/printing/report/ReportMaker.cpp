@@ -10,6 +10,7 @@
 #include "library/Study.h"
 #include "library/VideoNames.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/host/DriveWatch.h"
 
 namespace kinalyx {
@@ -19,11 +20,12 @@ constexpr std::int64_t kNanosecondsPerSecond = 1'000'000'000;
 
 /// "25 November 2026", which every reader takes for the same day.
 std::string DayText(std::time_t time) {
-  constexpr std::array kMonths{"January", "February", "March",     "April",   "May",      "June",
-                               "July",    "August",   "September", "October", "November", "December"};
+  constexpr std::array kMonths{TrLater("January"),   TrLater("February"), TrLater("March"),    TrLater("April"),
+                               TrLater("May"),       TrLater("June"),     TrLater("July"),     TrLater("August"),
+                               TrLater("September"), TrLater("October"),  TrLater("November"), TrLater("December")};
   std::tm day{};
   localtime_r(&time, &day);
-  return fmt::format("{} {} {}", day.tm_mday, kMonths[static_cast<std::size_t>(day.tm_mon)], day.tm_year + 1900);
+  return fmt::format("{} {} {}", day.tm_mday, Tr(kMonths[static_cast<std::size_t>(day.tm_mon)]), day.tm_year + 1900);
 }
 
 std::vector<StudentVideo> VideosIn(const std::string& folder) {
@@ -40,7 +42,7 @@ std::vector<StudentVideo> VideosIn(const std::string& folder) {
 
 std::string NameOfKind(const Shape& shape) {
   const std::string_view name = InfOf(shape.Kind).Name;
-  return name.empty() ? "Drawing" : std::string(name);
+  return name.empty() ? Tr("Drawing") : std::string(name);
 }
 
 }  // namespace
@@ -95,19 +97,19 @@ std::vector<ReportItem> ReportMaker::Offer() const {
   const std::vector<int> shown = parts_.pictures.Shown();
   if (shown.empty()) return {};
   std::vector<ReportItem> items;
-  if (shown.size() > 1) items.push_back({.kind = Kind::AllWindows, .caption = "All windows as they stand"});
+  if (shown.size() > 1) items.push_back({.kind = Kind::AllWindows, .caption = Tr("All windows as they stand")});
   for (const int slot : shown)
     items.push_back({.kind = Kind::Window,
-                     .caption = fmt::format("Window {}: {}", slot, CaptionOf(slot)),
+                     .caption = Tr("Window {}: {}", slot, CaptionOf(slot)),
                      .slot = slot,
                      .wanted = shown.size() == 1});
   if (const std::vector<StudentVideo> others = OtherVideos(); !others.empty())
-    items.push_back({.kind = Kind::ThenAndNow, .caption = "Then and now", .path = others.front().path});
+    items.push_back({.kind = Kind::ThenAndNow, .caption = Tr("Then and now"), .path = others.front().path});
   const auto rows = Measures();
   items.push_back({.kind = Kind::Measures,
-                   .caption = rows.empty() ? "Measures (nothing is measured)" : "Measures",
+                   .caption = rows.empty() ? Tr("Measures (nothing is measured)") : Tr("Measures"),
                    .wanted = !rows.empty()});
-  items.push_back({.kind = Kind::Notes, .caption = "Notes"});
+  items.push_back({.kind = Kind::Notes, .caption = Tr("Notes")});
   return items;
 }
 
@@ -156,8 +158,8 @@ ReportPair ReportMaker::ThenAndNow(const ReportItem& item) {
   const double part = at.MP->VideoLength() > 1 ? 1.0 * at.MP->Position() / (at.MP->VideoLength() - 1) : 0;
   const bool answers = parts_.services.host.Drives().Answers(FolderOf(item.path));
   Surface then = answers ? moments_.PictureAtMark(item.path, name, part) : Surface();
-  const std::string words = then.Empty() ? "This video cannot be read" : caption(item.path);
-  return {"Then and Now", {std::move(then), words}, {parts_.pictures.Window(slot), caption(at.path)}};
+  const std::string words = then.Empty() ? Tr("This video cannot be read") : caption(item.path);
+  return {Tr("Then and Now"), {std::move(then), words}, {parts_.pictures.Window(slot), caption(at.path)}};
 }
 
 ReportSection ReportMaker::SectionOf(const ReportItem& item, const RichText& notes) {

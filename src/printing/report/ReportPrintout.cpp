@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/files/Tr.h"
 #include "printing/AnalysisPrintout.h"
 
 namespace kinalyx {
@@ -36,7 +37,8 @@ struct Column {
   double left;
   double width;
 };
-constexpr Column kColumns[] = {{"Video", 0.5, 3.1}, {"Drawing", 3.6, 1.7}, {"Measure", 5.3, 2.2}};
+constexpr Column kColumns[] = {
+    {TrLater("Video"), 0.5, 3.1}, {TrLater("Drawing"), 3.6, 1.7}, {TrLater("Measure"), 5.3, 2.2}};
 
 /// A line that is too long loses its end.
 std::string Fitting(IPage& page, const std::string& line, double width) {
@@ -88,7 +90,7 @@ class Flow {
     page_.SetFont(PrintFont(kTextPoints));
     const double row = page_.LineHeight() + 2 * kRowPadding;
     Need(4 * row);
-    SectionTitle("Measures");
+    SectionTitle(Tr("Measures"));
     TableHead(row);
     for (const ReportMeasures::Row& each : section.rows) {
       if (y_ + row > kBottom) {
@@ -109,7 +111,7 @@ class Flow {
   void Add(const ReportNotes& section) {
     if (section.text.Blank()) return;
     Need(1.5);
-    SectionTitle("Notes");
+    SectionTitle(Tr("Notes"));
     page_.SetFont(PrintFont(kTextPoints));
     auto next = page_.FormatRange(section.text, 0, Rest());
     while (next) {
@@ -144,7 +146,7 @@ class Flow {
   void Foot() {
     page_.SetInk(kGrey);
     page_.SetFont(PrintFont(kSmallPoints));
-    const std::string number = fmt::format("Page {}", number_);
+    const std::string number = Tr("Page {}", number_);
     page_.Print({kLeft + kWidth - page_.TextWidth(number), kFootTop}, number);
     page_.SetInk(0);
   }
@@ -158,7 +160,7 @@ class Flow {
   void TableHead(double row) {
     page_.Fill({kLeft, y_, kWidth, row}, kLightGrey);
     page_.SetFont(PrintFont(kTextPoints, true));
-    for (const Column& column : kColumns) page_.Print({column.left + kRowPadding, y_ + kRowPadding}, column.title);
+    for (const Column& column : kColumns) page_.Print({column.left + kRowPadding, y_ + kRowPadding}, Tr(column.title));
     page_.SetFont(PrintFont(kTextPoints));
     page_.SetDrawWidth(kHairline);
     y_ += row;

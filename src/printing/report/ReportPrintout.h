@@ -4,6 +4,7 @@
 #include <variant>
 #include <vector>
 
+#include "platform/files/Tr.h"
 #include "platform/paint/Surface.h"
 #include "platform/print/Page.h"
 #include "printing/PageHeading.h"
@@ -47,7 +48,7 @@ class ReportPrintout final : public IPrintout {
   /// @param title  whose report it is
   ReportPrintout(std::string title, std::string date, PageHeading heading, std::vector<ReportSection> sections);
 
-  std::string Title() const override { return title_ + " - Report"; }
+  std::string Title() const override { return Tr("{} - Report", title_); }
   void PrintOn(IPage& page) const override;
 
  private:

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/host/DriveWatch.h"
 #include "platform/paint/Blend.h"
 #include "platform/paint/ImageFiles.h"
@@ -15,8 +16,8 @@ namespace {
 
 constexpr const char* kFolder = "School Pics";
 constexpr const char* kLessons = "/Lessons";
-constexpr const char* kNothingOpen = "You must have a video open to continue.";
-constexpr const char* kNoVideo = "You must have a video open in window 1 to continue.";
+constexpr const char* kNothingOpen = TrLater("You must have a video open to continue.");
+constexpr const char* kNoVideo = TrLater("You must have a video open in window 1 to continue.");
 
 /// What is fixed of a sheet.
 struct SheetKind {
@@ -30,12 +31,13 @@ struct SheetKind {
 };
 
 constexpr SheetKind kKinds[] = {
-    {ShortGame::Putting, "PUTTING", "PuttingFaceOn.bmp", "PuttingDownTheLine.bmp", "Face On", "Down the Line", ""},
-    {ShortGame::DistanceWedge, "DISTANCE WEDGE", "DistanceWedgeDay1.bmp", "DistanceWedgeDay3.bmp", "1st DAY", "3rd DAY",
-     "wedgemodel.bmp"},
-    {ShortGame::BunkerShot, "BUNKER SHOT", "BunkerShotDay1.bmp", "BunkerShotDay3.bmp", "1st DAY", "3rd DAY",
-     "bunkermodel.bmp"},
-    {ShortGame::ChipShot, "CHIP SHOT", "ChipShotDay1.bmp", "", "1st DAY", "", "chipmodel.bmp"},
+    {ShortGame::Putting, TrLater("PUTTING"), "PuttingFaceOn.bmp", "PuttingDownTheLine.bmp", TrLater("Face On"),
+     TrLater("Down the Line"), ""},
+    {ShortGame::DistanceWedge, TrLater("DISTANCE WEDGE"), "DistanceWedgeDay1.bmp", "DistanceWedgeDay3.bmp",
+     TrLater("1st DAY"), TrLater("3rd DAY"), "wedgemodel.bmp"},
+    {ShortGame::BunkerShot, TrLater("BUNKER SHOT"), "BunkerShotDay1.bmp", "BunkerShotDay3.bmp", TrLater("1st DAY"),
+     TrLater("3rd DAY"), "bunkermodel.bmp"},
+    {ShortGame::ChipShot, TrLater("CHIP SHOT"), "ChipShotDay1.bmp", "", TrLater("1st DAY"), "", "chipmodel.bmp"},
 };
 
 const SheetKind& KindOf(ShortGame kind) { return *std::ranges::find(kKinds, kind, &SheetKind::kind); }
@@ -100,51 +102,52 @@ Outcome ShortGameSheets::SaveRow(const Surface& row, const std::string& name) {
 }
 
 void ShortGameSheets::BriskoSaveScreen(ShortGame Kind) {
-  if (!stage_.HasVideo(1)) return host_.Message(MessageKind::Information, "", kNoVideo);
+  if (!stage_.HasVideo(1)) return host_.Message(MessageKind::Information, "", Tr(kNoVideo));
   const SheetKind& kind = KindOf(Kind);
   const Rows rows = TakeRows();
   Outcome saved;
   if (!host_.Drives().Answers(FolderOf(stage_.At(1).path))) {
-    saved = Outcome::Failed("The drive of the student's folder does not answer.");
+    saved = Outcome::Failed(Tr("The drive of the student's folder does not answer."));
   } else {
     saved = MakeFolder(SchoolPics()) ? SaveRow(rows.first, kind.firstFile)
-                                     : Outcome::Failed("The folder \"School Pics\" cannot be made.");
+                                     : Outcome::Failed(Tr("The folder \"School Pics\" cannot be made."));
     if (saved && *kind.secondFile && !rows.second.Empty()) saved = SaveRow(rows.second, kind.secondFile);
   }
-  if (saved) host_.Message(MessageKind::Information, "", "Pictures saved Successfully!");
-  else host_.Message(MessageKind::Warning, "", "The pictures could not be saved. " + saved.Why());
+  if (saved) host_.Message(MessageKind::Information, "", Tr("Pictures saved Successfully!"));
+  else host_.Message(MessageKind::Warning, "", Tr("The pictures could not be saved. {}", saved.Why()));
 }
 
 Result<SheetPrintout> ShortGameSheets::MakeSheet(ShortGame Kind, bool LeftyPrint) {
-  if (!stage_.AnyVideo()) return Outcome{Fault::Refused, kNothingOpen};
+  if (!stage_.AnyVideo()) return Outcome{Fault::Refused, Tr(kNothingOpen)};
   const SheetKind& kind = KindOf(Kind);
   Rows taken = TakeRows();
   SheetPrintout::Rows rows;
-  rows[0] = {std::move(taken.first), kind.firstLabel};
+  rows[0] = {std::move(taken.first), Tr(kind.firstLabel)};
   if (*kind.secondLabel) {
     if (taken.second.Empty()) {
       const std::string path = JoinPath(SchoolPics(), kind.secondFile);
       const auto kept = host_.Drives().Ask(SchoolPics(), [path] { return ReadPicture(path); });
       if (kept && *kept) taken.second = **kept;
     }
-    rows[1] = {std::move(taken.second), kind.secondLabel};
+    rows[1] = {std::move(taken.second), Tr(kind.secondLabel)};
   }
   if (*kind.model) {
     const std::string path = ModelPath(Kind, LeftyPrint);
     auto model = ReadPicture(path);
-    if (!model) return Outcome::Failed(fmt::format("The model picture {} cannot be loaded: {}", path, model.Why()));
-    rows[2] = {std::move(*model), "Model Swing"};
+    if (!model) return Outcome::Failed(Tr("The model picture {} cannot be loaded: {}", path, model.Why()));
+    rows[2] = {std::move(*model), Tr("Model Swing")};
   }
-  return SheetPrintout(kind.title, std::move(rows));
+  return SheetPrintout(Tr(kind.title), std::move(rows));
 }
 
 void ShortGameSheets::BriskoModel() {
   const Surface all = pictures_.All();
-  const auto chosen = host_.PickNewFile({"Save Bitmap", JoinPath(settings_.AppPath, "pictures/"), "BMP (*.bmp)|*.BMP"});
+  const auto chosen =
+      host_.PickNewFile({Tr("Save Bitmap"), JoinPath(settings_.AppPath, "pictures/"), "BMP (*.bmp)|*.BMP"});
   if (!chosen) return;
   const Outcome saved = host_.Drives().Answers(FolderOf(*chosen)) ? SaveBmp(RowsOf(all), *chosen)
-                                                                  : Outcome::Failed("The drive does not answer.");
-  if (!saved) host_.Message(MessageKind::Warning, "", "The picture could not be saved. " + saved.Why());
+                                                                  : Outcome::Failed(Tr("The drive does not answer."));
+  if (!saved) host_.Message(MessageKind::Warning, "", Tr("The picture could not be saved. {}", saved.Why()));
 }
 
 }  // namespace kinalyx

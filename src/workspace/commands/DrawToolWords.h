@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/files/Tr.h"
+
 namespace kinalyx {
 
 /// A drawing tool in words and picture.
@@ -11,12 +13,17 @@ struct DrawToolWords {
 
 /// The drawing tools in the order of their keys F1 to F11, which is the order of the shape kinds.
 inline constexpr DrawToolWords kDrawTools[] = {
-    {"F1 - FreeHand", "Freehand", "freehand"},  {"F2 - Plus Sign", "Plus Sign", "plus"},
-    {"F3 - Square", "Square", "square"},        {"F4 - Line", "Line", "line"},
-    {"F5 - Circle", "Circle", "circle"},        {"F6 - Angle", "Angle", "angle"},
-    {"F7 - Motion Path", "Path Trace", "path"}, {"F8 - Parallelogram", "Parallelogram", "parallelogram"},
-    {"F9 - Shade Zone", "Zone Tool", "zone"},   {"F10 - Clock Grid", "Clock Grid", "clock"},
-    {"F11 - Arrow", "Arrow", "arrow"},
+    {TrLater("F1 - FreeHand"), TrLater("Freehand"), "freehand"},
+    {TrLater("F2 - Plus Sign"), TrLater("Plus Sign"), "plus"},
+    {TrLater("F3 - Square"), TrLater("Square"), "square"},
+    {TrLater("F4 - Line"), TrLater("Line"), "line"},
+    {TrLater("F5 - Circle"), TrLater("Circle"), "circle"},
+    {TrLater("F6 - Angle"), TrLater("Angle"), "angle"},
+    {TrLater("F7 - Motion Path"), TrLater("Path Trace"), "path"},
+    {TrLater("F8 - Parallelogram"), TrLater("Parallelogram"), "parallelogram"},
+    {TrLater("F9 - Shade Zone"), TrLater("Zone Tool"), "zone"},
+    {TrLater("F10 - Clock Grid"), TrLater("Clock Grid"), "clock"},
+    {TrLater("F11 - Arrow"), TrLater("Arrow"), "arrow"},
 };
 
 }  // namespace kinalyx

@@ -6,6 +6,7 @@
 #include <cctype>
 #include <set>
 
+#include "platform/files/Tr.h"
 #include "video/KeyCodes.h"
 
 namespace kinalyx {
@@ -62,7 +63,7 @@ void MenuBar::RunTwice(const std::string& name) {
 }
 
 void MenuBar::SetProfilesTitle(const std::string& title) {
-  std::ranges::find(commands_, "VLib", &Command::item)->caption = title + " - Home key";
+  std::ranges::find(commands_, "VLib", &Command::item)->caption = Tr("{} - Home key", title);
 }
 
 bool MenuBar::PreparetoExit() {
@@ -78,7 +79,7 @@ bool MenuBar::PreparetoExit() {
 
 void MenuBar::SaveNow() {
   const bool saved = keeping_.SaveAll();
-  if (!tools_.Drawing()) transport_.Announce(saved ? WordsOfSaved() : "Not saved");
+  if (!tools_.Drawing()) transport_.Announce(saved ? WordsOfSaved() : Tr("Not saved"));
 }
 
 /// One video is the one before the eyes; of several the names are told, as far as they can be read in passing.
@@ -87,9 +88,9 @@ std::string MenuBar::WordsOfSaved() const {
   std::set<std::string> names;
   for (int slot = 1; slot <= kSlots; ++slot)
     if (stage_.HasVideo(slot)) names.insert(NameOfVideo(stage_.At(slot).path));
-  if (names.size() < 2) return "Saved";
-  return names.size() > kReadInPassing ? fmt::format("Saved: all {} videos", names.size())
-                                       : fmt::format("Saved: {}", fmt::join(names, ", "));
+  if (names.size() < 2) return Tr("Saved");
+  return names.size() > kReadInPassing ? Tr("Saved: all {} videos", names.size())
+                                       : Tr("Saved: {}", fmt::join(names, ", "));
 }
 
 /// A mark that is named is found again, and videos line up by it.
@@ -98,8 +99,7 @@ void MenuBar::AddMark() {
   transport_.AddMark();
   if (stage_.Current().data.Study.Marks.size() == before) return;
   const int position = stage_.Current().MP->Position();
-  hint_.Show(stage_.CurrentWindow, "Marked picture " + std::to_string(position) + ". Name it...", "NameMark",
-             StageHint::kShort);
+  hint_.Show(stage_.CurrentWindow, Tr("Marked picture {}. Name it...", position), "NameMark", StageHint::kShort);
 }
 
 // ---------------------------------------------------------------- keys
@@ -140,17 +140,16 @@ void MenuBar::Escape() {
 
 std::string KeyText(const KeyStroke& key) {
   constexpr std::pair<int, const char*> kNames[] = {
-      {kKeySpace, "Space"},       {kKeyHome, "Home"},          {kKeyEnd, "End"},
-      {kKeyLeft, "Left Arrow"},   {kKeyUp, "Up Arrow"},        {kKeyDown, "Down Arrow"},
-      {kKeyRight, "Right Arrow"}, {kKeyEscape, "Esc"},         {kKeyDelete, "Del"},
-      {kKeyPageUp, "Page Up"},    {kKeyPageDown, "Page Down"}, {kKeyCtrl, "Ctrl"}};
-  std::string text = key.shift.value_or(0) & kCtrl ? "Ctrl+" : "";
-  if (key.shift.value_or(0) & kShift) text += "Shift+";
+      {kKeySpace, TrLater("Space")},       {kKeyHome, TrLater("Home")},          {kKeyEnd, TrLater("End")},
+      {kKeyLeft, TrLater("Left Arrow")},   {kKeyUp, TrLater("Up Arrow")},        {kKeyDown, TrLater("Down Arrow")},
+      {kKeyRight, TrLater("Right Arrow")}, {kKeyEscape, TrLater("Esc")},         {kKeyDelete, TrLater("Del")},
+      {kKeyPageUp, TrLater("Page Up")},    {kKeyPageDown, TrLater("Page Down")}, {kKeyCtrl, TrLater("Ctrl")}};
+  std::string text = key.shift.value_or(0) & kCtrl ? Tr("Ctrl") + "+" : "";
+  if (key.shift.value_or(0) & kShift) text += Tr("Shift") + "+";
   if (key.kind == KeyStroke::Kind::Code) {
     for (const auto& [code, name] : kNames)
-      if (code == key.value) return text + name;
-    if (key.value >= kKeyNumpad0 && key.value <= kKeyNumpad9)
-      return text + "keypad " + std::to_string(key.value - kKeyNumpad0);
+      if (code == key.value) return text + Tr(name);
+    if (key.value >= kKeyNumpad0 && key.value <= kKeyNumpad9) return Tr("{}keypad {}", text, key.value - kKeyNumpad0);
     if (key.value >= kKeyF1 && key.value <= kKeyF12) return text + "F" + std::to_string(key.value - kKeyF1 + 1);
   }
   return text + static_cast<char>(key.value);

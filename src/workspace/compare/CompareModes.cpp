@@ -2,11 +2,13 @@
 
 #include <fmt/format.h>
 
+#include "platform/files/Tr.h"
+
 namespace kinalyx {
 namespace {
 
-constexpr const char* kOpenFirst = "Open a video first";
-constexpr const char* kLeaveCarve = "Leave the transparency carve first (Esc)";
+constexpr const char* kOpenFirst = TrLater("Open a video first");
+constexpr const char* kLeaveCarve = TrLater("Leave the transparency carve first (Esc)");
 
 }  // namespace
 
@@ -28,31 +30,31 @@ CompareModes::CompareModes(IHost& host, Settings& settings, PlayScheduler& sched
 // ---------------------------------------------------------------- one mode at a time
 
 std::string CompareModes::StageTaken() const {
-  if (transparency_.TransparencyOn()) return "Leave transparency mode first (Esc)";
-  if (strip_.Shown()) return "Leave multi-picture mode first (Esc)";
+  if (transparency_.TransparencyOn()) return Tr("Leave transparency mode first (Esc)");
+  if (strip_.Shown()) return Tr("Leave multi-picture mode first (Esc)");
   return {};
 }
 
 std::string CompareModes::WhyNoTransparency() const {
   if (transparency_.TransparencyOn()) return {};
-  if (carve_.Shown()) return kLeaveCarve;
+  if (carve_.Shown()) return Tr(kLeaveCarve);
   if (strip_.Shown()) return StageTaken();
-  return transparency_.CanShow() ? "" : "Open videos in windows 1 and 2 first";
+  return transparency_.CanShow() ? "" : Tr("Open videos in windows 1 and 2 first");
 }
 
 std::string CompareModes::WhyNoStrip() const {
   if (strip_.Shown()) return {};
-  if (carve_.Shown()) return kLeaveCarve;
+  if (carve_.Shown()) return Tr(kLeaveCarve);
   if (transparency_.TransparencyOn()) return StageTaken();
-  if (!strip_.CanShow()) return kOpenFirst;
+  if (!strip_.CanShow()) return Tr(kOpenFirst);
   // Its pictures are fetched by moving the video, which the others of a lock do not follow.
-  return locks_.IsLocked(stage_.CurrentWindow) ? "Unlock the videos first" : "";
+  return locks_.IsLocked(stage_.CurrentWindow) ? Tr("Unlock the videos first") : "";
 }
 
 std::string CompareModes::WhyNoCarve() const {
   if (carve_.Shown()) return {};
   if (const std::string taken = StageTaken(); !taken.empty()) return taken;
-  return carve_.CanShow() ? "" : kOpenFirst;
+  return carve_.CanShow() ? "" : Tr(kOpenFirst);
 }
 
 void CompareModes::StopWaiting() {

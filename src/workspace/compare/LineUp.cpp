@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "platform/files/TextEncoding.h"
+#include "platform/files/Tr.h"
 #include "workspace/videos/PlayerMoves.h"
 
 namespace kinalyx {
@@ -60,11 +61,11 @@ std::vector<LineUp::Place> LineUp::Best() const {
 std::string LineUp::Obstacle() const {
   if (!Best().empty()) return "";
   std::vector<int> bare = Shown();
-  if (bare.size() < 2) return "Needs videos in two windows or more";
+  if (bare.size() < 2) return Tr("Needs videos in two windows or more");
   std::erase_if(bare, [this](int slot) { return !stage_.At(slot).data.Study.Marks.empty(); });
-  if (bare.empty()) return "No two videos have a mark of the same name: a right click on a mark names it";
-  if (bare.size() == 1) return "The video in window " + std::to_string(bare.front()) + " has no mark: M makes one";
-  return "The videos have no marks yet: M makes one where each of them stands";
+  if (bare.empty()) return Tr("No two videos have a mark of the same name: a right click on a mark names it");
+  if (bare.size() == 1) return Tr("The video in window {} has no mark: M makes one", bare.front());
+  return Tr("The videos have no marks yet: M makes one where each of them stands");
 }
 
 void LineUp::ByMark() {

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "platform/files/Tr.h"
 #include "platform/paint/Blend.h"
 #include "workspace/compare/PictureExport.h"
 #include "workspace/stage/PlayerPlace.h"
@@ -110,9 +111,10 @@ void MultiPicture::LeaveStrip() {
 
 void MultiPicture::CarveNew() {
   if (!shown_) return;
-  host_.Message(MessageKind::Information, "",
-                "\"New Carve\" Active. Click on the video to draw a square around the area that you want to create a "
-                "MultiPicture.");
+  host_.Message(
+      MessageKind::Information, "",
+      Tr("\"New Carve\" Active. Click on the video to draw a square around the area that you want to create a "
+         "MultiPicture."));
   if (!shown_) return;
   events_.TakeSquareTool();
   waiting_ = true;  // not before the tool is in hand: taking up a tool ends any wait

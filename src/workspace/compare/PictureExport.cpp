@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 
+#include "platform/files/Tr.h"
 #include "platform/paint/PixelOps.h"
 
 namespace kinalyx {
@@ -19,7 +20,7 @@ bool EndsWith(const std::string& path, const std::string& ending) {
 }  // namespace
 
 Outcome ExportPicture(const Surface& picture, const std::string& path) {
-  if (picture.Empty()) return Outcome::Failed("There is no picture to save.");
+  if (picture.Empty()) return Outcome::Failed(Tr("There is no picture to save."));
   const bool jpeg = EndsWith(path, ".jpg") || EndsWith(path, ".jpeg");
   return jpeg ? SaveJpeg(RowsOf(picture), path, kQuality) : SavePng(RowsOf(picture), path);
 }

@@ -2,13 +2,15 @@
 
 #include <algorithm>
 
+#include "platform/files/Tr.h"
 #include "workspace/compare/PictureExport.h"
 
 namespace kinalyx {
 namespace {
 
-/// The words of the captions, in the order of StrobeCaption; those that end in a blank take a number.
-constexpr std::array<const char*, 6> kCaptions{"Start Here", "Start at ", "End Here", "End at ", "Strobe", "Stop"};
+/// The words of the captions, in the order of StrobeCaption; some take a number.
+constexpr std::array<const char*, 6> kCaptions{TrLater("Start Here"), TrLater("Start at {}"), TrLater("End Here"),
+                                               TrLater("End at {}"),  TrLater("Strobe"),      TrLater("Stop")};
 
 /// The frame that a player shows, where its positions may be fields.
 int RawFrame(const AVIControl& player) {
@@ -33,9 +35,7 @@ void StrobeControl::SetWindow(IStrobeView* view) {
 
 void StrobeControl::Caption(StrobeButton button, StrobeCaption caption, int frame) {
   if (!view_) return;
-  std::string words = kCaptions[static_cast<std::size_t>(caption)];
-  if (words.ends_with(' ')) words += std::to_string(frame);
-  view_->SetCaption(button, words);
+  view_->SetCaption(button, Tr(kCaptions[static_cast<std::size_t>(caption)], frame));
 }
 
 void StrobeControl::ShowSlider() {
@@ -102,9 +102,9 @@ int StrobeControl::StrobeStep() const { return std::clamp<int>(settings_.StrobeS
 // ---------------------------------------------------------------- strobing
 
 std::string StrobeControl::Obstacle() const {
-  if (!stage_.HasVideo(stage_.CurrentWindow)) return "Open a video first";
-  if (locks_.IsLocked(stage_.CurrentWindow)) return "Unlock the videos first";
-  if (stage_.MultiFrame()) return "Leave multi-picture mode first (Esc)";
+  if (!stage_.HasVideo(stage_.CurrentWindow)) return Tr("Open a video first");
+  if (locks_.IsLocked(stage_.CurrentWindow)) return Tr("Unlock the videos first");
+  if (stage_.MultiFrame()) return Tr("Leave multi-picture mode first (Esc)");
   return {};
 }
 
@@ -139,7 +139,7 @@ void StrobeControl::StrobeEnded(int slot) {
 }
 
 Outcome StrobeControl::SavePicture(const std::string& path) const {
-  if (!HasResult()) return Outcome::Failed("There is no strobe picture to save.");
+  if (!HasResult()) return Outcome::Failed(Tr("There is no strobe picture to save."));
   return ExportPicture(stage_.MP(result_).Picture(), path);
 }
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "drawing/ShapeGeometry.h"
+#include "platform/files/Tr.h"
 #include "video/KeyCodes.h"
 
 namespace kinalyx {
@@ -14,11 +15,11 @@ constexpr float kTwipsToDouble = 400;  // a drag of the scale handle that double
 constexpr int kTwoWindows = 2;         // the layout of two windows side by side
 
 /// A shape by the name of the tool that draws it, which is not always that of its kind.
-std::string_view ToolName(const Shape& shape) {
+std::string ToolName(const Shape& shape) {
   const ShapeInf& inf = InfOf(shape.Kind);
-  std::string_view name = inf.ToolCaption;
-  if (name.starts_with("a ")) name.remove_prefix(2);
-  return name.empty() ? inf.Name : name;
+  if (inf.ToolCaption.empty()) return Tr(std::string(inf.Name));
+  const std::string name = Tr(std::string(inf.ToolCaption));
+  return name.starts_with("a ") ? name.substr(2) : name;
 }
 
 }  // namespace
@@ -49,12 +50,12 @@ std::optional<SelectionMarks> DrawingEdits::Marks() {
 
 std::string DrawingEdits::SelectionWords() {
   const ShapeList& list = List();
-  if (!HasVideo()) return "No video here";
-  if (list.NumShapes == 0) return "Nothing is drawn here";
-  if (bar_.MultiEdit()) return list.NumShapes == 1 ? "1 drawing" : fmt::format("All {} drawings", list.NumShapes);
+  if (!HasVideo()) return Tr("No video here");
+  if (list.NumShapes == 0) return Tr("Nothing is drawn here");
+  if (bar_.MultiEdit()) return list.NumShapes == 1 ? Tr("1 drawing") : Tr("All {} drawings", list.NumShapes);
   const Shape* selected = SelectedShape(list);
-  if (!selected) return "Click a drawing";
-  return fmt::format("{}, {} of {}", ToolName(*selected), list.CurShape + 1, list.NumShapes);
+  if (!selected) return Tr("Click a drawing");
+  return Tr("{}, {} of {}", ToolName(*selected), list.CurShape + 1, list.NumShapes);
 }
 
 void DrawingEdits::ShowSelection() {
@@ -162,7 +163,7 @@ void DrawingEdits::LoadMacros() {
 
 void DrawingEdits::TellOfMacroFiles() {
   if (const std::string notice = macros_.TakeNotice(); !notice.empty())
-    host_.Message(MessageKind::Warning, "Drawing macros", notice);
+    host_.Message(MessageKind::Warning, Tr("Drawing macros"), notice);
 }
 
 void DrawingEdits::SaveMacro() {
@@ -172,7 +173,7 @@ void DrawingEdits::SaveMacro() {
   if (!name || name->empty()) return;
   LoadMacros();
   if (const Outcome saved = macros_.CreateMacro(*name, List()); !saved)
-    host_.Message(MessageKind::Warning, "New macro", "The macro could not be saved. " + saved.Why());
+    host_.Message(MessageKind::Warning, Tr("New macro"), Tr("The macro could not be saved. {}", saved.Why()));
   TellOfMacroFiles();
   if (macroFormShown_) view_.FillMacroList(macros_.MacroNames(), macros_.IndexOf(*name));
 }
@@ -208,20 +209,20 @@ void DrawingEdits::ShowMacroInfo(int Index) {
   if (Index < 0 || Index >= macros_.NumMacros()) return;
   const std::string info = macros_.Info(Index);
   host_.Message(MessageKind::Information, macros_.MacroNames()[static_cast<std::size_t>(Index)],
-                info.empty() ? "This macro holds no drawings." : info);
+                info.empty() ? Tr("This macro holds no drawings.") : info);
 }
 
 void DrawingEdits::DeleteMacro(int Index) {
   if (Index < 0 || Index >= macros_.NumMacros()) return;
   const std::string name = macros_.MacroNames()[static_cast<std::size_t>(Index)];
-  if (!host_.Question("Remove macro", "Remove the macro \"" + name + "\"?")) return;
+  if (!host_.Question(Tr("Remove macro"), Tr("Remove the macro \"{}\"?", name))) return;
   // Somebody else may have added or removed some meanwhile.
   LoadMacros();
   const auto& names = macros_.MacroNames();
   if (Index >= macros_.NumMacros() || names[static_cast<std::size_t>(Index)] != name)
     Index = static_cast<int>(std::ranges::find(names, name) - names.begin());
   if (const Outcome removed = macros_.KillMacro(Index); !removed)
-    host_.Message(MessageKind::Warning, "Remove macro", "The macro could not be removed. " + removed.Why());
+    host_.Message(MessageKind::Warning, Tr("Remove macro"), Tr("The macro could not be removed. {}", removed.Why()));
   TellOfMacroFiles();
   view_.FillMacroList(macros_.MacroNames(), std::min(Index, macros_.NumMacros() - 1));
 }

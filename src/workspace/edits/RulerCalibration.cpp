@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "core/Numbers.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 namespace {
@@ -75,7 +76,7 @@ std::string RulerCalibration::RulerWords() const {
   constexpr double kInchesPerUnit[] = {1, 12, 1 / 2.54, 100 / 2.54};
   constexpr const char* kUnits[] = {"inch", "foot", "centimeter", "meter"};
   const auto unit = static_cast<std::size_t>(std::clamp(ruler->Unit, 0, 3));
-  return fmt::format("In this video 1 {} is {:.4g} pixels.", kUnits[unit], ruler->PixelsPerInch * kInchesPerUnit[unit]);
+  return Tr("In this video 1 {} is {:.4g} pixels.", kUnits[unit], ruler->PixelsPerInch * kInchesPerUnit[unit]);
 }
 
 void RulerCalibration::DrawingFinished(int window) {
@@ -89,7 +90,7 @@ void RulerCalibration::DrawingFinished(int window) {
   const int kind = shapes.back().Kind;
   if (kind != kLine && kind != kArrow && kind != kSwingPath) return;
   asked = true;
-  hint_.Show(window, "No ruler here yet. Measure with the one used last?", "LastRuler");
+  hint_.Show(window, Tr("No ruler here yet. Measure with the one used last?"), "LastRuler");
 }
 
 void RulerCalibration::PathFinished(int window) {
@@ -99,7 +100,7 @@ void RulerCalibration::PathFinished(int window) {
   const Shape& path = shapes.back();
   if (settings_.CalibNumberOut > 0) return;  // the last one has been offered
   if (path.Kind != kSwingPath || tools_.Calibrated(window) || std::exchange(told_, path.Id) == path.Id) return;
-  hint_.Show(window, "Set the ruler for speeds along the path.", "TCal");
+  hint_.Show(window, Tr("Set the ruler for speeds along the path."), "TCal");
 }
 
 void RulerCalibration::TakeLastRuler() {

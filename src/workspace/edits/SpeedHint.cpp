@@ -2,6 +2,8 @@
 
 #include <fmt/format.h>
 
+#include "platform/files/Tr.h"
+
 namespace kinalyx {
 
 void SpeedHint::Look() {
@@ -11,7 +13,7 @@ void SpeedHint::Look() {
     const auto rate = transport_.UntoldRate(slot);
     if (!rate) continue;
     said = true;
-    hint_.Show(slot, fmt::format("Speeds at {:.4g} pictures a second. Slow motion? Setup, True Frame Rate...", *rate),
+    hint_.Show(slot, Tr("Speeds at {:.4g} pictures a second. Slow motion? Setup, True Frame Rate...", *rate),
                "TrueRate");
   }
 }

@@ -13,6 +13,7 @@
 #include "library/VideoNames.h"
 #include "library/forms/OpenVidForm.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/widgets/FileDrop.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
@@ -419,7 +420,7 @@ int AnalysisForm::OpenFamily(const std::vector<std::string>& paths) { return ana
 
 int AnalysisForm::PickAndOpen() {
   const int opened = analysis_->OpenFiles(analysis_->Stage().CurrentWindow,
-                                          host_.PickFiles({"Open Videos From Disk", "", VideoFilter()}));
+                                          host_.PickFiles({Tr("Open Videos From Disk"), "", VideoFilter()}));
   FocusKeyBox();
   return opened;
 }

@@ -6,14 +6,16 @@
 #include <algorithm>
 
 #include "drawing/DrawingTools.h"
+#include "platform/files/Tr.h"
 #include "platform/widgets/Scale.h"
 #include "platform/widgets/Theme.h"
 
 namespace kinalyx {
 namespace {
 
-constexpr const char* kNames[] = {"Red",    "Yellow",     "Blue", "Green", "Magenta",   "Teal",
-                                  "Orange", "Dark green", "Cyan", "White", "Dark blue", "Pink"};
+constexpr const char* kNames[] = {TrLater("Red"),     TrLater("Yellow"), TrLater("Blue"),      TrLater("Green"),
+                                  TrLater("Magenta"), TrLater("Teal"),   TrLater("Orange"),    TrLater("Dark green"),
+                                  TrLater("Cyan"),    TrLater("White"),  TrLater("Dark blue"), TrLater("Pink")};
 
 /// One of the choices of the palette, which leaves the keys to the workspace.
 void MakeChoice(QToolButton& button, const QString& name, const QString& accessibleName) {
@@ -31,7 +33,7 @@ class ColorButton : public QToolButton {
  public:
   ColorButton(int index, QWidget* parent) : QToolButton(parent) {
     colour_ = ToQColor(kColorChoices[static_cast<std::size_t>(index)]);
-    MakeChoice(*this, QString("ColorChoiceBtn%1").arg(index), kNames[index]);
+    MakeChoice(*this, QString("ColorChoiceBtn%1").arg(index), tr(kNames[index]));
   }
 
  protected:
@@ -83,7 +85,7 @@ class LineButton : public QToolButton {
 
 }  // namespace
 
-QString ColorRow::NameOf(int index) { return kNames[index]; }
+QString ColorRow::NameOf(int index) { return tr(kNames[index]); }
 
 ColorRow::ColorRow(QWidget* parent) : QWidget(parent) {
   setObjectName("ColorRow");
@@ -118,12 +120,12 @@ void ColorRow::SetLive(bool live) {
   for (int i = 0; i < static_cast<int>(buttons_.size()); ++i) {
     QToolButton* button = buttons_[static_cast<std::size_t>(i)];
     button->setEnabled(live);
-    button->setToolTip(live ? tr("Draw in this color: %1").arg(QString(kNames[i]).toLower())
+    button->setToolTip(live ? tr("Draw in this color: %1").arg(tr(kNames[i]).toLower())
                             : tr("Take up a drawing tool, or click a drawing, to choose its color"));
   }
   for (std::size_t i = 0; i < widths_.size(); ++i) {
     widths_[i]->setEnabled(live);
-    widths_[i]->setToolTip(tr("%1 lines").arg(QString(kLineWidths[i].name)));
+    widths_[i]->setToolTip(tr("%1 lines").arg(tr(kLineWidths[i].name)));
   }
 }
 

@@ -4,6 +4,8 @@
 #include <array>
 #include <iterator>
 
+#include "platform/files/Tr.h"
+
 class QToolButton;
 
 namespace kinalyx {
@@ -13,7 +15,7 @@ struct LineWidth {
   int pixels;
   const char* name;
 };
-inline constexpr LineWidth kLineWidths[] = {{3, "Thin"}, {5, "Medium"}, {9, "Thick"}};
+inline constexpr LineWidth kLineWidths[] = {{3, TrLater("Thin")}, {5, TrLater("Medium")}, {9, TrLater("Thick")}};
 
 /// The twelve colour buttons `ColorChoiceBtn` and three widths, for the tool in hand or the drawing that is taken.
 class ColorRow : public QWidget {

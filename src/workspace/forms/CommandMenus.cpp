@@ -5,6 +5,7 @@
 #include <QTimer>
 #include <map>
 
+#include "platform/files/Tr.h"
 #include "platform/widgets/Icons.h"
 #include "platform/widgets/Text.h"
 #include "platform/widgets/Theme.h"
@@ -23,7 +24,7 @@ CommandMenus::CommandMenus(const std::vector<Command>& commands, QWidget* parent
     QMenu*& menu = menus[command.menu];
     if (!menu && !command.menu.empty()) {
       // A menu within a menu has both names.
-      const QString name = QString::fromStdString(command.menu);
+      const QString name = QString::fromStdString(Tr(command.menu));
       QMenu* outer = name.contains('/') ? menus[Std(name.section('/', 0, 0))] : nullptr;
       menu = outer ? outer->addMenu(name.section('/', 1)) : addMenu(name);
       menu->setToolTipsVisible(true);

@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "workspace/stage/PlayerPlace.h"
 #include "workspace/forms/CarvePanel.h"
 #include "workspace/forms/DualBar.h"
@@ -22,7 +23,7 @@ namespace {
 constexpr int kNotch = 120;                            // eighths of a degree that one notch of a wheel turns
 constexpr int kStrip = kStripHeight / kTwipsPerPixel;  // pixels of the stage's height
 
-constexpr const char* kPictureKinds = "PNG picture (*.png)|*.png|JPEG picture (*.jpg *.jpeg)|*.jpg; *.jpeg";
+constexpr const char* kPictureKinds = TrLater("PNG picture (*.png)|*.png|JPEG picture (*.jpg *.jpeg)|*.jpg; *.jpeg");
 
 /// "swing strobe.png" beside the video.
 std::string SuggestedName(const std::string& video, const char* what) {
@@ -66,7 +67,7 @@ void CompareForms::Build(CompareModes& modes, Stage& theStage, QWidget* stage) {
 }
 
 std::optional<std::string> CompareForms::AskPictureName(const char* what) {
-  return host_.PickNewFile({"Save Picture", SuggestedName(theStage_->Current().path, what), kPictureKinds});
+  return host_.PickNewFile({Tr("Save Picture"), SuggestedName(theStage_->Current().path, what), Tr(kPictureKinds)});
 }
 
 void CompareForms::SaveStrip() {
@@ -78,7 +79,7 @@ void CompareForms::SaveStrobe() {
 }
 
 void CompareForms::TellUnlessSaved(const Outcome& saved) {
-  if (!saved) host_.Message(MessageKind::Warning, "", "The picture could not be saved: " + saved.Why());
+  if (!saved) host_.Message(MessageKind::Warning, "", Tr("The picture could not be saved: {}", saved.Why()));
 }
 
 // ---------------------------------------------------------------- stage, wheel and drag

@@ -160,7 +160,7 @@ void EditStrip::MovedTo(QPoint corner) {
 void EditStrip::Dress() {
   WearStageSheet(this, kStripSheet);
   DressStageButtons(this);
-  words_->setMinimumWidth(QFontMetrics(UiFont(12)).horizontalAdvance("Parallelogram, 10 of 10"));
+  words_->setMinimumWidth(QFontMetrics(UiFont(12)).horizontalAdvance(tr("Parallelogram, 10 of 10")));
   if (!isHidden()) Arrange();
 }
 

@@ -33,7 +33,7 @@ constexpr int kAmpleSeek = 420;  // of the film's line, before the plain words g
 QString LongestLine(const QString& line) {
   const QString last = line.section('/', 1).section(' ', 0, 0);
   const QString seconds(std::max<qsizetype>(1, last.size() - 1), '8');
-  const QString longest = seconds + ".88 seconds | " + last + '/' + last + " frames";
+  const QString longest = QObject::tr("%1.88 seconds | %2%3%4 frames").arg(seconds).arg(last).arg('/').arg(last);
   return longest.size() > line.trimmed().size() ? longest : line.trimmed();
 }
 

@@ -6,9 +6,10 @@ namespace kinalyx {
 
 QString FittingLine(const QFontMetrics& metrics, int width, const QString& line) {
   const QString whole = line.trimmed();
-  QString brief = whole;
-  brief.replace(" seconds", " s").remove(" frames");
-  const QString time = brief.section(" | ", 0, 0);
+  // Numbers stand first on either side of the bar, in every language.
+  const bool apart = whole.contains(" | ");
+  const QString time = apart ? whole.section(' ', 0, 0) + " s" : whole;
+  const QString brief = apart ? time + " | " + whole.section(" | ", 1).section(' ', 0, 0) : whole;
   for (const QString& form : {whole, brief, time})
     if (FiguresWidth(metrics, form) <= width) return form;
   QString cut = time;

@@ -7,6 +7,7 @@
 
 #include "library/SidecarMerge.h"
 #include "library/Study.h"
+#include "platform/files/Tr.h"
 #include "platform/host/DriveWatch.h"
 
 namespace kinalyx {
@@ -99,7 +100,7 @@ Result<std::string> Keeping::SaveData(int slot) {
   // could not be read.
   const std::string nothingLeftOut;
   if (!changed && (kept.savedElsewhere || at.data.Unread || at.data.Study.Unread)) return nothingLeftOut;
-  if (!host_.Drives().Answers(settings_.LibraryPath, at.path)) return Outcome::Failed("the drive is not answering");
+  if (!host_.Drives().Answers(settings_.LibraryPath, at.path)) return Outcome::Failed(Tr("the drive is not answering"));
   if (Stamps::Of(at.path) != kept.stamps) kept.savedElsewhere = true;
   if (!changed && kept.savedElsewhere) return nothingLeftOut;
   // A video that somebody else has taken away needs no sidecar; new work on it is kept all the same.
@@ -132,7 +133,7 @@ Result<std::string> Keeping::Write(int slot, SlotData mine) {
   const Outcome studied = WriteStudy(study, whole);
   const Result<std::string> written = studied ? WriteVideoData(sidecar, whole) : studied;
   if (!written) {
-    host_.Note(MessageKind::Warning, "a sidecar could not be saved: " + written.Why());
+    host_.Note(MessageKind::Warning, fmt::format("a sidecar could not be saved: {}", written.Why()));
     return written;
   }
 
@@ -161,22 +162,19 @@ bool Keeping::SaveOrAsk(int slot) {
   for (; !saved; saved = SaveData(slot)) {
     // A library that cannot be written to is no reason to ask as long as nothing gets lost.
     if (!HasUnsaved(slot)) return true;
-    if (host_.Question(
-            "Drawings not saved",
-            fmt::format("The drawings and notes of \"{}\" could not be saved: {}. Would you like to try again?", name,
-                        saved.Why())))
+    if (host_.Question(Tr("Drawings not saved"),
+                       Tr("The drawings and notes of \"{}\" could not be saved: {}. Would you like to try again?", name,
+                          saved.Why())))
       continue;
-    return host_.Question(
-        "Drawings not saved",
-        fmt::format("Close \"{}\" all the same? Its new drawings and notes will be lost. Answer No to "
-                    "keep it open.",
-                    name));
+    return host_.Question(Tr("Drawings not saved"),
+                          Tr("Close \"{}\" all the same? Its new drawings and notes will be lost. Answer No to "
+                             "keep it open.",
+                             name));
   }
   const auto sidecarAlone = [path] { return !FileExists(path) && FileExists(SidecarPath(path)); };
   if (saved->empty() && host_.Drives().Ask(settings_.LibraryPath, sidecarAlone).value_or(false))
-    *saved = fmt::format(
-        "Somebody else has renamed, moved or deleted the video \"{}\". Its drawings and notes are kept in {}.", name,
-        SidecarPath(path));
+    *saved = Tr("Somebody else has renamed, moved or deleted the video \"{}\". Its drawings and notes are kept in {}.",
+                name, SidecarPath(path));
   if (!saved->empty()) host_.Message(MessageKind::Warning, "", *saved);
   return true;
 }

@@ -3,18 +3,20 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/files/Tr.h"
+
 namespace kinalyx {
 namespace {
 
 constexpr ScreenMode kModes[] = {
-    {1, "1", "SS", "&Single", "single", 1, 1, 1},
-    {2, "2", "SD", "&Double", "double", 2, 2, 1},
-    {7, "2H", "SDH", "Double {Horizontal}", "double-horizontal", 2, 1, 2},
-    {5, "3L", "SL", "Triple {Vertical}", "triple", 3, 3, 1},
-    {3, "3T", "ST", "&Triple {Triangular}", "triple-triangular", 3, 2, 2},
-    {4, "4", "squad", "&Quad", "quad", 4, 2, 2},
-    {6, "6", "SSix", "Six Windows", "six", 6, 3, 2},
-    {8, "8", "SEight", "Eight Windows", "eight", 8, 4, 2},
+    {1, "1", "SS", TrLater("&Single"), "single", 1, 1, 1},
+    {2, "2", "SD", TrLater("&Double"), "double", 2, 2, 1},
+    {7, "2H", "SDH", TrLater("Double {Horizontal}"), "double-horizontal", 2, 1, 2},
+    {5, "3L", "SL", TrLater("Triple {Vertical}"), "triple", 3, 3, 1},
+    {3, "3T", "ST", TrLater("&Triple {Triangular}"), "triple-triangular", 3, 2, 2},
+    {4, "4", "squad", TrLater("&Quad"), "quad", 4, 2, 2},
+    {6, "6", "SSix", TrLater("Six Windows"), "six", 6, 3, 2},
+    {8, "8", "SEight", TrLater("Eight Windows"), "eight", 8, 4, 2},
 };
 
 constexpr double kSmallestZoom = 0.2;

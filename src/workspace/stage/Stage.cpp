@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "workspace/stage/PlayerPlace.h"
 
 namespace kinalyx {
@@ -58,7 +59,7 @@ bool Stage::CheckOpenInAnalysis(const std::string& path) const {
 
 void Stage::ShowTitle(int slot) {
   const Slot& at = At(slot);
-  view_.SetCellTitle(slot, at.path.empty() ? "" : CellTitle(at.path) + (at.refused ? " \u00B7 not saved" : ""));
+  view_.SetCellTitle(slot, at.path.empty() ? "" : CellTitle(at.path) + (at.refused ? Tr(" · not saved") : ""));
 }
 
 void Stage::Clear(int slot) {
@@ -158,7 +159,7 @@ void Stage::ShowZoom(int slot) {
   const Slot& at = At(slot);
   const bool moved = at.VideoZoom != 1 || at.PanX != 0 || at.PanY != 0;
   const std::string percent = std::to_string(std::lround(at.VideoZoom * 100)) + " %";
-  view_.SetZoomFigure(slot, moved ? percent : ReachesOver(at) ? "Sides cut off" : "");
+  view_.SetZoomFigure(slot, moved ? percent : ReachesOver(at) ? Tr("Sides cut off") : "");
 }
 
 void Stage::ShowColour(int slot) {

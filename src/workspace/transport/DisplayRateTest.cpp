@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/files/Tr.h"
+
 namespace kinalyx {
 
 void DisplayRateTest::StartRateTest() {
@@ -35,16 +37,16 @@ void DisplayRateTest::Notify(int slot) {
   // The percentage takes two figures after the point and says little by itself: the plain count follows it.
   // Told from the event loop: a message box must not hold up the player that is ending its play.
   tell_ = HostTimer(host_, 0, false, [this, length, counter = DisplayRateCounter_] {
-    host_.Message(MessageKind::Information, "",
-                  fmt::format("{}\n\n{} of {} pictures were shown.", Result(counter, length - 1),
-                              std::min(counter / 2, length), length));
+    host_.Message(
+        MessageKind::Information, "",
+        Tr("{}\n\n{} of {} pictures were shown.", Result(counter, length - 1), std::min(counter / 2, length), length));
   });
 }
 
 std::string DisplayRateTest::Result(int counter, int lastPosition) {
   const double ratio = lastPosition > 0 ? static_cast<double>(counter) / lastPosition : 0;
   const std::string text = fmt::format("{:.7f}", ratio);
-  return "Video Display Rate is " + text.substr(text.find('.') + 1, 2) + "%";
+  return Tr("Video Display Rate is {}%", text.substr(text.find('.') + 1, 2));
 }
 
 }  // namespace kinalyx

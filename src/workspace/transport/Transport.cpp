@@ -7,6 +7,7 @@
 #include <utility>
 #include <cstdlib>
 
+#include "platform/files/Tr.h"
 #include "workspace/transport/Speeds.h"
 #include "workspace/videos/PlayerMoves.h"
 #include "workspace/stage/TakenRate.h"
@@ -367,10 +368,9 @@ double Transport::DisplayRate(int slot) const {
 }
 
 std::string Transport::DisplayLine(int slot) const {
-  if (!stage_.HasVideo(slot)) return "0 seconds | 00/00 frames  ";
+  if (!stage_.HasVideo(slot)) return Tr("0 seconds | 00/00 frames  ");
   const Slot& at = stage_.At(slot);
-  return fmt::format("{} seconds | {}/{} frames  ", Seconds(SecondsAt(slot)), at.MP->Position(),
-                     at.MP->VideoLength() - 1);
+  return Tr("{} seconds | {}/{} frames  ", Seconds(SecondsAt(slot)), at.MP->Position(), at.MP->VideoLength() - 1);
 }
 
 std::string Transport::TimeText(int slot, int position) const {

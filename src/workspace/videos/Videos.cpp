@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 
@@ -56,24 +57,24 @@ void Videos::RefuseVideo(int slot, const std::string& path, bool hasStream) {
   gone ? stage_.HidePlayer(slot) : stage_.ShowColour(slot);
   stage_.News().Note(kVideoChanged);
   host_.Message(MessageKind::Warning, "",
-                gone        ? "The video \"" + LastName(path) + "\" is no longer there."
-                : hasStream ? "The video \"" + LastName(path) + "\" is damaged: it holds no picture that can be shown."
-                            : "The specified file does not contain media streams, make sure you choose a "
-                              "valid media file");
+                gone        ? Tr("The video \"{}\" is no longer there.", LastName(path))
+                : hasStream ? Tr("The video \"{}\" is damaged: it holds no picture that can be shown.", LastName(path))
+                            : Tr("The specified file does not contain media streams, make sure you choose a "
+                                 "valid media file"));
 }
 
 int Videos::SendToAnalysis(const std::string& path, const std::function<void(const std::string&)>& status) {
-  const auto tell = [&](const char* words) {
+  const auto tell = [&](const std::string& words) {
     if (status) status(words);
   };
   int slot = 1;
   while (slot <= kSlots && stage_.HasVideo(slot)) ++slot;
   if (slot > kSlots) {
-    tell("All 8 windows already have videos in them. Send to analysis failed.");
+    tell(Tr("All 8 windows already have videos in them. Send to analysis failed."));
     return 0;
   }
-  tell("Loading Analysis Section...");
-  tell("Sending current video to Analysis...");
+  tell(Tr("Loading Analysis Section..."));
+  tell(Tr("Sending current video to Analysis..."));
   if (!OpenVideo(slot, path)) {
     tell("");
     return 0;
@@ -84,7 +85,7 @@ int Videos::SendToAnalysis(const std::string& path, const std::function<void(con
   if (!stage_.Home().Away() && used > Val(stage_.ScreenLayout))
     stage_.SetScreen(used == 5 || used == 7 ? used + 1 : used);
   stage_.SelectWindow(slot);
-  tell("Current video was sent to Analysis.");
+  tell(Tr("Current video was sent to Analysis."));
   return slot;
 }
 

@@ -183,7 +183,7 @@ TEST_F(Import, TheWatchTakesWhatHasArrivedWhole) {
   session_.ChooseKind(ImportKind::Automatic);
   EXPECT_EQ(session_.AutoStatus(), "Click to Start Auto Import");
   session_.ToggleAuto();
-  EXPECT_STREQ(session_.AutoCaption(), "Stop Auto Import");
+  EXPECT_EQ(session_.AutoCaption(), "Stop Auto Import");
   EXPECT_EQ(session_.AutoStatus(), "Automatic Import Active.... Waiting for new videos....");
   // A camera writes for ten seconds, and then keeps the file open without writing.
   const std::string path = folder_.Path("watched/ćwiczenie.avi");

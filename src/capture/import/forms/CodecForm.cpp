@@ -23,26 +23,26 @@ constexpr int kWidths[] = {150, 280, 80, 80};  // as designed
 
 CodecForm::CodecForm(QWidget* over) : QDialog(over) {
   setObjectName("CodecForm");
-  setWindowTitle("Kinds of Video");
+  setWindowTitle(tr("Kinds of Video"));
   setWindowModality(Qt::WindowModal);
   auto* rows = new QVBoxLayout(this);
   rows->setContentsMargins(24, 20, 24, 20);
   rows->setSpacing(kGap);
   rows->setSizeConstraint(QLayout::SetFixedSize);
-  rows->addWidget(MakeLabel("CodecTitle", "Kinds of Video", "title"));
+  rows->addWidget(MakeLabel("CodecTitle", tr("Kinds of Video"), "title"));
 
   QStringList missing;
   auto* list = new QTreeWidget;
   list->setObjectName("CodecList");
-  list->setAccessibleName("Kinds of video");
+  list->setAccessibleName(tr("Kinds of video"));
   list->setRootIsDecorated(false);
   list->setUniformRowHeights(true);
   list->setSelectionMode(QAbstractItemView::NoSelection);
-  list->setHeaderLabels({"Pictures", "Stored by", "Reads", "Writes"});
+  list->setHeaderLabels({tr("Pictures"), tr("Stored by"), tr("Reads"), tr("Writes")});
   list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   list->header()->setSectionsMovable(false);
   for (const MediaFormat& format : KnownFormats()) {
-    const auto mark = [](bool able) { return able ? QString("Yes") : QString("\u2013"); };
+    const auto mark = [](bool able) { return able ? tr("Yes") : QString("\u2013"); };
     auto* item = new QTreeWidgetItem({Q(format.name), Q(format.where), mark(format.reads), mark(format.writes)});
     item->setSizeHint(kName, QSize(0, Px(kRowHeight)));
     list->addTopLevelItem(item);
@@ -53,14 +53,13 @@ CodecForm::CodecForm(QWidget* over) : QDialog(over) {
 
   auto* note = MakeLabel("CodecNote",
                          missing.isEmpty()
-                             ? QString("All of them can be opened here. What is imported becomes Motion JPEG or DV.")
-                             : "Missing: " + missing.join(", ") +
-                                   ". Install the package libavcodec-extra, and start "
-                                   "the program again.",
+                             ? tr("All of them can be opened here. What is imported becomes Motion JPEG or DV.")
+                             : tr("Missing: %1. Install the package libavcodec-extra, and start the program again.")
+                                   .arg(missing.join(", ")),
                          "muted");
   note->setWordWrap(true);
   rows->addWidget(note);
-  auto* close = new Button("CodecClose", "Close");
+  auto* close = new Button("CodecClose", tr("Close"));
   close->setDefault(true);
   auto* actions = new QHBoxLayout;
   actions->addStretch(1);

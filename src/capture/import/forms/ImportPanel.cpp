@@ -14,6 +14,7 @@
 #include "library/forms/PreviewPlayer.h"
 #include "library/forms/TrimSlider.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/host/DriveWatch.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Figures.h"
@@ -32,7 +33,7 @@ namespace {
 constexpr int kShowMs = 40;
 constexpr int kLookAgainMs = 3000;
 constexpr int kParts = 1000;
-constexpr const char* kChooseOne = "Choose a video to look at it, and to mark the part that you want.";
+constexpr const char* kChooseOne = TrLater("Choose a video to look at it, and to mark the part that you want.");
 
 QVBoxLayout* BareRows(QWidget* owner, int spacing) {
   auto* rows = new QVBoxLayout(owner);
@@ -68,8 +69,8 @@ QWidget* ImportPanel::MakeWatch() {
   auto* row = new QHBoxLayout(watch_);
   row->setContentsMargins(kGap, 10, kGap, 10);
   row->setSpacing(kGap);
-  AutoConvertBtn_ = new Button("AutoConvertBtn", session_.AutoCaption(), "play");
-  AutoConvertBtn_->setToolTip("Converts every video that arrives in the watched folder, one after the other");
+  AutoConvertBtn_ = new Button("AutoConvertBtn", Q(session_.AutoCaption()), "play");
+  AutoConvertBtn_->setToolTip(tr("Converts every video that arrives in the watched folder, one after the other"));
   AutoImportLbl_ = MakeLabel("AutoImportLbl", {});
   AutoImportLbl_->setWordWrap(true);
   row->addWidget(AutoConvertBtn_);
@@ -78,18 +79,18 @@ QWidget* ImportPanel::MakeWatch() {
 }
 
 QWidget* ImportPanel::MakeFiles() {
-  files_ = new Panel("ImportTitle", "Files to Import");
+  files_ = new Panel("ImportTitle", tr("Files to Import"));
   count_ = new FigureLabel("ImportCount");
   count_->setProperty("look", "caption");
   files_->Head()->insertWidget(1, count_);
   files_->Head()->setStretch(0, 0);
   files_->Head()->addStretch(1);
-  setup_ = HeadButton("ImportSetupBtn", "Program Setup", "setup");
-  setup_->setToolTip("Choose the folder from which videos come");
-  refresh_ = HeadButton("ImportRefreshBtn", "Refresh", "rotate");
-  refresh_->setToolTip("Looks at the folder again");
-  auto* kinds = HeadButton("CodecBtn", "Formats", "info");
-  kinds->setToolTip("Which kinds of video can be opened here");
+  setup_ = HeadButton("ImportSetupBtn", tr("Program Setup"), "setup");
+  setup_->setToolTip(tr("Choose the folder from which videos come"));
+  refresh_ = HeadButton("ImportRefreshBtn", tr("Refresh"), "rotate");
+  refresh_->setToolTip(tr("Looks at the folder again"));
+  auto* kinds = HeadButton("CodecBtn", tr("Formats"), "info");
+  kinds->setToolTip(tr("Which kinds of video can be opened here"));
   for (Button* button : {setup_, refresh_, kinds}) files_->Head()->addWidget(button);
   connect(setup_, &QPushButton::clicked, this, &ImportPanel::SetupWanted);
   connect(refresh_, &QPushButton::clicked, this, [this] { session_.Refresh(); });
@@ -103,7 +104,7 @@ QWidget* ImportPanel::MakeFiles() {
   QVBoxLayout* rows = BareRows(shown, 0);
   preview_ = new PreviewPlayer(services_);
   preview_->SetBarShown(false);
-  preview_->ShowWords(kChooseOne);
+  preview_->ShowWords(tr(kChooseOne));
   rows->addWidget(preview_, 1);
   rows->addWidget(MakeTrim());
   middle->addWidget(shown, 62);
@@ -119,12 +120,13 @@ QWidget* ImportPanel::MakeList() {
   MostWidth(part, 420);
   QVBoxLayout* rows = BareRows(part, 0);
   List1_ = new NameList("List1");
-  List1_->setAccessibleName("Files to import");
+  List1_->setAccessibleName(tr("Files to import"));
   List1_->setSelectionMode(QAbstractItemView::ExtendedSelection);
   rows_ = new ImportRows(services_.host, *List1_);
   rows->addWidget(List1_, 1);
-  auto* browse = SSCommand8_[kBrowse] = new Button("SSCommand8_2", "Browse", "open", Look::Quiet);
-  browse->setToolTip("Choose videos on this computer, a telephone or a card. They can also be dropped on the list.");
+  auto* browse = SSCommand8_[kBrowse] = new Button("SSCommand8_2", tr("Browse"), "open", Look::Quiet);
+  browse->setToolTip(
+      tr("Choose videos on this computer, a telephone or a card. They can also be dropped on the list."));
   auto* row = new QHBoxLayout;
   row->setContentsMargins(8, 6, 8, 6);
   row->addWidget(browse);
@@ -143,12 +145,12 @@ QWidget* ImportPanel::MakeTrim() {
   rows->addWidget(HScroll_);
   auto* row = new QHBoxLayout;
   row->setSpacing(6);
-  play_ = IconButton("ImportPlay", "play", "Play the part that is marked (Space)", Look::Quiet);
-  auto* start = SSCommand8_[kSetStart] = new Button("SSCommand8_0", "Set Start Point", {}, Look::Quiet);
-  start->setToolTip("The new video begins with the picture that is shown (S)");
-  auto* end = SSCommand8_[kSetEnd] = new Button("SSCommand8_1", "Set End Point", {}, Look::Quiet);
-  end->setToolTip("The new video ends with the picture that is shown (E)");
-  clear_ = IconButton("ImportTrimClear", "undo", "Take all of the video again", Look::Quiet);
+  play_ = IconButton("ImportPlay", "play", tr("Play the part that is marked (Space)"), Look::Quiet);
+  auto* start = SSCommand8_[kSetStart] = new Button("SSCommand8_0", tr("Set Start Point"), {}, Look::Quiet);
+  start->setToolTip(tr("The new video begins with the picture that is shown (S)"));
+  auto* end = SSCommand8_[kSetEnd] = new Button("SSCommand8_1", tr("Set End Point"), {}, Look::Quiet);
+  end->setToolTip(tr("The new video ends with the picture that is shown (E)"));
+  clear_ = IconButton("ImportTrimClear", "undo", tr("Take all of the video again"), Look::Quiet);
   for (Button* button : {play_, start, end, clear_}) row->addWidget(button);
   row->addStretch(1);
   rows->addLayout(row);
@@ -168,23 +170,23 @@ QWidget* ImportPanel::MakeTrim() {
 
 /// How the new video is made, and what makes it.
 void ImportPanel::MakeFoot() {
-  keepSize_ = new QCheckBox("Keep the camera's picture size");
+  keepSize_ = new QCheckBox(tr("Keep the camera's picture size"));
   keepSize_->setObjectName("KeepPictureSizeCheck");
-  keepSize_->setToolTip("Without it, large pictures become tape of 720 x 480, as in earlier versions");
-  const char* const kCaptions[] = {"Reverse fields", "Sharpen"};
-  const char* const kTips[] = {"Shows the two fields of interlaced pictures in the other order",
-                               "Brings out the edges of what is made tape a little"};
+  keepSize_->setToolTip(tr("Without it, large pictures become tape of 720 x 480, as in earlier versions"));
+  const char* const kCaptions[] = {TrLater("Reverse fields"), TrLater("Sharpen")};
+  const char* const kTips[] = {TrLater("Shows the two fields of interlaced pictures in the other order"),
+                               TrLater("Brings out the edges of what is made tape a little")};
   files_->Foot()->addWidget(keepSize_);
   for (std::size_t i = 0; i < VidSetupCheck_.size(); ++i) {
-    VidSetupCheck_[i] = new QCheckBox(kCaptions[i]);
+    VidSetupCheck_[i] = new QCheckBox(tr(kCaptions[i]));
     VidSetupCheck_[i]->setObjectName(QString("VidSetupCheck%1").arg(i));
-    VidSetupCheck_[i]->setToolTip(kTips[i]);
+    VidSetupCheck_[i]->setToolTip(tr(kTips[i]));
     files_->Foot()->addWidget(VidSetupCheck_[i]);
   }
   files_->Foot()->addStretch(1);
-  saveAll_ = new Button("SaveAllBtn", "Save All", {}, Look::Quiet);
-  saveAll_->setToolTip("Converts all that waits, one after the other, each under the next name");
-  SSCommand8_[kSave] = new Button("SSCommand8_3", "Save", "check");
+  saveAll_ = new Button("SaveAllBtn", tr("Save All"), {}, Look::Quiet);
+  saveAll_->setToolTip(tr("Converts all that waits, one after the other, each under the next name"));
+  SSCommand8_[kSave] = new Button("SSCommand8_3", tr("Save"), "check");
   files_->Foot()->addWidget(saveAll_);
   files_->Foot()->addWidget(SSCommand8_[kSave]);
 }
@@ -209,13 +211,13 @@ QWidget* ImportPanel::MakeProgress() {
   gauge_->setRange(0, kParts);
   gauge_->setTextVisible(false);
   FixWidth(gauge_, 150);
-  auto* cancel = new Button("ImportCancelBtn", "Cancel", {}, Look::Quiet);
-  cancel->setToolTip("Gives up this file and those that wait. Nothing half done is left.");
+  auto* cancel = new Button("ImportCancelBtn", tr("Cancel"), {}, Look::Quiet);
+  cancel->setToolTip(tr("Gives up this file and those that wait. Nothing half done is left."));
   inside->addWidget(gauge_);
   inside->addWidget(cancel);
   row->addWidget(progress_);
-  analyze_ = new Button("ImportAnalyzeBtn", "Analyze", "analyze", Look::Quiet);
-  analyze_->setToolTip("Opens the video that was saved last in the analysis section");
+  analyze_ = new Button("ImportAnalyzeBtn", tr("Analyze"), "analyze", Look::Quiet);
+  analyze_->setToolTip(tr("Opens the video that was saved last in the analysis section"));
   row->addWidget(analyze_);
   connect(analyze_, &QPushButton::clicked, this, [this] { emit AnalyzeWanted(saved_); });
   connect(cancel, &QPushButton::clicked, this, [this] { session_.CancelConversion(); });
@@ -325,9 +327,9 @@ std::vector<std::string> ImportPanel::ToSave() const {
 void ImportPanel::DropFiles(const std::vector<std::string>& paths) {
   if (session_.Kind() != ImportKind::Manual) {
     services_.host.Message(MessageKind::Information, "",
-                           "Files that you choose yourself are imported under \"Manually Import Video\".");
+                           Tr("Files that you choose yourself are imported under \"Manually Import Video\"."));
   } else if (!session_.AddFiles(paths)) {
-    services_.host.Message(MessageKind::Information, "", "None of these files is a video that can be imported.");
+    services_.host.Message(MessageKind::Information, "", Tr("None of these files is a video that can be imported."));
   }
 }
 
@@ -362,10 +364,10 @@ void ImportPanel::ShowKind() {
   const bool manual = kind == ImportKind::Manual;
   const bool automatic = kind == ImportKind::Automatic;
   watch_->setVisible(automatic);
-  AutoConvertBtn_->setText(session_.AutoCaption());
+  AutoConvertBtn_->setText(Q(session_.AutoCaption()));
   AutoConvertBtn_->SetIcon(session_.AutoActive() ? "pause" : "play");
   AutoImportLbl_->setText(Q(session_.AutoStatus()));
-  files_->SetTitle(manual ? "Files to Import" : automatic ? "Import Folder" : "Camera");
+  files_->SetTitle(manual ? tr("Files to Import") : automatic ? tr("Import Folder") : tr("Camera"));
   count_->setText(CountText());
   refresh_->setVisible(!manual);
   setup_->setVisible(!manual && session_.Folder().empty());
@@ -383,7 +385,7 @@ void ImportPanel::ShowKind() {
   VidSetupCheck_[1]->setEnabled(!keep);
 
   const std::size_t chosen = ToSave().size();
-  SSCommand8_[kSave]->setText(chosen > 1 ? QString("Save %1 Videos").arg(chosen) : QString("Save"));
+  SSCommand8_[kSave]->setText(chosen > 1 ? tr("Save %1 Videos").arg(chosen) : tr("Save"));
   SSCommand8_[kSave]->setEnabled(chosen > 0 && !session_.AutoActive());
   const auto waits = [](const ImportRow& row) { return row.state == ImportRow::State::Waiting; };
   saveAll_->setVisible(std::ranges::count_if(session_.Rows(), waits) > 1);
@@ -399,15 +401,15 @@ QString ImportPanel::CountText() const {
 QString ImportPanel::Hint() const {
   const QString folder = Q(session_.Folder());
   switch (session_.Kind()) {
-    case ImportKind::Manual: return "Drop videos here, or choose Browse.";
+    case ImportKind::Manual: return tr("Drop videos here, or choose Browse.");
     case ImportKind::Camera:
-      if (folder.isEmpty()) return "Choose the folder of your camera in Program Setup first.";
-      if (session_.FolderGone()) return "Connect the camera, and its videos appear here.\n\n" + folder;
-      return "There is no video in the camera's folder.\n\n" + folder;
+      if (folder.isEmpty()) return tr("Choose the folder of your camera in Program Setup first.");
+      if (session_.FolderGone()) return tr("Connect the camera, and its videos appear here.\n\n%1").arg(folder);
+      return tr("There is no video in the camera's folder.\n\n%1").arg(folder);
     case ImportKind::Automatic:
-      if (folder.isEmpty()) return "Choose the folder to be watched in Program Setup first.";
-      if (session_.FolderGone()) return "This folder cannot be reached.\n\n" + folder;
-      return "Videos that arrive in this folder appear here.\n\n" + folder;
+      if (folder.isEmpty()) return tr("Choose the folder to be watched in Program Setup first.");
+      if (session_.FolderGone()) return tr("This folder cannot be reached.\n\n%1").arg(folder);
+      return tr("Videos that arrive in this folder appear here.\n\n%1").arg(folder);
   }
   return {};
 }
@@ -419,12 +421,12 @@ void ImportPanel::ShowPreview() {
   HScroll_->SetFrames(0);
   if (path.empty()) {
     preview_->Unload();
-    preview_->ShowWords(kChooseOne);
+    preview_->ShowWords(tr(kChooseOne));
   } else if (!services_.host.Drives().Answers(FolderOf(path), path)) {
     preview_->Unload();
-    preview_->ShowWords("The drive with this video is not answering.");
+    preview_->ShowWords(tr("The drive with this video is not answering."));
   } else if (!preview_->Load(path)) {
-    preview_->ShowWords("This video cannot be opened.");
+    preview_->ShowWords(tr("This video cannot be opened."));
   } else {
     HScroll_->SetFrames(preview_->FrameCount());
   }
@@ -446,8 +448,8 @@ void ImportPanel::ShowTrim() {
     HScroll_->SetFrames(HScroll_->Frames());
     HScroll_->SetPosition(position);
   }
-  startTime_->setText(start ? Q("Start time " + ImportSession::TimeText(*start)) : QString());
-  endTime_->setText(end ? Q("End time " + ImportSession::TimeText(*end)) : QString());
+  startTime_->setText(start ? tr("Start time %1").arg(Q(ImportSession::TimeText(*start))) : QString());
+  endTime_->setText(end ? tr("End time %1").arg(Q(ImportSession::TimeText(*end))) : QString());
   startTime_->setVisible(start.has_value());
   endTime_->setVisible(end.has_value());
   ShowTime();

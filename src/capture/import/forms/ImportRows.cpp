@@ -30,12 +30,12 @@ QString StateText(const ImportRow& row, double part) {
   using State = ImportRow::State;
   switch (row.state) {
     case State::Waiting: return {};
-    case State::Arriving: return "Arriving";
-    case State::Queued: return "Next";
+    case State::Arriving: return QObject::tr("Arriving");
+    case State::Queued: return QObject::tr("Next");
     case State::Converting: return QString::number(static_cast<int>(part * 100)) + " %";
-    case State::Saved: return "Saved";
-    case State::Failed: return "Not saved";
-    case State::Stopped: return "Stopped";
+    case State::Saved: return QObject::tr("Saved");
+    case State::Failed: return QObject::tr("Not saved");
+    case State::Stopped: return QObject::tr("Stopped");
   }
   return {};
 }
@@ -133,7 +133,7 @@ void ImportRows::ShowFacts(int row) {
   if (!item || !facts) return;
   const QDateTime written = QDateTime::fromSecsSinceEpoch(facts->WrittenSeconds());
   QStringList details;
-  if (facts->seen && !facts->glance.opens) details << "Cannot be opened";
+  if (facts->seen && !facts->glance.opens) details << tr("Cannot be opened");
   details << QLocale().toString(written.date(), QLocale::ShortFormat);
   if (facts->seen && facts->glance.opens) details << Q(LengthText(facts->glance.seconds));
   details << Q(FormatFileSize(facts->stamp.bytes));

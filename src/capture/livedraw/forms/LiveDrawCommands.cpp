@@ -6,6 +6,7 @@
 #include <string>
 
 #include "capture/livedraw/forms/LiveDrawForm.h"
+#include "platform/files/Tr.h"
 #include "platform/widgets/Text.h"
 #include "video/KeyCodes.h"
 #include "workspace/commands/DrawToolWords.h"
@@ -26,18 +27,21 @@ KeyStroke Key(int code, int shift = 0) { return {KeyStroke::Kind::Code, code, sh
 
 void LiveDrawForm::MakeCommands() {
   const DrawingBoard& board = session_.Board();
-  const auto needs = [](auto met, const char* why) { return [met, why] { return std::string(met() ? "" : why); }; };
-  const auto hasPicture = needs([&board] { return board.HasPicture(); }, "Needs the picture of a camera");
-  const auto hasDrawings =
-      needs([this, &board] { return board.HasPicture() && session_.HasDrawings(); }, "Nothing is drawn on the picture");
+  const auto needs = [](auto met, std::string why) {
+    return [met, why = std::move(why)] { return met() ? std::string() : why; };
+  };
+  const auto hasPicture = needs([&board] { return board.HasPicture(); }, Tr("Needs the picture of a camera"));
+  const auto hasDrawings = needs([this, &board] { return board.HasPicture() && session_.HasDrawings(); },
+                                 Tr("Nothing is drawn on the picture"));
   const auto inHand = [&board](int kind, bool straight) {
     const DrawingTools& tools = board.Tools();
     return tools.Drawing() && tools.InHand() == ToolInHand::Plain && tools.DrawKind() == kind &&
            board.StraightMode() == straight;
   };
   const auto heldAs = [&board](ToolInHand way) { return board.Tools().Drawing() && board.Tools().InHand() == way; };
-  const auto tool = [&](std::string name, const char* tip, const char* icon, std::function<void(DrawingTools&)> take,
-                        std::function<bool()> checked, std::vector<KeyStroke> keys = {}) {
+  const auto tool = [&](std::string name, const std::string& tip, const char* icon,
+                        std::function<void(DrawingTools&)> take, std::function<bool()> checked,
+                        std::vector<KeyStroke> keys = {}) {
     Command command;
     command.item = std::move(name);
     command.icon = icon;
@@ -53,12 +57,13 @@ void LiveDrawForm::MakeCommands() {
   for (int kind = 0; kind < static_cast<int>(std::size(kDrawTools)); ++kind) {
     const DrawToolWords& words = kDrawTools[kind];
     tool(
-        "CmdMakeShape" + std::to_string(kind), words.tip, words.icon,
+        "CmdMakeShape" + std::to_string(kind), Tr(words.tip), words.icon,
         [kind](DrawingTools& tools) { tools.TakeTool(kind); }, [inHand, kind] { return inHand(kind, false); },
         {Key(kKeyF1 + kind, kind == kArrow ? kShift : 0)});
   }
-  const auto plain = [&](const char* name, const char* tip, const char* icon, Group group, std::function<void()> run,
-                         std::function<std::string()> obstacle, std::vector<KeyStroke> keys = {}) -> Command& {
+  const auto plain = [&](const char* name, const std::string& tip, const char* icon, Group group,
+                         std::function<void()> run, std::function<std::string()> obstacle,
+                         std::vector<KeyStroke> keys = {}) -> Command& {
     Command command;
     command.item = name;
     command.icon = icon;
@@ -69,24 +74,25 @@ void LiveDrawForm::MakeCommands() {
     command.keys = std::move(keys);
     return commands_.emplace_back(std::move(command));
   };
-  plain("ribShowGrid", "Grid", "grid", kDrawing, [this] { session_.ToggleGrid(); }, hasPicture, {Key(kGridKey)})
+  plain("ribShowGrid", Tr("Grid"), "grid", kDrawing, [this] { session_.ToggleGrid(); }, hasPicture, {Key(kGridKey)})
       .checked = [&board] { return board.List().GridOn; };
-  tool("DDSLBtn", "Draw Straight Line", "straight-line", &DrawingTools::TakeStraightLine,
+  tool("DDSLBtn", Tr("Draw Straight Line"), "straight-line", &DrawingTools::TakeStraightLine,
        [inHand] { return inHand(kLine, true); });
-  tool("DDSABtn", "Draw Straight Arrow", "straight-arrow", &DrawingTools::TakeStraightArrow,
+  tool("DDSABtn", Tr("Draw Straight Arrow"), "straight-arrow", &DrawingTools::TakeStraightArrow,
        [inHand] { return inHand(kArrow, true); });
-  tool("CentreCircleBtn", "Draw Circle from Center", "centre-circle", &DrawingTools::TakeCentreCircle,
+  tool("CentreCircleBtn", Tr("Draw Circle from Center"), "centre-circle", &DrawingTools::TakeCentreCircle,
        [heldAs] { return heldAs(ToolInHand::CentreCircle); });
-  tool("DrawTextBtn", "Draw Text", "text", &DrawingTools::TakeTextTool, [heldAs] { return heldAs(ToolInHand::Text); });
-  plain("UndoBtn", "Undo", "undo", kErasing, [this] { session_.Undo(); },
-        needs([this] { return session_.CanUndo(); }, "No change of drawings or zones to undo"), {Key('Z', kCtrl)});
-  plain("RedoBtn", "Redo", "redo", kErasing, [this] { session_.Redo(); },
-        needs([this] { return session_.CanRedo(); }, "No change of drawings or zones was undone"),
+  tool("DrawTextBtn", Tr("Draw Text"), "text", &DrawingTools::TakeTextTool,
+       [heldAs] { return heldAs(ToolInHand::Text); });
+  plain("UndoBtn", Tr("Undo"), "undo", kErasing, [this] { session_.Undo(); },
+        needs([this] { return session_.CanUndo(); }, Tr("No change of drawings or zones to undo")), {Key('Z', kCtrl)});
+  plain("RedoBtn", Tr("Redo"), "redo", kErasing, [this] { session_.Redo(); },
+        needs([this] { return session_.CanRedo(); }, Tr("No change of drawings or zones was undone")),
         {Key('Z', kShift | kCtrl)});
-  plain("Lastcadoff", "Delete Last Object Drawn", "delete-last", kErasing, [this] { session_.RemoveLast(); },
+  plain("Lastcadoff", Tr("Delete Last Object Drawn"), "delete-last", kErasing, [this] { session_.RemoveLast(); },
         hasDrawings, {Key(kKeyDelete)});
   plain(
-      "DeleteAllBtn", "Delete All Drawings", "trash", kErasing, [this] { session_.RemoveAll(); }, hasDrawings);
+      "DeleteAllBtn", Tr("Delete All Drawings"), "trash", kErasing, [this] { session_.RemoveAll(); }, hasDrawings);
 }
 
 void LiveDrawForm::Run(const std::string& name) {

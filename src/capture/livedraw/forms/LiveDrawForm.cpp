@@ -17,6 +17,7 @@
 #include "capture/forms/CameraControlsForm.h"
 #include "capture/livedraw/forms/LiveDrawPicture.h"
 #include "core/Twips.h"
+#include "platform/files/Tr.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
@@ -116,11 +117,11 @@ QWidget* LiveDrawForm::MakeControls() {
   auto* row = new QHBoxLayout(ground);
   row->setContentsMargins(10, 8, 10, 8);
   row->setSpacing(8);
-  freeze_ = new Button("CamCtlBtn0", "Freeze Video", "pause");
+  freeze_ = new Button("CamCtlBtn0", tr("Freeze Video"), "pause");
   freeze_->setToolTip(tr("Holds the picture to draw upon, and lets it go on (Space)"));
   LeastWidth(freeze_, 136);
   connect(freeze_, &QPushButton::clicked, this, [this] { CamCtlBtn_Click(kFreezeBtn); });
-  zone_ = new Button("CamCtlBtn2", "Add Hot Zone", "hot-zone", Look::Quiet);
+  zone_ = new Button("CamCtlBtn2", tr("Add Hot Zone"), "hot-zone", Look::Quiet);
   zone_->setToolTip(tr("Drag a rectangle over the picture: it beeps when something moves in it (Z)"));
   LeastWidth(zone_, 146);
   connect(zone_, &QPushButton::clicked, this, [this] { CamCtlBtn_Click(kZoneBtn); });
@@ -175,7 +176,7 @@ void LiveDrawForm::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
   if (event->spontaneous() || session_.IsOpen()) return;
   session_.Open();
-  awake_ = std::make_unique<ScreenAwake>("Live draw is shown");
+  awake_ = std::make_unique<ScreenAwake>(Tr("Live draw is shown"));
   FillCameras();
   UpdateAll();
 }
@@ -246,7 +247,8 @@ void LiveDrawForm::SendToAnalysis_Click() {
   macros_.LoadMList({system.screenWidth * kTwipsPerPixel, system.screenHeight * kTwipsPerPixel});
   const std::string name = Std(form.Name());
   if (const Outcome saved = session_.SaveMacro(macros_, name); !saved)
-    return parts_.host.Message(MessageKind::Warning, "", "The drawings could not be kept as a macro. " + saved.Why());
+    return parts_.host.Message(MessageKind::Warning, "",
+                               Tr("The drawings could not be kept as a macro. {}", saved.Why()));
   if (isFullScreen()) ToggleFullScreen();
   parts_.ways.TakeToAnalysis(name);
 }

@@ -46,69 +46,71 @@ MirrorBar::MirrorBar(MirrorSession& session, QWidget* parent) : QFrame(parent), 
   row_->setSpacing(2);
   rows->addLayout(row_);
 
-  panes_ = AddChoice("MirrorPanes", {"1", "2", "3", "4"}, "Pictures side by side (1 to 4)");
+  panes_ = AddChoice("MirrorPanes", {"1", "2", "3", "4"}, tr("Pictures side by side (1 to 4)"));
   connect(panes_, &QButtonGroup::idClicked, this, [this](int index) { session_.SetPanes(index + 1); });
   AddGap();
   const auto step = [this](double by) { session_.SetDelay(session_.Choices().Delay(session_.Chosen()) + by); };
-  Button* less = Add("MirrorLess", {}, "chevron-down", "A shorter delay (Down; with Shift by 5 s)");
+  Button* less = Add("MirrorLess", {}, "chevron-down", tr("A shorter delay (Down; with Shift by 5 s)"));
   delay_ = MakeLabel("MirrorDelay", {}, "heading");
   delay_->setAlignment(Qt::AlignCenter);
   LeastWidth(delay_, 62);
   row_->addWidget(delay_);
-  Button* more = Add("MirrorMore", {}, "chevron-up", "A longer delay (Up; with Shift by 5 s)");
+  Button* more = Add("MirrorMore", {}, "chevron-up", tr("A longer delay (Up; with Shift by 5 s)"));
   for (Button* button : {less, more}) Repeats(button);
   connect(less, &QPushButton::clicked, this, [step] { step(-kDelayStep); });
   connect(more, &QPushButton::clicked, this, [step] { step(kDelayStep); });
-  cameras_ = AddChoice("MirrorCamera", {"Camera 1", "Camera 2"}, "Which camera the framed picture shows (C)");
+  cameras_ =
+      AddChoice("MirrorCamera", {tr("Camera 1"), tr("Camera 2")}, tr("Which camera the framed picture shows (C)"));
   connect(cameras_, &QButtonGroup::idClicked, this, [this](int index) { session_.SetCamera(index); });
   AddGap();
-  loop_ = Add("MirrorLoop", "Loop", "loop", "The last seconds again and again, slowly (L)");
+  loop_ = Add("MirrorLoop", tr("Loop"), "loop", tr("The last seconds again and again, slowly (L)"));
   loop_->setCheckable(true);
   connect(loop_, &QPushButton::clicked, this, [this] { session_.ToggleLoop(); });
-  speeds_ = AddChoice("MirrorSpeed", {QString::fromUtf8("¼"), QString::fromUtf8("½"), "1"}, "Speed of the loop (S)");
+  speeds_ =
+      AddChoice("MirrorSpeed", {QString::fromUtf8("¼"), QString::fromUtf8("½"), "1"}, tr("Speed of the loop (S)"));
   connect(speeds_, &QButtonGroup::idClicked, this,
           [this](int index) { session_.SetSpeed(static_cast<LoopSpeed>(index)); });
   const auto seconds = [this](int by) { session_.SetLoopSeconds(session_.Choices().loopSeconds + by); };
-  Button* fewer = Add("MirrorFewer", {}, "chevron-left", "Loop and keep fewer seconds (-)");
+  Button* fewer = Add("MirrorFewer", {}, "chevron-left", tr("Loop and keep fewer seconds (-)"));
   seconds_ = MakeLabel("MirrorSeconds", {});
   seconds_->setAlignment(Qt::AlignCenter);
   LeastWidth(seconds_, 34);
   row_->addWidget(seconds_);
-  Button* longer = Add("MirrorLonger", {}, "chevron-right", "Loop and keep more seconds (+)");
+  Button* longer = Add("MirrorLonger", {}, "chevron-right", tr("Loop and keep more seconds (+)"));
   for (Button* button : {fewer, longer}) Repeats(button);
   connect(fewer, &QPushButton::clicked, this, [seconds] { seconds(-1); });
   connect(longer, &QPushButton::clicked, this, [seconds] { seconds(1); });
   AddGap();
-  freeze_ = Add("MirrorFreeze", {}, "pause", "Stand still (Space); Left and Right step");
+  freeze_ = Add("MirrorFreeze", {}, "pause", tr("Stand still (Space); Left and Right step"));
   freeze_->setCheckable(true);
   connect(freeze_, &QPushButton::clicked, this, [this] { session_.ToggleFreeze(); });
-  keep_ = Add("MirrorKeep", "Keep", "save", "What was seen becomes a video of the student (K, Return, Page Down)");
+  keep_ =
+      Add("MirrorKeep", tr("Keep"), "save", tr("What was seen becomes a video of the student (K, Return, Page Down)"));
   connect(keep_, &QPushButton::clicked, this, [this] { session_.Keep(); });
   AddGap();
-  mirrored_ = Add("MirrorFlip", {}, "flip", "Change left and right, as in a mirror (F)");
+  mirrored_ = Add("MirrorFlip", {}, "flip", tr("Change left and right, as in a mirror (F)"));
   mirrored_->setCheckable(true);
   connect(mirrored_, &QPushButton::clicked, this, [this] { session_.SetMirrored(!session_.Choices().mirrored); });
-  screens_ = Add("MirrorScreens", {}, "rows", "Fill a monitor");
+  screens_ = Add("MirrorScreens", {}, "rows", tr("Fill a monitor"));
   screenMenu_ = new QMenu(this);
   screenMenu_->setObjectName("MirrorScreenMenu");
   connect(screens_, &QPushButton::clicked, this, [this] {
     FillScreens();
     screenMenu_->popup(screens_->mapToGlobal(QPoint(0, -screenMenu_->sizeHint().height())));
   });
-  full_ = Add("MirrorFull", {}, "maximize", "Full screen (F11)");
+  full_ = Add("MirrorFull", {}, "maximize", tr("Full screen (F11)"));
   full_->setCheckable(true);
   connect(full_, &QPushButton::clicked, this, &MirrorBar::FullScreenWanted);
   row_->addStretch(1);
-  Button* close = Add("MirrorClose", {}, "close", "Close the mirror (Esc)");
+  Button* close = Add("MirrorClose", {}, "close", tr("Close the mirror (Esc)"));
   connect(close, &QPushButton::clicked, this, &MirrorBar::CloseWanted);
 
   auto* foot = new QHBoxLayout;
   foot->setSpacing(kGap);
-  keys_ =
-      MakeLabel("MirrorKeys",
-                QString::fromUtf8("1–4 pictures  ·  ↑ ↓ delay  ·  L loop  ·  Space still  ·  K keep  ·  F left-right"
-                                  "  ·  F11 full screen"),
-                "caption");
+  keys_ = MakeLabel("MirrorKeys",
+                    (tr("1–4 pictures  ·  ↑ ↓ delay  ·  L loop  ·  Space still  ·  K keep  ·  F left-right"
+                        "  ·  F11 full screen")),
+                    "caption");
   keeps_ = MakeLabel("MirrorKeeps", {}, "caption");
   memory_ = MakeLabel("MirrorMemory", {}, "caption");
   foot->addWidget(keys_);
@@ -172,14 +174,14 @@ void MirrorBar::ShowAll(bool fullScreen) {
   screens_->setVisible(QGuiApplication::screens().size() > 1);
   const QString student = Q(session_.StudentName());
   const QString name = Q(session_.NextName());
-  keeps_->setText(name.isEmpty() ? QString("K: the next video has no name yet")
-                                 : QString::fromUtf8("K keeps %1 in %2").arg(name, student));
+  keeps_->setText(name.isEmpty() ? tr("K: the next video has no name yet")
+                                 : (tr("K keeps %1 in %2")).arg(name, student));
   memory_->setText(Q(session_.MemoryWords()));
 }
 
 void MirrorBar::FitTo(int width) {
-  loop_->setText("Loop");
-  keep_->setText("Keep");
+  loop_->setText(tr("Loop"));
+  keep_->setText(tr("Keep"));
   keys_->show();
   keeps_->show();
   if (sizeHint().width() <= width) return;

@@ -11,6 +11,7 @@
 #include "capture/mirror/forms/MirrorView.h"
 #include "core/Settings.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/host/ScreenAwake.h"
 #include "platform/widgets/Scale.h"
 #include "platform/widgets/Text.h"
@@ -85,7 +86,7 @@ MirrorForm::MirrorForm(Parts parts)
       files_(JoinPath(parts.settings.DataPath, "capture")),
       jobs_(parts.host, parts.on == MirrorSession::On::Threads ? JobRunner::On::Worker : JobRunner::On::HostTimer) {
   setObjectName("MirrorForm");
-  setWindowTitle("Delayed Mirror - Kinalyx");
+  setWindowTitle(tr("Delayed Mirror - Kinalyx"));
   setAttribute(Qt::WA_OpaquePaintEvent);
   setAttribute(Qt::WA_QuitOnClose, false);
   setMouseTracking(true);
@@ -141,7 +142,7 @@ void MirrorForm::Open() {
     if (view) view->ShowSight({});  // of another session, perhaps of somebody else
   session_->Rest(false);
   session_->Open();
-  awake_ = std::make_unique<ScreenAwake>("The delayed mirror is shown");
+  awake_ = std::make_unique<ScreenAwake>(Tr("The delayed mirror is shown"));
   MirrorChanged();
   WakeBar();
   activateWindow();
@@ -330,7 +331,7 @@ void MirrorForm::changeEvent(QEvent* event) {
     NotePlace();
     if (isMinimized() == static_cast<bool>(awake_)) {
       session_->Rest(isMinimized());
-      awake_ = isMinimized() ? nullptr : std::make_unique<ScreenAwake>("The delayed mirror is shown");
+      awake_ = isMinimized() ? nullptr : std::make_unique<ScreenAwake>(Tr("The delayed mirror is shown"));
     }
     if (bar_->isVisible()) bar_->ShowAll(isFullScreen());
   }

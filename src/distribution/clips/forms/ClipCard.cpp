@@ -77,9 +77,12 @@ void ClipCard::Arrange(const QString& words, bool running, bool saved) {
 
 void ClipCard::ShowProgress(const std::string& path, double part, int waiting) {
   end_.stop();
-  QString words = tr("Saving \"%1\", %2 %").arg(QFileInfo(Q(path)).fileName()).arg(static_cast<int>(part * 100));
-  if (waiting == 1) words += tr("; another one waits");
-  if (waiting > 1) words += tr("; %1 others wait").arg(waiting);
+  const QString name = QFileInfo(Q(path)).fileName();
+  const QString percent = QString::number(static_cast<int>(part * 100));
+  const QString words = waiting < 1 ? tr("Saving \"%1\", %2 %").arg(name, percent)
+                        : waiting == 1
+                            ? tr("Saving \"%1\", %2 %; another one waits").arg(name, percent)
+                            : tr("Saving \"%1\", %2 %; %3 others wait").arg(name, percent, QString::number(waiting));
   gauge_->setValue(static_cast<int>(part * kWhole));
   Arrange(words, true, false);
 }

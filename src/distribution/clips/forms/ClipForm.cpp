@@ -329,7 +329,7 @@ void ClipForm::Changed() {
     const double seconds = plan_.EndMs / 1000;
     length_->setText(order_.Makes == ClipOrder::Kind::Row
                          ? tr("%1 pictures of %2 x %3").arg(order_.RowPictures).arg(order_.Width).arg(order_.Height)
-                         : tr("%1 s, %2 x %3").arg(seconds, 0, 'f', 1).arg(order_.Width).arg(order_.Height));
+                         : QString("%1 s, %2 x %3").arg(seconds, 0, 'f', 1).arg(order_.Width).arg(order_.Height));
     if (order_.Makes == ClipOrder::Kind::Gif && plan_.EndMs > kLongestLoopMs)
       fault_->setText(tr("A loop lasts half a minute at the most."));
     Preview();

@@ -6,6 +6,9 @@
 #include <QProgressBar>
 #include <utility>
 
+#include <fmt/format.h>
+
+#include "platform/files/Tr.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Figures.h"
 #include "platform/widgets/Panel.h"
@@ -173,7 +176,7 @@ void BurnForm::Timer1_Timer() {
 }
 
 void BurnForm::Timer2_Timer() {
-  state_->setText(StateText(board_->State()));
+  state_->setText(Q(Tr(StateText(board_->State()))));
   setWindowTitle(caption_.arg(state_->text()));
 }
 
@@ -198,7 +201,7 @@ void BurnForm::ShowEnd(const QString& words, bool well) {
 void BurnForm::BurnOver(const DiscJob* job) {
   if (!job) return ShowEnd(tr("The drive does not answer. It was left to itself."), false);
   if (job->How()) return ShowEnd(tr("Burn Completed Successfully!"), true);
-  host_.Note(MessageKind::Warning, "A disc was not burnt: " + job->How().Why());
+  host_.Note(MessageKind::Warning, fmt::format("A disc was not burnt: {}", job->How().Why()));
   if (job->How().Kind() != Fault::Cancelled) return ShowEnd(tr("Burn Failed"), false);
   ShowEnd(job->Written() ? Q(job->How().Why()) : tr("Burn Cancelled"), job->Written());
 }
@@ -217,7 +220,7 @@ void BurnForm::CopyOver(const FolderJob* job) {
     return ShowEnd(tr("Nothing was copied."), false);
   }
   if (job->How().Kind() == Fault::Cancelled) return ShowEnd(tr("Copy Cancelled"), false);
-  host_.Note(MessageKind::Warning, "A disc's files were not copied: " + job->How().Why());
+  host_.Note(MessageKind::Warning, fmt::format("A disc's files were not copied: {}", job->How().Why()));
   ShowEnd(tr("Copy Failed"), false);
 }
 

@@ -12,6 +12,7 @@
 #include "distribution/disc/forms/BurnForm.h"
 #include "distribution/send/FilesToSend.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/host/DriveWatch.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Figures.h"
@@ -214,7 +215,7 @@ BurnForm& DiscPanel::Form() {
       desk_.Look();
     });
     connect(form_, &BurnForm::FolderWanted, this, [this](const QString& folder) {
-      if (!host_.ShowFolder(Std(folder))) host_.Message(MessageKind::Information, "", "It lies in " + Std(folder));
+      if (!host_.ShowFolder(Std(folder))) host_.Message(MessageKind::Information, "", Tr("It lies in {}", Std(folder)));
     });
   }
   return *form_;

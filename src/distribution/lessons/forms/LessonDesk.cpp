@@ -16,6 +16,7 @@
 #include "distribution/lessons/forms/SaveLessonForm.h"
 #include "distribution/lessons/forms/StudentChoice.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Text.h"
 
@@ -142,7 +143,7 @@ void LessonDesk::MakeOffer() {
     ShowOffer();
   });
   connect(away, &QPushButton::clicked, this, [this] {
-    if (!parts_.host.Question("", "Do you want to throw the unfinished lesson away?")) return;
+    if (!parts_.host.Question("", Tr("Do you want to throw the unfinished lesson away?"))) return;
     const RecordedLesson lesson = left_.front();
     left_.erase(left_.begin());
     session_.DropLeft(lesson);
@@ -163,7 +164,8 @@ void LessonDesk::ShowOffer() {
   const RecordedLesson& lesson = left_.front();
   const QDateTime written = QDateTime::fromSecsSinceEpoch(lesson.written);
   const int seconds = static_cast<int>(std::lround(lesson.facts.seconds));
-  const QString when = QLocale().toString(written, written.date() == QDate::currentDate() ? "HH:mm" : "d MMM, HH:mm");
+  const QString when =
+      QLocale().toString(written, written.date() == QDate::currentDate() ? QString("HH:mm") : tr("d MMM, HH:mm"));
   const QString whose = lesson.student.empty() ? QString() : Q(lesson.student) + ", ";
   offerWords_->setText(tr("A lesson was broken off: %1%2:%3 minutes, %4")
                            .arg(whose)

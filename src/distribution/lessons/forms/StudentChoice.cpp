@@ -3,12 +3,15 @@
 #include <QBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
+#include <QShowEvent>
 #include <algorithm>
 #include <utility>
 
 #include "core/Vocabulary.h"
 #include "library/Profile.h"
 #include "library/forms/LibraryLists.h"
+#include "platform/files/Tr.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
@@ -143,8 +146,8 @@ StudentPick StudentChoice::Pick() const { return {browser_.Instructor(), browser
 
 RecorderSelectForm::RecorderSelectForm(IHost& host, const Settings& settings, const ProfileFields& fields,
                                        const StudentPick& chosen, QWidget* over)
-    : StudentChoice("RecorderSelectForm", Q(Vocabulary(settings).Select()) + tr(" to Record"), host, settings, chosen,
-                    over),
+    : StudentChoice("RecorderSelectForm", tr("%1 to Record").arg(Q(Vocabulary(settings).Select())), host, settings,
+                    chosen, over),
       fields_(fields) {
   auto* row = new QHBoxLayout;
   address_ = MakeLabel("EmailLbl", {}, "muted", this);
@@ -171,7 +174,7 @@ void RecorderSelectForm::AddAddress() {
   const auto field = std::ranges::find(fields_.Captions(), kAddressField);
   if (field == fields_.Captions().end()) {
     Host().Message(MessageKind::Information, "",
-                   "The profiles have no field \"E-Mail Address\". Program Setup has them.");
+                   Tr("The profiles have no field \"E-Mail Address\". Program Setup has them."));
     return;
   }
   const std::string folder = Browser().Folder();
@@ -183,7 +186,7 @@ void RecorderSelectForm::AddAddress() {
   FieldTexts values = base;
   values[static_cast<std::size_t>(field - fields_.Captions().begin())] = Std(form.Name());
   if (!SaveProfile(folder, fields_, values, base))
-    Host().Message(MessageKind::Warning, "", "The address could not be stored.");
+    Host().Message(MessageKind::Warning, "", Tr("The address could not be stored."));
   ChoiceChanged();
 }
 

@@ -13,6 +13,7 @@
 #include <QShowEvent>
 #include <utility>
 
+#include "platform/files/Tr.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
@@ -50,17 +51,21 @@ struct Service {
 };
 
 constexpr Service kServices[] = {
-    {"Other", "", 0, false, "The server, the port and the way of encryption are told by who keeps your mailbox."},
+    {TrLater("Other"), "", 0, false,
+     TrLater("The server, the port and the way of encryption are told by who keeps your mailbox.")},
     {"Yahoo", "smtp.mail.yahoo.com", 465, true,
-     "Yahoo takes no password of the account here but an app password: a long one for this program alone. Your Yahoo "
-     "account makes it under Security, Generate app password."},
+     TrLater("Yahoo takes no password of the account here but an app password: a long one for this program alone. Your "
+             "Yahoo "
+             "account makes it under Security, Generate app password.")},
     {"GMail", "smtp.gmail.com", 465, true,
-     "Google takes no password of the account here but an app password: a long one for this program alone. Switch on "
-     "2-Step Verification, then make one at myaccount.google.com/apppasswords."},
+     TrLater("Google takes no password of the account here but an app password: a long one for this program alone. "
+             "Switch on "
+             "2-Step Verification, then make one at myaccount.google.com/apppasswords.")},
     {"HotMail", "smtp-mail.outlook.com", 587, false,
-     "Microsoft lets no other program send from Hotmail and Outlook.com with a password any more. Choose another "
-     "service, "
-     "or Other with the mailbox of your club."},
+     TrLater(
+         "Microsoft lets no other program send from Hotmail and Outlook.com with a password any more. Choose another "
+         "service, "
+         "or Other with the mailbox of your club.")},
 };
 
 /// Shows a text without moving the cursor of somebody who is typing the same. What stands for nothing is shown as such.
@@ -90,7 +95,7 @@ void InternetSection::AddMail() {
   services->setSpacing(6);
   optMailService_ = new QButtonGroup(this);
   for (int index = 0; const Service& service : kServices) {
-    auto* radio = new QRadioButton(service.caption);
+    auto* radio = new QRadioButton(tr(service.caption));
     radio->setObjectName(QString("optMailService%1").arg(index));
     optMailService_->addButton(radio, index);
     services->addWidget(radio, index / 2, index % 2);
@@ -129,10 +134,10 @@ void InternetSection::AddServer(QVBoxLayout& rows) {
   both->addLayout(server, 1);
   both->addLayout(port);
   rows.addLayout(both);
-  const char* const captions[] = {"Encrypted after the greeting (TLS)", "Encrypted from the start (SSL)",
-                                  "The server asks for a login"};
+  const char* const captions[] = {TrLater("Encrypted after the greeting (TLS)"),
+                                  TrLater("Encrypted from the start (SSL)"), TrLater("The server asks for a login")};
   for (int index = kTls; index <= kLoginWanted; ++index) {
-    auto* box = new QCheckBox(captions[index]);
+    auto* box = new QCheckBox(tr(captions[index]));
     box->setObjectName(QString("ckEmail%1").arg(index));
     connect(box, &QCheckBox::clicked, this, [this, index] { ckEmail_Click(index); });
     ckEmail_[static_cast<std::size_t>(index)] = box;
@@ -284,7 +289,7 @@ void InternetSection::ShowService() {
   for (QWidget* box : {static_cast<QWidget*>(txtEmail_[kLogin]), static_cast<QWidget*>(txtEmail_[kPassword]),
                        static_cast<QWidget*>(passwordEye_)})
     box->setEnabled(mail_.LoginRequired);
-  QString hint = kServices[mail_.EmailLock].hint;
+  QString hint = tr(kServices[mail_.EmailLock].hint);
   if (mail_.LoginRequired && !mail_.UseTLS && !mail_.UseSSL)
     hint += ' ' + tr("Without encryption anybody on the way can read your password.");
   serviceHint_->setText(hint);
@@ -345,7 +350,7 @@ void InternetSection::WebIn_Change(int index) {
 void InternetSection::FTPCombo_Click() {
   if (settings_.Loading) return;
   Wrote(mail_.Set(&MailSettings::NextFTPMode, FTPCombo_->currentIndex()));
-  host_.Message(MessageKind::Information, "", "You must restart Kinalyx for this change to take effect.");
+  host_.Message(MessageKind::Information, "", Tr("You must restart Kinalyx for this change to take effect."));
 }
 
 /// What a test has found holds no longer once something is changed.
@@ -361,9 +366,10 @@ void InternetSection::btnFTPISPSetup_Click(int index) {
     ShowTests();
     return;
   }
-  if (!host_.Question("Reset to Default?",
-                      "This will reset your ftp settings to the test site. None comes with Kinalyx: the addresses, the "
-                      "login and the password are emptied.\n\nDo you want to continue?"))
+  if (!host_.Question(
+          Tr("Reset to Default?"),
+          Tr("This will reset your ftp settings to the test site. None comes with Kinalyx: the addresses, the "
+             "login and the password are emptied.\n\nDo you want to continue?")))
     return;
   WebIn_[kWebAddress]->clear();
   WebIn_[kFtpAddress]->clear();

@@ -11,6 +11,7 @@
 
 #include "distribution/mail/forms/EmailListForm.h"
 #include "distribution/mail/forms/MailPicture.h"
+#include "platform/files/Tr.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
@@ -72,7 +73,7 @@ QWidget* MailForm::MakePictures() {
   bar->setSpacing(8);
   SSCommand1_[kPrevious] = IconButton("SSCommand1_0", "chevron-left", tr("Previous picture"), Look::Quiet);
   SSCommand1_[kNext] = IconButton("SSCommand1_1", "chevron-right", tr("Next picture"), Look::Quiet);
-  count_ = MakeLabel("MailCountLbl", "Picture 0 of 0");
+  count_ = MakeLabel("MailCountLbl", tr("Picture 0 of 0"));
   bytes_ = MakeLabel("MailBytesLbl", {}, "muted");
   EmailBtn_[kDelete] = new Button("EmailBtn2", tr("Delete Picture"), "trash", Look::Quiet);
   EmailBtn_[kClear] = new Button("EmailBtn3", tr("Delete All and Close"), {}, Look::Quiet);
@@ -183,7 +184,7 @@ void MailForm::ShowPicture() {
   const int count = static_cast<int>(pictures.size());
   shown_ = std::clamp(shown_, 0, std::max(0, count - 1));
   picture_->ShowFile(count ? pictures[static_cast<std::size_t>(shown_)] : std::string());
-  count_->setText(QString("Picture %1 of %2").arg(count ? shown_ + 1 : 0).arg(count));
+  count_->setText(tr("Picture %1 of %2").arg(count ? shown_ + 1 : 0).arg(count));
   bytes_->setText(count ? tr("%1 MB in all").arg(static_cast<double>(desk_.Queue().Bytes()) / kMegabyte, 0, 'f', 1)
                         : QString());
   ShowState();
@@ -199,8 +200,9 @@ void MailForm::DeletePicture() {
 
 void MailForm::ClearEmailQueue() {
   const int count = desk_.Queue().Count();
-  const std::string what = count == 1 ? "the picture" : "all " + std::to_string(count) + " pictures";
-  if (count && !host_.Question("", "Do you want to delete " + what + " without sending?")) return;
+  const std::string question = count == 1 ? Tr("Do you want to delete the picture without sending?")
+                                          : Tr("Do you want to delete all {} pictures without sending?", count);
+  if (count && !host_.Question("", question)) return;
   const Outcome cleared = desk_.Queue().ClearEmailQueue();
   if (cleared) return done(QDialog::Rejected);
   host_.Message(MessageKind::Warning, "", cleared.Why());

@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QLineEdit>
 
+#include "platform/files/Tr.h"
 #include "platform/widgets/Scale.h"
 #include "platform/widgets/Text.h"
 
@@ -17,9 +18,9 @@ struct ServerBox {
   MailSettings::Text text;
 };
 constexpr ServerBox kBoxes[] = {
-    {"ModelServer", "Server for model videos", "ftp.example.com", &MailSettings::ModelServer},
-    {"ModelLogin", "Login", "Empty: as a guest", &MailSettings::ModelLogin},
-    {"ModelPassword", "Password", "", &MailSettings::ModelPassword},
+    {"ModelServer", TrLater("Server for model videos"), "ftp.example.com", &MailSettings::ModelServer},
+    {"ModelLogin", TrLater("Login"), TrLater("Empty: as a guest"), &MailSettings::ModelLogin},
+    {"ModelPassword", TrLater("Password"), "", &MailSettings::ModelPassword},
 };
 constexpr int kLongest = 512;
 

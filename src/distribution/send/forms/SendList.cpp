@@ -9,6 +9,7 @@
 #include "library/VideoStats.h"
 #include "platform/files/Folders.h"
 #include "platform/files/TextEncoding.h"
+#include "platform/files/Tr.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/FileDrop.h"
 #include "platform/widgets/NameList.h"
@@ -46,15 +47,16 @@ void SendList::Add(const std::vector<Offer>& offers) {
   const std::size_t before = files_.Files().size();
   std::string words;
   for (const Offer& offer : offers) {
-    if (!drives_.Answers(FolderOf(offer.path), offer.path)) words = "The drive with this file is not answering.";
+    if (!drives_.Answers(FolderOf(offer.path), offer.path)) words = Tr("The drive with this file is not answering.");
     else words = files_.Add(offer.path, offer.lesson);
   }
   const std::size_t added = files_.Files().size() - before;
   Show();
   if (added > 0) LessonList_->setCurrentRow(LessonList_->count() - 1);
   if (offers.size() > 1)
-    words = std::to_string(added) + " of " + std::to_string(offers.size()) + " files added to the Files to Send list" +
-            (added < offers.size() ? "; the others are in it already." : ".");
+    words = added < offers.size() ? Tr("{} of {} files added to the Files to Send list; the others are in it already.",
+                                       added, offers.size())
+                                  : Tr("{} of {} files added to the Files to Send list.", added, offers.size());
   emit Said(Q(words));
   if (added > 0) emit Changed();
 }

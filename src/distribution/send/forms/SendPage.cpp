@@ -16,6 +16,7 @@
 #include "library/forms/StatusLine.h"
 #include "library/forms/VideoRows.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Tr.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/NameList.h"
 #include "platform/widgets/Panel.h"
@@ -33,15 +34,17 @@ struct Way {
   const char* icon;
   const char* tip;
 };
-constexpr Way kWays[] = {{"E-mail", "send", "Each file goes in a mail of its own"},
-                         {"Web page", "network", "A page that plays on telephones, and its link by mail"},
-                         {"CD or stick", "disc", "A disc, folder or stick that plays on any computer"}};
+constexpr Way kWays[] = {
+    {TrLater("E-mail"), "send", TrLater("Each file goes in a mail of its own")},
+    {TrLater("Web page"), "network", TrLater("A page that plays on telephones, and its link by mail")},
+    {TrLater("CD or stick"), "disc", TrLater("A disc, folder or stick that plays on any computer")}};
 
 const char* WordsOf(SendMode mode) {
   if (mode == SendMode::Web)
-    return "The files are converted and uploaded to your web space; what the page shows already stays. Its link "
-           "goes to these addresses:";
-  return "The files are converted, and each goes in a mail of its own to these addresses:";
+    return TrLater(
+        "The files are converted and uploaded to your web space; what the page shows already stays. Its link "
+        "goes to these addresses:");
+  return TrLater("The files are converted, and each goes in a mail of its own to these addresses:");
 }
 
 }  // namespace
@@ -91,7 +94,7 @@ QLayout* SendPage::MakeChoice() {
   column->setSpacing(kGap);
   auto* instructors = new Panel("SendInstructorsTitle", tr("Instructors"));
   instructors->Body()->addWidget(lists_->InstructorList());
-  students_ = new Panel("SendStudentsTitle", "Students");
+  students_ = new Panel("SendStudentsTitle", tr("Students"));
   students_->Body()->addWidget(lists_->StudentList());
   column->addWidget(instructors, 2);
   column->addWidget(students_, 3);

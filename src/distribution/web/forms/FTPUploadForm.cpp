@@ -6,6 +6,7 @@
 #include <QProgressBar>
 #include <utility>
 
+#include "platform/files/Tr.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
@@ -52,7 +53,7 @@ FTPUploadForm::FTPUploadForm(IHost& host, std::shared_ptr<ISendServers> servers,
   auto* actions = new QHBoxLayout;
   close_ = new Button("FTPClose", tr("Close"), {}, Look::Quiet, this);
   close_->setAutoDefault(false);
-  FTPGObtn_ = new Button("FTPGObtn", ButtonOf(SendPhase::Ready), {}, Look::Filled, this);
+  FTPGObtn_ = new Button("FTPGObtn", Q(Tr(ButtonOf(SendPhase::Ready))), {}, Look::Filled, this);
   FTPGObtn_->setDefault(true);
   actions->addStretch(1);
   actions->addWidget(close_);
@@ -88,14 +89,14 @@ void FTPUploadForm::Open(SendOrder order) {
       return host_.Message(MessageKind::Information, "", taken.Why());
     const SendOrder& what = session_.Order();
     const SendWords words = WordsOf(what.mode);
-    title_->setText(Q(words.title));
-    setWindowTitle(Q(words.title));
+    title_->setText(Q(Tr(words.title)));
+    setWindowTitle(Q(Tr(words.title)));
     QStringList readers;
     for (const std::string& address : what.addresses) readers << Q(address);
     const auto count = what.files.size();
-    whose_->setText(tr(count == 1 ? "%1 file for %2, to %3" : "%1 files for %2, to %3")
+    whose_->setText((count == 1 ? tr("%1 file for %2, to %3") : tr("%1 files for %2, to %3"))
                         .arg(QString::number(count), Q(what.student), readers.join(", ")));
-    for (std::size_t i = 0; i < steps_.size(); ++i) steps_[i]->setText(Q(words.steps[i]));
+    for (std::size_t i = 0; i < steps_.size(); ++i) steps_[i]->setText(Q(Tr(words.steps[i])));
     SendChanged();
     if (parentWidget()) ScaleForm(*this, *parentWidget()->window());
   }
@@ -124,7 +125,7 @@ void FTPUploadForm::SendChanged() {
   const QString comfort = begun ? tr("What has been converted and sent already is not done again.") : QString();
   detail_->setText(failed ? comfort : Q(news.detail));
   if (std::exchange(shownPhase_, static_cast<int>(phase)) == static_cast<int>(phase)) return;
-  FTPGObtn_->setText(ButtonOf(phase));
+  FTPGObtn_->setText(Q(Tr(ButtonOf(phase))));
   FTPGObtn_->setEnabled(phase != SendPhase::Cancelling);
   close_->setVisible(phase == SendPhase::Ready || failed);
   if (!isVisible()) return;
@@ -142,7 +143,7 @@ void FTPUploadForm::GiveUp() { SendLeaves(); }
 
 void FTPUploadForm::reject() {
   if (session_.Phase() == SendPhase::Running) {
-    if (host_.Question(Std(windowTitle()), "The videos are still being sent. Do you want to cancel that?") &&
+    if (host_.Question(Std(windowTitle()), Tr("The videos are still being sent. Do you want to cancel that?")) &&
         session_.Phase() == SendPhase::Running)
       session_.Press();
     return;
