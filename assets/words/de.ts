@@ -3667,7 +3667,7 @@ Schließen Sie den Camcorder an und schalten Sie ihn ein, ehe Sie das Programm s
     </message>
     <message>
         <source>Move Heading</source>
-        <translation>Überschrift verschieben</translation>
+        <translation>Titel verschieben</translation>
     </message>
     <message>
         <source>Move the current video to a different instructor or database.</source>
@@ -6744,6 +6744,10 @@ Sobald es antwortet, geht das Programm weiter.</translation>
     <message>
         <source>The screen cannot be opened.</source>
         <translation>Der Bildschirm lässt sich nicht öffnen.</translation>
+    </message>
+    <message>
+        <source>The screen cannot be recorded here: Kinalyx runs on no desktop that could show it.</source>
+        <translation>Der Bildschirm kann hier nicht aufgenommen werden: Kinalyx läuft auf keinem Desktop, der ihn zeigen könnte.</translation>
     </message>
     <message>
         <source>The screen does not answer.</source>

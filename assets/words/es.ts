@@ -713,7 +713,7 @@ y {} más</translation>
     </message>
     <message>
         <source>Add an instructor or database to the library</source>
-        <translation>Añadir un instructor o base de datos a la videoteca</translation>
+        <translation>Añadir un monitor o base de datos a la videoteca</translation>
     </message>
     <message>
         <source>Add new {} to the library.</source>
@@ -721,11 +721,11 @@ y {} más</translation>
     </message>
     <message>
         <source>Add the first instructor beneath the list on the left.</source>
-        <translation>Añada el primer instructor debajo de la lista de la izquierda.</translation>
+        <translation>Añada el primer monitor debajo de la lista de la izquierda.</translation>
     </message>
     <message>
         <source>Add the first instructor on the page {}.</source>
-        <translation>Añada el primer instructor en la página {}.</translation>
+        <translation>Añada el primer monitor en la página {}.</translation>
     </message>
     <message>
         <source>Address</source>
@@ -1409,7 +1409,7 @@ y {} más</translation>
     </message>
     <message>
         <source>Choose an instructor to see the {}.</source>
-        <translation>Elija un instructor para ver la lista ({}).</translation>
+        <translation>Elija un monitor para ver la lista ({}).</translation>
     </message>
     <message>
         <source>Choose any folder</source>
@@ -1885,7 +1885,7 @@ y {} más</translation>
     </message>
     <message>
         <source>Delete Instructor or Database</source>
-        <translation>Eliminar instructor o base de datos</translation>
+        <translation>Eliminar monitor o base de datos</translation>
     </message>
     <message>
         <source>Delete Last Object Drawn</source>
@@ -1905,7 +1905,7 @@ y {} más</translation>
     </message>
     <message>
         <source>Delete the current instructor or database, which must be empty</source>
-        <translation>Eliminar el instructor o base de datos actual, que debe estar vacío</translation>
+        <translation>Eliminar el monitor o base de datos actual, que debe estar vacío</translation>
     </message>
     <message>
         <source>Delete the current video.</source>
@@ -2611,7 +2611,7 @@ Conecte la videocámara y enciéndala antes de abrir el programa. Graba 60 imág
     </message>
     <message>
         <source>First select an Instructor or Database from the list below. Then, fill out the New {} information and choose "Save".</source>
-        <translation>Elija primero un instructor o una base de datos de la lista. Rellene luego los datos ({}) y elija "Guardar".</translation>
+        <translation>Elija primero un monitor o una base de datos de la lista. Rellene luego los datos ({}) y elija "Guardar".</translation>
     </message>
     <message>
         <source>Fit Picture in Window</source>
@@ -2995,15 +2995,15 @@ Conecte la videocámara y enciéndala antes de abrir el programa. Graba 60 imág
     </message>
     <message>
         <source>Instructor or Database</source>
-        <translation>Instructor o base de datos</translation>
+        <translation>Monitor o base de datos</translation>
     </message>
     <message>
         <source>Instructor or database</source>
-        <translation>Instructor o base de datos</translation>
+        <translation>Monitor o base de datos</translation>
     </message>
     <message>
         <source>Instructors</source>
-        <translation>Instructores</translation>
+        <translation>Monitores</translation>
     </message>
     <message>
         <source>Internet</source>
@@ -3655,7 +3655,7 @@ Conecte la videocámara y enciéndala antes de abrir el programa. Graba 60 imág
     </message>
     <message>
         <source>Motion analysis for sports instructors.</source>
-        <translation>Análisis de movimiento para instructores.</translation>
+        <translation>Análisis de movimiento para monitores.</translation>
     </message>
     <message>
         <source>Move</source>
@@ -3671,15 +3671,15 @@ Conecte la videocámara y enciéndala antes de abrir el programa. Graba 60 imág
     </message>
     <message>
         <source>Move the current video to a different instructor or database.</source>
-        <translation>Mover este vídeo a otro instructor o base de datos.</translation>
+        <translation>Mover este vídeo a otro monitor o base de datos.</translation>
     </message>
     <message>
         <source>Move the current {} to another database or instructor.</source>
-        <translation>Mover {} a otro instructor o base de datos.</translation>
+        <translation>Mover {} a otro monitor o base de datos.</translation>
     </message>
     <message>
         <source>Move the {} selected videos to a different instructor or database.</source>
-        <translation>Mover los {} vídeos elegidos a otro instructor o base de datos.</translation>
+        <translation>Mover los {} vídeos elegidos a otro monitor o base de datos.</translation>
     </message>
     <message>
         <source>Move these {} videos</source>
@@ -3743,7 +3743,7 @@ Conecte la videocámara y enciéndala antes de abrir el programa. Graba 60 imág
     </message>
     <message>
         <source>Name of the new instructor or database</source>
-        <translation>Nombre del nuevo instructor o base de datos</translation>
+        <translation>Nombre del nuevo monitor o base de datos</translation>
     </message>
     <message>
         <source>Name of the next video</source>
@@ -3907,7 +3907,7 @@ Conecte la videocámara y enciéndala antes de abrir el programa. Graba 60 imág
     </message>
     <message>
         <source>No instructors or databases here.</source>
-        <translation>Aquí no hay instructores ni bases de datos.</translation>
+        <translation>Aquí no hay monitores ni bases de datos.</translation>
     </message>
     <message>
         <source>No lessons yet. Record Lesson in the analysis section makes one.</source>
@@ -4857,7 +4857,7 @@ Conecte la videocámara y enciéndala antes de abrir el programa. Graba 60 imág
     </message>
     <message>
         <source>Rename Instructor or Database</source>
-        <translation>Renombrar instructor o base de datos</translation>
+        <translation>Renombrar monitor o base de datos</translation>
     </message>
     <message>
         <source>Rename Video</source>
@@ -4869,7 +4869,7 @@ Conecte la videocámara y enciéndala antes de abrir el programa. Graba 60 imág
     </message>
     <message>
         <source>Rename the current instructor or database</source>
-        <translation>Renombrar el instructor o base de datos actual</translation>
+        <translation>Renombrar el monitor o base de datos actual</translation>
     </message>
     <message>
         <source>Rename the current video.</source>
@@ -5145,11 +5145,11 @@ Conecte la videocámara y enciéndala antes de abrir el programa. Graba 60 imág
     </message>
     <message>
         <source>Select an Instructor or Database</source>
-        <translation>Elija instructor o base de datos</translation>
+        <translation>Elija monitor o base de datos</translation>
     </message>
     <message>
         <source>Select an instructor, a %1 and the videos on one side, then choose Export or Import. Each video takes its drawings and notes along, and a %1 who is new on the other side brings the profile. Videos from a plain folder, shown under General Folder, come to the %1 chosen in this library.</source>
-        <translation>Elija en un lado instructor, %1 y vídeos, y luego Exportar o Importar. Cada vídeo lleva sus dibujos y notas, y quien es nuevo en el otro lado (%1) trae el perfil. Los vídeos de una carpeta simple, mostrados en General Folder, van a lo elegido en esta videoteca (%1).</translation>
+        <translation>Elija en un lado monitor, %1 y vídeos, y luego Exportar o Importar. Cada vídeo lleva sus dibujos y notas, y quien es nuevo en el otro lado (%1) trae el perfil. Los vídeos de una carpeta simple, mostrados en General Folder, van a lo elegido en esta videoteca (%1).</translation>
     </message>
     <message>
         <source>Select the %1 name. This will allow the program to automatically add the %1 email address.</source>
@@ -5479,7 +5479,7 @@ Conecte la videocámara y enciéndala antes de abrir el programa. Graba 60 imág
     </message>
     <message>
         <source>Slow Motion, Sound, Strobe and Grid</source>
-        <translation>Cámara lenta, sonido, estroboscopio y cuadrícula</translation>
+        <translation>Cámara lenta, sonido, estrobo y cuadrícula</translation>
     </message>
     <message>
         <source>Slow motion (S)</source>
@@ -6746,6 +6746,10 @@ En cuanto responda, el programa sigue.</translation>
         <translation>No se puede abrir la pantalla.</translation>
     </message>
     <message>
+        <source>The screen cannot be recorded here: Kinalyx runs on no desktop that could show it.</source>
+        <translation>Aquí no se puede grabar la pantalla: Kinalyx no está en un escritorio que pueda mostrarla.</translation>
+    </message>
+    <message>
         <source>The screen does not answer.</source>
         <translation>La pantalla no responde.</translation>
     </message>
@@ -7103,7 +7107,7 @@ En cuanto responda, el programa sigue.</translation>
     </message>
     <message>
         <source>There is already an Instructor or Database with this name.</source>
-        <translation>Ya hay un instructor o una base de datos con ese nombre.</translation>
+        <translation>Ya hay un monitor o una base de datos con ese nombre.</translation>
     </message>
     <message>
         <source>There is no disc in the drive.</source>
@@ -8155,7 +8159,7 @@ Un teléfono en un trípode que muestra su imagen en la red también es una cám
     </message>
     <message>
         <source>You must select an Instructor or Database first.</source>
-        <translation>Primero debe elegir un instructor o una base de datos.</translation>
+        <translation>Primero debe elegir un monitor o una base de datos.</translation>
     </message>
     <message>
         <source>You must type a name!</source>

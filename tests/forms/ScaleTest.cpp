@@ -11,8 +11,10 @@
 #include "core/ColorSchemes.h"
 #include "core/MailSettings.h"
 #include "core/ResizeControls.h"
+#include "core/Vocabulary.h"
 #include "core/forms/FirstForm.h"
 #include "core/forms/SetupPage.h"
+#include "platform/files/Languages.h"
 #include "platform/widgets/Theme.h"
 #include "support/TempFolder.h"
 
@@ -81,6 +83,14 @@ void AtEverySize(QWidget& page, QSize beside, Look look) {
   }
 }
 
+/// For as long as it lives the forms that are made speak a language.
+struct Speaks {
+  explicit Speaks(const char* code) { SpeakLanguage(Application(), KINALYX_COMPILED_WORDS, code); }
+  ~Speaks() { SpeakLanguage(Application(), KINALYX_COMPILED_WORDS, "en"); }
+  Speaks(const Speaks&) = delete;
+  Speaks& operator=(const Speaks&) = delete;
+};
+
 TEST(Scale, LengthsInSheetsGrowWithTheText) {
   Dressed dressed({1920, 1080});
   EXPECT_EQ(TextPixels(), 15);
@@ -125,21 +135,25 @@ TEST(Scale, FormsThatStandTakeTheSizesOfTheMainWindowAndGiveThemBack) {
   EXPECT_EQ(look(), small);
 }
 
-TEST(Scale, NothingOfTheSetupPageIsClipped) {
+TEST(Scale, NothingOfTheSetupPageIsClippedInAnyLanguage) {
   TempFolder folder;
   TestHost host;
   Settings settings(host, folder.Path("data"), folder.Path("program"));
   settings.LoadSettings();
   ColorSchemes schemes;
-  SetupPage page(host, settings, schemes);
-  page.show();
-  AtEverySize(page, {132, 36}, [&] {
-    for (const int section : {SetupPage::kMainMenu, SetupPage::kAnalysis, SetupPage::kGeneral}) {
-      page.PSCmd_Click(section);
-      QTest::qWait(0);
-      EXPECT_EQ(Clipped(page), "");
-    }
-  });
+  for (const char* language : {"en", "de", "es"}) {
+    SCOPED_TRACE(language);
+    const Speaks speaks(language);
+    SetupPage page(host, settings, schemes);
+    page.show();
+    AtEverySize(page, {132, 36}, [&] {
+      for (const int section : {SetupPage::kMainMenu, SetupPage::kAnalysis, SetupPage::kGeneral}) {
+        page.PSCmd_Click(section);
+        QTest::qWait(0);
+        EXPECT_EQ(Clipped(page), "");
+      }
+    });
+  }
 }
 
 using ScaledProfiles = ProfilesStage;
@@ -148,6 +162,49 @@ TEST_F(ScaledProfiles, NothingIsClipped) {
   Choose("InstructorList", "Demo");
   Choose("StudentList", "Sample, Erica");
   AtEverySize(*page, {132, 36}, [&] { EXPECT_EQ(Clipped(*page), ""); });
+}
+
+struct SpeaksGerman : Speaks {
+  SpeaksGerman() : Speaks("de") {}
+};
+struct SpeaksSpanish : Speaks {
+  SpeaksSpanish() : Speaks("es") {}
+};
+class GermanProfiles : SpeaksGerman, public ProfilesStage {};
+class SpanishProfiles : SpeaksSpanish, public ProfilesStage {};
+class GermanAnalysis : SpeaksGerman, public AnalysisFormFixture {};
+class SpanishAnalysis : SpeaksSpanish, public AnalysisFormFixture {};
+
+TEST_F(GermanProfiles, NothingIsClippedAndTheWordForAPersonIsGerman) {
+  EXPECT_EQ(page->findChild<QLabel*>("StudentsTitle")->text(), "Schüler");
+  Choose("InstructorList", "Demo");
+  Choose("StudentList", "Sample, Erica");
+  AtEverySize(*page, {132, 36}, [&] { EXPECT_EQ(Clipped(*page), ""); });
+  SetPrimaryName(library.settings, "Schüler");
+  EXPECT_EQ(library.settings.PrimaryName[0], "Student") << "the shown word typed again is no other word";
+  SetPrimaryName(library.settings, "Patient");
+  const Vocabulary words(library.settings);
+  EXPECT_EQ(words.nouns(), "Patienten");
+  EXPECT_EQ(words.AddNew(), "Patient hinzufügen");
+  EXPECT_EQ(library.settings.PrimaryName[2], "patients") << "stored as ever";
+}
+
+TEST_F(SpanishProfiles, NothingIsClipped) {
+  Choose("InstructorList", "Demo");
+  Choose("StudentList", "Sample, Erica");
+  AtEverySize(*page, {132, 36}, [&] { EXPECT_EQ(Clipped(*page), ""); });
+}
+
+TEST_F(GermanAnalysis, NothingIsClipped) {
+  Send("a.avi");
+  for (const char* card : {"TVT", "TCal", "TZP", "TASF", "TAGrid", "AddMacro"}) form->Section().Commands().Run(card);
+  AtEverySize(*form, {0, 36}, [&] { EXPECT_EQ(Clipped(*form), ""); });
+}
+
+TEST_F(SpanishAnalysis, NothingIsClipped) {
+  Send("a.avi");
+  for (const char* card : {"TVT", "TCal", "TZP", "TASF", "TAGrid", "AddMacro"}) form->Section().Commands().Run(card);
+  AtEverySize(*form, {0, 36}, [&] { EXPECT_EQ(Clipped(*form), ""); });
 }
 
 using ScaledAnalysis = AnalysisFormFixture;

@@ -169,7 +169,7 @@ void GeneralSection::AddSystemTest() {
 void GeneralSection::SetupProgram() {
   ShowText(name_, settings_.UserName);
   ShowText(company_, settings_.CompanyName);
-  ShowText(noun_, settings_.PrimaryName[0]);
+  ShowText(noun_, Vocabulary(settings_).Noun());
   // A mode that the list does not offer leaves it without a choice.
   resolution_->setCurrentIndex(resolution_->findData(Q(settings_.WindowMode)));
   if (QAbstractButton* design = designs_->button(schemes_.Design())) design->setChecked(true);
@@ -185,7 +185,7 @@ void GeneralSection::Text3_LostFocus() {
   if (settings_.Loading) return;
   const QString text = noun_->text().trimmed();  // the word stands in the middle of sentences
   if (text.isEmpty()) {
-    noun_->setText(Q(settings_.PrimaryName[0]));  // no page could be named without a word
+    noun_->setText(Q(Vocabulary(settings_).Noun()));  // no page could be named without a word
   } else if (SetPrimaryName(settings_, Std(text))) {
     emit VocabularyChanged();
   }

@@ -6,6 +6,7 @@
 #include <thread>
 #include <utility>
 
+#include "platform/files/Tr.h"
 #include "platform/graph/ScreenCast.h"
 #include "platform/graph/ScreenSource.h"
 
@@ -49,8 +50,8 @@ IScreens::Way DesktopScreens::HowToSee() const {
 }
 
 std::string DesktopScreens::WhyNone() const {
-  return kind_ == Kind::Other ? "The screen cannot be recorded here: Kinalyx runs on no desktop that could show it."
-                              : "";
+  return kind_ == Kind::Other ? Tr("The screen cannot be recorded here: Kinalyx runs on no desktop that could show it.")
+                              : std::string();
 }
 
 void DesktopScreens::Open(const ScreenPlace& place, IScreenEvents& events) {

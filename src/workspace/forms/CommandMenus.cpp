@@ -25,7 +25,7 @@ CommandMenus::CommandMenus(const std::vector<Command>& commands, QWidget* parent
     if (!menu && !command.menu.empty()) {
       // A menu within a menu has both names.
       const QString name = QString::fromStdString(Tr(command.menu));
-      QMenu* outer = name.contains('/') ? menus[Std(name.section('/', 0, 0))] : nullptr;
+      QMenu* outer = name.contains('/') ? menus[command.menu.substr(0, command.menu.find('/'))] : nullptr;
       menu = outer ? outer->addMenu(name.section('/', 1)) : addMenu(name);
       menu->setToolTipsVisible(true);
     }

@@ -154,7 +154,7 @@ QLayout* SendPage::MakeSending() {
     modes->addWidget(button, 1);
   }
   column->addLayout(modes);
-  way_ = new Panel("SendWayTitle", TitleOf(SendMode::Email));
+  way_ = new Panel("SendWayTitle", tr(TitleOf(SendMode::Email)));
   addresses_ = MakeAddresses();
   way_->Body()->addWidget(addresses_);
   column->addWidget(way_);
@@ -189,7 +189,7 @@ QWidget* SendPage::MakeAddresses() {
   }
   rows->addLayout(grid);
   auto* actions = new QHBoxLayout;
-  cmdSendtoWeb_ = new Button("cmdSendtoWeb", ButtonOf(SendMode::Email), "send");
+  cmdSendtoWeb_ = new Button("cmdSendtoWeb", tr(ButtonOf(SendMode::Email)), "send");
   actions->addStretch(1);
   actions->addWidget(cmdSendtoWeb_);
   rows->addLayout(actions);
@@ -218,7 +218,7 @@ void SendPage::SSCommand4_Click(int index) {
   mode_ = static_cast<SendMode>(index);
   for (int i = 0; i < 3; ++i) modes_[static_cast<std::size_t>(i)]->setChecked(i == index);
   modes_[static_cast<std::size_t>(SendMode::Disc)]->setVisible(discPanel_ != nullptr);
-  way_->SetTitle(TitleOf(mode_));
+  way_->SetTitle(tr(TitleOf(mode_)));
   const bool disc = mode_ == SendMode::Disc;
   // The smaller way leaves its room to the lists. One goes before the other comes: a narrow window has not room for
   // both.
@@ -227,7 +227,7 @@ void SendPage::SSCommand4_Click(int index) {
   if (!disc) addresses_->show();
   if (disc) return;
   words_->setText(tr(WordsOf(mode_)));
-  cmdSendtoWeb_->setText(ButtonOf(mode_));
+  cmdSendtoWeb_->setText(tr(ButtonOf(mode_)));
   if (txtSendTo_[0]->text().trimmed().isEmpty()) ReadAddress();
 }
 
