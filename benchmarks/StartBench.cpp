@@ -10,7 +10,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <functional>
+#include <memory>
 #include <stdexcept>
 #include <string>
 #include <thread>
@@ -26,6 +26,9 @@
 
 #include "Bench.h"
 #include "BenchStage.h"
+#include "core/Settings.h"
+#include "platform/files/Log.h"
+#include "platform/host/QtHost.h"
 
 namespace kinalyx::bench {
 namespace {
@@ -68,10 +71,10 @@ class Process {
                                    "QT_QPA_PLATFORM=offscreen",
                                    "LANG=C.UTF-8"};
     if (const char* path = std::getenv("PATH")) words.push_back(std::string("PATH=") + path);
-    std::vector<std::string> line_words{program};
-    line_words.insert(line_words.end(), arguments.begin(), arguments.end());
+    std::vector<std::string> commandLine{program};
+    commandLine.insert(commandLine.end(), arguments.begin(), arguments.end());
     const auto begin = Clock::now();
-    if (::posix_spawn(&id_, program.c_str(), nullptr, nullptr, Pointers(line_words).data(), Pointers(words).data()) !=
+    if (::posix_spawn(&id_, program.c_str(), nullptr, nullptr, Pointers(commandLine).data(), Pointers(words).data()) !=
         0)
       throw std::runtime_error("it does not start: " + program);
     pollfd wait{.fd = line, .events = POLLIN, .revents = 0};
@@ -127,20 +130,20 @@ double MedianStart(const std::string& program) {
   return Median(starts);
 }
 
-/// A first start asks who works here; this one has been answered.
-void AnswerFirstForm() {
-  const std::string folder = Home() + "/Documents/Kinalyx";
-  fs::create_directories(folder);
-  std::ofstream(folder + "/config10.ini") << "[Layout]\nCompanyName=Bench\n";
+/// A first start asks who works here; this one has its settings already.
+void MakeSettings() {
+  Log log(Home() + "/bench.log");
+  const std::unique_ptr<IHost> host = MakeQtHost(log);
+  Settings(*host, Home() + "/Documents/Kinalyx", "").LoadSettings();
 }
 
 Figure StartUp() {
-  AnswerFirstForm();
+  MakeSettings();
   return {MedianStart(KINALYX_PROGRAM), "ms", MedianStart(KINALYX_EMPTY_WINDOW)};
 }
 
 Figure IdleCpu() {
-  AnswerFirstForm();
+  MakeSettings();
   const std::string made = StageVideo(300, 60);
   std::vector<std::string> videos;
   for (int slot = 1; slot <= 8; ++slot) {

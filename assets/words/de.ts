@@ -2959,7 +2959,7 @@ Schließen Sie den Camcorder an und schalten Sie ihn ein, ehe Sie das Programm s
     </message>
     <message>
         <source>Importing {} to filename {} in {} seconds.</source>
-        <translation>{} wird in {2} Sekunden importiert, Dateiname {1}.</translation>
+        <translation>{0} wird in {2} Sekunden importiert, Dateiname {1}.</translation>
     </message>
     <message>
         <source>In this video 1 {} is {:.4g} pixels.</source>
