@@ -24,10 +24,10 @@ struct Section {
 };
 
 constexpr Section kSections[] = {
-    {1, TrLater("Student Profiles"), "students"}, {2, TrLater("Capture Videos"), "camera"},
-    {3, TrLater("Analyze Videos"), "analyze"},    {4, TrLater("Send Lesson"), "send"},
-    {5, "Import/Export", "import-export"},        {6, TrLater("Program Setup"), "setup"},
-    {7, TrLater("Help and Demos"), "help"},       {8, TrLater("To Main Menu"), "home"},
+    {1, TrLater("Student Profiles"), "students"},   {2, TrLater("Capture Videos"), "camera"},
+    {3, TrLater("Analyze Videos"), "analyze"},      {4, TrLater("Send Lesson"), "send"},
+    {5, TrLater("Import/Export"), "import-export"}, {6, TrLater("Program Setup"), "setup"},
+    {7, TrLater("Help and Demos"), "help"},         {8, TrLater("To Main Menu"), "home"},
 };
 
 /// Control and the section's number; 0 leads to the main menu.

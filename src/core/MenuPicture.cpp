@@ -21,13 +21,13 @@ bool Choose(IHost& host, Settings& settings, const char* title, const char* fold
   if (!picture) return false;
   const auto shown = host.Drives().Ask(FolderOf(*picture), [isPicture, file = *picture] { return isPicture(file); });
   if (!shown.value_or(false)) {
-    host.Message(MessageKind::Warning, title,
+    host.Message(MessageKind::Warning, Tr(title),
                  shown ? Tr("There is no picture in the file {} that can be shown. The old picture stays.", *picture)
                        : Tr("The drive with the file {} is not answering. The old picture stays.", *picture));
     return false;
   }
   if (!Settings::Holds(*picture)) {
-    host.Message(MessageKind::Warning, title, Settings::TooLongText(*picture));
+    host.Message(MessageKind::Warning, Tr(title), Settings::TooLongText(*picture));
     return false;
   }
   settings.Set(setting, *picture);
