@@ -1,5 +1,10 @@
 #include "core/Vocabulary.h"
 
+#include <algorithm>
+#include <array>
+#include <span>
+#include <string_view>
+
 #include "platform/files/TextEncoding.h"
 #include "platform/files/Tr.h"
 
@@ -9,50 +14,67 @@ namespace {
 
 constexpr const char* kUsualNoun = "Student";
 
-/// The language that is spoken, for the rules by which a word takes its plural.
+/// How a word ends that means one person, and how where it means many.
+struct Ending {
+  std::string_view one;
+  std::string_view many;
+};
+
+// The first that fits counts.
+constexpr Ending kGerman[] = {
+    {"er", "er"},       {"el", "el"},     {"en", "en"},     {"lein", "lein"}, {"in", "innen"},
+    {"ee", "ees"},      {"e", "en"},      {"ent", "enten"}, {"ant", "anten"}, {"ist", "isten"},
+    {"nast", "nasten"}, {"at", "aten"},   {"et", "eten"},   {"ett", "etten"}, {"or", "oren"},
+    {"and", "anden"},   {"ind", "inder"}, {"ied", "ieder"}, {"ung", "ungen"}, {"erson", "ersonen"},
+    {"a", "as"},        {"i", "is"},      {"o", "os"},      {"u", "us"},      {"y", "ys"},
+    {"", "e"},
+};
+constexpr Ending kSpanish[] = {
+    {"z", "ces"},       {"ón", "ones"}, {"án", "anes"}, {"ín", "ines"}, {"és", "eses"},
+    {"oven", "óvenes"}, {"a", "as"},    {"e", "es"},    {"i", "is"},    {"o", "os"},
+    {"u", "us"},        {"á", "ás"},    {"é", "és"},    {"ó", "ós"},    {"", "es"},
+};
+constexpr Ending kEnglish[] = {{"", "s"}};
+
+/// The code of the language that is spoken.
 std::string SpokenLanguage() { return Tr("en"); }
 
-std::string GermanPlural(const std::string& noun) {
-  for (const char* same : {"er", "el", "en", "chen", "lein"})
-    if (noun.ends_with(same)) return noun;
-  if (noun.ends_with("in")) return noun + "nen";
-  if (noun.ends_with('e')) return noun + "n";
-  for (const char* foreign : {"ent", "ant", "ist", "at", "et"})
-    if (noun.ends_with(foreign)) return noun + "en";
-  for (const char* vowel : {"a", "i", "o", "u", "y"})
-    if (noun.ends_with(vowel)) return noun + "s";
-  return noun + "e";
-}
-
-std::string SpanishPlural(const std::string& noun) {
-  if (noun.ends_with('z')) return noun.substr(0, noun.size() - 1) + "ces";
-  for (const char* vowel : {"a", "e", "i", "o", "u", "á", "é", "ó"})
-    if (noun.ends_with(vowel)) return noun + "s";
-  return noun + "es";
+std::string Plural(const std::string& noun, std::span<const Ending> endings) {
+  const auto ending = std::ranges::find_if(endings, [&](const Ending& e) { return noun.ends_with(e.one); });
+  return noun.substr(0, noun.size() - ending->one.size()) + std::string(ending->many);
 }
 
 }  // namespace
 
-bool Vocabulary::IsUsual() const { return settings_.PrimaryName[0] == kUsualNoun; }
+bool Vocabulary::IsUsual() const {
+  return settings_.PrimaryName == std::array<std::string, 3>{kUsualNoun, "student", "students"};
+}
+
+std::array<std::string, 4> Vocabulary::InEnglish() const {
+  const std::array<std::string, 3>& stored = settings_.PrimaryName;
+  return {stored[0], stored[1], stored[2], Plural(stored[0], kEnglish)};
+}
 
 std::string Vocabulary::Noun() const { return IsUsual() ? Tr("Student") : settings_.PrimaryName[0]; }
 
 std::string Vocabulary::noun() const {
   if (IsUsual()) return Tr("student");
   // German writes its nouns with a capital everywhere.
-  return SpokenLanguage() == "de" ? settings_.PrimaryName[0] : settings_.PrimaryName[1];
+  return SpokenLanguage() == "de" ? Capitalized(settings_.PrimaryName[0]) : settings_.PrimaryName[1];
 }
 
 std::string Vocabulary::nouns() const {
   if (IsUsual()) return Tr("students");
   const std::string language = SpokenLanguage();
-  return language == "de" ? GermanPlural(noun()) : language == "es" ? SpanishPlural(noun()) : settings_.PrimaryName[2];
+  if (language == "de") return Plural(noun(), kGerman);
+  return language == "es" ? Plural(noun(), kSpanish) : settings_.PrimaryName[2];
 }
 
 std::string Vocabulary::Nouns() const {
   if (IsUsual()) return Tr("Students");
   const std::string language = SpokenLanguage();
-  return language == "de" ? GermanPlural(Noun()) : language == "es" ? SpanishPlural(Noun()) : Noun() + "s";
+  if (language == "de") return Plural(Noun(), kGerman);
+  return language == "es" ? Plural(Noun(), kSpanish) : Plural(Noun(), kEnglish);
 }
 
 std::string Vocabulary::Profiles() const { return Tr("{} Profiles", Noun()); }
@@ -96,8 +118,10 @@ std::string Vocabulary::PageTitle(int index) const {
 
 bool SetPrimaryName(Settings& settings, const std::string& text) {
   if (text == settings.PrimaryName[0] || text == Vocabulary(settings).Noun()) return false;
-  const std::string lower = LowerCase(text);
-  settings.PrimaryName = {text, lower, std::string(Trimmed(lower + "s", " "))};
+  // In the words of another language it is still the word that settings start with, and so follows the language.
+  const std::string word = text == Tr("Student") ? kUsualNoun : text;
+  const std::string lower = LowerCase(word);
+  settings.PrimaryName = {word, lower, std::string(Trimmed(lower + "s", " "))};
   for (auto& name : settings.PrimaryName) settings.Write(name);
   return true;
 }

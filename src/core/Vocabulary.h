@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <string>
 
 #include "core/Settings.h"
@@ -17,6 +18,9 @@ class Vocabulary {
   std::string noun() const;   ///< "student"
   std::string nouns() const;  ///< "students"
   std::string Nouns() const;  ///< "Students", heading of lists
+
+  /// The same four, in that order, for texts that are English in every language: the words as they are stored.
+  std::array<std::string, 4> InEnglish() const;
 
   std::string Profiles() const;             ///< "Student Profiles"
   std::string Profile() const;              ///< "Student Profile"
@@ -42,8 +46,8 @@ class Vocabulary {
 };
 
 /// Takes a new word for the person under analysis: lower case and plural follow from it (with an s, without
-/// exceptions), and all three are written. False, and nothing changed, when it is the present word, as it is stored or
-/// as the user's language has it.
+/// exceptions), and all three are written. The language's own word for Student is stored as Student. False, and nothing
+/// changed, when it is the present word, as it is stored or as the user's language has it.
 bool SetPrimaryName(Settings& settings, const std::string& text);
 
 }  // namespace kinalyx

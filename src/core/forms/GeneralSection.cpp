@@ -184,11 +184,9 @@ void GeneralSection::ShowLibrary() {
 void GeneralSection::Text3_LostFocus() {
   if (settings_.Loading) return;
   const QString text = noun_->text().trimmed();  // the word stands in the middle of sentences
-  if (text.isEmpty()) {
-    noun_->setText(Q(Vocabulary(settings_).Noun()));  // no page could be named without a word
-  } else if (SetPrimaryName(settings_, Std(text))) {
-    emit VocabularyChanged();
-  }
+  // No page could be named without a word.
+  if (!text.isEmpty() && SetPrimaryName(settings_, Std(text))) emit VocabularyChanged();
+  ShowText(noun_, Vocabulary(settings_).Noun());
 }
 
 void GeneralSection::cboResolution_Click(int row) {

@@ -8,6 +8,8 @@
 #include <QRegularExpression>
 #include <QTextBrowser>
 #include <algorithm>
+#include <array>
+#include <string>
 
 #include "core/Vocabulary.h"
 #include "platform/widgets/Buttons.h"
@@ -31,10 +33,9 @@ class Reader : public QTextBrowser {
 
   void SetupVocabulary(const Vocabulary& words) {
     const auto text = [](const std::string& word) { return Q(word).toHtmlEscaped(); };
-    words_ = {{"Students", text(words.Nouns())},
-              {"students", text(words.nouns())},
-              {"Student", text(words.Noun())},
-              {"student", text(words.noun())}};
+    const std::array<std::string, 4> own = words.InEnglish();  // as the pages are
+    words_ = {
+        {"Student", text(own[0])}, {"student", text(own[1])}, {"students", text(own[2])}, {"Students", text(own[3])}};
     reload();
   }
 

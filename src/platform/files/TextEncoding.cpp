@@ -3,6 +3,7 @@
 #include <QChar>
 #include <array>
 #include <cstdint>
+#include <utility>
 
 namespace kinalyx {
 
@@ -122,6 +123,12 @@ std::string FoldCase(std::string_view text) {
 
 std::string LowerCase(std::string_view text) {
   return EachCharacter(text, [](char32_t code) { return QChar::toLower(code); });
+}
+
+std::string Capitalized(std::string_view text) {
+  bool first = true;
+  return EachCharacter(text,
+                       [&first](char32_t code) { return std::exchange(first, false) ? QChar::toUpper(code) : code; });
 }
 
 std::string_view Trimmed(std::string_view text, std::string_view blanks) {

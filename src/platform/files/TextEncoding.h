@@ -18,6 +18,8 @@ std::string AsUtf8(std::string_view bytes);
 std::string FoldCase(std::string_view text);
 /// Small letters for showing, likewise.
 std::string LowerCase(std::string_view text);
+/// The first letter as a capital, for showing.
+std::string Capitalized(std::string_view text);
 /// A text without the blanks (or other characters, as given) at its two ends; a view into it.
 std::string_view Trimmed(std::string_view text, std::string_view blanks);
 /// The longest beginning of at most `bytes` bytes that does not cut a character in two.
