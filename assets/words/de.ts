@@ -629,7 +629,7 @@ und {} weitere</translation>
     </message>
     <message>
         <source>A video from this database is open in the Analysis section. You must close the video before you can {}.</source>
-        <translation>Ein Video dieser Datenbank ist in der Analyse geöffnet. Schließen Sie es, dann geht auch: {}.</translation>
+        <translation>Ein Video dieser Datenbank ist in der Analyse geöffnet. Schließen Sie es, bevor Sie {} können.</translation>
     </message>
     <message>
         <source>A video in its window</source>
@@ -729,11 +729,15 @@ und {} weitere</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation>Ansprechen</translation>
+        <translation>Adresse</translation>
     </message>
     <message>
         <source>Address of network camera %1</source>
         <translation>Adresse der Netzwerkkamera %1</translation>
+    </message>
+    <message>
+        <source>Address, Top, Impact, Finish</source>
+        <translation>Ansprechen, Umkehrpunkt, Treffmoment, Ende</translation>
     </message>
     <message>
         <source>Adds the chosen lessons to the files to send (Enter)</source>
@@ -1905,7 +1909,7 @@ und {} weitere</translation>
     </message>
     <message>
         <source>Delete the current instructor or database, which must be empty</source>
-        <translation>Diesen Trainer oder diese leere Datenbank löschen</translation>
+        <translation>Trainer oder Datenbank löschen; darin darf nichts mehr sein</translation>
     </message>
     <message>
         <source>Delete the current video.</source>
@@ -2224,10 +2228,6 @@ und {} weitere</translation>
         <translation>Verdoppeln	Strg+D</translation>
     </message>
     <message>
-        <source>Duration</source>
-        <translation>Dauer</translation>
-    </message>
-    <message>
         <source>E-Mail Address</source>
         <translation>E-Mail-Adresse</translation>
     </message>
@@ -2518,10 +2518,6 @@ und {} weitere</translation>
         <translation>Die Datei gibt es schon. Wählen Sie einen anderen Namen.</translation>
     </message>
     <message>
-        <source>File size</source>
-        <translation>Dateigröße</translation>
-    </message>
-    <message>
         <source>File successfully removed from Files to Send list.</source>
         <translation>Datei aus der Sendeliste entfernt.</translation>
     </message>
@@ -2580,10 +2576,6 @@ und {} weitere</translation>
     <message>
         <source>Find people, videos and notes (Ctrl+F)</source>
         <translation>Personen, Videos und Notizen suchen (Strg+F)</translation>
-    </message>
-    <message>
-        <source>Finish</source>
-        <translation>Ende</translation>
     </message>
     <message>
         <source>Finished</source>
@@ -2654,8 +2646,8 @@ Schließen Sie den Camcorder an und schalten Sie ihn ein, ehe Sie das Programm s
         <translation>Für: %1</translation>
     </message>
     <message>
-        <source>Format</source>
-        <translation>Format</translation>
+        <source>Format, Width, Height, Rate, Length, Duration, File size, Color, Sound</source>
+        <translation>Format, Breite, Höhe, Bildrate, Länge, Dauer, Dateigröße, Farbe, Ton</translation>
     </message>
     <message>
         <source>Formats</source>
@@ -2920,10 +2912,6 @@ Schließen Sie den Camcorder an und schalten Sie ihn ein, ehe Sie das Programm s
     <message>
         <source>Image file (.iso)...</source>
         <translation>Abbilddatei (.iso)...</translation>
-    </message>
-    <message>
-        <source>Impact</source>
-        <translation>Treffmoment</translation>
     </message>
     <message>
         <source>Import</source>
@@ -4300,6 +4288,10 @@ Schließen Sie den Camcorder an und schalten Sie ihn ein, ehe Sie das Programm s
         <translation>PAL, 50 Halbbilder je Sekunde</translation>
     </message>
     <message>
+        <source>PEOPLE</source>
+        <translation>PERSONEN</translation>
+    </message>
+    <message>
         <source>PNG picture (*.png)|*.png|JPEG picture (*.jpg *.jpeg)|*.jpg; *.jpeg</source>
         <translation>PNG-Bild (*.png)|*.png|JPEG-Bild (*.jpg *.jpeg)|*.jpg; *.jpeg</translation>
     </message>
@@ -4722,10 +4714,6 @@ Schließen Sie den Camcorder an und schalten Sie ihn ein, ehe Sie das Programm s
     <message>
         <source>Random colors, one after the other</source>
         <translation>Zufällige Farben der Reihe nach</translation>
-    </message>
-    <message>
-        <source>Rate</source>
-        <translation>Bildrate</translation>
     </message>
     <message>
         <source>Reading from specified Removeable disk. Please Wait....</source>
@@ -6327,7 +6315,7 @@ Sobald es antwortet, geht das Programm weiter.</translation>
     </message>
     <message>
         <source>The folder {} belongs to the program. You cannot {} it.</source>
-        <translation>Der Ordner {} gehört dem Programm. Dies geht hier nicht: {}.</translation>
+        <translation>Der Ordner {} gehört dem Programm. Sie können ihn nicht {}.</translation>
     </message>
     <message>
         <source>The folder {} belongs to this library. Choose a drive or folder outside of it.</source>
@@ -7426,10 +7414,6 @@ Möchten Sie fortfahren?</translation>
         <translation>Zu viele Fenster nehmen in {} auf.</translation>
     </message>
     <message>
-        <source>Top</source>
-        <translation>Umkehrpunkt</translation>
-    </message>
-    <message>
         <source>Total %1</source>
         <translation>Gesamt %1</translation>
     </message>
@@ -7652,6 +7636,10 @@ A telephone on a tripod that shows its picture on the network is a camera for Ki
         <translation>Wählen Sie 'Webcam', wenn Sie eine Webcam, eine Aufnahmekarte oder ein Tunerkabel benutzen. Klicken Sie zum Anfang unten auf den Knopf und wählen Sie Webcam oder Karte aus der Liste.
 
 Auch ein Telefon auf dem Stativ, das sein Bild ins Netzwerk gibt, ist für Kinalyx eine Kamera: Geben Sie seine Adresse unter Kameras im Netzwerk an.</translation>
+    </message>
+    <message>
+        <source>VIDEOS</source>
+        <translation>VIDEOS</translation>
     </message>
     <message>
         <source>Vid1</source>
@@ -8231,19 +8219,19 @@ Auch ein Telefon auf dem Stativ, das sein Bild ins Netzwerk gibt, ist für Kinal
     </message>
     <message>
         <source>a Angle</source>
-        <translation>einen Winkel</translation>
+        <translation>ein Winkel</translation>
     </message>
     <message>
         <source>a Arrow</source>
-        <translation>einen Pfeil</translation>
+        <translation>ein Pfeil</translation>
     </message>
     <message>
         <source>a Circle</source>
-        <translation>einen Kreis</translation>
+        <translation>ein Kreis</translation>
     </message>
     <message>
         <source>a Circle from its Center</source>
-        <translation>einen Kreis um seinen Mittelpunkt</translation>
+        <translation>ein Kreis um seinen Mittelpunkt</translation>
     </message>
     <message>
         <source>a Clock Grid</source>
@@ -8671,7 +8659,7 @@ Auch ein Telefon auf dem Stativ, das sein Bild ins Netzwerk gibt, ist für Kinal
     </message>
     <message>
         <source>{} FPS</source>
-        <translation>{} B/s</translation>
+        <translation>{} FPS</translation>
     </message>
     <message>
         <source>{} File(s) Imported successfully!</source>
@@ -8901,7 +8889,7 @@ Auch ein Telefon auf dem Stativ, das sein Bild ins Netzwerk gibt, ist für Kinal
     </message>
     <message>
         <source>{} this database</source>
-        <translation>Datenbank {}</translation>
+        <translation>die Datenbank {}</translation>
     </message>
     <message>
         <source>{} this {}</source>
@@ -8916,6 +8904,10 @@ Auch ein Telefon auf dem Stativ, das sein Bild ins Netzwerk gibt, ist für Kinal
     <message>
         <source>{} videos left to import</source>
         <translation>Noch {} Videos zu importieren</translation>
+    </message>
+    <message>
+        <source>{} videos on "{}", all of them new</source>
+        <translation>{} Videos auf "{}", alle neu</translation>
     </message>
     <message>
         <source>{} videos on "{}", {} of them new</source>

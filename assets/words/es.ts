@@ -629,7 +629,7 @@ y {} más</translation>
     </message>
     <message>
         <source>A video from this database is open in the Analysis section. You must close the video before you can {}.</source>
-        <translation>Un vídeo de esta base de datos está abierto en el análisis. Ciérrelo antes de: {}.</translation>
+        <translation>Un vídeo de esta base de datos está abierto en el análisis. Ciérrelo antes de {}.</translation>
     </message>
     <message>
         <source>A video in its window</source>
@@ -729,11 +729,15 @@ y {} más</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation>Colocación</translation>
+        <translation>Dirección</translation>
     </message>
     <message>
         <source>Address of network camera %1</source>
         <translation>Dirección de la cámara de red %1</translation>
+    </message>
+    <message>
+        <source>Address, Top, Impact, Finish</source>
+        <translation>Colocación, Arriba, Impacto, Final</translation>
     </message>
     <message>
         <source>Adds the chosen lessons to the files to send (Enter)</source>
@@ -2224,10 +2228,6 @@ y {} más</translation>
         <translation>Duplicar	Ctrl+D</translation>
     </message>
     <message>
-        <source>Duration</source>
-        <translation>Duración</translation>
-    </message>
-    <message>
         <source>E-Mail Address</source>
         <translation>Correo electrónico</translation>
     </message>
@@ -2518,10 +2518,6 @@ y {} más</translation>
         <translation>El archivo ya existe. Elija otro nombre.</translation>
     </message>
     <message>
-        <source>File size</source>
-        <translation>Tamaño</translation>
-    </message>
-    <message>
         <source>File successfully removed from Files to Send list.</source>
         <translation>Archivo quitado de la lista de envío.</translation>
     </message>
@@ -2580,10 +2576,6 @@ y {} más</translation>
     <message>
         <source>Find people, videos and notes (Ctrl+F)</source>
         <translation>Buscar personas, vídeos y notas (Ctrl+F)</translation>
-    </message>
-    <message>
-        <source>Finish</source>
-        <translation>Final</translation>
     </message>
     <message>
         <source>Finished</source>
@@ -2654,8 +2646,8 @@ Conecte la videocámara y enciéndala antes de abrir el programa. Graba 60 imág
         <translation>Para: %1</translation>
     </message>
     <message>
-        <source>Format</source>
-        <translation>Formato</translation>
+        <source>Format, Width, Height, Rate, Length, Duration, File size, Color, Sound</source>
+        <translation>Formato, Ancho, Alto, Frecuencia, Longitud, Duración, Tamaño, Color, Sonido</translation>
     </message>
     <message>
         <source>Formats</source>
@@ -2819,7 +2811,7 @@ Conecte la videocámara y enciéndala antes de abrir el programa. Graba 60 imág
     </message>
     <message>
         <source>Height</source>
-        <translation>Altura</translation>
+        <translation>Estatura</translation>
     </message>
     <message>
         <source>Help Menu</source>
@@ -2920,10 +2912,6 @@ Conecte la videocámara y enciéndala antes de abrir el programa. Graba 60 imág
     <message>
         <source>Image file (.iso)...</source>
         <translation>Archivo de imagen (.iso)...</translation>
-    </message>
-    <message>
-        <source>Impact</source>
-        <translation>Impacto</translation>
     </message>
     <message>
         <source>Import</source>
@@ -4300,6 +4288,10 @@ Conecte la videocámara y enciéndala antes de abrir el programa. Graba 60 imág
         <translation>PAL, 50 campos por segundo</translation>
     </message>
     <message>
+        <source>PEOPLE</source>
+        <translation>PERSONAS</translation>
+    </message>
+    <message>
         <source>PNG picture (*.png)|*.png|JPEG picture (*.jpg *.jpeg)|*.jpg; *.jpeg</source>
         <translation>Imagen PNG (*.png)|*.png|Imagen JPEG (*.jpg *.jpeg)|*.jpg; *.jpeg</translation>
     </message>
@@ -4722,10 +4714,6 @@ Conecte la videocámara y enciéndala antes de abrir el programa. Graba 60 imág
     <message>
         <source>Random colors, one after the other</source>
         <translation>Colores al azar, uno tras otro</translation>
-    </message>
-    <message>
-        <source>Rate</source>
-        <translation>Frecuencia</translation>
     </message>
     <message>
         <source>Reading from specified Removeable disk. Please Wait....</source>
@@ -7426,10 +7414,6 @@ Do you want to continue?</source>
         <translation>Demasiadas ventanas graban en {}.</translation>
     </message>
     <message>
-        <source>Top</source>
-        <translation>Arriba</translation>
-    </message>
-    <message>
         <source>Total %1</source>
         <translation>Total %1</translation>
     </message>
@@ -7652,6 +7636,10 @@ A telephone on a tripod that shows its picture on the network is a camera for Ki
         <translation>Use 'Webcam y sintonizadora' si tiene una webcam, una tarjeta capturadora o un cable sintonizador. Para empezar, pulse el botón de abajo y elija la webcam o la tarjeta en la lista.
 
 Un teléfono en un trípode que muestra su imagen en la red también es una cámara para Kinalyx: dé su dirección en Cámaras en la red.</translation>
+    </message>
+    <message>
+        <source>VIDEOS</source>
+        <translation>VÍDEOS</translation>
     </message>
     <message>
         <source>Vid1</source>
@@ -8916,6 +8904,10 @@ Se mostraron {} de {} imágenes.</translation>
     <message>
         <source>{} videos left to import</source>
         <translation>Quedan {} vídeos por importar</translation>
+    </message>
+    <message>
+        <source>{} videos on "{}", all of them new</source>
+        <translation>{} vídeos en "{}", todos nuevos</translation>
     </message>
     <message>
         <source>{} videos on "{}", {} of them new</source>

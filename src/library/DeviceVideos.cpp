@@ -120,7 +120,8 @@ std::vector<DeviceVideo> FindDeviceVideos(const std::string& device, const std::
 
 std::string DeviceText(const std::string& device, std::size_t videos, std::size_t fresh) {
   if (videos == 1) return Tr("One new video on \"{}\"", device);
-  return Tr("{} videos on \"{}\", {} of them new", videos, device, fresh == videos ? "all" : fmt::to_string(fresh));
+  if (fresh == videos) return Tr("{} videos on \"{}\", all of them new", videos, device);
+  return Tr("{} videos on \"{}\", {} of them new", videos, device, fresh);
 }
 
 }  // namespace kinalyx

@@ -43,7 +43,7 @@ void FieldsEditor::Store(int field) {
   const std::string shown = ShownCaption(field, fields_.Caption(field));
   if (Std(box.text()) == shown) return;
   const Outcome stored = fields_.SetCaption(field, Std(box.text()));
-  box.setText(Q(fields_.Caption(field)));
+  box.setText(Q(ShownCaption(field, fields_.Caption(field))));
   if (!stored) {
     host_.Message(MessageKind::Warning, Tr("Profile Fields"), stored.Why());
     return;

@@ -118,8 +118,8 @@ void SearchBar::ShowResult(const SearchResult& result) {
   list_->setUpdatesEnabled(false);
   list_->Fill({}, -1);
   hits_.clear();
-  AddGroup("PEOPLE", result.people, result.allPeople);
-  AddGroup("VIDEOS", result.videos, result.allVideos);
+  AddGroup(tr("PEOPLE"), result.people, result.allPeople);
+  AddGroup(tr("VIDEOS"), result.videos, result.allVideos);
   AddGroup(tr("NOTES AND FIELDS"), result.texts, result.allTexts);
   const QString state = State(result);
   state_->setText(state);

@@ -16,7 +16,6 @@
 #include "library/forms/EditPanel.h"
 #include "library/forms/HeadButton.h"
 #include "library/forms/SidecarMarkLabels.h"
-#include "platform/files/Tr.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Figures.h"
 #include "platform/widgets/Scale.h"
@@ -165,13 +164,12 @@ QWidget* VideosPanel::MakeStats() {
   auto* grid = new QGridLayout;
   grid->setHorizontalSpacing(kGap);
   grid->setVerticalSpacing(0);
-  const char* const kCaptions[] = {TrLater("Format"),    TrLater("Width"),  TrLater("Height"),
-                                   TrLater("Rate"),      TrLater("Length"), TrLater("Duration"),
-                                   TrLater("File size"), TrLater("Color"),  TrLater("Sound")};
+  // One text: the height of a picture and that of a person can be two words.
+  const QStringList captions = tr("Format, Width, Height, Rate, Length, Duration, File size, Color, Sound").split(", ");
   for (int line = 0; line < 9; ++line) {
-    auto* caption = MakeLabel(QString("StatCaption%1").arg(line), tr(kCaptions[line]), "caption");
+    auto* caption = MakeLabel(QString("StatCaption%1").arg(line), captions.value(line), "caption");
     auto* value = new FigureLabel(QString("ProInfoLbl%1").arg(kFirstStat + line), kNoStat);
-    value->setAccessibleName(tr(kCaptions[line]));
+    value->setAccessibleName(captions.value(line));
     value->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
     grid->addWidget(caption, line / 5 * 2, line % 5);
     grid->addWidget(value, line / 5 * 2 + 1, line % 5);

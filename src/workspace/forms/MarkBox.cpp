@@ -51,7 +51,8 @@ void MarkBox::Dress() {
 void MarkBox::ShowMenu(int mark) {
   QMenu menu(this);
   menu.setObjectName("MarkMenu");
-  const QStringList usual{tr("Address"), tr("Top"), tr("Impact"), tr("Finish")};
+  // One text: the address before a swing and that of a person are two words in most languages.
+  const QStringList usual = tr("Address, Top, Impact, Finish").split(", ");
   const auto offer = [&](const QString& name) {
     // An ampersand in a name is no key.
     menu.addAction(QString(name).replace("&", "&&"), this, [this, mark, name] { emit Named(mark, name); });
