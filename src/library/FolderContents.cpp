@@ -34,10 +34,6 @@ void Count(FolderContents& contents, const std::string& name) {
   }
 }
 
-std::string Counted(int count, const char* one, const char* several) {
-  return fmt::format("{} {}", count, count == 1 ? one : several);
-}
-
 }  // namespace
 
 FolderContents ContentsOf(const std::string& folder) {
