@@ -134,7 +134,7 @@ double MedianStart(const std::string& program) {
 void MakeSettings() {
   Log log(Home() + "/bench.log");
   const std::unique_ptr<IHost> host = MakeQtHost(log);
-  Settings(*host, Home() + "/Documents/Kinalyx", "").LoadSettings();
+  Settings(*host, Home() + "/Documents/Kinalyx", fs::path(KINALYX_PROGRAM).parent_path()).LoadSettings();
 }
 
 Figure StartUp() {
