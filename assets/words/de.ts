@@ -130,6 +130,14 @@ und {} weitere</translation>
         <translation>"{}" ist weg oder nicht zu lesen.</translation>
     </message>
     <message>
+        <source>"{}" has no input "{}".</source>
+        <translation>"{}" hat keinen Eingang "{}".</translation>
+    </message>
+    <message>
+        <source>"{}" has no output "{}".</source>
+        <translation>"{}" hat keinen Ausgang "{}".</translation>
+    </message>
+    <message>
         <source>"{}" holds a letter before the "@" that mail servers do not know.</source>
         <translation>"{}" enthält vor dem "@" ein Zeichen, das Mailserver nicht kennen.</translation>
     </message>
@@ -656,6 +664,10 @@ und {} weitere</translation>
         <translation>ABBRUCH (BENUTZER)</translation>
     </message>
     <message>
+        <source>ADDRESS</source>
+        <translation>ANSPRECHEN</translation>
+    </message>
+    <message>
         <source>AVI, for computers</source>
         <translation>AVI, für Rechner</translation>
     </message>
@@ -962,6 +974,10 @@ und {} weitere</translation>
     <message>
         <source>BACKGROUND FORMAT</source>
         <translation>FORMATIERUNG IM HINTERGRUND</translation>
+    </message>
+    <message>
+        <source>BACKSWING</source>
+        <translation>AUSHOLEN</translation>
     </message>
     <message>
         <source>BUNKER SHOT</source>
@@ -1590,6 +1606,10 @@ und {} weitere</translation>
     <message>
         <source>Columns of the grid over the picture</source>
         <translation>Spalten des Gitters über dem Bild</translation>
+    </message>
+    <message>
+        <source>Company Name</source>
+        <translation>Firmenname</translation>
     </message>
     <message>
         <source>Company name</source>
@@ -2460,6 +2480,10 @@ und {} weitere</translation>
         <translation>F9 - Zone</translation>
     </message>
     <message>
+        <source>FOLLOWTHROUGH</source>
+        <translation>DURCHSCHWUNG</translation>
+    </message>
+    <message>
         <source>FTP address</source>
         <translation>FTP-Adresse</translation>
     </message>
@@ -2726,6 +2750,10 @@ Schließen Sie den Camcorder an und schalten Sie ihn ein, ehe Sie das Programm s
         <translation>Allgemein</translation>
     </message>
     <message>
+        <source>General Folder</source>
+        <translation>Allgemeiner Ordner</translation>
+    </message>
+    <message>
         <source>Get More Information</source>
         <translation>Mehr darüber</translation>
     </message>
@@ -2784,6 +2812,10 @@ Schließen Sie den Camcorder an und schalten Sie ihn ein, ehe Sie das Programm s
     <message>
         <source>Grid</source>
         <translation>Gitter</translation>
+    </message>
+    <message>
+        <source>HDV camcorders, discs</source>
+        <translation>HDV-Camcorder, Discs</translation>
     </message>
     <message>
         <source>Half</source>
@@ -4138,6 +4170,10 @@ Schließen Sie den Camcorder an und schalten Sie ihn ein, ehe Sie das Programm s
         <translation>O - Neues Video öffnen</translation>
     </message>
     <message>
+        <source>OGG files</source>
+        <translation>OGG-Dateien</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -4326,6 +4362,10 @@ Schließen Sie den Camcorder an und schalten Sie ihn ein, ehe Sie das Programm s
     <message>
         <source>Page {}</source>
         <translation>Seite {}</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
     </message>
     <message>
         <source>Pan down (keypad 2); hold to go on</source>
@@ -4690,6 +4730,10 @@ Schließen Sie den Camcorder an und schalten Sie ihn ein, ehe Sie das Programm s
     <message>
         <source>Quad Screen</source>
         <translation>Vier Fenster</translation>
+    </message>
+    <message>
+        <source>Quick Launch</source>
+        <translation>Schnellstart</translation>
     </message>
     <message>
         <source>Quick Launch +</source>
@@ -5137,7 +5181,7 @@ Schließen Sie den Camcorder an und schalten Sie ihn ein, ehe Sie das Programm s
     </message>
     <message>
         <source>Select an instructor, a %1 and the videos on one side, then choose Export or Import. Each video takes its drawings and notes along, and a %1 who is new on the other side brings the profile. Videos from a plain folder, shown under General Folder, come to the %1 chosen in this library.</source>
-        <translation>Wählen Sie auf einer Seite Trainer, %1 und die Videos, dann Exportieren oder Importieren. Jedes Video nimmt seine Zeichnungen und Notizen mit, und wer auf der anderen Seite neu ist (%1), bringt das Profil mit. Videos aus einem einfachen Ordner, gezeigt unter General Folder, kommen hierhin (%1).</translation>
+        <translation>Wählen Sie auf einer Seite Trainer, %1 und die Videos, dann Exportieren oder Importieren. Jedes Video nimmt seine Zeichnungen und Notizen mit, und wer auf der anderen Seite neu ist (%1), bringt das Profil mit. Videos aus einem einfachen Ordner, gezeigt unter Allgemeiner Ordner, kommen hierhin (%1).</translation>
     </message>
     <message>
         <source>Select the %1 name. This will allow the program to automatically add the %1 email address.</source>
@@ -5572,6 +5616,10 @@ Schließen Sie den Camcorder an und schalten Sie ihn ein, ehe Sie das Programm s
     <message>
         <source>Squares across the picture</source>
         <translation>Felder über das Bild</translation>
+    </message>
+    <message>
+        <source>Stage</source>
+        <translation>Bühne</translation>
     </message>
     <message>
         <source>Stand at drawings</source>
@@ -6074,6 +6122,10 @@ Schließen Sie den Camcorder an und schalten Sie ihn ein, ehe Sie das Programm s
         <translation>Der Datenträger behält es nicht.</translation>
     </message>
     <message>
+        <source>The disk is full.</source>
+        <translation>Der Datenträger ist voll.</translation>
+    </message>
+    <message>
         <source>The disk of the library has no room for it.</source>
         <translation>Der Datenträger der Bibliothek hat keinen Platz dafür.</translation>
     </message>
@@ -6350,8 +6402,28 @@ Sobald es antwortet, geht das Programm weiter.</translation>
         <translation>Der Ordner {} ist für Videos nicht zu verwenden.</translation>
     </message>
     <message>
+        <source>The graph connects a filter {} that it does not have.</source>
+        <translation>Der Graph verbindet einen Filter {}, den er nicht hat.</translation>
+    </message>
+    <message>
         <source>The graph has no {} "{}".</source>
         <translation>Der Graph hat kein {} "{}".</translation>
+    </message>
+    <message>
+        <source>The graph has two filters "{}".</source>
+        <translation>Der Graph hat zwei Filter "{}".</translation>
+    </message>
+    <message>
+        <source>The graph has two filters {}.</source>
+        <translation>Der Graph hat zwei Filter {}.</translation>
+    </message>
+    <message>
+        <source>The graph's filter "{}" is of an unknown class, {}.</source>
+        <translation>Der Filter "{}" des Graphen ist von unbekannter Klasse, {}.</translation>
+    </message>
+    <message>
+        <source>The graph's filter {} has no label.</source>
+        <translation>Der Filter {} des Graphen hat keinen Namen.</translation>
     </message>
     <message>
         <source>The help pages are missing. They should lie in %1.</source>
@@ -6670,6 +6742,10 @@ Sobald es antwortet, geht das Programm weiter.</translation>
         <translation>Die Bilder sind nicht zu lesen: Das Video ist weg oder beschädigt.</translation>
     </message>
     <message>
+        <source>The pictures cannot be taken as they come.</source>
+        <translation>Die Bilder lassen sich so nicht aufnehmen.</translation>
+    </message>
+    <message>
         <source>The pictures could not be saved. {}</source>
         <translation>Die Bilder konnten nicht gespeichert werden. {}</translation>
     </message>
@@ -6852,6 +6928,14 @@ Sobald es antwortet, geht das Programm weiter.</translation>
     <message>
         <source>The test was cancelled.</source>
         <translation>Der Test wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The text is not that of a graph.</source>
+        <translation>Der Text beschreibt keinen Graphen.</translation>
+    </message>
+    <message>
+        <source>The text of the graph breaks off or is damaged at character {}: {}</source>
+        <translation>Der Text des Graphen bricht ab oder ist beschädigt, bei Zeichen {}: {}</translation>
     </message>
     <message>
         <source>The values of the field "{}" are stored under "{}", its name of before. Please choose another name.</source>
@@ -7276,6 +7360,10 @@ Sobald es antwortet, geht das Programm weiter.</translation>
         <translation>Dieser Ordner ist nicht zu erreichen.
 
 %1</translation>
+    </message>
+    <message>
+        <source>This graph remembers nothing.</source>
+        <translation>Dieser Graph merkt sich nichts.</translation>
     </message>
     <message>
         <source>This is a test of the mail settings of Kinalyx.</source>
@@ -7850,6 +7938,18 @@ Auch ein Telefon auf dem Stativ, das sein Bild ins Netzwerk gibt, ist für Kinal
         <translation>Willkommen bei Kinalyx</translation>
     </message>
     <message>
+        <source>Welcome to the
+Kinalyx
+Motion
+Analysis
+Program</source>
+        <translation>Willkommen bei
+Kinalyx
+Bewegungsanalyse
+für Ihren
+Unterricht</translation>
+    </message>
+    <message>
         <source>What Is Done to Videos</source>
         <translation>Was mit Videos geschieht</translation>
     </message>
@@ -7892,6 +7992,10 @@ Auch ein Telefon auf dem Stativ, das sein Bild ins Netzwerk gibt, ist für Kinal
     <message>
         <source>What the macro is made of</source>
         <translation>Woraus das Makro besteht</translation>
+    </message>
+    <message>
+        <source>What the report shows</source>
+        <translation>Was der Bericht zeigt</translation>
     </message>
     <message>
         <source>What the student shall read and work on</source>
@@ -8000,6 +8104,10 @@ Auch ein Telefon auf dem Stativ, das sein Bild ins Netzwerk gibt, ist für Kinal
     <message>
         <source>Windows at the start</source>
         <translation>Fenster beim Start</translation>
+    </message>
+    <message>
+        <source>Windows programs</source>
+        <translation>Windows-Programme</translation>
     </message>
     <message>
         <source>With</source>
@@ -8194,6 +8302,10 @@ Auch ein Telefon auf dem Stativ, das sein Bild ins Netzwerk gibt, ist für Kinal
         <translation>Z - Videos zoomen</translation>
     </message>
     <message>
+        <source>Zone</source>
+        <translation>Zone</translation>
+    </message>
+    <message>
         <source>Zone Tool</source>
         <translation>Zone</translation>
     </message>
@@ -8294,6 +8406,10 @@ Auch ein Telefon auf dem Stativ, das sein Bild ins Netzwerk gibt, ist für Kinal
         <translation>lässt sich nicht prüfen</translation>
     </message>
     <message>
+        <source>centimeter</source>
+        <translation>Zentimeter</translation>
+    </message>
+    <message>
         <source>click one end, the corner, the other end</source>
         <translation>erst das eine Ende anklicken, dann die Ecke, dann das andere Ende</translation>
     </message>
@@ -8310,8 +8426,16 @@ Auch ein Telefon auf dem Stativ, das sein Bild ins Netzwerk gibt, ist für Kinal
         <translation>löschen</translation>
     </message>
     <message>
+        <source>editing programs</source>
+        <translation>Schnittprogramme</translation>
+    </message>
+    <message>
         <source>en</source>
         <translation>de</translation>
+    </message>
+    <message>
+        <source>foot</source>
+        <translation>Fuß</translation>
     </message>
     <message>
         <source>has run out. Either the server has forgotten to renew it, or the clock of this computer is wrong</source>
@@ -8320,6 +8444,10 @@ Auch ein Telefon auf dem Stativ, das sein Bild ins Netzwerk gibt, ist für Kinal
     <message>
         <source>in %1</source>
         <translation>in %1</translation>
+    </message>
+    <message>
+        <source>inch</source>
+        <translation>Zoll</translation>
     </message>
     <message>
         <source>is not valid yet. The clock of this computer may be wrong</source>
@@ -8362,8 +8490,16 @@ Auch ein Telefon auf dem Stativ, das sein Bild ins Netzwerk gibt, ist für Kinal
         <translation>Mailserver</translation>
     </message>
     <message>
+        <source>meter</source>
+        <translation>Meter</translation>
+    </message>
+    <message>
         <source>move</source>
         <translation>verschieben</translation>
+    </message>
+    <message>
+        <source>newer telephones</source>
+        <translation>neuere Telefone</translation>
     </message>
     <message>
         <source>no decoder</source>
@@ -8406,6 +8542,22 @@ Auch ein Telefon auf dem Stativ, das sein Bild ins Netzwerk gibt, ist für Kinal
         <translation>jetzt</translation>
     </message>
     <message>
+        <source>old discs</source>
+        <translation>alte Discs</translation>
+    </message>
+    <message>
+        <source>old imports</source>
+        <translation>alte Importe</translation>
+    </message>
+    <message>
+        <source>old telephones (3GP)</source>
+        <translation>alte Telefone (3GP)</translation>
+    </message>
+    <message>
+        <source>older cameras, DivX, Xvid</source>
+        <translation>ältere Kameras, DivX, Xvid</translation>
+    </message>
+    <message>
         <source>one click on each picture, which moves on by itself; a right click ends it</source>
         <translation>ein Klick auf jedem Bild, das von selbst weitergeht; ein Rechtsklick beendet</translation>
     </message>
@@ -8436,6 +8588,14 @@ Auch ein Telefon auf dem Stativ, das sein Bild ins Netzwerk gibt, ist für Kinal
     <message>
         <source>students</source>
         <translation>Schüler</translation>
+    </message>
+    <message>
+        <source>tape camcorders, imported tape</source>
+        <translation>Band-Camcorder, importiertes Band</translation>
+    </message>
+    <message>
+        <source>telephones, action cameras, camcorders</source>
+        <translation>Telefone, Actionkameras, Camcorder</translation>
     </message>
     <message>
         <source>the clip has no sound</source>
@@ -8494,6 +8654,10 @@ Auch ein Telefon auf dem Stativ, das sein Bild ins Netzwerk gibt, ist für Kinal
         <translation>die vorhandenen Notizen sind nicht zu lesen</translation>
     </message>
     <message>
+        <source>the old web</source>
+        <translation>das alte Web</translation>
+    </message>
+    <message>
         <source>the picture is too large</source>
         <translation>das Bild ist zu groß</translation>
     </message>
@@ -8542,6 +8706,10 @@ Auch ein Telefon auf dem Stativ, das sein Bild ins Netzwerk gibt, ist für Kinal
         <translation>der Videostrom enthält kein Bild</translation>
     </message>
     <message>
+        <source>the web</source>
+        <translation>das Web</translation>
+    </message>
+    <message>
         <source>there are a thousand files of that name already</source>
         <translation>es gibt schon tausend Dateien dieses Namens</translation>
     </message>
@@ -8586,8 +8754,16 @@ Auch ein Telefon auf dem Stativ, das sein Bild ins Netzwerk gibt, ist für Kinal
         <translation>Videos dieser Art lassen sich nur an manchen Bildern schneiden, und nicht an diesen</translation>
     </message>
     <message>
+        <source>webcams, what is imported here</source>
+        <translation>Webcams, was hier importiert wird</translation>
+    </message>
+    <message>
         <source>you alone can read the file</source>
         <translation>nur Sie können die Datei lesen</translation>
+    </message>
+    <message>
+        <source>{0} {1} {2}</source>
+        <translation>{0}. {1} {2}</translation>
     </message>
     <message>
         <source>{:g} s ago</source>

@@ -130,6 +130,14 @@ y {} más</translation>
         <translation>"{}" ya no está, o no se puede leer.</translation>
     </message>
     <message>
+        <source>"{}" has no input "{}".</source>
+        <translation>"{}" no tiene la entrada "{}".</translation>
+    </message>
+    <message>
+        <source>"{}" has no output "{}".</source>
+        <translation>"{}" no tiene la salida "{}".</translation>
+    </message>
+    <message>
         <source>"{}" holds a letter before the "@" that mail servers do not know.</source>
         <translation>"{}" contiene antes de "@" una letra que los servidores de correo no conocen.</translation>
     </message>
@@ -656,6 +664,10 @@ y {} más</translation>
         <translation>ABORTANDO (USUARIO)</translation>
     </message>
     <message>
+        <source>ADDRESS</source>
+        <translation>COLOCACIÓN</translation>
+    </message>
+    <message>
         <source>AVI, for computers</source>
         <translation>AVI, para ordenadores</translation>
     </message>
@@ -962,6 +974,10 @@ y {} más</translation>
     <message>
         <source>BACKGROUND FORMAT</source>
         <translation>FORMATO EN SEGUNDO PLANO</translation>
+    </message>
+    <message>
+        <source>BACKSWING</source>
+        <translation>SUBIDA</translation>
     </message>
     <message>
         <source>BUNKER SHOT</source>
@@ -1590,6 +1606,10 @@ y {} más</translation>
     <message>
         <source>Columns of the grid over the picture</source>
         <translation>Columnas de la cuadrícula sobre la imagen</translation>
+    </message>
+    <message>
+        <source>Company Name</source>
+        <translation>Empresa</translation>
     </message>
     <message>
         <source>Company name</source>
@@ -2460,6 +2480,10 @@ y {} más</translation>
         <translation>F9 - Zona sombreada</translation>
     </message>
     <message>
+        <source>FOLLOWTHROUGH</source>
+        <translation>TERMINACIÓN</translation>
+    </message>
+    <message>
         <source>FTP address</source>
         <translation>Dirección FTP</translation>
     </message>
@@ -2726,6 +2750,10 @@ Conecte la videocámara y enciéndala antes de abrir el programa. Graba 60 imág
         <translation>General</translation>
     </message>
     <message>
+        <source>General Folder</source>
+        <translation>Carpeta general</translation>
+    </message>
+    <message>
         <source>Get More Information</source>
         <translation>Más información</translation>
     </message>
@@ -2784,6 +2812,10 @@ Conecte la videocámara y enciéndala antes de abrir el programa. Graba 60 imág
     <message>
         <source>Grid</source>
         <translation>Cuadrícula</translation>
+    </message>
+    <message>
+        <source>HDV camcorders, discs</source>
+        <translation>videocámaras HDV, discos</translation>
     </message>
     <message>
         <source>Half</source>
@@ -4138,6 +4170,10 @@ Conecte la videocámara y enciéndala antes de abrir el programa. Graba 60 imág
         <translation>O - Abrir otro vídeo</translation>
     </message>
     <message>
+        <source>OGG files</source>
+        <translation>archivos OGG</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>Aceptar</translation>
     </message>
@@ -4326,6 +4362,10 @@ Conecte la videocámara y enciéndala antes de abrir el programa. Graba 60 imág
     <message>
         <source>Page {}</source>
         <translation>Página {}</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Páginas</translation>
     </message>
     <message>
         <source>Pan down (keypad 2); hold to go on</source>
@@ -4690,6 +4730,10 @@ Conecte la videocámara y enciéndala antes de abrir el programa. Graba 60 imág
     <message>
         <source>Quad Screen</source>
         <translation>Cuatro ventanas</translation>
+    </message>
+    <message>
+        <source>Quick Launch</source>
+        <translation>Acceso rápido</translation>
     </message>
     <message>
         <source>Quick Launch +</source>
@@ -5137,7 +5181,7 @@ Conecte la videocámara y enciéndala antes de abrir el programa. Graba 60 imág
     </message>
     <message>
         <source>Select an instructor, a %1 and the videos on one side, then choose Export or Import. Each video takes its drawings and notes along, and a %1 who is new on the other side brings the profile. Videos from a plain folder, shown under General Folder, come to the %1 chosen in this library.</source>
-        <translation>Elija en un lado monitor, %1 y vídeos, y luego Exportar o Importar. Cada vídeo lleva sus dibujos y notas, y quien es nuevo en el otro lado (%1) trae el perfil. Los vídeos de una carpeta simple, mostrados en General Folder, van a lo elegido en esta videoteca (%1).</translation>
+        <translation>Elija en un lado monitor, %1 y vídeos, y luego Exportar o Importar. Cada vídeo lleva sus dibujos y notas, y quien es nuevo en el otro lado (%1) trae el perfil. Los vídeos de una carpeta simple, mostrados en Carpeta general, van a lo elegido en esta videoteca (%1).</translation>
     </message>
     <message>
         <source>Select the %1 name. This will allow the program to automatically add the %1 email address.</source>
@@ -5572,6 +5616,10 @@ Conecte la videocámara y enciéndala antes de abrir el programa. Graba 60 imág
     <message>
         <source>Squares across the picture</source>
         <translation>Cuadros a lo ancho de la imagen</translation>
+    </message>
+    <message>
+        <source>Stage</source>
+        <translation>Escenario</translation>
     </message>
     <message>
         <source>Stand at drawings</source>
@@ -6074,6 +6122,10 @@ Conecte la videocámara y enciéndala antes de abrir el programa. Graba 60 imág
         <translation>El disco no lo conserva.</translation>
     </message>
     <message>
+        <source>The disk is full.</source>
+        <translation>El disco está lleno.</translation>
+    </message>
+    <message>
         <source>The disk of the library has no room for it.</source>
         <translation>El disco de la videoteca no tiene sitio para él.</translation>
     </message>
@@ -6350,8 +6402,28 @@ En cuanto responda, el programa sigue.</translation>
         <translation>La carpeta {} no se puede usar para vídeos.</translation>
     </message>
     <message>
+        <source>The graph connects a filter {} that it does not have.</source>
+        <translation>El grafo conecta un filtro {} que no tiene.</translation>
+    </message>
+    <message>
         <source>The graph has no {} "{}".</source>
         <translation>El grafo no tiene {} "{}".</translation>
+    </message>
+    <message>
+        <source>The graph has two filters "{}".</source>
+        <translation>El grafo tiene dos filtros "{}".</translation>
+    </message>
+    <message>
+        <source>The graph has two filters {}.</source>
+        <translation>El grafo tiene dos filtros {}.</translation>
+    </message>
+    <message>
+        <source>The graph's filter "{}" is of an unknown class, {}.</source>
+        <translation>El filtro "{}" del grafo es de una clase desconocida, {}.</translation>
+    </message>
+    <message>
+        <source>The graph's filter {} has no label.</source>
+        <translation>El filtro {} del grafo no tiene nombre.</translation>
     </message>
     <message>
         <source>The help pages are missing. They should lie in %1.</source>
@@ -6670,6 +6742,10 @@ En cuanto responda, el programa sigue.</translation>
         <translation>No se pueden leer las imágenes: el vídeo ya no está, o está dañado.</translation>
     </message>
     <message>
+        <source>The pictures cannot be taken as they come.</source>
+        <translation>No se pueden tomar las imágenes como llegan.</translation>
+    </message>
+    <message>
         <source>The pictures could not be saved. {}</source>
         <translation>No se pudieron guardar las imágenes. {}</translation>
     </message>
@@ -6852,6 +6928,14 @@ En cuanto responda, el programa sigue.</translation>
     <message>
         <source>The test was cancelled.</source>
         <translation>La prueba se canceló.</translation>
+    </message>
+    <message>
+        <source>The text is not that of a graph.</source>
+        <translation>El texto no es el de un grafo.</translation>
+    </message>
+    <message>
+        <source>The text of the graph breaks off or is damaged at character {}: {}</source>
+        <translation>El texto del grafo se corta o está dañado en el carácter {}: {}</translation>
     </message>
     <message>
         <source>The values of the field "{}" are stored under "{}", its name of before. Please choose another name.</source>
@@ -7276,6 +7360,10 @@ En cuanto responda, el programa sigue.</translation>
         <translation>No se llega a esta carpeta.
 
 %1</translation>
+    </message>
+    <message>
+        <source>This graph remembers nothing.</source>
+        <translation>Este grafo no recuerda nada.</translation>
     </message>
     <message>
         <source>This is a test of the mail settings of Kinalyx.</source>
@@ -7850,6 +7938,18 @@ Un teléfono en un trípode que muestra su imagen en la red también es una cám
         <translation>Bienvenido a Kinalyx</translation>
     </message>
     <message>
+        <source>Welcome to the
+Kinalyx
+Motion
+Analysis
+Program</source>
+        <translation>Bienvenido a
+Kinalyx
+Análisis del
+movimiento
+para entrenadores</translation>
+    </message>
+    <message>
         <source>What Is Done to Videos</source>
         <translation>Qué se hace con los vídeos</translation>
     </message>
@@ -7892,6 +7992,10 @@ Un teléfono en un trípode que muestra su imagen en la red también es una cám
     <message>
         <source>What the macro is made of</source>
         <translation>De qué se compone la macro</translation>
+    </message>
+    <message>
+        <source>What the report shows</source>
+        <translation>Lo que muestra el informe</translation>
     </message>
     <message>
         <source>What the student shall read and work on</source>
@@ -8000,6 +8104,10 @@ Un teléfono en un trípode que muestra su imagen en la red también es una cám
     <message>
         <source>Windows at the start</source>
         <translation>Ventanas al inicio</translation>
+    </message>
+    <message>
+        <source>Windows programs</source>
+        <translation>programas de Windows</translation>
     </message>
     <message>
         <source>With</source>
@@ -8194,6 +8302,10 @@ Un teléfono en un trípode que muestra su imagen en la red también es una cám
         <translation>Z - Ampliar vídeos</translation>
     </message>
     <message>
+        <source>Zone</source>
+        <translation>Zona</translation>
+    </message>
+    <message>
         <source>Zone Tool</source>
         <translation>Zona</translation>
     </message>
@@ -8294,6 +8406,10 @@ Un teléfono en un trípode que muestra su imagen en la red también es una cám
         <translation>no se puede comprobar</translation>
     </message>
     <message>
+        <source>centimeter</source>
+        <translation>centímetro</translation>
+    </message>
+    <message>
         <source>click one end, the corner, the other end</source>
         <translation>un extremo, el vértice y el otro extremo</translation>
     </message>
@@ -8310,8 +8426,16 @@ Un teléfono en un trípode que muestra su imagen en la red también es una cám
         <translation>eliminar</translation>
     </message>
     <message>
+        <source>editing programs</source>
+        <translation>programas de edición</translation>
+    </message>
+    <message>
         <source>en</source>
         <translation>es</translation>
+    </message>
+    <message>
+        <source>foot</source>
+        <translation>pie</translation>
     </message>
     <message>
         <source>has run out. Either the server has forgotten to renew it, or the clock of this computer is wrong</source>
@@ -8320,6 +8444,10 @@ Un teléfono en un trípode que muestra su imagen en la red también es una cám
     <message>
         <source>in %1</source>
         <translation>en %1</translation>
+    </message>
+    <message>
+        <source>inch</source>
+        <translation>pulgada</translation>
     </message>
     <message>
         <source>is not valid yet. The clock of this computer may be wrong</source>
@@ -8362,8 +8490,16 @@ Un teléfono en un trípode que muestra su imagen en la red también es una cám
         <translation>servidor de correo</translation>
     </message>
     <message>
+        <source>meter</source>
+        <translation>metro</translation>
+    </message>
+    <message>
         <source>move</source>
         <translation>mover</translation>
+    </message>
+    <message>
+        <source>newer telephones</source>
+        <translation>teléfonos recientes</translation>
     </message>
     <message>
         <source>no decoder</source>
@@ -8406,6 +8542,22 @@ Un teléfono en un trípode que muestra su imagen en la red también es una cám
         <translation>ahora</translation>
     </message>
     <message>
+        <source>old discs</source>
+        <translation>discos antiguos</translation>
+    </message>
+    <message>
+        <source>old imports</source>
+        <translation>importaciones antiguas</translation>
+    </message>
+    <message>
+        <source>old telephones (3GP)</source>
+        <translation>teléfonos antiguos (3GP)</translation>
+    </message>
+    <message>
+        <source>older cameras, DivX, Xvid</source>
+        <translation>cámaras antiguas, DivX, Xvid</translation>
+    </message>
+    <message>
         <source>one click on each picture, which moves on by itself; a right click ends it</source>
         <translation>un clic en cada imagen, que avanza sola; un clic derecho termina</translation>
     </message>
@@ -8436,6 +8588,14 @@ Un teléfono en un trípode que muestra su imagen en la red también es una cám
     <message>
         <source>students</source>
         <translation>alumnos</translation>
+    </message>
+    <message>
+        <source>tape camcorders, imported tape</source>
+        <translation>videocámaras de cinta, cinta importada</translation>
+    </message>
+    <message>
+        <source>telephones, action cameras, camcorders</source>
+        <translation>teléfonos, cámaras deportivas, videocámaras</translation>
     </message>
     <message>
         <source>the clip has no sound</source>
@@ -8494,6 +8654,10 @@ Un teléfono en un trípode que muestra su imagen en la red también es una cám
         <translation>no se pueden leer las notas existentes</translation>
     </message>
     <message>
+        <source>the old web</source>
+        <translation>la web antigua</translation>
+    </message>
+    <message>
         <source>the picture is too large</source>
         <translation>la imagen es demasiado grande</translation>
     </message>
@@ -8542,6 +8706,10 @@ Un teléfono en un trípode que muestra su imagen en la red también es una cám
         <translation>el flujo de vídeo no contiene imágenes</translation>
     </message>
     <message>
+        <source>the web</source>
+        <translation>la web</translation>
+    </message>
+    <message>
         <source>there are a thousand files of that name already</source>
         <translation>ya hay mil archivos con ese nombre</translation>
     </message>
@@ -8586,8 +8754,16 @@ Un teléfono en un trípode que muestra su imagen en la red también es una cám
         <translation>los vídeos de esta clase solo se pueden cortar en algunas imágenes, y no en estas</translation>
     </message>
     <message>
+        <source>webcams, what is imported here</source>
+        <translation>cámaras web, lo que aquí se importa</translation>
+    </message>
+    <message>
         <source>you alone can read the file</source>
         <translation>solo usted puede leer el archivo</translation>
+    </message>
+    <message>
+        <source>{0} {1} {2}</source>
+        <translation>{0} de {1} de {2}</translation>
     </message>
     <message>
         <source>{:g} s ago</source>

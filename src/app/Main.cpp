@@ -93,6 +93,7 @@ QWidget* Main::MakeHeading() {
 QWidget* Main::MakeRail() {
   auto* room = new QScrollArea(this);
   room->setFrameShape(QFrame::NoFrame);
+  room->setFocusPolicy(Qt::NoFocus);
   room->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   room->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   room->setWidgetResizable(true);

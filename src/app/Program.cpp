@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "capture/forms/CaptureSection.h"
+#include "core/Heading.h"
 #include "core/forms/FirstForm.h"
 #include "core/forms/HelpPage.h"
 #include "core/forms/LanguagePanel.h"
@@ -221,7 +222,7 @@ void Program::LoadMain() {
   help_ = new HelpPage(Q(JoinPath(settings_.AppPath, "help")));
   main_->SetPage(kHelpPage, help_);
 
-  main_->SetCompany(Q(settings_.CompanyName));
+  main_->SetCompany(Q(ShownCompany(settings_)));
   SetupVocabulary();
   setup_->SetupProgram();
 

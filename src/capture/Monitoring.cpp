@@ -68,7 +68,7 @@ Outcome Monitoring::Prepare(IGraph& graph, int cameras, bool second) {
   const TriggerWindow window = Window();
   for (int camera = 0; camera < cameras; ++camera) {
     auto* block = graph.GraphFilterByLabel<IBlockRecordingFilter>(kBlocks[camera]);
-    if (!block) return Outcome::Failed("This graph remembers nothing.");
+    if (!block) return Outcome::Failed(Tr("This graph remembers nothing."));
     block->SetBound(bound);
     block->BlockRecordingSetStart(window.start);
     block->BlockRecordingSetEnd(window.end);

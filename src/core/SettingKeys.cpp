@@ -1,5 +1,6 @@
 #include <fmt/format.h>
 
+#include "core/Heading.h"
 #include "core/MenuPicture.h"
 #include "core/LibraryPath.h"
 #include "core/Settings.h"
@@ -20,15 +21,15 @@ std::vector<Settings::Key> Settings::ConfigKeys() {
   add("WindowMode", "1", &WindowMode);
   add("ScreenMode", "1", &ScreenMode);
   add("UserName", "", &UserName);
-  add("CompanyName", "Company Name", &CompanyName);
+  add("CompanyName", kNoCompany, &CompanyName);
   add("UseNetwork", "False", &UseNetwork);
   add("LibraryPath", LocalLibraryPath(*this), &LibraryPath);
   add("Logo", "True", &Logo);
   add("LogoName", JoinPath(AppPath, "pictures/Logo.jpg"), &LogoName);
   add("BackgroundPic", DefaultBackground(*this), &BackgroundPic);
   add("CaptionPosition", "1", &CaptionPosition);
-  const char* const kHeadings[] = {"Welcome to the", "Kinalyx", "Motion", "Analysis", "Program"};
-  for (std::size_t i = 1; i <= 5; ++i) add(fmt::format("Heading{}", i), kHeadings[i - 1], &Heading[i]);
+  const HeadingLines heading = FirstHeading();
+  for (std::size_t i = 1; i <= kHeadingLines; ++i) add(fmt::format("Heading{}", i), heading[i - 1], &Heading[i]);
   add("Exporter", "A:\\", &Exporter);
   add("CDBurner", "0", &CDBurner);
   add("UpdateCheck", "0", &UpdateCheck);

@@ -50,11 +50,6 @@ bool Vocabulary::IsUsual() const {
   return settings_.PrimaryName == std::array<std::string, 3>{kUsualNoun, "student", "students"};
 }
 
-std::array<std::string, 4> Vocabulary::InEnglish() const {
-  const std::array<std::string, 3>& stored = settings_.PrimaryName;
-  return {stored[0], stored[1], stored[2], Plural(stored[0], kEnglish)};
-}
-
 std::string Vocabulary::Noun() const { return IsUsual() ? Tr("Student") : settings_.PrimaryName[0]; }
 
 std::string Vocabulary::noun() const {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <string>
 
 #include "core/Settings.h"
@@ -18,9 +17,6 @@ class Vocabulary {
   std::string noun() const;   ///< "student"
   std::string nouns() const;  ///< "students"
   std::string Nouns() const;  ///< "Students", heading of lists
-
-  /// The same four, in that order, for texts that are English in every language: the words as they are stored.
-  std::array<std::string, 4> InEnglish() const;
 
   std::string Profiles() const;             ///< "Student Profiles"
   std::string Profile() const;              ///< "Student Profile"

@@ -66,7 +66,7 @@ class Reading {
     auto folder = std::make_shared<IndexedFolder>();
     folder->instructor = instructor;
     folder->student = IndexedText(student);
-    folder->place = folder->student.findable + " " + Findable(instructor);
+    folder->place = folder->student.findable + " " + Findable(ShownInstructor(instructor));
     std::ranges::copy(stamps, folder->stamps);
     if (!student.empty()) ReadPerson(*folder, path, fields_);
     ReadVideos(*folder, path);
@@ -159,7 +159,8 @@ class Group {
 };
 
 std::string PlaceOf(const IndexedFolder& folder) {
-  return folder.student.text.empty() ? folder.instructor : folder.student.text + "  \u00B7  " + folder.instructor;
+  const std::string instructor = ShownInstructor(folder.instructor);
+  return folder.student.text.empty() ? instructor : folder.student.text + "  \u00B7  " + instructor;
 }
 
 /// The first of the words that is in a text.
@@ -210,7 +211,7 @@ SearchResult FindIn(const LibraryIndex& index, std::string_view typed) {
   const std::vector<bool> nothing(words.size());
   for (const IndexedText& instructor : index.instructors) {
     people.Add(FitOf(instructor.findable, words, nothing), [&instructor] {
-      return SearchHit{SearchHit::Kind::Instructor, instructor.text, {}, {}, instructor.text,
+      return SearchHit{SearchHit::Kind::Instructor, instructor.text, {}, {}, ShownInstructor(instructor.text),
                        Tr("Instructor or database")};
     });
   }

@@ -227,7 +227,7 @@ std::string LibraryOperations::RefuseUnlessVideoChangeable(const LibraryVideo& v
 std::string LibraryOperations::RefuseUnlessInstructorChangeable(const std::string& instructor, Change change) {
   if (instructor.empty() || instructor == kGeneralFolder) return Tr("You must select an Instructor or Database first.");
   if (instructor == kQuickLaunch)
-    return Tr("The folder {} belongs to the program. You cannot {} it.", instructor, VerbOf(change));
+    return Tr("The folder {} belongs to the program. You cannot {} it.", ShownInstructor(instructor), VerbOf(change));
   const std::string folder = tree_.InstructorFolder(instructor);
   std::string refusal = Obstacle();
   if (refusal.empty()) refusal = OpenVideoIn(folder, Tr("{} this database", VerbOf(change)));

@@ -9,6 +9,10 @@
 
 namespace kinalyx {
 
+std::string ShownInstructor(const std::string& instructor) {
+  return instructor == kGeneralFolder || instructor == kQuickLaunch ? Tr(instructor) : instructor;
+}
+
 bool IsValidName(std::string_view text) {
   constexpr std::string_view kForbidden = "\\/:*?\"<>|!@#$%^&+={}[]~`;'";
   if (text.empty() || text.front() == '.') return false;

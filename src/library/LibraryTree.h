@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/files/Tr.h"
+
 namespace kinalyx {
 
 class Settings;
@@ -12,10 +14,13 @@ class Settings;
 /// The library is a folder tree and nothing else: instructors (or databases) under the root, students
 /// under an instructor, videos in a student's folder. Every list is read from the disk when it is shown.
 
-inline constexpr std::string_view kGeneralFolder = "General Folder";  ///< no folder: the root itself
-inline constexpr std::string_view kQuickLaunch = "Quick Launch";      ///< videos lie directly in it
+inline constexpr std::string_view kGeneralFolder = TrLater("General Folder");  ///< no folder: the root itself
+inline constexpr std::string_view kQuickLaunch = TrLater("Quick Launch");      ///< videos lie directly in it
 inline constexpr std::string_view kProfessionals = "Professionals";
 inline constexpr std::string_view kModelSwings = "Model Swings";
+
+/// An instructor as lists and messages show it: the two that belong to the program in the user's language.
+std::string ShownInstructor(const std::string& instructor);
 
 /// The one rule for names of folders and videos: not empty, and none of \ / : * ? " < > | ! @ # $ % ^ & +
 /// = { } [ ] ~ ` ; ' in it. Refused too are control characters and a dot at the beginning, which would

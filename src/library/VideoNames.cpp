@@ -15,6 +15,8 @@ namespace kinalyx {
 namespace {
 
 constexpr std::string_view kAvi = ".avi";
+constexpr std::string_view kDrawings = ".ved";
+constexpr std::string_view kStudy = ".study";
 constexpr std::string_view kEndings[] = {kAvi,   ".mp4",  ".mov", ".m4v", ".mkv", ".webm", ".mts", ".m2ts", ".ts",
                                          ".mpg", ".mpeg", ".wmv", ".3gp", ".vob", ".flv",  ".ogg", ".asf"};
 
@@ -45,6 +47,17 @@ void Gather(const std::string& folder, int depth, std::vector<std::string>& vide
   for (const std::string& below : ListFolders(folder)) Gather(JoinPath(folder, below), depth - 1, videos);
 }
 
+/// The video whose drawings or study a file holds; empty when it holds neither, or the video has gone.
+std::string VideoOf(const std::string& path) {
+  const std::string ending = FoldCase(EndingOf(path));
+  if ((ending != kDrawings && ending != kStudy) || !FileExists(path)) return {};
+  const std::string folder = FolderOf(path);
+  const std::string sidecar = FoldCase(VideoName(path)) + std::string(kDrawings);
+  for (const std::string& file : ListVideos(folder))
+    if (FoldCase(SidecarName(file)) == sidecar) return JoinPath(folder, file);
+  return {};
+}
+
 }  // namespace
 
 std::vector<std::string> VideosAmong(const std::vector<std::string>& paths) {
@@ -52,6 +65,7 @@ std::vector<std::string> VideosAmong(const std::vector<std::string>& paths) {
   for (const std::string& path : paths) {
     if (dirExists(path)) Gather(path, kDeepest, videos);
     else if (IsVideoName(path) && FileExists(path)) videos.push_back(path);
+    else if (const std::string video = VideoOf(path); !video.empty()) videos.push_back(video);
   }
   std::set<std::string> seen;
   std::erase_if(videos, [&](const std::string& path) { return !seen.insert(path).second; });
@@ -93,12 +107,12 @@ bool SameFormat(std::string_view file, std::string_view other) {
 
 std::string SidecarName(std::string_view videoPath) {
   const std::string name = LastName(videoPath);
-  return IsAvi(name) ? VideoName(name) + ".ved" : name + ".ved";
+  return (IsAvi(name) ? VideoName(name) : name) + std::string(kDrawings);
 }
 
 std::string StudyName(std::string_view videoPath) {
   const std::string sidecar = SidecarName(videoPath);
-  return sidecar.substr(0, sidecar.size() - 4) + ".study";
+  return sidecar.substr(0, sidecar.size() - kDrawings.size()) + std::string(kStudy);
 }
 
 }  // namespace kinalyx

@@ -14,8 +14,9 @@ bool IsVideoName(std::string_view file);
 /// Names of the videos in a folder, sorted as ListFiles sorts them.
 std::vector<std::string> ListVideos(const std::string& folder);
 
-/// The videos among files and folders: of a folder all that lie in it and below it, hidden folders left out. Each
-/// once, in the order of `paths`.
+/// The videos among files and folders: of a folder all that lie in it and below it, hidden folders left out; of
+/// drawings or a study, as file managers hand them over, the video that they belong to. Each once, in the order of
+/// `paths`.
 std::vector<std::string> VideosAmong(const std::vector<std::string>& paths);
 /// All endings for the filter of a file dialog.
 std::string VideoFilter();

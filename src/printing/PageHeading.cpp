@@ -4,6 +4,7 @@
 #include <cmath>
 #include <optional>
 
+#include "core/Heading.h"
 #include "platform/files/Folders.h"
 #include "platform/host/DriveWatch.h"
 #include "platform/paint/Blend.h"
@@ -41,7 +42,7 @@ PageFont PrintFont(double points, bool bold) { return {"Times New Roman", points
 
 PageHeading ReadHeading(IHost& host, const Settings& settings) {
   PageHeading heading;
-  std::copy(settings.Heading.begin() + 1, settings.Heading.end(), heading.lines.begin());
+  heading.lines = ShownHeading(settings);
   heading.withLogo = settings.Logo;
   if (!heading.withLogo) return heading;
   const auto read = host.Drives().Ask(FolderOf(settings.LogoName), [path = settings.LogoName] {

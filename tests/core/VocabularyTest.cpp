@@ -6,6 +6,7 @@
 #include <string_view>
 #include <utility>
 
+#include "core/Heading.h"
 #include "support/TestDesk.h"
 
 namespace kinalyx::test {
@@ -74,7 +75,19 @@ TEST(Vocabulary, TheFirstWordIsSaidInTheLanguageAndStoredInEnglish) {
   for (const char* same : {"Schüler", "Student"}) EXPECT_FALSE(SetPrimaryName(german.desk.settings, same)) << same;
   EXPECT_EQ(german.desk.OnDisk("Layout", "PrimaryName0"), "Student");
   EXPECT_EQ(german.desk.OnDisk("Layout", "PrimaryName2"), "students");
-  EXPECT_EQ(german.words.InEnglish(), (std::array<std::string, 4>{"Student", "student", "students", "Students"}));
+}
+
+TEST(Heading, IsSaidInTheLanguageWhereTheUserHasTypedNothing) {
+  Spoken german({{"Welcome to the\nKinalyx\nMotion\nAnalysis\nProgram", "Willkommen bei\nKinalyx\nAnalyse"},
+                 {"Company Name", "Firmenname"}});
+  Settings& settings = german.desk.settings;
+  EXPECT_EQ(ShownHeading(settings), (HeadingLines{"Willkommen bei", "Kinalyx", "Analyse", "", ""}));
+  EXPECT_EQ(ShownCompany(settings), "Firmenname");
+  EXPECT_EQ(german.desk.OnDisk("General", "Heading1"), "Welcome to the");
+  settings.Set(settings.Heading[3], "Żaba Golf");
+  settings.Set(settings.CompanyName, "Club");
+  EXPECT_EQ(ShownHeading(settings), (HeadingLines{"Willkommen bei", "Kinalyx", "Żaba Golf", "", ""}));
+  EXPECT_EQ(ShownCompany(settings), "Club");
 }
 
 TEST(Vocabulary, TheUsersOwnWordIsSaidAsTyped) {

@@ -130,6 +130,7 @@ TEST_F(CapturePageTest, KnobsAreThoseThatTheCameraTellsOfWhenItDoes) {
   EXPECT_TRUE(form.findChild<QLabel*>("CameraNoKnobs")->text().startsWith("Asking"));
   devices.controls.resize(3);
   for (std::uint32_t i = 0; i < 3; ++i) devices.controls[i].id = i + 1;
+  for (CameraControl& control : devices.controls) control.name = "Sharpness";
   devices.controls[0].high = devices.controls[2].high = 255;
   devices.controls[0].standard = 128;
   devices.controls[1].kind = CameraControl::Kind::Switch;

@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <memory>
 
+#include "NamesWatch.h"
+
 namespace kinalyx::test {
 
 /// The one application object of all tests of forms. It must go before the program's other statics do, so
@@ -16,11 +18,17 @@ class ApplicationForTests final : public ::testing::Environment {
     static char name[] = "test";
     static char* argv[] = {name, nullptr};
     application_ = std::make_unique<QApplication>(argc, argv);
+    names_ = std::make_unique<NamesWatch>(*application_);
   }
-  void TearDown() override { application_.reset(); }
+  void TearDown() override {
+    for (const std::string& control : names_->Nameless()) ADD_FAILURE() << "no name for a screen reader: " << control;
+    names_.reset();
+    application_.reset();
+  }
 
  private:
   std::unique_ptr<QApplication> application_;
+  std::unique_ptr<NamesWatch> names_;
 };
 
 // The test framework owns it.

@@ -142,6 +142,7 @@ TEST_F(MailFormTest, APanelTellsOverTheStage) {
 TEST(LoneCtrlTest, CtrlIsAKeyOfItsOwnOnlyWhenItComesAlone) {
   QWidget page;
   QLineEdit box(&page);
+  box.setAccessibleName("box");
   page.show();
   page.activateWindow();
   box.setFocus();

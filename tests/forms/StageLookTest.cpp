@@ -71,7 +71,9 @@ TEST_F(StageLookTest, AChangeOfColoursReachesEveryWindowAndEveryCard) {
   for (FloatCard* card : {shown, hidden}) {
     card->Body()->addWidget(new QLabel("Words", card));
     card->Body()->addWidget(new QRadioButton("Inches", card));
-    card->Body()->addWidget(new QLineEdit(card));
+    auto* box = new QLineEdit(card);
+    box->setAccessibleName("Length");
+    card->Body()->addWidget(box);
   }
   window.show();
   shown->Open();

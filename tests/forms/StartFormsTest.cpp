@@ -277,7 +277,7 @@ TEST(HelpPage, FollowsLinksAndComesBack) {
   Desk desk;
   SetPrimaryName(desk.settings, "R & D");
   folder.Put("index.htm",
-             "<html><body>A student of <a href=\"students.htm\">Students</a>, the student's</body></html>");
+             "<html><body>A {student} of <a href=\"students.htm\">{Students}</a>, the {student}'s</body></html>");
   page.SetupVocabulary(Vocabulary(desk.settings));
   EXPECT_EQ(browser->toPlainText(), "A r & d of R & Ds, the r & d's");
   EXPECT_TRUE(browser->toHtml().contains("students.htm"));

@@ -3,7 +3,10 @@
 #include "library/LibraryBrowser.h"
 #include "library/Sidecar.h"
 #include "library/TodayText.h"
+#include "library/VideoNames.h"
 #include "library/VideoStats.h"
+#include "platform/files/Folders.h"
+#include "support/TempFolder.h"
 #include "library/TempLibrary.h"
 
 namespace kinalyx {
@@ -67,6 +70,21 @@ TEST_F(LibraryBrowserTest, ListsVideosOfEveryKindWithTheMarkOfTheirFormat) {
   EXPECT_EQ(SidecarPath(library.Path("Demo/Tom/swing.avi")), library.Path("Demo/Tom/swing.ved"));
   EXPECT_EQ(SidecarPath(library.Path("Demo/Tom/swing.mp4")), library.Path("Demo/Tom/swing.mp4.ved"));
   EXPECT_EQ(SidecarPath(library.Path("Demo/Tom/a.b.m2ts")), library.Path("Demo/Tom/a.b.m2ts.ved"));
+}
+
+// As file managers hand them over, which know drawings as files of the program's own.
+TEST(VideosAmong, TakesDrawingsAndStudiesForTheirVideo) {
+  const test::TempFolder folder;
+  for (const char* file : {"Żaba.AVI", "Żaba.ved", "Żaba.study", "b.mp4", "b.mp4.ved", "gone.ved", "b.ved"})
+    folder.Put(file, "");
+  const auto among = [&](std::vector<std::string> files) {
+    for (std::string& file : files) file = folder.Path(file);
+    std::vector<std::string> videos = VideosAmong(files);
+    for (std::string& video : videos) video = LastName(video);
+    return videos;
+  };
+  EXPECT_EQ(among({"b.mp4.ved", "Żaba.study", "Żaba.ved", "Żaba.AVI"}), (Names{"b.mp4", "Żaba.AVI"}));
+  EXPECT_EQ(among({"gone.ved", "b.ved", "nowhere.ved"}), Names{});
 }
 
 TEST_F(LibraryBrowserTest, OneListRestoresWhatAnotherChose) {

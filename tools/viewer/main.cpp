@@ -4,6 +4,7 @@
 #include <clocale>
 
 #include "platform/files/Folders.h"
+#include "platform/files/Languages.h"
 #include "platform/graph/SoundOutput.h"
 #include "platform/media/MediaLog.h"
 #include "platform/widgets/Text.h"
@@ -16,6 +17,7 @@ int main(int argc, char** argv) {
   QApplication::setApplicationName("Kinalyx Viewer");
   using namespace kinalyx;
   SetMediaLog(nullptr);
+  SpeakLanguage(application, ":/words", {});
   ApplyTheme(application, CurrentTheme());
   const QStringList arguments = QApplication::arguments();
   // A folder may be named; as a rule it is the one in which the viewer lies.

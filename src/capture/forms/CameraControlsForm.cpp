@@ -35,6 +35,7 @@ CameraControlsForm::CameraControlsForm(IDevices& devices, const std::string& cam
   rows->addWidget(MakeLabel("CameraName", windowTitle(), "title"));
   auto* scroll = new QScrollArea;
   scroll->setFrameShape(QFrame::NoFrame);
+  scroll->setFocusPolicy(Qt::NoFocus);
   scroll->setWidgetResizable(true);
   auto* ground = new QWidget;
   ground->setProperty("look", "clear");
@@ -128,6 +129,7 @@ QWidget* CameraControlsForm::MakeKnob(const CameraControl& control) {
     case CameraControl::Kind::Switch: {
       auto* box = new QCheckBox;
       box->setObjectName(object);
+      box->setAccessibleName(name->text());
       box->setChecked(control.value != 0);
       row->addWidget(box, 1);
       connect(box, &QCheckBox::toggled, this, [this, id = control.id](bool on) { Set(id, on ? 1 : 0); });
@@ -136,6 +138,7 @@ QWidget* CameraControlsForm::MakeKnob(const CameraControl& control) {
     case CameraControl::Kind::Choice: {
       auto* list = new QComboBox;
       list->setObjectName(object);
+      list->setAccessibleName(name->text());
       for (int i = 0; i < static_cast<int>(control.choices.size()); ++i)
         if (!control.choices[static_cast<std::size_t>(i)].empty())
           list->addItem(Q(control.choices[static_cast<std::size_t>(i)]), i);
@@ -148,6 +151,7 @@ QWidget* CameraControlsForm::MakeKnob(const CameraControl& control) {
     case CameraControl::Kind::Number: {
       auto* slider = new QSlider(Qt::Horizontal);
       slider->setObjectName(object);
+      slider->setAccessibleName(name->text());
       slider->setRange(control.low, control.high);
       slider->setSingleStep(control.step);
       slider->setValue(control.value);

@@ -11,6 +11,7 @@
 #include <tuple>
 
 #include "core/ColorSchemes.h"
+#include "core/Heading.h"
 #include "core/MailSettings.h"
 #include "core/Settings.h"
 #include "platform/files/Tr.h"
@@ -23,9 +24,6 @@
 namespace kinalyx {
 
 namespace {
-
-/// What the settings hold before anybody has given a company.
-constexpr const char* kNoCompany = "Company Name";
 
 QLineEdit* AddBox(QVBoxLayout& rows, const QString& name, const QString& words) {
   QLabel* label = MakeLabel(name + "Lbl", words, "caption");

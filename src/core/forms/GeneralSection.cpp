@@ -11,6 +11,7 @@
 #include <QStyleOptionFrame>
 
 #include "core/ColorSchemes.h"
+#include "core/Heading.h"
 #include "core/LibraryPath.h"
 #include "core/SystemTests.h"
 #include "core/Vocabulary.h"
@@ -86,7 +87,7 @@ void GeneralSection::AddWho() {
   noun_->setPlaceholderText(tr("Student"));
   connect(name_, &QLineEdit::textChanged, this, [this](const QString& text) { Store(settings_.UserName, Std(text)); });
   connect(company_, &QLineEdit::textChanged, this, [this](const QString& text) {
-    if (Store(settings_.CompanyName, Std(text))) emit CompanyChanged(text);
+    if (Std(text) != ShownCompany(settings_) && Store(settings_.CompanyName, Std(text))) emit CompanyChanged(text);
   });
   connect(noun_, &QLineEdit::editingFinished, this, &GeneralSection::Text3_LostFocus);
 }
@@ -168,7 +169,7 @@ void GeneralSection::AddSystemTest() {
 
 void GeneralSection::SetupProgram() {
   ShowText(name_, settings_.UserName);
-  ShowText(company_, settings_.CompanyName);
+  ShowText(company_, ShownCompany(settings_));
   ShowText(noun_, Vocabulary(settings_).Noun());
   // A mode that the list does not offer leaves it without a choice.
   resolution_->setCurrentIndex(resolution_->findData(Q(settings_.WindowMode)));

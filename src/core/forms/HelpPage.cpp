@@ -8,10 +8,10 @@
 #include <QRegularExpression>
 #include <QTextBrowser>
 #include <algorithm>
-#include <array>
 #include <string>
 
 #include "core/Vocabulary.h"
+#include "platform/files/Tr.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
@@ -33,16 +33,17 @@ class Reader : public QTextBrowser {
 
   void SetupVocabulary(const Vocabulary& words) {
     const auto text = [](const std::string& word) { return Q(word).toHtmlEscaped(); };
-    const std::array<std::string, 4> own = words.InEnglish();  // as the pages are
-    words_ = {
-        {"Student", text(own[0])}, {"student", text(own[1])}, {"students", text(own[2])}, {"Students", text(own[3])}};
+    words_ = {{"Student", text(words.Noun())},
+              {"student", text(words.noun())},
+              {"students", text(words.nouns())},
+              {"Students", text(words.Nouns())}};
     reload();
   }
 
  protected:
   QVariant loadResource(int type, const QUrl& name) override {
     const QVariant loaded = QTextBrowser::loadResource(type, name);
-    if (type != QTextDocument::HtmlResource || words_.isEmpty()) return loaded;
+    if (type != QTextDocument::HtmlResource) return loaded;
     return InWords(QString::fromUtf8(loaded.toByteArray()));
   }
 
@@ -62,15 +63,14 @@ class Reader : public QTextBrowser {
     if (viewportMargins().left() != side) setViewportMargins(side, 18, side, 18);
   }
 
-  /// Tags keep their words: the names of pages and pictures stand there.
+  /// The page with the user's words in their places: "{student}", "{Students}" ...
   QString InWords(const QString& page) const {
-    static const QRegularExpression kTagOrWord("<[^>]*>|\\b[Ss]tudents?\\b");
+    static const QRegularExpression kPlace("\\{([Ss]tudents?)\\}");
     QString result;
     qsizetype done = 0;
-    for (auto found = kTagOrWord.globalMatch(page); found.hasNext();) {
+    for (auto found = kPlace.globalMatch(page); found.hasNext();) {
       const auto match = found.next();
-      result += page.mid(done, match.capturedStart() - done);
-      result += words_.value(match.captured(), match.captured());
+      result += page.mid(done, match.capturedStart() - done) + words_.value(match.captured(1), match.captured(1));
       done = match.capturedEnd();
     }
     return result + page.mid(done);
@@ -115,7 +115,8 @@ HelpPage::HelpPage(const QString& folder, QWidget* parent) : PageWidget(parent),
 }
 
 void HelpPage::Navigate(const QString& page) {
-  const QString file = folder_ + "/" + page;
+  QString file = folder_ + "/" + Q(Tr("en")) + "/" + page;
+  if (!QFileInfo::exists(file)) file = folder_ + "/" + page;  // in English, in which all pages are
   if (!QFileInfo::exists(file)) {
     browser_->setPlainText(tr("The help pages are missing. They should lie in %1.").arg(folder_));
     return;

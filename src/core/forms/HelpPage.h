@@ -10,7 +10,8 @@ class Button;
 class Reader;
 class Vocabulary;
 
-/// Shows the help pages that lie beside the program. Links to the outside go to the desktop's browser.
+/// Shows the help pages that lie beside the program, in the user's language where a folder of its code has them
+/// ("de/index.htm"). Links to the outside go to the desktop's browser.
 class HelpPage : public PageWidget {
   Q_OBJECT
 
@@ -18,9 +19,9 @@ class HelpPage : public PageWidget {
   /// @param folder  where `index.htm` lies
   explicit HelpPage(const QString& folder, QWidget* parent = nullptr);
 
-  /// Opens a page of the folder, "index.htm" the first.
+  /// Opens a page by its name, "index.htm" the first.
   void Navigate(const QString& page);
-  /// Takes over the word for the person under analysis: the pages are written with "student".
+  /// Takes over the word for the person under analysis, for which pages have places: "{student}", "{Students}" ...
   void SetupVocabulary(const Vocabulary& words);
 
  protected:

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/Heading.h"
 #include "core/MenuPicture.h"
 #include "platform/files/Folders.h"
 #include "platform/host/DriveWatch.h"
@@ -110,7 +111,7 @@ void MenuCanvas::SetupMenu(IHost& host, Settings& settings) {
 
 void MenuCanvas::SetupCaptionLabels(const Settings& settings) {
   lines_.clear();
-  for (std::size_t i = 1; i <= 5; ++i) lines_ << Q(settings.Heading[i]).trimmed();
+  for (const std::string& line : ShownHeading(settings)) lines_ << Q(line).trimmed();
   position_ = settings.CaptionPosition;
   setAccessibleName(lines_.join(' ').simplified());
   update();

@@ -31,7 +31,11 @@ MenuPage::MenuPage(IHost& host, Settings& settings, QWidget* parent)
   rows->setContentsMargins(0, 10, 12, 0);
   setup_ = IconButton("MenuSetupBtn", "palette", tr("Change the picture or move the heading"), Look::Stage);
   setup_->setProperty("over", "picture");
-  rows->addWidget(setup_, 0, Qt::AlignRight);
+  auto* head = new QHBoxLayout;
+  head->setContentsMargins(12, 0, 0, 0);  // where the desktop reads from right to left it stands at this end
+  head->addStretch(1);
+  head->addWidget(setup_);
+  rows->addLayout(head);
   rows->addStretch(1);
   row_ = new QHBoxLayout;
   for (int i = 1; i < static_cast<int>(tiles_.size()); ++i) {

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 
+#include "core/Heading.h"
 #include "core/MenuPicture.h"
 #include "core/forms/MenuCanvas.h"
 #include "platform/files/Folders.h"
@@ -52,7 +53,8 @@ void MenuSection::AddHeading() {
     lines_[i]->setMaxLength(149);
     heading->addWidget(lines_[i]);
     connect(lines_[i], &QLineEdit::textChanged, this, [this, i](const QString& text) {
-      if (!Store(settings_.Heading[static_cast<std::size_t>(i + 1)], Std(text))) return;
+      const auto line = static_cast<std::size_t>(i);
+      if (Std(text) == ShownHeading(settings_)[line] || !Store(settings_.Heading[line + 1], Std(text))) return;
       sample_->SetupCaptionLabels(settings_);
       emit MenuChanged();
     });
@@ -150,8 +152,9 @@ void MenuSection::ShowLogo() {
 }
 
 void MenuSection::SetupProgram() {
+  const HeadingLines heading = ShownHeading(settings_);
   for (int i = 0; i < 5; ++i) {
-    const QString line = Q(settings_.Heading[static_cast<std::size_t>(i + 1)]);
+    const QString line = Q(heading[static_cast<std::size_t>(i)]);
     if (lines_[i]->text() != line) lines_[i]->setText(line);
   }
   sample_->SetupMenu(host_, settings_);

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "core/ColorSchemes.h"
+#include "core/Heading.h"
 #include "core/Settings.h"
 #include "core/Vocabulary.h"
 #include "core/forms/AnalysisSection.h"
@@ -135,7 +136,7 @@ void SetupPage::TakeReloaded() {
   SetupVocabulary();
   emit DesignChanged();
   emit VocabularyChanged();
-  emit CompanyChanged(Q(settings_.CompanyName));
+  emit CompanyChanged(Q(ShownCompany(settings_)));
   emit MenuChanged();
   emit LibraryChanged();
   emit AnalysisChanged();

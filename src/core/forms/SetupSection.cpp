@@ -35,6 +35,7 @@ SetupSection::SetupSection(const QString& name, Settings& settings, QWidget* par
   setFrameShape(QFrame::NoFrame);
   setWidgetResizable(true);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setFocusPolicy(Qt::NoFocus);
   auto* ground = new QWidget;
   ground->setProperty("look", "clear");
   auto* row = new QHBoxLayout(ground);

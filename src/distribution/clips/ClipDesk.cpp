@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <utility>
 
+#include "core/Heading.h"
 #include "library/LibraryTree.h"
 #include "platform/files/Folders.h"
 #include "platform/files/Tr.h"
@@ -18,7 +19,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* kLessons = "Lessons";
-constexpr int kHeadings = 5;
 constexpr int kLoopRate = 15;  // pictures in a second
 
 std::string Seconds(AnalysisWorkspace& analysis, int slot, int position) {
@@ -113,8 +113,8 @@ ClipWish ClipDesk::Proposal(AnalysisWorkspace& analysis) const {
 
 ClosingCard ClipDesk::Card() const {
   ClosingCard card;
-  for (std::size_t i = 1; i <= kHeadings; ++i)
-    if (!IsBlank(settings_.Heading[i])) card.Lines.push_back(settings_.Heading[i]);
+  for (const std::string& line : ShownHeading(settings_))
+    if (!IsBlank(line)) card.Lines.push_back(line);
   if (settings_.Logo) card.LogoPath = settings_.LogoName;
   return card;
 }

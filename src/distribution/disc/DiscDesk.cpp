@@ -4,6 +4,7 @@
 #include <ctime>
 #include <utility>
 
+#include "core/Heading.h"
 #include "distribution/send/FilesToSend.h"
 #include "library/LibraryTree.h"
 #include "platform/files/Folders.h"
@@ -197,7 +198,7 @@ DiscOrder DiscDesk::OrderFor(const std::vector<FileToSend>& files, bool page) co
           .Page = page,
           .Label = LabelFor(student, today),
           .Coach = settings_.UserName,
-          .Company = settings_.CompanyName,
+          .Company = ShownCompany(settings_),
           .Student = student,
           .Today = today,
           .WorkFolder = places_.WorkFolder,

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <set>
 
+#include "core/Heading.h"
 #include "distribution/web/WebNames.h"
 #include "library/VideoNames.h"
 #include "platform/files/TextEncoding.h"
@@ -17,7 +18,6 @@ constexpr const char* kNoNames =
     TrLater("You must fill in your name and Company name in Program Setup to use this feature.");
 constexpr const char* kNoSpace =
     TrLater("Enter the web address and the FTP address of your web space in Program Setup first.");
-constexpr std::string_view kNoCompany = "Company Name";  // as it stands before anybody has filled it in
 constexpr std::string_view kFolder = "videos/";
 
 bool IsBlankText(std::string_view text) { return Trimmed(text, " ").empty(); }

@@ -192,7 +192,7 @@ void ImportExportPage::ShowDropTarget() {
   const LibraryBrowser& library = here_->Browser();
   if (library.HasStudent()) Say(tr("Drop to copy the videos to %1.").arg(Q(library.Student())));
   else if (library.IsGeneralFolder() || library.IsQuickLaunch())
-    Say(tr("Drop to copy the videos to %1.").arg(Q(library.Instructor())));
+    Say(tr("Drop to copy the videos to %1.").arg(Q(ShownInstructor(library.Instructor()))));
   else Say(tr("Select the %1 who is to get the videos first.").arg(Q(Vocabulary(settings_).noun())));
 }
 

@@ -43,8 +43,14 @@ LibraryLists::LibraryLists(LibraryBrowser& browser, const Settings& settings, QO
   for (NameList* list : {instructors_, students_, videos_}) list->installEventFilter(this);
 }
 
+QStringList LibraryLists::InstructorNames() const {
+  QStringList names;
+  for (const std::string& instructor : browser_.InstructorList()) names << Q(ShownInstructor(instructor));
+  return names;
+}
+
 void LibraryLists::ShowAll() {
-  instructors_->Fill(Q(browser_.InstructorList()), browser_.InstructorIndex());
+  instructors_->Fill(InstructorNames(), browser_.InstructorIndex());
   emit InstructorChosen();
   ShowStudents();
 }
@@ -62,7 +68,7 @@ bool LibraryLists::Leave() {
   QMetaObject::invokeMethod(
       this,
       [this] {
-        instructors_->Fill(Q(browser_.InstructorList()), browser_.InstructorIndex());
+        instructors_->Fill(InstructorNames(), browser_.InstructorIndex());
         students_->Fill(Q(browser_.StudentList()), browser_.StudentIndex());
         ShowCount();
       },

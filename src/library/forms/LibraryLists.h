@@ -57,6 +57,7 @@ class LibraryLists : public QObject {
 
  private:
   bool Leave();
+  QStringList InstructorNames() const;
   void ShowCount();
   bool RootGone();
   void WatchSilence();

@@ -23,6 +23,7 @@ ProfileEditor::ProfileEditor(const Settings& settings, QWidget* parent)
   auto* scroll = new QScrollArea;
   scroll->setWidgetResizable(true);
   scroll->setFrameShape(QFrame::NoFrame);
+  scroll->setFocusPolicy(Qt::NoFocus);
   auto* body = new QWidget;
   body->setProperty("look", "clear");
   auto* rows = new QVBoxLayout(body);

@@ -9,6 +9,7 @@
 #include <optional>
 #include <utility>
 
+#include "core/Heading.h"
 #include "core/Settings.h"
 #include "library/forms/Divider.h"
 #include "library/forms/FieldGrid.h"
@@ -131,7 +132,7 @@ void ProfilePanel::PrintNotes() {
     return;
   }
   const Outcome printed =
-      printer_.Print({LastName(notes_.StudentFolder()), vocabulary_.Notes(), notes, settings_.CompanyName});
+      printer_.Print({LastName(notes_.StudentFolder()), vocabulary_.Notes(), notes, ShownCompany(settings_)});
   if (printed.Kind() == Fault::Failed)
     host_.Message(MessageKind::Warning, vocabulary_.Notes(), Tr("The notes were not printed. {}", printed.Why()));
   else emit Said(printed ? tr("The notes were printed.") : tr("The notes were not printed."));

@@ -271,7 +271,7 @@ void ProfilesPage::ShowDropTarget(QPoint at) {
   const std::string student = StudentAt(at);
   if (!student.empty()) Say(tr("Drop to copy the videos to %1.").arg(Q(student)));
   else if (browser_.IsGeneralFolder() || browser_.IsQuickLaunch())
-    Say(tr("Drop to copy the videos to %1.").arg(Q(browser_.Instructor())));
+    Say(tr("Drop to copy the videos to %1.").arg(Q(ShownInstructor(browser_.Instructor()))));
   else Say(tr("Drop the videos on the name of a %1.").arg(Q(vocabulary_.noun())));
 }
 

@@ -4,6 +4,7 @@
 
 #include <utility>
 
+#include "platform/files/Tr.h"
 #include "platform/graph/GstHandles.h"
 
 namespace kinalyx {
@@ -65,8 +66,8 @@ class Plug {
     gst_element_sync_state_with_parent(inner_);
     const GstRef<GstPad> in(gst_element_get_static_pad(inner_, "sink"));
     if (gst_pad_link(from, in.get()) != GST_PAD_LINK_OK)
-      GST_ELEMENT_ERROR(GST_ELEMENT(bin_), CORE, NEGOTIATION, ("The pictures cannot be taken as they come."),
-                        (nullptr));
+      GST_ELEMENT_ERROR(GST_ELEMENT(bin_), CORE, NEGOTIATION,
+                        ("%s", Tr("The pictures cannot be taken as they come.").c_str()), (nullptr));
   }
 
   void Unplug(GstPad* from) {

@@ -1,12 +1,12 @@
 #include "platform/graph/TemplateReader.h"
 
-#include <fmt/format.h>
-
 #include <QByteArray>
 #include <QString>
 #include <QXmlStreamReader>
 #include <algorithm>
 #include <map>
+
+#include "platform/files/Tr.h"
 
 namespace kinalyx {
 namespace {
@@ -22,9 +22,9 @@ class Reader {
       if (xml_.readNext() == QXmlStreamReader::StartElement) Begin();
       else if (xml_.isEndElement()) End();
     if (why_.empty() && xml_.hasError())
-      why_ = fmt::format("The text of the graph breaks off or is damaged at character {}: {}", xml_.characterOffset(),
-                         xml_.errorString().toStdString());
-    if (why_.empty() && !graph_) why_ = "The text is not that of a graph.";
+      why_ = Tr("The text of the graph breaks off or is damaged at character {}: {}", xml_.characterOffset(),
+                xml_.errorString().toStdString());
+    if (why_.empty() && !graph_) why_ = Tr("The text is not that of a graph.");
     if (!why_.empty()) return Outcome::Failed(why_);
     return std::move(plan_);
   }
@@ -53,25 +53,24 @@ class Reader {
 
   void EndFilter() {
     filter_.row = FindFilterRow(classId_, filter_.state);
-    if (!filter_.row)
-      why_ = fmt::format("The graph's filter \"{}\" is of an unknown class, {}.", filter_.label, classId_);
-    else if (filter_.label.empty()) why_ = fmt::format("The graph's filter {} has no label.", id_);
-    else if (plan_.Find(filter_.label)) why_ = fmt::format("The graph has two filters \"{}\".", filter_.label);
-    else if (!ids_.emplace(id_, plan_.filters.size()).second) why_ = fmt::format("The graph has two filters {}.", id_);
+    if (!filter_.row) why_ = Tr("The graph's filter \"{}\" is of an unknown class, {}.", filter_.label, classId_);
+    else if (filter_.label.empty()) why_ = Tr("The graph's filter {} has no label.", id_);
+    else if (plan_.Find(filter_.label)) why_ = Tr("The graph has two filters \"{}\".", filter_.label);
+    else if (!ids_.emplace(id_, plan_.filters.size()).second) why_ = Tr("The graph has two filters {}.", id_);
     plan_.filters.push_back(filter_);
   }
 
   void EndConnection() {
     const auto from = ids_.find(from_.filter), to = ids_.find(to_.filter);
     if (from == ids_.end() || to == ids_.end()) {
-      why_ = fmt::format("The graph connects a filter {} that it does not have.",
-                         from == ids_.end() ? from_.filter : to_.filter);
+      why_ =
+          Tr("The graph connects a filter {} that it does not have.", from == ids_.end() ? from_.filter : to_.filter);
       return;
     }
     const auto& giver = plan_.filters[from->second];
     const auto& taker = plan_.filters[to->second];
-    if (!giver.row->HasOutput(from_.pin)) why_ = fmt::format("\"{}\" has no output \"{}\".", giver.label, from_.pin);
-    else if (!taker.row->HasInput(to_.pin)) why_ = fmt::format("\"{}\" has no input \"{}\".", taker.label, to_.pin);
+    if (!giver.row->HasOutput(from_.pin)) why_ = Tr("\"{}\" has no output \"{}\".", giver.label, from_.pin);
+    else if (!taker.row->HasInput(to_.pin)) why_ = Tr("\"{}\" has no input \"{}\".", taker.label, to_.pin);
     plan_.links.push_back({from->second, to->second, from_.pin, to_.pin});
   }
 

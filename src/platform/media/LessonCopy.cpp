@@ -60,7 +60,7 @@ struct LessonCopy::Engine {
     how = Outcome::Failed(std::move(why));
     return false;
   }
-  bool FailBy(int code) { return Fail(code == AVERROR(ENOSPC) ? "The disk is full." : AvError(code)); }
+  bool FailBy(int code) { return Fail(code == AVERROR(ENOSPC) ? Tr("The disk is full.") : AvError(code)); }
   int Write(AVPacket& packet);
   bool Finish();
 

@@ -8,7 +8,7 @@ namespace kinalyx {
 /// A kind of pictures that cameras and programs store, and what the libraries of this machine make of it.
 struct MediaFormat {
   std::string name;   ///< "H.264 (AVC)"
-  std::string where;  ///< who stores it: "telephones, action cameras"
+  std::string where;  ///< who stores it, in the user's language: "telephones, action cameras"
   bool reads = false;
   bool writes = false;
 };

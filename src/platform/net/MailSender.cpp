@@ -139,8 +139,8 @@ class MailSender final : public IMailSender {
     for (const std::string& address : to) readers += (readers.empty() ? "" : ",\r\n ") + address;
     headers.Add("To: " + readers);
     // A header without a text would be left out.
-    const std::string subject = EncodedText(message.subject);
-    headers.Add("Subject: " + (Trimmed(subject, " ").empty() ? Tr("(no subject)") : subject));
+    const bool blank = Trimmed(message.subject, " ").empty();
+    headers.Add("Subject: " + EncodedText(blank ? Tr("(no subject)") : message.subject));
     headers.Add("Message-ID: " + NewMessageId(from));
     constexpr int kNormal = 3;
     const int priority = std::clamp(message.priority, 1, 5);

@@ -42,11 +42,13 @@ void NameDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
     painter->drawRect(option.rect.adjusted(1, 1, -2, -2));
   }
   const QString count = index.data(kCountRole).toString();
-  const QRect room = NameRoom(option, count);
+  const Qt::LayoutDirection reads = option.direction;
+  const QRect room = QStyle::visualRect(reads, option.rect, NameRoom(option, count));
   if (!count.isEmpty()) {
     painter->setFont(UiFont(kCaptionPixels));
     painter->setPen(chosen ? Mix(theme.accentText, theme.accent, 0.25) : theme.muted);
-    DrawFigures(*painter, option.rect.adjusted(kGap, 0, -kGap, 0), Qt::AlignRight | Qt::AlignVCenter, count);
+    DrawFigures(*painter, option.rect.adjusted(kGap, 0, -kGap, 0), QStyle::visualAlignment(reads, Qt::AlignRight),
+                count);
   }
   painter->setFont(option.font);
   painter->setPen(ink);
@@ -57,6 +59,7 @@ void NameDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
 }
 
 /// The picture, and the line beneath the name: as many of its parts as find room, and of the first as much as there is.
+/// All is laid out from left to right, and turned round at the end for who reads the other way.
 void NameDelegate::PaintDetails(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index,
                                 const QColor& ink) const {
   const QRect room = NameRoom(option, {}).translated(0, option.rect.height() / 2 - Px(2));
@@ -67,7 +70,8 @@ void NameDelegate::PaintDetails(QPainter& painter, const QStyleOptionViewItem& o
   for (const QString& detail : details) {
     const int wide = FiguresWidth(painter.fontMetrics(), detail);
     if (left > room.left() && left + wide > room.right() + 1) break;
-    const QRect place(left, room.top(), qMin(wide, room.right() + 1 - left), room.height());
+    const QRect place = QStyle::visualRect(option.direction, option.rect,
+                                           QRect(left, room.top(), qMin(wide, room.right() + 1 - left), room.height()));
     if (wide <= place.width()) DrawFigures(painter, place, Qt::AlignLeft | Qt::AlignVCenter, detail);
     else
       painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
@@ -76,8 +80,9 @@ void NameDelegate::PaintDetails(QPainter& painter, const QStyleOptionViewItem& o
   }
   if (details_ != Details::Picture) return;
   const QSize size(Px(kPicture.width()), Px(kPicture.height()));
-  const QRect frame(option.rect.left() + 6, option.rect.top() + (option.rect.height() - size.height()) / 2,
-                    size.width(), size.height());
+  const int top = option.rect.top() + (option.rect.height() - size.height()) / 2;
+  const QRect frame =
+      QStyle::visualRect(option.direction, option.rect, QRect(QPoint(option.rect.left() + 6, top), size));
   painter.fillRect(frame, CurrentTheme().stage);
   const QVariant data = index.data(kPictureRole);
   const auto picture = data.value<QImage>();

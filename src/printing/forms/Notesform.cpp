@@ -40,6 +40,7 @@ Notesform::Notesform(IHost& host, const QString& text, QWidget* parent) : QDialo
   rows->setSpacing(kGap);
   notes_ = new QTextEdit(this);
   notes_->setObjectName("Notes");
+  notes_->setAccessibleName(tr("Notes"));
   notes_->setTabChangesFocus(true);
   notes_->setPlaceholderText(tr("What the student shall read beneath the picture"));
   notes_->setPlainText(text);

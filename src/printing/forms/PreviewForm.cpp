@@ -70,6 +70,7 @@ PreviewForm::PreviewForm(IHost& host, IPrinter& printer, const IPrintout& printo
   columns->setSpacing(0);
   area_ = new QScrollArea(this);
   area_->setObjectName("Pages");
+  area_->setAccessibleName(tr("Pages"));
   area_->setFrameShape(QFrame::NoFrame);
   area_->setWidgetResizable(true);
   area_->viewport()->installEventFilter(this);

@@ -68,6 +68,7 @@ QLayout* ReportForm::MakeListSide() {
   rows->addWidget(MakeLabel("ListTitle", tr("What goes in, from the first page to the last"), "caption", this));
   list_ = new QListWidget(this);
   list_->setObjectName("ReportList");
+  list_->setAccessibleName(tr("What the report shows"));
   list_->setDragDropMode(QAbstractItemView::InternalMove);
   list_->setDefaultDropAction(Qt::MoveAction);
   list_->setSpacing(3);
@@ -114,6 +115,7 @@ QLayout* ReportForm::MakeNotesSide() {
   rows->addWidget(MakeLabel("NotesTitle", tr("Notes"), "caption", this));
   notes_ = new QTextEdit(this);
   notes_->setObjectName("Notes");
+  notes_->setAccessibleName(tr("Notes"));
   notes_->setTabChangesFocus(true);
   notes_->setPlaceholderText(tr("What the student shall read and work on"));
   Fill(*notes_, report_.NotesOnStage());

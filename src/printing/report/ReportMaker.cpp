@@ -18,14 +18,14 @@ namespace {
 
 constexpr std::int64_t kNanosecondsPerSecond = 1'000'000'000;
 
-/// "25 November 2026", which every reader takes for the same day.
+/// "25 November 2026", which every reader takes for the same day; in the order of the language.
 std::string DayText(std::time_t time) {
   constexpr std::array kMonths{TrLater("January"),   TrLater("February"), TrLater("March"),    TrLater("April"),
                                TrLater("May"),       TrLater("June"),     TrLater("July"),     TrLater("August"),
                                TrLater("September"), TrLater("October"),  TrLater("November"), TrLater("December")};
   std::tm day{};
   localtime_r(&time, &day);
-  return fmt::format("{} {} {}", day.tm_mday, Tr(kMonths[static_cast<std::size_t>(day.tm_mon)]), day.tm_year + 1900);
+  return Tr("{0} {1} {2}", day.tm_mday, Tr(kMonths[static_cast<std::size_t>(day.tm_mon)]), day.tm_year + 1900);
 }
 
 std::vector<StudentVideo> VideosIn(const std::string& folder) {
@@ -42,7 +42,7 @@ std::vector<StudentVideo> VideosIn(const std::string& folder) {
 
 std::string NameOfKind(const Shape& shape) {
   const std::string_view name = InfOf(shape.Kind).Name;
-  return name.empty() ? Tr("Drawing") : std::string(name);
+  return name.empty() ? Tr("Drawing") : Tr(std::string(name));
 }
 
 }  // namespace

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/files/Tr.h"
+
 namespace kinalyx {
 namespace {
 
@@ -22,7 +24,7 @@ struct RowPlace {
 };
 constexpr RowPlace kRows[] = {{0.9375, 3.77}, {4.125, 6.94}, {7.3125, 10.1}};
 
-constexpr const char* kHeads[] = {"BACKSWING", "ADDRESS", "FOLLOWTHROUGH"};
+constexpr const char* kHeads[] = {TrLater("BACKSWING"), TrLater("ADDRESS"), TrLater("FOLLOWTHROUGH")};
 
 void PrintCentred(IPage& page, double x, double y, const std::string& words) {
   page.Print({x - page.TextWidth(words) / 2, y}, words);
@@ -46,7 +48,7 @@ void SheetPrintout::PrintOn(IPage& page) const {
   PrintCentred(page, kCentre, kTitleTop, title_);
   page.SetFont({kFamily, kHeadPoints, false});
   for (int column = 0; column < 3; ++column)
-    PrintCentred(page, kRowLeft + kRowWidth * (column + 0.5) / 3, kHeadsTop, kHeads[column]);
+    PrintCentred(page, kRowLeft + kRowWidth * (column + 0.5) / 3, kHeadsTop, Tr(kHeads[column]));
   for (std::size_t i = 0; i < rows_.size(); ++i) {
     const Row& row = rows_[i];
     if (row.label.empty()) continue;

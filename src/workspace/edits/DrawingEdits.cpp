@@ -16,10 +16,14 @@ constexpr int kTwoWindows = 2;         // the layout of two windows side by side
 
 /// A shape by the name of the tool that draws it, which is not always that of its kind.
 std::string ToolName(const Shape& shape) {
-  const ShapeInf& inf = InfOf(shape.Kind);
-  if (inf.ToolCaption.empty()) return Tr(std::string(inf.Name));
-  const std::string name = Tr(std::string(inf.ToolCaption));
-  return name.starts_with("a ") ? name.substr(2) : name;
+  switch (shape.Kind) {
+    case kFlag: return Tr("Plus Sign");
+    case kEllipse: return Tr("Circle");
+    case kSwingPath: return Tr("Path Trace");
+    case kZone: return Tr("Zone");
+    case kClock: return Tr("Clock Grid");
+    default: return Tr(std::string(InfOf(shape.Kind).Name));
+  }
 }
 
 }  // namespace

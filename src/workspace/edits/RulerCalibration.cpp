@@ -74,9 +74,9 @@ std::string RulerCalibration::RulerWords() const {
   const auto& ruler = stage_.Current().data.Study.Ruler;
   if (!ruler) return {};
   constexpr double kInchesPerUnit[] = {1, 12, 1 / 2.54, 100 / 2.54};
-  constexpr const char* kUnits[] = {"inch", "foot", "centimeter", "meter"};
+  constexpr const char* kUnits[] = {TrLater("inch"), TrLater("foot"), TrLater("centimeter"), TrLater("meter")};
   const auto unit = static_cast<std::size_t>(std::clamp(ruler->Unit, 0, 3));
-  return Tr("In this video 1 {} is {:.4g} pixels.", kUnits[unit], ruler->PixelsPerInch * kInchesPerUnit[unit]);
+  return Tr("In this video 1 {} is {:.4g} pixels.", Tr(kUnits[unit]), ruler->PixelsPerInch * kInchesPerUnit[unit]);
 }
 
 void RulerCalibration::DrawingFinished(int window) {

@@ -120,6 +120,7 @@ void AnalysisForm::MakeStage() {
   stage_->installEventFilter(this);
   keyBox_ = new QWidget(stage_);
   keyBox_->setObjectName("Text1");
+  keyBox_->setAccessibleName(tr("Stage"));
   keyBox_->setFocusPolicy(Qt::StrongFocus);
   keyBox_->setGeometry(0, 0, 1, 1);
   keyBox_->installEventFilter(this);

@@ -39,6 +39,7 @@ CalibrationPanel::CalibrationPanel(RulerCalibration& ruler, const Settings& sett
   row->addWidget(MakeLabel("Label5", tr("Length"), nullptr, this));
   typed_ = new QLineEdit(this);
   typed_->setObjectName("Text2");
+  typed_->setAccessibleName(tr("Length"));
   FixWidth(typed_, 84);
   typed_->setMaxLength(12);
   row->addWidget(typed_);

@@ -29,6 +29,7 @@ DrawCaption::DrawCaption(QWidget* parent) : StagePanel("DrawCaption", parent) {
   FixIcon(off_, 14);
   off_->setFocusPolicy(Qt::NoFocus);
   off_->setToolTip(tr("Put the tool down"));
+  off_->setAccessibleName(off_->toolTip());
   connect(off_, &QToolButton::clicked, this, &DrawCaption::Off);
   row->addWidget(swatch_);
   row->addWidget(text_);

@@ -38,6 +38,7 @@ FloatCard::FloatCard(const QString& name, const QString& title, QWidget* parent)
   close_ = new QToolButton(this);
   close_->setObjectName(name + "Close");
   close_->setToolTip(tr("Close"));
+  close_->setAccessibleName(tr("Close"));
   FixSize(close_, {24, 24});
   FixIcon(close_, 14);
   close_->setFocusPolicy(Qt::NoFocus);

@@ -40,6 +40,7 @@ QString LongestLine(const QString& line) {
 }  // namespace
 
 PlayBar::PlayBar(Transport& transport, QWidget* parent) : StagePanel("Playbar", parent), transport_(transport) {
+  setLayoutDirection(Qt::LeftToRight);  // time runs so in every language
   seek_ = new SeekBar(this);
   seek_->setObjectName("PlayBarHScroll");
   connect(seek_, &SeekBar::Sought, this, [this](int position) { transport_.Seek(position); });
@@ -74,6 +75,7 @@ PlayBar::PlayBar(Transport& transport, QWidget* parent) : StagePanel("Playbar", 
   detach_ = new QToolButton(this);
   detach_->setObjectName("PlayBarDetachBtn");
   detach_->setToolTip(tr("Undock the Play Bar"));
+  detach_->setAccessibleName(detach_->toolTip());
   detach_->setFocusPolicy(Qt::NoFocus);
   FixSize(detach_, {22, 22});
   FixIcon(detach_, 14);
@@ -410,6 +412,7 @@ void PlayBar::ToggleDock() {
   style()->polish(this);
   setCursor(docked_ ? Qt::ArrowCursor : Qt::SizeAllCursor);
   detach_->setToolTip(docked_ ? tr("Undock the Play Bar") : tr("Redock the Play Bar"));
+  detach_->setAccessibleName(detach_->toolTip());
   if (docked_) {
     emit Redocked();
   } else {

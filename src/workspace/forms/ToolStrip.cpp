@@ -43,6 +43,7 @@ ToolStrip::ToolStrip(const std::vector<Command>& commands, bool open, QWidget* p
   }
   std::ranges::stable_sort(tools_, {}, [](const Tool& tool) { return tool.command->group; });
   more_ = IconButton("MoreTools", "more", {}, Look::Flat, this);
+  more_->setAccessibleName(tr("More tools, in a second row"));
   more_->setProperty("placed", true);
   more_->setFocusPolicy(Qt::NoFocus);
   more_->setCheckable(true);

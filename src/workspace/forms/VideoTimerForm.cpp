@@ -25,6 +25,7 @@ VideoTimerForm::VideoTimerForm(VideoTimer& timer, QWidget* parent)
   row->addWidget(MakeLabel("FRLabel", tr("Frame rate"), nullptr, this), 1);
   rate_ = new QLineEdit(this);
   rate_->setObjectName("txtFRBox");
+  rate_->setAccessibleName(tr("Frame rate"));
   FixWidth(rate_, 84);
   rate_->setAlignment(Qt::AlignRight);
   rate_->setMaxLength(9);
