@@ -536,7 +536,7 @@ void Program::StorePlace() {
 void Program::End(EndSignals::Why why) {
   if (!main_ || main_->Closed()) return;
   if (analysis_) analysis_->Section().Keeping().SaveAll();
-  profiles_->SaveLastNotes();
+  profiles_->SaveUnasked();
   KeepLastStudent();
   StorePlace();
   if (why == EndSignals::Why::Told) QApplication::exit(0);

@@ -388,6 +388,23 @@ TEST_F(ProfilesPageTest, AProfileIsEdited) {
   EXPECT_EQ(ReadProfileValue("Profile", "Handicap", profile), "12");
 }
 
+TEST_F(ProfilesPageTest, TheEndOfTheSessionSavesWhatHasBeenTypedWithoutAWord) {
+  ChooseStudent("Tom");
+  Press("ProBtn1");
+  Type("ProInfoBox3", "555 0134");
+  page->SaveUnasked();
+  EXPECT_EQ(ReadProfileValue("Profile", fields.Captions()[3], ProfilePath(library.Path("Demo/Tom"))), "555 0134");
+  for (const char* name : {"Tom", "a/b", "Żaneta"}) {  // there already, no name, and a new one
+    Press("SPBtn0");
+    Type("ProInfoBox0", name);
+    Type("ProInfoBox3", "555 0199");
+    page->SaveUnasked();
+  }
+  EXPECT_EQ(ReadProfileValue("Profile", fields.Captions()[3], ProfilePath(library.Path("Demo/Tom"))), "555 0134");
+  EXPECT_EQ(ReadProfileValue("Profile", fields.Captions()[3], ProfilePath(library.Path("Demo/Żaneta"))), "555 0199");
+  EXPECT_TRUE(library.host.messages.empty() && library.host.questions.empty());
+}
+
 TEST_F(ProfilesPageTest, AnInstructorIsAdded) {
   for (const char* control : {"Text2", "SSCommand2", "RenameInstructorBtn", "InstructorList"}) {
     Press("SSCommand2");

@@ -176,6 +176,21 @@ bool ProfilesPage::SaveLastNotes() {
   return !profilePanel_->HasUnsavedNotes();
 }
 
+void ProfilesPage::SaveUnasked() {
+  SaveLastNotes();
+  if (editor_->isHidden() || !editor_->Changed()) return;
+  FieldTexts values = editor_->Values();
+  const std::string place = editor_->IsNew() ? browser_.Tree().InstructorFolder(editor_->Instructor()) : editedFolder_;
+  if (!LibraryAnswers(place)) return;
+  if (!editor_->IsNew()) {
+    (void)SaveProfile(place, fields_, values, editor_->Opened());
+  } else if (!editor_->Instructor().empty()) {
+    values[kNameField] = WithoutOuterBlanks(values[kNameField]);
+    (void)kinalyx::AddStudent(place, fields_.Captions(), values, vocabulary_.noun());
+  }
+  CloseEditor();
+}
+
 bool ProfilesPage::MayClose() { return editor_->isHidden() || MayDropEdits(); }
 
 /// Stores the notes and closes the preview.

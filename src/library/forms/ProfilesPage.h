@@ -55,6 +55,9 @@ class ProfilesPage : public PageWidget, private ILibraryPage {
   bool Leave() override;
   /// The program is about to close: stores the notes that are in memory alone. False when some cannot be.
   bool SaveLastNotes();
+  /// The session ends, and there is nobody to ask: stores the notes and what has been typed into a profile. A new
+  /// student is added where the name and the place can be taken, as they are without a word.
+  void SaveUnasked();
   /// The program is about to close: asks about a profile that is being edited. False when the user would
   /// rather stay.
   bool MayClose();
