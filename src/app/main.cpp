@@ -3,8 +3,10 @@
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QUrl>
+#include <algorithm>
 #include <clocale>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "app/Program.h"
@@ -33,6 +35,27 @@ std::vector<std::string> FilesOf(const QStringList& arguments) {
   return files;
 }
 
+void Describe(QCommandLineParser& parser) {
+  parser.setApplicationDescription(QObject::tr("Motion analysis for sports instructors."));
+  parser.addHelpOption();
+  parser.addVersionOption();
+  parser.addPositionalArgument("files", QObject::tr("Videos and folders to open."), "[files...]");
+}
+
+/// Help and version are told where there is no display too, as to who packages the program.
+void AnswerQuestions(int argc, char** argv) {
+  const auto asks = [](std::string_view argument) {
+    return argument == "-h" || argument == "--help" || argument == "--help-all" || argument == "-v" ||
+           argument == "--version";
+  };
+  if (std::none_of(argv + 1, argv + argc, asks)) return;
+  QCoreApplication application(argc, argv);
+  SpeakLanguage(application, Program::WordsFolder(), {});
+  QCommandLineParser parser;
+  Describe(parser);
+  parser.process(application);  // ends the program
+}
+
 /// True when the program that runs already has taken over what this start was to open.
 bool HandedOver(const OneProgram& one, const std::vector<std::string>& files) {
   const StartWish wish{.paths = files, .token = Std(qEnvironmentVariable("XDG_ACTIVATION_TOKEN"))};
@@ -45,11 +68,12 @@ bool HandedOver(const OneProgram& one, const std::vector<std::string>& files) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  QApplication::setApplicationName("Kinalyx");
+  QApplication::setApplicationVersion(KINALYX_VERSION);
+  AnswerQuestions(argc, argv);
   QApplication application(argc, argv);
   // Numbers in files and measures have a point, whatever the user's language; Qt has just set that up.
   std::setlocale(LC_NUMERIC, "C");
-  QApplication::setApplicationName("Kinalyx");
-  QApplication::setApplicationVersion(KINALYX_VERSION);
   // By this name a desktop finds the icon of the windows.
   QApplication::setDesktopFileName("org.kinalyx.Kinalyx");
   ReportCrashes(Program::CrashFolder(), "Kinalyx " KINALYX_VERSION);
@@ -58,10 +82,7 @@ int main(int argc, char** argv) {
   SpeakLanguage(application, Program::WordsFolder(), {});
 
   QCommandLineParser parser;
-  parser.setApplicationDescription(QObject::tr("Motion analysis for sports instructors."));
-  parser.addHelpOption();
-  parser.addVersionOption();
-  parser.addPositionalArgument("files", QObject::tr("Videos and folders to open."), "[files...]");
+  Describe(parser);
   parser.process(application);
   const std::vector<std::string> files = FilesOf(parser.positionalArguments());
 

@@ -161,6 +161,7 @@ void DrawingTools::AnnouncementOver() {
 }
 
 Colour DrawingTools::ToolColour(int index) const {
+  static_assert(kShapeKinds <= std::tuple_size_v<decltype(Settings::NewColors)>, "every kind has its colour");
   const auto i = static_cast<std::size_t>(index);
   const Colour chosen = settings_.NewColors[i];
   return Editor() && chosen == kFirstColours[i] ? kEditorColours[i] : chosen;

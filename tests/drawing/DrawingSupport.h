@@ -14,7 +14,7 @@
 namespace kinalyx::test {
 
 /// A finished shape of these points, its floating and spare slots as the store makes them.
-inline Shape Finished(int kind, std::initializer_list<POINTAPI> points, Colour colour = Rgb(255, 0, 0)) {
+inline Shape Finished(int kind, std::vector<POINTAPI> points, Colour colour = Rgb(255, 0, 0)) {
   ShapeEngine engine;
   ShapeList list;
   Shape& shape = *engine.AddShape(list, kind, colour);

@@ -1,6 +1,7 @@
 #include "drawing/ShapePainting.h"
 
 #include "DrawingSupport.h"
+#include "drawing/ShapeOutline.h"
 #include "drawing/WindowPainter.h"
 #include "support/Surfaces.h"
 
@@ -84,6 +85,23 @@ TEST(ShapePainting, EveryKindIsDrawnWhereItsRuleSays) {
     for (const POINTAPI& point : entry.on) EXPECT_EQ(easel.At(point.x, point.y), kRed) << point.x << ", " << point.y;
     for (const POINTAPI& point : entry.off)
       EXPECT_EQ(easel.At(point.x, point.y), kGround) << point.x << ", " << point.y;
+  }
+}
+
+// A kind that was added to the table and nowhere else.
+TEST(ShapePainting, NoKindOfTheTableIsInvisibleOrOutOfReach) {
+  for (std::int16_t kind = 0; kind < kShapeKinds; ++kind) {
+    const ShapeInf& inf = InfOf(kind);
+    if (!inf.Drawable) continue;
+    SCOPED_TRACE(std::string(inf.Name));
+    std::vector<POINTAPI> points;
+    for (int i = 0; i < (inf.NumPoints == kOpenPoints ? 4 : inf.NumPoints); ++i)
+      points.push_back({30 + i * 53 % 140, 30 + i * 37 % 140});
+    const Shape shape = Finished(kind, points);
+    Easel easel, untouched;
+    EXPECT_TRUE(PaintShape(shape, kRed, easel.canvas, easel.look));
+    EXPECT_GT(LargestDifference(easel.surface, untouched.surface), 0) << "nothing is painted";
+    EXPECT_FALSE(OutlineOf(shape, false).empty()) << "no click takes it";
   }
 }
 

@@ -71,7 +71,7 @@ TEST_P(HelpPages, EveryPageIsThereWithAllThatTheEnglishOneTells) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Languages, HelpPages, ::testing::Values("."));
+INSTANTIATE_TEST_SUITE_P(Languages, HelpPages, ::testing::Values(".", "de", "es"));
 
 }  // namespace
 }  // namespace kinalyx

@@ -140,6 +140,17 @@ constexpr KeyRow kKeyRows[] = {
     {"Window4", Key(kKeyNumpad0 + 1)},
 };
 
+/// Of two rows with one key only the first would ever be asked.
+constexpr bool NoKeyIsTakenTwice() {
+  for (const KeyRow& row : kKeyRows)
+    for (const KeyRow* later = &row + 1; later != std::end(kKeyRows); ++later)
+      if (row.key.kind == later->key.kind && row.key.value == later->key.value && row.key.shift == later->key.shift &&
+          (row.set == later->set || row.set == KeySet::Both || later->set == KeySet::Both))
+        return false;
+  return true;
+}
+static_assert(NoKeyIsTakenTwice());
+
 /// What fits a window, in the order of its menu; an empty name divides.
 constexpr const char* kWindowMenu[] = {"vo",    "OpenFromDisk", "ReopenVideos", "MnuClose",
                                        "",      "FitPicture",   "TMAX",         "vFlip",
