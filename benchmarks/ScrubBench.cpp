@@ -35,7 +35,7 @@ namespace fs = std::filesystem;
 constexpr int kWindowWidth = 960;
 constexpr int kWindowHeight = 540;
 constexpr double kRightDb = 35;
-constexpr int kPassNiceness = 5;
+constexpr int kPassNiceness = 10;
 
 /// Forgets what earlier openings of the videos have left.
 void ForgetStandIns() {
@@ -143,7 +143,7 @@ Figure ScrubCold() {
   std::mt19937 random(12);
   std::vector<double> ours;
   std::vector<double> theirs;
-  for (int i = 0; i < 12; ++i) {
+  for (int i = 0; i < 24; ++i) {
     const int n = static_cast<int>(random() % static_cast<unsigned>(clip.Frames()));
     {
       ForgetStandIns();

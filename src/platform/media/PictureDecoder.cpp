@@ -89,7 +89,6 @@ bool PictureDecoder::Start(int chunk) {
   if (careful_ || wasCareful_) Stop();
   wasCareful_ = careful_;
   if (!codec_ && !OpenCodec()) return false;
-  keyCodec_.reset();
   if (!Enter(*codec_, chunk)) return false;
   next_ = Index().ChunkStart(chunk);
   firstPicture_ = settled_ = Index().ChunkFirstPicture(chunk);

@@ -51,7 +51,7 @@ class PictureDecoder {
     Rough,  ///< without what smooths the edges of blocks, of which nothing is seen where it is made much smaller
   };
   /// The key picture of a chunk alone, and its number, without waiting for those behind it; null when it cannot
-  /// be decoded. Ends the run, and holds memory until the next one begins.
+  /// be decoded. Ends the run, and holds memory until Stop.
   FrameHandle KeyPicture(int chunk, int& picture, KeyLook look);
 
   /// True when this run may still give the picture.

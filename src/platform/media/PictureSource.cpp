@@ -15,6 +15,8 @@ constexpr int kAhead = 12;
 /// The same of a video that has just been opened and takes long: the first move may lead anywhere, and would have
 /// to wait for those that are in hand.
 constexpr int kAheadAtFirst = 2;
+/// So long after opening a jump is likelier than a step, and must not wait for what is decoded ahead.
+constexpr auto kFirstLook = 1s;
 /// A move by no more than this is a step; anything else is a jump to another place.
 constexpr int kStepForward = 16;
 constexpr int kStepBack = 4;
@@ -161,7 +163,8 @@ void PictureSource::Work() {
     }
     const std::optional<Task> task = Choose();
     if (!task) {
-      Rests() ? work_.wait(lock) : void(work_.wait_until(lock, notBefore_));
+      const auto until = Rests() ? aheadFrom_ : notBefore_;
+      until > Clock::now() ? void(work_.wait_until(lock, until)) : work_.wait(lock);
       continue;
     }
     Decoded decoded;
@@ -234,7 +237,7 @@ std::optional<PictureSource::Task> PictureSource::Choose() {
   if (WantsSmallStretch()) {
     if (auto task = NextOfStretch()) return task;
   }
-  if (!Rests()) return std::nullopt;
+  if (!Rests() || (lastDelta_ == 0 && Clock::now() < aheadFrom_)) return std::nullopt;
   if (immediate_ || step_ > 0) {
     if (const auto ahead = NextAhead()) return Task{.target = *ahead, .wholeFrom = *ahead};
   }
@@ -243,6 +246,13 @@ std::optional<PictureSource::Task> PictureSource::Choose() {
 }
 
 std::optional<PictureSource::Task> PictureSource::ChooseWanted() {
+  // All threads at once on the picture with which a video opens; and the first jump finds a decoder that is warm.
+  if (!std::exchange(opened_, true) && awaited_ && !immediate_ && listener_.keepSmall) {
+    const int chunk = index_.ChunkOfPicture(wanted_);
+    aheadFrom_ = Clock::now() + kFirstLook;
+    if (index_.ChunkFirstPicture(chunk) == wanted_)
+      return Task{.key = chunk, .exact = true, .target = wanted_, .wholeFrom = wanted_, .awaited = true};
+  }
   if (!awaited_ && keyFirst_ >= 0) return Task{.key = keyFirst_, .target = wanted_, .wholeFrom = wanted_};
   if (!Rests()) return std::nullopt;
   const bool small = withThoseBelow_ && !awaited_ && !thorough_;
@@ -339,10 +349,11 @@ bool PictureSource::Advance(const Task& task, Decoded& decoded) {
   if (task.key >= 0) {
     int picture = -1;
     using Look = PictureDecoder::KeyLook;
-    FrameHandle frame = forward_->KeyPicture(task.key, picture, listener_.keepSmall ? Look::Rough : Look::Exact);
+    const bool rough = listener_.keepSmall && !task.exact;
+    FrameHandle frame = forward_->KeyPicture(task.key, picture, rough ? Look::Rough : Look::Exact);
     if (!frame) return true;
     // A rough one is only for looking.
-    if (listener_.keepSmall) listener_.keepSmall(picture, *frame);
+    if (rough) listener_.keepSmall(picture, *frame);
     else decoded.emplace_back(picture, std::move(frame));
     return true;
   }

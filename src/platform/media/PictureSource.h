@@ -69,7 +69,8 @@ class PictureSource {
   struct Task {
     bool back = false;  ///< for the decoder that works on stretches
     bool small = false;
-    int key = -1;  ///< a chunk of which only the key picture is wanted; -1 for the target
+    int key = -1;        ///< a chunk of which only the key picture is wanted; -1 for the target
+    bool exact = false;  ///< that picture as it is, not for looking alone
     int target = 0;
     int wholeFrom = 0;
     bool awaited = false;  ///< somebody stands still until it comes
@@ -118,6 +119,8 @@ class PictureSource {
   int wanted_ = -1;
   bool awaited_ = false;         ///< somebody stands still until the wanted picture comes; else the news tell it
   Clock::time_point notBefore_;  ///< until then the hand may go on
+  bool opened_ = false;          ///< the first picture has been tried for
+  Clock::time_point aheadFrom_;  ///< until then nothing is decoded ahead, unless the hand has moved
   int keyFirst_ = -1;            ///< the chunk whose key picture comes before the wanted one
   bool withThoseBelow_ = false;
   bool yield_ = false;     ///< another file needs the memory of the decoders

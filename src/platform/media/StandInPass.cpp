@@ -32,7 +32,7 @@ constexpr auto kQuickKey = 40ms;
 constexpr int kReadThrough = 8;
 /// A decoder that has to wait for longer gives its memory back.
 constexpr auto kPatience = 1s;
-constexpr int kNiceness = 5;
+constexpr int kNiceness = 10;
 /// Decoded pictures that wait to be packed, at the utmost.
 constexpr std::size_t kMostToPack = 3;
 
