@@ -34,6 +34,9 @@ TEST(Project, IntroducesItselfToTheDesktopInEveryLanguage) {
   const std::string entry = FileOfProject("packaging/org.kinalyx.Kinalyx.desktop");
   const std::string metainfo = FileOfProject("packaging/org.kinalyx.Kinalyx.metainfo.xml");
   const std::string kinds = FileOfProject("packaging/org.kinalyx.Kinalyx.mime.xml");
+  const std::regex picture(R"(https://[^<]*/pictures/([^<]*)</image>)");
+  for (auto at = std::sregex_iterator(metainfo.begin(), metainfo.end(), picture); at != std::sregex_iterator(); ++at)
+    EXPECT_FALSE(FileOfProject("docs/pictures/" + (*at)[1].str()).empty()) << (*at)[1];
   for (const auto& words : fs::directory_iterator(fs::path(KINALYX_SOURCES) / "../assets/words")) {
     if (words.path().extension() != ".ts") continue;
     const std::string language = words.path().stem().string();
