@@ -1488,6 +1488,10 @@ und {} weitere</translation>
         <translation>Klassisches Fenster in der Mitte</translation>
     </message>
     <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
         <source>Click Save Video to continue..</source>
         <translation>Klicken Sie auf Video speichern..</translation>
     </message>

@@ -1488,6 +1488,10 @@ y {} más</translation>
         <translation>Ventana clásica en el centro</translation>
     </message>
     <message>
+        <source>Clear</source>
+        <translation>Vaciar</translation>
+    </message>
+    <message>
         <source>Click Save Video to continue..</source>
         <translation>Pulse Guardar vídeo para seguir..</translation>
     </message>

@@ -43,10 +43,9 @@ class NamesWatch final : public QObject {
   /// Parts of the toolkit's own controls are told by these.
   static bool IsPart(const QWidget& widget) {
     const QWidget* parent = widget.parentWidget();
-    return widget.objectName().startsWith("qt_") || widget.inherits("QLineEditIconButton") ||
-           qobject_cast<const QScrollBar*>(&widget) || qobject_cast<const QMenu*>(&widget) ||
-           (parent && parent->inherits("QComboBoxPrivateContainer")) || qobject_cast<const QAbstractSpinBox*>(parent) ||
-           qobject_cast<const QComboBox*>(parent);
+    return widget.objectName().startsWith("qt_") || qobject_cast<const QScrollBar*>(&widget) ||
+           qobject_cast<const QMenu*>(&widget) || (parent && parent->inherits("QComboBoxPrivateContainer")) ||
+           qobject_cast<const QAbstractSpinBox*>(parent) || qobject_cast<const QComboBox*>(parent);
   }
 
   static bool Heard(const QWidget& widget) {

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "library/LibraryReading.h"
+#include "platform/widgets/Boxes.h"
 #include "platform/widgets/Icons.h"
 #include "platform/widgets/NameList.h"
 #include "platform/widgets/Panel.h"
@@ -34,8 +35,8 @@ SearchBar::SearchBar(IHost& host, DriveWatch::Send send, const std::string& root
   box_->setObjectName("LibrarySearch");
   box_->setPlaceholderText(tr("Find people, videos and notes (Ctrl+F)"));
   box_->setAccessibleName(tr("Find in the library"));
-  box_->setClearButtonEnabled(true);
-  box_->addAction(Icon("find", CurrentTheme().muted), QLineEdit::LeadingPosition);
+  LetClear(*box_);
+  box_->addAction(Icon("find", CurrentTheme().muted), QLineEdit::LeadingPosition)->setText(box_->accessibleName());
   MostWidth(box_, kWidth);
   row->addWidget(box_, 1000);
   row->addStretch(1);

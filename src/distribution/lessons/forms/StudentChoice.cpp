@@ -12,6 +12,7 @@
 #include "library/Profile.h"
 #include "library/forms/LibraryLists.h"
 #include "platform/files/Tr.h"
+#include "platform/widgets/Boxes.h"
 #include "platform/widgets/Buttons.h"
 #include "platform/widgets/Panel.h"
 #include "platform/widgets/Scale.h"
@@ -49,7 +50,7 @@ StudentChoice::StudentChoice(const QString& name, const QString& title, IHost& h
   rows->addLayout(head_);
   find_ = new QLineEdit(this);
   find_->setObjectName("FindStudent");
-  find_->setClearButtonEnabled(true);
+  LetClear(*find_);
   find_->setPlaceholderText(tr("Find a %1").arg(Q(vocabulary_.noun())));
   find_->setAccessibleName(find_->placeholderText());
   connect(find_, &QLineEdit::textChanged, this, &StudentChoice::Narrow);
