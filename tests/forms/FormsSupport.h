@@ -22,6 +22,7 @@ class ApplicationForTests final : public ::testing::Environment {
   }
   void TearDown() override {
     for (const std::string& control : names_->Nameless()) ADD_FAILURE() << "no name for a screen reader: " << control;
+    for (const std::string& control : names_->English()) ADD_FAILURE() << "not in the user's language: " << control;
     names_.reset();
     application_.reset();
   }

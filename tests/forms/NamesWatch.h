@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QScrollBar>
@@ -29,12 +30,14 @@ class NamesWatch final : public QObject {
 
   /// "Playbar/PlayBarHScroll (QSlider)", each once.
   const std::set<std::string>& Nameless() const { return nameless_; }
+  /// The same of those that say English words while another language is spoken.
+  const std::set<std::string>& English() const { return english_; }
 
  protected:
   bool eventFilter(QObject* object, QEvent* event) override {
     // What a form shows first it may name a moment later, before anybody can listen.
     if (auto* widget = event->type() == QEvent::Show ? qobject_cast<QWidget*>(object) : nullptr;
-        widget && Heard(*widget))
+        widget && (Heard(*widget) || qobject_cast<const QLabel*>(widget)))
       QTimer::singleShot(0, widget, [this, widget] { Look(*widget); });
     return false;
   }
@@ -60,15 +63,23 @@ class NamesWatch final : public QObject {
   void Look(QWidget& widget) {
     if (!widget.isVisible() || widget.window()->inherits("QMessageBox")) return;
     QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&widget);
-    if (told && !told->text(QAccessible::Name).trimmed().isEmpty()) return;
+    const QString name = told ? told->text(QAccessible::Name).trimmed() : QString();
+    if (name.isEmpty() && Heard(widget)) Note(nameless_, widget, {});
+    // Words that are said in another way have not been asked for in the language.
+    else if (!name.isEmpty() && QCoreApplication::translate("", name.toUtf8().constData()) != name)
+      Note(english_, widget, name);
+  }
+
+  static void Note(std::set<std::string>& found, const QWidget& widget, const QString& words) {
     QString place = widget.objectName();
     for (const QWidget* over = widget.parentWidget(); over; over = over->parentWidget())
       if (!over->objectName().isEmpty() && !over->objectName().startsWith("qt_"))
         place.prepend(over->objectName() + "/");
-    nameless_.insert((place + " (" + widget.metaObject()->className() + ")").toStdString());
+    found.insert((place + " (" + widget.metaObject()->className() + ") " + words).toStdString());
   }
 
   std::set<std::string> nameless_;
+  std::set<std::string> english_;
 };
 
 }  // namespace kinalyx::test

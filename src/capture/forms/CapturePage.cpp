@@ -45,7 +45,7 @@ QButtonGroup* MakeChoice(QHBoxLayout& row, const QString& name, std::initializer
   auto* group = new QButtonGroup(owner);
   int index = 0;
   for (const char* caption : captions) {
-    auto* button = new Button(name + QString::number(index), caption, {}, Look::Quiet);
+    auto* button = new Button(name + QString::number(index), QObject::tr(caption), {}, Look::Quiet);
     button->setCheckable(true);
     group->addButton(button, index++);
     row.addWidget(button);

@@ -8,6 +8,7 @@
 #include <QScrollArea>
 
 #include "library/LibraryActions.h"
+#include "library/LibraryTree.h"
 #include "library/forms/BoxLimits.h"
 #include "library/forms/FieldBoxes.h"
 #include "platform/widgets/Buttons.h"
@@ -111,15 +112,15 @@ void ProfileEditor::Rename(const FieldTexts& captions, const FieldTexts& values)
 
 FieldTexts ProfileEditor::Values() const { return boxes_->Texts(); }
 
-std::string ProfileEditor::Instructor() const { return Std(instructors_->currentText()); }
+std::string ProfileEditor::Instructor() const { return Std(instructors_->currentData().toString()); }
 
 void ProfileEditor::SetInstructors(const std::vector<std::string>& names) {
   instructors_->clear();
-  instructors_->addItems(Q(names));
+  for (const std::string& name : names) instructors_->addItem(Q(ShownInstructor(name)), Q(name));
 }
 
 void ProfileEditor::SetInstructor(const std::string& name) {
-  instructors_->setCurrentIndex(instructors_->findText(Q(name)));
+  instructors_->setCurrentIndex(instructors_->findData(Q(name)));
 }
 
 void ProfileEditor::FocusFirst() { boxes_->Box(new_ ? kNameField : kNameField + 1).setFocus(); }

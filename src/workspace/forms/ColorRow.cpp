@@ -62,7 +62,7 @@ class ColorButton : public QToolButton {
 class LineButton : public QToolButton {
  public:
   LineButton(const LineWidth& width, QWidget* parent) : QToolButton(parent), pixels_(width.pixels) {
-    MakeChoice(*this, QString("WidthChoiceBtn%1").arg(width.pixels), width.name);
+    MakeChoice(*this, QString("WidthChoiceBtn%1").arg(width.pixels), tr("%1 lines").arg(tr(width.name)));
   }
 
  protected:
