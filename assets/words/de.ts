@@ -8027,7 +8027,7 @@ Unterricht</translation>
     </message>
     <message>
         <source>What you call one person: Student, Golfer, Client ...</source>
-        <translation>Wie Sie eine Person nennen: Schüler, Golfer, Klient ...</translation>
+        <translation>Ihr Wort für eine Person: Schüler, Klient ...</translation>
     </message>
     <message>
         <source>What you have typed has not been saved. Do you want to close the form without saving it?</source>

@@ -2691,7 +2691,7 @@ Conecte la videocámara y enciéndala antes de abrir el programa. Graba 60 imág
     </message>
     <message>
         <source>Frames between poses</source>
-        <translation>Fotogramas entre poses</translation>
+        <translation>Salto entre poses</translation>
     </message>
     <message>
         <source>Frames from one layer of a strobe to the next</source>
@@ -8027,7 +8027,7 @@ para entrenadores</translation>
     </message>
     <message>
         <source>What you call one person: Student, Golfer, Client ...</source>
-        <translation>Cómo llama a una persona: alumno, golfista, cliente ...</translation>
+        <translation>Su palabra para una persona: alumno, cliente ...</translation>
     </message>
     <message>
         <source>What you have typed has not been saved. Do you want to close the form without saving it?</source>
